@@ -1,0 +1,40 @@
+# One library a folder. velor_library(NAME SOURCES... LINKS...) gives every folder the same
+# warnings, include root (the repository's root, so that an include names its layer) and Qt rules.
+
+add_library(velor_flags INTERFACE)
+target_compile_options(velor_flags INTERFACE
+    -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wcast-align
+    -Woverloaded-virtual -Wconversion -Wno-sign-conversion -Wnull-dereference -Wformat=2)
+# QT_NO_CAST_FROM_BYTEARRAY keeps bytes and text apart; foreach is a macro that hides copies.
+target_compile_definitions(velor_flags INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH
+    QT_NO_KEYWORDS)
+target_include_directories(velor_flags INTERFACE "${PROJECT_SOURCE_DIR}")
+if(VELOR_SANITIZE)
+  target_compile_options(velor_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer
+      -fno-sanitize-recover=undefined)
+  target_link_options(velor_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+function(velor_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC velor_flags ${ARG_LINKS})
+endfunction()
+
+# A GoogleTest program that runs under Qt's offscreen platform with scratch settings folders
+# (tests/support/TestMain.cpp sees to both). One program is one CTest case.
+function(velor_test name)
+  cmake_parse_arguments(ARG "SERIAL" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE velor_flags velor_test_main ${ARG_LINKS} GTest::gtest GTest::gmock)
+  set(timeout 60)
+  if(ARG_TIMEOUT)
+    set(timeout ${ARG_TIMEOUT})
+  endif()
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${timeout}
+      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VELOR_NO_ERROR_BOX=1")
+  if(ARG_SERIAL)
+    set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)
+  endif()
+endfunction()

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "editor/PageRecord.h"
+
+#include <QPointer>
+
+#include <cstdint>
+#include <vector>
+
+namespace velor {
+
+class frmCodeEditor;
+class frmMain;
+
+/// The page slots of one run of the program. Slots are numbered from 1, only ever added, never
+/// renumbered and never used twice: a page number names one page for as long as the program runs.
+class PageSlots {
+ public:
+  /// Adds a slot to each of the three lists and returns its number. Raises Overflow (6) past 32767.
+  std::int16_t Grow();
+
+  /// The number of the slot made last; 0 before the first.
+  std::int16_t PageCount() const { return pageCount_; }
+
+  // Slot access by number; SubscriptOutOfRange (9) outside 1 to PageCount.
+  PageRecord &Record(int number);
+  const PageRecord &Record(int number) const;
+  /// Empty before the window is made and after it is gone.
+  QPointer<frmMain> &Page(int number);
+  QPointer<frmCodeEditor> &CodeEditor(int number);
+
+ private:
+  std::size_t Index(int number) const;
+
+  std::vector<QPointer<frmMain>> Pages;
+  std::vector<QPointer<frmCodeEditor>> CodeEditors;
+  std::vector<PageRecord> records_;
+  std::int16_t pageCount_ = 0;
+  /// The upper bound of CodeEditors; grows in step with PageCount.
+  std::int16_t codeEditorCount_ = 0;
+};
+
+}  // namespace velor

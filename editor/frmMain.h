@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "chrome/ProgramWindow.h"
+#include "editor/EditorContext.h"
+#include "editor/PageRecord.h"
+#include "platform/EditingComponent.h"
+#include "platform/SourceControl.h"
+
+#include <QWidget>
+
+#include <cstdint>
+#include <memory>
+
+class QStackedLayout;
+class QToolBar;
+
+namespace velor {
+
+/// The document window: one page, in design view (`DHTML1`) or source view (`Code1`) lying in the
+/// same place, under the mode toolbar `tbrQuick`.
+///
+/// Invariant: the design view always holds the truth of the page; the source view is a copy for
+/// reading.
+class frmMain : public QWidget, public ProgramWindow, private EditingListener {
+  Q_OBJECT
+
+ public:
+  /// `number` is the page's slot; Tag is set to it later, by the operation that makes the page.
+  frmMain(EditorContext &context, int number);
+  ~frmMain() override;
+
+  /// The page number as text, or "kill". Lookups go through Number(), which keeps its value.
+  QString Tag;
+  /// "gethtml": the loaded HTML is to become the saved baseline; "kill": close unasked; or "".
+  QString PendingAction;
+  /// "True" once the page is set up; until then selection changes are ignored.
+  QString Ready;
+
+  int Number() const { return number_; }
+  EditingComponent &DHTML1() { return *component_; }
+  SourceControl &Code1() { return *source_; }
+  EditorContext &Context() { return context_; }
+
+  /// 1 design, 2 view HTML, 3 edit HTML, 4 preview; anything else does nothing.
+  void ChangeMode(std::int32_t mode);
+  /// Opens the source editor on this page, or fills it anew.
+  void ShowEditor();
+  /// Tells the element under the caret in the status bar and, for a link, its target in a tooltip.
+  void DynaLink();
+  /// Sets one editing-toolbar button from the status of `function`.
+  void EditBarCheck(const QString &tbrButtonKey, std::int32_t function);
+  /// Brings the main window's formatting buttons and boxes in step with the selection.
+  void RefreshMfrm();
+  /// Gives the tab at position Number() this window's caption.
+  void UpdateTabCaption();
+  /// Enables source editing unless the page is read-only.
+  void CheckAcc();
+  /// The element under the caret, or the selected object.
+  HtmlElement GetActiveElement();
+  /// The page as HTML text, through its temporary copy; the component's own text where that copy
+  /// cannot be written.
+  QString CreatorHTML();
+  /// A copy of the page's record.
+  PageRecord GetPageRecord() const;
+
+  /// The main window calls this when the window becomes the active document.
+  void OnActivated();
+  void MarkKill() override;
+
+  /// The pointer's place in the page at the last mouse notice, in CSS pixels.
+  int ClientX = 0;
+  int ClientY = 0;
+
+ protected:
+  void closeEvent(QCloseEvent *event) override;
+
+ private:
+  void DocumentComplete() override;
+  void DisplayChanged() override;
+  void ContextMenuRequested(QPoint screenPosition) override;
+  void MouseNotified(int clientX, int clientY) override;
+  void ComponentReported(const QString &message) override;
+
+  void BuildToolBar();
+  void ToggleShowDetails();
+  void ToggleSnapToGrid();
+  void Preview();
+
+  EditorContext &context_;
+  const int number_;
+  std::unique_ptr<EditingComponent> component_;
+  std::unique_ptr<SourceControl> source_;
+  QToolBar *tbrQuick = nullptr;
+  QStackedLayout *views_ = nullptr;
+};
+
+}  // namespace velor

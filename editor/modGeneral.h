@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Files.h"
+
+#include <QString>
+
+/// Whole files as text, and the parts of a path. Paths in logic form.
+namespace velor::modGeneral {
+
+/// The file's whole content as text, decoded as pages are (platform/html/PageEncoding.h).
+QString ReadWholeFile(const Files &files, const QString &path);
+
+/// Creates or replaces the file: the text followed by a line break (CR LF), in the charset that the
+/// text declares for itself, else UTF-8.
+void WriteTextFile(Files &files, const QString &path, const QString &text);
+
+/// The text after the last "\"; the whole text when it holds none.
+QString FileNameOfPath(const QString &path);
+
+/// The text before the last "\", without it. Raises error 5 when there is none.
+QString FolderOfPath(const QString &path);
+
+/// The path of a page's temporary copy: every "." of the whole path, folders included, becomes
+/// "TMP.". It may name a folder that does not exist; none is created for it.
+QString TemporaryPath(const QString &path);
+
+}  // namespace velor::modGeneral

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "editor/EditorContext.h"
+
+#include <QString>
+
+#include <cstdint>
+
+/// The life of a page as a file: made, opened, saved, closed. Paths in logic form.
+namespace velor {
+
+class FileDialog;
+class frmMain;
+struct PageRecord;
+
+namespace modWorkFlow {
+
+/// The text every new page starts from: fourteen lines ended by CR LF, the last without.
+const QString &NewPageTemplate();
+
+/// Makes a page from the template in a slot and a tab of its own.
+void NewPage(EditorContext &context);
+
+/// Opens a page file in a slot of its own and records it in the history. 1 when the file is
+/// read-only, else 0. A missing file is error 53 before anything is made.
+std::int16_t OpenPage(EditorContext &context, const QString &path);
+
+/// Opens a page of a web-site project: no history, and its first Save asks for a name.
+void OpenProjectPage(EditorContext &context, const QString &path);
+
+/// Saves a page; `record` is the slot's own and is brought up to date. A plain save (not SaveAs, and
+/// the page has a file) ignores errors, which the status bar tells; otherwise `dialog` asks for a
+/// name. 0 on success, 32755 when the dialog was cancelled, else the error number.
+std::int32_t SavePage(EditorContext &context, frmMain &window, FileDialog &dialog,
+                      PageRecord &record, bool SaveAs);
+
+/// Whether the document differs from its last load or save; outer white space and letter case do
+/// not count.
+bool HasUnsavedChanges(const QString &savedHtml, const QString &documentHtml);
+
+enum class CloseDecision { Close, Keep };
+
+/// Asks what closing a page needs to ask: refuses while its source editor is open, offers to save
+/// unsaved changes. A window marked "kill" closes unasked.
+CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window);
+
+/// What remains after the decision to close: the temporary copy, the page's source editor and the
+/// tab go. Errors are ignored.
+void CleanUpAfterPage(EditorContext &context, frmMain &window);
+
+}  // namespace modWorkFlow
+}  // namespace velor

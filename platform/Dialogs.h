@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace velor {
+
+enum class MessageIcon { None, Information, Question, Critical };
+enum class MessageButtons { Ok, YesNo, YesNoCancel };
+enum class MessageAnswer { Ok, Yes, No, Cancel };
+
+/// The application's title, used by message boxes without a title of their own.
+inline constexpr const char16_t *ApplicationTitle = u"Velor Web Creator";
+
+/// One modal message box: plain text, exactly these words, buttons and icon.
+struct Message {
+  QString text;
+  QString title = QString::fromUtf16(ApplicationTitle);
+  MessageButtons buttons = MessageButtons::Ok;
+  MessageIcon icon = MessageIcon::None;
+  /// Raised above the windows of other programs.
+  bool foreground = false;
+};
+
+/// Modal questions to the person. Closing a box by its close button or Escape answers Cancel where
+/// there is one, else No, else Ok.
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+
+  virtual MessageAnswer ShowMessage(const Message &message) = 0;
+
+  /// A one-line question; the empty text when cancelled.
+  virtual QString AskText(const QString &prompt, const QString &title,
+                          const QString &defaultAnswer) = 0;
+};
+
+/// A file dialog that is an object with a memory: what one use leaves in its fields the next finds.
+/// Paths in logic form.
+class FileDialog {
+ public:
+  /// The chosen file must exist (open dialogs).
+  static constexpr int FileMustExist = 4096;
+  /// Ask before a name that exists is taken (save dialogs).
+  static constexpr int OverwritePrompt = 2;
+
+  virtual ~FileDialog() = default;
+
+  /// Cancelling raises RuntimeError 32755 when set; otherwise it leaves no trace but ChosenName().
+  bool CancelError = false;
+  /// Pairs of description and patterns separated by "|", patterns separated by ";".
+  QString Filter;
+  /// Sum of the flags above.
+  int Flags = 0;
+  /// The full path that the dialog last held. A cancelled showing keeps it.
+  QString FileName;
+
+  /// Shows the dialog; returns the path chosen now, the empty text when cancelled.
+  virtual QString ShowOpen() = 0;
+  virtual QString ShowSave() = 0;
+};
+
+}  // namespace velor

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStringList>
+
+#include <vector>
+
+namespace velor {
+
+/// The editing commands' published numbers (DECMD values of the DHTML Editing Component's SDK).
+/// Frozen: never renumbered.
+enum class EditingCommand : int {
+  Bold = 5000,
+  Copy = 5002,
+  Cut = 5003,
+  Delete = 5004,
+  GetBackColor = 5010,
+  GetBlockFormat = 5011,
+  GetFontName = 5013,
+  GetFontSize = 5014,
+  GetForeColor = 5015,
+  Indent = 5018,
+  Italic = 5023,
+  JustifyCenter = 5024,
+  JustifyLeft = 5025,
+  JustifyRight = 5026,
+  OrderList = 5030,
+  Outdent = 5031,
+  Paste = 5032,
+  Redo = 5033,
+  SelectAll = 5035,
+  SetBackColor = 5042,
+  SetBlockFormat = 5043,
+  SetFontName = 5044,
+  SetFontSize = 5045,
+  SetForeColor = 5046,
+  Underline = 5048,
+  Undo = 5049,
+  UnorderList = 5051,
+};
+
+constexpr int Number(EditingCommand command) { return static_cast<int>(command); }
+
+/// One block format: the name people choose and the element that carries it.
+struct BlockFormat {
+  const char *name;     ///< "Heading 1"
+  const char *element;  ///< "H1"; lists and definitions name the inner element
+};
+
+/// The sixteen block formats in the order in which the list shows them.
+const std::vector<BlockFormat> &BlockFormats();
+QStringList BlockFormatNames();
+
+/// The seven HTML font sizes: points[n - 1] is the size of <font size=n>.
+inline constexpr int FontSizePoints[] = {8, 10, 12, 14, 18, 24, 36};
+
+}  // namespace velor

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/HtmlDocument.h"
+
+#include <QPoint>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+class QWidget;
+
+namespace velor {
+
+/// Answers of QueryStatus, with their published numbers.
+enum class CommandStatus : int {
+  NotSupported = 0,
+  Disabled = 1,
+  Enabled = 3,
+  Latched = 7,   ///< on throughout the selection
+  Ninched = 11,  ///< on in part of the selection
+};
+
+/// How a command may talk to the person; Default leaves it to the command.
+enum class ExecOption : int { Default = 0, PromptUser = 1, DontPromptUser = 2 };
+
+/// What an editing component tells its owner. Every notice is delivered after the call that caused
+/// it has returned, never from inside it.
+class EditingListener {
+ public:
+  virtual ~EditingListener() = default;
+  /// A document set or loaded is there; delivered before any user input reaches it.
+  virtual void DocumentComplete() = 0;
+  /// The selection, or the state of what is selected, has changed.
+  virtual void DisplayChanged() = 0;
+  /// A context menu is wanted at that place of the screen; the component shows none itself.
+  virtual void ContextMenuRequested(QPoint screenPosition) = 0;
+  /// The pointer moved or pressed within the page, in CSS pixels of its viewport.
+  virtual void MouseNotified(int clientX, int clientY) = 0;
+  /// Something a person should read in the status bar (the page's engine stopped, came back ...).
+  virtual void ComponentReported(const QString &message) = 0;
+};
+
+/// The surface on which a page is edited as it looks. Page scripts never run in it, nothing
+/// navigates, nothing remote is fetched; the page's local pictures and style sheets show.
+///
+/// Invariants: DocumentHTML and SaveDocument carry no trace of the editor. Every change of the
+/// document, typed or commanded, is in one undo history. States and values come from a snapshot
+/// that follows each change of the selection; only reading the document waits for the engine.
+class EditingComponent {
+ public:
+  virtual ~EditingComponent() = default;
+
+  /// The widget to lay out; owned by the component and by its parent, whichever goes first.
+  virtual QWidget *Widget() = 0;
+  virtual void SetListener(EditingListener *listener) = 0;
+  virtual void SetFocus() = 0;
+  virtual void SetToolTip(const QString &text) = 0;
+
+  /// The document as HTML text: doctype, comments and root element as the engine has them now.
+  virtual QString DocumentHTML() = 0;
+  /// Replaces the document; returns when it is parsed. Links in it resolve against the program
+  /// folder. Its charset is the one it declares, else UTF-8; its line ends are those of `html`.
+  virtual void SetDocumentHTML(const QString &html) = 0;
+
+  /// Replaces the document by a file's; returns when it is parsed. Links resolve against the file.
+  /// `path` in logic form. Raises RuntimeError when the file cannot be read; the old page stays.
+  virtual void LoadDocument(const QString &path) = 0;
+  /// Writes the document to a file in the page's own charset and line ends. Raises RuntimeError
+  /// when the file cannot be written; an old file then stays whole.
+  virtual void SaveDocument(const QString &path) = 0;
+  /// What SaveDocument would write, as text.
+  virtual QString TextToSave() = 0;
+
+  /// The WHATWG name of the page's charset ("big5", "utf-8", "windows-1252" ...).
+  virtual QString Charset() const = 0;
+
+  /// Carries out a command (EditingCommands.h) or, for a query command, answers its value: font
+  /// name, block format name and size as text, colours as "#RRGGBB"; the empty text where the
+  /// selection is mixed. A command that does not apply does nothing.
+  virtual QVariant ExecCommand(int command, ExecOption option = ExecOption::Default,
+                               const QVariant &value = {}) = 0;
+  virtual CommandStatus QueryStatus(int command) const = 0;
+
+  /// The document object. Valid as long as the component.
+  virtual HtmlDocument &Document() = 0;
+
+  /// Glyphs for paragraphs, breaks, comments and the like; never part of the page.
+  virtual bool ShowDetails() const = 0;
+  virtual void SetShowDetails(bool on) = 0;
+  /// Positioned elements snap to a grid of 50 pixels when dragged.
+  virtual bool SnapToGrid() const = 0;
+  virtual void SetSnapToGrid(bool on) = 0;
+};
+
+}  // namespace velor

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/SourceControl.h"
+
+#include <memory>
+
+class QWidget;
+
+namespace velor {
+
+class Browser;
+class DatabaseConnection;
+class Dialogs;
+class EditingComponent;
+class FileDialog;
+class Files;
+class Registry;
+class Runtime;
+
+/// Makes the parts of which there are several. A part's widget becomes a child of `parent`.
+class Components {
+ public:
+  virtual ~Components() = default;
+  virtual std::unique_ptr<EditingComponent> CreateEditingComponent(QWidget *parent) = 0;
+  virtual std::unique_ptr<SourceControl> CreateSourceControl(QWidget *parent,
+                                                             SourceAccess access) = 0;
+  virtual std::unique_ptr<Browser> CreateBrowser(QWidget *parent) = 0;
+  virtual std::unique_ptr<FileDialog> CreateFileDialog() = 0;
+  virtual std::unique_ptr<DatabaseConnection> CreateDatabaseConnection() = 0;
+};
+
+/// The environment, whole. Everything the logic asks of the world goes through it.
+struct Platform {
+  Files &files;
+  Runtime &runtime;
+  Dialogs &dialogs;
+  Registry &registry;
+  Components &components;
+};
+
+}  // namespace velor

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+class QWidget;
+
+namespace velor {
+
+/// Whether the person may type into a source control. A view accepts typing nowhere it matters:
+/// what it shows is a copy.
+enum class SourceAccess { View, Edit };
+
+/// A control that shows HTML source as text. Text inside is Unicode with the line ends it was
+/// given.
+class SourceControl {
+ public:
+  virtual ~SourceControl() = default;
+
+  virtual QWidget *Widget() = 0;
+  virtual void SetFocus() = 0;
+
+  virtual QString Text() const = 0;
+  virtual void SetText(const QString &text) = 0;
+
+  /// Colour slots: 1 margin background, 26 line number background, 27 line number text; `color`
+  /// with red in the low byte. Other slots are ignored.
+  virtual void SetColor(int slot, std::int32_t color) = 0;
+
+  virtual QString SelectedText() const = 0;
+  /// Puts `text` in place of the selection.
+  virtual void ReplaceSelection(const QString &text) = 0;
+
+  /// Zero-based line and column of the caret, columns in UTF-16 units.
+  virtual int CaretLine() const = 0;
+  virtual int CaretColumn() const = 0;
+  virtual int LineLength(int line) const = 0;
+  virtual void SetCaret(int line, int column) = 0;
+};
+
+}  // namespace velor
