@@ -1,0 +1,232 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A tour of the real program, driven from outside; checks what it leaves on disk.
+
+Usage: tour.py RUN_FOLDER OUT_FOLDER
+RUN_FOLDER holds the executable, the sample catalogue, eImages and the sample sites; it is copied, never
+changed. OUT_FOLDER receives the screenshots and the saved pages.
+"""
+import os
+import shutil
+import stat
+import sys
+import tempfile
+
+from desktop import Atspi, Program, TourError, file_text, wait_for
+
+MENU = "menu item"
+TAB = "page tab"
+DIALOG = "dialog|alert|file chooser"
+
+
+def step(text):
+    print(f"tour: {text}", flush=True)
+
+
+def check(condition, what):
+    if not condition:
+        raise TourError(what)
+
+
+class Tour:
+    def __init__(self, run_folder, out):
+        self.out = out
+        self.scratch = tempfile.mkdtemp(prefix="velor-tour-")
+        self.folder = os.path.join(self.scratch, "program")
+        self.settings = os.path.join(self.scratch, "settings")
+        self.site = os.path.join(self.scratch, "my pages")
+        for folder in (self.settings, self.site):
+            os.makedirs(folder)
+        shutil.copytree(run_folder, self.folder, ignore=shutil.ignore_patterns("velor-*", "*.ini"))
+        self.executable = os.path.join(run_folder, "velor-web-creator")
+        self.program = None
+
+    def start(self):
+        self.program = Program(self.executable, self.folder, self.settings, self.out)
+        self.program.size_window(1280, 860)
+
+    # Small moves that every scenario uses.
+    def tab(self, caption):
+        return self.program.wait(caption, TAB)
+
+    def new_page(self, caption):
+        self.program.key("ctrl+n")
+        self.tab(caption)
+
+    def name_in_dialog(self, path):
+        """Types a path into the file dialog in front and accepts it."""
+        box = self.program.wait(role="text", within=self.program.wait(role=DIALOG))
+        wait_for(lambda: Program.has_state(box, Atspi.StateType.FOCUSED), "the name box's focus")
+        self.program.key("ctrl+a")
+        self.program.type(path)
+        self.program.key("Return")
+        wait_for(lambda: self.program.find(role=DIALOG) is None, "the file dialog to close")
+
+    def save_as(self, path):
+        self.program.key("F12")
+        self.name_in_dialog(path)
+        wait_for(lambda: os.path.exists(path), f"{path} to be written")
+
+    def open(self, path, caption=None):
+        self.program.key("ctrl+o")
+        self.name_in_dialog(path)
+        self.tab(caption or os.path.basename(path))
+
+    def pressed(self, button):
+        node = self.program.wait(button, "push button|toggle button|button|check box")
+        states = node.get_state_set()
+        return states.contains(Atspi.StateType.PRESSED) or states.contains(Atspi.StateType.CHECKED)
+
+    def answer(self, text, button):
+        """Answers the message box that shows `text`."""
+        self.program.wait(text, "label")
+        self.program.press(button)
+        self.program.wait_gone(text, "label")
+
+    def menu(self, *path):
+        """Opens a menu by its mnemonic keys: menu("alt+f", "x")."""
+        self.program.key(*path)
+
+    # Scenarios.
+    def first_start_asks_nothing(self):
+        step("the first start asks nothing and writes both location files")
+        self.start()
+        self.program.shot("01-no-page")
+        site = file_text(os.path.join(self.folder, "SiteConfig.ini"))
+        check(site == f'"{self.folder}"\r\n', f"SiteConfig.ini holds {site!r}")
+        images = file_text(os.path.join(self.folder, "SiteImgConfig.ini"))
+        check(images == f'"{self.folder}/eImages"\r\n', f"SiteImgConfig.ini holds {images!r}")
+
+    def a_new_page_is_typed_formatted_and_saved(self):
+        step("a new page is typed, made bold, saved")
+        program = self.program
+        self.new_page("Untitled 1")
+        program.key("ctrl+a")
+        program.type("Hello brave world")
+        program.key("ctrl+shift+Left")
+        program.press("Bold")
+        wait_for(lambda: self.pressed("Bold"), "Bold to be shown pressed")
+        program.shot("02-bold")
+        path = os.path.join(self.site, "hello.htm")
+        program.key("ctrl+s")
+        self.name_in_dialog(path)
+        wait_for(lambda: os.path.exists(path), "the saved page")
+        self.tab("hello.htm")
+        text = file_text(path, "big5")
+        check("charset=big5" in text, "the new page lost its charset")
+        check("Hello brave <b>world</b>" in text, f"the bold word is not in the page: {text!r}")
+        check("\r\n" in text and "\n" not in text.replace("\r\n", ""), "line ends were mixed")
+        shutil.copy(path, self.out)
+
+    def commands_undo(self):
+        step("undo takes back, redo brings again")
+        program = self.program
+        path = os.path.join(self.site, "hello.htm")
+        program.key("ctrl+End")
+        program.type(" again")
+        program.press("Undo")
+        program.press("Redo")
+        program.press("Undo")
+        program.key("ctrl+s")
+        wait_for(lambda: "again" not in file_text(path, "big5"), "the undone word to be absent")
+        program.key("ctrl+y")
+        program.key("ctrl+s")
+        wait_for(lambda: "again" in file_text(path, "big5"), "the redone word on disk")
+
+    def the_source_is_shown(self):
+        step("View HTML shows the source")
+        self.program.press("View HTML")
+        self.program.shot("03-source")
+        self.program.press("Design")
+
+    def a_page_of_another_charset_is_saved_under_a_new_name(self):
+        step("a windows-1252 page keeps its charset, line ends and every byte that was not edited")
+        source = os.path.join(self.site, "caf\u00e9 100% #1.html")
+        before = ("<!DOCTYPE html>\n<html>\n<head><meta charset=windows-1252>\n<TITLE>Caf\u00e9</TITLE></head>\n"
+                  "<body bgcolor=white>\n<P>Na\u00efve <B>caf\u00e9</B>\n</body>\n</html>\n").encode("windows-1252")
+        with open(source, "wb") as stream:
+            stream.write(before)
+        # xdotool types what the keyboard map has; the dialog finds the file by a plain copy's name.
+        plain = os.path.join(self.site, "cafe.html")
+        shutil.copy(source, plain)
+        self.open(plain)
+        untouched = os.path.join(self.site, "untouched.htm")
+        self.save_as(untouched)
+        with open(untouched, "rb") as stream:
+            check(stream.read() == before, "saving an unedited page changed it")
+        self.program.shot("04-second-page")
+
+    def a_read_only_page_says_so(self):
+        step("a read-only page opens as such")
+        path = os.path.join(self.site, "locked.htm")
+        with open(path, "wb") as stream:
+            stream.write(b"<html><body><p>Locked</p></body></html>")
+        os.chmod(path, stat.S_IRUSR)
+        self.open(path, "locked.htm (Read-Only)")
+        edit = self.program.wait("Edit HTML", "push button|toggle button|button")
+        wait_for(lambda: not Program.has_state(edit, Atspi.StateType.ENABLED), "Edit HTML to be off")
+
+    def five_pages_are_the_limit(self):
+        step("the sixth page is refused")
+        for caption in ("Untitled 4", "Untitled 5"):
+            self.new_page(caption)
+        self.program.shot("05-five-pages")
+        self.program.key("ctrl+n")
+        self.answer("Too many Pages are opened. Please close one or two File(s), and then try to open it.",
+                    "OK")
+
+    def closing_asks(self):
+        step("closing a changed page asks; Cancel keeps it, No drops the change")
+        program = self.program
+        program.type("unsaved")
+        question = "You have made changes to this document. Do you want to save it?"
+        program.key("ctrl+F4")
+        program.wait(question, "label")
+        program.shot("06-closing-prompt")
+        self.answer(question, "Cancel")
+        self.tab("Untitled 5")
+        program.key("ctrl+F4")
+        self.answer(question, "No")
+        program.wait_gone("Untitled 5", TAB)
+        step("an unchanged page closes unasked")
+        program.key("ctrl+F4")
+        program.wait_gone("Untitled 4", TAB)
+
+    def exit_ends_everything(self):
+        step("exit ends the program without questions and leaves no temporary copy")
+        self.program.type("never saved")
+        self.program.key("alt+f", "x")
+        status = self.program.wait_end()
+        check(status == 0, f"the program ended with status {status}")
+        left = [name for folder, _, names in os.walk(self.scratch) for name in names
+                if "TMP.htm" in name or name.startswith("Temp")]
+        check(not left, f"temporary copies were left behind: {left}")
+
+    def run(self):
+        try:
+            for scenario in (self.first_start_asks_nothing,
+                             self.a_new_page_is_typed_formatted_and_saved,
+                             self.commands_undo,
+                             self.the_source_is_shown,
+                             self.a_page_of_another_charset_is_saved_under_a_new_name,
+                             self.a_read_only_page_says_so,
+                             self.five_pages_are_the_limit,
+                             self.closing_asks,
+                             self.exit_ends_everything):
+                scenario()
+        except Exception:
+            if self.program is not None:
+                self.program.shot("failure")
+            raise
+        finally:
+            if self.program is not None:
+                self.program.kill()
+            shutil.rmtree(self.scratch, ignore_errors=True)
+
+
+if __name__ == "__main__":
+    run_folder, out_folder = (os.path.abspath(argument) for argument in sys.argv[1:3])
+    shutil.rmtree(out_folder, ignore_errors=True)
+    os.makedirs(out_folder)
+    Tour(run_folder, out_folder).run()
+    print(f"tour: done; screenshots and the saved page lie in {out_folder}")
