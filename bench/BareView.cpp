@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/BareView.h"
+
+#include <QFile>
+#include <QTest>
+#include <QUrl>
+#include <QWebChannel>
+#include <QWebEnginePage>
+#include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+
+namespace velor::bench {
+
+namespace {
+
+constexpr int LimitMs = 120000;
+
+QWebEngineProfile *SharedProfile() {
+  static auto *profile = new QWebEngineProfile(qApp);
+  return profile;
+}
+
+}  // namespace
+
+BareView::BareView(QWidget *parent) : QWebEngineView(parent) {
+  setPage(new QWebEnginePage(SharedProfile(), this));
+  auto *channel = new QWebChannel(this);
+  channel->registerObject(QStringLiteral("view"), this);
+  page()->setWebChannel(channel, QWebEngineScript::ApplicationWorld);
+  QFile library(QStringLiteral(":/qtwebchannel/qwebchannel.js"));
+  const bool opened = library.open(QIODevice::ReadOnly);
+  Q_ASSERT(opened);
+  QWebEngineScript script;
+  script.setWorldId(QWebEngineScript::ApplicationWorld);
+  script.setInjectionPoint(QWebEngineScript::DocumentReady);
+  script.setSourceCode(QString::fromUtf8(library.readAll()) + QStringLiteral(R"(
+    new QWebChannel(qt.webChannelTransport, function (channel) {
+      document.designMode = 'on';
+      document.addEventListener('selectionchange', () => channel.objects.view.SelectionMoved());
+    });)"));
+  page()->scripts().insert(script);
+}
+
+void BareView::LoadFile(const QString &nativePath) {
+  bool done = false;
+  const auto connection =
+      connect(page(), &QWebEnginePage::loadFinished, this, [&done](bool) { done = true; });
+  load(QUrl::fromLocalFile(nativePath));
+  (void)QTest::qWaitFor([&done] { return done; }, LimitMs);
+  disconnect(connection);
+  Evaluate(QStringLiteral("document.designMode = 'on'; 1"));
+}
+
+QString BareView::OuterHtml() {
+  return Evaluate(QStringLiteral("document.documentElement.outerHTML")).toString();
+}
+
+QVariant BareView::Evaluate(const QString &script) {
+  bool done = false;
+  QVariant answer;
+  page()->runJavaScript(script, QWebEngineScript::ApplicationWorld, [&](const QVariant &result) {
+    answer = result;
+    done = true;
+  });
+  QEventLoop loop;
+  while (!done) loop.processEvents(QEventLoop::WaitForMoreEvents);
+  return answer;
+}
+
+}  // namespace velor::bench

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/Figures.h"
+
+#include <cstdio>
+
+namespace velor::bench {
+
+namespace {
+
+struct Entry {
+  const char *name;
+  void (*run)();
+};
+
+constexpr Entry Table[] = {
+    {"start", StartFigure},
+    {"open", OpeningFigures},
+    {"key", KeyFigures},
+    {"read", ReadingFigures},
+    {"save", SavingFigures},
+    {"memory", MemoryFigure},
+    {"child-our-window", ChildOurWindow},
+    {"child-bare-window", ChildBareWindow},
+    {"child-our-five", ChildOurFivePages},
+    {"child-bare-five", ChildBareFiveViews},
+};
+
+}  // namespace
+
+int RunFigures(const QStringList &names) {
+  for (const QString &name : names) {
+    bool known = false;
+    for (const Entry &entry : Table) known = known || name == QLatin1String(entry.name);
+    if (!known) {
+      std::fprintf(stderr, "no figure is called %s\n", qPrintable(name));
+      return 1;
+    }
+  }
+  for (const Entry &entry : Table) {
+    const QString name = QString::fromLatin1(entry.name);
+    if (names.isEmpty() ? !name.startsWith(u"child-") : names.contains(name)) entry.run();
+  }
+  return 0;
+}
+
+}  // namespace velor::bench

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QStringList>
+
+namespace velor::bench {
+
+/// Runs the named figures, or all; 1 when a name is unknown. Names that begin with "child-" are the
+/// halves of figures that need a process of their own.
+int RunFigures(const QStringList &names);
+
+// Figures about one page (PageFigures.cpp).
+void OpeningFigures();
+void KeyFigures();
+void ReadingFigures();
+void SavingFigures();
+
+// Figures about whole processes (ProcessFigures.cpp).
+void StartFigure();
+void MemoryFigure();
+/// Does what a child process is for and tells on standard output when it is done.
+void ChildOurWindow();
+void ChildBareWindow();
+void ChildOurFivePages();
+void ChildBareFiveViews();
+
+}  // namespace velor::bench

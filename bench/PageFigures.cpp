@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/BareView.h"
+#include "bench/Figures.h"
+#include "bench/Measure.h"
+#include "platform/Paths.h"
+#include "platform/qt/QtFiles.h"
+#include "platform/qt/editing/EditingEngine.h"
+#include "platform/qt/editing/WebEditor.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <array>
+
+namespace velor::bench {
+
+namespace {
+
+constexpr int LimitMs = 120000;
+
+struct Size {
+  const char *name;
+  int bytes;
+  int rounds;
+};
+constexpr std::array<Size, 4> Sizes = {
+    Size{"10 KB", 10'000, 9}, {"100 KB", 100'000, 7}, {"1 MB", 1'000'000, 5}, {"10 MB", 10'000'000, 2}};
+
+/// A page such as people have: headings, paragraphs with inline markup, a table now and then.
+QByteArray SamplePage(int bytes) {
+  QByteArray page = "<!DOCTYPE html>\r\n<html>\r\n<head><meta charset=\"utf-8\"><title>Sample</title></head>\r\n<body>\r\n";
+  for (int i = 0; page.size() < bytes; ++i) {
+    if (i % 20 == 0) page += "<h2>Chapter " + QByteArray::number(i / 20) + "</h2>\r\n";
+    if (i % 25 == 24)
+      page += "<table border=\"1\">\r\n<tr><td>one</td><td>two</td></tr>\r\n<tr><td>three</td><td>four</td></tr>\r\n</table>\r\n";
+    page += "<p>The quick brown fox jumps over the <b>lazy</b> dog, and <i>nobody</i> at "
+            "<a href=\"http://example.com/\">example.com</a> minds it in the least.</p>\r\n";
+  }
+  return page + "</body>\r\n</html>\r\n";
+}
+
+/// The window that shows our component, with what a listener needs to know.
+class OurPage : public EditingListener {
+ public:
+  explicit OurPage(const QString &folder)
+      : editor(engine, files, ToLogic(folder), &window) {
+    editor.SetListener(this);
+    window.resize(900, 700);
+    editor.Widget()->setGeometry(window.rect());
+    window.show();
+  }
+  void DocumentComplete() override { ++completed; }
+  void DisplayChanged() override { ++displayChanges; }
+  void ContextMenuRequested(QPoint) override {}
+  void MouseNotified(int, int) override {}
+  void ComponentReported(const QString &) override {}
+
+  EditingEngine engine;
+  QtFiles files;
+  QWidget window;
+  int completed = 0;
+  int displayChanges = 0;
+  WebEditor editor;
+};
+
+struct Bench {
+  Bench() : ours(folder.path()) {
+    theirs.resize(900, 700);
+    theirs.show();
+  }
+  QString File(const Size &size) {
+    const QString path = folder.filePath(QString::number(size.bytes) + QStringLiteral(".html"));
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly)) file.write(SamplePage(size.bytes));
+    return path;
+  }
+  void Load(const QString &path) {
+    ours.editor.LoadDocument(ToLogic(path));
+    theirs.LoadFile(path);
+  }
+  QTemporaryDir folder;
+  OurPage ours;
+  BareView theirs;
+};
+
+QWidget *KeyTarget(QWidget *view) {
+  QWidget *proxy = view->focusProxy();
+  return proxy != nullptr ? proxy : view;
+}
+
+/// The widget inside that takes the keys.
+QWidget *EngineWidget(QWidget *container) {
+  for (QWebEngineView *view : container->findChildren<QWebEngineView *>()) return KeyTarget(view);
+  return KeyTarget(container);
+}
+
+}  // namespace
+
+void OpeningFigures() {
+  Bench bench;
+  for (const Size &size : Sizes) {
+    const QString path = bench.File(size);
+    Print(Compare(
+        QStringLiteral("open a page"), QLatin1String(size.name), QStringLiteral("bare view"), size.rounds,
+        [&] { return Milliseconds([&] { bench.ours.editor.LoadDocument(ToLogic(path)); }); },
+        [&] { return Milliseconds([&] { bench.theirs.LoadFile(path); }); }));
+  }
+}
+
+void KeyFigures() {
+  Bench bench;
+  for (const Size &size : Sizes) {
+    if (size.bytes > 1'000'000) continue;
+    bench.Load(bench.File(size));
+    bench.ours.editor.SetFocus();
+    QWidget *ourKeys = EngineWidget(bench.ours.editor.Widget());
+    QWidget *theirKeys = KeyTarget(&bench.theirs);
+    const auto press = [](QWidget *target, const int &counter) {
+      target->setFocus();
+      const int before = counter;
+      return Milliseconds([&] {
+        QTest::keyClick(target, Qt::Key_X);
+        (void)QTest::qWaitFor([&] { return counter > before; }, LimitMs);
+      });
+    };
+    Print(Compare(
+        QStringLiteral("key to refreshed toolbar"), QLatin1String(size.name),
+        QStringLiteral("bare view's key to selection change"), 15,
+        [&] { return press(ourKeys, bench.ours.displayChanges); },
+        [&] { return press(theirKeys, bench.theirs.selectionChanges); }));
+  }
+}
+
+void ReadingFigures() {
+  Bench bench;
+  for (const Size &size : Sizes) {
+    bench.Load(bench.File(size));
+    Print(Compare(
+        QStringLiteral("read the document"), QLatin1String(size.name), QStringLiteral("bare outerHTML"), size.rounds,
+        [&] { return Milliseconds([&] { (void)bench.ours.editor.DocumentHTML(); }); },
+        [&] { return Milliseconds([&] { (void)bench.theirs.OuterHtml(); }); }));
+  }
+}
+
+void SavingFigures() {
+  Bench bench;
+  for (const Size &size : Sizes) {
+    bench.Load(bench.File(size));
+    bench.ours.editor.ExecCommand(Number(EditingCommand::SelectAll));
+    bench.ours.editor.ExecCommand(Number(EditingCommand::JustifyCenter));
+    const QString mine = bench.folder.filePath(QStringLiteral("ours.html"));
+    const QString plain = bench.folder.filePath(QStringLiteral("plain.html"));
+    Print(Compare(
+        QStringLiteral("save the document"), QLatin1String(size.name),
+        QStringLiteral("bare outerHTML and a plain write"), size.rounds,
+        [&] { return Milliseconds([&] { bench.ours.editor.SaveDocument(ToLogic(mine)); }); },
+        [&] {
+          return Milliseconds([&] {
+            QFile file(plain);
+            if (file.open(QIODevice::WriteOnly)) file.write(bench.theirs.OuterHtml().toUtf8());
+          });
+        }));
+  }
+}
+
+}  // namespace velor::bench
