@@ -23,6 +23,10 @@ class MainWindow {
   /// Shows an adopted window (maximised for pages) and makes it the active one.
   virtual void ShowWindow(QWidget *window) = 0;
   virtual void ActivateWindow(QWidget *window) = 0;
+  /// Takes an adopted window out of sight until ShowWindow; its frame goes with it.
+  virtual void HideWindow(QWidget *window) = 0;
+  /// Lets go of an adopted window that is closing: its frame vanishes. The window deletes itself.
+  virtual void ReleaseWindow(QWidget *window) = 0;
 
   // Page tabs, `FileTab`. Keys are "key" followed by the page number. Unknown keys raise
   // ElementNotFound (35601), positions out of range IndexOutOfBounds (35600).
@@ -40,6 +44,9 @@ class MainWindow {
   virtual void SetPageCommandsEnabled(bool enabled) = 0;
   /// The action that opens the source editor.
   virtual void SetSourceEditingEnabled(bool enabled) = 0;
+  /// Brings the availability of the commands in step with the active window; called when the
+  /// preview gives way.
+  virtual void RefreshCommandState() = 0;
   /// Clears the element-inspection state kept for the tool box.
   virtual void ResetElementInspection() = 0;
 

@@ -13,6 +13,9 @@ namespace velor {
 class frmCodeEditor;
 class frmMain;
 
+/// The key of a page's tab: "key" followed by the page number.
+QString PageKey(int number);
+
 /// The page slots of one run of the program. Slots are numbered from 1, only ever added, never
 /// renumbered and never used twice: a page number names one page for as long as the program runs.
 class PageSlots {
@@ -31,8 +34,6 @@ class PageSlots {
   QPointer<frmCodeEditor> &CodeEditor(int number);
 
  private:
-  std::size_t Index(int number) const;
-
   std::vector<QPointer<frmMain>> Pages;
   std::vector<QPointer<frmCodeEditor>> CodeEditors;
   std::vector<PageRecord> records_;

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <memory>
 
+class QAction;
 class QStackedLayout;
 class QToolBar;
 
@@ -83,8 +84,13 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   void ComponentReported(const QString &message) override;
 
   void BuildToolBar();
+  /// A button of tbrQuick by its key.
+  QAction *QuickButton(QStringView key) const;
+  void QuickButtonClicked(int position);
   void ToggleShowDetails();
   void ToggleSnapToGrid();
+  void ViewHtml();
+  void EditHtml();
   void Preview();
 
   EditorContext &context_;

@@ -11,6 +11,8 @@
 namespace velor {
 
 class FileDialog;
+class Files;
+class frmCodeEditor;
 class frmMain;
 struct PageRecord;
 
@@ -19,6 +21,20 @@ namespace modWorkFlow {
 /// The text every new page starts from: fourteen lines ended by CR LF, the last without.
 const QString &NewPageTemplate();
 
+/// The document window of a slot; made, as a child of the main window, when the slot is empty.
+frmMain &PageWindow(EditorContext &context, int number);
+
+/// The source editor of a slot; made, with the slot's number in its Tag, when the slot is empty.
+frmCodeEditor &SourceEditor(EditorContext &context, int number);
+
+/// Where the temporary copy of a page file goes; the empty text where the rule would name the file
+/// itself (a path without a single "."): a temporary copy is never the person's own file.
+QString TemporaryCopyOf(const QString &path);
+
+/// Writes a page's text to its temporary copy, followed by a line break. False where there is none
+/// to write to: no path, or a folder that does not exist or cannot be written.
+bool WriteTemporaryCopy(Files &files, const QString &tempPath, const QString &text);
+
 /// Makes a page from the template in a slot and a tab of its own.
 void NewPage(EditorContext &context);
 
@@ -26,12 +42,13 @@ void NewPage(EditorContext &context);
 /// read-only, else 0. A missing file is error 53 before anything is made.
 std::int16_t OpenPage(EditorContext &context, const QString &path);
 
-/// Opens a page of a web-site project: no history, and its first Save asks for a name.
+/// Opens a page of a web-site project: no history, and its first Save asks for a name. A missing
+/// file is error 53 as above.
 void OpenProjectPage(EditorContext &context, const QString &path);
 
-/// Saves a page; `record` is the slot's own and is brought up to date. A plain save (not SaveAs, and
-/// the page has a file) ignores errors, which the status bar tells; otherwise `dialog` asks for a
-/// name. 0 on success, 32755 when the dialog was cancelled, else the error number.
+/// Saves a page; `record` is the slot's own and is brought up to date. A plain save (not SaveAs,
+/// and the page has a file) ignores errors, which the status bar tells; otherwise `dialog` asks for
+/// a name. 0 on success, 32755 when the dialog was cancelled, else the error number.
 std::int32_t SavePage(EditorContext &context, frmMain &window, FileDialog &dialog,
                       PageRecord &record, bool SaveAs);
 

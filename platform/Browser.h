@@ -26,6 +26,9 @@ class Browser {
   virtual void SetListener(BrowserListener *listener) = 0;
 
   virtual void Navigate(const QUrl &url) = 0;
+  /// Shows a page that has no file: its relative links resolve against `baseUrl`. The browser keeps
+  /// a private copy as long as it lives.
+  virtual void NavigateToText(const QString &html, const QUrl &baseUrl) = 0;
   virtual void GoBack() = 0;
   virtual void GoForward() = 0;
   virtual void Refresh() = 0;

@@ -35,6 +35,9 @@ class Dialogs {
   /// A one-line question; the empty text when cancelled.
   virtual QString AskText(const QString &prompt, const QString &title,
                           const QString &defaultAnswer) = 0;
+
+  /// Shows a dialog widget modally; returns when it has closed or been hidden.
+  virtual void RunModal(QWidget &dialog) = 0;
 };
 
 /// A file dialog that is an object with a memory: what one use leaves in its fields the next finds.

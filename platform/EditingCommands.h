@@ -39,12 +39,14 @@ enum class EditingCommand : int {
   UnorderList = 5051,
 };
 
-constexpr int Number(EditingCommand command) { return static_cast<int>(command); }
+constexpr int Number(EditingCommand command) {
+  return static_cast<int>(command);
+}
 
 /// One block format: the name people choose and the element that carries it.
 struct BlockFormat {
   const char *name;     ///< "Heading 1"
-  const char *element;  ///< "H1"; lists and definitions name the inner element
+  const char *element;  ///< "H1"; a list format names the list, "OL"
 };
 
 /// The sixteen block formats in the order in which the list shows them.

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/PageSlots.h"
+
+#include "editor/frmCodeEditor.h"
+#include "editor/frmMain.h"
+#include "platform/RuntimeError.h"
+
+#include <limits>
+
+namespace velor {
+
+namespace {
+
+/// The place of slot `number` in a list whose upper bound is `bound`.
+std::size_t Index(int number, std::int16_t bound) {
+  if (number < 1 || number > bound) {
+    throw RuntimeError::Of(ErrorNumber::SubscriptOutOfRange, QStringLiteral("PageSlots"),
+                           QStringLiteral("page %1").arg(number));
+  }
+  return static_cast<std::size_t>(number - 1);
+}
+
+}  // namespace
+
+QString PageKey(int number) {
+  return QStringLiteral("key%1").arg(number);
+}
+
+std::int16_t PageSlots::Grow() {
+  if (pageCount_ == std::numeric_limits<std::int16_t>::max()) {
+    throw RuntimeError::Of(ErrorNumber::Overflow, QStringLiteral("PageSlots"));
+  }
+  Pages.emplace_back();
+  records_.emplace_back();
+  ++pageCount_;
+  CodeEditors.emplace_back();
+  ++codeEditorCount_;
+  return pageCount_;
+}
+
+PageRecord &PageSlots::Record(int number) {
+  return records_[Index(number, pageCount_)];
+}
+
+const PageRecord &PageSlots::Record(int number) const {
+  return records_[Index(number, pageCount_)];
+}
+
+QPointer<frmMain> &PageSlots::Page(int number) {
+  return Pages[Index(number, pageCount_)];
+}
+
+QPointer<frmCodeEditor> &PageSlots::CodeEditor(int number) {
+  return CodeEditors[Index(number, codeEditorCount_)];
+}
+
+}  // namespace velor

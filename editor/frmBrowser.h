@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "chrome/ProgramWindow.h"
+#include "editor/EditorContext.h"
+#include "platform/Browser.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <cstdint>
+#include <memory>
+
+class QLabel;
+class QToolBar;
+
+namespace velor {
+
+/// The share of a load that is done, as the preview shows it: whole percent modulo 100, so that a
+/// completed load reads 0; 0 too where it cannot be computed in 32 bits.
+int ProgressPercent(std::int32_t progress, std::int32_t maximum);
+
+/// The preview: a page as a web browser shows it. Made on first use and then kept; closing hides
+/// it.
+class frmBrowser : public QWidget, public ProgramWindow, private BrowserListener {
+  Q_OBJECT
+
+ public:
+  explicit frmBrowser(EditorContext &context);
+  ~frmBrowser() override;
+
+  /// "kill": the next close really closes.
+  QString Tag;
+  QString PendingAction;
+
+  Browser &brwWebBrowser() { return *browser_; }
+
+  /// Carries out a toolbar button: "Back", "Forward", "Refresh", "Stop"; other keys do nothing.
+  void ButtonClicked(const QString &key);
+
+  void MarkKill() override;
+
+ protected:
+  void closeEvent(QCloseEvent *event) override;
+
+ private:
+  void StatusTextChanged(const QString &text) override;
+  void ProgressChanged(int progress, int maximum) override;
+
+  void BuildToolBar();
+
+  EditorContext &context_;
+  std::unique_ptr<Browser> browser_;
+  QToolBar *tbToolBar = nullptr;
+  QLabel *statusText_ = nullptr;
+  QLabel *progress_ = nullptr;
+};
+
+}  // namespace velor

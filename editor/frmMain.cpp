@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The page window itself: its parts, its life and its bookkeeping.
+#include "editor/frmMain.h"
+
+#include "app/settings/modSettingManager.h"
+#include "chrome/Icons.h"
+#include "editor/MainWindow.h"
+#include "editor/PageSlots.h"
+#include "editor/modWorkFlow.h"
+#include "platform/Platform.h"
+#include "platform/RuntimeError.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QSize>
+#include <QStackedLayout>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace velor {
+
+namespace {
+
+enum class ButtonKind { Click, Toggle, Separator };
+
+struct QuickButtonRow {
+  QStringView key;  ///< also the key of its image
+  QStringView caption;
+  QStringView tooltip;
+  ButtonKind kind;
+};
+
+/// The mode toolbar; positions count from 1, the separator included.
+constexpr std::array<QuickButtonRow, 7> QuickButtons{{
+    {u"design", u"Design", u"Design Mode", ButtonKind::Click},
+    {u"viewcode", u"View HTML", u"View HTML", ButtonKind::Click},
+    {u"editcode", u"Edit HTML", u"Edit HTML", ButtonKind::Click},
+    {u"preview", u"Preview", u"Preview", ButtonKind::Click},
+    {u"", u"", u"", ButtonKind::Separator},
+    {u"detail", u"Show Detail", u"Show Detail", ButtonKind::Toggle},
+    {u"snap", u"Snap to Grid", u"Snap to Grid", ButtonKind::Toggle},
+}};
+constexpr int DetailPosition = 6;
+constexpr int SnapPosition = 7;
+
+constexpr int QuickIconSize = 16;
+
+/// Colour slots of the source view: margin background and line numbers grey on white.
+constexpr std::int32_t Grey = 0x808080;
+constexpr std::int32_t White = 0xFFFFFF;
+
+bool OptionIsTrue(const Registry &registry, const QString &name, const QString &defaultValue) {
+  return LowerCase(modSettingManager::GetOption(registry, name, defaultValue)) ==
+         QStringLiteral("true");
+}
+
+}  // namespace
+
+frmMain::frmMain(EditorContext &context, int number)
+    : context_(context),
+      number_(number),
+      component_(context.platform.components.CreateEditingComponent(this)),
+      source_(context.platform.components.CreateSourceControl(this, SourceAccess::View)) {
+  setObjectName(QStringLiteral("frmMain"));
+  setAttribute(Qt::WA_DeleteOnClose);
+  setWindowIcon(IconFor(QStringLiteral("page")));
+
+  BuildToolBar();
+  component_->Widget()->setObjectName(QStringLiteral("DHTML1"));
+  component_->Widget()->setAccessibleName(QStringLiteral("Page"));
+  source_->Widget()->setObjectName(QStringLiteral("Code1"));
+  source_->Widget()->setAccessibleName(QStringLiteral("HTML source"));
+
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(tbrQuick);
+  views_ = new QStackedLayout;
+  views_->addWidget(component_->Widget());
+  views_->addWidget(source_->Widget());
+  layout->addLayout(views_, 1);
+  setFocusProxy(component_->Widget());
+
+  const Registry &registry = context_.platform.registry;
+  component_->SetShowDetails(
+      OptionIsTrue(registry, QStringLiteral("ShowDetails"), QStringLiteral("False")));
+  QuickButton(u"detail")->setChecked(component_->ShowDetails());
+  component_->SetSnapToGrid(
+      OptionIsTrue(registry, QStringLiteral("SnapToGrid"), QStringLiteral("True")));
+  QuickButton(u"snap")->setChecked(component_->SnapToGrid());
+  source_->SetColor(1, Grey);
+  source_->SetColor(27, Grey);
+  source_->SetColor(26, White);
+
+  component_->SetListener(this);
+}
+
+frmMain::~frmMain() {
+  component_->SetListener(nullptr);
+}
+
+void frmMain::BuildToolBar() {
+  tbrQuick = new QToolBar(this);
+  tbrQuick->setObjectName(QStringLiteral("tbrQuick"));
+  tbrQuick->setAccessibleName(QStringLiteral("Modes"));
+  tbrQuick->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  tbrQuick->setIconSize(QSize(QuickIconSize, QuickIconSize));
+  int position = 0;
+  for (const QuickButtonRow &row : QuickButtons) {
+    ++position;
+    if (row.kind == ButtonKind::Separator) {
+      tbrQuick->addSeparator();
+      continue;
+    }
+    QAction *button = tbrQuick->addAction(IconFor(row.key.toString()), row.caption.toString());
+    button->setObjectName(row.key.toString());
+    button->setData(row.key.toString());
+    button->setToolTip(row.tooltip.toString());
+    button->setCheckable(row.kind == ButtonKind::Toggle);
+    connect(button, &QAction::triggered, this, [this, position] { QuickButtonClicked(position); });
+    // Reachable by Tab, as tool buttons by themselves are not.
+    tbrQuick->widgetForAction(button)->setFocusPolicy(Qt::TabFocus);
+    tbrQuick->widgetForAction(button)->setAccessibleName(row.tooltip.toString());
+  }
+}
+
+QAction *frmMain::QuickButton(QStringView key) const {
+  for (QAction *button : tbrQuick->actions()) {
+    if (button->data().toString() == key) return button;
+  }
+  return nullptr;
+}
+
+void frmMain::QuickButtonClicked(int position) {
+  switch (position) {
+    case DetailPosition:
+      ToggleShowDetails();
+      break;
+    case SnapPosition:
+      ToggleSnapToGrid();
+      break;
+    default:
+      ChangeMode(position);
+  }
+}
+
+void frmMain::ToggleShowDetails() {
+  component_->SetShowDetails(!component_->ShowDetails());
+  modSettingManager::SetOption(context_.platform.registry, QStringLiteral("ShowDetails"),
+                               BoolText(component_->ShowDetails()));
+  QuickButton(u"detail")->setChecked(component_->ShowDetails());
+}
+
+void frmMain::ToggleSnapToGrid() {
+  component_->SetSnapToGrid(!component_->SnapToGrid());
+  modSettingManager::SetOption(context_.platform.registry, QStringLiteral("SnapToGrid"),
+                               BoolText(component_->SnapToGrid()));
+  QuickButton(u"snap")->setChecked(component_->SnapToGrid());
+}
+
+PageRecord frmMain::GetPageRecord() const {
+  return context_.pages.Record(number_);
+}
+
+void frmMain::UpdateTabCaption() {
+  context_.mainWindow.SetTabCaptionAt(number_, windowTitle());
+}
+
+void frmMain::CheckAcc() {
+  const bool editable = context_.pages.Record(number_).ReadOnly == False16;
+  context_.mainWindow.SetSourceEditingEnabled(editable);
+  QuickButton(u"editcode")->setEnabled(editable);
+}
+
+void frmMain::OnActivated() {
+  CheckAcc();
+  try {
+    context_.mainWindow.SelectTab(PageKey(number_));
+  } catch (const RuntimeError &) {
+    // The window outlives its tab for a moment while it closes, and its tab may not be there yet.
+  }
+  if (OptionIsTrue(context_.platform.registry, QStringLiteral("showtoolbox"),
+                   QStringLiteral("True"))) {
+    context_.mainWindow.ResetElementInspection();
+  }
+}
+
+void frmMain::MarkKill() {
+  Tag = QStringLiteral("kill");
+  PendingAction = QStringLiteral("kill");
+}
+
+void frmMain::closeEvent(QCloseEvent *event) {
+  if (modWorkFlow::AskBeforeClosing(context_, *this) == modWorkFlow::CloseDecision::Keep) {
+    event->ignore();
+    return;
+  }
+  modWorkFlow::CleanUpAfterPage(context_, *this);
+  context_.mainWindow.ReleaseWindow(this);
+  event->accept();
+}
+
+void frmMain::DocumentComplete() {
+  if (PendingAction != QStringLiteral("gethtml")) return;
+  // A load completes right after its page is made, so that the slot made last is this page's.
+  context_.pages.Record(context_.pages.PageCount()).SavedHTML = component_->DocumentHTML();
+  PendingAction.clear();
+}
+
+void frmMain::DisplayChanged() {
+  if (Ready != QStringLiteral("True")) return;
+  RefreshMfrm();
+  DynaLink();
+}
+
+void frmMain::ContextMenuRequested(QPoint screenPosition) {
+  context_.mainWindow.PopUpContextMenu(screenPosition);
+}
+
+void frmMain::MouseNotified(int clientX, int clientY) {
+  ClientX = clientX;
+  ClientY = clientY;
+}
+
+void frmMain::ComponentReported(const QString &message) {
+  context_.mainWindow.ReportInStatusBar(message);
+}
+
+}  // namespace velor

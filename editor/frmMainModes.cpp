@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The four modes of a page window, and the page as text.
+#include "editor/MainWindow.h"
+#include "editor/PageSlots.h"
+#include "editor/frmBrowser.h"
+#include "editor/frmCodeEditor.h"
+#include "editor/frmMain.h"
+#include "editor/modGeneral.h"
+#include "editor/modWorkFlow.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/Platform.h"
+#include "platform/Runtime.h"
+#include "platform/RuntimeError.h"
+
+#include <QStackedLayout>
+
+namespace velor {
+
+namespace {
+
+frmBrowser &LoadPreview(EditorContext &context) {
+  if (context.preview.isNull()) {
+    context.preview = new frmBrowser(context);
+    context.mainWindow.AdoptWindow(context.preview);
+  }
+  return *context.preview;
+}
+
+/// What relative links of a page without a readable temporary copy resolve against.
+QUrl BaseOf(const PageRecord &record, const Runtime &runtime) {
+  return record.Path.isEmpty() ? ToUrl(runtime.ProgramFolder() + QStringLiteral("\\"))
+                               : ToUrl(record.Path);
+}
+
+}  // namespace
+
+void frmMain::ChangeMode(std::int32_t mode) {
+  switch (mode) {
+    case 1:
+      views_->setCurrentWidget(component_->Widget());
+      setFocusProxy(component_->Widget());
+      component_->SetFocus();
+      break;
+    case 2:
+      ViewHtml();
+      break;
+    case 3:
+      EditHtml();
+      break;
+    case 4:
+      Preview();
+      break;
+    default:
+      break;
+  }
+}
+
+void frmMain::ViewHtml() {
+  try {
+    source_->SetText(CreatorHTML());
+  } catch (const RuntimeError &error) {
+    context_.mainWindow.ReportInStatusBar(
+        QStringLiteral("The page's HTML could not be read: %1").arg(error.Description()));
+  }
+  views_->setCurrentWidget(source_->Widget());
+  setFocusProxy(source_->Widget());
+  source_->SetFocus();
+}
+
+void frmMain::EditHtml() {
+  const Bool16 before = context_.pages.Record(number_).EditorOpen;
+  context_.pages.Record(number_).EditorOpen = True16;
+  try {
+    ShowEditor();
+  } catch (...) {
+    // An editor that never opened must not keep its page from closing.
+    context_.pages.Record(number_).EditorOpen = before;
+    throw;
+  }
+}
+
+void frmMain::ShowEditor() {
+  frmCodeEditor &editor = modWorkFlow::SourceEditor(context_, number_);
+  editor.AppliedText = CreatorHTML();
+  editor.Code().SetText(CreatorHTML());
+  editor.setWindowTitle(GetPageRecord().Caption);
+  context_.mainWindow.ShowWindow(&editor);
+  editor.Code().SetFocus();
+}
+
+void frmMain::Preview() {
+  const PageRecord record = GetPageRecord();
+  frmBrowser &preview = LoadPreview(context_);
+  if (record.ReadOnly != False16) {
+    context_.mainWindow.ShowWindow(&preview);
+    preview.brwWebBrowser().Navigate(ToUrl(record.Path));
+    return;
+  }
+  const QString text = CreatorHTML();
+  const bool written =
+      modWorkFlow::WriteTemporaryCopy(context_.platform.files, record.TempPath, text);
+  context_.mainWindow.ShowWindow(&preview);
+  if (written) {
+    preview.brwWebBrowser().Navigate(ToUrl(record.TempPath));
+  } else {
+    preview.brwWebBrowser().NavigateToText(text, BaseOf(record, context_.platform.runtime));
+  }
+}
+
+QString frmMain::CreatorHTML() {
+  const QString tempPath = GetPageRecord().TempPath;
+  if (tempPath.isEmpty()) return component_->TextToSave();
+  try {
+    component_->SaveDocument(tempPath);
+    return modGeneral::ReadWholeFile(context_.platform.files, tempPath);
+  } catch (const RuntimeError &) {
+    // Usual where a folder has a dot in its name: the copy's folder does not exist.
+    return component_->TextToSave();
+  }
+}
+
+}  // namespace velor

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Pages made and opened.
+#include "editor/modWorkFlow.h"
+
+#include "app/settings/modSettingManager.h"
+#include "editor/MainWindow.h"
+#include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
+#include "editor/frmMain.h"
+#include "editor/modGeneral.h"
+#include "platform/Paths.h"
+#include "platform/Platform.h"
+#include "platform/Runtime.h"
+#include "platform/RuntimeError.h"
+
+namespace velor::modWorkFlow {
+
+namespace {
+
+/// Image of a page tab in the strip's image list.
+constexpr int PageTabImage = 1;
+
+void RequireFile(EditorContext &context, const QString &path, const QString &operation) {
+  if (!context.platform.files.FileExists(path)) {
+    throw RuntimeError::Of(ErrorNumber::FileNotFound, operation, ForPeople(path));
+  }
+}
+
+/// Makes a slot with its source editor and document window, and the page's tab.
+frmMain &MakePage(EditorContext &context) {
+  const int number = context.pages.Grow();
+  SourceEditor(context, number);
+  frmMain &window = PageWindow(context, number);
+  context.mainWindow.AddTab(PageKey(number), PageTabImage);
+  return window;
+}
+
+/// Runs the steps that fill a page just made. Where they fail nothing half-made stays behind:
+/// window, source editor and tab go again (the slot's number stays used), and the error goes on.
+template <typename Steps>
+void FillPage(frmMain &window, Steps steps) {
+  try {
+    steps();
+  } catch (...) {
+    window.MarkKill();
+    window.close();
+    throw;
+  }
+}
+
+/// Loads the file; the HTML it becomes is to be the saved baseline.
+void Load(frmMain &window, const QString &path) {
+  window.DHTML1().LoadDocument(path);
+  window.setWindowTitle(modGeneral::FileNameOfPath(path));
+  window.PendingAction = QStringLiteral("gethtml");
+  window.CheckAcc();
+}
+
+/// Shows a filled page with its tab in front; from now on it follows the selection.
+void Present(EditorContext &context, frmMain &window, const QString &tabCaption) {
+  const QString key = PageKey(window.Number());
+  context.mainWindow.ShowWindow(&window);
+  context.mainWindow.SetTabCaption(key, tabCaption);
+  context.mainWindow.SelectTab(key);
+  window.Ready = QStringLiteral("True");
+  context.mainWindow.SetPageCommandsEnabled(true);
+}
+
+PageRecord RecordOfFile(const QString &path) {
+  PageRecord record;
+  record.Path = path;
+  record.Caption = modGeneral::FileNameOfPath(path);
+  record.TempPath = TemporaryCopyOf(path);
+  return record;
+}
+
+void OpenWritable(EditorContext &context, frmMain &window, const QString &path, Bool16 hasFile) {
+  const int number = window.Number();
+  window.Tag = QString::number(number);
+  Load(window, path);
+  PageRecord record = RecordOfFile(path);
+  record.HasFile = hasFile;
+  context.pages.Record(number) = record;
+  Present(context, window, record.Caption);
+}
+
+void OpenReadOnly(EditorContext &context, frmMain &window, const QString &path) {
+  const int number = window.Number();
+  window.Tag = QString::number(number);
+  PageRecord record = RecordOfFile(path);
+  record.ReadOnly = True16;
+  record.HasFile = True16;
+  record.TempPath.clear();
+  context.pages.Record(number) = record;
+  Load(window, path);
+  Present(context, window, record.Caption + QStringLiteral(" (Read-Only)"));
+}
+
+}  // namespace
+
+const QString &NewPageTemplate() {
+  static const QString text = QStringLiteral(
+      "<html>\r\n"
+      "\r\n"
+      "<head>\r\n"
+      "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=big5\">\r\n"
+      "<meta name=\"GENERATOR\" content=\"Orvane Editor\">\r\n"
+      "<meta name=\"ProgId\" content=\"HTML Editor.Document\">\r\n"
+      "<title>Untitled New Page</title>\r\n"
+      "</head>\r\n"
+      "\r\n"
+      "<BODY text=#000000 vLink=#800080 aLink=#ff0000 link=#0000ff bgColor=#ffffff \r\n"
+      "background=\"\">\r\n"
+      "<P>&nbsp;</P>\r\n"
+      "\r\n"
+      "</BODY>");
+  return text;
+}
+
+QString TemporaryCopyOf(const QString &path) {
+  const QString copy = modGeneral::TemporaryPath(path);
+  return copy == path ? QString() : copy;
+}
+
+bool WriteTemporaryCopy(Files &files, const QString &tempPath, const QString &text) {
+  if (tempPath.isEmpty()) return false;
+  try {
+    modGeneral::WriteTextFile(files, tempPath, text);
+    return true;
+  } catch (const RuntimeError &) {
+    return false;
+  }
+}
+
+frmMain &PageWindow(EditorContext &context, int number) {
+  QPointer<frmMain> &page = context.pages.Page(number);
+  if (page.isNull()) {
+    page = new frmMain(context, number);
+    context.mainWindow.AdoptWindow(page);
+  }
+  return *page;
+}
+
+frmCodeEditor &SourceEditor(EditorContext &context, int number) {
+  QPointer<frmCodeEditor> &editor = context.pages.CodeEditor(number);
+  if (editor.isNull()) {
+    editor = new frmCodeEditor(context, number);
+    editor->Tag = QString::number(number);
+    context.mainWindow.AdoptWindow(editor);
+  }
+  return *editor;
+}
+
+void NewPage(EditorContext &context) {
+  frmMain &window = MakePage(context);
+  FillPage(window, [&] {
+    const int number = window.Number();
+    const QString caption = QStringLiteral("Untitled %1").arg(number);
+    context.mainWindow.ShowWindow(&window);
+    window.Tag = QString::number(number);
+    window.DHTML1().SetDocumentHTML(NewPageTemplate());
+    window.PendingAction = QStringLiteral("gethtml");
+    window.setWindowTitle(caption);
+
+    PageRecord record;
+    record.Caption = caption;
+    record.TempPath =
+        context.platform.runtime.ProgramFolder() + QStringLiteral("\\Temp%1.htm").arg(number);
+    context.pages.Record(number) = record;
+
+    window.Ready = QStringLiteral("True");
+    context.mainWindow.SetTabCaption(PageKey(number), caption);
+    context.mainWindow.SelectTab(PageKey(number));
+    context.mainWindow.SetPageCommandsEnabled(true);
+  });
+}
+
+std::int16_t OpenPage(EditorContext &context, const QString &path) {
+  RequireFile(context, path, QStringLiteral("OpenPage"));
+  bool readOnly = false;
+  frmMain &window = MakePage(context);
+  FillPage(window, [&] {
+    readOnly = context.platform.files.IsReadOnly(path);
+    if (readOnly) {
+      OpenReadOnly(context, window, path);
+    } else {
+      OpenWritable(context, window, path, True16);
+    }
+  });
+  modSettingManager::AddToHistory(context.platform.registry, path);
+  return readOnly ? 1 : 0;
+}
+
+void OpenProjectPage(EditorContext &context, const QString &path) {
+  // The catalogue may spell a name in another letter case than the disk.
+  const QString file = ToLogic(FindIgnoringCase(path));
+  RequireFile(context, file, QStringLiteral("OpenProjectPage"));
+  frmMain &window = MakePage(context);
+  FillPage(window, [&] { OpenWritable(context, window, file, False16); });
+}
+
+}  // namespace velor::modWorkFlow

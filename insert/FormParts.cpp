@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "insert/FormParts.h"
+
+#include "insert/TextBox.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace velor::FormParts {
+namespace {
+
+constexpr int Margin = 14;
+constexpr int Spacing = 10;
+constexpr int NumberWidth = 90;
+
+void Arrange(QFormLayout &form) {
+  form.setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  form.setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  form.setHorizontalSpacing(Spacing);
+  form.setVerticalSpacing(Spacing);
+}
+
+/// Adds `row` under a label that leads to `control`.
+template <typename Row>
+void AddRow(QFormLayout *form, const QString &label, Row *row, QWidget *control) {
+  auto *labelWidget = new QLabel(label);
+  labelWidget->setBuddy(control);
+  form->addRow(labelWidget, row);
+}
+
+}  // namespace
+
+void Name(QWidget &control, const QString &name, const QString &label) {
+  control.setObjectName(name);
+  control.setAccessibleName(QString(label).remove(u'&'));
+}
+
+QVBoxLayout *MakePage(QWidget *page) {
+  auto *layout = new QVBoxLayout(page);
+  layout->setContentsMargins(Margin, Margin, Margin, Margin);
+  layout->setSpacing(Spacing);
+  return layout;
+}
+
+QFormLayout *AddForm(QVBoxLayout *page) {
+  auto *form = new QFormLayout;
+  Arrange(*form);
+  // As far in as the forms within frames are.
+  form->setContentsMargins(Margin, 0, Margin, 0);
+  page->addLayout(form);
+  return form;
+}
+
+QFormLayout *AddFrame(QVBoxLayout *page, const QString &title) {
+  auto *frame = new QGroupBox(title);
+  page->addWidget(frame);
+  auto *form = new QFormLayout(frame);
+  Arrange(*form);
+  form->setContentsMargins(Margin, Spacing, Margin, Margin);
+  return form;
+}
+
+TextBox *AddTextBox(QFormLayout *form, const QString &name, const QString &label,
+                    QPushButton *beside) {
+  auto *box = new TextBox;
+  Name(*box, name, label);
+  auto *row = new QHBoxLayout;
+  row->setSpacing(Spacing);
+  row->addWidget(box);
+  if (beside) row->addWidget(beside);
+  AddRow(form, label, row, box);
+  return box;
+}
+
+TextBox *AddNumberBox(QFormLayout *form, const QString &name, const QString &label,
+                      const QString &value, const QString &unit) {
+  auto *box = new TextBox(value);
+  Name(*box, name, label);
+  box->setFixedWidth(NumberWidth);
+  auto *row = new QHBoxLayout;
+  row->setSpacing(Spacing);
+  row->addWidget(box);
+  if (!unit.isEmpty()) row->addWidget(new QLabel(unit));
+  row->addStretch();
+  AddRow(form, label, row, box);
+  return box;
+}
+
+void AddControl(QFormLayout *form, const QString &name, const QString &label, QWidget *control) {
+  Name(*control, name, label);
+  AddRow(form, label, control, control);
+}
+
+QComboBox *AddComboBox(QFormLayout *form, const QString &name, const QString &label,
+                       const QStringList &items) {
+  auto *box = new QComboBox;
+  box->addItems(items);
+  AddControl(form, name, label, box);
+  return box;
+}
+
+QCheckBox *AddCheckBox(QFormLayout *form, const QString &name, const QString &caption) {
+  auto *box = new QCheckBox(caption);
+  Name(*box, name, caption);
+  form->addRow(box);
+  return box;
+}
+
+QPushButton *MakeButton(const QString &name, const QString &caption) {
+  auto *button = new QPushButton(caption);
+  Name(*button, name, caption);
+  button->setAutoDefault(false);
+  return button;
+}
+
+void AddButtonRow(QVBoxLayout *window, std::initializer_list<QPushButton *> buttons) {
+  auto *row = new QHBoxLayout;
+  row->setSpacing(Spacing);
+  row->addStretch();
+  for (QPushButton *button : buttons) row->addWidget(button);
+  (*buttons.begin())->setDefault(true);
+  window->addLayout(row);
+}
+
+void AlignLabels(QWidget *page) {
+  QList<QLabel *> labels;
+  int width = 0;
+  for (QLabel *label : page->findChildren<QLabel *>()) {
+    if (!label->buddy()) continue;
+    labels.append(label);
+    width = std::max(width, label->sizeHint().width());
+  }
+  for (QLabel *label : labels) label->setMinimumWidth(width);
+}
+
+}  // namespace velor::FormParts

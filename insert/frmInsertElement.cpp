@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "insert/frmInsertElement.h"
+
+#include "chrome/StylingSweeps.h"
+#include "insert/LinkPaths.h"
+#include "insert/PictureLoading.h"
+#include "insert/TextBox.h"
+#include "platform/Dialogs.h"
+#include "platform/Platform.h"
+#include "platform/RuntimeError.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+
+namespace velor {
+namespace {
+
+const QString ImageFiles = QStringLiteral(
+    "All Image Files (*.jpg, *.gif, *.bmp, *.png, *.tif, *.wmf, *.tga)|"
+    "*.jpg;*.jpeg;*.gif;*.bmp;*.png;*.tif;*.tiff;*.wmf;*.tga;*.ras;*.pcd;*.pcx;*.eps");
+const QString AllFiles = QStringLiteral("All Files *.*|*.*");
+const QString ExampleAddress = QStringLiteral("someone@example.com");
+
+/// The element modes in the order of their pages.
+const QStringList ElementModes = {QStringLiteral("image"), QStringLiteral("hyperlink"),
+                                  QStringLiteral("target"), QStringLiteral("video")};
+
+}  // namespace
+
+frmInsertElement::frmInsertElement(Platform &platform, StylingSweeps *sweeps, QWidget *parent)
+    : QDialog(parent), platform_(platform) {
+  Build();
+  Connect();
+  if (sweeps) {
+    sweeps->ThinEdgeByType(*this, QStringLiteral("commandbutton"));
+    sweeps->ThinEdgeByType(*this, QStringLiteral("textbox"));
+    sweeps->ThinEdgeByType(*this, QStringLiteral("listbox"));
+    sweeps->FlatComboSweep(*this);
+  }
+  SSTab1->setTabEnabled(2, false);
+  SSTab1->setTabEnabled(3, false);
+}
+
+frmInsertElement::~frmInsertElement() = default;
+
+void frmInsertElement::Connect() {
+  const auto onClick = [this](const char16_t *name, auto action) {
+    connect(findChild<QPushButton *>(QString::fromUtf16(name)), &QPushButton::clicked, this,
+            action);
+  };
+  onClick(u"cmdBrowseIMG", &frmInsertElement::BrowseForImage);
+  onClick(u"cmdABrowse", &frmInsertElement::BrowseForLinkTarget);
+  onClick(u"cmdAEmail", &frmInsertElement::AskForMailAddress);
+  onClick(u"cmdOK", &frmInsertElement::Accept);
+  onClick(u"cmdCancel", &QDialog::reject);
+
+  connect(chkIMGSize, &QCheckBox::clicked, this, [this](bool checked) {
+    txtIMGHeight->setEnabled(checked);
+    txtIMGWidth->setEnabled(checked);
+  });
+  connect(chkVIDSize, &QCheckBox::clicked, this, [this](bool checked) {
+    txtVIDHeight->setEnabled(checked);
+    txtVIDWidth->setEnabled(checked);
+  });
+  connect(chkForever, &QCheckBox::clicked, txtVidLoop, &QWidget::setDisabled);
+}
+
+void frmInsertElement::PrepareInsert(const QString &elementMode, HtmlDocument &document,
+                                     const QString &savedPath) {
+  SavedMode = savedPath.isEmpty() ? QStringLiteral("false") : QStringLiteral("true");
+  if (!savedPath.isEmpty()) FilePath = savedPath;
+  IsCreator = true;
+  TheDOM = &document;
+  InsertMode = QStringLiteral("true");
+  ElementMode = elementMode;
+
+  const int page = static_cast<int>(ElementModes.indexOf(elementMode));
+  SSTab1->setTabEnabled(page, true);
+  SSTab1->setCurrentIndex(page);
+  for (int other = 0; other < SSTab1->count(); ++other) {
+    if (other != page) SSTab1->setTabEnabled(other, false);
+  }
+  firstBoxes_.at(static_cast<std::size_t>(page))->setFocus();
+}
+
+QString frmInsertElement::GenerateCode(std::int32_t &InsertWhat) {
+  switch (InsertWhat) {
+    case 1:
+      return ImageHtml(Values());
+    case 2:
+      inHyperlink = CreateScratchElement(QStringLiteral("A"));
+      break;
+    case 3:
+      inTarget = CreateScratchElement(QStringLiteral("A"));
+      break;
+    case 4:
+      inVideo = CreateScratchElement(QStringLiteral("IMG"));
+      break;
+    default:
+      break;
+  }
+  return {};
+}
+
+ImageValues frmInsertElement::Values() const {
+  return {.source = txtImgSource->text(),
+          .alternativeText = txtAlt->text(),
+          .lowResolutionSource = txtLowRes->text(),
+          .alignment = cobIMGAlign->currentText(),
+          .border = txtIMGBorder->text(),
+          .horizontalSpacing = txtIMGHSpac->text(),
+          .verticalSpacing = txtIMGVspac->text(),
+          .sizeSource = chkIMGSize->isChecked() ? SizeSource::Boxes : SizeSource::Picture,
+          .height = txtIMGHeight->text(),
+          .width = txtIMGWidth->text(),
+          .picture = picture_};
+}
+
+void frmInsertElement::Accept() {
+  if (InsertMode == u"true" && ElementMode == u"image") {
+    std::int32_t image = 1;
+    const QString failure =
+        InsertHtmlAtSelection(platform_.runtime, IsCreator, GenerateCode(image), TheDOM, TheCode);
+    if (!failure.isEmpty()) Q_EMIT Reported(failure);
+  }
+  accept();
+}
+
+QString frmInsertElement::Browse(const QString &filter) {
+  if (!fileDialog_) fileDialog_ = platform_.components.CreateFileDialog();
+  return BrowseForFile(*fileDialog_, filter);
+}
+
+void frmInsertElement::BrowseForImage() {
+  const QString file = Browse(ImageFiles);
+  try {
+    ShowPicture(file);
+    FillWithLink(txtImgSource, file);
+  } catch (const RuntimeError &error) {
+    Q_EMIT Reported(error.Description());
+  }
+}
+
+void frmInsertElement::BrowseForLinkTarget() {
+  const QString file = Browse(AllFiles);
+  try {
+    FillWithLink(txtHref, file);
+  } catch (const RuntimeError &error) {
+    Q_EMIT Reported(error.Description());
+  }
+}
+
+void frmInsertElement::FillWithLink(TextBox *box, const QString &file) {
+  if (SavedMode == u"true") {
+    box->setText(MakeRelativeLink(FilePath, file));
+  } else if (SavedMode == u"false") {
+    box->setText(MakeAbsoluteLink(file));
+  }
+}
+
+void frmInsertElement::ShowPicture(const QString &file) {
+  const qreal ratio = devicePixelRatioF();
+  const LoadedPicture picture = LoadPicture(file, picPreview->contentsRect().size() * ratio);
+  picture_ = PictureSize::OfPixels(picture.pixels.height(), picture.pixels.width());
+  QPixmap pixmap = QPixmap::fromImage(picture.preview);
+  pixmap.setDevicePixelRatio(ratio);
+  picPreview->setPixmap(pixmap);
+  previewCaption_->setText(picture.pixels.isEmpty() ? QString()
+                                                    : QStringLiteral("%1 × %2 pixels")
+                                                          .arg(picture.pixels.width())
+                                                          .arg(picture.pixels.height()));
+}
+
+void frmInsertElement::AskForMailAddress() {
+  const QString answer =
+      platform_.dialogs.AskText(QStringLiteral("Please enter the E-mail Address."),
+                                QStringLiteral("Link to a E-mail Address"), ExampleAddress);
+  if (!answer.isEmpty()) txtHref->setText(QStringLiteral("mailto:") + answer);
+}
+
+}  // namespace velor

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "insert/ElementHtml.h"
+#include "platform/HtmlDocument.h"
+
+#include <QDialog>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QTabWidget;
+
+namespace velor {
+
+class FileDialog;
+class SourceControl;
+class StylingSweeps;
+class TextBox;
+struct Platform;
+
+/// The element dialog: pages for a picture, a hyperlink, a bookmark and a video. Only a picture
+/// reaches the document; OK on the other pages, and in edit mode, changes nothing.
+///
+/// One instance serves the whole run: OK, Cancel and the close box hide it, so that every field is
+/// found as it was left. Shown modally by the caller.
+class frmInsertElement : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// Without `sweeps` the controls keep the palette's own look.
+  frmInsertElement(Platform &platform, StylingSweeps *sweeps, QWidget *parent = nullptr);
+  ~frmInsertElement() override;
+
+  // What a showing is about; see PrepareInsert.
+  HtmlDocument *TheDOM = nullptr;
+  SourceControl *TheCode = nullptr;
+  HtmlElement inImage;
+  HtmlElement inHyperlink;
+  HtmlElement inTarget;
+  HtmlElement inVideo;
+  /// "true" inserts; any other text edits.
+  QString InsertMode;
+  /// "image", "video", "hyperlink" or "target".
+  QString ElementMode;
+  /// "true" when the page has a file, which FilePath then names; else "false".
+  QString SavedMode;
+  QString FilePath;
+  /// Whether the result goes into TheDOM rather than TheCode.
+  bool IsCreator = false;
+
+  /// Sets the fields for inserting an element of that mode into `document` and brings up its page,
+  /// the only one available. `savedPath` is the page's file, empty while it has none.
+  void PrepareInsert(const QString &elementMode, HtmlDocument &document, const QString &savedPath);
+
+  /// 1 gives the picture's HTML; 2, 3 and 4 make a fresh element in inHyperlink, inTarget or
+  /// inVideo and give the empty text, as every other number does.
+  QString GenerateCode(std::int32_t &InsertWhat);
+
+ Q_SIGNALS:
+  /// An operation that fails silently for the dialog's user: what failed, for the status bar.
+  void Reported(const QString &message);
+
+ private:
+  // Building (frmInsertElementPages.cpp).
+  void Build();
+  QWidget *BuildImagePage();
+  QWidget *BuildHyperlinkPage();
+  QWidget *BuildTargetPage();
+  QWidget *BuildVideoPage();
+
+  void Connect();
+  void Accept();
+  void BrowseForImage();
+  void BrowseForLinkTarget();
+  void AskForMailAddress();
+  /// Fills `box` with the link from the page to the file.
+  void FillWithLink(TextBox *box, const QString &file);
+  QString Browse(const QString &filter);
+  void ShowPicture(const QString &file);
+  ImageValues Values() const;
+
+  Platform &platform_;
+  std::unique_ptr<FileDialog> fileDialog_;
+  PictureSize picture_;
+
+  QTabWidget *SSTab1 = nullptr;
+  /// The box of each page in which typing starts.
+  std::array<TextBox *, 4> firstBoxes_{};
+
+  TextBox *txtImgSource = nullptr;
+  TextBox *txtLowRes = nullptr;
+  TextBox *txtAlt = nullptr;
+  QLabel *picPreview = nullptr;
+  QLabel *previewCaption_ = nullptr;
+  QComboBox *cobIMGAlign = nullptr;
+  TextBox *txtIMGBorder = nullptr;
+  TextBox *txtIMGHSpac = nullptr;
+  TextBox *txtIMGVspac = nullptr;
+  QCheckBox *chkIMGSize = nullptr;
+  TextBox *txtIMGHeight = nullptr;
+  TextBox *txtIMGWidth = nullptr;
+
+  TextBox *txtHref = nullptr;
+
+  TextBox *txtVidLoop = nullptr;
+  QCheckBox *chkForever = nullptr;
+  QCheckBox *chkVIDSize = nullptr;
+  TextBox *txtVIDHeight = nullptr;
+  TextBox *txtVIDWidth = nullptr;
+};
+
+}  // namespace velor

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The element dialog's pages: which controls there are, where they stand and what they say.
+#include "insert/FormParts.h"
+#include "insert/TextBox.h"
+#include "insert/frmInsertElement.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace velor {
+namespace {
+
+using namespace FormParts;
+
+constexpr QSize PreviewBounds(320, 180);
+
+/// "Botton" goes into pages as it stands and is never corrected.
+const QStringList Alignments = {
+    QStringLiteral("Default"),   QStringLiteral("Left"),     QStringLiteral("Right"),
+    QStringLiteral("Top"),       QStringLiteral("Texttop"),  QStringLiteral("Middle"),
+    QStringLiteral("Absmiddle"), QStringLiteral("Baseline"), QStringLiteral("Botton"),
+    QStringLiteral("Absbottom"), QStringLiteral("Center")};
+
+const QStringList TargetFrames = {QStringLiteral("None"), QStringLiteral("_self"),
+                                  QStringLiteral("_top"), QStringLiteral("_blank"),
+                                  QStringLiteral("_parent")};
+
+/// A titled list with a button that belongs to it.
+void AddBookmarkList(QFormLayout *form, const QString &name, const QString &label,
+                     const QString &refreshName) {
+  auto *list = new QListWidget;
+  Name(*list, name, label);
+  auto *title = new QLabel(label);
+  title->setBuddy(list);
+  form->addRow(title);
+  form->addRow(list);
+  form->addRow(MakeButton(refreshName, QStringLiteral("&Refresh")));
+}
+
+/// Two pages, "General" and "Appearance", filled by the callers.
+struct HalvedPage {
+  QTabWidget *tabs;
+  QVBoxLayout *general;
+  QVBoxLayout *appearance;
+
+  HalvedPage(const QString &name, const QString &label) : tabs(new QTabWidget) {
+    Name(*tabs, name, label);
+    auto *generalPage = new QWidget;
+    auto *appearancePage = new QWidget;
+    general = MakePage(generalPage);
+    appearance = MakePage(appearancePage);
+    tabs->addTab(generalPage, QStringLiteral("General"));
+    tabs->addTab(appearancePage, QStringLiteral("Appearance"));
+  }
+};
+
+}  // namespace
+
+void frmInsertElement::Build() {
+  setObjectName(QStringLiteral("frmInsertElement"));
+  setWindowTitle(QStringLiteral("Element Information..."));
+  setModal(true);
+
+  SSTab1 = new QTabWidget;
+  Name(*SSTab1, QStringLiteral("SSTab1"), QStringLiteral("Element"));
+  QVBoxLayout *window = MakePage(this);
+  window->addWidget(SSTab1, 1);
+  SSTab1->addTab(BuildImagePage(), QStringLiteral("Image"));
+  SSTab1->addTab(BuildHyperlinkPage(), QStringLiteral("Hyperlink"));
+  SSTab1->addTab(BuildTargetPage(), QStringLiteral("Target"));
+  SSTab1->addTab(BuildVideoPage(), QStringLiteral("Video"));
+  for (int i = 0; i < SSTab1->count(); ++i) AlignLabels(SSTab1->widget(i));
+  AddButtonRow(window, {MakeButton(QStringLiteral("cmdOK"), QStringLiteral("OK")),
+                        MakeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"))});
+}
+
+QWidget *frmInsertElement::BuildImagePage() {
+  const HalvedPage page(QStringLiteral("SSTab2"), QStringLiteral("Image"));
+
+  txtImgSource = AddTextBox(
+      AddForm(page.general), QStringLiteral("txtImgSource"), QStringLiteral("Image Source:"),
+      MakeButton(QStringLiteral("cmdBrowseIMG"), QStringLiteral("&Browse...")));
+  QFormLayout *alternative = AddFrame(page.general, QStringLiteral("Alternative"));
+  txtLowRes =
+      AddTextBox(alternative, QStringLiteral("txtLowRes"), QStringLiteral("Low Resolution:"),
+                 MakeButton(QStringLiteral("cmdBrowseLowRes"), QStringLiteral("&Browse...")));
+  txtAlt = AddTextBox(alternative, QStringLiteral("txtAlt"), QStringLiteral("Alternative Text:"));
+  picPreview = new QLabel;
+  Name(*picPreview, QStringLiteral("picPreview"), QStringLiteral("Preview"));
+  picPreview->setFrameShape(QFrame::StyledPanel);
+  picPreview->setAlignment(Qt::AlignCenter);
+  picPreview->setMinimumSize(PreviewBounds);
+  // The frame follows the dialog, never the picture.
+  picPreview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  page.general->addWidget(picPreview, 1);
+  previewCaption_ = new QLabel;
+  previewCaption_->setObjectName(QStringLiteral("lblPreviewSize"));
+  previewCaption_->setAlignment(Qt::AlignCenter);
+  page.general->addWidget(previewCaption_);
+
+  QFormLayout *layout = AddFrame(page.appearance, QStringLiteral("Layout"));
+  const QString zero = QStringLiteral("0");
+  const QString pixels = QStringLiteral("32");
+  cobIMGAlign =
+      AddComboBox(layout, QStringLiteral("cobIMGAlign"), QStringLiteral("Alignment:"), Alignments);
+  txtIMGBorder = AddNumberBox(layout, QStringLiteral("txtIMGBorder"),
+                              QStringLiteral("Border thickness:"), zero);
+  txtIMGHSpac = AddNumberBox(layout, QStringLiteral("txtIMGHSpac"),
+                             QStringLiteral("Horizontal Spacing:"), zero);
+  txtIMGVspac = AddNumberBox(layout, QStringLiteral("txtIMGVspac"),
+                             QStringLiteral("Vertical Spacing:"), zero);
+  QFormLayout *size = AddFrame(page.appearance, QStringLiteral("Size"));
+  chkIMGSize =
+      AddCheckBox(size, QStringLiteral("chkIMGSize"), QStringLiteral("Use &Specific Size"));
+  txtIMGHeight =
+      AddNumberBox(size, QStringLiteral("txtIMGHeight"), QStringLiteral("Height:"), pixels);
+  txtIMGWidth = AddNumberBox(size, QStringLiteral("txtIMGWidth"), QStringLiteral("Width:"), pixels);
+  page.appearance->addStretch();
+
+  for (TextBox *box : {txtIMGBorder, txtIMGHSpac, txtIMGVspac}) box->RepairNumberTo(zero);
+  for (TextBox *box : {txtIMGHeight, txtIMGWidth}) {
+    box->RepairNumberTo(pixels);
+    box->setEnabled(false);
+  }
+  firstBoxes_[0] = txtImgSource;
+  return page.tabs;
+}
+
+QWidget *frmInsertElement::BuildHyperlinkPage() {
+  auto *page = new QWidget;
+  QVBoxLayout *rows = MakePage(page);
+  QPushButton *browse = MakeButton(QStringLiteral("cmdABrowse"), QStringLiteral("B&rowse..."));
+  browse->setToolTip(QStringLiteral("Browse from your computer and Link to a file"));
+  QPushButton *mail = MakeButton(QStringLiteral("cmdAEmail"), QStringLiteral("&E-mail..."));
+  mail->setToolTip(QStringLiteral("Link to a E-mail Address"));
+  for (QPushButton *button : {browse, mail}) button->setAccessibleName(button->toolTip());
+
+  QFormLayout *link = AddForm(rows);
+  txtHref =
+      AddTextBox(link, QStringLiteral("txtHref"), QStringLiteral("Anchor Element Href:"), browse);
+  AddComboBox(link, QStringLiteral("cobATarget"), QStringLiteral("Target Frame:"), TargetFrames);
+  QFormLayout *special = AddFrame(rows, QStringLiteral("Special Links:"));
+  special->addRow(mail);
+  AddBookmarkList(special, QStringLiteral("lstABookMark"),
+                  QStringLiteral("Link to a Bookmark (Target):"), QStringLiteral("cmdRefreshA"));
+  firstBoxes_[1] = txtHref;
+  return page;
+}
+
+QWidget *frmInsertElement::BuildTargetPage() {
+  auto *page = new QWidget;
+  QFormLayout *form = AddForm(MakePage(page));
+  firstBoxes_[2] =
+      AddTextBox(form, QStringLiteral("txtBookmarkName"), QStringLiteral("Bookmark Name: "));
+  AddBookmarkList(form, QStringLiteral("lstOtherBookmark"),
+                  QStringLiteral("Other bookmarks in this page:"),
+                  QStringLiteral("cmdRefreshOther"));
+  return page;
+}
+
+QWidget *frmInsertElement::BuildVideoPage() {
+  const HalvedPage page(QStringLiteral("SSTab3"), QStringLiteral("Video"));
+
+  QFormLayout *source = AddForm(page.general);
+  firstBoxes_[3] =
+      AddTextBox(source, QStringLiteral("txtVidSource"), QStringLiteral("Video Source:"),
+                 MakeButton(QStringLiteral("Command1"), QStringLiteral("&Browse...")));
+  AddCheckBox(source, QStringLiteral("chkShowControl"),
+              QStringLiteral("&Show controls in Browser"));
+  QFormLayout *repeat = AddFrame(page.general, QStringLiteral("Repeat"));
+  txtVidLoop = AddNumberBox(repeat, QStringLiteral("txtVidLoop"), QStringLiteral("&Loop:"),
+                            QStringLiteral("1"));
+  chkForever = AddCheckBox(repeat, QStringLiteral("chkForever"), QStringLiteral("Forever"));
+  AddNumberBox(repeat, QStringLiteral("txtVidLoopDelay"), QStringLiteral("Loop &delay:"),
+               QStringLiteral("0"), QStringLiteral("Milliseconds"));
+  QFormLayout *start = AddFrame(page.general, QStringLiteral("Start"));
+  AddCheckBox(start, QStringLiteral("chkVidOnOpen"), QStringLiteral("On file open"));
+  AddCheckBox(start, QStringLiteral("chkVidMouseOver"), QStringLiteral("On mouse over"));
+  AddCheckBox(AddForm(page.general), QStringLiteral("chkMouseOver"),
+              QStringLiteral("Start on &Mouse Over"));
+  page.general->addStretch();
+
+  QFormLayout *layout = AddFrame(page.appearance, QStringLiteral("Layout"));
+  const QString zero = QStringLiteral("0");
+  const QString pixels = QStringLiteral("32");
+  AddComboBox(layout, QStringLiteral("cobVIDAlign"), QStringLiteral("Alignment:"), Alignments);
+  AddNumberBox(layout, QStringLiteral("txtVIDBorder"), QStringLiteral("Border thickness:"),
+               QStringLiteral("1"));
+  AddNumberBox(layout, QStringLiteral("txtVIDHSpac"), QStringLiteral("Horizontal Spacing:"), zero);
+  AddNumberBox(layout, QStringLiteral("txtVIDVspac"), QStringLiteral("Vertical Spacing:"), zero);
+  QFormLayout *size = AddFrame(page.appearance, QStringLiteral("Size"));
+  chkVIDSize =
+      AddCheckBox(size, QStringLiteral("chkVIDSize"), QStringLiteral("Use &Specific Size"));
+  txtVIDHeight =
+      AddNumberBox(size, QStringLiteral("txtVIDHeight"), QStringLiteral("Height:"), pixels);
+  txtVIDWidth = AddNumberBox(size, QStringLiteral("txtVIDWidth"), QStringLiteral("Width:"), pixels);
+  page.appearance->addStretch();
+
+  for (TextBox *box : {txtVIDHeight, txtVIDWidth}) box->RepairNumberTo(pixels);
+  return page.tabs;
+}
+
+}  // namespace velor

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/Paths.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStringList>
+
+#include <optional>
+
+namespace velor {
+
+namespace {
+
+/// Stands for a real backslash of a native name while "\" separates folders.
+constexpr char16_t BackslashInName = 0xF05C;
+
+bool NativeIsLogic() {
+  return QDir::separator() == u'\\';
+}
+
+/// An existing path below `folder` for names[at] and on; at each level the exact name first.
+std::optional<QString> Find(const QString &folder, const QStringList &names, qsizetype at) {
+  if (at == names.size()) return folder;
+  const QString prefix = folder.isEmpty() || folder.endsWith(u'/') ? folder : folder + u'/';
+  const QString exact = prefix + names[at];
+  if (QFileInfo::exists(exact)) {
+    if (const auto found = Find(exact, names, at + 1)) return found;
+  }
+  const QDir::Filters everything = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+  for (const QString &entry : QDir(folder).entryList(everything, QDir::Name)) {
+    if (entry == names[at] || entry.compare(names[at], Qt::CaseInsensitive) != 0) continue;
+    if (const auto found = Find(prefix + entry, names, at + 1)) return found;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+QString ToLogic(const QString &nativePath) {
+  if (NativeIsLogic()) return nativePath;
+  QString logic = nativePath;
+  return logic.replace(u'\\', QChar(BackslashInName)).replace(u'/', u'\\');
+}
+
+QString ToNative(const QString &logicPath) {
+  if (NativeIsLogic()) return logicPath;
+  QString native = logicPath;
+  return native.replace(u'\\', u'/').replace(QChar(BackslashInName), u'\\');
+}
+
+QString ForPeople(const QString &path) {
+  const bool fromRoot = path.startsWith(u'\\') && !path.startsWith(u"\\\\");
+  return fromRoot ? ToNative(path) : path;
+}
+
+QString FromPeople(const QString &text) {
+  // A text from the root is native, and its backslashes belong to names. In any other the
+  // separators are all that can be meant.
+  if (text.startsWith(u'/')) return ToLogic(text);
+  QString logic = text;
+  return logic.replace(u'/', u'\\');
+}
+
+bool IsDrivePath(const QString &path) {
+  return path.size() >= 2 && path[1] == u':' && path[0].unicode() < 0x80 && path[0].isLetter();
+}
+
+QUrl ToUrl(const QString &logicPath) {
+  return QUrl::fromLocalFile(ToNative(logicPath));
+}
+
+QString FindIgnoringCase(const QString &logicPath) {
+  const QString native = ToNative(logicPath);
+  if (NativeIsLogic() || QFileInfo::exists(native)) return native;
+  const QString root = native.startsWith(u'/') ? QStringLiteral("/") : QString();
+  return Find(root, native.split(u'/', Qt::SkipEmptyParts), 0).value_or(native);
+}
+
+}  // namespace velor

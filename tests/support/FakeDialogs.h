@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "tests/support/CallLog.h"
+
+#include <deque>
+#include <functional>
+#include <variant>
+#include <vector>
+
+class QWidget;
+
+namespace velor {
+
+/// A person who answers what the test foresaw, in that order. A message, question or window that
+/// was not foreseen fails the test, and so does one that was foreseen and never came.
+class FakeDialogs final : public Dialogs {
+ public:
+  explicit FakeDialogs(CallLog *log = nullptr) : log_(log) {}
+  ~FakeDialogs() override;
+  FakeDialogs(const FakeDialogs &) = delete;
+  FakeDialogs &operator=(const FakeDialogs &) = delete;
+
+  void ExpectMessage(const QString &text, MessageAnswer answer = MessageAnswer::Ok);
+  void ExpectQuestion(const QString &prompt, const QString &answer);
+  /// `person` acts on the window in place of its event loop.
+  void ExpectModal(std::function<void(QWidget &)> person);
+
+  /// Every message shown, whole, for what ExpectMessage does not compare.
+  std::vector<Message> messages;
+
+  MessageAnswer ShowMessage(const Message &message) override;
+  QString AskText(const QString &prompt, const QString &title,
+                  const QString &defaultAnswer) override;
+  void RunModal(QWidget &dialog) override;
+
+ private:
+  struct ExpectedMessage {
+    QString text;
+    MessageAnswer answer;
+  };
+  struct ExpectedQuestion {
+    QString prompt;
+    QString answer;
+  };
+  struct ExpectedModal {
+    std::function<void(QWidget &)> person;
+  };
+
+  template <typename Expected>
+  bool Take(Expected &expected, const QString &call);
+
+  std::deque<std::variant<ExpectedMessage, ExpectedQuestion, ExpectedModal>> expected_;
+  CallLog *log_;
+};
+
+}  // namespace velor

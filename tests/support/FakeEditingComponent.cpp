@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/FakeEditingComponent.h"
+
+#include <QRegularExpression>
+
+#include <utility>
+
+namespace velor {
+
+/// The fake's selection as a range.
+class FakeTextRange final : public TextRange {
+ public:
+  explicit FakeTextRange(FakeEditingComponent &component)
+      : component_(component), start_(component.selectionStart), end_(component.selectionEnd) {}
+
+  void Collapse() override { end_ = start_; }
+  HtmlElement ParentElement() const override { return component_.element; }
+  void PasteHTML(const QString &html) override {
+    component_.Log(QStringLiteral("PasteHTML(%1)").arg(html));
+    component_.current_.replace(start_, end_ - start_, html);
+    start_ = end_ = component_.selectionStart = component_.selectionEnd = start_ + html.size();
+  }
+
+ private:
+  FakeEditingComponent &component_;
+  qsizetype start_;
+  qsizetype end_;
+};
+
+FakeEditingComponent::FakeEditingComponent(Files &files, QWidget *parent, std::vector<QString> *log)
+    : files_(files), log_(log != nullptr ? log : &ownLog_), widget_(new QWidget(parent)) {
+  widget_->setFocusPolicy(Qt::StrongFocus);
+  completion_.setSingleShot(true);
+  completion_.setInterval(1);
+  QObject::connect(&completion_, &QTimer::timeout, [this] { CompleteDocument(); });
+}
+
+FakeEditingComponent::~FakeEditingComponent() {
+  delete widget_;
+}
+
+void FakeEditingComponent::TypeText(const QString &text) {
+  FakeTextRange(*this).PasteHTML(text);
+  log_->pop_back();
+  ChangeDisplay();
+}
+
+void FakeEditingComponent::Edit(const QString &html) {
+  current_ = html;
+}
+
+void FakeEditingComponent::CompleteDocument() {
+  completion_.stop();
+  if (listener_ != nullptr) listener_->DocumentComplete();
+}
+
+void FakeEditingComponent::ChangeDisplay() {
+  if (listener_ != nullptr) listener_->DisplayChanged();
+}
+
+void FakeEditingComponent::RequestContextMenu(QPoint screenPosition) {
+  if (listener_ != nullptr) listener_->ContextMenuRequested(screenPosition);
+}
+
+void FakeEditingComponent::NotifyMouse(int clientX, int clientY) {
+  if (listener_ != nullptr) listener_->MouseNotified(clientX, clientY);
+}
+
+void FakeEditingComponent::Report(const QString &message) {
+  if (listener_ != nullptr) listener_->ComponentReported(message);
+}
+
+QWidget *FakeEditingComponent::Widget() {
+  return widget_;
+}
+
+void FakeEditingComponent::SetListener(EditingListener *listener) {
+  listener_ = listener;
+}
+
+void FakeEditingComponent::SetFocus() {
+  Log(QStringLiteral("SetFocus()"));
+  if (widget_ != nullptr) widget_->setFocus();
+}
+
+void FakeEditingComponent::SetToolTip(const QString &text) {
+  Log(QStringLiteral("SetToolTip(%1)").arg(text));
+  toolTip = text;
+  if (widget_ != nullptr) widget_->setToolTip(text);
+}
+
+QString FakeEditingComponent::DocumentHTML() {
+  Log(QStringLiteral("DocumentHTML()"));
+  return current_;
+}
+
+void FakeEditingComponent::SetDocumentHTML(const QString &html) {
+  Log(QStringLiteral("SetDocumentHTML(%1)").arg(html));
+  const PageEncoding encoding = DeclaredEncoding(html);
+  Take({EncodePage(html, encoding), {html, encoding}, {}});
+}
+
+void FakeEditingComponent::LoadDocument(const QString &path) {
+  Log(QStringLiteral("LoadDocument(%1)").arg(path));
+  if (const auto failure = std::exchange(nextLoadFailure, std::nullopt)) throw *failure;
+  const QByteArray bytes = files_.ReadAll(path);
+  Take({bytes, DecodePage(bytes), {}});
+}
+
+void FakeEditingComponent::SaveDocument(const QString &path) {
+  Log(QStringLiteral("SaveDocument(%1)").arg(path));
+  if (const auto failure = std::exchange(nextSaveFailure, std::nullopt)) throw *failure;
+  files_.ReplaceAll(path, ComposePage(original_, current_).bytes);
+}
+
+QString FakeEditingComponent::TextToSave() {
+  Log(QStringLiteral("TextToSave()"));
+  return ComposePage(original_, current_).text;
+}
+
+QString FakeEditingComponent::Charset() const {
+  return original_.page.encoding.charset;
+}
+
+QVariant FakeEditingComponent::ExecCommand(int command, ExecOption option, const QVariant &value) {
+  QString call = QStringLiteral("ExecCommand(%1").arg(command);
+  if (option != ExecOption::Default)
+    call += QStringLiteral(", option %1").arg(static_cast<int>(option));
+  if (value.isValid()) call += QStringLiteral(", %1").arg(value.toString());
+  Log(call + u')');
+  const auto answer = values.find(command);
+  return answer != values.end() ? answer->second : QVariant(QString());
+}
+
+CommandStatus FakeEditingComponent::QueryStatus(int command) const {
+  Log(QStringLiteral("QueryStatus(%1)").arg(command));
+  const auto status = statuses.find(command);
+  return status != statuses.end() ? status->second : CommandStatus::Enabled;
+}
+
+HtmlDocument &FakeEditingComponent::Document() {
+  return *this;
+}
+
+bool FakeEditingComponent::ShowDetails() const {
+  return showDetails_;
+}
+
+void FakeEditingComponent::SetShowDetails(bool on) {
+  Log(QStringLiteral("SetShowDetails(%1)").arg(on ? u"True" : u"False"));
+  showDetails_ = on;
+}
+
+bool FakeEditingComponent::SnapToGrid() const {
+  return snapToGrid_;
+}
+
+void FakeEditingComponent::SetSnapToGrid(bool on) {
+  Log(QStringLiteral("SetSnapToGrid(%1)").arg(on ? u"True" : u"False"));
+  snapToGrid_ = on;
+}
+
+DocumentSelection &FakeEditingComponent::Selection() {
+  return *this;
+}
+
+SelectionType FakeEditingComponent::Type() const {
+  return selectionType;
+}
+
+std::unique_ptr<TextRange> FakeEditingComponent::CreateRange() {
+  return std::make_unique<FakeTextRange>(*this);
+}
+
+HtmlElement FakeEditingComponent::ControlElement() const {
+  return selectionType == SelectionType::Control ? element : HtmlElement{};
+}
+
+void FakeEditingComponent::Log(const QString &call) const {
+  log_->push_back(call);
+}
+
+void FakeEditingComponent::Take(PageOriginal original) {
+  original_ = std::move(original);
+  current_ = WithLineEnds(original_.page.text, LineEnds::Lf);
+  original_.baseline = current_;
+  static const QRegularExpression body(QStringLiteral("<body[^>]*>"),
+                                       QRegularExpression::CaseInsensitiveOption);
+  const QRegularExpressionMatch match = body.match(current_);
+  selectionStart = selectionEnd = match.hasMatch() ? match.capturedEnd() : 0;
+  completion_.start();
+}
+
+}  // namespace velor

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/EditingComponent.h"
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+#include "platform/html/PageText.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace velor {
+
+/// An editing component without an engine: the document is a text, the selection a stretch of it,
+/// states and values are what the test scripts. It keeps the real one's promises (loading and
+/// saving through Files, the completion notice after the call has returned), and writes down every
+/// call as "Name(arguments)".
+class FakeEditingComponent final : public EditingComponent,
+                                   public HtmlDocument,
+                                   public DocumentSelection {
+ public:
+  /// `log`: where calls are written, so that several fakes share one order; its own when null.
+  FakeEditingComponent(Files &files, QWidget *parent, std::vector<QString> *log = nullptr);
+  ~FakeEditingComponent() override;
+
+  // What tests script.
+  std::map<int, CommandStatus> statuses;  ///< by command number; Enabled where absent
+  std::map<int, QVariant> values;         ///< by query command number; empty text where absent
+  SelectionType selectionType = SelectionType::None;
+  HtmlElement element;  ///< under the caret, or the selected object
+  /// The stretch of the document's text that is selected; after loading the start of the body.
+  qsizetype selectionStart = 0;
+  qsizetype selectionEnd = 0;
+  std::optional<RuntimeError> nextLoadFailure;  ///< raised once by LoadDocument
+  std::optional<RuntimeError> nextSaveFailure;  ///< raised once by SaveDocument
+
+  // What a person or the engine does.
+  /// Replaces the selected text, the caret after it, and tells of the changed display.
+  void TypeText(const QString &text);
+  /// Puts another text in the document's place, as editing would; tells nobody.
+  void Edit(const QString &html);
+  /// Delivers the pending completion notice at once instead of by the event loop.
+  void CompleteDocument();
+  void ChangeDisplay();
+  void RequestContextMenu(QPoint screenPosition);
+  void NotifyMouse(int clientX, int clientY);
+  void Report(const QString &message);
+
+  // What tests read.
+  const std::vector<QString> &Calls() const { return *log_; }
+  void ForgetCalls() { log_->clear(); }
+  QString toolTip;
+
+  // EditingComponent
+  QWidget *Widget() override;
+  void SetListener(EditingListener *listener) override;
+  void SetFocus() override;
+  void SetToolTip(const QString &text) override;
+  QString DocumentHTML() override;
+  void SetDocumentHTML(const QString &html) override;
+  void LoadDocument(const QString &path) override;
+  void SaveDocument(const QString &path) override;
+  QString TextToSave() override;
+  QString Charset() const override;
+  QVariant ExecCommand(int command, ExecOption option, const QVariant &value) override;
+  CommandStatus QueryStatus(int command) const override;
+  HtmlDocument &Document() override;
+  bool ShowDetails() const override;
+  void SetShowDetails(bool on) override;
+  bool SnapToGrid() const override;
+  void SetSnapToGrid(bool on) override;
+
+  // HtmlDocument and DocumentSelection
+  DocumentSelection &Selection() override;
+  SelectionType Type() const override;
+  std::unique_ptr<TextRange> CreateRange() override;
+  HtmlElement ControlElement() const override;
+
+ private:
+  friend class FakeTextRange;
+
+  void Log(const QString &call) const;
+  void Take(PageOriginal original);
+
+  Files &files_;
+  mutable std::vector<QString> ownLog_;
+  std::vector<QString> *log_;
+  QPointer<QWidget> widget_;
+  EditingListener *listener_ = nullptr;
+  PageOriginal original_;
+  QString current_;  ///< LF line breaks, like an engine's serialisation
+  QTimer completion_;
+  bool showDetails_ = false;
+  bool snapToGrid_ = false;
+};
+
+}  // namespace velor

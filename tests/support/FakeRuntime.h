@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Runtime.h"
+#include "tests/support/CallLog.h"
+
+#include <functional>
+
+namespace velor {
+
+/// What FakeRuntime throws in place of ending the process; no exception type of the program's, so
+/// that nothing but the test catches it.
+struct ProgramEnded {
+  int exitStatus = 0;
+};
+
+/// A process that ends by an exception and whose pending events are the test's.
+class FakeRuntime final : public Runtime {
+ public:
+  explicit FakeRuntime(CallLog *log = nullptr) : log_(log) {}
+
+  QString commandLine;
+  QString programFolder = QStringLiteral("\\program");
+  /// Runs inside ProcessPendingEvents, as a waiting event would.
+  std::function<void()> pendingEvents;
+  int busyCursors = 0;  ///< shown and not yet restored
+
+  QString CommandLineText() const override;
+  QString ProgramFolder() const override { return programFolder; }
+  void ProcessPendingEvents() override;
+  [[noreturn]] void EndProgram(int exitStatus) override;
+  void ShowBusyCursor() override;
+  void RestoreCursor() override;
+
+ private:
+  CallLog *log_;
+};
+
+}  // namespace velor
