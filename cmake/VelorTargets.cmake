@@ -21,6 +21,17 @@ function(velor_library name)
   target_link_libraries(${name} PUBLIC velor_flags ${ARG_LINKS})
 endfunction()
 
+# A program that people start. All of them are built by the target velor-programs and lie in
+# programs/, from where run.sh takes them.
+add_custom_target(velor-programs)
+function(velor_program name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE velor_flags ${ARG_LINKS})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/programs")
+  add_dependencies(velor-programs ${name})
+endfunction()
+
 # A GoogleTest program that runs under Qt's offscreen platform with scratch settings folders
 # (tests/support/TestMain.cpp sees to both). One program is one CTest case.
 function(velor_test name)

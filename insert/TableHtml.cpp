@@ -17,8 +17,8 @@ int Count(const QString &text) {
   }
 }
 
-QString Attribute(QStringView name, const QString &value) {
-  return value.isEmpty() ? QString() : u' ' + name + u"=\"" + value + u'"';
+QString Attribute(const QString &name, const QString &value) {
+  return value.isEmpty() ? QString() : QStringLiteral(" ") + name + u'=' + u'"' + value + u'"';
 }
 
 }  // namespace
@@ -26,14 +26,17 @@ QString Attribute(QStringView name, const QString &value) {
 QString TableHtml(const TableValues &values) {
   const int rows = Count(values.rows);
   const int columns = Count(values.columns);
-  QString html = u"<Table" + Attribute(u"align", values.align) +
-                 Attribute(u"cellspacing", values.cellSpacing) +
-                 Attribute(u"cellpadding", values.cellPadding) +
-                 Attribute(u"border", values.border) + u" width=75%>\r\n";
-  const QString row =
-      u"   <TR>\r\n" + QStringLiteral("      <TD></TD>\r\n").repeated(columns) + u"   </TR>\r\n";
+  const QString row = QStringLiteral("   <TR>\r\n") +
+                      QStringLiteral("      <TD></TD>\r\n").repeated(columns) +
+                      QStringLiteral("   </TR>\r\n");
+  QString html = QStringLiteral("<Table");
+  html += Attribute(QStringLiteral("align"), values.align);
+  html += Attribute(QStringLiteral("cellspacing"), values.cellSpacing);
+  html += Attribute(QStringLiteral("cellpadding"), values.cellPadding);
+  html += Attribute(QStringLiteral("border"), values.border);
+  html += QStringLiteral(" width=75%>\r\n");
   if (row.size() * rows <= LargestTableText) html += row.repeated(rows);
-  return html + u"</Table>\r\n";
+  return html + QStringLiteral("</Table>\r\n");
 }
 
 }  // namespace velor

@@ -83,7 +83,11 @@ void frmInsertElement::PrepareInsert(const QString &elementMode, HtmlDocument &d
   for (int other = 0; other < SSTab1->count(); ++other) {
     if (other != page) SSTab1->setTabEnabled(other, false);
   }
-  firstBoxes_.at(static_cast<std::size_t>(page))->setFocus();
+}
+
+void frmInsertElement::showEvent(QShowEvent *event) {
+  QDialog::showEvent(event);
+  firstBoxes_.at(static_cast<std::size_t>(SSTab1->currentIndex()))->setFocus();
 }
 
 QString frmInsertElement::GenerateCode(std::int32_t &InsertWhat) {

@@ -9,7 +9,6 @@
 #include <array>
 #include <cstdint>
 #include <memory>
-#include <optional>
 
 class QCheckBox;
 class QComboBox;
@@ -65,6 +64,9 @@ class frmInsertElement : public QDialog {
  Q_SIGNALS:
   /// An operation that fails silently for the dialog's user: what failed, for the status bar.
   void Reported(const QString &message);
+
+ protected:
+  void showEvent(QShowEvent *event) override;
 
  private:
   // Building (frmInsertElementPages.cpp).

@@ -4,6 +4,7 @@
 #include "platform/RuntimeError.h"
 
 #include <QByteArray>
+#include <QLocale>
 
 #include <algorithm>
 #include <charconv>
@@ -88,7 +89,8 @@ Parsed ParseDecimal(QStringView text) {
       at = end;
     }
   }
-  const double value = number.toDouble();
+  // Not QByteArray::toDouble, which says 0 for a number that is too large.
+  const double value = QLocale::c().toDouble(QString::fromLatin1(number));
   return {.isNumber = true, .value = negative ? -value : value, .length = at};
 }
 

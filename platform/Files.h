@@ -17,6 +17,9 @@ enum class NameOrigin {
 /// in memory for tests; one contract suite runs against both.
 class Files {
  public:
+  /// The source of every error of ReplaceAll, by which the event boundary knows a failed write.
+  static constexpr const char16_t *WriteSource = u"Files.ReplaceAll";
+
   virtual ~Files() = default;
 
   /// Whether a file (not a folder) of that name exists. Never raises.

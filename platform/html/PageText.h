@@ -18,8 +18,8 @@ struct PageOriginal {
 };
 
 /// The one place that turns (what the page was, what the document is now) into what is written.
-/// `current` is the engine's serialisation now, with LF line breaks. When it equals the baseline the
-/// page has not been edited and the result is the original, to the byte.
+/// `current` is the engine's serialisation now, with LF line breaks. When it equals the baseline
+/// the page has not been edited and the result is the original, to the byte.
 struct PageToWrite {
   QString text;
   QByteArray bytes;

@@ -19,6 +19,10 @@ inline void PrintTo(const QByteArray &bytes, std::ostream *out) {
 
 namespace velor {
 
+inline void PrintTo(ErrorNumber number, std::ostream *out) {
+  *out << static_cast<int>(number);
+}
+
 /// The number of the error that `action` raises; None when it raises nothing.
 template <typename Action>
 ErrorNumber ErrorOf(Action action) {

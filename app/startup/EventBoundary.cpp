@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/startup/EventBoundary.h"
+
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/Runtime.h"
+#include "platform/RuntimeError.h"
+
+#include <QScopedValueRollback>
+
+#include <cstdio>
+#include <utility>
+
+namespace velor {
+
+namespace {
+
+/// QApplication keeps a reference to the count for as long as it lives.
+int &OnlyTheName() {
+  static int count = 1;
+  return count;
+}
+
+void WriteToStandardError(const char *text) {
+  std::fprintf(stderr, "velor-web-creator: %s\n", text);
+  std::fflush(stderr);
+}
+
+QString BoxText(const std::exception &error) {
+  const auto *known = dynamic_cast<const RuntimeError *>(&error);
+  if (known == nullptr) return QString::fromLocal8Bit(error.what());
+  return QStringLiteral("%1\n\nRun-time error %2 in %3.")
+      .arg(known->Description(), QString::number(known->Code()), known->Source());
+}
+
+}  // namespace
+
+EventBoundary::EventBoundary(Dialogs &dialogs, Runtime &runtime)
+    : dialogs_(dialogs), runtime_(runtime) {}
+
+void EventBoundary::SetRecovery(std::function<void()> writeRecoveryCopies) {
+  writeRecoveryCopies_ = std::move(writeRecoveryCopies);
+}
+
+void EventBoundary::Handle(const std::exception &error) {
+  const Consequence consequence = ConsequenceOf(error);
+  if (consequence == Consequence::Stop) {
+    // Before anything waits for the person: a box may stay open for hours.
+    if (const auto writeCopies = std::exchange(writeRecoveryCopies_, nullptr)) {
+      try {
+        writeCopies();
+      } catch (const std::exception &failure) {
+        WriteToStandardError(failure.what());
+      }
+    }
+  }
+  Report(error, consequence);
+  if (consequence == Consequence::Stop) runtime_.EndProgram(1);
+}
+
+void EventBoundary::Run(const std::function<void()> &action) {
+  try {
+    action();
+  } catch (const std::exception &error) {
+    Handle(error);
+  }
+}
+
+EventBoundary::Consequence EventBoundary::ConsequenceOf(const std::exception &error) const {
+  if (phase_ == Phase::StartUp) return Consequence::Stop;
+  const auto *known = dynamic_cast<const RuntimeError *>(&error);
+  const bool isFailedWrite = known != nullptr && known->Source() == QStringView(Files::WriteSource);
+  return isFailedWrite ? Consequence::Stop : Consequence::Abandon;
+}
+
+void EventBoundary::Report(const std::exception &error, Consequence consequence) {
+  WriteToStandardError(error.what());
+  // An error that comes while a box is open (a timer's, say) must not pile up boxes.
+  if (showsBox_ || qEnvironmentVariableIsSet("VELOR_NO_ERROR_BOX")) return;
+  const QScopedValueRollback<bool> showing(showsBox_, true);
+  Message message;
+  message.text = BoxText(error);
+  if (consequence == Consequence::Stop) {
+    message.text += QStringLiteral("\n\nThe program has to end.");
+  }
+  message.icon = MessageIcon::Critical;
+  try {
+    dialogs_.ShowMessage(message);
+  } catch (const std::exception &failure) {
+    WriteToStandardError(failure.what());
+  }
+}
+
+Application::Application(char **arguments) : QApplication(OnlyTheName(), arguments) {}
+
+bool Application::notify(QObject *receiver, QEvent *event) {
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (const std::exception &error) {
+    if (boundary_ == nullptr) throw;
+    boundary_->Handle(error);
+    return true;
+  }
+}
+
+}  // namespace velor

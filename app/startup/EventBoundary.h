@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QApplication>
+
+#include <exception>
+#include <functional>
+
+namespace velor {
+
+class Dialogs;
+class Runtime;
+
+/// The one place where errors end that nobody caught. It reports them (standard error, and a
+/// critical box unless $VELOR_NO_ERROR_BOX is set) and decides what becomes of the program:
+/// - anything that goes wrong during start-up, opening the database among it, and later a file
+///   that cannot be written: recovery copies are written and the program ends with status 1;
+/// - everything else: the operation is abandoned and the program goes on.
+class EventBoundary {
+ public:
+  EventBoundary(Dialogs &dialogs, Runtime &runtime);
+
+  /// What writes copies of unsaved pages before the program stops; an error in it is only reported.
+  void SetRecovery(std::function<void()> writeRecoveryCopies);
+
+  /// From now on only failed writes stop the program.
+  void StartUpDone() { phase_ = Phase::Running; }
+
+  /// Does what the policy says about an error that was caught.
+  void Handle(const std::exception &error);
+
+  /// Runs start-up, or anything else from outside the event loop, inside the boundary.
+  void Run(const std::function<void()> &action);
+
+ private:
+  enum class Phase { StartUp, Running };
+  enum class Consequence { Abandon, Stop };
+
+  Consequence ConsequenceOf(const std::exception &error) const;
+  void Report(const std::exception &error, Consequence consequence);
+
+  Dialogs &dialogs_;
+  Runtime &runtime_;
+  std::function<void()> writeRecoveryCopies_;
+  Phase phase_ = Phase::StartUp;
+  bool showsBox_ = false;
+};
+
+/// The application object: every event that is delivered passes the boundary. It is given the
+/// program's name alone, since the command line is not acted upon, the toolkit's switches included.
+class Application final : public QApplication {
+ public:
+  explicit Application(char **arguments);
+
+  /// Before this an error in an event goes through.
+  void SetBoundary(EventBoundary *boundary) { boundary_ = boundary; }
+
+  bool notify(QObject *receiver, QEvent *event) override;
+
+ private:
+  EventBoundary *boundary_ = nullptr;
+};
+
+}  // namespace velor

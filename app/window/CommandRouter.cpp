@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/CommandRouter.h"
+
+#include "app/window/GeneralToolbar.h"
+#include "app/window/InsertCommands.h"
+#include "editor/EditorContext.h"
+#include "editor/MainWindow.h"
+#include "editor/PageSlots.h"
+#include "editor/frmMain.h"
+#include "editor/modWorkFlow.h"
+#include "insert/modColor.h"
+#include "platform/Dialogs.h"
+#include "platform/Paths.h"
+#include "platform/Platform.h"
+#include "platform/ProgramValues.h"
+#include "platform/RuntimeError.h"
+
+namespace velor {
+namespace {
+
+constexpr int PreviewMode = 4;
+
+const QString NewItem = QStringLiteral("mnuNew");
+const QString OpenItem = QStringLiteral("mnuOpen");
+
+}  // namespace
+
+CommandRouter::CommandRouter(EditorContext &context, ProgramValues &values, CommandHost &host,
+                             InsertCommands &insert)
+    : context_(context), values_(values), host_(host), insert_(insert) {}
+
+void CommandRouter::Run(const Command &command) {
+  switch (command.id) {
+    case CommandId::None:
+      break;
+    case CommandId::NewPage:
+      NewPage();
+      break;
+    case CommandId::OpenPage:
+      OpenPage();
+      break;
+    case CommandId::SavePage:
+      SavePage(SaveKind::Save);
+      break;
+    case CommandId::SavePageAs:
+      SavePage(SaveKind::SaveAs);
+      break;
+    case CommandId::CloseProgram:
+      host_.CloseProgram();
+      break;
+    case CommandId::Editing:
+      Edit(command.argument);
+      break;
+    case CommandId::MenuStyle:
+      host_.ChooseMenuStyle(command.argument);
+      break;
+    case CommandId::ProjectManager:
+      host_.ShowProjectManager();
+      break;
+    case CommandId::InsertImage:
+      Insert(&InsertCommands::Image);
+      break;
+    case CommandId::InsertHyperlink:
+      Insert(&InsertCommands::Hyperlink);
+      break;
+    case CommandId::InsertTarget:
+      Insert(&InsertCommands::Target);
+      break;
+    case CommandId::InsertVideo:
+      Insert(&InsertCommands::Video);
+      break;
+    case CommandId::InsertTable:
+      Insert(&InsertCommands::Table);
+      break;
+    case CommandId::Preview:
+      if (frmMain *page = host_.ActiveDocument()) page->ChangeMode(PreviewMode);
+      break;
+    case CommandId::About:
+      host_.ShowAbout();
+      break;
+  }
+}
+
+void CommandRouter::Click(const GeneralButton &button) {
+  if (button.guardItem && !host_.IsMenuItemEnabled(QString::fromLatin1(button.guardItem))) return;
+  Run(button.command);
+}
+
+bool CommandRouter::HasRoom() {
+  // Exactly the limit: the test as it is published.
+  if (context_.mainWindow.TabCount() != MostPages) return true;
+  Message refusal;
+  refusal.text = QStringLiteral(
+      "Too many Pages are opened. Please close one or two File(s), and then try to open it.");
+  refusal.icon = MessageIcon::Critical;
+  context_.platform.dialogs.ShowMessage(refusal);
+  return false;
+}
+
+void CommandRouter::NewPage() {
+  host_.SetMenuItemEnabled(NewItem, false);
+  try {
+    if (HasRoom()) modWorkFlow::NewPage(context_);
+  } catch (...) {
+    host_.SetMenuItemEnabled(NewItem, true);
+    throw;
+  }
+  host_.SetMenuItemEnabled(NewItem, true);
+}
+
+void CommandRouter::OpenPage() {
+  host_.SetMenuItemEnabled(OpenItem, false);
+  // After a refusal the item deliberately stays disabled.
+  if (!HasRoom()) return;
+  QString path;
+  try {
+    FileDialog &dialog = context_.mainWindow.SharedFileDialog();
+    dialog.Flags = FileDialog::FileMustExist;
+    dialog.Filter = QStringLiteral("HTML Files *.htm,*.html|*.htm;*.html");
+    path = dialog.ShowOpen();
+    modWorkFlow::OpenPage(context_, path);
+  } catch (const RuntimeError &error) {
+    // A cancelled dialog names no file, and nothing needs saying.
+    if (!path.isEmpty()) {
+      context_.mainWindow.ReportInStatusBar(
+          QStringLiteral("%1 could not be opened: %2").arg(ForPeople(path), error.Description()));
+    }
+  }
+  host_.SetMenuItemEnabled(OpenItem, true);
+}
+
+void CommandRouter::SavePage(SaveKind kind) {
+  frmMain *page = host_.ActiveDocument();
+  if (!page) return;
+  const std::int32_t result =
+      modWorkFlow::SavePage(context_, *page, context_.mainWindow.SharedFileDialog(),
+                            context_.pages.Record(page->Number()), kind == SaveKind::SaveAs);
+  if (result == 0 || result == static_cast<int>(ErrorNumber::DialogCancelled)) return;
+  Message failure;
+  failure.text = QStringLiteral("File saving error: %1").arg(result);
+  failure.icon = MessageIcon::Critical;
+  context_.platform.dialogs.ShowMessage(failure);
+}
+
+void CommandRouter::Edit(int number) {
+  if (frmMain *page = host_.ActiveDocument()) page->DHTML1().ExecCommand(number);
+}
+
+void CommandRouter::Insert(void (InsertCommands::*insertion)(frmMain &)) {
+  if (frmMain *page = host_.ActiveDocument()) (insert_.*insertion)(*page);
+}
+
+void CommandRouter::SetValue(EditingCommand query, EditingCommand set, const QString &value) {
+  frmMain *page = host_.ActiveDocument();
+  if (!page) return;
+  EditingComponent &component = page->DHTML1();
+  if (component.ExecCommand(Number(query)).toString() == value) return;
+  component.ExecCommand(Number(set), ExecOption::Default, value);
+}
+
+void CommandRouter::SetBlockFormat(const QString &name) {
+  SetValue(EditingCommand::GetBlockFormat, EditingCommand::SetBlockFormat, name);
+}
+
+void CommandRouter::SetFontSize(const QString &points) {
+  SetValue(EditingCommand::GetFontSize, EditingCommand::SetFontSize, points);
+}
+
+void CommandRouter::SetFontName(const QString &name) {
+  SetValue(EditingCommand::GetFontName, EditingCommand::SetFontName, name);
+}
+
+void CommandRouter::SetColor(EditingCommand set, std::int32_t color) {
+  frmMain *page = host_.ActiveDocument();
+  if (!page) return;
+  page->DHTML1().ExecCommand(Number(set), ExecOption::Default, modColor::ColorToHtml(color));
+  page->DHTML1().SetFocus();
+}
+
+void CommandRouter::SetForeColor(std::int32_t color) {
+  SetColor(EditingCommand::SetForeColor, color);
+}
+
+void CommandRouter::SetBackColor(std::int32_t color) {
+  SetColor(EditingCommand::SetBackColor, color);
+}
+
+void CommandRouter::OpenProjectPage(int pageId) {
+  if (!HasRoom()) return;
+  if (!values_.DbConnection) {
+    throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("CmbPages"));
+  }
+  if (const auto path = projectPages_.PathOf(pageId, *values_.DbConnection)) {
+    modWorkFlow::OpenProjectPage(context_, *path);
+  }
+}
+
+void CommandRouter::ActivatePage(int number) {
+  context_.mainWindow.ActivateWindow(&modWorkFlow::PageWindow(context_, number));
+}
+
+}  // namespace velor

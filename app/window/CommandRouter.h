@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/window/Command.h"
+#include "app/window/ProjectPageQuery.h"
+#include "platform/EditingCommands.h"
+
+#include <QString>
+
+#include <cstdint>
+
+namespace velor {
+
+class InsertCommands;
+class frmMain;
+struct EditorContext;
+struct GeneralButton;
+struct ProgramValues;
+
+/// What the router asks of the window whose commands it carries out.
+class CommandHost {
+ public:
+  virtual ~CommandHost() = default;
+  /// The page window that is the active child window; null when there is none.
+  virtual frmMain *ActiveDocument() = 0;
+  virtual bool IsMenuItemEnabled(const QString &name) const = 0;
+  virtual void SetMenuItemEnabled(const QString &name, bool enabled) = 0;
+  virtual void ChooseMenuStyle(int index) = 0;
+  virtual void ShowProjectManager() = 0;
+  virtual void ShowAbout() = 0;
+  virtual void CloseProgram() = 0;
+};
+
+/// Where every command of the menus, toolbars and formatting boxes arrives. The main window edits
+/// nothing itself: editing goes to the active document's component, files to the page-file
+/// operations. A command that needs a document does nothing without one.
+class CommandRouter {
+ public:
+  /// More pages than these are never open at once.
+  static constexpr int MostPages = 5;
+
+  CommandRouter(EditorContext &context, ProgramValues &values, CommandHost &host,
+                InsertCommands &insert);
+
+  void Run(const Command &command);
+  /// Runs the button's command unless its guard item is disabled.
+  void Click(const GeneralButton &button);
+
+  // The formatting boxes: the command is sent only when the value differs from the page's.
+  void SetBlockFormat(const QString &name);
+  void SetFontSize(const QString &points);
+  void SetFontName(const QString &name);
+  /// Colours are sent without a comparison, and the keyboard goes back to the page.
+  void SetForeColor(std::int32_t color);
+  void SetBackColor(std::int32_t color);
+
+  /// An entry of the page chooser was chosen.
+  void OpenProjectPage(int pageId);
+  /// A page's tab was chosen: its window is activated, made first where the slot is empty.
+  void ActivatePage(int number);
+
+ private:
+  enum class SaveKind { Save, SaveAs };
+
+  void NewPage();
+  void OpenPage();
+  void SavePage(SaveKind kind);
+  void Edit(int number);
+  void Insert(void (InsertCommands::*insertion)(frmMain &));
+  void SetValue(EditingCommand query, EditingCommand set, const QString &value);
+  void SetColor(EditingCommand set, std::int32_t color);
+  /// Whether there is room for another page; tells the person when not.
+  bool HasRoom();
+
+  EditorContext &context_;
+  ProgramValues &values_;
+  CommandHost &host_;
+  InsertCommands &insert_;
+  ProjectPageQuery projectPages_;
+};
+
+}  // namespace velor

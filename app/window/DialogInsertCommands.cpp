@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/DialogInsertCommands.h"
+
+#include "editor/EditorContext.h"
+#include "editor/MainWindow.h"
+#include "editor/frmMain.h"
+#include "insert/frmDialog_Table.h"
+#include "insert/frmInsertElement.h"
+#include "platform/Dialogs.h"
+#include "platform/Platform.h"
+#include "platform/ProgramValues.h"
+
+namespace velor {
+
+void DialogInsertCommands::Element(const QString &mode, frmMain &page) {
+  if (dialog_.isNull()) {
+    dialog_ = new frmInsertElement(context_.platform, nullptr, page.window());
+    QObject::connect(dialog_, &frmInsertElement::Reported, dialog_, [this](const QString &message) {
+      context_.mainWindow.ReportInStatusBar(message);
+    });
+  }
+  const PageRecord record = page.GetPageRecord();
+  dialog_->PrepareInsert(mode, page.DHTML1().Document(),
+                         record.HasFile != False16 ? record.Path : QString());
+  context_.platform.dialogs.RunModal(*dialog_);
+}
+
+void DialogInsertCommands::Image(frmMain &page) {
+  Element(QStringLiteral("image"), page);
+}
+
+void DialogInsertCommands::Hyperlink(frmMain &page) {
+  Element(QStringLiteral("hyperlink"), page);
+}
+
+void DialogInsertCommands::Target(frmMain &page) {
+  Element(QStringLiteral("target"), page);
+}
+
+void DialogInsertCommands::Video(frmMain &page) {
+  Element(QStringLiteral("video"), page);
+}
+
+void DialogInsertCommands::Table(frmMain &page) {
+  const QPointer<frmMain> alive = &page;
+  frmDialog_Table dialog(values_, page.window());
+  context_.platform.dialogs.RunModal(dialog);
+  if (alive.isNull()) return;
+  page.DHTML1().Document().Selection().CreateRange()->PasteHTML(values_.HTMLString);
+}
+
+}  // namespace velor

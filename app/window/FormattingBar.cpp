@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/FormattingBar.h"
+
+#include "app/window/ChoiceBox.h"
+#include "chrome/ColorPicker.h"
+#include "chrome/FontPicker.h"
+#include "chrome/Palette.h"
+#include "insert/modColor.h"
+#include "platform/EditingCommands.h"
+
+#include <QHBoxLayout>
+
+namespace velor {
+namespace {
+
+constexpr int FormatWidth = 150;
+constexpr int FontWidth = 190;
+constexpr int SizeWidth = 64;
+
+template <typename Box>
+Box *Named(Box *box, const char *name, const QString &label) {
+  box->setObjectName(QString::fromLatin1(name));
+  box->setAccessibleName(label);
+  box->setToolTip(label);
+  return box;
+}
+
+/// Shows `htmlColor` in `picker` unless it shows that colour already.
+void ShowColor(ColorPicker &picker, const QString &htmlColor) {
+  const std::int32_t color = modColor::HtmlToColor(htmlColor);
+  if (picker.Color() != color) picker.SetColor(color);
+}
+
+}  // namespace
+
+FormattingBar::FormattingBar(QWidget *parent)
+    : QWidget(parent),
+      cobFormat(Named(new ChoiceBox(this), "cobFormat", tr("Block Format"))),
+      cobSize(Named(new ChoiceBox(this), "cobSize", tr("Font Size"))),
+      Font1(Named(new FontPicker(this), "Font1", tr("Font"))),
+      colors_(new QWidget(this)) {
+  cpFore = Named(new ColorPicker(QStringLiteral("forecolor"), colors_), "cpFore", tr("Text Color"));
+  cpBack = Named(new ColorPicker(QStringLiteral("backcolor"), colors_), "cpBack",
+                 tr("Background Color"));
+  cobFormat->setFixedWidth(FormatWidth);
+  Font1->setFixedWidth(FontWidth);
+  cobSize->setFixedWidth(SizeWidth);
+
+  auto *row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(BarMargin);
+  for (QWidget *box : std::initializer_list<QWidget *>{cobFormat, Font1, cobSize}) {
+    row->addWidget(box);
+  }
+  auto *colorRow = new QHBoxLayout(colors_);
+  colorRow->setContentsMargins(0, 0, 0, 0);
+  colorRow->setSpacing(BarSpacing);
+  colorRow->addWidget(cpFore);
+  colorRow->addWidget(cpBack);
+
+  connect(cobFormat, &ChoiceBox::Clicked, this, &FormattingBar::BlockFormatClicked);
+  connect(cobSize, &ChoiceBox::Clicked, this, &FormattingBar::FontSizeClicked);
+  connect(Font1, &FontPicker::FontChosen, this, &FormattingBar::FontNameChanged);
+  connect(cpFore, &ColorPicker::ColorChosen, this, &FormattingBar::ForeColorChanged);
+  connect(cpBack, &ColorPicker::ColorChosen, this, &FormattingBar::BackColorChanged);
+}
+
+void FormattingBar::InitialiseFonts() {
+  Font1->Initialise();
+}
+
+void FormattingBar::FillBlockFormats() {
+  cobFormat->addItems(BlockFormatNames());
+  cobFormat->ShowText(QString());
+}
+
+void FormattingBar::FillFontSizes() {
+  for (const int points : FontSizePoints) cobSize->addItem(QString::number(points));
+  cobSize->ShowText(QString());
+}
+
+void FormattingBar::ShowFontName(const QString &name) {
+  if (Font1->FontName() != name) Font1->SetFontName(name);
+}
+
+void FormattingBar::ShowBlockFormat(const QString &name) {
+  if (cobFormat->Text() != name) cobFormat->ShowText(name);
+}
+
+void FormattingBar::ShowFontSize(const QString &points) {
+  if (cobSize->Text() != points) cobSize->ShowText(points);
+}
+
+void FormattingBar::ShowForeColor(const QString &htmlColor) {
+  ShowColor(*cpFore, htmlColor);
+}
+
+void FormattingBar::ShowBackColor(const QString &htmlColor) {
+  ShowColor(*cpBack, htmlColor);
+}
+
+}  // namespace velor

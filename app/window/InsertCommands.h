@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace velor {
+
+class frmMain;
+
+/// The commands that insert something into a page through a dialog of their own.
+class InsertCommands {
+ public:
+  virtual ~InsertCommands() = default;
+  virtual void Image(frmMain &page) = 0;
+  virtual void Hyperlink(frmMain &page) = 0;
+  virtual void Target(frmMain &page) = 0;
+  virtual void Video(frmMain &page) = 0;
+  virtual void Table(frmMain &page) = 0;
+};
+
+}  // namespace velor

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/MenuBuilder.h"
+
+#include "chrome/Icons.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace velor {
+namespace {
+
+QMenu *NewMenu(QMainWindow &window, const MenuRow &row, const Menus &built) {
+  const QString caption = QString::fromLatin1(row.caption);
+  QMenu *menu = nullptr;
+  if (row.kind == MenuKind::Popup) {
+    menu = new QMenu(&window);
+  } else if (row.parent) {
+    menu = built.menus.value(QString::fromLatin1(row.parent))->addMenu(caption);
+  } else {
+    menu = window.menuBar()->addMenu(caption);
+  }
+  const QString name = QString::fromLatin1(row.name);
+  menu->setObjectName(name);
+  menu->menuAction()->setObjectName(name);
+  return menu;
+}
+
+QAction *NewItem(QMainWindow &window, const MenuRow &row) {
+  auto *item = new QAction(QString::fromLatin1(row.caption), &window);
+  item->setObjectName(QString::fromLatin1(row.name));
+  if (row.index != 0) item->setProperty("index", row.index);
+  if (row.shortcut) {
+    item->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut), QKeySequence::PortableText));
+  }
+  if (row.kind == MenuKind::Separator) item->setSeparator(true);
+  return item;
+}
+
+}  // namespace
+
+Menus BuildMenus(QMainWindow &window, const std::function<void(const Command &)> &run) {
+  Menus built;
+  for (const MenuRow &row : MenuTable()) {
+    const QString name = QString::fromLatin1(row.name);
+    if (row.kind == MenuKind::Menu || row.kind == MenuKind::Popup) {
+      built.menus.insert(name, NewMenu(window, row, built));
+      continue;
+    }
+    QAction *item = NewItem(window, row);
+    QObject::connect(item, &QAction::triggered, &window, [run, &row] { run(row.command); });
+    built.menus.value(QString::fromLatin1(row.parent))->addAction(item);
+    built.items.insert(name, item);
+  }
+  return built;
+}
+
+ImageList MenuImages() {
+  ImageList images;
+  for (const MenuRow &row : MenuTable()) {
+    if (row.picture) {
+      images.insert(QString::fromLatin1(row.name).toLower(),
+                    IconFor(QString::fromLatin1(row.picture)));
+    }
+  }
+  return images;
+}
+
+}  // namespace velor

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/MenuTable.h"
+
+#include "platform/EditingCommands.h"
+
+namespace velor {
+namespace {
+
+constexpr Command Editing(EditingCommand command) {
+  return {CommandId::Editing, Number(command)};
+}
+
+constexpr MenuRow Menu(const char *name, const char *caption, const char *parent = nullptr) {
+  return {.name = name, .caption = caption, .kind = MenuKind::Menu, .parent = parent};
+}
+
+constexpr MenuRow Separator(const char *name, const char *parent) {
+  return {.name = name, .caption = "-", .kind = MenuKind::Separator, .parent = parent};
+}
+
+constexpr MenuRow Item(const char *name, const char *caption, const char *parent,
+                       Command command = {}, const char *picture = nullptr,
+                       const char *shortcut = nullptr) {
+  return {.name = name,
+          .caption = caption,
+          .parent = parent,
+          .shortcut = shortcut,
+          .command = command,
+          .picture = picture};
+}
+
+constexpr MenuRow StyleItem(int index, const char *caption) {
+  return {.name = "mnuView_style",
+          .caption = caption,
+          .parent = "mnuView_menustyle",
+          .command = {CommandId::MenuStyle, index},
+          .index = index};
+}
+
+constexpr MenuRow Popup(const char *name) {
+  return {.name = name, .caption = "", .kind = MenuKind::Popup};
+}
+
+// clang-format off
+constexpr MenuRow Rows[] = {
+    Menu("mnuFile_Top", "File (&F)"),
+    Item("mnuNew", "New Document(&N)", "mnuFile_Top", {CommandId::NewPage}, "new", "Ctrl+N"),
+    Item("mnuOpen", "Open... (&O)", "mnuFile_Top", {CommandId::OpenPage}, "open", "Ctrl+O"),
+    Item("mnuSave", "Save (&S)", "mnuFile_Top", {CommandId::SavePage}, "save", "Ctrl+S"),
+    Item("mnuSaveAs", "Save As... (&A)", "mnuFile_Top", {CommandId::SavePageAs}, "saveas", "F12"),
+    Separator("mnu1", "mnuFile_Top"),
+    Item("mnuExit", "Exit (&X)", "mnuFile_Top", {CommandId::CloseProgram}),
+
+    Menu("mnuEdit_Top", "Edit (&E)"),
+    Item("mnuUndo", "Undo (&U)", "mnuEdit_Top", Editing(EditingCommand::Undo), "undo"),
+    Item("mnuRedo", "Redo (&R)", "mnuEdit_Top", Editing(EditingCommand::Redo), "redo"),
+    Separator("mnu3", "mnuEdit_Top"),
+    Item("mnuCut", "&Cut", "mnuEdit_Top", Editing(EditingCommand::Cut), "cut"),
+    Item("mnuCopy", "&Copy", "mnuEdit_Top", Editing(EditingCommand::Copy), "copy"),
+    Item("mnuPaste", "&Paste", "mnuEdit_Top", Editing(EditingCommand::Paste), "paste"),
+    Item("mnuDelete", "&Delete", "mnuEdit_Top", Editing(EditingCommand::Delete), "delete"),
+    Item("mnuSelectAll", "&Select All", "mnuEdit_Top", Editing(EditingCommand::SelectAll)),
+
+    Menu("mnuView_Top", "View (&V)"),
+    Menu("mnuView_menustyle", "Menu Style (&M)", "mnuView_Top"),
+    Menu("mnuView_MenuOption", "Menu Option... (&O)", "mnuView_menustyle"),
+    Item("mnuView_CusMenu", "Customize... (&C)", "mnuView_MenuOption"),
+    Separator("mnu5", "mnuView_menustyle"),
+    StyleItem(1, "Sky Blue"),
+    StyleItem(2, "Clear XP Style"),
+    Item("mnuView_ProjectMan", "Project Manager", "mnuView_Top", {CommandId::ProjectManager}, "startman"),
+    Item("mnuDetail", "Show Detail (&D)", "mnuView_Top", {}, "detail"),
+
+    Menu("mnuInsert", "Insert (&I)"),
+    Item("mnuISTimage", "Image", "mnuInsert", {CommandId::InsertImage}, "image"),
+    Item("mnuISTlink", "Hyperlink", "mnuInsert", {CommandId::InsertHyperlink}, "link"),
+
+    Menu("mnuTable", "Table (&A)"),
+    Item("mnuTBLnew", "Insert Table", "mnuTable", {CommandId::InsertTable}, "table"),
+
+    Menu("mnuWindow", "Window (&W)"),
+    Item("mnuWindowCascade", "Cascade (&C)", "mnuWindow"),
+    Item("mnuWindowTileHorizontal", "Horizontal (&H)", "mnuWindow"),
+    Item("mnuWindowTileVertical", "Vertical (&V)", "mnuWindow"),
+
+    Menu("mnuHelp_Top", "Help (&H)"),
+    Item("mnuAbout", "About", "mnuHelp_Top", {CommandId::About}, "about"),
+    Item("mnuhelp", "Help", "mnuHelp_Top", {}, "help"),
+
+    Popup("mnuExt"),
+    Item("extCut", "Cut", "mnuExt", {}, "cut"),
+    Item("extCopy", "Copy", "mnuExt", {}, "copy"),
+    Item("extPaste", "Paste", "mnuExt", {}, "paste"),
+    Item("extDelete", "Delete", "mnuExt", {}, "delete"),
+    Item("extAll", "Select All", "mnuExt"),
+    Separator("ext1", "mnuExt"),
+    Menu("extProperties", "Properties...", "mnuExt"),
+    Item("extPagePro", "Page Properties", "extProperties"),
+    Item("extImagePro", "Image Properties", "extProperties"),
+    Item("extTablePro", "Table Properties", "extProperties"),
+    Item("extTDPro", "Table Cell Properties", "extProperties"),
+    Item("extAPro", "Hyperlink Properties", "extProperties"),
+    Item("extFontsPro", "Fonts Properties", "extProperties"),
+    Separator("ext2", "mnuExt"),
+    Item("extAbs", "Absolute Position", "mnuExt"),
+    Item("extDetail", "Show Detail", "mnuExt", {}, "detail"),
+    Item("extSnap", "Snap to Grid", "mnuExt", {}, "snap"),
+    Item("extInHTML", "Insert Custom HTML", "mnuExt", {}, "viewcode"),
+    Menu("extTableGeneral", "Table...", "mnuExt"),
+    Item("extInCol", "Insert Colume", "extTableGeneral"),
+    Item("extInRow", "Insert Row", "extTableGeneral"),
+    Item("extMerge", "Merge Cells", "extTableGeneral"),
+    Item("extSplit", "Split Cell", "extTableGeneral"),
+    Menu("extAbsGeneral", "Absolute object...", "mnuExt"),
+    Item("extFront", "Bring to Front", "extAbsGeneral"),
+    Item("extForeward", "Bring Foreward", "extAbsGeneral"),
+    Item("extAboveText", "Bring above text", "extAbsGeneral"),
+    Item("extBack", "Send to Back", "extAbsGeneral"),
+    Item("extBackward", "Send Backward", "extAbsGeneral"),
+    Item("extBelowText", "Send below text", "extAbsGeneral"),
+    Item("extGetTag", "Get Element TagName", "mnuExt"),
+
+    Popup("mnuCustom"),
+    Item("cusDel", "Delete Record", "mnuCustom"),
+};
+// clang-format on
+
+}  // namespace
+
+std::span<const MenuRow> MenuTable() {
+  return Rows;
+}
+
+}  // namespace velor

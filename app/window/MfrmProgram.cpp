@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The main window's parts, how it loads, and how it goes.
+#include "app/window/MfrmProgram.h"
+
+#include "app/window/CoolBar.h"
+#include "app/window/DialogInsertCommands.h"
+#include "app/window/FormattingBar.h"
+#include "app/window/GeneralToolbar.h"
+#include "app/window/PageArea.h"
+#include "app/window/PageChooser.h"
+#include "app/window/PageTabs.h"
+#include "app/window/ProjectDesk.h"
+#include "chrome/Icons.h"
+#include "chrome/Palette.h"
+#include "chrome/ProgramWindow.h"
+#include "chrome/frmAbout.h"
+#include "editor/frmBrowser.h"
+#include "editor/frmMain.h"
+#include "platform/Dialogs.h"
+#include "platform/EditingComponent.h"
+#include "platform/Platform.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPointer>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace velor {
+namespace {
+
+constexpr QSize FirstSize(1180, 800);
+constexpr int ChooserWidth = 240;
+
+/// A person's request to close every window of the program that asks before it closes: each is
+/// marked first, so that none of them asks. What fails on the way no longer matters.
+void UnloadProgramWindows() {
+  QList<QPointer<QWidget>> windows;
+  for (QWidget *widget : QApplication::allWidgets()) {
+    if (auto *window = dynamic_cast<ProgramWindow *>(widget)) {
+      window->MarkKill();
+      windows.append(widget);
+    }
+  }
+  for (const QPointer<QWidget> &window : windows) {
+    try {
+      if (window) window->close();
+    } catch (const std::exception &) {
+    }
+  }
+}
+
+}  // namespace
+
+MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
+    : platform_(platform),
+      context_{platform, *this, pages_, {}},
+      insert_(std::make_unique<DialogInsertCommands>(context_, values)),
+      router_(context_, values, *this, *insert_),
+      menuPictures_(ProgramMenuPictures()),
+      menus_(BuildMenus(*this, [this](const Command &command) { router_.Run(command); })),
+      PM(new StyleMenuPainter(this)),
+      coolBar_(new CoolBar(this)),
+      FileTab(new PageTabs(this)),
+      FileTab2(new PageTabs(this)),
+      CmbPages(new PageChooser(this)),
+      area_(new PageArea(this)),
+      sourceEditing_(new QAction(this)),
+      projects_(std::make_unique<ProjectDesk>(context_, values, *CmbPages)),
+      fileDialog_(platform.components.CreateFileDialog()) {
+  setObjectName(QStringLiteral("MfrmProgram"));
+  setWindowTitle(QString::fromUtf16(ApplicationTitle));
+  setWindowIcon(ProgramIcon());
+  resize(FirstSize);
+  PM->setObjectName(QStringLiteral("PM"));
+  sourceEditing_->setObjectName(QStringLiteral("mnuEditHTML"));
+  BuildLayout();
+  BuildStatusBar();
+  new WindowList(*menus_.menus.value(QStringLiteral("mnuWindow")), *area_, this);
+}
+
+MfrmProgram::~MfrmProgram() {
+  // The page windows use what the members hold; they go before them.
+  disconnect(area_, nullptr, this, nullptr);
+  delete area_;
+}
+
+void MfrmProgram::BuildLayout() {
+  auto *center = new QWidget(this);
+  auto *column = new QVBoxLayout(center);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(coolBar_);
+  column->addWidget(BuildTabRow());
+  column->addWidget(area_, 1);
+  setCentralWidget(center);
+}
+
+QWidget *MfrmProgram::BuildTabRow() {
+  auto *picFileTab = new QWidget(this);
+  picFileTab->setObjectName(QStringLiteral("picFileTab"));
+  FileTab->setObjectName(QStringLiteral("FileTab"));
+  FileTab->setAccessibleName(tr("Pages"));
+  FileTab2->setObjectName(QStringLiteral("FileTab2"));
+  FileTab2->hide();
+  CmbPages->setObjectName(QStringLiteral("CmbPages"));
+  CmbPages->setAccessibleName(tr("Project pages"));
+  CmbPages->setToolTip(tr("Project pages"));
+  CmbPages->setFixedWidth(ChooserWidth);
+
+  auto *row = new QHBoxLayout(picFileTab);
+  row->setContentsMargins(BarMargin, BarMargin, BarMargin, 0);
+  row->setSpacing(BarMargin);
+  row->addWidget(FileTab, 1, Qt::AlignBottom);
+  row->addWidget(FileTab2);
+  row->addWidget(CmbPages, 0, Qt::AlignVCenter);
+  picFileTab->setMinimumHeight(BoxHeight + 2 * BarMargin);
+  return picFileTab;
+}
+
+void MfrmProgram::BuildStatusBar() {
+  auto *Sta = new QStatusBar(this);
+  Sta->setObjectName(QStringLiteral("Sta"));
+  statusText_ = new QLabel(Sta);
+  statusText_->setObjectName(QStringLiteral("Sta_1"));
+  statusText_->setTextFormat(Qt::PlainText);
+  statusText_->setIndent(BarMargin);
+  Sta->addWidget(statusText_, 1);
+  setStatusBar(Sta);
+}
+
+void MfrmProgram::Load() {
+  RunLoadSteps(*this, platform_.runtime);
+}
+
+void MfrmProgram::InitialiseHiddenComponent() {
+  DE1 = platform_.components.CreateEditingComponent(this);
+  DE1->Widget()->setObjectName(QStringLiteral("DE1"));
+  DE1->Widget()->hide();
+}
+
+void MfrmProgram::InitialiseFontPicker() {
+  coolBar_->Boxes().InitialiseFonts();
+}
+
+void MfrmProgram::CreateBlockFormatNames() {
+  coolBar_->Boxes().FillBlockFormats();
+}
+
+void MfrmProgram::SetFontSizeList() {
+  coolBar_->Boxes().FillFontSizes();
+}
+
+void MfrmProgram::PrepareControlsAndMenus() {
+  SetPageCommandsEnabled(false);
+  MenuPictureSweep(*this, MenuImages(), *PM);
+  PrepareMenus(platform_.registry, menuPictures_, *PM);
+}
+
+void MfrmProgram::ShowWithoutWaiting() {
+  show();
+}
+
+void MfrmProgram::FinishPreparation() {
+  ConnectBars();
+}
+
+void MfrmProgram::ConnectBars() {
+  connect(coolBar_, &CoolBar::GeneralClicked, this,
+          [this](const GeneralButton &button) { router_.Click(button); });
+  connect(coolBar_, &CoolBar::EditClicked, this, [this](int command) {
+    router_.Run({CommandId::Editing, command});
+  });
+  FormattingBar *boxes = &coolBar_->Boxes();
+  connect(boxes, &FormattingBar::BlockFormatClicked, this,
+          [this](const QString &name) { router_.SetBlockFormat(name); });
+  connect(boxes, &FormattingBar::FontSizeClicked, this,
+          [this](const QString &points) { router_.SetFontSize(points); });
+  connect(boxes, &FormattingBar::FontNameChanged, this,
+          [this](const QString &name) { router_.SetFontName(name); });
+  connect(boxes, &FormattingBar::ForeColorChanged, this,
+          [this](std::int32_t color) { router_.SetForeColor(color); });
+  connect(boxes, &FormattingBar::BackColorChanged, this,
+          [this](std::int32_t color) { router_.SetBackColor(color); });
+  connect(FileTab, &PageTabs::PageChosen, this,
+          [this](int number) { router_.ActivatePage(number); });
+  connect(CmbPages, &PageChooser::PageChosen, this,
+          [this](std::int32_t pageId) { router_.OpenProjectPage(pageId); });
+  connect(area_, &QMdiArea::subWindowActivated, this, [this] { ChildActivated(); });
+}
+
+void MfrmProgram::ChildActivated() {
+  QWidget *current = area_->Current();
+  if (!current || current == lastActivated_) return;
+  lastActivated_ = current;
+  if (auto *page = qobject_cast<frmMain *>(current)) page->OnActivated();
+}
+
+void MfrmProgram::closeEvent(QCloseEvent *event) {
+  UnloadProgramWindows();
+  event->accept();
+  Q_EMIT Unloaded();
+}
+
+frmMain *MfrmProgram::ActiveDocument() {
+  return qobject_cast<frmMain *>(area_->Current());
+}
+
+bool MfrmProgram::IsMenuItemEnabled(const QString &name) const {
+  return menus_.items.value(name)->isEnabled();
+}
+
+void MfrmProgram::SetMenuItemEnabled(const QString &name, bool enabled) {
+  menus_.items.value(name)->setEnabled(enabled);
+}
+
+void MfrmProgram::ChooseMenuStyle(int index) {
+  velor::ChooseMenuStyle(index, platform_.registry, menuPictures_, *PM);
+}
+
+void MfrmProgram::ShowProjectManager() {
+  projects_->ShowProjectManager(*this);
+}
+
+void MfrmProgram::ShowAbout() {
+  frmAbout about(this);
+  platform_.dialogs.RunModal(about);
+}
+
+void MfrmProgram::CloseProgram() {
+  close();
+}
+
+}  // namespace velor

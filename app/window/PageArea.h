@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+class QAction;
+class QMenu;
+
+namespace velor {
+
+/// Where the child windows live: page windows, source editors, the preview. Each adopted window
+/// lies in a frame that comes and goes with it. While no window is open, a hint stands there.
+class PageArea final : public QMdiArea {
+  Q_OBJECT
+
+ public:
+  explicit PageArea(QWidget *parent);
+
+  void Adopt(QWidget *window);
+  /// Shows the window filling the area, in front.
+  void Show(QWidget *window);
+  void Activate(QWidget *window);
+  void Hide(QWidget *window);
+  void Release(QWidget *window);
+
+  /// The window in front; null when none is open.
+  QWidget *Current() const;
+  /// The open windows in the order in which they were adopted.
+  QList<QWidget *> OpenWindows() const;
+
+ protected:
+  void paintEvent(QPaintEvent *event) override;
+  void changeEvent(QEvent *event) override;
+
+ private:
+  /// Brings the window used last to the front when another has gone.
+  void ActivateLast();
+};
+
+/// Lists the area's open windows at the end of `menu` whenever it drops down, the one in front
+/// checked; choosing one brings it to the front.
+class WindowList final : public QObject {
+  Q_OBJECT
+
+ public:
+  WindowList(QMenu &menu, PageArea &area, QObject *parent);
+
+ private:
+  void Refill();
+
+  QMenu &menu_;
+  PageArea &area_;
+  QList<QAction *> entries_;
+};
+
+}  // namespace velor

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/PageTabs.h"
+
+#include "chrome/Icons.h"
+#include "chrome/Palette.h"
+#include "platform/Conversions.h"
+#include "platform/RuntimeError.h"
+
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QStyleOptionTab>
+
+#include <algorithm>
+#include <array>
+
+namespace velor {
+namespace {
+
+/// The strip's image list, from 1.
+constexpr std::array<const char *, 1> Images{"page"};
+
+constexpr int TabHeight = 34;
+constexpr int TabPadding = 12;
+constexpr int WidestTab = 220;
+constexpr int NarrowestTab = 72;
+constexpr int MarkHeight = 2;
+
+QString NameOf(const QTabBar &tabs) {
+  return tabs.objectName();
+}
+
+}  // namespace
+
+PageTabs::PageTabs(QWidget *parent) : QTabBar(parent) {
+  setDrawBase(false);
+  setDocumentMode(true);
+  setExpanding(false);
+  setMovable(false);
+  setTabsClosable(false);
+  setUsesScrollButtons(true);
+  setElideMode(Qt::ElideMiddle);
+  setIconSize(QSize(MenuIconSize, MenuIconSize));
+  connect(this, &QTabBar::currentChanged, this, &PageTabs::Choose);
+  // A click on the tab in front changes nothing there, but its page may lie behind another window.
+  connect(this, &QTabBar::tabBarClicked, this, [this](int index) {
+    if (index == currentIndex()) Choose(index);
+  });
+}
+
+void PageTabs::Add(const QString &key, int image) {
+  if (image < 1 || image > static_cast<int>(Images.size())) {
+    throw RuntimeError::Of(ErrorNumber::IndexOutOfBounds, NameOf(*this), QString::number(image));
+  }
+  const QSignalBlocker silence(this);
+  const int index =
+      addTab(IconFor(QString::fromLatin1(Images[static_cast<std::size_t>(image - 1)])), QString());
+  setTabData(index, key);
+}
+
+void PageTabs::SetCaption(const QString &key, const QString &caption) {
+  SetCaptionAt(IndexOf(key) + 1, caption);
+}
+
+void PageTabs::SetCaptionAt(int position, const QString &caption) {
+  if (position < 1 || position > count()) {
+    throw RuntimeError::Of(ErrorNumber::IndexOutOfBounds, NameOf(*this), QString::number(position));
+  }
+  // "&" is a letter of a file name here, no mnemonic.
+  setTabText(position - 1, QString(caption).replace(u'&', QStringLiteral("&&")));
+  setTabToolTip(position - 1, caption);
+}
+
+void PageTabs::Select(const QString &key) {
+  const int index = IndexOf(key);
+  const QSignalBlocker silence(this);
+  setCurrentIndex(index);
+}
+
+void PageTabs::Remove(const QString &key) {
+  const int index = IndexOf(key);
+  const QSignalBlocker silence(this);
+  removeTab(index);
+}
+
+void PageTabs::Clear() {
+  const QSignalBlocker silence(this);
+  while (count() > 0) removeTab(count() - 1);
+}
+
+int PageTabs::IndexOf(const QString &key) const {
+  for (int index = 0; index < count(); ++index) {
+    if (tabData(index).toString() == key) return index;
+  }
+  throw RuntimeError::Of(ErrorNumber::ElementNotFound, NameOf(*this), key);
+}
+
+void PageTabs::Choose(int index) {
+  if (index < 0) return;
+  constexpr int NumberStart = 3;
+  Q_EMIT PageChosen(CInt(tabData(index).toString().mid(NumberStart)));
+}
+
+QSize PageTabs::tabSizeHint(int index) const {
+  const int text = fontMetrics().horizontalAdvance(tabToolTip(index));
+  const int width = TabPadding + MenuIconSize + TabPadding / 2 + text + TabPadding;
+  return {std::clamp(width, NarrowestTab, WidestTab), TabHeight};
+}
+
+QSize PageTabs::minimumTabSizeHint(int) const {
+  return {NarrowestTab, TabHeight};
+}
+
+void PageTabs::paintEvent(QPaintEvent *) {
+  QPainter painter(this);
+  const QColor line = Hairline(palette());
+  for (int index = 0; index < count(); ++index) {
+    const QRect tab = tabRect(index);
+    const bool front = index == currentIndex();
+    QStyleOptionTab option;
+    initStyleOption(&option, index);
+    if (front) {
+      painter.fillRect(tab, palette().base());
+      painter.fillRect(tab.left(), tab.top(), tab.width(), MarkHeight, palette().highlight());
+      painter.fillRect(tab.left(), tab.top(), 1, tab.height(), line);
+      painter.fillRect(tab.right(), tab.top(), 1, tab.height(), line);
+    } else if (option.state & QStyle::State_MouseOver) {
+      painter.fillRect(tab.adjusted(0, MarkHeight, 0, 0), HoverField(palette()));
+    }
+    QRect place = tab.adjusted(TabPadding, MarkHeight, -TabPadding, 0);
+    tabIcon(index).paint(&painter, place, Qt::AlignLeft | Qt::AlignVCenter,
+                         front ? QIcon::Normal : QIcon::Disabled);
+    place.setLeft(place.left() + MenuIconSize + TabPadding / 2);
+    painter.setPen(front ? palette().color(QPalette::Text) : QuietText(palette()));
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     fontMetrics().elidedText(tabToolTip(index), elideMode(), place.width()));
+    if (front && hasFocus()) {
+      painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));
+      painter.drawRect(tab.adjusted(4, MarkHeight + 3, -5, -5));
+    }
+  }
+}
+
+}  // namespace velor

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "projects/ProjectHost.h"
+
+#include <QPointer>
+
+class QWidget;
+
+namespace velor {
+
+class PageChooser;
+class frmProjectManager;
+struct EditorContext;
+struct ProgramValues;
+
+/// The main window as the project manager sees it, and the keeper of that window.
+class ProjectDesk final : public ProjectHost {
+ public:
+  ProjectDesk(EditorContext &context, ProgramValues &values, PageChooser &chooser);
+
+  /// Shows the project manager modally over `parent`: the one hidden by an earlier opening, else a
+  /// fresh one.
+  void ShowProjectManager(QWidget &parent);
+
+  void ClearTabs() override;
+  void ClearPageChooser() override;
+  void AddChooserPage(const QString &name, std::int32_t pageId) override;
+  int DocumentCount() const override;
+  void UnloadDocument(int index) override;
+  void OpenProjectPage(const QString &path) override;
+  void PickProjectFolder() override;
+
+ private:
+  EditorContext &context_;
+  ProgramValues &values_;
+  PageChooser &chooser_;
+  QPointer<frmProjectManager> manager_;
+};
+
+}  // namespace velor

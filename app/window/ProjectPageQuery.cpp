@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/ProjectPageQuery.h"
+
+#include "platform/Database.h"
+
+namespace velor {
+
+ProjectPageQuery::ProjectPageQuery() = default;
+ProjectPageQuery::~ProjectPageQuery() = default;
+
+std::optional<QString> ProjectPageQuery::PathOf(int pageId, DatabaseConnection &connection) {
+  if (!recordset_) recordset_ = connection.CreateRecordset();
+  if (recordset_->State() == ObjectState::Open) recordset_->Close();
+  recordset_->SetCursorLocation(CursorLocation::Client);
+  recordset_->Open(QStringLiteral("Select * from Page where PageId = ") + QString::number(pageId),
+                   connection, CursorType::Static, LockType::ReadOnly, CommandTypeUnspecified);
+  if (recordset_->RecordCount() < 1) return std::nullopt;
+  return recordset_->Value(QStringLiteral("TPath")).toString() +
+         recordset_->Value(QStringLiteral("Path")).toString();
+}
+
+}  // namespace velor

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "chrome/ColorPalette.h"
+
+#include "chrome/Palette.h"
+
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScreen>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace velor {
+namespace {
+
+constexpr int FieldSize = 24;
+
+/// A square of one colour with its name as tooltip.
+class ColorField final : public QToolButton {
+ public:
+  ColorField(const QString &name, const QColor &color, QWidget *parent)
+      : QToolButton(parent), color_(color) {
+    setFixedSize(FieldSize, FieldSize);
+    setAutoRaise(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setToolTip(name);
+    setAccessibleName(name);
+  }
+
+  QColor Color() const { return color_; }
+
+ protected:
+  void paintEvent(QPaintEvent *) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool marked = hasFocus() || underMouse();
+    const QRectF square = QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5);
+    painter.setPen(Contrast(color_, palette().color(QPalette::Base)) < 1.5
+                       ? palette().color(QPalette::Dark)
+                       : color_.darker(115));
+    painter.setBrush(color_);
+    painter.drawRoundedRect(square, 3, 3);
+    if (!marked) return;
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Rounding, Rounding);
+  }
+
+ private:
+  QColor color_;
+};
+
+}  // namespace
+
+const std::vector<NamedColor> &PaletteColors() {
+  static const std::vector<NamedColor> colors = {
+      {"Black", 0x000000},
+      {"Brown", 0x993300},
+      {"Olive green", 0x333300},
+      {"Dark green", 0x003300},
+      {"Dark teal", 0x003366},
+      {"Dark blue", 0x000080},
+      {"Indigo", 0x333399},
+      {"Grey 80%", 0x333333},
+      {"Dark red", 0x800000},
+      {"Orange", 0xFF6600},
+      {"Dark yellow", 0x808000},
+      {"Green", 0x008000},
+      {"Teal", 0x008080},
+      {"Blue", 0x0000FF},
+      {"Blue grey", 0x666699},
+      {"Grey 50%", 0x808080},
+      {"Red", 0xFF0000},
+      {"Light orange", 0xFF9900},
+      {"Lime", 0x99CC00},
+      {"Sea green", 0x339966},
+      {"Aqua", 0x33CCCC},
+      {"Light blue", 0x3366FF},
+      {"Violet", 0x800080},
+      {"Grey 40%", 0x969696},
+      {"Pink", 0xFF00FF},
+      {"Gold", 0xFFCC00},
+      {"Yellow", 0xFFFF00},
+      {"Bright green", 0x00FF00},
+      {"Turquoise", 0x00FFFF},
+      {"Sky blue", 0x00CCFF},
+      {"Plum", 0x993366},
+      {"Grey 25%", 0xC0C0C0},
+      {"Rose", 0xFF99CC},
+      {"Tan", 0xFFCC99},
+      {"Light yellow", 0xFFFF99},
+      {"Light green", 0xCCFFCC},
+      {"Light turquoise", 0xCCFFFF},
+      {"Pale blue", 0x99CCFF},
+      {"Lavender", 0xCC99FF},
+      {"White", 0xFFFFFF},
+  };
+  return colors;
+}
+
+ColorPalette::ColorPalette(QWidget *parent) : QFrame(parent, Qt::Popup) {
+  setFrameShape(QFrame::StyledPanel);
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::Base);
+  auto *column = new QVBoxLayout(this);
+  column->setContentsMargins(10, 10, 10, 8);
+  column->setSpacing(6);
+
+  auto *grid = new QGridLayout;
+  grid->setSpacing(2);
+  for (const NamedColor &color : PaletteColors()) {
+    const int index = static_cast<int>(fields_.size());
+    fields_.push_back(AddField(grid, index, tr(color.name), QColor(color.rgb)));
+  }
+  column->addLayout(grid);
+
+  recentArea_ = new QWidget(this);
+  auto *recentColumn = new QVBoxLayout(recentArea_);
+  recentColumn->setContentsMargins(0, 0, 0, 0);
+  recentColumn->setSpacing(2);
+  recentColumn->addWidget(new QLabel(tr("Recent"), recentArea_));
+  recentGrid_ = new QGridLayout;
+  recentGrid_->setSpacing(2);
+  recentGrid_->setColumnStretch(Columns, 1);
+  recentColumn->addLayout(recentGrid_);
+  recentArea_->hide();
+  column->addWidget(recentArea_);
+
+  custom_ = new QToolButton(this);
+  custom_->setObjectName(QStringLiteral("custom"));
+  custom_->setText(tr("Custom..."));
+  custom_->setAutoRaise(true);
+  custom_->setFocusPolicy(Qt::StrongFocus);
+  custom_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  custom_->setMinimumHeight(BoxHeight);
+  connect(custom_, &QToolButton::clicked, this, [this] {
+    hide();
+    Q_EMIT CustomWanted();
+  });
+  column->addWidget(custom_);
+}
+
+QToolButton *ColorPalette::AddField(QGridLayout *grid, int index, const QString &name,
+                                    const QColor &color) {
+  auto *field = new ColorField(name, color, this);
+  grid->addWidget(field, index / Columns, index % Columns);
+  connect(field, &QToolButton::clicked, this, [this, color] {
+    hide();
+    Q_EMIT Chosen(color);
+  });
+  return field;
+}
+
+void ColorPalette::SetRecent(const std::vector<QColor> &colors) {
+  while (fields_.size() > PaletteColors().size()) {
+    fields_.back()->deleteLater();
+    fields_.pop_back();
+  }
+  for (std::size_t i = 0; i < colors.size(); ++i) {
+    fields_.push_back(
+        AddField(recentGrid_, static_cast<int>(i), colors[i].name().toUpper(), colors[i]));
+  }
+  recentArea_->setVisible(!colors.empty());
+}
+
+void ColorPalette::DropDownFrom(const QWidget &anchor, const QColor &current) {
+  adjustSize();
+  const QRect screen = anchor.screen()->availableGeometry();
+  QPoint place = anchor.mapToGlobal(QPoint(0, anchor.height() + 2));
+  if (place.y() + height() > screen.bottom()) {
+    place.setY(anchor.mapToGlobal(QPoint(0, -height() - 2)).y());
+  }
+  place.setX(
+      std::clamp(place.x(), screen.left(), std::max(screen.left(), screen.right() - width())));
+  move(place);
+  show();
+  const auto field = std::find_if(fields_.begin(), fields_.end(), [&](const QToolButton *button) {
+    return static_cast<const ColorField *>(button)->Color() == current;
+  });
+  (field == fields_.end() ? fields_.front() : *field)->setFocus(Qt::PopupFocusReason);
+}
+
+void ColorPalette::keyPressEvent(QKeyEvent *event) {
+  const auto at = std::find(fields_.begin(), fields_.end(), focusWidget());
+  const auto count = static_cast<int>(fields_.size());
+  // "Custom..." stands behind the last row.
+  int place = at == fields_.end() ? count : static_cast<int>(at - fields_.begin());
+  switch (event->key()) {
+    case Qt::Key_Left:
+      --place;
+      break;
+    case Qt::Key_Right:
+      ++place;
+      break;
+    case Qt::Key_Up:
+      place = place == count ? count - 1 : place - Columns;
+      break;
+    case Qt::Key_Down:
+      place += Columns;
+      break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (auto *button = qobject_cast<QToolButton *>(focusWidget())) button->click();
+      return;
+    default:
+      QFrame::keyPressEvent(event);
+      return;
+  }
+  place = std::clamp(place, 0, count);
+  QWidget *next = place == count ? custom_ : fields_[static_cast<std::size_t>(place)];
+  next->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace velor

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QComboBox>
+
+namespace velor {
+
+/// A box to choose a font by name. The list shows each family in its own face; a name may also be
+/// typed, whether such a font is installed or not.
+class FontPicker final : public QComboBox {
+  Q_OBJECT
+
+ public:
+  explicit FontPicker(QWidget *parent);
+
+  /// Fills the list with the installed families.
+  void Initialise();
+
+  QString FontName() const { return currentText(); }
+  /// Shows a name; tells nobody.
+  void SetFontName(const QString &name);
+
+ Q_SIGNALS:
+  /// The person chose or typed a name.
+  void FontChosen(const QString &name);
+
+ protected:
+  void focusOutEvent(QFocusEvent *event) override;
+
+ private:
+  void Choose(const QString &name);
+
+  QString shown_;
+};
+
+}  // namespace velor

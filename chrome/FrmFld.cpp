@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "chrome/FrmFld.h"
+
+#include "platform/Paths.h"
+#include "platform/ProgramValues.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QStorageInfo>
+#include <QStyle>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace velor {
+
+namespace {
+
+constexpr int PathRole = Qt::UserRole;
+
+struct Drive {
+  QString label;
+  QString path;
+};
+
+/// Mounts that hold the system or nothing lasting rather than a person's files.
+bool HoldsPersonalFiles(const QStorageInfo &volume) {
+  static const QList<QByteArray> systemTypes = {"tmpfs",    "ramfs", "overlay", "squashfs",
+                                                "devtmpfs", "nsfs",  "efivarfs"};
+  const QString path = volume.rootPath();
+  return volume.isValid() && volume.isReady() && QFileInfo(path).isDir() &&
+         !path.startsWith(QStringLiteral("/boot")) &&
+         !systemTypes.contains(volume.fileSystemType());
+}
+
+/// The root, the home folder and the mounted volumes, each once.
+std::vector<Drive> Drives() {
+  const QString home = QDir::homePath();
+  std::vector<Drive> drives = {{QDir::rootPath(), QDir::rootPath()}};
+  if (home != QDir::rootPath()) drives.push_back({QStringLiteral("%1 (home)").arg(home), home});
+  for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
+    const QString path = volume.rootPath();
+    const bool known = std::any_of(drives.begin(), drives.end(),
+                                   [&path](const Drive &drive) { return drive.path == path; });
+    if (!known && HoldsPersonalFiles(volume)) drives.push_back({path, path});
+  }
+  return drives;
+}
+
+QTreeWidgetItem *NewFolderItem(const QString &name, const QString &path) {
+  auto *item = new QTreeWidgetItem({name});
+  item->setData(0, PathRole, path);
+  item->setToolTip(0, path);
+  item->setIcon(0, QApplication::style()->standardIcon(QStyle::SP_DirIcon));
+  // Whether there is something to open shows when it is opened: looking ahead would read every
+  // folder's folders.
+  item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+  return item;
+}
+
+}  // namespace
+
+FrmFld::FrmFld(ProgramValues &values, QWidget *parent)
+    : QDialog(parent),
+      values_(values),
+      drive1_(new QComboBox),
+      dir1_(new QTreeWidget),
+      selected_(new QLabel) {
+  setObjectName(QStringLiteral("FrmFld"));
+  setWindowTitle(QStringLiteral("Select Folder"));
+
+  drive1_->setObjectName(QStringLiteral("Drive1"));
+  drive1_->setAccessibleName(QStringLiteral("Drive"));
+  dir1_->setObjectName(QStringLiteral("Dir1"));
+  dir1_->setAccessibleName(QStringLiteral("Folder"));
+  dir1_->setHeaderHidden(true);
+  dir1_->setUniformRowHeights(true);
+  selected_->setObjectName(QStringLiteral("lblSelected"));
+  selected_->setAccessibleName(QStringLiteral("Selected folder"));
+  selected_->setTextFormat(Qt::PlainText);
+  selected_->setWordWrap(true);
+
+  auto *buttons = new QDialogButtonBox;
+  ok_ = buttons->addButton(QStringLiteral("Ok"), QDialogButtonBox::AcceptRole);
+  ok_->setObjectName(QStringLiteral("SSCommand1"));
+  ok_->setAccessibleName(ok_->text());
+  ok_->setDefault(true);
+  auto *cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+  cancel->setObjectName(QStringLiteral("SSCommand2"));
+  cancel->setAccessibleName(cancel->text());
+
+  auto *driveLabel = new QLabel(QStringLiteral("Drive"));
+  driveLabel->setBuddy(drive1_);
+  auto *folderLabel = new QLabel(QStringLiteral("Folder"));
+  folderLabel->setBuddy(dir1_);
+
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(16, 16, 16, 16);
+  layout->setSpacing(6);
+  layout->addWidget(driveLabel);
+  layout->addWidget(drive1_);
+  layout->addSpacing(8);
+  layout->addWidget(folderLabel);
+  layout->addWidget(dir1_, 1);
+  layout->addWidget(selected_);
+  layout->addSpacing(8);
+  layout->addWidget(buttons);
+  resize(460, 480);
+
+  connect(buttons, &QDialogButtonBox::accepted, this, &FrmFld::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &FrmFld::reject);
+  connect(drive1_, &QComboBox::currentIndexChanged, this, &FrmFld::ShowDrive);
+  connect(dir1_, &QTreeWidget::itemExpanded, this,
+          [this](QTreeWidgetItem *item) { FillFolders(*item); });
+  connect(dir1_, &QTreeWidget::currentItemChanged, this, [this] {
+    selected_->setText(SelectedFolder());
+    ok_->setEnabled(dir1_->currentItem() != nullptr);
+  });
+
+  FillDrives();
+  SelectFolder(QDir::homePath());
+  dir1_->setFocus();
+}
+
+void FrmFld::FillDrives() {
+  const QSignalBlocker blocker(drive1_);
+  for (const Drive &drive : Drives()) drive1_->addItem(drive.label, drive.path);
+}
+
+void FrmFld::ShowDrive() {
+  const QString path = drive1_->currentData().toString();
+  dir1_->clear();
+  QTreeWidgetItem *root = NewFolderItem(path, path);
+  dir1_->addTopLevelItem(root);
+  root->setExpanded(true);
+  dir1_->setCurrentItem(root);
+}
+
+void FrmFld::FillFolders(QTreeWidgetItem &item) {
+  if (item.childCount() > 0) return;
+  const QDir folder(item.data(0, PathRole).toString());
+  const QFileInfoList children =
+      folder.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+  for (const QFileInfo &child : children) {
+    item.addChild(NewFolderItem(child.fileName(), child.absoluteFilePath()));
+  }
+  if (children.isEmpty()) {
+    item.setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
+  }
+}
+
+void FrmFld::SelectFolder(const QString &nativePath) {
+  const QString wanted = QDir::cleanPath(nativePath);
+  const auto isWithin = [&wanted](const QString &folder) {
+    return wanted == folder || wanted.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+  };
+  int best = 0;
+  for (int index = 1; index < drive1_->count(); ++index) {
+    const QString path = drive1_->itemData(index).toString();
+    if (isWithin(path) && path.size() > drive1_->itemData(best).toString().size()) best = index;
+  }
+  {
+    const QSignalBlocker blocker(drive1_);
+    drive1_->setCurrentIndex(best);
+  }
+  ShowDrive();
+  QTreeWidgetItem *item = dir1_->topLevelItem(0);
+  for (QTreeWidgetItem *next = item; next != nullptr;) {
+    item = std::exchange(next, nullptr);
+    item->setExpanded(true);
+    for (int index = 0; index < item->childCount() && next == nullptr; ++index) {
+      if (isWithin(item->child(index)->data(0, PathRole).toString())) next = item->child(index);
+    }
+  }
+  dir1_->setCurrentItem(item);
+  dir1_->scrollToItem(item);
+}
+
+QString FrmFld::SelectedFolder() const {
+  const QTreeWidgetItem *item = dir1_->currentItem();
+  return item != nullptr ? item->data(0, PathRole).toString() : QString();
+}
+
+void FrmFld::accept() {
+  StoreResult(ToLogic(SelectedFolder()));
+  QDialog::accept();
+}
+
+void FrmFld::reject() {
+  StoreResult({});
+  QDialog::reject();
+}
+
+void FrmFld::StoreResult(const QString &folder) {
+  (ForProject ? values_.ProjectFolderResult : values_.ImageFolderPath) = folder;
+}
+
+}  // namespace velor

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace velor {
+
+struct ProgramValues;
+
+/// The folder picker. Its answer is the chosen folder in logic form, or the empty text when it was
+/// cancelled by its button, Escape or the close box; the other of its two results is left alone.
+class FrmFld : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit FrmFld(ProgramValues &values, QWidget *parent = nullptr);
+
+  /// Where the answer goes: ProjectFolderResult when set, else ImageFolderPath.
+  bool ForProject = false;
+
+  /// Opens the tree down to a native folder and selects it; as far as it exists below the drive.
+  void SelectFolder(const QString &nativePath);
+  /// The selected folder in native form.
+  QString SelectedFolder() const;
+
+ public Q_SLOTS:
+  void accept() override;
+  void reject() override;
+
+ private:
+  void FillDrives();
+  void ShowDrive();
+  void FillFolders(QTreeWidgetItem &item);
+  void StoreResult(const QString &folder);
+
+  ProgramValues &values_;
+  QComboBox *drive1_;
+  QTreeWidget *dir1_;
+  QLabel *selected_;
+  QPushButton *ok_;
+};
+
+}  // namespace velor

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProxyStyle>
+
+namespace velor {
+
+/// Fusion with calmer bars: flat fields, hairlines instead of bevels, round corners under the
+/// pointer, room around the icons. Boxes, buttons and lists stay Fusion's own, so that their sizes
+/// are what other windows reckon with.
+class HouseStyle final : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  HouseStyle();
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+  void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                   const QWidget *widget) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                  const QWidget *widget) const override;
+  QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                         const QWidget *widget) const override;
+};
+
+}  // namespace velor

@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Installs what building and running needs on Debian 12, as root or through sudo.
+# Usage: install.sh [--test]    --test adds what the tests and the tour need
+set -euo pipefail
+
+packages=(
+  g++ cmake ninja-build pkg-config
+  qt6-base-dev qt6-webengine-dev qt6-webchannel-dev qt6-svg-dev libqscintilla2-qt6-dev
+  libgl-dev libicu-dev libsqlite3-dev
+  # Every test is built with the program.
+  libgtest-dev libgmock-dev
+  # What the program looks up when it runs.
+  qt6-qpa-plugins qt6-image-formats-plugins fonts-dejavu-core
+)
+test_packages=(
+  xvfb xauth xdotool openbox at-spi2-core python3-gi gir1.2-atspi-2.0 dbus dbus-x11 imagemagick
+)
+
+case "${1:-}" in
+  --test) packages+=("${test_packages[@]}") ;;
+  '') ;;
+  *) echo "usage: install.sh [--test]" >&2; exit 2 ;;
+esac
+
+missing=()
+for package in "${packages[@]}"; do
+  state=$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null || true)
+  [ "$state" = "install ok installed" ] || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  command -v sudo >/dev/null || { echo "install.sh: run as root, or install sudo; missing: ${missing[*]}" >&2; exit 1; }
+  as_root=(sudo)
+fi
+echo "installing: ${missing[*]}"
+"${as_root[@]}" apt-get update -q
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"

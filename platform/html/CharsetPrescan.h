@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+namespace velor {
+
+/// As much of a page is looked at for a declaration.
+inline constexpr qsizetype PrescanBytes = 1024;
+
+/// The charset that a page's first bytes declare, by the HTML standard's "prescan a byte stream to
+/// determine its encoding": a meta element's charset, or its http-equiv Content-Type; after those
+/// an XML declaration. Comments are skipped. The WHATWG name; empty when nothing known is declared.
+/// UTF-16 counts as UTF-8 (whoever could read the declaration was not reading UTF-16), and
+/// x-user-defined as windows-1252.
+QString DeclaredCharset(QByteArrayView bytes);
+
+}  // namespace velor

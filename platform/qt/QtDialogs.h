@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Dialogs.h"
+
+namespace velor {
+
+/// Message boxes, questions and modal windows over whatever window of the program is active.
+class QtDialogs final : public Dialogs {
+ public:
+  MessageAnswer ShowMessage(const Message &message) override;
+  QString AskText(const QString &prompt, const QString &title,
+                  const QString &defaultAnswer) override;
+  void RunModal(QWidget &dialog) override;
+};
+
+}  // namespace velor

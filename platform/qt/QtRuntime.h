@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Runtime.h"
+
+namespace velor {
+
+/// The process that the program really lives in. The program folder is settled when the object is
+/// made (ProgramFolder.h).
+class QtRuntime final : public Runtime {
+ public:
+  /// The arguments as main gets them.
+  QtRuntime(int argumentCount, const char *const *arguments);
+
+  QString CommandLineText() const override { return commandLine_; }
+  QString ProgramFolder() const override { return programFolder_; }
+  void ProcessPendingEvents() override;
+  [[noreturn]] void EndProgram(int exitStatus) override;
+  void ShowBusyCursor() override;
+  void RestoreCursor() override;
+
+ private:
+  QString commandLine_;
+  QString programFolder_;
+};
+
+}  // namespace velor

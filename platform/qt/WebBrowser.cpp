@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/WebBrowser.h"
+
+#include "platform/RuntimeError.h"
+#include "platform/qt/BaseElement.h"
+
+#include <QFile>
+#include <QWebEngineDownloadRequest>
+#include <QWebEnginePage>
+#include <QWebEngineProfile>
+#include <QWebEngineSettings>
+#include <QWebEngineView>
+
+namespace velor {
+
+namespace {
+
+/// Progress is told in percent.
+constexpr int ProgressMaximum = 100;
+constexpr const char *Utf8Mark = "\xEF\xBB\xBF";
+
+/// Stands in for the window a page wants to open: hands its first address to the page that asked,
+/// and goes.
+class WindowRequest final : public QWebEnginePage {
+ public:
+  WindowRequest(QWebEngineProfile *profile, QWebEnginePage *asking)
+      : QWebEnginePage(profile, asking), asking_(asking) {}
+
+ protected:
+  bool acceptNavigationRequest(const QUrl &url, NavigationType, bool isMainFrame) override {
+    if (isMainFrame && !asking_.isNull()) asking_->load(url);
+    deleteLater();
+    return false;
+  }
+
+ private:
+  QPointer<QWebEnginePage> asking_;
+};
+
+class BrowserPage final : public QWebEnginePage {
+ public:
+  using QWebEnginePage::QWebEnginePage;
+
+ protected:
+  QWebEnginePage *createWindow(WebWindowType) override {
+    return new WindowRequest(profile(), this);
+  }
+};
+
+}  // namespace
+
+WebBrowser::WebBrowser(QWidget *parent)
+    : profile_(std::make_unique<QWebEngineProfile>()),
+      view_(new QWebEngineView(parent)),
+      page_(new BrowserPage(profile_.get())) {
+  QWebEngineSettings *settings = page_->settings();
+  // A page on disk may not read other files by script, and nothing runs that pages do not need.
+  settings->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, false);
+  settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
+  settings->setAttribute(QWebEngineSettings::PluginsEnabled, false);
+  settings->setAttribute(QWebEngineSettings::NavigateOnDropEnabled, false);
+  view_->setPage(page_);
+
+  connect(profile_.get(), &QWebEngineProfile::downloadRequested, this,
+          [](QWebEngineDownloadRequest *download) { download->cancel(); });
+  connect(page_, &QWebEnginePage::linkHovered, this, [this](const QString &address) {
+    if (listener_ != nullptr) listener_->StatusTextChanged(address);
+  });
+  connect(page_, &QWebEnginePage::loadProgress, this, [this](int percent) {
+    if (listener_ != nullptr) listener_->ProgressChanged(percent, ProgressMaximum);
+  });
+}
+
+WebBrowser::~WebBrowser() {
+  // The page goes before its profile, and the view before the page.
+  delete view_;
+  delete page_;
+}
+
+QWidget *WebBrowser::Widget() {
+  return view_;
+}
+
+void WebBrowser::SetListener(BrowserListener *listener) {
+  listener_ = listener;
+}
+
+void WebBrowser::Navigate(const QUrl &url) {
+  page_->load(url);
+}
+
+void WebBrowser::NavigateToText(const QString &html, const QUrl &baseUrl) {
+  const QString name = copies_.filePath(QStringLiteral("preview.htm"));
+  QFile copy(name);
+  // The mark outweighs the charset that the page declares for its own file.
+  const QByteArray bytes = Utf8Mark + WithBase(html, baseUrl).toUtf8();
+  if (!copy.open(QIODevice::WriteOnly) || copy.write(bytes) != bytes.size() || !copy.flush()) {
+    throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("Preview"),
+                       copy.errorString() + QStringLiteral(": ") + name);
+  }
+  page_->load(QUrl::fromLocalFile(name));
+}
+
+void WebBrowser::GoBack() {
+  page_->triggerAction(QWebEnginePage::Back);
+}
+
+void WebBrowser::GoForward() {
+  page_->triggerAction(QWebEnginePage::Forward);
+}
+
+void WebBrowser::Refresh() {
+  page_->triggerAction(QWebEnginePage::Reload);
+}
+
+void WebBrowser::Stop() {
+  page_->triggerAction(QWebEnginePage::Stop);
+}
+
+}  // namespace velor

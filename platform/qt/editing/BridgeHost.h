@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/qt/GuardedWait.h"
+#include "platform/qt/editing/StateSnapshot.h"
+
+#include <QObject>
+#include <QPoint>
+
+namespace velor {
+
+/// The bridge's door into the program: the object "velorHost" of docs/bridge.md. The page calls its
+/// slots from inside the engine, so receivers of its signals may only store.
+class BridgeHost : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit BridgeHost(EngineGuard &guard) : guard_(guard) {}
+
+ public Q_SLOTS:
+  void pushState(const QString &json) {
+    const EngineCallback callback(guard_);
+    if (const auto state = StateSnapshot::FromJson(json)) Q_EMIT StateArrived(*state);
+  }
+  void pushMouse(double x, double y) {
+    const EngineCallback callback(guard_);
+    Q_EMIT PointerMoved({qRound(x), qRound(y)});
+  }
+
+ Q_SIGNALS:
+  void StateArrived(const velor::StateSnapshot &state);
+  void PointerMoved(QPoint clientPosition);
+
+ private:
+  EngineGuard &guard_;
+};
+
+}  // namespace velor

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/editing/EditorInput.h"
+
+#include <QKeyEvent>
+#include <QWebEngineView>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <iterator>
+
+namespace velor {
+
+namespace {
+
+/// Keys with which a browser goes elsewhere or loads anew.
+const QKeyCombination browserKeys[] = {
+    Qt::Key_F5,   Qt::CTRL | Qt::Key_R, Qt::ALT | Qt::Key_Left, Qt::ALT | Qt::Key_Right,
+    Qt::Key_Back, Qt::Key_Forward,      Qt::Key_Refresh,
+};
+
+bool IsBrowserKey(const QKeyEvent &key) {
+  return std::find(std::begin(browserKeys), std::end(browserKeys), key.keyCombination()) !=
+         std::end(browserKeys);
+}
+
+}  // namespace
+
+EditorInput::EditorInput(QWebEngineView *view) : QObject(view), view_(view) {
+  view_->installEventFilter(this);
+  Attach();
+}
+
+void EditorInput::Attach() {
+  if (QWidget *input = view_->focusProxy()) {
+    input->removeEventFilter(this);
+    input->installEventFilter(this);
+  }
+}
+
+bool EditorInput::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == view_) {
+    if (event->type() == QEvent::ChildPolished) Attach();
+    return false;
+  }
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      // Unanswered, the key is first offered to the program's shortcuts; only what none of them
+      // wants comes back as a key press.
+      event->ignore();
+      return true;
+    case QEvent::KeyPress:
+      Q_EMIT InputComing();
+      return IsBrowserKey(*static_cast<QKeyEvent *>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::InputMethod:
+    case QEvent::Drop:
+      Q_EMIT InputComing();
+      return false;
+    case QEvent::Wheel:
+      // The engine would zoom, for every page at once.
+      return static_cast<QWheelEvent *>(event)->modifiers().testFlag(Qt::ControlModifier);
+    default:
+      return false;
+  }
+}
+
+}  // namespace velor

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+class QWebEngineView;
+
+namespace velor {
+
+/// Stands before the view's input: gives the program's shortcuts back to the program and keeps the
+/// browser's own keys from doing anything. Everything else goes to the page, formatting and undo
+/// keys too: the bridge carries them out in the order in which they come with typed text.
+class EditorInput : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Follows the view's input widget, which the engine may replace.
+  explicit EditorInput(QWebEngineView *view);
+
+  /// Takes up the view's present input widget.
+  void Attach();
+
+ Q_SIGNALS:
+  /// A key or button is about to reach the page.
+  void InputComing();
+
+ protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+ private:
+  QWebEngineView *view_;
+};
+
+}  // namespace velor

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/editing/EngineView.h"
+
+#include "platform/qt/editing/BridgeScript.h"
+#include "platform/qt/editing/EditorInput.h"
+#include "platform/qt/editing/EditorPage.h"
+
+#include <QVBoxLayout>
+#include <QWebEngineHistory>
+#include <QWebEngineLoadingInfo>
+#include <QWebEngineView>
+
+#include <memory>
+
+namespace velor {
+
+EngineView::EngineView(EditingEngine &engine, QWidget *container)
+    : engine_(engine), host_(engine.Guard()), view_(new QWebEngineView(container)) {
+  page_ = new EditorPage(&engine.Profile(), engine.Guard(), view_);
+  page_->setBackgroundColor(Qt::white);
+  channel_.registerObject(QStringLiteral("velorHost"), &host_);
+  page_->setWebChannel(&channel_, bridgeWorld);
+  view_->setPage(page_);
+  view_->setContextMenuPolicy(Qt::CustomContextMenu);
+  input_ = new EditorInput(view_);
+  container->layout()->addWidget(view_);
+  container->setFocusProxy(view_);
+
+  connect(&host_, &BridgeHost::StateArrived, this, [this](const StateSnapshot &state) {
+    // While a page loads the channel may still deliver what the page before it had to say.
+    if (phase_ == Phase::Ready) Q_EMIT StateArrived(state);
+  });
+  connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
+  connect(input_, &EditorInput::InputComing, this, &EngineView::InputComing);
+  connect(view_, &QWebEngineView::customContextMenuRequested, this, [this](QPoint position) {
+    const EngineCallback callback(engine_.Guard());
+    Q_EMIT MenuWanted(view_->mapToGlobal(position));
+  });
+  connect(page_, &QWebEnginePage::renderProcessTerminated, this, [this] {
+    const EngineCallback callback(engine_.Guard());
+    phase_ = Phase::Dead;
+    Q_EMIT Died();
+    engine_.Guard().Wake();
+  });
+  connect(page_, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo &info) {
+    const EngineCallback callback(engine_.Guard());
+    // Refused navigations of the page's own end here as well, under their own addresses.
+    if (phase_ != Phase::Loading || info.url() != address_) return;
+    if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return;
+    if (info.status() != QWebEngineLoadingInfo::LoadSucceededStatus) return EndLoad(Phase::Failed);
+    Evaluate(start_, [this, address = address_](const QVariant &answer) {
+      if (phase_ != Phase::Loading || address != address_) return;
+      startAnswer_ = answer;
+      EndLoad(answer.isValid() ? Phase::Ready : Phase::Failed);
+    });
+  });
+}
+
+EngineView::~EngineView() {
+  // The engine answers what is still open while the page is deleted; nobody listens any more.
+  blockSignals(true);
+  phase_ = Phase::Dead;
+  delete view_;
+  engine_.Scheme().Withdraw(address_);
+}
+
+EngineView::Phase EngineView::CurrentPhase() const {
+  return page_ != nullptr ? phase_ : Phase::Dead;
+}
+
+void EngineView::Load(const QString &nativePath, const QString &text, const QString &start) {
+  if (page_ == nullptr) return;
+  engine_.Scheme().Withdraw(address_);
+  address_ = engine_.Scheme().Offer(nativePath, text);
+  start_ = start;
+  startAnswer_ = {};
+  phase_ = Phase::Loading;
+  page_->LoadOwn(address_);
+}
+
+void EngineView::EndLoad(Phase phase) {
+  phase_ = phase;
+  engine_.Scheme().Withdraw(address_);
+  page_->history()->clear();
+  input_->Attach();
+  Q_EMIT LoadEnded();
+  engine_.Guard().Wake();
+}
+
+void EngineView::Run(const QString &expression,
+                     const std::function<void(const QVariant &)> &answer) {
+  if (CurrentPhase() == Phase::Ready) Evaluate(expression, answer);
+}
+
+void EngineView::Evaluate(const QString &expression,
+                          const std::function<void(const QVariant &)> &answer) {
+  if (!answer) return page_->runJavaScript(expression, bridgeWorld);
+  page_->runJavaScript(expression, bridgeWorld,
+                       [alive = QPointer<EngineView>(this), &guard = engine_.Guard(),
+                        answer](const QVariant &value) {
+                         if (alive == nullptr) return;
+                         const EngineCallback callback(guard);
+                         answer(value);
+                       });
+}
+
+std::optional<QVariant> EngineView::Ask(const QString &expression,
+                                        std::chrono::milliseconds limit) {
+  if (CurrentPhase() != Phase::Ready || engine_.Guard().InCallback()) return std::nullopt;
+  // Shared, since the answer may come when nobody waits any more.
+  const auto value = std::make_shared<std::optional<QVariant>>();
+  Run(expression, [this, value](const QVariant &answer) {
+    *value = answer;
+    engine_.Guard().Wake();
+  });
+  const WaitEnd end = Wait(limit, [this, value, address = address_] {
+    return value->has_value() || CurrentPhase() != Phase::Ready || address != address_;
+  });
+  return end == WaitEnd::Done ? *value : std::nullopt;
+}
+
+WaitEnd EngineView::Wait(std::chrono::milliseconds limit, const std::function<bool()> &done) {
+  return GuardedWait(engine_.Guard()).Until(*this, limit, done);
+}
+
+void EngineView::SetFocus() {
+  if (view_ != nullptr) view_->setFocus();
+}
+
+}  // namespace velor

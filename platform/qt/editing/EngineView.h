@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/qt/editing/BridgeHost.h"
+#include "platform/qt/editing/EditingEngine.h"
+
+#include <QPointer>
+#include <QVariant>
+#include <QWebChannel>
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+class QWebEngineView;
+
+namespace velor {
+
+class EditorInput;
+class EditorPage;
+
+/// One view of the browser engine with the bridge in it: loads texts, evaluates expressions of the
+/// bridge, and says what happens. It lives in a container widget that may go before it; then it
+/// behaves like a dead page. Unless said otherwise its signals come from inside the engine, so that
+/// receivers may only store.
+class EngineView : public QObject {
+  Q_OBJECT
+
+ public:
+  enum class Phase {
+    Empty,
+    Loading,
+    Ready,
+    Failed,  ///< the last load did not end in a page with a bridge
+    Dead,    ///< the page's process has ended
+  };
+
+  EngineView(EditingEngine &engine, QWidget *container);
+  ~EngineView() override;
+
+  Phase CurrentPhase() const;
+
+  /// Begins to replace the page. `nativePath` as PageScheme::Offer takes it. `start` is evaluated
+  /// when the page is there; its value is StartAnswer().
+  void Load(const QString &nativePath, const QString &text, const QString &start);
+  const QVariant &StartAnswer() const { return startAnswer_; }
+
+  /// Evaluates an expression; `answer`, where given, is called from inside the engine.
+  void Run(const QString &expression, const std::function<void(const QVariant &)> &answer = {});
+  /// Evaluates an expression and waits for its value. Nothing when the page is not ready, dies
+  /// or does not answer in time; then, and only then, `this` may be gone.
+  std::optional<QVariant> Ask(const QString &expression, std::chrono::milliseconds limit);
+  /// Waits for `done`; see GuardedWait.
+  WaitEnd Wait(std::chrono::milliseconds limit, const std::function<bool()> &done);
+
+  void SetFocus();
+
+ Q_SIGNALS:
+  /// The phase is Ready or Failed now.
+  void LoadEnded();
+  void Died();
+  void StateArrived(const velor::StateSnapshot &state);
+  void PointerMoved(QPoint clientPosition);
+  void MenuWanted(QPoint screenPosition);
+  /// A key or button is about to reach the page; from outside the engine.
+  void InputComing();
+
+ private:
+  void Evaluate(const QString &expression, const std::function<void(const QVariant &)> &answer);
+  void EndLoad(Phase phase);
+
+  EditingEngine &engine_;
+  BridgeHost host_;
+  QWebChannel channel_;
+  QPointer<QWebEngineView> view_;
+  QPointer<EditorPage> page_;  ///< a child of view_
+  EditorInput *input_;         ///< a child of view_
+  Phase phase_ = Phase::Empty;
+  QUrl address_;
+  QString start_;
+  QVariant startAnswer_;
+};
+
+}  // namespace velor

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/qt/GuardedWait.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <vector>
+
+namespace velor {
+
+/// What a component has to tell, in the order in which it is told when several wait.
+enum class Notice { LoadEnded, Complete, Display, Pointer, Menu, Report, Died };
+
+/// Notices on their way out. They leave by a timer of a millisecond: by then the engine's callback
+/// or the caller that caused them has returned (a shorter way out does not: waiting for the
+/// engine would then hang). While a wait runs none leaves.
+class NoticeQueue : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit NoticeQueue(EngineGuard &guard);
+
+  /// Two waiting notices of one kind are one, the later; reports are all told.
+  void Post(Notice kind, std::function<void()> deliver);
+  /// Delivers everything that waits; only outside of engine callbacks.
+  void Deliver();
+
+ private:
+  struct Waiting {
+    Notice kind;
+    std::function<void()> deliver;
+  };
+
+  EngineGuard &guard_;
+  QTimer timer_;
+  std::vector<Waiting> waiting_;
+};
+
+}  // namespace velor

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QUrl>
+#include <QWebEngineUrlSchemeHandler>
+
+#include <map>
+
+namespace velor {
+
+/// Makes the scheme known; before the application object is made. Repeating it is harmless.
+void RegisterPageScheme();
+
+/// The scheme under which pages are shown for editing. A page's address is its own native path, so
+/// that its relative links resolve to the files beside it, with a query that names the text on
+/// offer; the text itself comes from memory, already decoded. Every other address of the scheme is
+/// a file: exactly named first, then ignoring letter case, as the pages' authors are used to.
+class PageScheme : public QWebEngineUrlSchemeHandler {
+  Q_OBJECT
+
+ public:
+  static QByteArray Name();
+
+  /// Offers a text and returns the address that shows it; `nativePath` is the page's file, or the
+  /// folder (ending in "/") against which a page without a file resolves its links.
+  QUrl Offer(const QString &nativePath, const QString &text);
+  void Withdraw(const QUrl &address);
+
+  void requestStarted(QWebEngineUrlRequestJob *job) override;
+
+ private:
+  std::map<QString, QByteArray> offered_;  ///< UTF-8 by query
+  int lastNumber_ = 0;
+};
+
+}  // namespace velor

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/editing/WebDocument.h"
+
+#include "platform/qt/editing/BridgeScript.h"
+#include "platform/qt/editing/WebEditor.h"
+
+namespace velor {
+
+class WebTextRange : public TextRange {
+ public:
+  explicit WebTextRange(WebEditor &editor) : editor_(editor) {}
+
+  void Collapse() override { collapsed_ = true; }
+  HtmlElement ParentElement() const override { return editor_.snapshot_.element; }
+  void PasteHTML(const QString &html) override {
+    if (collapsed_) editor_.Run(QStringLiteral("getSelection().collapseToStart()"));
+    editor_.Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(html)));
+  }
+
+ private:
+  WebEditor &editor_;
+  bool collapsed_ = false;
+};
+
+SelectionType WebDocument::Type() const {
+  return editor_.snapshot_.selection;
+}
+
+std::unique_ptr<TextRange> WebDocument::CreateRange() {
+  return std::make_unique<WebTextRange>(editor_);
+}
+
+HtmlElement WebDocument::ControlElement() const {
+  return Type() == SelectionType::Control ? editor_.snapshot_.element : HtmlElement{};
+}
+
+}  // namespace velor

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/EditingComponent.h"
+#include "platform/html/PageText.h"
+#include "platform/qt/editing/EngineView.h"
+#include "platform/qt/editing/NoticeQueue.h"
+#include "platform/qt/editing/StateSnapshot.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include <chrono>
+#include <memory>
+#include <optional>
+
+namespace velor {
+
+class Files;
+class WebDocument;
+
+/// The editing component on the browser engine.
+///
+/// The view is made with the first document, or when the widget is first seen without one: an
+/// editor that is never shown costs nothing. States come from the pushed snapshot. A mirror of the
+/// document is kept on this side: it answers while the page cannot, and a page whose process has
+/// ended comes back from it with what it was loaded from (original and baseline) unchanged, so
+/// that what counts as edited stays the same.
+class WebEditor : public EditingComponent {
+ public:
+  /// `programFolder` in logic form: where the links of a page without a file lead.
+  WebEditor(EditingEngine &engine, Files &files, QString programFolder, QWidget *parent);
+  ~WebEditor() override;
+
+  QWidget *Widget() override;
+  void SetListener(EditingListener *listener) override;
+  void SetFocus() override;
+  void SetToolTip(const QString &text) override;
+  QString DocumentHTML() override;
+  void SetDocumentHTML(const QString &html) override;
+  void LoadDocument(const QString &path) override;
+  void SaveDocument(const QString &path) override;
+  QString TextToSave() override;
+  QString Charset() const override;
+  QVariant ExecCommand(int command, ExecOption option, const QVariant &value) override;
+  CommandStatus QueryStatus(int command) const override;
+  HtmlDocument &Document() override;
+  bool ShowDetails() const override;
+  void SetShowDetails(bool on) override;
+  bool SnapToGrid() const override;
+  void SetSnapToGrid(bool on) override;
+
+ private:
+  friend class WebDocument;
+  friend class WebTextRange;
+
+  /// What a load under way is for.
+  enum class LoadPurpose { None, Blank, Document, Restore };
+  /// The document and the selection's place as they were last seen on this side.
+  struct Mirror {
+    QString html;
+    QVariant start;
+    QVariant end;
+  };
+
+  EngineView &View();
+  void ConnectView();
+
+  // Loading (WebEditorLoading.cpp)
+  void Replace(PageOriginal original, const QString &nativePath, LoadPurpose purpose);
+  void BeginLoad(LoadPurpose purpose);
+  void FinishLoad();
+  void LoadBlankIfEmpty();
+  /// The document as the page has it now; nothing when it does not answer (then `this` may be
+  /// gone).
+  std::optional<QString> Read();
+  PageToWrite Compose();
+
+  // The mirror and bringing a page back (WebEditorRecovery.cpp)
+  void StateArrived(const StateSnapshot &state);
+  void TakeMirror();
+  void Died();
+  void Report(const QString &message);
+
+  void Run(const QString &expression);
+
+  EditingEngine &engine_;
+  Files &files_;
+  QString programFolder_;
+  QPointer<QWidget> container_;
+  EditingListener *listener_ = nullptr;
+  std::unique_ptr<WebDocument> document_;
+
+  PageOriginal original_;
+  QString nativePath_;
+  StateSnapshot snapshot_;
+  bool showDetails_ = false;
+  bool snapToGrid_ = false;
+
+  LoadPurpose load_ = LoadPurpose::None;
+  int loads_ = 0;   ///< counts the loads begun
+  int deaths_ = 0;  ///< of the page's process, in quick succession
+  QElapsedTimer sinceDeath_;
+  Mirror mirror_;
+  QTimer mirrorTimer_;
+  std::chrono::milliseconds mirrorCost_{0};  ///< of asking for the mirror last time
+
+  NoticeQueue notices_;
+  std::unique_ptr<EngineView> view_;  ///< last: goes first, while the rest can still be told
+};
+
+}  // namespace velor

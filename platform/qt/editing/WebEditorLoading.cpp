@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Documents into the engine and out of it.
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+#include "platform/qt/editing/BridgeScript.h"
+#include "platform/qt/editing/WebEditor.h"
+
+#include <utility>
+
+namespace velor {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Two minutes hold the largest page that a person would wait for.
+constexpr std::chrono::milliseconds loadLimit = 2min;
+constexpr std::chrono::milliseconds readLimit = 15s;
+/// A page whose process ends while it loads is tried once more.
+constexpr int loadAttempts = 2;
+
+/// Where links of a page without a file lead: the folder itself.
+QString FolderAddress(const QString &logicFolder) {
+  QString path = ToNative(logicFolder);
+  if (!path.endsWith(u'/')) path += u'/';
+  return path;
+}
+
+}  // namespace
+
+void WebEditor::SetDocumentHTML(const QString &html) {
+  const PageEncoding encoding = DeclaredEncoding(html);
+  Replace({EncodePage(html, encoding), {html, encoding}, {}}, FolderAddress(programFolder_),
+          LoadPurpose::Document);
+}
+
+void WebEditor::LoadDocument(const QString &path) {
+  const QByteArray bytes = files_.ReadAll(path);
+  Replace({bytes, DecodePage(bytes), {}}, ToNative(path), LoadPurpose::Document);
+}
+
+void WebEditor::LoadBlankIfEmpty() {
+  if (loads_ > 0 || container_ == nullptr) return;
+  Replace({}, FolderAddress(programFolder_), LoadPurpose::Blank);
+}
+
+void WebEditor::Replace(PageOriginal original, const QString &nativePath, LoadPurpose purpose) {
+  original_ = std::move(original);
+  nativePath_ = nativePath;
+  mirror_ = {WithLineEnds(original_.page.text, LineEnds::Lf), {}, {}};
+  deaths_ = 0;
+  const QPointer<EngineView> view(&View());
+  for (int attempt = 1; attempt <= loadAttempts; ++attempt) {
+    BeginLoad(purpose);
+    const int load = loads_;
+    const WaitEnd end = view->Wait(loadLimit, [this, load] {
+      return load != loads_ || view_->CurrentPhase() != EngineView::Phase::Loading;
+    });
+    // A page closed or replaced meanwhile is no failure of this call; one that cannot be waited
+    // for here ends its loading by itself.
+    if (view == nullptr || load != loads_ || end == WaitEnd::Refused) return;
+    if (view->CurrentPhase() != EngineView::Phase::Dead) break;
+  }
+  if (view->CurrentPhase() != EngineView::Phase::Ready) {
+    load_ = LoadPurpose::None;
+    throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("LoadDocument"), nativePath);
+  }
+  FinishLoad();
+}
+
+void WebEditor::BeginLoad(LoadPurpose purpose) {
+  load_ = purpose;
+  ++loads_;
+  snapshot_ = {};
+  mirrorTimer_.stop();
+  QString text = original_.page.text;
+  QString start = QStringLiteral("velor.start({showDetails:%1,snapToGrid:%2});")
+                      .arg(ScriptValue(showDetails_), ScriptValue(snapToGrid_));
+  if (purpose == LoadPurpose::Restore) {
+    // Untouched, it comes from its original again: what the engine makes of its own
+    // serialisation may differ from what it made of the page.
+    if (mirror_.html != original_.baseline) text = mirror_.html;
+    start += QStringLiteral("velor.restore(%1,%2);")
+                 .arg(ScriptValue(mirror_.start), ScriptValue(mirror_.end));
+  }
+  View().Load(nativePath_, text, start + QStringLiteral("velor.serialize()"));
+}
+
+void WebEditor::FinishLoad() {
+  const LoadPurpose purpose = std::exchange(load_, LoadPurpose::None);
+  if (purpose == LoadPurpose::None) return;
+  if (view_->CurrentPhase() != EngineView::Phase::Ready) {
+    Report(
+        QStringLiteral("The page could not be displayed. Its text is kept: save the page and "
+                       "open it again."));
+    return;
+  }
+  if (purpose == LoadPurpose::Restore) {
+    Report(QStringLiteral("The page's display has been restored."));
+    return;
+  }
+  mirror_.html = original_.baseline = view_->StartAnswer().toString();
+  if (purpose == LoadPurpose::Document)
+    notices_.Post(Notice::Complete, [this] {
+      if (listener_ != nullptr) listener_->DocumentComplete();
+    });
+}
+
+QString WebEditor::DocumentHTML() {
+  LoadBlankIfEmpty();
+  QString mirror = mirror_.html;
+  return Read().value_or(mirror);
+}
+
+std::optional<QString> WebEditor::Read() {
+  if (view_ == nullptr) return std::nullopt;
+  const QPointer<EngineView> alive(view_.get());
+  const int load = loads_;
+  const auto answer = alive->Ask(QStringLiteral("velor.serialize()"), readLimit);
+  if (!answer) return std::nullopt;
+  if (load == loads_) mirror_.html = answer->toString();
+  return answer->toString();
+}
+
+void WebEditor::SaveDocument(const QString &path) {
+  Files &files = files_;
+  files.ReplaceAll(path, Compose().bytes);
+}
+
+QString WebEditor::TextToSave() {
+  return Compose().text;
+}
+
+QString WebEditor::Charset() const {
+  return original_.page.encoding.charset;
+}
+
+PageToWrite WebEditor::Compose() {
+  LoadBlankIfEmpty();
+  const PageOriginal original = original_;
+  const QString mirror = mirror_.html;
+  const QString nativePath = nativePath_;
+  EngineGuard &guard = engine_.Guard();
+  const QPointer<EngineView> alive(view_.get());
+  if (const auto html = Read()) return ComposePage(original, *html);
+  // A live page that does not answer may hold more than the mirror: better no file than an old one.
+  if (alive != nullptr && alive->CurrentPhase() == EngineView::Phase::Ready && !guard.InCallback())
+    throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("SaveDocument"), nativePath);
+  return ComposePage(original, mirror);
+}
+
+}  // namespace velor

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The mirror of the document, and bringing a page back from it.
+#include "platform/qt/editing/WebEditor.h"
+
+#include <QVariantMap>
+
+#include <algorithm>
+
+namespace velor {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::chrono::milliseconds mirrorPause = 300ms;
+/// Keeping the mirror may take a tenth of the page's time at most.
+constexpr int mirrorShare = 10;
+/// A page that keeps killing its process within this time is left as it is after a few tries.
+constexpr std::chrono::milliseconds steadyTime = 10s;
+constexpr int restoreAttempts = 3;
+
+}  // namespace
+
+void WebEditor::StateArrived(const StateSnapshot &state) {
+  snapshot_ = state;
+  if (state.html) mirror_.html = *state.html;
+  snapshot_.html.reset();
+  if (!mirrorTimer_.isActive())
+    mirrorTimer_.start(std::max(mirrorPause, mirrorShare * mirrorCost_));
+  notices_.Post(Notice::Display, [this] {
+    if (listener_ != nullptr) listener_->DisplayChanged();
+  });
+}
+
+void WebEditor::TakeMirror() {
+  QElapsedTimer asked;
+  asked.start();
+  view_->Run(QStringLiteral("velor.mirror()"), [this, asked, load = loads_](const QVariant &value) {
+    const QVariantMap mirror = value.toMap();
+    if (load != loads_ || mirror.isEmpty()) return;
+    mirrorCost_ = std::chrono::milliseconds(asked.elapsed());
+    mirror_ = {mirror[QStringLiteral("html")].toString(), mirror[QStringLiteral("start")],
+               mirror[QStringLiteral("end")]};
+  });
+}
+
+void WebEditor::Died() {
+  if (view_->CurrentPhase() != EngineView::Phase::Dead) return;
+  if (sinceDeath_.isValid() && sinceDeath_.hasExpired(steadyTime.count())) deaths_ = 0;
+  sinceDeath_.start();
+  if (++deaths_ > restoreAttempts) {
+    Report(
+        QStringLiteral("The page's display keeps stopping. Its text is kept: save the page and "
+                       "open it again."));
+    return;
+  }
+  Report(QStringLiteral("The page's display stopped and is being restored."));
+  BeginLoad(original_.baseline.isEmpty() ? LoadPurpose::Document : LoadPurpose::Restore);
+}
+
+void WebEditor::Report(const QString &message) {
+  notices_.Post(Notice::Report, [this, message] {
+    if (listener_ != nullptr) listener_->ComponentReported(message);
+  });
+}
+
+}  // namespace velor

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/sqlite/CatalogueFile.h"
+
+#include "platform/RuntimeError.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace velor {
+
+namespace {
+
+constexpr qsizetype HeaderBytes = 32;
+
+/// What a file's header says; `start` is where the mark lies.
+struct Format {
+  qsizetype start;
+  QByteArray mark;
+  /// Empty for the format that is read here.
+  QString objection;
+};
+
+const QList<Format> &Formats() {
+  static const QList<Format> formats = {
+      {0, QByteArray("SQLite format 3\0", 16), {}},
+      {4, "Standard Jet DB",
+       QStringLiteral("it is kept in the Jet format, which this version cannot open yet")},
+      {4, "Standard ACE DB",
+       QStringLiteral("it is kept in the ACE format (.accdb), which cannot be opened; convert it "
+                      "first")},
+  };
+  return formats;
+}
+
+QString Source() {
+  return QStringLiteral("Database.Open");
+}
+
+QByteArray ReadHeader(const QString &nativePath) {
+  const int descriptor = open(QFile::encodeName(nativePath).constData(), O_RDONLY | O_CLOEXEC);
+  if (descriptor < 0) throw RuntimeError::FromErrno(errno, Source(), nativePath);
+  QByteArray header(HeaderBytes, '\0');
+  const ssize_t count = read(descriptor, header.data(), static_cast<std::size_t>(header.size()));
+  const int cause = errno;
+  close(descriptor);
+  if (count < 0) throw RuntimeError::FromErrno(cause, Source(), nativePath);
+  header.truncate(count);
+  return header;
+}
+
+[[noreturn]] void Refuse(const QString &nativePath, const QString &objection) {
+  throw RuntimeError::Of(
+      ErrorNumber::DeviceIoError, Source(),
+      QStringLiteral("The catalogue %1 cannot be opened: %2").arg(nativePath, objection));
+}
+
+}  // namespace
+
+void CheckCatalogueFile(const QString &nativePath) {
+  if (QFileInfo(nativePath).isDir()) {
+    throw RuntimeError::FromErrno(EISDIR, Source(), nativePath);
+  }
+  const QByteArray header = ReadHeader(nativePath);
+  if (header.isEmpty()) Refuse(nativePath, QStringLiteral("it is empty"));
+  for (const Format &format : Formats()) {
+    if (header.mid(format.start, format.mark.size()) != format.mark) continue;
+    if (!format.objection.isEmpty()) Refuse(nativePath, format.objection);
+    return;
+  }
+  Refuse(nativePath, QStringLiteral("it is no database"));
+}
+
+}  // namespace velor

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/sqlite/SqliteRecordset.h"
+
+#include "platform/RuntimeError.h"
+#include "platform/sqlite/SqliteConnection.h"
+#include "platform/sqlite/SqliteStatement.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <sqlite3.h>
+
+namespace velor {
+
+namespace {
+
+struct DeclaredType {
+  const char *start;
+  ColumnType type;
+};
+
+/// What a declared type begins with, letter case ignored; the first that fits counts.
+constexpr DeclaredType DeclaredTypes[] = {
+    {"LONGTEXT", ColumnType::LongVarWideChar},
+    {"CLOB", ColumnType::LongVarWideChar},
+    {"VARCHAR", ColumnType::VarWideChar},
+    {"NVARCHAR", ColumnType::VarWideChar},
+    {"CHAR", ColumnType::VarWideChar},
+    {"NCHAR", ColumnType::VarWideChar},
+    {"TEXT", ColumnType::VarWideChar},
+    {"BOOL", ColumnType::Boolean},
+    {"DATE", ColumnType::Date},
+    {"TIMESTAMP", ColumnType::Date},
+    {"INT", ColumnType::Integer},
+    {"BIGINT", ColumnType::Integer},
+    {"SMALLINT", ColumnType::Integer},
+    {"TINYINT", ColumnType::Integer},
+    {"REAL", ColumnType::Double},
+    {"DOUBLE", ColumnType::Double},
+    {"FLOAT", ColumnType::Double},
+    {"NUMERIC", ColumnType::Double},
+    {"DECIMAL", ColumnType::Double},
+    {"CURRENCY", ColumnType::Double},
+};
+
+std::optional<ColumnType> Declared(const char *declaration) {
+  const QString text = QString::fromUtf8(declaration);
+  for (const DeclaredType &declared : DeclaredTypes) {
+    if (text.startsWith(QLatin1String(declared.start), Qt::CaseInsensitive)) return declared.type;
+  }
+  return std::nullopt;
+}
+
+ColumnType TypeOfValue(int storageClass) {
+  switch (storageClass) {
+    case SQLITE_INTEGER:
+      return ColumnType::Integer;
+    case SQLITE_FLOAT:
+      return ColumnType::Double;
+    default:
+      return ColumnType::VarWideChar;
+  }
+}
+
+QVariant IntegerValue(sqlite3_int64 value) {
+  using Limits = std::numeric_limits<int>;
+  if (value >= Limits::min() && value <= Limits::max()) return static_cast<int>(value);
+  return static_cast<qlonglong>(value);
+}
+
+QVariant ReadValue(sqlite3_stmt *statement, int index, ColumnType type) {
+  const int storageClass = sqlite3_column_type(statement, index);
+  if (storageClass == SQLITE_NULL) return {};
+  if (type == ColumnType::Boolean && storageClass == SQLITE_INTEGER) {
+    return sqlite3_column_int64(statement, index) != 0 ? -1 : 0;
+  }
+  switch (storageClass) {
+    case SQLITE_INTEGER:
+      return IntegerValue(sqlite3_column_int64(statement, index));
+    case SQLITE_FLOAT:
+      return sqlite3_column_double(statement, index);
+    default: {
+      const void *text = sqlite3_column_text(statement, index);
+      return QString::fromUtf8(static_cast<const char *>(text),
+                               sqlite3_column_bytes(statement, index));
+    }
+  }
+}
+
+[[noreturn]] void Fail(ErrorNumber number, const QString &detail) {
+  throw RuntimeError::Of(number, QStringLiteral("Recordset"), detail);
+}
+
+}  // namespace
+
+void SqliteRecordset::Open(const QString &statement, DatabaseConnection &connection, CursorType,
+                           LockType, int) {
+  if (state_ == ObjectState::Open) {
+    Fail(ErrorNumber::InvalidProcedureCall, QStringLiteral("the recordset is open already"));
+  }
+  auto *sqlite = dynamic_cast<SqliteConnection *>(&connection);
+  if (sqlite == nullptr) Fail(ErrorNumber::InvalidProcedureCall, statement);
+  SqliteStatement prepared(sqlite->Handle(), statement, QStringLiteral("Recordset.Open"),
+                           statement);
+  sqlite3_stmt *handle = prepared.Handle();
+  const int count = sqlite3_column_count(handle);
+
+  std::vector<std::vector<QVariant>> rows;
+  bool hasRow = prepared.Step();
+  std::vector<Column> columns;
+  for (int index = 0; index < count; ++index) {
+    const ColumnType fallback =
+        hasRow ? TypeOfValue(sqlite3_column_type(handle, index)) : ColumnType::VarWideChar;
+    columns.push_back({QString::fromUtf8(sqlite3_column_name(handle, index)),
+                       Declared(sqlite3_column_decltype(handle, index)).value_or(fallback)});
+  }
+  for (; hasRow; hasRow = prepared.Step()) {
+    std::vector<QVariant> &row = rows.emplace_back();
+    for (int index = 0; index < count; ++index) {
+      row.push_back(ReadValue(handle, index, columns[static_cast<std::size_t>(index)].type));
+    }
+  }
+  columns_ = std::move(columns);
+  rows_ = std::move(rows);
+  row_ = 0;
+  state_ = ObjectState::Open;
+}
+
+void SqliteRecordset::Close() {
+  CheckOpen();
+  columns_.clear();
+  rows_.clear();
+  state_ = ObjectState::Closed;
+}
+
+int SqliteRecordset::RecordCount() const {
+  CheckOpen();
+  return static_cast<int>(rows_.size());
+}
+
+bool SqliteRecordset::EndOfFile() const {
+  CheckOpen();
+  return row_ >= rows_.size();
+}
+
+void SqliteRecordset::MoveNext() {
+  CheckRow();
+  ++row_;
+}
+
+QVariant SqliteRecordset::Value(const QString &column) const {
+  CheckRow();
+  return rows_[row_][IndexOf(column)];
+}
+
+ColumnType SqliteRecordset::Type(const QString &column) const {
+  CheckOpen();
+  return columns_[IndexOf(column)].type;
+}
+
+void SqliteRecordset::CheckOpen() const {
+  if (state_ != ObjectState::Open) {
+    Fail(ErrorNumber::ObjectNotSet, QStringLiteral("the recordset is not open"));
+  }
+}
+
+void SqliteRecordset::CheckRow() const {
+  if (EndOfFile()) Fail(ErrorNumber::InputPastEnd, QStringLiteral("past the last row"));
+}
+
+std::size_t SqliteRecordset::IndexOf(const QString &column) const {
+  const auto found = std::find_if(columns_.begin(), columns_.end(), [&column](const Column &known) {
+    return known.name.compare(column, Qt::CaseInsensitive) == 0;
+  });
+  if (found == columns_.end()) Fail(ErrorNumber::ElementNotFound, column);
+  return static_cast<std::size_t>(found - columns_.begin());
+}
+
+}  // namespace velor

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/RuntimeError.h"
+
+#include <QString>
+
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace velor {
+
+/// The error that the database reports now, with `subject` (the file or the statement) named.
+RuntimeError DatabaseError(sqlite3 *database, const QString &source, const QString &subject);
+
+/// One prepared statement, finished when it goes out of scope. Failures raise DatabaseError with
+/// the given source and subject.
+class SqliteStatement {
+ public:
+  SqliteStatement(sqlite3 *database, const QString &text, const QString &source,
+                  const QString &subject);
+
+  /// Moves to the next row; false when there is none.
+  bool Step();
+
+  sqlite3_stmt *Handle() const { return statement_.get(); }
+
+ private:
+  struct Finalize {
+    void operator()(sqlite3_stmt *statement) const;
+  };
+
+  sqlite3 *database_;
+  QString source_;
+  QString subject_;
+  std::unique_ptr<sqlite3_stmt, Finalize> statement_;
+};
+
+}  // namespace velor

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+namespace velor {
+
+/// What the project manager needs of the main window. Nothing in it answers to the person's own
+/// choices: the page chooser's handler does not run when its items change.
+class ProjectHost {
+ public:
+  virtual ~ProjectHost() = default;
+
+  /// Removes every page tab; the documents stay open.
+  virtual void ClearTabs() = 0;
+  /// Removes every item of the page chooser `CmbPages`.
+  virtual void ClearPageChooser() = 0;
+  /// Appends an item to the page chooser; `pageId` becomes its item data.
+  virtual void AddChooserPage(const QString &name, std::int32_t pageId) = 0;
+
+  /// The number of the page slot made last.
+  virtual int DocumentCount() const = 0;
+  /// Closes the document window of that slot, with its own questions; a slot without a window is
+  /// passed over. Slots count from 1.
+  virtual void UnloadDocument(int index) = 0;
+
+  /// Opens a page file of a project; `path` in logic form, made up by the program.
+  virtual void OpenProjectPage(const QString &path) = 0;
+
+  /// Shows the folder picker for a project's folder, modally; the answer is then in
+  /// ProgramValues::ProjectFolderResult, empty when cancelled.
+  virtual void PickProjectFolder() = 0;
+};
+
+}  // namespace velor

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "projects/RecordList.h"
+
+#include "projects/RowTable.h"
+#include "projects/Values.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+
+namespace velor {
+
+/// The table as the view reads it; its shape is that of the last Rebuild.
+class RowTableModel : public QAbstractTableModel {
+ public:
+  RowTableModel(QStringList headings, QObject *parent)
+      : QAbstractTableModel(parent), headings_(std::move(headings)) {}
+
+  void SetTable(const RowTable &table) { table_ = &table; }
+
+  void Rebuild() {
+    beginResetModel();
+    rows_ = table_ ? table_->HighestRow() : 0;
+    endResetModel();
+  }
+
+  QVariant Value(int row, int column) const { return table_->At(row + 1, column); }
+
+  int rowCount(const QModelIndex &parent) const override { return parent.isValid() ? 0 : rows_; }
+  int columnCount(const QModelIndex &parent) const override {
+    return parent.isValid() ? 0 : static_cast<int>(headings_.size());
+  }
+  QVariant data(const QModelIndex &index, int role) const override {
+    // The tip shows what a narrow column cuts off.
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+    return TextOf(Value(index.row(), index.column()));
+  }
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+    const bool named = orientation == Qt::Horizontal && role == Qt::DisplayRole;
+    return named ? QVariant(headings_.at(section)) : QVariant();
+  }
+
+ private:
+  const QStringList headings_;
+  const RowTable *table_ = nullptr;
+  int rows_ = 0;
+};
+
+RecordList::RecordList(const QStringList &headings, int nameColumn)
+    : model_(new RowTableModel(headings, this)) {
+  setModel(model_);
+  setRootIsDecorated(false);
+  setItemsExpandable(false);
+  setUniformRowHeights(true);
+  setAllColumnsShowFocus(true);
+  setAlternatingRowColors(true);
+  header()->setStretchLastSection(false);
+  header()->setSectionsMovable(false);
+  header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  for (int column = 0; column < headings.size(); ++column) {
+    header()->setSectionResizeMode(
+        column, column == nameColumn ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+  }
+}
+
+void RecordList::SetArray(const RowTable &table) {
+  model_->SetTable(table);
+}
+
+void RecordList::ReBind() {
+  model_->Rebuild();
+  if (model_->rowCount({}) > 0) setCurrentIndex(model_->index(0, 0));
+}
+
+void RecordList::Refresh() {
+  viewport()->update();
+}
+
+QVariant RecordList::CurrentValue() const {
+  const QModelIndex current = currentIndex();
+  return current.isValid() ? model_->Value(current.row(), 0) : QVariant();
+}
+
+}  // namespace velor

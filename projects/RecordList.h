@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "projects/FillList.h"
+
+#include <QStringList>
+#include <QTreeView>
+#include <QVariant>
+
+namespace velor {
+
+class RowTableModel;
+
+/// A multi-column list that shows a RowTable: read only, one row current, in the table's order. A
+/// ReBind with rows makes the first one current.
+class RecordList : public QTreeView, public ListControl {
+  Q_OBJECT
+
+ public:
+  /// One heading a column; the column `nameColumn` takes the width that the others leave.
+  RecordList(const QStringList &headings, int nameColumn);
+
+  void SetArray(const RowTable &table) override;
+  void ReBind() override;
+  void Refresh() override;
+
+  /// The current row's value in column 0; null without a current row.
+  QVariant CurrentValue() const;
+
+ private:
+  RowTableModel *model_;
+};
+
+}  // namespace velor

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "projects/frmProjectManager.h"
+
+#include "chrome/StylingSweeps.h"
+#include "platform/Conversions.h"
+#include "platform/Database.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/Platform.h"
+#include "platform/ProgramValues.h"
+#include "platform/RuntimeError.h"
+#include "projects/FillList.h"
+#include "projects/ProjectHost.h"
+#include "projects/RecordList.h"
+#include "projects/RecordsetReader.h"
+#include "projects/Statements.h"
+#include "projects/Values.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace velor {
+namespace {
+
+constexpr int PagesTab = 1;
+constexpr int FirstUnusedTab = 2;
+
+const QString PathColumn = QStringLiteral("Path");
+
+}  // namespace
+
+frmProjectManager::frmProjectManager(Platform &platform, ProgramValues &values, ProjectHost &host,
+                                     StylingSweeps *sweeps, QWidget *parent)
+    : QDialog(parent), platform_(platform), values_(values), host_(host) {
+  Build();
+  if (sweeps) sweeps->FlatSweep(*this);
+  SSTab1->setCurrentIndex(0);
+  SSTab1->setTabEnabled(PagesTab, false);
+  for (int tab = FirstUnusedTab; tab < SSTab1->count(); ++tab) SSTab1->setTabVisible(tab, false);
+  LoadProjects();
+
+  connect(SSTab1, &QTabWidget::currentChanged, this, &frmProjectManager::ListPages);
+  connect(cmdOpen, &QPushButton::clicked, this, &frmProjectManager::OpenCurrentProject);
+  connect(LsHistory, &QAbstractItemView::doubleClicked, cmdOpen, &QPushButton::click);
+}
+
+frmProjectManager::~frmProjectManager() = default;
+
+void frmProjectManager::Build() {
+  constexpr int Margin = 14;
+  constexpr int Spacing = 10;
+  constexpr QSize ComfortableSize(680, 460);
+  const auto column = [](QWidget *widget) {
+    auto *layout = new QVBoxLayout(widget);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    layout->setSpacing(Spacing);
+    return layout;
+  };
+
+  setObjectName(QStringLiteral("frmProjectManager"));
+  setWindowTitle(QStringLiteral("Web Site Project Manager"));
+  setModal(true);
+  SSTab1 = new QTabWidget;
+  SSTab1->setObjectName(QStringLiteral("SSTab1"));
+  column(this)->addWidget(SSTab1);
+
+  auto *projectsPage = new QWidget;
+  QVBoxLayout *projects = column(projectsPage);
+  auto *Label1 = new QLabel(QStringLiteral("Select the Project and open it."));
+  Label1->setObjectName(QStringLiteral("Label1"));
+  LsHistory = new RecordList(
+      {QStringLiteral("ProjectId"), QStringLiteral("ProjectName"), QStringLiteral("DateModified")},
+      1);
+  LsHistory->setObjectName(QStringLiteral("LsHistory"));
+  LsHistory->setAccessibleName(Label1->text());
+  cmdOpen = new QPushButton(QStringLiteral("Open"));
+  cmdOpen->setObjectName(QStringLiteral("cmdOpen"));
+  cmdOpen->setAccessibleName(cmdOpen->text());
+  cmdOpen->setDefault(true);
+  Label1->setBuddy(LsHistory);
+  projects->addWidget(Label1);
+  projects->addWidget(LsHistory);
+  projects->addWidget(cmdOpen, 0, Qt::AlignRight);
+
+  auto *pagesPage = new QWidget;
+  LstPages = new RecordList({QStringLiteral("PageId"), QStringLiteral("PageName")}, 1);
+  LstPages->setObjectName(QStringLiteral("LstPages"));
+  LstPages->setAccessibleName(QStringLiteral("Web Pages"));
+  column(pagesPage)->addWidget(LstPages);
+
+  SSTab1->addTab(projectsPage, QStringLiteral("Project Manager"));
+  SSTab1->addTab(pagesPage, QStringLiteral("Web Pages"));
+  for (const char16_t *unused : {u"Images", u"Reports", u"Tab 4"}) {
+    SSTab1->addTab(new QWidget, QString::fromUtf16(unused));
+  }
+  resize(ComfortableSize);
+  LsHistory->setFocus();
+}
+
+void frmProjectManager::reject() {
+  closed_ = true;
+  QDialog::reject();
+}
+
+void frmProjectManager::LoadProjects() {
+  const int count = Query(Statements::GeneratedProjects()).RecordCount();
+  FillList(*LsHistory, projects_,
+           count < 2 ? Statements::GeneratedProjects() : Statements::GeneratedProjectsByDate(),
+           LeadingColumn::None, 0, {},
+           {QStringLiteral("IdProject"), QStringLiteral("Name"), QStringLiteral("DtModified")},
+           Connection());
+  cmdOpen->setEnabled(count > 0);
+  SSTab1->setTabEnabled(PagesTab, count > 0);
+}
+
+void frmProjectManager::ListPages(int tab) {
+  const QVariant projectId = LsHistory->CurrentValue();
+  if (tab != PagesTab || TextOf(projectId).isEmpty()) return;
+  FillList(*LstPages, pages_, Statements::PageListOfProject(projectId), LeadingColumn::None, 0, {},
+           {QStringLiteral("PageId"), QStringLiteral("PageName")}, Connection());
+}
+
+void frmProjectManager::OpenCurrentProject() {
+  const QVariant projectId = LsHistory->CurrentValue();
+  const Recordset &project = Query(Statements::ProjectById(projectId));
+  if (project.RecordCount() > 0) {
+    const QString start = TextOf(project.Value(PathColumn)) + QStringLiteral("\\Index.htm");
+    const bool siteThere = platform_.files.FileExists(start, NameOrigin::Program);
+    if (!siteThere && !RepairFolders(projectId)) return;
+  }
+
+  hide();
+  // The tabs go before the documents: a page whose closing is called off stays open without one.
+  host_.ClearTabs();
+  host_.ClearPageChooser();
+  FillPageChooser(projectId);
+  for (int index = 1, count = host_.DocumentCount(); index <= count; ++index) {
+    host_.UnloadDocument(index);
+  }
+  // Read again, for a repair may have changed the folder.
+  const Recordset &opened = Query(Statements::ProjectById(projectId));
+  if (opened.RecordCount() > 0) {
+    host_.OpenProjectPage(TextOf(opened.Value(PathColumn)) + QStringLiteral("\\Files\\Home.htm"));
+  }
+}
+
+bool frmProjectManager::RepairFolders(const QVariant &projectId) {
+  const MessageAnswer answer = platform_.dialogs.ShowMessage(
+      {.text = QStringLiteral("Web path not found please provide the path"),
+       .buttons = MessageButtons::YesNo});
+  if (answer != MessageAnswer::Yes) return false;
+  host_.PickProjectFolder();
+  const QString folder = values_.ProjectFolderResult;
+  if (folder.isEmpty()) return false;
+  ExecuteSql(Connection(), Statements::SetProjectFolder(folder, projectId));
+  ExecuteSql(Connection(), Statements::SetPageFolders(folder, projectId));
+  ExecuteSql(Connection(), Statements::SetCustomFolder(folder, projectId));
+  return true;
+}
+
+void frmProjectManager::FillPageChooser(const QVariant &projectId) {
+  Recordset &pages = Query(Statements::PagesOfProject(projectId));
+  for (; !pages.EndOfFile(); pages.MoveNext()) {
+    host_.AddChooserPage(TextOf(pages.Value(QStringLiteral("PageName"))),
+                         CLng(TextOf(pages.Value(QStringLiteral("PageId")))));
+  }
+}
+
+Recordset &frmProjectManager::Query(const QString &statement) {
+  if (!records_) records_ = Connection().CreateRecordset();
+  OpenRecordset(*records_, statement, Connection());
+  return *records_;
+}
+
+DatabaseConnection &frmProjectManager::Connection() {
+  if (!values_.DbConnection) {
+    throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("DbConnection"));
+  }
+  return *values_.DbConnection;
+}
+
+}  // namespace velor

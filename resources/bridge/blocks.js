@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The block formats: how a unit's is named and how a unit is given another one.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const dom = velor.dom;
+
+  // In the order in which lists show them. `list` is the element around the items.
+  const formats = [
+    { name: 'Normal', element: 'P' },
+    { name: 'Formatted', element: 'PRE' },
+    { name: 'Address', element: 'ADDRESS' },
+    { name: 'Heading 1', element: 'H1' },
+    { name: 'Heading 2', element: 'H2' },
+    { name: 'Heading 3', element: 'H3' },
+    { name: 'Heading 4', element: 'H4' },
+    { name: 'Heading 5', element: 'H5' },
+    { name: 'Heading 6', element: 'H6' },
+    { name: 'Numbered List', element: 'LI', list: 'OL' },
+    { name: 'Bulleted List', element: 'LI', list: 'UL' },
+    { name: 'Directory List', element: 'LI', list: 'DIR' },
+    { name: 'Menu List', element: 'LI', list: 'MENU' },
+    { name: 'Definition Term', element: 'DT', list: 'DL' },
+    { name: 'Definition', element: 'DD', list: 'DL' },
+    { name: 'Paragraph', element: 'P' },
+  ];
+  const byName = (name) => formats.find((each) => each.name.toLowerCase() === name.toLowerCase());
+
+  function nameAt(element) {
+    const { tagName, parentNode } = element;
+    if (tagName === 'LISTING' || tagName === 'XMP') return 'Formatted';
+    if (tagName === 'P') return null;
+    const fits = (each) => each.element === tagName && (tagName !== 'LI' || each.list === parentNode.tagName);
+    return formats.find(fits)?.name;
+  }
+
+  function read(unit) {
+    for (let at = unit.block || unit.container; at && !dom.isCell(at); at = at.parentNode) {
+      const name = nameAt(at);
+      if (name) return name;
+    }
+    return 'Normal';
+  }
+
+  // Line ends show in preformatted text only; elsewhere they are breaks.
+  function breakLines(element) {
+    const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
+    const texts = [];
+    while (walker.nextNode()) texts.push(walker.currentNode);
+    for (let text of texts) {
+      for (let at = text.data.indexOf('\n'); at >= 0; at = text.data.indexOf('\n')) {
+        const rest = text.splitText(at);
+        rest.deleteData(0, 1);
+        if (rest.length || rest.nextSibling) text.after(dom.create('BR'));
+        if (!text.length) text.remove();
+        text = rest;
+      }
+      if (!text.length) text.remove();
+    }
+  }
+
+  function becomeParagraph(unit, { name, element: tag }) {
+    const { block, container } = unit;
+    if (block?.tagName === tag) return;
+    if (name === 'Normal') {
+      const formed = block && (dom.isParagraph(block));
+      if (!formed) return;
+    }
+    const inside = dom.ancestor(block || container, (node) => node.tagName === tag, dom.isCell);
+    if (inside && tag !== 'P') return;
+    const preformatted = block && /^(PRE|LISTING|XMP)$/.test(block.tagName);
+    const element = velor.units.become(unit, tag);
+    if (preformatted) breakLines(element);
+  }
+
+  function apply(name, range) {
+    const format = byName(name);
+    if (!format) return;
+    const kept = velor.selection.keep();
+    const units = velor.units.unitsIn(range);
+    if (units.every((unit) => read(unit) === format.name)) return;
+    if (format.list) {
+      velor.lists.make(units, format.list, format.element);
+    } else if (format.element === 'P') {
+      velor.lists.unlist();
+      velor.units.unitsIn(velor.selection.range()).forEach((unit) => becomeParagraph(unit, format));
+    } else {
+      units.forEach((unit) => becomeParagraph(unit, format));
+    }
+    velor.selection.restore(kept);
+  }
+
+  velor.blocks = { formats, read, apply };
+})();

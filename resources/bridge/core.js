@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The object that the bridge's scripts share, its line to the program and the pace of its messages.
+(() => {
+  'use strict';
+
+  const velor = { host: null, version: 0 };
+  globalThis.velor = velor;
+
+  // Serialising a larger document after every key would be felt; the program then asks for it.
+  const mirrorLimit = 200000;
+
+  let dirty = true;
+  let waiting = false;
+  let mirrorFits = true;
+
+  // True where there is a body to edit; a frameset and a document without root have none.
+  velor.editable = () => document.body !== null && document.body.tagName === 'BODY';
+
+  velor.connect = () => {
+    if (velor.host || !globalThis.QWebChannel || !globalThis.qt?.webChannelTransport) return;
+    new QWebChannel(qt.webChannelTransport, (channel) => {
+      velor.host = channel.objects.velorHost;
+      velor.schedulePush();
+    });
+  };
+
+  velor.push = () => {
+    waiting = false;
+    if (!velor.host) return;
+    velor.history.settle();
+    const state = { version: ++velor.version, dirty, ...velor.state() };
+    if (dirty && mirrorFits) {
+      const html = velor.serialize();
+      mirrorFits = html.length <= mirrorLimit;
+      if (mirrorFits) state.html = html;
+    }
+    dirty = false;
+    velor.host.pushState(JSON.stringify(state));
+  };
+
+  // One push an animation frame at most. A hidden page has no frames, so it pushes as soon as the
+  // work at hand is done.
+  velor.schedulePush = () => {
+    if (waiting) return;
+    waiting = true;
+    if (document.visibilityState === 'hidden') Promise.resolve().then(velor.push);
+    else requestAnimationFrame(velor.push);
+  };
+
+  const pushWhenHidden = () => {
+    if (waiting && document.visibilityState === 'hidden') velor.push();
+  };
+
+  velor.contentChanged = () => {
+    dirty = true;
+    velor.schedulePush();
+  };
+
+  velor.start = (options = {}) => {
+    mirrorFits = true;
+    velor.connect();
+    document.designMode = 'on';
+    document.execCommand('styleWithCSS', false, 'false');
+    document.execCommand('defaultParagraphSeparator', false, 'p');
+    document.execCommand('enableObjectResizing', false, 'false');
+    document.addEventListener('visibilitychange', pushWhenHidden);
+    velor.selection.ensure();
+    velor.history.start();
+    velor.pending.clear();
+    velor.listenToKeys();
+    velor.listenToPointer();
+    velor.setDetails(Boolean(options.showDetails));
+    velor.setSnap(Boolean(options.snapToGrid));
+    velor.contentChanged();
+  };
+})();

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Deleting across paragraphs. The engine keeps the looks of joined text by styled spans; here the
+// text joins the paragraph before it and takes on that one's looks.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const dom = velor.dom;
+  const { unitsIn } = velor.units;
+
+  const caretAt = (node, offset) => {
+    const range = document.createRange();
+    range.setStart(node, offset);
+    return range;
+  };
+  const unitAt = (node, offset) => unitsIn(caretAt(node, offset))[0] ?? null;
+  const sameUnit = (one, other) =>
+    one === other || Boolean(one && other && one.container === other.container &&
+      one.nodes[0] === other.nodes[0]);
+  const cellOf = (node) => dom.ancestor(node, dom.isCell) || document.body;
+
+  // True when the range begins in one paragraph and ends in another.
+  const spansUnits = (range) =>
+    !range.collapsed && !velor.selection.control(range) &&
+    !sameUnit(unitAt(range.startContainer, range.startOffset),
+      unitAt(range.endContainer, range.endOffset));
+
+  // A paragraph without content needs a break to be a line.
+  function holdOpen(block) {
+    if (dom.isElement(block) && block.isConnected && dom.isBlock(block) && !dom.isAtom(block) &&
+        !dom.hasContent(block) && block.tagName !== 'BODY') {
+      block.append(dom.create('BR'));
+    }
+  }
+
+  // Removes a block that was emptied, and the lists and quotes that held nothing else.
+  function removeEmptied(element) {
+    while (dom.isElement(element) && !dom.isCell(element) && !dom.hasContent(element)) {
+      const parent = element.parentNode;
+      element.remove();
+      element = parent;
+    }
+  }
+
+  const dropTrailingBreak = (nodes) => {
+    const last = nodes.at(-1);
+    if (dom.isBreak(last)) {
+      last.remove();
+      return nodes.slice(0, -1);
+    }
+    return nodes;
+  };
+
+  // Moves the content of one unit to the end of the one before it.
+  function join(first, second) {
+    const left = dropTrailingBreak(first.nodes.filter((node) => node.isConnected));
+    const moved = second.nodes.filter((node) => node.isConnected);
+    const home = second.container;
+    const last = left.at(-1);
+    if (last) last.after(...moved);
+    else if (first.container.firstChild) first.container.prepend(...moved);
+    else first.container.append(...moved);
+    const item = velor.lists.itemOf(first);
+    const rest = [...home.childNodes].filter(dom.isShown);
+    if (home.tagName === 'LI' && item && rest.length && rest.every(dom.isList)) item.append(...rest);
+    removeEmptied(home);
+    holdOpen(first.container);
+  }
+
+  // Across table cells only contents go; the cells stay.
+  function removeLeaves(range) {
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    const blocks = new Set();
+    for (const leaf of [...velor.selection.leavesIn(range)]) {
+      if (!dom.isShown(leaf)) continue;
+      blocks.add(dom.blockOf(leaf));
+      const from = leaf === startContainer ? startOffset : 0;
+      if (dom.isText(leaf)) {
+        leaf.deleteData(from, (leaf === endContainer ? endOffset : leaf.length) - from);
+      } else {
+        leaf.remove();
+      }
+    }
+    blocks.forEach(holdOpen);
+  }
+
+  // Deletes what is selected, whatever it spans; leaves a caret.
+  function remove(range) {
+    const object = velor.selection.control(range);
+    if (object) {
+      const { parentNode } = object;
+      const block = dom.blockOf(parentNode);
+      const index = range.startOffset;
+      object.remove();
+      holdOpen(block);
+      velor.selection.setCaret(parentNode, Math.min(index, parentNode.childNodes.length));
+      return;
+    }
+    if (!spansUnits(range)) {
+      document.execCommand('delete');
+      return;
+    }
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    const first = unitAt(startContainer, startOffset);
+    const second = unitAt(endContainer, endOffset);
+    const between = range.cloneRange();
+    if (!first || !second || cellOf(startContainer) !== cellOf(endContainer)) {
+      removeLeaves(between);
+      velor.selection.setCaret(startContainer, startOffset);
+      return;
+    }
+    between.deleteContents();
+    const start = startContainer.isConnected ? [startContainer, startOffset] : [first.container, 0];
+    const second2 = second.container.isConnected ? second : null;
+    if (second2) join(first, second2);
+    else removeEmptied(endContainer);
+    holdOpen(first.container);
+    velor.selection.setCaret(...start);
+  }
+
+  const shownBetween = (range) =>
+    [...velor.selection.leavesIn(range)].some((leaf) => dom.isShown(leaf) &&
+      (!dom.isText(leaf) ||
+        (leaf !== range.startContainer || range.startOffset < leaf.length) &&
+        (leaf !== range.endContainer || range.endOffset > 0)));
+
+  function atEdge(range, unit, side) {
+    const [first, last] = [unit.nodes[0], unit.nodes.at(-1)];
+    if (!first) return true;
+    const rest = range.cloneRange();
+    if (side === 'start') rest.setStartBefore(first);
+    else rest.setEndAfter(dom.isBreak(last) && last !== first ? last.previousSibling : last);
+    return rest.collapsed || dom.isHollow(unit.block || unit.container) || !shownBetween(rest);
+  }
+
+  // The nearest shown leaf before or after a node; null at the edge of its cell.
+  function leafBeside(node, side) {
+    const cell = cellOf(node);
+    for (let at = node; at && at !== cell; at = at.parentNode) {
+      const beside = dom.neighbour(at, side);
+      if (!beside) continue;
+      if (beside.tagName === 'TABLE') return beside;
+      return side === 'previousSibling' ? lastShown(beside) : firstShown(beside);
+    }
+    return null;
+  }
+  function lastShown(node) {
+    if (node.tagName === 'TABLE' || dom.isAtom(node)) return node;
+    const child = [...node.childNodes].reverse().find(dom.isShown);
+    return child ? lastShown(child) : node;
+  }
+  function firstShown(node) {
+    if (node.tagName === 'TABLE' || dom.isAtom(node)) return node;
+    const child = [...node.childNodes].find(dom.isShown);
+    return child ? firstShown(child) : node;
+  }
+
+  const unitOfLeaf = (leaf) =>
+    dom.isText(leaf) ? unitAt(leaf, 0)
+      : dom.isBlock(leaf) ? unitAt(leaf, 0)
+        : unitAt(leaf.parentNode, [...leaf.parentNode.childNodes].indexOf(leaf));
+
+  const hollow = (unit) => Boolean(unit.block) && dom.isHollow(unit.block);
+
+  // A deletion at a paragraph's edge. Tells whether there is one, and what carries it out.
+  function joining(range, side) {
+    const unit = unitsIn(range)[0];
+    if (!unit || !range.collapsed || !atEdge(range, unit, side)) return null;
+    const back = side === 'start';
+    if (back && startsItem(unit)) return () => outdent(unit);
+    const anchor = unit.block || (back ? unit.nodes[0] : unit.nodes.at(-1)) || unit.container;
+    const leaf = leafBeside(anchor, back ? 'previousSibling' : 'nextSibling');
+    if (!leaf || leaf.tagName === 'TABLE') return () => {};
+    if (dom.isBlock(leaf) && dom.isAtom(leaf)) return () => leaf.remove();
+    const other = unitOfLeaf(leaf);
+    if (!other || sameUnit(unit, other)) return null;
+    return back ? () => joinAt(other, unit, true) : () => joinAt(unit, other, false);
+  }
+
+  function joinAt(first, second, back) {
+    const kept = velor.selection.keep();
+    if (back && hollow(first)) {
+      removeEmptiedBlock(first.block);
+    } else if (hollow(second)) {
+      const end = first.nodes.at(-1);
+      removeEmptiedBlock(second.block);
+      if (back) toEnd(end ?? first.container);
+      return;
+    } else {
+      join(first, second);
+    }
+    velor.selection.restore(kept);
+  }
+  function removeEmptiedBlock(block) {
+    const parent = block.parentNode;
+    block.remove();
+    removeEmptied(parent);
+  }
+  function toEnd(node) {
+    const leaf = dom.lastLeaf(node);
+    if (dom.isText(leaf)) velor.selection.setCaret(leaf, leaf.length);
+    else if (dom.isBreak(leaf)) velor.selection.setCaret(leaf.parentNode, [...leaf.parentNode.childNodes].indexOf(leaf));
+    else velor.selection.setCaret(node.parentNode, [...node.parentNode.childNodes].indexOf(node) + 1);
+  }
+
+  function startsItem(unit) {
+    const item = velor.lists.itemOf(unit);
+    if (!item) return false;
+    const first = [...item.childNodes].find(dom.isShown);
+    return !first || first === unit.nodes[0] || first === unit.block || item === unit.block;
+  }
+  function outdent(unit) {
+    const kept = velor.selection.keep();
+    velor.lists.groupsOf([unit]).forEach(velor.lists.outdent);
+    velor.selection.restore(kept);
+  }
+
+  velor.deletion = { remove, spansUnits, joining };
+})();

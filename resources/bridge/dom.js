@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What kinds of nodes a page is made of, and the few ways in which elements are cut and changed.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+
+  const set = (names) => new Set(names.split(' '));
+  const blocks = set(
+    'ADDRESS ARTICLE ASIDE BLOCKQUOTE BODY CAPTION CENTER COL COLGROUP DD DETAILS DIALOG DIR DIV ' +
+    'DL DT FIELDSET FIGCAPTION FIGURE FOOTER FORM FRAMESET H1 H2 H3 H4 H5 H6 HEADER HR HTML ' +
+    'LEGEND LI LISTING MAIN MENU NAV OL P PLAINTEXT PRE SECTION SUMMARY TABLE TBODY TD TFOOT TH ' +
+    'THEAD TR UL XMP');
+  // Blocks that hold text only: they are split when another block comes into their middle.
+  const paragraphs = set('ADDRESS DT H1 H2 H3 H4 H5 H6 LISTING P PLAINTEXT PRE XMP');
+  const lists = set('DIR MENU OL UL');
+  // Nothing flows from one of these to the next.
+  const cells = set('BODY CAPTION TD TH');
+  // Shown as one thing; their inside is no text of the page.
+  const atoms = set(
+    'APPLET AUDIO BUTTON CANVAS EMBED HR IFRAME IMG INPUT ISINDEX MARQUEE METER OBJECT PROGRESS ' +
+    'SELECT TEXTAREA VIDEO');
+  const unseen = set('BASE HEAD LINK META NOFRAMES NOSCRIPT PARAM SCRIPT STYLE TEMPLATE TITLE');
+
+  const isElement = (node) => node?.nodeType === Node.ELEMENT_NODE;
+  const isText = (node) => node?.nodeType === Node.TEXT_NODE;
+  const named = (names) => (node) => isElement(node) && names.has(node.tagName);
+  const isBlock = named(blocks);
+  const isAtom = (node) => named(atoms)(node) || (isElement(node) && node.tagName === 'svg');
+  const isBreak = (node) => isElement(node) && node.tagName === 'BR';
+  const isNeutral = (node) => !isText(node) && (!isElement(node) || unseen.has(node.tagName));
+  const isInline = (node) => isElement(node) && !isBlock(node) && !isNeutral(node);
+  const isBlank = (node) => isText(node) && /^[ \t\r\n\f]*$/.test(node.data);
+
+  // True for white space that shows nothing: at the edge of a block or between two of them.
+  function isIgnorable(node) {
+    if (!isBlank(node)) return false;
+    if (node.data === '') return true;
+    if (!isBlock(node.parentNode)) return false;
+    if (node.parentNode.closest('PRE, LISTING, XMP, TEXTAREA')) return false;
+    const bound = (side) => {
+      let next = node[side];
+      while (next && (isNeutral(next) || isBlank(next))) next = next[side];
+      return !next || isBlock(next) || isBreak(next);
+    };
+    return bound('previousSibling') || bound('nextSibling');
+  }
+
+  const isShown = (node) => !isNeutral(node) && !isIgnorable(node);
+
+  function nextSkippingChildren(node) {
+    while (node && !node.nextSibling) node = node.parentNode;
+    return node ? node.nextSibling : null;
+  }
+  const entered = (node) => !isAtom(node) && !isNeutral(node) && node.firstChild;
+  const nextNode = (node) => entered(node) || nextSkippingChildren(node);
+
+  // The nearest ancestor, the node itself included, that fits; null from the body upwards.
+  function ancestor(node, fits, stop = (node) => node === document.body) {
+    for (let at = node; at; at = at.parentNode) {
+      if (fits(at)) return at;
+      if (stop(at)) return null;
+    }
+    return null;
+  }
+  const blockOf = (node) => ancestor(node, isBlock) || document.body;
+
+  function firstLeaf(node) {
+    while (entered(node)) node = node.firstChild;
+    return node;
+  }
+  function lastLeaf(node) {
+    while (entered(node)) node = node.lastChild;
+    return node;
+  }
+
+  const create = (tag, attributes = {}) => {
+    const element = document.createElement(tag);
+    for (const [name, value] of Object.entries(attributes)) element.setAttribute(name, value);
+    return element;
+  };
+
+  // Where an element went that was made into another one, so that a kept selection finds it.
+  const successors = new WeakMap();
+  const successor = (node) => {
+    while (successors.has(node)) node = successors.get(node);
+    return node;
+  };
+
+  function rename(element, tag) {
+    if (element.tagName === tag) return element;
+    const other = create(tag);
+    for (const { name, value } of element.attributes) other.setAttribute(name, value);
+    other.append(...element.childNodes);
+    element.replaceWith(other);
+    successors.set(element, other);
+    return other;
+  }
+
+  function unwrap(element) {
+    const parent = element.parentNode;
+    const children = [...element.childNodes];
+    element.replaceWith(...children);
+    successors.set(element, children[0] || parent);
+    return children;
+  }
+
+  function wrap(nodes, element) {
+    nodes[0].before(element);
+    element.append(...nodes);
+    return element;
+  }
+
+  // The element again, empty; an id stays with the first of the two.
+  function twin(element) {
+    const copy = element.cloneNode(false);
+    copy.removeAttribute('id');
+    return copy;
+  }
+
+  // Cuts `top` in two just before `node`, which lies in it; returns the second half.
+  function splitBefore(node, top) {
+    const parent = node.parentNode;
+    const second = twin(parent);
+    const moved = [];
+    for (let at = node; at; at = at.nextSibling) moved.push(at);
+    parent.after(second);
+    second.append(...moved);
+    return parent === top ? second : splitBefore(second, top);
+  }
+
+  // The shown sibling on one side ('previousSibling', 'nextSibling'), or null.
+  function neighbour(node, side) {
+    let at = node[side];
+    while (at && !isShown(at)) at = at[side];
+    return at;
+  }
+
+  const sameAttributes = (one, other) =>
+    one.attributes.length === other.attributes.length &&
+    [...one.attributes].every(({ name, value }) => other.getAttribute(name) === value);
+
+  const shownText = (node) => isText(node) && !isIgnorable(node);
+  // True when the node shows something: text, a break or an object.
+  function hasContent(node) {
+    if (isNeutral(node)) return false;
+    if (isText(node)) return !isIgnorable(node);
+    if (isAtom(node) || isBreak(node) || node.tagName === 'TABLE') return true;
+    return [...node.childNodes].some(hasContent);
+  }
+  // True when nothing but the break that holds an empty line open is in it.
+  function isHollow(element) {
+    const shown = [...element.childNodes].filter(hasContent);
+    if (shown.length === 0) return true;
+    if (shown.length > 1) return false;
+    return isBreak(shown[0]) || (isInline(shown[0]) && !isAtom(shown[0]) && isHollow(shown[0]));
+  }
+
+  velor.dom = {
+    isElement, isText, isBlock, isAtom, isBreak, isNeutral, isInline, isBlank, isIgnorable, isShown,
+    isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
+    isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),
+    nextNode, nextSkippingChildren, ancestor, blockOf, firstLeaf, lastLeaf, create, successor,
+    rename, unwrap, wrap, twin, splitBefore, neighbour, sameAttributes, shownText, hasContent,
+    isHollow,
+  };
+})();

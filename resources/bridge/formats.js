@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The character formats: how each is read at an element, which elements carry it and how it is
+// written. The old dialect (B, I, U, FONT) is what pages of this kind are made of.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const { isInline, isHeading, create } = velor.dom;
+
+  const style = (element) => getComputedStyle(element);
+
+  function hex(colour) {
+    const [red, green, blue] = colour.match(/[\d.]+/g).map(Number);
+    const digits = (part) => Math.round(part).toString(16).padStart(2, '0').toUpperCase();
+    return `#${digits(red)}${digits(green)}${digits(blue)}`;
+  }
+  const transparent = (colour) => /^rgba\(.*, 0\)$/.test(colour) || colour === 'transparent';
+
+  // CSS pixels are 96 an inch, points 72.
+  const points = (pixels) => String(Math.round((parseFloat(pixels) * 72) / 96));
+  const sizePoints = [8, 10, 12, 14, 18, 24, 36];
+  function sizeNumber(text) {
+    const wanted = parseFloat(text);
+    let best = 0;
+    sizePoints.forEach((size, index) => {
+      if (Math.abs(size - wanted) < Math.abs(sizePoints[best] - wanted)) best = index;
+    });
+    return best + 1;
+  }
+
+  const ancestors = function* (element) {
+    for (let at = element; at && at !== document; at = at.parentNode) yield at;
+  };
+
+  // A heading, a table's header cell and a link have their look by nature: that alone is no format,
+  // so that bold in a heading and underline in a link can be told apart and toggled.
+  const boldByNature = (element) => isHeading(element) || element.tagName === 'TH';
+  const weighs = (element) => Number(style(element).fontWeight) >= 600;
+  function bold(element) {
+    for (const at of ancestors(element)) {
+      if (!weighs(at)) return false;
+      if (formats.bold.carries(at) || at.style.fontWeight) return true;
+      if (!at.parentElement || !weighs(at.parentElement)) return !boldByNature(at);
+    }
+    return false;
+  }
+  function underline(element) {
+    for (const at of ancestors(element)) {
+      const byNature = at.tagName === 'A' && !at.style.textDecorationLine;
+      if (!byNature && style(at).textDecorationLine.includes('underline')) return true;
+      if (/^(inline-block|inline-table)$/.test(style(at).display)) return false;
+    }
+    return false;
+  }
+  function background(element) {
+    for (const at of ancestors(element)) {
+      const { backgroundColor } = style(at);
+      if (!transparent(backgroundColor)) return hex(backgroundColor);
+    }
+    return '#FFFFFF';
+  }
+
+  // read(element): the value of text in it. tags: elements that are nothing but the format.
+  // attribute: FONT's. property: of an inline style. write(value): the element to put around text.
+  // refuse: the style that switches it off where no element of the text's own carries it.
+  function format(entry) {
+    const tags = new Set(entry.tags);
+    return {
+      ...entry,
+      carries: (element) => isInline(element) && (tags.has(element.tagName) ||
+        (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) ||
+        element.style.getPropertyValue(entry.property) !== ''),
+      // An empty element of the same format, to go around what keeps it.
+      shell(element) {
+        if (tags.has(element.tagName)) return create(element.tagName);
+        if (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) {
+          return create('FONT', { [entry.attribute]: element.getAttribute(entry.attribute) });
+        }
+        const value = element.style.getPropertyValue(entry.property);
+        return create('SPAN', { style: `${entry.property}: ${value}` });
+      },
+      // Takes the format off the element; tells what is left of it.
+      strip(element) {
+        if (element.style.getPropertyValue(entry.property)) {
+          element.style.removeProperty(entry.property);
+          if (!element.getAttribute('style')) element.removeAttribute('style');
+        }
+        if (element.tagName === 'FONT') element.removeAttribute(entry.attribute);
+        if (tags.has(element.tagName)) {
+          if (element.attributes.length) velor.dom.rename(element, 'SPAN');
+          else velor.dom.unwrap(element);
+        } else if (/^(FONT|SPAN)$/.test(element.tagName) && !element.attributes.length) {
+          velor.dom.unwrap(element);
+        }
+      },
+    };
+  }
+
+  const font = (attribute) => (value) => create('FONT', { [attribute]: value });
+  const css = (property) => (value) => create('SPAN', { style: `${property}: ${value}` });
+
+  const formats = {
+    bold: format({
+      read: bold, tags: ['B', 'STRONG'], property: 'font-weight',
+      write: (on) => (on ? create('B') : css('font-weight')('normal')),
+    }),
+    italic: format({
+      read: (element) => style(element).fontStyle !== 'normal',
+      tags: ['I', 'EM'], property: 'font-style',
+      write: (on) => (on ? create('I') : css('font-style')('normal')),
+    }),
+    underline: format({
+      read: underline, tags: ['U', 'INS'], property: 'text-decoration',
+      // A line drawn by an ancestor cannot be taken off from inside.
+      write: (on) => (on ? create('U') : null),
+    }),
+    fontName: format({
+      read: (element) => style(element).fontFamily.split(',')[0].trim().replace(/^["']|["']$/g, ''),
+      tags: [], attribute: 'face', property: 'font-family', write: font('face'),
+      same: (one, other) => one.toLowerCase() === other.toLowerCase(),
+    }),
+    fontSize: format({
+      read: (element) => points(style(element).fontSize),
+      parse: (value) => String(sizePoints[sizeNumber(value) - 1]),
+      tags: ['BIG', 'SMALL'], attribute: 'size', property: 'font-size',
+      write: (value) => font('size')(sizeNumber(value)),
+    }),
+    foreColor: format({
+      read: (element) => hex(style(element).color),
+      tags: [], attribute: 'color', property: 'color', write: font('color'), insideLinks: true,
+    }),
+    backColor: format({
+      read: background, tags: [], property: 'background-color', write: css('background-color'),
+    }),
+  };
+  const same = (one, other) => one === other || String(one).toUpperCase() === String(other).toUpperCase();
+  for (const each of Object.values(formats)) {
+    each.same ??= same;
+    each.parse ??= (value) => value;
+  }
+
+  velor.formats = formats;
+})();

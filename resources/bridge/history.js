@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The one undo history. A mutation observer sees every change of the document, whoever makes it;
+// the changes are gathered into steps, and a step is taken back on the live nodes, last change
+// first. So a step holds nodes, not copies, and what it brings back is exact.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const { points, samePoints, select } = velor.selection;
+
+  const mostSteps = 1000;
+  // In UTF-16 units of kept text, nodes counted with what they weigh about; some 64 MB.
+  const mostWeight = 32e6;
+  const nodeWeight = 100;
+
+  let observer = null;
+  let open = null;  // the step that is being gathered
+  let undoable = [];
+  let redoable = [];
+  let lastPoints = null;  // the selection when the document was last at rest
+
+  const textChange = (node, old) => ({
+    weight: 0,
+    // Keeps what differs only: one key in a long text must not cost the text.
+    seal() {
+      const now = node.data;
+      const shorter = Math.min(old.length, now.length);
+      let head = 0;
+      while (head < shorter && old[head] === now[head]) head++;
+      let tail = 0;
+      while (tail < shorter - head && old.at(-1 - tail) === now.at(-1 - tail)) tail++;
+      this.head = head;
+      this.before = old.slice(head, old.length - tail);
+      this.after = now.slice(head, now.length - tail);
+      this.weight = this.before.length + this.after.length + nodeWeight;
+      old = null;
+    },
+    undo() { node.replaceData(this.head, this.after.length, this.before); },
+    redo() { node.replaceData(this.head, this.before.length, this.after); },
+  });
+
+  function putAttribute(element, space, name, value) {
+    if (value === null) element.removeAttributeNS(space, name);
+    else element.setAttributeNS(space, name, value);
+  }
+  const attributeChange = (element, space, name, old) => ({
+    weight: 0,
+    seal() {
+      this.now = element.getAttributeNS(space, name);
+      this.weight = (old?.length ?? 0) + (this.now?.length ?? 0) + nodeWeight;
+    },
+    undo() { putAttribute(element, space, name, old); },
+    redo() { putAttribute(element, space, name, this.now); },
+  });
+
+  function exchange(parent, gone, come, next) {
+    for (const node of gone) if (node.parentNode === parent) node.remove();
+    for (const node of come) parent.insertBefore(node, next?.parentNode === parent ? next : null);
+  }
+  const childChange = ({ target, addedNodes, removedNodes, nextSibling }) => ({
+    weight: nodeWeight * (1 + addedNodes.length + removedNodes.length),
+    seal() {},
+    undo() { exchange(target, addedNodes, removedNodes, nextSibling); },
+    redo() { exchange(target, removedNodes, addedNodes, nextSibling); },
+  });
+
+  const begin = (kind, before = points()) => {
+    open = { kind, before, after: before, changes: [], seen: new Map(), weight: 0 };
+  };
+
+  // Within a step the first value of a text or an attribute is the one to go back to.
+  const firstOf = (node, key) => {
+    const keys = open.seen.get(node) ?? new Set();
+    open.seen.set(node, keys);
+    return keys.has(key) ? false : Boolean(keys.add(key));
+  };
+
+  function add(record) {
+    const { type, target, oldValue } = record;
+    if (type === 'childList') open.changes.push(childChange(record));
+    else if (type === 'characterData') {
+      if (firstOf(target, '')) open.changes.push(textChange(target, oldValue));
+    } else if (firstOf(target, record.attributeNamespace + ' ' + record.attributeName)) {
+      open.changes.push(attributeChange(
+        target, record.attributeNamespace, record.attributeName, oldValue));
+    }
+  }
+
+  function absorb(records) {
+    if (records.length) {
+      const alone = !open;
+      if (alone) begin('other', lastPoints ?? points());
+      records.forEach(add);
+      open.after = points();
+      redoable = [];
+      velor.contentChanged();
+      if (alone) close();
+    }
+    lastPoints = points();
+  }
+
+  function forgetOldest() {
+    let weight = undoable.reduce((sum, step) => sum + step.weight, 0);
+    while (undoable.length > 1 && (undoable.length > mostSteps || weight > mostWeight)) {
+      weight -= undoable.shift().weight;
+    }
+  }
+
+  function close() {
+    if (!open) return;
+    const step = open;
+    open = null;
+    if (!step.changes.length) return;
+    step.changes.forEach((change) => change.seal());
+    step.weight = step.changes.reduce((sum, change) => sum + change.weight, 0);
+    delete step.seen;
+    undoable.push(step);
+    forgetOldest();
+  }
+
+  const settle = () => { if (observer) absorb(observer.takeRecords()); };
+  const finish = () => { settle(); close(); };
+
+  // A command: everything that `change` does is one step. Tells whether it changed the document.
+  function step(kind, change) {
+    finish();
+    begin(kind);
+    try {
+      change();
+    } finally {
+      settle();
+    }
+    const changed = open.changes.length > 0;
+    close();
+    return changed;
+  }
+
+  // Input that the engine is about to carry out. It joins the step at hand when that is of the same
+  // kind, `joins` allows it and the caret is still where that step left it.
+  function expect(kind, joins) {
+    settle();
+    if (open && open.kind === kind && joins && samePoints(open.after, points())) return;
+    close();
+    begin(kind);
+  }
+
+  // Takes the caret into the step at hand after the input was carried out.
+  function arrive() {
+    settle();
+    if (open) open.after = points();
+  }
+
+  function travel(from, to, way, place) {
+    finish();
+    const step = from.pop();
+    if (!step) return;
+    const changes = way === 'undo' ? [...step.changes].reverse() : step.changes;
+    changes.forEach((change) => change[way]());
+    observer.takeRecords();
+    to.push(step);
+    select(step[place]);
+    lastPoints = points();
+    velor.contentChanged();
+  }
+
+  velor.history = {
+    start() {
+      observer?.disconnect();
+      open = null;
+      undoable = [];
+      redoable = [];
+      lastPoints = null;
+      observer = new MutationObserver(absorb);
+      observer.observe(document, {
+        subtree: true, childList: true, attributes: true, attributeOldValue: true,
+        characterData: true, characterDataOldValue: true,
+      });
+    },
+    step, expect, arrive, settle, finish,
+    undo() { travel(undoable, redoable, 'undo', 'before'); },
+    redo() { travel(redoable, undoable, 'redo', 'after'); },
+    canUndo: () => undoable.length > 0 || Boolean(open?.changes.length),
+    canRedo: () => redoable.length > 0,
+    // The selection moved without a change of the document.
+    selectionMoved() { if (!open?.changes.length) lastPoints = points(); },
+  };
+})();

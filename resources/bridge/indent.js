@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Indenting: text by BLOCKQUOTE, items by nesting them in the item before.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const dom = velor.dom;
+  const { lists } = velor;
+
+  const isQuote = (node) => dom.isElement(node) && node.tagName === 'BLOCKQUOTE';
+  const inList = (unit) => {
+    const item = lists.itemOf(unit);
+    return item?.tagName === 'LI' ? item : null;
+  };
+
+  const quoteOf = (unit) => {
+    const start = unit.block || unit.container;
+    return dom.ancestor(start, isQuote, (node) => dom.isCell(node) || node.tagName === 'LI');
+  };
+  // The quote that holds a list whose first item is meant: indenting such an item made it.
+  const quoteOfList = ([item]) => {
+    const list = item.parentNode;
+    const first = !dom.neighbour(item, 'previousSibling');
+    return first && isQuote(list.parentNode) ? list.parentNode : null;
+  };
+
+  function enquote(parts) {
+    const quote = dom.wrap(parts, dom.create('BLOCKQUOTE'));
+    const before = dom.neighbour(quote, 'previousSibling');
+    if (isQuote(before) && !before.attributes.length) {
+      before.append(...quote.childNodes);
+      quote.remove();
+      return before;
+    }
+    const after = dom.neighbour(quote, 'nextSibling');
+    if (isQuote(after) && !after.attributes.length) {
+      quote.append(...after.childNodes);
+      after.remove();
+    }
+    return quote;
+  }
+
+  function indent(units) {
+    const loose = units.filter((unit) => !inList(unit));
+    for (const group of lists.groupsOf(units.filter(inList))) {
+      if (!lists.nest(group)) enquote([group[0].parentNode]);
+    }
+    let run = [];
+    const flush = () => {
+      if (run.length) enquote(run);
+      run = [];
+    };
+    for (const unit of loose) {
+      const parts = velor.units.partsOf(unit);
+      if (!parts.length) {
+        flush();
+        velor.units.enclose(unit, dom.create('BLOCKQUOTE'));
+        continue;
+      }
+      if (run.length && dom.neighbour(run.at(-1), 'nextSibling') !== parts[0]) flush();
+      for (let at = run.at(-1)?.nextSibling; at && at !== parts[0]; at = at.nextSibling) run.push(at);
+      run.push(...parts);
+    }
+    flush();
+  }
+
+  // Cuts the parts out of their quote and puts them where it stands.
+  function unquote(quote, parts) {
+    const towards = (node) => {
+      while (node.parentNode !== quote) node = node.parentNode;
+      return node;
+    };
+    const first = towards(parts[0]);
+    const behind = dom.neighbour(towards(parts.at(-1)), 'nextSibling');
+    let middle = quote;
+    if (behind) dom.splitBefore(behind, middle);
+    if (dom.neighbour(first, 'previousSibling')) middle = dom.splitBefore(first, middle);
+    dom.unwrap(middle);
+  }
+
+  function outdent(units) {
+    for (const group of lists.groupsOf(units)) {
+      const quote = quoteOfList(group);
+      if (quote) unquote(quote, [group[0].parentNode]);
+      else lists.outdent(group);
+    }
+    for (const unit of units.filter((each) => !lists.itemOf(each))) {
+      const quote = quoteOf(unit);
+      const parts = velor.units.partsOf(unit);
+      if (quote?.isConnected) unquote(quote, parts.length ? parts : [unit.container]);
+    }
+  }
+
+  const canOutdent = (unit) => Boolean(lists.itemOf(unit) || quoteOf(unit));
+
+  velor.indent = { indent, outdent, canOutdent };
+})();

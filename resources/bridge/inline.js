@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Character formats put on selected text. First the elements that carry the format are taken off
+// the text and given back to their other content, then what still looks different is wrapped in as
+// few elements as possible.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const dom = velor.dom;
+
+  // Cuts the texts at the ends of the range out of their longer nodes.
+  function isolate(range) {
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    const texts = velor.selection.textsIn(range);
+    if (!texts.length) return texts;
+    const last = texts.at(-1);
+    if (last === endContainer && endOffset < last.length) last.splitText(endOffset);
+    if (texts[0] === startContainer && startOffset > 0) texts[0] = texts[0].splitText(startOffset);
+    return texts;
+  }
+
+  const textsUnder = function* (node) {
+    if (dom.isText(node)) {
+      if (!dom.isIgnorable(node)) yield node;
+    } else if (!dom.isNeutral(node) && !dom.isAtom(node)) {
+      for (const child of node.childNodes) yield* textsUnder(child);
+    }
+  };
+
+  // How much of a node's text is in the set: 'all', 'some' or 'none' of it; 'empty' without text.
+  function coverage(node, chosen) {
+    let inside = false;
+    let outside = false;
+    for (const text of textsUnder(node)) {
+      if (chosen.has(text)) inside = true;
+      else outside = true;
+      if (inside && outside) return 'some';
+    }
+    if (inside) return 'all';
+    return outside ? 'none' : 'empty';
+  }
+
+  // Gives the format that `carrier` loses back to the part of its content that is not chosen.
+  function pushDown(format, carrier, chosen) {
+    const give = (parent) => {
+      let group = [];
+      const flush = () => {
+        while (group.length && coverage(group.at(-1), chosen) === 'empty') group.pop();
+        while (group.length && coverage(group[0], chosen) === 'empty') group.shift();
+        if (group.length) dom.wrap(group, format.shell(carrier));
+        group = [];
+      };
+      for (const child of [...parent.childNodes]) {
+        const cover = coverage(child, chosen);
+        const plain = !dom.isBlock(child) && !format.carries(child) && !holdsBlock(child);
+        if (plain && (cover === 'none' || cover === 'empty')) {
+          group.push(child);
+          continue;
+        }
+        flush();
+        if (cover !== 'all' && cover !== 'empty' && !format.carries(child)) give(child);
+      }
+      flush();
+    };
+    give(carrier);
+    format.strip(carrier);
+  }
+  const holdsBlock = (node) =>
+    dom.isInline(node) && !dom.isAtom(node) &&
+    [...node.children].some((child) => dom.isBlock(child) || holdsBlock(child));
+
+  function carriersOf(format, texts) {
+    const carriers = new Set();
+    for (const text of texts) {
+      const chain = [];
+      for (let at = text.parentNode; dom.isElement(at) && at !== document.body; at = at.parentNode) {
+        if (carriers.has(at)) break;
+        if (format.carries(at)) chain.unshift(at);
+      }
+      chain.forEach((carrier) => carriers.add(carrier));
+    }
+    return carriers;
+  }
+
+  // The highest node whose text is the given one only, or only such.
+  function highest(text, chosen, format, covers) {
+    let node = text;
+    for (let parent = node.parentNode; dom.isInline(parent); parent = parent.parentNode) {
+      if (format.insideLinks && parent.tagName === 'A') break;
+      if (!covers.has(parent)) {
+        covers.set(parent, !holdsBlock(parent) && coverage(parent, chosen) === 'all');
+      }
+      if (!covers.get(parent)) break;
+      node = parent;
+    }
+    return node;
+  }
+
+  // Runs of neighbouring nodes; breaks and objects between two of them go along.
+  function runsOf(tops) {
+    const runs = [];
+    for (const top of tops) {
+      const run = runs.at(-1);
+      const between = [];
+      let at = run?.at(-1).nextSibling;
+      while (at && at !== top && !dom.isBlock(at) && (!dom.isText(at) || dom.isBlank(at)) &&
+             coverage(at, new Set()) === 'empty') {
+        between.push(at);
+        at = at.nextSibling;
+      }
+      if (run && at === top) run.push(...between, top);
+      else runs.push([top]);
+    }
+    return runs;
+  }
+
+  function put(format, run, value) {
+    const [only] = run;
+    const wrapper = format.write(value);
+    if (!wrapper) return null;
+    if (run.length === 1 && dom.isElement(only) && wrapper.tagName === only.tagName) {
+      if (only.tagName === 'FONT') {
+        only.setAttribute(format.attribute, wrapper.getAttribute(format.attribute));
+        return only;
+      }
+      if (only.tagName === 'SPAN') {
+        const before = (only.getAttribute('style') ?? '').replace(/;?\s*$/, '');
+        only.setAttribute('style', `${before ? `${before}; ` : ''}${wrapper.getAttribute('style')}`);
+        return only;
+      }
+    }
+    return dom.wrap(run, wrapper);
+  }
+
+  const mergeable = new Set(['B', 'EM', 'FONT', 'I', 'SPAN', 'STRONG', 'U', 'BIG', 'SMALL']);
+  function mergeWith(element, side) {
+    const other = element[side];
+    if (!dom.isElement(other) || other.tagName !== element.tagName || element.id) return;
+    if (!mergeable.has(element.tagName) || !dom.sameAttributes(element, other)) return;
+    if (side === 'previousSibling') element.prepend(...other.childNodes);
+    else element.append(...other.childNodes);
+    other.remove();
+  }
+
+  // Joins texts that were cut, keeping the given places ({node, offset}) where they are.
+  function joinTexts(parent, places) {
+    for (let at = parent.firstChild; at; at = at.nextSibling) {
+      while (dom.isText(at) && dom.isText(at.nextSibling)) {
+        const next = at.nextSibling;
+        for (const place of places) {
+          if (place.node === next) Object.assign(place, { node: at, offset: at.length + place.offset });
+        }
+        at.appendData(next.data);
+        next.remove();
+      }
+    }
+  }
+
+  // Puts the format with that value on the texts, which are whole nodes.
+  function format(name, value, texts) {
+    const entry = velor.formats[name];
+    const touched = new Set();
+    const around = (node) => {
+      for (const text of [node.previousSibling, node, node.nextSibling]) if (text) touched.add(text);
+    };
+    texts.forEach(around);
+    for (const carrier of carriersOf(entry, texts)) pushDown(entry, carrier, new Set(texts));
+    const left = texts.filter((text) => !entry.same(entry.read(text.parentNode), value));
+    const chosen = new Set(left);
+    const covers = new Map();
+    const tops = new Set(left.map((text) => highest(text, chosen, entry, covers)));
+    for (const run of runsOf(tops)) {
+      const element = put(entry, run, value);
+      if (!element) continue;
+      mergeWith(element, 'previousSibling');
+      mergeWith(element, 'nextSibling');
+    }
+    return touched;
+  }
+
+  // Puts a format on the text of the range and selects that text again.
+  function apply(name, value, range) {
+    const backward = document.getSelection().focusNode === range.startContainer &&
+      document.getSelection().focusOffset === range.startOffset && !range.collapsed;
+    const texts = isolate(range);
+    if (!texts.length) return;
+    const places = [
+      { node: texts[0], offset: 0 }, { node: texts.at(-1), offset: texts.at(-1).length },
+    ];
+    const touched = format(name, value, texts);
+    const parents = new Set([...touched].map((node) => node.parentNode).filter(Boolean));
+    parents.forEach((parent) => joinTexts(parent, places));
+    const [anchor, focus] = backward ? places.reverse() : places;
+    velor.selection.select({
+      anchorNode: anchor.node, anchorOffset: anchor.offset,
+      focusNode: focus.node, focusOffset: focus.offset,
+    });
+  }
+
+  velor.inline = { apply, joinTexts };
+})();

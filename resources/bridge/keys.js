@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Keys and input. The engine types; here its input becomes steps of the history, and what it does
+// badly or behind the history's back is done by the bridge.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const dom = velor.dom;
+
+  // Input that is a command of the bridge.
+  const commands = new Map([
+    ['historyUndo', 5049], ['historyRedo', 5033],
+    ['formatBold', 5000], ['formatItalic', 5023], ['formatUnderline', 5048],
+    ['formatJustifyCenter', 5024], ['formatJustifyLeft', 5025], ['formatJustifyRight', 5026],
+    ['formatIndent', 5018], ['formatOutdent', 5031],
+    ['insertOrderedList', 5030], ['insertUnorderedList', 5051],
+  ]);
+  const shortcuts = new Map([
+    ['z', 5049], ['y', 5033], ['b', 5000], ['i', 5023], ['u', 5048], ['a', 5035],
+  ]);
+
+  const typing = new Set(['insertText', 'insertCompositionText', 'deleteCompositionText']);
+  const backward = /^delete.*Backward$/;
+
+  function kindOf({ inputType }) {
+    if (typing.has(inputType)) return 'typing';
+    if (inputType === 'deleteByDrag' || inputType === 'insertFromDrop') return 'drag';
+    if (/^deleteBy/.test(inputType)) return inputType;
+    return inputType.startsWith('delete') ? 'delete' : inputType;
+  }
+
+  // Typing is undone word by word: the first letter after a blank begins a step.
+  function joins({ inputType, data }, kind) {
+    if (kind === 'drag') return true;
+    if (kind !== 'typing') return kind === 'delete';
+    if (inputType !== 'insertText') return true;
+    const { anchorNode, anchorOffset } = velor.selection.points();
+    const before = dom.isText(anchorNode) ? anchorNode.data[anchorOffset - 1] : '';
+    return !(/^\S/.test(data ?? '') && /\s/.test(before ?? ''));
+  }
+
+  // Bare text becomes a paragraph before it is split; so does the first text of an empty page.
+  function needsParagraph(unit, { inputType }) {
+    if (!unit || unit.block || !/^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER)$/.test(unit.container.tagName)) return false;
+    if (inputType === 'insertParagraph') return true;
+    return inputType === 'insertText' && unit.container === document.body && dom.isHollow(document.body);
+  }
+  function makeParagraph(unit) {
+    const kept = velor.selection.keep();
+    const paragraph = velor.units.enclose(unit, dom.create('P'));
+    if (!dom.hasContent(paragraph)) {
+      paragraph.append(dom.create('BR'));
+      velor.selection.setCaret(paragraph, 0);
+    } else {
+      velor.selection.restore(kept);
+    }
+  }
+
+  function prepareInsertion(event) {
+    const range = velor.selection.range();
+    if (!range) return;
+    if (velor.deletion.spansUnits(range)) velor.deletion.remove(range);
+    const [unit] = velor.units.unitsIn(velor.selection.range());
+    if (needsParagraph(unit, event)) makeParagraph(unit);
+  }
+
+  // True when the deletion was carried out here.
+  function deleted(event) {
+    const range = velor.selection.range();
+    if (!range) return false;
+    const own = velor.selection.control(range) || velor.deletion.spansUnits(range)
+      ? () => velor.deletion.remove(range)
+      : velor.deletion.joining(range, backward.test(event.inputType) ? 'start' : 'end');
+    if (!own) return false;
+    velor.history.step('delete', own);
+    return true;
+  }
+
+  function work(change) {
+    velor.working = true;
+    try {
+      return change();
+    } finally {
+      velor.working = false;
+    }
+  }
+
+  function beforeInput(event) {
+    if (velor.working || !velor.editable()) return;
+    const { inputType } = event;
+    if (commands.has(inputType) || inputType.startsWith('format')) {
+      event.preventDefault();
+      velor.exec(commands.get(inputType));
+      return;
+    }
+    if (inputType.startsWith('delete') && inputType !== 'deleteByDrag' &&
+        inputType !== 'deleteCompositionText' && work(() => deleted(event))) {
+      event.preventDefault();
+      velor.schedulePush();
+      return;
+    }
+    const kind = kindOf(event);
+    velor.history.expect(kind, joins(event, kind));
+    if (inputType.startsWith('insert') && kind !== 'drag') work(() => prepareInsertion(event));
+    if (kind === 'typing') velor.pending.typingBegins();
+  }
+
+  // A split paragraph leaves its id with the first half only.
+  function dropDoubledId() {
+    const element = velor.selection.element();
+    for (let at = element; at && at !== document.body; at = at.parentElement) {
+      if (!at.id) continue;
+      const bearers = document.querySelectorAll(`[id="${CSS.escape(at.id)}"]`);
+      if (bearers.length > 1 && bearers[0] !== at) at.removeAttribute('id');
+    }
+  }
+
+  function input(event) {
+    if (velor.working) return;
+    if (event.inputType === 'insertParagraph') dropDoubledId();
+    if (typing.has(event.inputType) && !event.isComposing) work(velor.pending.typingEnds);
+    velor.pending.moved();
+    velor.history.arrive();
+    velor.schedulePush();
+  }
+
+  function compositionEnd() {
+    work(velor.pending.typingEnds);
+    velor.history.arrive();
+  }
+
+  const cellAt = () => {
+    const range = velor.selection.range();
+    return range && dom.ancestor(range.startContainer, (node) => /^(TD|TH)$/.test(node.tagName));
+  };
+
+  function intoCell(cell) {
+    const leaf = dom.firstLeaf(cell);
+    if (dom.isText(leaf)) velor.selection.setCaret(leaf, 0);
+    else if (leaf === cell) velor.selection.setCaret(cell, 0);
+    else velor.selection.setCaret(leaf.parentNode, [...leaf.parentNode.childNodes].indexOf(leaf));
+  }
+
+  function addRow(row) {
+    const added = dom.twin(row);
+    for (const cell of row.cells) {
+      const copy = dom.twin(cell);
+      copy.removeAttribute('rowspan');
+      copy.append(dom.create('BR'));
+      added.append(copy);
+    }
+    row.after(added);
+    return added.cells[0];
+  }
+
+  function tab(backwards) {
+    const cell = cellAt();
+    if (!cell) return;
+    const table = cell.closest('TABLE');
+    const cells = [...table.rows].flatMap((row) => [...row.cells]);
+    const next = cells[cells.indexOf(cell) + (backwards ? -1 : 1)];
+    if (next) intoCell(next);
+    else if (!backwards) velor.history.step('addRow', () => intoCell(addRow(cells.at(-1).parentNode)));
+  }
+
+  function keyDown(event) {
+    if (!velor.editable() || event.isComposing) return;
+    const { key, ctrlKey, altKey, metaKey, shiftKey } = event;
+    if (key === 'Tab' && !ctrlKey && !altKey && !metaKey) {
+      event.preventDefault();
+      tab(shiftKey);
+      return;
+    }
+    if (!ctrlKey || altKey || metaKey) return;
+    const number = shiftKey && key.toLowerCase() === 'z' ? 5033 : !shiftKey && shortcuts.get(key.toLowerCase());
+    if (!number) return;
+    event.preventDefault();
+    velor.exec(number);
+  }
+
+  function selectionChange() {
+    velor.pending.selectionMoved();
+    velor.history.selectionMoved();
+    velor.schedulePush();
+  }
+
+  velor.listenToKeys = () => {
+    document.addEventListener('beforeinput', beforeInput, true);
+    document.addEventListener('input', input, true);
+    document.addEventListener('compositionend', compositionEnd, true);
+    document.addEventListener('keydown', keyDown, true);
+    document.addEventListener('selectionchange', selectionChange);
+  };
+})();

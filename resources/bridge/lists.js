@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Lists: made of paragraphs, changed into another kind, moved in and out, taken apart again.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const dom = velor.dom;
+
+  const isItem = (node) => dom.isElement(node) && /^(LI|DT|DD)$/.test(node.tagName);
+  const isListOf = (node) => dom.isElement(node) && (dom.isList(node) || node.tagName === 'DL');
+  const itemOf = (unit) => velor.units.itemOf(unit, isItem);
+
+  const itemsIn = (list) => [...list.children].filter(isItem);
+
+  // The items of the units, those in another one of them left out, grouped by neighbourhood.
+  function groupsOf(units) {
+    const items = new Set(units.map(itemOf).filter((item) => item && isListOf(item.parentNode)));
+    const within = (item) => {
+      for (let at = item.parentNode; at; at = at.parentNode) if (items.has(at)) return true;
+      return false;
+    };
+    const groups = [];
+    for (const item of [...items].filter((each) => !within(each))) {
+      const last = groups.at(-1)?.at(-1);
+      if (last && dom.neighbour(last, 'nextSibling') === item) groups.at(-1).push(item);
+      else groups.push([item]);
+    }
+    return groups;
+  }
+
+  // Cuts a list so that the group is all that it holds; returns that list.
+  function isolate(group) {
+    let list = group[0].parentNode;
+    const behind = dom.neighbour(group.at(-1), 'nextSibling');
+    if (behind) dom.splitBefore(behind, list);
+    if (dom.neighbour(group[0], 'previousSibling')) list = dom.splitBefore(group[0], list);
+    return list;
+  }
+
+  // Joins a list with neighbours of its kind.
+  function join(list) {
+    const alike = (other) => other?.tagName === list.tagName && dom.isElement(other) &&
+      (dom.sameAttributes(list, other) || !list.attributes.length);
+    const before = dom.neighbour(list, 'previousSibling');
+    const after = dom.neighbour(list, 'nextSibling');
+    if (alike(before)) {
+      before.append(...list.childNodes);
+      list.remove();
+      list = before;
+    }
+    if (after && dom.isElement(after) && after.tagName === list.tagName &&
+        (dom.sameAttributes(list, after) || !after.attributes.length)) {
+      list.append(...after.childNodes);
+      after.remove();
+    }
+    return list;
+  }
+
+  // An item's alignment is carried by a division in it.
+  function alignInside(item) {
+    const side = item.getAttribute('align');
+    if (!side) return;
+    item.removeAttribute('align');
+    const division = dom.create('DIV', { align: side });
+    division.append(...item.childNodes);
+    item.append(division);
+  }
+
+  function makeItem(unit, inner) {
+    const { block } = unit;
+    if (block && (block.tagName === 'P' || block.tagName === 'DIV')) {
+      const item = dom.rename(block, inner);
+      alignInside(item);
+      return item;
+    }
+    const item = dom.create(inner);
+    if (block) return dom.wrap([block], item);
+    return velor.units.enclose(unit, item);
+  }
+
+  // Makes every unit an item `inner` of a list `outer`.
+  function make(units, outer, inner) {
+    const definition = outer === 'DL';
+    const loose = [];
+    const groups = groupsOf(units);
+    for (const group of groups) {
+      const fits = group[0].parentNode.tagName === 'DL' === definition;
+      if (!fits) {
+        loose.push(...release(group));
+      } else if (definition) {
+        group.forEach((item) => dom.rename(item, inner));
+      } else if (group[0].parentNode.tagName !== outer) {
+        join(dom.rename(isolate(group), outer));
+      }
+    }
+    for (const unit of units.filter((each) => !itemOf(each) && !loose.includes(each.block))) {
+      loose.push(...(unit.block && !unit.block.isConnected ? [] : [makeItem(unit, inner)]));
+    }
+    gather(loose.map((node) => (isItem(node) ? node : makeItem({ block: node, nodes: [] }, inner))),
+      outer);
+  }
+
+  // Puts neighbouring items that stand outside any list into one.
+  function gather(items, outer) {
+    let list = null;
+    let last = null;
+    for (const item of items) {
+      if (list && dom.neighbour(list, 'nextSibling') === item) {
+        for (let at = list.nextSibling; at !== item; at = list.nextSibling) list.append(at);
+        list.append(item);
+      } else {
+        if (list) join(list);
+        list = dom.wrap([item], dom.create(outer));
+      }
+      last = item;
+    }
+    if (last) join(list);
+  }
+
+  // Makes items that stand in no list into paragraphs; returns those.
+  function toParagraphs(item) {
+    const shown = [...item.childNodes].filter(dom.isShown);
+    const [only] = shown;
+    const sole = shown.length === 1 && dom.isElement(only) && only.tagName === 'DIV' &&
+      [...only.attributes].every(({ name }) => name === 'align');
+    if (sole && ![...only.children].some(dom.isBlock)) {
+      const paragraph = dom.rename(only, 'P');
+      dom.unwrap(item);
+      return [paragraph];
+    }
+    for (const name of ['value', 'type']) item.removeAttribute(name);
+    if (!shown.some(dom.isBlock)) return [dom.rename(item, 'P')];
+    const blocks = [];
+    let run = [];
+    const flush = () => {
+      while (run.length && !dom.isShown(run.at(-1))) run.pop();
+      if (run.length) blocks.push(dom.wrap(run, dom.create('P')));
+      run = [];
+    };
+    for (const child of [...item.childNodes]) {
+      if (dom.isBlock(child)) {
+        flush();
+        blocks.push(child);
+      } else if (run.length || dom.isShown(child)) {
+        run.push(child);
+      }
+    }
+    flush();
+    dom.unwrap(item);
+    return blocks;
+  }
+
+  // Takes items of one list out of it, to where the list stands; returns the paragraphs.
+  function release(group) {
+    const list = isolate(group);
+    const paragraphs = group.flatMap(toParagraphs);
+    dom.unwrap(list);
+    return paragraphs;
+  }
+
+  // Moves items of a nested list one level out; what follows them stays theirs.
+  function lift(group) {
+    const list = group[0].parentNode;
+    const outer = list.parentNode;
+    const last = group.at(-1);
+    const tail = [];
+    for (let at = last.nextSibling; at; at = at.nextSibling) tail.push(at);
+    const behind = [];
+    if (outer.tagName === 'LI') {
+      for (let at = list.nextSibling; at; at = at.nextSibling) behind.push(at);
+    }
+    if (tail.some(dom.isShown)) sublist(last, list).append(...tail);
+    if (behind.some(dom.isShown)) last.append(...behind);
+    (outer.tagName === 'LI' ? outer : list).after(...group);
+    if (!itemsIn(list).length) list.remove();
+  }
+
+  // The list at an item's end that takes further items of a list's kind.
+  function sublist(item, like) {
+    const shown = [...item.childNodes].filter(dom.isShown).at(-1);
+    if (shown?.tagName === like.tagName) return shown;
+    const list = dom.create(like.tagName);
+    item.append(list);
+    return list;
+  }
+
+  const isNested = (item) => {
+    const outer = item.parentNode.parentNode;
+    return outer.tagName === 'LI' || dom.isList(outer);
+  };
+
+  // Nests items in the item before them. False for the first items of a list, which have none.
+  function nest(group) {
+    const before = dom.neighbour(group[0], 'previousSibling');
+    if (!isItem(before)) return false;
+    sublist(before, group[0].parentNode).append(...group);
+    return true;
+  }
+
+  function outdent(group) {
+    if (group[0].tagName === 'LI' && isNested(group[0])) lift(group);
+    else release(group);
+  }
+
+  // Takes every unit of the selection out of all lists. Elements change on the way, so the units
+  // are read anew for each level.
+  function unlist() {
+    for (let level = 0; level < 50; level++) {
+      const groups = groupsOf(velor.units.unitsIn(velor.selection.range()));
+      if (!groups.length) return;
+      const kept = velor.selection.keep();
+      groups.forEach(outdent);
+      velor.selection.restore(kept);
+    }
+  }
+
+  const tagOf = (unit) => {
+    const item = velor.units.itemOf(unit);
+    return item && dom.isList(item.parentNode) ? item.parentNode.tagName : null;
+  };
+
+  velor.lists = { groupsOf, make, unlist, nest, outdent, tagOf, itemOf };
+})();

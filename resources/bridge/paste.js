@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Markup put in at the selection exactly as it stands: scripts, handlers, comments and objects stay
+// in it (nothing of it runs while a page is edited).
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const dom = velor.dom;
+
+  function parse(html) {
+    const template = document.createElement('template');
+    template.innerHTML = html;
+    return document.importNode(template.content, true);
+  }
+
+  // The element that must be cut for blocks to come in at a node; null where none needs to.
+  function cutAt(node, items) {
+    let top = null;
+    for (let at = node; at && !dom.isCell(at); at = at.parentNode) {
+      if (items && at.tagName === 'LI') return at;
+      if (dom.isInline(at) || dom.isParagraph(at)) top = at;
+      else if (!dom.isText(at) && !items) break;
+    }
+    return top;
+  }
+
+  // Cuts everything up to `top` at the caret. Returns the two halves.
+  function cut(node, offset, top) {
+    if (dom.isText(node)) {
+      node = offset === 0 ? node : node.splitText(offset);
+    } else {
+      const mark = document.createTextNode('');
+      node.insertBefore(mark, node.childNodes[offset] ?? null);
+      node = mark;
+    }
+    return [top, dom.splitBefore(node, top)];
+  }
+
+  function dropIfHollow(half) {
+    if (dom.isHollow(half) && ![...half.querySelectorAll('*')].some(dom.isAtom)) {
+      half.remove();
+      return true;
+    }
+    return false;
+  }
+
+  function putBlocks(fragment, node, offset) {
+    const items = [...fragment.children].length > 0 && [...fragment.children].every((e) => e.tagName === 'LI');
+    const top = cutAt(node, items);
+    const last = fragment.lastChild;
+    if (!top) {
+      putHere(fragment, node, offset);
+      afterBlocks(last, null);
+      return;
+    }
+    const [before, after] = cut(node, offset, top);
+    before.after(fragment);
+    dropIfHollow(before);
+    afterBlocks(last, dropIfHollow(after) ? null : after);
+  }
+
+  // The caret after inserted blocks: at the start of what follows, else at the end of the last.
+  function afterBlocks(last, following) {
+    const text = following && dom.firstLeaf(following);
+    if (text) {
+      const range = document.createRange();
+      if (dom.isText(text)) range.setStart(text, 0);
+      else range.setStartBefore(text);
+      velor.selection.setCaret(range.startContainer, range.startOffset);
+      return;
+    }
+    let shown = last;
+    while (shown.previousSibling && !dom.isShown(shown)) shown = shown.previousSibling;
+    const leaf = dom.isElement(shown) && shown.tagName !== 'TABLE' ? dom.lastLeaf(shown) : shown;
+    if (dom.isText(leaf)) velor.selection.setCaret(leaf, leaf.length);
+    else afterNode(leaf);
+  }
+
+  function afterNode(node) {
+    const index = [...node.parentNode.childNodes].indexOf(node);
+    velor.selection.setCaret(node.parentNode, index + 1);
+  }
+
+  function putHere(fragment, node, offset) {
+    if (dom.isText(node)) {
+      const second = offset === 0 ? node : node.splitText(offset);
+      if (offset === node.length && second === node) node.after(fragment);
+      else second.before(fragment);
+      if (!second.length) second.remove();
+    } else {
+      node.insertBefore(fragment, node.childNodes[offset] ?? null);
+    }
+  }
+
+  function putInline(fragment, node, offset) {
+    const block = dom.blockOf(node);
+    const placeholder = dom.isHollow(block) && block.querySelector('br');
+    const last = fragment.lastChild;
+    putHere(fragment, node, offset);
+    if (placeholder) placeholder.remove();
+    if (dom.isText(last)) velor.selection.setCaret(last, last.length);
+    else afterNode(last);
+  }
+
+  const holdsBlock = (fragment) => [...fragment.querySelectorAll('*')].some(dom.isBlock);
+
+  velor.pasteHTML = (html) => velor.history.step('pasteHTML', () => {
+    if (!velor.editable()) return;
+    velor.selection.ensure();
+    if (!velor.selection.range().collapsed) velor.deletion.remove(velor.selection.range());
+    const fragment = parse(html);
+    if (!fragment.firstChild) return;
+    const { startContainer, startOffset } = velor.selection.range();
+    if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
+    else putInline(fragment, startContainer, startOffset);
+  });
+})();

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The selection: what lies in it, how it is kept while elements change, where the caret is.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const { isText, isAtom, isElement, isNeutral, firstLeaf, lastLeaf, nextNode } = velor.dom;
+
+  // States of longer selections are judged by their first texts.
+  const textLimit = 5000;
+  const controls = new Set(['APPLET', 'EMBED', 'HR', 'IFRAME', 'IMG', 'INPUT', 'OBJECT', 'SELECT',
+    'TABLE', 'TEXTAREA', 'VIDEO', 'AUDIO', 'BUTTON', 'MARQUEE']);
+
+  // The selected range when it lies in the body, else null.
+  function range() {
+    const selection = document.getSelection();
+    if (!velor.editable() || !selection.rangeCount) return null;
+    const selected = selection.getRangeAt(0);
+    return document.body.contains(selected.commonAncestorContainer) ? selected : null;
+  }
+
+  // The one object that the range holds, else null.
+  function control(selected) {
+    if (!selected || selected.startContainer !== selected.endContainer) return null;
+    if (selected.endOffset !== selected.startOffset + 1) return null;
+    const node = selected.startContainer.childNodes[selected.startOffset];
+    return isElement(node) && controls.has(node.tagName) ? node : null;
+  }
+
+  function selectNode(node) {
+    const index = [...node.parentNode.childNodes].indexOf(node);
+    document.getSelection().setBaseAndExtent(node.parentNode, index, node.parentNode, index + 1);
+  }
+
+  const points = () => {
+    const { anchorNode, anchorOffset, focusNode, focusOffset } = document.getSelection();
+    return { anchorNode, anchorOffset, focusNode, focusOffset };
+  };
+  const samePoints = (one, other) => Object.keys(one).every((key) => one[key] === other[key]);
+
+  const length = (node) => (isText(node) ? node.length : node.childNodes.length);
+  function select({ anchorNode, anchorOffset, focusNode, focusOffset }) {
+    if (!anchorNode?.isConnected || !focusNode?.isConnected) return;
+    document.getSelection().setBaseAndExtent(
+      anchorNode, Math.min(anchorOffset, length(anchorNode)),
+      focusNode, Math.min(focusOffset, length(focusNode)));
+  }
+  const setCaret = (node, offset) => document.getSelection().collapse(node, offset);
+
+  // The first node of a range in document order, and the first one behind it.
+  function bounds({ startContainer, startOffset, endContainer, endOffset }) {
+    const first = isText(startContainer) || !startContainer.hasChildNodes()
+      ? startContainer
+      : startContainer.childNodes[startOffset] || velor.dom.nextSkippingChildren(startContainer);
+    const stop = (isElement(endContainer) && endContainer.childNodes[endOffset]) ||
+      velor.dom.nextSkippingChildren(endContainer);
+    return { first, stop };
+  }
+
+  // The leaves (texts, breaks, objects, empty elements) in a range, in document order.
+  function* leavesIn(selected) {
+    const { first, stop } = bounds(selected);
+    for (let node = first; node && node !== stop; node = nextNode(node)) {
+      if (!isNeutral(node) && (isAtom(node) || !node.firstChild)) yield node;
+    }
+  }
+
+  // The texts of a range of which at least one character is selected.
+  function textsIn(selected, limit = Infinity) {
+    const texts = [];
+    if (!selected || selected.collapsed) return texts;
+    for (const node of leavesIn(selected)) {
+      if (!velor.dom.shownText(node)) continue;
+      if (node === selected.startContainer && selected.startOffset === node.length) continue;
+      if (node === selected.endContainer && selected.endOffset === 0) continue;
+      texts.push(node);
+      if (texts.length === limit) break;
+    }
+    return texts;
+  }
+
+  // A place that survives the wrapping, unwrapping and renaming of elements around it: it clings to
+  // a text or to an object. `inward` tells which side of the place belongs to the selection.
+  function mark(node, offset, inward) {
+    if (isText(node)) return { node, offset };
+    const after = node.childNodes[offset];
+    const before = node.childNodes[offset - 1];
+    if (after && (inward === 'after' || !before)) {
+      const leaf = firstLeaf(after);
+      return isText(leaf) ? { node: leaf, offset: 0 } : { before: leaf };
+    }
+    if (before) {
+      const leaf = lastLeaf(before);
+      return isText(leaf) ? { node: leaf, offset: leaf.length } : { after: leaf };
+    }
+    return { inside: node };
+  }
+
+  function place(kept) {
+    if (kept.node) return [kept.node, Math.min(kept.offset, kept.node.length)];
+    const node = velor.dom.successor(kept.before || kept.after || kept.inside);
+    if (isText(node)) return [node, kept.after ? node.length : 0];
+    const open = isElement(node) && !isAtom(node) && !isNeutral(node) && !velor.dom.isBreak(node);
+    if (kept.inside || open) return [node, 0];
+    const index = [...node.parentNode.childNodes].indexOf(node);
+    return [node.parentNode, kept.before ? index : index + 1];
+  }
+
+  function keep() {
+    const { anchorNode, anchorOffset, focusNode, focusOffset } = points();
+    if (!anchorNode) return null;
+    const { startContainer, startOffset, collapsed } = range() || document.createRange();
+    const forward = collapsed || (anchorNode === startContainer && anchorOffset === startOffset);
+    return {
+      anchor: mark(anchorNode, anchorOffset, forward ? 'after' : 'before'),
+      focus: mark(focusNode, focusOffset, forward && !collapsed ? 'before' : 'after'),
+    };
+  }
+
+  function restore(kept) {
+    if (!kept) return;
+    const [anchorNode, anchorOffset] = place(kept.anchor);
+    const [focusNode, focusOffset] = place(kept.focus);
+    select({ anchorNode, anchorOffset, focusNode, focusOffset });
+  }
+
+  // The element that holds the start of the selection, or the selected object.
+  function element() {
+    const selected = range();
+    if (!selected) return velor.editable() ? document.body : null;
+    const object = control(selected);
+    if (object) return object;
+    const { startContainer } = selected;
+    return isElement(startContainer) ? startContainer : startContainer.parentElement;
+  }
+
+  // The element that text typed at the caret would be in.
+  function caretElement({ startContainer, startOffset }) {
+    if (isText(startContainer)) return startContainer.parentElement;
+    const child = startContainer.childNodes[startOffset] || startContainer.lastChild;
+    const leaf = child && firstLeaf(child);
+    return leaf && !velor.dom.isBlock(leaf) && !isNeutral(leaf) ? leaf.parentElement : startContainer;
+  }
+
+  // A page that was just loaded has its caret at the start.
+  function ensure() {
+    if (!velor.editable() || range()) return;
+    let leaf = document.body;
+    for (const node of leavesIn({ startContainer: leaf, startOffset: 0, endContainer: leaf,
+      endOffset: leaf.childNodes.length })) {
+      if (!velor.dom.isShown(node)) continue;
+      leaf = node;
+      break;
+    }
+    const [node, offset] = place(isAtom(leaf) || velor.dom.isBreak(leaf)
+      ? { before: leaf } : isText(leaf) ? { node: leaf, offset: 0 } : { inside: leaf });
+    setCaret(node, offset);
+  }
+
+  // A place as numbers, the last one an offset, that holds in a fresh parse of the same document:
+  // neighbouring texts count as one node.
+  function path(node, offset) {
+    const numbers = [];
+    const indexOf = (child) => {
+      let index = 0;
+      for (let at = child.previousSibling; at; at = at.previousSibling) {
+        if (!isText(at) || !isText(at.nextSibling)) index++;
+      }
+      return index;
+    };
+    if (isText(node)) {
+      for (let at = node.previousSibling; isText(at); at = at.previousSibling) offset += at.length;
+      numbers.unshift(offset);
+    } else {
+      const child = node.childNodes[offset];
+      numbers.unshift(child ? indexOf(child) : node.childNodes.length);
+    }
+    for (let at = node; at.parentNode && at !== document.documentElement; at = at.parentNode) {
+      numbers.unshift(indexOf(at));
+    }
+    return numbers;
+  }
+
+  function resolve(numbers) {
+    let node = document.documentElement;
+    for (const index of numbers.slice(0, -1)) {
+      if (!node.childNodes.length) break;
+      node = node.childNodes[Math.min(index, node.childNodes.length - 1)];
+    }
+    return [node, Math.min(numbers.at(-1) ?? 0, length(node))];
+  }
+
+  velor.mirror = () => {
+    const { anchorNode, anchorOffset, focusNode, focusOffset } = points();
+    const at = (node, offset) => (node ? path(node, offset) : []);
+    return {
+      html: velor.serialize(), start: at(anchorNode, anchorOffset), end: at(focusNode, focusOffset),
+    };
+  };
+
+  velor.restore = (start, end) => {
+    if (!start?.length || !end?.length) return;
+    const [anchorNode, anchorOffset] = resolve(start);
+    const [focusNode, focusOffset] = resolve(end);
+    select({ anchorNode, anchorOffset, focusNode, focusOffset });
+  };
+
+  velor.selection = {
+    textLimit, range, control, selectNode, points, samePoints, select, setCaret, leavesIn, textsIn,
+    keep, restore, element, caretElement, ensure,
+  };
+})();

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace velor {
+
+class BridgePage;
+
+/// One golden case: markup with a selection, what is done to it and what is then there.
+///
+/// In a file a case is a block of lines between blank lines; a line that begins with "#" is a
+/// comment:
+///     name: Bold makes the selected word bold
+///     input: <p>one ^two|</p>        "^" anchor, "|" focus, a "|" alone the caret
+///     do: bold                       any number of them; see Perform
+///     state: bold=7 blockFormat=Normal
+///     expect: <p>one <b>^two|</b></p>
+/// "\n" stands for a line break. Input that begins with "<!" or "<html" is a whole document, and
+/// what is expected then is the whole document too, without the selection.
+struct BridgeCase {
+  QString file;
+  QString name;
+  QString input;
+  QStringList steps;
+  QString state;
+  QString expected;
+
+  bool IsDocument() const;
+};
+
+/// All cases of the folder's *.txt files.
+std::vector<BridgeCase> ReadBridgeCases(const QString &folder);
+
+/// Writes the expectation of a case anew into its file.
+void Rebaseline(const BridgeCase &subject, const QString &actual);
+
+/// Carries out one "do:" line.
+void Perform(BridgePage &page, const QString &step);
+
+/// The state texts of a case's "state:" line, in the same form, as the page has them.
+QString ActualState(BridgePage &page, const QString &expected);
+
+}  // namespace velor

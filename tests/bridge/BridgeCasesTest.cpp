@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The golden cases of cases/*.txt. With VELOR_REBASELINE=1 the expectations are written anew.
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+#include "tests/bridge/BridgeCase.h"
+#include "tests/bridge/BridgePage.h"
+
+namespace velor {
+
+void PrintTo(const BridgeCase &subject, std::ostream *stream) {
+  *stream << subject.name.toStdString();
+}
+
+namespace {
+
+class BridgeCases : public ::testing::TestWithParam<BridgeCase> {
+ protected:
+  static void SetUpTestSuite() { page_ = std::make_unique<BridgePage>(); }
+  static void TearDownTestSuite() { page_.reset(); }
+
+  static QString Text(const QString &expression) { return page_->Evaluate(expression).toString(); }
+  static void Walk(const QString &way) {
+    for (int step = 0; step < 100; ++step) {
+      const QString can = way == QStringLiteral("undo") ? QStringLiteral("velor.history.canUndo()")
+                                                        : QStringLiteral("velor.history.canRedo()");
+      if (!page_->Evaluate(can).toBool()) return;
+      Perform(*page_, way);
+    }
+    ADD_FAILURE() << "no end of steps to " << qPrintable(way);
+  }
+
+  static std::unique_ptr<BridgePage> page_;
+};
+std::unique_ptr<BridgePage> BridgeCases::page_;
+
+TEST_P(BridgeCases, GivesWhatItsFileSays) {
+  const BridgeCase &subject = GetParam();
+  const bool whole = subject.IsDocument();
+  const QString read = whole ? QStringLiteral("velor.serialize()") : QStringLiteral("markup.read()");
+  page_->Load(whole ? subject.input
+                    : QStringLiteral("<!DOCTYPE html><html><head></head><body>%1</body></html>")
+                          .arg(subject.input));
+  const QString loaded = Text(QStringLiteral("velor.serialize()"));
+  const QString faults = Text(QStringLiteral("markup.faults()"));
+  for (const QString &step : subject.steps) Perform(*page_, step);
+
+  const QString actual = Text(read);
+  if (qEnvironmentVariableIntValue("VELOR_REBASELINE") == 1) {
+    Rebaseline(subject, actual);
+  } else if (!subject.expected.isEmpty()) {
+    EXPECT_EQ(actual.toStdString(), subject.expected.toStdString());
+  }
+  if (!subject.state.isEmpty()) {
+    EXPECT_EQ(ActualState(*page_, subject.state).toStdString(), subject.state.toStdString());
+  }
+  EXPECT_EQ(Text(QStringLiteral("markup.faults()")).toStdString(), faults.toStdString())
+      << actual.toStdString();
+
+  // Whatever was done can be taken back to what was loaded, and done again.
+  const QString result = Text(QStringLiteral("velor.serialize()"));
+  Walk(QStringLiteral("undo"));
+  EXPECT_EQ(Text(QStringLiteral("velor.serialize()")).toStdString(), loaded.toStdString());
+  Walk(QStringLiteral("redo"));
+  EXPECT_EQ(Text(QStringLiteral("velor.serialize()")).toStdString(), result.toStdString());
+}
+
+std::string TestName(const ::testing::TestParamInfo<BridgeCase> &info) {
+  QString name = info.param.name;
+  static const QRegularExpression other(QStringLiteral("[^A-Za-z0-9]+"));
+  return name.replace(other, QStringLiteral("_")).toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Golden, BridgeCases,
+                         ::testing::ValuesIn(ReadBridgeCases(
+                             QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/cases"))),
+                         TestName);
+
+}  // namespace
+}  // namespace velor

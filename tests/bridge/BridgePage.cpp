@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/bridge/BridgePage.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWebEnginePage>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace velor {
+namespace {
+
+constexpr int patience = 20000;  // milliseconds; only a hung engine takes that long
+
+QString TextOf(const QString &path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+  return QString::fromUtf8(file.readAll());
+}
+
+QString JoinedScripts() {
+  QString joined;
+  const QStringList names = TextOf(QStringLiteral(":/bridge/order.txt"))
+                                .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+  for (const QString &name : names) joined += TextOf(QStringLiteral(":/bridge/") + name);
+  return joined + TextOf(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/markup.js"));
+}
+
+}  // namespace
+
+BridgePage::BridgePage() {
+  QWebEnginePage *page = view_.page();
+  page->settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, false);
+  QWebEngineScript script;
+  script.setName(QStringLiteral("bridge"));
+  script.setSourceCode(JoinedScripts());
+  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+  script.setWorldId(QWebEngineScript::ApplicationWorld);
+  page->scripts().insert(script);
+  view_.resize(800, 600);
+  view_.show();
+  view_.activateWindow();
+}
+
+void BridgePage::Load(const QString &html) {
+  QSignalSpy loaded(view_.page(), &QWebEnginePage::loadFinished);
+  view_.setHtml(html, QUrl(QStringLiteral("file:///")));
+  ASSERT_TRUE(loaded.wait(patience));
+  Evaluate(QStringLiteral("markup.select(); markup.countKeys(); velor.start()"));
+}
+
+QVariant BridgePage::Evaluate(const QString &expression) {
+  // Shared with the callback: an answer may come after the wait was given up.
+  auto answer = std::make_shared<std::pair<bool, QVariant>>(false, QVariant());
+  view_.page()->runJavaScript(expression, QWebEngineScript::ApplicationWorld,
+                              [answer](const QVariant &value) { *answer = {true, value}; });
+  EXPECT_TRUE(QTest::qWaitFor([&answer] { return answer->first; }, patience))
+      << qPrintable(expression);
+  return answer->second;
+}
+
+void BridgePage::AwaitKeys(int count) {
+  for (int round = 0; round < 1000; ++round) {
+    if (Evaluate(QStringLiteral("markup.keysUp()")).toInt() >= count) return;
+  }
+  ADD_FAILURE() << "the page never saw the keys";
+}
+
+void BridgePage::Type(const QString &text) {
+  const int before = Evaluate(QStringLiteral("markup.keysUp()")).toInt();
+  view_.focusProxy()->setFocus();
+  QTest::keyClicks(view_.focusProxy(), text);
+  AwaitKeys(before + static_cast<int>(text.size()));
+}
+
+void BridgePage::Press(const QKeySequence &key) {
+  const int before = Evaluate(QStringLiteral("markup.keysUp()")).toInt();
+  view_.focusProxy()->setFocus();
+  const QKeyCombination combination = key[0];
+  QTest::keyClick(view_.focusProxy(), combination.key(), combination.keyboardModifiers());
+  AwaitKeys(before + 1);
+}
+
+}  // namespace velor

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QKeySequence>
+#include <QString>
+#include <QVariant>
+#include <QWebEngineView>
+
+namespace velor {
+
+/// A bare view of the engine with the bridge scripts in the isolated world: page scripts off, no
+/// channel, no component. Calls return when the page has done what was asked.
+class BridgePage {
+ public:
+  BridgePage();
+
+  /// Loads a document, puts the selection where the markup writes it and starts the bridge.
+  void Load(const QString &html);
+  /// The value of an expression in the bridge's world.
+  QVariant Evaluate(const QString &expression);
+  /// Real keys, as from a person.
+  void Type(const QString &text);
+  void Press(const QKeySequence &key);
+
+ private:
+  void AwaitKeys(int count);
+
+  QWebEngineView view_;
+};
+
+}  // namespace velor

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Reads and writes a selection in markup: "^" is the anchor, "|" the focus, a "|" alone the caret.
+(() => {
+  'use strict';
+
+  const locate = (sign) => {
+    const walker = document.createTreeWalker(document.documentElement, NodeFilter.SHOW_TEXT);
+    while (walker.nextNode()) {
+      const offset = walker.currentNode.data.indexOf(sign);
+      if (offset >= 0) return { node: walker.currentNode, offset };
+    }
+    return null;
+  };
+
+  // Takes the sign out. A text that held nothing else goes too.
+  const take = (sign) => {
+    const found = locate(sign);
+    if (!found) return null;
+    const { node, offset } = found;
+    node.deleteData(offset, 1);
+    return found;
+  };
+  const settle = (found, other) => {
+    const { node } = found;
+    if (node.length || !node.parentNode) return;
+    const parent = node.parentNode;
+    const index = [...parent.childNodes].indexOf(node);
+    node.remove();
+    for (const place of [found, other]) {
+      if (place?.node === node) Object.assign(place, { node: parent, offset: index });
+      else if (place?.node === parent && place.offset > index) place.offset--;
+    }
+  };
+
+  const marked = (root) => {
+    const { anchorNode, anchorOffset, focusNode, focusOffset, isCollapsed } = document.getSelection();
+    const copy = root.cloneNode(true);
+    const trail = (node) => {
+      const indices = [];
+      for (; node !== root; node = node.parentNode) {
+        if (!node) return null;
+        indices.unshift([...node.parentNode.childNodes].indexOf(node));
+      }
+      return indices;
+    };
+    const find = (indices) => indices.reduce((node, index) => node.childNodes[index], copy);
+    const put = (place, sign) => {
+      const { node, offset } = place;
+      if (node.nodeType === Node.TEXT_NODE) node.insertData(offset, sign);
+      else node.insertBefore(document.createTextNode(sign), node.childNodes[offset] ?? null);
+    };
+    const at = (node, offset) => {
+      const indices = node && trail(node);
+      return indices ? { node: find(indices), offset } : null;
+    };
+    const anchor = at(anchorNode, anchorOffset);
+    const focus = at(focusNode, focusOffset);
+    if (!anchor || !focus) return copy;
+    if (isCollapsed) {
+      put(focus, '|');
+      return copy;
+    }
+    const order = document.createRange();
+    order.setStart(anchorNode, anchorOffset);
+    order.setEnd(focusNode, focusOffset);
+    const forward = !order.collapsed;
+    if (forward) {
+      put(focus, '|');
+      put(anchor, '^');
+    } else {
+      put(anchor, '^');
+      put(focus, '|');
+    }
+    return copy;
+  };
+
+  let keysUp = 0;
+
+  globalThis.markup = {
+    select() {
+      const anchor = take('^');
+      const focus = take('|');
+      if (!focus) return;
+      if (anchor) settle(anchor, focus);
+      settle(focus, anchor);
+      const from = anchor ?? focus;
+      document.getSelection().setBaseAndExtent(from.node, from.offset, focus.node, focus.offset);
+    },
+    read: () => marked(document.body).innerHTML,
+    countKeys() {
+      keysUp = 0;
+      addEventListener('keyup', () => { keysUp++; }, true);
+    },
+    keysUp: () => keysUp,
+    // What no command may leave behind.
+    faults() {
+      const faults = [];
+      const ids = [...document.querySelectorAll('[id]')].map((element) => element.id);
+      if (new Set(ids).size < ids.length) faults.push('an id is doubled');
+      const empty = [...document.querySelectorAll('b, i, u, font, span, em, strong')]
+        .filter((element) => !element.firstChild);
+      if (empty.length) faults.push('an inline element is empty');
+      const parsed = new DOMParser().parseFromString(velor.serialize(), 'text/html');
+      if (parsed.documentElement.outerHTML !== document.documentElement.outerHTML) {
+        faults.push('it reads differently when loaded again');
+      }
+      return faults.join(', ');
+    },
+  };
+})();

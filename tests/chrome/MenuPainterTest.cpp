@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "chrome/Icons.h"
+#include "chrome/MenuPainter.h"
+#include "chrome/Palette.h"
+
+#include <QAction>
+#include <QImage>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <gtest/gtest.h>
+
+namespace velor {
+namespace {
+
+// Red in the low byte.
+constexpr std::int32_t Black = 0;
+constexpr std::int32_t DarkBlue = 0x800000;
+constexpr std::int32_t PaleBlue = 0xFFC0C0;
+
+QPixmap Filled(const QColor &color) {
+  QPixmap picture(40, 40);
+  picture.fill(color);
+  return picture;
+}
+
+class MenuPainterTest : public ::testing::Test {
+ protected:
+  MenuPainterTest() {
+    menu->setObjectName(QStringLiteral("mnuFile_Top"));
+    item = menu->addAction(QStringLiteral("Open... (&O)"));
+    item->setObjectName(QStringLiteral("mnuOpen"));
+    plain = menu->addAction(QStringLiteral("Exit (&X)"));
+    plain->setObjectName(QStringLiteral("mnuExit"));
+    painter.SetTextColor(Black);
+    painter.SetBorderColor(DarkBlue);
+    painter.SetHighlightColor(PaleBlue);
+    painter.SetHighlightTextColor(Black);
+  }
+
+  QImage Shown(Shade shade) {
+    painter.TakeOver(window);
+    menu->setPalette(PaletteFor(shade));
+    menu->resize(menu->sizeHint());
+    return menu->grab().toImage();
+  }
+
+  QMainWindow window;
+  QMenu *menu = window.menuBar()->addMenu(QStringLiteral("File (&F)"));
+  QAction *item;
+  QAction *plain;
+  StyleMenuPainter painter;
+};
+
+TEST_F(MenuPainterTest, TakesColoursWithRedInTheLowByte) {
+  EXPECT_EQ(painter.Look().border, QColor(0, 0, 128));
+  EXPECT_EQ(painter.Look().highlight, QColor(192, 192, 255));
+}
+
+TEST_F(MenuPainterTest, DrawsBackgroundPictureAndBorder) {
+  painter.SetBackground(Filled(QColor(250, 240, 200)));
+  const QImage shown = Shown(Shade::Light);
+  EXPECT_EQ(shown.pixelColor(shown.width() - 8, shown.height() - 8), QColor(250, 240, 200));
+  EXPECT_EQ(shown.pixelColor(0, shown.height() / 2), QColor(0, 0, 128));
+}
+
+TEST_F(MenuPainterTest, DrawsTheItemUnderThePointerInTheHighlightColour) {
+  painter.SetBackground(Filled(Qt::white));
+  painter.TakeOver(window);
+  menu->setActiveAction(item);
+  const QImage shown = Shown(Shade::Light);
+  const QRect place = menu->actionGeometry(item);
+  EXPECT_EQ(shown.pixelColor(place.right() - 6, place.center().y()), QColor(192, 192, 255));
+  EXPECT_EQ(shown.pixelColor(place.right() - 6, menu->actionGeometry(plain).center().y()),
+            QColor(Qt::white));
+}
+
+TEST_F(MenuPainterTest, ABrightPictureOnlyTintsADarkPalette) {
+  painter.SetBackground(Filled(Qt::white));
+  const QImage shown = Shown(Shade::Dark);
+  EXPECT_LT(shown.pixelColor(shown.width() - 8, shown.height() - 8).lightness(), 80);
+}
+
+TEST_F(MenuPainterTest, TextThatCouldNotBeReadTakesThePalettesColour) {
+  const QPalette dark = PaletteFor(Shade::Dark);
+  painter.SetBackground(Filled(Qt::white));
+  const MenuLook onDark = LegibleLook(painter.Look(), dark);
+  EXPECT_EQ(onDark.text, dark.color(QPalette::Text));
+  const MenuLook onLight = LegibleLook(painter.Look(), PaletteFor(Shade::Light));
+  EXPECT_EQ(onLight.text, QColor(Qt::black));
+}
+
+TEST_F(MenuPainterTest, APairOfHighlightColoursThatCannotBeReadGivesWayWhole) {
+  painter.SetHighlightColor(0x202020);
+  const QPalette light = PaletteFor(Shade::Light);
+  const MenuLook look = LegibleLook(painter.Look(), light);
+  EXPECT_EQ(look.highlight, light.color(QPalette::Highlight));
+  EXPECT_EQ(look.highlightText, light.color(QPalette::HighlightedText));
+}
+
+TEST_F(MenuPainterTest, DarkPicturesGetLightText) {
+  painter.SetBackground(Filled(QColor(20, 20, 40)));
+  const MenuLook look = LegibleLook(painter.Look(), PaletteFor(Shade::Light));
+  EXPECT_GE(Contrast(look.text, QColor(20, 20, 40)), LegibleContrast);
+}
+
+TEST_F(MenuPainterTest, TheSweepLooksPicturesUpByTheNameInLowerCase) {
+  ImageList images;
+  images.insert(QStringLiteral("mnuopen"), IconFor(QStringLiteral("open")));
+  images.insert(QStringLiteral("mnuExit"), IconFor(QStringLiteral("stop")));
+  MenuPictureSweep(window, images, painter);
+  EXPECT_FALSE(item->icon().isNull());
+  EXPECT_TRUE(plain->icon().isNull());
+}
+
+TEST_F(MenuPainterTest, LeavesRoomForShortcuts) {
+  painter.TakeOver(window);
+  const int before = menu->sizeHint().width();
+  item->setShortcut(QKeySequence(QStringLiteral("Ctrl+O")));
+  EXPECT_GT(menu->sizeHint().width(), before + 30);
+}
+
+}  // namespace
+}  // namespace velor

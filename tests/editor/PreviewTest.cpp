@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/modWorkFlow.h"
+#include "tests/editor/EditorWorld.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QToolBar>
+
+#include <limits>
+
+namespace velor {
+
+namespace {
+
+const QString IndexFile = QStringLiteral("\\site\\index.htm");
+
+}  // namespace
+
+class PreviewTest : public EditorWorld {
+ protected:
+  QString Panel(int number) {
+    return context.preview->findChild<QLabel *>(QStringLiteral("Sta_%1").arg(number))->text();
+  }
+};
+
+TEST_F(PreviewTest, APageIsShownFromItsTemporaryCopyWithALineBreakMore) {
+  Open(IndexFile);
+  Component(1).Edit(QStringLiteral("<p>b</p>"));
+  Page(1).ChangeMode(4);
+  EXPECT_EQ(log, Calls({"AdoptWindow(frmBrowser)", "SaveDocument(\\site\\indexTMP.htm)",
+                        "ShowWindow(frmBrowser)", "Browser.Navigate(file:///site/indexTMP.htm)"}));
+  EXPECT_EQ(Content(QStringLiteral("\\site\\indexTMP.htm")), "<p>b</p>\r\n");
+}
+
+TEST_F(PreviewTest, AReadOnlyPageIsShownFromItsFileWithoutUnsavedEdits) {
+  files.ReplaceAll(IndexFile, "<p>a</p>");
+  files.readOnly.insert(IndexFile);
+  modWorkFlow::OpenPage(context, IndexFile);
+  Component(1).CompleteDocument();
+  log.clear();
+  Page(1).ChangeMode(4);
+  EXPECT_EQ(log, Calls({"AdoptWindow(frmBrowser)", "ShowWindow(frmBrowser)",
+                        "Browser.Navigate(file:///site/index.htm)"}));
+}
+
+TEST_F(PreviewTest, WithoutATemporaryCopyAPrivateOneIsShownWithThePagesFolderAsBase) {
+  Open(IndexFile);
+  Component(1).Edit(QStringLiteral("<p>b</p>"));
+  files.unwritableFolders.insert(QStringLiteral("\\site"));
+  Page(1).ChangeMode(4);
+  EXPECT_EQ(log.back(), QStringLiteral("Browser.NavigateToText(file:///site/index.htm)"));
+  EXPECT_EQ(PreviewBrowser().html, QStringLiteral("<p>b</p>"));
+  EXPECT_TRUE(mainWindow.reports.isEmpty());
+}
+
+TEST_F(PreviewTest, ANewPageWithoutATemporaryCopyResolvesAgainstTheProgramFolder) {
+  New();
+  files.unwritableFolders.insert(runtime.programFolder);
+  Page(1).ChangeMode(4);
+  EXPECT_EQ(log.back(), QStringLiteral("Browser.NavigateToText(file:///program/)"));
+}
+
+TEST_F(PreviewTest, OneWindowServesAllPreviewsAndClosingHidesIt) {
+  Open(IndexFile);
+  Page(1).ChangeMode(4);
+  const QPointer<frmBrowser> window = context.preview;
+  log.clear();
+  EXPECT_FALSE(window->close());
+  EXPECT_EQ(log, Calls({"HideWindow(frmBrowser)", "RefreshCommandState()"}));
+  DeleteClosedWindows();
+  ASSERT_FALSE(window.isNull());
+  EXPECT_FALSE(window->isVisible());
+  Page(1).ChangeMode(4);
+  EXPECT_EQ(context.preview, window);
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(components.browsers.size(), 1U);
+}
+
+TEST_F(PreviewTest, MarkedKillItClosesForGood) {
+  Open(IndexFile);
+  Page(1).ChangeMode(4);
+  context.preview->MarkKill();
+  EXPECT_TRUE(context.preview->close());
+  DeleteClosedWindows();
+  EXPECT_TRUE(context.preview.isNull());
+}
+
+TEST_F(PreviewTest, TheButtonsAreNamedByTheirKeysAndDriveTheBrowser) {
+  Open(IndexFile);
+  Page(1).ChangeMode(4);
+  log.clear();
+  auto *bar = context.preview->findChild<QToolBar *>(QStringLiteral("tbToolBar"));
+  ASSERT_NE(bar, nullptr);
+  QStringList captions;
+  for (QAction *button : bar->actions()) {
+    captions << button->text();
+    EXPECT_EQ(button->data().toString(), button->text());
+    button->trigger();
+  }
+  EXPECT_EQ(captions, QStringList({QStringLiteral("Back"), QStringLiteral("Forward"),
+                                   QStringLiteral("Refresh"), QStringLiteral("Stop")}));
+  EXPECT_EQ(log, Calls({"Browser.GoBack()", "Browser.GoForward()", "Browser.Refresh()",
+                        "Browser.Stop()"}));
+}
+
+TEST_F(PreviewTest, OtherKeysDoNothing) {
+  Open(IndexFile);
+  Page(1).ChangeMode(4);
+  log.clear();
+  for (const char *key : {"back", "STOP", "", "Home"}) {
+    context.preview->ButtonClicked(QString::fromLatin1(key));
+  }
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(PreviewTest, StatusAndProgressStandInTheirPanels) {
+  Open(IndexFile);
+  Page(1).ChangeMode(4);
+  PreviewBrowser().listener->StatusTextChanged(QStringLiteral("<b>next.htm"));
+  PreviewBrowser().listener->ProgressChanged(50, 100);
+  EXPECT_EQ(Panel(1), QStringLiteral("<b>next.htm"));
+  EXPECT_EQ(Panel(2), QStringLiteral("50%"));
+  PreviewBrowser().listener->ProgressChanged(100, 100);
+  EXPECT_EQ(Panel(2), QStringLiteral("0%"));
+}
+
+TEST(ProgressPercentTest, IsThePercentModuloAHundredAndZeroWhereItCannotBeComputed) {
+  EXPECT_EQ(ProgressPercent(50, 100), 50);
+  EXPECT_EQ(ProgressPercent(1, 3), 33);
+  EXPECT_EQ(ProgressPercent(100, 100), 0);
+  EXPECT_EQ(ProgressPercent(150, 100), 50);
+  EXPECT_EQ(ProgressPercent(5, 0), 0);
+  EXPECT_EQ(ProgressPercent(-50, 100), -50);
+  EXPECT_EQ(ProgressPercent(21474836, 42949672), 50);
+  EXPECT_EQ(ProgressPercent(21474837, 42949672), 0) << "a hundred times that leaves 32 bits";
+  EXPECT_EQ(ProgressPercent(std::numeric_limits<std::int32_t>::min(), 1), 0);
+}
+
+}  // namespace velor

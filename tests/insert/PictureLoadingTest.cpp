@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "insert/PictureLoading.h"
+#include "platform/Paths.h"
+#include "tests/support/Checks.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace velor {
+namespace {
+
+constexpr QSize Bounds(320, 180);
+
+class PictureLoadingTest : public testing::Test {
+ protected:
+  QString Path(const QString &name) const { return ToLogic(folder.filePath(name)); }
+
+  QString Save(const QString &name, QSize size) const {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    EXPECT_TRUE(image.save(folder.filePath(name)));
+    return Path(name);
+  }
+
+  QTemporaryDir folder;
+};
+
+TEST_F(PictureLoadingTest, KeepsASmallPictureAsItIs) {
+  const LoadedPicture picture = LoadPicture(Save(QStringLiteral("a b#%.png"), {40, 30}), Bounds);
+  EXPECT_EQ(picture.pixels, QSize(40, 30));
+  EXPECT_EQ(picture.preview.size(), QSize(40, 30));
+}
+
+TEST_F(PictureLoadingTest, ScalesALargePictureIntoTheBounds) {
+  for (const char *name : {"a.png", "a.jpg", "a.bmp"}) {
+    const LoadedPicture picture = LoadPicture(Save(QString::fromUtf8(name), {1600, 1200}), Bounds);
+    EXPECT_EQ(picture.pixels, QSize(1600, 1200)) << name;
+    EXPECT_EQ(picture.preview.size(), QSize(240, 180)) << name;
+  }
+}
+
+TEST_F(PictureLoadingTest, KnowsTheSizeOfAPictureTooLargeToDecode) {
+  // Only the header says how large it is; decoding would take hundreds of megabytes.
+  const QString path = Save(QStringLiteral("big.bmp"), {8, 8});
+  QFile file(ToNative(path));
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(file.seek(18));
+  const quint32 sides[] = {10000, 10000};
+  file.write(reinterpret_cast<const char *>(sides), sizeof sides);
+  file.close();
+  const LoadedPicture picture = LoadPicture(path, Bounds);
+  EXPECT_EQ(picture.pixels, QSize(10000, 10000));
+  EXPECT_TRUE(picture.preview.isNull());
+}
+
+TEST_F(PictureLoadingTest, KeepsAThinPictureVisible) {
+  const LoadedPicture picture = LoadPicture(Save(QStringLiteral("line.png"), {4000, 1}), Bounds);
+  EXPECT_EQ(picture.preview.size(), QSize(320, 1));
+}
+
+TEST_F(PictureLoadingTest, GivesNoPictureForNoName) {
+  const LoadedPicture picture = LoadPicture({}, Bounds);
+  EXPECT_TRUE(picture.pixels.isEmpty());
+  EXPECT_TRUE(picture.preview.isNull());
+}
+
+TEST_F(PictureLoadingTest, RaisesForAMissingFile) {
+  EXPECT_EQ(ErrorOf([&] { LoadPicture(Path(QStringLiteral("none.png")), Bounds); }),
+            ErrorNumber::FileNotFound);
+}
+
+TEST_F(PictureLoadingTest, RaisesForAFileThatIsNoPicture) {
+  QFile file(folder.filePath(QStringLiteral("text.png")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("not a picture at all");
+  file.close();
+  EXPECT_EQ(ErrorOf([&] { LoadPicture(Path(QStringLiteral("text.png")), Bounds); }),
+            ErrorNumber::InvalidProcedureCall);
+}
+
+TEST_F(PictureLoadingTest, RaisesForAPictureCutShort) {
+  QFile file(ToNative(Save(QStringLiteral("cut.png"), {200, 200})));
+  ASSERT_TRUE(file.resize(60));
+  EXPECT_EQ(ErrorOf([&] { LoadPicture(Path(QStringLiteral("cut.png")), Bounds); }),
+            ErrorNumber::InvalidProcedureCall);
+}
+
+}  // namespace
+}  // namespace velor

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "insert/TableHtml.h"
+#include "tests/support/Checks.h"
+
+namespace velor {
+namespace {
+
+TableValues Defaults() {
+  const QString one = QStringLiteral("1");
+  const QString three = QStringLiteral("3");
+  return {.align = QStringLiteral("Left"),
+          .cellSpacing = one,
+          .cellPadding = one,
+          .border = one,
+          .rows = three,
+          .columns = three};
+}
+
+QString FirstLine(const QString &html) {
+  return html.section(QStringLiteral("\r\n"), 0, 0);
+}
+
+QString WithoutRows() {
+  return QStringLiteral(
+      "<Table align=\"Left\" cellspacing=\"1\" cellpadding=\"1\" border=\"1\" width=75%>\r\n"
+      "</Table>\r\n");
+}
+
+TEST(TableHtml, WritesTheDefaultTable) {
+  EXPECT_EQ(TableHtml(Defaults()),
+            QStringLiteral("<Table align=\"Left\" cellspacing=\"1\" cellpadding=\"1\" "
+                           "border=\"1\" width=75%>\r\n"
+                           "   <TR>\r\n"
+                           "      <TD></TD>\r\n"
+                           "      <TD></TD>\r\n"
+                           "      <TD></TD>\r\n"
+                           "   </TR>\r\n"
+                           "   <TR>\r\n"
+                           "      <TD></TD>\r\n"
+                           "      <TD></TD>\r\n"
+                           "      <TD></TD>\r\n"
+                           "   </TR>\r\n"
+                           "   <TR>\r\n"
+                           "      <TD></TD>\r\n"
+                           "      <TD></TD>\r\n"
+                           "      <TD></TD>\r\n"
+                           "   </TR>\r\n"
+                           "</Table>\r\n"));
+}
+
+TEST(TableHtml, LeavesOutTheAttributeOfEachEmptyField) {
+  TableValues values = Defaults();
+  values.cellSpacing.clear();
+  EXPECT_EQ(FirstLine(TableHtml(values)),
+            QStringLiteral("<Table align=\"Left\" cellpadding=\"1\" border=\"1\" width=75%>"));
+  values.align.clear();
+  values.cellPadding.clear();
+  values.border.clear();
+  EXPECT_EQ(FirstLine(TableHtml(values)), QStringLiteral("<Table width=75%>"));
+}
+
+TEST(TableHtml, WritesValuesAsTyped) {
+  TableValues values = Defaults();
+  values.align = QStringLiteral("a\"b");
+  values.border = QStringLiteral("<&>");
+  EXPECT_EQ(FirstLine(TableHtml(values)),
+            QStringLiteral("<Table align=\"a\"b\" cellspacing=\"1\" cellpadding=\"1\" "
+                           "border=\"<&>\" width=75%>"));
+}
+
+TEST(TableHtml, RoundsCountsTiesToEven) {
+  TableValues values = Defaults();
+  values.rows = QStringLiteral("2.5");
+  values.columns = QStringLiteral("3.5");
+  EXPECT_EQ(TableHtml(values).count(QStringLiteral("<TR>")), 2);
+  EXPECT_EQ(TableHtml(values).count(QStringLiteral("<TD>")), 8);
+}
+
+TEST(TableHtml, HasNoRowsForACountThatIsNone) {
+  for (const char *rows : {"0", "-4", "abc", "", "40000", "-40000", "1e20"}) {
+    TableValues values = Defaults();
+    values.rows = QString::fromUtf8(rows);
+    EXPECT_EQ(TableHtml(values), WithoutRows()) << rows;
+  }
+}
+
+TEST(TableHtml, HasRowsWithoutCellsForAColumnCountThatIsNone) {
+  for (const char *columns : {"0", "-4", "abc", "", "40000"}) {
+    TableValues values = Defaults();
+    values.rows = QStringLiteral("1");
+    values.columns = QString::fromUtf8(columns);
+    EXPECT_TRUE(TableHtml(values).endsWith(
+        QStringLiteral("width=75%>\r\n   <TR>\r\n   </TR>\r\n</Table>\r\n")))
+        << columns;
+  }
+}
+
+TEST(TableHtml, LeavesOutRowsThatNoMemoryHolds) {
+  TableValues values = Defaults();
+  values.rows = QStringLiteral("32767");
+  values.columns = QStringLiteral("32767");
+  EXPECT_EQ(TableHtml(values), WithoutRows());
+}
+
+TEST(TableHtml, WritesTheLongestRowAndTheLongestColumn) {
+  TableValues values = Defaults();
+  values.rows = QStringLiteral("1");
+  values.columns = QStringLiteral("32767");
+  EXPECT_EQ(TableHtml(values).count(QStringLiteral("<TD>")), 32767);
+  values.rows = QStringLiteral("32767");
+  values.columns = QStringLiteral("1");
+  EXPECT_EQ(TableHtml(values).count(QStringLiteral("<TR>")), 32767);
+}
+
+}  // namespace
+}  // namespace velor

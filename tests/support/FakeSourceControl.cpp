@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/FakeSourceControl.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace velor {
+
+FakeSourceControl::FakeSourceControl(QWidget *parent, SourceAccess sourceAccess, CallLog *log)
+    : access(sourceAccess), log_(log), widget_(new QWidget(parent)) {
+  widget_->setFocusPolicy(Qt::StrongFocus);
+}
+
+FakeSourceControl::~FakeSourceControl() {
+  delete widget_;
+}
+
+void FakeSourceControl::SetFocus() {
+  Note(log_, QStringLiteral("Source.SetFocus()"));
+  widget_->setFocus();
+}
+
+void FakeSourceControl::SetText(const QString &newText) {
+  Note(log_, QStringLiteral("Source.SetText()"));
+  text = newText;
+  selectionStart = selectionEnd = 0;
+}
+
+QString FakeSourceControl::SelectedText() const {
+  return text.mid(selectionStart, selectionEnd - selectionStart);
+}
+
+void FakeSourceControl::ReplaceSelection(const QString &replacement) {
+  if (access == SourceAccess::View) return;
+  text.replace(selectionStart, selectionEnd - selectionStart, replacement);
+  selectionStart = selectionEnd = selectionStart + replacement.size();
+}
+
+int FakeSourceControl::CaretLine() const {
+  return static_cast<int>(QStringView(text).left(selectionEnd).count(u'\n'));
+}
+
+int FakeSourceControl::CaretColumn() const {
+  const qsizetype start = text.lastIndexOf(u'\n', selectionEnd - text.size() - 1) + 1;
+  return static_cast<int>(selectionEnd - (selectionEnd == 0 ? 0 : start));
+}
+
+int FakeSourceControl::LineLength(int line) const {
+  QString content = text.section(u'\n', line, line);
+  if (content.endsWith(u'\r')) content.chop(1);
+  return static_cast<int>(content.size());
+}
+
+void FakeSourceControl::SetCaret(int line, int column) {
+  qsizetype start = 0;
+  for (int before = 0; before < line; ++before) start = text.indexOf(u'\n', start) + 1;
+  selectionStart = selectionEnd = start + std::min(column, LineLength(line));
+}
+
+}  // namespace velor

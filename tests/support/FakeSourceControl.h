@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/SourceControl.h"
+#include "tests/support/CallLog.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <map>
+
+namespace velor {
+
+/// A source control that is a text, a selection and a caret.
+class FakeSourceControl final : public SourceControl {
+ public:
+  FakeSourceControl(QWidget *parent, SourceAccess sourceAccess, CallLog *log = nullptr);
+  ~FakeSourceControl() override;
+
+  const SourceAccess access;
+  QString text;
+  std::map<int, std::int32_t> colors;
+  /// The stretch of the text that is selected; the caret stands at its end.
+  qsizetype selectionStart = 0;
+  qsizetype selectionEnd = 0;
+
+  QWidget *Widget() override { return widget_; }
+  void SetFocus() override;
+  QString Text() const override { return text; }
+  void SetText(const QString &newText) override;
+  void SetColor(int slot, std::int32_t color) override { colors[slot] = color; }
+  QString SelectedText() const override;
+  void ReplaceSelection(const QString &replacement) override;
+  int CaretLine() const override;
+  int CaretColumn() const override;
+  int LineLength(int line) const override;
+  void SetCaret(int line, int column) override;
+
+ private:
+  CallLog *log_;
+  QPointer<QWidget> widget_;
+};
+
+}  // namespace velor
