@@ -2,6 +2,8 @@
 #include "app/startup/EventBoundary.h"
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/MfrmProgram.h"
+#include "chrome/Palette.h"
+#include "chrome/Palette.h"
 #include "platform/qt/QtComponents.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtFiles.h"
@@ -13,6 +15,8 @@ int main(int argc, char **argv) {
   using namespace velor;
   RegisterPageScheme();
   Application application(argv);
+  DressApplication(application);
+  DressApplication(application);
 
   QtDialogs dialogs;
   QtRuntime runtime(argc, argv);
@@ -25,8 +29,12 @@ int main(int argc, char **argv) {
   ProgramValues values;
 
   std::unique_ptr<MfrmProgram> mainWindow;
-  RealStartUpWindows windows(platform, values,
-                             [&] { mainWindow = std::make_unique<MfrmProgram>(platform, values); });
+  RealStartUpWindows windows(platform, values, [&] {
+    mainWindow = std::make_unique<MfrmProgram>(platform, values);
+    QObject::connect(mainWindow.get(), &MfrmProgram::Unloaded, &application,
+                     &QCoreApplication::quit, Qt::QueuedConnection);
+    mainWindow->Load();
+  });
   boundary.Run([&] { StartUp(platform, values, windows); });
   boundary.StartUpDone();
   return Application::exec();

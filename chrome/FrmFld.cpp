@@ -181,7 +181,7 @@ void FrmFld::SelectFolder(const QString &nativePath) {
     }
   }
   dir1_->setCurrentItem(item);
-  dir1_->scrollToItem(item);
+  dir1_->scrollToItem(item, QAbstractItemView::PositionAtCenter);
 }
 
 QString FrmFld::SelectedFolder() const {

@@ -18,7 +18,7 @@ enum class NameOrigin {
 class Files {
  public:
   /// The source of every error of ReplaceAll, by which the event boundary knows a failed write.
-  static constexpr const char16_t *WriteSource = u"Files.ReplaceAll";
+  static constexpr const char16_t *WriteSource = u"ReplaceAll";
 
   virtual ~Files() = default;
 

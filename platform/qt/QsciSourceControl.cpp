@@ -29,6 +29,25 @@ constexpr int MarginBackground = 1;
 constexpr int LineNumberBackground = 26;
 constexpr int LineNumberText = 27;
 
+/// The lexer's tags and attributes are those of HTML 4; to colour today's alike, it is told theirs.
+class HtmlLexer final : public QsciLexerHTML {
+ public:
+  using QsciLexerHTML::QsciLexerHTML;
+
+  const char *keywords(int set) const override {
+    static const QByteArray tagsAndAttributes =
+        QByteArray(QsciLexerHTML().keywords(1)) +
+        " article aside audio bdi canvas data datalist details dialog embed figcaption figure "
+        "footer header hgroup main mark meter nav output picture progress rp rt ruby section slot "
+        "source summary svg template time track video wbr async autocomplete autofocus autoplay "
+        "contenteditable controls crossorigin download draggable hidden integrity list loading "
+        "loop "
+        "max min muted pattern placeholder poster preload required role sandbox sizes spellcheck "
+        "srcset step translate";
+    return set == 1 ? tagsAndAttributes.constData() : QsciLexerHTML::keywords(set);
+  }
+};
+
 /// "Lucida Console" where it is installed; the control itself would fall back to a proportional
 /// font for a family it does not find.
 QFont SourceFont() {
@@ -70,7 +89,7 @@ int CharactersOfUnits(const QString &line, int units) {
 
 QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
     : editor_(new QsciScintilla(parent)) {
-  lexer_ = new QsciLexerHTML(editor_);
+  lexer_ = new HtmlLexer(editor_);
   editor_->setUtf8(true);
   editor_->setFrameStyle(QFrame::NoFrame);
   editor_->setTabWidth(TabColumns);

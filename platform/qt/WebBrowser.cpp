@@ -5,10 +5,14 @@
 #include "platform/qt/BaseElement.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QSet>
 #include <QWebEngineDownloadRequest>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
+#include <QWebEngineUrlRequestInfo>
+#include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
 namespace velor {
@@ -37,6 +41,39 @@ class WindowRequest final : public QWebEnginePage {
   QPointer<QWebEnginePage> asking_;
 };
 
+/// Lets a page on disk use the files beside it and what is on the web, but not read the person's
+/// files: the engine knows only "all local files" or "none". Its scripts get no file's content, and
+/// its frames show pages and pictures only.
+class LocalFileGuard final : public QWebEngineUrlRequestInterceptor {
+ public:
+  using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+
+  void interceptRequest(QWebEngineUrlRequestInfo &request) override {
+    if (!request.requestUrl().isLocalFile()) return;
+    switch (request.resourceType()) {
+      case QWebEngineUrlRequestInfo::ResourceTypeXhr:
+        request.block(true);
+        break;
+      case QWebEngineUrlRequestInfo::ResourceTypeSubFrame:
+      case QWebEngineUrlRequestInfo::ResourceTypeObject:
+        request.block(!IsWebContent(request.requestUrl()));
+        break;
+      default:
+        break;
+    }
+  }
+
+ private:
+  static bool IsWebContent(const QUrl &url) {
+    static const QSet<QString> suffixes{QStringLiteral("htm"),   QStringLiteral("html"),
+                                        QStringLiteral("xhtml"), QStringLiteral("shtml"),
+                                        QStringLiteral("svg"),   QStringLiteral("png"),
+                                        QStringLiteral("jpg"),   QStringLiteral("jpeg"),
+                                        QStringLiteral("gif"),   QStringLiteral("webp")};
+    return suffixes.contains(QFileInfo(url.path()).suffix().toLower());
+  }
+};
+
 class BrowserPage final : public QWebEnginePage {
  public:
   using QWebEnginePage::QWebEnginePage;
@@ -54,9 +91,9 @@ WebBrowser::WebBrowser(QWidget *parent)
       view_(new QWebEngineView(parent)),
       page_(new BrowserPage(profile_.get())) {
   QWebEngineSettings *settings = page_->settings();
-  // A page on disk may not read other files by script, and nothing runs that pages do not need.
-  settings->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, false);
-  settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
+  profile_->setUrlRequestInterceptor(new LocalFileGuard(profile_.get()));
+  settings->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
+  settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
   settings->setAttribute(QWebEngineSettings::PluginsEnabled, false);
   settings->setAttribute(QWebEngineSettings::NavigateOnDropEnabled, false);
   view_->setPage(page_);

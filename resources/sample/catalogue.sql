@@ -1,5 +1,6 @@
 -- The sample catalogue. {folder} stands for the program folder, with "\" between folders.
 -- Dates are ISO texts and truth values 1 or 0.
+Begin;
 Create table Project (
   IdProject INTEGER PRIMARY KEY,
   Name VARCHAR(100) COLLATE NOCASE,
@@ -42,3 +43,4 @@ Insert into CustomCD values
   (1, '{folder}\Sites\Garden'),
   (2, '{folder}\Sites\OldTown'),
   (3, '{folder}\Sites\Harbour');
+Commit;

@@ -18,6 +18,8 @@ namespace {
 
 class Editing : public WebEditorTest {
  protected:
+  Editing() { QApplication::clipboard()->clear(); }
+
   QVariant Exec(EditingCommand command, const QVariant &value = {}) {
     return editor_->ExecCommand(Number(command), ExecOption::Default, value);
   }
@@ -100,8 +102,10 @@ TEST_F(Editing, ClipboardCommandsCutCopyAndPaste) {
 }
 
 TEST_F(Editing, ACopiedLinkOrPicturePastedAgainKeepsItsRelativeAddress) {
-  LoadWithCaret("<p>x<a href=\"sub/other.htm#part\">link</a><img src=\"pic.gif\"></p><p>end</p>",
-                QStringLiteral("p"));
+  LoadWithCaret(
+      "<p>x<a href=\"sub/other.htm#part\">link</a><img src=\"pic.gif\">"
+      "<a href=\"../up.htm\">up</a><a href=\"#top\">top</a></p><p>end</p>",
+      QStringLiteral("p"));
   Exec(EditingCommand::SelectAll);
   Exec(EditingCommand::Copy);
   ASSERT_TRUE(WaitFor([] { return QApplication::clipboard()->text().contains(u"link"); }));
@@ -113,7 +117,11 @@ TEST_F(Editing, ACopiedLinkOrPicturePastedAgainKeepsItsRelativeAddress) {
   EXPECT_EQ(editor_->DocumentHTML().count(QStringLiteral("src=\"pic.gif\"")), 2)
       << Seen().constData();
   EXPECT_EQ(editor_->DocumentHTML().count(QStringLiteral("href=\"sub/other.htm#part\"")), 2);
+  EXPECT_EQ(editor_->DocumentHTML().count(QStringLiteral("href=\"../up.htm\"")), 2);
+  EXPECT_EQ(editor_->DocumentHTML().count(QStringLiteral("href=\"#top\"")), 2);
   EXPECT_FALSE(DocumentHolds(QStringLiteral("velor-page"))) << Seen().constData();
+  Exec(EditingCommand::Undo);
+  EXPECT_EQ(editor_->DocumentHTML().count(QStringLiteral("pic.gif")), 1) << Seen().constData();
 }
 
 TEST_F(Editing, ACommandIsInTheDocumentReadRightAfterIt) {

@@ -14,6 +14,15 @@
 
 namespace velor {
 
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Many times what an input event takes to its queue in the page's process.
+constexpr std::chrono::milliseconds inputTravel = 30ms;
+
+}  // namespace
+
 EngineView::EngineView(EditingEngine &engine, QWidget *container)
     : engine_(engine), host_(engine.Guard()), view_(new QWebEngineView(container)) {
   page_ = new EditorPage(&engine.Profile(), engine.Guard(), view_);
@@ -31,7 +40,10 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
     if (phase_ == Phase::Ready) Q_EMIT StateArrived(state);
   });
   connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
-  connect(input_, &EditorInput::InputComing, this, &EngineView::InputComing);
+  connect(input_, &EditorInput::InputComing, this, [this] {
+    sinceInput_.start();
+    Q_EMIT InputComing();
+  });
   connect(view_, &QWebEngineView::customContextMenuRequested, this, [this](QPoint position) {
     const EngineCallback callback(engine_.Guard());
     Q_EMIT MenuWanted(view_->mapToGlobal(position));
@@ -117,6 +129,11 @@ std::optional<QVariant> EngineView::Ask(const QString &expression,
     return value->has_value() || CurrentPhase() != Phase::Ready || address != address_;
   });
   return end == WaitEnd::Done ? *value : std::nullopt;
+}
+
+void EngineView::AwaitInput() {
+  if (!sinceInput_.isValid()) return;
+  Wait(inputTravel, [this] { return sinceInput_.hasExpired(inputTravel.count()); });
 }
 
 WaitEnd EngineView::Wait(std::chrono::milliseconds limit, const std::function<bool()> &done) {

@@ -4,6 +4,7 @@
 #include "platform/qt/editing/BridgeHost.h"
 #include "platform/qt/editing/EditingEngine.h"
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QVariant>
 #include <QWebChannel>
@@ -50,6 +51,9 @@ class EngineView : public QObject {
   /// Evaluates an expression and waits for its value. Nothing when the page is not ready, dies
   /// or does not answer in time; then, and only then, `this` may be gone.
   std::optional<QVariant> Ask(const QString &expression, std::chrono::milliseconds limit);
+  /// Waits until input that was sent to the page a moment ago has surely arrived there: it takes
+  /// another way than expressions, which could overtake it.
+  void AwaitInput();
   /// Waits for `done`; see GuardedWait.
   WaitEnd Wait(std::chrono::milliseconds limit, const std::function<bool()> &done);
 
@@ -79,6 +83,7 @@ class EngineView : public QObject {
   QUrl address_;
   QString start_;
   QVariant startAnswer_;
+  QElapsedTimer sinceInput_;
 };
 
 }  // namespace velor

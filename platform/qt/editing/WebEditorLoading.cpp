@@ -117,6 +117,8 @@ std::optional<QString> WebEditor::Read() {
   if (view_ == nullptr) return std::nullopt;
   const QPointer<EngineView> alive(view_.get());
   const int load = loads_;
+  alive->AwaitInput();
+  if (alive == nullptr) return std::nullopt;
   const auto answer = alive->Ask(QStringLiteral("velor.serialize()"), readLimit);
   if (!answer) return std::nullopt;
   if (load == loads_) mirror_.html = answer->toString();

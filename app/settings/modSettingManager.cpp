@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/modSettingManager.h"
+
+#include "platform/Conversions.h"
+#include "platform/Paths.h"
+
+#include <cmath>
+
+namespace velor::modSettingManager {
+
+namespace {
+
+QString KeyPath(const QString &applicationName, const QString &section) {
+  return QStringLiteral("Software\\Company\\%1\\%2").arg(applicationName, section);
+}
+
+QString Product() {
+  return QString::fromUtf16(ApplicationName);
+}
+
+}  // namespace
+
+void SaveRegSetting(Registry &registry, const QString &applicationName, const QString &section,
+                    const QString &valueName, const QString &value) {
+  registry.SetText(KeyPath(applicationName, section), valueName, value);
+}
+
+QString GetRegSetting(const Registry &registry, const QString &applicationName,
+                      const QString &section, const QString &valueName,
+                      const QString &defaultValue) {
+  const auto value = registry.Query(KeyPath(applicationName, section), valueName);
+  if (!value || value->type != RegistryValue::Type::Text) return defaultValue;
+  const QString text = CutAtNul(value->text);
+  return text.isEmpty() ? defaultValue : text;
+}
+
+void SetOption(Registry &registry, const QString &valueName, const QString &value) {
+  SaveRegSetting(registry, Product(), QString::fromUtf16(OptionSection), valueName, value);
+}
+
+QString GetOption(const Registry &registry, const QString &valueName, const QString &defaultValue) {
+  return GetRegSetting(registry, Product(), QString::fromUtf16(OptionSection), valueName,
+                       defaultValue);
+}
+
+void AddToHistory(Registry &registry, const QString &path) {
+  const QString section = QString::fromUtf16(HistorySection);
+  const QString countName = QStringLiteral("historycount");
+  const QString stored =
+      GetRegSetting(registry, Product(), section, countName, QStringLiteral("0"));
+  double count = std::trunc(Val(stored));
+  // In one step: a number edited by hand may be so large that subtracting 100 leaves it as it is.
+  if (count >= HistorySlots) count = std::fmod(count, HistorySlots);
+  const QString slot = NumberText(count + 1);
+  SaveRegSetting(registry, Product(), section, QStringLiteral("file") + slot, ForPeople(path));
+  SaveRegSetting(registry, Product(), section, countName, slot);
+}
+
+QString CutAtNul(const QString &buffer) {
+  return buffer.left(buffer.indexOf(QChar(0)));
+}
+
+}  // namespace velor::modSettingManager

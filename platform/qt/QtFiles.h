@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Files.h"
+
+namespace velor {
+
+/// The files of the system that the program runs on.
+class QtFiles : public Files {
+ public:
+  bool FileExists(const QString &path, NameOrigin origin = NameOrigin::Chosen) const override;
+  bool FolderExists(const QString &path, NameOrigin origin = NameOrigin::Chosen) const override;
+  bool IsReadOnly(const QString &path) const override;
+  bool FolderWritable(const QString &path) const override;
+  QByteArray ReadAll(const QString &path, NameOrigin origin = NameOrigin::Chosen) const override;
+  void ReplaceAll(const QString &path, const QByteArray &content) override;
+  void Delete(const QString &path) override;
+};
+
+}  // namespace velor

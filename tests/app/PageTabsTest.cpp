@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/PageTabs.h"
+#include "platform/RuntimeError.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace velor {
+namespace {
+
+class PageTabsTest : public ::testing::Test {
+ protected:
+  PageTabsTest() {
+    tabs.setObjectName(QStringLiteral("FileTab"));
+    for (const char *key : {"key1", "key2", "key4"}) tabs.Add(QString::fromLatin1(key), 1);
+    tabs.SetCaption(QStringLiteral("key1"), QStringLiteral("one.htm"));
+    tabs.SetCaption(QStringLiteral("key2"), QStringLiteral("two.htm"));
+    tabs.SetCaption(QStringLiteral("key4"), QStringLiteral("four.htm"));
+    tabs.resize(tabs.sizeHint());
+    tabs.show();
+  }
+
+  QStringList Captions() {
+    QStringList captions;
+    for (int i = 0; i < tabs.count(); ++i) captions.append(tabs.tabText(i));
+    return captions;
+  }
+
+  void Click(int index) {
+    QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(index).center());
+  }
+
+  PageTabs tabs{nullptr};
+  QSignalSpy chosen{&tabs, &PageTabs::PageChosen};
+};
+
+template <typename Call>
+ErrorNumber ErrorOf(Call call) {
+  try {
+    call();
+  } catch (const RuntimeError &error) {
+    return error.Number();
+  }
+  return ErrorNumber::None;
+}
+
+TEST_F(PageTabsTest, KeepsTheOrderInWhichPagesCame) {
+  EXPECT_EQ(Captions().join(u' ').toStdString(), "one.htm two.htm four.htm");
+  EXPECT_FALSE(tabs.isMovable());
+  EXPECT_FALSE(tabs.tabsClosable());
+}
+
+TEST_F(PageTabsTest, CaptionsByPositionCountFromOne) {
+  tabs.SetCaptionAt(3, QStringLiteral("other.htm"));
+  EXPECT_EQ(Captions().at(2), QStringLiteral("other.htm"));
+}
+
+TEST_F(PageTabsTest, AnAmpersandIsALetterOfTheCaption) {
+  tabs.SetCaption(QStringLiteral("key1"), QStringLiteral("a&b.htm"));
+  EXPECT_EQ(tabs.tabText(0), QStringLiteral("a&&b.htm"));
+}
+
+TEST_F(PageTabsTest, UnknownKeysAndPositionsAreErrors) {
+  const QString text = QStringLiteral("x");
+  const QString unknown = QStringLiteral("key3");
+  EXPECT_EQ(ErrorOf([&] { tabs.SetCaption(unknown, text); }), ErrorNumber::ElementNotFound);
+  EXPECT_EQ(ErrorOf([&] { tabs.Select(unknown); }), ErrorNumber::ElementNotFound);
+  EXPECT_EQ(ErrorOf([&] { tabs.Remove(unknown); }), ErrorNumber::ElementNotFound);
+  EXPECT_EQ(ErrorOf([&] { tabs.SetCaptionAt(4, text); }), ErrorNumber::IndexOutOfBounds);
+  EXPECT_EQ(ErrorOf([&] { tabs.SetCaptionAt(0, text); }), ErrorNumber::IndexOutOfBounds);
+  EXPECT_EQ(ErrorOf([&] { tabs.Add(unknown, 2); }), ErrorNumber::IndexOutOfBounds);
+  EXPECT_EQ(tabs.count(), 3);
+}
+
+TEST_F(PageTabsTest, AClickTellsThePagesNumber) {
+  Click(2);
+  ASSERT_EQ(chosen.count(), 1);
+  EXPECT_EQ(chosen[0][0].toInt(), 4);
+}
+
+TEST_F(PageTabsTest, AClickOnTheTabInFrontTellsItToo) {
+  tabs.Select(QStringLiteral("key2"));
+  Click(1);
+  ASSERT_EQ(chosen.count(), 1);
+  EXPECT_EQ(chosen[0][0].toInt(), 2);
+}
+
+TEST_F(PageTabsTest, TheArrowKeysChooseToo) {
+  tabs.Select(QStringLiteral("key1"));
+  QTest::keyClick(&tabs, Qt::Key_Right);
+  ASSERT_EQ(chosen.count(), 1);
+  EXPECT_EQ(chosen[0][0].toInt(), 2);
+}
+
+TEST_F(PageTabsTest, WhatTheProgramDoesTellsNobody) {
+  tabs.Select(QStringLiteral("key4"));
+  EXPECT_EQ(tabs.currentIndex(), 2);
+  tabs.Remove(QStringLiteral("key4"));
+  tabs.Add(QStringLiteral("key5"), 1);
+  tabs.Clear();
+  EXPECT_EQ(tabs.count(), 0);
+  EXPECT_EQ(chosen.count(), 0);
+}
+
+}  // namespace
+}  // namespace velor

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "chrome/FrmFld.h"
+#include "platform/Paths.h"
+#include "platform/ProgramValues.h"
+#include "tests/support/Checks.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <gtest/gtest.h>
+
+namespace velor {
+namespace {
+
+class FolderPicker : public ::testing::Test {
+ protected:
+  FolderPicker() : picker_(values_) {
+    QDir(folder_.path()).mkpath(QStringLiteral("Sites/Bob's Site"));
+    QDir(folder_.path()).mkpath(QStringLiteral("Other"));
+    values_.ProjectFolderResult = QStringLiteral("\\project");
+    values_.ImageFolderPath = QStringLiteral("\\images");
+    picker_.show();
+  }
+
+  QComboBox &Drive1() { return *picker_.findChild<QComboBox *>(QStringLiteral("Drive1")); }
+  QTreeWidget &Dir1() { return *picker_.findChild<QTreeWidget *>(QStringLiteral("Dir1")); }
+  QPushButton &Button(const char *name) {
+    return *picker_.findChild<QPushButton *>(QString::fromLatin1(name));
+  }
+  QString Native(const QString &name) const { return QDir(folder_.path()).filePath(name); }
+
+  QTemporaryDir folder_;
+  ProgramValues values_;
+  FrmFld picker_;
+};
+
+TEST_F(FolderPicker, HasItsCaptionsAndNames) {
+  EXPECT_EQ(picker_.windowTitle(), QStringLiteral("Select Folder"));
+  EXPECT_EQ(Button("SSCommand1").text(), QStringLiteral("Ok"));
+  EXPECT_EQ(Button("SSCommand2").text(), QStringLiteral("Cancel"));
+  EXPECT_EQ(Drive1().accessibleName(), QStringLiteral("Drive"));
+  EXPECT_EQ(Dir1().accessibleName(), QStringLiteral("Folder"));
+  EXPECT_FALSE(picker_.ForProject);
+}
+
+TEST_F(FolderPicker, OffersTheRootAndTheHomeFolderAndStartsAtHome) {
+  EXPECT_GE(Drive1().findData(QStringLiteral("/")), 0);
+  EXPECT_GE(Drive1().findData(QDir::homePath()), 0);
+  EXPECT_EQ(picker_.SelectedFolder(), QDir::homePath());
+}
+
+TEST_F(FolderPicker, AChangedDriveShowsThatDrivesFolders) {
+  Drive1().setCurrentIndex(Drive1().findData(QStringLiteral("/")));
+  EXPECT_EQ(picker_.SelectedFolder(), QStringLiteral("/"));
+  QStringList names;
+  for (int index = 0; index < Dir1().topLevelItem(0)->childCount(); ++index) {
+    names << Dir1().topLevelItem(0)->child(index)->text(0);
+  }
+  EXPECT_TRUE(names.contains(QStringLiteral("usr")));
+}
+
+TEST_F(FolderPicker, FoldersOpenOnDemandAndFilesAreNotShown) {
+  QFile file(Native(QStringLiteral("Sites/Index.htm")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  picker_.SelectFolder(Native(QStringLiteral("Sites")));
+  QTreeWidgetItem *sites = Dir1().currentItem();
+  ASSERT_EQ(sites->text(0), QStringLiteral("Sites"));
+  ASSERT_EQ(sites->childCount(), 1);
+  EXPECT_EQ(sites->child(0)->text(0), QStringLiteral("Bob's Site"));
+}
+
+TEST_F(FolderPicker, OkStoresTheImageFolderWithoutATrailingSeparatorAndCloses) {
+  picker_.SelectFolder(Native(QStringLiteral("Sites/Bob's Site")));
+  Button("SSCommand1").click();
+  EXPECT_EQ(values_.ImageFolderPath, ToLogic(Native(QStringLiteral("Sites/Bob's Site"))));
+  EXPECT_EQ(values_.ProjectFolderResult, QStringLiteral("\\project"));
+  EXPECT_FALSE(picker_.isVisible());
+}
+
+TEST_F(FolderPicker, OkStoresTheProjectFolderWhenThatIsTheTarget) {
+  picker_.ForProject = true;
+  picker_.SelectFolder(Native(QStringLiteral("Other")));
+  Button("SSCommand1").click();
+  EXPECT_EQ(values_.ProjectFolderResult, ToLogic(Native(QStringLiteral("Other"))));
+  EXPECT_EQ(values_.ImageFolderPath, QStringLiteral("\\images"));
+}
+
+TEST_F(FolderPicker, TheRootKeepsItsSeparator) {
+  Drive1().setCurrentIndex(Drive1().findData(QStringLiteral("/")));
+  Button("SSCommand1").click();
+  EXPECT_EQ(values_.ImageFolderPath, QStringLiteral("\\"));
+}
+
+TEST_F(FolderPicker, CancelEmptiesTheMatchingResultOnlyAndCloses) {
+  Button("SSCommand2").click();
+  EXPECT_EQ(values_.ImageFolderPath, QString());
+  EXPECT_EQ(values_.ProjectFolderResult, QStringLiteral("\\project"));
+  EXPECT_FALSE(picker_.isVisible());
+}
+
+TEST_F(FolderPicker, CancelEmptiesTheProjectFolderWhenThatIsTheTarget) {
+  picker_.ForProject = true;
+  Button("SSCommand2").click();
+  EXPECT_EQ(values_.ProjectFolderResult, QString());
+  EXPECT_EQ(values_.ImageFolderPath, QStringLiteral("\\images"));
+}
+
+TEST_F(FolderPicker, EscapeAndTheCloseBoxCancel) {
+  QTest::keyClick(&picker_, Qt::Key_Escape);
+  EXPECT_EQ(values_.ImageFolderPath, QString());
+  values_.ImageFolderPath = QStringLiteral("\\images");
+  picker_.show();
+  picker_.close();
+  EXPECT_EQ(values_.ImageFolderPath, QString());
+}
+
+TEST_F(FolderPicker, EnterInTheFolderListMeansOk) {
+  picker_.SelectFolder(Native(QStringLiteral("Other")));
+  QTest::keyClick(&Dir1(), Qt::Key_Return);
+  EXPECT_EQ(values_.ImageFolderPath, ToLogic(Native(QStringLiteral("Other"))));
+  EXPECT_FALSE(picker_.isVisible());
+}
+
+}  // namespace
+}  // namespace velor
