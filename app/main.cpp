@@ -3,7 +3,6 @@
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/MfrmProgram.h"
 #include "chrome/Palette.h"
-#include "chrome/Palette.h"
 #include "platform/qt/QtComponents.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtFiles.h"
@@ -15,7 +14,6 @@ int main(int argc, char **argv) {
   using namespace velor;
   RegisterPageScheme();
   Application application(argv);
-  DressApplication(application);
   DressApplication(application);
 
   QtDialogs dialogs;

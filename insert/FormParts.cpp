@@ -20,6 +20,8 @@ namespace {
 constexpr int Margin = 14;
 constexpr int Spacing = 10;
 constexpr int NumberWidth = 90;
+/// What a frame's own edge takes.
+constexpr int FrameEdge = 3;
 
 void Arrange(QFormLayout &form) {
   form.setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -33,6 +35,8 @@ template <typename Row>
 void AddRow(QFormLayout *form, const QString &label, Row *row, QWidget *control) {
   auto *labelWidget = new QLabel(label);
   labelWidget->setBuddy(control);
+  // Forms align labels to the top of their row; as high as the box they stand in its middle.
+  labelWidget->setMinimumHeight(control->sizeHint().height());
   form->addRow(labelWidget, row);
 }
 
@@ -54,7 +58,7 @@ QFormLayout *AddForm(QVBoxLayout *page) {
   auto *form = new QFormLayout;
   Arrange(*form);
   // As far in as the forms within frames are.
-  form->setContentsMargins(Margin, 0, Margin, 0);
+  form->setContentsMargins(Margin + FrameEdge, 0, Margin + FrameEdge, 0);
   page->addLayout(form);
   return form;
 }
@@ -119,6 +123,13 @@ QPushButton *MakeButton(const QString &name, const QString &caption) {
   Name(*button, name, caption);
   button->setAutoDefault(false);
   return button;
+}
+
+void AddButton(QFormLayout *form, QPushButton *button) {
+  auto *row = new QHBoxLayout;
+  row->addWidget(button);
+  row->addStretch();
+  form->addRow(row);
 }
 
 void AddButtonRow(QVBoxLayout *window, std::initializer_list<QPushButton *> buttons) {

@@ -45,6 +45,8 @@ QComboBox *AddComboBox(QFormLayout *form, const QString &name, const QString &la
 QCheckBox *AddCheckBox(QFormLayout *form, const QString &name, const QString &caption);
 /// A button that answers Enter only once it is made the default.
 QPushButton *MakeButton(const QString &name, const QString &caption);
+/// A button on a row of its own, no wider than it must be.
+void AddButton(QFormLayout *form, QPushButton *button);
 /// The row of buttons that ends a window; the first one is the default.
 void AddButtonRow(QVBoxLayout *window, std::initializer_list<QPushButton *> buttons);
 

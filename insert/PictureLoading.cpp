@@ -10,8 +10,18 @@
 namespace velor {
 namespace {
 
-/// Pictures of more pixels are not decoded at full size only to be shown small.
-constexpr qint64 LargestFullDecode = 40'000'000;
+/// Bytes that a preview may take while it is decoded; more would keep the person waiting and come
+/// near the limit that the image reader sets itself.
+constexpr qint64 LargestDecode = 96 * 1024 * 1024;
+
+/// Whether a preview costs more than it is worth. JPEG alone is decoded at the wanted size; other
+/// formats go through every pixel.
+bool IsTooLargeToPreview(const QImageReader &reader, QSize size) {
+  if (reader.format() == "jpeg") return false;
+  const bool known = reader.imageFormat() != QImage::Format_Invalid;
+  const int bits = known ? QImage::toPixelFormat(reader.imageFormat()).bitsPerPixel() : 32;
+  return qint64{size.width()} * size.height() * bits / 8 > LargestDecode;
+}
 
 QSize FittedSize(QSize size, QSize bounds) {
   const bool fits = size.width() <= bounds.width() && size.height() <= bounds.height();
@@ -35,10 +45,7 @@ LoadedPicture LoadPicture(const QString &path, QSize bounds) {
   reader.setAutoTransform(true);
   const QSize stored = reader.size();
   if (stored.isValid()) {
-    const qint64 area = qint64{stored.width()} * stored.height();
-    if (area > LargestFullDecode && !reader.supportsOption(QImageIOHandler::ScaledSize)) {
-      return {Turned(stored, reader), {}};
-    }
+    if (IsTooLargeToPreview(reader, stored)) return {Turned(stored, reader), {}};
     reader.setScaledSize(FittedSize(stored, Turned(bounds, reader)));
   }
   QImage image = reader.read();

@@ -12,7 +12,7 @@ struct LoadedPicture {
   /// The picture's own size in pixels, upright; empty for no picture.
   QSize pixels;
   /// Scaled to fit the bounds asked for, never enlarged. Null where only the size is known: a very
-  /// large picture in a format that can be decoded at full size only.
+  /// large picture in a format that is decoded at full size.
   QImage preview;
 };
 

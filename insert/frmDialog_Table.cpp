@@ -16,6 +16,8 @@
 namespace velor {
 namespace {
 
+constexpr int ComfortableWidth = 360;
+
 /// Takes any text; its list is filled anew, below the text that stands there, each time it drops
 /// down.
 class AlignmentBox : public QComboBox {
@@ -84,6 +86,7 @@ frmDialog_Table::frmDialog_Table(ProgramValues &values, QWidget *parent)
   window->addWidget(new QLabel(QStringLiteral("Table Setup:")));
   window->addWidget(TabStrip1, 1);
   FormParts::AddButtonRow(window, {Command1, Command2});
+  setMinimumWidth(ComfortableWidth);
   Text1->setFocus();
 }
 

@@ -169,13 +169,20 @@ void frmInsertElement::ShowPicture(const QString &file) {
   const qreal ratio = devicePixelRatioF();
   const LoadedPicture picture = LoadPicture(file, picPreview->contentsRect().size() * ratio);
   picture_ = PictureSize::OfPixels(picture.pixels.height(), picture.pixels.width());
-  QPixmap pixmap = QPixmap::fromImage(picture.preview);
-  pixmap.setDevicePixelRatio(ratio);
-  picPreview->setPixmap(pixmap);
-  previewCaption_->setText(picture.pixels.isEmpty() ? QString()
-                                                    : QStringLiteral("%1 × %2 pixels")
-                                                          .arg(picture.pixels.width())
-                                                          .arg(picture.pixels.height()));
+  if (picture.pixels.isEmpty()) {
+    picPreview->clear();
+    previewCaption_->clear();
+    return;
+  }
+  if (picture.preview.isNull()) {
+    picPreview->setText(QStringLiteral("Too large for a preview"));
+  } else {
+    QPixmap pixmap = QPixmap::fromImage(picture.preview);
+    pixmap.setDevicePixelRatio(ratio);
+    picPreview->setPixmap(pixmap);
+  }
+  previewCaption_->setText(
+      QStringLiteral("%1 × %2 pixels").arg(picture.pixels.width()).arg(picture.pixels.height()));
 }
 
 void frmInsertElement::AskForMailAddress() {

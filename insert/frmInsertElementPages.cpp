@@ -19,6 +19,7 @@ namespace {
 using namespace FormParts;
 
 constexpr QSize PreviewBounds(320, 180);
+constexpr int ComfortableWidth = 600;
 
 /// "Botton" goes into pages as it stands and is never corrected.
 const QStringList Alignments = {
@@ -40,17 +41,19 @@ void AddBookmarkList(QFormLayout *form, const QString &name, const QString &labe
   title->setBuddy(list);
   form->addRow(title);
   form->addRow(list);
-  form->addRow(MakeButton(refreshName, QStringLiteral("&Refresh")));
+  AddButton(form, MakeButton(refreshName, QStringLiteral("&Refresh")));
 }
 
-/// Two pages, "General" and "Appearance", filled by the callers.
+/// A page that holds two, "General" and "Appearance", filled by the callers.
 struct HalvedPage {
-  QTabWidget *tabs;
+  QWidget *whole = new QWidget;
   QVBoxLayout *general;
   QVBoxLayout *appearance;
 
-  HalvedPage(const QString &name, const QString &label) : tabs(new QTabWidget) {
+  HalvedPage(const QString &name, const QString &label) {
+    auto *tabs = new QTabWidget;
     Name(*tabs, name, label);
+    MakePage(whole)->addWidget(tabs);
     auto *generalPage = new QWidget;
     auto *appearancePage = new QWidget;
     general = MakePage(generalPage);
@@ -76,6 +79,7 @@ void frmInsertElement::Build() {
   SSTab1->addTab(BuildTargetPage(), QStringLiteral("Target"));
   SSTab1->addTab(BuildVideoPage(), QStringLiteral("Video"));
   for (int i = 0; i < SSTab1->count(); ++i) AlignLabels(SSTab1->widget(i));
+  setMinimumWidth(ComfortableWidth);
   AddButtonRow(window, {MakeButton(QStringLiteral("cmdOK"), QStringLiteral("OK")),
                         MakeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"))});
 }
@@ -129,7 +133,7 @@ QWidget *frmInsertElement::BuildImagePage() {
     box->setEnabled(false);
   }
   firstBoxes_[0] = txtImgSource;
-  return page.tabs;
+  return page.whole;
 }
 
 QWidget *frmInsertElement::BuildHyperlinkPage() {
@@ -146,7 +150,7 @@ QWidget *frmInsertElement::BuildHyperlinkPage() {
       AddTextBox(link, QStringLiteral("txtHref"), QStringLiteral("Anchor Element Href:"), browse);
   AddComboBox(link, QStringLiteral("cobATarget"), QStringLiteral("Target Frame:"), TargetFrames);
   QFormLayout *special = AddFrame(rows, QStringLiteral("Special Links:"));
-  special->addRow(mail);
+  AddButton(special, mail);
   AddBookmarkList(special, QStringLiteral("lstABookMark"),
                   QStringLiteral("Link to a Bookmark (Target):"), QStringLiteral("cmdRefreshA"));
   firstBoxes_[1] = txtHref;
@@ -203,7 +207,7 @@ QWidget *frmInsertElement::BuildVideoPage() {
   page.appearance->addStretch();
 
   for (TextBox *box : {txtVIDHeight, txtVIDWidth}) box->RepairNumberTo(pixels);
-  return page.tabs;
+  return page.whole;
 }
 
 }  // namespace velor

@@ -13,7 +13,8 @@ enum class NameOrigin {
 };
 
 /// Files as the logic sees them: paths in logic form (Paths.h), every failure a RuntimeError with
-/// the number mapped from the system's, naming the file. Implementations: platform/qt, and a fake
+/// the number mapped from the system's, naming the file; where the drive or the folder itself is
+/// missing the number is 76 throughout. Implementations: platform/qt, and a fake
 /// in memory for tests; one contract suite runs against both.
 class Files {
  public:
@@ -34,9 +35,9 @@ class Files {
   /// Whether files can be created in the folder that `path` lies in.
   virtual bool FolderWritable(const QString &path) const = 0;
 
-  /// The whole content. Raises 53 (missing), 76 (drive or folder missing), 75 (a folder, or no access).
-  virtual QByteArray ReadAll(const QString &path,
-                             NameOrigin origin = NameOrigin::Chosen) const = 0;
+  /// The whole content. Raises 53 (missing), 76 (drive or folder missing), 75 (a folder, or no
+  /// access).
+  virtual QByteArray ReadAll(const QString &path, NameOrigin origin = NameOrigin::Chosen) const = 0;
 
   /// Creates the file or replaces its whole content so that at every moment the old or the new
   /// content is there, whole: written to a sibling, synced and renamed over it; mode, owner and

@@ -15,8 +15,7 @@ class RowTable;
 class ListControl {
  public:
   virtual ~ListControl() = default;
-  /// The table to show. It is kept, not copied: it lives as long as the list, and a change of it
-  /// shows after ReBind.
+  /// The table to show. A change of it shows after ReBind, to whose end it must live.
   virtual void SetArray(const RowTable &table) = 0;
   /// Reads the table's shape and content anew.
   virtual void ReBind() = 0;

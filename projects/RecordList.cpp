@@ -6,26 +6,31 @@
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
+#include <QStyledItemDelegate>
+
+#include <utility>
 
 namespace velor {
 
-/// The table as the view reads it; its shape is that of the last Rebuild.
+/// The table as the view reads it.
 class RowTableModel : public QAbstractTableModel {
  public:
   RowTableModel(QStringList headings, QObject *parent)
       : QAbstractTableModel(parent), headings_(std::move(headings)) {}
 
-  void SetTable(const RowTable &table) { table_ = &table; }
+  void SetTable(const RowTable &table) { source_ = &table; }
 
   void Rebuild() {
     beginResetModel();
-    rows_ = table_ ? table_->HighestRow() : 0;
+    table_ = *source_;
     endResetModel();
   }
 
-  QVariant Value(int row, int column) const { return table_->At(row + 1, column); }
+  QVariant Value(int row, int column) const { return table_.At(row + 1, column); }
 
-  int rowCount(const QModelIndex &parent) const override { return parent.isValid() ? 0 : rows_; }
+  int rowCount(const QModelIndex &parent) const override {
+    return parent.isValid() ? 0 : table_.HighestRow();
+  }
   int columnCount(const QModelIndex &parent) const override {
     return parent.isValid() ? 0 : static_cast<int>(headings_.size());
   }
@@ -41,13 +46,30 @@ class RowTableModel : public QAbstractTableModel {
 
  private:
   const QStringList headings_;
-  const RowTable *table_ = nullptr;
-  int rows_ = 0;
+  const RowTable *source_ = &table_;
+  /// As of the last Rebuild, so that the view does not depend on when the source changes or goes.
+  RowTable table_;
 };
+
+namespace {
+
+/// Rows with room around their texts.
+class RoomyDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
+    constexpr QSize Room(14, 8);
+    return QStyledItemDelegate::sizeHint(option, index) + Room;
+  }
+};
+
+}  // namespace
 
 RecordList::RecordList(const QStringList &headings, int nameColumn)
     : model_(new RowTableModel(headings, this)) {
   setModel(model_);
+  setItemDelegate(new RoomyDelegate(this));
   setRootIsDecorated(false);
   setItemsExpandable(false);
   setUniformRowHeights(true);

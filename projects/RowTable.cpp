@@ -6,20 +6,19 @@
 namespace velor {
 
 int RowTable::AppendRow() {
-  values_.resize(values_.size() + static_cast<std::size_t>(columns_));
+  values_.resize(values_.size() + columns_);
   return HighestRow();
 }
 
 int RowTable::HighestRow() const {
-  return columns_ == 0 ? 0 : static_cast<int>(values_.size()) / columns_;
+  return columns_ == 0 ? 0 : static_cast<int>(values_.size() / columns_);
 }
 
-std::size_t RowTable::Index(int row, int column) const {
+qsizetype RowTable::Index(int row, int column) const {
   if (row < 1 || row > HighestRow() || column < 0 || column >= columns_) {
     throw RuntimeError::Of(ErrorNumber::SubscriptOutOfRange, QStringLiteral("RowTable"));
   }
-  return static_cast<std::size_t>(row - 1) * static_cast<std::size_t>(columns_) +
-         static_cast<std::size_t>(column);
+  return qsizetype{row - 1} * columns_ + column;
 }
 
 }  // namespace velor

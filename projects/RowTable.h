@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
 #include <QVariant>
-
-#include <vector>
 
 namespace velor {
 
 /// A table of values in memory: rows from 1, columns from 0. Reading or writing outside it is error
-/// 9 (SubscriptOutOfRange).
+/// 9 (SubscriptOutOfRange). Copies share their values until one of them changes.
 class RowTable {
  public:
   /// Columns 0 to `highestColumn` and no rows.
@@ -25,10 +24,10 @@ class RowTable {
   const QVariant &At(int row, int column) const { return values_[Index(row, column)]; }
 
  private:
-  std::size_t Index(int row, int column) const;
+  qsizetype Index(int row, int column) const;
 
   int columns_;
-  std::vector<QVariant> values_;
+  QList<QVariant> values_;
 };
 
 }  // namespace velor

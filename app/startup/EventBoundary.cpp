@@ -91,7 +91,10 @@ void EventBoundary::Report(const std::exception &error, Consequence consequence)
   }
 }
 
-Application::Application(char **arguments) : QApplication(OnlyTheName(), arguments) {}
+Application::Application(char **arguments) : QApplication(OnlyTheName(), arguments) {
+  // Start-up shows and closes boxes before there is a main window.
+  setQuitOnLastWindowClosed(false);
+}
 
 bool Application::notify(QObject *receiver, QEvent *event) {
   try {

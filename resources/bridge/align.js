@@ -24,10 +24,9 @@
   }
 
   function clear(element) {
+    velor.history.attributesOf(element);
     element.removeAttribute('align');
-    if (!element.style.textAlign) return;
-    element.style.removeProperty('text-align');
-    if (!element.getAttribute('style')) element.removeAttribute('style');
+    if (element.style.textAlign) velor.takeDeclaration(element, 'text-align');
   }
 
   // Bare text in the body becomes a paragraph; in a cell or an item, where a paragraph would bring

@@ -65,6 +65,8 @@
     document.execCommand('enableObjectResizing', false, 'false');
     document.addEventListener('visibilitychange', pushWhenHidden);
     velor.selection.ensure();
+    // Without a focused element the engine drops typed characters until the first click.
+    if (velor.editable()) document.body.focus({ preventScroll: true });
     velor.history.start();
     velor.pending.clear();
     velor.listenToKeys();

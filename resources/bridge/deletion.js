@@ -83,6 +83,35 @@
     blocks.forEach(holdOpen);
   }
 
+  // Two blanks would show as one where texts meet.
+  function keepBlanks(node, offset) {
+    const blank = (text, at) => dom.isText(text) && /[ \n]/.test(text.data[at] ?? '');
+    let next = node;
+    let at = offset;
+    if (at === node.length) [next, at] = [node.nextSibling, 0];
+    if (blank(node, offset - 1) && blank(next, at)) next.replaceData(at, 1, '\u00a0');
+  }
+
+  // Deletes what is selected in one paragraph, as it stands; leaves a caret.
+  function cut(range) {
+    const block = dom.blockOf(range.startContainer);
+    const ends = [range.startContainer, range.endContainer];
+    range.deleteContents();
+    for (const end of ends) {
+      let at = dom.isText(end) && !end.length ? end : end.parentNode;
+      if (dom.isText(end) && !end.length) {
+        at = end.parentNode;
+        end.remove();
+      }
+      while (at?.isConnected && dom.isInline(at) && !dom.isAtom(at) && !at.hasChildNodes()) {
+        const { parentNode } = at;
+        at.remove();
+        at = parentNode;
+      }
+    }
+    holdOpen(block);
+  }
+
   // Deletes what is selected, whatever it spans; leaves a caret.
   function remove(range) {
     const object = velor.selection.control(range);
@@ -110,10 +139,10 @@
     }
     between.deleteContents();
     const start = startContainer.isConnected ? [startContainer, startOffset] : [first.container, 0];
-    const second2 = second.container.isConnected ? second : null;
-    if (second2) join(first, second2);
+    if (second.container.isConnected) join(first, second);
     else removeEmptied(endContainer);
     holdOpen(first.container);
+    if (dom.isText(start[0])) keepBlanks(...start);
     velor.selection.setCaret(...start);
   }
 
@@ -214,5 +243,5 @@
     velor.selection.restore(kept);
   }
 
-  velor.deletion = { remove, spansUnits, joining };
+  velor.deletion = { remove, cut, spansUnits, joining };
 })();

@@ -59,6 +59,22 @@
     return '#FFFFFF';
   }
 
+  // The declarations of an inline style as they were written; CSSOM would write all of them anew.
+  const declarations = (element) =>
+    (element.getAttribute('style') ?? '').match(/(?:[^;"'(]|"[^"]*"|'[^']*'|\([^)]*\))+/g) ?? [];
+  const isOf = (property) => (declaration) =>
+    declaration.slice(0, declaration.indexOf(':')).trim().toLowerCase() === property;
+
+  function takeDeclaration(element, property) {
+    const all = declarations(element);
+    const left = all.filter((declaration) => !isOf(property)(declaration));
+    // A shorthand holds it.
+    if (left.length === all.length) element.style.removeProperty(property);
+    else if (left.length) element.setAttribute('style', left.join(';').trim());
+    else element.removeAttribute('style');
+    if (!element.getAttribute('style')) element.removeAttribute('style');
+  }
+
   // read(element): the value of text in it. tags: elements that are nothing but the format.
   // attribute: FONT's. property: of an inline style. write(value): the element to put around text.
   // refuse: the style that switches it off where no element of the text's own carries it.
@@ -75,15 +91,14 @@
         if (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) {
           return create('FONT', { [entry.attribute]: element.getAttribute(entry.attribute) });
         }
+        const written = declarations(element).find(isOf(entry.property))?.trim();
         const value = element.style.getPropertyValue(entry.property);
-        return create('SPAN', { style: `${entry.property}: ${value}` });
+        return create('SPAN', { style: written ?? `${entry.property}: ${value}` });
       },
       // Takes the format off the element; tells what is left of it.
       strip(element) {
-        if (element.style.getPropertyValue(entry.property)) {
-          element.style.removeProperty(entry.property);
-          if (!element.getAttribute('style')) element.removeAttribute('style');
-        }
+        velor.history.attributesOf(element);
+        if (element.style.getPropertyValue(entry.property)) takeDeclaration(element, entry.property);
         if (element.tagName === 'FONT') element.removeAttribute(entry.attribute);
         if (tags.has(element.tagName)) {
           if (element.attributes.length) velor.dom.rename(element, 'SPAN');
@@ -139,4 +154,5 @@
   }
 
   velor.formats = formats;
+  velor.takeDeclaration = takeDeclaration;
 })();

@@ -42,29 +42,72 @@
     if (value === null) element.removeAttributeNS(space, name);
     else element.setAttributeNS(space, name, value);
   }
-  const attributeChange = (element, space, name, old) => ({
+  // An attribute that is put back would come last; the page's text has it where it was.
+  function orderAttributes(element, names) {
+    if (!names || element.getAttributeNames().join() === names.join()) return;
+    const attributes = names.map((name) => element.getAttributeNode(name)).filter(Boolean);
+    for (const attribute of attributes) {
+      element.removeAttributeNode(attribute);
+      element.setAttributeNode(attribute);
+    }
+  }
+  const attributeChange = (element, space, name, old, names) => ({
     weight: 0,
     seal() {
       this.now = element.getAttributeNS(space, name);
+      this.names = element.getAttributeNames();
       this.weight = (old?.length ?? 0) + (this.now?.length ?? 0) + nodeWeight;
     },
-    undo() { putAttribute(element, space, name, old); },
-    redo() { putAttribute(element, space, name, this.now); },
+    undo() {
+      putAttribute(element, space, name, old);
+      orderAttributes(element, names);
+    },
+    redo() {
+      putAttribute(element, space, name, this.now);
+      orderAttributes(element, this.names);
+    },
   });
 
   function exchange(parent, gone, come, next) {
     for (const node of gone) if (node.parentNode === parent) node.remove();
     for (const node of come) parent.insertBefore(node, next?.parentNode === parent ? next : null);
   }
+  // What hangs under nodes that leave the document. The observer does not see what goes into a tree
+  // before that tree comes into the document; taking the step back pulls such nodes out again, and
+  // doing it again needs them where they were.
+  const hangings = (nodes) => {
+    const parents = [];
+    const collect = (node) => {
+      if (!node.hasChildNodes()) return;
+      parents.push([node, [...node.childNodes]]);
+      node.childNodes.forEach(collect);
+    };
+    nodes.forEach(collect);
+    return parents;
+  };
+  const hang = (parents) => {
+    for (const [parent, children] of parents) {
+      const same = parent.childNodes.length === children.length &&
+        children.every((child, index) => child === parent.childNodes[index]);
+      if (!same) parent.replaceChildren(...children);
+    }
+  };
   const childChange = ({ target, addedNodes, removedNodes, nextSibling }) => ({
     weight: nodeWeight * (1 + addedNodes.length + removedNodes.length),
     seal() {},
-    undo() { exchange(target, addedNodes, removedNodes, nextSibling); },
-    redo() { exchange(target, removedNodes, addedNodes, nextSibling); },
+    undo() {
+      this.under = hangings(addedNodes);
+      exchange(target, addedNodes, removedNodes, nextSibling);
+    },
+    redo() {
+      for (const node of removedNodes) if (node.parentNode === target) node.remove();
+      hang(this.under);
+      exchange(target, [], addedNodes, nextSibling);
+    },
   });
 
   const begin = (kind, before = points()) => {
-    open = { kind, before, after: before, changes: [], seen: new Map(), weight: 0 };
+    open = { kind, before, after: before, changes: [], seen: new Map(), names: new Map(), weight: 0 };
   };
 
   // Within a step the first value of a text or an attribute is the one to go back to.
@@ -81,7 +124,7 @@
       if (firstOf(target, '')) open.changes.push(textChange(target, oldValue));
     } else if (firstOf(target, record.attributeNamespace + ' ' + record.attributeName)) {
       open.changes.push(attributeChange(
-        target, record.attributeNamespace, record.attributeName, oldValue));
+        target, record.attributeNamespace, record.attributeName, oldValue, open.names.get(target)));
     }
   }
 
@@ -113,6 +156,7 @@
     step.changes.forEach((change) => change.seal());
     step.weight = step.changes.reduce((sum, change) => sum + change.weight, 0);
     delete step.seen;
+    delete step.names;
     undoable.push(step);
     forgetOldest();
   }
@@ -174,6 +218,10 @@
         subtree: true, childList: true, attributes: true, attributeOldValue: true,
         characterData: true, characterDataOldValue: true,
       });
+    },
+    // To be told before a step takes an attribute off an element of the page.
+    attributesOf(element) {
+      if (open && !open.names.has(element)) open.names.set(element, element.getAttributeNames());
     },
     step, expect, arrive, settle, finish,
     undo() { travel(undoable, redoable, 'undo', 'before'); },

@@ -101,7 +101,6 @@
     const kind = kindOf(event);
     velor.history.expect(kind, joins(event, kind));
     if (inputType.startsWith('insert') && kind !== 'drag') work(() => prepareInsertion(event));
-    if (kind === 'typing') velor.pending.typingBegins();
   }
 
   // A split paragraph leaves its id with the first half only.
@@ -117,14 +116,14 @@
   function input(event) {
     if (velor.working) return;
     if (event.inputType === 'insertParagraph') dropDoubledId();
-    if (typing.has(event.inputType) && !event.isComposing) work(velor.pending.typingEnds);
+    if (event.inputType === 'insertText') work(() => velor.pending.typed(event.data));
     velor.pending.moved();
     velor.history.arrive();
     velor.schedulePush();
   }
 
-  function compositionEnd() {
-    work(velor.pending.typingEnds);
+  function compositionEnd({ data }) {
+    work(() => velor.pending.typed(data));
     velor.history.arrive();
   }
 

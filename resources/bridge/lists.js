@@ -59,6 +59,7 @@
   function alignInside(item) {
     const side = item.getAttribute('align');
     if (!side) return;
+    velor.history.attributesOf(item);
     item.removeAttribute('align');
     const division = dom.create('DIV', { align: side });
     division.append(...item.childNodes);
@@ -127,6 +128,7 @@
       dom.unwrap(item);
       return [paragraph];
     }
+    velor.history.attributesOf(item);
     for (const name of ['value', 'type']) item.removeAttribute(name);
     if (!shown.some(dom.isBlock)) return [dom.rename(item, 'P')];
     const blocks = [];

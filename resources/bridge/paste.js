@@ -103,11 +103,19 @@
 
   const holdsBlock = (fragment) => [...fragment.querySelectorAll('*')].some(dom.isBlock);
 
+  function makeRoom(range, fragment) {
+    const { deletion, selection } = velor;
+    const whole = !fragment.firstChild || selection.control(range) || deletion.spansUnits(range);
+    if (range.collapsed) return;
+    if (whole) deletion.remove(range);
+    else deletion.cut(range);
+  }
+
   velor.pasteHTML = (html) => velor.history.step('pasteHTML', () => {
     if (!velor.editable()) return;
     velor.selection.ensure();
-    if (!velor.selection.range().collapsed) velor.deletion.remove(velor.selection.range());
     const fragment = parse(html);
+    makeRoom(velor.selection.range(), fragment);
     if (!fragment.firstChild) return;
     const { startContainer, startOffset } = velor.selection.range();
     if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);

@@ -27,7 +27,7 @@
   }
 
   function selectNode(node) {
-    const index = [...node.parentNode.childNodes].indexOf(node);
+    const index = indexOf(node);
     document.getSelection().setBaseAndExtent(node.parentNode, index, node.parentNode, index + 1);
   }
 
@@ -78,41 +78,43 @@
     return texts;
   }
 
+  const isOpen = (node) =>
+    isElement(node) && !isAtom(node) && !isNeutral(node) && !velor.dom.isBreak(node);
+  const indexOf = (node) => [...node.parentNode.childNodes].indexOf(node);
+
   // A place that survives the wrapping, unwrapping and renaming of elements around it: it clings to
-  // a text or to an object. `inward` tells which side of the place belongs to the selection.
+  // a text, to one side of an object, or to an element without content.
   function mark(node, offset, inward) {
     if (isText(node)) return { node, offset };
     const after = node.childNodes[offset];
     const before = node.childNodes[offset - 1];
-    if (after && (inward === 'after' || !before)) {
-      const leaf = firstLeaf(after);
-      return isText(leaf) ? { node: leaf, offset: 0 } : { before: leaf };
-    }
-    if (before) {
-      const leaf = lastLeaf(before);
-      return isText(leaf) ? { node: leaf, offset: leaf.length } : { after: leaf };
-    }
-    return { inside: node };
+    const child = after && (inward === 'after' || !before) ? after : before;
+    if (!child) return { inside: node };
+    const leaf = child === after ? firstLeaf(after) : lastLeaf(before);
+    if (isText(leaf)) return { node: leaf, offset: child === after ? 0 : leaf.length };
+    return isOpen(leaf) ? { inside: leaf } : { beside: leaf, side: child === after ? 0 : 1 };
   }
 
   function place(kept) {
     if (kept.node) return [kept.node, Math.min(kept.offset, kept.node.length)];
-    const node = velor.dom.successor(kept.before || kept.after || kept.inside);
-    if (isText(node)) return [node, kept.after ? node.length : 0];
-    const open = isElement(node) && !isAtom(node) && !isNeutral(node) && !velor.dom.isBreak(node);
-    if (kept.inside || open) return [node, 0];
-    const index = [...node.parentNode.childNodes].indexOf(node);
-    return [node.parentNode, kept.before ? index : index + 1];
+    if (kept.beside) return [kept.beside.parentNode, indexOf(kept.beside) + kept.side];
+    return [velor.dom.successor(kept.inside), 0];
   }
 
   function keep() {
     const { anchorNode, anchorOffset, focusNode, focusOffset } = points();
-    if (!anchorNode) return null;
-    const { startContainer, startOffset, collapsed } = range() || document.createRange();
-    const forward = collapsed || (anchorNode === startContainer && anchorOffset === startOffset);
+    const selected = range();
+    if (!selected) return null;
+    const forward = selected.collapsed ||
+      (anchorNode === selected.startContainer && anchorOffset === selected.startOffset);
+    const object = control(selected);
+    if (object) {
+      const side = forward ? 0 : 1;
+      return { anchor: { beside: object, side }, focus: { beside: object, side: 1 - side } };
+    }
     return {
       anchor: mark(anchorNode, anchorOffset, forward ? 'after' : 'before'),
-      focus: mark(focusNode, focusOffset, forward && !collapsed ? 'before' : 'after'),
+      focus: mark(focusNode, focusOffset, forward && !selected.collapsed ? 'before' : 'after'),
     };
   }
 
@@ -151,16 +153,15 @@
       leaf = node;
       break;
     }
-    const [node, offset] = place(isAtom(leaf) || velor.dom.isBreak(leaf)
-      ? { before: leaf } : isText(leaf) ? { node: leaf, offset: 0 } : { inside: leaf });
-    setCaret(node, offset);
+    if (isText(leaf) || isOpen(leaf)) setCaret(leaf, 0);
+    else setCaret(leaf.parentNode, indexOf(leaf));
   }
 
   // A place as numbers, the last one an offset, that holds in a fresh parse of the same document:
   // neighbouring texts count as one node.
   function path(node, offset) {
     const numbers = [];
-    const indexOf = (child) => {
+    const mergedIndexOf = (child) => {
       let index = 0;
       for (let at = child.previousSibling; at; at = at.previousSibling) {
         if (!isText(at) || !isText(at.nextSibling)) index++;
@@ -172,10 +173,10 @@
       numbers.unshift(offset);
     } else {
       const child = node.childNodes[offset];
-      numbers.unshift(child ? indexOf(child) : node.childNodes.length);
+      numbers.unshift(child ? mergedIndexOf(child) : node.childNodes.length);
     }
     for (let at = node; at.parentNode && at !== document.documentElement; at = at.parentNode) {
-      numbers.unshift(indexOf(at));
+      numbers.unshift(mergedIndexOf(at));
     }
     return numbers;
   }
@@ -206,6 +207,6 @@
 
   velor.selection = {
     textLimit, range, control, selectNode, points, samePoints, select, setCaret, leavesIn, textsIn,
-    keep, restore, element, caretElement, ensure,
+    keep, restore, element, caretElement, ensure, indexOf,
   };
 })();

@@ -14,7 +14,6 @@ class ExitTest : public WindowFixture {
  protected:
   frmMain &ChangedPage() {
     frmMain &page = NewPage();
-    Component(page).CompleteDocument();
     Component(page).Edit(QStringLiteral("<p>changed</p>"));
     return page;
   }

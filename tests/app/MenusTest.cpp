@@ -32,22 +32,46 @@ QString Tree(const QList<QAction *> &items) {
 
 using MenusTest = WindowFixture;
 
-TEST_F(MenusTest, TheMenuBarHoldsExactlyThisTree){EXPECT_EQ(
-    Tree(window.menuBar()->actions()).toStdString(),
-    R"tree(mnuFile_Top "File (&F)" mnuNew "New Document(&N)" Ctrl + N mnuOpen "Open... (&O)" Ctrl +
-        O mnuSave "Save (&S)" Ctrl +
-        S mnuSaveAs "Save As... (&A)" F12 mnu1 "-" mnuExit "Exit (&X)" mnuEdit_Top
-                    "Edit (&E)" disabled mnuUndo "Undo (&U)" mnuRedo "Redo (&R)" mnu3 "-" mnuCut
-                    "&Cut" mnuCopy "&Copy" mnuPaste "&Paste" mnuDelete "&Delete" mnuSelectAll
-                    "&Select All" mnuView_Top "View (&V)" mnuView_menustyle
-                    "Menu Style (&M)" mnuView_MenuOption "Menu Option... (&O)" mnuView_CusMenu
-                    "Customize... (&C)" mnu5 "-" mnuView_style "Sky Blue"[1] mnuView_style
-        "Clear XP Style"[2] mnuView_ProjectMan
-        "Project Manager" mnuDetail "Show Detail (&D)" mnuInsert "Insert (&I)" disabled mnuISTimage
-        "Image" mnuISTlink "Hyperlink" mnuTable "Table (&A)" disabled mnuTBLnew
-        "Insert Table" mnuWindow "Window (&W)" mnuWindowCascade
-        "Cascade (&C)" mnuWindowTileHorizontal "Horizontal (&H)" mnuWindowTileVertical
-        "Vertical (&V)" mnuHelp_Top "Help (&H)" mnuAbout "About" mnuhelp "Help") ");
+TEST_F(MenusTest, TheMenuBarHoldsExactlyThisTree) {
+  EXPECT_EQ(Tree(window.menuBar()->actions()).toStdString(),
+            R"tree(mnuFile_Top "File (&F)"
+  mnuNew "New Document(&N)" Ctrl+N
+  mnuOpen "Open... (&O)" Ctrl+O
+  mnuSave "Save (&S)" Ctrl+S
+  mnuSaveAs "Save As... (&A)" F12
+  mnu1 "-"
+  mnuExit "Exit (&X)"
+mnuEdit_Top "Edit (&E)" disabled
+  mnuUndo "Undo (&U)"
+  mnuRedo "Redo (&R)"
+  mnu3 "-"
+  mnuCut "&Cut"
+  mnuCopy "&Copy"
+  mnuPaste "&Paste"
+  mnuDelete "&Delete"
+  mnuSelectAll "&Select All"
+mnuView_Top "View (&V)"
+  mnuView_menustyle "Menu Style (&M)"
+    mnuView_MenuOption "Menu Option... (&O)"
+      mnuView_CusMenu "Customize... (&C)"
+    mnu5 "-"
+    mnuView_style "Sky Blue"[1]
+    mnuView_style "Clear XP Style"[2]
+  mnuView_ProjectMan "Project Manager"
+  mnuDetail "Show Detail (&D)"
+mnuInsert "Insert (&I)" disabled
+  mnuISTimage "Image"
+  mnuISTlink "Hyperlink"
+mnuTable "Table (&A)" disabled
+  mnuTBLnew "Insert Table"
+mnuWindow "Window (&W)"
+  mnuWindowCascade "Cascade (&C)"
+  mnuWindowTileHorizontal "Horizontal (&H)"
+  mnuWindowTileVertical "Vertical (&V)"
+mnuHelp_Top "Help (&H)"
+  mnuAbout "About"
+  mnuhelp "Help"
+)tree");
 }
 
 TEST_F(MenusTest, TheContextMenuHoldsExactlyThisTree) {

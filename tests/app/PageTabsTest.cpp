@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/PageTabs.h"
-#include "platform/RuntimeError.h"
+#include "tests/support/Checks.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -35,16 +35,6 @@ class PageTabsTest : public ::testing::Test {
   PageTabs tabs{nullptr};
   QSignalSpy chosen{&tabs, &PageTabs::PageChosen};
 };
-
-template <typename Call>
-ErrorNumber ErrorOf(Call call) {
-  try {
-    call();
-  } catch (const RuntimeError &error) {
-    return error.Number();
-  }
-  return ErrorNumber::None;
-}
 
 TEST_F(PageTabsTest, KeepsTheOrderInWhichPagesCame) {
   EXPECT_EQ(Captions().join(u' ').toStdString(), "one.htm two.htm four.htm");

@@ -77,7 +77,6 @@ TEST_F(PageWindowsTest, ClosingByTheFramesButtonIsTheSame) {
 
 TEST_F(PageWindowsTest, APageThatIsToStayKeepsFrameAndTab) {
   frmMain &page = NewPage();
-  Component(page).CompleteDocument();
   Component(page).Edit(QStringLiteral("<p>changed</p>"));
   dialogs.ExpectMessage(
       QStringLiteral("You have made changes to this document. Do you want to save it?"),

@@ -11,6 +11,8 @@
 namespace velor {
 
 WindowFixture::WindowFixture() {
+  files.AddFolder(runtime.programFolder);
+  files.AddFolder(QStringLiteral("\\site"));
   window.Load();
   log.clear();
 }
@@ -21,11 +23,13 @@ PageTabs &WindowFixture::Tabs() {
 
 frmMain &WindowFixture::NewPage() {
   Choose("mnuNew");
-  return *window.Context().pages.Page(window.Context().pages.PageCount());
+  frmMain &page = *window.Context().pages.Page(window.Context().pages.PageCount());
+  Component(page).CompleteDocument();
+  return page;
 }
 
 void WindowFixture::WriteFile(const QString &path) {
-  files.ReplaceAll(path, QByteArrayLiteral("<html><body>text</body></html>"));
+  files.AddFile(path, QByteArrayLiteral("<html><body>text</body></html>"));
 }
 
 FakeEditingComponent &WindowFixture::Component(frmMain &page) {

@@ -5,6 +5,7 @@
 #include "platform/Platform.h"
 #include "platform/ProgramValues.h"
 #include "tests/support/CallLog.h"
+#include "tests/support/Checks.h"
 #include "tests/support/FakeComponents.h"
 #include "tests/support/FakeDatabase.h"
 #include "tests/support/FakeDialogs.h"
@@ -43,7 +44,7 @@ class WindowFixture : public ::testing::Test {
   void Click(const char *button) { Button(button)->click(); }
   PageTabs &Tabs();
 
-  /// Makes a page as File > New does, in front of the others.
+  /// Makes a page as File > New does, in front of the others; its document is there.
   frmMain &NewPage();
   /// A file that can be opened.
   void WriteFile(const QString &path);

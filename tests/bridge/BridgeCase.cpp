@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/bridge/BridgeCase.h"
 
+#include "tests/bridge/BridgePage.h"
+
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
@@ -10,25 +12,26 @@
 #include <gtest/gtest.h>
 #include <map>
 
-#include "tests/bridge/BridgePage.h"
-
 namespace velor {
 namespace {
 
 const std::map<QString, int> &CommandNumbers() {
   static const std::map<QString, int> numbers = {
-      {"bold", 5000},   {"copy", 5002},   {"cut", 5003},      {"delete", 5004},
-      {"indent", 5018}, {"italic", 5023}, {"center", 5024},   {"left", 5025},
-      {"right", 5026},  {"number", 5030}, {"outdent", 5031},  {"paste", 5032},
-      {"redo", 5033},   {"all", 5035},    {"back", 5042},     {"format", 5043},
-      {"font", 5044},   {"size", 5045},   {"color", 5046},    {"underline", 5048},
-      {"undo", 5049},   {"bullet", 5051},
+      {"bold", 5000},    {"copy", 5002},   {"cut", 5003},  {"delete", 5004}, {"indent", 5018},
+      {"italic", 5023},  {"center", 5024}, {"left", 5025}, {"right", 5026},  {"number", 5030},
+      {"outdent", 5031}, {"paste", 5032},  {"redo", 5033}, {"all", 5035},    {"back", 5042},
+      {"format", 5043},  {"font", 5044},   {"size", 5045}, {"color", 5046},  {"underline", 5048},
+      {"undo", 5049},    {"bullet", 5051},
   };
   return numbers;
 }
 
-QString Unescaped(QString text) { return text.replace(QStringLiteral("\\n"), QStringLiteral("\n")); }
-QString Escaped(QString text) { return text.replace(QStringLiteral("\n"), QStringLiteral("\\n")); }
+QString Unescaped(QString text) {
+  return text.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
+}
+QString Escaped(QString text) {
+  return text.replace(QStringLiteral("\n"), QStringLiteral("\\n"));
+}
 
 QString Quoted(const QString &text) {
   const QByteArray json = QJsonDocument(QJsonObject{{"t", text}}).toJson(QJsonDocument::Compact);
@@ -49,16 +52,19 @@ bool BridgeCase::IsDocument() const {
 
 std::vector<BridgeCase> ReadBridgeCases(const QString &folder) {
   std::vector<BridgeCase> cases;
-  const QStringList files = QDir(folder).entryList({QStringLiteral("*.txt")}, QDir::Files, QDir::Name);
+  const QStringList files =
+      QDir(folder).entryList({QStringLiteral("*.txt")}, QDir::Files, QDir::Name);
   for (const QString &file : files) {
     const QString path = QDir(folder).filePath(file);
     for (const QString &line : LinesOf(path)) {
       const QString key = line.section(QStringLiteral(": "), 0, 0);
       const QString value = Unescaped(line.section(QStringLiteral(": "), 1));
       if (key == QStringLiteral("name")) {
-        cases.push_back({path, value, {}, {}, {}, {}});
+        cases.push_back({path, value, {}, {}, {}, {}, {}});
       } else if (key == QStringLiteral("input")) {
         cases.back().input = value;
+      } else if (key == QStringLiteral("before")) {
+        cases.back().stateBefore = value;
       } else if (key == QStringLiteral("do")) {
         cases.back().steps.append(value);
       } else if (key == QStringLiteral("state")) {
@@ -75,7 +81,8 @@ void Rebaseline(const BridgeCase &subject, const QString &actual) {
   QStringList lines = LinesOf(subject.file);
   const qsizetype start = lines.indexOf(QStringLiteral("name: ") + subject.name);
   qsizetype at = start;
-  while (at < lines.size() && !lines[at].isEmpty() && !lines[at].startsWith(QStringLiteral("expect: "))) {
+  while (at < lines.size() && !lines[at].isEmpty() &&
+         !lines[at].startsWith(QStringLiteral("expect: "))) {
     ++at;
   }
   const QString line = QStringLiteral("expect: ") + Escaped(actual);
@@ -98,9 +105,8 @@ void Perform(BridgePage &page, const QString &step) {
   } else if (verb == QStringLiteral("pasteHTML")) {
     page.Evaluate(QStringLiteral("velor.pasteHTML(%1)").arg(Quoted(value)));
   } else if (CommandNumbers().count(verb) == 1) {
-    page.Evaluate(QStringLiteral("velor.exec(%1, %2)")
-                      .arg(CommandNumbers().at(verb))
-                      .arg(Quoted(value)));
+    page.Evaluate(
+        QStringLiteral("velor.exec(%1, %2)").arg(CommandNumbers().at(verb)).arg(Quoted(value)));
   } else {
     ADD_FAILURE() << "no such step: " << qPrintable(step);
   }

@@ -16,8 +16,9 @@ class BridgePage;
 /// comment:
 ///     name: Bold makes the selected word bold
 ///     input: <p>one ^two|</p>        "^" anchor, "|" focus, a "|" alone the caret
+///     before: bold=3                 the state that is reported at first
 ///     do: bold                       any number of them; see Perform
-///     state: bold=7 blockFormat=Normal
+///     state: bold=7 blockFormat=Normal  the state at the end
 ///     expect: <p>one <b>^two|</b></p>
 /// "\n" stands for a line break. Input that begins with "<!" or "<html" is a whole document, and
 /// what is expected then is the whole document too, without the selection.
@@ -25,6 +26,7 @@ struct BridgeCase {
   QString file;
   QString name;
   QString input;
+  QString stateBefore;
   QStringList steps;
   QString state;
   QString expected;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The golden cases of cases/*.txt. With VELOR_REBASELINE=1 the expectations are written anew.
+#include "tests/bridge/BridgeCase.h"
+#include "tests/bridge/BridgePage.h"
+
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
 #include <memory>
-
-#include "tests/bridge/BridgeCase.h"
-#include "tests/bridge/BridgePage.h"
 
 namespace velor {
 
@@ -22,14 +22,16 @@ class BridgeCases : public ::testing::TestWithParam<BridgeCase> {
   static void TearDownTestSuite() { page_.reset(); }
 
   static QString Text(const QString &expression) { return page_->Evaluate(expression).toString(); }
-  static void Walk(const QString &way) {
-    for (int step = 0; step < 100; ++step) {
-      const QString can = way == QStringLiteral("undo") ? QStringLiteral("velor.history.canUndo()")
-                                                        : QStringLiteral("velor.history.canRedo()");
-      if (!page_->Evaluate(can).toBool()) return;
-      Perform(*page_, way);
+  /// Takes everything back; returns how many steps that were.
+  static int UndoAll() {
+    int steps = 0;
+    for (; page_->Evaluate(QStringLiteral("velor.history.canUndo()")).toBool(); ++steps) {
+      Perform(*page_, QStringLiteral("undo"));
     }
-    ADD_FAILURE() << "no end of steps to " << qPrintable(way);
+    return steps;
+  }
+  static void Redo(int steps) {
+    for (; steps > 0; --steps) Perform(*page_, QStringLiteral("redo"));
   }
 
   static std::unique_ptr<BridgePage> page_;
@@ -39,12 +41,15 @@ std::unique_ptr<BridgePage> BridgeCases::page_;
 TEST_P(BridgeCases, GivesWhatItsFileSays) {
   const BridgeCase &subject = GetParam();
   const bool whole = subject.IsDocument();
-  const QString read = whole ? QStringLiteral("velor.serialize()") : QStringLiteral("markup.read()");
+  const QString read =
+      whole ? QStringLiteral("velor.serialize()") : QStringLiteral("markup.read()");
   page_->Load(whole ? subject.input
                     : QStringLiteral("<!DOCTYPE html><html><head></head><body>%1</body></html>")
                           .arg(subject.input));
   const QString loaded = Text(QStringLiteral("velor.serialize()"));
   const QString faults = Text(QStringLiteral("markup.faults()"));
+  EXPECT_EQ(ActualState(*page_, subject.stateBefore).toStdString(),
+            subject.stateBefore.toStdString());
   for (const QString &step : subject.steps) Perform(*page_, step);
 
   const QString actual = Text(read);
@@ -53,17 +58,15 @@ TEST_P(BridgeCases, GivesWhatItsFileSays) {
   } else if (!subject.expected.isEmpty()) {
     EXPECT_EQ(actual.toStdString(), subject.expected.toStdString());
   }
-  if (!subject.state.isEmpty()) {
-    EXPECT_EQ(ActualState(*page_, subject.state).toStdString(), subject.state.toStdString());
-  }
+  EXPECT_EQ(ActualState(*page_, subject.state).toStdString(), subject.state.toStdString());
   EXPECT_EQ(Text(QStringLiteral("markup.faults()")).toStdString(), faults.toStdString())
       << actual.toStdString();
 
   // Whatever was done can be taken back to what was loaded, and done again.
   const QString result = Text(QStringLiteral("velor.serialize()"));
-  Walk(QStringLiteral("undo"));
+  const int steps = UndoAll();
   EXPECT_EQ(Text(QStringLiteral("velor.serialize()")).toStdString(), loaded.toStdString());
-  Walk(QStringLiteral("redo"));
+  Redo(steps);
   EXPECT_EQ(Text(QStringLiteral("velor.serialize()")).toStdString(), result.toStdString());
 }
 
@@ -74,8 +77,8 @@ std::string TestName(const ::testing::TestParamInfo<BridgeCase> &info) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Golden, BridgeCases,
-                         ::testing::ValuesIn(ReadBridgeCases(
-                             QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/cases"))),
+                         ::testing::ValuesIn(ReadBridgeCases(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER
+                                                                            "/cases"))),
                          TestName);
 
 }  // namespace

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/bridge/BridgePage.h"
 
+#include <QEventLoop>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QWebEnginePage>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
@@ -25,16 +27,30 @@ QString TextOf(const QString &path) {
 
 QString JoinedScripts() {
   QString joined;
-  const QStringList names = TextOf(QStringLiteral(":/bridge/order.txt"))
-                                .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+  const QStringList names =
+      TextOf(QStringLiteral(":/bridge/order.txt")).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
   for (const QString &name : names) joined += TextOf(QStringLiteral(":/bridge/") + name);
   return joined + TextOf(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/markup.js"));
 }
 
+// A page that fails the test when a script of the bridge fails.
+class ReportingPage : public QWebEnginePage {
+ public:
+  using QWebEnginePage::QWebEnginePage;
+
+ protected:
+  void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level, const QString &message,
+                                int line, const QString &source) override {
+    if (level != ErrorMessageLevel) return;
+    ADD_FAILURE() << qPrintable(message) << " (" << qPrintable(source) << " line " << line << ")";
+  }
+};
+
 }  // namespace
 
 BridgePage::BridgePage() {
-  QWebEnginePage *page = view_.page();
+  auto *page = new ReportingPage(&view_);
+  view_.setPage(page);
   page->settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, false);
   QWebEngineScript script;
   script.setName(QStringLiteral("bridge"));
@@ -56,12 +72,22 @@ void BridgePage::Load(const QString &html) {
 
 QVariant BridgePage::Evaluate(const QString &expression) {
   // Shared with the callback: an answer may come after the wait was given up.
-  auto answer = std::make_shared<std::pair<bool, QVariant>>(false, QVariant());
+  struct Wait {
+    QEventLoop loop;
+    QVariant answer;
+    bool answered = false;
+  };
+  auto wait = std::make_shared<Wait>();
   view_.page()->runJavaScript(expression, QWebEngineScript::ApplicationWorld,
-                              [answer](const QVariant &value) { *answer = {true, value}; });
-  EXPECT_TRUE(QTest::qWaitFor([&answer] { return answer->first; }, patience))
-      << qPrintable(expression);
-  return answer->second;
+                              [wait](const QVariant &value) {
+                                wait->answer = value;
+                                wait->answered = true;
+                                wait->loop.quit();
+                              });
+  QTimer::singleShot(patience, &wait->loop, &QEventLoop::quit);
+  wait->loop.exec();
+  EXPECT_TRUE(wait->answered) << qPrintable(expression);
+  return wait->answer;
 }
 
 void BridgePage::AwaitKeys(int count) {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/bridge/BridgePage.h"
+
 #include <QTest>
 
 #include <gtest/gtest.h>
-
-#include "tests/bridge/BridgePage.h"
 
 namespace velor {
 namespace {
@@ -16,7 +16,8 @@ TEST(Bridge, PushesItsFirstStateAfterTheStart) {
       "velor.start({})"));
   EXPECT_TRUE(QTest::qWaitFor(
       [&page] { return page.Evaluate(QStringLiteral("pushed.length")).toInt() > 0; }));
-  EXPECT_TRUE(page.Evaluate(QStringLiteral("pushed[0].dirty && pushed[0].html.length > 0")).toBool());
+  EXPECT_TRUE(
+      page.Evaluate(QStringLiteral("pushed[0].dirty && pushed[0].html.length > 0")).toBool());
 }
 
 }  // namespace

@@ -32,6 +32,16 @@
     }
   };
 
+  // "^<img>|" means the element, not the ends of the texts around it.
+  const tighten = (anchor, focus) => {
+    const { node, offset } = anchor;
+    const element = node.nodeType === Node.TEXT_NODE && offset === node.length && node.nextSibling;
+    if (element?.nodeType !== Node.ELEMENT_NODE || focus.node !== element.nextSibling || focus.offset) return;
+    const index = [...element.parentNode.childNodes].indexOf(element);
+    Object.assign(anchor, { node: element.parentNode, offset: index });
+    Object.assign(focus, { node: element.parentNode, offset: index + 1 });
+  };
+
   const marked = (root) => {
     const { anchorNode, anchorOffset, focusNode, focusOffset, isCollapsed } = document.getSelection();
     const copy = root.cloneNode(true);
@@ -83,6 +93,7 @@
       if (!focus) return;
       if (anchor) settle(anchor, focus);
       settle(focus, anchor);
+      if (anchor) tighten(anchor, focus);
       const from = anchor ?? focus;
       document.getSelection().setBaseAndExtent(from.node, from.offset, focus.node, focus.offset);
     },

@@ -185,8 +185,8 @@ TEST_F(CloseTest, AMissingTemporaryCopyOrTabIsNoError) {
 }
 
 TEST_F(CloseTest, ClosingAReadOnlyPageDeletesNothing) {
-  files.ReplaceAll(IndexFile, "<p>a</p>");
-  files.readOnly.insert(IndexFile);
+  files.AddFile(IndexFile, "<p>a</p>");
+  files.MakeReadOnly(IndexFile);
   modWorkFlow::OpenPage(context, IndexFile);
   Component(1).CompleteDocument();
   Page(1).close();

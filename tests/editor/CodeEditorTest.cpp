@@ -49,7 +49,7 @@ TEST_F(CodeEditorTest, AppliedChangesAreUnsavedChangesOfThePage) {
 TEST_F(CodeEditorTest, WithoutATemporaryCopyThePageTakesTheTextItself) {
   frmCodeEditor &editor = Edit();
   files.Delete(IndexCopy);
-  files.unwritableFolders.insert(QStringLiteral("\\site"));
+  files.MakeFolderUnwritable(QStringLiteral("\\site"));
   Code(1).text = QStringLiteral("<p>edited</p>");
   EXPECT_EQ(editor.ApplyCode(), 0);
   EXPECT_EQ(Component(1).DocumentHTML(), QStringLiteral("<p>edited</p>"));

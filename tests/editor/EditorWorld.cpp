@@ -6,7 +6,7 @@
 namespace velor {
 
 frmMain &EditorWorld::Open(const QString &path, const QByteArray &content) {
-  files.ReplaceAll(path, content);
+  files.AddFile(path, content);
   dialog.FileName = path;
   modWorkFlow::OpenPage(context, path);
   const int number = pages.PageCount();

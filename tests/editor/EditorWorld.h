@@ -27,6 +27,10 @@ namespace velor {
 /// Everything a page window needs, made of fakes that share one log of calls.
 class EditorWorld : public ::testing::Test {
  protected:
+  EditorWorld() {
+    files.AddFolder(QStringLiteral("\\site"));
+    files.AddFolder(runtime.programFolder);
+  }
   ~EditorWorld() override {
     DeleteClosedWindows();
     const std::vector<QWidget *> windows = mainWindow.adopted;

@@ -116,7 +116,7 @@ TEST_F(ModesTest, TheTemporaryCopyIsWrittenAnewEveryTimeAndIsNeverThePagesFile) 
 TEST_F(ModesTest, WhereTheCopyCannotBeWrittenTheTextComesFromTheComponentSilently) {
   Open(IndexFile);
   Component(1).Edit(QStringLiteral("<p>b</p>"));
-  files.unwritableFolders.insert(QStringLiteral("\\site"));
+  files.MakeFolderUnwritable(QStringLiteral("\\site"));
   EXPECT_EQ(Page(1).CreatorHTML(), QStringLiteral("<p>b</p>"));
   Page(1).ChangeMode(2);
   EXPECT_EQ(SourceView(1).text, QStringLiteral("<p>b</p>"));

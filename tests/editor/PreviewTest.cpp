@@ -33,8 +33,8 @@ TEST_F(PreviewTest, APageIsShownFromItsTemporaryCopyWithALineBreakMore) {
 }
 
 TEST_F(PreviewTest, AReadOnlyPageIsShownFromItsFileWithoutUnsavedEdits) {
-  files.ReplaceAll(IndexFile, "<p>a</p>");
-  files.readOnly.insert(IndexFile);
+  files.AddFile(IndexFile, "<p>a</p>");
+  files.MakeReadOnly(IndexFile);
   modWorkFlow::OpenPage(context, IndexFile);
   Component(1).CompleteDocument();
   log.clear();
@@ -46,7 +46,7 @@ TEST_F(PreviewTest, AReadOnlyPageIsShownFromItsFileWithoutUnsavedEdits) {
 TEST_F(PreviewTest, WithoutATemporaryCopyAPrivateOneIsShownWithThePagesFolderAsBase) {
   Open(IndexFile);
   Component(1).Edit(QStringLiteral("<p>b</p>"));
-  files.unwritableFolders.insert(QStringLiteral("\\site"));
+  files.MakeFolderUnwritable(QStringLiteral("\\site"));
   Page(1).ChangeMode(4);
   EXPECT_EQ(log.back(), QStringLiteral("Browser.NavigateToText(file:///site/index.htm)"));
   EXPECT_EQ(PreviewBrowser().html, QStringLiteral("<p>b</p>"));
@@ -55,7 +55,7 @@ TEST_F(PreviewTest, WithoutATemporaryCopyAPrivateOneIsShownWithThePagesFolderAsB
 
 TEST_F(PreviewTest, ANewPageWithoutATemporaryCopyResolvesAgainstTheProgramFolder) {
   New();
-  files.unwritableFolders.insert(runtime.programFolder);
+  files.MakeFolderUnwritable(runtime.programFolder);
   Page(1).ChangeMode(4);
   EXPECT_EQ(log.back(), QStringLiteral("Browser.NavigateToText(file:///program/)"));
 }

@@ -58,7 +58,7 @@ TEST_F(SaveTest, APlainSaveTakesItsPathFromTheDialogAfterWritingTheOldOne) {
 
 TEST_F(SaveTest, APlainSaveThatFailsCountsAsSuccessAndTheStatusBarTellsWhy) {
   Open(IndexFile);
-  files.readOnly.insert(IndexFile);
+  files.MakeReadOnly(IndexFile);
   Component(1).Edit(QStringLiteral("<p>b</p>"));
   EXPECT_EQ(Save(1, AsBefore), 0);
   EXPECT_EQ(Content(IndexFile), "<p>a</p>");
@@ -121,7 +121,7 @@ TEST_F(SaveTest, ASecondSaveOfAPageSavedOnceAsksNothing) {
 }
 
 TEST_F(SaveTest, AProjectPageAsksThoughItCameFromAFile) {
-  files.ReplaceAll(IndexFile, "<p>a</p>");
+  files.AddFile(IndexFile, "<p>a</p>");
   modWorkFlow::OpenProjectPage(context, IndexFile);
   dialog.ExpectCancelledSave();
   EXPECT_EQ(Save(1, AsBefore), Cancelled);
@@ -142,8 +142,8 @@ TEST_F(SaveTest, ACancelledDialogChangesNothing) {
 
 TEST_F(SaveTest, AFileThatCannotBeWrittenReturnsItsErrorNumber) {
   Open(IndexFile);
-  files.ReplaceAll(NewName, "old");
-  files.readOnly.insert(NewName);
+  files.AddFile(NewName, "old");
+  files.MakeReadOnly(NewName);
   dialog.ExpectSave(NewName);
   EXPECT_EQ(Save(1, UnderNewName), static_cast<int>(ErrorNumber::PathFileAccess));
   EXPECT_EQ(Record(1).Path, IndexFile);

@@ -335,6 +335,20 @@ TEST_F(ElementDialogTest, LinksAPictureRelativeToTheSavedPage) {
   EXPECT_EQ(Get<QLabel>("lblPreviewSize")->text(), U("640 × 480 pixels"));
 }
 
+TEST_F(ElementDialogTest, KeepsThePreviewOfThePictureInStepWithTheSource) {
+  dialog.PrepareInsert(U("image"), component.Document(), {});
+  const QString small = SavePicture(U("a.png"), {20, 10});
+  const QString large = SavePicture(U("b.png"), {2000, 1000});
+  for (const QString &picture : {large, small}) {
+    components.dialog->ExpectOpen(picture);
+    Click("cmdBrowseIMG");
+    const QSize shown = Get<QLabel>("picPreview")->pixmap(Qt::ReturnByValue).size();
+    EXPECT_EQ(shown.width(), 2 * shown.height());
+    EXPECT_LE(shown.width(), Get<QLabel>("picPreview")->width());
+  }
+  EXPECT_EQ(Get<QLabel>("lblPreviewSize")->text(), U("20 × 10 pixels"));
+}
+
 TEST_F(ElementDialogTest, LinksAPictureAbsolutelyFromAnUnsavedPage) {
   const QString picture = SavePicture(U("a.png"), {10, 10});
   dialog.PrepareInsert(U("image"), component.Document(), {});

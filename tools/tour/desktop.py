@@ -121,7 +121,7 @@ class Program:
     def has_state(node, state):
         return node.get_state_set().contains(state)
 
-    def press(self, name, role="push button|toggle button|button"):
+    def press(self, name, role="push button|toggle button|button|check box"):
         """Presses a button as a person who uses no mouse would."""
         node = self.wait(name, role)
         wait_for(lambda: self.has_state(node, Atspi.StateType.ENABLED), f"{name!r} to be enabled")

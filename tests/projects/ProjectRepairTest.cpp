@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The project manager on a catalogue of its own on disk: what its statements do to the rows.
+#include "platform/Paths.h"
+#include "platform/Platform.h"
+#include "platform/ProgramValues.h"
+#include "platform/sqlite/SqliteConnection.h"
+#include "projects/ProjectHost.h"
+#include "projects/RecordList.h"
+#include "projects/RecordsetReader.h"
+#include "projects/RowTable.h"
+#include "projects/frmProjectManager.h"
+#include "tests/support/Checks.h"
+#include "tests/support/FakeComponents.h"
+#include "tests/support/FakeDialogs.h"
+#include "tests/support/FakeFiles.h"
+#include "tests/support/FakeRegistry.h"
+#include "tests/support/FakeRuntime.h"
+#include "tests/support/Forms.h"
+
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+
+#include <sqlite3.h>
+
+namespace velor {
+namespace {
+
+QString U(const char *text) {
+  return QString::fromUtf8(text);
+}
+
+class Desk final : public ProjectHost {
+ public:
+  explicit Desk(ProgramValues &values) : values_(values) {}
+  QStringList pages;
+  QString opened;
+  QString pickedFolder;
+
+  void ClearTabs() override {}
+  void ClearPageChooser() override { pages.clear(); }
+  void AddChooserPage(const QString &name, std::int32_t pageId) override {
+    pages.append(U("%1 %2").arg(pageId).arg(name));
+  }
+  int DocumentCount() const override { return 0; }
+  void UnloadDocument(int) override {}
+  void OpenProjectPage(const QString &path) override { opened = path; }
+  void PickProjectFolder() override { values_.ProjectFolderResult = pickedFolder; }
+
+ private:
+  ProgramValues &values_;
+};
+
+class ProjectRepairTest : public testing::Test {
+ protected:
+  ProjectRepairTest() {
+    sqlite3 *catalogue = nullptr;
+    sqlite3_open(File().toUtf8().constData(), &catalogue);
+    const int result = sqlite3_exec(
+        catalogue,
+        "Create table Project (IdProject INTEGER PRIMARY KEY, Name TEXT COLLATE NOCASE, Path TEXT,"
+        " Created BOOLEAN, DtModified DATETIME, Notes TEXT);"
+        "Create table Page (PageId INTEGER PRIMARY KEY, ProjectId INTEGER,"
+        " PageName TEXT COLLATE NOCASE, TPath TEXT, Path TEXT);"
+        "Create table CustomCD (ProjectId INTEGER, PPath TEXT);"
+        "Insert into Project values (1, 'Younger', '\\old\\one', 1, '2005-01-01', null);"
+        "Insert into Project values (2, 'Older', '\\old\\two', 1, '2004-01-01', null);"
+        "Insert into Project values (3, 'Not generated', '\\old\\three', 0, '2003-01-01', null);"
+        "Insert into Page values (10, 2, 'prices', '\\old\\two', '\\Files\\p.htm');"
+        "Insert into Page values (11, 2, 'About', '\\old\\two', '\\Files\\a.htm');"
+        "Insert into Page values (12, 1, 'Other', '\\old\\one', '\\Files\\o.htm');"
+        "Insert into CustomCD values (1, '\\old\\one');"
+        "Insert into CustomCD values (2, '\\old\\two');",
+        nullptr, nullptr, nullptr);
+    EXPECT_EQ(result, SQLITE_OK) << sqlite3_errmsg(catalogue);
+    sqlite3_close(catalogue);
+    values.DbConnection = std::make_unique<SqliteConnection>();
+    values.DbConnection->Open(U("Data Source=") + ToLogic(File()), {}, {}, -1);
+  }
+
+  QString File() const { return folder.filePath(U("eThumbs.mdb")); }
+
+  /// The column of all rows, in the order of the statement.
+  QStringList Column(const char *statement, const char *column) {
+    const auto records = values.DbConnection->CreateRecordset();
+    OpenRecordset(*records, U(statement), *values.DbConnection);
+    QStringList texts;
+    for (; !records->EndOfFile(); records->MoveNext()) {
+      texts.append(records->Value(U(column)).toString());
+    }
+    return texts;
+  }
+
+  QTemporaryDir folder;
+  FakeFiles files;
+  FakeRuntime runtime;
+  FakeDialogs dialogs;
+  FakeRegistry registry;
+  FakeComponents components{files};
+  Platform platform{files, runtime, dialogs, registry, components};
+  ProgramValues values;
+  Desk desk{values};
+};
+
+TEST_F(ProjectRepairTest, ListsGeneratedProjectsOldestFirst) {
+  frmProjectManager manager(platform, values, desk, nullptr);
+  const QAbstractItemModel *list = Control<RecordList>(manager, U("LsHistory"))->model();
+  ASSERT_EQ(list->rowCount(), 2);
+  EXPECT_EQ(list->index(0, 0).data().toString(), U("2"));
+  EXPECT_EQ(list->index(0, 1).data().toString(), U("Older"));
+  EXPECT_EQ(list->index(0, 2).data().toString(), U("2004-01-01"));
+  EXPECT_EQ(list->index(1, 1).data().toString(), U("Younger"));
+}
+
+TEST_F(ProjectRepairTest, ListsThePagesOfTheProjectAloneByName) {
+  frmProjectManager manager(platform, values, desk, nullptr);
+  Control<QTabWidget>(manager, U("SSTab1"))->setCurrentIndex(1);
+  const QAbstractItemModel *pages = Control<RecordList>(manager, U("LstPages"))->model();
+  ASSERT_EQ(pages->rowCount(), 2);
+  EXPECT_EQ(pages->index(0, 1).data().toString(), U("About"));
+  EXPECT_EQ(pages->index(1, 1).data().toString(), U("prices"));
+}
+
+TEST_F(ProjectRepairTest, PutsTheNewFolderIntoTheProjectsRowsAndNoOthers) {
+  frmProjectManager manager(platform, values, desk, nullptr);
+  desk.pickedFolder = U("\\new\\Bob's Site");
+  dialogs.ExpectMessage(U("Web path not found please provide the path"), MessageAnswer::Yes);
+  Control<QPushButton>(manager, U("cmdOpen"))->click();
+
+  const QString moved = desk.pickedFolder;
+  EXPECT_EQ(Column("Select * from Project Order by IdProject", "Path"),
+            (QStringList{U("\\old\\one"), moved, U("\\old\\three")}));
+  EXPECT_EQ(Column("Select * from Page Order by PageId", "TPath"),
+            (QStringList{moved, moved, U("\\old\\one")}));
+  EXPECT_EQ(Column("Select * from CustomCD Order by ProjectId", "PPath"),
+            (QStringList{U("\\old\\one"), moved}));
+  EXPECT_EQ(desk.opened, moved + U("\\Files\\Home.htm"));
+  EXPECT_EQ(desk.pages, (QStringList{U("11 About"), U("10 prices")}));
+}
+
+TEST_F(ProjectRepairTest, KeepsTheFirstChangeWhenALaterStatementFails) {
+  frmProjectManager manager(platform, values, desk, nullptr);
+  desk.pickedFolder = U("\\new");
+  ExecuteSql(*values.DbConnection, U("Drop table CustomCD"));
+  dialogs.ExpectMessage(U("Web path not found please provide the path"), MessageAnswer::Yes);
+  auto *cmdOpen = Control<QPushButton>(manager, U("cmdOpen"));
+  EXPECT_NE(ErrorOf([&] { cmdOpen->click(); }), ErrorNumber::None);
+  EXPECT_EQ(Column("Select * from Project where IdProject = 2", "Path"), QStringList{U("\\new")});
+  EXPECT_EQ(desk.opened, QString());
+}
+
+}  // namespace
+}  // namespace velor
