@@ -163,6 +163,7 @@ void MfrmProgram::PrepareControlsAndMenus() {
 
 void MfrmProgram::ShowWithoutWaiting() {
   show();
+  area_->setFocus();
 }
 
 void MfrmProgram::FinishPreparation() {

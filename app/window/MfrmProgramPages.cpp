@@ -30,10 +30,13 @@ void MfrmProgram::AdoptWindow(QWidget *window) {
 
 void MfrmProgram::ShowWindow(QWidget *window) {
   area_->Show(window);
+  window->setFocus();
 }
 
 void MfrmProgram::ActivateWindow(QWidget *window) {
   area_->Activate(window);
+  // Whoever walks along the tabs by keyboard stays there.
+  if (!FileTab->hasFocus()) window->setFocus();
 }
 
 void MfrmProgram::HideWindow(QWidget *window) {

@@ -36,6 +36,7 @@ PageTabs::PageTabs(QWidget *parent) : QTabBar(parent) {
   setDocumentMode(true);
   setExpanding(false);
   setMovable(false);
+  setFocusPolicy(Qt::TabFocus);
   setTabsClosable(false);
   setUsesScrollButtons(true);
   setElideMode(Qt::ElideMiddle);
@@ -65,9 +66,10 @@ void PageTabs::SetCaptionAt(int position, const QString &caption) {
   if (position < 1 || position > count()) {
     throw RuntimeError::Of(ErrorNumber::IndexOutOfBounds, NameOf(*this), QString::number(position));
   }
-  // "&" is a letter of a file name here, no mnemonic.
-  setTabText(position - 1, QString(caption).replace(u'&', QStringLiteral("&&")));
+  // The tool tip holds the caption as it is and is measured; so it is there before the text, which
+  // makes the strip lay itself out. "&" is a letter of a file name here, no mnemonic.
   setTabToolTip(position - 1, caption);
+  setTabText(position - 1, QString(caption).replace(u'&', QStringLiteral("&&")));
 }
 
 void PageTabs::Select(const QString &key) {
@@ -127,7 +129,10 @@ void PageTabs::paintEvent(QPaintEvent *) {
       painter.fillRect(tab.adjusted(0, MarkHeight, 0, 0), HoverField(palette()));
     }
     QRect place = tab.adjusted(TabPadding, MarkHeight, -TabPadding, 0);
-    tabIcon(index).paint(&painter, place, Qt::AlignLeft | Qt::AlignVCenter,
+    QRect picture(QPoint(), iconSize());
+    picture.moveCenter(place.center());
+    picture.moveLeft(place.left());
+    tabIcon(index).paint(&painter, picture, Qt::AlignCenter,
                          front ? QIcon::Normal : QIcon::Disabled);
     place.setLeft(place.left() + MenuIconSize + TabPadding / 2);
     painter.setPen(front ? palette().color(QPalette::Text) : QuietText(palette()));
