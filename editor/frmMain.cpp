@@ -4,6 +4,7 @@
 
 #include "app/settings/modSettingManager.h"
 #include "chrome/Icons.h"
+#include "chrome/ToolBarButtons.h"
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
 #include "editor/modWorkFlow.h"
@@ -24,13 +25,11 @@ namespace velor {
 
 namespace {
 
-enum class ButtonKind { Click, Toggle, Separator };
-
 struct QuickButtonRow {
   QStringView key;  ///< also the key of its image
   QStringView caption;
   QStringView tooltip;
-  ButtonKind kind;
+  ButtonKind kind = ButtonKind::Click;
 };
 
 /// The mode toolbar; positions count from 1, the separator included.
@@ -39,7 +38,7 @@ constexpr std::array<QuickButtonRow, 7> QuickButtons{{
     {u"viewcode", u"View HTML", u"View HTML", ButtonKind::Click},
     {u"editcode", u"Edit HTML", u"Edit HTML", ButtonKind::Click},
     {u"preview", u"Preview", u"Preview", ButtonKind::Click},
-    {u"", u"", u"", ButtonKind::Separator},
+    {},  // separator
     {u"detail", u"Show Detail", u"Show Detail", ButtonKind::Toggle},
     {u"snap", u"Snap to Grid", u"Snap to Grid", ButtonKind::Toggle},
 }};
@@ -87,10 +86,10 @@ frmMain::frmMain(EditorContext &context, int number)
   const Registry &registry = context_.platform.registry;
   component_->SetShowDetails(
       OptionIsTrue(registry, QStringLiteral("ShowDetails"), QStringLiteral("False")));
-  QuickButton(u"detail")->setChecked(component_->ShowDetails());
+  QuickButton(u"detail")->ShowChecked(component_->ShowDetails());
   component_->SetSnapToGrid(
       OptionIsTrue(registry, QStringLiteral("SnapToGrid"), QStringLiteral("True")));
-  QuickButton(u"snap")->setChecked(component_->SnapToGrid());
+  QuickButton(u"snap")->ShowChecked(component_->SnapToGrid());
   source_->SetColor(1, Grey);
   source_->SetColor(27, Grey);
   source_->SetColor(26, White);
@@ -111,25 +110,21 @@ void frmMain::BuildToolBar() {
   int position = 0;
   for (const QuickButtonRow &row : QuickButtons) {
     ++position;
-    if (row.kind == ButtonKind::Separator) {
+    if (row.key.isEmpty()) {
       tbrQuick->addSeparator();
       continue;
     }
-    QAction *button = tbrQuick->addAction(IconFor(row.key.toString()), row.caption.toString());
+    ToolBarAction *button = AddToolBarButton(*tbrQuick, row.key.toString(), row.caption.toString(),
+                                             row.tooltip.toString(), row.kind);
     button->setObjectName(row.key.toString());
-    button->setData(row.key.toString());
-    button->setToolTip(row.tooltip.toString());
-    button->setCheckable(row.kind == ButtonKind::Toggle);
-    connect(button, &QAction::triggered, this, [this, position] { QuickButtonClicked(position); });
-    // Reachable by Tab, as tool buttons by themselves are not.
-    tbrQuick->widgetForAction(button)->setFocusPolicy(Qt::TabFocus);
-    tbrQuick->widgetForAction(button)->setAccessibleName(row.tooltip.toString());
+    connect(button, &ToolBarAction::Chosen, this,
+            [this, position] { QuickButtonClicked(position); });
   }
 }
 
-QAction *frmMain::QuickButton(QStringView key) const {
+ToolBarAction *frmMain::QuickButton(QStringView key) const {
   for (QAction *button : tbrQuick->actions()) {
-    if (button->data().toString() == key) return button;
+    if (button->data().toString() == key) return static_cast<ToolBarAction *>(button);
   }
   return nullptr;
 }
@@ -151,14 +146,14 @@ void frmMain::ToggleShowDetails() {
   component_->SetShowDetails(!component_->ShowDetails());
   modSettingManager::SetOption(context_.platform.registry, QStringLiteral("ShowDetails"),
                                BoolText(component_->ShowDetails()));
-  QuickButton(u"detail")->setChecked(component_->ShowDetails());
+  QuickButton(u"detail")->ShowChecked(component_->ShowDetails());
 }
 
 void frmMain::ToggleSnapToGrid() {
   component_->SetSnapToGrid(!component_->SnapToGrid());
   modSettingManager::SetOption(context_.platform.registry, QStringLiteral("SnapToGrid"),
                                BoolText(component_->SnapToGrid()));
-  QuickButton(u"snap")->setChecked(component_->SnapToGrid());
+  QuickButton(u"snap")->ShowChecked(component_->SnapToGrid());
 }
 
 PageRecord frmMain::GetPageRecord() const {

@@ -12,11 +12,12 @@
 #include <cstdint>
 #include <memory>
 
-class QAction;
 class QStackedLayout;
 class QToolBar;
 
 namespace velor {
+
+class ToolBarAction;
 
 /// The document window: one page, in design view (`DHTML1`) or source view (`Code1`) lying in the
 /// same place, under the mode toolbar `tbrQuick`.
@@ -85,7 +86,7 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
 
   void BuildToolBar();
   /// A button of tbrQuick by its key.
-  QAction *QuickButton(QStringView key) const;
+  ToolBarAction *QuickButton(QStringView key) const;
   void QuickButtonClicked(int position);
   void ToggleShowDetails();
   void ToggleSnapToGrid();

@@ -3,8 +3,8 @@
 
 #include "app/window/FormattingBar.h"
 #include "app/window/GeneralToolbar.h"
-#include "chrome/Icons.h"
 #include "chrome/Palette.h"
+#include "chrome/ToolBarButtons.h"
 #include "editor/EditCommands.h"
 #include "platform/RuntimeError.h"
 
@@ -36,24 +36,21 @@ QToolBar *NewToolBar(const char *name, const QString &label, QWidget *parent) {
   return bar;
 }
 
-QAction *AddButton(QToolBar &bar, const QString &key, const QString &tooltip) {
-  QAction *button = bar.addAction(IconFor(key), tooltip);
+ToolBarAction *AddButton(QToolBar &bar, const QString &key, const QString &tooltip,
+                         ButtonKind kind) {
+  ToolBarAction *button = AddToolBarButton(bar, key, tooltip, tooltip, kind);
   const QString name = bar.objectName() + u'_' + key;
   button->setObjectName(name);
-  button->setToolTip(tooltip);
-  button->setData(key);
-  QWidget *widget = bar.widgetForAction(button);
-  widget->setObjectName(name);
-  widget->setProperty("key", key);
-  widget->setAccessibleName(tooltip);
-  widget->setFocusPolicy(Qt::TabFocus);
+  bar.widgetForAction(button)->setObjectName(name);
   if (GroupEnds().contains(key)) bar.addSeparator();
   return button;
 }
 
-QAction &ButtonOf(const QToolBar &bar, const QString &key) {
+ToolBarAction &ButtonOf(const QToolBar &bar, const QString &key) {
   for (QAction *button : bar.actions()) {
-    if (!button->isSeparator() && button->data().toString() == key) return *button;
+    if (!button->isSeparator() && button->data().toString() == key) {
+      return static_cast<ToolBarAction &>(*button);
+    }
   }
   throw RuntimeError::Of(ErrorNumber::ElementNotFound, bar.objectName(), key);
 }
@@ -83,9 +80,9 @@ CoolBar::CoolBar(QWidget *parent)
 QToolBar *CoolBar::BuildGeneral() {
   QToolBar *bar = NewToolBar("tbrGeneral", tr("General"), this);
   for (const GeneralButton &row : GeneralButtons) {
-    QAction *button =
-        AddButton(*bar, QString::fromLatin1(row.key), QString::fromLatin1(row.tooltip));
-    connect(button, &QAction::triggered, this, [this, &row] { Q_EMIT GeneralClicked(row); });
+    ToolBarAction *button = AddButton(*bar, QString::fromLatin1(row.key),
+                                      QString::fromLatin1(row.tooltip), ButtonKind::Click);
+    connect(button, &ToolBarAction::Chosen, this, [this, &row] { Q_EMIT GeneralClicked(row); });
   }
   return bar;
 }
@@ -93,22 +90,20 @@ QToolBar *CoolBar::BuildGeneral() {
 QToolBar *CoolBar::BuildEdit() {
   QToolBar *bar = NewToolBar("tbrEdit", tr("Formatting"), this);
   for (const EditCommand &row : EditCommands) {
-    QAction *button = AddButton(*bar, row.key.toString(), row.tooltip.toString());
-    button->setCheckable(true);
-    connect(button, &QAction::triggered, this, [this, button, &row] {
-      // The page says whether a button is pressed, not the click.
-      button->setChecked(!button->isChecked());
-      Q_EMIT EditClicked(row.Number());
-    });
+    ToolBarAction *button =
+        AddButton(*bar, row.key.toString(), row.tooltip.toString(), ButtonKind::Toggle);
+    // The page says whether a button is pressed, not the click.
+    connect(button, &ToolBarAction::Chosen, this,
+            [this, &row] { Q_EMIT EditClicked(row.Number()); });
   }
   return bar;
 }
 
-QAction &CoolBar::GeneralButtonOf(const QString &key) const {
+ToolBarAction &CoolBar::GeneralButtonOf(const QString &key) const {
   return ButtonOf(*tbrGeneral, key);
 }
 
-QAction &CoolBar::EditButtonOf(const QString &key) const {
+ToolBarAction &CoolBar::EditButtonOf(const QString &key) const {
   return ButtonOf(*tbrEdit, key);
 }
 

@@ -4,10 +4,11 @@
 #include <QString>
 #include <QWidget>
 
-class QAction;
 class QToolBar;
 
 namespace velor {
+
+class ToolBarAction;
 
 class FormattingBar;
 struct GeneralButton;
@@ -23,8 +24,8 @@ class CoolBar final : public QWidget {
   FormattingBar &Boxes() { return *boxes_; }
 
   /// A button by its key; ElementNotFound (35601) for an unknown one.
-  QAction &GeneralButtonOf(const QString &key) const;
-  QAction &EditButtonOf(const QString &key) const;
+  ToolBarAction &GeneralButtonOf(const QString &key) const;
+  ToolBarAction &EditButtonOf(const QString &key) const;
 
  Q_SIGNALS:
   void GeneralClicked(const velor::GeneralButton &button);

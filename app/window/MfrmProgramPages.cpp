@@ -8,6 +8,7 @@
 #include "app/window/PageArea.h"
 #include "app/window/PageTabs.h"
 #include "app/window/ProjectDesk.h"
+#include "chrome/ToolBarButtons.h"
 #include "editor/frmBrowser.h"
 #include "platform/Dialogs.h"
 #include "platform/EditingComponent.h"
@@ -97,9 +98,9 @@ void MfrmProgram::ResetElementInspection() {
 }
 
 void MfrmProgram::SetEditButton(const QString &key, bool enabled, bool pressed) {
-  QAction &button = coolBar_->EditButtonOf(key);
+  ToolBarAction &button = coolBar_->EditButtonOf(key);
   button.setEnabled(enabled);
-  button.setChecked(pressed);
+  button.ShowChecked(pressed);
 }
 
 void MfrmProgram::DisableEditButton(const QString &key) {
