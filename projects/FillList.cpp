@@ -8,6 +8,7 @@
 #include "projects/Values.h"
 
 #include <utility>
+#include <vector>
 
 namespace velor {
 
@@ -22,6 +23,8 @@ std::int16_t FillList(ListControl &list, RowTable &table, const QString &stateme
     RowTable fresh(names - 1 + offset);
     const auto records = connection.CreateRecordset();
     OpenRecordset(*records, statement, connection);
+    std::vector<ColumnType> types;
+    for (const QString &name : columnNames) types.push_back(records->Type(name));
     for (; !records->EndOfFile(); records->MoveNext()) {
       const int row = fresh.AppendRow();
       fresh.At(row, 0) = 0.0;
@@ -29,8 +32,8 @@ std::int16_t FillList(ListControl &list, RowTable &table, const QString &stateme
         found = CInt(static_cast<double>(row));
       }
       for (int c = 0; c < names; ++c) {
-        const QString &name = columnNames[c];
-        fresh.At(row, c + offset) = NormalisedValue(records->Value(name), records->Type(name));
+        fresh.At(row, c + offset) =
+            NormalisedValue(records->Value(columnNames[c]), types[static_cast<std::size_t>(c)]);
       }
     }
     table = std::move(fresh);

@@ -4,6 +4,14 @@
 #include "platform/Conversions.h"
 
 namespace velor {
+namespace {
+
+bool IsNumberType(const QVariant &value) {
+  const int type = value.typeId();
+  return type == QMetaType::Int || type == QMetaType::LongLong || type == QMetaType::Double;
+}
+
+}  // namespace
 
 QString TextOf(const QVariant &value) {
   switch (value.typeId()) {
@@ -28,7 +36,8 @@ QVariant NormalisedValue(const QVariant &value, ColumnType type) {
     case ColumnType::Boolean:
       return QVariant::fromValue(!value.isNull() && CBool(TextOf(value)) ? True16 : False16);
     default:
-      return Val(TextOf(value));
+      // Numbers need no way through their text; it would lead to the same number.
+      return IsNumberType(value) ? value.toDouble() : Val(TextOf(value));
   }
 }
 

@@ -63,6 +63,8 @@ void PageArea::Release(QWidget *window) {
   if (!frame) return;
   frame->hide();
   frame->setWidget(nullptr);
+  // The window deletes itself in its own time, but never later than the main window.
+  window->setParent(this);
   removeSubWindow(frame);
   frame->deleteLater();
   ActivateLast();

@@ -41,6 +41,21 @@
     }
   }
 
+  // Places as velor.selection keeps them.
+  const startOf = (node) => {
+    const leaf = dom.firstLeaf(node);
+    if (dom.isText(leaf)) return { node: leaf, offset: 0 };
+    return leaf === node && dom.isBlock(node) && !dom.isAtom(node)
+      ? { inside: node } : { beside: leaf, side: 0 };
+  };
+  // An empty line's caret is before the break that holds it open.
+  const endOf = (node) => {
+    const leaf = dom.lastLeaf(node);
+    if (dom.isText(leaf)) return { node: leaf, offset: leaf.length };
+    return leaf === node && dom.isBlock(node) && !dom.isAtom(node)
+      ? { inside: node } : { beside: leaf, side: dom.isBreak(leaf) ? 0 : 1 };
+  };
+
   const dropTrailingBreak = (nodes) => {
     const last = nodes.at(-1);
     if (dom.isBreak(last)) {
@@ -50,12 +65,13 @@
     return nodes;
   };
 
-  // Moves the content of one unit to the end of the one before it.
+  // Moves the content of one unit to the end of the one before it. Returns the place between them.
   function join(first, second) {
     const left = dropTrailingBreak(first.nodes.filter((node) => node.isConnected));
     const moved = second.nodes.filter((node) => node.isConnected);
     const home = second.container;
     const last = left.at(-1);
+    const place = last ? endOf(last) : startOf(moved[0] ?? first.container);
     if (last) last.after(...moved);
     else if (first.container.firstChild) first.container.prepend(...moved);
     else first.container.append(...moved);
@@ -64,6 +80,7 @@
     if (home.tagName === 'LI' && item && rest.length && rest.every(dom.isList)) item.append(...rest);
     removeEmptied(home);
     holdOpen(first.container);
+    return place;
   }
 
   // Across table cells only contents go; the cells stay.
@@ -202,35 +219,27 @@
     if (dom.isBlock(leaf) && dom.isAtom(leaf)) return () => leaf.remove();
     const other = unitOfLeaf(leaf);
     if (!other || sameUnit(unit, other)) return null;
-    return back ? () => joinAt(other, unit, true) : () => joinAt(unit, other, false);
+    return back ? () => joinAt(other, unit) : () => joinAt(unit, other);
   }
 
-  function joinAt(first, second, back) {
-    const kept = velor.selection.keep();
-    if (back && hollow(first)) {
+  function joinAt(first, second) {
+    let place = null;
+    if (hollow(first)) {
       removeEmptiedBlock(first.block);
+      place = startOf(second.nodes[0] ?? second.container);
     } else if (hollow(second)) {
-      const end = first.nodes.at(-1);
       removeEmptiedBlock(second.block);
-      if (back) toEnd(end ?? first.container);
-      return;
+      place = endOf(first.nodes.at(-1) ?? first.container);
     } else {
-      join(first, second);
+      place = join(first, second);
     }
-    velor.selection.restore(kept);
+    velor.selection.setCaret(...velor.selection.place(place));
   }
   function removeEmptiedBlock(block) {
     const parent = block.parentNode;
     block.remove();
     removeEmptied(parent);
   }
-  function toEnd(node) {
-    const leaf = dom.lastLeaf(node);
-    if (dom.isText(leaf)) velor.selection.setCaret(leaf, leaf.length);
-    else if (dom.isBreak(leaf)) velor.selection.setCaret(leaf.parentNode, [...leaf.parentNode.childNodes].indexOf(leaf));
-    else velor.selection.setCaret(node.parentNode, [...node.parentNode.childNodes].indexOf(node) + 1);
-  }
-
   function startsItem(unit) {
     const item = velor.lists.itemOf(unit);
     if (!item) return false;

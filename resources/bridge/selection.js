@@ -207,6 +207,6 @@
 
   velor.selection = {
     textLimit, range, control, selectNode, points, samePoints, select, setCaret, leavesIn, textsIn,
-    keep, restore, element, caretElement, ensure, indexOf,
+    keep, restore, place, element, caretElement, ensure, indexOf,
   };
 })();

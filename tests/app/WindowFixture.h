@@ -30,6 +30,7 @@ class frmMain;
 class WindowFixture : public ::testing::Test {
  protected:
   WindowFixture();
+  ~WindowFixture() override { DeleteClosedWindows(); }
 
   template <typename Widget>
   Widget *Find(const char *name) {

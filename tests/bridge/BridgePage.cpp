@@ -33,6 +33,15 @@ QString JoinedScripts() {
   return joined + TextOf(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/markup.js"));
 }
 
+QWebEngineScript Script(const QString &source) {
+  QWebEngineScript script;
+  script.setName(QStringLiteral("bridge"));
+  script.setSourceCode(source);
+  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+  script.setWorldId(QWebEngineScript::ApplicationWorld);
+  return script;
+}
+
 // A page that fails the test when a script of the bridge fails.
 class ReportingPage : public QWebEnginePage {
  public:
@@ -52,15 +61,16 @@ BridgePage::BridgePage() {
   auto *page = new ReportingPage(&view_);
   view_.setPage(page);
   page->settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, false);
-  QWebEngineScript script;
-  script.setName(QStringLiteral("bridge"));
-  script.setSourceCode(JoinedScripts());
-  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
-  script.setWorldId(QWebEngineScript::ApplicationWorld);
-  page->scripts().insert(script);
+  page->scripts().insert(Script(JoinedScripts()));
   view_.resize(800, 600);
   view_.show();
   view_.activateWindow();
+}
+
+void BridgePage::AddChannelScript() {
+  QWebEngineScriptCollection &scripts = Engine().scripts();
+  scripts.clear();
+  scripts.insert(Script(TextOf(QStringLiteral(":/qtwebchannel/qwebchannel.js")) + JoinedScripts()));
 }
 
 void BridgePage::Load(const QString &html) {
@@ -86,7 +96,7 @@ QVariant BridgePage::Evaluate(const QString &expression) {
                               });
   QTimer::singleShot(patience, &wait->loop, &QEventLoop::quit);
   wait->loop.exec();
-  EXPECT_TRUE(wait->answered) << qPrintable(expression);
+  EXPECT_TRUE(wait->answered) << qPrintable(expression.left(200));
   return wait->answer;
 }
 
@@ -110,6 +120,10 @@ void BridgePage::Press(const QKeySequence &key) {
   const QKeyCombination combination = key[0];
   QTest::keyClick(view_.focusProxy(), combination.key(), combination.keyboardModifiers());
   AwaitKeys(before + 1);
+}
+
+void BridgePage::Click(QPoint place) {
+  QTest::mouseClick(view_.focusProxy(), Qt::LeftButton, Qt::NoModifier, place);
 }
 
 }  // namespace velor

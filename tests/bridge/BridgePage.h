@@ -14,6 +14,8 @@ class BridgePage {
  public:
   BridgePage();
 
+  /// From the next document on the bridge finds the channel's script.
+  void AddChannelScript();
   /// Loads a document, puts the selection where the markup writes it and starts the bridge.
   void Load(const QString &html);
   /// The value of an expression in the bridge's world.
@@ -21,6 +23,9 @@ class BridgePage {
   /// Real keys, as from a person.
   void Type(const QString &text);
   void Press(const QKeySequence &key);
+  /// A click of the left button at a place in CSS pixels.
+  void Click(QPoint place);
+  QWebEnginePage &Engine() { return *view_.page(); }
 
  private:
   void AwaitKeys(int count);

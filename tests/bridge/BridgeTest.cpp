@@ -1,24 +1,223 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// What the golden cases cannot show: messages, the pointer, the clipboard, whole-document calls.
+#include "tests/bridge/BridgeCase.h"
 #include "tests/bridge/BridgePage.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTest>
+#include <QWebChannel>
+#include <QWebEnginePage>
+#include <QWebEngineScript>
 
 #include <gtest/gtest.h>
 
 namespace velor {
 namespace {
 
-TEST(Bridge, PushesItsFirstStateAfterTheStart) {
-  BridgePage page;
-  page.Load(QStringLiteral("<p>one|</p>"));
-  page.Evaluate(QStringLiteral(
-      "globalThis.pushed = []; velor.host = {pushState(json) { pushed.push(JSON.parse(json)); }};"
-      "velor.start({})"));
-  EXPECT_TRUE(QTest::qWaitFor(
-      [&page] { return page.Evaluate(QStringLiteral("pushed.length")).toInt() > 0; }));
+/// The program's end of the bridge: stores what it is given.
+class Host : public QObject {
+  Q_OBJECT
+
+ public:
+  Q_INVOKABLE void pushState(const QString &json) {
+    state = QJsonDocument::fromJson(json.toUtf8()).object();
+  }
+  Q_INVOKABLE void pushMouse(int x, int y) { mouse = QPoint(x, y); }
+
+  QJsonObject state;
+  QPoint mouse;
+};
+
+class Bridge : public ::testing::Test {
+ protected:
+  void Load(const QString &html) { page_.Load(html); }
+  QVariant Evaluate(const QString &expression) { return page_.Evaluate(expression); }
+  QString Text(const QString &expression) { return Evaluate(expression).toString(); }
+  bool Comes(const QString &condition) {
+    return QTest::qWaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
+  }
+  /// In place of a channel: an array that the pushes go to.
+  void CollectPushes() {
+    Evaluate(
+        QStringLiteral("globalThis.pushed = []; globalThis.mouse = [];"
+                       "velor.host = {pushState(json) { pushed.push(JSON.parse(json)); },"
+                       "              pushMouse(x, y) { mouse.push([x, y]); }};"
+                       "velor.start({})"));
+    ASSERT_TRUE(Comes(QStringLiteral("pushed.length > 0")));
+  }
+
+  BridgePage page_;
+};
+
+TEST_F(Bridge, PushesItsFirstStateAfterTheStart) {
+  Load(QStringLiteral("<p>one|</p>"));
+  CollectPushes();
   EXPECT_TRUE(
-      page.Evaluate(QStringLiteral("pushed[0].dirty && pushed[0].html.length > 0")).toBool());
+      Evaluate(QStringLiteral("pushed[0].dirty && pushed[0].html.includes('one')")).toBool());
+  EXPECT_EQ(Text(QStringLiteral("pushed[0].element.tag")), QStringLiteral("P"));
+}
+
+TEST_F(Bridge, PushesAfterAMoveOfTheSelectionWithoutTheMarkup) {
+  Load(QStringLiteral("<p>one|</p><h1>two</h1>"));
+  CollectPushes();
+  Evaluate(QStringLiteral("getSelection().collapse(document.querySelector('h1').firstChild, 1)"));
+  ASSERT_TRUE(Comes(QStringLiteral("pushed.at(-1).blockFormat === 'Heading 1'")));
+  EXPECT_FALSE(Evaluate(QStringLiteral("pushed.at(-1).dirty || 'html' in pushed.at(-1)")).toBool());
+}
+
+TEST_F(Bridge, PushesOnceForManyChangesAtOnce) {
+  Load(QStringLiteral("<p>^one|</p>"));
+  CollectPushes();
+  Evaluate(QStringLiteral("pushed.length = 0; for (let i = 0; i < 9; i++) velor.exec(5000)"));
+  ASSERT_TRUE(Comes(QStringLiteral("pushed.length > 0 && pushed.at(-1).commands[5000] === 7")));
+  EXPECT_LE(Evaluate(QStringLiteral("pushed.length")).toInt(), 2);
+}
+
+TEST_F(Bridge, LeavesTheMarkupOfALargeDocumentToBeAskedFor) {
+  Load(QStringLiteral("<p>one|</p><p>%1</p>").arg(QString(250000, QLatin1Char('x'))));
+  CollectPushes();
+  EXPECT_TRUE(Evaluate(QStringLiteral("pushed[0].dirty && !('html' in pushed[0])")).toBool());
+}
+
+TEST_F(Bridge, TalksToTheProgramThroughTheChannel) {
+  Host host;
+  QWebChannel channel;
+  channel.registerObject(QStringLiteral("velorHost"), &host);
+  page_.Engine().setWebChannel(&channel, QWebEngineScript::ApplicationWorld);
+  page_.AddChannelScript();
+  Load(QStringLiteral("<p><b>one|</b></p>"));
+  EXPECT_TRUE(QTest::qWaitFor([&host] {
+    return host.state[QStringLiteral("element")][QStringLiteral("tag")] == QStringLiteral("B");
+  }));
+  page_.Click({30, 40});
+  EXPECT_TRUE(QTest::qWaitFor([&host] { return host.mouse == QPoint(30, 40); }));
+}
+
+TEST_F(Bridge, ReportsWhereThePointerPresses) {
+  Load(QStringLiteral("<p>one|</p>"));
+  CollectPushes();
+  page_.Click({50, 60});
+  EXPECT_TRUE(Comes(QStringLiteral("mouse.some(([x, y]) => x === 50 && y === 60)")));
+}
+
+TEST_F(Bridge, SelectsAPictureThatIsClicked) {
+  Load(
+      QStringLiteral("<p>one|</p><img id='i' width='100' height='100' "
+                     "style='position: absolute; left: 200px; top: 200px'>"));
+  page_.Click({250, 250});
+  EXPECT_TRUE(Comes(QStringLiteral("velor.state().selection === 'Control'")));
+  EXPECT_EQ(Text(QStringLiteral("velor.state().element.tag")), QStringLiteral("IMG"));
+  EXPECT_EQ(Text(QStringLiteral("velor.state().element.attributes[0].join()")),
+            QStringLiteral("id,i"));
+}
+
+TEST_F(Bridge, TakesAPasteOfTheEngineBackInOneStep) {
+  QGuiApplication::clipboard()->setText(QStringLiteral("two three"));
+  Load(QStringLiteral("<p>one |</p>"));
+  const QString loaded = Text(QStringLiteral("velor.serialize()"));
+  page_.Engine().triggerAction(QWebEnginePage::Paste);
+  ASSERT_TRUE(Comes(QStringLiteral("document.body.textContent.includes('three')")));
+  Evaluate(QStringLiteral("velor.exec(5049)"));
+  EXPECT_EQ(Text(QStringLiteral("velor.serialize()")), loaded);
+  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+}
+
+TEST_F(Bridge, CutsOverParagraphsInOneStepAndFillsTheClipboard) {
+  QGuiApplication::clipboard()->clear();
+  Load(QStringLiteral("<h1>one ^two</h1><p>three| four</p>"));
+  page_.Engine().triggerAction(QWebEnginePage::Cut);
+  ASSERT_TRUE(Comes(QStringLiteral("!document.body.textContent.includes('two')")));
+  EXPECT_EQ(Text(QStringLiteral(
+                "document.querySelectorAll('body *').length + document.body.firstChild.tagName")),
+            QStringLiteral("1H1"));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [] { return QGuiApplication::clipboard()->text().contains(QStringLiteral("three")); }));
+  Evaluate(QStringLiteral("velor.exec(5049)"));
+  EXPECT_EQ(Text(QStringLiteral("markup.read()")),
+            QStringLiteral("<h1>one ^two</h1><p>three| four</p>"));
+}
+
+TEST_F(Bridge, UndoesAChangeThatNoCommandMade) {
+  Load(QStringLiteral("<p>one|</p>"));
+  const QString loaded = Text(QStringLiteral("velor.serialize()"));
+  Evaluate(QStringLiteral("document.querySelector('p').setAttribute('class', 'x')"));
+  Evaluate(QStringLiteral("velor.exec(5049)"));
+  EXPECT_EQ(Text(QStringLiteral("velor.serialize()")), loaded);
+}
+
+TEST_F(Bridge, ForgetsTheOldestStepsBeyondAThousand) {
+  Load(QStringLiteral("<p>^one|</p>"));
+  Evaluate(QStringLiteral("for (let i = 0; i < 1100; i++) velor.exec(5000)"));
+  EXPECT_EQ(Evaluate(QStringLiteral("let n = 0; while (velor.history.canUndo()) {"
+                                    "velor.exec(5049); n++; } n"))
+                .toInt(),
+            1000);
+}
+
+TEST_F(Bridge, PutsTheSelectionBackIntoAFreshCopyOfThePage) {
+  Load(QStringLiteral("<p>one <b>t^wo</b> three</p><p>fo|ur</p>"));
+  // A cut text counts as one, as it will be one when parsed again.
+  Evaluate(QStringLiteral("document.querySelectorAll('p')[1].firstChild.splitText(1)"));
+  const QVariantMap mirror = Evaluate(QStringLiteral("velor.mirror()")).toMap();
+  const QByteArray places =
+      QJsonDocument(
+          QJsonObject::fromVariantMap({{QStringLiteral("start"), mirror[QStringLiteral("start")]},
+                                       {QStringLiteral("end"), mirror[QStringLiteral("end")]}}))
+          .toJson(QJsonDocument::Compact);
+  Load(mirror[QStringLiteral("html")].toString());
+  Evaluate(QStringLiteral("const places = %1; velor.restore(places.start, places.end)")
+               .arg(QString::fromUtf8(places)));
+  EXPECT_EQ(Text(QStringLiteral("markup.read()")),
+            QStringLiteral("<p>one <b>t^wo</b> three</p><p>fo|ur</p>"));
+}
+
+TEST_F(Bridge, ShowsDetailsWithoutATraceInThePage) {
+  Load(QStringLiteral("<p>one|</p>"));
+  const QString loaded = Text(QStringLiteral("velor.serialize()"));
+  const QString glyph =
+      QStringLiteral("getComputedStyle(document.querySelector('p'), '::before').content");
+  EXPECT_EQ(Text(glyph), QStringLiteral("none"));
+  Evaluate(QStringLiteral("velor.setDetails(true)"));
+  EXPECT_NE(Text(glyph), QStringLiteral("none"));
+  EXPECT_EQ(Text(QStringLiteral("velor.serialize()")), loaded);
+  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+  Evaluate(QStringLiteral("velor.setDetails(false)"));
+  EXPECT_EQ(Text(glyph), QStringLiteral("none"));
+}
+
+TEST_F(Bridge, KeepsALineBreakThatComesFirstInPreformattedText) {
+  Load(QStringLiteral("<p>one|</p><pre>\n\ntwo</pre>"));
+  EXPECT_TRUE(
+      Text(QStringLiteral("velor.serialize()")).contains(QStringLiteral("<pre>\n\ntwo</pre>")));
+}
+
+TEST_F(Bridge, StartsAgainOnADocumentSetInPlace) {
+  Load(QStringLiteral("<p>one|</p>"));
+  page_.Type(QStringLiteral("x"));
+  Evaluate(
+      QStringLiteral("document.open(); document.write('<p>two</p>'); document.close();"
+                     "markup.countKeys(); velor.start()"));
+  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+  page_.Type(QStringLiteral("y"));
+  EXPECT_EQ(Text(QStringLiteral("document.body.textContent")), QStringLiteral("ytwo"));
+  Evaluate(QStringLiteral("velor.exec(5049)"));
+  EXPECT_EQ(Text(QStringLiteral("document.body.innerHTML")), QStringLiteral("<p>two</p>"));
+}
+
+TEST_F(Bridge, NeverRunsAScriptThatIsPutIn) {
+  Load(QStringLiteral("<p>one|</p>"));
+  Evaluate(
+      QStringLiteral("velor.pasteHTML('<script>document.title = \"ran\"</script>"
+                     "<img src=\"none\" onerror=\"document.title = 1\">')"));
+  ASSERT_TRUE(Comes(QStringLiteral("document.images[0].complete")));
+  EXPECT_EQ(Text(QStringLiteral("document.title")), QString());
+  EXPECT_EQ(Evaluate(QStringLiteral("document.scripts.length")).toInt(), 1);
 }
 
 }  // namespace
 }  // namespace velor
+
+#include "BridgeTest.moc"

@@ -4,8 +4,10 @@
 #include "platform/Paths.h"
 #include "platform/qt/editing/BridgeScript.h"
 
+#include <QEventLoop>
 #include <QFile>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEngineView>
 
@@ -37,7 +39,20 @@ auto *const environment = new EngineEnvironment;
 }  // namespace
 
 bool WaitFor(const std::function<bool()> &condition) {
-  return QTest::qWaitFor(condition, 10'000);
+  // A real event loop: the browser engine does little in single turns with pauses between them.
+  if (condition()) return true;
+  QEventLoop loop;
+  bool met = false;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+    if (met || !condition()) return;
+    met = true;
+    loop.quit();
+  });
+  QTimer::singleShot(10'000, &loop, &QEventLoop::quit);
+  look.start(2);
+  loop.exec();
+  return met;
 }
 
 WebEditorTest::WebEditorTest() : window_(std::make_unique<QWidget>()) {

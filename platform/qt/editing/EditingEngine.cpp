@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/editing/EditingEngine.h"
 
-#include "platform/qt/editing/BridgeScript.h"
-
 #include <QWebEngineCookieStore>
 #include <QWebEngineDownloadRequest>
-#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
 namespace velor {
@@ -63,7 +60,6 @@ QWebEngineProfile &EditingEngine::Profile() {
   profile_->cookieStore()->setCookieFilter([](const auto &) { return false; });
   profile_->setUrlRequestInterceptor(&blocker_);
   profile_->installUrlSchemeHandler(PageScheme::Name(), &scheme_);
-  profile_->scripts()->insert(BridgeScript());
   for (const Setting &setting : settings)
     profile_->settings()->setAttribute(setting.attribute, setting.on);
   profile_->settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);

@@ -21,7 +21,9 @@ void EditorPage::LoadOwn(const QUrl &address) {
 
 bool EditorPage::acceptNavigationRequest(const QUrl &url, NavigationType, bool isMainFrame) {
   const EngineCallback callback(guard_);
-  return isMainFrame && url == own_;
+  if (!isMainFrame || url != own_) return false;
+  own_.clear();  // once: the page is not to be loaded again by anything else, either
+  return true;
 }
 
 QWebEnginePage *EditorPage::createWindow(WebWindowType) {

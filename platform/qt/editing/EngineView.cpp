@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
 #include <QWebEngineLoadingInfo>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineView>
 
 #include <memory>
@@ -29,6 +30,9 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   page_->setBackgroundColor(Qt::white);
   channel_.registerObject(QStringLiteral("velorHost"), &host_);
   page_->setWebChannel(&channel_, bridgeWorld);
+  // The page's own script, not the profile's: only this one is there again when a new process
+  // takes the place of one that ended.
+  page_->scripts().insert(BridgeScript());
   view_->setPage(page_);
   view_->setContextMenuPolicy(Qt::CustomContextMenu);
   input_ = new EditorInput(view_);
@@ -86,6 +90,8 @@ void EngineView::Load(const QString &nativePath, const QString &text, const QStr
   address_ = engine_.Scheme().Offer(nativePath, text);
   start_ = start;
   startAnswer_ = {};
+  const QWidget *focused = view_->window()->focusWidget();
+  hadFocus_ = focused != nullptr && (focused == view_ || view_->isAncestorOf(focused));
   phase_ = Phase::Loading;
   page_->LoadOwn(address_);
 }
@@ -95,6 +101,8 @@ void EngineView::EndLoad(Phase phase) {
   engine_.Scheme().Withdraw(address_);
   page_->history()->clear();
   input_->Attach();
+  // The engine may have put another input widget in the place of the one that the person used.
+  if (hadFocus_) view_->setFocus();
   Q_EMIT LoadEnded();
   engine_.Guard().Wake();
 }

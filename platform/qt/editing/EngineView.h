@@ -80,6 +80,7 @@ class EngineView : public QObject {
   QPointer<EditorPage> page_;  ///< a child of view_
   EditorInput *input_;         ///< a child of view_
   Phase phase_ = Phase::Empty;
+  bool hadFocus_ = false;  ///< when the load began
   QUrl address_;
   QString start_;
   QVariant startAnswer_;
