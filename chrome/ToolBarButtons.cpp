@@ -37,7 +37,7 @@ ToolBarAction *AddToolBarButton(QToolBar &bar, const QString &key, const QString
   QWidget *button = bar.widgetForAction(action);
   // Tool buttons by themselves are passed over by Tab.
   button->setFocusPolicy(Qt::TabFocus);
-  button->setAccessibleName(tooltip);
+  button->setAccessibleName(caption);
   button->setProperty("key", key);
   return action;
 }

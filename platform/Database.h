@@ -48,7 +48,8 @@ class Recordset {
   virtual void MoveNext() = 0;
 
   /// The current row's value in the column of that name, letter case ignored. A null QVariant is
-  /// SQL's null. Raises for an unknown column and past the last row.
+  /// SQL's null, a Boolean -1 or 0, a date its text. Raises for an unknown column and past the last
+  /// row.
   virtual QVariant Value(const QString &column) const = 0;
   virtual ColumnType Type(const QString &column) const = 0;
 };

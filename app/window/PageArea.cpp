@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -25,6 +26,9 @@ PageArea::PageArea(QWidget *parent) : QMdiArea(parent) {
   setActivationOrder(QMdiArea::ActivationHistoryOrder);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  // The key that closes a child window where people come from; Ctrl+W is the frame's own.
+  connect(new QShortcut(Qt::CTRL | Qt::Key_F4, this), &QShortcut::activated, this,
+          &QMdiArea::closeActiveSubWindow);
 }
 
 void PageArea::Adopt(QWidget *window) {

@@ -163,7 +163,8 @@ class Tour:
             stream.write(b"<html><body><p>Locked</p></body></html>")
         os.chmod(path, stat.S_IRUSR)
         self.open(path, "locked.htm (Read-Only)")
-        edit = self.program.wait("Edit HTML", "push button|toggle button|button")
+        page = self.program.wait("locked.htm", "frame")
+        edit = self.program.wait("Edit HTML", "push button|toggle button|button", page)
         wait_for(lambda: not Program.has_state(edit, Atspi.StateType.ENABLED), "Edit HTML to be off")
 
     def five_pages_are_the_limit(self):
