@@ -2,12 +2,9 @@
 #include "app/startup/EventBoundary.h"
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/MfrmProgram.h"
+#include "app/window/RecoveryCopies.h"
 #include "chrome/Palette.h"
-#include "platform/qt/QtComponents.h"
-#include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtFiles.h"
-#include "platform/qt/QtRegistry.h"
-#include "platform/qt/QtRuntime.h"
+#include "platform/qt/RealPlatform.h"
 #include "platform/qt/editing/PageScheme.h"
 
 int main(int argc, char **argv) {
@@ -16,24 +13,20 @@ int main(int argc, char **argv) {
   Application application(argv);
   DressApplication(application);
 
-  QtDialogs dialogs;
-  QtRuntime runtime(argc, argv);
-  EventBoundary boundary(dialogs, runtime);
+  RealPlatform real(argc, argv);
+  EventBoundary boundary(real.dialogs, real.runtime);
   application.SetBoundary(&boundary);
-  QtFiles files;
-  QtRegistry registry;
-  QtComponents components(files, runtime.ProgramFolder());
-  Platform platform{files, runtime, dialogs, registry, components};
   ProgramValues values;
-
   std::unique_ptr<MfrmProgram> mainWindow;
-  RealStartUpWindows windows(platform, values, [&] {
-    mainWindow = std::make_unique<MfrmProgram>(platform, values);
+  RealStartUpWindows windows(real.parts, values, [&] {
+    mainWindow = std::make_unique<MfrmProgram>(real.parts, values);
     QObject::connect(mainWindow.get(), &MfrmProgram::Unloaded, &application,
                      &QCoreApplication::quit, Qt::QueuedConnection);
     mainWindow->Load();
   });
-  boundary.Run([&] { StartUp(platform, values, windows); });
+  boundary.Run([&] { StartUp(real.parts, values, windows); });
+  boundary.SetRecovery(
+      [&] { return WriteRecoveryCopies(mainWindow->Context(), real.runtime.ProgramFolder()); });
   boundary.StartUpDone();
   return Application::exec();
 }

@@ -24,18 +24,26 @@ struct Size {
   int bytes;
   int rounds;
 };
-constexpr std::array<Size, 4> Sizes = {
-    Size{"10 KB", 10'000, 9}, {"100 KB", 100'000, 7}, {"1 MB", 1'000'000, 5}, {"10 MB", 10'000'000, 2}};
+constexpr std::array<Size, 4> Sizes = {Size{"10 KB", 10'000, 9},
+                                       {"100 KB", 100'000, 7},
+                                       {"1 MB", 1'000'000, 5},
+                                       {"10 MB", 10'000'000, 2}};
 
 /// A page such as people have: headings, paragraphs with inline markup, a table now and then.
 QByteArray SamplePage(int bytes) {
-  QByteArray page = "<!DOCTYPE html>\r\n<html>\r\n<head><meta charset=\"utf-8\"><title>Sample</title></head>\r\n<body>\r\n";
+  QByteArray page =
+      "<!DOCTYPE html>\r\n<html>\r\n<head><meta "
+      "charset=\"utf-8\"><title>Sample</title></head>\r\n<body>\r\n";
   for (int i = 0; page.size() < bytes; ++i) {
     if (i % 20 == 0) page += "<h2>Chapter " + QByteArray::number(i / 20) + "</h2>\r\n";
     if (i % 25 == 24)
-      page += "<table border=\"1\">\r\n<tr><td>one</td><td>two</td></tr>\r\n<tr><td>three</td><td>four</td></tr>\r\n</table>\r\n";
-    page += "<p>The quick brown fox jumps over the <b>lazy</b> dog, and <i>nobody</i> at "
-            "<a href=\"http://example.com/\">example.com</a> minds it in the least.</p>\r\n";
+      page +=
+          "<table "
+          "border=\"1\">\r\n<tr><td>one</td><td>two</td></tr>\r\n<tr><td>three</td><td>four</td></"
+          "tr>\r\n</table>\r\n";
+    page +=
+        "<p>The quick brown fox jumps over the <b>lazy</b> dog, and <i>nobody</i> at "
+        "<a href=\"http://example.com/\">example.com</a> minds it in the least.</p>\r\n";
   }
   return page + "</body>\r\n</html>\r\n";
 }
@@ -43,8 +51,7 @@ QByteArray SamplePage(int bytes) {
 /// The window that shows our component, with what a listener needs to know.
 class OurPage : public EditingListener {
  public:
-  explicit OurPage(const QString &folder)
-      : editor(engine, files, ToLogic(folder), &window) {
+  explicit OurPage(const QString &folder) : editor(engine, files, ToLogic(folder), &window) {
     editor.SetListener(this);
     window.resize(900, 700);
     editor.Widget()->setGeometry(window.rect());
@@ -102,7 +109,8 @@ void OpeningFigures() {
   for (const Size &size : Sizes) {
     const QString path = bench.File(size);
     Print(Compare(
-        QStringLiteral("open a page"), QLatin1String(size.name), QStringLiteral("bare view"), size.rounds,
+        QStringLiteral("open a page"), QLatin1String(size.name), QStringLiteral("bare view"),
+        size.rounds,
         [&] { return Milliseconds([&] { bench.ours.editor.LoadDocument(ToLogic(path)); }); },
         [&] { return Milliseconds([&] { bench.theirs.LoadFile(path); }); }));
   }
@@ -137,7 +145,8 @@ void ReadingFigures() {
   for (const Size &size : Sizes) {
     bench.Load(bench.File(size));
     Print(Compare(
-        QStringLiteral("read the document"), QLatin1String(size.name), QStringLiteral("bare outerHTML"), size.rounds,
+        QStringLiteral("read the document"), QLatin1String(size.name),
+        QStringLiteral("bare outerHTML"), size.rounds,
         [&] { return Milliseconds([&] { (void)bench.ours.editor.DocumentHTML(); }); },
         [&] { return Milliseconds([&] { (void)bench.theirs.OuterHtml(); }); }));
   }

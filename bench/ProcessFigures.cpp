@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include <cstdio>
+#include <memory>
 #include <vector>
 
 namespace velor::bench {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/HouseStyle.h"
 
+#include "chrome/Icons.h"
 #include "chrome/Palette.h"
 
 #include <QPainter>
@@ -138,6 +139,27 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption *option
       break;
   }
   return result;
+}
+
+int HouseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                          QStyleHintReturn *returnData) const {
+  // Words suffice on the buttons of a dialog.
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+QIcon HouseStyle::standardIcon(StandardPixmap picture, const QStyleOption *option,
+                               const QWidget *widget) const {
+  switch (picture) {
+    case SP_MessageBoxQuestion:
+      return IconFor(QStringLiteral("help"));
+    case SP_MessageBoxInformation:
+      return IconFor(QStringLiteral("about"));
+    case SP_MessageBoxCritical:
+      return IconFor(QStringLiteral("critical"));
+    default:
+      return QProxyStyle::standardIcon(picture, option, widget);
+  }
 }
 
 }  // namespace velor

@@ -6,8 +6,8 @@
 namespace velor {
 
 /// Fusion with calmer bars: flat fields, hairlines instead of bevels, round corners under the
-/// pointer, room around the icons. Boxes, buttons and lists stay Fusion's own, so that their sizes
-/// are what other windows reckon with.
+/// pointer, room around the icons, our own pictures in message boxes. Boxes, buttons and lists stay
+/// Fusion's own, so that their sizes are what other windows reckon with.
 class HouseStyle final : public QProxyStyle {
   Q_OBJECT
 
@@ -22,6 +22,10 @@ class HouseStyle final : public QProxyStyle {
                   const QWidget *widget) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                          const QWidget *widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                QStyleHintReturn *returnData) const override;
+  QIcon standardIcon(StandardPixmap picture, const QStyleOption *option,
+                     const QWidget *widget) const override;
 };
 
 }  // namespace velor

@@ -4,6 +4,7 @@
 
 #include "app/settings/modSettingManager.h"
 #include "chrome/Icons.h"
+#include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
@@ -107,6 +108,7 @@ void frmMain::BuildToolBar() {
   tbrQuick->setAccessibleName(QStringLiteral("Modes"));
   tbrQuick->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   tbrQuick->setIconSize(QSize(QuickIconSize, QuickIconSize));
+  tbrQuick->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);
   int position = 0;
   for (const QuickButtonRow &row : QuickButtons) {
     ++position;

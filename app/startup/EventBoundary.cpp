@@ -38,23 +38,24 @@ QString BoxText(const std::exception &error) {
 EventBoundary::EventBoundary(Dialogs &dialogs, Runtime &runtime)
     : dialogs_(dialogs), runtime_(runtime) {}
 
-void EventBoundary::SetRecovery(std::function<void()> writeRecoveryCopies) {
+void EventBoundary::SetRecovery(Recovery writeRecoveryCopies) {
   writeRecoveryCopies_ = std::move(writeRecoveryCopies);
 }
 
 void EventBoundary::Handle(const std::exception &error) {
   const Consequence consequence = ConsequenceOf(error);
+  QStringList copies;
   if (consequence == Consequence::Stop) {
     // Before anything waits for the person: a box may stay open for hours.
     if (const auto writeCopies = std::exchange(writeRecoveryCopies_, nullptr)) {
       try {
-        writeCopies();
+        copies = writeCopies();
       } catch (const std::exception &failure) {
         WriteToStandardError(failure.what());
       }
     }
   }
-  Report(error, consequence);
+  Report(error, consequence, copies);
   if (consequence == Consequence::Stop) runtime_.EndProgram(1);
 }
 
@@ -73,8 +74,14 @@ EventBoundary::Consequence EventBoundary::ConsequenceOf(const std::exception &er
   return isFailedWrite ? Consequence::Stop : Consequence::Abandon;
 }
 
-void EventBoundary::Report(const std::exception &error, Consequence consequence) {
+void EventBoundary::Report(const std::exception &error, Consequence consequence,
+                           const QStringList &copies) {
   WriteToStandardError(error.what());
+  QString kept;
+  if (!copies.isEmpty()) {
+    kept = QStringLiteral("Copies of your unsaved pages: ") + copies.join(QStringLiteral(", "));
+    WriteToStandardError(kept.toLocal8Bit().constData());
+  }
   // An error that comes while a box is open (a timer's, say) must not pile up boxes.
   if (showsBox_ || qEnvironmentVariableIsSet("VELOR_NO_ERROR_BOX")) return;
   const QScopedValueRollback<bool> showing(showsBox_, true);
@@ -82,6 +89,7 @@ void EventBoundary::Report(const std::exception &error, Consequence consequence)
   message.text = BoxText(error);
   if (consequence == Consequence::Stop) {
     message.text += QStringLiteral("\n\nThe program has to end.");
+    if (!kept.isEmpty()) message.text += QStringLiteral("\n\n") + kept;
   }
   message.icon = MessageIcon::Critical;
   try {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QStringList>
 
 #include <exception>
 #include <functional>
@@ -20,8 +21,10 @@ class EventBoundary {
  public:
   EventBoundary(Dialogs &dialogs, Runtime &runtime);
 
-  /// What writes copies of unsaved pages before the program stops; an error in it is only reported.
-  void SetRecovery(std::function<void()> writeRecoveryCopies);
+  /// What writes copies of unsaved pages before the program stops, and answers where they lie, as
+  /// people read paths; the report names them. An error in it is only reported.
+  using Recovery = std::function<QStringList()>;
+  void SetRecovery(Recovery writeRecoveryCopies);
 
   /// From now on only failed writes stop the program.
   void StartUpDone() { phase_ = Phase::Running; }
@@ -37,11 +40,11 @@ class EventBoundary {
   enum class Consequence { Abandon, Stop };
 
   Consequence ConsequenceOf(const std::exception &error) const;
-  void Report(const std::exception &error, Consequence consequence);
+  void Report(const std::exception &error, Consequence consequence, const QStringList &copies);
 
   Dialogs &dialogs_;
   Runtime &runtime_;
-  std::function<void()> writeRecoveryCopies_;
+  Recovery writeRecoveryCopies_;
   Phase phase_ = Phase::StartUp;
   bool showsBox_ = false;
 };

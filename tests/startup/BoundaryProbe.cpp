@@ -36,7 +36,10 @@ int main(int argc, char **argv) {
   boundary.Run([&scene] {
     if (scene == "start-up") Raise(ErrorNumber::FileNotFound, QStringLiteral("StartUp"));
   });
-  boundary.SetRecovery([] { std::puts("recovery"); });
+  boundary.SetRecovery([] {
+    std::puts("recovery");
+    return QStringList();
+  });
   boundary.StartUpDone();
 
   if (scene == "end") {

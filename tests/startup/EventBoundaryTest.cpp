@@ -77,24 +77,31 @@ TEST_F(Boundary, LaterAnErrorAbandonsTheOperationAndTheProgramGoesOn) {
 
 TEST_F(Boundary, AFailedWriteEndsTheProgramAfterTheRecoveryCopies) {
   boundary_.StartUpDone();
-  boundary_.SetRecovery([this] { log_.push_back(QStringLiteral("recovery")); });
-  dialogs_.ExpectMessage(BoxFor(FailedWrite) + TheEnd);
+  boundary_.SetRecovery([this] {
+    log_.push_back(QStringLiteral("recovery"));
+    return QStringList{QStringLiteral("/home/u/Recovered1.htm")};
+  });
+  const QString box = BoxFor(FailedWrite) + TheEnd +
+                      QStringLiteral("\n\nCopies of your unsaved pages: /home/u/Recovered1.htm");
+  dialogs_.ExpectMessage(box);
   EXPECT_EQ(EndedBy(FailedWrite), 1);
-  const CallLog order = {QStringLiteral("recovery"),
-                         QStringLiteral("ShowMessage(%1)").arg(BoxFor(FailedWrite) + TheEnd),
+  const CallLog order = {QStringLiteral("recovery"), QStringLiteral("ShowMessage(%1)").arg(box),
                          QStringLiteral("EndProgram(1)")};
   EXPECT_EQ(log_, order);
 }
 
 TEST_F(Boundary, NoRecoveryCopiesAreWrittenWhenTheProgramGoesOn) {
   boundary_.StartUpDone();
-  boundary_.SetRecovery([] { ADD_FAILURE() << "recovery copies were written"; });
+  boundary_.SetRecovery([] {
+    ADD_FAILURE() << "recovery copies were written";
+    return QStringList();
+  });
   dialogs_.ExpectMessage(BoxFor(MissingFile));
   EXPECT_EQ(EndedBy(MissingFile), std::nullopt);
 }
 
 TEST_F(Boundary, ARecoveryThatFailsIsReportedAndTheProgramStillEnds) {
-  boundary_.SetRecovery([] { throw FailedWrite; });
+  boundary_.SetRecovery([]() -> QStringList { throw FailedWrite; });
   dialogs_.ExpectMessage(BoxFor(MissingFile) + TheEnd);
   EXPECT_EQ(EndedBy(MissingFile), 1);
   const std::string report = StandardError();
