@@ -20,8 +20,9 @@ int main(int argc, char **argv) {
   std::unique_ptr<MfrmProgram> mainWindow;
   RealStartUpWindows windows(real.parts, values, [&] {
     mainWindow = std::make_unique<MfrmProgram>(real.parts, values);
+    // Not quit(), which would ask every window once more.
     QObject::connect(mainWindow.get(), &MfrmProgram::Unloaded, &application,
-                     &QCoreApplication::quit, Qt::QueuedConnection);
+                     [] { QCoreApplication::exit(); });
     mainWindow->Load();
   });
   boundary.Run([&] { StartUp(real.parts, values, windows); });

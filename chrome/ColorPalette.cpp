@@ -39,9 +39,8 @@ class ColorField final : public QToolButton {
     painter.setRenderHint(QPainter::Antialiasing);
     const bool marked = hasFocus() || underMouse();
     const QRectF square = QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5);
-    painter.setPen(Contrast(color_, palette().color(QPalette::Base)) < 1.5
-                       ? palette().color(QPalette::Dark)
-                       : color_.darker(115));
+    painter.setPen(Contrast(color_, palette().color(QPalette::Base)) < 1.5 ? BoxEdge(palette())
+                                                                           : color_.darker(115));
     painter.setBrush(color_);
     painter.drawRoundedRect(square, 3, 3);
     if (!marked) return;

@@ -73,9 +73,8 @@ void ColorPicker::paintEvent(QPaintEvent *) {
                isEnabled() ? QIcon::Normal : QIcon::Disabled);
   const QColor shown = FromValue(color_);
   const QRectF bar(place.left(), place.bottom() - BarHeight + 2, place.width(), BarHeight);
-  painter.setPen(Contrast(shown, palette().color(QPalette::Window)) < 1.5
-                     ? QPen(palette().color(QPalette::Dark))
-                     : QPen(shown));
+  painter.setPen(Contrast(shown, palette().color(QPalette::Window)) < 1.5 ? QPen(BoxEdge(palette()))
+                                                                          : QPen(shown));
   painter.setBrush(shown);
   painter.drawRoundedRect(bar.adjusted(0.5, 0.5, -0.5, -0.5), 1.5, 1.5);
   const QPointF tip(width() - BarMargin - 3.5, height() / 2.0 + 1.5);

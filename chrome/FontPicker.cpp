@@ -12,6 +12,7 @@
 #include <QListView>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QStringList>
 #include <QStyledItemDelegate>
 
 namespace velor {
@@ -20,7 +21,8 @@ namespace {
 constexpr int RowHeight = 30;
 constexpr int ListWidth = 260;
 
-/// Draws a family's name in its own face; in the program's where that face lacks Latin letters.
+/// Draws a family's name in its own face; in the program's where that face has no letters to read
+/// it by.
 /// Only rows that come into view load their font.
 class FamilyDelegate final : public QStyledItemDelegate {
  public:
@@ -43,7 +45,8 @@ class FamilyDelegate final : public QStyledItemDelegate {
     if (known != faces_.constEnd()) return *known;
     QFont face = own;
     face.setPointSizeF(own.pointSizeF() * 1.15);
-    if (QFontDatabase::writingSystems(family).contains(QFontDatabase::Latin)) {
+    const auto systems = QFontDatabase::writingSystems(family);
+    if (systems.contains(QFontDatabase::Latin) && !systems.contains(QFontDatabase::Symbol)) {
       face.setFamilies({family});
     }
     return *faces_.insert(family, face);
@@ -51,6 +54,19 @@ class FamilyDelegate final : public QStyledItemDelegate {
 
   mutable QHash<QString, QFont> faces_;
 };
+
+/// The installed families as pages name them: without the maker that tells files of one family
+/// apart ("Some Face [maker]").
+QStringList Families() {
+  QStringList families;
+  for (QString family : QFontDatabase::families()) {
+    if (QFontDatabase::isPrivateFamily(family)) continue;
+    if (family.endsWith(u']')) family.truncate(family.lastIndexOf(QStringLiteral(" [")));
+    families.append(family);
+  }
+  families.removeDuplicates();
+  return families;
+}
 
 }  // namespace
 
@@ -75,9 +91,7 @@ void FontPicker::Initialise() {
   const QSignalBlocker silence(this);
   const QString name = shown_;
   clear();
-  for (const QString &family : QFontDatabase::families()) {
-    if (!QFontDatabase::isPrivateFamily(family)) addItem(family);
-  }
+  addItems(Families());
   SetFontName(name);
 }
 

@@ -6,11 +6,15 @@
 
 #include <QPainter>
 #include <QStyleOption>
+#include <QWidget>
 
 #include <algorithm>
 
 namespace velor {
 namespace {
+
+/// Room left and right of a button's picture and text.
+constexpr int BesideIconPadding = 6;
 
 void FillRounded(QPainter *painter, const QRect &rect, const QColor &color) {
   painter->save();
@@ -31,6 +35,65 @@ void DrawButtonField(const QStyleOption *option, QPainter *painter) {
   } else if (enabled && (option->state & QStyle::State_MouseOver)) {
     FillRounded(painter, option->rect, HoverField(option->palette));
   }
+}
+
+/// The field and edge of boxes and push buttons; the edge tells the keyboard's place.
+void DrawBox(const QStyleOption *option, QPainter *painter, const QColor &field) {
+  const QPalette &palette = option->palette;
+  const bool enabled = option->state & QStyle::State_Enabled;
+  QColor edge = enabled ? BoxEdge(palette) : Hairline(palette);
+  if (enabled && (option->state & QStyle::State_HasFocus)) {
+    edge = palette.color(QPalette::Highlight);
+  } else if (enabled && (option->state & QStyle::State_MouseOver)) {
+    edge = QuietText(palette);
+  }
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(edge);
+  painter->setBrush(field);
+  painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), Rounding - 0.5,
+                           Rounding - 0.5);
+  painter->restore();
+}
+
+void DrawEntryBox(const QStyleOption *option, QPainter *painter) {
+  const bool enabled = option->state & QStyle::State_Enabled;
+  DrawBox(option, painter, option->palette.color(enabled ? QPalette::Base : QPalette::Window));
+}
+
+void DrawPushButton(const QStyleOption *option, QPainter *painter) {
+  const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+  QStyleOption box(*option);
+  if (button && (button->features & QStyleOptionButton::DefaultButton)) {
+    box.state |= QStyle::State_HasFocus;
+  }
+  QColor field = option->palette.color(QPalette::Button);
+  if (option->state & (QStyle::State_Sunken | QStyle::State_On)) {
+    field = PressedField(option->palette);
+  } else if ((option->state & QStyle::State_MouseOver) && (option->state & QStyle::State_Enabled)) {
+    field = HoverField(option->palette);
+  }
+  DrawBox(&box, painter, field);
+}
+
+void DrawComboArrow(const QStyleOptionComplex *option, QPainter *painter, const QRect &place) {
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setBrush(Qt::NoBrush);
+  const bool enabled = option->state & QStyle::State_Enabled;
+  painter->setPen(QPen(enabled ? QuietText(option->palette)
+                               : option->palette.color(QPalette::Disabled, QPalette::Text),
+                       1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const QPointF tip = QRectF(place).center() + QPointF(0, 2);
+  painter->drawPolyline(QPolygonF{{tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}});
+  painter->restore();
+}
+
+void DrawToolBar(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
+  painter->fillRect(option->rect, option->palette.window());
+  if (widget && widget->property(HouseStyle::OnBand).toBool()) return;
+  painter->fillRect(QRect(option->rect.left(), option->rect.bottom(), option->rect.width(), 1),
+                    Hairline(option->palette));
 }
 
 void DrawSeparator(const QStyleOption *option, QPainter *painter) {
@@ -61,6 +124,16 @@ HouseStyle::HouseStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                QPainter *painter, const QWidget *widget) const {
   switch (element) {
+    case PE_PanelLineEdit:
+      // A box within a box (a combo box's, a spin box's) has no edge of its own.
+      if (const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+          frame && frame->lineWidth > 0) {
+        DrawEntryBox(option, painter);
+      }
+      return;
+    case PE_PanelButtonCommand:
+      DrawPushButton(option, painter);
+      return;
     case PE_PanelButtonTool:
       DrawButtonField(option, painter);
       return;
@@ -84,6 +157,17 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption *option,
                              const QWidget *widget) const {
   switch (element) {
     case CE_ToolBar:
+      DrawToolBar(option, painter, widget);
+      return;
+    case CE_ToolButtonLabel:
+      if (const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(option);
+          button && button->toolButtonStyle == Qt::ToolButtonTextBesideIcon) {
+        QStyleOptionToolButton inset(*button);
+        inset.rect.adjust(BesideIconPadding, 0, -BesideIconPadding, 0);
+        QProxyStyle::drawControl(element, &inset, painter, widget);
+        return;
+      }
+      break;
     case CE_MenuBarEmptyArea:
       painter->fillRect(option->rect, option->palette.window());
       return;
@@ -99,6 +183,17 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption *option,
   QProxyStyle::drawControl(element, option, painter, widget);
 }
 
+void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                    QPainter *painter, const QWidget *widget) const {
+  const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+  if (control == CC_ComboBox && combo && combo->frame) {
+    DrawEntryBox(option, painter);
+    DrawComboArrow(option, painter, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
+    return;
+  }
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                             const QWidget *widget) const {
   switch (metric) {
@@ -106,8 +201,9 @@ int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
       return ToolIconSize;
     case PM_ToolBarItemSpacing:
       return BarSpacing;
-    case PM_ToolBarFrameWidth:
     case PM_ToolBarItemMargin:
+      return BarMargin - BarSpacing;
+    case PM_ToolBarFrameWidth:
     case PM_MenuBarPanelWidth:
       return 0;
     case PM_ToolBarSeparatorExtent:
@@ -133,7 +229,15 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption *option
       result.setHeight(std::max(result.height(), BoxHeight));
       break;
     case CT_MenuBarItem:
+      result += QSize(BarMargin, 0);
       result.setHeight(std::max(result.height(), BoxHeight));
+      break;
+    case CT_ToolButton:
+      result.setHeight(std::max(result.height(), BoxHeight));
+      if (const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(option)) {
+        const bool texted = button->toolButtonStyle == Qt::ToolButtonTextBesideIcon;
+        result.setWidth(std::max(result.width(), BoxHeight) + (texted ? BesideIconPadding : 0));
+      }
       break;
     default:
       break;

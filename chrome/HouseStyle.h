@@ -5,19 +5,24 @@
 
 namespace velor {
 
-/// Fusion with calmer bars: flat fields, hairlines instead of bevels, round corners under the
-/// pointer, room around the icons, our own pictures in message boxes. Boxes, buttons and lists stay
-/// Fusion's own, so that their sizes are what other windows reckon with.
+/// Fusion drawn calmer: flat fields, hairlines instead of bevels, round corners under the pointer,
+/// room around the icons, our own pictures in message boxes. Where things lie within a control
+/// stays Fusion's business.
 class HouseStyle final : public QProxyStyle {
   Q_OBJECT
 
  public:
+  /// A toolbar with this property set lies on a larger band and draws no line below itself.
+  static constexpr const char *OnBand = "velorOnBand";
+
   HouseStyle();
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
   void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                    const QWidget *widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                          QPainter *painter, const QWidget *widget) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption *option,
                   const QWidget *widget) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,

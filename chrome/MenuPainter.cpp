@@ -67,6 +67,20 @@ void DrawShortcutAndText(QPainter *painter, const QStyleOptionMenuItem *item, co
   }
 }
 
+/// The picture beside an item; in the text's colour where its own ink, made for the palette, would
+/// sink into the menu's field or highlight.
+void DrawIcon(QPainter *painter, const QIcon &icon, const QRect &place, QIcon::Mode mode,
+              const QColor &text, const QPalette &palette) {
+  QPixmap picture = icon.pixmap(place.size(), painter->device()->devicePixelRatio(), mode);
+  constexpr double OtherSide = 3;
+  if (Contrast(palette.color(QPalette::ButtonText), text) > OtherSide) {
+    QPainter tint(&picture);
+    tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    tint.fillRect(picture.rect(), text);
+  }
+  painter->drawPixmap(place, picture);
+}
+
 void DrawArrow(QPainter *painter, const QRect &item, const QColor &color) {
   const QPointF middle(item.right() - ArrowColumn / 2.0, item.center().y() + 0.5);
   painter->setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
@@ -220,7 +234,8 @@ class StyleMenuPainter::Style final : public QProxyStyle {
     if (!item->icon.isNull()) {
       const QRect place(item->rect.left() + ItemSpace,
                         item->rect.center().y() - MenuIconSize / 2 + 1, MenuIconSize, MenuIconSize);
-      item->icon.paint(painter, place, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
+      DrawIcon(painter, item->icon, place, enabled ? QIcon::Normal : QIcon::Disabled, text,
+               item->palette);
     } else if (item->checked) {
       DrawCheck(painter, item->rect, text);
     }

@@ -122,6 +122,10 @@ QColor Hairline(const QPalette &palette) {
   return palette.color(QPalette::Mid);
 }
 
+QColor BoxEdge(const QPalette &palette) {
+  return Mix(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.22);
+}
+
 QColor QuietText(const QPalette &palette) {
   return palette.color(QPalette::PlaceholderText);
 }

@@ -22,6 +22,8 @@ void DressApplication(QApplication &application);
 
 /// The thin line between neighbouring areas.
 QColor Hairline(const QPalette &palette);
+/// The edge of boxes and buttons.
+QColor BoxEdge(const QPalette &palette);
 /// Text that stands back: hints, captions of pages that are not in front.
 QColor QuietText(const QPalette &palette);
 /// The field behind the page windows.

@@ -3,6 +3,7 @@
 
 #include "app/window/FormattingBar.h"
 #include "app/window/GeneralToolbar.h"
+#include "chrome/HouseStyle.h"
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
 #include "editor/EditCommands.h"
@@ -33,6 +34,7 @@ QToolBar *NewToolBar(const char *name, const QString &label, QWidget *parent) {
   bar->setAccessibleName(label);
   bar->setIconSize(QSize(ToolIconSize, ToolIconSize));
   bar->setMovable(false);
+  bar->setProperty(HouseStyle::OnBand, true);
   return bar;
 }
 
@@ -64,15 +66,16 @@ CoolBar::CoolBar(QWidget *parent)
       tbrEdit(BuildEdit()) {
   setObjectName(QStringLiteral("CoolBar"));
   auto *formatting = new QHBoxLayout;
-  formatting->setSpacing(2 * BarMargin);
+  formatting->setContentsMargins(BarMargin - BarSpacing, 0, 0, 0);
+  formatting->setSpacing(BarMargin);
   formatting->addWidget(boxes_);
   formatting->addWidget(tbrEdit, 1);
   // One row for the eye: the colours close it.
   tbrEdit->addWidget(boxes_->ColorPickers());
 
   auto *bands = new QVBoxLayout(this);
-  bands->setContentsMargins(BarMargin, BarMargin - 2, BarMargin, BarMargin);
-  bands->setSpacing(BarMargin - 2);
+  bands->setContentsMargins(BarSpacing, 0, BarSpacing, 1);
+  bands->setSpacing(0);
   bands->addWidget(tbrGeneral);
   bands->addLayout(formatting);
 }

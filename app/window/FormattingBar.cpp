@@ -13,6 +13,7 @@
 namespace velor {
 namespace {
 
+constexpr std::int32_t PaperWhite = 0xFFFFFF;
 constexpr int FormatWidth = 150;
 constexpr int FontWidth = 190;
 constexpr int SizeWidth = 64;
@@ -42,6 +43,7 @@ FormattingBar::FormattingBar(QWidget *parent)
   cpFore = Named(new ColorPicker(QStringLiteral("forecolor"), colors_), "cpFore", tr("Text Color"));
   cpBack = Named(new ColorPicker(QStringLiteral("backcolor"), colors_), "cpBack",
                  tr("Background Color"));
+  cpBack->SetColor(PaperWhite);
   cobFormat->setFixedWidth(FormatWidth);
   Font1->setFixedWidth(FontWidth);
   cobSize->setFixedWidth(SizeWidth);

@@ -26,12 +26,23 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
 #include <QPointer>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
 namespace velor {
 namespace {
+
+/// The row of the page tabs, of the backdrop's colour so that the tab in front belongs to what lies
+/// below it.
+class TabRow final : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  void paintEvent(QPaintEvent *) override { QPainter(this).fillRect(rect(), Backdrop(palette())); }
+};
 
 constexpr QSize FirstSize(1180, 800);
 constexpr int ChooserWidth = 240;
@@ -101,7 +112,7 @@ void MfrmProgram::BuildLayout() {
 }
 
 QWidget *MfrmProgram::BuildTabRow() {
-  auto *picFileTab = new QWidget(this);
+  auto *picFileTab = new TabRow(this);
   picFileTab->setObjectName(QStringLiteral("picFileTab"));
   FileTab->setObjectName(QStringLiteral("FileTab"));
   FileTab->setAccessibleName(tr("Pages"));
@@ -113,7 +124,7 @@ QWidget *MfrmProgram::BuildTabRow() {
   CmbPages->setFixedWidth(ChooserWidth);
 
   auto *row = new QHBoxLayout(picFileTab);
-  row->setContentsMargins(BarMargin, BarMargin, BarMargin, 0);
+  row->setContentsMargins(BarMargin, BarMargin - BarSpacing, BarMargin, 0);
   row->setSpacing(BarMargin);
   row->addWidget(FileTab, 1, Qt::AlignBottom);
   row->addWidget(FileTab2);
@@ -125,6 +136,7 @@ QWidget *MfrmProgram::BuildTabRow() {
 void MfrmProgram::BuildStatusBar() {
   auto *Sta = new QStatusBar(this);
   Sta->setObjectName(QStringLiteral("Sta"));
+  Sta->setSizeGripEnabled(false);
   statusText_ = new QLabel(Sta);
   statusText_->setObjectName(QStringLiteral("Sta_1"));
   statusText_->setTextFormat(Qt::PlainText);

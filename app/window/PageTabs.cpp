@@ -121,12 +121,12 @@ void PageTabs::paintEvent(QPaintEvent *) {
     QStyleOptionTab option;
     initStyleOption(&option, index);
     if (front) {
-      painter.fillRect(tab, palette().base());
+      painter.fillRect(tab, palette().window());
       painter.fillRect(tab.left(), tab.top(), tab.width(), MarkHeight, palette().highlight());
       painter.fillRect(tab.left(), tab.top(), 1, tab.height(), line);
       painter.fillRect(tab.right(), tab.top(), 1, tab.height(), line);
     } else if (option.state & QStyle::State_MouseOver) {
-      painter.fillRect(tab.adjusted(0, MarkHeight, 0, 0), HoverField(palette()));
+      painter.fillRect(tab.adjusted(1, MarkHeight, 0, 0), HoverField(palette()));
     }
     QRect place = tab.adjusted(TabPadding, MarkHeight, -TabPadding, 0);
     QRect picture(QPoint(), iconSize());

@@ -2,6 +2,7 @@
 #include "app/window/ProjectPageQuery.h"
 
 #include "platform/Database.h"
+#include "projects/Statements.h"
 
 namespace velor {
 
@@ -12,8 +13,8 @@ std::optional<QString> ProjectPageQuery::PathOf(int pageId, DatabaseConnection &
   if (!recordset_) recordset_ = connection.CreateRecordset();
   if (recordset_->State() == ObjectState::Open) recordset_->Close();
   recordset_->SetCursorLocation(CursorLocation::Client);
-  recordset_->Open(QStringLiteral("Select * from Page where PageId = ") + QString::number(pageId),
-                   connection, CursorType::Static, LockType::ReadOnly, CommandTypeUnspecified);
+  recordset_->Open(Statements::PageById(pageId), connection, CursorType::Static, LockType::ReadOnly,
+                   CommandTypeUnspecified);
   if (recordset_->RecordCount() < 1) return std::nullopt;
   return recordset_->Value(QStringLiteral("TPath")).toString() +
          recordset_->Value(QStringLiteral("Path")).toString();

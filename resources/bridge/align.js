@@ -19,7 +19,9 @@
 
   function read(unit) {
     const { block, container } = unit;
-    if (block && objects.has(block.tagName)) return block.getAttribute('align')?.toLowerCase() || 'left';
+    if (block && objects.has(block.tagName)) {
+      return block.getAttribute('align')?.toLowerCase() || 'left';
+    }
     return sideOf(block || container);
   }
 

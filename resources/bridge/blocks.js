@@ -30,7 +30,8 @@
     const { tagName, parentNode } = element;
     if (tagName === 'LISTING' || tagName === 'XMP') return 'Formatted';
     if (tagName === 'P') return null;
-    const fits = (each) => each.element === tagName && (tagName !== 'LI' || each.list === parentNode.tagName);
+    const fits = (each) => each.element === tagName &&
+      (tagName !== 'LI' || each.list === parentNode.tagName);
     return formats.find(fits)?.name;
   }
 
@@ -41,6 +42,8 @@
     }
     return 'Normal';
   }
+
+  const isPreformatted = (block) => Boolean(block) && /^(PRE|LISTING|XMP)$/.test(block.tagName);
 
   // Line ends show in preformatted text only; elsewhere they are breaks.
   function breakLines(element) {
@@ -68,9 +71,21 @@
     }
     const inside = dom.ancestor(block || container, (node) => node.tagName === tag, dom.isCell);
     if (inside && tag !== 'P') return;
-    const preformatted = block && /^(PRE|LISTING|XMP)$/.test(block.tagName);
+    const preformatted = isPreformatted(block);
     const element = velor.units.become(unit, tag);
     if (preformatted) breakLines(element);
+  }
+
+  // A format chosen by name takes the place of the one that is there: an item is no heading then.
+  function becomePlain({ block }) {
+    if (!block || !dom.isParagraph(block) || /^(P|DT)$/.test(block.tagName)) return;
+    const preformatted = isPreformatted(block);
+    const paragraph = dom.rename(block, 'P');
+    if (preformatted) breakLines(paragraph);
+    const item = paragraph.parentNode;
+    const alone = /^(LI|DT|DD)$/.test(item.tagName) && !paragraph.attributes.length &&
+      !dom.neighbour(paragraph, 'previousSibling') && !dom.neighbour(paragraph, 'nextSibling');
+    if (alone) dom.unwrap(paragraph);
   }
 
   function apply(name, range) {
@@ -80,7 +95,10 @@
     const units = velor.units.unitsIn(range);
     if (units.every((unit) => read(unit) === format.name)) return;
     if (format.list) {
-      velor.lists.make(units, format.list, format.element);
+      units.forEach(becomePlain);
+      velor.selection.restore(kept);
+      const plain = velor.units.unitsIn(velor.selection.range());
+      velor.lists.make(plain, format.list, format.element);
     } else if (format.element === 'P') {
       velor.lists.unlist();
       velor.units.unitsIn(velor.selection.range()).forEach((unit) => becomeParagraph(unit, format));

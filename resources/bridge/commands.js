@@ -11,11 +11,27 @@
   const Latched = 7;
   const Ninched = 11;
 
-  const spread = (answers) =>
-    answers.length && answers.every(Boolean) ? Latched : answers.some(Boolean) ? Ninched : Enabled;
+  // Both stop reading as soon as the answer is known: a selection may be the whole of a long page.
+  function spread(subjects, fits) {
+    let some = false;
+    let all = true;
+    for (const subject of subjects) {
+      if (fits(subject)) some = true;
+      else all = false;
+      if (some && !all) return Ninched;
+    }
+    return some ? Latched : Enabled;
+  }
   // The one value of all, or the empty text.
-  const common = (values, same = (one, other) => one === other) =>
-    values.length && values.every((value) => same(value, values[0])) ? values[0] : '';
+  function common(subjects, read, same = (one, other) => one === other) {
+    let first = null;
+    for (const subject of subjects) {
+      const value = read(subject);
+      first ??= value;
+      if (!same(value, first)) return '';
+    }
+    return first ?? '';
+  }
 
   // What a command may want to know of the selection, each read once and only when asked for.
   velor.view = () => {
@@ -27,24 +43,24 @@
     return {
       range,
       object: velor.selection.control(range),
-      texts: once(() => velor.selection.textsIn(range, velor.selection.textLimit)),
+      elements: once(() => {
+        const texts = velor.selection.textsIn(range, velor.selection.textLimit);
+        return [...new Set(texts.map((text) => text.parentElement))];
+      }),
       units: once(() => velor.units.unitsIn(range, velor.selection.textLimit)),
     };
   };
 
-  // The values of a character format in the selection, or at the caret.
-  function readings({ range, texts }, name) {
-    const { read } = velor.formats[name];
-    if (texts().length) {
-      const parents = new Set(texts().map((text) => text.parentElement));
-      return [...parents].map(read);
-    }
-    return [velor.pending.has(name) ? velor.pending.get(name) : read(velor.selection.caretElement(range))];
-  }
+  // Where a character format is to be read: the elements of the selected texts, or the caret.
+  const subjects = ({ range, elements }) =>
+    (elements().length ? elements() : [velor.selection.caretElement(range)]);
+  // Reads a format at an element; what was chosen for the text to come counts at a caret.
+  const reader = (name, view) =>
+    (velor.pending.has(name) && !view.elements().length
+      ? () => velor.pending.get(name) : velor.formats[name].read);
 
-  function put(name, value, { range, texts }) {
-    const kept = range.collapsed || !texts().length;
-    if (kept) velor.pending.set(name, value);
+  function put(name, value, { range, elements }) {
+    if (!elements().length) velor.pending.set(name, value);
     else velor.inline.apply(name, value, range);
   }
 
@@ -56,28 +72,26 @@
   };
 
   const toggle = (name) => ({
-    status: whereText((view) => spread(readings(view, name))),
-    run: (value, view) => put(name, spread(readings(view, name)) !== Latched, view),
+    status: whereText((view) => spread(subjects(view), reader(name, view))),
+    run: (value, view) =>
+      put(name, spread(subjects(view), reader(name, view)) !== Latched, view),
   });
 
   const character = (name) => ({
     status: whereText(() => Enabled),
     run(value, view) {
-      const format = velor.formats[name];
-      const wanted = format.parse(value);
-      if (wanted === '') return;
-      if (readings(view, name).every((each) => format.same(each, wanted))) return;
-      put(name, wanted, view);
+      const wanted = velor.formats[name].parse(value);
+      if (wanted !== '') put(name, wanted, view);
     },
   });
 
   const justify = (side) => ({
-    status: (view) => spread(view.units().map((unit) => velor.align.read(unit) === side)),
+    status: (view) => spread(view.units(), (unit) => velor.align.read(unit) === side),
     run: onUnits((units) => units.forEach((unit) => velor.align.apply(unit, side))),
   });
 
   const list = (tag) => {
-    const status = (view) => spread(view.units().map((unit) => velor.lists.tagOf(unit) === tag));
+    const status = (view) => spread(view.units(), (unit) => velor.lists.tagOf(unit) === tag);
     return {
       status: (view) => (view.units().length ? status(view) : Disabled),
       run(value, view) {
@@ -88,10 +102,8 @@
   };
 
   const query = (value) => ({ status: () => Enabled, value });
-  const reading = (name) => query((view) => {
-    const { same } = velor.formats[name];
-    return common(readings(view, name), same);
-  });
+  const reading = (name) => query((view) =>
+    common(subjects(view), reader(name, view), velor.formats[name].same));
 
   // Carried out by the engine itself at the program's call; only its status is answered here.
   const byEngine = (status) => ({ status });
@@ -115,7 +127,7 @@
       },
     }],
     [5010, reading('backColor')],
-    [5011, query((view) => common(view.units().map(velor.blocks.read)))],
+    [5011, query((view) => common(view.units(), velor.blocks.read))],
     [5013, reading('fontName')],
     [5014, reading('fontSize')],
     [5015, reading('foreColor')],

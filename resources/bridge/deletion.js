@@ -77,7 +77,8 @@
     else first.container.append(...moved);
     const item = velor.lists.itemOf(first);
     const rest = [...home.childNodes].filter(dom.isShown);
-    if (home.tagName === 'LI' && item && rest.length && rest.every(dom.isList)) item.append(...rest);
+    const onlyLists = rest.length > 0 && rest.every(dom.isList);
+    if (home.tagName === 'LI' && item && onlyLists) item.append(...rest);
     removeEmptied(home);
     holdOpen(first.container);
     return place;

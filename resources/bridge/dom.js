@@ -45,6 +45,10 @@
     return bound('previousSibling') || bound('nextSibling');
   }
 
+  // A division that stands for a paragraph: it carries an alignment at most.
+  const isPlainDivision = (node) => isElement(node) && node.tagName === 'DIV' &&
+    [...node.attributes].every(({ name }) => name === 'align');
+
   const isShown = (node) => !isNeutral(node) && !isIgnorable(node);
 
   function nextSkippingChildren(node) {
@@ -157,6 +161,7 @@
 
   velor.dom = {
     isElement, isText, isBlock, isAtom, isBreak, isNeutral, isInline, isBlank, isIgnorable, isShown,
+    isPlainDivision,
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),
     nextNode, nextSkippingChildren, ancestor, blockOf, firstLeaf, lastLeaf, create, successor,

@@ -98,7 +98,9 @@
       // Takes the format off the element; tells what is left of it.
       strip(element) {
         velor.history.attributesOf(element);
-        if (element.style.getPropertyValue(entry.property)) takeDeclaration(element, entry.property);
+        if (element.style.getPropertyValue(entry.property)) {
+          takeDeclaration(element, entry.property);
+        }
         if (element.tagName === 'FONT') element.removeAttribute(entry.attribute);
         if (tags.has(element.tagName)) {
           if (element.attributes.length) velor.dom.rename(element, 'SPAN');
@@ -131,7 +133,6 @@
     fontName: format({
       read: (element) => style(element).fontFamily.split(',')[0].trim().replace(/^["']|["']$/g, ''),
       tags: [], attribute: 'face', property: 'font-family', write: font('face'),
-      same: (one, other) => one.toLowerCase() === other.toLowerCase(),
     }),
     fontSize: format({
       read: (element) => points(style(element).fontSize),
@@ -147,9 +148,9 @@
       read: background, tags: [], property: 'background-color', write: css('background-color'),
     }),
   };
-  const same = (one, other) => one === other || String(one).toUpperCase() === String(other).toUpperCase();
+  const same = (one, other) => String(one).toUpperCase() === String(other).toUpperCase();
   for (const each of Object.values(formats)) {
-    each.same ??= same;
+    each.same = same;
     each.parse ??= (value) => value;
   }
 

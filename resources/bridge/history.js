@@ -107,7 +107,9 @@
   });
 
   const begin = (kind, before = points()) => {
-    open = { kind, before, after: before, changes: [], seen: new Map(), names: new Map(), weight: 0 };
+    open = {
+      kind, before, after: before, changes: [], seen: new Map(), names: new Map(), weight: 0,
+    };
   };
 
   // Within a step the first value of a text or an attribute is the one to go back to.

@@ -57,7 +57,8 @@
         continue;
       }
       if (run.length && dom.neighbour(run.at(-1), 'nextSibling') !== parts[0]) flush();
-      for (let at = run.at(-1)?.nextSibling; at && at !== parts[0]; at = at.nextSibling) run.push(at);
+      const last = run.at(-1);
+      for (let at = last?.nextSibling; at && at !== parts[0]; at = at.nextSibling) run.push(at);
       run.push(...parts);
     }
     flush();

@@ -72,7 +72,7 @@
     const carriers = new Set();
     for (const text of texts) {
       const chain = [];
-      for (let at = text.parentNode; dom.isElement(at) && at !== document.body; at = at.parentNode) {
+      for (let at = text.parentNode; at !== document.body; at = at.parentNode) {
         if (carriers.has(at)) break;
         if (format.carries(at)) chain.unshift(at);
       }
@@ -95,6 +95,8 @@
     return node;
   }
 
+  const nothing = new Set();
+
   // Runs of neighbouring nodes; breaks and objects between two of them go along.
   function runsOf(tops) {
     const runs = [];
@@ -103,7 +105,7 @@
       const between = [];
       let at = run?.at(-1).nextSibling;
       while (at && at !== top && !dom.isBlock(at) && (!dom.isText(at) || dom.isBlank(at)) &&
-             coverage(at, new Set()) === 'empty') {
+             coverage(at, nothing) === 'empty') {
         between.push(at);
         at = at.nextSibling;
       }
@@ -124,7 +126,8 @@
       }
       if (only.tagName === 'SPAN') {
         const before = (only.getAttribute('style') ?? '').replace(/;?\s*$/, '');
-        only.setAttribute('style', `${before ? `${before}; ` : ''}${wrapper.getAttribute('style')}`);
+        const added = wrapper.getAttribute('style');
+        only.setAttribute('style', before ? `${before}; ${added}` : added);
         return only;
       }
     }
@@ -147,7 +150,8 @@
       while (dom.isText(at) && dom.isText(at.nextSibling)) {
         const next = at.nextSibling;
         for (const place of places) {
-          if (place.node === next) Object.assign(place, { node: at, offset: at.length + place.offset });
+          if (place.node !== next) continue;
+          Object.assign(place, { node: at, offset: at.length + place.offset });
         }
         at.appendData(next.data);
         next.remove();
@@ -160,10 +164,13 @@
     const entry = velor.formats[name];
     const touched = new Set();
     const around = (node) => {
-      for (const text of [node.previousSibling, node, node.nextSibling]) if (text) touched.add(text);
+      for (const near of [node.previousSibling, node, node.nextSibling]) {
+        if (near) touched.add(near);
+      }
     };
     texts.forEach(around);
-    for (const carrier of carriersOf(entry, texts)) pushDown(entry, carrier, new Set(texts));
+    const all = new Set(texts);
+    for (const carrier of carriersOf(entry, texts)) pushDown(entry, carrier, all);
     const left = texts.filter((text) => !entry.same(entry.read(text.parentNode), value));
     const chosen = new Set(left);
     const covers = new Map();
@@ -177,8 +184,15 @@
     return touched;
   }
 
+  function isThere(name, value, range) {
+    const { read, same } = velor.formats[name];
+    const elements = new Set(velor.selection.textsIn(range).map((text) => text.parentNode));
+    return [...elements].every((element) => same(read(element), value));
+  }
+
   // Puts a format on the text of the range and selects that text again.
   function apply(name, value, range) {
+    if (isThere(name, value, range)) return;
     const backward = document.getSelection().focusNode === range.startContainer &&
       document.getSelection().focusOffset === range.startOffset && !range.collapsed;
     const texts = isolate(range);

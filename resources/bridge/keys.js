@@ -16,6 +16,7 @@
   ]);
   const shortcuts = new Map([
     ['z', 5049], ['y', 5033], ['b', 5000], ['i', 5023], ['u', 5048], ['a', 5035],
+    ['shift+z', 5033],
   ]);
 
   const typing = new Set(['insertText', 'insertCompositionText', 'deleteCompositionText']);
@@ -38,11 +39,15 @@
     return !(/^\S/.test(data ?? '') && /\s/.test(before ?? ''));
   }
 
+  // What may hold text without a paragraph around it.
+  const bare = /^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER)$/;
+
   // Bare text becomes a paragraph before it is split; so does the first text of an empty page.
   function needsParagraph(unit, { inputType }) {
-    if (!unit || unit.block || !/^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER)$/.test(unit.container.tagName)) return false;
+    if (!unit || unit.block || !bare.test(unit.container.tagName)) return false;
     if (inputType === 'insertParagraph') return true;
-    return inputType === 'insertText' && unit.container === document.body && dom.isHollow(document.body);
+    const empty = unit.container === document.body && dom.isHollow(document.body);
+    return inputType === 'insertText' && empty;
   }
   function makeParagraph(unit) {
     const kept = velor.selection.keep();
@@ -109,7 +114,9 @@
     for (let at = element; at && at !== document.body; at = at.parentElement) {
       if (!at.id) continue;
       const bearers = document.querySelectorAll(`[id="${CSS.escape(at.id)}"]`);
-      if (bearers.length > 1 && bearers[0] !== at) at.removeAttribute('id');
+      if (bearers.length < 2 || bearers[0] === at) continue;
+      velor.history.attributesOf(at);
+      at.removeAttribute('id');
     }
   }
 
@@ -158,7 +165,7 @@
     const cells = [...table.rows].flatMap((row) => [...row.cells]);
     const next = cells[cells.indexOf(cell) + (backwards ? -1 : 1)];
     if (next) intoCell(next);
-    else if (!backwards) velor.history.step('addRow', () => intoCell(addRow(cells.at(-1).parentNode)));
+    else if (!backwards) velor.history.step('addRow', () => intoCell(addRow(cell.parentNode)));
   }
 
   function keyDown(event) {
@@ -170,7 +177,7 @@
       return;
     }
     if (!ctrlKey || altKey || metaKey) return;
-    const number = shiftKey && key.toLowerCase() === 'z' ? 5033 : !shiftKey && shortcuts.get(key.toLowerCase());
+    const number = shortcuts.get((shiftKey ? 'shift+' : '') + key.toLowerCase());
     if (!number) return;
     event.preventDefault();
     velor.exec(number);

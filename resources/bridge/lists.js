@@ -93,12 +93,14 @@
         join(dom.rename(isolate(group), outer));
       }
     }
-    for (const unit of units.filter((each) => !itemOf(each) && !loose.includes(each.block))) {
-      loose.push(...(unit.block && !unit.block.isConnected ? [] : [makeItem(unit, inner)]));
-    }
-    gather(loose.map((node) => (isItem(node) ? node : makeItem({ block: node, nodes: [] }, inner))),
-      outer);
+    const asItem = (block) => makeItem({ block, nodes: [] }, inner);
+    const fresh = units.filter((unit) => !itemOf(unit) && !loose.includes(unit.block) &&
+      (unit.block ?? unit.container).isConnected);
+    const items = [...loose.map(asItem), ...fresh.map((unit) => makeItem(unit, inner))];
+    gather(items.sort(inOrder), outer);
   }
+  const inOrder = (one, other) =>
+    (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1);
 
   // Puts neighbouring items that stand outside any list into one.
   function gather(items, outer) {
@@ -121,9 +123,7 @@
   function toParagraphs(item) {
     const shown = [...item.childNodes].filter(dom.isShown);
     const [only] = shown;
-    const sole = shown.length === 1 && dom.isElement(only) && only.tagName === 'DIV' &&
-      [...only.attributes].every(({ name }) => name === 'align');
-    if (sole && ![...only.children].some(dom.isBlock)) {
+    if (shown.length === 1 && dom.isPlainDivision(only) && ![...only.children].some(dom.isBlock)) {
       const paragraph = dom.rename(only, 'P');
       dom.unwrap(item);
       return [paragraph];

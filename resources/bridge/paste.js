@@ -44,7 +44,8 @@
   }
 
   function putBlocks(fragment, node, offset) {
-    const items = [...fragment.children].length > 0 && [...fragment.children].every((e) => e.tagName === 'LI');
+    const tops = [...fragment.children];
+    const items = tops.length > 0 && tops.every(({ tagName }) => tagName === 'LI');
     const top = cutAt(node, items);
     const last = fragment.lastChild;
     if (!top) {

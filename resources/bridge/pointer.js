@@ -26,7 +26,8 @@
     tell();
   }
 
-  const objects = 'IMG, HR, OBJECT, EMBED, APPLET, IFRAME, VIDEO, AUDIO, INPUT, BUTTON, SELECT, TEXTAREA';
+  const objects = 'IMG, HR, OBJECT, EMBED, APPLET, IFRAME, VIDEO, AUDIO, ' +
+    'INPUT, BUTTON, SELECT, TEXTAREA';
   function clicked({ target }) {
     if (!velor.editable() || !(target instanceof Element)) return;
     // A table itself is hit only on its border, outside its cells.

@@ -6,7 +6,7 @@
   const { isText, isAtom, isElement, isNeutral, firstLeaf, lastLeaf, nextNode } = velor.dom;
 
   // States of longer selections are judged by their first texts.
-  const textLimit = 5000;
+  const textLimit = 2000;
   const controls = new Set(['APPLET', 'EMBED', 'HR', 'IFRAME', 'IMG', 'INPUT', 'OBJECT', 'SELECT',
     'TABLE', 'TEXTAREA', 'VIDEO', 'AUDIO', 'BUTTON', 'MARQUEE']);
 
@@ -140,7 +140,8 @@
     if (isText(startContainer)) return startContainer.parentElement;
     const child = startContainer.childNodes[startOffset] || startContainer.lastChild;
     const leaf = child && firstLeaf(child);
-    return leaf && !velor.dom.isBlock(leaf) && !isNeutral(leaf) ? leaf.parentElement : startContainer;
+    const inline = leaf && !velor.dom.isBlock(leaf) && !isNeutral(leaf);
+    return inline ? leaf.parentElement : startContainer;
   }
 
   // A page that was just loaded has its caret at the start.

@@ -112,11 +112,11 @@
   // paragraph of another kind. Returns the element.
   function become(found, tag) {
     const { block, nodes, container } = found;
-    const plainDiv = block?.tagName === 'DIV' && [...block.attributes].every((a) => a.name === 'align');
-    if (block && (dom.isParagraph(block) && block.tagName !== 'DT' || plainDiv)) {
+    const paragraph = block && dom.isParagraph(block) && block.tagName !== 'DT';
+    if (paragraph || dom.isPlainDivision(block)) {
       return dom.rename(block, tag);
     }
-    return enclose({ container, nodes: nodes }, dom.create(tag));
+    return enclose({ container, nodes }, dom.create(tag));
   }
 
   // Puts an element around the unit's nodes; into the container where it has none.

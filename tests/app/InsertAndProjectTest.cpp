@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/window/InsertCommands.h"
+#include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "insert/frmInsertElement.h"
+#include "projects/frmProjectManager.h"
 #include "tests/app/WindowFixture.h"
 
 #include <QPushButton>
@@ -87,15 +88,88 @@ TEST_F(InsertTest, ACancelledTableDialogPastesTheTextLeftBefore) {
   EXPECT_EQ(log.back(), QStringLiteral("PasteHTML(<b>before</b>)"));
 }
 
+const QString Sample = QStringLiteral("\\site");
+
 class ProjectTest : public WindowFixture {
  protected:
   ProjectTest() {
     values.DbConnection = database.CreateConnection();
     values.DbConnection->Open(QStringLiteral("Data Source=\\eThumbs.mdb"), {}, {}, -1);
+    const FakeRows project{
+        .columns = {{.name = QStringLiteral("IdProject"), .type = ColumnType::Integer},
+                    {.name = QStringLiteral("Name")},
+                    {.name = QStringLiteral("Path")},
+                    {.name = QStringLiteral("DtModified")}},
+        .rows = {{12, QStringLiteral("Sample"), Sample, QString()}}};
+    database.results[QStringLiteral("Select * from Project where Created = true")] = project;
+    database.results[QStringLiteral("Select * from Project where IdProject = '12'")] = project;
+    database
+        .results[QStringLiteral("Select * from Page where ProjectId = '12' Order by Pagename")] = {
+        .columns = {{.name = QStringLiteral("PageId"), .type = ColumnType::Integer},
+                    {.name = QStringLiteral("PageName")}},
+        .rows = {{31, QStringLiteral("About")}, {30, QStringLiteral("Home")}}};
+    WriteFile(Sample + QStringLiteral("\\Index.htm"));
+    WriteFile(Sample + QStringLiteral("\\Files\\Home.htm"));
+  }
+
+  PageChooser &Chooser() { return *Find<PageChooser>("CmbPages"); }
+
+  static void OpenProject(QWidget &manager) {
+    manager.findChild<QPushButton *>(QStringLiteral("cmdOpen"))->click();
   }
 };
 
-TEST_F(ProjectTest, ADatabaseThatFailsLeavesTheErrorToTheEventBoundary) {
+TEST_F(ProjectTest, ItemAndButtonShowTheProjectManagerModally) {
+  int shown = 0;
+  for (int i = 0; i < 2; ++i) {
+    dialogs.ExpectModal([&](QWidget &manager) {
+      EXPECT_NE(dynamic_cast<frmProjectManager *>(&manager), nullptr);
+      ++shown;
+    });
+  }
+  Choose("mnuView_ProjectMan");
+  Click("tbrGeneral_startman");
+  EXPECT_EQ(shown, 2);
+}
+
+TEST_F(ProjectTest, OpeningAProjectReplacesPagesTabsAndChooser) {
+  NewPage();
+  NewPage();
+  Chooser().AddPage(QStringLiteral("of another project"), 7);
+  dialogs.ExpectModal(OpenProject);
+  Choose("mnuView_ProjectMan");
+  ASSERT_EQ(Tabs().count(), 1);
+  EXPECT_EQ(Tabs().tabText(0), QStringLiteral("Home.htm"));
+  EXPECT_EQ(Tabs().tabData(0).toString(), QStringLiteral("key3"));
+  EXPECT_TRUE(window.Context().pages.Page(1).isNull());
+  EXPECT_TRUE(window.Context().pages.Page(2).isNull());
+  ASSERT_EQ(Chooser().count(), 2);
+  EXPECT_EQ(Chooser().itemText(0), QStringLiteral("About"));
+  EXPECT_EQ(Chooser().itemData(1).toInt(), 30);
+  EXPECT_TRUE(Item("mnuInsert")->isEnabled());
+}
+
+TEST_F(ProjectTest, AManagerHiddenByOpeningIsKeptAClosedOneIsNot) {
+  QPointer<QWidget> first;
+  dialogs.ExpectModal([&](QWidget &manager) {
+    first = &manager;
+    OpenProject(manager);
+  });
+  Choose("mnuView_ProjectMan");
+  dialogs.ExpectModal([&](QWidget &manager) {
+    EXPECT_EQ(&manager, first);
+    manager.show();
+    manager.close();
+  });
+  Choose("mnuView_ProjectMan");
+  DeleteClosedWindows();
+  EXPECT_TRUE(first.isNull());
+  dialogs.ExpectModal([](QWidget &manager) { EXPECT_FALSE(manager.isVisible()); });
+  Choose("mnuView_ProjectMan");
+}
+
+TEST_F(ProjectTest, ADatabaseThatFailsIsTheEventBoundarysBusiness) {
+  database.results.clear();
   EXPECT_THROW(window.Router().Run({CommandId::ProjectManager}), RuntimeError);
 }
 

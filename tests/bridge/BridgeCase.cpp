@@ -33,11 +33,6 @@ QString Escaped(QString text) {
   return text.replace(QStringLiteral("\n"), QStringLiteral("\\n"));
 }
 
-QString Quoted(const QString &text) {
-  const QByteArray json = QJsonDocument(QJsonObject{{"t", text}}).toJson(QJsonDocument::Compact);
-  return QString::fromUtf8(json.mid(5, json.size() - 6));
-}
-
 QStringList LinesOf(const QString &path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return {};
@@ -45,6 +40,11 @@ QStringList LinesOf(const QString &path) {
 }
 
 }  // namespace
+
+QString ScriptText(const QString &text) {
+  const QByteArray json = QJsonDocument(QJsonObject{{"t", text}}).toJson(QJsonDocument::Compact);
+  return QString::fromUtf8(json.mid(5, json.size() - 6));
+}
 
 bool BridgeCase::IsDocument() const {
   return input.startsWith(QStringLiteral("<!")) || input.startsWith(QStringLiteral("<html"));
@@ -103,10 +103,10 @@ void Perform(BridgePage &page, const QString &step) {
   } else if (verb == QStringLiteral("key")) {
     page.Press(QKeySequence::fromString(value, QKeySequence::PortableText));
   } else if (verb == QStringLiteral("pasteHTML")) {
-    page.Evaluate(QStringLiteral("velor.pasteHTML(%1)").arg(Quoted(value)));
+    page.Evaluate(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptText(value)));
   } else if (CommandNumbers().count(verb) == 1) {
     page.Evaluate(
-        QStringLiteral("velor.exec(%1, %2)").arg(CommandNumbers().at(verb)).arg(Quoted(value)));
+        QStringLiteral("velor.exec(%1, %2)").arg(CommandNumbers().at(verb)).arg(ScriptText(value)));
   } else {
     ADD_FAILURE() << "no such step: " << qPrintable(step);
   }

@@ -40,6 +40,9 @@ std::vector<BridgeCase> ReadBridgeCases(const QString &folder);
 /// Writes the expectation of a case anew into its file.
 void Rebaseline(const BridgeCase &subject, const QString &actual);
 
+/// The text as a literal of the script language.
+QString ScriptText(const QString &text);
+
 /// Carries out one "do:" line.
 void Perform(BridgePage &page, const QString &step);
 

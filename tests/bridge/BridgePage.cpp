@@ -101,10 +101,10 @@ QVariant BridgePage::Evaluate(const QString &expression) {
 }
 
 void BridgePage::AwaitKeys(int count) {
-  for (int round = 0; round < 1000; ++round) {
-    if (Evaluate(QStringLiteral("markup.keysUp()")).toInt() >= count) return;
-  }
-  ADD_FAILURE() << "the page never saw the keys";
+  EXPECT_TRUE(QTest::qWaitFor(
+      [this, count] { return Evaluate(QStringLiteral("markup.keysUp()")).toInt() >= count; },
+      patience))
+      << "the page never saw the keys";
 }
 
 void BridgePage::Type(const QString &text) {

@@ -36,14 +36,15 @@
   const tighten = (anchor, focus) => {
     const { node, offset } = anchor;
     const element = node.nodeType === Node.TEXT_NODE && offset === node.length && node.nextSibling;
-    if (element?.nodeType !== Node.ELEMENT_NODE || focus.node !== element.nextSibling || focus.offset) return;
+    if (element?.nodeType !== Node.ELEMENT_NODE) return;
+    if (focus.node !== element.nextSibling || focus.offset) return;
     const index = [...element.parentNode.childNodes].indexOf(element);
     Object.assign(anchor, { node: element.parentNode, offset: index });
     Object.assign(focus, { node: element.parentNode, offset: index + 1 });
   };
 
   const marked = (root) => {
-    const { anchorNode, anchorOffset, focusNode, focusOffset, isCollapsed } = document.getSelection();
+    const { anchorNode, anchorOffset, focusNode, focusOffset, isCollapsed } = getSelection();
     const copy = root.cloneNode(true);
     const trail = (node) => {
       const indices = [];

@@ -99,6 +99,16 @@ TEST_F(MenuPainterTest, APairOfHighlightColoursThatCannotBeReadGivesWayWhole) {
   EXPECT_EQ(look.highlightText, light.color(QPalette::HighlightedText));
 }
 
+TEST_F(MenuPainterTest, APictureOnAHighlightOfTheOtherShadeTakesTheTextsColour) {
+  QPixmap white(16, 16);
+  white.fill(Qt::white);
+  item->setIcon(white);
+  menu->setActiveAction(item);
+  const QImage shown = Shown(Shade::Dark);
+  const QRect place = menu->actionGeometry(item);
+  EXPECT_EQ(shown.pixelColor(place.left() + 16, place.center().y()), QColor(Qt::black));
+}
+
 TEST_F(MenuPainterTest, DarkPicturesGetLightText) {
   painter.SetBackground(Filled(QColor(20, 20, 40)));
   const MenuLook look = LegibleLook(painter.Look(), PaletteFor(Shade::Light));

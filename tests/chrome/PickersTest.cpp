@@ -138,6 +138,16 @@ TEST_F(FontPickerTest, ListsTheInstalledFamilies) {
   EXPECT_EQ(chosen.count(), 0);
 }
 
+TEST_F(FontPickerTest, ListsNamesAsPagesUseThem) {
+  picker.Initialise();
+  QSet<QString> names;
+  for (int i = 0; i < picker.count(); ++i) {
+    EXPECT_FALSE(picker.itemText(i).contains(u'[')) << picker.itemText(i).toStdString();
+    names.insert(picker.itemText(i));
+  }
+  EXPECT_EQ(names.size(), picker.count());
+}
+
 TEST_F(FontPickerTest, ShowsANameThatIsNotInstalled) {
   picker.SetFontName(QStringLiteral("Some Face"));
   EXPECT_EQ(picker.FontName(), QStringLiteral("Some Face"));
