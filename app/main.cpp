@@ -20,6 +20,8 @@ int main(int argc, char **argv) {
   std::unique_ptr<MfrmProgram> mainWindow;
   RealStartUpWindows windows(real.parts, values, [&] {
     mainWindow = std::make_unique<MfrmProgram>(real.parts, values);
+    QObject::connect(mainWindow.get(), &MfrmProgram::Unloading, &application,
+                     [&] { boundary.ProgramEnds(); });
     // Not quit(), which would ask every window once more.
     QObject::connect(mainWindow.get(), &MfrmProgram::Unloaded, &application,
                      [] { QCoreApplication::exit(); });

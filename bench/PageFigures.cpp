@@ -2,6 +2,7 @@
 #include "bench/BareView.h"
 #include "bench/Figures.h"
 #include "bench/Measure.h"
+#include "platform/EditingCommands.h"
 #include "platform/Paths.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/qt/editing/EditingEngine.h"
@@ -156,8 +157,9 @@ void SavingFigures() {
   Bench bench;
   for (const Size &size : Sizes) {
     bench.Load(bench.File(size));
-    bench.ours.editor.ExecCommand(Number(EditingCommand::SelectAll));
-    bench.ours.editor.ExecCommand(Number(EditingCommand::JustifyCenter));
+    EditingComponent &editor = bench.ours.editor;
+    editor.ExecCommand(Number(EditingCommand::SelectAll));
+    editor.ExecCommand(Number(EditingCommand::JustifyCenter));
     const QString mine = bench.folder.filePath(QStringLiteral("ours.html"));
     const QString plain = bench.folder.filePath(QStringLiteral("plain.html"));
     Print(Compare(

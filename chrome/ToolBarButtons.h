@@ -28,8 +28,8 @@ class ToolBarAction final : public QAction {
   bool showing_ = false;
 };
 
-/// Adds a button with the picture of `key`, reachable by Tab and named for assistive technology. The
-/// action's data is the key.
+/// Adds a button with the picture of `key`, reachable by Tab and named for assistive technology.
+/// The action's data is the key.
 ToolBarAction *AddToolBarButton(QToolBar &bar, const QString &key, const QString &caption,
                                 const QString &tooltip, ButtonKind kind);
 

@@ -43,6 +43,7 @@ void EventBoundary::SetRecovery(Recovery writeRecoveryCopies) {
 }
 
 void EventBoundary::Handle(const std::exception &error) {
+  if (phase_ == Phase::Ending) return;
   const Consequence consequence = ConsequenceOf(error);
   QStringList copies;
   if (consequence == Consequence::Stop) {

@@ -29,6 +29,9 @@ class EventBoundary {
   /// From now on only failed writes stop the program.
   void StartUpDone() { phase_ = Phase::Running; }
 
+  /// From now on the windows are going, and what fails on the way no longer matters to anybody.
+  void ProgramEnds() { phase_ = Phase::Ending; }
+
   /// Does what the policy says about an error that was caught.
   void Handle(const std::exception &error);
 
@@ -36,7 +39,7 @@ class EventBoundary {
   void Run(const std::function<void()> &action);
 
  private:
-  enum class Phase { StartUp, Running };
+  enum class Phase { StartUp, Running, Ending };
   enum class Consequence { Abandon, Stop };
 
   Consequence ConsequenceOf(const std::exception &error) const;

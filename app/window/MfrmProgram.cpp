@@ -19,6 +19,7 @@
 #include "platform/Dialogs.h"
 #include "platform/EditingComponent.h"
 #include "platform/Platform.h"
+#include "platform/RuntimeError.h"
 
 #include <QAction>
 #include <QApplication>
@@ -29,6 +30,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QStatusBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace velor {
@@ -170,7 +172,13 @@ void MfrmProgram::SetFontSizeList() {
 void MfrmProgram::PrepareControlsAndMenus() {
   SetPageCommandsEnabled(false);
   MenuPictureSweep(*this, MenuImages(), *PM);
-  PrepareMenus(platform_.registry, menuPictures_, *PM);
+  try {
+    PrepareMenus(platform_.registry, menuPictures_, *PM);
+  } catch (const RuntimeError &error) {
+    // A preference that cannot be read does not keep the program from starting: it is reported from
+    // the event loop, when the window is there.
+    QTimer::singleShot(0, this, [error] { throw error; });
+  }
 }
 
 void MfrmProgram::ShowWithoutWaiting() {
@@ -214,6 +222,7 @@ void MfrmProgram::ChildActivated() {
 }
 
 void MfrmProgram::closeEvent(QCloseEvent *event) {
+  Q_EMIT Unloading();
   UnloadProgramWindows();
   event->accept();
   Q_EMIT Unloaded();

@@ -77,6 +77,8 @@ class MfrmProgram final : public QMainWindow,
   FileDialog &SharedFileDialog() override;
 
  Q_SIGNALS:
+  /// The window is about to go, and every other window with it, unasked.
+  void Unloading();
   /// The window has gone and every other window with it: the program is to end.
   void Unloaded();
 

@@ -100,6 +100,13 @@ TEST_F(Boundary, NoRecoveryCopiesAreWrittenWhenTheProgramGoesOn) {
   EXPECT_EQ(EndedBy(MissingFile), std::nullopt);
 }
 
+TEST_F(Boundary, ErrorsOfWindowsThatGoAtTheEndAreIgnored) {
+  boundary_.StartUpDone();
+  boundary_.ProgramEnds();
+  EXPECT_EQ(EndedBy(FailedWrite), std::nullopt);
+  EXPECT_EQ(StandardError(), "");
+}
+
 TEST_F(Boundary, ARecoveryThatFailsIsReportedAndTheProgramStillEnds) {
   boundary_.SetRecovery([]() -> QStringList { throw FailedWrite; });
   dialogs_.ExpectMessage(BoxFor(MissingFile) + TheEnd);
