@@ -39,6 +39,9 @@
     return !(/^\S/.test(data ?? '') && /\s/.test(before ?? ''));
   }
 
+  // Input that fills an empty paragraph, so that nothing need keep it open any more.
+  const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']);
+
   // What may hold text without a paragraph around it.
   const bare = /^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER)$/;
 
@@ -60,12 +63,28 @@
     }
   }
 
+  // Texts that the person typed in: a no-break space there is one of theirs.
+  const typedIn = new WeakSet();
+
+  // The no-break space that is all a paragraph or cell holds, which keeps an empty one open.
+  function holderOf(unit) {
+    if (unit?.nodes.length !== 1) return null;
+    let [at] = unit.nodes;
+    while (!dom.isText(at)) {
+      if (dom.isAtom(at) || at.childNodes.length !== 1) return null;
+      at = at.firstChild;
+    }
+    return at.data.replace(/[ \t\n]/g, '') === '\u00a0' && !typedIn.has(at) ? at : null;
+  }
+
   function prepareInsertion(event) {
     const range = velor.selection.range();
     if (!range) return;
     if (velor.deletion.spansUnits(range)) velor.deletion.remove(range);
     const [unit] = velor.units.unitsIn(velor.selection.range());
     if (needsParagraph(unit, event)) makeParagraph(unit);
+    const holder = fills.has(event.inputType) ? holderOf(unit) : null;
+    if (holder) document.getSelection().setBaseAndExtent(holder, 0, holder, holder.length);
   }
 
   // True when the deletion was carried out here.
@@ -124,6 +143,8 @@
     if (velor.working) return;
     if (event.inputType === 'insertParagraph') dropDoubledId();
     if (event.inputType === 'insertText') work(() => velor.pending.typed(event.data));
+    const { anchorNode } = velor.selection.points();
+    if (anchorNode) typedIn.add(anchorNode);
     velor.pending.moved();
     velor.history.arrive();
     velor.schedulePush();

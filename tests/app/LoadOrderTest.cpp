@@ -80,5 +80,16 @@ TEST_F(LoadingWindow, FillsItsPartsStepByStepAndShowsLast) {
   EXPECT_TRUE(window.isVisible());
 }
 
+TEST_F(LoadingWindow, ComesUpInSpiteOfAPreferenceThatCannotBeReadAndReportsItAfterwards) {
+  modSettingManager::SetOption(registry, QStringLiteral("MenuStyle"), QStringLiteral("blue"));
+  window.Load();
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_EQ(ErrorOf([] {
+              QCoreApplication::sendPostedEvents();
+              QTest::qWait(0);
+            }),
+            ErrorNumber::TypeMismatch);
+}
+
 }  // namespace
 }  // namespace velor

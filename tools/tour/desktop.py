@@ -121,9 +121,9 @@ class Program:
     def has_state(node, state):
         return node.get_state_set().contains(state)
 
-    def press(self, name, role="push button|toggle button|button|check box"):
+    def press(self, name, role="push button|toggle button|button|check box", within=None):
         """Presses a button as a person who uses no mouse would."""
-        node = self.wait(name, role)
+        node = self.wait(name, role, within)
         wait_for(lambda: self.has_state(node, Atspi.StateType.ENABLED), f"{name!r} to be enabled")
         actions = [Atspi.Action.get_action_name(node, i)
                    for i in range(Atspi.Action.get_n_actions(node))]
@@ -143,6 +143,17 @@ class Program:
 
     def click(self, x, y, button=1):
         run("xdotool", "mousemove", str(x), str(y), "click", str(button))
+
+    def visible_windows(self):
+        """The windows of the program on the screen; pop-up menus are windows too."""
+        return subprocess.run(["xdotool", "search", "--onlyvisible", "--class",
+                               "velor-web-creator"], capture_output=True, text=True).stdout.split()
+
+    def open_popup(self, action):
+        """Carries out `action` and waits for the menu that it pops up."""
+        before = len(self.visible_windows())
+        action()
+        wait_for(lambda: len(self.visible_windows()) > before, "a menu to pop up")
 
     def title(self):
         return run("xdotool", "getwindowname", self.window_id)
