@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/BareView.h"
 
+#include "bench/Measure.h"
+
+#include <QCoreApplication>
 #include <QFile>
-#include <QTest>
 #include <QUrl>
 #include <QWebChannel>
 #include <QWebEnginePage>
@@ -13,8 +15,6 @@
 namespace velor::bench {
 
 namespace {
-
-constexpr int LimitMs = 120000;
 
 QWebEngineProfile *SharedProfile() {
   static auto *profile = new QWebEngineProfile(qApp);
@@ -47,7 +47,7 @@ void BareView::LoadFile(const QString &nativePath) {
   const auto connection =
       connect(page(), &QWebEnginePage::loadFinished, this, [&done](bool) { done = true; });
   load(QUrl::fromLocalFile(nativePath));
-  (void)QTest::qWaitFor([&done] { return done; }, LimitMs);
+  WaitUntil([&done] { return done; });
   disconnect(connection);
   Evaluate(QStringLiteral("document.designMode = 'on'; 1"));
 }
@@ -63,8 +63,7 @@ QVariant BareView::Evaluate(const QString &script) {
     answer = result;
     done = true;
   });
-  QEventLoop loop;
-  while (!done) loop.processEvents(QEventLoop::WaitForMoreEvents);
+  WaitUntil([&done] { return done; });
   return answer;
 }
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/Measure.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
@@ -16,6 +19,18 @@ double Milliseconds(const std::function<void()> &work) {
   timer.start();
   work();
   return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+void WaitUntil(const std::function<bool()> &condition) {
+  QEventLoop loop;
+  QTimer pump;
+  pump.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&pump, &QTimer::timeout, &loop, [&] {
+    QCoreApplication::sendPostedEvents();
+    if (condition()) loop.quit();
+  });
+  pump.start(1);
+  if (!condition()) loop.exec();
 }
 
 Figure Compare(const QString &name, const QString &subject, const QString &peer, int rounds,

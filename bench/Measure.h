@@ -11,6 +11,10 @@ namespace velor::bench {
 /// Milliseconds that `work` takes.
 double Milliseconds(const std::function<void()> &work);
 
+/// Runs the event loop until the condition holds, looking every millisecond. Posted events are
+/// pumped by the same timer: the engine's answers may otherwise lie in the queue.
+void WaitUntil(const std::function<bool()> &condition);
+
 /// One figure: the same work done by this program and by a bare peer, in turn, in the same run.
 /// Only the ratio means anything on a shared machine; the times are there to judge it by.
 struct Figure {

@@ -18,8 +18,6 @@ namespace velor::bench {
 
 namespace {
 
-constexpr int LimitMs = 120000;
-
 struct Size {
   const char *name;
   int bytes;
@@ -130,7 +128,7 @@ void KeyFigures() {
       const int before = counter;
       return Milliseconds([&] {
         QTest::keyClick(target, Qt::Key_X);
-        (void)QTest::qWaitFor([&] { return counter > before; }, LimitMs);
+        WaitUntil([&] { return counter > before; });
       });
     };
     Print(Compare(

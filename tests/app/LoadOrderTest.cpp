@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/modSettingManager.h"
 #include "app/window/ChoiceBox.h"
 #include "app/window/LoadOrder.h"
 #include "chrome/FontPicker.h"
 #include "tests/app/WindowFixture.h"
+
+#include <QCoreApplication>
+#include <QTest>
 
 namespace velor {
 namespace {

@@ -269,7 +269,14 @@ TEST_F(Editing, ACollapsedRangePastesBeforeTheSelection) {
 }
 
 TEST_F(Editing, TheProgramsShortcutsReachTheWindow) {
-  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  LoadWithCaret("<p>On</p>", QStringLiteral("p"));
+  // The engine claims keys once it knows that text is being typed.
+  QTest::mouseClick(Input(), Qt::LeftButton, {}, {300, 20});
+  TypeText(QStringLiteral("e"));
+  ASSERT_TRUE(WaitFor([&] {
+    return DocumentHolds(QStringLiteral("One")) &&
+           Input()->inputMethodQuery(Qt::ImEnabled).toBool();
+  }));
   for (const char *keys : {"Ctrl+N", "Ctrl+O", "Ctrl+S", "F12", "Alt+F", "Ctrl+F4", "Ctrl+B"}) {
     auto *action = new QAction(window_.get());
     action->setShortcut(QKeySequence(QString::fromLatin1(keys)));

@@ -127,6 +127,16 @@ TEST_F(Isolation, NothingRemoteIsFetched) {
   EXPECT_EQ(server.visits, 0);
 }
 
+TEST_F(Isolation, TheProfileReachesNoServerWhoeverAsks) {
+  CountingServer server;
+  QWebEnginePage page(&Engine().Profile());
+  bool ended = false;
+  QObject::connect(&page, &QWebEnginePage::loadFinished, [&] { ended = true; });
+  page.load(QUrl(QString::fromLatin1(server.Address())));
+  ASSERT_TRUE(WaitFor([&] { return ended; }));
+  EXPECT_EQ(server.visits, 0);
+}
+
 TEST_F(Isolation, AKeptClipboardOrStorageIsNotThePages) {
   editor_->LoadDocument(Write(QStringLiteral("page.htm"), "<p>x</p>"));
   EXPECT_TRUE(Page()->profile()->isOffTheRecord());

@@ -75,6 +75,17 @@ TEST_F(Loading, LinksOfADocumentThatWasSetLeadToTheProgramFolder) {
   EXPECT_EQ(PictureWidth(), 3);
 }
 
+TEST_F(Loading, AFileWhoseLinkHasAQueryIsThatFile) {
+  WritePicture(QStringLiteral("a.png"));
+  QByteArray page;
+  for (int number = 1; number < 300; ++number)
+    page += "<img src=\"a.png?page=" + QByteArray::number(number) + "\">";
+  editor_->LoadDocument(Write(QStringLiteral("page.htm"), page));
+  EXPECT_TRUE(
+      Evaluate(QStringLiteral("[...document.images].every(each => each.naturalWidth === 3)"))
+          .toBool());
+}
+
 TEST_F(Loading, AFolderOrMissingFileAsPictureIsNoHarm) {
   editor_->LoadDocument(Write(QStringLiteral("page.htm"),
                               "<body background=\"\"><img src=\".\"><img src=\"none.gif\">"

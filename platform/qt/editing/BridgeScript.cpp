@@ -23,7 +23,7 @@ QByteArray Resource(const QString &path) {
 
 }  // namespace
 
-QWebEngineScript BridgeScript() {
+QString BridgeScript() {
   InitialiseBridgeResources();
   QByteArray source = Resource(QStringLiteral(":/qtwebchannel/qwebchannel.js"));
   const QByteArray order = Resource(QStringLiteral(":/bridge/order.txt"));
@@ -32,13 +32,7 @@ QWebEngineScript BridgeScript() {
     if (name.isEmpty()) continue;
     source += "\n;\n" + Resource(QStringLiteral(":/bridge/") + QString::fromUtf8(name));
   }
-  QWebEngineScript script;
-  script.setName(QStringLiteral("velorBridge"));
-  script.setSourceCode(QString::fromUtf8(source));
-  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
-  script.setWorldId(bridgeWorld);
-  script.setRunsOnSubFrames(false);
-  return script;
+  return QString::fromUtf8(source) + QStringLiteral("\n;\n");
 }
 
 QString ScriptValue(const QVariant &value) {

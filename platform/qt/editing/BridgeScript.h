@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
 #include <QVariant>
 #include <QWebEngineScript>
 
@@ -9,9 +10,10 @@ namespace velor {
 /// The world the bridge lives in, apart from the page's.
 inline constexpr QWebEngineScript::ScriptWorldId bridgeWorld = QWebEngineScript::ApplicationWorld;
 
-/// The channel's client and the scripts of resources/bridge, in their order, as one script that
-/// runs in a page's main frame before anything of the page.
-QWebEngineScript BridgeScript();
+/// The channel's client and the scripts of resources/bridge, in their order, as one script. It is
+/// evaluated when a page is there: the engine's own injection at a document's creation is now and
+/// then left out after a page's process has ended.
+QString BridgeScript();
 
 /// A value (text, truth, number, list) as an expression of the script language.
 QString ScriptValue(const QVariant &value);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/editing/EditingEngine.h"
 
+#include "platform/qt/editing/BridgeScript.h"
+
 #include <QWebEngineCookieStore>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineSettings>
@@ -66,6 +68,11 @@ QWebEngineProfile &EditingEngine::Profile() {
   QObject::connect(profile_.get(), &QWebEngineProfile::downloadRequested,
                    [](QWebEngineDownloadRequest *download) { download->cancel(); });
   return *profile_;
+}
+
+const QString &EditingEngine::Bridge() {
+  if (bridge_.isEmpty()) bridge_ = BridgeScript();
+  return bridge_;
 }
 
 }  // namespace velor

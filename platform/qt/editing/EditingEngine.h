@@ -25,6 +25,8 @@ class EditingEngine {
  public:
   /// Made at its first use, since that starts the browser engine.
   QWebEngineProfile &Profile();
+  /// The bridge's script, read once.
+  const QString &Bridge();
   PageScheme &Scheme() { return scheme_; }
   EngineGuard &Guard() { return guard_; }
 
@@ -33,6 +35,7 @@ class EditingEngine {
   PageScheme scheme_;
   RequestBlocker blocker_;
   std::unique_ptr<QWebEngineProfile> profile_;
+  QString bridge_;
 };
 
 }  // namespace velor

@@ -22,6 +22,17 @@ using namespace std::chrono_literals;
 /// Many times what an input event takes to its queue in the page's process.
 constexpr std::chrono::milliseconds inputTravel = 30ms;
 
+/// A document that is in design mode from its beginning is laid out once; `velor.start` turns the
+/// mode on in any case, but then everything is laid out a second time.
+QWebEngineScript DesignModeScript() {
+  QWebEngineScript script;
+  script.setName(QStringLiteral("designMode"));
+  script.setSourceCode(QStringLiteral("document.designMode = 'on'"));
+  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+  script.setWorldId(bridgeWorld);
+  return script;
+}
+
 }  // namespace
 
 EngineView::EngineView(EditingEngine &engine, QWidget *container)
@@ -30,9 +41,7 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   page_->setBackgroundColor(Qt::white);
   channel_.registerObject(QStringLiteral("velorHost"), &host_);
   page_->setWebChannel(&channel_, bridgeWorld);
-  // The page's own script, not the profile's: only this one is there again when a new process
-  // takes the place of one that ended.
-  page_->scripts().insert(BridgeScript());
+  page_->scripts().insert(DesignModeScript());
   view_->setPage(page_);
   view_->setContextMenuPolicy(Qt::CustomContextMenu);
   input_ = new EditorInput(view_);
@@ -64,7 +73,7 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
     if (phase_ != Phase::Loading || info.url() != address_) return;
     if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return;
     if (info.status() != QWebEngineLoadingInfo::LoadSucceededStatus) return EndLoad(Phase::Failed);
-    Evaluate(start_, [this, address = address_](const QVariant &answer) {
+    Evaluate(engine_.Bridge() + start_, [this, address = address_](const QVariant &answer) {
       if (phase_ != Phase::Loading || address != address_) return;
       startAnswer_ = answer;
       EndLoad(answer.isValid() ? Phase::Ready : Phase::Failed);

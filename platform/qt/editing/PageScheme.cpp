@@ -14,6 +14,11 @@ namespace velor {
 
 namespace {
 
+/// The engine spells an address in its own way; path and query say what it is.
+QString Key(const QUrl &address) {
+  return address.path(QUrl::FullyDecoded) + u'?' + address.query();
+}
+
 /// The existing regular file that an address stands for; empty when there is none.
 QString FileOf(const QUrl &address) {
   const QString path = address.path(QUrl::FullyDecoded);
@@ -44,17 +49,17 @@ QUrl PageScheme::Offer(const QString &nativePath, const QString &text) {
   address.setScheme(QString::fromLatin1(Name()));
   address.setPath(nativePath, QUrl::DecodedMode);
   address.setQuery(QStringLiteral("page=%1").arg(++lastNumber_));
-  offered_[address.query()] = text.toUtf8();
+  offered_[Key(address)] = text.toUtf8();
   return address;
 }
 
 void PageScheme::Withdraw(const QUrl &address) {
-  offered_.erase(address.query());
+  offered_.erase(Key(address));
 }
 
 void PageScheme::requestStarted(QWebEngineUrlRequestJob *job) {
   const QUrl address = job->requestUrl();
-  if (const auto page = offered_.find(address.query()); page != offered_.end()) {
+  if (const auto page = offered_.find(Key(address)); page != offered_.end()) {
     auto *buffer = new QBuffer(job);
     buffer->setData(page->second);
     job->reply(QByteArrayLiteral("text/html; charset=utf-8"), buffer);

@@ -31,7 +31,7 @@ class PageScheme : public QWebEngineUrlSchemeHandler {
   void requestStarted(QWebEngineUrlRequestJob *job) override;
 
  private:
-  std::map<QString, QByteArray> offered_;  ///< UTF-8 by query
+  std::map<QString, QByteArray> offered_;  ///< UTF-8, by Key of the address
   int lastNumber_ = 0;
 };
 
