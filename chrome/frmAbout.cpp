@@ -2,7 +2,6 @@
 #include "chrome/frmAbout.h"
 
 #include "chrome/Icons.h"
-#include "chrome/Palette.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>

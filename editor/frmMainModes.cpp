@@ -7,7 +7,6 @@
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
-#include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/Runtime.h"

@@ -81,6 +81,8 @@ class EditingComponent {
   virtual QVariant ExecCommand(int command, ExecOption option = ExecOption::Default,
                                const QVariant &value = {}) = 0;
   virtual CommandStatus QueryStatus(int command) const = 0;
+  /// The names that SetBlockFormat takes and GetBlockFormat answers, in the order to list them.
+  virtual QStringList BlockFormats() const = 0;
 
   /// The document object. Valid as long as the component.
   virtual HtmlDocument &Document() = 0;

@@ -42,7 +42,8 @@ class RuntimeError : public std::exception {
   static RuntimeError Of(ErrorNumber number, const QString &source, const QString &detail = {});
 
   /// The error for a failed system call on `path`; `errnoValue` as the C library sets it
-  /// (ENOENT 53, ENOTDIR 76, EACCES and EPERM and EROFS 75 or 70, ENOSPC and EDQUOT 61, EIO 57 ...).
+  /// (ENOENT 53, ENOTDIR 76, EACCES and EPERM and EROFS 75 or 70, ENOSPC and EDQUOT 61, EIO 57
+  /// ...).
   static RuntimeError FromErrno(int errnoValue, const QString &source, const QString &path);
 
   ErrorNumber Number() const { return number_; }

@@ -71,8 +71,8 @@ void FormattingBar::InitialiseFonts() {
   Font1->Initialise();
 }
 
-void FormattingBar::FillBlockFormats() {
-  cobFormat->addItems(BlockFormatNames());
+void FormattingBar::FillBlockFormats(const QStringList &names) {
+  cobFormat->addItems(names);
   cobFormat->ShowText(QString());
 }
 

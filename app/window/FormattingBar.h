@@ -22,7 +22,7 @@ class FormattingBar final : public QWidget {
 
   // Filling, while the window loads.
   void InitialiseFonts();
-  void FillBlockFormats();
+  void FillBlockFormats(const QStringList &names);
   void FillFontSizes();
 
   void ShowFontName(const QString &name);

@@ -162,7 +162,7 @@ void MfrmProgram::InitialiseFontPicker() {
 }
 
 void MfrmProgram::CreateBlockFormatNames() {
-  coolBar_->Boxes().FillBlockFormats();
+  coolBar_->Boxes().FillBlockFormats(DE1->BlockFormats());
 }
 
 void MfrmProgram::SetFontSizeList() {

@@ -3,7 +3,6 @@
 
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
-#include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/PageTabs.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "tests/app/WindowFixture.h"
@@ -52,12 +53,20 @@ TEST_F(CommandRouterTest, EachEditButtonSendsItsCommandAlone) {
   }
 }
 
-TEST_F(CommandRouterTest, TheCutButtonAsksNoMenuItem) {
+TEST_F(CommandRouterTest, TheEditButtonsAskNoMenuItem) {
   NewPage();
-  Item("mnuCut")->setEnabled(false);
+  for (const char *item :
+       {"mnuCut", "mnuCopy", "mnuPaste", "mnuDelete", "mnuUndo", "mnuRedo", "mnuEdit_Top"}) {
+    Item(item)->setEnabled(false);
+  }
   log.clear();
-  Click("tbrGeneral_cut");
-  EXPECT_EQ(Commands(), QStringList(QStringLiteral("ExecCommand(5003)")));
+  for (const char *button : {"tbrGeneral_cut", "tbrGeneral_copy", "tbrGeneral_paste",
+                             "tbrGeneral_delete", "tbrGeneral_undo", "tbrGeneral_redo"}) {
+    Click(button);
+  }
+  EXPECT_EQ(Commands().join(u' ').toStdString(),
+            "ExecCommand(5003) ExecCommand(5002) ExecCommand(5032) ExecCommand(5004) "
+            "ExecCommand(5049) ExecCommand(5033)");
 }
 
 TEST_F(CommandRouterTest, CommandsGoToTheDocumentInFront) {
@@ -101,6 +110,20 @@ TEST_F(CommandRouterTest, TheFileButtonsDoNothingWhileTheirItemsAreDisabled) {
     Click(button);
   }
   EXPECT_TRUE(log.empty());
+}
+
+TEST_F(CommandRouterTest, TheFileButtonsDoWhatTheirItemsDo) {
+  WriteFile(QStringLiteral("\\site\\a.htm"));
+  Click("tbrGeneral_new");
+  EXPECT_EQ(Tabs().count(), 1);
+  SharedDialog().ExpectOpen(QStringLiteral("\\site\\a.htm"));
+  Click("tbrGeneral_open");
+  ASSERT_EQ(Tabs().count(), 2);
+  EXPECT_EQ(Tabs().tabText(1), QStringLiteral("a.htm"));
+  NewPage();
+  SharedDialog().ExpectSave(QStringLiteral("\\site\\b.htm"));
+  Click("tbrGeneral_save");
+  EXPECT_TRUE(files.FileExists(QStringLiteral("\\site\\b.htm")));
 }
 
 TEST_F(CommandRouterTest, PreviewShowsThePageInTheBrowser) {

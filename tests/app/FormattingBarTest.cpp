@@ -8,6 +8,8 @@
 #include "platform/EditingCommands.h"
 #include "tests/app/WindowFixture.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -136,6 +138,32 @@ TEST_F(FormattingBarTest, ABoxThatShowsTheValueAlreadyIsNotWritten) {
   font->lineEdit()->setCursorPosition(3);  // a write would put the caret back to the start
   window.ShowFontName(QStringLiteral("Arial"));
   EXPECT_EQ(font->lineEdit()->cursorPosition(), 3);
+}
+
+/// Counts how often a widget is painted: a colour box that is written is painted anew.
+class PaintCounter final : public QObject {
+ public:
+  int paints = 0;
+  bool eventFilter(QObject *, QEvent *event) override {
+    if (event->type() == QEvent::Paint) ++paints;
+    return false;
+  }
+};
+
+TEST_F(FormattingBarTest, AColourBoxIsComparedAsAColourBeforeItIsWritten) {
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  QCoreApplication::processEvents();
+  auto *back = Find<ColorPicker>("cpBack");
+  ASSERT_EQ(back->Color(), 0xFFFFFF);
+  PaintCounter counter;
+  back->installEventFilter(&counter);
+  for (const char *white : {"#ffffff", "#FFFFFF"}) {
+    window.ShowBackColor(QString::fromLatin1(white));
+    QCoreApplication::processEvents();
+  }
+  EXPECT_EQ(counter.paints, 0);
+  window.ShowBackColor(QStringLiteral("#fffffe"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > 0; }));
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
+#include "app/window/ProjectDesk.h"
+#include "chrome/FrmFld.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "insert/frmInsertElement.h"
@@ -166,6 +168,28 @@ TEST_F(ProjectTest, AManagerHiddenByOpeningIsKeptAClosedOneIsNot) {
   EXPECT_TRUE(first.isNull());
   dialogs.ExpectModal([](QWidget &manager) { EXPECT_FALSE(manager.isVisible()); });
   Choose("mnuView_ProjectMan");
+}
+
+TEST_F(ProjectTest, TheFolderPickerAnswersForTheProjectAndIsGoneAfterwards) {
+  ProjectDesk desk(window.Context(), values, Chooser());
+  values.ImageFolderPath = QStringLiteral("\\images");
+  QPointer<QWidget> shown;
+  for (const char *button : {"SSCommand1", "SSCommand2"}) {
+    dialogs.ExpectModal([&, button](QWidget &dialog) {
+      auto *picker = qobject_cast<FrmFld *>(&dialog);
+      ASSERT_NE(picker, nullptr);
+      shown = picker;
+      picker->SelectFolder(QStringLiteral("/usr"));
+      picker->findChild<QPushButton *>(QString::fromLatin1(button))->click();
+    });
+  }
+  desk.PickProjectFolder();
+  EXPECT_EQ(values.ProjectFolderResult, QStringLiteral("\\usr"));
+  EXPECT_TRUE(shown.isNull());
+  desk.PickProjectFolder();
+  EXPECT_EQ(values.ProjectFolderResult, QString());
+  EXPECT_TRUE(shown.isNull());
+  EXPECT_EQ(values.ImageFolderPath, QStringLiteral("\\images"));
 }
 
 TEST_F(ProjectTest, ADatabaseThatFailsIsTheEventBoundarysBusiness) {

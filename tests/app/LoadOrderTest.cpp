@@ -73,6 +73,16 @@ class LoadingWindow : public ::testing::Test {
   MfrmProgram window{platform, values};
 };
 
+TEST_F(LoadingWindow, ListsTheBlockFormatsThatTheHiddenComponentNames) {
+  components.onEditingComponent = [](FakeEditingComponent &component) {
+    component.blockFormats = {QStringLiteral("Normal"), QStringLiteral("Verse")};
+  };
+  window.Load();
+  auto *formats = window.findChild<ChoiceBox *>(QStringLiteral("cobFormat"));
+  ASSERT_EQ(formats->count(), 2);
+  EXPECT_EQ(formats->itemText(1), QStringLiteral("Verse"));
+}
+
 TEST_F(LoadingWindow, FillsItsPartsStepByStepAndShowsLast) {
   window.Load();
   EXPECT_EQ(moments.join(u'\n').toStdString(),

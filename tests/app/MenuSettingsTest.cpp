@@ -77,6 +77,12 @@ TEST_F(MenuSettingsTest, StyleNoughtLoadsThePictureFile) {
             "background 77, text 0, border 8388608, highlight 16761024, highlight text 0");
 }
 
+TEST_F(MenuSettingsTest, APictureFileCountsForStyleNoughtOnly) {
+  Store("MenuStyle", "1");
+  Store("MenuBackground", "/pictures/sky.png");
+  EXPECT_TRUE(Prepared().starts_with("background 1, "));
+}
+
 TEST_F(MenuSettingsTest, APictureFileThatCannotBeLoadedLeavesTheBackground) {
   Store("MenuStyle", "0");
   Store("MenuBackground", "/pictures/gone.png");
@@ -129,6 +135,14 @@ TEST_F(MenuStyleItems, WriteTheirIndexAndChangeThePicture) {
   EXPECT_EQ(modSettingManager::GetOption(registry, QStringLiteral("MenuStyle"), {}),
             QStringLiteral("2"));
   EXPECT_EQ(painter->Look().background.toImage(), second);
+}
+
+TEST_F(MenuStyleItems, AreWhatWritesTheMenusSettings) {
+  NewPage();
+  EXPECT_TRUE(registry.Writes().isEmpty());
+  StyleItem(1)->trigger();
+  EXPECT_EQ(registry.Writes(),
+            QStringList(QStringLiteral(R"(Software\Company\VelorCDMaker\option\MenuStyle=1)")));
 }
 
 }  // namespace

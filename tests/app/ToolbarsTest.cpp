@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/FormattingBar.h"
 #include "chrome/ColorPicker.h"
+#include "chrome/Icons.h"
 #include "editor/frmMain.h"
 #include "tests/app/WindowFixture.h"
 
@@ -14,6 +15,10 @@ namespace {
 
 using ToolbarsTest = WindowFixture;
 
+QImage Drawn(const QIcon &icon) {
+  return icon.pixmap(32).toImage();
+}
+
 /// "key/tooltip" of each button in order.
 QStringList Buttons(const QToolBar &bar) {
   QStringList buttons;
@@ -21,7 +26,9 @@ QStringList Buttons(const QToolBar &bar) {
     if (const auto *button = qobject_cast<QToolButton *>(bar.widgetForAction(action))) {
       buttons.append(button->property("key").toString() + u'/' + button->toolTip());
       EXPECT_EQ(button->accessibleName(), button->toolTip());
-      EXPECT_FALSE(button->icon().isNull()) << button->toolTip().toStdString();
+      const QIcon picture = IconFor(button->property("key").toString());
+      EXPECT_FALSE(picture.isNull()) << button->toolTip().toStdString();
+      EXPECT_EQ(Drawn(button->icon()), Drawn(picture)) << button->toolTip().toStdString();
     }
   }
   return buttons;
@@ -47,6 +54,10 @@ TEST_F(ToolbarsTest, TheWindowOwnsItsPartsByName) {
     EXPECT_NE(window.findChild<QWidget *>(QString::fromLatin1(name)), nullptr) << name;
   }
   EXPECT_NE(window.findChild<QObject *>(QStringLiteral("PM")), nullptr);
+  QWidget *bands = Find<QWidget>("CoolBar");
+  for (const char *name : {"tbrGeneral", "tbrEdit"}) {
+    EXPECT_TRUE(bands->isAncestorOf(Find<QWidget>(name))) << name;
+  }
   QWidget *row = Find<QWidget>("picFileTab");
   for (const char *name : {"FileTab", "FileTab2", "CmbPages"}) {
     EXPECT_TRUE(row->isAncestorOf(Find<QWidget>(name))) << name;

@@ -55,6 +55,13 @@ bool WaitFor(const std::function<bool()> &condition) {
   return met;
 }
 
+QVariant Evaluate(QWebEnginePage &page, const QString &expression, quint32 world) {
+  const auto answer = std::make_shared<std::optional<QVariant>>();
+  page.runJavaScript(expression, world, [answer](const QVariant &value) { *answer = value; });
+  EXPECT_TRUE(WaitFor([&] { return answer->has_value(); })) << qPrintable(expression);
+  return answer->value_or(QVariant());
+}
+
 WebEditorTest::WebEditorTest() : window_(std::make_unique<QWidget>()) {
   window_->resize(800, 600);
   auto *layout = new QVBoxLayout(window_.get());
@@ -98,13 +105,6 @@ QWidget *WebEditorTest::Input() const {
 
 QWebEnginePage *WebEditorTest::Page() const {
   return editor_->Widget()->findChild<QWebEngineView *>()->page();
-}
-
-QVariant WebEditorTest::Evaluate(const QString &expression, quint32 world) const {
-  const auto answer = std::make_shared<std::optional<QVariant>>();
-  Page()->runJavaScript(expression, world, [answer](const QVariant &value) { *answer = value; });
-  EXPECT_TRUE(WaitFor([&] { return answer->has_value(); })) << qPrintable(expression);
-  return answer->value_or(QVariant());
 }
 
 void WebEditorTest::LoadWithCaret(const QByteArray &html, const QString &selector) {

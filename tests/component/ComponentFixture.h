@@ -20,6 +20,9 @@ namespace velor {
 /// Lets events pass until the condition holds; false after ten seconds.
 bool WaitFor(const std::function<bool()> &condition);
 
+/// The value of an expression in the bridge's world of a page, or in the page's own.
+QVariant Evaluate(QWebEnginePage &page, const QString &expression, quint32 world = 1);
+
 /// Writes down what it is told; a test may act from inside a notice.
 class RecordingListener : public EditingListener {
  public:
@@ -71,8 +74,9 @@ class WebEditorTest : public ::testing::Test {
   /// The widget that takes the page's input.
   QWidget *Input() const;
   QWebEnginePage *Page() const;
-  /// The value of an expression in the bridge's world, or in the page's own.
-  QVariant Evaluate(const QString &expression, quint32 world = 1) const;
+  QVariant Evaluate(const QString &expression, quint32 world = 1) const {
+    return velor::Evaluate(*Page(), expression, world);
+  }
   /// Loads a page of that content and puts the caret at the end of the first element that the
   /// selector finds.
   void LoadWithCaret(const QByteArray &html, const QString &selector);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What every editing component promises, whatever stands behind it.
 #include "platform/EditingCommands.h"
-#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "tests/component/ComponentFixture.h"
 #include "tests/support/FakeEditingComponent.h"

@@ -2,7 +2,6 @@
 // A page in the editor runs nothing, goes nowhere and asks nothing of the network. Some of these
 // tests hold the browser engine to behaviour that the component is built on: a newer engine that
 // differs fails here first.
-#include "platform/EditingCommands.h"
 #include "tests/component/ComponentFixture.h"
 
 #include <QTcpServer>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pages of every name, size and content come up, with their pictures and styles.
 #include "platform/EditingCommands.h"
-#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "tests/component/ComponentFixture.h"
 

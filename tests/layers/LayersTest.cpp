@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The direction of includes is data: this table, and nothing else, says who may include whom.
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <map>
 #include <regex>
 #include <set>
@@ -22,8 +21,7 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"platform", {}},
       {"platform/html", {"platform"}},
       {"platform/sqlite", {"platform"}},
-      {"platform/jet", {"platform"}},
-      {"platform/qt", {"platform", "platform/html", "platform/sqlite", "platform/jet"}},
+      {"platform/qt", {"platform", "platform/html", "platform/sqlite"}},
       {"app/settings", {"platform"}},
       {"chrome", {"platform"}},
       {"insert", {"chrome", "platform"}},
@@ -31,7 +29,7 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"editor", {"chrome", "platform", "platform/html", "app/settings"}},
       {"app",
        {"editor", "insert", "projects", "chrome", "platform", "platform/html", "platform/sqlite",
-        "platform/jet", "platform/qt", "app/settings"}},
+        "platform/qt", "app/settings"}},
   };
   return table;
 }
@@ -39,7 +37,7 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
 /// Layers whose logic must not know any toolkit: QtWidgets, WebEngine, QScintilla or SQLite.
 const std::set<std::string> &ToolkitFreeLayers() {
   static const std::set<std::string> layers = {"platform", "platform/html", "platform/sqlite",
-                                               "platform/jet", "app/settings"};
+                                               "app/settings"};
   return layers;
 }
 
@@ -62,7 +60,8 @@ std::vector<Include> IncludesOf(const std::string &file, std::istream &text) {
   std::vector<Include> found;
   for (std::string line; std::getline(text, line);) {
     std::smatch match;
-    if (std::regex_search(line, match, pattern)) found.push_back({file, match[2], match[1] == "\""});
+    if (std::regex_search(line, match, pattern))
+      found.push_back({file, match[2], match[1] == "\""});
   }
   return found;
 }
@@ -75,9 +74,10 @@ std::string Objection(const Include &include) {
       R"(^(QtWidgets|QtWebEngine\w*|Qsci|QWidget|QDialog|QMainWindow|QApplication|QWebEngine\w*|QToolBar|QMenu|QPushButton|QLabel)(/|$))");
   if (ToolkitFreeLayers().count(from) && std::regex_search(include.target, toolkit))
     return include.file + " includes the toolkit: " + include.target;
-  static const std::regex engine(R"(^(QtWebEngine\w*|QWebEngine\w*|Qsci|sqlite3\.h|unicode)(/|$|\.))");
+  static const std::regex engine(
+      R"(^(QtWebEngine\w*|QWebEngine\w*|Qsci|sqlite3\.h|unicode)(/|$|\.))");
   if (from != "platform/qt" && from != "platform/html" && from != "platform/sqlite" &&
-      from != "platform/jet" && from != "app" && std::regex_search(include.target, engine))
+      from != "app" && std::regex_search(include.target, engine))
     return include.file + " includes an engine past its interface: " + include.target;
   if (!include.quoted) return {};
   const std::string to = LayerOf(include.target);
@@ -134,7 +134,8 @@ TEST(Layers, OnlyTheGuardedPlacesRunAnEventLoopOrADialog) {
       std::ifstream text(entry.path());
       std::stringstream whole;
       whole << text.rdbuf();
-      EXPECT_FALSE(std::regex_search(whole.str(), loop)) << path << " runs an event loop of its own";
+      EXPECT_FALSE(std::regex_search(whole.str(), loop))
+          << path << " runs an event loop of its own";
     }
   }
 }

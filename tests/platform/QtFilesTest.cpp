@@ -3,53 +3,19 @@
 #include "platform/Paths.h"
 #include "platform/qt/QtFiles.h"
 #include "tests/support/Checks.h"
+#include "tests/support/Hindrances.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace velor {
 namespace {
 
-constexpr uid_t Nobody = 65534;
 constexpr uid_t Stranger = 12345;
-
-/// Without the superuser's rights for the life of a scope; nothing to do for other users.
-class AsOrdinaryUser {
- public:
-  AsOrdinaryUser() : user_(geteuid()) {
-    if (user_ == 0) {
-      EXPECT_EQ(seteuid(Nobody), 0);
-    }
-  }
-  ~AsOrdinaryUser() { EXPECT_EQ(seteuid(user_), 0); }
-
- private:
-  uid_t user_;
-};
-
-/// No file may grow beyond so many bytes: what a full disk looks like, without one.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
- private:
-  void (*handler_)(int);
-  rlimit before_{};
-};
 
 class QtFilesTest : public testing::Test {
  protected:

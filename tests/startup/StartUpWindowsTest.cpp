@@ -43,9 +43,11 @@ class StartUpWindowsOfTheProgram : public ::testing::Test {
 
 TEST_F(StartUpWindowsOfTheProgram, TheLoginFormIsLoadedHiddenAndStays) {
   EXPECT_EQ(Login(), nullptr);
-  windows_.LoadLogin();
+  FileDialog &databaseDialog = windows_.LoadLogin();
   windows_.LoadMainWindow();
-  ASSERT_NE(Login(), nullptr);
+  auto *login = qobject_cast<FrmLogin *>(Login());
+  ASSERT_NE(login, nullptr);
+  EXPECT_EQ(&login->CommonDialog1(), &databaseDialog);
   EXPECT_EQ(Login()->windowTitle(), QStringLiteral("Form1"));
   EXPECT_FALSE(Login()->isVisible());
   EXPECT_EQ(mainWindows_, 1);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/EditingCommands.h"
 #include "platform/EditingComponent.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
@@ -32,6 +33,7 @@ class FakeEditingComponent final : public EditingComponent,
   // What tests script.
   std::map<int, CommandStatus> statuses;  ///< by command number; Enabled where absent
   std::map<int, QVariant> values;         ///< by query command number; empty text where absent
+  QStringList blockFormats = BlockFormatNames();
   SelectionType selectionType = SelectionType::None;
   HtmlElement element;  ///< under the caret, or the selected object
   /// The stretch of the document's text that is selected; after loading the start of the body.
@@ -70,6 +72,7 @@ class FakeEditingComponent final : public EditingComponent,
   QString Charset() const override;
   QVariant ExecCommand(int command, ExecOption option, const QVariant &value) override;
   CommandStatus QueryStatus(int command) const override;
+  QStringList BlockFormats() const override { return blockFormats; }
   HtmlDocument &Document() override;
   bool ShowDetails() const override;
   void SetShowDetails(bool on) override;

@@ -97,9 +97,6 @@ bool FakeFiles::FolderWritable(const QString &path) const {
 QByteArray FakeFiles::ReadAll(const QString &path, NameOrigin origin) const {
   const QString operation = QStringLiteral("ReadAll");
   calls_ += operation + u' ' + path;
-  if (const auto failure = std::exchange(nextReadFailure_, std::nullopt)) {
-    throw RuntimeError::Of(*failure, operation, path);
-  }
   const QString found = FindFile(path, origin);
   RaiseUnlessFile(found, operation);
   return files_.at(found);

@@ -23,8 +23,6 @@ class FakeFiles : public Files {
   void MakeFolderUnwritable(const QString &folder);
   /// The next ReplaceAll raises this and changes nothing.
   void FailNextWrite(ErrorNumber number) { nextWriteFailure_ = number; }
-  /// The next ReadAll raises this.
-  void FailNextRead(ErrorNumber number) const { nextReadFailure_ = number; }
 
   /// What a file holds; nothing when there is none of exactly that name.
   std::optional<QByteArray> Content(const QString &path) const;
@@ -50,7 +48,6 @@ class FakeFiles : public Files {
   std::set<QString> readOnly_;
   std::set<QString> unwritableFolders_;
   std::optional<ErrorNumber> nextWriteFailure_;
-  mutable std::optional<ErrorNumber> nextReadFailure_;
   mutable QStringList calls_;
 };
 

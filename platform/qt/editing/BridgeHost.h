@@ -26,10 +26,15 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     Q_EMIT PointerMoved({qRound(x), qRound(y)});
   }
+  void inputArrived() {
+    const EngineCallback callback(guard_);
+    Q_EMIT InputArrived();
+  }
 
  Q_SIGNALS:
   void StateArrived(const velor::StateSnapshot &state);
   void PointerMoved(QPoint clientPosition);
+  void InputArrived();
 
  private:
   EngineGuard &guard_;

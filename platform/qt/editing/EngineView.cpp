@@ -5,6 +5,8 @@
 #include "platform/qt/editing/EditorInput.h"
 #include "platform/qt/editing/EditorPage.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
 #include <QWebEngineLoadingInfo>
@@ -19,8 +21,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Many times what an input event takes to its queue in the page's process.
-constexpr std::chrono::milliseconds inputTravel = 30ms;
+/// The longest that input is waited for; usually the page says within milliseconds that it is
+/// there.
+constexpr std::chrono::milliseconds inputTravel = 500ms;
 
 /// A document that is in design mode from its beginning is laid out once; `velor.start` turns the
 /// mode on in any case, but then everything is laid out a second time.
@@ -53,6 +56,10 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
     if (phase_ == Phase::Ready) Q_EMIT StateArrived(state);
   });
   connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
+  connect(&host_, &BridgeHost::InputArrived, this, [this] {
+    sinceInput_.invalidate();
+    engine_.Guard().Wake();
+  });
   connect(input_, &EditorInput::InputComing, this, [this] {
     sinceInput_.start();
     Q_EMIT InputComing();
@@ -149,8 +156,12 @@ std::optional<QVariant> EngineView::Ask(const QString &expression,
 }
 
 void EngineView::AwaitInput() {
-  if (!sinceInput_.isValid()) return;
-  Wait(inputTravel, [this] { return sinceInput_.hasExpired(inputTravel.count()); });
+  if (CurrentPhase() != Phase::Ready || engine_.Guard().InCallback()) return;
+  if (!sinceInput_.isValid() || sinceInput_.hasExpired(inputTravel.count())) return;
+  // Let go after all the others, this key says when they are there (resources/bridge/arrivals.js).
+  QKeyEvent last(QEvent::KeyRelease, Qt::Key_F24, Qt::NoModifier);
+  QCoreApplication::sendEvent(view_->focusProxy(), &last);
+  Wait(inputTravel, [this] { return !sinceInput_.isValid() || CurrentPhase() != Phase::Ready; });
 }
 
 WaitEnd EngineView::Wait(std::chrono::milliseconds limit, const std::function<bool()> &done) {

@@ -51,8 +51,8 @@ class EngineView : public QObject {
   /// Evaluates an expression and waits for its value. Nothing when the page is not ready, dies
   /// or does not answer in time; then, and only then, `this` may be gone.
   std::optional<QVariant> Ask(const QString &expression, std::chrono::milliseconds limit);
-  /// Waits until input that was sent to the page a moment ago has surely arrived there: it takes
-  /// another way than expressions, which could overtake it.
+  /// Waits until the keys that were sent to the page a moment ago have arrived there: they take
+  /// another way than expressions, which could overtake them.
   void AwaitInput();
   /// Waits for `done`; see GuardedWait.
   WaitEnd Wait(std::chrono::milliseconds limit, const std::function<bool()> &done);
@@ -84,7 +84,7 @@ class EngineView : public QObject {
   QUrl address_;
   QString start_;
   QVariant startAnswer_;
-  QElapsedTimer sinceInput_;
+  QElapsedTimer sinceInput_;  ///< invalid when all of it is known to have arrived
 };
 
 }  // namespace velor

@@ -121,6 +121,10 @@ QVariant WebEditor::ExecCommand(int command, ExecOption, const QVariant &value) 
   return {};
 }
 
+QStringList WebEditor::BlockFormats() const {
+  return BlockFormatNames();
+}
+
 CommandStatus WebEditor::QueryStatus(int command) const {
   return snapshot_.StatusOf(command);
 }

@@ -45,6 +45,7 @@ class WebEditor : public EditingComponent {
   QString Charset() const override;
   QVariant ExecCommand(int command, ExecOption option, const QVariant &value) override;
   CommandStatus QueryStatus(int command) const override;
+  QStringList BlockFormats() const override;
   HtmlDocument &Document() override;
   bool ShowDetails() const override;
   void SetShowDetails(bool on) override;

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Keys come another way than the program's expressions, which may overtake them. Before the program
+// reads the document it lets go of a key that no keyboard has, after all the others, and is told
+// when that one is here.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+
+  function arrived(event) {
+    if (event.key !== 'F24') return;
+    event.stopImmediatePropagation();
+    velor.host?.inputArrived();
+  }
+
+  addEventListener('keyup', arrived, true);
+})();

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "insert/frmInsertElement.h"
+#include "platform/Browser.h"
+#include "platform/Database.h"
+#include "platform/EditingComponent.h"
+#include "platform/Paths.h"
+#include "platform/Platform.h"
+#include "tests/support/Checks.h"
+#include "tests/support/FakeDialogs.h"
+#include "tests/support/FakeEditingComponent.h"
+#include "tests/support/FakeFileDialog.h"
+#include "tests/support/FakeFiles.h"
+#include "tests/support/FakeRegistry.h"
+#include "tests/support/FakeRuntime.h"
+#include "tests/support/FakeStylingSweeps.h"
+#include "tests/support/Forms.h"
+
+#include <QAbstractButton>
+#include <QImage>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace velor {
+
+/// Makes one file dialog; the dialog under test owns it from then on.
+class FileDialogSource final : public Components {
+ public:
+  FakeFileDialog *dialog = new FakeFileDialog;
+  int made = 0;
+
+  ~FileDialogSource() override {
+    if (made == 0) delete dialog;
+  }
+  std::unique_ptr<EditingComponent> CreateEditingComponent(QWidget *) override { return {}; }
+  std::unique_ptr<SourceControl> CreateSourceControl(QWidget *, SourceAccess) override {
+    return {};
+  }
+  std::unique_ptr<Browser> CreateBrowser(QWidget *) override { return {}; }
+  std::unique_ptr<FileDialog> CreateFileDialog() override {
+    ++made;
+    return std::unique_ptr<FileDialog>(dialog);
+  }
+  std::unique_ptr<DatabaseConnection> CreateDatabaseConnection() override { return {}; }
+};
+
+inline QString U(const char *text) {
+  return QString::fromUtf8(text);
+}
+
+inline const QStringList Kinds = {QStringLiteral("image"), QStringLiteral("hyperlink"),
+                                  QStringLiteral("target"), QStringLiteral("video")};
+
+class ElementDialogTest : public testing::Test {
+ protected:
+  ElementDialogTest() {
+    component.SetDocumentHTML(U("<HTML><BODY>one two</BODY></HTML>"));
+    component.selectionStart = component.DocumentHTML().indexOf(U("two"));
+    component.selectionEnd = component.selectionStart + 3;
+    component.ForgetCalls();
+  }
+
+  template <typename Widget>
+  Widget *Get(const char *name) {
+    return Control<Widget>(dialog, U(name));
+  }
+  QString Text(const char *box) { return Get<QLineEdit>(box)->text(); }
+  void Type(const char *box, const char *text) { Get<QLineEdit>(box)->setText(U(text)); }
+  void Click(const char *button) { Get<QAbstractButton>(button)->click(); }
+
+  /// The dialog as the insert commands show it.
+  void Show(const char *mode, const char *savedPath = "") {
+    dialog.PrepareInsert(U(mode), component.Document(), U(savedPath));
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  }
+
+  QString SavePicture(const QString &name, QSize size) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    EXPECT_TRUE(image.save(folder.filePath(name)));
+    return ToLogic(folder.filePath(name));
+  }
+
+  QTemporaryDir folder;
+  CallLog log;
+  FakeFiles files;
+  FakeRuntime runtime;
+  FakeDialogs dialogs;
+  FakeRegistry registry;
+  FileDialogSource components;
+  Platform platform{files, runtime, dialogs, registry, components};
+  FakeStylingSweeps sweeps{&log};
+  FakeEditingComponent component{files, nullptr};
+  frmInsertElement dialog{platform, &sweeps};
+};
+
+}  // namespace velor
