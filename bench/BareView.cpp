@@ -49,7 +49,9 @@ void BareView::LoadFile(const QString &nativePath) {
   load(QUrl::fromLocalFile(nativePath));
   WaitUntil([&done] { return done; });
   disconnect(connection);
-  Evaluate(QStringLiteral("document.designMode = 'on'; 1"));
+  Evaluate(QStringLiteral(
+      "document.designMode = 'on'; document.body.focus();"
+      "getSelection().collapse(document.body.firstElementChild || document.body, 0); 1"));
 }
 
 QString BareView::OuterHtml() {

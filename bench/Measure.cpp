@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdio>
 
@@ -29,6 +30,7 @@ void WaitUntil(const std::function<bool()> &condition) {
     QCoreApplication::sendPostedEvents();
     if (condition()) loop.quit();
   });
+  QTimer::singleShot(std::chrono::minutes(2), &loop, &QEventLoop::quit);
   pump.start(1);
   if (!condition()) loop.exec();
 }
