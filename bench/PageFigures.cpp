@@ -127,6 +127,7 @@ void KeyFigures() {
       target->window()->activateWindow();
       (void)QTest::qWaitForWindowActive(target->window());
       target->setFocus();
+      QTest::qWait(40);  // nobody types faster
       const int before = counter;
       return Milliseconds([&] {
         QTest::keyClick(target, Qt::Key_X);

@@ -12,6 +12,9 @@
   let dirty = true;
   let waiting = false;
   let mirrorFits = true;
+  const frame = 16;  // milliseconds
+  let lastPush = -Infinity;
+  let pushedPoints = null;
 
   // True where there is a body to edit; a frameset and a document without root have none.
   velor.editable = () => document.body !== null && document.body.tagName === 'BODY';
@@ -35,16 +38,25 @@
       if (mirrorFits) state.html = html;
     }
     dirty = false;
+    pushedPoints = velor.selection.points();
     velor.host.pushState(JSON.stringify(state));
+    lastPush = performance.now();
   };
 
-  // One push an animation frame at most. A hidden page has no frames, so it pushes as soon as the
-  // work at hand is done.
+  // After a rest the push follows as soon as the work at hand is done, so that the toolbar does not
+  // lag a frame behind the key; then one an animation frame at most. A hidden page has no frames.
   velor.schedulePush = () => {
     if (waiting) return;
     waiting = true;
-    if (document.visibilityState === 'hidden') Promise.resolve().then(velor.push);
+    const rested = performance.now() - lastPush > frame;
+    if (rested || document.visibilityState === 'hidden') Promise.resolve().then(velor.push);
     else requestAnimationFrame(velor.push);
+  };
+
+  // The selection moved; nothing new where the last push told of it already.
+  velor.selectionMoved = () => {
+    const known = pushedPoints && velor.selection.samePoints(pushedPoints, velor.selection.points());
+    if (dirty || !known) velor.schedulePush();
   };
 
   const pushWhenHidden = () => {

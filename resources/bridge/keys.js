@@ -207,7 +207,7 @@
   function selectionChange() {
     velor.pending.selectionMoved();
     velor.history.selectionMoved();
-    velor.schedulePush();
+    velor.selectionMoved();
   }
 
   velor.listenToKeys = () => {
