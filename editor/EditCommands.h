@@ -34,12 +34,4 @@ inline constexpr std::array<EditCommand, 10> EditCommands{{
     {u"indent", u"Indent", EditingCommand::Indent},
 }};
 
-/// The command of a toolbar key (compared exactly); null for the keys of other buttons.
-inline const EditCommand *FindEditCommand(QStringView key) {
-  for (const EditCommand &entry : EditCommands) {
-    if (entry.key == key) return &entry;
-  }
-  return nullptr;
-}
-
 }  // namespace velor

@@ -30,14 +30,4 @@ TEST(EditCommandsTest, TheTenKeysStandInToolbarOrderWithTheirPublishedNumbers) {
   }
 }
 
-TEST(EditCommandsTest, EveryKeyIsFoundAgainAndIsItsOwn) {
-  for (const EditCommand &entry : EditCommands) EXPECT_EQ(FindEditCommand(entry.key), &entry);
-}
-
-TEST(EditCommandsTest, OtherKeysAreNoCommands) {
-  EXPECT_EQ(FindEditCommand(u"strike"), nullptr);
-  EXPECT_EQ(FindEditCommand(u"Bold"), nullptr);
-  EXPECT_EQ(FindEditCommand(u""), nullptr);
-}
-
 }  // namespace velor
