@@ -6,9 +6,11 @@
 #include "platform/Conversions.h"
 #include "platform/RuntimeError.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyleOptionTab>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
@@ -103,7 +105,8 @@ void PageTabs::Choose(int index) {
 }
 
 QSize PageTabs::tabSizeHint(int index) const {
-  const int text = fontMetrics().horizontalAdvance(tabToolTip(index));
+  // Rounded up: a caption that is a fraction wider than its place would be cut.
+  const int text = qCeil(QFontMetricsF(font()).horizontalAdvance(tabToolTip(index)));
   const int width = TabPadding + MenuIconSize + TabPadding / 2 + text + TabPadding;
   return {std::clamp(width, NarrowestTab, WidestTab), TabHeight};
 }
