@@ -16,7 +16,7 @@ from desktop import Program  # noqa: E402
 def main(run_folder, out, palette, scale):
     scratch = tempfile.mkdtemp(prefix="velor-shots-")
     folder = os.path.join(scratch, "program")
-    shutil.copytree(run_folder, folder, ignore=shutil.ignore_patterns("velor-*", "*.ini"))
+    shutil.copytree(run_folder, folder, ignore=shutil.ignore_patterns("velor-*", "*.ini", "Temp*.htm"))
     factor = int(scale) / 100
     program = Program(os.path.join(run_folder, "velor-web-creator"), folder, scratch, out,
                       {"VELOR_PALETTE": palette, "QT_SCALE_FACTOR": str(factor)})

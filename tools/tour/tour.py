@@ -37,7 +37,7 @@ class Tour:
         self.site = os.path.join(self.scratch, "my pages")
         for folder in (self.settings, self.site):
             os.makedirs(folder)
-        shutil.copytree(run_folder, self.folder, ignore=shutil.ignore_patterns("velor-*", "*.ini"))
+        shutil.copytree(run_folder, self.folder, ignore=shutil.ignore_patterns("velor-*", "*.ini", "Temp*.htm"))
         self.executable = os.path.join(run_folder, "velor-web-creator")
         self.program = None
 
