@@ -31,15 +31,15 @@
     waiting = false;
     if (!velor.host) return;
     velor.history.settle();
-    const state = { version: ++velor.version, dirty, ...velor.state() };
+    velor.host.pushState(JSON.stringify({ version: ++velor.version, dirty, ...velor.state() }));
+    // After the state: the toolbar does not wait for it.
     if (dirty && mirrorFits) {
       const html = velor.serialize();
       mirrorFits = html.length <= mirrorLimit;
-      if (mirrorFits) state.html = html;
+      if (mirrorFits) velor.host.pushMirror(html);
     }
     dirty = false;
     pushedPoints = velor.selection.points();
-    velor.host.pushState(JSON.stringify(state));
     lastPush = performance.now();
   };
 

@@ -26,14 +26,14 @@ class Recovery : public WebEditorTest {
                  std::count(listener_.reports.begin(), listener_.reports.end(), back_)) == times;
     });
   }
-  /// From now on the page notes the last mirror and state that it gave away.
+  /// From now on the page notes the last mirror that it was asked for and that it pushed.
   void Note() {
     ASSERT_TRUE(WaitFor([this] { return listener_.displayChanges > 0; }));
     Evaluate(QStringLiteral(
-        "globalThis.given = { mirror: '', state: '' };"
-        "{ const { mirror } = velor; const { pushState } = velor.host;"
+        "globalThis.given = { mirror: '', pushed: '' };"
+        "{ const { mirror } = velor; const { pushMirror } = velor.host;"
         "velor.mirror = () => { const value = mirror(); given.mirror = value.html; return value; };"
-        "velor.host.pushState = (json) => { given.state = json; pushState(json); }; }"));
+        "velor.host.pushMirror = (html) => { given.pushed = html; pushMirror(html); }; }"));
   }
   bool Gave(const QString &what, const QString &text) {
     return WaitFor(
@@ -65,7 +65,7 @@ TEST_F(Recovery, TheMirrorFollowsTypingWithoutAnyoneReading) {
   LoadWithCaret("<p>One</p>", QStringLiteral("p"));
   Note();
   TypeText(QStringLiteral("!"));
-  ASSERT_TRUE(Gave(QStringLiteral("state"), QStringLiteral("One!")));
+  ASSERT_TRUE(Gave(QStringLiteral("pushed"), QStringLiteral("One!")));
   Kill();
   ASSERT_TRUE(ComesBack());
   EXPECT_TRUE(DocumentHolds(QStringLiteral("<p>One!</p>")));

@@ -13,8 +13,7 @@ const QString whole = QStringLiteral(R"({
   "commands": {"5000": 7, "5023": 3, "5048": 11, "5025": 1, "5024": 0, "5026": 99},
   "fontName": "Arial", "fontSize": "12", "foreColor": "#112233", "backColor": "#FFFFFF",
   "blockFormat": "Heading 1", "selection": "Control",
-  "element": {"tag": "A", "attributes": [["href", "x.htm"], ["title", "a \"b\" <c>"]]},
-  "html": "<p>\u4e2d</p>"
+  "element": {"tag": "A", "attributes": [["href", "x.htm"], ["title", "a \"b\" <c>"]]}
 })");
 
 TEST(StateSnapshot, HoldsEveryFieldOfAPushedState) {
@@ -27,7 +26,6 @@ TEST(StateSnapshot, HoldsEveryFieldOfAPushedState) {
   ASSERT_EQ(state->element.attributes.size(), 2U);
   EXPECT_EQ(state->element.attributes[0].first, QStringLiteral("href"));
   EXPECT_EQ(state->element.Attribute(QStringLiteral("title")), QStringLiteral("a \"b\" <c>"));
-  EXPECT_EQ(state->html, QStringLiteral("<p>\u4e2d</p>"));
 }
 
 TEST(StateSnapshot, AnswersTheStatusOfACommand) {
@@ -64,7 +62,6 @@ TEST(StateSnapshot, AMixedSelectionHasEmptyValuesAndNoElement) {
   EXPECT_TRUE(state->element.IsNull());
   EXPECT_EQ(state->selection, SelectionType::None);
   EXPECT_FALSE(state->dirty);
-  EXPECT_FALSE(state->html.has_value());
 }
 
 TEST(StateSnapshot, ATextThatIsNoStateIsNone) {

@@ -22,6 +22,10 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     if (const auto state = StateSnapshot::FromJson(json)) Q_EMIT StateArrived(*state);
   }
+  void pushMirror(const QString &html) {
+    const EngineCallback callback(guard_);
+    Q_EMIT MirrorArrived(html);
+  }
   void pushMouse(double x, double y) {
     const EngineCallback callback(guard_);
     Q_EMIT PointerMoved({qRound(x), qRound(y)});
@@ -33,6 +37,7 @@ class BridgeHost : public QObject {
 
  Q_SIGNALS:
   void StateArrived(const velor::StateSnapshot &state);
+  void MirrorArrived(const QString &html);
   void PointerMoved(QPoint clientPosition);
   void InputArrived();
 

@@ -56,6 +56,9 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
     if (phase_ == Phase::Ready) Q_EMIT StateArrived(state);
   });
   connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
+  connect(&host_, &BridgeHost::MirrorArrived, this, [this](const QString &html) {
+    if (phase_ == Phase::Ready) Q_EMIT MirrorArrived(html);
+  });
   connect(&host_, &BridgeHost::InputArrived, this, [this] {
     sinceInput_.invalidate();
     engine_.Guard().Wake();

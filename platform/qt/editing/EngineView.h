@@ -64,6 +64,8 @@ class EngineView : public QObject {
   void LoadEnded();
   void Died();
   void StateArrived(const velor::StateSnapshot &state);
+  /// The document, where it is small enough to travel with each change.
+  void MirrorArrived(const QString &html);
   void PointerMoved(QPoint clientPosition);
   void MenuWanted(QPoint screenPosition);
   /// A key or button is about to reach the page; from outside the engine.

@@ -72,7 +72,6 @@ std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
   state.blockFormat = object[u"blockFormat"].toString();
   state.selection = SelectionOfName(object[u"selection"].toString());
   state.element = ElementOf(object[u"element"].toObject());
-  if (object[u"html"].isString()) state.html = object[u"html"].toString();
   return state;
 }
 

@@ -24,8 +24,6 @@ struct StateSnapshot {
   QString blockFormat;
   SelectionType selection = SelectionType::None;
   HtmlElement element;
-  /// The document, where it is small enough to travel with each change.
-  std::optional<QString> html;
 
   /// Nothing for a text that is no state.
   static std::optional<StateSnapshot> FromJson(const QString &json);

@@ -23,8 +23,6 @@ constexpr int restoreAttempts = 3;
 
 void WebEditor::StateArrived(const StateSnapshot &state) {
   snapshot_ = state;
-  if (state.html) mirror_.html = *state.html;
-  snapshot_.html.reset();
   if (!mirrorTimer_.isActive())
     mirrorTimer_.start(std::max(mirrorPause, mirrorShare * mirrorCost_));
   notices_.Post(Notice::Display, [this] {
