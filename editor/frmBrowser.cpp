@@ -2,16 +2,16 @@
 #include "editor/frmBrowser.h"
 
 #include "chrome/Icons.h"
+#include "chrome/Palette.h"
+#include "chrome/ToolBarButtons.h"
 #include "editor/MainWindow.h"
 #include "platform/Platform.h"
 
-#include <QAction>
 #include <QCloseEvent>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QStatusBar>
 #include <QToolBar>
-#include <QToolButton>
-#include <QVBoxLayout>
 
 #include <array>
 #include <limits>
@@ -23,17 +23,22 @@ namespace {
 /// A button's key is its caption and names its image.
 struct BrowserButton {
   QStringView key;
+  QStringView tooltip;
   void (Browser::*action)();
 };
 
 constexpr std::array<BrowserButton, 4> BrowserButtons{{
-    {u"Back", &Browser::GoBack},
-    {u"Forward", &Browser::GoForward},
-    {u"Refresh", &Browser::Refresh},
-    {u"Stop", &Browser::Stop},
+    {u"Back", u"Back to the page before", &Browser::GoBack},
+    {u"Forward", u"Forward again", &Browser::GoForward},
+    {u"Refresh", u"Load the page again", &Browser::Refresh},
+    {u"Stop", u"Stop loading", &Browser::Stop},
 }};
 
 constexpr int BrowserIconSize = 16;
+/// The size of the window that is not maximised.
+constexpr QSize UsualSize(800, 600);
+/// The widest that the progress reads.
+constexpr QLatin1String WidestProgress("-99%");
 
 }  // namespace
 
@@ -44,6 +49,12 @@ int ProgressPercent(std::int32_t progress, std::int32_t maximum) {
     return 0;
   }
   return static_cast<int>(scaled / maximum % 100);
+}
+
+std::optional<QRect> BrowserPlace(QSize inner, int toolBarHeight, int statusBarHeight) {
+  const int height = inner.height() - toolBarHeight - statusBarHeight;
+  if (height < 0) return std::nullopt;
+  return QRect(0, toolBarHeight, inner.width(), height);
 }
 
 frmBrowser::frmBrowser(EditorContext &context)
@@ -57,25 +68,7 @@ frmBrowser::frmBrowser(EditorContext &context)
   browser_->Widget()->setObjectName(QStringLiteral("brwWebBrowser"));
   browser_->Widget()->setAccessibleName(QStringLiteral("Preview"));
 
-  auto *sta = new QStatusBar(this);
-  sta->setObjectName(QStringLiteral("Sta"));
-  sta->setSizeGripEnabled(false);
-  statusText_ = new QLabel(sta);
-  statusText_->setObjectName(QStringLiteral("Sta_1"));
-  statusText_->setTextFormat(Qt::PlainText);
-  // A long address is cut rather than widening the window.
-  statusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  progress_ = new QLabel(sta);
-  progress_->setObjectName(QStringLiteral("Sta_2"));
-  sta->addWidget(statusText_, 1);
-  sta->addPermanentWidget(progress_);
-
-  auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  layout->addWidget(tbToolBar);
-  layout->addWidget(browser_->Widget(), 1);
-  layout->addWidget(sta);
+  BuildStatusBar();
   setFocusProxy(browser_->Widget());
 
   browser_->SetListener(this);
@@ -91,14 +84,58 @@ void frmBrowser::BuildToolBar() {
   tbToolBar->setAccessibleName(QStringLiteral("Navigation"));
   tbToolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   tbToolBar->setIconSize(QSize(BrowserIconSize, BrowserIconSize));
+  tbToolBar->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);
   for (const BrowserButton &row : BrowserButtons) {
     const QString key = row.key.toString();
-    QAction *button = tbToolBar->addAction(IconFor(key), key);
+    ToolBarAction *button =
+        AddToolBarButton(*tbToolBar, key, key, row.tooltip.toString(), ButtonKind::Click);
     button->setObjectName(key);
-    button->setData(key);
-    connect(button, &QAction::triggered, this, [this, key] { ButtonClicked(key); });
-    tbToolBar->widgetForAction(button)->setFocusPolicy(Qt::TabFocus);
-    tbToolBar->widgetForAction(button)->setAccessibleName(key);
+    connect(button, &ToolBarAction::Chosen, this, [this, key] { ButtonClicked(key); });
+  }
+}
+
+void frmBrowser::BuildStatusBar() {
+  sta_ = new QStatusBar(this);
+  sta_->setObjectName(QStringLiteral("Sta"));
+  sta_->setSizeGripEnabled(false);
+  sta_->setContentsMargins(BarMargin, 0, BarMargin, 0);
+  statusText_ = new QLabel(sta_);
+  statusText_->setObjectName(QStringLiteral("Sta_1"));
+  statusText_->setAccessibleName(QStringLiteral("Status"));
+  statusText_->setTextFormat(Qt::PlainText);
+  // A long address is cut rather than widening the window.
+  statusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  progress_ = new QLabel(sta_);
+  progress_->setObjectName(QStringLiteral("Sta_2"));
+  progress_->setAccessibleName(QStringLiteral("Progress"));
+  progress_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  // As wide at rest as under way, so that nothing moves.
+  progress_->setMinimumWidth(progress_->fontMetrics().horizontalAdvance(WidestProgress));
+  sta_->addWidget(statusText_, 1);
+  sta_->addPermanentWidget(progress_);
+}
+
+QSize frmBrowser::sizeHint() const {
+  return UsualSize;
+}
+
+void frmBrowser::resizeEvent(QResizeEvent *event) {
+  QWidget::resizeEvent(event);
+  PlaceParts();
+}
+
+bool frmBrowser::event(QEvent *event) {
+  if (event->type() == QEvent::LayoutRequest) PlaceParts();
+  return QWidget::event(event);
+}
+
+void frmBrowser::PlaceParts() {
+  const int toolBarHeight = tbToolBar->sizeHint().height();
+  const int statusBarHeight = sta_->sizeHint().height();
+  tbToolBar->setGeometry(0, 0, width(), toolBarHeight);
+  sta_->setGeometry(0, height() - statusBarHeight, width(), statusBarHeight);
+  if (const auto place = BrowserPlace(size(), toolBarHeight, statusBarHeight)) {
+    browser_->Widget()->setGeometry(*place);
   }
 }
 

@@ -5,13 +5,16 @@
 #include "editor/EditorContext.h"
 #include "platform/Browser.h"
 
+#include <QRect>
 #include <QString>
 #include <QWidget>
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 class QLabel;
+class QStatusBar;
 class QToolBar;
 
 namespace velor {
@@ -19,6 +22,10 @@ namespace velor {
 /// The share of a load that is done, as the preview shows it: whole percent modulo 100, so that a
 /// completed load reads 0; 0 too where it cannot be computed in 32 bits.
 int ProgressPercent(std::int32_t progress, std::int32_t maximum);
+
+/// Where the browser lies in a window of that inner size: all of it between toolbar and status bar.
+/// None where the window is too low for the bars: the browser then stays where it was.
+std::optional<QRect> BrowserPlace(QSize inner, int toolBarHeight, int statusBarHeight);
 
 /// The preview: a page as a web browser shows it. Made on first use and then kept; closing hides
 /// it.
@@ -40,18 +47,26 @@ class frmBrowser : public QWidget, public ProgramWindow, private BrowserListener
 
   void MarkKill() override;
 
+  QSize sizeHint() const override;
+
  protected:
   void closeEvent(QCloseEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
+  /// The bars' heights follow the font and the style.
+  bool event(QEvent *event) override;
 
  private:
   void StatusTextChanged(const QString &text) override;
   void ProgressChanged(int progress, int maximum) override;
 
   void BuildToolBar();
+  void BuildStatusBar();
+  void PlaceParts();
 
   EditorContext &context_;
   std::unique_ptr<Browser> browser_;
   QToolBar *tbToolBar = nullptr;
+  QStatusBar *sta_ = nullptr;
   QLabel *statusText_ = nullptr;
   QLabel *progress_ = nullptr;
 };

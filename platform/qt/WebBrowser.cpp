@@ -3,16 +3,14 @@
 
 #include "platform/RuntimeError.h"
 #include "platform/qt/BaseElement.h"
+#include "platform/qt/BrowserPage.h"
 
+#include <QAction>
 #include <QFile>
-#include <QFileInfo>
-#include <QSet>
 #include <QWebEngineDownloadRequest>
-#include <QWebEnginePage>
+#include <QWebEngineLoadingInfo>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
-#include <QWebEngineUrlRequestInfo>
-#include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
 namespace velor {
@@ -23,72 +21,42 @@ namespace {
 constexpr int ProgressMaximum = 100;
 constexpr const char *Utf8Mark = "\xEF\xBB\xBF";
 
-/// Stands in for the window a page wants to open: hands its first address to the page that asked,
-/// and goes.
-class WindowRequest final : public QWebEnginePage {
+/// What the engine's own context menu offers and this browser refuses or has no second window for.
+constexpr QWebEnginePage::WebAction RefusedActions[] = {
+    QWebEnginePage::SavePage,
+    QWebEnginePage::ViewSource,
+    QWebEnginePage::DownloadLinkToDisk,
+    QWebEnginePage::DownloadImageToDisk,
+    QWebEnginePage::DownloadMediaToDisk,
+    QWebEnginePage::OpenLinkInNewTab,
+    QWebEnginePage::OpenLinkInNewWindow,
+};
+
+/// Pages out of sight make no sound.
+class BrowserView final : public QWebEngineView {
  public:
-  WindowRequest(QWebEngineProfile *profile, QWebEnginePage *asking)
-      : QWebEnginePage(profile, asking), asking_(asking) {}
+  using QWebEngineView::QWebEngineView;
 
  protected:
-  bool acceptNavigationRequest(const QUrl &url, NavigationType, bool isMainFrame) override {
-    if (isMainFrame && !asking_.isNull()) asking_->load(url);
-    deleteLater();
-    return false;
+  void showEvent(QShowEvent *event) override {
+    QWebEngineView::showEvent(event);
+    page()->setAudioMuted(false);
   }
-
- private:
-  QPointer<QWebEnginePage> asking_;
-};
-
-/// Lets a page on disk use the files beside it and what is on the web, but not read the person's
-/// files: the engine knows only "all local files" or "none". Its scripts get no file's content, and
-/// its frames show pages and pictures only.
-class LocalFileGuard final : public QWebEngineUrlRequestInterceptor {
- public:
-  using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
-
-  void interceptRequest(QWebEngineUrlRequestInfo &request) override {
-    if (!request.requestUrl().isLocalFile()) return;
-    switch (request.resourceType()) {
-      case QWebEngineUrlRequestInfo::ResourceTypeXhr:
-        request.block(true);
-        break;
-      case QWebEngineUrlRequestInfo::ResourceTypeSubFrame:
-      case QWebEngineUrlRequestInfo::ResourceTypeObject:
-        request.block(!IsWebContent(request.requestUrl()));
-        break;
-      default:
-        break;
-    }
-  }
-
- private:
-  static bool IsWebContent(const QUrl &url) {
-    static const QSet<QString> suffixes{QStringLiteral("htm"),   QStringLiteral("html"),
-                                        QStringLiteral("xhtml"), QStringLiteral("shtml"),
-                                        QStringLiteral("svg"),   QStringLiteral("png"),
-                                        QStringLiteral("jpg"),   QStringLiteral("jpeg"),
-                                        QStringLiteral("gif"),   QStringLiteral("webp")};
-    return suffixes.contains(QFileInfo(url.path()).suffix().toLower());
+  void hideEvent(QHideEvent *event) override {
+    QWebEngineView::hideEvent(event);
+    page()->setAudioMuted(true);
   }
 };
 
-class BrowserPage final : public QWebEnginePage {
- public:
-  using QWebEnginePage::QWebEnginePage;
-
- protected:
-  QWebEnginePage *createWindow(WebWindowType) override {
-    return new WindowRequest(profile(), this);
-  }
-};
+QString Named(const QUrl &address) {
+  return address.isLocalFile() ? address.toLocalFile() : address.toDisplayString();
+}
 
 }  // namespace
 
 WebBrowser::WebBrowser(QWidget *parent)
     : profile_(std::make_unique<QWebEngineProfile>()),
-      view_(new QWebEngineView(parent)),
+      view_(new BrowserView(parent)),
       page_(new BrowserPage(profile_.get())) {
   QWebEngineSettings *settings = page_->settings();
   profile_->setUrlRequestInterceptor(new LocalFileGuard(profile_.get()));
@@ -96,16 +64,24 @@ WebBrowser::WebBrowser(QWidget *parent)
   settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
   settings->setAttribute(QWebEngineSettings::PluginsEnabled, false);
   settings->setAttribute(QWebEngineSettings::NavigateOnDropEnabled, false);
+  for (const QWebEnginePage::WebAction refused : RefusedActions) {
+    page_->action(refused)->setVisible(false);
+  }
   view_->setPage(page_);
 
   connect(profile_.get(), &QWebEngineProfile::downloadRequested, this,
-          [](QWebEngineDownloadRequest *download) { download->cancel(); });
-  connect(page_, &QWebEnginePage::linkHovered, this, [this](const QString &address) {
-    if (listener_ != nullptr) listener_->StatusTextChanged(address);
-  });
+          [this](QWebEngineDownloadRequest *download) {
+            download->cancel();
+            TellState(tr("The preview downloads nothing: %1").arg(Named(download->url())));
+          });
+  connect(page_, &QWebEnginePage::linkHovered, this,
+          [this](const QString &address) { TellStatus(address.isEmpty() ? state_ : address); });
   connect(page_, &QWebEnginePage::loadProgress, this, [this](int percent) {
     if (listener_ != nullptr) listener_->ProgressChanged(percent, ProgressMaximum);
   });
+  connect(page_, &QWebEnginePage::loadingChanged, this, &WebBrowser::LoadingChanged);
+  connect(page_, &QWebEnginePage::renderProcessTerminated, this,
+          [this] { TellState(tr("The page's process has ended. Refresh shows the page again.")); });
 }
 
 WebBrowser::~WebBrowser() {
@@ -127,7 +103,10 @@ void WebBrowser::Navigate(const QUrl &url) {
 }
 
 void WebBrowser::NavigateToText(const QString &html, const QUrl &baseUrl) {
-  const QString name = copies_.filePath(QStringLiteral("preview.htm"));
+  // A page keeps its file, so that each place in the history shows its own page.
+  if (!bases_.contains(baseUrl)) bases_.append(baseUrl);
+  const QString name =
+      copies_.filePath(QStringLiteral("preview%1.htm").arg(bases_.indexOf(baseUrl) + 1));
   QFile copy(name);
   // The mark outweighs the charset that the page declares for its own file.
   const QByteArray bytes = Utf8Mark + WithBase(html, baseUrl).toUtf8();
@@ -135,7 +114,9 @@ void WebBrowser::NavigateToText(const QString &html, const QUrl &baseUrl) {
     throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("Preview"),
                        copy.errorString() + QStringLiteral(": ") + name);
   }
-  page_->load(QUrl::fromLocalFile(name));
+  const QUrl url = QUrl::fromLocalFile(name);
+  page_->StandIn(url, baseUrl);
+  page_->load(url);
 }
 
 void WebBrowser::GoBack() {
@@ -152,6 +133,32 @@ void WebBrowser::Refresh() {
 
 void WebBrowser::Stop() {
   page_->triggerAction(QWebEnginePage::Stop);
+}
+
+void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo &loading) {
+  switch (loading.status()) {
+    case QWebEngineLoadingInfo::LoadStartedStatus:
+      TellState(tr("Opening %1").arg(Named(loading.url())));
+      break;
+    case QWebEngineLoadingInfo::LoadStoppedStatus:
+      TellState(tr("Stopped"));
+      break;
+    case QWebEngineLoadingInfo::LoadSucceededStatus:
+      TellState(tr("Done"));
+      break;
+    case QWebEngineLoadingInfo::LoadFailedStatus:
+      TellState(tr("%1 could not be opened").arg(Named(loading.url())));
+      break;
+  }
+}
+
+void WebBrowser::TellState(const QString &state) {
+  state_ = state;
+  TellStatus(state);
+}
+
+void WebBrowser::TellStatus(const QString &text) {
+  if (listener_ != nullptr) listener_->StatusTextChanged(text);
 }
 
 }  // namespace velor

@@ -3,21 +3,26 @@
 
 #include "platform/Browser.h"
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QTemporaryDir>
+#include <QUrl>
 
 #include <memory>
 
-class QWebEnginePage;
+class QWebEngineLoadingInfo;
 class QWebEngineProfile;
 class QWebEngineView;
 
 namespace velor {
 
+class BrowserPage;
+
 /// The preview browser on Qt WebEngine. Page scripts run, in the engine's sandbox; what a page
 /// leaves behind (cookies, cache, storage) goes with the browser, downloads are refused, and what
-/// would open a window opens here instead.
+/// would open a window opens here instead. Out of sight it is silent. The status text is the
+/// address under the pointer, else how the load stands.
 class WebBrowser final : public QObject, public Browser {
   Q_OBJECT
 
@@ -35,12 +40,19 @@ class WebBrowser final : public QObject, public Browser {
   void Stop() override;
 
  private:
+  void LoadingChanged(const QWebEngineLoadingInfo &loading);
+  void TellState(const QString &state);
+  void TellStatus(const QString &text);
+
   std::unique_ptr<QWebEngineProfile> profile_;
   QPointer<QWebEngineView> view_;
-  QPointer<QWebEnginePage> page_;
+  QPointer<BrowserPage> page_;
   BrowserListener *listener_ = nullptr;
-  /// Holds the page of NavigateToText; removed with the browser.
+  /// How the last load stands.
+  QString state_;
+  /// Holds the pages of NavigateToText, one file a base; removed with the browser.
   QTemporaryDir copies_;
+  QList<QUrl> bases_;
 };
 
 }  // namespace velor

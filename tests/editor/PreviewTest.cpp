@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QStatusBar>
 #include <QToolBar>
 
 #include <limits>
@@ -124,6 +125,48 @@ TEST_F(PreviewTest, StatusAndProgressStandInTheirPanels) {
   EXPECT_EQ(Panel(2), QStringLiteral("0%"));
 }
 
+TEST_F(PreviewTest, TheBrowserFillsTheWindowBetweenTheBars) {
+  Open(IndexFile);
+  Page(1).ChangeMode(4);
+  frmBrowser &window = *context.preview;
+  const auto *bar = window.findChild<QToolBar *>(QStringLiteral("tbToolBar"));
+  const auto *status = window.findChild<QStatusBar *>(QStringLiteral("Sta"));
+  for (const QSize size : {QSize(700, 500), QSize(300, 900)}) {
+    window.resize(size);
+    EXPECT_GT(bar->height(), 0);
+    EXPECT_GT(status->height(), 0);
+    EXPECT_EQ(
+        PreviewBrowser().Widget()->geometry(),
+        QRect(0, bar->height(), size.width(), size.height() - bar->height() - status->height()));
+    EXPECT_EQ(bar->geometry().topLeft(), QPoint(0, 0));
+    EXPECT_EQ(status->geometry().bottom(), size.height() - 1);
+  }
+  const QRect before = PreviewBrowser().Widget()->geometry();
+  window.resize(300, bar->height() + status->height() - 1);
+  EXPECT_EQ(PreviewBrowser().Widget()->geometry(), before);
+}
+
+TEST_F(PreviewTest, ThePanelsKeepTheirPlacesWhateverTheySay) {
+  Open(IndexFile);
+  Page(1).ChangeMode(4);
+  context.preview->resize(400, 300);
+  QLabel *progress = context.preview->findChild<QLabel *>(QStringLiteral("Sta_2"));
+  PreviewBrowser().listener->ProgressChanged(0, 100);
+  QCoreApplication::sendPostedEvents();
+  const QRect before = progress->geometry();
+  PreviewBrowser().listener->StatusTextChanged(QString(3000, u'w'));
+  PreviewBrowser().listener->ProgressChanged(88, 100);
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(progress->geometry(), before);
+  EXPECT_EQ(context.preview->width(), 400);
+}
+
+TEST(BrowserPlaceTest, IsWhatTheBarsLeave) {
+  EXPECT_EQ(BrowserPlace({640, 480}, 30, 20), QRect(0, 30, 640, 430));
+  EXPECT_EQ(BrowserPlace({640, 50}, 30, 20), QRect(0, 30, 640, 0));
+  EXPECT_EQ(BrowserPlace({640, 49}, 30, 20), std::nullopt);
+}
+
 TEST(ProgressPercentTest, IsThePercentModuloAHundredAndZeroWhereItCannotBeComputed) {
   EXPECT_EQ(ProgressPercent(50, 100), 50);
   EXPECT_EQ(ProgressPercent(1, 3), 33);
@@ -131,6 +174,10 @@ TEST(ProgressPercentTest, IsThePercentModuloAHundredAndZeroWhereItCannotBeComput
   EXPECT_EQ(ProgressPercent(150, 100), 50);
   EXPECT_EQ(ProgressPercent(5, 0), 0);
   EXPECT_EQ(ProgressPercent(-50, 100), -50);
+  EXPECT_EQ(ProgressPercent(-1, 3), -33);
+  EXPECT_EQ(ProgressPercent(-150, 100), -50) << "the remainder has the dividend's sign";
+  EXPECT_EQ(ProgressPercent(150, -100), -50);
+  EXPECT_EQ(ProgressPercent(0, 0), 0);
   EXPECT_EQ(ProgressPercent(21474836, 42949672), 50);
   EXPECT_EQ(ProgressPercent(21474837, 42949672), 0) << "a hundred times that leaves 32 bits";
   EXPECT_EQ(ProgressPercent(std::numeric_limits<std::int32_t>::min(), 1), 0);

@@ -4,9 +4,11 @@
 #include "platform/qt/WebBrowser.h"
 #include "tests/support/Checks.h"
 
+#include <QAction>
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
+#include <QStringList>
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTest>
@@ -15,6 +17,7 @@
 #include <QWebEngineView>
 #include <QWidget>
 
+#include <csignal>
 #include <memory>
 
 namespace velor {
@@ -28,7 +31,7 @@ class WebBrowserTest : public ::testing::Test, protected BrowserListener {
     host.show();
   }
 
-  void StatusTextChanged(const QString &text) override { status = text; }
+  void StatusTextChanged(const QString &text) override { statuses << text; }
   void ProgressChanged(int progress, int maximum) override {
     done = progress == maximum;
     EXPECT_EQ(maximum, 100);
@@ -45,10 +48,19 @@ class WebBrowserTest : public ::testing::Test, protected BrowserListener {
     return QTest::qWaitFor([&] { return EnginePage()->title() == title; }, 20000);
   }
 
+  bool StatusBecomes(const QString &text) {
+    return QTest::qWaitFor([&] { return !statuses.isEmpty() && statuses.last() == text; }, 20000);
+  }
+  /// A script that answers in the page's title.
+  bool Answers(const QString &script, const QString &answer) {
+    EnginePage()->runJavaScript(QStringLiteral("document.title = ") + script);
+    return TitleBecomes(answer);
+  }
+
   QTemporaryDir folder;
   QWidget host;
   WebBrowser browser{&host};
-  QString status;
+  QStringList statuses;
   bool done = false;
 };
 
@@ -112,15 +124,125 @@ TEST_F(WebBrowserTest, WhatWouldOpenAWindowOpensHere) {
   EXPECT_EQ(EnginePage()->url(), next);
 }
 
-TEST_F(WebBrowserTest, ALinkUnderThePointerIsToldAsStatusText) {
+TEST_F(WebBrowserTest, HowALoadStandsIsToldAsStatusText) {
+  const QUrl page = Put(QStringLiteral("page.htm"), "<title>page</title>");
+  browser.Navigate(page);
+  ASSERT_TRUE(StatusBecomes(QStringLiteral("Done"))) << statuses.join(u'|').toStdString();
+  EXPECT_EQ(statuses.first(), QStringLiteral("Opening ") + page.toLocalFile());
+  browser.Navigate(QUrl::fromLocalFile(folder.filePath(QStringLiteral("gone.htm"))));
+  EXPECT_TRUE(StatusBecomes(folder.filePath(QStringLiteral("gone.htm")) +
+                            QStringLiteral(" could not be opened")))
+      << statuses.join(u'|').toStdString();
+}
+
+TEST_F(WebBrowserTest, ALinkUnderThePointerIsToldAsStatusTextUntilThePointerLeaves) {
   browser.Navigate(Put(QStringLiteral("link.htm"),
-                       "<title>link</title><body style='margin:0'><a href=next.htm "
-                       "style='display:block;height:300px'>l</a>"));
-  ASSERT_TRUE(TitleBecomes(QStringLiteral("link")));
-  Q_EMIT EnginePage()->linkHovered(QStringLiteral("next.htm"));
-  EXPECT_EQ(status, QStringLiteral("next.htm"));
-  Q_EMIT EnginePage()->linkHovered(QString());
-  EXPECT_TRUE(status.isEmpty());
+                       "<title>link</title><body style='margin:0'><a href=http://127.0.0.1/next "
+                       "style='display:block;height:100px'>l</a>"));
+  ASSERT_TRUE(StatusBecomes(QStringLiteral("Done")));
+  QTest::mouseMove(browser.Widget()->focusProxy(), {50, 50});
+  EXPECT_TRUE(StatusBecomes(QStringLiteral("http://127.0.0.1/next")))
+      << statuses.join(u'|').toStdString();
+  QTest::mouseMove(browser.Widget()->focusProxy(), {50, 200});
+  EXPECT_TRUE(StatusBecomes(QStringLiteral("Done"))) << statuses.join(u'|').toStdString();
+}
+
+TEST_F(WebBrowserTest, StopEndsALoadThatDoesNotEnd) {
+  QTcpServer server;
+  ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+  browser.Navigate(QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(server.serverPort())));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return server.hasPendingConnections(); }, 20000));
+  browser.Stop();
+  EXPECT_TRUE(StatusBecomes(QStringLiteral("Stopped"))) << statuses.join(u'|').toStdString();
+}
+
+TEST_F(WebBrowserTest, TheSamePathShownAgainShowsWhatTheFilesHoldNow) {
+  const QByteArray text =
+      "<link rel=stylesheet href=style.css><p>x</p><img src=p.svg>"
+      "<script>onload = () => document.title = document.dir + '|' + "
+      "getComputedStyle(document.querySelector('p')).color + '|' + "
+      "document.images[0].naturalWidth</script>";
+  const auto picture = [](const char *width) {
+    return QByteArray("<svg xmlns='http://www.w3.org/2000/svg' height='9' width='") + width + "'/>";
+  };
+  Put(QStringLiteral("style.css"), "p { color: rgb(1, 1, 1) }");
+  Put(QStringLiteral("p.svg"), picture("11"));
+  const QUrl page = Put(QStringLiteral("page.htm"), "<html dir=ltr>" + text);
+  browser.Navigate(page);
+  ASSERT_TRUE(TitleBecomes(QStringLiteral("ltr|rgb(1, 1, 1)|11")));
+  Put(QStringLiteral("style.css"), "p { color: rgb(2, 2, 2) }");
+  Put(QStringLiteral("p.svg"), picture("22"));
+  Put(QStringLiteral("page.htm"), "<html dir=rtl>" + text);
+  browser.Navigate(page);
+  EXPECT_TRUE(TitleBecomes(QStringLiteral("rtl|rgb(2, 2, 2)|22")))
+      << EnginePage()->title().toStdString();
+  Put(QStringLiteral("style.css"), "p { color: rgb(3, 3, 3) }");
+  Put(QStringLiteral("p.svg"), picture("33"));
+  browser.Navigate(Put(QStringLiteral("other.htm"), "<html dir=ltr>" + text));
+  EXPECT_TRUE(TitleBecomes(QStringLiteral("ltr|rgb(3, 3, 3)|33")))
+      << EnginePage()->title().toStdString();
+}
+
+TEST_F(WebBrowserTest, ATextShownAgainIsTheNewOneAndEachBaseKeepsItsOwn) {
+  const QUrl one = QUrl::fromLocalFile(folder.filePath(QStringLiteral("one.htm")));
+  const QUrl two = QUrl::fromLocalFile(folder.filePath(QStringLiteral("two.htm")));
+  browser.NavigateToText(QStringLiteral("<title>one</title>"), one);
+  ASSERT_TRUE(TitleBecomes(QStringLiteral("one")));
+  browser.NavigateToText(QStringLiteral("<title>one again</title>"), one);
+  ASSERT_TRUE(TitleBecomes(QStringLiteral("one again")));
+  browser.NavigateToText(QStringLiteral("<title>two</title>"), two);
+  ASSERT_TRUE(TitleBecomes(QStringLiteral("two")));
+  browser.GoBack();
+  EXPECT_TRUE(TitleBecomes(QStringLiteral("one again")));
+}
+
+TEST_F(WebBrowserTest, ALinkWithinATextStaysInIt) {
+  const QUrl base = Put(QStringLiteral("page.htm"), "<title>on disk</title>");
+  browser.NavigateToText(QStringLiteral("<title>text</title><a href='#z'>l</a><p style='margin-top:"
+                                        "2000px' id=z>z"),
+                         base);
+  ASSERT_TRUE(TitleBecomes(QStringLiteral("text")));
+  const QUrl copy = EnginePage()->url();
+  EnginePage()->runJavaScript(QStringLiteral("document.querySelector('a').click()"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return EnginePage()->url().hasFragment(); }, 20000));
+  EXPECT_EQ(EnginePage()->url().adjusted(QUrl::RemoveFragment), copy);
+  EXPECT_TRUE(
+      Answers(QStringLiteral("scrollY > 100 ? 'there' : scrollY"), QStringLiteral("there")));
+}
+
+TEST_F(WebBrowserTest, AKilledProcessIsToldAndRefreshBringsThePageBack) {
+  browser.Navigate(Put(QStringLiteral("page.htm"), "<title>page</title>"));
+  ASSERT_TRUE(StatusBecomes(QStringLiteral("Done")));
+  ASSERT_GT(EnginePage()->renderProcessPid(), 0);
+  const QString notice =
+      QStringLiteral("The page's process has ended. Refresh shows the page again.");
+  ::kill(static_cast<pid_t>(EnginePage()->renderProcessPid()), SIGKILL);
+  ASSERT_TRUE(StatusBecomes(notice)) << statuses.join(u'|').toStdString();
+  browser.Refresh();
+  ASSERT_TRUE(StatusBecomes(QStringLiteral("Done"))) << statuses.join(u'|').toStdString();
+  EXPECT_TRUE(Answers(QStringLiteral("'alive'"), QStringLiteral("alive")));
+  ::kill(static_cast<pid_t>(EnginePage()->renderProcessPid()), SIGKILL);
+  ASSERT_TRUE(StatusBecomes(notice));
+  browser.Navigate(Put(QStringLiteral("next.htm"), "<title>next</title>"));
+  ASSERT_TRUE(StatusBecomes(QStringLiteral("Done")));
+  EXPECT_TRUE(Answers(QStringLiteral("'alive again'"), QStringLiteral("alive again")));
+}
+
+TEST_F(WebBrowserTest, OutOfSightItIsSilent) {
+  EXPECT_FALSE(EnginePage()->isAudioMuted());
+  host.hide();
+  EXPECT_TRUE(EnginePage()->isAudioMuted());
+  host.show();
+  EXPECT_FALSE(EnginePage()->isAudioMuted());
+}
+
+TEST_F(WebBrowserTest, ItsMenuOffersNoDownloadAndNoSecondWindow) {
+  EXPECT_TRUE(EnginePage()->action(QWebEnginePage::Back)->isVisible());
+  for (const QWebEnginePage::WebAction action :
+       {QWebEnginePage::SavePage, QWebEnginePage::ViewSource, QWebEnginePage::DownloadLinkToDisk,
+        QWebEnginePage::OpenLinkInNewTab, QWebEnginePage::OpenLinkInNewWindow}) {
+    EXPECT_FALSE(EnginePage()->action(action)->isVisible()) << action;
+  }
 }
 
 TEST_F(WebBrowserTest, NothingIsRememberedAndDownloadsAreRefused) {
@@ -132,6 +254,7 @@ TEST_F(WebBrowserTest, NothingIsRememberedAndDownloadsAreRefused) {
   ASSERT_TRUE(TitleBecomes(QStringLiteral("page")));
   EnginePage()->runJavaScript(QStringLiteral("document.getElementById('d').click()"));
   ASSERT_TRUE(QTest::qWaitFor([&] { return !asked.isEmpty(); }, 20000));
+  EXPECT_TRUE(statuses.last().startsWith(QStringLiteral("The preview downloads nothing")));
   EXPECT_FALSE(QDir(folder.path()).exists(QStringLiteral("got.txt")));
 }
 
