@@ -18,6 +18,7 @@ constexpr Entry Table[] = {
     {"key", KeyFigures},
     {"read", ReadingFigures},
     {"save", SavingFigures},
+    {"preview", PreviewFigures},
     {"memory", MemoryFigure},
     {"child-our-window", ChildOurWindow},
     {"child-bare-window", ChildBareWindow},

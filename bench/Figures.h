@@ -15,6 +15,9 @@ void KeyFigures();
 void ReadingFigures();
 void SavingFigures();
 
+/// The preview's first and later showings of a page (PreviewFigures.cpp).
+void PreviewFigures();
+
 // Figures about whole processes (ProcessFigures.cpp).
 void StartFigure();
 void MemoryFigure();

@@ -2,6 +2,7 @@
 #include "bench/BareView.h"
 #include "bench/Figures.h"
 #include "bench/Measure.h"
+#include "bench/SamplePage.h"
 #include "platform/EditingCommands.h"
 #include "platform/Paths.h"
 #include "platform/qt/QtFiles.h"
@@ -27,25 +28,6 @@ constexpr std::array<Size, 4> Sizes = {Size{"10 KB", 10'000, 9},
                                        {"100 KB", 100'000, 7},
                                        {"1 MB", 1'000'000, 5},
                                        {"10 MB", 10'000'000, 1}};
-
-/// A page such as people have: headings, paragraphs with inline markup, a table now and then.
-QByteArray SamplePage(int bytes) {
-  QByteArray page =
-      "<!DOCTYPE html>\r\n<html>\r\n<head><meta "
-      "charset=\"utf-8\"><title>Sample</title></head>\r\n<body>\r\n";
-  for (int i = 0; page.size() < bytes; ++i) {
-    if (i % 20 == 0) page += "<h2>Chapter " + QByteArray::number(i / 20) + "</h2>\r\n";
-    if (i % 25 == 24)
-      page +=
-          "<table "
-          "border=\"1\">\r\n<tr><td>one</td><td>two</td></tr>\r\n<tr><td>three</td><td>four</td></"
-          "tr>\r\n</table>\r\n";
-    page +=
-        "<p>The quick brown fox jumps over the <b>lazy</b> dog, and <i>nobody</i> at "
-        "<a href=\"http://example.com/\">example.com</a> minds it in the least.</p>\r\n";
-  }
-  return page + "</body>\r\n</html>\r\n";
-}
 
 /// The window that shows our component, with what a listener needs to know.
 class OurPage : public EditingListener {

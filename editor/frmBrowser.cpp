@@ -101,13 +101,11 @@ void frmBrowser::BuildStatusBar() {
   sta_->setContentsMargins(BarMargin, 0, BarMargin, 0);
   statusText_ = new QLabel(sta_);
   statusText_->setObjectName(QStringLiteral("Sta_1"));
-  statusText_->setAccessibleName(QStringLiteral("Status"));
   statusText_->setTextFormat(Qt::PlainText);
   // A long address is cut rather than widening the window.
   statusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   progress_ = new QLabel(sta_);
   progress_->setObjectName(QStringLiteral("Sta_2"));
-  progress_->setAccessibleName(QStringLiteral("Progress"));
   progress_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   // As wide at rest as under way, so that nothing moves.
   progress_->setMinimumWidth(progress_->fontMetrics().horizontalAdvance(WidestProgress));
