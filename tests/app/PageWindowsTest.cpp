@@ -9,6 +9,7 @@
 
 #include <QMdiSubWindow>
 #include <QTest>
+#include <QToolButton>
 
 namespace velor {
 namespace {
@@ -98,6 +99,19 @@ TEST_F(PageWindowsTest, TheSourceEditorComesToTheFrontAndTheTabLeadsBack) {
   EXPECT_TRUE(log.empty());  // no document in front
   ClickTab(0);
   EXPECT_EQ(Area().Current(), &page);
+}
+
+TEST_F(PageWindowsTest, AClosedPreviewBringsThePageCommandsInStepWithThePages) {
+  frmMain &page = NewPage();
+  page.ChangeMode(4);
+  window.SetPageCommandsEnabled(false);
+  window.Context().preview->close();
+  EXPECT_TRUE(Find<QToolButton>("tbrGeneral_preview")->isEnabled());
+  page.ChangeMode(4);
+  page.close();
+  window.SetPageCommandsEnabled(true);
+  window.Context().preview->close();
+  EXPECT_FALSE(Find<QToolButton>("tbrGeneral_preview")->isEnabled());
 }
 
 TEST_F(PageWindowsTest, APreviewThatIsClosedIsOnlyHidden) {

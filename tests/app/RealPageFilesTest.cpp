@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QWebEnginePage>
@@ -156,6 +157,41 @@ TEST_F(RealPageFiles, ThePreviewShowsUnsavedEditsFromATemporaryCopy) {
   EXPECT_TRUE(PreviewShows(QStringLiteral("Oxne")));
   EXPECT_TRUE(Bytes(PageCopy).endsWith("</html>\r\n"));
   EXPECT_EQ(Bytes(PageFile), Plain);
+}
+
+TEST_F(RealPageFiles, ASecondPreviewOfThePageShowsWhatWasTypedSince) {
+  frmMain &page = Open(PageFile, Plain);
+  page.ChangeMode(4);
+  ASSERT_TRUE(PreviewShows(QStringLiteral("One")));
+  const QPointer<frmBrowser> preview = window.Context().preview;
+  preview->close();
+  EXPECT_FALSE(preview->isVisible());
+  window.ActivateWindow(&page);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  page.ChangeMode(4);
+  EXPECT_TRUE(preview->isVisible());
+  EXPECT_TRUE(PreviewShows(QStringLiteral("Oxne")));
+  EXPECT_EQ(window.Context().preview, preview);
+}
+
+TEST_F(RealPageFiles, APageWhoseTemporaryCopyHasNoPlaceIsPreviewedWithItsOwnFolderAsBase) {
+  QDir().mkpath(folder.FilePath(QStringLiteral("example.com")));
+  Write(QStringLiteral("example.com/after.css"), "p::after { content: ' styled' }");
+  frmMain &page = Open(QStringLiteral("example.com/page.htm"),
+                       "<html><head><link rel=stylesheet href=after.css></head><body><p>One</p>"
+                       "</body></html>");
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  page.ChangeMode(4);
+  ASSERT_TRUE(PreviewShows(QStringLiteral("Oxne")));
+  EXPECT_TRUE(WaitFor([&] {
+    return Evaluate(EngineOf(*window.Context().preview),
+                    QStringLiteral("getComputedStyle(document.querySelector('p'), '::after')"
+                                   ".content")) == QStringLiteral("\" styled\"");
+  }));
+  EXPECT_EQ(QDir(folder.FilePath(QStringLiteral("example.com"))).entryList(QDir::Files),
+            QStringList({QStringLiteral("after.css"), QStringLiteral("page.htm")}));
 }
 
 TEST_F(RealPageFiles, ThePreviewOfAReadOnlyPageShowsTheFile) {

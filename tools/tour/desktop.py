@@ -141,6 +141,9 @@ class Program:
     def type(self, text):
         run("xdotool", "type", "--clearmodifiers", "--delay", "12", text)
 
+    def move(self, x, y):
+        run("xdotool", "mousemove", str(x), str(y))
+
     def click(self, x, y, button=1):
         run("xdotool", "mousemove", str(x), str(y), "click", str(button))
 

@@ -193,6 +193,58 @@ class Tour:
         program.key("ctrl+F4")
         program.wait_gone("Untitled 4", TAB)
 
+    def write_linking_page(self, name, target):
+        """A page that is all one link."""
+        with open(os.path.join(self.site, name), "w", encoding="utf-8") as stream:
+            stream.write(f'<html><head></head><body><p><a href="{target}" style="display:block;height:500px">'
+                         f"To {target}</a></p></body></html>")
+
+    def preview_shows_link(self, target):
+        """Waits until the preview tells the address of the link under the pointer."""
+        def told():
+            self.program.move(640, 450)
+            self.program.move(645, 455)
+            return any(name.endswith("/" + target) for name in self.program.names("label"))
+        wait_for(told, f"the preview to show the link to {target}")
+
+    def the_preview_walks_through_pages(self):
+        step("the preview shows unsaved edits, goes back and forward, refreshes, stops, and only hides")
+        program = self.program
+        path = os.path.join(self.site, "first.htm")
+        self.write_linking_page("first.htm", "second.htm")
+        self.write_linking_page("second.htm", "third.htm")
+        self.open(path)
+        program.key("ctrl+Home")
+        program.type("Unsaved ")
+        program.press("Preview", within=program.wait("first.htm", "frame"))
+        preview = program.wait("Preview", "frame")
+        program.wait("Done", "label", preview)
+        program.shot("07-preview")
+        check("Unsaved" in file_text(os.path.join(self.site, "firstTMP.htm")), "the preview is not of the edited page")
+        check("Unsaved" not in file_text(path), "the preview saved the page")
+        self.preview_shows_link("second.htm")
+        program.click(640, 450)
+        self.preview_shows_link("third.htm")
+        program.shot("08-preview-second-page")
+        program.press("Back", within=preview)
+        self.preview_shows_link("second.htm")
+        program.press("Forward", within=preview)
+        self.preview_shows_link("third.htm")
+        self.write_linking_page("second.htm", "changed.htm")
+        program.press("Refresh", within=preview)
+        self.preview_shows_link("changed.htm")
+        program.press("Stop", within=preview)
+        program.key("ctrl+F4")
+        program.wait_gone("Preview", "frame")
+        program.press("Preview", within=program.wait("first.htm", "frame"))
+        self.preview_shows_link("second.htm")
+        program.key("ctrl+F4")
+        program.wait_gone("Preview", "frame")
+        program.key("ctrl+s")
+        wait_for(lambda: "Unsaved" in file_text(path), "the edit on disk")
+        program.key("ctrl+F4")
+        program.wait_gone("first.htm", TAB)
+
     def exit_ends_everything(self):
         step("exit ends the program without questions and leaves no temporary copy")
         self.program.type("never saved")
@@ -213,6 +265,7 @@ class Tour:
                              self.a_read_only_page_says_so,
                              self.five_pages_are_the_limit,
                              self.closing_asks,
+                             self.the_preview_walks_through_pages,
                              self.exit_ends_everything):
                 scenario()
         except Exception:
