@@ -112,12 +112,20 @@
     else deletion.cut(range);
   }
 
+  // An id that the page has already stays where it is.
+  function dropTakenIds(fragment) {
+    for (const element of fragment.querySelectorAll('[id]')) {
+      if (document.getElementById(element.id)) element.removeAttribute('id');
+    }
+  }
+
   velor.pasteHTML = (html) => velor.history.step('pasteHTML', () => {
     if (!velor.editable()) return;
     velor.selection.ensure();
     const fragment = parse(html);
     makeRoom(velor.selection.range(), fragment);
     if (!fragment.firstChild) return;
+    dropTakenIds(fragment);
     const { startContainer, startOffset } = velor.selection.range();
     if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
     else putInline(fragment, startContainer, startOffset);
