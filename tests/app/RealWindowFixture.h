@@ -18,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 
+#include <functional>
 #include <gtest/gtest.h>
 
 class QWebEnginePage;
@@ -32,6 +33,9 @@ class AnsweredComponents final : public Components {
  public:
   AnsweredComponents(Files &files, const QString &programFolder) : real_(files, programFolder) {}
 
+  /// Touches each file dialog as it is made.
+  std::function<void(FakeFileDialog &)> onFileDialog;
+
   std::unique_ptr<EditingComponent> CreateEditingComponent(QWidget *parent) override {
     return real_.CreateEditingComponent(parent);
   }
@@ -43,7 +47,9 @@ class AnsweredComponents final : public Components {
     return real_.CreateBrowser(parent);
   }
   std::unique_ptr<FileDialog> CreateFileDialog() override {
-    return std::make_unique<FakeFileDialog>();
+    auto dialog = std::make_unique<FakeFileDialog>();
+    if (onFileDialog) onFileDialog(*dialog);
+    return dialog;
   }
   std::unique_ptr<DatabaseConnection> CreateDatabaseConnection() override {
     return real_.CreateDatabaseConnection();
