@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QImageReader>
 
+#include <algorithm>
+
 namespace velor {
 namespace {
 
@@ -34,6 +36,12 @@ QSize Turned(QSize size, const QImageReader &reader) {
 }
 
 }  // namespace
+
+qreal PreviewRatio(QSize picture, QSize bounds, qreal screenRatio) {
+  const qreal needed =
+      std::max(qreal(picture.width()) / bounds.width(), qreal(picture.height()) / bounds.height());
+  return std::clamp(needed, 1.0, screenRatio);
+}
 
 LoadedPicture LoadPicture(const QString &path, QSize bounds) {
   if (path.isEmpty()) return {};

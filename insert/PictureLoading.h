@@ -16,6 +16,11 @@ struct LoadedPicture {
   QImage preview;
 };
 
+/// Pixels of a loaded picture that go on one unit of the screen within `bounds` (in units): 1 for a
+/// small picture, which is shown as large as a page shows it, up to `screenRatio` for one that
+/// needs all of the screen's pixels.
+qreal PreviewRatio(QSize picture, QSize bounds, qreal screenRatio);
+
 /// Loads a picture. The empty path gives no picture; a file that is missing, damaged or of an
 /// unknown format raises RuntimeError. `path` in logic form.
 LoadedPicture LoadPicture(const QString &path, QSize bounds);

@@ -166,8 +166,8 @@ void frmInsertElement::FillWithLink(TextBox *box, const QString &file) {
 }
 
 void frmInsertElement::ShowPicture(const QString &file) {
-  const qreal ratio = devicePixelRatioF();
-  const LoadedPicture picture = LoadPicture(file, picPreview->contentsRect().size() * ratio);
+  const QSize bounds = picPreview->contentsRect().size();
+  const LoadedPicture picture = LoadPicture(file, bounds * devicePixelRatioF());
   picture_ = PictureSize::OfPixels(picture.pixels.height(), picture.pixels.width());
   if (picture.pixels.isEmpty()) {
     picPreview->clear();
@@ -178,7 +178,7 @@ void frmInsertElement::ShowPicture(const QString &file) {
     picPreview->setText(QStringLiteral("Too large for a preview"));
   } else {
     QPixmap pixmap = QPixmap::fromImage(picture.preview);
-    pixmap.setDevicePixelRatio(ratio);
+    pixmap.setDevicePixelRatio(PreviewRatio(pixmap.size(), bounds, devicePixelRatioF()));
     picPreview->setPixmap(pixmap);
   }
   previewCaption_->setText(

@@ -139,7 +139,7 @@ QWidget *frmInsertElement::BuildImagePage() {
 QWidget *frmInsertElement::BuildHyperlinkPage() {
   auto *page = new QWidget;
   QVBoxLayout *rows = MakePage(page);
-  QPushButton *browse = MakeButton(QStringLiteral("cmdABrowse"), QStringLiteral("B&rowse..."));
+  QPushButton *browse = MakeButton(QStringLiteral("cmdABrowse"), QStringLiteral("&Browse..."));
   browse->setToolTip(QStringLiteral("Browse from your computer and Link to a file"));
   QPushButton *mail = MakeButton(QStringLiteral("cmdAEmail"), QStringLiteral("&E-mail..."));
   mail->setToolTip(QStringLiteral("Link to a E-mail Address"));

@@ -9,7 +9,9 @@
 #include "projects/frmProjectManager.h"
 #include "tests/app/WindowFixture.h"
 
+#include <QLineEdit>
 #include <QPushButton>
+#include <QStatusBar>
 
 namespace velor {
 namespace {
@@ -88,6 +90,32 @@ TEST_F(InsertTest, ACancelledTableDialogPastesTheTextLeftBefore) {
   dialogs.ExpectModal([](QWidget &) {});
   Click("tbrGeneral_table");
   EXPECT_EQ(log.back(), QStringLiteral("PasteHTML(<b>before</b>)"));
+}
+
+TEST_F(InsertTest, EachShowingOfTheTableDialogStartsFromTheDefaults) {
+  NewPage();
+  for (int showing = 0; showing < 2; ++showing) {
+    dialogs.ExpectModal([](QWidget &dialog) {
+      auto *columns = dialog.findChild<QLineEdit *>(QStringLiteral("Text1"));
+      EXPECT_EQ(columns->text(), QStringLiteral("3"));
+      columns->setText(QStringLiteral("9"));
+      dialog.findChild<QPushButton *>(QStringLiteral("Command1"))->click();
+    });
+    Choose("mnuTBLnew");
+  }
+}
+
+TEST_F(InsertTest, APictureThatCannotBeLoadedIsToldInTheStatusBar) {
+  NewPage();
+  components.onFileDialog = [](FakeFileDialog &person) {
+    person.ExpectOpen(QStringLiteral("\\nowhere\\gone.png"));
+  };
+  dialogs.ExpectModal([](QWidget &dialog) {
+    dialog.findChild<QPushButton *>(QStringLiteral("cmdBrowseIMG"))->click();
+  });
+  Choose("mnuISTimage");
+  EXPECT_TRUE(window.statusBar()->currentMessage().contains(QStringLiteral("gone.png")))
+      << window.statusBar()->currentMessage().toStdString();
 }
 
 const QString Sample = QStringLiteral("\\site");

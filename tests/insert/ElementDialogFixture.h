@@ -20,6 +20,7 @@
 #include <QAbstractButton>
 #include <QImage>
 #include <QLineEdit>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -74,7 +75,24 @@ class ElementDialogTest : public testing::Test {
   void Show(const char *mode, const char *savedPath = "") {
     dialog.PrepareInsert(U(mode), component.Document(), U(savedPath));
     dialog.show();
+    dialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  }
+
+  /// The dialog with that box in sight and ready for typing.
+  void ShowBox(const QLineEdit &box) {
+    auto *pages = Get<QTabWidget>("SSTab1");
+    for (int page = 0; page < pages->count(); ++page) {
+      if (!pages->widget(page)->isAncestorOf(&box)) continue;
+      Show(Kinds[page].toUtf8().constData());
+      for (auto *halves : pages->widget(page)->findChildren<QTabWidget *>()) {
+        halves->setCurrentIndex(halves->widget(1)->isAncestorOf(&box) ? 1 : 0);
+      }
+    }
+    for (const char *check : {"chkIMGSize", "chkVIDSize"}) {
+      if (!Get<QAbstractButton>(check)->isChecked()) Click(check);
+    }
+    ASSERT_TRUE(box.isVisible() && box.isEnabled());
   }
 
   QString SavePicture(const QString &name, QSize size) {
@@ -88,7 +106,7 @@ class ElementDialogTest : public testing::Test {
   CallLog log;
   FakeFiles files;
   FakeRuntime runtime;
-  FakeDialogs dialogs;
+  FakeDialogs dialogs{&log};
   FakeRegistry registry;
   FileDialogSource components;
   Platform platform{files, runtime, dialogs, registry, components};

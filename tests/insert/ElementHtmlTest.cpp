@@ -125,6 +125,14 @@ TEST(ImageHtml, KeepsNegativeSizes) {
   EXPECT_TRUE(ImageHtml(values).contains(QStringLiteral(" height=-5 ")));
 }
 
+TEST(ImageHtml, RoundsSizesTiesToEven) {
+  ImageValues values = Defaults();
+  values.sizeSource = SizeSource::Boxes;
+  values.height = QStringLiteral("2.5");
+  values.width = QStringLiteral("3.5");
+  EXPECT_TRUE(ImageHtml(values).endsWith(QStringLiteral(" height=2 width=4>")));
+}
+
 TEST(ImageHtml, TakesTheSizeFromThePicture) {
   ImageValues values = Defaults();
   values.picture = PictureSize::OfPixels(100, 200);

@@ -4,6 +4,7 @@
 #include "tests/support/Checks.h"
 
 #include <QFile>
+#include <QImageReader>
 #include <QTemporaryDir>
 
 namespace velor {
@@ -51,6 +52,47 @@ TEST_F(PictureLoadingTest, KnowsTheSizeOfAPictureTooLargeToDecode) {
   const LoadedPicture picture = LoadPicture(path, Bounds);
   EXPECT_EQ(picture.pixels, QSize(10000, 10000));
   EXPECT_TRUE(picture.preview.isNull());
+}
+
+TEST_F(PictureLoadingTest, DecodesAPictureOfAHundredMegapixelsAtThePreviewsSize) {
+  {
+    QImage image(10000, 10000, QImage::Format_Grayscale8);
+    image.fill(128);
+    ASSERT_TRUE(image.save(folder.filePath(QStringLiteral("big.jpg"))));
+  }
+  // Decoded whole it would take a hundred.
+  const int usualLimit = QImageReader::allocationLimit();
+  QImageReader::setAllocationLimit(16);
+  const LoadedPicture picture = LoadPicture(Path(QStringLiteral("big.jpg")), Bounds);
+  QImageReader::setAllocationLimit(usualLimit);
+  EXPECT_EQ(picture.pixels, QSize(10000, 10000));
+  EXPECT_EQ(picture.preview.size(), QSize(180, 180));
+}
+
+TEST_F(PictureLoadingTest, LoadsTiff) {
+  const LoadedPicture picture = LoadPicture(Save(QStringLiteral("a.tif"), {640, 360}), Bounds);
+  EXPECT_EQ(picture.pixels, QSize(640, 360));
+  EXPECT_EQ(picture.preview.size(), Bounds);
+}
+
+TEST_F(PictureLoadingTest, LoadsTga) {
+  QFile file(folder.filePath(QStringLiteral("a.tga")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  // Uncompressed true colour, 3 by 2 pixels of 24 bits, from the top down.
+  file.write(QByteArray::fromHex("000002000000000000000000030002001820"));
+  file.write(QByteArray::fromHex("0000ff").repeated(6));
+  file.write(QByteArray(8, '\0') + QByteArray("TRUEVISION-XFILE.") + '\0');
+  file.close();
+  const LoadedPicture picture = LoadPicture(Path(QStringLiteral("a.tga")), Bounds);
+  EXPECT_EQ(picture.pixels, QSize(3, 2));
+  EXPECT_EQ(picture.preview.pixelColor(2, 1), QColor(Qt::red));
+}
+
+TEST(PreviewRatio, ShowsASmallPictureAsPagesDoAndALargeOneWithAllPixels) {
+  EXPECT_EQ(PreviewRatio({40, 30}, Bounds, 1), 1);
+  EXPECT_EQ(PreviewRatio({40, 30}, Bounds, 2), 1);
+  EXPECT_EQ(PreviewRatio({640, 360}, Bounds, 2), 2);
+  EXPECT_EQ(PreviewRatio({480, 30}, Bounds, 2), 1.5);
 }
 
 TEST_F(PictureLoadingTest, KeepsAThinPictureVisible) {

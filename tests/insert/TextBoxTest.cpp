@@ -46,6 +46,16 @@ TEST_F(TextBoxTest, SelectsItsWholeTextWhenReachedByTheProgram) {
   EXPECT_EQ(second->selectedText(), QStringLiteral("second"));
 }
 
+TEST_F(TextBoxTest, SelectsFromTheStartToTheEnd) {
+  first->setCursorPosition(2);
+  SelectAllText(*first);
+  EXPECT_EQ(first->selectionStart(), 0);
+  EXPECT_EQ(first->selectionLength(), 5);
+  first->clear();
+  SelectAllText(*first);
+  EXPECT_FALSE(first->hasSelectedText());
+}
+
 TEST_F(TextBoxTest, PlacesTheCaretByAClickIntoTheBoxThatHasTheFocus) {
   QTest::mouseClick(second, Qt::LeftButton, {}, QPoint(20, second->height() / 2));
   QTest::mouseClick(second, Qt::LeftButton, {}, QPoint(20, second->height() / 2),

@@ -42,6 +42,24 @@ TEST_F(ElementDialogTest, KeepsThePreviewOfThePictureInStepWithTheSource) {
   EXPECT_EQ(Get<QLabel>("lblPreviewSize")->text(), U("20 × 10 pixels"));
 }
 
+TEST_F(ElementDialogTest, LinksPicturesOfUnusualNamesByTheirNames) {
+  const QString page = ToLogic(folder.filePath(U("page.htm")));
+  for (const char *name : {"a b.png", "a'b\".png", "50%.png", "a#b&c.png", "\u732b.png"}) {
+    dialog.PrepareInsert(U("image"), component.Document(), page);
+    components.dialog->ExpectOpen(SavePicture(U(name), {4, 2}));
+    Click("cmdBrowseIMG");
+    EXPECT_EQ(Text("txtImgSource"), U(name));
+    EXPECT_EQ(Get<QLabel>("lblPreviewSize")->text(), U("4 \u00d7 2 pixels"));
+  }
+}
+
+TEST_F(ElementDialogTest, LinksToAnotherDriveAbsolutelyWithoutAPicture) {
+  dialog.PrepareInsert(U("hyperlink"), component.Document(), U("C:\\site\\page.htm"));
+  components.dialog->ExpectOpen(U("D:\\docs\\a.pdf"));
+  Click("cmdABrowse");
+  EXPECT_EQ(Text("txtHref"), U("file:///D:/docs/a.pdf"));
+}
+
 TEST_F(ElementDialogTest, LinksAPictureAbsolutelyFromAnUnsavedPage) {
   const QString picture = SavePicture(U("a.png"), {10, 10});
   dialog.PrepareInsert(U("image"), component.Document(), {});
@@ -68,12 +86,17 @@ TEST_F(ElementDialogTest, EndsSilentlyWhenThePictureCannotBeLoaded) {
   dialog.PrepareInsert(U("image"), component.Document(), {});
   Type("txtImgSource", "before");
   QSignalSpy reports(&dialog, &frmInsertElement::Reported);
-  for (const char *name : {"bad.png", "missing.png"}) {
+  QFile drawing(folder.filePath(U("drawing.wmf")));
+  ASSERT_TRUE(drawing.open(QIODevice::WriteOnly));
+  drawing.write(QByteArray::fromHex("d7cdc69a0000000000000000640064006000000000000000"));
+  drawing.close();
+  for (const char *name : {"bad.png", "missing.png", "drawing.wmf"}) {
     components.dialog->ExpectOpen(ToLogic(folder.filePath(U(name))));
     Click("cmdBrowseIMG");
     EXPECT_EQ(Text("txtImgSource"), U("before"));
+    EXPECT_TRUE(reports.last().first().toString().contains(U(name))) << name;
   }
-  EXPECT_EQ(reports.count(), 2);
+  EXPECT_EQ(reports.count(), 3);
 }
 
 TEST_F(ElementDialogTest, TakesACancelledDialogAsTheEmptyName) {
@@ -130,7 +153,10 @@ TEST_F(ElementDialogTest, LinksToAMailAddressUnlessTheAnswerIsEmpty) {
   Show("hyperlink");
   dialogs.ExpectQuestion(U("Please enter the E-mail Address."), U("x"));
   dialogs.ExpectQuestion(U("Please enter the E-mail Address."), QString());
+  log.clear();
   Click("cmdAEmail");
+  EXPECT_EQ(log, CallLog{U("AskText(Please enter the E-mail Address., Link to a E-mail Address, "
+                           "someone@example.com)")});
   EXPECT_EQ(Text("txtHref"), U("mailto:x"));
   Click("cmdAEmail");
   EXPECT_EQ(Text("txtHref"), U("mailto:x"));

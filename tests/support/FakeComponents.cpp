@@ -32,7 +32,9 @@ std::unique_ptr<Browser> FakeComponents::CreateBrowser(QWidget *parent) {
 }
 
 std::unique_ptr<FileDialog> FakeComponents::CreateFileDialog() {
-  return std::make_unique<FakeFileDialog>(log_);
+  auto dialog = std::make_unique<FakeFileDialog>(log_);
+  if (onFileDialog) onFileDialog(*dialog);
+  return dialog;
 }
 
 std::unique_ptr<DatabaseConnection> FakeComponents::CreateDatabaseConnection() {

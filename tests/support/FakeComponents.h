@@ -13,6 +13,7 @@
 namespace velor {
 
 class FakeDatabase;
+class FakeFileDialog;
 
 /// Makes fakes, and keeps them in sight in the order in which they were made. A part that its
 /// owner has deleted dangles here.
@@ -24,6 +25,9 @@ class FakeComponents final : public Components {
 
   /// Touches each editing component as it is made.
   std::function<void(FakeEditingComponent &)> onEditingComponent;
+
+  /// Touches each file dialog as it is made.
+  std::function<void(FakeFileDialog &)> onFileDialog;
 
   std::vector<FakeEditingComponent *> editingComponents;
   std::vector<FakeSourceControl *> sourceControls;
