@@ -133,6 +133,10 @@ class Program:
                 return
         raise TourError(f"{name!r} offers no action among {actions}")
 
+    @staticmethod
+    def text(node):
+        return Atspi.Text.get_text(node, 0, -1)
+
     # Keys and pointer.
     def key(self, *keys):
         for key in keys:
@@ -146,6 +150,12 @@ class Program:
 
     def click(self, x, y, button=1):
         run("xdotool", "mousemove", str(x), str(y), "click", str(button))
+
+    def click_on(self, name, role="push button|toggle button|button", within=None):
+        """Clicks a control: for what opens a dialog, where pressing it would wait for the dialog's end."""
+        node = self.wait(name, role, within)
+        place = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
+        self.click(place.x + place.width // 2, place.y + place.height // 2)
 
     def visible_windows(self):
         """The windows of the program on the screen; pop-up menus are windows too."""

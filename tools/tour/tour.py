@@ -53,14 +53,14 @@ class Tour:
         self.program.key("ctrl+n")
         self.tab(caption)
 
-    def name_in_dialog(self, path):
-        """Types a path into the file dialog in front and accepts it."""
-        box = self.program.wait(role="text", within=self.program.wait(role=DIALOG))
+    def name_in_dialog(self, path, title=None):
+        """Types a path into the file dialog in front, or the one of that title, and accepts it."""
+        box = self.program.wait(role="text", within=self.program.wait(title, DIALOG))
         wait_for(lambda: Program.has_state(box, Atspi.StateType.FOCUSED), "the name box's focus")
         self.program.key("ctrl+a")
         self.program.type(path)
         self.program.key("Return")
-        wait_for(lambda: self.program.find(role=DIALOG) is None, "the file dialog to close")
+        wait_for(lambda: self.program.find(title, DIALOG) is None, "the file dialog to close")
 
     def save_as(self, path):
         self.program.key("F12")
@@ -193,6 +193,102 @@ class Tour:
         program.key("ctrl+F4")
         program.wait_gone("Untitled 4", TAB)
 
+    # Inserting. The two dialogs by their titles.
+    ELEMENT = "Element Information..."
+    TABLE = "Table Editor"
+
+    def box_text(self, label, dialog):
+        return Program.text(self.program.wait(label, "text", dialog))
+
+    def insert_picture(self, picture, link, shot):
+        """Chooses a picture in the element dialog, checks the link and puts it into the page."""
+        program = self.program
+        program.click_on("Image")
+        dialog = program.wait(self.ELEMENT, DIALOG)
+        source = program.wait("Image Source:", "text", dialog)
+        wait_for(lambda: Program.has_state(source, Atspi.StateType.FOCUSED), "the source box's focus")
+        program.click_on("Browse...", within=dialog)
+        self.name_in_dialog(picture, "Open")
+        wait_for(lambda: self.box_text("Image Source:", dialog) == link, f"the link {link}")
+        program.wait("240 \u00d7 160 pixels", "label", dialog)
+        program.shot(shot + "-general")
+        program.click_on("Appearance", TAB, dialog)
+        program.wait("Border thickness:", "text", dialog)
+        program.shot(shot + "-appearance")
+        program.click_on("General", TAB, dialog)
+        program.wait("Image Source:", "text", dialog)
+        program.press("OK", within=dialog)
+        program.wait_gone(self.ELEMENT, DIALOG)
+
+    def pictures_and_tables_are_inserted(self):
+        step("a picture and a table are inserted into a saved page, in one undo step each")
+        program = self.program
+        picture = os.path.join(self.site, "images", "roses.png")
+        os.makedirs(os.path.dirname(picture))
+        shutil.copy(os.path.join(self.folder, "eImages", "roses.png"), picture)
+        path = os.path.join(self.site, "inserted.htm")
+        with open(path, "w", encoding="utf-8") as stream:
+            stream.write("<html><head></head><body>\n<p>Roses</p>\n</body></html>\n")
+        self.open(path)
+        program.key("ctrl+End")
+        self.insert_picture(picture, "images/roses.png", "09-picture")
+        tag = ('<img src="images/roses.png" alt="" lowsrc="" border="0" hspace="0" vspace="0" '
+               'height="141" width="211">')
+        program.key("ctrl+s")
+        wait_for(lambda: f"<p>Roses{tag}</p>" in file_text(path), "the picture in the file")
+        program.press("Undo")
+        program.key("ctrl+s")
+        wait_for(lambda: "<p>Roses</p>" in file_text(path), "the picture taken back in one step")
+        program.press("Redo")
+        program.click_on("Table")
+        dialog = program.wait(self.TABLE, DIALOG)
+        check(self.box_text("# Of Columns:", dialog) == "3", "the table dialog's columns")
+        program.shot("10-table")
+        program.press("Insert", within=dialog)
+        program.wait_gone(self.TABLE, DIALOG)
+        program.key("ctrl+s")
+        wait_for(lambda: file_text(path).count("<td>") == 9, "the table in the file")
+        text = file_text(path)
+        check(tag in text and '<table align="Left" cellspacing="1" cellpadding="1" border="1" width="75%">' in text,
+              f"the inserted elements are not whole: {text!r}")
+        program.shot("11-inserted")
+        shutil.copy(path, self.out)
+        program.press("Preview", within=program.wait("inserted.htm", "frame"))
+        program.wait("Done", "label", program.wait("Preview", "frame"))
+        program.shot("12-inserted-preview")
+        program.key("ctrl+F4")
+        program.wait_gone("Preview", "frame")
+        self.hyperlink_page()
+        program.key("ctrl+F4")
+        program.wait_gone("inserted.htm", TAB)
+
+        step("a picture in a page without a file is linked absolutely")
+        program.key("ctrl+n")
+        wait_for(lambda: any(name.startswith("Untitled") for name in program.names(TAB)), "the new page")
+        self.insert_picture(picture, "file:///" + picture, "13-picture-unsaved")
+        caption = next(name for name in program.names(TAB) if name.startswith("Untitled"))
+        program.press("Preview", within=program.wait(caption, "frame"))
+        program.wait("Done", "label", program.wait("Preview", "frame"))
+        copy = os.path.join(self.folder, caption.replace("Untitled ", "Temp") + ".htm")
+        check(f'src="file:///{picture}"' in file_text(copy, "big5"), "the absolute link is not in the page")
+        program.shot("15-picture-unsaved-preview")
+        program.key("ctrl+F4")
+        program.wait_gone("Preview", "frame")
+        program.key("ctrl+F4")
+        self.answer("You have made changes to this document. Do you want to save it?", "No")
+        program.wait_gone(caption, TAB)
+
+    def hyperlink_page(self):
+        """The hyperlink page can be filled and changes nothing."""
+        program = self.program
+        program.open_popup(lambda: program.key("alt+i"))
+        program.key("Down", "Return")
+        dialog = program.wait(self.ELEMENT, DIALOG)
+        program.wait("Anchor Element Href:", "text", dialog)
+        program.shot("14-hyperlink")
+        program.key("Escape")
+        program.wait_gone(self.ELEMENT, DIALOG)
+
     def write_linking_page(self, name, target):
         """A page that is all one link."""
         with open(os.path.join(self.site, name), "w", encoding="utf-8") as stream:
@@ -266,6 +362,7 @@ class Tour:
                              self.five_pages_are_the_limit,
                              self.closing_asks,
                              self.the_preview_walks_through_pages,
+                             self.pictures_and_tables_are_inserted,
                              self.exit_ends_everything):
                 scenario()
         except Exception:
