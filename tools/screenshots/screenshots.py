@@ -44,6 +44,20 @@ def main(run_folder, out, palette, scale):
         program.press("Preview", within=page)
         program.wait("Done", "label")
         program.shot(name + "6-preview")
+        program.key("ctrl+F4")
+        program.wait_gone("Preview", "frame")
+        for shot, menu, title in (("7-picture", "alt+i", "Element Information..."),
+                                  ("8-table", "alt+a", "Table Editor")):
+            program.open_popup(lambda: program.key(menu))
+            program.key("Return")
+            dialog = program.wait(title, "dialog")
+            program.shot(name + shot)
+            if shot == "7-picture":
+                program.key("ctrl+Tab")
+                program.wait("Border thickness:", "text", dialog)
+                program.shot(name + shot + "-appearance")
+            program.key("Escape")
+            program.wait_gone(title, "dialog")
     finally:
         program.kill()
         shutil.rmtree(scratch, ignore_errors=True)
