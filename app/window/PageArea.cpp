@@ -58,26 +58,27 @@ void PageArea::Activate(QWidget *window) {
 void PageArea::Hide(QWidget *window) {
   QMdiSubWindow *frame = FrameOf(window);
   if (!frame) return;
+  ActivateInPlaceOf(frame);
   frame->hide();
-  ActivateLast();
 }
 
 void PageArea::Release(QWidget *window) {
   QMdiSubWindow *frame = FrameOf(window);
   if (!frame) return;
+  ActivateInPlaceOf(frame);
   frame->hide();
   frame->setWidget(nullptr);
   // The window deletes itself in its own time, but never later than the main window.
   window->setParent(this);
   removeSubWindow(frame);
   frame->deleteLater();
-  ActivateLast();
 }
 
-void PageArea::ActivateLast() {
+void PageArea::ActivateInPlaceOf(QMdiSubWindow *going) {
   const QList<QMdiSubWindow *> frames = subWindowList(QMdiArea::ActivationHistoryOrder);
-  const auto last = std::find_if(frames.crbegin(), frames.crend(),
-                                 [](const QMdiSubWindow *frame) { return !frame->isHidden(); });
+  const auto last = std::find_if(
+      frames.crbegin(), frames.crend(),
+      [going](const QMdiSubWindow *frame) { return frame != going && !frame->isHidden(); });
   setActiveSubWindow(last == frames.crend() ? nullptr : *last);
   viewport()->update();
 }

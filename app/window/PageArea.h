@@ -35,8 +35,9 @@ class PageArea final : public QMdiArea {
   void changeEvent(QEvent *event) override;
 
  private:
-  /// Brings the window used last to the front when another has gone.
-  void ActivateLast();
+  /// Brings the window used last to the front in place of one that is about to go. It goes only
+  /// then: the area hands on being maximised from the window in front to the next one.
+  void ActivateInPlaceOf(QMdiSubWindow *going);
 };
 
 /// Lists the area's open windows at the end of `menu` whenever it drops down, the one in front

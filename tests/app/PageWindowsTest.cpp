@@ -33,6 +33,25 @@ TEST_F(PageWindowsTest, PagesFillTheArea) {
   EXPECT_EQ(TabInFront(), QStringLiteral("key2"));
 }
 
+TEST_F(PageWindowsTest, PagesStillFillTheAreaWhenAnotherWindowHasGone) {
+  frmMain &first = NewPage();
+  frmMain &second = NewPage();
+  const auto fills = [](const frmMain &page) {
+    return qobject_cast<QMdiSubWindow *>(page.parentWidget())->isMaximized();
+  };
+  second.ChangeMode(4);
+  window.Context().preview->close();
+  EXPECT_EQ(Area().Current(), &second);
+  EXPECT_TRUE(fills(second));
+  second.ChangeMode(3);
+  window.Context().pages.CodeEditor(2)->close();
+  EXPECT_EQ(Area().Current(), &second);
+  EXPECT_TRUE(fills(second));
+  second.close();
+  EXPECT_EQ(Area().Current(), &first);
+  EXPECT_TRUE(fills(first));
+}
+
 TEST_F(PageWindowsTest, AClickOnATabBringsItsPageToTheFront) {
   frmMain &first = NewPage();
   NewPage();
