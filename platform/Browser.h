@@ -11,6 +11,8 @@ namespace velor {
 class BrowserListener {
  public:
   virtual ~BrowserListener() = default;
+  /// The address under the pointer, else how the load stands; also that the page's process has
+  /// ended, after which Refresh shows the page again.
   virtual void StatusTextChanged(const QString &text) = 0;
   /// Both 32-bit, as browsers of old report them; done when equal.
   virtual void ProgressChanged(int progress, int maximum) = 0;
