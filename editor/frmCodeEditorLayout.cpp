@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The parts of the source editor's window and where they lie.
+#include "chrome/HouseStyle.h"
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
 #include "editor/SourceFindBar.h"
@@ -85,6 +86,7 @@ QWidget *frmCodeEditor::BuildTop() {
   auto *tbrGeneral = new QToolBar;
   tbrGeneral->setObjectName(QStringLiteral("tbrGeneral"));
   tbrGeneral->setAccessibleName(QStringLiteral("Source Tools"));
+  tbrGeneral->setProperty(HouseStyle::OnBand, true);
   tbrGeneral->setIconSize(QSize(ToolIconSize, ToolIconSize));
   for (const ToolRow &row : Tools) {
     ToolBarAction *button = AddToolBarButton(

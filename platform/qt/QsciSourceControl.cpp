@@ -264,8 +264,10 @@ void QsciSourceControl::FollowPalette() {
   editor_->setUnmatchedBraceBackgroundColor(paper);
   editor_->setFoldMarginColors(paper, paper);
   for (int marker = FirstFoldMarker; marker <= LastFoldMarker; ++marker) {
-    editor_->setMarkerForegroundColor(paper, marker);
-    editor_->setMarkerBackgroundColor(Mix(paper, ink, FoldMarkShare), marker);
+    const auto number = static_cast<unsigned long>(marker);
+    editor_->SendScintilla(QsciScintilla::SCI_MARKERSETFORE, number, paper);
+    editor_->SendScintilla(QsciScintilla::SCI_MARKERSETBACK, number,
+                           Mix(paper, ink, FoldMarkShare));
   }
   marks_->FollowPalette();
   ApplyColorSlots();
