@@ -18,6 +18,8 @@ constexpr Entry Table[] = {
     {"key", KeyFigures},
     {"read", ReadingFigures},
     {"save", SavingFigures},
+    {"source", SourceFillFigures},
+    {"apply", ApplyFigures},
     {"memory", MemoryFigure},
     {"child-our-window", ChildOurWindow},
     {"child-bare-window", ChildBareWindow},

@@ -15,6 +15,10 @@ void KeyFigures();
 void ReadingFigures();
 void SavingFigures();
 
+// Figures about the source editor (SourceFigures.cpp).
+void SourceFillFigures();
+void ApplyFigures();
+
 // Figures about whole processes (ProcessFigures.cpp).
 void StartFigure();
 void MemoryFigure();

@@ -102,7 +102,9 @@ TEST_F(CodeEditorTest, AByteOrderMarkStays) {
 TEST_F(CodeEditorTest, APageWindowThatIsGoneIsMadeAnew) {
   frmCodeEditor &editor = Edit();
   Code(1).text = QStringLiteral("<p>edited</p>");
-  delete pages.Page(1);
+  frmMain *gone = &Page(1);
+  std::erase(mainWindow.adopted, gone);
+  delete gone;
   EXPECT_EQ(editor.ApplyCode(), 0);
   ASSERT_FALSE(pages.Page(1).isNull());
   EXPECT_EQ(Component(1).DocumentHTML().trimmed(), QStringLiteral("<p>edited</p>"));
@@ -349,6 +351,9 @@ class FindBarTest : public CodeEditorTest {
     frmCodeEditor &editor = Edit();
     Code(1).text = QStringLiteral("one two One two");
     editor.show();
+    editor.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
+    Code(1).Widget()->setFocus();
     QTest::keyClick(Code(1).Widget(), key, Qt::ControlModifier);
   }
   template <typename Widget>

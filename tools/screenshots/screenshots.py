@@ -41,6 +41,11 @@ def main(run_folder, out, palette, scale):
         page = program.wait("Untitled 5", "frame")
         program.press("View HTML", within=page)
         program.shot(name + "5-source-view")
+        program.press("Edit HTML", within=page)
+        program.wait("Apply to Document")
+        program.key("ctrl+h")
+        program.type("meta")
+        program.shot(name + "6-source-editor")
     finally:
         program.kill()
         shutil.rmtree(scratch, ignore_errors=True)

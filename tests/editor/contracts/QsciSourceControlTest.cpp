@@ -163,8 +163,7 @@ TEST_F(QsciEditing, StyleSheetsHaveTheirColours) {
   EXPECT_TRUE(Becomes(indicator(CssPart::Comment), "[/* x */]"));
   source_.SetCaret(0, 20);
   source_.ReplaceSelection(QStringLiteral("h1, "));
-  EXPECT_TRUE(Becomes(indicator(CssPart::Selector), "[p][h1]") ||
-              Becomes(indicator(CssPart::Selector), "[h1][p]"));
+  EXPECT_TRUE(Becomes(indicator(CssPart::Selector), "[h1][p]"));
 }
 
 TEST_F(QsciEditing, TheTagAtTheCaretAndItsPartnerAreMarked) {
@@ -200,11 +199,11 @@ TEST_F(QsciEditing, ANewLineIsIndentedLikeTheOneBefore) {
 TEST_F(QsciEditing, UndoGoesBackToTheTextThatWasPutInAndNoFurther) {
   source_.SetText(QStringLiteral("before"));
   source_.SetText(QStringLiteral("text"));
-  for (int key = 0; key < 3000; ++key) {
+  for (int key = 0; key < 1200; ++key) {
     source_.ReplaceSelection(QStringLiteral("x"));
     source_.SetCaret(0, 0);
   }
-  EXPECT_EQ(source_.Text().size(), 3004);
+  EXPECT_EQ(source_.Text().size(), 1204);
   while (Editor().isUndoAvailable()) Editor().undo();
   EXPECT_EQ(source_.Text(), QStringLiteral("text"));
 }
