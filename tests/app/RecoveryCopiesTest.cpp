@@ -2,6 +2,7 @@
 #include "app/window/RecoveryCopies.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
+#include "editor/frmMain.h"
 #include "platform/Paths.h"
 #include "tests/app/WindowFixture.h"
 
