@@ -19,6 +19,8 @@ constexpr Entry Table[] = {
     {"read", ReadingFigures},
     {"save", SavingFigures},
     {"preview", PreviewFigures},
+    {"source", SourceFillFigures},
+    {"apply", ApplyFigures},
     {"memory", MemoryFigure},
     {"child-our-window", ChildOurWindow},
     {"child-bare-window", ChildBareWindow},

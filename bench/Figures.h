@@ -17,6 +17,9 @@ void SavingFigures();
 
 /// The preview's first and later showings of a page (PreviewFigures.cpp).
 void PreviewFigures();
+// Figures about the source editor (SourceFigures.cpp).
+void SourceFillFigures();
+void ApplyFigures();
 
 // Figures about whole processes (ProcessFigures.cpp).
 void StartFigure();

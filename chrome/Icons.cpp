@@ -87,7 +87,7 @@ class DrawingEngine final : public QIconEngine {
 }  // namespace
 
 QIcon IconFor(const QString &key) {
-  const QString name = key.toLower();
+  const QString name = key.toLower().replace(u' ', u'-');
   QFile file(QStringLiteral(":/velor/icons/%1.svg").arg(name));
   if (!file.open(QIODevice::ReadOnly)) return {};
   return QIcon(new DrawingEngine(name, file.readAll()));

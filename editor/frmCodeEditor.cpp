@@ -5,6 +5,7 @@
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
+#include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Conversions.h"
 #include "platform/Dialogs.h"
@@ -13,10 +14,8 @@
 #include "platform/RuntimeError.h"
 
 #include <QCloseEvent>
-#include <QHBoxLayout>
-#include <QPushButton>
-#include <QStatusBar>
-#include <QVBoxLayout>
+#include <QLabel>
+#include <QPointer>
 
 namespace velor {
 
@@ -29,6 +28,27 @@ constexpr std::int32_t White = 16777215;
 /// Letter case and outer blanks do not count as changes.
 bool Differ(const QString &left, const QString &right) {
   return LowerCase(TrimBlanks(left)) != LowerCase(TrimBlanks(right));
+}
+
+QString NameOf(LineEnds lineEnds) {
+  switch (lineEnds) {
+    case LineEnds::CrLf:
+      return QStringLiteral("CR LF");
+    case LineEnds::Lf:
+      return QStringLiteral("LF");
+    case LineEnds::Cr:
+      return QStringLiteral("CR");
+  }
+  return {};
+}
+
+/// How the page was read, as far as it is known.
+PageEncoding EncodingOf(frmMain *page) {
+  PageEncoding encoding;
+  if (page == nullptr) return encoding;
+  encoding.charset = page->DHTML1().Charset();
+  encoding.byteOrderMark = page->DHTML1().HasByteOrderMark();
+  return encoding;
 }
 
 }  // namespace
@@ -44,69 +64,76 @@ frmCodeEditor::frmCodeEditor(EditorContext &context, int number)
   code_->SetColor(1, Grey);
   code_->SetColor(27, Grey);
   code_->SetColor(26, White);
+  code_->SetMarkedLine(0);
+  code_->SetSelectionListener([this] { SelectionChanged(); });
 }
 
-void frmCodeEditor::BuildLayout() {
-  auto *picTop = new QWidget(this);
-  picTop->setObjectName(QStringLiteral("picTop"));
-  auto *cmdApply = new QPushButton(QStringLiteral("Apply to Document"), picTop);
-  cmdApply->setObjectName(QStringLiteral("cmdApply"));
-  cmdApply->setAccessibleName(cmdApply->text());
-  cmdApply->setToolTip(QStringLiteral("Write the source back into the page"));
-  connect(cmdApply, &QPushButton::clicked, this, &frmCodeEditor::Apply);
-  auto *top = new QHBoxLayout(picTop);
-  top->setContentsMargins(6, 4, 6, 4);
-  top->addWidget(cmdApply);
-  top->addStretch(1);
+void frmCodeEditor::Fill(const QString &source, const ElementPlaces &caret) {
+  code_->SetText(source);
+  lineEnds_->setText(NameOf(DeclaredEncoding(source).lineEnds));
+  ShowPlaceIn(*code_, caret);
+  filledCaret_ = CaretOf(*code_);
+  SelectionChanged();
+}
 
-  code_->Widget()->setObjectName(QStringLiteral("Code"));
-  code_->Widget()->setAccessibleName(QStringLiteral("HTML source"));
-
-  auto *staMain = new QStatusBar(this);
-  staMain->setObjectName(QStringLiteral("staMain"));
-  staMain->setSizeGripEnabled(false);
-
-  auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  layout->addWidget(picTop);
-  layout->addWidget(code_->Widget(), 1);
-  layout->addWidget(staMain);
-  setFocusProxy(code_->Widget());
+void frmCodeEditor::SelectionChanged() {
+  const SourceCaret caret = CaretOf(*code_);
+  code_->SetMarkedLine(caret.line);
+  place_->setText(QStringLiteral("Line %1, Column %2").arg(caret.line + 1).arg(caret.column + 1));
+  const int length = code_->LineLength(caret.line);
+  if (caret.column > length && code_->SelectedText().isEmpty()) code_->SetCaret(caret.line, length);
 }
 
 void frmCodeEditor::Apply() {
+  const QPointer<frmCodeEditor> alive(this);
   context_.platform.runtime.ProcessPendingEvents();
+  if (alive == nullptr) return;
+  Dialogs &dialogs = context_.platform.dialogs;
   const std::int16_t result = ApplyCode();
   if (result == 0) return;
   Message failure;
   failure.text = Description(result);
   failure.title = QStringLiteral("Error Number: %1").arg(result);
   failure.icon = MessageIcon::Critical;
-  context_.platform.dialogs.ShowMessage(failure);
+  dialogs.ShowMessage(failure);
 }
 
 std::int16_t frmCodeEditor::ApplyCode() {
+  const QPointer<frmCodeEditor> alive(this);
   const std::int16_t index = CInt(Tag);
-  const QString tempPath = context_.pages.Record(index).TempPath;
+  const PageRecord record = context_.pages.Record(index);
   const QString text = code_->Text();
-  const bool written = modWorkFlow::WriteTemporaryCopy(context_.platform.files, tempPath, text);
+  Files &files = context_.platform.files;
+  const bool hasCopy = !record.TempPath.isEmpty() && files.FolderWritable(record.TempPath);
+  if (hasCopy)
+    modGeneral::WriteTextFile(files, record.TempPath, text, EncodingOf(context_.pages.Page(index)));
   try {
     EditingComponent &page = modWorkFlow::PageWindow(context_, index).DHTML1();
-    if (written) {
-      page.LoadDocument(tempPath);
+    if (hasCopy) {
+      page.LoadDocument(record.TempPath);
     } else {
-      page.SetDocumentHTML(text);
+      page.LoadText(text, record.Path.isEmpty() ? record.TempPath : record.Path);
     }
+    // The page may have been closed while it loaded, and this window with it.
+    if (alive == nullptr) return 0;
     AppliedText = code_->Text();
+    ReturnCaret();
     return 0;
   } catch (const RuntimeError &error) {
     return CInt(static_cast<double>(error.Code()));
   }
 }
 
+void frmCodeEditor::ReturnCaret() {
+  frmMain *page = context_.pages.Page(number_);
+  if (page == nullptr || CaretOf(*code_) == filledCaret_) return;
+  page->DHTML1().ShowPlace(CaretPlacesOf(*code_));
+}
+
 frmCodeEditor::CloseDecision frmCodeEditor::AskBeforeClosing() {
-  if (PendingAction == QStringLiteral("kill") || !Differ(AppliedText, code_->Text())) {
+  if (PendingAction == QStringLiteral("kill")) return CloseDecision::Close;
+  if (!Differ(AppliedText, code_->Text())) {
+    if (AppliedText == code_->Text()) ReturnCaret();
     return CloseDecision::Close;
   }
   Message question;
@@ -114,18 +141,19 @@ frmCodeEditor::CloseDecision frmCodeEditor::AskBeforeClosing() {
   question.buttons = MessageButtons::YesNoCancel;
   question.icon = MessageIcon::Question;
   switch (context_.platform.dialogs.ShowMessage(question)) {
-    case MessageAnswer::No:
-      return CloseDecision::Close;
     case MessageAnswer::Yes:
       break;
+    case MessageAnswer::No:
+      return CloseDecision::Close;
     default:
       return CloseDecision::Keep;
   }
+  Dialogs &dialogs = context_.platform.dialogs;
   const std::int16_t result = ApplyCode();
   if (result == 0) return CloseDecision::Close;
   Message failure;
   failure.text = Description(result);
-  context_.platform.dialogs.ShowMessage(failure);
+  dialogs.ShowMessage(failure);
   return CloseDecision::Keep;
 }
 
@@ -135,7 +163,10 @@ void frmCodeEditor::MarkKill() {
 }
 
 void frmCodeEditor::closeEvent(QCloseEvent *event) {
-  if (AskBeforeClosing() == CloseDecision::Keep) {
+  const QPointer<frmCodeEditor> alive(this);
+  const CloseDecision decision = AskBeforeClosing();
+  if (alive == nullptr) return;
+  if (decision == CloseDecision::Keep) {
     event->ignore();
     return;
   }

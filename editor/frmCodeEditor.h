@@ -3,6 +3,7 @@
 
 #include "chrome/ProgramWindow.h"
 #include "editor/EditorContext.h"
+#include "editor/SourceCaret.h"
 #include "platform/SourceControl.h"
 
 #include <QString>
@@ -11,10 +12,14 @@
 #include <cstdint>
 #include <memory>
 
+class QLabel;
+
 namespace velor {
 
 /// The source editor of one page: its HTML as text, written back into the page by "Apply to
-/// Document". While it is open (the page record's EditorOpen) the page cannot be closed.
+/// Document". While it is open (the page record's EditorOpen) the page cannot be closed. The
+/// buttons of `tbrGeneral` and the tabs of `tabCode` do nothing; the source control's own keys are
+/// the editing commands.
 class frmCodeEditor : public QWidget, public ProgramWindow {
   Q_OBJECT
 
@@ -31,10 +36,14 @@ class frmCodeEditor : public QWidget, public ProgramWindow {
 
   SourceControl &Code() { return *code_; }
 
-  /// Writes the source to the page's temporary copy and loads the page from it. 0 on success,
-  /// otherwise the number of the error that stopped it; source and applied text then stay. Where
-  /// the page can have no temporary copy it takes the text directly. A Tag that names no page
-  /// raises SubscriptOutOfRange (9).
+  /// Replaces the source, the caret at that place of it.
+  void Fill(const QString &source, const ElementPlaces &caret);
+
+  /// Writes the source to the page's temporary copy, in the page's charset unless it declares
+  /// another, and loads the page from it. 0 on success, otherwise the number of the error that
+  /// stopped it; source and applied text then stay. An error of the writing itself is raised. Where
+  /// the copy's folder cannot be written the page takes the text directly. A Tag that names no
+  /// page raises SubscriptOutOfRange (9).
   std::int16_t ApplyCode();
 
   void MarkKill() override;
@@ -45,14 +54,26 @@ class frmCodeEditor : public QWidget, public ProgramWindow {
  private:
   enum class CloseDecision { Close, Keep };
 
+  // Layout (frmCodeEditorLayout.cpp)
   void BuildLayout();
+  QWidget *BuildTop();
+  QWidget *BuildMain();
+  QWidget *BuildStatus();
+
   /// `cmdApply`: ApplyCode, and a message where it fails.
   void Apply();
   CloseDecision AskBeforeClosing();
+  /// Keeps the caret within its line and tells where it stands.
+  void SelectionChanged();
+  /// Takes the page's caret along to the element that the source's caret was moved to.
+  void ReturnCaret();
 
   EditorContext &context_;
   const int number_;
   std::unique_ptr<SourceControl> code_;
+  SourceCaret filledCaret_;  ///< where the caret was put when the source was filled
+  QLabel *place_ = nullptr;
+  QLabel *lineEnds_ = nullptr;
 };
 
 }  // namespace velor

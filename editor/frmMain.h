@@ -4,6 +4,7 @@
 #include "chrome/ProgramWindow.h"
 #include "editor/EditorContext.h"
 #include "editor/PageRecord.h"
+#include "editor/SourceCaret.h"
 #include "platform/EditingComponent.h"
 #include "platform/SourceControl.h"
 
@@ -93,11 +94,14 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   void ViewHtml();
   void EditHtml();
   void Preview();
+  /// Takes the page's caret to where the source view's was moved.
+  void ReturnCaretFromSource();
 
   EditorContext &context_;
   const int number_;
   std::unique_ptr<EditingComponent> component_;
   std::unique_ptr<SourceControl> source_;
+  SourceCaret shownCaret_;  ///< where the source view's caret was put
   QToolBar *tbrQuick = nullptr;
   QStackedLayout *views_ = nullptr;
 };

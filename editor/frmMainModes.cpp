@@ -2,6 +2,7 @@
 // The four modes of a page window, and the page as text.
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
+#include "editor/SourceCaret.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
@@ -37,6 +38,7 @@ QUrl BaseOf(const PageRecord &record, const Runtime &runtime) {
 void frmMain::ChangeMode(std::int32_t mode) {
   switch (mode) {
     case 1:
+      ReturnCaretFromSource();
       views_->setCurrentWidget(component_->Widget());
       setFocusProxy(component_->Widget());
       component_->SetFocus();
@@ -57,7 +59,10 @@ void frmMain::ChangeMode(std::int32_t mode) {
 
 void frmMain::ViewHtml() {
   try {
+    const ElementPlaces places = component_->CaretPlaces();
     source_->SetText(CreatorHTML());
+    ShowPlaceIn(*source_, places);
+    shownCaret_ = CaretOf(*source_);
   } catch (const RuntimeError &error) {
     context_.mainWindow.ReportInStatusBar(
         QStringLiteral("The page's HTML could not be read: %1").arg(error.Description()));
@@ -65,6 +70,12 @@ void frmMain::ViewHtml() {
   views_->setCurrentWidget(source_->Widget());
   setFocusProxy(source_->Widget());
   source_->SetFocus();
+}
+
+void frmMain::ReturnCaretFromSource() {
+  const bool moved =
+      views_->currentWidget() == source_->Widget() && CaretOf(*source_) != shownCaret_;
+  if (moved) component_->ShowPlace(CaretPlacesOf(*source_));
 }
 
 void frmMain::EditHtml() {
@@ -82,7 +93,8 @@ void frmMain::EditHtml() {
 void frmMain::ShowEditor() {
   frmCodeEditor &editor = modWorkFlow::SourceEditor(context_, number_);
   editor.AppliedText = CreatorHTML();
-  editor.Code().SetText(CreatorHTML());
+  const ElementPlaces places = component_->CaretPlaces();
+  editor.Fill(CreatorHTML(), places);
   editor.setWindowTitle(GetPageRecord().Caption);
   context_.mainWindow.ShowWindow(&editor);
   editor.Code().SetFocus();

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 
 class QWidget;
 
@@ -12,6 +13,13 @@ namespace velor {
 /// Whether the person may type into a source control. A view accepts typing nowhere it matters:
 /// what it shows is a copy.
 enum class SourceAccess { View, Edit };
+
+enum class SearchDirection {
+  Here,  ///< forward from the selection's start: what is found already stays while it is typed on
+  Forward,
+  Backward,
+};
+enum class LetterCase { Ignored, Matched };
 
 /// A control that shows HTML source as text. Text inside is Unicode with the line ends it was
 /// given.
@@ -38,6 +46,22 @@ class SourceControl {
   virtual int CaretColumn() const = 0;
   virtual int LineLength(int line) const = 0;
   virtual void SetCaret(int line, int column) = 0;
+  /// Brings the caret's line to about the middle of what is seen.
+  virtual void CenterCaret() = 0;
+
+  /// Called after the caret or the selection has changed, by a person or by the program.
+  virtual void SetSelectionListener(std::function<void()> listener) = 0;
+
+  /// The zero-based line that is marked across its width.
+  virtual int MarkedLine() const = 0;
+  virtual void SetMarkedLine(int line) = 0;
+
+  /// Looks for `text` around the whole source, selects what it finds and brings it into sight.
+  /// False when it is nowhere, or empty; the selection then stays.
+  virtual bool Find(const QString &text, SearchDirection direction, LetterCase letterCase) = 0;
+  /// Replaces every occurrence, as one undo step; answers how many there were.
+  virtual int ReplaceAll(const QString &text, const QString &replacement,
+                         LetterCase letterCase) = 0;
 };
 
 }  // namespace velor

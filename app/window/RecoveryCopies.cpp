@@ -2,11 +2,15 @@
 #include "app/window/RecoveryCopies.h"
 
 #include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
+#include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
+
+#include <functional>
 
 namespace velor {
 
@@ -19,25 +23,41 @@ QString FreeName(const Files &files, const QString &folder) {
   }
 }
 
+bool IsUnsaved(const EditorContext &context, int number, EditingComponent &component) {
+  return modWorkFlow::HasUnsavedChanges(context.pages.Record(number).SavedHTML,
+                                        component.DocumentHTML());
+}
+
 }  // namespace
 
 QStringList WriteRecoveryCopies(EditorContext &context, const QString &folder) {
+  Files &files = context.platform.files;
   QStringList copies;
-  for (int number = 1; number <= context.pages.PageCount(); ++number) {
-    frmMain *page = context.pages.Page(number);
-    if (page == nullptr) continue;
+  const auto keep = [&](const std::function<void(const QString &)> &write) {
+    const QString path = FreeName(files, folder);
+    write(path);
+    copies << ForPeople(path);
+  };
+  const auto attempt = [](const std::function<void()> &step) {
     try {
-      EditingComponent &component = page->DHTML1();
-      if (!modWorkFlow::HasUnsavedChanges(context.pages.Record(number).SavedHTML,
-                                          component.DocumentHTML())) {
-        continue;
-      }
-      const QString path = FreeName(context.platform.files, folder);
-      component.SaveDocument(path);
-      copies << ForPeople(path);
+      step();
     } catch (const std::exception &) {
-      // The error that led here is reported; the remaining pages matter more than this one's.
+      // The error that led here is reported; what remains matters more than this one.
     }
+  };
+  for (int number = 1; number <= context.pages.PageCount(); ++number) {
+    attempt([&] {
+      frmMain *page = context.pages.Page(number);
+      if (page == nullptr || !IsUnsaved(context, number, page->DHTML1())) return;
+      keep([page](const QString &path) { page->DHTML1().SaveDocument(path); });
+    });
+    attempt([&] {
+      frmCodeEditor *editor = context.pages.CodeEditor(number);
+      if (editor == nullptr || editor->Code().Text() == editor->AppliedText) return;
+      keep([&](const QString &path) {
+        modGeneral::WriteTextFile(files, path, editor->Code().Text());
+      });
+    });
   }
   return copies;
 }

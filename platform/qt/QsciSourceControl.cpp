@@ -2,6 +2,7 @@
 #include "platform/qt/QsciSourceControl.h"
 
 #include "platform/qt/SourceColors.h"
+#include "platform/qt/SourceMarks.h"
 
 #include <QEvent>
 #include <QFontDatabase>
@@ -10,6 +11,7 @@
 #include <Qsci/qsciscintilla.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace velor {
 
@@ -18,9 +20,18 @@ namespace {
 constexpr int NumberMargin = 0;
 constexpr int EdgeMargin = 1;
 constexpr int EdgeWidth = 3;
+constexpr int FoldMargin = 2;
+constexpr int LineMarker = 0;
+constexpr int FirstFoldMarker = QsciScintilla::SC_MARKNUM_FOLDEREND;
+constexpr int LastFoldMarker = QsciScintilla::SC_MARKNUM_FOLDEROPEN;
 /// The highest style number of the HTML lexer.
 constexpr int LastStyle = 127;
 constexpr int TabColumns = 4;
+constexpr int MiddleLightness = 128;
+/// How much of the highlight colour, and of the text's, is in fields that stand back.
+constexpr double MarkedLineShare = 0.08;
+constexpr double BraceShare = 0.3;
+constexpr double FoldMarkShare = 0.55;
 /// Narrower than four digits the margin would jump while a page is typed.
 constexpr int FewestDigits = 4;
 
@@ -68,21 +79,21 @@ QsciScintilla::EolMode EolModeOf(const QString &text) {
   return lineFeed < 0 ? QsciScintilla::EolMac : QsciScintilla::EolWindows;
 }
 
-/// The control counts characters where the interface counts UTF-16 units.
-int UnitsOfCharacters(const QString &line, int characters) {
-  int unit = 0;
-  while (characters-- > 0 && unit < line.size()) {
-    unit += line.at(unit).isHighSurrogate() && unit + 1 < line.size() ? 2 : 1;
-  }
-  return unit;
+/// On a dark field the slots' lightness is mirrored: what is to be as light as paper becomes as
+/// dark as the paper there, and greys in the middle stay as they are.
+QColor SlotColor(std::int32_t value, const QPalette &palette) {
+  const QColor color = FromColorValue(value);
+  const QColor paper = palette.color(QPalette::Base);
+  if (paper.lightness() >= MiddleLightness) return color;
+  const int mirrored = 255 - color.lightness();
+  if (mirrored <= paper.lightness()) return paper;
+  return QColor::fromHsl(color.hslHue(), color.hslSaturation(), mirrored);
 }
 
-int CharactersOfUnits(const QString &line, int units) {
-  int characters = 0;
-  for (int unit = 0; unit < std::min<qsizetype>(units, line.size()); ++characters) {
-    unit += line.at(unit).isHighSurrogate() && unit + 1 < line.size() ? 2 : 1;
-  }
-  return characters;
+QColor Mix(const QColor &one, const QColor &other, double share) {
+  const auto part = [share](int from, int to) { return qRound(from + (to - from) * share); };
+  return QColor(part(one.red(), other.red()), part(one.green(), other.green()),
+                part(one.blue(), other.blue()));
 }
 
 }  // namespace
@@ -90,18 +101,32 @@ int CharactersOfUnits(const QString &line, int units) {
 QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
     : editor_(new QsciScintilla(parent)) {
   lexer_ = new HtmlLexer(editor_);
+  lexer_->setFoldCompact(false);
+  marks_ = new SourceMarks(editor_);
   editor_->setUtf8(true);
   editor_->setFrameStyle(QFrame::NoFrame);
   editor_->setTabWidth(TabColumns);
+  editor_->setIndentationsUseTabs(false);
+  editor_->setAutoIndent(true);
+  editor_->setBackspaceUnindents(true);
+  editor_->setBraceMatching(QsciScintilla::SloppyBraceMatch);
   editor_->setScrollWidthTracking(true);
   editor_->setScrollWidth(1);
   editor_->setMarginType(NumberMargin, QsciScintilla::NumberMargin);
-  editor_->setMarginType(EdgeMargin, QsciScintilla::SymbolMarginColor);
   editor_->setMarginWidth(EdgeMargin, EdgeWidth);
+  editor_->setMarginSensitivity(EdgeMargin, false);
+  editor_->setFolding(QsciScintilla::BoxedTreeFoldStyle, FoldMargin);
+  editor_->markerDefine(QsciScintilla::Background, LineMarker);
   editor_->setReadOnly(access == SourceAccess::View);
+  // A long source is styled as far as it is seen, and the rest when nothing else is to be done.
+  Send(QsciScintilla::SCI_SETIDLESTYLING, QsciScintilla::SC_IDLESTYLING_ALL);
   FollowPalette();
   editor_->installEventFilter(this);
   connect(editor_, &QsciScintilla::linesChanged, this, &QsciSourceControl::FitLineNumbers);
+  connect(editor_, &QsciScintilla::SCN_UPDATEUI, this, [this](int updated) {
+    const bool moved = (updated & QsciScintilla::SC_UPDATE_SELECTION) != 0;
+    if (moved && selectionListener_) selectionListener_();
+  });
 }
 
 QsciSourceControl::~QsciSourceControl() {
@@ -117,13 +142,26 @@ void QsciSourceControl::SetFocus() {
 }
 
 QString QsciSourceControl::Text() const {
-  return editor_->text();
+  const auto *text = static_cast<const char *>(
+      editor_->SendScintillaPtrResult(QsciScintilla::SCI_GETCHARACTERPOINTER));
+  return QString::fromUtf8(text, Send(QsciScintilla::SCI_GETLENGTH));
 }
 
 void QsciSourceControl::SetText(const QString &text) {
+  const QByteArray bytes = text.toUtf8();
+  const bool readOnly = editor_->isReadOnly();
+  editor_->setReadOnly(false);
   editor_->setEolMode(EolModeOf(text));
-  editor_->setText(text);
+  // By length, since the control's own setter ends at the first NUL; and not into the undo history.
+  Send(QsciScintilla::SCI_SETUNDOCOLLECTION, 0);
+  Send(QsciScintilla::SCI_CLEARALL);
+  editor_->SendScintilla(QsciScintilla::SCI_APPENDTEXT, static_cast<unsigned long>(bytes.size()),
+                         bytes.constData());
+  Send(QsciScintilla::SCI_SETUNDOCOLLECTION, 1);
+  Send(QsciScintilla::SCI_EMPTYUNDOBUFFER);
+  editor_->setReadOnly(readOnly);
   editor_->setModified(false);
+  marks_->TextReplaced();
   FitLineNumbers();
 }
 
@@ -141,36 +179,61 @@ void QsciSourceControl::ReplaceSelection(const QString &text) {
 }
 
 int QsciSourceControl::CaretLine() const {
-  int line = 0;
-  int index = 0;
-  editor_->getCursorPosition(&line, &index);
-  return line;
+  return static_cast<int>(
+      Send(QsciScintilla::SCI_LINEFROMPOSITION, Send(QsciScintilla::SCI_GETCURRENTPOS)));
 }
 
 int QsciSourceControl::CaretColumn() const {
-  int line = 0;
-  int index = 0;
-  editor_->getCursorPosition(&line, &index);
-  return UnitsOfCharacters(LineText(line), index);
+  return static_cast<int>(Send(QsciScintilla::SCI_COUNTCODEUNITS, LineStart(CaretLine()),
+                               Send(QsciScintilla::SCI_GETCURRENTPOS)));
 }
 
 int QsciSourceControl::LineLength(int line) const {
-  return static_cast<int>(LineText(line).size());
+  return static_cast<int>(Send(QsciScintilla::SCI_COUNTCODEUNITS, LineStart(line), LineEnd(line)));
 }
 
 void QsciSourceControl::SetCaret(int line, int column) {
-  editor_->setCursorPosition(line, CharactersOfUnits(LineText(line), column));
+  long position = LineEnd(line);
+  if (column < LineLength(line))
+    position = Send(QsciScintilla::SCI_POSITIONRELATIVECODEUNITS, LineStart(line), column);
+  Send(QsciScintilla::SCI_ENSUREVISIBLE, line);
+  Send(QsciScintilla::SCI_GOTOPOS, position);
+}
+
+void QsciSourceControl::CenterCaret() {
+  Send(QsciScintilla::SCI_VERTICALCENTRECARET);
+}
+
+void QsciSourceControl::SetSelectionListener(std::function<void()> listener) {
+  selectionListener_ = std::move(listener);
+}
+
+int QsciSourceControl::MarkedLine() const {
+  return markedLine_;
+}
+
+void QsciSourceControl::SetMarkedLine(int line) {
+  if (line == markedLine_ && editor_->markersAtLine(line) != 0) return;
+  markedLine_ = line;
+  editor_->markerDeleteAll(LineMarker);
+  editor_->markerAdd(line, LineMarker);
+}
+
+long QsciSourceControl::Send(unsigned int message, long first, long second) const {
+  return editor_->SendScintilla(message, static_cast<unsigned long>(first), second);
+}
+
+long QsciSourceControl::LineStart(int line) const {
+  return Send(QsciScintilla::SCI_POSITIONFROMLINE, line);
+}
+
+long QsciSourceControl::LineEnd(int line) const {
+  return Send(QsciScintilla::SCI_GETLINEENDPOSITION, line);
 }
 
 bool QsciSourceControl::eventFilter(QObject *watched, QEvent *event) {
   if (watched == editor_ && event->type() == QEvent::PaletteChange) FollowPalette();
   return QObject::eventFilter(watched, event);
-}
-
-QString QsciSourceControl::LineText(int line) const {
-  QString text = editor_->text(line);
-  while (text.endsWith(u'\n') || text.endsWith(u'\r')) text.chop(1);
-  return text;
 }
 
 void QsciSourceControl::FollowPalette() {
@@ -187,18 +250,33 @@ void QsciSourceControl::FollowPalette() {
     lexer_->setEolFill(false, style);
   }
   editor_->setLexer(lexer_);
+  editor_->SendScintilla(QsciScintilla::SCI_SETPROPERTY, "fold.html", "1");
   editor_->setPaper(paper);
   editor_->setColor(ink);
   editor_->setCaretForegroundColor(ink);
   editor_->setSelectionBackgroundColor(palette.color(QPalette::Highlight));
   editor_->setSelectionForegroundColor(palette.color(QPalette::HighlightedText));
+  const QColor highlight = palette.color(QPalette::Highlight);
+  editor_->setMarkerBackgroundColor(Mix(paper, highlight, MarkedLineShare), LineMarker);
+  editor_->setMatchedBraceForegroundColor(ink);
+  editor_->setMatchedBraceBackgroundColor(Mix(paper, highlight, BraceShare));
+  editor_->setUnmatchedBraceForegroundColor(ink);
+  editor_->setUnmatchedBraceBackgroundColor(paper);
+  editor_->setFoldMarginColors(paper, paper);
+  for (int marker = FirstFoldMarker; marker <= LastFoldMarker; ++marker) {
+    const auto number = static_cast<unsigned long>(marker);
+    editor_->SendScintilla(QsciScintilla::SCI_MARKERSETFORE, number, paper);
+    editor_->SendScintilla(QsciScintilla::SCI_MARKERSETBACK, number,
+                           Mix(paper, ink, FoldMarkShare));
+  }
+  marks_->FollowPalette();
   ApplyColorSlots();
   FitLineNumbers();
 }
 
 void QsciSourceControl::ApplyColorSlots() {
   for (const auto &[slot, value] : colors_) {
-    const QColor color = FromColorValue(value);
+    const QColor color = SlotColor(value, editor_->palette());
     switch (slot) {
       case MarginBackground:
         editor_->setMarginBackgroundColor(EdgeMargin, color);

@@ -13,8 +13,11 @@ class QsciScintilla;
 
 namespace velor {
 
-/// The source control on QScintilla: HTML with its scripts in colours that follow the palette, line
-/// numbers, a fixed-pitch font. Line ends stay as they were given, and new lines get the same.
+class SourceMarks;
+
+/// The source control on QScintilla: HTML with its scripts and style sheets in colours that follow
+/// the palette, line numbers, folding, matching tags and brackets, a fixed-pitch font. Line ends
+/// stay as they were given, and new lines get the same. Inside it counts bytes of UTF-8.
 class QsciSourceControl final : public QObject, public SourceControl {
   Q_OBJECT
 
@@ -33,18 +36,32 @@ class QsciSourceControl final : public QObject, public SourceControl {
   int CaretColumn() const override;
   int LineLength(int line) const override;
   void SetCaret(int line, int column) override;
+  void CenterCaret() override;
+  void SetSelectionListener(std::function<void()> listener) override;
+  int MarkedLine() const override;
+  void SetMarkedLine(int line) override;
+  bool Find(const QString &text, SearchDirection direction, LetterCase letterCase) override;
+  int ReplaceAll(const QString &text, const QString &replacement, LetterCase letterCase) override;
 
   bool eventFilter(QObject *watched, QEvent *event) override;
 
  private:
-  /// The line without its line end.
-  QString LineText(int line) const;
+  long Send(unsigned int message, long first = 0, long second = 0) const;
+  long LineStart(int line) const;
+  /// Before the line's end mark.
+  long LineEnd(int line) const;
+  /// Whether `text` lies between two places; backward where the second comes first. The control's
+  /// target is then there.
+  bool FindBetween(const QByteArray &text, long from, long to);
   void FollowPalette();
   void ApplyColorSlots();
   void FitLineNumbers();
 
   QPointer<QsciScintilla> editor_;
   QsciLexerHTML *lexer_ = nullptr;
+  SourceMarks *marks_ = nullptr;
+  std::function<void()> selectionListener_;
+  int markedLine_ = -1;
   /// By slot; kept because a change of the palette restyles the whole control.
   std::map<int, std::int32_t> colors_;
 };

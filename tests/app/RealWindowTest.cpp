@@ -20,6 +20,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QWebEnginePage>
 
 namespace velor {
@@ -253,6 +254,48 @@ TEST_F(RealEditing, AppliedSourceIsInThePage) {
       QStringLiteral("You have made changes to this document. Do you want to save it?"),
       MessageAnswer::No);
   EXPECT_TRUE(page.close());
+}
+
+TEST_F(RealEditing, AnAppliedSourceIsTakenBackInDesignView) {
+  frmMain &page = Open(PageFile, Plain);
+  Type(page, QStringLiteral("x"));
+  ASSERT_TRUE(BecomesDocument(page, QStringLiteral("<p>xOne</p>"))) << Seen(page);
+  page.ChangeMode(3);
+  frmCodeEditor &editor = *window.Context().pages.CodeEditor(1);
+  editor.Code().SetText(QStringLiteral("<html><head></head><body><p>Two</p></body></html>"));
+  EXPECT_EQ(editor.ApplyCode(), 0);
+  EXPECT_TRUE(editor.close());
+  Button("tbrGeneral_undo").click();
+  EXPECT_TRUE(BecomesDocument(page, QStringLiteral("<p>xOne</p>"))) << Seen(page);
+  Button("tbrGeneral_undo").click();
+  EXPECT_TRUE(BecomesDocument(page, QStringLiteral("<p>One</p>"))) << Seen(page);
+  EXPECT_TRUE(page.close()) << "it is as it was opened";
+}
+
+TEST_F(RealEditing, TheCaretIsKeptBetweenDesignAndSource) {
+  frmMain &page = Open(PageFile, "<html><body>\r\n<p>One</p>\r\n<h2>Two</h2>\r\n</body></html>");
+  PutCaret(page, QStringLiteral("h2"));
+  page.ChangeMode(3);
+  frmCodeEditor &editor = *window.Context().pages.CodeEditor(1);
+  EXPECT_EQ(editor.Code().CaretLine(), 2);
+  EXPECT_EQ(editor.Code().CaretColumn(), 5);
+  editor.Code().SetCaret(1, 5);
+  EXPECT_TRUE(editor.close());
+  EXPECT_EQ(page.DHTML1().CaretPlaces().at(0), (ElementPlace{QStringLiteral("p"), 0, 2}));
+}
+
+TEST_F(RealEditing, APageClosedByTheProgramWhileItsSourceIsAppliedIsNoHarm) {
+  frmMain &page = Open(PageFile, Plain);
+  page.ChangeMode(3);
+  frmCodeEditor &editor = *window.Context().pages.CodeEditor(1);
+  editor.Code().SetText(QStringLiteral("<html><head></head><body><p>Two</p></body></html>"));
+  QTimer::singleShot(0, &window, [&page] {
+    page.MarkKill();
+    page.close();
+  });
+  EXPECT_EQ(editor.ApplyCode(), 0);
+  EXPECT_TRUE(WaitFor([&] { return window.Context().pages.Page(1).isNull(); }));
+  EXPECT_TRUE(window.Context().pages.CodeEditor(1).isNull());
 }
 
 TEST_F(RealEditing, AnInsertedTableIsInThePageAtTheCaret) {

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/RecoveryCopies.h"
+#include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
+#include "editor/frmMain.h"
 #include "platform/Paths.h"
 #include "tests/app/WindowFixture.h"
 
@@ -21,6 +24,15 @@ TEST_F(RecoveryCopies, APageWithUnsavedChangesIsWrittenAndOthersAreNot) {
   const QStringList copies = WriteRecoveryCopies(window.Context(), folder);
   EXPECT_EQ(copies, QStringList{ForPeople(Copy(1))});
   EXPECT_TRUE(files.ReadAll(Copy(1)).contains("not saved yet"));
+}
+
+TEST_F(RecoveryCopies, ASourceThatWasNotAppliedIsWrittenToo) {
+  frmMain &page = NewPage();
+  page.ChangeMode(3);
+  EXPECT_TRUE(WriteRecoveryCopies(window.Context(), folder).isEmpty());
+  window.Context().pages.CodeEditor(1)->Code().SetText(QStringLiteral("<p>never applied</p>"));
+  EXPECT_EQ(WriteRecoveryCopies(window.Context(), folder), QStringList{ForPeople(Copy(1))});
+  EXPECT_TRUE(files.ReadAll(Copy(1)).contains("never applied"));
 }
 
 TEST_F(RecoveryCopies, AnEarlierCopyIsNeverOverwritten) {

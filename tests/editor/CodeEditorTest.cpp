@@ -1,7 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/editor/EditorWorld.h"
 
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTest>
+#include <QToolBar>
 
 namespace velor {
 
@@ -46,14 +53,68 @@ TEST_F(CodeEditorTest, AppliedChangesAreUnsavedChangesOfThePage) {
   EXPECT_EQ(Record(1).SavedHTML, QStringLiteral("<p>a</p>"));
 }
 
-TEST_F(CodeEditorTest, WithoutATemporaryCopyThePageTakesTheTextItself) {
+TEST_F(CodeEditorTest, WithoutATemporaryCopyThePageTakesTheTextItselfInItsOwnFolder) {
   frmCodeEditor &editor = Edit();
   files.Delete(IndexCopy);
   files.MakeFolderUnwritable(QStringLiteral("\\site"));
   Code(1).text = QStringLiteral("<p>edited</p>");
   EXPECT_EQ(editor.ApplyCode(), 0);
+  EXPECT_EQ(log[0], QStringLiteral("LoadText(\\site\\index.htm)"));
   EXPECT_EQ(Component(1).DocumentHTML(), QStringLiteral("<p>edited</p>"));
   EXPECT_FALSE(Exists(IndexCopy));
+}
+
+TEST_F(CodeEditorTest, AFailingWriteIsNoNumberButAnErrorAndNothingIsLoaded) {
+  frmCodeEditor &editor = Edit();
+  Code(1).text = QStringLiteral("<p>edited</p>");
+  files.FailNextWrite(ErrorNumber::DiskFull);
+  EXPECT_EQ(ErrorOf([&] { editor.ApplyCode(); }), ErrorNumber::DiskFull);
+  EXPECT_TRUE(log.empty());
+  EXPECT_EQ(editor.AppliedText, QStringLiteral("<p>a</p>"));
+  EXPECT_EQ(Code(1).text, QStringLiteral("<p>edited</p>"));
+}
+
+TEST_F(CodeEditorTest, TheCopyIsWrittenInThePagesCharset) {
+  Open(IndexFile, "<p>caf\xe9</p>");
+  Page(1).ChangeMode(3);
+  Code(1).text = QStringLiteral("<p>caf\u00e9 na\u00efve</p>");
+  pages.CodeEditor(1)->ApplyCode();
+  EXPECT_EQ(Content(IndexCopy), "<p>caf\xe9 na\xefve</p>\r\n");
+}
+
+TEST_F(CodeEditorTest, ACharsetThatTheSourceDeclaresIsTheCopys) {
+  Open(IndexFile, "<meta charset=big5><p>\xa4\xa4</p>");
+  Page(1).ChangeMode(3);
+  Code(1).text = QStringLiteral("<meta charset=utf-8><p>\u4e2d</p>");
+  pages.CodeEditor(1)->ApplyCode();
+  EXPECT_EQ(Content(IndexCopy), "<meta charset=utf-8><p>\xe4\xb8\xad</p>\r\n");
+  EXPECT_EQ(Component(1).Charset(), QStringLiteral("utf-8"));
+}
+
+TEST_F(CodeEditorTest, AByteOrderMarkStays) {
+  Open(IndexFile, "\xef\xbb\xbf<p>a</p>");
+  Page(1).ChangeMode(3);
+  Code(1).text = QStringLiteral("<p>b</p>");
+  pages.CodeEditor(1)->ApplyCode();
+  EXPECT_EQ(Content(IndexCopy), "\xef\xbb\xbf<p>b</p>\r\n");
+}
+
+TEST_F(CodeEditorTest, APageWindowThatIsGoneIsMadeAnew) {
+  frmCodeEditor &editor = Edit();
+  Code(1).text = QStringLiteral("<p>edited</p>");
+  frmMain *gone = &Page(1);
+  std::erase(mainWindow.adopted, gone);
+  delete gone;
+  EXPECT_EQ(editor.ApplyCode(), 0);
+  ASSERT_FALSE(pages.Page(1).isNull());
+  EXPECT_EQ(Component(1).DocumentHTML().trimmed(), QStringLiteral("<p>edited</p>"));
+}
+
+TEST_F(CodeEditorTest, TheTemporaryCopyIsNeverWrittenOverAReadOnlyFile) {
+  frmCodeEditor &editor = Edit();
+  Code(1).text = QStringLiteral("<p>edited</p>");
+  files.MakeReadOnly(IndexCopy);
+  EXPECT_EQ(ErrorOf([&] { editor.ApplyCode(); }), ErrorNumber::PathFileAccess);
 }
 
 TEST_F(CodeEditorTest, AFailingLoadReturnsItsNumberAndKeepsSourceAndAppliedText) {
@@ -166,6 +227,198 @@ TEST_F(CodeEditorTest, MarkedKillItClosesUnaskedAndFreesThePage) {
   EXPECT_EQ(Record(1).EditorOpen, False16);
   DeleteClosedWindows();
   EXPECT_TRUE(pages.CodeEditor(1).isNull());
+}
+
+TEST_F(CodeEditorTest, ItsPartsLieAsStated) {
+  frmCodeEditor &editor = Edit();
+  editor.resize(1000, 700);
+  editor.show();
+  QCoreApplication::sendPostedEvents();
+  const auto part = [&editor](const char *name) {
+    return editor.findChild<QWidget *>(QString::fromLatin1(name));
+  };
+  EXPECT_TRUE(part("CoolBar")->isAncestorOf(part("tbrGeneral")));
+  EXPECT_TRUE(part("CoolBar")->isAncestorOf(part("cmdApply")));
+  EXPECT_TRUE(part("picTop")->isAncestorOf(part("tabCode")));
+  EXPECT_EQ(part("Code")->parentWidget(), part("picMain"));
+  EXPECT_EQ(part("picTop")->height(), part("CoolBar")->height());
+  EXPECT_EQ(part("CoolBar")->width(), editor.width());
+  EXPECT_EQ(part("picMain")->width(), editor.width() - part("picTools")->width());
+  EXPECT_EQ(part("Code")->size(), part("picMain")->size());
+  EXPECT_EQ(part("staMain")->geometry().bottom(), editor.rect().bottom());
+}
+
+TEST_F(CodeEditorTest, TheToolbarHasItsTwelveImagesAndTheTabsTheirSevenNames) {
+  frmCodeEditor &editor = Edit();
+  QStringList keys;
+  for (const QAction *button :
+       editor.findChild<QToolBar *>(QStringLiteral("tbrGeneral"))->actions()) {
+    keys << button->data().toString();
+    EXPECT_FALSE(button->icon().isNull()) << qPrintable(keys.last());
+    EXPECT_FALSE(button->toolTip().isEmpty()) << qPrintable(keys.last());
+  }
+  EXPECT_EQ(keys, (QStringList{"copy", "cut", "find next", "find", "goto line number", "indent",
+                               "mark all found", "outdent", "paste", "redo", "replace", "undo"}));
+  const auto *tabs = editor.findChild<QTabBar *>(QStringLiteral("tabCode"));
+  QStringList names;
+  for (int tab = 0; tab < tabs->count(); ++tab) names << tabs->tabText(tab);
+  EXPECT_EQ(names,
+            (QStringList{"Standard", "Forms", "Fonts", "Lists", "Scripts", "Frames", "Advance"}));
+}
+
+TEST_F(CodeEditorTest, ItsButtonsAndTabsDoNothing) {
+  frmCodeEditor &editor = Edit();
+  Code(1).text = QStringLiteral("one two");
+  Code(1).selectionEnd = 3;
+  for (QAction *button : editor.findChild<QToolBar *>(QStringLiteral("tbrGeneral"))->actions())
+    button->trigger();
+  auto *tabs = editor.findChild<QTabBar *>(QStringLiteral("tabCode"));
+  for (int tab = 0; tab < tabs->count(); ++tab) tabs->setCurrentIndex(tab);
+  EXPECT_EQ(Code(1).text, QStringLiteral("one two"));
+  EXPECT_EQ(Code(1).SelectedText(), QStringLiteral("one"));
+  EXPECT_FALSE(editor.findChild<QWidget *>(QStringLiteral("picFind"))->isVisibleTo(&editor));
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(CodeEditorTest, TheMarkedLineIsTheFirstAtLoadAndThenTheCarets) {
+  Open(IndexFile, "<p>a</p>\n<p>b</p>");
+  EXPECT_EQ(Code(1).markedLine, 0);
+  Page(1).ChangeMode(3);
+  Code(1).SetCaret(1, 2);
+  EXPECT_EQ(Code(1).markedLine, 1);
+}
+
+TEST_F(CodeEditorTest, ACaretBeyondItsLineGoesBackToTheLinesEnd) {
+  Edit();
+  Code(1).strayColumn = 99;
+  Code(1).selectionListener();
+  EXPECT_EQ(Code(1).CaretColumn(), 8);
+}
+
+TEST_F(CodeEditorTest, ASelectionThatReachesBeyondItsLineStays) {
+  Edit();
+  Code(1).selectionStart = 2;
+  Code(1).selectionEnd = 4;
+  Code(1).strayColumn = 99;
+  Code(1).selectionListener();
+  EXPECT_EQ(Code(1).strayColumn, 99);
+  EXPECT_EQ(Code(1).SelectedText().size(), 2);
+}
+
+TEST_F(CodeEditorTest, TheStatusBarTellsPlaceAndLineEnds) {
+  Open(IndexFile, "<p>a</p>\r\n<p>b</p>");
+  Page(1).ChangeMode(3);
+  Code(1).SetCaret(1, 2);
+  const auto text = [this](const char *name) {
+    return pages.CodeEditor(1)->findChild<QLabel *>(QString::fromLatin1(name))->text();
+  };
+  EXPECT_EQ(text("lblPlace"), QStringLiteral("Line 2, Column 3"));
+  EXPECT_EQ(text("lblLineEnds"), QStringLiteral("CR LF"));
+}
+
+TEST_F(CodeEditorTest, ItOpensAtTheElementThatThePagesCaretStandsIn) {
+  Open(IndexFile, "<p>One</p>\r\n<p>Two</p>");
+  Component(1).caretPlaces = {{QStringLiteral("p"), 1, 2}};
+  Page(1).ChangeMode(3);
+  EXPECT_EQ(Code(1).CaretLine(), 1);
+  EXPECT_EQ(Code(1).CaretColumn(), 5);
+}
+
+TEST_F(CodeEditorTest, ApplyingTakesThePagesCaretAlong) {
+  Open(IndexFile, "<p>One</p>\r\n<p>Two</p>");
+  Page(1).ChangeMode(3);
+  Code(1).SetCaret(1, 4);
+  pages.CodeEditor(1)->ApplyCode();
+  ASSERT_FALSE(Component(1).caretPlaces.empty());
+  EXPECT_EQ(Component(1).caretPlaces.front(), (ElementPlace{QStringLiteral("p"), 1, 1}));
+}
+
+TEST_F(CodeEditorTest, ClosingTakesThePagesCaretAlongOnlyWhereItWasMoved) {
+  Open(IndexFile, "<p>One</p>\r\n<p>Two</p>");
+  Component(1).caretPlaces = {{QStringLiteral("p"), 0, 2}};
+  Page(1).ChangeMode(3);
+  pages.CodeEditor(1)->close();
+  EXPECT_EQ(Component(1).caretPlaces.size(), 1u) << "told as it was";
+  Page(1).ChangeMode(3);
+  Code(1).SetCaret(1, 4);
+  pages.CodeEditor(1)->close();
+  EXPECT_EQ(Component(1).caretPlaces.front(), (ElementPlace{QStringLiteral("p"), 1, 1}));
+}
+
+class FindBarTest : public CodeEditorTest {
+ protected:
+  void OpenBar(Qt::Key key) {
+    frmCodeEditor &editor = Edit();
+    Code(1).text = QStringLiteral("one two One two");
+    editor.show();
+    editor.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
+    Code(1).Widget()->setFocus();
+    QTest::keyClick(Code(1).Widget(), key, Qt::ControlModifier);
+  }
+  template <typename Widget>
+  Widget &Part(const char *name) {
+    return *pages.CodeEditor(1)->findChild<Widget *>(QString::fromLatin1(name));
+  }
+  bool Shown(const char *name) { return Part<QWidget>(name).isVisible(); }
+  void Press(const char *name) { Part<QPushButton>(name).click(); }
+  qsizetype Selected() { return Code(1).selectionStart; }
+};
+
+TEST_F(FindBarTest, CtrlFFindsAsItIsTypedAndEnterGoesOnAround) {
+  OpenBar(Qt::Key_F);
+  ASSERT_TRUE(Shown("picFind"));
+  EXPECT_FALSE(Shown("txtReplace"));
+  EXPECT_EQ(Part<QLineEdit>("txtFind").accessibleName(), QStringLiteral("Find"));
+  QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("one"));
+  EXPECT_EQ(Selected(), 0);
+  QTest::keyClick(&Part<QLineEdit>("txtFind"), Qt::Key_Return);
+  EXPECT_EQ(Selected(), 8);
+  QTest::keyClick(&Part<QLineEdit>("txtFind"), Qt::Key_Return);
+  EXPECT_EQ(Selected(), 0);
+  QTest::keyClick(&Part<QLineEdit>("txtFind"), Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_EQ(Selected(), 8);
+}
+
+TEST_F(FindBarTest, LetterCaseCountsWhereItIsWanted) {
+  OpenBar(Qt::Key_F);
+  QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("One"));
+  Part<QCheckBox>("chkCase").setChecked(true);
+  EXPECT_EQ(Selected(), 8);
+}
+
+TEST_F(FindBarTest, WhatIsNowhereIsToldAndEscapeGoesBackToTheSource) {
+  OpenBar(Qt::Key_F);
+  QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("three"));
+  EXPECT_EQ(Part<QLabel>("lblResult").text(), QStringLiteral("Not found"));
+  log.clear();
+  QTest::keyClick(&Part<QLineEdit>("txtFind"), Qt::Key_Escape);
+  EXPECT_FALSE(Shown("picFind"));
+  EXPECT_EQ(log, Calls({"Source.SetFocus()"}));
+}
+
+TEST_F(FindBarTest, F3GoesOnAndShiftF3Back) {
+  OpenBar(Qt::Key_F);
+  QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("two"));
+  QTest::keyClick(&Part<QLineEdit>("txtFind"), Qt::Key_Escape);
+  QTest::keyClick(Code(1).Widget(), Qt::Key_F3);
+  EXPECT_EQ(Selected(), 12);
+  QTest::keyClick(Code(1).Widget(), Qt::Key_F3, Qt::ShiftModifier);
+  EXPECT_EQ(Selected(), 4);
+}
+
+TEST_F(FindBarTest, CtrlHReplacesOneByOneOrAll) {
+  OpenBar(Qt::Key_H);
+  ASSERT_TRUE(Shown("txtReplace"));
+  QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("two"));
+  QTest::keyClicks(&Part<QLineEdit>("txtReplace"), QStringLiteral("2"));
+  Press("cmdReplace");
+  EXPECT_EQ(Code(1).text, QStringLiteral("one 2 One two"));
+  EXPECT_EQ(Code(1).SelectedText(), QStringLiteral("two"));
+  Part<QLineEdit>("txtFind").setText(QStringLiteral("one"));
+  Press("cmdReplaceAll");
+  EXPECT_EQ(Code(1).text, QStringLiteral("2 2 2 two"));
+  EXPECT_EQ(Part<QLabel>("lblResult").text(), QStringLiteral("2 replaced"));
 }
 
 TEST_F(CodeEditorTest, ItsMarginsGetTheirColoursAndItsTextMayBeTyped) {

@@ -94,6 +94,21 @@ TEST_F(ModesTest, ViewHtmlShowsACopyOfThePagesText) {
             Calls({"SaveDocument(\\site\\indexTMP.htm)", "Source.SetText()", "Source.SetFocus()"}));
 }
 
+TEST_F(ModesTest, ViewHtmlOpensAtTheCaretsElementAndDesignComesBackToWhereItWasMoved) {
+  Open(IndexFile, "<p>One</p>\r\n<p>Two</p>");
+  const ElementPlaces before = {{QStringLiteral("p"), 1, 2}};
+  Component(1).caretPlaces = before;
+  Page(1).ChangeMode(2);
+  EXPECT_EQ(SourceView(1).CaretLine(), 1);
+  EXPECT_EQ(SourceView(1).CaretColumn(), 5);
+  Page(1).ChangeMode(1);
+  EXPECT_EQ(Component(1).caretPlaces, before) << "not moved, so left alone";
+  Page(1).ChangeMode(2);
+  SourceView(1).SetCaret(0, 4);
+  Page(1).ChangeMode(1);
+  EXPECT_EQ(Component(1).caretPlaces.front(), (ElementPlace{QStringLiteral("p"), 0, 1}));
+}
+
 TEST_F(ModesTest, WhatStandsInTheSourceViewIsNotCarriedBack) {
   Open(IndexFile);
   Page(1).ChangeMode(2);

@@ -42,6 +42,7 @@ int FakeSourceControl::CaretLine() const {
 }
 
 int FakeSourceControl::CaretColumn() const {
+  if (strayColumn) return *strayColumn;
   const qsizetype start = text.lastIndexOf(u'\n', selectionEnd - text.size() - 1) + 1;
   return static_cast<int>(selectionEnd - (selectionEnd == 0 ? 0 : start));
 }
@@ -56,6 +57,37 @@ void FakeSourceControl::SetCaret(int line, int column) {
   qsizetype start = 0;
   for (int before = 0; before < line; ++before) start = text.indexOf(u'\n', start) + 1;
   selectionStart = selectionEnd = start + std::min(column, LineLength(line));
+  strayColumn.reset();
+  if (selectionListener) selectionListener();
+}
+
+bool FakeSourceControl::Find(const QString &wanted, SearchDirection direction,
+                             LetterCase letterCase) {
+  const auto rule = letterCase == LetterCase::Matched ? Qt::CaseSensitive : Qt::CaseInsensitive;
+  if (wanted.isEmpty()) return false;
+  qsizetype found = -1;
+  if (direction == SearchDirection::Backward) {
+    if (selectionStart > 0) found = text.lastIndexOf(wanted, selectionStart - 1, rule);
+    if (found < 0) found = text.lastIndexOf(wanted, -1, rule);
+  } else {
+    const bool stays = direction == SearchDirection::Here;
+    found = text.indexOf(wanted, stays ? selectionStart : selectionEnd, rule);
+    if (found < 0) found = text.indexOf(wanted, 0, rule);
+  }
+  if (found < 0) return false;
+  selectionStart = found;
+  selectionEnd = found + wanted.size();
+  if (selectionListener) selectionListener();
+  return true;
+}
+
+int FakeSourceControl::ReplaceAll(const QString &wanted, const QString &replacement,
+                                  LetterCase letterCase) {
+  if (access == SourceAccess::View || wanted.isEmpty()) return 0;
+  const auto rule = letterCase == LetterCase::Matched ? Qt::CaseSensitive : Qt::CaseInsensitive;
+  const auto count = static_cast<int>(text.count(wanted, rule));
+  text.replace(wanted, replacement, rule);
+  return count;
 }
 
 }  // namespace velor

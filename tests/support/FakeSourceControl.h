@@ -7,7 +7,10 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <map>
+#include <optional>
+#include <utility>
 
 namespace velor {
 
@@ -23,6 +26,10 @@ class FakeSourceControl final : public SourceControl {
   /// The stretch of the text that is selected; the caret stands at its end.
   qsizetype selectionStart = 0;
   qsizetype selectionEnd = 0;
+  std::function<void()> selectionListener;
+  int markedLine = -1;
+  /// The column that the caret is said to stand in, where it is not where the text has it.
+  std::optional<int> strayColumn;
 
   QWidget *Widget() override { return widget_; }
   void SetFocus() override;
@@ -35,6 +42,14 @@ class FakeSourceControl final : public SourceControl {
   int CaretColumn() const override;
   int LineLength(int line) const override;
   void SetCaret(int line, int column) override;
+  void CenterCaret() override {}
+  void SetSelectionListener(std::function<void()> listener) override {
+    selectionListener = std::move(listener);
+  }
+  int MarkedLine() const override { return markedLine; }
+  void SetMarkedLine(int line) override { markedLine = line; }
+  bool Find(const QString &wanted, SearchDirection direction, LetterCase letterCase) override;
+  int ReplaceAll(const QString &wanted, const QString &replacement, LetterCase letterCase) override;
 
  private:
   CallLog *log_;

@@ -58,6 +58,11 @@ def main(run_folder, out, palette, scale):
                 program.shot(name + shot + "-appearance")
             program.key("Escape")
             program.wait_gone(title, "dialog")
+        program.press("Edit HTML", within=page)
+        program.wait("Apply to Document")
+        program.key("ctrl+h")
+        program.type("meta")
+        program.shot(name + "9-source-editor")
     finally:
         program.kill()
         shutil.rmtree(scratch, ignore_errors=True)

@@ -139,6 +139,28 @@ class Tour:
         self.program.shot("03-source")
         self.program.press("Design")
 
+    def the_source_is_edited_applied_and_taken_back(self):
+        step("the source is edited and applied; undo takes it back")
+        program = self.program
+        path = os.path.join(self.site, "hello.htm")
+        program.press("Edit HTML", within=program.wait("hello.htm", "frame"))
+        program.wait("Apply to Document")
+        program.key("ctrl+f")
+        find = program.wait("Find", "text")
+        wait_for(lambda: Program.has_state(find, Atspi.StateType.FOCUSED), "the find box's focus")
+        program.type("brave")
+        program.shot("07-source-editor")
+        program.key("Escape")
+        program.type("bold new")
+        program.press("Apply to Document")
+        program.key("ctrl+F4")
+        program.wait_gone("Apply to Document")
+        program.key("ctrl+s")
+        wait_for(lambda: "Hello bold new <b>world</b>" in file_text(path, "big5"), "the applied words on disk")
+        program.press("Undo")
+        program.key("ctrl+s")
+        wait_for(lambda: "Hello brave <b>world</b>" in file_text(path, "big5"), "the old words on disk")
+
     def a_page_of_another_charset_is_saved_under_a_new_name(self):
         step("a windows-1252 page keeps its charset, line ends and every byte that was not edited")
         source = os.path.join(self.site, "caf\u00e9 100% #1.html")
@@ -357,6 +379,7 @@ class Tour:
                              self.a_new_page_is_typed_formatted_and_saved,
                              self.commands_undo,
                              self.the_source_is_shown,
+                             self.the_source_is_edited_applied_and_taken_back,
                              self.a_page_of_another_charset_is_saved_under_a_new_name,
                              self.a_read_only_page_says_so,
                              self.five_pages_are_the_limit,

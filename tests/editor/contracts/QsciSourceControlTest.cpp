@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the real source control looks like, and how it is typed into.
+#include "platform/html/CssSpans.h"
 #include "platform/qt/QsciSourceControl.h"
 #include "platform/qt/SourceColors.h"
+#include "platform/qt/SourceMarks.h"
 #include "tests/support/Checks.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QFontInfo>
+#include <QMimeData>
 #include <QPalette>
 #include <QTest>
 #include <QWidget>
@@ -88,7 +93,160 @@ TEST(QsciSourceControlTest, TheColourSlotsColourTheMargins) {
   EXPECT_EQ(style(QsciScintilla::SCI_STYLEGETBACK), 0x00FF00);
   EXPECT_EQ(style(QsciScintilla::SCI_STYLEGETFORE), 0xFF0000);
   source.Widget()->setPalette(PaletteOn(Qt::black, Qt::white));
+  EXPECT_NE(style(QsciScintilla::SCI_STYLEGETFORE), style(QsciScintilla::SCI_STYLEGETBACK));
+  source.Widget()->setPalette(PaletteOn(Qt::white, Qt::black));
   EXPECT_EQ(style(QsciScintilla::SCI_STYLEGETBACK), 0x00FF00) << "kept when the palette changes";
+}
+
+TEST(QsciSourceControlTest, LineNumbersStandGreyOnPaperInLightAndDark) {
+  QWidget host;
+  QsciSourceControl source(&host, SourceAccess::Edit);
+  source.SetColor(1, 0x808080);
+  source.SetColor(26, 0xFFFFFF);
+  source.SetColor(27, 0x808080);
+  const auto color = [&](unsigned int message) {
+    const long value = EditorOf(source)->SendScintilla(message, QsciScintilla::STYLE_LINENUMBER);
+    return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
+  };
+  const QColor darkPaper(0x1e, 0x20, 0x23);
+  for (const QPalette &palette :
+       {PaletteOn(Qt::white, Qt::black), PaletteOn(darkPaper, Qt::white)}) {
+    source.Widget()->setPalette(palette);
+    EXPECT_EQ(color(QsciScintilla::SCI_STYLEGETBACK), palette.color(QPalette::Base));
+    const QColor number = color(QsciScintilla::SCI_STYLEGETFORE);
+    EXPECT_NEAR(number.lightness(), 0x80, 1);
+    EXPECT_EQ(number.hsvSaturation(), 0);
+  }
+}
+
+class QsciEditing : public ::testing::Test {
+ protected:
+  QsciEditing() {
+    host_.resize(600, 400);
+    source_.Widget()->resize(600, 400);
+    host_.show();
+    (void)QTest::qWaitForWindowExposed(&host_);
+  }
+  QsciScintilla &Editor() { return *EditorOf(source_); }
+  long Send(unsigned int message, long first = 0, long second = 0) {
+    return Editor().SendScintilla(message, static_cast<unsigned long>(first), second);
+  }
+  /// The text that carries an indicator, each stretch in brackets.
+  QByteArray Indicated(int indicator) {
+    const QByteArray text = source_.Text().toUtf8();
+    QByteArray told;
+    for (long at = 0; at < text.size();) {
+      const long end = Send(QsciScintilla::SCI_INDICATOREND, indicator, at);
+      if (Send(QsciScintilla::SCI_INDICATORVALUEAT, indicator, at) != 0)
+        told += '[' + text.mid(at, end - at) + ']';
+      if (end <= at) break;
+      at = end;
+    }
+    return told;
+  }
+  bool Becomes(int indicator, const QByteArray &wanted) {
+    return QTest::qWaitFor([&] { return Indicated(indicator) == wanted; });
+  }
+
+  QWidget host_;
+  QsciSourceControl source_{&host_, SourceAccess::Edit};
+};
+
+TEST_F(QsciEditing, StyleSheetsHaveTheirColours) {
+  source_.SetText(QStringLiteral("<p>b{c:1}</p><style>p { color: #f00 } /* x */</style>"));
+  const auto indicator = [](CssPart part) {
+    return SourceMarks::FirstStyleSheetIndicator + static_cast<int>(part);
+  };
+  EXPECT_TRUE(Becomes(indicator(CssPart::Selector), "[p]"));
+  EXPECT_TRUE(Becomes(indicator(CssPart::Property), "[color]"));
+  EXPECT_TRUE(Becomes(indicator(CssPart::Number), "[#f00]"));
+  EXPECT_TRUE(Becomes(indicator(CssPart::Comment), "[/* x */]"));
+  source_.SetCaret(0, 20);
+  source_.ReplaceSelection(QStringLiteral("h1, "));
+  EXPECT_TRUE(Becomes(indicator(CssPart::Selector), "[h1][p]"));
+}
+
+TEST_F(QsciEditing, TheTagAtTheCaretAndItsPartnerAreMarked) {
+  source_.SetText(QStringLiteral("<div><b>a</b></div>"));
+  source_.SetCaret(0, 2);
+  EXPECT_TRUE(Becomes(SourceMarks::TagIndicator, "[<div>][</div>]"))
+      << Indicated(SourceMarks::TagIndicator).constData();
+  source_.SetCaret(0, 11);
+  EXPECT_TRUE(Becomes(SourceMarks::TagIndicator, "[<b>][</b>]"));
+  source_.SetText(QStringLiteral("text"));
+  EXPECT_TRUE(Becomes(SourceMarks::TagIndicator, ""));
+}
+
+TEST_F(QsciEditing, ElementsFold) {
+  source_.SetText(QStringLiteral("<div>\r\n<p>a</p>\r\n</div>\r\n<p>b</p>"));
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    return (Send(QsciScintilla::SCI_GETFOLDLEVEL, 0) & QsciScintilla::SC_FOLDLEVELHEADERFLAG) != 0;
+  }));
+  Editor().foldLine(0);
+  EXPECT_EQ(Send(QsciScintilla::SCI_GETLINEVISIBLE, 1), 0);
+  source_.Find(QStringLiteral("a</p>"), SearchDirection::Forward, LetterCase::Matched);
+  EXPECT_NE(Send(QsciScintilla::SCI_GETLINEVISIBLE, 1), 0) << "what is found is seen";
+}
+
+TEST_F(QsciEditing, ANewLineIsIndentedLikeTheOneBefore) {
+  source_.SetText(QStringLiteral("  <p>\r\n"));
+  source_.SetCaret(0, 5);
+  QTest::keyClick(&Editor(), Qt::Key_Return);
+  QTest::keyClick(&Editor(), Qt::Key_X);
+  EXPECT_EQ(source_.Text(), QStringLiteral("  <p>\r\n  x\r\n"));
+}
+
+TEST_F(QsciEditing, UndoGoesBackToTheTextThatWasPutInAndNoFurther) {
+  source_.SetText(QStringLiteral("before"));
+  source_.SetText(QStringLiteral("text"));
+  for (int key = 0; key < 1200; ++key) {
+    source_.ReplaceSelection(QStringLiteral("x"));
+    source_.SetCaret(0, 0);
+  }
+  EXPECT_EQ(source_.Text().size(), 1204);
+  while (Editor().isUndoAvailable()) Editor().undo();
+  EXPECT_EQ(source_.Text(), QStringLiteral("text"));
+}
+
+TEST_F(QsciEditing, PastedLinesGetTheSourcesLineEnds) {
+  source_.SetText(QStringLiteral("a\r\n"));
+  QApplication::clipboard()->setText(QStringLiteral("1\n2\n"));
+  Editor().paste();
+  EXPECT_EQ(source_.Text(), QStringLiteral("1\r\n2\r\na\r\n"));
+}
+
+TEST_F(QsciEditing, PastedBytesThatAreNoTextBecomeText) {
+  auto *pasted = new QMimeData;
+  pasted->setData(QStringLiteral("text/plain"), QByteArray("a\xff\xfe\xc3(b"));
+  QApplication::clipboard()->setMimeData(pasted);
+  Editor().paste();
+  const QString text = source_.Text();
+  EXPECT_TRUE(text.startsWith(u'a') && text.endsWith(u'b'));
+  EXPECT_TRUE(text.toUtf8().isValidUtf8());
+}
+
+TEST_F(QsciEditing, ALoneSurrogateBecomesAReplacementCharacter) {
+  source_.SetText(QStringLiteral("a") + QChar(0xD800) + QStringLiteral("b"));
+  EXPECT_EQ(source_.Text().size(), 3);
+  EXPECT_TRUE(source_.Text().isValidUtf16());
+}
+
+TEST_F(QsciEditing, TheSelectionsMovesAreTold) {
+  int moves = 0;
+  source_.SetSelectionListener([&] { ++moves; });
+  source_.SetText(QStringLiteral("one two"));
+  source_.SetCaret(0, 4);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return moves > 0; }));
+}
+
+TEST_F(QsciEditing, TenMegabytesAreThereWithoutBeingStyledWhole) {
+  const QString line = QStringLiteral("<p class=\"a\">One more <b>paragraph</b> of it.</p>\r\n");
+  const QString text = line.repeated(10'000'000 / line.size());
+  source_.SetText(text);
+  Editor().grab();
+  EXPECT_LT(Send(QsciScintilla::SCI_GETENDSTYLED), text.size() / 2);
+  EXPECT_EQ(source_.Text(), text);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Send(QsciScintilla::SCI_GETENDSTYLED) > 0; }));
 }
 
 TEST(QsciSourceControlTest, TheLineNumberMarginGrowsWithTheText) {

@@ -35,7 +35,8 @@ TEST_P(SourceControlContract, TheTextComesBackAsItWasGiven) {
   const auto source = Make();
   for (const QString &text :
        {QString(), QStringLiteral("<p>a</p>"), QStringLiteral("a\r\nb\r\n"), QStringLiteral("a\nb"),
-        QStringLiteral("a\r\nb\nc"), QStringLiteral("\u65e5\u672c \u00e4 \U0001F600")}) {
+        QStringLiteral("a\r\nb\nc"), QStringLiteral("\u65e5\u672c \u00e4 \U0001F600"),
+        QString(QStringLiteral("a") + QChar(0) + QStringLiteral("b")), QString(1'000'000, u'x')}) {
     source->SetText(text);
     EXPECT_EQ(source->Text(), text);
   }
@@ -97,6 +98,52 @@ TEST_P(SourceControlContract, TextIsInsertedAtTheCaret) {
   EXPECT_EQ(source->Text(), QStringLiteral("one two three"));
   EXPECT_EQ(source->CaretColumn(), 8);
   EXPECT_TRUE(source->SelectedText().isEmpty());
+}
+
+TEST_P(SourceControlContract, FindingGoesAroundBothWays) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("\u00e4 one\r\ntwo One"));
+  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_EQ(source->SelectedText(), QStringLiteral("one"));
+  ASSERT_TRUE(source->Find(QStringLiteral("on"), SearchDirection::Here, LetterCase::Ignored));
+  EXPECT_EQ(source->SelectedText(), QStringLiteral("on"));
+  EXPECT_EQ(source->CaretLine(), 0);
+  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_EQ(source->CaretLine(), 1);
+  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Forward, LetterCase::Matched));
+  EXPECT_EQ(source->CaretLine(), 0);
+  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Backward, LetterCase::Ignored));
+  EXPECT_EQ(source->SelectedText(), QStringLiteral("One"));
+}
+
+TEST_P(SourceControlContract, WhatIsNowhereIsNotFoundAndTheSelectionStays) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("one two"));
+  ASSERT_TRUE(source->Find(QStringLiteral("two"), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_FALSE(source->Find(QStringLiteral("x"), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_FALSE(source->Find(QString(), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_EQ(source->SelectedText(), QStringLiteral("two"));
+}
+
+TEST_P(SourceControlContract, EveryOccurrenceIsReplaced) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("a A\r\n\u00e4a"));
+  EXPECT_EQ(source->ReplaceAll(QStringLiteral("a"), QStringLiteral("aa"), LetterCase::Matched), 2);
+  EXPECT_EQ(source->Text(), QStringLiteral("aa A\r\n\u00e4aa"));
+  EXPECT_EQ(source->ReplaceAll(QString(), QStringLiteral("x"), LetterCase::Matched), 0);
+  const auto view = Make(SourceAccess::View);
+  view->SetText(QStringLiteral("a"));
+  EXPECT_EQ(view->ReplaceAll(QStringLiteral("a"), QStringLiteral("b"), LetterCase::Matched), 0);
+  EXPECT_EQ(view->Text(), QStringLiteral("a"));
+}
+
+TEST_P(SourceControlContract, ALineIsMarkedWhereItIsSaid) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("a\nb"));
+  source->SetMarkedLine(0);
+  EXPECT_EQ(source->MarkedLine(), 0);
+  source->SetMarkedLine(1);
+  EXPECT_EQ(source->MarkedLine(), 1);
 }
 
 TEST_P(SourceControlContract, UnknownColourSlotsAreIgnored) {

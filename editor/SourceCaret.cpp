@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/SourceCaret.h"
+
+#include "platform/SourceControl.h"
+#include "platform/html/SourcePlaces.h"
+
+#include <QString>
+
+#include <algorithm>
+
+namespace velor {
+
+namespace {
+
+/// Behind the line break that begins at `at`; `at` where none does.
+qsizetype BehindBreak(const QString &text, qsizetype at) {
+  if (text[at] == u'\r') return at + 1 < text.size() && text[at + 1] == u'\n' ? at + 2 : at + 1;
+  return text[at] == u'\n' ? at + 1 : at;
+}
+
+/// Where the line begins that holds the position, and its number.
+SourceCaret CaretAt(const QString &text, qsizetype position) {
+  int line = 0;
+  qsizetype start = 0;
+  for (qsizetype at = 0; at < position;) {
+    const qsizetype behind = BehindBreak(text, at);
+    if (behind > position) break;
+    if (behind != at) {
+      ++line;
+      start = behind;
+    }
+    at = std::max(behind, at + 1);
+  }
+  return {line, static_cast<int>(position - start)};
+}
+
+qsizetype PositionOf(const QString &text, const SourceCaret &caret) {
+  qsizetype at = 0;
+  for (int line = 0; line < caret.line && at < text.size();) {
+    const qsizetype behind = BehindBreak(text, at);
+    if (behind != at) ++line;
+    at = std::max(behind, at + 1);
+  }
+  return std::min(at + caret.column, text.size());
+}
+
+}  // namespace
+
+SourceCaret CaretOf(const SourceControl &source) {
+  return {source.CaretLine(), source.CaretColumn()};
+}
+
+void ShowPlaceIn(SourceControl &source, const ElementPlaces &places) {
+  if (places.empty()) return;
+  const QString text = source.Text();
+  const auto position = FindPlace(text, places);
+  if (!position) return;
+  const SourceCaret caret = CaretAt(text, *position);
+  source.SetCaret(caret.line, caret.column);
+  source.CenterCaret();
+}
+
+ElementPlaces CaretPlacesOf(const SourceControl &source) {
+  const QString text = source.Text();
+  return PlacesAt(text, PositionOf(text, CaretOf(source)));
+}
+
+}  // namespace velor

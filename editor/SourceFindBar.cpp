@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/SourceFindBar.h"
+
+#include "chrome/Palette.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace velor {
+
+namespace {
+
+constexpr int BoxWidth = 260;
+
+QLineEdit *AddBox(QHBoxLayout &row, const char *name, const QString &label) {
+  auto *box = new QLineEdit;
+  box->setObjectName(QString::fromLatin1(name));
+  box->setAccessibleName(label);
+  box->setPlaceholderText(label);
+  box->setMaximumWidth(BoxWidth);
+  box->setClearButtonEnabled(true);
+  row.addWidget(box, 1);
+  return box;
+}
+
+QPushButton *AddButton(QHBoxLayout &row, const char *name, const QString &caption,
+                       const QString &tooltip) {
+  auto *button = new QPushButton(caption);
+  button->setObjectName(QString::fromLatin1(name));
+  button->setAccessibleName(caption);
+  button->setToolTip(tooltip);
+  button->setAutoDefault(false);
+  row.addWidget(button);
+  return button;
+}
+
+QHBoxLayout *MakeRow() {
+  auto *row = new QHBoxLayout;
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(BarMargin);
+  return row;
+}
+
+bool IsOneLine(const QString &text) {
+  return !text.isEmpty() && !text.contains(u'\n') && !text.contains(u'\r');
+}
+
+}  // namespace
+
+SourceFindBar::SourceFindBar(SourceControl &source, QWidget *parent)
+    : QWidget(parent), source_(source) {
+  setObjectName(QStringLiteral("picFind"));
+  setAccessibleName(QStringLiteral("Find and Replace"));
+  setAutoFillBackground(true);
+  Build();
+  hide();
+}
+
+void SourceFindBar::Build() {
+  QHBoxLayout *finding = MakeRow();
+  txtFind = AddBox(*finding, "txtFind", QStringLiteral("Find"));
+  connect(txtFind, &QLineEdit::textEdited, this, [this] { Look(SearchDirection::Here); });
+  connect(AddButton(*finding, "cmdPrevious", QStringLiteral("Previous"),
+                    QStringLiteral("Find Previous (Shift+F3)")),
+          &QPushButton::clicked, this, [this] { Look(SearchDirection::Backward); });
+  connect(AddButton(*finding, "cmdNext", QStringLiteral("Next"), QStringLiteral("Find Next (F3)")),
+          &QPushButton::clicked, this, [this] { Look(SearchDirection::Forward); });
+  chkCase = new QCheckBox(QStringLiteral("Match Case"));
+  chkCase->setObjectName(QStringLiteral("chkCase"));
+  chkCase->setAccessibleName(chkCase->text());
+  connect(chkCase, &QCheckBox::toggled, this, [this] { Look(SearchDirection::Here); });
+  finding->addWidget(chkCase);
+  result_ = new QLabel;
+  result_->setObjectName(QStringLiteral("lblResult"));
+  finding->addWidget(result_, 1);
+  connect(AddButton(*finding, "cmdCloseFind", QStringLiteral("Close"),
+                    QStringLiteral("Close (Escape)")),
+          &QPushButton::clicked, this, &SourceFindBar::PutAway);
+
+  QHBoxLayout *replacing = MakeRow();
+  txtReplace = AddBox(*replacing, "txtReplace", QStringLiteral("Replace with"));
+  connect(AddButton(*replacing, "cmdReplace", QStringLiteral("Replace"),
+                    QStringLiteral("Replace this one and find the next")),
+          &QPushButton::clicked, this, &SourceFindBar::ReplaceFound);
+  connect(AddButton(*replacing, "cmdReplaceAll", QStringLiteral("Replace All"),
+                    QStringLiteral("Replace every one in the source")),
+          &QPushButton::clicked, this, &SourceFindBar::ReplaceEverywhere);
+  replacing->addStretch(1);
+  replacing_ = new QWidget;
+  replacing_->setLayout(replacing);
+
+  auto *rows = new QVBoxLayout(this);
+  rows->setContentsMargins(BarMargin, BarMargin, BarMargin, BarMargin);
+  rows->setSpacing(BarMargin);
+  rows->addLayout(finding);
+  rows->addWidget(replacing_);
+}
+
+void SourceFindBar::Open(Purpose purpose) {
+  const QString selected = source_.SelectedText();
+  if (IsOneLine(selected)) txtFind->setText(selected);
+  replacing_->setVisible(purpose == Purpose::Replace);
+  result_->clear();
+  show();
+  txtFind->setFocus();
+  txtFind->selectAll();
+}
+
+void SourceFindBar::FindOn(SearchDirection direction) {
+  if (txtFind->text().isEmpty()) {
+    Open(Purpose::Find);
+  } else {
+    Look(direction);
+  }
+}
+
+void SourceFindBar::PutAway() {
+  hide();
+  source_.SetFocus();
+}
+
+void SourceFindBar::Look(SearchDirection direction) {
+  const QString wanted = txtFind->text();
+  const bool found = source_.Find(wanted, direction, ChosenCase());
+  result_->setText(found || wanted.isEmpty() ? QString() : QStringLiteral("Not found"));
+}
+
+void SourceFindBar::ReplaceFound() {
+  const auto rule = chkCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
+  if (source_.SelectedText().compare(txtFind->text(), rule) == 0 && !txtFind->text().isEmpty())
+    source_.ReplaceSelection(txtReplace->text());
+  Look(SearchDirection::Forward);
+}
+
+void SourceFindBar::ReplaceEverywhere() {
+  const int count = source_.ReplaceAll(txtFind->text(), txtReplace->text(), ChosenCase());
+  result_->setText(QStringLiteral("%1 replaced").arg(count));
+}
+
+LetterCase SourceFindBar::ChosenCase() const {
+  return chkCase->isChecked() ? LetterCase::Matched : LetterCase::Ignored;
+}
+
+void SourceFindBar::keyPressEvent(QKeyEvent *event) {
+  const bool back = event->modifiers().testFlag(Qt::ShiftModifier);
+  switch (event->key()) {
+    case Qt::Key_Escape:
+      PutAway();
+      break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (txtReplace->hasFocus()) {
+        ReplaceFound();
+      } else {
+        Look(back ? SearchDirection::Backward : SearchDirection::Forward);
+      }
+      break;
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+}  // namespace velor

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The parts of the source editor's window and where they lie.
+#include "chrome/HouseStyle.h"
+#include "chrome/Palette.h"
+#include "chrome/ToolBarButtons.h"
+#include "editor/SourceFindBar.h"
+#include "editor/frmCodeEditor.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace velor {
+
+namespace {
+
+struct ToolRow {
+  QStringView key;  ///< also the key of its image
+  QStringView caption;
+  /// The key with which the source control does it; empty where it has none.
+  QStringView keys;
+};
+
+/// The images' order is that of their list.
+constexpr std::array<ToolRow, 12> Tools{{
+    {u"copy", u"Copy", u"Ctrl+C"},
+    {u"cut", u"Cut", u"Ctrl+X"},
+    {u"find next", u"Find Next", u"F3"},
+    {u"find", u"Find", u"Ctrl+F"},
+    {u"goto line number", u"Go to Line Number", u""},
+    {u"indent", u"Indent", u"Tab"},
+    {u"mark all found", u"Mark All Found", u""},
+    {u"outdent", u"Outdent", u"Shift+Tab"},
+    {u"paste", u"Paste", u"Ctrl+V"},
+    {u"redo", u"Redo", u"Ctrl+Y"},
+    {u"replace", u"Replace", u"Ctrl+H"},
+    {u"undo", u"Undo", u"Ctrl+Z"},
+}};
+constexpr std::array<QStringView, 7> Tabs{u"Standard", u"Forms",  u"Fonts",  u"Lists",
+                                          u"Scripts",  u"Frames", u"Advance"};
+
+constexpr int ToolsWidth = 10;
+constexpr int StatusSpacing = 18;
+
+QString Tooltip(const ToolRow &row) {
+  if (row.keys.isEmpty()) return row.caption.toString();
+  return QStringLiteral("%1: %2 in the source").arg(row.caption, row.keys);
+}
+
+QVBoxLayout *Stack(QWidget *parent) {
+  auto *layout = new QVBoxLayout(parent);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  return layout;
+}
+
+}  // namespace
+
+void frmCodeEditor::BuildLayout() {
+  auto *picTools = new QWidget;
+  picTools->setObjectName(QStringLiteral("picTools"));
+  picTools->setFixedWidth(ToolsWidth);
+
+  auto *middle = new QHBoxLayout;
+  middle->setContentsMargins(0, 0, 0, 0);
+  middle->setSpacing(0);
+  middle->addWidget(BuildMain(), 1);
+  middle->addWidget(picTools);
+
+  QVBoxLayout *layout = Stack(this);
+  layout->addWidget(BuildTop());
+  layout->addLayout(middle, 1);
+  layout->addWidget(BuildStatus());
+  setFocusProxy(code_->Widget());
+}
+
+QWidget *frmCodeEditor::BuildTop() {
+  auto *tbrGeneral = new QToolBar;
+  tbrGeneral->setObjectName(QStringLiteral("tbrGeneral"));
+  tbrGeneral->setAccessibleName(QStringLiteral("Source Tools"));
+  tbrGeneral->setProperty(HouseStyle::OnBand, true);
+  tbrGeneral->setIconSize(QSize(ToolIconSize, ToolIconSize));
+  for (const ToolRow &row : Tools) {
+    ToolBarAction *button = AddToolBarButton(
+        *tbrGeneral, row.key.toString(), row.caption.toString(), Tooltip(row), ButtonKind::Click);
+    // Nothing is gained by coming to a button that does nothing.
+    tbrGeneral->widgetForAction(button)->setFocusPolicy(Qt::NoFocus);
+  }
+
+  auto *cmdApply = new QPushButton(QStringLiteral("Apply to Document"));
+  cmdApply->setObjectName(QStringLiteral("cmdApply"));
+  cmdApply->setAccessibleName(cmdApply->text());
+  cmdApply->setToolTip(QStringLiteral("Write the source back into the page"));
+  connect(cmdApply, &QPushButton::clicked, this, &frmCodeEditor::Apply);
+
+  auto *tabCode = new QTabBar;
+  tabCode->setObjectName(QStringLiteral("tabCode"));
+  tabCode->setAccessibleName(QStringLiteral("Element Groups"));
+  tabCode->setDocumentMode(true);
+  tabCode->setDrawBase(false);
+  tabCode->setExpanding(false);
+  tabCode->setFocusPolicy(Qt::NoFocus);
+  for (const QStringView tab : Tabs) tabCode->addTab(tab.toString());
+
+  auto *coolBar = new QFrame;
+  coolBar->setObjectName(QStringLiteral("CoolBar"));
+  auto *buttons = new QHBoxLayout;
+  buttons->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);
+  buttons->setSpacing(BarMargin);
+  buttons->addWidget(tbrGeneral, 1);
+  buttons->addWidget(cmdApply);
+  QVBoxLayout *bands = Stack(coolBar);
+  bands->addLayout(buttons);
+  bands->addWidget(tabCode);
+
+  auto *picTop = new QWidget;
+  picTop->setObjectName(QStringLiteral("picTop"));
+  picTop->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  Stack(picTop)->addWidget(coolBar);
+  return picTop;
+}
+
+QWidget *frmCodeEditor::BuildMain() {
+  code_->Widget()->setObjectName(QStringLiteral("Code"));
+  code_->Widget()->setAccessibleName(QStringLiteral("HTML source"));
+  auto *picMain = new QWidget;
+  picMain->setObjectName(QStringLiteral("picMain"));
+  auto *findBar = new SourceFindBar(*code_, picMain);
+  QVBoxLayout *layout = Stack(picMain);
+  layout->addWidget(code_->Widget(), 1);
+  layout->addWidget(findBar);
+
+  const auto onKey = [this](const QKeySequence &key, const std::function<void()> &act) {
+    auto *shortcut = new QShortcut(key, this);
+    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this, act);
+  };
+  onKey(Qt::CTRL | Qt::Key_F, [=] { findBar->Open(SourceFindBar::Purpose::Find); });
+  onKey(Qt::CTRL | Qt::Key_H, [=] { findBar->Open(SourceFindBar::Purpose::Replace); });
+  onKey(Qt::Key_F3, [=] { findBar->FindOn(SearchDirection::Forward); });
+  onKey(Qt::SHIFT | Qt::Key_F3, [=] { findBar->FindOn(SearchDirection::Backward); });
+  return picMain;
+}
+
+QWidget *frmCodeEditor::BuildStatus() {
+  auto *staMain = new QStatusBar;
+  staMain->setObjectName(QStringLiteral("staMain"));
+  staMain->setSizeGripEnabled(false);
+  place_ = new QLabel;
+  place_->setObjectName(QStringLiteral("lblPlace"));
+  lineEnds_ = new QLabel;
+  lineEnds_->setObjectName(QStringLiteral("lblLineEnds"));
+  lineEnds_->setToolTip(QStringLiteral("How the lines of the source end"));
+  for (QLabel *label : {place_, lineEnds_}) {
+    label->setContentsMargins(StatusSpacing / 2, 0, StatusSpacing / 2, 0);
+    staMain->addPermanentWidget(label);
+  }
+  return staMain;
+}
+
+}  // namespace velor
