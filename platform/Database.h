@@ -47,11 +47,17 @@ class Recordset {
   virtual bool EndOfFile() const = 0;
   virtual void MoveNext() = 0;
 
-  /// The current row's value in the column of that name, letter case ignored. A null QVariant is
-  /// SQL's null, a Boolean -1 or 0, a date its text. Raises for an unknown column and past the last
-  /// row.
-  virtual QVariant Value(const QString &column) const = 0;
-  virtual ColumnType Type(const QString &column) const = 0;
+  /// The place of the column of that name among the columns, letter case ignored; raises for an
+  /// unknown one.
+  virtual int ColumnIndex(const QString &column) const = 0;
+  /// The current row's value in that column. A null QVariant is SQL's null, a Boolean -1 or 0, a
+  /// date its text. Raises past the last row.
+  virtual QVariant ValueAt(int columnIndex) const = 0;
+  virtual ColumnType TypeAt(int columnIndex) const = 0;
+
+  /// The same by the column's name.
+  QVariant Value(const QString &column) const { return ValueAt(ColumnIndex(column)); }
+  ColumnType Type(const QString &column) const { return TypeAt(ColumnIndex(column)); }
 };
 
 /// One connection to the catalogue database.
