@@ -23,10 +23,12 @@ enum class ColumnType : int {
   Double = 5,
   Date = 7,
   Boolean = 11,
+  Guid = 72,
   VarChar = 200,
   LongVarChar = 201,
   VarWideChar = 202,
   LongVarWideChar = 203,
+  LongVarBinary = 205,
 };
 
 class DatabaseConnection;
@@ -71,6 +73,9 @@ class DatabaseConnection {
   virtual void Open(const QString &connectionText, const QString &user, const QString &password,
                     int options) = 0;
   virtual ObjectState State() const = 0;
+  /// What opening the file brought about that the person should know (an interrupted change that
+  /// was taken back, say); empty as a rule.
+  virtual QString Notice() const { return {}; }
 
   /// Runs a statement that returns no rows. Raises when it fails.
   virtual void Execute(const QString &statement, int options) = 0;

@@ -40,6 +40,8 @@ constexpr DeclaredType DeclaredTypes[] = {
     {"NUMERIC", ColumnType::Double},
     {"DECIMAL", ColumnType::Double},
     {"CURRENCY", ColumnType::Double},
+    {"GUID", ColumnType::Guid},
+    {"BLOB", ColumnType::LongVarBinary},
 };
 
 std::optional<ColumnType> Declared(const char *declaration) {
@@ -74,7 +76,7 @@ void SqliteRecordset::Open(const QString &statement, DatabaseConnection &connect
   }
   auto *sqlite = dynamic_cast<SqliteConnection *>(&connection);
   if (sqlite == nullptr) Fail(ErrorNumber::InvalidProcedureCall, statement);
-  SqliteStatement prepared(sqlite->Handle(), statement, QStringLiteral("Recordset.Open"),
+  SqliteStatement prepared(sqlite->BeginStatement(), statement, QStringLiteral("Recordset.Open"),
                            statement);
   sqlite3_stmt *handle = prepared.Handle();
   const int count = sqlite3_column_count(handle);
