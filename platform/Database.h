@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <memory>
@@ -49,6 +50,8 @@ class Recordset {
   virtual bool EndOfFile() const = 0;
   virtual void MoveNext() = 0;
 
+  /// In the statement's order; none for a statement that returns no rows.
+  virtual QStringList ColumnNames() const = 0;
   /// The place of the column of that name among the columns, letter case ignored; raises for an
   /// unknown one.
   virtual int ColumnIndex(const QString &column) const = 0;

@@ -119,6 +119,13 @@ void SqliteRecordset::MoveNext() {
   ++row_;
 }
 
+QStringList SqliteRecordset::ColumnNames() const {
+  CheckOpen();
+  QStringList names;
+  for (const Column &column : columns_) names.append(column.name);
+  return names;
+}
+
 int SqliteRecordset::ColumnIndex(const QString &column) const {
   CheckOpen();
   const auto found = std::find_if(columns_.begin(), columns_.end(), [&column](const Column &known) {

@@ -27,6 +27,7 @@ class SqliteRecordset final : public Recordset {
   bool EndOfFile() const override;
   void MoveNext() override;
 
+  QStringList ColumnNames() const override;
   int ColumnIndex(const QString &column) const override;
   QVariant ValueAt(int columnIndex) const override;
   ColumnType TypeAt(int columnIndex) const override;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The real executable in a program folder of its own: what it leaves on disk, and how it ends.
 #include "tests/support/Checks.h"
-#include "tools/make-sample/SampleMaker.h"
+#include "tools/sample-site/SampleMaker.h"
 
 #include <QDir>
 #include <QFile>

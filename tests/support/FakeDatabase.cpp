@@ -64,6 +64,13 @@ class FakeRecordset final : public Recordset {
     ++row_;
   }
 
+  QStringList ColumnNames() const override {
+    CheckOpen();
+    QStringList names;
+    for (const FakeRows::Column &column : rows_.columns) names.append(column.name);
+    return names;
+  }
+
   int ColumnIndex(const QString &column) const override {
     CheckOpen();
     for (std::size_t index = 0; index < rows_.columns.size(); ++index) {

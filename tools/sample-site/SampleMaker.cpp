@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tools/make-sample/SampleMaker.h"
+#include "tools/sample-site/SampleMaker.h"
 
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "tools/sample-site/Pictures.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -25,13 +26,23 @@ const QString CatalogueScript = QStringLiteral("catalogue.sql");
                          QStringLiteral("%1 (%2)").arg(path, cause));
 }
 
+/// Whether the file has to be made; its folder is there then.
+bool IsMissing(const QString &file) {
+  if (QFileInfo::exists(file)) return false;
+  if (!QDir().mkpath(QFileInfo(file).path())) Fail(file, QStringLiteral("no folder for it"));
+  return true;
+}
+
 void CopyMissingFile(const QString &from, const QString &to) {
-  if (QFileInfo::exists(to)) return;
-  if (!QDir().mkpath(QFileInfo(to).path())) Fail(to, QStringLiteral("no folder for it"));
+  if (!IsMissing(to)) return;
   QFile file(from);
   if (!file.copy(to)) Fail(to, file.errorString());
   // Resources are read-only, and copies inherit that.
   QFile::setPermissions(to, QFile::permissions(to) | QFile::WriteOwner);
+}
+
+void DrawMissingFile(const SamplePicture &picture, const QString &to) {
+  if (IsMissing(to) && !Drawn(picture).save(to)) Fail(to, QStringLiteral("cannot be written"));
 }
 
 QByteArray Script(const QDir &folder) {
@@ -76,6 +87,9 @@ void MakeSample(const QString &folder) {
   while (files.hasNext()) {
     const QString name = source.relativeFilePath(files.next());
     if (name != CatalogueScript) CopyMissingFile(files.filePath(), target.filePath(name));
+  }
+  for (const SamplePicture &picture : SamplePictures()) {
+    for (const QString &file : picture.files) DrawMissingFile(picture, target.filePath(file));
   }
   MakeMissingCatalogue(target);
 }
