@@ -144,6 +144,12 @@ class Program:
     def click(self, x, y, button=1):
         run("xdotool", "mousemove", str(x), str(y), "click", str(button))
 
+    def click_on(self, name, role="push button|toggle button|button"):
+        """Clicks the middle of a control; for buttons that answer with a dialog, which would hold
+        the accessibility bus until it is closed."""
+        box = Atspi.Component.get_extents(self.wait(name, role), Atspi.CoordType.SCREEN)
+        self.click(box.x + box.width // 2, box.y + box.height // 2)
+
     def visible_windows(self):
         """The windows of the program on the screen; pop-up menus are windows too."""
         return subprocess.run(["xdotool", "search", "--onlyvisible", "--class",

@@ -9,6 +9,7 @@ changed. OUT_FOLDER receives the screenshots and the saved pages.
 import os
 import shutil
 import stat
+import subprocess
 import sys
 import tempfile
 
@@ -17,6 +18,7 @@ from desktop import Atspi, Program, TourError, file_text, wait_for
 MENU = "menu item"
 TAB = "page tab"
 DIALOG = "dialog|alert|file chooser"
+WINDOW = "dialog|frame|window"
 
 
 def step(text):
@@ -30,6 +32,7 @@ def check(condition, what):
 
 class Tour:
     def __init__(self, run_folder, out):
+        self.run_folder = run_folder
         self.out = out
         self.scratch = tempfile.mkdtemp(prefix="velor-tour-")
         self.folder = os.path.join(self.scratch, "program")
@@ -42,7 +45,8 @@ class Tour:
         self.program = None
 
     def start(self):
-        self.program = Program(self.executable, self.folder, self.settings, self.out)
+        self.program = Program(self.executable, self.folder, self.settings, self.out,
+                               {"HOME": self.folder})
         self.program.size_window(1280, 860)
 
     # Small moves that every scenario uses.
@@ -193,6 +197,54 @@ class Tour:
         program.key("ctrl+F4")
         program.wait_gone("Untitled 4", TAB)
 
+    def catalogue(self, statement):
+        """The rows of a statement on the catalogue, without the header line."""
+        tool = os.path.join(self.run_folder, "velor-catalogue")
+        output = subprocess.run([tool, os.path.join(self.folder, "eThumbs.mdb"), statement],
+                                check=True, capture_output=True, text=True).stdout
+        return output.splitlines()[1:]
+
+    def a_project_that_moved_is_found_again_and_edited(self):
+        step("a project's moved folder is asked for, written into the catalogue, its home page edited")
+        program = self.program
+        program.click_on("Project Manager")
+        manager = program.wait("Web Site Project Manager", WINDOW)
+        program.shot("07-project-manager")
+        rows = program.wait("Select the Project and open it.", "tree|table|tree table", manager)
+        wait_for(lambda: Program.has_state(rows, Atspi.StateType.FOCUSED), "the list's focus")
+        program.key("End", "Return")
+        program.wait("Web path not found please provide the path", "label")
+        program.shot("08-moved-site")
+        program.key("alt+y")
+        picker = program.wait("Select Folder", WINDOW)
+        tree = program.wait("Folder", "tree|table|tree table", picker)
+        wait_for(lambda: Program.has_state(tree, Atspi.StateType.FOCUSED), "the folder list's focus")
+        # The picker begins at the home folder, which is the program folder here.
+        program.key("End", "Right", "Right", "Down")
+        chosen = program.wait("Lighthouse", "tree item|table cell", picker)
+        wait_for(lambda: Program.has_state(chosen, Atspi.StateType.SELECTED), "the site's folder to be chosen")
+        program.shot("09-folder-picker")
+        program.key("Return")
+        self.tab("Home.htm")
+        folder = os.path.join(self.folder, "Sites", "Lighthouse")
+        logic = folder.replace("/", "\\")
+        for statement in ("Select Path from Project where IdProject = '3'",
+                          "Select distinct TPath from Page where ProjectId = '3'",
+                          "Select PPath from CustomCD where ProjectId = '3'"):
+            check(self.catalogue(statement) == [logic],
+                  f"{statement} gives {self.catalogue(statement)}, not {logic}")
+        others = self.catalogue("Select Path from Project where IdProject <> '3'")
+        check(logic not in others and len(others) == 2, f"other projects were changed: {others}")
+
+        home = os.path.join(folder, "Files", "Home.htm")
+        before = file_text(home)
+        program.key("ctrl+Home")
+        program.type("See ")
+        program.key("ctrl+s")
+        wait_for(lambda: "See The Lighthouse</h1>" in file_text(home), "the edited home page")
+        check(file_text(home).replace("See ", "") == before, "more than the typed word has changed")
+        program.shot("10-project-page")
+
     def exit_ends_everything(self):
         step("exit ends the program without questions and leaves no temporary copy")
         self.program.type("never saved")
@@ -213,6 +265,7 @@ class Tour:
                              self.a_read_only_page_says_so,
                              self.five_pages_are_the_limit,
                              self.closing_asks,
+                             self.a_project_that_moved_is_found_again_and_edited,
                              self.exit_ends_everything):
                 scenario()
         except Exception:
