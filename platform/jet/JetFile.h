@@ -4,11 +4,11 @@
 #include "platform/jet/JetCursor.h"
 #include "platform/jet/JetStorage.h"
 #include "platform/jet/JetTable.h"
+#include "platform/jet/JetUpdater.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
-#include <QVariant>
 
 #include <memory>
 
@@ -20,13 +20,6 @@ struct JetAccess {
   JetAccessMode mode = JetAccessMode::ReadWrite;
   /// Why the file cannot be written; for people.
   QString reason;
-};
-
-struct JetAssignment {
-  /// Index into JetTable::columns.
-  int column = 0;
-  /// Text, or invalid for null.
-  QVariant value;
 };
 
 /// A Jet 4 database file: its tables, their rows, and changes of text in place.

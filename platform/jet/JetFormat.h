@@ -115,6 +115,8 @@ inline constexpr int LongValueHead = 12;
 inline constexpr quint32 LongValueLength = 0x3FFFFFFF;
 inline constexpr quint32 LongValueInline = 0x80000000;  ///< the value follows the head
 inline constexpr quint32 LongValueSingle = 0x40000000;  ///< the value is one row of an LVAL page
+/// Bytes of content; longer values are not written here.
+inline constexpr int LongValueInlineMaximum = 1024;
 /// Neither: a chain of rows, each beginning with the place of the next one, 0 at the end.
 
 // Text is UTF-16, or the mark FF FE and then one byte a character up to U+00FF, in which a byte 0

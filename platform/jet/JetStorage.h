@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace velor {
 
@@ -23,9 +24,8 @@ struct JetStamp {
 /// The file and what lies beside it, page by page. All access goes through here, so that a test can
 /// fail or stop at any single write. Failures raise RuntimeError with the file's name.
 ///
-/// A commit is CreateJournal, AppendJournal ..., SyncJournal, WritePage ..., Sync, RemoveJournal.
-/// Between SyncJournal and RemoveJournal the file keeps the modification time it had at
-/// CreateJournal, so that a journal left behind can tell whether somebody else wrote meanwhile.
+/// A commit is CreateJournal, AppendJournal ..., SyncJournal, KeepModified(time), WritePage ...,
+/// Sync, RemoveJournal, KeepModified(nothing).
 class JetStorage {
  public:
   virtual ~JetStorage() = default;
@@ -44,8 +44,10 @@ class JetStorage {
   virtual void WritePage(jet::PageNumber number, const jet::Page &page) = 0;
   virtual void Truncate(qint64 bytes) = 0;
   virtual void Sync() = 0;
-  /// Sets the modification time, nanoseconds since 1970.
-  virtual void SetModified(qint64 nanoseconds) = 0;
+  /// As long as a time is given (nanoseconds since 1970), the file keeps it as its modification
+  /// time whatever is written, and the journal is touched before each write: so a journal left
+  /// behind can tell whether somebody else wrote since. Nothing: the file is modified now.
+  virtual void KeepModified(std::optional<qint64> nanoseconds) = 0;
 
   /// Copies the file to its name with ".bak" appended, whole or not at all.
   virtual void Backup() = 0;

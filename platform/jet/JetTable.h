@@ -50,6 +50,8 @@ struct JetColumn {
   int fixedOffset = 0;
   /// Digits after the point of a Numeric.
   int scale = 0;
+
+  bool operator==(const JetColumn &) const = default;
 };
 
 /// A row's place: its slot on a page.
