@@ -15,6 +15,11 @@ void KeyFigures();
 void ReadingFigures();
 void SavingFigures();
 
+// Figures about the catalogue (CatalogueFigures.cpp).
+void CatalogueFigures();
+void CatalogueMemoryFigure();
+void ChildReadPages();
+
 // Figures about whole processes (ProcessFigures.cpp).
 void StartFigure();
 void MemoryFigure();

@@ -2,19 +2,18 @@
 // The program as it starts, in a scratch program folder.
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/MfrmProgram.h"
+#include "bench/Children.h"
 #include "bench/Figures.h"
 #include "chrome/Palette.h"
 #include "editor/PageSlots.h"
 #include "editor/modWorkFlow.h"
 #include "platform/qt/RealPlatform.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <cstdio>
 #include <memory>
 #include <sqlite3.h>
 
@@ -54,12 +53,6 @@ class OurProgram {
   std::unique_ptr<RealPlatform> real_;
   std::unique_ptr<MfrmProgram> window_;
 };
-
-void TellReadyAndWait() {
-  std::puts("ready");
-  std::fflush(stdout);
-  QApplication::exec();
-}
 
 }  // namespace
 
