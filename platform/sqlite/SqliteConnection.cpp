@@ -42,7 +42,9 @@ QString DataSource(const QString &connectionText) {
 
 std::unique_ptr<sqlite3, SqliteClose> OpenDatabase(const QString &name, int flags) {
   sqlite3 *handle = nullptr;
-  const int result = sqlite3_open_v2(name.toUtf8().constData(), &handle, flags, nullptr);
+  // The program has one thread.
+  const int result =
+      sqlite3_open_v2(name.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
   std::unique_ptr<sqlite3, SqliteClose> opened(handle);
   if (result != SQLITE_OK) throw DatabaseError(handle, Source(), name);
   sqlite3_extended_result_codes(handle, 1);

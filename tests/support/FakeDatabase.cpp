@@ -132,6 +132,8 @@ class FakeConnection final : public DatabaseConnection {
 
   ObjectState State() const override { return state_; }
 
+  QString Notice() const override { return database_.notice; }
+
   void Execute(const QString &statement, int options) override {
     Note(database_.log_, QStringLiteral("Execute(%1, %2)").arg(statement).arg(options));
     if (state_ != ObjectState::Open) Fail(ErrorNumber::ObjectNotSet, statement);

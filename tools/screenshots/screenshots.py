@@ -41,6 +41,9 @@ def main(run_folder, out, palette, scale):
         page = program.wait("Untitled 5", "frame")
         program.press("View HTML", within=page)
         program.shot(name + "5-source-view")
+        program.click_on("Project Manager")
+        program.wait("Select the Project and open it.", "label")
+        program.shot(name + "6-project-manager")
     finally:
         program.kill()
         shutil.rmtree(scratch, ignore_errors=True)
