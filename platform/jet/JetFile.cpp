@@ -188,6 +188,7 @@ void JetFile::Begin() {
   if (parts_->inTransaction) return;
   parts_->inTransaction = true;
   parts_->writing = false;
+  parts_->savepoints.clear();
   parts_->begin = parts_->pager.Now();
 }
 
@@ -200,18 +201,17 @@ void JetFile::Commit() {
     throw;
   }
   parts_->inTransaction = false;
-  parts_->savepoints.clear();
 }
 
 void JetFile::Rollback() {
   if (!parts_->inTransaction) return;
   parts_->Return(std::move(parts_->begin));
   parts_->inTransaction = false;
-  parts_->savepoints.clear();
 }
 
 void JetFile::Savepoint(int number) {
   auto &savepoints = parts_->savepoints;
+  if (!parts_->inTransaction) return;
   if (savepoints.empty() || savepoints.back().first < number) {
     savepoints.emplace_back(number, parts_->pager.Now());
   }

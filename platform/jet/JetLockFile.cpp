@@ -51,6 +51,11 @@ struct flock LockFrom(int descriptor, off_t start) {
   return lock;
 }
 
+/// Adjacent locks of one holder are one.
+bool Covers(const struct flock &lock, off_t byte) {
+  return byte >= lock.l_start && (lock.l_len == 0 || byte < lock.l_start + lock.l_len);
+}
+
 }  // namespace
 
 QString JetLockHolders(const QString &databasePath) {
@@ -67,8 +72,9 @@ QString JetLockHolders(const QString &databasePath) {
   bool locked = false;
   for (struct flock lock = LockFrom(file.handle(), slots.size()); lock.l_type != F_UNLCK;) {
     locked = true;
-    const off_t slot = lock.l_start - LockBase;
-    if (slot >= 0 && slot < slots.size() / SlotBytes) holders += HolderAt(slots, slot);
+    for (qsizetype slot = 0; slot < slots.size() / SlotBytes; ++slot) {
+      if (Covers(lock, LockBase + slot)) holders += HolderAt(slots, slot);
+    }
     if (lock.l_len == 0) break;
     lock = LockFrom(file.handle(), lock.l_start + lock.l_len);
   }
