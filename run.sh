@@ -29,7 +29,7 @@ cmake --build --preset release --parallel "$(nproc)" --target velor-programs
 run=$top/build/run
 mkdir -p "$run"
 install -m 755 build/release/programs/velor-* "$run/"
-"$run/velor-make-sample" "$run"
+"$run/velor-sample-site" "$run"
 
 [ $start = yes ] || exit 0
 # The browser engine's sandbox refuses to start for the superuser.

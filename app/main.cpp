@@ -4,6 +4,7 @@
 #include "app/window/MfrmProgram.h"
 #include "app/window/RecoveryCopies.h"
 #include "chrome/Palette.h"
+#include "platform/DriveMap.h"
 #include "platform/qt/RealPlatform.h"
 #include "platform/qt/editing/PageScheme.h"
 
@@ -12,7 +13,7 @@ int main(int argc, char **argv) {
   RegisterPageScheme();
   Application application(argv);
   DressApplication(application);
-
+  const auto driveMapError = UseDriveMapFile(DriveMapFile());
   RealPlatform real(argc, argv);
   EventBoundary boundary(real.dialogs, real.runtime);
   application.SetBoundary(&boundary);
@@ -27,7 +28,10 @@ int main(int argc, char **argv) {
                      [] { QCoreApplication::exit(); });
     mainWindow->Load();
   });
-  boundary.Run([&] { StartUp(real.parts, values, windows); });
+  boundary.Run([&] {
+    if (driveMapError) throw *driveMapError;
+    StartUp(real.parts, values, windows);
+  });
   boundary.SetRecovery(
       [&] { return WriteRecoveryCopies(mainWindow->Context(), real.runtime.ProgramFolder()); });
   boundary.StartUpDone();

@@ -20,6 +20,10 @@ void PreviewFigures();
 // Figures about the source editor (SourceFigures.cpp).
 void SourceFillFigures();
 void ApplyFigures();
+// Figures about the catalogue (CatalogueFigures.cpp).
+void CatalogueFigures();
+void CatalogueMemoryFigure();
+void ChildReadPages();
 
 // Figures about whole processes (ProcessFigures.cpp).
 void StartFigure();

@@ -1,23 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "bench/Children.h"
 #include "bench/Figures.h"
 #include "bench/OurProgram.h"
 #include "editor/modWorkFlow.h"
 
-#include <QApplication>
-
-#include <cstdio>
-
 namespace velor::bench {
-
-namespace {
-
-void TellReadyAndWait() {
-  std::puts("ready");
-  std::fflush(stdout);
-  QApplication::exec();
-}
-
-}  // namespace
 
 void ChildOurWindow() {
   const OurProgram program;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <memory>
@@ -23,10 +24,12 @@ enum class ColumnType : int {
   Double = 5,
   Date = 7,
   Boolean = 11,
+  Guid = 72,
   VarChar = 200,
   LongVarChar = 201,
   VarWideChar = 202,
   LongVarWideChar = 203,
+  LongVarBinary = 205,
 };
 
 class DatabaseConnection;
@@ -47,11 +50,19 @@ class Recordset {
   virtual bool EndOfFile() const = 0;
   virtual void MoveNext() = 0;
 
-  /// The current row's value in the column of that name, letter case ignored. A null QVariant is
-  /// SQL's null, a Boolean -1 or 0, a date its text. Raises for an unknown column and past the last
-  /// row.
-  virtual QVariant Value(const QString &column) const = 0;
-  virtual ColumnType Type(const QString &column) const = 0;
+  /// In the statement's order; none for a statement that returns no rows.
+  virtual QStringList ColumnNames() const = 0;
+  /// The place of the column of that name among the columns, letter case ignored; raises for an
+  /// unknown one.
+  virtual int ColumnIndex(const QString &column) const = 0;
+  /// The current row's value in that column. A null QVariant is SQL's null, a Boolean -1 or 0, a
+  /// date its text. Raises past the last row.
+  virtual QVariant ValueAt(int columnIndex) const = 0;
+  virtual ColumnType TypeAt(int columnIndex) const = 0;
+
+  /// The same by the column's name.
+  QVariant Value(const QString &column) const { return ValueAt(ColumnIndex(column)); }
+  ColumnType Type(const QString &column) const { return TypeAt(ColumnIndex(column)); }
 };
 
 /// One connection to the catalogue database.
@@ -65,6 +76,9 @@ class DatabaseConnection {
   virtual void Open(const QString &connectionText, const QString &user, const QString &password,
                     int options) = 0;
   virtual ObjectState State() const = 0;
+  /// What opening the file brought about that the person should know (an interrupted change that
+  /// was taken back, say); empty as a rule.
+  virtual QString Notice() const { return {}; }
 
   /// Runs a statement that returns no rows. Raises when it fails.
   virtual void Execute(const QString &statement, int options) = 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Paths.h"
 
+#include "platform/DriveMap.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStringList>
@@ -16,6 +18,12 @@ constexpr char16_t BackslashInName = 0xF05C;
 
 bool NativeIsLogic() {
   return QDir::separator() == u'\\';
+}
+
+/// The map is a property of the machine, like its separator: no caller chooses it.
+DriveMap &Drives() {
+  static DriveMap drives;
+  return drives;
 }
 
 /// An existing path below `folder` for names[at] and on; at each level the exact name first.
@@ -36,15 +44,21 @@ std::optional<QString> Find(const QString &folder, const QStringList &names, qsi
 
 }  // namespace
 
+void UseDriveMap(const DriveMap &map) {
+  Drives() = map;
+}
+
 QString ToLogic(const QString &nativePath) {
   if (NativeIsLogic()) return nativePath;
   QString logic = nativePath;
-  return logic.replace(u'\\', QChar(BackslashInName)).replace(u'/', u'\\');
+  logic.replace(u'\\', QChar(BackslashInName));
+  if (const auto onDrive = Drives().ToDrive(logic)) return *onDrive;
+  return logic.replace(u'/', u'\\');
 }
 
 QString ToNative(const QString &logicPath) {
   if (NativeIsLogic()) return logicPath;
-  QString native = logicPath;
+  QString native = Drives().ToNative(logicPath).value_or(logicPath);
   return native.replace(u'\\', u'/').replace(QChar(BackslashInName), u'\\');
 }
 
@@ -63,6 +77,10 @@ QString FromPeople(const QString &text) {
 
 bool IsDrivePath(const QString &path) {
   return path.size() >= 2 && path[1] == u':' && path[0].unicode() < 0x80 && path[0].isLetter();
+}
+
+bool IsOnUnknownDrive(const QString &path) {
+  return !NativeIsLogic() && IsDrivePath(path) && !Drives().ToNative(path);
 }
 
 QUrl ToUrl(const QString &logicPath) {

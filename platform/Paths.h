@@ -10,11 +10,19 @@
 /// ToNative. On a platform whose own separator is "\" both are the identity.
 namespace velor {
 
-/// Native to logic form. A real backslash in a native name travels as U+F05C.
+class DriveMap;
+
+/// Sets the drives by which ToLogic and ToNative go. Start-up does it once, before any path is
+/// exchanged: paths of both sides must not meet.
+void UseDriveMap(const DriveMap &map);
+
+/// Native to logic form: a drive path below the folder of a mapped drive. A real backslash in a
+/// native name travels as U+F05C.
 QString ToLogic(const QString &nativePath);
 
 /// Logic to native form; both separators are accepted, U+F05C becomes a backslash again.
-/// Drive texts ("C:\site") name nothing here and come back with their separators exchanged.
+/// Drive texts ("C:\site") of unmapped drives name nothing here and come back with their separators
+/// exchanged.
 QString ToNative(const QString &logicPath);
 
 /// How a path is shown to people and written where people read it: the native form when the path
@@ -24,8 +32,11 @@ QString ForPeople(const QString &path);
 /// A path as a person or another program may have written it (native or logic form) in logic form.
 QString FromPeople(const QString &text);
 
-/// Whether the text names a drive ("C:\..."), which no file here lies on.
+/// Whether the text begins with a drive ("C:\...").
 bool IsDrivePath(const QString &path);
+
+/// Whether the text begins with a drive that is not mapped, on which no file lies.
+bool IsOnUnknownDrive(const QString &path);
 
 /// The file: URL of a logic path; never made by concatenation, so that blanks, "#", "%" and "?"
 /// are encoded.

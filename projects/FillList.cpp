@@ -11,6 +11,23 @@
 #include <vector>
 
 namespace velor {
+namespace {
+
+struct SourceColumn {
+  int index;
+  ColumnType type;
+};
+
+std::vector<SourceColumn> Find(const QStringList &names, const Recordset &records) {
+  std::vector<SourceColumn> columns;
+  for (const QString &name : names) {
+    const int index = records.ColumnIndex(name);
+    columns.push_back({index, records.TypeAt(index)});
+  }
+  return columns;
+}
+
+}  // namespace
 
 std::int16_t FillList(ListControl &list, RowTable &table, const QString &statement,
                       LeadingColumn leadingColumn, std::int32_t keyValue, const QString &keyColumn,
@@ -18,22 +35,27 @@ std::int16_t FillList(ListControl &list, RowTable &table, const QString &stateme
   std::int16_t found = 0;
   try {
     const int offset = leadingColumn == LeadingColumn::Reserved ? 1 : 0;
-    const int names = static_cast<int>(columnNames.size());
     // Filled aside, so that a list that shows `table` never sees it half full.
-    RowTable fresh(names - 1 + offset);
+    RowTable fresh(static_cast<int>(columnNames.size()) - 1 + offset);
     const auto records = connection.CreateRecordset();
     OpenRecordset(*records, statement, connection);
-    std::vector<ColumnType> types;
-    for (const QString &name : columnNames) types.push_back(records->Type(name));
-    for (; !records->EndOfFile(); records->MoveNext()) {
-      const int row = fresh.AppendRow();
-      fresh.At(row, 0) = 0.0;
-      if (!keyColumn.isEmpty() && IsNumber(records->Value(keyColumn), keyValue)) {
-        found = CInt(static_cast<double>(row));
-      }
-      for (int c = 0; c < names; ++c) {
-        fresh.At(row, c + offset) =
-            NormalisedValue(records->Value(columnNames[c]), types[static_cast<std::size_t>(c)]);
+    if (!records->EndOfFile()) {
+      fresh.Reserve(records->RecordCount());
+      const std::vector<SourceColumn> columns = Find(columnNames, *records);
+      const std::vector<SourceColumn> keys =
+          keyColumn.isEmpty() ? std::vector<SourceColumn>() : Find({keyColumn}, *records);
+      for (; !records->EndOfFile(); records->MoveNext()) {
+        const int row = fresh.AppendRow();
+        fresh.At(row, 0) = 0.0;
+        for (const SourceColumn &key : keys) {
+          if (IsNumber(records->ValueAt(key.index), keyValue)) {
+            found = CInt(static_cast<double>(row));
+          }
+        }
+        int target = offset;
+        for (const SourceColumn &column : columns) {
+          fresh.At(row, target++) = NormalisedValue(records->ValueAt(column.index), column.type);
+        }
       }
     }
     table = std::move(fresh);

@@ -13,6 +13,9 @@ class RowTable {
   /// Columns 0 to `highestColumn` and no rows.
   explicit RowTable(int highestColumn = -1) : columns_(highestColumn + 1) {}
 
+  /// Makes room for so many rows at once.
+  void Reserve(int rows) { values_.reserve(qsizetype{rows} * columns_); }
+
   /// Appends a row of empty values after the last one; returns its number.
   int AppendRow();
 

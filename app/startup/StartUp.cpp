@@ -66,6 +66,9 @@ class Procedure {
     }
     values_.DbConnection->Open(Text(ConnectionPrefix) + values_.DatabasePath, {}, {},
                                CommandTypeUnspecified);
+    const QString notice = values_.DbConnection->Notice();
+    if (notice.isEmpty()) return;
+    platform_.dialogs.ShowMessage({.text = notice, .icon = MessageIcon::Information});
   }
 
   void LocateImageFolder() {

@@ -23,7 +23,7 @@ bool IsWritable(const QString &folder) {
 }
 
 void FillWithSample(const QString &folder, const QString &executableFolder) {
-  const QString sampleMaker = QDir(executableFolder).filePath(QStringLiteral("velor-make-sample"));
+  const QString sampleMaker = QDir(executableFolder).filePath(QStringLiteral("velor-sample-site"));
   if (QFileInfo(sampleMaker).isExecutable()) QProcess::execute(sampleMaker, {folder});
 }
 

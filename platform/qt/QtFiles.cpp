@@ -23,7 +23,7 @@ QString Find(const QString &path, NameOrigin origin) {
 
 /// The native form of a path that an operation is about to use.
 QString Usable(const QString &path, const QString &source, NameOrigin origin = NameOrigin::Chosen) {
-  if (IsDrivePath(path)) throw RuntimeError::Of(ErrorNumber::PathNotFound, source, path);
+  if (IsOnUnknownDrive(path)) throw RuntimeError::Of(ErrorNumber::PathNotFound, source, path);
   // The system would take the name as far as the NUL, which is another file.
   if (path.contains(QChar(0))) throw RuntimeError::Of(ErrorNumber::PathFileAccess, source, path);
   return Find(path, origin);
@@ -43,11 +43,11 @@ bool IsAccessible(const QByteArray &name, int mode) {
 
 bool QtFiles::FileExists(const QString &path, NameOrigin origin) const {
   const QFileInfo info(Find(path, origin));
-  return info.exists() && !info.isDir();
+  return !IsOnUnknownDrive(path) && info.exists() && !info.isDir();
 }
 
 bool QtFiles::FolderExists(const QString &path, NameOrigin origin) const {
-  return QFileInfo(Find(path, origin)).isDir();
+  return !IsOnUnknownDrive(path) && QFileInfo(Find(path, origin)).isDir();
 }
 
 bool QtFiles::IsReadOnly(const QString &path) const {

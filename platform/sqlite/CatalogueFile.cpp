@@ -21,18 +21,14 @@ constexpr qsizetype HeaderBytes = 32;
 struct Format {
   qsizetype start;
   QByteArray mark;
-  /// Empty for the format that is read here.
-  QString objection;
+  CatalogueKind kind;
 };
 
 const QList<Format> &Formats() {
   static const QList<Format> formats = {
-      {0, QByteArray("SQLite format 3\0", 16), {}},
-      {4, "Standard Jet DB",
-       QStringLiteral("it is kept in the Jet format, which this version cannot open yet")},
-      {4, "Standard ACE DB",
-       QStringLiteral("it is kept in the ACE format (.accdb), which cannot be opened; convert it "
-                      "first")},
+      {0, QByteArray("SQLite format 3\0", 16), CatalogueKind::Sqlite},
+      {4, "Standard Jet DB", CatalogueKind::Jet},
+      {4, "Standard ACE DB", CatalogueKind::Jet},
   };
   return formats;
 }
@@ -61,18 +57,21 @@ QByteArray ReadHeader(const QString &nativePath) {
 
 }  // namespace
 
-void CheckCatalogueFile(const QString &nativePath) {
+CatalogueKind KindOfCatalogue(const QString &nativePath) {
   if (QFileInfo(nativePath).isDir()) {
     throw RuntimeError::FromErrno(EISDIR, Source(), nativePath);
   }
   const QByteArray header = ReadHeader(nativePath);
-  if (header.isEmpty()) Refuse(nativePath, QStringLiteral("it is empty"));
-  for (const Format &format : Formats()) {
-    if (header.mid(format.start, format.mark.size()) != format.mark) continue;
-    if (!format.objection.isEmpty()) Refuse(nativePath, format.objection);
-    return;
+  if (header.isEmpty()) {
+    Refuse(nativePath, QStringLiteral("it is empty; put a copy of the catalogue in its place"));
   }
-  Refuse(nativePath, QStringLiteral("it is no database"));
+  for (const Format &format : Formats()) {
+    if (header.mid(format.start, format.mark.size()) == format.mark) return format.kind;
+  }
+  Refuse(
+      nativePath,
+      QStringLiteral("it is no database; a catalogue is a Jet 4 file of the catalogue program, or "
+                     "an SQLite file"));
 }
 
 }  // namespace velor

@@ -5,9 +5,15 @@
 
 namespace velor {
 
-/// Whether a file can be a catalogue, told from its first bytes. Raises RuntimeError with the
-/// file's name and what is wrong with it: missing (53), a folder or no access (75), empty, kept in
-/// a format that only other programs read, or no database at all (57). `nativePath` in native form.
-void CheckCatalogueFile(const QString &nativePath);
+enum class CatalogueKind {
+  Sqlite,
+  /// Some version of the Jet engine's format; the store says whether it is one that it reads.
+  Jet,
+};
+
+/// What kind of catalogue a file is, told from its first bytes. Raises RuntimeError with the file's
+/// name and what is wrong with it: missing (53), a folder or no access (75), empty, or no database
+/// at all (57). `nativePath` in native form.
+CatalogueKind KindOfCatalogue(const QString &nativePath);
 
 }  // namespace velor

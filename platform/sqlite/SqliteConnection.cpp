@@ -3,7 +3,9 @@
 
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/jet/JetFile.h"
 #include "platform/sqlite/CatalogueFile.h"
+#include "platform/sqlite/JetModule.h"
 #include "platform/sqlite/SqliteRecordset.h"
 #include "platform/sqlite/SqliteStatement.h"
 
@@ -38,11 +40,29 @@ QString DataSource(const QString &connectionText) {
   return connectionText.mid(start + key.size());
 }
 
+std::unique_ptr<sqlite3, SqliteClose> OpenDatabase(const QString &name, int flags) {
+  sqlite3 *handle = nullptr;
+  // The program has one thread.
+  const int result =
+      sqlite3_open_v2(name.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+  std::unique_ptr<sqlite3, SqliteClose> opened(handle);
+  if (result != SQLITE_OK) throw DatabaseError(handle, Source(), name);
+  sqlite3_extended_result_codes(handle, 1);
+  sqlite3_busy_timeout(handle, BusyMilliseconds);
+  // Opening reads nothing; a damaged or locked file shows at the first read.
+  SqliteStatement(handle, QStringLiteral("Select count(*) from sqlite_master"), Source(), name)
+      .Step();
+  return opened;
+}
+
 }  // namespace
 
 void SqliteClose::operator()(sqlite3 *database) const {
   sqlite3_close_v2(database);
 }
+
+SqliteConnection::SqliteConnection() = default;
+SqliteConnection::~SqliteConnection() = default;
 
 void SqliteConnection::Open(const QString &connectionText, const QString &, const QString &, int) {
   if (database_) {
@@ -50,18 +70,15 @@ void SqliteConnection::Open(const QString &connectionText, const QString &, cons
                            QStringLiteral("the connection is open already"));
   }
   const QString file = FindIgnoringCase(DataSource(connectionText));
-  CheckCatalogueFile(file);
-
-  sqlite3 *handle = nullptr;
-  const int result = sqlite3_open_v2(file.toUtf8().constData(), &handle, OpenFlags(file), nullptr);
-  std::unique_ptr<sqlite3, SqliteClose> opened(handle);
-  if (result != SQLITE_OK) throw DatabaseError(handle, Source(), file);
-  sqlite3_extended_result_codes(handle, 1);
-  sqlite3_busy_timeout(handle, BusyMilliseconds);
-  // Opening reads nothing; a damaged or locked file shows at the first read.
-  SqliteStatement(handle, QStringLiteral("Select count(*) from sqlite_master"), Source(), file)
-      .Step();
-  database_ = std::move(opened);
+  if (KindOfCatalogue(file) == CatalogueKind::Sqlite) {
+    database_ = OpenDatabase(file, OpenFlags(file));
+    return;
+  }
+  auto jet = JetFile::Open(file);
+  auto database = OpenDatabase(QStringLiteral(":memory:"), SQLITE_OPEN_READWRITE);
+  AttachJetFile(database.get(), *jet);
+  jet_ = std::move(jet);
+  database_ = std::move(database);
 }
 
 ObjectState SqliteConnection::State() const {
@@ -69,7 +86,8 @@ ObjectState SqliteConnection::State() const {
 }
 
 void SqliteConnection::Execute(const QString &statement, int) {
-  SqliteStatement prepared(Handle(), statement, QStringLiteral("Database.Execute"), statement);
+  SqliteStatement prepared(BeginStatement(), statement, QStringLiteral("Database.Execute"),
+                           statement);
   while (prepared.Step()) {
   }
 }
@@ -78,11 +96,16 @@ std::unique_ptr<Recordset> SqliteConnection::CreateRecordset() {
   return std::make_unique<SqliteRecordset>();
 }
 
-sqlite3 *SqliteConnection::Handle() const {
+QString SqliteConnection::Notice() const {
+  return jet_ ? jet_->Notice() : QString();
+}
+
+sqlite3 *SqliteConnection::BeginStatement() {
   if (!database_) {
     throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("Database"),
                            QStringLiteral("the connection is not open"));
   }
+  if (jet_) jet_->Refresh();
   return database_.get();
 }
 

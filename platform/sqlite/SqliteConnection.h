@@ -13,23 +13,34 @@ struct SqliteClose {
   void operator()(sqlite3 *database) const;
 };
 
-/// A connection to a catalogue that is kept as an SQLite file, whatever its name ends in. The
-/// provider named in the connection text is not consulted: the file's header says what it is.
-/// Statements run as they are given.
+class JetFile;
+
+/// A connection to a catalogue, whatever its name ends in. The provider named in the connection
+/// text is not consulted: the file's header says what it is. An SQLite file is opened as it is; a
+/// Jet 4 file's tables are attached to a database in memory (JetModule.h). Statements run as they
+/// are given on either.
 ///
 /// Invariants: no file is ever created; a file that opens has a readable list of tables.
 class SqliteConnection final : public DatabaseConnection {
  public:
+  SqliteConnection();
+  ~SqliteConnection() override;
+
   void Open(const QString &connectionText, const QString &user, const QString &password,
             int options) override;
   ObjectState State() const override;
   void Execute(const QString &statement, int options) override;
   std::unique_ptr<Recordset> CreateRecordset() override;
 
-  /// The open database; raises ObjectNotSet (91) before Open.
-  sqlite3 *Handle() const;
+  QString Notice() const override;
+
+  /// The open database, ready for one statement: what another program has written since the last
+  /// one is seen. Raises ObjectNotSet (91) before Open.
+  sqlite3 *BeginStatement();
 
  private:
+  /// Before the database, whose tables may be its.
+  std::unique_ptr<JetFile> jet_;
   std::unique_ptr<sqlite3, SqliteClose> database_;
 };
 

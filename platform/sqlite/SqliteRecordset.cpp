@@ -6,7 +6,6 @@
 #include "platform/sqlite/SqliteStatement.h"
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 #include <sqlite3.h>
 
@@ -41,6 +40,8 @@ constexpr DeclaredType DeclaredTypes[] = {
     {"NUMERIC", ColumnType::Double},
     {"DECIMAL", ColumnType::Double},
     {"CURRENCY", ColumnType::Double},
+    {"GUID", ColumnType::Guid},
+    {"BLOB", ColumnType::LongVarBinary},
 };
 
 std::optional<ColumnType> Declared(const char *declaration) {
@@ -62,31 +63,6 @@ ColumnType TypeOfValue(int storageClass) {
   }
 }
 
-QVariant IntegerValue(sqlite3_int64 value) {
-  using Limits = std::numeric_limits<int>;
-  if (value >= Limits::min() && value <= Limits::max()) return static_cast<int>(value);
-  return static_cast<qlonglong>(value);
-}
-
-QVariant ReadValue(sqlite3_stmt *statement, int index, ColumnType type) {
-  const int storageClass = sqlite3_column_type(statement, index);
-  if (storageClass == SQLITE_NULL) return {};
-  if (type == ColumnType::Boolean && storageClass == SQLITE_INTEGER) {
-    return sqlite3_column_int64(statement, index) != 0 ? -1 : 0;
-  }
-  switch (storageClass) {
-    case SQLITE_INTEGER:
-      return IntegerValue(sqlite3_column_int64(statement, index));
-    case SQLITE_FLOAT:
-      return sqlite3_column_double(statement, index);
-    default: {
-      const void *text = sqlite3_column_text(statement, index);
-      return QString::fromUtf8(static_cast<const char *>(text),
-                               sqlite3_column_bytes(statement, index));
-    }
-  }
-}
-
 [[noreturn]] void Fail(ErrorNumber number, const QString &detail) {
   throw RuntimeError::Of(number, QStringLiteral("Recordset"), detail);
 }
@@ -100,12 +76,12 @@ void SqliteRecordset::Open(const QString &statement, DatabaseConnection &connect
   }
   auto *sqlite = dynamic_cast<SqliteConnection *>(&connection);
   if (sqlite == nullptr) Fail(ErrorNumber::InvalidProcedureCall, statement);
-  SqliteStatement prepared(sqlite->Handle(), statement, QStringLiteral("Recordset.Open"),
+  SqliteStatement prepared(sqlite->BeginStatement(), statement, QStringLiteral("Recordset.Open"),
                            statement);
   sqlite3_stmt *handle = prepared.Handle();
   const int count = sqlite3_column_count(handle);
 
-  std::vector<std::vector<QVariant>> rows;
+  RowStore rows(count);
   bool hasRow = prepared.Step();
   std::vector<Column> columns;
   for (int index = 0; index < count; ++index) {
@@ -114,12 +90,7 @@ void SqliteRecordset::Open(const QString &statement, DatabaseConnection &connect
     columns.push_back({QString::fromUtf8(sqlite3_column_name(handle, index)),
                        Declared(sqlite3_column_decltype(handle, index)).value_or(fallback)});
   }
-  for (; hasRow; hasRow = prepared.Step()) {
-    std::vector<QVariant> &row = rows.emplace_back();
-    for (int index = 0; index < count; ++index) {
-      row.push_back(ReadValue(handle, index, columns[static_cast<std::size_t>(index)].type));
-    }
-  }
+  for (; hasRow; hasRow = prepared.Step()) rows.Append(handle);
   columns_ = std::move(columns);
   rows_ = std::move(rows);
   row_ = 0;
@@ -129,18 +100,18 @@ void SqliteRecordset::Open(const QString &statement, DatabaseConnection &connect
 void SqliteRecordset::Close() {
   CheckOpen();
   columns_.clear();
-  rows_.clear();
+  rows_ = RowStore();
   state_ = ObjectState::Closed;
 }
 
 int SqliteRecordset::RecordCount() const {
   CheckOpen();
-  return static_cast<int>(rows_.size());
+  return rows_.RowCount();
 }
 
 bool SqliteRecordset::EndOfFile() const {
   CheckOpen();
-  return row_ >= rows_.size();
+  return row_ >= rows_.RowCount();
 }
 
 void SqliteRecordset::MoveNext() {
@@ -148,14 +119,33 @@ void SqliteRecordset::MoveNext() {
   ++row_;
 }
 
-QVariant SqliteRecordset::Value(const QString &column) const {
-  CheckRow();
-  return rows_[row_][IndexOf(column)];
+QStringList SqliteRecordset::ColumnNames() const {
+  CheckOpen();
+  QStringList names;
+  for (const Column &column : columns_) names.append(column.name);
+  return names;
 }
 
-ColumnType SqliteRecordset::Type(const QString &column) const {
+int SqliteRecordset::ColumnIndex(const QString &column) const {
   CheckOpen();
-  return columns_[IndexOf(column)].type;
+  const auto found = std::find_if(columns_.begin(), columns_.end(), [&column](const Column &known) {
+    return known.name.compare(column, Qt::CaseInsensitive) == 0;
+  });
+  if (found == columns_.end()) Fail(ErrorNumber::ElementNotFound, column);
+  return static_cast<int>(found - columns_.begin());
+}
+
+QVariant SqliteRecordset::ValueAt(int columnIndex) const {
+  CheckRow();
+  const ColumnType type = ColumnAt(columnIndex).type;
+  const QVariant value = rows_.At(row_, columnIndex);
+  const bool isTruth = type == ColumnType::Boolean && value.typeId() == QMetaType::Int;
+  return isTruth ? QVariant(value.toInt() != 0 ? -1 : 0) : value;
+}
+
+ColumnType SqliteRecordset::TypeAt(int columnIndex) const {
+  CheckOpen();
+  return ColumnAt(columnIndex).type;
 }
 
 void SqliteRecordset::CheckOpen() const {
@@ -168,12 +158,11 @@ void SqliteRecordset::CheckRow() const {
   if (EndOfFile()) Fail(ErrorNumber::InputPastEnd, QStringLiteral("past the last row"));
 }
 
-std::size_t SqliteRecordset::IndexOf(const QString &column) const {
-  const auto found = std::find_if(columns_.begin(), columns_.end(), [&column](const Column &known) {
-    return known.name.compare(column, Qt::CaseInsensitive) == 0;
-  });
-  if (found == columns_.end()) Fail(ErrorNumber::ElementNotFound, column);
-  return static_cast<std::size_t>(found - columns_.begin());
+const SqliteRecordset::Column &SqliteRecordset::ColumnAt(int columnIndex) const {
+  if (columnIndex < 0 || static_cast<std::size_t>(columnIndex) >= columns_.size()) {
+    Fail(ErrorNumber::SubscriptOutOfRange, QStringLiteral("no such column"));
+  }
+  return columns_[static_cast<std::size_t>(columnIndex)];
 }
 
 }  // namespace velor

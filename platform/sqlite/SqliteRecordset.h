@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Database.h"
+#include "platform/sqlite/RowStore.h"
 
 #include <cstddef>
 #include <vector>
@@ -26,8 +27,10 @@ class SqliteRecordset final : public Recordset {
   bool EndOfFile() const override;
   void MoveNext() override;
 
-  QVariant Value(const QString &column) const override;
-  ColumnType Type(const QString &column) const override;
+  QStringList ColumnNames() const override;
+  int ColumnIndex(const QString &column) const override;
+  QVariant ValueAt(int columnIndex) const override;
+  ColumnType TypeAt(int columnIndex) const override;
 
  private:
   struct Column {
@@ -37,12 +40,12 @@ class SqliteRecordset final : public Recordset {
 
   void CheckOpen() const;
   void CheckRow() const;
-  std::size_t IndexOf(const QString &column) const;
+  const Column &ColumnAt(int columnIndex) const;
 
   ObjectState state_ = ObjectState::Closed;
   std::vector<Column> columns_;
-  std::vector<std::vector<QVariant>> rows_;
-  std::size_t row_ = 0;
+  RowStore rows_;
+  int row_ = 0;
 };
 
 }  // namespace velor

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/sqlite/SqliteStatement.h"
 
+#include <QByteArrayView>
+
 #include <sqlite3.h>
 
 namespace velor {
@@ -44,10 +46,16 @@ SqliteStatement::SqliteStatement(sqlite3 *database, const QString &text, const Q
     : database_(database), source_(source), subject_(subject) {
   const QByteArray bytes = text.toUtf8();
   sqlite3_stmt *statement = nullptr;
+  const char *rest = nullptr;
   const int result = sqlite3_prepare_v2(database, bytes.constData(), static_cast<int>(bytes.size()),
-                                        &statement, nullptr);
+                                        &statement, &rest);
   statement_.reset(statement);
   if (result != SQLITE_OK) throw DatabaseError(database_, source_, subject_);
+  const bool isOne = statement != nullptr && QByteArrayView(rest).trimmed().isEmpty();
+  if (!isOne) {
+    throw RuntimeError::Of(ErrorNumber::InvalidProcedureCall, source_,
+                           QStringLiteral("not one statement: %1").arg(subject_));
+  }
 }
 
 bool SqliteStatement::Step() {

@@ -16,7 +16,7 @@ namespace velor {
 RuntimeError DatabaseError(sqlite3 *database, const QString &source, const QString &subject);
 
 /// One prepared statement, finished when it goes out of scope. Failures raise DatabaseError with
-/// the given source and subject.
+/// the given source and subject; so does a text that holds more than one statement, or none.
 class SqliteStatement {
  public:
   SqliteStatement(sqlite3 *database, const QString &text, const QString &source,

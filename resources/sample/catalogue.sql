@@ -26,9 +26,7 @@ Insert into Project values
   (1, 'Garden Notes', '{folder}\Sites\Garden', 1, '2003-05-01 09:30:00'),
   (2, 'A Walk through the Old Town', '{folder}\Sites\OldTown', 1, '2003-04-12 17:05:00'),
   -- Its site was moved from here to Sites\Lighthouse; opening it asks for the new folder.
-  (3, 'The Lighthouse', '{folder}\Sites\Harbour', 1, '2003-06-20 11:00:00'),
-  -- Its site has not been generated, so that it is not offered.
-  (4, 'Plans for the Orchard', '{folder}\Sites\Orchard', 0, '2003-06-21 08:15:00');
+  (3, 'The Lighthouse', '{folder}\Sites\Harbour', 1, '2003-06-20 11:00:00');
 
 Insert into Page values
   (1, 1, 'Home', '{folder}\Sites\Garden', '\Files\Home.htm'),
@@ -37,7 +35,9 @@ Insert into Page values
   (4, 2, 'Home', '{folder}\Sites\OldTown', '\Files\Home.htm'),
   (5, 2, 'The market', '{folder}\Sites\OldTown', '\Files\Market.htm'),
   (6, 2, 'The tea house', '{folder}\Sites\OldTown', '\Files\TeaHouse.htm'),
-  (7, 3, 'Home', '{folder}\Sites\Harbour', '\Files\Home.htm');
+  (7, 3, 'Home', '{folder}\Sites\Harbour', '\Files\Home.htm'),
+  (8, 3, 'The keepers', '{folder}\Sites\Harbour', '\Files\Keepers.htm'),
+  (9, 3, 'Visitors', '{folder}\Sites\Harbour', '\Files\Visitors.htm');
 
 Insert into CustomCD values
   (1, '{folder}\Sites\Garden'),

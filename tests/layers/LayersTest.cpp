@@ -20,7 +20,8 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
   static const std::map<std::string, std::set<std::string>> table = {
       {"platform", {}},
       {"platform/html", {"platform"}},
-      {"platform/sqlite", {"platform"}},
+      {"platform/jet", {"platform"}},
+      {"platform/sqlite", {"platform", "platform/jet"}},
       {"platform/qt", {"platform", "platform/html", "platform/sqlite"}},
       {"app/settings", {"platform"}},
       {"chrome", {"platform"}},
@@ -36,8 +37,8 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
 
 /// Layers whose logic must not know any toolkit: QtWidgets, WebEngine, QScintilla or SQLite.
 const std::set<std::string> &ToolkitFreeLayers() {
-  static const std::set<std::string> layers = {"platform", "platform/html", "platform/sqlite",
-                                               "app/settings"};
+  static const std::set<std::string> layers = {"platform", "platform/html", "platform/jet",
+                                               "platform/sqlite", "app/settings"};
   return layers;
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What every database keeps to, the fake of the tests and the real one alike.
+// What every database keeps to, the fake of the tests and the real ones alike.
 #include "platform/Paths.h"
 #include "platform/sqlite/SqliteConnection.h"
+#include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FakeDatabase.h"
 
@@ -91,6 +92,38 @@ class SqliteHarness final : public Harness {
   QTemporaryDir folder_;
 };
 
+class JetHarness final : public Harness {
+ public:
+  JetHarness() {
+    using fixture::CellType;
+    fixture::FixtureTable project;
+    project.name = QStringLiteral("Project");
+    project.columns = {{QStringLiteral("IdProject"), CellType::Long},
+                       {QStringLiteral("Name"), CellType::Text},
+                       {QStringLiteral("Notes"), CellType::Memo},
+                       {QStringLiteral("Path"), CellType::Text},
+                       {QStringLiteral("Created"), CellType::Boolean},
+                       {QStringLiteral("DtModified"), CellType::DateTime},
+                       {QStringLiteral("Price"), CellType::Double}};
+    const QString folder = QStringLiteral("\\a");
+    project.rows = {
+        {{1, QStringLiteral("Newer"), QStringLiteral("n"), folder, true, DaysOf(2002, 2, 3), 2.0}},
+        {{2, QStringLiteral("Älter"), {}, folder, true, DaysOf(2001, 2, 3), 1.5}},
+        {{3, QStringLiteral("Never made"), {}, folder, false, DaysOf(2000, 2, 3), 0.0}}};
+    WriteCatalogue(File(), CatalogueFormat::Jet, {{project}});
+  }
+  std::unique_ptr<DatabaseConnection> Create() override {
+    return std::make_unique<SqliteConnection>();
+  }
+  QString ConnectionText() override { return Provider + ToLogic(File()); }
+  QString MissingText() override { return ConnectionText() + QStringLiteral("x"); }
+
+ private:
+  QString File() const { return folder_.filePath(QStringLiteral("eThumbs.mdb")); }
+
+  QTemporaryDir folder_;
+};
+
 template <typename HarnessType>
 class DatabaseContract : public ::testing::Test {
  protected:
@@ -108,7 +141,7 @@ class DatabaseContract : public ::testing::Test {
   HarnessType harness_;
 };
 
-using Harnesses = ::testing::Types<FakeHarness, SqliteHarness>;
+using Harnesses = ::testing::Types<FakeHarness, SqliteHarness, JetHarness>;
 TYPED_TEST_SUITE(DatabaseContract, Harnesses);
 
 TYPED_TEST(DatabaseContract, AConnectionIsClosedUntilItIsOpened) {
@@ -177,6 +210,21 @@ TYPED_TEST(DatabaseContract, ColumnsAreFoundInAnyLetterCaseAndUnknownOnesAreErro
             ErrorNumber::ElementNotFound);
   EXPECT_EQ(ErrorOf([&] { recordset->Type(QStringLiteral("Owner")); }),
             ErrorNumber::ElementNotFound);
+}
+
+TYPED_TEST(DatabaseContract, ColumnsAreAlsoReadByTheirPlace) {
+  auto connection = this->Opened();
+  auto recordset = connection->CreateRecordset();
+  EXPECT_EQ(ErrorOf([&] { recordset->ColumnIndex(QStringLiteral("Name")); }),
+            ErrorNumber::ObjectNotSet);
+  this->Open(*recordset, *connection, AllProjects);
+  const int name = recordset->ColumnIndex(QStringLiteral("NAME"));
+  EXPECT_EQ(recordset->ValueAt(name), QVariant(QStringLiteral("Älter")));
+  EXPECT_EQ(recordset->TypeAt(name), ColumnType::VarWideChar);
+  EXPECT_EQ(recordset->ColumnNames().value(name), QStringLiteral("Name"));
+  EXPECT_EQ(ErrorOf([&] { recordset->ValueAt(-1); }), ErrorNumber::SubscriptOutOfRange);
+  const auto beyond = static_cast<int>(recordset->ColumnNames().size());
+  EXPECT_EQ(ErrorOf([&] { recordset->TypeAt(beyond); }), ErrorNumber::SubscriptOutOfRange);
 }
 
 TYPED_TEST(DatabaseContract, ColumnsKnowTheirTypesWithAndWithoutRows) {

@@ -205,6 +205,15 @@ TEST_F(FillListTest, SaysNothingOfAnUnknownColumn) {
   EXPECT_EQ(table.HighestRow(), 0);
 }
 
+TEST_F(FillListTest, AsksForNoColumnWhereThereAreNoRows) {
+  Fill();
+  database.results[Statement].rows.clear();
+  EXPECT_EQ(Fill(LeadingColumn::None, 1, QStringLiteral("Nowhere"), {QStringLiteral("Nowhere")}),
+            0);
+  EXPECT_EQ(table.HighestRow(), 0);
+  EXPECT_EQ(log.back(), QStringLiteral("Refresh"));
+}
+
 TEST_F(FillListTest, FailsWhereTheRowNumberLeavesSixteenBits) {
   auto &rows = database.results[Statement].rows;
   rows.assign(40000, rows.front());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The project manager on a catalogue of its own on disk: what its statements do to the rows.
+// The project manager on catalogues of its own on disk, one of each format: what its statements do
+// to the rows.
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/ProgramValues.h"
@@ -9,6 +10,7 @@
 #include "projects/RecordsetReader.h"
 #include "projects/RowTable.h"
 #include "projects/frmProjectManager.h"
+#include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FakeComponents.h"
 #include "tests/support/FakeDialogs.h"
@@ -20,8 +22,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTemporaryDir>
-
-#include <sqlite3.h>
 
 namespace velor {
 namespace {
@@ -51,29 +51,12 @@ class Desk final : public ProjectHost {
   ProgramValues &values_;
 };
 
-class ProjectRepairTest : public testing::Test {
+class ProjectRepairTest : public testing::TestWithParam<CatalogueFormat> {
  protected:
-  ProjectRepairTest() {
-    sqlite3 *catalogue = nullptr;
-    sqlite3_open(File().toUtf8().constData(), &catalogue);
-    const int result = sqlite3_exec(
-        catalogue,
-        "Create table Project (IdProject INTEGER PRIMARY KEY, Name TEXT COLLATE NOCASE, Path TEXT,"
-        " Created BOOLEAN, DtModified DATETIME, Notes TEXT);"
-        "Create table Page (PageId INTEGER PRIMARY KEY, ProjectId INTEGER,"
-        " PageName TEXT COLLATE NOCASE, TPath TEXT, Path TEXT);"
-        "Create table CustomCD (ProjectId INTEGER, PPath TEXT);"
-        "Insert into Project values (1, 'Younger', '\\old\\one', 1, '2005-01-01', null);"
-        "Insert into Project values (2, 'Older', '\\old\\two', 1, '2004-01-01', null);"
-        "Insert into Project values (3, 'Not generated', '\\old\\three', 0, '2003-01-01', null);"
-        "Insert into Page values (10, 2, 'prices', '\\old\\two', '\\Files\\p.htm');"
-        "Insert into Page values (11, 2, 'About', '\\old\\two', '\\Files\\a.htm');"
-        "Insert into Page values (12, 1, 'Other', '\\old\\one', '\\Files\\o.htm');"
-        "Insert into CustomCD values (1, '\\old\\one');"
-        "Insert into CustomCD values (2, '\\old\\two');",
-        nullptr, nullptr, nullptr);
-    EXPECT_EQ(result, SQLITE_OK) << sqlite3_errmsg(catalogue);
-    sqlite3_close(catalogue);
+  ProjectRepairTest() { Open(SmallCatalogue()); }
+
+  void Open(const fixture::FixtureFile &content) {
+    WriteCatalogue(File(), GetParam(), content);
     values.DbConnection = std::make_unique<SqliteConnection>();
     values.DbConnection->Open(U("Data Source=") + ToLogic(File()), {}, {}, -1);
   }
@@ -102,7 +85,7 @@ class ProjectRepairTest : public testing::Test {
   Desk desk{values};
 };
 
-TEST_F(ProjectRepairTest, ListsGeneratedProjectsOldestFirst) {
+TEST_P(ProjectRepairTest, ListsGeneratedProjectsOldestFirst) {
   frmProjectManager manager(platform, values, desk, nullptr);
   const QAbstractItemModel *list = Control<RecordList>(manager, U("LsHistory"))->model();
   ASSERT_EQ(list->rowCount(), 2);
@@ -112,7 +95,7 @@ TEST_F(ProjectRepairTest, ListsGeneratedProjectsOldestFirst) {
   EXPECT_EQ(list->index(1, 1).data().toString(), U("Younger"));
 }
 
-TEST_F(ProjectRepairTest, ListsThePagesOfTheProjectAloneByName) {
+TEST_P(ProjectRepairTest, ListsThePagesOfTheProjectAloneByName) {
   frmProjectManager manager(platform, values, desk, nullptr);
   Control<QTabWidget>(manager, U("SSTab1"))->setCurrentIndex(1);
   const QAbstractItemModel *pages = Control<RecordList>(manager, U("LstPages"))->model();
@@ -121,7 +104,7 @@ TEST_F(ProjectRepairTest, ListsThePagesOfTheProjectAloneByName) {
   EXPECT_EQ(pages->index(1, 1).data().toString(), U("prices"));
 }
 
-TEST_F(ProjectRepairTest, PutsTheNewFolderIntoTheProjectsRowsAndNoOthers) {
+TEST_P(ProjectRepairTest, PutsTheNewFolderIntoTheProjectsRowsAndNoOthers) {
   frmProjectManager manager(platform, values, desk, nullptr);
   desk.pickedFolder = U("\\new\\Bob's Site");
   dialogs.ExpectMessage(U("Web path not found please provide the path"), MessageAnswer::Yes);
@@ -134,20 +117,30 @@ TEST_F(ProjectRepairTest, PutsTheNewFolderIntoTheProjectsRowsAndNoOthers) {
             (QStringList{moved, moved, U("\\old\\one")}));
   EXPECT_EQ(Column("Select * from CustomCD Order by ProjectId", "PPath"),
             (QStringList{U("\\old\\one"), moved}));
+  // What the statements do not name stays as it was.
+  EXPECT_EQ(Column("Select * from Project where IdProject = 1", "Notes"), QStringList{U("kept")});
   EXPECT_EQ(desk.opened, moved + U("\\Files\\Home.htm"));
   EXPECT_EQ(desk.pages, (QStringList{U("11 About"), U("10 prices")}));
 }
 
-TEST_F(ProjectRepairTest, KeepsTheFirstChangeWhenALaterStatementFails) {
+TEST_P(ProjectRepairTest, KeepsTheFirstChangeWhenALaterStatementFails) {
+  fixture::FixtureFile content = SmallCatalogue();
+  content.tables.pop_back();  // CustomCD
+  Open(content);
   frmProjectManager manager(platform, values, desk, nullptr);
   desk.pickedFolder = U("\\new");
-  ExecuteSql(*values.DbConnection, U("Drop table CustomCD"));
   dialogs.ExpectMessage(U("Web path not found please provide the path"), MessageAnswer::Yes);
   auto *cmdOpen = Control<QPushButton>(manager, U("cmdOpen"));
   EXPECT_NE(ErrorOf([&] { cmdOpen->click(); }), ErrorNumber::None);
   EXPECT_EQ(Column("Select * from Project where IdProject = 2", "Path"), QStringList{U("\\new")});
   EXPECT_EQ(desk.opened, QString());
 }
+
+INSTANTIATE_TEST_SUITE_P(Catalogues, ProjectRepairTest,
+                         testing::Values(CatalogueFormat::Sqlite, CatalogueFormat::Jet),
+                         [](const auto &format) {
+                           return format.param == CatalogueFormat::Jet ? "Jet" : "Sqlite";
+                         });
 
 }  // namespace
 }  // namespace velor

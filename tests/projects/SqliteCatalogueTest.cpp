@@ -104,11 +104,18 @@ TEST_F(SqliteCatalogue, AFileThatIsNoDatabaseIsRefusedUnchanged) {
   EXPECT_TRUE(Bytes().startsWith("<html>"));
 }
 
-TEST_F(SqliteCatalogue, OtherCatalogueFormatsAreNamed) {
-  Write(QByteArray("\0\1\0\0Standard Jet DB\0", 20) + QByteArray(4096, '\0'));
-  EXPECT_TRUE(Refusal().Description().contains(QStringLiteral("Jet")));
-  Write(QByteArray("\0\1\0\0Standard ACE DB\0", 20) + QByteArray(4096, '\0'));
-  EXPECT_TRUE(Refusal().Description().contains(QStringLiteral("accdb")));
+TEST_F(SqliteCatalogue, OtherCatalogueFormatsAreNamedWithWhatToDo) {
+  const auto header = [](const char *engine, char version) {
+    return QByteArray("\0\1\0\0", 4) + engine + '\0' + version + QByteArray(8192, '\0');
+  };
+  Write(header("Standard Jet DB", 0));
+  const QString older = Refusal().Description();
+  EXPECT_TRUE(older.contains(QStringLiteral("Jet 3"))) << older.toStdString();
+  EXPECT_TRUE(older.contains(QStringLiteral("onvert"))) << older.toStdString();
+  Write(header("Standard ACE DB", 2));
+  const QString newer = Refusal().Description();
+  EXPECT_TRUE(newer.contains(QStringLiteral("accdb"))) << newer.toStdString();
+  EXPECT_TRUE(newer.contains(QStringLiteral("save it in the format"))) << newer.toStdString();
 }
 
 TEST_F(SqliteCatalogue, ADamagedFileIsRefused) {
@@ -195,6 +202,18 @@ TEST_F(SqliteCatalogue, AReadOnlyFileIsReadAndRefusesChanges) {
       Column(QStringLiteral("Select * from Project where IdProject = '12'"), QStringLiteral("Name"))
           .size(),
       1);
+}
+
+TEST_F(SqliteCatalogue, RunsOneStatementAtATime) {
+  MakeCatalogue();
+  Open();
+  const QString two = QStringLiteral("Update Page set TPath = 'x'; Drop table Page");
+  EXPECT_EQ(ErrorOf([&] { connection_.Execute(two, -1); }), ErrorNumber::InvalidProcedureCall);
+  EXPECT_EQ(ErrorOf([&] { connection_.Execute(QStringLiteral(" "), -1); }),
+            ErrorNumber::InvalidProcedureCall);
+  EXPECT_EQ(
+      Column(QStringLiteral("Select * from Page where PageId = 7; "), QStringLiteral("TPath")),
+      QStringList{QStringLiteral("\\old")});
 }
 
 TEST_F(SqliteCatalogue, NumbersTooLargeForAnIntegerStayWhole) {

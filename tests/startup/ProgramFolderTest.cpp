@@ -30,7 +30,7 @@ class ProgramFolder : public ::testing::Test {
   void MakeBinReadOnly() { QFile::setPermissions(Bin(), QFile::ReadOwner | QFile::ExeOwner); }
   void InstallSampleMaker() {
     ASSERT_TRUE(QFile::copy(QStringLiteral(VELOR_SAMPLE_MAKER),
-                            Bin() + QStringLiteral("/velor-make-sample")));
+                            Bin() + QStringLiteral("/velor-sample-site")));
   }
 
   QTemporaryDir folder_;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The real executable in a program folder of its own: what it leaves on disk, and how it ends.
+#include "platform/DriveMap.h"
 #include "tests/support/Checks.h"
-#include "tools/make-sample/SampleMaker.h"
+#include "tools/sample-site/SampleMaker.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -104,6 +106,18 @@ TEST_F(Program, AnEmptyLocationFileEndsItWithAReport) {
 TEST_F(Program, ALocationFileThatCannotBeWrittenEndsItWithAReport) {
   QDir().mkdir(Native(QStringLiteral("SiteConfig.ini")));
   EXPECT_TRUE(ReportAfterFailure().contains("SiteConfig.ini"));
+}
+
+TEST_F(Program, ADriveMapThatCannotBeUnderstoodEndsItWithAReportOfTheLine) {
+  QDir().mkpath(QFileInfo(DriveMapFile()).path());
+  QFile map(DriveMapFile());
+  ASSERT_TRUE(map.open(QIODevice::WriteOnly));
+  map.write("C: /home/me/windows\nD = elsewhere\n");
+  map.close();
+  const QByteArray report = ReportAfterFailure();
+  map.remove();
+  EXPECT_TRUE(report.contains("drives.conf, line 2")) << report.constData();
+  EXPECT_FALSE(QFile::exists(Native(QStringLiteral("SiteConfig.ini"))));
 }
 
 }  // namespace

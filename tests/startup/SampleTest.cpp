@@ -3,11 +3,14 @@
 #include "platform/Paths.h"
 #include "platform/sqlite/SqliteConnection.h"
 #include "tests/support/Checks.h"
-#include "tools/make-sample/SampleMaker.h"
+#include "tools/sample-site/SampleMaker.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -55,6 +58,37 @@ TEST_F(Sample, HasACatalogueAnImageFolderAndGeneratedProjects) {
                          QStringLiteral("Garden Notes"), QStringLiteral("The Lighthouse")}));
 }
 
+TEST_F(Sample, EveryPictureThatAPageShowsIsThere) {
+  static const QRegularExpression source(QStringLiteral("<img src=\"([^\"]+)\""));
+  int pictures = 0;
+  QDirIterator pages(Native(QStringLiteral("Sites")), {QStringLiteral("*.htm")}, QDir::Files,
+                     QDirIterator::Subdirectories);
+  while (pages.hasNext()) {
+    QFile page(pages.next());
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    auto matches = source.globalMatch(QString::fromLatin1(page.readAll()));
+    while (matches.hasNext()) {
+      const QString file = QFileInfo(page.fileName()).dir().filePath(matches.next().captured(1));
+      EXPECT_FALSE(QImage(file).isNull()) << file.toStdString();
+      ++pictures;
+    }
+  }
+  EXPECT_EQ(pictures, 5);
+  for (const QString &file : QDir(Native(QStringLiteral("eImages"))).entryList(QDir::Files)) {
+    EXPECT_FALSE(QImage(Native(QStringLiteral("eImages/") + file)).isNull()) << file.toStdString();
+  }
+}
+
+TEST_F(Sample, EveryProjectHasAHomePageAndOthers) {
+  const QStringList pages = Rows(QStringLiteral("Select * from Page Order by PageId"),
+                                 {QStringLiteral("ProjectId"), QStringLiteral("PageName")});
+  for (const char *project : {"1", "2", "3"}) {
+    const QStringList own = pages.filter(QRegularExpression(u'^' + QString::fromLatin1(project)));
+    EXPECT_GE(own.size(), 3) << project;
+    EXPECT_EQ(own.value(0), QString::fromLatin1(project) + QStringLiteral("Home"));
+  }
+}
+
 TEST_F(Sample, EveryPageOfAProjectThatHasNotMovedIsThere) {
   const QStringList pages = Rows(QStringLiteral("Select * from Page where ProjectId in ('1', '2')"),
                                  {QStringLiteral("TPath"), QStringLiteral("Path")});
@@ -75,11 +109,18 @@ TEST_F(Sample, OneProjectsFolderHasMoved) {
   ASSERT_EQ(paths.size(), 1);
   EXPECT_FALSE(QFileInfo::exists(ToNative(paths.first())));
   EXPECT_TRUE(QFileInfo(Native(QStringLiteral("Sites/Lighthouse/Index.htm"))).isFile());
+  for (const QString &page :
+       Rows(QStringLiteral("Select * from Page where ProjectId = '3'"), {QStringLiteral("Path")})) {
+    EXPECT_TRUE(QFileInfo(Native(QStringLiteral("Sites/Lighthouse")) + ToNative(page)).isFile());
+  }
 }
 
 TEST_F(Sample, HasPagesInOlderCharacterSets) {
   EXPECT_TRUE(Bytes(QStringLiteral("Sites/OldTown/Files/TeaHouse.htm")).contains("charset=big5"));
   EXPECT_TRUE(Bytes(QStringLiteral("Sites/OldTown/Files/Market.htm")).contains("jam\xF3n"));
+  EXPECT_TRUE(
+      Bytes(QStringLiteral("Sites/Lighthouse/Files/Visitors.htm")).contains("charset=koi8-r"));
+  EXPECT_TRUE(Bytes(QStringLiteral("Sites/Lighthouse/Files/Keepers.htm")).contains("\xA3ukasz"));
 }
 
 TEST_F(Sample, ASecondRunKeepsWhatThePersonHasEditedAndBringsBackWhatIsGone) {

@@ -287,6 +287,17 @@ TEST_F(EntryProcedure, AConnectionThatIsThereAlreadyIsUsed) {
   EXPECT_EQ(existing->State(), ObjectState::Open);
 }
 
+TEST_F(EntryProcedure, WhatOpeningTheDatabaseBroughtAboutIsSaid) {
+  PutDatabaseBesideTheProgram();
+  PutImagesBesideTheProgram();
+  database_.notice = QStringLiteral("An interrupted change was taken back.");
+  dialogs_.ExpectMessage(database_.notice, MessageAnswer::Ok);
+  EXPECT_EQ(Start(), std::nullopt);
+  ASSERT_EQ(dialogs_.messages.size(), 1u);
+  EXPECT_EQ(dialogs_.messages[0].icon, MessageIcon::Information);
+  EXPECT_TRUE(MainWindowLoaded());
+}
+
 TEST_F(EntryProcedure, ADatabaseThatCannotBeOpenedStopsBeforeTheImageFolder) {
   PutDatabaseBesideTheProgram();
   database_.openFailure = RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("test"));

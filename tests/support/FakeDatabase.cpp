@@ -64,14 +64,33 @@ class FakeRecordset final : public Recordset {
     ++row_;
   }
 
-  QVariant Value(const QString &column) const override {
-    CheckRow();
-    return rows_.rows[row_][IndexOf(column)];
+  QStringList ColumnNames() const override {
+    CheckOpen();
+    QStringList names;
+    for (const FakeRows::Column &column : rows_.columns) names.append(column.name);
+    return names;
   }
 
-  ColumnType Type(const QString &column) const override {
+  int ColumnIndex(const QString &column) const override {
     CheckOpen();
-    return rows_.columns[IndexOf(column)].type;
+    for (std::size_t index = 0; index < rows_.columns.size(); ++index) {
+      if (rows_.columns[index].name.compare(column, Qt::CaseInsensitive) == 0) {
+        return static_cast<int>(index);
+      }
+    }
+    Fail(ErrorNumber::ElementNotFound, column);
+  }
+
+  QVariant ValueAt(int columnIndex) const override {
+    CheckRow();
+    CheckColumn(columnIndex);
+    return rows_.rows[row_][static_cast<std::size_t>(columnIndex)];
+  }
+
+  ColumnType TypeAt(int columnIndex) const override {
+    CheckOpen();
+    CheckColumn(columnIndex);
+    return rows_.columns[static_cast<std::size_t>(columnIndex)].type;
   }
 
  private:
@@ -83,11 +102,10 @@ class FakeRecordset final : public Recordset {
     if (EndOfFile()) Fail(ErrorNumber::InputPastEnd, QStringLiteral("past the last row"));
   }
 
-  std::size_t IndexOf(const QString &column) const {
-    for (std::size_t index = 0; index < rows_.columns.size(); ++index) {
-      if (rows_.columns[index].name.compare(column, Qt::CaseInsensitive) == 0) return index;
+  void CheckColumn(int index) const {
+    if (index < 0 || static_cast<std::size_t>(index) >= rows_.columns.size()) {
+      Fail(ErrorNumber::SubscriptOutOfRange, QStringLiteral("no such column"));
     }
-    Fail(ErrorNumber::ElementNotFound, column);
   }
 
   FakeDatabase &database_;
@@ -113,6 +131,8 @@ class FakeConnection final : public DatabaseConnection {
   }
 
   ObjectState State() const override { return state_; }
+
+  QString Notice() const override { return database_.notice; }
 
   void Execute(const QString &statement, int options) override {
     Note(database_.log_, QStringLiteral("Execute(%1, %2)").arg(statement).arg(options));

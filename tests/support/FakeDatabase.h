@@ -36,6 +36,8 @@ class FakeDatabase {
   std::map<QString, RuntimeError> failures;
   /// Raised by the next Open of a connection.
   std::optional<RuntimeError> openFailure;
+  /// What opening has to tell.
+  QString notice;
 
   // What tests read.
   std::vector<QString> statements;  ///< every statement, queried or executed, in order

@@ -7,5 +7,5 @@ top=$(cd "$(dirname "$0")/../.." && pwd)
 rm -rf "$2"
 mkdir -p "$2"
 cp "$1"/velor-* "$2/"
-"$2/velor-make-sample" "$2"
+"$2/velor-sample-site" "$2"
 exec "$top/tools/tour/run-tour.sh" "$2" "$3"

@@ -63,6 +63,9 @@ def main(run_folder, out, palette, scale):
         program.key("ctrl+h")
         program.type("meta")
         program.shot(name + "9-source-editor")
+        program.click_on("Project Manager")
+        program.wait("Select the Project and open it.", "label")
+        program.shot(name + "10-project-manager")
     finally:
         program.kill()
         shutil.rmtree(scratch, ignore_errors=True)

@@ -9,6 +9,7 @@ changed. OUT_FOLDER receives the screenshots and the saved pages.
 import os
 import shutil
 import stat
+import subprocess
 import sys
 import tempfile
 
@@ -17,6 +18,7 @@ from desktop import Atspi, Program, TourError, file_text, wait_for
 MENU = "menu item"
 TAB = "page tab"
 DIALOG = "dialog|alert|file chooser"
+WINDOW = "dialog|frame|window"
 
 
 def step(text):
@@ -30,6 +32,7 @@ def check(condition, what):
 
 class Tour:
     def __init__(self, run_folder, out):
+        self.run_folder = run_folder
         self.out = out
         self.scratch = tempfile.mkdtemp(prefix="velor-tour-")
         self.folder = os.path.join(self.scratch, "program")
@@ -42,7 +45,8 @@ class Tour:
         self.program = None
 
     def start(self):
-        self.program = Program(self.executable, self.folder, self.settings, self.out)
+        self.program = Program(self.executable, self.folder, self.settings, self.out,
+                               {"HOME": self.folder})
         self.program.size_window(1280, 860)
 
     # Small moves that every scenario uses.
@@ -53,13 +57,18 @@ class Tour:
         self.program.key("ctrl+n")
         self.tab(caption)
 
-    def name_in_dialog(self, path, title=None):
-        """Types a path into the file dialog in front, or the one of that title, and accepts it."""
+    def name_in_dialog(self, path, title=None, replace=False):
+        """Types a path into the file dialog in front, or the one of that title, and accepts it, the
+        question about a file that is there already too."""
         box = self.program.wait(role="text", within=self.program.wait(title, DIALOG))
         wait_for(lambda: Program.has_state(box, Atspi.StateType.FOCUSED), "the name box's focus")
         self.program.key("ctrl+a")
         self.program.type(path)
         self.program.key("Return")
+        if replace:
+            wait_for(lambda: self.program.find(f"{os.path.basename(path)} already exists.\nDo you want to replace it?"),
+                     "the question about the file that is there")
+            self.program.key("alt+y")
         wait_for(lambda: self.program.find(title, DIALOG) is None, "the file dialog to close")
 
     def save_as(self, path):
@@ -362,6 +371,57 @@ class Tour:
         wait_for(lambda: "Unsaved" in file_text(path), "the edit on disk")
         program.key("ctrl+F4")
         program.wait_gone("first.htm", TAB)
+    def catalogue(self, statement):
+        """The rows of a statement on the catalogue, without the header line."""
+        tool = os.path.join(self.run_folder, "velor-catalogue")
+        output = subprocess.run([tool, os.path.join(self.folder, "eThumbs.mdb"), statement],
+                                check=True, capture_output=True, text=True).stdout
+        return output.splitlines()[1:]
+
+    def a_project_that_moved_is_found_again_and_edited(self):
+        step("a project's moved folder is asked for, written into the catalogue, its home page edited")
+        # A program of its own: the tab of a page that is saved is found by the page's number.
+        self.start()
+        program = self.program
+        program.click_on("Project Manager")
+        manager = program.wait("Web Site Project Manager", WINDOW)
+        program.shot("07-project-manager")
+        rows = program.wait("Select the Project and open it.", "tree|table|tree table", manager)
+        wait_for(lambda: Program.has_state(rows, Atspi.StateType.FOCUSED), "the list's focus")
+        program.key("End", "Return")
+        program.wait("Web path not found please provide the path", "label")
+        program.shot("08-moved-site")
+        program.key("alt+y")
+        picker = program.wait("Select Folder", WINDOW)
+        tree = program.wait("Folder", "tree|table|tree table", picker)
+        wait_for(lambda: Program.has_state(tree, Atspi.StateType.FOCUSED), "the folder list's focus")
+        # The picker begins at the home folder, which is the program folder here.
+        program.key("End", "Right", "Right", "Down")
+        chosen = program.wait("Lighthouse", "tree item|table cell", picker)
+        wait_for(lambda: Program.has_state(chosen, Atspi.StateType.SELECTED), "the site's folder to be chosen")
+        program.shot("09-folder-picker")
+        program.key("Return")
+        self.tab("Home.htm")
+        folder = os.path.join(self.folder, "Sites", "Lighthouse")
+        logic = folder.replace("/", "\\")
+        for statement in ("Select Path from Project where IdProject = '3'",
+                          "Select distinct TPath from Page where ProjectId = '3'",
+                          "Select PPath from CustomCD where ProjectId = '3'"):
+            check(self.catalogue(statement) == [logic],
+                  f"{statement} gives {self.catalogue(statement)}, not {logic}")
+        others = self.catalogue("Select Path from Project where IdProject <> '3'")
+        check(logic not in others and len(others) == 2, f"other projects were changed: {others}")
+
+        home = os.path.join(folder, "Files", "Home.htm")
+        program.key("ctrl+Home")
+        program.type("See ")
+        # The first save of a project's page asks for its name.
+        program.key("ctrl+s")
+        self.name_in_dialog(home, replace=True)
+        wait_for(lambda: "See The Lighthouse</h1>" in file_text(home), "the edited home page")
+        for kept in ('charset=utf-8', '<img src="Images/lighthouse.png"', '<a href="Keepers.htm">The keepers</a>'):
+            check(kept in file_text(home), f"{kept} is no longer in the home page")
+        program.shot("10-project-page")
 
     def exit_ends_everything(self):
         step("exit ends the program without questions and leaves no temporary copy")
@@ -386,6 +446,8 @@ class Tour:
                              self.closing_asks,
                              self.the_preview_walks_through_pages,
                              self.pictures_and_tables_are_inserted,
+                             self.exit_ends_everything,
+                             self.a_project_that_moved_is_found_again_and_edited,
                              self.exit_ends_everything):
                 scenario()
         except Exception:

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace velor::bench {
+
+// Figures that need a process of their own run this program again with the name of a figure that
+// begins with "child-"; it says when it is ready and then waits to be ended.
+
+/// Milliseconds from the start of a child to its word.
+double TimeToReady(const QString &figure);
+
+/// Proportional set size of a child that is ready and of all its descendants, in MB.
+double MemoryOf(const QString &figure);
+
+/// The child's side.
+void TellReadyAndWait();
+
+}  // namespace velor::bench

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Catalogues of another machine, whose drives are folders here.
+#include "chrome/FrmFld.h"
+#include "platform/Paths.h"
+#include "platform/Platform.h"
+#include "platform/ProgramValues.h"
+#include "platform/qt/QtFiles.h"
+#include "platform/sqlite/SqliteConnection.h"
+#include "projects/ProjectHost.h"
+#include "projects/RecordsetReader.h"
+#include "projects/frmProjectManager.h"
+#include "tests/support/CatalogueFiles.h"
+#include "tests/support/Checks.h"
+#include "tests/support/FakeComponents.h"
+#include "tests/support/FakeDialogs.h"
+#include "tests/support/FakeRegistry.h"
+#include "tests/support/FakeRuntime.h"
+#include "tests/support/Forms.h"
+#include "tests/support/MappedDrives.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+namespace velor {
+namespace {
+
+QString U(const char *text) {
+  return QString::fromUtf8(text);
+}
+
+/// A main window that picks folders with the real picker.
+class PickingDesk final : public ProjectHost {
+ public:
+  explicit PickingDesk(ProgramValues &values) : values_(values) {}
+  QString opened;
+  /// Native form.
+  QString folderToPick;
+
+  void ClearTabs() override {}
+  void ClearPageChooser() override {}
+  void AddChooserPage(const QString &, std::int32_t) override {}
+  int DocumentCount() const override { return 0; }
+  void UnloadDocument(int) override {}
+  void OpenProjectPage(const QString &path) override { opened = path; }
+  void PickProjectFolder() override {
+    FrmFld picker(values_);
+    picker.ForProject = true;
+    picker.SelectFolder(folderToPick);
+    picker.accept();
+  }
+
+ private:
+  ProgramValues &values_;
+};
+
+class MappedDrive : public testing::TestWithParam<CatalogueFormat> {
+ protected:
+  MappedDrive() {
+    fixture::FixtureFile content = SmallCatalogue();
+    content.tables[0].rows[1].cells[2] = U("C:\\Sites\\Shop");
+    for (int page : {0, 1}) content.tables[1].rows[page].cells[3] = U("C:\\Sites\\Shop");
+    content.tables[2].rows[1].cells[1] = U("C:\\Sites\\Shop");
+    WriteCatalogue(File(), GetParam(), content);
+    values.DbConnection = std::make_unique<SqliteConnection>();
+    values.DbConnection->Open(U("Data Source=") + ToLogic(File()), {}, {}, -1);
+  }
+
+  QString File() const { return folder.filePath(U("eThumbs.mdb")); }
+  QString Native(const char *name) const { return folder.filePath(U(name)); }
+
+  void MakeSite(const char *name) {
+    QDir().mkpath(Native(name));
+    QFile index(Native(name) + U("/Index.htm"));
+    EXPECT_TRUE(index.open(QIODevice::WriteOnly));
+  }
+
+  /// The oldest project, 2, is the list's first.
+  void OpenProject() {
+    frmProjectManager manager(platform, values, desk, nullptr);
+    Control<QPushButton>(manager, U("cmdOpen"))->click();
+  }
+
+  QStringList Folders(const char *statement) {
+    const auto records = values.DbConnection->CreateRecordset();
+    OpenRecordset(*records, U(statement), *values.DbConnection);
+    QStringList texts;
+    for (; !records->EndOfFile(); records->MoveNext()) texts << records->ValueAt(0).toString();
+    return texts;
+  }
+
+  QTemporaryDir folder;
+  QtFiles files;
+  FakeRuntime runtime;
+  FakeDialogs dialogs;
+  FakeRegistry registry;
+  FakeComponents components{files};
+  Platform platform{files, runtime, dialogs, registry, components};
+  ProgramValues values;
+  PickingDesk desk{values};
+};
+
+TEST_P(MappedDrive, OpensAProjectWithoutARepair) {
+  MakeSite("windows/sites/shop");
+  const MappedDrives drives(U("C: ") + Native("windows"));
+  OpenProject();
+  EXPECT_EQ(desk.opened, U("C:\\Sites\\Shop\\Files\\Home.htm"));
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_P(MappedDrive, WritesAFolderOnTheDriveAsTheOtherMachineKnowsIt) {
+  MakeSite("windows/Moved/Shop");
+  const MappedDrives drives(U("C: ") + Native("windows"));
+  desk.folderToPick = Native("windows/Moved/Shop");
+  dialogs.ExpectMessage(U("Web path not found please provide the path"), MessageAnswer::Yes);
+  OpenProject();
+  const QString moved = U("C:\\Moved\\Shop");
+  EXPECT_EQ(Folders("Select Path from Project where IdProject = '2'"), QStringList{moved});
+  EXPECT_EQ(Folders("Select distinct TPath from Page where ProjectId = '2'"), QStringList{moved});
+  EXPECT_EQ(Folders("Select PPath from CustomCD where ProjectId = '2'"), QStringList{moved});
+  EXPECT_EQ(desk.opened, moved + U("\\Files\\Home.htm"));
+}
+
+TEST_P(MappedDrive, AsksWhereTheDriveIsUnknown) {
+  MakeSite("windows/sites/shop");
+  dialogs.ExpectMessage(U("Web path not found please provide the path"), MessageAnswer::No);
+  OpenProject();
+  EXPECT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(desk.opened, QString());
+}
+
+INSTANTIATE_TEST_SUITE_P(Catalogues, MappedDrive,
+                         testing::Values(CatalogueFormat::Sqlite, CatalogueFormat::Jet),
+                         [](const auto &format) {
+                           return format.param == CatalogueFormat::Jet ? "Jet" : "Sqlite";
+                         });
+
+}  // namespace
+}  // namespace velor
