@@ -14,6 +14,8 @@ class HouseStyle final : public QProxyStyle {
  public:
   /// A toolbar with this property set lies on a larger band and draws no line below itself.
   static constexpr const char *OnBand = "velorOnBand";
+  /// A control with this property set has a flat painter, which draws its edges.
+  static constexpr const char *Flat = "velorFlat";
 
   HouseStyle();
 
