@@ -8,7 +8,7 @@ namespace velor {
 /// Fusion drawn calmer: flat fields, hairlines instead of bevels, round corners under the pointer,
 /// room around the icons, our own pictures in message boxes. Where things lie within a control
 /// stays Fusion's business.
-class HouseStyle final : public QProxyStyle {
+class HouseStyle : public QProxyStyle {
   Q_OBJECT
 
  public:

@@ -20,11 +20,9 @@ namespace {
 constexpr std::uint32_t SystemColorFlag = 0x80000000;
 
 /// Qt's own parts of a scrolling area belong to its window.
-QWidget &ControlOf(QWidget &widget) {
-  QWidget *above = widget.parentWidget();
-  const auto *area = qobject_cast<QAbstractScrollArea *>(above);
-  if (area && area->viewport() == &widget) return *above;
-  return widget;
+const QWidget &ControlOf(const QWidget &widget) {
+  const auto *area = qobject_cast<const QAbstractScrollArea *>(widget.parentWidget());
+  return area && area->viewport() == &widget ? *area : widget;
 }
 
 PixelPoint PointOf(const QPoint &point) {
@@ -34,14 +32,19 @@ PixelPoint PointOf(const QPoint &point) {
 }  // namespace
 
 WindowHandle QtWindowSystem::HandleOf(QWidget &widget) {
-  QWidget &control = ControlOf(widget);
-  const WindowHandle known = control.property(HandleProperty).toInt();
-  if (known != 0 && Find(known) == &control) return known;
+  if (const WindowHandle known = KnownHandle(widget)) return known;
+  auto &control = const_cast<QWidget &>(ControlOf(widget));
   const WindowHandle fresh = ++lastHandle_;
   control.setProperty(HandleProperty, fresh);
   widgets_.insert(fresh, &control);
   connect(&control, &QObject::destroyed, this, [this, fresh] { Forget(fresh); });
   return fresh;
+}
+
+WindowHandle QtWindowSystem::KnownHandle(const QWidget &widget) const {
+  const QWidget &control = ControlOf(widget);
+  const WindowHandle known = control.property(HandleProperty).toInt();
+  return known != 0 && Find(known) == &control ? known : 0;
 }
 
 std::int32_t QtWindowSystem::SendMessage(WindowHandle window, std::int32_t message) {

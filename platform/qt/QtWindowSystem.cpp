@@ -109,7 +109,7 @@ void QtWindowSystem::Deliver(const Notice &notice, MsgResponse stage) {
 }
 
 void QtWindowSystem::BringDropDownClosed(const QWidget &combo) {
-  const WindowHandle window = combo.property(HandleProperty).toInt();
+  const WindowHandle window = KnownHandle(combo);
   for (const WindowHandle told : {window, Parent(window)}) {
     Bring({told, Messages::Command, Messages::DropDownClosed * 65536, window});
   }
@@ -122,7 +122,8 @@ bool QtWindowSystem::eventFilter(QObject *object, QEvent *event) {
     if (event->type() == QEvent::Hide) BringDropDownClosed(*combo);
     return false;
   }
-  const WindowHandle window = HandleOf(*widget);
+  const WindowHandle window = KnownHandle(*widget);
+  if (window == 0) return false;
   switch (event->type()) {
     case QEvent::Paint:
       // A viewport paints for itself.
@@ -144,7 +145,7 @@ bool QtWindowSystem::eventFilter(QObject *object, QEvent *event) {
 }
 
 void QtWindowSystem::PaintOnTop(QWidget &widget, QEvent *event) {
-  const WindowHandle window = HandleOf(widget);
+  const WindowHandle window = KnownHandle(widget);
   const QScopedValueRollback<WindowHandle> painting(painting_, window);
   Deliver({window, Messages::Paint}, MsgResponse::Preprocess);
   {

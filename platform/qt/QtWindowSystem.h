@@ -91,6 +91,8 @@ class QtWindowSystem final : public QObject, public WindowSystem {
   using TimerKey = std::pair<WindowHandle, std::int32_t>;
 
   QWidget *Find(WindowHandle window) const { return widgets_.value(window); }
+  /// 0 for a widget that was never asked about, or that is being destroyed.
+  WindowHandle KnownHandle(const QWidget &widget) const;
   bool IsHooked(WindowHandle window, std::int32_t message) const;
   /// Sees the events of the widget from now on.
   void Watch(QWidget &widget);
