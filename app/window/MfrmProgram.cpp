@@ -262,7 +262,7 @@ void MfrmProgram::ShowProjectManager() {
 }
 
 void MfrmProgram::ShowAbout() {
-  frmAbout about(this);
+  frmAbout about(platform_.runtime, this);
   platform_.dialogs.RunModal(about);
 }
 
