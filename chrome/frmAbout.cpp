@@ -9,7 +9,9 @@
 #include <QDir>
 #include <QEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
 #include <QTimerEvent>
@@ -42,6 +44,48 @@ QLabel *NewQuietLabel(const char *name, const QString &text) {
   label->setForegroundRole(QPalette::PlaceholderText);
   return label;
 }
+
+/// A link in one piece: a click, Enter or Space follows it, Tab reaches it, and it shows that.
+class MailLink final : public QLabel {
+ public:
+  MailLink() : QLabel(MailAddress) {
+    setObjectName(QStringLiteral("lblMail_To"));
+    setForegroundRole(QPalette::Link);
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    QFont underlined = font();
+    underlined.setUnderline(true);
+    setFont(underlined);
+  }
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent *event) override {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) Follow();
+  }
+  void keyPressEvent(QKeyEvent *event) override {
+    switch (event->key()) {
+      case Qt::Key_Return:
+      case Qt::Key_Enter:
+      case Qt::Key_Space:
+        Follow();
+        break;
+      default:
+        QLabel::keyPressEvent(event);
+    }
+  }
+  void focusInEvent(QFocusEvent *) override { update(); }
+  void focusOutEvent(QFocusEvent *) override { update(); }
+  void paintEvent(QPaintEvent *event) override {
+    QLabel::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+
+ private:
+  void Follow() { Q_EMIT linkActivated(QStringLiteral("mailto:") + MailAddress); }
+};
 
 }  // namespace
 
@@ -110,12 +154,9 @@ QWidget *frmAbout::BuildHead() {
 
 QWidget *frmAbout::BuildFoot() {
   auto *foot = new QWidget;
-  QLabel *mail =
-      NewLabel("lblMail_To",
-               QStringLiteral("<a href=\"mailto:%1\">%1</a>").arg(MailAddress.toHtmlEscaped()));
-  mail->setAccessibleName(MailAddress);
-  mail->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-  connect(mail, &QLabel::linkActivated, this, &frmAbout::WriteToMaker);
+  auto *mail = new MailLink;
+  mail->setMargin(2);
+  connect(mail, &QLabel::linkActivated, this, &frmAbout::WriteTo);
   auto *close = new QDialogButtonBox(QDialogButtonBox::Close);
   connect(close, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
@@ -166,11 +207,10 @@ void frmAbout::Play() {
   if (animation_.Pass(runtime_.SecondsSinceMidnight())) Thumbing->update();
 }
 
-void frmAbout::WriteToMaker() {
+void frmAbout::WriteTo(const QString &link) {
   const BusyCursor busy(runtime_);
   try {
-    runtime_.ShellExecute(QStringLiteral("Open"), QStringLiteral("mailto:") + MailAddress,
-                          QDir::currentPath());
+    runtime_.ShellExecute(QStringLiteral("Open"), link, QDir::currentPath());
   } catch (const std::exception &) {
     // The address can be read; nothing more is promised.
   }

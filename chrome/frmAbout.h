@@ -31,7 +31,7 @@ class frmAbout final : public QDialog {
   QWidget *BuildHead();
   QWidget *BuildFoot();
   void Play();
-  void WriteToMaker();
+  void WriteTo(const QString &link);
 
   Runtime &runtime_;
   AboutAnimation animation_;
