@@ -19,6 +19,8 @@ constexpr int BesideIconPadding = 6;
 /// What the flat painter's rings take of a combo box and of a button, on every side.
 constexpr int ComboRings = 2;
 constexpr int ButtonRings = 3;
+/// Between a group's title and its frame.
+constexpr int TitleSpace = 3;
 /// The line below the text of a flat combo box that has the keyboard.
 constexpr int FocusLine = 2;
 
@@ -149,6 +151,34 @@ void DrawFlatCombo(const QStyleOptionComplex *option, QPainter *painter, int but
   DrawComboArrow(option, painter, button);
 }
 
+void DrawHairlineFrame(const QStyleOption *option, QPainter *painter) {
+  painter->save();
+  painter->setPen(Hairline(option->palette));
+  painter->setBrush(Qt::NoBrush);
+  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  painter->restore();
+}
+
+/// A tab on top of its pages: the one in front is open towards them and carries a coloured line,
+/// the others are words alone.
+void DrawTab(const QStyleOptionTab *tab, QPainter *painter) {
+  const bool inFront = tab->state & QStyle::State_Selected;
+  const bool enabled = tab->state & QStyle::State_Enabled;
+  const QRect area = tab->rect;
+  if (!inFront) {
+    if (enabled && (tab->state & QStyle::State_MouseOver)) {
+      FillRounded(painter, area.adjusted(2, 3, -2, -3), HoverField(tab->palette));
+    }
+    return;
+  }
+  painter->fillRect(area, tab->palette.window());
+  const QColor line = Hairline(tab->palette);
+  painter->fillRect(area.left(), area.top(), 1, area.height(), line);
+  painter->fillRect(area.right(), area.top(), 1, area.height(), line);
+  painter->fillRect(area.left(), area.top(), area.width(), FocusLine,
+                    enabled ? tab->palette.highlight() : QBrush(line));
+}
+
 void DrawToolBar(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
   painter->fillRect(option->rect, option->palette.window());
   if (widget && widget->property(HouseStyle::OnBand).toBool()) return;
@@ -200,6 +230,16 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
     case PE_IndicatorToolBarSeparator:
       DrawSeparator(option, painter);
       return;
+    case PE_FrameGroupBox: {
+      QStyleOption belowTitle(*option);
+      belowTitle.rect.adjust(0, option->fontMetrics.height() + TitleSpace, 0, 0);
+      DrawHairlineFrame(&belowTitle, painter);
+      return;
+    }
+    case PE_FrameTabWidget:
+    case PE_Frame:
+      DrawHairlineFrame(option, painter);
+      return;
     case PE_FrameStatusBarItem:
     case PE_PanelMenuBar:
       return;
@@ -225,6 +265,13 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption *option,
         QStyleOptionToolButton inset(*button);
         inset.rect.adjust(BesideIconPadding, 0, -BesideIconPadding, 0);
         QProxyStyle::drawControl(element, &inset, painter, widget);
+        return;
+      }
+      break;
+    case CE_TabBarTabShape:
+      if (const auto *tab = qstyleoption_cast<const QStyleOptionTab *>(option);
+          tab && tab->shape == QTabBar::RoundedNorth) {
+        DrawTab(tab, painter);
         return;
       }
       break;

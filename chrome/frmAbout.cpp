@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <QTimer>
 #include <QTimerEvent>
 #include <QVBoxLayout>
@@ -159,6 +160,7 @@ QWidget *frmAbout::BuildFoot() {
   connect(mail, &QLabel::linkActivated, this, &frmAbout::WriteTo);
   auto *close = new QDialogButtonBox(QDialogButtonBox::Close);
   connect(close, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  close->button(QDialogButtonBox::Close)->setFocus();
 
   auto *grid = new QGridLayout(foot);
   grid->setContentsMargins(Margin, Margin - RidgeDistance, Margin, Margin - RidgeDistance);

@@ -144,6 +144,17 @@ class Program:
     def click(self, x, y, button=1):
         run("xdotool", "mousemove", str(x), str(y), "click", str(button))
 
+    def move(self, x, y):
+        run("xdotool", "mousemove", str(x), str(y))
+
+    def button(self, number):
+        run("xdotool", "click", str(number))
+
+    def hover(self, node):
+        """Puts the pointer on a control, where a person would."""
+        place = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
+        self.move(place.x + place.width // 2, place.y + place.height // 2)
+
     def visible_windows(self):
         """The windows of the program on the screen; pop-up menus are windows too."""
         return subprocess.run(["xdotool", "search", "--onlyvisible", "--class",
