@@ -3,6 +3,7 @@
 
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
+#include "platform/WindowSystem.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -15,6 +16,22 @@ namespace {
 
 /// Room left and right of a button's picture and text.
 constexpr int BesideIconPadding = 6;
+/// What the flat painter's rings take of a combo box and of a button, on every side.
+constexpr int ComboRings = 2;
+constexpr int ButtonRings = 3;
+/// Between a group's title and its frame.
+constexpr int TitleSpace = 3;
+/// The line below the text of a flat combo box that has the keyboard.
+constexpr int FocusLine = 2;
+
+bool IsFlat(const QWidget *widget) {
+  return widget && widget->property(HouseStyle::Flat).toBool();
+}
+
+bool HasThinEdge(const QWidget *widget) {
+  return widget &&
+         (widget->property(ExtendedStyleProperty).toInt() & WindowBits::ExtendedStaticEdge) != 0;
+}
 
 void FillRounded(QPainter *painter, const QRect &rect, const QColor &color) {
   painter->save();
@@ -38,10 +55,11 @@ void DrawButtonField(const QStyleOption *option, QPainter *painter) {
 }
 
 /// The field and edge of boxes and push buttons; the edge tells the keyboard's place.
-void DrawBox(const QStyleOption *option, QPainter *painter, const QColor &field) {
+void DrawBox(const QStyleOption *option, QPainter *painter, const QWidget *widget,
+             const QColor &field) {
   const QPalette &palette = option->palette;
   const bool enabled = option->state & QStyle::State_Enabled;
-  QColor edge = enabled ? BoxEdge(palette) : Hairline(palette);
+  QColor edge = enabled && !HasThinEdge(widget) ? BoxEdge(palette) : Hairline(palette);
   if (enabled && (option->state & QStyle::State_HasFocus)) {
     edge = palette.color(QPalette::Highlight);
   } else if (enabled && (option->state & QStyle::State_MouseOver)) {
@@ -56,12 +74,35 @@ void DrawBox(const QStyleOption *option, QPainter *painter, const QColor &field)
   painter->restore();
 }
 
-void DrawEntryBox(const QStyleOption *option, QPainter *painter) {
+QColor EntryField(const QStyleOption *option) {
   const bool enabled = option->state & QStyle::State_Enabled;
-  DrawBox(option, painter, option->palette.color(enabled ? QPalette::Base : QPalette::Window));
+  return option->palette.color(enabled ? QPalette::Base : QPalette::Window);
 }
 
-void DrawPushButton(const QStyleOption *option, QPainter *painter) {
+bool ShowsFocus(const QStyleOption *option) {
+  return (option->state & QStyle::State_Enabled) && (option->state & QStyle::State_HasFocus);
+}
+
+/// A field that its flat painter frames; inside it the keyboard's place has a frame of its own.
+void DrawFlatField(const QStyleOption *option, QPainter *painter, const QColor &field, int rings,
+                   const QColor &innerEdge) {
+  painter->fillRect(option->rect, field);
+  if (!innerEdge.isValid()) return;
+  painter->setPen(innerEdge);
+  painter->setBrush(Qt::NoBrush);
+  painter->drawRect(option->rect.adjusted(rings, rings, -rings - 1, -rings - 1));
+}
+
+void DrawEntryBox(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
+  if (IsFlat(widget)) {
+    DrawFlatField(option, painter, EntryField(option), 0,
+                  ShowsFocus(option) ? option->palette.color(QPalette::Highlight) : QColor());
+    return;
+  }
+  DrawBox(option, painter, widget, EntryField(option));
+}
+
+void DrawPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
   const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
   QStyleOption box(*option);
   if (button && (button->features & QStyleOptionButton::DefaultButton)) {
@@ -73,7 +114,13 @@ void DrawPushButton(const QStyleOption *option, QPainter *painter) {
   } else if ((option->state & QStyle::State_MouseOver) && (option->state & QStyle::State_Enabled)) {
     field = HoverField(option->palette);
   }
-  DrawBox(&box, painter, field);
+  if (IsFlat(widget)) {
+    QColor inner = ShowsFocus(&box) ? BoxEdge(option->palette) : QColor();
+    if (ShowsFocus(option)) inner = option->palette.color(QPalette::Highlight);
+    DrawFlatField(option, painter, field, ButtonRings, inner);
+    return;
+  }
+  DrawBox(&box, painter, widget, field);
 }
 
 void DrawComboArrow(const QStyleOptionComplex *option, QPainter *painter, const QRect &place) {
@@ -87,6 +134,49 @@ void DrawComboArrow(const QStyleOptionComplex *option, QPainter *painter, const 
   const QPointF tip = QRectF(place).center() + QPointF(0, 2);
   painter->drawPolyline(QPolygonF{{tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}});
   painter->restore();
+}
+
+/// A combo box that its flat painter frames, with a button as wide as the painter has it.
+void DrawFlatCombo(const QStyleOptionComplex *option, QPainter *painter, int buttonWidth) {
+  const QRect inside = option->rect.adjusted(ComboRings, ComboRings, -ComboRings, -ComboRings);
+  QRect button = inside;
+  button.setLeft(inside.right() + 1 - buttonWidth);
+  painter->fillRect(option->rect, EntryField(option));
+  painter->fillRect(button, option->palette.button());
+  if (ShowsFocus(option)) {
+    painter->fillRect(QRect(inside.left(), inside.bottom() + 1 - FocusLine,
+                            inside.width() - buttonWidth, FocusLine),
+                      option->palette.highlight());
+  }
+  DrawComboArrow(option, painter, button);
+}
+
+void DrawHairlineFrame(const QStyleOption *option, QPainter *painter) {
+  painter->save();
+  painter->setPen(Hairline(option->palette));
+  painter->setBrush(Qt::NoBrush);
+  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  painter->restore();
+}
+
+/// A tab on top of its pages: the one in front is open towards them and carries a coloured line,
+/// the others are words alone.
+void DrawTab(const QStyleOptionTab *tab, QPainter *painter) {
+  const bool inFront = tab->state & QStyle::State_Selected;
+  const bool enabled = tab->state & QStyle::State_Enabled;
+  const QRect area = tab->rect;
+  if (!inFront) {
+    if (enabled && (tab->state & QStyle::State_MouseOver)) {
+      FillRounded(painter, area.adjusted(2, 3, -2, -3), HoverField(tab->palette));
+    }
+    return;
+  }
+  painter->fillRect(area, tab->palette.window());
+  const QColor line = Hairline(tab->palette);
+  painter->fillRect(area.left(), area.top(), 1, area.height(), line);
+  painter->fillRect(area.right(), area.top(), 1, area.height(), line);
+  painter->fillRect(area.left(), area.top(), area.width(), FocusLine,
+                    enabled ? tab->palette.highlight() : QBrush(line));
 }
 
 void DrawToolBar(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
@@ -128,17 +218,27 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
       // A box within a box (a combo box's, a spin box's) has no edge of its own.
       if (const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
           frame && frame->lineWidth > 0) {
-        DrawEntryBox(option, painter);
+        DrawEntryBox(option, painter, widget);
       }
       return;
     case PE_PanelButtonCommand:
-      DrawPushButton(option, painter);
+      DrawPushButton(option, painter, widget);
       return;
     case PE_PanelButtonTool:
       DrawButtonField(option, painter);
       return;
     case PE_IndicatorToolBarSeparator:
       DrawSeparator(option, painter);
+      return;
+    case PE_FrameGroupBox: {
+      QStyleOption belowTitle(*option);
+      belowTitle.rect.adjust(0, option->fontMetrics.height() + TitleSpace, 0, 0);
+      DrawHairlineFrame(&belowTitle, painter);
+      return;
+    }
+    case PE_FrameTabWidget:
+    case PE_Frame:
+      DrawHairlineFrame(option, painter);
       return;
     case PE_FrameStatusBarItem:
     case PE_PanelMenuBar:
@@ -168,6 +268,13 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption *option,
         return;
       }
       break;
+    case CE_TabBarTabShape:
+      if (const auto *tab = qstyleoption_cast<const QStyleOptionTab *>(option);
+          tab && tab->shape == QTabBar::RoundedNorth) {
+        DrawTab(tab, painter);
+        return;
+      }
+      break;
     case CE_MenuBarEmptyArea:
       painter->fillRect(option->rect, option->palette.window());
       return;
@@ -187,7 +294,11 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
                                     QPainter *painter, const QWidget *widget) const {
   const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
   if (control == CC_ComboBox && combo && combo->frame) {
-    DrawEntryBox(option, painter);
+    if (IsFlat(widget)) {
+      DrawFlatCombo(option, painter, pixelMetric(PM_ScrollBarExtent, option, widget));
+      return;
+    }
+    DrawEntryBox(option, painter, widget);
     DrawComboArrow(option, painter, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
     return;
   }

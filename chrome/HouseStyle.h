@@ -8,12 +8,14 @@ namespace velor {
 /// Fusion drawn calmer: flat fields, hairlines instead of bevels, round corners under the pointer,
 /// room around the icons, our own pictures in message boxes. Where things lie within a control
 /// stays Fusion's business.
-class HouseStyle final : public QProxyStyle {
+class HouseStyle : public QProxyStyle {
   Q_OBJECT
 
  public:
   /// A toolbar with this property set lies on a larger band and draws no line below itself.
   static constexpr const char *OnBand = "velorOnBand";
+  /// A control with this property set has a flat painter, which draws its edges.
+  static constexpr const char *Flat = "velorFlat";
 
   HouseStyle();
 

@@ -2,6 +2,7 @@
 #include "chrome/MenuPainter.h"
 
 #include "chrome/Palette.h"
+#include "chrome/WidgetControl.h"
 
 #include <QAction>
 #include <QImage>
@@ -122,7 +123,7 @@ MenuLook LegibleLook(const MenuLook &look, const QPalette &palette) {
 void MenuPictureSweep(QWidget &window, const ImageList &images, MenuPainter &painter) {
   painter.SetImageList(images);
   painter.TakeOver(window);
-  for (const QAction *item : window.findChildren<QAction *>()) {
+  for (const QAction *item : MenuItemsOf(window)) {
     const QString key = item->objectName().toLower();
     if (images.contains(key)) painter.SetItemPicture(item->objectName(), key);
   }

@@ -39,7 +39,7 @@ Colors ColorsFor(Shade shade) {
           .base = 0xffffff,
           .alternate = 0xf1f3f7,
           .text = 0x1e2430,
-          .button = 0xfbfbfd,
+          .button = 0xe2e6ee,
           .faded = 0xa7aeba,
           .placeholder = 0x5f6878,
           .accent = 0x2f6fde,

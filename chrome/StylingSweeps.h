@@ -18,6 +18,8 @@ class StylingSweeps {
   virtual void FlatSweep(QWidget &window) = 0;
   /// A flat painter for every combo box.
   virtual void FlatComboSweep(QWidget &window) = 0;
+  /// A thin edge for every button, text box and progress bar.
+  virtual void ThinEdgeSweep(QWidget &window) = 0;
   /// A thin edge for every control of that type name, letter case ignored.
   virtual void ThinEdgeByType(QWidget &window, const QString &typeName) = 0;
 };

@@ -2,45 +2,220 @@
 #include "chrome/frmAbout.h"
 
 #include "chrome/Icons.h"
+#include "chrome/Palette.h"
+#include "platform/Runtime.h"
 
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QTimer>
+#include <QTimerEvent>
+#include <QVBoxLayout>
 
 namespace velor {
 namespace {
 
-constexpr int LogoSize = 64;
+// Device-independent pixels.
+constexpr int Width = 420;
+constexpr int LogoSize = 72;
+constexpr int FirstRidge = 135;
+constexpr int Ridges = 5;
+constexpr int RidgeDistance = 2;
+constexpr int Margin = 24;
+
+/// Milliseconds from pass to pass: a little over a step, so that every pass makes one.
+constexpr int PassPeriod = 52;
+
+const QString MailAddress = QStringLiteral("info@example.com");
+
+QLabel *NewLabel(const char *name, const QString &text) {
+  auto *label = new QLabel(text);
+  label->setObjectName(QString::fromLatin1(name));
+  return label;
+}
+
+QLabel *NewQuietLabel(const char *name, const QString &text) {
+  QLabel *label = NewLabel(name, text);
+  label->setForegroundRole(QPalette::PlaceholderText);
+  return label;
+}
+
+/// A link in one piece: a click, Enter or Space follows it, Tab reaches it, and it shows that.
+class MailLink final : public QLabel {
+ public:
+  MailLink() : QLabel(MailAddress) {
+    setObjectName(QStringLiteral("lblMail_To"));
+    setForegroundRole(QPalette::Link);
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    QFont underlined = font();
+    underlined.setUnderline(true);
+    setFont(underlined);
+  }
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent *event) override {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) Follow();
+  }
+  void keyPressEvent(QKeyEvent *event) override {
+    switch (event->key()) {
+      case Qt::Key_Return:
+      case Qt::Key_Enter:
+      case Qt::Key_Space:
+        Follow();
+        break;
+      default:
+        QLabel::keyPressEvent(event);
+    }
+  }
+  void focusInEvent(QFocusEvent *) override { update(); }
+  void focusOutEvent(QFocusEvent *) override { update(); }
+  void paintEvent(QPaintEvent *event) override {
+    QLabel::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+
+ private:
+  void Follow() { Q_EMIT linkActivated(QStringLiteral("mailto:") + MailAddress); }
+};
 
 }  // namespace
 
-frmAbout::frmAbout(QWidget *parent) : QDialog(parent) {
+/// The picture area that the squares are drawn on.
+class frmAbout::Pattern final : public QWidget {
+ public:
+  explicit Pattern(const AboutAnimation &animation) : animation_(animation) {
+    setObjectName(QStringLiteral("Thumbing"));
+    setFixedSize(AboutAnimation::Side * AboutAnimation::Columns,
+                 AboutAnimation::Side * AboutAnimation::Squares / AboutAnimation::Columns);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent *) override {
+    QPainter painter(this);
+    for (int index = 0; index < animation_.ShownSquares(); ++index) {
+      painter.fillRect(AboutAnimation::SquareAt(index), palette().highlight());
+    }
+  }
+
+ private:
+  const AboutAnimation &animation_;
+};
+
+frmAbout::frmAbout(Runtime &runtime, QWidget *parent) : QDialog(parent), runtime_(runtime) {
   setObjectName(QStringLiteral("frmAbout"));
   setWindowTitle(tr("About us..."));
+  auto *inert = new QTimer(this);
+  inert->setObjectName(QStringLiteral("Timer_Show"));
 
-  auto *logo = new QLabel(this);
-  logo->setObjectName(QStringLiteral("Image1"));
+  auto *column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(BuildHead());
+  column->addSpacing(Ridges * RidgeDistance + 2);
+  column->addWidget(BuildFoot());
+  column->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QWidget *frmAbout::BuildHead() {
+  auto *head = new QWidget;
+  head->setFixedSize(Width, FirstRidge - 1);
+  QLabel *logo = NewLabel("Image1", {});
   logo->setAccessibleName(tr("Logo"));
   logo->setPixmap(ProgramIcon().pixmap(QSize(LogoSize, LogoSize), devicePixelRatioF()));
-
-  auto *product = new QLabel(tr("Vitrine"), this);
-  product->setObjectName(QStringLiteral("Label2"));
+  QLabel *product = NewLabel("Label2", QStringLiteral("Vitrine"));
   QFont large = product->font();
-  large.setPointSizeF(large.pointSizeF() * 1.8);
+  large.setPointSizeF(large.pointSizeF() * 2.2);
   large.setWeight(QFont::DemiBold);
   product->setFont(large);
+  Thumbing = new Pattern(animation_);
 
-  auto *close = new QDialogButtonBox(QDialogButtonBox::Close, this);
+  auto *grid = new QGridLayout(head);
+  grid->setContentsMargins(Margin, 0, Margin, 0);
+  grid->setHorizontalSpacing(Margin);
+  grid->setVerticalSpacing(2);
+  grid->setRowStretch(0, 1);
+  grid->addWidget(logo, 0, 0, 4, 1, Qt::AlignVCenter);
+  grid->addWidget(product, 1, 1);
+  grid->addWidget(NewQuietLabel("Label1", QStringLiteral("Example Software")), 2, 1);
+  grid->setRowStretch(3, 1);
+  grid->setColumnStretch(1, 1);
+  grid->addWidget(Thumbing, 0, 2, 4, 1, Qt::AlignVCenter);
+  return head;
+}
+
+QWidget *frmAbout::BuildFoot() {
+  auto *foot = new QWidget;
+  auto *mail = new MailLink;
+  mail->setMargin(2);
+  connect(mail, &QLabel::linkActivated, this, &frmAbout::WriteTo);
+  auto *close = new QDialogButtonBox(QDialogButtonBox::Close);
   connect(close, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  close->button(QDialogButtonBox::Close)->setFocus();
 
-  auto *grid = new QGridLayout(this);
-  grid->setContentsMargins(24, 24, 24, 16);
-  grid->setHorizontalSpacing(20);
-  grid->setVerticalSpacing(16);
-  grid->addWidget(logo, 0, 0);
-  grid->addWidget(product, 0, 1, Qt::AlignVCenter);
-  grid->addWidget(close, 1, 0, 1, 2);
-  grid->setColumnMinimumWidth(1, 240);
+  auto *grid = new QGridLayout(foot);
+  grid->setContentsMargins(Margin, Margin - RidgeDistance, Margin, Margin - RidgeDistance);
+  grid->setHorizontalSpacing(BarMargin);
+  grid->setVerticalSpacing(BarMargin);
+  grid->setColumnStretch(1, 1);
+  grid->addWidget(NewLabel("Label3", QStringLiteral("1 Example Street")), 0, 0, 1, 2);
+  grid->addWidget(NewLabel("Label5", QStringLiteral("Exampletown")), 1, 0, 1, 2);
+  grid->addWidget(NewLabel("Label4", QStringLiteral("E-mail :")), 2, 0);
+  grid->addWidget(mail, 2, 1, Qt::AlignLeft);
+  grid->addWidget(close, 2, 2);
+  return foot;
+}
+
+void frmAbout::paintEvent(QPaintEvent *event) {
+  QDialog::paintEvent(event);
+  QPainter painter(this);
+  for (int ridge = 0; ridge < Ridges; ++ridge) {
+    const int top = FirstRidge + RidgeDistance * ridge;
+    painter.fillRect(0, top, width(), 1, palette().light());
+    painter.fillRect(0, top + 1, width(), 1, palette().dark());
+  }
+}
+
+void frmAbout::changeEvent(QEvent *event) {
+  QDialog::changeEvent(event);
+  if (event->type() != QEvent::ActivationChange) return;
+  if (isActiveWindow()) {
+    passes_.start(PassPeriod, Qt::PreciseTimer, this);
+    Play();
+  } else {
+    passes_.stop();
+  }
+}
+
+void frmAbout::hideEvent(QHideEvent *event) {
+  passes_.stop();
+  QDialog::hideEvent(event);
+}
+
+void frmAbout::timerEvent(QTimerEvent *) {
+  Play();
+}
+
+void frmAbout::Play() {
+  if (animation_.Pass(runtime_.SecondsSinceMidnight())) Thumbing->update();
+}
+
+void frmAbout::WriteTo(const QString &link) {
+  const BusyCursor busy(runtime_);
+  try {
+    runtime_.ShellExecute(QStringLiteral("Open"), link, QDir::currentPath());
+  } catch (const std::exception &) {
+    // The address can be read; nothing more is promised.
+  }
 }
 
 }  // namespace velor

@@ -1,16 +1,42 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "chrome/AboutAnimation.h"
+
+#include <QBasicTimer>
 #include <QDialog>
 
 namespace velor {
 
-/// The About box.
+class Runtime;
+
+/// The About box: the product, its maker, a mail link, a band of ridges and a small pattern that
+/// plays while the box is the active window.
 class frmAbout final : public QDialog {
   Q_OBJECT
 
  public:
-  explicit frmAbout(QWidget *parent);
+  /// `runtime` outlives the box.
+  explicit frmAbout(Runtime &runtime, QWidget *parent = nullptr);
+
+ protected:
+  void paintEvent(QPaintEvent *event) override;
+  void changeEvent(QEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
+  void timerEvent(QTimerEvent *event) override;
+
+ private:
+  class Pattern;
+
+  QWidget *BuildHead();
+  QWidget *BuildFoot();
+  void Play();
+  void WriteTo(const QString &link);
+
+  Runtime &runtime_;
+  AboutAnimation animation_;
+  QBasicTimer passes_;
+  Pattern *Thumbing = nullptr;
 };
 
 }  // namespace velor

@@ -17,6 +17,7 @@ class FileDialog;
 class Files;
 class Registry;
 class Runtime;
+class WindowSystem;
 
 /// Makes the parts of which there are several. A part's widget becomes a child of `parent`.
 class Components {
@@ -37,6 +38,8 @@ struct Platform {
   Dialogs &dialogs;
   Registry &registry;
   Components &components;
+  /// Null where windows are not to be styled.
+  WindowSystem *windows = nullptr;
 };
 
 }  // namespace velor

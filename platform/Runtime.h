@@ -22,6 +22,14 @@ class Runtime {
   /// Ends the program at once: no window's close handler runs, nothing further is written.
   [[noreturn]] virtual void EndProgram(int exitStatus = 0) = 0;
 
+  /// The local clock, to the millisecond.
+  virtual double SecondsSinceMidnight() const = 0;
+
+  /// Has the desktop do what its shell means by `operation` with a file or address, in a native
+  /// folder. RuntimeError where nothing could be started.
+  virtual void ShellExecute(const QString &operation, const QString &target,
+                            const QString &folder) = 0;
+
   /// The busy pointer, nested calls counted; see BusyCursor.
   virtual void ShowBusyCursor() = 0;
   virtual void RestoreCursor() = 0;

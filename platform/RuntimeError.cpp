@@ -33,6 +33,9 @@ constexpr Sentence Sentences[] = {
     {ErrorNumber::DialogCancelled, "Cancel was selected"},
     {ErrorNumber::IndexOutOfBounds, "Index out of bounds"},
     {ErrorNumber::ElementNotFound, "Element not found"},
+    {ErrorNumber::InvalidControl,
+     "Incorrect control type passed to 'Attach' parameter - must be a control with a hWnd "
+     "property."},
 };
 
 /// A system error that is not listed is a failed access.

@@ -12,6 +12,8 @@ namespace velor {
 /// run-time numbers of desktop Basic, so that people find them in old manuals; published values,
 /// never renumbered.
 enum class ErrorNumber : int {
+  /// An object's own error 1049, as objects publish theirs.
+  InvalidControl = -2147220455,
   None = 0,
   InvalidProcedureCall = 5,
   Overflow = 6,

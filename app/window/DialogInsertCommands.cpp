@@ -14,7 +14,7 @@ namespace velor {
 
 void DialogInsertCommands::Element(const QString &mode, frmMain &page) {
   if (dialog_.isNull()) {
-    dialog_ = new frmInsertElement(context_.platform, nullptr, page.window());
+    dialog_ = new frmInsertElement(context_.platform, sweeps_, page.window());
     QObject::connect(dialog_, &frmInsertElement::Reported, dialog_, [this](const QString &message) {
       context_.mainWindow.ReportInStatusBar(message);
     });

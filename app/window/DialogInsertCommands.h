@@ -8,6 +8,7 @@
 
 namespace velor {
 
+class StylingSweeps;
 class frmInsertElement;
 struct EditorContext;
 struct ProgramValues;
@@ -16,8 +17,8 @@ struct ProgramValues;
 /// one for each showing. Both stand over the page's window.
 class DialogInsertCommands final : public InsertCommands {
  public:
-  DialogInsertCommands(EditorContext &context, ProgramValues &values)
-      : context_(context), values_(values) {}
+  DialogInsertCommands(EditorContext &context, ProgramValues &values, StylingSweeps *sweeps)
+      : context_(context), values_(values), sweeps_(sweeps) {}
 
   void Image(frmMain &page) override;
   void Hyperlink(frmMain &page) override;
@@ -31,6 +32,7 @@ class DialogInsertCommands final : public InsertCommands {
 
   EditorContext &context_;
   ProgramValues &values_;
+  StylingSweeps *sweeps_;
   QPointer<frmInsertElement> dialog_;
 };
 

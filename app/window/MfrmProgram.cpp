@@ -10,9 +10,11 @@
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
 #include "app/window/ProjectDesk.h"
+#include "chrome/FlatSweeps.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
 #include "chrome/ProgramWindow.h"
+#include "chrome/ReportingSweeps.h"
 #include "chrome/frmAbout.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmMain.h"
@@ -49,6 +51,12 @@ class TabRow final : public QWidget {
 constexpr QSize FirstSize(1180, 800);
 constexpr int ChooserWidth = 240;
 
+/// The program's one array of flat painters lives in them.
+std::unique_ptr<StylingSweeps> SweepsOn(WindowSystem *windows) {
+  if (!windows) return nullptr;
+  return std::make_unique<ReportingSweeps>(std::make_unique<FlatSweeps>(*windows));
+}
+
 /// A person's request to close every window of the program that asks before it closes: each is
 /// marked first, so that none of them asks. What fails on the way no longer matters.
 void UnloadProgramWindows() {
@@ -72,7 +80,8 @@ void UnloadProgramWindows() {
 MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
     : platform_(platform),
       context_{platform, *this, pages_, {}},
-      insert_(std::make_unique<DialogInsertCommands>(context_, values)),
+      sweeps_(SweepsOn(platform.windows)),
+      insert_(std::make_unique<DialogInsertCommands>(context_, values, sweeps_.get())),
       router_(context_, values, *this, *insert_),
       menuPictures_(ProgramMenuPictures()),
       menus_(BuildMenus(*this, [this](const Command &command) { router_.Run(command); })),
@@ -83,7 +92,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
       CmbPages(new PageChooser(this)),
       area_(new PageArea(this)),
       sourceEditing_(new QAction(this)),
-      projects_(std::make_unique<ProjectDesk>(context_, values, *CmbPages)),
+      projects_(std::make_unique<ProjectDesk>(context_, values, *CmbPages, sweeps_.get())),
       fileDialog_(platform.components.CreateFileDialog()) {
   setObjectName(QStringLiteral("MfrmProgram"));
   setWindowTitle(QString::fromUtf16(ApplicationTitle));
@@ -171,6 +180,10 @@ void MfrmProgram::SetFontSizeList() {
 
 void MfrmProgram::PrepareControlsAndMenus() {
   SetPageCommandsEnabled(false);
+  if (sweeps_) {
+    sweeps_->FlatComboSweep(*this);
+    sweeps_->ThinEdgeSweep(*this);
+  }
   MenuPictureSweep(*this, MenuImages(), *PM);
   try {
     PrepareMenus(platform_.registry, menuPictures_, *PM);
@@ -249,7 +262,7 @@ void MfrmProgram::ShowProjectManager() {
 }
 
 void MfrmProgram::ShowAbout() {
-  frmAbout about(this);
+  frmAbout about(platform_.runtime, this);
   platform_.dialogs.RunModal(about);
 }
 

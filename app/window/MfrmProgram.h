@@ -26,6 +26,7 @@ class PageChooser;
 class PageTabs;
 class ProjectDesk;
 class StyleMenuPainter;
+class StylingSweeps;
 
 /// The main window: menus, the band bar `CoolBar` with its two toolbars and the formatting boxes,
 /// the page tabs `FileTab` and the page chooser `CmbPages` on `picFileTab`, the area of the child
@@ -113,6 +114,8 @@ class MfrmProgram final : public QMainWindow,
   Platform &platform_;
   PageSlots pages_;
   EditorContext context_;
+  /// Null where windows are not to be styled.
+  std::unique_ptr<StylingSweeps> sweeps_;
   std::unique_ptr<InsertCommands> insert_;
   CommandRouter router_;
   MenuPictures menuPictures_;

@@ -14,12 +14,13 @@
 
 namespace velor {
 
-ProjectDesk::ProjectDesk(EditorContext &context, ProgramValues &values, PageChooser &chooser)
-    : context_(context), values_(values), chooser_(chooser) {}
+ProjectDesk::ProjectDesk(EditorContext &context, ProgramValues &values, PageChooser &chooser,
+                         StylingSweeps *sweeps)
+    : context_(context), values_(values), chooser_(chooser), sweeps_(sweeps) {}
 
 void ProjectDesk::ShowProjectManager(QWidget &parent) {
   if (manager_.isNull()) {
-    manager_ = new frmProjectManager(context_.platform, values_, *this, nullptr, &parent);
+    manager_ = new frmProjectManager(context_.platform, values_, *this, sweeps_, &parent);
   }
   context_.platform.dialogs.RunModal(*manager_);
   if (manager_.isNull() || !manager_->IsClosed()) return;

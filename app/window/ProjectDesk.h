@@ -10,6 +10,7 @@ class QWidget;
 namespace velor {
 
 class PageChooser;
+class StylingSweeps;
 class frmProjectManager;
 struct EditorContext;
 struct ProgramValues;
@@ -17,7 +18,8 @@ struct ProgramValues;
 /// The main window as the project manager sees it, and the keeper of that window.
 class ProjectDesk final : public ProjectHost {
  public:
-  ProjectDesk(EditorContext &context, ProgramValues &values, PageChooser &chooser);
+  ProjectDesk(EditorContext &context, ProgramValues &values, PageChooser &chooser,
+              StylingSweeps *sweeps);
 
   /// Shows the project manager modally over `parent`: the one hidden by an earlier opening, else a
   /// fresh one.
@@ -35,6 +37,7 @@ class ProjectDesk final : public ProjectHost {
   EditorContext &context_;
   ProgramValues &values_;
   PageChooser &chooser_;
+  StylingSweeps *sweeps_;
   QPointer<frmProjectManager> manager_;
 };
 

@@ -2,10 +2,13 @@
 #include "platform/qt/QtRuntime.h"
 
 #include "platform/Paths.h"
+#include "platform/RuntimeError.h"
 #include "platform/qt/ProgramFolder.h"
 
 #include <QApplication>
+#include <QProcess>
 #include <QStringList>
+#include <QTime>
 
 #include <cstdio>
 #include <cstdlib>
@@ -29,6 +32,22 @@ void QtRuntime::EndProgram(int exitStatus) {
   std::fflush(nullptr);
   // No destructor and no exit handler runs: nothing may be written or asked any more.
   std::_Exit(exitStatus);
+}
+
+double QtRuntime::SecondsSinceMidnight() const {
+  return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+void QtRuntime::ShellExecute(const QString &operation, const QString &target,
+                             const QString &folder) {
+  const QString opener = QStringLiteral("xdg-open");
+  const QString source = QStringLiteral("ShellExecute");
+  if (operation.compare(QStringLiteral("open"), Qt::CaseInsensitive) != 0) {
+    throw RuntimeError::Of(ErrorNumber::InvalidProcedureCall, source, operation);
+  }
+  if (!QProcess::startDetached(opener, {target}, folder)) {
+    throw RuntimeError::Of(ErrorNumber::FileNotFound, source, opener);
+  }
 }
 
 void QtRuntime::ShowBusyCursor() {

@@ -16,6 +16,10 @@ class QtRuntime final : public Runtime {
   QString ProgramFolder() const override { return programFolder_; }
   void ProcessPendingEvents() override;
   [[noreturn]] void EndProgram(int exitStatus) override;
+  double SecondsSinceMidnight() const override;
+  /// The only operation is "Open".
+  void ShellExecute(const QString &operation, const QString &target,
+                    const QString &folder) override;
   void ShowBusyCursor() override;
   void RestoreCursor() override;
 

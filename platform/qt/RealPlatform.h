@@ -7,6 +7,7 @@
 #include "platform/qt/QtFiles.h"
 #include "platform/qt/QtRegistry.h"
 #include "platform/qt/QtRuntime.h"
+#include "platform/qt/QtWindowSystem.h"
 
 namespace velor {
 
@@ -19,7 +20,8 @@ struct RealPlatform {
   QtFiles files;
   QtRegistry registry;
   QtComponents components{files, runtime.ProgramFolder()};
-  Platform parts{files, runtime, dialogs, registry, components};
+  QtWindowSystem windows;
+  Platform parts{files, runtime, dialogs, registry, components, &windows};
 };
 
 }  // namespace velor

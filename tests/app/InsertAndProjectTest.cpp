@@ -199,7 +199,7 @@ TEST_F(ProjectTest, AManagerHiddenByOpeningIsKeptAClosedOneIsNot) {
 }
 
 TEST_F(ProjectTest, TheFolderPickerAnswersForTheProjectAndIsGoneAfterwards) {
-  ProjectDesk desk(window.Context(), values, Chooser());
+  ProjectDesk desk(window.Context(), values, Chooser(), nullptr);
   values.ImageFolderPath = QStringLiteral("\\images");
   QPointer<QWidget> shown;
   for (const char *button : {"SSCommand1", "SSCommand2"}) {

@@ -2,6 +2,7 @@
 // A small program around the real application object, process and boundary. Its argument says
 // which scene it plays; what a test may look at goes to standard output.
 #include "app/startup/EventBoundary.h"
+#include "chrome/ReportingSweeps.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 #include "platform/qt/QtDialogs.h"
@@ -9,10 +10,12 @@
 
 #include <QObject>
 #include <QTimer>
+#include <QWidget>
 
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace {
@@ -22,6 +25,20 @@ using namespace velor;
 [[noreturn]] void Raise(ErrorNumber number, const QString &source) {
   throw RuntimeError::Of(number, source, QStringLiteral("probe"));
 }
+
+/// Sweeps with too few painters.
+class ShortSweeps final : public StylingSweeps {
+ public:
+  void FlatSweep(QWidget &) override { Fail(); }
+  void FlatComboSweep(QWidget &) override { Fail(); }
+  void ThinEdgeSweep(QWidget &) override { Fail(); }
+  void ThinEdgeByType(QWidget &, const QString &) override { Fail(); }
+
+ private:
+  [[noreturn]] static void Fail() {
+    Raise(ErrorNumber::SubscriptOutOfRange, QStringLiteral("Painters"));
+  }
+};
 
 }  // namespace
 
@@ -58,6 +75,11 @@ int main(int argc, char **argv) {
       Raise(ErrorNumber::DiskFull, QString::fromUtf16(Files::WriteSource));
     }
   });
+  QWidget window;
+  if (scene == "styling") {
+    ReportingSweeps(std::make_unique<ShortSweeps>()).FlatSweep(window);
+    std::puts("the window is loaded");
+  }
   QTimer::singleShot(1, &application, [] {
     std::puts("next event");
     QCoreApplication::quit();

@@ -188,6 +188,13 @@ TEST(RunningProgram, AnErrorInAnEventIsReportedAndTheNextEventStillComes) {
   EXPECT_EQ(probe.output, "next event\n");
 }
 
+TEST(RunningProgram, AStylingSweepThatFailsIsReportedOnceTheWindowIsLoaded) {
+  const Probe probe = RunProbe(QStringLiteral("styling"));
+  EXPECT_EQ(probe.status, 0);
+  EXPECT_TRUE(probe.report.contains("Error 9 in Painters")) << probe.report.constData();
+  EXPECT_EQ(probe.output, "the window is loaded\nnext event\n");
+}
+
 TEST(RunningProgram, AFailedWriteInAnEventEndsItWithStatusOne) {
   const Probe probe = RunProbe(QStringLiteral("write"));
   EXPECT_EQ(probe.status, 1);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/FakeRuntime.h"
 
+#include "platform/RuntimeError.h"
+
 namespace velor {
 
 QString FakeRuntime::CommandLineText() const {
@@ -16,6 +18,12 @@ void FakeRuntime::ProcessPendingEvents() {
 void FakeRuntime::EndProgram(int exitStatus) {
   Note(log_, QStringLiteral("EndProgram(%1)").arg(exitStatus));
   throw ProgramEnded{exitStatus};
+}
+
+void FakeRuntime::ShellExecute(const QString &operation, const QString &target,
+                               const QString &folder) {
+  Note(log_, QStringLiteral("ShellExecute(%1, %2, %3)").arg(operation, target, folder));
+  if (!hasShell) throw RuntimeError::Of(ErrorNumber::FileNotFound, QStringLiteral("ShellExecute"));
 }
 
 void FakeRuntime::ShowBusyCursor() {

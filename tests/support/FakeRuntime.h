@@ -24,11 +24,16 @@ class FakeRuntime final : public Runtime {
   /// Runs inside ProcessPendingEvents, as a waiting event would.
   std::function<void()> pendingEvents;
   int busyCursors = 0;  ///< shown and not yet restored
+  double clock = 0;     ///< seconds since midnight
+  bool hasShell = true;
 
   QString CommandLineText() const override;
   QString ProgramFolder() const override { return programFolder; }
   void ProcessPendingEvents() override;
   [[noreturn]] void EndProgram(int exitStatus) override;
+  double SecondsSinceMidnight() const override { return clock; }
+  void ShellExecute(const QString &operation, const QString &target,
+                    const QString &folder) override;
   void ShowBusyCursor() override;
   void RestoreCursor() override;
 

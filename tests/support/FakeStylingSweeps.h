@@ -19,6 +19,9 @@ class FakeStylingSweeps final : public StylingSweeps {
   void FlatComboSweep(QWidget &window) override {
     Note(log_, QStringLiteral("FlatComboSweep(%1)").arg(window.objectName()));
   }
+  void ThinEdgeSweep(QWidget &window) override {
+    Note(log_, QStringLiteral("ThinEdgeSweep(%1)").arg(window.objectName()));
+  }
   void ThinEdgeByType(QWidget &window, const QString &typeName) override {
     Note(log_, QStringLiteral("ThinEdgeByType(%1, %2)").arg(window.objectName(), typeName));
   }

@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Screenshots of the main window for one palette and scale.
+"""Screenshots of every window of the program, idle and with the pointer on a control, for one
+palette and scale.
 
 Usage: screenshots.py RUN_FOLDER OUT_FOLDER light|dark SCALE_PERCENT
 """
@@ -10,65 +11,144 @@ import sys
 import tempfile
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tour"))
-from desktop import Program  # noqa: E402
+from desktop import Program, TourError, wait_for  # noqa: E402
+
+
+class Photographer:
+    """Takes the program through its windows; pictures are numbered in the order of the tour."""
+
+    def __init__(self, program, name, factor):
+        self.program = program
+        self.name = name
+        self.factor = factor
+        self.count = 0
+
+    def shot(self, what):
+        self.count += 1
+        self.program.shot(f"{self.name}-{self.count:02}-{what}")
+
+    def hover(self, name, role=None, within=None):
+        self.program.hover(self.program.wait(name, role, within))
+
+    def click(self, name, role="push button|toggle button|button|check box"):
+        """By the pointer: a press through the accessibility bus would wait for the dialog's end."""
+        self.hover(name, role)
+        self.program.button(1)
+
+    def away(self):
+        self.program.move(int(1270 * self.factor), int(810 * self.factor))
+
+    def dialog(self, opener, what, hovered):
+        """Opens a dialog, shows it idle and hovered, and closes it by Escape."""
+        before = len(self.program.visible_windows())
+        opener()
+        self.program.wait(*hovered)
+        self.shot(what)
+        self.hover(*hovered)
+        self.shot(what + "-hovered")
+        self.away()
+        self.close(what, before)
+
+    def popup(self, opener, what, *further):
+        before = len(self.program.visible_windows())
+        self.program.open_popup(opener)
+        for key in further:
+            self.program.key(key)
+        self.shot(what)
+        self.close(what, before)
+
+    def close(self, what, before):
+        def closed():
+            if len(self.program.visible_windows()) <= before:
+                return True
+            self.program.key("Escape")
+            return False
+        wait_for(closed, f"{what} to close")
+
+
+def main_window(photos):
+    program = photos.program
+    photos.shot("no-page")
+    photos.hover("Block Format", "combo box")
+    photos.shot("no-page-combo-hovered")
+    for number in range(1, 6):
+        program.key("ctrl+n")
+        program.wait(f"Untitled {number}", "page tab")
+    program.type("A page that somebody is writing")
+    program.key("shift+ctrl+Left")
+    program.press("Bold")
+    photos.away()
+    photos.shot("five-pages")
+    photos.hover("Bold")
+    photos.shot("five-pages-button-hovered")
+    middle = int(500 * photos.factor)
+    photos.popup(lambda: program.click(middle, middle, 3), "context-menu", "Down", "Down")
+    photos.popup(lambda: program.key("alt+f"), "file-menu", "Down")
+    photos.popup(lambda: program.key("alt+v"), "view-menu", "Right", "Down")
+    photos.popup(lambda: photos.click("Text Color"), "colour-palette", "Down")
+    photos.popup(lambda: photos.click("Normal", "combo box"), "combo-list")
+
+
+def dialogs(photos):
+    program = photos.program
+
+    def item(*keys):
+        return lambda: program.open_popup(lambda: program.key(keys[0])) or program.key(*keys[1:])
+
+    photos.dialog(lambda: photos.click("Image"), "image-dialog", ("Browse...",))
+    photos.dialog(item("alt+i", "Down", "Return"), "link-dialog", ("None", "combo box"))
+    photos.dialog(lambda: photos.click("Table"), "table-dialog", ("Cancel",))
+    photos.dialog(lambda: photos.click("Project Manager"), "project-manager", ("Open", "push button"))
+    photos.dialog(lambda: photos.click("About"), "about-box", ("Close",))
+    photos.dialog(lambda: program.key("ctrl+o"), "message-box", ("OK",))
+
+
+def modes(photos):
+    program = photos.program
+    page = program.wait("Untitled 5", "frame")
+    for mode in ("View HTML", "Edit HTML"):
+        program.press(mode, within=page)
+        photos.shot(mode.lower().replace(" ", "-"))
+    program.key("ctrl+F4")
+    program.press("Preview", within=page)
+    photos.shot("preview")
+
+
+def start_up(photos):
+    """The question and the folder picker of a start without an image folder."""
+    photos.shot("question")
+    photos.click("Yes", "push button")
+    photos.hover("Ok", "push button")
+    photos.shot("folder-picker-hovered")
+    photos.away()
+    photos.shot("folder-picker")
 
 
 def main(run_folder, out, palette, scale):
-    scratch = tempfile.mkdtemp(prefix="velor-shots-")
-    folder = os.path.join(scratch, "program")
-    shutil.copytree(run_folder, folder, ignore=shutil.ignore_patterns("velor-*", "*.ini", "Temp*.htm"))
     factor = int(scale) / 100
-    program = Program(os.path.join(run_folder, "velor-web-creator"), folder, scratch, out,
-                      {"VELOR_PALETTE": palette, "QT_SCALE_FACTOR": str(factor)})
-    name = f"{palette}-{scale}-"
-    try:
-        program.size_window(int(1280 * factor), int(820 * factor))
-        program.shot(name + "1-no-page")
-        for number in range(1, 6):
-            program.key("ctrl+n")
-            program.wait(f"Untitled {number}", "page tab")
-        program.type("A page that somebody is writing")
-        program.key("shift+ctrl+Left")
-        program.press("Bold")
-        program.shot(name + "2-five-pages")
-        program.open_popup(lambda: program.click(int(500 * factor), int(500 * factor), 3))
-        program.key("Down", "Down")
-        program.shot(name + "3-context-menu")
-        program.key("Escape")
-        program.open_popup(lambda: program.key("alt+v"))
-        program.shot(name + "4-view-menu")
-        program.key("Escape", "Escape")
-        page = program.wait("Untitled 5", "frame")
-        program.press("View HTML", within=page)
-        program.shot(name + "5-source-view")
-        program.press("Preview", within=page)
-        program.wait("Done", "label")
-        program.shot(name + "6-preview")
-        program.key("ctrl+F4")
-        program.wait_gone("Preview", "frame")
-        for shot, menu, title in (("7-picture", "alt+i", "Element Information..."),
-                                  ("8-table", "alt+a", "Table Editor")):
-            program.open_popup(lambda: program.key(menu))
-            program.key("Return")
-            dialog = program.wait(title, "dialog")
-            program.shot(name + shot)
-            if shot == "7-picture":
-                program.key("ctrl+Tab")
-                program.wait("Border thickness:", "text", dialog)
-                program.shot(name + shot + "-appearance")
-            program.key("Escape")
-            program.wait_gone(title, "dialog")
-        program.press("Edit HTML", within=page)
-        program.wait("Apply to Document")
-        program.key("ctrl+h")
-        program.type("meta")
-        program.shot(name + "9-source-editor")
-        program.click_on("Project Manager")
-        program.wait("Select the Project and open it.", "label")
-        program.shot(name + "10-project-manager")
-    finally:
-        program.kill()
-        shutil.rmtree(scratch, ignore_errors=True)
+
+    def session(name, left_out, *scenes):
+        scratch = tempfile.mkdtemp(prefix="velor-shots-")
+        folder = os.path.join(scratch, "program")
+        shutil.copytree(run_folder, folder, ignore=shutil.ignore_patterns(
+            "velor-*", "*.ini", "Temp*.htm", *left_out))
+        program = Program(os.path.join(run_folder, "velor-web-creator"), folder, scratch, out,
+                          {"VELOR_PALETTE": palette, "QT_SCALE_FACTOR": str(factor)})
+        photos = Photographer(program, f"{palette}-{scale}-{name}", factor)
+        try:
+            if main_window in scenes:
+                program.size_window(int(1280 * factor), int(820 * factor))
+            for scene in scenes:
+                scene(photos)
+        except TourError:
+            photos.shot("failed")
+            raise
+        finally:
+            program.kill()
+            shutil.rmtree(scratch, ignore_errors=True)
+
+    session("start", ("eImages",), start_up)
+    session("main", (), main_window, dialogs, modes)
 
 
 if __name__ == "__main__":

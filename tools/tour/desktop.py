@@ -153,9 +153,16 @@ class Program:
 
     def click_on(self, name, role="push button|toggle button|button", within=None):
         """Clicks a control: for what opens a dialog, where pressing it would wait for the dialog's end."""
-        node = self.wait(name, role, within)
+        self.hover(self.wait(name, role, within))
+        self.button(1)
+
+    def button(self, number):
+        run("xdotool", "click", str(number))
+
+    def hover(self, node):
+        """Puts the pointer on a control, where a person would."""
         place = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
-        self.click(place.x + place.width // 2, place.y + place.height // 2)
+        self.move(place.x + place.width // 2, place.y + place.height // 2)
 
     def visible_windows(self):
         """The windows of the program on the screen; pop-up menus are windows too."""

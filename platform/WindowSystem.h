@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+class QWidget;
+
+namespace velor {
+
+/// A window of the window system, a control's own among them; 0 is none. A handle is not used
+/// again, and one whose window has gone stands for an empty window that nothing happens to.
+using WindowHandle = std::int32_t;
+/// What drawing on a window goes through, from TakeDeviceContext to DeleteDeviceContext.
+using DeviceContext = std::int32_t;
+using Pen = std::int32_t;
+
+/// Pixels are device-independent; right and bottom lie outside.
+struct PixelRect {
+  std::int32_t left = 0;
+  std::int32_t top = 0;
+  std::int32_t right = 0;
+  std::int32_t bottom = 0;
+  bool operator==(const PixelRect &) const = default;
+};
+
+struct PixelPoint {
+  std::int32_t x = 0;
+  std::int32_t y = 0;
+  bool operator==(const PixelPoint &) const = default;
+};
+
+/// The messages that handlers are attached to or that are sent; published numbers.
+namespace Messages {
+inline constexpr std::int32_t SetFocus = 7;
+inline constexpr std::int32_t KillFocus = 8;
+inline constexpr std::int32_t Enable = 10;
+inline constexpr std::int32_t Paint = 15;
+inline constexpr std::int32_t Command = 273;
+inline constexpr std::int32_t Timer = 275;
+/// Sent: whether a combo box shows its list.
+inline constexpr std::int32_t GetDroppedState = 343;
+inline constexpr std::int32_t MouseMove = 512;
+inline constexpr std::int32_t LeftButtonDown = 513;
+inline constexpr std::int32_t LeftButtonUp = 514;
+/// The notification in the high word of Command when a combo box's list has closed.
+inline constexpr std::int32_t DropDownClosed = 8;
+}  // namespace Messages
+
+/// Style bits and position flags; published numbers.
+namespace WindowBits {
+inline constexpr std::int32_t DropDownStyle = 0x2;
+inline constexpr std::int32_t DropDownListStyle = 0x3;
+inline constexpr std::int32_t ExtendedClientEdge = 0x200;
+inline constexpr std::int32_t ExtendedStaticEdge = 0x20000;
+inline constexpr std::int32_t PositionNoSize = 1;
+inline constexpr std::int32_t PositionNoMove = 2;
+inline constexpr std::int32_t PositionNoOrder = 4;
+inline constexpr std::int32_t PositionNoActivate = 16;
+inline constexpr std::int32_t PositionFrameChanged = 32;
+}  // namespace WindowBits
+
+/// A widget's extended style once it was set, as a dynamic property that its drawing follows.
+inline constexpr const char *ExtendedStyleProperty = "velorExtendedStyle";
+
+/// Indices of measures; published numbers.
+namespace Metrics {
+inline constexpr std::int32_t HorizontalThumb = 10;
+inline constexpr std::int32_t HorizontalScrollArrow = 21;
+}  // namespace Metrics
+
+/// When a handler runs: before the window's own treatment of the message, or after it.
+enum class MsgResponse : std::int32_t { Preprocess = 1, PostProcess = 2 };
+
+/// Handles messages of windows that it is attached to.
+class ISubclass {
+ public:
+  virtual ~ISubclass() = default;
+  virtual MsgResponse ISubclass_MsgResponse(std::int32_t message) const = 0;
+  virtual std::int32_t ISubclass_WindowProc(WindowHandle hwnd, std::int32_t iMsg,
+                                            std::int32_t wParam, std::int32_t lParam) = 0;
+};
+
+/// The window system below the widgets: their messages, styles, places, timers and surfaces.
+class WindowSystem {
+ public:
+  virtual ~WindowSystem() = default;
+
+  virtual WindowHandle HandleOf(QWidget &widget) = 0;
+
+  virtual void AttachMessage(ISubclass &handler, WindowHandle window, std::int32_t message) = 0;
+  virtual void DetachMessage(ISubclass &handler, WindowHandle window, std::int32_t message) = 0;
+  virtual std::int32_t SendMessage(WindowHandle window, std::int32_t message) = 0;
+
+  virtual std::int32_t Style(WindowHandle window) = 0;
+  virtual std::int32_t ExtendedStyle(WindowHandle window) = 0;
+  virtual void SetExtendedStyle(WindowHandle window, std::int32_t style) = 0;
+  /// Only what the flags leave open happens; nothing but a changed frame is ever asked for.
+  virtual void SetPosition(WindowHandle window, std::int32_t flags) = 0;
+  virtual bool IsEnabled(WindowHandle window) = 0;
+
+  virtual WindowHandle Parent(WindowHandle window) = 0;
+  virtual WindowHandle FirstChild(WindowHandle window) = 0;
+  virtual WindowHandle FirstChildOfClass(WindowHandle window, const QString &className) = 0;
+
+  virtual PixelRect ClientRect(WindowHandle window) = 0;
+  /// On the screen.
+  virtual PixelRect WindowRect(WindowHandle window) = 0;
+  virtual PixelPoint ScreenToClient(WindowHandle window, PixelPoint point) = 0;
+  virtual PixelPoint CursorPosition() = 0;
+  /// The screen's own window where none of the program's lies; never 0.
+  virtual WindowHandle WindowAt(PixelPoint screenPoint) = 0;
+  virtual std::int32_t TwipsPerPixelX() = 0;
+  virtual std::int32_t TwipsPerPixelY() = 0;
+  virtual std::int32_t Metric(std::int32_t index) = 0;
+
+  /// Sends Messages::Timer to the window until it is stopped.
+  virtual void StartTimer(WindowHandle window, std::int32_t id, std::int32_t milliseconds) = 0;
+  virtual void StopTimer(WindowHandle window, std::int32_t id) = 0;
+
+  /// The colour, red in the low byte, that a system colour's reference (its index with the top bit
+  /// set) stands for; -1 for an unknown one.
+  virtual std::int32_t TranslateColor(std::uint32_t reference) = 0;
+  virtual DeviceContext TakeDeviceContext(WindowHandle window) = 0;
+  virtual void DeleteDeviceContext(DeviceContext context) = 0;
+  virtual Pen CreatePen(std::int32_t color) = 0;
+  /// The pen that was selected before.
+  virtual Pen SelectPen(DeviceContext context, Pen pen) = 0;
+  virtual void DeletePen(Pen pen) = 0;
+  virtual void MoveTo(DeviceContext context, PixelPoint point) = 0;
+  /// A level or upright line, its end pixel left out.
+  virtual void LineTo(DeviceContext context, PixelPoint point) = 0;
+};
+
+}  // namespace velor
