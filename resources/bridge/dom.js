@@ -46,8 +46,16 @@
   }
 
   // A division that stands for a paragraph: it carries an alignment at most.
+  const isAlignment = ({ name, value }) =>
+    name === 'align' || name === 'style' && /^\s*text-align\s*:[^;]*;?\s*$/i.test(value);
   const isPlainDivision = (node) => isElement(node) && node.tagName === 'DIV' &&
-    [...node.attributes].every(({ name }) => name === 'align');
+    [...node.attributes].every(isAlignment);
+
+  // The page's dialect: an HTML5 page has its looks in styles, an older one in FONT and align.
+  const writesStyles = () => {
+    const { doctype } = document;
+    return doctype?.name === 'html' && !doctype.publicId;
+  };
 
   const isShown = (node) => !isNeutral(node) && !isIgnorable(node);
 
@@ -161,7 +169,7 @@
 
   velor.dom = {
     isElement, isText, isBlock, isAtom, isBreak, isNeutral, isInline, isBlank, isIgnorable, isShown,
-    isPlainDivision,
+    isPlainDivision, writesStyles,
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),
     nextNode, nextSkippingChildren, ancestor, blockOf, firstLeaf, lastLeaf, create, successor,

@@ -119,12 +119,13 @@
     const [only] = run;
     const wrapper = format.write(value);
     if (!wrapper) return null;
-    if (run.length === 1 && dom.isElement(only) && wrapper.tagName === only.tagName) {
-      if (only.tagName === 'FONT') {
-        only.setAttribute(format.attribute, wrapper.getAttribute(format.attribute));
+    if (run.length === 1 && dom.isElement(only)) {
+      // A FONT that is there is used in any dialect.
+      if (only.tagName === 'FONT' && format.attribute) {
+        only.setAttribute(format.attribute, format.inAttribute(value));
         return only;
       }
-      if (only.tagName === 'SPAN') {
+      if (only.tagName === 'SPAN' && wrapper.tagName === 'SPAN') {
         const before = (only.getAttribute('style') ?? '').replace(/;?\s*$/, '');
         const added = wrapper.getAttribute('style');
         only.setAttribute('style', before ? `${before}; ${added}` : added);
