@@ -89,6 +89,7 @@
         ? create('FONT', { [attribute]: inAttribute(value) }) : style(value)),
       ...entry,
       inAttribute,
+      isPlain: (element) => tags.has(element.tagName),
       carries: (element) => isInline(element) && (tags.has(element.tagName) ||
         (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) ||
         element.style.getPropertyValue(entry.property) !== ''),

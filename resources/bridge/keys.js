@@ -81,6 +81,7 @@
     const range = velor.selection.range();
     if (!range) return;
     if (velor.deletion.spansUnits(range)) velor.deletion.remove(range);
+    else velor.deletion.tighten(range);
     const [unit] = velor.units.unitsIn(velor.selection.range());
     if (needsParagraph(unit, event)) makeParagraph(unit);
     const holder = fills.has(event.inputType) ? holderOf(unit) : null;
@@ -94,7 +95,10 @@
     const own = velor.selection.control(range) || velor.deletion.spansUnits(range)
       ? () => velor.deletion.remove(range)
       : velor.deletion.joining(range, backward.test(event.inputType) ? 'start' : 'end');
-    if (!own) return false;
+    if (!own) {
+      velor.deletion.tighten(range);
+      return false;
+    }
     velor.history.step('delete', own);
     return true;
   }

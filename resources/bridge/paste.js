@@ -115,6 +115,7 @@
   velor.pasteHTML = (html) => velor.history.step('pasteHTML', () => {
     if (!velor.editable()) return;
     velor.selection.ensure();
+    if (!velor.selection.range()) return;
     const fragment = parse(html);
     makeRoom(velor.selection.range(), fragment);
     if (!fragment.firstChild) return;
