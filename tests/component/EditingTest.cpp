@@ -143,6 +143,26 @@ TEST_F(Editing, TypedTextIsInTheDocumentReadRightAfterIt) {
   }
 }
 
+TEST_F(Editing, ACommandDoesNotOvertakeTheKeysBeforeIt) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  for (int round = 0; round < 30; ++round) {
+    TypeText(QStringLiteral("ab"));
+    Exec(EditingCommand::Undo);
+    EXPECT_TRUE(DocumentHolds(QStringLiteral("<p>One</p>"))) << Seen().constData();
+  }
+}
+
+TEST_F(Editing, PastedMarkupComesBehindTheKeysBeforeIt) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  QString typed = QStringLiteral("One");
+  for (int round = 0; round < 10; ++round) {
+    TypeText(QStringLiteral("ab"));
+    editor_->Document().Selection().CreateRange()->PasteHTML(QStringLiteral("-"));
+    typed += QStringLiteral("ab-");
+    EXPECT_TRUE(DocumentHolds(typed)) << Seen().constData();
+  }
+}
+
 TEST_F(Editing, KeysAndCommandsKeepTheirOrder) {
   LoadWithCaret("<p>One</p>", QStringLiteral("p"));
   Key(Qt::Key_A, Qt::ControlModifier);
