@@ -81,6 +81,7 @@
     if (velor.editable()) document.body.focus({ preventScroll: true });
     velor.history.start();
     velor.pending.clear();
+    velor.blanks.reinstate([]);
     velor.listenToKeys();
     velor.listenToPointer();
     velor.setDetails(Boolean(options.showDetails));

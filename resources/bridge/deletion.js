@@ -141,7 +141,9 @@
     let next = node;
     let at = offset;
     if (at === node.length) [next, at] = [node.nextSibling, 0];
-    if (blank(node, offset - 1) && blank(next, at)) next.replaceData(at, 1, '\u00a0');
+    if (!blank(node, offset - 1) || !blank(next, at)) return;
+    next.replaceData(at, 1, '\u00a0');
+    velor.blanks.hold(next, at, false);
   }
 
   // Deletes what is selected in one paragraph, as it stands; leaves a caret.
@@ -184,7 +186,9 @@
     const between = inward(range);
     if (!spansUnits(range)) {
       select(between);
+      velor.blanks.watch();
       document.execCommand('delete');
+      velor.blanks.watched({ inputType: 'deleteContent' });
       return;
     }
     const { startContainer, startOffset, endContainer, endOffset } = between;

@@ -129,6 +129,7 @@
     const kind = kindOf(event);
     velor.history.expect(kind, joins(event, kind));
     if (inputType.startsWith('insert') && kind !== 'drag') work(() => prepareInsertion(event));
+    velor.blanks.watch();
   }
 
   // A split paragraph leaves its id with the first half only.
@@ -149,6 +150,7 @@
     if (event.inputType === 'insertText') work(() => velor.pending.typed(event.data));
     const { anchorNode } = velor.selection.points();
     if (anchorNode) typedIn.add(anchorNode);
+    work(() => velor.blanks.watched(event));
     velor.pending.moved();
     velor.history.arrive();
     velor.schedulePush();
@@ -210,6 +212,7 @@
 
   function selectionChange() {
     velor.pending.selectionMoved();
+    velor.blanks.selectionMoved();
     velor.history.selectionMoved();
     velor.selectionMoved();
   }

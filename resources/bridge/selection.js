@@ -43,7 +43,7 @@
     const { anchorNode, anchorOffset, focusNode, focusOffset } = document.getSelection();
     return { anchorNode, anchorOffset, focusNode, focusOffset };
   };
-  const samePoints = (one, other) => Object.keys(one).every((key) => one[key] === other[key]);
+  const samePoints = (one, other) => Object.keys(points()).every((key) => one[key] === other[key]);
 
   const length = (node) => (isText(node) ? node.length : node.childNodes.length);
   function select({ anchorNode, anchorOffset, focusNode, focusOffset }) {

@@ -212,6 +212,14 @@ TEST_F(Bridge, StartsAgainOnADocumentSetInPlace) {
   EXPECT_EQ(Text(QStringLiteral("document.body.innerHTML")), QStringLiteral("<p>two</p>"));
 }
 
+TEST_F(Bridge, WritesABlankThatWasTypedAtTheEndAsABlankAtOnce) {
+  Load(QStringLiteral("<p>one|</p>"));
+  page_.Type(QStringLiteral(" "));
+  EXPECT_TRUE(Text(QStringLiteral("velor.serialize()")).contains(QStringLiteral("<p>one </p>")));
+  page_.Type(QStringLiteral("two"));
+  EXPECT_TRUE(Text(QStringLiteral("velor.serialize()")).contains(QStringLiteral("<p>one two</p>")));
+}
+
 TEST_F(Bridge, AppliesNothingInsideAnIslandThatIsClosedToEditing) {
   Load(QStringLiteral("<p>one|<span contenteditable='false'>two</span></p>"));
   Evaluate(QStringLiteral("getSelection().setBaseAndExtent(document.querySelector('span'), 0,"
