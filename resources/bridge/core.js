@@ -83,6 +83,7 @@
     velor.pending.clear();
     velor.blanks.reinstate([]);
     velor.listenToKeys();
+    velor.listenToClipboard();
     velor.listenToPointer();
     velor.setDetails(Boolean(options.showDetails));
     velor.setSnap(Boolean(options.snapToGrid));

@@ -55,8 +55,9 @@ QString BridgeCase::Document() const {
   const QString doctype =
       page == QStringLiteral("html5")
           ? QStringLiteral("<!DOCTYPE html>")
-          : QStringLiteral("<!DOCTYPE html PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\" "
-                           "\"http://www.w3.org/TR/html4/loose.dtd\">");
+          : QStringLiteral(
+                "<!DOCTYPE html PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\" "
+                "\"http://www.w3.org/TR/html4/loose.dtd\">");
   return doctype + QStringLiteral("<html><head></head><body>") + input +
          QStringLiteral("</body></html>");
 }
@@ -117,6 +118,10 @@ void Perform(BridgePage &page, const QString &step) {
     page.Press(QKeySequence::fromString(value, QKeySequence::PortableText));
   } else if (verb == QStringLiteral("pasteHTML")) {
     page.Evaluate(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptText(value)));
+  } else if (verb == QStringLiteral("pasteForeign") || verb == QStringLiteral("pasteText")) {
+    const QString type = verb == QStringLiteral("pasteText") ? QStringLiteral("text/plain")
+                                                             : QStringLiteral("text/html");
+    page.Evaluate(QStringLiteral("markup.paste(%1, %2)").arg(ScriptText(type), ScriptText(value)));
   } else if (CommandNumbers().count(verb) == 1) {
     page.Evaluate(
         QStringLiteral("velor.exec(%1, %2)").arg(CommandNumbers().at(verb)).arg(ScriptText(value)));

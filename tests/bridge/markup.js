@@ -104,6 +104,13 @@
       addEventListener('keyup', () => { keysUp++; }, true);
     },
     keysUp: () => keysUp,
+    // A paste of what another program has put on the clipboard.
+    paste(type, data) {
+      const clipboardData = new DataTransfer();
+      clipboardData.setData(type, data);
+      document.body.dispatchEvent(
+        new ClipboardEvent('paste', { clipboardData, bubbles: true, cancelable: true }));
+    },
     // What no command may leave behind.
     faults() {
       const faults = [];
