@@ -86,6 +86,15 @@
     return document.importNode(own.content, true);
   }
 
+  // One paragraph means its text, which joins the one that the caret is in: programs put a P around
+  // a single word. On an empty page it stays what it is.
+  function unwrapSingle(fragment, { startContainer }) {
+    const shown = [...fragment.childNodes].filter(dom.isShown);
+    const [only] = shown;
+    if (shown.length !== 1 || only.tagName !== 'P' || only.attributes.length) return;
+    if (startContainer !== document.body || dom.hasContent(document.body)) dom.unwrap(only);
+  }
+
   // No id may be in a page twice.
   function dropKnownIds(fragment) {
     for (const element of fragment.querySelectorAll('[id]')) {
@@ -99,6 +108,7 @@
     const range = velor.selection.range();
     if (!range) return;
     const fragment = fragmentOf(event.clipboardData, range);
+    unwrapSingle(fragment, range);
     dropKnownIds(fragment);
     velor.addresses.narrow(fragment);
     if (!fragment.hasChildNodes()) return;
