@@ -83,7 +83,9 @@
     if (velor.editable()) document.body.focus({ preventScroll: true });
     velor.history.start(options);
     velor.pending.clear();
+    velor.blanks.reinstate([]);
     velor.listenToKeys();
+    velor.listenToClipboard();
     velor.listenToPointer();
     velor.setDetails(Boolean(options.showDetails));
     velor.setSnap(Boolean(options.snapToGrid));

@@ -18,11 +18,45 @@
       one.nodes[0] === other.nodes[0]);
   const cellOf = (node) => dom.ancestor(node, dom.isCell) || document.body;
 
+  // The same selection with its ends in the blocks that it takes in, so that what stands behind a
+  // block that is selected as a whole stays out of it. All of the page stays all of it.
+  function inward(range) {
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    const { body } = document;
+    const all = startContainer === body && endContainer === body && startOffset === 0 &&
+      endOffset === body.childNodes.length;
+    if (all) return range;
+    const result = range.cloneRange();
+    const enters = (node) => dom.isElement(node) && dom.isBlock(node) && !dom.isAtom(node) &&
+      node.tagName !== 'TABLE' && node.hasChildNodes();
+    const first = () => result.startContainer.childNodes[result.startOffset];
+    const last = () => result.endContainer.childNodes[result.endOffset - 1];
+    while (enters(first())) result.setStart(first(), 0);
+    while (enters(last())) result.setEnd(last(), last().childNodes.length);
+    withdraw(result);
+    return result.collapsed ? range : result;
+  }
+  // Whole paragraphs that were selected by three clicks end at the start of the one behind them.
+  function withdraw(range) {
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    const first = unitAt(startContainer, startOffset);
+    const behind = unitAt(endContainer, endOffset);
+    if (!first || !behind || sameUnit(first, behind) || hollow(first)) return;
+    if (!atEdge(caretAt(startContainer, startOffset), first, 'start')) return;
+    if (!atEdge(caretAt(endContainer, endOffset), behind, 'start')) return;
+    const leaf = [...velor.selection.leavesIn(range)]
+      .filter((each) => dom.isShown(each) && !behind.nodes.some((node) => node.contains(each)))
+      .at(-1);
+    if (dom.isText(leaf)) range.setEnd(leaf, leaf.length);
+    else if (leaf) range.setEndAfter(leaf);
+  }
+
   // True when the range begins in one paragraph and ends in another.
-  const spansUnits = (range) =>
-    !range.collapsed && !velor.selection.control(range) &&
-    !sameUnit(unitAt(range.startContainer, range.startOffset),
-      unitAt(range.endContainer, range.endOffset));
+  function spansUnits(range) {
+    if (range.collapsed || velor.selection.control(range)) return false;
+    const { startContainer, startOffset, endContainer, endOffset } = inward(range);
+    return !sameUnit(unitAt(startContainer, startOffset), unitAt(endContainer, endOffset));
+  }
 
   // A paragraph without content needs a break to be a line.
   function holdOpen(block) {
@@ -107,7 +141,9 @@
     let next = node;
     let at = offset;
     if (at === node.length) [next, at] = [node.nextSibling, 0];
-    if (blank(node, offset - 1) && blank(next, at)) next.replaceData(at, 1, '\u00a0');
+    if (!blank(node, offset - 1) || !blank(next, at)) return;
+    next.replaceData(at, 1, '\u00a0');
+    velor.blanks.hold(next, at, false);
   }
 
   // Deletes what is selected in one paragraph, as it stands; leaves a caret.
@@ -130,6 +166,11 @@
     holdOpen(block);
   }
 
+  function select({ startContainer, startOffset, endContainer, endOffset }) {
+    document.getSelection().setBaseAndExtent(
+      startContainer, startOffset, endContainer, endOffset);
+  }
+
   // Deletes what is selected, whatever it spans; leaves a caret.
   function remove(range) {
     const object = velor.selection.control(range);
@@ -142,14 +183,17 @@
       velor.selection.setCaret(parentNode, Math.min(index, parentNode.childNodes.length));
       return;
     }
+    const between = inward(range);
     if (!spansUnits(range)) {
+      select(between);
+      velor.blanks.watch();
       document.execCommand('delete');
+      velor.blanks.watched({ inputType: 'deleteContent' });
       return;
     }
-    const { startContainer, startOffset, endContainer, endOffset } = range;
+    const { startContainer, startOffset, endContainer, endOffset } = between;
     const first = unitAt(startContainer, startOffset);
     const second = unitAt(endContainer, endOffset);
-    const between = range.cloneRange();
     if (!first || !second || cellOf(startContainer) !== cellOf(endContainer)) {
       removeLeaves(between);
       velor.selection.setCaret(startContainer, startOffset);
@@ -253,5 +297,8 @@
     velor.selection.restore(kept);
   }
 
-  velor.deletion = { remove, cut, spansUnits, joining };
+  // Takes the ends of the selection into the blocks that it means, for the engine to type over.
+  const tighten = (range) => { if (!range.collapsed) select(inward(range)); };
+
+  velor.deletion = { remove, cut, spansUnits, joining, tighten };
 })();

@@ -25,7 +25,10 @@
   const isText = (node) => node?.nodeType === Node.TEXT_NODE;
   const named = (names) => (node) => isElement(node) && names.has(node.tagName);
   const isBlock = named(blocks);
-  const isAtom = (node) => named(atoms)(node) || (isElement(node) && node.tagName === 'svg');
+  // What is closed to editing is one thing too.
+  const isIsland = (node) => node.getAttribute('contenteditable')?.toLowerCase() === 'false';
+  const isAtom = (node) =>
+    isElement(node) && (atoms.has(node.tagName) || node.tagName === 'svg' || isIsland(node));
   const isBreak = (node) => isElement(node) && node.tagName === 'BR';
   const isNeutral = (node) => !isText(node) && (!isElement(node) || unseen.has(node.tagName));
   const isInline = (node) => isElement(node) && !isBlock(node) && !isNeutral(node);
@@ -46,8 +49,16 @@
   }
 
   // A division that stands for a paragraph: it carries an alignment at most.
+  const isAlignment = ({ name, value }) =>
+    name === 'align' || name === 'style' && /^\s*text-align\s*:[^;]*;?\s*$/i.test(value);
   const isPlainDivision = (node) => isElement(node) && node.tagName === 'DIV' &&
-    [...node.attributes].every(({ name }) => name === 'align');
+    [...node.attributes].every(isAlignment);
+
+  // The page's dialect: an HTML5 page has its looks in styles, an older one in FONT and align.
+  const writesStyles = () => {
+    const { doctype } = document;
+    return doctype?.name === 'html' && !doctype.publicId;
+  };
 
   const isShown = (node) => !isNeutral(node) && !isIgnorable(node);
 
@@ -143,6 +154,16 @@
     one.attributes.length === other.attributes.length &&
     [...one.attributes].every(({ name, value }) => other.getAttribute(name) === value);
 
+  // The same attributes, however their styles and colours are spelled.
+  function sameLooks(one, other) {
+    if (sameAttributes(one, other)) return true;
+    const looks = (element) => [...element.attributes].map(({ name, value }) => {
+      if (name === 'style') return element.style.cssText;
+      return name === 'color' || name === 'face' ? value.toLowerCase() : `${name}=${value}`;
+    }).sort().join('|');
+    return looks(one) === looks(other);
+  }
+
   const shownText = (node) => isText(node) && !isIgnorable(node);
   // True when the node shows something: text, a break or an object.
   function hasContent(node) {
@@ -161,11 +182,11 @@
 
   velor.dom = {
     isElement, isText, isBlock, isAtom, isBreak, isNeutral, isInline, isBlank, isIgnorable, isShown,
-    isPlainDivision,
+    isPlainDivision, writesStyles,
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),
     nextNode, nextSkippingChildren, ancestor, blockOf, firstLeaf, lastLeaf, create, successor,
-    rename, unwrap, wrap, twin, splitBefore, neighbour, sameAttributes, shownText, hasContent,
+    rename, unwrap, wrap, twin, splitBefore, neighbour, sameAttributes, sameLooks, shownText, hasContent,
     isHollow,
   };
 })();

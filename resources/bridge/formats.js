@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The character formats: how each is read at an element, which elements carry it and how it is
-// written. The old dialect (B, I, U, FONT) is what pages of this kind are made of.
+// written: B, I and U everywhere; fonts and colours as FONT in pages of the old dialect, as styles
+// in HTML5 pages.
 (() => {
   'use strict';
   const { velor } = globalThis;
@@ -76,12 +77,19 @@
   }
 
   // read(element): the value of text in it. tags: elements that are nothing but the format.
-  // attribute: FONT's. property: of an inline style. write(value): the element to put around text.
-  // refuse: the style that switches it off where no element of the text's own carries it.
+  // attribute: FONT's, with a value's spelling there. property: of an inline style, with a value's
+  // spelling there. write(value): the element to put around text.
   function format(entry) {
     const tags = new Set(entry.tags);
+    const spelled = (value) => value;
+    const { property, attribute, inAttribute = spelled, inStyle = spelled } = entry;
+    const style = (value) => css(property)(inStyle(value));
     return {
+      write: (value) => (attribute && !velor.dom.writesStyles()
+        ? create('FONT', { [attribute]: inAttribute(value) }) : style(value)),
       ...entry,
+      inAttribute,
+      isPlain: (element) => tags.has(element.tagName),
       carries: (element) => isInline(element) && (tags.has(element.tagName) ||
         (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) ||
         element.style.getPropertyValue(entry.property) !== ''),
@@ -112,8 +120,12 @@
     };
   }
 
-  const font = (attribute) => (value) => create('FONT', { [attribute]: value });
   const css = (property) => (value) => create('SPAN', { style: `${property}: ${value}` });
+
+  // Every name of a list of fonts; one of several words in quotes.
+  const fontFamily = (names) => names.split(',')
+    .map((name) => name.replace(/['"\\;]/g, '').trim())
+    .map((name) => (/^[a-z][a-z0-9-]*$/i.test(name) ? name : `'${name}'`)).join(', ');
 
   const formats = {
     bold: format({
@@ -132,20 +144,20 @@
     }),
     fontName: format({
       read: (element) => style(element).fontFamily.split(',')[0].trim().replace(/^["']|["']$/g, ''),
-      tags: [], attribute: 'face', property: 'font-family', write: font('face'),
+      tags: [], attribute: 'face', property: 'font-family', inStyle: fontFamily,
     }),
     fontSize: format({
       read: (element) => points(style(element).fontSize),
       parse: (value) => String(sizePoints[sizeNumber(value) - 1]),
-      tags: ['BIG', 'SMALL'], attribute: 'size', property: 'font-size',
-      write: (value) => font('size')(sizeNumber(value)),
+      tags: ['BIG', 'SMALL'], attribute: 'size', inAttribute: sizeNumber,
+      property: 'font-size', inStyle: (value) => `${value}pt`,
     }),
     foreColor: format({
       read: (element) => hex(style(element).color),
-      tags: [], attribute: 'color', property: 'color', write: font('color'), insideLinks: true,
+      tags: [], attribute: 'color', property: 'color', insideLinks: true,
     }),
     backColor: format({
-      read: background, tags: [], property: 'background-color', write: css('background-color'),
+      read: background, tags: [], property: 'background-color',
     }),
   };
   const same = (one, other) => String(one).toUpperCase() === String(other).toUpperCase();

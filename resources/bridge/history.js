@@ -113,7 +113,10 @@
     },
   });
 
-  const begin = (kind, before = points()) => {
+  // Where the document was at rest: the selection and the blanks that are held there.
+  const rest = () => ({ ...points(), held: velor.blanks.held() });
+
+  const begin = (kind, before = rest()) => {
     open = {
       kind, before, after: before, changes: [], seen: new Map(), names: new Map(), weight: 0,
     };
@@ -140,15 +143,15 @@
   function absorb(records) {
     if (records.length) {
       const alone = !open;
-      if (alone) begin('other', lastPoints ?? points());
+      if (alone) begin('other', lastPoints ?? rest());
       records.forEach(add);
-      open.after = points();
+      open.after = rest();
       redoable = [];
       beyond.redo = false;
       velor.contentChanged();
       if (alone) close();
     }
-    lastPoints = points();
+    lastPoints = rest();
   }
 
   function forgetOldest() {
@@ -197,10 +200,33 @@
     begin(kind);
   }
 
+  // A change that belongs to what was done last, and ends it.
+  function amend(change) {
+    settle();
+    const step = open ?? undoable.at(-1);
+    if (!step) return;
+    if (!open) Object.assign(step, { seen: new Map(), names: new Map() });
+    open = step;
+    const { after } = step;
+    const sealed = step.changes.length;
+    const wasClosed = undoable.at(-1) === step;
+    change();
+    observer.takeRecords().forEach(add);
+    step.after = { ...after, held: velor.blanks.held() };
+    if (wasClosed) {
+      step.changes.slice(sealed).forEach((each) => each.seal());
+      open = null;
+    } else {
+      close();
+    }
+    lastPoints = rest();
+    velor.contentChanged();
+  }
+
   // Takes the caret into the step at hand after the input was carried out.
   function arrive() {
     settle();
-    if (open) open.after = points();
+    if (open) open.after = rest();
   }
 
   function travel(from, to, way, place) {
@@ -215,7 +241,8 @@
     observer.takeRecords();
     to.push(step);
     select(step[place]);
-    lastPoints = points();
+    lastPoints = rest();
+    velor.blanks.reinstate(step[place].held);
     velor.contentChanged();
   }
 
@@ -237,12 +264,12 @@
     attributesOf(element) {
       if (open && !open.names.has(element)) open.names.set(element, element.getAttributeNames());
     },
-    step, expect, arrive, settle, finish,
+    step, amend, expect, arrive, settle, finish,
     undo() { travel(undoable, redoable, 'undo', 'before'); },
     redo() { travel(redoable, undoable, 'redo', 'after'); },
     canUndo: () => undoable.length > 0 || Boolean(open?.changes.length) || beyond.undo,
     canRedo: () => redoable.length > 0 || beyond.redo,
     // The selection moved without a change of the document.
-    selectionMoved() { if (!open?.changes.length) lastPoints = points(); },
+    selectionMoved() { if (!open?.changes.length) lastPoints = rest(); },
   };
 })();

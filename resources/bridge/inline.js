@@ -119,12 +119,13 @@
     const [only] = run;
     const wrapper = format.write(value);
     if (!wrapper) return null;
-    if (run.length === 1 && dom.isElement(only) && wrapper.tagName === only.tagName) {
-      if (only.tagName === 'FONT') {
-        only.setAttribute(format.attribute, wrapper.getAttribute(format.attribute));
+    if (run.length === 1 && dom.isElement(only)) {
+      // A FONT that is there is used in any dialect.
+      if (only.tagName === 'FONT' && format.attribute) {
+        only.setAttribute(format.attribute, format.inAttribute(value));
         return only;
       }
-      if (only.tagName === 'SPAN') {
+      if (only.tagName === 'SPAN' && wrapper.tagName === 'SPAN') {
         const before = (only.getAttribute('style') ?? '').replace(/;?\s*$/, '');
         const added = wrapper.getAttribute('style');
         only.setAttribute('style', before ? `${before}; ${added}` : added);
@@ -135,13 +136,23 @@
   }
 
   const mergeable = new Set(['B', 'EM', 'FONT', 'I', 'SPAN', 'STRONG', 'U', 'BIG', 'SMALL']);
-  function mergeWith(element, side) {
+  // True when both look the same: by the same markup, or each by a plain element of the format.
+  function alike(format, element, other) {
+    const plain = (each) => format.isPlain(each) && !each.attributes.length;
+    if (plain(element) && plain(other)) return true;
+    return other.tagName === element.tagName && mergeable.has(element.tagName) && !element.id &&
+      dom.sameLooks(element, other);
+  }
+  // Takes the neighbour into the element; the one that was there before gives its kind.
+  function mergeWith(format, element, side) {
     const other = element[side];
-    if (!dom.isElement(other) || other.tagName !== element.tagName || element.id) return;
-    if (!mergeable.has(element.tagName) || !dom.sameAttributes(element, other)) return;
-    if (side === 'previousSibling') element.prepend(...other.childNodes);
-    else element.append(...other.childNodes);
-    other.remove();
+    if (!dom.isElement(other) || !alike(format, element, other)) return element;
+    const back = side === 'previousSibling';
+    const [kept, gone] = other.tagName === element.tagName ? [element, other] : [other, element];
+    if ((kept === element) === back) kept.prepend(...gone.childNodes);
+    else kept.append(...gone.childNodes);
+    gone.remove();
+    return kept;
   }
 
   // Joins texts that were cut, keeping the given places ({node, offset}) where they are.
@@ -170,7 +181,11 @@
     };
     texts.forEach(around);
     const all = new Set(texts);
-    for (const carrier of carriersOf(entry, texts)) pushDown(entry, carrier, all);
+    for (const carrier of carriersOf(entry, texts)) {
+      // One that gives what is wanted, and not only back what an outer one takes, stays.
+      const reads = (element) => entry.same(entry.read(element), value);
+      if (!reads(carrier) || reads(carrier.parentElement)) pushDown(entry, carrier, all);
+    }
     const left = texts.filter((text) => !entry.same(entry.read(text.parentNode), value));
     const chosen = new Set(left);
     const covers = new Map();
@@ -178,8 +193,7 @@
     for (const run of runsOf(tops)) {
       const element = put(entry, run, value);
       if (!element) continue;
-      mergeWith(element, 'previousSibling');
-      mergeWith(element, 'nextSibling');
+      mergeWith(entry, mergeWith(entry, element, 'previousSibling'), 'nextSibling');
     }
     return touched;
   }

@@ -81,6 +81,7 @@
     const range = velor.selection.range();
     if (!range) return;
     if (velor.deletion.spansUnits(range)) velor.deletion.remove(range);
+    else velor.deletion.tighten(range);
     const [unit] = velor.units.unitsIn(velor.selection.range());
     if (needsParagraph(unit, event)) makeParagraph(unit);
     const holder = fills.has(event.inputType) ? holderOf(unit) : null;
@@ -94,7 +95,10 @@
     const own = velor.selection.control(range) || velor.deletion.spansUnits(range)
       ? () => velor.deletion.remove(range)
       : velor.deletion.joining(range, backward.test(event.inputType) ? 'start' : 'end');
-    if (!own) return false;
+    if (!own) {
+      velor.deletion.tighten(range);
+      return false;
+    }
     velor.history.step('delete', own);
     return true;
   }
@@ -125,6 +129,7 @@
     const kind = kindOf(event);
     velor.history.expect(kind, joins(event, kind));
     if (inputType.startsWith('insert') && kind !== 'drag') work(() => prepareInsertion(event));
+    velor.blanks.watch();
   }
 
   // A split paragraph leaves its id with the first half only.
@@ -145,6 +150,7 @@
     if (event.inputType === 'insertText') work(() => velor.pending.typed(event.data));
     const { anchorNode } = velor.selection.points();
     if (anchorNode) typedIn.add(anchorNode);
+    work(() => velor.blanks.watched(event));
     velor.pending.moved();
     velor.history.arrive();
     velor.schedulePush();
@@ -206,6 +212,7 @@
 
   function selectionChange() {
     velor.pending.selectionMoved();
+    velor.blanks.selectionMoved();
     velor.history.selectionMoved();
     velor.selectionMoved();
   }

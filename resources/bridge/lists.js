@@ -27,6 +27,17 @@
     return groups;
   }
 
+  // Old pages have lists directly in lists: such a list belongs to the item before it, or to one of
+  // its own. What is touched is put right.
+  function adopt(list) {
+    while (dom.isElement(list?.parentNode) && dom.isList(list) && dom.isList(list.parentNode)) {
+      const before = dom.neighbour(list, 'previousSibling');
+      if (isItem(before)) before.append(list);
+      else dom.wrap([list], dom.create('LI'));
+      list = list.parentNode.parentNode;
+    }
+  }
+
   // Cuts a list so that the group is all that it holds; returns that list.
   function isolate(group) {
     let list = group[0].parentNode;
@@ -90,6 +101,7 @@
       } else if (definition) {
         group.forEach((item) => dom.rename(item, inner));
       } else if (group[0].parentNode.tagName !== outer) {
+        adopt(group[0].parentNode);
         join(dom.rename(isolate(group), outer));
       }
     }
@@ -192,6 +204,7 @@
 
   // Nests items in the item before them. False for the first items of a list, which have none.
   function nest(group) {
+    adopt(group[0].parentNode);
     const before = dom.neighbour(group[0], 'previousSibling');
     if (!isItem(before)) return false;
     sublist(before, group[0].parentNode).append(...group);
@@ -199,6 +212,7 @@
   }
 
   function outdent(group) {
+    adopt(group[0].parentNode);
     if (group[0].tagName === 'LI' && isNested(group[0])) lift(group);
     else release(group);
   }

@@ -119,15 +119,19 @@
     }
   }
 
-  velor.pasteHTML = (html) => velor.history.step('pasteHTML', () => {
-    if (!velor.editable()) return;
-    velor.selection.ensure();
-    const fragment = parse(html);
+  // Puts a fragment in the place of the selection.
+  velor.put = (fragment) => {
     makeRoom(velor.selection.range(), fragment);
     if (!fragment.firstChild) return;
     dropTakenIds(fragment);
     const { startContainer, startOffset } = velor.selection.range();
     if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
     else putInline(fragment, startContainer, startOffset);
+  };
+
+  velor.pasteHTML = (html) => velor.history.step('pasteHTML', () => {
+    if (!velor.editable()) return;
+    velor.selection.ensure();
+    if (velor.selection.range()) velor.put(parse(html));
   });
 })();

@@ -10,12 +10,20 @@
   const controls = new Set(['APPLET', 'EMBED', 'HR', 'IFRAME', 'IMG', 'INPUT', 'OBJECT', 'SELECT',
     'TABLE', 'TEXTAREA', 'VIDEO', 'AUDIO', 'BUTTON', 'MARQUEE']);
 
+  // The inside of an island that is closed to editing is no place for a command.
+  function isClosed(node) {
+    const host = (isElement(node) ? node : node.parentElement)?.closest('[contenteditable]');
+    return host?.getAttribute('contenteditable').toLowerCase() === 'false';
+  }
+
   // The selected range when it lies in the body, else null.
   function range() {
     const selection = document.getSelection();
     if (!velor.editable() || !selection.rangeCount) return null;
     const selected = selection.getRangeAt(0);
-    return document.body.contains(selected.commonAncestorContainer) ? selected : null;
+    const { commonAncestorContainer } = selected;
+    if (!document.body.contains(commonAncestorContainer)) return null;
+    return isClosed(commonAncestorContainer) ? null : selected;
   }
 
   // The one object that the range holds, else null.
@@ -35,7 +43,7 @@
     const { anchorNode, anchorOffset, focusNode, focusOffset } = document.getSelection();
     return { anchorNode, anchorOffset, focusNode, focusOffset };
   };
-  const samePoints = (one, other) => Object.keys(one).every((key) => one[key] === other[key]);
+  const samePoints = (one, other) => Object.keys(points()).every((key) => one[key] === other[key]);
 
   const length = (node) => (isText(node) ? node.length : node.childNodes.length);
   function select({ anchorNode, anchorOffset, focusNode, focusOffset }) {
@@ -146,7 +154,8 @@
 
   // A page that was just loaded has its caret at the start.
   function ensure() {
-    if (!velor.editable() || range()) return;
+    const { anchorNode } = document.getSelection();
+    if (!velor.editable() || document.body.contains(anchorNode)) return;
     let leaf = document.body;
     for (const node of leavesIn({ startContainer: leaf, startOffset: 0, endContainer: leaf,
       endOffset: leaf.childNodes.length })) {

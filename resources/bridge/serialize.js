@@ -17,10 +17,20 @@
   const startsWithBreak = (element) => element.firstChild?.nodeType === Node.TEXT_NODE &&
     element.firstChild.data.startsWith('\n');
 
+  // The same node in a copy of its tree.
+  function counterpart(node, root, copy) {
+    if (node === root) return copy;
+    return counterpart(node.parentNode, root, copy).childNodes[velor.selection.indexOf(node)];
+  }
+
   function markup(root) {
     const starting = (top) => [...top.querySelectorAll(dropsFirstBreak)].filter(startsWithBreak);
-    if (!starting(root).length) return root.outerHTML;
+    const blanks = velor.blanks.meant().filter(({ node }) => root.contains(node));
+    if (!starting(root).length && !blanks.length) return root.outerHTML;
     const copy = root.cloneNode(true);
+    for (const { node, index, text } of blanks) {
+      counterpart(node, root, copy).replaceData(index, 1, text);
+    }
     starting(copy).forEach((element) => element.prepend('\n'));
     return copy.outerHTML;
   }

@@ -50,6 +50,18 @@ bool BridgeCase::IsDocument() const {
   return input.startsWith(QStringLiteral("<!")) || input.startsWith(QStringLiteral("<html"));
 }
 
+QString BridgeCase::Document() const {
+  if (IsDocument()) return input;
+  const QString doctype =
+      page == QStringLiteral("html5")
+          ? QStringLiteral("<!DOCTYPE html>")
+          : QStringLiteral(
+                "<!DOCTYPE html PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\" "
+                "\"http://www.w3.org/TR/html4/loose.dtd\">");
+  return doctype + QStringLiteral("<html><head></head><body>") + input +
+         QStringLiteral("</body></html>");
+}
+
 std::vector<BridgeCase> ReadBridgeCases(const QString &folder) {
   std::vector<BridgeCase> cases;
   const QStringList files =
@@ -60,7 +72,9 @@ std::vector<BridgeCase> ReadBridgeCases(const QString &folder) {
       const QString key = line.section(QStringLiteral(": "), 0, 0);
       const QString value = Unescaped(line.section(QStringLiteral(": "), 1));
       if (key == QStringLiteral("name")) {
-        cases.push_back({path, value, {}, {}, {}, {}, {}});
+        cases.push_back({path, value, {}, {}, {}, {}, {}, {}});
+      } else if (key == QStringLiteral("page")) {
+        cases.back().page = value;
       } else if (key == QStringLiteral("input")) {
         cases.back().input = value;
       } else if (key == QStringLiteral("before")) {
@@ -104,6 +118,10 @@ void Perform(BridgePage &page, const QString &step) {
     page.Press(QKeySequence::fromString(value, QKeySequence::PortableText));
   } else if (verb == QStringLiteral("pasteHTML")) {
     page.Evaluate(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptText(value)));
+  } else if (verb == QStringLiteral("pasteForeign") || verb == QStringLiteral("pasteText")) {
+    const QString type = verb == QStringLiteral("pasteText") ? QStringLiteral("text/plain")
+                                                             : QStringLiteral("text/html");
+    page.Evaluate(QStringLiteral("markup.paste(%1, %2)").arg(ScriptText(type), ScriptText(value)));
   } else if (CommandNumbers().count(verb) == 1) {
     page.Evaluate(
         QStringLiteral("velor.exec(%1, %2)").arg(CommandNumbers().at(verb)).arg(ScriptText(value)));

@@ -15,6 +15,7 @@ class BridgePage;
 /// In a file a case is a block of lines between blank lines; a line that begins with "#" is a
 /// comment:
 ///     name: Bold makes the selected word bold
+///     page: html5                    an HTML5 page; without the line one of the old dialect
 ///     input: <p>one ^two|</p>        "^" anchor, "|" focus, a "|" alone the caret
 ///     before: bold=3                 the state that is reported at first
 ///     do: bold                       any number of them; see Perform
@@ -25,6 +26,7 @@ class BridgePage;
 struct BridgeCase {
   QString file;
   QString name;
+  QString page;
   QString input;
   QString stateBefore;
   QStringList steps;
@@ -32,6 +34,8 @@ struct BridgeCase {
   QString expected;
 
   bool IsDocument() const;
+  /// The document to load.
+  QString Document() const;
 };
 
 /// All cases of the folder's *.txt files.

@@ -43,9 +43,7 @@ TEST_P(BridgeCases, GivesWhatItsFileSays) {
   const bool whole = subject.IsDocument();
   const QString read =
       whole ? QStringLiteral("velor.serialize()") : QStringLiteral("markup.read()");
-  page_->Load(whole ? subject.input
-                    : QStringLiteral("<!DOCTYPE html><html><head></head><body>%1</body></html>")
-                          .arg(subject.input));
+  page_->Load(subject.Document());
   const QString loaded = Text(QStringLiteral("velor.serialize()"));
   const QString faults = Text(QStringLiteral("markup.faults()"));
   EXPECT_EQ(ActualState(*page_, subject.stateBefore).toStdString(),

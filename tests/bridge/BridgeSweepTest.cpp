@@ -12,11 +12,13 @@
 namespace velor {
 namespace {
 
-TEST(BridgeSweep, EveryCommandKeepsTheRulesOnEveryPage) {
+class BridgeSweep : public ::testing::TestWithParam<const char *> {};
+
+TEST_P(BridgeSweep, EveryCommandKeepsTheRulesOnEveryPage) {
   QFile script(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/sweep.js"));
   ASSERT_TRUE(script.open(QIODevice::ReadOnly));
   BridgePage page;
-  page.Load(QStringLiteral("<!DOCTYPE html><p>one|</p>"));
+  page.Load(QString::fromLatin1(GetParam()) + QStringLiteral("<p>one|</p>"));
   page.Evaluate(QString::fromUtf8(script.readAll()));
   for (const BridgeCase &subject :
        ReadBridgeCases(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/cases"))) {
@@ -25,6 +27,8 @@ TEST(BridgeSweep, EveryCommandKeepsTheRulesOnEveryPage) {
     EXPECT_EQ(page.Evaluate(call).toString().toStdString(), "") << qPrintable(subject.input);
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(Dialects, BridgeSweep, ::testing::Values("", "<!DOCTYPE html>"));
 
 TEST(BridgeVocabulary, KnowsEveryCommandByItsNumber) {
   BridgePage page;

@@ -212,6 +212,27 @@ TEST_F(Bridge, StartsAgainOnADocumentSetInPlace) {
   EXPECT_EQ(Text(QStringLiteral("document.body.innerHTML")), QStringLiteral("<p>two</p>"));
 }
 
+TEST_F(Bridge, WritesABlankThatWasTypedAtTheEndAsABlankAtOnce) {
+  Load(QStringLiteral("<p>one|</p>"));
+  page_.Type(QStringLiteral(" "));
+  EXPECT_TRUE(Text(QStringLiteral("velor.serialize()")).contains(QStringLiteral("<p>one </p>")));
+  page_.Type(QStringLiteral("two"));
+  EXPECT_TRUE(Text(QStringLiteral("velor.serialize()")).contains(QStringLiteral("<p>one two</p>")));
+}
+
+TEST_F(Bridge, AppliesNothingInsideAnIslandThatIsClosedToEditing) {
+  Load(QStringLiteral("<p>one|<span contenteditable='false'>two</span></p>"));
+  Evaluate(QStringLiteral("getSelection().setBaseAndExtent(document.querySelector('span'), 0,"
+                          "                                document.querySelector('span'), 1)"));
+  const QString loaded = Text(QStringLiteral("velor.serialize()"));
+  for (const int number : {5000, 5004, 5024, 5051}) {
+    EXPECT_EQ(Evaluate(QStringLiteral("velor.status(%1)").arg(number)).toInt(), 1);
+    Evaluate(QStringLiteral("velor.exec(%1)").arg(number));
+  }
+  Evaluate(QStringLiteral("velor.pasteHTML('<b>x</b>')"));
+  EXPECT_EQ(Text(QStringLiteral("velor.serialize()")), loaded);
+}
+
 TEST_F(Bridge, NeverRunsAScriptThatIsPutIn) {
   Load(QStringLiteral("<p>one|</p>"));
   Evaluate(

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QMimeData>
 #include <QTest>
 #include <QWebEngineView>
 #include <QWheelEvent>
@@ -124,6 +125,44 @@ TEST_F(Editing, ACopiedLinkOrPicturePastedAgainKeepsItsRelativeAddress) {
   EXPECT_EQ(editor_->DocumentHTML().count(QStringLiteral("pic.gif")), 1) << Seen().constData();
 }
 
+TEST_F(Editing, WhatIsCopiedHasTextAndMarkupThatHoldsElsewhere) {
+  LoadWithCaret("<p>x <b><a href=\"sub/other.htm\">link</a></b> y</p>", QStringLiteral("p"));
+  Evaluate(QStringLiteral("getSelection().selectAllChildren(document.querySelector('a'))"));
+  Exec(EditingCommand::Copy);
+  const QMimeData *data = nullptr;
+  ASSERT_TRUE(WaitFor([&] {
+    data = QApplication::clipboard()->mimeData();
+    return data != nullptr && data->hasHtml();
+  }));
+  EXPECT_EQ(data->text(), QStringLiteral("link"));
+  EXPECT_TRUE(data->html().contains(QStringLiteral("<b><a href=\"file://%1\">link</a></b>")
+                                        .arg(Native(QStringLiteral("sub/other.htm")))))
+      << qPrintable(data->html());
+  EXPECT_FALSE(data->html().contains(u"velor-page"));
+}
+
+TEST_F(Editing, ControlShiftAndVPasteTheTextOnly) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  auto *data = new QMimeData;
+  data->setHtml(QStringLiteral("<h1><b>two</b></h1>"));
+  data->setText(QStringLiteral("two"));
+  QApplication::clipboard()->setMimeData(data);
+  Key(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>Onetwo</p>"))) << Seen().constData();
+}
+
+TEST_F(Editing, APasteFromElsewhereIsCleaned) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  auto *data = new QMimeData;
+  data->setHtml(QStringLiteral(
+      "<p class=MsoNormal style='mso-x:y'>two <b>three</b><o:p></o:p></p><p>four</p>"));
+  data->setText(QStringLiteral("two three"));
+  QApplication::clipboard()->setMimeData(data);
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>One</p><p>two <b>three</b></p><p>four</p>")))
+      << Seen().constData();
+}
+
 TEST_F(Editing, ACommandIsInTheDocumentReadRightAfterIt) {
   LoadWithCaret("<p>One</p>", QStringLiteral("p"));
   for (int round = 0; round < 20; ++round) {
@@ -140,6 +179,26 @@ TEST_F(Editing, TypedTextIsInTheDocumentReadRightAfterIt) {
     TypeText(QStringLiteral("ab"));
     typed += QStringLiteral("ab");
     EXPECT_TRUE(DocumentHolds(typed + QStringLiteral("</p>"))) << Seen().constData();
+  }
+}
+
+TEST_F(Editing, ACommandDoesNotOvertakeTheKeysBeforeIt) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  for (int round = 0; round < 30; ++round) {
+    TypeText(QStringLiteral("ab"));
+    Exec(EditingCommand::Undo);
+    EXPECT_TRUE(DocumentHolds(QStringLiteral("<p>One</p>"))) << Seen().constData();
+  }
+}
+
+TEST_F(Editing, PastedMarkupComesBehindTheKeysBeforeIt) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  QString typed = QStringLiteral("One");
+  for (int round = 0; round < 10; ++round) {
+    TypeText(QStringLiteral("ab"));
+    editor_->Document().Selection().CreateRange()->PasteHTML(QStringLiteral("-"));
+    typed += QStringLiteral("ab-");
+    EXPECT_TRUE(DocumentHolds(typed)) << Seen().constData();
   }
 }
 

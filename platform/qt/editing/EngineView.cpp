@@ -14,6 +14,7 @@
 #include <QWebEngineView>
 
 #include <memory>
+#include <utility>
 
 namespace velor {
 
@@ -65,12 +66,13 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   connect(&host_, &BridgeHost::LaterWanted, this, [this] {
     if (phase_ == Phase::Ready) Q_EMIT LaterWanted();
   });
-  connect(&host_, &BridgeHost::InputArrived, this, [this] {
-    sinceInput_.invalidate();
-    engine_.Guard().Wake();
-  });
+  connect(&host_, &BridgeHost::InputArrived, this, &EngineView::InputArrived);
+  patience_.setSingleShot(true);
+  patience_.setInterval(inputTravel);
+  connect(&patience_, &QTimer::timeout, this, &EngineView::InputArrived);
   connect(input_, &EditorInput::InputComing, this, [this] {
     sinceInput_.start();
+    followed_ = false;
     Q_EMIT InputComing();
   });
   connect(view_, &QWebEngineView::customContextMenuRequested, this, [this](QPoint position) {
@@ -115,6 +117,8 @@ void EngineView::Load(const QString &nativePath, const QString &text, const QStr
   address_ = engine_.Scheme().Offer(nativePath, text);
   start_ = start;
   startAnswer_ = {};
+  behindInput_.clear();
+  sinceInput_.invalidate();
   const QWidget *focused = view_->window()->focusWidget();
   hadFocus_ = focused != nullptr && (focused == view_ || view_->isAncestorOf(focused));
   phase_ = Phase::Loading;
@@ -134,7 +138,30 @@ void EngineView::EndLoad(Phase phase) {
 
 void EngineView::Run(const QString &expression,
                      const std::function<void(const QVariant &)> &answer) {
-  if (CurrentPhase() == Phase::Ready) Evaluate(expression, answer);
+  if (CurrentPhase() != Phase::Ready) return;
+  if (!InputOnItsWay() && behindInput_.empty()) return Evaluate(expression, answer);
+  behindInput_.push_back({expression, answer});
+  if (behindInput_.size() == 1) FollowInput();
+}
+
+bool EngineView::InputOnItsWay() const {
+  return sinceInput_.isValid() && !sinceInput_.hasExpired(inputTravel.count());
+}
+
+void EngineView::FollowInput() {
+  // Let go after all the others, this key says when they are there (resources/bridge/arrivals.js).
+  followed_ = true;
+  QKeyEvent last(QEvent::KeyRelease, Qt::Key_F24, Qt::NoModifier);
+  QCoreApplication::sendEvent(view_->focusProxy(), &last);
+  patience_.start();
+}
+
+void EngineView::InputArrived() {
+  if (followed_) sinceInput_.invalidate();
+  patience_.stop();
+  for (const Expression &each : std::exchange(behindInput_, {}))
+    if (CurrentPhase() == Phase::Ready) Evaluate(each.text, each.answer);
+  engine_.Guard().Wake();
 }
 
 void EngineView::Evaluate(const QString &expression,
@@ -166,10 +193,8 @@ std::optional<QVariant> EngineView::Ask(const QString &expression,
 
 void EngineView::AwaitInput() {
   if (CurrentPhase() != Phase::Ready || engine_.Guard().InCallback()) return;
-  if (!sinceInput_.isValid() || sinceInput_.hasExpired(inputTravel.count())) return;
-  // Let go after all the others, this key says when they are there (resources/bridge/arrivals.js).
-  QKeyEvent last(QEvent::KeyRelease, Qt::Key_F24, Qt::NoModifier);
-  QCoreApplication::sendEvent(view_->focusProxy(), &last);
+  if (!InputOnItsWay()) return;
+  FollowInput();
   Wait(inputTravel, [this] { return !sinceInput_.isValid() || CurrentPhase() != Phase::Ready; });
 }
 

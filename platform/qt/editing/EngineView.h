@@ -6,12 +6,14 @@
 
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QTimer>
 #include <QVariant>
 #include <QWebChannel>
 
 #include <chrono>
 #include <functional>
 #include <optional>
+#include <vector>
 
 class QWebEngineView;
 
@@ -46,7 +48,9 @@ class EngineView : public QObject {
   void Load(const QString &nativePath, const QString &text, const QString &start);
   const QVariant &StartAnswer() const { return startAnswer_; }
 
-  /// Evaluates an expression; `answer`, where given, is called from inside the engine.
+  /// Evaluates an expression; `answer`, where given, is called from inside the engine. Expressions
+  /// go one after the other and behind the keys that were pressed before: while such keys may still
+  /// be on their way, which is another one, the expression waits for them here.
   void Run(const QString &expression, const std::function<void(const QVariant &)> &answer = {});
   /// Evaluates an expression and waits for its value. Nothing when the page is not ready, dies
   /// or does not answer in time; then, and only then, `this` may be gone.
@@ -75,7 +79,16 @@ class EngineView : public QObject {
   void InputComing();
 
  private:
+  struct Expression {
+    QString text;
+    std::function<void(const QVariant &)> answer;
+  };
+
   void Evaluate(const QString &expression, const std::function<void(const QVariant &)> &answer);
+  bool InputOnItsWay() const;
+  /// Asks the page to tell when the input sent so far is there.
+  void FollowInput();
+  void InputArrived();
   void EndLoad(Phase phase);
 
   EditingEngine &engine_;
@@ -90,6 +103,9 @@ class EngineView : public QObject {
   QString start_;
   QVariant startAnswer_;
   QElapsedTimer sinceInput_;  ///< invalid when all of it is known to have arrived
+  bool followed_ = false;     ///< FollowInput came after the last of it
+  std::vector<Expression> behindInput_;
+  QTimer patience_;  ///< for a page that does not say that the input is there
 };
 
 }  // namespace velor

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Copying, cutting and pasting. What is copied carries full addresses, so that it is of use
+// elsewhere; what comes in is cleaned unless it was copied here.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const dom = velor.dom;
+
+  // Says in copied markup that it comes from this program and needs no cleaning.
+  const origin = '<meta name="generator" content="Velor Web Creator">';
+
+  // What must be around a part of the page for it to mean the same elsewhere.
+  const holds = (node) => dom.isInline(node) || dom.isList(node) ||
+    /^(DL|TABLE|TBODY|THEAD|TFOOT|TR|PRE)$/.test(node.tagName);
+  function contextOf(range) {
+    const elements = [];
+    let at = range.commonAncestorContainer;
+    if (dom.isText(at)) at = at.parentNode;
+    for (; holds(at); at = at.parentNode) elements.push(at);
+    return elements;
+  }
+
+  function copied(range) {
+    let content = range.cloneContents();
+    for (const element of contextOf(range)) {
+      const shell = element.cloneNode(false);
+      shell.append(content);
+      content = shell;
+    }
+    const holder = dom.create('DIV');
+    holder.append(content);
+    velor.addresses.widen(holder);
+    return holder.innerHTML;
+  }
+
+  const isForms = (node) => dom.isElement(node) && node.closest('input, textarea, select');
+
+  function copy(event) {
+    const range = velor.selection.range();
+    if (!range || range.collapsed || isForms(event.target)) return null;
+    event.preventDefault();
+    event.clipboardData.setData('text/html', origin + copied(range));
+    event.clipboardData.setData('text/plain', document.getSelection().toString());
+    return range;
+  }
+
+  function cut(event) {
+    const range = copy(event);
+    if (!range) return;
+    velor.history.step('deleteByCut', () => velor.deletion.remove(range));
+    velor.schedulePush();
+  }
+
+  // Lines of text: paragraphs where empty lines part them, else lines of one.
+  function lines(text) {
+    const fragment = document.createDocumentFragment();
+    const broken = (block) => block.split('\n').flatMap((line, index) =>
+      (index ? [dom.create('BR'), line] : [line]));
+    const blocks = text.replace(/\r\n?/g, '\n').replace(/^\n+|\n+$/g, '').split(/\n(?:[ \t]*\n)+/);
+    if (blocks.length < 2) {
+      fragment.append(...broken(blocks[0]));
+      return fragment;
+    }
+    for (const block of blocks) {
+      const paragraph = dom.create('P');
+      paragraph.append(...broken(block));
+      fragment.append(paragraph);
+    }
+    return fragment;
+  }
+  function textFragment(text, range) {
+    const pre = dom.ancestor(range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName));
+    if (!pre) return lines(text);
+    const fragment = document.createDocumentFragment();
+    fragment.append(text.replace(/\r\n?/g, '\n'));
+    return fragment;
+  }
+
+  function fragmentOf(data, range) {
+    const html = data.getData('text/html');
+    if (!html.trim()) return textFragment(data.getData('text/plain'), range);
+    if (!html.includes(origin)) return velor.cleaned(html);
+    const own = document.createElement('template');
+    own.innerHTML = html.replace(origin, '');
+    for (const element of own.content.querySelectorAll('meta[charset]')) element.remove();
+    return document.importNode(own.content, true);
+  }
+
+  // One paragraph means its text, which joins the one that the caret is in: programs put a P around
+  // a single word. On an empty page it stays what it is.
+  function unwrapSingle(fragment, { startContainer }) {
+    const shown = [...fragment.childNodes].filter(dom.isShown);
+    const [only] = shown;
+    if (shown.length !== 1 || only.tagName !== 'P' || only.attributes.length) return;
+    if (startContainer !== document.body || dom.hasContent(document.body)) dom.unwrap(only);
+  }
+
+  // No id may be in a page twice.
+  function dropKnownIds(fragment) {
+    for (const element of fragment.querySelectorAll('[id]')) {
+      if (document.getElementById(element.id)) element.removeAttribute('id');
+    }
+  }
+
+  function paste(event) {
+    if (!velor.editable() || isForms(event.target)) return;
+    event.preventDefault();
+    const range = velor.selection.range();
+    if (!range) return;
+    const fragment = fragmentOf(event.clipboardData, range);
+    unwrapSingle(fragment, range);
+    dropKnownIds(fragment);
+    velor.addresses.narrow(fragment);
+    if (!fragment.hasChildNodes()) return;
+    velor.history.step('insertFromPaste', () => velor.put(fragment));
+    velor.schedulePush();
+  }
+
+  velor.listenToClipboard = () => {
+    document.addEventListener('copy', copy, true);
+    document.addEventListener('cut', cut, true);
+    document.addEventListener('paste', paste, true);
+  };
+})();
