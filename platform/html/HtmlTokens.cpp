@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/html/HtmlTokens.h"
 
-#include "platform/html/CharacterReferences.h"
 #include "platform/html/HtmlElements.h"
+#include "platform/html/TextCharacters.h"
 
 #include <QSet>
 
@@ -73,27 +73,6 @@ TextClass ClassOf(char32_t character) {
   if (IsEastAsian(character)) return TextClass::Sign;
   return QChar::isLetterOrNumber(character) || QChar::isMark(character) ? TextClass::Letter
                                                                         : TextClass::Sign;
-}
-
-/// A character of text, or the two that one reference stands for.
-struct TextCharacter {
-  char32_t first = 0;
-  char32_t second = 0;
-  qsizetype length = 1;
-};
-
-TextCharacter CharacterAt(QStringView text, qsizetype at) {
-  const QChar unit = text[at];
-  if (unit == u'&') {
-    const CharacterReference reference = ReadReference(text, at, ReferencePlace::Text);
-    if (reference.length > 0) return {reference.first, reference.second, reference.length};
-  } else if (unit == u'\r') {
-    const bool isPair = at + 1 < text.size() && text[at + 1] == u'\n';
-    return {u'\n', 0, isPair ? 2 : 1};
-  } else if (unit.isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) {
-    return {QChar::surrogateToUcs4(unit, text[at + 1]), 0, 2};
-  }
-  return {unit.unicode(), 0, 1};
 }
 
 class Tokenizer {

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/html/FaithfulPage.h"
+
+#include "platform/html/PageVerifier.h"
+#include "platform/html/SourcePatches.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velor {
+
+namespace {
+
+/// More tries than this would keep a person waiting longer than a page written anew is worth.
+constexpr int mostTries = 24;
+
+qsizetype FirstDifference(QStringView one, QStringView other) {
+  const auto [end, unused] = std::mismatch(one.begin(), one.end(), other.begin(), other.end());
+  return end - one.begin();
+}
+
+}  // namespace
+
+/// How one serialisation is written.
+struct FaithfulPage::Plan {
+  Plan(const QString &current, const TokenText &source, const TokenText &before,
+       const TokenAlignment &sourceToBefore, LineEnds lineEnds)
+      : now(current),
+        alignment(AlignTokens(before.tokens, now.tokens, InStep::WithEdit)),
+        edits(FindEdits(before, now, alignment)),
+        steps(edits.size()),
+        patcher(source, before, now, sourceToBefore, alignment, lineEnds) {}
+
+  /// The edit that is most likely behind a first difference at that place of the document.
+  PatchStep &StepAt(qsizetype place) {
+    std::size_t found = 0;
+    for (std::size_t number = 0; number < edits.size(); ++number) {
+      const std::int32_t token = edits[number].now;
+      if (token < now.Count() && now.At(token).offset > place) break;
+      found = number;
+    }
+    return steps[found];
+  }
+
+  TokenText now;
+  TokenAlignment alignment;
+  std::vector<PageEdit> edits;
+  std::vector<PatchStep> steps;
+  SourcePatches patcher;
+  std::optional<SavedPage> result;
+};
+
+FaithfulPage::FaithfulPage(PageOriginal original)
+    : original_(std::move(original)), mask_(original_.page.text) {}
+
+void FaithfulPage::SetBaseline(const QString &serialisation) {
+  original_.baseline = serialisation;
+  before_.reset();
+  plan_.reset();
+}
+
+void FaithfulPage::Prepare() {
+  if (!source_) source_.emplace(mask_.MaskedText());
+  if (before_) return;
+  before_.emplace(original_.baseline);
+  sourceToBefore_ = AlignTokens(source_->tokens, before_->tokens, InStep::WithSerialisation);
+}
+
+FaithfulPage::Plan &FaithfulPage::PlanFor(const QString &current) {
+  Prepare();
+  if (plan_ == nullptr || plan_->now.text != current)
+    plan_ = std::make_shared<Plan>(current, *source_, *before_, sourceToBefore_,
+                                   original_.page.encoding.lineEnds);
+  return *plan_;
+}
+
+std::optional<QString> FaithfulPage::FirstTry(const QString &current) {
+  if (original_.baseline.isEmpty() || current == original_.baseline) return std::nullopt;
+  const Plan &plan = PlanFor(current);
+  const auto patches = plan.patcher.For(plan.edits, plan.steps);
+  if (!patches) return std::nullopt;
+  return Patched(mask_.MaskedText(), *patches);
+}
+
+SavedPage FaithfulPage::Compose(const QString &current, PageVerifier &verifier) {
+  if (original_.baseline.isEmpty()) return Everything(current);
+  if (current == original_.baseline)
+    return {{original_.page.text, original_.bytes}, SaveRung::Unedited};
+  PlanFor(current);
+  // The verifier may wait for the engine, and another call may come meanwhile.
+  const std::shared_ptr<Plan> plan = plan_;
+  if (!plan->result) plan->result = Climb(*plan, verifier);
+  return *plan->result;
+}
+
+SavedPage FaithfulPage::Climb(Plan &plan, PageVerifier &verifier) const {
+  const QString &wanted = plan.now.text;
+  std::optional<QString> wantedAgain;  // what the document wanted is once it has been parsed again
+  for (int tries = 0; tries < mostTries; ++tries) {
+    const auto patches = plan.patcher.For(plan.edits, plan.steps);
+    if (!patches) break;
+    const auto document = verifier.Serialisation(Patched(mask_.MaskedText(), *patches));
+    if (!document) break;
+    if (*document != wanted && !wantedAgain) wantedAgain = verifier.Serialisation(wanted);
+    if (*document == wanted || document == wantedAgain) {
+      const auto highest = std::max_element(
+          plan.steps.begin(), plan.steps.end(),
+          [](const PatchStep &a, const PatchStep &b) { return a.number < b.number; });
+      const int step = highest == plan.steps.end() ? 0 : highest->number;
+      return Splice(*patches, step == PatchStep::alone             ? SaveRung::Edits
+                              : step == PatchStep::withImpliedTags ? SaveRung::ImpliedTags
+                                                                   : SaveRung::Elements);
+    }
+    if (plan.steps.empty()) break;
+    ++plan.StepAt(FirstDifference(wanted, *document)).number;
+  }
+  return Everything(wanted);
+}
+
+SavedPage FaithfulPage::Splice(const std::vector<TextPatch> &patches, SaveRung rung) const {
+  std::vector<TextPatch> own;
+  const QString &masked = mask_.MaskedText();
+  for (const TextPatch &patch : patches) {
+    const qsizetype start = mask_.OutOfMask(patch.start, PageMask::Edge::Start);
+    const qsizetype end = mask_.OutOfMask(patch.end, PageMask::Edge::End);
+    const QString text = masked.mid(start, patch.start - start) + patch.text +
+                         masked.mid(patch.end, end - patch.end);
+    own.push_back({mask_.ToSource(start, PageMask::Edge::Start),
+                   mask_.ToSource(end, PageMask::Edge::End), mask_.Unmask(text)});
+  }
+  return {SpliceBytes(original_, own), rung};
+}
+
+SavedPage FaithfulPage::Everything(const QString &current) const {
+  const PageEncoding &encoding = original_.page.encoding;
+  return {WriteWhole(WithLineEnds(mask_.Unmask(current), encoding.lineEnds), encoding),
+          SaveRung::Everything};
+}
+
+}  // namespace velor
