@@ -2,7 +2,6 @@
 #include "editor/modGeneral.h"
 
 #include "platform/RuntimeError.h"
-#include "platform/html/PageEncoding.h"
 
 namespace velor::modGeneral {
 
@@ -16,8 +15,9 @@ QString ReadWholeFile(const Files &files, const QString &path) {
   return DecodePage(files.ReadAll(path)).text;
 }
 
-void WriteTextFile(Files &files, const QString &path, const QString &text) {
-  files.ReplaceAll(path, EncodePage(text + QStringLiteral("\r\n"), DeclaredEncoding(text)));
+void WriteTextFile(Files &files, const QString &path, const QString &text,
+                   const PageEncoding &page) {
+  files.ReplaceAll(path, EncodePage(text + QStringLiteral("\r\n"), EncodingInPlaceOf(page, text)));
 }
 
 QString FileNameOfPath(const QString &path) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/ElementPlace.h"
 #include "platform/HtmlDocument.h"
 
 #include <QPoint>
@@ -65,7 +66,12 @@ class EditingComponent {
 
   /// Replaces the document by a file's; returns when it is parsed. Links resolve against the file.
   /// `path` in logic form. Raises RuntimeError when the file cannot be read; the old page stays.
+  /// Where a document was loaded or set already whose links resolve against the same folder, the
+  /// exchange is one step of the undo history, and undo brings back that document with its bytes.
   virtual void LoadDocument(const QString &path) = 0;
+  /// Like LoadDocument of a file that holds `html`, without looking at the file, which need not
+  /// exist.
+  virtual void LoadText(const QString &html, const QString &path) = 0;
   /// Writes the document to a file in the page's own charset and line ends. Raises RuntimeError
   /// when the file cannot be written; an old file then stays whole.
   virtual void SaveDocument(const QString &path) = 0;
@@ -74,6 +80,14 @@ class EditingComponent {
 
   /// The WHATWG name of the page's charset ("big5", "utf-8", "windows-1252" ...).
   virtual QString Charset() const = 0;
+  /// Whether the page's bytes begin with a byte order mark.
+  virtual bool HasByteOrderMark() const = 0;
+
+  /// Where the caret, or the start of the selection, stands; empty where there is none or the page
+  /// does not answer.
+  virtual ElementPlaces CaretPlaces() = 0;
+  /// Puts the caret to the first of these places that the document has, and brings it into sight.
+  virtual void ShowPlace(const ElementPlaces &places) = 0;
 
   /// Carries out a command (EditingCommands.h) or, for a query command, answers its value: font
   /// name, block format name and size as text, colours as "#RRGGBB"; the empty text where the

@@ -77,6 +77,15 @@ PageEncoding DeclaredEncoding(const QString &text) {
   return encoding;
 }
 
+PageEncoding EncodingInPlaceOf(const PageEncoding &page, const QString &text) {
+  PageEncoding encoding = page;
+  encoding.lineEnds = MostCommonLineEnds(text);
+  if (page.byteOrderMark) return encoding;
+  const QString declared = DeclaredCharset(text.left(PrescanBytes).toLatin1());
+  if (!declared.isEmpty()) encoding.charset = declared;
+  return encoding;
+}
+
 QString WithLineEnds(const QString &text, LineEnds ends) {
   QString result = text;
   result.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');

@@ -39,6 +39,10 @@ QByteArray EncodePage(const QString &text, const PageEncoding &encoding);
 /// byte order mark; line ends as found in the text.
 PageEncoding DeclaredEncoding(const QString &text);
 
+/// How to write a text that takes the place of a page read as `page`: a byte order mark stays and
+/// decides, as it does for browsers; else what the text declares, else the page's charset.
+PageEncoding EncodingInPlaceOf(const PageEncoding &page, const QString &text);
+
 /// The WHATWG name for a label ("latin1" is "windows-1252"); empty for a label that is none.
 QString CharsetForLabel(const QString &label);
 

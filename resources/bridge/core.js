@@ -31,7 +31,9 @@
     waiting = false;
     if (!velor.host) return;
     velor.history.settle();
-    velor.host.pushState(JSON.stringify({ version: ++velor.version, dirty, ...velor.state() }));
+    velor.host.pushState(JSON.stringify({
+      version: ++velor.version, dirty, generation: velor.generation(), ...velor.state(),
+    }));
     // After the state: the toolbar does not wait for it.
     if (dirty && mirrorFits) {
       const html = velor.serialize();
@@ -79,7 +81,7 @@
     velor.selection.ensure();
     // Without a focused element the engine drops typed characters until the first click.
     if (velor.editable()) document.body.focus({ preventScroll: true });
-    velor.history.start();
+    velor.history.start(options);
     velor.pending.clear();
     velor.listenToKeys();
     velor.listenToPointer();

@@ -17,6 +17,8 @@
   let undoable = [];
   let redoable = [];
   let lastPoints = null;  // the selection when the document was last at rest
+  // Whether the program has documents to go back or on to where these steps end.
+  let beyond = { undo: false, redo: false };
 
   const textChange = (node, old) => ({
     weight: 0,
@@ -92,9 +94,14 @@
       if (!same) parent.replaceChildren(...children);
     }
   };
+  const weightOf = (node) => nodeWeight + (node.firstChild
+    ? node.getElementsByTagName('*').length * nodeWeight + node.textContent.length : 0);
   const childChange = ({ target, addedNodes, removedNodes, nextSibling }) => ({
-    weight: nodeWeight * (1 + addedNodes.length + removedNodes.length),
-    seal() {},
+    weight: nodeWeight * (1 + addedNodes.length),
+    // What has left the document is kept by this step alone.
+    seal() {
+      for (const node of removedNodes) if (!node.isConnected) this.weight += weightOf(node);
+    },
     undo() {
       this.under = hangings(addedNodes);
       exchange(target, addedNodes, removedNodes, nextSibling);
@@ -137,6 +144,7 @@
       records.forEach(add);
       open.after = points();
       redoable = [];
+      beyond.redo = false;
       velor.contentChanged();
       if (alone) close();
     }
@@ -198,7 +206,10 @@
   function travel(from, to, way, place) {
     finish();
     const step = from.pop();
-    if (!step) return;
+    if (!step) {
+      if (beyond[way]) velor.host?.[way === 'undo' ? 'earlierWanted' : 'laterWanted']();
+      return;
+    }
     const changes = way === 'undo' ? [...step.changes].reverse() : step.changes;
     changes.forEach((change) => change[way]());
     observer.takeRecords();
@@ -209,8 +220,9 @@
   }
 
   velor.history = {
-    start() {
+    start({ earlier = false, later = false } = {}) {
       observer?.disconnect();
+      beyond = { undo: earlier, redo: later };
       open = null;
       undoable = [];
       redoable = [];
@@ -228,8 +240,8 @@
     step, expect, arrive, settle, finish,
     undo() { travel(undoable, redoable, 'undo', 'before'); },
     redo() { travel(redoable, undoable, 'redo', 'after'); },
-    canUndo: () => undoable.length > 0 || Boolean(open?.changes.length),
-    canRedo: () => redoable.length > 0,
+    canUndo: () => undoable.length > 0 || Boolean(open?.changes.length) || beyond.undo,
+    canRedo: () => redoable.length > 0 || beyond.redo,
     // The selection moved without a change of the document.
     selectionMoved() { if (!open?.changes.length) lastPoints = points(); },
   };

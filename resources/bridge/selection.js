@@ -191,13 +191,14 @@
     return [node, Math.min(numbers.at(-1) ?? 0, length(node))];
   }
 
-  velor.mirror = () => {
+  velor.places = () => {
     const { anchorNode, anchorOffset, focusNode, focusOffset } = points();
     const at = (node, offset) => (node ? path(node, offset) : []);
-    return {
-      html: velor.serialize(), start: at(anchorNode, anchorOffset), end: at(focusNode, focusOffset),
-    };
+    return { start: at(anchorNode, anchorOffset), end: at(focusNode, focusOffset) };
   };
+
+  velor.mirror = () => (
+    { html: velor.serialize(), generation: velor.generation(), ...velor.places() });
 
   velor.restore = (start, end) => {
     if (!start?.length || !end?.length) return;

@@ -34,5 +34,5 @@
     }
   }
 
-  velor.serialize = () => [...document.childNodes].map(outer).join('\n');
+  velor.serialize = (page = document) => [...page.childNodes].map(outer).join('\n');
 })();

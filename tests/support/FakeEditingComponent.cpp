@@ -107,6 +107,13 @@ void FakeEditingComponent::LoadDocument(const QString &path) {
   Take({bytes, DecodePage(bytes), {}});
 }
 
+void FakeEditingComponent::LoadText(const QString &html, const QString &path) {
+  Log(QStringLiteral("LoadText(%1)").arg(path));
+  if (const auto failure = std::exchange(nextLoadFailure, std::nullopt)) throw *failure;
+  const PageEncoding encoding = EncodingInPlaceOf(original_.page.encoding, html);
+  Take({EncodePage(html, encoding), {html, encoding}, {}});
+}
+
 void FakeEditingComponent::SaveDocument(const QString &path) {
   Log(QStringLiteral("SaveDocument(%1)").arg(path));
   if (const auto failure = std::exchange(nextSaveFailure, std::nullopt)) throw *failure;

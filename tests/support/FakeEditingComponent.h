@@ -39,7 +39,8 @@ class FakeEditingComponent final : public EditingComponent,
   /// The stretch of the document's text that is selected; after loading the start of the body.
   qsizetype selectionStart = 0;
   qsizetype selectionEnd = 0;
-  std::optional<RuntimeError> nextLoadFailure;  ///< raised once by LoadDocument
+  ElementPlaces caretPlaces;
+  std::optional<RuntimeError> nextLoadFailure;  ///< raised once by LoadDocument and LoadText
   std::optional<RuntimeError> nextSaveFailure;  ///< raised once by SaveDocument
 
   // What a person or the engine does.
@@ -67,9 +68,13 @@ class FakeEditingComponent final : public EditingComponent,
   QString DocumentHTML() override;
   void SetDocumentHTML(const QString &html) override;
   void LoadDocument(const QString &path) override;
+  void LoadText(const QString &html, const QString &path) override;
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
   QString Charset() const override;
+  bool HasByteOrderMark() const override { return original_.page.encoding.byteOrderMark; }
+  ElementPlaces CaretPlaces() override { return caretPlaces; }
+  void ShowPlace(const ElementPlaces &places) override { caretPlaces = places; }
   QVariant ExecCommand(int command, ExecOption option, const QVariant &value) override;
   CommandStatus QueryStatus(int command) const override;
   QStringList BlockFormats() const override { return blockFormats; }

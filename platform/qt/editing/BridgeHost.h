@@ -34,12 +34,22 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     Q_EMIT InputArrived();
   }
+  void earlierWanted() {
+    const EngineCallback callback(guard_);
+    Q_EMIT EarlierWanted();
+  }
+  void laterWanted() {
+    const EngineCallback callback(guard_);
+    Q_EMIT LaterWanted();
+  }
 
  Q_SIGNALS:
   void StateArrived(const velor::StateSnapshot &state);
   void MirrorArrived(const QString &html);
   void PointerMoved(QPoint clientPosition);
   void InputArrived();
+  void EarlierWanted();
+  void LaterWanted();
 
  private:
   EngineGuard &guard_;

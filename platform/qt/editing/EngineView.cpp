@@ -59,6 +59,12 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   connect(&host_, &BridgeHost::MirrorArrived, this, [this](const QString &html) {
     if (phase_ == Phase::Ready) Q_EMIT MirrorArrived(html);
   });
+  connect(&host_, &BridgeHost::EarlierWanted, this, [this] {
+    if (phase_ == Phase::Ready) Q_EMIT EarlierWanted();
+  });
+  connect(&host_, &BridgeHost::LaterWanted, this, [this] {
+    if (phase_ == Phase::Ready) Q_EMIT LaterWanted();
+  });
   connect(&host_, &BridgeHost::InputArrived, this, [this] {
     sinceInput_.invalidate();
     engine_.Guard().Wake();

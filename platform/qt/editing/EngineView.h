@@ -66,6 +66,9 @@ class EngineView : public QObject {
   void StateArrived(const velor::StateSnapshot &state);
   /// The document, where it is small enough to travel with each change.
   void MirrorArrived(const QString &html);
+  /// Undo or redo came to the end of the page's own history.
+  void EarlierWanted();
+  void LaterWanted();
   void PointerMoved(QPoint clientPosition);
   void MenuWanted(QPoint screenPosition);
   /// A key or button is about to reach the page; from outside the engine.

@@ -62,6 +62,7 @@ std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
   StateSnapshot state;
   state.version = object[u"version"].toInt();
   state.dirty = object[u"dirty"].toBool();
+  state.generation = object[u"generation"].toInt();
   const QJsonObject commands = object[u"commands"].toObject();
   for (auto entry = commands.begin(); entry != commands.end(); ++entry)
     state.commands[entry.key().toInt()] = StatusOfNumber(entry.value().toInt());

@@ -16,6 +16,8 @@ struct StateSnapshot {
   int version = 0;
   /// The content changed since the push before.
   bool dirty = false;
+  /// Which of the documents that took one another's place this is (resources/bridge/replace.js).
+  int generation = 0;
   std::map<int, CommandStatus> commands;
   QString fontName;
   QString fontSize;

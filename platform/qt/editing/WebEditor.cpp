@@ -78,6 +78,11 @@ void WebEditor::ConnectView() {
                    [this] { notices_.Post(Notice::LoadEnded, [this] { FinishLoad(); }); });
   QObject::connect(view, &EngineView::Died,
                    [this] { notices_.Post(Notice::Died, [this] { Died(); }); });
+  const auto travel = [this](Direction direction) {
+    notices_.Post(Notice::Travel, [this, direction] { Travel(direction); });
+  };
+  QObject::connect(view, &EngineView::EarlierWanted, [travel] { travel(Direction::Earlier); });
+  QObject::connect(view, &EngineView::LaterWanted, [travel] { travel(Direction::Later); });
   QObject::connect(view, &EngineView::PointerMoved, [this](QPoint position) {
     notices_.Post(Notice::Pointer, [this, position] {
       if (listener_ != nullptr) listener_->MouseNotified(position.x(), position.y());

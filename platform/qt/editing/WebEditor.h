@@ -12,8 +12,10 @@
 #include <QWidget>
 
 #include <chrono>
+#include <map>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace velor {
 
@@ -40,9 +42,13 @@ class WebEditor : public EditingComponent {
   QString DocumentHTML() override;
   void SetDocumentHTML(const QString &html) override;
   void LoadDocument(const QString &path) override;
+  void LoadText(const QString &html, const QString &path) override;
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
   QString Charset() const override;
+  bool HasByteOrderMark() const override;
+  ElementPlaces CaretPlaces() override;
+  void ShowPlace(const ElementPlaces &places) override;
   QVariant ExecCommand(int command, ExecOption option, const QVariant &value) override;
   CommandStatus QueryStatus(int command) const override;
   QStringList BlockFormats() const override;
@@ -57,18 +63,26 @@ class WebEditor : public EditingComponent {
   friend class WebTextRange;
 
   /// What a load under way is for.
-  enum class LoadPurpose { None, Blank, Document, Restore };
+  enum class LoadPurpose { None, Blank, Document, Restore, Travel };
   /// The document and the selection's place as they were last seen on this side.
   struct Mirror {
     QString html;
     QVariant start;
     QVariant end;
   };
+  /// A document that a load took the place of.
+  struct Kept {
+    PageOriginal original;
+    QString html;
+  };
+  enum class Direction { Earlier, Later };
 
   EngineView &View();
   void ConnectView();
 
   // Loading (WebEditorLoading.cpp)
+  /// Takes a page's bytes as the document, links resolving against the file.
+  void TakeBytes(const QByteArray &bytes, const QString &nativePath);
   void Replace(PageOriginal original, const QString &nativePath, LoadPurpose purpose);
   void BeginLoad(LoadPurpose purpose);
   void FinishLoad();
@@ -77,6 +91,17 @@ class WebEditor : public EditingComponent {
   /// gone).
   std::optional<QString> Read();
   PageToWrite Compose();
+
+  // One document in another's place, so that undo brings it back (WebEditorReplacing.cpp)
+  enum class Replaced { Done, NotPossible };
+  /// Exchanges the document within the page: one step of its history.
+  Replaced ReplaceInPlace(const PageOriginal &original, const QString &nativePath);
+  /// Loads the document; the one before is kept at this side and undo comes back to it.
+  void ReplaceKeepingEarlier(PageOriginal original, const QString &nativePath);
+  static void Keep(std::vector<Kept> &documents, Kept kept);
+  void Travel(Direction direction);
+  /// Makes the original of that generation the one in force.
+  void FollowGeneration(int generation);
 
   // The mirror and bringing a page back (WebEditorRecovery.cpp)
   void StateArrived(const StateSnapshot &state);
@@ -95,13 +120,19 @@ class WebEditor : public EditingComponent {
 
   PageOriginal original_;
   QString nativePath_;
+  int lastGeneration_ = 0;
+  int generation_ = 0;                     ///< of the document in force, within one load
+  std::map<int, PageOriginal> originals_;  ///< of the other generations
+  std::vector<Kept> earlier_;              ///< the one that was there last comes last
+  std::vector<Kept> later_;
   StateSnapshot snapshot_;
   bool showDetails_ = false;
   bool snapToGrid_ = false;
 
   LoadPurpose load_ = LoadPurpose::None;
-  int loads_ = 0;   ///< counts the loads begun
-  int deaths_ = 0;  ///< of the page's process, in quick succession
+  int loads_ = 0;             ///< counts the loads begun
+  bool hasDocument_ = false;  ///< one that was set or loaded, not the blank page
+  int deaths_ = 0;            ///< of the page's process, in quick succession
   QElapsedTimer sinceDeath_;
   Mirror mirror_;
   QTimer mirrorTimer_;

@@ -27,17 +27,38 @@ QString FolderAddress(const QString &logicFolder) {
   return path;
 }
 
+QString FolderOf(const QString &nativePath) {
+  return nativePath.left(nativePath.lastIndexOf(u'/') + 1);
+}
+
 }  // namespace
 
 void WebEditor::SetDocumentHTML(const QString &html) {
   const PageEncoding encoding = DeclaredEncoding(html);
+  earlier_.clear();
+  later_.clear();
   Replace({EncodePage(html, encoding), {html, encoding}, {}}, FolderAddress(programFolder_),
           LoadPurpose::Document);
 }
 
 void WebEditor::LoadDocument(const QString &path) {
-  const QByteArray bytes = files_.ReadAll(path);
-  Replace({bytes, DecodePage(bytes), {}}, ToNative(path), LoadPurpose::Document);
+  TakeBytes(files_.ReadAll(path), ToNative(path));
+}
+
+void WebEditor::LoadText(const QString &html, const QString &path) {
+  TakeBytes(EncodePage(html, EncodingInPlaceOf(original_.page.encoding, html)), ToNative(path));
+}
+
+void WebEditor::TakeBytes(const QByteArray &bytes, const QString &nativePath) {
+  PageOriginal original{bytes, DecodePage(bytes), {}};
+  if (hasDocument_ && FolderOf(nativePath) == FolderOf(nativePath_)) {
+    if (ReplaceInPlace(original, nativePath) == Replaced::NotPossible)
+      ReplaceKeepingEarlier(std::move(original), nativePath);
+    return;
+  }
+  earlier_.clear();
+  later_.clear();
+  Replace(std::move(original), nativePath, LoadPurpose::Document);
 }
 
 void WebEditor::LoadBlankIfEmpty() {
@@ -72,12 +93,16 @@ void WebEditor::Replace(PageOriginal original, const QString &nativePath, LoadPu
 void WebEditor::BeginLoad(LoadPurpose purpose) {
   load_ = purpose;
   ++loads_;
+  hasDocument_ = hasDocument_ || purpose == LoadPurpose::Document;
+  generation_ = 0;
+  originals_.clear();
   snapshot_ = {};
   mirrorTimer_.stop();
   QString text = original_.page.text;
-  QString start = QStringLiteral("velor.start({showDetails:%1,snapToGrid:%2});")
-                      .arg(ScriptValue(showDetails_), ScriptValue(snapToGrid_));
-  if (purpose == LoadPurpose::Restore) {
+  QString start = QStringLiteral("velor.start({showDetails:%1,snapToGrid:%2,earlier:%3,later:%4});")
+                      .arg(ScriptValue(showDetails_), ScriptValue(snapToGrid_),
+                           ScriptValue(!earlier_.empty()), ScriptValue(!later_.empty()));
+  if (purpose == LoadPurpose::Restore || purpose == LoadPurpose::Travel) {
     // Untouched, it comes from its original again: what the engine makes of its own
     // serialisation may differ from what it made of the page.
     if (mirror_.html != original_.baseline) text = mirror_.html;
@@ -100,6 +125,7 @@ void WebEditor::FinishLoad() {
     Report(QStringLiteral("The page's display has been restored."));
     return;
   }
+  if (purpose == LoadPurpose::Travel) return;
   mirror_.html = original_.baseline = view_->StartAnswer().toString();
   if (purpose == LoadPurpose::Document)
     notices_.Post(Notice::Complete, [this] {
@@ -119,10 +145,16 @@ std::optional<QString> WebEditor::Read() {
   const int load = loads_;
   alive->AwaitInput();
   if (alive == nullptr) return std::nullopt;
-  const auto answer = alive->Ask(QStringLiteral("velor.serialize()"), readLimit);
+  const auto answer =
+      alive->Ask(QStringLiteral("[velor.serialize(), velor.generation()]"), readLimit);
   if (!answer) return std::nullopt;
-  if (load == loads_) mirror_.html = answer->toString();
-  return answer->toString();
+  const QVariantList parts = answer->toList();
+  QString html = parts.value(0).toString();
+  if (load == loads_) {
+    mirror_.html = html;
+    FollowGeneration(parts.value(1).toInt());
+  }
+  return html;
 }
 
 void WebEditor::SaveDocument(const QString &path) {
@@ -138,6 +170,10 @@ QString WebEditor::Charset() const {
   return original_.page.encoding.charset;
 }
 
+bool WebEditor::HasByteOrderMark() const {
+  return original_.page.encoding.byteOrderMark;
+}
+
 PageToWrite WebEditor::Compose() {
   LoadBlankIfEmpty();
   const PageOriginal original = original_;
@@ -145,7 +181,7 @@ PageToWrite WebEditor::Compose() {
   const QString nativePath = nativePath_;
   EngineGuard &guard = engine_.Guard();
   const QPointer<EngineView> alive(view_.get());
-  if (const auto html = Read()) return ComposePage(original, *html);
+  if (const auto html = Read()) return ComposePage(original_, *html);
   // A live page that does not answer may hold more than the mirror: better no file than an old one.
   if (alive != nullptr && alive->CurrentPhase() == EngineView::Phase::Ready && !guard.InCallback())
     throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("SaveDocument"), nativePath);

@@ -23,6 +23,7 @@ constexpr int restoreAttempts = 3;
 
 void WebEditor::StateArrived(const StateSnapshot &state) {
   snapshot_ = state;
+  FollowGeneration(state.generation);
   if (!mirrorTimer_.isActive())
     mirrorTimer_.start(std::max(mirrorPause, mirrorShare * mirrorCost_));
   notices_.Post(Notice::Display, [this] {
@@ -36,6 +37,7 @@ void WebEditor::TakeMirror() {
   view_->Run(QStringLiteral("velor.mirror()"), [this, asked, load = loads_](const QVariant &value) {
     const QVariantMap mirror = value.toMap();
     if (load != loads_ || mirror.isEmpty()) return;
+    FollowGeneration(mirror[QStringLiteral("generation")].toInt());
     mirrorCost_ = std::chrono::milliseconds(asked.elapsed());
     mirror_ = {mirror[QStringLiteral("html")].toString(), mirror[QStringLiteral("start")],
                mirror[QStringLiteral("end")]};
