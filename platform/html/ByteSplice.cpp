@@ -3,7 +3,9 @@
 
 #include "platform/RuntimeError.h"
 #include "platform/html/CharsetConverter.h"
-#include "platform/html/HtmlTokens.h"
+#include "platform/html/PageEdits.h"
+
+#include <QHash>
 
 #include <algorithm>
 #include <utility>
@@ -51,6 +53,24 @@ void RequireReferencesFit(const QString &text, const std::vector<TextPatch> &pat
                        "script, style sheet or comment.")
             .arg(character, charset));
   }
+}
+
+/// The text by lines, with their breaks.
+TokenText Lines(const QString &text) {
+  TokenText lines;
+  lines.text = text;
+  for (qsizetype at = 0; at < text.size();) {
+    const qsizetype lineBreak = text.indexOf(u'\n', at);
+    const qsizetype end = lineBreak < 0 ? text.size() : lineBreak + 1;
+    HtmlToken line;
+    line.offset = static_cast<std::int32_t>(at);
+    line.length = static_cast<std::int32_t>(end - at);
+    line.key = qHash(QStringView(text).sliced(at, end - at), std::size_t{0});
+    line.isStrong = true;
+    lines.tokens.push_back(line);
+    at = end;
+  }
+  return lines;
 }
 
 class Splicer {
@@ -167,6 +187,24 @@ PageToWrite SpliceBytes(const PageOriginal &original, const std::vector<TextPatc
   if (!splicer.Fits())
     return WriteWhole(Patched(original.page.text, patches), original.page.encoding);
   return splicer.Write(splicer.Widened(patches));
+}
+
+QByteArray BytesForText(const PageOriginal &original, const QString &text,
+                        const PageEncoding &encoding) {
+  const PageEncoding &before = original.page.encoding;
+  if (before.charset != encoding.charset || before.byteOrderMark != encoding.byteOrderMark)
+    return WriteWhole(text, encoding).bytes;
+  const TokenText old = Lines(original.page.text);
+  const TokenText now = Lines(text);
+  const TokenAlignment alignment = AlignTokens(old.tokens, now.tokens, InStep::WithEdit);
+  std::vector<TextPatch> patches;
+  for (const PageEdit &edit : FindEdits(old, now, alignment)) {
+    const qsizetype start =
+        edit.before < old.Count() ? old.At(edit.before).offset : old.text.size();
+    const QStringView gone = old.Slice(edit.before, edit.beforeEnd);
+    patches.push_back({start, start + gone.size(), now.Slice(edit.now, edit.nowEnd).toString()});
+  }
+  return SpliceBytes(original, patches).bytes;
 }
 
 PageToWrite WriteWhole(const QString &text, const PageEncoding &encoding) {

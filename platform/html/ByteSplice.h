@@ -25,6 +25,11 @@ QString Patched(const QString &text, const std::vector<TextPatch> &patches);
 /// comments).
 PageToWrite SpliceBytes(const PageOriginal &original, const std::vector<TextPatch> &patches);
 
+/// The bytes of a text that takes the place of the page's: lines that it shares with the page keep
+/// their bytes where the encoding stays. Raises as above.
+QByteArray BytesForText(const PageOriginal &original, const QString &text,
+                        const PageEncoding &encoding);
+
 /// A whole text in a page's charset; raises as above.
 PageToWrite WriteWhole(const QString &text, const PageEncoding &encoding);
 

@@ -42,6 +42,13 @@ struct FaithfulPage::Plan {
     return steps[found];
   }
 
+  SaveRung Rung() const {
+    int highest = PatchStep::alone;
+    for (const PatchStep step : steps) highest = std::max(highest, step.number);
+    if (highest == PatchStep::alone) return SaveRung::Edits;
+    return highest == PatchStep::withImpliedTags ? SaveRung::ImpliedTags : SaveRung::Elements;
+  }
+
   TokenText now;
   TokenAlignment alignment;
   std::vector<PageEdit> edits;
@@ -89,32 +96,37 @@ SavedPage FaithfulPage::Compose(const QString &current, PageVerifier &verifier) 
   PlanFor(current);
   // The verifier may wait for the engine, and another call may come meanwhile.
   const std::shared_ptr<Plan> plan = plan_;
-  if (!plan->result) plan->result = Climb(*plan, verifier);
-  return *plan->result;
+  if (!plan->result) plan->result = Climb(*plan, verifier, Tries::All);
+  return plan->result ? *plan->result : Everything(current);
 }
 
-SavedPage FaithfulPage::Climb(Plan &plan, PageVerifier &verifier) const {
+void FaithfulPage::Foresee(const QString &current, PageVerifier &verifier) {
+  if (original_.baseline.isEmpty() || current == original_.baseline) return;
+  Plan &plan = PlanFor(current);
+  if (!plan.result) plan.result = Climb(plan, verifier, Tries::First);
+}
+
+void FaithfulPage::Rest() {
+  plan_.reset();
+  source_.reset();
+  before_.reset();
+}
+
+std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
+                                             Tries tries) const {
   const QString &wanted = plan.now.text;
-  std::optional<QString> wantedAgain;  // what the document wanted is once it has been parsed again
-  for (int tries = 0; tries < mostTries; ++tries) {
+  std::optional<QString> wantedAgain;  // what the document is once it has been parsed again
+  for (int left = tries == Tries::All ? mostTries : 1; left > 0; --left) {
     const auto patches = plan.patcher.For(plan.edits, plan.steps);
-    if (!patches) break;
+    if (!patches) return std::nullopt;
     const auto document = verifier.Serialisation(Patched(mask_.MaskedText(), *patches));
-    if (!document) break;
+    if (!document) return std::nullopt;
     if (*document != wanted && !wantedAgain) wantedAgain = verifier.Serialisation(wanted);
-    if (*document == wanted || document == wantedAgain) {
-      const auto highest = std::max_element(
-          plan.steps.begin(), plan.steps.end(),
-          [](const PatchStep &a, const PatchStep &b) { return a.number < b.number; });
-      const int step = highest == plan.steps.end() ? 0 : highest->number;
-      return Splice(*patches, step == PatchStep::alone             ? SaveRung::Edits
-                              : step == PatchStep::withImpliedTags ? SaveRung::ImpliedTags
-                                                                   : SaveRung::Elements);
-    }
-    if (plan.steps.empty()) break;
+    if (*document == wanted || document == wantedAgain) return Splice(*patches, plan.Rung());
+    if (plan.steps.empty() || tries == Tries::First) return std::nullopt;
     ++plan.StepAt(FirstDifference(wanted, *document)).number;
   }
-  return Everything(wanted);
+  return std::nullopt;
 }
 
 SavedPage FaithfulPage::Splice(const std::vector<TextPatch> &patches, SaveRung rung) const {

@@ -52,14 +52,19 @@ class FaithfulPage {
   /// page. To have the verifier's answer ready before it is needed.
   std::optional<QString> FirstTry(const QString &current);
 
-  /// What Compose and FirstTry need to know of the page itself, found out ahead of time.
-  void Prepare();
+  /// Composes ahead of time where the verifier confirms the first try; else nothing happens.
+  void Foresee(const QString &current, PageVerifier &verifier);
+  /// Lets go of what can be found out again.
+  void Rest();
 
  private:
   struct Plan;
 
+  void Prepare();
   Plan &PlanFor(const QString &current);
-  SavedPage Climb(Plan &plan, PageVerifier &verifier) const;
+  enum class Tries { First, All };
+  /// Nothing where the tries did not lead to the document.
+  std::optional<SavedPage> Climb(Plan &plan, PageVerifier &verifier, Tries tries) const;
   SavedPage Splice(const std::vector<TextPatch> &patches, SaveRung rung) const;
   SavedPage Everything(const QString &current) const;
 

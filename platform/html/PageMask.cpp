@@ -4,6 +4,7 @@
 #include "platform/html/HtmlElements.h"
 #include "platform/html/HtmlTokens.h"
 
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -193,8 +194,9 @@ class PageMasker {
       masked = source_.toString();
       return;
     }
-    // A word that the source does not have.
-    mask_.stem_ = QStringLiteral("velor-code-");
+    // A word of this page's own, which the source does not have: a mask that gets into another page
+    // must not stand for anything there.
+    mask_.stem_ = QStringLiteral("velor-code-%1-").arg(qHash(source_, std::size_t{0}), 0, 36);
     while (source_.contains(mask_.stem_, Qt::CaseInsensitive)) mask_.stem_ += u'x';
     qsizetype done = 0;
     for (std::size_t number = 0; number < mask_.pieces_.size(); ++number) {
