@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/html/FaithfulPage.h"
 
+#include "platform/html/HtmlElements.h"
 #include "platform/html/PageVerifier.h"
 #include "platform/html/SourcePatches.h"
 
@@ -19,6 +20,16 @@ qsizetype FirstDifference(QStringView one, QStringView other) {
   return end - one.begin();
 }
 
+/// The body's and the root's end tag match nothing: a parser moves the text behind them, which
+/// edits are far more often about, before them.
+std::vector<HtmlToken> WithoutLastTags(std::vector<HtmlToken> tokens) {
+  for (HtmlToken &token : tokens) {
+    const bool isLast = token.name == elements::body || token.name == elements::html;
+    if (isLast && token.kind == HtmlTokenKind::EndTag) token.key = 0;
+  }
+  return tokens;
+}
+
 }  // namespace
 
 /// How one serialisation is written.
@@ -31,15 +42,22 @@ struct FaithfulPage::Plan {
         steps(edits.size()),
         patcher(source, before, now, sourceToBefore, alignment, lineEnds) {}
 
-  /// The edit that is most likely behind a first difference at that place of the document.
+  /// The edit that is most likely behind a first difference at that place of the document: the
+  /// nearest.
   PatchStep &StepAt(qsizetype place) {
-    std::size_t found = 0;
+    std::size_t nearest = 0;
+    qsizetype shortest = now.text.size() + 1;
     for (std::size_t number = 0; number < edits.size(); ++number) {
-      const std::int32_t token = edits[number].now;
-      if (token < now.Count() && now.At(token).offset > place) break;
-      found = number;
+      const std::int32_t start = edits[number].now;
+      const std::int32_t end = edits[number].nowEnd;
+      const qsizetype from = start < now.Count() ? now.At(start).offset : now.text.size();
+      const qsizetype to = end > start ? now.At(end - 1).End() : from;
+      const qsizetype distance = place < from ? from - place : std::max<qsizetype>(0, place - to);
+      if (distance >= shortest) continue;
+      shortest = distance;
+      nearest = number;
     }
-    return steps[found];
+    return steps[nearest];
   }
 
   SaveRung Rung() const {
@@ -70,7 +88,8 @@ void FaithfulPage::Prepare() {
   if (!source_) source_.emplace(mask_.MaskedText());
   if (before_) return;
   before_.emplace(original_.baseline);
-  sourceToBefore_ = AlignTokens(source_->tokens, before_->tokens, InStep::WithSerialisation);
+  sourceToBefore_ =
+      AlignTokens(WithoutLastTags(source_->tokens), before_->tokens, InStep::WithSerialisation);
 }
 
 FaithfulPage::Plan &FaithfulPage::PlanFor(const QString &current) {
@@ -122,11 +141,35 @@ std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
     const auto document = verifier.Serialisation(Patched(mask_.MaskedText(), *patches));
     if (!document) return std::nullopt;
     if (*document != wanted && !wantedAgain) wantedAgain = verifier.Serialisation(wanted);
-    if (*document == wanted || document == wantedAgain) return Splice(*patches, plan.Rung());
+    if (*document == wanted || document == wantedAgain) {
+      const SaveRung rung = plan.Rung();
+      return Splice(rung == SaveRung::Edits ? *patches : Smallest(*patches, *document, verifier),
+                    rung);
+    }
     if (plan.steps.empty() || tries == Tries::First) return std::nullopt;
     ++plan.StepAt(FirstDifference(wanted, *document)).number;
   }
   return std::nullopt;
+}
+
+/// Leaves out what the document can do without: first halves of the patches, then smaller parts.
+std::vector<TextPatch> FaithfulPage::Smallest(std::vector<TextPatch> patches,
+                                              const QString &document,
+                                              PageVerifier &verifier) const {
+  int left = mostTries;
+  for (std::size_t part = patches.size() / 2; part > 0; part /= 2) {
+    for (std::size_t at = 0; at + part <= patches.size() && patches.size() > part && left > 0;) {
+      std::vector<TextPatch> fewer = patches;
+      const auto first = fewer.begin() + static_cast<std::ptrdiff_t>(at);
+      fewer.erase(first, first + static_cast<std::ptrdiff_t>(part));
+      --left;
+      if (verifier.Serialisation(Patched(mask_.MaskedText(), fewer)) == document)
+        patches = std::move(fewer);
+      else
+        at += part;
+    }
+  }
+  return patches;
 }
 
 SavedPage FaithfulPage::Splice(const std::vector<TextPatch> &patches, SaveRung rung) const {

@@ -346,8 +346,13 @@ class Tokenizer {
     qsizetype characters = 1;
     while (tokenEnd < end && html_[tokenEnd] != u'<') {
       const TextCharacter next = read(tokenEnd);
-      // A mark belongs to the sign that it stands on.
-      if (kind == TextClass::Sign ? !QChar::isMark(next.first) : ClassOf(next.first) != kind) break;
+      const TextClass nextKind = ClassOf(next.first);
+      // A mark belongs to the sign that it stands on; a NUL is as if it were not there.
+      if (nextKind == TextClass::Nothing && kind == TextClass::Letter) {
+        tokenEnd += next.length;
+        continue;
+      }
+      if (kind == TextClass::Sign ? !QChar::isMark(next.first) : nextKind != kind) break;
       key.Add(next.first);
       if (next.second != 0) key.Add(next.second);
       tokenEnd += next.length;

@@ -12,8 +12,9 @@ namespace velor {
 
 /// How much is written for one edit. Each step writes more than the one before.
 struct PatchStep {
-  /// 0: the edit alone. 1: also the tags that the parser implied left of it. From 2 on: the content
-  /// of the smallest element around it that the source has, then of that element's parent ...
+  /// 0: the edit alone. 1: also the tags that the parser implied left of it. From 2 on, one step an
+  /// element outwards: the elements around it get every tag that the parser implied in them, and
+  /// lose those that it ignored. The last: so does the whole page.
   int number = 0;
 
   static constexpr int alone = 0;
@@ -29,25 +30,30 @@ class SourcePatches {
                 const TokenAlignment &sourceToBefore, const TokenAlignment &beforeToNow,
                 LineEnds lineEnds);
 
-  /// The patches for all edits, each with its step, in order; an edit inside what another writes
-  /// anew needs none of its own. Nothing where an edit has no such step: then everything is to be
-  /// written anew.
+  /// The patches for all edits, each with its step, in order. Nothing where an edit has no such
+  /// step: then everything is to be written anew.
   std::optional<std::vector<TextPatch>> For(const std::vector<PageEdit> &edits,
                                             const std::vector<PatchStep> &steps) const;
 
  private:
-  struct Written;  ///< a patch and the tokens now that it writes
+  /// The content of an element now: the tokens between its tags; of the page: all tokens.
+  struct Region {
+    std::int32_t from = 0;
+    std::int32_t to = 0;
+    bool Holds(std::int32_t first, std::int32_t last) const { return from <= first && last <= to; }
+  };
+  using Patches = std::vector<TextPatch>;
 
-  std::int32_t SourceOf(std::int32_t before) const {
-    return sourceToBefore_.fromOther[static_cast<std::size_t>(before)];
-  }
-  void Tag(const PageEdit &edit, std::vector<Written> &out) const;
-  void Stretch(const PageEdit &edit, PatchStep step, std::vector<Written> &out) const;
-  bool Element(const PageEdit &edit, int ancestor, std::vector<Written> &out) const;
-  bool Characters(std::int32_t first, std::int32_t last, const PageEdit &edit,
-                  std::vector<Written> &out) const;
-  void Replace(qsizetype start, qsizetype end, QString text, const PageEdit &edit,
-               std::vector<Written> &out) const;
+  std::int32_t InPlace(std::int32_t before) const;
+  std::int32_t Anywhere(std::int32_t before) const;
+  std::int32_t InPlaceOfNow(std::int32_t now) const;
+  void Tag(std::int32_t source, const PageEdit &edit, Patches &out) const;
+  void Stretch(const PageEdit &edit, PatchStep step, Patches &out) const;
+  std::optional<Region> RegionOf(const PageEdit &edit, int ancestor) const;
+  void Explicit(Region region, Patches &out) const;
+  bool IsAtFrame(std::int32_t source) const;
+  bool Characters(std::int32_t first, std::int32_t last, const PageEdit &edit, Patches &out) const;
+  void Replace(qsizetype start, qsizetype end, const QString &text, Patches &out) const;
   QString InPageForm(QStringView text) const;
 
   const TokenText &source_;
@@ -56,6 +62,8 @@ class SourcePatches {
   const TokenAlignment &sourceToBefore_;
   const TokenAlignment &beforeToNow_;
   LineEnds lineEnds_;
+  /// The source's tokens by those of `before` that the parser moved elsewhere; -1 for none.
+  std::vector<std::int32_t> moved_;
 };
 
 }  // namespace velor

@@ -106,6 +106,10 @@ TEST(HtmlTokens, DifferentThingsHaveDifferentKeys) {
   }
 }
 
+TEST(HtmlTokens, AWordIsTheSameWithNulsInIt) {
+  EXPECT_EQ(Keys(QString::fromUtf16(u"w\0o\0rd", 6)), Keys(QStringLiteral("word")));
+}
+
 TEST(HtmlTokens, ATagComesApartIntoItsAttributes) {
   const QString html = QStringLiteral("x<IMG SRC = 'a b' alt=\"&lt;\" ismap width=3/>");
   const HtmlTagParts tag = ReadHtmlTag(html, 1);

@@ -80,6 +80,22 @@ Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const 
   return distance;
 }
 
+/// The tags among what came that the parser had implied: the smallest change that gives the
+/// document has them as well, since a save leaves out what the document can do without.
+qsizetype ImpliedTags(const QString &come, const TokenText &source, const TokenText &before) {
+  const TokenAlignment alignment =
+      AlignTokens(source.tokens, before.tokens, InStep::WithSerialisation);
+  QHash<std::uint64_t, int> implied;
+  for (std::size_t at = 0; at < before.tokens.size(); ++at) {
+    if (alignment.fromOther[at] < 0 && before.tokens[at].IsTag()) ++implied[before.tokens[at].key];
+  }
+  qsizetype units = 0;
+  for (const HtmlToken &token : TokenizeHtml(come)) {
+    if (token.IsTag() && implied[token.key]-- > 0) units += token.length;
+  }
+  return units;
+}
+
 }  // namespace
 
 qsizetype OutsideBytes(const EditedPage &page) {
@@ -90,10 +106,13 @@ qsizetype OutsideBytes(const EditedPage &page) {
   const auto size = [&](const QString &text) { return converter.Encode(text).size(); };
   const LineEnds ends = file.encoding.lineEnds;
   const Distance changed = DistanceOf(AsWritten(file.text), AsWritten(saved.text));
-  const Distance edit =
-      DistanceOfEdit(TokenText(file.text), TokenText(page.before), TokenText(page.now));
-  return std::max<qsizetype>(0, size(changed.gone) - size(edit.gone)) +
-         std::max<qsizetype>(0, size(changed.come) - size(WithLineEnds(edit.come, ends)));
+  const TokenText source(file.text);
+  const TokenText before(page.before);
+  const Distance edit = DistanceOfEdit(source, before, TokenText(page.now));
+  const qsizetype gone = size(changed.gone) - size(edit.gone);
+  const qsizetype come = size(changed.come) - size(WithLineEnds(edit.come, ends));
+  const qsizetype implied = come > 0 ? ImpliedTags(changed.come, source, before) : 0;
+  return std::max<qsizetype>(0, gone) + std::max<qsizetype>(0, come - implied);
 }
 
 }  // namespace velor

@@ -46,6 +46,7 @@ class WebEditor : public EditingComponent {
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
   QString Charset() const override;
+  QString TextForm() const override;
   bool HasByteOrderMark() const override;
   ElementPlaces CaretPlaces() override;
   void ShowPlace(const ElementPlaces &places) override;

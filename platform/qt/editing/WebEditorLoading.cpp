@@ -31,6 +31,11 @@ QString FolderOf(const QString &nativePath) {
   return nativePath.left(nativePath.lastIndexOf(u'/') + 1);
 }
 
+bool IsFrameset(const QString &serialisation) {
+  return serialisation.contains(QStringLiteral("<frameset")) &&
+         !serialisation.contains(QStringLiteral("<body"));
+}
+
 }  // namespace
 
 void WebEditor::SetDocumentHTML(const QString &html) {
@@ -131,6 +136,10 @@ void WebEditor::FinishLoad() {
   if (purpose == LoadPurpose::Travel) return;
   mirror_.html = view_->StartAnswer().toString();
   original_->SetBaseline(mirror_.html);
+  if (IsFrameset(mirror_.html))
+    Report(
+        QStringLiteral("The page is a frameset, which has no text to edit here: use Edit HTML to "
+                       "change it."));
   if (purpose == LoadPurpose::Document)
     notices_.Post(Notice::Complete, [this] {
       if (listener_ != nullptr) listener_->DocumentComplete();
@@ -180,6 +189,10 @@ QString WebEditor::TextToSave() {
 
 QString WebEditor::Charset() const {
   return original_->Original().page.encoding.charset;
+}
+
+QString WebEditor::TextForm() const {
+  return InWords(original_->Original().page.encoding);
 }
 
 bool WebEditor::HasByteOrderMark() const {
