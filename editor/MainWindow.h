@@ -64,6 +64,8 @@ class MainWindow {
 
   // Status bar `Sta`.
   virtual void SetStatusText(const QString &text) = 0;
+  /// How the active page's bytes stand for its text, beside the status text; empty without a page.
+  virtual void ShowTextForm(const QString &words) = 0;
   /// A notice that gives way to the status text after ten seconds.
   virtual void ReportInStatusBar(const QString &message) = 0;
 

@@ -174,6 +174,7 @@ void frmMain::CheckAcc() {
 
 void frmMain::OnActivated() {
   CheckAcc();
+  context_.mainWindow.ShowTextForm(component_->TextForm());
   try {
     context_.mainWindow.SelectTab(PageKey(number_));
   } catch (const RuntimeError &) {
@@ -201,6 +202,7 @@ void frmMain::closeEvent(QCloseEvent *event) {
 }
 
 void frmMain::DocumentComplete() {
+  context_.mainWindow.ShowTextForm(component_->TextForm());
   if (PendingAction != QStringLiteral("gethtml")) return;
   // A load completes right after its page is made, so that the slot made last is this page's.
   context_.pages.Record(context_.pages.PageCount()).SavedHTML = component_->DocumentHTML();

@@ -100,7 +100,9 @@ void CleanUpAfterPage(EditorContext &context, frmMain &window) {
   Ignoring([&] { RemovePageTab(context.mainWindow, number); });
   context.pages.Page(number).clear();
   Ignoring([&] {
-    if (context.mainWindow.TabCount() == 0) context.mainWindow.SetPageCommandsEnabled(false);
+    if (context.mainWindow.TabCount() > 0) return;
+    context.mainWindow.SetPageCommandsEnabled(false);
+    context.mainWindow.ShowTextForm({});
   });
 }
 

@@ -80,6 +80,9 @@ class EditingComponent {
 
   /// The WHATWG name of the page's charset ("big5", "utf-8", "windows-1252" ...).
   virtual QString Charset() const = 0;
+  /// How the page's bytes stand for its text, in words: charset, byte order mark, line ends
+  /// ("utf-8 (BOM), CR LF").
+  virtual QString TextForm() const = 0;
   /// Whether the page's bytes begin with a byte order mark.
   virtual bool HasByteOrderMark() const = 0;
 

@@ -153,6 +153,11 @@ void MfrmProgram::BuildStatusBar() {
   statusText_->setTextFormat(Qt::PlainText);
   statusText_->setIndent(BarMargin);
   Sta->addWidget(statusText_, 1);
+  textForm_ = new QLabel(Sta);
+  textForm_->setObjectName(QStringLiteral("Sta_2"));
+  textForm_->setAccessibleName(QStringLiteral("Charset and line ends"));
+  textForm_->setTextFormat(Qt::PlainText);
+  Sta->addPermanentWidget(textForm_);
   setStatusBar(Sta);
 }
 

@@ -73,6 +73,7 @@ class MfrmProgram final : public QMainWindow,
   void ShowBlockFormat(const QString &name) override;
   void ShowFontSize(const QString &points) override;
   void SetStatusText(const QString &text) override;
+  void ShowTextForm(const QString &words) override;
   void ReportInStatusBar(const QString &message) override;
   void PopUpContextMenu(QPoint screenPosition) override;
   FileDialog &SharedFileDialog() override;
@@ -127,6 +128,7 @@ class MfrmProgram final : public QMainWindow,
   PageChooser *CmbPages;
   PageArea *area_;
   QLabel *statusText_ = nullptr;
+  QLabel *textForm_ = nullptr;
   QAction *sourceEditing_;
   std::unique_ptr<ProjectDesk> projects_;
   std::unique_ptr<EditingComponent> DE1;

@@ -131,6 +131,10 @@ void MfrmProgram::SetStatusText(const QString &text) {
   statusText_->setText(text);
 }
 
+void MfrmProgram::ShowTextForm(const QString &words) {
+  textForm_->setText(words);
+}
+
 void MfrmProgram::ReportInStatusBar(const QString &message) {
   statusBar()->showMessage(message, NoticeMilliseconds);
 }

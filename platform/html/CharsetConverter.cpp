@@ -86,6 +86,14 @@ CharsetConverter::~CharsetConverter() {
 }
 
 QString CharsetConverter::Decode(QByteArrayView bytes) {
+  return Decode(bytes, nullptr);
+}
+
+QString CharsetConverter::Decode(QByteArrayView bytes, std::vector<std::int32_t> &offsets) {
+  return Decode(bytes, &offsets);
+}
+
+QString CharsetConverter::Decode(QByteArrayView bytes, std::vector<std::int32_t> *offsets) {
   ucnv_resetToUnicode(converter_);
   QString text;
   // Few sequences give more UTF-16 units than they have bytes.
@@ -96,15 +104,32 @@ QString CharsetConverter::Decode(QByteArrayView bytes) {
   for (;;) {
     char16_t *const start = reinterpret_cast<char16_t *>(text.data());
     char16_t *target = start + used;
+    const auto done = static_cast<std::int32_t>(source - bytes.data());
+    if (offsets != nullptr) offsets->resize(static_cast<std::size_t>(text.size()));
+    std::int32_t *const places = offsets != nullptr ? offsets->data() + used : nullptr;
     UErrorCode status = U_ZERO_ERROR;
-    ucnv_toUnicode(converter_, &target, start + text.size(), &source, sourceEnd, nullptr, true,
+    ucnv_toUnicode(converter_, &target, start + text.size(), &source, sourceEnd, places, true,
                    &status);
-    used = target - start;
+    const qsizetype filled = target - start;
+    // Each turn counts its places from its own first byte.
+    if (places != nullptr && done > 0)
+      for (qsizetype unit = 0; unit < filled - used; ++unit) places[unit] += done;
+    used = filled;
     if (status != U_BUFFER_OVERFLOW_ERROR) break;
     text.resize(text.size() * 2);
   }
   text.truncate(used);
+  if (offsets != nullptr) offsets->resize(static_cast<std::size_t>(used));
   return text;
+}
+
+qsizetype CharsetConverter::FirstReference(QStringView text) {
+  if (isUnicode_) return -1;
+  for (qsizetype at = 0; at < text.size();) {
+    const qsizetype start = at;
+    if (!ReadsBack(NextCharacter(text, at))) return start;
+  }
+  return -1;
 }
 
 QByteArray CharsetConverter::Encode(const QString &text) {

@@ -24,13 +24,19 @@ class CharsetConverter {
 
   /// Bytes that are no text become U+FFFD.
   QString Decode(QByteArrayView bytes);
+  /// The same; `offsets` gets for each UTF-16 unit the place of the first byte of its character.
+  QString Decode(QByteArrayView bytes, std::vector<std::int32_t> &offsets);
 
   /// What would not read back as the same character is written as a decimal reference.
   QByteArray Encode(const QString &text);
+  /// Where in the text (UTF-16 units) the first character stands that would be written as a
+  /// reference; -1 for none.
+  qsizetype FirstReference(QStringView text);
 
  private:
   enum class Fate : std::uint8_t { Unknown, ReadsBack, NeedsReference };
 
+  QString Decode(QByteArrayView bytes, std::vector<std::int32_t> *offsets);
   QByteArray EncodeWhole(QStringView text);
   bool ReadsBack(char32_t character);
 

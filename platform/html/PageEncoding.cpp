@@ -86,6 +86,20 @@ PageEncoding EncodingInPlaceOf(const PageEncoding &page, const QString &text) {
   return encoding;
 }
 
+QString InWords(const PageEncoding &encoding) {
+  QString words = encoding.charset;
+  if (encoding.byteOrderMark) words += QStringLiteral(" (BOM)");
+  switch (encoding.lineEnds) {
+    case LineEnds::CrLf:
+      return words + QStringLiteral(", CR LF");
+    case LineEnds::Lf:
+      return words + QStringLiteral(", LF");
+    case LineEnds::Cr:
+      return words + QStringLiteral(", CR");
+  }
+  return words;
+}
+
 QString WithLineEnds(const QString &text, LineEnds ends) {
   QString result = text;
   result.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');

@@ -43,6 +43,9 @@ PageEncoding DeclaredEncoding(const QString &text);
 /// decides, as it does for browsers; else what the text declares, else the page's charset.
 PageEncoding EncodingInPlaceOf(const PageEncoding &page, const QString &text);
 
+/// The encoding in words: "big5, LF", "utf-8 (BOM), CR LF".
+QString InWords(const PageEncoding &encoding);
+
 /// The WHATWG name for a label ("latin1" is "windows-1252"); empty for a label that is none.
 QString CharsetForLabel(const QString &label);
 

@@ -72,6 +72,7 @@ class FakeEditingComponent final : public EditingComponent,
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
   QString Charset() const override;
+  QString TextForm() const override { return InWords(original_.page.encoding); }
   bool HasByteOrderMark() const override { return original_.page.encoding.byteOrderMark; }
   ElementPlaces CaretPlaces() override { return caretPlaces; }
   void ShowPlace(const ElementPlaces &places) override { caretPlaces = places; }

@@ -29,6 +29,7 @@ class FakeMainWindow final : public MainWindow {
   QString selectedTab;
   std::vector<QWidget *> adopted;
   QString statusText;
+  QString textForm;
   QStringList reports;
   bool pageCommandsEnabled = false;
 
@@ -60,6 +61,7 @@ class FakeMainWindow final : public MainWindow {
   void ShowFontSize(const QString &points) override;
 
   void SetStatusText(const QString &text) override;
+  void ShowTextForm(const QString &words) override { textForm = words; }
   void ReportInStatusBar(const QString &message) override;
   void PopUpContextMenu(QPoint screenPosition) override;
   FileDialog &SharedFileDialog() override { return dialog_; }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/qt/GuardedWait.h"
+#include "platform/qt/editing/EngineVerifier.h"
 #include "platform/qt/editing/PageScheme.h"
 
 #include <QWebEngineProfile>
@@ -29,6 +30,7 @@ class EditingEngine {
   const QString &Bridge();
   PageScheme &Scheme() { return scheme_; }
   EngineGuard &Guard() { return guard_; }
+  EngineVerifier &Verifier() { return verifier_; }
 
  private:
   EngineGuard guard_;
@@ -36,6 +38,7 @@ class EditingEngine {
   RequestBlocker blocker_;
   std::unique_ptr<QWebEngineProfile> profile_;
   QString bridge_;
+  EngineVerifier verifier_{*this};  ///< last: its page goes before the profile
 };
 
 }  // namespace velor

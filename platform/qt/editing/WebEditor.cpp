@@ -53,6 +53,8 @@ WebEditor::WebEditor(EditingEngine &engine, Files &files, QString programFolder,
       parent, [this] { QTimer::singleShot(1, &notices_, [this] { LoadBlankIfEmpty(); }); });
   mirrorTimer_.setSingleShot(true);
   QObject::connect(&mirrorTimer_, &QTimer::timeout, [this] { TakeMirror(); });
+  idleTimer_.setSingleShot(true);
+  QObject::connect(&idleTimer_, &QTimer::timeout, [this] { ComposeAhead(); });
 }
 
 WebEditor::~WebEditor() {

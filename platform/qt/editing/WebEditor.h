@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/EditingComponent.h"
-#include "platform/html/PageText.h"
+#include "platform/html/FaithfulPage.h"
 #include "platform/qt/editing/EngineView.h"
 #include "platform/qt/editing/NoticeQueue.h"
 #include "platform/qt/editing/StateSnapshot.h"
@@ -46,6 +46,7 @@ class WebEditor : public EditingComponent {
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
   QString Charset() const override;
+  QString TextForm() const override;
   bool HasByteOrderMark() const override;
   ElementPlaces CaretPlaces() override;
   void ShowPlace(const ElementPlaces &places) override;
@@ -57,6 +58,9 @@ class WebEditor : public EditingComponent {
   void SetShowDetails(bool on) override;
   bool SnapToGrid() const override;
   void SetSnapToGrid(bool on) override;
+
+  /// What SaveDocument writes, and how much of the page that takes. `this` may be gone afterwards.
+  SavedPage Compose();
 
  private:
   friend class WebDocument;
@@ -70,9 +74,11 @@ class WebEditor : public EditingComponent {
     QVariant start;
     QVariant end;
   };
+  /// What the document came from; never null. Shared with the saves that are under way.
+  using Original = std::shared_ptr<FaithfulPage>;
   /// A document that a load took the place of.
   struct Kept {
-    PageOriginal original;
+    Original original;
     QString html;
   };
   enum class Direction { Earlier, Later };
@@ -83,21 +89,22 @@ class WebEditor : public EditingComponent {
   // Loading (WebEditorLoading.cpp)
   /// Takes a page's bytes as the document, links resolving against the file.
   void TakeBytes(const QByteArray &bytes, const QString &nativePath);
-  void Replace(PageOriginal original, const QString &nativePath, LoadPurpose purpose);
+  void Replace(Original original, const QString &nativePath, LoadPurpose purpose);
   void BeginLoad(LoadPurpose purpose);
   void FinishLoad();
   void LoadBlankIfEmpty();
   /// The document as the page has it now; nothing when it does not answer (then `this` may be
   /// gone).
   std::optional<QString> Read();
-  PageToWrite Compose();
+  /// Works out in an idle moment what a save would write.
+  void ComposeAhead();
 
   // One document in another's place, so that undo brings it back (WebEditorReplacing.cpp)
   enum class Replaced { Done, NotPossible };
   /// Exchanges the document within the page: one step of its history.
-  Replaced ReplaceInPlace(const PageOriginal &original, const QString &nativePath);
+  Replaced ReplaceInPlace(const Original &original, const QString &nativePath);
   /// Loads the document; the one before is kept at this side and undo comes back to it.
-  void ReplaceKeepingEarlier(PageOriginal original, const QString &nativePath);
+  void ReplaceKeepingEarlier(Original original, const QString &nativePath);
   static void Keep(std::vector<Kept> &documents, Kept kept);
   void Travel(Direction direction);
   /// Makes the original of that generation the one in force.
@@ -118,12 +125,12 @@ class WebEditor : public EditingComponent {
   EditingListener *listener_ = nullptr;
   std::unique_ptr<WebDocument> document_;
 
-  PageOriginal original_;
+  Original original_ = std::make_shared<FaithfulPage>();
   QString nativePath_;
   int lastGeneration_ = 0;
-  int generation_ = 0;                     ///< of the document in force, within one load
-  std::map<int, PageOriginal> originals_;  ///< of the other generations
-  std::vector<Kept> earlier_;              ///< the one that was there last comes last
+  int generation_ = 0;                 ///< of the document in force, within one load
+  std::map<int, Original> originals_;  ///< of the other generations
+  std::vector<Kept> earlier_;          ///< the one that was there last comes last
   std::vector<Kept> later_;
   StateSnapshot snapshot_;
   bool showDetails_ = false;
@@ -136,6 +143,7 @@ class WebEditor : public EditingComponent {
   QElapsedTimer sinceDeath_;
   Mirror mirror_;
   QTimer mirrorTimer_;
+  QTimer idleTimer_;                         ///< runs since the last change
   std::chrono::milliseconds mirrorCost_{0};  ///< of asking for the mirror last time
 
   NoticeQueue notices_;

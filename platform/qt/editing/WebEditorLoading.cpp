@@ -31,14 +31,20 @@ QString FolderOf(const QString &nativePath) {
   return nativePath.left(nativePath.lastIndexOf(u'/') + 1);
 }
 
+bool IsFrameset(const QString &serialisation) {
+  return serialisation.contains(QStringLiteral("<frameset")) &&
+         !serialisation.contains(QStringLiteral("<body"));
+}
+
 }  // namespace
 
 void WebEditor::SetDocumentHTML(const QString &html) {
   const PageEncoding encoding = DeclaredEncoding(html);
   earlier_.clear();
   later_.clear();
-  Replace({EncodePage(html, encoding), {html, encoding}, {}}, FolderAddress(programFolder_),
-          LoadPurpose::Document);
+  Replace(std::make_shared<FaithfulPage>(
+              PageOriginal{EncodePage(html, encoding), {html, encoding}, {}}),
+          FolderAddress(programFolder_), LoadPurpose::Document);
 }
 
 void WebEditor::LoadDocument(const QString &path) {
@@ -46,11 +52,13 @@ void WebEditor::LoadDocument(const QString &path) {
 }
 
 void WebEditor::LoadText(const QString &html, const QString &path) {
-  TakeBytes(EncodePage(html, EncodingInPlaceOf(original_.page.encoding, html)), ToNative(path));
+  const PageOriginal &original = original_->Original();
+  TakeBytes(BytesForText(original, html, EncodingInPlaceOf(original.page.encoding, html)),
+            ToNative(path));
 }
 
 void WebEditor::TakeBytes(const QByteArray &bytes, const QString &nativePath) {
-  PageOriginal original{bytes, DecodePage(bytes), {}};
+  auto original = std::make_shared<FaithfulPage>(PageOriginal{bytes, DecodePage(bytes), {}});
   if (hasDocument_ && FolderOf(nativePath) == FolderOf(nativePath_)) {
     if (ReplaceInPlace(original, nativePath) == Replaced::NotPossible)
       ReplaceKeepingEarlier(std::move(original), nativePath);
@@ -63,13 +71,13 @@ void WebEditor::TakeBytes(const QByteArray &bytes, const QString &nativePath) {
 
 void WebEditor::LoadBlankIfEmpty() {
   if (loads_ > 0 || container_ == nullptr) return;
-  Replace({}, FolderAddress(programFolder_), LoadPurpose::Blank);
+  Replace(std::make_shared<FaithfulPage>(), FolderAddress(programFolder_), LoadPurpose::Blank);
 }
 
-void WebEditor::Replace(PageOriginal original, const QString &nativePath, LoadPurpose purpose) {
+void WebEditor::Replace(Original original, const QString &nativePath, LoadPurpose purpose) {
   original_ = std::move(original);
   nativePath_ = nativePath;
-  mirror_ = {WithLineEnds(original_.page.text, LineEnds::Lf), {}, {}};
+  mirror_ = {WithLineEnds(original_->TextToLoad(), LineEnds::Lf), {}, {}};
   deaths_ = 0;
   const QPointer<EngineView> view(&View());
   for (int attempt = 1; attempt <= loadAttempts; ++attempt) {
@@ -98,14 +106,14 @@ void WebEditor::BeginLoad(LoadPurpose purpose) {
   originals_.clear();
   snapshot_ = {};
   mirrorTimer_.stop();
-  QString text = original_.page.text;
+  QString text = original_->TextToLoad();
   QString start = QStringLiteral("velor.start({showDetails:%1,snapToGrid:%2,earlier:%3,later:%4});")
                       .arg(ScriptValue(showDetails_), ScriptValue(snapToGrid_),
                            ScriptValue(!earlier_.empty()), ScriptValue(!later_.empty()));
   if (purpose == LoadPurpose::Restore || purpose == LoadPurpose::Travel) {
     // Untouched, it comes from its original again: what the engine makes of its own
     // serialisation may differ from what it made of the page.
-    if (mirror_.html != original_.baseline) text = mirror_.html;
+    if (mirror_.html != original_->Baseline()) text = mirror_.html;
     start += QStringLiteral("velor.restore(%1,%2);")
                  .arg(ScriptValue(mirror_.start), ScriptValue(mirror_.end));
   }
@@ -126,7 +134,12 @@ void WebEditor::FinishLoad() {
     return;
   }
   if (purpose == LoadPurpose::Travel) return;
-  mirror_.html = original_.baseline = view_->StartAnswer().toString();
+  mirror_.html = view_->StartAnswer().toString();
+  original_->SetBaseline(mirror_.html);
+  if (IsFrameset(mirror_.html))
+    Report(
+        QStringLiteral("The page is a frameset, which has no text to edit here: use Edit HTML to "
+                       "change it."));
   if (purpose == LoadPurpose::Document)
     notices_.Post(Notice::Complete, [this] {
       if (listener_ != nullptr) listener_->DocumentComplete();
@@ -135,8 +148,11 @@ void WebEditor::FinishLoad() {
 
 QString WebEditor::DocumentHTML() {
   LoadBlankIfEmpty();
-  QString mirror = mirror_.html;
-  return Read().value_or(mirror);
+  const QString mirror = mirror_.html;
+  const QPointer<QWidget> alive(container_);
+  const Original original = original_;
+  const auto html = Read();
+  return (alive != nullptr ? original_ : original)->Unmasked(html.value_or(mirror));
 }
 
 std::optional<QString> WebEditor::Read() {
@@ -159,33 +175,44 @@ std::optional<QString> WebEditor::Read() {
 
 void WebEditor::SaveDocument(const QString &path) {
   Files &files = files_;
-  files.ReplaceAll(path, Compose().bytes);
+  const SavedPage saved = Compose();
+  if (saved.rung == SaveRung::Everything)
+    Report(
+        QStringLiteral("The page's source could not be kept as it was written: the whole page "
+                       "is written anew."));
+  files.ReplaceAll(path, saved.page.bytes);
 }
 
 QString WebEditor::TextToSave() {
-  return Compose().text;
+  return Compose().page.text;
 }
 
 QString WebEditor::Charset() const {
-  return original_.page.encoding.charset;
+  return original_->Original().page.encoding.charset;
+}
+
+QString WebEditor::TextForm() const {
+  return InWords(original_->Original().page.encoding);
 }
 
 bool WebEditor::HasByteOrderMark() const {
-  return original_.page.encoding.byteOrderMark;
+  return original_->Original().page.encoding.byteOrderMark;
 }
 
-PageToWrite WebEditor::Compose() {
+SavedPage WebEditor::Compose() {
   LoadBlankIfEmpty();
-  const PageOriginal original = original_;
+  const Original original = original_;
   const QString mirror = mirror_.html;
   const QString nativePath = nativePath_;
-  EngineGuard &guard = engine_.Guard();
+  EditingEngine &engine = engine_;
   const QPointer<EngineView> alive(view_.get());
-  if (const auto html = Read()) return ComposePage(original_, *html);
+  // Reading may find that undo brought back a document with another original.
+  if (const auto html = Read()) return Original(original_)->Compose(*html, engine.Verifier());
   // A live page that does not answer may hold more than the mirror: better no file than an old one.
-  if (alive != nullptr && alive->CurrentPhase() == EngineView::Phase::Ready && !guard.InCallback())
+  if (alive != nullptr && alive->CurrentPhase() == EngineView::Phase::Ready &&
+      !engine.Guard().InCallback())
     throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("SaveDocument"), nativePath);
-  return ComposePage(original, mirror);
+  return original->Compose(mirror, engine.Verifier());
 }
 
 }  // namespace velor

@@ -18,6 +18,10 @@ constexpr int mirrorShare = 10;
 /// A page that keeps killing its process within this time is left as it is after a few tries.
 constexpr std::chrono::milliseconds steadyTime = 10s;
 constexpr int restoreAttempts = 3;
+/// A person who rests this long may be about to save.
+constexpr std::chrono::milliseconds idlePause = 700ms;
+/// Composing a larger page ahead would be felt by who goes on typing (UTF-16 units).
+constexpr qsizetype largestAhead = 2'000'000;
 
 }  // namespace
 
@@ -26,6 +30,7 @@ void WebEditor::StateArrived(const StateSnapshot &state) {
   FollowGeneration(state.generation);
   if (!mirrorTimer_.isActive())
     mirrorTimer_.start(std::max(mirrorPause, mirrorShare * mirrorCost_));
+  idleTimer_.start(idlePause);
   notices_.Post(Notice::Display, [this] {
     if (listener_ != nullptr) listener_->DisplayChanged();
   });
@@ -44,6 +49,19 @@ void WebEditor::TakeMirror() {
   });
 }
 
+void WebEditor::ComposeAhead() {
+  const Original original = original_;
+  const QString html = mirror_.html;
+  if (load_ != LoadPurpose::None || html.size() > largestAhead) return;
+  const auto first = original->FirstTry(html);
+  if (!first) return;
+  EngineVerifier &verifier = engine_.Verifier();
+  verifier.Foresee(*first, [original, html, &verifier] {
+    EngineVerifier::KnownAnswers known(verifier);
+    original->Foresee(html, known);
+  });
+}
+
 void WebEditor::Died() {
   if (view_->CurrentPhase() != EngineView::Phase::Dead) return;
   if (sinceDeath_.isValid() && sinceDeath_.hasExpired(steadyTime.count())) deaths_ = 0;
@@ -55,7 +73,7 @@ void WebEditor::Died() {
     return;
   }
   Report(QStringLiteral("The page's display stopped and is being restored."));
-  BeginLoad(original_.baseline.isEmpty() ? LoadPurpose::Document : LoadPurpose::Restore);
+  BeginLoad(original_->Baseline().isEmpty() ? LoadPurpose::Document : LoadPurpose::Restore);
 }
 
 void WebEditor::Report(const QString &message) {

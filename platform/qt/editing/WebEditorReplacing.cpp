@@ -16,14 +16,14 @@ constexpr std::chrono::milliseconds replaceLimit = 1min;
 /// What documents kept for undo may hold together, in UTF-16 units; the last one is always kept.
 constexpr qsizetype mostKept = 32'000'000;
 
-qsizetype WeightOf(const PageOriginal &original) {
+qsizetype WeightOf(const FaithfulPage &page) {
+  const PageOriginal &original = page.Original();
   return original.bytes.size() / 2 + original.page.text.size() + original.baseline.size();
 }
 
 }  // namespace
 
-WebEditor::Replaced WebEditor::ReplaceInPlace(const PageOriginal &original,
-                                              const QString &nativePath) {
+WebEditor::Replaced WebEditor::ReplaceInPlace(const Original &original, const QString &nativePath) {
   const QPointer<EngineView> alive(view_.get());
   if (load_ != LoadPurpose::None) return Replaced::NotPossible;
   const int load = loads_;
@@ -31,7 +31,7 @@ WebEditor::Replaced WebEditor::ReplaceInPlace(const PageOriginal &original,
   if (alive == nullptr) return Replaced::Done;
   const int generation = ++lastGeneration_;
   const auto answer = alive->Ask(QStringLiteral("velor.replaceDocument(%1,%2)")
-                                     .arg(ScriptValue(original.page.text))
+                                     .arg(ScriptValue(original->TextToLoad()))
                                      .arg(generation),
                                  replaceLimit);
   // A page closed or loaded anew meanwhile is no failure of this call.
@@ -39,7 +39,8 @@ WebEditor::Replaced WebEditor::ReplaceInPlace(const PageOriginal &original,
   if (!answer || answer->toString().isEmpty()) return Replaced::NotPossible;
   originals_[generation] = original;
   FollowGeneration(generation);
-  mirror_.html = original_.baseline = answer->toString();
+  mirror_.html = answer->toString();
+  original_->SetBaseline(mirror_.html);
   nativePath_ = nativePath;
   notices_.Post(Notice::Complete, [this] {
     if (listener_ != nullptr) listener_->DocumentComplete();
@@ -50,20 +51,21 @@ WebEditor::Replaced WebEditor::ReplaceInPlace(const PageOriginal &original,
 void WebEditor::FollowGeneration(int generation) {
   const auto next = originals_.find(generation);
   if (next == originals_.end() || load_ != LoadPurpose::None) return;
-  PageOriginal original = std::move(next->second);
+  Original original = std::move(next->second);
   originals_.erase(next);
+  original_->Rest();
   originals_[generation_] = std::exchange(original_, std::move(original));
   generation_ = generation;
   qsizetype weight = 0;
   for (auto kept = originals_.rbegin(); kept != originals_.rend(); ++kept) {
-    weight += WeightOf(kept->second);
+    weight += WeightOf(*kept->second);
     if (weight <= mostKept || kept == originals_.rbegin()) continue;
     originals_.erase(originals_.begin(), kept.base());
     break;
   }
 }
 
-void WebEditor::ReplaceKeepingEarlier(PageOriginal original, const QString &nativePath) {
+void WebEditor::ReplaceKeepingEarlier(Original original, const QString &nativePath) {
   const QPointer<EngineView> alive(view_.get());
   QString html = mirror_.html;
   if (auto now = Read()) html = std::move(*now);
@@ -74,11 +76,12 @@ void WebEditor::ReplaceKeepingEarlier(PageOriginal original, const QString &nati
 }
 
 void WebEditor::Keep(std::vector<Kept> &documents, Kept kept) {
+  kept.original->Rest();
   documents.push_back(std::move(kept));
   qsizetype weight = 0;
   for (auto end = documents.end(); end != documents.begin(); --end) {
     const Kept &document = *std::prev(end);
-    weight += WeightOf(document.original) + document.html.size();
+    weight += WeightOf(*document.original) + document.html.size();
     if (weight <= mostKept || end == documents.end()) continue;
     documents.erase(documents.begin(), end);
     break;

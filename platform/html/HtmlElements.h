@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <string_view>
+
+/// The elements that a parser treats in ways of their own, by the keys of their names.
+namespace velor::elements {
+
+template <std::size_t Count>
+bool IsOneOf(std::uint32_t name, const std::uint32_t (&names)[Count]) {
+  return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+inline constexpr std::uint32_t NameKeyOf(std::u16string_view name) {
+  std::uint32_t key = 2166136261U;
+  for (const char16_t unit : name) key = (key ^ unit) * 16777619U;
+  return key | 1U;
+}
+
+inline constexpr std::uint32_t script = NameKeyOf(u"script");
+inline constexpr std::uint32_t plaintext = NameKeyOf(u"plaintext");
+inline constexpr std::uint32_t svg = NameKeyOf(u"svg");
+inline constexpr std::uint32_t math = NameKeyOf(u"math");
+inline constexpr std::uint32_t font = NameKeyOf(u"font");
+inline constexpr std::uint32_t rawElements[] = {script,
+                                                NameKeyOf(u"style"),
+                                                NameKeyOf(u"xmp"),
+                                                NameKeyOf(u"iframe"),
+                                                NameKeyOf(u"noembed"),
+                                                NameKeyOf(u"noframes")};
+/// Their text has references but no tags.
+inline constexpr std::uint32_t titleElements[] = {NameKeyOf(u"title"), NameKeyOf(u"textarea")};
+inline constexpr std::uint32_t breakDroppers[] = {NameKeyOf(u"pre"), NameKeyOf(u"listing"),
+                                                  NameKeyOf(u"textarea")};
+/// Elements of foreign content whose inside is HTML again.
+inline constexpr std::uint32_t integrationPoints[] = {NameKeyOf(u"foreignobject"),
+                                                      NameKeyOf(u"desc"),
+                                                      NameKeyOf(u"title"),
+                                                      NameKeyOf(u"mi"),
+                                                      NameKeyOf(u"mo"),
+                                                      NameKeyOf(u"mn"),
+                                                      NameKeyOf(u"ms"),
+                                                      NameKeyOf(u"mtext"),
+                                                      NameKeyOf(u"annotation-xml")};
+/// HTML elements that end foreign content.
+inline constexpr std::uint32_t breakouts[] = {
+    NameKeyOf(u"b"),      NameKeyOf(u"big"),     NameKeyOf(u"blockquote"), NameKeyOf(u"body"),
+    NameKeyOf(u"br"),     NameKeyOf(u"center"),  NameKeyOf(u"code"),       NameKeyOf(u"dd"),
+    NameKeyOf(u"div"),    NameKeyOf(u"dl"),      NameKeyOf(u"dt"),         NameKeyOf(u"em"),
+    NameKeyOf(u"embed"),  NameKeyOf(u"h1"),      NameKeyOf(u"h2"),         NameKeyOf(u"h3"),
+    NameKeyOf(u"h4"),     NameKeyOf(u"h5"),      NameKeyOf(u"h6"),         NameKeyOf(u"head"),
+    NameKeyOf(u"hr"),     NameKeyOf(u"i"),       NameKeyOf(u"img"),        NameKeyOf(u"li"),
+    NameKeyOf(u"menu"),   NameKeyOf(u"listing"), NameKeyOf(u"meta"),       NameKeyOf(u"nobr"),
+    NameKeyOf(u"ol"),     NameKeyOf(u"p"),       NameKeyOf(u"pre"),        NameKeyOf(u"ruby"),
+    NameKeyOf(u"s"),      NameKeyOf(u"small"),   NameKeyOf(u"span"),       NameKeyOf(u"strong"),
+    NameKeyOf(u"strike"), NameKeyOf(u"sub"),     NameKeyOf(u"sup"),        NameKeyOf(u"table"),
+    NameKeyOf(u"tt"),     NameKeyOf(u"u"),       NameKeyOf(u"ul"),         NameKeyOf(u"var")};
+inline constexpr std::uint32_t html = NameKeyOf(u"html");
+inline constexpr std::uint32_t head = NameKeyOf(u"head");
+inline constexpr std::uint32_t body = NameKeyOf(u"body");
+/// Elements without content and end tag.
+inline constexpr std::uint32_t voidElements[] = {
+    NameKeyOf(u"area"),  NameKeyOf(u"base"), NameKeyOf(u"basefont"), NameKeyOf(u"bgsound"),
+    NameKeyOf(u"br"),    NameKeyOf(u"col"),  NameKeyOf(u"embed"),    NameKeyOf(u"frame"),
+    NameKeyOf(u"hr"),    NameKeyOf(u"img"),  NameKeyOf(u"input"),    NameKeyOf(u"keygen"),
+    NameKeyOf(u"link"),  NameKeyOf(u"meta"), NameKeyOf(u"param"),    NameKeyOf(u"source"),
+    NameKeyOf(u"track"), NameKeyOf(u"wbr")};
+
+}  // namespace velor::elements

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/page-check/OutsideBytes.h"
+
+#include "platform/html/CharsetConverter.h"
+#include "platform/html/PageEdits.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace velor {
+
+namespace {
+
+/// What two texts do not share.
+struct Distance {
+  QString gone;
+  QString come;
+};
+
+/// Compares slices as they are written, whatever they mean.
+TokenText AsWritten(const QString &text) {
+  TokenText written(text);
+  std::int32_t done = 0;
+  std::vector<HtmlToken> tokens;
+  const auto add = [&](HtmlToken token, std::int32_t start, std::int32_t end) {
+    token.offset = start;
+    token.length = end - start;
+    token.key = qHash(QStringView(text).sliced(start, token.length), std::size_t{0});
+    tokens.push_back(token);
+  };
+  for (const HtmlToken &token : written.tokens) {
+    if (token.offset > done) add({}, done, token.offset);
+    add(token, token.offset, token.End());
+    done = token.End();
+  }
+  if (done < text.size()) add({}, done, static_cast<std::int32_t>(text.size()));
+  written.tokens = std::move(tokens);
+  return written;
+}
+
+/// Cuts off what a replaced slice and its replacement share at both ends.
+void Add(Distance &distance, QStringView gone, QStringView come) {
+  qsizetype front = 0;
+  const qsizetype shorter = std::min(gone.size(), come.size());
+  while (front < shorter && gone[front] == come[front]) ++front;
+  qsizetype back = 0;
+  while (back < shorter - front && gone[gone.size() - 1 - back] == come[come.size() - 1 - back])
+    ++back;
+  distance.gone += gone.sliced(front, gone.size() - front - back);
+  distance.come += come.sliced(front, come.size() - front - back);
+}
+
+Distance DistanceOf(const TokenText &one, const TokenText &other) {
+  Distance distance;
+  const TokenAlignment alignment = AlignTokens(one.tokens, other.tokens, InStep::WithEdit);
+  for (const PageEdit &edit : FindEdits(one, other, alignment))
+    Add(distance, one.Slice(edit.before, edit.beforeEnd), other.Slice(edit.now, edit.nowEnd));
+  return distance;
+}
+
+/// What the edit takes from the source and adds to it.
+Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const TokenText &now) {
+  Distance distance;
+  const TokenAlignment toSource =
+      AlignTokens(source.tokens, before.tokens, InStep::WithSerialisation);
+  const TokenAlignment toNow = AlignTokens(before.tokens, now.tokens, InStep::WithEdit);
+  for (const PageEdit &edit : FindEdits(before, now, toNow)) {
+    std::int32_t first = -1;
+    std::int32_t last = -2;
+    for (std::int32_t at = edit.before; at < edit.beforeEnd; ++at) {
+      const std::int32_t counterpart = toSource.fromOther[static_cast<std::size_t>(at)];
+      if (counterpart < 0) continue;
+      if (first < 0) first = counterpart;
+      last = counterpart;
+    }
+    Add(distance, first < 0 ? QStringView() : source.Slice(first, last + 1),
+        now.Slice(edit.now, edit.nowEnd));
+  }
+  return distance;
+}
+
+/// The tags among what came that the parser had implied: the smallest change that gives the
+/// document has them as well, since a save leaves out what the document can do without.
+qsizetype ImpliedTags(const QString &come, const TokenText &source, const TokenText &before) {
+  const TokenAlignment alignment =
+      AlignTokens(source.tokens, before.tokens, InStep::WithSerialisation);
+  QHash<std::uint64_t, int> implied;
+  for (std::size_t at = 0; at < before.tokens.size(); ++at) {
+    if (alignment.fromOther[at] < 0 && before.tokens[at].IsTag()) ++implied[before.tokens[at].key];
+  }
+  qsizetype units = 0;
+  for (const HtmlToken &token : TokenizeHtml(come)) {
+    if (token.IsTag() && implied[token.key]-- > 0) units += token.length;
+  }
+  return units;
+}
+
+}  // namespace
+
+qsizetype OutsideBytes(const EditedPage &page) {
+  if (page.file == page.saved) return 0;
+  const DecodedPage file = DecodePage(page.file);
+  const DecodedPage saved = DecodePage(page.saved);
+  CharsetConverter converter(file.encoding.charset);
+  const auto size = [&](const QString &text) { return converter.Encode(text).size(); };
+  const LineEnds ends = file.encoding.lineEnds;
+  const Distance changed = DistanceOf(AsWritten(file.text), AsWritten(saved.text));
+  const TokenText source(file.text);
+  const TokenText before(page.before);
+  const Distance edit = DistanceOfEdit(source, before, TokenText(page.now));
+  const qsizetype gone = size(changed.gone) - size(edit.gone);
+  const qsizetype come = size(changed.come) - size(WithLineEnds(edit.come, ends));
+  const qsizetype implied = come > 0 ? ImpliedTags(changed.come, source, before) : 0;
+  return std::max<qsizetype>(0, gone) + std::max<qsizetype>(0, come - implied);
+}
+
+}  // namespace velor

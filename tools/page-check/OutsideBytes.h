@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/html/PageEncoding.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace velor {
+
+/// One edit of a page, before and after.
+struct EditedPage {
+  QByteArray file;
+  QByteArray saved;
+  QString before;  ///< the document's HTML after loading
+  QString now;     ///< the document's HTML after the edit
+};
+
+/// How many bytes of the file changed beyond what the edit itself takes away and adds. What the
+/// edit takes away is found in the file by comparing it with the document, what it adds in the
+/// document; both sides are counted with the page's charset.
+qsizetype OutsideBytes(const EditedPage &page);
+
+}  // namespace velor

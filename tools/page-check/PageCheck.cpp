@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/page-check/PageCheck.h"
+
+#include "platform/Paths.h"
+#include "platform/qt/GuardedWait.h"
+#include "platform/qt/QtFiles.h"
+#include "platform/qt/editing/BridgeScript.h"
+#include "platform/qt/editing/WebEditor.h"
+#include "tools/page-check/OutsideBytes.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QVBoxLayout>
+#include <QWebEnginePage>
+#include <QWebEngineView>
+
+#include <memory>
+
+static void InitialiseScript() {
+  Q_INIT_RESOURCE(velor_page_check_script);
+}
+
+namespace velor {
+
+namespace {
+
+QByteArray Bytes(const QString &file) {
+  QFile opened(file);
+  return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
+}
+
+QString EditScript() {
+  InitialiseScript();
+  return QString::fromUtf8(Bytes(QStringLiteral(":/page-check/edits.js")));
+}
+
+/// A window with an editing component in it.
+class Desk {
+ public:
+  Desk(EditingEngine &engine, const QString &folder)
+      : engine_(engine), editor(engine, files_, ToLogic(folder), &window_) {
+    window_.resize(800, 600);
+    auto *layout = new QVBoxLayout(&window_);
+    layout->addWidget(editor.Widget());
+    window_.show();
+  }
+
+  bool Edit(const QString &kind, int place) {
+    QWebEnginePage &page = *editor.Widget()->findChild<QWebEngineView *>()->page();
+    const auto answer = std::make_shared<std::optional<bool>>();
+    page.runJavaScript(QStringLiteral("%1\n;velorPageCheck(%2,%3)")
+                           .arg(EditScript(), ScriptValue(kind))
+                           .arg(place),
+                       bridgeWorld, [answer](const QVariant &value) { *answer = value.toBool(); });
+    GuardedWait(engine_.Guard()).Until(page, std::chrono::minutes(1), [&] {
+      return answer->has_value();
+    });
+    return answer->value_or(false);
+  }
+
+ private:
+  EditingEngine &engine_;
+  QtFiles files_;
+  QWidget window_;
+
+ public:
+  WebEditor editor;
+};
+
+const char *RungName(SaveRung rung) {
+  switch (rung) {
+    case SaveRung::Unedited:
+      return "unedited";
+    case SaveRung::Edits:
+      return "edits";
+    case SaveRung::ImpliedTags:
+      return "implied-tags";
+    case SaveRung::Elements:
+      return "elements";
+    case SaveRung::Everything:
+      return "everything";
+  }
+  return "";
+}
+
+}  // namespace
+
+const QStringList &PageCheck::Kinds() {
+  static const QStringList kinds = {
+      QStringLiteral("insert-word"),      QStringLiteral("bold"),      QStringLiteral("image"),
+      QStringLiteral("delete-paragraph"), QStringLiteral("table-row"), QStringLiteral("enter"),
+      QStringLiteral("center"),           QStringLiteral("attribute")};
+  return kinds;
+}
+
+QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) {
+  Desk desk(engine_, scratch_.path());
+  WebEditor &editor = desk.editor;
+  editor.LoadDocument(ToLogic(QFileInfo(file).absoluteFilePath()));
+  EditedPage page;
+  page.file = Bytes(file);
+  page.before = editor.DocumentHTML();
+  const bool isEdited = !kind.isEmpty() && desk.Edit(kind, place);
+  page.now = editor.DocumentHTML();
+
+  const QString target = scratch_.filePath(QStringLiteral("saved.htm"));
+  QElapsedTimer timer;
+  timer.start();
+  editor.SaveDocument(ToLogic(target));
+  const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+  page.saved = Bytes(target);
+
+  Desk again(engine_, scratch_.path());
+  const auto parsed = [&](const QByteArray &bytes) {
+    const QString text = DecodePage(bytes).text;
+    again.editor.SetDocumentHTML(text);
+    return again.editor.DocumentHTML();
+  };
+  const QString saved = parsed(page.saved);
+  const bool isEqual =
+      saved == page.now || saved == parsed(page.now.toUtf8().prepend("\xEF\xBB\xBF"));
+  return {{QStringLiteral("file"), file},
+          {QStringLiteral("edited"), isEdited},
+          {QStringLiteral("identical"), page.saved == page.file},
+          {QStringLiteral("bytes_outside"), static_cast<int>(OutsideBytes(page))},
+          {QStringLiteral("rung"), QLatin1String(RungName(editor.Compose().rung))},
+          {QStringLiteral("document_equal"), isEqual},
+          {QStringLiteral("ms"), milliseconds}};
+}
+
+}  // namespace velor
