@@ -104,19 +104,20 @@
 
   const holdsBlock = (fragment) => [...fragment.querySelectorAll('*')].some(dom.isBlock);
 
-  function makeRoom(range, fragment) {
-    const { deletion, selection } = velor;
-    const whole = !fragment.firstChild || selection.control(range) || deletion.spansUnits(range);
-    if (range.collapsed) return;
-    if (whole) deletion.remove(range);
-    else deletion.cut(range);
-  }
-
   // An id that the page has already stays where it is.
   function dropTakenIds(fragment) {
     for (const element of fragment.querySelectorAll('[id]')) {
       if (document.getElementById(element.id)) element.removeAttribute('id');
     }
+  }
+
+  // Removes what the fragment replaces; only then is it known which ids are free.
+  function makeRoom(range, fragment) {
+    const { deletion, selection } = velor;
+    const whole = !fragment.firstChild || selection.control(range) || deletion.spansUnits(range);
+    if (whole && !range.collapsed) deletion.remove(range);
+    else if (!range.collapsed) deletion.cut(range);
+    dropTakenIds(fragment);
   }
 
   velor.pasteHTML = (html) => velor.history.step('pasteHTML', () => {
@@ -125,7 +126,6 @@
     const fragment = parse(html);
     makeRoom(velor.selection.range(), fragment);
     if (!fragment.firstChild) return;
-    dropTakenIds(fragment);
     const { startContainer, startOffset } = velor.selection.range();
     if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
     else putInline(fragment, startContainer, startOffset);
