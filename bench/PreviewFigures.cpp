@@ -108,7 +108,9 @@ void PreviewFigures() {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("page.html"));
   QFile file(path);
-  if (file.open(QIODevice::WriteOnly)) file.write(SamplePage(PageSize, TellWhenShown));
+  if (file.open(QIODevice::WriteOnly)) {
+    file.write(SamplePage(PageSize).replace("</head>", QByteArray(TellWhenShown) + "</head>"));
+  }
   file.close();
 
   OurPreview ours(path);

@@ -3,10 +3,10 @@
 
 namespace velor::bench {
 
-QByteArray SamplePage(int bytes, const QByteArray &head) {
+QByteArray SamplePage(int bytes) {
   QByteArray page =
-      "<!DOCTYPE html>\r\n<html>\r\n<head><meta charset=\"utf-8\"><title>Sample</title>" + head +
-      "</head>\r\n<body>\r\n";
+      "<!DOCTYPE html>\r\n<html>\r\n<head><meta "
+      "charset=\"utf-8\"><title>Sample</title></head>\r\n<body>\r\n";
   for (int i = 0; page.size() < bytes; ++i) {
     if (i % 20 == 0) page += "<h2>Chapter " + QByteArray::number(i / 20) + "</h2>\r\n";
     if (i % 25 == 24)

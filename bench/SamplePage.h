@@ -18,7 +18,6 @@ inline constexpr std::array<Size, 4> Sizes = {Size{"10 KB", 10'000, 9},
                                               {"10 MB", 10'000'000, 1}};
 
 /// A page such as people have: headings, paragraphs with inline markup, a table now and then.
-/// `head` goes into its head as it stands.
-QByteArray SamplePage(int bytes, const QByteArray &head = {});
+QByteArray SamplePage(int bytes);
 
 }  // namespace velor::bench

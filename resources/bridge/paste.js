@@ -104,14 +104,6 @@
 
   const holdsBlock = (fragment) => [...fragment.querySelectorAll('*')].some(dom.isBlock);
 
-  function makeRoom(range, fragment) {
-    const { deletion, selection } = velor;
-    const whole = !fragment.firstChild || selection.control(range) || deletion.spansUnits(range);
-    if (range.collapsed) return;
-    if (whole) deletion.remove(range);
-    else deletion.cut(range);
-  }
-
   // An id that the page has already stays where it is.
   function dropTakenIds(fragment) {
     for (const element of fragment.querySelectorAll('[id]')) {
@@ -119,11 +111,19 @@
     }
   }
 
+  // Removes what the fragment replaces; only then is it known which ids are free.
+  function makeRoom(range, fragment) {
+    const { deletion, selection } = velor;
+    const whole = !fragment.firstChild || selection.control(range) || deletion.spansUnits(range);
+    if (whole && !range.collapsed) deletion.remove(range);
+    else if (!range.collapsed) deletion.cut(range);
+    dropTakenIds(fragment);
+  }
+
   // Puts a fragment in the place of the selection.
   velor.put = (fragment) => {
     makeRoom(velor.selection.range(), fragment);
     if (!fragment.firstChild) return;
-    dropTakenIds(fragment);
     const { startContainer, startOffset } = velor.selection.range();
     if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
     else putInline(fragment, startContainer, startOffset);
