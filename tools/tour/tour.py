@@ -152,6 +152,7 @@ class Tour:
         program.shot("07-source-editor")
         program.key("Escape")
         program.type("bold new")
+        wait_for(lambda: any(name.endswith("Column 18") for name in program.names("label")), "the typed words")
         program.press("Apply to Document")
         program.key("ctrl+F4")
         program.wait_gone("Apply to Document")

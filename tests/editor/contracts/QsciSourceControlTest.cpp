@@ -237,6 +237,10 @@ TEST_F(QsciEditing, TheSelectionsMovesAreTold) {
   source_.SetText(QStringLiteral("one two"));
   source_.SetCaret(0, 4);
   EXPECT_TRUE(QTest::qWaitFor([&] { return moves > 0; }));
+  int column = 0;
+  source_.SetSelectionListener([&] { column = source_.CaretColumn(); });
+  QTest::keyClicks(&Editor(), QStringLiteral("xy"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return column == 6; }));
 }
 
 TEST_F(QsciEditing, TenMegabytesAreThereWithoutBeingStyledWhole) {
