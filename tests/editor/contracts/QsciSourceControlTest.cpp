@@ -243,6 +243,17 @@ TEST_F(QsciEditing, TheSelectionsMovesAreTold) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return column == 6; }));
 }
 
+TEST_F(QsciEditing, AMegabyteInOneLineIsShownAndTypedInto) {
+  const QString line = QStringLiteral("<p>One more <b>paragraph</b> of it.</p>").repeated(26'000);
+  source_.SetText(line);
+  (void)Editor().grab();
+  source_.SetCaret(0, static_cast<int>(line.size()) - 4);
+  QTest::keyClicks(&Editor(), QStringLiteral("!"));
+  (void)Editor().grab();
+  EXPECT_EQ(source_.CaretColumn(), line.size() - 3);
+  EXPECT_TRUE(source_.Text().endsWith(QStringLiteral("it.!</p>")));
+}
+
 TEST_F(QsciEditing, TenMegabytesAreThereWithoutBeingStyledWhole) {
   const QString line = QStringLiteral("<p class=\"a\">One more <b>paragraph</b> of it.</p>\r\n");
   const QString text = line.repeated(10'000'000 / line.size());
