@@ -73,7 +73,7 @@ void ApplyFigures() {
   const QString path = folder.filePath(QStringLiteral("page.html"));
   const QString copy = folder.filePath(QStringLiteral("pageTMP.html"));
   for (const Size &size : Sizes) {
-    if (size.bytes < 100'000) continue;
+    if (size.bytes < 100'000 || size.bytes > 1'000'000) continue;
     const QByteArray page = SamplePage(size.bytes);
     WriteFile(path, page);
     editor.LoadDocument(ToLogic(path));

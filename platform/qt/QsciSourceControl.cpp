@@ -22,6 +22,7 @@ constexpr int EdgeMargin = 1;
 constexpr int EdgeWidth = 3;
 constexpr int FoldMargin = 2;
 constexpr int LineMarker = 0;
+constexpr int CaretUpdates = QsciScintilla::SC_UPDATE_SELECTION | QsciScintilla::SC_UPDATE_CONTENT;
 constexpr int FirstFoldMarker = QsciScintilla::SC_MARKNUM_FOLDEREND;
 constexpr int LastFoldMarker = QsciScintilla::SC_MARKNUM_FOLDEROPEN;
 /// The highest style number of the HTML lexer.
@@ -124,7 +125,8 @@ QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
   editor_->installEventFilter(this);
   connect(editor_, &QsciScintilla::linesChanged, this, &QsciSourceControl::FitLineNumbers);
   connect(editor_, &QsciScintilla::SCN_UPDATEUI, this, [this](int updated) {
-    const bool moved = (updated & QsciScintilla::SC_UPDATE_SELECTION) != 0;
+    // Typing moves the caret as well, and is told as a change of the content alone.
+    const bool moved = (updated & CaretUpdates) != 0;
     if (moved && selectionListener_) selectionListener_();
   });
 }

@@ -237,6 +237,21 @@ TEST_F(QsciEditing, TheSelectionsMovesAreTold) {
   source_.SetText(QStringLiteral("one two"));
   source_.SetCaret(0, 4);
   EXPECT_TRUE(QTest::qWaitFor([&] { return moves > 0; }));
+  int column = 0;
+  source_.SetSelectionListener([&] { column = source_.CaretColumn(); });
+  QTest::keyClicks(&Editor(), QStringLiteral("xy"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return column == 6; }));
+}
+
+TEST_F(QsciEditing, AMegabyteInOneLineIsShownAndTypedInto) {
+  const QString line = QStringLiteral("<p>One more <b>paragraph</b> of it.</p>").repeated(26'000);
+  source_.SetText(line);
+  (void)Editor().grab();
+  source_.SetCaret(0, static_cast<int>(line.size()) - 4);
+  QTest::keyClicks(&Editor(), QStringLiteral("!"));
+  (void)Editor().grab();
+  EXPECT_EQ(source_.CaretColumn(), line.size() - 3);
+  EXPECT_TRUE(source_.Text().endsWith(QStringLiteral("it.!</p>")));
 }
 
 TEST_F(QsciEditing, TenMegabytesAreThereWithoutBeingStyledWhole) {
