@@ -16,16 +16,24 @@ void MemoryJetStorage::ReadPage(jet::PageNumber number, jet::Page &page) {
 void MemoryJetStorage::WritePage(jet::PageNumber number, const jet::Page &page) {
   const qint64 start = qint64{number} * jet::PageBytes;
   if (memory_.file.size() < start + jet::PageBytes)
-    memory_.file.append(start + jet::PageBytes - memory_.file.size(), QChar(0).toLatin1());
+    memory_.file = memory_.file.leftJustified(start + jet::PageBytes, '\0');
   std::memcpy(memory_.file.data() + start, page.data(), jet::PageBytes);
-  ++memory_.modified;
-  ++memory_.writes;
+  Touch();
 }
 
 void MemoryJetStorage::Truncate(qint64 bytes) {
   memory_.file.truncate(bytes);
-  ++memory_.modified;
+  Touch();
+}
+
+void MemoryJetStorage::KeepModified(std::optional<qint64> nanoseconds) {
+  kept_ = nanoseconds;
+  if (!kept_) ++memory_.modified;
+}
+
+void MemoryJetStorage::Touch() {
   ++memory_.writes;
+  memory_.modified = kept_.value_or(memory_.modified + 1);
 }
 
 QString MemoryJetStorage::SetJournalAside() {

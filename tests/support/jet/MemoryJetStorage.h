@@ -34,7 +34,7 @@ class MemoryJetStorage : public JetStorage {
   void WritePage(jet::PageNumber number, const jet::Page &page) override;
   void Truncate(qint64 bytes) override;
   void Sync() override {}
-  void SetModified(qint64 nanoseconds) override { memory_.modified = nanoseconds; }
+  void KeepModified(std::optional<qint64> nanoseconds) override;
   void Backup() override { memory_.backup = memory_.file; }
 
   JournalState FindJournal() override {
@@ -49,7 +49,10 @@ class MemoryJetStorage : public JetStorage {
   QString SetJournalAside() override;
 
  private:
+  void Touch();
+
   JetMemory &memory_;
+  std::optional<qint64> kept_;
 };
 
 }  // namespace velor::fixture
