@@ -83,7 +83,7 @@ void FreeJetLongValue(JetPager &pager, JetBytes field) {
                            QStringLiteral("the value that would be replaced is damaged"));
   }
   for (const JetFoundRow &piece : *pieces) {
-    ReplaceJetRow(pager.Modify(piece.place.page), piece.place.slot, jet::SlotDeleted, {});
+    ReplaceJetRow(pager.Modify(piece.place.page), piece.place.slot, 0, {});
   }
 }
 

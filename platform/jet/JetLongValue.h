@@ -14,7 +14,9 @@ namespace velor {
 /// damaged.
 std::optional<QByteArray> ReadJetLongValue(JetPager &pager, JetBytes field);
 
-/// Gives back the rows that the value occupies outside its own row. Raises for a damaged value.
+/// Gives back the bytes that the value occupies outside its own row. Its slots stay, of length 0
+/// and without the mark of a deleted row: there are readers that, after such a mark on a page of
+/// long values, lose the row that follows it. Raises for a damaged value.
 void FreeJetLongValue(JetPager &pager, JetBytes field);
 
 /// The bytes in the row of a value that stands there itself.

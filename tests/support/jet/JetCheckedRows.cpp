@@ -168,7 +168,9 @@ void CheckMemos(JetCheckedPages &pages, const CheckedDefinition &table, const Ch
     qsizetype held = 0;
     for (const quint32 page : owned)
       held += std::count_if(pages.RowsOf(page).begin(), pages.RowsOf(page).end(),
-                            [](const CheckedRow &row) { return row.state != RowState::Deleted; });
+                            [](const CheckedRow &row) {
+                              return row.state != RowState::Deleted && row.start != row.end;
+                            });
     if (held != static_cast<qsizetype>(used.size()))
       pages.Complain(QStringLiteral("%1: %2 parts of long values are kept, %3 used")
                          .arg(name)

@@ -102,6 +102,27 @@ QString AsMdbtoolsSees(QString cell) {
   return cell;
 }
 
+/// The first cell in which two rows differ, from a little before the first differing character.
+QString Difference(const QStringList &meant, const QStringList &seen) {
+  constexpr qsizetype before = 10;
+  constexpr qsizetype shown = 40;
+  for (qsizetype i = 0; i < std::max(meant.size(), seen.size()); ++i) {
+    const QString expected = meant.value(i);
+    const QString got = seen.value(i);
+    if (expected == got && i < meant.size() && i < seen.size()) continue;
+    const qsizetype at =
+        std::mismatch(expected.begin(), expected.end(), got.begin(), got.end()).first -
+        expected.begin();
+    const qsizetype from = std::max<qsizetype>(at - before, 0);
+    return QStringLiteral(": row %1, column %2, character %3: meant ...%4, seen ...%5")
+        .arg(meant.value(0))
+        .arg(i)
+        .arg(at)
+        .arg(expected.mid(from, shown), got.mid(from, shown));
+  }
+  return {};
+}
+
 Reading Sorted(Reading reading) {
   for (auto &[name, rows] : reading) std::sort(rows.begin(), rows.end());
   return reading;
@@ -151,14 +172,17 @@ QString Disagreement(const Reading &meant, const Reading &seen, const QString &r
     const std::vector<QStringList> none;
     const std::vector<QStringList> &seenRows = found == seen.end() ? none : found->second;
     for (std::size_t i = 0; i < std::max(rows.size(), seenRows.size()); ++i) {
-      const QStringList expected = i < rows.size() ? rows[i] : QStringList();
-      const QStringList got = i < seenRows.size() ? seenRows[i] : QStringList();
-      if (expected != got)
-        return QStringLiteral("%1, %2: meant %3\nseen %4")
-            .arg(reader, table, expected.join(u'|'), got.join(u'|'));
+      const QString difference = Difference(i < rows.size() ? rows[i] : QStringList(),
+                                            i < seenRows.size() ? seenRows[i] : QStringList());
+      if (!difference.isEmpty()) return reader + QStringLiteral(", ") + table + difference;
     }
   }
   return {};
+}
+
+JetReaders::~JetReaders() {
+  mdbReader_.closeWriteChannel();
+  if (mdbReader_.state() != QProcess::NotRunning) mdbReader_.waitForFinished();
 }
 
 bool JetReaders::HasMdbReader() {

@@ -33,6 +33,8 @@ QString Disagreement(const Reading &meant, const Reading &seen, const QString &r
 /// has put it.
 class JetReaders {
  public:
+  ~JetReaders();
+
   /// The first disagreement about the file at rest, or an empty string.
   QString DisagreementOn(const QString &path, const FixtureFile &meant);
 
