@@ -6,6 +6,8 @@
 #include "platform/jet/JetTableRows.h"
 #include "platform/jet/JetText.h"
 
+#include <algorithm>
+
 namespace velor {
 
 JetCursor::JetCursor(JetPager &pager, const JetTable &table, std::vector<jet::PageNumber> pages)
@@ -74,6 +76,20 @@ std::optional<qint64> JetCursor::Integer(int column) const {
       break;
   }
   return std::nullopt;
+}
+
+bool JetCursor::IsWhole() const {
+  return std::all_of(
+      table_->columns.begin(), table_->columns.end(), [this](const JetColumn &column) {
+        return column.type == JetType::Boolean || row_.IsNull(column) || HasValue(column);
+      });
+}
+
+bool JetCursor::HasValue(const JetColumn &column) const {
+  const JetBytes field = row_.Field(column);
+  if (column.storage == JetStorageKind::Fixed) return !field.empty() || column.length == 0;
+  const bool isLong = column.type == JetType::Memo || column.type == JetType::Ole;
+  return !isLong || field.empty() || ReadJetLongValue(*pager_, field);
 }
 
 QVariant JetCursor::Value(int column) const {
