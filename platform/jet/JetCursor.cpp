@@ -79,17 +79,16 @@ std::optional<qint64> JetCursor::Integer(int column) const {
 }
 
 bool JetCursor::IsWhole() const {
-  return std::all_of(
-      table_->columns.begin(), table_->columns.end(), [this](const JetColumn &column) {
-        return column.type == JetType::Boolean || row_.IsNull(column) || HasValue(column);
-      });
+  return row_.IsWhole(*table_) &&
+         std::all_of(table_->columns.begin(), table_->columns.end(),
+                     [this](const JetColumn &column) { return HasLongValue(column); });
 }
 
-bool JetCursor::HasValue(const JetColumn &column) const {
+/// Where the column holds long values: whether all of this one is there.
+bool JetCursor::HasLongValue(const JetColumn &column) const {
+  if (column.type != JetType::Memo && column.type != JetType::Ole) return true;
   const JetBytes field = row_.Field(column);
-  if (column.storage == JetStorageKind::Fixed) return !field.empty() || column.length == 0;
-  const bool isLong = column.type == JetType::Memo || column.type == JetType::Ole;
-  return !isLong || field.empty() || ReadJetLongValue(*pager_, field);
+  return field.empty() || ReadJetLongValue(*pager_, field);
 }
 
 QVariant JetCursor::Value(int column) const {

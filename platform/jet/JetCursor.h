@@ -37,7 +37,7 @@ class JetCursor {
 
  private:
   bool EnterPage();
-  bool HasValue(const JetColumn &column) const;
+  bool HasLongValue(const JetColumn &column) const;
 
   JetPager *pager_;
   const JetTable *table_;

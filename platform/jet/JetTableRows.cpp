@@ -17,6 +17,21 @@ bool BelongsTo(const jet::Page &page, const JetTable &table) {
          jet::Get<quint32>(page.data() + jet::DataOwner) == table.definitionPage;
 }
 
+/// No two columns share a place, so that a change of one cannot change another.
+void CheckColumns(JetPager &pager, const JetTable &table) {
+  std::set<int> numbers;
+  std::set<int> variable;
+  for (const JetColumn &column : table.columns) {
+    const bool isVariable = column.storage == JetStorageKind::Variable;
+    if (numbers.insert(column.number).second &&
+        (!isVariable || variable.insert(column.variableIndex).second)) {
+      continue;
+    }
+    pager.NoteDamage(QStringLiteral("the column %1 of the table %2 shares its place with another")
+                         .arg(column.name, table.name));
+  }
+}
+
 /// The pages with room for rows are among the table's, and the map of all free pages, from which
 /// pages that are added have to be taken, is there.
 void CheckFreeMaps(JetPager &pager, const JetTable &table,
@@ -104,6 +119,7 @@ void NoteDamagedRow(JetPager &pager, const JetTable &table, const JetPlace &home
 
 void CheckJetTable(JetPager &pager, const JetTable &table) {
   const std::vector<jet::PageNumber> pages = JetTablePages(pager, table);
+  CheckColumns(pager, table);
   CheckFreeMaps(pager, table, pages);
   CheckMovedRows(pager, table, pages);
   JetCursor cursor(pager, table, pages);

@@ -74,8 +74,8 @@ QStringList Differences(const Content &before, const Content &after,
 }
 
 /// Complaints about what an update relies on: the rows and maps of the tables that the file shows,
-/// and the global map. Indexes and the maps of long values it neither reads nor touches, so that a
-/// file is written though those are damaged.
+/// and the global map. Indexes, the maps of long values and pages that no map names it neither
+/// reads nor touches, so that a file is written though those are damaged.
 QStringList ComplaintsAboutRows(const QStringList &complaints, const JetFile &file) {
   QStringList starts = {QStringLiteral("the global map")};
   for (const QString &name : file.TableNames())
@@ -86,7 +86,8 @@ QStringList ComplaintsAboutRows(const QStringList &complaints, const JetFile &fi
   QStringList about;
   for (const QString &complaint : complaints)
     for (const QString &start : starts)
-      if (complaint.startsWith(start)) about << complaint;
+      if (complaint.startsWith(start) && !complaint.endsWith(QStringLiteral("is not in its map")))
+        about << complaint;
   return about;
 }
 
