@@ -61,6 +61,7 @@ class Program:
         if os.geteuid() == 0:
             env["QTWEBENGINE_DISABLE_SANDBOX"] = "1"
         env.update(environment or {})
+        self.scale = float(env.get("QT_SCALE_FACTOR", "1"))
         self.log = open(os.path.join(shots, "program.log"), "a", encoding="utf-8")
         self.process = subprocess.Popen([executable], env=env, stdout=self.log, stderr=self.log)
         self.application = wait_for(self._application, "the program on the accessibility bus")
@@ -148,7 +149,8 @@ class Program:
         """Clicks the middle of a control; for buttons that answer with a dialog, which would hold
         the accessibility bus until it is closed."""
         box = Atspi.Component.get_extents(self.wait(name, role), Atspi.CoordType.SCREEN)
-        self.click(box.x + box.width // 2, box.y + box.height // 2)
+        # The accessibility bus knows nothing of the toolkit's scale.
+        self.click(int((box.x + box.width / 2) * self.scale), int((box.y + box.height / 2) * self.scale))
 
     def visible_windows(self):
         """The windows of the program on the screen; pop-up menus are windows too."""
