@@ -17,7 +17,7 @@ constexpr int FileKeyAt = 0x3E;
 
 template <typename Number>
 Number Get(const QByteArray &bytes, qsizetype at) {
-  Q_ASSERT(at >= 0 && at + qsizetype(sizeof(Number)) <= bytes.size());
+  if (at < 0 || at + qsizetype{sizeof(Number)} > bytes.size()) return 0;
   return qFromLittleEndian<Number>(bytes.constData() + at);
 }
 

@@ -8,7 +8,7 @@ namespace velor::fixture {
 
 inline constexpr int JetPageSize = 4096;
 
-/// Little-endian numbers inside a page; `at` is a byte offset.
+/// Little-endian numbers inside a page; `at` is a byte offset. What lies beyond the end reads as 0.
 quint16 Get16(const QByteArray &bytes, qsizetype at);
 quint32 Get24(const QByteArray &bytes, qsizetype at);
 quint32 Get32(const QByteArray &bytes, qsizetype at);
