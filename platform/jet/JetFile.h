@@ -71,8 +71,8 @@ class JetFile {
   void Commit();
   void Rollback();
 
-  /// Savepoints of a transaction are numbered by the caller, in rising order. A number that exists is
-  /// kept as it is; outside a transaction there are none.
+  /// Savepoints of a transaction are numbered by the caller, in rising order. A number that exists
+  /// is kept as it is; outside a transaction there are none.
   void Savepoint(int number);
   /// Undoes what happened after the savepoint, which remains.
   void RollbackTo(int number);

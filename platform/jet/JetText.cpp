@@ -10,6 +10,7 @@ namespace {
 constexpr char16_t CompressionMark = 0xFEFF;
 
 QString DecodeUtf16(JetBytes bytes) {
+  if (bytes.empty()) return QStringLiteral("");
   QString text(static_cast<qsizetype>(bytes.size() / 2), Qt::Uninitialized);
   qFromLittleEndian<char16_t>(bytes.data(), text.size(), text.data());
   return text;

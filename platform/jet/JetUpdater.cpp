@@ -45,7 +45,7 @@ void CheckColumn(const JetTable &table, const JetColumn &column) {
 
 std::optional<QByteArray> StoredValue(const JetTable &table, const JetColumn &column,
                                       const QVariant &value) {
-  if (value.isNull()) return std::nullopt;
+  if (!value.isValid()) return std::nullopt;
   const QString text = value.toString();
   if (column.type == JetType::Text && text.size() * 2 > column.length) {
     Refuse(table, column,

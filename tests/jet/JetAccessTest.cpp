@@ -277,6 +277,19 @@ TEST_F(JetAccessTest, RefusesValuesAndColumnsThatItCannotChange) {
   EXPECT_EQ(numberFor("Project", "Path", QString(255, u'a')), ErrorNumber::None);
 }
 
+TEST_F(JetAccessTest, TellsTheEmptyTextFromNull) {
+  const auto file = JetFile::Open(path_);
+  const JetTable &table = *file->FindTable(QStringLiteral("Project"));
+  const int path = table.ColumnIndex(QStringLiteral("Path"));
+  for (const QVariant &value : {QVariant(QString()), QVariant()}) {
+    file->UpdateRow(table, FirstRow(*file, table), {{path, value}});
+    JetCursor cursor = file->Scan(table);
+    ASSERT_TRUE(cursor.Next());
+    EXPECT_EQ(cursor.IsNull(path), !value.isValid());
+    EXPECT_EQ(cursor.Value(path).isValid(), value.isValid());
+  }
+}
+
 TEST_F(JetAccessTest, SeesWhatAnotherProgramHasWrittenFromTheNextStatementOn) {
   const auto file = JetFile::Open(path_);
   const QString before = First(*file, "Project", "Path");

@@ -45,7 +45,8 @@ TEST(JetText, ThatCannotBeStoredIsRefused) {
 }
 
 TEST(JetText, IsReadInBothForms) {
-  EXPECT_EQ(Decoded({}), "");
+  EXPECT_EQ(DecodeJetText({}), "");
+  EXPECT_FALSE(DecodeJetText({}).isNull()) << "the empty text is not null";
   EXPECT_EQ(Decoded(QByteArray("a\0\x2D\x4E", 4)), QStringLiteral("a中"));
   EXPECT_EQ(Decoded("\xFF\xFE"
                     "abc\xE9"),
