@@ -52,7 +52,7 @@ frmProjectManager::~frmProjectManager() = default;
 void frmProjectManager::Build() {
   constexpr int Margin = 14;
   constexpr int Spacing = 10;
-  constexpr QSize ComfortableSize(680, 460);
+  constexpr QSize ComfortableSize(860, 500);
   const auto column = [](QWidget *widget) {
     auto *layout = new QVBoxLayout(widget);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);

@@ -8,6 +8,7 @@
 #include "insert/frmInsertElement.h"
 #include "projects/frmProjectManager.h"
 #include "tests/app/WindowFixture.h"
+#include "tests/support/Checks.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -177,6 +178,40 @@ TEST_F(ProjectTest, OpeningAProjectReplacesPagesTabsAndChooser) {
   EXPECT_EQ(Chooser().itemText(0), QStringLiteral("About"));
   EXPECT_EQ(Chooser().itemData(1).toInt(), 30);
   EXPECT_TRUE(Item("mnuInsert")->isEnabled());
+}
+
+TEST_F(ProjectTest, APageThatStaysOpenHasNoTabAndClosesLaterWithoutHarm) {
+  frmMain &kept = NewPage();
+  NewPage().close();
+  Component(kept).Edit(QStringLiteral("<p>unsaved</p>"));
+  const QString question =
+      QStringLiteral("You have made changes to this document. Do you want to save it?");
+  dialogs.ExpectModal(OpenProject);
+  dialogs.ExpectMessage(question, MessageAnswer::Cancel);
+  Choose("mnuView_ProjectMan");
+  ASSERT_FALSE(window.Context().pages.Page(1).isNull());
+  // The slot that was closed before is passed over, and the project's page has the next one.
+  EXPECT_TRUE(window.Context().pages.Page(2).isNull());
+  ASSERT_EQ(Tabs().count(), 1);
+  EXPECT_EQ(Tabs().tabData(0).toString(), QStringLiteral("key3"));
+  dialogs.ExpectMessage(question, MessageAnswer::No);
+  kept.close();
+  DeleteClosedWindows();
+  EXPECT_TRUE(window.Context().pages.Page(1).isNull());
+  EXPECT_FALSE(window.Context().pages.Page(3).isNull());
+}
+
+TEST_F(ProjectTest, AMissingHomePageIsReportedAfterEverythingBeforeIt) {
+  NewPage();
+  files.Delete(Sample + QStringLiteral("\\Files\\Home.htm"));
+  ErrorNumber error = ErrorNumber::None;
+  dialogs.ExpectModal([&](QWidget &manager) { error = ErrorOf([&] { OpenProject(manager); }); });
+  Choose("mnuView_ProjectMan");
+  EXPECT_EQ(error, ErrorNumber::FileNotFound);
+  EXPECT_EQ(Tabs().count(), 0);
+  EXPECT_EQ(Chooser().count(), 2);
+  EXPECT_TRUE(window.Context().pages.Page(1).isNull());
+  EXPECT_EQ(window.Context().pages.PageCount(), 1);
 }
 
 TEST_F(ProjectTest, AManagerHiddenByOpeningIsKeptAClosedOneIsNot) {

@@ -70,6 +70,13 @@ TEST_F(RecordListTest, KeepsTheOrderOfTheTable) {
   EXPECT_EQ(Shown(0, 0), QStringLiteral("10"));
 }
 
+TEST_F(RecordListTest, TellsInATipWhatANarrowColumnCutsOff) {
+  table.At(1, 1) = QString(300, QChar(u'n'));
+  list.SetArray(table);
+  list.ReBind();
+  EXPECT_EQ(list.model()->index(0, 1).data(Qt::ToolTipRole).toString(), QString(300, QChar(u'n')));
+}
+
 TEST_F(RecordListTest, CannotBeWrittenInto) {
   list.SetArray(table);
   list.ReBind();

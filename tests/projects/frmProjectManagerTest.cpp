@@ -16,6 +16,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 #include <QTabWidget>
 #include <QTest>
 
@@ -170,7 +171,10 @@ TEST_F(ProjectManagerTest, TakesItsLastThreeTabsOutOfUse) {
   EXPECT_EQ(tabs->currentIndex(), 0);
   EXPECT_TRUE(tabs->isTabVisible(0));
   EXPECT_TRUE(tabs->isTabVisible(1));
-  for (int tab = 2; tab <= 4; ++tab) EXPECT_FALSE(tabs->isTabVisible(tab));
+  for (int tab = 2; tab <= 4; ++tab) {
+    EXPECT_FALSE(tabs->isTabVisible(tab));
+    EXPECT_TRUE(tabs->widget(tab)->findChildren<QWidget *>().isEmpty());
+  }
 }
 
 TEST_F(ProjectManagerTest, IsStyledBeforeItReadsTheList) {
@@ -247,6 +251,28 @@ TEST_F(ProjectManagerTest, UsesOneResultSetForAllItsQueries) {
   EXPECT_EQ(database.recordsetsMade, 2);
   Control<QPushButton>(manager, U("cmdOpen"))->click();
   EXPECT_EQ(database.recordsetsMade, 2);
+}
+
+TEST_F(ProjectManagerTest, KeepsItsResultSetOpenBetweenQueriesAndLetsItGoAtTheEnd) {
+  Open();
+  EXPECT_EQ(database.recordsetsAlive, 1);
+  Click();
+  EXPECT_EQ(log.front(), U("CloseRecordset()"));
+  EXPECT_EQ(std::count(log.begin(), log.end(), U("CloseRecordset()")), 3);
+  EXPECT_EQ(database.recordsetsAlive, 1);
+  window.reset();
+  EXPECT_EQ(database.recordsetsAlive, 0);
+}
+
+TEST_F(ProjectManagerTest, ShowsDatesInFull) {
+  database.results[ByDate].rows[0][3] = U("2004-12-28 23:58:58");
+  Open();
+  auto *list = Get<RecordList>("LsHistory");
+  const int text = list->fontMetrics().horizontalAdvance(U("2004-12-28 23:58:58"));
+  EXPECT_GE(list->columnWidth(2),
+            text + 2 * list->style()->pixelMetric(QStyle::PM_FocusFrameHMargin));
+  // A name of sixty letters has room besides.
+  EXPECT_GE(list->columnWidth(1), list->fontMetrics().averageCharWidth() * 60);
 }
 
 TEST_F(ProjectManagerTest, OpensTheProjectOfTheCurrentRow) {

@@ -15,7 +15,10 @@ namespace {
 
 class FakeRecordset final : public Recordset {
  public:
-  explicit FakeRecordset(FakeDatabase &database) : database_(database) {}
+  explicit FakeRecordset(FakeDatabase &database) : database_(database) {
+    ++database_.recordsetsAlive;
+  }
+  ~FakeRecordset() override { --database_.recordsetsAlive; }
 
   void SetCursorLocation(CursorLocation location) override {
     Note(database_.log_, QStringLiteral("SetCursorLocation(%1)").arg(static_cast<int>(location)));

@@ -47,6 +47,7 @@ class FakeDatabase {
   int openOptions = 0;
   int connectionsMade = 0;
   int recordsetsMade = 0;
+  int recordsetsAlive = 0;
 
   std::unique_ptr<DatabaseConnection> CreateConnection();
 
