@@ -61,6 +61,7 @@ class Program:
         if os.geteuid() == 0:
             env["QTWEBENGINE_DISABLE_SANDBOX"] = "1"
         env.update(environment or {})
+        self.scale = float(env.get("QT_SCALE_FACTOR", "1"))
         self.log = open(os.path.join(shots, "program.log"), "a", encoding="utf-8")
         self.process = subprocess.Popen([executable], env=env, stdout=self.log, stderr=self.log)
         self.application = wait_for(self._application, "the program on the accessibility bus")
@@ -153,7 +154,9 @@ class Program:
     def hover(self, node):
         """Puts the pointer on a control, where a person would."""
         place = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
-        self.move(place.x + place.width // 2, place.y + place.height // 2)
+        # The bridge tells device-independent pixels.
+        self.move(round((place.x + place.width / 2) * self.scale),
+                  round((place.y + place.height / 2) * self.scale))
 
     def visible_windows(self):
         """The windows of the program on the screen; pop-up menus are windows too."""
