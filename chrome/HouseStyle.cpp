@@ -193,6 +193,30 @@ void DrawSeparator(const QStyleOption *option, QPainter *painter) {
       Hairline(option->palette));
 }
 
+/// The buttons of a maximised page window, at the end of the menu bar.
+void DrawMdiButton(const QStyleOptionComplex *option, QPainter *painter, const QRect &place,
+                   QStyle::SubControl button) {
+  if (option->activeSubControls & button) {
+    const bool down = option->state & QStyle::State_Sunken;
+    FillRounded(painter, place, down ? PressedField(option->palette) : HoverField(option->palette));
+  }
+  const QRectF sign = QRectF(place).adjusted(5, 5, -5, -5);
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setBrush(Qt::NoBrush);
+  painter->setPen(QPen(option->palette.color(QPalette::ButtonText), 1.4, Qt::SolidLine,
+                       Qt::RoundCap, Qt::RoundJoin));
+  if (button == QStyle::SC_MdiCloseButton) {
+    painter->drawLine(sign.topLeft(), sign.bottomRight());
+    painter->drawLine(sign.bottomLeft(), sign.topRight());
+  } else if (button == QStyle::SC_MdiNormalButton) {
+    painter->drawRect(sign);
+  } else {
+    painter->drawLine(sign.bottomLeft(), sign.bottomRight());
+  }
+  painter->restore();
+}
+
 void DrawMenuBarItem(const QStyleOptionMenuItem *item, QPainter *painter, const QStyle *style) {
   painter->fillRect(item->rect, item->palette.window());
   const bool enabled = item->state & QStyle::State_Enabled;
@@ -300,6 +324,13 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     }
     DrawEntryBox(option, painter, widget);
     DrawComboArrow(option, painter, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
+    return;
+  }
+  if (control == CC_MdiControls) {
+    for (const SubControl button : {SC_MdiMinButton, SC_MdiNormalButton, SC_MdiCloseButton}) {
+      if (!(option->subControls & button)) continue;
+      DrawMdiButton(option, painter, subControlRect(control, option, button, widget), button);
+    }
     return;
   }
   QProxyStyle::drawComplexControl(control, option, painter, widget);

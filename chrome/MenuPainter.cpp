@@ -101,20 +101,25 @@ void DrawCheck(QPainter *painter, const QRect &item, const QColor &color) {
 MenuLook LegibleLook(const MenuLook &look, const QPalette &palette) {
   MenuLook shown = look;
   QColor field = palette.color(QPalette::Base);
-  if (!look.background.isNull()) {
-    if (ShadeOf(palette) == Shade::Dark) shown.background = Tinted(look.background, field);
+  const bool high = IsHighContrast(palette);
+  const double legible = high ? HighLegibleContrast : LegibleContrast;
+  if (high) shown.background = QPixmap();
+  if (!shown.background.isNull()) {
+    if (ShadeOf(palette) == Shade::Dark) shown.background = Tinted(shown.background, field);
     field = Average(shown.background);
   }
-  if (Contrast(shown.text, field) < LegibleContrast) {
+  if (Contrast(shown.text, field) < legible) {
     const QColor own = palette.color(QPalette::Text);
     const QColor paper = palette.color(QPalette::Base);
     shown.text = Contrast(own, field) >= Contrast(paper, field) ? own : paper;
   }
-  if (Contrast(shown.highlightText, shown.highlight) < LegibleContrast) {
+  if (Contrast(shown.highlightText, shown.highlight) < legible) {
     shown.highlight = palette.color(QPalette::Highlight);
     shown.highlightText = palette.color(QPalette::HighlightedText);
   }
-  if (ShadeOf(palette) == Shade::Dark && Contrast(shown.border, field) < 1.5) {
+  if (high) {
+    shown.border = palette.color(QPalette::WindowText);
+  } else if (ShadeOf(palette) == Shade::Dark && Contrast(shown.border, field) < 1.5) {
     shown.border = palette.color(QPalette::Light);
   }
   return shown;

@@ -49,8 +49,9 @@ struct MenuLook {
   QColor highlightText = Qt::white;
 };
 
-/// The look as it is shown on a palette: on a dark one the picture only tints the palette's field;
-/// colours that could not be read on what lies behind them give way to the palette's.
+/// The look as it is shown on a palette: on a dark one the picture only tints the palette's field,
+/// on a high-contrast one there is none; colours that could not be read on what lies behind them
+/// give way to the palette's.
 MenuLook LegibleLook(const MenuLook &look, const QPalette &palette);
 
 /// The menu painter for Qt's menus: a style of its own for each of them.

@@ -111,10 +111,18 @@ QPalette PaletteFor(Shade shade) {
   return palette;
 }
 
+bool IsHighContrast(const QPalette &palette) {
+  // Ordinary palettes, the toolkit's own among them, stop short of this.
+  constexpr double Ordinary = 19.5;
+  return Contrast(palette.color(QPalette::WindowText), palette.color(QPalette::Window)) > Ordinary;
+}
+
 void DressApplication(QApplication &application) {
-  const Shade shade = ChosenShade();
+  const QPalette desktops = QGuiApplication::palette();
+  const bool keeps = !qEnvironmentVariableIsSet("VELOR_PALETTE") && IsHighContrast(desktops);
+  const QPalette palette = keeps ? desktops : PaletteFor(ChosenShade());
   QApplication::setStyle(new HouseStyle);
-  QApplication::setPalette(PaletteFor(shade));
+  QApplication::setPalette(palette);
   application.setWindowIcon(ProgramIcon());
 }
 

@@ -17,7 +17,11 @@ Shade ChosenShade();
 QPalette PaletteFor(Shade shade);
 Shade ShadeOf(const QPalette &palette);
 
-/// Style, palette and icon of the whole program; called once, before the first window.
+/// Whether somebody chose the palette for its contrast: nothing but black on white, or the like.
+bool IsHighContrast(const QPalette &palette);
+
+/// Style, palette and icon of the whole program; called once, before the first window. A desktop's
+/// high-contrast palette stays as it is, unless the environment asks for one of ours.
 void DressApplication(QApplication &application);
 
 /// The thin line between neighbouring areas.
@@ -36,6 +40,8 @@ QColor PressedField(const QPalette &palette);
 double Contrast(const QColor &one, const QColor &other);
 /// The least contrast at which text counts as legible.
 inline constexpr double LegibleContrast = 4.5;
+/// The same where the palette was chosen for its contrast.
+inline constexpr double HighLegibleContrast = 7;
 
 inline constexpr int ToolIconSize = 20;
 inline constexpr int MenuIconSize = 16;

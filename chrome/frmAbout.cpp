@@ -124,6 +124,7 @@ frmAbout::frmAbout(Runtime &runtime, QWidget *parent) : QDialog(parent), runtime
   column->addSpacing(Ridges * RidgeDistance + 2);
   column->addWidget(BuildFoot());
   column->setSizeConstraint(QLayout::SetFixedSize);
+  findChild<QPushButton *>()->setFocus();
 }
 
 QWidget *frmAbout::BuildHead() {
@@ -160,7 +161,6 @@ QWidget *frmAbout::BuildFoot() {
   connect(mail, &QLabel::linkActivated, this, &frmAbout::WriteTo);
   auto *close = new QDialogButtonBox(QDialogButtonBox::Close);
   connect(close, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  close->button(QDialogButtonBox::Close)->setFocus();
 
   auto *grid = new QGridLayout(foot);
   grid->setContentsMargins(Margin, Margin - RidgeDistance, Margin, Margin - RidgeDistance);

@@ -5,6 +5,9 @@
 #include "platform/RuntimeError.h"
 #include "tests/app/WindowFixture.h"
 
+#include <QFile>
+#include <QTemporaryDir>
+
 namespace velor {
 namespace {
 
@@ -112,6 +115,20 @@ TEST(ProgramMenuPictures, AreTwo) {
     EXPECT_EQ(error.Number(), ErrorNumber::IndexOutOfBounds);
   }
   EXPECT_THROW(pictures.file(QStringLiteral("/nowhere/picture.png")), RuntimeError);
+}
+
+TEST(ProgramMenuPictures, ADamagedFileChangesNothing) {
+  QTemporaryDir folder;
+  QFile damaged(folder.filePath(QStringLiteral("sky.png")));
+  ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+  damaged.write("\x89PNG\r\n\x1a\n and then nothing of the kind");
+  damaged.close();
+  FakeRegistry registry;
+  modSettingManager::SetOption(registry, QStringLiteral("MenuStyle"), QStringLiteral("0"));
+  modSettingManager::SetOption(registry, QStringLiteral("MenuBackground"), damaged.fileName());
+  RecordingPainter painter;
+  PrepareMenus(registry, ProgramMenuPictures(), painter);
+  EXPECT_TRUE(painter.calls.constFirst().startsWith(QStringLiteral("text")));
 }
 
 class MenuStyleItems : public WindowFixture {

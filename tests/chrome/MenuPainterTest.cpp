@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace velor {
@@ -113,6 +114,66 @@ TEST_F(MenuPainterTest, DarkPicturesGetLightText) {
   painter.SetBackground(Filled(QColor(20, 20, 40)));
   const MenuLook look = LegibleLook(painter.Look(), PaletteFor(Shade::Light));
   EXPECT_GE(Contrast(look.text, QColor(20, 20, 40)), LegibleContrast);
+}
+
+TEST_F(MenuPainterTest, OnAHighContrastPaletteNeitherPictureNorPaleColoursRemain) {
+  QPalette palette(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white,
+                   Qt::black, Qt::black);
+  palette.setColor(QPalette::Highlight, Qt::yellow);
+  palette.setColor(QPalette::HighlightedText, Qt::black);
+  painter.SetBackground(Filled(QColor(250, 240, 200)));
+  painter.SetHighlightColor(0x808080);
+  const MenuLook look = LegibleLook(painter.Look(), palette);
+  EXPECT_TRUE(look.background.isNull());
+  EXPECT_EQ(look.text, QColor(Qt::white));
+  EXPECT_EQ(look.border, QColor(Qt::white));
+  EXPECT_EQ(look.highlight, QColor(Qt::yellow));
+  EXPECT_EQ(look.highlightText, QColor(Qt::black));
+}
+
+TEST_F(MenuPainterTest, TheProgramsOwnPicturesAreLegibleOnEveryPalette) {
+  for (const int number : {1, 2}) {
+    const QPixmap picture(QStringLiteral(":/velor/menu/%1.png").arg(number));
+    ASSERT_FALSE(picture.isNull());
+    painter.SetBackground(picture);
+    for (const Shade shade : {Shade::Light, Shade::Dark}) {
+      const MenuLook look = LegibleLook(painter.Look(), PaletteFor(shade));
+      const QImage field = look.background.toImage();
+      double least = 21;
+      for (int y = 0; y < field.height(); ++y) {
+        for (int x = 0; x < field.width(); ++x) {
+          least = std::min(least, Contrast(look.text, field.pixelColor(x, y)));
+        }
+      }
+      EXPECT_GE(least, LegibleContrast) << number;
+    }
+  }
+}
+
+TEST_F(MenuPainterTest, PopUpMenusArePaintedAlike) {
+  auto *popup = new QMenu(&window);
+  popup->addAction(QStringLiteral("Cut"));
+  painter.SetBackground(Filled(QColor(250, 240, 200)));
+  painter.TakeOver(window);
+  popup->setPalette(PaletteFor(Shade::Light));
+  popup->resize(popup->sizeHint());
+  const QImage shown = popup->grab().toImage();
+  EXPECT_EQ(shown.pixelColor(0, shown.height() / 2), QColor(0, 0, 128));
+  EXPECT_EQ(shown.pixelColor(shown.width() - 8, shown.height() - 8), QColor(250, 240, 200));
+}
+
+TEST_F(MenuPainterTest, AnItemWithoutAPictureKeepsItsPlainLook) {
+  painter.SetBackground(Filled(Qt::white));
+  painter.TakeOver(window);
+  const QImage before = Shown(Shade::Light);
+  ImageList images;
+  images.insert(QStringLiteral("mnuopen"), IconFor(QStringLiteral("open")));
+  MenuPictureSweep(window, images, painter);
+  const QImage after = Shown(Shade::Light);
+  const QRect plainPlace = menu->actionGeometry(plain);
+  EXPECT_EQ(before.copy(plainPlace), after.copy(plainPlace));
+  const QRect itemPlace = menu->actionGeometry(item);
+  EXPECT_NE(before.copy(itemPlace), after.copy(itemPlace));
 }
 
 TEST_F(MenuPainterTest, TheSweepLooksPicturesUpByTheNameInLowerCase) {

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/Palette.h"
 
+#include <QApplication>
+#include <QStyle>
+#include <QStyleFactory>
+
 #include <gtest/gtest.h>
 
 namespace velor {
@@ -31,6 +35,31 @@ TEST(ChosenShade, IsTheEnvironmentsWhereItSaysSo) {
   qputenv("VELOR_PALETTE", "light");
   EXPECT_EQ(ChosenShade(), Shade::Light);
   qunsetenv("VELOR_PALETTE");
+}
+
+TEST(HighContrast, IsBlackOnWhiteAndNoOrdinaryPalette) {
+  const QColor black(Qt::black);
+  const QColor white(Qt::white);
+  const QPalette high(white, black, white, black, black, white, white, black, black);
+  EXPECT_TRUE(IsHighContrast(high));
+  EXPECT_FALSE(IsHighContrast(PaletteFor(Shade::Light)));
+  EXPECT_FALSE(IsHighContrast(PaletteFor(Shade::Dark)));
+  EXPECT_FALSE(IsHighContrast(QStyleFactory::create(QStringLiteral("Fusion"))->standardPalette()));
+}
+
+TEST(HighContrast, OfTheDesktopStaysWhenTheProgramIsDressed) {
+  const QPalette before = QApplication::palette();
+  QPalette high(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white,
+                Qt::black, Qt::black);
+  QApplication::setPalette(high);
+  DressApplication(*qApp);
+  EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::black));
+  qputenv("VELOR_PALETTE", "light");
+  DressApplication(*qApp);
+  EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
+  qunsetenv("VELOR_PALETTE");
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setPalette(before);
 }
 
 TEST(Contrast, IsTwentyOneBetweenBlackAndWhite) {

@@ -22,10 +22,17 @@ class Photographer:
         self.name = name
         self.factor = factor
         self.count = 0
+        self.windows = len(program.visible_windows())
 
     def shot(self, what):
+        """Once what it shows has settled; a caret or the About box never quite does."""
         self.count += 1
-        self.program.shot(f"{self.name}-{self.count:02}-{what}")
+        last = None
+        for _ in range(6):
+            with open(self.program.shot(f"{self.name}-{self.count:02}-{what}"), "rb") as picture:
+                before, last = last, picture.read()
+            if last == before:
+                break
 
     def hover(self, name, role=None, within=None):
         self.program.hover(self.program.wait(name, role, within))
@@ -40,26 +47,30 @@ class Photographer:
 
     def dialog(self, opener, what, hovered):
         """Opens a dialog, shows it idle and hovered, and closes it by Escape."""
-        before = len(self.program.visible_windows())
         opener()
         self.program.wait(*hovered)
         self.shot(what)
         self.hover(*hovered)
         self.shot(what + "-hovered")
         self.away()
-        self.close(what, before)
+        self.close(what)
 
     def popup(self, opener, what, *further):
-        before = len(self.program.visible_windows())
+        self.away()
+        wait_for(self.is_alone, "tooltips to go")
         self.program.open_popup(opener)
         for key in further:
             self.program.key(key)
         self.shot(what)
-        self.close(what, before)
+        self.close(what)
 
-    def close(self, what, before):
+    def is_alone(self):
+        """Whether the main window is all that is on the screen."""
+        return len(self.program.visible_windows()) <= self.windows
+
+    def close(self, what):
         def closed():
-            if len(self.program.visible_windows()) <= before:
+            if self.is_alone():
                 return True
             self.program.key("Escape")
             return False

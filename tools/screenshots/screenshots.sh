@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Makes the screenshots of the main window: both palettes, 100 % and 200 %.
+# Makes the screenshots of every window: both palettes, 100 % and 200 %.
 # Usage: screenshots.sh [RUN_FOLDER [OUT_FOLDER]]
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)

@@ -163,8 +163,9 @@ class Program:
     def hover(self, node):
         """Puts the pointer on a control, where a person would."""
         place = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
-        # The accessibility bus knows nothing of the toolkit's scale.
-        self.move(int((place.x + place.width / 2) * self.scale), int((place.y + place.height / 2) * self.scale))
+        # The bridge tells device-independent pixels.
+        self.move(round((place.x + place.width / 2) * self.scale),
+                  round((place.y + place.height / 2) * self.scale))
 
     def visible_windows(self):
         """The windows of the program on the screen; pop-up menus are windows too."""
