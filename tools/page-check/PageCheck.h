@@ -14,6 +14,8 @@ namespace velor {
 /// bytes.
 class PageCheck {
  public:
+  explicit PageCheck(EditingEngine &engine) : engine_(engine) {}
+
   /// The kinds of edit, in the words of the command line.
   static const QStringList &Kinds();
 
@@ -23,7 +25,7 @@ class PageCheck {
   QJsonObject Run(const QString &file, const QString &kind, int place);
 
  private:
-  EditingEngine engine_;
+  EditingEngine &engine_;
   QTemporaryDir scratch_;
 };
 

@@ -39,7 +39,8 @@ int main(int argc, char **argv) {
   }
   if (arguments.isEmpty()) return Usage();
   try {
-    velor::PageCheck check;
+    velor::EditingEngine engine;
+    velor::PageCheck check(engine);
     for (const QString &file : arguments) {
       const QJsonDocument line(check.Run(file, kind, place));
       std::printf("%s\n", line.toJson(QJsonDocument::Compact).constData());

@@ -50,6 +50,10 @@ void EngineVerifier::Foresee(const QString &text, std::function<void()> then) {
   if (isReady_) Ask();
 }
 
+std::int64_t EngineVerifier::ProcessId() const {
+  return page_ == nullptr ? 0 : page_->renderProcessPid();
+}
+
 void EngineVerifier::Start() {
   isReady_ = false;
   page_ = std::make_unique<EditorPage>(&engine_.Profile(), engine_.Guard(), nullptr);

@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -29,6 +30,9 @@ class EngineVerifier : public QObject, public PageVerifier {
   /// Has the answer found out; `then` runs when it is known, from inside the engine. A later call
   /// replaces one that waits.
   void Foresee(const QString &text, std::function<void()> then);
+
+  /// The process that parses; 0 for none.
+  std::int64_t ProcessId() const;
 
   /// The answers that are known already, without a wait.
   class KnownAnswers : public PageVerifier {
