@@ -74,6 +74,7 @@ class MfrmProgram final : public QMainWindow,
   void SetStatusText(const QString &text) override;
   void ReportInStatusBar(const QString &message) override;
   void PopUpContextMenu(QPoint screenPosition) override;
+  void TakeDroppedFiles(const QStringList &paths, frmMain *page) override;
   FileDialog &SharedFileDialog() override;
 
  Q_SIGNALS:
@@ -84,6 +85,8 @@ class MfrmProgram final : public QMainWindow,
 
  protected:
   void closeEvent(QCloseEvent *event) override;
+  void dragEnterEvent(QDragEnterEvent *event) override;
+  void dropEvent(QDropEvent *event) override;
 
  private:
   // CommandHost

@@ -62,6 +62,7 @@ class FakeMainWindow final : public MainWindow {
   void SetStatusText(const QString &text) override;
   void ReportInStatusBar(const QString &message) override;
   void PopUpContextMenu(QPoint screenPosition) override;
+  void TakeDroppedFiles(const QStringList &paths, frmMain *page) override;
   FileDialog &SharedFileDialog() override { return dialog_; }
 
  private:
