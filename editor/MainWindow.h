@@ -3,12 +3,14 @@
 
 #include <QPoint>
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
 namespace velor {
 
 class FileDialog;
+class frmMain;
 
 /// What a page window needs of the window that holds it. MfrmProgram implements it; tests have a
 /// recording fake. Writes to boxes and tabs through it never fire the handlers meant for the
@@ -71,6 +73,10 @@ class MainWindow {
 
   /// Pops up the context menu of the editing area.
   virtual void PopUpContextMenu(QPoint screenPosition) = 0;
+
+  /// Files were dropped, paths in logic form: pages are opened, pictures go into `page` at its
+  /// caret where there is one.
+  virtual void TakeDroppedFiles(const QStringList &paths, frmMain *page) = 0;
 
   /// The one file dialog that Open, Save and Save As share.
   virtual FileDialog &SharedFileDialog() = 0;

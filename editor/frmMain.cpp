@@ -228,4 +228,8 @@ void frmMain::ComponentReported(const QString &message) {
   context_.mainWindow.ReportInStatusBar(message);
 }
 
+void frmMain::FilesDropped(const QStringList &paths) {
+  context_.mainWindow.TakeDroppedFiles(paths, this);
+}
+
 }  // namespace velor

@@ -84,6 +84,7 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   void ContextMenuRequested(QPoint screenPosition) override;
   void MouseNotified(int clientX, int clientY) override;
   void ComponentReported(const QString &message) override;
+  void FilesDropped(const QStringList &paths) override;
 
   void BuildToolBar();
   /// A button of tbrQuick by its key.

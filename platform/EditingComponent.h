@@ -40,6 +40,9 @@ class EditingListener {
   virtual void MouseNotified(int clientX, int clientY) = 0;
   /// Something a person should read in the status bar (the page's engine stopped, came back ...).
   virtual void ComponentReported(const QString &message) = 0;
+  /// Files were dropped on the page, paths in logic form. The caret is where they were dropped; the
+  /// component does nothing else with them.
+  virtual void FilesDropped(const QStringList &) {}
 };
 
 /// The surface on which a page is edited as it looks. Page scripts never run in it, nothing

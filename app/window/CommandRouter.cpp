@@ -15,6 +15,10 @@
 #include "platform/ProgramValues.h"
 #include "platform/RuntimeError.h"
 
+#include <QPointer>
+
+#include <algorithm>
+
 namespace velor {
 namespace {
 
@@ -22,6 +26,18 @@ constexpr int PreviewMode = 4;
 
 const QString NewItem = QStringLiteral("mnuNew");
 const QString OpenItem = QStringLiteral("mnuOpen");
+
+const QStringList PageEndings = {QStringLiteral(".htm"), QStringLiteral(".html")};
+const QStringList PictureEndings = {QStringLiteral(".gif"),  QStringLiteral(".jpg"),
+                                    QStringLiteral(".jpeg"), QStringLiteral(".png"),
+                                    QStringLiteral(".bmp"),  QStringLiteral(".webp"),
+                                    QStringLiteral(".svg"),  QStringLiteral(".ico")};
+
+bool HasEnding(const QString &path, const QStringList &endings) {
+  return std::any_of(endings.begin(), endings.end(), [&path](const QString &ending) {
+    return path.endsWith(ending, Qt::CaseInsensitive);
+  });
+}
 
 }  // namespace
 
@@ -37,7 +53,12 @@ void CommandRouter::Run(const Command &command) {
       NewPage();
       break;
     case CommandId::OpenPage:
-      OpenPage();
+      OpenPage([this] {
+        FileDialog &dialog = context_.mainWindow.SharedFileDialog();
+        dialog.Flags = FileDialog::FileMustExist;
+        dialog.Filter = QStringLiteral("HTML Files *.htm,*.html|*.htm;*.html");
+        return dialog.ShowOpen();
+      });
       break;
     case CommandId::SavePage:
       SavePage(SaveKind::Save);
@@ -108,16 +129,13 @@ void CommandRouter::NewPage() {
   host_.SetMenuItemEnabled(NewItem, true);
 }
 
-void CommandRouter::OpenPage() {
+void CommandRouter::OpenPage(const std::function<QString()> &choose) {
   host_.SetMenuItemEnabled(OpenItem, false);
   // After a refusal the item deliberately stays disabled.
   if (!HasRoom()) return;
   QString path;
   try {
-    FileDialog &dialog = context_.mainWindow.SharedFileDialog();
-    dialog.Flags = FileDialog::FileMustExist;
-    dialog.Filter = QStringLiteral("HTML Files *.htm,*.html|*.htm;*.html");
-    path = dialog.ShowOpen();
+    path = choose();
     modWorkFlow::OpenPage(context_, path);
   } catch (const RuntimeError &error) {
     // A cancelled dialog names no file, and nothing needs saying.
@@ -192,6 +210,17 @@ void CommandRouter::OpenProjectPage(int pageId) {
   }
   if (const auto path = projectPages_.PathOf(pageId, *values_.DbConnection)) {
     modWorkFlow::OpenProjectPage(context_, *path);
+  }
+}
+
+void CommandRouter::TakeDroppedFiles(const QStringList &paths, frmMain *page) {
+  const QPointer<frmMain> alive = page;
+  for (const QString &path : paths) {
+    if (HasEnding(path, PageEndings)) {
+      if (host_.IsMenuItemEnabled(OpenItem)) OpenPage([&path] { return path; });
+    } else if (!alive.isNull() && HasEnding(path, PictureEndings)) {
+      insert_.PictureFile(*alive, path);
+    }
   }
 }
 

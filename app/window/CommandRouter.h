@@ -6,8 +6,10 @@
 #include "platform/EditingCommands.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
+#include <functional>
 
 namespace velor {
 
@@ -56,6 +58,9 @@ class CommandRouter {
 
   /// An entry of the page chooser was chosen.
   void OpenProjectPage(int pageId);
+  /// Files were dropped, paths in logic form: pages open as by the menu item, while it is enabled;
+  /// pictures go to the caret of `page`.
+  void TakeDroppedFiles(const QStringList &paths, frmMain *page);
   /// A page's tab was chosen: its window is activated, made first where the slot is empty.
   void ActivatePage(int number);
 
@@ -63,7 +68,7 @@ class CommandRouter {
   enum class SaveKind { Save, SaveAs };
 
   void NewPage();
-  void OpenPage();
+  void OpenPage(const std::function<QString()> &choose);
   void SavePage(SaveKind kind);
   void Edit(int number);
   void Insert(void (InsertCommands::*insertion)(frmMain &));

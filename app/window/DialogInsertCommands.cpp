@@ -4,6 +4,8 @@
 #include "editor/EditorContext.h"
 #include "editor/MainWindow.h"
 #include "editor/frmMain.h"
+#include "insert/ElementHtml.h"
+#include "insert/LinkPaths.h"
 #include "insert/frmDialog_Table.h"
 #include "insert/frmInsertElement.h"
 #include "platform/Dialogs.h"
@@ -47,6 +49,15 @@ void DialogInsertCommands::Table(frmMain &page) {
   context_.platform.dialogs.RunModal(dialog);
   if (alive.isNull()) return;
   page.DHTML1().Document().Selection().CreateRange()->PasteHTML(values_.HTMLString);
+}
+
+void DialogInsertCommands::PictureFile(frmMain &page, const QString &path) {
+  const PageRecord record = page.GetPageRecord();
+  HtmlElement picture = CreateScratchElement(QStringLiteral("IMG"));
+  picture.attributes.emplace_back(QStringLiteral("src"), record.HasFile != False16
+                                                             ? MakeRelativeLink(record.Path, path)
+                                                             : MakeAbsoluteLink(path));
+  page.DHTML1().Document().Selection().CreateRange()->PasteHTML(OuterHTML(picture));
 }
 
 }  // namespace velor

@@ -26,6 +26,7 @@ class DialogInsertCommands final : public InsertCommands {
   void Video(frmMain &page) override;
   /// Pastes HTMLString at the selection once the dialog has closed, however it closed.
   void Table(frmMain &page) override;
+  void PictureFile(frmMain &page, const QString &path) override;
 
  private:
   void Element(const QString &mode, frmMain &page);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+
 namespace velor {
 
 class frmMain;
@@ -14,6 +16,8 @@ class InsertCommands {
   virtual void Target(frmMain &page) = 0;
   virtual void Video(frmMain &page) = 0;
   virtual void Table(frmMain &page) = 0;
+  /// A picture's file, without a dialog, linked as the dialog would. `path` in logic form.
+  virtual void PictureFile(frmMain &page, const QString &path) = 0;
 };
 
 }  // namespace velor

@@ -112,6 +112,7 @@ MfrmProgram::~MfrmProgram() {
 }
 
 void MfrmProgram::BuildLayout() {
+  setAcceptDrops(true);
   auto *center = new QWidget(this);
   auto *column = new QVBoxLayout(center);
   column->setContentsMargins(0, 0, 0, 0);

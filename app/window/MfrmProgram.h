@@ -76,6 +76,7 @@ class MfrmProgram final : public QMainWindow,
   void ShowTextForm(const QString &words) override;
   void ReportInStatusBar(const QString &message) override;
   void PopUpContextMenu(QPoint screenPosition) override;
+  void TakeDroppedFiles(const QStringList &paths, frmMain *page) override;
   FileDialog &SharedFileDialog() override;
 
  Q_SIGNALS:
@@ -86,6 +87,8 @@ class MfrmProgram final : public QMainWindow,
 
  protected:
   void closeEvent(QCloseEvent *event) override;
+  void dragEnterEvent(QDragEnterEvent *event) override;
+  void dropEvent(QDropEvent *event) override;
 
  private:
   // CommandHost

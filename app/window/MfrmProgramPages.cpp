@@ -12,11 +12,16 @@
 #include "editor/frmBrowser.h"
 #include "platform/Dialogs.h"
 #include "platform/EditingComponent.h"
+#include "platform/Paths.h"
 
 #include <QAction>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMimeData>
 #include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
 
 namespace velor {
 namespace {
@@ -141,6 +146,23 @@ void MfrmProgram::ReportInStatusBar(const QString &message) {
 
 void MfrmProgram::PopUpContextMenu(QPoint screenPosition) {
   menus_.menus.value(QStringLiteral("mnuExt"))->popup(screenPosition);
+}
+
+void MfrmProgram::TakeDroppedFiles(const QStringList &paths, frmMain *page) {
+  router_.TakeDroppedFiles(paths, page);
+}
+
+void MfrmProgram::dragEnterEvent(QDragEnterEvent *event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void MfrmProgram::dropEvent(QDropEvent *event) {
+  QStringList paths;
+  for (const QUrl &url : event->mimeData()->urls())
+    if (url.isLocalFile()) paths += ToLogic(url.toLocalFile());
+  event->acceptProposedAction();
+  // The program that the files come from waits for the end of this event.
+  QTimer::singleShot(0, this, [this, paths] { TakeDroppedFiles(paths, nullptr); });
 }
 
 FileDialog &MfrmProgram::SharedFileDialog() {

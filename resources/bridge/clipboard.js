@@ -105,18 +105,44 @@
   function paste(event) {
     if (!velor.editable() || isForms(event.target)) return;
     event.preventDefault();
+    insert(event.clipboardData, 'insertFromPaste');
+  }
+
+  function insert(data, kind) {
     const range = velor.selection.range();
     if (!range) return;
-    const fragment = fragmentOf(event.clipboardData, range);
+    const fragment = fragmentOf(data, range);
     unwrapSingle(fragment, range);
     dropKnownIds(fragment);
     velor.addresses.narrow(fragment);
     if (!fragment.hasChildNodes()) return;
-    velor.history.step('insertFromPaste', () => velor.put(fragment));
+    velor.history.step(kind, () => velor.put(fragment));
     velor.schedulePush();
   }
 
+  // The caret where something is dropped: a place in CSS pixels of the viewport.
+  velor.caretAt = (x, y) => {
+    const place = document.caretRangeFromPoint(x, y);
+    if (place && document.body?.contains(place.startContainer)) {
+      velor.selection.setCaret(place.startContainer, place.startOffset);
+    }
+  };
+
+  // What is dragged within the page is moved by the engine; what comes from elsewhere is pasted.
+  let ours = false;
+  const dragStarts = () => { ours = true; };
+  const dragEnds = () => { ours = false; };
+  function drop(event) {
+    if (ours || !velor.editable()) return;
+    event.preventDefault();
+    velor.caretAt(event.clientX, event.clientY);
+    insert(event.dataTransfer, 'insertFromDrop');
+  }
+
   velor.listenToClipboard = () => {
+    document.addEventListener('dragstart', dragStarts, true);
+    document.addEventListener('dragend', dragEnds, true);
+    document.addEventListener('drop', drop, true);
     document.addEventListener('copy', copy, true);
     document.addEventListener('cut', cut, true);
     document.addEventListener('paste', paste, true);

@@ -257,7 +257,7 @@
     const unit = unitsIn(range)[0];
     if (!unit || !range.collapsed || !atEdge(range, unit, side)) return null;
     const back = side === 'start';
-    if (back && startsItem(unit)) return () => outdent(unit);
+    if (back && startsItem(unit)) return () => velor.lists.leave(unit);
     const anchor = unit.block || (back ? unit.nodes[0] : unit.nodes.at(-1)) || unit.container;
     const leaf = leafBeside(anchor, back ? 'previousSibling' : 'nextSibling');
     if (!leaf || leaf.tagName === 'TABLE') return () => {};
@@ -290,11 +290,6 @@
     if (!item) return false;
     const first = [...item.childNodes].find(dom.isShown);
     return !first || first === unit.nodes[0] || first === unit.block || item === unit.block;
-  }
-  function outdent(unit) {
-    const kept = velor.selection.keep();
-    velor.lists.groupsOf([unit]).forEach(velor.lists.outdent);
-    velor.selection.restore(kept);
   }
 
   // Takes the ends of the selection into the blocks that it means, for the engine to type over.

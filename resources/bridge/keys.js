@@ -112,6 +112,54 @@
     }
   }
 
+  // Enter in preformatted text is a line end, but on an empty last line leaves it.
+  const preAt = (range) =>
+    dom.ancestor(range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName ?? ''));
+  function breaksLine() {
+    const range = velor.selection.range();
+    return Boolean(range && preAt(range) && !velor.deletion.spansUnits(range));
+  }
+  function breakLine() {
+    if (!velor.selection.range().collapsed) velor.deletion.remove(velor.selection.range());
+    const range = velor.selection.range();
+    const pre = preAt(range);
+    const before = document.createRange();
+    before.setStart(pre, 0);
+    before.setEnd(range.startContainer, range.startOffset);
+    const after = document.createRange();
+    after.setStart(range.startContainer, range.startOffset);
+    after.setEnd(pre, pre.childNodes.length);
+    const atEnd = /^\n?$/.test(after.toString());
+    if (atEnd && before.toString().endsWith('\n') && after.toString() + before.toString() !== '\n') {
+      leavePre(pre);
+      return;
+    }
+    const end = document.createTextNode(atEnd && after.toString() === '' ? '\n\n' : '\n');
+    range.insertNode(end);
+    const place = { node: end, offset: 1 };
+    velor.inline.joinTexts(end.parentNode, [place]);
+    velor.selection.setCaret(place.node, place.offset);
+  }
+  function leavePre(pre) {
+    const last = dom.lastLeaf(pre);
+    if (dom.isText(last)) last.data = last.data.replace(/\n{1,2}$/, '');
+    const paragraph = dom.create('P');
+    paragraph.append(dom.create('BR'));
+    pre.after(paragraph);
+    velor.selection.setCaret(paragraph, 0);
+  }
+
+  // What Enter does here where the engine would do it badly, else null.
+  function ownEnter() {
+    if (breaksLine()) return breakLine;
+    const range = velor.selection.range();
+    const [unit] = range?.collapsed ? velor.units.unitsIn(range) : [];
+    const item = unit && velor.units.itemOf(unit);
+    return item && dom.isHollow(item) ? () => velor.lists.leave(unit) : null;
+  }
+
+  let composing = false;  // an input method has written something that is not final yet
+
   function beforeInput(event) {
     if (velor.working || !velor.editable()) return;
     const { inputType } = event;
@@ -121,10 +169,22 @@
       return;
     }
     if (inputType.startsWith('delete') && inputType !== 'deleteByDrag' &&
-        inputType !== 'deleteCompositionText' && work(() => deleted(event))) {
+        inputType !== 'deleteCompositionText' && !composing && work(() => deleted(event))) {
       event.preventDefault();
       velor.schedulePush();
       return;
+    }
+    const entered = inputType === 'insertParagraph' ? ownEnter() : null;
+    if (entered) {
+      event.preventDefault();
+      velor.history.step(inputType, () => work(entered));
+      velor.schedulePush();
+      return;
+    }
+    // An input method replaces what it has written before: all of that is one input.
+    if (/Composition/.test(inputType)) {
+      if (composing) return;
+      composing = true;
     }
     const kind = kindOf(event);
     velor.history.expect(kind, joins(event, kind));
@@ -144,9 +204,19 @@
     }
   }
 
+  // The break that held a line open is not needed where text stands before it.
+  function tidySplit() {
+    dropDoubledId();
+    const block = dom.blockOf(velor.selection.points().anchorNode);
+    const first = dom.neighbour(block, 'previousSibling');
+    if (!dom.isElement(first) || !dom.isBlock(first) || dom.isHollow(first)) return;
+    const last = dom.lastLeaf(first);
+    if (dom.isBreak(last) && last.previousSibling && !dom.isBreak(last.previousSibling)) last.remove();
+  }
+
   function input(event) {
     if (velor.working) return;
-    if (event.inputType === 'insertParagraph') dropDoubledId();
+    if (event.inputType === 'insertParagraph') work(tidySplit);
     if (event.inputType === 'insertText') work(() => velor.pending.typed(event.data));
     const { anchorNode } = velor.selection.points();
     if (anchorNode) typedIn.add(anchorNode);
@@ -157,6 +227,7 @@
   }
 
   function compositionEnd({ data }) {
+    composing = false;
     work(() => velor.pending.typed(data));
     velor.history.arrive();
   }

@@ -217,6 +217,13 @@
     else release(group);
   }
 
+  // Takes the item that the caret is in one level out.
+  function leave(unit) {
+    const kept = velor.selection.keep();
+    groupsOf([unit]).forEach(outdent);
+    velor.selection.restore(kept);
+  }
+
   // Takes every unit of the selection out of all lists. Elements change on the way, so the units
   // are read anew for each level.
   function unlist() {
@@ -234,5 +241,5 @@
     return item && dom.isList(item.parentNode) ? item.parentNode.tagName : null;
   };
 
-  velor.lists = { groupsOf, make, unlist, nest, outdent, tagOf, itemOf };
+  velor.lists = { groupsOf, make, unlist, nest, outdent, leave, tagOf, itemOf };
 })();

@@ -15,13 +15,17 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <QWebEnginePage>
+#include <QWebEngineView>
 
 namespace velor {
 namespace {
@@ -46,6 +50,60 @@ class RealEditing : public RealWindow {
   }
   QString StatusText() { return Find<QLabel>("Sta_1")->text(); }
 };
+
+/// Drops files on a widget, as a file manager does.
+void DropFiles(QWidget &target, const QStringList &nativePaths, QPoint place) {
+  QMimeData data;
+  QList<QUrl> urls;
+  for (const QString &path : nativePaths) urls += QUrl::fromLocalFile(path);
+  data.setUrls(urls);
+  QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&target, &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&target, &drop);
+}
+
+QWidget &ViewOf(frmMain &page) {
+  return *page.DHTML1().Widget()->findChild<QWebEngineView *>();
+}
+
+TEST_F(RealEditing, APictureDroppedOnASavedPageBecomesAnImageWithARelativeLink) {
+  frmMain &page = Open(PageFile, "<html><head></head><body><p>One</p><p>Two</p></body></html>");
+  DropFiles(ViewOf(page), {folder.FilePath(QStringLiteral("img/a b.gif"))}, {790, 12});
+  EXPECT_TRUE(BecomesDocument(page, QStringLiteral("<p>One<img src=\"img/a b.gif\"></p>")))
+      << Seen(page);
+  Choose("mnuUndo");
+  EXPECT_TRUE(BecomesDocument(page, QStringLiteral("<p>One</p>"))) << Seen(page);
+}
+
+TEST_F(RealEditing, APictureDroppedOnANewPageBecomesAnImageWithAFullLink) {
+  frmMain &page = NewPage();
+  const QString file = folder.FilePath(QStringLiteral("a.png"));
+  DropFiles(ViewOf(page), {file}, {20, 20});
+  EXPECT_TRUE(BecomesDocument(page, QStringLiteral("<img src=\"file:///")));
+}
+
+TEST_F(RealEditing, PagesDroppedOnThePageOrTheWindowOpen) {
+  frmMain &page = Open(PageFile, Plain);
+  Write(QStringLiteral("other.html"), "<p>Other</p>");
+  Write(QStringLiteral("third.HTM"), "<p>Third</p>");
+  DropFiles(ViewOf(page), {folder.FilePath(QStringLiteral("other.html"))}, {20, 20});
+  EXPECT_TRUE(WaitFor([&] { return Tabs().count() == 2; }));
+  DropFiles(window, {folder.FilePath(QStringLiteral("third.HTM"))}, {20, 20});
+  EXPECT_TRUE(WaitFor([&] { return Tabs().count() == 3; }));
+  EXPECT_TRUE(Holds(page, QStringLiteral("<p>One</p>"))) << Seen(page);
+}
+
+TEST_F(RealEditing, OtherFilesDroppedChangeNothing) {
+  frmMain &page = Open(PageFile, Plain);
+  Write(QStringLiteral("notes.txt"), "notes");
+  DropFiles(ViewOf(page), {folder.FilePath(QStringLiteral("notes.txt"))}, {20, 20});
+  Write(QStringLiteral("other.html"), "<p>Other</p>");
+  DropFiles(ViewOf(page), {folder.FilePath(QStringLiteral("other.html"))}, {20, 20});
+  ASSERT_TRUE(WaitFor([&] { return Tabs().count() == 2; }));
+  EXPECT_TRUE(Holds(page, QStringLiteral("<body><p>One</p></body>"))) << Seen(page);
+}
 
 TEST_F(RealEditing, TheTitleIsTheProgramsName) {
   EXPECT_EQ(window.windowTitle(), QStringLiteral("Velor Web Creator"));

@@ -212,6 +212,18 @@ TEST_F(Bridge, StartsAgainOnADocumentSetInPlace) {
   EXPECT_EQ(Text(QStringLiteral("document.body.innerHTML")), QStringLiteral("<p>two</p>"));
 }
 
+TEST_F(Bridge, CleansWhatIsDroppedFromElsewhereAndTakesItBackInOneStep) {
+  Load(QStringLiteral("<p>one|</p><p>two</p>"));
+  const QString loaded = Text(QStringLiteral("velor.serialize()"));
+  Evaluate(
+      QStringLiteral("{ const { right, top } = markup.place('p:last-child');"
+                     "markup.drop('<p class=Mso>new <b>words</b></p>', right - 1, top + 2) }"));
+  EXPECT_EQ(Text(QStringLiteral("document.body.innerHTML")),
+            QStringLiteral("<p>one</p><p>twonew <b>words</b></p>"));
+  Evaluate(QStringLiteral("velor.exec(5049)"));
+  EXPECT_EQ(Text(QStringLiteral("velor.serialize()")), loaded);
+}
+
 TEST_F(Bridge, WritesABlankThatWasTypedAtTheEndAsABlankAtOnce) {
   Load(QStringLiteral("<p>one|</p>"));
   page_.Type(QStringLiteral(" "));
@@ -222,8 +234,9 @@ TEST_F(Bridge, WritesABlankThatWasTypedAtTheEndAsABlankAtOnce) {
 
 TEST_F(Bridge, AppliesNothingInsideAnIslandThatIsClosedToEditing) {
   Load(QStringLiteral("<p>one|<span contenteditable='false'>two</span></p>"));
-  Evaluate(QStringLiteral("getSelection().setBaseAndExtent(document.querySelector('span'), 0,"
-                          "                                document.querySelector('span'), 1)"));
+  Evaluate(
+      QStringLiteral("getSelection().setBaseAndExtent(document.querySelector('span'), 0,"
+                     "                                document.querySelector('span'), 1)"));
   const QString loaded = Text(QStringLiteral("velor.serialize()"));
   for (const int number : {5000, 5004, 5024, 5051}) {
     EXPECT_EQ(Evaluate(QStringLiteral("velor.status(%1)").arg(number)).toInt(), 1);

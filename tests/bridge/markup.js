@@ -103,7 +103,15 @@
       keysUp = 0;
       addEventListener('keyup', () => { keysUp++; }, true);
     },
+    place: (selector) => document.querySelector(selector).getBoundingClientRect(),
     keysUp: () => keysUp,
+    // A drop of what another program lets go of.
+    drop(data, clientX, clientY) {
+      const dataTransfer = new DataTransfer();
+      dataTransfer.setData('text/html', data);
+      document.body.dispatchEvent(new DragEvent('drop',
+        { dataTransfer, clientX, clientY, bubbles: true, cancelable: true }));
+    },
     // A paste of what another program has put on the clipboard.
     paste(type, data) {
       const clipboardData = new DataTransfer();

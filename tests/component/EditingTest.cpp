@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QInputMethodEvent>
 #include <QMimeData>
 #include <QTest>
 #include <QWebEngineView>
@@ -220,6 +221,81 @@ TEST_F(Editing, TheTabKeyStaysInTheTable) {
   TypeText(QStringLiteral("x"));
   EXPECT_TRUE(DocumentHolds(QStringLiteral("<td>xb</td>"))) << Seen().constData();
   EXPECT_TRUE(Input()->hasFocus());
+}
+
+TEST_F(Editing, AnInputMethodsTextComesAndGoesAsOneStep) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  TypeText(QStringLiteral(" "));
+  for (const QString &preedit :
+       {QStringLiteral("n"), QStringLiteral("ni"), QStringLiteral("\u4f60")}) {
+    QInputMethodEvent compose(preedit, {});
+    QApplication::sendEvent(Input(), &compose);
+    ASSERT_TRUE(WaitFor([&] { return DocumentHolds(preedit + QStringLiteral("</p>")); }));
+  }
+  QInputMethodEvent commit;
+  commit.setCommitString(QStringLiteral("\u4f60\u597d"));
+  QApplication::sendEvent(Input(), &commit);
+  ASSERT_TRUE(BecomesDocument(QStringLiteral("<p>One \u4f60\u597d</p>"))) << Seen().constData();
+  TypeText(QStringLiteral("!"));
+  ASSERT_TRUE(BecomesDocument(QStringLiteral("<p>One \u4f60\u597d!</p>"))) << Seen().constData();
+  while (Status(EditingCommand::Undo) != CommandStatus::Disabled) {
+    Exec(EditingCommand::Undo);
+    EXPECT_FALSE(DocumentHolds(QStringLiteral("<p>One n"))) << Seen().constData();
+  }
+  EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>One</p>"))) << Seen().constData();
+}
+
+TEST_F(Editing, AnAbandonedCompositionLeavesNothing) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  QInputMethodEvent compose(QStringLiteral("ni"), {});
+  QApplication::sendEvent(Input(), &compose);
+  ASSERT_TRUE(WaitFor([&] { return DocumentHolds(QStringLiteral("Oneni")); }));
+  QInputMethodEvent abandon;
+  QApplication::sendEvent(Input(), &abandon);
+  EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>One</p>"))) << Seen().constData();
+}
+
+TEST_F(Editing, ADeadKeysLetterAnEmojiAndTextFromRightToLeftAreTyped) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  const QString texts[] = {QStringLiteral("\u00e9"), QStringLiteral("\U0001f600"),
+                           QStringLiteral("\u05e9\u05dc\u05d5\u05dd")};
+  QString typed = QStringLiteral("One");
+  for (const QString &text : texts) {
+    QInputMethodEvent commit;
+    commit.setCommitString(text);
+    QApplication::sendEvent(Input(), &commit);
+    typed += text;
+    EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>%1</p>").arg(typed))) << Seen().constData();
+  }
+  Key(Qt::Key_Backspace);
+  typed.chop(1);
+  EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>%1</p>").arg(typed))) << Seen().constData();
+}
+
+TEST_F(Editing, AComposedTextTakesTheFormatChosenForIt) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  Exec(EditingCommand::Bold);
+  ASSERT_TRUE(Becomes(EditingCommand::Bold, CommandStatus::Latched));
+  QInputMethodEvent commit;
+  commit.setCommitString(QStringLiteral("\u4f60"));
+  QApplication::sendEvent(Input(), &commit);
+  EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>One<b>\u4f60</b></p>"))) << Seen().constData();
+}
+
+TEST_F(Editing, AllTakenBackThePageIsWhatWasLoaded) {
+  LoadWithCaret("<p>One two</p><ul><li>a</ul><table><tr><td>x</td></tr></table>",
+                QStringLiteral("p"));
+  const QString loaded = editor_->DocumentHTML();
+  TypeText(QStringLiteral(" three four"));
+  Exec(EditingCommand::SelectAll);
+  Exec(EditingCommand::Bold);
+  Exec(EditingCommand::JustifyCenter);
+  Exec(EditingCommand::OrderList);
+  editor_->Document().Selection().CreateRange()->PasteHTML(QStringLiteral("<hr>"));
+  EXPECT_NE(editor_->DocumentHTML(), loaded);
+  for (int step = 0; step < 20; ++step) Exec(EditingCommand::Undo);
+  EXPECT_EQ(editor_->DocumentHTML(), loaded);
+  EXPECT_TRUE(Becomes(EditingCommand::Undo, CommandStatus::Disabled));
 }
 
 TEST_F(Editing, CommandsTakeTheirValues) {

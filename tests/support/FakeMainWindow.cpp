@@ -145,4 +145,8 @@ void FakeMainWindow::PopUpContextMenu(QPoint screenPosition) {
                   {QString::number(screenPosition.x()), QString::number(screenPosition.y())}));
 }
 
+void FakeMainWindow::TakeDroppedFiles(const QStringList &paths, frmMain *) {
+  Note(log_, Call("TakeDroppedFiles", {paths.join(QLatin1Char(';'))}));
+}
+
 }  // namespace velor

@@ -64,6 +64,7 @@ class FakeMainWindow final : public MainWindow {
   void ShowTextForm(const QString &words) override { textForm = words; }
   void ReportInStatusBar(const QString &message) override;
   void PopUpContextMenu(QPoint screenPosition) override;
+  void TakeDroppedFiles(const QStringList &paths, frmMain *page) override;
   FileDialog &SharedFileDialog() override { return dialog_; }
 
  private:

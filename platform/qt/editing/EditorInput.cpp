@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/editing/EditorInput.h"
 
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QWebEngineView>
 #include <QWheelEvent>
 
@@ -23,6 +25,13 @@ bool IsBrowserKey(const QKeyEvent &key) {
          std::end(browserKeys);
 }
 
+QStringList LocalFiles(const QMimeData *data) {
+  QStringList paths;
+  for (const QUrl &url : data != nullptr ? data->urls() : QList<QUrl>())
+    if (url.isLocalFile()) paths += url.toLocalFile();
+  return paths;
+}
+
 }  // namespace
 
 EditorInput::EditorInput(QWebEngineView *view) : QObject(view), view_(view) {
@@ -37,7 +46,21 @@ void EditorInput::Attach() {
   }
 }
 
+bool EditorInput::TakeFiles(QEvent *event) {
+  if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove &&
+      event->type() != QEvent::Drop)
+    return false;
+  auto *drop = static_cast<QDropEvent *>(event);
+  const QStringList paths = LocalFiles(drop->mimeData());
+  if (paths.isEmpty()) return false;
+  drop->setDropAction(Qt::CopyAction);
+  drop->accept();
+  if (event->type() == QEvent::Drop) Q_EMIT FilesDropped(paths, drop->position().toPoint());
+  return true;
+}
+
 bool EditorInput::eventFilter(QObject *watched, QEvent *event) {
+  if (TakeFiles(event)) return true;
   if (watched == view_) {
     if (event->type() == QEvent::ChildPolished) Attach();
     return false;

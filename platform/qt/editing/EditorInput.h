@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QObject>
+#include <QPoint>
+#include <QStringList>
 
 class QWebEngineView;
 
@@ -23,11 +25,16 @@ class EditorInput : public QObject {
  Q_SIGNALS:
   /// A key or button is about to reach the page.
   void InputComing();
+  /// Files of this machine were dropped, native paths; the page never sees them.
+  void FilesDropped(const QStringList &nativePaths, QPoint position);
 
  protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
  private:
+  /// Takes what drags files for itself; false for everything else.
+  bool TakeFiles(QEvent *event);
+
   QWebEngineView *view_;
 };
 

@@ -75,6 +75,7 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
     followed_ = false;
     Q_EMIT InputComing();
   });
+  connect(input_, &EditorInput::FilesDropped, this, &EngineView::FilesDropped);
   connect(view_, &QWebEngineView::customContextMenuRequested, this, [this](QPoint position) {
     const EngineCallback callback(engine_.Guard());
     Q_EMIT MenuWanted(view_->mapToGlobal(position));

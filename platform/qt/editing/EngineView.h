@@ -77,6 +77,8 @@ class EngineView : public QObject {
   void MenuWanted(QPoint screenPosition);
   /// A key or button is about to reach the page; from outside the engine.
   void InputComing();
+  /// Files were dropped at a place in CSS pixels, native paths; from outside the engine.
+  void FilesDropped(const QStringList &nativePaths, QPoint clientPosition);
 
  private:
   struct Expression {

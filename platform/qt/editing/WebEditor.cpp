@@ -2,6 +2,7 @@
 #include "platform/qt/editing/WebEditor.h"
 
 #include "platform/EditingCommands.h"
+#include "platform/Paths.h"
 #include "platform/qt/editing/BridgeScript.h"
 #include "platform/qt/editing/WebDocument.h"
 
@@ -93,6 +94,14 @@ void WebEditor::ConnectView() {
   QObject::connect(view, &EngineView::MenuWanted, [this](QPoint position) {
     notices_.Post(Notice::Menu, [this, position] {
       if (listener_ != nullptr) listener_->ContextMenuRequested(position);
+    });
+  });
+  QObject::connect(view, &EngineView::FilesDropped, [this](const QStringList &files, QPoint place) {
+    Run(QStringLiteral("velor.caretAt(%1,%2)").arg(place.x()).arg(place.y()));
+    QStringList paths;
+    for (const QString &file : files) paths += ToLogic(file);
+    notices_.Post(Notice::Drop, [this, paths] {
+      if (listener_ != nullptr) listener_->FilesDropped(paths);
     });
   });
   // Completion is told before the first input reaches the page.
