@@ -6,6 +6,8 @@
 #include "platform/jet/JetTableRows.h"
 #include "platform/jet/JetText.h"
 
+#include <algorithm>
+
 namespace velor {
 
 JetCursor::JetCursor(JetPager &pager, const JetTable &table, std::vector<jet::PageNumber> pages)
@@ -74,6 +76,19 @@ std::optional<qint64> JetCursor::Integer(int column) const {
       break;
   }
   return std::nullopt;
+}
+
+bool JetCursor::IsWhole() const {
+  return row_.IsWhole(*table_) &&
+         std::all_of(table_->columns.begin(), table_->columns.end(),
+                     [this](const JetColumn &column) { return HasLongValue(column); });
+}
+
+/// Where the column holds long values: whether all of this one is there.
+bool JetCursor::HasLongValue(const JetColumn &column) const {
+  if (column.type != JetType::Memo && column.type != JetType::Ole) return true;
+  const JetBytes field = row_.Field(column);
+  return field.empty() || ReadJetLongValue(*pager_, field);
 }
 
 QVariant JetCursor::Value(int column) const {

@@ -32,9 +32,12 @@ class JetCursor {
   /// double. DateTime: "yyyy-MM-dd", with " HH:mm:ss" where the time is not midnight. Text, Memo,
   /// Guid: QString. Binary, Ole: QByteArray. What cannot be read is null.
   QVariant Value(int column) const;
+  /// Whether every value that the row says it has is there, long values to their last part.
+  bool IsWhole() const;
 
  private:
   bool EnterPage();
+  bool HasLongValue(const JetColumn &column) const;
 
   JetPager *pager_;
   const JetTable *table_;

@@ -81,6 +81,25 @@ std::size_t JetRow::FixedDataEnd() const {
   return offsetsPresent_ ? VariableOffset(0) : mask_;
 }
 
+bool JetRow::IsWhole(const JetTable &table) const {
+  const std::size_t numbers = (static_cast<std::size_t>(variables_) + 2) * Number;
+  if (offsetsPresent_ && VariableOffset(variables_) != mask_ - numbers) return false;
+  return std::all_of(table.columns.begin(), table.columns.end(), [this](const JetColumn &column) {
+    return column.type == JetType::Boolean || IsNull(column) || HasPlace(column);
+  });
+}
+
+bool JetRow::HasPlace(const JetColumn &column) const {
+  if (column.storage == JetStorageKind::Fixed) {
+    const int end = jet::RowFixedData + column.fixedOffset + column.length;
+    return static_cast<std::size_t>(end) <= FixedDataEnd();
+  }
+  if (column.variableIndex >= variables_) return false;
+  // A compressed text begins with a mark of two bytes.
+  return column.type != JetType::Text ||
+         Field(column).size() <= static_cast<std::size_t>(column.length) + 2;
+}
+
 bool JetRow::Bit(const JetColumn &column) const {
   if (column.number >= columns_) return false;
   return bytes_[mask_ + static_cast<std::size_t>(column.number / 8)] >> column.number % 8 & 1;

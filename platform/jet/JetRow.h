@@ -20,6 +20,10 @@ class JetRow {
   /// Nothing for bytes that cannot be a row of that table.
   static std::optional<JetRow> Parse(const JetTable &table, JetBytes bytes);
 
+  /// Whether the variable data ends where the numbers about it begin, and every column that is not
+  /// null has its place in the row.
+  bool IsWhole(const JetTable &table) const;
+
   /// A Boolean is never null.
   bool IsNull(const JetColumn &column) const;
   /// The column's bit in the null mask, which is the value of a Boolean.
@@ -34,6 +38,7 @@ class JetRow {
                      const std::optional<QByteArray> &value) const;
 
  private:
+  bool HasPlace(const JetColumn &column) const;
   std::size_t VariableOffset(int index) const;
   std::size_t FixedDataEnd() const;
 

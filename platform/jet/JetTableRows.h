@@ -25,7 +25,9 @@ JetFoundRow FollowJetPointer(JetPager &pager, const JetTable &table, JetBytes ho
 
 void NoteDamagedRow(JetPager &pager, const JetTable &table, const JetPlace &home);
 
-/// Walks all rows of a table and notes what is damaged, a wrong count of rows too.
+/// Walks all rows of a table and notes what is damaged: a wrong count of rows, rows that have moved
+/// without a pointer to them, and the maps that an update relies on too. Indexes are not looked at,
+/// since updates neither read nor touch them.
 void CheckJetTable(JetPager &pager, const JetTable &table);
 
 }  // namespace velor

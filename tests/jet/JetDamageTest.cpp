@@ -30,6 +30,7 @@ FixtureFile FileOf(quint32 seed) {
   shape.folders = seed % 3 == 0 ? FolderType::Memo : FolderType::Text;
   FixtureFile file = CatalogueFixture(shape);
   file.maps = seed % 4 < 2 ? MapForm::BitmapPages : MapForm::BitmapWhereItReaches;
+  file.fileKey = seed % 5 == 0 ? 0xDA3A6E00 : 0;
   return file;
 }
 
@@ -102,12 +103,13 @@ class Damager {
 class JetDamage : public testing::TestWithParam<quint32> {};
 
 TEST_P(JetDamage, NeitherCrashesNorHangsNorIsMadeWorse) {
-  const QByteArray sound = WriteJetFile(FileOf(GetParam()));
-  const quint32 fileKey = GetParam() % 5 == 0 ? 0xDA3A6E00 : 0;
+  const FixtureFile fixture = FileOf(GetParam());
+  // Damage strikes what the pages mean, not their encoded bytes.
+  const QByteArray sound = WithPagesEncoded(WriteJetFile(fixture), fixture.fileKey);
   Damager damager(GetParam());
   int opened = 0;
   for (int i = 0; i < FilesPerSeed; ++i) {
-    const QByteArray damaged = WithPagesEncoded(damager.Damaged(sound), fileKey);
+    const QByteArray damaged = WithPagesEncoded(damager.Damaged(sound), fixture.fileKey);
     const double began = ProcessorSeconds();
     const JetExamination result = ExamineJetFile(damaged);
     EXPECT_LT(ProcessorSeconds() - began, 1.0) << "file " << i;

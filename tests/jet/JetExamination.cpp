@@ -73,6 +73,24 @@ QStringList Differences(const Content &before, const Content &after,
   return differences;
 }
 
+/// Complaints about what an update relies on: the rows and maps of the tables that the file shows,
+/// and the global map. Indexes, the maps of long values and pages that no map names it neither
+/// reads nor touches, so that a file is written though those are damaged.
+QStringList ComplaintsAboutRows(const QStringList &complaints, const JetFile &file) {
+  QStringList starts = {QStringLiteral("the global map")};
+  for (const QString &name : file.TableNames())
+    for (const char *end : {"'", ":", " counts"})
+      starts << QStringLiteral("table %1%2")
+                    .arg(file.FindTable(name)->definitionPage)
+                    .arg(QString::fromLatin1(end));
+  QStringList about;
+  for (const QString &complaint : complaints)
+    for (const QString &start : starts)
+      if (complaint.startsWith(start) && !complaint.endsWith(QStringLiteral("is not in its map")))
+        about << complaint;
+  return about;
+}
+
 }  // namespace
 
 JetExamination ExamineJetFile(const QByteArray &file) {
@@ -97,7 +115,8 @@ JetExamination ExamineJetFile(const QByteArray &file) {
     result.broken << Differences(before, ReadAll(*opened), changed, text);
     const QStringList complaints = JetComplaints(file);
     const QStringList now = JetComplaints(memory.file);
-    if(!complaints.isEmpty()) printf("DAMWRITE %s\n", complaints.join(u'|').toUtf8().constData());
+    for (const QString &complaint : ComplaintsAboutRows(complaints, *opened))
+      result.broken << QStringLiteral("written though ") + complaint;
     if (now.size() > complaints.size()) result.broken << now;
   } catch (const RuntimeError &) {
     if (memory.file != file) result.broken << QStringLiteral("the bytes changed before an error");
