@@ -178,6 +178,11 @@ class Program:
         action()
         wait_for(lambda: len(self.visible_windows()) > before, "a menu to pop up")
 
+    def activate(self):
+        """Gives the main window the keyboard. When two dialogs close at once, the window manager
+        may leave it to nobody."""
+        run("xdotool", "windowactivate", "--sync", self.window_id)
+
     def title(self):
         return run("xdotool", "getwindowname", self.window_id)
 

@@ -424,12 +424,14 @@ class Tour:
         wait_for(lambda: "See The Lighthouse</h1>" in file_text(home), "the edited home page")
         for kept in ('charset=utf-8', '<img src="Images/lighthouse.png"', '<a href="Keepers.htm">The keepers</a>'):
             check(kept in file_text(home), f"{kept} is no longer in the home page")
+        program.activate()
         program.shot("10-project-page")
 
     def exit_ends_everything(self):
         step("exit ends the program without questions and leaves no temporary copy")
         self.program.type("never saved")
-        self.program.key("alt+f", "x")
+        self.program.open_popup(lambda: self.program.key("alt+f"))
+        self.program.key("x")
         status = self.program.wait_end()
         check(status == 0, f"the program ended with status {status}")
         left = [name for folder, _, names in os.walk(self.scratch) for name in names
