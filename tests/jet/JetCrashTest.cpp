@@ -7,9 +7,7 @@
 #include "tests/support/jet/JetTrial.h"
 #include "tests/support/jet/JetWriter.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -139,14 +137,6 @@ void RunStatement(JetTrial &trial, JetFile &file, int statement) {
 
 constexpr int Statements = 3;
 
-/// In memory where there is such a folder: a kill loses nothing that the system was given, so the
-/// hundreds of syncs need not reach a disk.
-QString FolderTemplate() {
-  const QString memory = QStringLiteral("/dev/shm");
-  return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) +
-         QStringLiteral("/velor-jet-XXXXXX");
-}
-
 class JetCrash : public testing::TestWithParam<Cut> {
  protected:
   JetCrash() : fixture_(FixtureOfRows()), original_(WriteJetFile(fixture_)) {
@@ -208,7 +198,7 @@ class JetCrash : public testing::TestWithParam<Cut> {
     }
   }
 
-  QTemporaryDir folder_{FolderTemplate()};
+  QTemporaryDir folder_{FolderInMemory()};
   QString path_ = folder_.filePath(QStringLiteral("eThumbs.mdb"));
   FixtureFile fixture_;
   QByteArray original_;

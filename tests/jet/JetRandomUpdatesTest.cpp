@@ -120,7 +120,7 @@ class JetRandomUpdates : public testing::TestWithParam<quint32> {
   JetTrial trial_;
   JetMemory memory_;
   std::unique_ptr<JetFile> file_;
-  QTemporaryDir folder_;
+  QTemporaryDir folder_{FolderInMemory()};
   JetReaders readers_;
   int updates_ = 0;
 };

@@ -100,7 +100,7 @@ class JetUpdate : public testing::TestWithParam<FileForm> {
     return disk.open(QIODevice::ReadOnly) ? disk.readAll() : QByteArray();
   }
 
-  QTemporaryDir folder_;
+  QTemporaryDir folder_{FolderInMemory()};
   QString path_ = folder_.filePath(QStringLiteral("eThumbs.mdb"));
   /// One for all tests, since the programs behind it take long to start.
   static inline std::unique_ptr<JetReaders> readers_;
@@ -230,7 +230,7 @@ INSTANTIATE_TEST_SUITE_P(Of, JetUpdate, testing::ValuesIn(forms),
                          [](const auto &form) { return std::string(form.param.name); });
 
 TEST(JetReaders, AgreeOnWideRowsAndOddCharacters) {
-  QTemporaryDir folder;
+  QTemporaryDir folder(FolderInMemory());
   const QString path = folder.filePath(QStringLiteral("odd.mdb"));
   WriteToDisk(path, OddTablesFixture());
   JetReaders readers;
@@ -239,7 +239,7 @@ TEST(JetReaders, AgreeOnWideRowsAndOddCharacters) {
 
 /// More pages than the bitmaps in the maps' rows reach: those of the table and the global one.
 TEST(JetReaders, AgreeOnAFileThatOutgrewItsUsageMaps) {
-  QTemporaryDir folder;
+  QTemporaryDir folder(FolderInMemory());
   const QString path = folder.filePath(QStringLiteral("large.mdb"));
   CatalogueShape shape;
   shape.pages = 9000;
@@ -261,7 +261,7 @@ TEST(JetReaders, AgreeOnAFileThatOutgrewItsUsageMaps) {
 }
 
 TEST(JetReaders, NoticeADifference) {
-  QTemporaryDir folder;
+  QTemporaryDir folder(FolderInMemory());
   const QString path = folder.filePath(QStringLiteral("small.mdb"));
   FixtureFile fixture = CatalogueFixture({});
   WriteToDisk(path, fixture);

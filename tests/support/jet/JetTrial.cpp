@@ -1,7 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/jet/JetTrial.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 namespace velor::fixture {
+
+QString FolderInMemory() {
+  const QString memory = QStringLiteral("/dev/shm");
+  return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) +
+         QStringLiteral("/velor-jet-XXXXXX");
+}
 
 void JetTrial::Update(JetFile &file, const CellPlace &place, const std::optional<QString> &text) {
   FixtureTable &table = meant_.tables[place.table];

@@ -9,6 +9,10 @@
 
 namespace velor::fixture {
 
+/// A template for QTemporaryDir, in memory where the system has a folder for that: updates sync
+/// several times each, and what these tests ask need not wait for a disk.
+QString FolderInMemory();
+
 /// One cell of a fixture, by indexes.
 struct CellPlace {
   int table = 0;
