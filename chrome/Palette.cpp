@@ -29,7 +29,7 @@ Colors ColorsFor(Shade shade) {
             .accent = 0x3f78d8,
             .onAccent = 0xffffff,
             .link = 0x84b0ff,
-            .light = 0x4a505b,
+            .light = 0x59606d,
             .midlight = 0x3a3f48,
             .mid = 0x3a3f48,
             .dark = 0x14161a,

@@ -41,7 +41,8 @@ TEST(RuntimeError, MapsTheSystemsNumbersAndNamesTheFile) {
 }
 
 TEST(Description, KnowsEveryNumberAndOneSentenceForTheRest) {
-  for (const int number : {5, 6, 9, 13, 14, 53, 57, 61, 62, 70, 75, 76, 91, 32755, 35600, 35601}) {
+  for (const int number :
+       {-2147220455, 5, 6, 9, 13, 14, 53, 57, 61, 62, 70, 75, 76, 91, 32755, 35600, 35601}) {
     EXPECT_NE(Description(number), Description(1)) << number;
   }
   EXPECT_EQ(Description(6), "Overflow");
