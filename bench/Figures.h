@@ -14,6 +14,7 @@ void OpeningFigures();
 void KeyFigures();
 void ReadingFigures();
 void SavingFigures();
+void SavingAfterAnEditFigures();
 
 // Figures about whole processes (ProcessFigures.cpp).
 void StartFigure();

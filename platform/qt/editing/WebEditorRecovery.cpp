@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The mirror of the document, and bringing a page back from it.
+#include "platform/RuntimeError.h"
 #include "platform/qt/editing/WebEditor.h"
 
 #include <QVariantMap>
@@ -58,7 +59,11 @@ void WebEditor::ComposeAhead() {
   EngineVerifier &verifier = engine_.Verifier();
   verifier.Foresee(*first, [original, html, &verifier] {
     EngineVerifier::KnownAnswers known(verifier);
-    original->Foresee(html, known);
+    try {
+      original->Foresee(html, known);
+    } catch (const RuntimeError &) {
+      // A page that cannot be written says so when it is saved.
+    }
   });
 }
 
