@@ -31,7 +31,7 @@ void WebEditor::StateArrived(const StateSnapshot &state) {
   FollowGeneration(state.generation);
   if (!mirrorTimer_.isActive())
     mirrorTimer_.start(std::max(mirrorPause, mirrorShare * mirrorCost_));
-  idleTimer_.start(idlePause);
+  if (idleTimer_.isActive()) idleTimer_.start(idlePause);
   notices_.Post(Notice::Display, [this] {
     if (listener_ != nullptr) listener_->DisplayChanged();
   });
@@ -47,6 +47,7 @@ void WebEditor::TakeMirror() {
     mirrorCost_ = std::chrono::milliseconds(asked.elapsed());
     mirror_ = {mirror[QStringLiteral("html")].toString(), mirror[QStringLiteral("start")],
                mirror[QStringLiteral("end")]};
+    idleTimer_.start(idlePause);
   });
 }
 
