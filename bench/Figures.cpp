@@ -18,6 +18,7 @@ constexpr Entry Table[] = {
     {"key", KeyFigures},
     {"read", ReadingFigures},
     {"save", SavingFigures},
+    {"save-after-edit", SavingAfterAnEditFigures},
     {"preview", PreviewFigures},
     {"source", SourceFillFigures},
     {"apply", ApplyFigures},

@@ -14,6 +14,7 @@ void OpeningFigures();
 void KeyFigures();
 void ReadingFigures();
 void SavingFigures();
+void SavingAfterAnEditFigures();
 
 /// The preview's first and later showings of a page (PreviewFigures.cpp).
 void PreviewFigures();

@@ -130,6 +130,31 @@ void ReadingFigures() {
   }
 }
 
+/// After a person has rested for a moment: what a save writes has been worked out by then.
+void SavingAfterAnEditFigures() {
+  Bench bench;
+  const Size &size = Sizes[2];
+  bench.Load(bench.File(size));
+  EditingComponent &editor = bench.ours.editor;
+  const QString mine = bench.folder.filePath(QStringLiteral("ours.html"));
+  const QString plain = bench.folder.filePath(QStringLiteral("plain.html"));
+  constexpr int rest = 4000;  // milliseconds
+  Print(Compare(
+      QStringLiteral("save after an edit and a rest"), QLatin1String(size.name),
+      QStringLiteral("bare outerHTML and a plain write"), 5,
+      [&] {
+        editor.Document().Selection().CreateRange()->PasteHTML(QStringLiteral("<b>new</b>"));
+        QTest::qWait(rest);
+        return Milliseconds([&] { editor.SaveDocument(ToLogic(mine)); });
+      },
+      [&] {
+        return Milliseconds([&] {
+          QFile file(plain);
+          if (file.open(QIODevice::WriteOnly)) file.write(bench.theirs.OuterHtml().toUtf8());
+        });
+      }));
+}
+
 void SavingFigures() {
   Bench bench;
   for (const Size &size : Sizes) {

@@ -17,9 +17,10 @@ struct PageOriginal {
   QString baseline;
 };
 
-/// The one place that turns (what the page was, what the document is now) into what is written.
-/// `current` is the engine's serialisation now, with LF line breaks. When it equals the baseline
-/// the page has not been edited and the result is the original, to the byte.
+/// What is written for a document. The plain rule, for components that are their own engine: when
+/// `current`, a serialisation with LF line breaks, equals the baseline, the page has not been edited
+/// and the result is the original, to the byte; else it is `current` in the page's encoding.
+/// FaithfulPage also keeps the source of what was not edited.
 struct PageToWrite {
   QString text;
   QByteArray bytes;

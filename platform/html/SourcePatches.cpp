@@ -209,7 +209,11 @@ void SourcePatches::Stretch(const PageEdit &edit, PatchStep step, Patches &out) 
   if (first >= 0 && text.isEmpty() && Characters(first, last, edit, out)) return;
   text = InPageForm(text + now_.Slice(edit.now, edit.nowEnd).toString());
   if (first < 0) {
-    const qsizetype place = left > 0 ? source_.At(Anywhere(left - 1)).End() : 0;
+    qsizetype place = left > 0 ? source_.At(Anywhere(left - 1)).End() : 0;
+    // Before what the parser moved here, the place is where that came from.
+    const Number right = edit.beforeEnd;
+    if (right < before_.Count() && InPlace(right) < 0 && moved_[Index(right)] >= 0)
+      place = source_.At(moved_[Index(right)]).offset;
     Replace(place, place, text, out);
     return;
   }

@@ -66,6 +66,10 @@ Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const 
       AlignTokens(source.tokens, before.tokens, InStep::WithSerialisation);
   const TokenAlignment toNow = AlignTokens(before.tokens, now.tokens, InStep::WithEdit);
   for (const PageEdit &edit : FindEdits(before, now, toNow)) {
+    if (edit.isTagChange) {  // attribute by attribute; the tag itself may be written in other ways
+      Add(distance, before.Slice(edit.before, edit.beforeEnd), now.Slice(edit.now, edit.nowEnd));
+      continue;
+    }
     std::int32_t first = -1;
     std::int32_t last = -2;
     for (std::int32_t at = edit.before; at < edit.beforeEnd; ++at) {

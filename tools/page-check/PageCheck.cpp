@@ -35,8 +35,10 @@ QString EditScript() {
   return QString::fromUtf8(Bytes(QStringLiteral(":/page-check/edits.js")));
 }
 
+}  // namespace
+
 /// A window with an editing component in it.
-class Desk {
+class PageCheck::Desk {
  public:
   Desk(EditingEngine &engine, const QString &folder)
       : engine_(engine), editor(engine, files_, ToLogic(folder), &window_) {
@@ -68,6 +70,8 @@ class Desk {
   WebEditor editor;
 };
 
+namespace {
+
 const char *RungName(SaveRung rung) {
   switch (rung) {
     case SaveRung::Unedited:
@@ -94,6 +98,16 @@ const QStringList &PageCheck::Kinds() {
   return kinds;
 }
 
+PageCheck::PageCheck(EditingEngine &engine)
+    : engine_(engine), reader_(std::make_unique<Desk>(engine, scratch_.path())) {}
+
+PageCheck::~PageCheck() = default;
+
+QString PageCheck::Parsed(const QByteArray &bytes) {
+  reader_->editor.SetDocumentHTML(DecodePage(bytes).text);
+  return reader_->editor.DocumentHTML();
+}
+
 QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) {
   Desk desk(engine_, scratch_.path());
   WebEditor &editor = desk.editor;
@@ -111,15 +125,9 @@ QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) 
   const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
   page.saved = Bytes(target);
 
-  Desk again(engine_, scratch_.path());
-  const auto parsed = [&](const QByteArray &bytes) {
-    const QString text = DecodePage(bytes).text;
-    again.editor.SetDocumentHTML(text);
-    return again.editor.DocumentHTML();
-  };
-  const QString saved = parsed(page.saved);
+  const QString saved = Parsed(page.saved);
   const bool isEqual =
-      saved == page.now || saved == parsed(page.now.toUtf8().prepend("\xEF\xBB\xBF"));
+      saved == page.now || saved == Parsed(page.now.toUtf8().prepend("\xEF\xBB\xBF"));
   return {{QStringLiteral("file"), file},
           {QStringLiteral("edited"), isEdited},
           {QStringLiteral("identical"), page.saved == page.file},

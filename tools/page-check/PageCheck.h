@@ -8,13 +8,16 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <memory>
+
 namespace velor {
 
 /// Opens pages in the editing component, edits and saves them, and tells what became of their
 /// bytes.
 class PageCheck {
  public:
-  explicit PageCheck(EditingEngine &engine) : engine_(engine) {}
+  explicit PageCheck(EditingEngine &engine);
+  ~PageCheck();
 
   /// The kinds of edit, in the words of the command line.
   static const QStringList &Kinds();
@@ -25,8 +28,14 @@ class PageCheck {
   QJsonObject Run(const QString &file, const QString &kind, int place);
 
  private:
+  class Desk;
+
+  /// The document of a text, loaded on its own.
+  QString Parsed(const QByteArray &bytes);
+
   EditingEngine &engine_;
   QTemporaryDir scratch_;
+  std::unique_ptr<Desk> reader_;
 };
 
 }  // namespace velor

@@ -16,6 +16,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds answerLimit = 1min;
+/// A process that ends while it parses is replaced once.
+constexpr int mostTries = 2;
 
 }  // namespace
 
@@ -35,10 +37,12 @@ std::optional<QString> EngineVerifier::Known(const QString &text) const {
 std::optional<QString> EngineVerifier::Serialisation(const QString &text) {
   if (const auto known = Known(text)) return known;
   if (engine_.Guard().InCallback()) return std::nullopt;
-  if (wanted_ != text) Foresee(text, {});
-  GuardedWait(engine_.Guard()).Until(*this, answerLimit, [&] {
-    return Known(text).has_value() || wanted_ != text;
-  });
+  for (int tries = 0; tries < mostTries && !Known(text); ++tries) {
+    if (wanted_ != text) Foresee(text, {});
+    GuardedWait(engine_.Guard()).Until(*this, answerLimit, [&] {
+      return Known(text).has_value() || wanted_ != text;
+    });
+  }
   return Known(text);
 }
 
@@ -58,8 +62,9 @@ void EngineVerifier::Start() {
   isReady_ = false;
   page_ = std::make_unique<EditorPage>(&engine_.Profile(), engine_.Guard(), nullptr);
   const QUrl address = engine_.Scheme().Offer(QStringLiteral("/"), QStringLiteral("<p>"));
-  connect(page_.get(), &QWebEnginePage::loadFinished, this, [this, address] {
+  connect(page_.get(), &QWebEnginePage::loadFinished, this, [this, address, page = page_.get()] {
     const EngineCallback callback(engine_.Guard());
+    if (page != page_.get()) return;
     engine_.Scheme().Withdraw(address);
     page_->runJavaScript(engine_.Bridge(), bridgeWorld);
     isReady_ = true;

@@ -143,7 +143,7 @@ class WebEditor : public EditingComponent {
   QElapsedTimer sinceDeath_;
   Mirror mirror_;
   QTimer mirrorTimer_;
-  QTimer idleTimer_;                         ///< runs since the last change
+  QTimer idleTimer_;                         ///< runs out when a person rests, the mirror taken
   std::chrono::milliseconds mirrorCost_{0};  ///< of asking for the mirror last time
 
   NoticeQueue notices_;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The mirror of the document, and bringing a page back from it.
+#include "platform/RuntimeError.h"
 #include "platform/qt/editing/WebEditor.h"
 
 #include <QVariantMap>
@@ -30,7 +31,7 @@ void WebEditor::StateArrived(const StateSnapshot &state) {
   FollowGeneration(state.generation);
   if (!mirrorTimer_.isActive())
     mirrorTimer_.start(std::max(mirrorPause, mirrorShare * mirrorCost_));
-  idleTimer_.start(idlePause);
+  if (idleTimer_.isActive()) idleTimer_.start(idlePause);
   notices_.Post(Notice::Display, [this] {
     if (listener_ != nullptr) listener_->DisplayChanged();
   });
@@ -46,6 +47,7 @@ void WebEditor::TakeMirror() {
     mirrorCost_ = std::chrono::milliseconds(asked.elapsed());
     mirror_ = {mirror[QStringLiteral("html")].toString(), mirror[QStringLiteral("start")],
                mirror[QStringLiteral("end")]};
+    idleTimer_.start(idlePause);
   });
 }
 
@@ -58,7 +60,11 @@ void WebEditor::ComposeAhead() {
   EngineVerifier &verifier = engine_.Verifier();
   verifier.Foresee(*first, [original, html, &verifier] {
     EngineVerifier::KnownAnswers known(verifier);
-    original->Foresee(html, known);
+    try {
+      original->Foresee(html, known);
+    } catch (const RuntimeError &) {
+      // A page that cannot be written says so when it is saved.
+    }
   });
 }
 

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/fuzz/FaithfulFuzz.h"
+
+#include "platform/RuntimeError.h"
+#include "platform/html/FaithfulPage.h"
+#include "platform/html/PageVerifier.h"
+
+#include <QList>
+
+#include <cstdlib>
+
+namespace velor {
+
+namespace {
+
+/// Accepts the text with that number among the tries, so that every rung is reached.
+class CountingVerifier : public PageVerifier {
+ public:
+  CountingVerifier(QString wanted, int accepted)
+      : wanted_(std::move(wanted)), refusals_(accepted) {}
+  std::optional<QString> Serialisation(const QString &) override {
+    if (refusals_-- <= 0) return wanted_;
+    return wanted_.left(wanted_.size() / 2);
+  }
+
+ private:
+  QString wanted_;
+  int refusals_;
+};
+
+void Require(bool condition) {
+  if (!condition) std::abort();
+}
+
+void CheckTokens(const QString &text) {
+  std::int32_t end = 0;
+  for (const HtmlToken &token : TokenizeHtml(text)) {
+    Require(token.offset >= end && token.length > 0);
+    end = token.End();
+    Require(end <= text.size());
+    if (token.kind == HtmlTokenKind::StartTag)
+      Require(ReadHtmlTag(text, token.offset).end <= token.End());
+  }
+}
+
+}  // namespace
+
+void FuzzFaithfulPage(QByteArrayView data) {
+  if (data.isEmpty()) return;
+  // The input: a number, then the page's bytes and the two serialisations, parted by a rare byte.
+  const int accepted = static_cast<unsigned char>(data.front()) % 30;
+  QList<QByteArray> parts = data.sliced(1).toByteArray().split('\x1f');
+  parts.resize(3);
+  const DecodedPage decoded = DecodePage(parts[0]);
+  const QString before = QString::fromUtf8(parts[1]);
+  const QString now = QString::fromUtf8(parts[2]);
+  CheckTokens(decoded.text);
+  CheckTokens(before);
+
+  FaithfulPage page(PageOriginal{parts[0], decoded, {}});
+  Require(page.Unmasked(page.TextToLoad()).size() >= decoded.text.size());
+  page.SetBaseline(before);
+  CountingVerifier verifier(now, accepted);
+  try {
+    if (!before.isEmpty()) Require(page.Compose(before, verifier).page.bytes == parts[0]);
+    page.Compose(now, verifier);
+    BytesForText(page.Original(), now, decoded.encoding);
+  } catch (const RuntimeError &) {
+    // A character without a place in the page's charset.
+  }
+}
+
+}  // namespace velor
