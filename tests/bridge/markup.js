@@ -134,7 +134,8 @@
       there('p ul, p ol, p dl, p table, p p', 'a block stands in a paragraph');
       there('b b, i i, u u, strong strong, em em, b strong, strong b', 'an element is in its like');
       there('ul > p, ol > p, ul > blockquote, ol > blockquote', 'a list holds more than items');
-      there(':is(h1, h2, h3, h4, h5, h6) span[style*="font-weight: normal"]', 'a span weighs in a heading');
+      there(':is(h1, h2, h3, h4, h5, h6) span[style*="font-weight: normal"]',
+        'a span weighs in a heading');
       const doubled = [...document.querySelectorAll('span[style] span[style], font font')]
         .filter((element) => element.parentElement.childNodes.length === 1 &&
           element.parentElement.tagName === element.tagName &&

@@ -39,7 +39,9 @@
     if (faults && faults !== faultsBefore) return `${faults}: ${after.selected}`;
     const changed = velor.history.canUndo();
     if (changed !== (after.html !== before.html)) return `step without change: ${after.selected}`;
-    if (honest.has(number) && (status !== 1) !== changed) return `status ${status}: ${after.selected}`;
+    if (honest.has(number) && (status !== 1) !== changed) {
+      return `status ${status}: ${after.selected}`;
+    }
     if (!changed) return '';
     if (settled.has(number) && values[1] !== 'Definition' || toggles.has(number) && status === 3) {
       velor[name](...values);
