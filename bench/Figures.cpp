@@ -16,6 +16,7 @@ constexpr Entry Table[] = {
     {"start", StartFigure},
     {"open", OpeningFigures},
     {"key", KeyFigures},
+    {"bridge", BridgeFigures},
     {"read", ReadingFigures},
     {"save", SavingFigures},
     {"save-after-edit", SavingAfterAnEditFigures},

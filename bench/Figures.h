@@ -12,6 +12,7 @@ int RunFigures(const QStringList &names);
 // Figures about one page (PageFigures.cpp).
 void OpeningFigures();
 void KeyFigures();
+void BridgeFigures();
 void ReadingFigures();
 void SavingFigures();
 void SavingAfterAnEditFigures();

@@ -13,6 +13,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWebEnginePage>
+#include <QWebEngineScript>
+#include <QWebEngineView>
 
 namespace velor::bench {
 
@@ -73,7 +76,62 @@ QWidget *EngineWidget(QWidget *container) {
   return KeyTarget(container);
 }
 
+/// Adds up in the page what the bridge spends on input: from an event's arrival until the bridge's
+/// listeners, which are registered before this one, have seen it, and the pushes.
+const char BridgeClock[] = R"(
+  globalThis.bridgeClock = { spent: 0, pushes: 0 };
+  for (const type of ['keydown', 'beforeinput', 'input', 'keyup', 'selectionchange']) {
+    let start = 0;
+    window.addEventListener(type, () => { start = performance.now(); }, true);
+    document.addEventListener(type, () => { bridgeClock.spent += performance.now() - start; }, true);
+  }
+  const push = velor.push;
+  velor.push = () => {
+    const start = performance.now();
+    push();
+    bridgeClock.spent += performance.now() - start;
+    bridgeClock.pushes++;
+  };
+  1)";
+
+QVariant Evaluate(QWidget *container, const QString &script) {
+  bool done = false;
+  QVariant value;
+  container->findChild<QWebEngineView *>()->page()->runJavaScript(
+      script, QWebEngineScript::ApplicationWorld, [&](const QVariant &answer) {
+        value = answer;
+        done = true;
+      });
+  WaitUntil([&done] { return done; });
+  return value;
+}
+
 }  // namespace
+
+void BridgeFigures() {
+  Bench bench;
+  const auto perKey = [&bench](const Size &size) {
+    bench.ours.editor.LoadDocument(ToLogic(bench.File(size)));
+    bench.ours.editor.SetFocus();
+    QWidget *container = bench.ours.editor.Widget();
+    QWidget *target = EngineWidget(container);
+    Evaluate(container, QString::fromLatin1(BridgeClock));
+    target->window()->activateWindow();
+    (void)QTest::qWaitForWindowActive(target->window());
+    target->setFocus();
+    constexpr int keys = 20;
+    for (int key = 1; key <= keys; ++key) {
+      QTest::keyClick(target, key % 6 == 0 ? Qt::Key_Space : Qt::Key_X);
+      WaitUntil(
+          [&] { return Evaluate(container, QStringLiteral("bridgeClock.pushes")).toInt() >= key; });
+    }
+    return Evaluate(container, QStringLiteral("bridgeClock.spent")).toDouble() / keys;
+  };
+  Print(Compare(
+      QStringLiteral("the bridge's share of a key"), QStringLiteral("1 MB"),
+      QStringLiteral("the same on a page of 10 KB"), 3, [&] { return perKey(Sizes[2]); },
+      [&] { return perKey(Sizes[0]); }));
+}
 
 void OpeningFigures() {
   Bench bench;

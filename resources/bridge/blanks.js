@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Blanks at the edge of a line. HTML does not show them, so the engine writes a no-break space where
-// a blank was typed there or stands there after a deletion. That is needed while the caret is beside
-// it and wrong afterwards: here such places are held, shown to the program as blanks at once, and
-// made blanks again as soon as the caret has gone. Blanks that a person types at a line's start or
-// several in a row stay no-break spaces, since HTML would swallow them.
+// Blanks at the edge of a line. HTML does not show them, so the engine writes a no-break space
+// where a blank was typed there or stands there after a deletion. That is needed while the caret is
+// beside it and wrong afterwards: here such places are held, shown to the program as blanks at
+// once, and made blanks again as soon as the caret has gone. Blanks that a person types at a line's
+// start or several in a row stay no-break spaces, since HTML would swallow them.
 (() => {
   'use strict';
   const { velor } = globalThis;

@@ -88,11 +88,16 @@
     if (alone) dom.unwrap(paragraph);
   }
 
+  // A table or a rule that is selected has no text to format.
+  const takesFormat = ({ block }) =>
+    !block || !dom.isAtom(block) && block.tagName !== 'TABLE';
+
   function apply(name, range) {
     const format = byName(name);
     if (!format) return;
     const kept = velor.selection.keep();
-    const units = velor.units.unitsIn(range);
+    const units = velor.units.unitsIn(range).filter(takesFormat);
+    if (!units.length) return;
     if (units.every((unit) => read(unit) === format.name)) return;
     if (format.list) {
       units.forEach(becomePlain);
@@ -108,5 +113,5 @@
     velor.selection.restore(kept);
   }
 
-  velor.blocks = { formats, read, apply };
+  velor.blocks = { formats, read, apply, takesFormat };
 })();

@@ -9,15 +9,16 @@
 
   const set = (names) => new Set(names.split(' '));
   const dropped = set(
-    'APPLET AUDIO BASE BUTTON CANVAS COL COLGROUP EMBED FRAME FRAMESET HEAD IFRAME INPUT LINK META ' +
-    'NOSCRIPT OBJECT SCRIPT SELECT STYLE svg TEMPLATE TEXTAREA TITLE VIDEO XML');
+    'APPLET AUDIO BASE BUTTON CANVAS COL COLGROUP EMBED FRAME FRAMESET HEAD IFRAME INPUT LINK ' +
+    'META NOSCRIPT OBJECT SCRIPT SELECT STYLE svg TEMPLATE TEXTAREA TITLE VIDEO XML');
   const structure = set(
-    'ADDRESS BLOCKQUOTE CAPTION DD DL DT H1 H2 H3 H4 H5 H6 HR LI OL P PRE TABLE TBODY TD TFOOT TH ' +
-    'THEAD TR UL');
+    'ADDRESS BLOCKQUOTE CAPTION DD DL DT H1 H2 H3 H4 H5 H6 HR LI OL P PRE TABLE TBODY TD TFOOT ' +
+    'TH THEAD TR UL');
   const emphasis = set(
     'ABBR B BIG CITE CODE DEL DFN EM I INS KBD MARK Q S SAMP SMALL STRIKE STRONG SUB SUP TT U VAR');
   const attributes = {
-    A: ['href', 'name', 'title', 'target'], IMG: ['src', 'alt', 'title', 'width', 'height', 'border'],
+    A: ['href', 'name', 'title', 'target'],
+    IMG: ['src', 'alt', 'title', 'width', 'height', 'border'],
     TABLE: ['border', 'cellpadding', 'cellspacing', 'width'], OL: ['start', 'type'], UL: ['type'],
     TD: ['colspan', 'rowspan', 'align', 'valign'], TH: ['colspan', 'rowspan', 'align', 'valign'],
   };
@@ -38,8 +39,10 @@
     (/^(I|EM)$/.test(tag) && fontStyle === 'normal');
 
   const isBlock = (node) => dom.isElement(node) && dom.isBlock(node);
-  const hasText = (nodes) => nodes.some((node) =>
-    (dom.isText(node) ? /[^ \n]/.test(node.data) : wholes.has(node.tagName) || hasText([...node.childNodes])));
+  const hasText = (nodes) => nodes.some((node) => {
+    if (dom.isText(node)) return /[^ \n]/.test(node.data);
+    return wholes.has(node.tagName) || hasText([...node.childNodes]);
+  });
 
   // Runs of inline nodes between blocks become paragraphs; those that show nothing go.
   function paragraphs(nodes) {
@@ -84,7 +87,7 @@
     if (!nodes.length || nodes.some(isBlock)) return nodes;
     const names = styled.filter(([, says]) => says(element.style)).map(([tag]) => tag)
       .filter((tag) => !inside.has(tag) && !(tag === 'U' && inside.has('A')));
-    return names.reduce((content, tag) => (hasText(content) ? [put(tag, content)] : content), nodes);
+    return hasText(nodes) ? names.reduce((content, tag) => [put(tag, content)], nodes) : nodes;
   }
 
   const same = { STRONG: 'B', EM: 'I', INS: 'U' };
@@ -136,7 +139,9 @@
       const inner = blocks ? single(content) : content;
       return [copyAttributes(node, put(tag, trim(inner)))];
     }
-    if (tag === 'BLOCKQUOTE') return blocks || hasText(content) ? [put(tag, paragraphs(content))] : [];
+    if (tag === 'BLOCKQUOTE') {
+      return blocks || hasText(content) ? [put(tag, paragraphs(content))] : [];
+    }
     // A paragraph or heading around blocks is none; an empty one is a gap.
     if (blocks) return paragraphs(content);
     return hasText(content.filter((each) => !dom.isBreak(each))) ? [put(tag, trim(content))] : [];
@@ -147,7 +152,7 @@
     if (shown[0]?.tagName === 'P' && shown.slice(1).every(dom.isList)) {
       return [...shown[0].childNodes, ...shown.slice(1)];
     }
-    return shown.map((node) => node);
+    return shown;
   }
   function trim(nodes) {
     const result = [...nodes];
@@ -161,7 +166,7 @@
     const copy = copyAttributes(node, dom.create(node.tagName));
     for (const each of content) {
       if (/^(LI|DT|DD)$/.test(each.tagName ?? '')) copy.append(each);
-      else if (dom.isElement(each) && copy.lastChild && dom.isList(each)) copy.lastChild.append(each);
+      else if (copy.lastChild && dom.isList(each)) copy.lastChild.append(each);
       else if (hasText([each])) copy.append(put('LI', [each]));
     }
     return copy.firstChild ? [copy] : [];

@@ -69,7 +69,8 @@
     return fragment;
   }
   function textFragment(text, range) {
-    const pre = dom.ancestor(range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName));
+    const pre = dom.ancestor(
+      range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName));
     if (!pre) return lines(text);
     const fragment = document.createDocumentFragment();
     fragment.append(text.replace(/\r\n?/g, '\n'));

@@ -155,7 +155,7 @@
     }],
     [5042, character('backColor')],
     [5043, {  // SetBlockFormat
-      status: (view) => (view.units().length ? Enabled : Disabled),
+      status: (view) => (view.units().some(velor.blocks.takesFormat) ? Enabled : Disabled),
       run: (value, view) => velor.blocks.apply(value, view.range),
     }],
     [5044, character('fontName')],

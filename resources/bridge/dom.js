@@ -186,7 +186,7 @@
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),
     nextNode, nextSkippingChildren, ancestor, blockOf, firstLeaf, lastLeaf, create, successor,
-    rename, unwrap, wrap, twin, splitBefore, neighbour, sameAttributes, sameLooks, shownText, hasContent,
-    isHollow,
+    rename, unwrap, wrap, twin, splitBefore, neighbour, sameAttributes, sameLooks, shownText,
+    hasContent, isHollow,
   };
 })();

@@ -60,6 +60,17 @@
     return '#FFFFFF';
   }
 
+  // A FONT has one of the seven sizes, whatever they come to in the typeface at hand.
+  function fontSize(element) {
+    for (const at of ancestors(element)) {
+      if (velor.dom.isBlock(at) || at.tagName === 'FONT' && at.style.fontSize) break;
+      const size = at.tagName === 'FONT' ? Number(at.getAttribute('size')) : 0;
+      if (sizePoints[size - 1]) return String(sizePoints[size - 1]);
+      if (formats.fontSize.carries(at)) break;
+    }
+    return points(style(element).fontSize);
+  }
+
   // The declarations of an inline style as they were written; CSSOM would write all of them anew.
   const declarations = (element) =>
     (element.getAttribute('style') ?? '').match(/(?:[^;"'(]|"[^"]*"|'[^']*'|\([^)]*\))+/g) ?? [];
@@ -147,7 +158,7 @@
       tags: [], attribute: 'face', property: 'font-family', inStyle: fontFamily,
     }),
     fontSize: format({
-      read: (element) => points(style(element).fontSize),
+      read: fontSize,
       parse: (value) => String(sizePoints[sizeNumber(value) - 1]),
       tags: ['BIG', 'SMALL'], attribute: 'size', inAttribute: sizeNumber,
       property: 'font-size', inStyle: (value) => `${value}pt`,

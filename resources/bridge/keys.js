@@ -129,12 +129,13 @@
     const after = document.createRange();
     after.setStart(range.startContainer, range.startOffset);
     after.setEnd(pre, pre.childNodes.length);
-    const atEnd = /^\n?$/.test(after.toString());
-    if (atEnd && before.toString().endsWith('\n') && after.toString() + before.toString() !== '\n') {
+    const [above, below] = [before.toString(), after.toString()];
+    const atEnd = /^\n?$/.test(below);
+    if (atEnd && above.endsWith('\n') && above + below !== '\n') {
       leavePre(pre);
       return;
     }
-    const end = document.createTextNode(atEnd && after.toString() === '' ? '\n\n' : '\n');
+    const end = document.createTextNode(below === '' ? '\n\n' : '\n');
     range.insertNode(end);
     const place = { node: end, offset: 1 };
     velor.inline.joinTexts(end.parentNode, [place]);
@@ -211,7 +212,8 @@
     const first = dom.neighbour(block, 'previousSibling');
     if (!dom.isElement(first) || !dom.isBlock(first) || dom.isHollow(first)) return;
     const last = dom.lastLeaf(first);
-    if (dom.isBreak(last) && last.previousSibling && !dom.isBreak(last.previousSibling)) last.remove();
+    const before = last.previousSibling;
+    if (dom.isBreak(last) && before && !dom.isBreak(before)) last.remove();
   }
 
   function input(event) {

@@ -118,6 +118,20 @@ TEST_F(RealPageFiles, AChangedPageIsSavedOnYesAndKeptOnCancel) {
   EXPECT_TRUE(Bytes(PageFile).contains("<p>Oxne</p>"));
 }
 
+TEST_F(RealPageFiles, APageWhoseChangesWereAllTakenBackClosesUnasked) {
+  frmMain &page = Open(PageFile, Plain);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral(" two three"));
+  Choose("mnuSelectAll");
+  Button("tbrEdit_bold").click();
+  Button("tbrEdit_center").click();
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("center")); })) << Seen(page);
+  for (int step = 0; step < 8; ++step) Choose("mnuUndo");
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("<p>One</p>")); })) << Seen(page);
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Bytes(PageFile), Plain);
+}
+
 TEST_F(RealPageFiles, LetterCaseAloneIsNotAskedAbout) {
   frmMain &page = Open(PageFile, Plain);
   Select(page, QStringLiteral("p"));

@@ -127,6 +127,21 @@
       const empty = [...document.querySelectorAll('b, i, u, font, span, em, strong')]
         .filter((element) => !element.firstChild);
       if (empty.length) faults.push('an inline element is empty');
+      const there = (selector, what) => {
+        if (document.querySelector(selector)) faults.push(what);
+      };
+      there('ul > ul, ul > ol, ol > ol, ol > ul', 'a list stands directly in a list');
+      there('p ul, p ol, p dl, p table, p p', 'a block stands in a paragraph');
+      there('b b, i i, u u, strong strong, em em, b strong, strong b', 'an element is in its like');
+      there('ul > p, ol > p, ul > blockquote, ol > blockquote', 'a list holds more than items');
+      there(':is(h1, h2, h3, h4, h5, h6) span[style*="font-weight: normal"]',
+        'a span weighs in a heading');
+      const doubled = [...document.querySelectorAll('span[style] span[style], font font')]
+        .filter((element) => element.parentElement.childNodes.length === 1 &&
+          element.parentElement.tagName === element.tagName &&
+          ['style', 'color', 'size', 'face'].some((name) => element.hasAttribute(name) &&
+            element.getAttribute(name) === element.parentElement.getAttribute(name)));
+      if (doubled.length) faults.push('a look is given twice');
       const text = velor.serialize();
       const parsed = new DOMParser().parseFromString(text, 'text/html');
       const root = text.slice(text.indexOf('<html'))

@@ -20,7 +20,7 @@
     backcolor: colour(5042), hilitecolor: colour(5042), forecolor: colour(5046),
     bold: number(5000), italic: number(5023), underline: number(5048),
     fontname: number(5044, (text) => text || null),
-    fontsize: number(5045, (text) => known(/^[1-7]$/.test(text) ? sizePoints[text - 1] : undefined)),
+    fontsize: number(5045, (text) => (/^[1-7]$/.test(text) ? sizePoints[text - 1] : null)),
     formatblock: number(5043, (text) =>
       known(blockNames.get(text.replace(/^<|>$/g, '').toLowerCase()))),
     indent: number(5018), outdent: number(5031),
