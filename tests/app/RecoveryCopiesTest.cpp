@@ -40,10 +40,12 @@ TEST_F(RecoveryCopies, ASourceIsWrittenInItsPagesEncoding) {
   const QString file = folder + QStringLiteral("\\cafe.htm");
   files.ReplaceAll(file, "<p>caf\xe9</p>");
   modWorkFlow::OpenPage(window.Context(), file);
-  window.Context().pages.Page(1)->ChangeMode(3);
+  frmMain &page = *window.Context().pages.Page(1);
+  Component(page).CompleteDocument();
+  page.ChangeMode(3);
   window.Context().pages.CodeEditor(1)->Code().SetText(QStringLiteral("<p>na\u00efve</p>"));
   WriteRecoveryCopies(window.Context(), folder);
-  EXPECT_EQ(files.ReadAll(Copy(1)), "<p>na\xefve</p>\r\n");
+  EXPECT_EQ(files.ReadAll(Copy(1)), QByteArray("<p>na\xefve</p>\r\n"));
 }
 
 TEST_F(RecoveryCopies, AnEarlierCopyIsNeverOverwritten) {
