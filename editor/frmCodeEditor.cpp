@@ -42,15 +42,6 @@ QString NameOf(LineEnds lineEnds) {
   return {};
 }
 
-/// How the page was read, as far as it is known.
-PageEncoding EncodingOf(frmMain *page) {
-  PageEncoding encoding;
-  if (page == nullptr) return encoding;
-  encoding.charset = page->DHTML1().Charset();
-  encoding.byteOrderMark = page->DHTML1().HasByteOrderMark();
-  return encoding;
-}
-
 }  // namespace
 
 frmCodeEditor::frmCodeEditor(EditorContext &context, int number)
@@ -106,7 +97,8 @@ std::int16_t frmCodeEditor::ApplyCode() {
   Files &files = context_.platform.files;
   const bool hasCopy = !record.TempPath.isEmpty() && files.FolderWritable(record.TempPath);
   if (hasCopy)
-    modGeneral::WriteTextFile(files, record.TempPath, text, EncodingOf(context_.pages.Page(index)));
+    modGeneral::WriteTextFile(files, record.TempPath, text,
+                              modWorkFlow::EncodingOf(context_, index));
   try {
     EditingComponent &page = modWorkFlow::PageWindow(context_, index).DHTML1();
     if (hasCopy) {

@@ -109,8 +109,7 @@ void frmMain::Preview() {
     return;
   }
   const QString text = CreatorHTML();
-  const bool written =
-      modWorkFlow::WriteTemporaryCopy(context_.platform.files, record.TempPath, text);
+  const bool written = modWorkFlow::WriteTemporaryCopy(context_, number_, text);
   context_.mainWindow.ShowWindow(&preview);
   if (written) {
     preview.brwWebBrowser().Navigate(ToUrl(record.TempPath));

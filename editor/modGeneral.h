@@ -13,9 +13,9 @@ namespace velor::modGeneral {
 QString ReadWholeFile(const Files &files, const QString &path);
 
 /// Creates or replaces the file: the text followed by a line break (CR LF), in the charset that the
-/// text declares for itself, else as `page` was read (UTF-8 where it says nothing else).
+/// text declares for itself, else as `page` was read.
 void WriteTextFile(Files &files, const QString &path, const QString &text,
-                   const PageEncoding &page = {});
+                   const PageEncoding &page);
 
 /// The text after the last "\"; the whole text when it holds none.
 QString FileNameOfPath(const QString &path);

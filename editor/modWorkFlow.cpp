@@ -122,10 +122,20 @@ QString TemporaryCopyOf(const QString &path) {
   return copy == path ? QString() : copy;
 }
 
-bool WriteTemporaryCopy(Files &files, const QString &tempPath, const QString &text) {
+PageEncoding EncodingOf(const EditorContext &context, int number) {
+  PageEncoding encoding;
+  frmMain *page = context.pages.Page(number);
+  if (page == nullptr) return encoding;
+  encoding.charset = page->DHTML1().Charset();
+  encoding.byteOrderMark = page->DHTML1().HasByteOrderMark();
+  return encoding;
+}
+
+bool WriteTemporaryCopy(const EditorContext &context, int number, const QString &text) {
+  const QString tempPath = context.pages.Record(number).TempPath;
   if (tempPath.isEmpty()) return false;
   try {
-    modGeneral::WriteTextFile(files, tempPath, text);
+    modGeneral::WriteTextFile(context.platform.files, tempPath, text, EncodingOf(context, number));
     return true;
   } catch (const RuntimeError &) {
     return false;

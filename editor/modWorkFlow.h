@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editor/EditorContext.h"
+#include "platform/html/PageEncoding.h"
 
 #include <QString>
 
@@ -11,7 +12,6 @@
 namespace velor {
 
 class FileDialog;
-class Files;
 class frmCodeEditor;
 class frmMain;
 struct PageRecord;
@@ -31,9 +31,13 @@ frmCodeEditor &SourceEditor(EditorContext &context, int number);
 /// itself (a path without a single "."): a temporary copy is never the person's own file.
 QString TemporaryCopyOf(const QString &path);
 
-/// Writes a page's text to its temporary copy, followed by a line break. False where there is none
-/// to write to: no path, or a folder that does not exist or cannot be written.
-bool WriteTemporaryCopy(Files &files, const QString &tempPath, const QString &text);
+/// How the page of a slot was read: charset and byte order mark. The defaults for an empty slot.
+PageEncoding EncodingOf(const EditorContext &context, int number);
+
+/// Writes the text of a slot's page to its temporary copy, in the page's encoding and followed by a
+/// line break. False where there is none to write to: no path, or a folder that does not exist or
+/// cannot be written.
+bool WriteTemporaryCopy(const EditorContext &context, int number, const QString &text);
 
 /// Makes a page from the template in a slot and a tab of its own.
 void NewPage(EditorContext &context);

@@ -55,7 +55,8 @@ QStringList WriteRecoveryCopies(EditorContext &context, const QString &folder) {
       frmCodeEditor *editor = context.pages.CodeEditor(number);
       if (editor == nullptr || editor->Code().Text() == editor->AppliedText) return;
       keep([&](const QString &path) {
-        modGeneral::WriteTextFile(files, path, editor->Code().Text());
+        modGeneral::WriteTextFile(files, path, editor->Code().Text(),
+                                  modWorkFlow::EncodingOf(context, number));
       });
     });
   }

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <iterator>
 #include <string_view>
+#include <type_traits>
 
 /// The elements that a parser treats in ways of their own, by the keys of their names.
 namespace velor::elements {
@@ -14,10 +15,15 @@ bool IsOneOf(std::uint32_t name, const std::uint32_t (&names)[Count]) {
   return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
-inline constexpr std::uint32_t NameKeyOf(std::u16string_view name) {
+/// Of a name in lower case.
+template <typename Unit>
+constexpr std::uint32_t NameKeyOf(std::basic_string_view<Unit> name) {
   std::uint32_t key = 2166136261U;
-  for (const char16_t unit : name) key = (key ^ unit) * 16777619U;
+  for (const Unit unit : name) key = (key ^ std::make_unsigned_t<Unit>(unit)) * 16777619U;
   return key | 1U;
+}
+inline constexpr std::uint32_t NameKeyOf(std::u16string_view name) {
+  return NameKeyOf<char16_t>(name);
 }
 
 inline constexpr std::uint32_t script = NameKeyOf(u"script");

@@ -1,20 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/html/SourceTags.h"
 
-#include <algorithm>
-#include <array>
+#include "platform/html/HtmlElements.h"
+
 #include <cstring>
+#include <string_view>
 #include <vector>
 
 namespace velor {
 
 namespace {
 
-constexpr std::array VoidElements = {"area",  "base",  "basefont", "bgsound", "br",    "col",
-                                     "embed", "frame", "hr",       "img",     "input", "keygen",
-                                     "link",  "meta",  "param",    "source",  "track", "wbr"};
-constexpr std::array TextElements = {"script", "style",  "title",    "textarea",
-                                     "xmp",    "iframe", "noframes", "noembed"};
+std::uint32_t KeyOf(QByteArrayView name) {
+  return elements::NameKeyOf(std::string_view(name.data(), static_cast<std::size_t>(name.size())));
+}
+
+bool IsTextElement(QByteArrayView name) {
+  const std::uint32_t key = KeyOf(name);
+  return elements::IsOneOf(key, elements::rawElements) ||
+         elements::IsOneOf(key, elements::titleElements);
+}
 
 bool IsLetter(char letter) {
   return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z');
@@ -92,11 +97,6 @@ std::optional<SourceTag> TagAt(QByteArrayView source, qsizetype begin) {
   return std::nullopt;
 }
 
-template <typename Names>
-bool Holds(const Names &names, QByteArrayView name) {
-  return std::find(names.begin(), names.end(), name) != names.end();
-}
-
 /// The tag that closes the start tag last given to it, or opened the end tag.
 std::optional<SourceTag> StartTagOf(QByteArrayView source, const SourceTag &end) {
   std::vector<SourceTag> open;
@@ -113,7 +113,7 @@ std::optional<SourceTag> StartTagOf(QByteArrayView source, const SourceTag &end)
 }  // namespace
 
 bool IsVoidElement(QByteArrayView name) {
-  return Holds(VoidElements, name);
+  return elements::IsOneOf(KeyOf(name), elements::voidElements);
 }
 
 void VisitTags(QByteArrayView source, const std::function<bool(const SourceTag &)> &visit) {
@@ -121,8 +121,7 @@ void VisitTags(QByteArrayView source, const std::function<bool(const SourceTag &
     const std::optional<SourceTag> tag = TagAt(source, at);
     if (tag && !visit(*tag)) return;
     qsizetype next = tag ? tag->end : at + 1;
-    const bool opensText =
-        tag && tag->kind == SourceTag::Kind::Start && Holds(TextElements, tag->name);
+    const bool opensText = tag && tag->kind == SourceTag::Kind::Start && IsTextElement(tag->name);
     if (opensText) next = EndOfText(source, tag->name, next);
     if (tag && tag->kind == SourceTag::Kind::Start && tag->name == "plaintext") return;
     at = Find(source, '<', next);

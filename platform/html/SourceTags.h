@@ -24,6 +24,10 @@ struct SourceTag {
 
 /// Tells the tags of UTF-8 source in their order, until `visit` answers false. What stands in
 /// scripts, styles, text areas and the like is their text. Any bytes will do.
+///
+/// Beside TokenizeHtml (HtmlTokens.h) because it follows every keystroke of the source editor: it
+/// reads the control's own bytes without a copy and passes over text, of which the tokenizer makes
+/// tokens and keys. It knows no foreign content and no escapes of scripts; only saving needs them.
 void VisitTags(QByteArrayView source, const std::function<bool(const SourceTag &)> &visit);
 
 /// The tag that holds that byte and the one that closes or opens its element; the second is absent

@@ -67,7 +67,6 @@ inline constexpr int RowFixedData = 2;
 
 // Table definition; goes on at offset ContinuedData of the pages it is chained to.
 inline constexpr int DefinitionNext = 4;    ///< u32, next page, 0 at the end
-inline constexpr int DefinitionBytes = 8;   ///< u32, bytes that follow offset 8
 inline constexpr int DefinitionRows = 16;   ///< u32
 inline constexpr int MaximumColumns = 41;   ///< u16, highest column number ever used + 1
 inline constexpr int VariableColumns = 43;  ///< u16

@@ -3,6 +3,7 @@
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
+#include "editor/modWorkFlow.h"
 #include "platform/Paths.h"
 #include "tests/app/WindowFixture.h"
 
@@ -33,6 +34,18 @@ TEST_F(RecoveryCopies, ASourceThatWasNotAppliedIsWrittenToo) {
   window.Context().pages.CodeEditor(1)->Code().SetText(QStringLiteral("<p>never applied</p>"));
   EXPECT_EQ(WriteRecoveryCopies(window.Context(), folder), QStringList{ForPeople(Copy(1))});
   EXPECT_TRUE(files.ReadAll(Copy(1)).contains("never applied"));
+}
+
+TEST_F(RecoveryCopies, ASourceIsWrittenInItsPagesEncoding) {
+  const QString file = folder + QStringLiteral("\\cafe.htm");
+  files.ReplaceAll(file, "<p>caf\xe9</p>");
+  modWorkFlow::OpenPage(window.Context(), file);
+  frmMain &page = *window.Context().pages.Page(1);
+  Component(page).CompleteDocument();
+  page.ChangeMode(3);
+  window.Context().pages.CodeEditor(1)->Code().SetText(QStringLiteral("<p>na\u00efve</p>"));
+  WriteRecoveryCopies(window.Context(), folder);
+  EXPECT_EQ(files.ReadAll(Copy(1)), QByteArray("<p>na\xefve</p>\r\n"));
 }
 
 TEST_F(RecoveryCopies, AnEarlierCopyIsNeverOverwritten) {

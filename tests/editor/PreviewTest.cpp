@@ -33,6 +33,16 @@ TEST_F(PreviewTest, APageIsShownFromItsTemporaryCopyWithALineBreakMore) {
   EXPECT_EQ(Content(QStringLiteral("\\site\\indexTMP.htm")), "<p>b</p>\r\n");
 }
 
+TEST_F(PreviewTest, TheCopyIsInThePagesEncodingWhereThePageDeclaresNone) {
+  Open(IndexFile, "<p>caf\xe9</p>");
+  Page(1).ChangeMode(4);
+  EXPECT_EQ(Content(QStringLiteral("\\site\\indexTMP.htm")), "<p>caf\xe9</p>\r\n");
+  Open(IndexFile, QByteArray("\xff\xfe<\0p\0>\0\xe9\0", 10));
+  Page(2).ChangeMode(4);
+  EXPECT_EQ(Content(QStringLiteral("\\site\\indexTMP.htm")),
+            QByteArray("\xff\xfe<\0p\0>\0\xe9\0\r\0\n\0", 14));
+}
+
 TEST_F(PreviewTest, AReadOnlyPageIsShownFromItsFileWithoutUnsavedEdits) {
   files.AddFile(IndexFile, "<p>a</p>");
   files.MakeReadOnly(IndexFile);

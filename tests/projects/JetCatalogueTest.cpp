@@ -83,6 +83,23 @@ class JetCatalogue : public ::testing::Test {
   std::unique_ptr<SqliteConnection> connection_;
 };
 
+TEST_F(JetCatalogue, WithAPasswordIsRefusedUnchangedAndSaysWhatToDo) {
+  fixture::FixtureFile content = SmallCatalogue();
+  content.password = U("secret");
+  Make(content);
+  const QByteArray before = Bytes();
+  try {
+    Open();
+    ADD_FAILURE() << "the file was opened";
+  } catch (const RuntimeError &error) {
+    EXPECT_EQ(error.Number(), ErrorNumber::DeviceIoError);
+    EXPECT_TRUE(error.Description().contains(File())) << error.what();
+    EXPECT_TRUE(error.Description().contains(U("remove the password"))) << error.what();
+  }
+  EXPECT_EQ(connection_->State(), ObjectState::Closed);
+  EXPECT_EQ(Bytes(), before);
+}
+
 TEST_F(JetCatalogue, SelectsGeneratedProjectsByTrueAndAnswersMinusOne) {
   EXPECT_EQ(Column("Select * from Project where Created = true Order by DtModified", "IdProject"),
             (QStringList{U("2"), U("1")}));

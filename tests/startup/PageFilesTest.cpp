@@ -28,25 +28,30 @@ TEST_F(PageFiles, AMissingFileIsAnError) {
 }
 
 TEST_F(PageFiles, AreWrittenWithALineBreakAfterTheText) {
-  WriteTextFile(files_, Page, QStringLiteral("<p>ä</p>"));
+  WriteTextFile(files_, Page, QStringLiteral("<p>ä</p>"), {});
   EXPECT_EQ(files_.Content(Page), QByteArray("<p>\xC3\xA4</p>\r\n"));
 }
 
 TEST_F(PageFiles, AreWrittenInTheCharsetThatTheTextDeclares) {
-  WriteTextFile(files_, Page, QStringLiteral("<meta charset=big5>茶"));
+  WriteTextFile(files_, Page, QStringLiteral("<meta charset=big5>茶"), {});
   EXPECT_EQ(files_.Content(Page), QByteArray("<meta charset=big5>\xAF\xF9\r\n"));
+}
+
+TEST_F(PageFiles, AreWrittenAsThePageWasReadWhereTheTextDeclaresNothing) {
+  WriteTextFile(files_, Page, QStringLiteral("<p>ä</p>"), {QStringLiteral("windows-1252")});
+  EXPECT_EQ(files_.Content(Page), QByteArray("<p>\xE4</p>\r\n"));
 }
 
 TEST_F(PageFiles, ReplaceALongerFile) {
   files_.AddFile(Page, QByteArray(5000, 'x'));
-  WriteTextFile(files_, Page, QStringLiteral("short"));
+  WriteTextFile(files_, Page, QStringLiteral("short"), {});
   EXPECT_EQ(files_.Content(Page), QByteArray("short\r\n"));
 }
 
 TEST_F(PageFiles, AFileThatCannotBeWrittenIsAnError) {
   files_.AddFile(Page, "old");
   files_.MakeReadOnly(Page);
-  EXPECT_EQ(ErrorOf([this] { WriteTextFile(files_, Page, QStringLiteral("new")); }),
+  EXPECT_EQ(ErrorOf([this] { WriteTextFile(files_, Page, QStringLiteral("new"), {}); }),
             ErrorNumber::PathFileAccess);
 }
 

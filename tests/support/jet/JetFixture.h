@@ -80,6 +80,8 @@ struct FixtureFile {
   std::vector<FixtureTable> tables;
   /// Not 0: the pages are encoded with this key.
   quint32 fileKey = 0;
+  /// At most 20 characters; empty for a file that anybody may open.
+  QString password = {};
   MapForm maps = MapForm::BitmapWhereItReaches;
   /// Bytes that the writer leaves free on every data page.
   int pageReserve = 0;

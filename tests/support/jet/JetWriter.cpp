@@ -19,13 +19,17 @@ constexpr qint32 TablesFolder = 0x0F000001;
 constexpr qint32 SystemObject = static_cast<qint32>(0x80000000);
 constexpr int MostRowsAPage = 255;
 
-void WriteHeader(QByteArray &page, quint32 fileKey) {
+void WriteHeader(QByteArray &page, const FixtureFile &file) {
   page.replace(0, 20, QByteArray("\0\1\0\0Standard Jet DB\0", 20));
   page[0x14] = 1;
   Put16(page, 0x3C, 1252);
-  Put32(page, 0x3E, fileKey);
-  // No password: forty zero bytes under the mask of the creation date.
-  for (int at = 0x42; at < 0x6A; at += 4) Put32(page, at, static_cast<quint32>(Created));
+  Put32(page, 0x3E, file.fileKey);
+  // The password, filled up with zeros to forty bytes, under the mask of the creation date.
+  for (int at = 0; at < 20; ++at) {
+    const quint32 mask = static_cast<quint32>(Created) >> (at % 2 == 0 ? 0 : 16);
+    const char16_t letter = at < file.password.size() ? file.password[at].unicode() : u'\0';
+    Put16(page, 0x42 + 2 * at, mask ^ letter);
+  }
   Put32(page, 0x6E, 0x0409);
   qToLittleEndian(Created, page.data() + 0x72);
   page.replace(0x18, 0x80, Rc4(page.mid(0x18, 0x80), HeaderKey()));
@@ -166,7 +170,7 @@ void WriteGlobalMap(JetPageSet &pages, quint32 address) {
 
 QByteArray WriteJetFile(const FixtureFile &file) {
   JetPageSet pages;
-  WriteHeader(pages.At(pages.Append()), file.fileKey);
+  WriteHeader(pages.At(pages.Append()), file);
   pages.AppendRowPage(1);
   const quint32 global = pages.AddUsageMap(1);
   pages.AddUsageMap(1);
