@@ -43,6 +43,7 @@
     dirty = false;
     pushedPoints = velor.selection.points();
     lastPush = performance.now();
+    velor.overlay.follow();
   };
 
   // After a rest the push follows as soon as the work at hand is done, so that the toolbar does not
@@ -87,6 +88,8 @@
     velor.listenToKeys();
     velor.listenToClipboard();
     velor.listenToPointer();
+    velor.overlay.start();
+    velor.listenToGestures();
     velor.setDetails(Boolean(options.showDetails));
     velor.setSnap(Boolean(options.snapToGrid));
     velor.contentChanged();
