@@ -50,11 +50,12 @@
 
   // The handle at a place ('nw' ... 'se'), 'move' inside a box that can be moved, or ''.
   velor.gripAt = (object, { clientX, clientY }) => {
+    const { left, top, right, bottom } = object.getBoundingClientRect();
+    if (left === right || top === bottom) return '';
     const near = handle / 2 + reach;
     const hit = handlePlaces(frameOf(object)).find(([, x, y]) =>
       Math.abs(clientX - x) <= near && Math.abs(clientY - y) <= near);
     if (hit) return hit[0];
-    const { left, top, right, bottom } = object.getBoundingClientRect();
     const inside = clientX >= left && clientX < right && clientY >= top && clientY < bottom;
     return inside && velor.objects.isMovable(object) ? 'move' : '';
   };

@@ -38,7 +38,7 @@
     return null;
   }
 
-  const closed = 'IFRAME, OBJECT, EMBED, APPLET';
+  const closed = 'IFRAME, OBJECT, EMBED, APPLET, VIDEO, AUDIO';
   const holds = ({ clientX: x, clientY: y }) => (element) => {
     const { left, top, right, bottom } = element.getBoundingClientRect();
     return x >= left && x < right && y >= top && y < bottom;

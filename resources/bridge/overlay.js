@@ -10,7 +10,7 @@
   const sheet = new CSSStyleSheet();
   // What lies inside these is another page's or program's: the pointer shall meet the object.
   sheet.replaceSync('html::before {} html::after {}' +
-    ' iframe, object, embed, applet { pointer-events: none !important; }');
+    ' iframe, object, embed, applet, video, audio { pointer-events: none !important; }');
   const styles = { details: sheet.cssRules[0].style, frame: sheet.cssRules[1].style };
   const drawn = {};
 
