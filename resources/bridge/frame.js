@@ -75,6 +75,11 @@
     redraw();
   };
 
+  // The tint of a selected picture would hide it, and its frame tells enough. A rule for pictures
+  // alone: one for all elements would have a large page styled anew.
+  const tintless = new CSSStyleSheet();
+  tintless.replaceSync('img::selection { background: transparent !important }');
+
   const watched = new ResizeObserver(() => velor.overlay.follow());
   let subject = null;
   function watch(object) {
@@ -87,6 +92,7 @@
   function redraw() {
     const object = velor.objects.selected();
     watch(object);
+    velor.adopt(tintless, object?.tagName === 'IMG');
     if (!object) {
       pointing = '';
       velor.overlay.clear('frame');

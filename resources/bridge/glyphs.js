@@ -8,6 +8,7 @@
 
   const most = 4000;  // nodes looked at for one drawing
   const height = 12;  // pixels
+  const overlap = 3;  // pixels of a badge that lie on its line
 
   const picture = (width, content) => {
     const svg = `<svg xmlns="http://www.w3.org/2000/svg" width="${width}" height="${height}">` +
@@ -51,7 +52,7 @@
     if (sign !== signs.break) {
       // Above the line that it stands before, so that the text can be read.
       const { x, y } = placeOf(node);
-      return { ...sign, x, y: Math.max(-scrollY, y - height / 2) };
+      return { ...sign, x, y: Math.max(-scrollY, y + overlap - height) };
     }
     const box = node.getClientRects()[0];
     return box && { ...sign, x: box.left, y: box.top + (box.height - height) / 2 };
