@@ -43,12 +43,12 @@
     dirty = false;
     pushedPoints = velor.selection.points();
     lastPush = performance.now();
-    velor.overlay.follow();
   };
 
   // After a rest the push follows as soon as the work at hand is done, so that the toolbar does not
   // lag a frame behind the key; then one an animation frame at most. A hidden page has no frames.
   velor.schedulePush = () => {
+    velor.overlay.follow();
     if (waiting) return;
     waiting = true;
     const rested = performance.now() - lastPush > frame;

@@ -43,7 +43,7 @@
   }
   function gridLayers({ x, y }) {
     const line = (way) =>
-      `linear-gradient(${way}, rgba(26, 95, 180, 0.35) 1px, transparent 1px)`;
+      `linear-gradient(${way}, rgba(26, 95, 180, 0.25) 1px, transparent 1px)`;
     const size = { width: velor.gridStep, height: velor.gridStep, repeat: 'repeat' };
     return ['to right', 'to bottom'].map((way) => ({ image: line(way), x, y, ...size }));
   }

@@ -103,7 +103,8 @@
       preview: null };
   }
 
-  // A picture in the text can be dragged to another place in it, which the engine does.
+  // A picture in the text can be dragged to another place in it, which the engine does; a click
+  // selects it.
   const dragsByEngine = (object) => object.tagName === 'IMG' && !velor.objects.isMovable(object);
 
   function press(event) {
@@ -114,8 +115,8 @@
     const grip = selected && velor.gripAt(selected, event);
     const object = grip ? selected : velor.objects.at(event);
     if (!object) return;
+    if (!grip && event.button === 0 && dragsByEngine(object)) return;
     velor.selection.selectNode(object);
-    if (!grip && dragsByEngine(object)) return;
     taken = true;
     event.preventDefault();
     document.body.focus({ preventScroll: true });
