@@ -207,6 +207,23 @@ TEST_F(Objects, AFirstClickSelectsABoxAndASecondOneEntersIt) {
   EXPECT_EQ(Selected(), QString());
 }
 
+TEST_F(Objects, ThePointerLooksLikeTheGripThatItIsOver) {
+  Load(QString::fromLatin1(box));
+  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('div'))"));
+  const auto looks = [this](QPoint place, const QString &cursor) {
+    page_.Move(place);
+    return Comes(
+        QStringLiteral("{ const style = getComputedStyle(document.documentElement,"
+                       "  '::after');"
+                       "  (style.pointerEvents === 'none' ? 'text' : style.cursor) === '%1' }")
+            .arg(cursor));
+  };
+  EXPECT_TRUE(looks({360, 180}, QStringLiteral("se-resize")));
+  EXPECT_TRUE(looks({285, 120}, QStringLiteral("n-resize")));
+  EXPECT_TRUE(looks({280, 150}, QStringLiteral("move")));
+  EXPECT_TRUE(looks({600, 400}, QStringLiteral("text")));
+}
+
 TEST_F(Objects, ABoxIsMovedByDraggingInOneStep) {
   Load(QString::fromLatin1(box));
   Drag({250, 150}, {287, 133});

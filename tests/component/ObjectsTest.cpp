@@ -71,6 +71,7 @@ TEST_F(ObjectsOfThePage, HandlesAndGlyphsAreNeverInTheDocument) {
 
 TEST_F(ObjectsOfThePage, ADragIsOneUndoStepAndChangesOnlyTheElementsStyleInTheFile) {
   editor_->SetSnapToGrid(true);
+  ASSERT_TRUE(WaitFor([this] { return Evaluate(QStringLiteral("velor.snapToGrid")).toBool(); }));
   Drag({250, 150}, {283, 190});
   ASSERT_TRUE(WaitFor([this] {
     return Selection()
@@ -108,23 +109,6 @@ TEST_F(ObjectsOfThePage, CommandsOnTextAreOffForAnObjectAndCuttingItIsOn) {
   EXPECT_FALSE(DocumentHolds(QStringLiteral("<div")));
   Exec(EditingCommand::Undo);
   EXPECT_EQ(Saved(), page);
-}
-
-TEST_F(ObjectsOfThePage, APointerOverAHandleLooksLikeItAndAMoveIsStillTold) {
-  QTest::mouseClick(Input(), Qt::LeftButton, Qt::NoModifier, {250, 150});
-  ASSERT_TRUE(BoxIsSelected());
-  const auto cursorOver = [this](QPoint place, Qt::CursorShape shape) {
-    Send(QEvent::MouseMove, place - QPoint(1, 0), Qt::NoButton, Qt::NoButton);
-    return WaitFor([=, this] {
-      Send(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
-      return Input()->cursor().shape() == shape;
-    });
-  };
-  EXPECT_TRUE(cursorOver({360, 180}, Qt::SizeFDiagCursor));
-  EXPECT_TRUE(cursorOver({360, 150}, Qt::SizeHorCursor));
-  EXPECT_TRUE(cursorOver({280, 150}, Qt::SizeAllCursor));
-  EXPECT_TRUE(cursorOver({700, 500}, Qt::IBeamCursor));
-  EXPECT_TRUE(WaitFor([this] { return listener_.mouse == QPoint(700, 500); }));
 }
 
 }  // namespace
