@@ -12,7 +12,7 @@
   const isMovable = (node) => dom.isElement(node) && node !== document.body &&
     /^(absolute|fixed)$/.test(getComputedStyle(node).position);
   // Those that text is typed in; they are entered by a second click.
-  const isBox = (node) => isMovable(node) && !dom.isAtom(node) && node.tagName !== 'TABLE';
+  const isBox = (node) => isMovable(node) && !dom.isAtom(node);
 
   const edge = 2;      // pixels within a box's border that still count as its border
   const outerEdge = 4; // and around a table, whose border may have no width at all

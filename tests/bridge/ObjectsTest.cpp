@@ -428,6 +428,49 @@ TEST_F(Objects, AreCutAndCopiedAsWholes) {
   }));
 }
 
+TEST_F(Objects, HandlesAreWhereTheyAreDrawnWhenThePageIsZoomed) {
+  Load(QStringLiteral("<img style=\"display: block\" width=\"100\" height=\"50\" alt=\"\">"));
+  page_.Engine().setZoomFactor(2);
+  ASSERT_TRUE(Comes(QStringLiteral("innerWidth === 400")));
+  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  ASSERT_TRUE(FrameComesAround(QStringLiteral("img")));
+  Drag({200, 100}, {300, 110});
+  EXPECT_TRUE(BecomesBody(
+      QStringLiteral("<img style=\"display: block\" width=\"150\" height=\"75\" alt=\"\">")))
+      << qPrintable(Body());
+  page_.Engine().setZoomFactor(1);
+}
+
+TEST_F(Objects, APlacedTableIsEnteredByASecondClick) {
+  Load(
+      QStringLiteral("<p>one</p><table style='position: absolute; left: 100px; top: 100px' "
+                     "width='200' height='100'><tbody><tr><td>cell</td></tr></tbody></table>"));
+  page_.Click({110, 150});
+  ASSERT_TRUE(BecomesSelected(QStringLiteral("TABLE")));
+  page_.Click({110, 150});
+  EXPECT_TRUE(Comes(QStringLiteral("getSelection().anchorNode.data === 'cell'")));
+}
+
+TEST_F(Objects, APictureMapIsItsPicture) {
+  Load(
+      QStringLiteral("<img usemap='#m' width='100' height='100' alt=''>"
+                     "<map name='m'><area shape='rect' coords='0,0,100,100' href='x'></map>"));
+  page_.Click({50, 50});
+  EXPECT_TRUE(BecomesSelected(QStringLiteral("IMG")));
+}
+
+TEST_F(Objects, ABlockThatIsPlacedInTheFlowIsSelectedAtItsEdgeOnly) {
+  Load(
+      QStringLiteral("<p>one</p><div style='position: relative; margin: 50px; padding: 20px'>text"
+                     "</div>"));
+  const int top =
+      Evaluate(QStringLiteral("document.querySelector('div').getBoundingClientRect().top")).toInt();
+  page_.Click({75, top + 25});
+  ASSERT_TRUE(Comes(QStringLiteral("getSelection().anchorNode.data === 'text'")));
+  page_.Click({51, top + 25});
+  EXPECT_TRUE(BecomesSelected(QStringLiteral("DIV")));
+}
+
 TEST_F(Objects, TypingReplacesASelectedTableAsAWhole) {
   Load(QStringLiteral("<p>one|</p><table><tbody><tr><td>x</td></tr></tbody></table><p>two</p>"));
   page_.Press(QKeySequence(Qt::SHIFT | Qt::Key_Right));

@@ -126,7 +126,7 @@ def objects(photos):
 
     def at(x, y):
         """A place of the page on the screen."""
-        return int(place.x + x * photos.factor), int(place.y + y * photos.factor)
+        return int((place.x + x) * photos.factor), int((place.y + y) * photos.factor)
 
     def select(x, y, tag):
         program.click(*at(x, y))
@@ -149,6 +149,7 @@ def objects(photos):
     page = program.wait(os.path.basename(path), "frame")
     program.press("Show Detail", within=page)
     photos.away()
+    wait_for(lambda: program.colour(*at(40.5, 167)) != program.colour(*at(900, 400)), "the details")
     photos.shot("details")
 
 
