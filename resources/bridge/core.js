@@ -48,6 +48,7 @@
   // After a rest the push follows as soon as the work at hand is done, so that the toolbar does not
   // lag a frame behind the key; then one an animation frame at most. A hidden page has no frames.
   velor.schedulePush = () => {
+    velor.overlay.follow();
     if (waiting) return;
     waiting = true;
     const rested = performance.now() - lastPush > frame;
@@ -87,6 +88,8 @@
     velor.listenToKeys();
     velor.listenToClipboard();
     velor.listenToPointer();
+    velor.overlay.start();
+    velor.listenToGestures();
     velor.setDetails(Boolean(options.showDetails));
     velor.setSnap(Boolean(options.snapToGrid));
     velor.contentChanged();

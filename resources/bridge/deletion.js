@@ -177,7 +177,7 @@
     if (object) {
       const { parentNode } = object;
       const block = dom.blockOf(parentNode);
-      const index = range.startOffset;
+      const index = velor.selection.indexOf(object);
       object.remove();
       holdOpen(block);
       velor.selection.setCaret(parentNode, Math.min(index, parentNode.childNodes.length));

@@ -19,6 +19,9 @@
   const atoms = set(
     'APPLET AUDIO BUTTON CANVAS EMBED HR IFRAME IMG INPUT ISINDEX MARQUEE METER OBJECT PROGRESS ' +
     'SELECT TEXTAREA VIDEO');
+  // Selected as wholes, like boxes with a place of their own.
+  const objects = set(
+    'APPLET AUDIO BUTTON CANVAS EMBED HR IFRAME IMG INPUT MARQUEE OBJECT SELECT TABLE TEXTAREA VIDEO');
   const unseen = set('BASE HEAD LINK META NOFRAMES NOSCRIPT PARAM SCRIPT STYLE TEMPLATE TITLE');
 
   const isElement = (node) => node?.nodeType === Node.ELEMENT_NODE;
@@ -29,6 +32,12 @@
   const isIsland = (node) => node.getAttribute('contenteditable')?.toLowerCase() === 'false';
   const isAtom = (node) =>
     isElement(node) && (atoms.has(node.tagName) || node.tagName === 'svg' || isIsland(node));
+  function isObject(node) {
+    if (!isElement(node) || node === document.body) return false;
+    if (objects.has(node.tagName)) return true;
+    const { position, display } = getComputedStyle(node);
+    return position !== 'static' && !/^(inline|table-.*|contents|none)$/.test(display);
+  }
   const isBreak = (node) => isElement(node) && node.tagName === 'BR';
   const isNeutral = (node) => !isText(node) && (!isElement(node) || unseen.has(node.tagName));
   const isInline = (node) => isElement(node) && !isBlock(node) && !isNeutral(node);
@@ -181,7 +190,7 @@
   }
 
   velor.dom = {
-    isElement, isText, isBlock, isAtom, isBreak, isNeutral, isInline, isBlank, isIgnorable, isShown,
+    isElement, isText, isBlock, isAtom, isObject, isBreak, isNeutral, isInline, isBlank, isIgnorable, isShown,
     isPlainDivision, writesStyles,
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),

@@ -87,6 +87,17 @@
     if (!element.getAttribute('style')) element.removeAttribute('style');
   }
 
+  // Sets one declaration and leaves the others as they are written.
+  function putDeclaration(element, property, value) {
+    const all = declarations(element);
+    const last = all.findLastIndex(isOf(property));
+    const written = `${property}: ${value}`;
+    const end = /;\s*$/.test(element.getAttribute('style') ?? '') ? ';' : '';
+    if (last >= 0) all[last] = /^\s*/.exec(all[last])[0] + written;
+    else all.push((all.length ? ' ' : '') + written);
+    element.setAttribute('style', all.filter((each) => each.trim()).join(';') + end);
+  }
+
   // read(element): the value of text in it. tags: elements that are nothing but the format.
   // attribute: FONT's, with a value's spelling there. property: of an inline style, with a value's
   // spelling there. write(value): the element to put around text.
@@ -179,4 +190,5 @@
 
   velor.formats = formats;
   velor.takeDeclaration = takeDeclaration;
+  velor.putDeclaration = putDeclaration;
 })();

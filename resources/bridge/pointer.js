@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The pointer: its place goes to the program, and a click on an object selects it.
+// The pointer: its place goes to the program.
 (() => {
   'use strict';
   const { velor } = globalThis;
@@ -26,18 +26,8 @@
     tell();
   }
 
-  const objects = 'IMG, HR, OBJECT, EMBED, APPLET, IFRAME, VIDEO, AUDIO, ' +
-    'INPUT, BUTTON, SELECT, TEXTAREA';
-  function clicked({ target }) {
-    if (!velor.editable() || !(target instanceof Element)) return;
-    // A table itself is hit only on its border, outside its cells.
-    const object = target.tagName === 'TABLE' ? target : target.closest(objects);
-    if (object) velor.selection.selectNode(object);
-  }
-
   velor.listenToPointer = () => {
     document.addEventListener('mousemove', moved, true);
     document.addEventListener('mousedown', pressed, true);
-    document.addEventListener('click', clicked, true);
   };
 })();

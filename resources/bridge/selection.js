@@ -7,8 +7,6 @@
 
   // States of longer selections are judged by their first texts.
   const textLimit = 2000;
-  const controls = new Set(['APPLET', 'EMBED', 'HR', 'IFRAME', 'IMG', 'INPUT', 'OBJECT', 'SELECT',
-    'TABLE', 'TEXTAREA', 'VIDEO', 'AUDIO', 'BUTTON', 'MARQUEE']);
 
   // The inside of an island that is closed to editing is no place for a command.
   function isClosed(node) {
@@ -26,12 +24,31 @@
     return isClosed(commonAncestorContainer) ? null : selected;
   }
 
-  // The one object that the range holds, else null.
+  // A place outwards from where it is, as long as nothing lies between.
+  function outwards(node, offset, isAtEdge, step) {
+    while (node !== document.body && isAtEdge(node, offset)) {
+      offset = indexOf(node) + step;
+      node = node.parentNode;
+    }
+    return [node, offset];
+  }
+
+  // The one object that the range holds and nothing else, else null.
   function control(selected) {
-    if (!selected || selected.startContainer !== selected.endContainer) return null;
-    if (selected.endOffset !== selected.startOffset + 1) return null;
-    const node = selected.startContainer.childNodes[selected.startOffset];
-    return isElement(node) && controls.has(node.tagName) ? node : null;
+    if (!selected || selected.collapsed) return null;
+    const { startContainer, startOffset, endContainer, endOffset } = selected;
+    const [start, from] = outwards(startContainer, startOffset,
+      (node, offset) => offset === length(node), 1);
+    const [end, to] = outwards(endContainer, endOffset, (node, offset) => offset === 0, 0);
+    if (start !== end || isText(start)) return null;
+    const stop = start.childNodes[to] ?? null;
+    let only = null;
+    for (let node = start.childNodes[from]; node && node !== stop; node = node.nextSibling) {
+      if (!velor.dom.isShown(node)) continue;
+      if (only) return null;
+      only = node;
+    }
+    return only && velor.dom.isObject(only) ? only : null;
   }
 
   function selectNode(node) {

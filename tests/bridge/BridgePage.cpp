@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/bridge/BridgePage.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QFile>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -124,6 +126,21 @@ void BridgePage::Press(const QKeySequence &key) {
 
 void BridgePage::Click(QPoint place) {
   QTest::mouseClick(view_.focusProxy(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void BridgePage::Button(QEvent::Type type, QPoint place, Qt::KeyboardModifiers modifiers) {
+  QWidget *input = view_.focusProxy();
+  const bool isPress = type == QEvent::MouseButtonPress;
+  QMouseEvent event(type, place, input->mapToGlobal(place), Qt::LeftButton,
+                    isPress ? Qt::LeftButton : Qt::NoButton, modifiers);
+  QCoreApplication::sendEvent(input, &event);
+}
+
+void BridgePage::Move(QPoint place, Qt::MouseButtons held, Qt::KeyboardModifiers modifiers) {
+  QWidget *input = view_.focusProxy();
+  QMouseEvent event(QEvent::MouseMove, place, input->mapToGlobal(place), Qt::NoButton, held,
+                    modifiers);
+  QCoreApplication::sendEvent(input, &event);
 }
 
 }  // namespace velor

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QEvent>
 #include <QKeySequence>
 #include <QString>
 #include <QVariant>
@@ -25,6 +26,10 @@ class BridgePage {
   void Press(const QKeySequence &key);
   /// A click of the left button at a place in CSS pixels.
   void Click(QPoint place);
+  /// A press or release of the left button.
+  void Button(QEvent::Type type, QPoint place, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  void Move(QPoint place, Qt::MouseButtons held = Qt::NoButton,
+            Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   QWebEnginePage &Engine() { return *view_.page(); }
 
  private:

@@ -33,8 +33,8 @@ class Pasting : public WebEditorTest {
   }
   /// The body's markup without white space between tags.
   std::string Body() {
-    // What waits behind a key or a click still on its way is carried out before the document is read.
-    (void)editor_->DocumentHTML();
+    // The component reads behind what is on its way to the page; this test's own look would not.
+    editor_->DocumentHTML();
     QString body = Evaluate(QStringLiteral("document.body.innerHTML")).toString();
     return body.replace(QRegularExpression(QStringLiteral(">\\s+<")), QStringLiteral("><"))
         .trimmed()

@@ -11,7 +11,7 @@ import sys
 import tempfile
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tour"))
-from desktop import Program, TourError, wait_for  # noqa: E402
+from desktop import Atspi, Program, TourError, wait_for  # noqa: E402
 
 
 class Photographer:
@@ -100,6 +100,70 @@ def main_window(photos):
     photos.popup(lambda: photos.click("Normal", "combo box"), "combo-list")
 
 
+OBJECTS = """<!DOCTYPE html PUBLIC "-//W3C//DTD HTML 4.01 Transitional//EN">
+<html><head><title>Objects</title></head><body>
+<img alt="Picture" width="160" height="100" style="position: absolute; left: 40px; top: 20px"
+src="data:image/svg+xml,%3Csvg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 16 10'%3E%3Crect
+ width='16' height='10' fill='%23cfe3c2'/%3E%3Cpath d='M0 10L5 3l4 5 3-3 4 5' fill='%235b8c5a'/%3E%3C/svg%3E">
+<table cellpadding="6" width="300" style="position: absolute; left: 240px; top: 20px">
+<tr><td>Apples</td><td>12</td></tr><tr><td>Pears</td><td>7</td></tr></table>
+<div style="position: absolute; left: 600px; top: 20px; width: 200px; height: 100px; background:
+ #f4ead2">A box with a place of its own</div>
+<div style="position: absolute; left: 40px; top: 160px; width: 700px">
+<h2><a name="top"></a>Details</h2><!-- a comment -->
+<p>A line<br>and another, <!-- inside -->with a comment.</p><script>var x = 1;</script>
+<p>A paragraph.</p><p>Another one.</p>
+<form action="x"><p><input value="A field"> <input type="submit" value="Send"></p></form></div>
+</body></html>
+"""
+
+
+def objects(photos):
+    """Selected objects with their handles, a box on its way over the grid, and the details."""
+    program = photos.program
+    path = os.path.join(program.folder, "objects.htm")
+    with open(path, "w", encoding="utf-8") as page:
+        page.write(OBJECTS)
+    program.key("ctrl+o")
+    dialog = program.wait(None, "dialog|file chooser")
+    wait_for(lambda: program.has_state(program.wait(role="text", within=dialog),
+                                       Atspi.StateType.FOCUSED), "the name box's focus")
+    program.key("ctrl+a")
+    program.type(path)
+    program.key("Return")
+    program.wait(os.path.basename(path), "page tab")
+    view = program.wait(role="document web")
+    place = Atspi.Component.get_extents(view, Atspi.CoordType.SCREEN)
+
+    def at(x, y):
+        """A place of the page on the screen."""
+        return int((place.x + x) * photos.factor), int((place.y + y) * photos.factor)
+
+    def select(x, y, tag):
+        program.click(*at(x, y))
+        program.wait(tag)
+
+    select(100, 60, "IMG")
+    photos.shot("picture")
+    select(241, 40, "TABLE")
+    photos.shot("table")
+    select(700, 60, "DIV")
+    photos.shot("box")
+    program.hold(*at(700, 60))
+    program.move(*at(660, 90))
+    program.move(*at(640, 110))
+    edge = at(550.5, 75)
+    wait_for(lambda: program.colour(*edge) != program.colour(*at(560, 75)), "the box on the grid")
+    photos.shot("box-on-grid")
+    program.release()
+    program.key("ctrl+z")
+    page = program.wait(os.path.basename(path), "frame")
+    program.press("Show Detail", within=page)
+    photos.away()
+    wait_for(lambda: program.colour(*at(40.5, 167)) != program.colour(*at(900, 400)), "the details")
+    photos.shot("details")
+
+
 def dialogs(photos):
     program = photos.program
 
@@ -147,7 +211,7 @@ def main(run_folder, out, palette, scale):
                           {"VELOR_PALETTE": palette, "QT_SCALE_FACTOR": str(factor)})
         photos = Photographer(program, f"{palette}-{scale}-{name}", factor)
         try:
-            if main_window in scenes:
+            if start_up not in scenes:
                 program.size_window(int(1280 * factor), int(820 * factor))
             for scene in scenes:
                 scene(photos)
@@ -160,6 +224,7 @@ def main(run_folder, out, palette, scale):
 
     session("start", ("eImages",), start_up)
     session("main", (), main_window, dialogs, modes)
+    session("objects", (), objects)
 
 
 if __name__ == "__main__":

@@ -45,6 +45,7 @@ class Program:
 
     def __init__(self, executable, program_folder, settings_folder, shots, environment=None):
         self.shots = shots
+        self.folder = program_folder
         os.makedirs(shots, exist_ok=True)
         env = dict(os.environ)
         env.update({
@@ -160,6 +161,12 @@ class Program:
     def button(self, number):
         run("xdotool", "click", str(number))
 
+    def hold(self, x, y):
+        run("xdotool", "mousemove", str(x), str(y), "mousedown", "1")
+
+    def release(self):
+        run("xdotool", "mouseup", "1")
+
     def hover(self, node):
         """Puts the pointer on a control, where a person would."""
         place = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
@@ -194,6 +201,10 @@ class Program:
         path = os.path.join(self.shots, name + ".png")
         run("import", "-window", "root", path)
         return path
+
+    def colour(self, x, y):
+        """What the screen shows at a place."""
+        return run("import", "-window", "root", "-crop", f"1x1+{x}+{y}", "-depth", "8", "txt:-")
 
     # The end.
     def wait_end(self):

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Objects: what is selected, sized and moved as a whole. Which one a place of the page means, how
+// large it is and where, and how a new size and place are written the way the page has them.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const dom = velor.dom;
+
+  const selected = () => velor.selection.control(velor.selection.range());
+
+  // Boxes that are moved about: those with a place of their own, outside the flow.
+  const isMovable = (node) => dom.isElement(node) && node !== document.body &&
+    /^(absolute|fixed)$/.test(getComputedStyle(node).position);
+  // Those that text is typed in; they are entered by a second click.
+  const isBox = (node) => isMovable(node) && !dom.isAtom(node);
+
+  const edge = 2;      // pixels within a box's border that still count as its border
+  const outerEdge = 4; // and around a table, whose border may have no width at all
+  function isAtEdge(node, { clientX: x, clientY: y }) {
+    const { left, top, right, bottom } = node.getBoundingClientRect();
+    const distance = Math.min(x - left, right - x, y - top, bottom - y);
+    return distance >= -outerEdge && distance <= edge + Math.max(node.clientLeft, node.clientTop);
+  }
+
+  // The box that the person went into: clicks there place the caret.
+  let entered = null;
+  const isEntered = (node) => node === entered && node.contains(document.getSelection().anchorNode);
+
+  function meant(node, place) {
+    for (let at = node; at && at !== document.body; at = at.parentElement) {
+      if (at.tagName === 'TABLE' || isMovable(at)) {
+        if (at === node && at.tagName === 'TABLE' || isAtEdge(at, place)) return at;
+        if (!isMovable(at)) continue;
+        return isEntered(at) ? null : at;
+      }
+      if (dom.isObject(at) && (dom.isAtom(at) || isAtEdge(at, place))) return at;
+    }
+    return null;
+  }
+
+  const closed = 'IFRAME, OBJECT, EMBED, APPLET, VIDEO, AUDIO';
+  const holds = ({ clientX: x, clientY: y }) => (element) => {
+    const { left, top, right, bottom } = element.getBoundingClientRect();
+    return x >= left && x < right && y >= top && y < bottom;
+  };
+
+  // The object that a mouse event means; null for text.
+  function at(event) {
+    const { target, clientX: x, clientY: y } = event;
+    if (!velor.editable() || !(target instanceof Element)) return null;
+    const inside = [...document.querySelectorAll(closed)].filter(holds(event)).at(-1);
+    if (inside) return inside;
+    if (target.tagName === 'AREA') {
+      const name = target.closest('MAP')?.name ?? '';
+      const image = document.querySelector(`img[usemap="#${CSS.escape(name)}"]`);
+      if (image) return image;
+    }
+    const found = meant(target, event);
+    if (found) return found;
+    for (const [dx, dy] of [[outerEdge, 0], [-outerEdge, 0], [0, outerEdge], [0, -outerEdge]]) {
+      const table = document.elementFromPoint(x + dx, y + dy)?.closest('TABLE');
+      if (table && !table.contains(target) && isAtEdge(table, event)) return table;
+    }
+    return null;
+  }
+
+  // Puts the caret into a box, to the place that was clicked.
+  function enter(box, { clientX, clientY }) {
+    const place = document.caretRangeFromPoint(clientX, clientY);
+    const inside = place && box.contains(place.startContainer);
+    entered = box;
+    velor.selection.setCaret(...(inside ? [place.startContainer, place.startOffset] : [box, 0]));
+  }
+  // Whoever types in a box is in it.
+  function typed() {
+    entered = dom.ancestor(document.getSelection().anchorNode, isBox);
+  }
+
+  const number = (text) => parseFloat(text) || 0;
+
+  // What an object is before it is changed; a change is told against it. In pixels.
+  function measure(object) {
+    const style = getComputedStyle(object);
+    const given = object.computedStyleMap();
+    const isAuto = (property) => String(given.get(property)) === 'auto';
+    const sum = (...properties) =>
+      (style.boxSizing === 'border-box' ? 0
+        : properties.reduce((all, each) => all + number(style.getPropertyValue(each)), 0));
+    const rect = object.getBoundingClientRect();
+    const places = ['left', 'top', 'right', 'bottom'].map((side) => [side, number(style[side])]);
+    return {
+      rect, width: rect.width, height: rect.height, movable: isMovable(object),
+      ...Object.fromEntries(places),
+      // Where the grid of its coordinates begins, in the viewport.
+      origin: { x: rect.left - number(style.left) - number(style.marginLeft),
+        y: rect.top - number(style.top) - number(style.marginTop) },
+      fromRight: isAuto('left') && !isAuto('right'),
+      fromBottom: isAuto('top') && !isAuto('bottom'),
+      autoWidth: isAuto('width'), autoHeight: isAuto('height'),
+      keepsShape: /^(IMG|VIDEO|CANVAS)$/.test(object.tagName),
+      aroundWidth: sum('padding-left', 'padding-right', 'border-left-width', 'border-right-width'),
+      aroundHeight: sum('padding-top', 'padding-bottom', 'border-top-width', 'border-bottom-width'),
+    };
+  }
+
+  // The properties that a change comes to. `dx` and `dy` move the left upper corner; `width` and
+  // `height` are there where they change and count the border in.
+  function properties(before, { dx = 0, dy = 0, width, height }) {
+    const changed = {};
+    if (width !== undefined) changed.width = width - before.aroundWidth;
+    if (height !== undefined) changed.height = height - before.aroundHeight;
+    if (!before.movable) return changed;
+    const farX = dx + (width ?? before.width) - before.width;
+    const farY = dy + (height ?? before.height) - before.height;
+    if (before.fromRight ? farX : dx) {
+      Object.assign(changed, before.fromRight
+        ? { right: before.right - farX } : { left: before.left + dx });
+    }
+    if (before.fromBottom ? farY : dy) {
+      Object.assign(changed, before.fromBottom
+        ? { bottom: before.bottom - farY } : { top: before.top + dy });
+    }
+    return changed;
+  }
+
+  const withAttributes = new Set(['APPLET', 'CANVAS', 'EMBED', 'HR', 'IFRAME', 'IMG', 'MARQUEE',
+    'OBJECT', 'TABLE', 'VIDEO']);
+
+  // A size in percent stays one.
+  const spelled = (old, pixels, growth) =>
+    (/%\s*$/.test(old) ? `${Math.max(1, Math.round(parseFloat(old) * growth))}%` : pixels);
+
+  // Where the page has a style for a size, that is changed, and an attribute that is there too;
+  // where it has neither, the object's attribute is used if there is such a one.
+  function writeSize(object, property, pixels, growth) {
+    const rule = object.tagName === 'HR' && property === 'height';
+    const attribute = rule ? 'size' : property;
+    const styled = object.style.getPropertyValue(property);
+    const hasAttribute = object.hasAttribute(attribute);
+    const size = Math.max(0, Math.round(pixels));
+    if (styled) velor.putDeclaration(object, property, spelled(styled, `${size}px`, growth));
+    if (hasAttribute || !styled && withAttributes.has(object.tagName)) {
+      // A rule's size counts its border in.
+      const told = rule ? size + 2 : size;
+      object.setAttribute(attribute, spelled(object.getAttribute(attribute), `${told}`, growth));
+    } else if (!styled) {
+      velor.putDeclaration(object, property, `${size}px`);
+    }
+  }
+
+  function write(object, before, change) {
+    const changed = properties(before, change);
+    for (const [property, pixels] of Object.entries(changed)) {
+      if (property === 'width' || property === 'height') {
+        writeSize(object, property, pixels, change[property] / before[property]);
+      } else {
+        velor.putDeclaration(object, property, `${Math.round(pixels)}px`);
+      }
+    }
+  }
+
+  velor.objects = {
+    selected, isMovable, isBox, at, enter, typed, measure, properties, write,
+  };
+})();

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Drawing over the page: pictures that lie on two pseudo-elements of the root, given by a style
+// sheet that hangs on the document but is no part of it. Nothing drawn is a node, so there is
+// nothing of it in a mutation record or in the page's text, and the engine scrolls and scales it
+// with the page.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+
+  const sheet = new CSSStyleSheet();
+  // What lies inside these is another page's or program's: the pointer shall meet the object.
+  sheet.replaceSync('html::before {} html::after {}' +
+    ' iframe, object, embed, applet, video, audio { pointer-events: none !important; }');
+  const styles = { details: sheet.cssRules[0].style, frame: sheet.cssRules[1].style };
+  const drawn = {};
+
+  const px = (number) => `${Math.round(number * 100) / 100}px`;
+
+  // Hangs a sheet on the document, or takes it off.
+  velor.adopt = (added, on) => {
+    const has = document.adoptedStyleSheets.includes(added);
+    if (on === has) return;
+    const others = document.adoptedStyleSheets.filter((each) => each !== added);
+    document.adoptedStyleSheets = on ? [...others, added] : others;
+  };
+
+  // Where an absolute pseudo-element of the root counts from, in pixels of the viewport.
+  function origin() {
+    const root = document.documentElement;
+    if (getComputedStyle(root).position === 'static') return { x: -scrollX, y: -scrollY };
+    const { left, top } = root.getBoundingClientRect();
+    return { x: left + root.clientLeft, y: top + root.clientTop };
+  }
+
+  // A box of the viewport as part of the page. It ends where the page does, or it would make the
+  // page longer.
+  function onPage({ left, top, right, bottom }) {
+    const { x, y } = origin();
+    const { scrollWidth, scrollHeight } = document.scrollingElement ?? document.documentElement;
+    return { position: 'absolute', left: px(left - x), top: px(top - y),
+      width: px(Math.max(0, Math.min(right + scrollX, scrollWidth) - left - scrollX)),
+      height: px(Math.max(0, Math.min(bottom + scrollY, scrollHeight) - top - scrollY)) };
+  }
+  const onView = { position: 'fixed', left: '0', top: '0', width: '100%', height: '100%' };
+
+  // A layer is an image with its place in the viewport; the first lies on top.
+  function background(layers, { left, top }) {
+    const each = (read) => layers.map(read).join();
+    return {
+      'background-image': each(({ image }) => image),
+      'background-position': each(({ x, y }) => `${px(x - left)} ${px(y - top)}`),
+      'background-size': each(({ width, height }) => `${px(width)} ${px(height)}`),
+      'background-repeat': each(({ repeat }) => repeat ?? 'no-repeat'),
+    };
+  }
+
+  // Draws on one of the two ('details' lies below 'frame'), in place of what was there. `area` is a
+  // box of the viewport that goes with the page, or 'view' for all of the viewport.
+  function draw(name, area, layers, more = {}) {
+    const inView = area === 'view';
+    const declarations = {
+      all: 'initial', content: '""', display: 'block', 'z-index': '2147483647',
+      'pointer-events': 'none', ...(inView ? onView : onPage(area)),
+      ...background(layers, inView ? { left: 0, top: 0 } : area), ...more,
+    };
+    const text = Object.entries(declarations)
+      .map(([property, value]) => `${property}: ${value} !important`).join('; ');
+    if (drawn[name] === text) return;
+    drawn[name] = text;
+    styles[name].cssText = text;
+  }
+  function clear(name) {
+    if (!drawn[name]) return;
+    drawn[name] = '';
+    styles[name].cssText = '';
+  }
+
+  // What follows the page is drawn anew with the next frame, once, however much happens.
+  const followers = [];
+  let waiting = false;
+  function follow() {
+    if (waiting) return;
+    waiting = true;
+    requestAnimationFrame(() => {
+      waiting = false;
+      followers.forEach((redraw) => redraw());
+    });
+  }
+  const sizes = new ResizeObserver(follow);
+
+  velor.overlay = {
+    draw, clear, follow,
+    add: (redraw) => followers.push(redraw),
+    start() {
+      velor.adopt(sheet, true);
+      document.addEventListener('scroll', follow, true);
+      document.addEventListener('load', follow, true);
+      addEventListener('resize', follow);
+      sizes.disconnect();
+      if (document.body) sizes.observe(document.body);
+    },
+  };
+})();
