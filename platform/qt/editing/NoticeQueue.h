@@ -12,7 +12,7 @@
 namespace velor {
 
 /// What a component has to tell, in the order in which it is told when several wait.
-enum class Notice { LoadEnded, Complete, Display, Pointer, Menu, Report, Travel, Died };
+enum class Notice { LoadEnded, Complete, Display, Memory, Pointer, Menu, Report, Travel, Died };
 
 /// Notices on their way out. They leave by a timer of a millisecond: by then the engine's callback
 /// or the caller that caused them has returned (a shorter way out does not: waiting for the
