@@ -94,6 +94,7 @@ void PageJournal::Write() {
   writing_.stop();
   sinceChange_.invalidate();
   const JournalledPage page = Page();
+  if (hasJournal_ && page.page.document == written_) return;
   if (IsSettled(page.page.document) && !saveFailed_) return Discard();
   if (!Attempt([&] { journal_->Write(page); })) return;
   hasJournal_ = true;

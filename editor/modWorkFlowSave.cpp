@@ -53,6 +53,8 @@ void KeepForeignVersion(EditorContext &context, int number, const QString &path)
 }
 
 void WriteFile(frmMain &window, const QString &path) {
+  // Should the program not live to the end of it, no key is lost.
+  window.Journal().Catch();
   KeepForeignVersion(window.Context(), window.Number(), path);
   window.DHTML1().SaveDocument(path);
   TraceFile(window, path);
