@@ -12,6 +12,7 @@
 #include "platform/Platform.h"
 #include "platform/html/FaithfulPage.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -67,13 +68,13 @@ RecoveryBar::RecoveryBar(EditorContext &context, QWidget *parent)
   setAccessibleName(QStringLiteral("Recovered pages"));
 
   // The letter leads from anywhere in the window to the first page's buttons.
-  caption_ = new QLabel(QStringLiteral("These pages were not sa&ved when the program ended:"));
+  caption_ = new QLabel(QStringLiteral("These pa&ges were not saved when the program ended:"));
   caption_->setObjectName(QStringLiteral("lblRecovery"));
   auto *content = new QWidget;
   content->setObjectName(QStringLiteral("picRecoveryRows"));
   rows_ = new QVBoxLayout(content);
   rows_->setContentsMargins(0, 0, 0, 0);
-  rows_->setSpacing(BarSpacing);
+  rows_->setSpacing(BarMargin);
   scroller_ = new QScrollArea;
   scroller_->setFrameShape(QFrame::NoFrame);
   scroller_->setWidgetResizable(true);
@@ -86,7 +87,7 @@ RecoveryBar::RecoveryBar(EditorContext &context, QWidget *parent)
 
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
-  column->setSpacing(BarSpacing);
+  column->setSpacing(BarMargin);
   column->addWidget(caption_);
   column->addWidget(scroller_);
   hide();
@@ -163,7 +164,7 @@ void RecoveryBar::Discard(QWidget *row, const QString &id) {
 }
 
 void RecoveryBar::RemoveRow(QWidget *row) {
-  const bool hadFocus = row->isAncestorOf(focusWidget());
+  const bool hadFocus = row->isAncestorOf(QApplication::focusWidget());
   rows_->removeWidget(row);
   row->hide();
   row->deleteLater();
