@@ -32,6 +32,7 @@ std::int16_t PageSlots::Grow() {
   }
   Pages.emplace_back();
   records_.emplace_back();
+  traces_.emplace_back();
   ++pageCount_;
   CodeEditors.emplace_back();
   ++codeEditorCount_;
@@ -44,6 +45,10 @@ PageRecord &PageSlots::Record(int number) {
 
 const PageRecord &PageSlots::Record(int number) const {
   return records_[Index(number, pageCount_)];
+}
+
+FileTrace &PageSlots::Trace(int number) {
+  return traces_[Index(number, pageCount_)];
 }
 
 QPointer<frmMain> &PageSlots::Page(int number) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "editor/FileTrace.h"
 #include "editor/PageRecord.h"
 
 #include <QPointer>
@@ -29,6 +30,8 @@ class PageSlots {
   // Slot access by number; SubscriptOutOfRange (9) outside 1 to PageCount.
   PageRecord &Record(int number);
   const PageRecord &Record(int number) const;
+  /// The file that the page was last loaded from or saved to, as it was then.
+  FileTrace &Trace(int number);
   /// Empty before the window is made and after it is gone.
   QPointer<frmMain> &Page(int number);
   QPointer<frmCodeEditor> &CodeEditor(int number);
@@ -37,6 +40,7 @@ class PageSlots {
   std::vector<QPointer<frmMain>> Pages;
   std::vector<QPointer<frmCodeEditor>> CodeEditors;
   std::vector<PageRecord> records_;
+  std::vector<FileTrace> traces_;
   std::int16_t pageCount_ = 0;
   /// The upper bound of CodeEditors; grows in step with PageCount.
   std::int16_t codeEditorCount_ = 0;

@@ -57,6 +57,14 @@ std::optional<QRect> BrowserPlace(QSize inner, int toolBarHeight, int statusBarH
   return QRect(0, toolBarHeight, inner.width(), height);
 }
 
+frmBrowser &PreviewWindow(EditorContext &context) {
+  if (context.preview.isNull()) {
+    context.preview = new frmBrowser(context);
+    context.mainWindow.AdoptWindow(context.preview);
+  }
+  return *context.preview;
+}
+
 frmBrowser::frmBrowser(EditorContext &context)
     : context_(context), browser_(context.platform.components.CreateBrowser(this)) {
   setObjectName(QStringLiteral("frmBrowser"));

@@ -27,6 +27,11 @@ int ProgressPercent(std::int32_t progress, std::int32_t maximum);
 /// None where the window is too low for the bars: the browser then stays where it was.
 std::optional<QRect> BrowserPlace(QSize inner, int toolBarHeight, int statusBarHeight);
 
+class frmBrowser;
+
+/// The one preview window; made, as a child of the main window, when there is none.
+frmBrowser &PreviewWindow(EditorContext &context);
+
 /// The preview: a page as a web browser shows it. Made on first use and then kept; closing hides
 /// it.
 class frmBrowser : public QWidget, public ProgramWindow, private BrowserListener {

@@ -63,7 +63,8 @@ frmMain::frmMain(EditorContext &context, int number)
     : context_(context),
       number_(number),
       component_(context.platform.components.CreateEditingComponent(this)),
-      source_(context.platform.components.CreateSourceControl(this, SourceAccess::View)) {
+      source_(context.platform.components.CreateSourceControl(this, SourceAccess::View)),
+      journal_(context, *component_, number) {
   setObjectName(QStringLiteral("frmMain"));
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowIcon(IconFor(QStringLiteral("page")));
@@ -203,9 +204,11 @@ void frmMain::closeEvent(QCloseEvent *event) {
 
 void frmMain::DocumentComplete() {
   context_.mainWindow.ShowTextForm(component_->TextForm());
+  journal_.Follow();
   if (PendingAction != QStringLiteral("gethtml")) return;
   // A load completes right after its page is made, so that the slot made last is this page's.
   context_.pages.Record(context_.pages.PageCount()).SavedHTML = component_->DocumentHTML();
+  journal_.Settle();
   PendingAction.clear();
 }
 
@@ -213,6 +216,10 @@ void frmMain::DisplayChanged() {
   if (Ready != QStringLiteral("True")) return;
   RefreshMfrm();
   DynaLink();
+}
+
+void frmMain::MemoryChanged() {
+  journal_.Follow();
 }
 
 void frmMain::ContextMenuRequested(QPoint screenPosition) {

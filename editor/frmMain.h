@@ -3,6 +3,7 @@
 
 #include "chrome/ProgramWindow.h"
 #include "editor/EditorContext.h"
+#include "editor/PageJournal.h"
 #include "editor/PageRecord.h"
 #include "editor/SourceCaret.h"
 #include "platform/EditingComponent.h"
@@ -44,6 +45,7 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   EditingComponent &DHTML1() { return *component_; }
   SourceControl &Code1() { return *source_; }
   EditorContext &Context() { return context_; }
+  PageJournal &Journal() { return journal_; }
 
   /// 1 design, 2 view HTML, 3 edit HTML, 4 preview; anything else does nothing.
   void ChangeMode(std::int32_t mode);
@@ -81,6 +83,7 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
  private:
   void DocumentComplete() override;
   void DisplayChanged() override;
+  void MemoryChanged() override;
   void ContextMenuRequested(QPoint screenPosition) override;
   void MouseNotified(int clientX, int clientY) override;
   void ComponentReported(const QString &message) override;
@@ -102,6 +105,7 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   const int number_;
   std::unique_ptr<EditingComponent> component_;
   std::unique_ptr<SourceControl> source_;
+  PageJournal journal_;
   SourceCaret shownCaret_;  ///< where the source view's caret was put
   QToolBar *tbrQuick = nullptr;
   QStackedLayout *views_ = nullptr;

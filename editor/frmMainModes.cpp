@@ -19,14 +19,6 @@ namespace velor {
 
 namespace {
 
-frmBrowser &LoadPreview(EditorContext &context) {
-  if (context.preview.isNull()) {
-    context.preview = new frmBrowser(context);
-    context.mainWindow.AdoptWindow(context.preview);
-  }
-  return *context.preview;
-}
-
 /// What relative links of a page without a readable temporary copy resolve against.
 QUrl BaseOf(const PageRecord &record, const Runtime &runtime) {
   return record.Path.isEmpty() ? ToUrl(runtime.ProgramFolder() + QStringLiteral("\\"))
@@ -102,7 +94,7 @@ void frmMain::ShowEditor() {
 
 void frmMain::Preview() {
   const PageRecord record = GetPageRecord();
-  frmBrowser &preview = LoadPreview(context_);
+  frmBrowser &preview = PreviewWindow(context_);
   if (record.ReadOnly != False16) {
     context_.mainWindow.ShowWindow(&preview);
     preview.brwWebBrowser().Navigate(ToUrl(record.Path));

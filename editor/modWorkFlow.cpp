@@ -8,6 +8,9 @@
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/Journal.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/Runtime.h"
@@ -50,6 +53,8 @@ void FillPage(frmMain &window, Steps steps) {
 
 /// Loads the file; the HTML it becomes is to be the saved baseline.
 void Load(frmMain &window, const QString &path) {
+  // Before it is loaded: a file that changes in between counts as changed then.
+  TraceFile(window, path);
   window.DHTML1().LoadDocument(path);
   window.setWindowTitle(modGeneral::FileNameOfPath(path));
   window.PendingAction = QStringLiteral("gethtml");
@@ -64,6 +69,10 @@ void Present(EditorContext &context, frmMain &window, const QString &tabCaption)
   context.mainWindow.SelectTab(key);
   window.Ready = QStringLiteral("True");
   context.mainWindow.SetPageCommandsEnabled(true);
+}
+
+QString TemporaryCopyOfNewPage(EditorContext &context, int number) {
+  return context.platform.runtime.ProgramFolder() + QStringLiteral("\\Temp%1.htm").arg(number);
 }
 
 PageRecord RecordOfFile(const QString &path) {
@@ -94,6 +103,23 @@ void OpenReadOnly(EditorContext &context, frmMain &window, const QString &path) 
   context.pages.Record(number) = record;
   Load(window, path);
   Present(context, window, record.Caption + QStringLiteral(" (Read-Only)"));
+}
+
+PageRecord RecordOfRestored(EditorContext &context, int number, const JournalledPage &kept) {
+  if (kept.path.isEmpty()) {
+    PageRecord record;
+    record.Caption = QStringLiteral("Untitled %1").arg(number);
+    record.TempPath = TemporaryCopyOfNewPage(context, number);
+    return record;
+  }
+  const Files &files = context.platform.files;
+  PageRecord record = RecordOfFile(kept.path);
+  if (kept.saving == JournalledPage::Saving::ToItsFile) record.HasFile = True16;
+  if (files.FileExists(kept.path) && files.IsReadOnly(kept.path)) {
+    record.ReadOnly = True16;
+    record.TempPath.clear();
+  }
+  return record;
 }
 
 }  // namespace
@@ -174,8 +200,7 @@ void NewPage(EditorContext &context) {
 
     PageRecord record;
     record.Caption = caption;
-    record.TempPath =
-        context.platform.runtime.ProgramFolder() + QStringLiteral("\\Temp%1.htm").arg(number);
+    record.TempPath = TemporaryCopyOfNewPage(context, number);
     context.pages.Record(number) = record;
 
     window.Ready = QStringLiteral("True");
@@ -207,6 +232,29 @@ void OpenProjectPage(EditorContext &context, const QString &path) {
   RequireFile(context, file, QStringLiteral("OpenProjectPage"));
   frmMain &window = MakePage(context);
   FillPage(window, [&] { OpenWritable(context, window, file, False16); });
+}
+
+bool RestorePage(EditorContext &context, const JournalledPage &kept) {
+  frmMain &window = MakePage(context);
+  bool isKeptAgain = false;
+  FillPage(window, [&] {
+    const int number = window.Number();
+    window.Tag = QString::number(number);
+    window.DHTML1().Recall(kept.page);
+    const PageRecord record = RecordOfRestored(context, number, kept);
+    context.pages.Record(number) = record;
+    context.pages.Trace(number) = FileTrace::Of(kept.path, kept.page.original);
+    window.setWindowTitle(record.Caption);
+    window.CheckAcc();
+    const bool isReadOnly = record.ReadOnly != False16;
+    Present(context, window,
+            isReadOnly ? record.Caption + QStringLiteral(" (Read-Only)") : record.Caption);
+    // As after choosing the file: the first plain save takes its path from there.
+    if (record.HasFile != False16) context.mainWindow.SharedFileDialog().FileName = record.Path;
+    window.Journal().Unsettle();
+    isKeptAgain = window.Journal().Catch();
+  });
+  return isKeptAgain;
 }
 
 }  // namespace velor::modWorkFlow

@@ -14,6 +14,7 @@ namespace velor {
 class FileDialog;
 class frmCodeEditor;
 class frmMain;
+struct JournalledPage;
 struct PageRecord;
 
 namespace modWorkFlow {
@@ -50,7 +51,16 @@ std::int16_t OpenPage(EditorContext &context, const QString &path);
 /// file is error 53 as above.
 void OpenProjectPage(EditorContext &context, const QString &path);
 
-/// Saves a page; `record` is the slot's own and is brought up to date. A plain save (not SaveAs,
+/// Opens a page of an earlier run as it was left, with unsaved changes, in a slot of its own: a
+/// page that was never saved as a new one. Whether it is in this run's journal now. Raises
+/// RuntimeError where it cannot be shown.
+bool RestorePage(EditorContext &context, const JournalledPage &kept);
+
+/// Notes what a page's file holds before it is loaded, or after it is saved.
+void TraceFile(frmMain &window, const QString &path);
+
+/// Saves a page; a file that holds what the page did not come from is kept first, and the status
+/// bar says so. `record` is the slot's own and is brought up to date. A plain save (not SaveAs,
 /// and the page has a file) ignores errors, which the status bar tells; otherwise `dialog` asks for
 /// a name. 0 on success, 32755 when the dialog was cancelled, else the error number.
 std::int32_t SavePage(EditorContext &context, frmMain &window, FileDialog &dialog,

@@ -83,6 +83,7 @@ CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window) {
     case MessageAnswer::Yes:
       return SaveBeforeClosing(context, window);
     case MessageAnswer::No:
+      window.Journal().Discard();
       return CloseDecision::Close;
     default:
       return CloseDecision::Keep;
@@ -91,6 +92,7 @@ CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window) {
 
 void CleanUpAfterPage(EditorContext &context, frmMain &window) {
   const int number = window.Number();
+  window.Journal().Leave();
   context.platform.runtime.ProcessPendingEvents();
   {
     const BusyCursor busy(context.platform.runtime);

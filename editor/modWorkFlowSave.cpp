@@ -2,11 +2,15 @@
 // Pages saved.
 #include "editor/MainWindow.h"
 #include "editor/PageRecord.h"
+#include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Dialogs.h"
+#include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/Platform.h"
+#include "platform/ReplacedVersions.h"
 #include "platform/RuntimeError.h"
 
 namespace velor::modWorkFlow {
@@ -21,15 +25,39 @@ void TakeFile(PageRecord &record, const QString &path) {
   record.TempPath = TemporaryCopyOf(path);
 }
 
-/// Runs a step whose failure the operation passes over; the status bar tells the person.
+/// Runs a step whose failure the operation passes over; the status bar tells the person. False on
+/// failure.
 template <typename Step>
-void Attempt(EditorContext &context, const QString &path, Step step) {
+bool Attempt(EditorContext &context, const QString &path, Step step) {
   try {
     step();
+    return true;
   } catch (const RuntimeError &error) {
     context.mainWindow.ReportInStatusBar(
         QStringLiteral("%1 could not be saved: %2").arg(ForPeople(path), error.Description()));
+    return false;
   }
+}
+
+/// What another program, or another page, has written must not be lost by a save over it.
+void KeepForeignVersion(EditorContext &context, int number, const QString &path) {
+  const Files &files = context.platform.files;
+  ReplacedVersions *replaced = context.platform.replaced;
+  if (replaced == nullptr || !files.FileExists(path) || files.IsReadOnly(path)) return;
+  const QByteArray there = files.ReadAll(path);
+  if (FileTrace::Of(path, there) == context.pages.Trace(number)) return;
+  const QString kept = replaced->Keep(path, there);
+  context.mainWindow.ReportInStatusBar(
+      QStringLiteral("%1 held another version. It was replaced and is kept as %2")
+          .arg(ForPeople(path), kept));
+}
+
+void WriteFile(frmMain &window, const QString &path) {
+  // Should the program not live to the end of it, no key is lost.
+  window.Journal().Catch();
+  KeepForeignVersion(window.Context(), window.Number(), path);
+  window.DHTML1().SaveDocument(path);
+  TraceFile(window, path);
 }
 
 /// Writes to the record's own file; path and temporary copy then follow the dialog's last name,
@@ -37,24 +65,37 @@ void Attempt(EditorContext &context, const QString &path, Step step) {
 void SavePlain(EditorContext &context, frmMain &window, const FileDialog &dialog,
                PageRecord &record) {
   const QString file = record.Path;
-  Attempt(context, file, [&] { window.DHTML1().SaveDocument(file); });
+  const bool isSaved = Attempt(context, file, [&] { WriteFile(window, file); });
   TakeFile(record, dialog.FileName);
   Attempt(context, file, [&] { record.SavedHTML = window.DHTML1().DocumentHTML(); });
   record.Path = dialog.FileName;
+  if (isSaved) {
+    window.Journal().Settle();
+  } else {
+    window.Journal().SaveFailed();
+  }
 }
 
 void SaveUnderNewName(frmMain &window, FileDialog &dialog, PageRecord &record) {
   const QString file = dialog.FileName;
-  window.DHTML1().SaveDocument(file);
+  WriteFile(window, file);
+  window.Journal().Settle();
   TakeFile(record, file);
   record.SavedHTML = window.DHTML1().DocumentHTML();
   record.Path = file;
   window.setWindowTitle(modGeneral::FileNameOfPath(file));
   window.UpdateTabCaption();
   window.DHTML1().LoadDocument(file);
+  window.Journal().Settle();
 }
 
 }  // namespace
+
+void TraceFile(frmMain &window, const QString &path) {
+  const Platform &platform = window.Context().platform;
+  if (platform.replaced == nullptr) return;
+  window.Context().pages.Trace(window.Number()) = FileTrace::Of(path, platform.files.ReadAll(path));
+}
 
 std::int32_t SavePage(EditorContext &context, frmMain &window, FileDialog &dialog,
                       PageRecord &record, bool SaveAs) {

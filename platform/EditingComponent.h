@@ -3,6 +3,7 @@
 
 #include "platform/ElementPlace.h"
 #include "platform/HtmlDocument.h"
+#include "platform/PageMemory.h"
 
 #include <QPoint>
 #include <QString>
@@ -34,6 +35,8 @@ class EditingListener {
   virtual void DocumentComplete() = 0;
   /// The selection, or the state of what is selected, has changed.
   virtual void DisplayChanged() = 0;
+  /// What Memory answers may have changed.
+  virtual void MemoryChanged() {}
   /// A context menu is wanted at that place of the screen; the component shows none itself.
   virtual void ContextMenuRequested(QPoint screenPosition) = 0;
   /// The pointer moved or pressed within the page, in CSS pixels of its viewport.
@@ -80,6 +83,13 @@ class EditingComponent {
   virtual void SaveDocument(const QString &path) = 0;
   /// What SaveDocument would write, as text.
   virtual QString TextToSave() = 0;
+
+  /// The page as it was last seen on this side, without asking the engine: not more than a second
+  /// and a half behind, and then MemoryChanged follows.
+  virtual PageMemory Memory() const = 0;
+  /// Replaces the page by one that was remembered; returns when it is parsed. Against its original
+  /// it is an edited page, and is saved as such. Raises RuntimeError when it cannot be shown.
+  virtual void Recall(const PageMemory &memory) = 0;
 
   /// The WHATWG name of the page's charset ("big5", "utf-8", "windows-1252" ...).
   virtual QString Charset() const = 0;

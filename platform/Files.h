@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 
 namespace velor {
@@ -35,14 +36,18 @@ class Files {
   /// Whether files can be created in the folder that `path` lies in.
   virtual bool FolderWritable(const QString &path) const = 0;
 
+  /// When the file's content was last changed; invalid where there is none. Never raises.
+  virtual QDateTime ChangeTime(const QString &path) const = 0;
+
   /// The whole content. Raises 53 (missing), 76 (drive or folder missing), 75 (a folder, or no
   /// access).
   virtual QByteArray ReadAll(const QString &path, NameOrigin origin = NameOrigin::Chosen) const = 0;
 
   /// Creates the file or replaces its whole content so that at every moment the old or the new
-  /// content is there, whole: written to a sibling, synced and renamed over it; mode, owner and
-  /// symbolic links kept; written in place where renaming would break a hard link or a foreign
-  /// owner. A read-only file is refused (75), also for the superuser; a full disk is 61.
+  /// content is there, whole: written to a sibling, synced and renamed over it; mode, owner,
+  /// symbolic links, access lists and other attributes kept; written in place where renaming would
+  /// break a hard link or lose one of them, the old content then kept until that is done. A
+  /// read-only file is refused (75), also for the superuser; a full disk is 61.
   virtual void ReplaceAll(const QString &path, const QByteArray &content) = 0;
 
   /// Deletes a file; raises 53 when there is none.

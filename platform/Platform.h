@@ -15,7 +15,9 @@ class Dialogs;
 class EditingComponent;
 class FileDialog;
 class Files;
+class Journals;
 class Registry;
+class ReplacedVersions;
 class Runtime;
 class WindowSystem;
 
@@ -40,6 +42,10 @@ struct Platform {
   Components &components;
   /// Null where windows are not to be styled.
   WindowSystem *windows = nullptr;
+  /// Null where unsaved changes are not journalled.
+  Journals *journals = nullptr;
+  /// Null where replaced versions are not kept.
+  ReplacedVersions *replaced = nullptr;
 };
 
 }  // namespace velor

@@ -10,6 +10,7 @@
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
 #include "app/window/ProjectDesk.h"
+#include "app/window/RecoveryBar.h"
 #include "chrome/FlatSweeps.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
@@ -90,6 +91,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
       FileTab(new PageTabs(this)),
       FileTab2(new PageTabs(this)),
       CmbPages(new PageChooser(this)),
+      recovery_(new RecoveryBar(context_, this)),
       area_(new PageArea(this)),
       sourceEditing_(new QAction(this)),
       projects_(std::make_unique<ProjectDesk>(context_, values, *CmbPages, sweeps_.get())),
@@ -119,6 +121,7 @@ void MfrmProgram::BuildLayout() {
   column->setSpacing(0);
   column->addWidget(coolBar_);
   column->addWidget(BuildTabRow());
+  column->addWidget(recovery_);
   column->addWidget(area_, 1);
   setCentralWidget(center);
 }
@@ -164,6 +167,8 @@ void MfrmProgram::BuildStatusBar() {
 
 void MfrmProgram::Load() {
   RunLoadSteps(*this, platform_.runtime);
+  // From the event loop: when start-up has said all it has to say.
+  QTimer::singleShot(0, recovery_, [this] { recovery_->Offer(); });
 }
 
 void MfrmProgram::InitialiseHiddenComponent() {

@@ -25,6 +25,7 @@ class PageArea;
 class PageChooser;
 class PageTabs;
 class ProjectDesk;
+class RecoveryBar;
 class StyleMenuPainter;
 class StylingSweeps;
 
@@ -129,6 +130,7 @@ class MfrmProgram final : public QMainWindow,
   PageTabs *FileTab;
   PageTabs *FileTab2;
   PageChooser *CmbPages;
+  RecoveryBar *recovery_;
   PageArea *area_;
   QLabel *statusText_ = nullptr;
   QLabel *textForm_ = nullptr;

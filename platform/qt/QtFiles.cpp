@@ -65,6 +65,10 @@ bool QtFiles::FolderWritable(const QString &path) const {
   return QFileInfo(folder).isDir() && IsAccessible(QFile::encodeName(folder), W_OK | X_OK);
 }
 
+QDateTime QtFiles::ChangeTime(const QString &path) const {
+  return FileExists(path) ? QFileInfo(ToNative(path)).lastModified() : QDateTime();
+}
+
 QByteArray QtFiles::ReadAll(const QString &path, NameOrigin origin) const {
   const QString source = QStringLiteral("ReadAll");
   const QString native = Usable(path, source, origin);
@@ -93,13 +97,14 @@ QByteArray QtFiles::ReadAll(const QString &path, NameOrigin origin) const {
 }
 
 void QtFiles::ReplaceAll(const QString &path, const QByteArray &content) {
-  ReplaceFile(Usable(path, QStringLiteral("ReplaceAll")), content);
+  ReplaceFile(Usable(path, QStringLiteral("ReplaceAll")), content, calls_);
 }
 
 void QtFiles::Delete(const QString &path) {
   const QString source = QStringLiteral("Delete");
   const QString native = Usable(path, source);
-  if (unlink(QFile::encodeName(native).constData()) != 0) throw Failure(errno, source, native);
+  if (calls_.Unlink(QFile::encodeName(native).constData()) != 0)
+    throw Failure(errno, source, native);
 }
 
 }  // namespace velor

@@ -8,6 +8,8 @@
 #include "platform/qt/QtRegistry.h"
 #include "platform/qt/QtRuntime.h"
 #include "platform/qt/QtWindowSystem.h"
+#include "platform/qt/files/JournalFiles.h"
+#include "platform/qt/files/ReplacedFiles.h"
 
 namespace velor {
 
@@ -21,7 +23,9 @@ struct RealPlatform {
   QtRegistry registry;
   QtComponents components{files, runtime.ProgramFolder()};
   QtWindowSystem windows;
-  Platform parts{files, runtime, dialogs, registry, components, &windows};
+  JournalFiles journals;
+  ReplacedFiles replaced;
+  Platform parts{files, runtime, dialogs, registry, components, &windows, &journals, &replaced};
 };
 
 }  // namespace velor

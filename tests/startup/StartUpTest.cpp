@@ -44,6 +44,9 @@ class LoggedFiles final : public Files {
   bool FolderWritable(const QString &path) const override {
     return world.FolderWritable(Single(path));
   }
+  QDateTime ChangeTime(const QString &path) const override {
+    return world.ChangeTime(Single(path));
+  }
   QByteArray ReadAll(const QString &path, NameOrigin origin) const override {
     return world.ReadAll(Single(path), origin);
   }

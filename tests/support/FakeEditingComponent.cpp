@@ -47,6 +47,7 @@ void FakeEditingComponent::TypeText(const QString &text) {
 
 void FakeEditingComponent::Edit(const QString &html) {
   current_ = html;
+  if (listener_ != nullptr) listener_->MemoryChanged();
 }
 
 void FakeEditingComponent::CompleteDocument() {
@@ -104,6 +105,7 @@ void FakeEditingComponent::LoadDocument(const QString &path) {
   Log(QStringLiteral("LoadDocument(%1)").arg(path));
   if (const auto failure = std::exchange(nextLoadFailure, std::nullopt)) throw *failure;
   const QByteArray bytes = files_.ReadAll(path);
+  base_ = path;
   Take({bytes, DecodePage(bytes), {}});
 }
 
@@ -123,6 +125,18 @@ void FakeEditingComponent::SaveDocument(const QString &path) {
 QString FakeEditingComponent::TextToSave() {
   Log(QStringLiteral("TextToSave()"));
   return ComposePage(original_, current_).text;
+}
+
+PageMemory FakeEditingComponent::Memory() const {
+  return {original_.bytes, base_, current_};
+}
+
+void FakeEditingComponent::Recall(const PageMemory &memory) {
+  Log(QStringLiteral("Recall(%1)").arg(memory.base));
+  if (const auto failure = std::exchange(nextLoadFailure, std::nullopt)) throw *failure;
+  Take({memory.original, DecodePage(memory.original), {}});
+  base_ = memory.base;
+  current_ = memory.document;
 }
 
 QString FakeEditingComponent::Charset() const {

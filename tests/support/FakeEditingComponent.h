@@ -46,7 +46,8 @@ class FakeEditingComponent final : public EditingComponent,
   // What a person or the engine does.
   /// Replaces the selected text, the caret after it, and tells of the changed display.
   void TypeText(const QString &text);
-  /// Puts another text in the document's place, as editing would; tells nobody.
+  /// Puts another text in the document's place, as editing would; tells nobody but who follows what
+  /// the component remembers.
   void Edit(const QString &html);
   /// Delivers the pending completion notice at once instead of by the event loop.
   void CompleteDocument();
@@ -71,6 +72,8 @@ class FakeEditingComponent final : public EditingComponent,
   void LoadText(const QString &html, const QString &path) override;
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
+  PageMemory Memory() const override;
+  void Recall(const PageMemory &memory) override;
   QString Charset() const override;
   QString TextForm() const override { return InWords(original_.page.encoding); }
   bool HasByteOrderMark() const override { return original_.page.encoding.byteOrderMark; }
@@ -103,6 +106,7 @@ class FakeEditingComponent final : public EditingComponent,
   QPointer<QWidget> widget_;
   EditingListener *listener_ = nullptr;
   PageOriginal original_;
+  QString base_;
   QString current_;  ///< LF line breaks, like an engine's serialisation
   QTimer completion_;
   bool showDetails_ = false;

@@ -94,6 +94,10 @@ bool FakeFiles::FolderWritable(const QString &path) const {
   return folders_.contains(folder) && !unwritableFolders_.contains(folder);
 }
 
+QDateTime FakeFiles::ChangeTime(const QString &path) const {
+  return FileExists(path) ? changeTime : QDateTime();
+}
+
 QByteArray FakeFiles::ReadAll(const QString &path, NameOrigin origin) const {
   const QString operation = QStringLiteral("ReadAll");
   calls_ += operation + u' ' + path;

@@ -24,6 +24,9 @@ class FakeFiles : public Files {
   /// The next ReplaceAll raises this and changes nothing.
   void FailNextWrite(ErrorNumber number) { nextWriteFailure_ = number; }
 
+  /// The time of every file's last change.
+  QDateTime changeTime = QDateTime::fromMSecsSinceEpoch(0);
+
   /// What a file holds; nothing when there is none of exactly that name.
   std::optional<QByteArray> Content(const QString &path) const;
   /// The paths of all files, sorted.
@@ -35,6 +38,7 @@ class FakeFiles : public Files {
   bool FolderExists(const QString &path, NameOrigin origin = NameOrigin::Chosen) const override;
   bool IsReadOnly(const QString &path) const override;
   bool FolderWritable(const QString &path) const override;
+  QDateTime ChangeTime(const QString &path) const override;
   QByteArray ReadAll(const QString &path, NameOrigin origin = NameOrigin::Chosen) const override;
   void ReplaceAll(const QString &path, const QByteArray &content) override;
   void Delete(const QString &path) override;

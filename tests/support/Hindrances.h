@@ -1,27 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QTemporaryDir>
+
 #include <csignal>
 #include <gtest/gtest.h>
+#include <optional>
 #include <sys/resource.h>
 #include <unistd.h>
 
 namespace velor {
 
-/// Without the superuser's rights for the life of a scope; nothing to do for other users.
+/// Without the superuser's rights for the life of a scope, with a state folder of that user's own;
+/// nothing to do for other users.
 class AsOrdinaryUser {
  public:
   AsOrdinaryUser() : user_(geteuid()) {
     if (user_ == 0) {
       EXPECT_EQ(seteuid(Nobody), 0);
+      states_.emplace();
+      qputenv("XDG_STATE_HOME", states_->path().toLocal8Bit());
     }
   }
-  ~AsOrdinaryUser() { EXPECT_EQ(seteuid(user_), 0); }
+  ~AsOrdinaryUser() {
+    states_.reset();
+    qputenv("XDG_STATE_HOME", stateHome_);
+    EXPECT_EQ(seteuid(user_), 0);
+  }
 
   static constexpr uid_t Nobody = 65534;
 
  private:
   uid_t user_;
+  QByteArray stateHome_ = qgetenv("XDG_STATE_HOME");
+  std::optional<QTemporaryDir> states_;
 };
 
 /// No file may grow beyond so many bytes: what a full disk looks like, without one.

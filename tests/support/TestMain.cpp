@@ -13,7 +13,8 @@
 
 int main(int argc, char **argv) {
   QTemporaryDir scratch;
-  for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
+  for (const char *variable :
+       {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"}) {
     const QString folder = scratch.filePath(QString::fromLatin1(variable));
     QDir().mkpath(folder);
     qputenv(variable, folder.toLocal8Bit());

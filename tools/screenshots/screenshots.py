@@ -222,6 +222,43 @@ def main(run_folder, out, palette, scale):
             program.kill()
             shutil.rmtree(scratch, ignore_errors=True)
 
+    def recovery():
+        """A run that is killed with unsaved pages, and the bar of the next."""
+        scratch = tempfile.mkdtemp(prefix="velor-shots-")
+        folder = os.path.join(scratch, "program")
+        shutil.copytree(run_folder, folder, ignore=shutil.ignore_patterns(
+            "velor-*", "*.ini", "Temp*.htm"))
+
+        def start():
+            return Program(os.path.join(run_folder, "velor-web-creator"), folder, scratch, out,
+                           {"VELOR_PALETTE": palette, "QT_SCALE_FACTOR": str(factor)})
+
+        def journals():
+            return [name for _, _, names in os.walk(os.path.join(scratch, "velor-web-creator"))
+                    for name in names if name.endswith(".page")]
+
+        program = start()
+        try:
+            for number in (1, 2):
+                program.key("ctrl+n")
+                program.wait(f"Untitled {number}", "page tab")
+                program.type("Words that nobody saved")
+                wait_for(lambda: len(journals()) == number, "the journal")
+            program.kill()
+            program = start()
+            program.size_window(int(1280 * factor), int(820 * factor))
+            photos = Photographer(program, f"{palette}-{scale}-recovery", factor)
+            program.wait("Restore Untitled 1", "push button|button")
+            photos.shot("bar")
+            program.key("alt+g")
+            program.key("space")
+            program.wait("Untitled 1", "page tab")
+            photos.shot("restored")
+        finally:
+            program.kill()
+            shutil.rmtree(scratch, ignore_errors=True)
+
+    recovery()
     session("start", ("eImages",), start_up)
     session("main", (), main_window, dialogs, modes)
     session("objects", (), objects)

@@ -53,6 +53,7 @@ class Program:
             "XDG_CONFIG_HOME": settings_folder,
             "XDG_DATA_HOME": settings_folder,
             "XDG_CACHE_HOME": settings_folder,
+            "XDG_STATE_HOME": settings_folder,
             "VELOR_NO_ERROR_BOX": "1",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             "QT_QPA_PLATFORM": "xcb",

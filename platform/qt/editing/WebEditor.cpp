@@ -75,8 +75,10 @@ void WebEditor::ConnectView() {
   EngineView *view = view_.get();
   QObject::connect(view, &EngineView::StateArrived,
                    [this](const StateSnapshot &state) { StateArrived(state); });
-  QObject::connect(view, &EngineView::MirrorArrived,
-                   [this](const QString &html) { mirror_.html = html; });
+  QObject::connect(view, &EngineView::MirrorArrived, [this](const QString &html) {
+    mirror_.html = html;
+    MirrorTaken();
+  });
   QObject::connect(view, &EngineView::LoadEnded,
                    [this] { notices_.Post(Notice::LoadEnded, [this] { FinishLoad(); }); });
   QObject::connect(view, &EngineView::Died,

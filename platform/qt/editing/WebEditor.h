@@ -45,6 +45,8 @@ class WebEditor : public EditingComponent {
   void LoadText(const QString &html, const QString &path) override;
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
+  PageMemory Memory() const override;
+  void Recall(const PageMemory &memory) override;
   QString Charset() const override;
   QString TextForm() const override;
   bool HasByteOrderMark() const override;
@@ -90,6 +92,9 @@ class WebEditor : public EditingComponent {
   /// Takes a page's bytes as the document, links resolving against the file.
   void TakeBytes(const QByteArray &bytes, const QString &nativePath);
   void Replace(Original original, const QString &nativePath, LoadPurpose purpose);
+  /// Begins a load and waits for its end, up to a time limit; the answer is how it went.
+  enum class Loaded { Yes, No, Unknown };
+  Loaded Load(LoadPurpose purpose);
   void BeginLoad(LoadPurpose purpose);
   void FinishLoad();
   void LoadBlankIfEmpty();
@@ -113,6 +118,7 @@ class WebEditor : public EditingComponent {
   // The mirror and bringing a page back (WebEditorRecovery.cpp)
   void StateArrived(const StateSnapshot &state);
   void TakeMirror();
+  void MirrorTaken();
   void Died();
   void Report(const QString &message);
 

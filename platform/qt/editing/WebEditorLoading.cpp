@@ -79,6 +79,19 @@ void WebEditor::Replace(Original original, const QString &nativePath, LoadPurpos
   nativePath_ = nativePath;
   mirror_ = {WithLineEnds(original_->TextToLoad(), LineEnds::Lf), {}, {}};
   deaths_ = 0;
+  switch (Load(purpose)) {
+    case Loaded::Yes:
+      return FinishLoad();
+    case Loaded::No:
+      load_ = LoadPurpose::None;
+      throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("LoadDocument"),
+                             nativePath);
+    case Loaded::Unknown:
+      return;
+  }
+}
+
+WebEditor::Loaded WebEditor::Load(LoadPurpose purpose) {
   const QPointer<EngineView> view(&View());
   for (int attempt = 1; attempt <= loadAttempts; ++attempt) {
     BeginLoad(purpose);
@@ -88,14 +101,10 @@ void WebEditor::Replace(Original original, const QString &nativePath, LoadPurpos
     });
     // A page closed or replaced meanwhile is no failure of this call; one that cannot be waited
     // for here ends its loading by itself.
-    if (view == nullptr || load != loads_ || end == WaitEnd::Refused) return;
+    if (view == nullptr || load != loads_ || end == WaitEnd::Refused) return Loaded::Unknown;
     if (view->CurrentPhase() != EngineView::Phase::Dead) break;
   }
-  if (view->CurrentPhase() != EngineView::Phase::Ready) {
-    load_ = LoadPurpose::None;
-    throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("LoadDocument"), nativePath);
-  }
-  FinishLoad();
+  return view->CurrentPhase() == EngineView::Phase::Ready ? Loaded::Yes : Loaded::No;
 }
 
 void WebEditor::BeginLoad(LoadPurpose purpose) {

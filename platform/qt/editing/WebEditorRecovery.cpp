@@ -16,6 +16,8 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds mirrorPause = 300ms;
 /// Keeping the mirror may take a tenth of the page's time at most.
 constexpr int mirrorShare = 10;
+/// Whatever it takes, no more than this and the asking itself is ever lost.
+constexpr std::chrono::milliseconds longestMirrorPause = 1s;
 /// A page that keeps killing its process within this time is left as it is after a few tries.
 constexpr std::chrono::milliseconds steadyTime = 10s;
 constexpr int restoreAttempts = 3;
@@ -30,7 +32,7 @@ void WebEditor::StateArrived(const StateSnapshot &state) {
   snapshot_ = state;
   FollowGeneration(state.generation);
   if (!mirrorTimer_.isActive())
-    mirrorTimer_.start(std::max(mirrorPause, mirrorShare * mirrorCost_));
+    mirrorTimer_.start(std::clamp(mirrorShare * mirrorCost_, mirrorPause, longestMirrorPause));
   if (idleTimer_.isActive()) idleTimer_.start(idlePause);
   notices_.Post(Notice::Display, [this] {
     if (listener_ != nullptr) listener_->DisplayChanged();
@@ -47,8 +49,41 @@ void WebEditor::TakeMirror() {
     mirrorCost_ = std::chrono::milliseconds(asked.elapsed());
     mirror_ = {mirror[QStringLiteral("html")].toString(), mirror[QStringLiteral("start")],
                mirror[QStringLiteral("end")]};
+    MirrorTaken();
     idleTimer_.start(idlePause);
   });
+}
+
+void WebEditor::MirrorTaken() {
+  notices_.Post(Notice::Memory, [this] {
+    if (listener_ != nullptr) listener_->MemoryChanged();
+  });
+}
+
+PageMemory WebEditor::Memory() const {
+  return {original_->Original().bytes, nativePath_, mirror_.html};
+}
+
+void WebEditor::Recall(const PageMemory &memory) {
+  earlier_.clear();
+  later_.clear();
+  const QPointer<QWidget> alive(container_);
+  // First the page as it was before, since only the engine knows what it makes of it.
+  Replace(std::make_shared<FaithfulPage>(
+              PageOriginal{memory.original, DecodePage(memory.original), {}}),
+          memory.base, LoadPurpose::Document);
+  if (alive == nullptr) return;
+  if (memory.document == mirror_.html) return;
+  mirror_ = {memory.document, {}, {}};
+  switch (Load(LoadPurpose::Travel)) {
+    case Loaded::Yes:
+      return FinishLoad();
+    case Loaded::No:
+      load_ = LoadPurpose::None;
+      throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("Recall"), memory.base);
+    case Loaded::Unknown:
+      return;
+  }
 }
 
 void WebEditor::ComposeAhead() {

@@ -2,7 +2,9 @@
 #include "platform/qt/files/FileReplacement.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/qt/files/FileBytes.h"
 #include "platform/qt/files/FileDescriptor.h"
+#include "platform/qt/files/ReplacedFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -43,10 +45,17 @@ QString FollowLinks(const QString &path) {
   throw WriteError(ELOOP, path);
 }
 
+/// Who may do what with a file that is made anew.
+constexpr mode_t AsTheUserAsks = 0666;  // less what the umask takes
+constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
+
 class Replacement {
  public:
-  Replacement(const QString &path, const QByteArray &content)
-      : path_(FollowLinks(path)), name_(QFile::encodeName(path_)), content_(content) {
+  Replacement(const QString &path, const QByteArray &content, FileCalls &calls)
+      : path_(FollowLinks(path)),
+        name_(QFile::encodeName(path_)),
+        content_(content),
+        calls_(calls) {
     struct stat status {};
     if (stat(name_.constData(), &status) == 0) {
       old_ = status;
@@ -59,9 +68,14 @@ class Replacement {
     if (old_) RefuseReadOnly();
     if (old_ && (!S_ISREG(old_->st_mode) || old_->st_nlink > 1)) {
       WriteInPlace();
-    } else if (!WriteSiblingAndRename()) {
+    } else if (!WriteSiblingAndRename(old_ ? OwnerOnly : AsTheUserAsks)) {
       WriteInPlace();
     }
+  }
+
+  void RunAnew() {
+    old_.reset();
+    WriteSiblingAndRename(OwnerOnly);
   }
 
  private:
@@ -74,98 +88,87 @@ class Replacement {
   }
 
   /// False, with nothing changed, where an existing file has to be written in place.
-  bool WriteSiblingAndRename() {
+  bool WriteSiblingAndRename(mode_t mode) {
     const QString folder = QFileInfo(path_).path();
     const QString sibling =
         QStringLiteral("%1/.velor-%2.tmp")
             .arg(folder, QString::number(QRandomGenerator::system()->generate64(), 16));
     const QByteArray siblingName = QFile::encodeName(sibling);
-    const mode_t mode = old_ ? S_IRUSR | S_IWUSR : 0666;
     FileDescriptor file(
-        open(siblingName.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+        calls_.Open(siblingName.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
     if (!file.IsOpen()) {
       if (old_ && (errno == EACCES || errno == EPERM || errno == EROFS)) return false;
       throw WriteError(errno, path_);
     }
-    if (old_ && !TakeOwnerAndMode(file.Number())) {
-      unlink(siblingName.constData());
+    if (old_ && !TakeOwnerModeAndAttributes(file.Number())) {
+      calls_.Unlink(siblingName.constData());
       return false;
     }
-    const bool isWritten =
-        WriteAll(file.Number(), content_) && fsync(file.Number()) == 0 && file.Close();
-    if (isWritten && rename(siblingName.constData(), name_.constData()) == 0) {
-      SyncFolder(folder);
+    const bool isWritten = WriteBytes(calls_, file.Number(), content_) &&
+                           SyncFile(calls_, file.Number()) && file.Close();
+    if (isWritten && calls_.Rename(siblingName.constData(), name_.constData()) == 0) {
+      // A rename survives a power failure only when its folder is on the disk.
+      if (!SyncFolder(calls_, QFile::encodeName(folder))) throw WriteError(errno, path_);
       return true;
     }
     const int error = errno;
-    unlink(siblingName.constData());
-    if (isWritten && old_) return false;  // a mount point, for one, cannot be renamed over
+    calls_.Unlink(siblingName.constData());
+    if (isWritten && old_ && IsNoRenaming(error)) return false;
     throw WriteError(error, path_);
   }
 
-  bool TakeOwnerAndMode(int file) const {
+  /// Whether the place, not the disk, refused: a mount point, or a folder where nobody but a file's
+  /// owner may replace it.
+  static bool IsNoRenaming(int error) {
+    return error == EBUSY || error == EXDEV || error == EACCES || error == EPERM;
+  }
+
+  bool TakeOwnerModeAndAttributes(int file) const {
     struct stat own {};
     if (fstat(file, &own) != 0) return false;
     const bool isSame = own.st_uid == old_->st_uid && own.st_gid == old_->st_gid;
-    if (!isSame && fchown(file, old_->st_uid, old_->st_gid) != 0) return false;
+    if (!isSame && calls_.SetOwner(file, old_->st_uid, old_->st_gid) != 0) return false;
+    // Without the right to read the file its attributes cannot be known to be kept.
+    const FileDescriptor before(open(name_.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (!before.IsOpen() || !CopyAttributes(calls_, before.Number(), file)) return false;
     // After the owner: a change of owner clears bits.
-    return fchmod(file, old_->st_mode & PermissionBits) == 0;
+    return calls_.SetMode(file, old_->st_mode & PermissionBits) == 0;
   }
 
-  /// A rename survives a power failure only when its folder is on the disk. Some file systems
-  /// cannot sync folders; the file itself is safe by then.
-  static void SyncFolder(const QString &folder) {
-    const FileDescriptor descriptor(
-        open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (descriptor.IsOpen()) fsync(descriptor.Number());
-  }
-
-  void WriteInPlace() const {
+  void WriteInPlace() {
     // Non-blocking, so that a pipe nobody reads fails instead of waiting for ever.
     const bool isRegular = S_ISREG(old_->st_mode);
-    FileDescriptor file(
-        open(name_.constData(), (isRegular ? O_RDWR : O_WRONLY) | O_CLOEXEC | O_NONBLOCK));
+    FileDescriptor file(calls_.Open(name_.constData(),
+                                    (isRegular ? O_RDWR : O_WRONLY) | O_CLOEXEC | O_NONBLOCK, 0));
     if (!file.IsOpen()) throw WriteError(errno, path_);
     if (!isRegular) {
-      if (!WriteAll(file.Number(), content_)) throw WriteError(errno, path_);
+      if (!WriteBytes(calls_, file.Number(), content_)) throw WriteError(errno, path_);
       return;
     }
     const QByteArray before = ReadAll(file.Number());
     if (before.size() < old_->st_size) throw WriteError(EIO, path_);
-    if (!Reserve(file.Number())) throw WriteError(errno, path_);
+    if (!ReserveRoom(file.Number())) throw WriteError(errno, path_);
+    ReplacedFiles replaced(calls_);
+    const QString kept = replaced.KeepNative(path_, before);
     if (!Overwrite(file.Number(), content_)) {
       const int error = errno;
-      Overwrite(file.Number(), before);
+      if (Overwrite(file.Number(), before)) replaced.Forget(kept);
       throw WriteError(error, path_);
     }
     if (!file.Close()) throw WriteError(errno, path_);
+    replaced.Forget(kept);
   }
 
   /// Takes the blocks for the new content beyond the old end, which changes nothing that is read.
   /// False only when there is no room.
-  bool Reserve(int file) const {
-    if (content_.isEmpty() || fallocate(file, FALLOC_FL_KEEP_SIZE, 0, content_.size()) == 0) {
-      return true;
-    }
+  bool ReserveRoom(int file) const {
+    if (content_.isEmpty() || calls_.Reserve(file, content_.size()) == 0) return true;
     return errno != ENOSPC && errno != EDQUOT && errno != EFBIG;
   }
 
-  static bool Overwrite(int file, const QByteArray &content) {
-    return lseek(file, 0, SEEK_SET) == 0 && WriteAll(file, content) &&
-           ftruncate(file, content.size()) == 0 && fsync(file) == 0;
-  }
-
-  static bool WriteAll(int file, const QByteArray &content) {
-    const char *data = content.constData();
-    qsizetype left = content.size();
-    while (left > 0) {
-      const ssize_t written = write(file, data, static_cast<size_t>(left));
-      if (written < 0 && errno == EINTR) continue;
-      if (written < 0) return false;
-      data += written;
-      left -= written;
-    }
-    return true;
+  bool Overwrite(int file, const QByteArray &content) const {
+    return lseek(file, 0, SEEK_SET) == 0 && WriteBytes(calls_, file, content) &&
+           calls_.Truncate(file, content.size()) == 0 && SyncFile(calls_, file);
   }
 
   static QByteArray ReadAll(int file) {
@@ -177,13 +180,18 @@ class Replacement {
   QString path_;
   QByteArray name_;
   const QByteArray &content_;
+  FileCalls &calls_;
   std::optional<struct stat> old_;
 };
 
 }  // namespace
 
-void ReplaceFile(const QString &nativePath, const QByteArray &content) {
-  Replacement(nativePath, content).Run();
+void ReplaceFile(const QString &nativePath, const QByteArray &content, FileCalls &calls) {
+  Replacement(nativePath, content, calls).Run();
+}
+
+void CreatePrivateFile(const QString &nativePath, const QByteArray &content, FileCalls &calls) {
+  Replacement(nativePath, content, calls).RunAnew();
 }
 
 }  // namespace velor

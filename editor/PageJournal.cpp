@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/PageJournal.h"
+
+#include "editor/MainWindow.h"
+#include "editor/PageSlots.h"
+#include "platform/EditingComponent.h"
+#include "platform/Platform.h"
+#include "platform/RuntimeError.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace velor {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Between two keys of somebody who types on there is less than this.
+constexpr std::chrono::milliseconds pause = 150ms;
+/// With the component's own delay this leaves the journal less than two seconds behind.
+constexpr std::chrono::milliseconds longestDelay = 600ms;
+/// Whoever rests this long does not wait for a key to show.
+constexpr std::chrono::milliseconds idle = 500ms;
+
+}  // namespace
+
+PageJournal::PageJournal(EditorContext &context, EditingComponent &component, int number)
+    : context_(context), component_(component), number_(number) {
+  if (context.platform.journals != nullptr) journal_ = context.platform.journals->Begin();
+  writing_.setSingleShot(true);
+  resting_.setSingleShot(true);
+  QObject::connect(&writing_, &QTimer::timeout, [this] { Write(); });
+  QObject::connect(&resting_, &QTimer::timeout, [this] { Rest(); });
+}
+
+void PageJournal::Follow() {
+  // Before it is settled for the first time the page is still being made.
+  if (!journal_ || !settled_) return;
+  const QString document = component_.Memory().document;
+  if (hasJournal_ ? document == written_ : IsSettled(document)) return;
+  if (!sinceChange_.isValid()) sinceChange_.start();
+  const std::chrono::milliseconds left =
+      longestDelay - std::chrono::milliseconds(sinceChange_.elapsed());
+  writing_.start(std::clamp(left, 0ms, pause));
+  resting_.start(idle);
+}
+
+bool PageJournal::Catch() {
+  Write();
+  return !failureTold_;
+}
+
+void PageJournal::Settle() {
+  saveFailed_ = false;
+  Discard();
+  settled_ = component_.Memory().document;
+}
+
+void PageJournal::SaveFailed() {
+  saveFailed_ = true;
+  if (!hasJournal_) Write();
+}
+
+void PageJournal::Unsettle() {
+  // No serialisation is the null text.
+  settled_ = QString();
+}
+
+void PageJournal::Discard() {
+  writing_.stop();
+  resting_.stop();
+  sinceChange_.invalidate();
+  if (hasJournal_) journal_->Remove();
+  hasJournal_ = false;
+}
+
+void PageJournal::Leave() {
+  if (!saveFailed_) return Discard();
+  if (sinceChange_.isValid()) Write();
+  Rest();
+}
+
+JournalledPage PageJournal::Page() const {
+  const PageRecord &record = context_.pages.Record(number_);
+  const bool hasFile = record.HasFile != False16;
+  return {record.Path, record.Caption,
+          hasFile ? JournalledPage::Saving::ToItsFile : JournalledPage::Saving::AsksForAName,
+          component_.Memory(), QDateTime::currentDateTime()};
+}
+
+void PageJournal::Write() {
+  if (!journal_) return;
+  writing_.stop();
+  sinceChange_.invalidate();
+  const JournalledPage page = Page();
+  if (hasJournal_ && page.page.document == written_) return;
+  if (IsSettled(page.page.document) && !saveFailed_) return Discard();
+  if (!Attempt([&] { journal_->Write(page); })) return;
+  hasJournal_ = true;
+  written_ = page.page.document;
+}
+
+void PageJournal::Rest() {
+  resting_.stop();
+  if (hasJournal_) Attempt([this] { journal_->Rest(); });
+}
+
+template <typename Step>
+bool PageJournal::Attempt(Step step) {
+  try {
+    step();
+    failureTold_ = false;
+    return true;
+  } catch (const RuntimeError &error) {
+    if (!failureTold_) {
+      context_.mainWindow.ReportInStatusBar(
+          QStringLiteral("The changes of %1 could not be kept for a recovery: %2")
+              .arg(context_.pages.Record(number_).Caption, error.Description()));
+    }
+    failureTold_ = true;
+    return false;
+  }
+}
+
+}  // namespace velor

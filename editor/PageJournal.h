@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "editor/EditorContext.h"
+#include "platform/Journal.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <optional>
+
+namespace velor {
+
+class EditingComponent;
+
+/// Keeps a page's unsaved changes in a journal while there are any: at most about a second behind
+/// what the component knows, in a pause between keys where there is one. Does nothing where the
+/// platform has no journals. What cannot be written is told in the status bar.
+class PageJournal {
+ public:
+  /// All outlive it.
+  PageJournal(EditorContext &context, EditingComponent &component, int number);
+
+  /// What the component remembers may have changed.
+  void Follow();
+  /// Writes what there is to write now; false where that failed.
+  bool Catch();
+  /// The page was loaded or saved: as it is now nothing is to be kept.
+  void Settle();
+  /// The page is to be kept although it counts as saved, until a save goes well.
+  void SaveFailed();
+  /// The page counts as changed whatever it holds: nothing of it is in a file yet.
+  void Unsettle();
+  /// The person does not want the changes.
+  void Discard();
+  /// The page goes; only what should have been saved and could not be stays.
+  void Leave();
+
+ private:
+  bool IsSettled(const QString &document) const { return settled_ == document; }
+  JournalledPage Page() const;
+  void Write();
+  void Rest();
+  template <typename Step>
+  bool Attempt(Step step);
+
+  EditorContext &context_;
+  EditingComponent &component_;
+  const int number_;
+  std::unique_ptr<Journal> journal_;  ///< null without journals
+  std::optional<QString> settled_;    ///< the document that needs no journal
+  QString written_;                   ///< the document in the journal
+  bool hasJournal_ = false;
+  bool saveFailed_ = false;
+  bool failureTold_ = false;
+  QElapsedTimer sinceChange_;  ///< since the first that is not written; valid while there is one
+  QTimer writing_;
+  QTimer resting_;
+};
+
+}  // namespace velor

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace velor {
+
+/// Where the program keeps what outlives a run and is nobody's document, in native form:
+/// `$XDG_STATE_HOME/velor-web-creator`, by default below `~/.local/state`. It need not exist.
+QString StateFolder();
+
+/// Makes a native folder and what is missing above it, for its owner alone. Raises RuntimeError.
+void MakePrivateFolder(const QString &folder);
+
+}  // namespace velor

@@ -1,0 +1,312 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// When a page's changes are journalled, and when the journal goes.
+#include "editor/modWorkFlow.h"
+#include "tests/editor/EditorWorld.h"
+#include "tests/support/FakeJournals.h"
+
+#include <QTest>
+
+namespace velor {
+namespace {
+
+const QString IndexFile = QStringLiteral("\\site\\index.htm");
+const QString Changed = QStringLiteral("<p>changed</p>");
+constexpr bool AsBefore = false;
+constexpr bool UnderNewName = true;
+/// From the change on; what the component itself is behind comes on top of it.
+constexpr int LongestDelay = 1000;
+
+class PageJournals : public EditorWorld {
+ protected:
+  PageJournals() { platform.journals = &journals; }
+
+  bool IsWritten(const QString &document) const {
+    const auto written = journals.Written();
+    return !written.empty() && written.back().page.document == document;
+  }
+  bool ComesToBeWritten(const QString &document) const {
+    return QTest::qWaitFor([&] { return IsWritten(document); }, LongestDelay);
+  }
+  void Change(int number, const QString &document = Changed) {
+    Component(number).Edit(document);
+    ASSERT_TRUE(ComesToBeWritten(document));
+  }
+  bool IsEmpty() const { return journals.Written().empty(); }
+  /// What the person says when asked whether to save.
+  void Answer(MessageAnswer answer) {
+    dialogs.ExpectMessage(
+        QStringLiteral("You have made changes to this document. Do you want to save it?"), answer);
+  }
+
+  FakeJournals journals;
+};
+
+TEST_F(PageJournals, AnUnchangedPageHasNone) {
+  Open(IndexFile);
+  New();
+  Component(1).ChangeDisplay();
+  Component(1).Edit(Component(1).Memory().document);
+  EXPECT_FALSE(QTest::qWaitFor([&] { return !IsEmpty(); }, LongestDelay));
+}
+
+TEST_F(PageJournals, AChangeIsWrittenWithThePageItBelongsTo) {
+  Open(IndexFile);
+  Change(1);
+  const JournalledPage page = journals.Written()[0];
+  EXPECT_EQ(page.path, IndexFile);
+  EXPECT_EQ(page.caption, QStringLiteral("index.htm"));
+  EXPECT_EQ(page.saving, JournalledPage::Saving::ToItsFile);
+  EXPECT_EQ(page.page.original, "<p>a</p>");
+  EXPECT_LE(page.time.secsTo(QDateTime::currentDateTime()), 2);
+}
+
+TEST_F(PageJournals, APageThatWasNeverSavedIsWrittenToo) {
+  New();
+  Change(1);
+  EXPECT_EQ(journals.Written()[0].path, QString());
+  EXPECT_EQ(journals.Written()[0].caption, QStringLiteral("Untitled 1"));
+}
+
+TEST_F(PageJournals, WhoeverTypesOnWithoutAPauseIsWrittenInTime) {
+  Open(IndexFile);
+  QElapsedTimer typing;
+  typing.start();
+  int keys = 0;
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] {
+        Component(1).Edit(QStringLiteral("<p>%1</p>").arg(++keys));
+        return !IsEmpty();
+      },
+      5 * LongestDelay));
+  EXPECT_LE(typing.elapsed(), LongestDelay);
+}
+
+TEST_F(PageJournals, ItGoesToTheDiskInAPause) {
+  Open(IndexFile);
+  Change(1);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return journals.rests > 0; }, LongestDelay));
+}
+
+TEST_F(PageJournals, AChangeTakenBackEndsIt) {
+  Open(IndexFile);
+  Change(1);
+  Component(1).Edit(QStringLiteral("<p>a</p>"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return IsEmpty(); }, LongestDelay));
+}
+
+TEST_F(PageJournals, ASaveEndsItAndTheNextChangeBeginsAnother) {
+  Open(IndexFile);
+  Change(1);
+  modWorkFlow::SavePage(context, Page(1), dialog, Record(1), AsBefore);
+  EXPECT_TRUE(IsEmpty());
+  Change(1, QStringLiteral("<p>again</p>"));
+}
+
+TEST_F(PageJournals, ASaveUnderANewNameEndsIt) {
+  New();
+  Change(1);
+  dialog.ExpectSave(QStringLiteral("\\site\\new.htm"));
+  EXPECT_EQ(modWorkFlow::SavePage(context, Page(1), dialog, Record(1), UnderNewName), 0);
+  EXPECT_TRUE(IsEmpty());
+}
+
+TEST_F(PageJournals, ASaveUnderANewNameThatFailsDoesNot) {
+  New();
+  Change(1);
+  dialog.ExpectSave(QStringLiteral("\\site\\new.htm"));
+  files.FailNextWrite(ErrorNumber::DiskFull);
+  EXPECT_EQ(modWorkFlow::SavePage(context, Page(1), dialog, Record(1), UnderNewName), 61);
+  EXPECT_TRUE(IsWritten(Changed));
+}
+
+TEST_F(PageJournals, APlainSaveThatFailsKeepsThePageEvenWhenItIsClosed) {
+  Open(IndexFile);
+  Component(1).Edit(Changed);
+  files.FailNextWrite(ErrorNumber::DiskFull);
+  EXPECT_EQ(modWorkFlow::SavePage(context, Page(1), dialog, Record(1), AsBefore), 0);
+  EXPECT_TRUE(IsWritten(Changed));
+  Page(1).close();
+  DeleteClosedWindows();
+  EXPECT_TRUE(IsWritten(Changed));
+}
+
+TEST_F(PageJournals, APlainSaveThatFailsIsMadeGoodByTheNext) {
+  Open(IndexFile);
+  Change(1);
+  files.FailNextWrite(ErrorNumber::DiskFull);
+  modWorkFlow::SavePage(context, Page(1), dialog, Record(1), AsBefore);
+  modWorkFlow::SavePage(context, Page(1), dialog, Record(1), AsBefore);
+  EXPECT_TRUE(IsEmpty());
+}
+
+TEST_F(PageJournals, NoAtTheClosePromptEndsIt) {
+  Open(IndexFile);
+  Change(1);
+  Answer(MessageAnswer::No);
+  Page(1).close();
+  EXPECT_TRUE(IsEmpty());
+}
+
+TEST_F(PageJournals, CancelAtTheClosePromptKeepsIt) {
+  Open(IndexFile);
+  Change(1);
+  Answer(MessageAnswer::Cancel);
+  Page(1).close();
+  EXPECT_TRUE(IsWritten(Changed));
+}
+
+TEST_F(PageJournals, TheProgramsExitEndsIt) {
+  Open(IndexFile);
+  Change(1);
+  Page(1).MarkKill();
+  Page(1).close();
+  EXPECT_TRUE(IsEmpty());
+}
+
+TEST_F(PageJournals, AJournalThatCannotBeWrittenIsToldOnce) {
+  Open(IndexFile);
+  journals.writeFailure = ErrorNumber::DiskFull;
+  Component(1).Edit(Changed);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !mainWindow.reports.isEmpty(); }, LongestDelay));
+  EXPECT_TRUE(mainWindow.reports[0].startsWith(
+      QStringLiteral("The changes of index.htm could not be kept for a recovery: ")));
+  Component(1).Edit(QStringLiteral("<p>more</p>"));
+  EXPECT_FALSE(QTest::qWaitFor([&] { return mainWindow.reports.size() > 1; }, LongestDelay));
+  journals.writeFailure.reset();
+  Change(1, QStringLiteral("<p>room again</p>"));
+}
+
+TEST_F(PageJournals, ARestoredPageIsAnUnsavedPageOfItsFile) {
+  files.AddFile(IndexFile, "<p>a</p>");
+  JournalledPage kept{IndexFile,
+                      QStringLiteral("index.htm"),
+                      JournalledPage::Saving::ToItsFile,
+                      {"<p>a</p>", QStringLiteral("/site/index.htm"), Changed},
+                      QDateTime::currentDateTime()};
+  EXPECT_TRUE(modWorkFlow::RestorePage(context, kept));
+  EXPECT_EQ(Component(1).Memory(), kept.page);
+  EXPECT_EQ(Page(1).windowTitle(), QStringLiteral("index.htm"));
+  EXPECT_EQ(mainWindow.tabs[0].caption, QStringLiteral("index.htm"));
+  EXPECT_TRUE(IsWritten(Changed));
+  Answer(MessageAnswer::Cancel);
+  Page(1).close();
+  EXPECT_EQ(dialogs.messages.size(), 1);
+  EXPECT_EQ(modWorkFlow::SavePage(context, Page(1), dialog, Record(1), AsBefore), 0);
+  EXPECT_EQ(Content(IndexFile), "<p>changed</p>");
+  EXPECT_EQ(Record(1).Path, IndexFile);
+  EXPECT_TRUE(IsEmpty());
+}
+
+TEST_F(PageJournals, ARestoredPageThatWasNeverSavedIsANewPage) {
+  New();
+  JournalledPage kept;
+  kept.caption = QStringLiteral("Untitled 1");
+  kept.page = {"<p>", QStringLiteral("/home/"), Changed};
+  modWorkFlow::RestorePage(context, kept);
+  EXPECT_EQ(Page(2).windowTitle(), QStringLiteral("Untitled 2"));
+  EXPECT_EQ(Record(2).HasFile, False16);
+  EXPECT_EQ(Record(2).Path, QString());
+}
+
+TEST_F(PageJournals, ARestoredPageWhoseFileIsReadOnlyIsReadOnly) {
+  files.AddFile(IndexFile, "<p>a</p>");
+  files.MakeReadOnly(IndexFile);
+  JournalledPage kept;
+  kept.path = IndexFile;
+  kept.page.document = Changed;
+  modWorkFlow::RestorePage(context, kept);
+  EXPECT_EQ(mainWindow.tabs[0].caption, QStringLiteral("index.htm (Read-Only)"));
+  EXPECT_EQ(Record(1).TempPath, QString());
+}
+
+TEST_F(PageJournals, APageThatCannotBeRestoredLeavesNoHalfPage) {
+  components.onEditingComponent = [](FakeEditingComponent &component) {
+    component.nextLoadFailure =
+        RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("test"));
+  };
+  EXPECT_EQ(ErrorOf([&] { modWorkFlow::RestorePage(context, {}); }), ErrorNumber::DeviceIoError);
+  EXPECT_TRUE(mainWindow.tabs.empty());
+}
+
+class ReplacedVersionsTest : public EditorWorld {
+ protected:
+  ReplacedVersionsTest() { platform.replaced = &replaced; }
+  void Save(int number) {
+    modWorkFlow::SavePage(context, Page(number), dialog, Record(number), AsBefore);
+  }
+  static QStringList Versions(std::initializer_list<const char *> contents) {
+    QStringList versions;
+    for (const char *content : contents)
+      versions << QStringLiteral("\\site\\index.htm: ") + QString::fromUtf8(content);
+    return versions;
+  }
+
+  FakeReplacedVersions replaced;
+};
+
+TEST_F(ReplacedVersionsTest, SavingWhatWasLoadedAndSavedKeepsNothing) {
+  Open(IndexFile);
+  Component(1).Edit(Changed);
+  Save(1);
+  Component(1).Edit(QStringLiteral("<p>more</p>"));
+  Save(1);
+  EXPECT_EQ(replaced.kept, QStringList());
+  EXPECT_TRUE(mainWindow.reports.isEmpty());
+}
+
+TEST_F(ReplacedVersionsTest, AFileThatAnotherProgramChangedIsKeptAndTheStatusBarSaysSo) {
+  Open(IndexFile);
+  files.AddFile(IndexFile, "<p>b</p>");
+  Component(1).Edit(Changed);
+  Save(1);
+  EXPECT_EQ(replaced.kept, Versions({"<p>b</p>"}));
+  EXPECT_EQ(Content(IndexFile), "<p>changed</p>");
+  ASSERT_EQ(mainWindow.reports.size(), 1);
+  EXPECT_EQ(mainWindow.reports[0],
+            QStringLiteral("/site/index.htm held another version. It was replaced and is kept as "
+                           "/kept/1"));
+}
+
+TEST_F(ReplacedVersionsTest, AFileThatThePlainSavesOwnRuleLeadsToIsKept) {
+  Open(QStringLiteral("\\site\\first.htm"));
+  Open(IndexFile, "<p>another page</p>");
+  Save(1);
+  EXPECT_EQ(replaced.kept, QStringList());
+  Save(1);
+  EXPECT_EQ(replaced.kept, Versions({"<p>another page</p>"}));
+}
+
+TEST_F(ReplacedVersionsTest, AFileChosenForANewPageIsKept) {
+  files.AddFile(IndexFile, "<p>there before</p>");
+  New();
+  dialog.ExpectSave(IndexFile);
+  modWorkFlow::SavePage(context, Page(1), dialog, Record(1), UnderNewName);
+  EXPECT_EQ(replaced.kept, Versions({"<p>there before</p>"}));
+}
+
+TEST_F(ReplacedVersionsTest, ARestoredPageKeepsOnlyWhatItDidNotComeFrom) {
+  files.AddFile(IndexFile, "<p>a</p>");
+  JournalledPage kept{
+      IndexFile, {}, JournalledPage::Saving::ToItsFile, {"<p>a</p>", {}, Changed}, {}};
+  modWorkFlow::RestorePage(context, kept);
+  Save(1);
+  EXPECT_EQ(replaced.kept, QStringList());
+  files.AddFile(IndexFile, "<p>newer</p>");
+  modWorkFlow::RestorePage(context, kept);
+  Save(2);
+  EXPECT_EQ(replaced.kept, Versions({"<p>newer</p>"}));
+}
+
+TEST_F(ReplacedVersionsTest, WhatCannotBeKeptIsNotReplaced) {
+  Open(IndexFile);
+  files.AddFile(IndexFile, "<p>b</p>");
+  replaced.failure = ErrorNumber::DiskFull;
+  Component(1).Edit(Changed);
+  Save(1);
+  EXPECT_EQ(Content(IndexFile), "<p>b</p>");
+  ASSERT_EQ(mainWindow.reports.size(), 1);
+  EXPECT_TRUE(mainWindow.reports[0].contains(QStringLiteral("could not be saved")));
+}
+
+}  // namespace
+}  // namespace velor
