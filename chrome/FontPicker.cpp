@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/FontPicker.h"
 
-
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QFocusEvent>

@@ -1,234 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/HouseStyle.h"
 
+#include "chrome/HouseDrawing.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
-#include "platform/WindowSystem.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QStyleOption>
-#include <QWidget>
 
 #include <algorithm>
+#include <bit>
 
 namespace velor {
 namespace {
 
-/// Room left and right of a button's picture and text.
-constexpr int BesideIconPadding = 6;
-/// What the flat painter's rings take of a combo box and of a button, on every side.
-constexpr int ComboRings = 2;
-constexpr int ButtonRings = 3;
+/// Room left and right of a tool button's picture and words, and of a push button's words.
+constexpr int BesideToolLabel = 9;
+constexpr int BesideButtonText = 12;
 /// Between a group's title and its frame.
 constexpr int TitleSpace = 3;
-/// The line below the text of a flat combo box that has the keyboard.
-constexpr int FocusLine = 2;
+/// What a box's text stands back from its edge, beyond the toolkit's own distance.
+constexpr int TextInset = 3;
+/// The distance of texts in lists and their headers from the cell's edges.
+constexpr int CellInset = 6;
+constexpr int HeaderHeight = 26;
 
-bool IsFlat(const QWidget *widget) {
-  return widget && widget->property(HouseStyle::Flat).toBool();
-}
-
-bool HasThinEdge(const QWidget *widget) {
-  return widget &&
-         (widget->property(ExtendedStyleProperty).toInt() & WindowBits::ExtendedStaticEdge) != 0;
-}
-
-void FillRounded(QPainter *painter, const QRect &rect, const QColor &color) {
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setPen(Qt::NoPen);
-  painter->setBrush(color);
-  painter->drawRoundedRect(rect, Rounding, Rounding);
-  painter->restore();
-}
-
-/// The field behind a flat button; nothing at rest.
-void DrawButtonField(const QStyleOption *option, QPainter *painter) {
-  const bool enabled = option->state & QStyle::State_Enabled;
-  const bool down = option->state & (QStyle::State_Sunken | QStyle::State_On);
-  if (down) {
-    FillRounded(painter, option->rect,
-                enabled ? PressedField(option->palette) : Hairline(option->palette));
-  } else if (enabled && (option->state & QStyle::State_MouseOver)) {
-    FillRounded(painter, option->rect, HoverField(option->palette));
-  }
-}
-
-/// The field and edge of boxes and push buttons; the edge tells the keyboard's place.
-void DrawBox(const QStyleOption *option, QPainter *painter, const QWidget *widget,
-             const QColor &field) {
-  const QPalette &palette = option->palette;
-  const bool enabled = option->state & QStyle::State_Enabled;
-  QColor edge = enabled && !HasThinEdge(widget) ? BoxEdge(palette) : Hairline(palette);
-  if (enabled && (option->state & QStyle::State_HasFocus)) {
-    edge = palette.color(QPalette::Highlight);
-  } else if (enabled && (option->state & QStyle::State_MouseOver)) {
-    edge = QuietText(palette);
-  }
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setPen(edge);
-  painter->setBrush(field);
-  painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), Rounding - 0.5,
-                           Rounding - 0.5);
-  painter->restore();
-}
-
-QColor EntryField(const QStyleOption *option) {
-  const bool enabled = option->state & QStyle::State_Enabled;
-  return option->palette.color(enabled ? QPalette::Base : QPalette::Window);
-}
-
-bool ShowsFocus(const QStyleOption *option) {
-  return (option->state & QStyle::State_Enabled) && (option->state & QStyle::State_HasFocus);
-}
-
-/// A field that its flat painter frames; inside it the keyboard's place has a frame of its own.
-void DrawFlatField(const QStyleOption *option, QPainter *painter, const QColor &field, int rings,
-                   const QColor &innerEdge) {
-  painter->fillRect(option->rect, field);
-  if (!innerEdge.isValid()) return;
-  painter->setPen(innerEdge);
-  painter->setBrush(Qt::NoBrush);
-  painter->drawRect(option->rect.adjusted(rings, rings, -rings - 1, -rings - 1));
-}
-
-void DrawEntryBox(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
-  if (IsFlat(widget)) {
-    DrawFlatField(option, painter, EntryField(option), 0,
-                  ShowsFocus(option) ? option->palette.color(QPalette::Highlight) : QColor());
-    return;
-  }
-  DrawBox(option, painter, widget, EntryField(option));
-}
-
-void DrawPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
-  const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
-  QStyleOption box(*option);
-  if (button && (button->features & QStyleOptionButton::DefaultButton)) {
-    box.state |= QStyle::State_HasFocus;
-  }
-  QColor field = option->palette.color(QPalette::Button);
-  if (option->state & (QStyle::State_Sunken | QStyle::State_On)) {
-    field = PressedField(option->palette);
-  } else if ((option->state & QStyle::State_MouseOver) && (option->state & QStyle::State_Enabled)) {
-    field = HoverField(option->palette);
-  }
-  if (IsFlat(widget)) {
-    QColor inner = ShowsFocus(&box) ? BoxEdge(option->palette) : QColor();
-    if (ShowsFocus(option)) inner = option->palette.color(QPalette::Highlight);
-    DrawFlatField(option, painter, field, ButtonRings, inner);
-    return;
-  }
-  DrawBox(&box, painter, widget, field);
-}
-
-void DrawComboArrow(const QStyleOptionComplex *option, QPainter *painter, const QRect &place) {
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setBrush(Qt::NoBrush);
-  const bool enabled = option->state & QStyle::State_Enabled;
-  painter->setPen(QPen(enabled ? QuietText(option->palette)
-                               : option->palette.color(QPalette::Disabled, QPalette::Text),
-                       1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  const QPointF tip = QRectF(place).center() + QPointF(0, 2);
-  painter->drawPolyline(QPolygonF{{tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}});
-  painter->restore();
-}
-
-/// A combo box that its flat painter frames, with a button as wide as the painter has it.
-void DrawFlatCombo(const QStyleOptionComplex *option, QPainter *painter, int buttonWidth) {
-  const QRect inside = option->rect.adjusted(ComboRings, ComboRings, -ComboRings, -ComboRings);
-  QRect button = inside;
-  button.setLeft(inside.right() + 1 - buttonWidth);
-  painter->fillRect(option->rect, EntryField(option));
-  painter->fillRect(button, option->palette.button());
-  if (ShowsFocus(option)) {
-    painter->fillRect(QRect(inside.left(), inside.bottom() + 1 - FocusLine,
-                            inside.width() - buttonWidth, FocusLine),
-                      option->palette.highlight());
-  }
-  DrawComboArrow(option, painter, button);
-}
-
-void DrawHairlineFrame(const QStyleOption *option, QPainter *painter) {
-  painter->save();
-  painter->setPen(Hairline(option->palette));
-  painter->setBrush(Qt::NoBrush);
-  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-  painter->restore();
-}
-
-/// A tab on top of its pages: the one in front is open towards them and carries a coloured line,
-/// the others are words alone.
-void DrawTab(const QStyleOptionTab *tab, QPainter *painter) {
-  const bool inFront = tab->state & QStyle::State_Selected;
-  const bool enabled = tab->state & QStyle::State_Enabled;
-  const QRect area = tab->rect;
-  if (!inFront) {
-    if (enabled && (tab->state & QStyle::State_MouseOver)) {
-      FillRounded(painter, area.adjusted(2, 3, -2, -3), HoverField(tab->palette));
-    }
-    return;
-  }
-  painter->fillRect(area, tab->palette.window());
-  const QColor line = Hairline(tab->palette);
-  painter->fillRect(area.left(), area.top(), 1, area.height(), line);
-  painter->fillRect(area.right(), area.top(), 1, area.height(), line);
-  painter->fillRect(area.left(), area.top(), area.width(), FocusLine,
-                    enabled ? tab->palette.highlight() : QBrush(line));
-}
-
-void DrawToolBar(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
-  painter->fillRect(option->rect, option->palette.window());
-  if (widget && widget->property(HouseStyle::OnBand).toBool()) return;
-  painter->fillRect(QRect(option->rect.left(), option->rect.bottom(), option->rect.width(), 1),
-                    Hairline(option->palette));
-}
-
-void DrawSeparator(const QStyleOption *option, QPainter *painter) {
-  const QRect area = option->rect;
-  painter->fillRect(
-      QRect(area.center().x(), area.top() + Rounding, 1, area.height() - 2 * Rounding),
-      Hairline(option->palette));
-}
-
-/// The buttons of a maximised page window, at the end of the menu bar.
-void DrawMdiButton(const QStyleOptionComplex *option, QPainter *painter, const QRect &place,
-                   QStyle::SubControl button) {
-  if (option->activeSubControls & button) {
-    const bool down = option->state & QStyle::State_Sunken;
-    FillRounded(painter, place, down ? PressedField(option->palette) : HoverField(option->palette));
-  }
-  const QRectF sign = QRectF(place).adjusted(5, 5, -5, -5);
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setBrush(Qt::NoBrush);
-  painter->setPen(QPen(option->palette.color(QPalette::ButtonText), 1.4, Qt::SolidLine,
-                       Qt::RoundCap, Qt::RoundJoin));
-  if (button == QStyle::SC_MdiCloseButton) {
-    painter->drawLine(sign.topLeft(), sign.bottomRight());
-    painter->drawLine(sign.bottomLeft(), sign.topRight());
-  } else if (button == QStyle::SC_MdiNormalButton) {
-    painter->drawRect(sign);
-  } else {
-    painter->drawLine(sign.bottomLeft(), sign.bottomRight());
-  }
-  painter->restore();
-}
-
-void DrawMenuBarItem(const QStyleOptionMenuItem *item, QPainter *painter, const QStyle *style) {
-  painter->fillRect(item->rect, item->palette.window());
-  const bool enabled = item->state & QStyle::State_Enabled;
-  if (enabled && (item->state & QStyle::State_Selected)) {
-    FillRounded(painter, item->rect.adjusted(0, 1, 0, -1),
-                (item->state & QStyle::State_Sunken) ? PressedField(item->palette)
-                                                     : HoverField(item->palette));
-  }
-  int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine;
-  if (!style->styleHint(QStyle::SH_UnderlineShortcut, item)) flags |= Qt::TextHideMnemonic;
-  style->drawItemText(painter, item->rect, flags, item->palette, enabled, item->text,
-                      QPalette::ButtonText);
+const QStyleOptionToolButton *TextedToolButton(const QStyleOption *option) {
+  const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(option);
+  return button && button->toolButtonStyle == Qt::ToolButtonTextBesideIcon ? button : nullptr;
 }
 
 }  // namespace
@@ -249,10 +49,10 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
       DrawPushButton(option, painter, widget);
       return;
     case PE_PanelButtonTool:
-      DrawButtonField(option, painter);
+      DrawToolField(option, painter);
       return;
     case PE_IndicatorToolBarSeparator:
-      DrawSeparator(option, painter);
+      DrawToolSeparator(option, painter);
       return;
     case PE_FrameGroupBox: {
       QStyleOption belowTitle(*option);
@@ -268,9 +68,12 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
     case PE_PanelMenuBar:
       return;
     case PE_PanelStatusBar:
-      painter->fillRect(option->rect, option->palette.window());
-      painter->fillRect(QRect(option->rect.topLeft(), QSize(option->rect.width(), 1)),
-                        Hairline(option->palette));
+      DrawStatusBar(option, painter);
+      return;
+    case PE_PanelItemViewItem:
+      if (const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {
+        DrawItemField(item, painter);
+      }
       return;
     default:
       QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -284,11 +87,14 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption *option,
       DrawToolBar(option, painter, widget);
       return;
     case CE_ToolButtonLabel:
-      if (const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(option);
-          button && button->toolButtonStyle == Qt::ToolButtonTextBesideIcon) {
-        QStyleOptionToolButton inset(*button);
-        inset.rect.adjust(BesideIconPadding, 0, -BesideIconPadding, 0);
-        QProxyStyle::drawControl(element, &inset, painter, widget);
+      if (const QStyleOptionToolButton *button = TextedToolButton(option)) {
+        DrawToolLabel(button, painter, proxy());
+        return;
+      }
+      break;
+    case CE_HeaderSection:
+      if (const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(option)) {
+        DrawHeaderSection(header, painter);
         return;
       }
       break;
@@ -299,6 +105,7 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption *option,
         return;
       }
       break;
+    case CE_HeaderEmptyArea:
     case CE_MenuBarEmptyArea:
       painter->fillRect(option->rect, option->palette.window());
       return;
@@ -318,12 +125,13 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
                                     QPainter *painter, const QWidget *widget) const {
   const auto *combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
   if (control == CC_ComboBox && combo && combo->frame) {
-    if (IsFlat(widget)) {
-      DrawFlatCombo(option, painter, pixelMetric(PM_ScrollBarExtent, option, widget));
-      return;
-    }
-    DrawEntryBox(option, painter, widget);
-    DrawComboArrow(option, painter, subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget));
+    DrawComboBox(option, painter, widget,
+                 subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget),
+                 pixelMetric(PM_ScrollBarExtent, option, widget));
+    return;
+  }
+  if (control == CC_ScrollBar && !IsFlat(widget)) {
+    DrawScrollBar(option, painter, subControlRect(control, option, SC_ScrollBarSlider, widget));
     return;
   }
   if (control == CC_MdiControls) {
@@ -334,6 +142,29 @@ void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     return;
   }
   QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect HouseStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                                 SubControl part, const QWidget *widget) const {
+  if (control == CC_ScrollBar && !IsFlat(widget)) {
+    if (const auto *bar = qstyleoption_cast<const QStyleOptionSlider *>(option)) {
+      return ScrollBarPart(*bar, part, pixelMetric(PM_ScrollBarSliderMin, option, widget));
+    }
+  }
+  QRect place = QProxyStyle::subControlRect(control, option, part, widget);
+  if (control == CC_ComboBox && part == SC_ComboBoxEditField) {
+    place = visualRect(option->direction, option->rect, place).adjusted(TextInset, 0, 0, 0);
+    place = visualRect(option->direction, option->rect, place);
+  }
+  return place;
+}
+
+QRect HouseStyle::subElementRect(SubElement element, const QStyleOption *option,
+                                 const QWidget *widget) const {
+  const QRect place = QProxyStyle::subElementRect(element, option, widget);
+  const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+  if (element != SE_LineEditContents || !frame || frame->lineWidth == 0) return place;
+  return place.adjusted(TextInset, 0, -TextInset, 0);
 }
 
 int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
@@ -356,6 +187,14 @@ int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
       return BarMargin;
     case PM_MenuBarItemSpacing:
       return BarSpacing;
+    case PM_TabBarTabShiftVertical:
+      return 0;
+    case PM_HeaderMargin:
+      return CellInset;
+    case PM_FocusFrameHMargin:
+      // Lists add one pixel of their own.
+      if (qobject_cast<const QAbstractItemView *>(widget)) return CellInset - 1;
+      return QProxyStyle::pixelMetric(metric, option, widget);
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
   }
@@ -367,8 +206,20 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption *option
   switch (type) {
     case CT_ComboBox:
     case CT_LineEdit:
-    case CT_PushButton:
       result.setHeight(std::max(result.height(), BoxHeight));
+      break;
+    case CT_PushButton:
+      result.setWidth(std::max(result.width(), size.width() + 2 * BesideButtonText));
+      result.setHeight(std::max(result.height(), BoxHeight));
+      break;
+    case CT_HeaderSection:
+      result.setHeight(std::max(result.height(), HeaderHeight));
+      break;
+    case CT_MdiControls:
+      if (const auto *controls = qstyleoption_cast<const QStyleOptionComplex *>(option)) {
+        const int buttons = std::popcount(static_cast<unsigned>(controls->subControls));
+        result = QSize(buttons * BoxHeight, BoxHeight);
+      }
       break;
     case CT_MenuBarItem:
       result += QSize(BarMargin, 0);
@@ -376,9 +227,10 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption *option
       break;
     case CT_ToolButton:
       result.setHeight(std::max(result.height(), BoxHeight));
-      if (const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(option)) {
-        const bool texted = button->toolButtonStyle == Qt::ToolButtonTextBesideIcon;
-        result.setWidth(std::max(result.width(), BoxHeight) + (texted ? BesideIconPadding : 0));
+      result.setWidth(std::max(result.width(), BoxHeight));
+      if (const QStyleOptionToolButton *button = TextedToolButton(option)) {
+        const int words = button->fontMetrics.size(Qt::TextShowMnemonic, button->text).width();
+        result.setWidth(button->iconSize.width() + ToolLabelGap + words + 2 * BesideToolLabel);
       }
       break;
     default:
@@ -397,6 +249,8 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWid
 QIcon HouseStyle::standardIcon(StandardPixmap picture, const QStyleOption *option,
                                const QWidget *widget) const {
   switch (picture) {
+    case SP_DirIcon:
+      return IconFor(QStringLiteral("open"));
     case SP_MessageBoxQuestion:
       return IconFor(QStringLiteral("help"));
     case SP_MessageBoxInformation:

@@ -6,8 +6,8 @@
 namespace velor {
 
 /// Fusion drawn calmer: flat fields, hairlines instead of bevels, round corners under the pointer,
-/// room around the icons, our own pictures in message boxes. Where things lie within a control
-/// stays Fusion's business.
+/// room around icons and texts, scroll bars that are a slider alone, our own pictures in message
+/// boxes. Where else things lie within a control stays Fusion's business.
 class HouseStyle : public QProxyStyle {
   Q_OBJECT
 
@@ -25,6 +25,10 @@ class HouseStyle : public QProxyStyle {
                    const QWidget *widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                           QPainter *painter, const QWidget *widget) const override;
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                       const QWidget *widget) const override;
+  QRect subElementRect(SubElement element, const QStyleOption *option,
+                       const QWidget *widget) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption *option,
                   const QWidget *widget) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,

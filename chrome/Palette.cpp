@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/Palette.h"
 
+#include "chrome/ComboBoxAccess.h"
 #include "chrome/HouseStyle.h"
 #include "chrome/Icons.h"
 
@@ -123,6 +124,7 @@ void DressApplication(QApplication &application) {
   const QPalette palette = keeps ? desktops : PaletteFor(ChosenShade());
   QApplication::setStyle(new HouseStyle);
   QApplication::setPalette(palette);
+  AnnounceComboBoxLabels();
   application.setWindowIcon(ProgramIcon());
 }
 

@@ -9,6 +9,7 @@
 #include "platform/EditingCommands.h"
 
 #include <QHBoxLayout>
+#include <QLineEdit>
 
 namespace velor {
 namespace {
@@ -44,6 +45,8 @@ FormattingBar::FormattingBar(QWidget *parent)
   cpBack = Named(new ColorPicker(QStringLiteral("backcolor"), colors_), "cpBack",
                  tr("Background Color"));
   cpBack->SetColor(PaperWhite);
+  // The keyboard is in the picker's text box, which is heard by a name of its own.
+  Font1->lineEdit()->setAccessibleName(Font1->accessibleName());
   cobFormat->setFixedWidth(FormatWidth);
   Font1->setFixedWidth(FontWidth);
   cobSize->setFixedWidth(SizeWidth);

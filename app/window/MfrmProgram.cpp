@@ -161,6 +161,7 @@ void MfrmProgram::BuildStatusBar() {
   textForm_->setObjectName(QStringLiteral("Sta_2"));
   textForm_->setAccessibleName(QStringLiteral("Charset and line ends"));
   textForm_->setTextFormat(Qt::PlainText);
+  textForm_->setContentsMargins(0, 0, BarMargin, 0);
   Sta->addPermanentWidget(textForm_);
   setStatusBar(Sta);
 }

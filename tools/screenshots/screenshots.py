@@ -42,6 +42,12 @@ class Photographer:
         self.hover(name, role)
         self.program.button(1)
 
+    def list_of(self, name):
+        """Drops an editable box's list down, by its button at the right end."""
+        box = self.program.wait(name, "combo box")
+        self.program.hover(box, across=0.95)
+        self.program.button(1)
+
     def away(self):
         self.program.move(int(1270 * self.factor), int(810 * self.factor))
 
@@ -97,7 +103,8 @@ def main_window(photos):
     photos.popup(lambda: program.key("alt+f"), "file-menu", "Down")
     photos.popup(lambda: program.key("alt+v"), "view-menu", "Right", "Down")
     photos.popup(lambda: photos.click("Text Color"), "colour-palette", "Down")
-    photos.popup(lambda: photos.click("Normal", "combo box"), "combo-list")
+    photos.popup(lambda: photos.click("Block Format", "combo box"), "combo-list")
+    photos.popup(lambda: photos.list_of("Font"), "font-list", "Down")
 
 
 OBJECTS = """<!DOCTYPE html PUBLIC "-//W3C//DTD HTML 4.01 Transitional//EN">
@@ -171,7 +178,12 @@ def dialogs(photos):
         return lambda: program.open_popup(lambda: program.key(keys[0])) or program.key(*keys[1:])
 
     photos.dialog(lambda: photos.click("Image"), "image-dialog", ("Browse...",))
-    photos.dialog(item("alt+i", "Down", "Return"), "link-dialog", ("None", "combo box"))
+    photos.dialog(tab_of("Image", "Appearance"), "image-dialog-appearance", ("Alignment:", "combo box"))
+    def tab_of(opener, tab):
+        return lambda: photos.click(opener) or photos.click(tab, "page tab")
+
+    photos.dialog(item("alt+i", "Down", "Return"), "link-dialog", ("Target Frame:", "combo box"))
+    photos.dialog(tab_of("Project Manager", "Web Pages"), "project-pages", ("Open", "push button"))
     photos.dialog(lambda: photos.click("Table"), "table-dialog", ("Cancel",))
     photos.dialog(lambda: photos.click("Project Manager"), "project-manager", ("Open", "push button"))
     photos.dialog(lambda: photos.click("About"), "about-box", ("Close",))
@@ -184,9 +196,24 @@ def modes(photos):
     for mode in ("View HTML", "Edit HTML"):
         program.press(mode, within=page)
         photos.shot(mode.lower().replace(" ", "-"))
-    program.key("ctrl+F4")
+    program.wait("HTML source", within=page)
+    program.key("ctrl+h")
+    program.wait("Replace with", "text")
+    program.type("page")
+    photos.shot("edit-html-find-bar")
+    program.key("Escape", "ctrl+F4")
     program.press("Preview", within=page)
     photos.shot("preview")
+    program.key("ctrl+F4")
+    photos.dialog(lambda: program.key("ctrl+F4"), "close-prompt", ("Yes", "push button"))
+
+
+def home(scratch):
+    """A home folder that somebody might have."""
+    folder = os.path.join(scratch, "home")
+    for name in ("Documents", "Pictures/Garden", "Pictures/Old Town", "Web Sites/Harbour Notes"):
+        os.makedirs(os.path.join(folder, name), exist_ok=True)
+    return folder
 
 
 def start_up(photos):
@@ -208,7 +235,7 @@ def main(run_folder, out, palette, scale):
         shutil.copytree(run_folder, folder, ignore=shutil.ignore_patterns(
             "velor-*", "*.ini", "Temp*.htm", *left_out))
         program = Program(os.path.join(run_folder, "velor-web-creator"), folder, scratch, out,
-                          {"VELOR_PALETTE": palette, "QT_SCALE_FACTOR": str(factor)})
+                          {"VELOR_PALETTE": palette, "QT_SCALE_FACTOR": str(factor), "HOME": home(scratch)})
         photos = Photographer(program, f"{palette}-{scale}-{name}", factor)
         try:
             if start_up not in scenes:

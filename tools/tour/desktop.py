@@ -168,11 +168,11 @@ class Program:
     def release(self):
         run("xdotool", "mouseup", "1")
 
-    def hover(self, node):
-        """Puts the pointer on a control, where a person would."""
+    def hover(self, node, across=0.5):
+        """Puts the pointer on a control, where a person would; `across` is the share of its width."""
         place = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
         # The bridge tells device-independent pixels.
-        self.move(round((place.x + place.width / 2) * self.scale),
+        self.move(round((place.x + place.width * across) * self.scale),
                   round((place.y + place.height / 2) * self.scale))
 
     def visible_windows(self):

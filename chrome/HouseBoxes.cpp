@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Boxes and buttons, and what of them a flat painter leaves to the style.
+#include "chrome/HouseDrawing.h"
+#include "chrome/HouseStyle.h"
+#include "chrome/Palette.h"
+#include "platform/WindowSystem.h"
+
+#include <QPainter>
+#include <QStyleOption>
+#include <QWidget>
+
+namespace velor {
+namespace {
+
+/// What the flat painter's rings take of a combo box and of a button, on every side.
+constexpr int ComboRings = 2;
+constexpr int ButtonRings = 3;
+/// The line below the text of a flat combo box that has the keyboard.
+constexpr int FocusLine = 2;
+
+bool HasThinEdge(const QWidget *widget) {
+  return widget &&
+         (widget->property(ExtendedStyleProperty).toInt() & WindowBits::ExtendedStaticEdge) != 0;
+}
+
+/// The field and edge of boxes and push buttons; the edge tells the keyboard's place.
+void DrawBox(const QStyleOption *option, QPainter *painter, const QWidget *widget,
+             const QColor &field) {
+  const QPalette &palette = option->palette;
+  const bool enabled = option->state & QStyle::State_Enabled;
+  QColor edge = enabled && !HasThinEdge(widget) ? BoxEdge(palette) : Hairline(palette);
+  if (enabled && (option->state & QStyle::State_HasFocus)) {
+    edge = palette.color(QPalette::Highlight);
+  } else if (enabled && (option->state & QStyle::State_MouseOver)) {
+    edge = QuietText(palette);
+  }
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(edge);
+  painter->setBrush(field);
+  painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), Rounding - 0.5,
+                           Rounding - 0.5);
+  painter->restore();
+}
+
+QColor EntryField(const QStyleOption *option) {
+  const bool enabled = option->state & QStyle::State_Enabled;
+  return option->palette.color(enabled ? QPalette::Base : QPalette::Window);
+}
+
+bool ShowsFocus(const QStyleOption *option) {
+  return (option->state & QStyle::State_Enabled) && (option->state & QStyle::State_HasFocus);
+}
+
+/// A field that its flat painter frames; inside it the keyboard's place has a frame of its own.
+void DrawFlatField(const QStyleOption *option, QPainter *painter, const QColor &field, int rings,
+                   const QColor &innerEdge) {
+  painter->fillRect(option->rect, field);
+  if (!innerEdge.isValid()) return;
+  painter->setPen(innerEdge);
+  painter->setBrush(Qt::NoBrush);
+  painter->drawRect(option->rect.adjusted(rings, rings, -rings - 1, -rings - 1));
+}
+
+void DrawComboArrow(const QStyleOptionComplex *option, QPainter *painter, const QRect &place) {
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setBrush(Qt::NoBrush);
+  const bool enabled = option->state & QStyle::State_Enabled;
+  painter->setPen(QPen(enabled ? QuietText(option->palette)
+                               : option->palette.color(QPalette::Disabled, QPalette::Text),
+                       1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const QPointF tip = QRectF(place).center() + QPointF(0, 2);
+  painter->drawPolyline(QPolygonF{{tip + QPointF(-4, -4), tip, tip + QPointF(4, -4)}});
+  painter->restore();
+}
+
+/// A combo box that its flat painter frames, with a button as wide as the painter has it.
+void DrawFlatCombo(const QStyleOptionComplex *option, QPainter *painter, int buttonWidth) {
+  const QRect inside = option->rect.adjusted(ComboRings, ComboRings, -ComboRings, -ComboRings);
+  QRect button = inside;
+  button.setLeft(inside.right() + 1 - buttonWidth);
+  painter->fillRect(option->rect, EntryField(option));
+  painter->fillRect(button, option->palette.button());
+  if (ShowsFocus(option)) {
+    painter->fillRect(QRect(inside.left(), inside.bottom() + 1 - FocusLine,
+                            inside.width() - buttonWidth, FocusLine),
+                      option->palette.highlight());
+  }
+  DrawComboArrow(option, painter, button);
+}
+
+}  // namespace
+
+bool IsFlat(const QWidget *widget) {
+  return widget && widget->property(HouseStyle::Flat).toBool();
+}
+
+void FillRounded(QPainter *painter, const QRect &rect, const QColor &color) {
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(Qt::NoPen);
+  painter->setBrush(color);
+  painter->drawRoundedRect(rect, Rounding, Rounding);
+  painter->restore();
+}
+
+void DrawHairlineFrame(const QStyleOption *option, QPainter *painter) {
+  painter->save();
+  painter->setPen(Hairline(option->palette));
+  painter->setBrush(Qt::NoBrush);
+  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  painter->restore();
+}
+
+void DrawEntryBox(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
+  if (IsFlat(widget)) {
+    DrawFlatField(option, painter, EntryField(option), 0,
+                  ShowsFocus(option) ? option->palette.color(QPalette::Highlight) : QColor());
+    return;
+  }
+  DrawBox(option, painter, widget, EntryField(option));
+}
+
+void DrawPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
+  const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+  QStyleOption box(*option);
+  if (button && (button->features & QStyleOptionButton::DefaultButton)) {
+    box.state |= QStyle::State_HasFocus;
+  }
+  QColor field = option->palette.color(QPalette::Button);
+  if (option->state & (QStyle::State_Sunken | QStyle::State_On)) {
+    field = PressedField(option->palette);
+  } else if ((option->state & QStyle::State_MouseOver) && (option->state & QStyle::State_Enabled)) {
+    field = HoverField(option->palette);
+  }
+  if (IsFlat(widget)) {
+    QColor inner = ShowsFocus(&box) ? BoxEdge(option->palette) : QColor();
+    if (ShowsFocus(option)) inner = option->palette.color(QPalette::Highlight);
+    DrawFlatField(option, painter, field, ButtonRings, inner);
+    return;
+  }
+  DrawBox(&box, painter, widget, field);
+}
+
+void DrawComboBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget,
+                  const QRect &arrow, int flatButtonWidth) {
+  if (IsFlat(widget)) {
+    DrawFlatCombo(option, painter, flatButtonWidth);
+    return;
+  }
+  DrawEntryBox(option, painter, widget);
+  DrawComboArrow(option, painter, arrow);
+}
+
+}  // namespace velor
