@@ -376,8 +376,8 @@ std::uint32_t HtmlNameKey(QStringView name) {
   return key | 1U;
 }
 
-std::vector<HtmlToken> TokenizeHtml(QStringView html) {
-  return Tokenizer(html).Run();
+std::vector<HtmlToken> TokenizeHtml(QStringView text) {
+  return Tokenizer(text).Run();
 }
 
 }  // namespace velor

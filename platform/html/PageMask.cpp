@@ -38,9 +38,10 @@ class PageMasker {
   void Run() {
     while (at_ < source_.size()) {
       const qsizetype open = source_.indexOf(u'<', at_);
-      if (open < 0 || open + 1 >= source_.size()) break;
+      TextUpTo(open < 0 ? source_.size() : open);
+      if (open < 0) break;
       at_ = open;
-      const QChar next = source_[at_ + 1];
+      const QChar next = at_ + 1 < source_.size() ? source_[at_ + 1] : QChar();
       if (const qsizetype end = EndOfServerCode(at_); end > at_)
         Note(end, PageMask::Kind::Content);
       else if (source_.sliced(at_).startsWith(u"<!--"))
@@ -51,8 +52,9 @@ class PageMasker {
       else if (next == u'!' || next == u'/' || next == u'?')
         at_ = After(source_, u">", at_);
       else
-        ++at_;
+        LoneSign();
     }
+    LeaveOutTail();
     Write();
   }
 
@@ -82,6 +84,30 @@ class PageMasker {
     at_ = end;
   }
 
+  /// Takes note of blanks behind the page's end tags, until something else follows.
+  void TextUpTo(qsizetype end) {
+    if (!isBehindEnd_ || end == at_) return;
+    if (std::all_of(source_.begin() + at_, source_.begin() + end, IsSpace))
+      tail_.push_back({at_, end - at_, 0, 0, PageMask::Kind::LeftOut, {}});
+    else
+      GoOn();
+  }
+  void LoneSign() {
+    GoOn();
+    ++at_;
+  }
+  void GoOn() {
+    isBehindEnd_ = false;
+    tail_.clear();
+  }
+  void LeaveOutTail() {
+    std::vector<PageMask::Piece> &pieces = mask_.pieces_;
+    pieces.insert(pieces.end(), tail_.begin(), tail_.end());
+    std::sort(pieces.begin(), pieces.end(), [](const PageMask::Piece &a, const PageMask::Piece &b) {
+      return a.source < b.source;
+    });
+  }
+
   /// A tag with the server code in it, and the raw text behind it.
   void Tag() {
     const qsizetype start = at_;
@@ -91,8 +117,13 @@ class PageMasker {
            source_[nameEnd] != u'/' && source_[nameEnd] != u'<')
       ++nameEnd;
     const QStringView name = source_.sliced(start + 1, nameEnd - start - 1);
-    if (name.isEmpty()) nameEnd = start + 2;  // an end tag
+    const bool isEndTag = name.isEmpty();
+    if (isEndTag) nameEnd = start + 2;
     at_ = nameEnd;
+    if (isEndTag && IsPagesEndTag(start))
+      isBehindEnd_ = true;
+    else
+      GoOn();
     AttributesOf(name);
     if (name.compare(u"noscript", Qt::CaseInsensitive) == 0) {
       const qsizetype close = CloseOf(name, at_);
@@ -108,6 +139,16 @@ class PageMasker {
         elements::IsOneOf(key, elements::titleElements))
       RawText(name);
     if (key == elements::plaintext) at_ = source_.size();
+  }
+
+  bool IsPagesEndTag(qsizetype start) const {
+    const QStringView rest = source_.sliced(start + 2);
+    for (const QStringView name : {QStringView(u"body"), QStringView(u"html")}) {
+      if (rest.startsWith(name, Qt::CaseInsensitive) && rest.size() > name.size() &&
+          (IsSpace(rest[name.size()]) || rest[name.size()] == u'>'))
+        return true;
+    }
+    return false;
   }
 
   /// Walks to the tag's end; `at_` is behind it then.
@@ -205,12 +246,19 @@ class PageMasker {
       piece.masked = masked.size();
       piece.text = source_.sliced(piece.source, piece.sourceLength).toString();
       const QString word = mask_.stem_ + QString::number(number) + u'e';
-      if (piece.kind == PageMask::Kind::Content)
-        masked += QStringLiteral("<!--") + word + QStringLiteral("-->");
-      else if (piece.kind == PageMask::Kind::AttributeName)
-        masked += u' ' + word;  // behind a tag's name it must not become part of it
-      else
-        masked += word;
+      switch (piece.kind) {
+        case PageMask::Kind::Content:
+          masked += QStringLiteral("<!--") + word + QStringLiteral("-->");
+          break;
+        case PageMask::Kind::AttributeName:
+          masked += u' ' + word;  // behind a tag's name it must not become part of it
+          break;
+        case PageMask::Kind::InTag:
+          masked += word;
+          break;
+        case PageMask::Kind::LeftOut:
+          break;
+      }
       piece.maskedLength = masked.size() - piece.masked;
       done = piece.source + piece.sourceLength;
     }
@@ -220,6 +268,8 @@ class PageMasker {
   QStringView source_;
   PageMask &mask_;
   qsizetype at_ = 0;
+  bool isBehindEnd_ = false;
+  std::vector<PageMask::Piece> tail_;
 };
 
 PageMask::PageMask(const QString &source) {

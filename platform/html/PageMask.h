@@ -12,6 +12,8 @@ namespace velor {
 /// markup where scripts are off, and tears a HEAD open), the attribute that makes a TEMPLATE a
 /// shadow root (whose content no serialisation has). Content becomes a comment, what stands inside
 /// a tag a word. Real comments stay.
+/// Left out altogether: the blanks behind a page's last end tags. A parser moves them before these,
+/// where they would stand between the page's text and whatever is added at its end.
 ///
 /// Offsets count UTF-16 units. "Masked" is the text that the engine is given, or one of its
 /// serialisations.
@@ -34,7 +36,7 @@ class PageMask {
 
  private:
   friend class PageMasker;
-  enum class Kind { Content, AttributeName, InTag };
+  enum class Kind { Content, AttributeName, InTag, LeftOut };
   struct Piece {
     qsizetype source = 0;
     qsizetype sourceLength = 0;

@@ -102,8 +102,8 @@ qsizetype ImpliedTags(const QString &come, const TokenText &source, const TokenT
 
 }  // namespace
 
-qsizetype OutsideBytes(const EditedPage &page) {
-  if (page.file == page.saved) return 0;
+BytesBeyondEdit CountBytesBeyondEdit(const EditedPage &page) {
+  if (page.file == page.saved) return {};
   const DecodedPage file = DecodePage(page.file);
   const DecodedPage saved = DecodePage(page.saved);
   CharsetConverter converter(file.encoding.charset);
@@ -115,8 +115,9 @@ qsizetype OutsideBytes(const EditedPage &page) {
   const Distance edit = DistanceOfEdit(source, before, TokenText(page.now));
   const qsizetype gone = size(changed.gone) - size(edit.gone);
   const qsizetype come = size(changed.come) - size(WithLineEnds(edit.come, ends));
-  const qsizetype implied = come > 0 ? ImpliedTags(changed.come, source, before) : 0;
-  return std::max<qsizetype>(0, gone) + std::max<qsizetype>(0, come - implied);
+  const qsizetype implied =
+      come > 0 ? std::min(come, ImpliedTags(changed.come, source, before)) : 0;
+  return {std::max<qsizetype>(0, gone) + std::max<qsizetype>(0, come - implied), implied};
 }
 
 }  // namespace velor

@@ -16,9 +16,16 @@ struct EditedPage {
   QString now;     ///< the document's HTML after the edit
 };
 
-/// How many bytes of the file changed beyond what the edit itself takes away and adds. What the
-/// edit takes away is found in the file by comparing it with the document, what it adds in the
-/// document; both sides are counted with the page's charset.
-qsizetype OutsideBytes(const EditedPage &page);
+/// How many bytes of the file changed beyond what the edit itself takes away and adds.
+struct BytesBeyondEdit {
+  /// Neither the edit's nor needed for it.
+  qsizetype outside = 0;
+  /// Tags that the parser had implied and that the edited document cannot do without.
+  qsizetype implied = 0;
+};
+
+/// What the edit takes away is found in the file by comparing it with the document, what it adds in
+/// the document; both sides are counted with the page's charset.
+BytesBeyondEdit CountBytesBeyondEdit(const EditedPage &page);
 
 }  // namespace velor

@@ -128,10 +128,12 @@ QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) 
   const QString saved = Parsed(page.saved);
   const bool isEqual =
       saved == page.now || saved == Parsed(page.now.toUtf8().prepend("\xEF\xBB\xBF"));
+  const BytesBeyondEdit beyond = CountBytesBeyondEdit(page);
   return {{QStringLiteral("file"), file},
           {QStringLiteral("edited"), isEdited},
           {QStringLiteral("identical"), page.saved == page.file},
-          {QStringLiteral("bytes_outside"), static_cast<int>(OutsideBytes(page))},
+          {QStringLiteral("bytes_outside"), static_cast<int>(beyond.outside)},
+          {QStringLiteral("bytes_implied"), static_cast<int>(beyond.implied)},
           {QStringLiteral("rung"), QLatin1String(RungName(editor.Compose().rung))},
           {QStringLiteral("document_equal"), isEqual},
           {QStringLiteral("ms"), milliseconds}};

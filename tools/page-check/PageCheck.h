@@ -24,7 +24,8 @@ class PageCheck {
 
   /// Checks one page; `kind` empty for no edit, `place` counts from 0. Native path. The answer has
   /// `file`, `edited` (false where the page has no such place), `identical`, `bytes_outside`,
-  /// `rung`, `document_equal` and `ms` (the time that saving took).
+  /// `bytes_implied` (see BytesBeyondEdit), `rung`, `document_equal` and `ms` (the time that saving
+  /// took).
   QJsonObject Run(const QString &file, const QString &kind, int place);
 
  private:
