@@ -26,7 +26,8 @@
   const named = (names) => (node) => isElement(node) && names.has(node.tagName);
   const isBlock = named(blocks);
   // What is closed to editing is one thing too.
-  const isIsland = (node) => node.getAttribute('contenteditable')?.toLowerCase() === 'false';
+  const isIsland = (node) =>
+    isElement(node) && node.getAttribute('contenteditable')?.toLowerCase() === 'false';
   const isAtom = (node) =>
     isElement(node) && (atoms.has(node.tagName) || node.tagName === 'svg' || isIsland(node));
   const isBreak = (node) => isElement(node) && node.tagName === 'BR';
@@ -181,7 +182,7 @@
   }
 
   velor.dom = {
-    isElement, isText, isBlock, isAtom, isBreak, isNeutral, isInline, isBlank, isIgnorable, isShown,
+    isElement, isText, isBlock, isAtom, isIsland, isBreak, isNeutral, isInline, isBlank, isIgnorable, isShown,
     isPlainDivision, writesStyles,
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),
