@@ -6,12 +6,19 @@
   const velor = { host: null, version: 0 };
   globalThis.velor = velor;
 
-  // Serialising a larger document after every key would be felt; the program then asks for it.
+  // A larger document is asked for by the program when it wants it.
   const mirrorLimit = 200000;
+  // The document is told of in idle time, when no change came for a while; during steady work after
+  // the longer time, so that little is lost with the page's process. Milliseconds.
+  const mirrorPause = 200;
+  const mirrorLag = 700;
 
   let dirty = true;
   let waiting = false;
   let mirrorFits = true;
+  let mirrorWaits = false;
+  let changedFirst = 0;  // since the mirror was given
+  let changedLast = 0;
   const frame = 16;  // milliseconds
   let lastPush = -Infinity;
   let pushedPoints = null;
@@ -27,6 +34,34 @@
     });
   };
 
+  const hidden = () => document.visibilityState === 'hidden';
+  const whenIdle = () => requestIdleCallback(giveMirror, { timeout: mirrorPause });
+
+  function wantMirror() {
+    if (!mirrorFits) return;
+    changedLast = performance.now();
+    if (hidden()) {
+      writeMirror();
+    } else if (!mirrorWaits) {
+      changedFirst = changedLast;
+      mirrorWaits = true;
+      whenIdle();
+    }
+  }
+  function giveMirror() {
+    if (!mirrorWaits) return;
+    const now = performance.now();
+    const busy = now - changedLast < mirrorPause && now - changedFirst < mirrorLag;
+    if (busy && !hidden()) whenIdle();
+    else writeMirror();
+  }
+  function writeMirror() {
+    mirrorWaits = false;
+    const html = velor.serialize();
+    mirrorFits = html.length <= mirrorLimit;
+    if (mirrorFits) velor.host.pushMirror(html);
+  }
+
   velor.push = () => {
     waiting = false;
     if (!velor.host) return;
@@ -34,12 +69,7 @@
     velor.host.pushState(JSON.stringify({
       version: ++velor.version, dirty, generation: velor.generation(), ...velor.state(),
     }));
-    // After the state: the toolbar does not wait for it.
-    if (dirty && mirrorFits) {
-      const html = velor.serialize();
-      mirrorFits = html.length <= mirrorLimit;
-      if (mirrorFits) velor.host.pushMirror(html);
-    }
+    if (dirty) wantMirror();
     dirty = false;
     pushedPoints = velor.selection.points();
     lastPush = performance.now();
@@ -52,7 +82,7 @@
     if (waiting) return;
     waiting = true;
     const rested = performance.now() - lastPush > frame;
-    if (rested || document.visibilityState === 'hidden') Promise.resolve().then(velor.push);
+    if (rested || hidden()) Promise.resolve().then(velor.push);
     else requestAnimationFrame(velor.push);
   };
 
@@ -63,7 +93,8 @@
   };
 
   const pushWhenHidden = () => {
-    if (waiting && document.visibilityState === 'hidden') velor.push();
+    if (waiting && hidden()) velor.push();
+    if (mirrorWaits && hidden()) writeMirror();
   };
 
   velor.contentChanged = () => {

@@ -29,7 +29,8 @@
   const named = (names) => (node) => isElement(node) && names.has(node.tagName);
   const isBlock = named(blocks);
   // What is closed to editing is one thing too.
-  const isIsland = (node) => node.getAttribute('contenteditable')?.toLowerCase() === 'false';
+  const isIsland = (node) =>
+    isElement(node) && node.getAttribute('contenteditable')?.toLowerCase() === 'false';
   const isAtom = (node) =>
     isElement(node) && (atoms.has(node.tagName) || node.tagName === 'svg' || isIsland(node));
   function isObject(node) {
@@ -190,7 +191,8 @@
   }
 
   velor.dom = {
-    isElement, isText, isBlock, isAtom, isObject, isBreak, isNeutral, isInline, isBlank, isIgnorable, isShown,
+    isElement, isText, isBlock, isAtom, isIsland, isObject, isBreak, isNeutral, isInline, isBlank, isIgnorable,
+    isShown,
     isPlainDivision, writesStyles,
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),

@@ -5,7 +5,7 @@
 (() => {
   'use strict';
   const { velor } = globalThis;
-  const { isInline, isHeading, create } = velor.dom;
+  const { isInline, isBlock, isHeading, create } = velor.dom;
 
   const style = (element) => getComputedStyle(element);
 
@@ -98,6 +98,10 @@
     element.setAttribute('style', all.filter((each) => each.trim()).join(';') + end);
   }
 
+  // A block whose style is its text's alone.
+  const holdsText = (element) =>
+    isBlock(element) && element !== document.body && ![...element.children].some(isBlock);
+
   // read(element): the value of text in it. tags: elements that are nothing but the format.
   // attribute: FONT's, with a value's spelling there. property: of an inline style, with a value's
   // spelling there. write(value): the element to put around text.
@@ -111,13 +115,14 @@
         ? create('FONT', { [attribute]: inAttribute(value) }) : style(value)),
       ...entry,
       inAttribute,
-      isPlain: (element) => tags.has(element.tagName),
       carries: (element) => isInline(element) && (tags.has(element.tagName) ||
-        (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) ||
-        element.style.getPropertyValue(entry.property) !== ''),
+        (element.tagName === 'FONT' && element.hasAttribute(entry.attribute))) ||
+        (isInline(element) || holdsText(element)) &&
+        element.style.getPropertyValue(entry.property) !== '',
       // An empty element of the same format, to go around what keeps it.
       shell(element) {
         if (tags.has(element.tagName)) return create(element.tagName);
+        if (isBlock(element) && this.read(element) === true) return this.write(true);
         if (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) {
           return create('FONT', { [entry.attribute]: element.getAttribute(entry.attribute) });
         }

@@ -68,17 +68,28 @@
     dom.isInline(node) && !dom.isAtom(node) &&
     [...node.children].some((child) => dom.isBlock(child) || holdsBlock(child));
 
-  function carriersOf(format, texts) {
+  // What gives the texts another look than the wanted one and is to be taken off them, the outermost
+  // first: what holds nothing but them, and what stands before an ancestor with the wanted look.
+  // Another one stays around the new format, as a person would write it.
+  function carriersOf(format, texts, chosen, reads) {
     const carriers = new Set();
+    const whole = remembered((carrier) => coverage(carrier, chosen) === 'all');
     for (const text of texts) {
       const chain = [];
-      for (let at = text.parentNode; at !== document.body; at = at.parentNode) {
-        if (carriers.has(at)) break;
+      let at = text.parentNode;
+      for (; !reads(at) && at !== document.body; at = at.parentNode) {
         if (format.carries(at)) chain.unshift(at);
       }
-      chain.forEach((carrier) => carriers.add(carrier));
+      for (const carrier of chain) if (reads(at) || whole(carrier)) carriers.add(carrier);
     }
     return carriers;
+  }
+  function remembered(judge) {
+    const known = new Map();
+    return (node) => {
+      if (!known.has(node)) known.set(node, judge(node));
+      return known.get(node);
+    };
   }
 
   // The highest node whose text is the given one only, or only such.
@@ -104,8 +115,8 @@
       const run = runs.at(-1);
       const between = [];
       let at = run?.at(-1).nextSibling;
-      while (at && at !== top && !dom.isBlock(at) && (!dom.isText(at) || dom.isBlank(at)) &&
-             coverage(at, nothing) === 'empty') {
+      while (at && at !== top && !dom.isBlock(at) && !dom.isIsland(at) &&
+             (!dom.isText(at) || dom.isBlank(at)) && coverage(at, nothing) === 'empty') {
         between.push(at);
         at = at.nextSibling;
       }
@@ -136,21 +147,40 @@
   }
 
   const mergeable = new Set(['B', 'EM', 'FONT', 'I', 'SPAN', 'STRONG', 'U', 'BIG', 'SMALL']);
-  // True when both look the same: by the same markup, or each by a plain element of the format.
+  // True when both look the same: by the same markup, or each by markup of the format alone.
   function alike(format, element, other) {
-    const plain = (each) => format.isPlain(each) && !each.attributes.length;
-    if (plain(element) && plain(other)) return true;
+    if (!dom.isElement(other)) return false;
+    const bare = (each) => format.carries(each) && !dom.isBlock(each) &&
+      format.shell(each).tagName === each.tagName && dom.sameLooks(format.shell(each), each);
+    if (bare(element) && bare(other)) return format.same(format.read(element), format.read(other));
     return other.tagName === element.tagName && mergeable.has(element.tagName) && !element.id &&
       dom.sameLooks(element, other);
   }
-  // Takes the neighbour into the element; the one that was there before gives its kind.
-  function mergeWith(format, element, side) {
-    const other = element[side];
-    if (!dom.isElement(other) || !alike(format, element, other)) return element;
-    const back = side === 'previousSibling';
-    const [kept, gone] = other.tagName === element.tagName ? [element, other] : [other, element];
-    if ((kept === element) === back) kept.prepend(...gone.childNodes);
-    else kept.append(...gone.childNodes);
+
+  // Elements whose order makes no difference to what they look like together.
+  const turns = (format, outer) => !format.carries(outer) && (
+    /^(B|EM|I|STRONG)$/.test(outer.tagName) && !outer.attributes.length ||
+    /^(FONT|SPAN)$/.test(outer.tagName) && !outer.id && /^font-(weight|style)$/.test(format.property));
+  // The neighbour; where all of it has the format inside other elements, with the format outside.
+  function turned(format, element, neighbour) {
+    for (let at = neighbour; dom.isElement(at) && turns(format, at); at = at.firstChild) {
+      const inner = at.firstChild;
+      if (at.childNodes.length !== 1 || !alike(format, element, inner)) continue;
+      inner.replaceWith(...inner.childNodes);
+      return dom.wrap([neighbour], inner);
+    }
+    return neighbour;
+  }
+
+  // Joins the element with that neighbour where both are alike; what was there already is kept.
+  function mergeWith(format, element, side, isNew) {
+    if (!dom.isElement(element[side])) return element;
+    const other = turned(format, element, element[side]);
+    if (!alike(format, element, other)) return element;
+    const [kept, gone] = isNew ? [other, element] : [element, other];
+    const before = (side === 'previousSibling') === isNew;
+    if (before) kept.append(...gone.childNodes);
+    else kept.prepend(...gone.childNodes);
     gone.remove();
     return kept;
   }
@@ -170,6 +200,26 @@
     }
   }
 
+  // An element around the text that gives a look which is there without it by now.
+  function dropNeedless(entry, text, chosen, reads) {
+    const { parentNode } = text;
+    if (!dom.isInline(parentNode) || !entry.carries(parentNode) || !reads(parentNode)) return;
+    const needless = reads(parentNode.parentNode) && coverage(parentNode, chosen) === 'all';
+    if (needless) entry.strip(parentNode);
+  }
+
+  // The page's own rules may give text in the element another look: such text is formatted by itself.
+  // Answers the element, null where it had to go.
+  function insist(entry, element, value) {
+    const wanted = entry.read(element);
+    const stubborn = new Set([...textsUnder(element)]
+      .filter((text) => !entry.same(entry.read(text.parentNode), wanted)));
+    if (!stubborn.size) return element;
+    pushDown(entry, element, stubborn);
+    for (const text of stubborn) put(entry, [text], value);
+    return null;
+  }
+
   // Puts the format with that value on the texts, which are whole nodes.
   function format(name, value, texts) {
     const entry = velor.formats[name];
@@ -181,19 +231,21 @@
     };
     texts.forEach(around);
     const all = new Set(texts);
-    for (const carrier of carriersOf(entry, texts)) {
-      // One that gives what is wanted, and not only back what an outer one takes, stays.
-      const reads = (element) => entry.same(entry.read(element), value);
-      if (!reads(carrier) || reads(carrier.parentElement)) pushDown(entry, carrier, all);
+    const reads = (element) => entry.same(entry.read(element), value);
+    for (const carrier of carriersOf(entry, texts, all, remembered(reads))) {
+      pushDown(entry, carrier, all);
     }
-    const left = texts.filter((text) => !entry.same(entry.read(text.parentNode), value));
+    texts.forEach((text) => dropNeedless(entry, text, all, reads));
+    const left = texts.filter((text) => !reads(text.parentNode));
     const chosen = new Set(left);
     const covers = new Map();
     const tops = new Set(left.map((text) => highest(text, chosen, entry, covers)));
     for (const run of runsOf(tops)) {
-      const element = put(entry, run, value);
+      const made = put(entry, run, value);
+      const element = made && insist(entry, made, value);
       if (!element) continue;
-      mergeWith(entry, mergeWith(entry, element, 'previousSibling'), 'nextSibling');
+      const joined = mergeWith(entry, element, 'previousSibling', true);
+      mergeWith(entry, joined, 'nextSibling', joined === element);
     }
     return touched;
   }

@@ -58,13 +58,15 @@ class Bridge : public ::testing::Test {
 TEST_F(Bridge, PushesItsFirstStateAfterTheStart) {
   Load(QStringLiteral("<p>one|</p>"));
   CollectPushes();
-  EXPECT_TRUE(Evaluate(QStringLiteral("pushed[0].dirty && mirrors[0].includes('one')")).toBool());
+  EXPECT_TRUE(Evaluate(QStringLiteral("pushed[0].dirty")).toBool());
+  EXPECT_TRUE(Comes(QStringLiteral("mirrors[0]?.includes('one')")));
   EXPECT_EQ(Text(QStringLiteral("pushed[0].element.tag")), QStringLiteral("P"));
 }
 
 TEST_F(Bridge, PushesAfterAMoveOfTheSelectionWithoutTheMarkup) {
   Load(QStringLiteral("<p>one|</p><h1>two</h1>"));
   CollectPushes();
+  ASSERT_TRUE(Comes(QStringLiteral("mirrors.length === 1")));
   Evaluate(QStringLiteral(
       "mirrors.length = 0; getSelection().collapse(document.querySelector('h1').firstChild, 1)"));
   ASSERT_TRUE(Comes(QStringLiteral("pushed.at(-1).blockFormat === 'Heading 1'")));

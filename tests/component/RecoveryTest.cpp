@@ -71,6 +71,19 @@ TEST_F(Recovery, TheMirrorFollowsTypingWithoutAnyoneReading) {
   EXPECT_TRUE(DocumentHolds(QStringLiteral("<p>One!</p>")));
 }
 
+TEST_F(Recovery, NoKeyPaysForTheMirror) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  Note();
+  Evaluate(
+      QStringLiteral("given.paid = 0; { const { push, serialize } = velor; let pushing = false;"
+                     "velor.push = () => { pushing = true; push(); pushing = false; };"
+                     "velor.serialize = (...page) => { if (pushing) given.paid++; return "
+                     "serialize(...page); }; }"));
+  TypeText(QStringLiteral("ab"));
+  ASSERT_TRUE(Gave(QStringLiteral("pushed"), QStringLiteral("Oneab")));
+  EXPECT_EQ(Evaluate(QStringLiteral("given.paid")).toInt(), 0);
+}
+
 TEST_F(Recovery, ALargePageKeepsItsMirrorToo) {
   QByteArray page("<p>start</p>");
   while (page.size() < 400'000) page += "<p>One more paragraph of a long page.</p>\n";

@@ -30,6 +30,12 @@ QString TextOf(const QString &path) {
   return QString::fromUtf8(file.readAll());
 }
 
+/// What the names in the suite's markup stand for.
+const QString suiteRules = QStringLiteral(
+    "<style>.bold { font-weight: bold } .notbold { font-weight: normal } "
+    ".italic { font-style: italic } .underline { text-decoration: underline } "
+    "#purple { color: purple }</style>");
+
 void Add(SuiteResult &sum, const QJsonObject &part) {
   sum.held += part[u"ours"].toInt();
   sum.total += part[u"total"].toInt();
@@ -72,7 +78,8 @@ void EditingSuite::Load(const QString &doctype) {
   QEventLoop loop;
   const auto loaded =
       QObject::connect(view_.page(), &QWebEnginePage::loadFinished, &loop, &QEventLoop::quit);
-  view_.setHtml(doctype + QStringLiteral("<html><head></head><body></body></html>"));
+  view_.setHtml(doctype + QStringLiteral("<html><head>") + suiteRules +
+                QStringLiteral("</head><body></body></html>"));
   loop.exec();
   QObject::disconnect(loaded);
   Evaluate(BridgeScript() + TextOf(QStringLiteral(":/editing-suite/suite.js")));

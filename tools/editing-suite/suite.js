@@ -71,6 +71,13 @@
       start.startContainer, start.startOffset, end.startContainer, end.startOffset);
   }
 
+  // A colour by its parts, however it is spelled.
+  const pen = document.createElement('canvas').getContext('2d');
+  function valueOf(colour) {
+    pen.fillStyle = colour;
+    return pen.fillStyle;
+  }
+
   // Markup in one spelling: styles as the engine writes them, neighbouring texts joined.
   function normal(html) {
     const parsed = document.createElement('div');
@@ -78,6 +85,7 @@
     placeOf(parsed, /[[{]/, 'data-start');
     placeOf(parsed, /[\]}]/, 'data-end');
     for (const element of parsed.querySelectorAll('[style]')) {
+      if (element.style.color) element.style.color = valueOf(element.style.color);
       const { cssText } = element.style;
       if (cssText) element.setAttribute('style', cssText);
       else element.removeAttribute('style');
