@@ -27,7 +27,7 @@ enum class CommandStatus : int {
 enum class ExecOption : int { Default = 0, PromptUser = 1, DontPromptUser = 2 };
 
 /// What an editing component tells its owner. Every notice is delivered after the call that caused
-/// it has returned, never from inside it.
+/// it has returned, never from inside it; only that a load takes long is reported while it does.
 class EditingListener {
  public:
   virtual ~EditingListener() = default;
@@ -71,9 +71,10 @@ class EditingComponent {
   virtual void SetDocumentHTML(const QString &html) = 0;
 
   /// Replaces the document by a file's; returns when it is parsed. Links resolve against the file.
-  /// `path` in logic form. Raises RuntimeError when the file cannot be read; the old page stays.
-  /// Where a document was loaded or set already whose links resolve against the same folder, the
-  /// exchange is one step of the undo history, and undo brings back that document with its bytes.
+  /// `path` in logic form. Raises RuntimeError when the file cannot be read or is too large (14);
+  /// the old page stays. Raises it too where the person stops a long load. Where a document was
+  /// loaded or set already whose links resolve against the same folder, the exchange is one step of
+  /// the undo history, and undo brings back that document with its bytes.
   virtual void LoadDocument(const QString &path) = 0;
   /// Like LoadDocument of a file that holds `html`, without looking at the file, which need not
   /// exist.

@@ -39,8 +39,8 @@ class Files {
   /// When the file's content was last changed; invalid where there is none. Never raises.
   virtual QDateTime ChangeTime(const QString &path) const = 0;
 
-  /// The whole content. Raises 53 (missing), 76 (drive or folder missing), 75 (a folder, or no
-  /// access).
+  /// The whole content. Raises 14 (more than 256 MB), 53 (missing), 76 (drive or folder missing),
+  /// 75 (a folder, or no access).
   virtual QByteArray ReadAll(const QString &path, NameOrigin origin = NameOrigin::Chosen) const = 0;
 
   /// Creates the file or replaces its whole content so that at every moment the old or the new

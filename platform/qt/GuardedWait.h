@@ -46,7 +46,15 @@ enum class WaitEnd {
   Done,
   Destroyed,  ///< what was waited on is gone; touch nothing that belonged to it
   TimedOut,
+  Stopped,  ///< by the person
   Refused,  ///< inside an engine callback; nothing was waited for
+};
+
+/// A wait that may be long: after some time the person is told and may stop it by Escape. From then
+/// on other input is lost, since it meant what the wait is about to replace.
+struct Patience {
+  std::chrono::milliseconds time;
+  std::function<void()> tell;
 };
 
 /// The one nested event loop of the program. User input stays in its queue meanwhile. Posted
@@ -59,7 +67,7 @@ class GuardedWait {
   /// Returns when `done` answers true (asked every 2 ms and at each Wake), `subject` is destroyed
   /// or the limit has passed.
   WaitEnd Until(QObject &subject, std::chrono::milliseconds limit,
-                const std::function<bool()> &done);
+                const std::function<bool()> &done, const Patience *patience = nullptr);
 
  private:
   EngineGuard &guard_;

@@ -17,6 +17,9 @@ namespace velor {
 
 namespace {
 
+/// What no page, picture or settings file comes near; reading more would hold the program up.
+constexpr off_t LargestRead = 256 * 1024 * 1024;
+
 QString Find(const QString &path, NameOrigin origin) {
   return origin == NameOrigin::Program ? FindIgnoringCase(path) : ToNative(path);
 }
@@ -79,6 +82,9 @@ QByteArray QtFiles::ReadAll(const QString &path, NameOrigin origin) const {
   if (!file.IsOpen() || fstat(file.Number(), &status) != 0) throw Failure(errno, source, native);
   if (!S_ISREG(status.st_mode)) {
     throw RuntimeError::Of(ErrorNumber::PathFileAccess, source, native);
+  }
+  if (status.st_size > LargestRead) {
+    throw RuntimeError::Of(ErrorNumber::OutOfStringSpace, source, native);
   }
   QByteArray content(status.st_size, Qt::Uninitialized);
   qsizetype used = 0;

@@ -6,7 +6,9 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QTest>
 #include <QTimer>
+#include <QWidget>
 
 #include <functional>
 #include <gmock/gmock.h>
@@ -52,6 +54,31 @@ TEST_F(GuardedWaiting, EndsAtItsLimit) {
 TEST_F(GuardedWaiting, EndsWhenItsSubjectIsDestroyed) {
   QTimer::singleShot(5, qApp, [&] { subject_.reset(); });
   EXPECT_EQ(Until(10s, [] { return false; }), WaitEnd::Destroyed);
+}
+
+TEST_F(GuardedWaiting, IsStoppedByEscapeOnceThePersonHasBeenTold) {
+  bool told = false;
+  QWidget window;
+  QTimer keys;
+  QObject::connect(&keys, &QTimer::timeout,
+                   [&] { QTest::keyClick(&window, told ? Qt::Key_Escape : Qt::Key_A); });
+  keys.start(5);
+  const Patience patience{30ms, [&] { told = true; }};
+  EXPECT_EQ(GuardedWait(guard_).Until(
+                *subject_, 10s, [] { return false; }, &patience),
+            WaitEnd::Stopped);
+  EXPECT_TRUE(told);
+  EXPECT_FALSE(guard_.Waiting());
+}
+
+TEST_F(GuardedWaiting, TellsNobodyWhenItIsShort) {
+  bool told = false;
+  int looks = 0;
+  const Patience patience{10s, [&] { told = true; }};
+  EXPECT_EQ(GuardedWait(guard_).Until(
+                *subject_, 10s, [&] { return ++looks > 3; }, &patience),
+            WaitEnd::Done);
+  EXPECT_FALSE(told);
 }
 
 TEST_F(GuardedWaiting, IsRefusedInsideAnEngineCallback) {

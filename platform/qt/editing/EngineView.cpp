@@ -199,8 +199,9 @@ void EngineView::AwaitInput() {
   Wait(inputTravel, [this] { return !sinceInput_.isValid() || CurrentPhase() != Phase::Ready; });
 }
 
-WaitEnd EngineView::Wait(std::chrono::milliseconds limit, const std::function<bool()> &done) {
-  return GuardedWait(engine_.Guard()).Until(*this, limit, done);
+WaitEnd EngineView::Wait(std::chrono::milliseconds limit, const std::function<bool()> &done,
+                         const Patience *patience) {
+  return GuardedWait(engine_.Guard()).Until(*this, limit, done, patience);
 }
 
 void EngineView::SetFocus() {

@@ -59,7 +59,8 @@ class EngineView : public QObject {
   /// another way than expressions, which could overtake them.
   void AwaitInput();
   /// Waits for `done`; see GuardedWait.
-  WaitEnd Wait(std::chrono::milliseconds limit, const std::function<bool()> &done);
+  WaitEnd Wait(std::chrono::milliseconds limit, const std::function<bool()> &done,
+               const Patience *patience = nullptr);
 
   void SetFocus();
 

@@ -16,7 +16,13 @@ using namespace std::chrono_literals;
 
 /// Two minutes hold the largest page that a person would wait for.
 constexpr std::chrono::milliseconds loadLimit = 2min;
+/// After this the person may stop it.
+constexpr std::chrono::milliseconds loadPatience = 1500ms;
+const QString longLoad =
+    QStringLiteral("The page takes long to show. Press Escape to stop loading it.");
 constexpr std::chrono::milliseconds readLimit = 15s;
+/// Preparing a larger one would hold the window up for seconds (bytes).
+constexpr qsizetype largestPage = 32'000'000;
 /// A page whose process ends while it loads is tried once more.
 constexpr int loadAttempts = 2;
 
@@ -58,6 +64,9 @@ void WebEditor::LoadText(const QString &html, const QString &path) {
 }
 
 void WebEditor::TakeBytes(const QByteArray &bytes, const QString &nativePath) {
+  if (bytes.size() > largestPage)
+    throw RuntimeError::Of(ErrorNumber::OutOfStringSpace, QStringLiteral("LoadDocument"),
+                           nativePath);
   auto original = std::make_shared<FaithfulPage>(PageOriginal{bytes, DecodePage(bytes), {}});
   if (hasDocument_ && FolderOf(nativePath) == FolderOf(nativePath_)) {
     if (ReplaceInPlace(original, nativePath) == Replaced::NotPossible)
@@ -96,12 +105,24 @@ WebEditor::Loaded WebEditor::Load(LoadPurpose purpose) {
   for (int attempt = 1; attempt <= loadAttempts; ++attempt) {
     BeginLoad(purpose);
     const int load = loads_;
-    const WaitEnd end = view->Wait(loadLimit, [this, load] {
-      return load != loads_ || view_->CurrentPhase() != EngineView::Phase::Loading;
-    });
+    const Patience patience{loadPatience, [this] {
+                              if (listener_ != nullptr) listener_->ComponentReported(longLoad);
+                            }};
+    const WaitEnd end = view->Wait(
+        loadLimit,
+        [this, load] {
+          return load != loads_ || view_->CurrentPhase() != EngineView::Phase::Loading;
+        },
+        &patience);
     // A page closed or replaced meanwhile is no failure of this call; one that cannot be waited
     // for here ends its loading by itself.
     if (view == nullptr || load != loads_ || end == WaitEnd::Refused) return Loaded::Unknown;
+    if (end == WaitEnd::Stopped) {
+      // The page's process goes with its view; it may be busy for ever.
+      view_.reset();
+      hasDocument_ = false;
+      return Loaded::No;
+    }
     if (view->CurrentPhase() != EngineView::Phase::Dead) break;
   }
   return view->CurrentPhase() == EngineView::Phase::Ready ? Loaded::Yes : Loaded::No;
