@@ -2,6 +2,7 @@
 #include "chrome/ColorPicker.h"
 
 #include "chrome/ColorPalette.h"
+#include "chrome/ColorValue.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
 
@@ -15,14 +16,6 @@ namespace {
 constexpr int BarHeight = 4;
 constexpr int ArrowWidth = 12;
 
-QColor FromValue(std::int32_t value) {
-  return {value & 0xff, (value >> 8) & 0xff, (value >> 16) & 0xff};
-}
-
-std::int32_t ToValue(const QColor &color) {
-  return color.red() | (color.green() << 8) | (color.blue() << 16);
-}
-
 }  // namespace
 
 ColorPicker::ColorPicker(const QString &iconKey, QWidget *parent)
@@ -31,7 +24,7 @@ ColorPicker::ColorPicker(const QString &iconKey, QWidget *parent)
   setAutoRaise(true);
   setFocusPolicy(Qt::TabFocus);
   connect(this, &QToolButton::clicked, this,
-          [this] { panel_->DropDownFrom(*this, FromValue(color_)); });
+          [this] { panel_->DropDownFrom(*this, FromColorValue(color_)); });
   connect(panel_, &ColorPalette::Chosen, this, &ColorPicker::Choose);
   connect(panel_, &ColorPalette::CustomWanted, this, &ColorPicker::AskForCustom);
 }
@@ -46,12 +39,12 @@ void ColorPicker::Choose(const QColor &color) {
   recent_.insert(recent_.begin(), color);
   if (recent_.size() > RecentColors) recent_.pop_back();
   panel_->SetRecent(recent_);
-  SetColor(ToValue(color));
+  SetColor(ToColorValue(color));
   Q_EMIT ColorChosen(color_);
 }
 
 void ColorPicker::AskForCustom() {
-  auto *dialog = new QColorDialog(FromValue(color_), this);
+  auto *dialog = new QColorDialog(FromColorValue(color_), this);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setWindowTitle(accessibleName());
   connect(dialog, &QColorDialog::colorSelected, this, &ColorPicker::Choose);
@@ -71,7 +64,7 @@ void ColorPicker::paintEvent(QPaintEvent *) {
   const QRect place(BarMargin, (height() - ToolIconSize) / 2, ToolIconSize, ToolIconSize);
   icon().paint(&painter, place.adjusted(1, 0, -1, -2), Qt::AlignCenter,
                isEnabled() ? QIcon::Normal : QIcon::Disabled);
-  const QColor shown = FromValue(color_);
+  const QColor shown = FromColorValue(color_);
   const QRectF bar(place.left(), place.bottom() - BarHeight + 2, place.width(), BarHeight);
   painter.setPen(Contrast(shown, palette().color(QPalette::Window)) < 1.5 ? QPen(BoxEdge(palette()))
                                                                           : QPen(shown));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/MenuPainter.h"
 
+#include "chrome/ColorValue.h"
 #include "chrome/Palette.h"
 #include "chrome/WidgetControl.h"
 
@@ -26,10 +27,6 @@ constexpr int ItemHeight = 28;
 constexpr int SeparatorHeight = 9;
 /// How much of the background picture a dark palette lets through.
 constexpr qreal DarkTint = 0.10;
-
-QColor FromValue(std::int32_t value) {
-  return {value & 0xff, (value >> 8) & 0xff, (value >> 16) & 0xff};
-}
 
 /// The picture's average colour over white paper.
 QColor Average(const QPixmap &picture) {
@@ -264,19 +261,19 @@ void StyleMenuPainter::SetBackground(const QPixmap &picture) {
 }
 
 void StyleMenuPainter::SetTextColor(std::int32_t color) {
-  style_->ChangeLook().text = FromValue(color);
+  style_->ChangeLook().text = FromColorValue(color);
 }
 
 void StyleMenuPainter::SetBorderColor(std::int32_t color) {
-  style_->ChangeLook().border = FromValue(color);
+  style_->ChangeLook().border = FromColorValue(color);
 }
 
 void StyleMenuPainter::SetHighlightColor(std::int32_t color) {
-  style_->ChangeLook().highlight = FromValue(color);
+  style_->ChangeLook().highlight = FromColorValue(color);
 }
 
 void StyleMenuPainter::SetHighlightTextColor(std::int32_t color) {
-  style_->ChangeLook().highlightText = FromValue(color);
+  style_->ChangeLook().highlightText = FromColorValue(color);
 }
 
 void StyleMenuPainter::SetImageList(const ImageList &images) {

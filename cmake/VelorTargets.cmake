@@ -34,7 +34,9 @@ function(velor_program name)
 endfunction()
 
 # A GoogleTest program that runs under Qt's offscreen platform with scratch settings folders
-# (tests/support/TestMain.cpp sees to both). One program is one CTest case.
+# (tests/support/TestMain.cpp sees to both). One program is one CTest case. SERIAL is for those that
+# start the engine or the program itself: they have the machine to themselves, all others run side by
+# side.
 function(velor_test name)
   cmake_parse_arguments(ARG "SERIAL" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})

@@ -173,6 +173,15 @@ TEST_F(RealPageFiles, ThePreviewShowsUnsavedEditsFromATemporaryCopy) {
   EXPECT_EQ(Bytes(PageFile), Plain);
 }
 
+TEST_F(RealPageFiles, APageThatDeclaresNoCharsetIsPreviewedInItsOwn) {
+  frmMain &page = Open(PageFile, "<html><head></head><body>\r\n<p>Caf\xe9</p>\r\n</body></html>");
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  Button("tbrGeneral_preview").click();
+  EXPECT_TRUE(PreviewShows(QStringLiteral("Cxaf\u00e9")));
+  EXPECT_TRUE(Bytes(PageCopy).contains("<p>Cxaf\xe9</p>")) << Bytes(PageCopy).constData();
+}
+
 TEST_F(RealPageFiles, ASecondPreviewOfThePageShowsWhatWasTypedSince) {
   frmMain &page = Open(PageFile, Plain);
   page.ChangeMode(4);

@@ -14,17 +14,33 @@ namespace {
 
 class BridgeSweep : public ::testing::TestWithParam<const char *> {};
 
-TEST_P(BridgeSweep, EveryCommandKeepsTheRulesOnEveryPage) {
-  QFile script(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/sweep.js"));
-  ASSERT_TRUE(script.open(QIODevice::ReadOnly));
-  BridgePage page;
-  page.Load(QString::fromLatin1(GetParam()) + QStringLiteral("<p>one|</p>"));
-  page.Evaluate(QString::fromUtf8(script.readAll()));
+/// Each page of the golden cases once.
+QStringList Pages() {
+  QStringList pages;
   for (const BridgeCase &subject :
        ReadBridgeCases(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/cases"))) {
-    if (subject.IsDocument()) continue;
-    const QString call = QStringLiteral("sweep(%1)").arg(ScriptText(subject.input));
-    EXPECT_EQ(page.Evaluate(call).toString().toStdString(), "") << qPrintable(subject.input);
+    if (!subject.IsDocument()) pages += subject.input;
+  }
+  pages.removeDuplicates();
+  return pages;
+}
+
+TEST_P(BridgeSweep, EveryCommandKeepsTheRulesOnEveryPage) {
+  // One document for all would grow slower from page to page, until the engine collects what is
+  // left.
+  constexpr int PagesADocument = 10;
+  QFile script(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/sweep.js"));
+  ASSERT_TRUE(script.open(QIODevice::ReadOnly));
+  const QString sweep = QString::fromUtf8(script.readAll());
+  BridgePage page;
+  int done = 0;
+  for (const QString &body : Pages()) {
+    if (done++ % PagesADocument == 0) {
+      page.Load(QString::fromLatin1(GetParam()) + QStringLiteral("<p>one|</p>"));
+      page.Evaluate(sweep);
+    }
+    const QString call = QStringLiteral("sweep(%1)").arg(ScriptText(body));
+    EXPECT_EQ(page.Evaluate(call).toString().toStdString(), "") << qPrintable(body);
   }
 }
 

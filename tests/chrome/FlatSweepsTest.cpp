@@ -5,6 +5,7 @@
 #include "chrome/cControlFlater.h"
 #include "platform/qt/QtWindowSystem.h"
 #include "tests/support/Checks.h"
+#include "tests/support/FailingSweeps.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -220,20 +221,6 @@ TEST_F(FlatSweepsTest, ATextBoxInALayoutStaysTwoPixelsInwards) {
 }
 
 class ReportingSweepsTest : public FlatSweepsTest {};
-
-/// An application whose boundary keeps what reaches it is the program's; here a sweep that fails.
-class FailingSweeps final : public StylingSweeps {
- public:
-  void FlatSweep(QWidget &) override { Fail(); }
-  void FlatComboSweep(QWidget &) override { Fail(); }
-  void ThinEdgeSweep(QWidget &) override { Fail(); }
-  void ThinEdgeByType(QWidget &, const QString &) override { Fail(); }
-
- private:
-  static void Fail() {
-    throw RuntimeError::Of(ErrorNumber::SubscriptOutOfRange, QStringLiteral("Painters"));
-  }
-};
 
 TEST_F(ReportingSweepsTest, AnErrorDoesNotKeepTheWindowFromLoading) {
   QWidget window;

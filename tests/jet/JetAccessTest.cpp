@@ -7,14 +7,13 @@
 #include "tests/support/Checks.h"
 #include "tests/support/jet/JetCatalogues.h"
 #include "tests/support/jet/JetWriter.h"
+#include "tests/support/jet/OthersLockFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace velor::fixture {
 namespace {
@@ -230,22 +229,13 @@ TEST_F(JetAccessTest, OfAFileWithoutAListOfTablesIsNone) {
 }
 
 TEST_F(JetAccessTest, WaitsForTheProgramThatHasTheFileOpen) {
-  const QString locks = folder_.filePath(QStringLiteral("eThumbs.ldb"));
-  QFile slots(locks);
-  ASSERT_TRUE(slots.open(QIODevice::WriteOnly));
-  slots.write(QByteArray("OFFICE").leftJustified(32, '\0') +
-              QByteArray("Eva").leftJustified(32, '\0'));
-  slots.close();
+  OthersLockFile locks(folder_.filePath(QStringLiteral("eThumbs.ldb")));
+  locks.WriteSlots({"OFFICE", "Eva"});
   const auto file = JetFile::Open(path_);
   file->Begin();
   SetFirst(*file, "Project", "Path", QStringLiteral("left behind locks do not count"));
 
-  const int holder = open(locks.toLocal8Bit().constData(), O_RDWR | O_CLOEXEC);
-  struct flock lock = {};
-  lock.l_type = F_WRLCK;
-  lock.l_start = 0x10000001;
-  lock.l_len = 1;
-  ASSERT_EQ(fcntl(holder, F_OFD_SETLK, &lock), 0);
+  locks.Hold(0);
   try {
     file->Commit();
     ADD_FAILURE() << "it was opened between the change and the commit";
@@ -256,7 +246,7 @@ TEST_F(JetAccessTest, WaitsForTheProgramThatHasTheFileOpen) {
   EXPECT_EQ(ErrorOf([&] { SetFirst(*file, "Project", "Path", QStringLiteral("x")); }),
             ErrorNumber::PermissionDenied);
   EXPECT_EQ(Content(), content_);
-  close(holder);
+  locks.Release();
   SetFirst(*file, "Project", "Path", QStringLiteral("x"));
   EXPECT_EQ(First(*file, "Project", "Path"), "x");
 }

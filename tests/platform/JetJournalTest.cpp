@@ -2,13 +2,12 @@
 #include "platform/jet/JetJournal.h"
 #include "platform/jet/JetLockFile.h"
 #include "tests/support/Checks.h"
+#include "tests/support/jet/OthersLockFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-
-#include <fcntl.h>
 
 namespace velor {
 namespace {
@@ -228,17 +227,11 @@ TEST_F(JetJournal, OfAnotherProgramThatIsWritingIsLeftAlone) {
 
 TEST_F(JetJournal, IsNotPutBackUnderAProgramThatHasTheFileOpen) {
   KillBeforeWrite(1);
-  const QString locks = folder_.filePath(QStringLiteral("file.ldb"));
-  Write(locks,
-        QByteArray("PC").leftJustified(32, '\0') + QByteArray("Admin").leftJustified(32, '\0'));
-  const int holder = open(locks.toLocal8Bit().constData(), O_RDWR | O_CLOEXEC);
-  struct flock lock = {};
-  lock.l_type = F_WRLCK;
-  lock.l_start = 0x10000001;
-  lock.l_len = 1;
-  ASSERT_EQ(fcntl(holder, F_OFD_SETLK, &lock), 0);
+  fixture::OthersLockFile locks(folder_.filePath(QStringLiteral("file.ldb")));
+  locks.WriteSlots({"PC", "Admin"});
+  locks.Hold(0);
   EXPECT_EQ(ErrorOf([this] { Recover(); }), ErrorNumber::PermissionDenied);
-  close(holder);
+  locks.Release();
   Recover();
   EXPECT_EQ(Content(), before_);
 }
@@ -262,30 +255,10 @@ class JetLocks : public ::testing::Test {
   JetLocks()
       : database_(folder_.filePath(QStringLiteral("eThumbs.mdb"))),
         locks_(folder_.filePath(QStringLiteral("ETHUMBS.LDB"))) {}
-  ~JetLocks() override {
-    if (holder_ >= 0) close(holder_);
-  }
-
-  void WriteSlots(const QList<QByteArray> &names) {
-    QByteArray content;
-    for (const QByteArray &name : names) content += name.leftJustified(32, '\0');
-    QFile file(locks_);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-  }
-  void Hold(off_t start) {
-    if (holder_ < 0) holder_ = open(locks_.toLocal8Bit().constData(), O_RDWR | O_CLOEXEC);
-    struct flock lock = {};
-    lock.l_type = F_WRLCK;
-    lock.l_start = start;
-    lock.l_len = 1;
-    ASSERT_EQ(fcntl(holder_, F_OFD_SETLK, &lock), 0);
-  }
 
   QTemporaryDir folder_;
   QString database_;
-  QString locks_;
-  int holder_ = -1;
+  fixture::OthersLockFile locks_;
 };
 
 TEST_F(JetLocks, AreNobodysWithoutALockFile) {
@@ -293,21 +266,21 @@ TEST_F(JetLocks, AreNobodysWithoutALockFile) {
 }
 
 TEST_F(JetLocks, ThatWereLeftBehindDoNotCount) {
-  WriteSlots({"OFFICE", "Admin"});
+  locks_.WriteSlots({"OFFICE", "Admin"});
   EXPECT_EQ(JetLockHolders(database_), "");
 }
 
 TEST_F(JetLocks, NameTheirHolders) {
-  WriteSlots({"OFFICE", "Admin", "LAPTOP", "Eva", "GONE", "Left"});
-  Hold(0x10000001 + 1);
+  locks_.WriteSlots({"OFFICE", "Admin", "LAPTOP", "Eva", "GONE", "Left"});
+  locks_.Hold(1);
   EXPECT_EQ(JetLockHolders(database_), "Eva on LAPTOP");
-  Hold(0x10000001);
+  locks_.Hold(0);
   EXPECT_EQ(JetLockHolders(database_), "Admin on OFFICE, Eva on LAPTOP");
 }
 
 TEST_F(JetLocks, WithoutANameAreAnotherPrograms) {
-  WriteSlots({});
-  Hold(0x10000100);
+  locks_.WriteSlots({});
+  locks_.Hold(0xFF);
   EXPECT_EQ(JetLockHolders(database_), "another program");
 }
 

@@ -64,7 +64,23 @@ class FakeHarness final : public Harness {
   FakeDatabase database_;
 };
 
-class SqliteHarness final : public Harness {
+/// The real connection to a file of either format.
+class FileHarness : public Harness {
+ public:
+  std::unique_ptr<DatabaseConnection> Create() override {
+    return std::make_unique<SqliteConnection>();
+  }
+  QString ConnectionText() override { return Provider + ToLogic(File()); }
+  QString MissingText() override { return ConnectionText() + QStringLiteral("x"); }
+
+ protected:
+  QString File() const { return folder_.filePath(QStringLiteral("eThumbs.mdb")); }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+class SqliteHarness final : public FileHarness {
  public:
   SqliteHarness() {
     sqlite3 *database = nullptr;
@@ -80,19 +96,9 @@ class SqliteHarness final : public Harness {
     EXPECT_EQ(result, SQLITE_OK) << sqlite3_errmsg(database);
     sqlite3_close(database);
   }
-  std::unique_ptr<DatabaseConnection> Create() override {
-    return std::make_unique<SqliteConnection>();
-  }
-  QString ConnectionText() override { return Provider + ToLogic(File()); }
-  QString MissingText() override { return ConnectionText() + QStringLiteral("x"); }
-
- private:
-  QString File() const { return folder_.filePath(QStringLiteral("eThumbs.mdb")); }
-
-  QTemporaryDir folder_;
 };
 
-class JetHarness final : public Harness {
+class JetHarness final : public FileHarness {
  public:
   JetHarness() {
     using fixture::CellType;
@@ -112,16 +118,6 @@ class JetHarness final : public Harness {
         {{3, QStringLiteral("Never made"), {}, folder, false, DaysOf(2000, 2, 3), 0.0}}};
     WriteCatalogue(File(), CatalogueFormat::Jet, {{project}});
   }
-  std::unique_ptr<DatabaseConnection> Create() override {
-    return std::make_unique<SqliteConnection>();
-  }
-  QString ConnectionText() override { return Provider + ToLogic(File()); }
-  QString MissingText() override { return ConnectionText() + QStringLiteral("x"); }
-
- private:
-  QString File() const { return folder_.filePath(QStringLiteral("eThumbs.mdb")); }
-
-  QTemporaryDir folder_;
 };
 
 template <typename HarnessType>

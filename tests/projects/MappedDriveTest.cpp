@@ -6,9 +6,9 @@
 #include "platform/ProgramValues.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/sqlite/SqliteConnection.h"
-#include "projects/ProjectHost.h"
 #include "projects/RecordsetReader.h"
 #include "projects/frmProjectManager.h"
+#include "tests/projects/CatalogueDesk.h"
 #include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FakeComponents.h"
@@ -31,28 +31,18 @@ QString U(const char *text) {
 }
 
 /// A main window that picks folders with the real picker.
-class PickingDesk final : public ProjectHost {
+class PickingDesk final : public CatalogueDesk {
  public:
-  explicit PickingDesk(ProgramValues &values) : values_(values) {}
-  QString opened;
+  using CatalogueDesk::CatalogueDesk;
   /// Native form.
   QString folderToPick;
 
-  void ClearTabs() override {}
-  void ClearPageChooser() override {}
-  void AddChooserPage(const QString &, std::int32_t) override {}
-  int DocumentCount() const override { return 0; }
-  void UnloadDocument(int) override {}
-  void OpenProjectPage(const QString &path) override { opened = path; }
   void PickProjectFolder() override {
     FrmFld picker(values_);
     picker.ForProject = true;
     picker.SelectFolder(folderToPick);
     picker.accept();
   }
-
- private:
-  ProgramValues &values_;
 };
 
 class MappedDrive : public testing::TestWithParam<CatalogueFormat> {

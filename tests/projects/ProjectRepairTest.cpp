@@ -5,11 +5,11 @@
 #include "platform/Platform.h"
 #include "platform/ProgramValues.h"
 #include "platform/sqlite/SqliteConnection.h"
-#include "projects/ProjectHost.h"
 #include "projects/RecordList.h"
 #include "projects/RecordsetReader.h"
 #include "projects/RowTable.h"
 #include "projects/frmProjectManager.h"
+#include "tests/projects/CatalogueDesk.h"
 #include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FakeComponents.h"
@@ -30,25 +30,12 @@ QString U(const char *text) {
   return QString::fromUtf8(text);
 }
 
-class Desk final : public ProjectHost {
+class Desk final : public CatalogueDesk {
  public:
-  explicit Desk(ProgramValues &values) : values_(values) {}
-  QStringList pages;
-  QString opened;
+  using CatalogueDesk::CatalogueDesk;
   QString pickedFolder;
 
-  void ClearTabs() override {}
-  void ClearPageChooser() override { pages.clear(); }
-  void AddChooserPage(const QString &name, std::int32_t pageId) override {
-    pages.append(U("%1 %2").arg(pageId).arg(name));
-  }
-  int DocumentCount() const override { return 0; }
-  void UnloadDocument(int) override {}
-  void OpenProjectPage(const QString &path) override { opened = path; }
   void PickProjectFolder() override { values_.ProjectFolderResult = pickedFolder; }
-
- private:
-  ProgramValues &values_;
 };
 
 class ProjectRepairTest : public testing::TestWithParam<CatalogueFormat> {

@@ -7,6 +7,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtRuntime.h"
+#include "tests/support/FailingSweeps.h"
 
 #include <QObject>
 #include <QTimer>
@@ -25,20 +26,6 @@ using namespace velor;
 [[noreturn]] void Raise(ErrorNumber number, const QString &source) {
   throw RuntimeError::Of(number, source, QStringLiteral("probe"));
 }
-
-/// Sweeps with too few painters.
-class ShortSweeps final : public StylingSweeps {
- public:
-  void FlatSweep(QWidget &) override { Fail(); }
-  void FlatComboSweep(QWidget &) override { Fail(); }
-  void ThinEdgeSweep(QWidget &) override { Fail(); }
-  void ThinEdgeByType(QWidget &, const QString &) override { Fail(); }
-
- private:
-  [[noreturn]] static void Fail() {
-    Raise(ErrorNumber::SubscriptOutOfRange, QStringLiteral("Painters"));
-  }
-};
 
 }  // namespace
 
@@ -77,7 +64,7 @@ int main(int argc, char **argv) {
   });
   QWidget window;
   if (scene == "styling") {
-    ReportingSweeps(std::make_unique<ShortSweeps>()).FlatSweep(window);
+    ReportingSweeps(std::make_unique<FailingSweeps>()).FlatSweep(window);
     std::puts("the window is loaded");
   }
   QTimer::singleShot(1, &application, [] {
