@@ -292,6 +292,17 @@ TEST_F(Saving, WhatIsAddedBehindThePagesLastBlankStaysBeforeItsEndTags) {
             "<html>\r\n<body>\r\n<p>one</p>\r\n<p>two</p></body>\r\n</html>\r\n");
 }
 
+TEST_F(Saving, TwoBytesEachThatNothingTellsAreReadAsBrowsersDoAndKept) {
+  const QByteArray file = Utf16(QStringLiteral("<p>one\r\n<p>two\r\n")).sliced(2);
+  const QString path = Write(QStringLiteral("page.htm"), file);
+  editor_->LoadDocument(path);
+  Evaluate(QStringLiteral("document.body.append('new')"));
+  editor_->SaveDocument(path);
+  QByteArray saved = Bytes(QStringLiteral("page.htm"));
+  EXPECT_TRUE(saved.contains("new"));
+  EXPECT_EQ(saved.replace("new", ""), file);
+}
+
 }  // namespace
 
 }  // namespace velor

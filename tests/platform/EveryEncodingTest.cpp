@@ -121,6 +121,18 @@ TEST(EveryEncoding, KeepsTwoBytesEachWithHalvesOfPairsAndALastByte) {
   }
 }
 
+TEST(EveryEncoding, KeepsTwoBytesEachThatOnlyAnXmlDeclarationTells) {
+  for (const Order order : {Order::Little, Order::Big}) {
+    const QString content =
+        QStringLiteral("<?xml version=\"1.0\"?>") + QString::fromLatin1(Page({}, "caf\xE9"));
+    const QByteArray declared = TwoBytesEach(content, order);
+    EXPECT_TRUE(DecodePage(declared).encoding.charset.startsWith(u"utf-16"));
+    QString edited = content;
+    edited.replace(QStringLiteral(" one "), QStringLiteral(" one more "));
+    EXPECT_EQ(Save(declared).page.bytes, TwoBytesEach(edited, order));
+  }
+}
+
 }  // namespace
 
 }  // namespace velor
