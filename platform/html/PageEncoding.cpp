@@ -19,6 +19,12 @@ constexpr Mark Marks[] = {
     {"utf-16be", "\xFE\xFF"},
 };
 
+/// How an XML declaration begins in two bytes a character, where no byte order mark says so.
+constexpr Mark XmlStarts[] = {
+    {"utf-16le", {"<\0?\0x\0", 6}},
+    {"utf-16be", {"\0<\0?\0x", 6}},
+};
+
 LineEnds MostCommonLineEnds(QStringView text) {
   qsizetype crLf = 0;
   qsizetype lf = 0;
@@ -53,6 +59,9 @@ DecodedPage DecodePage(const QByteArray &bytes) {
         Decode(QByteArrayView(bytes).sliced(mark.bytes.size()), QString::fromLatin1(mark.charset));
     page.encoding.byteOrderMark = true;
     return page;
+  }
+  for (const Mark &start : XmlStarts) {
+    if (bytes.startsWith(start.bytes)) return Decode(bytes, QString::fromLatin1(start.charset));
   }
   const QString declared = DeclaredCharset(bytes);
   if (!declared.isEmpty()) return Decode(bytes, declared);

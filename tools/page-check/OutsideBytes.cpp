@@ -39,6 +39,12 @@ TokenText AsWritten(const QString &text) {
   return written;
 }
 
+bool IsSameTag(QStringView one, QStringView other) {
+  const std::vector<HtmlToken> a = TokenizeHtml(one);
+  const std::vector<HtmlToken> b = TokenizeHtml(other);
+  return a.front().kind == b.front().kind && a.front().name == b.front().name;
+}
+
 /// Cuts off what a replaced slice and its replacement share at both ends.
 void Add(Distance &distance, QStringView gone, QStringView come) {
   qsizetype front = 0;
@@ -47,6 +53,8 @@ void Add(Distance &distance, QStringView gone, QStringView come) {
   qsizetype back = 0;
   while (back < shorter - front && gone[gone.size() - 1 - back] == come[come.size() - 1 - back])
     ++back;
+  // Two tags share their brackets, but neither is a part of the other.
+  if (gone.startsWith(u'<') && come.startsWith(u'<') && !IsSameTag(gone, come)) front = back = 0;
   distance.gone += gone.sliced(front, gone.size() - front - back);
   distance.come += come.sliced(front, come.size() - front - back);
 }

@@ -99,23 +99,24 @@ const QStringList &PageCheck::Kinds() {
 }
 
 PageCheck::PageCheck(EditingEngine &engine)
-    : engine_(engine), reader_(std::make_unique<Desk>(engine, scratch_.path())) {}
+    : desk_(std::make_unique<Desk>(engine, scratch_.path())) {}
 
 PageCheck::~PageCheck() = default;
 
 QString PageCheck::Parsed(const QByteArray &bytes) {
-  reader_->editor.SetDocumentHTML(DecodePage(bytes).text);
-  return reader_->editor.DocumentHTML();
+  desk_->editor.SetDocumentHTML(DecodePage(bytes).text);
+  return desk_->editor.DocumentHTML();
 }
 
 QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) {
-  Desk desk(engine_, scratch_.path());
-  WebEditor &editor = desk.editor;
+  WebEditor &editor = desk_->editor;
+  // The page before may be of the same folder, and an exchange in the page is no opening.
+  editor.SetDocumentHTML({});
   editor.LoadDocument(ToLogic(QFileInfo(file).absoluteFilePath()));
   EditedPage page;
   page.file = Bytes(file);
   page.before = editor.DocumentHTML();
-  const bool isEdited = !kind.isEmpty() && desk.Edit(kind, place);
+  const bool isEdited = !kind.isEmpty() && desk_->Edit(kind, place);
   page.now = editor.DocumentHTML();
 
   const QString target = scratch_.filePath(QStringLiteral("saved.htm"));
@@ -124,6 +125,7 @@ QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) 
   editor.SaveDocument(ToLogic(target));
   const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
   page.saved = Bytes(target);
+  const SaveRung rung = editor.Compose().rung;
 
   const QString saved = Parsed(page.saved);
   const bool isEqual =
@@ -134,7 +136,7 @@ QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) 
           {QStringLiteral("identical"), page.saved == page.file},
           {QStringLiteral("bytes_outside"), static_cast<int>(beyond.outside)},
           {QStringLiteral("bytes_implied"), static_cast<int>(beyond.implied)},
-          {QStringLiteral("rung"), QLatin1String(RungName(editor.Compose().rung))},
+          {QStringLiteral("rung"), QLatin1String(RungName(rung))},
           {QStringLiteral("document_equal"), isEqual},
           {QStringLiteral("ms"), milliseconds}};
 }

@@ -34,9 +34,8 @@ class PageCheck {
   /// The document of a text, loaded on its own.
   QString Parsed(const QByteArray &bytes);
 
-  EditingEngine &engine_;
   QTemporaryDir scratch_;
-  std::unique_ptr<Desk> reader_;
+  std::unique_ptr<Desk> desk_;
 };
 
 }  // namespace velor
