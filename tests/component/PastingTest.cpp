@@ -33,6 +33,7 @@ class Pasting : public WebEditorTest {
   }
   /// The body's markup without white space between tags.
   std::string Body() {
+    (void)editor_->DocumentHTML();  // comes behind the click and the commands before it
     QString body = Evaluate(QStringLiteral("document.body.innerHTML")).toString();
     return body.replace(QRegularExpression(QStringLiteral(">\\s+<")), QStringLiteral("><"))
         .trimmed()
