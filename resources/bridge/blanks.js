@@ -81,9 +81,10 @@
     before = { texts, ownLeft: own(left), ownRight: own(right) };
   }
 
-  // True when the engine has written that character just now.
-  function isFresh({ node, index }) {
-    if (!before.texts.has(node)) return false;
+  // True when the engine has written that character just now. A text that was not at the caret is a
+  // new one where it holds nothing but what was typed.
+  function isFresh({ node, index }, data) {
+    if (!before.texts.has(node)) return node.length === data?.length;
     const old = before.texts.get(node);
     const now = node.data;
     const shorter = Math.min(old.length, now.length);
@@ -128,7 +129,7 @@
     if (typed && data?.includes(noBreak)) return;
     if (typed || inputType.startsWith('delete')) {
       for (const place of places) {
-        if (charAt(place) === noBreak && isFresh(place)) hold(place.node, place.index, typed);
+        if (charAt(place) === noBreak && isFresh(place, data)) hold(place.node, place.index, typed);
       }
     }
     before = null;

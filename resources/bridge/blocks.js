@@ -113,5 +113,5 @@
     velor.selection.restore(kept);
   }
 
-  velor.blocks = { formats, read, apply, takesFormat };
+  velor.blocks = { formats, read, apply, takesFormat, isPreformatted, breakLines };
 })();

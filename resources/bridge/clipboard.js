@@ -96,6 +96,16 @@
     if (startContainer !== document.body || dom.hasContent(document.body)) dom.unwrap(only);
   }
 
+  // In a list paragraphs and items are items of that list.
+  function fitIntoList(fragment, { startContainer }) {
+    if (!dom.ancestor(startContainer, (node) => node.tagName === 'LI', dom.isCell)) return;
+    const shown = [...fragment.childNodes].filter(dom.isShown);
+    if (shown.length === 1 && /^(OL|UL)$/.test(shown[0].tagName)) dom.unwrap(shown[0]);
+    else if (shown.every((node) => node.tagName === 'P')) {
+      shown.forEach((paragraph) => dom.rename(paragraph, 'LI'));
+    }
+  }
+
   // No id may be in a page twice.
   function dropKnownIds(fragment) {
     for (const element of fragment.querySelectorAll('[id]')) {
@@ -114,6 +124,7 @@
     if (!range) return;
     const fragment = fragmentOf(data, range);
     unwrapSingle(fragment, range);
+    fitIntoList(fragment, range);
     dropKnownIds(fragment);
     velor.addresses.narrow(fragment);
     if (!fragment.hasChildNodes()) return;

@@ -102,8 +102,11 @@
   // Moves the content of one unit to the end of the one before it. Returns the place between them.
   function join(first, second) {
     const left = dropTrailingBreak(first.nodes.filter((node) => node.isConnected));
-    const moved = second.nodes.filter((node) => node.isConnected);
     const home = second.container;
+    const { isPreformatted, breakLines } = velor.blocks;
+    const leavesPre = isPreformatted(second.block) && !isPreformatted(first.container);
+    if (leavesPre) breakLines(home);
+    const moved = leavesPre ? [...home.childNodes] : second.nodes.filter((node) => node.isConnected);
     const last = left.at(-1);
     const place = last ? endOf(last) : startOf(moved[0] ?? first.container);
     if (last) last.after(...moved);

@@ -42,12 +42,12 @@
   // Input that fills an empty paragraph, so that nothing need keep it open any more.
   const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']);
 
-  // What may hold text without a paragraph around it.
-  const bare = /^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER)$/;
+  // What may hold text without a paragraph around it; one of these that has a name is there once.
+  const bare = /^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER|DIV|SECTION|ARTICLE|MAIN|HEADER|FOOTER|ASIDE|NAV)$/;
 
   // Bare text becomes a paragraph before it is split; so does the first text of an empty page.
   function needsParagraph(unit, { inputType }) {
-    if (!unit || unit.block || !bare.test(unit.container.tagName)) return false;
+    if (!unit || unit.block && !unit.block.id || !bare.test(unit.container.tagName)) return false;
     if (inputType === 'insertParagraph') return true;
     const empty = unit.container === document.body && dom.isHollow(document.body);
     return inputType === 'insertText' && empty;
@@ -155,7 +155,10 @@
     if (breaksLine()) return breakLine;
     const range = velor.selection.range();
     const [unit] = range?.collapsed ? velor.units.unitsIn(range) : [];
-    const item = unit && velor.units.itemOf(unit);
+    if (!unit) return null;
+    // A table has one caption.
+    if (unit.container.tagName === 'CAPTION') return () => document.execCommand('insertLineBreak');
+    const item = velor.lists.itemOf(unit);
     return item && dom.isHollow(item) ? () => velor.lists.leave(unit) : null;
   }
 

@@ -49,7 +49,9 @@
     const top = cutAt(node, items);
     const last = fragment.lastChild;
     if (!top) {
+      const holder = holderAt(node);
       putHere(fragment, node, offset);
+      holder?.remove();
       afterBlocks(last, null);
       return;
     }
@@ -92,12 +94,17 @@
     }
   }
 
-  function putInline(fragment, node, offset) {
+  // The break that holds an empty block open.
+  function holderAt(node) {
     const block = dom.blockOf(node);
-    const placeholder = dom.isHollow(block) && block.querySelector('br');
+    return dom.isHollow(block) ? block.querySelector('br') : null;
+  }
+
+  function putInline(fragment, node, offset) {
+    const holder = holderAt(node);
     const last = fragment.lastChild;
     putHere(fragment, node, offset);
-    if (placeholder) placeholder.remove();
+    holder?.remove();
     if (dom.isText(last)) velor.selection.setCaret(last, last.length);
     else afterNode(last);
   }

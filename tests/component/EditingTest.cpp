@@ -78,6 +78,28 @@ TEST_F(Editing, ACommandDoesNotOvertakeTheKeysBeforeIt) {
   }
 }
 
+TEST_F(Editing, AKeyDoesNotOvertakeTheCommandBeforeIt) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  QString typed = QStringLiteral("<p>One");
+  for (int round = 0; round < 30; ++round) {
+    Exec(EditingCommand::Bold);
+    TypeText(QStringLiteral("ab"));
+    Exec(EditingCommand::Bold);
+    TypeText(QStringLiteral("cd"));
+    typed += QStringLiteral("<b>ab</b>cd");
+  }
+  EXPECT_TRUE(DocumentHolds(typed + QStringLiteral("</p>"))) << Seen().constData();
+}
+
+TEST_F(Editing, KeysBehindACommandDoNotReachAnotherPage) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  Exec(EditingCommand::Bold);
+  TypeText(QStringLiteral("lost"));
+  editor_->LoadDocument(Write(QStringLiteral("other.htm"), "<p>Two</p>"));
+  EXPECT_TRUE(DocumentHolds(QStringLiteral("<p>Two</p>"))) << Seen().constData();
+  EXPECT_FALSE(DocumentHolds(QStringLiteral("lost")));
+}
+
 TEST_F(Editing, PastedMarkupComesBehindTheKeysBeforeIt) {
   LoadWithCaret("<p>One</p>", QStringLiteral("p"));
   QString typed = QStringLiteral("One");

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace velor {
 
@@ -25,6 +26,21 @@ bool IsBrowserKey(const QKeyEvent &key) {
          std::end(browserKeys);
 }
 
+/// Input that keeps its place among the program's commands.
+bool MayWait(QEvent::Type type) {
+  switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+      return true;
+    default:
+      return false;
+  }
+}
+
 QStringList LocalFiles(const QMimeData *data) {
   QStringList paths;
   for (const QUrl &url : data != nullptr ? data->urls() : QList<QUrl>())
@@ -34,7 +50,8 @@ QStringList LocalFiles(const QMimeData *data) {
 
 }  // namespace
 
-EditorInput::EditorInput(QWebEngineView *view) : QObject(view), view_(view) {
+EditorInput::EditorInput(QWebEngineView *view, std::function<bool(const QEvent &)> keep)
+    : QObject(view), view_(view), keep_(std::move(keep)) {
   view_->installEventFilter(this);
   Attach();
 }
@@ -64,6 +81,10 @@ bool EditorInput::eventFilter(QObject *watched, QEvent *event) {
   if (watched == view_) {
     if (event->type() == QEvent::ChildPolished) Attach();
     return false;
+  }
+  if (MayWait(event->type()) && keep_(*event)) {
+    event->accept();
+    return true;
   }
   switch (event->type()) {
     case QEvent::ShortcutOverride:

@@ -5,6 +5,8 @@
 #include <QPoint>
 #include <QStringList>
 
+#include <functional>
+
 class QWebEngineView;
 
 namespace velor {
@@ -16,8 +18,9 @@ class EditorInput : public QObject {
   Q_OBJECT
 
  public:
-  /// Follows the view's input widget, which the engine may replace.
-  explicit EditorInput(QWebEngineView *view);
+  /// Follows the view's input widget, which the engine may replace. Keys and buttons are first
+  /// offered to `keep`, which may take them to send them again later.
+  EditorInput(QWebEngineView *view, std::function<bool(const QEvent &)> keep);
 
   /// Takes up the view's present input widget.
   void Attach();
@@ -36,6 +39,7 @@ class EditorInput : public QObject {
   bool TakeFiles(QEvent *event);
 
   QWebEngineView *view_;
+  std::function<bool(const QEvent &)> keep_;
 };
 
 }  // namespace velor

@@ -48,7 +48,7 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   page_->scripts().insert(DesignModeScript());
   view_->setPage(page_);
   view_->setContextMenuPolicy(Qt::CustomContextMenu);
-  input_ = new EditorInput(view_);
+  input_ = new EditorInput(view_, [this](const QEvent &input) { return Keep(input); });
   container->layout()->addWidget(view_);
   container->setFocusProxy(view_);
 
@@ -70,6 +70,9 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   patience_.setSingleShot(true);
   patience_.setInterval(inputTravel);
   connect(&patience_, &QTimer::timeout, this, &EngineView::InputArrived);
+  leaving_.setSingleShot(true);
+  leaving_.setInterval(1ms);
+  connect(&leaving_, &QTimer::timeout, this, &EngineView::Proceed);
   connect(input_, &EditorInput::InputComing, this, [this] {
     sinceInput_.start();
     followed_ = false;
@@ -83,6 +86,7 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   connect(page_, &QWebEnginePage::renderProcessTerminated, this, [this] {
     const EngineCallback callback(engine_.Guard());
     phase_ = Phase::Dead;
+    ForgetTurns();
     Q_EMIT Died();
     engine_.Guard().Wake();
   });
@@ -118,8 +122,7 @@ void EngineView::Load(const QString &nativePath, const QString &text, const QStr
   address_ = engine_.Scheme().Offer(nativePath, text);
   start_ = start;
   startAnswer_ = {};
-  behindInput_.clear();
-  sinceInput_.invalidate();
+  ForgetTurns();
   const QWidget *focused = view_->window()->focusWidget();
   hadFocus_ = focused != nullptr && (focused == view_ || view_->isAncestorOf(focused));
   phase_ = Phase::Loading;
@@ -140,9 +143,49 @@ void EngineView::EndLoad(Phase phase) {
 void EngineView::Run(const QString &expression,
                      const std::function<void(const QVariant &)> &answer) {
   if (CurrentPhase() != Phase::Ready) return;
-  if (!InputOnItsWay() && behindInput_.empty()) return Evaluate(expression, answer);
-  behindInput_.push_back({expression, answer});
-  if (behindInput_.size() == 1) FollowInput();
+  turns_.push_back({nullptr, expression, answer});
+  // Input that waits before it leaves when it may.
+  if (turns_.size() == 1) Proceed();
+}
+
+bool EngineView::Keep(const QEvent &input) {
+  if (sending_ || CurrentPhase() != Phase::Ready) return false;
+  if (commands_ == 0 && turns_.empty()) return false;
+  turns_.push_back({std::unique_ptr<QEvent>(input.clone()), {}, {}});
+  return true;
+}
+
+void EngineView::Proceed() {
+  if (proceeding_) return;
+  const QPointer<EngineView> alive(this);
+  proceeding_ = true;
+  while (CurrentPhase() == Phase::Ready && !turns_.empty()) {
+    if (turns_.front().input != nullptr ? commands_ > 0 : InputOnItsWay()) break;
+    const Turn turn = std::move(turns_.front());
+    turns_.pop_front();
+    if (turn.input == nullptr) {
+      Evaluate(turn.expression, turn.answer);
+    } else {
+      SendInput(*turn.input);
+      if (alive == nullptr) return;
+    }
+  }
+  proceeding_ = false;
+  if (!turns_.empty() && turns_.front().input == nullptr && !patience_.isActive()) FollowInput();
+}
+
+void EngineView::SendInput(QEvent &input) {
+  const QPointer<EngineView> alive(this);
+  sending_ = true;
+  QCoreApplication::sendEvent(view_->focusProxy(), &input);
+  if (alive != nullptr) sending_ = false;
+}
+
+void EngineView::ForgetTurns() {
+  turns_.clear();
+  commands_ = 0;
+  sinceInput_.invalidate();
+  patience_.stop();
 }
 
 bool EngineView::InputOnItsWay() const {
@@ -153,27 +196,30 @@ void EngineView::FollowInput() {
   // Let go after all the others, this key says when they are there (resources/bridge/arrivals.js).
   followed_ = true;
   QKeyEvent last(QEvent::KeyRelease, Qt::Key_F24, Qt::NoModifier);
-  QCoreApplication::sendEvent(view_->focusProxy(), &last);
+  SendInput(last);
   patience_.start();
 }
 
 void EngineView::InputArrived() {
   if (followed_) sinceInput_.invalidate();
   patience_.stop();
-  for (const Expression &each : std::exchange(behindInput_, {}))
-    if (CurrentPhase() == Phase::Ready) Evaluate(each.text, each.answer);
+  if (turns_.empty() || turns_.front().input == nullptr) Proceed();
+  if (!turns_.empty()) leaving_.start();
   engine_.Guard().Wake();
 }
 
 void EngineView::Evaluate(const QString &expression,
                           const std::function<void(const QVariant &)> &answer) {
-  if (!answer) return page_->runJavaScript(expression, bridgeWorld);
+  if (!answer) ++commands_;
   page_->runJavaScript(expression, bridgeWorld,
-                       [alive = QPointer<EngineView>(this), &guard = engine_.Guard(),
-                        answer](const QVariant &value) {
+                       [alive = QPointer<EngineView>(this), &guard = engine_.Guard(), answer,
+                        address = address_](const QVariant &value) {
                          if (alive == nullptr) return;
                          const EngineCallback callback(guard);
-                         answer(value);
+                         if (answer) return answer(value);
+                         if (address != alive->address_ || alive->commands_ == 0) return;
+                         if (--alive->commands_ == 0 && !alive->turns_.empty())
+                           alive->leaving_.start();
                        });
 }
 

@@ -11,10 +11,12 @@
 #include <QWebChannel>
 
 #include <chrono>
+#include <deque>
 #include <functional>
+#include <memory>
 #include <optional>
-#include <vector>
 
+class QEvent;
 class QWebEngineView;
 
 namespace velor {
@@ -49,8 +51,9 @@ class EngineView : public QObject {
   const QVariant &StartAnswer() const { return startAnswer_; }
 
   /// Evaluates an expression; `answer`, where given, is called from inside the engine. Expressions
-  /// go one after the other and behind the keys that were pressed before: while such keys may still
-  /// be on their way, which is another one, the expression waits for them here.
+  /// and keys go one after the other. They take different ways to the page: so an expression waits
+  /// here while keys that were pressed before it may still be on theirs, and a key while a command
+  /// is, which is an expression without answer.
   void Run(const QString &expression, const std::function<void(const QVariant &)> &answer = {});
   /// Evaluates an expression and waits for its value. Nothing when the page is not ready, dies
   /// or does not answer in time; then, and only then, `this` may be gone.
@@ -82,12 +85,20 @@ class EngineView : public QObject {
   void FilesDropped(const QStringList &nativePaths, QPoint clientPosition);
 
  private:
-  struct Expression {
-    QString text;
+  /// What waits for its turn: input of the person's, or else an expression.
+  struct Turn {
+    std::unique_ptr<QEvent> input;
+    QString expression;
     std::function<void(const QVariant &)> answer;
   };
 
   void Evaluate(const QString &expression, const std::function<void(const QVariant &)> &answer);
+  /// True when the input was taken to wait behind a command.
+  bool Keep(const QEvent &input);
+  /// Lets go of everything whose turn has come; from outside the engine where input may wait.
+  void Proceed();
+  void SendInput(QEvent &input);
+  void ForgetTurns();
   bool InputOnItsWay() const;
   /// Asks the page to tell when the input sent so far is there.
   void FollowInput();
@@ -107,7 +118,11 @@ class EngineView : public QObject {
   QVariant startAnswer_;
   QElapsedTimer sinceInput_;  ///< invalid when all of it is known to have arrived
   bool followed_ = false;     ///< FollowInput came after the last of it
-  std::vector<Expression> behindInput_;
+  std::deque<Turn> turns_;
+  int commands_ = 0;      ///< on their way to the page
+  bool sending_ = false;  ///< input that has waited
+  bool proceeding_ = false;
+  QTimer leaving_;   ///< leads out of the engine before input is let go
   QTimer patience_;  ///< for a page that does not say that the input is there
 };
 
