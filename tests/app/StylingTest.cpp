@@ -42,6 +42,29 @@ TEST_F(StylingTest, WithoutAWindowSystemNothingIsStyled) {
   EXPECT_FALSE(IsFlat(Find<QComboBox>("cobFormat")));
 }
 
+TEST_F(StylingTest, TheElementDialogThinsButtonsTextBoxesAndListsAndThenFlattensItsComboBoxes) {
+  QStringList sweeps;
+  FakeStylingSweeps recorded(&sweeps);
+  frmInsertElement dialog(styledPlatform, &recorded);
+  EXPECT_EQ(sweeps, (QStringList{QStringLiteral("ThinEdgeByType(frmInsertElement, commandbutton)"),
+                                 QStringLiteral("ThinEdgeByType(frmInsertElement, textbox)"),
+                                 QStringLiteral("ThinEdgeByType(frmInsertElement, listbox)"),
+                                 QStringLiteral("FlatComboSweep(frmInsertElement)")}));
+}
+
+TEST_F(StylingTest, TheMainWindowFlattensItsComboBoxesAndThenThinsEdgesAndThenHasMenuPictures) {
+  SteppedWindowSystem steps;
+  Platform stepped{files, runtime, dialogs, registry, components, &steps};
+  MfrmProgram window(stepped, values);
+  steps.atThinEdge = [&] {
+    EXPECT_TRUE(IsFlat(window.findChild<QComboBox *>(QStringLiteral("CmbPages"))));
+    EXPECT_FALSE(window.PM->HasImages());
+  };
+  window.Load();
+  EXPECT_GT(steps.thinEdges, 0);
+  EXPECT_TRUE(window.PM->HasImages());
+}
+
 TEST_F(StylingTest, TheElementDialogHasThinEdgesAndFlatComboBoxes) {
   styled.Router().Run({CommandId::NewPage});
   dialogs.ExpectModal([](QWidget &dialog) {
