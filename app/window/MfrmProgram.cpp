@@ -10,6 +10,7 @@
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
 #include "app/window/ProjectDesk.h"
+#include "app/window/WindowStyling.h"
 #include "chrome/FlatSweeps.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
@@ -187,11 +188,7 @@ void MfrmProgram::SetFontSizeList() {
 
 void MfrmProgram::PrepareControlsAndMenus() {
   SetPageCommandsEnabled(false);
-  if (sweeps_) {
-    sweeps_->FlatComboSweep(*this);
-    sweeps_->ThinEdgeSweep(*this);
-  }
-  MenuPictureSweep(*this, MenuImages(), *PM);
+  StyleMainWindow(*this, sweeps_.get(), MenuImages(), *PM);
   try {
     PrepareMenus(platform_.registry, menuPictures_, *PM);
   } catch (const RuntimeError &error) {

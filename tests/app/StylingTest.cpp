@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The windows of the program with their controls styled.
+#include "app/window/WindowStyling.h"
 #include "chrome/HouseStyle.h"
 #include "insert/frmInsertElement.h"
 #include "platform/qt/QtWindowSystem.h"
 #include "projects/frmProjectManager.h"
 #include "tests/app/WindowFixture.h"
+#include "tests/support/FakeStylingSweeps.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -43,26 +45,46 @@ TEST_F(StylingTest, WithoutAWindowSystemNothingIsStyled) {
 }
 
 TEST_F(StylingTest, TheElementDialogThinsButtonsTextBoxesAndListsAndThenFlattensItsComboBoxes) {
-  QStringList sweeps;
+  CallLog sweeps;
   FakeStylingSweeps recorded(&sweeps);
   frmInsertElement dialog(styledPlatform, &recorded);
-  EXPECT_EQ(sweeps, (QStringList{QStringLiteral("ThinEdgeByType(frmInsertElement, commandbutton)"),
-                                 QStringLiteral("ThinEdgeByType(frmInsertElement, textbox)"),
-                                 QStringLiteral("ThinEdgeByType(frmInsertElement, listbox)"),
-                                 QStringLiteral("FlatComboSweep(frmInsertElement)")}));
+  EXPECT_EQ(sweeps, (CallLog{QStringLiteral("ThinEdgeByType(frmInsertElement, commandbutton)"),
+                             QStringLiteral("ThinEdgeByType(frmInsertElement, textbox)"),
+                             QStringLiteral("ThinEdgeByType(frmInsertElement, listbox)"),
+                             QStringLiteral("FlatComboSweep(frmInsertElement)")}));
 }
 
-TEST_F(StylingTest, TheMainWindowFlattensItsComboBoxesAndThenThinsEdgesAndThenHasMenuPictures) {
-  SteppedWindowSystem steps;
-  Platform stepped{files, runtime, dialogs, registry, components, &steps};
-  MfrmProgram window(stepped, values);
-  steps.atThinEdge = [&] {
-    EXPECT_TRUE(IsFlat(window.findChild<QComboBox *>(QStringLiteral("CmbPages"))));
-    EXPECT_FALSE(window.PM->HasImages());
-  };
-  window.Load();
-  EXPECT_GT(steps.thinEdges, 0);
-  EXPECT_TRUE(window.PM->HasImages());
+/// Notes only when the menus' turn comes.
+class NotingMenuPainter final : public MenuPainter {
+ public:
+  explicit NotingMenuPainter(CallLog *log) : log_(log) {}
+
+  void SetBackground(const QPixmap &) override {}
+  void SetTextColor(std::int32_t) override {}
+  void SetBorderColor(std::int32_t) override {}
+  void SetHighlightColor(std::int32_t) override {}
+  void SetHighlightTextColor(std::int32_t) override {}
+  void SetImageList(const ImageList &) override { Note(log_, QStringLiteral("SetImageList")); }
+  void TakeOver(QWidget &window) override {
+    Note(log_, QStringLiteral("TakeOver(%1)").arg(window.objectName()));
+  }
+  void SetItemPicture(const QString &, const QString &) override {}
+
+ private:
+  CallLog *log_;
+};
+
+TEST(MainWindowStyling, FlattensComboBoxesThenThinsEdgesThenGivesTheMenusTheirPictures) {
+  QWidget window;
+  window.setObjectName(QStringLiteral("MfrmProgram"));
+  CallLog calls;
+  FakeStylingSweeps sweeps(&calls);
+  NotingMenuPainter menus(&calls);
+  StyleMainWindow(window, &sweeps, {}, menus);
+  EXPECT_EQ(calls,
+            (CallLog{QStringLiteral("FlatComboSweep(MfrmProgram)"),
+                     QStringLiteral("ThinEdgeSweep(MfrmProgram)"), QStringLiteral("SetImageList"),
+                     QStringLiteral("TakeOver(MfrmProgram)")}));
 }
 
 TEST_F(StylingTest, TheElementDialogHasThinEdgesAndFlatComboBoxes) {
