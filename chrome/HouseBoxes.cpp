@@ -143,6 +143,29 @@ void DrawPushButton(const QStyleOption *option, QPainter *painter, const QWidget
   DrawBox(&box, painter, widget, field);
 }
 
+void DrawCheckBox(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
+  DrawBox(option, painter, widget, EntryField(option));
+  if (!(option->state & (QStyle::State_On | QStyle::State_NoChange))) return;
+  const QPointF middle = QRectF(option->rect).center();
+  const qreal reach = option->rect.width() / 4.0;
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setBrush(Qt::NoBrush);
+  painter->setPen(
+      QPen(option->palette.color(
+               option->state & QStyle::State_Enabled ? QPalette::Active : QPalette::Disabled,
+               QPalette::Text),
+           1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  if (option->state & QStyle::State_On) {
+    painter->drawPolyline(
+        QPolygonF{{middle + QPointF(-reach, 0), middle + QPointF(-reach / 4, reach * 0.75),
+                   middle + QPointF(reach, -reach * 0.75)}});
+  } else {
+    painter->drawLine(middle - QPointF(reach, 0), middle + QPointF(reach, 0));
+  }
+  painter->restore();
+}
+
 void DrawComboBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget,
                   const QRect &arrow, int flatButtonWidth) {
   if (IsFlat(widget)) {

@@ -28,6 +28,9 @@ void DrawPushButton(const QStyleOption *option, QPainter *painter, const QWidget
 void DrawComboBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget,
                   const QRect &arrow, int flatButtonWidth);
 
+/// The box that is ticked, without its words.
+void DrawCheckBox(const QStyleOption *option, QPainter *painter, const QWidget *widget);
+
 // Bars.
 /// The field behind a toolbar's button; nothing at rest.
 void DrawToolField(const QStyleOption *option, QPainter *painter);
@@ -48,6 +51,8 @@ void DrawMdiButton(const QStyleOptionComplex *option, QPainter *painter, const Q
 void DrawHeaderSection(const QStyleOptionHeader *header, QPainter *painter);
 /// The field behind one item of a list.
 void DrawItemField(const QStyleOptionViewItem *item, QPainter *painter);
+/// The mark of the item that has the keyboard.
+void DrawItemFocus(const QStyleOption *option, QPainter *painter);
 /// Where a scroll bar's parts lie: there are no arrows, the groove is all of it.
 QRect ScrollBarPart(const QStyleOptionSlider &bar, QStyle::SubControl part, int shortestSlider);
 void DrawScrollBar(const QStyleOptionComplex *option, QPainter *painter, const QRect &slider);

@@ -13,6 +13,8 @@ namespace {
 
 /// Between a scroll bar's slider and its long edges.
 constexpr int SliderInset = 4;
+/// How much of the line around a selected item shows.
+constexpr float FaintFocus = 0.35F;
 
 /// Darker than an edge: it is taken hold of.
 QColor ScrollSlider(const QPalette &palette) {
@@ -44,6 +46,19 @@ void DrawItemField(const QStyleOptionViewItem *item, QPainter *painter) {
   } else if (item->backgroundBrush.style() != Qt::NoBrush) {
     painter->fillRect(item->rect, item->backgroundBrush);
   }
+}
+
+void DrawItemFocus(const QStyleOption *option, QPainter *painter) {
+  const auto *focus = qstyleoption_cast<const QStyleOptionFocusRect *>(option);
+  const bool selected = focus && focus->backgroundColor ==
+                                     option->palette.color(GroupOf(option), QPalette::Highlight);
+  QColor line = option->palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight);
+  if (selected) line.setAlphaF(FaintFocus);
+  painter->save();
+  painter->setPen(line);
+  painter->setBrush(Qt::NoBrush);
+  painter->drawRect(option->rect.adjusted(1, 1, -2, -2));
+  painter->restore();
 }
 
 QRect ScrollBarPart(const QStyleOptionSlider &bar, QStyle::SubControl part, int shortestSlider) {

@@ -24,7 +24,9 @@ constexpr int TitleSpace = 3;
 constexpr int TextInset = 3;
 /// The distance of texts in lists and their headers from the cell's edges.
 constexpr int CellInset = 6;
+constexpr int RowHeight = 24;
 constexpr int HeaderHeight = 26;
+constexpr int MessageIconSize = 32;
 
 const QStyleOptionToolButton *TextedToolButton(const QStyleOption *option) {
   const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(option);
@@ -70,14 +72,23 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
     case PE_PanelStatusBar:
       DrawStatusBar(option, painter);
       return;
+    case PE_IndicatorCheckBox:
+      DrawCheckBox(option, painter, widget);
+      return;
+    case PE_FrameFocusRect:
+      // Trees do not say for whom the mark of a whole row is drawn.
+      if (widget && !qobject_cast<const QAbstractItemView *>(widget)) break;
+      DrawItemFocus(option, painter);
+      return;
     case PE_PanelItemViewItem:
       if (const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {
         DrawItemField(item, painter);
       }
       return;
     default:
-      QProxyStyle::drawPrimitive(element, option, painter, widget);
+      break;
   }
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
 void HouseStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
@@ -187,6 +198,8 @@ int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
       return BarMargin;
     case PM_MenuBarItemSpacing:
       return BarSpacing;
+    case PM_MessageBoxIconSize:
+      return MessageIconSize;
     case PM_TabBarTabShiftVertical:
       return 0;
     case PM_HeaderMargin:
@@ -211,6 +224,9 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption *option
     case CT_PushButton:
       result.setWidth(std::max(result.width(), size.width() + 2 * BesideButtonText));
       result.setHeight(std::max(result.height(), BoxHeight));
+      break;
+    case CT_ItemViewItem:
+      result.setHeight(std::max(result.height(), RowHeight));
       break;
     case CT_HeaderSection:
       result.setHeight(std::max(result.height(), HeaderHeight));
@@ -251,6 +267,8 @@ QIcon HouseStyle::standardIcon(StandardPixmap picture, const QStyleOption *optio
   switch (picture) {
     case SP_DirIcon:
       return IconFor(QStringLiteral("open"));
+    case SP_LineEditClearButton:
+      return IconFor(QStringLiteral("stop"));
     case SP_MessageBoxQuestion:
       return IconFor(QStringLiteral("help"));
     case SP_MessageBoxInformation:

@@ -47,8 +47,8 @@ constexpr std::array<ToolRow, 12> Tools{{
 constexpr std::array<QStringView, 7> Tabs{u"Standard", u"Forms",  u"Fonts",  u"Lists",
                                           u"Scripts",  u"Frames", u"Advance"};
 
-constexpr int ToolsWidth = 10;
-constexpr int StatusSpacing = 18;
+/// Nothing lies in the side panel, so it takes no room.
+constexpr int ToolsWidth = 0;
 
 QString Tooltip(const ToolRow &row) {
   if (row.keys.isEmpty()) return row.caption.toString();
@@ -160,7 +160,7 @@ QWidget *frmCodeEditor::BuildStatus() {
   lineEnds_->setObjectName(QStringLiteral("lblLineEnds"));
   lineEnds_->setToolTip(QStringLiteral("How the lines of the source end"));
   for (QLabel *label : {place_, lineEnds_}) {
-    label->setContentsMargins(StatusSpacing / 2, 0, StatusSpacing / 2, 0);
+    label->setContentsMargins(BarMargin, 0, BarMargin, 0);
     staMain->addPermanentWidget(label);
   }
   return staMain;

@@ -65,6 +65,7 @@ frmDialog_Table::frmDialog_Table(ProgramValues &values, QWidget *parent)
   Combo1 = new AlignmentBox;
   Combo1->setEditText(QStringLiteral("Left"));
   FormParts::AddControl(form, QStringLiteral("Combo1"), QStringLiteral("Align:"), Combo1);
+  Combo1->lineEdit()->setAccessibleName(Combo1->accessibleName());
   combo2 = FormParts::AddNumberBox(form, QStringLiteral("combo2"), QStringLiteral("Border:"), one);
   combo3 =
       FormParts::AddNumberBox(form, QStringLiteral("combo3"), QStringLiteral("Cell Spacing:"), one);

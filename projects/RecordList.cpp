@@ -53,13 +53,13 @@ class RowTableModel : public QAbstractTableModel {
 
 namespace {
 
-/// Rows with room around their texts.
+/// Columns with room beside their texts.
 class RoomyDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
   QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
-    constexpr QSize Room(14, 8);
+    constexpr QSize Room(14, 0);
     return QStyledItemDelegate::sizeHint(option, index) + Room;
   }
 };

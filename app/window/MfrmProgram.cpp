@@ -11,6 +11,7 @@
 #include "app/window/PageTabs.h"
 #include "app/window/ProjectDesk.h"
 #include "app/window/RecoveryBar.h"
+#include "app/window/WindowStyling.h"
 #include "chrome/FlatSweeps.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
@@ -192,11 +193,7 @@ void MfrmProgram::SetFontSizeList() {
 
 void MfrmProgram::PrepareControlsAndMenus() {
   SetPageCommandsEnabled(false);
-  if (sweeps_) {
-    sweeps_->FlatComboSweep(*this);
-    sweeps_->ThinEdgeSweep(*this);
-  }
-  MenuPictureSweep(*this, MenuImages(), *PM);
+  StyleMainWindow(*this, sweeps_.get(), MenuImages(), *PM);
   try {
     PrepareMenus(platform_.registry, menuPictures_, *PM);
   } catch (const RuntimeError &error) {

@@ -37,6 +37,10 @@ class FormattingBarTest : public WindowFixture {
   frmMain &page;
 };
 
+TEST_F(FormattingBarTest, TheFontsTextBoxIsHeardByTheNameOfItsPicker) {
+  EXPECT_EQ(Find<FontPicker>("Font1")->lineEdit()->accessibleName(), QStringLiteral("Font"));
+}
+
 TEST_F(FormattingBarTest, ListsTheBlockFormatsAndTheSevenSizes) {
   auto *formats = Find<ChoiceBox>("cobFormat");
   QStringList names;

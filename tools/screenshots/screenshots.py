@@ -177,11 +177,11 @@ def dialogs(photos):
     def item(*keys):
         return lambda: program.open_popup(lambda: program.key(keys[0])) or program.key(*keys[1:])
 
-    photos.dialog(lambda: photos.click("Image"), "image-dialog", ("Browse...",))
-    photos.dialog(tab_of("Image", "Appearance"), "image-dialog-appearance", ("Alignment:", "combo box"))
     def tab_of(opener, tab):
         return lambda: photos.click(opener) or photos.click(tab, "page tab")
 
+    photos.dialog(lambda: photos.click("Image"), "image-dialog", ("Browse...",))
+    photos.dialog(tab_of("Image", "Appearance"), "image-dialog-appearance", ("Alignment:", "combo box"))
     photos.dialog(item("alt+i", "Down", "Return"), "link-dialog", ("Target Frame:", "combo box"))
     photos.dialog(tab_of("Project Manager", "Web Pages"), "project-pages", ("Open", "push button"))
     photos.dialog(lambda: photos.click("Table"), "table-dialog", ("Cancel",))
