@@ -12,8 +12,14 @@ namespace velor {
 
 namespace {
 
-/// More tries than this would keep a person waiting longer than a page written anew is worth.
-constexpr int mostTries = 24;
+/// More tries than this would keep a person waiting longer than a page written anew is worth, nor
+/// may they parse more than so many units together. One try is always made.
+constexpr qsizetype mostTries = 24;
+constexpr qsizetype mostParsed = 40'000'000;
+
+qsizetype TriesFor(const QString &text) {
+  return std::clamp(mostParsed / std::max<qsizetype>(text.size(), 1), qsizetype{1}, mostTries);
+}
 
 qsizetype FirstDifference(QStringView one, QStringView other) {
   const auto [end, unused] = std::mismatch(one.begin(), one.end(), other.begin(), other.end());
@@ -135,7 +141,7 @@ std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
                                              Tries tries) const {
   const QString &wanted = plan.now.text;
   std::optional<QString> wantedAgain;  // what the document is once it has been parsed again
-  for (int left = tries == Tries::All ? mostTries : 1; left > 0; --left) {
+  for (qsizetype left = tries == Tries::All ? TriesFor(wanted) : 1; left > 0; --left) {
     const auto patches = plan.patcher.For(plan.edits, plan.steps);
     if (!patches) return std::nullopt;
     const auto document = verifier.Serialisation(Patched(mask_.MaskedText(), *patches));
@@ -156,7 +162,7 @@ std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
 std::vector<TextPatch> FaithfulPage::Smallest(std::vector<TextPatch> patches,
                                               const QString &document,
                                               PageVerifier &verifier) const {
-  int left = mostTries;
+  qsizetype left = TriesFor(document);
   for (std::size_t part = patches.size() / 2; part > 0; part /= 2) {
     for (std::size_t at = 0; at + part <= patches.size() && patches.size() > part && left > 0;) {
       std::vector<TextPatch> fewer = patches;

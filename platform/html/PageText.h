@@ -17,14 +17,10 @@ struct PageOriginal {
   QString baseline;
 };
 
-/// What is written for a document. The plain rule, for components that are their own engine: when
-/// `current`, a serialisation with LF line breaks, equals the baseline, the page has not been edited
-/// and the result is the original, to the byte; else it is `current` in the page's encoding.
-/// FaithfulPage also keeps the source of what was not edited.
+/// What is written for a document.
 struct PageToWrite {
   QString text;
   QByteArray bytes;
 };
-PageToWrite ComposePage(const PageOriginal &original, const QString &current);
 
 }  // namespace velor

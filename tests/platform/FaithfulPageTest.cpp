@@ -232,6 +232,30 @@ TEST(MaskedPages, ReplaceMasksThatAnEditTouches) {
   EXPECT_EQ(page.Compose(now, verifier).page.bytes, "<p>one</p><p>two</p>");
 }
 
+TEST(MaskedPages, LeaveOutTheBlanksBehindTheLastEndTags) {
+  const FaithfulPage page(Original("<P>a </BODY >\r\n<!-- c -->\r</html>\n<% x %>\n"));
+  EXPECT_TRUE(page.TextToLoad().startsWith(u"<P>a </BODY ><!-- c --></html><!--"));
+  EXPECT_TRUE(page.TextToLoad().endsWith(u"-->"));
+}
+
+TEST(MaskedPages, KeepTheBlanksWhereMoreThanTheEndFollows) {
+  for (const char *text : {"<p>a</body>\n</html>\n<p>b", "<p>a</body>\nb", "<p>a</body>\n<",
+                           "<p>a</body>\n< ", "<script></body>\n</script>", "<!--</body>\n-->",
+                           "<p>a</bodyx>\n", "</body>\n<plaintext>", "</body>\n</p>\n"})
+    EXPECT_EQ(FaithfulPage(Original(text)).TextToLoad(), QLatin1String(text));
+}
+
+TEST(MaskedPages, PutWhatIsAddedAtTheEndBeforeTheEndTags) {
+  const QByteArray file = "<html><head></head><body><p>one</p>\r\n</body>\r\n</html>\r\n";
+  FaithfulPage page(Original(file));
+  page.SetBaseline(QStringLiteral("<html><head></head><body><p>one</p>\n</body></html>"));
+  const QString now =
+      QStringLiteral("<html><head></head><body><p>one</p>\n<p>two</p></body></html>");
+  ScriptedVerifier verifier(now);
+  EXPECT_EQ(page.Compose(now, verifier).page.bytes,
+            "<html><head></head><body><p>one</p>\r\n<p>two</p></body>\r\n</html>\r\n");
+}
+
 TEST(MaskedPages, TakeNoOtherPagesMasksForTheirOwn) {
   const FaithfulPage one(Original("<% one %>"));
   const FaithfulPage two(Original("<% two %>"));
@@ -285,6 +309,19 @@ TEST(Ladder, WritesEverythingWhereNothingElseGivesTheDocument) {
   const SavedPage saved = Save(rows, rowsBefore, rowsNow, verifier);
   EXPECT_EQ(saved.page.text, rowsNow);
   EXPECT_EQ(saved.rung, SaveRung::Everything);
+}
+
+TEST(Ladder, TriesLessOnALargePageThanOnASmallOne) {
+  ScriptedVerifier small(rowsNow, [](const QString &) { return false; });
+  Save(rows, rowsBefore, rowsNow, small);
+  const QByteArray much = QByteArray("word ").repeated(4'000'000);
+  const QString wordsBefore = QString(rowsBefore).replace("one", QString::fromLatin1(much));
+  const QString wordsNow = QString(rowsNow).replace("one", QString::fromLatin1(much));
+  ScriptedVerifier large(wordsNow, [](const QString &) { return false; });
+  Save(QByteArray(rows).replace("one", much), wordsBefore, wordsNow, large);
+  EXPECT_GT(small.tried.size(), 2);
+  EXPECT_LE(large.tried.size(), 2);
+  EXPECT_GT(large.tried.size(), 0);
 }
 
 TEST(Ladder, WritesEverythingWhereTheEngineIsSilent) {

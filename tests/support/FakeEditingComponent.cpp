@@ -7,6 +7,20 @@
 
 namespace velor {
 
+namespace {
+
+/// An unedited page is its own bytes; an edited one is written whole, in its own charset.
+PageToWrite PageToSave(const PageOriginal &original, const QString &current) {
+  const bool isUnedited = !original.baseline.isEmpty() && current == original.baseline;
+  if (isUnedited) return {original.page.text, original.bytes};
+  const PageEncoding &encoding = original.page.encoding;
+  QString text = WithLineEnds(current, encoding.lineEnds);
+  QByteArray bytes = EncodePage(text, encoding);
+  return {std::move(text), std::move(bytes)};
+}
+
+}  // namespace
+
 /// The fake's selection as a range.
 class FakeTextRange final : public TextRange {
  public:
@@ -119,12 +133,12 @@ void FakeEditingComponent::LoadText(const QString &html, const QString &path) {
 void FakeEditingComponent::SaveDocument(const QString &path) {
   Log(QStringLiteral("SaveDocument(%1)").arg(path));
   if (const auto failure = std::exchange(nextSaveFailure, std::nullopt)) throw *failure;
-  files_.ReplaceAll(path, ComposePage(original_, current_).bytes);
+  files_.ReplaceAll(path, PageToSave(original_, current_).bytes);
 }
 
 QString FakeEditingComponent::TextToSave() {
   Log(QStringLiteral("TextToSave()"));
-  return ComposePage(original_, current_).text;
+  return PageToSave(original_, current_).text;
 }
 
 PageMemory FakeEditingComponent::Memory() const {
