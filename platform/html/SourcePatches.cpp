@@ -217,6 +217,12 @@ void SourcePatches::Stretch(const PageEdit &edit, PatchStep step, Patches &out) 
     Replace(place, place, text, out);
     return;
   }
+  qsizetype end = source_.At(last).End();
+  // Where an end tag is needed in place of the same one that goes, that one stays.
+  if (!text.isEmpty() && edit.now == edit.nowEnd && IsEndOfSame(edit.before - 1, last)) {
+    text.chop(before_.At(edit.before - 1).length);
+    end = source_.At(last).offset;
+  }
   // Tags of the page's frame that only the source has stay where they are.
   qsizetype start = source_.At(first).offset;
   for (Number at = first; at <= last; ++at) {
@@ -225,7 +231,14 @@ void SourcePatches::Stretch(const PageEdit &edit, PatchStep step, Patches &out) 
     Replace(start, token.offset, std::exchange(text, QString()), out);
     start = token.End();
   }
-  Replace(start, source_.At(last).End(), text, out);
+  Replace(start, end, text, out);
+}
+
+bool SourcePatches::IsEndOfSame(Number before, Number source) const {
+  const HtmlToken &one = before_.At(before);
+  const HtmlToken &other = source_.At(source);
+  return one.kind == HtmlTokenKind::EndTag && other.kind == HtmlTokenKind::EndTag &&
+         one.name == other.name;
 }
 
 /// Text for text: references of the source that the edit did not touch stay as they are written.

@@ -51,6 +51,7 @@ class SourcePatches {
   void Stretch(const PageEdit &edit, PatchStep step, Patches &out) const;
   std::optional<Region> RegionOf(const PageEdit &edit, int ancestor) const;
   void Explicit(Region region, Patches &out) const;
+  bool IsEndOfSame(std::int32_t before, std::int32_t source) const;
   bool IsAtFrame(std::int32_t source) const;
   bool Characters(std::int32_t first, std::int32_t last, const PageEdit &edit, Patches &out) const;
   void Replace(qsizetype start, qsizetype end, const QString &text, Patches &out) const;

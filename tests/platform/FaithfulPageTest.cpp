@@ -290,6 +290,21 @@ TEST(Ladder, WritesImpliedTagsWhereTheEditAloneReadsDifferently) {
             QStringLiteral("<p>one<img><p>two<table><TR><TD>a</TD></table>"));
 }
 
+TEST(Ladder, LeavesAnEndTagThatIsNeededInAnotherPlaceOfTheSameName) {
+  const QByteArray file = "<table><TR><TD>a\n<TD>b</TD></table>";
+  const QString before = QStringLiteral(
+      "<html><head></head><body><table><tbody><tr><td>a\n</td><td>b</td></tr></tbody></table>"
+      "</body></html>");
+  QString now = before;
+  now.remove(QStringLiteral("<td>b</td>"));
+  ScriptedVerifier verifier(now, [](const QString &text) {
+    return text.contains(QStringLiteral("a\n</td>"), Qt::CaseInsensitive);
+  });
+  const SavedPage saved = Save(file, before, now, verifier);
+  EXPECT_EQ(saved.page.bytes, "<table><TR><TD>a\n</TD></table>");
+  EXPECT_EQ(saved.rung, SaveRung::ImpliedTags);
+}
+
 TEST(Ladder, GivesAnElementItsImpliedTagsBeforeThePage) {
   const QByteArray file = "<div><P>one<P>two</div>\r\n<p>three";
   const QString before = QStringLiteral(

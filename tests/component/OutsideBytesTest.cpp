@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What counts as the edit's own, as needed for it, and as outside.
+#include "tools/page-check/OutsideBytes.h"
+
+#include <gtest/gtest.h>
+
+namespace velor {
+
+namespace {
+
+QString Document(const QString &body) {
+  return QStringLiteral("<html><head></head><body>") + body + QStringLiteral("</body></html>");
+}
+
+BytesBeyondEdit Count(const QByteArray &file, const QByteArray &saved, const QString &before,
+                      const QString &now) {
+  return CountBytesBeyondEdit({file, saved, Document(before), Document(now)});
+}
+
+TEST(BytesBeyondEdit, AreNoneWhereTheEditAloneIsSaved) {
+  const BytesBeyondEdit beyond =
+      Count("<P>one<P>two", "<P>one<P>new two", QStringLiteral("<p>one</p><p>two</p>"),
+            QStringLiteral("<p>one</p><p>new two</p>"));
+  EXPECT_EQ(beyond.outside, 0);
+  EXPECT_EQ(beyond.implied, 0);
+}
+
+TEST(BytesBeyondEdit, CountWhatWasWrittenInOtherWords) {
+  EXPECT_EQ(Count("<P>one<P>two", "<p>one<p>new two", QStringLiteral("<p>one</p><p>two</p>"),
+                  QStringLiteral("<p>one</p><p>new two</p>"))
+                .outside,
+            4);
+}
+
+TEST(BytesBeyondEdit, TellTheTagsThatTheDocumentNeeds) {
+  const BytesBeyondEdit beyond =
+      Count("<P>one<P>two", "<P>one</p><img><P>two", QStringLiteral("<p>one</p><p>two</p>"),
+            QStringLiteral("<p>one</p><img><p>two</p>"));
+  EXPECT_EQ(beyond.outside, 0);
+  EXPECT_EQ(beyond.implied, 4);
+}
+
+TEST(BytesBeyondEdit, TellThemWhereTheyStandInAnothersPlace) {
+  const BytesBeyondEdit beyond = Count("<p>one\r<h1>two</h1>\r<p>three", "<p>one\r</p>\r<p>three",
+                                       QStringLiteral("<p>one\n</p><h1>two</h1>\n<p>three</p>"),
+                                       QStringLiteral("<p>one\n</p>\n<p>three</p>"));
+  EXPECT_EQ(beyond.outside, 0);
+  EXPECT_EQ(beyond.implied, 4);
+}
+
+}  // namespace
+
+}  // namespace velor
