@@ -12,7 +12,18 @@
 namespace velor {
 
 /// What a component has to tell, in the order in which it is told when several wait.
-enum class Notice { LoadEnded, Complete, Display, Pointer, Menu, Drop, Report, Travel, Died };
+enum class Notice {
+  LoadEnded,
+  Complete,
+  Display,
+  Picture,
+  Pointer,
+  Menu,
+  Drop,
+  Report,
+  Travel,
+  Died
+};
 
 /// Notices on their way out. They leave by a timer of a millisecond: by then the engine's callback
 /// or the caller that caused them has returned (a shorter way out does not: waiting for the
