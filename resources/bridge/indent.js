@@ -23,20 +23,26 @@
     return first && isQuote(list.parentNode) ? list.parentNode : null;
   };
 
+  // Lines without a block of their own would run into one where two of them meet.
+  const runsOn = (one, other) => {
+    const edges = [[...one.childNodes].reverse(), [...other.childNodes]]
+      .map((nodes) => nodes.find(dom.isShown));
+    return edges.every((node) => node && !dom.isBlock(node));
+  };
+
   function enquote(parts) {
-    const quote = dom.wrap(parts, dom.create('BLOCKQUOTE'));
+    let quote = dom.wrap(parts, dom.create('BLOCKQUOTE'));
     const before = dom.neighbour(quote, 'previousSibling');
-    if (isQuote(before) && !before.attributes.length) {
+    if (isQuote(before) && !before.attributes.length && !runsOn(before, quote)) {
       before.append(...quote.childNodes);
       quote.remove();
-      return before;
+      quote = before;
     }
     const after = dom.neighbour(quote, 'nextSibling');
-    if (isQuote(after) && !after.attributes.length) {
+    if (isQuote(after) && !after.attributes.length && !runsOn(quote, after)) {
       quote.append(...after.childNodes);
       after.remove();
     }
-    return quote;
   }
 
   function indent(units) {
