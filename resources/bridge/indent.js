@@ -30,8 +30,10 @@
     return edges.every((node) => node && !dom.isBlock(node));
   };
 
-  function enquote(parts) {
-    let quote = dom.wrap(parts, dom.create('BLOCKQUOTE'));
+  const enquote = (parts) => dom.wrap(parts, dom.create('BLOCKQUOTE'));
+
+  // Joins a quote with those beside it.
+  function join(quote) {
     const before = dom.neighbour(quote, 'previousSibling');
     if (isQuote(before) && !before.attributes.length && !runsOn(before, quote)) {
       before.append(...quote.childNodes);
@@ -46,13 +48,14 @@
   }
 
   function indent(units) {
+    const made = [];
     const loose = units.filter((unit) => !inList(unit));
     for (const group of lists.groupsOf(units.filter(inList))) {
-      if (!lists.nest(group)) enquote([group[0].parentNode]);
+      if (!lists.nest(group)) made.push(enquote([group[0].parentNode]));
     }
     let run = [];
     const flush = () => {
-      if (run.length) enquote(run);
+      if (run.length) made.push(enquote(run));
       run = [];
     };
     for (const unit of loose) {
@@ -68,6 +71,7 @@
       run.push(...parts);
     }
     flush();
+    made.filter((quote) => quote.isConnected).forEach(join);
   }
 
   // Cuts the parts out of their quote and puts them where it stands.
