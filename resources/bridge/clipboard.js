@@ -116,7 +116,10 @@
   function paste(event) {
     if (!velor.editable() || isForms(event.target)) return;
     event.preventDefault();
-    insert(event.clipboardData, 'insertFromPaste');
+    const { clipboardData } = event;
+    const says = (type) => clipboardData.getData(type).trim() !== '';
+    if (says('text/html') || says('text/plain')) insert(clipboardData, 'insertFromPaste');
+    else velor.host?.pictureWanted();
   }
 
   function insert(data, kind) {

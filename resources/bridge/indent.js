@@ -23,30 +23,39 @@
     return first && isQuote(list.parentNode) ? list.parentNode : null;
   };
 
-  function enquote(parts) {
-    const quote = dom.wrap(parts, dom.create('BLOCKQUOTE'));
+  // Lines without a block of their own would run into one where two of them meet.
+  const runsOn = (one, other) => {
+    const edges = [[...one.childNodes].reverse(), [...other.childNodes]]
+      .map((nodes) => nodes.find(dom.isShown));
+    return edges.every((node) => node && !dom.isBlock(node));
+  };
+
+  const enquote = (parts) => dom.wrap(parts, dom.create('BLOCKQUOTE'));
+
+  // Joins a quote with those beside it.
+  function join(quote) {
     const before = dom.neighbour(quote, 'previousSibling');
-    if (isQuote(before) && !before.attributes.length) {
+    if (isQuote(before) && !before.attributes.length && !runsOn(before, quote)) {
       before.append(...quote.childNodes);
       quote.remove();
-      return before;
+      quote = before;
     }
     const after = dom.neighbour(quote, 'nextSibling');
-    if (isQuote(after) && !after.attributes.length) {
+    if (isQuote(after) && !after.attributes.length && !runsOn(quote, after)) {
       quote.append(...after.childNodes);
       after.remove();
     }
-    return quote;
   }
 
   function indent(units) {
+    const made = [];
     const loose = units.filter((unit) => !inList(unit));
     for (const group of lists.groupsOf(units.filter(inList))) {
-      if (!lists.nest(group)) enquote([group[0].parentNode]);
+      if (!lists.nest(group)) made.push(enquote([group[0].parentNode]));
     }
     let run = [];
     const flush = () => {
-      if (run.length) enquote(run);
+      if (run.length) made.push(enquote(run));
       run = [];
     };
     for (const unit of loose) {
@@ -62,6 +71,7 @@
       run.push(...parts);
     }
     flush();
+    made.filter((quote) => quote.isConnected).forEach(join);
   }
 
   // Cuts the parts out of their quote and puts them where it stands.

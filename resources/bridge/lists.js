@@ -205,6 +205,8 @@
   // Nests items in the item before them. False for the first items of a list, which have none.
   function nest(group) {
     adopt(group[0].parentNode);
+    const beside = dom.neighbour(group[0], 'previousSibling');
+    if (dom.isList(beside)) adopt(beside);
     const before = dom.neighbour(group[0], 'previousSibling');
     if (!isItem(before)) return false;
     sublist(before, group[0].parentNode).append(...group);

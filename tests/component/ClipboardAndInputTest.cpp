@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QImage>
 #include <QInputMethodEvent>
 #include <QMimeData>
 #include <QTest>
@@ -35,6 +36,35 @@ TEST_F(Editing, ClipboardCommandsCutCopyAndPaste) {
   EXPECT_TRUE(WaitFor([&] { return DocumentHolds(QStringLiteral("from elsewhere")); }))
       << Seen().constData();
   EXPECT_FALSE(DocumentHolds(QStringLiteral("One")));
+}
+
+TEST_F(Editing, APictureAloneIsPastedAsAFileBesideThePage) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  QImage image(30, 20, QImage::Format_RGB32);
+  image.fill(Qt::red);
+  QApplication::clipboard()->setImage(image);
+  const QString folder = folder_.path() + QLatin1Char('/');
+  QFile taken(folder + QStringLiteral("picture1.png"));
+  ASSERT_TRUE(taken.open(QIODevice::WriteOnly));
+  Exec(EditingCommand::Paste);
+  const QString markup =
+      QStringLiteral("<p>One<img src=\"picture2.png\" alt=\"\" width=\"30\" height=\"20\"></p>");
+  ASSERT_TRUE(WaitFor([&] { return DocumentHolds(markup); })) << Seen().constData();
+  EXPECT_EQ(QImage(folder + QStringLiteral("picture2.png")).convertToFormat(image.format()), image);
+  EXPECT_EQ(taken.size(), 0);
+  Exec(EditingCommand::Undo);
+  EXPECT_TRUE(DocumentHolds(QStringLiteral("<p>One</p>"))) << Seen().constData();
+}
+
+TEST_F(Editing, APictureAloneIsWithinThePageWhereThatHasNoFile) {
+  editor_->SetDocumentHTML(QStringLiteral("<p>One</p>"));
+  QImage image(3, 2, QImage::Format_RGB32);
+  image.fill(Qt::red);
+  QApplication::clipboard()->setImage(image);
+  Exec(EditingCommand::Paste);
+  EXPECT_TRUE(WaitFor([&] {
+    return DocumentHolds(QStringLiteral("<img src=\"data:image/png;base64,"));
+  })) << Seen().constData();
 }
 
 TEST_F(Editing, ACopiedLinkOrPicturePastedAgainKeepsItsRelativeAddress) {

@@ -34,6 +34,10 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     Q_EMIT InputArrived();
   }
+  void pictureWanted() {
+    const EngineCallback callback(guard_);
+    Q_EMIT PictureWanted();
+  }
   void earlierWanted() {
     const EngineCallback callback(guard_);
     Q_EMIT EarlierWanted();
@@ -48,6 +52,7 @@ class BridgeHost : public QObject {
   void MirrorArrived(const QString &html);
   void PointerMoved(QPoint clientPosition);
   void InputArrived();
+  void PictureWanted();
   void EarlierWanted();
   void LaterWanted();
 

@@ -60,6 +60,9 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   connect(&host_, &BridgeHost::MirrorArrived, this, [this](const QString &html) {
     if (phase_ == Phase::Ready) Q_EMIT MirrorArrived(html);
   });
+  connect(&host_, &BridgeHost::PictureWanted, this, [this] {
+    if (phase_ == Phase::Ready) Q_EMIT PictureWanted();
+  });
   connect(&host_, &BridgeHost::EarlierWanted, this, [this] {
     if (phase_ == Phase::Ready) Q_EMIT EarlierWanted();
   });

@@ -74,6 +74,8 @@ class EngineView : public QObject {
   void StateArrived(const velor::StateSnapshot &state);
   /// The document, where it is small enough to travel with each change.
   void MirrorArrived(const QString &html);
+  /// Paste was asked for where the clipboard has no text.
+  void PictureWanted();
   /// Undo or redo came to the end of the page's own history.
   void EarlierWanted();
   void LaterWanted();

@@ -17,6 +17,7 @@ enum class Notice {
   Complete,
   Display,
   Memory,
+  Picture,
   Pointer,
   Menu,
   Drop,

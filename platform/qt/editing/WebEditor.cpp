@@ -4,6 +4,7 @@
 #include "platform/EditingCommands.h"
 #include "platform/Paths.h"
 #include "platform/qt/editing/BridgeScript.h"
+#include "platform/qt/editing/PastedPicture.h"
 #include "platform/qt/editing/WebDocument.h"
 
 #include <QEvent>
@@ -86,6 +87,12 @@ void WebEditor::ConnectView() {
   const auto travel = [this](Direction direction) {
     notices_.Post(Notice::Travel, [this, direction] { Travel(direction); });
   };
+  QObject::connect(view, &EngineView::PictureWanted, [this] {
+    notices_.Post(Notice::Picture, [this] {
+      const QString markup = PastedPicture(nativePath_);
+      if (!markup.isEmpty()) Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(markup)));
+    });
+  });
   QObject::connect(view, &EngineView::EarlierWanted, [travel] { travel(Direction::Earlier); });
   QObject::connect(view, &EngineView::LaterWanted, [travel] { travel(Direction::Later); });
   QObject::connect(view, &EngineView::PointerMoved, [this](QPoint position) {
