@@ -58,9 +58,14 @@ int ResultCodeOf(const std::exception &error) {
   }
 }
 
+/// The detail alone: the statement that fails puts the number's sentence in front of it again.
 QByteArray TextOf(const std::exception &error) {
   const auto *known = dynamic_cast<const RuntimeError *>(&error);
-  return known == nullptr ? QByteArray(error.what()) : known->Description().toUtf8();
+  if (known == nullptr) return error.what();
+  QString text = known->Description();
+  const QString sentence = Description(static_cast<int>(known->Number())) + QStringLiteral(": ");
+  if (text.startsWith(sentence)) text.remove(0, sentence.size());
+  return text.toUtf8();
 }
 
 /// No exception may cross SQLite: it becomes a result code and the table's message.

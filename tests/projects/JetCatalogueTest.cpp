@@ -297,6 +297,7 @@ TEST_F(JetCatalogue, RepairsFilesOfOtherPrograms) {
                                "Update CustomCD set PPath = '\\new' where ProjectId = '2'"}) {
       if (indexed) {
         EXPECT_TRUE(Refusal(repair).contains(U("it is in an index")));
+        EXPECT_EQ(Refusal(repair).count(U("Invalid procedure call")), 1) << "the sentence once";
       } else {
         Run(repair);
       }
