@@ -277,8 +277,7 @@ def main(run_folder, out, palette, scale):
             photos = Photographer(program, f"{palette}-{scale}-recovery", factor)
             program.wait("Restore Untitled 1", "push button|button")
             photos.shot("bar")
-            program.key("alt+g")
-            program.key("space")
+            program.click_on("Restore Untitled 1")
             program.wait("Untitled 1", "page tab")
             photos.shot("restored")
         finally:
