@@ -14,7 +14,7 @@ namespace velor {
 namespace {
 
 struct Colors {
-  QColor window, base, alternate, text, button, faded, placeholder, accent, onAccent, link;
+  QColor window, base, alternate, text, button, faded, hint, accent, onAccent, link;
   QColor light, midlight, mid, dark, shadow;
 };
 
@@ -26,7 +26,7 @@ Colors ColorsFor(Shade shade) {
             .text = 0xe3e6eb,
             .button = 0x2d3138,
             .faded = 0x646b76,
-            .placeholder = 0x9aa2af,
+            .hint = 0x9aa2af,
             .accent = 0x3f78d8,
             .onAccent = 0xffffff,
             .link = 0x84b0ff,
@@ -42,7 +42,7 @@ Colors ColorsFor(Shade shade) {
           .text = 0x1e2430,
           .button = 0xe2e6ee,
           .faded = 0xa7aeba,
-          .placeholder = 0x5f6878,
+          .hint = 0x5f6878,
           .accent = 0x2f6fde,
           .onAccent = 0xffffff,
           .link = 0x2f6fde,
@@ -96,7 +96,7 @@ QPalette PaletteFor(Shade shade) {
     palette.setColor(role, colors.text);
     palette.setColor(QPalette::Disabled, role, colors.faded);
   }
-  palette.setColor(QPalette::PlaceholderText, colors.placeholder);
+  palette.setColor(QPalette::PlaceholderText, colors.hint);
   palette.setColor(QPalette::Highlight, colors.accent);
   palette.setColor(QPalette::HighlightedText, colors.onAccent);
   palette.setColor(QPalette::Disabled, QPalette::Highlight, colors.mid);

@@ -85,14 +85,8 @@
   // new one where it holds nothing but what was typed.
   function isFresh({ node, index }, data) {
     if (!before.texts.has(node)) return node.length === data?.length;
-    const old = before.texts.get(node);
-    const now = node.data;
-    const shorter = Math.min(old.length, now.length);
-    let head = 0;
-    while (head < shorter && old[head] === now[head]) head++;
-    let tail = 0;
-    while (tail < shorter - head && old.at(-1 - tail) === now.at(-1 - tail)) tail++;
-    return index >= head && index < now.length - tail;
+    const { head, tail } = velor.dom.kept(before.texts.get(node), node.data);
+    return index >= head && index < node.length - tail;
   }
 
   // A line was cut at the caret: the blank that would begin the second one ends the first.

@@ -190,10 +190,20 @@
     return isBreak(shown[0]) || (isInline(shown[0]) && !isAtom(shown[0]) && isHollow(shown[0]));
   }
 
+  // How much of a text is the same at its head and, behind that, at its tail.
+  function kept(old, now) {
+    const shorter = Math.min(old.length, now.length);
+    let head = 0;
+    while (head < shorter && old[head] === now[head]) head++;
+    let tail = 0;
+    while (tail < shorter - head && old.at(-1 - tail) === now.at(-1 - tail)) tail++;
+    return { head, tail };
+  }
+
   velor.dom = {
     isElement, isText, isBlock, isAtom, isIsland, isObject, isBreak, isNeutral, isInline, isBlank, isIgnorable,
     isShown,
-    isPlainDivision, writesStyles,
+    isPlainDivision, writesStyles, kept,
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),
     nextNode, nextSkippingChildren, ancestor, blockOf, firstLeaf, lastLeaf, create, successor,

@@ -25,11 +25,7 @@
     // Keeps what differs only: one key in a long text must not cost the text.
     seal() {
       const now = node.data;
-      const shorter = Math.min(old.length, now.length);
-      let head = 0;
-      while (head < shorter && old[head] === now[head]) head++;
-      let tail = 0;
-      while (tail < shorter - head && old.at(-1 - tail) === now.at(-1 - tail)) tail++;
+      const { head, tail } = velor.dom.kept(old, now);
       this.head = head;
       this.before = old.slice(head, old.length - tail);
       this.after = now.slice(head, now.length - tail);

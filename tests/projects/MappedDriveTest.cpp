@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Catalogues of another machine, whose drives are folders here.
 #include "chrome/FrmFld.h"
-#include "platform/Paths.h"
-#include "platform/Platform.h"
-#include "platform/ProgramValues.h"
 #include "platform/qt/QtFiles.h"
-#include "platform/sqlite/SqliteConnection.h"
-#include "projects/RecordsetReader.h"
 #include "projects/frmProjectManager.h"
 #include "tests/projects/CatalogueDesk.h"
-#include "tests/support/CatalogueFiles.h"
-#include "tests/support/Checks.h"
-#include "tests/support/FakeComponents.h"
-#include "tests/support/FakeDialogs.h"
-#include "tests/support/FakeRegistry.h"
-#include "tests/support/FakeRuntime.h"
+#include "tests/projects/CatalogueOnDisk.h"
 #include "tests/support/Forms.h"
 #include "tests/support/MappedDrives.h"
 
 #include <QDir>
 #include <QFile>
 #include <QPushButton>
-#include <QTemporaryDir>
 
 namespace velor {
 namespace {
@@ -45,19 +34,16 @@ class PickingDesk final : public CatalogueDesk {
   }
 };
 
-class MappedDrive : public testing::TestWithParam<CatalogueFormat> {
+class MappedDrive : public CatalogueOnDisk<QtFiles, PickingDesk> {
  protected:
   MappedDrive() {
     fixture::FixtureFile content = SmallCatalogue();
     content.tables[0].rows[1].cells[2] = U("C:\\Sites\\Shop");
     for (int page : {0, 1}) content.tables[1].rows[page].cells[3] = U("C:\\Sites\\Shop");
     content.tables[2].rows[1].cells[1] = U("C:\\Sites\\Shop");
-    WriteCatalogue(File(), GetParam(), content);
-    values.DbConnection = std::make_unique<SqliteConnection>();
-    values.DbConnection->Open(U("Data Source=") + ToLogic(File()), {}, {}, -1);
+    Open(content);
   }
 
-  QString File() const { return folder.filePath(U("eThumbs.mdb")); }
   QString Native(const char *name) const { return folder.filePath(U(name)); }
 
   void MakeSite(const char *name) {
@@ -71,24 +57,6 @@ class MappedDrive : public testing::TestWithParam<CatalogueFormat> {
     frmProjectManager manager(platform, values, desk, nullptr);
     Control<QPushButton>(manager, U("cmdOpen"))->click();
   }
-
-  QStringList Folders(const char *statement) {
-    const auto records = values.DbConnection->CreateRecordset();
-    OpenRecordset(*records, U(statement), *values.DbConnection);
-    QStringList texts;
-    for (; !records->EndOfFile(); records->MoveNext()) texts << records->ValueAt(0).toString();
-    return texts;
-  }
-
-  QTemporaryDir folder;
-  QtFiles files;
-  FakeRuntime runtime;
-  FakeDialogs dialogs;
-  FakeRegistry registry;
-  FakeComponents components{files};
-  Platform platform{files, runtime, dialogs, registry, components};
-  ProgramValues values;
-  PickingDesk desk{values};
 };
 
 TEST_P(MappedDrive, OpensAProjectWithoutARepair) {
@@ -106,9 +74,11 @@ TEST_P(MappedDrive, WritesAFolderOnTheDriveAsTheOtherMachineKnowsIt) {
   dialogs.ExpectMessage(U("Web path not found please provide the path"), MessageAnswer::Yes);
   OpenProject();
   const QString moved = U("C:\\Moved\\Shop");
-  EXPECT_EQ(Folders("Select Path from Project where IdProject = '2'"), QStringList{moved});
-  EXPECT_EQ(Folders("Select distinct TPath from Page where ProjectId = '2'"), QStringList{moved});
-  EXPECT_EQ(Folders("Select PPath from CustomCD where ProjectId = '2'"), QStringList{moved});
+  EXPECT_EQ(Column("Select Path from Project where IdProject = '2'", "Path"), QStringList{moved});
+  EXPECT_EQ(Column("Select distinct TPath from Page where ProjectId = '2'", "TPath"),
+            QStringList{moved});
+  EXPECT_EQ(Column("Select PPath from CustomCD where ProjectId = '2'", "PPath"),
+            QStringList{moved});
   EXPECT_EQ(desk.opened, moved + U("\\Files\\Home.htm"));
 }
 

@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The project manager on catalogues of its own on disk, one of each format: what its statements do
 // to the rows.
-#include "platform/Paths.h"
-#include "platform/Platform.h"
-#include "platform/ProgramValues.h"
-#include "platform/sqlite/SqliteConnection.h"
 #include "projects/RecordList.h"
-#include "projects/RecordsetReader.h"
 #include "projects/RowTable.h"
 #include "projects/frmProjectManager.h"
 #include "tests/projects/CatalogueDesk.h"
-#include "tests/support/CatalogueFiles.h"
-#include "tests/support/Checks.h"
-#include "tests/support/FakeComponents.h"
-#include "tests/support/FakeDialogs.h"
+#include "tests/projects/CatalogueOnDisk.h"
 #include "tests/support/FakeFiles.h"
-#include "tests/support/FakeRegistry.h"
-#include "tests/support/FakeRuntime.h"
 #include "tests/support/Forms.h"
 
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTemporaryDir>
 
 namespace velor {
 namespace {
@@ -38,38 +27,9 @@ class Desk final : public CatalogueDesk {
   void PickProjectFolder() override { values_.ProjectFolderResult = pickedFolder; }
 };
 
-class ProjectRepairTest : public testing::TestWithParam<CatalogueFormat> {
+class ProjectRepairTest : public CatalogueOnDisk<FakeFiles, Desk> {
  protected:
   ProjectRepairTest() { Open(SmallCatalogue()); }
-
-  void Open(const fixture::FixtureFile &content) {
-    WriteCatalogue(File(), GetParam(), content);
-    values.DbConnection = std::make_unique<SqliteConnection>();
-    values.DbConnection->Open(U("Data Source=") + ToLogic(File()), {}, {}, -1);
-  }
-
-  QString File() const { return folder.filePath(U("eThumbs.mdb")); }
-
-  /// The column of all rows, in the order of the statement.
-  QStringList Column(const char *statement, const char *column) {
-    const auto records = values.DbConnection->CreateRecordset();
-    OpenRecordset(*records, U(statement), *values.DbConnection);
-    QStringList texts;
-    for (; !records->EndOfFile(); records->MoveNext()) {
-      texts.append(records->Value(U(column)).toString());
-    }
-    return texts;
-  }
-
-  QTemporaryDir folder;
-  FakeFiles files;
-  FakeRuntime runtime;
-  FakeDialogs dialogs;
-  FakeRegistry registry;
-  FakeComponents components{files};
-  Platform platform{files, runtime, dialogs, registry, components};
-  ProgramValues values;
-  Desk desk{values};
 };
 
 TEST_P(ProjectRepairTest, ListsGeneratedProjectsOldestFirst) {

@@ -68,11 +68,11 @@ void FillCatalogue(const QString &path, const QByteArray &script) {
 void MakeMissingCatalogue(const QDir &folder) {
   const QString catalogue = folder.filePath(QStringLiteral("eThumbs.mdb"));
   if (QFileInfo::exists(catalogue)) return;
-  QTemporaryFile unfinished(folder.filePath(QStringLiteral("eThumbs.XXXXXX.tmp")));
-  if (!unfinished.open()) Fail(catalogue, unfinished.errorString());
-  FillCatalogue(unfinished.fileName(), Script(folder));
-  if (!unfinished.rename(catalogue)) Fail(catalogue, unfinished.errorString());
-  unfinished.setAutoRemove(false);
+  QTemporaryFile scratch(folder.filePath(QStringLiteral("eThumbs.XXXXXX.tmp")));
+  if (!scratch.open()) Fail(catalogue, scratch.errorString());
+  FillCatalogue(scratch.fileName(), Script(folder));
+  if (!scratch.rename(catalogue)) Fail(catalogue, scratch.errorString());
+  scratch.setAutoRemove(false);
   QFile::setPermissions(catalogue,
                         QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
 }

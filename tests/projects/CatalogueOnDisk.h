@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Paths.h"
+#include "platform/Platform.h"
+#include "platform/ProgramValues.h"
+#include "platform/sqlite/SqliteConnection.h"
+#include "projects/RecordsetReader.h"
+#include "tests/support/CatalogueFiles.h"
+#include "tests/support/Checks.h"
+#include "tests/support/FakeComponents.h"
+#include "tests/support/FakeDialogs.h"
+#include "tests/support/FakeRegistry.h"
+#include "tests/support/FakeRuntime.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace velor {
+
+/// The project manager's surroundings with a catalogue on disk, in the format of the parameter.
+template <typename FilesPart, typename DeskPart>
+class CatalogueOnDisk : public testing::TestWithParam<CatalogueFormat> {
+ protected:
+  void Open(const fixture::FixtureFile &content) {
+    WriteCatalogue(File(), GetParam(), content);
+    values.DbConnection = std::make_unique<SqliteConnection>();
+    values.DbConnection->Open(QStringLiteral("Data Source=") + ToLogic(File()), {}, {}, -1);
+  }
+
+  QString File() const { return folder.filePath(QStringLiteral("eThumbs.mdb")); }
+
+  /// The column of all rows, in the order of the statement.
+  QStringList Column(const char *statement, const char *column) {
+    const auto records = values.DbConnection->CreateRecordset();
+    OpenRecordset(*records, QString::fromUtf8(statement), *values.DbConnection);
+    QStringList texts;
+    for (; !records->EndOfFile(); records->MoveNext())
+      texts.append(records->Value(QString::fromUtf8(column)).toString());
+    return texts;
+  }
+
+  QTemporaryDir folder;
+  FilesPart files;
+  FakeRuntime runtime;
+  FakeDialogs dialogs;
+  FakeRegistry registry;
+  FakeComponents components{files};
+  Platform platform{files, runtime, dialogs, registry, components};
+  ProgramValues values;
+  DeskPart desk{values};
+};
+
+}  // namespace velor
