@@ -2,9 +2,11 @@
 #include "platform/html/SourceTags.h"
 
 #include "platform/html/HtmlElements.h"
+#include "platform/html/SourceScan.h"
 
 #include <cstring>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace velor {
@@ -19,14 +21,6 @@ bool IsTextElement(QByteArrayView name) {
   const std::uint32_t key = KeyOf(name);
   return elements::IsOneOf(key, elements::rawElements) ||
          elements::IsOneOf(key, elements::titleElements);
-}
-
-bool IsLetter(char letter) {
-  return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z');
-}
-
-bool IsBlank(char letter) {
-  return letter == ' ' || letter == '\t' || letter == '\n' || letter == '\r' || letter == '\f';
 }
 
 qsizetype Find(QByteArrayView source, char wanted, qsizetype from) {
@@ -111,6 +105,33 @@ std::optional<SourceTag> StartTagOf(QByteArrayView source, const SourceTag &end)
 }
 
 }  // namespace
+
+std::vector<SourceStretch> FoldableStretches(QByteArrayView source) {
+  struct Open {
+    std::uint32_t name;
+    qsizetype begin;
+  };
+  std::vector<Open> open;
+  // How many of each are open, so that a stray end tag costs no search.
+  std::unordered_map<std::uint32_t, int> counts;
+  std::vector<SourceStretch> stretches;
+  VisitTags(source, [&](const SourceTag &tag) {
+    const std::uint32_t name = KeyOf(tag.name);
+    if (tag.kind == SourceTag::Kind::Other) stretches.push_back({tag.begin, tag.end});
+    if (tag.kind == SourceTag::Kind::Start && !IsVoidElement(tag.name)) {
+      open.push_back({name, tag.begin});
+      ++counts[name];
+    }
+    if (tag.kind != SourceTag::Kind::End || counts[name] == 0) return true;
+    for (bool isFound = false; !isFound; open.pop_back()) {
+      isFound = open.back().name == name;
+      --counts[open.back().name];
+      if (isFound) stretches.push_back({open.back().begin, tag.end});
+    }
+    return true;
+  });
+  return stretches;
+}
 
 bool IsVoidElement(QByteArrayView name) {
   return elements::IsOneOf(KeyOf(name), elements::voidElements);

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace velor {
 
@@ -37,6 +38,16 @@ struct TagPair {
   std::optional<SourceTag> other;
 };
 std::optional<TagPair> MatchingTags(QByteArrayView source, qsizetype position);
+
+/// From a tag to what closes it, or a comment: what can be folded away.
+struct SourceStretch {
+  qsizetype begin = 0;
+  qsizetype end = 0;  ///< behind the last byte
+};
+
+/// Elements whose end tag is there, and comments, in the order of their ends. An end tag closes the
+/// nearest element of its name and what was left open inside.
+std::vector<SourceStretch> FoldableStretches(QByteArrayView source);
 
 /// Whether elements of that name (lower case) have neither content nor end tag.
 bool IsVoidElement(QByteArrayView name);

@@ -2,12 +2,12 @@
 #include "platform/qt/QsciSourceControl.h"
 
 #include "platform/qt/SourceColors.h"
+#include "platform/qt/SourceLexer.h"
 #include "platform/qt/SourceMarks.h"
 
 #include <QEvent>
 #include <QFontDatabase>
 #include <QPalette>
-#include <Qsci/qscilexerhtml.h>
 #include <Qsci/qsciscintilla.h>
 
 #include <algorithm>
@@ -25,8 +25,6 @@ constexpr int LineMarker = 0;
 constexpr int CaretUpdates = QsciScintilla::SC_UPDATE_SELECTION | QsciScintilla::SC_UPDATE_CONTENT;
 constexpr int FirstFoldMarker = QsciScintilla::SC_MARKNUM_FOLDEREND;
 constexpr int LastFoldMarker = QsciScintilla::SC_MARKNUM_FOLDEROPEN;
-/// The highest style number of the HTML lexer.
-constexpr int LastStyle = 127;
 constexpr int TabColumns = 4;
 constexpr int MiddleLightness = 128;
 /// How much of the highlight colour, and of the text's, is in fields that stand back.
@@ -40,25 +38,6 @@ constexpr int FewestDigits = 4;
 constexpr int MarginBackground = 1;
 constexpr int LineNumberBackground = 26;
 constexpr int LineNumberText = 27;
-
-/// The lexer's tags and attributes are those of HTML 4; to colour today's alike, it is told theirs.
-class HtmlLexer final : public QsciLexerHTML {
- public:
-  using QsciLexerHTML::QsciLexerHTML;
-
-  const char *keywords(int set) const override {
-    static const QByteArray tagsAndAttributes =
-        QByteArray(QsciLexerHTML().keywords(1)) +
-        " article aside audio bdi canvas data datalist details dialog embed figcaption figure "
-        "footer header hgroup main mark meter nav output picture progress rp rt ruby section slot "
-        "source summary svg template time track video wbr async autocomplete autofocus autoplay "
-        "contenteditable controls crossorigin download draggable hidden integrity list loading "
-        "loop "
-        "max min muted pattern placeholder poster preload required role sandbox sizes spellcheck "
-        "srcset step translate";
-    return set == 1 ? tagsAndAttributes.constData() : QsciLexerHTML::keywords(set);
-  }
-};
 
 /// "Lucida Console" where it is installed; the control itself would fall back to a proportional
 /// font for a family it does not find.
@@ -101,8 +80,7 @@ QColor Mix(const QColor &one, const QColor &other, double share) {
 
 QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
     : editor_(new QsciScintilla(parent)) {
-  lexer_ = new HtmlLexer(editor_);
-  lexer_->setFoldCompact(false);
+  lexer_ = new SourceLexer(editor_);
   marks_ = new SourceMarks(editor_);
   editor_->setUtf8(true);
   editor_->setFrameStyle(QFrame::NoFrame);
@@ -245,14 +223,13 @@ void QsciSourceControl::FollowPalette() {
   lexer_->setDefaultFont(SourceFont());
   lexer_->setDefaultColor(ink);
   lexer_->setDefaultPaper(paper);
-  for (int style = 0; style <= LastStyle; ++style) {
+  for (int style = 0; style < SourceRoleCount; ++style) {
     lexer_->setFont(SourceFont(), style);
-    lexer_->setColor(SourceColor(RoleOfStyle(style), palette), style);
+    lexer_->setColor(SourceColor(static_cast<SourceRole>(style), palette), style);
     lexer_->setPaper(paper, style);
     lexer_->setEolFill(false, style);
   }
   editor_->setLexer(lexer_);
-  editor_->SendScintilla(QsciScintilla::SCI_SETPROPERTY, "fold.html", "1");
   editor_->setPaper(paper);
   editor_->setColor(ink);
   editor_->setCaretForegroundColor(ink);

@@ -8,11 +8,11 @@
 
 #include <map>
 
-class QsciLexerHTML;
 class QsciScintilla;
 
 namespace velor {
 
+class SourceLexer;
 class SourceMarks;
 
 /// The source control on QScintilla: HTML with its scripts and style sheets in colours that follow
@@ -58,7 +58,7 @@ class QsciSourceControl final : public QObject, public SourceControl {
   void FitLineNumbers();
 
   QPointer<QsciScintilla> editor_;
-  QsciLexerHTML *lexer_ = nullptr;
+  SourceLexer *lexer_ = nullptr;
   SourceMarks *marks_ = nullptr;
   std::function<void()> selectionListener_;
   int markedLine_ = -1;

@@ -2,7 +2,6 @@
 #include "platform/qt/SourceColors.h"
 
 #include <QPalette>
-#include <Qsci/qscilexerhtml.h>
 
 #include <array>
 
@@ -36,77 +35,6 @@ QColor SourceColor(SourceRole role, const QPalette &palette) {
     if (entry.role == role) return QColor::fromRgb(dark ? entry.onDark : entry.onLight);
   }
   return palette.color(QPalette::Text);
-}
-
-SourceRole RoleOfStyle(int style) {
-  switch (style) {
-    case QsciLexerHTML::Tag:
-    case QsciLexerHTML::UnknownTag:
-    case QsciLexerHTML::XMLTagEnd:
-    case QsciLexerHTML::XMLStart:
-    case QsciLexerHTML::XMLEnd:
-    case QsciLexerHTML::Script:
-    case QsciLexerHTML::ASPStart:
-    case QsciLexerHTML::ASPAtStart:
-    case QsciLexerHTML::PHPStart:
-    case QsciLexerHTML::SGMLDefault:
-    case QsciLexerHTML::SGMLCommand:
-      return SourceRole::Tag;
-    case QsciLexerHTML::Attribute:
-    case QsciLexerHTML::UnknownAttribute:
-    case QsciLexerHTML::SGMLParameter:
-      return SourceRole::Attribute;
-    case QsciLexerHTML::HTMLDoubleQuotedString:
-    case QsciLexerHTML::HTMLSingleQuotedString:
-    case QsciLexerHTML::HTMLValue:
-    case QsciLexerHTML::SGMLDoubleQuotedString:
-    case QsciLexerHTML::SGMLSingleQuotedString:
-    case QsciLexerHTML::JavaScriptDoubleQuotedString:
-    case QsciLexerHTML::JavaScriptSingleQuotedString:
-    case QsciLexerHTML::JavaScriptUnclosedString:
-    case QsciLexerHTML::JavaScriptRegex:
-    case QsciLexerHTML::ASPJavaScriptDoubleQuotedString:
-    case QsciLexerHTML::ASPJavaScriptSingleQuotedString:
-    case QsciLexerHTML::VBScriptString:
-    case QsciLexerHTML::ASPVBScriptString:
-    case QsciLexerHTML::PHPDoubleQuotedString:
-    case QsciLexerHTML::PHPSingleQuotedString:
-      return SourceRole::String;
-    case QsciLexerHTML::HTMLComment:
-    case QsciLexerHTML::ASPXCComment:
-    case QsciLexerHTML::SGMLComment:
-    case QsciLexerHTML::SGMLParameterComment:
-    case QsciLexerHTML::JavaScriptComment:
-    case QsciLexerHTML::JavaScriptCommentLine:
-    case QsciLexerHTML::JavaScriptCommentDoc:
-    case QsciLexerHTML::ASPJavaScriptComment:
-    case QsciLexerHTML::ASPJavaScriptCommentLine:
-    case QsciLexerHTML::ASPJavaScriptCommentDoc:
-    case QsciLexerHTML::VBScriptComment:
-    case QsciLexerHTML::ASPVBScriptComment:
-    case QsciLexerHTML::PHPComment:
-    case QsciLexerHTML::PHPCommentLine:
-      return SourceRole::Comment;
-    case QsciLexerHTML::HTMLNumber:
-    case QsciLexerHTML::JavaScriptNumber:
-    case QsciLexerHTML::ASPJavaScriptNumber:
-    case QsciLexerHTML::VBScriptNumber:
-    case QsciLexerHTML::ASPVBScriptNumber:
-    case QsciLexerHTML::PHPNumber:
-      return SourceRole::Number;
-    case QsciLexerHTML::Entity:
-    case QsciLexerHTML::SGMLEntity:
-    case QsciLexerHTML::CDATA:
-      return SourceRole::Entity;
-    case QsciLexerHTML::JavaScriptKeyword:
-    case QsciLexerHTML::ASPJavaScriptKeyword:
-    case QsciLexerHTML::VBScriptKeyword:
-    case QsciLexerHTML::ASPVBScriptKeyword:
-    case QsciLexerHTML::PHPKeyword:
-      return SourceRole::Keyword;
-    default:
-      return SourceRole::Text;
-  }
 }
 
 }  // namespace velor

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/SourceMarks.h"
 
-#include "platform/html/CssSpans.h"
 #include "platform/html/SourceTags.h"
-#include "platform/qt/SourceColors.h"
 
 #include <QByteArrayView>
 #include <QPalette>
 #include <Qsci/qsciscintilla.h>
 
 #include <algorithm>
-#include <array>
 #include <chrono>
+#include <vector>
 
 namespace velor {
 
@@ -19,18 +17,16 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::chrono::milliseconds StyleSheetPause = 150ms;
+constexpr std::chrono::milliseconds FoldPause = 150ms;
 constexpr std::chrono::milliseconds TagPause = 40ms;
 /// A "<" further before the caret than this begins no tag that anybody looks at.
 constexpr qsizetype LongestTag = 4096;
 constexpr int TagFieldAlpha = 40;
 constexpr int TagEdgeAlpha = 110;
 
-/// By CssPart.
-constexpr std::array PartRoles = {SourceRole::Tag,    SourceRole::Attribute, SourceRole::String,
-                                  SourceRole::Number, SourceRole::Comment,   SourceRole::Keyword};
-constexpr int PartCount = static_cast<int>(PartRoles.size());
-static_assert(SourceMarks::FirstStyleSheetIndicator + PartCount <= SourceMarks::TagIndicator);
+/// The control's levels have twelve bits, of which the base takes one.
+constexpr int DeepestFold =
+    QsciScintillaBase::SC_FOLDLEVELNUMBERMASK - QsciScintillaBase::SC_FOLDLEVELBASE;
 
 long Send(const QsciScintilla &editor, unsigned int message, qsizetype first = 0,
           qsizetype second = 0) {
@@ -74,12 +70,12 @@ void SetIndicator(QsciScintilla &editor, int indicator, int style, const QColor 
 }  // namespace
 
 SourceMarks::SourceMarks(QsciScintilla *editor) : QObject(editor), editor_(editor) {
-  styleSheets_.setSingleShot(true);
+  folds_.setSingleShot(true);
   tags_.setSingleShot(true);
-  connect(&styleSheets_, &QTimer::timeout, this, &SourceMarks::ColorStyleSheets);
+  connect(&folds_, &QTimer::timeout, this, &SourceMarks::FindFolds);
   connect(&tags_, &QTimer::timeout, this, &SourceMarks::MarkTags);
   connect(editor_, &QsciScintilla::textChanged, this, [this] {
-    styleSheets_.start(StyleSheetPause);
+    folds_.start(FoldPause);
     tags_.start(TagPause);
   });
   connect(editor_, &QsciScintilla::cursorPositionChanged, this, [this] { tags_.start(TagPause); });
@@ -87,10 +83,6 @@ SourceMarks::SourceMarks(QsciScintilla *editor) : QObject(editor), editor_(edito
 
 void SourceMarks::FollowPalette() {
   const QPalette palette = editor_->palette();
-  for (int part = 0; part < PartCount; ++part) {
-    SetIndicator(*editor_, FirstStyleSheetIndicator + part, QsciScintillaBase::INDIC_TEXTFORE,
-                 SourceColor(PartRoles.at(static_cast<std::size_t>(part)), palette));
-  }
   SetIndicator(*editor_, TagIndicator, QsciScintillaBase::INDIC_STRAIGHTBOX,
                palette.color(QPalette::Highlight));
   Send(*editor_, QsciScintillaBase::SCI_INDICSETALPHA, TagIndicator, TagFieldAlpha);
@@ -99,25 +91,35 @@ void SourceMarks::FollowPalette() {
 }
 
 void SourceMarks::TextReplaced() {
-  styleSheets_.start(0);
+  folds_.start(0);
 }
 
-void SourceMarks::ColorStyleSheets() {
-  for (int part = 0; part < PartCount; ++part) Clear(*editor_, FirstStyleSheetIndicator + part);
-  const QByteArrayView text = TextOf(*editor_);
-  qsizetype sheet = -1;
-  const auto color = [&](qsizetype end) {
-    for (const CssSpan &span : CssSpans(text.sliced(sheet, end - sheet)))
-      Fill(*editor_, FirstStyleSheetIndicator + static_cast<int>(span.part), sheet + span.begin,
-           sheet + span.end);
-    sheet = -1;
-  };
-  VisitTags(text, [&](const SourceTag &tag) {
-    if (sheet >= 0) color(tag.begin);
-    if (tag.kind == SourceTag::Kind::Start && tag.name == "style") sheet = tag.end;
-    return true;
-  });
-  if (sheet >= 0) color(text.size());
+void SourceMarks::FindFolds() {
+  const auto lines = static_cast<std::size_t>(Send(*editor_, QsciScintillaBase::SCI_GETLINECOUNT));
+  // By how much a line lies deeper than the one before.
+  std::vector<int> steps(lines + 1);
+  std::vector<bool> headers(lines);
+  for (const SourceStretch &stretch : FoldableStretches(TextOf(*editor_))) {
+    const auto line = [this](qsizetype position) {
+      return static_cast<std::size_t>(
+          Send(*editor_, QsciScintillaBase::SCI_LINEFROMPOSITION, position));
+    };
+    const std::size_t first = line(stretch.begin);
+    const std::size_t last = line(stretch.end - 1);
+    if (first == last) continue;
+    headers[first] = true;
+    ++steps[first + 1];
+    --steps[last + 1];
+  }
+  int depth = 0;
+  for (std::size_t line = 0; line < lines; ++line) {
+    depth += steps[line];
+    const int level = (QsciScintillaBase::SC_FOLDLEVELBASE + std::min(depth, DeepestFold)) |
+                      (headers[line] ? QsciScintillaBase::SC_FOLDLEVELHEADERFLAG : 0);
+    const auto number = static_cast<qsizetype>(line);
+    if (Send(*editor_, QsciScintillaBase::SCI_GETFOLDLEVEL, number) != level)
+      Send(*editor_, QsciScintillaBase::SCI_SETFOLDLEVEL, number, level);
+  }
 }
 
 void SourceMarks::MarkTags() {

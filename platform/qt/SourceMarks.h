@@ -8,30 +8,29 @@ class QsciScintilla;
 
 namespace velor {
 
-/// What the HTML lexer does not see: the style sheets within STYLE in their colours, and the tag at
-/// the caret together with its partner. Both follow a moment after the change, so that typing in a
-/// long source never waits for them.
+/// What needs more than a line of HTML source: the elements and comments that can be folded, and
+/// the tag at the caret together with its partner. Both follow a moment after the change, so that
+/// typing in a long source never waits for them.
 class SourceMarks : public QObject {
   Q_OBJECT
 
  public:
-  /// Indicator numbers of the control; the style sheets' ones stand in the order of CssPart.
-  static constexpr int FirstStyleSheetIndicator = 8;
-  static constexpr int TagIndicator = 14;
+  /// Number of the control's indicator that marks the two tags.
+  static constexpr int TagIndicator = 8;
 
   explicit SourceMarks(QsciScintilla *editor);
 
   /// Takes up the colours of the editor's palette.
   void FollowPalette();
-  /// Colours a text that was put in as a whole.
+  /// Takes up a text that was put in as a whole.
   void TextReplaced();
 
  private:
-  void ColorStyleSheets();
+  void FindFolds();
   void MarkTags();
 
   QsciScintilla *editor_;
-  QTimer styleSheets_;
+  QTimer folds_;
   QTimer tags_;
 };
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the real source control looks like, and how it is typed into.
-#include "platform/html/CssSpans.h"
 #include "platform/qt/QsciSourceControl.h"
 #include "platform/qt/SourceColors.h"
 #include "platform/qt/SourceMarks.h"
@@ -13,7 +12,7 @@
 #include <QPalette>
 #include <QTest>
 #include <QWidget>
-#include <Qsci/qscilexerhtml.h>
+#include <Qsci/qscilexer.h>
 #include <Qsci/qsciscintilla.h>
 
 #include <cmath>
@@ -67,14 +66,14 @@ TEST(QsciSourceControlTest, ItFollowsAChangeOfThePalette) {
   const QPalette dark = PaletteOn(QColor(0x24, 0x26, 0x29), QColor(0xe6, 0xe6, 0xe6));
   source.Widget()->setPalette(dark);
   QsciLexer *lexer = EditorOf(source)->lexer();
-  EXPECT_EQ(lexer->paper(QsciLexerHTML::Tag), dark.color(QPalette::Base));
-  EXPECT_EQ(lexer->color(QsciLexerHTML::Tag), SourceColor(SourceRole::Tag, dark));
+  EXPECT_EQ(lexer->paper(static_cast<int>(SourceRole::Tag)), dark.color(QPalette::Base));
+  EXPECT_EQ(lexer->color(static_cast<int>(SourceRole::Tag)), SourceColor(SourceRole::Tag, dark));
 }
 
 TEST(QsciSourceControlTest, TheFontHasOnePitchThatIsReallyThere) {
   QWidget host;
   QsciSourceControl source(&host, SourceAccess::View);
-  const QFont font = EditorOf(source)->lexer()->font(QsciLexerHTML::Default);
+  const QFont font = EditorOf(source)->lexer()->font(static_cast<int>(SourceRole::Text));
   const QFontMetrics metrics(font);
   EXPECT_EQ(metrics.horizontalAdvance(u'i'), metrics.horizontalAdvance(u'W'));
 }
@@ -152,18 +151,29 @@ class QsciEditing : public ::testing::Test {
   QsciSourceControl source_{&host_, SourceAccess::Edit};
 };
 
-TEST_F(QsciEditing, StyleSheetsHaveTheirColours) {
-  source_.SetText(QStringLiteral("<p>b{c:1}</p><style>p { color: #f00 } /* x */</style>"));
-  const auto indicator = [](CssPart part) {
-    return SourceMarks::FirstStyleSheetIndicator + static_cast<int>(part);
+TEST_F(QsciEditing, TheSourceHasTheColoursOfItsRoles) {
+  source_.SetText(QStringLiteral("<p>b</p><style>q { color: #f00 }</style>\r\n<!-- a\r\nb -->"));
+  (void)Editor().grab();
+  const auto role = [&](int position) {
+    return static_cast<SourceRole>(Send(QsciScintilla::SCI_GETSTYLEAT, position));
   };
-  EXPECT_TRUE(Becomes(indicator(CssPart::Selector), "[p]"));
-  EXPECT_TRUE(Becomes(indicator(CssPart::Property), "[color]"));
-  EXPECT_TRUE(Becomes(indicator(CssPart::Number), "[#f00]"));
-  EXPECT_TRUE(Becomes(indicator(CssPart::Comment), "[/* x */]"));
-  source_.SetCaret(0, 20);
-  source_.ReplaceSelection(QStringLiteral("h1, "));
-  EXPECT_TRUE(Becomes(indicator(CssPart::Selector), "[h1][p]"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return role(50) == SourceRole::Comment; }));
+  EXPECT_EQ(role(1), SourceRole::Tag);
+  EXPECT_EQ(role(3), SourceRole::Text);
+  EXPECT_EQ(role(19), SourceRole::Attribute);
+  source_.SetCaret(1, 3);
+  source_.ReplaceSelection(QStringLiteral(">"));
+  (void)Editor().grab();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return role(51) == SourceRole::Text; }))
+      << "what is typed changes the lines below";
+}
+
+TEST_F(QsciEditing, ScriptsWithinScriptsAreShown) {
+  source_.SetText(QStringLiteral(
+      "<script src=a><script><!-- b\n<![CDATA[</script><%@language=python%><script><!"));
+  (void)Editor().grab();
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return Send(QsciScintilla::SCI_GETENDSTYLED) == Send(QsciScintilla::SCI_GETLENGTH); }));
 }
 
 TEST_F(QsciEditing, TheTagAtTheCaretAndItsPartnerAreMarked) {
@@ -186,6 +196,19 @@ TEST_F(QsciEditing, ElementsFold) {
   EXPECT_EQ(Send(QsciScintilla::SCI_GETLINEVISIBLE, 1), 0);
   source_.Find(QStringLiteral("a</p>"), SearchDirection::Forward, LetterCase::Matched);
   EXPECT_NE(Send(QsciScintilla::SCI_GETLINEVISIBLE, 1), 0) << "what is found is seen";
+}
+
+TEST_F(QsciEditing, WhatIsNeverClosedDoesNotFold) {
+  source_.SetText(QStringLiteral("<!-- a\nb -->\n<ul><li>c\n<li>d\n</ul></b>\n<p>e\n<br>\nf"));
+  const auto level = [&](int line) {
+    return Send(QsciScintilla::SCI_GETFOLDLEVEL, line) - QsciScintilla::SC_FOLDLEVELBASE;
+  };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return level(2) == QsciScintilla::SC_FOLDLEVELHEADERFLAG; }));
+  EXPECT_EQ(level(0), QsciScintilla::SC_FOLDLEVELHEADERFLAG);
+  EXPECT_EQ(level(1), 1);
+  EXPECT_EQ(level(3), 1);
+  EXPECT_EQ(level(4), 1);
+  for (int line = 5; line < 8; ++line) EXPECT_EQ(level(line), 0) << line;
 }
 
 TEST_F(QsciEditing, ANewLineIsIndentedLikeTheOneBefore) {
