@@ -41,7 +41,8 @@ class EditingListener {
   virtual void ContextMenuRequested(QPoint screenPosition) = 0;
   /// The pointer moved or pressed within the page, in CSS pixels of its viewport.
   virtual void MouseNotified(int clientX, int clientY) = 0;
-  /// Something a person should read in the status bar (the page's engine stopped, came back ...).
+  /// Something a person should read in the status bar (the page's engine stopped, came back ...);
+  /// an empty text takes back what was said last.
   virtual void ComponentReported(const QString &message) = 0;
   /// Files were dropped on the page, paths in logic form. The caret is where they were dropped; the
   /// component does nothing else with them.

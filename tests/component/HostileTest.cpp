@@ -76,6 +76,9 @@ TEST_P(HostileShapes, NeverHoldTheWindowUpWithoutAWayToStop) {
     EXPECT_EQ(error, ErrorNumber::None);
   }
   EXPECT_EQ(Bytes(QStringLiteral("page.htm")), page);
+  if (WasTold()) {
+    EXPECT_EQ(listener_.reports.back(), QString()) << "what is over is no longer said";
+  }
   // And then the window takes another page.
   listener_.reports.clear();
   editor_->LoadDocument(Write(QStringLiteral("next.htm"), "<p>next</p>"));

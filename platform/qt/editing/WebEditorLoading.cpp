@@ -105,8 +105,13 @@ WebEditor::Loaded WebEditor::Load(LoadPurpose purpose) {
   for (int attempt = 1; attempt <= loadAttempts; ++attempt) {
     BeginLoad(purpose);
     const int load = loads_;
-    const Patience patience{loadPatience, [this] {
-                              if (listener_ != nullptr) listener_->ComponentReported(longLoad);
+    bool isTold = false;
+    const auto tell = [this](const QString &message) {
+      if (listener_ != nullptr) listener_->ComponentReported(message);
+    };
+    const Patience patience{loadPatience, [&] {
+                              isTold = true;
+                              tell(longLoad);
                             }};
     const WaitEnd end = view->Wait(
         loadLimit,
@@ -114,6 +119,7 @@ WebEditor::Loaded WebEditor::Load(LoadPurpose purpose) {
           return load != loads_ || view_->CurrentPhase() != EngineView::Phase::Loading;
         },
         &patience);
+    if (view != nullptr && isTold) tell({});
     // A page closed or replaced meanwhile is no failure of this call; one that cannot be waited
     // for here ends its loading by itself.
     if (view == nullptr || load != loads_ || end == WaitEnd::Refused) return Loaded::Unknown;
