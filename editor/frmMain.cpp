@@ -216,6 +216,8 @@ void frmMain::DisplayChanged() {
   if (Ready != QStringLiteral("True")) return;
   RefreshMfrm();
   DynaLink();
+  // Undo past an applied source brings back what the bytes were before.
+  context_.mainWindow.ShowTextForm(component_->TextForm());
 }
 
 void frmMain::MemoryChanged() {

@@ -4,6 +4,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/html/CharsetConverter.h"
 #include "platform/html/PageEdits.h"
+#include "platform/html/PageMask.h"
 
 #include <QHash>
 
@@ -23,10 +24,21 @@ bool IsLineBreak(QChar unit) {
   return unit == u'\n' || unit == u'\r';
 }
 
+/// Whether a reference at that place of the text stands for its character: in text and in an
+/// attribute's value.
+bool TakesReference(const QString &whole, const HtmlToken &token, qsizetype place) {
+  if (token.IsText()) return true;
+  if (token.kind != HtmlTokenKind::StartTag) return false;
+  const HtmlTagParts tag = ReadHtmlTag(whole, token.offset);
+  return std::any_of(tag.attributes.begin(), tag.attributes.end(), [place](const auto &attribute) {
+    return attribute.value >= 0 && place >= attribute.value &&
+           place < attribute.value + attribute.valueLength;
+  });
+}
+
 /// Raises where a reference of the text would stand for nothing.
 void RequireReferencesFit(const QString &text, const std::vector<TextPatch> &patches,
                           CharsetConverter &converter, const QString &charset) {
-  std::vector<HtmlToken> tokens;
   std::vector<qsizetype> places;
   qsizetype shift = 0;
   for (const TextPatch &patch : patches) {
@@ -40,17 +52,21 @@ void RequireReferencesFit(const QString &text, const std::vector<TextPatch> &pat
   }
   if (places.empty()) return;
   const QString whole = Patched(text, patches);
-  for (const HtmlToken &token : TokenizeHtml(whole)) {
-    const bool takesReferences = token.IsText() || token.kind == HtmlTokenKind::StartTag;
-    if (takesReferences) continue;
-    const auto inside = std::lower_bound(places.begin(), places.end(), token.offset);
-    if (inside == places.end() || *inside >= token.End()) continue;
-    const QStringView rest = QStringView(whole).sliced(*inside);
+  const PageMask mask(whole);
+  const std::vector<HtmlToken> tokens = TokenizeHtml(whole);
+  for (const qsizetype place : places) {
+    const auto after =
+        std::upper_bound(tokens.begin(), tokens.end(), place,
+                         [](qsizetype at, const HtmlToken &token) { return at < token.offset; });
+    const bool isInToken = after != tokens.begin() && place < std::prev(after)->End();
+    if (isInToken && TakesReference(whole, *std::prev(after), place) && !mask.IsServerCode(place))
+      continue;
+    const QStringView rest = QStringView(whole).sliced(place);
     const QString character = rest.first(rest[0].isHighSurrogate() ? 2 : 1).toString();
     throw RuntimeError(
         ErrorNumber::InvalidProcedureCall, QStringLiteral("SaveDocument"),
         QStringLiteral("The character \"%1\" cannot be written in the page's charset %2 inside a "
-                       "script, style sheet or comment.")
+                       "script, style sheet, comment, name or server code.")
             .arg(character, charset));
   }
 }

@@ -22,7 +22,7 @@ QString Patched(const QString &text, const std::vector<TextPatch> &patches);
 /// Carries patches of a page's text (order and overlap as above) over into its bytes: what no patch
 /// touches is copied byte by byte, valid in the charset or not. What the charset lacks is written
 /// as a reference. Raises InvalidProcedureCall where no reference can stand (scripts, style sheets,
-/// comments).
+/// comments, names of tags and attributes, server code).
 PageToWrite SpliceBytes(const PageOriginal &original, const std::vector<TextPatch> &patches);
 
 /// The bytes of a text that takes the place of the page's: lines that it shares with the page keep

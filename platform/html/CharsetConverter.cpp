@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/html/CharsetConverter.h"
 
+#include "platform/html/CharsetDecoder.h"
+
 #include <QChar>
 
 #include <unicode/ucnv.h>
@@ -13,40 +15,7 @@ namespace {
 
 constexpr char16_t Replacement = 0xFFFD;
 
-/// The library's tables that come closest to the Encoding Standard's, where the names differ.
-const char *TableFor(const QString &charset) {
-  struct Table {
-    const char *charset;
-    const char *table;
-  };
-  static constexpr Table tables[] = {
-      {"big5", "Big5-HKSCS"},
-      {"gbk", "gb18030"},
-      {"euc-kr", "windows-949"},
-      {"shift_jis", "windows-31j"},
-      {"iso-8859-8-i", "iso-8859-8"},
-      {"x-user-defined", "windows-1252"},
-      {"iso-8859-10", "iso-8859_10-1998"},
-      {"iso-8859-14", "iso-8859_14-1998"},
-  };
-  for (const Table &row : tables) {
-    if (charset == QLatin1String(row.charset)) return row.table;
-  }
-  return nullptr;
-}
-
-UConverter *Open(const QString &charset) {
-  const char *table = TableFor(charset);
-  const QByteArray name = charset.toLatin1();
-  UErrorCode status = U_ZERO_ERROR;
-  UConverter *converter = ucnv_open(table != nullptr ? table : name.constData(), &status);
-  if (converter != nullptr) return converter;
-  status = U_ZERO_ERROR;
-  return ucnv_open("windows-1252", &status);
-}
-
-/// One U+FFFD for each illegal or unassigned sequence; the library's own callback writes U+001A
-/// for some.
+/// One U+FFFD for each illegal sequence.
 void WriteReplacement(const void *, UConverterToUnicodeArgs *arguments, const char *, int32_t,
                       UConverterCallbackReason reason, UErrorCode *status) {
   if (reason > UCNV_IRREGULAR) return;
@@ -64,25 +33,21 @@ char32_t NextCharacter(QStringView text, qsizetype &at) {
   return Replacement;
 }
 
-/// Whether browsers read a form that they do not write, since many programs that read the charset
-/// do not know it: the four-byte forms of GB 18030 in GBK, the Hong Kong characters in Big5.
-bool IsExtension(const QString &charset, const QByteArray &bytes) {
-  if (charset == u"gbk") return bytes.size() == 4;
-  return charset == u"big5" && bytes.size() > 1 && static_cast<unsigned char>(bytes[0]) < 0xA1;
-}
-
 }  // namespace
 
 CharsetConverter::CharsetConverter(const QString &charset)
-    : converter_(Open(charset)), charset_(charset), isUnicode_(charset.startsWith(u"utf-")) {
+    : form_(FormOf(charset)), isGbk_(charset == u"gbk") {
+  if (form_ != CharsetForm::Unicode) {
+    index_ = &IndexOf(charset);
+    return;
+  }
   UErrorCode status = U_ZERO_ERROR;
-  ucnv_setToUCallBack(converter_, WriteReplacement, nullptr, nullptr, nullptr, &status);
-  ucnv_setFromUCallBack(converter_, UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &status);
-  ucnv_setFallback(converter_, false);
+  unicode_ = ucnv_open(charset.toLatin1().constData(), &status);
+  ucnv_setToUCallBack(unicode_, WriteReplacement, nullptr, nullptr, nullptr, &status);
 }
 
 CharsetConverter::~CharsetConverter() {
-  ucnv_close(converter_);
+  ucnv_close(unicode_);
 }
 
 QString CharsetConverter::Decode(QByteArrayView bytes) {
@@ -94,7 +59,12 @@ QString CharsetConverter::Decode(QByteArrayView bytes, std::vector<std::int32_t>
 }
 
 QString CharsetConverter::Decode(QByteArrayView bytes, std::vector<std::int32_t> *offsets) {
-  ucnv_resetToUnicode(converter_);
+  return unicode_ != nullptr ? DecodeUnicode(bytes, offsets)
+                             : DecodeByIndex(form_, *index_, bytes, offsets);
+}
+
+QString CharsetConverter::DecodeUnicode(QByteArrayView bytes, std::vector<std::int32_t> *offsets) {
+  ucnv_resetToUnicode(unicode_);
   QString text;
   // Few sequences give more UTF-16 units than they have bytes.
   text.resize(bytes.size() + 16);
@@ -108,7 +78,7 @@ QString CharsetConverter::Decode(QByteArrayView bytes, std::vector<std::int32_t>
     if (offsets != nullptr) offsets->resize(static_cast<std::size_t>(text.size()));
     std::int32_t *const places = offsets != nullptr ? offsets->data() + used : nullptr;
     UErrorCode status = U_ZERO_ERROR;
-    ucnv_toUnicode(converter_, &target, start + text.size(), &source, sourceEnd, places, true,
+    ucnv_toUnicode(unicode_, &target, start + text.size(), &source, sourceEnd, places, true,
                    &status);
     const qsizetype filled = target - start;
     // Each turn counts its places from its own first byte.
@@ -123,51 +93,85 @@ QString CharsetConverter::Decode(QByteArrayView bytes, std::vector<std::int32_t>
   return text;
 }
 
+bool CharsetConverter::Writes(char32_t character) const {
+  if (character < 0x80)
+    return form_ != CharsetForm::Iso2022Jp ||
+           (character != 0x0E && character != 0x0F && character != 0x1B);
+  if (character <= 0xFFFF && index_->written[character] != 0)
+    return form_ != CharsetForm::Iso2022Jp || index_->written[character] >= 0xA1A1;
+  return form_ == CharsetForm::Gb && !isGbk_ && !FourBytesOf(character).isEmpty();
+}
+
+QByteArray CharsetConverter::BytesOf(char32_t character) const {
+  const std::uint16_t written = character <= 0xFFFF ? index_->written[character] : 0;
+  if (written == 0) return FourBytesOf(character);
+  QByteArray bytes;
+  if (written > 0xFF) bytes += static_cast<char>(written >> 8);
+  bytes += static_cast<char>(written & 0xFF);
+  return bytes;
+}
+
 qsizetype CharsetConverter::FirstReference(QStringView text) {
-  if (isUnicode_) return -1;
+  if (unicode_ != nullptr) return -1;
   for (qsizetype at = 0; at < text.size();) {
     const qsizetype start = at;
-    if (!ReadsBack(NextCharacter(text, at))) return start;
+    const QChar unit = text[at];
+    const char32_t character = NextCharacter(text, at);
+    const bool isBroken = character == Replacement && unit != QChar(Replacement);
+    if (isBroken || !Writes(character)) return start;
   }
   return -1;
 }
 
 QByteArray CharsetConverter::Encode(const QString &text) {
-  QString writable;
-  writable.reserve(text.size());
+  if (unicode_ != nullptr) return EncodeUnicode(text);
+  QByteArray bytes;
+  bytes.reserve(text.size() + text.size() / 2);
+  const bool hasStates = form_ == CharsetForm::Iso2022Jp;
+  bool isShifted = false;  // in the state of two bytes a character
+  const auto shift = [&](bool toPairs) {
+    if (!hasStates || isShifted == toPairs) return;
+    bytes += toPairs ? "\x1b$B" : "\x1b(B";
+    isShifted = toPairs;
+  };
   const QStringView view = text;
-  qsizetype pending = 0;  // from here on nothing is copied yet
   for (qsizetype at = 0; at < view.size();) {
-    const qsizetype start = at;
+    const QChar unit = view[at];
     const char32_t character = NextCharacter(view, at);
-    const bool isBroken = character == Replacement && view[start] != QChar(Replacement);
-    if (!isBroken && ReadsBack(character)) continue;
-    writable += view.sliced(pending, start - pending);
-    if (isUnicode_) {
-      writable += QChar(Replacement);
+    const bool isBroken = character == Replacement && unit != QChar(Replacement);
+    if (isBroken || !Writes(character)) {
+      shift(false);
+      bytes += "&#" + QByteArray::number(static_cast<uint>(character)) + ';';
+    } else if (character < 0x80) {
+      shift(false);
+      bytes += static_cast<char>(character);
     } else {
-      writable += u'&' + (u'#' + QString::number(character)) + u';';
+      shift(true);
+      for (const char byte : BytesOf(character))
+        bytes += static_cast<char>(hasStates ? byte & 0x7F : byte);
     }
-    pending = at;
   }
-  if (pending == 0) return EncodeWhole(view);
-  writable += view.sliced(pending);
-  return EncodeWhole(writable);
+  shift(false);
+  return bytes;
 }
 
-/// The text's bytes; as far as the first character that the charset lacks.
-QByteArray CharsetConverter::EncodeWhole(QStringView text) {
-  ucnv_resetFromUnicode(converter_);
+QByteArray CharsetConverter::EncodeUnicode(const QString &text) {
+  QString whole = text;
+  for (qsizetype at = 0; at < whole.size();) {
+    const qsizetype start = at;
+    if (NextCharacter(whole, at) == Replacement) whole[start] = QChar(Replacement);
+  }
+  ucnv_resetFromUnicode(unicode_);
   QByteArray bytes;
-  bytes.resize(text.size() + text.size() / 2 + 16);
-  const char16_t *source = text.utf16();
-  const char16_t *const sourceEnd = source + text.size();
+  bytes.resize(whole.size() + whole.size() / 2 + 16);
+  const char16_t *source = QStringView(whole).utf16();
+  const char16_t *const sourceEnd = source + whole.size();
   qsizetype used = 0;
   for (;;) {
     char *const start = bytes.data();
     char *target = start + used;
     UErrorCode status = U_ZERO_ERROR;
-    ucnv_fromUnicode(converter_, &target, start + bytes.size(), &source, sourceEnd, nullptr, true,
+    ucnv_fromUnicode(unicode_, &target, start + bytes.size(), &source, sourceEnd, nullptr, true,
                      &status);
     used = target - start;
     if (status != U_BUFFER_OVERFLOW_ERROR) break;
@@ -175,20 +179,6 @@ QByteArray CharsetConverter::EncodeWhole(QStringView text) {
   }
   bytes.truncate(used);
   return bytes;
-}
-
-bool CharsetConverter::ReadsBack(char32_t character) {
-  if (isUnicode_) return true;
-  if (fates_.empty()) fates_.resize(QChar::LastValidCodePoint + 1);
-  Fate &fate = fates_[character];
-  if (fate == Fate::Unknown) {
-    const auto units = QChar::fromUcs4(character);
-    const QStringView text = units;
-    const QByteArray bytes = EncodeWhole(text);
-    fate = !IsExtension(charset_, bytes) && Decode(bytes) == text ? Fate::ReadsBack
-                                                                  : Fate::NeedsReference;
-  }
-  return fate == Fate::ReadsBack;
 }
 
 }  // namespace velor

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/html/CharsetIndex.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -12,11 +14,10 @@ struct UConverter;
 
 namespace velor {
 
-/// Converts between bytes and text in one charset, as close to what browsers decode as the
-/// library's tables are.
+/// Converts between bytes and text in one charset, as browsers do by the Encoding Standard.
 class CharsetConverter {
  public:
-  /// `charset` is a WHATWG name; one that the library has no table for is read as windows-1252.
+  /// `charset` is a WHATWG name.
   explicit CharsetConverter(const QString &charset);
   ~CharsetConverter();
   CharsetConverter(const CharsetConverter &) = delete;
@@ -34,17 +35,17 @@ class CharsetConverter {
   qsizetype FirstReference(QStringView text);
 
  private:
-  enum class Fate : std::uint8_t { Unknown, ReadsBack, NeedsReference };
-
   QString Decode(QByteArrayView bytes, std::vector<std::int32_t> *offsets);
-  QByteArray EncodeWhole(QStringView text);
-  bool ReadsBack(char32_t character);
+  QString DecodeUnicode(QByteArrayView bytes, std::vector<std::int32_t> *offsets);
+  QByteArray EncodeUnicode(const QString &text);
+  /// The bytes of a character beyond ASCII; empty for one that the charset lacks.
+  QByteArray BytesOf(char32_t character) const;
+  bool Writes(char32_t character) const;
 
-  UConverter *converter_;
-  QString charset_;
-  bool isUnicode_;
-  /// Indexed by character; filled as characters are asked for.
-  std::vector<Fate> fates_;
+  CharsetForm form_;
+  bool isGbk_;
+  UConverter *unicode_ = nullptr;        ///< for the forms of Unicode
+  const CharsetIndex *index_ = nullptr;  ///< for all others
 };
 
 }  // namespace velor

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/html/CharsetPrescan.h"
 
+#include "platform/html/HtmlElements.h"
+#include "platform/html/HtmlTokens.h"
 #include "platform/html/PageEncoding.h"
 
 #include <QByteArray>
@@ -11,6 +13,8 @@
 namespace velor {
 
 namespace {
+
+constexpr qsizetype prescanBytes = 1024;
 
 constexpr bool IsSpace(char c) {
   return c == ' ' || c == '\t' || c == '\n' || c == '\f' || c == '\r';
@@ -37,7 +41,7 @@ QString KnownCharset(QByteArrayView label) {
 /// Walks the bytes; every step ends at the end of what may be looked at.
 class Prescan {
  public:
-  explicit Prescan(QByteArrayView bytes) : bytes_(bytes.first(qMin(bytes.size(), PrescanBytes))) {}
+  explicit Prescan(QByteArrayView bytes) : bytes_(bytes.first(qMin(bytes.size(), prescanBytes))) {}
 
   QString Run() {
     const QString xmlCharset = XmlDeclaration();
@@ -185,10 +189,40 @@ class Prescan {
   qsizetype at_ = 0;
 };
 
+/// The charset of a meta element in the head, wherever the head ends.
+QString LateCharset(QByteArrayView bytes) {
+  using namespace elements;
+  static constexpr std::uint32_t meta = NameKeyOf(u"meta");
+  static constexpr std::uint32_t head = NameKeyOf(u"head");
+  static constexpr std::uint32_t headElements[] = {
+      script,
+      meta,
+      head,
+      NameKeyOf(u"html"),
+      NameKeyOf(u"title"),
+      NameKeyOf(u"style"),
+      NameKeyOf(u"link"),
+      NameKeyOf(u"base"),
+      NameKeyOf(u"object"),
+      NameKeyOf(u"noscript"),
+  };
+  const QByteArrayView start = bytes.first(qMin(bytes.size(), LongestHead));
+  for (const HtmlToken &token : TokenizeHtml(QString::fromLatin1(start))) {
+    if (!token.IsTag()) continue;
+    const bool isStart = token.kind == HtmlTokenKind::StartTag;
+    if (!IsOneOf(token.name, headElements) || (token.name == head && !isStart)) return {};
+    if (token.name != meta || !isStart) continue;
+    const QString charset = Prescan(start.sliced(token.offset, token.length)).Run();
+    if (!charset.isEmpty()) return charset;
+  }
+  return {};
+}
+
 }  // namespace
 
 QString DeclaredCharset(QByteArrayView bytes) {
-  return Prescan(bytes).Run();
+  const QString early = Prescan(bytes).Run();
+  return early.isEmpty() && bytes.size() > prescanBytes ? LateCharset(bytes) : early;
 }
 
 }  // namespace velor

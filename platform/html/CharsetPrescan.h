@@ -6,14 +6,15 @@
 
 namespace velor {
 
-/// As much of a page is looked at for a declaration.
-inline constexpr qsizetype PrescanBytes = 1024;
+/// A head that is longer is not looked through.
+inline constexpr qsizetype LongestHead = 1'000'000;
 
-/// The charset that a page's first bytes declare, by the HTML standard's "prescan a byte stream to
-/// determine its encoding": a meta element's charset, or its http-equiv Content-Type; after those
-/// an XML declaration. Comments are skipped. The WHATWG name; empty when nothing known is declared.
-/// UTF-16 counts as UTF-8 (whoever could read the declaration was not reading UTF-16), and
-/// x-user-defined as windows-1252.
+/// The charset that a page's first bytes declare: by the HTML standard's "prescan a byte stream to
+/// determine its encoding" a meta element's charset in the first 1,024 bytes, or its http-equiv
+/// Content-Type; after those an XML declaration; after that a meta element further on in the head,
+/// at which browsers begin anew. Comments are skipped. The WHATWG name; empty when nothing known is
+/// declared. UTF-16 counts as UTF-8 (whoever could read the declaration was not reading UTF-16),
+/// and x-user-defined as windows-1252.
 QString DeclaredCharset(QByteArrayView bytes);
 
 }  // namespace velor

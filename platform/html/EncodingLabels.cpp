@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/html/PageEncoding.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QStringList>
 
@@ -87,7 +88,14 @@ QHash<QString, QString> CharsetsByLabel() {
 
 QString CharsetForLabel(const QString &label) {
   static const QHash<QString, QString> charsets = CharsetsByLabel();
-  return charsets.value(label.trimmed().toLower());
+  // The white space and the small letters of ASCII only.
+  QByteArray bytes = label.toUtf8();
+  const auto isSpace = [](char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\f' || c == '\r';
+  };
+  while (!bytes.isEmpty() && isSpace(bytes.back())) bytes.chop(1);
+  while (!bytes.isEmpty() && isSpace(bytes.front())) bytes.remove(0, 1);
+  return charsets.value(QString::fromUtf8(bytes.toLower()));
 }
 
 }  // namespace velor

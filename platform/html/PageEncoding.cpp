@@ -80,7 +80,7 @@ QByteArray EncodePage(const QString &text, const PageEncoding &encoding) {
 
 PageEncoding DeclaredEncoding(const QString &text) {
   PageEncoding encoding;
-  const QString declared = DeclaredCharset(text.left(PrescanBytes).toLatin1());
+  const QString declared = DeclaredCharset(text.left(LongestHead).toLatin1());
   if (!declared.isEmpty()) encoding.charset = declared;
   encoding.lineEnds = MostCommonLineEnds(text);
   return encoding;
@@ -90,7 +90,7 @@ PageEncoding EncodingInPlaceOf(const PageEncoding &page, const QString &text) {
   PageEncoding encoding = page;
   encoding.lineEnds = MostCommonLineEnds(text);
   if (page.byteOrderMark) return encoding;
-  const QString declared = DeclaredCharset(text.left(PrescanBytes).toLatin1());
+  const QString declared = DeclaredCharset(text.left(LongestHead).toLatin1());
   if (!declared.isEmpty()) encoding.charset = declared;
   return encoding;
 }

@@ -26,8 +26,8 @@ struct DecodedPage {
 };
 
 /// Reads a page's bytes as browsers do (WHATWG Encoding and the HTML standard's prescan): byte
-/// order mark, else the charset declared in the first 1,024 bytes, else UTF-8 where the bytes are
-/// valid UTF-8, else windows-1252. A declared charset that nobody knows counts as undeclared.
+/// order mark, else the charset declared in the head, else UTF-8 where the bytes are valid UTF-8,
+/// else windows-1252. A declared charset that nobody knows counts as undeclared.
 /// Bytes that are no text in the charset become U+FFFD. Never raises.
 DecodedPage DecodePage(const QByteArray &bytes);
 
@@ -35,7 +35,7 @@ DecodedPage DecodePage(const QByteArray &bytes);
 /// reference (&#26085;). Line ends are written as they stand in `text`.
 QByteArray EncodePage(const QString &text, const PageEncoding &encoding);
 
-/// The encoding that a text declares for itself in its first 1,024 characters, else UTF-8 without a
+/// The encoding that a text declares for itself in its head, else UTF-8 without a
 /// byte order mark; line ends as found in the text.
 PageEncoding DeclaredEncoding(const QString &text);
 

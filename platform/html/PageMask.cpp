@@ -310,6 +310,17 @@ qsizetype PageMask::OutOfMask(qsizetype masked, Edge edge) const {
   return edge == Edge::Start ? piece->masked : piece->masked + piece->maskedLength;
 }
 
+bool PageMask::IsServerCode(qsizetype source) const {
+  const auto after =
+      std::upper_bound(pieces_.begin(), pieces_.end(), source,
+                       [](qsizetype at, const Piece &piece) { return at < piece.source; });
+  if (after == pieces_.begin()) return false;
+  const Piece &piece = *std::prev(after);
+  const bool isCode = piece.text.startsWith(u"<%") || piece.text.startsWith(u"<?") ||
+                      piece.text.startsWith(u"<!--#");
+  return isCode && source < piece.source + piece.sourceLength;
+}
+
 qsizetype PageMask::ToSource(qsizetype masked, Edge edge) const {
   const qsizetype offset = OutOfMask(masked, edge);
   const Piece *piece = PieceBefore(offset);

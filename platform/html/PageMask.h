@@ -27,6 +27,9 @@ class PageMask {
   /// A text of the engine's with the original pieces in the place of their masks.
   QString Unmask(const QString &text) const;
 
+  /// Whether that place of the source is in server code.
+  bool IsServerCode(qsizetype source) const;
+
   enum class Edge { Start, End };
   /// Where an offset into MaskedText() lies in the source; one inside a mask goes to the mask's
   /// edge.

@@ -3,8 +3,8 @@
 // tests hold the browser engine to behaviour that the component is built on: a newer engine that
 // differs fails here first.
 #include "tests/component/ComponentFixture.h"
+#include "tests/component/CountingServer.h"
 
-#include <QTcpServer>
 #include <QTest>
 #include <QWebEngineProfile>
 #include <QWebEngineSettings>
@@ -14,23 +14,6 @@
 namespace velor {
 
 namespace {
-
-/// A server that counts who comes.
-class CountingServer {
- public:
-  CountingServer() {
-    EXPECT_TRUE(server_.listen(QHostAddress::LocalHost));
-    QObject::connect(&server_, &QTcpServer::newConnection, [this] { ++visits; });
-  }
-  QByteArray Address() const {
-    return "http://127.0.0.1:" + QByteArray::number(server_.serverPort());
-  }
-
-  int visits = 0;
-
- private:
-  QTcpServer server_;
-};
 
 class Isolation : public WebEditorTest {
  protected:

@@ -105,6 +105,19 @@ TEST_F(Replacing, EachDocumentIsSavedWithItsOwnBytesCharsetAndLineEnds) {
   EXPECT_EQ(Saved(), utf8);
 }
 
+TEST_F(Replacing, TheTextFormIsTheShownDocumentsWhenADisplayChangeIsTold) {
+  LoadPage("<META charset=big5>\r\n<p>\xa4\xa4</P>\r\n");
+  LoadPage("<META charset=utf-8>\n<p>\xe4\xb8\xad</P>\n");
+  EXPECT_EQ(editor_->TextForm(), QStringLiteral("utf-8, LF"));
+  QString told;
+  listener_.onDisplayChange = [&] { told = editor_->TextForm(); };
+  ASSERT_TRUE(Becomes(EditingCommand::Undo, CommandStatus::Enabled));
+  Undo();
+  EXPECT_TRUE(WaitFor([&] { return told == QStringLiteral("big5, CR LF"); }));
+  Redo();
+  EXPECT_TRUE(WaitFor([&] { return told == QStringLiteral("utf-8, LF"); }));
+}
+
 TEST_F(Replacing, AfterTakingItBackEditingGoesOnInTheOldCharset) {
   LoadWithCaret("<meta charset=big5>\r\n<p>\xa4\xa4</p>", QStringLiteral("p"));
   LoadPage("<meta charset=utf-8>\n<p>\xe4\xb8\xad</p>");

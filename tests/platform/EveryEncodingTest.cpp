@@ -133,6 +133,47 @@ TEST(EveryEncoding, KeepsTwoBytesEachThatOnlyAnXmlDeclarationTells) {
   }
 }
 
+/// A page with the marked place "@" filled in, both in the file and in the document.
+ErrorNumber ErrorOfAdding(const QByteArray &page, const QString &addition, QByteArray *bytes) {
+  const QByteArray file = QByteArray(page).replace("@", "");
+  FaithfulPage faithful({file, DecodePage(file), {}});
+  Echo echo;
+  faithful.SetBaseline(*echo.Serialisation(faithful.TextToLoad()));
+  QString now = QString::fromLatin1(page);
+  now.replace(u'@', addition);
+  const ErrorNumber error = ErrorOf(
+      [&] { *bytes = BytesForText(faithful.Original(), now, faithful.Original().page.encoding); });
+  EXPECT_EQ(faithful.Compose(faithful.Baseline(), echo).page.bytes, file);
+  return error;
+}
+
+TEST(WhatTheCharsetLacks, IsAReferenceWhereOneStandsForIt) {
+  const QByteArray head = "<html><head><meta charset=big5>";
+  for (const QByteArray &place :
+       {QByteArray("<title>a@</title></head><body>b"), QByteArray("</head><body><p>a@b"),
+        QByteArray("</head><body><p title=\"a@\">b"), QByteArray("</head><body><p title=a@>b"),
+        QByteArray("</head><body><textarea>a@</textarea>"),
+        QByteArray("</head><body><?php x ?>a@<% y %>")}) {
+    QByteArray bytes;
+    EXPECT_EQ(ErrorOfAdding(head + place, QStringLiteral("\U0001F600"), &bytes), ErrorNumber::None);
+    EXPECT_EQ(bytes, head + QByteArray(place).replace("@", "&#128512;"));
+  }
+}
+
+TEST(WhatTheCharsetLacks, IsRefusedWhereNoReferenceStandsForIt) {
+  const QByteArray head = "<html><head><meta charset=big5>";
+  for (const QByteArray &place :
+       {QByteArray("<script>'a@'</script>"), QByteArray("<style>/*a@*/</style>"),
+        QByteArray("<!-- a@ -->"), QByteArray("<p a@=1>b"), QByteArray("<a@>b"),
+        QByteArray("<p class='<?= 'a@' ?>'>b"), QByteArray("<% a@ %>b"),
+        QByteArray("<?php 'a@' ?>b"), QByteArray("<xmp>a@</xmp>")}) {
+    QByteArray bytes;
+    EXPECT_EQ(ErrorOfAdding(head + place, QStringLiteral("\u0142"), &bytes),
+              ErrorNumber::InvalidProcedureCall)
+        << place.toStdString();
+  }
+}
+
 }  // namespace
 
 }  // namespace velor

@@ -112,6 +112,18 @@ INSTANTIATE_TEST_SUITE_P(
         Declaration{"<meta name=a content='text/html; charset=big5'><meta charset=koi8-r>",
                     "koi8-r"},
         Declaration{"<meta charset=nonsense><meta charset=koi8-r>", "koi8-r"},
+        Declaration{"<meta charset=nonsense http-equiv=content-type content='a;charset=big5'>",
+                    "windows-1252"},
+        Declaration{"<meta http-equiv=content-type content='a;charset=big5' charset=koi8-r>",
+                    "koi8-r"},
+        Declaration{"<meta content='a;charset=big5' content='a;charset=koi8-r' "
+                    "http-equiv=content-type>",
+                    "big5"},
+        Declaration{"<meta content='a;charset=\"big5' http-equiv=content-type>", "windows-1252"},
+        Declaration{"<meta http-equiv=content-type content='a;charset=utf-16be'>", "utf-8"},
+        Declaration{"<meta charset='\xA0koi8-r'>", "windows-1252"},
+        Declaration{"<title><meta charset=big5></title>", "big5"},
+        Declaration{"<script>'<meta charset=big5>'</script>", "big5"},
         Declaration{"<meta charset=koi8-r charset=big5>", "koi8-r"},
         Declaration{"<!-- <meta charset=big5> --><meta charset=koi8-r>", "koi8-r"},
         Declaration{"<!--><meta charset=koi8-r>", "koi8-r"},
@@ -128,10 +140,26 @@ INSTANTIATE_TEST_SUITE_P(
         Declaration{"<meta content='charset=' http-equiv=content-type>", "windows-1252"},
         Declaration{"<", "windows-1252"}, Declaration{"<!--", "windows-1252"}));
 
-TEST(DecodePage, LooksForADeclarationInTheFirst1024BytesOnly) {
+TEST(DecodePage, FindsALateDeclarationInTheHeadOnly) {
   const QByteArray meta = "<meta charset=koi8-r>";
+  const QByteArray filling(2000, 'x');
   EXPECT_EQ(CharsetOf(QByteArray(1024 - meta.size(), ' ') + meta + "\xE9"), "koi8-r");
-  EXPECT_EQ(CharsetOf(QByteArray(1025 - meta.size(), ' ') + meta + "\xE9"), "windows-1252");
+  EXPECT_EQ(CharsetOf(QByteArray(1030 - meta.size(), ' ') + meta + "\xE9"), "koi8-r");
+  for (const char *before : {"<!--%-->", "<script>'<p>%'</script>", "<title>%</title>",
+                             "<style>%</style>", "<meta name=description content='%'>"}) {
+    const QByteArray start = QByteArray("<html><head>") + QByteArray(before).replace("%", filling);
+    EXPECT_EQ(CharsetOf(start + meta + "\xE9"), "koi8-r") << before;
+    EXPECT_EQ(CharsetOf(start + "<META http-equiv=content-type content='a;charset=big5'>\xE9"),
+              "big5")
+        << before;
+    EXPECT_EQ(CharsetOf(start + "<body>" + meta + "\xE9"), "windows-1252") << before;
+  }
+  EXPECT_EQ(CharsetOf("<p>" + filling + "</p>" + meta + "\xE9"), "windows-1252");
+  EXPECT_EQ(CharsetOf("<title>" + filling + "</title></head>" + meta + "\xE9"), "windows-1252");
+  EXPECT_EQ(CharsetOf("<title>" + filling + meta + "</title>\xE9"), "windows-1252");
+  EXPECT_EQ(CharsetOf("<!--" + filling + meta + "-->\xE9"), "windows-1252");
+  EXPECT_EQ(DeclaredEncoding(QString::fromLatin1("<!--" + filling + "-->" + meta)).charset,
+            "koi8-r");
 }
 
 struct Sample {
@@ -246,6 +274,10 @@ TEST(CharsetForLabel, KnowsTheStandardsLabels) {
   EXPECT_EQ(CharsetForLabel("ks_c_5601-1987"), "euc-kr");
   EXPECT_EQ(CharsetForLabel("unicode"), "utf-16le");
   EXPECT_EQ(CharsetForLabel("iso-2022-kr"), "replacement");
+  EXPECT_EQ(CharsetForLabel("\t\n\f\r koi8-r \f"), "koi8-r");
+  EXPECT_EQ(CharsetForLabel(u"\u00A0koi8-r"_qs), "");
+  EXPECT_EQ(CharsetForLabel("\vkoi8-r"), "");
+  EXPECT_EQ(CharsetForLabel(u"\u212Aoi8-r"_qs), "");
   EXPECT_EQ(CharsetForLabel("utf-7"), "");
   EXPECT_EQ(CharsetForLabel(""), "");
 }
