@@ -129,6 +129,9 @@ QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
     const bool moved = (updated & CaretUpdates) != 0;
     if (moved && selectionListener_) selectionListener_();
   });
+  connect(editor_, &QsciScintilla::textChanged, this, [this] {
+    if (textListener_) textListener_();
+  });
 }
 
 QsciSourceControl::~QsciSourceControl() {
@@ -208,6 +211,10 @@ void QsciSourceControl::CenterCaret() {
 
 void QsciSourceControl::SetSelectionListener(std::function<void()> listener) {
   selectionListener_ = std::move(listener);
+}
+
+void QsciSourceControl::SetTextListener(std::function<void()> listener) {
+  textListener_ = std::move(listener);
 }
 
 int QsciSourceControl::MarkedLine() const {
