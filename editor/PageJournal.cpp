@@ -3,6 +3,7 @@
 
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
 #include "platform/EditingComponent.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
@@ -38,7 +39,16 @@ void PageJournal::Follow() {
   // Before it is settled for the first time the page is still being made.
   if (!journal_ || !settled_) return;
   const QString document = component_.Memory().document;
-  if (hasJournal_ ? document == written_ : IsSettled(document)) return;
+  if (hasJournal_ ? document == written_.page.document : IsSettled(document)) return;
+  WriteSoon();
+}
+
+void PageJournal::FollowSource() {
+  if (journal_ && settled_) WriteSoon();
+}
+
+void PageJournal::WriteSoon() {
+  if (hasLeft_) return;
   if (!sinceChange_.isValid()) sinceChange_.start();
   const std::chrono::milliseconds left =
       longestDelay - std::chrono::milliseconds(sinceChange_.elapsed());
@@ -53,8 +63,13 @@ bool PageJournal::Catch() {
 
 void PageJournal::Settle() {
   saveFailed_ = false;
-  Discard();
   settled_ = component_.Memory().document;
+  // A save takes the document alone: a source that was not applied to it is still to be kept.
+  if (Page().source) {
+    Write();
+  } else {
+    Discard();
+  }
 }
 
 void PageJournal::SaveFailed() {
@@ -76,29 +91,42 @@ void PageJournal::Discard() {
 }
 
 void PageJournal::Leave() {
-  if (!saveFailed_) return Discard();
-  if (sinceChange_.isValid()) Write();
-  Rest();
+  if (saveFailed_) {
+    if (sinceChange_.isValid()) Write();
+    Rest();
+  } else {
+    Discard();
+  }
+  hasLeft_ = true;
 }
 
 JournalledPage PageJournal::Page() const {
   const PageRecord &record = context_.pages.Record(number_);
   const bool hasFile = record.HasFile != False16;
-  return {record.Path, record.Caption,
+  const frmCodeEditor *editor = context_.pages.CodeEditor(number_);
+  return {record.Path,
+          record.Caption,
           hasFile ? JournalledPage::Saving::ToItsFile : JournalledPage::Saving::AsksForAName,
-          component_.Memory(), QDateTime::currentDateTime()};
+          component_.Memory(),
+          QDateTime::currentDateTime(),
+          editor == nullptr ? std::nullopt : editor->UnappliedText()};
 }
 
 void PageJournal::Write() {
-  if (!journal_) return;
+  if (!journal_ || hasLeft_) return;
   writing_.stop();
   sinceChange_.invalidate();
   const JournalledPage page = Page();
-  if (hasJournal_ && page.page.document == written_) return;
-  if (IsSettled(page.page.document) && !saveFailed_) return Discard();
+  if (hasJournal_ && IsWritten(page)) return;
+  if (IsSettled(page.page.document) && !page.source && !saveFailed_) return Discard();
   if (!Attempt([&] { journal_->Write(page); })) return;
   hasJournal_ = true;
-  written_ = page.page.document;
+  written_ = page;
+}
+
+bool PageJournal::IsWritten(const JournalledPage &page) const {
+  return page.path == written_.path && page.saving == written_.saving &&
+         page.page == written_.page && page.source == written_.source;
 }
 
 void PageJournal::Rest() {

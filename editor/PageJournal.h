@@ -13,9 +13,10 @@ namespace velor {
 
 class EditingComponent;
 
-/// Keeps a page's unsaved changes in a journal while there are any: at most about a second behind
-/// what the component knows, in a pause between keys where there is one. Does nothing where the
-/// platform has no journals. What cannot be written is told in the status bar.
+/// Keeps a page's unsaved changes, and what its source editor holds and was not applied, in a
+/// journal while there are any: at most about a second behind what the component knows, in a pause
+/// between keys where there is one. Does nothing where the platform has no journals. What cannot be
+/// written is told in the status bar.
 class PageJournal {
  public:
   /// All outlive it.
@@ -23,6 +24,8 @@ class PageJournal {
 
   /// What the component remembers may have changed.
   void Follow();
+  /// The source in the page's source editor may have changed, or may have been applied.
+  void FollowSource();
   /// Writes what there is to write now; false where that failed.
   bool Catch();
   /// The page was loaded or saved: as it is now nothing is to be kept.
@@ -38,7 +41,9 @@ class PageJournal {
 
  private:
   bool IsSettled(const QString &document) const { return settled_ == document; }
+  bool IsWritten(const JournalledPage &page) const;
   JournalledPage Page() const;
+  void WriteSoon();
   void Write();
   void Rest();
   template <typename Step>
@@ -49,8 +54,9 @@ class PageJournal {
   const int number_;
   std::unique_ptr<Journal> journal_;  ///< null without journals
   std::optional<QString> settled_;    ///< the document that needs no journal
-  QString written_;                   ///< the document in the journal
+  JournalledPage written_;            ///< what is in the journal
   bool hasJournal_ = false;
+  bool hasLeft_ = false;
   bool saveFailed_ = false;
   bool failureTold_ = false;
   QElapsedTimer sinceChange_;  ///< since the first that is not written; valid while there is one

@@ -57,6 +57,17 @@ frmCodeEditor::frmCodeEditor(EditorContext &context, int number)
   code_->SetColor(26, White);
   code_->SetMarkedLine(0);
   code_->SetSelectionListener([this] { SelectionChanged(); });
+  code_->SetTextListener([this] { TellJournal(); });
+}
+
+std::optional<QString> frmCodeEditor::UnappliedText() const {
+  if (context_.pages.Record(number_).EditorOpen == False16) return std::nullopt;
+  const QString text = code_->Text();
+  return text == AppliedText ? std::nullopt : std::optional(text);
+}
+
+void frmCodeEditor::TellJournal() {
+  if (frmMain *page = context_.pages.Page(number_)) page->Journal().FollowSource();
 }
 
 void frmCodeEditor::Fill(const QString &source, const ElementPlaces &caret) {
@@ -109,6 +120,7 @@ std::int16_t frmCodeEditor::ApplyCode() {
     // The page may have been closed while it loaded, and this window with it.
     if (alive == nullptr) return 0;
     AppliedText = code_->Text();
+    TellJournal();
     ReturnCaret();
     return 0;
   } catch (const RuntimeError &error) {
@@ -163,6 +175,8 @@ void frmCodeEditor::closeEvent(QCloseEvent *event) {
     return;
   }
   context_.pages.Record(number_).EditorOpen = False16;
+  // What was not applied nobody wants any more.
+  if (frmMain *page = context_.pages.Page(number_)) page->Journal().Catch();
   context_.pages.CodeEditor(number_).clear();
   context_.mainWindow.ReleaseWindow(this);
   event->accept();

@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 class QLabel;
 
@@ -35,6 +36,9 @@ class frmCodeEditor : public QWidget, public ProgramWindow {
   QString PendingAction;
 
   SourceControl &Code() { return *code_; }
+  /// The source that the page has not got: nothing while the editor is closed, or holds what was
+  /// applied.
+  std::optional<QString> UnappliedText() const;
 
   /// Replaces the source, the caret at that place of it.
   void Fill(const QString &source, const ElementPlaces &caret);
@@ -65,6 +69,8 @@ class frmCodeEditor : public QWidget, public ProgramWindow {
   CloseDecision AskBeforeClosing();
   /// Keeps the caret within its line and tells where it stands.
   void SelectionChanged();
+  /// The page's journal keeps what is not applied.
+  void TellJournal();
   /// Takes the page's caret along to the element that the source's caret was moved to.
   void ReturnCaret();
 

@@ -51,6 +51,8 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   void ChangeMode(std::int32_t mode);
   /// Opens the source editor on this page, or fills it anew.
   void ShowEditor();
+  /// Opens the source editor with a source that the page has not got.
+  void ReopenEditor(const QString &source);
   /// Tells the element under the caret in the status bar and, for a link, its target in a tooltip.
   void DynaLink();
   /// Sets one editing-toolbar button from the status of `function`.

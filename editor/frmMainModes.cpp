@@ -92,6 +92,11 @@ void frmMain::ShowEditor() {
   editor.Code().SetFocus();
 }
 
+void frmMain::ReopenEditor(const QString &source) {
+  EditHtml();
+  modWorkFlow::SourceEditor(context_, number_).Fill(source, {});
+}
+
 void frmMain::Preview() {
   const PageRecord record = GetPageRecord();
   frmBrowser &preview = PreviewWindow(context_);

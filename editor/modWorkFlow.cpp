@@ -252,6 +252,7 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
     // As after choosing the file: the first plain save takes its path from there.
     if (record.HasFile != False16) context.mainWindow.SharedFileDialog().FileName = record.Path;
     window.Journal().Unsettle();
+    if (kept.source) window.ReopenEditor(*kept.source);
     isKeptAgain = window.Journal().Catch();
   });
   return isKeptAgain;

@@ -52,7 +52,8 @@ std::int16_t OpenPage(EditorContext &context, const QString &path);
 void OpenProjectPage(EditorContext &context, const QString &path);
 
 /// Opens a page of an earlier run as it was left, with unsaved changes, in a slot of its own: a
-/// page that was never saved as a new one. Whether it is in this run's journal now. Raises
+/// page that was never saved as a new one. A source that was not applied is in its source editor
+/// again. Whether it is in this run's journal now. Raises
 /// RuntimeError where it cannot be shown.
 bool RestorePage(EditorContext &context, const JournalledPage &kept);
 

@@ -52,12 +52,22 @@ void KeepForeignVersion(EditorContext &context, int number, const QString &path)
           .arg(ForPeople(path), kept));
 }
 
+/// Whether the page's file is not there any more.
+bool HasGone(const EditorContext &context, int number, const QString &path) {
+  return context.pages.Trace(number).path == path && !context.platform.files.FileExists(path);
+}
+
 void WriteFile(frmMain &window, const QString &path) {
+  const EditorContext &context = window.Context();
   // Should the program not live to the end of it, no key is lost.
   window.Journal().Catch();
+  const bool hasGone = HasGone(context, window.Number(), path);
   KeepForeignVersion(window.Context(), window.Number(), path);
   window.DHTML1().SaveDocument(path);
   TraceFile(window, path);
+  if (!hasGone) return;
+  context.mainWindow.ReportInStatusBar(
+      QStringLiteral("%1 was no longer there. It was written anew").arg(ForPeople(path)));
 }
 
 /// Writes to the record's own file; path and temporary copy then follow the dialog's last name,

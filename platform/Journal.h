@@ -6,6 +6,7 @@
 #include <QDateTime>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace velor {
@@ -20,6 +21,8 @@ struct JournalledPage {
   PageMemory page;
   /// When the document was like this.
   QDateTime time;
+  /// What the page's source editor holds, where that was not applied to the document.
+  std::optional<QString> source = std::nullopt;
 };
 
 /// The journal of one page: what it holds is on this side of the process's end as soon as Write
@@ -37,10 +40,25 @@ class Journal {
   virtual void Remove() = 0;
 };
 
-/// A page whose program ended before its changes were saved.
+/// What a list says of a page whose program ended before its changes were saved.
 struct AbandonedPage {
   QString id;
+  /// As JournalledPage has them.
+  QString path;
+  QString caption;
+  QDateTime time;
+  /// Whether a source is with it that was not applied.
+  bool hasSource = false;
+  /// Why nothing of it can be read, for people. Empty where something can, as far as its beginning
+  /// tells.
+  QString defect;
+};
+
+/// What a journal holds.
+struct JournalReading {
   JournalledPage page;
+  /// Whether something stands behind it that cannot be read any more: the last changes.
+  bool endIsMissing = false;
 };
 
 /// The journals of a person's running and ended programs. A run never sees what another run that
@@ -49,13 +67,19 @@ class Journals {
  public:
   virtual ~Journals() = default;
 
+  /// Why no journal can be written, for people; empty where they can.
+  virtual QString Hindrance() = 0;
+
   /// A journal with nothing in it yet; nothing is made before the first Write. Must not outlive
   /// the Journals.
   virtual std::unique_ptr<Journal> Begin() = 0;
 
-  /// The pages of runs that have ended, oldest first; from now on they are this run's to offer.
+  /// The pages of runs that have ended, newest first; from now on they are this run's to offer.
+  /// Where there are very many these are the newest, and the others follow when these are gone.
   virtual std::vector<AbandonedPage> Abandoned() = 0;
-  /// Does away with an abandoned page.
+  /// What is left of an abandoned page. Raises RuntimeError where that is nothing.
+  virtual JournalReading Read(const QString &id) = 0;
+  /// Does away with an abandoned page. Raises RuntimeError where it cannot.
   virtual void Discard(const QString &id) = 0;
 };
 

@@ -11,7 +11,13 @@ namespace velor {
 
 namespace {
 
-enum class Kind : quint8 { Page = 1, Change = 2 };
+enum class Kind : quint8 {
+  Page = 1,
+  Change = 2,
+  SourceChange = 3,
+  SourceGone = 4,
+  PageWithSource = 5,
+};
 
 constexpr qsizetype LengthSize = sizeof(quint64);
 constexpr qsizetype ChecksumSize = sizeof(quint64);
@@ -44,37 +50,79 @@ QByteArray Record(Kind kind, const Fields &...fields) {
   QByteArray payload;
   QDataStream stream(&payload, QIODevice::WriteOnly);
   stream.setVersion(QDataStream::Qt_6_4);
-  stream << static_cast<quint8>(kind);
+  stream << kind;
   (stream << ... << fields);
   return Number(static_cast<quint64>(payload.size())) + Number(Checksum(payload)) + payload;
 }
 
-/// Carries a record out on the page; false for one that says nothing to us.
+/// The one stretch by which two texts differ.
+struct Stretch {
+  qint64 start = 0;
+  qint64 removed = 0;
+  QString inserted;
+
+  static Stretch Between(const QString &before, const QString &after) {
+    const auto [beforeDiffers, afterDiffers] =
+        std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+    const qsizetype start = beforeDiffers - before.begin();
+    const qsizetype most = std::min(before.size(), after.size()) - start;
+    qsizetype same = 0;
+    while (same < most && before[before.size() - 1 - same] == after[after.size() - 1 - same])
+      ++same;
+    return {start, before.size() - same - start, after.mid(start, after.size() - same - start)};
+  }
+  QByteArray AsRecord(Kind kind, const QDateTime &time) const {
+    return Record(kind, qint64{time.toMSecsSinceEpoch()}, start, removed, inserted);
+  }
+};
+
+/// False, with nothing changed, where the stretch does not lie within the text.
+bool Replace(QString &text, QDataStream &stretch) {
+  Stretch read;
+  stretch >> read.start >> read.removed >> read.inserted;
+  const bool isWithin = read.start >= 0 && read.start <= text.size() && read.removed >= 0 &&
+                        read.removed <= text.size() - read.start;
+  if (stretch.status() != QDataStream::Ok || !isWithin) return false;
+  text.replace(read.start, read.removed, read.inserted);
+  return true;
+}
+
+std::optional<JournalledPage> WholePage(QDataStream &stream, Kind kind) {
+  JournalledPage whole;
+  quint8 saving = 0;
+  PageMemory &memory = whole.page;
+  stream >> whole.path >> whole.caption >> saving >> memory.original >> memory.base >>
+      memory.document;
+  if (kind == Kind::PageWithSource) stream >> whole.source.emplace();
+  if (stream.status() != QDataStream::Ok) return std::nullopt;
+  whole.saving = static_cast<JournalledPage::Saving>(saving);
+  return whole;
+}
+
+/// Carries a record out on the page; false, with nothing changed, for one that says nothing to us.
 bool Apply(const QByteArray &payload, std::optional<JournalledPage> &page) {
   QDataStream stream(payload);
   stream.setVersion(QDataStream::Qt_6_4);
-  quint8 kind = 0;
+  Kind kind{};
   qint64 time = 0;
   stream >> kind >> time;
-  if (kind == static_cast<quint8>(Kind::Page)) {
-    JournalledPage whole;
-    quint8 saving = 0;
-    PageMemory &memory = whole.page;
-    stream >> whole.path >> whole.caption >> saving >> memory.original >> memory.base >>
-        memory.document;
-    whole.saving = static_cast<JournalledPage::Saving>(saving);
-    page = whole;
-  } else if (kind == static_cast<quint8>(Kind::Change) && page) {
-    qint64 start = 0;
-    qint64 removed = 0;
-    QString inserted;
-    stream >> start >> removed >> inserted;
-    page->page.document.replace(start, removed, inserted);
+  if (kind == Kind::Page || kind == Kind::PageWithSource) {
+    auto whole = WholePage(stream, kind);
+    if (!whole) return false;
+    page = std::move(whole);
+  } else if (kind == Kind::Change && page) {
+    if (!Replace(page->page.document, stream)) return false;
+  } else if (kind == Kind::SourceChange && page) {
+    QString source = page->source.value_or(QString());
+    if (!Replace(source, stream)) return false;
+    page->source = source;
+  } else if (kind == Kind::SourceGone && page) {
+    page->source.reset();
   } else {
     return false;
   }
   page->time = QDateTime::fromMSecsSinceEpoch(time);
-  return stream.status() == QDataStream::Ok;
+  return true;
 }
 
 }  // namespace
@@ -84,37 +132,68 @@ QByteArray JournalHead() {
 }
 
 QByteArray JournalRecord(const JournalledPage &page) {
-  return Record(Kind::Page, qint64{page.time.toMSecsSinceEpoch()}, page.path, page.caption,
-                static_cast<quint8>(page.saving), page.page.original, page.page.base,
-                page.page.document);
+  const auto record = [&page](Kind kind, const auto &...source) {
+    return Record(kind, qint64{page.time.toMSecsSinceEpoch()}, page.path, page.caption,
+                  static_cast<quint8>(page.saving), page.page.original, page.page.base,
+                  page.page.document, source...);
+  };
+  return page.source ? record(Kind::PageWithSource, *page.source) : record(Kind::Page);
 }
 
 QByteArray JournalChange(const QString &before, const QString &after, const QDateTime &time) {
-  const auto [beforeDiffers, afterDiffers] =
-      std::mismatch(before.begin(), before.end(), after.begin(), after.end());
-  const qsizetype start = beforeDiffers - before.begin();
-  const qsizetype most = std::min(before.size(), after.size()) - start;
-  qsizetype same = 0;
-  while (same < most && before[before.size() - 1 - same] == after[after.size() - 1 - same]) ++same;
-  const QString inserted = after.mid(start, after.size() - same - start);
-  return Record(Kind::Change, qint64{time.toMSecsSinceEpoch()}, qint64{start},
-                qint64{before.size() - same - start}, inserted);
+  return Stretch::Between(before, after).AsRecord(Kind::Change, time);
 }
 
-std::optional<JournalledPage> ReadJournal(const QByteArray &journal) {
+QByteArray JournalSourceChange(const std::optional<QString> &before,
+                               const std::optional<QString> &after, const QDateTime &time) {
+  if (before == after) return {};
+  if (!after) return Record(Kind::SourceGone, qint64{time.toMSecsSinceEpoch()});
+  return Stretch::Between(before.value_or(QString()), *after).AsRecord(Kind::SourceChange, time);
+}
+
+std::optional<JournalReading> ReadJournal(const QByteArray &journal) {
+  if (!journal.startsWith(JournalHead())) return std::nullopt;
   std::optional<JournalledPage> page;
-  if (!journal.startsWith(JournalHead())) return page;
   qsizetype offset = JournalHead().size();
-  for (;;) {
+  while (offset < journal.size()) {
     const qsizetype payload = offset + LengthSize + ChecksumSize;
-    if (payload > journal.size()) return page;
+    if (payload > journal.size()) break;
     const quint64 length = NumberAt(journal, offset);
-    if (length > static_cast<quint64>(journal.size() - payload)) return page;
+    if (length > static_cast<quint64>(journal.size() - payload)) break;
     const QByteArray bytes =
         QByteArray::fromRawData(journal.constData() + payload, static_cast<qsizetype>(length));
-    if (Checksum(bytes) != NumberAt(journal, offset + LengthSize)) return page;
-    if (!Apply(bytes, page)) return page;
+    if (Checksum(bytes) != NumberAt(journal, offset + LengthSize)) break;
+    if (!Apply(bytes, page)) break;
     offset = payload + bytes.size();
+  }
+  if (!page) return std::nullopt;
+  return JournalReading{*page, offset < journal.size()};
+}
+
+std::optional<AbandonedPage> SummariseJournal(QIODevice &journal) {
+  if (journal.read(JournalHead().size()) != JournalHead()) return std::nullopt;
+  std::optional<AbandonedPage> summary;
+  for (;;) {
+    const QByteArray numbers = journal.read(LengthSize + ChecksumSize);
+    if (numbers.size() < LengthSize + ChecksumSize) return summary;
+    const auto left = static_cast<quint64>(journal.size() - journal.pos());
+    const quint64 length = NumberAt(numbers, 0);
+    if (length > left) return summary;
+    const qint64 next = journal.pos() + static_cast<qint64>(length);
+    QDataStream stream(&journal);
+    stream.setVersion(QDataStream::Qt_6_4);
+    Kind kind{};
+    qint64 time = 0;
+    stream >> kind >> time;
+    if (!summary && kind != Kind::Page && kind != Kind::PageWithSource) return summary;
+    AbandonedPage read = summary.value_or(AbandonedPage());
+    if (kind == Kind::Page || kind == Kind::PageWithSource) stream >> read.path >> read.caption;
+    if (stream.status() != QDataStream::Ok) return summary;
+    read.time = QDateTime::fromMSecsSinceEpoch(time);
+    if (kind != Kind::Change)
+      read.hasSource = kind == Kind::SourceChange || kind == Kind::PageWithSource;
+    summary = read;
+    if (!journal.seek(next)) return summary;
   }
 }
 

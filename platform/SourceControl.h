@@ -51,6 +51,8 @@ class SourceControl {
 
   /// Called after the caret or the selection has changed, by a person or by the program.
   virtual void SetSelectionListener(std::function<void()> listener) = 0;
+  /// Called after the text has changed, by a person or by the program.
+  virtual void SetTextListener(std::function<void()> listener) = 0;
 
   /// The zero-based line that is marked across its width.
   virtual int MarkedLine() const = 0;

@@ -15,13 +15,16 @@
 #include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace velor {
 
@@ -30,21 +33,25 @@ namespace {
 constexpr int MostRowsInSight = 4;
 constexpr auto NoteName = u"lblRecoveryNote";
 
-QString NameOf(const JournalledPage &page) {
+QString NameOf(const AbandonedPage &page) {
+  if (!page.defect.isEmpty()) return QStringLiteral("A page that cannot be read");
   return page.path.isEmpty() ? page.caption : modGeneral::FileNameOfPath(page.path);
 }
 
-QString NoteOn(const JournalledPage &page, const Files &files) {
+QString NoteOn(const AbandonedPage &page, const Files &files) {
   QStringList parts;
   parts << QStringLiteral("changed %1")
                .arg(page.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
-  if (page.path.isEmpty()) {
+  if (!page.defect.isEmpty()) {
+    parts << page.defect;
+  } else if (page.path.isEmpty()) {
     parts << QStringLiteral("never saved");
   } else if (!files.FileExists(page.path)) {
     parts << QStringLiteral("the file is gone");
   } else if (files.ChangeTime(page.path) > page.time) {
     parts << QStringLiteral("the file on disk is newer");
   }
+  if (page.hasSource) parts << QStringLiteral("HTML source not applied");
   if (!page.path.isEmpty()) parts << ForPeople(page.path);
   return parts.join(QStringLiteral("  ·  "));
 }
@@ -60,6 +67,18 @@ QPushButton *AddButton(QHBoxLayout &row, const char *objectName, const QString &
   return button;
 }
 
+QList<QPushButton *> ButtonsOf(const QVBoxLayout &rows, int place) {
+  QList<QPushButton *> usable;
+  for (auto *button : rows.itemAt(place)->widget()->findChildren<QPushButton *>()) {
+    if (button->isEnabled()) usable << button;
+  }
+  return usable;
+}
+
+QPushButton *FirstButtonOf(const QVBoxLayout &rows, int place) {
+  return ButtonsOf(rows, place).constFirst();
+}
+
 }  // namespace
 
 RecoveryBar::RecoveryBar(EditorContext &context, QWidget *parent)
@@ -67,9 +86,12 @@ RecoveryBar::RecoveryBar(EditorContext &context, QWidget *parent)
   setObjectName(QStringLiteral("picRecovery"));
   setAccessibleName(QStringLiteral("Recovered pages"));
 
-  // The letter leads from anywhere in the window to the first page's buttons.
-  caption_ = new QLabel(QStringLiteral("These pa&ges were not saved when the program ended:"));
-  caption_->setObjectName(QStringLiteral("lblRecovery"));
+  // A shortcut of its own: a label's letter would press the button at once.
+  connect(new QShortcut(Qt::ALT | Qt::Key_G, this), &QShortcut::activated, this,
+          [this] { FirstButtonOf(*rows_, 0)->setFocus(Qt::ShortcutFocusReason); });
+  auto *caption = new QLabel(
+      QStringLiteral("These pages were not saved when the program ended (Alt+G leads to them):"));
+  caption->setObjectName(QStringLiteral("lblRecovery"));
   auto *content = new QWidget;
   content->setObjectName(QStringLiteral("picRecoveryRows"));
   rows_ = new QVBoxLayout(content);
@@ -88,22 +110,30 @@ RecoveryBar::RecoveryBar(EditorContext &context, QWidget *parent)
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
   column->setSpacing(BarMargin);
-  column->addWidget(caption_);
+  column->addWidget(caption);
   column->addWidget(scroller_);
   hide();
 }
 
 void RecoveryBar::Offer() {
   if (context_.platform.journals == nullptr) return;
-  const std::vector<AbandonedPage> pages = context_.platform.journals->Abandoned();
-  for (const AbandonedPage &page : pages) AddRow(page);
+  const QString hindrance = context_.platform.journals->Hindrance();
+  if (!hindrance.isEmpty()) {
+    context_.mainWindow.ReportInStatusBar(
+        QStringLiteral("Recovery is off, unsaved changes cannot be kept: %1").arg(hindrance));
+  }
+  Fill();
+}
+
+void RecoveryBar::Fill() {
+  for (const AbandonedPage &page : context_.platform.journals->Abandoned()) AddRow(page);
   QuietenNotes();
   FitRows();
 }
 
 void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
-  const QString name = NameOf(abandoned.page);
-  const QString note = NoteOn(abandoned.page, context_.platform.files);
+  const QString name = NameOf(abandoned);
+  const QString note = NoteOn(abandoned, context_.platform.files);
   auto *row = new QWidget;
   row->setObjectName(QStringLiteral("picRecoveredPage"));
   row->setAccessibleName(name);
@@ -133,29 +163,44 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
   QPushButton *restore = AddButton(*line, "cmdRestore", QStringLiteral("Restore"), name,
                                    QStringLiteral("Open the page with its unsaved changes"));
   connect(restore, &QPushButton::clicked, this, [=, this] { Restore(row, abandoned); });
-  connect(AddButton(*line, "cmdShow", QStringLiteral("Show"), name,
-                    QStringLiteral("Look at the page in the preview")),
-          &QPushButton::clicked, this, [=, this] { Show(abandoned.page); });
-  connect(AddButton(*line, "cmdDiscard", QStringLiteral("Discard"), name,
-                    QStringLiteral("Give the unsaved changes up")),
-          &QPushButton::clicked, this, [=, this] { Discard(row, abandoned.id); });
-  if (rows_->isEmpty()) caption_->setBuddy(restore);
+  QPushButton *show = AddButton(*line, "cmdShow", QStringLiteral("Show"), name,
+                                QStringLiteral("Look at the page in the preview"));
+  connect(show, &QPushButton::clicked, this, [=, this] { Show(abandoned); });
+  QPushButton *discard = AddButton(*line, "cmdDiscard", QStringLiteral("Discard"), name,
+                                   QStringLiteral("Give the unsaved changes up"));
+  connect(discard, &QPushButton::clicked, this, [=, this] { Discard(row, abandoned.id); });
+  for (QPushButton *button : {restore, show, discard}) {
+    button->setEnabled(abandoned.defect.isEmpty() || button == discard);
+    button->installEventFilter(this);
+  }
   rows_->addWidget(row);
+}
+
+JournalledPage RecoveryBar::Read(const AbandonedPage &abandoned) {
+  JournalReading reading = context_.platform.journals->Read(abandoned.id);
+  if (reading.endIsMissing) {
+    context_.mainWindow.ReportInStatusBar(
+        QStringLiteral("The journal of %1 is damaged: its last changes are missing")
+            .arg(NameOf(abandoned)));
+  }
+  return std::move(reading.page);
 }
 
 void RecoveryBar::Restore(QWidget *row, const AbandonedPage &abandoned) {
   // Only what another journal holds may go.
-  if (!modWorkFlow::RestorePage(context_, abandoned.page)) return;
+  if (!modWorkFlow::RestorePage(context_, Read(abandoned))) return;
   Discard(row, abandoned.id);
 }
 
-void RecoveryBar::Show(const JournalledPage &page) {
+void RecoveryBar::Show(const AbandonedPage &abandoned) {
+  const JournalledPage page = Read(abandoned);
   const PageMemory &memory = page.page;
   const FaithfulPage original({memory.original, DecodePage(memory.original), {}});
   frmBrowser &preview = PreviewWindow(context_);
   context_.mainWindow.ShowWindow(&preview);
-  preview.brwWebBrowser().NavigateToText(original.Unmasked(memory.document),
-                                         QUrl::fromLocalFile(memory.base));
+  preview.brwWebBrowser().NavigateToText(
+      page.source ? *page.source : original.Unmasked(memory.document),
+      QUrl::fromLocalFile(memory.base));
 }
 
 void RecoveryBar::Discard(QWidget *row, const QString &id) {
@@ -165,14 +210,58 @@ void RecoveryBar::Discard(QWidget *row, const QString &id) {
 
 void RecoveryBar::RemoveRow(QWidget *row) {
   const bool hadFocus = row->isAncestorOf(QApplication::focusWidget());
+  const int place = rows_->indexOf(row);
   rows_->removeWidget(row);
   row->hide();
   row->deleteLater();
+  if (rows_->isEmpty()) return Fill();
   FitRows();
-  if (rows_->isEmpty()) return;
-  auto *next = rows_->itemAt(0)->widget()->findChild<QPushButton *>(QStringLiteral("cmdRestore"));
-  caption_->setBuddy(next);
-  if (hadFocus) next->setFocus();
+  if (hadFocus) FirstButtonOf(*rows_, std::min(place, rows_->count() - 1))->setFocus();
+}
+
+bool RecoveryBar::Walk(QPushButton *from, int key) {
+  const int place = rows_->indexOf(from->parentWidget());
+  const QList<QPushButton *> row = ButtonsOf(*rows_, place);
+  const auto alongRow = [&](qsizetype step) {
+    return row[std::clamp<qsizetype>(row.indexOf(from) + step, 0, row.size() - 1)];
+  };
+  const auto alongRows = [&](int wanted) {
+    const int next = std::clamp(wanted, 0, rows_->count() - 1);
+    auto *same = rows_->itemAt(next)->widget()->findChild<QPushButton *>(from->objectName());
+    return same->isEnabled() ? same : FirstButtonOf(*rows_, next);
+  };
+  const auto go = [](QPushButton *to) {
+    to->setFocus(Qt::TabFocusReason);
+    return true;
+  };
+  switch (key) {
+    case Qt::Key_Left:
+      return go(alongRow(-1));
+    case Qt::Key_Right:
+      return go(alongRow(1));
+    case Qt::Key_Up:
+      return go(alongRows(place - 1));
+    case Qt::Key_Down:
+      return go(alongRows(place + 1));
+    case Qt::Key_Home:
+      return go(alongRows(0));
+    case Qt::Key_End:
+      return go(alongRows(rows_->count() - 1));
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      from->animateClick();
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool RecoveryBar::eventFilter(QObject *watched, QEvent *event) {
+  auto *button = qobject_cast<QPushButton *>(watched);
+  if (button != nullptr && event->type() == QEvent::FocusIn) scroller_->ensureWidgetVisible(button);
+  if (button != nullptr && event->type() == QEvent::KeyPress)
+    return Walk(button, static_cast<QKeyEvent *>(event)->key());
+  return QFrame::eventFilter(watched, event);
 }
 
 void RecoveryBar::FitRows() {

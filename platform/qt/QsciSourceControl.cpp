@@ -107,6 +107,9 @@ QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
     const bool moved = (updated & CaretUpdates) != 0;
     if (moved && selectionListener_) selectionListener_();
   });
+  connect(editor_, &QsciScintilla::textChanged, this, [this] {
+    if (textListener_) textListener_();
+  });
 }
 
 QsciSourceControl::~QsciSourceControl() {
@@ -186,6 +189,10 @@ void QsciSourceControl::CenterCaret() {
 
 void QsciSourceControl::SetSelectionListener(std::function<void()> listener) {
   selectionListener_ = std::move(listener);
+}
+
+void QsciSourceControl::SetTextListener(std::function<void()> listener) {
+  textListener_ = std::move(listener);
 }
 
 int QsciSourceControl::MarkedLine() const {

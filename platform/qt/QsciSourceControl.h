@@ -38,6 +38,7 @@ class QsciSourceControl final : public QObject, public SourceControl {
   void SetCaret(int line, int column) override;
   void CenterCaret() override;
   void SetSelectionListener(std::function<void()> listener) override;
+  void SetTextListener(std::function<void()> listener) override;
   int MarkedLine() const override;
   void SetMarkedLine(int line) override;
   bool Find(const QString &text, SearchDirection direction, LetterCase letterCase) override;
@@ -61,6 +62,7 @@ class QsciSourceControl final : public QObject, public SourceControl {
   SourceLexer *lexer_ = nullptr;
   SourceMarks *marks_ = nullptr;
   std::function<void()> selectionListener_;
+  std::function<void()> textListener_;
   int markedLine_ = -1;
   /// By slot; kept because a change of the palette restyles the whole control.
   std::map<int, std::int32_t> colors_;

@@ -9,6 +9,7 @@
 
 #include <cerrno>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace velor {
 
@@ -20,9 +21,17 @@ QString StateFolder() {
 }
 
 void MakePrivateFolder(const QString &folder) {
+  const QString source = QStringLiteral("MakeFolder");
+  const QByteArray name = QFile::encodeName(folder);
   QDir().mkpath(QFileInfo(folder).path());
-  if (mkdir(QFile::encodeName(folder).constData(), S_IRWXU) == 0 || errno == EEXIST) return;
-  throw RuntimeError::FromErrno(errno, QStringLiteral("MakeFolder"), folder);
+  if (mkdir(name.constData(), S_IRWXU) == 0) return;
+  if (errno != EEXIST) throw RuntimeError::FromErrno(errno, source, folder);
+  struct stat link {};
+  struct stat status {};
+  const bool isThere = lstat(name.constData(), &link) == 0 && stat(name.constData(), &status) == 0;
+  const bool isOwn = isThere && link.st_uid == geteuid() && status.st_uid == geteuid();
+  if (!isOwn || !S_ISDIR(status.st_mode))
+    throw RuntimeError::Of(ErrorNumber::PathFileAccess, source, folder);
 }
 
 }  // namespace velor

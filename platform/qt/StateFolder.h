@@ -9,7 +9,8 @@ namespace velor {
 /// `$XDG_STATE_HOME/velor-web-creator`, by default below `~/.local/state`. It need not exist.
 QString StateFolder();
 
-/// Makes a native folder and what is missing above it, for its owner alone. Raises RuntimeError.
+/// Makes a native folder and what is missing above it, for its owner alone. Raises RuntimeError;
+/// also where something of that name is there that is no folder, or is another user's.
 void MakePrivateFolder(const QString &folder);
 
 }  // namespace velor

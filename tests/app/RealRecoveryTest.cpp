@@ -20,14 +20,14 @@ class RealRecovery : public RealWindow {
     return *pages.Page(pages.PageCount());
   }
   /// What another run finds after this one's end, once it holds the text.
-  AbandonedPage Left(frmMain &page, const QString &text) {
+  JournalledPage Left(frmMain &page, const QString &text) {
     EXPECT_TRUE(WaitFor([&] { return page.DHTML1().Memory().document.contains(text); }));
     EXPECT_TRUE(page.Journal().Catch());
     // The process would have ended here; this one goes on, and the page stays.
     const JournalledPage kept{window.Context().pages.Record(page.Number()).Path,
                               page.GetPageRecord().Caption, JournalledPage::Saving::ToItsFile,
                               page.DHTML1().Memory(), QDateTime::currentDateTime()};
-    return {{}, kept};
+    return kept;
   }
 
  private:
@@ -42,9 +42,9 @@ TEST_F(RealRecovery, ARestoredPageIsSavedFaithfully) {
   frmMain &page = Open(QStringLiteral("page.htm"), source);
   PutCaret(page, QStringLiteral("p"));
   Type(page, QStringLiteral("X"));
-  const AbandonedPage left = Left(page, QStringLiteral("X"));
+  const JournalledPage left = Left(page, QStringLiteral("X"));
 
-  ASSERT_TRUE(modWorkFlow::RestorePage(window.Context(), left.page));
+  ASSERT_TRUE(modWorkFlow::RestorePage(window.Context(), left));
   frmMain &restored = LastOpened();
   EXPECT_TRUE(Holds(restored, QStringLiteral("中X文 one")));
   EXPECT_EQ(restored.DHTML1().Charset(), QStringLiteral("big5"));
@@ -59,8 +59,8 @@ TEST_F(RealRecovery, ARestoredPageIsEditedAndSavedOn) {
   frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
   PutCaret(page, QStringLiteral("p"));
   Type(page, QStringLiteral("X"));
-  const AbandonedPage left = Left(page, QStringLiteral("oXne"));
-  modWorkFlow::RestorePage(window.Context(), left.page);
+  const JournalledPage left = Left(page, QStringLiteral("oXne"));
+  modWorkFlow::RestorePage(window.Context(), left);
   frmMain &restored = LastOpened();
   PutCaret(restored, QStringLiteral("p"));
   Type(restored, QStringLiteral("Y"));
@@ -72,9 +72,9 @@ TEST_F(RealRecovery, ARestoredPageIsEditedAndSavedOn) {
 TEST_F(RealRecovery, ANewPageComesBackWithoutAFile) {
   frmMain &page = NewPage();
   Type(page, QStringLiteral("typed"));
-  AbandonedPage left = Left(page, QStringLiteral("typed"));
-  left.page.saving = JournalledPage::Saving::AsksForAName;
-  modWorkFlow::RestorePage(window.Context(), left.page);
+  JournalledPage left = Left(page, QStringLiteral("typed"));
+  left.saving = JournalledPage::Saving::AsksForAName;
+  modWorkFlow::RestorePage(window.Context(), left);
   frmMain &restored = LastOpened();
   EXPECT_TRUE(Holds(restored, QStringLiteral("typed")));
   EXPECT_EQ(restored.windowTitle(), QStringLiteral("Untitled 2"));
@@ -86,9 +86,9 @@ TEST_F(RealRecovery, ANewPageComesBackWithoutAFile) {
 TEST_F(RealRecovery, AnAppliedSourceIsJournalledWithItsText) {
   frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
   page.DHTML1().LoadText(QStringLiteral("<P>applied</P>"), Logic(QStringLiteral("page.htm")));
-  const AbandonedPage left = Left(page, QStringLiteral("applied"));
-  EXPECT_EQ(left.page.page.original, "<P>applied</P>");
-  modWorkFlow::RestorePage(window.Context(), left.page);
+  const JournalledPage left = Left(page, QStringLiteral("applied"));
+  EXPECT_EQ(left.page.original, "<P>applied</P>");
+  modWorkFlow::RestorePage(window.Context(), left);
   Choose("mnuSave");
   EXPECT_EQ(Bytes(QStringLiteral("page.htm")), "<P>applied</P>");
 }

@@ -3,12 +3,15 @@
 #include "app/window/PageTabs.h"
 #include "app/window/RecoveryBar.h"
 #include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "tests/app/WindowFixture.h"
 #include "tests/support/FakeJournals.h"
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QStatusBar>
 #include <QTest>
 
 namespace velor {
@@ -140,27 +143,152 @@ TEST_F(RecoveryBars, DiscardGivesOnePageUpAndLeavesTheOthers) {
   EXPECT_EQ(Slots().PageCount(), 0);
   EXPECT_TRUE(Bar().isVisible());
   ASSERT_EQ(journals.Abandoned().size(), 1);
-  EXPECT_EQ(journals.Abandoned()[0].page.caption, QStringLiteral("Untitled 2"));
+  EXPECT_EQ(journals.Abandoned()[0].caption, QStringLiteral("index.htm"));
   Buttons("cmdDiscard")[0]->click();
   EXPECT_FALSE(Bar().isVisible());
 }
 
-TEST_F(RecoveryBars, IsReachedAndUsedByKeyboard) {
-  journals.AddAbandoned(Page(IndexFile, QStringLiteral("index.htm")));
-  journals.AddAbandoned(Page({}, QStringLiteral("Untitled 2")));
+/// A person who has but a keyboard, and three pages to decide on, the newest first.
+class RecoveryKeys : public RecoveryBars {
+ protected:
+  RecoveryKeys() {
+    for (const char *name : {"Untitled 1", "Untitled 2", "Untitled 3"})
+      journals.AddAbandoned(Page({}, QString::fromLatin1(name)));
+    Offer();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    Press(Qt::Key_G, Qt::AltModifier);
+  }
+
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget *focus = QApplication::focusWidget();
+    QTest::keyClick(focus != nullptr ? focus : &window, key, modifiers);
+  }
+  static std::string Focus() { return QApplication::focusWidget()->accessibleName().toStdString(); }
+  QStringList Left() {
+    QStringList captions;
+    for (const AbandonedPage &page : journals.Abandoned()) captions << page.caption;
+    return captions;
+  }
+};
+
+TEST_F(RecoveryKeys, AltGLeadsToTheFirstPageAndPressesNothing) {
+  EXPECT_EQ(Focus(), "Restore Untitled 3");
+  EXPECT_EQ(Slots().PageCount(), 0);
+  EXPECT_EQ(Left().size(), 3);
+}
+
+TEST_F(RecoveryKeys, TabGoesThroughEveryButtonOfEveryPage) {
+  for (const char *page : {"Untitled 3", "Untitled 2", "Untitled 1"}) {
+    for (const char *verb : {"Restore ", "Show ", "Discard "}) {
+      EXPECT_EQ(Focus(), std::string(verb) + page);
+      Press(Qt::Key_Tab);
+    }
+  }
+  Press(Qt::Key_G, Qt::AltModifier);
+  EXPECT_EQ(Focus(), "Restore Untitled 3");
+}
+
+TEST_F(RecoveryKeys, ArrowsGoAlongTheRowAndFromPageToPage) {
+  const std::vector<std::pair<Qt::Key, std::string>> walk{
+      {Qt::Key_Left, "Restore Untitled 3"},  {Qt::Key_Right, "Show Untitled 3"},
+      {Qt::Key_Down, "Show Untitled 2"},     {Qt::Key_Right, "Discard Untitled 2"},
+      {Qt::Key_Right, "Discard Untitled 2"}, {Qt::Key_End, "Discard Untitled 1"},
+      {Qt::Key_Down, "Discard Untitled 1"},  {Qt::Key_Left, "Show Untitled 1"},
+      {Qt::Key_Home, "Show Untitled 3"},     {Qt::Key_Up, "Show Untitled 3"},
+  };
+  for (const auto &[key, focus] : walk) {
+    Press(key);
+    EXPECT_EQ(Focus(), focus);
+  }
+}
+
+TEST_F(RecoveryKeys, SpaceAndEnterPress) {
+  Press(Qt::Key_Down);
+  Press(Qt::Key_Right);
+  Press(Qt::Key_Right);
+  Press(Qt::Key_Space);
+  EXPECT_EQ(Left(), QStringList({QStringLiteral("Untitled 3"), QStringLiteral("Untitled 1")}));
+  // The focus goes on to the page that came after it.
+  EXPECT_EQ(Focus(), "Restore Untitled 1");
+  Press(Qt::Key_Return);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Left().size() == 1; }));
+  EXPECT_EQ(Slots().PageCount(), 1);
+  EXPECT_EQ(Component(*Slots().Page(1)).DocumentHTML(),
+            QStringLiteral("<p>unsaved Untitled 1</p>"));
+}
+
+TEST_F(RecoveryBars, WithALongListTheButtonInFocusIsInSight) {
+  for (int i = 1; i <= 200; ++i)
+    journals.AddAbandoned(Page({}, QStringLiteral("Untitled %1").arg(i)));
   Offer();
   window.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
-  for (const char *next : {"cmdRestore", "cmdShow", "cmdDiscard"}) {
-    EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), next);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  const auto isInSight = [this] {
+    auto *scroller = Bar().findChild<QScrollArea *>();
+    const QWidget *focus = QApplication::focusWidget();
+    const QRect there(focus->mapTo(scroller->viewport(), QPoint(0, 0)), focus->size());
+    return scroller->viewport()->rect().contains(there);
+  };
+  for (const Qt::Key key : {Qt::Key_End, Qt::Key_Home, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down,
+                            Qt::Key_Down, Qt::Key_Down}) {
+    QTest::keyClick(QApplication::focusWidget(), key);
+    EXPECT_TRUE(QTest::qWaitFor(isInSight)) << key;
   }
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-  // The focus goes on to the page that is left.
-  ASSERT_EQ(Buttons("cmdRestore").size(), 1);
-  EXPECT_EQ(QApplication::focusWidget(), Buttons("cmdRestore")[0]);
+  EXPECT_EQ(QApplication::focusWidget()->accessibleName(), QStringLiteral("Restore Untitled 195"));
+}
+
+TEST_F(RecoveryBars, SaysThatASourceWasNotAppliedAndShowsIt) {
+  JournalledPage page = Page(IndexFile, QStringLiteral("index.htm"));
+  page.source = QStringLiteral("<p>typed</p>");
+  journals.AddAbandoned(page);
+  Offer();
+  EXPECT_TRUE(Note().contains(QStringLiteral("HTML source not applied")));
+  Buttons("cmdShow")[0]->click();
+  EXPECT_EQ(components.browsers[0]->html, QStringLiteral("<p>typed</p>"));
+  Buttons("cmdRestore")[0]->click();
+  EXPECT_EQ(Slots().CodeEditor(1)->Code().Text(), QStringLiteral("<p>typed</p>"));
+}
+
+TEST_F(RecoveryBars, AJournalThatCannotBeReadCanOnlyBeDiscarded) {
+  journals.defects << QStringLiteral("/state/1.page cannot be read: it is not a file.");
+  Offer();
+  EXPECT_TRUE(Note().contains(journals.defects[0]));
+  EXPECT_FALSE(Buttons("cmdRestore")[0]->isEnabled());
+  EXPECT_FALSE(Buttons("cmdShow")[0]->isEnabled());
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
+  EXPECT_EQ(QApplication::focusWidget(), Buttons("cmdDiscard")[0]);
+  Buttons("cmdDiscard")[0]->click();
+  EXPECT_FALSE(Bar().isVisible());
+}
+
+TEST_F(RecoveryBars, MissingLastChangesAreToldWhenThePageIsRestored) {
+  journals.AddAbandoned(Page(IndexFile, QStringLiteral("index.htm")));
+  journals.endsAreMissing = true;
+  Offer();
+  Buttons("cmdRestore")[0]->click();
+  EXPECT_EQ(Slots().PageCount(), 1);
+  EXPECT_EQ(window.statusBar()->currentMessage(),
+            QStringLiteral("The journal of index.htm is damaged: its last changes are missing"));
+}
+
+TEST_F(RecoveryBars, WhereNothingCanBeKeptTheStatusBarSaysSo) {
+  journals.hindrance = QStringLiteral("Path not found");
+  Offer();
+  EXPECT_EQ(window.statusBar()->currentMessage(),
+            QStringLiteral("Recovery is off, unsaved changes cannot be kept: Path not found"));
+}
+
+TEST_F(RecoveryBars, WhatFollowsIsOfferedWhenTheListIsDone) {
+  journals.AddAbandoned(Page({}, QStringLiteral("Untitled 1")));
+  Offer();
+  journals.AddAbandoned(Page({}, QStringLiteral("Untitled 2")));
+  Buttons("cmdDiscard")[0]->click();
+  ASSERT_EQ(Buttons("cmdDiscard").size(), 1);
+  EXPECT_EQ(Buttons("cmdDiscard")[0]->accessibleName(), QStringLiteral("Discard Untitled 2"));
 }
 
 TEST_F(RecoveryBars, EveryControlSaysWhatItIsFor) {

@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program's window with somebody who types without end, or types and saves. To be killed.
-// Usage: velor-crash-subject FILE SEED [STEP]
-// Types the alphabet again and again into the page and prints a line for each key. With STEP it
-// types one alphabet, and saves; the process then ends before that call of the save that changes a
-// file, or prints "saved".
+// The program's window with somebody at it, on the real engine. To be killed.
+// Usage: velor-crash-subject type|source FILE SEED
+//        velor-crash-subject save|journal|restore FILE STEP
+// type     types the alphabet again and again into the page
+// source   does so into the page's HTML source, which is not applied
+// save     types one alphabet and saves
+// journal  types one alphabet and rests until it is in the journal, on the disk
+// restore  restores the first page that is offered; FILE is not opened
+// It prints "ready", a line for each key with its time, and "done" at the end. With STEP the
+// process ends before that call which changes a file, counted within the save, the journalling, the
+// restoring.
 #include "app/window/MfrmProgram.h"
 #include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Dialogs.h"
@@ -22,6 +29,8 @@
 #include "tests/support/FaultyCalls.h"
 
 #include <QApplication>
+#include <QDateTime>
+#include <QPushButton>
 #include <QRandomGenerator>
 #include <QTest>
 #include <QWebEngineView>
@@ -40,42 +49,84 @@ void Tell(const QString &line) {
 
 class Subject {
  public:
-  Subject(const QString &file, quint32 seed) : random_(seed) {
-    window_.Load();
+  Subject() { window_.Load(); }
+
+  bool Open(const QString &file) {
     window_.SharedFileDialog().FileName = ToLogic(file);
     modWorkFlow::OpenPage(window_.Context(), ToLogic(file));
-    if (!QTest::qWaitFor([this] { return Page().PendingAction.isEmpty(); }, 20'000)) return;
+    if (!QTest::qWaitFor([this] { return Page().PendingAction.isEmpty(); }, Patience)) return false;
     Page().DHTML1().SetFocus();
     input_ = Page().findChild<QWebEngineView *>()->focusProxy();
     QTest::keyClick(input_, Qt::Key_End, Qt::ControlModifier);
     Tell(QStringLiteral("ready"));
+    return true;
+  }
+
+  void OpenSource() {
+    Page().ChangeMode(3);
+    SourceControl &code = window_.Context().pages.CodeEditor(1)->Code();
+    input_ = code.Widget();
+    code.Find(QStringLiteral("<p>-"), SearchDirection::Here, LetterCase::Matched);
+    QTest::keyClick(input_, Qt::Key_Right);
   }
 
   /// Between two keys as a person leaves it: mostly little, now and then a pause.
-  void TypeOn() {
-    TypeLetter();
-    const int wait = random_.bounded(20) == 0 ? 700 : static_cast<int>(random_.bounded(5, 120));
-    QTimer::singleShot(wait, input_, [this] { TypeOn(); });
+  void TypeOn(quint32 seed) {
+    random_.seed(seed);
+    TypeNext();
   }
 
-  void TypeAndSave(int step) {
-    for (int i = 0; i < Letters; ++i) TypeLetter();
-    const QString all = QStringLiteral("abcdefghijklmnopqrstuvwxyz");
-    if (!QTest::qWaitFor([&] { return Page().DHTML1().Memory().document.contains(all); }, 20'000))
-      return;
+  void Save(int step) {
+    TypeAlphabet();
     // What was typed a moment ago may be lost; here it was typed a while before.
     Page().Journal().Catch();
     calls_.KillBefore(step);
     modWorkFlow::SavePage(window_.Context(), Page(), window_.SharedFileDialog(),
                           window_.Context().pages.Record(1), false);
-    Tell(QStringLiteral("saved"));
+    Tell(QStringLiteral("done"));
+  }
+
+  void Journalise(int step) {
+    calls_.KillBefore(step);
+    TypeAlphabet();
+    // It goes to the disk in the pause that follows.
+    const auto isOnDisk = [this] { return !calls_.order.empty() && calls_.order.back() == Sync; };
+    QTest::qWaitFor(isOnDisk, Patience);
+    Tell(QStringLiteral("done"));
+  }
+
+  void Restore(int step) {
+    QPushButton *button = nullptr;
+    const auto isOffered = [&] {
+      button = window_.findChild<QPushButton *>(QStringLiteral("cmdRestore"));
+      return button != nullptr;
+    };
+    Tell(QStringLiteral("ready"));
+    if (!QTest::qWaitFor(isOffered, Patience)) return;
+    calls_.KillBefore(step);
+    button->click();
+    Tell(QStringLiteral("done"));
   }
 
  private:
+  static constexpr int Patience = 20'000;
+  static constexpr auto Sync = FaultyCalls::Call::Sync;
+
   frmMain &Page() { return *window_.Context().pages.Page(1); }
   void TypeLetter() {
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
     QTest::keyClick(input_, static_cast<char>('a' + keys_ % Letters));
-    Tell(QStringLiteral("key %1").arg(++keys_));
+    Tell(QStringLiteral("key %1 %2").arg(++keys_).arg(now));
+  }
+  void TypeNext() {
+    TypeLetter();
+    const int wait = random_.bounded(20) == 0 ? 700 : static_cast<int>(random_.bounded(5, 120));
+    QTimer::singleShot(wait, input_, [this] { TypeNext(); });
+  }
+  void TypeAlphabet() {
+    for (int i = 0; i < Letters; ++i) TypeLetter();
+    const QString all = QStringLiteral("abcdefghijklmnopqrstuvwxyz");
+    QTest::qWaitFor([&] { return Page().DHTML1().Memory().document.contains(all); }, Patience);
   }
 
   FaultyCalls calls_;
@@ -101,14 +152,17 @@ class Subject {
 int main(int argc, char **argv) {
   velor::RegisterPageScheme();
   QApplication application(argc, argv);
-  const QStringList arguments = QApplication::arguments();
-  velor::Subject subject(arguments.value(1), arguments.value(2).toUInt());
+  const QString what = QApplication::arguments().value(1);
+  const QString file = QApplication::arguments().value(2);
+  const int number = QApplication::arguments().value(3).toInt();
+  velor::Subject subject;
   QTimer::singleShot(0, [&] {
-    if (arguments.size() > 3) {
-      subject.TypeAndSave(arguments[3].toInt());
-    } else {
-      subject.TypeOn();
-    }
+    if (what == QStringLiteral("restore")) return subject.Restore(number);
+    if (!subject.Open(file)) return;
+    if (what == QStringLiteral("save")) return subject.Save(number);
+    if (what == QStringLiteral("journal")) return subject.Journalise(number);
+    if (what == QStringLiteral("source")) subject.OpenSource();
+    subject.TypeOn(static_cast<quint32>(number));
   });
   return QApplication::exec();
 }

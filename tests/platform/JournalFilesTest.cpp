@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What only real journals have: modes, locks, other runs, disks that fail.
+#include "platform/JournalFormat.h"
 #include "platform/qt/StateFolder.h"
 #include "platform/qt/files/JournalFiles.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FaultyCalls.h"
+#include "tests/support/Hindrances.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <ctime>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace velor {
 namespace {
@@ -44,7 +48,7 @@ class JournalFilesTest : public testing::Test {
   static std::vector<QString> Documents(Journals &journals) {
     std::vector<QString> documents;
     for (const AbandonedPage &page : journals.Abandoned())
-      documents.push_back(page.page.page.document);
+      documents.push_back(journals.Read(page.id).page.page.document);
     return documents;
   }
 
@@ -169,6 +173,252 @@ TEST_F(JournalFilesTest, AStateFolderThatCannotBeMadeIsAnError) {
   const auto journal = journals.Begin();
   EXPECT_NE(ErrorOf([&] { journal->Write(Page(QStringLiteral("one"))); }), ErrorNumber::None);
   EXPECT_TRUE(journals.Abandoned().empty());
+}
+
+TEST_F(JournalFilesTest, AStateFolderThatCannotBeMadeIsToldBeforeAnythingIsWritten) {
+  EXPECT_EQ(JournalFiles().Hindrance(), QString());
+  EXPECT_TRUE(QDir(StateFolder() + "/recovery").isEmpty());
+  qputenv("XDG_STATE_HOME", "/proc/no-such-folder");
+  EXPECT_NE(JournalFiles().Hindrance(), QString());
+}
+
+TEST_F(JournalFilesTest, AStateFolderThatIsAFileIsToldToo) {
+  QFile file(folder_.filePath("velor-web-creator"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  EXPECT_NE(JournalFiles().Hindrance(), QString());
+  EXPECT_TRUE(JournalFiles().Abandoned().empty());
+}
+
+TEST_F(JournalFilesTest, AFullDiskIsToldBeforeAnythingIsWritten) {
+  FaultyCalls calls;
+  JournalFiles journals(calls);
+  calls.Fail(FaultyCalls::Call::Write, ENOSPC);
+  EXPECT_TRUE(journals.Hindrance().startsWith(Description(61)));
+  EXPECT_TRUE(QDir(StateFolder() + "/recovery").isEmpty());
+}
+
+TEST_F(JournalFilesTest, AnotherUsersFolderIsNotUsed) {
+  if (geteuid() != 0) return;  // nobody else can make one
+  ASSERT_TRUE(QDir().mkpath(StateFolder() + "/recovery"));
+  ASSERT_EQ(chown(QFile::encodeName(StateFolder() + "/recovery").constData(), 65534, 65534), 0);
+  EXPECT_NE(JournalFiles().Hindrance(), QString());
+}
+
+/// What lies in a run's folder in a journal's place.
+class OddJournals : public JournalFilesTest {
+ protected:
+  OddJournals() {
+    JournalFiles ended;
+    ended.Begin()->Write(Page(QStringLiteral("text")));
+    journal_ = Files().filter(QStringLiteral(".page")).value(0);
+  }
+  QByteArray Content() const {
+    QFile file(journal_);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
+  void Put(const QByteArray &content) const {
+    QFile file(journal_);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+  }
+  /// It is offered with its defect, stays until the person decides, and goes then.
+  void ExpectOfferedWithADefect() const {
+    {
+      JournalFiles journals;
+      const auto pages = journals.Abandoned();
+      ASSERT_EQ(pages.size(), 1U);
+      EXPECT_TRUE(pages[0].defect.contains(journal_)) << pages[0].defect.toStdString();
+      EXPECT_NE(ErrorOf([&] { journals.Read(pages[0].id); }), ErrorNumber::None);
+    }
+    JournalFiles journals;
+    ASSERT_EQ(journals.Abandoned().size(), 1U);
+    journals.Discard(journals.Abandoned()[0].id);
+    EXPECT_TRUE(journals.Abandoned().empty());
+    EXPECT_TRUE(QDir(StateFolder() + "/recovery").isEmpty());
+  }
+
+  QString journal_;
+};
+
+TEST_F(OddJournals, AnEmptyOne) {
+  Put({});
+  ExpectOfferedWithADefect();
+}
+
+TEST_F(OddJournals, OneOfAnotherVersion) {
+  Put(Content().replace("journal 1", "journal 2"));
+  ExpectOfferedWithADefect();
+}
+
+TEST_F(OddJournals, ALinkThatSomebodyPut) {
+  ASSERT_TRUE(QFile::rename(journal_, folder_.filePath("elsewhere")));
+  ASSERT_TRUE(QFile::link(folder_.filePath("elsewhere"), journal_));
+  ExpectOfferedWithADefect();
+  EXPECT_TRUE(QFile::exists(folder_.filePath("elsewhere")));
+}
+
+TEST_F(OddJournals, AnotherUsersFile) {
+  if (geteuid() != 0) return;  // nobody else can make one
+  ASSERT_EQ(chown(QFile::encodeName(journal_).constData(), 65534, 65534), 0);
+  ExpectOfferedWithADefect();
+}
+
+TEST_F(JournalFilesTest, AFileThatMayNotBeReadIsOfferedWithItsDefect) {
+  const AsOrdinaryUser user;
+  {
+    JournalFiles ended;
+    ended.Begin()->Write(Page(QStringLiteral("text")));
+  }
+  const QString journal = Files().filter(QStringLiteral(".page")).value(0);
+  ASSERT_TRUE(QFile::setPermissions(journal, QFile::WriteOwner));
+  JournalFiles journals;
+  const auto pages = journals.Abandoned();
+  ASSERT_EQ(pages.size(), 1U);
+  EXPECT_TRUE(pages[0].defect.contains(journal)) << pages[0].defect.toStdString();
+}
+
+TEST_F(OddJournals, AFolderIsToldAndNothingInItIsTouched) {
+  ASSERT_TRUE(QFile::remove(journal_));
+  ASSERT_TRUE(QDir().mkpath(journal_ + "/in it"));
+  JournalFiles journals;
+  const auto pages = journals.Abandoned();
+  ASSERT_EQ(pages.size(), 1U);
+  EXPECT_TRUE(pages[0].defect.contains(journal_));
+  EXPECT_NE(ErrorOf([&] { journals.Discard(pages[0].id); }), ErrorNumber::None);
+  EXPECT_TRUE(QDir(journal_ + "/in it").exists());
+}
+
+TEST_F(OddJournals, OneThatIsTornSaysSoWhenItIsRead) {
+  Put(Content() + "torn");
+  JournalFiles journals;
+  const auto pages = journals.Abandoned();
+  ASSERT_EQ(pages.size(), 1U);
+  const JournalReading reading = journals.Read(pages[0].id);
+  EXPECT_TRUE(reading.endIsMissing);
+  EXPECT_EQ(reading.page.page.document, QStringLiteral("text"));
+}
+
+TEST_F(OddJournals, WhatElseLiesThereIsLeftWhenTheJournalsGo) {
+  const QString folder = QFileInfo(journal_).path();
+  QFile mine(folder + "/mine.txt");
+  ASSERT_TRUE(mine.open(QIODevice::WriteOnly));
+  QFile fragment(folder + "/7.tmp");
+  ASSERT_TRUE(fragment.open(QIODevice::WriteOnly));
+  JournalFiles journals;
+  for (const AbandonedPage &page : journals.Abandoned()) journals.Discard(page.id);
+  EXPECT_TRUE(mine.exists());
+  EXPECT_FALSE(fragment.exists());
+}
+
+TEST_F(OddJournals, ARunsFolderThatIsALinkIsNotLookedInto) {
+  const QString run = QFileInfo(journal_).path();
+  ASSERT_TRUE(QDir().rename(run, folder_.filePath("elsewhere")));
+  ASSERT_TRUE(QFile::link(folder_.filePath("elsewhere"), run));
+  EXPECT_TRUE(JournalFiles().Abandoned().empty());
+  EXPECT_EQ(QDir(folder_.filePath("elsewhere")).entryList(QDir::Files).size(), 2);
+}
+
+TEST_F(JournalFilesTest, AFolderOfARunThatEndedBeforeItsLockGoes) {
+  ASSERT_TRUE(QDir().mkpath(StateFolder() + "/recovery/1-1"));
+  EXPECT_TRUE(JournalFiles().Abandoned().empty());
+  EXPECT_TRUE(QDir(StateFolder() + "/recovery").isEmpty());
+}
+
+TEST_F(JournalFilesTest, OfThousandsOfEndedRunsTheNewestAreOfferedAtOnce) {
+  constexpr int runs = 10'000;
+  const QString root = StateFolder() + "/recovery/";
+  const QByteArray journal = JournalHead() + JournalRecord(Page(QString(20'000, u'x')));
+  ASSERT_TRUE(QDir().mkpath(root));
+  for (int run = 1; run <= runs; ++run) {
+    const QString folder = root + QStringLiteral("%1-%2").arg(runs - run).arg(run);
+    ASSERT_TRUE(QDir().mkdir(folder));
+    QFile file(folder + "/1.page");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(run > runs - 300 ? journal : QByteArray());
+  }
+  JournalFiles journals;
+  const std::clock_t before = std::clock();
+  auto pages = journals.Abandoned();
+  // A person does not feel this; ten thousand files opened and read take a second and more.
+  EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 4);
+  ASSERT_EQ(pages.size(), JournalFiles::MostOffered);
+  EXPECT_EQ(pages[0].defect, QString());
+  const auto isNewest = [](const AbandonedPage &page) {
+    return QFileInfo(QFileInfo(page.id).path()).fileName().section(u'-', 1).toInt() > runs - 200;
+  };
+  EXPECT_TRUE(std::all_of(pages.begin(), pages.end(), isNewest));
+  for (const AbandonedPage &page : pages) journals.Discard(page.id);
+  pages = journals.Abandoned();
+  EXPECT_EQ(pages.size(), JournalFiles::MostOffered);
+  EXPECT_FALSE(std::any_of(pages.begin(), pages.end(), isNewest));
+}
+
+TEST_F(JournalFilesTest, AJournalGoesToTheDiskBeforeItsNameAndTheNameBeforeItsFolders) {
+  FaultyCalls calls;
+  JournalFiles journals(calls);
+  const auto journal = journals.Begin();
+  journal->Write(Page(QStringLiteral("one")));
+  calls.order.clear();
+  journal->Rest();
+  using Call = FaultyCalls::Call;
+  EXPECT_EQ(calls.order, (std::vector{Call::Sync, Call::Sync, Call::Sync}));
+  calls.order.clear();
+  journal->Rest();
+  EXPECT_EQ(calls.order, std::vector{Call::Sync});
+  // Grown far beyond the page.
+  for (int i = 0; i < 200; ++i) journal->Write(Page(QString(1000, QChar(u'a' + i % 26))));
+  calls.order.clear();
+  journal->Rest();
+  EXPECT_EQ(calls.order, (std::vector{Call::Open, Call::Write, Call::Sync, Call::Rename, Call::Sync,
+                                      Call::Sync}));
+}
+
+TEST_F(JournalFilesTest, AProcessThatEndsAtAnyStepLosesNothingThatWasWritten) {
+  int step = 1;
+  for (;; ++step) {
+    const pid_t child = fork();
+    if (child == 0) {
+      FaultyCalls calls;
+      JournalFiles journals(calls);
+      const auto journal = journals.Begin();
+      journal->Write(Page(QStringLiteral("first")));
+      calls.KillBefore(step);
+      journal->Write(Page(QStringLiteral("first second")));
+      journal->Rest();
+      for (int i = 0; i < 10; ++i)
+        journal->Write(Page(QStringLiteral("first ") + QString(30'000, QChar(u'a' + i))));
+      journal->Rest();
+      _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    JournalFiles next;
+    const auto documents = Documents(next);
+    ASSERT_EQ(documents.size(), 1U) << step;
+    EXPECT_TRUE(documents[0].startsWith(QStringLiteral("first"))) << step;
+    for (const AbandonedPage &page : next.Abandoned()) next.Discard(page.id);
+    if (!WIFSIGNALED(status)) break;
+  }
+  EXPECT_GT(step, 15);
+}
+
+TEST_F(JournalFilesTest, AJournalThatCouldNotBeContinuedIsReplacedWhole) {
+  FaultyCalls calls;
+  {
+    JournalFiles journals(calls);
+    const auto journal = journals.Begin();
+    journal->Write(Page(QStringLiteral("one")));
+    calls.Fail(FaultyCalls::Call::Write, EIO, 0, 1);
+    calls.alsoFails = FaultyCalls::Call::Truncate;
+    EXPECT_EQ(ErrorOf([&] { journal->Write(Page(QStringLiteral("one two"))); }),
+              ErrorNumber::DeviceIoError);
+    calls.FailNoMore();
+    JournalFiles other;
+    journal->Write(Page(QStringLiteral("one two three")));
+  }
+  JournalFiles next;
+  EXPECT_EQ(Documents(next), std::vector{QStringLiteral("one two three")});
 }
 
 }  // namespace

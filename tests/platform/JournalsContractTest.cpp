@@ -62,6 +62,7 @@ class JournalsContract : public testing::TestWithParam<Implementation> {
     world_->NextRun();
     return Subject().Abandoned();
   }
+  QString Document(const AbandonedPage &page) { return Subject().Read(page.id).page.page.document; }
   static JournalledPage Page(const QString &document, qint64 time = 0) {
     JournalledPage page;
     page.caption = QStringLiteral("Untitled 1");
@@ -89,9 +90,15 @@ TEST_P(JournalsContract, WhatWasWrittenLastIsAnAbandonedPageOfTheNextRun) {
   journal->Write(other);
   const auto pages = AfterTheEnd();
   ASSERT_EQ(pages.size(), 1);
-  EXPECT_EQ(pages[0].page.page, other.page);
-  EXPECT_EQ(pages[0].page.path, other.path);
-  EXPECT_EQ(pages[0].page.time, other.time);
+  const JournalReading reading = Subject().Read(pages[0].id);
+  EXPECT_EQ(reading.page.page, other.page);
+  EXPECT_EQ(reading.page.path, other.path);
+  EXPECT_EQ(reading.page.time, other.time);
+  EXPECT_FALSE(reading.endIsMissing);
+  EXPECT_EQ(pages[0].path, other.path);
+  EXPECT_EQ(pages[0].caption, other.caption);
+  EXPECT_EQ(pages[0].time, other.time);
+  EXPECT_EQ(pages[0].defect, QString());
 }
 
 TEST_P(JournalsContract, AJournalNeverWrittenOrRemovedLeavesNothing) {
@@ -112,7 +119,7 @@ TEST_P(JournalsContract, ARemovedJournalBeginsAnew) {
   journal->Write(Page(QStringLiteral("b")));
   const auto pages = AfterTheEnd();
   ASSERT_EQ(pages.size(), 1);
-  EXPECT_EQ(pages[0].page.page.document, QStringLiteral("b"));
+  EXPECT_EQ(Document(pages[0]), QStringLiteral("b"));
 }
 
 TEST_P(JournalsContract, AnAbandonedPageStaysUntilItIsDiscarded) {
@@ -123,14 +130,46 @@ TEST_P(JournalsContract, AnAbandonedPageStaysUntilItIsDiscarded) {
   ASSERT_EQ(AfterTheEnd().size(), 2);
   const auto pages = AfterTheEnd();
   ASSERT_EQ(pages.size(), 2);
-  EXPECT_EQ(pages[0].page.page.document, QStringLiteral("one"));
-  EXPECT_EQ(pages[1].page.page.document, QStringLiteral("two"));
-  Subject().Discard(pages[0].id);
+  EXPECT_EQ(Document(pages[1]), QStringLiteral("one"));
+  EXPECT_EQ(Document(pages[0]), QStringLiteral("two"));
+  Subject().Discard(pages[1].id);
   const auto left = AfterTheEnd();
   ASSERT_EQ(left.size(), 1);
-  EXPECT_EQ(left[0].page.page.document, QStringLiteral("two"));
+  EXPECT_EQ(Document(left[0]), QStringLiteral("two"));
   Subject().Discard(left[0].id);
   EXPECT_TRUE(AfterTheEnd().empty());
+}
+
+TEST_P(JournalsContract, ASourceThatWasNotAppliedIsKeptUntilItIs) {
+  const auto journal = Subject().Begin();
+  JournalledPage page = Page(QStringLiteral("a"));
+  journal->Write(page);
+  page.source = QStringLiteral("<p>s</p>");
+  journal->Write(page);
+  page.source = QStringLiteral("<p>source</p>");
+  journal->Write(page);
+  auto pages = AfterTheEnd();
+  ASSERT_EQ(pages.size(), 1);
+  EXPECT_TRUE(pages[0].hasSource);
+  EXPECT_EQ(Subject().Read(pages[0].id).page.source, page.source);
+
+  const auto other = Subject().Begin();
+  other->Write(page);
+  page.source.reset();
+  other->Write(page);
+  pages = AfterTheEnd();
+  ASSERT_EQ(pages.size(), 2);
+  EXPECT_FALSE(pages[0].hasSource && pages[1].hasSource);
+  EXPECT_NE(Subject().Read(pages[0].id).page.source, Subject().Read(pages[1].id).page.source);
+}
+
+TEST_P(JournalsContract, APageThatIsGoneCannotBeRead) {
+  const auto journal = Subject().Begin();
+  journal->Write(Page(QStringLiteral("a")));
+  const auto pages = AfterTheEnd();
+  ASSERT_EQ(pages.size(), 1);
+  Subject().Discard(pages[0].id);
+  EXPECT_NE(ErrorOf([&] { Subject().Read(pages[0].id); }), ErrorNumber::None);
 }
 
 TEST_P(JournalsContract, ThisRunsOwnPagesAreNotAbandoned) {

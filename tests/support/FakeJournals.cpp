@@ -29,11 +29,25 @@ std::unique_ptr<Journal> FakeJournals::Begin() {
 
 std::vector<AbandonedPage> FakeJournals::Abandoned() {
   std::vector<AbandonedPage> pages;
-  for (const auto &[number, page] : abandoned_) pages.push_back({QString::number(number), page});
+  for (auto next = abandoned_.rbegin(); next != abandoned_.rend(); ++next) {
+    const auto &[number, page] = *next;
+    pages.push_back(
+        {QString::number(number), page.path, page.caption, page.time, page.source.has_value(), {}});
+  }
+  for (const QString &defect : defects) pages.push_back({defect, {}, {}, {}, false, defect});
   return pages;
 }
 
+JournalReading FakeJournals::Read(const QString &id) {
+  const auto found = abandoned_.find(id.toInt());
+  if (found == abandoned_.end()) {
+    throw RuntimeError::Of(ErrorNumber::PathFileAccess, QStringLiteral("Journal"));
+  }
+  return {found->second, endsAreMissing};
+}
+
 void FakeJournals::Discard(const QString &id) {
+  if (defects.removeOne(id)) return;
   abandoned_.erase(id.toInt());
 }
 

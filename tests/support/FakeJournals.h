@@ -15,8 +15,10 @@ namespace velor {
 /// Journals in memory.
 class FakeJournals : public Journals {
  public:
+  QString Hindrance() override { return hindrance; }
   std::unique_ptr<Journal> Begin() override;
   std::vector<AbandonedPage> Abandoned() override;
+  JournalReading Read(const QString &id) override;
   void Discard(const QString &id) override;
 
   // What tests do and read.
@@ -25,6 +27,11 @@ class FakeJournals : public Journals {
   void AddAbandoned(const JournalledPage &page);
   /// What the journals of this run hold, in the order in which they were begun.
   std::vector<JournalledPage> Written() const;
+  QString hindrance;
+  /// What Abandoned says of journals that nothing can be read of.
+  QStringList defects;
+  /// The last changes of every abandoned page are missing.
+  bool endsAreMissing = false;
   /// Every Write raises this while it is set.
   std::optional<ErrorNumber> writeFailure;
   int rests = 0;

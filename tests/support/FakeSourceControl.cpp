@@ -25,6 +25,7 @@ void FakeSourceControl::SetText(const QString &newText) {
   Note(log_, QStringLiteral("Source.SetText()"));
   text = newText;
   selectionStart = selectionEnd = 0;
+  TextChanged();
 }
 
 QString FakeSourceControl::SelectedText() const {
@@ -35,6 +36,7 @@ void FakeSourceControl::ReplaceSelection(const QString &replacement) {
   if (access == SourceAccess::View) return;
   text.replace(selectionStart, selectionEnd - selectionStart, replacement);
   selectionStart = selectionEnd = selectionStart + replacement.size();
+  TextChanged();
 }
 
 int FakeSourceControl::CaretLine() const {
@@ -87,6 +89,7 @@ int FakeSourceControl::ReplaceAll(const QString &wanted, const QString &replacem
   const auto rule = letterCase == LetterCase::Matched ? Qt::CaseSensitive : Qt::CaseInsensitive;
   const auto count = static_cast<int>(text.count(wanted, rule));
   text.replace(wanted, replacement, rule);
+  if (count > 0) TextChanged();
   return count;
 }
 

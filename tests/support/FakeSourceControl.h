@@ -27,6 +27,7 @@ class FakeSourceControl final : public SourceControl {
   qsizetype selectionStart = 0;
   qsizetype selectionEnd = 0;
   std::function<void()> selectionListener;
+  std::function<void()> textListener;
   int markedLine = -1;
   /// The column that the caret is said to stand in, where it is not where the text has it.
   std::optional<int> strayColumn;
@@ -46,12 +47,19 @@ class FakeSourceControl final : public SourceControl {
   void SetSelectionListener(std::function<void()> listener) override {
     selectionListener = std::move(listener);
   }
+  void SetTextListener(std::function<void()> listener) override {
+    textListener = std::move(listener);
+  }
   int MarkedLine() const override { return markedLine; }
   void SetMarkedLine(int line) override { markedLine = line; }
   bool Find(const QString &wanted, SearchDirection direction, LetterCase letterCase) override;
   int ReplaceAll(const QString &wanted, const QString &replacement, LetterCase letterCase) override;
 
  private:
+  void TextChanged() const {
+    if (textListener) textListener();
+  }
+
   CallLog *log_;
   QPointer<QWidget> widget_;
 };

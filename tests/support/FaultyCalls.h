@@ -6,14 +6,28 @@
 #include <cerrno>
 #include <csignal>
 #include <limits>
+#include <optional>
 #include <unistd.h>
+#include <vector>
 
 namespace velor {
 
 /// The system's calls, where something goes wrong at one of them.
 class FaultyCalls : public FileCalls {
  public:
-  enum class Call { Open, Write, Truncate, Sync, Rename, Unlink, Reserve, Owner, Mode, Attribute };
+  enum class Call {
+    Open,
+    Write,
+    Truncate,
+    Sync,
+    Close,
+    Rename,
+    Unlink,
+    Reserve,
+    Owner,
+    Mode,
+    Attribute,
+  };
 
   int Open(const char *name, int flags, mode_t mode) override {
     // Looking at a file or folder changes nothing, and does not count.
@@ -28,6 +42,13 @@ class FaultyCalls : public FileCalls {
     return Pass(Call::Truncate) ? FileCalls::Truncate(file, size) : -1;
   }
   int Sync(int file) override { return Pass(Call::Sync) ? FileCalls::Sync(file) : -1; }
+  int Close(int file) override {
+    const bool passes = Pass(Call::Close);
+    const int error = errno;
+    const int closed = FileCalls::Close(file);
+    errno = passes ? errno : error;
+    return passes ? closed : -1;
+  }
   int Rename(const char *from, const char *to) override {
     return Pass(Call::Rename) ? FileCalls::Rename(from, to) : -1;
   }
@@ -54,7 +75,20 @@ class FaultyCalls : public FileCalls {
     good_ = good;
     bad_ = bad;
   }
-  void FailNoMore() { errno_ = 0; }
+  enum class Lasting { Once, FromThenOn };
+  /// The call with this number, counted from 1 from now on, fails with that errno.
+  void FailAt(int call, int errnoValue, Lasting lasting = Lasting::Once) {
+    calls = 0;
+    order.clear();
+    failAt_ = call;
+    errnoAt_ = errnoValue;
+    lasting_ = lasting;
+  }
+  void FailNoMore() {
+    errno_ = 0;
+    failAt_ = 0;
+    alsoFails.reset();
+  }
   /// The process ends before the call with this number, counted from 1 from now on.
   void KillBefore(int call) {
     calls = 0;
@@ -62,11 +96,25 @@ class FaultyCalls : public FileCalls {
   }
 
   int calls = 0;
+  /// What was called, in order.
+  std::vector<Call> order;
+  /// Fails too, always.
+  std::optional<Call> alsoFails;
   size_t longestWrite = static_cast<size_t>(-1);
 
  private:
   bool Pass(Call call) {
+    order.push_back(call);
     if (++calls == killBefore_) kill(getpid(), SIGKILL);
+    const bool isDue = lasting_ == Lasting::Once ? calls == failAt_ : calls >= failAt_;
+    if (failAt_ > 0 && isDue) {
+      errno = errnoAt_;
+      return false;
+    }
+    if (call == alsoFails) {
+      errno = EIO;
+      return false;
+    }
     if (errno_ == 0 || call != failing_ || good_-- > 0 || bad_-- <= 0) return true;
     errno = errno_;
     return false;
@@ -77,6 +125,9 @@ class FaultyCalls : public FileCalls {
   int good_ = 0;
   int bad_ = 0;
   int killBefore_ = 0;
+  int failAt_ = 0;
+  int errnoAt_ = 0;
+  Lasting lasting_ = Lasting::Once;
 };
 
 }  // namespace velor

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/files/FileBytes.h"
 
-#include "platform/qt/files/FileDescriptor.h"
-
 #include <QList>
 
-#include <cerrno>
 #include <optional>
 #include <sys/xattr.h>
 
@@ -31,12 +28,22 @@ std::optional<QByteArray> AttributeOf(int file, const char *name) {
 
 }  // namespace
 
+FileDescriptor OpenFile(FileCalls &calls, const QByteArray &name, int flags, mode_t mode) {
+  return FileDescriptor(
+      Uninterrupted([&] { return calls.Open(name.constData(), flags | O_CLOEXEC, mode); }));
+}
+
+bool CloseFile(FileCalls &calls, FileDescriptor file) {
+  // Interrupted, it is closed nevertheless.
+  return calls.Close(file.Release()) == 0 || errno == EINTR;
+}
+
 bool WriteBytes(FileCalls &calls, int file, const QByteArray &content) {
   const char *data = content.constData();
   qsizetype left = content.size();
   while (left > 0) {
-    const ssize_t written = calls.Write(file, data, static_cast<size_t>(left));
-    if (written < 0 && errno == EINTR) continue;
+    const ssize_t written =
+        Uninterrupted([&] { return calls.Write(file, data, static_cast<size_t>(left)); });
     if (written < 0) return false;
     data += written;
     left -= written;
@@ -45,12 +52,12 @@ bool WriteBytes(FileCalls &calls, int file, const QByteArray &content) {
 }
 
 bool SyncFile(FileCalls &calls, int file) {
-  return calls.Sync(file) == 0 || errno == EINVAL || errno == ENOTSUP;
+  return Uninterrupted([&] { return calls.Sync(file); }) == 0 || errno == EINVAL ||
+         errno == ENOTSUP;
 }
 
 bool SyncFolder(FileCalls &calls, const QByteArray &folder) {
-  const FileDescriptor descriptor(
-      calls.Open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0));
+  const FileDescriptor descriptor = OpenFile(calls, folder, O_RDONLY | O_DIRECTORY);
   // A folder in which files may be made but not listed cannot be opened; its file is safe by then.
   return !descriptor.IsOpen() || SyncFile(calls, descriptor.Number());
 }
@@ -66,7 +73,9 @@ bool CopyAttributes(FileCalls &calls, int from, int to) {
     // Some are given by the system alone, which has done so already.
     if (AttributeOf(to, name.constData()) == value) continue;
     const auto size = static_cast<size_t>(value->size());
-    if (calls.SetAttribute(to, name.constData(), value->constData(), size) != 0) return false;
+    const int given = Uninterrupted(
+        [&] { return calls.SetAttribute(to, name.constData(), value->constData(), size); });
+    if (given != 0) return false;
   }
   return true;
 }

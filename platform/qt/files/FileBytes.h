@@ -2,10 +2,27 @@
 #pragma once
 
 #include "platform/qt/files/FileCalls.h"
+#include "platform/qt/files/FileDescriptor.h"
 
 #include <QByteArray>
 
+#include <cerrno>
+
 namespace velor {
+
+/// Calls again for as long as a signal gets in between.
+template <typename Call>
+auto Uninterrupted(Call call) {
+  auto answer = call();
+  while (answer < 0 && errno == EINTR) answer = call();
+  return answer;
+}
+
+/// Not open, with errno set, where that failed.
+FileDescriptor OpenFile(FileCalls &calls, const QByteArray &name, int flags, mode_t mode = 0);
+
+/// False with errno set when that failed; the file is closed all the same.
+bool CloseFile(FileCalls &calls, FileDescriptor file);
 
 /// Writes all of it; false with errno set when that failed, however much was written by then.
 bool WriteBytes(FileCalls &calls, int file, const QByteArray &content);

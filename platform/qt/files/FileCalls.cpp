@@ -24,6 +24,10 @@ int FileCalls::Sync(int file) {
   return fsync(file);
 }
 
+int FileCalls::Close(int file) {
+  return close(file);
+}
+
 int FileCalls::Rename(const char *from, const char *to) {
   return rename(from, to);
 }

@@ -17,6 +17,8 @@ class FileCalls {
   virtual int Truncate(int file, off_t size);
   /// Content and attributes to the disk.
   virtual int Sync(int file);
+  /// The file is closed whatever this answers; some file systems tell a failed write only here.
+  virtual int Close(int file);
   virtual int Rename(const char *from, const char *to);
   virtual int Unlink(const char *name);
   /// Takes the room for `size` bytes without changing what is read.

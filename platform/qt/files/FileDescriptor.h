@@ -15,13 +15,15 @@ class FileDescriptor {
     std::swap(number_, other.number_);
     return *this;
   }
-  ~FileDescriptor() { Close(); }
+  ~FileDescriptor() {
+    if (IsOpen()) close(number_);
+  }
 
   bool IsOpen() const { return number_ >= 0; }
   int Number() const { return number_; }
 
-  /// False when closing failed; some file systems report a failed write only then.
-  bool Close() { return number_ < 0 || close(std::exchange(number_, -1)) == 0; }
+  /// Lets go of it without closing it.
+  int Release() { return std::exchange(number_, -1); }
 
  private:
   int number_;

@@ -3,19 +3,18 @@
 
 #include "platform/RuntimeError.h"
 #include "platform/qt/files/FileBytes.h"
-#include "platform/qt/files/FileDescriptor.h"
+#include "platform/qt/files/LeftSiblings.h"
 #include "platform/qt/files/ReplacedFiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
 
-#include <cerrno>
 #include <climits>
 #include <fcntl.h>
 #include <optional>
 #include <sys/stat.h>
+#include <utility>
 
 namespace velor {
 
@@ -90,12 +89,8 @@ class Replacement {
   /// False, with nothing changed, where an existing file has to be written in place.
   bool WriteSiblingAndRename(mode_t mode) {
     const QString folder = QFileInfo(path_).path();
-    const QString sibling =
-        QStringLiteral("%1/.velor-%2.tmp")
-            .arg(folder, QString::number(QRandomGenerator::system()->generate64(), 16));
-    const QByteArray siblingName = QFile::encodeName(sibling);
-    FileDescriptor file(
-        calls_.Open(siblingName.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+    const QByteArray siblingName = QFile::encodeName(NewSibling(folder));
+    FileDescriptor file = OpenFile(calls_, siblingName, O_WRONLY | O_CREAT | O_EXCL, mode);
     if (!file.IsOpen()) {
       if (old_ && (errno == EACCES || errno == EPERM || errno == EROFS)) return false;
       throw WriteError(errno, path_);
@@ -104,17 +99,24 @@ class Replacement {
       calls_.Unlink(siblingName.constData());
       return false;
     }
+    ClaimSibling(file.Number());
     const bool isWritten = WriteBytes(calls_, file.Number(), content_) &&
-                           SyncFile(calls_, file.Number()) && file.Close();
-    if (isWritten && calls_.Rename(siblingName.constData(), name_.constData()) == 0) {
+                           SyncFile(calls_, file.Number()) && CloseFile(calls_, std::move(file));
+    if (isWritten && Rename(siblingName)) {
       // A rename survives a power failure only when its folder is on the disk.
       if (!SyncFolder(calls_, QFile::encodeName(folder))) throw WriteError(errno, path_);
+      RemoveLeftSiblings(folder, calls_);
       return true;
     }
     const int error = errno;
     calls_.Unlink(siblingName.constData());
     if (isWritten && old_ && IsNoRenaming(error)) return false;
     throw WriteError(error, path_);
+  }
+
+  bool Rename(const QByteArray &sibling) const {
+    return Uninterrupted([&] { return calls_.Rename(sibling.constData(), name_.constData()); }) ==
+           0;
   }
 
   /// Whether the place, not the disk, refused: a mount point, or a folder where nobody but a file's
@@ -127,19 +129,19 @@ class Replacement {
     struct stat own {};
     if (fstat(file, &own) != 0) return false;
     const bool isSame = own.st_uid == old_->st_uid && own.st_gid == old_->st_gid;
-    if (!isSame && calls_.SetOwner(file, old_->st_uid, old_->st_gid) != 0) return false;
+    const auto giveOwner = [&] { return calls_.SetOwner(file, old_->st_uid, old_->st_gid); };
+    if (!isSame && Uninterrupted(giveOwner) != 0) return false;
     // Without the right to read the file its attributes cannot be known to be kept.
     const FileDescriptor before(open(name_.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!before.IsOpen() || !CopyAttributes(calls_, before.Number(), file)) return false;
     // After the owner: a change of owner clears bits.
-    return calls_.SetMode(file, old_->st_mode & PermissionBits) == 0;
+    return Uninterrupted([&] { return calls_.SetMode(file, old_->st_mode & PermissionBits); }) == 0;
   }
 
   void WriteInPlace() {
     // Non-blocking, so that a pipe nobody reads fails instead of waiting for ever.
     const bool isRegular = S_ISREG(old_->st_mode);
-    FileDescriptor file(calls_.Open(name_.constData(),
-                                    (isRegular ? O_RDWR : O_WRONLY) | O_CLOEXEC | O_NONBLOCK, 0));
+    FileDescriptor file = OpenFile(calls_, name_, (isRegular ? O_RDWR : O_WRONLY) | O_NONBLOCK);
     if (!file.IsOpen()) throw WriteError(errno, path_);
     if (!isRegular) {
       if (!WriteBytes(calls_, file.Number(), content_)) throw WriteError(errno, path_);
@@ -155,20 +157,22 @@ class Replacement {
       if (Overwrite(file.Number(), before)) replaced.Forget(kept);
       throw WriteError(error, path_);
     }
-    if (!file.Close()) throw WriteError(errno, path_);
+    if (!CloseFile(calls_, std::move(file))) throw WriteError(errno, path_);
     replaced.Forget(kept);
   }
 
   /// Takes the blocks for the new content beyond the old end, which changes nothing that is read.
   /// False only when there is no room.
   bool ReserveRoom(int file) const {
-    if (content_.isEmpty() || calls_.Reserve(file, content_.size()) == 0) return true;
+    const auto reserve = [&] { return calls_.Reserve(file, content_.size()); };
+    if (content_.isEmpty() || Uninterrupted(reserve) == 0) return true;
     return errno != ENOSPC && errno != EDQUOT && errno != EFBIG;
   }
 
   bool Overwrite(int file, const QByteArray &content) const {
     return lseek(file, 0, SEEK_SET) == 0 && WriteBytes(calls_, file, content) &&
-           calls_.Truncate(file, content.size()) == 0 && SyncFile(calls_, file);
+           Uninterrupted([&] { return calls_.Truncate(file, content.size()); }) == 0 &&
+           SyncFile(calls_, file);
   }
 
   static QByteArray ReadAll(int file) {

@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <unistd.h>
+
 namespace velor {
 
 namespace {
@@ -27,8 +29,10 @@ QString ShortName(const QString &nativePath) {
 QString FreeName(const QString &folder, const QDateTime &time, const QString &name) {
   const QString stamp = time.toString(QStringLiteral("yyyy-MM-dd'T'HH-mm-ss.zzz"));
   for (int number = 1;; ++number) {
+    // With the process's number, since another copy may be at the same thing.
     const QString path =
-        QStringLiteral("%1/%2-%3 %4").arg(folder, stamp, QString::number(number), name);
+        QStringLiteral("%1/%2-%3-%4 %5")
+            .arg(folder, stamp, QString::number(getpid()), QString::number(number), name);
     if (!QFileInfo::exists(Origin(path))) return path;
   }
 }

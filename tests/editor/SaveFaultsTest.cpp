@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whatever call fails while a page is saved, its file is the old or the new one, a failure is told,
+// and the text is in the journal until it is in the file.
+#include "editor/EditorContext.h"
+#include "editor/PageSlots.h"
+#include "editor/frmMain.h"
+#include "editor/modWorkFlow.h"
+#include "platform/Paths.h"
+#include "platform/qt/QtFiles.h"
+#include "platform/qt/StateFolder.h"
+#include "platform/qt/files/JournalFiles.h"
+#include "platform/qt/files/ReplacedFiles.h"
+#include "tests/support/FakeComponents.h"
+#include "tests/support/FakeDialogs.h"
+#include "tests/support/FakeFileDialog.h"
+#include "tests/support/FakeMainWindow.h"
+#include "tests/support/FakeRegistry.h"
+#include "tests/support/FakeRuntime.h"
+#include "tests/support/FaultyCalls.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QEvent>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <array>
+#include <gtest/gtest.h>
+#include <memory>
+#include <optional>
+#include <unistd.h>
+
+namespace velor {
+namespace {
+
+const QByteArray Old = "<p>old</p>";
+const QByteArray Foreign = "<p>somebody else's</p>";
+const QString Changed = QStringLiteral("<p>changed</p>");
+constexpr bool AsBefore = false;
+constexpr bool UnderNewName = true;
+
+/// A run of the program with one page open and changed, on real files.
+struct Run {
+  explicit Run(const QString &file) {
+    dialog.FileName = ToLogic(file);
+    modWorkFlow::OpenPage(context, ToLogic(file));
+    Component().CompleteDocument();
+    Component().Edit(Changed);
+    Page().Journal().Catch();
+  }
+  ~Run() {
+    const std::vector<QWidget *> windows = mainWindow.adopted;
+    for (QWidget *window : windows) delete window;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  Run(const Run &) = delete;
+  Run &operator=(const Run &) = delete;
+
+  frmMain &Page() { return *pages.Page(1); }
+  FakeEditingComponent &Component() {
+    return dynamic_cast<FakeEditingComponent &>(Page().DHTML1());
+  }
+  std::int32_t Save(bool saveAs) {
+    return modWorkFlow::SavePage(context, Page(), dialog, pages.Record(1), saveAs);
+  }
+
+  FaultyCalls calls;
+  QtFiles files{calls};
+  JournalFiles journals{calls};
+  ReplacedFiles replaced{calls};
+  FakeRegistry registry;
+  FakeRuntime runtime{nullptr};
+  FakeDialogs dialogs{nullptr};
+  FakeFileDialog dialog{nullptr};
+  FakeComponents components{files};
+  FakeMainWindow mainWindow{dialog};
+  Platform platform{files, runtime, dialogs, registry, components, nullptr, &journals, &replaced};
+  PageSlots pages;
+  EditorContext context{platform, mainWindow, pages, {}};
+};
+
+enum class Way { Plain, UnderANewName, InPlace, OverAnothersVersion };
+
+class SaveFaults : public testing::Test {
+ protected:
+  ~SaveFaults() override { qputenv("XDG_STATE_HOME", stateHome_); }
+
+  void Prepare(Way way) {
+    folder_.emplace();
+    qputenv("XDG_STATE_HOME", folder_->filePath(QStringLiteral("state")).toLocal8Bit());
+    page_ = folder_->filePath(QStringLiteral("page.htm"));
+    Write(page_, Old);
+    target_ = way == Way::UnderANewName ? folder_->filePath(QStringLiteral("other.htm")) : page_;
+    if (way == Way::UnderANewName) Write(target_, Old);
+    if (way != Way::InPlace) return;
+    const QByteArray second = QFile::encodeName(folder_->filePath(QStringLiteral("second.htm")));
+    ASSERT_EQ(link(QFile::encodeName(page_).constData(), second.constData()), 0);
+  }
+  static void Write(const QString &path, const QByteArray &content) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+  }
+  QByteArray Target() const {
+    QFile file(target_);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
+  static bool IsRecovered() {
+    JournalFiles next;
+    for (const AbandonedPage &page : next.Abandoned())
+      if (next.Read(page.id).page.page.document == Changed) return true;
+    return false;
+  }
+  static bool IsKept(const QByteArray &content) {
+    const QDir folder(StateFolder() + QStringLiteral("/replaced"));
+    for (const QString &name : folder.entryList({QStringLiteral("*.htm")})) {
+      QFile file(folder.filePath(name));
+      if (file.open(QIODevice::ReadOnly) && file.readAll() == content) return true;
+    }
+    return false;
+  }
+
+  /// One save in which the call with that number fails, and what it left. False where the save
+  /// needed fewer calls.
+  bool SaveWith(Way way, int number, int error, FaultyCalls::Lasting lasting) {
+    Prepare(way);
+    auto run = std::make_unique<Run>(page_);
+    const bool isForeign = way == Way::OverAnothersVersion;
+    if (isForeign) Write(target_, Foreign);
+    const QByteArray before = isForeign ? Foreign : Old;
+    if (way == Way::UnderANewName) run->dialog.ExpectSave(ToLogic(target_));
+    run->calls.FailAt(number, error, lasting);
+    const std::int32_t result = run->Save(way == Way::UnderANewName ? UnderNewName : AsBefore);
+    const bool hasFailed = run->calls.calls >= number;
+    run->calls.FailNoMore();
+    const bool isTold = result != 0 || !run->mainWindow.reports.isEmpty();
+    run.reset();
+
+    const QByteArray there = Target();
+    if (there != Changed.toUtf8()) {
+      EXPECT_TRUE(isTold);
+      EXPECT_TRUE(IsRecovered());
+      EXPECT_TRUE(there == before || IsKept(before)) << there.toStdString();
+    } else if (isForeign) {
+      EXPECT_TRUE(IsKept(Foreign));
+    }
+    return hasFailed;
+  }
+
+  QByteArray stateHome_ = qgetenv("XDG_STATE_HOME");
+  std::optional<QTemporaryDir> folder_;
+  QString page_;
+  QString target_;
+};
+
+class AnySaveFault : public SaveFaults, public testing::WithParamInterface<Way> {};
+
+TEST_P(AnySaveFault, LeavesAWholeFileTellsItAndLosesNoText) {
+  for (const auto lasting : {FaultyCalls::Lasting::Once, FaultyCalls::Lasting::FromThenOn}) {
+    for (const int error : {ENOSPC, EIO, EROFS, EDQUOT}) {
+      int number = 0;
+      bool hasFailed = true;
+      while (hasFailed) {
+        SCOPED_TRACE(testing::Message() << error << ' ' << ++number);
+        ASSERT_LT(number, 100);
+        hasFailed = SaveWith(GetParam(), number, error, lasting);
+      }
+      EXPECT_GT(number, 6);
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Ways, AnySaveFault,
+                         testing::Values(Way::Plain, Way::UnderANewName, Way::InPlace,
+                                         Way::OverAnothersVersion),
+                         [](const auto &test) {
+                           return std::array{
+                               "Plain", "UnderANewName", "InPlace",
+                               "OverAnothersVersion"}[static_cast<std::size_t>(test.param)];
+                         });
+
+TEST_F(SaveFaults, ATemporaryCopyThatCannotBeWrittenCostsNoText) {
+  for (int number = 1;; ++number) {
+    SCOPED_TRACE(number);
+    ASSERT_LT(number, 100);
+    Prepare(Way::Plain);
+    Run run(page_);
+    run.calls.FailAt(number, EIO);
+    EXPECT_EQ(run.Page().CreatorHTML(), Changed);
+    EXPECT_EQ(Target(), Old);
+    if (run.calls.calls < number) break;
+  }
+}
+
+TEST_F(SaveFaults, AChangeOfTheSameSizeAndTimeIsAnotherVersionToo) {
+  Prepare(Way::Plain);
+  Run run(page_);
+  const QDateTime time = QFileInfo(page_).lastModified();
+  const QByteArray sameSize = "<p>OLD</p>";
+  Write(page_, sameSize);
+  QFile file(page_);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
+  file.close();
+  EXPECT_EQ(run.Save(AsBefore), 0);
+  EXPECT_EQ(Target(), Changed.toUtf8());
+  EXPECT_TRUE(IsKept(sameSize));
+}
+
+TEST_F(SaveFaults, AFileThatIsGoneIsWrittenAnewAndTheStatusBarSaysSo) {
+  Prepare(Way::Plain);
+  Run run(page_);
+  ASSERT_TRUE(QFile::rename(page_, folder_->filePath(QStringLiteral("elsewhere.htm"))));
+  EXPECT_EQ(run.Save(AsBefore), 0);
+  EXPECT_EQ(Target(), Changed.toUtf8());
+  ASSERT_EQ(run.mainWindow.reports.size(), 1);
+  EXPECT_EQ(run.mainWindow.reports[0],
+            page_ + QStringLiteral(" was no longer there. It was written anew"));
+}
+
+TEST_F(SaveFaults, AFolderThatIsGoneIsToldAndTheTextIsKept) {
+  Prepare(Way::Plain);
+  const QString site = folder_->filePath(QStringLiteral("site"));
+  ASSERT_TRUE(QDir().mkpath(site));
+  const QString page = site + QStringLiteral("/page.htm");
+  Write(page, Old);
+  {
+    Run run(page);
+    ASSERT_TRUE(QDir(site).removeRecursively());
+    EXPECT_EQ(run.Save(AsBefore), 0);
+    ASSERT_EQ(run.mainWindow.reports.size(), 1);
+    EXPECT_TRUE(
+        run.mainWindow.reports[0].startsWith(page + QStringLiteral(" could not be saved: ")));
+    run.Page().MarkKill();
+    run.Page().close();
+  }
+  EXPECT_FALSE(QDir(site).exists());
+  EXPECT_TRUE(IsRecovered());
+}
+
+}  // namespace
+}  // namespace velor
