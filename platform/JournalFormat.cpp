@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/JournalFormat.h"
 
+#include "platform/TextDifference.h"
+
 #include <QDataStream>
 #include <QIODevice>
 
@@ -90,15 +92,9 @@ QByteArray JournalRecord(const JournalledPage &page) {
 }
 
 QByteArray JournalChange(const QString &before, const QString &after, const QDateTime &time) {
-  const auto [beforeDiffers, afterDiffers] =
-      std::mismatch(before.begin(), before.end(), after.begin(), after.end());
-  const qsizetype start = beforeDiffers - before.begin();
-  const qsizetype most = std::min(before.size(), after.size()) - start;
-  qsizetype same = 0;
-  while (same < most && before[before.size() - 1 - same] == after[after.size() - 1 - same]) ++same;
-  const QString inserted = after.mid(start, after.size() - same - start);
-  return Record(Kind::Change, qint64{time.toMSecsSinceEpoch()}, qint64{start},
-                qint64{before.size() - same - start}, inserted);
+  const auto difference = TextDifference::Between(before, after);
+  return Record(Kind::Change, qint64{time.toMSecsSinceEpoch()}, qint64{difference.start},
+                qint64{difference.removed}, difference.InsertedIn(after).toString());
 }
 
 std::optional<JournalledPage> ReadJournal(const QByteArray &journal) {
