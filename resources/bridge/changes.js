@@ -13,6 +13,7 @@
   const undivided = 'pre, listing, textarea, template, title, script, style, xmp, iframe, noembed, ' +
     'noframes, noscript, plaintext, svg, math';
   const mostSteps = 8;
+  const mostPieces = 500;  // where more have changed the whole costs less
 
   // Numbers the texts that were told. It begins anywhere, so that what the document before this one
   // told is not taken for this one's.
@@ -89,7 +90,7 @@
     return { revision, html: velor.serialize() };
   }
 
-  // What has to be written anew, and the branches on the way there; null where that is all.
+  // What has to be written anew, and the branches on the way there; null where that is the whole.
   function places() {
     if (touched.has(document) || !branches.size) return null;
     const found = { pieces: new Set(), lists: new Set(), ways: new Set() };
@@ -105,7 +106,7 @@
       }
       for (; at !== document && !found.ways.has(at); at = at.parentNode) found.ways.add(at);
     }
-    return found;
+    return found.pieces.size > mostPieces ? null : found;
   }
 
   // Writes a node anew; answers its text.
