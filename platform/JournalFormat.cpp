@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/JournalFormat.h"
 
+#include "platform/TextDifference.h"
+
 #include <QDataStream>
 #include <QIODevice>
 
@@ -55,35 +57,23 @@ QByteArray Record(Kind kind, const Fields &...fields) {
   return Number(static_cast<quint64>(payload.size())) + Number(Checksum(payload)) + payload;
 }
 
-/// The one stretch by which two texts differ.
-struct Stretch {
-  qint64 start = 0;
-  qint64 removed = 0;
-  QString inserted;
-
-  static Stretch Between(const QString &before, const QString &after) {
-    const auto [beforeDiffers, afterDiffers] =
-        std::mismatch(before.begin(), before.end(), after.begin(), after.end());
-    const qsizetype start = beforeDiffers - before.begin();
-    const qsizetype most = std::min(before.size(), after.size()) - start;
-    qsizetype same = 0;
-    while (same < most && before[before.size() - 1 - same] == after[after.size() - 1 - same])
-      ++same;
-    return {start, before.size() - same - start, after.mid(start, after.size() - same - start)};
-  }
-  QByteArray AsRecord(Kind kind, const QDateTime &time) const {
-    return Record(kind, qint64{time.toMSecsSinceEpoch()}, start, removed, inserted);
-  }
-};
+QByteArray ChangeRecord(Kind kind, const QString &before, const QString &after,
+                        const QDateTime &time) {
+  const auto difference = TextDifference::Between(before, after);
+  return Record(kind, qint64{time.toMSecsSinceEpoch()}, qint64{difference.start},
+                qint64{difference.removed}, difference.InsertedIn(after).toString());
+}
 
 /// False, with nothing changed, where the stretch does not lie within the text.
 bool Replace(QString &text, QDataStream &stretch) {
-  Stretch read;
-  stretch >> read.start >> read.removed >> read.inserted;
-  const bool isWithin = read.start >= 0 && read.start <= text.size() && read.removed >= 0 &&
-                        read.removed <= text.size() - read.start;
+  qint64 start = 0;
+  qint64 removed = 0;
+  QString inserted;
+  stretch >> start >> removed >> inserted;
+  const bool isWithin =
+      start >= 0 && start <= text.size() && removed >= 0 && removed <= text.size() - start;
   if (stretch.status() != QDataStream::Ok || !isWithin) return false;
-  text.replace(read.start, read.removed, read.inserted);
+  text.replace(start, removed, inserted);
   return true;
 }
 
@@ -141,14 +131,14 @@ QByteArray JournalRecord(const JournalledPage &page) {
 }
 
 QByteArray JournalChange(const QString &before, const QString &after, const QDateTime &time) {
-  return Stretch::Between(before, after).AsRecord(Kind::Change, time);
+  return ChangeRecord(Kind::Change, before, after, time);
 }
 
 QByteArray JournalSourceChange(const std::optional<QString> &before,
                                const std::optional<QString> &after, const QDateTime &time) {
   if (before == after) return {};
   if (!after) return Record(Kind::SourceGone, qint64{time.toMSecsSinceEpoch()});
-  return Stretch::Between(before.value_or(QString()), *after).AsRecord(Kind::SourceChange, time);
+  return ChangeRecord(Kind::SourceChange, before.value_or(QString()), *after, time);
 }
 
 std::optional<JournalReading> ReadJournal(const QByteArray &journal) {

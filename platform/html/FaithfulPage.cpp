@@ -40,9 +40,9 @@ std::vector<HtmlToken> WithoutLastTags(std::vector<HtmlToken> tokens) {
 
 /// How one serialisation is written.
 struct FaithfulPage::Plan {
-  Plan(const QString &current, const TokenText &source, const TokenText &before,
+  Plan(TokenText current, const TokenText &source, const TokenText &before,
        const TokenAlignment &sourceToBefore, LineEnds lineEnds)
-      : now(current),
+      : now(std::move(current)),
         alignment(AlignTokens(before.tokens, now.tokens, InStep::WithEdit)),
         edits(FindEdits(before, now, alignment)),
         steps(edits.size()),
@@ -100,9 +100,12 @@ void FaithfulPage::Prepare() {
 
 FaithfulPage::Plan &FaithfulPage::PlanFor(const QString &current) {
   Prepare();
-  if (plan_ == nullptr || plan_->now.text != current)
-    plan_ = std::make_shared<Plan>(current, *source_, *before_, sourceToBefore_,
-                                   original_.page.encoding.lineEnds);
+  if (plan_ != nullptr && plan_->now.text == current) return *plan_;
+  // A plan that is still being carried out keeps its tokens.
+  const bool isFree = plan_.use_count() == 1;
+  TokenText like = isFree ? std::move(plan_->now) : plan_ != nullptr ? plan_->now : *before_;
+  plan_ = std::make_shared<Plan>(TokenText(current, std::move(like)), *source_, *before_,
+                                 sourceToBefore_, original_.page.encoding.lineEnds);
   return *plan_;
 }
 
@@ -112,6 +115,10 @@ std::optional<QString> FaithfulPage::FirstTry(const QString &current) {
   const auto patches = plan.patcher.For(plan.edits, plan.steps);
   if (!patches) return std::nullopt;
   return Patched(mask_.MaskedText(), *patches);
+}
+
+void FaithfulPage::MakeReady() {
+  if (!original_.baseline.isEmpty()) Prepare();
 }
 
 SavedPage FaithfulPage::Compose(const QString &current, PageVerifier &verifier) {
@@ -144,7 +151,7 @@ std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
   for (qsizetype left = tries == Tries::All ? TriesFor(wanted) : 1; left > 0; --left) {
     const auto patches = plan.patcher.For(plan.edits, plan.steps);
     if (!patches) return std::nullopt;
-    const auto document = verifier.Serialisation(Patched(mask_.MaskedText(), *patches));
+    const auto document = verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wanted);
     if (!document) return std::nullopt;
     if (*document != wanted && !wantedAgain) wantedAgain = verifier.Serialisation(wanted);
     if (*document == wanted || document == wantedAgain) {
@@ -169,7 +176,7 @@ std::vector<TextPatch> FaithfulPage::Smallest(std::vector<TextPatch> patches,
       const auto first = fewer.begin() + static_cast<std::ptrdiff_t>(at);
       fewer.erase(first, first + static_cast<std::ptrdiff_t>(part));
       --left;
-      if (verifier.Serialisation(Patched(mask_.MaskedText(), fewer)) == document)
+      if (verifier.SerialisationLike(Patched(mask_.MaskedText(), fewer), document) == document)
         patches = std::move(fewer);
       else
         at += part;

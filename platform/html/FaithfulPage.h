@@ -52,6 +52,8 @@ class FaithfulPage {
   /// page. To have the verifier's answer ready before it is needed.
   std::optional<QString> FirstTry(const QString &current);
 
+  /// Finds out ahead of time what every save of an edited page needs.
+  void MakeReady();
   /// Composes ahead of time where the verifier confirms the first try; else nothing happens.
   void Foresee(const QString &current, PageVerifier &verifier);
   /// Lets go of what can be found out again.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/html/HtmlTokens.h"
 
+#include "platform/TextDifference.h"
 #include "platform/html/HtmlElements.h"
 #include "platform/html/TextCharacters.h"
 
@@ -82,7 +83,15 @@ class Tokenizer {
   }
 
   std::vector<HtmlToken> Run() {
+    return RunUntil([](qsizetype) { return false; });
+  }
+
+  /// From a free tag's place up to a place in which a free tag may begin and that is the end.
+  template <typename IsEnd>
+  std::vector<HtmlToken> RunUntil(IsEnd isEnd, qsizetype from = 0) {
+    at_ = from;
     while (at_ < html_.size()) {
+      if (html_[at_] == u'<' && foreign_.empty() && isEnd(at_)) break;
       if (html_[at_] != u'<' || !Markup()) Text(html_.size());
     }
     return std::move(tokens_);
@@ -210,6 +219,7 @@ class Tokenizer {
       Push(HtmlTokenKind::Comment, html_.size(), 0);
       return;
     }
+    const bool isFree = foreign_.empty();
     const bool isHtml = EnterElement(name, parts.isSelfClosing);
     qsizetype end = parts.end;
     if (isHtml && IsOneOf(name, breakDroppers) && end < html_.size() &&
@@ -218,6 +228,7 @@ class Tokenizer {
     HtmlToken &token = Push(HtmlTokenKind::StartTag, end, TagKey(html_, parts, name));
     token.name = name;
     token.isStrong = true;
+    token.isFree = isFree;
     if (!isHtml) return;
     if (name == plaintext) {
       Raw(html_.size());
@@ -236,6 +247,7 @@ class Tokenizer {
       Push(HtmlTokenKind::Comment, html_.size(), 0);
       return;
     }
+    const bool isFree = foreign_.empty();
     for (std::size_t depth = foreign_.size(); depth > 0; --depth) {
       if (foreign_[depth - 1].name != name) continue;
       foreign_.resize(depth - 1);
@@ -246,6 +258,7 @@ class Tokenizer {
     HtmlToken &token = Push(HtmlTokenKind::EndTag, parts.end, key.Value());
     token.name = name;
     token.isStrong = true;
+    token.isFree = isFree;
   }
 
   /// Keeps track of foreign content; false for an element of that kind.
@@ -378,6 +391,38 @@ std::uint32_t HtmlNameKey(QStringView name) {
 
 std::vector<HtmlToken> TokenizeHtml(QStringView text) {
   return Tokenizer(text).Run();
+}
+
+std::vector<HtmlToken> TokenizeHtmlLike(QStringView text, QStringView before,
+                                        std::vector<HtmlToken> tokens) {
+  const auto difference = TextDifference::Between(before, text);
+  const qsizetype removedEnd = difference.start + difference.removed;
+  const qsizetype shift = text.size() - before.size();
+  // What stands before a tag was read to its end when the tag began, so that it stays as it is.
+  auto first =
+      std::upper_bound(tokens.begin(), tokens.end(), difference.start,
+                       [](qsizetype place, const HtmlToken &token) { return place < token.End(); });
+  do {
+    if (first == tokens.begin()) return TokenizeHtml(text);
+    --first;
+  } while (!first->isFree);
+  auto rest = std::lower_bound(
+      first, tokens.end(), removedEnd,
+      [](const HtmlToken &token, qsizetype place) { return token.offset < place; });
+  bool isInStep = false;
+  const auto rejoins = [&](qsizetype place) {
+    if (place < removedEnd + shift) return false;
+    while (rest != tokens.end() && rest->offset + shift < place) ++rest;
+    isInStep = rest != tokens.end() && rest->offset + shift == place && rest->isFree;
+    return isInStep;
+  };
+  const std::vector<HtmlToken> fresh = Tokenizer(text).RunUntil(rejoins, first->offset);
+  if (!isInStep) rest = tokens.end();
+  for (auto token = rest; token != tokens.end(); ++token)
+    token->offset += static_cast<std::int32_t>(shift);
+  const auto gap = tokens.erase(first, rest);
+  tokens.insert(gap, fresh.begin(), fresh.end());
+  return tokens;
 }
 
 }  // namespace velor

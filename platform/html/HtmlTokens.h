@@ -31,6 +31,8 @@ struct HtmlToken {
   HtmlTokenKind kind = HtmlTokenKind::Word;
   /// A tag, or a word that is long enough to tell two places apart.
   bool isStrong = false;
+  /// A tag that is read in the same way whatever stands before it.
+  bool isFree = false;
 
   std::int32_t End() const { return offset + length; }
   bool IsTag() const { return name != 0; }
@@ -49,6 +51,10 @@ std::uint32_t HtmlNameKey(QStringView name);
 /// tokenizer, with the states that its tree builder would choose: raw text elements, script's
 /// escapes, foreign content. NOSCRIPT's content is markup, as where scripts are off.
 std::vector<HtmlToken> TokenizeHtml(QStringView text);
+
+/// The same, sooner, where the tokens of a text are known that differs in one stretch.
+std::vector<HtmlToken> TokenizeHtmlLike(QStringView text, QStringView before,
+                                        std::vector<HtmlToken> tokens);
 
 /// One attribute of a start tag: offsets into the page's text.
 struct HtmlAttributeSlice {

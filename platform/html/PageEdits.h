@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace velor {
@@ -17,6 +18,9 @@ struct TokenText {
 
   TokenText() = default;
   explicit TokenText(const QString &html) : text(html), tokens(TokenizeHtml(html)) {}
+  /// Sooner made where `before` differs in little.
+  TokenText(const QString &html, TokenText before)
+      : text(html), tokens(TokenizeHtmlLike(html, before.text, std::move(before.tokens))) {}
   const HtmlToken &At(std::int32_t number) const {
     return tokens[static_cast<std::size_t>(number)];
   }

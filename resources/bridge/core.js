@@ -6,8 +6,6 @@
   const velor = { host: null, version: 0 };
   globalThis.velor = velor;
 
-  // A larger document is asked for by the program when it wants it.
-  const mirrorLimit = 200000;
   // The document is told of in idle time, when no change came for a while; during steady work after
   // the longer time, so that little is lost with the page's process. Milliseconds.
   const mirrorPause = 200;
@@ -15,7 +13,6 @@
 
   let dirty = true;
   let waiting = false;
-  let mirrorFits = true;
   let mirrorWaits = false;
   let changedFirst = 0;  // since the mirror was given
   let changedLast = 0;
@@ -38,28 +35,26 @@
   const whenIdle = () => requestIdleCallback(giveMirror, { timeout: mirrorPause });
 
   function wantMirror() {
-    if (!mirrorFits) return;
     changedLast = performance.now();
     if (hidden()) {
-      writeMirror();
+      writeMirror(true);
     } else if (!mirrorWaits) {
       changedFirst = changedLast;
       mirrorWaits = true;
       whenIdle();
     }
   }
-  function giveMirror() {
+  function giveMirror(deadline) {
     if (!mirrorWaits) return;
     const now = performance.now();
     const busy = now - changedLast < mirrorPause && now - changedFirst < mirrorLag;
     if (busy && !hidden()) whenIdle();
-    else writeMirror();
+    else writeMirror(!deadline.didTimeout);
   }
-  function writeMirror() {
+  // `idle` says that there was time left, so that all that was done is on the screen.
+  function writeMirror(idle) {
     mirrorWaits = false;
-    const html = velor.serialize();
-    mirrorFits = html.length <= mirrorLimit;
-    if (mirrorFits) velor.host.pushMirror(html);
+    velor.host.pushMirror(JSON.stringify({ idle, ...velor.changes() }));
   }
 
   velor.push = () => {
@@ -94,7 +89,7 @@
 
   const pushWhenHidden = () => {
     if (waiting && hidden()) velor.push();
-    if (mirrorWaits && hidden()) writeMirror();
+    if (mirrorWaits && hidden()) writeMirror(true);
   };
 
   velor.contentChanged = () => {
@@ -103,7 +98,6 @@
   };
 
   velor.start = (options = {}) => {
-    mirrorFits = true;
     velor.connect();
     document.designMode = 'on';
     document.execCommand('styleWithCSS', false, 'false');

@@ -16,6 +16,11 @@
   const dropsFirstBreak = 'pre, listing, textarea';
   const startsWithBreak = (element) => element.firstChild?.nodeType === Node.TEXT_NODE &&
     element.firstChild.data.startsWith('\n');
+  function firstBreaks(top) {
+    const found = [...top.querySelectorAll?.(dropsFirstBreak) ?? []];
+    if (top.matches?.(dropsFirstBreak)) found.push(top);
+    return found.filter(startsWithBreak);
+  }
 
   // The same node in a copy of its tree.
   function counterpart(node, root, copy) {
@@ -23,16 +28,23 @@
     return counterpart(node.parentNode, root, copy).childNodes[velor.selection.indexOf(node)];
   }
 
+  // A text is written by an element that holds it.
+  const holder = document.createElement('p');
+  function written(node) {
+    if (node.nodeType === Node.ELEMENT_NODE) return node.outerHTML;
+    holder.replaceChildren(node.cloneNode());
+    return holder.innerHTML;
+  }
+
   function markup(root) {
-    const starting = (top) => [...top.querySelectorAll(dropsFirstBreak)].filter(startsWithBreak);
     const blanks = velor.blanks.meant().filter(({ node }) => root.contains(node));
-    if (!starting(root).length && !blanks.length) return root.outerHTML;
+    if (!firstBreaks(root).length && !blanks.length) return written(root);
     const copy = root.cloneNode(true);
     for (const { node, index, text } of blanks) {
       counterpart(node, root, copy).replaceData(index, 1, text);
     }
-    starting(copy).forEach((element) => element.prepend('\n'));
-    return copy.outerHTML;
+    firstBreaks(copy).forEach((element) => element.prepend('\n'));
+    return written(copy);
   }
 
   function outer(node) {
@@ -45,4 +57,7 @@
   }
 
   velor.serialize = (page = document) => [...page.childNodes].map(outer).join('\n');
+  // What a node adds to the text.
+  velor.serialize.piece = outer;
+  velor.serialize.firstBreaks = firstBreaks;
 })();

@@ -48,7 +48,13 @@ TEST_P(BridgeCases, GivesWhatItsFileSays) {
   const QString faults = Text(QStringLiteral("markup.faults()"));
   EXPECT_EQ(ActualState(*page_, subject.stateBefore).toStdString(),
             subject.stateBefore.toStdString());
-  for (const QString &step : subject.steps) Perform(*page_, step);
+  EXPECT_EQ(Text(QStringLiteral("markup.follow()")).toStdString(), loaded.toStdString());
+  for (const QString &step : subject.steps) {
+    Perform(*page_, step);
+    EXPECT_EQ(Text(QStringLiteral("markup.told()")).toStdString(),
+              Text(QStringLiteral("velor.serialize()")).toStdString())
+        << step.toStdString();
+  }
 
   const QString actual = Text(read);
   if (qEnvironmentVariableIntValue("VELOR_REBASELINE") == 1) {
@@ -66,8 +72,10 @@ TEST_P(BridgeCases, GivesWhatItsFileSays) {
   const QString result = Text(QStringLiteral("velor.serialize()"));
   const int steps = UndoAll();
   EXPECT_EQ(Text(QStringLiteral("velor.serialize()")).toStdString(), loaded.toStdString());
+  EXPECT_EQ(Text(QStringLiteral("markup.told()")).toStdString(), loaded.toStdString());
   Redo(steps);
   EXPECT_EQ(Text(QStringLiteral("velor.serialize()")).toStdString(), result.toStdString());
+  EXPECT_EQ(Text(QStringLiteral("markup.told()")).toStdString(), result.toStdString());
 }
 
 std::string TestName(const ::testing::TestParamInfo<BridgeCase> &info) {

@@ -81,10 +81,52 @@ TEST_F(Bridge, PushesOnceForManyChangesAtOnce) {
   EXPECT_LE(Evaluate(QStringLiteral("pushed.length")).toInt(), 2);
 }
 
-TEST_F(Bridge, LeavesTheMarkupOfALargeDocumentToBeAskedFor) {
+TEST_F(Bridge, TellsOfALargeDocumentWhatChangedAlone) {
   Load(QStringLiteral("<p>one|</p><p>%1</p>").arg(QString(250000, QLatin1Char('x'))));
   CollectPushes();
-  EXPECT_TRUE(Evaluate(QStringLiteral("pushed[0].dirty && mirrors.length === 0")).toBool());
+  ASSERT_TRUE(Comes(QStringLiteral("mirrors.length === 1")));
+  Evaluate(QStringLiteral("velor.changes()"));
+  page_.Type(QStringLiteral("!"));
+  ASSERT_TRUE(Comes(QStringLiteral("mirrors.at(-1).includes('<p>one!</p>')")));
+  EXPECT_LT(Evaluate(QStringLiteral("mirrors.at(-1).length")).toInt(), 200);
+}
+
+TEST_F(Bridge, TellsOfTheSameChangesAgainWhereTheyWereNotHeard) {
+  Load(QStringLiteral("<p>one|</p><p>two</p>"));
+  Evaluate(QStringLiteral("const first = velor.changes().revision; velor.changes()"));
+  page_.Type(QStringLiteral("a"));
+  Evaluate(QStringLiteral("velor.changes()"));
+  page_.Type(QStringLiteral("b"));
+  EXPECT_EQ(Evaluate(QStringLiteral("velor.changes(first).steps.length")).toInt(), 2);
+  EXPECT_EQ(Text(QStringLiteral("velor.changes(first - 1).html")),
+            Text(QStringLiteral("velor.serialize()")));
+}
+
+TEST_F(Bridge, TellsOfChangesInWhatHasLeftItsPlaceMeanwhile) {
+  Load(
+      QStringLiteral("<div id=a><p>one|</p><p>two</p></div><div id=b><p>three</p><p>four</p></div>"
+                     "<div id=c><i>c</i><b>d</b></div>"));
+  Evaluate(QStringLiteral("markup.follow(); const by = (id) => document.getElementById(id)"));
+  const QStringList changes = {
+      QStringLiteral("by('a').append(by('c')); by('c').append('x'); by('c').title = 't'"),
+      QStringLiteral("const a = by('a'); a.remove(); a.firstChild.append('&'); by('b').append(a)"),
+      QStringLiteral("by('b').replaceWith(...by('b').childNodes)"),
+      QStringLiteral("by('a').parentNode.prepend(by('a').cloneNode(true)); by('c').remove()"),
+      QStringLiteral("document.body.append(by('a'), 'text', by('a').cloneNode(true))"),
+      QStringLiteral("document.documentElement.lang = 'de'; document.title = '<&>'"),
+      QStringLiteral("document.prepend(document.createComment('first'))"),
+      QStringLiteral("document.body.innerHTML = '<pre>\\n\\nx</pre><p>y\\u00a0<i>z</i></p>'"),
+      QStringLiteral("document.querySelector('pre').append('<'); document.body.append('>')"),
+      QStringLiteral("const body = document.body; body.remove(); body.append('late');"
+                     "document.documentElement.append(body)"),
+  };
+  for (const QString &change : changes) {
+    Evaluate(QStringLiteral("{%1}").arg(change));
+    EXPECT_EQ(Text(QStringLiteral("markup.told()")), Text(QStringLiteral("velor.serialize()")))
+        << qPrintable(change);
+    Evaluate(QStringLiteral("markup.told()"));
+  }
+  EXPECT_GT(Evaluate(QStringLiteral("markup.tellings()")).toInt(), 10);
 }
 
 TEST_F(Bridge, TalksToTheProgramThroughTheChannel) {

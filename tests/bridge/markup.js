@@ -85,6 +85,7 @@
     return copy;
   };
 
+  let following = { revision: 0, text: '', tellings: 0 };
   let keysUp = 0;
 
   globalThis.markup = {
@@ -119,6 +120,31 @@
       document.body.dispatchEvent(
         new ClipboardEvent('paste', { clipboardData, bubbles: true, cancelable: true }));
     },
+    // The document's text as a program has it that is told of the changes.
+    told() {
+      const { revision, html, steps } = velor.changes(following.revision);
+      let text = html ?? following.text;
+      for (const edits of steps ?? []) {
+        let done = 0;
+        const parts = [];
+        for (const [offset, length, fresh] of edits) {
+          parts.push(text.slice(done, offset), fresh);
+          done = offset + length;
+        }
+        text = parts.join('') + text.slice(done);
+      }
+      following = { revision, text, tellings: following.tellings + (html ? 0 : 1) };
+      return text;
+    },
+    // Begins to follow; every element that has two others in it is a branch.
+    follow() {
+      velor.changes.largestPiece = 1;
+      this.told();
+      following.tellings = 0;
+      return this.told();
+    },
+    // How often the changes alone were told since.
+    tellings: () => following.tellings,
     // What no command may leave behind.
     faults() {
       const faults = [];
@@ -149,6 +175,7 @@
       if (!root.startsWith(parsed.documentElement.outerHTML)) {
         faults.push('it reads differently when loaded again');
       }
+      if (this.told() !== text) faults.push('the program is told otherwise');
       return faults.join(', ');
     },
   };

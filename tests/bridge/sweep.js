@@ -49,6 +49,7 @@
     document.body.innerHTML = body;
     markup.select();
     velor.start();
+    markup.follow();
     const faultsBefore = markup.faults();
     const before = look();
     const runsBefore = runs();
@@ -74,8 +75,10 @@
     }
     velor.exec(5049);
     if (velor.history.canUndo() || !same(look(), before)) return `undo: ${look().selected}`;
+    if (markup.told() !== before.html) return `told otherwise: ${markup.told()}`;
     velor.exec(5033);
-    return same(look(), after) ? '' : `redo: ${look().selected}`;
+    if (!same(look(), after)) return `redo: ${look().selected}`;
+    return markup.told() === after.html ? '' : `told otherwise: ${markup.told()}`;
   }
 
   // What a page's dialect makes a difference for.

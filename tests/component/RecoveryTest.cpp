@@ -32,8 +32,8 @@ class Recovery : public WebEditorTest {
     Evaluate(QStringLiteral(
         "globalThis.given = { mirror: '', pushed: '' };"
         "{ const { mirror } = velor; const { pushMirror } = velor.host;"
-        "velor.mirror = () => { const value = mirror(); given.mirror = value.html; return value; };"
-        "velor.host.pushMirror = (html) => { given.pushed = html; pushMirror(html); }; }"));
+        "velor.mirror = (known) => { given.mirror = velor.serialize(); return mirror(known); };"
+        "velor.host.pushMirror = (told) => { given.pushed = told; pushMirror(told); }; }"));
   }
   bool Gave(const QString &what, const QString &text) {
     return WaitFor(
@@ -75,10 +75,10 @@ TEST_F(Recovery, NoKeyPaysForTheMirror) {
   LoadWithCaret("<p>One</p>", QStringLiteral("p"));
   Note();
   Evaluate(
-      QStringLiteral("given.paid = 0; { const { push, serialize } = velor; let pushing = false;"
+      QStringLiteral("given.paid = 0; { const { push, changes } = velor; let pushing = false;"
                      "velor.push = () => { pushing = true; push(); pushing = false; };"
-                     "velor.serialize = (...page) => { if (pushing) given.paid++; return "
-                     "serialize(...page); }; }"));
+                     "velor.changes = (...known) => { if (pushing) given.paid++; return "
+                     "changes(...known); }; Object.assign(velor.changes, changes); }"));
   TypeText(QStringLiteral("ab"));
   ASSERT_TRUE(Gave(QStringLiteral("pushed"), QStringLiteral("Oneab")));
   EXPECT_EQ(Evaluate(QStringLiteral("given.paid")).toInt(), 0);

@@ -4,8 +4,11 @@
 #include "platform/qt/GuardedWait.h"
 #include "platform/qt/editing/StateSnapshot.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QObject>
 #include <QPoint>
+#include <QVariantMap>
 
 namespace velor {
 
@@ -22,9 +25,9 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     if (const auto state = StateSnapshot::FromJson(json)) Q_EMIT StateArrived(*state);
   }
-  void pushMirror(const QString &html) {
+  void pushMirror(const QString &json) {
     const EngineCallback callback(guard_);
-    Q_EMIT MirrorArrived(html);
+    Q_EMIT MirrorArrived(QJsonDocument::fromJson(json.toUtf8()).object().toVariantMap());
   }
   void pushMouse(double x, double y) {
     const EngineCallback callback(guard_);
@@ -49,7 +52,7 @@ class BridgeHost : public QObject {
 
  Q_SIGNALS:
   void StateArrived(const velor::StateSnapshot &state);
-  void MirrorArrived(const QString &html);
+  void MirrorArrived(const QVariantMap &told);
   void PointerMoved(QPoint clientPosition);
   void InputArrived();
   void PictureWanted();

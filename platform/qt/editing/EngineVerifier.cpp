@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/editing/EngineVerifier.h"
 
+#include "platform/TextDifference.h"
 #include "platform/qt/editing/BridgeScript.h"
 #include "platform/qt/editing/EditingEngine.h"
 #include "platform/qt/editing/EditorPage.h"
@@ -19,13 +20,22 @@ constexpr std::chrono::milliseconds answerLimit = 1min;
 /// A process that ends while it parses is replaced once.
 constexpr int mostTries = 2;
 
+/// What leads from one text to the other, for the script.
+QString Edit(const QString &before, const QString &after) {
+  const auto difference = TextDifference::Between(before, after);
+  return QStringLiteral("[%1,%2,%3]")
+      .arg(difference.start)
+      .arg(difference.removed)
+      .arg(ScriptValue(difference.InsertedIn(after).toString()));
+}
+
 }  // namespace
 
 EngineVerifier::EngineVerifier(EditingEngine &engine) : engine_(engine) {}
 
 EngineVerifier::~EngineVerifier() {
   // The engine answers what is still open while the page is deleted.
-  wanted_.clear();
+  wanted_ = {};
   then_ = {};
 }
 
@@ -35,19 +45,25 @@ std::optional<QString> EngineVerifier::Known(const QString &text) const {
 }
 
 std::optional<QString> EngineVerifier::Serialisation(const QString &text) {
+  return SerialisationLike(text, given_.expected);
+}
+
+std::optional<QString> EngineVerifier::SerialisationLike(const QString &text,
+                                                         const QString &expected) {
   if (const auto known = Known(text)) return known;
   if (engine_.Guard().InCallback()) return std::nullopt;
   for (int tries = 0; tries < mostTries && !Known(text); ++tries) {
-    if (wanted_ != text) Foresee(text, {});
+    if (wanted_.text != text) Foresee(text, expected, {});
     GuardedWait(engine_.Guard()).Until(*this, answerLimit, [&] {
-      return Known(text).has_value() || wanted_ != text;
+      return Known(text).has_value() || wanted_.text != text;
     });
   }
   return Known(text);
 }
 
-void EngineVerifier::Foresee(const QString &text, std::function<void()> then) {
-  wanted_ = text;
+void EngineVerifier::Foresee(const QString &text, const QString &expected,
+                             std::function<void()> then) {
+  wanted_ = {text, expected};
   then_ = std::move(then);
   isAsked_ = false;
   if (page_ == nullptr) Start();
@@ -60,6 +76,7 @@ std::int64_t EngineVerifier::ProcessId() const {
 
 void EngineVerifier::Start() {
   isReady_ = false;
+  given_ = {};
   page_ = std::make_unique<EditorPage>(&engine_.Profile(), engine_.Guard(), nullptr);
   const QUrl address = engine_.Scheme().Offer(QStringLiteral("/"), QStringLiteral("<p>"));
   connect(page_.get(), &QWebEnginePage::loadFinished, this, [this, address, page = page_.get()] {
@@ -68,12 +85,12 @@ void EngineVerifier::Start() {
     engine_.Scheme().Withdraw(address);
     page_->runJavaScript(engine_.Bridge(), bridgeWorld);
     isReady_ = true;
-    if (!wanted_.isEmpty() && !isAsked_) Ask();
+    if (!wanted_.text.isEmpty() && !isAsked_) Ask();
   });
   connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, [this] {
     const EngineCallback callback(engine_.Guard());
     isReady_ = false;
-    wanted_.clear();
+    wanted_ = {};
     page_.release()->deleteLater();
     engine_.Guard().Wake();
   });
@@ -82,14 +99,16 @@ void EngineVerifier::Start() {
 
 void EngineVerifier::Ask() {
   isAsked_ = true;
+  const Question before = std::exchange(given_, wanted_);
   page_->runJavaScript(
-      QStringLiteral("velor.serialize(new DOMParser().parseFromString(%1, 'text/html'))")
-          .arg(ScriptValue(wanted_)),
-      bridgeWorld, [self = QPointer<EngineVerifier>(this), text = wanted_](const QVariant &answer) {
-        if (self == nullptr || self->wanted_ != text) return;
+      QStringLiteral("velor.parsed(%1,%2)")
+          .arg(Edit(before.text, given_.text), Edit(before.expected, given_.expected)),
+      bridgeWorld, [self = QPointer<EngineVerifier>(this), asked = given_](const QVariant &answer) {
+        if (self == nullptr || self->wanted_.text != asked.text) return;
         const EngineCallback callback(self->engine_.Guard());
-        self->last_ = {text, answer.toString()};
-        self->wanted_.clear();
+        const bool isExpected = answer.typeId() == QMetaType::Bool && answer.toBool();
+        self->last_ = {asked.text, isExpected ? asked.expected : answer.toString()};
+        self->wanted_ = {};
         if (const auto then = std::exchange(self->then_, {})) then();
         self->engine_.Guard().Wake();
       });

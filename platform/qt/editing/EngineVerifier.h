@@ -17,7 +17,8 @@ class EditingEngine;
 
 /// Parses texts in a spare page of the engine, which nobody sees and which shows nothing of them:
 /// no script of theirs runs and nothing they name is fetched. The page is made at the first use and
-/// made anew when its process ends. The last answers are kept.
+/// made anew when its process ends. It keeps the texts that it was last given, so that only what
+/// differs travels. The last answer is kept.
 class EngineVerifier : public QObject, public PageVerifier {
   Q_OBJECT
 
@@ -27,9 +28,10 @@ class EngineVerifier : public QObject, public PageVerifier {
 
   /// Waits for the engine; nothing inside one of its callbacks, unless the answer is known.
   std::optional<QString> Serialisation(const QString &text) override;
-  /// Has the answer found out; `then` runs when it is known, from inside the engine. A later call
-  /// replaces one that waits.
-  void Foresee(const QString &text, std::function<void()> then);
+  std::optional<QString> SerialisationLike(const QString &text, const QString &expected) override;
+  /// Has the answer, likely `expected`, found out; `then` runs when it is known, from inside the
+  /// engine. A later call replaces one that waits.
+  void Foresee(const QString &text, const QString &expected, std::function<void()> then);
 
   /// The process that parses; 0 for none.
   std::int64_t ProcessId() const;
@@ -51,6 +53,10 @@ class EngineVerifier : public QObject, public PageVerifier {
     QString text;
     QString serialisation;
   };
+  struct Question {
+    QString text;
+    QString expected;
+  };
 
   std::optional<QString> Known(const QString &text) const;
   /// Makes the page where there is none.
@@ -60,7 +66,8 @@ class EngineVerifier : public QObject, public PageVerifier {
   EditingEngine &engine_;
   std::unique_ptr<QWebEnginePage> page_;
   bool isReady_ = false;
-  QString wanted_;  ///< asked for, or to be asked for when the page is ready
+  Question wanted_;  ///< asked, or to be asked when the page is ready; no text for none
+  Question given_;   ///< what the page has
   bool isAsked_ = false;
   std::function<void()> then_;
   Answer last_;

@@ -57,8 +57,8 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
     if (phase_ == Phase::Ready) Q_EMIT StateArrived(state);
   });
   connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
-  connect(&host_, &BridgeHost::MirrorArrived, this, [this](const QString &html) {
-    if (phase_ == Phase::Ready) Q_EMIT MirrorArrived(html);
+  connect(&host_, &BridgeHost::MirrorArrived, this, [this](const QVariantMap &told) {
+    if (phase_ == Phase::Ready) Q_EMIT MirrorArrived(told);
   });
   connect(&host_, &BridgeHost::PictureWanted, this, [this] {
     if (phase_ == Phase::Ready) Q_EMIT PictureWanted();

@@ -72,8 +72,9 @@ class EngineView : public QObject {
   void LoadEnded();
   void Died();
   void StateArrived(const velor::StateSnapshot &state);
-  /// The document, where it is small enough to travel with each change.
-  void MirrorArrived(const QString &html);
+  /// What has changed in the document (PageMirror); `idle` in it says that what was done before is
+  /// on the screen.
+  void MirrorArrived(const QVariantMap &told);
   /// Paste was asked for where the clipboard has no text.
   void PictureWanted();
   /// Undo or redo came to the end of the page's own history.

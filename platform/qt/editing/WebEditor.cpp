@@ -76,9 +76,11 @@ void WebEditor::ConnectView() {
   EngineView *view = view_.get();
   QObject::connect(view, &EngineView::StateArrived,
                    [this](const StateSnapshot &state) { StateArrived(state); });
-  QObject::connect(view, &EngineView::MirrorArrived, [this](const QString &html) {
-    mirror_.html = html;
-    MirrorTaken();
+  QObject::connect(view, &EngineView::MirrorArrived, [this](const QVariantMap &told) {
+    if (mirror_.page.Follow(told))
+      MirrorTaken();
+    else
+      TakeMirrorSoon();
   });
   QObject::connect(view, &EngineView::LoadEnded,
                    [this] { notices_.Post(Notice::LoadEnded, [this] { FinishLoad(); }); });

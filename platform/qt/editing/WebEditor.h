@@ -5,13 +5,13 @@
 #include "platform/html/FaithfulPage.h"
 #include "platform/qt/editing/EngineView.h"
 #include "platform/qt/editing/NoticeQueue.h"
+#include "platform/qt/editing/PageMirror.h"
 #include "platform/qt/editing/StateSnapshot.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 
-#include <chrono>
 #include <map>
 #include <memory>
 #include <optional>
@@ -72,7 +72,7 @@ class WebEditor : public EditingComponent {
   enum class LoadPurpose { None, Blank, Document, Restore, Travel };
   /// The document and the selection's place as they were last seen on this side.
   struct Mirror {
-    QString html;
+    PageMirror page;
     QVariant start;
     QVariant end;
   };
@@ -117,7 +117,10 @@ class WebEditor : public EditingComponent {
 
   // The mirror and bringing a page back (WebEditorRecovery.cpp)
   void StateArrived(const StateSnapshot &state);
+  void TakeMirrorSoon();
   void TakeMirror();
+  /// Follows an answer of velor.mirror; false where it has to be asked for anew.
+  bool Follow(const QVariantMap &mirror);
   void MirrorTaken();
   void Died();
   void Report(const QString &message);
@@ -149,8 +152,7 @@ class WebEditor : public EditingComponent {
   QElapsedTimer sinceDeath_;
   Mirror mirror_;
   QTimer mirrorTimer_;
-  QTimer idleTimer_;                         ///< runs out when a person rests, the mirror taken
-  std::chrono::milliseconds mirrorCost_{0};  ///< of asking for the mirror last time
+  QTimer idleTimer_;  ///< runs out when a person rests, the mirror taken
 
   NoticeQueue notices_;
   std::unique_ptr<EngineView> view_;  ///< last: goes first, while the rest can still be told

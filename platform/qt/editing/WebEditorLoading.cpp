@@ -21,6 +21,8 @@ constexpr std::chrono::milliseconds loadPatience = 1500ms;
 const QString longLoad =
     QStringLiteral("The page takes long to show. Press Escape to stop loading it.");
 constexpr std::chrono::milliseconds readLimit = 15s;
+/// Where what changed does not follow on from what is known here the whole is asked for.
+constexpr int readAttempts = 2;
 /// Preparing a larger one would hold the window up for seconds (bytes).
 constexpr qsizetype largestPage = 32'000'000;
 /// A page whose process ends while it loads is tried once more.
@@ -86,7 +88,7 @@ void WebEditor::LoadBlankIfEmpty() {
 void WebEditor::Replace(Original original, const QString &nativePath, LoadPurpose purpose) {
   original_ = std::move(original);
   nativePath_ = nativePath;
-  mirror_ = {WithLineEnds(original_->TextToLoad(), LineEnds::Lf), {}, {}};
+  mirror_ = {PageMirror(WithLineEnds(original_->TextToLoad(), LineEnds::Lf)), {}, {}};
   deaths_ = 0;
   switch (Load(purpose)) {
     case Loaded::Yes:
@@ -142,6 +144,7 @@ void WebEditor::BeginLoad(LoadPurpose purpose) {
   originals_.clear();
   snapshot_ = {};
   mirrorTimer_.stop();
+  mirror_.page.Detach();
   QString text = original_->TextToLoad();
   QString start = QStringLiteral("velor.start({showDetails:%1,snapToGrid:%2,earlier:%3,later:%4});")
                       .arg(ScriptValue(showDetails_), ScriptValue(snapToGrid_),
@@ -149,11 +152,11 @@ void WebEditor::BeginLoad(LoadPurpose purpose) {
   if (purpose == LoadPurpose::Restore || purpose == LoadPurpose::Travel) {
     // Untouched, it comes from its original again: what the engine makes of its own
     // serialisation may differ from what it made of the page.
-    if (mirror_.html != original_->Baseline()) text = mirror_.html;
+    if (mirror_.page.Html() != original_->Baseline()) text = mirror_.page.Html();
     start += QStringLiteral("velor.restore(%1,%2);")
                  .arg(ScriptValue(mirror_.start), ScriptValue(mirror_.end));
   }
-  View().Load(nativePath_, text, start + QStringLiteral("velor.serialize()"));
+  View().Load(nativePath_, text, start + QStringLiteral("velor.changes()"));
 }
 
 void WebEditor::FinishLoad() {
@@ -170,9 +173,9 @@ void WebEditor::FinishLoad() {
     return;
   }
   if (purpose == LoadPurpose::Travel) return;
-  mirror_.html = view_->StartAnswer().toString();
-  original_->SetBaseline(mirror_.html);
-  if (IsFrameset(mirror_.html))
+  mirror_.page.Follow(view_->StartAnswer().toMap());
+  original_->SetBaseline(mirror_.page.Html());
+  if (IsFrameset(mirror_.page.Html()))
     Report(
         QStringLiteral("The page is a frameset, which has no text to edit here: use Edit HTML to "
                        "change it."));
@@ -184,7 +187,7 @@ void WebEditor::FinishLoad() {
 
 QString WebEditor::DocumentHTML() {
   LoadBlankIfEmpty();
-  const QString mirror = mirror_.html;
+  const QString mirror = mirror_.page.Html();
   const QPointer<QWidget> alive(container_);
   const Original original = original_;
   const auto html = Read();
@@ -197,16 +200,13 @@ std::optional<QString> WebEditor::Read() {
   const int load = loads_;
   alive->AwaitInput();
   if (alive == nullptr) return std::nullopt;
-  const auto answer =
-      alive->Ask(QStringLiteral("[velor.serialize(), velor.generation()]"), readLimit);
-  if (!answer) return std::nullopt;
-  const QVariantList parts = answer->toList();
-  QString html = parts.value(0).toString();
-  if (load == loads_) {
-    mirror_.html = html;
-    FollowGeneration(parts.value(1).toInt());
+  for (int attempt = 1; attempt <= readAttempts; ++attempt) {
+    const auto answer =
+        alive->Ask(QStringLiteral("velor.mirror(%1)").arg(mirror_.page.Revision()), readLimit);
+    if (!answer || load != loads_) return std::nullopt;
+    if (Follow(answer->toMap())) return mirror_.page.Html();
   }
-  return html;
+  return std::nullopt;
 }
 
 void WebEditor::SaveDocument(const QString &path) {
@@ -238,7 +238,7 @@ bool WebEditor::HasByteOrderMark() const {
 SavedPage WebEditor::Compose() {
   LoadBlankIfEmpty();
   const Original original = original_;
-  const QString mirror = mirror_.html;
+  const QString mirror = mirror_.page.Html();
   const QString nativePath = nativePath_;
   EditingEngine &engine = engine_;
   const QPointer<EngineView> alive(view_.get());

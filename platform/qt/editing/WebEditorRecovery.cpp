@@ -5,8 +5,6 @@
 
 #include <QVariantMap>
 
-#include <algorithm>
-
 namespace velor {
 
 namespace {
@@ -14,10 +12,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds mirrorPause = 300ms;
-/// Keeping the mirror may take a tenth of the page's time at most.
-constexpr int mirrorShare = 10;
-/// Whatever it takes, no more than this and the asking itself is ever lost.
-constexpr std::chrono::milliseconds longestMirrorPause = 1s;
 /// A page that keeps killing its process within this time is left as it is after a few tries.
 constexpr std::chrono::milliseconds steadyTime = 10s;
 constexpr int restoreAttempts = 3;
@@ -31,27 +25,37 @@ constexpr qsizetype largestAhead = 2'000'000;
 void WebEditor::StateArrived(const StateSnapshot &state) {
   snapshot_ = state;
   FollowGeneration(state.generation);
-  if (!mirrorTimer_.isActive())
-    mirrorTimer_.start(std::clamp(mirrorShare * mirrorCost_, mirrorPause, longestMirrorPause));
+  TakeMirrorSoon();
   if (idleTimer_.isActive()) idleTimer_.start(idlePause);
   notices_.Post(Notice::Display, [this] {
     if (listener_ != nullptr) listener_->DisplayChanged();
   });
 }
 
+void WebEditor::TakeMirrorSoon() {
+  if (!mirrorTimer_.isActive()) mirrorTimer_.start(mirrorPause);
+}
+
 void WebEditor::TakeMirror() {
-  QElapsedTimer asked;
-  asked.start();
-  view_->Run(QStringLiteral("velor.mirror()"), [this, asked, load = loads_](const QVariant &value) {
-    const QVariantMap mirror = value.toMap();
-    if (load != loads_ || mirror.isEmpty()) return;
-    FollowGeneration(mirror[QStringLiteral("generation")].toInt());
-    mirrorCost_ = std::chrono::milliseconds(asked.elapsed());
-    mirror_ = {mirror[QStringLiteral("html")].toString(), mirror[QStringLiteral("start")],
-               mirror[QStringLiteral("end")]};
-    MirrorTaken();
-    idleTimer_.start(idlePause);
-  });
+  view_->Run(QStringLiteral("velor.mirror(%1)").arg(mirror_.page.Revision()),
+             [this, load = loads_](const QVariant &value) {
+               const QVariantMap mirror = value.toMap();
+               if (load != loads_ || mirror.isEmpty()) return;
+               if (!Follow(mirror)) return TakeMirrorSoon();
+               MirrorTaken();
+               idleTimer_.start(idlePause);
+             });
+}
+
+bool WebEditor::Follow(const QVariantMap &mirror) {
+  if (!mirror_.page.Follow(mirror)) {
+    mirror_.page.Detach();
+    return false;
+  }
+  mirror_.start = mirror[QStringLiteral("start")];
+  mirror_.end = mirror[QStringLiteral("end")];
+  FollowGeneration(mirror[QStringLiteral("generation")].toInt());
+  return true;
 }
 
 void WebEditor::MirrorTaken() {
@@ -61,7 +65,7 @@ void WebEditor::MirrorTaken() {
 }
 
 PageMemory WebEditor::Memory() const {
-  return {original_->Original().bytes, nativePath_, mirror_.html};
+  return {original_->Original().bytes, nativePath_, mirror_.page.Html()};
 }
 
 void WebEditor::Recall(const PageMemory &memory) {
@@ -73,8 +77,8 @@ void WebEditor::Recall(const PageMemory &memory) {
               PageOriginal{memory.original, DecodePage(memory.original), {}}),
           memory.base, LoadPurpose::Document);
   if (alive == nullptr) return;
-  if (memory.document == mirror_.html) return;
-  mirror_ = {memory.document, {}, {}};
+  if (memory.document == mirror_.page.Html()) return;
+  mirror_ = {PageMirror(memory.document), {}, {}};
   switch (Load(LoadPurpose::Travel)) {
     case Loaded::Yes:
       return FinishLoad();
@@ -88,12 +92,13 @@ void WebEditor::Recall(const PageMemory &memory) {
 
 void WebEditor::ComposeAhead() {
   const Original original = original_;
-  const QString html = mirror_.html;
+  const QString html = mirror_.page.Html();
   if (load_ != LoadPurpose::None || html.size() > largestAhead) return;
+  original->MakeReady();
   const auto first = original->FirstTry(html);
   if (!first) return;
   EngineVerifier &verifier = engine_.Verifier();
-  verifier.Foresee(*first, [original, html, &verifier] {
+  verifier.Foresee(*first, html, [original, html, &verifier] {
     EngineVerifier::KnownAnswers known(verifier);
     try {
       original->Foresee(html, known);

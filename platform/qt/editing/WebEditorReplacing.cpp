@@ -39,8 +39,8 @@ WebEditor::Replaced WebEditor::ReplaceInPlace(const Original &original, const QS
   if (!answer || answer->toString().isEmpty()) return Replaced::NotPossible;
   originals_[generation] = original;
   FollowGeneration(generation);
-  mirror_.html = answer->toString();
-  original_->SetBaseline(mirror_.html);
+  mirror_.page = PageMirror(answer->toString());
+  original_->SetBaseline(mirror_.page.Html());
   nativePath_ = nativePath;
   notices_.Post(Notice::Complete, [this] {
     if (listener_ != nullptr) listener_->DocumentComplete();
@@ -67,7 +67,7 @@ void WebEditor::FollowGeneration(int generation) {
 
 void WebEditor::ReplaceKeepingEarlier(Original original, const QString &nativePath) {
   const QPointer<EngineView> alive(view_.get());
-  QString html = mirror_.html;
+  QString html = mirror_.page.Html();
   if (auto now = Read()) html = std::move(*now);
   if (alive == nullptr) return;
   later_.clear();
@@ -92,14 +92,14 @@ void WebEditor::Travel(Direction direction) {
   std::vector<Kept> &from = direction == Direction::Earlier ? earlier_ : later_;
   std::vector<Kept> &to = direction == Direction::Earlier ? later_ : earlier_;
   const QPointer<EngineView> alive(view_.get());
-  QString html = mirror_.html;
+  QString html = mirror_.page.Html();
   if (auto now = Read()) html = std::move(*now);
   if (alive == nullptr || from.empty() || load_ != LoadPurpose::None) return;
   Keep(to, {original_, std::move(html)});
   Kept kept = std::move(from.back());
   from.pop_back();
   original_ = std::move(kept.original);
-  mirror_ = {std::move(kept.html), {}, {}};
+  mirror_ = {PageMirror(std::move(kept.html)), {}, {}};
   BeginLoad(LoadPurpose::Travel);
 }
 
