@@ -15,10 +15,42 @@ namespace {
 /// More tries than this would keep a person waiting longer than a page written anew is worth, nor
 /// may they parse more than so many units together. One try is always made.
 constexpr qsizetype mostTries = 24;
+constexpr qsizetype mostTriesForLess = 60;
 constexpr qsizetype mostParsed = 40'000'000;
 
-qsizetype TriesFor(const QString &text) {
-  return std::clamp(mostParsed / std::max<qsizetype>(text.size(), 1), qsizetype{1}, mostTries);
+qsizetype TriesFor(const QString &text, qsizetype most) {
+  return std::clamp(mostParsed / std::max<qsizetype>(text.size(), 1), qsizetype{1}, most);
+}
+
+/// Insertions taken apart where tags begin, so that each tag can be done without.
+std::vector<TextPatch> TagByTag(const std::vector<TextPatch> &patches) {
+  std::vector<TextPatch> parts;
+  for (const TextPatch &patch : patches) {
+    qsizetype done = 0;
+    if (patch.start == patch.end) {
+      for (const HtmlToken &token : TokenizeHtml(patch.text)) {
+        if (!token.IsTag() || token.offset == done) continue;
+        parts.push_back({patch.start, patch.end, patch.text.sliced(done, token.offset - done)});
+        done = token.offset;
+      }
+    }
+    parts.push_back({patch.start, patch.end, patch.text.sliced(done)});
+  }
+  return parts;
+}
+
+/// Insertions at one place made one again.
+std::vector<TextPatch> Joined(const std::vector<TextPatch> &patches) {
+  std::vector<TextPatch> joined;
+  for (const TextPatch &patch : patches) {
+    const bool goesOn = !joined.empty() && joined.back().end == patch.start &&
+                        joined.back().start == joined.back().end && patch.start == patch.end;
+    if (goesOn)
+      joined.back().text += patch.text;
+    else
+      joined.push_back(patch);
+  }
+  return joined;
 }
 
 qsizetype FirstDifference(QStringView one, QStringView other) {
@@ -70,7 +102,7 @@ struct FaithfulPage::Plan {
     int highest = PatchStep::alone;
     for (const PatchStep step : steps) highest = std::max(highest, step.number);
     if (highest == PatchStep::alone) return SaveRung::Edits;
-    return highest == PatchStep::withImpliedTags ? SaveRung::ImpliedTags : SaveRung::Elements;
+    return highest < PatchStep::element ? SaveRung::ImpliedTags : SaveRung::Elements;
   }
 
   TokenText now;
@@ -148,41 +180,59 @@ std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
                                              Tries tries) const {
   const QString &wanted = plan.now.text;
   std::optional<QString> wantedAgain;  // what the document is once it has been parsed again
-  for (qsizetype left = tries == Tries::All ? TriesFor(wanted) : 1; left > 0; --left) {
+  for (qsizetype left = tries == Tries::All ? TriesFor(wanted, mostTries) : 1; left > 0; --left) {
     const auto patches = plan.patcher.For(plan.edits, plan.steps);
     if (!patches) return std::nullopt;
     const auto document = verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wanted);
     if (!document) return std::nullopt;
-    if (*document != wanted && !wantedAgain) wantedAgain = verifier.Serialisation(wanted);
+    const bool isFirstMiss = *document != wanted && !wantedAgain;
+    if (isFirstMiss) wantedAgain = verifier.Serialisation(wanted);
     if (*document == wanted || document == wantedAgain) {
       const SaveRung rung = plan.Rung();
       return Splice(rung == SaveRung::Edits ? *patches : Smallest(*patches, *document, verifier),
                     rung);
     }
     if (plan.steps.empty() || tries == Tries::First) return std::nullopt;
+    if (isFirstMiss && wantedAgain && *wantedAgain != wanted) {
+      if (auto saved = Moved(*wantedAgain, verifier)) return saved;
+    }
     ++plan.StepAt(FirstDifference(wanted, *document)).number;
   }
   return std::nullopt;
 }
 
+/// A parser moves what the document has where no markup can put it. Written where the parser moves
+/// it to, it may need nothing else.
+std::optional<SavedPage> FaithfulPage::Moved(const QString &wantedAgain,
+                                             PageVerifier &verifier) const {
+  const Plan plan(wantedAgain, *source_, *before_, sourceToBefore_,
+                  original_.page.encoding.lineEnds);
+  const auto patches = plan.patcher.For(plan.edits, plan.steps);
+  if (!patches) return std::nullopt;
+  if (verifier.Serialisation(Patched(mask_.MaskedText(), *patches)) != wantedAgain)
+    return std::nullopt;
+  return Splice(*patches, SaveRung::Edits);
+}
+
 /// Leaves out what the document can do without: first halves of the patches, then smaller parts.
-std::vector<TextPatch> FaithfulPage::Smallest(std::vector<TextPatch> patches,
+std::vector<TextPatch> FaithfulPage::Smallest(const std::vector<TextPatch> &patches,
                                               const QString &document,
                                               PageVerifier &verifier) const {
-  qsizetype left = TriesFor(document);
-  for (std::size_t part = patches.size() / 2; part > 0; part /= 2) {
-    for (std::size_t at = 0; at + part <= patches.size() && patches.size() > part && left > 0;) {
-      std::vector<TextPatch> fewer = patches;
+  std::vector<TextPatch> kept = TagByTag(patches);
+  qsizetype left = TriesFor(document, mostTriesForLess);
+  for (std::size_t part = kept.size() / 2; part > 0; part /= 2) {
+    for (std::size_t at = 0; at + part <= kept.size() && kept.size() > part && left > 0;) {
+      std::vector<TextPatch> fewer = kept;
       const auto first = fewer.begin() + static_cast<std::ptrdiff_t>(at);
       fewer.erase(first, first + static_cast<std::ptrdiff_t>(part));
       --left;
       if (verifier.SerialisationLike(Patched(mask_.MaskedText(), fewer), document) == document)
-        patches = std::move(fewer);
+        kept = std::move(fewer);
       else
         at += part;
     }
   }
-  return patches;
+  return Joined(kept);
 }
 
 SavedPage FaithfulPage::Splice(const std::vector<TextPatch> &patches, SaveRung rung) const {

@@ -67,7 +67,8 @@ class FaithfulPage {
   enum class Tries { First, All };
   /// Nothing where the tries did not lead to the document.
   std::optional<SavedPage> Climb(Plan &plan, PageVerifier &verifier, Tries tries) const;
-  std::vector<TextPatch> Smallest(std::vector<TextPatch> patches, const QString &document,
+  std::optional<SavedPage> Moved(const QString &wantedAgain, PageVerifier &verifier) const;
+  std::vector<TextPatch> Smallest(const std::vector<TextPatch> &patches, const QString &document,
                                   PageVerifier &verifier) const;
   SavedPage Splice(const std::vector<TextPatch> &patches, SaveRung rung) const;
   SavedPage Everything(const QString &current) const;

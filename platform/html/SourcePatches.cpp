@@ -67,32 +67,49 @@ std::vector<OpenElement> Around(const TokenText &text, Number from, Number to) {
   return around;
 }
 
-/// Pairs what a first alignment left over on both sides.
+/// Pairs what a first alignment left over on both sides. Start tags and long words tell where a
+/// stretch went; what stands in one row with them went along.
 std::vector<Number> MovedTokens(const TokenText &source, const TokenText &before,
                                 const TokenAlignment &alignment) {
   std::vector<Number> sourceNumbers;
   std::vector<Number> beforeNumbers;
   std::vector<HtmlToken> sourceTokens;
   std::vector<HtmlToken> beforeTokens;
+  // The parser makes the page's frame where it stands.
   for (Number at = 0; at < source.Count(); ++at) {
-    if (alignment.toOther[Index(at)] >= 0) continue;
+    if (alignment.toOther[Index(at)] >= 0 || IsFrameTag(source.At(at))) continue;
     sourceNumbers.push_back(at);
     sourceTokens.push_back(source.At(at));
   }
   for (Number at = 0; at < before.Count(); ++at) {
-    if (alignment.fromOther[Index(at)] >= 0) continue;
+    if (alignment.fromOther[Index(at)] >= 0 || IsFrameTag(before.At(at))) continue;
     beforeNumbers.push_back(at);
     beforeTokens.push_back(before.At(at));
   }
   const TokenAlignment leftOver =
       AlignTokens(sourceTokens, beforeTokens, InStep::WithSerialisation);
   std::vector<Number> moved(Index(before.Count()), -1);
+  std::vector<bool> isTaken(Index(source.Count()), false);
   for (std::size_t at = 0; at < beforeNumbers.size(); ++at) {
     const Number found = leftOver.fromOther[at];
     if (found < 0 || sourceTokens[Index(found)].key != beforeTokens[at].key) continue;
-    if (beforeTokens[at].isStrong && beforeTokens[at].kind != HtmlTokenKind::EndTag)
-      moved[Index(beforeNumbers[at])] = sourceNumbers[Index(found)];
+    if (!beforeTokens[at].isStrong || beforeTokens[at].kind == HtmlTokenKind::EndTag) continue;
+    moved[Index(beforeNumbers[at])] = sourceNumbers[Index(found)];
+    isTaken[Index(sourceNumbers[Index(found)])] = true;
   }
+  const auto takeAlong = [&](Number at, Number by) {
+    const Number next = at + by;
+    if (moved[Index(at)] < 0 || next < 0 || next >= before.Count()) return;
+    const Number found = moved[Index(at)] + by;
+    if (moved[Index(next)] >= 0 || alignment.fromOther[Index(next)] >= 0) return;
+    if (found < 0 || found >= source.Count() || alignment.toOther[Index(found)] >= 0) return;
+    if (isTaken[Index(found)] || source.At(found).key != before.At(next).key) return;
+    if (IsFrameTag(before.At(next))) return;
+    moved[Index(next)] = found;
+    isTaken[Index(found)] = true;
+  };
+  for (Number at = 0; at < before.Count(); ++at) takeAlong(at, 1);
+  for (Number at = before.Count() - 1; at >= 0; --at) takeAlong(at, -1);
   return moved;
 }
 
@@ -205,21 +222,29 @@ void SourcePatches::Stretch(const PageEdit &edit, PatchStep step, Patches &out) 
   Number left = edit.before;
   while (left > 0 && Anywhere(left - 1) < 0) --left;
   QString text;
-  if (step.number == PatchStep::withImpliedTags) text += before_.Slice(left, edit.before);
-  if (first >= 0 && text.isEmpty() && Characters(first, last, edit, out)) return;
-  text = InPageForm(text + now_.Slice(edit.now, edit.nowEnd).toString());
+  QStringView behind;
+  if (step.number >= PatchStep::withImpliedTags) text += before_.Slice(left, edit.before);
+  if (step.number == PatchStep::withTagsBeside) {
+    Number right = edit.beforeEnd;
+    while (right < before_.Count() && Anywhere(right) < 0) ++right;
+    behind = before_.Slice(edit.beforeEnd, right);
+  }
+  if (first >= 0 && text.isEmpty() && behind.isEmpty() && Characters(first, last, edit, out))
+    return;
+  text = InPageForm(text + now_.Slice(edit.now, edit.nowEnd).toString() + behind.toString());
   if (first < 0) {
     qsizetype place = left > 0 ? source_.At(Anywhere(left - 1)).End() : 0;
-    // Before what the parser moved here, the place is where that came from.
-    const Number right = edit.beforeEnd;
-    if (right < before_.Count() && InPlace(right) < 0 && moved_[Index(right)] >= 0)
-      place = source_.At(moved_[Index(right)]).offset;
+    // Between an implied tag and what the parser moved here, the place is where that came from.
+    const Number next = edit.beforeEnd;
+    if (left < edit.before && next < before_.Count() && moved_[Index(next)] >= 0)
+      place = source_.At(moved_[Index(next)]).offset;
     Replace(place, place, text, out);
     return;
   }
   qsizetype end = source_.At(last).End();
   // Where an end tag is needed in place of the same one that goes, that one stays.
-  if (!text.isEmpty() && edit.now == edit.nowEnd && IsEndOfSame(edit.before - 1, last)) {
+  if (!text.isEmpty() && behind.isEmpty() && edit.now == edit.nowEnd &&
+      IsEndOfSame(edit.before - 1, last)) {
     text.chop(before_.At(edit.before - 1).length);
     end = source_.At(last).offset;
   }

@@ -12,14 +12,16 @@ namespace velor {
 
 /// How much is written for one edit. Each step writes more than the one before.
 struct PatchStep {
-  /// 0: the edit alone. 1: also the tags that the parser implied left of it. From 2 on, one step an
-  /// element outwards: the elements around it get every tag that the parser implied in them, and
-  /// lose those that it ignored. The last: so does the whole page.
+  /// 0: the edit alone. 1: also the tags that the parser implied left of it. 2: and those right of
+  /// it, where something that goes was open there again. From 3 on, one step an element outwards:
+  /// the elements around it get every tag that the parser implied in them, and lose those that it
+  /// ignored. The last: so does the whole page.
   int number = 0;
 
   static constexpr int alone = 0;
   static constexpr int withImpliedTags = 1;
-  static constexpr int element = 2;
+  static constexpr int withTagsBeside = 2;
+  static constexpr int element = 3;
 };
 
 /// Carries edits of a document over into its source.

@@ -312,7 +312,7 @@ TEST(Ladder, GivesAnElementItsImpliedTagsBeforeThePage) {
   QString now = before;
   now.replace(QStringLiteral("one"), QStringLiteral("one <b>x</b>"));
   ScriptedVerifier verifier(now, [](const QString &text) {
-    return text.contains(u"<b>x</b></p>") && text.contains(u"two</p></div>");
+    return text.contains(u"one <b>x</b></p>") && text.contains(u"two</p></div>");
   });
   const SavedPage saved = Save(file, before, now, verifier);
   EXPECT_EQ(saved.page.bytes, "<div><P>one <b>x</b></p><P>two</p></div>\r\n<p>three");

@@ -73,6 +73,11 @@ Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const 
   const TokenAlignment toSource =
       AlignTokens(source.tokens, before.tokens, InStep::WithSerialisation);
   const TokenAlignment toNow = AlignTokens(before.tokens, now.tokens, InStep::WithEdit);
+  // What a parser moved has its counterpart out of order.
+  QMultiHash<std::uint64_t, std::int32_t> elsewhere;
+  for (std::int32_t at = 0; at < source.Count(); ++at) {
+    if (toSource.toOther[static_cast<std::size_t>(at)] < 0) elsewhere.insert(source.At(at).key, at);
+  }
   for (const PageEdit &edit : FindEdits(before, now, toNow)) {
     if (edit.isTagChange) {  // attribute by attribute; the tag itself may be written in other ways
       Add(distance, before.Slice(edit.before, edit.beforeEnd), now.Slice(edit.now, edit.nowEnd));
@@ -82,7 +87,13 @@ Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const 
     std::int32_t last = -2;
     for (std::int32_t at = edit.before; at < edit.beforeEnd; ++at) {
       const std::int32_t counterpart = toSource.fromOther[static_cast<std::size_t>(at)];
-      if (counterpart < 0) continue;
+      if (counterpart < 0) {
+        if (const auto found = elsewhere.find(before.At(at).key); found != elsewhere.end()) {
+          distance.gone += source.Slice(*found, *found + 1);
+          elsewhere.erase(found);
+        }
+        continue;
+      }
       if (first < 0) first = counterpart;
       last = counterpart;
     }

@@ -2,6 +2,7 @@
 #include "tools/page-check/PageCheck.h"
 
 #include "platform/Paths.h"
+#include "platform/RuntimeError.h"
 #include "platform/qt/GuardedWait.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/qt/editing/BridgeScript.h"
@@ -109,9 +110,24 @@ QString PageCheck::Parsed(const QByteArray &bytes) {
 }
 
 QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) {
+  QJsonObject result = {{QStringLiteral("file"), file},
+                        {QStringLiteral("edited"), false},
+                        {QStringLiteral("identical"), false},
+                        {QStringLiteral("bytes_outside"), 0},
+                        {QStringLiteral("bytes_implied"), 0},
+                        {QStringLiteral("rung"), QString()},
+                        {QStringLiteral("document_equal"), false},
+                        {QStringLiteral("ms"), 0.0}};
+  try {
+    Measure(file, kind, place, result);
+  } catch (const RuntimeError &error) {
+    result[ErrorField()] = error.Description();
+  }
+  return result;
+}
+
+void PageCheck::Measure(const QString &file, const QString &kind, int place, QJsonObject &result) {
   WebEditor &editor = desk_->editor;
-  // The page before may be of the same folder, and an exchange in the page is no opening.
-  editor.SetDocumentHTML({});
   editor.LoadDocument(ToLogic(QFileInfo(file).absoluteFilePath()));
   EditedPage page;
   page.file = Bytes(file);
@@ -131,14 +147,13 @@ QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) 
   const bool isEqual =
       saved == page.now || saved == Parsed(page.now.toUtf8().prepend("\xEF\xBB\xBF"));
   const BytesBeyondEdit beyond = CountBytesBeyondEdit(page);
-  return {{QStringLiteral("file"), file},
-          {QStringLiteral("edited"), isEdited},
-          {QStringLiteral("identical"), page.saved == page.file},
-          {QStringLiteral("bytes_outside"), static_cast<int>(beyond.outside)},
-          {QStringLiteral("bytes_implied"), static_cast<int>(beyond.implied)},
-          {QStringLiteral("rung"), QLatin1String(RungName(rung))},
-          {QStringLiteral("document_equal"), isEqual},
-          {QStringLiteral("ms"), milliseconds}};
+  result[QStringLiteral("edited")] = isEdited;
+  result[QStringLiteral("identical")] = page.saved == page.file;
+  result[QStringLiteral("bytes_outside")] = static_cast<int>(beyond.outside);
+  result[QStringLiteral("bytes_implied")] = static_cast<int>(beyond.implied);
+  result[QStringLiteral("rung")] = QLatin1String(RungName(rung));
+  result[QStringLiteral("document_equal")] = isEqual;
+  result[QStringLiteral("ms")] = milliseconds;
 }
 
 }  // namespace velor

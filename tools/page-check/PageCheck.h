@@ -25,11 +25,14 @@ class PageCheck {
   /// Checks one page; `kind` empty for no edit, `place` counts from 0. Native path. The answer has
   /// `file`, `edited` (false where the page has no such place), `identical`, `bytes_outside`,
   /// `bytes_implied` (see BytesBeyondEdit), `rung`, `document_equal` and `ms` (the time that saving
-  /// took).
+  /// took); ErrorField() as well when the file cannot be opened, edited or saved.
   QJsonObject Run(const QString &file, const QString &kind, int place);
+  static QString ErrorField() { return QStringLiteral("error"); }
 
  private:
   class Desk;
+
+  void Measure(const QString &file, const QString &kind, int place, QJsonObject &result);
 
   /// The document of a text, loaded on its own.
   QString Parsed(const QByteArray &bytes);

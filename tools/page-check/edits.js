@@ -49,8 +49,10 @@
       return velor.exec(5000);
     }],
     'image': [paragraphs, (paragraph) => {
-      const index = [...paragraph.parentNode.childNodes].indexOf(paragraph);
-      select(paragraph.parentNode, index);
+      // Between two cells no picture can stand.
+      const { parentNode } = paragraph;
+      if (paragraph.matches('td')) select(paragraph, 0);
+      else select(parentNode, [...parentNode.childNodes].indexOf(paragraph));
       velor.pasteHTML('<img src="new.gif" alt="new">');
       return true;
     }],
