@@ -44,10 +44,10 @@
       range,
       object: velor.selection.control(range),
       elements: once(() => {
-        const texts = velor.selection.textsIn(range, velor.selection.textLimit);
+        const texts = velor.selection.textsIn(range, velor.selection.leafLimit);
         return [...new Set(texts.map((text) => text.parentElement))];
       }),
-      units: once(() => velor.units.unitsIn(range, velor.selection.textLimit)),
+      units: once(() => velor.units.unitsIn(range, velor.selection.leafLimit)),
     };
   };
 
@@ -65,9 +65,10 @@
   }
 
   const whereText = (status) => (view) => (view.object ? Disabled : status(view));
+  // What is done is done to all of the selection, however little of it the answer was read from.
   const onUnits = (change) => (value, view) => {
     const kept = velor.selection.keep();
-    change(view.units(), value);
+    change(velor.units.held(velor.units.unitsIn(view.range)), value);
     velor.selection.restore(kept);
   };
 

@@ -13,8 +13,7 @@
   };
 
   const quoteOf = (unit) => {
-    const start = unit.block || unit.container;
-    return dom.ancestor(start, isQuote, (node) => dom.isCell(node) || node.tagName === 'LI');
+    return dom.ancestor(unit.home, isQuote, (node) => dom.isCell(node) || node.tagName === 'LI');
   };
   // The quote that holds a list whose first item is meant: indenting such an item made it.
   const quoteOfList = ([item]) => {
