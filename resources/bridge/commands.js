@@ -55,9 +55,11 @@
   const subjects = ({ range, elements }) =>
     (elements().length ? elements() : [velor.selection.caretElement(range)]);
   // Reads a format at an element; what was chosen for the text to come counts at a caret.
-  const reader = (name, view) =>
-    (velor.pending.has(name) && !view.elements().length
-      ? () => velor.pending.get(name) : velor.formats[name].read);
+  function reader(name, view) {
+    if (velor.pending.has(name) && !view.elements().length) return () => velor.pending.get(name);
+    const known = new Map();
+    return (element) => velor.formats[name].read(element, known);
+  }
 
   function put(name, value, { range, elements }) {
     if (!elements().length) velor.pending.set(name, value);
