@@ -28,9 +28,8 @@
   }
 
   function read(unit) {
-    const { block, container } = unit;
-    if (block && objects.has(block.tagName)) return placeOf(block);
-    return sideOf(block || container);
+    const { object, home } = unit;
+    return objects.has(object?.tagName) ? placeOf(object) : sideOf(home);
   }
 
   function addStyle(element, declarations) {

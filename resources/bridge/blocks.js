@@ -36,7 +36,7 @@
   }
 
   function read(unit) {
-    for (let at = unit.block || unit.container; at && !dom.isCell(at); at = at.parentNode) {
+    for (let at = unit.home; at && !dom.isCell(at); at = at.parentNode) {
       const name = nameAt(at);
       if (name) return name;
     }
@@ -89,8 +89,8 @@
   }
 
   // A table or a rule that is selected has no text to format.
-  const takesFormat = ({ block }) =>
-    !block || !dom.isAtom(block) && block.tagName !== 'TABLE';
+  const takesFormat = ({ object }) =>
+    !object || !dom.isAtom(object) && object.tagName !== 'TABLE';
 
   function apply(name, range) {
     const format = byName(name);
@@ -102,7 +102,7 @@
     if (format.list) {
       units.forEach(becomePlain);
       velor.selection.restore(kept);
-      const plain = velor.units.unitsIn(velor.selection.range());
+      const plain = velor.units.held(velor.units.unitsIn(velor.selection.range()));
       velor.lists.make(plain, format.list, format.element);
     } else if (format.element === 'P') {
       velor.lists.unlist();

@@ -44,10 +44,10 @@
       range,
       object: velor.selection.control(range),
       elements: once(() => {
-        const texts = velor.selection.textsIn(range, velor.selection.textLimit);
+        const texts = velor.selection.textsIn(range, velor.selection.leafLimit);
         return [...new Set(texts.map((text) => text.parentElement))];
       }),
-      units: once(() => velor.units.unitsIn(range, velor.selection.textLimit)),
+      units: once(() => velor.units.unitsIn(range, velor.selection.leafLimit)),
     };
   };
 
@@ -55,9 +55,11 @@
   const subjects = ({ range, elements }) =>
     (elements().length ? elements() : [velor.selection.caretElement(range)]);
   // Reads a format at an element; what was chosen for the text to come counts at a caret.
-  const reader = (name, view) =>
-    (velor.pending.has(name) && !view.elements().length
-      ? () => velor.pending.get(name) : velor.formats[name].read);
+  function reader(name, view) {
+    if (velor.pending.has(name) && !view.elements().length) return () => velor.pending.get(name);
+    const known = new Map();
+    return (element) => velor.formats[name].read(element, known);
+  }
 
   function put(name, value, { range, elements }) {
     if (!elements().length) velor.pending.set(name, value);
@@ -65,9 +67,10 @@
   }
 
   const whereText = (status) => (view) => (view.object ? Disabled : status(view));
+  // What is done is done to all of the selection, however little of it the answer was read from.
   const onUnits = (change) => (value, view) => {
     const kept = velor.selection.keep();
-    change(view.units(), value);
+    change(velor.units.held(velor.units.unitsIn(view.range)), value);
     velor.selection.restore(kept);
   };
 

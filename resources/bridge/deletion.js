@@ -12,7 +12,7 @@
     range.setStart(node, offset);
     return range;
   };
-  const unitAt = (node, offset) => unitsIn(caretAt(node, offset))[0] ?? null;
+  const unitAt = (node, offset) => velor.units.held(unitsIn(caretAt(node, offset)))[0] ?? null;
   const sameUnit = (one, other) =>
     one === other || Boolean(one && other && one.container === other.container &&
       one.nodes[0] === other.nodes[0]);
@@ -211,11 +211,14 @@
     velor.selection.setCaret(...start);
   }
 
-  const shownBetween = (range) =>
-    [...velor.selection.leavesIn(range)].some((leaf) => dom.isShown(leaf) &&
-      (!dom.isText(leaf) ||
-        (leaf !== range.startContainer || range.startOffset < leaf.length) &&
-        (leaf !== range.endContainer || range.endOffset > 0)));
+  function shownBetween(range) {
+    for (const leaf of velor.selection.leavesIn(range)) {
+      if (dom.isShown(leaf) && (!dom.isText(leaf) ||
+          (leaf !== range.startContainer || range.startOffset < leaf.length) &&
+          (leaf !== range.endContainer || range.endOffset > 0))) return true;
+    }
+    return false;
+  }
 
   function atEdge(range, unit, side) {
     const [first, last] = [unit.nodes[0], unit.nodes.at(-1)];
@@ -223,7 +226,7 @@
     const rest = range.cloneRange();
     if (side === 'start') rest.setStartBefore(first);
     else rest.setEndAfter(dom.isBreak(last) && last !== first ? last.previousSibling : last);
-    return rest.collapsed || dom.isHollow(unit.block || unit.container) || !shownBetween(rest);
+    return rest.collapsed || !shownBetween(rest) || dom.isHollow(unit.home);
   }
 
   // The nearest shown leaf before or after a node; null at the edge of its cell.
@@ -255,8 +258,14 @@
 
   const hollow = (unit) => Boolean(unit.block) && dom.isHollow(unit.block);
 
+  // Most carets stand beside a character: no edge is there, however long the paragraph.
+  const isWithinText = ({ startContainer: node, startOffset: offset, collapsed }, side) =>
+    collapsed && dom.isText(node) &&
+    (side === 'start' ? node.data.slice(0, offset) : node.data.slice(offset)).trim() !== '';
+
   // A deletion at a paragraph's edge. Tells whether there is one, and what carries it out.
   function joining(range, side) {
+    if (isWithinText(range, side)) return null;
     const unit = unitsIn(range)[0];
     if (!unit || !range.collapsed || !atEdge(range, unit, side)) return null;
     const back = side === 'start';

@@ -180,23 +180,37 @@
     if (isNeutral(node)) return false;
     if (isText(node)) return !isIgnorable(node);
     if (isAtom(node) || isBreak(node) || node.tagName === 'TABLE') return true;
-    return [...node.childNodes].some(hasContent);
+    for (let at = node.firstChild; at; at = at.nextSibling) if (hasContent(at)) return true;
+    return false;
   }
   // True when nothing but the break that holds an empty line open is in it.
   function isHollow(element) {
-    const shown = [...element.childNodes].filter(hasContent);
-    if (shown.length === 0) return true;
-    if (shown.length > 1) return false;
-    return isBreak(shown[0]) || (isInline(shown[0]) && !isAtom(shown[0]) && isHollow(shown[0]));
+    let only = null;
+    for (let at = element.firstChild; at; at = at.nextSibling) {
+      if (!hasContent(at)) continue;
+      if (only) return false;
+      only = at;
+    }
+    return !only || isBreak(only) || isInline(only) && !isAtom(only) && isHollow(only);
   }
 
+  // How many units agree, up to `most`: by large pieces, which the engine compares at once, then by
+  // ever smaller ones.
+  function agreed(most, agree) {
+    let count = 0;
+    for (let piece = 65536; piece >= 1; piece /= 16) {
+      while (count < most && agree(count, Math.min(most, count + piece))) {
+        count = Math.min(most, count + piece);
+      }
+    }
+    return count;
+  }
   // How much of a text is the same at its head and, behind that, at its tail.
   function kept(old, now) {
     const shorter = Math.min(old.length, now.length);
-    let head = 0;
-    while (head < shorter && old[head] === now[head]) head++;
-    let tail = 0;
-    while (tail < shorter - head && old.at(-1 - tail) === now.at(-1 - tail)) tail++;
+    const head = agreed(shorter, (from, to) => old.slice(from, to) === now.slice(from, to));
+    const end = (text, from, to) => text.slice(text.length - to, text.length - from);
+    const tail = agreed(shorter - head, (from, to) => end(old, from, to) === end(now, from, to));
     return { head, tail };
   }
 

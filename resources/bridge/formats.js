@@ -44,21 +44,32 @@
     }
     return false;
   }
-  function underline(element) {
+  // What the nearest element outwards says that says something (others answer undefined). What was
+  // found on the way is remembered where a map is given for it: many texts have ancestors in common.
+  const outwards = (says, otherwise) => (element, known = new Map()) => {
+    const passed = [];
+    let answer = undefined;
     for (const at of ancestors(element)) {
-      const byNature = at.tagName === 'A' && !at.style.textDecorationLine;
-      if (!byNature && style(at).textDecorationLine.includes('underline')) return true;
-      if (/^(inline-block|inline-table)$/.test(style(at).display)) return false;
+      answer = known.get(at);
+      if (answer !== undefined) break;
+      passed.push(at);
+      answer = says(at);
+      if (answer !== undefined) break;
     }
-    return false;
-  }
-  function background(element) {
-    for (const at of ancestors(element)) {
-      const { backgroundColor } = style(at);
-      if (!transparent(backgroundColor)) return hex(backgroundColor);
-    }
-    return '#FFFFFF';
-  }
+    answer ??= otherwise;
+    for (const at of passed) known.set(at, answer);
+    return answer;
+  };
+  const underline = outwards((at) => {
+    const byNature = at.tagName === 'A' && !at.style.textDecorationLine;
+    const { textDecorationLine, display } = style(at);
+    if (!byNature && textDecorationLine.includes('underline')) return true;
+    return /^(inline-block|inline-table)$/.test(display) ? false : undefined;
+  }, false);
+  const background = outwards((at) => {
+    const { backgroundColor } = style(at);
+    return transparent(backgroundColor) ? undefined : hex(backgroundColor);
+  }, '#FFFFFF');
 
   // A FONT has one of the seven sizes, whatever they come to in the typeface at hand.
   function fontSize(element) {
@@ -102,7 +113,8 @@
   const holdsText = (element) =>
     isBlock(element) && element !== document.body && ![...element.children].some(isBlock);
 
-  // read(element): the value of text in it. tags: elements that are nothing but the format.
+  // read(element, known): the value of text in it; `known` may be a map for what one pass over an
+  // unchanged page finds out. tags: elements that are nothing but the format.
   // attribute: FONT's, with a value's spelling there. property: of an inline style, with a value's
   // spelling there. write(value): the element to put around text.
   function format(entry) {

@@ -13,8 +13,7 @@
   };
 
   const quoteOf = (unit) => {
-    const start = unit.block || unit.container;
-    return dom.ancestor(start, isQuote, (node) => dom.isCell(node) || node.tagName === 'LI');
+    return dom.ancestor(unit.home, isQuote, (node) => dom.isCell(node) || node.tagName === 'LI');
   };
   // The quote that holds a list whose first item is meant: indenting such an item made it.
   const quoteOfList = ([item]) => {
@@ -74,14 +73,16 @@
     made.filter((quote) => quote.isConnected).forEach(join);
   }
 
+  // The child of an element that a node lies in.
+  function childOf(element, node) {
+    while (node.parentNode !== element) node = node.parentNode;
+    return node;
+  }
+
   // Cuts the parts out of their quote and puts them where it stands.
   function unquote(quote, parts) {
-    const towards = (node) => {
-      while (node.parentNode !== quote) node = node.parentNode;
-      return node;
-    };
-    const first = towards(parts[0]);
-    const behind = dom.neighbour(towards(parts.at(-1)), 'nextSibling');
+    const first = childOf(quote, parts[0]);
+    const behind = dom.neighbour(childOf(quote, parts.at(-1)), 'nextSibling');
     let middle = quote;
     if (behind) dom.splitBefore(behind, middle);
     if (dom.neighbour(first, 'previousSibling')) middle = dom.splitBefore(first, middle);
@@ -94,11 +95,25 @@
       if (quote) unquote(quote, [group[0].parentNode]);
       else lists.outdent(group);
     }
-    for (const unit of units.filter((each) => !lists.itemOf(each))) {
-      const quote = quoteOf(unit);
-      const parts = velor.units.partsOf(unit);
-      if (quote?.isConnected) unquote(quote, parts.length ? parts : [unit.container]);
+    for (const { quote, parts } of quotedRuns(units.filter((each) => !lists.itemOf(each)))) {
+      if (quote.isConnected) unquote(quote, parts);
     }
+  }
+  // The units that are neighbours in one quote leave it together.
+  function quotedRuns(units) {
+    const runs = [];
+    for (const unit of units) {
+      const quote = quoteOf(unit);
+      if (!quote) continue;
+      const own = velor.units.partsOf(unit);
+      const parts = own.length ? own : [unit.container];
+      const last = runs.at(-1);
+      const goesOn = last?.quote === quote && childOf(quote, parts[0]) ===
+        dom.neighbour(childOf(quote, last.parts.at(-1)), 'nextSibling');
+      if (goesOn) last.parts.push(...parts);
+      else runs.push({ quote, parts: [...parts] });
+    }
+    return runs;
   }
 
   const canOutdent = (unit) => Boolean(lists.itemOf(unit) || quoteOf(unit));

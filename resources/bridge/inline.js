@@ -152,9 +152,9 @@
     if (!dom.isElement(other)) return false;
     const bare = (each) => format.carries(each) && !dom.isBlock(each) &&
       format.shell(each).tagName === each.tagName && dom.sameLooks(format.shell(each), each);
-    if (bare(element) && bare(other)) return format.same(format.read(element), format.read(other));
-    return other.tagName === element.tagName && mergeable.has(element.tagName) && !element.id &&
-      dom.sameLooks(element, other);
+    if (other.tagName === element.tagName && mergeable.has(element.tagName) && !element.id &&
+        dom.sameLooks(element, other)) return true;
+    return bare(element) && bare(other) && format.same(format.read(element), format.read(other));
   }
 
   // Elements whose order makes no difference to what they look like together.
@@ -200,27 +200,31 @@
     }
   }
 
-  // An element around the text that gives a look which is there without it by now.
-  function dropNeedless(entry, text, chosen, reads) {
-    const { parentNode } = text;
-    if (!dom.isInline(parentNode) || !entry.carries(parentNode) || !reads(parentNode)) return;
-    const needless = reads(parentNode.parentNode) && coverage(parentNode, chosen) === 'all';
-    if (needless) entry.strip(parentNode);
+  // The elements around the texts that give a look which is there without them by now.
+  function needless(entry, texts, chosen, reads) {
+    const whole = remembered((element) => coverage(element, chosen) === 'all');
+    const parents = new Set(texts.map((text) => text.parentNode));
+    return [...parents].filter((element) => dom.isInline(element) && entry.carries(element) &&
+      reads(element) && reads(element.parentNode) && whole(element));
   }
 
-  // The page's own rules may give text in the element another look: such text is formatted by itself.
-  // Answers the element, null where it had to go.
-  function insist(entry, element, value) {
-    const wanted = entry.read(element);
-    const stubborn = new Set([...textsUnder(element)]
-      .filter((text) => !entry.same(entry.read(text.parentNode), wanted)));
-    if (!stubborn.size) return element;
-    pushDown(entry, element, stubborn);
-    for (const text of stubborn) put(entry, [text], value);
-    return null;
+  // The page's own rules may give text in an element another look: such text is formatted by itself.
+  // Answers the elements less those that had to go.
+  function insist(entry, elements, value) {
+    const reads = remembered((element) => entry.read(element));
+    const stubborn = elements.map((element) => new Set([...textsUnder(element)]
+      .filter((text) => !entry.same(reads(text.parentNode), reads(element)))));
+    return elements.filter((element, index) => {
+      const texts = stubborn[index];
+      if (!texts.size) return true;
+      pushDown(entry, element, texts);
+      for (const text of texts) put(entry, [text], value);
+      return false;
+    });
   }
 
-  // Puts the format with that value on the texts, which are whole nodes.
+  // Puts the format with that value on the texts, which are whole nodes. In passes that first read and
+  // then write: the engine works the page's looks out anew for what is read after each change.
   function format(name, value, texts) {
     const entry = velor.formats[name];
     const touched = new Set();
@@ -235,15 +239,14 @@
     for (const carrier of carriersOf(entry, texts, all, remembered(reads))) {
       pushDown(entry, carrier, all);
     }
-    texts.forEach((text) => dropNeedless(entry, text, all, reads));
-    const left = texts.filter((text) => !reads(text.parentNode));
+    needless(entry, texts, all, remembered(reads)).forEach((element) => entry.strip(element));
+    const lacks = remembered((element) => !reads(element));
+    const left = texts.filter((text) => lacks(text.parentNode));
     const chosen = new Set(left);
     const covers = new Map();
     const tops = new Set(left.map((text) => highest(text, chosen, entry, covers)));
-    for (const run of runsOf(tops)) {
-      const made = put(entry, run, value);
-      const element = made && insist(entry, made, value);
-      if (!element) continue;
+    const made = runsOf(tops).map((run) => put(entry, run, value)).filter(Boolean);
+    for (const element of insist(entry, made, value)) {
       const joined = mergeWith(entry, element, 'previousSibling', true);
       mergeWith(entry, joined, 'nextSibling', joined === element);
     }

@@ -47,10 +47,10 @@
 
   // Bare text becomes a paragraph before it is split; so does the first text of an empty page.
   function needsParagraph(unit, { inputType }) {
-    if (!unit || unit.block && !unit.block.id || !bare.test(unit.container.tagName)) return false;
-    if (inputType === 'insertParagraph') return true;
-    const empty = unit.container === document.body && dom.isHollow(document.body);
-    return inputType === 'insertText' && empty;
+    if (!unit || !bare.test(unit.container.tagName)) return false;
+    const empty = () => unit.container === document.body && dom.isHollow(document.body);
+    if (inputType !== 'insertParagraph' && (inputType !== 'insertText' || !empty())) return false;
+    return !unit.block || unit.block.id !== '';
   }
   function makeParagraph(unit) {
     const kept = velor.selection.keep();
@@ -67,14 +67,16 @@
   const typedIn = new WeakSet();
 
   // The no-break space that is all a paragraph or cell holds, which keeps an empty one open.
-  function holderOf(unit) {
+  const isHolder = (text) => /^[ \t\n]*\u00a0[ \t\n]*$/.test(text.data);
+  function holderOf(unit, { startContainer }) {
+    if (dom.isText(startContainer) && !isHolder(startContainer)) return null;
     if (unit?.nodes.length !== 1) return null;
     let [at] = unit.nodes;
     while (!dom.isText(at)) {
       if (dom.isAtom(at) || at.childNodes.length !== 1) return null;
       at = at.firstChild;
     }
-    return at.data.replace(/[ \t\n]/g, '') === '\u00a0' && !typedIn.has(at) ? at : null;
+    return isHolder(at) && !typedIn.has(at) ? at : null;
   }
 
   function prepareInsertion(event) {
@@ -82,9 +84,10 @@
     if (!range) return;
     if (velor.deletion.spansUnits(range)) velor.deletion.remove(range);
     else velor.deletion.tighten(range);
-    const [unit] = velor.units.unitsIn(velor.selection.range());
+    const caret = velor.selection.range();
+    const [unit] = velor.units.unitsIn(caret);
     if (needsParagraph(unit, event)) makeParagraph(unit);
-    const holder = fills.has(event.inputType) ? holderOf(unit) : null;
+    const holder = fills.has(event.inputType) ? holderOf(unit, caret) : null;
     if (holder) document.getSelection().setBaseAndExtent(holder, 0, holder, holder.length);
   }
 
@@ -200,9 +203,7 @@
   function dropDoubledId() {
     const element = velor.selection.element();
     for (let at = element; at && at !== document.body; at = at.parentElement) {
-      if (!at.id) continue;
-      const bearers = document.querySelectorAll(`[id="${CSS.escape(at.id)}"]`);
-      if (bearers.length < 2 || bearers[0] === at) continue;
+      if (!at.id || document.getElementById(at.id) === at) continue;
       velor.history.attributesOf(at);
       at.removeAttribute('id');
     }
@@ -228,7 +229,8 @@
     work(() => velor.blanks.watched(event));
     velor.pending.moved();
     velor.history.arrive();
-    velor.schedulePush();
+    // What the engine changed was mostly told of before it says so.
+    velor.selectionMoved();
   }
 
   function compositionEnd({ data }) {
@@ -264,9 +266,12 @@
   function tab(backwards) {
     const cell = cellAt();
     if (!cell) return;
-    const table = cell.closest('TABLE');
-    const cells = [...table.rows].flatMap((row) => [...row.cells]);
-    const next = cells[cells.indexOf(cell) + (backwards ? -1 : 1)];
+    const step = backwards ? -1 : 1;
+    const { rows } = cell.closest('TABLE');
+    let next = cell.parentNode.cells[cell.cellIndex + step];
+    for (let at = cell.parentNode.rowIndex + step; !next && rows[at]; at += step) {
+      next = [...rows[at].cells].at(backwards ? -1 : 0);
+    }
     if (next) intoCell(next);
     else if (!backwards) velor.history.step('addRow', () => intoCell(addRow(cell.parentNode)));
   }

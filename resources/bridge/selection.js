@@ -5,8 +5,8 @@
   const { velor } = globalThis;
   const { isText, isAtom, isElement, isNeutral, firstLeaf, lastLeaf, nextNode } = velor.dom;
 
-  // States of longer selections are judged by their first texts.
-  const textLimit = 2000;
+  // States of longer selections are judged by their first texts, objects and breaks.
+  const leafLimit = 2000;
 
   // The inside of an island that is closed to editing is no place for a command.
   function isClosed(node) {
@@ -89,23 +89,30 @@
     }
   }
 
-  // The texts of a range of which at least one character is selected.
-  function textsIn(selected, limit = Infinity) {
+  // The texts of a range of which at least one character is selected, among its first `most` leaves.
+  function textsIn(selected, most = Infinity) {
     const texts = [];
     if (!selected || selected.collapsed) return texts;
+    let rest = most;
     for (const node of leavesIn(selected)) {
+      if (rest-- <= 0) break;
       if (!velor.dom.shownText(node)) continue;
       if (node === selected.startContainer && selected.startOffset === node.length) continue;
       if (node === selected.endContainer && selected.endOffset === 0) continue;
       texts.push(node);
-      if (texts.length === limit) break;
     }
     return texts;
   }
 
   const isOpen = (node) =>
     isElement(node) && !isAtom(node) && !isNeutral(node) && !velor.dom.isBreak(node);
-  const indexOf = (node) => [...node.parentNode.childNodes].indexOf(node);
+  // The engine counts faster than a script that would have to look at every child; the one range for
+  // it is kept, since all ranges are followed through every change of the document.
+  const counter = document.createRange();
+  function indexOf(node) {
+    counter.setStartBefore(node);
+    return counter.startOffset;
+  }
 
   // A place that survives the wrapping, unwrapping and renaming of elements around it: it clings to
   // a text, to one side of an object, or to an element without content.
@@ -231,7 +238,7 @@
   };
 
   velor.selection = {
-    textLimit, range, control, selectNode, points, samePoints, select, setCaret, leavesIn, textsIn,
+    leafLimit, range, control, selectNode, points, samePoints, select, setCaret, leavesIn, textsIn,
     keep, restore, place, element, caretElement, ensure, indexOf,
   };
 })();

@@ -18,9 +18,9 @@
     const holdsBlock = (at) => dom.isInline(at) && !dom.isAtom(at) && containsBlock(at);
     // An inline element around blocks (old pages wrap them in FONT) is a container of its own.
     for (let at = node.parentNode; at !== container; at = at.parentNode) {
-      if (holdsBlock(at)) return spread(childTowards(at, node), at);
+      if (holdsBlock(at)) return unit(at, childTowards(at, node));
     }
-    return spread(top, container);
+    return unit(container, top);
   }
   const containsBlock = (element) =>
     [...element.children].some((child) =>
@@ -30,22 +30,50 @@
     return node;
   }
 
-  function spread(top, container) {
-    const stops = (node) =>
-      dom.isBlock(node) || (dom.isInline(node) && !dom.isAtom(node) && containsBlock(node));
-    const nodes = [top];
-    for (let at = top.previousSibling; at && !stops(at); at = at.previousSibling) nodes.unshift(at);
-    for (let at = top.nextSibling; at && !stops(at); at = at.nextSibling) nodes.push(at);
-    while (nodes.length > 1 && !dom.isShown(nodes[0])) nodes.shift();
-    while (nodes.length > 1 && !dom.isShown(nodes.at(-1))) nodes.pop();
-    return unit(container, nodes);
+  // A block, or an inline element around blocks: a run ends there.
+  const stops = (node) =>
+    dom.isBlock(node) || (dom.isInline(node) && !dom.isAtom(node) && containsBlock(node));
+
+  // The nodes of a run on one side of it, the nearest first, and what ends the run there.
+  function reach(top, side) {
+    const nodes = [];
+    let at = top[side];
+    for (; at && !stops(at); at = at[side]) nodes.push(at);
+    return { nodes, end: at };
   }
 
-  function unit(container, nodes) {
-    const whole = own(container) &&
-      [...container.childNodes].every((node) => nodes.includes(node) || !dom.isShown(node));
-    return { container, nodes, block: whole ? container : null };
+  function spread(top, container) {
+    const before = reach(top, 'previousSibling');
+    const after = reach(top, 'nextSibling');
+    const nodes = [...before.nodes.reverse(), top, ...after.nodes];
+    let first = 0;
+    let end = nodes.length;
+    while (end - first > 1 && !dom.isShown(nodes[first])) first++;
+    while (end - first > 1 && !dom.isShown(nodes[end - 1])) end--;
+    const whole = own(container) && !before.end && !after.end;
+    return { nodes: nodes.slice(first, end), block: whole ? container : null };
   }
+
+  // `home` is the element that a unit lies in or, where it is an object, is: enough for most answers.
+  // The nodes of a run and its block are found out when they are asked for: a paragraph may be long.
+  function unit(container, top) {
+    let known = null;
+    const read = () => (known ??= top ? spread(top, container)
+      : { nodes: [], block: own(container) && !firstShown(container) ? container : null });
+    return {
+      container, home: container, object: null,
+      get nodes() { return read().nodes; },
+      get block() { return read().block; },
+    };
+  }
+
+  const shownFrom = (node, side) => {
+    let at = node;
+    while (at && !dom.isShown(at)) at = at[side];
+    return at;
+  };
+  const firstShown = (node) => shownFrom(node.firstChild, 'nextSibling');
+  const lastShown = (node) => shownFrom(node.lastChild, 'previousSibling');
 
   // The unit of one leaf; null where the leaf is no part of any (a rule, space between blocks).
   function unitOf(leaf) {
@@ -53,59 +81,81 @@
       return dom.isAtom(leaf) || !own(leaf) && !velor.dom.isCell(leaf) && leaf.tagName !== 'LI' &&
         leaf.tagName !== 'DD' && leaf.tagName !== 'BLOCKQUOTE'
         ? null
-        : unit(leaf, []);
+        : unit(leaf, null);
     }
     return runAround(leaf);
   }
 
   // A selected object that is a block itself.
-  const objectUnit = (object) => ({ container: object.parentNode, nodes: [object], block: object });
+  const objectUnit = (object) =>
+    ({ container: object.parentNode, home: object, object, nodes: [object], block: object });
 
   function caretUnit({ startContainer: node, startOffset: offset }) {
     if (dom.isText(node) && !dom.isIgnorable(node)) return unitOf(node);
     if (dom.isText(node)) {
       const near = dom.neighbour(node, 'previousSibling') || dom.neighbour(node, 'nextSibling');
-      return near ? unitOf(dom.firstLeaf(near)) : unit(dom.blockOf(node), []);
+      return near ? unitOf(dom.firstLeaf(near)) : unit(dom.blockOf(node), null);
     }
-    const shown = [...node.childNodes].filter(dom.isShown);
-    if (!shown.length) return dom.isBlock(node) ? unit(node, []) : unitOf(node);
+    const last = lastShown(node);
+    if (!last) return dom.isBlock(node) ? unit(node, null) : unitOf(node);
     const after = node.childNodes[offset];
     const next = after && (dom.isShown(after) ? after : dom.neighbour(after, 'nextSibling'));
-    const leaf = next ? dom.firstLeaf(next) : dom.lastLeaf(shown.at(-1));
+    const leaf = next ? dom.firstLeaf(next) : dom.lastLeaf(last);
     if (!dom.isBlock(leaf) || !dom.isAtom(leaf)) return unitOf(leaf);
     const near = dom.neighbour(leaf, 'previousSibling') || dom.neighbour(leaf, 'nextSibling');
     return near && !dom.isAtom(near) ? unitOf(dom.lastLeaf(near)) : null;
   }
 
-  function unitsIn(range, limit = Infinity) {
+  // Tells of one leaf after the other, in document order, whether it is in the run of the one before.
+  function runFollower() {
+    let container = null;
+    let child = null;  // of the container, with the last leaf in it
+    return {
+      begin(found, leaf) {
+        ({ container } = found);
+        child = container.contains(leaf) && container !== leaf ? childTowards(container, leaf) : null;
+      },
+      takes(leaf) {
+        if (!child || !container.contains(leaf)) return false;
+        const next = childTowards(container, leaf);
+        while (child !== next && child && !stops(child)) child = child.nextSibling;
+        return child === next && !stops(next);
+      },
+    };
+  }
+
+  // `most` is the number of leaves that are looked at.
+  function unitsIn(range, most = Infinity) {
     if (!range) return [];
     const object = velor.selection.control(range);
     if (object && dom.isBlock(object)) return [objectUnit(object)];
     if (range.collapsed) return [caretUnit(range)].filter(Boolean);
     const units = [];
-    const known = new Set();
+    const run = runFollower();
+    let rest = most;
     for (const leaf of velor.selection.leavesIn(range)) {
-      if (known.has(leaf) || !dom.isShown(leaf)) continue;
+      if (rest-- <= 0) break;
+      if (!dom.isShown(leaf)) continue;
       // A selection that ends at the very start of a paragraph does not mean that paragraph.
       const untouched = units.length && leaf === range.endContainer && range.endOffset === 0;
-      if (untouched || covered(leaf, known)) continue;
+      if (untouched || run.takes(leaf)) continue;
       const found = unitOf(leaf);
       if (!found) continue;
       units.push(found);
-      found.nodes.forEach((node) => known.add(node));
-      if (units.length === limit) break;
+      run.begin(found, leaf);
     }
     return units.length ? units : [caretUnit(range)].filter(Boolean);
   }
 
-  function covered(leaf, known) {
-    for (let at = leaf; at && !dom.isBlock(at); at = at.parentNode) if (known.has(at)) return true;
-    return false;
+  // To be told before elements change: from then on a unit is what it was.
+  function held(units) {
+    for (const each of units) void each.nodes;
+    return units;
   }
 
   // The list item (or the item of another kind) that a unit lies in, within its table cell.
   const itemOf = (found, fits = (node) => node.tagName === 'LI') =>
-    dom.ancestor(found.block || found.container, (node) => dom.isElement(node) && fits(node),
+    dom.ancestor(found.home, (node) => dom.isElement(node) && fits(node),
       (node) => dom.isCell(node));
 
   // Puts the unit into a new element, or makes its own block into that element where it is only a
@@ -129,5 +179,5 @@
   // The topmost node of a unit: its block, or each of its nodes.
   const partsOf = ({ block, nodes }) => (block ? [block] : nodes);
 
-  velor.units = { unitsIn, itemOf, become, enclose, partsOf };
+  velor.units = { unitsIn, held, itemOf, become, enclose, partsOf };
 })();

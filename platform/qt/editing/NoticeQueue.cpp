@@ -26,7 +26,9 @@ void NoticeQueue::Post(Notice kind, std::function<void()> deliver) {
                          [](Notice wanted, const Waiting &other) { return wanted < other.kind; });
     waiting_.insert(place, {kind, std::move(deliver)});
   }
-  if (!timer_.isActive()) timer_.start();
+  if (timer_.isActive()) return;
+  timer_.start();
+  QMetaObject::invokeMethod(this, &NoticeQueue::Deliver, Qt::QueuedConnection);
 }
 
 void NoticeQueue::Deliver() {
