@@ -45,7 +45,7 @@
       object: velor.selection.control(range),
       elements: once(() => {
         const texts = velor.selection.textsIn(range, velor.selection.textLimit);
-        return [...new Set(texts.map((text) => text.parentElement))];
+        return [...new Set(texts.map((text) => text.parentElement))].filter(velor.inline.takes);
       }),
       units: once(() => velor.units.unitsIn(range, velor.selection.textLimit)),
     };
@@ -64,7 +64,9 @@
     else velor.inline.apply(name, value, range);
   }
 
-  const whereText = (status) => (view) => (view.object ? Disabled : status(view));
+  const takesFormats = ({ object, range, elements }) => !object &&
+    (elements().length > 0 || velor.inline.takes(velor.selection.caretElement(range)));
+  const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Disabled);
   const onUnits = (change) => (value, view) => {
     const kept = velor.selection.keep();
     change(view.units(), value);

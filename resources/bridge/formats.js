@@ -9,12 +9,15 @@
 
   const style = (element) => getComputedStyle(element);
 
-  function hex(colour) {
-    const [red, green, blue] = colour.match(/[\d.]+/g).map(Number);
-    const digits = (part) => Math.round(part).toString(16).padStart(2, '0').toUpperCase();
-    return `#${digits(red)}${digits(green)}${digits(blue)}`;
+  // A computed colour: red, green, blue up to 255, and how much it covers, up to 1.
+  function parts(colour) {
+    const [red, green, blue, cover = 1] = colour.match(/[\d.]+/g).map(Number);
+    return { light: [red, green, blue], cover };
   }
-  const transparent = (colour) => /^rgba\(.*, 0\)$/.test(colour) || colour === 'transparent';
+  const laidOn = (ground, { light, cover }) =>
+    light.map((part, index) => part * cover + ground[index] * (1 - cover));
+  const hex = (light) => '#' +
+    light.map((part) => Math.round(part).toString(16).padStart(2, '0').toUpperCase()).join('');
 
   // CSS pixels are 96 an inch, points 72.
   const points = (pixels) => String(Math.round((parseFloat(pixels) * 72) / 96));
@@ -52,20 +55,30 @@
     }
     return false;
   }
-  function background(element) {
+  // What the eye sees behind text: the colours of the ancestors, as far down as they let it through.
+  function ground(element) {
+    const layers = [];
     for (const at of ancestors(element)) {
-      const { backgroundColor } = style(at);
-      if (!transparent(backgroundColor)) return hex(backgroundColor);
+      layers.push(parts(style(at).backgroundColor));
+      if (layers.at(-1).cover === 1) break;
     }
-    return '#FFFFFF';
+    return layers.reduceRight(laidOn, [255, 255, 255]);
   }
+  const textColour = (element) => laidOn(ground(element), parts(style(element).color));
 
+  // The size that a FONT asks for, 1 to 7, as the engine reads it; 0 for none.
+  function fontNumber(font) {
+    const [, sign, digits] = /^\s*([+-]?)(\d+)/.exec(font.getAttribute('size') ?? '') ?? [];
+    if (!digits) return 0;
+    const number = sign ? 3 + Number(sign + digits) : Number(digits);
+    return Math.min(Math.max(number, 1), sizePoints.length);
+  }
   // A FONT has one of the seven sizes, whatever they come to in the typeface at hand.
   function fontSize(element) {
     for (const at of ancestors(element)) {
       if (velor.dom.isBlock(at) || at.tagName === 'FONT' && at.style.fontSize) break;
-      const size = at.tagName === 'FONT' ? Number(at.getAttribute('size')) : 0;
-      if (sizePoints[size - 1]) return String(sizePoints[size - 1]);
+      const size = at.tagName === 'FONT' ? fontNumber(at) : 0;
+      if (size) return String(sizePoints[size - 1]);
       if (formats.fontSize.carries(at)) break;
     }
     return points(style(element).fontSize);
@@ -104,11 +117,25 @@
 
   // read(element): the value of text in it. tags: elements that are nothing but the format.
   // attribute: FONT's, with a value's spelling there. property: of an inline style, with a value's
-  // spelling there. write(value): the element to put around text.
+  // spelling there; part: the word in its value that the format is, where others may stand beside
+  // it. write(value): the element to put around text; inLike(value): the same within another one.
   function format(entry) {
     const tags = new Set(entry.tags);
     const spelled = (value) => value;
-    const { property, attribute, inAttribute = spelled, inStyle = spelled } = entry;
+    const { property, attribute, part, inAttribute = spelled, inStyle = spelled } = entry;
+    const written = ({ style: own }) =>
+      (part ? own.textDecorationLine : own.getPropertyValue(property));
+    const isStyled = (element) =>
+      (part ? written(element).split(' ').includes(part) : written(element) !== '');
+    // Other words of the same declaration stay.
+    function unstyle(element) {
+      const shared = part && written(element) !== part &&
+        declarations(element).find((each) => /^\s*text-decoration(-line)?\s*:/i.test(each));
+      if (!shared) return takeDeclaration(element, property);
+      const [name, value] = shared.split(':');
+      const others = value.split(/\s+/).filter((word) => word && word.toLowerCase() !== part);
+      return putDeclaration(element, name.trim().toLowerCase(), others.join(' '));
+    }
     const style = (value) => css(property)(inStyle(value));
     return {
       write: (value) => (attribute && !velor.dom.writesStyles()
@@ -117,8 +144,7 @@
       inAttribute,
       carries: (element) => isInline(element) && (tags.has(element.tagName) ||
         (element.tagName === 'FONT' && element.hasAttribute(entry.attribute))) ||
-        (isInline(element) || holdsText(element)) &&
-        element.style.getPropertyValue(entry.property) !== '',
+        (isInline(element) || holdsText(element)) && isStyled(element),
       // An empty element of the same format, to go around what keeps it.
       shell(element) {
         if (tags.has(element.tagName)) return create(element.tagName);
@@ -126,16 +152,14 @@
         if (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) {
           return create('FONT', { [entry.attribute]: element.getAttribute(entry.attribute) });
         }
-        const written = declarations(element).find(isOf(entry.property))?.trim();
-        const value = element.style.getPropertyValue(entry.property);
-        return create('SPAN', { style: written ?? `${entry.property}: ${value}` });
+        if (part) return this.write(true);
+        const own = declarations(element).find(isOf(property))?.trim();
+        return create('SPAN', { style: own ?? `${property}: ${written(element)}` });
       },
-      // Takes the format off the element; tells what is left of it.
+      // Takes the format off the element.
       strip(element) {
         velor.history.attributesOf(element);
-        if (element.style.getPropertyValue(entry.property)) {
-          takeDeclaration(element, entry.property);
-        }
+        if (isStyled(element)) unstyle(element);
         if (element.tagName === 'FONT') element.removeAttribute(entry.attribute);
         if (tags.has(element.tagName)) {
           if (element.attributes.length) velor.dom.rename(element, 'SPAN');
@@ -158,14 +182,16 @@
     bold: format({
       read: bold, tags: ['B', 'STRONG'], property: 'font-weight',
       write: (on) => (on ? create('B') : css('font-weight')('normal')),
+      inLike: () => css('font-weight')('bold'),
     }),
     italic: format({
       read: (element) => style(element).fontStyle !== 'normal',
       tags: ['I', 'EM'], property: 'font-style',
       write: (on) => (on ? create('I') : css('font-style')('normal')),
+      inLike: () => css('font-style')('italic'),
     }),
     underline: format({
-      read: underline, tags: ['U', 'INS'], property: 'text-decoration',
+      read: underline, tags: ['U', 'INS'], property: 'text-decoration', part: 'underline',
       // A line drawn by an ancestor cannot be taken off from inside.
       write: (on) => (on ? create('U') : null),
     }),
@@ -180,11 +206,11 @@
       property: 'font-size', inStyle: (value) => `${value}pt`,
     }),
     foreColor: format({
-      read: (element) => hex(style(element).color),
+      read: (element) => hex(textColour(element)),
       tags: [], attribute: 'color', property: 'color', insideLinks: true,
     }),
     backColor: format({
-      read: background, tags: [], property: 'background-color',
+      read: (element) => hex(ground(element)), tags: [], property: 'background-color',
     }),
   };
   const same = (one, other) => String(one).toUpperCase() === String(other).toUpperCase();

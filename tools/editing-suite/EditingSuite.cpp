@@ -98,16 +98,19 @@ SuiteResult EditingSuite::RunIn(Dialect dialect) {
     const Outcome &engine = plain[static_cast<std::size_t>(index)];
     sum.held += our.holds ? 1 : 0;
     sum.heldByEngine += engine.holds ? 1 : 0;
-    sum.states += our.states ? 1 : 0;
-    sum.statesHeld += our.states.value_or(false) ? 1 : 0;
+    sum.states += our.shown ? 1 : 0;
+    sum.statesHeld += our.shown && our.shown->isEmpty() ? 1 : 0;
     sum.lost += our.found.isNull() ? 1 : 0;
-    if (our.holds) continue;
+    const QString shown = our.shown.value_or(QString());
+    if (our.holds && shown.isEmpty()) continue;
     const QJsonValue row =
         Evaluate(QStringLiteral("velorSuite.row(%1)").arg(index)).value_or(QJsonValue());
-    sum.differences.push_back(
-        {row[u"input"].toString(), row[u"todo"].toString(), row[u"expected"].toString(),
-         our.found.isNull() ? QStringLiteral("(the page's process ended)") : our.found,
-         engine.holds ? QStringLiteral("as expected") : engine.found});
+    const auto told = [](const Outcome &outcome) {
+      if (outcome.holds) return QStringLiteral("as expected");
+      return outcome.found.isNull() ? QStringLiteral("(the page's process ended)") : outcome.found;
+    };
+    sum.differences.push_back({row[u"input"].toString(), row[u"todo"].toString(),
+                               row[u"expected"].toString(), told(our), told(engine), shown});
   }
   return sum;
 }
@@ -130,7 +133,7 @@ std::vector<EditingSuite::Outcome> EditingSuite::RunRows(const QString &way, int
     for (const QJsonValue &each : answer->toArray()) {
       const QJsonValue states = each[u"states"];
       outcomes.push_back({each[u"holds"].toBool(), each[u"found"].toString(),
-                          states.isBool() ? std::optional(states.toBool()) : std::nullopt});
+                          states.isString() ? std::optional(states.toString()) : std::nullopt});
     }
   }
   return outcomes;

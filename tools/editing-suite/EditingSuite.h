@@ -11,14 +11,18 @@
 
 namespace velor {
 
-/// A row whose markup the bridge left otherwise than the suite expects.
+/// A row that the bridge left otherwise than the suite expects, or of which it shows something
+/// else.
 struct SuiteDifference {
   QString input;
   QString commands;
   QString expected;
+  /// "as expected" where only what is shown differs.
   QString ours;
   /// What the engine alone left, or "as expected".
   QString plain;
+  /// What buttons and boxes show otherwise than expected; empty for nothing.
+  QString shown;
 };
 
 /// How many rows of a file hold.
@@ -53,7 +57,8 @@ class EditingSuite {
   struct Outcome {
     bool holds = false;
     QString found;
-    std::optional<bool> states;
+    /// What is shown otherwise than expected; none where the row expects nothing to be shown.
+    std::optional<QString> shown;
   };
 
   SuiteResult RunIn(Dialect dialect);

@@ -14,7 +14,7 @@
   // `value(text)`: a row's value in the program's vocabulary, null for one that it does not have.
   // `run(value, name)`: carries the command out.
   // `answers()`: what the program shows of the selection, as far as the suite asks for it:
-  // {indeterm, state, value}; `means(value)`: the suite's value in the same spelling.
+  // {indeterm, state} or {indeterm, value}; `means(value)`: the suite's value in the same spelling.
   const status = (number) => () => {
     const shown = velor.status(number);
     return { indeterm: shown === 11, state: shown === 7 };

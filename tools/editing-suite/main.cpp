@@ -41,6 +41,7 @@ void PrintDifferences(const velor::SuiteResult &result) {
                 qUtf8Printable(each.input), qUtf8Printable(each.commands),
                 qUtf8Printable(each.expected), qUtf8Printable(each.ours),
                 qUtf8Printable(each.plain));
+    if (!each.shown.isEmpty()) std::printf("  shown     %s\n", qUtf8Printable(each.shown));
   }
 }
 

@@ -25,32 +25,35 @@
     document.body.innerHTML = html;
   }
 
-  const means = ({ means: spelled = (value) => value }, value) => spelled(value);
-  // True when the program shows what the row expects: mixed, on, the value.
-  function agrees(command, indeterm, state, value) {
+  // What the program shows otherwise than the row expects: mixed, on, the value.
+  function differs([name, command, expected], from) {
+    const [indeterm, state, value] = expected.slice(from);
     const shown = command.answers();
-    if (shown.indeterm !== indeterm) return false;
-    if (shown.state !== undefined) return shown.state === state;
-    const same = (one, other) => one.toUpperCase() === other.toUpperCase();
-    return indeterm || same(shown.value, means(command, value));
+    const told = (answer) => `${name} ${from ? 'after' : 'before'}: ${answer}`;
+    if (shown.indeterm !== indeterm) return told(shown.indeterm ? 'mixed' : 'not mixed');
+    if (shown.state !== undefined) return shown.state === state ? null : told(shown.state);
+    const wanted = command.means(value);
+    const same = indeterm || shown.value.toUpperCase() === wanted.toUpperCase();
+    return same ? null : told(`${shown.value}, not ${wanted}`);
   }
   const asked = (row) => Object.entries(row[4] ?? {})
     .filter(([name]) => suite.commands.get(name)?.answers)
-    .map(([name, expected]) => [suite.commands.get(name), expected]);
+    .map(([name, expected]) => [name, suite.commands.get(name), expected]);
 
   function byBridge(row) {
     clear(row[0]);
     suite.select(document.body);
     velor.start();
     const questions = asked(row);
-    const before = questions.every(([command, values]) => agrees(command, ...values.slice(0, 3)));
+    const before = questions.map((each) => differs(each, 0));
     for (const [name, value = ''] of row[1]) {
       const command = suite.commands.get(name);
       command?.run(command.value(value), name);
     }
     const html = document.body.innerHTML;
-    const after = questions.every(([command, values]) => agrees(command, ...values.slice(3)));
-    return { html, states: questions.length ? before && after : undefined };
+    const after = questions.map((each) => differs(each, 3));
+    const states = [...before, ...after].filter(Boolean).join('; ');
+    return { html, states: questions.length ? states : undefined };
   }
 
   function byEngine([html, todo]) {
