@@ -70,8 +70,21 @@
   function removeEmptied(element) {
     while (dom.isElement(element) && !dom.isCell(element) && !dom.hasContent(element)) {
       const parent = element.parentNode;
-      element.remove();
+      dropBlock(element);
       element = parent;
+    }
+  }
+  // Lines of bare text that only the block kept apart stay apart; lists of a kind become one.
+  function dropBlock(block) {
+    const before = dom.neighbour(block, 'previousSibling');
+    const after = dom.neighbour(block, 'nextSibling');
+    const isLine = (node) => node && !dom.isBlock(node) && !dom.isBreak(node);
+    if (dom.isBlock(block) && isLine(before) && isLine(after)) block.replaceWith(dom.create('BR'));
+    else block.remove();
+    if (dom.isList(before) && dom.isList(after) && before.tagName === after.tagName &&
+        (dom.sameAttributes(before, after) || !after.attributes.length)) {
+      before.append(...after.childNodes);
+      after.remove();
     }
   }
 
@@ -270,23 +283,32 @@
     return back ? () => joinAt(other, unit) : () => joinAt(unit, other);
   }
 
-  function joinAt(first, second) {
-    let place = null;
-    if (hollow(first)) {
-      removeEmptiedBlock(first.block);
-      place = startOf(second.nodes[0] ?? second.container);
-    } else if (hollow(second)) {
-      removeEmptiedBlock(second.block);
-      place = endOf(first.nodes.at(-1) ?? first.container);
-    } else {
-      place = join(first, second);
-    }
-    velor.selection.setCaret(...velor.selection.place(place));
+  // The break that is an empty line of bare text, where the run begins or ends with one. An item's
+  // or a cell's only line is that item or cell.
+  function emptyLine({ block, nodes, container }, side) {
+    const [edge, inner] = side === 'start' ? nodes : [nodes.at(-1), nodes.at(-2)];
+    if (block || velor.lists.isItem(container) || !dom.isBreak(edge)) return null;
+    if (!dom.neighbour(edge, 'previousSibling') && !dom.neighbour(edge, 'nextSibling')) return null;
+    return side === 'start' || !inner || dom.isBreak(inner) ? edge : null;
   }
-  function removeEmptiedBlock(block) {
-    const parent = block.parentNode;
-    block.remove();
-    removeEmptied(parent);
+
+  function joinAt(first, second) {
+    const above = emptyLine(first, 'end') ?? (hollow(first) ? first.block : null);
+    const below = emptyLine(second, 'start') ?? (hollow(second) ? second.block : null);
+    // Bare text has the emptied paragraph for its own.
+    const takesIn = !second.block && above?.tagName === 'P';
+    const emptied = takesIn ? null : above ?? below;
+    if (takesIn) above.replaceChildren();
+    if (!emptied) {
+      velor.selection.setCaret(...velor.selection.place(join(first, second)));
+      return;
+    }
+    const { parentNode } = emptied;
+    dropBlock(emptied);
+    const place = emptied === above ? startOf(second.nodes[0] ?? second.container)
+      : endOf(first.nodes.at(-1) ?? first.container);
+    removeEmptied(parentNode);
+    velor.selection.setCaret(...velor.selection.place(place));
   }
   function startsItem(unit) {
     const item = velor.lists.itemOf(unit);

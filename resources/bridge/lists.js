@@ -243,5 +243,5 @@
     return item && dom.isList(item.parentNode) ? item.parentNode.tagName : null;
   };
 
-  velor.lists = { groupsOf, make, unlist, nest, outdent, leave, tagOf, itemOf };
+  velor.lists = { groupsOf, make, unlist, nest, outdent, leave, tagOf, itemOf, isItem };
 })();
