@@ -224,11 +224,18 @@
     velor.selection.setCaret(...start);
   }
 
-  const shownBetween = (range) =>
-    [...velor.selection.leavesIn(range)].some((leaf) => dom.isShown(leaf) &&
-      (!dom.isText(leaf) ||
-        (leaf !== range.startContainer || range.startOffset < leaf.length) &&
-        (leaf !== range.endContainer || range.endOffset > 0)));
+  const keepsBlanks = (text) => /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
+  // True when something shows between the edge of a paragraph and a place in it: white space there
+  // does not.
+  function shownBetween({ startContainer, startOffset, endContainer, endOffset }, leaves) {
+    return leaves.some((leaf) => {
+      if (!dom.isShown(leaf)) return false;
+      if (!dom.isText(leaf)) return true;
+      const from = leaf === startContainer ? startOffset : 0;
+      const text = leaf.data.slice(from, leaf === endContainer ? endOffset : leaf.length);
+      return text !== '' && (keepsBlanks(leaf) || /[^ \t\n]/.test(text));
+    });
+  }
 
   function atEdge(range, unit, side) {
     const [first, last] = [unit.nodes[0], unit.nodes.at(-1)];
@@ -236,14 +243,29 @@
     const rest = range.cloneRange();
     if (side === 'start') rest.setStartBefore(first);
     else rest.setEndAfter(dom.isBreak(last) && last !== first ? last.previousSibling : last);
-    return rest.collapsed || dom.isHollow(unit.block || unit.container) || !shownBetween(rest);
+    return rest.collapsed || dom.isHollow(unit.block || unit.container) ||
+      !shownBetween(rest, [...velor.selection.leavesIn(rest)]);
+  }
+
+  // An element without content that takes no place either.
+  const isNothing = (node) => dom.isElement(node) && !dom.hasContent(node) &&
+    node.getBoundingClientRect().height * node.getBoundingClientRect().width === 0;
+  // Takes away what is nothing between two paragraphs, less what may be a link's target.
+  function clearBetween(first, second) {
+    const range = document.createRange();
+    range.setStartAfter(first.nodes.at(-1) ?? first.container);
+    range.setEndBefore(second.nodes[0] ?? second.container);
+    for (const leaf of [...velor.selection.leavesIn(range)]) {
+      if (isNothing(leaf) && dom.isBlock(leaf) && !leaf.id && !leaf.firstChild) leaf.remove();
+    }
   }
 
   // The nearest shown leaf before or after a node; null at the edge of its cell.
   function leafBeside(node, side) {
     const cell = cellOf(node);
     for (let at = node; at && at !== cell; at = at.parentNode) {
-      const beside = dom.neighbour(at, side);
+      let beside = dom.neighbour(at, side);
+      while (isNothing(beside)) beside = dom.neighbour(beside, side);
       if (!beside) continue;
       if (beside.tagName === 'TABLE') return beside;
       return side === 'previousSibling' ? lastShown(beside) : firstShown(beside);
@@ -292,7 +314,20 @@
     return side === 'start' || !inner || dom.isBreak(inner) ? edge : null;
   }
 
+  // White space that showed nothing at the edges of two paragraphs would be a blank between them. A
+  // blank alone may have been typed at the end of the first.
+  function trimEdges(first, second) {
+    const last = first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null;
+    const next = second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null;
+    const layout = dom.isText(last) && !keepsBlanks(last) && /[ \t\n]{2,}$|\n$/.exec(last.data);
+    if (layout) last.deleteData(layout.index, layout[0].length);
+    if (dom.isText(next) && !keepsBlanks(next)) {
+      next.deleteData(0, /^[ \t\n]*/.exec(next.data)[0].length);
+    }
+  }
+
   function joinAt(first, second) {
+    clearBetween(first, second);
     const above = emptyLine(first, 'end') ?? (hollow(first) ? first.block : null);
     const below = emptyLine(second, 'start') ?? (hollow(second) ? second.block : null);
     // Bare text has the emptied paragraph for its own.
@@ -300,6 +335,7 @@
     const emptied = takesIn ? null : above ?? below;
     if (takesIn) above.replaceChildren();
     if (!emptied) {
+      trimEdges(first, second);
       velor.selection.setCaret(...velor.selection.place(join(first, second)));
       return;
     }

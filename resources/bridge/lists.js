@@ -186,6 +186,7 @@
     if (behind.some(dom.isShown)) last.append(...behind);
     (outer.tagName === 'LI' ? outer : list).after(...group);
     if (!itemsIn(list).length) list.remove();
+    if (outer.tagName === 'LI' && !dom.hasContent(outer)) outer.remove();
   }
 
   // The list at an item's end that takes further items of a list's kind.
