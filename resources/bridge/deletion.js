@@ -83,8 +83,7 @@
     else block.remove();
     if (dom.isList(before) && dom.isList(after) && before.tagName === after.tagName &&
         (dom.sameAttributes(before, after) || !after.attributes.length)) {
-      before.append(...after.childNodes);
-      after.remove();
+      dom.absorb(before, after);
     }
   }
 

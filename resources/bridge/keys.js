@@ -243,7 +243,8 @@
   // A definition follows a term, and a term a definition.
   function alternate(block) {
     const item = block.closest('DT, DD');
-    if (!item || !dom.isHollow(item)) return;
+    const others = item && [...item.childNodes].some((node) => node !== block && dom.isShown(node));
+    if (!item || item !== block && others) return;
     const before = dom.neighbour(item, 'previousSibling');
     if (before?.tagName !== item.tagName) return;
     const kept = velor.selection.keep();
@@ -254,11 +255,12 @@
   // The break that held a line open is not needed where text stands before it.
   function tidySplit() {
     dropDoubledId();
-    const block = dom.blockOf(velor.selection.points().anchorNode);
-    if (dom.isHollow(block)) {
-      leaveLink(block);
-      alternate(block);
+    const split = dom.blockOf(velor.selection.points().anchorNode);
+    if (dom.isHollow(split)) {
+      leaveLink(split);
+      alternate(split);
     }
+    const block = dom.successor(split);
     const first = dom.neighbour(block, 'previousSibling');
     if (!dom.isElement(first) || !dom.isBlock(first) || dom.isHollow(first)) return;
     const last = dom.lastLeaf(first);

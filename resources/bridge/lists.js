@@ -54,14 +54,12 @@
     const before = dom.neighbour(list, 'previousSibling');
     const after = dom.neighbour(list, 'nextSibling');
     if (alike(before)) {
-      before.append(...list.childNodes);
-      list.remove();
+      dom.absorb(before, list);
       list = before;
     }
     if (after && dom.isElement(after) && after.tagName === list.tagName &&
         (dom.sameAttributes(list, after) || !after.attributes.length)) {
-      list.append(...after.childNodes);
-      after.remove();
+      dom.absorb(list, after);
     }
     return list;
   }
