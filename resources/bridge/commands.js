@@ -89,7 +89,7 @@
 
   const justify = (side) => ({
     status: (view) => spread(view.units(), (unit) => velor.align.read(unit) === side),
-    run: onUnits((units) => units.forEach((unit) => velor.align.apply(unit, side))),
+    run: onUnits((units) => velor.align.applyAll(units, side)),
   });
 
   const list = (tag) => {
