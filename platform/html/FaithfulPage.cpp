@@ -209,7 +209,7 @@ std::optional<SavedPage> FaithfulPage::Moved(const QString &wantedAgain,
                   original_.page.encoding.lineEnds);
   const auto patches = plan.patcher.For(plan.edits, plan.steps);
   if (!patches) return std::nullopt;
-  if (verifier.Serialisation(Patched(mask_.MaskedText(), *patches)) != wantedAgain)
+  if (verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wantedAgain) != wantedAgain)
     return std::nullopt;
   return Splice(*patches, SaveRung::Edits);
 }

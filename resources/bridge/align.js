@@ -36,20 +36,38 @@
     const before = (element.getAttribute('style') ?? '').replace(/;?\s*$/, '');
     element.setAttribute('style', (before ? [before] : []).concat(declarations).join('; '));
   }
-  function write(element, side, hadAttribute) {
-    if (hadAttribute || !velor.dom.writesStyles()) element.setAttribute('align', side);
-    else if (!objects.has(element.tagName)) addStyle(element, `text-align: ${side}`);
+  // Where the page has an alignment of its own it stays: in the attribute or in the style.
+  const spellingOf = (element) => {
+    if (element.hasAttribute('align')) return 'attribute';
+    return element.style.textAlign ? 'style' : null;
+  };
+  function write(element, side, spelling) {
+    const styled = velor.dom.writesStyles();
+    if (spelling === 'attribute' || !spelling && !styled) element.setAttribute('align', side);
+    else if (!objects.has(element.tagName)) velor.putDeclaration(element, 'text-align', side);
     else addStyle(element, margins[side].map((margin) => `${margin}: auto`));
   }
 
+  // An attribute that is written anew stays in its place among the others: without a value it aligns
+  // nothing.
   function clear(element) {
     velor.history.attributesOf(element);
-    element.removeAttribute('align');
+    if (element.hasAttribute('align')) element.setAttribute('align', '');
     if (element.style.textAlign) velor.takeDeclaration(element, 'text-align');
     if (!objects.has(element.tagName)) return;
     for (const margin of margins.center) {
       if (element.style.getPropertyValue(margin) === 'auto') velor.takeDeclaration(element, margin);
     }
+  }
+
+  // Gives the element the alignment; tells whether it has to be written there.
+  function change(element, side) {
+    const spelling = spellingOf(element);
+    clear(element);
+    const plain = objects.has(element.tagName) ? side === 'left' : sideOf(element) === side;
+    if (!plain) write(element, side, spelling);
+    else element.removeAttribute('align');
+    return !plain;
   }
 
   // Bare text in the body becomes a paragraph; in a cell or an item, where a paragraph would bring
@@ -58,16 +76,37 @@
     if (read(unit) === side) return;
     let element = bearer(unit);
     if (element) {
-      const hadAttribute = element.hasAttribute('align');
-      clear(element);
-      const plain = objects.has(element.tagName) ? side === 'left' : sideOf(element) === side;
-      if (!plain) write(element, side, hadAttribute);
-      else dissolve(element);
+      if (!change(element, side)) dissolve(element);
       return;
     }
     const tag = /^(LI|DD|DT|TD|TH|CAPTION)$/.test(unit.container.tagName) ? 'DIV' : 'P';
     element = velor.units.enclose(unit, dom.create(tag));
-    write(element, side, false);
+    write(element, side, null);
+  }
+
+  const keyOf = ({ block, nodes, container }) => block ?? nodes[0] ?? container;
+  const within = (element) => {
+    const range = document.createRange();
+    range.selectNodeContents(element);
+    return velor.units.unitsIn(range);
+  };
+
+  // The elements that align the units and nothing else: these are changed, not doubled inside.
+  function carriersOf(units, side) {
+    const chosen = new Set(units.map(keyOf));
+    const judged = new Map();
+    for (const unit of units) {
+      const isCarrier = (node) => /^(DIV|BLOCKQUOTE|TD|TH)$/.test(node.tagName) && spellingOf(node);
+      const at = dom.ancestor(unit.block?.parentNode ?? unit.container, isCarrier);
+      if (!at || judged.has(at) || read(unit) === side) continue;
+      judged.set(at, within(at).every((each) => chosen.has(keyOf(each))));
+    }
+    return [...judged.keys()].filter((element) => judged.get(element));
+  }
+
+  function applyAll(units, side) {
+    for (const carrier of carriersOf(units, side)) change(carrier, side);
+    units.forEach((unit) => apply(unit, side));
   }
 
   // A division that only carried the alignment of an item goes with it.
@@ -80,5 +119,5 @@
     }
   }
 
-  velor.align = { read, apply };
+  velor.align = { read, applyAll };
 })();

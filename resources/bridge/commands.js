@@ -45,7 +45,7 @@
       object: velor.selection.control(range),
       elements: once(() => {
         const texts = velor.selection.textsIn(range, velor.selection.leafLimit);
-        return [...new Set(texts.map((text) => text.parentElement))];
+        return [...new Set(texts.map((text) => text.parentElement))].filter(velor.inline.takes);
       }),
       units: once(() => velor.units.unitsIn(range, velor.selection.leafLimit)),
     };
@@ -66,7 +66,9 @@
     else velor.inline.apply(name, value, range);
   }
 
-  const whereText = (status) => (view) => (view.object ? Disabled : status(view));
+  const takesFormats = ({ object, range, elements }) => !object &&
+    (elements().length > 0 || velor.inline.takes(velor.selection.caretElement(range)));
+  const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Disabled);
   // What is done is done to all of the selection, however little of it the answer was read from.
   const onUnits = (change) => (value, view) => {
     const kept = velor.selection.keep();
@@ -90,7 +92,7 @@
 
   const justify = (side) => ({
     status: (view) => spread(view.units(), (unit) => velor.align.read(unit) === side),
-    run: onUnits((units) => units.forEach((unit) => velor.align.apply(unit, side))),
+    run: onUnits((units) => velor.align.applyAll(units, side)),
   });
 
   const list = (tag) => {

@@ -70,8 +70,20 @@
   function removeEmptied(element) {
     while (dom.isElement(element) && !dom.isCell(element) && !dom.hasContent(element)) {
       const parent = element.parentNode;
-      element.remove();
+      dropBlock(element);
       element = parent;
+    }
+  }
+  // Lines of bare text that only the block kept apart stay apart; lists of a kind become one.
+  function dropBlock(block) {
+    const before = dom.neighbour(block, 'previousSibling');
+    const after = dom.neighbour(block, 'nextSibling');
+    const isLine = (node) => node && !dom.isBlock(node) && !dom.isBreak(node);
+    if (dom.isBlock(block) && isLine(before) && isLine(after)) block.replaceWith(dom.create('BR'));
+    else block.remove();
+    if (dom.isList(before) && dom.isList(after) && before.tagName === after.tagName &&
+        (dom.sameAttributes(before, after) || !after.attributes.length)) {
+      dom.absorb(before, after);
     }
   }
 
@@ -211,11 +223,17 @@
     velor.selection.setCaret(...start);
   }
 
+  const keepsBlanks = (text) => /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
+  // True when something shows between the edge of a paragraph and a place in it: white space there
+  // does not.
   function shownBetween(range) {
+    const { startContainer, startOffset, endContainer, endOffset } = range;
     for (const leaf of velor.selection.leavesIn(range)) {
-      if (dom.isShown(leaf) && (!dom.isText(leaf) ||
-          (leaf !== range.startContainer || range.startOffset < leaf.length) &&
-          (leaf !== range.endContainer || range.endOffset > 0))) return true;
+      if (!dom.isShown(leaf)) continue;
+      if (!dom.isText(leaf)) return true;
+      const from = leaf === startContainer ? startOffset : 0;
+      const text = leaf.data.slice(from, leaf === endContainer ? endOffset : leaf.length);
+      if (text !== '' && (keepsBlanks(leaf) || /[^ \t\n]/.test(text))) return true;
     }
     return false;
   }
@@ -229,11 +247,25 @@
     return rest.collapsed || !shownBetween(rest) || dom.isHollow(unit.home);
   }
 
+  // An element without content that takes no place either.
+  const isNothing = (node) => dom.isElement(node) && !dom.hasContent(node) &&
+    node.getBoundingClientRect().height * node.getBoundingClientRect().width === 0;
+  // Takes away what is nothing between two paragraphs, less what may be a link's target.
+  function clearBetween(first, second) {
+    const range = document.createRange();
+    range.setStartAfter(first.nodes.at(-1) ?? first.container);
+    range.setEndBefore(second.nodes[0] ?? second.container);
+    for (const leaf of [...velor.selection.leavesIn(range)]) {
+      if (isNothing(leaf) && dom.isBlock(leaf) && !leaf.id && !leaf.firstChild) leaf.remove();
+    }
+  }
+
   // The nearest shown leaf before or after a node; null at the edge of its cell.
   function leafBeside(node, side) {
     const cell = cellOf(node);
     for (let at = node; at && at !== cell; at = at.parentNode) {
-      const beside = dom.neighbour(at, side);
+      let beside = dom.neighbour(at, side);
+      while (isNothing(beside)) beside = dom.neighbour(beside, side);
       if (!beside) continue;
       if (beside.tagName === 'TABLE') return beside;
       return side === 'previousSibling' ? lastShown(beside) : firstShown(beside);
@@ -279,23 +311,46 @@
     return back ? () => joinAt(other, unit) : () => joinAt(unit, other);
   }
 
-  function joinAt(first, second) {
-    let place = null;
-    if (hollow(first)) {
-      removeEmptiedBlock(first.block);
-      place = startOf(second.nodes[0] ?? second.container);
-    } else if (hollow(second)) {
-      removeEmptiedBlock(second.block);
-      place = endOf(first.nodes.at(-1) ?? first.container);
-    } else {
-      place = join(first, second);
-    }
-    velor.selection.setCaret(...velor.selection.place(place));
+  // The break that is an empty line of bare text, where the run begins or ends with one. An item's
+  // or a cell's only line is that item or cell.
+  function emptyLine({ block, nodes, container }, side) {
+    const [edge, inner] = side === 'start' ? nodes : [nodes.at(-1), nodes.at(-2)];
+    if (block || velor.lists.isItem(container) || !dom.isBreak(edge)) return null;
+    if (!dom.neighbour(edge, 'previousSibling') && !dom.neighbour(edge, 'nextSibling')) return null;
+    return side === 'start' || !inner || dom.isBreak(inner) ? edge : null;
   }
-  function removeEmptiedBlock(block) {
-    const parent = block.parentNode;
-    block.remove();
-    removeEmptied(parent);
+
+  // White space that showed nothing at the edges of two paragraphs would be a blank between them. A
+  // blank alone may have been typed at the end of the first.
+  function trimEdges(first, second) {
+    const last = first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null;
+    const next = second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null;
+    const layout = dom.isText(last) && !keepsBlanks(last) && /[ \t\n]{2,}$|\n$/.exec(last.data);
+    if (layout) last.deleteData(layout.index, layout[0].length);
+    if (dom.isText(next) && !keepsBlanks(next)) {
+      next.deleteData(0, /^[ \t\n]*/.exec(next.data)[0].length);
+    }
+  }
+
+  function joinAt(first, second) {
+    clearBetween(first, second);
+    const above = emptyLine(first, 'end') ?? (hollow(first) ? first.block : null);
+    const below = emptyLine(second, 'start') ?? (hollow(second) ? second.block : null);
+    // Bare text has the emptied paragraph for its own.
+    const takesIn = !second.block && above?.tagName === 'P';
+    const emptied = takesIn ? null : above ?? below;
+    if (takesIn) above.replaceChildren();
+    if (!emptied) {
+      trimEdges(first, second);
+      velor.selection.setCaret(...velor.selection.place(join(first, second)));
+      return;
+    }
+    const { parentNode } = emptied;
+    dropBlock(emptied);
+    const place = emptied === above ? startOf(second.nodes[0] ?? second.container)
+      : endOf(first.nodes.at(-1) ?? first.container);
+    removeEmptied(parentNode);
+    velor.selection.setCaret(...velor.selection.place(place));
   }
   function startsItem(unit) {
     const item = velor.lists.itemOf(unit);

@@ -135,6 +135,14 @@
     return element;
   }
 
+  // Takes the content of the next element in, and the white space between the two.
+  function absorb(element, next) {
+    const between = [];
+    for (let at = element.nextSibling; at !== next; at = at.nextSibling) between.push(at);
+    element.append(...between, ...next.childNodes);
+    next.remove();
+  }
+
   // The element again, empty; an id stays with the first of the two.
   function twin(element) {
     const copy = element.cloneNode(false);
@@ -221,7 +229,7 @@
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),
     nextNode, nextSkippingChildren, ancestor, blockOf, firstLeaf, lastLeaf, create, successor,
-    rename, unwrap, wrap, twin, splitBefore, neighbour, sameAttributes, sameLooks, shownText,
+    rename, unwrap, wrap, absorb, twin, splitBefore, neighbour, sameAttributes, sameLooks, shownText,
     hasContent, isHollow,
   };
 })();

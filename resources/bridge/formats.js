@@ -9,12 +9,15 @@
 
   const style = (element) => getComputedStyle(element);
 
-  function hex(colour) {
-    const [red, green, blue] = colour.match(/[\d.]+/g).map(Number);
-    const digits = (part) => Math.round(part).toString(16).padStart(2, '0').toUpperCase();
-    return `#${digits(red)}${digits(green)}${digits(blue)}`;
+  // A computed colour: red, green, blue up to 255, and how much it covers, up to 1.
+  function parts(colour) {
+    const [red, green, blue, cover = 1] = colour.match(/[\d.]+/g).map(Number);
+    return { light: [red, green, blue], cover };
   }
-  const transparent = (colour) => /^rgba\(.*, 0\)$/.test(colour) || colour === 'transparent';
+  const laidOn = (ground, { light, cover }) =>
+    light.map((part, index) => part * cover + ground[index] * (1 - cover));
+  const hex = (light) => '#' +
+    light.map((part) => Math.round(part).toString(16).padStart(2, '0').toUpperCase()).join('');
 
   // CSS pixels are 96 an inch, points 72.
   const points = (pixels) => String(Math.round((parseFloat(pixels) * 72) / 96));
@@ -66,17 +69,43 @@
     if (!byNature && textDecorationLine.includes('underline')) return true;
     return /^(inline-block|inline-table)$/.test(display) ? false : undefined;
   }, false);
-  const background = outwards((at) => {
-    const { backgroundColor } = style(at);
-    return transparent(backgroundColor) ? undefined : hex(backgroundColor);
-  }, '#FFFFFF');
+  // What the eye sees behind text: the colours of the ancestors, as far down as they let it through.
+  function ground(element, known = new Map()) {
+    const layers = [];
+    let light = [255, 255, 255];
+    for (const at of ancestors(element)) {
+      if (known.has(at)) {
+        light = known.get(at);
+        break;
+      }
+      const layer = parts(style(at).backgroundColor);
+      layers.push({ at, layer });
+      if (layer.cover === 1) break;
+    }
+    for (const { at, layer } of layers.reverse()) {
+      light = laidOn(light, layer);
+      known.set(at, light);
+    }
+    return light;
+  }
+  function textColour(element, known) {
+    const own = parts(style(element).color);
+    return own.cover === 1 ? own.light : laidOn(ground(element, known), own);
+  }
 
+  // The size that a FONT asks for, 1 to 7, as the engine reads it; 0 for none.
+  function fontNumber(font) {
+    const [, sign, digits] = /^\s*([+-]?)(\d+)/.exec(font.getAttribute('size') ?? '') ?? [];
+    if (!digits) return 0;
+    const number = sign ? 3 + Number(sign + digits) : Number(digits);
+    return Math.min(Math.max(number, 1), sizePoints.length);
+  }
   // A FONT has one of the seven sizes, whatever they come to in the typeface at hand.
   function fontSize(element) {
     for (const at of ancestors(element)) {
       if (velor.dom.isBlock(at) || at.tagName === 'FONT' && at.style.fontSize) break;
-      const size = at.tagName === 'FONT' ? Number(at.getAttribute('size')) : 0;
-      if (sizePoints[size - 1]) return String(sizePoints[size - 1]);
+      const size = at.tagName === 'FONT' ? fontNumber(at) : 0;
+      if (size) return String(sizePoints[size - 1]);
       if (formats.fontSize.carries(at)) break;
     }
     return points(style(element).fontSize);
@@ -116,11 +145,25 @@
   // read(element, known): the value of text in it; `known` may be a map for what one pass over an
   // unchanged page finds out. tags: elements that are nothing but the format.
   // attribute: FONT's, with a value's spelling there. property: of an inline style, with a value's
-  // spelling there. write(value): the element to put around text.
+  // spelling there; part: the word in its value that the format is, where others may stand beside
+  // it. write(value): the element to put around text; inLike(value): the same within another one.
   function format(entry) {
     const tags = new Set(entry.tags);
     const spelled = (value) => value;
-    const { property, attribute, inAttribute = spelled, inStyle = spelled } = entry;
+    const { property, attribute, part, inAttribute = spelled, inStyle = spelled } = entry;
+    const written = ({ style: own }) =>
+      (part ? own.textDecorationLine : own.getPropertyValue(property));
+    const isStyled = (element) =>
+      (part ? written(element).split(' ').includes(part) : written(element) !== '');
+    // Other words of the same declaration stay.
+    function unstyle(element) {
+      const shared = part && written(element) !== part &&
+        declarations(element).find((each) => /^\s*text-decoration(-line)?\s*:/i.test(each));
+      if (!shared) return takeDeclaration(element, property);
+      const [name, value] = shared.split(':');
+      const others = value.split(/\s+/).filter((word) => word && word.toLowerCase() !== part);
+      return putDeclaration(element, name.trim().toLowerCase(), others.join(' '));
+    }
     const style = (value) => css(property)(inStyle(value));
     return {
       write: (value) => (attribute && !velor.dom.writesStyles()
@@ -129,8 +172,7 @@
       inAttribute,
       carries: (element) => isInline(element) && (tags.has(element.tagName) ||
         (element.tagName === 'FONT' && element.hasAttribute(entry.attribute))) ||
-        (isInline(element) || holdsText(element)) &&
-        element.style.getPropertyValue(entry.property) !== '',
+        (isInline(element) || holdsText(element)) && isStyled(element),
       // An empty element of the same format, to go around what keeps it.
       shell(element) {
         if (tags.has(element.tagName)) return create(element.tagName);
@@ -138,16 +180,14 @@
         if (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) {
           return create('FONT', { [entry.attribute]: element.getAttribute(entry.attribute) });
         }
-        const written = declarations(element).find(isOf(entry.property))?.trim();
-        const value = element.style.getPropertyValue(entry.property);
-        return create('SPAN', { style: written ?? `${entry.property}: ${value}` });
+        if (part) return this.write(true);
+        const own = declarations(element).find(isOf(property))?.trim();
+        return create('SPAN', { style: own ?? `${property}: ${written(element)}` });
       },
-      // Takes the format off the element; tells what is left of it.
+      // Takes the format off the element.
       strip(element) {
         velor.history.attributesOf(element);
-        if (element.style.getPropertyValue(entry.property)) {
-          takeDeclaration(element, entry.property);
-        }
+        if (isStyled(element)) unstyle(element);
         if (element.tagName === 'FONT') element.removeAttribute(entry.attribute);
         if (tags.has(element.tagName)) {
           if (element.attributes.length) velor.dom.rename(element, 'SPAN');
@@ -170,14 +210,16 @@
     bold: format({
       read: bold, tags: ['B', 'STRONG'], property: 'font-weight',
       write: (on) => (on ? create('B') : css('font-weight')('normal')),
+      inLike: () => css('font-weight')('bold'),
     }),
     italic: format({
       read: (element) => style(element).fontStyle !== 'normal',
       tags: ['I', 'EM'], property: 'font-style',
       write: (on) => (on ? create('I') : css('font-style')('normal')),
+      inLike: () => css('font-style')('italic'),
     }),
     underline: format({
-      read: underline, tags: ['U', 'INS'], property: 'text-decoration',
+      read: underline, tags: ['U', 'INS'], property: 'text-decoration', part: 'underline',
       // A line drawn by an ancestor cannot be taken off from inside.
       write: (on) => (on ? create('U') : null),
     }),
@@ -192,11 +234,12 @@
       property: 'font-size', inStyle: (value) => `${value}pt`,
     }),
     foreColor: format({
-      read: (element) => hex(style(element).color),
+      read: (element, known) => hex(textColour(element, known)),
       tags: [], attribute: 'color', property: 'color', insideLinks: true,
     }),
     backColor: format({
-      read: background, tags: [], property: 'background-color',
+      read: (element, known) => hex(ground(element, known)), tags: [],
+      property: 'background-color',
     }),
   };
   const same = (one, other) => String(one).toUpperCase() === String(other).toUpperCase();

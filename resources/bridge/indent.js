@@ -35,14 +35,12 @@
   function join(quote) {
     const before = dom.neighbour(quote, 'previousSibling');
     if (isQuote(before) && !before.attributes.length && !runsOn(before, quote)) {
-      before.append(...quote.childNodes);
-      quote.remove();
+      dom.absorb(before, quote);
       quote = before;
     }
     const after = dom.neighbour(quote, 'nextSibling');
     if (isQuote(after) && !after.attributes.length && !runsOn(quote, after)) {
-      quote.append(...after.childNodes);
-      after.remove();
+      dom.absorb(quote, after);
     }
   }
 

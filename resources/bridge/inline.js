@@ -7,10 +7,15 @@
   const { velor } = globalThis;
   const dom = velor.dom;
 
+  // Markup put into one of these would be read as text when the page is loaded again.
+  const takes = (element) => !element.closest('XMP, PLAINTEXT');
+  const textsOf = (range) =>
+    velor.selection.textsIn(range).filter((text) => takes(text.parentElement));
+
   // Cuts the texts at the ends of the range out of their longer nodes.
   function isolate(range) {
     const { startContainer, startOffset, endContainer, endOffset } = range;
-    const texts = velor.selection.textsIn(range);
+    const texts = textsOf(range);
     if (!texts.length) return texts;
     const last = texts.at(-1);
     if (last === endContainer && endOffset < last.length) last.splitText(endOffset);
@@ -126,22 +131,38 @@
     return runs;
   }
 
+  // The first element, from one that is all of a run inwards, that fits.
+  function within(run, fits) {
+    let only = run.length === 1 ? run[0] : null;
+    while (dom.isInline(only) && !dom.isAtom(only) && !(only.tagName === 'A') && !fits(only)) {
+      only = only.childNodes.length === 1 ? only.firstChild : null;
+    }
+    return dom.isElement(only) && fits(only) ? only : null;
+  }
+
+  // An element of the same kind that the page's rules have taken the look off does not help.
+  function written(format, value, run) {
+    const element = format.write(value);
+    const inLike = format.inLike && element.tagName !== 'SPAN' &&
+      run[0].parentNode.closest(element.tagName);
+    return inLike ? format.inLike() : element;
+  }
+
   function put(format, run, value) {
-    const [only] = run;
-    const wrapper = format.write(value);
+    const wrapper = written(format, value, run);
     if (!wrapper) return null;
-    if (run.length === 1 && dom.isElement(only)) {
-      // A FONT that is there is used in any dialect.
-      if (only.tagName === 'FONT' && format.attribute) {
-        only.setAttribute(format.attribute, format.inAttribute(value));
-        return only;
-      }
-      if (only.tagName === 'SPAN' && wrapper.tagName === 'SPAN') {
-        const before = (only.getAttribute('style') ?? '').replace(/;?\s*$/, '');
-        const added = wrapper.getAttribute('style');
-        only.setAttribute('style', before ? `${before}; ${added}` : added);
-        return only;
-      }
+    // A FONT that is there is used in any dialect.
+    const font = format.attribute && within(run, ({ tagName }) => tagName === 'FONT');
+    if (font) {
+      font.setAttribute(format.attribute, format.inAttribute(value));
+      return font;
+    }
+    const span = wrapper.tagName === 'SPAN' && within(run, ({ tagName }) => tagName === 'SPAN');
+    if (span) {
+      const before = (span.getAttribute('style') ?? '').replace(/;?\s*$/, '');
+      const added = wrapper.getAttribute('style');
+      span.setAttribute('style', before ? `${before}; ${added}` : added);
+      return span;
     }
     return dom.wrap(run, wrapper);
   }
@@ -223,6 +244,19 @@
     });
   }
 
+  // The elements of the format around the texts that give it to nothing, since all in them needs it
+  // from inside.
+  function outgrown(entry, texts, chosen) {
+    const around = new Set();
+    for (const text of texts) {
+      for (let at = text.parentNode; dom.isInline(at) && !around.has(at); at = at.parentNode) {
+        around.add(at);
+      }
+    }
+    return [...around].filter((element) => entry.tags.includes(element.tagName) &&
+      coverage(element, chosen) === 'all');
+  }
+
   // Puts the format with that value on the texts, which are whole nodes. In passes that first read and
   // then write: the engine works the page's looks out anew for what is read after each change.
   function format(name, value, texts) {
@@ -243,6 +277,7 @@
     const lacks = remembered((element) => !reads(element));
     const left = texts.filter((text) => lacks(text.parentNode));
     const chosen = new Set(left);
+    if (value === true) outgrown(entry, left, chosen).forEach((element) => entry.strip(element));
     const covers = new Map();
     const tops = new Set(left.map((text) => highest(text, chosen, entry, covers)));
     const made = runsOf(tops).map((run) => put(entry, run, value)).filter(Boolean);
@@ -255,7 +290,7 @@
 
   function isThere(name, value, range) {
     const { read, same } = velor.formats[name];
-    const elements = new Set(velor.selection.textsIn(range).map((text) => text.parentNode));
+    const elements = new Set(textsOf(range).map((text) => text.parentNode));
     return [...elements].every((element) => same(read(element), value));
   }
 
@@ -279,5 +314,5 @@
     });
   }
 
-  velor.inline = { apply, joinTexts };
+  velor.inline = { apply, joinTexts, takes };
 })();

@@ -153,6 +153,23 @@
     velor.selection.setCaret(paragraph, 0);
   }
 
+  // The lines of an address are one address; Enter on its empty last line leaves it.
+  function breakAddress(address) {
+    const { startContainer, startOffset } = velor.selection.range();
+    const at = dom.isText(startContainer) ? null : startContainer.childNodes[startOffset];
+    const isLast = dom.isBreak(at) && dom.lastLeaf(address) === at;
+    if (!isLast || !dom.isBreak(at.previousSibling)) {
+      document.execCommand('insertLineBreak');
+      return;
+    }
+    at.previousSibling.remove();
+    at.remove();
+    const paragraph = dom.create('P');
+    paragraph.append(dom.create('BR'));
+    address.after(paragraph);
+    velor.selection.setCaret(paragraph, 0);
+  }
+
   // What Enter does here where the engine would do it badly, else null.
   function ownEnter() {
     if (breaksLine()) return breakLine;
@@ -161,15 +178,21 @@
     if (!unit) return null;
     // A table has one caption.
     if (unit.container.tagName === 'CAPTION') return () => document.execCommand('insertLineBreak');
+    if (unit.block?.tagName === 'ADDRESS' && !dom.isHollow(unit.block)) {
+      return () => breakAddress(unit.block);
+    }
     const item = velor.lists.itemOf(unit);
     return item && dom.isHollow(item) ? () => velor.lists.leave(unit) : null;
   }
 
+  // What the engine was left to carry out: it tells of Enter behind typed text as of more typing.
+  let announced = null;
   let composing = false;  // an input method has written something that is not final yet
 
   function beforeInput(event) {
     if (velor.working || !velor.editable()) return;
     const { inputType } = event;
+    announced = inputType;
     if (commands.has(inputType) || inputType.startsWith('format')) {
       event.preventDefault();
       velor.exec(commands.get(inputType));
@@ -209,10 +232,36 @@
     }
   }
 
+  // A new paragraph that is empty is outside of the link that the one before it ended with.
+  function leaveLink(block) {
+    const link = dom.lastLeaf(block).parentNode.closest('a[href]');
+    if (!link || !block.contains(link)) return;
+    const kept = velor.selection.keep();
+    dom.unwrap(link);
+    velor.selection.restore(kept);
+  }
+
+  // A definition follows a term, and a term a definition.
+  function alternate(block) {
+    const item = block.closest('DT, DD');
+    const others = item && [...item.childNodes].some((node) => node !== block && dom.isShown(node));
+    if (!item || item !== block && others) return;
+    const before = dom.neighbour(item, 'previousSibling');
+    if (before?.tagName !== item.tagName) return;
+    const kept = velor.selection.keep();
+    dom.rename(item, item.tagName === 'DT' ? 'DD' : 'DT');
+    velor.selection.restore(kept);
+  }
+
   // The break that held a line open is not needed where text stands before it.
   function tidySplit() {
     dropDoubledId();
-    const block = dom.blockOf(velor.selection.points().anchorNode);
+    const split = dom.blockOf(velor.selection.points().anchorNode);
+    if (dom.isHollow(split)) {
+      leaveLink(split);
+      alternate(split);
+    }
+    const block = dom.successor(split);
     const first = dom.neighbour(block, 'previousSibling');
     if (!dom.isElement(first) || !dom.isBlock(first) || dom.isHollow(first)) return;
     const last = dom.lastLeaf(first);
@@ -222,11 +271,14 @@
 
   function input(event) {
     if (velor.working) return;
-    if (event.inputType === 'insertParagraph') work(tidySplit);
-    if (event.inputType === 'insertText') work(() => velor.pending.typed(event.data));
+    const { data } = event;
+    const inputType = announced ?? event.inputType;
+    announced = null;
+    if (inputType === 'insertParagraph') work(tidySplit);
+    if (inputType === 'insertText') work(() => velor.pending.typed(data));
     const { anchorNode } = velor.selection.points();
     if (anchorNode) typedIn.add(anchorNode);
-    work(() => velor.blanks.watched(event));
+    work(() => velor.blanks.watched({ inputType, data }));
     velor.pending.moved();
     velor.history.arrive();
     // What the engine changed was mostly told of before it says so.

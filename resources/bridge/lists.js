@@ -54,14 +54,12 @@
     const before = dom.neighbour(list, 'previousSibling');
     const after = dom.neighbour(list, 'nextSibling');
     if (alike(before)) {
-      before.append(...list.childNodes);
-      list.remove();
+      dom.absorb(before, list);
       list = before;
     }
     if (after && dom.isElement(after) && after.tagName === list.tagName &&
         (dom.sameAttributes(list, after) || !after.attributes.length)) {
-      list.append(...after.childNodes);
-      after.remove();
+      dom.absorb(list, after);
     }
     return list;
   }
@@ -186,6 +184,7 @@
     if (behind.some(dom.isShown)) last.append(...behind);
     (outer.tagName === 'LI' ? outer : list).after(...group);
     if (!itemsIn(list).length) list.remove();
+    if (outer.tagName === 'LI' && !dom.hasContent(outer)) outer.remove();
   }
 
   // The list at an item's end that takes further items of a list's kind.
@@ -243,5 +242,5 @@
     return item && dom.isList(item.parentNode) ? item.parentNode.tagName : null;
   };
 
-  velor.lists = { groupsOf, make, unlist, nest, outdent, leave, tagOf, itemOf };
+  velor.lists = { groupsOf, make, unlist, nest, outdent, leave, tagOf, itemOf, isItem };
 })();

@@ -84,7 +84,9 @@
   // The leaves (texts, breaks, objects, empty elements) in a range, in document order.
   function* leavesIn(selected) {
     const { first, stop } = bounds(selected);
-    for (let node = first; node && node !== stop; node = nextNode(node)) {
+    // A range that starts inside an object has all of that object.
+    const object = first && velor.dom.ancestor(first.parentNode, isAtom);
+    for (let node = object ?? first; node && node !== stop; node = nextNode(node)) {
       if (!isNeutral(node) && (isAtom(node) || !node.firstChild)) yield node;
     }
   }

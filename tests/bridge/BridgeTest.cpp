@@ -63,6 +63,16 @@ TEST_F(Bridge, PushesItsFirstStateAfterTheStart) {
   EXPECT_EQ(Text(QStringLiteral("pushed[0].element.tag")), QStringLiteral("P"));
 }
 
+TEST_F(Bridge, MakesTextBoldThatThePagesRulesMadeLightWithoutABoldElementInItsLike) {
+  Load(
+      QStringLiteral("<p><style>.light { font-weight: normal }</style>"
+                     "<b><span class=\"light\">^one|</span></b></p>"));
+  Evaluate(QStringLiteral("velor.exec(5000)"));
+  EXPECT_EQ(Text(QStringLiteral("document.querySelector('p').lastChild.outerHTML")),
+            QStringLiteral("<span class=\"light\"><b>one</b></span>"));
+  EXPECT_EQ(Evaluate(QStringLiteral("velor.status(5000)")).toInt(), 7);
+}
+
 TEST_F(Bridge, PushesAfterAMoveOfTheSelectionWithoutTheMarkup) {
   Load(QStringLiteral("<p>one|</p><h1>two</h1>"));
   CollectPushes();
