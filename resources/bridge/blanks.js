@@ -68,6 +68,28 @@
     held = [...held, { node, index, typed }];
   }
 
+  // In that order, so that a selection that ends behind the character still does.
+  function exchange({ node, index }, text) {
+    node.insertData(index, text);
+    node.deleteData(index + text.length, 1);
+  }
+
+  const keepsBlanks = ({ node }) => /^(pre|break)/.test(getComputedStyle(node.parentNode).whiteSpace);
+
+  // A deletion ends at a place: a blank that HTML would not show there is held, so that what is
+  // typed next stands beside it.
+  function meet(node, offset) {
+    const left = beside(node, offset, 'previousSibling');
+    const right = beside(node, offset, 'nextSibling');
+    const keep = (place) => {
+      if (keepsBlanks(place)) return;
+      exchange(place, noBreak);
+      hold(place.node, place.index, false);
+    };
+    if (isBlank(right) && (!left || isBlank(left))) keep(right);
+    if (isBlank(left) && !right) keep(left);
+  }
+
   // What the texts at the caret were before the engine changed them.
   function watch() {
     const range = velor.selection.range();
@@ -75,8 +97,15 @@
     if (!range) return;
     const left = beside(range.startContainer, range.startOffset, 'previousSibling');
     const right = beside(range.endContainer, range.endOffset, 'nextSibling');
+    // A deletion may reach to the texts beside those.
+    const further = [
+      left?.node && beside(left.node, 0, 'previousSibling'),
+      right?.node && beside(right.node, right.node.length, 'nextSibling'),
+    ];
     const texts = new Map();
-    for (const place of [left, right]) if (place?.node) texts.set(place.node, place.node.data);
+    for (const place of [left, right, ...further]) {
+      if (place?.node) texts.set(place.node, place.node.data);
+    }
     const own = (place) => charAt(place) === noBreak && !isHeld(place);
     before = { texts, ownLeft: own(left), ownRight: own(right) };
   }
@@ -142,23 +171,29 @@
     if (!node.isConnected || node.data[index] !== noBreak) return null;
     const left = beside(node, index, 'previousSibling');
     const right = beside(node, index + 1, 'nextSibling');
+    if (!left && !typed) return '';
     if (!left || charAt(left) === noBreak || charAt(right) === noBreak) return null;
     if (isBlank(left) || isBlank(right)) return typed ? null : '';
     return ' ';
   }
   function settle(place) {
     const text = meant(place);
-    if (text !== null) place.node.replaceData(place.index, 1, text);
+    if (text !== null) exchange(place, text);
   }
 
   velor.blanks = {
-    watch, watched, hold,
+    watch, watched, meet, beside,
     // The caret moved: what it left behind becomes what was meant.
     selectionMoved() {
       const left = held.filter((place) => !atCaret(place));
       if (!left.length) return;
       held = held.filter(atCaret);
       velor.history.amend(() => left.forEach(settle));
+    },
+    // Texts are about to be cut and joined: what is held becomes what was meant.
+    release() {
+      held.forEach(settle);
+      held = [];
     },
     // What is held belongs to the history: a step that is taken back brings back what was held.
     held: () => held,

@@ -122,8 +122,13 @@
           return;
         }
         const join = velor.deletion.joining(range, 'end');
-        if (join) join();
-        else document.execCommand('forwardDelete');
+        if (join) {
+          join();
+          return;
+        }
+        velor.blanks.watch();
+        document.execCommand('forwardDelete');
+        velor.blanks.watched({ inputType: 'deleteContentForward' });
       },
     }],
     [5010, reading('backColor')],
@@ -188,7 +193,12 @@
     velor.working = true;
     try {
       if (command.travel) command.travel();
-      else if (command.run) velor.history.step(number, () => command.run(String(value), view));
+      else if (command.run) {
+        velor.history.step(number, () => {
+          if (!view.range.collapsed) velor.blanks.release();
+          command.run(String(value), view);
+        });
+      }
     } finally {
       velor.working = false;
     }

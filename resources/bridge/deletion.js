@@ -99,8 +99,9 @@
     return nodes;
   };
 
-  // Moves the content of one unit to the end of the one before it. Returns the place between them.
-  function join(first, second) {
+  // Moves the content of one unit to the end of the one before it; behind the mark where nothing is
+  // left of that. Returns the place between them.
+  function join(first, second, mark) {
     const left = dropTrailingBreak(first.nodes.filter((node) => node.isConnected));
     const home = second.container;
     const { isPreformatted, breakLines } = velor.blocks;
@@ -109,7 +110,7 @@
     const moved = leavesPre ? [...home.childNodes] : second.nodes.filter((node) => node.isConnected);
     const last = left.at(-1);
     const place = last ? endOf(last) : startOf(moved[0] ?? first.container);
-    if (last) last.after(...moved);
+    if (last ?? mark) (last ?? mark).after(...moved);
     else if (first.container.firstChild) first.container.prepend(...moved);
     else first.container.append(...moved);
     const item = velor.lists.itemOf(first);
@@ -127,45 +128,39 @@
     const blocks = new Set();
     for (const leaf of [...velor.selection.leavesIn(range)]) {
       if (!dom.isShown(leaf)) continue;
-      blocks.add(dom.blockOf(leaf));
+      const { parentNode } = leaf;
+      blocks.add(dom.blockOf(parentNode));
       const from = leaf === startContainer ? startOffset : 0;
       if (dom.isText(leaf)) {
         leaf.deleteData(from, (leaf === endContainer ? endOffset : leaf.length) - from);
+        prune(leaf);
       } else {
         leaf.remove();
+        prune(parentNode);
       }
     }
     blocks.forEach(holdOpen);
   }
 
-  // Two blanks would show as one where texts meet.
-  function keepBlanks(node, offset) {
-    const blank = (text, at) => dom.isText(text) && /[ \n]/.test(text.data[at] ?? '');
-    let next = node;
-    let at = offset;
-    if (at === node.length) [next, at] = [node.nextSibling, 0];
-    if (!blank(node, offset - 1) || !blank(next, at)) return;
-    next.replaceData(at, 1, '\u00a0');
-    velor.blanks.hold(next, at, false);
+  // Takes away a text and the inline elements around it that a deletion left without content.
+  function prune(node) {
+    const emptied = (at) => (dom.isText(at) ? !at.length
+      : dom.isInline(at) && !dom.isAtom(at) && !dom.isBreak(at) &&
+        [...at.childNodes].every((child) => dom.isText(child) && !child.length));
+    while (node.isConnected && emptied(node)) {
+      const { parentNode } = node;
+      node.remove();
+      node = parentNode;
+    }
   }
 
-  // Deletes what is selected in one paragraph, as it stands; leaves a caret.
+  // Deletes what is selected in one paragraph, as it stands.
   function cut(range) {
     const block = dom.blockOf(range.startContainer);
-    const ends = [range.startContainer, range.endContainer];
+    const { startContainer, endContainer } = range;
     range.deleteContents();
-    for (const end of ends) {
-      let at = dom.isText(end) && !end.length ? end : end.parentNode;
-      if (dom.isText(end) && !end.length) {
-        at = end.parentNode;
-        end.remove();
-      }
-      while (at?.isConnected && dom.isInline(at) && !dom.isAtom(at) && !at.hasChildNodes()) {
-        const { parentNode } = at;
-        at.remove();
-        at = parentNode;
-      }
-    }
+    prune(startContainer);
+    prune(endContainer);
     holdOpen(block);
   }
 
@@ -174,41 +169,85 @@
       startContainer, startOffset, endContainer, endOffset);
   }
 
-  // Deletes what is selected, whatever it spans; leaves a caret.
-  function remove(range) {
+  // The one thing that is selected: an object, or a closed island in the flow.
+  function thingIn(range) {
     const object = velor.selection.control(range);
-    if (object) {
-      const { parentNode } = object;
-      const block = dom.blockOf(parentNode);
-      const index = velor.selection.indexOf(object);
-      object.remove();
-      holdOpen(block);
-      velor.selection.setCaret(parentNode, Math.min(index, parentNode.childNodes.length));
-      return;
+    if (object) return object;
+    const leaves = [];
+    for (const leaf of velor.selection.leavesIn(range)) {
+      if (!dom.isShown(leaf) || untouched(leaf, range)) continue;
+      leaves.push(leaf);
+      if (leaves.length > 1) return null;
     }
-    const between = inward(range);
-    if (!spansUnits(range)) {
-      select(between);
-      velor.blanks.watch();
-      document.execCommand('delete');
-      velor.blanks.watched({ inputType: 'deleteContent' });
-      return;
-    }
+    return dom.isIsland(leaves[0]) ? leaves[0] : null;
+  }
+  // A text at an end of the range of which nothing is selected.
+  const untouched = (leaf, range) =>
+    leaf === range.startContainer && dom.isText(leaf) && range.startOffset === leaf.length ||
+    leaf === range.endContainer && range.endOffset === 0;
+
+  function removeThing(thing, place) {
+    place.setStartBefore(thing);
+    place.setEndAfter(thing);
+    const { parentNode } = thing;
+    const block = dom.blockOf(parentNode);
+    thing.remove();
+    prune(parentNode);
+    holdOpen(block);
+  }
+
+  // What began before a table or a rule joins nothing: the caret is where the rest begins.
+  function caretInto(unit, place) {
+    const [node] = unit.nodes.filter((each) => each.isConnected);
+    if (!node && !unit.container.isConnected) return;
+    place.setStart(...velor.selection.place(startOf(node ?? unit.container)));
+    place.collapse(true);
+  }
+
+  // Across paragraphs; `place` is where the caret will be.
+  function removeSpan(between, place) {
     const { startContainer, startOffset, endContainer, endOffset } = between;
     const first = unitAt(startContainer, startOffset);
     const second = unitAt(endContainer, endOffset);
+    place.setStart(startContainer, startOffset);
+    place.collapse(true);
     if (!first || !second || cellOf(startContainer) !== cellOf(endContainer)) {
       removeLeaves(between);
-      velor.selection.setCaret(startContainer, startOffset);
       return;
     }
+    const begins = first.container === startContainer ||
+      first.nodes.some((node) => node.contains(startContainer));
+    const mark = document.createTextNode('');
+    if (first.nodes.length) first.nodes[0].before(mark);
+    else first.container.prepend(mark);
     between.deleteContents();
-    const start = startContainer.isConnected ? [startContainer, startOffset] : [first.container, 0];
-    if (second.container.isConnected) join(first, second);
-    else removeEmptied(endContainer);
+    prune(startContainer);
+    prune(endContainer);
+    if (begins && second.container.isConnected) join(first, second, mark);
+    else removeEmptied(dom.blockOf(endContainer));
+    mark.remove();
     holdOpen(first.container);
-    if (dom.isText(start[0])) keepBlanks(...start);
-    velor.selection.setCaret(...start);
+    if (!begins) caretInto(second, place);
+    else if (!first.container.contains(place.startContainer)) place.setStart(first.container, 0);
+  }
+
+  // Deletes what is selected, whatever it spans. Returns the range where it was.
+  function clear(range) {
+    const thing = thingIn(range);
+    const between = inward(range);
+    // Moves along with what changes around it.
+    const place = between.cloneRange();
+    if (thing) removeThing(thing, place);
+    else if (spansUnits(range)) removeSpan(between, place);
+    else cut(place);
+    return place;
+  }
+
+  // Deletes what is selected and puts the caret there.
+  function remove(range) {
+    const { startContainer, startOffset } = clear(range);
+    velor.blanks.meet(startContainer, startOffset);
+    velor.selection.setCaret(startContainer, startOffset);
   }
 
   const shownBetween = (range) =>
@@ -255,10 +294,27 @@
 
   const hollow = (unit) => Boolean(unit.block) && dom.isHollow(unit.block);
 
-  // A deletion at a paragraph's edge. Tells whether there is one, and what carries it out.
+  // The picture, the island and the like that a deletion at a caret means.
+  function thingBeside({ startContainer, startOffset }, side) {
+    const back = side === 'start';
+    const found = velor.blanks.beside(
+      startContainer, startOffset, back ? 'previousSibling' : 'nextSibling');
+    return found?.object ?? null;
+  }
+  function removeBeside(thing) {
+    const range = document.createRange();
+    range.selectNode(thing);
+    remove(range);
+  }
+
+  // A deletion at a caret that is not the engine's. Tells whether there is one, and what carries it
+  // out.
   function joining(range, side) {
     const unit = unitsIn(range)[0];
-    if (!unit || !range.collapsed || !atEdge(range, unit, side)) return null;
+    if (!unit || !range.collapsed) return null;
+    const thing = thingBeside(range, side);
+    if (thing) return () => removeBeside(thing);
+    if (!atEdge(range, unit, side)) return null;
     const back = side === 'start';
     if (back && startsItem(unit)) return () => velor.lists.leave(unit);
     const anchor = unit.block || (back ? unit.nodes[0] : unit.nodes.at(-1)) || unit.container;
@@ -298,5 +354,5 @@
   // Takes the ends of the selection into the blocks that it means, for the engine to type over.
   const tighten = (range) => { if (!range.collapsed) select(inward(range)); };
 
-  velor.deletion = { remove, cut, spansUnits, joining, tighten };
+  velor.deletion = { remove, clear, prune, spansUnits, joining, tighten };
 })();

@@ -98,7 +98,8 @@
     for (let parent = node.parentNode; dom.isInline(parent); parent = parent.parentNode) {
       if (format.insideLinks && parent.tagName === 'A') break;
       if (!covers.has(parent)) {
-        covers.set(parent, !holdsBlock(parent) && coverage(parent, chosen) === 'all');
+        const holdsLink = format.insideLinks && parent.querySelector('a[href]');
+        covers.set(parent, !holdsLink && !holdsBlock(parent) && coverage(parent, chosen) === 'all');
       }
       if (!covers.get(parent)) break;
       node = parent;
@@ -256,6 +257,19 @@
     return [...elements].every((element) => same(read(element), value));
   }
 
+  // Where the selection is to begin or end again: at its outermost text, or beside the picture or
+  // island that it takes in there.
+  function placesOf(texts, range) {
+    const last = texts.at(-1);
+    const places = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    const leaves = [...velor.selection.leavesIn(range)].filter((leaf) => dom.isShown(leaf) &&
+      (leaf !== startContainer || startOffset < leaf.length) &&
+      (leaf !== endContainer || endOffset > 0));
+    const beside = (leaf, side) => dom.isAtom(leaf) && { beside: leaf, side };
+    return [beside(leaves[0], 0) || places[0], beside(leaves.at(-1), 1) || places[1]];
+  }
+
   // Puts a format on the text of the range and selects that text again.
   function apply(name, value, range) {
     if (isThere(name, value, range)) return;
@@ -263,17 +277,12 @@
       document.getSelection().focusOffset === range.startOffset && !range.collapsed;
     const texts = isolate(range);
     if (!texts.length) return;
-    const places = [
-      { node: texts[0], offset: 0 }, { node: texts.at(-1), offset: texts.at(-1).length },
-    ];
+    const places = placesOf(texts, range);
     const touched = format(name, value, texts);
     const parents = new Set([...touched].map((node) => node.parentNode).filter(Boolean));
     parents.forEach((parent) => joinTexts(parent, places));
     const [anchor, focus] = backward ? places.reverse() : places;
-    velor.selection.select({
-      anchorNode: anchor.node, anchorOffset: anchor.offset,
-      focusNode: focus.node, focusOffset: focus.offset,
-    });
+    velor.selection.restore({ anchor, focus });
   }
 
   velor.inline = { apply, joinTexts };

@@ -77,11 +77,36 @@
     return at.data.replace(/[ \t\n]/g, '') === '\u00a0' && !typedIn.has(at) ? at : null;
   }
 
+  // True when all text of the element is selected.
+  function isTaken(element, range) {
+    const { textsIn } = velor.selection;
+    const inside = document.createRange();
+    inside.selectNodeContents(element);
+    const texts = textsIn(inside);
+    const taken = new Set(textsIn(range));
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    return texts.every((text) => taken.has(text)) &&
+      (texts[0] !== startContainer || startOffset === 0) &&
+      (texts.at(-1) !== endContainer || endOffset === endContainer.length);
+  }
+
+  // Typing over all of a link is typing text in its place, as deleting it first would be: the engine
+  // would leave the first letter in it.
+  function unlink(range) {
+    const link = !range.collapsed &&
+      dom.ancestor(range.startContainer, (node) => node.tagName === 'A' && node.href, dom.isBlock);
+    if (!link || !isTaken(link, range)) return;
+    const kept = velor.selection.keep();
+    dom.unwrap(link);
+    velor.selection.restore(kept);
+  }
+
   function prepareInsertion(event) {
     const range = velor.selection.range();
     if (!range) return;
     if (velor.deletion.spansUnits(range)) velor.deletion.remove(range);
     else velor.deletion.tighten(range);
+    unlink(velor.selection.range());
     const [unit] = velor.units.unitsIn(velor.selection.range());
     if (needsParagraph(unit, event)) makeParagraph(unit);
     const holder = fills.has(event.inputType) ? holderOf(unit) : null;
@@ -92,13 +117,10 @@
   function deleted(event) {
     const range = velor.selection.range();
     if (!range) return false;
-    const own = velor.selection.control(range) || velor.deletion.spansUnits(range)
-      ? () => velor.deletion.remove(range)
-      : velor.deletion.joining(range, backward.test(event.inputType) ? 'start' : 'end');
-    if (!own) {
-      velor.deletion.tighten(range);
-      return false;
-    }
+    const own = range.collapsed
+      ? velor.deletion.joining(range, backward.test(event.inputType) ? 'start' : 'end')
+      : () => velor.deletion.remove(range);
+    if (!own) return false;
     velor.history.step('delete', own);
     return true;
   }

@@ -58,6 +58,13 @@
     return runAround(leaf);
   }
 
+  // The last leaf of a node that shows something.
+  function lastShown(node) {
+    if (dom.isAtom(node)) return node;
+    const child = [...node.childNodes].reverse().find(dom.isShown);
+    return child ? lastShown(child) : node;
+  }
+
   // A selected object that is a block itself.
   const objectUnit = (object) => ({ container: object.parentNode, nodes: [object], block: object });
 
@@ -73,8 +80,9 @@
     const next = after && (dom.isShown(after) ? after : dom.neighbour(after, 'nextSibling'));
     const leaf = next ? dom.firstLeaf(next) : dom.lastLeaf(shown.at(-1));
     if (!dom.isBlock(leaf) || !dom.isAtom(leaf)) return unitOf(leaf);
+    if (dom.isIsland(leaf)) return null;
     const near = dom.neighbour(leaf, 'previousSibling') || dom.neighbour(leaf, 'nextSibling');
-    return near && !dom.isAtom(near) ? unitOf(dom.lastLeaf(near)) : null;
+    return near && !dom.isAtom(near) ? unitOf(lastShown(near)) : null;
   }
 
   function unitsIn(range, limit = Infinity) {
