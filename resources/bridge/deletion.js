@@ -245,9 +245,11 @@
 
   // Deletes what is selected and puts the caret there.
   function remove(range) {
+    velor.blanks.watch();
     const { startContainer, startOffset } = clear(range);
     velor.blanks.meet(startContainer, startOffset);
     velor.selection.setCaret(startContainer, startOffset);
+    velor.blanks.watched({ inputType: 'delete' });
   }
 
   const shownBetween = (range) =>
@@ -354,5 +356,5 @@
   // Takes the ends of the selection into the blocks that it means, for the engine to type over.
   const tighten = (range) => { if (!range.collapsed) select(inward(range)); };
 
-  velor.deletion = { remove, clear, prune, spansUnits, joining, tighten };
+  velor.deletion = { remove, clear, prune, holdOpen, startOf, thingIn, spansUnits, joining, tighten };
 })();

@@ -39,80 +39,6 @@
     return !(/^\S/.test(data ?? '') && /\s/.test(before ?? ''));
   }
 
-  // Input that fills an empty paragraph, so that nothing need keep it open any more.
-  const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']);
-
-  // What may hold text without a paragraph around it; one of these that has a name is there once.
-  const bare = /^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER|DIV|SECTION|ARTICLE|MAIN|HEADER|FOOTER|ASIDE|NAV)$/;
-
-  // Bare text becomes a paragraph before it is split; so does the first text of an empty page.
-  function needsParagraph(unit, { inputType }) {
-    if (!unit || unit.block && !unit.block.id || !bare.test(unit.container.tagName)) return false;
-    if (inputType === 'insertParagraph') return true;
-    const empty = unit.container === document.body && dom.isHollow(document.body);
-    return inputType === 'insertText' && empty;
-  }
-  function makeParagraph(unit) {
-    const kept = velor.selection.keep();
-    const paragraph = velor.units.enclose(unit, dom.create('P'));
-    if (!dom.hasContent(paragraph)) {
-      paragraph.append(dom.create('BR'));
-      velor.selection.setCaret(paragraph, 0);
-    } else {
-      velor.selection.restore(kept);
-    }
-  }
-
-  // Texts that the person typed in: a no-break space there is one of theirs.
-  const typedIn = new WeakSet();
-
-  // The no-break space that is all a paragraph or cell holds, which keeps an empty one open.
-  function holderOf(unit) {
-    if (unit?.nodes.length !== 1) return null;
-    let [at] = unit.nodes;
-    while (!dom.isText(at)) {
-      if (dom.isAtom(at) || at.childNodes.length !== 1) return null;
-      at = at.firstChild;
-    }
-    return at.data.replace(/[ \t\n]/g, '') === '\u00a0' && !typedIn.has(at) ? at : null;
-  }
-
-  // True when all text of the element is selected.
-  function isTaken(element, range) {
-    const { textsIn } = velor.selection;
-    const inside = document.createRange();
-    inside.selectNodeContents(element);
-    const texts = textsIn(inside);
-    const taken = new Set(textsIn(range));
-    const { startContainer, startOffset, endContainer, endOffset } = range;
-    return texts.every((text) => taken.has(text)) &&
-      (texts[0] !== startContainer || startOffset === 0) &&
-      (texts.at(-1) !== endContainer || endOffset === endContainer.length);
-  }
-
-  // Typing over all of a link is typing text in its place, as deleting it first would be: the engine
-  // would leave the first letter in it.
-  function unlink(range) {
-    const link = !range.collapsed &&
-      dom.ancestor(range.startContainer, (node) => node.tagName === 'A' && node.href, dom.isBlock);
-    if (!link || !isTaken(link, range)) return;
-    const kept = velor.selection.keep();
-    dom.unwrap(link);
-    velor.selection.restore(kept);
-  }
-
-  function prepareInsertion(event) {
-    const range = velor.selection.range();
-    if (!range) return;
-    if (velor.deletion.spansUnits(range)) velor.deletion.remove(range);
-    else velor.deletion.tighten(range);
-    unlink(velor.selection.range());
-    const [unit] = velor.units.unitsIn(velor.selection.range());
-    if (needsParagraph(unit, event)) makeParagraph(unit);
-    const holder = fills.has(event.inputType) ? holderOf(unit) : null;
-    if (holder) document.getSelection().setBaseAndExtent(holder, 0, holder, holder.length);
-  }
-
   // True when the deletion was carried out here.
   function deleted(event) {
     const range = velor.selection.range();
@@ -172,16 +98,37 @@
     velor.selection.setCaret(paragraph, 0);
   }
 
+  // Over selected text Enter first deletes that.
+  function replaceByEnter() {
+    velor.deletion.remove(velor.selection.range());
+    const own = ownEnter();
+    if (own) {
+      own();
+      return;
+    }
+    velor.typing.prepare({ inputType: 'insertParagraph' });
+    velor.blanks.watch();
+    document.execCommand('insertParagraph');
+    tidySplit();
+    velor.blanks.watched({ inputType: 'insertParagraph' });
+  }
+
   // What Enter does here where the engine would do it badly, else null.
   function ownEnter() {
     if (breaksLine()) return breakLine;
     const range = velor.selection.range();
-    const [unit] = range?.collapsed ? velor.units.unitsIn(range) : [];
+    if (!range) return null;
+    if (!range.collapsed) return replaceByEnter;
+    const [unit] = velor.units.unitsIn(range);
     if (!unit) return null;
     // A table has one caption.
     if (unit.container.tagName === 'CAPTION') return () => document.execCommand('insertLineBreak');
     const item = velor.lists.itemOf(unit);
-    return item && dom.isHollow(item) ? () => velor.lists.leave(unit) : null;
+    if (!item) return null;
+    if (dom.isHollow(item)) return () => velor.lists.leave(unit);
+    const goesOn = unit.block && unit.block !== item && /^(P|DIV)$/.test(unit.block.tagName) &&
+      unit.block.parentNode === item && dom.neighbour(unit.block, 'nextSibling');
+    return goesOn ? () => velor.lists.split(item) : null;
   }
 
   let composing = false;  // an input method has written something that is not final yet
@@ -214,8 +161,13 @@
     }
     const kind = kindOf(event);
     velor.history.expect(kind, joins(event, kind));
-    if (inputType.startsWith('insert') && kind !== 'drag') work(() => prepareInsertion(event));
-    velor.blanks.watch();
+    if (inputType === 'insertText' && work(() => velor.typing.over(event.data))) {
+      event.preventDefault();
+      input(event);
+      return;
+    }
+    if (inputType.startsWith('insert') && kind !== 'drag') work(() => velor.typing.prepare(event));
+    work(() => velor.blanks.watch(inputType));
   }
 
   // A split paragraph leaves its id with the first half only.
@@ -245,8 +197,7 @@
     if (velor.working) return;
     if (event.inputType === 'insertParagraph') work(tidySplit);
     if (event.inputType === 'insertText') work(() => velor.pending.typed(event.data));
-    const { anchorNode } = velor.selection.points();
-    if (anchorNode) typedIn.add(anchorNode);
+    velor.typing.done();
     work(() => velor.blanks.watched(event));
     velor.pending.moved();
     velor.history.arrive();
@@ -299,6 +250,13 @@
     if (key === 'Tab' && !ctrlKey && !altKey && !metaKey) {
       event.preventDefault();
       tab(shiftKey);
+      return;
+    }
+    // The engine tells of no deletion where all that is selected is closed to editing.
+    const range = /^(Delete|Backspace)$/.test(key) && velor.selection.range();
+    if (range && !range.collapsed && dom.isIsland(velor.deletion.thingIn(range))) {
+      event.preventDefault();
+      velor.exec(5004);
       return;
     }
     if (!ctrlKey || altKey || metaKey) return;

@@ -144,11 +144,14 @@
     if (last) join(list);
   }
 
+  // A division that is a line of an item.
+  const isLine = (node) => dom.isPlainDivision(node) && ![...node.children].some(dom.isBlock);
+
   // Makes items that stand in no list into paragraphs; returns those.
   function toParagraphs(item) {
     const shown = [...item.childNodes].filter(dom.isShown);
     const [only] = shown;
-    if (shown.length === 1 && dom.isPlainDivision(only) && ![...only.children].some(dom.isBlock)) {
+    if (shown.length === 1 && isLine(only)) {
       const paragraph = dom.rename(only, 'P');
       dom.unwrap(item);
       return [paragraph];
@@ -166,7 +169,7 @@
     for (const child of [...item.childNodes]) {
       if (dom.isBlock(child)) {
         flush();
-        blocks.push(child);
+        blocks.push(isLine(child) ? dom.rename(child, 'P') : child);
       } else if (run.length || dom.isShown(child)) {
         run.push(child);
       }
@@ -249,6 +252,21 @@
     velor.selection.restore(kept);
   }
 
+  // Cuts an item in two at the caret, where its text stands in a block with more behind it: the
+  // engine would take the text past that.
+  function split(item) {
+    const mark = document.createTextNode('');
+    velor.selection.range().insertNode(mark);
+    dom.splitBefore(mark, item);
+    const [above, below] = [item.lastChild, dom.blockOf(mark)];
+    velor.deletion.prune(dom.lastLeaf(above));
+    velor.deletion.prune(mark);
+    velor.blanks.part(above, below);
+    velor.deletion.holdOpen(above);
+    velor.deletion.holdOpen(below);
+    velor.selection.setCaret(...velor.selection.place(velor.deletion.startOf(below)));
+  }
+
   // Takes every unit of the selection out of all lists. Elements change on the way, so the units
   // are read anew for each level.
   function unlist() {
@@ -266,5 +284,5 @@
     return item && dom.isList(item.parentNode) ? item.parentNode.tagName : null;
   };
 
-  velor.lists = { groupsOf, make, unlist, nest, outdent, leave, tagOf, itemOf };
+  velor.lists = { groupsOf, make, unlist, nest, outdent, leave, split, tagOf, itemOf };
 })();

@@ -71,8 +71,9 @@
   function caretUnit({ startContainer: node, startOffset: offset }) {
     if (dom.isText(node) && !dom.isIgnorable(node)) return unitOf(node);
     if (dom.isText(node)) {
-      const near = dom.neighbour(node, 'previousSibling') || dom.neighbour(node, 'nextSibling');
-      return near ? unitOf(dom.firstLeaf(near)) : unit(dom.blockOf(node), []);
+      const { parentNode } = node;
+      return caretUnit(
+        { startContainer: parentNode, startOffset: velor.selection.indexOf(node) });
     }
     const shown = [...node.childNodes].filter(dom.isShown);
     if (!shown.length) return dom.isBlock(node) ? unit(node, []) : unitOf(node);
