@@ -125,6 +125,18 @@
     before = { texts, ownLeft: own(left), ownRight: own(right), isFirst: !left };
   }
 
+  // What is held moves along with what was written or deleted before it.
+  function follow() {
+    held = held.flatMap((place) => {
+      const old = before.texts.get(place.node);
+      if (old === undefined || old === place.node.data) return [place];
+      const { head, tail } = velor.dom.kept(old, place.node.data);
+      if (place.index < head) return [place];
+      const index = place.index + place.node.length - old.length;
+      return place.index >= old.length - tail ? [{ ...place, index }] : [];
+    });
+  }
+
   // Where the engine has written in a text just now, from and to. A text that was not at the caret is
   // a new one where it holds nothing but what was typed.
   function freshPart(node, data) {
@@ -150,18 +162,16 @@
     }
   }
 
-  // Holds what the engine wrote for blanks: that of the person's at the caret, and those around it.
+  // Holds what the engine wrote for blanks.
   function holdFresh(inputType, data) {
-    const { anchorNode, anchorOffset } = velor.selection.points();
-    const isTyped = (node, index) => inputType === 'insertText' && data === ' ' &&
-      node === anchorNode && index === anchorOffset - 1;
+    const { anchorNode } = velor.selection.points();
     const texts = new Set(before.texts.keys());
     if (dom.isText(anchorNode)) texts.add(anchorNode);
     for (const node of texts) {
       if (!node.isConnected) continue;
       const [from, to] = freshPart(node, data);
       for (let index = from; index < to; index++) {
-        if (node.data[index] === noBreak) hold(node, index, isTyped(node, index));
+        if (node.data[index] === noBreak) hold(node, index, inputType === 'insertText');
       }
     }
   }
@@ -198,6 +208,7 @@
     if (inputType === 'insertParagraph' || inputType === 'insertLineBreak') tidyCut(places);
     if (data?.includes(noBreak)) return;
     if (inputType === 'insertText' || inputType.startsWith('delete')) {
+      follow();
       holdFresh(inputType, data);
       holdAlone(inputType);
     }
@@ -205,12 +216,21 @@
     leave();
   }
 
-  const same = (one, other) => one?.node === other.node && one.index === other.index;
+  // True while the caret touches the blanks that the place is one of.
+  const same = (one, other) => one.node === other.node && one.index === other.index;
+  function reaches(node, offset, side, place) {
+    const step = side === 'previousSibling' ? 0 : 1;
+    let at = node && beside(node, offset, side);
+    while (at?.node && (isBlank(at) || charAt(at) === noBreak)) {
+      if (same(at, place)) return true;
+      at = beside(at.node, at.index + step, side);
+    }
+    return false;
+  }
   function atCaret(place) {
     const { anchorNode, anchorOffset, focusNode, focusOffset } = velor.selection.points();
-    const touches = (node, offset) => Boolean(node) &&
-      ['previousSibling', 'nextSibling'].some((side) => same(beside(node, offset, side), place));
-    return touches(anchorNode, anchorOffset) || touches(focusNode, focusOffset);
+    return ['previousSibling', 'nextSibling'].some((side) =>
+      reaches(anchorNode, anchorOffset, side, place) || reaches(focusNode, focusOffset, side, place));
   }
 
   // What is not at the caret any more becomes what was meant.

@@ -28,7 +28,7 @@
 
   function nameAt(element) {
     const { tagName, parentNode } = element;
-    if (tagName === 'LISTING' || tagName === 'XMP') return 'Formatted';
+    if (/^(LISTING|PLAINTEXT|XMP)$/.test(tagName)) return 'Formatted';
     if (tagName === 'P') return null;
     const fits = (each) => each.element === tagName &&
       (tagName !== 'LI' || each.list === parentNode.tagName);
@@ -43,7 +43,7 @@
     return 'Normal';
   }
 
-  const isPreformatted = (block) => Boolean(block) && /^(PRE|LISTING|XMP)$/.test(block.tagName);
+  const isPreformatted = (block) => Boolean(block) && /^(PRE|LISTING|PLAINTEXT|XMP)$/.test(block.tagName);
 
   // Line ends show in preformatted text only; elsewhere they are breaks. Kept places go along.
   function breakLines(element, kept) {

@@ -64,7 +64,9 @@
     else velor.inline.apply(name, value, range);
   }
 
-  const whereText = (status) => (view) => (view.object ? Disabled : status(view));
+  const isRaw = ({ range, elements }) =>
+    !elements().length && velor.dom.rawAt(range.startContainer) !== null;
+  const whereText = (status) => (view) => (view.object || isRaw(view) ? Disabled : status(view));
   const onUnits = (change) => (value, view) => {
     const kept = velor.selection.keep();
     change(view.units(), value);

@@ -25,7 +25,7 @@
     const { body } = document;
     const all = startContainer === body && endContainer === body && startOffset === 0 &&
       endOffset === body.childNodes.length;
-    if (all) return range;
+    if (all || velor.selection.control(range)) return range;
     const result = range.cloneRange();
     const enters = (node) => dom.isElement(node) && dom.isBlock(node) && !dom.isAtom(node) &&
       node.tagName !== 'TABLE' && node.hasChildNodes();
@@ -99,6 +99,14 @@
     return nodes;
   };
 
+  // The text that nodes show, where no markup may stand; in their place.
+  function asText(nodes) {
+    const text = document.createTextNode(
+      nodes.map((node) => (dom.isBreak(node) ? '\n' : node.textContent)).join(''));
+    nodes.forEach((node) => node.remove());
+    return text.length ? [text] : [];
+  }
+
   // Moves the content of one unit to the end of the one before it; behind the mark where nothing is
   // left of that. Returns the place between them.
   function join(first, second, mark) {
@@ -107,7 +115,8 @@
     const { isPreformatted, breakLines } = velor.blocks;
     const leavesPre = isPreformatted(second.block) && !isPreformatted(first.container);
     if (leavesPre) breakLines(home);
-    const moved = leavesPre ? [...home.childNodes] : second.nodes.filter((node) => node.isConnected);
+    const all = leavesPre ? [...home.childNodes] : second.nodes.filter((node) => node.isConnected);
+    const moved = dom.rawAt(first.container) ? asText(all) : all;
     const last = left.at(-1);
     const place = last ? endOf(last) : startOf(moved[0] ?? first.container);
     if (last ?? mark) (last ?? mark).after(...moved);
@@ -243,13 +252,26 @@
     return place;
   }
 
-  // Deletes what is selected and puts the caret there.
-  function remove(range) {
+  // Deletes what is selected; the caret is there, even where no line is.
+  function empty(range) {
     velor.blanks.watch();
     const { startContainer, startOffset } = clear(range);
     velor.blanks.meet(startContainer, startOffset);
     velor.selection.setCaret(startContainer, startOffset);
     velor.blanks.watched({ inputType: 'delete' });
+  }
+
+  // Deletes what is selected and puts the caret into the line that is there.
+  function remove(range) {
+    empty(range);
+    const [node, offset] = velor.units.gapAt(velor.selection.range()) ?? [];
+    if (!node) return;
+    const [before, after] = [node.childNodes[offset - 1], node.childNodes[offset]];
+    const next = after && (dom.isShown(after) ? after : dom.neighbour(after, 'nextSibling'));
+    const previous = before && (dom.isShown(before) ? before : dom.neighbour(before, 'previousSibling'));
+    const enters = (block) => dom.isElement(block) && !dom.isAtom(block) && block.tagName !== 'TABLE';
+    if (enters(next)) velor.selection.setCaret(...velor.selection.place(startOf(next)));
+    else if (enters(previous)) velor.selection.setCaret(...velor.selection.place(endOf(previous)));
   }
 
   const shownBetween = (range) =>
@@ -356,5 +378,6 @@
   // Takes the ends of the selection into the blocks that it means, for the engine to type over.
   const tighten = (range) => { if (!range.collapsed) select(inward(range)); };
 
-  velor.deletion = { remove, clear, prune, holdOpen, startOf, thingIn, spansUnits, joining, tighten };
+  velor.deletion = { remove, empty,
+    clear, prune, holdOpen, startOf, thingIn, spansUnits, joining, tighten };
 })();

@@ -144,7 +144,13 @@
         return only;
       }
     }
-    return dom.wrap(run, wrapper);
+    dom.wrap(run, wrapper);
+    // What went along without text may have been in its like.
+    if (format.tags.includes(wrapper.tagName)) {
+      const likes = [...wrapper.querySelectorAll(format.tags.join())];
+      likes.filter((like) => !like.attributes.length).forEach(dom.unwrap);
+    }
+    return wrapper;
   }
 
   const mergeable = new Set(['B', 'EM', 'FONT', 'I', 'SPAN', 'STRONG', 'U', 'BIG', 'SMALL']);
@@ -166,7 +172,8 @@
   function turned(format, element, neighbour) {
     for (let at = neighbour; dom.isElement(at) && turns(format, at); at = at.firstChild) {
       const inner = at.firstChild;
-      if (at.childNodes.length !== 1 || !alike(format, element, inner)) continue;
+      if (at.childNodes.length !== 1) break;
+      if (!alike(format, element, inner)) continue;
       inner.replaceWith(...inner.childNodes);
       return dom.wrap([neighbour], inner);
     }

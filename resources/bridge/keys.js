@@ -62,7 +62,7 @@
 
   // Enter in preformatted text is a line end, but on an empty last line leaves it.
   const preAt = (range) =>
-    dom.ancestor(range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName ?? ''));
+    dom.ancestor(range.startContainer, (node) => /^(PRE|LISTING|PLAINTEXT|XMP)$/.test(node.tagName ?? ''));
   function breaksLine() {
     const range = velor.selection.range();
     return Boolean(range && preAt(range) && !velor.deletion.spansUnits(range));
@@ -100,7 +100,7 @@
 
   // Over selected text Enter first deletes that.
   function replaceByEnter() {
-    velor.deletion.remove(velor.selection.range());
+    velor.deletion.empty(velor.selection.range());
     const own = ownEnter();
     if (own) {
       own();
@@ -119,13 +119,16 @@
     const range = velor.selection.range();
     if (!range) return null;
     if (!range.collapsed) return replaceByEnter;
+    const gap = velor.units.gapAt(range);
+    if (gap) return () => velor.typing.makeLine(gap);
     const [unit] = velor.units.unitsIn(range);
     if (!unit) return null;
     // A table has one caption.
     if (unit.container.tagName === 'CAPTION') return () => document.execCommand('insertLineBreak');
     const item = velor.lists.itemOf(unit);
     if (!item) return null;
-    if (dom.isHollow(item)) return () => velor.lists.leave(unit);
+    const alone = unit.block && [...item.childNodes].filter(dom.isShown).length === 1;
+    if (dom.isHollow(item) || alone && dom.isHollow(unit.block)) return () => velor.lists.leave(unit);
     const goesOn = unit.block && unit.block !== item && /^(P|DIV)$/.test(unit.block.tagName) &&
       unit.block.parentNode === item && dom.neighbour(unit.block, 'nextSibling');
     return goesOn ? () => velor.lists.split(item) : null;
@@ -234,14 +237,26 @@
     return added.cells[0];
   }
 
+  // In a table from cell to cell, in a list one level in or out.
   function tab(backwards) {
     const cell = cellAt();
-    if (!cell) return;
+    if (!cell) {
+      const [unit] = velor.units.unitsIn(velor.selection.range());
+      if (unit && velor.lists.tagOf(unit)) velor.exec(backwards ? 5031 : 5018);
+      return;
+    }
     const table = cell.closest('TABLE');
     const cells = [...table.rows].flatMap((row) => [...row.cells]);
     const next = cells[cells.indexOf(cell) + (backwards ? -1 : 1)];
     if (next) intoCell(next);
     else if (!backwards) velor.history.step('addRow', () => intoCell(addRow(cell.parentNode)));
+  }
+
+  // The engine types nothing where there is no line and a closed block.
+  function besideIsland(range) {
+    const [node, offset] = range && velor.units.gapAt(range) || [];
+    return Boolean(node) &&
+      [node.childNodes[offset - 1], node.childNodes[offset]].some(dom.isIsland);
   }
 
   function keyDown(event) {
@@ -257,6 +272,13 @@
     if (range && !range.collapsed && dom.isIsland(velor.deletion.thingIn(range))) {
       event.preventDefault();
       velor.exec(5004);
+      return;
+    }
+    const plain = !ctrlKey && !altKey && !metaKey;
+    if (plain && key.length === 1 && besideIsland(velor.selection.range())) {
+      velor.history.expect('typing', false);
+      work(() => velor.typing.makeLine(velor.units.gapAt(velor.selection.range())));
+      velor.history.arrive();
       return;
     }
     if (!ctrlKey || altKey || metaKey) return;

@@ -174,6 +174,10 @@
     makeRoom(velor.selection.range(), fragment);
     if (!fragment.firstChild) return;
     const { startContainer, startOffset } = velor.selection.range();
+    if (dom.rawAt(startContainer)) {
+      const parts = holdsBlock(fragment) ? [...fragment.childNodes] : [fragment];
+      fragment.replaceChildren(parts.map((part) => part.textContent).join('\n'));
+    }
     if (isListOf(startContainer)) makeItems(fragment, startContainer);
     if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
     else putInline(fragment, startContainer, startOffset);

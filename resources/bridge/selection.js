@@ -89,12 +89,12 @@
     }
   }
 
-  // The texts of a range of which at least one character is selected.
+  // The texts of a range of which at least one character is selected and that can be formatted.
   function textsIn(selected, limit = Infinity) {
     const texts = [];
     if (!selected || selected.collapsed) return texts;
     for (const node of leavesIn(selected)) {
-      if (!velor.dom.shownText(node)) continue;
+      if (!velor.dom.shownText(node) || velor.dom.rawAt(node)) continue;
       if (node === selected.startContainer && selected.startOffset === node.length) continue;
       if (node === selected.endContainer && selected.endOffset === 0) continue;
       texts.push(node);

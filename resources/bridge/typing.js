@@ -32,6 +32,14 @@
   // Texts that the person typed in: a no-break space there is one of theirs.
   const typedIn = new WeakSet();
 
+  // A paragraph at a place where no line is, as before a table.
+  function makeLine([node, offset]) {
+    const paragraph = dom.create('P');
+    paragraph.append(dom.create('BR'));
+    node.insertBefore(paragraph, node.childNodes[offset] ?? null);
+    velor.selection.setCaret(paragraph, 0);
+  }
+
   // The no-break space that is all a paragraph or cell holds, which keeps an empty one open.
   function holderOf(unit) {
     if (unit?.nodes.length !== 1) return null;
@@ -61,7 +69,12 @@
     if (!range) return;
     if (!range.collapsed) {
       if (event.inputType === 'insertCompositionText') keepLooks(range);
-      else velor.deletion.remove(range);
+      else velor.deletion.empty(range);
+    }
+    const gap = velor.units.gapAt(velor.selection.range());
+    if (gap) {
+      makeLine(gap);
+      return;
     }
     const [unit] = velor.units.unitsIn(velor.selection.range());
     if (needsParagraph(unit, event)) makeParagraph(unit);
@@ -77,10 +90,15 @@
   const isThere = ({ collapsed, startContainer, startOffset }) =>
     collapsed && goesOn?.node === startContainer && goesOn.offset === startOffset;
 
+  // All of the page: what is typed over it begins a new one.
+  const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
+    startContainer === document.body && endContainer === document.body && startOffset === 0 &&
+    endOffset === document.body.childNodes.length;
+
   // The first selected text and the place in it; null where something else comes first.
   function firstText(range) {
     const [text] = velor.selection.textsIn(range);
-    if (!text || velor.selection.control(range)) return null;
+    if (!text || velor.selection.control(range) || isAll(range)) return null;
     if (text === range.startContainer) return { text, offset: range.startOffset };
     const [leaf] = velor.selection.leavesIn(range);
     return leaf === text ? { text, offset: 0 } : null;
@@ -115,7 +133,7 @@
   }
 
   velor.typing = {
-    prepare, over,
+    prepare, over, makeLine,
     // Something was typed at the caret.
     done() {
       const { anchorNode } = velor.selection.points();

@@ -68,6 +68,26 @@
   // A selected object that is a block itself.
   const objectUnit = (object) => ({ container: object.parentNode, nodes: [object], block: object });
 
+  // What may hold text without a paragraph around it.
+  const bare = /^(BODY|TD|TH|LI|DD|BLOCKQUOTE|FORM|CENTER|DIV|SECTION|ARTICLE|MAIN|HEADER|FOOTER|ASIDE|NAV)$/;
+
+  // The place of a caret between two blocks, or at their edge, where no line is: [node, offset]; else
+  // null.
+  function gapAt({ startContainer, startOffset, collapsed }) {
+    if (!collapsed) return null;
+    let [node, offset] = [startContainer, startOffset];
+    if (dom.isText(node)) {
+      if (!dom.isIgnorable(node)) return null;
+      [node, offset] = [node.parentNode, velor.selection.indexOf(node)];
+    }
+    if (!bare.test(node.tagName)) return null;
+    const beside = (child, side) =>
+      child && (dom.isShown(child) ? child : dom.neighbour(child, side));
+    const around = [beside(node.childNodes[offset - 1], 'previousSibling'),
+      beside(node.childNodes[offset], 'nextSibling')].filter(Boolean);
+    return around.length && around.every(dom.isBlock) ? [node, offset] : null;
+  }
+
   function caretUnit({ startContainer: node, startOffset: offset }) {
     if (dom.isText(node) && !dom.isIgnorable(node)) return unitOf(node);
     if (dom.isText(node)) {
@@ -79,6 +99,10 @@
     if (!shown.length) return dom.isBlock(node) ? unit(node, []) : unitOf(node);
     const after = node.childNodes[offset];
     const next = after && (dom.isShown(after) ? after : dom.neighbour(after, 'nextSibling'));
+    const before = node.childNodes[offset - 1];
+    const last = before && (dom.isShown(before) ? before : dom.neighbour(before, 'previousSibling'));
+    // At the end of a line before a block the caret is in that line.
+    if (last && !dom.isBlock(last) && dom.isBlock(next)) return unitOf(lastShown(last));
     const leaf = next ? dom.firstLeaf(next) : dom.lastLeaf(shown.at(-1));
     if (!dom.isBlock(leaf) || !dom.isAtom(leaf)) return unitOf(leaf);
     if (dom.isIsland(leaf)) return null;
@@ -138,5 +162,5 @@
   // The topmost node of a unit: its block, or each of its nodes.
   const partsOf = ({ block, nodes }) => (block ? [block] : nodes);
 
-  velor.units = { unitsIn, itemOf, become, enclose, partsOf };
+  velor.units = { gapAt, unitsIn, itemOf, become, enclose, partsOf };
 })();

@@ -197,7 +197,7 @@
     }
     if (/Ctrl\+[ZY]/.test(value)) return [];
     if (words !== all) return ['a key took words'];
-    return look().html === before.html || value === 'Tab' || /Ctrl\+[BI]/.test(value)
+    return look().html === before.html || /Tab$/.test(value) || /Ctrl\+[BI]/.test(value)
       ? [] : ['a key changed the page'];
   }
 
