@@ -101,7 +101,7 @@
     const format = byName(name);
     if (!format) return;
     const kept = velor.selection.keep();
-    const units = velor.units.unitsIn(range).filter(takesFormat);
+    const units = velor.lists.housed(velor.units.unitsIn(range), kept).filter(takesFormat);
     if (!units.length) return;
     if (units.every((unit) => read(unit) === format.name)) return;
     if (format.list) {

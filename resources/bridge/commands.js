@@ -69,7 +69,7 @@
   const whereText = (status) => (view) => (view.object || isRaw(view) ? Disabled : status(view));
   const onUnits = (change) => (value, view) => {
     const kept = velor.selection.keep();
-    change(view.units(), value);
+    change(velor.lists.housed(view.units(), kept), value);
     velor.selection.restore(kept);
   };
 

@@ -166,6 +166,7 @@
   // Deletes what is selected in one paragraph, as it stands.
   function cut(range) {
     const block = dom.blockOf(range.startContainer);
+    if (dom.isHollow(block)) return;
     const { startContainer, endContainer } = range;
     range.deleteContents();
     prune(startContainer);

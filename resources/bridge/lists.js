@@ -279,10 +279,20 @@
     }
   }
 
+  // Old pages have text directly in lists: what is touched becomes an item. Returns the units as they
+  // are then.
+  function housed(units, kept) {
+    const stray = units.filter(({ container, nodes }) => dom.isList(container) && nodes.length);
+    if (!stray.length) return units;
+    stray.forEach(({ nodes }) => dom.wrap(nodes, dom.create('LI')));
+    velor.selection.restore(kept);
+    return velor.units.unitsIn(velor.selection.range());
+  }
+
   const tagOf = (unit) => {
     const item = velor.units.itemOf(unit);
     return item && dom.isList(item.parentNode) ? item.parentNode.tagName : null;
   };
 
-  velor.lists = { groupsOf, make, unlist, nest, outdent, leave, split, tagOf, itemOf };
+  velor.lists = { housed, groupsOf, make, unlist, nest, outdent, leave, split, tagOf, itemOf };
 })();

@@ -178,7 +178,8 @@
       const parts = holdsBlock(fragment) ? [...fragment.childNodes] : [fragment];
       fragment.replaceChildren(parts.map((part) => part.textContent).join('\n'));
     }
-    if (isListOf(startContainer)) makeItems(fragment, startContainer);
+    const home = dom.isText(startContainer) ? startContainer.parentNode : startContainer;
+    if (isListOf(home)) makeItems(fragment, home);
     if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
     else putInline(fragment, startContainer, startOffset);
   };
