@@ -7,11 +7,11 @@
   const dom = velor.dom;
   const { unitsIn } = velor.units;
 
-  const caretAt = (node, offset) => {
-    const range = document.createRange();
-    range.setStart(node, offset);
-    return range;
-  };
+  // A place like a range, but no live one: the engine follows all of those through every change of
+  // the document until they are collected, thousands after long work.
+  const caretAt = (node, offset) => ({
+    startContainer: node, startOffset: offset, endContainer: node, endOffset: offset, collapsed: true,
+  });
   const unitAt = (node, offset) => unitsIn(caretAt(node, offset))[0] ?? null;
   const sameUnit = (one, other) =>
     one === other || Boolean(one && other && one.container === other.container &&
@@ -284,10 +284,16 @@
   function atEdge(range, unit, side) {
     const [first, last] = [unit.nodes[0], unit.nodes.at(-1)];
     if (!first) return true;
-    const rest = range.cloneRange();
-    if (side === 'start') rest.setStartBefore(first);
-    else rest.setEndAfter(dom.isBreak(last) && last !== first ? last.previousSibling : last);
-    return rest.collapsed || dom.isHollow(unit.block || unit.container) || !shownBetween(rest);
+    const { indexOf } = velor.selection;
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    const rest = { startContainer, startOffset, endContainer, endOffset };
+    if (side === 'start') {
+      Object.assign(rest, { startContainer: first.parentNode, startOffset: indexOf(first) });
+    } else {
+      const end = dom.isBreak(last) && last !== first ? last.previousSibling : last;
+      Object.assign(rest, { endContainer: end.parentNode, endOffset: indexOf(end) + 1 });
+    }
+    return dom.isHollow(unit.block || unit.container) || !shownBetween(rest);
   }
 
   // The nearest shown leaf before or after a node; null at the edge of its cell.

@@ -75,8 +75,7 @@ TEST_P(BridgeWalk, EveryCommandKeepsTheWordsTheRulesAndTheWayBack) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialects, BridgeWalk,
-                         ::testing::Values(Dialect{"Old", ""},
-                                           Dialect{"Html5", "<!DOCTYPE html>"}),
+                         ::testing::Values(Dialect{"Old", ""}, Dialect{"Html5", "<!DOCTYPE html>"}),
                          [](const auto &dialect) { return std::string(dialect.param.name); });
 
 }  // namespace
