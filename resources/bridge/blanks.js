@@ -68,25 +68,112 @@
     held = [...held, { node, index, typed }];
   }
 
+  // In that order, so that a selection that ends behind the character still does.
+  function exchange({ node, index }, text) {
+    node.insertData(index, text);
+    node.deleteData(index + text.length, 1);
+  }
+
+  const keepsBlanks = (text) => /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
+
+  // A deletion ends at a place: a blank that HTML would not show there is held, so that what is
+  // typed next stands beside it.
+  function meet(node, offset) {
+    const left = beside(node, offset, 'previousSibling');
+    const right = beside(node, offset, 'nextSibling');
+    const keep = (place) => {
+      if (keepsBlanks(place.node)) return;
+      exchange(place, noBreak);
+      hold(place.node, place.index, false);
+    };
+    if (isBlank(right) && (!left || isBlank(left))) keep(right);
+    if (isBlank(left) && !right) keep(left);
+  }
+
+  // A line was cut between two blocks: the blank that would begin the second ends the first.
+  function part(above, below) {
+    const first = beside(below, 0, 'nextSibling');
+    if (!isBlank(first)) return;
+    first.node.deleteData(first.index, 1);
+    const last = beside(above, above.childNodes.length, 'previousSibling');
+    if (last?.node && !isBlank(last)) last.node.insertData(last.index + 1, ' ');
+  }
+
   // What the texts at the caret were before the engine changed them.
-  function watch() {
+  function watch(inputType = '') {
     const range = velor.selection.range();
     before = null;
     if (!range) return;
+    leave();
     const left = beside(range.startContainer, range.startOffset, 'previousSibling');
     const right = beside(range.endContainer, range.endOffset, 'nextSibling');
+    // A deletion may reach to the texts beside those.
+    const further = [
+      left?.node && beside(left.node, 0, 'previousSibling'),
+      right?.node && beside(right.node, right.node.length, 'nextSibling'),
+    ];
     const texts = new Map();
-    for (const place of [left, right]) if (place?.node) texts.set(place.node, place.node.data);
+    for (const place of [left, right, ...further]) {
+      if (place?.node) texts.set(place.node, place.node.data);
+    }
+    if (inputType.startsWith('deleteWord')) {
+      const block = document.createRange();
+      block.selectNodeContents(dom.blockOf(range.startContainer));
+      for (const text of velor.selection.textsIn(block)) texts.set(text, text.data);
+    }
     const own = (place) => charAt(place) === noBreak && !isHeld(place);
-    before = { texts, ownLeft: own(left), ownRight: own(right) };
+    before = { texts, ownLeft: own(left), ownRight: own(right), isFirst: !left };
   }
 
-  // True when the engine has written that character just now. A text that was not at the caret is a
-  // new one where it holds nothing but what was typed.
-  function isFresh({ node, index }, data) {
-    if (!before.texts.has(node)) return node.length === data?.length;
+  // What is held moves along with what was written or deleted before it.
+  function follow() {
+    held = held.flatMap((place) => {
+      const old = before.texts.get(place.node);
+      if (old === undefined || old === place.node.data) return [place];
+      const { head, tail } = velor.dom.kept(old, place.node.data);
+      if (place.index < head) return [place];
+      const index = place.index + place.node.length - old.length;
+      return place.index >= old.length - tail ? [{ ...place, index }] : [];
+    });
+  }
+
+  // Where the engine has written in a text just now, from and to. A text that was not at the caret is
+  // a new one where it holds nothing but what was typed.
+  function freshPart(node, data) {
+    if (!before.texts.has(node)) return node.length === data?.length ? [0, node.length] : [0, 0];
     const { head, tail } = velor.dom.kept(before.texts.get(node), node.data);
-    return index >= head && index < node.length - tail;
+    return [head, node.length - tail];
+  }
+
+  // A no-break space that stood beside a blank, or first in its line, stands between words now.
+  function holdAlone(inputType) {
+    const holdIf = (place) => { if (charAt(place) === noBreak) hold(place.node, place.index, false); };
+    const { anchorNode, anchorOffset } = velor.selection.points();
+    if (inputType === 'insertText') {
+      if (before.isFirst && before.ownRight) holdIf(beside(anchorNode, anchorOffset, 'nextSibling'));
+      return;
+    }
+    for (const [node, old] of before.texts) {
+      const { head, tail } = velor.dom.kept(old, node.data);
+      const gone = old.slice(head, old.length - tail);
+      if (!gone || !node.isConnected) continue;
+      if (/^[ \u00a0]/.test(gone)) holdIf({ node, index: head - 1 });
+      if (/[ \u00a0]$/.test(gone)) holdIf({ node, index: head });
+    }
+  }
+
+  // Holds what the engine wrote for blanks.
+  function holdFresh(inputType, data) {
+    const { anchorNode } = velor.selection.points();
+    const texts = new Set(before.texts.keys());
+    if (dom.isText(anchorNode)) texts.add(anchorNode);
+    for (const node of texts) {
+      if (!node.isConnected) continue;
+      const [from, to] = freshPart(node, data);
+      for (let index = from; index < to; index++) {
+        if (node.data[index] === noBreak) hold(node, index, inputType === 'insertText');
+      }
+    }
   }
 
   // A line was cut at the caret: the blank that would begin the second one ends the first.
@@ -119,52 +206,87 @@
     if (!before) return;
     const places = ends();
     if (inputType === 'insertParagraph' || inputType === 'insertLineBreak') tidyCut(places);
-    const typed = inputType === 'insertText';
-    if (typed && data?.includes(noBreak)) return;
-    if (typed || inputType.startsWith('delete')) {
-      for (const place of places) {
-        if (charAt(place) === noBreak && isFresh(place, data)) hold(place.node, place.index, typed);
-      }
+    if (data?.includes(noBreak)) return;
+    if (inputType === 'insertText' || inputType.startsWith('delete')) {
+      follow();
+      holdFresh(inputType, data);
+      holdAlone(inputType);
     }
     before = null;
-    held.filter((place) => !atCaret(place)).forEach(settle);
-    held = held.filter(atCaret);
+    leave();
   }
 
-  function atCaret({ node, index }) {
+  // True while the caret touches the blanks that the place is one of.
+  const same = (one, other) => one.node === other.node && one.index === other.index;
+  function reaches(node, offset, side, place) {
+    const step = side === 'previousSibling' ? 0 : 1;
+    let at = node && beside(node, offset, side);
+    while (at?.node && (isBlank(at) || charAt(at) === noBreak)) {
+      if (same(at, place)) return true;
+      at = beside(at.node, at.index + step, side);
+    }
+    return false;
+  }
+  function atCaret(place) {
     const { anchorNode, anchorOffset, focusNode, focusOffset } = velor.selection.points();
-    const touches = (at, offset) => at === node && (offset === index || offset === index + 1);
-    return touches(anchorNode, anchorOffset) || touches(focusNode, focusOffset);
+    return ['previousSibling', 'nextSibling'].some((side) =>
+      reaches(anchorNode, anchorOffset, side, place) || reaches(focusNode, focusOffset, side, place));
   }
 
-  // What a held no-break space is to become: a blank, nothing, or (null) what it is.
-  function meant({ node, index, typed }) {
-    if (!node.isConnected || node.data[index] !== noBreak) return null;
-    const left = beside(node, index, 'previousSibling');
-    const right = beside(node, index + 1, 'nextSibling');
-    if (!left || charAt(left) === noBreak || charAt(right) === noBreak) return null;
-    if (isBlank(left) || isBlank(right)) return typed ? null : '';
-    return ' ';
+  // What is not at the caret any more becomes what was meant.
+  function leave() {
+    const left = held.filter((place) => !atCaret(place));
+    held = held.filter(atCaret);
+    settle(left);
   }
-  function settle(place) {
-    const text = meant(place);
-    if (text !== null) place.node.replaceData(place.index, 1, text);
+
+  // What the held no-break spaces are to become, the last of a text first: a blank, nothing, or
+  // (null) what they are. At a line's end blanks are one.
+  function meanings(places) {
+    const known = new Map();
+    const dropped = ({ node, index }) => known.get(node)?.get(index) === '';
+    const beyond = (node, index) => {
+      let right = beside(node, index + 1, 'nextSibling');
+      while (right?.node && dropped(right)) right = beside(right.node, right.index + 1, 'nextSibling');
+      return right;
+    };
+    const meaning = ({ node, index, typed }) => {
+      if (!node.isConnected || node.data[index] !== noBreak) return null;
+      const left = beside(node, index, 'previousSibling');
+      const right = beyond(node, index);
+      if (!left) return typed ? null : '';
+      if (!right) return isBlank(left) || charAt(left) === noBreak ? '' : ' ';
+      if (charAt(left) === noBreak || charAt(right) === noBreak) return null;
+      if (isBlank(left) || isBlank(right)) return typed ? null : '';
+      return ' ';
+    };
+    const inOrder = (one, other) => (one.node === other.node ? other.index - one.index
+      : one.node.compareDocumentPosition(other.node) & Node.DOCUMENT_POSITION_FOLLOWING ? 1 : -1);
+    return [...places].sort(inOrder).map((place) => {
+      const text = meaning(place);
+      if (!known.has(place.node)) known.set(place.node, new Map());
+      known.get(place.node).set(place.index, text);
+      return { ...place, text };
+    }).filter(({ text }) => text !== null);
   }
+  const settle = (places) => meanings(places).forEach((place) => exchange(place, place.text));
 
   velor.blanks = {
-    watch, watched, hold,
-    // The caret moved: what it left behind becomes what was meant.
+    watch, watched, hold, meet, part, beside, keepsBlanks,
+    // The caret moved. Steps that can be done again need the texts as they are.
     selectionMoved() {
-      const left = held.filter((place) => !atCaret(place));
-      if (!left.length) return;
-      held = held.filter(atCaret);
-      velor.history.amend(() => left.forEach(settle));
+      if (velor.history.isBack() || held.every(atCaret)) return;
+      velor.history.amend(leave);
+    },
+    // Texts are about to be cut and joined: what is held becomes what was meant.
+    release() {
+      settle(held);
+      held = [];
     },
     // What is held belongs to the history: a step that is taken back brings back what was held.
     held: () => held,
     reinstate(places) { held = places; },
-    // The places that the page's text has otherwise: {node, index, text}.
-    meant: () => held.map((place) => ({ ...place, text: meant(place) }))
-      .filter(({ text }) => text !== null),
+    // The places that the page's text has otherwise, the last ones first: {node, index, text}.
+    meant: () => meanings(held),
   };
 })();

@@ -28,7 +28,7 @@
 
   function nameAt(element) {
     const { tagName, parentNode } = element;
-    if (tagName === 'LISTING' || tagName === 'XMP') return 'Formatted';
+    if (/^(LISTING|PLAINTEXT|XMP)$/.test(tagName)) return 'Formatted';
     if (tagName === 'P') return null;
     const fits = (each) => each.element === tagName &&
       (tagName !== 'LI' || each.list === parentNode.tagName);
@@ -43,10 +43,11 @@
     return 'Normal';
   }
 
-  const isPreformatted = (block) => Boolean(block) && /^(PRE|LISTING|XMP)$/.test(block.tagName);
+  const isPreformatted = (block) => Boolean(block) && /^(PRE|LISTING|PLAINTEXT|XMP)$/.test(block.tagName);
 
-  // Line ends show in preformatted text only; elsewhere they are breaks.
-  function breakLines(element) {
+  // Line ends show in preformatted text only; elsewhere they are breaks. Kept places go along.
+  function breakLines(element, kept) {
+    const places = kept ? [kept.anchor, kept.focus] : [];
     const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
     const texts = [];
     while (walker.nextNode()) texts.push(walker.currentNode);
@@ -54,6 +55,10 @@
       for (let at = text.data.indexOf('\n'); at >= 0; at = text.data.indexOf('\n')) {
         const rest = text.splitText(at);
         rest.deleteData(0, 1);
+        for (const place of places) {
+          if (place.node !== text || place.offset <= at) continue;
+          Object.assign(place, { node: rest, offset: place.offset - at - 1 });
+        }
         if (rest.length || rest.nextSibling) text.after(dom.create('BR'));
         if (!text.length) text.remove();
         text = rest;
@@ -62,7 +67,7 @@
     }
   }
 
-  function becomeParagraph(unit, { name, element: tag }) {
+  function becomeParagraph(unit, { name, element: tag }, kept) {
     const { block, container } = unit;
     if (block?.tagName === tag) return;
     if (name === 'Normal') {
@@ -73,15 +78,15 @@
     if (inside && tag !== 'P') return;
     const preformatted = isPreformatted(block);
     const element = velor.units.become(unit, tag);
-    if (preformatted) breakLines(element);
+    if (preformatted) breakLines(element, kept);
   }
 
   // A format chosen by name takes the place of the one that is there: an item is no heading then.
-  function becomePlain({ block }) {
+  function becomePlain({ block }, kept) {
     if (!block || !dom.isParagraph(block) || /^(P|DT)$/.test(block.tagName)) return;
     const preformatted = isPreformatted(block);
     const paragraph = dom.rename(block, 'P');
-    if (preformatted) breakLines(paragraph);
+    if (preformatted) breakLines(paragraph, kept);
     const item = paragraph.parentNode;
     const alone = /^(LI|DT|DD)$/.test(item.tagName) && !paragraph.attributes.length &&
       !dom.neighbour(paragraph, 'previousSibling') && !dom.neighbour(paragraph, 'nextSibling');
@@ -96,19 +101,20 @@
     const format = byName(name);
     if (!format) return;
     const kept = velor.selection.keep();
-    const units = velor.units.unitsIn(range).filter(takesFormat);
+    const units = velor.lists.housed(velor.units.unitsIn(range), kept).filter(takesFormat);
     if (!units.length) return;
     if (units.every((unit) => read(unit) === format.name)) return;
     if (format.list) {
-      units.forEach(becomePlain);
+      units.forEach((unit) => becomePlain(unit, kept));
       velor.selection.restore(kept);
       const plain = velor.units.held(velor.units.unitsIn(velor.selection.range()));
       velor.lists.make(plain, format.list, format.element);
     } else if (format.element === 'P') {
       velor.lists.unlist();
-      velor.units.unitsIn(velor.selection.range()).forEach((unit) => becomeParagraph(unit, format));
+      velor.units.unitsIn(velor.selection.range())
+        .forEach((unit) => becomeParagraph(unit, format, kept));
     } else {
-      units.forEach((unit) => becomeParagraph(unit, format));
+      units.forEach((unit) => becomeParagraph(unit, format, kept));
     }
     velor.selection.restore(kept);
   }

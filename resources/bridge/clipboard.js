@@ -97,8 +97,9 @@
   }
 
   // In a list paragraphs and items are items of that list.
-  function fitIntoList(fragment, { startContainer }) {
-    if (!dom.ancestor(startContainer, (node) => node.tagName === 'LI', dom.isCell)) return;
+  function fitIntoList(fragment, { startContainer, startOffset }) {
+    const start = dom.isList(startContainer) && startContainer.childNodes[startOffset];
+    if (!dom.ancestor(start || startContainer, (node) => node.tagName === 'LI', dom.isCell)) return;
     const shown = [...fragment.childNodes].filter(dom.isShown);
     if (shown.length === 1 && /^(OL|UL)$/.test(shown[0].tagName)) dom.unwrap(shown[0]);
     else if (shown.every((node) => node.tagName === 'P')) {

@@ -45,7 +45,7 @@
       object: velor.selection.control(range),
       elements: once(() => {
         const texts = velor.selection.textsIn(range, velor.selection.leafLimit);
-        return [...new Set(texts.map((text) => text.parentElement))].filter(velor.inline.takes);
+        return [...new Set(texts.map((text) => text.parentElement))];
       }),
       units: once(() => velor.units.unitsIn(range, velor.selection.leafLimit)),
     };
@@ -66,13 +66,14 @@
     else velor.inline.apply(name, value, range);
   }
 
-  const takesFormats = ({ object, range, elements }) => !object &&
-    (elements().length > 0 || velor.inline.takes(velor.selection.caretElement(range)));
-  const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Disabled);
+  const isRaw = ({ range, elements }) =>
+    !elements().length && velor.dom.rawAt(range.startContainer) !== null;
+  const whereText = (status) => (view) => (view.object || isRaw(view) ? Disabled : status(view));
   // What is done is done to all of the selection, however little of it the answer was read from.
   const onUnits = (change) => (value, view) => {
     const kept = velor.selection.keep();
-    change(velor.units.held(velor.units.unitsIn(view.range)), value);
+    const units = velor.units.held(velor.units.unitsIn(view.range));
+    change(velor.lists.housed(units, kept), value);
     velor.selection.restore(kept);
   };
 
@@ -127,8 +128,13 @@
           return;
         }
         const join = velor.deletion.joining(range, 'end');
-        if (join) join();
-        else document.execCommand('forwardDelete');
+        if (join) {
+          join();
+          return;
+        }
+        velor.blanks.watch();
+        document.execCommand('forwardDelete');
+        velor.blanks.watched({ inputType: 'deleteContentForward' });
       },
     }],
     [5010, reading('backColor')],
@@ -193,7 +199,12 @@
     velor.working = true;
     try {
       if (command.travel) command.travel();
-      else if (command.run) velor.history.step(number, () => command.run(String(value), view));
+      else if (command.run) {
+        velor.history.step(number, () => {
+          if (!view.range.collapsed) velor.blanks.release();
+          command.run(String(value), view);
+        });
+      }
     } finally {
       velor.working = false;
     }

@@ -7,11 +7,11 @@
   const dom = velor.dom;
   const { unitsIn } = velor.units;
 
-  const caretAt = (node, offset) => {
-    const range = document.createRange();
-    range.setStart(node, offset);
-    return range;
-  };
+  // A place like a range, but no live one: the engine follows all of those through every change of
+  // the document until they are collected, thousands after long work.
+  const caretAt = (node, offset) => ({
+    startContainer: node, startOffset: offset, endContainer: node, endOffset: offset, collapsed: true,
+  });
   const unitAt = (node, offset) => velor.units.held(unitsIn(caretAt(node, offset)))[0] ?? null;
   const sameUnit = (one, other) =>
     one === other || Boolean(one && other && one.container === other.container &&
@@ -25,7 +25,7 @@
     const { body } = document;
     const all = startContainer === body && endContainer === body && startOffset === 0 &&
       endOffset === body.childNodes.length;
-    if (all) return range;
+    if (all || velor.selection.control(range)) return range;
     const result = range.cloneRange();
     const enters = (node) => dom.isElement(node) && dom.isBlock(node) && !dom.isAtom(node) &&
       node.tagName !== 'TABLE' && node.hasChildNodes();
@@ -111,17 +111,27 @@
     return nodes;
   };
 
-  // Moves the content of one unit to the end of the one before it. Returns the place between them.
-  function join(first, second) {
+  // The text that nodes show, where no markup may stand; in their place.
+  function asText(nodes) {
+    const text = document.createTextNode(
+      nodes.map((node) => (dom.isBreak(node) ? '\n' : node.textContent)).join(''));
+    nodes.forEach((node) => node.remove());
+    return text.length ? [text] : [];
+  }
+
+  // Moves the content of one unit to the end of the one before it; behind the mark where nothing is
+  // left of that. Returns the place between them.
+  function join(first, second, mark) {
     const left = dropTrailingBreak(first.nodes.filter((node) => node.isConnected));
     const home = second.container;
     const { isPreformatted, breakLines } = velor.blocks;
     const leavesPre = isPreformatted(second.block) && !isPreformatted(first.container);
     if (leavesPre) breakLines(home);
-    const moved = leavesPre ? [...home.childNodes] : second.nodes.filter((node) => node.isConnected);
+    const all = leavesPre ? [...home.childNodes] : second.nodes.filter((node) => node.isConnected);
+    const moved = dom.rawAt(first.container) ? asText(all) : all;
     const last = left.at(-1);
     const place = last ? endOf(last) : startOf(moved[0] ?? first.container);
-    if (last) last.after(...moved);
+    if (last ?? mark) (last ?? mark).after(...moved);
     else if (first.container.firstChild) first.container.prepend(...moved);
     else first.container.append(...moved);
     const item = velor.lists.itemOf(first);
@@ -139,45 +149,40 @@
     const blocks = new Set();
     for (const leaf of [...velor.selection.leavesIn(range)]) {
       if (!dom.isShown(leaf)) continue;
-      blocks.add(dom.blockOf(leaf));
+      const { parentNode } = leaf;
+      blocks.add(dom.blockOf(parentNode));
       const from = leaf === startContainer ? startOffset : 0;
       if (dom.isText(leaf)) {
         leaf.deleteData(from, (leaf === endContainer ? endOffset : leaf.length) - from);
+        prune(leaf);
       } else {
         leaf.remove();
+        prune(parentNode);
       }
     }
     blocks.forEach(holdOpen);
   }
 
-  // Two blanks would show as one where texts meet.
-  function keepBlanks(node, offset) {
-    const blank = (text, at) => dom.isText(text) && /[ \n]/.test(text.data[at] ?? '');
-    let next = node;
-    let at = offset;
-    if (at === node.length) [next, at] = [node.nextSibling, 0];
-    if (!blank(node, offset - 1) || !blank(next, at)) return;
-    next.replaceData(at, 1, '\u00a0');
-    velor.blanks.hold(next, at, false);
+  // Takes away a text and the inline elements around it that a deletion left without content.
+  function prune(node) {
+    const emptied = (at) => (dom.isText(at) ? !at.length
+      : dom.isInline(at) && !dom.isAtom(at) && !dom.isBreak(at) &&
+        [...at.childNodes].every((child) => dom.isText(child) && !child.length));
+    while (node.isConnected && emptied(node)) {
+      const { parentNode } = node;
+      node.remove();
+      node = parentNode;
+    }
   }
 
-  // Deletes what is selected in one paragraph, as it stands; leaves a caret.
+  // Deletes what is selected in one paragraph, as it stands.
   function cut(range) {
     const block = dom.blockOf(range.startContainer);
-    const ends = [range.startContainer, range.endContainer];
+    if (dom.isHollow(block)) return;
+    const { startContainer, endContainer } = range;
     range.deleteContents();
-    for (const end of ends) {
-      let at = dom.isText(end) && !end.length ? end : end.parentNode;
-      if (dom.isText(end) && !end.length) {
-        at = end.parentNode;
-        end.remove();
-      }
-      while (at?.isConnected && dom.isInline(at) && !dom.isAtom(at) && !at.hasChildNodes()) {
-        const { parentNode } = at;
-        at.remove();
-        at = parentNode;
-      }
-    }
+    prune(startContainer);
+    prune(endContainer);
     holdOpen(block);
   }
 
@@ -186,41 +191,100 @@
       startContainer, startOffset, endContainer, endOffset);
   }
 
-  // Deletes what is selected, whatever it spans; leaves a caret.
-  function remove(range) {
+  // The one thing that is selected: an object, or a closed island in the flow.
+  function thingIn(range) {
     const object = velor.selection.control(range);
-    if (object) {
-      const { parentNode } = object;
-      const block = dom.blockOf(parentNode);
-      const index = velor.selection.indexOf(object);
-      object.remove();
-      holdOpen(block);
-      velor.selection.setCaret(parentNode, Math.min(index, parentNode.childNodes.length));
-      return;
+    if (object) return object;
+    const leaves = [];
+    for (const leaf of velor.selection.leavesIn(range)) {
+      if (!dom.isShown(leaf) || untouched(leaf, range)) continue;
+      leaves.push(leaf);
+      if (leaves.length > 1) return null;
     }
-    const between = inward(range);
-    if (!spansUnits(range)) {
-      select(between);
-      velor.blanks.watch();
-      document.execCommand('delete');
-      velor.blanks.watched({ inputType: 'deleteContent' });
-      return;
-    }
+    return dom.isIsland(leaves[0]) ? leaves[0] : null;
+  }
+  // A text at an end of the range of which nothing is selected.
+  const untouched = (leaf, range) =>
+    leaf === range.startContainer && dom.isText(leaf) && range.startOffset === leaf.length ||
+    leaf === range.endContainer && range.endOffset === 0;
+
+  function removeThing(thing, place) {
+    place.setStartBefore(thing);
+    place.setEndAfter(thing);
+    const { parentNode } = thing;
+    const block = dom.blockOf(parentNode);
+    thing.remove();
+    prune(parentNode);
+    holdOpen(block);
+  }
+
+  // What began before a table or a rule joins nothing: the caret is where the rest begins.
+  function caretInto(unit, place) {
+    const [node] = unit.nodes.filter((each) => each.isConnected);
+    if (!node && !unit.container.isConnected) return;
+    place.setStart(...velor.selection.place(startOf(node ?? unit.container)));
+    place.collapse(true);
+  }
+
+  // Across paragraphs; `place` is where the caret will be.
+  function removeSpan(between, place) {
     const { startContainer, startOffset, endContainer, endOffset } = between;
     const first = unitAt(startContainer, startOffset);
     const second = unitAt(endContainer, endOffset);
+    place.setStart(startContainer, startOffset);
+    place.collapse(true);
     if (!first || !second || cellOf(startContainer) !== cellOf(endContainer)) {
       removeLeaves(between);
-      velor.selection.setCaret(startContainer, startOffset);
       return;
     }
+    const begins = first.container === startContainer ||
+      first.nodes.some((node) => node.contains(startContainer));
+    const mark = document.createTextNode('');
+    if (first.nodes.length) first.nodes[0].before(mark);
+    else first.container.prepend(mark);
     between.deleteContents();
-    const start = startContainer.isConnected ? [startContainer, startOffset] : [first.container, 0];
-    if (second.container.isConnected) join(first, second);
-    else removeEmptied(endContainer);
+    prune(startContainer);
+    prune(endContainer);
+    if (begins && second.container.isConnected) join(first, second, mark);
+    else removeEmptied(dom.blockOf(endContainer));
+    mark.remove();
     holdOpen(first.container);
-    if (dom.isText(start[0])) keepBlanks(...start);
-    velor.selection.setCaret(...start);
+    if (!begins) caretInto(second, place);
+    else if (!first.container.contains(place.startContainer)) place.setStart(first.container, 0);
+  }
+
+  // Deletes what is selected, whatever it spans. Returns the range where it was.
+  function clear(range) {
+    const thing = thingIn(range);
+    const between = inward(range);
+    // Moves along with what changes around it.
+    const place = between.cloneRange();
+    if (thing) removeThing(thing, place);
+    else if (spansUnits(range)) removeSpan(between, place);
+    else cut(place);
+    return place;
+  }
+
+  // Deletes what is selected; the caret is there, even where no line is.
+  function empty(range) {
+    velor.blanks.watch();
+    const { startContainer, startOffset } = clear(range);
+    velor.blanks.meet(startContainer, startOffset);
+    velor.selection.setCaret(startContainer, startOffset);
+    velor.blanks.watched({ inputType: 'delete' });
+  }
+
+  // Deletes what is selected and puts the caret into the line that is there.
+  function remove(range) {
+    empty(range);
+    const [node, offset] = velor.units.gapAt(velor.selection.range()) ?? [];
+    if (!node) return;
+    const [before, after] = [node.childNodes[offset - 1], node.childNodes[offset]];
+    const next = after && (dom.isShown(after) ? after : dom.neighbour(after, 'nextSibling'));
+    const previous = before && (dom.isShown(before) ? before : dom.neighbour(before, 'previousSibling'));
+    const enters = (block) => dom.isElement(block) && !dom.isAtom(block) && block.tagName !== 'TABLE';
+    if (enters(next)) velor.selection.setCaret(...velor.selection.place(startOf(next)));
+    else if (enters(previous)) velor.selection.setCaret(...velor.selection.place(endOf(previous)));
   }
 
   const keepsBlanks = (text) => /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
@@ -241,10 +305,16 @@
   function atEdge(range, unit, side) {
     const [first, last] = [unit.nodes[0], unit.nodes.at(-1)];
     if (!first) return true;
-    const rest = range.cloneRange();
-    if (side === 'start') rest.setStartBefore(first);
-    else rest.setEndAfter(dom.isBreak(last) && last !== first ? last.previousSibling : last);
-    return rest.collapsed || !shownBetween(rest) || dom.isHollow(unit.home);
+    const { indexOf } = velor.selection;
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    const rest = { startContainer, startOffset, endContainer, endOffset };
+    if (side === 'start') {
+      Object.assign(rest, { startContainer: first.parentNode, startOffset: indexOf(first) });
+    } else {
+      const end = dom.isBreak(last) && last !== first ? last.previousSibling : last;
+      Object.assign(rest, { endContainer: end.parentNode, endOffset: indexOf(end) + 1 });
+    }
+    return !shownBetween(rest) || dom.isHollow(unit.home);
   }
 
   // An element without content that takes no place either.
@@ -295,11 +365,28 @@
     collapsed && dom.isText(node) &&
     (side === 'start' ? node.data.slice(0, offset) : node.data.slice(offset)).trim() !== '';
 
-  // A deletion at a paragraph's edge. Tells whether there is one, and what carries it out.
+  // The picture, the island and the like that a deletion at a caret means.
+  function thingBeside({ startContainer, startOffset }, side) {
+    const back = side === 'start';
+    const found = velor.blanks.beside(
+      startContainer, startOffset, back ? 'previousSibling' : 'nextSibling');
+    return found?.object ?? null;
+  }
+  function removeBeside(thing) {
+    const range = document.createRange();
+    range.selectNode(thing);
+    remove(range);
+  }
+
+  // A deletion at a caret that is not the engine's. Tells whether there is one, and what carries it
+  // out.
   function joining(range, side) {
     if (isWithinText(range, side)) return null;
     const unit = unitsIn(range)[0];
-    if (!unit || !range.collapsed || !atEdge(range, unit, side)) return null;
+    if (!unit || !range.collapsed) return null;
+    const thing = thingBeside(range, side);
+    if (thing) return () => removeBeside(thing);
+    if (!atEdge(range, unit, side)) return null;
     const back = side === 'start';
     if (back && startsItem(unit)) return () => velor.lists.leave(unit);
     const anchor = unit.block || (back ? unit.nodes[0] : unit.nodes.at(-1)) || unit.container;
@@ -362,5 +449,6 @@
   // Takes the ends of the selection into the blocks that it means, for the engine to type over.
   const tighten = (range) => { if (!range.collapsed) select(inward(range)); };
 
-  velor.deletion = { remove, cut, spansUnits, joining, tighten };
+  velor.deletion = { remove, empty,
+    clear, prune, holdOpen, startOf, thingIn, spansUnits, joining, tighten };
 })();

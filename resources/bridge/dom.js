@@ -70,6 +70,9 @@
     return doctype?.name === 'html' && !doctype.publicId;
   };
 
+  // Text between these tags is written as it stands: no markup can be in it.
+  const rawAt = (node) => (isElement(node) ? node : node.parentElement)?.closest('XMP, PLAINTEXT') ?? null;
+
   const isShown = (node) => !isNeutral(node) && !isIgnorable(node);
 
   function nextSkippingChildren(node) {
@@ -224,7 +227,7 @@
 
   velor.dom = {
     isElement, isText, isBlock, isAtom, isIsland, isObject, isBreak, isNeutral, isInline, isBlank, isIgnorable,
-    isShown,
+    isShown, rawAt,
     isPlainDivision, writesStyles, kept,
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),

@@ -263,6 +263,8 @@
     step, amend, expect, arrive, settle, finish,
     undo() { travel(undoable, redoable, 'undo', 'before'); },
     redo() { travel(redoable, undoable, 'redo', 'after'); },
+    // Something was taken back and can be done again.
+    isBack: () => redoable.length > 0,
     canUndo: () => undoable.length > 0 || Boolean(open?.changes.length) || beyond.undo,
     canRedo: () => redoable.length > 0 || beyond.redo,
     // The selection moved without a change of the document.

@@ -56,6 +56,12 @@
       run = [];
     };
     for (const unit of loose) {
+      // A term is indented as a definition.
+      if (unit.block?.tagName === 'DT') {
+        flush();
+        dom.rename(unit.block, 'DD');
+        continue;
+      }
       const parts = velor.units.partsOf(unit);
       if (!parts.length) {
         flush();

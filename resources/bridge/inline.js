@@ -7,15 +7,10 @@
   const { velor } = globalThis;
   const dom = velor.dom;
 
-  // Markup put into one of these would be read as text when the page is loaded again.
-  const takes = (element) => !element.closest('XMP, PLAINTEXT');
-  const textsOf = (range) =>
-    velor.selection.textsIn(range).filter((text) => takes(text.parentElement));
-
   // Cuts the texts at the ends of the range out of their longer nodes.
   function isolate(range) {
     const { startContainer, startOffset, endContainer, endOffset } = range;
-    const texts = textsOf(range);
+    const texts = velor.selection.textsIn(range);
     if (!texts.length) return texts;
     const last = texts.at(-1);
     if (last === endContainer && endOffset < last.length) last.splitText(endOffset);
@@ -103,7 +98,8 @@
     for (let parent = node.parentNode; dom.isInline(parent); parent = parent.parentNode) {
       if (format.insideLinks && parent.tagName === 'A') break;
       if (!covers.has(parent)) {
-        covers.set(parent, !holdsBlock(parent) && coverage(parent, chosen) === 'all');
+        const holdsLink = format.insideLinks && parent.querySelector('a[href]');
+        covers.set(parent, !holdsLink && !holdsBlock(parent) && coverage(parent, chosen) === 'all');
       }
       if (!covers.get(parent)) break;
       node = parent;
@@ -164,7 +160,13 @@
       span.setAttribute('style', before ? `${before}; ${added}` : added);
       return span;
     }
-    return dom.wrap(run, wrapper);
+    dom.wrap(run, wrapper);
+    // What went along without text may have been in its like.
+    if (format.tags.includes(wrapper.tagName)) {
+      const likes = [...wrapper.querySelectorAll(format.tags.join())];
+      likes.filter((like) => !like.attributes.length).forEach(dom.unwrap);
+    }
+    return wrapper;
   }
 
   const mergeable = new Set(['B', 'EM', 'FONT', 'I', 'SPAN', 'STRONG', 'U', 'BIG', 'SMALL']);
@@ -186,7 +188,8 @@
   function turned(format, element, neighbour) {
     for (let at = neighbour; dom.isElement(at) && turns(format, at); at = at.firstChild) {
       const inner = at.firstChild;
-      if (at.childNodes.length !== 1 || !alike(format, element, inner)) continue;
+      if (at.childNodes.length !== 1) break;
+      if (!alike(format, element, inner)) continue;
       inner.replaceWith(...inner.childNodes);
       return dom.wrap([neighbour], inner);
     }
@@ -290,8 +293,21 @@
 
   function isThere(name, value, range) {
     const { read, same } = velor.formats[name];
-    const elements = new Set(textsOf(range).map((text) => text.parentNode));
+    const elements = new Set(velor.selection.textsIn(range).map((text) => text.parentNode));
     return [...elements].every((element) => same(read(element), value));
+  }
+
+  // Where the selection is to begin or end again: at its outermost text, or beside the picture or
+  // island that it takes in there.
+  function placesOf(texts, range) {
+    const last = texts.at(-1);
+    const places = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    const leaves = [...velor.selection.leavesIn(range)].filter((leaf) => dom.isShown(leaf) &&
+      (leaf !== startContainer || startOffset < leaf.length) &&
+      (leaf !== endContainer || endOffset > 0));
+    const beside = (leaf, side) => dom.isAtom(leaf) && { beside: leaf, side };
+    return [beside(leaves[0], 0) || places[0], beside(leaves.at(-1), 1) || places[1]];
   }
 
   // Puts a format on the text of the range and selects that text again.
@@ -301,18 +317,13 @@
       document.getSelection().focusOffset === range.startOffset && !range.collapsed;
     const texts = isolate(range);
     if (!texts.length) return;
-    const places = [
-      { node: texts[0], offset: 0 }, { node: texts.at(-1), offset: texts.at(-1).length },
-    ];
+    const places = placesOf(texts, range);
     const touched = format(name, value, texts);
     const parents = new Set([...touched].map((node) => node.parentNode).filter(Boolean));
     parents.forEach((parent) => joinTexts(parent, places));
     const [anchor, focus] = backward ? places.reverse() : places;
-    velor.selection.select({
-      anchorNode: anchor.node, anchorOffset: anchor.offset,
-      focusNode: focus.node, focusOffset: focus.offset,
-    });
+    velor.selection.restore({ anchor, focus });
   }
 
-  velor.inline = { apply, joinTexts, takes };
+  velor.inline = { apply, joinTexts };
 })();

@@ -39,69 +39,14 @@
     return !(/^\S/.test(data ?? '') && /\s/.test(before ?? ''));
   }
 
-  // Input that fills an empty paragraph, so that nothing need keep it open any more.
-  const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']);
-
-  // What may hold text without a paragraph around it; one of these that has a name is there once.
-  const bare = /^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER|DIV|SECTION|ARTICLE|MAIN|HEADER|FOOTER|ASIDE|NAV)$/;
-
-  // Bare text becomes a paragraph before it is split; so does the first text of an empty page.
-  function needsParagraph(unit, { inputType }) {
-    if (!unit || !bare.test(unit.container.tagName)) return false;
-    const empty = () => unit.container === document.body && dom.isHollow(document.body);
-    if (inputType !== 'insertParagraph' && (inputType !== 'insertText' || !empty())) return false;
-    return !unit.block || unit.block.id !== '';
-  }
-  function makeParagraph(unit) {
-    const kept = velor.selection.keep();
-    const paragraph = velor.units.enclose(unit, dom.create('P'));
-    if (!dom.hasContent(paragraph)) {
-      paragraph.append(dom.create('BR'));
-      velor.selection.setCaret(paragraph, 0);
-    } else {
-      velor.selection.restore(kept);
-    }
-  }
-
-  // Texts that the person typed in: a no-break space there is one of theirs.
-  const typedIn = new WeakSet();
-
-  // The no-break space that is all a paragraph or cell holds, which keeps an empty one open.
-  const isHolder = (text) => /^[ \t\n]*\u00a0[ \t\n]*$/.test(text.data);
-  function holderOf(unit, { startContainer }) {
-    if (dom.isText(startContainer) && !isHolder(startContainer)) return null;
-    if (unit?.nodes.length !== 1) return null;
-    let [at] = unit.nodes;
-    while (!dom.isText(at)) {
-      if (dom.isAtom(at) || at.childNodes.length !== 1) return null;
-      at = at.firstChild;
-    }
-    return isHolder(at) && !typedIn.has(at) ? at : null;
-  }
-
-  function prepareInsertion(event) {
-    const range = velor.selection.range();
-    if (!range) return;
-    if (velor.deletion.spansUnits(range)) velor.deletion.remove(range);
-    else velor.deletion.tighten(range);
-    const caret = velor.selection.range();
-    const [unit] = velor.units.unitsIn(caret);
-    if (needsParagraph(unit, event)) makeParagraph(unit);
-    const holder = fills.has(event.inputType) ? holderOf(unit, caret) : null;
-    if (holder) document.getSelection().setBaseAndExtent(holder, 0, holder, holder.length);
-  }
-
   // True when the deletion was carried out here.
   function deleted(event) {
     const range = velor.selection.range();
     if (!range) return false;
-    const own = velor.selection.control(range) || velor.deletion.spansUnits(range)
-      ? () => velor.deletion.remove(range)
-      : velor.deletion.joining(range, backward.test(event.inputType) ? 'start' : 'end');
-    if (!own) {
-      velor.deletion.tighten(range);
-      return false;
-    }
+    const own = range.collapsed
+      ? velor.deletion.joining(range, backward.test(event.inputType) ? 'start' : 'end')
+      : () => velor.deletion.remove(range);
+    if (!own) return false;
     velor.history.step('delete', own);
     return true;
   }
@@ -117,7 +62,7 @@
 
   // Enter in preformatted text is a line end, but on an empty last line leaves it.
   const preAt = (range) =>
-    dom.ancestor(range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName ?? ''));
+    dom.ancestor(range.startContainer, (node) => /^(PRE|LISTING|PLAINTEXT|XMP)$/.test(node.tagName ?? ''));
   function breaksLine() {
     const range = velor.selection.range();
     return Boolean(range && preAt(range) && !velor.deletion.spansUnits(range));
@@ -170,11 +115,30 @@
     velor.selection.setCaret(paragraph, 0);
   }
 
+  // Over selected text Enter first deletes that.
+  function replaceByEnter() {
+    velor.deletion.empty(velor.selection.range());
+    const own = ownEnter();
+    if (own) {
+      own();
+      return;
+    }
+    velor.typing.prepare({ inputType: 'insertParagraph' });
+    velor.blanks.watch();
+    document.execCommand('insertParagraph');
+    tidySplit();
+    velor.blanks.watched({ inputType: 'insertParagraph' });
+  }
+
   // What Enter does here where the engine would do it badly, else null.
   function ownEnter() {
     if (breaksLine()) return breakLine;
     const range = velor.selection.range();
-    const [unit] = range?.collapsed ? velor.units.unitsIn(range) : [];
+    if (!range) return null;
+    if (!range.collapsed) return replaceByEnter;
+    const gap = velor.units.gapAt(range);
+    if (gap) return () => velor.typing.makeLine(gap);
+    const [unit] = velor.units.unitsIn(range);
     if (!unit) return null;
     // A table has one caption.
     if (unit.container.tagName === 'CAPTION') return () => document.execCommand('insertLineBreak');
@@ -182,7 +146,12 @@
       return () => breakAddress(unit.block);
     }
     const item = velor.lists.itemOf(unit);
-    return item && dom.isHollow(item) ? () => velor.lists.leave(unit) : null;
+    if (!item) return null;
+    const alone = unit.block && [...item.childNodes].filter(dom.isShown).length === 1;
+    if (dom.isHollow(item) || alone && dom.isHollow(unit.block)) return () => velor.lists.leave(unit);
+    const goesOn = unit.block && unit.block !== item && /^(P|DIV)$/.test(unit.block.tagName) &&
+      unit.block.parentNode === item && dom.neighbour(unit.block, 'nextSibling');
+    return goesOn ? () => velor.lists.split(item) : null;
   }
 
   // What the engine was left to carry out: it tells of Enter behind typed text as of more typing.
@@ -218,8 +187,13 @@
     }
     const kind = kindOf(event);
     velor.history.expect(kind, joins(event, kind));
-    if (inputType.startsWith('insert') && kind !== 'drag') work(() => prepareInsertion(event));
-    velor.blanks.watch();
+    if (inputType === 'insertText' && work(() => velor.typing.over(event.data))) {
+      event.preventDefault();
+      input(event);
+      return;
+    }
+    if (inputType.startsWith('insert') && kind !== 'drag') work(() => velor.typing.prepare(event));
+    work(() => velor.blanks.watch(inputType));
   }
 
   // A split paragraph leaves its id with the first half only.
@@ -276,8 +250,7 @@
     announced = null;
     if (inputType === 'insertParagraph') work(tidySplit);
     if (inputType === 'insertText') work(() => velor.pending.typed(data));
-    const { anchorNode } = velor.selection.points();
-    if (anchorNode) typedIn.add(anchorNode);
+    velor.typing.done();
     work(() => velor.blanks.watched({ inputType, data }));
     velor.pending.moved();
     velor.history.arrive();
@@ -315,9 +288,14 @@
     return added.cells[0];
   }
 
+  // In a table from cell to cell, in a list one level in or out.
   function tab(backwards) {
     const cell = cellAt();
-    if (!cell) return;
+    if (!cell) {
+      const [unit] = velor.units.unitsIn(velor.selection.range());
+      if (unit && velor.lists.tagOf(unit)) velor.exec(backwards ? 5031 : 5018);
+      return;
+    }
     const step = backwards ? -1 : 1;
     const { rows } = cell.closest('TABLE');
     let next = cell.parentNode.cells[cell.cellIndex + step];
@@ -328,12 +306,33 @@
     else if (!backwards) velor.history.step('addRow', () => intoCell(addRow(cell.parentNode)));
   }
 
+  // The engine types nothing where there is no line and a closed block.
+  function besideIsland(range) {
+    const [node, offset] = range && velor.units.gapAt(range) || [];
+    return Boolean(node) &&
+      [node.childNodes[offset - 1], node.childNodes[offset]].some(dom.isIsland);
+  }
+
   function keyDown(event) {
     if (!velor.editable() || event.isComposing) return;
     const { key, ctrlKey, altKey, metaKey, shiftKey } = event;
     if (key === 'Tab' && !ctrlKey && !altKey && !metaKey) {
       event.preventDefault();
       tab(shiftKey);
+      return;
+    }
+    // The engine tells of no deletion where all that is selected is closed to editing.
+    const range = /^(Delete|Backspace)$/.test(key) && velor.selection.range();
+    if (range && !range.collapsed && dom.isIsland(velor.deletion.thingIn(range))) {
+      event.preventDefault();
+      velor.exec(5004);
+      return;
+    }
+    const plain = !ctrlKey && !altKey && !metaKey;
+    if (plain && key.length === 1 && besideIsland(velor.selection.range())) {
+      velor.history.expect('typing', false);
+      work(() => velor.typing.makeLine(velor.units.gapAt(velor.selection.range())));
+      velor.history.arrive();
       return;
     }
     if (!ctrlKey || altKey || metaKey) return;

@@ -5,26 +5,36 @@
   const { velor } = globalThis;
   const dom = velor.dom;
 
-  const isItem = (node) => dom.isElement(node) && /^(LI|DT|DD)$/.test(node.tagName);
   const isListOf = (node) => dom.isElement(node) && (dom.isList(node) || node.tagName === 'DL');
+  const isItem = (node) =>
+    dom.isElement(node) && /^(LI|DT|DD)$/.test(node.tagName) && isListOf(node.parentNode);
   const itemOf = (unit) => velor.units.itemOf(unit, isItem);
 
   const itemsIn = (list) => [...list.children].filter(isItem);
 
-  // The items of the units, those in another one of them left out, grouped by neighbourhood.
+  const itemsOf = (units) => new Set(units.map(itemOf).filter(Boolean));
+
+  // Items in document order, grouped by neighbourhood.
+  function grouped(items) {
+    const groups = new Map();  // by their last items
+    for (const item of items) {
+      const before = dom.neighbour(item, 'previousSibling');
+      const group = groups.get(before) ?? [];
+      groups.delete(before);
+      group.push(item);
+      groups.set(item, group);
+    }
+    return [...groups.values()];
+  }
+
+  // The groups of the units' items, those in another one of them left out.
   function groupsOf(units) {
-    const items = new Set(units.map(itemOf).filter((item) => item && isListOf(item.parentNode)));
+    const items = itemsOf(units);
     const within = (item) => {
       for (let at = item.parentNode; at; at = at.parentNode) if (items.has(at)) return true;
       return false;
     };
-    const groups = [];
-    for (const item of [...items].filter((each) => !within(each))) {
-      const last = groups.at(-1)?.at(-1);
-      if (last && dom.neighbour(last, 'nextSibling') === item) groups.at(-1).push(item);
-      else groups.push([item]);
-    }
-    return groups;
+    return grouped([...items].filter((item) => !within(item)));
   }
 
   // Old pages have lists directly in lists: such a list belongs to the item before it, or to one of
@@ -90,24 +100,27 @@
   // Makes every unit an item `inner` of a list `outer`.
   function make(units, outer, inner) {
     const definition = outer === 'DL';
-    const loose = [];
-    const groups = groupsOf(units);
-    for (const group of groups) {
-      const fits = group[0].parentNode.tagName === 'DL' === definition;
-      if (!fits) {
-        loose.push(...release(group));
-      } else if (definition) {
-        group.forEach((item) => dom.rename(item, inner));
-      } else if (group[0].parentNode.tagName !== outer) {
-        adopt(group[0].parentNode);
-        join(dom.rename(isolate(group), outer));
-      }
+    const fits = ([item]) => item.parentNode.tagName === 'DL' === definition;
+    const loose = groupsOf(units).filter((group) => !fits(group)).flatMap(release);
+    for (const group of grouped(itemsOf(units)).filter(fits)) {
+      if (definition) group.forEach((item) => dom.rename(item, inner));
+      else convert(group, outer);
     }
-    const asItem = (block) => makeItem({ block, nodes: [] }, inner);
+    // A term holds no list.
+    const asItem = (block) =>
+      makeItem({ block, nodes: [] }, definition && isListOf(block) ? 'DD' : inner);
     const fresh = units.filter((unit) => !itemOf(unit) && !loose.includes(unit.block) &&
       (unit.block ?? unit.container).isConnected);
     const items = [...loose.map(asItem), ...fresh.map((unit) => makeItem(unit, inner))];
-    gather(items.sort(inOrder), outer);
+    const isInList = (item) => isListOf(item.parentNode);
+    gather(items.filter((item) => !isInList(item)).sort(inOrder), outer);
+    // What stood in a list without being an item of it.
+    grouped(items.filter(isInList).sort(inOrder)).forEach((group) => convert(group, outer));
+  }
+  function convert(group, outer) {
+    if (group[0].parentNode.tagName === outer) return;
+    adopt(group[0].parentNode);
+    join(dom.rename(isolate(group), outer));
   }
   const inOrder = (one, other) =>
     (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1);
@@ -129,11 +142,14 @@
     if (last) join(list);
   }
 
+  // A division that is a line of an item.
+  const isLine = (node) => dom.isPlainDivision(node) && ![...node.children].some(dom.isBlock);
+
   // Makes items that stand in no list into paragraphs; returns those.
   function toParagraphs(item) {
     const shown = [...item.childNodes].filter(dom.isShown);
     const [only] = shown;
-    if (shown.length === 1 && dom.isPlainDivision(only) && ![...only.children].some(dom.isBlock)) {
+    if (shown.length === 1 && isLine(only)) {
       const paragraph = dom.rename(only, 'P');
       dom.unwrap(item);
       return [paragraph];
@@ -151,7 +167,7 @@
     for (const child of [...item.childNodes]) {
       if (dom.isBlock(child)) {
         flush();
-        blocks.push(child);
+        blocks.push(isLine(child) ? dom.rename(child, 'P') : child);
       } else if (run.length || dom.isShown(child)) {
         run.push(child);
       }
@@ -181,10 +197,20 @@
       for (let at = list.nextSibling; at; at = at.nextSibling) behind.push(at);
     }
     if (tail.some(dom.isShown)) sublist(last, list).append(...tail);
-    if (behind.some(dom.isShown)) last.append(...behind);
+    if (behind.some(dom.isShown)) last.append(...ownLine(last, behind));
     (outer.tagName === 'LI' ? outer : list).after(...group);
     if (!itemsIn(list).length) list.remove();
     if (outer.tagName === 'LI' && !dom.hasContent(outer)) outer.remove();
+  }
+
+  // What followed a list as text would run into the text of the item that takes it in.
+  function ownLine(item, nodes) {
+    const ends = [...item.childNodes].reverse().find(dom.isShown);
+    const bare = (node) => !dom.isBlock(node);
+    if (!ends || !bare(ends) || !bare(nodes.find(dom.isShown))) return nodes;
+    const stop = nodes.findIndex(dom.isBlock);
+    const line = nodes.slice(0, stop < 0 ? nodes.length : stop);
+    return [dom.wrap(line, dom.create('DIV')), ...nodes.slice(line.length)];
   }
 
   // The list at an item's end that takes further items of a list's kind.
@@ -225,6 +251,21 @@
     velor.selection.restore(kept);
   }
 
+  // Cuts an item in two at the caret, where its text stands in a block with more behind it: the
+  // engine would take the text past that.
+  function split(item) {
+    const mark = document.createTextNode('');
+    velor.selection.range().insertNode(mark);
+    dom.splitBefore(mark, item);
+    const [above, below] = [item.lastChild, dom.blockOf(mark)];
+    velor.deletion.prune(dom.lastLeaf(above));
+    velor.deletion.prune(mark);
+    velor.blanks.part(above, below);
+    velor.deletion.holdOpen(above);
+    velor.deletion.holdOpen(below);
+    velor.selection.setCaret(...velor.selection.place(velor.deletion.startOf(below)));
+  }
+
   // Takes every unit of the selection out of all lists. Elements change on the way, so the units
   // are read anew for each level.
   function unlist() {
@@ -237,10 +278,20 @@
     }
   }
 
+  // Old pages have text directly in lists: what is touched becomes an item. Returns the units as they
+  // are then.
+  function housed(units, kept) {
+    const stray = units.filter(({ container, nodes }) => dom.isList(container) && nodes.length);
+    if (!stray.length) return units;
+    stray.forEach(({ nodes }) => dom.wrap(nodes, dom.create('LI')));
+    velor.selection.restore(kept);
+    return velor.units.unitsIn(velor.selection.range());
+  }
+
   const tagOf = (unit) => {
     const item = velor.units.itemOf(unit);
     return item && dom.isList(item.parentNode) ? item.parentNode.tagName : null;
   };
 
-  velor.lists = { groupsOf, make, unlist, nest, outdent, leave, tagOf, itemOf, isItem };
+  velor.lists = { housed, groupsOf, make, unlist, nest, outdent, leave, split, tagOf, itemOf, isItem };
 })();

@@ -43,10 +43,25 @@
     return false;
   }
 
+  // What a list takes: items, and those of another list; anything else goes into an item.
+  function makeItems(fragment, list) {
+    const definitions = list.tagName === 'DL';
+    const tag = definitions ? 'DD' : 'LI';
+    const fits = (node) => (definitions ? /^(DT|DD)$/.test(node.tagName) : node.tagName === 'LI');
+    const isSame = (node) => (definitions ? node.tagName === 'DL' : dom.isList(node));
+    for (const node of [...fragment.childNodes]) {
+      if (isSame(node)) dom.unwrap(node);
+      else if (/^(P|LI)$/.test(node.tagName) && !fits(node)) dom.rename(node, tag);
+      else if (dom.isShown(node) && !fits(node)) dom.wrap([node], dom.create(tag));
+    }
+  }
+  const isListOf = (node) => dom.isList(node) || node.tagName === 'DL';
+
   function putBlocks(fragment, node, offset) {
     const tops = [...fragment.children];
     const items = tops.length > 0 && tops.every(({ tagName }) => tagName === 'LI');
     const top = cutAt(node, items);
+    if (top?.tagName === 'DT') makeItems(fragment, top.parentNode);
     const last = fragment.lastChild;
     if (!top) {
       const holder = holderAt(node);
@@ -57,6 +72,8 @@
     }
     const [before, after] = cut(node, offset, top);
     before.after(fragment);
+    velor.deletion.prune(dom.lastLeaf(before));
+    velor.deletion.prune(dom.firstLeaf(after));
     dropIfHollow(before);
     afterBlocks(last, dropIfHollow(after) ? null : after);
   }
@@ -100,10 +117,32 @@
     return dom.isHollow(block) ? block.querySelector('br') : null;
   }
 
+  // Elements that would stand in their like.
+  const likes = { STRONG: 'B', EM: 'I' };
+  const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
+  function dropLikes(fragment, node) {
+    const around = new Set();
+    for (let at = node; !dom.isBlock(at); at = at.parentNode) around.add(kindOf(at));
+    for (const element of fragment.querySelectorAll('b, strong, i, em, u')) {
+      if (!element.attributes.length && around.has(kindOf(element))) dom.unwrap(element);
+    }
+  }
+  const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
+
   function putInline(fragment, node, offset) {
     const holder = holderAt(node);
+    dropLikes(fragment, node);
     const last = fragment.lastChild;
-    putHere(fragment, node, offset);
+    const link = fragment.querySelector('a[href]') && linkAt(node);
+    if (link) {
+      // No link stands in another one.
+      const [before, after] = cut(node, offset, link);
+      before.after(fragment);
+      velor.deletion.prune(dom.lastLeaf(before));
+      velor.deletion.prune(dom.firstLeaf(after));
+    } else {
+      putHere(fragment, node, offset);
+    }
     holder?.remove();
     if (dom.isText(last)) velor.selection.setCaret(last, last.length);
     else afterNode(last);
@@ -121,17 +160,26 @@
   // Removes what the fragment replaces; only then is it known which ids are free.
   function makeRoom(range, fragment) {
     const { deletion, selection } = velor;
-    const whole = !fragment.firstChild || selection.control(range) || deletion.spansUnits(range);
-    if (whole && !range.collapsed) deletion.remove(range);
-    else if (!range.collapsed) deletion.cut(range);
+    if (!range.collapsed && !fragment.firstChild) deletion.remove(range);
+    else if (!range.collapsed) {
+      const { startContainer, startOffset } = deletion.clear(range);
+      selection.setCaret(startContainer, startOffset);
+    }
     dropTakenIds(fragment);
   }
 
   // Puts a fragment in the place of the selection.
   velor.put = (fragment) => {
+    velor.blanks.release();
     makeRoom(velor.selection.range(), fragment);
     if (!fragment.firstChild) return;
     const { startContainer, startOffset } = velor.selection.range();
+    if (dom.rawAt(startContainer)) {
+      const parts = holdsBlock(fragment) ? [...fragment.childNodes] : [fragment];
+      fragment.replaceChildren(parts.map((part) => part.textContent).join('\n'));
+    }
+    const home = dom.isText(startContainer) ? startContainer.parentNode : startContainer;
+    if (isListOf(home)) makeItems(fragment, home);
     if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
     else putInline(fragment, startContainer, startOffset);
   };

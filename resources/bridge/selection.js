@@ -91,14 +91,15 @@
     }
   }
 
-  // The texts of a range of which at least one character is selected, among its first `most` leaves.
+  // The texts of a range of which at least one character is selected and that can be formatted, among
+  // its first `most` leaves.
   function textsIn(selected, most = Infinity) {
     const texts = [];
     if (!selected || selected.collapsed) return texts;
     let rest = most;
     for (const node of leavesIn(selected)) {
       if (rest-- <= 0) break;
-      if (!velor.dom.shownText(node)) continue;
+      if (!velor.dom.shownText(node) || velor.dom.rawAt(node)) continue;
       if (node === selected.startContainer && selected.startOffset === node.length) continue;
       if (node === selected.endContainer && selected.endOffset === 0) continue;
       texts.push(node);

@@ -73,7 +73,7 @@
     return at;
   };
   const firstShown = (node) => shownFrom(node.firstChild, 'nextSibling');
-  const lastShown = (node) => shownFrom(node.lastChild, 'previousSibling');
+  const lastShownChild = (node) => shownFrom(node.lastChild, 'previousSibling');
 
   // The unit of one leaf; null where the leaf is no part of any (a rule, space between blocks).
   function unitOf(leaf) {
@@ -86,24 +86,57 @@
     return runAround(leaf);
   }
 
+  // The last leaf of a node that shows something.
+  function lastShown(node) {
+    if (dom.isAtom(node)) return node;
+    const child = lastShownChild(node);
+    return child ? lastShown(child) : node;
+  }
+
   // A selected object that is a block itself.
   const objectUnit = (object) =>
     ({ container: object.parentNode, home: object, object, nodes: [object], block: object });
 
+  // What may hold text without a paragraph around it.
+  const bare = /^(BODY|TD|TH|LI|DD|BLOCKQUOTE|FORM|CENTER|DIV|SECTION|ARTICLE|MAIN|HEADER|FOOTER|ASIDE|NAV)$/;
+
+  // The place of a caret between two blocks, or at their edge, where no line is: [node, offset]; else
+  // null.
+  function gapAt({ startContainer, startOffset, collapsed }) {
+    if (!collapsed) return null;
+    let [node, offset] = [startContainer, startOffset];
+    if (dom.isText(node)) {
+      if (!dom.isIgnorable(node)) return null;
+      [node, offset] = [node.parentNode, velor.selection.indexOf(node)];
+    }
+    if (!bare.test(node.tagName)) return null;
+    const beside = (child, side) =>
+      child && (dom.isShown(child) ? child : dom.neighbour(child, side));
+    const around = [beside(node.childNodes[offset - 1], 'previousSibling'),
+      beside(node.childNodes[offset], 'nextSibling')].filter(Boolean);
+    return around.length && around.every(dom.isBlock) ? [node, offset] : null;
+  }
+
   function caretUnit({ startContainer: node, startOffset: offset }) {
     if (dom.isText(node) && !dom.isIgnorable(node)) return unitOf(node);
     if (dom.isText(node)) {
-      const near = dom.neighbour(node, 'previousSibling') || dom.neighbour(node, 'nextSibling');
-      return near ? unitOf(dom.firstLeaf(near)) : unit(dom.blockOf(node), null);
+      const { parentNode } = node;
+      return caretUnit(
+        { startContainer: parentNode, startOffset: velor.selection.indexOf(node) });
     }
-    const last = lastShown(node);
+    const last = lastShownChild(node);
     if (!last) return dom.isBlock(node) ? unit(node, null) : unitOf(node);
     const after = node.childNodes[offset];
     const next = after && (dom.isShown(after) ? after : dom.neighbour(after, 'nextSibling'));
+    const before = node.childNodes[offset - 1];
+    const line = before && (dom.isShown(before) ? before : dom.neighbour(before, 'previousSibling'));
+    // At the end of a line before a block the caret is in that line.
+    if (line && !dom.isBlock(line) && dom.isBlock(next)) return unitOf(lastShown(line));
     const leaf = next ? dom.firstLeaf(next) : dom.lastLeaf(last);
     if (!dom.isBlock(leaf) || !dom.isAtom(leaf)) return unitOf(leaf);
+    if (dom.isIsland(leaf)) return null;
     const near = dom.neighbour(leaf, 'previousSibling') || dom.neighbour(leaf, 'nextSibling');
-    return near && !dom.isAtom(near) ? unitOf(dom.lastLeaf(near)) : null;
+    return near && !dom.isAtom(near) ? unitOf(lastShown(near)) : null;
   }
 
   // Tells of one leaf after the other, in document order, whether it is in the run of the one before.
@@ -179,5 +212,5 @@
   // The topmost node of a unit: its block, or each of its nodes.
   const partsOf = ({ block, nodes }) => (block ? [block] : nodes);
 
-  velor.units = { unitsIn, held, itemOf, become, enclose, partsOf };
+  velor.units = { gapAt, unitsIn, held, itemOf, become, enclose, partsOf };
 })();

@@ -6,41 +6,64 @@
 #include "tests/bridge/BridgePage.h"
 
 #include <QFile>
+#include <QHash>
+#include <QSet>
 
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace velor {
 namespace {
 
 class BridgeSweep : public ::testing::TestWithParam<const char *> {};
 
+struct Page {
+  QString body;
+  bool isKind;  // written for a kind of selection: every command is tried on it in every dialect
+};
+
 /// Each page of the golden cases once.
-QStringList Pages() {
-  QStringList pages;
+std::vector<Page> Pages() {
+  std::vector<Page> pages;
+  QHash<QString, std::size_t> known;
   for (const BridgeCase &subject :
        ReadBridgeCases(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/cases"))) {
-    if (!subject.IsDocument()) pages += subject.input;
+    if (subject.IsDocument()) continue;
+    if (!known.contains(subject.input)) {
+      known.insert(subject.input, pages.size());
+      pages.push_back({subject.input, false});
+    }
+    if (subject.file.endsWith(QStringLiteral("kinds.txt"))) {
+      pages[known.value(subject.input)].isKind = true;
+    }
   }
-  pages.removeDuplicates();
   return pages;
 }
 
-TEST_P(BridgeSweep, EveryCommandKeepsTheRulesOnEveryPage) {
-  // One document for all would grow slower from page to page, until the engine collects what is
-  // left.
+TEST_P(BridgeSweep, EveryCommandKeepsTheRulesOnEveryPageAndEveryKindOfSelection) {
+  // The engine follows every range until it is collected: a document for some pages each.
   constexpr int PagesADocument = 10;
   QFile script(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/sweep.js"));
   ASSERT_TRUE(script.open(QIODevice::ReadOnly));
   const QString sweep = QString::fromUtf8(script.readAll());
   BridgePage page;
   int done = 0;
-  for (const QString &body : Pages()) {
+  QSet<QString> cells;
+  for (const auto &[body, isKind] : Pages()) {
     if (done++ % PagesADocument == 0) {
       page.Load(QString::fromLatin1(GetParam()) + QStringLiteral("<p>one|</p>"));
       page.Evaluate(sweep);
     }
-    const QString call = QStringLiteral("sweep(%1)").arg(ScriptText(body));
-    EXPECT_EQ(page.Evaluate(call).toString().toStdString(), "") << qPrintable(body);
+    const QString call = QStringLiteral("sweep(%1, %2)").arg(ScriptText(body)).arg(isKind ? 1 : 0);
+    const QVariantMap swept = page.Evaluate(call).toMap();
+    EXPECT_EQ(swept[QStringLiteral("broken")].toString().toStdString(), "") << qPrintable(body);
+    for (const QString &cell : swept[QStringLiteral("cells")].toStringList()) cells.insert(cell);
+  }
+  for (const QString &kind : page.Evaluate(QStringLiteral("sweptKinds")).toStringList()) {
+    for (const QString &change : page.Evaluate(QStringLiteral("sweptChanges")).toStringList()) {
+      EXPECT_TRUE(cells.contains(kind + QLatin1Char('/') + change))
+          << qPrintable(change) << " was tried on no selection of the kind: " << qPrintable(kind);
+    }
   }
 }
 

@@ -216,6 +216,30 @@ TEST_F(Bridge, ForgetsTheOldestStepsBeyondAThousand) {
             1000);
 }
 
+TEST_F(Bridge, LeavesFewRangesForTheEngineToFollowHoweverMuchACommandChanges) {
+  QString body = QStringLiteral("^");
+  for (int line = 0; line < 200; ++line) body += QStringLiteral("<p>one <b>two</b></p>");
+  Load(body + QStringLiteral("<p>end|</p>"));
+  Evaluate(
+      QStringLiteral("globalThis.made = 0;"
+                     "for (const [owner, name] of [[Document, 'createRange'],"
+                     "    [Range, 'cloneRange'], [Selection, 'getRangeAt']]) {"
+                     "  const make = owner.prototype[name];"
+                     "  owner.prototype[name] = function (...values) {"
+                     "    made++;"
+                     "    return make.apply(this, values);"
+                     "  };"
+                     "}"));
+  const QStringList commands = {QStringLiteral("5000"), QStringLiteral("5024"),
+                                QStringLiteral("5051"), QStringLiteral("5051"),
+                                QStringLiteral("5018"), QStringLiteral("5043, 'Heading 1'"),
+                                QStringLiteral("5004")};
+  for (const QString &command : commands) {
+    Evaluate(QStringLiteral("made = 0; velor.exec(%1); velor.state()").arg(command));
+    EXPECT_LT(Evaluate(QStringLiteral("made")).toInt(), 30) << qPrintable(command);
+  }
+}
+
 TEST_F(Bridge, PutsTheSelectionBackIntoAFreshCopyOfThePage) {
   Load(QStringLiteral("<p>one <b>t^wo</b> three</p><p>fo|ur</p>"));
   // A cut text counts as one, as it will be one when parsed again.

@@ -158,6 +158,8 @@
       };
       there('ul > ul, ul > ol, ol > ol, ol > ul', 'a list stands directly in a list');
       there('p ul, p ol, p dl, p table, p p', 'a block stands in a paragraph');
+      there('dl > :not(dt, dd, script)', 'a list of definitions holds more than items');
+      there('a[href] a[href]', 'a link is in a link');
       there('b b, i i, u u, strong strong, em em, b strong, strong b', 'an element is in its like');
       there('ul > p, ol > p, ul > blockquote, ol > blockquote', 'a list holds more than items');
       there(':is(h1, h2, h3, h4, h5, h6) span[style*="font-weight: normal"]',

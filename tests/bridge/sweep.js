@@ -84,9 +84,66 @@
   // What a page's dialect makes a difference for.
   const written = new Set([5024, 5025, 5026, 5042, 5044, 5045, 5046]);
 
-  globalThis.sweep = (body) => changes
-    .filter(([, number]) => !velor.dom.writesStyles() || written.has(number))
-    .map((change) => [change.join(' '), tryOne(body, change)])
-    .filter(([, broken]) => broken)
-    .map((pair) => pair.join(' gives ')).join('\n');
+  const within = (node, selector) =>
+    (node.nodeType === Node.ELEMENT_NODE ? node : node.parentElement).closest(selector);
+  const inlinesOver = (node) => {
+    let count = 0;
+    for (let at = node.parentNode; velor.dom.isInline(at); at = at.parentNode) count++;
+    return count;
+  };
+  // The kinds of selections, each with its test of a range.
+  const kinds = {
+    caret: ({ collapsed }) => collapsed,
+    word: ({ collapsed, startContainer: start, endContainer: end }) =>
+      !collapsed && start === end && start.nodeType === Node.TEXT_NODE,
+    'across blocks': ({ startContainer: start, endContainer: end }) =>
+      velor.dom.blockOf(start) !== velor.dom.blockOf(end),
+    'across items': ({ startContainer: start, endContainer: end }) => {
+      const [first, last] = [within(start, 'li'), within(end, 'li')];
+      return Boolean(first && last) && first !== last;
+    },
+    'in a cell': ({ collapsed, startContainer: start, endContainer: end }) => {
+      const [first, last] = [within(start, 'td, th'), within(end, 'td, th')];
+      return !collapsed && first !== null && first === last;
+    },
+    'across cells': ({ startContainer: start, endContainer: end }) => {
+      const [first, last] = [within(start, 'td, th'), within(end, 'td, th')];
+      return Boolean(first && last) && first !== last;
+    },
+    'bare text': ({ collapsed, startContainer: start }) =>
+      !collapsed && velor.dom.blockOf(start) === document.body,
+    heading: ({ collapsed, startContainer: start }) =>
+      !collapsed && within(start, 'h1, h2, h3, h4, h5, h6') !== null,
+    'around a picture': (range) => !velor.selection.control(range) &&
+      [...velor.selection.leavesIn(range)].some(({ tagName }) => tagName === 'IMG'),
+    'nested inline elements': ({ collapsed, startContainer: start, endContainer: end }) =>
+      !collapsed && inlinesOver(start) + inlinesOver(end) >= 3,
+    control: (range) => velor.selection.control(range) !== null,
+  };
+  function kindsOf(body) {
+    document.body.innerHTML = body;
+    markup.select();
+    velor.start();
+    const range = velor.selection.range();
+    return Object.keys(kinds).filter((kind) => range && kinds[kind](range));
+  }
+
+  const told = (change) => change.join(' ');
+  globalThis.sweptKinds = Object.keys(kinds);
+  globalThis.sweptChanges = changes.map(told);
+
+  // Carries out every command on the page, or (`all` unset) those that the dialect matters for.
+  // Tells which broke a rule and, for the page's kinds of selections, which changed something.
+  globalThis.sweep = (body, all) => {
+    const found = kindsOf(body);
+    const cells = [];
+    const broken = changes
+      .filter(([, number]) => all || !velor.dom.writesStyles() || written.has(number))
+      .map((change) => {
+        const fault = tryOne(body, change);
+        cells.push(...found.map((kind) => `${kind}/${told(change)}`));
+        return fault && `${told(change)} gives ${fault}`;
+      }).filter(Boolean).join('\n');
+    return { broken, cells };
+  };
 })();

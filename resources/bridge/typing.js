@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What is made ready before the engine types, and typing over selected text.
+(() => {
+  'use strict';
+  const { velor } = globalThis;
+  const dom = velor.dom;
+
+  // Input that fills an empty paragraph, so that nothing need keep it open any more.
+  const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']);
+
+  // What may hold text without a paragraph around it; one of these that has a name is there once.
+  const bare = /^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER|DIV|SECTION|ARTICLE|MAIN|HEADER|FOOTER|ASIDE|NAV)$/;
+
+  // Bare text becomes a paragraph before it is split; so does the first text of an empty page.
+  function needsParagraph(unit, { inputType }) {
+    if (!unit || !bare.test(unit.container.tagName)) return false;
+    const empty = () => unit.container === document.body && dom.isHollow(document.body);
+    if (inputType !== 'insertParagraph' && (inputType !== 'insertText' || !empty())) return false;
+    return !unit.block || unit.block.id !== '';
+  }
+  function makeParagraph(unit) {
+    const kept = velor.selection.keep();
+    const paragraph = velor.units.enclose(unit, dom.create('P'));
+    if (!dom.hasContent(paragraph)) {
+      paragraph.append(dom.create('BR'));
+      velor.selection.setCaret(paragraph, 0);
+    } else {
+      velor.selection.restore(kept);
+    }
+  }
+
+  // Texts that the person typed in: a no-break space there is one of theirs.
+  const typedIn = new WeakSet();
+
+  // A paragraph at a place where no line is, as before a table.
+  function makeLine([node, offset]) {
+    const paragraph = dom.create('P');
+    paragraph.append(dom.create('BR'));
+    node.insertBefore(paragraph, node.childNodes[offset] ?? null);
+    velor.selection.setCaret(paragraph, 0);
+  }
+
+  // The no-break space that is all a paragraph or cell holds, which keeps an empty one open.
+  const isHolder = (text) => /^[ \t\n]*\u00a0[ \t\n]*$/.test(text.data);
+  function holderOf(unit, { startContainer }) {
+    if (dom.isText(startContainer) && !isHolder(startContainer)) return null;
+    if (unit?.nodes.length !== 1) return null;
+    let [at] = unit.nodes;
+    while (!dom.isText(at)) {
+      if (dom.isAtom(at) || at.childNodes.length !== 1) return null;
+      at = at.firstChild;
+    }
+    return isHolder(at) && !typedIn.has(at) ? at : null;
+  }
+
+  // What takes the place of selected text is to look as that did.
+  function keepLooks(range) {
+    const [text] = velor.selection.textsIn(range);
+    const looks = text ? Object.entries(velor.formats)
+      .map(([name, format]) => [name, format.read(text.parentNode)]) : [];
+    velor.deletion.remove(range);
+    const element = velor.selection.caretElement(velor.selection.range());
+    for (const [name, value] of looks) {
+      const { read, same } = velor.formats[name];
+      if (!same(read(element), value)) velor.pending.set(name, value);
+    }
+  }
+
+  function prepare(event) {
+    const range = velor.selection.range();
+    if (!range) return;
+    if (!range.collapsed) {
+      if (event.inputType === 'insertCompositionText') keepLooks(range);
+      else velor.deletion.empty(range);
+    }
+    const caret = velor.selection.range();
+    const gap = velor.units.gapAt(caret);
+    if (gap) {
+      makeLine(gap);
+      return;
+    }
+    const [unit] = velor.units.unitsIn(caret);
+    if (needsParagraph(unit, event)) makeParagraph(unit);
+    const holder = fills.has(event.inputType) ? holderOf(unit, caret) : null;
+    if (holder) document.getSelection().setBaseAndExtent(holder, 0, holder, holder.length);
+  }
+
+  const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
+
+  // Where typing over a part of a link ended: what follows belongs to it, while the engine would go
+  // on behind the link.
+  let goesOn = null;
+  const isThere = ({ collapsed, startContainer, startOffset }) =>
+    collapsed && goesOn?.node === startContainer && goesOn.offset === startOffset;
+
+  // All of the page: what is typed over it begins a new one.
+  const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
+    startContainer === document.body && endContainer === document.body && startOffset === 0 &&
+    endOffset === document.body.childNodes.length;
+
+  // The first selected text and the place in it; null where something else comes first.
+  function firstText(range) {
+    const [text] = velor.selection.textsIn(range);
+    if (!text || velor.selection.control(range) || isAll(range)) return null;
+    if (text === range.startContainer) return { text, offset: range.startOffset };
+    const [leaf] = velor.selection.leavesIn(range);
+    return leaf === text ? { text, offset: 0 } : null;
+  }
+
+  function put(data, { text, offset }) {
+    const blank = data === ' ' && !velor.blanks.keepsBlanks(text);
+    text.insertData(offset, blank ? '\u00a0' : data);
+    if (blank) velor.blanks.hold(text, offset, true);
+    return offset + data.length;
+  }
+
+  // Types over selected text where the first of it stood, so that what is typed has its looks. The
+  // engine would write them anew in markup of its own. False where no text is selected.
+  function over(data) {
+    if (!data || !velor.selection.range()) return false;
+    velor.deletion.tighten(velor.selection.range());
+    const range = velor.selection.range();
+    const place = isThere(range) ? { text: goesOn.node, offset: goesOn.offset } : firstText(range);
+    if (!place) return false;
+    const { text } = place;
+    if (!range.collapsed) velor.blanks.release();
+    const end = put(data, place);
+    if (!range.collapsed) {
+      range.setStart(text, end);
+      velor.deletion.clear(range);
+      velor.blanks.meet(text, end);
+    }
+    velor.selection.setCaret(text, end);
+    goesOn = linkAt(text) ? { node: text, offset: end } : null;
+    return true;
+  }
+
+  velor.typing = {
+    prepare, over, makeLine,
+    // Something was typed at the caret.
+    done() {
+      const { anchorNode } = velor.selection.points();
+      if (anchorNode) typedIn.add(anchorNode);
+    },
+  };
+})();

@@ -1,0 +1,328 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A walk at random over a page: a selection, a step, and what must be true after it, whatever the
+// step was; and all of it back to the loaded page and on again.
+(() => {
+  'use strict';
+
+  const { below, chance, oneOf } = pages;
+  const undo = 5049;
+  const redo = 5033;
+
+  const points = ['8', '14', '24'];
+  const colours = ['#FF0000', '#0000FF'];
+  const fonts = ['Arial', 'Courier New'];
+  const blockNames = ['Normal', 'Heading 1', 'Heading 3', 'Formatted', 'Address', 'Numbered List',
+    'Bulleted List', 'Directory List', 'Definition Term', 'Definition', 'Paragraph'];
+
+  // Commands that change looks and structure, never the words.
+  const formats = [
+    () => [5000], () => [5023], () => [5048],
+    () => [5024], () => [5025], () => [5026],
+    () => [5030], () => [5051], () => [5018], () => [5031],
+    () => [5043, oneOf(blockNames)], () => [5045, oneOf(points)],
+    () => [5044, oneOf(fonts)], () => [5046, oneOf(colours)], () => [5042, oneOf(colours)],
+  ];
+  const inserted = [
+    () => `<b>${pages.word()}</b>`, () => `<p>${pages.word()}</p>`,
+    () => `<p>${pages.word()}</p><p>${pages.word()}</p>`,
+    () => `<ul><li>${pages.word()}</li><li>${pages.word()}</li></ul>`,
+    () => `<table><tbody><tr><td>${pages.word()}</td></tr></tbody></table>`,
+    () => '<img src="b.png">', () => `<a href="y.htm">${pages.word()}</a>`, () => pages.word(), () => `<h2>${pages.word()}</h2>`,
+  ];
+  const keys = [
+    'Return', 'Return', 'Return', 'Shift+Return', 'Backspace', 'Backspace', 'Backspace', 'Del',
+    'Del', 'Ctrl+Backspace', 'Ctrl+Del', 'Tab', 'Shift+Tab', 'Left', 'Right', 'Up', 'Down', 'Home',
+    'End', 'Shift+Right', 'Shift+Left', 'Shift+Down', 'Ctrl+A', 'Ctrl+B', 'Ctrl+I', 'Ctrl+Z',
+    'Ctrl+Y',
+  ];
+
+  const wordsOf = (text) => text.replace(/[\s\u00a0]/g, '');
+  const shownLines = () => document.body.innerText.split(/[\n\t]+/)
+    .map((text) => text.replace(/[\s\u00a0]+/g, ' ').trim()).filter(Boolean);
+
+  const look = () => ({ html: velor.serialize(), selected: markup.read() });
+  // Blanks at a line's edge are kept otherwise while the caret is there.
+  const unblanked = (text) => text.replace(/&nbsp;|\s/g, '');
+  const same = (one, other) =>
+    one.html === other.html && unblanked(one.selected) === unblanked(other.selected);
+
+  // The words before, in and behind the selection.
+  function parts() {
+    const range = velor.selection.range();
+    if (!range) return null;
+    const part = (set) => {
+      const other = document.createRange();
+      other.selectNodeContents(document.body);
+      set(other);
+      return wordsOf(other.toString());
+    };
+    return {
+      before: part((other) => other.setEnd(range.startContainer, range.startOffset)),
+      inside: wordsOf(range.toString()),
+      behind: part((other) => other.setStart(range.endContainer, range.endOffset)),
+    };
+  }
+  const objects = () => document.querySelectorAll('img, hr, table, [contenteditable]').length;
+
+  // Places where a person can put the caret.
+  function places() {
+    const found = [];
+    const range = document.createRange();
+    range.selectNodeContents(document.body);
+    for (const leaf of velor.selection.leavesIn(range)) {
+      if (!velor.dom.isShown(leaf)) continue;
+      if (velor.dom.isText(leaf)) {
+        const lead = /^[ \n]*/.exec(leaf.data)[0].length;
+        for (let offset = 0; offset <= leaf.length; offset++) {
+          const edge = offset === 0 || offset === leaf.length;
+          if (edge && lead < leaf.length || leaf.data[offset] === ' ' || chance(0.3)) {
+            found.push([leaf, offset]);
+          }
+        }
+      } else if (velor.dom.isBlock(leaf) && !velor.dom.isAtom(leaf)) {
+        found.push([leaf, 0]);
+      } else {
+        const index = velor.selection.indexOf(leaf);
+        found.push([leaf.parentNode, index]);
+        if (!velor.dom.isBreak(leaf)) found.push([leaf.parentNode, index + 1]);
+      }
+    }
+    return found;
+  }
+
+  const put = ([anchor, from], [focus, to]) =>
+    document.getSelection().setBaseAndExtent(anchor, from, focus, to);
+
+  function select() {
+    const found = places();
+    if (!found.length) return;
+    const kind = below(8);
+    const first = below(found.length);
+    if (kind < 3) {
+      put(found[first], found[first]);
+    } else if (kind < 5) {
+      const near = Math.min(found.length - 1, first + 1 + below(4));
+      put(found[first], found[near]);
+    } else if (kind === 5) {
+      put(found[first], oneOf(found));
+    } else if (kind === 6) {
+      const element = oneOf([...document.body.querySelectorAll('img, hr, table, p, h1, li, b, a')]);
+      if (element) velor.selection.selectNode(element);
+      else document.getSelection().selectAllChildren(document.body);
+    } else {
+      const block = velor.dom.blockOf(found[first][0]);
+      const next = found.find(([node]) =>
+        block.compareDocumentPosition(node) === Node.DOCUMENT_POSITION_FOLLOWING);
+      const start = found.find(([node]) => block.contains(node));
+      if (next) put(start ?? found[first], next);
+    }
+  }
+
+  let trail = [];
+  let step = null;
+  let withKeys = true;
+
+  // A no-break space between two words.
+  function needlessNoBreak() {
+    const meant = velor.blanks.meant();
+    const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
+    while (walker.nextNode()) {
+      const node = walker.currentNode;
+      for (let at = node.data.indexOf('\u00a0'); at >= 0; at = node.data.indexOf('\u00a0', at + 1)) {
+        if (meant.some((place) => place.node === node && place.index === at)) continue;
+        const sides = [velor.blanks.beside(node, at, 'previousSibling'),
+          velor.blanks.beside(node, at + 1, 'nextSibling')];
+        if (sides.every((side) => side && !/[\s\u00a0]/.test(side.node?.data[side.index] ?? ''))) {
+          return true;
+        }
+      }
+    }
+    return false;
+  }
+
+  function newFaults() {
+    const faults = markup.faults().split(', ').filter(Boolean);
+    const styled = [...document.querySelectorAll('body [style]')].filter((element) =>
+      [...element.style].some((property) => !/^background-color|^font-weight|^font-style/.test(property)));
+    if (velor.dom.writesStyles()) {
+      if (document.querySelector('font, [align]')) faults.push('a FONT or align in an HTML5 page');
+    } else if (styled.length) {
+      faults.push('a style in an old page');
+    }
+    if (document.querySelector('span:not([style], [class], [id], [contenteditable])')) {
+      faults.push('a span says nothing');
+    }
+    if (needlessNoBreak()) faults.push('a no-break space stands where a blank was meant');
+    return faults;
+  }
+
+  // What a step did with the words.
+  function wordsJudged() {
+    const { parts: old, lines, count, action, before } = step;
+    const [verb, value] = action;
+    const now = parts();
+    if (!now) return ['the selection is lost'];
+    const words = wordsOf(document.body.textContent);
+    const all = old.before + old.inside + old.behind;
+    if (verb === 'exec') {
+      if (value === 5004) {
+        const atCaret = !old.inside && (all.length - words.length <= 1 || objects() < count);
+        return words === old.before + old.behind || atCaret
+          ? [] : ['a deletion took other words'];
+      }
+      const faults = [];
+      if (words !== all) faults.push('words are lost or moved');
+      if (objects() !== count) faults.push('an object is lost');
+      if (JSON.stringify(shownLines()) !== JSON.stringify(lines)) faults.push('lines are other ones');
+      if (old.inside !== now.inside) faults.push('another text is selected');
+      return faults;
+    }
+    if (verb === 'pasteHTML' || verb === 'paste') {
+      const put = wordsOf(new DOMParser().parseFromString(value, 'text/html').body.textContent);
+      return words === old.before + put + old.behind ? [] : ['a paste took or moved words'];
+    }
+    if (verb === 'type') {
+      return words === old.before + wordsOf(value) + old.behind ? [] : ['typing took or moved words'];
+    }
+    if (verb !== 'key') return [];
+    if (/Return$/.test(value)) {
+      return words === old.before + old.behind ? [] : ['Enter took words'];
+    }
+    if (/^(Ctrl\+)?(Backspace|Del)$/.test(value)) {
+      const most = value.startsWith('Ctrl') ? 12 : 1;
+      if (old.inside) {
+        return words === old.before + old.behind ? [] : ['a deletion took other words'];
+      }
+      return all.length - words.length <= most || objects() < count ? [] : ['a deletion at a caret took much'];
+    }
+    if (/Ctrl\+[ZY]/.test(value)) return [];
+    if (words !== all) return ['a key took words'];
+    return look().html === before.html || /Tab$/.test(value) || /Ctrl\+[BI]/.test(value)
+      ? [] : ['a key changed the page'];
+  }
+
+  // Of a toggle: what was said is what is done, and done twice it is as before.
+  function toggleJudged() {
+    const [verb, number] = step.action;
+    if (verb !== 'exec') return [];
+    const changed = look().html !== step.before.html;
+    const faults = [];
+    if (step.status === 1 && changed) faults.push('disabled and done');
+    if ([5018, 5031].includes(number) && step.status !== 1 && !changed) {
+      faults.push('enabled and nothing done');
+    }
+    const toggles = [5000, 5023, 5048, 5030, 5051];
+    if (changed && toggles.includes(number)) {
+      const now = velor.status(number);
+      if (now !== (step.status === 7 ? 3 : 7)) faults.push(`status ${step.status} became ${now}`);
+    }
+    if (changed && [5024, 5025, 5026].includes(number) && velor.status(number) !== 7) {
+      faults.push(`aligned, and the status is ${velor.status(number)}`);
+    }
+    return faults;
+  }
+
+  // Twice the same is once.
+  const settled = new Set([5024, 5025, 5026, 5042, 5043, 5044, 5045, 5046]);
+  function repeated(now) {
+    const [verb, ...values] = step.action;
+    if (verb !== 'exec' || !settled.has(values[0]) || chance(0.7)) return [];
+    velor.exec(...values);
+    return look().html === now.html ? [] : [`done twice it gives ${look().selected}`];
+  }
+
+  function travelled(now) {
+    if (now.html === step.before.html || chance(0.5)) return [];
+    const [verb, value] = step.action;
+    if (verb === 'key' && /Ctrl\+[ZY]/.test(value) || verb === 'travel') return [];
+    velor.exec(undo);
+    const back = look();
+    velor.exec(redo);
+    const on = look();
+    const faults = [];
+    // Typing goes back by words.
+    if (verb !== 'type' && verb !== 'key' && !same(back, step.before)) {
+      faults.push(`undo gives ${back.selected}`);
+    }
+    if (!same(on, now)) faults.push(`redo gives ${on.selected}`);
+    return faults;
+  }
+
+  const told = (action) => action.join(' ');
+
+  globalThis.walk = {
+    begin(keysToo) {
+      withKeys = keysToo;
+      trail = [look()];
+      step = null;
+    },
+    body: () => velor.serialize(),
+    // Chooses a selection and a step and carries that out, or answers the key that is to be pressed.
+    next() {
+      if (!step || chance(0.6)) select();
+      if (!velor.selection.range()) velor.selection.setCaret(document.body, 0);
+      velor.history.settle();
+      const before = look();
+      const choice = pages.below(withKeys ? 20 : 12);
+      let action;
+      if (choice < 8) action = ['exec', ...oneOf(formats)()];
+      else if (choice === 8) action = ['exec', 5004];
+      else if (choice === 9) action = ['pasteHTML', oneOf(inserted)()];
+      else if (choice === 10) action = ['paste', oneOf(inserted)()];
+      else if (choice === 11) action = ['travel', oneOf([undo, undo, redo])];
+      else if (choice < 15) action = ['type', oneOf(['x', 'y', ' ', ' ', '.'])];
+      else action = ['key', oneOf(keys)];
+      const [verb, ...values] = action;
+      step = {
+        before, action, parts: parts(), lines: shownLines(), count: objects(),
+        status: verb === 'exec' ? velor.status(values[0]) : 0,
+      };
+      if (verb === 'exec' || verb === 'travel') velor.exec(...values);
+      else if (verb === 'pasteHTML') velor.pasteHTML(values[0]);
+      else if (verb === 'paste') markup.paste('text/html', values[0]);
+      else return told(action);
+      return '';
+    },
+    // What is wrong after the step, in words; nothing when all is well.
+    judge() {
+      velor.history.settle();
+      const now = look();
+      const inOrder = step.parts ? wordsJudged() : [];
+      const faults = [...newFaults(), ...inOrder, ...toggleJudged(), ...travelled(now)];
+      trail.push(step.before, now);
+      faults.push(...repeated(now));
+      trail.push(look());
+      if (!faults.length) return '';
+      return `${faults.join(', ')}\n ${trail.at(-4)?.selected ?? ''}\n  ${step.before.selected}\n  ${told(step.action)}\n  ${now.selected}`;
+    },
+    // All the way back to the loaded page and on to the end.
+    wayBack() {
+      const end = look();
+      const on = [];
+      let at = trail.length - 1;
+      while (velor.history.canUndo()) {
+        on.push(look());
+        velor.exec(undo);
+        const here = look();
+        while (at >= 0 && !same(trail[at], here)) at--;
+        if (at < 0) return `undo comes to what never was: ${here.selected}`;
+      }
+      if (look().html !== trail[0].html) return `undo ends at ${look().selected}`;
+      while (on.length) {
+        velor.exec(redo);
+        const wanted = on.pop();
+        if (look().html !== wanted.html) return `redo comes to ${look().selected}`;
+      }
+      return look().html === end.html ? '' : `redo ends at ${look().selected}`;
+    },
+    // So many steps without keys; the first fault.
+    rush(count) {
+      for (let left = count; left > 0; left--) {
+        this.next();
+        const fault = this.judge();
+        if (fault) return fault;
+      }
+      return this.wayBack();
+    },
+  };
+})();
