@@ -287,7 +287,6 @@
     else if (enters(previous)) velor.selection.setCaret(...velor.selection.place(endOf(previous)));
   }
 
-  const keepsBlanks = (text) => /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
   // True when something shows between the edge of a paragraph and a place in it: white space there
   // does not.
   function shownBetween(range) {
@@ -297,7 +296,7 @@
       if (!dom.isText(leaf)) return true;
       const from = leaf === startContainer ? startOffset : 0;
       const text = leaf.data.slice(from, leaf === endContainer ? endOffset : leaf.length);
-      if (text !== '' && (keepsBlanks(leaf) || /[^ \t\n]/.test(text))) return true;
+      if (text !== '' && (velor.blanks.keepsBlanks(leaf) || /[^ \t\n]/.test(text))) return true;
     }
     return false;
   }
@@ -412,9 +411,9 @@
   function trimEdges(first, second) {
     const last = first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null;
     const next = second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null;
-    const layout = dom.isText(last) && !keepsBlanks(last) && /[ \t\n]{2,}$|\n$/.exec(last.data);
+    const layout = dom.isText(last) && !velor.blanks.keepsBlanks(last) && /[ \t\n]{2,}$|\n$/.exec(last.data);
     if (layout) last.deleteData(layout.index, layout[0].length);
-    if (dom.isText(next) && !keepsBlanks(next)) {
+    if (dom.isText(next) && !velor.blanks.keepsBlanks(next)) {
       next.deleteData(0, /^[ \t\n]*/.exec(next.data)[0].length);
     }
   }

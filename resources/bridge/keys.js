@@ -98,13 +98,20 @@
     velor.selection.setCaret(paragraph, 0);
   }
 
+  // What is done by the engine after all, with an eye on the blanks beside it as at typing.
+  function byEngine(inputType) {
+    velor.blanks.watch();
+    document.execCommand(inputType);
+    velor.blanks.watched({ inputType });
+  }
+
   // The lines of an address are one address; Enter on its empty last line leaves it.
   function breakAddress(address) {
     const { startContainer, startOffset } = velor.selection.range();
     const at = dom.isText(startContainer) ? null : startContainer.childNodes[startOffset];
     const isLast = dom.isBreak(at) && dom.lastLeaf(address) === at;
     if (!isLast || !dom.isBreak(at.previousSibling)) {
-      document.execCommand('insertLineBreak');
+      byEngine('insertLineBreak');
       return;
     }
     at.previousSibling.remove();
@@ -124,10 +131,8 @@
       return;
     }
     velor.typing.prepare({ inputType: 'insertParagraph' });
-    velor.blanks.watch();
-    document.execCommand('insertParagraph');
+    byEngine('insertParagraph');
     tidySplit();
-    velor.blanks.watched({ inputType: 'insertParagraph' });
   }
 
   // What Enter does here where the engine would do it badly, else null.
@@ -141,7 +146,7 @@
     const [unit] = velor.units.unitsIn(range);
     if (!unit) return null;
     // A table has one caption.
-    if (unit.container.tagName === 'CAPTION') return () => document.execCommand('insertLineBreak');
+    if (unit.container.tagName === 'CAPTION') return () => byEngine('insertLineBreak');
     if (unit.block?.tagName === 'ADDRESS' && !dom.isHollow(unit.block)) {
       return () => breakAddress(unit.block);
     }
