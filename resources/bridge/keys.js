@@ -80,7 +80,9 @@
   function prepareInsertion(event) {
     const range = velor.selection.range();
     if (!range) return;
-    if (velor.deletion.spansUnits(range)) velor.deletion.remove(range);
+    const object = velor.selection.control(range);
+    if (object) velor.objects.giveWay(object);
+    else if (velor.deletion.spansUnits(range)) velor.deletion.remove(range);
     else velor.deletion.tighten(range);
     const [unit] = velor.units.unitsIn(velor.selection.range());
     if (needsParagraph(unit, event)) makeParagraph(unit);
@@ -154,6 +156,8 @@
   function ownEnter() {
     if (breaksLine()) return breakLine;
     const range = velor.selection.range();
+    const object = velor.selection.control(range);
+    if (object) return velor.objects.entering(object);
     const [unit] = range?.collapsed ? velor.units.unitsIn(range) : [];
     if (!unit) return null;
     // A table has one caption.

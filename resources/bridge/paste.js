@@ -120,10 +120,12 @@
 
   // Removes what the fragment replaces; only then is it known which ids are free.
   function makeRoom(range, fragment) {
-    const { deletion, selection } = velor;
-    const whole = !fragment.firstChild || selection.control(range) || deletion.spansUnits(range);
-    if (whole && !range.collapsed) deletion.remove(range);
-    else if (!range.collapsed) deletion.cut(range);
+    const { deletion, objects, selection } = velor;
+    const object = selection.control(range);
+    const whole = !fragment.firstChild || object || deletion.spansUnits(range);
+    const gone = object && fragment.firstChild && objects.giveWay(object);
+    if (!gone && whole && !range.collapsed) deletion.remove(range);
+    else if (!gone && !range.collapsed) deletion.cut(range);
     dropTakenIds(fragment);
   }
 
