@@ -51,12 +51,16 @@
     velor.schedulePush();
   }
 
-  // Lines of text: paragraphs where empty lines part them, else lines of one.
-  function lines(text) {
+  // Blanks that a page would not show: those before a line and all but the last of a run.
+  const blanksKept = (line) => line.replace(/\t/g, '    ').replace(/^ | (?= )/g, '\u00a0');
+
+  // Lines of text: paragraphs where empty lines part them, else lines of one; items in a list.
+  function lines(text, inList) {
     const fragment = document.createDocumentFragment();
     const broken = (block) => block.split('\n').flatMap((line, index) =>
-      (index ? [dom.create('BR'), line] : [line]));
-    const blocks = text.replace(/\r\n?/g, '\n').replace(/^\n+|\n+$/g, '').split(/\n(?:[ \t]*\n)+/);
+      (index ? [dom.create('BR'), blanksKept(line)] : [blanksKept(line)]));
+    const ends = inList ? /\n+/ : /\n(?:[ \t]*\n)+/;
+    const blocks = text.replace(/\r\n?/g, '\n').replace(/^\n+|\n+$/g, '').split(ends);
     if (blocks.length < 2) {
       fragment.append(...broken(blocks[0]));
       return fragment;
@@ -71,7 +75,7 @@
   function textFragment(text, range) {
     const pre = dom.ancestor(
       range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName));
-    if (!pre) return lines(text);
+    if (!pre) return lines(text, Boolean(itemAt(range)));
     const fragment = document.createDocumentFragment();
     fragment.append(text.replace(/\r\n?/g, '\n'));
     return fragment;
@@ -97,14 +101,28 @@
   }
 
   // In a list paragraphs and items are items of that list.
-  function fitIntoList(fragment, { startContainer }) {
-    if (!dom.ancestor(startContainer, (node) => node.tagName === 'LI', dom.isCell)) return;
+  const itemAt = ({ startContainer }) =>
+    dom.ancestor(startContainer, (node) => node.tagName === 'LI', dom.isCell);
+  function fitIntoList(fragment, range) {
+    if (!itemAt(range)) return;
     const shown = [...fragment.childNodes].filter(dom.isShown);
     if (shown.length === 1 && /^(OL|UL)$/.test(shown[0].tagName)) dom.unwrap(shown[0]);
     else if (shown.every((node) => node.tagName === 'P')) {
       shown.forEach((paragraph) => dom.rename(paragraph, 'LI'));
     }
   }
+
+  // What is around the caret need not be said again, and there is no link in a link.
+  function dropSaid(fragment, { startContainer }) {
+    if ([...fragment.querySelectorAll('*')].some(dom.isBlock)) return;
+    for (let at = startContainer; !dom.isBlock(at); at = at.parentNode) {
+      if (!dom.isElement(at)) continue;
+      const like = likes.find((names) => names.includes(at.tagName)) ?? [];
+      for (const element of fragment.querySelectorAll(like.join() || 'none')) dom.unwrap(element);
+    }
+  }
+  const likes = [['A'], ['B', 'STRONG'], ['I', 'EM'], ['U', 'INS'], ['S', 'STRIKE', 'DEL'], ['CODE'],
+    ['SUB'], ['SUP']];
 
   // No id may be in a page twice.
   function dropKnownIds(fragment) {
@@ -128,6 +146,7 @@
     const fragment = fragmentOf(data, range);
     unwrapSingle(fragment, range);
     fitIntoList(fragment, range);
+    dropSaid(fragment, range);
     dropKnownIds(fragment);
     velor.addresses.narrow(fragment);
     if (!fragment.hasChildNodes()) return;
