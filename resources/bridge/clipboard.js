@@ -20,27 +20,34 @@
     return elements;
   }
 
-  function copied(range) {
-    let content = range.cloneContents();
+  function partOf(range) {
+    const content = range.cloneContents();
     for (const element of contextOf(range)) {
       const shell = element.cloneNode(false);
       shell.append(content);
-      content = shell;
+      content.append(shell);
     }
+    return content;
+  }
+  function copied(range) {
     const holder = dom.create('DIV');
-    holder.append(content);
+    holder.append(partOf(range));
     velor.addresses.widen(holder);
     return holder.innerHTML;
   }
 
   const isForms = (node) => dom.isElement(node) && node.closest('input, textarea, select');
 
+  function give(data, range) {
+    data.setData('text/html', origin + copied(range));
+    data.setData('text/plain', document.getSelection().toString());
+  }
+
   function copy(event) {
     const range = velor.selection.range();
     if (!range || range.collapsed || isForms(event.target)) return null;
     event.preventDefault();
-    event.clipboardData.setData('text/html', origin + copied(range));
-    event.clipboardData.setData('text/plain', document.getSelection().toString());
+    give(event.clipboardData, range);
     return range;
   }
 
@@ -81,9 +88,21 @@
     return fragment;
   }
 
+  // An address that is dropped as one, not as a text.
+  function linkOf(data) {
+    const address = data.getData('text/uri-list').split(/[\r\n]+/)
+      .find((line) => /^(https?|ftp|mailto):/i.test(line));
+    if (!address) return null;
+    const link = dom.create('A', { href: address });
+    link.append(data.getData('text/plain').trim() || address);
+    const fragment = document.createDocumentFragment();
+    fragment.append(link);
+    return fragment;
+  }
+
   function fragmentOf(data, range) {
     const html = data.getData('text/html');
-    if (!html.trim()) return textFragment(data.getData('text/plain'), range);
+    if (!html.trim()) return linkOf(data) ?? textFragment(data.getData('text/plain'), range);
     if (!html.includes(origin)) return velor.cleaned(html);
     const own = document.createElement('template');
     own.innerHTML = html.replace(origin, '');
@@ -140,13 +159,16 @@
     else velor.host?.pictureWanted();
   }
 
+  function fit(fragment, range) {
+    unwrapSingle(fragment, range);
+    fitIntoList(fragment, range);
+    dropSaid(fragment, range);
+  }
   function insert(data, kind) {
     const range = velor.selection.range();
     if (!range) return;
     const fragment = fragmentOf(data, range);
-    unwrapSingle(fragment, range);
-    fitIntoList(fragment, range);
-    dropSaid(fragment, range);
+    fit(fragment, range);
     dropKnownIds(fragment);
     velor.addresses.narrow(fragment);
     if (!fragment.hasChildNodes()) return;
@@ -162,13 +184,61 @@
     }
   };
 
-  // What is dragged within the page is moved by the engine; what comes from elsewhere is pasted.
-  let ours = false;
-  const dragStarts = () => { ours = true; };
-  const dragEnds = () => { ours = false; };
+  // What is being dragged out of this page; null for what comes from elsewhere.
+  let dragged = null;
+
+  // A picture that is not selected is dragged by itself.
+  function dragStarts(event) {
+    const range = velor.selection.range()?.cloneRange();
+    const { target } = event;
+    dragged = range && !range.collapsed && range.intersectsNode(target) ? range : null;
+    if (!dragged && target.tagName === 'IMG' && velor.editable()) {
+      dragged = document.createRange();
+      dragged.selectNode(target);
+    }
+    if (!dragged || isForms(target)) return;
+    // The engine would have a picture carry a file, which a drop opens or puts beside a page.
+    event.dataTransfer.items.clear();
+    give(event.dataTransfer, dragged);
+  }
+  const dragEnds = () => { dragged = null; };
+
+  // The engine's own moving of what is dragged within a page takes two steps and doubles ids.
+  function move(range, event) {
+    const place = document.caretRangeFromPoint(event.clientX, event.clientY);
+    const isAway = place && document.body.contains(place.startContainer) &&
+      !range.isPointInRange(place.startContainer, place.startOffset);
+    if (!isAway) return;
+    velor.history.step('drag', () => {
+      const fragment = partOf(range);
+      // Texts and elements at the place may be joined to others; this stays where it is in them.
+      const mark = document.createComment('');
+      place.insertNode(mark);
+      if (!event.ctrlKey) remove(range);
+      const { parentNode } = mark;
+      const index = velor.selection.indexOf(mark);
+      mark.remove();
+      velor.selection.setCaret(parentNode, index);
+      const last = fragment.lastChild;
+      const only = last && last === fragment.firstChild && dom.isObject(last) ? last : null;
+      fit(fragment, velor.selection.range());
+      velor.put(fragment);
+      if (only) velor.selection.selectNode(only);
+    });
+    velor.schedulePush();
+  }
+  function remove(range) {
+    const isWhole = velor.selection.control(range) || velor.deletion.spansUnits(range);
+    velor.deletion[isWhole ? 'remove' : 'cut'](range);
+  }
+
   function drop(event) {
-    if (ours || !velor.editable()) return;
+    if (!velor.editable()) return;
     event.preventDefault();
+    if (dragged) {
+      move(dragged, event);
+      return;
+    }
     velor.caretAt(event.clientX, event.clientY);
     insert(event.dataTransfer, 'insertFromDrop');
   }

@@ -155,11 +155,8 @@
     const ends = [range.startContainer, range.endContainer];
     range.deleteContents();
     for (const end of ends) {
-      let at = dom.isText(end) && !end.length ? end : end.parentNode;
-      if (dom.isText(end) && !end.length) {
-        at = end.parentNode;
-        end.remove();
-      }
+      let at = dom.isText(end) ? end.parentNode : end;
+      if (dom.isText(end) && !end.length) end.remove();
       while (at?.isConnected && dom.isInline(at) && !dom.isAtom(at) && !at.hasChildNodes()) {
         const { parentNode } = at;
         at.remove();
