@@ -44,12 +44,22 @@
     return wholes.has(node.tagName) || hasText([...node.childNodes]);
   });
 
+  // Breaks at the ends of a line are gaps, or hold open what has text.
+  function withoutGaps(nodes) {
+    const isGap = (node) => dom.isBreak(node) || dom.isText(node) && !hasText([node]);
+    const shown = nodes.filter((node) => !isGap(node));
+    const [first, last] = [nodes.indexOf(shown[0]), nodes.indexOf(shown.at(-1))];
+    const breaks = (part) => part.some(dom.isBreak);
+    return shown.length ? nodes.slice(breaks(nodes.slice(0, first)) ? first : 0,
+      breaks(nodes.slice(last)) ? last + 1 : nodes.length) : [];
+  }
   // Runs of inline nodes between blocks become paragraphs; those that show nothing go.
   function paragraphs(nodes) {
     const result = [];
     let run = [];
     const flush = () => {
-      if (hasText(run.filter((node) => !dom.isBreak(node)))) result.push(put('P', run));
+      const shown = withoutGaps(run);
+      if (hasText(shown)) result.push(put('P', shown));
       run = [];
     };
     for (const node of nodes) {
@@ -75,6 +85,8 @@
     return name !== 'src' || !/^(javascript|cid|blob|about):|msohtml/i.test(address);
   }
   function copyAttributes(from, to) {
+    // Programs say "from left to right" of everything.
+    if (from.getAttribute('dir')?.toLowerCase() === 'rtl') to.setAttribute('dir', 'rtl');
     for (const name of attributes[from.tagName] ?? []) {
       const value = from.getAttribute(name);
       const own = name === 'name' && value?.startsWith('_');
@@ -83,11 +95,33 @@
     return to;
   }
 
+  // What an element around blocks says is said in each of their lines.
+  function around(nodes, make) {
+    if (!hasText(nodes)) return nodes;
+    if (!nodes.some(isBlock)) return [make(nodes)];
+    return nodes.flatMap((node) => {
+      if (!isBlock(node) || wholes.has(node.tagName)) return around([node], make);
+      const lines = around([...node.childNodes], make);
+      node.append(...lines);
+      return [node];
+    });
+  }
+
   function emphasised(nodes, element, inside) {
-    if (!nodes.length || nodes.some(isBlock)) return nodes;
+    if (!nodes.length) return nodes;
     const names = styled.filter(([, says]) => says(element.style)).map(([tag]) => tag)
       .filter((tag) => !inside.has(tag) && !(tag === 'U' && inside.has('A')));
-    return hasText(nodes) ? names.reduce((content, tag) => [put(tag, content)], nodes) : nodes;
+    return names.reduce((content, tag) => wrapped(content, tag), nodes);
+  }
+
+  // A heading's lines are bold as they are.
+  function wrapped(nodes, tag) {
+    const bold = /^(B|STRONG)$/.test(tag);
+    return nodes.some(isBlock)
+      ? nodes.flatMap((node) =>
+        (bold && isBlock(node) && /^(H[1-6]|TH)$/.test(node.tagName)
+          ? [node] : around([node], (content) => put(tag, content))))
+      : around(nodes, (content) => put(tag, content));
   }
 
   const same = { STRONG: 'B', EM: 'I', INS: 'U' };
@@ -104,9 +138,7 @@
     const all = [...node.childNodes].flatMap((child) => clean(child, around));
     const content = emphasised(all, node, around);
     if (tag === 'A') return link(node, content);
-    if (emphasis.has(tag) && !plain && !content.some(isBlock)) {
-      return hasText(content) ? [put(tag, content)] : content;
-    }
+    if (emphasis.has(tag) && !plain) return wrapped(content, tag);
     if (structure.has(tag)) return structured(node, content);
     return dom.isBlock(node) ? paragraphs(content) : content;
   }
@@ -121,7 +153,14 @@
   function link(node, content) {
     const copy = copyAttributes(node, dom.create('A'));
     if (!copy.hasAttribute('href') && !copy.hasAttribute('name')) return content;
-    if (content.some(isBlock)) return content;
+    if (content.some(isBlock)) {
+      return around(content, (line) => {
+        const part = copy.cloneNode(false);
+        copy.removeAttribute('name');
+        part.append(...line);
+        return part;
+      });
+    }
     copy.append(...content);
     return [copy];
   }
@@ -137,14 +176,16 @@
     const blocks = content.some(isBlock);
     if (/^(LI|TD|TH|DD|CAPTION)$/.test(tag)) {
       const inner = blocks ? single(content) : content;
-      return [copyAttributes(node, put(tag, trim(inner)))];
+      const lines = tag === 'LI' && !blocks ? withoutGaps(inner) : inner;
+      return [copyAttributes(node, put(tag, trim(lines)))];
     }
     if (tag === 'BLOCKQUOTE') {
       return blocks || hasText(content) ? [put(tag, paragraphs(content))] : [];
     }
     // A paragraph or heading around blocks is none; an empty one is a gap.
     if (blocks) return paragraphs(content);
-    return hasText(content.filter((each) => !dom.isBreak(each))) ? [put(tag, trim(content))] : [];
+    const line = tag === 'PRE' ? content : trim(withoutGaps(content));
+    return hasText(line) ? [copyAttributes(node, put(tag, line))] : [];
   }
   // A paragraph that is all of an item is its text.
   function single(content) {
@@ -173,25 +214,32 @@
   }
 
   // Office documents write the items of lists as paragraphs, with the sign typed before them.
-  const levelOf = (paragraph) =>
-    Number((paragraph.getAttribute('style') ?? '').match(/mso-list:[^;"]*level(\d)/)?.[1] ?? 0);
+  function placeInList(paragraph) {
+    const style = paragraph.getAttribute('style') ?? '';
+    const [, name, level] = /mso-list:\s*(\S+)[^;"]*level(\d)/.exec(style) ?? [];
+    return { name, level: Number(level ?? 0) };
+  }
   function listParagraphs(root) {
     let lists = [];
     let last = null;
+    let of = '';
     for (const paragraph of [...root.querySelectorAll('p, h1, h2, h3, h4, h5, h6')]) {
-      const level = levelOf(paragraph);
+      const { name, level } = placeInList(paragraph);
       if (!level) continue;
       const sign = [...paragraph.querySelectorAll('span')]
         .find((span) => /mso-list:\s*ignore/i.test(span.getAttribute('style') ?? ''));
-      const tag = /^\s*\(?[0-9a-z]{1,4}[.)]/i.test(sign?.textContent ?? '') ? 'OL' : 'UL';
+      const [, number] = /^\s*\(?([0-9a-z]{1,4})[.)]/i.exec(sign?.textContent ?? '') ?? [];
+      const tag = number ? 'OL' : 'UL';
       sign?.remove();
-      if (!last || paragraph.previousElementSibling !== last) lists = [];
+      if (!last || paragraph.previousElementSibling !== last || level === 1 && name !== of) lists = [];
+      of = name;
       lists.length = Math.min(lists.length, level);
       if (lists[level - 1]?.tagName !== tag) lists.length = Math.min(lists.length, level - 1);
       const item = root.ownerDocument.createElement('LI');
       item.append(...paragraph.childNodes);
       while (lists.length < level) {
         const made = root.ownerDocument.createElement(tag);
+        if (lists.length === level - 1 && number > 1) made.setAttribute('start', number);
         if (lists.length) (lists.at(-1).lastChild ?? lists.at(-1)).append(made);
         else paragraph.before(made);
         lists.push(made);
@@ -202,16 +250,56 @@
     }
   }
 
-  // The inside of a fragment's marks where a program has set such.
+  // What is between the marks that a program has set around its fragment, with the table or list
+  // that it is a part of; all where there are none.
   function partOf(html) {
-    const start = html.search(/<!--StartFragment-->/i);
-    const end = html.search(/<!--EndFragment-->/i);
-    return start >= 0 && end > start ? html.slice(start, end) : html;
+    const { body } = new DOMParser().parseFromString(html, 'text/html');
+    const comments = document.createNodeIterator(body, NodeFilter.SHOW_COMMENT);
+    const marks = {};
+    for (let node = comments.nextNode(); node; node = comments.nextNode()) {
+      const [, name] = /^\s*(Start|End)Fragment\s*$/.exec(node.data) ?? [];
+      if (name) marks[name] ??= node;
+    }
+    if (!marks.Start || !marks.End) return body;
+    const range = document.createRange();
+    range.setStartAfter(marks.Start);
+    range.setEndBefore(marks.End);
+    let part = range.collapsed ? body : range.cloneContents();
+    let at = range.commonAncestorContainer;
+    for (; /^(TABLE|TBODY|THEAD|TFOOT|TR|OL|UL|PRE)$/.test(at.tagName); at = at.parentNode) {
+      const shell = at.cloneNode(false);
+      shell.append(part);
+      part = shell;
+    }
+    const holder = body.ownerDocument.createElement('DIV');
+    holder.append(part);
+    return holder;
+  }
+
+  // Source code comes as divisions with kept blanks, a line each.
+  function preformat(root) {
+    const isCode = ({ style }) => /^pre/.test(style.whiteSpace) &&
+      /mono|courier|consolas|menlo/i.test(style.fontFamily);
+    for (const code of [...root.querySelectorAll('div[style*="white-space"]')].filter(isCode)) {
+      const pre = root.ownerDocument.createElement('PRE');
+      code.before(pre);
+      for (const node of [...code.childNodes]) {
+        const line = node.tagName === 'DIV';
+        pre.append(...(line ? node.childNodes : [node]), ...(line ? ['\n'] : []));
+      }
+      code.remove();
+    }
+    for (const gap of root.querySelectorAll('pre br')) gap.replaceWith('\n');
+    for (const pre of root.querySelectorAll('pre')) {
+      const last = pre.lastChild;
+      if (dom.isText(last)) last.data = last.data.replace(/\n$/, '');
+    }
   }
 
   // A fragment of what the markup says, ready to be put in.
   velor.cleaned = (html) => {
-    const { body } = new DOMParser().parseFromString(partOf(html), 'text/html');
+    const body = partOf(html);
+    preformat(body);
     listParagraphs(body);
     const content = [...body.childNodes].flatMap((node) => clean(node, new Set()));
     const fragment = document.createDocumentFragment();

@@ -20,27 +20,34 @@
     return elements;
   }
 
-  function copied(range) {
-    let content = range.cloneContents();
+  function partOf(range) {
+    const content = range.cloneContents();
     for (const element of contextOf(range)) {
       const shell = element.cloneNode(false);
       shell.append(content);
-      content = shell;
+      content.append(shell);
     }
+    return content;
+  }
+  function copied(range) {
     const holder = dom.create('DIV');
-    holder.append(content);
+    holder.append(partOf(range));
     velor.addresses.widen(holder);
     return holder.innerHTML;
   }
 
   const isForms = (node) => dom.isElement(node) && node.closest('input, textarea, select');
 
+  function give(data, range) {
+    data.setData('text/html', origin + copied(range));
+    data.setData('text/plain', document.getSelection().toString());
+  }
+
   function copy(event) {
     const range = velor.selection.range();
     if (!range || range.collapsed || isForms(event.target)) return null;
     event.preventDefault();
-    event.clipboardData.setData('text/html', origin + copied(range));
-    event.clipboardData.setData('text/plain', document.getSelection().toString());
+    give(event.clipboardData, range);
     return range;
   }
 
@@ -51,12 +58,16 @@
     velor.schedulePush();
   }
 
-  // Lines of text: paragraphs where empty lines part them, else lines of one.
-  function lines(text) {
+  // Blanks that a page would not show: those before a line and all but the last of a run.
+  const blanksKept = (line) => line.replace(/\t/g, '    ').replace(/^ | (?= )/g, '\u00a0');
+
+  // Lines of text: paragraphs where empty lines part them, else lines of one; items in a list.
+  function lines(text, inList) {
     const fragment = document.createDocumentFragment();
     const broken = (block) => block.split('\n').flatMap((line, index) =>
-      (index ? [dom.create('BR'), line] : [line]));
-    const blocks = text.replace(/\r\n?/g, '\n').replace(/^\n+|\n+$/g, '').split(/\n(?:[ \t]*\n)+/);
+      (index ? [dom.create('BR'), blanksKept(line)] : [blanksKept(line)]));
+    const ends = inList ? /\n+/ : /\n(?:[ \t]*\n)+/;
+    const blocks = text.replace(/\r\n?/g, '\n').replace(/^\n+|\n+$/g, '').split(ends);
     if (blocks.length < 2) {
       fragment.append(...broken(blocks[0]));
       return fragment;
@@ -71,15 +82,27 @@
   function textFragment(text, range) {
     const pre = dom.ancestor(
       range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName));
-    if (!pre) return lines(text);
+    if (!pre) return lines(text, Boolean(itemAt(range)));
     const fragment = document.createDocumentFragment();
     fragment.append(text.replace(/\r\n?/g, '\n'));
     return fragment;
   }
 
+  // An address that is dropped as one, not as a text.
+  function linkOf(data) {
+    const address = data.getData('text/uri-list').split(/[\r\n]+/)
+      .find((line) => /^(https?|ftp|mailto):/i.test(line));
+    if (!address) return null;
+    const link = dom.create('A', { href: address });
+    link.append(data.getData('text/plain').trim() || address);
+    const fragment = document.createDocumentFragment();
+    fragment.append(link);
+    return fragment;
+  }
+
   function fragmentOf(data, range) {
     const html = data.getData('text/html');
-    if (!html.trim()) return textFragment(data.getData('text/plain'), range);
+    if (!html.trim()) return linkOf(data) ?? textFragment(data.getData('text/plain'), range);
     if (!html.includes(origin)) return velor.cleaned(html);
     const own = document.createElement('template');
     own.innerHTML = html.replace(origin, '');
@@ -97,9 +120,12 @@
   }
 
   // In a list paragraphs and items are items of that list.
-  function fitIntoList(fragment, { startContainer, startOffset }) {
+  function itemAt({ startContainer, startOffset }) {
     const start = dom.isList(startContainer) && startContainer.childNodes[startOffset];
-    if (!dom.ancestor(start || startContainer, (node) => node.tagName === 'LI', dom.isCell)) return;
+    return dom.ancestor(start || startContainer, (node) => node.tagName === 'LI', dom.isCell);
+  }
+  function fitIntoList(fragment, range) {
+    if (!itemAt(range)) return;
     const shown = [...fragment.childNodes].filter(dom.isShown);
     if (shown.length === 1 && /^(OL|UL)$/.test(shown[0].tagName)) dom.unwrap(shown[0]);
     else if (shown.every((node) => node.tagName === 'P')) {
@@ -123,12 +149,15 @@
     else velor.host?.pictureWanted();
   }
 
+  function fit(fragment, range) {
+    unwrapSingle(fragment, range);
+    fitIntoList(fragment, range);
+  }
   function insert(data, kind) {
     const range = velor.selection.range();
     if (!range) return;
     const fragment = fragmentOf(data, range);
-    unwrapSingle(fragment, range);
-    fitIntoList(fragment, range);
+    fit(fragment, range);
     dropKnownIds(fragment);
     velor.addresses.narrow(fragment);
     if (!fragment.hasChildNodes()) return;
@@ -144,13 +173,56 @@
     }
   };
 
-  // What is dragged within the page is moved by the engine; what comes from elsewhere is pasted.
-  let ours = false;
-  const dragStarts = () => { ours = true; };
-  const dragEnds = () => { ours = false; };
+  // What is being dragged out of this page; null for what comes from elsewhere.
+  let dragged = null;
+
+  // A picture that is not selected is dragged by itself.
+  function dragStarts(event) {
+    const range = velor.selection.range()?.cloneRange();
+    const { target } = event;
+    dragged = range && !range.collapsed && range.intersectsNode(target) ? range : null;
+    if (!dragged && target.tagName === 'IMG' && velor.editable()) {
+      dragged = document.createRange();
+      dragged.selectNode(target);
+    }
+    if (!dragged || isForms(target)) return;
+    // The engine would have a picture carry a file, which a drop opens or puts beside a page.
+    event.dataTransfer.items.clear();
+    give(event.dataTransfer, dragged);
+  }
+  const dragEnds = () => { dragged = null; };
+
+  // The engine's own moving of what is dragged within a page takes two steps and doubles ids.
+  function move(range, event) {
+    const place = document.caretRangeFromPoint(event.clientX, event.clientY);
+    const isAway = place && document.body.contains(place.startContainer) &&
+      !range.isPointInRange(place.startContainer, place.startOffset);
+    if (!isAway) return;
+    velor.history.step('drag', () => {
+      const fragment = partOf(range);
+      // Texts and elements at the place may be joined to others; this stays where it is in them.
+      const mark = document.createComment('');
+      place.insertNode(mark);
+      if (!event.ctrlKey) velor.deletion.clear(range);
+      const { parentNode } = mark;
+      const index = velor.selection.indexOf(mark);
+      mark.remove();
+      velor.selection.setCaret(parentNode, index);
+      const last = fragment.lastChild;
+      const only = last && last === fragment.firstChild && dom.isObject(last) ? last : null;
+      fit(fragment, velor.selection.range());
+      velor.put(fragment);
+      if (only) velor.selection.selectNode(only);
+    });
+    velor.schedulePush();
+  }
   function drop(event) {
-    if (ours || !velor.editable()) return;
+    if (!velor.editable()) return;
     event.preventDefault();
+    if (dragged) {
+      move(dragged, event);
+      return;
+    }
     velor.caretAt(event.clientX, event.clientY);
     insert(event.dataTransfer, 'insertFromDrop');
   }

@@ -21,7 +21,8 @@
     'SELECT TEXTAREA VIDEO');
   // Selected as wholes, like boxes with a place of their own.
   const objects = set(
-    'APPLET AUDIO BUTTON CANVAS EMBED HR IFRAME IMG INPUT MARQUEE OBJECT SELECT TABLE TEXTAREA VIDEO');
+    'APPLET AUDIO BUTTON CANVAS EMBED HR IFRAME IMG INPUT MARQUEE OBJECT SELECT TABLE TEXTAREA ' +
+    'VIDEO svg');
   const unseen = set('BASE HEAD LINK META NOFRAMES NOSCRIPT PARAM SCRIPT STYLE TEMPLATE TITLE');
 
   const isElement = (node) => node?.nodeType === Node.ELEMENT_NODE;

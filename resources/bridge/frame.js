@@ -19,17 +19,19 @@
 
   // The frame's box in the viewport.
   function frameOf(object) {
-    const { left, top, right, bottom } = object.getBoundingClientRect();
+    const { left, top, right, bottom } = velor.boxes.boxOf(object);
     const more = (size) => Math.max(0, least - size) / 2;
     const [x, y] = [more(right - left), more(bottom - top)];
-    return { left: left - x, top: top - y, right: right + x, bottom: bottom + y };
+    return { left: Math.round(left - x), top: Math.round(top - y),
+      right: Math.round(right + x), bottom: Math.round(bottom + y) };
   }
+  // The pixels of the frame's line that the handles have in their middle.
   const handlePlaces = ({ left, top, right, bottom }) =>
     [...grips].map(([name, [x, y]]) =>
-      [name, left + x * (right - left), top + y * (bottom - top)]);
+      [name, Math.round(left + x * (right - left - 1)), Math.round(top + y * (bottom - top - 1))]);
 
-  const square = (paint, size) => ([, x, y]) =>
-    ({ image: solid(paint), x: x - size / 2, y: y - size / 2, width: size, height: size });
+  const square = (paint, size) => ([, x, y]) => ({ image: solid(paint), x: x - (size - 1) / 2,
+    y: y - (size - 1) / 2, width: size, height: size });
 
   function frameLayers(frame) {
     const { left, top, right, bottom } = frame;
@@ -41,22 +43,23 @@
       line(left, top, 1, bottom - top), line(right - 1, top, 1, bottom - top),
     ];
   }
-  function gridLayers({ x, y }) {
+  function gridLayers({ origin: { x, y }, scale }) {
     const line = (way) =>
       `linear-gradient(${way}, rgba(26, 95, 180, 0.25) 1px, transparent 1px)`;
-    const size = { width: velor.gridStep, height: velor.gridStep, repeat: 'repeat' };
+    const size = {
+      width: velor.gridStep * scale.x, height: velor.gridStep * scale.y, repeat: 'repeat' };
     return ['to right', 'to bottom'].map((way) => ({ image: line(way), x, y, ...size }));
   }
 
   // The handle at a place ('nw' ... 'se'), 'move' inside a box that can be moved, or ''.
   velor.gripAt = (object, { clientX, clientY }) => {
-    const { left, top, right, bottom } = object.getBoundingClientRect();
-    if (left === right || top === bottom) return '';
+    const box = velor.boxes.boxOf(object);
+    if (!box.width || !box.height) return '';
     const near = handle / 2 + reach;
     const hit = handlePlaces(frameOf(object)).find(([, x, y]) =>
       Math.abs(clientX - x) <= near && Math.abs(clientY - y) <= near);
     if (hit) return hit[0];
-    const inside = clientX >= left && clientX < right && clientY >= top && clientY < bottom;
+    const inside = velor.boxes.holds(box, { clientX, clientY });
     return inside && velor.objects.isMovable(object) ? 'move' : '';
   };
 
@@ -75,15 +78,41 @@
     redraw();
   };
 
-  // The tint of a selected picture would hide it, and its frame tells enough. A rule for pictures
-  // alone: one for all elements would have a large page styled anew.
+  // A selected object's frame tells enough: it is not tinted like selected text. The rules name the
+  // tags that are in it, since the engine styles all elements of a rule's tag anew; where these are
+  // more than so many, the tint stays.
+  const most = 4000;
   const tintless = new CSSStyleSheet();
-  tintless.replaceSync('img::selection { background: transparent !important }');
+  let untinted = '';
+  let repaint = null;
+  function stillAnimation(object) {
+    const shadow = '0 0 transparent';
+    const animation =
+      object.animate({ textShadow: [shadow, shadow] }, { duration: 1, fill: 'both' });
+    animation.pause();
+    return animation;
+  }
+  function clearTint(object) {
+    const tags = object
+      ? new Set([object, ...object.querySelectorAll('*')].map(({ localName }) => localName)) : [];
+    const known = [...tags].filter((tag) => /^[a-z][a-z0-9]*$/.test(tag));
+    const count = known.reduce((sum, tag) => sum + document.getElementsByTagName(tag).length, 0);
+    const selectors = count > most ? '' : known.map((tag) => `${tag}::selection`).join();
+    // The engine does not paint anew for such a rule, but does for a shadow, even if none is seen.
+    repaint?.cancel();
+    repaint = selectors ? stillAnimation(object) : null;
+    if (selectors === untinted) return;
+    untinted = selectors;
+    velor.adopt(tintless, selectors !== '');
+    tintless.replaceSync(
+      selectors && `${selectors} { background: transparent !important; color: inherit !important }`);
+  }
 
   const watched = new ResizeObserver(() => velor.overlay.follow());
   let subject = null;
   function watch(object) {
     if (object === subject) return;
+    clearTint(object);
     watched.disconnect();
     subject = object;
     if (object) watched.observe(object);
@@ -92,7 +121,6 @@
   function redraw() {
     const object = velor.objects.selected();
     watch(object);
-    velor.adopt(tintless, object?.tagName === 'IMG');
     if (!object) {
       pointing = '';
       velor.overlay.clear('frame');

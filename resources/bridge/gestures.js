@@ -8,7 +8,8 @@
   const dom = velor.dom;
 
   const slack = 3;  // pixels before a press becomes a drag
-  const least = 4;  // pixels of width and height
+  const least = 1;  // pixels of width and height
+  const stride = 16;  // pixels that the page scrolls in a frame while the pointer is outside
 
   let gesture = null;
   let taken = false;  // the click that ends the press is not another one
@@ -31,7 +32,9 @@
     let height = Math.max(least, before.height + (grip.includes('n') ? -dy : dy));
     const kept = horizontal && vertical && !free;
     if (kept) {
-      const scale = Math.max(width / before.width, height / before.height);
+      // The side that is drawn further leads.
+      const scale = [width / before.width, height / before.height]
+        .reduce((one, other) => (Math.abs(other - 1) > Math.abs(one - 1) ? other : one));
       width = Math.max(1, before.width * scale);
       height = Math.max(1, before.height * scale);
     }
@@ -60,16 +63,42 @@
       gesture.preview.pause();
     }
     velor.setDragging({
-      grid: gesture.grip === 'move' && velor.snapToGrid ? before.origin : null });
+      grid: gesture.grip === 'move' && velor.snapToGrid ? velor.objects.measure(object) : null });
+  }
+
+  // A place of the viewport among what the object lies in, however that is scrolled.
+  function placeFor(object, { clientX, clientY }) {
+    const { x, y } = velor.boxes.scrolled(object);
+    return { x: clientX + x, y: clientY + y };
   }
 
   function drag({ clientX, clientY, shiftKey }) {
-    const dx = clientX - gesture.x;
-    const dy = clientY - gesture.y;
-    if (!gesture.change && Math.max(Math.abs(dx), Math.abs(dy)) < slack) return;
-    gesture.change = gesture.grip === 'move'
-      ? moving(gesture, dx, dy) : sizing(gesture, dx, dy, shiftKey);
+    const { object, grip, from, before: { scale } } = gesture;
+    gesture.last = { clientX, clientY, shiftKey };
+    const { x, y } = placeFor(object, gesture.last);
+    if (!gesture.change && Math.max(Math.abs(x - from.x), Math.abs(y - from.y)) < slack) return;
+    const [dx, dy] = [(x - from.x) / scale.x, (y - from.y) / scale.y];
+    gesture.change = grip === 'move' ? moving(gesture, dx, dy) : sizing(gesture, dx, dy, shiftKey);
     show(gesture);
+    scrollOn();
+  }
+
+  // While the pointer is held outside the window the page comes to meet it.
+  function scrollOn() {
+    if (gesture.scrolls) return;
+    const { clientX: x, clientY: y } = gesture.last;
+    const towards = (place, end) => (place < 0 ? -stride : place >= end ? stride : 0);
+    const [right, down] = [towards(x, innerWidth), towards(y, innerHeight)];
+    if (!right && !down) return;
+    const scrolling = gesture;
+    scrolling.scrolls = true;
+    requestAnimationFrame(() => {
+      scrolling.scrolls = false;
+      if (gesture !== scrolling) return;
+      const before = [scrollX, scrollY].join();
+      scrollBy(right, down);
+      if ([scrollX, scrollY].join() !== before) drag(gesture.last);
+    });
   }
 
   function end() {
@@ -84,13 +113,16 @@
   function release(event) {
     if (!gesture) return;
     const { object, change, before, grip } = gesture;
-    // An object does not become smaller than what it holds: what is seen is what is written.
-    if (change) {
-      const { width, height } = object.getBoundingClientRect();
-      if (change.width !== undefined) change.width = width;
-      if (change.height !== undefined) change.height = height;
+    const shown = velor.objects.measure(object);
+    // An object does not become smaller than what it holds, nor larger than its page lets it: what is
+    // seen is what is written.
+    for (const side of ['width', 'height']) {
+      if (change && side in change) change[side] = shown[side];
     }
+    const same = ['width', 'height', 'left', 'top', 'right', 'bottom']
+      .every((side) => Math.abs(shown[side] - before[side]) < 0.5);
     const { again } = end();
+    if (change && same) return;
     if (change) velor.history.step('drag', () => velor.objects.write(object, before, change));
     else if (again && grip === 'move' && velor.objects.isBox(object)) {
       velor.pointAt('');
@@ -98,9 +130,9 @@
     }
   }
 
-  function begin(object, grip, again, { clientX: x, clientY: y }) {
-    gesture = { object, grip, again, x, y, before: velor.objects.measure(object), change: null,
-      preview: null };
+  function begin(object, grip, again, event) {
+    gesture = { object, grip, again, from: placeFor(object, event), change: null, preview: null,
+      before: velor.objects.measure(object) };
   }
 
   // A picture in the text can be dragged to another place in it, which the engine does; a click
@@ -202,10 +234,13 @@
     if (gesture && !/^(Shift|Control|Alt)$/.test(key)) {
       cancel();
       if (key === 'Escape') event.preventDefault();
+      return;
     }
-    if (!velor.editable() || event.isComposing || altKey || metaKey || !steps.has(key)) return;
+    if (!velor.editable() || event.isComposing || altKey || metaKey) return;
     const range = velor.selection.range();
     const object = velor.selection.control(range);
+    if (key === 'Escape') velor.objects.leave(object);
+    if (!steps.has(key)) return;
     if (shiftKey) {
       if (!ctrlKey && range?.collapsed && extendOver(range, key)) event.preventDefault();
     } else if (object && velor.objects.isMovable(object)) {

@@ -140,6 +140,9 @@
     if (breaksLine()) return breakLine;
     const range = velor.selection.range();
     if (!range) return null;
+    const object = velor.selection.control(range);
+    const entering = object && velor.objects.entering(object);
+    if (entering) return entering;
     if (!range.collapsed) return replaceByEnter;
     const gap = velor.units.gapAt(range);
     if (gap) return () => velor.typing.makeLine(gap);

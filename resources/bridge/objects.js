@@ -17,9 +17,10 @@
   const edge = 2;      // pixels within a box's border that still count as its border
   const outerEdge = 4; // and around a table, whose border may have no width at all
   function isAtEdge(node, { clientX: x, clientY: y }) {
-    const { left, top, right, bottom } = node.getBoundingClientRect();
+    const { left, top, right, bottom } = velor.boxes.boxOf(node);
     const distance = Math.min(x - left, right - x, y - top, bottom - y);
-    return distance >= -outerEdge && distance <= edge + Math.max(node.clientLeft, node.clientTop);
+    const border = Math.max(node.clientLeft, node.clientTop) * velor.boxes.zoomOf(node);
+    return distance >= -outerEdge && distance <= edge + border;
   }
 
   // The box that the person went into: clicks there place the caret.
@@ -39,16 +40,12 @@
   }
 
   const closed = 'IFRAME, OBJECT, EMBED, APPLET, VIDEO, AUDIO';
-  const holds = ({ clientX: x, clientY: y }) => (element) => {
-    const { left, top, right, bottom } = element.getBoundingClientRect();
-    return x >= left && x < right && y >= top && y < bottom;
-  };
-
   // The object that a mouse event means; null for text.
   function at(event) {
     const { target, clientX: x, clientY: y } = event;
     if (!velor.editable() || !(target instanceof Element)) return null;
-    const inside = [...document.querySelectorAll(closed)].filter(holds(event)).at(-1);
+    const inside = [...document.querySelectorAll(closed)]
+      .filter((element) => velor.boxes.holds(velor.boxes.boxOf(element), event)).at(-1);
     if (inside) return inside;
     if (target.tagName === 'AREA') {
       const name = target.closest('MAP')?.name ?? '';
@@ -71,6 +68,54 @@
     entered = box;
     velor.selection.setCaret(...(inside ? [place.startContainer, place.startOffset] : [box, 0]));
   }
+  const paragraphFor = (object, place) => {
+    const paragraph = dom.create('P');
+    paragraph.append(dom.create('BR'));
+    object[place](paragraph);
+    velor.selection.setCaret(paragraph, 0);
+  };
+  const holdsParagraphs = (node) => dom.isBlock(node) && !dom.isParagraph(node) &&
+    !/^(CAPTION|DD|LI|TD|TH)$/.test(node.tagName);
+
+  // What comes in the place of a selected block is a line of its own: a paragraph where there are
+  // such. Tells whether it is so; anything else is replaced as text is.
+  function giveWay(object) {
+    const { parentNode } = object;
+    if (!dom.isBlock(object) || !dom.isBlock(parentNode)) return false;
+    if (holdsParagraphs(parentNode)) {
+      paragraphFor(object, 'replaceWith');
+      return true;
+    }
+    const index = velor.selection.indexOf(object);
+    object.replaceWith(dom.create('BR'));
+    velor.selection.setCaret(parentNode, index);
+    return true;
+  }
+
+  // What Enter does to a selected object: it goes into a box, and behind a block it begins a
+  // paragraph. null where what is selected is replaced as text is.
+  function entering(object) {
+    if (isBox(object) && object.tagName !== 'TABLE') {
+      return () => {
+        const range = document.createRange();
+        range.selectNodeContents(object);
+        entered = object;
+        velor.selection.setCaret(range.endContainer, range.endOffset);
+      };
+    }
+    return dom.isBlock(object) && !dom.isParagraph(object.parentNode)
+      ? () => paragraphFor(object, 'after') : null;
+  }
+
+  // Escape goes out of a box, which is selected then, and from a selected object behind it.
+  function leave(object) {
+    const { anchorNode } = document.getSelection();
+    const box = object ?? dom.ancestor(anchorNode, isBox);
+    entered = null;
+    if (object) velor.selection.setCaret(object.parentNode, velor.selection.indexOf(object) + 1);
+    else if (box) velor.selection.selectNode(box);
+  }
+
   // Whoever types in a box is in it.
   function typed() {
     entered = dom.ancestor(document.getSelection().anchorNode, isBox);
@@ -78,7 +123,8 @@
 
   const number = (text) => parseFloat(text) || 0;
 
-  // What an object is before it is changed; a change is told against it. In pixels.
+  // What an object is before it is changed; a change is told against it. In pixels of the object,
+  // of which `scale` tells how large the viewport shows them; `origin` is a place in the viewport.
   function measure(object) {
     const style = getComputedStyle(object);
     const given = object.computedStyleMap();
@@ -86,14 +132,15 @@
     const sum = (...properties) =>
       (style.boxSizing === 'border-box' ? 0
         : properties.reduce((all, each) => all + number(style.getPropertyValue(each)), 0));
-    const rect = object.getBoundingClientRect();
+    const rect = velor.boxes.boxOf(object);
+    const scale = velor.boxes.scaleOf(object);
     const places = ['left', 'top', 'right', 'bottom'].map((side) => [side, number(style[side])]);
     return {
-      rect, width: rect.width, height: rect.height, movable: isMovable(object),
+      scale, width: rect.width / scale.x, height: rect.height / scale.y, movable: isMovable(object),
       ...Object.fromEntries(places),
       // Where the grid of its coordinates begins, in the viewport.
-      origin: { x: rect.left - number(style.left) - number(style.marginLeft),
-        y: rect.top - number(style.top) - number(style.marginTop) },
+      origin: { x: rect.left - (number(style.left) + number(style.marginLeft)) * scale.x,
+        y: rect.top - (number(style.top) + number(style.marginTop)) * scale.y },
       fromRight: isAuto('left') && !isAuto('right'),
       fromBottom: isAuto('top') && !isAuto('bottom'),
       autoWidth: isAuto('width'), autoHeight: isAuto('height'),
@@ -124,11 +171,19 @@
   }
 
   const withAttributes = new Set(['APPLET', 'CANVAS', 'EMBED', 'HR', 'IFRAME', 'IMG', 'MARQUEE',
-    'OBJECT', 'TABLE', 'VIDEO']);
+    'OBJECT', 'TABLE', 'VIDEO', 'svg']);
 
-  // A size in percent stays one.
-  const spelled = (old, pixels, growth) =>
-    (/%\s*$/.test(old) ? `${Math.max(1, Math.round(parseFloat(old) * growth))}%` : pixels);
+  // A size in percent stays one, and other lengths keep their unit.
+  function spelled(old, pixels, growth) {
+    const [, value, unit] = /^\s*(-?[\d.]+)([a-z]+|%)\s*$/i.exec(old) ?? [];
+    if (unit === '%') return `${Math.max(1, Math.round(value * growth))}%`;
+    return lengthIn(unit, value, growth) ?? pixels;
+  }
+  // null where the unit is pixels, or nothing says how many of them it has.
+  function lengthIn(unit, value, growth) {
+    if (!unit || /^px$/i.test(unit) || !Number(value) || !Number.isFinite(growth)) return null;
+    return `${Math.round(value * growth * 100) / 100}${unit}`;
+  }
 
   // Where the page has a style for a size, that is changed, and an attribute that is there too;
   // where it has neither, the object's attribute is used if there is such a one.
@@ -154,12 +209,18 @@
       if (property === 'width' || property === 'height') {
         writeSize(object, property, pixels, change[property] / before[property]);
       } else {
-        velor.putDeclaration(object, property, `${Math.round(pixels)}px`);
+        writePlace(object, property, pixels, before[property]);
       }
     }
   }
+  function writePlace(object, side, pixels, before) {
+    const old = object.style.getPropertyValue(side);
+    const [, value, unit] = /^(-?[\d.]+)([a-z]+|%)$/i.exec(old) ?? [];
+    velor.putDeclaration(object, side,
+      lengthIn(unit, value, pixels / before) ?? `${Math.round(pixels)}px`);
+  }
 
   velor.objects = {
-    selected, isMovable, isBox, at, enter, typed, measure, properties, write,
+    selected, isMovable, isBox, at, enter, entering, leave, giveWay, typed, measure, properties, write,
   };
 })();

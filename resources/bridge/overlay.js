@@ -1,16 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Drawing over the page: pictures that lie on two pseudo-elements of the root, given by a style
+// Drawing over the page: pictures that lie on two pseudo-elements of the head, given by a style
 // sheet that hangs on the document but is no part of it. Nothing drawn is a node, so there is
 // nothing of it in a mutation record or in the page's text, and the engine scrolls and scales it
-// with the page.
+// with the page. The head is what no page has rules for; it shows nothing and takes no room.
 (() => {
   'use strict';
   const { velor } = globalThis;
 
-  const sheet = new CSSStyleSheet();
-  // What lies inside these is another page's or program's: the pointer shall meet the object.
-  sheet.replaceSync('html::before {} html::after {}' +
-    ' iframe, object, embed, applet, video, audio { pointer-events: none !important; }');
+  const sheetOf = (rules) => {
+    const sheet = new CSSStyleSheet();
+    sheet.replaceSync(rules);
+    return sheet;
+  };
+  // A head without a box of its own has pseudo-elements all the same.
+  const carrier = sheetOf('head { display: contents !important; white-space: normal !important; }' +
+    ' head > * { display: none !important; }');
+  // What lies inside frames and the like is another page's or program's: the pointer shall meet the
+  // object. The engine tells its own zoom as the root's, unless a rule gives the root one; this rule
+  // changes nothing, and gives way to any of the page.
+  const closed = sheetOf(
+    'iframe, object, embed, applet, video, audio { pointer-events: none !important; }' +
+    ' @layer velor { html { zoom: 1 } }');
+  const sheet = sheetOf('head::before {} head::after {}');
   const styles = { details: sheet.cssRules[0].style, frame: sheet.cssRules[1].style };
   const drawn = {};
 
@@ -24,12 +35,15 @@
     document.adoptedStyleSheets = on ? [...others, added] : others;
   };
 
-  // Where an absolute pseudo-element of the root counts from, in pixels of the viewport.
+  // Where an absolute child of the root counts from, in pixels of the viewport.
   function origin() {
     const root = document.documentElement;
-    if (getComputedStyle(root).position === 'static') return { x: -scrollX, y: -scrollY };
-    const { left, top } = root.getBoundingClientRect();
-    return { x: left + root.clientLeft, y: top + root.clientTop };
+    const { position, transform, filter, perspective } = getComputedStyle(root);
+    const isFree = [transform, filter, perspective].every((value) => value === 'none');
+    if (position === 'static' && isFree) return { x: -scrollX, y: -scrollY };
+    const { left, top } = velor.boxes.boxOf(root);
+    const zoom = velor.boxes.zoomOf(root);
+    return { x: left + root.clientLeft * zoom, y: top + root.clientTop * zoom };
   }
 
   // A box of the viewport as part of the page. It ends where the page does, or it would make the
@@ -60,7 +74,8 @@
     const inView = area === 'view';
     const declarations = {
       all: 'initial', content: '""', display: 'block', 'z-index': '2147483647',
-      'pointer-events': 'none', ...(inView ? onView : onPage(area)),
+      'pointer-events': 'none', zoom: String(1 / velor.boxes.zoomOf(document.documentElement)),
+      ...(inView ? onView : onPage(area)),
       ...background(layers, inView ? { left: 0, top: 0 } : area), ...more,
     };
     const text = Object.entries(declarations)
@@ -92,6 +107,12 @@
     draw, clear, follow,
     add: (redraw) => followers.push(redraw),
     start() {
+      // A page that shows its head keeps it as it is.
+      const { head } = document;
+      if (velor.editable() && head && getComputedStyle(head).display === 'none') {
+        velor.adopt(carrier, true);
+      }
+      velor.adopt(closed, true);
       velor.adopt(sheet, true);
       document.addEventListener('scroll', follow, true);
       document.addEventListener('load', follow, true);

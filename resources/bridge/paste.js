@@ -118,12 +118,12 @@
   }
 
   // Elements that would stand in their like.
-  const likes = { STRONG: 'B', EM: 'I' };
+  const likes = { STRONG: 'B', EM: 'I', INS: 'U', STRIKE: 'S', DEL: 'S' };
   const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
   function dropLikes(fragment, node) {
     const around = new Set();
     for (let at = node; !dom.isBlock(at); at = at.parentNode) around.add(kindOf(at));
-    for (const element of fragment.querySelectorAll('b, strong, i, em, u')) {
+    for (const element of fragment.querySelectorAll('b, strong, i, em, u, ins, s, strike, del, code, sub, sup')) {
       if (!element.attributes.length && around.has(kindOf(element))) dom.unwrap(element);
     }
   }
@@ -159,9 +159,11 @@
 
   // Removes what the fragment replaces; only then is it known which ids are free.
   function makeRoom(range, fragment) {
-    const { deletion, selection } = velor;
-    if (!range.collapsed && !fragment.firstChild) deletion.remove(range);
-    else if (!range.collapsed) {
+    const { deletion, objects, selection } = velor;
+    const object = selection.control(range);
+    const gone = object && fragment.firstChild && objects.giveWay(object);
+    if (!gone && !range.collapsed && !fragment.firstChild) deletion.remove(range);
+    else if (!gone && !range.collapsed) {
       const { startContainer, startOffset } = deletion.clear(range);
       selection.setCaret(startContainer, startOffset);
     }

@@ -70,8 +70,10 @@
     const range = velor.selection.range();
     if (!range) return;
     if (!range.collapsed) {
-      if (event.inputType === 'insertCompositionText') keepLooks(range);
-      else velor.deletion.empty(range);
+      const object = velor.selection.control(range);
+      const gaveWay = object && velor.objects.giveWay(object);
+      if (event.inputType === 'insertCompositionText' && !object) keepLooks(range);
+      else if (!gaveWay) velor.deletion.empty(range);
     }
     const caret = velor.selection.range();
     const gap = velor.units.gapAt(caret);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QEvent>
+#include <QImage>
 #include <QKeySequence>
 #include <QString>
 #include <QVariant>
@@ -30,6 +31,8 @@ class BridgePage {
   void Button(QEvent::Type type, QPoint place, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   void Move(QPoint place, Qt::MouseButtons held = Qt::NoButton,
             Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  /// What the view shows.
+  QImage Picture() { return view_.grab().toImage(); }
   QWebEnginePage &Engine() { return *view_.page(); }
 
  private:

@@ -13,7 +13,7 @@ TEST_F(ObjectDrags, ThePointerLooksLikeTheGripThatItIsOver) {
   const auto looks = [this](QPoint place, const QString &cursor) {
     page_.Move(place);
     return Comes(
-        QStringLiteral("{ const style = getComputedStyle(document.documentElement,"
+        QStringLiteral("{ const style = getComputedStyle(document.head,"
                        "  '::after');"
                        "  (style.pointerEvents === 'none' ? 'text' : style.cursor) === '%1' }")
             .arg(cursor));
@@ -52,7 +52,7 @@ TEST_F(ObjectDrags, ADragShowsItselfAndItsGridBeforeThePageChanges) {
   page_.Move({290, 190}, Qt::LeftButton);
   ASSERT_TRUE(
       Comes(QStringLiteral("document.querySelector('div').getBoundingClientRect().left === 250")));
-  EXPECT_TRUE(Text(QStringLiteral("getComputedStyle(document.documentElement, '::after')"
+  EXPECT_TRUE(Text(QStringLiteral("getComputedStyle(document.head, '::after')"
                                   ".backgroundSize"))
                   .contains(QStringLiteral("50px 50px")));
   EXPECT_EQ(Body(), loaded_);
@@ -169,6 +169,89 @@ TEST_F(ObjectDrags, SizesAreWrittenAsThePageHasThem) {
   EXPECT_TRUE(
       Body().startsWith(QStringLiteral("<table border=\"1\" width=\"%1\">").arg(right + 100)))
       << qPrintable(Body());
+}
+
+TEST_F(ObjectDrags, TheSideOfACornerThatIsDrawnFurtherLeads) {
+  Load(QStringLiteral("<img style=\"display: block\" width=\"200\" height=\"100\" alt=\"\">"));
+  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Drag({200, 100}, {100, 100});
+  EXPECT_TRUE(BecomesBody(
+      QStringLiteral("<img style=\"display: block\" width=\"100\" height=\"50\" alt=\"\">")))
+      << qPrintable(Body());
+}
+
+TEST_F(ObjectDrags, APictureIsNeverSmallerThanAPixel) {
+  Load(QStringLiteral("<p>x</p><img width=\"100\" height=\"50\" alt=\"\">"));
+  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  const int top =
+      Evaluate(QStringLiteral("document.querySelector('img').getBoundingClientRect().top")).toInt();
+  Drag({100, top + 25}, {-200, top + 25});
+  EXPECT_TRUE(BecomesBody(QStringLiteral("<p>x</p><img width=\"1\" height=\"50\" alt=\"\">")))
+      << qPrintable(Body());
+}
+
+TEST_F(ObjectDrags, WhatThePageDoesNotLetGrowIsNotWritten) {
+  Load(
+      QStringLiteral("<div style=\"width: 120px\"><img width=\"160\" height=\"100\" alt=\"\" "
+                     "style=\"max-width: 100%; height: auto\"></div>"));
+  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  const int height = Evaluate(QStringLiteral("document.querySelector('img').offsetHeight")).toInt();
+  Drag({120, height}, {160, height});
+  Drag({120, height}, {160, height + 3});
+  EXPECT_EQ(Body(), loaded_);
+  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+}
+
+TEST_F(ObjectDrags, LengthsKeepTheirUnits) {
+  Load(
+      QStringLiteral("<div style=\"position: absolute; left: 5em; top: 10%; width: 10em; height: "
+                     "50px\">text</div>"));
+  page_.Click({100, 70});
+  ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));
+  Drag({100, 70}, {132, 100});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Body() != loaded_; }, 5000));
+  Drag({272, 115}, {304, 115});
+  EXPECT_TRUE(BecomesBody(
+      QStringLiteral("<div style=\"position: absolute; left: 7em; top: 15%; width: 12em; height: "
+                     "50px\">text</div>")))
+      << qPrintable(Body());
+}
+
+TEST_F(ObjectDrags, FollowTheScaleThatAnObjectIsShownIn) {
+  Load(
+      QStringLiteral("<div style=\"zoom: 2\"><div style=\"position: absolute; left: 50px; top: "
+                     "40px; width: 60px; height: 40px\">b</div></div>"));
+  page_.Click({150, 100});
+  ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));
+  Drag({150, 100}, {180, 120});
+  EXPECT_TRUE(
+      Comes(QStringLiteral("document.querySelector('div div').getAttribute('style').includes("
+                           "'left: 65px; top: 50px')")))
+      << qPrintable(Body());
+  Load(
+      QStringLiteral("<div style=\"transform: scale(0.5); transform-origin: 0 0\">"
+                     "<img style=\"display: block\" width=\"100\" height=\"50\" alt=\"\"></div>"));
+  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Drag({50, 12}, {80, 12});
+  EXPECT_TRUE(Comes(QStringLiteral("document.querySelector('img').width === 160")))
+      << qPrintable(Body());
+}
+
+TEST_F(ObjectDrags, ThePageScrollsWhileThePointerIsOutsideTheWindow) {
+  Load(
+      QStringLiteral("<div style=\"height: 3000px\"></div><div style=\"position: absolute; left: "
+                     "50px; top: 500px; width: 100px; height: 50px\">text</div>"));
+  page_.Button(QEvent::MouseButtonPress, {100, 525});
+  page_.Move({100, 560}, Qt::LeftButton);
+  page_.Move({100, 620}, Qt::LeftButton);
+  ASSERT_TRUE(Comes(QStringLiteral("scrollY > 100")));
+  page_.Move({100, 325}, Qt::LeftButton);
+  page_.Button(QEvent::MouseButtonRelease, {100, 325});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Body() != loaded_; }, 5000));
+  EXPECT_EQ(Evaluate(QStringLiteral("parseFloat(document.querySelectorAll('div')[1].style.top) - "
+                                    "scrollY"))
+                .toInt(),
+            300);
 }
 
 TEST_F(ObjectDrags, HandlesAreWhereTheyAreDrawnWhenThePageIsZoomed) {

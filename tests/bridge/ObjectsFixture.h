@@ -60,7 +60,7 @@ class Objects : public ::testing::Test {
   /// Whether the frame is drawn around this box of the viewport, with its eight handles.
   bool FrameComesAround(const QString &selector) {
     return Comes(QStringLiteral(
-                     "{ const style = getComputedStyle(document.documentElement, '::after');"
+                     "{ const style = getComputedStyle(document.head, '::after');"
                      "  const r = document.querySelector('%1').getBoundingClientRect();"
                      "  const near = (one, other) => Math.abs(one - other) < 6;"
                      "  style.content !== 'none' && near(parseFloat(style.left) - scrollX, r.left)"

@@ -113,6 +113,18 @@
       document.body.dispatchEvent(new DragEvent('drop',
         { dataTransfer, clientX, clientY, bubbles: true, cancelable: true }));
     },
+    // The selection, or the picture at `selector`, dragged to a place of the page.
+    drag(selector, clientX, clientY, ctrlKey = false) {
+      const dataTransfer = new DataTransfer();
+      const from = document.querySelector(selector);
+      const send = (name, target) => target.dispatchEvent(new DragEvent(name,
+        { dataTransfer, clientX, clientY, ctrlKey, bubbles: true, cancelable: true }));
+      send('dragstart', from);
+      const given = dataTransfer.getData('text/html');
+      send('drop', document.body);
+      send('dragend', document.body);
+      return given;
+    },
     // A paste of what another program has put on the clipboard.
     paste(type, data) {
       const clipboardData = new DataTransfer();

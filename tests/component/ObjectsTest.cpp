@@ -61,7 +61,7 @@ TEST_F(ObjectsOfThePage, HandlesAndGlyphsAreNeverInTheDocument) {
   editor_->SetSnapToGrid(true);
   ASSERT_TRUE(WaitFor([this] {
     return Evaluate(QStringLiteral("['::before', '::after'].every((name) =>"
-                                   "getComputedStyle(document.documentElement, name).content"
+                                   "getComputedStyle(document.head, name).content"
                                    "    !== 'none')"))
         .toBool();
   }));
