@@ -34,6 +34,8 @@ struct HtmlToken {
   /// A tag that is read in the same way whatever stands before it.
   bool isFree = false;
 
+  bool operator==(const HtmlToken &) const = default;
+
   std::int32_t End() const { return offset + length; }
   bool IsTag() const { return name != 0; }
   /// Text that a character reference may stand in.

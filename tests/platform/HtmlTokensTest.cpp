@@ -3,8 +3,11 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <random>
+#include <utility>
 
 namespace velor {
 
@@ -135,21 +138,57 @@ TEST(HtmlTokens, TheNthTagOfANameIsFoundByItsKeyInAnyLetterCase) {
   EXPECT_EQ(places, (std::vector<int>{11, 16, 52}));
 }
 
-TEST(HtmlTokens, EveryTextIsCutInOrderWithoutOverlap) {
-  const char16_t pieces[][12] = {u"<",      u">",   u"a",   u" ",         u"&",        u"&amp;",
-                                 u"\r",     u"\n",  u"<p ", u"=\"",       u"'",        u"<!--",
-                                 u"-->",    u"</",  u"/",   u"<svg>",     u"<script>", u"</script",
-                                 u"\xd83d", u"&#x", u"]]>", u"<![CDATA[", u"<title>"};
-  std::mt19937 random(7);
-  for (int round = 0; round < 3000; ++round) {
+/// What markup and its hazards are made of.
+class RandomMarkup {
+ public:
+  QString Text(int parts) {
     QString html;
-    for (int part = 0; part < 24; ++part) html += QStringView(pieces[random() % std::size(pieces)]);
+    for (int part = 0; part < parts; ++part) html += QStringView(pieces[Below(std::size(pieces))]);
+    return html;
+  }
+  /// The text with one stretch exchanged.
+  QString Edited(QString html) {
+    const qsizetype start = Below(static_cast<std::size_t>(html.size()) + 1);
+    const qsizetype length = std::min<qsizetype>(Below(12), html.size() - start);
+    return html.replace(start, length, Text(static_cast<int>(Below(3))));
+  }
+
+ private:
+  static constexpr char16_t pieces[][12] = {
+      u"<",        u">",      u"a",      u" ",   u"&",    u"&amp;",     u"\r",
+      u"\n",       u"<p ",    u"=\"",    u"'",   u"<!--", u"-->",       u"</",
+      u"/",        u"<svg>",  u"</svg>", u"<b>", u"</b>", u"<pre>",     u"<script>",
+      u"</script", u"\xd83d", u"&#x",    u"]]>", u"<td>", u"<![CDATA[", u"<title>"};
+
+  qsizetype Below(std::size_t limit) { return static_cast<qsizetype>(random_() % limit); }
+
+  std::mt19937 random_{7};
+};
+
+TEST(HtmlTokens, EveryTextIsCutInOrderWithoutOverlap) {
+  RandomMarkup markup;
+  for (int round = 0; round < 3000; ++round) {
+    const QString html = markup.Text(24);
     int end = 0;
     for (const HtmlToken &token : TokenizeHtml(html)) {
       ASSERT_GE(token.offset, end) << qPrintable(html);
       ASSERT_GT(token.length, 0) << qPrintable(html);
       end = token.End();
       ASSERT_LE(end, html.size()) << qPrintable(html);
+    }
+  }
+}
+
+TEST(HtmlTokens, AnEditedTextIsCutFromTheOneBeforeAsFromNothing) {
+  RandomMarkup markup;
+  for (int text = 0; text < 1000; ++text) {
+    QString html = markup.Text(40);
+    std::vector<HtmlToken> tokens = TokenizeHtml(html);
+    for (int edit = 0; edit < 20; ++edit) {
+      const QString after = markup.Edited(html);
+      tokens = TokenizeHtmlLike(after, html, std::move(tokens));
+      ASSERT_EQ(tokens, TokenizeHtml(after)) << qPrintable(html) << "\n" << qPrintable(after);
+      html = after;
     }
   }
 }
