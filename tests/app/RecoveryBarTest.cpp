@@ -224,6 +224,8 @@ TEST_F(RecoveryBars, WithALongListTheButtonInFocusIsInSight) {
   Offer();
   window.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  auto *rows = Find<QWidget>("picRecoveryRows");
+  ASSERT_TRUE(QTest::qWaitFor([rows] { return rows->height() >= rows->sizeHint().height(); }));
   QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
   const auto isInSight = [this] {
     auto *scroller = Bar().findChild<QScrollArea *>();
