@@ -22,7 +22,11 @@ const QDateTime Noon(QDate(2026, 3, 1), QTime(12, 0));
 
 class RecoveryBars : public WindowFixture {
  protected:
-  RecoveryBars() { platform.journals = &journals; }
+  RecoveryBars() {
+    platform.journals = &journals;
+    // The window looks for itself once, and finds nothing yet.
+    QTest::qWait(0);
+  }
 
   static JournalledPage Page(const QString &path, const QString &caption) {
     return {
