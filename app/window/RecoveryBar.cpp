@@ -174,6 +174,9 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
     button->installEventFilter(this);
   }
   rows_->addWidget(row);
+  // Where the bar is in sight already, a new row would come by itself only later, and count as
+  // nothing until then.
+  row->show();
 }
 
 JournalledPage RecoveryBar::Read(const AbandonedPage &abandoned) {

@@ -1,19 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A page that was journalled by one run and restored by the next is saved as faithfully as if
 // nothing had happened.
+#include "app/window/RecoveryBar.h"
 #include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
+#include "platform/qt/StateFolder.h"
 #include "platform/qt/files/JournalFiles.h"
 #include "tests/app/RealWindowFixture.h"
 #include "tests/component/ComponentFixture.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <optional>
 
 namespace velor {
 namespace {
 
 class RealRecovery : public RealWindow {
  protected:
-  RealRecovery() { platform.journals = &journals_; }
+  RealRecovery() {
+    qputenv("XDG_STATE_HOME", state_.path().toLocal8Bit());
+    platform.journals = &journals_.emplace();
+  }
+  ~RealRecovery() override { qputenv("XDG_STATE_HOME", stateHome_); }
 
   frmMain &LastOpened() {
     PageSlots &pages = window.Context().pages;
@@ -30,8 +44,18 @@ class RealRecovery : public RealWindow {
     return kept;
   }
 
+  static QStringList JournalsThere() {
+    QStringList found;
+    const QDir root(StateFolder() + QStringLiteral("/recovery"));
+    for (const QString &run : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+      found += QDir(root.filePath(run)).entryList({QStringLiteral("*.page")});
+    return found;
+  }
+
  private:
-  JournalFiles journals_;
+  const QByteArray stateHome_ = qgetenv("XDG_STATE_HOME");
+  QTemporaryDir state_;
+  std::optional<JournalFiles> journals_;
 };
 
 TEST_F(RealRecovery, ARestoredPageIsSavedFaithfully) {
@@ -91,6 +115,63 @@ TEST_F(RealRecovery, AnAppliedSourceIsJournalledWithItsText) {
   modWorkFlow::RestorePage(window.Context(), left);
   Choose("mnuSave");
   EXPECT_EQ(Bytes(QStringLiteral("page.htm")), "<P>applied</P>");
+}
+
+TEST_F(RealRecovery, ASourceThatWasNotAppliedIsInItsEditorAgainAndIsAppliedFaithfully) {
+  const QByteArray source = "<HTML>\r\n<body>\r\n<P>one</P>\r\n</body></HTML>\r\n";
+  frmMain &page = Open(QStringLiteral("page.htm"), source);
+  page.ChangeMode(3);
+  frmCodeEditor *editor = window.Context().pages.CodeEditor(page.Number());
+  SourceControl &code = editor->Code();
+  ASSERT_TRUE(code.Find(QStringLiteral("one"), SearchDirection::Here, LetterCase::Matched));
+  QTest::keyClicks(code.Widget(), QStringLiteral("typed"));
+  ASSERT_TRUE(WaitFor([] { return !JournalsThere().isEmpty(); }));
+  JournalledPage kept = Left(page, QStringLiteral("one"));
+  kept.source = editor->UnappliedText();
+  ASSERT_EQ(kept.source, QString::fromUtf8(source).replace("one", "typed"));
+
+  modWorkFlow::RestorePage(window.Context(), kept);
+  frmMain &restored = LastOpened();
+  EXPECT_TRUE(Holds(restored, QStringLiteral("one")));
+  editor = window.Context().pages.CodeEditor(restored.Number());
+  EXPECT_EQ(editor->Code().Text(), kept.source);
+  EXPECT_EQ(editor->ApplyCode(), 0);
+  EXPECT_TRUE(Holds(restored, QStringLiteral("typed")));
+  editor->close();
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")), QByteArray(source).replace("one", "typed"));
+}
+
+TEST_F(RealRecovery, ACleanExitLeavesNothingBehind) {
+  frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("X"));
+  frmMain &source = NewPage();
+  source.ChangeMode(3);
+  window.Context().pages.CodeEditor(source.Number())->Code().SetText(QStringLiteral("<p>x</p>"));
+  ASSERT_TRUE(WaitFor([] { return JournalsThere().size() == 2; }));
+  Choose("mnuExit");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QTest::qWait(0);
+  EXPECT_EQ(JournalsThere(), QStringList());
+}
+
+TEST_F(RealRecovery, ThePageInTheKeyboardsFocusIsLeftForTheOfferByAltG) {
+  JournalledPage abandoned;
+  abandoned.caption = QStringLiteral("Untitled 7");
+  abandoned.page = {"<p>", QStringLiteral("/"), QStringLiteral("<html><body><p>back</p></body>")};
+  abandoned.time = QDateTime::currentDateTime();
+  JournalFiles().Begin()->Write(abandoned);
+  frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
+  Find<RecoveryBar>("picRecovery")->Offer();
+  PutCaret(page, QStringLiteral("p"));
+  ASSERT_TRUE(WaitFor([&] { return InputOf(page)->hasFocus(); }));
+  Key(page, Qt::Key_G, Qt::AltModifier);
+  ASSERT_EQ(QApplication::focusWidget()->accessibleName(), QStringLiteral("Restore Untitled 7"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  EXPECT_TRUE(WaitFor([&] { return window.Context().pages.PageCount() == 2; }));
+  EXPECT_TRUE(Holds(LastOpened(), QStringLiteral("back")));
+  EXPECT_FALSE(Holds(page, QStringLiteral("o ne")));
 }
 
 }  // namespace

@@ -22,7 +22,11 @@ const QDateTime Noon(QDate(2026, 3, 1), QTime(12, 0));
 
 class RecoveryBars : public WindowFixture {
  protected:
-  RecoveryBars() { platform.journals = &journals; }
+  RecoveryBars() {
+    platform.journals = &journals;
+    // The window looks for itself once, and finds nothing yet.
+    QTest::qWait(0);
+  }
 
   static JournalledPage Page(const QString &path, const QString &caption) {
     return {
@@ -224,6 +228,8 @@ TEST_F(RecoveryBars, WithALongListTheButtonInFocusIsInSight) {
   Offer();
   window.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  auto *rows = Find<QWidget>("picRecoveryRows");
+  ASSERT_TRUE(QTest::qWaitFor([rows] { return rows->height() >= rows->sizeHint().height(); }));
   QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
   const auto isInSight = [this] {
     auto *scroller = Bar().findChild<QScrollArea *>();

@@ -77,7 +77,7 @@ class Subject {
   }
 
   void Save(int step) {
-    TypeAlphabet();
+    if (!TypesAlphabet()) return;
     // What was typed a moment ago may be lost; here it was typed a while before.
     Page().Journal().Catch();
     calls_.KillBefore(step);
@@ -88,11 +88,10 @@ class Subject {
 
   void Journalise(int step) {
     calls_.KillBefore(step);
-    TypeAlphabet();
+    if (!TypesAlphabet()) return;
     // It goes to the disk in the pause that follows.
     const auto isOnDisk = [this] { return !calls_.order.empty() && calls_.order.back() == Sync; };
-    QTest::qWaitFor(isOnDisk, Patience);
-    Tell(QStringLiteral("done"));
+    if (QTest::qWaitFor(isOnDisk, Patience)) Tell(QStringLiteral("done"));
   }
 
   void Restore(int step) {
@@ -123,10 +122,11 @@ class Subject {
     const int wait = random_.bounded(20) == 0 ? 700 : static_cast<int>(random_.bounded(5, 120));
     QTimer::singleShot(wait, input_, [this] { TypeNext(); });
   }
-  void TypeAlphabet() {
+  [[nodiscard]] bool TypesAlphabet() {
     for (int i = 0; i < Letters; ++i) TypeLetter();
     const QString all = QStringLiteral("abcdefghijklmnopqrstuvwxyz");
-    QTest::qWaitFor([&] { return Page().DHTML1().Memory().document.contains(all); }, Patience);
+    return QTest::qWaitFor([&] { return Page().DHTML1().Memory().document.contains(all); },
+                           Patience);
   }
 
   FaultyCalls calls_;

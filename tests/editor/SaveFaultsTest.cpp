@@ -24,10 +24,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <array>
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
+#include <string>
 #include <unistd.h>
 
 namespace velor {
@@ -40,21 +40,21 @@ constexpr bool AsBefore = false;
 constexpr bool UnderNewName = true;
 
 /// A run of the program with one page open and changed, on real files.
-struct Run {
-  explicit Run(const QString &file) {
+struct Sitting {
+  explicit Sitting(const QString &file) {
     dialog.FileName = ToLogic(file);
     modWorkFlow::OpenPage(context, ToLogic(file));
     Component().CompleteDocument();
     Component().Edit(Changed);
     Page().Journal().Catch();
   }
-  ~Run() {
+  ~Sitting() {
     const std::vector<QWidget *> windows = mainWindow.adopted;
     for (QWidget *window : windows) delete window;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
-  Run(const Run &) = delete;
-  Run &operator=(const Run &) = delete;
+  Sitting(const Sitting &) = delete;
+  Sitting &operator=(const Sitting &) = delete;
 
   frmMain &Page() { return *pages.Page(1); }
   FakeEditingComponent &Component() {
@@ -125,7 +125,7 @@ class SaveFaults : public testing::Test {
   /// needed fewer calls.
   bool SaveWith(Way way, int number, int error, FaultyCalls::Lasting lasting) {
     Prepare(way);
-    auto run = std::make_unique<Run>(page_);
+    auto run = std::make_unique<Sitting>(page_);
     const bool isForeign = way == Way::OverAnothersVersion;
     if (isForeign) Write(target_, Foreign);
     const QByteArray before = isForeign ? Foreign : Old;
@@ -171,21 +171,31 @@ TEST_P(AnySaveFault, LeavesAWholeFileTellsItAndLosesNoText) {
   }
 }
 
+std::string NameOf(const testing::TestParamInfo<Way> &info) {
+  switch (info.param) {
+    case Way::Plain:
+      return "Plain";
+    case Way::UnderANewName:
+      return "UnderANewName";
+    case Way::InPlace:
+      return "InPlace";
+    case Way::OverAnothersVersion:
+      return "OverAnothersVersion";
+  }
+  return {};
+}
+
 INSTANTIATE_TEST_SUITE_P(Ways, AnySaveFault,
                          testing::Values(Way::Plain, Way::UnderANewName, Way::InPlace,
                                          Way::OverAnothersVersion),
-                         [](const auto &test) {
-                           return std::array{
-                               "Plain", "UnderANewName", "InPlace",
-                               "OverAnothersVersion"}[static_cast<std::size_t>(test.param)];
-                         });
+                         NameOf);
 
 TEST_F(SaveFaults, ATemporaryCopyThatCannotBeWrittenCostsNoText) {
   for (int number = 1;; ++number) {
     SCOPED_TRACE(number);
     ASSERT_LT(number, 100);
     Prepare(Way::Plain);
-    Run run(page_);
+    Sitting run(page_);
     run.calls.FailAt(number, EIO);
     EXPECT_EQ(run.Page().CreatorHTML(), Changed);
     EXPECT_EQ(Target(), Old);
@@ -195,7 +205,7 @@ TEST_F(SaveFaults, ATemporaryCopyThatCannotBeWrittenCostsNoText) {
 
 TEST_F(SaveFaults, AChangeOfTheSameSizeAndTimeIsAnotherVersionToo) {
   Prepare(Way::Plain);
-  Run run(page_);
+  Sitting run(page_);
   const QDateTime time = QFileInfo(page_).lastModified();
   const QByteArray sameSize = "<p>OLD</p>";
   Write(page_, sameSize);
@@ -210,7 +220,7 @@ TEST_F(SaveFaults, AChangeOfTheSameSizeAndTimeIsAnotherVersionToo) {
 
 TEST_F(SaveFaults, AFileThatIsGoneIsWrittenAnewAndTheStatusBarSaysSo) {
   Prepare(Way::Plain);
-  Run run(page_);
+  Sitting run(page_);
   ASSERT_TRUE(QFile::rename(page_, folder_->filePath(QStringLiteral("elsewhere.htm"))));
   EXPECT_EQ(run.Save(AsBefore), 0);
   EXPECT_EQ(Target(), Changed.toUtf8());
@@ -226,7 +236,7 @@ TEST_F(SaveFaults, AFolderThatIsGoneIsToldAndTheTextIsKept) {
   const QString page = site + QStringLiteral("/page.htm");
   Write(page, Old);
   {
-    Run run(page);
+    Sitting run(page);
     ASSERT_TRUE(QDir(site).removeRecursively());
     EXPECT_EQ(run.Save(AsBefore), 0);
     ASSERT_EQ(run.mainWindow.reports.size(), 1);

@@ -259,13 +259,13 @@ TEST_F(EveryCall, ContentGoesToTheDiskBeforeTheNameAndTheNameBeforeTheFolder) {
     Prepare(way);
     calls_.FailAt(0, 0);
     EXPECT_EQ(ErrorOfReplacingIt(), ErrorNumber::None);
-    std::vector<Call> order;
+    std::vector<Call> made;
     for (const Call call : calls_.order) {
       if (call == Call::Write || call == Call::Sync || call == Call::Close ||
           call == Call::Rename || call == Call::Truncate)
-        order.push_back(call);
+        made.push_back(call);
     }
-    return order;
+    return made;
   };
   const std::vector<Call> renamed{Call::Write, Call::Sync, Call::Close, Call::Rename, Call::Sync};
   EXPECT_EQ(order(Way::OldFile), renamed);

@@ -3,6 +3,7 @@
 
 #include "platform/Paths.h"
 #include "platform/qt/StateFolder.h"
+#include "platform/qt/files/FileBytes.h"
 #include "platform/qt/files/FileReplacement.h"
 
 #include <QDateTime>
@@ -64,8 +65,9 @@ QString ReplacedFiles::KeepNative(const QString &nativePath, const QByteArray &c
 }
 
 void ReplacedFiles::Forget(const QString &kept) {
-  calls_.Unlink(QFile::encodeName(kept).constData());
-  calls_.Unlink(QFile::encodeName(Origin(kept)).constData());
+  for (const QString &name : {kept, Origin(kept)}) {
+    Uninterrupted([&] { return calls_.Unlink(QFile::encodeName(name).constData()); });
+  }
 }
 
 }  // namespace velor
