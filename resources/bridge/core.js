@@ -14,6 +14,8 @@
   const mirrorLag = 700;
 
   let dirty = true;
+  let changes = 0;         // of the content, counted
+  let mirrored = null;     // how many there were when the program asked for the mirror
   let waiting = false;
   let mirrorFits = true;
   let mirrorWaits = false;
@@ -62,6 +64,15 @@
     if (mirrorFits) velor.host.pushMirror(html);
   }
 
+  // Asked for by the program again and again: the document's text where it has changed meanwhile, and
+  // the selection's place.
+  velor.mirror = () => {
+    velor.history.settle();
+    const html = changes === mirrored ? {} : { html: velor.serialize() };
+    mirrored = changes;
+    return { ...html, generation: velor.generation(), ...velor.places() };
+  };
+
   velor.push = () => {
     waiting = false;
     if (!velor.host) return;
@@ -99,6 +110,7 @@
 
   velor.contentChanged = () => {
     dirty = true;
+    changes++;
     velor.schedulePush();
   };
 

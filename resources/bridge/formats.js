@@ -129,8 +129,8 @@
       inAttribute,
       carries: (element) => isInline(element) && (tags.has(element.tagName) ||
         (element.tagName === 'FONT' && element.hasAttribute(entry.attribute))) ||
-        (isInline(element) || holdsText(element)) &&
-        element.style.getPropertyValue(entry.property) !== '',
+        Boolean(element.style?.getPropertyValue(entry.property)) &&
+        (isInline(element) || holdsText(element)),
       // An empty element of the same format, to go around what keeps it.
       shell(element) {
         if (tags.has(element.tagName)) return create(element.tagName);

@@ -230,9 +230,6 @@
     return { start: at(anchorNode, anchorOffset), end: at(focusNode, focusOffset) };
   };
 
-  velor.mirror = () => (
-    { html: velor.serialize(), generation: velor.generation(), ...velor.places() });
-
   velor.restore = (start, end) => {
     if (!start?.length || !end?.length) return;
     const [anchorNode, anchorOffset] = resolve(start);

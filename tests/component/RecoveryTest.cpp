@@ -32,7 +32,7 @@ class Recovery : public WebEditorTest {
     Evaluate(QStringLiteral(
         "globalThis.given = { mirror: '', pushed: '' };"
         "{ const { mirror } = velor; const { pushMirror } = velor.host;"
-        "velor.mirror = () => { const value = mirror(); given.mirror = value.html; return value; };"
+        "velor.mirror = () => { const value = mirror(); given.mirror = value.html ?? given.mirror; return value; };"
         "velor.host.pushMirror = (html) => { given.pushed = html; pushMirror(html); }; }"));
   }
   bool Gave(const QString &what, const QString &text) {

@@ -46,9 +46,12 @@ void WebEditor::TakeMirror() {
     const QVariantMap mirror = value.toMap();
     if (load != loads_ || mirror.isEmpty()) return;
     FollowGeneration(mirror[QStringLiteral("generation")].toInt());
+    mirror_.start = mirror[QStringLiteral("start")];
+    mirror_.end = mirror[QStringLiteral("end")];
+    const QVariant html = mirror[QStringLiteral("html")];
+    if (!html.isValid()) return;
     mirrorCost_ = std::chrono::milliseconds(asked.elapsed());
-    mirror_ = {mirror[QStringLiteral("html")].toString(), mirror[QStringLiteral("start")],
-               mirror[QStringLiteral("end")]};
+    mirror_.html = html.toString();
     MirrorTaken();
     idleTimer_.start(idlePause);
   });
