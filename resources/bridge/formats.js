@@ -172,7 +172,7 @@
       inAttribute,
       carries: (element) => isInline(element) && (tags.has(element.tagName) ||
         (element.tagName === 'FONT' && element.hasAttribute(entry.attribute))) ||
-        (isInline(element) || holdsText(element)) && isStyled(element),
+        isStyled(element) && (isInline(element) || holdsText(element)),
       // An empty element of the same format, to go around what keeps it.
       shell(element) {
         if (tags.has(element.tagName)) return create(element.tagName);

@@ -209,16 +209,19 @@
     return kept;
   }
 
-  // Joins texts that were cut, keeping the given places ({node, offset}) where they are.
-  function joinTexts(parent, places) {
-    for (let at = parent.firstChild; at; at = at.nextSibling) {
-      while (dom.isText(at) && dom.isText(at.nextSibling)) {
-        const next = at.nextSibling;
+  // Joins each of the texts with those right beside it, keeping the given places ({node, offset})
+  // where they are.
+  function joinTexts(nodes, places) {
+    for (const node of nodes) {
+      if (!dom.isText(node) || !node.parentNode) continue;
+      let first = node;
+      while (dom.isText(first.previousSibling)) first = first.previousSibling;
+      for (let next = first.nextSibling; dom.isText(next); next = first.nextSibling) {
         for (const place of places) {
           if (place.node !== next) continue;
-          Object.assign(place, { node: at, offset: at.length + place.offset });
+          Object.assign(place, { node: first, offset: first.length + place.offset });
         }
-        at.appendData(next.data);
+        first.appendData(next.data);
         next.remove();
       }
     }
@@ -318,9 +321,7 @@
     const texts = isolate(range);
     if (!texts.length) return;
     const places = placesOf(texts, range);
-    const touched = format(name, value, texts);
-    const parents = new Set([...touched].map((node) => node.parentNode).filter(Boolean));
-    parents.forEach((parent) => joinTexts(parent, places));
+    joinTexts(format(name, value, texts), places);
     const [anchor, focus] = backward ? places.reverse() : places;
     velor.selection.restore({ anchor, focus });
   }

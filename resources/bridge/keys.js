@@ -86,7 +86,7 @@
     const end = document.createTextNode(below === '' ? '\n\n' : '\n');
     range.insertNode(end);
     const place = { node: end, offset: 1 };
-    velor.inline.joinTexts(end.parentNode, [place]);
+    velor.inline.joinTexts([end], [place]);
     velor.selection.setCaret(place.node, place.offset);
   }
   function leavePre(pre) {

@@ -240,6 +240,30 @@ TEST_F(Bridge, LeavesFewRangesForTheEngineToFollowHoweverMuchACommandChanges) {
   }
 }
 
+TEST_F(Bridge, TellsOfAKeyOnce) {
+  Load(QStringLiteral("<p>one|</p>"));
+  CollectPushes();
+  ASSERT_TRUE(Comes(QStringLiteral("mirrors.length === 1")));
+  for (const QChar key : QStringLiteral("two words")) {
+    Evaluate(QStringLiteral("pushed.length = 0"));
+    page_.Type(key);
+    Evaluate(
+        QStringLiteral("globalThis.frames = 0; (function pass() {"
+                       "if (++frames < 3) requestAnimationFrame(pass); })()"));
+    ASSERT_TRUE(Comes(QStringLiteral("frames === 3")));
+    EXPECT_EQ(Evaluate(QStringLiteral("pushed.length")).toInt(), 1) << key.toLatin1();
+  }
+}
+
+TEST_F(Bridge, TakesAllOfALongSelectionIn) {
+  Load(QStringLiteral("<p>one</p>").repeated(3000));
+  Evaluate(QStringLiteral("velor.exec(5035); velor.exec(5024)"));
+  EXPECT_EQ(Evaluate(QStringLiteral("document.querySelectorAll('p[align=center]').length")).toInt(),
+            3000);
+  Evaluate(QStringLiteral("velor.exec(5051)"));
+  EXPECT_EQ(Evaluate(QStringLiteral("document.querySelectorAll('ul > li').length")).toInt(), 3000);
+}
+
 TEST_F(Bridge, PutsTheSelectionBackIntoAFreshCopyOfThePage) {
   Load(QStringLiteral("<p>one <b>t^wo</b> three</p><p>fo|ur</p>"));
   // A cut text counts as one, as it will be one when parsed again.

@@ -132,6 +132,12 @@ TEST_F(NoticesWaiting, LeaveAfterTheCallThatCausedThem) {
   EXPECT_THAT(told_, ::testing::ElementsAre(QStringLiteral("display")));
 }
 
+TEST_F(NoticesWaiting, LeaveWithTheNextPostedEvents) {
+  Post(Notice::Display, QStringLiteral("display"));
+  QCoreApplication::sendPostedEvents();
+  EXPECT_EQ(told_.size(), 1U);
+}
+
 TEST_F(NoticesWaiting, OfOneKindAreOneButReportsAreAllTold) {
   Post(Notice::Report, QStringLiteral("first report"));
   Post(Notice::Display, QStringLiteral("old"));

@@ -26,9 +26,9 @@ enum class Notice {
   Died
 };
 
-/// Notices on their way out. They leave by a timer of a millisecond: by then the engine's callback
-/// or the caller that caused them has returned (a shorter way out does not: waiting for the
-/// engine would then hang). While a wait runs none leaves.
+/// Notices on their way out. They leave with the next posted events: by then the engine's callback
+/// or the caller that caused them has returned. While a wait runs none leaves; a timer of a
+/// millisecond takes care of those that could not.
 class NoticeQueue : public QObject {
   Q_OBJECT
 

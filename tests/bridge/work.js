@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Counts what the bridge does with the page's nodes: every step from node to node, every node of a
+// list that it goes through, every computed style. Strings that are made of nodes count by length.
+(() => {
+  'use strict';
+
+  let count = 0;
+  const lengthOf = (text) => 1 + (text?.length ?? 0) / 10;
+  const nodesIn = (root) => 1 + (root.getElementsByTagName?.('*').length ?? 0);
+
+  function counted(prototype, name, weigh) {
+    const property = Object.getOwnPropertyDescriptor(prototype, name);
+    const wrap = (inner) => function counting(...rest) {
+      const result = inner.apply(this, rest);
+      count += weigh(result, this);
+      return result;
+    };
+    const key = property.get ? 'get' : 'value';
+    Object.defineProperty(prototype, name, { ...property, [key]: wrap(property[key]) });
+  }
+
+  const one = () => 1;
+  for (const name of ['parentNode', 'parentElement', 'firstChild', 'lastChild', 'nextSibling',
+    'previousSibling', 'contains', 'compareDocumentPosition']) counted(Node.prototype, name, one);
+  counted(Element.prototype, 'closest', one);
+  counted(TreeWalker.prototype, 'nextNode', one);
+  counted(TreeWalker.prototype, 'previousNode', one);
+  for (const { prototype } of [NodeList, HTMLCollection]) {
+    counted(prototype, Symbol.iterator, (result, list) => list.length);
+  }
+  counted(NodeList.prototype, 'forEach', (result, list) => list.length);
+  for (const { prototype } of [Document, DocumentFragment, Element]) {
+    counted(prototype, 'querySelectorAll', (result, root) => nodesIn(root));
+  }
+  counted(Node.prototype, 'cloneNode', nodesIn);
+  counted(Node.prototype, 'textContent', lengthOf);
+  counted(Element.prototype, 'innerHTML', lengthOf);
+  counted(Element.prototype, 'outerHTML', lengthOf);
+  counted(Range.prototype, 'toString', lengthOf);
+  counted(globalThis, 'getComputedStyle', one);
+
+  globalThis.work = {
+    // The mirror of a page goes its own, slower way.
+    begin() {
+      velor.serialize = () => '';
+      velor.host = { pushState() {}, pushMirror() {}, inputArrived() {} };
+      velor.start({});
+    },
+    reset() { count = 0; },
+    count: () => count,
+    // The text in the middle of the page, the caret in its middle.
+    place() {
+      const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
+      const texts = [];
+      while (walker.nextNode()) {
+        if (walker.currentNode.data.trim()) texts.push(walker.currentNode);
+      }
+      const text = texts[texts.length >> 1];
+      getSelection().collapse(text, text.length >> 1);
+      work.text = text;
+    },
+    selectWord() {
+      const { text } = work;
+      getSelection().setBaseAndExtent(text, 0, text, Math.min(4, text.length));
+    },
+    // Done when no frame of the bridge waits any more.
+    rest() {
+      work.rested = false;
+      requestAnimationFrame(() => requestAnimationFrame(() => { work.rested = true; }));
+    },
+  };
+})();
