@@ -226,14 +226,16 @@
   const keepsBlanks = (text) => /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
   // True when something shows between the edge of a paragraph and a place in it: white space there
   // does not.
-  function shownBetween({ startContainer, startOffset, endContainer, endOffset }, leaves) {
-    return leaves.some((leaf) => {
-      if (!dom.isShown(leaf)) return false;
+  function shownBetween(range) {
+    const { startContainer, startOffset, endContainer, endOffset } = range;
+    for (const leaf of velor.selection.leavesIn(range)) {
+      if (!dom.isShown(leaf)) continue;
       if (!dom.isText(leaf)) return true;
       const from = leaf === startContainer ? startOffset : 0;
       const text = leaf.data.slice(from, leaf === endContainer ? endOffset : leaf.length);
-      return text !== '' && (keepsBlanks(leaf) || /[^ \t\n]/.test(text));
-    });
+      if (text !== '' && (keepsBlanks(leaf) || /[^ \t\n]/.test(text))) return true;
+    }
+    return false;
   }
 
   function atEdge(range, unit, side) {
@@ -242,8 +244,7 @@
     const rest = range.cloneRange();
     if (side === 'start') rest.setStartBefore(first);
     else rest.setEndAfter(dom.isBreak(last) && last !== first ? last.previousSibling : last);
-    return rest.collapsed || dom.isHollow(unit.block || unit.container) ||
-      !shownBetween(rest, [...velor.selection.leavesIn(rest)]);
+    return rest.collapsed || dom.isHollow(unit.block || unit.container) || !shownBetween(rest);
   }
 
   // An element without content that takes no place either.
