@@ -69,17 +69,34 @@
 
   function becomeParagraph(unit, { name, element: tag }, kept) {
     const { block, container } = unit;
-    if (block?.tagName === tag) return;
+    if (block?.tagName === tag) return block;
     if (name === 'Normal') {
       const formed = block && (dom.isParagraph(block));
-      if (!formed) return;
+      if (!formed) return null;
     }
     const inside = dom.ancestor(block || container, (node) => node.tagName === tag, dom.isCell);
-    if (inside && tag !== 'P') return;
+    if (inside && tag !== 'P') return null;
     const preformatted = isPreformatted(block);
     const element = velor.units.become(unit, tag);
     if (preformatted) breakLines(element, kept);
+    return element;
   }
+
+  // Several paragraphs are the lines of one preformatted text, or of one address.
+  function joinLines(blocks, lineEnd) {
+    for (const [index, block] of blocks.entries()) {
+      const above = blocks[index - 1];
+      if (!above || dom.neighbour(above, 'nextSibling') !== block || block.attributes.length) continue;
+      if (dom.isText(above.nextSibling)) above.nextSibling.remove();
+      if (dom.isBreak(above.lastChild)) above.lastChild.remove();
+      above.append(lineEnd(), ...block.childNodes);
+      block.remove();
+      blocks[index] = above;
+    }
+  }
+  const lineEnds = new Map([
+    ['PRE', () => document.createTextNode('\n')], ['ADDRESS', () => dom.create('BR')],
+  ]);
 
   // A format chosen by name takes the place of the one that is there: an item is no heading then.
   function becomePlain({ block }, kept) {
@@ -114,7 +131,9 @@
       velor.units.unitsIn(velor.selection.range())
         .forEach((unit) => becomeParagraph(unit, format, kept));
     } else {
-      units.forEach((unit) => becomeParagraph(unit, format, kept));
+      const made = units.map((unit) => becomeParagraph(unit, format, kept)).filter(Boolean);
+      const lineEnd = lineEnds.get(format.element);
+      if (lineEnd) joinLines(made, lineEnd);
     }
     velor.selection.restore(kept);
   }

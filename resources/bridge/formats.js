@@ -117,11 +117,27 @@
   const isOf = (property) => (declaration) =>
     declaration.slice(0, declaration.indexOf(':')).trim().toLowerCase() === property;
 
+  // The words of these properties in the shorthand `font`, which stands for less without them.
+  const fontWords = {
+    'font-weight': /(:|\s)(bold|bolder|lighter|[1-9]00)(?=\s)/i,
+    'font-style': /(:|\s)(italic|oblique)(?=\s)/i,
+  };
+  function takeFromShorthand(element, property) {
+    const all = declarations(element);
+    const word = fontWords[property];
+    const index = word ? all.findIndex(isOf('font')) : -1;
+    if (index < 0) {
+      element.style.removeProperty(property);
+    } else if (word.test(all[index])) {
+      all[index] = all[index].replace(word, '$1').replace(/:\s+/, ': ').replace(/ {2,}/g, ' ');
+      element.setAttribute('style', all.join(';'));
+    }
+  }
+
   function takeDeclaration(element, property) {
     const all = declarations(element);
     const left = all.filter((declaration) => !isOf(property)(declaration));
-    // A shorthand holds it.
-    if (left.length === all.length) element.style.removeProperty(property);
+    if (left.length === all.length) takeFromShorthand(element, property);
     else if (left.length) element.setAttribute('style', left.join(';').trim());
     else element.removeAttribute('style');
     if (!element.getAttribute('style')) element.removeAttribute('style');
@@ -139,14 +155,15 @@
   }
 
   // A block whose style is its text's alone.
-  const holdsText = (element) =>
-    isBlock(element) && element !== document.body && ![...element.children].some(isBlock);
+  const holdsText = (element) => ![...element.children].some(isBlock);
 
   // read(element, known): the value of text in it; `known` may be a map for what one pass over an
   // unchanged page finds out. tags: elements that are nothing but the format.
   // attribute: FONT's, with a value's spelling there. property: of an inline style, with a value's
   // spelling there; part: the word in its value that the format is, where others may stand beside
   // it. write(value): the element to put around text; inLike(value): the same within another one.
+  // acrossBlocks: its style is taken off a block around several paragraphs, too, since a span inside
+  // would only undo it.
   function format(entry) {
     const tags = new Set(entry.tags);
     const spelled = (value) => value;
@@ -172,7 +189,8 @@
       inAttribute,
       carries: (element) => isInline(element) && (tags.has(element.tagName) ||
         (element.tagName === 'FONT' && element.hasAttribute(entry.attribute))) ||
-        isStyled(element) && (isInline(element) || holdsText(element)),
+        isStyled(element) && (isInline(element) || isBlock(element) && element !== document.body &&
+          (entry.acrossBlocks || holdsText(element))),
       // An empty element of the same format, to go around what keeps it.
       shell(element) {
         if (tags.has(element.tagName)) return create(element.tagName);
@@ -208,18 +226,19 @@
 
   const formats = {
     bold: format({
-      read: bold, tags: ['B', 'STRONG'], property: 'font-weight',
+      read: bold, tags: ['B', 'STRONG'], property: 'font-weight', acrossBlocks: true,
       write: (on) => (on ? create('B') : css('font-weight')('normal')),
       inLike: () => css('font-weight')('bold'),
     }),
     italic: format({
       read: (element) => style(element).fontStyle !== 'normal',
-      tags: ['I', 'EM'], property: 'font-style',
+      tags: ['I', 'EM'], property: 'font-style', acrossBlocks: true,
       write: (on) => (on ? create('I') : css('font-style')('normal')),
       inLike: () => css('font-style')('italic'),
     }),
     underline: format({
       read: underline, tags: ['U', 'INS'], property: 'text-decoration', part: 'underline',
+      acrossBlocks: true,
       // A line drawn by an ancestor cannot be taken off from inside.
       write: (on) => (on ? create('U') : null),
     }),

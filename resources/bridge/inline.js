@@ -136,6 +136,17 @@
     return dom.isElement(only) && fits(only) ? only : null;
   }
 
+  // A FONT that holds nothing but another one takes that one's attributes.
+  function collapse(font) {
+    const [inner] = font.childNodes;
+    const isBare = font.childNodes.length === 1 && inner.tagName === 'FONT' &&
+      [...inner.attributes].every(({ name }) => /^(color|face|size)$/.test(name));
+    if (!isBare) return font;
+    for (const { name, value } of inner.attributes) font.setAttribute(name, value);
+    dom.unwrap(inner);
+    return collapse(font);
+  }
+
   // An element of the same kind that the page's rules have taken the look off does not help.
   function written(format, value, run) {
     const element = format.write(value);
@@ -151,7 +162,7 @@
     const font = format.attribute && within(run, ({ tagName }) => tagName === 'FONT');
     if (font) {
       font.setAttribute(format.attribute, format.inAttribute(value));
-      return font;
+      return collapse(font);
     }
     const span = wrapper.tagName === 'SPAN' && within(run, ({ tagName }) => tagName === 'SPAN');
     if (span) {
@@ -175,9 +186,22 @@
     if (!dom.isElement(other)) return false;
     const bare = (each) => format.carries(each) && !dom.isBlock(each) &&
       format.shell(each).tagName === each.tagName && dom.sameLooks(format.shell(each), each);
-    if (other.tagName === element.tagName && mergeable.has(element.tagName) && !element.id &&
-        dom.sameLooks(element, other)) return true;
-    return bare(element) && bare(other) && format.same(format.read(element), format.read(other));
+    const isSame = () => format.same(format.read(element), format.read(other));
+    const isNamesake = other.tagName === element.tagName && mergeable.has(element.tagName) &&
+      !element.id;
+    if (isNamesake && dom.sameLooks(element, other)) return true;
+    if (bare(element) && bare(other)) return isSame();
+    if (!isNamesake) return false;
+    // The format itself may be spelled otherwise.
+    const rest = (each) => {
+      const copy = each.cloneNode(false);
+      if (format.attribute) copy.removeAttribute(format.attribute);
+      copy.style.removeProperty(format.property);
+      if (!copy.style.length) copy.removeAttribute('style');
+      return copy;
+    };
+    return format.carries(element) && format.carries(other) && isSame() &&
+      dom.sameLooks(rest(element), rest(other));
   }
 
   // Elements whose order makes no difference to what they look like together.
