@@ -203,7 +203,7 @@
       // Texts and elements at the place may be joined to others; this stays where it is in them.
       const mark = document.createComment('');
       place.insertNode(mark);
-      if (!event.ctrlKey) velor.deletion.clear(range);
+      if (!event.ctrlKey) velor.deletion.empty(range);
       const { parentNode } = mark;
       const index = velor.selection.indexOf(mark);
       mark.remove();

@@ -169,7 +169,7 @@
     const spelled = (value) => value;
     const { property, attribute, part, inAttribute = spelled, inStyle = spelled } = entry;
     const written = ({ style: own }) =>
-      (part ? own.textDecorationLine : own.getPropertyValue(property));
+      (part ? own?.textDecorationLine : own?.getPropertyValue(property)) ?? '';
     const isStyled = (element) =>
       (part ? written(element).split(' ').includes(part) : written(element) !== '');
     // Other words of the same declaration stay.

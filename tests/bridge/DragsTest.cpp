@@ -32,7 +32,7 @@ class Drags : public Objects {
 TEST_F(Drags, MoveSelectedWordsWithTheirFormatAndIdInOneStep) {
   Load(QStringLiteral("<p>one <b id=\"o\">^words|</b> two</p><p id=\"t\">target</p>"));
   DragTo(QStringLiteral("#o"), QStringLiteral("#t"), QStringLiteral("right"));
-  EXPECT_EQ(Body(), QStringLiteral("<p>one  two</p><p id=\"t\">target<b id=\"o\">words</b></p>"));
+  EXPECT_EQ(Body(), QStringLiteral("<p>one two</p><p id=\"t\">target<b id=\"o\">words</b></p>"));
   ExpectOneStepBack();
 }
 
