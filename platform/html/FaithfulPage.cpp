@@ -205,7 +205,7 @@ std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
 /// it to, it may need nothing else.
 std::optional<SavedPage> FaithfulPage::Moved(const QString &wantedAgain,
                                              PageVerifier &verifier) const {
-  const Plan plan(wantedAgain, *source_, *before_, sourceToBefore_,
+  const Plan plan(TokenText(wantedAgain, *before_), *source_, *before_, sourceToBefore_,
                   original_.page.encoding.lineEnds);
   const auto patches = plan.patcher.For(plan.edits, plan.steps);
   if (!patches) return std::nullopt;
