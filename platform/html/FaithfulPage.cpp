@@ -15,7 +15,7 @@ namespace {
 /// More tries than this would keep a person waiting longer than a page written anew is worth, nor
 /// may they parse more than so many units together. One try is always made.
 constexpr qsizetype mostTries = 24;
-constexpr qsizetype mostTriesForLess = 60;
+constexpr qsizetype mostTriesForLess = 120;
 constexpr qsizetype mostParsed = 40'000'000;
 
 qsizetype TriesFor(const QString &text, qsizetype most) {
@@ -74,7 +74,7 @@ std::vector<HtmlToken> WithoutLastTags(std::vector<HtmlToken> tokens) {
 struct FaithfulPage::Plan {
   Plan(const QString &current, const TokenText &source, const TokenText &before,
        const TokenAlignment &sourceToBefore, LineEnds lineEnds)
-      : now(current),
+      : now(current, HtmlOrigin::Serialisation),
         alignment(AlignTokens(before.tokens, now.tokens, InStep::WithEdit)),
         edits(FindEdits(before, now, alignment)),
         steps(edits.size()),
@@ -125,7 +125,7 @@ void FaithfulPage::SetBaseline(const QString &serialisation) {
 void FaithfulPage::Prepare() {
   if (!source_) source_.emplace(mask_.MaskedText());
   if (before_) return;
-  before_.emplace(original_.baseline);
+  before_.emplace(original_.baseline, HtmlOrigin::Serialisation);
   sourceToBefore_ =
       AlignTokens(WithoutLastTags(source_->tokens), before_->tokens, InStep::WithSerialisation);
 }

@@ -77,7 +77,7 @@ TextClass ClassOf(char32_t character) {
 
 class Tokenizer {
  public:
-  explicit Tokenizer(QStringView html) : html_(html) {
+  Tokenizer(QStringView html, HtmlOrigin origin) : html_(html), origin_(origin) {
     tokens_.reserve(static_cast<std::size_t>(html.size() / 4));
   }
 
@@ -220,7 +220,10 @@ class Tokenizer {
     token.isStrong = true;
     if (!isHtml) return;
     if (name == plaintext) {
-      Raw(html_.size());
+      const qsizetype close = origin_ == HtmlOrigin::Serialisation
+                                  ? html_.lastIndexOf(QStringLiteral("</plaintext>"))
+                                  : html_.size();
+      Raw(close < at_ ? html_.size() : close);
     } else if (IsOneOf(name, rawElements)) {
       Raw(EndOfRaw(parts, name == script));
     } else if (IsOneOf(name, titleElements)) {
@@ -362,6 +365,7 @@ class Tokenizer {
   }
 
   QStringView html_;
+  HtmlOrigin origin_;
   qsizetype at_ = 0;
   std::vector<HtmlToken> tokens_;
   std::vector<Foreign> foreign_;
@@ -376,8 +380,8 @@ std::uint32_t HtmlNameKey(QStringView name) {
   return key | 1U;
 }
 
-std::vector<HtmlToken> TokenizeHtml(QStringView text) {
-  return Tokenizer(text).Run();
+std::vector<HtmlToken> TokenizeHtml(QStringView text, HtmlOrigin origin) {
+  return Tokenizer(text, origin).Run();
 }
 
 }  // namespace velor

@@ -16,7 +16,8 @@ struct TokenText {
   std::vector<HtmlToken> tokens;
 
   TokenText() = default;
-  explicit TokenText(const QString &html) : text(html), tokens(TokenizeHtml(html)) {}
+  explicit TokenText(const QString &html, HtmlOrigin origin = HtmlOrigin::Page)
+      : text(html), tokens(TokenizeHtml(html, origin)) {}
   const HtmlToken &At(std::int32_t number) const {
     return tokens[static_cast<std::size_t>(number)];
   }

@@ -319,6 +319,52 @@ TEST(Ladder, GivesAnElementItsImpliedTagsBeforeThePage) {
   EXPECT_EQ(saved.rung, SaveRung::Elements);
 }
 
+TEST(Ladder, WritesAnEditThatNoMarkupHoldsWhereAParserPutsIt) {
+  const QString parsed =
+      QString(rowsBefore).replace(QStringLiteral("<table>"), QStringLiteral("<img><table>"));
+  QString now = rowsBefore;
+  now.replace(QStringLiteral("<tr><td>"), QStringLiteral("<tr><img><td>"));
+  class Verifier : public PageVerifier {
+   public:
+    Verifier(QString now, QString parsed) : now_(std::move(now)), parsed_(std::move(parsed)) {}
+    std::optional<QString> Serialisation(const QString &text) override {
+      return text == now_ || text.contains(u"<img><table>") ? parsed_ : QStringLiteral("<html>");
+    }
+
+   private:
+    QString now_;
+    QString parsed_;
+  } verifier(now, parsed);
+  const SavedPage saved = Save(rows, rowsBefore, now, verifier);
+  EXPECT_EQ(saved.page.bytes, QByteArray(rows).replace("<table>", "<img><table>"));
+  EXPECT_EQ(saved.rung, SaveRung::Edits);
+}
+
+TEST(Ladder, KeepsTheTagOfALinkThatGoesOnBehindWhatIsTakenAway) {
+  const QByteArray file = "<DIV><H1><A id=a>one</H1>\n<P>two</DIV>";
+  const QString before = QStringLiteral(
+      "<html><head></head><body><div><h1><a id=\"a\">one</a></h1><a id=\"a\">\n</a><p><a id=\"a\">"
+      "two</a></p></div></body></html>");
+  QString now = before;
+  now.remove(QStringLiteral("<h1><a id=\"a\">one</a></h1>"));
+  ScriptedVerifier verifier(now, [](const QString &text) { return text.contains(u"<a id"); });
+  const SavedPage saved = Save(file, before, now, verifier);
+  EXPECT_EQ(saved.page.bytes, "<DIV><a id=\"a\">\n<P>two</DIV>");
+  EXPECT_EQ(saved.rung, SaveRung::ImpliedTags);
+}
+
+TEST(Ladder, LeavesOutEachTagThatTheDocumentCanDoWithout) {
+  const QByteArray file = "<table><TR><TD>a<TR><TD>b</table>";
+  const QString before = QStringLiteral(
+      "<html><head></head><body><table><tbody><tr><td>a</td></tr><tr><td>b</td></tr></tbody>"
+      "</table></body></html>");
+  QString now = before;
+  now.replace(QStringLiteral("</td></tr><tr>"), QStringLiteral("</td></tr><img><tr>"));
+  ScriptedVerifier verifier(now, [](const QString &text) { return text.contains(u"</tr><img>"); });
+  EXPECT_EQ(Save(file, before, now, verifier).page.bytes,
+            "<table><TR><TD>a</tr><img><TR><TD>b</table>");
+}
+
 TEST(Ladder, WritesEverythingWhereNothingElseGivesTheDocument) {
   ScriptedVerifier verifier(rowsNow, [](const QString &) { return false; });
   const SavedPage saved = Save(rows, rowsBefore, rowsNow, verifier);
