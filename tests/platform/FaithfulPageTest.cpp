@@ -429,6 +429,23 @@ TEST(Ladder, EscalatesTheEditThatReadsDifferentlyAlone) {
   EXPECT_EQ(Save(file, before, now, verifier).page.bytes, "<p>a2<p>b1</p><img><p>c1");
 }
 
+TEST(Charsets, StayWhatTheyWereWhereOnlyThePagesBytesTellThem) {
+  const QByteArray file = "<P title=x>caf\xC3\xA9<P>\xE9t\xE9";
+  ASSERT_EQ(DecodePage(file).encoding.charset, QStringLiteral("windows-1252"));
+  const QString before = QString::fromUtf16(
+      u"<html><head></head><body><p "
+      u"title=\"x\">caf\u00c3\u00a9</p><p>\u00e9t\u00e9</p></body></html>");
+  QString now = before;
+  now.remove(QString::fromUtf16(u"<p>\u00e9t\u00e9</p>"));
+  ScriptedVerifier verifier(now);
+  const SavedPage saved = Save(file, before, now, verifier);
+  EXPECT_EQ(saved.page.bytes, "<P title=x>caf&#195;\xA9");
+  EXPECT_EQ(DecodePage(saved.page.bytes).text, saved.page.text);
+  ScriptedVerifier nobody(now, [](const QString &) { return false; });
+  const SavedPage whole = Save(file, before, now, nobody);
+  EXPECT_EQ(DecodePage(whole.page.bytes).encoding.charset, QStringLiteral("windows-1252"));
+}
+
 TEST(Charsets, RefuseWhatNoReferenceCanStandFor) {
   const QByteArray file = "<meta charset=iso-8859-1><script>a</script><!--a--><p>a";
   const QString before = QString::fromUtf16(
