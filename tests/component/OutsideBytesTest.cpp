@@ -48,6 +48,13 @@ TEST(BytesBeyondEdit, TellThemWhereTheyStandInAnothersPlace) {
   EXPECT_EQ(beyond.implied, 4);
 }
 
+TEST(BytesBeyondEdit, AreNoneWhereALineBreakInAnAttributeGoes) {
+  const BytesBeyondEdit beyond = Count("<p title=\"a\r\nb\">one\r\n", "<p title=\"a new\">one\r\n",
+                                       QStringLiteral("<p title=\"a\nb\">one\n</p>"),
+                                       QStringLiteral("<p title=\"a new\">one\n</p>"));
+  EXPECT_EQ(beyond.outside, 0);
+}
+
 TEST(BytesBeyondEdit, TellTheTagThatTheEditGaveAttributes) {
   const BytesBeyondEdit beyond =
       Count("<div><h1><a id=a>one</h1><p>two</div>",

@@ -68,7 +68,8 @@ Distance DistanceOf(const TokenText &one, const TokenText &other) {
 }
 
 /// What the edit takes from the source and adds to it.
-Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const TokenText &now) {
+Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const TokenText &now,
+                        LineEnds ends) {
   Distance distance;
   const TokenAlignment toSource =
       AlignTokens(source.tokens, before.tokens, InStep::WithSerialisation);
@@ -80,7 +81,8 @@ Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const 
   }
   for (const PageEdit &edit : FindEdits(before, now, toNow)) {
     if (edit.isTagChange) {  // attribute by attribute; the tag itself may be written in other ways
-      Add(distance, before.Slice(edit.before, edit.beforeEnd), now.Slice(edit.now, edit.nowEnd));
+      const QString old = before.Slice(edit.before, edit.beforeEnd).toString();
+      Add(distance, WithLineEnds(old, ends), now.Slice(edit.now, edit.nowEnd));
       continue;
     }
     std::int32_t first = -1;
@@ -143,7 +145,7 @@ BytesBeyondEdit CountBytesBeyondEdit(const EditedPage &page) {
   const TokenText source(file.text);
   const TokenText before(page.before, HtmlOrigin::Serialisation);
   const TokenText now(page.now, HtmlOrigin::Serialisation);
-  const Distance edit = DistanceOfEdit(source, before, now);
+  const Distance edit = DistanceOfEdit(source, before, now, ends);
   const qsizetype gone = size(changed.gone) - size(edit.gone);
   const qsizetype come = size(changed.come) - size(WithLineEnds(edit.come, ends));
   const qsizetype implied =
