@@ -71,6 +71,28 @@ void RequireReferencesFit(const QString &text, const std::vector<TextPatch> &pat
   }
 }
 
+/// A page that declares no charset was read as windows-1252 because its bytes are no UTF-8. Where
+/// what is left of them would be, one character becomes a reference.
+PageToWrite StillReadAsBefore(PageToWrite page, const PageEncoding &encoding) {
+  const bool isSafe = encoding.charset != u"windows-1252" ||
+                      !QByteArrayView(page.bytes).isValidUtf8() ||
+                      DecodePage(page.bytes).encoding.charset == encoding.charset;
+  if (isSafe) return page;
+  for (const HtmlToken &token : TokenizeHtml(page.text)) {
+    if (!token.IsText() && token.kind != HtmlTokenKind::StartTag) continue;
+    for (qsizetype at = token.offset; at < token.End(); ++at) {
+      const char16_t unit = page.text[at].unicode();
+      if (unit < 0x80) continue;
+      const QString reference = QStringLiteral("&#%1;").arg(unit);
+      // One byte a character.
+      page.bytes.replace(at, 1, reference.toLatin1());
+      page.text.replace(at, 1, reference);
+      return page;
+    }
+  }
+  return page;
+}
+
 /// The text by lines, with their breaks.
 TokenText Lines(const QString &text) {
   TokenText lines;
@@ -202,7 +224,7 @@ PageToWrite SpliceBytes(const PageOriginal &original, const std::vector<TextPatc
   Splicer splicer(original);
   if (!splicer.Fits())
     return WriteWhole(Patched(original.page.text, patches), original.page.encoding);
-  return splicer.Write(splicer.Widened(patches));
+  return StillReadAsBefore(splicer.Write(splicer.Widened(patches)), original.page.encoding);
 }
 
 QByteArray BytesForText(const PageOriginal &original, const QString &text,
@@ -228,7 +250,7 @@ PageToWrite WriteWhole(const QString &text, const PageEncoding &encoding) {
   RequireReferencesFit({}, {{0, 0, text}}, converter, encoding.charset);
   QByteArray bytes = EncodePage(text, encoding);
   QString written = converter.FirstReference(text) < 0 ? text : DecodePage(bytes).text;
-  return {std::move(written), std::move(bytes)};
+  return StillReadAsBefore({std::move(written), std::move(bytes)}, encoding);
 }
 
 }  // namespace velor

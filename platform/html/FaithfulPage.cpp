@@ -14,13 +14,16 @@ namespace {
 
 /// More tries than this would keep a person waiting longer than a page written anew is worth, nor
 /// may they parse more than so many units together. One try is always made.
-constexpr qsizetype mostTries = 24;
-constexpr qsizetype mostTriesForLess = 60;
-constexpr qsizetype mostParsed = 40'000'000;
+struct Effort {
+  qsizetype tries;
+  qsizetype parsed;
 
-qsizetype TriesFor(const QString &text, qsizetype most) {
-  return std::clamp(mostParsed / std::max<qsizetype>(text.size(), 1), qsizetype{1}, most);
-}
+  qsizetype For(const QString &text) const {
+    return std::clamp(parsed / std::max<qsizetype>(text.size(), 1), qsizetype{1}, tries);
+  }
+};
+constexpr Effort untilEqual{24, 40'000'000};
+constexpr Effort untilSmallest{120, 10'000'000};
 
 /// Insertions taken apart where tags begin, so that each tag can be done without.
 std::vector<TextPatch> TagByTag(const std::vector<TextPatch> &patches) {
@@ -125,7 +128,7 @@ void FaithfulPage::SetBaseline(const QString &serialisation) {
 void FaithfulPage::Prepare() {
   if (!source_) source_.emplace(mask_.MaskedText());
   if (before_) return;
-  before_.emplace(original_.baseline);
+  before_.emplace(original_.baseline, HtmlOrigin::Serialisation);
   sourceToBefore_ =
       AlignTokens(WithoutLastTags(source_->tokens), before_->tokens, InStep::WithSerialisation);
 }
@@ -180,7 +183,7 @@ std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
                                              Tries tries) const {
   const QString &wanted = plan.now.text;
   std::optional<QString> wantedAgain;  // what the document is once it has been parsed again
-  for (qsizetype left = tries == Tries::All ? TriesFor(wanted, mostTries) : 1; left > 0; --left) {
+  for (qsizetype left = tries == Tries::All ? untilEqual.For(wanted) : 1; left > 0; --left) {
     const auto patches = plan.patcher.For(plan.edits, plan.steps);
     if (!patches) return std::nullopt;
     const auto document = verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wanted);
@@ -219,7 +222,7 @@ std::vector<TextPatch> FaithfulPage::Smallest(const std::vector<TextPatch> &patc
                                               const QString &document,
                                               PageVerifier &verifier) const {
   std::vector<TextPatch> kept = TagByTag(patches);
-  qsizetype left = TriesFor(document, mostTriesForLess);
+  qsizetype left = untilSmallest.For(document);
   for (std::size_t part = kept.size() / 2; part > 0; part /= 2) {
     for (std::size_t at = 0; at + part <= kept.size() && kept.size() > part && left > 0;) {
       std::vector<TextPatch> fewer = kept;

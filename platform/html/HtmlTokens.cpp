@@ -78,7 +78,7 @@ TextClass ClassOf(char32_t character) {
 
 class Tokenizer {
  public:
-  explicit Tokenizer(QStringView html) : html_(html) {
+  Tokenizer(QStringView html, HtmlOrigin origin) : html_(html), origin_(origin) {
     tokens_.reserve(static_cast<std::size_t>(html.size() / 4));
   }
 
@@ -231,7 +231,10 @@ class Tokenizer {
     token.isFree = isFree;
     if (!isHtml) return;
     if (name == plaintext) {
-      Raw(html_.size());
+      const qsizetype close = origin_ == HtmlOrigin::Serialisation
+                                  ? html_.lastIndexOf(QStringLiteral("</plaintext>"))
+                                  : html_.size();
+      Raw(close < at_ ? html_.size() : close);
     } else if (IsOneOf(name, rawElements)) {
       Raw(EndOfRaw(parts, name == script));
     } else if (IsOneOf(name, titleElements)) {
@@ -375,6 +378,7 @@ class Tokenizer {
   }
 
   QStringView html_;
+  HtmlOrigin origin_;
   qsizetype at_ = 0;
   std::vector<HtmlToken> tokens_;
   std::vector<Foreign> foreign_;
@@ -389,12 +393,12 @@ std::uint32_t HtmlNameKey(QStringView name) {
   return key | 1U;
 }
 
-std::vector<HtmlToken> TokenizeHtml(QStringView text) {
-  return Tokenizer(text).Run();
+std::vector<HtmlToken> TokenizeHtml(QStringView text, HtmlOrigin origin) {
+  return Tokenizer(text, origin).Run();
 }
 
 std::vector<HtmlToken> TokenizeHtmlLike(QStringView text, QStringView before,
-                                        std::vector<HtmlToken> tokens) {
+                                        std::vector<HtmlToken> tokens, HtmlOrigin origin) {
   const auto difference = TextDifference::Between(before, text);
   const qsizetype removedEnd = difference.start + difference.removed;
   const qsizetype shift = text.size() - before.size();
@@ -403,7 +407,7 @@ std::vector<HtmlToken> TokenizeHtmlLike(QStringView text, QStringView before,
       std::upper_bound(tokens.begin(), tokens.end(), difference.start,
                        [](qsizetype place, const HtmlToken &token) { return place < token.End(); });
   do {
-    if (first == tokens.begin()) return TokenizeHtml(text);
+    if (first == tokens.begin()) return TokenizeHtml(text, origin);
     --first;
   } while (!first->isFree);
   auto rest = std::lower_bound(
@@ -416,7 +420,7 @@ std::vector<HtmlToken> TokenizeHtmlLike(QStringView text, QStringView before,
     isInStep = rest != tokens.end() && rest->offset + shift == place && rest->isFree;
     return isInStep;
   };
-  const std::vector<HtmlToken> fresh = Tokenizer(text).RunUntil(rejoins, first->offset);
+  const std::vector<HtmlToken> fresh = Tokenizer(text, origin).RunUntil(rejoins, first->offset);
   if (!isInStep) rest = tokens.end();
   for (auto token = rest; token != tokens.end(); ++token)
     token->offset += static_cast<std::int32_t>(shift);

@@ -52,11 +52,14 @@ std::uint32_t HtmlNameKey(QStringView name);
 /// Characters between two tokens (NULs) are such as a parser drops. It follows the HTML standard's
 /// tokenizer, with the states that its tree builder would choose: raw text elements, script's
 /// escapes, foreign content. NOSCRIPT's content is markup, as where scripts are off.
-std::vector<HtmlToken> TokenizeHtml(QStringView text);
+/// In a serialisation a PLAINTEXT element ends, as no page can write it.
+enum class HtmlOrigin { Page, Serialisation };
+std::vector<HtmlToken> TokenizeHtml(QStringView text, HtmlOrigin origin = HtmlOrigin::Page);
 
 /// The same, sooner, where the tokens of a text are known that differs in one stretch.
 std::vector<HtmlToken> TokenizeHtmlLike(QStringView text, QStringView before,
-                                        std::vector<HtmlToken> tokens);
+                                        std::vector<HtmlToken> tokens,
+                                        HtmlOrigin origin = HtmlOrigin::Page);
 
 /// One attribute of a start tag: offsets into the page's text.
 struct HtmlAttributeSlice {

@@ -17,10 +17,13 @@ struct TokenText {
   std::vector<HtmlToken> tokens;
 
   TokenText() = default;
-  explicit TokenText(const QString &html) : text(html), tokens(TokenizeHtml(html)) {}
-  /// Sooner made where `before` differs in little.
+  explicit TokenText(const QString &html, HtmlOrigin origin = HtmlOrigin::Page)
+      : text(html), tokens(TokenizeHtml(html, origin)) {}
+  /// Of a serialisation; sooner made where `before`, another one, differs in little.
   TokenText(const QString &html, TokenText before)
-      : text(html), tokens(TokenizeHtmlLike(html, before.text, std::move(before.tokens))) {}
+      : text(html),
+        tokens(TokenizeHtmlLike(html, before.text, std::move(before.tokens),
+                                HtmlOrigin::Serialisation)) {}
   const HtmlToken &At(std::int32_t number) const {
     return tokens[static_cast<std::size_t>(number)];
   }

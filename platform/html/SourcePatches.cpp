@@ -67,8 +67,13 @@ std::vector<OpenElement> Around(const TokenText &text, Number from, Number to) {
   return around;
 }
 
-/// Pairs what a first alignment left over on both sides. Start tags and long words tell where a
-/// stretch went; what stands in one row with them went along.
+bool TellsPlace(const HtmlToken &token) {
+  return token.kind == HtmlTokenKind::Comment ||
+         (token.isStrong && token.kind != HtmlTokenKind::EndTag);
+}
+
+/// Pairs what a first alignment left over on both sides. Start tags, comments and long words tell
+/// where a stretch went; what stands in one row with them went along.
 std::vector<Number> MovedTokens(const TokenText &source, const TokenText &before,
                                 const TokenAlignment &alignment) {
   std::vector<Number> sourceNumbers;
@@ -93,7 +98,7 @@ std::vector<Number> MovedTokens(const TokenText &source, const TokenText &before
   for (std::size_t at = 0; at < beforeNumbers.size(); ++at) {
     const Number found = leftOver.fromOther[at];
     if (found < 0 || sourceTokens[Index(found)].key != beforeTokens[at].key) continue;
-    if (!beforeTokens[at].isStrong || beforeTokens[at].kind == HtmlTokenKind::EndTag) continue;
+    if (!TellsPlace(beforeTokens[at])) continue;
     moved[Index(beforeNumbers[at])] = sourceNumbers[Index(found)];
     isTaken[Index(sourceNumbers[Index(found)])] = true;
   }

@@ -48,6 +48,33 @@ TEST(BytesBeyondEdit, TellThemWhereTheyStandInAnothersPlace) {
   EXPECT_EQ(beyond.implied, 4);
 }
 
+TEST(BytesBeyondEdit, AreNoneWhereALineBreakInAnAttributeGoes) {
+  const BytesBeyondEdit beyond = Count("<p title=\"a\r\nb\">one\r\n", "<p title=\"a new\">one\r\n",
+                                       QStringLiteral("<p title=\"a\nb\">one\n</p>"),
+                                       QStringLiteral("<p title=\"a new\">one\n</p>"));
+  EXPECT_EQ(beyond.outside, 0);
+}
+
+TEST(BytesBeyondEdit, TellTheTagThatTheEditGaveAttributes) {
+  const BytesBeyondEdit beyond =
+      Count("<div><h1><a id=a>one</h1><p>two</div>",
+            "<div><h1><a id=a>one</a></h1><a id=\"a\" title=\"new\"><p>two</div>",
+            QStringLiteral("<div><h1><a id=\"a\">one</a></h1><a id=\"a\"></a><p><a id=\"a\">two</a>"
+                           "</p></div>"),
+            QStringLiteral("<div><h1><a id=\"a\">one</a></h1><a id=\"a\" title=\"new\"></a><p>"
+                           "<a id=\"a\">two</a></p></div>"));
+  EXPECT_EQ(beyond.outside, 0);
+  EXPECT_EQ(beyond.implied, 14);
+}
+
+TEST(BytesBeyondEdit, AreNoneWhereWhatTheParserMovedIsTakenAway) {
+  const BytesBeyondEdit beyond =
+      Count("<table><tr>lost words here<td>a</td></table>", "<table><tr>lost words here</table>",
+            QStringLiteral("lost words here<table><tbody><tr><td>a</td></tr></tbody></table>"),
+            QStringLiteral("lost words here<table><tbody><tr></tr></tbody></table>"));
+  EXPECT_EQ(beyond.outside, 0);
+}
+
 }  // namespace
 
 }  // namespace velor

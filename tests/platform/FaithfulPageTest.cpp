@@ -319,6 +319,52 @@ TEST(Ladder, GivesAnElementItsImpliedTagsBeforeThePage) {
   EXPECT_EQ(saved.rung, SaveRung::Elements);
 }
 
+TEST(Ladder, WritesAnEditThatNoMarkupHoldsWhereAParserPutsIt) {
+  const QString parsed =
+      QString(rowsBefore).replace(QStringLiteral("<table>"), QStringLiteral("<img><table>"));
+  QString now = rowsBefore;
+  now.replace(QStringLiteral("<tr><td>"), QStringLiteral("<tr><img><td>"));
+  class Verifier : public PageVerifier {
+   public:
+    Verifier(QString now, QString parsed) : now_(std::move(now)), parsed_(std::move(parsed)) {}
+    std::optional<QString> Serialisation(const QString &text) override {
+      return text == now_ || text.contains(u"<img><table>") ? parsed_ : QStringLiteral("<html>");
+    }
+
+   private:
+    QString now_;
+    QString parsed_;
+  } verifier(now, parsed);
+  const SavedPage saved = Save(rows, rowsBefore, now, verifier);
+  EXPECT_EQ(saved.page.bytes, QByteArray(rows).replace("<table>", "<img><table>"));
+  EXPECT_EQ(saved.rung, SaveRung::Edits);
+}
+
+TEST(Ladder, KeepsTheTagOfALinkThatGoesOnBehindWhatIsTakenAway) {
+  const QByteArray file = "<DIV><H1><A id=a>one</H1>\n<P>two</DIV>";
+  const QString before = QStringLiteral(
+      "<html><head></head><body><div><h1><a id=\"a\">one</a></h1><a id=\"a\">\n</a><p><a id=\"a\">"
+      "two</a></p></div></body></html>");
+  QString now = before;
+  now.remove(QStringLiteral("<h1><a id=\"a\">one</a></h1>"));
+  ScriptedVerifier verifier(now, [](const QString &text) { return text.contains(u"<a id"); });
+  const SavedPage saved = Save(file, before, now, verifier);
+  EXPECT_EQ(saved.page.bytes, "<DIV><a id=\"a\">\n<P>two</DIV>");
+  EXPECT_EQ(saved.rung, SaveRung::ImpliedTags);
+}
+
+TEST(Ladder, LeavesOutEachTagThatTheDocumentCanDoWithout) {
+  const QByteArray file = "<table><TR><TD>a<TR><TD>b</table>";
+  const QString before = QStringLiteral(
+      "<html><head></head><body><table><tbody><tr><td>a</td></tr><tr><td>b</td></tr></tbody>"
+      "</table></body></html>");
+  QString now = before;
+  now.replace(QStringLiteral("</td></tr><tr>"), QStringLiteral("</td></tr><img><tr>"));
+  ScriptedVerifier verifier(now, [](const QString &text) { return text.contains(u"</tr><img>"); });
+  EXPECT_EQ(Save(file, before, now, verifier).page.bytes,
+            "<table><TR><TD>a</tr><img><TR><TD>b</table>");
+}
+
 TEST(Ladder, WritesEverythingWhereNothingElseGivesTheDocument) {
   ScriptedVerifier verifier(rowsNow, [](const QString &) { return false; });
   const SavedPage saved = Save(rows, rowsBefore, rowsNow, verifier);
@@ -381,6 +427,23 @@ TEST(Ladder, EscalatesTheEditThatReadsDifferentlyAlone) {
     QString wanted_;
   } verifier(now);
   EXPECT_EQ(Save(file, before, now, verifier).page.bytes, "<p>a2<p>b1</p><img><p>c1");
+}
+
+TEST(Charsets, StayWhatTheyWereWhereOnlyThePagesBytesTellThem) {
+  const QByteArray file = "<P title=x>caf\xC3\xA9<P>\xE9t\xE9";
+  ASSERT_EQ(DecodePage(file).encoding.charset, QStringLiteral("windows-1252"));
+  const QString before = QString::fromUtf16(
+      u"<html><head></head><body><p "
+      u"title=\"x\">caf\u00c3\u00a9</p><p>\u00e9t\u00e9</p></body></html>");
+  QString now = before;
+  now.remove(QString::fromUtf16(u"<p>\u00e9t\u00e9</p>"));
+  ScriptedVerifier verifier(now);
+  const SavedPage saved = Save(file, before, now, verifier);
+  EXPECT_EQ(saved.page.bytes, "<P title=x>caf&#195;\xA9");
+  EXPECT_EQ(DecodePage(saved.page.bytes).text, saved.page.text);
+  ScriptedVerifier nobody(now, [](const QString &) { return false; });
+  const SavedPage whole = Save(file, before, now, nobody);
+  EXPECT_EQ(DecodePage(whole.page.bytes).encoding.charset, QStringLiteral("windows-1252"));
 }
 
 TEST(Charsets, RefuseWhatNoReferenceCanStandFor) {

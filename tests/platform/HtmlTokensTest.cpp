@@ -68,6 +68,15 @@ INSTANTIATE_TEST_SUITE_P(
                       Cut{u"<p", u"<p"}, Cut{u"<p a=\"x", u"<p a=\"x"},
                       Cut{u"<p/><br/ >", u"<p/>|<br/ >"}));
 
+TEST(Serialisations, EndAnElementThatNoPageCanEnd) {
+  const QString html = QStringLiteral("<plaintext><b></plaintext>\n</plaintext></body>");
+  const std::vector<HtmlToken> tokens = TokenizeHtml(html, HtmlOrigin::Serialisation);
+  ASSERT_GT(tokens.size(), 3U);
+  EXPECT_EQ(tokens[1].kind, HtmlTokenKind::Raw);
+  EXPECT_EQ(tokens.back().kind, HtmlTokenKind::EndTag);
+  EXPECT_EQ(tokens[tokens.size() - 2].offset, html.lastIndexOf(QStringLiteral("</plaintext>")));
+}
+
 struct Same {
   const char16_t *one;
   const char16_t *other;

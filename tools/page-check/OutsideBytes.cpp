@@ -68,7 +68,8 @@ Distance DistanceOf(const TokenText &one, const TokenText &other) {
 }
 
 /// What the edit takes from the source and adds to it.
-Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const TokenText &now) {
+Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const TokenText &now,
+                        LineEnds ends) {
   Distance distance;
   const TokenAlignment toSource =
       AlignTokens(source.tokens, before.tokens, InStep::WithSerialisation);
@@ -80,7 +81,8 @@ Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const 
   }
   for (const PageEdit &edit : FindEdits(before, now, toNow)) {
     if (edit.isTagChange) {  // attribute by attribute; the tag itself may be written in other ways
-      Add(distance, before.Slice(edit.before, edit.beforeEnd), now.Slice(edit.now, edit.nowEnd));
+      const QString old = before.Slice(edit.before, edit.beforeEnd).toString();
+      Add(distance, WithLineEnds(old, ends), now.Slice(edit.now, edit.nowEnd));
       continue;
     }
     std::int32_t first = -1;
@@ -105,16 +107,27 @@ Distance DistanceOfEdit(const TokenText &source, const TokenText &before, const 
 
 /// The tags among what came that the parser had implied: the smallest change that gives the
 /// document has them as well, since a save leaves out what the document can do without.
-qsizetype ImpliedTags(const QString &come, const TokenText &source, const TokenText &before) {
+qsizetype ImpliedTags(const QString &come, const TokenText &source, const TokenText &before,
+                      const TokenText &now) {
   const TokenAlignment alignment =
       AlignTokens(source.tokens, before.tokens, InStep::WithSerialisation);
-  QHash<std::uint64_t, int> implied;
+  const TokenAlignment toNow = AlignTokens(before.tokens, now.tokens, InStep::WithEdit);
+  QMultiHash<std::uint64_t, std::int32_t> implied;  // units by keys
   for (std::size_t at = 0; at < before.tokens.size(); ++at) {
-    if (alignment.fromOther[at] < 0 && before.tokens[at].IsTag()) ++implied[before.tokens[at].key];
+    const HtmlToken &token = before.tokens[at];
+    if (alignment.fromOther[at] >= 0 || !token.IsTag()) continue;
+    implied.insert(token.key, token.length);
+    // Once it has other attributes all of it is written; only these are the edit's.
+    const std::int32_t changed = toNow.toOther[at];
+    if (changed >= 0 && now.At(changed).key != token.key)
+      implied.insert(now.At(changed).key, token.length);
   }
   qsizetype units = 0;
   for (const HtmlToken &token : TokenizeHtml(come)) {
-    if (token.IsTag() && implied[token.key]-- > 0) units += token.length;
+    const auto found = token.IsTag() ? implied.find(token.key) : implied.end();
+    if (found == implied.end()) continue;
+    units += *found;
+    implied.erase(found);
   }
   return units;
 }
@@ -130,12 +143,13 @@ BytesBeyondEdit CountBytesBeyondEdit(const EditedPage &page) {
   const LineEnds ends = file.encoding.lineEnds;
   const Distance changed = DistanceOf(AsWritten(file.text), AsWritten(saved.text));
   const TokenText source(file.text);
-  const TokenText before(page.before);
-  const Distance edit = DistanceOfEdit(source, before, TokenText(page.now));
+  const TokenText before(page.before, HtmlOrigin::Serialisation);
+  const TokenText now(page.now, HtmlOrigin::Serialisation);
+  const Distance edit = DistanceOfEdit(source, before, now, ends);
   const qsizetype gone = size(changed.gone) - size(edit.gone);
   const qsizetype come = size(changed.come) - size(WithLineEnds(edit.come, ends));
   const qsizetype implied =
-      come > 0 ? std::min(come, ImpliedTags(changed.come, source, before)) : 0;
+      come > 0 ? std::min(come, ImpliedTags(changed.come, source, before, now)) : 0;
   return {std::max<qsizetype>(0, gone) + std::max<qsizetype>(0, come - implied), implied};
 }
 

@@ -109,6 +109,14 @@ QString PageCheck::Parsed(const QByteArray &bytes) {
   return desk_->editor.DocumentHTML();
 }
 
+QString PageCheck::Target() const {
+  return scratch_.filePath(QStringLiteral("saved.htm"));
+}
+
+QByteArray PageCheck::Saved() const {
+  return Bytes(Target());
+}
+
 QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) {
   QJsonObject result = {{QStringLiteral("file"), file},
                         {QStringLiteral("edited"), false},
@@ -135,12 +143,11 @@ void PageCheck::Measure(const QString &file, const QString &kind, int place, QJs
   const bool isEdited = !kind.isEmpty() && desk_->Edit(kind, place);
   page.now = editor.DocumentHTML();
 
-  const QString target = scratch_.filePath(QStringLiteral("saved.htm"));
   QElapsedTimer timer;
   timer.start();
-  editor.SaveDocument(ToLogic(target));
+  editor.SaveDocument(ToLogic(Target()));
   const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
-  page.saved = Bytes(target);
+  page.saved = Saved();
   const SaveRung rung = editor.Compose().rung;
 
   const QString saved = Parsed(page.saved);

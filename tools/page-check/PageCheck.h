@@ -3,6 +3,7 @@
 
 #include "platform/qt/editing/EditingEngine.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
@@ -27,6 +28,8 @@ class PageCheck {
   /// `bytes_implied` (see BytesBeyondEdit), `rung`, `document_equal` and `ms` (the time that saving
   /// took); ErrorField() as well when the file cannot be opened, edited or saved.
   QJsonObject Run(const QString &file, const QString &kind, int place);
+  /// What the last check saved.
+  QByteArray Saved() const;
   static QString ErrorField() { return QStringLiteral("error"); }
 
  private:
@@ -34,6 +37,7 @@ class PageCheck {
 
   void Measure(const QString &file, const QString &kind, int place, QJsonObject &result);
 
+  QString Target() const;
   /// The document of a text, loaded on its own.
   QString Parsed(const QByteArray &bytes);
 
