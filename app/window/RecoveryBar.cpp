@@ -151,6 +151,9 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
   QFont strong = title->font();
   strong.setBold(true);
   title->setFont(strong);
+  // As little as a long path may a long name push the buttons out of sight.
+  title->setMinimumWidth(BarMargin);
+  title->setToolTip(name);
   line->addWidget(title);
   auto *details = new QLabel(note);
   details->setObjectName(QString::fromUtf16(NoteName));

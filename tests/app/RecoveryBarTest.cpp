@@ -306,6 +306,21 @@ TEST_F(RecoveryBars, EveryControlSaysWhatItIsFor) {
   EXPECT_EQ(Buttons("cmdDiscard")[0]->accessibleName(), QStringLiteral("Discard index.htm"));
 }
 
+TEST_F(RecoveryBars, LongNamesAndPathsLeaveTheButtonsInSight) {
+  const QString name = QStringLiteral("a-very-long-name-").repeated(14) + QStringLiteral(".htm");
+  journals.AddAbandoned(Page(QStringLiteral("\\site\\") + name, name));
+  QFont large = window.font();
+  large.setPointSizeF(2 * large.pointSizeF());
+  Bar().setFont(large);
+  Offer();
+  window.resize(900, 600);
+  QPushButton *last = Buttons("cmdDiscard")[0];
+  const auto isInSight = [&] {
+    return Bar().rect().contains(QRect(last->mapTo(&Bar(), QPoint(0, 0)), last->size()));
+  };
+  EXPECT_TRUE(QTest::qWaitFor(isInSight));
+}
+
 TEST_F(RecoveryBars, ManyPagesLeaveRoomForTheOthers) {
   for (int i = 1; i <= 30; ++i)
     journals.AddAbandoned(Page({}, QStringLiteral("Untitled %1").arg(i)));
