@@ -271,6 +271,15 @@ TEST_F(RecoveryBars, AJournalThatCannotBeReadCanOnlyBeDiscarded) {
   EXPECT_FALSE(Bar().isVisible());
 }
 
+TEST_F(RecoveryBars, WhatCannotBeReadComesLast) {
+  journals.defects << QStringLiteral("/state/1.page cannot be read: it is not a file.");
+  journals.AddAbandoned(Page(IndexFile, QStringLiteral("index.htm")));
+  Offer();
+  EXPECT_EQ(Buttons("cmdRestore")[0]->accessibleName(), QStringLiteral("Restore index.htm"));
+  EXPECT_TRUE(Buttons("cmdRestore")[0]->isEnabled());
+  EXPECT_FALSE(Buttons("cmdRestore")[1]->isEnabled());
+}
+
 TEST_F(RecoveryBars, MissingLastChangesAreToldWhenThePageIsRestored) {
   journals.AddAbandoned(Page(IndexFile, QStringLiteral("index.htm")));
   journals.endsAreMissing = true;
