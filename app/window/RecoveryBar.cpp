@@ -126,7 +126,11 @@ void RecoveryBar::Offer() {
 }
 
 void RecoveryBar::Fill() {
-  for (const AbandonedPage &page : context_.platform.journals->Abandoned()) AddRow(page);
+  std::vector<AbandonedPage> pages = context_.platform.journals->Abandoned();
+  // Whoever goes to the first by Alt+G and presses is to restore, not to discard.
+  std::stable_partition(pages.begin(), pages.end(),
+                        [](const AbandonedPage &page) { return page.defect.isEmpty(); });
+  for (const AbandonedPage &page : pages) AddRow(page);
   QuietenNotes();
   FitRows();
 }
@@ -151,6 +155,9 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
   QFont strong = title->font();
   strong.setBold(true);
   title->setFont(strong);
+  // As little as a long path may a long name push the buttons out of sight.
+  title->setMinimumWidth(BarMargin);
+  title->setToolTip(name);
   line->addWidget(title);
   auto *details = new QLabel(note);
   details->setObjectName(QString::fromUtf16(NoteName));

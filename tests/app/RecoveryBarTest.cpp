@@ -271,6 +271,15 @@ TEST_F(RecoveryBars, AJournalThatCannotBeReadCanOnlyBeDiscarded) {
   EXPECT_FALSE(Bar().isVisible());
 }
 
+TEST_F(RecoveryBars, WhatCannotBeReadComesLast) {
+  journals.defects << QStringLiteral("/state/1.page cannot be read: it is not a file.");
+  journals.AddAbandoned(Page(IndexFile, QStringLiteral("index.htm")));
+  Offer();
+  EXPECT_EQ(Buttons("cmdRestore")[0]->accessibleName(), QStringLiteral("Restore index.htm"));
+  EXPECT_TRUE(Buttons("cmdRestore")[0]->isEnabled());
+  EXPECT_FALSE(Buttons("cmdRestore")[1]->isEnabled());
+}
+
 TEST_F(RecoveryBars, MissingLastChangesAreToldWhenThePageIsRestored) {
   journals.AddAbandoned(Page(IndexFile, QStringLiteral("index.htm")));
   journals.endsAreMissing = true;
@@ -304,6 +313,21 @@ TEST_F(RecoveryBars, EveryControlSaysWhatItIsFor) {
   EXPECT_EQ(Buttons("cmdRestore")[0]->accessibleName(), QStringLiteral("Restore index.htm"));
   EXPECT_EQ(Buttons("cmdShow")[0]->accessibleName(), QStringLiteral("Show index.htm"));
   EXPECT_EQ(Buttons("cmdDiscard")[0]->accessibleName(), QStringLiteral("Discard index.htm"));
+}
+
+TEST_F(RecoveryBars, LongNamesAndPathsLeaveTheButtonsInSight) {
+  const QString name = QStringLiteral("a-very-long-name-").repeated(14) + QStringLiteral(".htm");
+  journals.AddAbandoned(Page(QStringLiteral("\\site\\") + name, name));
+  QFont large = window.font();
+  large.setPointSizeF(2 * large.pointSizeF());
+  Bar().setFont(large);
+  Offer();
+  window.resize(900, 600);
+  QPushButton *last = Buttons("cmdDiscard")[0];
+  const auto isInSight = [&] {
+    return Bar().rect().contains(QRect(last->mapTo(&Bar(), QPoint(0, 0)), last->size()));
+  };
+  EXPECT_TRUE(QTest::qWaitFor(isInSight));
 }
 
 TEST_F(RecoveryBars, ManyPagesLeaveRoomForTheOthers) {

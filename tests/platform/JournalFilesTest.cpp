@@ -421,5 +421,52 @@ TEST_F(JournalFilesTest, AJournalThatCouldNotBeContinuedIsReplacedWhole) {
   EXPECT_EQ(Documents(next), std::vector{QStringLiteral("one two three")});
 }
 
+/// One page's life in a journal, with one call that fails, and what came of it.
+struct FaultyLife {
+  int errors = 0;
+  bool hasFailed = false;
+  QString lastWritten;  ///< by a Write that went well
+};
+
+TEST_F(JournalFilesTest, EveryCallThatFailsIsAnErrorAndLeavesWhatWasWritten) {
+  const auto live = [this](int number, int error) {
+    FaultyLife life;
+    FaultyCalls calls;
+    JournalFiles journals(calls);
+    const auto journal = journals.Begin();
+    const auto attempt = [&](const auto &step) {
+      const bool fails = ErrorOf(step) != ErrorNumber::None;
+      life.errors += fails ? 1 : 0;
+      return !fails;
+    };
+    const auto write = [&](const QString &text) {
+      if (attempt([&] { journal->Write(Page(text)); })) life.lastWritten = text;
+    };
+    calls.FailAt(number, error);
+    write(QStringLiteral("first"));
+    write(QStringLiteral("first second"));
+    attempt([&] { journal->Rest(); });
+    for (int i = 0; i < 10; ++i) write(QString(30'000, QChar(u'a' + i)));
+    attempt([&] { journal->Rest(); });
+    write(QStringLiteral("last"));
+    life.hasFailed = calls.calls >= number;
+    return life;
+  };
+  for (const int error : {ENOSPC, EIO, EROFS, EDQUOT, EINTR}) {
+    int number = 1;
+    for (bool hasFailed = true; hasFailed; ++number) {
+      SCOPED_TRACE(testing::Message() << error << ' ' << number);
+      const FaultyLife life = live(number, error);
+      hasFailed = life.hasFailed;
+      EXPECT_EQ(life.errors, hasFailed && error != EINTR ? 1 : 0);
+      JournalFiles next;
+      EXPECT_EQ(Documents(next), std::vector{life.lastWritten});
+      for (const AbandonedPage &page : next.Abandoned()) next.Discard(page.id);
+      EXPECT_TRUE(QDir(StateFolder() + "/recovery").isEmpty());
+    }
+    EXPECT_GT(number, 20);
+  }
+}
+
 }  // namespace
 }  // namespace velor

@@ -127,6 +127,17 @@ TEST(JournalFormat, ASummarySaysWhatTheWholeSays) {
   EXPECT_TRUE(SummaryOf(JournalHead() + JournalRecord(page)).hasSource);
 }
 
+TEST(JournalFormat, ASummaryOfAJournalCutOffAnywhereSaysWhatIsLeft) {
+  const JournalledPage page = Page(QStringLiteral("<p>one</p>"));
+  const QByteArray first = JournalHead() + JournalRecord(page);
+  const QByteArray journal = first + JournalSourceChange({}, QStringLiteral("s"), page.time);
+  for (qsizetype length = 0; length <= journal.size(); ++length) {
+    const AbandonedPage summary = SummaryOf(journal.left(length));
+    EXPECT_EQ(summary.path, length >= first.size() ? page.path : QString()) << length;
+    EXPECT_EQ(summary.hasSource, length == journal.size()) << length;
+  }
+}
+
 TEST(JournalFormat, WhateverBitFlipsNothingCrashesAndNoDamageIsTakenForText) {
   const QString one = QStringLiteral("<p>one</p>");
   const QString two = QStringLiteral("<p>one two</p>");

@@ -29,12 +29,12 @@ std::unique_ptr<Journal> FakeJournals::Begin() {
 
 std::vector<AbandonedPage> FakeJournals::Abandoned() {
   std::vector<AbandonedPage> pages;
+  for (const QString &defect : defects) pages.push_back({defect, {}, {}, {}, false, defect});
   for (auto next = abandoned_.rbegin(); next != abandoned_.rend(); ++next) {
     const auto &[number, page] = *next;
     pages.push_back(
         {QString::number(number), page.path, page.caption, page.time, page.source.has_value(), {}});
   }
-  for (const QString &defect : defects) pages.push_back({defect, {}, {}, {}, false, defect});
   return pages;
 }
 

@@ -182,9 +182,8 @@ class JournalFile : public Journal {
     const QByteArray content = JournalHead() + JournalRecord(page);
     const QByteArray fresh =
         QFile::encodeName(QStringLiteral("%1/%2.tmp").arg(QFileInfo(path_).path()).arg(number_));
-    FileDescriptor file(
-        calls_.Open(fresh.constData(),
-                    O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC | O_NOFOLLOW, OwnerOnly));
+    FileDescriptor file =
+        OpenFile(calls_, fresh, O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_NOFOLLOW, OwnerOnly);
     if (!file.IsOpen()) throw Failure();
     const bool isThere =
         WriteBytes(calls_, file.Number(), content) &&

@@ -51,6 +51,25 @@ TEST_P(SourceControlContract, AViewShowsWhatItIsGivenAndTakesNothingElse) {
   EXPECT_EQ(source->Text(), QStringLiteral("two"));
 }
 
+TEST_P(SourceControlContract, EveryChangeOfTheTextIsToldAndNothingElse) {
+  const auto source = Make();
+  int told = 0;
+  source->SetTextListener([&] { ++told; });
+  const auto tells = [&](const auto &step) {
+    told = 0;
+    step();
+    return told > 0;
+  };
+  EXPECT_TRUE(tells([&] { source->SetText(QStringLiteral("one two")); }));
+  EXPECT_FALSE(tells([&] { source->SetCaret(0, 2); }));
+  EXPECT_TRUE(tells([&] { source->ReplaceSelection(QStringLiteral("x")); }));
+  const auto replace = [&](const char *what) {
+    source->ReplaceAll(QString::fromLatin1(what), QStringLiteral("three"), LetterCase::Matched);
+  };
+  EXPECT_TRUE(tells([&] { replace("two"); }));
+  EXPECT_FALSE(tells([&] { replace("nowhere"); }));
+}
+
 TEST_P(SourceControlContract, TheCaretStartsAtTheBeginningAndGoesWhereItIsPut) {
   const auto source = Make();
   source->SetText(QStringLiteral("first\r\nsecond\r\n"));
