@@ -34,16 +34,31 @@ std::optional<QString> EngineVerifier::Known(const QString &text) const {
   return last_.serialisation;
 }
 
-std::optional<QString> EngineVerifier::Serialisation(const QString &text) {
+std::optional<QString> EngineVerifier::Serialisation(const QString &text, const Patience *patience,
+                                                     bool *isStopped) {
   if (const auto known = Known(text)) return known;
   if (engine_.Guard().InCallback()) return std::nullopt;
   for (int tries = 0; tries < mostTries && !Known(text); ++tries) {
     if (wanted_ != text) Foresee(text, {});
-    GuardedWait(engine_.Guard()).Until(*this, answerLimit, [&] {
-      return Known(text).has_value() || wanted_ != text;
-    });
+    const WaitEnd end =
+        GuardedWait(engine_.Guard())
+            .Until(
+                *this, answerLimit, [&] { return Known(text).has_value() || wanted_ != text; },
+                patience);
+    if (end != WaitEnd::Stopped) continue;
+    *isStopped = true;
+    wanted_.clear();
+    isReady_ = false;
+    if (page_ != nullptr) EndRenderer(*page_);
+    page_.reset();
+    return std::nullopt;
   }
   return Known(text);
+}
+
+std::optional<QString> EngineVerifier::Stoppable::Serialisation(const QString &text) {
+  if (isStopped_) return std::nullopt;
+  return verifier_.Serialisation(text, &patience_, &isStopped_);
 }
 
 void EngineVerifier::Foresee(const QString &text, std::function<void()> then) {

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "platform/html/PageVerifier.h"
+#include "platform/qt/GuardedWait.h"
 
 #include <QObject>
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
 
 class QWebEnginePage;
 
@@ -26,13 +28,28 @@ class EngineVerifier : public QObject, public PageVerifier {
   ~EngineVerifier() override;
 
   /// Waits for the engine; nothing inside one of its callbacks, unless the answer is known.
-  std::optional<QString> Serialisation(const QString &text) override;
+  std::optional<QString> Serialisation(const QString &text) override {
+    return Serialisation(text, nullptr);
+  }
   /// Has the answer found out; `then` runs when it is known, from inside the engine. A later call
   /// replaces one that waits.
   void Foresee(const QString &text, std::function<void()> then);
 
   /// The process that parses; 0 for none.
   std::int64_t ProcessId() const;
+
+  /// The answers of an engine that the person may stop by Escape; there are none from then on.
+  class Stoppable : public PageVerifier {
+   public:
+    Stoppable(EngineVerifier &verifier, Patience patience)
+        : verifier_(verifier), patience_(std::move(patience)) {}
+    std::optional<QString> Serialisation(const QString &text) override;
+
+   private:
+    EngineVerifier &verifier_;
+    Patience patience_;
+    bool isStopped_ = false;
+  };
 
   /// The answers that are known already, without a wait.
   class KnownAnswers : public PageVerifier {
@@ -52,6 +69,8 @@ class EngineVerifier : public QObject, public PageVerifier {
     QString serialisation;
   };
 
+  std::optional<QString> Serialisation(const QString &text, const Patience *patience,
+                                       bool *isStopped = nullptr);
   std::optional<QString> Known(const QString &text) const;
   /// Makes the page where there is none.
   void Start();
