@@ -78,7 +78,7 @@ TEST_P(HostileShapes, NeverHoldTheWindowUpWithoutAWayToStop) {
   }
   EXPECT_EQ(Bytes(QStringLiteral("page.htm")), page);
   // And then the window takes another page.
-  listener_.reports.clear();
+  beat_.stop();
   editor_->LoadDocument(Write(QStringLiteral("next.htm"), "<p>next</p>"));
   EXPECT_TRUE(DocumentHolds(QStringLiteral("<p>next</p>")));
 }
