@@ -72,7 +72,13 @@ class PageMasker {
   qsizetype EndOfComment() const {
     if (source_.sliced(at_ + 4).startsWith(u">")) return at_ + 5;
     if (source_.sliced(at_ + 4).startsWith(u"->")) return at_ + 6;
-    return std::min(After(source_, u"-->", at_ + 4), After(source_, u"--!>", at_ + 4));
+    for (qsizetype at = source_.indexOf(u"--", at_ + 4); at >= 0;
+         at = source_.indexOf(u"--", at + 1)) {
+      const QStringView rest = source_.sliced(at + 2);
+      if (rest.startsWith(u">")) return at + 3;
+      if (rest.startsWith(u"!>")) return at + 4;
+    }
+    return source_.size();
   }
 
   void Note(qsizetype end, PageMask::Kind kind) {
@@ -126,7 +132,9 @@ class PageMasker {
       GoOn();
     AttributesOf(name);
     if (name.compare(u"noscript", Qt::CaseInsensitive) == 0) {
-      const qsizetype close = CloseOf(name, at_);
+      // Looked for once, not once for each of many that are never closed.
+      if (noscriptClose_ < at_) noscriptClose_ = CloseOf(name, at_);
+      const qsizetype close = noscriptClose_;
       if (close < source_.size()) {
         mask_.pieces_.resize(before);
         at_ = start;
@@ -269,6 +277,7 @@ class PageMasker {
   PageMask &mask_;
   qsizetype at_ = 0;
   bool isBehindEnd_ = false;
+  qsizetype noscriptClose_ = -1;  ///< the first end tag of a NOSCRIPT from some place on
   std::vector<PageMask::Piece> tail_;
 };
 

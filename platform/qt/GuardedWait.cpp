@@ -8,6 +8,10 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <memory>
+#include <utility>
+#include <vector>
+
 namespace velor {
 
 namespace {
@@ -39,21 +43,42 @@ bool IsInput(QEvent::Type type) {
 /// Keeps all input of the program from where it was meant for, and looks out for Escape in it.
 class EscapeWatch : public QObject {
  public:
-  explicit EscapeWatch(std::function<void()> escaped) : escaped_(std::move(escaped)) {
+  EscapeWatch(Patience::Input input, std::function<void()> escaped)
+      : input_(input), escaped_(std::move(escaped)) {
     QCoreApplication::instance()->installEventFilter(this);
+  }
+  ~EscapeWatch() override {
+    for (Kept &kept : kept_)
+      if (kept.receiver != nullptr)
+        QCoreApplication::postEvent(kept.receiver, kept.event.release());
   }
 
  protected:
-  bool eventFilter(QObject *, QEvent *event) override {
+  bool eventFilter(QObject *receiver, QEvent *event) override {
     if (!IsInput(event->type())) return false;
-    if (event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape)
+    const bool isEscape = event->type() == QEvent::KeyPress &&
+                          static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
+    if (isEscape)
       escaped_();
+    else if (input_ == Patience::Input::Kept && CanWait(event->type()))
+      kept_.push_back({receiver, std::unique_ptr<QEvent>(event->clone())});
     return true;
   }
 
  private:
+  struct Kept {
+    QPointer<QObject> receiver;
+    std::unique_ptr<QEvent> event;
+  };
+
+  /// A drag goes on only while it is answered; an override is a question about the key behind it.
+  static bool CanWait(QEvent::Type type) {
+    return type != QEvent::DragEnter && type != QEvent::Drop && type != QEvent::ShortcutOverride;
+  }
+
+  Patience::Input input_;
   std::function<void()> escaped_;
+  std::vector<Kept> kept_;
 };
 
 }  // namespace
@@ -99,7 +124,7 @@ WaitEnd GuardedWait::Until(QObject &subject, std::chrono::milliseconds limit,
   ++guard_.waits_;
   loop.exec(QEventLoop::ExcludeUserInputEvents);
   if (isImpatient && end == WaitEnd::TimedOut) {
-    const EscapeWatch watch([&] {
+    const EscapeWatch watch(patience->input, [&] {
       end = WaitEnd::Stopped;
       loop.quit();
     });

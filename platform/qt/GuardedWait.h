@@ -50,11 +50,15 @@ enum class WaitEnd {
   Refused,  ///< inside an engine callback; nothing was waited for
 };
 
-/// A wait that may be long: after some time the person is told and may stop it by Escape. From then
-/// on other input is lost, since it meant what the wait is about to replace.
+/// A wait that may be long: after some time the person is told and may stop it by Escape.
 struct Patience {
+  /// Other input from then on: lost, where it meant what the wait is about to replace, or given to
+  /// whom it was meant for when the wait has ended.
+  enum class Input { Lost, Kept };
+
   std::chrono::milliseconds time;
   std::function<void()> tell;
+  Input input = Input::Lost;
 };
 
 /// The one nested event loop of the program. User input stays in its queue meanwhile. Posted

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -69,6 +70,23 @@ TEST_F(GuardedWaiting, IsStoppedByEscapeOnceThePersonHasBeenTold) {
             WaitEnd::Stopped);
   EXPECT_TRUE(told);
   EXPECT_FALSE(guard_.Waiting());
+}
+
+TEST_F(GuardedWaiting, GivesInputBackWhereItIsToBeKept) {
+  bool told = false;
+  QLineEdit box;
+  const Patience patience{5ms,
+                          [&] {
+                            told = true;
+                            QTest::keyClicks(&box, QStringLiteral("typed"));
+                          },
+                          Patience::Input::Kept};
+  int looks = 0;
+  EXPECT_EQ(GuardedWait(guard_).Until(
+                *subject_, 10s, [&] { return told && ++looks > 3; }, &patience),
+            WaitEnd::Done);
+  EXPECT_EQ(box.text(), QString());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return box.text() == QStringLiteral("typed"); }));
 }
 
 TEST_F(GuardedWaiting, TellsNobodyWhenItIsShort) {

@@ -2,12 +2,16 @@
 #include "tests/fuzz/FaithfulFuzz.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/html/CharsetConverter.h"
 #include "platform/html/FaithfulPage.h"
 #include "platform/html/PageVerifier.h"
 
 #include <QList>
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
+#include <vector>
 
 namespace velor {
 
@@ -43,6 +47,34 @@ void CheckTokens(const QString &text) {
   }
 }
 
+/// Takes bytes as text of some charset, whatever they declare, and writes it with an addition.
+void CheckCharset(char choice, const QByteArray &bytes) {
+  static constexpr const char *charsets[] = {
+      "utf-8", "utf-16le", "utf-16be", "windows-1252", "iso-8859-16", "koi8-u",     "big5",
+      "gbk",   "gb18030",  "euc-jp",   "euc-kr",       "shift_jis",   "iso-2022-jp"};
+  const std::size_t number = static_cast<unsigned char>(choice) % std::size(charsets);
+  const QString charset = QString::fromLatin1(charsets[number]);
+  CharsetConverter converter(charset);
+  std::vector<std::int32_t> places;
+  const QString text = converter.Decode(bytes, places);
+  Require(static_cast<qsizetype>(places.size()) == text.size());
+  Require(std::is_sorted(places.begin(), places.end()));
+  Require(places.empty() || (places.front() >= 0 && places.back() < bytes.size()));
+  Require(converter.Decode(bytes) == text);
+  if (converter.FirstReference(text) < 0) Require(converter.Decode(converter.Encode(text)) == text);
+
+  const PageOriginal original{bytes, {text, {charset, false, LineEnds::Lf}}, {}};
+  const qsizetype middle = text.size() / 2;
+  try {
+    const PageToWrite written =
+        SpliceBytes(original, {{middle, middle, QStringLiteral("x\u65E5")}});
+    Require(!written.bytes.isEmpty());
+    Require(SpliceBytes(original, {}).bytes == bytes);
+  } catch (const RuntimeError &) {
+    // A character without a place in the page's charset.
+  }
+}
+
 }  // namespace
 
 void FuzzFaithfulPage(QByteArrayView data) {
@@ -54,6 +86,7 @@ void FuzzFaithfulPage(QByteArrayView data) {
   const DecodedPage decoded = DecodePage(parts[0]);
   const QString before = QString::fromUtf8(parts[1]);
   const QString now = QString::fromUtf8(parts[2]);
+  CheckCharset(data.front(), data.sliced(1).toByteArray());
   CheckTokens(decoded.text);
   CheckTokens(before);
 

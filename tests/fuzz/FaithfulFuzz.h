@@ -6,7 +6,7 @@
 namespace velor {
 
 /// Takes any bytes as a page with two serialisations and saves it; ends the process where a rule of
-/// the tokeniser, the masks or the patcher does not hold.
+/// the decoders, the tokeniser, the masks or the patcher does not hold.
 void FuzzFaithfulPage(QByteArrayView data);
 
 }  // namespace velor

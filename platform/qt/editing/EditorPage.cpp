@@ -3,6 +3,8 @@
 
 #include <QLoggingCategory>
 
+#include <csignal>
+
 namespace velor {
 
 namespace {
@@ -46,6 +48,11 @@ void EditorPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level,
   const EngineCallback callback(guard_);
   // Only the bridge can raise errors here; what pages provoke are warnings at most.
   if (level == ErrorMessageLevel) qCWarning(bridgeLog).noquote() << source << lineNumber << message;
+}
+
+void EndRenderer(const QWebEnginePage &page) {
+  if (const qint64 process = page.renderProcessPid(); process > 0)
+    ::kill(static_cast<pid_t>(process), SIGKILL);
 }
 
 }  // namespace velor

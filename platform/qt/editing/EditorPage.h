@@ -34,4 +34,7 @@ class EditorPage : public QWebEnginePage {
   QUrl own_;
 };
 
+/// Ends the process of a page, which may be busy for ever; the page tells when it has ended.
+void EndRenderer(const QWebEnginePage &page);
+
 }  // namespace velor

@@ -50,15 +50,41 @@ std::optional<QString> EngineVerifier::Serialisation(const QString &text) {
 
 std::optional<QString> EngineVerifier::SerialisationLike(const QString &text,
                                                          const QString &expected) {
+  return Answer({text, expected}, nullptr, nullptr);
+}
+
+std::optional<QString> EngineVerifier::Answer(const Question &question, const Patience *patience,
+                                              bool *isStopped) {
+  const QString &text = question.text;
   if (const auto known = Known(text)) return known;
   if (engine_.Guard().InCallback()) return std::nullopt;
   for (int tries = 0; tries < mostTries && !Known(text); ++tries) {
-    if (wanted_.text != text) Foresee(text, expected, {});
-    GuardedWait(engine_.Guard()).Until(*this, answerLimit, [&] {
-      return Known(text).has_value() || wanted_.text != text;
-    });
+    if (wanted_.text != text) Foresee(text, question.expected, {});
+    const WaitEnd end =
+        GuardedWait(engine_.Guard())
+            .Until(
+                *this, answerLimit, [&] { return Known(text).has_value() || wanted_.text != text; },
+                patience);
+    if (end != WaitEnd::Stopped) continue;
+    *isStopped = true;
+    wanted_ = {};
+    given_ = {};
+    isReady_ = false;
+    if (page_ != nullptr) EndRenderer(*page_);
+    page_.reset();
+    return std::nullopt;
   }
   return Known(text);
+}
+
+std::optional<QString> EngineVerifier::Stoppable::Serialisation(const QString &text) {
+  return SerialisationLike(text, verifier_.given_.expected);
+}
+
+std::optional<QString> EngineVerifier::Stoppable::SerialisationLike(const QString &text,
+                                                                    const QString &expected) {
+  if (isStopped_) return std::nullopt;
+  return verifier_.Answer({text, expected}, &patience_, &isStopped_);
 }
 
 void EngineVerifier::Foresee(const QString &text, const QString &expected,

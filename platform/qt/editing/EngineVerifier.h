@@ -2,12 +2,14 @@
 #pragma once
 
 #include "platform/html/PageVerifier.h"
+#include "platform/qt/GuardedWait.h"
 
 #include <QObject>
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
 
 class QWebEnginePage;
 
@@ -36,6 +38,20 @@ class EngineVerifier : public QObject, public PageVerifier {
   /// The process that parses; 0 for none.
   std::int64_t ProcessId() const;
 
+  /// The answers of an engine that the person may stop by Escape; there are none from then on.
+  class Stoppable : public PageVerifier {
+   public:
+    Stoppable(EngineVerifier &verifier, Patience patience)
+        : verifier_(verifier), patience_(std::move(patience)) {}
+    std::optional<QString> Serialisation(const QString &text) override;
+    std::optional<QString> SerialisationLike(const QString &text, const QString &expected) override;
+
+   private:
+    EngineVerifier &verifier_;
+    Patience patience_;
+    bool isStopped_ = false;
+  };
+
   /// The answers that are known already, without a wait.
   class KnownAnswers : public PageVerifier {
    public:
@@ -49,7 +65,7 @@ class EngineVerifier : public QObject, public PageVerifier {
   };
 
  private:
-  struct Answer {
+  struct Parsed {
     QString text;
     QString serialisation;
   };
@@ -58,6 +74,10 @@ class EngineVerifier : public QObject, public PageVerifier {
     QString expected;
   };
 
+  /// Waits, where `patience` is given until the person stops the page, which `isStopped` then
+  /// tells.
+  std::optional<QString> Answer(const Question &question, const Patience *patience,
+                                bool *isStopped);
   std::optional<QString> Known(const QString &text) const;
   /// Makes the page where there is none.
   void Start();
@@ -70,7 +90,7 @@ class EngineVerifier : public QObject, public PageVerifier {
   Question given_;   ///< what the page has
   bool isAsked_ = false;
   std::function<void()> then_;
-  Answer last_;
+  Parsed last_;
 };
 
 }  // namespace velor

@@ -25,6 +25,8 @@ using namespace std::chrono_literals;
 /// The longest that input is waited for; usually the page says within milliseconds that it is
 /// there.
 constexpr std::chrono::milliseconds inputTravel = 500ms;
+/// The longest that the notice of a process's end is waited for.
+constexpr std::chrono::milliseconds endTravel = 1s;
 
 /// A document that is in design mode from its beginning is laid out once; `velor.start` turns the
 /// mode on in any case, but then everything is laid out a second time.
@@ -226,8 +228,8 @@ void EngineView::Evaluate(const QString &expression,
                        });
 }
 
-std::optional<QVariant> EngineView::Ask(const QString &expression,
-                                        std::chrono::milliseconds limit) {
+std::optional<QVariant> EngineView::Ask(const QString &expression, std::chrono::milliseconds limit,
+                                        const Patience *patience) {
   if (CurrentPhase() != Phase::Ready || engine_.Guard().InCallback()) return std::nullopt;
   // Shared, since the answer may come when nobody waits any more.
   const auto value = std::make_shared<std::optional<QVariant>>();
@@ -235,10 +237,22 @@ std::optional<QVariant> EngineView::Ask(const QString &expression,
     *value = answer;
     engine_.Guard().Wake();
   });
-  const WaitEnd end = Wait(limit, [this, value, address = address_] {
-    return value->has_value() || CurrentPhase() != Phase::Ready || address != address_;
-  });
+  const WaitEnd end = Wait(
+      limit,
+      [this, value, address = address_] {
+        return value->has_value() || CurrentPhase() != Phase::Ready || address != address_;
+      },
+      patience);
+  if (end == WaitEnd::Destroyed) return std::nullopt;
+  wasStopped_ = end == WaitEnd::Stopped;
+  if (wasStopped_) EndProcess();
   return end == WaitEnd::Done ? *value : std::nullopt;
+}
+
+void EngineView::EndProcess() {
+  if (page_ == nullptr) return;
+  EndRenderer(*page_);
+  Wait(endTravel, [this] { return CurrentPhase() == Phase::Dead; });
 }
 
 void EngineView::AwaitInput() {

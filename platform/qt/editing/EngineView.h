@@ -56,8 +56,12 @@ class EngineView : public QObject {
   /// is, which is an expression without answer.
   void Run(const QString &expression, const std::function<void(const QVariant &)> &answer = {});
   /// Evaluates an expression and waits for its value. Nothing when the page is not ready, dies
-  /// or does not answer in time; then, and only then, `this` may be gone.
-  std::optional<QVariant> Ask(const QString &expression, std::chrono::milliseconds limit);
+  /// or does not answer in time; then, and only then, `this` may be gone. Where the person stops
+  /// the wait, the page's process is ended.
+  std::optional<QVariant> Ask(const QString &expression, std::chrono::milliseconds limit,
+                              const Patience *patience = nullptr);
+  /// Whether the last wait of Ask was stopped.
+  bool WasStopped() const { return wasStopped_; }
   /// Waits until the keys that were sent to the page a moment ago have arrived there: they take
   /// another way than expressions, which could overtake them.
   void AwaitInput();
@@ -107,6 +111,7 @@ class EngineView : public QObject {
   void FollowInput();
   void InputArrived();
   void EndLoad(Phase phase);
+  void EndProcess();
 
   EditingEngine &engine_;
   BridgeHost host_;
@@ -116,6 +121,7 @@ class EngineView : public QObject {
   EditorInput *input_;         ///< a child of view_
   Phase phase_ = Phase::Empty;
   bool hadFocus_ = false;  ///< when the load began
+  bool wasStopped_ = false;
   QUrl address_;
   QString start_;
   QVariant startAnswer_;

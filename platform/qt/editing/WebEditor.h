@@ -99,13 +99,15 @@ class WebEditor : public EditingComponent {
   void FinishLoad();
   void LoadBlankIfEmpty();
   /// The document as the page has it now; nothing when it does not answer (then `this` may be
-  /// gone).
+  /// gone). A person who stops the wait ends the page's process, and the mirror is what there is.
   std::optional<QString> Read();
+  /// For a wait that a person may stop; harmless when `this` is gone.
+  Patience Stoppable(const QString &message);
   /// Works out in an idle moment what a save would write.
   void ComposeAhead();
 
   // One document in another's place, so that undo brings it back (WebEditorReplacing.cpp)
-  enum class Replaced { Done, NotPossible };
+  enum class Replaced { Done, NotPossible, Stopped };
   /// Exchanges the document within the page: one step of its history.
   Replaced ReplaceInPlace(const Original &original, const QString &nativePath);
   /// Loads the document; the one before is kept at this side and undo comes back to it.

@@ -20,9 +20,14 @@ constexpr std::chrono::milliseconds loadLimit = 2min;
 constexpr std::chrono::milliseconds loadPatience = 1500ms;
 const QString longLoad =
     QStringLiteral("The page takes long to show. Press Escape to stop loading it.");
-constexpr std::chrono::milliseconds readLimit = 15s;
+constexpr std::chrono::milliseconds readLimit = 2min;
+constexpr std::chrono::milliseconds readPatience = 1s;
 /// Where what changed does not follow on from what is known here the whole is asked for.
 constexpr int readAttempts = 2;
+const QString longRead = QStringLiteral(
+    "The page does not answer. Press Escape to stop it and go on with its text as last seen.");
+const QString longCheck =
+    QStringLiteral("The page takes long to save. Press Escape to have it written anew as a whole.");
 /// Preparing a larger one would hold the window up for seconds (bytes).
 constexpr qsizetype largestPage = 32'000'000;
 /// A page whose process ends while it loads is tried once more.
@@ -71,9 +76,15 @@ void WebEditor::TakeBytes(const QByteArray &bytes, const QString &nativePath) {
                            nativePath);
   auto original = std::make_shared<FaithfulPage>(PageOriginal{bytes, DecodePage(bytes), {}});
   if (hasDocument_ && FolderOf(nativePath) == FolderOf(nativePath_)) {
-    if (ReplaceInPlace(original, nativePath) == Replaced::NotPossible)
-      ReplaceKeepingEarlier(std::move(original), nativePath);
-    return;
+    switch (ReplaceInPlace(original, nativePath)) {
+      case Replaced::Done:
+        return;
+      case Replaced::NotPossible:
+        return ReplaceKeepingEarlier(std::move(original), nativePath);
+      case Replaced::Stopped:
+        throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("LoadDocument"),
+                               nativePath);
+    }
   }
   earlier_.clear();
   later_.clear();
@@ -194,15 +205,24 @@ QString WebEditor::DocumentHTML() {
   return (alive != nullptr ? original_ : original)->Unmasked(html.value_or(mirror));
 }
 
+Patience WebEditor::Stoppable(const QString &message) {
+  return {readPatience,
+          [this, alive = QPointer<QWidget>(container_), message] {
+            if (alive != nullptr && listener_ != nullptr) listener_->ComponentReported(message);
+          },
+          Patience::Input::Kept};
+}
+
 std::optional<QString> WebEditor::Read() {
   if (view_ == nullptr) return std::nullopt;
   const QPointer<EngineView> alive(view_.get());
   const int load = loads_;
   alive->AwaitInput();
   if (alive == nullptr) return std::nullopt;
-  for (int attempt = 1; attempt <= readAttempts; ++attempt) {
-    const auto answer =
-        alive->Ask(QStringLiteral("velor.mirror(%1)").arg(mirror_.page.Revision()), readLimit);
+  const Patience patience = Stoppable(longRead);
+  for (int attempt = 1; attempt <= readAttempts && alive != nullptr; ++attempt) {
+    const auto answer = alive->Ask(QStringLiteral("velor.mirror(%1)").arg(mirror_.page.Revision()),
+                                   readLimit, &patience);
     if (!answer || load != loads_) return std::nullopt;
     if (Follow(answer->toMap())) return mirror_.page.Html();
   }
@@ -241,14 +261,15 @@ SavedPage WebEditor::Compose() {
   const QString mirror = mirror_.page.Html();
   const QString nativePath = nativePath_;
   EditingEngine &engine = engine_;
+  EngineVerifier::Stoppable verifier(engine.Verifier(), Stoppable(longCheck));
   const QPointer<EngineView> alive(view_.get());
   // Reading may find that undo brought back a document with another original.
-  if (const auto html = Read()) return Original(original_)->Compose(*html, engine.Verifier());
+  if (const auto html = Read()) return Original(original_)->Compose(*html, verifier);
   // A live page that does not answer may hold more than the mirror: better no file than an old one.
   if (alive != nullptr && alive->CurrentPhase() == EngineView::Phase::Ready &&
       !engine.Guard().InCallback())
     throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("SaveDocument"), nativePath);
-  return original->Compose(mirror, engine.Verifier());
+  return original->Compose(mirror, verifier);
 }
 
 }  // namespace velor

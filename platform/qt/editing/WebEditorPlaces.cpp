@@ -12,7 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 
 /// A convenience: it may not hold up a change of modes for longer.
-constexpr std::chrono::milliseconds placeLimit = 2s;
+constexpr std::chrono::milliseconds placeLimit = 400ms;
 
 const QString Name = QStringLiteral("name");
 const QString Ordinal = QStringLiteral("ordinal");

@@ -13,6 +13,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds replaceLimit = 1min;
+const QString longReplacement = QStringLiteral(
+    "The page takes long to show. Press Escape to stop it; the page is as before then.");
 /// What documents kept for undo may hold together, in UTF-16 units; the last one is always kept.
 constexpr qsizetype mostKept = 32'000'000;
 
@@ -30,12 +32,14 @@ WebEditor::Replaced WebEditor::ReplaceInPlace(const Original &original, const QS
   alive->AwaitInput();
   if (alive == nullptr) return Replaced::Done;
   const int generation = ++lastGeneration_;
+  const Patience patience = Stoppable(longReplacement);
   const auto answer = alive->Ask(QStringLiteral("velor.replaceDocument(%1,%2)")
                                      .arg(ScriptValue(original->TextToLoad()))
                                      .arg(generation),
-                                 replaceLimit);
+                                 replaceLimit, &patience);
   // A page closed or loaded anew meanwhile is no failure of this call.
   if (alive == nullptr || load != loads_) return Replaced::Done;
+  if (alive->WasStopped()) return Replaced::Stopped;
   if (!answer || answer->toString().isEmpty()) return Replaced::NotPossible;
   originals_[generation] = original;
   FollowGeneration(generation);
