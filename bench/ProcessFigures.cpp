@@ -40,6 +40,27 @@ void MemoryFigure() {
   Print(figure);
 }
 
+/// The first page brings the engine with it; what more pages leave behind shows beside it.
+void MemoryAfterClosingFigure() {
+  Figure figure = Compare(
+      QStringLiteral("memory"), QStringLiteral("fifty pages opened and closed"),
+      QStringLiteral("one page opened and closed"), 2,
+      [] { return MemoryOf(QStringLiteral("child-our-fifty-closed")); },
+      [] { return MemoryOf(QStringLiteral("child-our-one-closed")); });
+  figure.unit = QStringLiteral("MB PSS");
+  Print(figure);
+}
+
+/// The caret blinks in both.
+void IdleFigure() {
+  Figure figure = Compare(
+      QStringLiteral("processor time while nothing happens"), QStringLiteral("five pages, 20 s"),
+      QStringLiteral("five bare views"), 1,
+      [] { return IdleTimeOf(QStringLiteral("child-our-five")); },
+      [] { return IdleTimeOf(QStringLiteral("child-bare-five")); });
+  Print(figure);
+}
+
 void ChildBareWindow() {
   const QTemporaryDir folder;
   BareView view;
