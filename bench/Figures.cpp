@@ -36,6 +36,8 @@ constexpr Entry Table[] = {
     {"child-our-five", ChildOurFivePages},
     {"child-our-one-closed", ChildOurOneClosed},
     {"child-our-fifty-closed", ChildOurFiftyClosed},
+    {"child-bare-one-closed", ChildBareOneClosed},
+    {"child-bare-fifty-closed", ChildBareFiftyClosed},
     {"child-bare-five", ChildBareFiveViews},
 };
 

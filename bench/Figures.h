@@ -43,6 +43,8 @@ void ChildBareWindow();
 void ChildOurFivePages();
 void ChildOurOneClosed();
 void ChildOurFiftyClosed();
+void ChildBareOneClosed();
+void ChildBareFiftyClosed();
 void ChildBareFiveViews();
 
 }  // namespace velor::bench
