@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QThread>
 
 #include <cstdio>
 #include <vector>
@@ -38,8 +39,8 @@ class Child {
   QProcess process_;
 };
 
-/// Proportional set size of a process and all its descendants, in MB.
-double MemoryOfTree(qint64 root) {
+/// A process and all its descendants.
+std::vector<qint64> TreeOf(qint64 root) {
   std::vector<qint64> tree = {root};
   for (std::size_t i = 0; i < tree.size(); ++i) {
     const QDir tasks(QStringLiteral("/proc/%1/task").arg(tree[i]));
@@ -50,14 +51,33 @@ double MemoryOfTree(qint64 root) {
         if (!pid.isEmpty()) tree.push_back(pid.toLongLong());
     }
   }
+  return tree;
+}
+
+/// Proportional set size of a process and all its descendants, in MB.
+double MemoryOfTree(qint64 root) {
   double kilobytes = 0;
-  for (const qint64 pid : tree) {
+  for (const qint64 pid : TreeOf(root)) {
     QFile rollup(QStringLiteral("/proc/%1/smaps_rollup").arg(pid));
     if (!rollup.open(QIODevice::ReadOnly)) continue;
     for (const QByteArray &line : rollup.readAll().split('\n'))
       if (line.startsWith("Pss:")) kilobytes += line.simplified().split(' ').at(1).toDouble();
   }
   return kilobytes / 1024;
+}
+
+/// Processor time that a process and all its descendants have had, in milliseconds.
+double ProcessorTimeOfTree(qint64 root) {
+  double nanoseconds = 0;
+  for (const qint64 pid : TreeOf(root)) {
+    const QDir tasks(QStringLiteral("/proc/%1/task").arg(pid));
+    for (const QString &task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+      QFile times(tasks.filePath(task) + QStringLiteral("/schedstat"));
+      if (times.open(QIODevice::ReadOnly))
+        nanoseconds += times.readAll().split(' ').at(0).toDouble();
+    }
+  }
+  return nanoseconds / 1e6;
 }
 
 }  // namespace
@@ -72,6 +92,16 @@ double TimeToReady(const QString &figure) {
 double MemoryOf(const QString &figure) {
   const Child child(figure);
   return MemoryOfTree(child.Pid());
+}
+
+double IdleTimeOf(const QString &figure) {
+  constexpr unsigned long settling = 5;
+  constexpr unsigned long watched = 20;
+  const Child child(figure);
+  QThread::sleep(settling);
+  const double before = ProcessorTimeOfTree(child.Pid());
+  QThread::sleep(watched);
+  return ProcessorTimeOfTree(child.Pid()) - before;
 }
 
 void TellReadyAndWait() {

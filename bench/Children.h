@@ -14,6 +14,10 @@ double TimeToReady(const QString &figure);
 /// Proportional set size of a child that is ready and of all its descendants, in MB.
 double MemoryOf(const QString &figure);
 
+/// Milliseconds of processor time that a child and all its descendants take in 20 s once they have
+/// come to rest.
+double IdleTimeOf(const QString &figure);
+
 /// The child's side.
 void TellReadyAndWait();
 

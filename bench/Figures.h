@@ -12,10 +12,15 @@ int RunFigures(const QStringList &names);
 // Figures about one page (PageFigures.cpp).
 void OpeningFigures();
 void KeyFigures();
-void BridgeFigures();
 void ReadingFigures();
 void SavingFigures();
 void SavingAfterAnEditFigures();
+
+// Figures about what the bridge does in the page (BridgeFigures.cpp).
+void BridgeFigures();
+void CommandFigures();
+/// A key and the toolbar of the whole program (ToolbarFigures.cpp).
+void ToolbarFigure();
 
 /// The preview's first and later showings of a page (PreviewFigures.cpp).
 void PreviewFigures();
@@ -30,10 +35,16 @@ void ChildReadPages();
 // Figures about whole processes (ProcessFigures.cpp).
 void StartFigure();
 void MemoryFigure();
+void MemoryAfterClosingFigure();
+void IdleFigure();
 /// Does what a child process is for and tells on standard output when it is done.
 void ChildOurWindow();
 void ChildBareWindow();
 void ChildOurFivePages();
+void ChildOurOneClosed();
+void ChildOurFiftyClosed();
+void ChildBareOneClosed();
+void ChildBareFiftyClosed();
 void ChildBareFiveViews();
 
 }  // namespace velor::bench

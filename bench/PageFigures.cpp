@@ -1,21 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "bench/BareView.h"
 #include "bench/Figures.h"
 #include "bench/Measure.h"
+#include "bench/PageBench.h"
 #include "bench/SamplePage.h"
 #include "platform/EditingCommands.h"
 #include "platform/Paths.h"
-#include "platform/qt/QtFiles.h"
-#include "platform/qt/editing/EditingEngine.h"
-#include "platform/qt/editing/WebEditor.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QWebEnginePage>
-#include <QWebEngineScript>
-#include <QWebEngineView>
 
 #include <memory>
 
@@ -23,93 +16,8 @@ namespace velor::bench {
 
 namespace {
 
-/// The window that shows our component, with what a listener needs to know.
-class OurPage : public EditingListener {
- public:
-  explicit OurPage(const QString &programFolder)
-      : editor(engine, files, ToLogic(programFolder), &window) {
-    editor.SetListener(this);
-    window.resize(900, 700);
-    editor.Widget()->setGeometry(window.rect());
-    window.show();
-  }
-  void DocumentComplete() override { ++completed; }
-  void DisplayChanged() override { ++displayChanges; }
-  void ContextMenuRequested(QPoint) override {}
-  void MouseNotified(int, int) override {}
-  void ComponentReported(const QString &) override {}
-
-  EditingEngine engine;
-  QtFiles files;
-  QWidget window;
-  int completed = 0;
-  int displayChanges = 0;
-  WebEditor editor;
-};
-
-struct Bench {
-  Bench() : ours(QDir::rootPath()) {
-    theirs.resize(900, 700);
-    theirs.show();
-  }
-  QString File(const Size &size) {
-    const QString path = folder.filePath(QString::number(size.bytes) + QStringLiteral(".html"));
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly)) file.write(SamplePage(size.bytes));
-    return path;
-  }
-  void Load(const QString &path) {
-    ours.editor.LoadDocument(ToLogic(path));
-    theirs.LoadFile(path);
-  }
-  QTemporaryDir folder;
-  OurPage ours;
-  BareView theirs;
-};
-
-QWidget *KeyTarget(QWidget *view) {
-  QWidget *proxy = view->focusProxy();
-  return proxy != nullptr ? proxy : view;
-}
-
-/// The widget inside that takes the keys.
-QWidget *EngineWidget(QWidget *container) {
-  for (QWebEngineView *view : container->findChildren<QWebEngineView *>()) return KeyTarget(view);
-  return KeyTarget(container);
-}
-
-/// Adds up in the page what the bridge spends on input: from an event's arrival until the bridge's
-/// listeners, which are registered before this one, have seen it, and the pushes.
-const char BridgeClock[] = R"(
-  globalThis.bridgeClock = { spent: 0, pushes: 0 };
-  for (const type of ['keydown', 'beforeinput', 'input', 'keyup', 'selectionchange']) {
-    let start = 0;
-    window.addEventListener(type, () => { start = performance.now(); }, true);
-    document.addEventListener(type, () => { bridgeClock.spent += performance.now() - start; }, true);
-  }
-  const push = velor.push;
-  velor.push = () => {
-    const start = performance.now();
-    push();
-    bridgeClock.spent += performance.now() - start;
-    bridgeClock.pushes++;
-  };
-  1)";
-
-QVariant Evaluate(QWidget *container, const QString &script) {
-  bool done = false;
-  QVariant value;
-  container->findChild<QWebEngineView *>()->page()->runJavaScript(
-      script, QWebEngineScript::ApplicationWorld, [&](const QVariant &answer) {
-        value = answer;
-        done = true;
-      });
-  WaitUntil([&done] { return done; });
-  return value;
-}
-
 void SaveAfterEdit(const QString &name, const Size &size, int rest) {
-  Bench bench;
+  PageBench bench;
   bench.Load(bench.File(size));
   EditingComponent &editor = bench.ours.editor;
   const QString mine = bench.folder.filePath(QStringLiteral("ours.html"));
@@ -132,33 +40,8 @@ void SaveAfterEdit(const QString &name, const Size &size, int rest) {
 
 }  // namespace
 
-void BridgeFigures() {
-  Bench bench;
-  const auto perKey = [&bench](const Size &size) {
-    bench.ours.editor.LoadDocument(ToLogic(bench.File(size)));
-    bench.ours.editor.SetFocus();
-    QWidget *container = bench.ours.editor.Widget();
-    QWidget *target = EngineWidget(container);
-    Evaluate(container, QString::fromLatin1(BridgeClock));
-    target->window()->activateWindow();
-    (void)QTest::qWaitForWindowActive(target->window());
-    target->setFocus();
-    constexpr int keys = 20;
-    for (int key = 1; key <= keys; ++key) {
-      QTest::keyClick(target, key % 6 == 0 ? Qt::Key_Space : Qt::Key_X);
-      WaitUntil(
-          [&] { return Evaluate(container, QStringLiteral("bridgeClock.pushes")).toInt() >= key; });
-    }
-    return Evaluate(container, QStringLiteral("bridgeClock.spent")).toDouble() / keys;
-  };
-  Print(Compare(
-      QStringLiteral("the bridge's share of a key"), QStringLiteral("1 MB"),
-      QStringLiteral("the same on a page of 10 KB"), 3, [&] { return perKey(Sizes[2]); },
-      [&] { return perKey(Sizes[0]); }));
-}
-
 void OpeningFigures() {
-  Bench bench;
+  PageBench bench;
   for (const Size &size : Sizes) {
     const QString path = bench.File(size);
     std::unique_ptr<QWidget> window;
@@ -192,7 +75,7 @@ void OpeningFigures() {
 }
 
 void KeyFigures() {
-  Bench bench;
+  PageBench bench;
   for (const Size &size : Sizes) {
     if (size.bytes > 1'000'000) continue;
     bench.Load(bench.File(size));
@@ -200,9 +83,7 @@ void KeyFigures() {
     QWidget *ourKeys = EngineWidget(bench.ours.editor.Widget());
     QWidget *theirKeys = KeyTarget(&bench.theirs);
     const auto press = [](QWidget *target, const int &counter) {
-      target->window()->activateWindow();
-      (void)QTest::qWaitForWindowActive(target->window());
-      target->setFocus();
+      Focus(target);
       QTest::qWait(40);  // nobody types faster
       const int before = counter;
       return Milliseconds([&] {
@@ -219,7 +100,7 @@ void KeyFigures() {
 }
 
 void ReadingFigures() {
-  Bench bench;
+  PageBench bench;
   for (const Size &size : Sizes) {
     bench.Load(bench.File(size));
     Print(Compare(
@@ -240,7 +121,7 @@ void SavingAfterAnEditFigures() {
 }
 
 void SavingFigures() {
-  Bench bench;
+  PageBench bench;
   for (const Size &size : Sizes) {
     bench.Load(bench.File(size));
     EditingComponent &editor = bench.ours.editor;

@@ -21,6 +21,21 @@ QString SmallPage(const QTemporaryDir &folder) {
   return path;
 }
 
+double GainFrom(const char *one, const char *many) {
+  return MemoryOf(QString::fromLatin1(many)) - MemoryOf(QString::fromLatin1(one));
+}
+
+void OpenAndClose(int views) {
+  const QTemporaryDir folder;
+  for (int i = 0; i < views; ++i) {
+    BareView view;
+    view.resize(1280, 860);
+    view.show();
+    view.LoadFile(SmallPage(folder));
+  }
+  TellReadyAndWait();
+}
+
 }  // namespace
 
 void StartFigure() {
@@ -40,6 +55,26 @@ void MemoryFigure() {
   Print(figure);
 }
 
+void MemoryAfterClosingFigure() {
+  Figure figure = Compare(
+      QStringLiteral("memory gained from the second page to the fiftieth"),
+      QStringLiteral("pages opened and closed"), QStringLiteral("bare views"), 2,
+      [] { return GainFrom("child-our-one-closed", "child-our-fifty-closed"); },
+      [] { return GainFrom("child-bare-one-closed", "child-bare-fifty-closed"); });
+  figure.unit = QStringLiteral("MB PSS");
+  Print(figure);
+}
+
+/// The caret blinks in both.
+void IdleFigure() {
+  Figure figure = Compare(
+      QStringLiteral("processor time while nothing happens"), QStringLiteral("five pages, 20 s"),
+      QStringLiteral("five bare views"), 1,
+      [] { return IdleTimeOf(QStringLiteral("child-our-five")); },
+      [] { return IdleTimeOf(QStringLiteral("child-bare-five")); });
+  Print(figure);
+}
+
 void ChildBareWindow() {
   const QTemporaryDir folder;
   BareView view;
@@ -47,6 +82,14 @@ void ChildBareWindow() {
   view.show();
   view.LoadFile(SmallPage(folder));
   TellReadyAndWait();
+}
+
+void ChildBareOneClosed() {
+  OpenAndClose(1);
+}
+
+void ChildBareFiftyClosed() {
+  OpenAndClose(50);
 }
 
 void ChildBareFiveViews() {

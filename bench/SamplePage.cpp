@@ -21,4 +21,10 @@ QByteArray SamplePage(int bytes) {
   return page + "</body>\r\n</html>\r\n";
 }
 
+QByteArray ShapedPage(const Shape &shape) {
+  return "<!DOCTYPE html>\n<html><head><title>Shape</title></head><body>\n" +
+         QByteArray(shape.before) + QByteArray(shape.part).repeated(shape.parts) + shape.after +
+         "\n</body></html>\n";
+}
+
 }  // namespace velor::bench

@@ -20,21 +20,26 @@
   // Whether the program has documents to go back or on to where these steps end.
   let beyond = { undo: false, redo: false };
 
-  const textChange = (node, old) => ({
-    weight: 0,
+  // A long page has very many changes in a step, so they are kept small: classes, not closures.
+  class TextChange {
+    constructor(node, old) {
+      this.node = node;
+      this.old = old;
+    }
     // Keeps what differs only: one key in a long text must not cost the text.
     seal() {
-      const now = node.data;
+      const { old } = this;
+      const now = this.node.data;
       const { head, tail } = velor.dom.kept(old, now);
       this.head = head;
       this.before = old.slice(head, old.length - tail);
       this.after = now.slice(head, now.length - tail);
-      this.weight = this.before.length + this.after.length + nodeWeight;
-      old = null;
-    },
-    undo() { node.replaceData(this.head, this.after.length, this.before); },
-    redo() { node.replaceData(this.head, this.before.length, this.after); },
-  });
+      this.old = null;
+      return this.before.length + this.after.length + nodeWeight;
+    }
+    undo() { this.node.replaceData(this.head, this.after.length, this.before); }
+    redo() { this.node.replaceData(this.head, this.before.length, this.after); }
+  }
 
   function putAttribute(element, space, name, value) {
     if (value === null) element.removeAttributeNS(space, name);
@@ -49,22 +54,24 @@
       element.setAttributeNode(attribute);
     }
   }
-  const attributeChange = (element, space, name, old, names) => ({
-    weight: 0,
+  class AttributeChange {
+    constructor(element, space, name, old, names) {
+      Object.assign(this, { element, space, name, old, before: names });
+    }
     seal() {
-      this.now = element.getAttributeNS(space, name);
-      this.names = element.getAttributeNames();
-      this.weight = (old?.length ?? 0) + (this.now?.length ?? 0) + nodeWeight;
-    },
+      this.now = this.element.getAttributeNS(this.space, this.name);
+      this.after = this.element.getAttributeNames();
+      return (this.old?.length ?? 0) + (this.now?.length ?? 0) + nodeWeight;
+    }
     undo() {
-      putAttribute(element, space, name, old);
-      orderAttributes(element, names);
-    },
+      putAttribute(this.element, this.space, this.name, this.old);
+      orderAttributes(this.element, this.before);
+    }
     redo() {
-      putAttribute(element, space, name, this.now);
-      orderAttributes(element, this.names);
-    },
-  });
+      putAttribute(this.element, this.space, this.name, this.now);
+      orderAttributes(this.element, this.after);
+    }
+  }
 
   function exchange(parent, gone, come, next) {
     for (const node of gone) if (node.parentNode === parent) node.remove();
@@ -92,22 +99,32 @@
   };
   const weightOf = (node) => nodeWeight + (node.firstChild
     ? node.getElementsByTagName('*').length * nodeWeight + node.textContent.length : 0);
-  const childChange = ({ target, addedNodes, removedNodes, nextSibling }) => ({
-    weight: nodeWeight * (1 + addedNodes.length),
+  const none = [];
+  const listOf = (nodes) => (nodes.length ? [...nodes] : none);
+  class ChildChange {
+    constructor({ target, addedNodes, removedNodes, nextSibling }) {
+      this.target = target;
+      this.added = listOf(addedNodes);
+      this.removed = listOf(removedNodes);
+      this.next = nextSibling;
+      this.under = none;
+    }
     // What has left the document is kept by this step alone.
     seal() {
-      for (const node of removedNodes) if (!node.isConnected) this.weight += weightOf(node);
-    },
+      let weight = nodeWeight * (1 + this.added.length);
+      for (const node of this.removed) if (!node.isConnected) weight += weightOf(node);
+      return weight;
+    }
     undo() {
-      this.under = hangings(addedNodes);
-      exchange(target, addedNodes, removedNodes, nextSibling);
-    },
+      this.under = hangings(this.added);
+      exchange(this.target, this.added, this.removed, this.next);
+    }
     redo() {
-      for (const node of removedNodes) if (node.parentNode === target) node.remove();
+      for (const node of this.removed) if (node.parentNode === this.target) node.remove();
       hang(this.under);
-      exchange(target, [], addedNodes, nextSibling);
-    },
-  });
+      exchange(this.target, none, this.added, this.next);
+    }
+  }
 
   // Where the document was at rest: the selection and the blanks that are held there.
   const rest = () => ({ ...points(), held: velor.blanks.held() });
@@ -127,11 +144,11 @@
 
   function add(record) {
     const { type, target, oldValue } = record;
-    if (type === 'childList') open.changes.push(childChange(record));
+    if (type === 'childList') open.changes.push(new ChildChange(record));
     else if (type === 'characterData') {
-      if (firstOf(target, '')) open.changes.push(textChange(target, oldValue));
+      if (firstOf(target, '')) open.changes.push(new TextChange(target, oldValue));
     } else if (firstOf(target, record.attributeNamespace + ' ' + record.attributeName)) {
-      open.changes.push(attributeChange(
+      open.changes.push(new AttributeChange(
         target, record.attributeNamespace, record.attributeName, oldValue, open.names.get(target)));
     }
   }
@@ -150,6 +167,8 @@
     lastPoints = rest();
   }
 
+  const seal = (changes) => changes.reduce((sum, change) => sum + change.seal(), 0);
+
   function forgetOldest() {
     let weight = undoable.reduce((sum, step) => sum + step.weight, 0);
     while (undoable.length > 1 && (undoable.length > mostSteps || weight > mostWeight)) {
@@ -162,8 +181,7 @@
     const step = open;
     open = null;
     if (!step.changes.length) return;
-    step.changes.forEach((change) => change.seal());
-    step.weight = step.changes.reduce((sum, change) => sum + change.weight, 0);
+    step.weight = seal(step.changes);
     delete step.seen;
     delete step.names;
     undoable.push(step);
@@ -210,7 +228,7 @@
     observer.takeRecords().forEach(add);
     step.after = { ...after, held: velor.blanks.held() };
     if (wasClosed) {
-      step.changes.slice(sealed).forEach((each) => each.seal());
+      step.weight += seal(step.changes.slice(sealed));
       open = null;
     } else {
       close();

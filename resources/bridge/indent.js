@@ -12,9 +12,9 @@
     return item?.tagName === 'LI' ? item : null;
   };
 
-  const quoteOf = (unit) => {
-    return dom.ancestor(unit.home, isQuote, (node) => dom.isCell(node) || node.tagName === 'LI');
-  };
+  const quoteAround = (node) =>
+    dom.ancestor(node, isQuote, (at) => dom.isCell(at) || at.tagName === 'LI');
+  const quoteOf = (unit) => quoteAround(unit.home);
   // The quote that holds a list whose first item is meant: indenting such an item made it.
   const quoteOfList = ([item]) => {
     const list = item.parentNode;
@@ -99,23 +99,30 @@
       if (quote) unquote(quote, [group[0].parentNode]);
       else lists.outdent(group);
     }
-    for (const { quote, parts } of quotedRuns(units.filter((each) => !lists.itemOf(each)))) {
-      if (quote.isConnected) unquote(quote, parts);
+    for (const parts of quotedRuns(units.filter((each) => !lists.itemOf(each)))) {
+      // Asked for now: the run before may have cut the quote in two.
+      const quote = quoteAround(parts[0]);
+      if (quote === parts[0]) dom.rename(quote, 'P');
+      else if (quote?.isConnected) unquote(quote, parts);
     }
   }
-  // The units that are neighbours in one quote leave it together.
+  // What leaves its quote together: the units that are neighbours in it.
   function quotedRuns(units) {
     const runs = [];
+    let last = null;
     for (const unit of units) {
-      const quote = quoteOf(unit);
-      if (!quote) continue;
       const own = velor.units.partsOf(unit);
       const parts = own.length ? own : [unit.container];
-      const last = runs.at(-1);
-      const goesOn = last?.quote === quote && childOf(quote, parts[0]) ===
+      const quote = quoteAround(parts[0]);
+      if (!quote) continue;
+      const goesOn = last?.quote === quote && parts[0] !== quote && childOf(quote, parts[0]) ===
         dom.neighbour(childOf(quote, last.parts.at(-1)), 'nextSibling');
-      if (goesOn) last.parts.push(...parts);
-      else runs.push({ quote, parts: [...parts] });
+      if (goesOn) {
+        last.parts.push(...parts);
+      } else {
+        last = { quote, parts: [...parts] };
+        runs.push(last.parts);
+      }
     }
     return runs;
   }

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "bench/BareView.h"
+#include "bench/SamplePage.h"
+#include "platform/EditingComponent.h"
+#include "platform/qt/QtFiles.h"
+#include "platform/qt/editing/EditingEngine.h"
+#include "platform/qt/editing/WebEditor.h"
+
+#include <QTemporaryDir>
+#include <QVariant>
+#include <QWidget>
+
+namespace velor::bench {
+
+/// The window that shows our component, with what a listener needs to know.
+class OurPage : public EditingListener {
+ public:
+  explicit OurPage(const QString &programFolder);
+  void DocumentComplete() override { ++completed; }
+  void DisplayChanged() override { ++displayChanges; }
+  void ContextMenuRequested(QPoint) override {}
+  void MouseNotified(int, int) override {}
+  void ComponentReported(const QString &) override {}
+
+  EditingEngine engine;
+  QtFiles files;
+  QWidget window;
+  int completed = 0;
+  int displayChanges = 0;
+  WebEditor editor;
+};
+
+/// Our component and a bare view of the same size, and pages on the disk for both.
+struct PageBench {
+  PageBench();
+  /// Writes a page and answers its native path.
+  QString File(const QString &name, const QByteArray &content) const;
+  QString File(const Size &size) const;
+  void Load(const QString &path);
+
+  QTemporaryDir folder;
+  OurPage ours;
+  BareView theirs;
+};
+
+QWidget *KeyTarget(QWidget *view);
+/// The widget inside that takes the keys.
+QWidget *EngineWidget(QWidget *container);
+/// Gives the widget the keyboard, as a person does before typing.
+void Focus(QWidget *target);
+/// The value of an expression in the bridge's world of the view inside, waited for.
+QVariant Evaluate(QWidget *container, const QString &script);
+
+}  // namespace velor::bench
