@@ -59,13 +59,18 @@
     (velor.pending.has(name) && !view.elements().length
       ? () => velor.pending.get(name) : velor.formats[name].read);
 
-  function put(name, value, { range, elements }) {
-    if (!elements().length) velor.pending.set(name, value);
-    else velor.inline.apply(name, value, range);
+  function put(name, value, { range, object, elements }) {
+    if (!elements().length) {
+      velor.pending.set(name, value);
+      return;
+    }
+    velor.inline.apply(name, value, range);
+    if (object?.isConnected) velor.selection.selectNode(object);
   }
 
-  const takesFormats = ({ object, range, elements }) => !object &&
-    (elements().length > 0 || velor.inline.takes(velor.selection.caretElement(range)));
+  // A table or a box that is selected has its texts formatted; a picture has none.
+  const takesFormats = ({ object, range, elements }) => elements().length > 0 ||
+    !object && velor.inline.takes(velor.selection.caretElement(range));
   const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Disabled);
   const onUnits = (change) => (value, view) => {
     const kept = velor.selection.keep();

@@ -80,7 +80,9 @@
   function unitsIn(range, limit = Infinity) {
     if (!range) return [];
     const object = velor.selection.control(range);
-    if (object && dom.isBlock(object)) return [objectUnit(object)];
+    // A box has paragraphs of its own.
+    const isWhole = object && dom.isBlock(object) && (dom.isAtom(object) || object.tagName === 'TABLE');
+    if (isWhole) return [objectUnit(object)];
     if (range.collapsed) return [caretUnit(range)].filter(Boolean);
     const units = [];
     const known = new Set();
