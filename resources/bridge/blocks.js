@@ -83,8 +83,8 @@
       const above = blocks[index - 1];
       if (!above || dom.neighbour(above, 'nextSibling') !== block || block.attributes.length) continue;
       if (dom.isText(above.nextSibling)) above.nextSibling.remove();
-      if (dom.isBreak(above.lastChild)) above.lastChild.remove();
-      above.append(lineEnd(), ...block.childNodes);
+      if (!dom.isBreak(above.lastChild)) above.append(lineEnd());
+      above.append(...block.childNodes);
       block.remove();
       blocks[index] = above;
     }
