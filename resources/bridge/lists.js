@@ -76,7 +76,8 @@
   }
 
   // A box with a place of its own stays where it is; its text becomes the item.
-  const isBox = ({ block, nodes }) => nodes.length > 0 && block?.tagName === 'DIV' && dom.isObject(block);
+  const isBox = ({ block, nodes }) =>
+    nodes.length > 0 && block?.tagName === 'DIV' && dom.isObject(block);
 
   function makeItem(unit, inner) {
     const block = isBox(unit) ? null : unit.block;

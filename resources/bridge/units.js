@@ -81,8 +81,8 @@
     if (!range) return [];
     const object = velor.selection.control(range);
     // A box has paragraphs of its own.
-    const isWhole = object && dom.isBlock(object) && (dom.isAtom(object) || object.tagName === 'TABLE');
-    if (isWhole) return [objectUnit(object)];
+    const isWhole = (node) => dom.isAtom(node) || node.tagName === 'TABLE';
+    if (object && dom.isBlock(object) && isWhole(object)) return [objectUnit(object)];
     if (range.collapsed) return [caretUnit(range)].filter(Boolean);
     const units = [];
     const known = new Set();
