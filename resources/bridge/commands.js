@@ -61,14 +61,19 @@
     return (element) => velor.formats[name].read(element, known);
   }
 
-  function put(name, value, { range, elements }) {
-    if (!elements().length) velor.pending.set(name, value);
-    else velor.inline.apply(name, value, range);
+  function put(name, value, { range, object, elements }) {
+    if (!elements().length) {
+      velor.pending.set(name, value);
+      return;
+    }
+    velor.inline.apply(name, value, range);
+    if (object?.isConnected) velor.selection.selectNode(object);
   }
 
-  const isRaw = ({ range, elements }) =>
-    !elements().length && velor.dom.rawAt(range.startContainer) !== null;
-  const whereText = (status) => (view) => (view.object || isRaw(view) ? Disabled : status(view));
+  // A table or a box that is selected has its texts formatted; a picture has none.
+  const takesFormats = ({ object, range, elements }) => elements().length > 0 ||
+    !object && velor.dom.rawAt(range.startContainer) === null;
+  const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Disabled);
   // What is done is done to all of the selection, however little of it the answer was read from.
   const onUnits = (change) => (value, view) => {
     const kept = velor.selection.keep();

@@ -85,8 +85,12 @@
     item.append(division);
   }
 
+  // A box with a place of its own stays where it is; its text becomes the item.
+  const isBox = ({ block, nodes }) =>
+    nodes.length > 0 && block?.tagName === 'DIV' && dom.isObject(block);
+
   function makeItem(unit, inner) {
-    const { block } = unit;
+    const block = isBox(unit) ? null : unit.block;
     if (block && (block.tagName === 'P' || block.tagName === 'DIV')) {
       const item = dom.rename(block, inner);
       alignInside(item);

@@ -132,7 +132,10 @@
 
   function place(kept) {
     if (kept.node) return [kept.node, Math.min(kept.offset, kept.node.length)];
-    if (kept.beside) return [kept.beside.parentNode, indexOf(kept.beside) + kept.side];
+    if (kept.beside) {
+      const object = velor.dom.successor(kept.beside);
+      return [object.parentNode, indexOf(object) + kept.side];
+    }
     return [velor.dom.successor(kept.inside), 0];
   }
 

@@ -161,7 +161,9 @@
   function unitsIn(range, most = Infinity) {
     if (!range) return [];
     const object = velor.selection.control(range);
-    if (object && dom.isBlock(object)) return [objectUnit(object)];
+    // A box has paragraphs of its own.
+    const isWhole = (node) => dom.isAtom(node) || node.tagName === 'TABLE';
+    if (object && dom.isBlock(object) && isWhole(object)) return [objectUnit(object)];
     if (range.collapsed) return [caretUnit(range)].filter(Boolean);
     const units = [];
     const run = runFollower();

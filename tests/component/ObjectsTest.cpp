@@ -100,10 +100,10 @@ TEST_F(ObjectsOfThePage, TheRightButtonSelectsAnObjectAndAsksForTheMenu) {
   EXPECT_TRUE(BoxIsSelected());
 }
 
-TEST_F(ObjectsOfThePage, CommandsOnTextAreOffForAnObjectAndCuttingItIsOn) {
+TEST_F(ObjectsOfThePage, CommandsOnTextApplyToTheTextOfABoxAndCuttingItIsOn) {
   QTest::mouseClick(Input(), Qt::LeftButton, Qt::NoModifier, {250, 150});
   ASSERT_TRUE(BoxIsSelected());
-  EXPECT_EQ(editor_->QueryStatus(Number(EditingCommand::Bold)), CommandStatus::Disabled);
+  EXPECT_EQ(editor_->QueryStatus(Number(EditingCommand::Bold)), CommandStatus::Enabled);
   EXPECT_EQ(editor_->QueryStatus(Number(EditingCommand::Cut)), CommandStatus::Enabled);
   Exec(EditingCommand::Delete);
   EXPECT_FALSE(DocumentHolds(QStringLiteral("<div")));
