@@ -95,6 +95,7 @@
     const first = beside(below, 0, 'nextSibling');
     if (!isBlank(first)) return;
     first.node.deleteData(first.index, 1);
+    velor.deletion.prune(first.node);
     const last = beside(above, above.childNodes.length, 'previousSibling');
     if (last?.node && !isBlank(last)) last.node.insertData(last.index + 1, ' ');
   }

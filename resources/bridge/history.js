@@ -30,6 +30,7 @@
       this.before = old.slice(head, old.length - tail);
       this.after = now.slice(head, now.length - tail);
       this.weight = this.before.length + this.after.length + nodeWeight;
+      this.isVoid = this.before === this.after;
       old = null;
     },
     undo() { node.replaceData(this.head, this.after.length, this.before); },
@@ -163,6 +164,9 @@
     open = null;
     if (!step.changes.length) return;
     step.changes.forEach((change) => change.seal());
+    // What an input method wrote and took away again is no change.
+    step.changes = step.changes.filter((change) => !change.isVoid);
+    if (!step.changes.length) return;
     step.weight = step.changes.reduce((sum, change) => sum + change.weight, 0);
     delete step.seen;
     delete step.names;

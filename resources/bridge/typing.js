@@ -16,7 +16,7 @@
     if (!unit || unit.block && !unit.block.id || !bare.test(unit.container.tagName)) return false;
     if (inputType === 'insertParagraph') return true;
     const empty = unit.container === document.body && dom.isHollow(document.body);
-    return inputType === 'insertText' && empty;
+    return /^insert(Composition)?Text$/.test(inputType) && empty;
   }
   function makeParagraph(unit) {
     const kept = velor.selection.keep();
@@ -51,9 +51,14 @@
     return at.data.replace(/[ \t\n]/g, '') === '\u00a0' && !typedIn.has(at) ? at : null;
   }
 
+  // All of the page: what is typed over it begins a new one.
+  const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
+    startContainer === document.body && endContainer === document.body && startOffset === 0 &&
+    endOffset === document.body.childNodes.length;
+
   // What takes the place of selected text is to look as that did.
   function keepLooks(range) {
-    const [text] = velor.selection.textsIn(range);
+    const [text] = isAll(range) ? [] : velor.selection.textsIn(range);
     const looks = text ? Object.entries(velor.formats)
       .map(([name, format]) => [name, format.read(text.parentNode)]) : [];
     velor.deletion.remove(range);
@@ -89,11 +94,6 @@
   let goesOn = null;
   const isThere = ({ collapsed, startContainer, startOffset }) =>
     collapsed && goesOn?.node === startContainer && goesOn.offset === startOffset;
-
-  // All of the page: what is typed over it begins a new one.
-  const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
-    startContainer === document.body && endContainer === document.body && startOffset === 0 &&
-    endOffset === document.body.childNodes.length;
 
   // The first selected text and the place in it; null where something else comes first.
   function firstText(range) {

@@ -124,6 +124,29 @@ void BridgePage::Press(const QKeySequence &key) {
   AwaitKeys(before + 1);
 }
 
+void BridgePage::Compose(const QString &preedit) {
+  const QInputMethodEvent::Attribute caret(QInputMethodEvent::Cursor,
+                                           static_cast<int>(preedit.size()), 1, {});
+  QInputMethodEvent event(preedit, {caret});
+  Send(event);
+}
+
+void BridgePage::Commit(const QString &text) {
+  QInputMethodEvent event;
+  event.setCommitString(text);
+  Send(event);
+}
+
+void BridgePage::Send(QInputMethodEvent &event) {
+  const int before = Evaluate(QStringLiteral("markup.composed()")).toInt();
+  view_.focusProxy()->setFocus();
+  QCoreApplication::sendEvent(view_.focusProxy(), &event);
+  EXPECT_TRUE(QTest::qWaitFor(
+      [this, before] { return Evaluate(QStringLiteral("markup.composed()")).toInt() > before; },
+      patience))
+      << "the page never saw the composition";
+}
+
 void BridgePage::Click(QPoint place) {
   QTest::mouseClick(view_.focusProxy(), Qt::LeftButton, Qt::NoModifier, place);
 }

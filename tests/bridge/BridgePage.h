@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QEvent>
+#include <QInputMethodEvent>
 #include <QKeySequence>
 #include <QString>
 #include <QVariant>
@@ -24,6 +25,10 @@ class BridgePage {
   /// Real keys, as from a person.
   void Type(const QString &text);
   void Press(const QKeySequence &key);
+  /// What an input method has so far; nothing abandons it.
+  void Compose(const QString &preedit);
+  /// What an input method gives in the end.
+  void Commit(const QString &text);
   /// A click of the left button at a place in CSS pixels.
   void Click(QPoint place);
   /// A press or release of the left button.
@@ -34,6 +39,7 @@ class BridgePage {
 
  private:
   void AwaitKeys(int count);
+  void Send(QInputMethodEvent &event);
 
   QWebEngineView view_;
 };

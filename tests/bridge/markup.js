@@ -86,6 +86,7 @@
   };
 
   let keysUp = 0;
+  let composed = 0;
 
   globalThis.markup = {
     select() {
@@ -102,9 +103,14 @@
     countKeys() {
       keysUp = 0;
       addEventListener('keyup', () => { keysUp++; }, true);
+      composed = 0;
+      for (const type of ['compositionupdate', 'compositionend', 'beforeinput', 'input']) {
+        addEventListener(type, () => { composed++; }, true);
+      }
     },
     place: (selector) => document.querySelector(selector).getBoundingClientRect(),
     keysUp: () => keysUp,
+    composed: () => composed,
     // A drop of what another program lets go of.
     drop(data, clientX, clientY) {
       const dataTransfer = new DataTransfer();
