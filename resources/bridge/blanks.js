@@ -150,9 +150,8 @@
   function holdAlone(inputType) {
     const holdIf = (place) => { if (charAt(place) === noBreak) hold(place.node, place.index, false); };
     const { anchorNode, anchorOffset } = velor.selection.points();
-    if (inputType === 'insertText') {
-      if (before.isFirst && before.ownRight) holdIf(beside(anchorNode, anchorOffset, 'nextSibling'));
-      return;
+    if (inputType === 'insertText' && before.isFirst && before.ownRight) {
+      holdIf(beside(anchorNode, anchorOffset, 'nextSibling'));
     }
     for (const [node, old] of before.texts) {
       const { head, tail } = velor.dom.kept(old, node.data);

@@ -121,6 +121,7 @@
     if (!place) return false;
     const { text } = place;
     if (!range.collapsed) velor.blanks.release();
+    velor.blanks.watch();
     const end = put(data, place);
     if (!range.collapsed) {
       range.setStart(text, end);
