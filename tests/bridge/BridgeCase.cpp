@@ -116,6 +116,10 @@ void Perform(BridgePage &page, const QString &step) {
     page.Type(value);
   } else if (verb == QStringLiteral("key")) {
     page.Press(QKeySequence::fromString(value, QKeySequence::PortableText));
+  } else if (verb == QStringLiteral("hold")) {
+    const QString name = value.section(QLatin1Char(' '), 0, 0);
+    page.Hold(QKeySequence::fromString(name, QKeySequence::PortableText),
+              value.section(QLatin1Char(' '), 1).toInt());
   } else if (verb == QStringLiteral("compose")) {
     page.Compose(value);
   } else if (verb == QStringLiteral("commit")) {

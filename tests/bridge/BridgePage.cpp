@@ -124,6 +124,21 @@ void BridgePage::Press(const QKeySequence &key) {
   AwaitKeys(before + 1);
 }
 
+void BridgePage::Hold(const QKeySequence &key, int repetitions) {
+  const int before = Evaluate(QStringLiteral("markup.keysUp()")).toInt();
+  QWidget *input = view_.focusProxy();
+  input->setFocus();
+  const QString text = key.toString().size() == 1 ? key.toString().toLower() : QString();
+  const int code = key[0].key();
+  for (int sent = 0; sent <= repetitions; ++sent) {
+    QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, text, sent > 0);
+    QCoreApplication::sendEvent(input, &press);
+  }
+  QKeyEvent release(QEvent::KeyRelease, code, Qt::NoModifier, text);
+  QCoreApplication::sendEvent(input, &release);
+  AwaitKeys(before + 1);
+}
+
 void BridgePage::Compose(const QString &preedit) {
   const QInputMethodEvent::Attribute caret(QInputMethodEvent::Cursor,
                                            static_cast<int>(preedit.size()), 1, {});

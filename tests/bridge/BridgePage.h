@@ -25,6 +25,8 @@ class BridgePage {
   /// Real keys, as from a person.
   void Type(const QString &text);
   void Press(const QKeySequence &key);
+  /// A key that is held down: so many repetitions of it before it is let go.
+  void Hold(const QKeySequence &key, int repetitions);
   /// What an input method has so far; nothing abandons it.
   void Compose(const QString &preedit);
   /// What an input method gives in the end.
