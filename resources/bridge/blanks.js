@@ -123,7 +123,11 @@
       for (const text of velor.selection.textsIn(block)) texts.set(text, text.data);
     }
     const own = (place) => charAt(place) === noBreak && !isHeld(place);
-    before = { texts, ownLeft: own(left), ownRight: own(right), isFirst: !left };
+    const isGap = (place) => isBlank(place) || charAt(place) === noBreak;
+    before = {
+      texts, left, ownLeft: own(left), ownRight: own(right),
+      parts: own(left) && isGap(right), begins: own(right) && (!left || isGap(left)),
+    };
   }
 
   // What is held moves along with what was written or deleted before it.
@@ -147,11 +151,12 @@
   }
 
   // A no-break space that stood beside a blank, or first in its line, stands between words now.
-  function holdAlone(inputType) {
+  function holdAlone(inputType, data) {
     const holdIf = (place) => { if (charAt(place) === noBreak) hold(place.node, place.index, false); };
     const { anchorNode, anchorOffset } = velor.selection.points();
-    if (inputType === 'insertText' && before.isFirst && before.ownRight) {
-      holdIf(beside(anchorNode, anchorOffset, 'nextSibling'));
+    if (inputType === 'insertText' && data?.trim() !== '') {
+      if (before.parts) holdIf(before.left);
+      if (before.begins) holdIf(beside(anchorNode, anchorOffset, 'nextSibling'));
     }
     for (const [node, old] of before.texts) {
       const { head, tail } = velor.dom.kept(old, node.data);
@@ -210,7 +215,7 @@
     if (inputType === 'insertText' || inputType.startsWith('delete')) {
       follow();
       holdFresh(inputType, data);
-      holdAlone(inputType);
+      holdAlone(inputType, data);
     }
     before = null;
     leave();

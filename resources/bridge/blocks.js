@@ -47,6 +47,14 @@
 
   // Line ends show in preformatted text only; elsewhere they are breaks. Kept places go along.
   function breakLines(element, kept) {
+    const goesOn = (text) => {
+      if (text.length) return true;
+      let at = dom.nextSkippingChildren(text);
+      while (at && element.contains(at) && !(dom.isText(at) ? at.length : dom.hasContent(at))) {
+        at = dom.nextSkippingChildren(at);
+      }
+      return Boolean(at) && element.contains(at);
+    };
     const places = kept ? [kept.anchor, kept.focus] : [];
     const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
     const texts = [];
@@ -59,7 +67,7 @@
           if (place.node !== text || place.offset <= at) continue;
           Object.assign(place, { node: rest, offset: place.offset - at - 1 });
         }
-        if (rest.length || rest.nextSibling) text.after(dom.create('BR'));
+        if (goesOn(rest)) text.after(dom.create('BR'));
         if (!text.length) text.remove();
         text = rest;
       }
@@ -97,6 +105,16 @@
   const takesFormat = ({ block }) =>
     !block || !dom.isAtom(block) && block.tagName !== 'TABLE';
 
+  // Lists of the other kind are left one level at a time.
+  function makeList({ name, list, element }, kept) {
+    for (let level = 0; level < 50; level++) {
+      velor.selection.restore(kept);
+      const units = velor.units.unitsIn(velor.selection.range());
+      if (units.every((unit) => read(unit) === name)) return;
+      velor.lists.make(units, list, element);
+    }
+  }
+
   function apply(name, range) {
     const format = byName(name);
     if (!format) return;
@@ -106,9 +124,7 @@
     if (units.every((unit) => read(unit) === format.name)) return;
     if (format.list) {
       units.forEach((unit) => becomePlain(unit, kept));
-      velor.selection.restore(kept);
-      const plain = velor.units.unitsIn(velor.selection.range());
-      velor.lists.make(plain, format.list, format.element);
+      makeList(format, kept);
     } else if (format.element === 'P') {
       velor.lists.unlist();
       velor.units.unitsIn(velor.selection.range())

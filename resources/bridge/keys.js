@@ -262,10 +262,10 @@
   // there is one in place of a line.
   function besideIsland(range) {
     if (!range) return false;
-    const { startContainer, startOffset, endContainer, endOffset, collapsed } = range;
-    if (!collapsed) {
-      return [startContainer.childNodes[startOffset], endContainer.childNodes[endOffset - 1]]
-        .some(dom.isIsland);
+    if (!range.collapsed) {
+      const last = range.endContainer.childNodes[range.endOffset - 1];
+      const [first] = velor.selection.leavesIn(range);
+      return dom.isIsland(first) || Boolean(last) && dom.isIsland(dom.lastLeaf(last));
     }
     const [node, offset] = velor.units.gapAt(range) ?? [];
     return Boolean(node) &&

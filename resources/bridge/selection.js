@@ -113,7 +113,10 @@
     if (isText(node)) return { node, offset };
     const after = node.childNodes[offset];
     const before = node.childNodes[offset - 1];
-    const child = after && (inward === 'after' || !before) ? after : before;
+    // A caret at the end of a line before a block clings to the line.
+    const endsLine = before && after && velor.dom.isBlock(after) && !velor.dom.isBlock(before) &&
+      velor.dom.isShown(before);
+    const child = after && (inward === 'after' && !endsLine || !before) ? after : before;
     if (!child) return { inside: node };
     const leaf = child === after ? firstLeaf(after) : lastLeaf(before);
     if (isText(leaf)) return { node: leaf, offset: child === after ? 0 : leaf.length };
