@@ -152,7 +152,9 @@
 
   // A no-break space that stood beside a blank, or first in its line, stands between words now.
   function holdAlone(inputType, data) {
-    const holdIf = (place) => { if (charAt(place) === noBreak) hold(place.node, place.index, false); };
+    const holdIf = (place) => {
+      if (charAt(place) === noBreak) hold(place.node, place.index, false);
+    };
     const { anchorNode, anchorOffset } = velor.selection.points();
     if (inputType === 'insertText' && data?.trim() !== '') {
       if (before.parts) holdIf(before.left);

@@ -43,8 +43,6 @@
     return 'Normal';
   }
 
-  const isPreformatted = (block) => Boolean(block) && /^(PRE|LISTING|PLAINTEXT|XMP)$/.test(block.tagName);
-
   // Line ends show in preformatted text only; elsewhere they are breaks. Kept places go along.
   function breakLines(element, kept) {
     const goesOn = (text) => {
@@ -84,7 +82,7 @@
     }
     const inside = dom.ancestor(block || container, (node) => node.tagName === tag, dom.isCell);
     if (inside && tag !== 'P') return;
-    const preformatted = isPreformatted(block);
+    const preformatted = dom.isPreformatted(block);
     const element = velor.units.become(unit, tag);
     if (preformatted) breakLines(element, kept);
   }
@@ -92,7 +90,7 @@
   // A format chosen by name takes the place of the one that is there: an item is no heading then.
   function becomePlain({ block }, kept) {
     if (!block || !dom.isParagraph(block) || /^(P|DT)$/.test(block.tagName)) return;
-    const preformatted = isPreformatted(block);
+    const preformatted = dom.isPreformatted(block);
     const paragraph = dom.rename(block, 'P');
     if (preformatted) breakLines(paragraph, kept);
     const item = paragraph.parentNode;
@@ -135,5 +133,5 @@
     velor.selection.restore(kept);
   }
 
-  velor.blocks = { formats, read, apply, takesFormat, isPreformatted, breakLines };
+  velor.blocks = { formats, read, apply, takesFormat, breakLines };
 })();

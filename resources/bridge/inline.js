@@ -264,8 +264,8 @@
     return [...elements].every((element) => same(read(element), value));
   }
 
-  // Where the selection is to begin or end again: at its outermost text, or beside the picture or
-  // island that it takes in there.
+  // Where the selection is to begin or end again: at its outermost text, or beside the picture,
+  // island or break that it takes in there.
   function placesOf(texts, range) {
     const last = texts.at(-1);
     const places = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
@@ -273,7 +273,8 @@
     const leaves = [...velor.selection.leavesIn(range)].filter((leaf) => dom.isShown(leaf) &&
       (leaf !== startContainer || startOffset < leaf.length) &&
       (leaf !== endContainer || endOffset > 0));
-    const beside = (leaf, side) => dom.isAtom(leaf) && { beside: leaf, side };
+    const isThing = (leaf) => dom.isAtom(leaf) || dom.isBreak(leaf);
+    const beside = (leaf, side) => isThing(leaf) && { beside: leaf, side };
     return [beside(leaves[0], 0) || places[0], beside(leaves.at(-1), 1) || places[1]];
   }
 

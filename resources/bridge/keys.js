@@ -62,7 +62,7 @@
 
   // Enter in preformatted text is a line end, but on an empty last line leaves it.
   const preAt = (range) =>
-    dom.ancestor(range.startContainer, (node) => /^(PRE|LISTING|PLAINTEXT|XMP)$/.test(node.tagName ?? ''));
+    dom.ancestor(range.startContainer, dom.isPreformatted);
   function breaksLine() {
     const range = velor.selection.range();
     return Boolean(range && preAt(range) && !velor.deletion.spansUnits(range));

@@ -114,9 +114,9 @@
     const after = node.childNodes[offset];
     const before = node.childNodes[offset - 1];
     // A caret at the end of a line before a block clings to the line.
-    const endsLine = before && after && velor.dom.isBlock(after) && !velor.dom.isBlock(before) &&
-      velor.dom.isShown(before);
-    const child = after && (inward === 'after' && !endsLine || !before) ? after : before;
+    const endsLine = inward === 'line' && before && after && velor.dom.isBlock(after) &&
+      !velor.dom.isBlock(before) && velor.dom.isShown(before);
+    const child = after && (inward !== 'before' && !endsLine || !before) ? after : before;
     if (!child) return { inside: node };
     const leaf = child === after ? firstLeaf(after) : lastLeaf(before);
     if (isText(leaf)) return { node: leaf, offset: child === after ? 0 : leaf.length };
@@ -140,9 +140,13 @@
       const side = forward ? 0 : 1;
       return { anchor: { beside: object, side }, focus: { beside: object, side: 1 - side } };
     }
+    if (selected.collapsed) {
+      const caret = mark(focusNode, focusOffset, 'line');
+      return { anchor: caret, focus: { ...caret } };
+    }
     return {
       anchor: mark(anchorNode, anchorOffset, forward ? 'after' : 'before'),
-      focus: mark(focusNode, focusOffset, forward && !selected.collapsed ? 'before' : 'after'),
+      focus: mark(focusNode, focusOffset, forward ? 'before' : 'after'),
     };
   }
 

@@ -8,12 +8,10 @@
   // Input that fills an empty paragraph, so that nothing need keep it open any more.
   const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']);
 
-  // What may hold text without a paragraph around it; one of these that has a name is there once.
-  const bare = /^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER|DIV|SECTION|ARTICLE|MAIN|HEADER|FOOTER|ASIDE|NAV)$/;
-
-  // Bare text becomes a paragraph before it is split; so does the first text of an empty page.
+  // Bare text becomes a paragraph before it is split; so does the first text of an empty page. What
+  // has a name is there once, with the paragraph in it.
   function needsParagraph(unit, { inputType }) {
-    if (!unit || unit.block && !unit.block.id || !bare.test(unit.container.tagName)) return false;
+    if (!unit || unit.block && !unit.block.id || !dom.isBare(unit.container)) return false;
     if (inputType === 'insertParagraph') return true;
     const empty = unit.container === document.body && dom.isHollow(document.body);
     return /^insert(Composition)?Text$/.test(inputType) && empty;

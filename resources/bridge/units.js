@@ -68,11 +68,8 @@
   // A selected object that is a block itself.
   const objectUnit = (object) => ({ container: object.parentNode, nodes: [object], block: object });
 
-  // What may hold text without a paragraph around it.
-  const bare = /^(BODY|TD|TH|LI|DD|BLOCKQUOTE|FORM|CENTER|DIV|SECTION|ARTICLE|MAIN|HEADER|FOOTER|ASIDE|NAV)$/;
-
-  // The place of a caret between two blocks, or at their edge, where no line is: [node, offset]; else
-  // null.
+  // The place of a caret between two blocks, or at their edge, where no line is: [node, offset];
+  // null elsewhere.
   function gapAt({ startContainer, startOffset, collapsed }) {
     if (!collapsed) return null;
     let [node, offset] = [startContainer, startOffset];
@@ -80,11 +77,9 @@
       if (!dom.isIgnorable(node)) return null;
       [node, offset] = [node.parentNode, velor.selection.indexOf(node)];
     }
-    if (!bare.test(node.tagName)) return null;
-    const beside = (child, side) =>
-      child && (dom.isShown(child) ? child : dom.neighbour(child, side));
-    const around = [beside(node.childNodes[offset - 1], 'previousSibling'),
-      beside(node.childNodes[offset], 'nextSibling')].filter(Boolean);
+    if (!dom.isBare(node) && !/^(LI|DD)$/.test(node.tagName)) return null;
+    const around = [dom.shownFrom(node.childNodes[offset - 1], 'previousSibling'),
+      dom.shownFrom(node.childNodes[offset], 'nextSibling')].filter(Boolean);
     return around.length && around.every(dom.isBlock) ? [node, offset] : null;
   }
 
@@ -97,10 +92,8 @@
     }
     const shown = [...node.childNodes].filter(dom.isShown);
     if (!shown.length) return dom.isBlock(node) ? unit(node, []) : unitOf(node);
-    const after = node.childNodes[offset];
-    const next = after && (dom.isShown(after) ? after : dom.neighbour(after, 'nextSibling'));
-    const before = node.childNodes[offset - 1];
-    const last = before && (dom.isShown(before) ? before : dom.neighbour(before, 'previousSibling'));
+    const next = dom.shownFrom(node.childNodes[offset], 'nextSibling');
+    const last = dom.shownFrom(node.childNodes[offset - 1], 'previousSibling');
     // At the end of a line before a block the caret is in that line.
     if (last && !dom.isBlock(last) && dom.isBlock(next)) return unitOf(lastShown(last));
     const leaf = next ? dom.firstLeaf(next) : dom.lastLeaf(shown.at(-1));
