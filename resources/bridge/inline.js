@@ -275,7 +275,13 @@
       (leaf !== endContainer || endOffset > 0));
     const isThing = (leaf) => dom.isAtom(leaf) || dom.isBreak(leaf);
     const beside = (leaf, side) => isThing(leaf) && { beside: leaf, side };
-    return [beside(leaves[0], 0) || places[0], beside(leaves.at(-1), 1) || places[1]];
+    const [first, end] = [leaves[0], leaves.at(-1)];
+    const from = { node: first, offset: first === startContainer ? startOffset : 0 };
+    const to = { node: end, offset: end === endContainer ? endOffset : end.length };
+    return [
+      beside(first, 0) || (dom.rawAt(first) ? from : places[0]),
+      beside(end, 1) || (dom.rawAt(end) ? to : places[1]),
+    ];
   }
 
   // Puts a format on the text of the range and selects that text again.

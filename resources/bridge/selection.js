@@ -114,9 +114,14 @@
     const after = node.childNodes[offset];
     const before = node.childNodes[offset - 1];
     // A caret at the end of a line before a block clings to the line.
-    const endsLine = inward === 'line' && before && after && velor.dom.isBlock(after) &&
-      !velor.dom.isBlock(before) && velor.dom.isShown(before);
-    const child = after && (inward !== 'before' && !endsLine || !before) ? after : before;
+    if (inward === 'line') {
+      const { shownFrom, isBlock } = velor.dom;
+      const last = shownFrom(before, 'previousSibling');
+      if (last && !isBlock(last) && isBlock(shownFrom(after, 'nextSibling'))) {
+        return mark(node, indexOf(last) + 1, 'before');
+      }
+    }
+    const child = after && (inward !== 'before' || !before) ? after : before;
     if (!child) return { inside: node };
     const leaf = child === after ? firstLeaf(after) : lastLeaf(before);
     if (isText(leaf)) return { node: leaf, offset: child === after ? 0 : leaf.length };
