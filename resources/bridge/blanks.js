@@ -164,8 +164,8 @@
       const { head, tail } = velor.dom.kept(old, node.data);
       const gone = old.slice(head, old.length - tail);
       if (!gone || !node.isConnected) continue;
-      if (/^[ \u00a0]/.test(gone)) holdIf({ node, index: head - 1 });
-      if (/[ \u00a0]$/.test(gone)) holdIf({ node, index: head });
+      if (/^[ \u00a0]/.test(gone)) holdIf(beside(node, head, 'previousSibling'));
+      if (/[ \u00a0]$/.test(gone)) holdIf(beside(node, head, 'nextSibling'));
     }
   }
 

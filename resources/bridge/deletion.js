@@ -124,7 +124,7 @@
     const item = velor.lists.itemOf(first);
     const rest = [...home.childNodes].filter(dom.isShown);
     const onlyLists = rest.length > 0 && rest.every(dom.isList);
-    if (home.tagName === 'LI' && item && onlyLists) item.append(...rest);
+    if (home.tagName === 'LI' && item && onlyLists && !home.contains(item)) item.append(...rest);
     removeEmptied(home);
     holdOpen(first.container);
     return place;

@@ -12,10 +12,9 @@
     return item?.tagName === 'LI' ? item : null;
   };
 
-  const quoteOf = (unit) => {
-    const start = unit.block || unit.container;
-    return dom.ancestor(start, isQuote, (node) => dom.isCell(node) || node.tagName === 'LI');
-  };
+  // Asked of a unit's first node: its container may be cut while units before it leave the quote.
+  const quoteOf = (unit) => dom.ancestor(velor.units.partsOf(unit)[0] ?? unit.container, isQuote,
+    (node) => dom.isCell(node) || node.tagName === 'LI');
   // The quote that holds a list whose first item is meant: indenting such an item made it.
   const quoteOfList = ([item]) => {
     const list = item.parentNode;
@@ -116,7 +115,9 @@
     for (const unit of units.filter((each) => !lists.itemOf(each))) {
       const quote = quoteOf(unit);
       const parts = velor.units.partsOf(unit);
-      if (quote?.isConnected) unquote(quote, parts.length ? parts : [unit.container]);
+      if (quote && quote === unit.container && !parts.length) {
+        velor.deletion.holdOpen(dom.rename(quote, 'P'));
+      } else if (quote) unquote(quote, parts.length ? parts : [unit.container]);
     }
   }
 

@@ -273,6 +273,7 @@
     const leaves = [...velor.selection.leavesIn(range)].filter((leaf) => dom.isShown(leaf) &&
       (leaf !== startContainer || startOffset < leaf.length) &&
       (leaf !== endContainer || endOffset > 0));
+    if (!leaves.length) return places;
     const isThing = (leaf) => dom.isAtom(leaf) || dom.isBreak(leaf);
     const beside = (leaf, side) => isThing(leaf) && { beside: leaf, side };
     const [first, end] = [leaves[0], leaves.at(-1)];
