@@ -7,7 +7,8 @@
 
   const objects = new Set(['HR', 'TABLE']);
   const bearer = ({ block }) =>
-    block && /^(P|DIV|H[1-6]|PRE|LISTING|PLAINTEXT|XMP|ADDRESS|HR|TABLE)$/.test(block.tagName) ? block : null;
+    block && (/^(P|DIV|H[1-6]|ADDRESS|HR|TABLE)$/.test(block.tagName) || dom.isPreformatted(block))
+      ? block : null;
 
   function sideOf(element) {
     const { textAlign, direction } = getComputedStyle(element);

@@ -95,6 +95,7 @@
     const first = beside(below, 0, 'nextSibling');
     if (!isBlank(first)) return;
     first.node.deleteData(first.index, 1);
+    velor.deletion.prune(first.node);
     const last = beside(above, above.childNodes.length, 'previousSibling');
     if (last?.node && !isBlank(last)) last.node.insertData(last.index + 1, ' ');
   }
@@ -122,7 +123,11 @@
       for (const text of velor.selection.textsIn(block)) texts.set(text, text.data);
     }
     const own = (place) => charAt(place) === noBreak && !isHeld(place);
-    before = { texts, ownLeft: own(left), ownRight: own(right), isFirst: !left };
+    const isGap = (place) => isBlank(place) || charAt(place) === noBreak;
+    before = {
+      texts, left, ownLeft: own(left), ownRight: own(right),
+      parts: own(left) && isGap(right), begins: own(right) && (!left || isGap(left)),
+    };
   }
 
   // What is held moves along with what was written or deleted before it.
@@ -146,19 +151,21 @@
   }
 
   // A no-break space that stood beside a blank, or first in its line, stands between words now.
-  function holdAlone(inputType) {
-    const holdIf = (place) => { if (charAt(place) === noBreak) hold(place.node, place.index, false); };
+  function holdAlone(inputType, data) {
+    const holdIf = (place) => {
+      if (charAt(place) === noBreak) hold(place.node, place.index, false);
+    };
     const { anchorNode, anchorOffset } = velor.selection.points();
-    if (inputType === 'insertText') {
-      if (before.isFirst && before.ownRight) holdIf(beside(anchorNode, anchorOffset, 'nextSibling'));
-      return;
+    if (inputType === 'insertText' && data?.trim() !== '') {
+      if (before.parts) holdIf(before.left);
+      if (before.begins) holdIf(beside(anchorNode, anchorOffset, 'nextSibling'));
     }
     for (const [node, old] of before.texts) {
       const { head, tail } = velor.dom.kept(old, node.data);
       const gone = old.slice(head, old.length - tail);
       if (!gone || !node.isConnected) continue;
-      if (/^[ \u00a0]/.test(gone)) holdIf({ node, index: head - 1 });
-      if (/[ \u00a0]$/.test(gone)) holdIf({ node, index: head });
+      if (/^[ \u00a0]/.test(gone)) holdIf(beside(node, head, 'previousSibling'));
+      if (/[ \u00a0]$/.test(gone)) holdIf(beside(node, head, 'nextSibling'));
     }
   }
 
@@ -210,7 +217,7 @@
     if (inputType === 'insertText' || inputType.startsWith('delete')) {
       follow();
       holdFresh(inputType, data);
-      holdAlone(inputType);
+      holdAlone(inputType, data);
     }
     before = null;
     leave();

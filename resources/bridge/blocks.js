@@ -43,10 +43,16 @@
     return 'Normal';
   }
 
-  const isPreformatted = (block) => Boolean(block) && /^(PRE|LISTING|PLAINTEXT|XMP)$/.test(block.tagName);
-
   // Line ends show in preformatted text only; elsewhere they are breaks. Kept places go along.
   function breakLines(element, kept) {
+    const goesOn = (text) => {
+      if (text.length) return true;
+      let at = dom.nextSkippingChildren(text);
+      while (at && element.contains(at) && !(dom.isText(at) ? at.length : dom.hasContent(at))) {
+        at = dom.nextSkippingChildren(at);
+      }
+      return Boolean(at) && element.contains(at);
+    };
     const places = kept ? [kept.anchor, kept.focus] : [];
     const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
     const texts = [];
@@ -59,7 +65,7 @@
           if (place.node !== text || place.offset <= at) continue;
           Object.assign(place, { node: rest, offset: place.offset - at - 1 });
         }
-        if (rest.length || rest.nextSibling) text.after(dom.create('BR'));
+        if (goesOn(rest)) text.after(dom.create('BR'));
         if (!text.length) text.remove();
         text = rest;
       }
@@ -76,7 +82,7 @@
     }
     const inside = dom.ancestor(block || container, (node) => node.tagName === tag, dom.isCell);
     if (inside && tag !== 'P') return null;
-    const preformatted = isPreformatted(block);
+    const preformatted = dom.isPreformatted(block);
     const element = velor.units.become(unit, tag);
     if (preformatted) breakLines(element, kept);
     return element;
@@ -102,7 +108,7 @@
   // A format chosen by name takes the place of the one that is there: an item is no heading then.
   function becomePlain({ block }, kept) {
     if (!block || !dom.isParagraph(block) || /^(P|DT)$/.test(block.tagName)) return;
-    const preformatted = isPreformatted(block);
+    const preformatted = dom.isPreformatted(block);
     const paragraph = dom.rename(block, 'P');
     if (preformatted) breakLines(paragraph, kept);
     const item = paragraph.parentNode;
@@ -115,6 +121,16 @@
   const takesFormat = ({ object }) =>
     !object || !dom.isAtom(object) && object.tagName !== 'TABLE';
 
+  // Lists of the other kind are left one level at a time.
+  function makeList({ name, list, element }, kept) {
+    for (let level = 0; level < 50; level++) {
+      velor.selection.restore(kept);
+      const units = velor.units.unitsIn(velor.selection.range());
+      if (units.every((unit) => read(unit) === name)) return;
+      velor.lists.make(velor.units.held(units), list, element);
+    }
+  }
+
   function apply(name, range) {
     const format = byName(name);
     if (!format) return;
@@ -124,9 +140,7 @@
     if (units.every((unit) => read(unit) === format.name)) return;
     if (format.list) {
       units.forEach((unit) => becomePlain(unit, kept));
-      velor.selection.restore(kept);
-      const plain = velor.units.held(velor.units.unitsIn(velor.selection.range()));
-      velor.lists.make(plain, format.list, format.element);
+      makeList(format, kept);
     } else if (format.element === 'P') {
       velor.lists.unlist();
       velor.units.unitsIn(velor.selection.range())
@@ -139,5 +153,5 @@
     velor.selection.restore(kept);
   }
 
-  velor.blocks = { formats, read, apply, takesFormat, isPreformatted, breakLines };
+  velor.blocks = { formats, read, apply, takesFormat, breakLines };
 })();

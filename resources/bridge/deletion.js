@@ -124,9 +124,8 @@
   function join(first, second, mark) {
     const left = dropTrailingBreak(first.nodes.filter((node) => node.isConnected));
     const home = second.container;
-    const { isPreformatted, breakLines } = velor.blocks;
-    const leavesPre = isPreformatted(second.block) && !isPreformatted(first.container);
-    if (leavesPre) breakLines(home);
+    const leavesPre = dom.isPreformatted(second.block) && !dom.isPreformatted(first.container);
+    if (leavesPre) velor.blocks.breakLines(home);
     const all = leavesPre ? [...home.childNodes] : second.nodes.filter((node) => node.isConnected);
     const moved = dom.rawAt(first.container) ? asText(all) : all;
     const last = left.at(-1);
@@ -279,10 +278,10 @@
     empty(range);
     const [node, offset] = velor.units.gapAt(velor.selection.range()) ?? [];
     if (!node) return;
-    const [before, after] = [node.childNodes[offset - 1], node.childNodes[offset]];
-    const next = after && (dom.isShown(after) ? after : dom.neighbour(after, 'nextSibling'));
-    const previous = before && (dom.isShown(before) ? before : dom.neighbour(before, 'previousSibling'));
-    const enters = (block) => dom.isElement(block) && !dom.isAtom(block) && block.tagName !== 'TABLE';
+    const next = dom.shownFrom(node.childNodes[offset], 'nextSibling');
+    const previous = dom.shownFrom(node.childNodes[offset - 1], 'previousSibling');
+    const enters = (block) =>
+      dom.isElement(block) && !dom.isAtom(block) && block.tagName !== 'TABLE';
     if (enters(next)) velor.selection.setCaret(...velor.selection.place(startOf(next)));
     else if (enters(previous)) velor.selection.setCaret(...velor.selection.place(endOf(previous)));
   }

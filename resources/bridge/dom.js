@@ -12,6 +12,9 @@
     'THEAD TR UL XMP');
   // Blocks that hold text only: they are split when another block comes into their middle.
   const paragraphs = set('ADDRESS DT H1 H2 H3 H4 H5 H6 LISTING P PLAINTEXT PRE XMP');
+  const preformatted = set('LISTING PLAINTEXT PRE XMP');
+  // What may hold text without a paragraph around it, besides items.
+  const bare = set('ARTICLE ASIDE BLOCKQUOTE BODY CENTER DIV FOOTER FORM HEADER MAIN NAV SECTION TD TH');
   const lists = set('DIR MENU OL UL');
   // Nothing flows from one of these to the next.
   const cells = set('BODY CAPTION TD TH');
@@ -72,7 +75,8 @@
   };
 
   // Text between these tags is written as it stands: no markup can be in it.
-  const rawAt = (node) => (isElement(node) ? node : node.parentElement)?.closest('XMP, PLAINTEXT') ?? null;
+  const rawAt = (node) =>
+    (isElement(node) ? node : node.parentElement)?.closest('XMP, PLAINTEXT') ?? null;
 
   const isShown = (node) => !isNeutral(node) && !isIgnorable(node);
 
@@ -172,6 +176,9 @@
     return at;
   }
 
+  // The same, the node itself first.
+  const shownFrom = (node, side) => (!node || isShown(node) ? node : neighbour(node, side));
+
   const sameAttributes = (one, other) =>
     one.attributes.length === other.attributes.length &&
     [...one.attributes].every(({ name, value }) => other.getAttribute(name) === value);
@@ -231,6 +238,7 @@
     isShown, rawAt,
     isPlainDivision, writesStyles, kept,
     isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
+    isPreformatted: named(preformatted), isBare: named(bare), shownFrom,
     isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),
     nextNode, nextSkippingChildren, ancestor, blockOf, firstLeaf, lastLeaf, create, successor,
     rename, unwrap, wrap, absorb, twin, splitBefore, neighbour, sameAttributes, sameLooks, shownText,

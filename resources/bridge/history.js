@@ -34,6 +34,7 @@
       this.head = head;
       this.before = old.slice(head, old.length - tail);
       this.after = now.slice(head, now.length - tail);
+      this.isVoid = this.before === this.after;
       this.old = null;
       return this.before.length + this.after.length + nodeWeight;
     }
@@ -182,6 +183,9 @@
     open = null;
     if (!step.changes.length) return;
     step.weight = seal(step.changes);
+    // What an input method wrote and took away again is no change.
+    step.changes = step.changes.filter((change) => !change.isVoid);
+    if (!step.changes.length) return;
     delete step.seen;
     delete step.names;
     undoable.push(step);

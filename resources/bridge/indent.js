@@ -90,7 +90,20 @@
     let middle = quote;
     if (behind) dom.splitBefore(behind, middle);
     if (dom.neighbour(first, 'previousSibling')) middle = dom.splitBefore(first, middle);
+    keepApart(middle);
     dom.unwrap(middle);
+  }
+  // Lines without a block that leave a quote beside others become paragraphs.
+  function keepApart(quote) {
+    const isLine = (node) => Boolean(node) && !dom.isBlock(node) && !dom.isBreak(node);
+    for (const [edge, outer, inner] of [['firstChild', 'previousSibling', 'nextSibling'],
+      ['lastChild', 'nextSibling', 'previousSibling']]) {
+      if (!isLine(dom.neighbour(quote, outer))) continue;
+      const line = [];
+      for (let at = quote[edge]; at && !dom.isBlock(at); at = at[inner]) line.push(at);
+      if (edge === 'lastChild') line.reverse();
+      if (line.some(dom.isShown)) dom.wrap(line, dom.create('P'));
+    }
   }
 
   function outdent(units) {
@@ -102,7 +115,7 @@
     for (const parts of quotedRuns(units.filter((each) => !lists.itemOf(each)))) {
       // Asked for now: the run before may have cut the quote in two.
       const quote = quoteAround(parts[0]);
-      if (quote === parts[0]) dom.rename(quote, 'P');
+      if (quote === parts[0]) velor.deletion.holdOpen(dom.rename(quote, 'P'));
       else if (quote?.isConnected) unquote(quote, parts);
     }
   }

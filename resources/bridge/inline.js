@@ -324,8 +324,8 @@
     return [...elements].every((element) => same(read(element), value));
   }
 
-  // Where the selection is to begin or end again: at its outermost text, or beside the picture or
-  // island that it takes in there.
+  // Where the selection is to begin or end again: at its outermost text, or beside the picture,
+  // island or break that it takes in there.
   function placesOf(texts, range) {
     const last = texts.at(-1);
     const places = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
@@ -333,8 +333,16 @@
     const leaves = [...velor.selection.leavesIn(range)].filter((leaf) => dom.isShown(leaf) &&
       (leaf !== startContainer || startOffset < leaf.length) &&
       (leaf !== endContainer || endOffset > 0));
-    const beside = (leaf, side) => dom.isAtom(leaf) && { beside: leaf, side };
-    return [beside(leaves[0], 0) || places[0], beside(leaves.at(-1), 1) || places[1]];
+    if (!leaves.length) return places;
+    const isThing = (leaf) => dom.isAtom(leaf) || dom.isBreak(leaf);
+    const beside = (leaf, side) => isThing(leaf) && { beside: leaf, side };
+    const [first, end] = [leaves[0], leaves.at(-1)];
+    const from = { node: first, offset: first === startContainer ? startOffset : 0 };
+    const to = { node: end, offset: end === endContainer ? endOffset : end.length };
+    return [
+      beside(first, 0) || (dom.rawAt(first) ? from : places[0]),
+      beside(end, 1) || (dom.rawAt(end) ? to : places[1]),
+    ];
   }
 
   // Puts a format on the text of the range and selects that text again.

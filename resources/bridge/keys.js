@@ -62,7 +62,7 @@
 
   // Enter in preformatted text is a line end, but on an empty last line leaves it.
   const preAt = (range) =>
-    dom.ancestor(range.startContainer, (node) => /^(PRE|LISTING|PLAINTEXT|XMP)$/.test(node.tagName ?? ''));
+    dom.ancestor(range.startContainer, dom.isPreformatted);
   function breaksLine() {
     const range = velor.selection.range();
     return Boolean(range && preAt(range) && !velor.deletion.spansUnits(range));
@@ -157,8 +157,12 @@
     if (!item) return null;
     const alone = unit.block && [...item.childNodes].filter(dom.isShown).length === 1;
     if (dom.isHollow(item) || alone && dom.isHollow(unit.block)) return () => velor.lists.leave(unit);
-    const goesOn = unit.block && unit.block !== item && /^(P|DIV)$/.test(unit.block.tagName) &&
-      unit.block.parentNode === item && dom.neighbour(unit.block, 'nextSibling');
+    // With other blocks in the item the engine would put the new one among those.
+    const others = [...item.children].filter((child) => child !== unit.block && dom.isBlock(child));
+    const goesOn = unit.block
+      ? /^(P|DIV)$/.test(unit.block.tagName) && unit.block.parentNode === item &&
+        dom.neighbour(unit.block, 'nextSibling')
+      : unit.container === item && others.some((child) => !dom.isList(child));
     return goesOn ? () => velor.lists.split(item) : null;
   }
 
@@ -270,6 +274,8 @@
     composing = false;
     work(() => velor.pending.typed(data));
     velor.history.arrive();
+    // An abandoned one leaves nothing behind.
+    if (!data) velor.history.finish();
   }
 
   const cellAt = () => {
@@ -314,11 +320,39 @@
     else if (!backwards) velor.history.step('addRow', () => intoCell(addRow(cell.parentNode)));
   }
 
-  // The engine types nothing where there is no line and a closed block.
+  // The engine tells of no input where the selection begins or ends with a closed block, or where
+  // there is one in place of a line.
   function besideIsland(range) {
-    const [node, offset] = range && velor.units.gapAt(range) || [];
+    if (!range) return false;
+    if (!range.collapsed) {
+      const last = range.endContainer.childNodes[range.endOffset - 1];
+      const [first] = velor.selection.leavesIn(range);
+      return dom.isIsland(first) || Boolean(last) && dom.isIsland(dom.lastLeaf(last));
+    }
+    const [node, offset] = velor.units.gapAt(range) ?? [];
     return Boolean(node) &&
       [node.childNodes[offset - 1], node.childNodes[offset]].some(dom.isIsland);
+  }
+  // Deletes what is selected there and makes the line that the key is for.
+  function makeWay(event) {
+    const { key } = event;
+    const range = velor.selection.range();
+    const types = key.length === 1 || key === 'Enter';
+    const deletes = /^(Delete|Backspace)$/.test(key) && !range.collapsed;
+    if (!types && !deletes) return;
+    if (deletes || key === 'Enter') event.preventDefault();
+    if (deletes) {
+      velor.exec(5004);
+      return;
+    }
+    velor.history.expect('typing', false);
+    work(() => {
+      if (!range.collapsed) velor.deletion.empty(range);
+      const gap = velor.units.gapAt(velor.selection.range());
+      if (gap) velor.typing.makeLine(gap);
+    });
+    velor.history.arrive();
+    velor.schedulePush();
   }
 
   function keyDown(event) {
@@ -329,18 +363,8 @@
       tab(shiftKey);
       return;
     }
-    // The engine tells of no deletion where all that is selected is closed to editing.
-    const range = /^(Delete|Backspace)$/.test(key) && velor.selection.range();
-    if (range && !range.collapsed && dom.isIsland(velor.deletion.thingIn(range))) {
-      event.preventDefault();
-      velor.exec(5004);
-      return;
-    }
-    const plain = !ctrlKey && !altKey && !metaKey;
-    if (plain && key.length === 1 && besideIsland(velor.selection.range())) {
-      velor.history.expect('typing', false);
-      work(() => velor.typing.makeLine(velor.units.gapAt(velor.selection.range())));
-      velor.history.arrive();
+    if (!ctrlKey && !altKey && !metaKey && besideIsland(velor.selection.range())) {
+      makeWay(event);
       return;
     }
     if (!ctrlKey || altKey || metaKey) return;

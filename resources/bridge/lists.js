@@ -261,7 +261,8 @@
     const mark = document.createTextNode('');
     velor.selection.range().insertNode(mark);
     dom.splitBefore(mark, item);
-    const [above, below] = [item.lastChild, dom.blockOf(mark)];
+    const below = dom.blockOf(mark);
+    const above = below === item.nextSibling ? item : item.lastChild;
     velor.deletion.prune(dom.lastLeaf(above));
     velor.deletion.prune(mark);
     velor.blanks.part(above, below);

@@ -175,7 +175,12 @@
     velor.blanks.release();
     makeRoom(velor.selection.range(), fragment);
     if (!fragment.firstChild) return;
-    const { startContainer, startOffset } = velor.selection.range();
+    velor.blanks.watch();
+    putAt(fragment, velor.selection.range());
+    velor.blanks.watched({ inputType: 'insertText' });
+  };
+
+  function putAt(fragment, { startContainer, startOffset }) {
     if (dom.rawAt(startContainer)) {
       const parts = holdsBlock(fragment) ? [...fragment.childNodes] : [fragment];
       fragment.replaceChildren(parts.map((part) => part.textContent).join('\n'));
@@ -184,7 +189,7 @@
     if (isListOf(home)) makeItems(fragment, home);
     if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
     else putInline(fragment, startContainer, startOffset);
-  };
+  }
 
   velor.pasteHTML = (html) => velor.history.step('pasteHTML', () => {
     if (!velor.editable()) return;

@@ -123,7 +123,15 @@
     if (isText(node)) return { node, offset };
     const after = node.childNodes[offset];
     const before = node.childNodes[offset - 1];
-    const child = after && (inward === 'after' || !before) ? after : before;
+    // A caret at the end of a line before a block clings to the line.
+    if (inward === 'line') {
+      const { shownFrom, isBlock } = velor.dom;
+      const last = shownFrom(before, 'previousSibling');
+      if (last && !isBlock(last) && isBlock(shownFrom(after, 'nextSibling'))) {
+        return mark(node, indexOf(last) + 1, 'before');
+      }
+    }
+    const child = after && (inward !== 'before' || !before) ? after : before;
     if (!child) return { inside: node };
     const leaf = child === after ? firstLeaf(after) : lastLeaf(before);
     if (isText(leaf)) return { node: leaf, offset: child === after ? 0 : leaf.length };
@@ -150,9 +158,13 @@
       const side = forward ? 0 : 1;
       return { anchor: { beside: object, side }, focus: { beside: object, side: 1 - side } };
     }
+    if (selected.collapsed) {
+      const caret = mark(focusNode, focusOffset, 'line');
+      return { anchor: caret, focus: { ...caret } };
+    }
     return {
       anchor: mark(anchorNode, anchorOffset, forward ? 'after' : 'before'),
-      focus: mark(focusNode, focusOffset, forward && !selected.collapsed ? 'before' : 'after'),
+      focus: mark(focusNode, focusOffset, forward ? 'before' : 'after'),
     };
   }
 

@@ -8,14 +8,13 @@
   // Input that fills an empty paragraph, so that nothing need keep it open any more.
   const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']);
 
-  // What may hold text without a paragraph around it; one of these that has a name is there once.
-  const bare = /^(BODY|TD|TH|BLOCKQUOTE|FORM|CENTER|DIV|SECTION|ARTICLE|MAIN|HEADER|FOOTER|ASIDE|NAV)$/;
-
-  // Bare text becomes a paragraph before it is split; so does the first text of an empty page.
+  // Bare text becomes a paragraph before it is split; so does the first text of an empty page. What
+  // has a name is there once, with the paragraph in it.
   function needsParagraph(unit, { inputType }) {
-    if (!unit || !bare.test(unit.container.tagName)) return false;
+    if (!unit || !dom.isBare(unit.container)) return false;
     const empty = () => unit.container === document.body && dom.isHollow(document.body);
-    if (inputType !== 'insertParagraph' && (inputType !== 'insertText' || !empty())) return false;
+    const begins = /^insert(Composition)?Text$/.test(inputType);
+    if (inputType !== 'insertParagraph' && (!begins || !empty())) return false;
     return !unit.block || unit.block.id !== '';
   }
   function makeParagraph(unit) {
@@ -53,9 +52,14 @@
     return isHolder(at) && !typedIn.has(at) ? at : null;
   }
 
+  // All of the page: what is typed over it begins a new one.
+  const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
+    startContainer === document.body && endContainer === document.body && startOffset === 0 &&
+    endOffset === document.body.childNodes.length;
+
   // What takes the place of selected text is to look as that did.
   function keepLooks(range) {
-    const [text] = velor.selection.textsIn(range);
+    const [text] = isAll(range) ? [] : velor.selection.textsIn(range);
     const looks = text ? Object.entries(velor.formats)
       .map(([name, format]) => [name, format.read(text.parentNode)]) : [];
     velor.deletion.remove(range);
@@ -95,11 +99,6 @@
   const isThere = ({ collapsed, startContainer, startOffset }) =>
     collapsed && goesOn?.node === startContainer && goesOn.offset === startOffset;
 
-  // All of the page: what is typed over it begins a new one.
-  const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
-    startContainer === document.body && endContainer === document.body && startOffset === 0 &&
-    endOffset === document.body.childNodes.length;
-
   // The first selected text and the place in it; null where something else comes first.
   function firstText(range) {
     const [text] = velor.selection.textsIn(range);
@@ -126,6 +125,7 @@
     if (!place) return false;
     const { text } = place;
     if (!range.collapsed) velor.blanks.release();
+    velor.blanks.watch();
     const end = put(data, place);
     if (!range.collapsed) {
       range.setStart(text, end);

@@ -67,13 +67,8 @@
     };
   }
 
-  const shownFrom = (node, side) => {
-    let at = node;
-    while (at && !dom.isShown(at)) at = at[side];
-    return at;
-  };
-  const firstShown = (node) => shownFrom(node.firstChild, 'nextSibling');
-  const lastShownChild = (node) => shownFrom(node.lastChild, 'previousSibling');
+  const firstShown = (node) => dom.shownFrom(node.firstChild, 'nextSibling');
+  const lastShownChild = (node) => dom.shownFrom(node.lastChild, 'previousSibling');
 
   // The unit of one leaf; null where the leaf is no part of any (a rule, space between blocks).
   function unitOf(leaf) {
@@ -97,11 +92,8 @@
   const objectUnit = (object) =>
     ({ container: object.parentNode, home: object, object, nodes: [object], block: object });
 
-  // What may hold text without a paragraph around it.
-  const bare = /^(BODY|TD|TH|LI|DD|BLOCKQUOTE|FORM|CENTER|DIV|SECTION|ARTICLE|MAIN|HEADER|FOOTER|ASIDE|NAV)$/;
-
-  // The place of a caret between two blocks, or at their edge, where no line is: [node, offset]; else
-  // null.
+  // The place of a caret between two blocks, or at their edge, where no line is: [node, offset];
+  // null elsewhere.
   function gapAt({ startContainer, startOffset, collapsed }) {
     if (!collapsed) return null;
     let [node, offset] = [startContainer, startOffset];
@@ -109,11 +101,9 @@
       if (!dom.isIgnorable(node)) return null;
       [node, offset] = [node.parentNode, velor.selection.indexOf(node)];
     }
-    if (!bare.test(node.tagName)) return null;
-    const beside = (child, side) =>
-      child && (dom.isShown(child) ? child : dom.neighbour(child, side));
-    const around = [beside(node.childNodes[offset - 1], 'previousSibling'),
-      beside(node.childNodes[offset], 'nextSibling')].filter(Boolean);
+    if (!dom.isBare(node) && !/^(LI|DD)$/.test(node.tagName)) return null;
+    const around = [dom.shownFrom(node.childNodes[offset - 1], 'previousSibling'),
+      dom.shownFrom(node.childNodes[offset], 'nextSibling')].filter(Boolean);
     return around.length && around.every(dom.isBlock) ? [node, offset] : null;
   }
 
@@ -126,10 +116,8 @@
     }
     const last = lastShownChild(node);
     if (!last) return dom.isBlock(node) ? unit(node, null) : unitOf(node);
-    const after = node.childNodes[offset];
-    const next = after && (dom.isShown(after) ? after : dom.neighbour(after, 'nextSibling'));
-    const before = node.childNodes[offset - 1];
-    const line = before && (dom.isShown(before) ? before : dom.neighbour(before, 'previousSibling'));
+    const next = dom.shownFrom(node.childNodes[offset], 'nextSibling');
+    const line = dom.shownFrom(node.childNodes[offset - 1], 'previousSibling');
     // At the end of a line before a block the caret is in that line.
     if (line && !dom.isBlock(line) && dom.isBlock(next)) return unitOf(lastShown(line));
     const leaf = next ? dom.firstLeaf(next) : dom.lastLeaf(last);

@@ -116,6 +116,14 @@ void Perform(BridgePage &page, const QString &step) {
     page.Type(value);
   } else if (verb == QStringLiteral("key")) {
     page.Press(QKeySequence::fromString(value, QKeySequence::PortableText));
+  } else if (verb == QStringLiteral("hold")) {
+    const QString name = value.section(QLatin1Char(' '), 0, 0);
+    page.Hold(QKeySequence::fromString(name, QKeySequence::PortableText),
+              value.section(QLatin1Char(' '), 1).toInt());
+  } else if (verb == QStringLiteral("compose")) {
+    page.Compose(value);
+  } else if (verb == QStringLiteral("commit")) {
+    page.Commit(value);
   } else if (verb == QStringLiteral("pasteHTML")) {
     page.Evaluate(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptText(value)));
   } else if (verb == QStringLiteral("pasteForeign") || verb == QStringLiteral("pasteText")) {

@@ -124,6 +124,44 @@ void BridgePage::Press(const QKeySequence &key) {
   AwaitKeys(before + 1);
 }
 
+void BridgePage::Hold(const QKeySequence &key, int repetitions) {
+  const int before = Evaluate(QStringLiteral("markup.keysUp()")).toInt();
+  QWidget *input = view_.focusProxy();
+  input->setFocus();
+  const QString text = key.toString().size() == 1 ? key.toString().toLower() : QString();
+  const int code = key[0].key();
+  for (int sent = 0; sent <= repetitions; ++sent) {
+    QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, text, sent > 0);
+    QCoreApplication::sendEvent(input, &press);
+  }
+  QKeyEvent release(QEvent::KeyRelease, code, Qt::NoModifier, text);
+  QCoreApplication::sendEvent(input, &release);
+  AwaitKeys(before + 1);
+}
+
+void BridgePage::Compose(const QString &preedit) {
+  const QInputMethodEvent::Attribute caret(QInputMethodEvent::Cursor,
+                                           static_cast<int>(preedit.size()), 1, {});
+  QInputMethodEvent event(preedit, {caret});
+  Send(event);
+}
+
+void BridgePage::Commit(const QString &text) {
+  QInputMethodEvent event;
+  event.setCommitString(text);
+  Send(event);
+}
+
+void BridgePage::Send(QInputMethodEvent &event) {
+  const int before = Evaluate(QStringLiteral("markup.composed()")).toInt();
+  view_.focusProxy()->setFocus();
+  QCoreApplication::sendEvent(view_.focusProxy(), &event);
+  EXPECT_TRUE(QTest::qWaitFor(
+      [this, before] { return Evaluate(QStringLiteral("markup.composed()")).toInt() > before; },
+      patience))
+      << "the page never saw the composition";
+}
+
 void BridgePage::Click(QPoint place) {
   QTest::mouseClick(view_.focusProxy(), Qt::LeftButton, Qt::NoModifier, place);
 }

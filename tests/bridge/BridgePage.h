@@ -3,6 +3,7 @@
 
 #include <QEvent>
 #include <QImage>
+#include <QInputMethodEvent>
 #include <QKeySequence>
 #include <QString>
 #include <QVariant>
@@ -25,6 +26,12 @@ class BridgePage {
   /// Real keys, as from a person.
   void Type(const QString &text);
   void Press(const QKeySequence &key);
+  /// A key that is held down: so many repetitions of it before it is let go.
+  void Hold(const QKeySequence &key, int repetitions);
+  /// What an input method has so far; nothing abandons it.
+  void Compose(const QString &preedit);
+  /// What an input method gives in the end.
+  void Commit(const QString &text);
   /// A click of the left button at a place in CSS pixels.
   void Click(QPoint place);
   /// A press or release of the left button.
@@ -37,6 +44,7 @@ class BridgePage {
 
  private:
   void AwaitKeys(int count);
+  void Send(QInputMethodEvent &event);
 
   QWebEngineView view_;
 };

@@ -87,6 +87,7 @@
 
   let following = { revision: 0, text: '', tellings: 0 };
   let keysUp = 0;
+  let composed = 0;
 
   globalThis.markup = {
     select() {
@@ -103,9 +104,14 @@
     countKeys() {
       keysUp = 0;
       addEventListener('keyup', () => { keysUp++; }, true);
+      composed = 0;
+      for (const type of ['compositionupdate', 'compositionend', 'beforeinput', 'input']) {
+        addEventListener(type, () => { composed++; }, true);
+      }
     },
     place: (selector) => document.querySelector(selector).getBoundingClientRect(),
     keysUp: () => keysUp,
+    composed: () => composed,
     // A drop of what another program lets go of.
     drop(data, clientX, clientY) {
       const dataTransfer = new DataTransfer();

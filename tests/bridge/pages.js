@@ -93,7 +93,7 @@
     [2, (depth) => (depth > 0 ? table(depth) : tagged(['p'], line()))],
     [1, () => definitions()],
     [2, (depth) => tagged(['blockquote'], depth > 0 ? blocks(depth - 1, 2) : line())],
-    [1, () => tagged(['pre'], `${text()}\n${text()}`)],
+    [1, () => tagged([oneOf(['pre', 'pre', 'xmp', 'listing'])], `${text()}\n${text()}`)],
     [1, () => tagged(['address'], line())],
     [2, (depth) => tagged(['div', looks()], depth > 0 ? blocks(depth - 1, 2) : line())],
     [1, (depth) => (velor.dom.writesStyles() ? tagged(['p'], line())

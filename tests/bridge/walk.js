@@ -27,7 +27,8 @@
     () => `<p>${pages.word()}</p><p>${pages.word()}</p>`,
     () => `<ul><li>${pages.word()}</li><li>${pages.word()}</li></ul>`,
     () => `<table><tbody><tr><td>${pages.word()}</td></tr></tbody></table>`,
-    () => '<img src="b.png">', () => `<a href="y.htm">${pages.word()}</a>`, () => pages.word(), () => `<h2>${pages.word()}</h2>`,
+    () => '<img src="b.png">', () => `<a href="y.htm">${pages.word()}</a>`,
+    () => pages.word(), () => `<h2>${pages.word()}</h2>`,
   ];
   const keys = [
     'Return', 'Return', 'Return', 'Shift+Return', 'Backspace', 'Backspace', 'Backspace', 'Del',
@@ -142,8 +143,10 @@
 
   function newFaults() {
     const faults = markup.faults().split(', ').filter(Boolean);
+    // Old pages have no other means for these.
+    const allowed = /^background-color|^font-weight|^font-style/;
     const styled = [...document.querySelectorAll('body [style]')].filter((element) =>
-      [...element.style].some((property) => !/^background-color|^font-weight|^font-style/.test(property)));
+      [...element.style].some((property) => !allowed.test(property)));
     if (velor.dom.writesStyles()) {
       if (document.querySelector('font, [align]')) faults.push('a FONT or align in an HTML5 page');
     } else if (styled.length) {
@@ -193,7 +196,8 @@
       if (old.inside) {
         return words === old.before + old.behind ? [] : ['a deletion took other words'];
       }
-      return all.length - words.length <= most || objects() < count ? [] : ['a deletion at a caret took much'];
+      return all.length - words.length <= most || objects() < count
+        ? [] : ['a deletion at a caret took much'];
     }
     if (/Ctrl\+[ZY]/.test(value)) return [];
     if (words !== all) return ['a key took words'];
@@ -293,7 +297,7 @@
       faults.push(...repeated(now));
       trail.push(look());
       if (!faults.length) return '';
-      return `${faults.join(', ')}\n ${trail.at(-4)?.selected ?? ''}\n  ${step.before.selected}\n  ${told(step.action)}\n  ${now.selected}`;
+      return [faults.join(', '), step.before.selected, told(step.action), now.selected].join('\n  ');
     },
     // All the way back to the loaded page and on to the end.
     wayBack() {
