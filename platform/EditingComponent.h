@@ -43,7 +43,7 @@ class EditingListener {
   virtual void MouseNotified(int clientX, int clientY) = 0;
   /// Something a person should read in the status bar (the page's engine stopped, came back ...).
   virtual void ComponentReported(const QString &message) = 0;
-  /// Files were dropped on the page, paths in logic form. The caret is where they were dropped; the
+  /// Files were dropped on the page or pasted, paths in logic form. The caret is where they were dropped; the
   /// component does nothing else with them.
   virtual void FilesDropped(const QStringList &) {}
 };

@@ -157,7 +157,10 @@
     event.preventDefault();
     const { clipboardData } = event;
     const says = (type) => clipboardData.getData(type).trim() !== '';
-    if (says('text/html') || says('text/plain')) insert(clipboardData, 'insertFromPaste');
+    // A file manager gives the names of files as text too.
+    const files = /^file:/im.test(clipboardData.getData('text/uri-list'));
+    const text = says('text/plain') && !files;
+    if (says('text/html') || text) insert(clipboardData, 'insertFromPaste');
     else velor.host?.pictureWanted();
   }
 
