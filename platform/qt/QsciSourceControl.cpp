@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/QsciSourceControl.h"
 
+#include "platform/qt/FileDrops.h"
 #include "platform/qt/SourceColors.h"
 #include "platform/qt/SourceLexer.h"
 #include "platform/qt/SourceMarks.h"
@@ -99,6 +100,8 @@ QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
   editor_->setReadOnly(access == SourceAccess::View);
   // A long source is styled as far as it is seen, and the rest when nothing else is to be done.
   Send(QsciScintilla::SCI_SETIDLESTYLING, QsciScintilla::SC_IDLESTYLING_ALL);
+  LeaveFilesToTheWindow(*editor_);
+  LeaveFilesToTheWindow(*editor_->viewport());
   FollowPalette();
   editor_->installEventFilter(this);
   connect(editor_, &QsciScintilla::linesChanged, this, &QsciSourceControl::FitLineNumbers);

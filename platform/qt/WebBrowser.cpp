@@ -4,6 +4,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/qt/BaseElement.h"
 #include "platform/qt/BrowserPage.h"
+#include "platform/qt/FileDrops.h"
 
 #include <QAction>
 #include <QFile>
@@ -68,6 +69,7 @@ WebBrowser::WebBrowser(QWidget *parent)
     page_->action(refused)->setVisible(false);
   }
   view_->setPage(page_);
+  LeaveFilesToTheWindow(*view_);
 
   connect(profile_.get(), &QWebEngineProfile::downloadRequested, this,
           [this](QWebEngineDownloadRequest *download) {

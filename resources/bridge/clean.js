@@ -34,9 +34,9 @@
     ['SUB', ({ verticalAlign }) => verticalAlign === 'sub'],
   ];
   // A way to write "no emphasis" that some programs put around everything.
-  const undone = (tag, { fontWeight, fontStyle }) =>
-    (/^(B|STRONG)$/.test(tag) && /^(normal|400)$/.test(fontWeight)) ||
-    (/^(I|EM)$/.test(tag) && fontStyle === 'normal');
+  const undone = ({ tagName, style }) =>
+    (/^(B|STRONG)$/.test(tagName) && /^(normal|400)$/.test(style.fontWeight)) ||
+    (/^(I|EM)$/.test(tagName) && style.fontStyle === 'normal');
 
   const isBlock = (node) => dom.isElement(node) && dom.isBlock(node);
   const hasText = (nodes) => nodes.some((node) => {
@@ -108,7 +108,7 @@
   }
 
   function emphasised(nodes, element, inside) {
-    if (!nodes.length) return nodes;
+    if (!nodes.length || !element.hasAttribute('style')) return nodes;
     const names = styled.filter(([, says]) => says(element.style)).map(([tag]) => tag)
       .filter((tag) => !inside.has(tag) && !(tag === 'U' && inside.has('A')));
     return names.reduce((content, tag) => wrapped(content, tag), nodes);
@@ -131,7 +131,7 @@
     if (!dom.isElement(node) || dropped.has(node.tagName)) return [];
     const tag = node.tagName;
     const kind = same[tag] ?? tag;
-    const plain = undone(tag, node.style) || inside.has(kind) && emphasis.has(tag);
+    const plain = undone(node) || inside.has(kind) && emphasis.has(tag);
     const around = new Set([...inside, ...(plain ? [] : [kind])]);
     if (/^(H[1-6]|TH)$/.test(tag)) around.add('B');
     if (wholes.has(tag)) return whole(node);

@@ -58,14 +58,16 @@
     velor.schedulePush();
   }
 
-  // Blanks that a page would not show: those before a line and all but the last of a run.
-  const blanksKept = (line) => line.replace(/\t/g, '    ').replace(/^ | (?= )/g, '\u00a0');
+  // Blanks that a page would not show: all but the last of a run, and those before a line. One
+  // before the first line parts it from the text that it joins.
+  const runKept = (line) => line.replace(/\t/g, '    ').replace(/ (?= )/g, '\u00a0');
+  const blanksKept = (line) => runKept(line).replace(/^ /, '\u00a0');
 
   // Lines of text: paragraphs where empty lines part them, else lines of one; items in a list.
   function lines(text, inList) {
     const fragment = document.createDocumentFragment();
     const broken = (block) => block.split('\n').flatMap((line, index) =>
-      (index ? [dom.create('BR'), blanksKept(line)] : [blanksKept(line)]));
+      (index ? [dom.create('BR'), blanksKept(line)] : [runKept(line)]));
     const ends = inList ? /\n+/ : /\n(?:[ \t]*\n)+/;
     const blocks = text.replace(/\r\n?/g, '\n').replace(/^\n+|\n+$/g, '').split(ends);
     if (blocks.length < 2) {
@@ -145,7 +147,10 @@
     event.preventDefault();
     const { clipboardData } = event;
     const says = (type) => clipboardData.getData(type).trim() !== '';
-    if (says('text/html') || says('text/plain')) insert(clipboardData, 'insertFromPaste');
+    // A file manager gives the names of files as text too.
+    const files = /^file:/im.test(clipboardData.getData('text/uri-list'));
+    const text = says('text/plain') && !files;
+    if (says('text/html') || text) insert(clipboardData, 'insertFromPaste');
     else velor.host?.pictureWanted();
   }
 

@@ -21,6 +21,6 @@
 
   velor.setDetails = (on) => {
     velor.adopt(sheet, on);
-    velor.showGlyphs(on);
+    velor.glyphs.show(on);
   };
 })();

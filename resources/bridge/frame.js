@@ -17,9 +17,13 @@
     ['sw', [0, 1]], ['s', [0.5, 1]], ['se', [1, 1]],
   ]);
 
-  // The frame's box in the viewport.
+  // The frame's box in the viewport: around an object that shows nothing, around the sign for it.
+  // null where that is not seen either.
   function frameOf(object) {
-    const { left, top, right, bottom } = velor.boxes.boxOf(object);
+    const own = velor.boxes.boxOf(object);
+    const seen = own.width || own.height ? own : velor.glyphs.boxOf(object);
+    if (!seen) return null;
+    const { left, top, right, bottom } = seen;
     const more = (size) => Math.max(0, least - size) / 2;
     const [x, y] = [more(right - left), more(bottom - top)];
     return { left: Math.round(left - x), top: Math.round(top - y),
@@ -121,12 +125,12 @@
   function redraw() {
     const object = velor.objects.selected();
     watch(object);
-    if (!object) {
+    const frame = object && frameOf(object);
+    if (!frame) {
       pointing = '';
       velor.overlay.clear('frame');
       return;
     }
-    const frame = frameOf(object);
     const around = Math.ceil(handle / 2);
     const area = { left: frame.left - around, top: frame.top - around,
       right: frame.right + around, bottom: frame.bottom + around };

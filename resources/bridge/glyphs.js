@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Show details: the signs for what no style sheet can mark, since it has no box to hang a glyph on:
-// breaks, comments and scripts. They are drawn over the page, those in sight only.
+// Show details: the signs for what no style sheet can mark, since it has no box to hang a glyph on
+// (breaks, comments, scripts, hidden fields) or no name that a rule could give (tags that HTML does
+// not know). They are drawn over the page, those in sight only.
 (() => {
   'use strict';
   const { velor } = globalThis;
@@ -15,47 +16,68 @@
       `${content}</svg>`;
     return { image: `url("data:image/svg+xml,${encodeURIComponent(svg)}")`, width, height };
   };
-  const badge = (width, text) => picture(width,
+  const mark = (width, text) => picture(width,
     `<rect x="0.5" y="0.5" width="${width - 1}" height="${height - 1}" rx="1.5" fill="#fdf6d8"` +
     ' stroke="#b58900"/><text x="50%" y="9" font-family="sans-serif" font-size="9"' +
     ` text-anchor="middle" fill="#7a5c00">${text}</text>`);
-  const signs = {
-    break: picture(12, '<path d="M10 2v5H3M5.5 4.5L3 7l2.5 2.5" fill="none" stroke="#3465a4"/>'),
-    comment: badge(16, '!--'),
-    script: badge(34, 'script'),
+  const arrow = (path) => picture(12, `<path d="${path}" fill="none" stroke="#3465a4"/>`);
+  const breaks = {
+    ltr: arrow('M10 2v5H3M5.5 4.5L3 7l2.5 2.5'), rtl: arrow('M2 2v5H9M6.5 4.5L9 7l-2.5 2.5'),
   };
+  const badges = new Map();
+  function badge(text) {
+    const short = text.replace(/[^\w:.-]/g, '').slice(0, 12);
+    if (!badges.has(short)) badges.set(short, mark(Math.ceil(6 + 5.7 * short.length), short));
+    return badges.get(short);
+  }
+  const comment = mark(16, '!--');
 
+  const silent = /^(BASE|LINK|MAP|META|NOSCRIPT|SCRIPT|STYLE|TEMPLATE|TITLE)$/;
+  const boxless = /^(APPLET|EMBED|OBJECT|VIDEO|AUDIO)$/;
   function signOf(node) {
-    if (node.nodeType === Node.COMMENT_NODE) return signs.comment;
-    if (dom.isBreak(node)) return signs.break;
-    return dom.isElement(node) && node.tagName === 'SCRIPT' ? signs.script : null;
+    if (node.nodeType === Node.COMMENT_NODE) return comment;
+    if (!dom.isElement(node)) return null;
+    const { tagName, localName } = node;
+    if (tagName === 'BR') return breaks[getComputedStyle(node.parentElement).direction];
+    if (tagName === 'INPUT') return node.type === 'hidden' ? badge('hidden') : null;
+    const unknown = node instanceof HTMLUnknownElement || localName.includes('-');
+    const marked = silent.test(tagName) || unknown ||
+      boxless.test(tagName) && !velor.boxes.firstBoxOf(node)?.width;
+    return marked ? badge(localName) : null;
   }
 
-  // Where something stands that has no box: at the start of what follows it, else at the end of what
-  // is before it, else in its parent.
-  function placeOf(node) {
-    const boxed = (side) => {
-      const at = dom.neighbour(node, side);
-      if (!at) return null;
-      const range = document.createRange();
-      range.selectNode(at);
-      return range.getClientRects()[0] ?? null;
-    };
-    const next = boxed('nextSibling');
-    if (next) return { x: next.left, y: next.top };
-    const before = boxed('previousSibling');
-    if (before) return { x: before.right, y: before.top };
-    const { left, top } = node.parentElement.getBoundingClientRect();
-    return { x: left, y: top };
+  // Where something stands: at its own start, else at the start of what follows it, else at the end
+  // of what is before it, else in its parent.
+  function placeOf(node, { width }) {
+    const isLtr = getComputedStyle(node.parentElement).direction === 'ltr';
+    const startOf = ({ left, right, top }) => ({ x: isLtr ? left : right - width, y: top });
+    const endOf = ({ left, right, top }) => ({ x: isLtr ? right : left - width, y: top });
+    const { boxOf, firstBoxOf } = velor.boxes;
+    const boxed = (at) => at && firstBoxOf(at);
+    const own = dom.isElement(node) && boxed(node);
+    if (own?.width) return startOf(own);
+    const next = boxed(dom.neighbour(node, 'nextSibling'));
+    if (next) return startOf(next);
+    const before = boxed(dom.neighbour(node, 'previousSibling'));
+    return before ? endOf(before) : startOf(boxOf(node.parentElement));
   }
-  function layerOf(node, sign) {
-    if (sign !== signs.break) {
-      // Above the line that it stands before, so that the text can be read.
-      const { x, y } = placeOf(node);
-      return { ...sign, x, y: Math.max(-scrollY, y + overlap - height) };
+  function layerOf(node, sign, others) {
+    if (!dom.isBreak(node)) {
+      // Above the line that it stands before, so that the text can be read; beside another one.
+      const place = placeOf(node, sign);
+      const y = Math.max(-scrollY, place.y + overlap - height);
+      let { x } = place;
+      const inTheWay = (other) => Math.abs(other.y - y) < height && other.x < x + sign.width &&
+        x < other.x + other.width;
+      for (let other = others.find(inTheWay); other; other = others.find(inTheWay)) {
+        x = other.x + other.width + 1;
+      }
+      return { ...sign, node, x, y };
     }
-    const box = node.getClientRects()[0];
-    return box && { ...sign, x: box.left, y: box.top + (box.height - height) / 2 };
+    const box = velor.boxes.firstBoxOf(node);
+    if (!box) return null;
+    const x = sign === breaks.ltr ? box.left : box.right - sign.width;
+    return { ...sign, node, x, y: box.top + (box.height - height) / 2 };
   }
 
   // The nodes in sight lie between those at the viewport's corners.
@@ -74,7 +96,7 @@
   }
 
   function layers() {
-    const found = [];
+    const signs = [];
     const walker = document.createTreeWalker(
       document.body, NodeFilter.SHOW_ELEMENT | NodeFilter.SHOW_COMMENT | NodeFilter.SHOW_TEXT);
     const { first, last } = inSight();
@@ -87,15 +109,16 @@
       if (last && rest > 50 && last.compareDocumentPosition(node) ===
           Node.DOCUMENT_POSITION_FOLLOWING) rest = 50;
       const sign = signOf(node);
-      const layer = sign && layerOf(node, sign);
-      if (layer) found.push(layer);
+      const layer = sign && layerOf(node, sign, signs);
+      if (layer) signs.push(layer);
     }
-    return found;
+    return signs;
   }
 
   let shown = false;
+  let found = [];
   function redraw() {
-    const found = shown && velor.editable() ? layers() : [];
+    found = shown && velor.editable() ? layers() : [];
     if (!found.length) {
       velor.overlay.clear('details');
       return;
@@ -104,9 +127,19 @@
     velor.overlay.draw('details', { left: 0, top: 0, right, bottom }, found);
   }
 
-  velor.showGlyphs = (on) => {
-    shown = on;
-    velor.overlay.follow();
+  const boxOfLayer = ({ x, y, width }) =>
+    ({ left: x, top: y, right: x + width, bottom: y + height, width, height });
+  velor.glyphs = {
+    show(on) {
+      shown = on;
+      velor.overlay.follow();
+    },
+    // The node whose sign a mouse event is on, and where a node's sign is; null where none is seen.
+    at: (event) => found.find((layer) => velor.boxes.holds(boxOfLayer(layer), event))?.node ?? null,
+    boxOf(node) {
+      const layer = found.find((each) => each.node === node);
+      return layer ? boxOfLayer(layer) : null;
+    },
   };
   velor.overlay.add(redraw);
 })();

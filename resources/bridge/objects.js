@@ -44,6 +44,8 @@
   function at(event) {
     const { target, clientX: x, clientY: y } = event;
     if (!velor.editable() || !(target instanceof Element)) return null;
+    const sign = velor.glyphs.at(event);
+    if (dom.isObject(sign)) return sign;
     const inside = [...document.querySelectorAll(closed)]
       .filter((element) => velor.boxes.holds(velor.boxes.boxOf(element), event)).at(-1);
     if (inside) return inside;

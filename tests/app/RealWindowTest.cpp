@@ -13,6 +13,7 @@
 #include "tests/app/RealWindowFixture.h"
 #include "tests/component/ComponentFixture.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
@@ -93,6 +94,23 @@ TEST_F(RealEditing, PagesDroppedOnThePageOrTheWindowOpen) {
   DropFiles(window, {folder.FilePath(QStringLiteral("third.HTM"))}, {20, 20});
   EXPECT_TRUE(WaitFor([&] { return Tabs().count() == 3; }));
   EXPECT_TRUE(Holds(page, QStringLiteral("<p>One</p>"))) << Seen(page);
+}
+
+TEST_F(RealEditing, PagesDroppedOnASourceOrThePreviewOpenAndLeaveThoseAsTheyAre) {
+  frmMain &page = Open(PageFile, Plain);
+  Write(QStringLiteral("other.html"), "<p>Other</p>");
+  Write(QStringLiteral("third.html"), "<p>Third</p>");
+  page.ChangeMode(3);
+  auto &source = *window.findChild<frmCodeEditor *>();
+  auto *text = source.findChild<QAbstractScrollArea *>();
+  DropFiles(*text->viewport(), {folder.FilePath(QStringLiteral("other.html"))}, {20, 20});
+  EXPECT_TRUE(WaitFor([&] { return Tabs().count() == 2; }));
+  EXPECT_FALSE(source.Code().Text().contains(QStringLiteral("other.html")));
+  page.ChangeMode(4);
+  const frmBrowser &preview = *window.findChild<frmBrowser *>();
+  DropFiles(*preview.findChild<QWebEngineView *>(), {folder.FilePath(QStringLiteral("third.html"))},
+            {20, 20});
+  EXPECT_TRUE(WaitFor([&] { return Tabs().count() == 3; }));
 }
 
 TEST_F(RealEditing, OtherFilesDroppedChangeNothing) {

@@ -86,6 +86,57 @@ TEST_F(Details, MarkBreaksCommentsAndScripts) {
   EXPECT_TRUE(SignsCome(0));
 }
 
+TEST_F(Details, MarkWhatIsHiddenAndWhatHtmlDoesNotKnow) {
+  Load(
+      QStringLiteral("<form><input type='hidden' name='a'><input></form><style>p {}</style>"
+                     "<o:p>text</o:p><p>one<embed width='9' height='9'></p><map name='m'></map>"));
+  Evaluate(QStringLiteral("velor.setDetails(true)"));
+  EXPECT_TRUE(SignsCome(5));
+  for (const char *text : {"hidden", "style", "o:p", "embed", "map"}) {
+    EXPECT_TRUE(Comes(QStringLiteral("decodeURIComponent(getComputedStyle(document.head, "
+                                     "'::before').backgroundImage).includes('>%1</text>')")
+                          .arg(QString::fromLatin1(text))))
+        << text;
+  }
+  ExpectUntouchedPage();
+}
+
+TEST_F(Details, SelectAnObjectThatShowsNothingByItsSign) {
+  Load(QStringLiteral("<p>one<embed width='9' height='9'></p><p>two</p>"));
+  Evaluate(QStringLiteral("velor.setDetails(true)"));
+  ASSERT_TRUE(SignsCome(1));
+  const QVariantMap sign =
+      Evaluate(QStringLiteral("velor.glyphs.boxOf(document.querySelector('embed'))")).toMap();
+  page_.Click({sign[QStringLiteral("left")].toInt() + 4, sign[QStringLiteral("top")].toInt() + 4});
+  EXPECT_TRUE(Comes(QStringLiteral("velor.state().element.tag === 'EMBED'")));
+  EXPECT_TRUE(
+      Comes(QStringLiteral("getComputedStyle(document.head, '::after').content !== 'none'")));
+  page_.Press(QKeySequence(Qt::Key_Delete));
+  EXPECT_TRUE(Comes(QStringLiteral("document.querySelector('embed') === null")));
+}
+
+TEST_F(Details, PutSignsSideBySide) {
+  Load(QStringLiteral("<p>one</p><!-- a --><!-- b --><script>x</script><p>two</p>"));
+  Evaluate(QStringLiteral("velor.setDetails(true)"));
+  ASSERT_TRUE(SignsCome(3));
+  EXPECT_TRUE(
+      Evaluate(QStringLiteral("{ const [a, b, c] = [...document.body.childNodes].slice(1, 4)"
+                              "    .map(velor.glyphs.boxOf);"
+                              "  a.right < b.left && b.right < c.left && a.top === c.top }"))
+          .toBool());
+}
+
+TEST_F(Details, LieBesideTextFromRightToLeft) {
+  Load(QStringLiteral("<p dir='rtl'>\u05e9\u05dc\u05d5\u05dd<br>\u05e9</p>"));
+  Evaluate(QStringLiteral("velor.setDetails(true)"));
+  ASSERT_TRUE(SignsCome(1));
+  EXPECT_TRUE(Evaluate(QStringLiteral("{ const range = document.createRange();"
+                                      "  range.selectNode(document.querySelector('p').firstChild);"
+                                      "  velor.glyphs.boxOf(document.querySelector('br')).right <="
+                                      "      range.getBoundingClientRect().left }"))
+                  .toBool());
+}
+
 TEST_F(Details, FollowWhatIsTyped) {
   Load(QStringLiteral("<p>one</p>"));
   Evaluate(
@@ -106,8 +157,8 @@ TEST_F(Details, DrawOnlyWhatIsInSightOfALongPage) {
   ASSERT_TRUE(Comes(signs + QStringLiteral(" > 5")));
   EXPECT_LT(Evaluate(signs).toInt(), 60);
   Evaluate(QStringLiteral("scrollTo(0, 50000)"));
-  EXPECT_TRUE(Comes(QStringLiteral(
-      "parseFloat(getComputedStyle(document.head, '::before').top) === 50000")));
+  EXPECT_TRUE(Comes(
+      QStringLiteral("parseFloat(getComputedStyle(document.head, '::before').top) === 50000")));
   EXPECT_GT(Evaluate(signs).toInt(), 5);
   EXPECT_LT(Evaluate(signs).toInt(), 60);
 }

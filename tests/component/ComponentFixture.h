@@ -36,6 +36,7 @@ class RecordingListener : public EditingListener {
     mouse = {clientX, clientY};
     Note(++mouseNotices, onMouse);
   }
+  void FilesDropped(const QStringList &paths) override { files = paths; }
   void ComponentReported(const QString &message) override { reports.push_back(message); }
 
   int completions = 0;
@@ -45,6 +46,7 @@ class RecordingListener : public EditingListener {
   QPoint menuPosition;
   QPoint mouse;
   std::vector<QString> reports;
+  QStringList files;
   std::function<void()> onComplete;
   std::function<void()> onDisplayChange;
   std::function<void()> onMenu;

@@ -138,6 +138,17 @@ TEST_F(Pasting, ALongTableIsPastedAndTakenBackWhole) {
   ExpectOneStep(before);
 }
 
+TEST_F(Pasting, ATableOfMillionsOfCellsIsRefusedWithWords) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  const std::string before = Body();
+  listener_.reports.clear();
+  const QString row =
+      QStringLiteral("<TR>") + QStringLiteral("<TD></TD>").repeated(1800) + QStringLiteral("</TR>");
+  Paste(QStringLiteral("<Table>") + row.repeated(1800) + QStringLiteral("</Table>"));
+  EXPECT_TRUE(WaitFor([&] { return !listener_.reports.empty(); }));
+  EXPECT_EQ(Body(), before);
+}
+
 }  // namespace
 
 }  // namespace velor

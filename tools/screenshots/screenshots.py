@@ -3,7 +3,8 @@
 """Screenshots of every window of the program, idle and with the pointer on a control, for one
 palette and scale.
 
-Usage: screenshots.py RUN_FOLDER OUT_FOLDER light|dark SCALE_PERCENT
+Usage: screenshots.py RUN_FOLDER OUT_FOLDER light|dark SCALE_PERCENT [SESSION...]
+Sessions are recovery, start, main and objects; without any, all of them.
 """
 import os
 import shutil
@@ -226,7 +227,7 @@ def start_up(photos):
     photos.shot("folder-picker")
 
 
-def main(run_folder, out, palette, scale):
+def main(run_folder, out, palette, scale, *wanted):
     factor = int(scale) / 100
 
     def session(name, left_out, *scenes):
@@ -284,11 +285,15 @@ def main(run_folder, out, palette, scale):
             program.kill()
             shutil.rmtree(scratch, ignore_errors=True)
 
-    recovery()
-    session("start", ("eImages",), start_up)
-    session("main", (), main_window, dialogs, modes)
-    session("objects", (), objects)
+    sessions = {
+        "recovery": recovery,
+        "start": lambda: session("start", ("eImages",), start_up),
+        "main": lambda: session("main", (), main_window, dialogs, modes),
+        "objects": lambda: session("objects", (), objects),
+    }
+    for name in wanted or sessions:
+        sessions[name]()
 
 
 if __name__ == "__main__":
-    main(*(os.path.abspath(argument) for argument in sys.argv[1:3]), *sys.argv[3:5])
+    main(*(os.path.abspath(argument) for argument in sys.argv[1:3]), *sys.argv[3:])

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/editing/EditorInput.h"
 
+#include "platform/qt/FileDrops.h"
+
 #include <QDropEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QWebEngineView>
 #include <QWheelEvent>
 
@@ -39,13 +40,6 @@ bool MayWait(QEvent::Type type) {
     default:
       return false;
   }
-}
-
-QStringList LocalFiles(const QMimeData *data) {
-  QStringList paths;
-  for (const QUrl &url : data != nullptr ? data->urls() : QList<QUrl>())
-    if (url.isLocalFile()) paths += url.toLocalFile();
-  return paths;
 }
 
 }  // namespace

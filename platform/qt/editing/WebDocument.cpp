@@ -6,6 +6,14 @@
 
 namespace velor {
 
+namespace {
+
+/// The engine takes minutes and all memory for millions of cells, and nobody could stop it; this
+/// many, ends included, it shows in seconds.
+constexpr qsizetype mostTags = 400'000;
+
+}  // namespace
+
 class WebTextRange : public TextRange {
  public:
   explicit WebTextRange(WebEditor &editor) : editor_(editor) {}
@@ -13,6 +21,10 @@ class WebTextRange : public TextRange {
   void Collapse() override { collapsed_ = true; }
   HtmlElement ParentElement() const override { return editor_.snapshot_.element; }
   void PasteHTML(const QString &html) override {
+    if (html.count(u'<') > mostTags) {
+      editor_.Report(QStringLiteral("That is too large to be put into a page."));
+      return;
+    }
     if (collapsed_) editor_.Run(QStringLiteral("getSelection().collapseToStart()"));
     editor_.Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(html)));
   }

@@ -3,11 +3,14 @@
 
 #include "platform/EditingCommands.h"
 #include "platform/Paths.h"
+#include "platform/qt/FileDrops.h"
 #include "platform/qt/editing/BridgeScript.h"
 #include "platform/qt/editing/PastedPicture.h"
 #include "platform/qt/editing/WebDocument.h"
 
+#include <QClipboard>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -91,6 +94,8 @@ void WebEditor::ConnectView() {
   };
   QObject::connect(view, &EngineView::PictureWanted, [this] {
     notices_.Post(Notice::Picture, [this] {
+      const QStringList files = LocalFiles(QGuiApplication::clipboard()->mimeData());
+      if (!files.isEmpty()) return TakeFiles(files);
       const QString markup = PastedPicture(nativePath_);
       if (!markup.isEmpty()) Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(markup)));
     });
@@ -109,14 +114,16 @@ void WebEditor::ConnectView() {
   });
   QObject::connect(view, &EngineView::FilesDropped, [this](const QStringList &files, QPoint place) {
     Run(QStringLiteral("velor.caretAt(%1,%2)").arg(place.x()).arg(place.y()));
-    QStringList paths;
-    for (const QString &file : files) paths += ToLogic(file);
-    notices_.Post(Notice::Drop, [this, paths] {
-      if (listener_ != nullptr) listener_->FilesDropped(paths);
-    });
+    notices_.Post(Notice::Drop, [this, files] { TakeFiles(files); });
   });
   // Completion is told before the first input reaches the page.
   QObject::connect(view, &EngineView::InputComing, [this] { notices_.Deliver(); });
+}
+
+void WebEditor::TakeFiles(const QStringList &nativePaths) {
+  QStringList paths;
+  for (const QString &file : nativePaths) paths += ToLogic(file);
+  if (listener_ != nullptr) listener_->FilesDropped(paths);
 }
 
 QWidget *WebEditor::Widget() {

@@ -126,6 +126,8 @@ class WebEditor : public EditingComponent {
   void MirrorTaken();
   void Died();
   void Report(const QString &message);
+  /// Files were dropped or pasted.
+  void TakeFiles(const QStringList &nativePaths);
 
   void Run(const QString &expression);
 
