@@ -25,14 +25,16 @@ void PrintTo(const CostlyEdit &edit, std::ostream *out) {
 
 const std::vector<CostlyEdit> &CostlyEdits() {
   static const QByteArray blockInTable =
-      "<TABLE border=2>\n<PRE>\nFirst lines\n<TR><TD> A cell </td></tr>\nMore of them\n</PRE>\n"
-      "</TABLE>\n";
+      "<TABLE border=2>\n<PRE>\nThe text of a block that stands first\n<TR><TD> A cell </td></tr>\n"
+      "More words of the table's, which do not belong there - and no block's\n</PRE>\n</TABLE>\n";
   static const QByteArray textBeforeFrames =
       "html>\n<head>\n<title>A b</title>\n</head>\n<frameset rows='25,*'>\n<frame src=a.htm>\n"
       "</frameset>\n</html>\n";
   static const QByteArray linkThatGoesOn =
-      "<div>\n<div>\n<div><h1><a id=\"a\"/>One two</h1></div>\n</div>\n<p>three</p>\n<dl><dt>four"
-      "</dt></dl>\n</div>\n";
+      "<div>\n<div>\n<div><h1><a id=\"a\"/>One two</h1></div>\n</div>\n" +
+      QByteArray("<div>\n<p>\n<span>three</span>\n</p>\n<dl><dt>four</dt></dl>\n</div>\n")
+          .repeated(12) +
+      "</div>\n";
   static const QByteArray commentInRow =
       "<table><tr>lost words<!-- c --><p>more of them\n</table>\n<p>&eacute;";
   static const QByteArray textWithoutEnd =
