@@ -214,7 +214,7 @@ std::optional<SavedPage> FaithfulPage::Moved(const QString &wantedAgain,
   if (!patches) return std::nullopt;
   if (verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wantedAgain) != wantedAgain)
     return std::nullopt;
-  return Splice(*patches, SaveRung::Edits);
+  return Splice(Smallest(*patches, wantedAgain, verifier), SaveRung::Edits);
 }
 
 /// Leaves out what the document can do without: first halves of the patches, then smaller parts.

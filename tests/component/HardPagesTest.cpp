@@ -37,6 +37,9 @@ const std::vector<CostlyEdit> &CostlyEdits() {
       "</div>\n";
   static const QByteArray commentInRow =
       "<table><tr>lost words<!-- c --><p>more of them\n</table>\n<p>&eacute;";
+  static const QByteArray textBeforeList =
+      "<h2>&nbsp;</h2>\n\n<a id=\"x\"></a> For words of bare text\n\n<dl "
+      "class=\"y\">\n<dt>one</dt>\n</dl>\n<p>";
   static const QByteArray textWithoutEnd =
       "<P>one<table><tr><td>two</td></tr><plaintext>three <b>four</b>\n</plaintext>\n";
   static const std::vector<CostlyEdit> edits = {
@@ -46,6 +49,7 @@ const std::vector<CostlyEdit> &CostlyEdits() {
       {"a first word before tags that a parser ignores", textBeforeFrames, "bold"},
       {"a heading with the tag of a link that goes on", linkThatGoesOn, "delete-paragraph"},
       {"a row with a comment behind text that does not belong there", commentInRow, "table-row"},
+      {"a paragraph begun in bare text before a list", textBeforeList, "enter"},
       {"a row before text that never ends", textWithoutEnd, "table-row"},
   };
   return edits;
