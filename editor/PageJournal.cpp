@@ -22,6 +22,9 @@ constexpr std::chrono::milliseconds pause = 150ms;
 constexpr std::chrono::milliseconds longestDelay = 600ms;
 /// Whoever rests this long does not wait for a key to show.
 constexpr std::chrono::milliseconds idle = 500ms;
+/// After this a moment between two keys is used to bring the journal to the disk. They come about
+/// once a second.
+constexpr std::chrono::milliseconds longestUnsynced = 500ms;
 
 }  // namespace
 
@@ -38,12 +41,21 @@ void PageJournal::Follow() {
   // Before it is settled for the first time the page is still being made.
   if (!journal_ || !settled_) return;
   const QString document = component_.Memory().document;
-  if (hasJournal_ ? document == written_ : IsSettled(document)) return;
-  if (!sinceChange_.isValid()) sinceChange_.start();
-  const std::chrono::milliseconds left =
-      longestDelay - std::chrono::milliseconds(sinceChange_.elapsed());
-  writing_.start(std::clamp(left, 0ms, pause));
-  resting_.start(idle);
+  if (hasJournal_ ? document != written_ : !IsSettled(document)) {
+    if (!sinceChange_.isValid()) sinceChange_.start();
+    const std::chrono::milliseconds left =
+        longestDelay - std::chrono::milliseconds(sinceChange_.elapsed());
+    writing_.start(std::clamp(left, 0ms, pause));
+    resting_.start(idle);
+  }
+  if (component_.IsIdle()) UseTheMoment();
+}
+
+void PageJournal::UseTheMoment() {
+  if (writing_.isActive()) Write();
+  if (!sinceWrite_.isValid() || !sinceWrite_.hasExpired(longestUnsynced.count())) return;
+  sinceWrite_.invalidate();
+  Attempt([this] { journal_->Sync(); });
 }
 
 bool PageJournal::Catch() {
@@ -71,6 +83,7 @@ void PageJournal::Discard() {
   writing_.stop();
   resting_.stop();
   sinceChange_.invalidate();
+  sinceWrite_.invalidate();
   if (hasJournal_) journal_->Remove();
   hasJournal_ = false;
 }
@@ -97,12 +110,14 @@ void PageJournal::Write() {
   if (hasJournal_ && page.page.document == written_) return;
   if (IsSettled(page.page.document) && !saveFailed_) return Discard();
   if (!Attempt([&] { journal_->Write(page); })) return;
+  if (!sinceWrite_.isValid()) sinceWrite_.start();
   hasJournal_ = true;
   written_ = page.page.document;
 }
 
 void PageJournal::Rest() {
   resting_.stop();
+  sinceWrite_.invalidate();
   if (hasJournal_) Attempt([this] { journal_->Rest(); });
 }
 

@@ -27,6 +27,7 @@ class FakeJournals : public Journals {
   std::vector<JournalledPage> Written() const;
   /// Every Write raises this while it is set.
   std::optional<ErrorNumber> writeFailure;
+  int syncs = 0;
   int rests = 0;
 
  private:

@@ -68,10 +68,13 @@ class JournalFile : public Journal {
     last_ = page;
   }
 
+  void Sync() override {
+    if (file_.IsOpen() && !SyncFile(calls_, file_.Number())) throw Failure();
+  }
+
   void Rest() override {
-    if (!file_.IsOpen()) return;
-    if (size_ > 2 * WholeSize() + MostSlack) return WriteAnew();
-    if (!SyncFile(calls_, file_.Number())) throw Failure();
+    const bool hasGrown = file_.IsOpen() && size_ > 2 * WholeSize() + MostSlack;
+    hasGrown ? WriteAnew() : Sync();
   }
 
   void Remove() override {
