@@ -23,6 +23,9 @@ constexpr std::chrono::milliseconds pause = 150ms;
 constexpr std::chrono::milliseconds longestDelay = 600ms;
 /// Whoever rests this long does not wait for a key to show.
 constexpr std::chrono::milliseconds idle = 500ms;
+/// After this a moment between two keys is used to bring the journal to the disk. They come about
+/// once a second.
+constexpr std::chrono::milliseconds longestUnsynced = 500ms;
 
 }  // namespace
 
@@ -39,8 +42,8 @@ void PageJournal::Follow() {
   // Before it is settled for the first time the page is still being made.
   if (!journal_ || !settled_) return;
   const QString document = component_.Memory().document;
-  if (hasJournal_ ? document == written_.page.document : IsSettled(document)) return;
-  WriteSoon();
+  if (hasJournal_ ? document != written_.page.document : !IsSettled(document)) WriteSoon();
+  if (component_.IsIdle()) UseTheMoment();
 }
 
 void PageJournal::FollowSource() {
@@ -54,6 +57,13 @@ void PageJournal::WriteSoon() {
       longestDelay - std::chrono::milliseconds(sinceChange_.elapsed());
   writing_.start(std::clamp(left, 0ms, pause));
   resting_.start(idle);
+}
+
+void PageJournal::UseTheMoment() {
+  if (writing_.isActive()) Write();
+  if (!sinceWrite_.isValid() || !sinceWrite_.hasExpired(longestUnsynced.count())) return;
+  sinceWrite_.invalidate();
+  Attempt([this] { journal_->Sync(); });
 }
 
 bool PageJournal::Catch() {
@@ -86,6 +96,7 @@ void PageJournal::Discard() {
   writing_.stop();
   resting_.stop();
   sinceChange_.invalidate();
+  sinceWrite_.invalidate();
   if (hasJournal_) journal_->Remove();
   hasJournal_ = false;
 }
@@ -120,6 +131,7 @@ void PageJournal::Write() {
   if (hasJournal_ && IsWritten(page)) return;
   if (IsSettled(page.page.document) && !page.source && !saveFailed_) return Discard();
   if (!Attempt([&] { journal_->Write(page); })) return;
+  if (!sinceWrite_.isValid()) sinceWrite_.start();
   hasJournal_ = true;
   written_ = page;
 }
@@ -131,6 +143,7 @@ bool PageJournal::IsWritten(const JournalledPage &page) const {
 
 void PageJournal::Rest() {
   resting_.stop();
+  sinceWrite_.invalidate();
   if (hasJournal_) Attempt([this] { journal_->Rest(); });
 }
 

@@ -14,8 +14,9 @@ namespace velor {
 class EditingComponent;
 
 /// Keeps a page's unsaved changes, and what its source editor holds and was not applied, in a
-/// journal while there are any: at most about a second behind what the component knows, in a pause
-/// between keys where there is one. Does nothing where the platform has no journals. What cannot be
+/// journal while there are any: at most about a second behind what the component knows, in a moment
+/// between keys where there is one. While somebody types on, such moments also bring it to the
+/// disk, about once a second. Does nothing where the platform has no journals. What cannot be
 /// written is told in the status bar.
 class PageJournal {
  public:
@@ -45,6 +46,8 @@ class PageJournal {
   JournalledPage Page() const;
   void WriteSoon();
   void Write();
+  /// Nobody waits for a key to show just now.
+  void UseTheMoment();
   void Rest();
   template <typename Step>
   bool Attempt(Step step);
@@ -60,6 +63,7 @@ class PageJournal {
   bool saveFailed_ = false;
   bool failureTold_ = false;
   QElapsedTimer sinceChange_;  ///< since the first that is not written; valid while there is one
+  QElapsedTimer sinceWrite_;   ///< since the first that is not on the disk, likewise
   QTimer writing_;
   QTimer resting_;
 };

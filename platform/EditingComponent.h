@@ -89,6 +89,9 @@ class EditingComponent {
   /// The page as it was last seen on this side, without asking the engine: not more than a second
   /// and a half behind, and then MemoryChanged follows.
   virtual PageMemory Memory() const = 0;
+  /// Whether all that the person has typed so far is known to be on the screen: a moment for what
+  /// should delay no key. Asked when MemoryChanged comes.
+  virtual bool IsIdle() const { return false; }
   /// Replaces the page by one that was remembered; returns when it is parsed. Against its original
   /// it is an edited page, and is saved as such. Raises RuntimeError when it cannot be shown.
   virtual void Recall(const PageMemory &memory) = 0;

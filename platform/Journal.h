@@ -26,15 +26,18 @@ struct JournalledPage {
 };
 
 /// The journal of one page: what it holds is on this side of the process's end as soon as Write
-/// has returned, and on the disk when Rest has. A journal that nobody removes is an abandoned page
-/// of a later run. Failures are RuntimeErrors; what was written before stays readable.
+/// has returned, and on the disk when Sync or Rest has. A journal that nobody removes is an
+/// abandoned page of a later run. Failures are RuntimeErrors; what was written before stays
+/// readable.
 class Journal {
  public:
   virtual ~Journal() = default;
 
   /// Appends what has changed since the last time.
   virtual void Write(const JournalledPage &page) = 0;
-  /// Brings it to the disk, and into a shorter form where it has grown. For idle moments.
+  /// Brings it to the disk. For a moment between two keys.
+  virtual void Sync() = 0;
+  /// Brings it to the disk, and into a shorter form where it has grown. For when the person rests.
   virtual void Rest() = 0;
   /// The changes are saved, or nobody wants them. The next Write begins anew.
   virtual void Remove() = 0;

@@ -87,6 +87,47 @@ TEST_F(PageJournals, ItGoesToTheDiskInAPause) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return journals.rests > 0; }, LongestDelay));
 }
 
+TEST_F(PageJournals, ItGoesToTheDiskBetweenKeysWhereNobodyPauses) {
+  Open(IndexFile);
+  Component(1).isIdle = true;
+  int keys = 0;
+  QElapsedTimer typing;
+  typing.start();
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] {
+        Component(1).Edit(QStringLiteral("<p>%1</p>").arg(++keys));
+        return journals.syncs > 1;
+      },
+      5 * LongestDelay));
+  EXPECT_LE(typing.elapsed(), 2 * LongestDelay);
+  EXPECT_EQ(journals.rests, 0);
+}
+
+TEST_F(PageJournals, ItDoesNotGoToTheDiskWhileAKeyIsOnItsWay) {
+  Open(IndexFile);
+  int keys = 0;
+  EXPECT_FALSE(QTest::qWaitFor(
+      [&] {
+        Component(1).Edit(QStringLiteral("<p>%1</p>").arg(++keys));
+        return journals.syncs + journals.rests > 0;
+      },
+      2 * LongestDelay));
+  EXPECT_FALSE(IsEmpty());
+}
+
+TEST_F(PageJournals, WhatIsOnTheDiskIsNotBroughtThereAgain) {
+  Open(IndexFile);
+  Component(1).isIdle = true;
+  Change(1);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return journals.rests > 0; }, LongestDelay));
+  EXPECT_FALSE(QTest::qWaitFor(
+      [&] {
+        Component(1).Edit(Changed);
+        return journals.syncs > 0;
+      },
+      LongestDelay));
+}
+
 TEST_F(PageJournals, AChangeTakenBackEndsIt) {
   Open(IndexFile);
   Change(1);

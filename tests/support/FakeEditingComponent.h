@@ -40,6 +40,7 @@ class FakeEditingComponent final : public EditingComponent,
   qsizetype selectionStart = 0;
   qsizetype selectionEnd = 0;
   ElementPlaces caretPlaces;
+  bool isIdle = false;
   std::optional<RuntimeError> nextLoadFailure;  ///< raised once by LoadDocument and LoadText
   std::optional<RuntimeError> nextSaveFailure;  ///< raised once by SaveDocument
 
@@ -73,6 +74,7 @@ class FakeEditingComponent final : public EditingComponent,
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
   PageMemory Memory() const override;
+  bool IsIdle() const override { return isIdle; }
   void Recall(const PageMemory &memory) override;
   QString Charset() const override;
   QString TextForm() const override { return InWords(original_.page.encoding); }

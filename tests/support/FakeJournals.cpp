@@ -15,6 +15,7 @@ class FakeJournal final : public Journal {
     }
     journals_.written_[number_] = page;
   }
+  void Sync() override { ++journals_.syncs; }
   void Rest() override { ++journals_.rests; }
   void Remove() override { journals_.written_.erase(number_); }
 

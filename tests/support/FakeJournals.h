@@ -34,6 +34,7 @@ class FakeJournals : public Journals {
   bool endsAreMissing = false;
   /// Every Write raises this while it is set.
   std::optional<ErrorNumber> writeFailure;
+  int syncs = 0;
   int rests = 0;
 
  private:

@@ -80,6 +80,7 @@ void WebEditor::ConnectView() {
   QObject::connect(view, &EngineView::StateArrived,
                    [this](const StateSnapshot &state) { StateArrived(state); });
   QObject::connect(view, &EngineView::MirrorArrived, [this](const QVariantMap &told) {
+    isIdle_ = told[QStringLiteral("idle")].toBool();
     if (mirror_.page.Follow(told))
       MirrorTaken();
     else
@@ -117,7 +118,10 @@ void WebEditor::ConnectView() {
     notices_.Post(Notice::Drop, [this, files] { TakeFiles(files); });
   });
   // Completion is told before the first input reaches the page.
-  QObject::connect(view, &EngineView::InputComing, [this] { notices_.Deliver(); });
+  QObject::connect(view, &EngineView::InputComing, [this] {
+    isIdle_ = false;
+    notices_.Deliver();
+  });
 }
 
 void WebEditor::TakeFiles(const QStringList &nativePaths) {

@@ -46,6 +46,7 @@ class WebEditor : public EditingComponent {
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
   PageMemory Memory() const override;
+  bool IsIdle() const override { return isIdle_; }
   void Recall(const PageMemory &memory) override;
   QString Charset() const override;
   QString TextForm() const override;
@@ -155,6 +156,7 @@ class WebEditor : public EditingComponent {
   int deaths_ = 0;            ///< of the page's process, in quick succession
   QElapsedTimer sinceDeath_;
   Mirror mirror_;
+  bool isIdle_ = false;
   QTimer mirrorTimer_;
   QTimer idleTimer_;  ///< runs out when a person rests, the mirror taken
 

@@ -123,20 +123,17 @@ class JournalFile : public Journal {
     last_ = page;
   }
 
+  void Sync() override {
+    if (!file_.IsOpen()) return;
+    if (!SyncFile(calls_, file_.Number())) throw Failure();
+    SyncName();
+  }
+
   void Rest() override {
     if (!file_.IsOpen()) return;
-    if (size_ > 2 * WholeSize() + MostSlack) {
-      WriteWhole(last_, Durability::Disk);
-    } else if (!SyncFile(calls_, file_.Number())) {
-      throw Failure();
-    }
-    if (isNameOnDisk_) return;
-    // The file's name in its folder, and the folder's among the runs.
-    const QString folder = QFileInfo(path_).path();
-    for (const QString &holder : {folder, QFileInfo(folder).path()}) {
-      if (!SyncFolder(calls_, QFile::encodeName(holder))) throw Failure();
-    }
-    isNameOnDisk_ = true;
+    if (size_ <= 2 * WholeSize() + MostSlack) return Sync();
+    WriteWhole(last_, Durability::Disk);
+    SyncName();
   }
 
   void Remove() override {
@@ -162,6 +159,16 @@ class JournalFile : public Journal {
   qsizetype WholeSize() const {
     const qsizetype units = last_.page.document.size() + last_.source.value_or(QString()).size();
     return last_.page.original.size() + units * qsizetype{sizeof(QChar)};
+  }
+
+  /// The file's name in its folder, and the folder's among the runs, to the disk.
+  void SyncName() {
+    if (isNameOnDisk_) return;
+    const QString folder = QFileInfo(path_).path();
+    for (const QString &holder : {folder, QFileInfo(folder).path()}) {
+      if (!SyncFolder(calls_, QFile::encodeName(holder))) throw Failure();
+    }
+    isNameOnDisk_ = true;
   }
 
   void Append(const QByteArray &record) {
