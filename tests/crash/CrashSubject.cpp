@@ -7,9 +7,9 @@
 // save     types one alphabet and saves
 // journal  types one alphabet and rests until it is in the journal, on the disk
 // restore  restores the first page that is offered; FILE is not opened
-// It prints "ready", a line for each key with its time, and "done" at the end. With STEP the
-// process ends before that call which changes a file, counted within the save, the journalling, the
-// restoring.
+// It prints "ready", a line for each key with its time, "saving", and "done" at the end. With STEP
+// the process ends before that call which changes a file, counted within the save, the journalling,
+// the restoring.
 #include "app/window/MfrmProgram.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
@@ -81,6 +81,7 @@ class Subject {
     // What was typed a moment ago may be lost; here it was typed a while before.
     Page().Journal().Catch();
     calls_.KillBefore(step);
+    Tell(QStringLiteral("saving"));
     modWorkFlow::SavePage(window_.Context(), Page(), window_.SharedFileDialog(),
                           window_.Context().pages.Record(1), false);
     Tell(QStringLiteral("done"));
@@ -108,7 +109,7 @@ class Subject {
   }
 
  private:
-  static constexpr int Patience = 20'000;
+  static constexpr int Patience = 60'000;
   static constexpr auto Sync = FaultyCalls::Call::Sync;
 
   frmMain &Page() { return *window_.Context().pages.Page(1); }

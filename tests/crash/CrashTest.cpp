@@ -20,7 +20,7 @@ namespace velor {
 namespace {
 
 constexpr qint64 MostBehind = 2000;  // ms
-constexpr int StartLimit = 60'000;
+constexpr int StartLimit = 120'000;
 const QByteArray Old = "<html><head></head><body><p>-</p></body></html>";
 const QByteArray Alphabet = "abcdefghijklmnopqrstuvwxyz";
 const QByteArray Changed = QByteArray(Old).replace("-", "-" + Alphabet);
@@ -191,6 +191,7 @@ class KilledSaves {
       const Home home;
       prepare(home);
       Life life(QStringLiteral("save"), home.Path(Page), static_cast<quint32>(step));
+      ASSERT_TRUE(life.Hears("saving", StartLimit));
       const bool isSaved = life.Hears("done", StartLimit);
       life.Kill();
       step = isSaved ? 1 : step + 1;
