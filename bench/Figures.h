@@ -17,6 +17,9 @@ void ReadingFigures();
 void SavingFigures();
 void SavingAfterAnEditFigures();
 
+/// What keeping a page for a recovery costs (JournalFigures.cpp).
+void JournalFigures();
+
 /// The preview's first and later showings of a page (PreviewFigures.cpp).
 void PreviewFigures();
 // Figures about the source editor (SourceFigures.cpp).
