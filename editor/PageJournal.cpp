@@ -34,7 +34,7 @@ PageJournal::PageJournal(EditorContext &context, EditingComponent &component, in
   writing_.setSingleShot(true);
   resting_.setSingleShot(true);
   QObject::connect(&writing_, &QTimer::timeout, [this] { Write(); });
-  QObject::connect(&resting_, &QTimer::timeout, [this] { Rest(); });
+  QObject::connect(&resting_, &QTimer::timeout, [this] { RestWhenIdle(); });
 }
 
 void PageJournal::Follow() {
@@ -113,6 +113,10 @@ void PageJournal::Write() {
   if (!sinceWrite_.isValid()) sinceWrite_.start();
   hasJournal_ = true;
   written_ = page.page.document;
+}
+
+void PageJournal::RestWhenIdle() {
+  component_.IsIdle() ? Rest() : resting_.start(idle);
 }
 
 void PageJournal::Rest() {

@@ -10,6 +10,7 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
+#include <utility>
 #include <vector>
 
 namespace velor {
@@ -18,6 +19,11 @@ namespace {
 constexpr qint64 MostBehind = 2000;  // ms
 constexpr int StartLimit = 60'000;
 const QByteArray Old = "<html><head></head><body><p>-</p></body></html>";
+/// One megabyte before the place that is typed at.
+const QByteArray Large = QByteArray(Old).replace(
+    "<p>-",
+    QByteArray("<p>The quick <b>brown</b> fox jumps over the lazy dog.</p>\n").repeated(17'500) +
+        "<p>-");
 const QByteArray Alphabet = "abcdefghijklmnopqrstuvwxyz";
 
 int Runs() {
@@ -28,12 +34,12 @@ int Runs() {
 /// One life of the program.
 class Life {
  public:
-  Life() {
+  explicit Life(QByteArray page = Old) : page_(std::move(page)) {
     qputenv("XDG_STATE_HOME", folder_.filePath(QStringLiteral("state")).toLocal8Bit());
     qputenv("VELOR_PROGRAM_FOLDER", folder_.path().toLocal8Bit());
     QFile file(Path());
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(Old);
+    file.write(page_);
   }
   ~Life() {
     qunsetenv("VELOR_PROGRAM_FOLDER");
@@ -78,7 +84,7 @@ class Life {
     EXPECT_LE(pages.size(), 1U);
     if (pages.empty()) return 0;
     const PageMemory &page = pages[0].page.page;
-    EXPECT_EQ(page.original, Old);
+    EXPECT_EQ(page.original, page_);
     const QString start = QStringLiteral("<p>-");
     const qsizetype from = page.document.indexOf(start) + start.size();
     const QByteArray text =
@@ -96,6 +102,7 @@ class Life {
  private:
   QString Path() const { return folder_.filePath(QStringLiteral("page.htm")); }
 
+  QByteArray page_;
   QByteArray stateHome_ = qgetenv("XDG_STATE_HOME");
   QTemporaryDir folder_;
   QProcess process_;
@@ -117,6 +124,22 @@ TEST(Crash, WhatWasTypedUpToTwoSecondsBeforeAKillIsRecovered) {
     life.Kill();
     EXPECT_EQ(life.File(), Old);
     EXPECT_GE(life.Recovered(), life.KeysBefore(MostBehind));
+  }
+}
+
+TEST(Crash, ALargePageIsNoFurtherBehind) {
+  constexpr int runs = 3;
+  QRandomGenerator random(21);
+  for (int run = 0; run < runs; ++run) {
+    SCOPED_TRACE(run);
+    Life life(Large);
+    life.Start({QString::number(random.generate())});
+    ASSERT_TRUE(life.Hears("ready", StartLimit));
+    life.Hears("the kill", random.bounded(3000, 6000));
+    life.Kill();
+    EXPECT_EQ(life.File(), Large);
+    EXPECT_GE(life.Recovered(), life.KeysBefore(MostBehind));
+    EXPECT_GT(life.KeysBefore(MostBehind), 0);
   }
 }
 
