@@ -58,6 +58,13 @@ QString BareView::OuterHtml() {
   return Evaluate(QStringLiteral("document.documentElement.outerHTML")).toString();
 }
 
+QString BareView::OuterHtmlAfter(const QString &insertedHtml) {
+  return Evaluate(QStringLiteral("document.execCommand('insertHTML', false, '%1');"
+                                 "document.documentElement.outerHTML")
+                      .arg(insertedHtml))
+      .toString();
+}
+
 QVariant BareView::Evaluate(const QString &script) {
   bool done = false;
   QVariant answer;

@@ -20,6 +20,8 @@ class BareView : public QWebEngineView {
   void LoadFile(const QString &nativePath);
   /// The root element's markup, waited for.
   QString OuterHtml();
+  /// The same after an edit at the caret.
+  QString OuterHtmlAfter(const QString &insertedHtml);
 
   /// Counts the selection changes that the page reported.
   int selectionChanges = 0;

@@ -22,6 +22,7 @@ constexpr Entry Table[] = {
     {"read", ReadingFigures},
     {"save", SavingFigures},
     {"save-after-edit", SavingAfterAnEditFigures},
+    {"journal", JournalFigures},
     {"preview", PreviewFigures},
     {"source", SourceFillFigures},
     {"apply", ApplyFigures},

@@ -21,6 +21,8 @@ void BridgeFigures();
 void CommandFigures();
 /// A key and the toolbar of the whole program (ToolbarFigures.cpp).
 void ToolbarFigure();
+/// What keeping a page for a recovery costs (JournalFigures.cpp).
+void JournalFigures();
 
 /// The preview's first and later showings of a page (PreviewFigures.cpp).
 void PreviewFigures();

@@ -15,7 +15,8 @@ int main(int argc, char **argv) {
   // Chromium's sandbox refuses to start for the superuser, as benchmarks in containers run.
   if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
   QTemporaryDir scratch;
-  for (const char *variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+  for (const char *variable :
+       {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"})
     qputenv(variable, scratch.path().toLocal8Bit());
   velor::RegisterPageScheme();
   int one = 1;

@@ -35,7 +35,7 @@ PageJournal::PageJournal(EditorContext &context, EditingComponent &component, in
   writing_.setSingleShot(true);
   resting_.setSingleShot(true);
   QObject::connect(&writing_, &QTimer::timeout, [this] { Write(); });
-  QObject::connect(&resting_, &QTimer::timeout, [this] { Rest(); });
+  QObject::connect(&resting_, &QTimer::timeout, [this] { RestWhenIdle(); });
 }
 
 void PageJournal::Follow() {
@@ -139,6 +139,10 @@ void PageJournal::Write() {
 bool PageJournal::IsWritten(const JournalledPage &page) const {
   return page.path == written_.path && page.saving == written_.saving &&
          page.page == written_.page && page.source == written_.source;
+}
+
+void PageJournal::RestWhenIdle() {
+  component_.IsIdle() ? Rest() : resting_.start(idle);
 }
 
 void PageJournal::Rest() {

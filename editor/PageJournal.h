@@ -48,6 +48,7 @@ class PageJournal {
   void Write();
   /// Nobody waits for a key to show just now.
   void UseTheMoment();
+  void RestWhenIdle();
   void Rest();
   template <typename Step>
   bool Attempt(Step step);

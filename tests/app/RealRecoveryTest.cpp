@@ -13,19 +13,33 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <optional>
+#include <vector>
 
 namespace velor {
 namespace {
+
+/// Tells of each time that a file is brought to the disk.
+class SyncCalls : public FileCalls {
+ public:
+  int Sync(int file) override {
+    if (onSync) onSync();
+    return FileCalls::Sync(file);
+  }
+
+  std::function<void()> onSync;
+};
 
 class RealRecovery : public RealWindow {
  protected:
   RealRecovery() {
     qputenv("XDG_STATE_HOME", state_.path().toLocal8Bit());
-    platform.journals = &journals_.emplace();
+    platform.journals = &journals_.emplace(calls_);
   }
   ~RealRecovery() override { qputenv("XDG_STATE_HOME", stateHome_); }
 
@@ -52,11 +66,42 @@ class RealRecovery : public RealWindow {
     return found;
   }
 
+  SyncCalls calls_;
+
  private:
   const QByteArray stateHome_ = qgetenv("XDG_STATE_HOME");
   QTemporaryDir state_;
   std::optional<JournalFiles> journals_;
 };
+
+TEST_F(RealRecovery, TheJournalGoesToTheDiskBetweenTheKeysOfWhoeverTypesOn) {
+  constexpr int keys = 100;
+  constexpr int pace = 50;          // milliseconds between two keys
+  constexpr qint64 longest = 2000;  // from one sync to the next
+  frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
+  PutCaret(page, QStringLiteral("p"));
+  QElapsedTimer clock;
+  std::vector<qint64> syncs;
+  int late = 0;
+  calls_.onSync = [&] {
+    syncs.push_back(clock.elapsed());
+    if (!page.DHTML1().IsIdle()) ++late;
+  };
+  clock.start();
+  for (int key = 1; key <= keys; ++key) {
+    Type(page, QStringLiteral("x"));
+    (void)QTest::qWaitFor([&] { return clock.elapsed() >= key * pace; });
+  }
+  const qint64 end = clock.elapsed();
+  calls_.onSync = {};
+  EXPECT_EQ(late, 0);
+  qint64 before = 0;
+  syncs.push_back(end);
+  for (const qint64 sync : syncs) {
+    EXPECT_LE(sync - before, longest);
+    before = sync;
+  }
+}
 
 TEST_F(RealRecovery, ARestoredPageIsSavedFaithfully) {
   const QByteArray source =

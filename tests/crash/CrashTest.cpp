@@ -22,6 +22,11 @@ namespace {
 constexpr qint64 MostBehind = 2000;  // ms
 constexpr int StartLimit = 120'000;
 const QByteArray Old = "<html><head></head><body><p>-</p></body></html>";
+/// One megabyte before the place that is typed at.
+const QByteArray Large = QByteArray(Old).replace(
+    "<p>-",
+    QByteArray("<p>The quick <b>brown</b> fox jumps over the lazy dog.</p>\n").repeated(17'500) +
+        "<p>-");
 const QByteArray Alphabet = "abcdefghijklmnopqrstuvwxyz";
 const QByteArray Changed = QByteArray(Old).replace("-", "-" + Alphabet);
 
@@ -45,10 +50,10 @@ class Home {
   }
 
   QString Path(const QString &name) const { return folder_.filePath(name); }
-  void Write(const QString &name) const {
+  void Write(const QString &name, const QByteArray &content = Old) const {
     QFile file(Path(name));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(Old);
+    file.write(content);
   }
   QByteArray Content(const QString &name) const {
     QFile file(Path(name));
@@ -121,13 +126,13 @@ qsizetype Letters(const QString &html) {
   return text.size();
 }
 
-std::vector<JournalledPage> Recovered() {
+std::vector<JournalledPage> Recovered(const QByteArray &original = Old) {
   JournalFiles journals;
   std::vector<JournalledPage> pages;
   for (const AbandonedPage &page : journals.Abandoned()) {
     EXPECT_EQ(page.defect, QString());
     pages.push_back(journals.Read(page.id).page);
-    EXPECT_EQ(pages.back().page.original, Old);
+    EXPECT_EQ(pages.back().page.original, original);
   }
   return pages;
 }
@@ -156,6 +161,25 @@ TEST(Crash, WhatWasTypedUpToTwoSecondsBeforeAKillIsRecovered) {
     furthest = std::max(furthest, behind);
   }
   RecordProperty("furthest_behind_ms", static_cast<int>(furthest));
+}
+
+TEST(Crash, ALargePageIsNoFurtherBehind) {
+  QRandomGenerator random(22);
+  for (int run = 0; run < Runs(1); ++run) {
+    SCOPED_TRACE(run);
+    const Home home;
+    home.Write(Page, Large);
+    Life life(QStringLiteral("type"), home.Path(Page), random.generate());
+    ASSERT_TRUE(life.Hears("ready", StartLimit));
+    life.Hears("the kill", random.bounded(3000, 6000));
+    life.Kill();
+    EXPECT_EQ(home.Content(Page), Large);
+    const auto pages = Recovered(Large);
+    ASSERT_EQ(pages.size(), 1U);
+    const qsizetype letters = Letters(pages[0].page.document);
+    EXPECT_GT(letters, 0);
+    EXPECT_LE(life.Behind(letters), MostBehind);
+  }
 }
 
 TEST(Crash, WhatWasTypedIntoASourceAndNotAppliedIsRecovered) {

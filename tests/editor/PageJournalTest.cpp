@@ -83,6 +83,7 @@ TEST_F(PageJournals, WhoeverTypesOnWithoutAPauseIsWrittenInTime) {
 
 TEST_F(PageJournals, ItGoesToTheDiskInAPause) {
   Open(IndexFile);
+  Component(1).isIdle = true;
   Change(1);
   EXPECT_TRUE(QTest::qWaitFor([&] { return journals.rests > 0; }, LongestDelay));
 }

@@ -120,6 +120,7 @@ void WebEditor::ConnectView() {
   // Completion is told before the first input reaches the page.
   QObject::connect(view, &EngineView::InputComing, [this] {
     isIdle_ = false;
+    sinceInput_.start();
     notices_.Deliver();
   });
 }
@@ -128,6 +129,12 @@ void WebEditor::TakeFiles(const QStringList &nativePaths) {
   QStringList paths;
   for (const QString &file : nativePaths) paths += ToLogic(file);
   if (listener_ != nullptr) listener_->FilesDropped(paths);
+}
+
+bool WebEditor::IsIdle() const {
+  // A key that changed nothing is followed by no word of the page.
+  constexpr qint64 longestKey = 1000;  // milliseconds
+  return isIdle_ || !sinceInput_.isValid() || sinceInput_.hasExpired(longestKey);
 }
 
 QWidget *WebEditor::Widget() {

@@ -46,7 +46,7 @@ class WebEditor : public EditingComponent {
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
   PageMemory Memory() const override;
-  bool IsIdle() const override { return isIdle_; }
+  bool IsIdle() const override;
   void Recall(const PageMemory &memory) override;
   QString Charset() const override;
   QString TextForm() const override;
@@ -157,6 +157,7 @@ class WebEditor : public EditingComponent {
   QElapsedTimer sinceDeath_;
   Mirror mirror_;
   bool isIdle_ = false;
+  QElapsedTimer sinceInput_;
   QTimer mirrorTimer_;
   QTimer idleTimer_;  ///< runs out when a person rests, the mirror taken
 
