@@ -221,6 +221,7 @@ QString Patched(const QString &text, const std::vector<TextPatch> &patches) {
 }
 
 PageToWrite SpliceBytes(const PageOriginal &original, const std::vector<TextPatch> &patches) {
+  if (patches.empty()) return {original.page.text, original.bytes};
   Splicer splicer(original);
   if (!splicer.Fits())
     return WriteWhole(Patched(original.page.text, patches), original.page.encoding);
