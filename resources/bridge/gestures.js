@@ -142,8 +142,13 @@
   function press(event) {
     cancel();
     taken = false;
-    if (event.button === 1 || !velor.editable()) return;
+    if (!velor.editable()) return;
     const selected = velor.objects.selected();
+    if (event.button === 1) {
+      // The engine is about to paste: beside what is selected, never in its place.
+      if (selected) velor.caretAt(event.clientX, event.clientY);
+      return;
+    }
     const grip = selected && velor.gripAt(selected, event);
     const object = grip ? selected : velor.objects.at(event);
     if (!object) return;
