@@ -142,10 +142,14 @@
     });
   }
 
-  // Where the engine has written in a text just now, from and to. A text that was not at the caret is
-  // a new one where it holds nothing but what was typed.
+  // Where the engine has written in a text just now, from and to. In a text that was not at the caret
+  // before (typed text may have been put into another format) that is what was typed.
   function freshPart(node, data) {
-    if (!before.texts.has(node)) return node.length === data?.length ? [0, node.length] : [0, 0];
+    if (!before.texts.has(node)) {
+      const { anchorNode, anchorOffset } = velor.selection.points();
+      const from = Math.max(0, anchorOffset - (data?.length ?? 0));
+      return node === anchorNode ? [from, anchorOffset] : [0, 0];
+    }
     const { head, tail } = velor.dom.kept(before.texts.get(node), node.data);
     return [head, node.length - tail];
   }
