@@ -13,6 +13,12 @@ def the_source_is_shown(tour):
     tour.program.press("Design")
 
 
+def column(program):
+    """The caret's column in the source editor, by its status bar."""
+    places = [name for name in program.names("label") if ", Column " in name]
+    return int(places[0].split("Column ")[1]) if places else 0
+
+
 def the_source_is_edited_applied_and_taken_back(tour):
     step("the source is edited and applied; undo takes it back")
     program = tour.program
@@ -24,9 +30,10 @@ def the_source_is_edited_applied_and_taken_back(tour):
     wait_for(lambda: Program.has_state(find, Atspi.StateType.FOCUSED), "the find box's focus")
     program.type("brave")
     program.shot("04-source-editor")
+    found = column(program)
     program.key("Escape")
     program.type("bold new")
-    wait_for(lambda: any(name.endswith("Column 18") for name in program.names("label")), "the typed words")
+    wait_for(lambda: column(program) == found + len("bold new") - len("brave"), "the typed words")
     program.press("Apply to Document")
     copy = os.path.join(tour.site, "helloTMP.htm")
     wait_for(lambda: "bold new" in file_text(copy, "big5"), "the applied words in the temporary copy")
