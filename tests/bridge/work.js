@@ -40,9 +40,9 @@
   counted(globalThis, 'getComputedStyle', one);
 
   globalThis.work = {
-    // The mirror of a page goes its own, slower way.
+    // The program is told of the text in idle time, at a moment of its own.
     begin() {
-      velor.serialize = () => '';
+      velor.changes = () => ({});
       velor.host = { pushState() {}, pushMirror() {}, inputArrived() {} };
       velor.start({});
     },
