@@ -22,7 +22,6 @@ class PageMask {
   explicit PageMask(const QString &source);
 
   const QString &MaskedText() const { return masked_; }
-  bool IsEmpty() const { return pieces_.empty(); }
 
   /// A text of the engine's with the original pieces in the place of their masks.
   QString Unmask(const QString &text) const;

@@ -336,19 +336,15 @@
       while (isNothing(beside)) beside = dom.neighbour(beside, side);
       if (!beside) continue;
       if (beside.tagName === 'TABLE') return beside;
-      return side === 'previousSibling' ? lastShown(beside) : firstShown(beside);
+      return side === 'previousSibling' ? shownEdge(beside, 'lastChild', 'previousSibling')
+        : shownEdge(beside, 'firstChild', 'nextSibling');
     }
     return null;
   }
-  function lastShown(node) {
-    if (node.tagName === 'TABLE' || dom.isAtom(node)) return node;
-    const child = [...node.childNodes].reverse().find(dom.isShown);
-    return child ? lastShown(child) : node;
-  }
-  function firstShown(node) {
-    if (node.tagName === 'TABLE' || dom.isAtom(node)) return node;
-    const child = [...node.childNodes].find(dom.isShown);
-    return child ? firstShown(child) : node;
+  // The outermost leaf that shows something, on one side of a node; a table is one thing.
+  function shownEdge(node, child, side) {
+    const inner = node.tagName === 'TABLE' || dom.isAtom(node) ? null : dom.shownFrom(node[child], side);
+    return inner ? shownEdge(inner, child, side) : node;
   }
 
   const unitOfLeaf = (leaf) =>
@@ -448,5 +444,5 @@
   const tighten = (range) => { if (!range.collapsed) select(inward(range)); };
 
   velor.deletion = { remove, empty,
-    clear, prune, holdOpen, startOf, thingIn, spansUnits, joining, tighten };
+    clear, prune, holdOpen, startOf, spansUnits, joining, tighten };
 })();
