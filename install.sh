@@ -24,7 +24,7 @@ command -v node >/dev/null && command -v npm >/dev/null || test_packages+=(nodej
 # The second independent reader of Jet files, a package of npm, into build/jet-reader. Where that
 # cannot be had, the tests compare with the other readers only.
 install_jet_reader() {
-  local from=tests/jet/reader into=build/jet-reader
+  local from=tests/catalogue/jet/reader into=build/jet-reader
   if cmp -s "$from/package-lock.json" "$into/package-lock.json" && [ -d "$into/node_modules" ]; then
     return
   fi

@@ -2,11 +2,11 @@
 #include "app/startup/EventBoundary.h"
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/MfrmProgram.h"
-#include "app/window/RecoveryCopies.h"
+#include "recovery/offers/RecoveryCopies.h"
 #include "chrome/Palette.h"
 #include "platform/DriveMap.h"
-#include "platform/qt/RealPlatform.h"
-#include "platform/qt/editing/PageScheme.h"
+#include "qt/RealPlatform.h"
+#include "engine/PageScheme.h"
 
 int main(int argc, char **argv) {
   using namespace velor;

@@ -4,7 +4,7 @@
 #include "bench/Figures.h"
 #include "bench/Measure.h"
 #include "platform/Paths.h"
-#include "platform/sqlite/SqliteConnection.h"
+#include "catalogue/SqliteConnection.h"
 #include "projects/FillList.h"
 #include "projects/RecordList.h"
 #include "projects/RecordsetReader.h"

@@ -8,7 +8,7 @@
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Paths.h"
-#include "platform/qt/files/JournalFiles.h"
+#include "recovery/JournalFiles.h"
 
 #include <QFile>
 #include <QTemporaryDir>

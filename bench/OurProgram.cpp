@@ -3,7 +3,7 @@
 
 #include "app/startup/RealStartUpWindows.h"
 #include "chrome/Palette.h"
-#include "platform/qt/RealPlatform.h"
+#include "qt/RealPlatform.h"
 
 #include <QApplication>
 #include <QDir>

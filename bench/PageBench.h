@@ -4,9 +4,9 @@
 #include "bench/BareView.h"
 #include "bench/SamplePage.h"
 #include "platform/EditingComponent.h"
-#include "platform/qt/QtFiles.h"
-#include "platform/qt/editing/EditingEngine.h"
-#include "platform/qt/editing/WebEditor.h"
+#include "files/QtFiles.h"
+#include "engine/EditingEngine.h"
+#include "engine/WebEditor.h"
 
 #include <QTemporaryDir>
 #include <QVariant>

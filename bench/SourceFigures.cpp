@@ -5,10 +5,10 @@
 #include "bench/Measure.h"
 #include "bench/SamplePage.h"
 #include "platform/Paths.h"
-#include "platform/qt/QsciSourceControl.h"
-#include "platform/qt/QtFiles.h"
-#include "platform/qt/editing/EditingEngine.h"
-#include "platform/qt/editing/WebEditor.h"
+#include "qt/QsciSourceControl.h"
+#include "files/QtFiles.h"
+#include "engine/EditingEngine.h"
+#include "engine/WebEditor.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -2,7 +2,7 @@
 // Figures about speed and memory, each beside the same work done by a bare engine in the same run,
 // one line of JSON a figure. Usage: velor-bench [FIGURE...]; without names, all of them.
 #include "bench/Figures.h"
-#include "platform/qt/editing/PageScheme.h"
+#include "engine/PageScheme.h"
 
 #include <QApplication>
 #include <QStyleFactory>

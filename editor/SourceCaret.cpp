@@ -2,7 +2,7 @@
 #include "editor/SourceCaret.h"
 
 #include "platform/SourceControl.h"
-#include "platform/html/SourcePlaces.h"
+#include "page/source/SourcePlaces.h"
 
 #include <QString>
 

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "platform/Files.h"
-#include "platform/html/PageEncoding.h"
+#include "page/text/PageEncoding.h"
 
 #include <QString>
 
 /// Whole files as text, and the parts of a path. Paths in logic form.
 namespace velor::modGeneral {
 
-/// The file's whole content as text, decoded as pages are (platform/html/PageEncoding.h).
+/// The file's whole content as text, decoded as pages are (page/text/PageEncoding.h).
 QString ReadWholeFile(const Files &files, const QString &path);
 
 /// Creates or replaces the file: the text followed by a line break (CR LF), in the charset that the

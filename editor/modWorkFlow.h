@@ -2,7 +2,7 @@
 #pragma once
 
 #include "editor/EditorContext.h"
-#include "platform/html/PageEncoding.h"
+#include "page/text/PageEncoding.h"
 
 #include <QString>
 

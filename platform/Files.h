@@ -15,7 +15,7 @@ enum class NameOrigin {
 
 /// Files as the logic sees them: paths in logic form (Paths.h), every failure a RuntimeError with
 /// the number mapped from the system's, naming the file; where the drive or the folder itself is
-/// missing the number is 76 throughout. Implementations: platform/qt, and a fake
+/// missing the number is 76 throughout. Implementations: files/QtFiles.h, and a fake
 /// in memory for tests; one contract suite runs against both.
 class Files {
  public:

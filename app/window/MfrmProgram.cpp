@@ -10,7 +10,7 @@
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
 #include "app/window/ProjectDesk.h"
-#include "app/window/RecoveryBar.h"
+#include "recovery/offers/RecoveryBar.h"
 #include "app/window/WindowStyling.h"
 #include "chrome/FlatSweeps.h"
 #include "chrome/Icons.h"

@@ -3,7 +3,7 @@
 #include "chrome/ReportingSweeps.h"
 #include "chrome/WidgetControl.h"
 #include "chrome/cControlFlater.h"
-#include "platform/qt/QtWindowSystem.h"
+#include "qt/QtWindowSystem.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FailingSweeps.h"
 

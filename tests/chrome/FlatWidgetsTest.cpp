@@ -4,7 +4,7 @@
 #include "chrome/Palette.h"
 #include "chrome/WidgetControl.h"
 #include "chrome/cControlFlater.h"
-#include "platform/qt/QtWindowSystem.h"
+#include "qt/QtWindowSystem.h"
 #include "tests/support/Checks.h"
 
 #include <QAbstractItemView>

@@ -4,7 +4,7 @@
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/ProgramValues.h"
-#include "platform/sqlite/SqliteConnection.h"
+#include "catalogue/SqliteConnection.h"
 #include "projects/RecordsetReader.h"
 #include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"

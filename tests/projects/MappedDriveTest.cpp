@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Catalogues of another machine, whose drives are folders here.
 #include "chrome/FrmFld.h"
-#include "platform/qt/QtFiles.h"
+#include "files/QtFiles.h"
 #include "projects/frmProjectManager.h"
 #include "tests/projects/CatalogueDesk.h"
 #include "tests/projects/CatalogueOnDisk.h"

@@ -5,7 +5,7 @@
 #include "platform/EditingComponent.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
-#include "platform/html/PageText.h"
+#include "page/text/PageText.h"
 
 #include <QPointer>
 #include <QTimer>

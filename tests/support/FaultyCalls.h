@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/qt/files/FileCalls.h"
+#include "files/FileCalls.h"
 
 #include <cerrno>
 #include <csignal>

@@ -3,7 +3,7 @@
 
 #include "platform/Conversions.h"
 #include "platform/Paths.h"
-#include "platform/sqlite/SqliteConnection.h"
+#include "catalogue/SqliteConnection.h"
 
 #include <QTextStream>
 

@@ -2,7 +2,7 @@
 #include "tools/editing-suite/EditingSuite.h"
 
 #include "platform/RuntimeError.h"
-#include "platform/qt/editing/BridgeScript.h"
+#include "engine/BridgeScript.h"
 
 #include <QEventLoop>
 #include <QFile>

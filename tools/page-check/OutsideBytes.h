@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/html/PageEncoding.h"
+#include "page/text/PageEncoding.h"
 
 #include <QByteArray>
 #include <QString>

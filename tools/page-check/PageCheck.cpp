@@ -3,10 +3,10 @@
 
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-#include "platform/qt/GuardedWait.h"
-#include "platform/qt/QtFiles.h"
-#include "platform/qt/editing/BridgeScript.h"
-#include "platform/qt/editing/WebEditor.h"
+#include "engine/GuardedWait.h"
+#include "files/QtFiles.h"
+#include "engine/BridgeScript.h"
+#include "engine/WebEditor.h"
 #include "tools/page-check/OutsideBytes.h"
 
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/qt/editing/EditingEngine.h"
+#include "engine/EditingEngine.h"
 
 #include <QByteArray>
 #include <QJsonObject>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // velor-page-check [--edit KIND] [--nth N] FILES...: one line of JSON a page.
-#include "platform/qt/editing/PageScheme.h"
+#include "engine/PageScheme.h"
 #include "tools/page-check/PageCheck.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/jet/JetReaders.h"
 
-#include "platform/jet/JetFile.h"
+#include "catalogue/jet/JetFile.h"
 
 #include <QFile>
 #include <QJsonArray>

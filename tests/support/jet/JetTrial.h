@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/jet/JetFile.h"
+#include "catalogue/jet/JetFile.h"
 #include "tests/support/jet/JetFixture.h"
 
 #include <map>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/jet/JetStorage.h"
+#include "catalogue/jet/JetStorage.h"
 
 #include <QByteArray>
 

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "catalogue/CatalogueFile.h"
+
+#include "platform/RuntimeError.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace velor {
+
+namespace {
+
+constexpr qsizetype HeaderBytes = 32;
+
+/// What a file's header says; `start` is where the mark lies.
+struct Format {
+  qsizetype start;
+  QByteArray mark;
+  CatalogueKind kind;
+};
+
+const QList<Format> &Formats() {
+  static const QList<Format> formats = {
+      {0, QByteArray("SQLite format 3\0", 16), CatalogueKind::Sqlite},
+      {4, "Standard Jet DB", CatalogueKind::Jet},
+      {4, "Standard ACE DB", CatalogueKind::Jet},
+  };
+  return formats;
+}
+
+QString Source() {
+  return QStringLiteral("Database.Open");
+}
+
+QByteArray ReadHeader(const QString &nativePath) {
+  const int descriptor = open(QFile::encodeName(nativePath).constData(), O_RDONLY | O_CLOEXEC);
+  if (descriptor < 0) throw RuntimeError::FromErrno(errno, Source(), nativePath);
+  QByteArray header(HeaderBytes, '\0');
+  const ssize_t count = read(descriptor, header.data(), static_cast<std::size_t>(header.size()));
+  const int cause = errno;
+  close(descriptor);
+  if (count < 0) throw RuntimeError::FromErrno(cause, Source(), nativePath);
+  header.truncate(count);
+  return header;
+}
+
+[[noreturn]] void Refuse(const QString &nativePath, const QString &objection) {
+  throw RuntimeError::Of(
+      ErrorNumber::DeviceIoError, Source(),
+      QStringLiteral("The catalogue %1 cannot be opened: %2").arg(nativePath, objection));
+}
+
+}  // namespace
+
+CatalogueKind KindOfCatalogue(const QString &nativePath) {
+  if (QFileInfo(nativePath).isDir()) {
+    throw RuntimeError::FromErrno(EISDIR, Source(), nativePath);
+  }
+  const QByteArray header = ReadHeader(nativePath);
+  if (header.isEmpty()) {
+    Refuse(nativePath, QStringLiteral("it is empty; put a copy of the catalogue in its place"));
+  }
+  for (const Format &format : Formats()) {
+    if (header.mid(format.start, format.mark.size()) == format.mark) return format.kind;
+  }
+  Refuse(
+      nativePath,
+      QStringLiteral("it is no database; a catalogue is a Jet 4 file of the catalogue program, or "
+                     "an SQLite file"));
+}
+
+}  // namespace velor

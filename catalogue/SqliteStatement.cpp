@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "catalogue/SqliteStatement.h"
+
+#include <QByteArrayView>
+
+#include <sqlite3.h>
+
+namespace velor {
+
+namespace {
+
+/// The program's number for a primary result code.
+ErrorNumber NumberOf(int resultCode) {
+  switch (resultCode & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return ErrorNumber::PermissionDenied;
+    case SQLITE_CANTOPEN:
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+      return ErrorNumber::PathFileAccess;
+    case SQLITE_FULL:
+      return ErrorNumber::DiskFull;
+    case SQLITE_NOMEM:
+      return ErrorNumber::OutOfStringSpace;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+    case SQLITE_IOERR:
+      return ErrorNumber::DeviceIoError;
+    default:
+      return ErrorNumber::InvalidProcedureCall;
+  }
+}
+
+}  // namespace
+
+RuntimeError DatabaseError(sqlite3 *database, const QString &source, const QString &subject) {
+  return RuntimeError::Of(
+      NumberOf(sqlite3_extended_errcode(database)), source,
+      QStringLiteral("%1: %2").arg(QString::fromUtf8(sqlite3_errmsg(database)), subject));
+}
+
+SqliteStatement::SqliteStatement(sqlite3 *database, const QString &text, const QString &source,
+                                 const QString &subject)
+    : database_(database), source_(source), subject_(subject) {
+  const QByteArray bytes = text.toUtf8();
+  sqlite3_stmt *statement = nullptr;
+  const char *rest = nullptr;
+  const int result = sqlite3_prepare_v2(database, bytes.constData(), static_cast<int>(bytes.size()),
+                                        &statement, &rest);
+  statement_.reset(statement);
+  if (result != SQLITE_OK) throw DatabaseError(database_, source_, subject_);
+  const bool isOne = statement != nullptr && QByteArrayView(rest).trimmed().isEmpty();
+  if (!isOne) {
+    throw RuntimeError::Of(ErrorNumber::InvalidProcedureCall, source_,
+                           QStringLiteral("not one statement: %1").arg(subject_));
+  }
+}
+
+bool SqliteStatement::Step() {
+  switch (sqlite3_step(statement_.get())) {
+    case SQLITE_ROW:
+      return true;
+    case SQLITE_DONE:
+      return false;
+    default:
+      throw DatabaseError(database_, source_, subject_);
+  }
+}
+
+void SqliteStatement::Finalize::operator()(sqlite3_stmt *statement) const {
+  sqlite3_finalize(statement);
+}
+
+}  // namespace velor

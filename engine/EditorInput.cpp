@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/EditorInput.h"
+
+#include "engine/FileDrops.h"
+
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QWebEngineView>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace velor {
+
+namespace {
+
+/// Keys with which a browser goes elsewhere or loads anew.
+const QKeyCombination browserKeys[] = {
+    Qt::Key_F5,   Qt::CTRL | Qt::Key_R, Qt::ALT | Qt::Key_Left, Qt::ALT | Qt::Key_Right,
+    Qt::Key_Back, Qt::Key_Forward,      Qt::Key_Refresh,
+};
+
+bool IsBrowserKey(const QKeyEvent &key) {
+  return std::find(std::begin(browserKeys), std::end(browserKeys), key.keyCombination()) !=
+         std::end(browserKeys);
+}
+
+/// Input that keeps its place among the program's commands.
+bool MayWait(QEvent::Type type) {
+  switch (type) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+EditorInput::EditorInput(QWebEngineView *view, std::function<bool(const QEvent &)> keep)
+    : QObject(view), view_(view), keep_(std::move(keep)) {
+  view_->installEventFilter(this);
+  Attach();
+}
+
+void EditorInput::Attach() {
+  if (QWidget *input = view_->focusProxy()) {
+    input->removeEventFilter(this);
+    input->installEventFilter(this);
+  }
+}
+
+bool EditorInput::TakeFiles(QEvent *event) {
+  if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove &&
+      event->type() != QEvent::Drop)
+    return false;
+  auto *drop = static_cast<QDropEvent *>(event);
+  const QStringList paths = LocalFiles(drop->mimeData());
+  if (paths.isEmpty()) return false;
+  drop->setDropAction(Qt::CopyAction);
+  drop->accept();
+  if (event->type() == QEvent::Drop) Q_EMIT FilesDropped(paths, drop->position().toPoint());
+  return true;
+}
+
+bool EditorInput::eventFilter(QObject *watched, QEvent *event) {
+  if (TakeFiles(event)) return true;
+  if (watched == view_) {
+    if (event->type() == QEvent::ChildPolished) Attach();
+    return false;
+  }
+  if (MayWait(event->type()) && keep_(*event)) {
+    event->accept();
+    return true;
+  }
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      // Unanswered, the key is first offered to the program's shortcuts; only what none of them
+      // wants comes back as a key press.
+      event->ignore();
+      return true;
+    case QEvent::KeyPress:
+      Q_EMIT InputComing();
+      return IsBrowserKey(*static_cast<QKeyEvent *>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::InputMethod:
+    case QEvent::Drop:
+      Q_EMIT InputComing();
+      return false;
+    case QEvent::Wheel:
+      // The engine would zoom, for every page at once.
+      return static_cast<QWheelEvent *>(event)->modifiers().testFlag(Qt::ControlModifier);
+    default:
+      return false;
+  }
+}
+
+}  // namespace velor

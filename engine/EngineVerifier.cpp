@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/EngineVerifier.h"
+
+#include "platform/TextDifference.h"
+#include "engine/BridgeScript.h"
+#include "engine/EditingEngine.h"
+#include "engine/EditorPage.h"
+
+#include <QPointer>
+
+#include <utility>
+
+namespace velor {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::chrono::milliseconds answerLimit = 1min;
+/// A process that ends while it parses is replaced once.
+constexpr int mostTries = 2;
+
+/// What leads from one text to the other, for the script.
+QString Edit(const QString &before, const QString &after) {
+  const auto difference = TextDifference::Between(before, after);
+  return QStringLiteral("[%1,%2,%3]")
+      .arg(difference.start)
+      .arg(difference.removed)
+      .arg(ScriptValue(difference.InsertedIn(after).toString()));
+}
+
+}  // namespace
+
+EngineVerifier::EngineVerifier(EditingEngine &engine) : engine_(engine) {}
+
+EngineVerifier::~EngineVerifier() {
+  // The engine answers what is still open while the page is deleted.
+  wanted_ = {};
+  then_ = {};
+}
+
+std::optional<QString> EngineVerifier::Known(const QString &text) const {
+  if (last_.serialisation.isEmpty() || last_.text != text) return std::nullopt;
+  return last_.serialisation;
+}
+
+std::optional<QString> EngineVerifier::Serialisation(const QString &text) {
+  return SerialisationLike(text, given_.expected);
+}
+
+std::optional<QString> EngineVerifier::SerialisationLike(const QString &text,
+                                                         const QString &expected) {
+  return Answer({text, expected}, nullptr, nullptr);
+}
+
+std::optional<QString> EngineVerifier::Answer(const Question &question, const Patience *patience,
+                                              bool *isStopped) {
+  const QString &text = question.text;
+  if (const auto known = Known(text)) return known;
+  if (engine_.Guard().InCallback()) return std::nullopt;
+  for (int tries = 0; tries < mostTries && !Known(text); ++tries) {
+    if (wanted_.text != text) Foresee(text, question.expected, {});
+    const WaitEnd end =
+        GuardedWait(engine_.Guard())
+            .Until(
+                *this, answerLimit, [&] { return Known(text).has_value() || wanted_.text != text; },
+                patience);
+    if (end != WaitEnd::Stopped) continue;
+    *isStopped = true;
+    wanted_ = {};
+    given_ = {};
+    isReady_ = false;
+    if (page_ != nullptr) EndRenderer(*page_);
+    page_.reset();
+    return std::nullopt;
+  }
+  return Known(text);
+}
+
+std::optional<QString> EngineVerifier::Stoppable::Serialisation(const QString &text) {
+  return SerialisationLike(text, verifier_.given_.expected);
+}
+
+std::optional<QString> EngineVerifier::Stoppable::SerialisationLike(const QString &text,
+                                                                    const QString &expected) {
+  if (isStopped_) return std::nullopt;
+  return verifier_.Answer({text, expected}, &patience_, &isStopped_);
+}
+
+void EngineVerifier::Foresee(const QString &text, const QString &expected,
+                             std::function<void()> then) {
+  wanted_ = {text, expected};
+  then_ = std::move(then);
+  isAsked_ = false;
+  if (page_ == nullptr) Start();
+  if (isReady_) Ask();
+}
+
+std::int64_t EngineVerifier::ProcessId() const {
+  return page_ == nullptr ? 0 : page_->renderProcessPid();
+}
+
+void EngineVerifier::Start() {
+  isReady_ = false;
+  given_ = {};
+  page_ = std::make_unique<EditorPage>(&engine_.Profile(), engine_.Guard(), nullptr);
+  const QUrl address = engine_.Scheme().Offer(QStringLiteral("/"), QStringLiteral("<p>"));
+  connect(page_.get(), &QWebEnginePage::loadFinished, this, [this, address, page = page_.get()] {
+    const EngineCallback callback(engine_.Guard());
+    if (page != page_.get()) return;
+    engine_.Scheme().Withdraw(address);
+    page_->runJavaScript(engine_.Bridge(), bridgeWorld);
+    isReady_ = true;
+    if (!wanted_.text.isEmpty() && !isAsked_) Ask();
+  });
+  connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, [this] {
+    const EngineCallback callback(engine_.Guard());
+    isReady_ = false;
+    wanted_ = {};
+    page_.release()->deleteLater();
+    engine_.Guard().Wake();
+  });
+  static_cast<EditorPage *>(page_.get())->LoadOwn(address);
+}
+
+void EngineVerifier::Ask() {
+  isAsked_ = true;
+  const Question before = std::exchange(given_, wanted_);
+  page_->runJavaScript(
+      QStringLiteral("velor.parsed(%1,%2)")
+          .arg(Edit(before.text, given_.text), Edit(before.expected, given_.expected)),
+      bridgeWorld, [self = QPointer<EngineVerifier>(this), asked = given_](const QVariant &answer) {
+        if (self == nullptr || self->wanted_.text != asked.text) return;
+        const EngineCallback callback(self->engine_.Guard());
+        const bool isExpected = answer.typeId() == QMetaType::Bool && answer.toBool();
+        self->last_ = {asked.text, isExpected ? asked.expected : answer.toString()};
+        self->wanted_ = {};
+        if (const auto then = std::exchange(self->then_, {})) then();
+        self->engine_.Guard().Wake();
+      });
+}
+
+}  // namespace velor

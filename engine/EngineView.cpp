@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/EngineView.h"
+
+#include "engine/BridgeScript.h"
+#include "engine/EditorInput.h"
+#include "engine/EditorPage.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+#include <QWebEngineHistory>
+#include <QWebEngineLoadingInfo>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineView>
+
+#include <memory>
+#include <utility>
+
+namespace velor {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// The longest that input is waited for; usually the page says within milliseconds that it is
+/// there.
+constexpr std::chrono::milliseconds inputTravel = 500ms;
+/// The longest that the notice of a process's end is waited for.
+constexpr std::chrono::milliseconds endTravel = 1s;
+
+/// A document that is in design mode from its beginning is laid out once; `velor.start` turns the
+/// mode on in any case, but then everything is laid out a second time.
+QWebEngineScript DesignModeScript() {
+  QWebEngineScript script;
+  script.setName(QStringLiteral("designMode"));
+  script.setSourceCode(QStringLiteral("document.designMode = 'on'"));
+  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+  script.setWorldId(bridgeWorld);
+  return script;
+}
+
+}  // namespace
+
+EngineView::EngineView(EditingEngine &engine, QWidget *container)
+    : engine_(engine), host_(engine.Guard()), view_(new QWebEngineView(container)) {
+  page_ = new EditorPage(&engine.Profile(), engine.Guard(), view_);
+  page_->setBackgroundColor(Qt::white);
+  channel_.registerObject(QStringLiteral("velorHost"), &host_);
+  page_->setWebChannel(&channel_, bridgeWorld);
+  page_->scripts().insert(DesignModeScript());
+  view_->setPage(page_);
+  view_->setContextMenuPolicy(Qt::CustomContextMenu);
+  input_ = new EditorInput(view_, [this](const QEvent &input) { return Keep(input); });
+  container->layout()->addWidget(view_);
+  container->setFocusProxy(view_);
+
+  connect(&host_, &BridgeHost::StateArrived, this, [this](const StateSnapshot &state) {
+    // While a page loads the channel may still deliver what the page before it had to say.
+    if (phase_ == Phase::Ready) Q_EMIT StateArrived(state);
+  });
+  connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
+  connect(&host_, &BridgeHost::MirrorArrived, this, [this](const QVariantMap &told) {
+    if (phase_ == Phase::Ready) Q_EMIT MirrorArrived(told);
+  });
+  connect(&host_, &BridgeHost::PictureWanted, this, [this] {
+    if (phase_ == Phase::Ready) Q_EMIT PictureWanted();
+  });
+  connect(&host_, &BridgeHost::EarlierWanted, this, [this] {
+    if (phase_ == Phase::Ready) Q_EMIT EarlierWanted();
+  });
+  connect(&host_, &BridgeHost::LaterWanted, this, [this] {
+    if (phase_ == Phase::Ready) Q_EMIT LaterWanted();
+  });
+  connect(&host_, &BridgeHost::InputArrived, this, &EngineView::InputArrived);
+  patience_.setSingleShot(true);
+  patience_.setInterval(inputTravel);
+  connect(&patience_, &QTimer::timeout, this, &EngineView::InputArrived);
+  leaving_.setSingleShot(true);
+  leaving_.setInterval(1ms);
+  connect(&leaving_, &QTimer::timeout, this, &EngineView::Proceed);
+  connect(input_, &EditorInput::InputComing, this, [this] {
+    sinceInput_.start();
+    followed_ = false;
+    Q_EMIT InputComing();
+  });
+  connect(input_, &EditorInput::FilesDropped, this, &EngineView::FilesDropped);
+  connect(view_, &QWebEngineView::customContextMenuRequested, this, [this](QPoint position) {
+    const EngineCallback callback(engine_.Guard());
+    Q_EMIT MenuWanted(view_->mapToGlobal(position));
+  });
+  connect(page_, &QWebEnginePage::renderProcessTerminated, this, [this] {
+    const EngineCallback callback(engine_.Guard());
+    phase_ = Phase::Dead;
+    ForgetTurns();
+    Q_EMIT Died();
+    engine_.Guard().Wake();
+  });
+  connect(page_, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo &info) {
+    const EngineCallback callback(engine_.Guard());
+    // Refused navigations of the page's own end here as well, under their own addresses.
+    if (phase_ != Phase::Loading || info.url() != address_) return;
+    if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return;
+    if (info.status() != QWebEngineLoadingInfo::LoadSucceededStatus) return EndLoad(Phase::Failed);
+    Evaluate(engine_.Bridge() + start_, [this, address = address_](const QVariant &answer) {
+      if (phase_ != Phase::Loading || address != address_) return;
+      startAnswer_ = answer;
+      EndLoad(answer.isValid() ? Phase::Ready : Phase::Failed);
+    });
+  });
+}
+
+EngineView::~EngineView() {
+  // The engine answers what is still open while the page is deleted; nobody listens any more.
+  blockSignals(true);
+  phase_ = Phase::Dead;
+  delete view_;
+  engine_.Scheme().Withdraw(address_);
+}
+
+EngineView::Phase EngineView::CurrentPhase() const {
+  return page_ != nullptr ? phase_ : Phase::Dead;
+}
+
+void EngineView::Load(const QString &nativePath, const QString &text, const QString &start) {
+  if (page_ == nullptr) return;
+  engine_.Scheme().Withdraw(address_);
+  address_ = engine_.Scheme().Offer(nativePath, text);
+  start_ = start;
+  startAnswer_ = {};
+  ForgetTurns();
+  const QWidget *focused = view_->window()->focusWidget();
+  hadFocus_ = focused != nullptr && (focused == view_ || view_->isAncestorOf(focused));
+  phase_ = Phase::Loading;
+  page_->LoadOwn(address_);
+}
+
+void EngineView::EndLoad(Phase phase) {
+  phase_ = phase;
+  engine_.Scheme().Withdraw(address_);
+  page_->history()->clear();
+  input_->Attach();
+  // The engine may have put another input widget in the place of the one that the person used.
+  if (hadFocus_) view_->setFocus();
+  Q_EMIT LoadEnded();
+  engine_.Guard().Wake();
+}
+
+void EngineView::Run(const QString &expression,
+                     const std::function<void(const QVariant &)> &answer) {
+  if (CurrentPhase() != Phase::Ready) return;
+  turns_.push_back({nullptr, expression, answer});
+  // Input that waits before it leaves when it may.
+  if (turns_.size() == 1) Proceed();
+}
+
+bool EngineView::Keep(const QEvent &input) {
+  if (sending_ || CurrentPhase() != Phase::Ready) return false;
+  if (commands_ == 0 && turns_.empty()) return false;
+  turns_.push_back({std::unique_ptr<QEvent>(input.clone()), {}, {}});
+  return true;
+}
+
+void EngineView::Proceed() {
+  if (proceeding_) return;
+  const QPointer<EngineView> alive(this);
+  proceeding_ = true;
+  while (CurrentPhase() == Phase::Ready && !turns_.empty()) {
+    if (turns_.front().input != nullptr ? commands_ > 0 : InputOnItsWay()) break;
+    const Turn turn = std::move(turns_.front());
+    turns_.pop_front();
+    if (turn.input == nullptr) {
+      Evaluate(turn.expression, turn.answer);
+    } else {
+      SendInput(*turn.input);
+      if (alive == nullptr) return;
+    }
+  }
+  proceeding_ = false;
+  if (!turns_.empty() && turns_.front().input == nullptr && !patience_.isActive()) FollowInput();
+}
+
+void EngineView::SendInput(QEvent &input) {
+  const QPointer<EngineView> alive(this);
+  sending_ = true;
+  QCoreApplication::sendEvent(view_->focusProxy(), &input);
+  if (alive != nullptr) sending_ = false;
+}
+
+void EngineView::ForgetTurns() {
+  turns_.clear();
+  commands_ = 0;
+  sinceInput_.invalidate();
+  patience_.stop();
+}
+
+bool EngineView::InputOnItsWay() const {
+  return sinceInput_.isValid() && !sinceInput_.hasExpired(inputTravel.count());
+}
+
+void EngineView::FollowInput() {
+  // Let go after all the others, this key says when they are there (engine/bridge/talk/arrivals.js).
+  followed_ = true;
+  QKeyEvent last(QEvent::KeyRelease, Qt::Key_F24, Qt::NoModifier);
+  SendInput(last);
+  patience_.start();
+}
+
+void EngineView::InputArrived() {
+  if (followed_) sinceInput_.invalidate();
+  patience_.stop();
+  if (turns_.empty() || turns_.front().input == nullptr) Proceed();
+  if (!turns_.empty()) leaving_.start();
+  engine_.Guard().Wake();
+}
+
+void EngineView::Evaluate(const QString &expression,
+                          const std::function<void(const QVariant &)> &answer) {
+  if (!answer) ++commands_;
+  page_->runJavaScript(expression, bridgeWorld,
+                       [alive = QPointer<EngineView>(this), &guard = engine_.Guard(), answer,
+                        address = address_](const QVariant &value) {
+                         if (alive == nullptr) return;
+                         const EngineCallback callback(guard);
+                         if (answer) return answer(value);
+                         if (address != alive->address_ || alive->commands_ == 0) return;
+                         if (--alive->commands_ == 0 && !alive->turns_.empty())
+                           alive->leaving_.start();
+                       });
+}
+
+std::optional<QVariant> EngineView::Ask(const QString &expression, std::chrono::milliseconds limit,
+                                        const Patience *patience) {
+  if (CurrentPhase() != Phase::Ready || engine_.Guard().InCallback()) return std::nullopt;
+  // Shared, since the answer may come when nobody waits any more.
+  const auto value = std::make_shared<std::optional<QVariant>>();
+  Run(expression, [this, value](const QVariant &answer) {
+    *value = answer;
+    engine_.Guard().Wake();
+  });
+  const WaitEnd end = Wait(
+      limit,
+      [this, value, address = address_] {
+        return value->has_value() || CurrentPhase() != Phase::Ready || address != address_;
+      },
+      patience);
+  if (end == WaitEnd::Destroyed) return std::nullopt;
+  wasStopped_ = end == WaitEnd::Stopped;
+  if (wasStopped_) EndProcess();
+  return end == WaitEnd::Done ? *value : std::nullopt;
+}
+
+void EngineView::EndProcess() {
+  if (page_ == nullptr) return;
+  EndRenderer(*page_);
+  Wait(endTravel, [this] { return CurrentPhase() == Phase::Dead; });
+}
+
+void EngineView::AwaitInput() {
+  if (CurrentPhase() != Phase::Ready || engine_.Guard().InCallback()) return;
+  if (!InputOnItsWay()) return;
+  FollowInput();
+  Wait(inputTravel, [this] { return !sinceInput_.isValid() || CurrentPhase() != Phase::Ready; });
+}
+
+WaitEnd EngineView::Wait(std::chrono::milliseconds limit, const std::function<bool()> &done,
+                         const Patience *patience) {
+  return GuardedWait(engine_.Guard()).Until(*this, limit, done, patience);
+}
+
+void EngineView::SetFocus() {
+  if (view_ != nullptr) view_->setFocus();
+}
+
+}  // namespace velor

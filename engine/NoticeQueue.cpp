@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/NoticeQueue.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <utility>
+
+namespace velor {
+
+NoticeQueue::NoticeQueue(EngineGuard &guard) : guard_(guard) {
+  timer_.setSingleShot(true);
+  timer_.setTimerType(Qt::PreciseTimer);
+  timer_.setInterval(1);
+  connect(&timer_, &QTimer::timeout, this, &NoticeQueue::Deliver);
+}
+
+void NoticeQueue::Post(Notice kind, std::function<void()> deliver) {
+  const auto same = std::find_if(waiting_.begin(), waiting_.end(),
+                                 [kind](const Waiting &other) { return other.kind == kind; });
+  if (same != waiting_.end() && kind != Notice::Report) {
+    same->deliver = std::move(deliver);
+  } else {
+    const auto place =
+        std::upper_bound(waiting_.begin(), waiting_.end(), kind,
+                         [](Notice wanted, const Waiting &other) { return wanted < other.kind; });
+    waiting_.insert(place, {kind, std::move(deliver)});
+  }
+  if (timer_.isActive()) return;
+  timer_.start();
+  QMetaObject::invokeMethod(this, &NoticeQueue::Deliver, Qt::QueuedConnection);
+}
+
+void NoticeQueue::Deliver() {
+  const QPointer<NoticeQueue> alive(this);
+  while (alive != nullptr && !waiting_.empty()) {
+    // Still running while a notice is delivered, for the others: its receiver may raise an error,
+    // show a dialog or wait for the engine.
+    timer_.start();
+    if (guard_.Waiting()) return;
+    const Waiting first = std::move(waiting_.front());
+    waiting_.erase(waiting_.begin());
+    first.deliver();
+  }
+  if (alive != nullptr) timer_.stop();
+}
+
+}  // namespace velor

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "engine/GuardedWait.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <vector>
+
+namespace velor {
+
+/// What a component has to tell, in the order in which it is told when several wait.
+enum class Notice {
+  LoadEnded,
+  Complete,
+  Display,
+  Memory,
+  Picture,
+  Pointer,
+  Menu,
+  Drop,
+  Report,
+  Travel,
+  Died
+};
+
+/// Notices on their way out. They leave with the next posted events: by then the engine's callback
+/// or the caller that caused them has returned. While a wait runs none leaves; a timer of a
+/// millisecond takes care of those that could not.
+class NoticeQueue : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit NoticeQueue(EngineGuard &guard);
+
+  /// Two waiting notices of one kind are one, the later; reports are all told.
+  void Post(Notice kind, std::function<void()> deliver);
+  /// Delivers everything that waits; only outside of engine callbacks.
+  void Deliver();
+
+ private:
+  struct Waiting {
+    Notice kind;
+    std::function<void()> deliver;
+  };
+
+  EngineGuard &guard_;
+  QTimer timer_;
+  std::vector<Waiting> waiting_;
+};
+
+}  // namespace velor

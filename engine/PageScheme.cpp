@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/PageScheme.h"
+
+#include "platform/Paths.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QMimeDatabase>
+#include <QWebEngineUrlRequestJob>
+#include <QWebEngineUrlScheme>
+
+namespace velor {
+
+namespace {
+
+/// The engine spells an address in its own way; path and query say what it is.
+QString Key(const QUrl &address) {
+  return address.path(QUrl::FullyDecoded) + u'?' + address.query();
+}
+
+/// The existing regular file that an address stands for; empty when there is none.
+QString FileOf(const QUrl &address) {
+  const QString path = address.path(QUrl::FullyDecoded);
+  // Links written with "\" are as common in old pages as the browsers of their time allowed.
+  for (const QString &candidate :
+       {path, FindIgnoringCase(ToLogic(path)), FindIgnoringCase(QString(path).replace('/', '\\'))})
+    if (QFileInfo(candidate).isFile()) return candidate;
+  return {};
+}
+
+}  // namespace
+
+void RegisterPageScheme() {
+  if (!QWebEngineUrlScheme::schemeByName(PageScheme::Name()).name().isEmpty()) return;
+  QWebEngineUrlScheme scheme(PageScheme::Name());
+  scheme.setSyntax(QWebEngineUrlScheme::Syntax::Path);
+  scheme.setFlags(QWebEngineUrlScheme::SecureScheme | QWebEngineUrlScheme::LocalScheme |
+                  QWebEngineUrlScheme::LocalAccessAllowed);
+  QWebEngineUrlScheme::registerScheme(scheme);
+}
+
+QByteArray PageScheme::Name() {
+  return QByteArrayLiteral("velor-page");
+}
+
+QUrl PageScheme::Offer(const QString &nativePath, const QString &text) {
+  QUrl address;
+  address.setScheme(QString::fromLatin1(Name()));
+  address.setPath(nativePath, QUrl::DecodedMode);
+  address.setQuery(QStringLiteral("page=%1").arg(++lastNumber_));
+  offered_[Key(address)] = text.toUtf8();
+  return address;
+}
+
+void PageScheme::Withdraw(const QUrl &address) {
+  offered_.erase(Key(address));
+}
+
+void PageScheme::requestStarted(QWebEngineUrlRequestJob *job) {
+  const QUrl address = job->requestUrl();
+  if (const auto page = offered_.find(Key(address)); page != offered_.end()) {
+    auto *buffer = new QBuffer(job);
+    buffer->setData(page->second);
+    job->reply(QByteArrayLiteral("text/html; charset=utf-8"), buffer);
+    return;
+  }
+  auto *file = new QFile(FileOf(address), job);
+  if (file->fileName().isEmpty() || !file->open(QIODevice::ReadOnly)) {
+    job->fail(QWebEngineUrlRequestJob::UrlNotFound);
+    return;
+  }
+  job->reply(QMimeDatabase().mimeTypeForFile(file->fileName()).name().toLatin1(), file);
+}
+
+}  // namespace velor

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/StateSnapshot.h"
+
+#include "platform/EditingCommands.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace velor {
+
+namespace {
+
+/// The status of that published number; anything else is not supported.
+CommandStatus StatusOfNumber(int number) {
+  switch (static_cast<CommandStatus>(number)) {
+    case CommandStatus::Disabled:
+    case CommandStatus::Enabled:
+    case CommandStatus::Latched:
+    case CommandStatus::Ninched:
+      return static_cast<CommandStatus>(number);
+    case CommandStatus::NotSupported:
+      break;
+  }
+  return CommandStatus::NotSupported;
+}
+
+SelectionType SelectionOfName(const QString &name) {
+  if (name == u"Text") return SelectionType::Text;
+  if (name == u"Control") return SelectionType::Control;
+  return SelectionType::None;
+}
+
+HtmlElement ElementOf(const QJsonObject &object) {
+  HtmlElement element;
+  element.tagName = object[u"tag"].toString();
+  const QJsonArray attributes = object[u"attributes"].toArray();
+  for (const QJsonValue &pair : attributes)
+    element.attributes.emplace_back(pair[0].toString(), pair[1].toString());
+  return element;
+}
+
+struct ValueField {
+  EditingCommand command;
+  QString StateSnapshot::*field;
+};
+
+constexpr ValueField valueFields[] = {
+    {EditingCommand::GetFontName, &StateSnapshot::fontName},
+    {EditingCommand::GetFontSize, &StateSnapshot::fontSize},
+    {EditingCommand::GetForeColor, &StateSnapshot::foreColor},
+    {EditingCommand::GetBackColor, &StateSnapshot::backColor},
+    {EditingCommand::GetBlockFormat, &StateSnapshot::blockFormat},
+};
+
+}  // namespace
+
+std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
+  const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
+  if (!document.isObject()) return std::nullopt;
+  const QJsonObject object = document.object();
+  StateSnapshot state;
+  state.version = object[u"version"].toInt();
+  state.dirty = object[u"dirty"].toBool();
+  state.generation = object[u"generation"].toInt();
+  const QJsonObject commands = object[u"commands"].toObject();
+  for (auto entry = commands.begin(); entry != commands.end(); ++entry)
+    state.commands[entry.key().toInt()] = StatusOfNumber(entry.value().toInt());
+  state.fontName = object[u"fontName"].toString();
+  state.fontSize = object[u"fontSize"].toString();
+  state.foreColor = object[u"foreColor"].toString();
+  state.backColor = object[u"backColor"].toString();
+  state.blockFormat = object[u"blockFormat"].toString();
+  state.selection = SelectionOfName(object[u"selection"].toString());
+  state.element = ElementOf(object[u"element"].toObject());
+  return state;
+}
+
+CommandStatus StateSnapshot::StatusOf(int command) const {
+  const auto status = commands.find(command);
+  return status != commands.end() ? status->second : CommandStatus::NotSupported;
+}
+
+std::optional<QString> StateSnapshot::ValueOf(int command) const {
+  for (const ValueField &value : valueFields)
+    if (Number(value.command) == command) return this->*value.field;
+  return std::nullopt;
+}
+
+}  // namespace velor

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/EditingComponent.h"
+
+#include <QString>
+
+#include <map>
+#include <optional>
+
+namespace velor {
+
+/// The state of a page as the bridge last pushed it (docs/bridge.md): what the commands' states,
+/// their values and the document object answer from without asking the page.
+struct StateSnapshot {
+  int version = 0;
+  /// The content changed since the push before.
+  bool dirty = false;
+  /// Which of the documents that took one another's place this is (engine/bridge/page/replace.js).
+  int generation = 0;
+  std::map<int, CommandStatus> commands;
+  QString fontName;
+  QString fontSize;
+  QString foreColor;
+  QString backColor;
+  QString blockFormat;
+  SelectionType selection = SelectionType::None;
+  HtmlElement element;
+
+  /// Nothing for a text that is no state.
+  static std::optional<StateSnapshot> FromJson(const QString &json);
+
+  /// A command that the state does not name counts as not supported.
+  CommandStatus StatusOf(int command) const;
+  /// The value of a query command; nothing for any other command.
+  std::optional<QString> ValueOf(int command) const;
+};
+
+}  // namespace velor

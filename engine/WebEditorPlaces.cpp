@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The caret's place in terms that hold for the page's source as well.
+#include "engine/BridgeScript.h"
+#include "engine/WebEditor.h"
+
+#include <QVariantMap>
+
+namespace velor {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A convenience: it may not hold up a change of modes for longer.
+constexpr std::chrono::milliseconds placeLimit = 400ms;
+
+const QString Name = QStringLiteral("name");
+const QString Ordinal = QStringLiteral("ordinal");
+const QString Offset = QStringLiteral("offset");
+
+}  // namespace
+
+ElementPlaces WebEditor::CaretPlaces() {
+  ElementPlaces places;
+  if (view_ == nullptr) return places;
+  const auto answer = view_->Ask(QStringLiteral("velor.caretPlaces()"), placeLimit);
+  if (!answer) return places;
+  for (const QVariant &each : answer->toList()) {
+    const QVariantMap place = each.toMap();
+    places.push_back({place[Name].toString(), place[Ordinal].toInt(), place[Offset].toInt()});
+  }
+  return places;
+}
+
+void WebEditor::ShowPlace(const ElementPlaces &places) {
+  QVariantList list;
+  for (const ElementPlace &place : places)
+    list << QVariantMap{{Name, place.name}, {Ordinal, place.ordinal}, {Offset, place.offset}};
+  Run(QStringLiteral("velor.showPlace(%1)").arg(ScriptValue(list)));
+}
+
+}  // namespace velor

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/ReplacedFiles.h"
+
+#include "platform/Paths.h"
+#include "files/StateFolder.h"
+#include "files/FileBytes.h"
+#include "files/FileReplacement.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <unistd.h>
+
+namespace velor {
+
+namespace {
+
+QString Origin(const QString &kept) {
+  return kept + QStringLiteral(".from");
+}
+
+/// The end of a name, short enough that time and suffix fit before and behind it.
+QString ShortName(const QString &nativePath) {
+  constexpr qsizetype most = 60;  // UTF-16 units, of up to three bytes each
+  return QFileInfo(nativePath).fileName().right(most);
+}
+
+QString FreeName(const QString &folder, const QDateTime &time, const QString &name) {
+  const QString stamp = time.toString(QStringLiteral("yyyy-MM-dd'T'HH-mm-ss.zzz"));
+  for (int number = 1;; ++number) {
+    // With the process's number, since another copy may be at the same thing.
+    const QString path =
+        QStringLiteral("%1/%2-%3-%4 %5")
+            .arg(folder, stamp, QString::number(getpid()), QString::number(number), name);
+    if (!QFileInfo::exists(Origin(path))) return path;
+  }
+}
+
+}  // namespace
+
+QString ReplacedFiles::Keep(const QString &path, const QByteArray &content) {
+  return KeepNative(ToNative(path), content);
+}
+
+QString ReplacedFiles::KeepNative(const QString &nativePath, const QByteArray &content) {
+  const QString folder = StateFolder() + QStringLiteral("/replaced");
+  MakePrivateFolder(folder);
+  const QDateTime now = QDateTime::currentDateTimeUtc();
+  QString kept = FreeName(folder, now, ShortName(nativePath));
+  // First what it is, so that no version lies there that nobody knows.
+  const QString origin =
+      QStringLiteral("%1\n%2\n").arg(nativePath, now.toString(Qt::ISODateWithMs));
+  CreatePrivateFile(Origin(kept), origin.toUtf8(), calls_);
+  CreatePrivateFile(kept, content, calls_);
+
+  QStringList origins =
+      QDir(folder).entryList({QStringLiteral("*.from")}, QDir::Files | QDir::Hidden, QDir::Name);
+  for (qsizetype i = 0; i < origins.size() - MostVersions; ++i) {
+    const QString oldest = folder + u'/' + origins[i];
+    Forget(oldest.chopped(Origin({}).size()));
+  }
+  return kept;
+}
+
+void ReplacedFiles::Forget(const QString &kept) {
+  for (const QString &name : {kept, Origin(kept)}) {
+    Uninterrupted([&] { return calls_.Unlink(QFile::encodeName(name).constData()); });
+  }
+}
+
+}  // namespace velor

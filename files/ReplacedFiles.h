@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/ReplacedVersions.h"
+#include "files/FileCalls.h"
+
+namespace velor {
+
+/// Replaced versions as files in `replaced` below the state folder: the content under its time and
+/// the file's name, and beside it, with ".from" at the end, the path and the time.
+class ReplacedFiles : public ReplacedVersions {
+ public:
+  explicit ReplacedFiles(FileCalls &calls = FileCalls::OfTheSystem()) : calls_(calls) {}
+
+  QString Keep(const QString &path, const QByteArray &content) override;
+  /// The same for a native path; answers where it lies.
+  QString KeepNative(const QString &nativePath, const QByteArray &content);
+  /// Lets go of a version again.
+  void Forget(const QString &kept);
+
+  static constexpr int MostVersions = 200;
+
+ private:
+  FileCalls &calls_;
+};
+
+}  // namespace velor

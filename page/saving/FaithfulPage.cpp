@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "page/saving/FaithfulPage.h"
+
+#include "page/text/HtmlElements.h"
+#include "page/saving/PageVerifier.h"
+#include "page/saving/SourcePatches.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velor {
+
+namespace {
+
+/// More tries than this would keep a person waiting longer than a page written anew is worth, nor
+/// may they parse more than so many units together. One try is always made.
+struct Effort {
+  qsizetype tries;
+  qsizetype parsed;
+
+  qsizetype For(const QString &text) const {
+    return std::clamp(parsed / std::max<qsizetype>(text.size(), 1), qsizetype{1}, tries);
+  }
+};
+constexpr Effort untilEqual{24, 40'000'000};
+constexpr Effort untilSmallest{120, 10'000'000};
+
+/// Insertions taken apart where tags begin, so that each tag can be done without.
+std::vector<TextPatch> TagByTag(const std::vector<TextPatch> &patches) {
+  std::vector<TextPatch> parts;
+  for (const TextPatch &patch : patches) {
+    qsizetype done = 0;
+    if (patch.start == patch.end) {
+      for (const HtmlToken &token : TokenizeHtml(patch.text)) {
+        if (!token.IsTag() || token.offset == done) continue;
+        parts.push_back({patch.start, patch.end, patch.text.sliced(done, token.offset - done)});
+        done = token.offset;
+      }
+    }
+    parts.push_back({patch.start, patch.end, patch.text.sliced(done)});
+  }
+  return parts;
+}
+
+/// Insertions at one place made one again.
+std::vector<TextPatch> Joined(const std::vector<TextPatch> &patches) {
+  std::vector<TextPatch> joined;
+  for (const TextPatch &patch : patches) {
+    const bool goesOn = !joined.empty() && joined.back().end == patch.start &&
+                        joined.back().start == joined.back().end && patch.start == patch.end;
+    if (goesOn)
+      joined.back().text += patch.text;
+    else
+      joined.push_back(patch);
+  }
+  return joined;
+}
+
+qsizetype FirstDifference(QStringView one, QStringView other) {
+  const auto [end, unused] = std::mismatch(one.begin(), one.end(), other.begin(), other.end());
+  return end - one.begin();
+}
+
+/// The body's and the root's end tag match nothing: a parser moves the text behind them, which
+/// edits are far more often about, before them.
+std::vector<HtmlToken> WithoutLastTags(std::vector<HtmlToken> tokens) {
+  for (HtmlToken &token : tokens) {
+    const bool isLast = token.name == elements::body || token.name == elements::html;
+    if (isLast && token.kind == HtmlTokenKind::EndTag) token.key = 0;
+  }
+  return tokens;
+}
+
+}  // namespace
+
+/// How one serialisation is written.
+struct FaithfulPage::Plan {
+  Plan(TokenText current, const TokenText &source, const TokenText &before,
+       const TokenAlignment &sourceToBefore, LineEnds lineEnds)
+      : now(std::move(current)),
+        alignment(AlignTokens(before.tokens, now.tokens, InStep::WithEdit)),
+        edits(FindEdits(before, now, alignment)),
+        steps(edits.size()),
+        patcher(source, before, now, sourceToBefore, alignment, lineEnds) {}
+
+  /// The edit that is most likely behind a first difference at that place of the document: the
+  /// nearest.
+  PatchStep &StepAt(qsizetype place) {
+    std::size_t nearest = 0;
+    qsizetype shortest = now.text.size() + 1;
+    for (std::size_t number = 0; number < edits.size(); ++number) {
+      const std::int32_t start = edits[number].now;
+      const std::int32_t end = edits[number].nowEnd;
+      const qsizetype from = start < now.Count() ? now.At(start).offset : now.text.size();
+      const qsizetype to = end > start ? now.At(end - 1).End() : from;
+      const qsizetype distance = place < from ? from - place : std::max<qsizetype>(0, place - to);
+      if (distance >= shortest) continue;
+      shortest = distance;
+      nearest = number;
+    }
+    return steps[nearest];
+  }
+
+  SaveRung Rung() const {
+    int highest = PatchStep::alone;
+    for (const PatchStep step : steps) highest = std::max(highest, step.number);
+    if (highest == PatchStep::alone) return SaveRung::Edits;
+    return highest < PatchStep::element ? SaveRung::ImpliedTags : SaveRung::Elements;
+  }
+
+  TokenText now;
+  TokenAlignment alignment;
+  std::vector<PageEdit> edits;
+  std::vector<PatchStep> steps;
+  SourcePatches patcher;
+  std::optional<SavedPage> result;
+};
+
+FaithfulPage::FaithfulPage(PageOriginal original)
+    : original_(std::move(original)), mask_(original_.page.text) {}
+
+void FaithfulPage::SetBaseline(const QString &serialisation) {
+  original_.baseline = serialisation;
+  before_.reset();
+  plan_.reset();
+}
+
+void FaithfulPage::Prepare() {
+  if (!source_) source_.emplace(mask_.MaskedText());
+  if (before_) return;
+  before_.emplace(original_.baseline, HtmlOrigin::Serialisation);
+  sourceToBefore_ =
+      AlignTokens(WithoutLastTags(source_->tokens), before_->tokens, InStep::WithSerialisation);
+}
+
+FaithfulPage::Plan &FaithfulPage::PlanFor(const QString &current) {
+  Prepare();
+  if (plan_ != nullptr && plan_->now.text == current) return *plan_;
+  // A plan that is still being carried out keeps its tokens.
+  const bool isFree = plan_.use_count() == 1;
+  TokenText like = isFree ? std::move(plan_->now) : plan_ != nullptr ? plan_->now : *before_;
+  plan_ = std::make_shared<Plan>(TokenText(current, std::move(like)), *source_, *before_,
+                                 sourceToBefore_, original_.page.encoding.lineEnds);
+  return *plan_;
+}
+
+std::optional<QString> FaithfulPage::FirstTry(const QString &current) {
+  if (original_.baseline.isEmpty() || current == original_.baseline) return std::nullopt;
+  const Plan &plan = PlanFor(current);
+  const auto patches = plan.patcher.For(plan.edits, plan.steps);
+  if (!patches) return std::nullopt;
+  return Patched(mask_.MaskedText(), *patches);
+}
+
+void FaithfulPage::MakeReady() {
+  if (!original_.baseline.isEmpty()) Prepare();
+}
+
+SavedPage FaithfulPage::Compose(const QString &current, PageVerifier &verifier) {
+  if (original_.baseline.isEmpty()) return Everything(current);
+  if (current == original_.baseline)
+    return {{original_.page.text, original_.bytes}, SaveRung::Unedited};
+  PlanFor(current);
+  // The verifier may wait for the engine, and another call may come meanwhile.
+  const std::shared_ptr<Plan> plan = plan_;
+  if (!plan->result) plan->result = Climb(*plan, verifier, Tries::All);
+  return plan->result ? *plan->result : Everything(current);
+}
+
+void FaithfulPage::Foresee(const QString &current, PageVerifier &verifier) {
+  if (original_.baseline.isEmpty() || current == original_.baseline) return;
+  Plan &plan = PlanFor(current);
+  if (!plan.result) plan.result = Climb(plan, verifier, Tries::First);
+}
+
+void FaithfulPage::Rest() {
+  plan_.reset();
+  source_.reset();
+  before_.reset();
+}
+
+std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
+                                             Tries tries) const {
+  const QString &wanted = plan.now.text;
+  std::optional<QString> wantedAgain;  // what the document is once it has been parsed again
+  for (qsizetype left = tries == Tries::All ? untilEqual.For(wanted) : 1; left > 0; --left) {
+    const auto patches = plan.patcher.For(plan.edits, plan.steps);
+    if (!patches) return std::nullopt;
+    const auto document = verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wanted);
+    if (!document) return std::nullopt;
+    const bool isFirstMiss = *document != wanted && !wantedAgain;
+    if (isFirstMiss) wantedAgain = verifier.Serialisation(wanted);
+    if (*document == wanted || document == wantedAgain) {
+      const SaveRung rung = plan.Rung();
+      return Splice(rung == SaveRung::Edits ? *patches : Smallest(*patches, *document, verifier),
+                    rung);
+    }
+    if (plan.steps.empty() || tries == Tries::First) return std::nullopt;
+    if (isFirstMiss && wantedAgain && *wantedAgain != wanted) {
+      if (auto saved = Moved(*wantedAgain, verifier)) return saved;
+    }
+    ++plan.StepAt(FirstDifference(wanted, *document)).number;
+  }
+  return std::nullopt;
+}
+
+/// A parser moves what the document has where no markup can put it. Written where the parser moves
+/// it to, it may need nothing else.
+std::optional<SavedPage> FaithfulPage::Moved(const QString &wantedAgain,
+                                             PageVerifier &verifier) const {
+  const Plan plan(TokenText(wantedAgain, *before_), *source_, *before_, sourceToBefore_,
+                  original_.page.encoding.lineEnds);
+  const auto patches = plan.patcher.For(plan.edits, plan.steps);
+  if (!patches) return std::nullopt;
+  if (verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wantedAgain) != wantedAgain)
+    return std::nullopt;
+  return Splice(Smallest(*patches, wantedAgain, verifier), SaveRung::Edits);
+}
+
+/// Leaves out what the document can do without: first halves of the patches, then smaller parts.
+std::vector<TextPatch> FaithfulPage::Smallest(const std::vector<TextPatch> &patches,
+                                              const QString &document,
+                                              PageVerifier &verifier) const {
+  std::vector<TextPatch> kept = TagByTag(patches);
+  qsizetype left = untilSmallest.For(document);
+  for (std::size_t part = kept.size() / 2; part > 0; part /= 2) {
+    for (std::size_t at = 0; at + part <= kept.size() && kept.size() > part && left > 0;) {
+      std::vector<TextPatch> fewer = kept;
+      const auto first = fewer.begin() + static_cast<std::ptrdiff_t>(at);
+      fewer.erase(first, first + static_cast<std::ptrdiff_t>(part));
+      --left;
+      if (verifier.SerialisationLike(Patched(mask_.MaskedText(), fewer), document) == document)
+        kept = std::move(fewer);
+      else
+        at += part;
+    }
+  }
+  return Joined(kept);
+}
+
+SavedPage FaithfulPage::Splice(const std::vector<TextPatch> &patches, SaveRung rung) const {
+  std::vector<TextPatch> own;
+  const QString &masked = mask_.MaskedText();
+  for (const TextPatch &patch : patches) {
+    const qsizetype start = mask_.OutOfMask(patch.start, PageMask::Edge::Start);
+    const qsizetype end = mask_.OutOfMask(patch.end, PageMask::Edge::End);
+    const QString text = masked.mid(start, patch.start - start) + patch.text +
+                         masked.mid(patch.end, end - patch.end);
+    own.push_back({mask_.ToSource(start, PageMask::Edge::Start),
+                   mask_.ToSource(end, PageMask::Edge::End), mask_.Unmask(text)});
+  }
+  return {SpliceBytes(original_, own), rung};
+}
+
+SavedPage FaithfulPage::Everything(const QString &current) const {
+  const PageEncoding &encoding = original_.page.encoding;
+  return {WriteWhole(WithLineEnds(mask_.Unmask(current), encoding.lineEnds), encoding),
+          SaveRung::Everything};
+}
+
+}  // namespace velor

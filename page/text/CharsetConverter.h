@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "page/text/CharsetIndex.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+struct UConverter;
+
+namespace velor {
+
+/// Converts between bytes and text in one charset, as browsers do by the Encoding Standard.
+class CharsetConverter {
+ public:
+  /// `charset` is a WHATWG name.
+  explicit CharsetConverter(const QString &charset);
+  ~CharsetConverter();
+  CharsetConverter(const CharsetConverter &) = delete;
+  CharsetConverter &operator=(const CharsetConverter &) = delete;
+
+  /// Bytes that are no text become U+FFFD.
+  QString Decode(QByteArrayView bytes);
+  /// The same; `offsets` gets for each UTF-16 unit the place of the first byte of its character.
+  QString Decode(QByteArrayView bytes, std::vector<std::int32_t> &offsets);
+
+  /// What would not read back as the same character is written as a decimal reference.
+  QByteArray Encode(const QString &text);
+  /// Where in the text (UTF-16 units) the first character stands that would be written as a
+  /// reference; -1 for none.
+  qsizetype FirstReference(QStringView text);
+
+ private:
+  QString Decode(QByteArrayView bytes, std::vector<std::int32_t> *offsets);
+  QString DecodeUnicode(QByteArrayView bytes, std::vector<std::int32_t> *offsets);
+  QByteArray EncodeUnicode(const QString &text);
+  /// The bytes of a character beyond ASCII; empty for one that the charset lacks.
+  QByteArray BytesOf(char32_t character) const;
+  bool Writes(char32_t character) const;
+
+  CharsetForm form_;
+  bool isGbk_;
+  UConverter *unicode_ = nullptr;        ///< for the forms of Unicode
+  const CharsetIndex *index_ = nullptr;  ///< for all others
+};
+
+}  // namespace velor

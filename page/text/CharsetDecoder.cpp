@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "page/text/CharsetDecoder.h"
+
+namespace velor {
+
+namespace {
+
+constexpr char16_t Replacement = 0xFFFD;
+constexpr char Escape = '\x1b';
+
+constexpr bool IsAscii(unsigned char byte) {
+  return byte < 0x80;
+}
+constexpr bool IsIn(unsigned char byte, int first, int last) {
+  return byte >= first && byte <= last;
+}
+
+/// The text as it comes; no form gives more units than it takes bytes.
+class Sink {
+ public:
+  Sink(qsizetype bytes, std::vector<std::int32_t> *offsets)
+      : text_(bytes, Qt::Uninitialized), offsets_(offsets), next_(text_.data()) {
+    if (offsets_ != nullptr) offsets_->resize(static_cast<std::size_t>(bytes));
+  }
+
+  void Put(char32_t character, qsizetype place) {
+    if (character > 0xFFFF) {
+      Unit(QChar::highSurrogate(character), place);
+      Unit(QChar::lowSurrogate(character), place);
+    } else {
+      Unit(static_cast<char16_t>(character), place);
+    }
+  }
+  QString Text() {
+    const qsizetype size = next_ - text_.constData();
+    text_.truncate(size);
+    if (offsets_ != nullptr) offsets_->resize(static_cast<std::size_t>(size));
+    return std::move(text_);
+  }
+
+ private:
+  void Unit(char16_t unit, qsizetype place) {
+    if (offsets_ != nullptr)
+      (*offsets_)[static_cast<std::size_t>(next_ - text_.constData())] =
+          static_cast<std::int32_t>(place);
+    *next_++ = QChar(unit);
+  }
+
+  QString text_;
+  std::vector<std::int32_t> *offsets_;
+  QChar *next_;
+};
+
+/// One decoder over one text. Each step takes bytes from `at_` on.
+class Decoder {
+ public:
+  Decoder(CharsetForm form, const CharsetIndex &index, QByteArrayView bytes, Sink &sink)
+      : form_(form), index_(index), bytes_(bytes), sink_(sink) {}
+
+  void Run() {
+    if (form_ == CharsetForm::Iso2022Jp) return RunWithStates();
+    while (at_ < bytes_.size()) {
+      const unsigned char byte = Byte(0);
+      const char16_t single = IsAscii(byte) ? byte : index_.singles[byte - 0x80U];
+      if (IsAscii(byte) || single != 0)
+        Take(single, 1);
+      else if (!IsLead(byte))
+        Take(Replacement, 1);
+      else if (form_ == CharsetForm::Gb && Left() > 1 && IsIn(Byte(1), '0', '9'))
+        TakeFour();
+      else if (form_ == CharsetForm::EucJp && byte == 0x8F && Left() > 1 &&
+               IsIn(Byte(1), 0xA1, 0xFE))
+        TakeThree();
+      else
+        TakePair();
+    }
+  }
+
+ private:
+  qsizetype Left() const { return bytes_.size() - at_; }
+  unsigned char Byte(qsizetype offset) const {
+    return static_cast<unsigned char>(bytes_[at_ + offset]);
+  }
+  void Take(char32_t character, qsizetype count) {
+    sink_.Put(character, at_);
+    at_ += count;
+  }
+  /// What is no text: so many bytes, less the last where that is ASCII or would be behind the end.
+  void TakeBroken(qsizetype count) {
+    if (count > Left()) return Take(Replacement, Left());
+    Take(Replacement, IsAscii(Byte(count - 1)) ? count - 1 : count);
+  }
+
+  bool IsLead(unsigned char byte) const {
+    switch (form_) {
+      case CharsetForm::SingleByte:
+        return false;
+      case CharsetForm::ShiftJis:
+        return IsIn(byte, 0x81, 0x9F) || IsIn(byte, 0xE0, 0xFC);
+      case CharsetForm::EucJp:
+        return IsIn(byte, 0xA1, 0xFE) || byte == 0x8E || byte == 0x8F;
+      default:
+        return IsIn(byte, 0x81, 0xFE);
+    }
+  }
+
+  void TakePair() {
+    const char32_t character = Left() > 1 ? index_.pairs[CharsetIndex::Pair(Byte(0), Byte(1))] : 0;
+    if (character != 0) return Take(character, 2);
+    if (form_ == CharsetForm::Big5 && Left() > 1 && Byte(0) == 0x88) {
+      // A letter and an accent that has no character together with it.
+      const bool isSmall = Byte(1) >= 0xA0;
+      const int accent = Byte(1) - (isSmall ? 0xA3 : 0x62);
+      if (accent == 0 || accent == 2) {
+        sink_.Put(isSmall ? 0xEA : 0xCA, at_);
+        return Take(accent == 0 ? 0x304 : 0x30C, 2);
+      }
+    }
+    TakeBroken(2);
+  }
+
+  /// JIS X 0212: 0x8F and two bytes.
+  void TakeThree() {
+    const char32_t character =
+        Left() > 2 ? index_.triples[CharsetIndex::Pair(Byte(1), Byte(2))] : 0;
+    if (character != 0) return Take(character, 3);
+    TakeBroken(3);
+  }
+
+  /// The characters of GB 18030 that are counted through: four bytes, every other one a digit.
+  void TakeFour() {
+    const qsizetype left = Left();
+    if (left < 4 && (left < 3 || IsIn(Byte(2), 0x81, 0xFE))) return Take(Replacement, left);
+    if (!IsIn(Byte(2), 0x81, 0xFE) || !IsIn(Byte(3), '0', '9')) return Take(Replacement, 1);
+    const char32_t character = FourByteCharacter({bytes_.data() + at_, 4});
+    // Such as stand for nothing are taken together.
+    Take(character != 0 ? character : Replacement, 4);
+  }
+
+  void RunWithStates();
+  /// The escape sequence at hand; 0 for what is none.
+  char StateOf(QByteArrayView rest) const;
+
+  CharsetForm form_;
+  const CharsetIndex &index_;
+  QByteArrayView bytes_;
+  Sink &sink_;
+  qsizetype at_ = 0;
+};
+
+char Decoder::StateOf(QByteArrayView rest) const {
+  if (rest.startsWith("\x1b(")) {
+    const char last = rest.size() > 2 ? rest[2] : '\0';
+    return last == 'B' || last == 'J' || last == 'I' ? last : '\0';
+  }
+  return rest.startsWith("\x1b$@") || rest.startsWith("\x1b$B") ? '$' : '\0';
+}
+
+void Decoder::RunWithStates() {
+  char state = 'B';
+  bool isAfterEscape = false;
+  while (at_ < bytes_.size()) {
+    const unsigned char byte = Byte(0);
+    if (bytes_[at_] == Escape) {
+      const char next = StateOf(bytes_.sliced(at_));
+      if (next == '\0') {
+        isAfterEscape = false;
+        Take(Replacement, 1);
+        continue;
+      }
+      // Two in a row hide something.
+      if (isAfterEscape) sink_.Put(Replacement, at_);
+      isAfterEscape = true;
+      state = next;
+      at_ += 3;
+      continue;
+    }
+    isAfterEscape = false;
+    if (state == '$') {
+      if (!IsIn(byte, 0x21, 0x7E)) {
+        Take(Replacement, 1);
+      } else if (Left() == 1 || bytes_[at_ + 1] == Escape) {
+        Take(Replacement, 1);
+      } else {
+        const char32_t character =
+            IsIn(Byte(1), 0x21, 0x7E)
+                ? index_.pairs[CharsetIndex::Pair(byte | 0x80, Byte(1) | 0x80)]
+                : 0;
+        Take(character != 0 ? character : Replacement, 2);
+      }
+    } else if (state == 'I') {
+      Take(IsIn(byte, 0x21, 0x5F) ? static_cast<char32_t>(0xFF61 + byte - 0x21) : Replacement, 1);
+    } else if (!IsAscii(byte) || byte == 0x0E || byte == 0x0F) {
+      Take(Replacement, 1);
+    } else if (state == 'J' && (byte == '\\' || byte == '~')) {
+      Take(byte == '\\' ? 0xA5 : 0x203E, 1);
+    } else {
+      Take(byte, 1);
+    }
+  }
+}
+
+}  // namespace
+
+QString DecodeByIndex(CharsetForm form, const CharsetIndex &index, QByteArrayView bytes,
+                      std::vector<std::int32_t> *offsets) {
+  Sink sink(bytes.size(), offsets);
+  Decoder(form, index, bytes, sink).Run();
+  return sink.Text();
+}
+
+}  // namespace velor

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "page/text/TextCharacters.h"
+
+#include "page/text/CharacterReferences.h"
+
+#include <QChar>
+
+namespace velor {
+
+TextCharacter CharacterAt(QStringView text, qsizetype at) {
+  const QChar unit = text[at];
+  if (unit == u'&') {
+    const CharacterReference reference = ReadReference(text, at, ReferencePlace::Text);
+    if (reference.length > 0) return {reference.first, reference.second, reference.length};
+  } else if (unit == u'\r') {
+    const bool isPair = at + 1 < text.size() && text[at + 1] == u'\n';
+    return {u'\n', 0, isPair ? 2 : 1};
+  } else if (unit.isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) {
+    return {QChar::surrogateToUcs4(unit, text[at + 1]), 0, 2};
+  }
+  return {unit.unicode(), 0, 1};
+}
+
+std::vector<TextCharacter> CharactersOf(QStringView text) {
+  std::vector<TextCharacter> characters;
+  for (qsizetype at = 0; at < text.size(); at += characters.back().length)
+    characters.push_back(CharacterAt(text, at));
+  return characters;
+}
+
+}  // namespace velor

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/ProgramFolder.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace velor {
+
+namespace {
+
+/// A folder without any write bit counts as read-only for the superuser too.
+bool IsWritable(const QString &folder) {
+  const QByteArray name = QFile::encodeName(folder);
+  struct stat status = {};
+  if (stat(name.constData(), &status) != 0 || !S_ISDIR(status.st_mode)) return false;
+  constexpr mode_t AnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
+  return (status.st_mode & AnyWriteBit) != 0 && access(name.constData(), W_OK | X_OK) == 0;
+}
+
+void FillWithSample(const QString &folder, const QString &executableFolder) {
+  const QString sampleMaker = QDir(executableFolder).filePath(QStringLiteral("velor-sample-site"));
+  if (QFileInfo(sampleMaker).isExecutable()) QProcess::execute(sampleMaker, {folder});
+}
+
+}  // namespace
+
+QString SettleProgramFolder(const QString &executableFolder) {
+  const QString given = qEnvironmentVariable("VELOR_PROGRAM_FOLDER");
+  if (!given.isEmpty()) return QDir::cleanPath(QDir(given).absolutePath());
+  if (IsWritable(executableFolder)) return QDir::cleanPath(executableFolder);
+  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  const QString folder = QDir::cleanPath(data + QStringLiteral("/velor-web-creator"));
+  if (!QFileInfo::exists(folder) && QDir().mkpath(folder)) {
+    FillWithSample(folder, executableFolder);
+  }
+  return folder;
+}
+
+}  // namespace velor

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Platform.h"
+#include "engine/EditingEngine.h"
+
+#include <QString>
+
+namespace velor {
+
+/// The real parts. The editing components share one engine, which lives as long as this object:
+/// it must outlive them.
+class QtComponents final : public Components {
+ public:
+  /// `programFolder` in logic form.
+  QtComponents(Files &files, QString programFolder);
+  ~QtComponents() override;
+
+  std::unique_ptr<EditingComponent> CreateEditingComponent(QWidget *parent) override;
+  std::unique_ptr<SourceControl> CreateSourceControl(QWidget *parent, SourceAccess access) override;
+  std::unique_ptr<Browser> CreateBrowser(QWidget *parent) override;
+  std::unique_ptr<FileDialog> CreateFileDialog() override;
+  std::unique_ptr<DatabaseConnection> CreateDatabaseConnection() override;
+
+ private:
+  Files &files_;
+  QString programFolder_;
+  EditingEngine engine_;
+};
+
+}  // namespace velor

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/QtDialogs.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
+#include <QEventLoop>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+
+namespace velor {
+
+namespace {
+
+struct ButtonSet {
+  QMessageBox::StandardButtons buttons;
+  QMessageBox::StandardButton initial;
+  /// What Escape and the close box answer.
+  QMessageBox::StandardButton escape;
+};
+
+ButtonSet ButtonsOf(MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::YesNo:
+      return {QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No};
+    case MessageButtons::YesNoCancel:
+      return {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes,
+              QMessageBox::Cancel};
+    case MessageButtons::Ok:
+      break;
+  }
+  return {QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok};
+}
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::Information:
+      return QMessageBox::Information;
+    case MessageIcon::Question:
+      return QMessageBox::Question;
+    case MessageIcon::Critical:
+      return QMessageBox::Critical;
+    case MessageIcon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+MessageAnswer AnswerOf(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return MessageAnswer::Yes;
+    case QMessageBox::No:
+      return MessageAnswer::No;
+    case QMessageBox::Cancel:
+      return MessageAnswer::Cancel;
+    default:
+      return MessageAnswer::Ok;
+  }
+}
+
+/// Ends a loop when the watched window is hidden, as closing does too.
+class HideWatcher final : public QObject {
+ public:
+  HideWatcher(QWidget &window, QEventLoop &loop) : loop_(loop) {
+    window.installEventFilter(this);
+    connect(&window, &QObject::destroyed, &loop, &QEventLoop::quit);
+  }
+
+  bool eventFilter(QObject *, QEvent *event) override {
+    if (event->type() == QEvent::Hide && !event->spontaneous()) loop_.quit();
+    return false;
+  }
+
+ private:
+  QEventLoop &loop_;
+};
+
+}  // namespace
+
+MessageAnswer QtDialogs::ShowMessage(const Message &message) {
+  const ButtonSet set = ButtonsOf(message.buttons);
+  QMessageBox box(IconOf(message.icon), message.title, {}, set.buttons,
+                  QApplication::activeWindow());
+  // The format first: the text may look like markup.
+  box.setTextFormat(Qt::PlainText);
+  box.setText(message.text);
+  box.setDefaultButton(set.initial);
+  box.setEscapeButton(set.escape);
+  if (message.foreground) {
+    box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    box.show();
+    box.raise();
+    box.activateWindow();
+  }
+  return AnswerOf(box.exec());
+}
+
+QString QtDialogs::AskText(const QString &prompt, const QString &title,
+                           const QString &defaultAnswer) {
+  QInputDialog box(QApplication::activeWindow());
+  box.setWindowTitle(title);
+  box.setLabelText(prompt);
+  if (auto *label = box.findChild<QLabel *>()) label->setTextFormat(Qt::PlainText);
+  box.setTextValue(defaultAnswer);
+  return box.exec() == QDialog::Accepted ? box.textValue() : QString();
+}
+
+void QtDialogs::RunModal(QWidget &dialog) {
+  QEventLoop loop;
+  HideWatcher watcher(dialog, loop);
+  dialog.setWindowModality(Qt::ApplicationModal);
+  dialog.show();
+  dialog.activateWindow();
+  // A window that hides itself while it is being shown is done already.
+  if (dialog.isVisible()) loop.exec(QEventLoop::DialogExec);
+}
+
+}  // namespace velor

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Platform.h"
+#include "qt/QtComponents.h"
+#include "qt/QtDialogs.h"
+#include "files/QtFiles.h"
+#include "qt/QtRegistry.h"
+#include "qt/QtRuntime.h"
+#include "qt/QtWindowSystem.h"
+#include "recovery/JournalFiles.h"
+#include "files/ReplacedFiles.h"
+
+namespace velor {
+
+/// The real environment, composed. Made after the application object; outlives every window.
+struct RealPlatform {
+  RealPlatform(int argc, char **argv) : runtime(argc, argv) {}
+
+  QtDialogs dialogs;
+  QtRuntime runtime;
+  QtFiles files;
+  QtRegistry registry;
+  QtComponents components{files, runtime.ProgramFolder()};
+  QtWindowSystem windows;
+  JournalFiles journals;
+  ReplacedFiles replaced;
+  Platform parts{files, runtime, dialogs, registry, components, &windows, &journals, &replaced};
+};
+
+}  // namespace velor

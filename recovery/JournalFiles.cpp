@@ -1,0 +1,319 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recovery/JournalFiles.h"
+
+#include "recovery/JournalFormat.h"
+#include "platform/RuntimeError.h"
+#include "files/StateFolder.h"
+#include "files/FileBytes.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cerrno>
+#include <functional>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+namespace velor {
+
+namespace {
+
+constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
+/// A journal may be this much longer than what it stands for before it is written anew.
+constexpr qsizetype MostSlack = 256 * 1024;
+/// No page is so large that its journal comes near.
+constexpr off_t LargestJournal = 512 * 1024 * 1024;
+/// What a journal needs at least.
+constexpr qsizetype RoomAtLeast = 4096;
+/// Folders that hold nothing are looked at as well, but a start is not to be felt.
+constexpr int MostLookedAt = 1000;
+
+const QString lockName = QStringLiteral("lock");
+const QString fragments = QStringLiteral("*.tmp");
+
+/// Whatever has a journal's name, a file or not: what is no journal is told, not passed over.
+QStringList JournalsIn(const QString &folder) {
+  return QDir(folder).entryList(
+      {QStringLiteral("*.page")},
+      QDir::Files | QDir::Dirs | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+/// The lock of a run's folder; not open where another holds it, or where the folder has gone.
+FileDescriptor TakeLock(const QString &folder) {
+  const QByteArray name = QFile::encodeName(folder + u'/' + lockName);
+  FileDescriptor lock(open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, OwnerOnly));
+  struct stat status {};
+  const bool isOurs = lock.IsOpen() && flock(lock.Number(), LOCK_EX | LOCK_NB) == 0 &&
+                      fstat(lock.Number(), &status) == 0 && status.st_nlink > 0;
+  return isOurs ? std::move(lock) : FileDescriptor();
+}
+
+/// The folders of runs, the newest first.
+QStringList RunsIn(const QString &root) {
+  const auto filter = QDir::Dirs | QDir::NoSymLinks | QDir::NoDotAndDotDot;
+  std::vector<std::pair<qint64, QString>> runs;
+  for (const QString &name : QDir(root).entryList(filter, QDir::Unsorted))
+    runs.emplace_back(QStringView(name).mid(name.indexOf(u'-') + 1).toLongLong(), name);
+  std::sort(runs.begin(), runs.end(), std::greater());
+  QStringList names;
+  for (auto &[begin, name] : runs) names << std::move(name);
+  return names;
+}
+
+RuntimeError Defect(const QString &path, const QString &why) {
+  return RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("Journal"),
+                      QStringLiteral("%1 cannot be read: %2").arg(path, why));
+}
+
+/// A journal for reading. Raises RuntimeError for what nobody but this program's own user put
+/// there.
+FileDescriptor OpenJournal(const QString &path) {
+  FileDescriptor file(
+      open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+  struct stat status {};
+  if (!file.IsOpen() && errno != ELOOP)
+    throw RuntimeError::FromErrno(errno, QStringLiteral("Journal"), path);
+  if (!file.IsOpen() || fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
+    throw Defect(path, QStringLiteral("it is not a file."));
+  if (status.st_uid != geteuid()) throw Defect(path, QStringLiteral("it is another user's."));
+  if (status.st_size > LargestJournal) throw Defect(path, QStringLiteral("it is too large."));
+  return file;
+}
+
+const QString damagedBeginning =
+    QStringLiteral("its beginning is damaged, or another version of the program wrote it.");
+
+AbandonedPage Summary(const QString &path) {
+  AbandonedPage page;
+  try {
+    const FileDescriptor file = OpenJournal(path);
+    QFile reader;
+    reader.open(file.Number(), QIODevice::ReadOnly);
+    const auto summary = SummariseJournal(reader);
+    if (!summary) throw Defect(path, damagedBeginning);
+    page = *summary;
+  } catch (const RuntimeError &error) {
+    page.defect = error.Description();
+    page.time = QFileInfo(path).lastModified();
+  }
+  page.id = path;
+  return page;
+}
+
+class JournalFile : public Journal {
+ public:
+  JournalFile(JournalFiles &journals, int number, FileCalls &calls)
+      : journals_(journals), number_(number), calls_(calls) {}
+
+  void Write(const JournalledPage &page) override {
+    if (!file_.IsOpen()) {
+      path_ = QStringLiteral("%1/%2.page").arg(journals_.OwnFolder()).arg(number_);
+      WriteWhole(page, Durability::Process);
+    } else if (IsSamePage(page)) {
+      Append(JournalChange(last_.page.document, page.page.document, page.time) +
+             JournalSourceChange(last_.source, page.source, page.time));
+    } else {
+      Append(JournalRecord(page));
+    }
+    last_ = page;
+  }
+
+  void Sync() override {
+    if (!file_.IsOpen()) return;
+    if (!SyncFile(calls_, file_.Number())) throw Failure();
+    SyncName();
+  }
+
+  void Rest() override {
+    if (!file_.IsOpen()) return;
+    if (size_ <= 2 * WholeSize() + MostSlack) return Sync();
+    WriteWhole(last_, Durability::Disk);
+    SyncName();
+  }
+
+  void Remove() override {
+    file_ = FileDescriptor();
+    if (!path_.isEmpty()) calls_.Unlink(Name().constData());
+    path_.clear();
+    last_ = {};
+  }
+
+ private:
+  /// What is to be on this side of an end: the process's, or the machine's.
+  enum class Durability { Process, Disk };
+
+  QByteArray Name() const { return QFile::encodeName(path_); }
+  RuntimeError Failure() const {
+    return RuntimeError::FromErrno(errno, QStringLiteral("Journal"), path_);
+  }
+  bool IsSamePage(const JournalledPage &page) const {
+    return page.path == last_.path && page.caption == last_.caption &&
+           page.saving == last_.saving && page.page.base == last_.page.base &&
+           page.page.original == last_.page.original;
+  }
+  qsizetype WholeSize() const {
+    const qsizetype units = last_.page.document.size() + last_.source.value_or(QString()).size();
+    return last_.page.original.size() + units * qsizetype{sizeof(QChar)};
+  }
+
+  /// The file's name in its folder, and the folder's among the runs, to the disk.
+  void SyncName() {
+    if (isNameOnDisk_) return;
+    const QString folder = QFileInfo(path_).path();
+    for (const QString &holder : {folder, QFileInfo(folder).path()}) {
+      if (!SyncFolder(calls_, QFile::encodeName(holder))) throw Failure();
+    }
+    isNameOnDisk_ = true;
+  }
+
+  void Append(const QByteArray &record) {
+    if (WriteBytes(calls_, file_.Number(), record)) {
+      size_ += record.size();
+      return;
+    }
+    const RuntimeError failure = Failure();
+    // Half a record would hide what is appended after it: then the next is a whole one, elsewhere.
+    if (Uninterrupted([&] { return calls_.Truncate(file_.Number(), size_); }) != 0)
+      file_ = FileDescriptor();
+    throw failure;
+  }
+
+  /// Puts a new file in the journal's place, whole: an end at any moment leaves the one or the
+  /// other.
+  void WriteWhole(const JournalledPage &page, Durability durability) {
+    const QByteArray content = JournalHead() + JournalRecord(page);
+    const QByteArray fresh =
+        QFile::encodeName(QStringLiteral("%1/%2.tmp").arg(QFileInfo(path_).path()).arg(number_));
+    FileDescriptor file =
+        OpenFile(calls_, fresh, O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_NOFOLLOW, OwnerOnly);
+    if (!file.IsOpen()) throw Failure();
+    const bool isThere =
+        WriteBytes(calls_, file.Number(), content) &&
+        (durability == Durability::Process || SyncFile(calls_, file.Number())) &&
+        Uninterrupted([&] { return calls_.Rename(fresh.constData(), Name().constData()); }) == 0;
+    if (!isThere) {
+      const RuntimeError failure = Failure();
+      calls_.Unlink(fresh.constData());
+      throw failure;
+    }
+    file_ = std::move(file);
+    size_ = content.size();
+    isNameOnDisk_ = false;
+  }
+
+  JournalFiles &journals_;
+  const int number_;
+  FileCalls &calls_;
+  QString path_;  ///< empty while nothing is there
+  FileDescriptor file_;
+  qsizetype size_ = 0;
+  bool isNameOnDisk_ = false;
+  JournalledPage last_;
+};
+
+}  // namespace
+
+JournalFiles::JournalFiles(FileCalls &calls)
+    : calls_(calls), root_(StateFolder() + QStringLiteral("/recovery")) {}
+
+JournalFiles::~JournalFiles() {
+  if (!own_.isEmpty()) RemoveIfEmpty(own_);
+}
+
+QString JournalFiles::OwnFolder() {
+  const auto startTime = QDateTime::currentMSecsSinceEpoch();
+  // Another run may look into the folder before it is locked, and remove it: then the next name.
+  for (int attempt = 0; own_.isEmpty() || !QFile::exists(own_); ++attempt) {
+    constexpr int mostAttempts = 10;
+    const QString folder =
+        QStringLiteral("%1/%2-%3")
+            .arg(root_, QString::number(getpid()), QString::number(startTime + attempt));
+    MakePrivateFolder(root_);
+    MakePrivateFolder(folder);
+    FileDescriptor lock = TakeLock(folder);
+    if (lock.IsOpen()) {
+      locks_[folder] = std::move(lock);
+      own_ = folder;
+    } else if (attempt == mostAttempts) {
+      throw RuntimeError::Of(ErrorNumber::PathFileAccess, QStringLiteral("Journal"), folder);
+    }
+  }
+  return own_;
+}
+
+std::unique_ptr<Journal> JournalFiles::Begin() {
+  return std::make_unique<JournalFile>(*this, ++begun_, calls_);
+}
+
+QString JournalFiles::Hindrance() {
+  try {
+    const QString folder = OwnFolder();
+    const bool hasRoom = WriteBytes(calls_, locks_[folder].Number(), QByteArray(RoomAtLeast, '\0'));
+    const int error = errno;
+    RemoveIfEmpty(folder);
+    if (hasRoom) return {};
+    return RuntimeError::FromErrno(error, QStringLiteral("Journal"), root_).Description();
+  } catch (const RuntimeError &error) {
+    return error.Description();
+  }
+}
+
+bool JournalFiles::Claim(const QString &folder) {
+  if (folder == own_) return false;
+  if (locks_.contains(folder)) return true;
+  FileDescriptor lock = TakeLock(folder);
+  if (!lock.IsOpen()) return false;
+  locks_[folder] = std::move(lock);
+  return true;
+}
+
+std::vector<AbandonedPage> JournalFiles::Abandoned() {
+  std::vector<AbandonedPage> pages;
+  int lookedAt = 0;
+  for (const QString &run : RunsIn(root_)) {
+    if (pages.size() >= MostOffered || ++lookedAt > MostLookedAt) break;
+    const QString folder = root_ + u'/' + run;
+    if (!Claim(folder)) continue;
+    for (const QString &name : JournalsIn(folder)) pages.push_back(Summary(folder + u'/' + name));
+    RemoveIfEmpty(folder);
+  }
+  std::stable_sort(pages.begin(), pages.end(),
+                   [](const auto &one, const auto &other) { return one.time > other.time; });
+  return pages;
+}
+
+JournalReading JournalFiles::Read(const QString &id) {
+  const FileDescriptor file = OpenJournal(id);
+  QFile reader;
+  reader.open(file.Number(), QIODevice::ReadOnly);
+  auto reading = ReadJournal(reader.readAll());
+  if (!reading) throw Defect(id, damagedBeginning);
+  return *std::move(reading);
+}
+
+void JournalFiles::Discard(const QString &id) {
+  if (calls_.Unlink(QFile::encodeName(id).constData()) != 0 && errno != ENOENT)
+    throw RuntimeError::FromErrno(errno, QStringLiteral("Journal"), id);
+  RemoveIfEmpty(QFileInfo(id).path());
+}
+
+void JournalFiles::RemoveIfEmpty(const QString &folder) {
+  if (!JournalsIn(folder).isEmpty() || !locks_.contains(folder)) return;
+  const auto remove = [&](const QString &name) {
+    calls_.Unlink(QFile::encodeName(folder + u'/' + name).constData());
+  };
+  // What a process left there that ended while it wrote.
+  for (const QString &name : QDir(folder).entryList({fragments}, QDir::Files | QDir::Hidden))
+    remove(name);
+  remove(lockName);
+  rmdir(QFile::encodeName(folder).constData());
+  locks_.erase(folder);
+  if (folder == own_) own_.clear();
+}
+
+}  // namespace velor

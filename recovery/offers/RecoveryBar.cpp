@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recovery/offers/RecoveryBar.h"
+
+#include "chrome/Icons.h"
+#include "chrome/Palette.h"
+#include "editor/MainWindow.h"
+#include "editor/frmBrowser.h"
+#include "editor/modGeneral.h"
+#include "editor/modWorkFlow.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/Platform.h"
+#include "page/saving/FaithfulPage.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace velor {
+
+namespace {
+
+constexpr int MostRowsInSight = 4;
+constexpr auto NoteName = u"lblRecoveryNote";
+
+QString NameOf(const AbandonedPage &page) {
+  if (!page.defect.isEmpty()) return QStringLiteral("A page that cannot be read");
+  return page.path.isEmpty() ? page.caption : modGeneral::FileNameOfPath(page.path);
+}
+
+QString NoteOn(const AbandonedPage &page, const Files &files) {
+  QStringList parts;
+  parts << QStringLiteral("changed %1")
+               .arg(page.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+  if (!page.defect.isEmpty()) {
+    parts << page.defect;
+  } else if (page.path.isEmpty()) {
+    parts << QStringLiteral("never saved");
+  } else if (!files.FileExists(page.path)) {
+    parts << QStringLiteral("the file is gone");
+  } else if (files.ChangeTime(page.path) > page.time) {
+    parts << QStringLiteral("the file on disk is newer");
+  }
+  if (page.hasSource) parts << QStringLiteral("HTML source not applied");
+  if (!page.path.isEmpty()) parts << ForPeople(page.path);
+  return parts.join(QStringLiteral("  ·  "));
+}
+
+QPushButton *AddButton(QHBoxLayout &row, const char *objectName, const QString &caption,
+                       const QString &page, const QString &tooltip) {
+  auto *button = new QPushButton(caption);
+  button->setObjectName(QString::fromLatin1(objectName));
+  button->setAccessibleName(caption + u' ' + page);
+  button->setToolTip(tooltip);
+  button->setAutoDefault(false);
+  row.addWidget(button);
+  return button;
+}
+
+QList<QPushButton *> ButtonsOf(const QVBoxLayout &rows, int place) {
+  QList<QPushButton *> usable;
+  for (auto *button : rows.itemAt(place)->widget()->findChildren<QPushButton *>()) {
+    if (button->isEnabled()) usable << button;
+  }
+  return usable;
+}
+
+QPushButton *FirstButtonOf(const QVBoxLayout &rows, int place) {
+  return ButtonsOf(rows, place).constFirst();
+}
+
+}  // namespace
+
+RecoveryBar::RecoveryBar(EditorContext &context, QWidget *parent)
+    : QFrame(parent), context_(context) {
+  setObjectName(QStringLiteral("picRecovery"));
+  setAccessibleName(QStringLiteral("Recovered pages"));
+
+  // A shortcut of its own: a label's letter would press the button at once.
+  connect(new QShortcut(Qt::ALT | Qt::Key_G, this), &QShortcut::activated, this,
+          [this] { FirstButtonOf(*rows_, 0)->setFocus(Qt::ShortcutFocusReason); });
+  auto *caption = new QLabel(
+      QStringLiteral("These pages were not saved when the program ended (Alt+G leads to them):"));
+  caption->setObjectName(QStringLiteral("lblRecovery"));
+  auto *content = new QWidget;
+  content->setObjectName(QStringLiteral("picRecoveryRows"));
+  rows_ = new QVBoxLayout(content);
+  rows_->setContentsMargins(0, 0, 0, 0);
+  rows_->setSpacing(BarMargin);
+  scroller_ = new QScrollArea;
+  scroller_->setFrameShape(QFrame::NoFrame);
+  scroller_->setWidgetResizable(true);
+  scroller_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroller_->setFocusPolicy(Qt::NoFocus);
+  scroller_->setWidget(content);
+  // The bar's own field shows through.
+  scroller_->viewport()->setAutoFillBackground(false);
+  content->setAutoFillBackground(false);
+
+  auto *column = new QVBoxLayout(this);
+  column->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
+  column->setSpacing(BarMargin);
+  column->addWidget(caption);
+  column->addWidget(scroller_);
+  hide();
+}
+
+void RecoveryBar::Offer() {
+  if (context_.platform.journals == nullptr) return;
+  const QString hindrance = context_.platform.journals->Hindrance();
+  if (!hindrance.isEmpty()) {
+    context_.mainWindow.ReportInStatusBar(
+        QStringLiteral("Recovery is off, unsaved changes cannot be kept: %1").arg(hindrance));
+  }
+  Fill();
+}
+
+void RecoveryBar::Fill() {
+  std::vector<AbandonedPage> pages = context_.platform.journals->Abandoned();
+  // Whoever goes to the first by Alt+G and presses is to restore, not to discard.
+  std::stable_partition(pages.begin(), pages.end(),
+                        [](const AbandonedPage &page) { return page.defect.isEmpty(); });
+  for (const AbandonedPage &page : pages) AddRow(page);
+  QuietenNotes();
+  FitRows();
+}
+
+void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
+  const QString name = NameOf(abandoned);
+  const QString note = NoteOn(abandoned, context_.platform.files);
+  auto *row = new QWidget;
+  row->setObjectName(QStringLiteral("picRecoveredPage"));
+  row->setAccessibleName(name);
+  row->setAccessibleDescription(note);
+  auto *line = new QHBoxLayout(row);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->setSpacing(BarMargin);
+
+  auto *picture = new QLabel;
+  picture->setPixmap(IconFor(QStringLiteral("page")).pixmap(MenuIconSize, MenuIconSize));
+  line->addWidget(picture);
+  auto *title = new QLabel(name);
+  title->setObjectName(QStringLiteral("lblRecoveredPage"));
+  title->setTextFormat(Qt::PlainText);
+  QFont strong = title->font();
+  strong.setBold(true);
+  title->setFont(strong);
+  // As little as a long path may a long name push the buttons out of sight.
+  title->setMinimumWidth(BarMargin);
+  title->setToolTip(name);
+  line->addWidget(title);
+  auto *details = new QLabel(note);
+  details->setObjectName(QString::fromUtf16(NoteName));
+  details->setTextFormat(Qt::PlainText);
+  details->setToolTip(note);
+  // A long path is cut off rather than pushing the buttons out of sight.
+  details->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  line->addWidget(details, 1);
+
+  QPushButton *restore = AddButton(*line, "cmdRestore", QStringLiteral("Restore"), name,
+                                   QStringLiteral("Open the page with its unsaved changes"));
+  connect(restore, &QPushButton::clicked, this, [=, this] { Restore(row, abandoned); });
+  QPushButton *show = AddButton(*line, "cmdShow", QStringLiteral("Show"), name,
+                                QStringLiteral("Look at the page in the preview"));
+  connect(show, &QPushButton::clicked, this, [=, this] { Show(abandoned); });
+  QPushButton *discard = AddButton(*line, "cmdDiscard", QStringLiteral("Discard"), name,
+                                   QStringLiteral("Give the unsaved changes up"));
+  connect(discard, &QPushButton::clicked, this, [=, this] { Discard(row, abandoned.id); });
+  for (QPushButton *button : {restore, show, discard}) {
+    button->setEnabled(abandoned.defect.isEmpty() || button == discard);
+    button->installEventFilter(this);
+  }
+  rows_->addWidget(row);
+  // Where the bar is in sight already, a new row would come by itself only later, and count as
+  // nothing until then.
+  row->show();
+}
+
+JournalledPage RecoveryBar::Read(const AbandonedPage &abandoned) {
+  JournalReading reading = context_.platform.journals->Read(abandoned.id);
+  if (reading.endIsMissing) {
+    context_.mainWindow.ReportInStatusBar(
+        QStringLiteral("The journal of %1 is damaged: its last changes are missing")
+            .arg(NameOf(abandoned)));
+  }
+  return std::move(reading.page);
+}
+
+void RecoveryBar::Restore(QWidget *row, const AbandonedPage &abandoned) {
+  // Only what another journal holds may go.
+  if (!modWorkFlow::RestorePage(context_, Read(abandoned))) return;
+  Discard(row, abandoned.id);
+}
+
+void RecoveryBar::Show(const AbandonedPage &abandoned) {
+  const JournalledPage page = Read(abandoned);
+  const PageMemory &memory = page.page;
+  const FaithfulPage original({memory.original, DecodePage(memory.original), {}});
+  frmBrowser &preview = PreviewWindow(context_);
+  context_.mainWindow.ShowWindow(&preview);
+  preview.brwWebBrowser().NavigateToText(
+      page.source ? *page.source : original.Unmasked(memory.document),
+      QUrl::fromLocalFile(memory.base));
+}
+
+void RecoveryBar::Discard(QWidget *row, const QString &id) {
+  context_.platform.journals->Discard(id);
+  RemoveRow(row);
+}
+
+void RecoveryBar::RemoveRow(QWidget *row) {
+  const bool hadFocus = row->isAncestorOf(QApplication::focusWidget());
+  const int place = rows_->indexOf(row);
+  rows_->removeWidget(row);
+  row->hide();
+  row->deleteLater();
+  if (rows_->isEmpty()) return Fill();
+  FitRows();
+  if (hadFocus) FirstButtonOf(*rows_, std::min(place, rows_->count() - 1))->setFocus();
+}
+
+bool RecoveryBar::Walk(QPushButton *from, int key) {
+  const int place = rows_->indexOf(from->parentWidget());
+  const QList<QPushButton *> row = ButtonsOf(*rows_, place);
+  const auto alongRow = [&](qsizetype step) {
+    return row[std::clamp<qsizetype>(row.indexOf(from) + step, 0, row.size() - 1)];
+  };
+  const auto alongRows = [&](int wanted) {
+    const int next = std::clamp(wanted, 0, rows_->count() - 1);
+    auto *same = rows_->itemAt(next)->widget()->findChild<QPushButton *>(from->objectName());
+    return same->isEnabled() ? same : FirstButtonOf(*rows_, next);
+  };
+  const auto go = [](QPushButton *to) {
+    to->setFocus(Qt::TabFocusReason);
+    return true;
+  };
+  switch (key) {
+    case Qt::Key_Left:
+      return go(alongRow(-1));
+    case Qt::Key_Right:
+      return go(alongRow(1));
+    case Qt::Key_Up:
+      return go(alongRows(place - 1));
+    case Qt::Key_Down:
+      return go(alongRows(place + 1));
+    case Qt::Key_Home:
+      return go(alongRows(0));
+    case Qt::Key_End:
+      return go(alongRows(rows_->count() - 1));
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      from->animateClick();
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool RecoveryBar::eventFilter(QObject *watched, QEvent *event) {
+  auto *button = qobject_cast<QPushButton *>(watched);
+  if (button != nullptr && event->type() == QEvent::FocusIn) scroller_->ensureWidgetVisible(button);
+  if (button != nullptr && event->type() == QEvent::KeyPress)
+    return Walk(button, static_cast<QKeyEvent *>(event)->key());
+  return QFrame::eventFilter(watched, event);
+}
+
+void RecoveryBar::FitRows() {
+  setVisible(!rows_->isEmpty());
+  if (rows_->isEmpty()) return;
+  const int row = rows_->itemAt(0)->sizeHint().height();
+  const int inSight = std::min(rows_->count(), MostRowsInSight);
+  scroller_->setFixedHeight(inSight * row + (inSight - 1) * rows_->spacing());
+}
+
+void RecoveryBar::paintEvent(QPaintEvent *) {
+  QPainter painter(this);
+  painter.fillRect(rect(), HoverField(palette()));
+  painter.setPen(Hairline(palette()));
+  painter.drawLine(rect().bottomLeft(), rect().bottomRight());
+}
+
+void RecoveryBar::changeEvent(QEvent *event) {
+  QFrame::changeEvent(event);
+  if (event->type() == QEvent::FontChange) FitRows();
+  if (event->type() == QEvent::PaletteChange) QuietenNotes();
+}
+
+void RecoveryBar::QuietenNotes() {
+  for (QLabel *note : findChildren<QLabel *>(QString::fromUtf16(NoteName))) {
+    QPalette quiet = palette();
+    quiet.setColor(QPalette::WindowText, QuietText(palette()));
+    note->setPalette(quiet);
+  }
+}
+
+}  // namespace velor

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/modSettingManager.h"
+#include "platform/Conversions.h"
+#include "qt/QtRegistry.h"
+#include "tests/support/Checks.h"
+#include "tests/support/FakeRegistry.h"
+
+#include <QSettings>
+
+namespace velor::modSettingManager {
+namespace {
+
+const auto OptionKey = QStringLiteral(R"(Software\Company\VelorCDMaker\option)");
+const auto HistoryKey = QStringLiteral(R"(Software\Company\VelorCDMaker\history)");
+
+class Settings : public testing::Test {
+ protected:
+  void PutCount(const QString &text) {
+    registry_.Put(HistoryKey, "historycount", {RegistryValue::Type::Text, text});
+  }
+  QString History(const QString &name) const {
+    return GetRegSetting(registry_, "VelorCDMaker", "history", name, "(none)");
+  }
+
+  FakeRegistry registry_;
+};
+
+TEST_F(Settings, LieUnderTheCompanysKey) {
+  SetOption(registry_, "MenuStyle", "1");
+  SaveRegSetting(registry_, "Other", "section", "name", "value");
+  EXPECT_EQ(registry_.Writes(), QStringList({OptionKey + "\\MenuStyle=1",
+                                             R"(Software\Company\Other\section\name=value)"}));
+}
+
+TEST_F(Settings, ReadWhatWasWritten) {
+  SetOption(registry_, "ShowDetails", BoolText(true));
+  EXPECT_EQ(GetOption(registry_, "ShowDetails", "False"), "True");
+  EXPECT_EQ(GetRegSetting(registry_, "VelorCDMaker", "option", "ShowDetails", "False"), "True");
+}
+
+TEST_F(Settings, GiveTheDefaultOnAFirstRun) {
+  EXPECT_EQ(GetOption(registry_, "SnapToGrid", "True"), "True");
+  EXPECT_EQ(GetOption(registry_, "MenuBackground", ""), "");
+  EXPECT_EQ(GetRegSetting(registry_, "VelorCDMaker", "history", "historycount", "0"), "0");
+}
+
+TEST_F(Settings, GiveTheDefaultForAnEmptyText) {
+  SetOption(registry_, "MenuStyle", "");
+  EXPECT_EQ(GetOption(registry_, "MenuStyle", "2"), "2");
+  SetOption(registry_, "MenuStyle", QString(QChar(0)) + "1");
+  EXPECT_EQ(GetOption(registry_, "MenuStyle", "2"), "2");
+}
+
+TEST_F(Settings, GiveTheDefaultForAValueThatIsNoText) {
+  registry_.Put(OptionKey, "mnuFore", {RegistryValue::Type::Other, "7"});
+  EXPECT_EQ(GetOption(registry_, "mnuFore", "0"), "0");
+}
+
+TEST_F(Settings, AreReadFromTheStoreEachTime) {
+  SetOption(registry_, "MenuStyle", "1");
+  EXPECT_EQ(GetOption(registry_, "MenuStyle", "2"), "1");
+  registry_.Put(OptionKey, "MenuStyle", {RegistryValue::Type::Text, "0"});
+  EXPECT_EQ(GetOption(registry_, "MenuStyle", "2"), "0");
+}
+
+TEST_F(Settings, FailInSilence) {
+  SetOption(registry_, "MenuStyle", "1");
+  registry_.Break(FakeRegistry::Health::WritesFail);
+  SetOption(registry_, "MenuStyle", "2");
+  AddToHistory(registry_, R"(\a.htm)");
+  EXPECT_EQ(GetOption(registry_, "MenuStyle", "2"), "1");
+  registry_.Break(FakeRegistry::Health::EverythingFails);
+  EXPECT_EQ(GetOption(registry_, "MenuStyle", "2"), "2");
+}
+
+TEST_F(Settings, LeaveConversionErrorsToTheCaller) {
+  SetOption(registry_, "SnapToGrid", "yes");
+  const QString text = GetOption(registry_, "SnapToGrid", "True");
+  EXPECT_EQ(text, "yes");
+  EXPECT_EQ(ErrorOf([&] { CBool(text); }), ErrorNumber::TypeMismatch);
+}
+
+TEST_F(Settings, KeepEveryCharacter) {
+  const QString text = QString::fromUtf8("/home/ü/網頁 \"a\", b; 😀.htm");
+  SetOption(registry_, "MenuBackground", text);
+  EXPECT_EQ(GetOption(registry_, "MenuBackground", ""), text);
+}
+
+TEST_F(Settings, RecordTheFirstFileInSlotOne) {
+  AddToHistory(registry_, R"(\home\u\a.htm)");
+  EXPECT_EQ(registry_.Writes(), QStringList({HistoryKey + R"(\file1=/home/u/a.htm)",
+                                             HistoryKey + R"(\historycount=1)"}));
+}
+
+TEST_F(Settings, RecordTheSameFileTwiceInTwoSlots) {
+  AddToHistory(registry_, R"(\a.htm)");
+  AddToHistory(registry_, R"(\a.htm)");
+  EXPECT_EQ(History("file1"), "/a.htm");
+  EXPECT_EQ(History("file2"), "/a.htm");
+  EXPECT_EQ(History("historycount"), "2");
+}
+
+TEST_F(Settings, RecordAPathThatIsNotFromTheRootAsItStands) {
+  AddToHistory(registry_, R"(C:\Site\a.htm)");
+  EXPECT_EQ(History("file1"), R"(C:\Site\a.htm)");
+}
+
+TEST_F(Settings, GoBackToSlotOneAfterSlotOneHundred) {
+  for (int i = 1; i <= 101; ++i) AddToHistory(registry_, QStringLiteral("\\%1.htm").arg(i));
+  EXPECT_EQ(History("file1"), "/101.htm");
+  EXPECT_EQ(History("file2"), "/2.htm");
+  EXPECT_EQ(History("file9"), "/9.htm");
+  EXPECT_EQ(History("file100"), "/100.htm");
+  EXPECT_EQ(History("file101"), "(none)");
+  EXPECT_EQ(History("historycount"), "1");
+}
+
+struct Count {
+  const char *stored;
+  const char *slot;
+};
+
+class StoredCounts : public Settings, public testing::WithParamInterface<Count> {};
+
+TEST_P(StoredCounts, LeadToASlotOfTheRing) {
+  PutCount(GetParam().stored);
+  AddToHistory(registry_, R"(\a.htm)");
+  EXPECT_EQ(History("historycount"), GetParam().slot);
+  EXPECT_EQ(History(QStringLiteral("file") + GetParam().slot), "/a.htm");
+}
+
+INSTANTIATE_TEST_SUITE_P(All, StoredCounts,
+                         testing::Values(Count{"", "1"}, Count{"99", "100"}, Count{"100", "1"},
+                                         Count{"101", "2"}, Count{"250", "51"}, Count{"300", "1"},
+                                         Count{" 7 files", "8"}, Count{"many", "1"},
+                                         Count{"2.5", "3"}, Count{"1e17", "1"}));
+
+TEST_F(Settings, FindASlotEvenForANumberThatSubtractingCannotReduce) {
+  for (const char *stored : {"1e300", "1e999"}) {
+    PutCount(stored);
+    AddToHistory(registry_, R"(\a.htm)");
+    const int slot = CInt(History("historycount"));
+    EXPECT_TRUE(slot >= 1 && slot <= HistorySlots) << slot;
+  }
+}
+
+TEST(CutAtNul, GivesTheTextBeforeTheFirstNul) {
+  EXPECT_EQ(CutAtNul(QString(QLatin1String("ab\0cd\0", 6))), "ab");
+  EXPECT_EQ(CutAtNul(QString(QLatin1String("\0ab", 3))), "");
+  EXPECT_EQ(CutAtNul("whole"), "whole");
+  EXPECT_EQ(CutAtNul(""), "");
+}
+
+TEST(SettingsOnTheRealStore, RoundTrip) {
+  QSettings("Company", "VelorCDMaker").clear();
+  QtRegistry registry;
+  SetOption(registry, "ShowDetails", "True");
+  SetOption(registry, "MenuBackground", "");
+  AddToHistory(registry, R"(\home\u\a b.htm)");
+  QtRegistry another;
+  EXPECT_EQ(GetOption(another, "ShowDetails", "False"), "True");
+  EXPECT_EQ(GetOption(another, "MenuBackground", "default"), "default");
+  EXPECT_EQ(GetRegSetting(another, "VelorCDMaker", "history", "file1", ""), "/home/u/a b.htm");
+}
+
+}  // namespace
+}  // namespace velor::modSettingManager

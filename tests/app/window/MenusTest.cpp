@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/frmMain.h"
+#include "tests/app/window/WindowFixture.h"
+
+#include <QMenuBar>
+
+namespace velor {
+namespace {
+
+/// A menu as text: one line an item, indented by depth: name "caption" shortcut.
+void Dump(const QList<QAction *> &items, int depth, QString &out) {
+  for (const QAction *item : items) {
+    out +=
+        QString(2 * depth, u' ') + item->objectName() + QStringLiteral(" \"") + item->text() + u'"';
+    if (item->property("index").isValid()) {
+      out += u'[' + item->property("index").toString() + u']';
+    }
+    if (!item->shortcut().isEmpty()) {
+      out += u' ' + item->shortcut().toString(QKeySequence::PortableText);
+    }
+    if (!item->isEnabled()) out += QStringLiteral(" disabled");
+    out += u'\n';
+    if (item->menu()) Dump(item->menu()->actions(), depth + 1, out);
+  }
+}
+
+QString Tree(const QList<QAction *> &items) {
+  QString out;
+  Dump(items, 0, out);
+  return out;
+}
+
+using MenusTest = WindowFixture;
+
+TEST_F(MenusTest, TheMenuBarHoldsExactlyThisTree) {
+  EXPECT_EQ(Tree(window.menuBar()->actions()).toStdString(),
+            R"tree(mnuFile_Top "File (&F)"
+  mnuNew "New Document(&N)" Ctrl+N
+  mnuOpen "Open... (&O)" Ctrl+O
+  mnuSave "Save (&S)" Ctrl+S
+  mnuSaveAs "Save As... (&A)" F12
+  mnu1 "-"
+  mnuExit "Exit (&X)"
+mnuEdit_Top "Edit (&E)" disabled
+  mnuUndo "Undo (&U)"
+  mnuRedo "Redo (&R)"
+  mnu3 "-"
+  mnuCut "&Cut"
+  mnuCopy "&Copy"
+  mnuPaste "&Paste"
+  mnuDelete "&Delete"
+  mnuSelectAll "&Select All"
+mnuView_Top "View (&V)"
+  mnuView_menustyle "Menu Style (&M)"
+    mnuView_MenuOption "Menu Option... (&O)"
+      mnuView_CusMenu "Customize... (&C)"
+    mnu5 "-"
+    mnuView_style "Sky Blue"[1]
+    mnuView_style "Clear XP Style"[2]
+  mnuView_ProjectMan "Project Manager"
+  mnuDetail "Show Detail (&D)"
+mnuInsert "Insert (&I)" disabled
+  mnuISTimage "Image"
+  mnuISTlink "Hyperlink"
+mnuTable "Table (&A)" disabled
+  mnuTBLnew "Insert Table"
+mnuWindow "Window (&W)"
+  mnuWindowCascade "Cascade (&C)"
+  mnuWindowTileHorizontal "Horizontal (&H)"
+  mnuWindowTileVertical "Vertical (&V)"
+mnuHelp_Top "Help (&H)"
+  mnuAbout "About"
+  mnuhelp "Help"
+)tree");
+}
+
+TEST_F(MenusTest, TheContextMenuHoldsExactlyThisTree) {
+  EXPECT_EQ(Tree(Find<QMenu>("mnuExt")->actions()).toStdString(),
+            R"tree(extCut "Cut"
+extCopy "Copy"
+extPaste "Paste"
+extDelete "Delete"
+extAll "Select All"
+ext1 "-"
+extProperties "Properties..."
+  extPagePro "Page Properties"
+  extImagePro "Image Properties"
+  extTablePro "Table Properties"
+  extTDPro "Table Cell Properties"
+  extAPro "Hyperlink Properties"
+  extFontsPro "Fonts Properties"
+ext2 "-"
+extAbs "Absolute Position"
+extDetail "Show Detail"
+extSnap "Snap to Grid"
+extInHTML "Insert Custom HTML"
+extTableGeneral "Table..."
+  extInCol "Insert Colume"
+  extInRow "Insert Row"
+  extMerge "Merge Cells"
+  extSplit "Split Cell"
+extAbsGeneral "Absolute object..."
+  extFront "Bring to Front"
+  extForeward "Bring Foreward"
+  extAboveText "Bring above text"
+  extBack "Send to Back"
+  extBackward "Send Backward"
+  extBelowText "Send below text"
+extGetTag "Get Element TagName"
+)tree");
+}
+
+TEST_F(MenusTest, TheRecordMenuIsAPopupOfItsOwn) {
+  EXPECT_EQ(Tree(Find<QMenu>("mnuCustom")->actions()).toStdString(), "cusDel \"Delete Record\"\n");
+  EXPECT_FALSE(Find<QMenu>("mnuCustom")->isVisible());
+  EXPECT_FALSE(Find<QMenu>("mnuExt")->isVisible());
+}
+
+TEST_F(MenusTest, TheContextMenuPopsUpWhereItIsAskedFor) {
+  window.PopUpContextMenu(QPoint(60, 70));
+  QMenu *menu = Find<QMenu>("mnuExt");
+  EXPECT_TRUE(menu->isVisible());
+  EXPECT_EQ(menu->pos(), QPoint(60, 70));
+  menu->close();
+}
+
+TEST_F(MenusTest, ItemsWithoutAnActionDoNothing) {
+  NewPage();
+  const QPixmap before = window.grab();
+  log.clear();
+  for (const char *item :
+       {"mnuWindowCascade", "mnuWindowTileHorizontal", "mnuWindowTileVertical", "mnuhelp",
+        "mnuDetail", "mnuView_CusMenu", "cusDel", "extCut", "extDelete", "extPagePro", "extAbs",
+        "extDetail", "extSnap", "extInCol", "extFront", "extGetTag"}) {
+    ASSERT_TRUE(Item(item)->isEnabled()) << item;
+    Choose(item);
+  }
+  EXPECT_TRUE(log.empty());
+  EXPECT_EQ(before.toImage(), window.grab().toImage());
+}
+
+TEST_F(MenusTest, ItemsHaveThePicturesOfTheirVerbs) {
+  EXPECT_FALSE(Item("mnuNew")->icon().isNull());
+  EXPECT_FALSE(Item("mnuTBLnew")->icon().isNull());
+  EXPECT_FALSE(Item("extCut")->icon().isNull());
+  EXPECT_TRUE(Item("mnuExit")->icon().isNull());
+}
+
+QStringList ListedWindows(QMenu &menu) {
+  Q_EMIT menu.aboutToShow();
+  QStringList listed;
+  for (const QAction *entry : menu.actions().mid(3)) {
+    const QString mark = entry->isChecked() ? QStringLiteral("*") : QString();
+    listed.append(entry->isSeparator() ? QStringLiteral("-") : entry->text() + mark);
+  }
+  return listed;
+}
+
+TEST_F(MenusTest, TheWindowMenuListsTheOpenDocuments) {
+  QMenu &menu = *Find<QMenu>("mnuWindow");
+  EXPECT_EQ(ListedWindows(menu), QStringList());
+  NewPage();
+  NewPage();
+  EXPECT_EQ(ListedWindows(menu), QStringList({QStringLiteral("-"), QStringLiteral("&1 Untitled 1"),
+                                              QStringLiteral("&2 Untitled 2*")}));
+}
+
+TEST_F(MenusTest, AListedDocumentComesToTheFront) {
+  frmMain &first = NewPage();
+  NewPage();
+  QMenu &menu = *Find<QMenu>("mnuWindow");
+  ListedWindows(menu);
+  menu.actions().at(4)->trigger();
+  EXPECT_EQ(ListedWindows(menu).at(1), QStringLiteral("&1 Untitled 1*"));
+  EXPECT_EQ(Component(first).Calls().empty(), false);
+}
+
+}  // namespace
+}  // namespace velor

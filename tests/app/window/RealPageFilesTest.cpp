@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A person at the whole window: pages saved, previewed and closed, and what then lies on the disk.
+#include "app/window/PageTabs.h"
+#include "editor/PageSlots.h"
+#include "editor/frmBrowser.h"
+#include "editor/frmCodeEditor.h"
+#include "editor/frmMain.h"
+#include "editor/modWorkFlow.h"
+#include "tests/app/window/RealWindowFixture.h"
+#include "tests/engine/ComponentFixture.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QWebEnginePage>
+
+namespace velor {
+namespace {
+
+const QByteArray Plain = "<html><head></head><body>\r\n<p>One</p>\r\n</body></html>";
+const QString PageFile = QStringLiteral("page.htm");
+const QString PageCopy = QStringLiteral("pageTMP.htm");
+const QString SaveQuestion =
+    QStringLiteral("You have made changes to this document. Do you want to save it?");
+
+class RealPageFiles : public RealWindow {
+ protected:
+  PageRecord &Record(int number) { return window.Context().pages.Record(number); }
+  /// What the preview shows, once it shows `text`.
+  bool PreviewShows(const QString &text) {
+    return WaitFor([&] {
+      return Evaluate(EngineOf(*window.Context().preview),
+                      QStringLiteral("document.body ? document.body.innerText : ''"))
+          .toString()
+          .contains(text);
+    });
+  }
+};
+
+TEST_F(RealPageFiles, TypedTextIsSavedByTheKeyPressedInThePage) {
+  frmMain &page = Open(PageFile, Plain);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("xy"));
+  Key(page, Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(Bytes(PageFile), "<html><head></head><body>\r\n<p>Oxyne</p>\r\n</body></html>");
+  EXPECT_TRUE(page.close());
+}
+
+TEST_F(RealPageFiles, TypedTextIsSavedWhenTheKeyboardHasJustLeftThePage) {
+  frmMain &page = Open(PageFile, Plain);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("xy"));
+  Tabs().setFocus();
+  ASSERT_FALSE(InputOf(page)->hasFocus());
+  Choose("mnuSave");
+  EXPECT_TRUE(Bytes(PageFile).contains("<p>Oxyne</p>")) << Bytes(PageFile).constData();
+}
+
+TEST_F(RealPageFiles, AFormattedPageIsSavedAndOpenedAgainAsItWas) {
+  frmMain &page = Open(PageFile, Plain);
+  Choose("mnuSelectAll");
+  Button("tbrEdit_bold").click();
+  Button("tbrGeneral_save").click();
+  EXPECT_TRUE(Bytes(PageFile).contains("<p><b>One</b></p>")) << Bytes(PageFile).constData();
+  EXPECT_TRUE(page.close());
+  EXPECT_TRUE(Holds(Open(PageFile), QStringLiteral("<p><b>One</b></p>")));
+}
+
+TEST_F(RealPageFiles, ANewPageIsSavedInItsCharsetAndClosesUnasked) {
+  frmMain &page = NewPage();
+  EXPECT_EQ(page.windowTitle(), QStringLiteral("Untitled 1"));
+  QApplication::clipboard()->setText(QStringLiteral("\u4e2d\u6587"));
+  Choose("mnuPaste");
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("\u4e2d\u6587")); }));
+  SharedDialog().ExpectSave(Logic(QStringLiteral("new.htm")));
+  Choose("mnuSave");
+  EXPECT_TRUE(Bytes(QStringLiteral("new.htm")).contains("\xa4\xa4\xa4\xe5"));
+  EXPECT_TRUE(Bytes(QStringLiteral("new.htm")).contains("charset=big5"));
+  EXPECT_EQ(page.windowTitle(), QStringLiteral("new.htm"));
+  EXPECT_EQ(Tabs().tabText(0), QStringLiteral("new.htm"));
+  EXPECT_TRUE(page.close());
+}
+
+TEST_F(RealPageFiles, AnUntouchedNewPageIsTheTemplateToTheByte) {
+  NewPage();
+  SharedDialog().ExpectSave(Logic(QStringLiteral("new.htm")));
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(QStringLiteral("new.htm")), modWorkFlow::NewPageTemplate().toLatin1());
+}
+
+TEST_F(RealPageFiles, ANewNameLeavesTheOldFileAlone) {
+  frmMain &page = Open(PageFile, Plain);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  SharedDialog().ExpectSave(Logic(QStringLiteral("other.htm")));
+  Key(page, Qt::Key_F12);
+  EXPECT_EQ(Bytes(PageFile), Plain);
+  EXPECT_TRUE(Bytes(QStringLiteral("other.htm")).contains("<p>Oxne</p>"));
+  EXPECT_TRUE(page.close());
+}
+
+TEST_F(RealPageFiles, AChangedPageIsSavedOnYesAndKeptOnCancel) {
+  frmMain &page = Open(PageFile, Plain);
+  page.CreatorHTML();
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  dialogs.ExpectMessage(SaveQuestion, MessageAnswer::Cancel);
+  EXPECT_FALSE(page.close());
+  EXPECT_EQ(Tabs().count(), 1);
+  EXPECT_TRUE(Exists(PageCopy));
+  dialogs.ExpectMessage(SaveQuestion, MessageAnswer::Yes);
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Tabs().count(), 0);
+  EXPECT_FALSE(Exists(PageCopy));
+  EXPECT_TRUE(Bytes(PageFile).contains("<p>Oxne</p>"));
+}
+
+TEST_F(RealPageFiles, APageWhoseChangesWereAllTakenBackClosesUnasked) {
+  frmMain &page = Open(PageFile, Plain);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral(" two three"));
+  Choose("mnuSelectAll");
+  Button("tbrEdit_bold").click();
+  Button("tbrEdit_center").click();
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("center")); })) << Seen(page);
+  for (int step = 0; step < 8; ++step) Choose("mnuUndo");
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("<p>One</p>")); })) << Seen(page);
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Bytes(PageFile), Plain);
+}
+
+TEST_F(RealPageFiles, LetterCaseAloneIsNotAskedAbout) {
+  frmMain &page = Open(PageFile, Plain);
+  Select(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("ONE"));
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("ONE")); })) << Seen(page);
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Bytes(PageFile), Plain);
+}
+
+TEST_F(RealPageFiles, TwoWindowsOnOneFileAreTwoPages) {
+  frmMain &first = Open(PageFile, Plain);
+  frmMain &second = Open(PageFile);
+  EXPECT_EQ(Record(1).TempPath, Record(2).TempPath);
+  PutCaret(second, QStringLiteral("p"));
+  Type(second, QStringLiteral("2"));
+  Choose("mnuSave");
+  EXPECT_TRUE(Bytes(PageFile).contains("<p>O2ne</p>"));
+  EXPECT_TRUE(Holds(first, QStringLiteral("<p>One</p>")));
+  window.ActivateWindow(&first);
+  PutCaret(first, QStringLiteral("p"));
+  Type(first, QStringLiteral("1"));
+  Choose("mnuSave");
+  EXPECT_TRUE(Bytes(PageFile).contains("<p>O1ne</p>"));
+  first.ChangeMode(2);
+  EXPECT_TRUE(first.close());
+  EXPECT_FALSE(Exists(PageCopy));
+  second.ChangeMode(2);
+  EXPECT_TRUE(second.Code1().Text().contains(QStringLiteral("<p>O2ne</p>")));
+  EXPECT_TRUE(second.close());
+}
+
+TEST_F(RealPageFiles, ThePreviewShowsUnsavedEditsFromATemporaryCopy) {
+  frmMain &page = Open(PageFile, Plain);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  Button("tbrGeneral_preview").click();
+  EXPECT_TRUE(PreviewShows(QStringLiteral("Oxne")));
+  EXPECT_TRUE(Bytes(PageCopy).endsWith("</html>\r\n"));
+  EXPECT_EQ(Bytes(PageFile), Plain);
+}
+
+TEST_F(RealPageFiles, APageThatDeclaresNoCharsetIsPreviewedInItsOwn) {
+  frmMain &page = Open(PageFile, "<html><head></head><body>\r\n<p>Caf\xe9</p>\r\n</body></html>");
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  Button("tbrGeneral_preview").click();
+  EXPECT_TRUE(PreviewShows(QStringLiteral("Cxaf\u00e9")));
+  EXPECT_TRUE(Bytes(PageCopy).contains("<p>Cxaf\xe9</p>")) << Bytes(PageCopy).constData();
+}
+
+TEST_F(RealPageFiles, ASecondPreviewOfThePageShowsWhatWasTypedSince) {
+  frmMain &page = Open(PageFile, Plain);
+  page.ChangeMode(4);
+  ASSERT_TRUE(PreviewShows(QStringLiteral("One")));
+  const QPointer<frmBrowser> preview = window.Context().preview;
+  preview->close();
+  EXPECT_FALSE(preview->isVisible());
+  window.ActivateWindow(&page);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  page.ChangeMode(4);
+  EXPECT_TRUE(preview->isVisible());
+  EXPECT_TRUE(PreviewShows(QStringLiteral("Oxne")));
+  EXPECT_EQ(window.Context().preview, preview);
+}
+
+TEST_F(RealPageFiles, APageWhoseTemporaryCopyHasNoPlaceIsPreviewedWithItsOwnFolderAsBase) {
+  QDir().mkpath(folder.FilePath(QStringLiteral("example.com")));
+  Write(QStringLiteral("example.com/after.css"), "p::after { content: ' styled' }");
+  frmMain &page = Open(QStringLiteral("example.com/page.htm"),
+                       "<html><head><link rel=stylesheet href=after.css></head><body><p>One</p>"
+                       "</body></html>");
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  page.ChangeMode(4);
+  ASSERT_TRUE(PreviewShows(QStringLiteral("Oxne")));
+  EXPECT_TRUE(WaitFor([&] {
+    return Evaluate(EngineOf(*window.Context().preview),
+                    QStringLiteral("getComputedStyle(document.querySelector('p'), '::after')"
+                                   ".content")) == QStringLiteral("\" styled\"");
+  }));
+  EXPECT_EQ(QDir(folder.FilePath(QStringLiteral("example.com"))).entryList(QDir::Files),
+            QStringList({QStringLiteral("after.css"), QStringLiteral("page.htm")}));
+}
+
+TEST_F(RealPageFiles, ThePreviewOfAReadOnlyPageShowsTheFile) {
+  Write(PageFile, Plain);
+  QFile::setPermissions(folder.FilePath(PageFile), QFile::ReadOwner);
+  frmMain &page = Open(PageFile);
+  EXPECT_EQ(Tabs().tabText(0), QStringLiteral("page.htm (Read-Only)"));
+  EXPECT_EQ(page.windowTitle(), QStringLiteral("page.htm"));
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("Oxne")); }));
+  page.ChangeMode(4);
+  EXPECT_TRUE(PreviewShows(QStringLiteral("One")));
+  dialogs.ExpectMessage(SaveQuestion, MessageAnswer::No);
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Bytes(PageFile), Plain);
+  EXPECT_FALSE(Exists(PageCopy));
+}
+
+TEST_F(RealPageFiles, FivePagesAreOpenAtOnceEachWithItsOwnText) {
+  for (int number = 1; number <= 5; ++number) {
+    Type(NewPage(), QStringLiteral("page%1").arg(number));
+  }
+  for (int number = 1; number <= 5; ++number) {
+    frmMain &page = *window.Context().pages.Page(number);
+    EXPECT_TRUE(Holds(page, QStringLiteral("page%1").arg(number))) << Seen(page);
+  }
+  EXPECT_EQ(Tabs().count(), 5);
+}
+
+TEST_F(RealPageFiles, ExitAsksNothingAndLeavesFilesAsTheyWere) {
+  QSignalSpy unloaded(&window, &MfrmProgram::Unloaded);
+  Type(NewPage(), QStringLiteral("never saved"));
+  const QPointer<frmMain> page = &Open(PageFile, Plain);
+  PutCaret(*page, QStringLiteral("p"));
+  Type(*page, QStringLiteral("x"));
+  page->ChangeMode(4);
+  page->ChangeMode(3);
+  ASSERT_TRUE(Exists(PageCopy));
+  const QPointer<frmBrowser> preview = window.Context().preview;
+  const QPointer<frmCodeEditor> editor = window.Context().pages.CodeEditor(2);
+  preview->close();
+  Choose("mnuExit");
+  EXPECT_EQ(unloaded.count(), 1);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_TRUE(dialogs.messages.empty());
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(page.isNull());
+  EXPECT_TRUE(preview.isNull());
+  EXPECT_TRUE(editor.isNull());
+  EXPECT_EQ(Bytes(PageFile), Plain);
+  EXPECT_FALSE(Exists(PageCopy));
+}
+
+}  // namespace
+}  // namespace velor

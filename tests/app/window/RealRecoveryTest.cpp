@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A page that was journalled by one run and restored by the next is saved as faithfully as if
+// nothing had happened.
+#include "recovery/offers/RecoveryBar.h"
+#include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
+#include "editor/frmMain.h"
+#include "editor/modWorkFlow.h"
+#include "files/StateFolder.h"
+#include "recovery/JournalFiles.h"
+#include "tests/app/window/RealWindowFixture.h"
+#include "tests/engine/ComponentFixture.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace velor {
+namespace {
+
+/// Tells of each time that a file is brought to the disk.
+class SyncCalls : public FileCalls {
+ public:
+  int Sync(int file) override {
+    if (onSync) onSync();
+    return FileCalls::Sync(file);
+  }
+
+  std::function<void()> onSync;
+};
+
+class RealRecovery : public RealWindow {
+ protected:
+  RealRecovery() {
+    qputenv("XDG_STATE_HOME", state_.path().toLocal8Bit());
+    platform.journals = &journals_.emplace(calls_);
+  }
+  ~RealRecovery() override { qputenv("XDG_STATE_HOME", stateHome_); }
+
+  frmMain &LastOpened() {
+    PageSlots &pages = window.Context().pages;
+    return *pages.Page(pages.PageCount());
+  }
+  /// What another run finds after this one's end, once it holds the text.
+  JournalledPage Left(frmMain &page, const QString &text) {
+    EXPECT_TRUE(WaitFor([&] { return page.DHTML1().Memory().document.contains(text); }));
+    EXPECT_TRUE(page.Journal().Catch());
+    // The process would have ended here; this one goes on, and the page stays.
+    const JournalledPage kept{window.Context().pages.Record(page.Number()).Path,
+                              page.GetPageRecord().Caption, JournalledPage::Saving::ToItsFile,
+                              page.DHTML1().Memory(), QDateTime::currentDateTime()};
+    return kept;
+  }
+
+  static QStringList JournalsThere() {
+    QStringList found;
+    const QDir root(StateFolder() + QStringLiteral("/recovery"));
+    for (const QString &run : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+      found += QDir(root.filePath(run)).entryList({QStringLiteral("*.page")});
+    return found;
+  }
+
+  SyncCalls calls_;
+
+ private:
+  const QByteArray stateHome_ = qgetenv("XDG_STATE_HOME");
+  QTemporaryDir state_;
+  std::optional<JournalFiles> journals_;
+};
+
+TEST_F(RealRecovery, TheJournalGoesToTheDiskBetweenTheKeysOfWhoeverTypesOn) {
+  constexpr int keys = 100;
+  constexpr int pace = 50;  // milliseconds between two keys
+  // From one sync to the next: about a second, and the wait for an idle moment on a busy machine.
+  constexpr qint64 longest = 4000;
+  frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
+  PutCaret(page, QStringLiteral("p"));
+  QElapsedTimer clock;
+  std::vector<qint64> syncs;
+  int late = 0;
+  calls_.onSync = [&] {
+    syncs.push_back(clock.elapsed());
+    if (!page.DHTML1().IsIdle()) ++late;
+  };
+  clock.start();
+  for (int key = 1; key <= keys; ++key) {
+    Type(page, QStringLiteral("x"));
+    (void)QTest::qWaitFor([&] { return clock.elapsed() >= key * pace; });
+  }
+  const qint64 end = clock.elapsed();
+  calls_.onSync = {};
+  EXPECT_EQ(late, 0);
+  qint64 before = 0;
+  syncs.push_back(end);
+  for (const qint64 sync : syncs) {
+    EXPECT_LE(sync - before, longest);
+    before = sync;
+  }
+}
+
+TEST_F(RealRecovery, ARestoredPageIsSavedFaithfully) {
+  const QByteArray source =
+      "<HTML>\r\n<Head><META charset=big5></HEAD>\r\n<BODY bgColor=#ffffff>\r\n"
+      "<P Align=center>\xA4\xA4\xA4\xE5 one</p>\r\n<% server code %>\r\n<img SRC=a.gif>\r\n"
+      "<p>two\r\n</BODY>\r\n<!-- end -->\r\n";
+  frmMain &page = Open(QStringLiteral("page.htm"), source);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("X"));
+  const JournalledPage left = Left(page, QStringLiteral("X"));
+
+  ASSERT_TRUE(modWorkFlow::RestorePage(window.Context(), left));
+  frmMain &restored = LastOpened();
+  EXPECT_TRUE(Holds(restored, QStringLiteral("中X文 one")));
+  EXPECT_EQ(restored.DHTML1().Charset(), QStringLiteral("big5"));
+  EXPECT_TRUE(modWorkFlow::HasUnsavedChanges(restored.GetPageRecord().SavedHTML,
+                                             restored.DHTML1().DocumentHTML()));
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")),
+            QByteArray(source).replace("\xA4\xA4\xA4\xE5", "\xA4\xA4X\xA4\xE5"));
+}
+
+TEST_F(RealRecovery, ARestoredPageIsEditedAndSavedOn) {
+  frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("X"));
+  const JournalledPage left = Left(page, QStringLiteral("oXne"));
+  modWorkFlow::RestorePage(window.Context(), left);
+  frmMain &restored = LastOpened();
+  PutCaret(restored, QStringLiteral("p"));
+  Type(restored, QStringLiteral("Y"));
+  EXPECT_TRUE(WaitFor([&] { return Holds(restored, QStringLiteral("oYXne")); }));
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")), "<p>oYXne</p>");
+}
+
+TEST_F(RealRecovery, ANewPageComesBackWithoutAFile) {
+  frmMain &page = NewPage();
+  Type(page, QStringLiteral("typed"));
+  JournalledPage left = Left(page, QStringLiteral("typed"));
+  left.saving = JournalledPage::Saving::AsksForAName;
+  modWorkFlow::RestorePage(window.Context(), left);
+  frmMain &restored = LastOpened();
+  EXPECT_TRUE(Holds(restored, QStringLiteral("typed")));
+  EXPECT_EQ(restored.windowTitle(), QStringLiteral("Untitled 2"));
+  SharedDialog().ExpectSave(Logic(QStringLiteral("new.htm")));
+  Choose("mnuSave");
+  EXPECT_TRUE(Bytes(QStringLiteral("new.htm")).contains("typed"));
+}
+
+TEST_F(RealRecovery, AnAppliedSourceIsJournalledWithItsText) {
+  frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
+  page.DHTML1().LoadText(QStringLiteral("<P>applied</P>"), Logic(QStringLiteral("page.htm")));
+  const JournalledPage left = Left(page, QStringLiteral("applied"));
+  EXPECT_EQ(left.page.original, "<P>applied</P>");
+  modWorkFlow::RestorePage(window.Context(), left);
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")), "<P>applied</P>");
+}
+
+TEST_F(RealRecovery, ASourceThatWasNotAppliedIsInItsEditorAgainAndIsAppliedFaithfully) {
+  const QByteArray source = "<HTML>\r\n<body>\r\n<P>one</P>\r\n</body></HTML>\r\n";
+  frmMain &page = Open(QStringLiteral("page.htm"), source);
+  page.ChangeMode(3);
+  frmCodeEditor *editor = window.Context().pages.CodeEditor(page.Number());
+  SourceControl &code = editor->Code();
+  ASSERT_TRUE(code.Find(QStringLiteral("one"), SearchDirection::Here, LetterCase::Matched));
+  QTest::keyClicks(code.Widget(), QStringLiteral("typed"));
+  ASSERT_TRUE(WaitFor([] { return !JournalsThere().isEmpty(); }));
+  JournalledPage kept = Left(page, QStringLiteral("one"));
+  kept.source = editor->UnappliedText();
+  ASSERT_EQ(kept.source, QString::fromUtf8(source).replace("one", "typed"));
+
+  modWorkFlow::RestorePage(window.Context(), kept);
+  frmMain &restored = LastOpened();
+  EXPECT_TRUE(Holds(restored, QStringLiteral("one")));
+  editor = window.Context().pages.CodeEditor(restored.Number());
+  EXPECT_EQ(editor->Code().Text(), kept.source);
+  EXPECT_EQ(editor->ApplyCode(), 0);
+  EXPECT_TRUE(Holds(restored, QStringLiteral("typed")));
+  editor->close();
+  Choose("mnuSave");
+  // With the line break that applying a source puts behind it.
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")), QByteArray(source).replace("one", "typed") + "\r\n");
+}
+
+TEST_F(RealRecovery, ACleanExitLeavesNothingBehind) {
+  frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("X"));
+  frmMain &source = NewPage();
+  source.ChangeMode(3);
+  window.Context().pages.CodeEditor(source.Number())->Code().SetText(QStringLiteral("<p>x</p>"));
+  ASSERT_TRUE(WaitFor([] { return JournalsThere().size() == 2; }));
+  Choose("mnuExit");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QTest::qWait(0);
+  EXPECT_EQ(JournalsThere(), QStringList());
+}
+
+TEST_F(RealRecovery, ThePageInTheKeyboardsFocusIsLeftForTheOfferByAltG) {
+  JournalledPage abandoned;
+  abandoned.caption = QStringLiteral("Untitled 7");
+  abandoned.page = {"<p>", QStringLiteral("/"), QStringLiteral("<html><body><p>back</p></body>")};
+  abandoned.time = QDateTime::currentDateTime();
+  JournalFiles().Begin()->Write(abandoned);
+  frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
+  Find<RecoveryBar>("picRecovery")->Offer();
+  PutCaret(page, QStringLiteral("p"));
+  ASSERT_TRUE(WaitFor([&] { return InputOf(page)->hasFocus(); }));
+  Key(page, Qt::Key_G, Qt::AltModifier);
+  ASSERT_EQ(QApplication::focusWidget()->accessibleName(), QStringLiteral("Restore Untitled 7"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  EXPECT_TRUE(WaitFor([&] { return window.Context().pages.PageCount() == 2; }));
+  EXPECT_TRUE(Holds(LastOpened(), QStringLiteral("back")));
+  EXPECT_FALSE(Holds(page, QStringLiteral("o ne")));
+}
+
+}  // namespace
+}  // namespace velor

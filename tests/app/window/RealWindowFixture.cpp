@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/app/window/RealWindowFixture.h"
+
+#include "app/window/PageTabs.h"
+#include "editor/PageSlots.h"
+#include "editor/frmMain.h"
+#include "platform/Paths.h"
+#include "engine/BridgeScript.h"
+#include "tests/engine/ComponentFixture.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFile>
+#include <QTest>
+#include <QWebEngineView>
+
+namespace velor {
+
+RealWindow::RealWindow() {
+  window.Load();
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+  window.activateWindow();
+}
+
+RealWindow::~RealWindow() {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+PageTabs &RealWindow::Tabs() {
+  return *Find<PageTabs>("FileTab");
+}
+
+QString RealWindow::Logic(const QString &name) const {
+  return ToLogic(folder.FilePath(name));
+}
+
+void RealWindow::Write(const QString &name, const QByteArray &content) const {
+  QFile file(folder.FilePath(name));
+  EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << name.toStdString();
+  EXPECT_EQ(file.write(content), content.size());
+}
+
+QByteArray RealWindow::Bytes(const QString &name) const {
+  QFile file(folder.FilePath(name));
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+  return file.readAll();
+}
+
+bool RealWindow::Exists(const QString &name) const {
+  return QFile::exists(folder.FilePath(name));
+}
+
+frmMain &RealWindow::Open(const QString &name, const QByteArray &content) {
+  if (!content.isEmpty()) Write(name, content);
+  SharedDialog().ExpectOpen(Logic(name));
+  Choose("mnuOpen");
+  return LastPage();
+}
+
+frmMain &RealWindow::NewPage() {
+  Choose("mnuNew");
+  return LastPage();
+}
+
+frmMain &RealWindow::LastPage() {
+  PageSlots &pages = window.Context().pages;
+  frmMain &page = *pages.Page(pages.PageCount());
+  EXPECT_TRUE(WaitFor([&] { return page.PendingAction.isEmpty(); }));
+  page.DHTML1().SetFocus();
+  return page;
+}
+
+QWebEnginePage &RealWindow::EngineOf(QWidget &shown) {
+  return *shown.findChild<QWebEngineView *>()->page();
+}
+
+QWidget *RealWindow::InputOf(frmMain &page) {
+  return page.findChild<QWebEngineView *>()->focusProxy();
+}
+
+void RealWindow::Type(frmMain &page, const QString &text) {
+  QTest::keyClicks(InputOf(page), text);
+}
+
+void RealWindow::Key(frmMain &page, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QTest::keyClick(InputOf(page), key, modifiers);
+}
+
+void RealWindow::PutCaret(frmMain &page, const QString &selector) {
+  Evaluate(EngineOf(page),
+           QStringLiteral("getSelection().collapse(document.querySelector(%1).firstChild, 1)")
+               .arg(ScriptValue(selector)));
+}
+
+void RealWindow::Select(frmMain &page, const QString &selector) {
+  Evaluate(EngineOf(page),
+           QStringLiteral("getSelection().selectAllChildren(document.querySelector(%1))")
+               .arg(ScriptValue(selector)));
+}
+
+bool RealWindow::Holds(frmMain &page, const QString &text) {
+  return page.DHTML1().DocumentHTML().contains(text);
+}
+
+std::string RealWindow::Seen(frmMain &page) {
+  return page.DHTML1().DocumentHTML().toStdString();
+}
+
+}  // namespace velor

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Selected objects in the whole component: what it answers of them, and that nothing of their
+// handles, grid or glyphs is ever in the document.
+#include "platform/EditingCommands.h"
+#include "tests/engine/ComponentFixture.h"
+
+#include <QMouseEvent>
+#include <QTest>
+
+namespace velor {
+
+namespace {
+
+const QByteArray page =
+    "<!DOCTYPE html>\r\n<html><head><title>x</title><style>body { margin: 0 }</style></head>\r\n"
+    "<body>\r\n<p>One<br>two</p><!-- c -->\r\n"
+    "<div style=\"position:absolute; left:210px; top:120px; width:150px; height:60px\">box</div>"
+    "\r\n</body></html>\r\n";
+
+class ObjectsOfThePage : public WebEditorTest {
+ protected:
+  ObjectsOfThePage() {
+    editor_->LoadDocument(Write(QStringLiteral("page.htm"), page));
+    Show();
+    // The pointer meets what is painted.
+    Evaluate(
+        QStringLiteral("globalThis.painted = false; requestAnimationFrame(() =>"
+                       "requestAnimationFrame(() => { painted = true; }))"));
+    EXPECT_TRUE(WaitFor([this] { return Evaluate(QStringLiteral("painted")).toBool(); }));
+  }
+  void Send(QEvent::Type type, QPoint place, Qt::MouseButton button, Qt::MouseButtons held) const {
+    QMouseEvent event(type, place, Input()->mapToGlobal(place), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(Input(), &event);
+  }
+  void Drag(QPoint from, QPoint to) const {
+    Send(QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+    Send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    Send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
+  }
+  void Exec(EditingCommand command) {
+    editor_->ExecCommand(Number(command), ExecOption::Default, {});
+  }
+  DocumentSelection &Selection() { return editor_->Document().Selection(); }
+  bool BoxIsSelected() {
+    return WaitFor([this] {
+      return Selection().Type() == SelectionType::Control &&
+             Selection().ControlElement().tagName == QStringLiteral("DIV");
+    });
+  }
+  QByteArray Saved() {
+    editor_->SaveDocument(Logic(QStringLiteral("saved.htm")));
+    return Bytes(QStringLiteral("saved.htm"));
+  }
+};
+
+TEST_F(ObjectsOfThePage, HandlesAndGlyphsAreNeverInTheDocument) {
+  const QString document = editor_->DocumentHTML();
+  QTest::mouseClick(Input(), Qt::LeftButton, Qt::NoModifier, {250, 150});
+  ASSERT_TRUE(BoxIsSelected());
+  editor_->SetShowDetails(true);
+  editor_->SetSnapToGrid(true);
+  ASSERT_TRUE(WaitFor([this] {
+    return Evaluate(QStringLiteral("['::before', '::after'].every((name) =>"
+                                   "getComputedStyle(document.head, name).content"
+                                   "    !== 'none')"))
+        .toBool();
+  }));
+  EXPECT_EQ(editor_->DocumentHTML(), document);
+  EXPECT_EQ(Saved(), page);
+}
+
+TEST_F(ObjectsOfThePage, ADragIsOneUndoStepAndChangesOnlyTheElementsStyleInTheFile) {
+  editor_->SetSnapToGrid(true);
+  ASSERT_TRUE(WaitFor([this] { return Evaluate(QStringLiteral("velor.snapToGrid")).toBool(); }));
+  Drag({250, 150}, {283, 190});
+  ASSERT_TRUE(WaitFor([this] {
+    return Selection()
+        .ControlElement()
+        .Attribute(QStringLiteral("style"))
+        .contains(QStringLiteral("left: 250px"));
+  }));
+  QByteArray moved = page;
+  moved.replace("left:210px; top:120px", "left: 250px; top: 150px");
+  EXPECT_EQ(Saved(), moved);
+  Exec(EditingCommand::Undo);
+  EXPECT_EQ(Saved(), page);
+  EXPECT_TRUE(WaitFor([this] {
+    return editor_->QueryStatus(Number(EditingCommand::Undo)) == CommandStatus::Disabled;
+  }));
+}
+
+TEST_F(ObjectsOfThePage, TheRightButtonSelectsAnObjectAndAsksForTheMenu) {
+  Send(QEvent::MouseButtonPress, {250, 150}, Qt::RightButton, Qt::RightButton);
+  Send(QEvent::MouseButtonRelease, {250, 150}, Qt::RightButton, Qt::NoButton);
+  QContextMenuEvent menu(QContextMenuEvent::Mouse, {250, 150},
+                         Input()->mapToGlobal(QPoint(250, 150)));
+  QCoreApplication::sendEvent(Input(), &menu);
+  EXPECT_TRUE(BoxIsSelected());
+  EXPECT_TRUE(WaitFor([this] { return listener_.menus > 0; }));
+  EXPECT_TRUE(BoxIsSelected());
+}
+
+TEST_F(ObjectsOfThePage, CommandsOnTextApplyToTheTextOfABoxAndCuttingItIsOn) {
+  QTest::mouseClick(Input(), Qt::LeftButton, Qt::NoModifier, {250, 150});
+  ASSERT_TRUE(BoxIsSelected());
+  EXPECT_EQ(editor_->QueryStatus(Number(EditingCommand::Bold)), CommandStatus::Enabled);
+  EXPECT_EQ(editor_->QueryStatus(Number(EditingCommand::Cut)), CommandStatus::Enabled);
+  Exec(EditingCommand::Delete);
+  EXPECT_FALSE(DocumentHolds(QStringLiteral("<div")));
+  Exec(EditingCommand::Undo);
+  EXPECT_EQ(Saved(), page);
+}
+
+}  // namespace
+
+}  // namespace velor

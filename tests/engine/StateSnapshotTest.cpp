@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/EditingCommands.h"
+#include "engine/StateSnapshot.h"
+
+#include <gtest/gtest.h>
+
+namespace velor {
+
+namespace {
+
+const QString whole = QStringLiteral(R"({
+  "version": 12, "dirty": true,
+  "commands": {"5000": 7, "5023": 3, "5048": 11, "5025": 1, "5024": 0, "5026": 99},
+  "fontName": "Arial", "fontSize": "12", "foreColor": "#112233", "backColor": "#FFFFFF",
+  "blockFormat": "Heading 1", "selection": "Control",
+  "element": {"tag": "A", "attributes": [["href", "x.htm"], ["title", "a \"b\" <c>"]]}
+})");
+
+TEST(StateSnapshot, HoldsEveryFieldOfAPushedState) {
+  const auto state = StateSnapshot::FromJson(whole);
+  ASSERT_TRUE(state.has_value());
+  EXPECT_EQ(state->version, 12);
+  EXPECT_TRUE(state->dirty);
+  EXPECT_EQ(state->selection, SelectionType::Control);
+  EXPECT_EQ(state->element.tagName, QStringLiteral("A"));
+  ASSERT_EQ(state->element.attributes.size(), 2U);
+  EXPECT_EQ(state->element.attributes[0].first, QStringLiteral("href"));
+  EXPECT_EQ(state->element.Attribute(QStringLiteral("title")), QStringLiteral("a \"b\" <c>"));
+}
+
+TEST(StateSnapshot, AnswersTheStatusOfACommand) {
+  const auto state = StateSnapshot::FromJson(whole);
+  EXPECT_EQ(state->StatusOf(5000), CommandStatus::Latched);
+  EXPECT_EQ(state->StatusOf(5023), CommandStatus::Enabled);
+  EXPECT_EQ(state->StatusOf(5048), CommandStatus::Ninched);
+  EXPECT_EQ(state->StatusOf(5025), CommandStatus::Disabled);
+  EXPECT_EQ(state->StatusOf(5024), CommandStatus::NotSupported);
+}
+
+TEST(StateSnapshot, AnUnpublishedOrMissingStatusIsNotSupported) {
+  const auto state = StateSnapshot::FromJson(whole);
+  EXPECT_EQ(state->StatusOf(5026), CommandStatus::NotSupported);
+  EXPECT_EQ(state->StatusOf(4711), CommandStatus::NotSupported);
+  EXPECT_EQ(StateSnapshot{}.StatusOf(5000), CommandStatus::NotSupported);
+}
+
+TEST(StateSnapshot, AnswersTheValuesOfTheFiveQueryCommandsOnly) {
+  const auto state = StateSnapshot::FromJson(whole);
+  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetFontName)), QStringLiteral("Arial"));
+  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetFontSize)), QStringLiteral("12"));
+  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetForeColor)), QStringLiteral("#112233"));
+  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetBackColor)), QStringLiteral("#FFFFFF"));
+  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetBlockFormat)), QStringLiteral("Heading 1"));
+  EXPECT_EQ(state->ValueOf(Number(EditingCommand::Bold)), std::nullopt);
+}
+
+TEST(StateSnapshot, AMixedSelectionHasEmptyValuesAndNoElement) {
+  const auto state =
+      StateSnapshot::FromJson(QStringLiteral(R"({"fontName": "", "element": null})"));
+  ASSERT_TRUE(state.has_value());
+  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetFontName)), QString());
+  EXPECT_TRUE(state->element.IsNull());
+  EXPECT_EQ(state->selection, SelectionType::None);
+  EXPECT_FALSE(state->dirty);
+}
+
+TEST(StateSnapshot, ATextThatIsNoStateIsNone) {
+  for (const char *text : {"", "{", "[]", "\"x\"", "5"})
+    EXPECT_FALSE(StateSnapshot::FromJson(QString::fromLatin1(text)).has_value()) << text;
+}
+
+}  // namespace
+
+}  // namespace velor

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/engine/bridge/BridgeCase.h"
+
+#include "tests/engine/bridge/BridgePage.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+#include <map>
+
+namespace velor {
+namespace {
+
+const std::map<QString, int> &CommandNumbers() {
+  static const std::map<QString, int> numbers = {
+      {"bold", 5000},    {"copy", 5002},   {"cut", 5003},  {"delete", 5004}, {"indent", 5018},
+      {"italic", 5023},  {"center", 5024}, {"left", 5025}, {"right", 5026},  {"number", 5030},
+      {"outdent", 5031}, {"paste", 5032},  {"redo", 5033}, {"all", 5035},    {"back", 5042},
+      {"format", 5043},  {"font", 5044},   {"size", 5045}, {"color", 5046},  {"underline", 5048},
+      {"undo", 5049},    {"bullet", 5051},
+  };
+  return numbers;
+}
+
+QString Unescaped(QString text) {
+  return text.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
+}
+QString Escaped(QString text) {
+  return text.replace(QStringLiteral("\n"), QStringLiteral("\\n"));
+}
+
+QStringList LinesOf(const QString &path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+}
+
+}  // namespace
+
+QString ScriptText(const QString &text) {
+  const QByteArray json = QJsonDocument(QJsonObject{{"t", text}}).toJson(QJsonDocument::Compact);
+  return QString::fromUtf8(json.mid(5, json.size() - 6));
+}
+
+bool BridgeCase::IsDocument() const {
+  return input.startsWith(QStringLiteral("<!")) || input.startsWith(QStringLiteral("<html"));
+}
+
+QString BridgeCase::Document() const {
+  if (IsDocument()) return input;
+  const QString doctype =
+      page == QStringLiteral("html5")
+          ? QStringLiteral("<!DOCTYPE html>")
+          : QStringLiteral(
+                "<!DOCTYPE html PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\" "
+                "\"http://www.w3.org/TR/html4/loose.dtd\">");
+  return doctype + QStringLiteral("<html><head></head><body>") + input +
+         QStringLiteral("</body></html>");
+}
+
+std::vector<BridgeCase> ReadBridgeCases(const QString &folder) {
+  std::vector<BridgeCase> cases;
+  const QStringList files =
+      QDir(folder).entryList({QStringLiteral("*.txt")}, QDir::Files, QDir::Name);
+  for (const QString &file : files) {
+    const QString path = QDir(folder).filePath(file);
+    for (const QString &line : LinesOf(path)) {
+      const QString key = line.section(QStringLiteral(": "), 0, 0);
+      const QString value = Unescaped(line.section(QStringLiteral(": "), 1));
+      if (key == QStringLiteral("name")) {
+        cases.push_back({path, value, {}, {}, {}, {}, {}, {}});
+      } else if (key == QStringLiteral("page")) {
+        cases.back().page = value;
+      } else if (key == QStringLiteral("input")) {
+        cases.back().input = value;
+      } else if (key == QStringLiteral("before")) {
+        cases.back().stateBefore = value;
+      } else if (key == QStringLiteral("do")) {
+        cases.back().steps.append(value);
+      } else if (key == QStringLiteral("state")) {
+        cases.back().state = value;
+      } else if (key == QStringLiteral("expect")) {
+        cases.back().expected = value;
+      }
+    }
+  }
+  return cases;
+}
+
+void Rebaseline(const BridgeCase &subject, const QString &actual) {
+  QStringList lines = LinesOf(subject.file);
+  const qsizetype start = lines.indexOf(QStringLiteral("name: ") + subject.name);
+  qsizetype at = start;
+  while (at < lines.size() && !lines[at].isEmpty() &&
+         !lines[at].startsWith(QStringLiteral("expect: "))) {
+    ++at;
+  }
+  const QString line = QStringLiteral("expect: ") + Escaped(actual);
+  if (at < lines.size() && !lines[at].isEmpty()) {
+    lines[at] = line;
+  } else {
+    lines.insert(at, line);
+  }
+  QFile file(subject.file);
+  if (file.open(QIODevice::WriteOnly)) file.write(lines.join(QLatin1Char('\n')).toUtf8());
+}
+
+void Perform(BridgePage &page, const QString &step) {
+  const QString verb = step.section(QLatin1Char(' '), 0, 0);
+  const QString value = step.section(QLatin1Char(' '), 1);
+  if (verb == QStringLiteral("type")) {
+    page.Type(value);
+  } else if (verb == QStringLiteral("key")) {
+    page.Press(QKeySequence::fromString(value, QKeySequence::PortableText));
+  } else if (verb == QStringLiteral("hold")) {
+    const QString name = value.section(QLatin1Char(' '), 0, 0);
+    page.Hold(QKeySequence::fromString(name, QKeySequence::PortableText),
+              value.section(QLatin1Char(' '), 1).toInt());
+  } else if (verb == QStringLiteral("compose")) {
+    page.Compose(value);
+  } else if (verb == QStringLiteral("commit")) {
+    page.Commit(value);
+  } else if (verb == QStringLiteral("pasteHTML")) {
+    page.Evaluate(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptText(value)));
+  } else if (verb == QStringLiteral("pasteForeign") || verb == QStringLiteral("pasteText")) {
+    const QString type = verb == QStringLiteral("pasteText") ? QStringLiteral("text/plain")
+                                                             : QStringLiteral("text/html");
+    page.Evaluate(QStringLiteral("markup.paste(%1, %2)").arg(ScriptText(type), ScriptText(value)));
+  } else if (CommandNumbers().count(verb) == 1) {
+    page.Evaluate(
+        QStringLiteral("velor.exec(%1, %2)").arg(CommandNumbers().at(verb)).arg(ScriptText(value)));
+  } else {
+    ADD_FAILURE() << "no such step: " << qPrintable(step);
+  }
+}
+
+QString ActualState(BridgePage &page, const QString &expected) {
+  const QString json = page.Evaluate(QStringLiteral("JSON.stringify(velor.state())")).toString();
+  const QJsonObject state = QJsonDocument::fromJson(json.toUtf8()).object();
+  QStringList actual;
+  static const QRegularExpression pair(QStringLiteral("(\\w+)=(\"[^\"]*\"|\\S*)"));
+  for (auto matches = pair.globalMatch(expected); matches.hasNext();) {
+    const QRegularExpressionMatch match = matches.next();
+    const QString key = match.captured(1);
+    QString value;
+    if (CommandNumbers().count(key) == 1) {
+      const QString number = QString::number(CommandNumbers().at(key));
+      value = QString::number(state["commands"].toObject()[number].toInt());
+    } else if (key == QStringLiteral("element")) {
+      value = state["element"].toObject()["tag"].toString();
+    } else {
+      value = state[key].toString();
+    }
+    if (match.captured(2).startsWith(QLatin1Char('"'))) value = QStringLiteral("\"%1\"").arg(value);
+    actual.append(key + QLatin1Char('=') + value);
+  }
+  return actual.join(QLatin1Char(' '));
+}
+
+}  // namespace velor

@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Message boxes, questions, modal windows and file dialogs as a person meets them.
+#include "platform/Paths.h"
+#include "qt/QtDialogs.h"
+#include "qt/QtFileDialog.h"
+#include "tests/support/Checks.h"
+#include "tests/support/DialogDriver.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace velor {
+namespace {
+
+Message Question(MessageButtons buttons) {
+  Message message;
+  message.text = QStringLiteral("Is <b>this</b> text?");
+  message.title = QStringLiteral("Closing doucment...");
+  message.buttons = buttons;
+  return message;
+}
+
+TEST(MessageBox, ShowsExactlyTheTextAsPlainTextTheTitleAndTheButtons) {
+  QtDialogs dialogs;
+  OnDialog<QMessageBox> person([](QMessageBox &box) {
+    EXPECT_EQ(box.windowTitle(), QStringLiteral("Closing doucment..."));
+    EXPECT_EQ(box.text(), QStringLiteral("Is <b>this</b> text?"));
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(box.icon(), QMessageBox::NoIcon);
+    box.button(QMessageBox::Yes)->click();
+  });
+  EXPECT_EQ(dialogs.ShowMessage(Question(MessageButtons::YesNo)), MessageAnswer::Yes);
+}
+
+TEST(MessageBox, HasTheApplicationsTitleWhenNoneIsGiven) {
+  QtDialogs dialogs;
+  OnDialog<QMessageBox> person([](QMessageBox &box) {
+    EXPECT_EQ(box.windowTitle(), QStringLiteral("Velor Web Creator"));
+    box.button(QMessageBox::Ok)->click();
+  });
+  Message message;
+  message.text = QStringLiteral("Done");
+  EXPECT_EQ(dialogs.ShowMessage(message), MessageAnswer::Ok);
+}
+
+TEST(MessageBox, AnswersTheButtonThatWasPressed) {
+  QtDialogs dialogs;
+  const std::pair<QMessageBox::StandardButton, MessageAnswer> answers[] = {
+      {QMessageBox::Yes, MessageAnswer::Yes},
+      {QMessageBox::No, MessageAnswer::No},
+      {QMessageBox::Cancel, MessageAnswer::Cancel}};
+  for (const auto &answer : answers) {
+    OnDialog<QMessageBox> person(
+        [&answer](QMessageBox &box) { box.button(answer.first)->click(); });
+    EXPECT_EQ(dialogs.ShowMessage(Question(MessageButtons::YesNoCancel)), answer.second);
+  }
+}
+
+TEST(MessageBox, EscapeAnswersCancelElseNoElseOk) {
+  QtDialogs dialogs;
+  const std::pair<MessageButtons, MessageAnswer> answers[] = {
+      {MessageButtons::YesNoCancel, MessageAnswer::Cancel},
+      {MessageButtons::YesNo, MessageAnswer::No},
+      {MessageButtons::Ok, MessageAnswer::Ok}};
+  for (const auto &answer : answers) {
+    OnDialog<QMessageBox> person([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(dialogs.ShowMessage(Question(answer.first)), answer.second);
+  }
+}
+
+TEST(MessageBox, CarriesEachIcon) {
+  QtDialogs dialogs;
+  const std::pair<MessageIcon, QMessageBox::Icon> icons[] = {
+      {MessageIcon::Information, QMessageBox::Information},
+      {MessageIcon::Question, QMessageBox::Question},
+      {MessageIcon::Critical, QMessageBox::Critical}};
+  for (const auto &icon : icons) {
+    Message message = Question(MessageButtons::Ok);
+    message.icon = icon.first;
+    message.foreground = true;
+    OnDialog<QMessageBox> person([&icon](QMessageBox &box) {
+      EXPECT_EQ(box.icon(), icon.second);
+      box.accept();
+    });
+    dialogs.ShowMessage(message);
+  }
+}
+
+TEST(TextQuestion, GivesTheTypedText) {
+  QtDialogs dialogs;
+  OnDialog<QInputDialog> person([](QInputDialog &box) {
+    EXPECT_EQ(box.windowTitle(), QStringLiteral("Target"));
+    EXPECT_EQ(box.labelText(), QStringLiteral("Name:"));
+    EXPECT_EQ(box.findChild<QLabel *>()->textFormat(), Qt::PlainText);
+    auto *edit = box.findChild<QLineEdit *>();
+    EXPECT_EQ(edit->text(), QStringLiteral("top"));
+    edit->setText(QStringLiteral("bottom"));
+    box.accept();
+  });
+  EXPECT_EQ(
+      dialogs.AskText(QStringLiteral("Name:"), QStringLiteral("Target"), QStringLiteral("top")),
+      QStringLiteral("bottom"));
+}
+
+TEST(TextQuestion, GivesTheEmptyTextWhenItIsCancelled) {
+  QtDialogs dialogs;
+  OnDialog<QInputDialog> person([](QInputDialog &box) { box.reject(); });
+  EXPECT_EQ(dialogs.AskText(QStringLiteral("Name:"), {}, QStringLiteral("top")), QString());
+}
+
+TEST(ModalWindow, ReturnsWhenTheWindowCloses) {
+  QtDialogs dialogs;
+  QDialog window;
+  OnDialog<QDialog> person([](QDialog &shown) { shown.accept(); });
+  dialogs.RunModal(window);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(window.result(), QDialog::Accepted);
+}
+
+TEST(ModalWindow, ReturnsWhenTheWindowHidesAndCanBeShownAgain) {
+  QtDialogs dialogs;
+  QWidget window;
+  for (int showing = 0; showing < 2; ++showing) {
+    OnDialog<QWidget> person([](QWidget &shown) { shown.hide(); });
+    dialogs.RunModal(window);
+    EXPECT_FALSE(window.isVisible());
+  }
+}
+
+TEST(ModalWindow, ReturnsWhenTheWindowIsDestroyed) {
+  QtDialogs dialogs;
+  auto *window = new QDialog;
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  const QPointer<QDialog> watched(window);
+  OnDialog<QDialog> person([](QDialog &shown) { delete &shown; });
+  dialogs.RunModal(*window);
+  EXPECT_TRUE(watched.isNull());
+}
+
+TEST(NameFilters, AreMadeOfDescriptionsAndPatternsInBothLetterCases) {
+  EXPECT_EQ(NameFilters(QStringLiteral("Database(*.mdb;)|*.mdb")),
+            QStringList{QStringLiteral("Database(*.mdb;) (*.mdb *.MDB)")});
+  const QStringList images = {QStringLiteral("Images (*.gif *.GIF *.jpg *.JPG)"),
+                              QStringLiteral("All (*)")};
+  EXPECT_EQ(NameFilters(QStringLiteral("Images|*.gif;*.jpg|All|*.*")), images);
+  EXPECT_EQ(NameFilters({}), QStringList());
+}
+
+TEST(NameFilters, GiveTheSuffixOfTheFirstPatternThatHasOne) {
+  EXPECT_EQ(DefaultSuffix(QStringLiteral("HTML File *.htm|*.htm")), QStringLiteral("htm"));
+  EXPECT_EQ(DefaultSuffix(QStringLiteral("All|*.*")), QString());
+}
+
+class FileDialogs : public ::testing::Test {
+ protected:
+  FileDialogs() { dialog_.Filter = QStringLiteral("HTML File *.htm|*.htm"); }
+
+  QString Native(const QString &name) const { return folder_.filePath(name); }
+  QString Logic(const QString &name) const { return ToLogic(Native(name)); }
+
+  void MakeFile(const QString &name) {
+    QFile file(Native(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  }
+
+  static void Choose(QFileDialog &box, const QString &path) {
+    box.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(path);
+    QMetaObject::invokeMethod(&box, "accept");
+  }
+
+  QTemporaryDir folder_;
+  QtFileDialog dialog_;
+};
+
+TEST_F(FileDialogs, OpenGivesTheChosenFileInLogicFormAndRemembersIt) {
+  MakeFile(QStringLiteral("page #1.htm"));
+  OnDialog<QFileDialog> person([this](QFileDialog &box) {
+    EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptOpen);
+    EXPECT_EQ(box.nameFilters(), QStringList{QStringLiteral("HTML File *.htm (*.htm *.HTM)")});
+    Choose(box, Native(QStringLiteral("page #1.htm")));
+  });
+  EXPECT_EQ(dialog_.ShowOpen(), Logic(QStringLiteral("page #1.htm")));
+  EXPECT_EQ(dialog_.FileName, Logic(QStringLiteral("page #1.htm")));
+}
+
+TEST_F(FileDialogs, ACancelledShowingGivesTheEmptyNameAndKeepsTheOneItHeld) {
+  dialog_.FileName = Logic(QStringLiteral("held.htm"));
+  OnDialog<QFileDialog> person([](QFileDialog &box) { box.reject(); });
+  EXPECT_EQ(dialog_.ShowOpen(), QString());
+  EXPECT_EQ(dialog_.FileName, Logic(QStringLiteral("held.htm")));
+}
+
+TEST_F(FileDialogs, CancellingIsAnErrorWhenThatIsAskedFor) {
+  dialog_.CancelError = true;
+  OnDialog<QFileDialog> person([](QFileDialog &box) { box.reject(); });
+  EXPECT_EQ(ErrorOf([this] { dialog_.ShowSave(); }), ErrorNumber::DialogCancelled);
+}
+
+TEST_F(FileDialogs, TheNextShowingStartsAtTheFileItHolds) {
+  MakeFile(QStringLiteral("held.htm"));
+  dialog_.FileName = Logic(QStringLiteral("held.htm"));
+  OnDialog<QFileDialog> person([this](QFileDialog &box) {
+    EXPECT_EQ(box.directory().absolutePath(), QDir(folder_.path()).absolutePath());
+    EXPECT_EQ(box.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text(),
+              QStringLiteral("held.htm"));
+    box.reject();
+  });
+  dialog_.ShowOpen();
+}
+
+TEST_F(FileDialogs, AFileThatMustExistIsAskedForUntilItDoes) {
+  dialog_.Flags = FileDialog::FileMustExist;
+  OnDialog<QFileDialog> person([](QFileDialog &box) {
+    EXPECT_EQ(box.fileMode(), QFileDialog::ExistingFile);
+    box.reject();
+  });
+  dialog_.ShowOpen();
+}
+
+TEST_F(FileDialogs, SaveAddsTheFiltersSuffixToANameWithoutOne) {
+  OnDialog<QFileDialog> person([this](QFileDialog &box) {
+    EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptSave);
+    Choose(box, Native(QStringLiteral("new page")));
+  });
+  EXPECT_EQ(dialog_.ShowSave(), Logic(QStringLiteral("new page.htm")));
+}
+
+TEST_F(FileDialogs, SaveAsksBeforeATakenNameWhenItIsToldTo) {
+  MakeFile(QStringLiteral("taken.htm"));
+  dialog_.Flags = FileDialog::OverwritePrompt;
+  OnDialog<QFileDialog> person([this](QFileDialog &box) {
+    OnDialog<QMessageBox> yes(
+        [](QMessageBox &question) { question.button(QMessageBox::Yes)->click(); });
+    Choose(box, Native(QStringLiteral("taken.htm")));
+  });
+  EXPECT_EQ(dialog_.ShowSave(), Logic(QStringLiteral("taken.htm")));
+}
+
+TEST_F(FileDialogs, SaveTakesATakenNameUnaskedOtherwise) {
+  MakeFile(QStringLiteral("taken.htm"));
+  OnDialog<QFileDialog> person(
+      [this](QFileDialog &box) { Choose(box, Native(QStringLiteral("taken.htm"))); });
+  EXPECT_EQ(dialog_.ShowSave(), Logic(QStringLiteral("taken.htm")));
+}
+
+}  // namespace
+}  // namespace velor

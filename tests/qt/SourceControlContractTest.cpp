@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What every source control promises: run against the fake that other tests lean on and against the
+// real one.
+#include "qt/QsciSourceControl.h"
+#include "tests/support/Checks.h"
+#include "tests/support/FakeSourceControl.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace velor {
+
+struct SourceControlMaker {
+  std::string name;
+  std::function<std::unique_ptr<SourceControl>(QWidget *, SourceAccess)> make;
+};
+
+void PrintTo(const SourceControlMaker &maker, std::ostream *out) {
+  *out << maker.name;
+}
+
+class SourceControlContract : public ::testing::TestWithParam<SourceControlMaker> {
+ protected:
+  std::unique_ptr<SourceControl> Make(SourceAccess access = SourceAccess::Edit) {
+    return GetParam().make(&host, access);
+  }
+  QWidget host;
+};
+
+TEST_P(SourceControlContract, TheTextComesBackAsItWasGiven) {
+  const auto source = Make();
+  for (const QString &text :
+       {QString(), QStringLiteral("<p>a</p>"), QStringLiteral("a\r\nb\r\n"), QStringLiteral("a\nb"),
+        QStringLiteral("a\r\nb\nc"), QStringLiteral("\u65e5\u672c \u00e4 \U0001F600"),
+        QString(QStringLiteral("a") + QChar(0) + QStringLiteral("b")), QString(1'000'000, u'x')}) {
+    source->SetText(text);
+    EXPECT_EQ(source->Text(), text);
+  }
+}
+
+TEST_P(SourceControlContract, AViewShowsWhatItIsGivenAndTakesNothingElse) {
+  const auto source = Make(SourceAccess::View);
+  source->SetText(QStringLiteral("one"));
+  source->SetText(QStringLiteral("two"));
+  EXPECT_EQ(source->Text(), QStringLiteral("two"));
+  source->ReplaceSelection(QStringLiteral("typed"));
+  EXPECT_EQ(source->Text(), QStringLiteral("two"));
+}
+
+TEST_P(SourceControlContract, EveryChangeOfTheTextIsToldAndNothingElse) {
+  const auto source = Make();
+  int told = 0;
+  source->SetTextListener([&] { ++told; });
+  const auto tells = [&](const auto &step) {
+    told = 0;
+    step();
+    return told > 0;
+  };
+  EXPECT_TRUE(tells([&] { source->SetText(QStringLiteral("one two")); }));
+  EXPECT_FALSE(tells([&] { source->SetCaret(0, 2); }));
+  EXPECT_TRUE(tells([&] { source->ReplaceSelection(QStringLiteral("x")); }));
+  const auto replace = [&](const char *what) {
+    source->ReplaceAll(QString::fromLatin1(what), QStringLiteral("three"), LetterCase::Matched);
+  };
+  EXPECT_TRUE(tells([&] { replace("two"); }));
+  EXPECT_FALSE(tells([&] { replace("nowhere"); }));
+}
+
+TEST_P(SourceControlContract, TheCaretStartsAtTheBeginningAndGoesWhereItIsPut) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("first\r\nsecond\r\n"));
+  EXPECT_EQ(source->CaretLine(), 0);
+  EXPECT_EQ(source->CaretColumn(), 0);
+  source->SetCaret(1, 3);
+  EXPECT_EQ(source->CaretLine(), 1);
+  EXPECT_EQ(source->CaretColumn(), 3);
+  source->SetCaret(2, 0);
+  EXPECT_EQ(source->CaretLine(), 2);
+  EXPECT_EQ(source->CaretColumn(), 0);
+}
+
+TEST_P(SourceControlContract, ColumnsCountUtf16Units) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("\U0001F600\u65e5x"));
+  EXPECT_EQ(source->LineLength(0), 4);
+  source->SetCaret(0, 3);
+  EXPECT_EQ(source->CaretColumn(), 3);
+  source->ReplaceSelection(QStringLiteral("!"));
+  EXPECT_EQ(source->Text(), QStringLiteral("\U0001F600\u65e5!x"));
+}
+
+TEST_P(SourceControlContract, ACaretBeyondTheLineStandsAtItsEnd) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("ab\r\ncd"));
+  source->SetCaret(0, 99);
+  EXPECT_EQ(source->CaretLine(), 0);
+  EXPECT_EQ(source->CaretColumn(), 2);
+}
+
+TEST_P(SourceControlContract, LineLengthsLeaveOutTheLineEnd) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("abc\r\nde\nf"));
+  EXPECT_EQ(source->LineLength(0), 3);
+  EXPECT_EQ(source->LineLength(1), 2);
+  EXPECT_EQ(source->LineLength(2), 1);
+}
+
+TEST_P(SourceControlContract, TextIsInsertedAtTheCaret) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("one three"));
+  source->SetCaret(0, 4);
+  source->ReplaceSelection(QStringLiteral("two "));
+  EXPECT_EQ(source->Text(), QStringLiteral("one two three"));
+  EXPECT_EQ(source->CaretColumn(), 8);
+  EXPECT_TRUE(source->SelectedText().isEmpty());
+}
+
+TEST_P(SourceControlContract, FindingGoesAroundBothWays) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("\u00e4 one\r\ntwo One"));
+  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_EQ(source->SelectedText(), QStringLiteral("one"));
+  ASSERT_TRUE(source->Find(QStringLiteral("on"), SearchDirection::Here, LetterCase::Ignored));
+  EXPECT_EQ(source->SelectedText(), QStringLiteral("on"));
+  EXPECT_EQ(source->CaretLine(), 0);
+  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_EQ(source->CaretLine(), 1);
+  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Forward, LetterCase::Matched));
+  EXPECT_EQ(source->CaretLine(), 0);
+  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Backward, LetterCase::Ignored));
+  EXPECT_EQ(source->SelectedText(), QStringLiteral("One"));
+}
+
+TEST_P(SourceControlContract, WhatIsNowhereIsNotFoundAndTheSelectionStays) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("one two"));
+  ASSERT_TRUE(source->Find(QStringLiteral("two"), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_FALSE(source->Find(QStringLiteral("x"), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_FALSE(source->Find(QString(), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_EQ(source->SelectedText(), QStringLiteral("two"));
+}
+
+TEST_P(SourceControlContract, EveryOccurrenceIsReplaced) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("a A\r\n\u00e4a"));
+  EXPECT_EQ(source->ReplaceAll(QStringLiteral("a"), QStringLiteral("aa"), LetterCase::Matched), 2);
+  EXPECT_EQ(source->Text(), QStringLiteral("aa A\r\n\u00e4aa"));
+  EXPECT_EQ(source->ReplaceAll(QString(), QStringLiteral("x"), LetterCase::Matched), 0);
+  const auto view = Make(SourceAccess::View);
+  view->SetText(QStringLiteral("a"));
+  EXPECT_EQ(view->ReplaceAll(QStringLiteral("a"), QStringLiteral("b"), LetterCase::Matched), 0);
+  EXPECT_EQ(view->Text(), QStringLiteral("a"));
+}
+
+TEST_P(SourceControlContract, ALineIsMarkedWhereItIsSaid) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("a\nb"));
+  source->SetMarkedLine(0);
+  EXPECT_EQ(source->MarkedLine(), 0);
+  source->SetMarkedLine(1);
+  EXPECT_EQ(source->MarkedLine(), 1);
+}
+
+TEST_P(SourceControlContract, UnknownColourSlotsAreIgnored) {
+  const auto source = Make();
+  for (const int slot : {-1, 0, 1, 2, 26, 27, 999}) {
+    EXPECT_NO_THROW(source->SetColor(slot, 0x808080));
+  }
+}
+
+TEST_P(SourceControlContract, TheWidgetBelongsToItsParentAndToTheControl) {
+  QPointer<QWidget> widget;
+  {
+    const auto source = Make();
+    widget = source->Widget();
+    EXPECT_EQ(widget->parentWidget(), &host);
+  }
+  EXPECT_TRUE(widget.isNull());
+  auto parent = std::make_unique<QWidget>();
+  const auto survivor = GetParam().make(parent.get(), SourceAccess::Edit);
+  parent.reset();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    FakeAndReal, SourceControlContract,
+    ::testing::Values(SourceControlMaker{"Fake",
+                                         [](QWidget *parent, SourceAccess access) {
+                                           return std::make_unique<FakeSourceControl>(parent,
+                                                                                      access);
+                                         }},
+                      SourceControlMaker{"Real",
+                                         [](QWidget *parent, SourceAccess access) {
+                                           return std::make_unique<QsciSourceControl>(parent,
+                                                                                      access);
+                                         }}),
+    [](const auto &maker) { return maker.param.name; });
+
+}  // namespace velor
