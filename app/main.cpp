@@ -2,11 +2,11 @@
 #include "app/startup/EventBoundary.h"
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/MfrmProgram.h"
-#include "recovery/offers/RecoveryCopies.h"
 #include "chrome/Palette.h"
+#include "engine/PageScheme.h"
 #include "platform/DriveMap.h"
 #include "qt/RealPlatform.h"
-#include "engine/PageScheme.h"
+#include "recovery/offers/RecoveryCopies.h"
 
 int main(int argc, char **argv) {
   using namespace velor;

@@ -3,10 +3,10 @@
 
 #include "bench/BareView.h"
 #include "bench/SamplePage.h"
-#include "platform/EditingComponent.h"
-#include "files/QtFiles.h"
 #include "engine/EditingEngine.h"
 #include "engine/WebEditor.h"
+#include "files/QtFiles.h"
+#include "platform/EditingComponent.h"
 
 #include <QTemporaryDir>
 #include <QVariant>

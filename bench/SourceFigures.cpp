@@ -4,11 +4,11 @@
 #include "bench/Figures.h"
 #include "bench/Measure.h"
 #include "bench/SamplePage.h"
-#include "platform/Paths.h"
-#include "qt/QsciSourceControl.h"
-#include "files/QtFiles.h"
 #include "engine/EditingEngine.h"
 #include "engine/WebEditor.h"
+#include "files/QtFiles.h"
+#include "platform/Paths.h"
+#include "qt/QsciSourceControl.h"
 
 #include <QFile>
 #include <QTemporaryDir>

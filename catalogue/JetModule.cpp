@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/JetModule.h"
 
-#include "platform/RuntimeError.h"
-#include "catalogue/jet/JetFile.h"
 #include "catalogue/SqliteStatement.h"
 #include "catalogue/TextCollation.h"
+#include "catalogue/jet/JetFile.h"
+#include "platform/RuntimeError.h"
 
 #include <exception>
 #include <memory>

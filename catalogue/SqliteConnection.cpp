@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/SqliteConnection.h"
 
-#include "platform/Paths.h"
-#include "platform/RuntimeError.h"
-#include "catalogue/jet/JetFile.h"
 #include "catalogue/CatalogueFile.h"
 #include "catalogue/JetModule.h"
 #include "catalogue/SqliteRecordset.h"
 #include "catalogue/SqliteStatement.h"
+#include "catalogue/jet/JetFile.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
 
 #include <QFile>
 

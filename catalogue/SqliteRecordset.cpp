@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/SqliteRecordset.h"
 
-#include "platform/RuntimeError.h"
 #include "catalogue/SqliteConnection.h"
 #include "catalogue/SqliteStatement.h"
+#include "platform/RuntimeError.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Database.h"
 #include "catalogue/RowStore.h"
+#include "platform/Database.h"
 
 #include <cstddef>
 #include <vector>

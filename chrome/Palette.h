@@ -20,8 +20,9 @@ Shade ShadeOf(const QPalette &palette);
 /// Whether somebody chose the palette for its contrast: nothing but black on white, or the like.
 bool IsHighContrast(const QPalette &palette);
 
-/// Style, palette and icon of the whole program, and its names for people who hear it; called once, before the first window. A desktop's
-/// high-contrast palette stays as it is, unless the environment asks for one of ours.
+/// Style, palette and icon of the whole program, and its names for people who hear it; called once,
+/// before the first window. A desktop's high-contrast palette stays as it is, unless the
+/// environment asks for one of ours.
 void DressApplication(QApplication &application);
 
 /// The thin line between neighbouring areas.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/SourceCaret.h"
 
-#include "platform/SourceControl.h"
 #include "page/source/SourcePlaces.h"
+#include "platform/SourceControl.h"
 
 #include <QString>
 

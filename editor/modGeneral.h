@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Files.h"
 #include "page/text/PageEncoding.h"
+#include "platform/Files.h"
 
 #include <QString>
 

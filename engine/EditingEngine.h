@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "engine/GuardedWait.h"
 #include "engine/EngineVerifier.h"
+#include "engine/GuardedWait.h"
 #include "engine/PageScheme.h"
 
 #include <QWebEngineProfile>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/EngineVerifier.h"
 
-#include "platform/TextDifference.h"
 #include "engine/BridgeScript.h"
 #include "engine/EditingEngine.h"
 #include "engine/EditorPage.h"
+#include "platform/TextDifference.h"
 
 #include <QPointer>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "page/saving/PageVerifier.h"
 #include "engine/GuardedWait.h"
+#include "page/saving/PageVerifier.h"
 
 #include <QObject>
 

@@ -198,7 +198,8 @@ bool EngineView::InputOnItsWay() const {
 }
 
 void EngineView::FollowInput() {
-  // Let go after all the others, this key says when they are there (engine/bridge/talk/arrivals.js).
+  // Let go after all the others, this key says when they are there
+  // (engine/bridge/talk/arrivals.js).
   followed_ = true;
   QKeyEvent last(QEvent::KeyRelease, Qt::Key_F24, Qt::NoModifier);
   SendInput(last);

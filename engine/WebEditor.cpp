@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/WebEditor.h"
 
-#include "platform/EditingCommands.h"
-#include "platform/Paths.h"
-#include "engine/FileDrops.h"
 #include "engine/BridgeScript.h"
+#include "engine/FileDrops.h"
 #include "engine/PastedPicture.h"
 #include "engine/WebDocument.h"
+#include "platform/EditingCommands.h"
+#include "platform/Paths.h"
 
 #include <QClipboard>
 #include <QEvent>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/EditingComponent.h"
-#include "page/saving/FaithfulPage.h"
 #include "engine/EngineView.h"
 #include "engine/NoticeQueue.h"
 #include "engine/PageMirror.h"
 #include "engine/StateSnapshot.h"
+#include "page/saving/FaithfulPage.h"
+#include "platform/EditingComponent.h"
 
 #include <QElapsedTimer>
 #include <QTimer>

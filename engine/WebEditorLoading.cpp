@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Documents into the engine and out of it.
+#include "engine/BridgeScript.h"
+#include "engine/WebEditor.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-#include "engine/BridgeScript.h"
-#include "engine/WebEditor.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The mirror of the document, and bringing a page back from it.
-#include "platform/RuntimeError.h"
 #include "engine/WebEditor.h"
+#include "platform/RuntimeError.h"
 
 #include <QVariantMap>
 

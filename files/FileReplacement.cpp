@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/FileReplacement.h"
 
-#include "platform/RuntimeError.h"
 #include "files/FileBytes.h"
 #include "files/LeftSiblings.h"
 #include "files/ReplacedFiles.h"
+#include "platform/RuntimeError.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/QtFiles.h"
 
-#include "platform/Paths.h"
-#include "platform/RuntimeError.h"
 #include "files/FileDescriptor.h"
 #include "files/FileReplacement.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
 
 #include <QFile>
 #include <QFileInfo>

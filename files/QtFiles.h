@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Files.h"
 #include "files/FileCalls.h"
+#include "platform/Files.h"
 
 namespace velor {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/ReplacedFiles.h"
 
-#include "platform/Paths.h"
-#include "files/StateFolder.h"
 #include "files/FileBytes.h"
 #include "files/FileReplacement.h"
+#include "files/StateFolder.h"
+#include "platform/Paths.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/ReplacedVersions.h"
 #include "files/FileCalls.h"
+#include "platform/ReplacedVersions.h"
 
 namespace velor {
 

@@ -44,8 +44,8 @@ class EditingListener {
   /// Something a person should read in the status bar (the page's engine stopped, came back ...);
   /// an empty text takes back what was said last.
   virtual void ComponentReported(const QString &message) = 0;
-  /// Files were dropped on the page or pasted, paths in logic form. The caret is where they were dropped; the
-  /// component does nothing else with them.
+  /// Files were dropped on the page or pasted, paths in logic form. The caret is where they were
+  /// dropped; the component does nothing else with them.
   virtual void FilesDropped(const QStringList &) {}
 };
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/QtComponents.h"
 
+#include "catalogue/SqliteConnection.h"
+#include "engine/WebEditor.h"
+#include "engine/preview/WebBrowser.h"
 #include "qt/QsciSourceControl.h"
 #include "qt/QtFileDialog.h"
-#include "engine/preview/WebBrowser.h"
-#include "engine/WebEditor.h"
-#include "catalogue/SqliteConnection.h"
 
 #include <utility>
 

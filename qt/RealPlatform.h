@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "files/QtFiles.h"
+#include "files/ReplacedFiles.h"
 #include "platform/Platform.h"
 #include "qt/QtComponents.h"
 #include "qt/QtDialogs.h"
-#include "files/QtFiles.h"
 #include "qt/QtRegistry.h"
 #include "qt/QtRuntime.h"
 #include "qt/QtWindowSystem.h"
 #include "recovery/JournalFiles.h"
-#include "files/ReplacedFiles.h"
 
 namespace velor {
 

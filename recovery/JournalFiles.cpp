@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "recovery/JournalFiles.h"
 
-#include "recovery/JournalFormat.h"
-#include "platform/RuntimeError.h"
-#include "files/StateFolder.h"
 #include "files/FileBytes.h"
+#include "files/StateFolder.h"
+#include "platform/RuntimeError.h"
+#include "recovery/JournalFormat.h"
 
 #include <QDir>
 #include <QFile>

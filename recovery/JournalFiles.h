@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Journal.h"
 #include "files/FileCalls.h"
 #include "files/FileDescriptor.h"
+#include "platform/Journal.h"
 
 #include <QStringList>
 

@@ -10,7 +10,6 @@
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
 #include "app/window/ProjectDesk.h"
-#include "recovery/offers/RecoveryBar.h"
 #include "app/window/WindowStyling.h"
 #include "chrome/FlatSweeps.h"
 #include "chrome/Icons.h"
@@ -24,6 +23,7 @@
 #include "platform/EditingComponent.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
+#include "recovery/offers/RecoveryBar.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/jet/JetCatalog.h"
 
-#include "platform/RuntimeError.h"
 #include "catalogue/jet/JetCursor.h"
 #include "catalogue/jet/JetDefinition.h"
 #include "catalogue/jet/JetTableRows.h"
+#include "platform/RuntimeError.h"
 
 #include <set>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/jet/JetFile.h"
 
-#include "platform/RuntimeError.h"
 #include "catalogue/jet/JetCatalog.h"
 #include "catalogue/jet/JetHeader.h"
 #include "catalogue/jet/JetJournal.h"
 #include "catalogue/jet/JetPager.h"
 #include "catalogue/jet/JetTableRows.h"
+#include "platform/RuntimeError.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/jet/JetHeader.h"
 
-#include "platform/RuntimeError.h"
 #include "catalogue/jet/JetBytes.h"
 #include "catalogue/jet/JetCipher.h"
+#include "platform/RuntimeError.h"
 
 #include <cmath>
 #include <cstring>

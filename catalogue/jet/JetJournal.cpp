@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/jet/JetJournal.h"
 
-#include "platform/RuntimeError.h"
 #include "catalogue/jet/JetBytes.h"
+#include "platform/RuntimeError.h"
 
 #include <array>
 #include <cstring>

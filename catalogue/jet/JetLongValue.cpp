@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/jet/JetLongValue.h"
 
-#include "platform/RuntimeError.h"
 #include "catalogue/jet/JetDataPage.h"
+#include "platform/RuntimeError.h"
 
 #include <cstring>
 #include <vector>

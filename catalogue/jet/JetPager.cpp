@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/jet/JetPager.h"
 
-#include "platform/RuntimeError.h"
 #include "catalogue/jet/JetCipher.h"
+#include "platform/RuntimeError.h"
 
 #include <algorithm>
 

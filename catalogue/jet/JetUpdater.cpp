@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/jet/JetUpdater.h"
 
-#include "platform/RuntimeError.h"
 #include "catalogue/jet/JetDataPage.h"
 #include "catalogue/jet/JetLongValue.h"
 #include "catalogue/jet/JetRow.h"
 #include "catalogue/jet/JetTableRows.h"
 #include "catalogue/jet/JetText.h"
 #include "catalogue/jet/JetUsageMap.h"
+#include "platform/RuntimeError.h"
 
 #include <array>
 #include <optional>

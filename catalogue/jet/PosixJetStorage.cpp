@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/RuntimeError.h"
 #include "catalogue/jet/JetLockFile.h"
 #include "catalogue/jet/JetStorage.h"
+#include "platform/RuntimeError.h"
 
 #include <QFile>
 #include <QFileInfo>

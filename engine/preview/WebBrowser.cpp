@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/preview/WebBrowser.h"
 
-#include "platform/RuntimeError.h"
+#include "engine/FileDrops.h"
 #include "engine/preview/BaseElement.h"
 #include "engine/preview/BrowserPage.h"
-#include "engine/FileDrops.h"
+#include "platform/RuntimeError.h"
 
 #include <QAction>
 #include <QFile>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "page/saving/ByteSplice.h"
 
-#include "platform/RuntimeError.h"
-#include "page/text/CharsetConverter.h"
 #include "page/saving/PageEdits.h"
 #include "page/saving/PageMask.h"
+#include "page/text/CharsetConverter.h"
+#include "platform/RuntimeError.h"
 
 #include <QHash>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "page/saving/FaithfulPage.h"
 
-#include "page/text/HtmlElements.h"
 #include "page/saving/PageVerifier.h"
 #include "page/saving/SourcePatches.h"
+#include "page/text/HtmlElements.h"
 
 #include <algorithm>
 #include <utility>

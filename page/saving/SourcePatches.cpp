@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "page/saving/SourcePatches.h"
 
-#include "page/text/HtmlElements.h"
 #include "page/saving/TagPatches.h"
+#include "page/text/HtmlElements.h"
 #include "page/text/TextCharacters.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "page/source/SourceTags.h"
 
-#include "page/text/HtmlElements.h"
 #include "page/source/SourceScan.h"
+#include "page/text/HtmlElements.h"
 
 #include <cstring>
 #include <string_view>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "page/text/HtmlTokens.h"
 
-#include "platform/TextDifference.h"
 #include "page/text/HtmlElements.h"
 #include "page/text/TextCharacters.h"
+#include "platform/TextDifference.h"
 
 #include <QSet>
 

@@ -7,10 +7,10 @@
 #include "editor/frmBrowser.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
+#include "page/saving/FaithfulPage.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
-#include "page/saving/FaithfulPage.h"
 
 #include <QApplication>
 #include <QEvent>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What every database keeps to, the fake of the tests and the real ones alike.
-#include "platform/Paths.h"
 #include "catalogue/SqliteConnection.h"
+#include "platform/Paths.h"
 #include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FakeDatabase.h"

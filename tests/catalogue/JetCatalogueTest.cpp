@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The catalogue as a Jet file: what the program's statements see of it and do to it.
-#include "platform/Paths.h"
 #include "catalogue/SqliteConnection.h"
+#include "platform/Paths.h"
 #include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"
 #include "tests/support/jet/JetCatalogues.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The catalogue as an SQLite file: what opens, what is refused with which cause, and what the
 // program's statements do.
-#include "platform/Paths.h"
 #include "catalogue/SqliteConnection.h"
+#include "platform/Paths.h"
 #include "tests/support/Checks.h"
 
 #include <QDir>

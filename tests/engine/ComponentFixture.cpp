@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/engine/ComponentFixture.h"
 
-#include "platform/Paths.h"
 #include "engine/BridgeScript.h"
+#include "platform/Paths.h"
 
 #include <QEventLoop>
 #include <QFile>

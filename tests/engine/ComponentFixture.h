@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/EditingComponent.h"
-#include "files/QtFiles.h"
 #include "engine/EditingEngine.h"
 #include "engine/WebEditor.h"
+#include "files/QtFiles.h"
+#include "platform/EditingComponent.h"
 
 #include <QTemporaryDir>
 #include <QWebEnginePage>

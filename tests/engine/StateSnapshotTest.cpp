@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/EditingCommands.h"
 #include "engine/StateSnapshot.h"
+#include "platform/EditingCommands.h"
 
 #include <gtest/gtest.h>
 

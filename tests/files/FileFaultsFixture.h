@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Paths.h"
 #include "files/QtFiles.h"
 #include "files/StateFolder.h"
+#include "platform/Paths.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FaultyCalls.h"
 

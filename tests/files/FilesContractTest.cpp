@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What every implementation of Files promises, run against the real one and the fake.
-#include "platform/Paths.h"
 #include "files/QtFiles.h"
+#include "platform/Paths.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FakeFiles.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What only a real file system has: modes, owners, links, full disks.
-#include "platform/Paths.h"
 #include "files/QtFiles.h"
+#include "platform/Paths.h"
 #include "tests/support/Checks.h"
 #include "tests/support/Hindrances.h"
 

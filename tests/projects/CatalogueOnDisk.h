@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "catalogue/SqliteConnection.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/ProgramValues.h"
-#include "catalogue/SqliteConnection.h"
 #include "projects/RecordsetReader.h"
 #include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A project with very many pages must not make the window wait.
-#include "platform/Paths.h"
 #include "catalogue/SqliteConnection.h"
+#include "platform/Paths.h"
 #include "projects/FillList.h"
 #include "projects/RecordList.h"
 #include "projects/RowTable.h"

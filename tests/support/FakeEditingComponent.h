@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "page/text/PageText.h"
 #include "platform/EditingCommands.h"
 #include "platform/EditingComponent.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
-#include "page/text/PageText.h"
 
 #include <QPointer>
 #include <QTimer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The sample that a first start finds: the catalogue names sites that are there.
-#include "platform/Paths.h"
 #include "catalogue/SqliteConnection.h"
+#include "platform/Paths.h"
 #include "tests/support/Checks.h"
 #include "tools/sample-site/SampleMaker.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/catalogue/CatalogueTool.h"
 
+#include "catalogue/SqliteConnection.h"
 #include "platform/Conversions.h"
 #include "platform/Paths.h"
-#include "catalogue/SqliteConnection.h"
 
 #include <QTextStream>
 

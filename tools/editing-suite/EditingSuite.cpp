@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/editing-suite/EditingSuite.h"
 
-#include "platform/RuntimeError.h"
 #include "engine/BridgeScript.h"
+#include "platform/RuntimeError.h"
 
 #include <QEventLoop>
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/page-check/OutsideBytes.h"
 
-#include "page/text/CharsetConverter.h"
 #include "page/saving/PageEdits.h"
+#include "page/text/CharsetConverter.h"
 
 #include <QHash>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/page-check/PageCheck.h"
 
+#include "engine/BridgeScript.h"
+#include "engine/GuardedWait.h"
+#include "engine/WebEditor.h"
+#include "files/QtFiles.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-#include "engine/GuardedWait.h"
-#include "files/QtFiles.h"
-#include "engine/BridgeScript.h"
-#include "engine/WebEditor.h"
 #include "tools/page-check/OutsideBytes.h"
 
 #include <QElapsedTimer>

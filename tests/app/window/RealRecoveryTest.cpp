@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A page that was journalled by one run and restored by the next is saved as faithfully as if
 // nothing had happened.
-#include "recovery/offers/RecoveryBar.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
 #include "files/StateFolder.h"
 #include "recovery/JournalFiles.h"
+#include "recovery/offers/RecoveryBar.h"
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
 

@@ -4,8 +4,8 @@
 #include "app/window/PageTabs.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
-#include "platform/Paths.h"
 #include "engine/BridgeScript.h"
+#include "platform/Paths.h"
 #include "tests/engine/ComponentFixture.h"
 
 #include <QCoreApplication>

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "app/window/MfrmProgram.h"
+#include "files/QtFiles.h"
 #include "platform/Browser.h"
 #include "platform/Database.h"
 #include "platform/EditingComponent.h"
 #include "platform/Platform.h"
 #include "platform/ProgramValues.h"
 #include "qt/QtComponents.h"
-#include "files/QtFiles.h"
 #include "qt/QtRegistry.h"
 #include "qt/QtRuntime.h"
 #include "tests/support/FakeDialogs.h"

@@ -3,8 +3,8 @@
 #include "app/window/WindowStyling.h"
 #include "chrome/HouseStyle.h"
 #include "insert/frmInsertElement.h"
-#include "qt/QtWindowSystem.h"
 #include "projects/frmProjectManager.h"
+#include "qt/QtWindowSystem.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeStylingSweeps.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/catalogue/jet/JetExamination.h"
 
-#include "platform/RuntimeError.h"
 #include "catalogue/jet/JetFile.h"
+#include "platform/RuntimeError.h"
 #include "tests/support/jet/JetChecker.h"
 #include "tests/support/jet/MemoryJetStorage.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/page/fuzz/FaithfulFuzz.h"
 
-#include "platform/RuntimeError.h"
-#include "page/text/CharsetConverter.h"
 #include "page/saving/FaithfulPage.h"
 #include "page/saving/PageVerifier.h"
+#include "page/text/CharsetConverter.h"
+#include "platform/RuntimeError.h"
 
 #include <QList>
 

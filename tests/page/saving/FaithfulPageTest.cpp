@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is written for an edit, on small pages with one hazard each. The verifier stands in for the
 // engine: it says yes to everything, or to what a test wants.
-#include "platform/RuntimeError.h"
 #include "page/saving/FaithfulPage.h"
 #include "page/saving/PageVerifier.h"
+#include "platform/RuntimeError.h"
 #include "tests/support/Checks.h"
 
 #include <QStringList>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The bar that offers the pages of a program that ended before they were saved.
 #include "app/window/PageTabs.h"
-#include "recovery/offers/RecoveryBar.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
+#include "recovery/offers/RecoveryBar.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeJournals.h"
 

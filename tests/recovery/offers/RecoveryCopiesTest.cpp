@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "recovery/offers/RecoveryCopies.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Paths.h"
+#include "recovery/offers/RecoveryCopies.h"
 #include "tests/app/window/WindowFixture.h"
 
 namespace velor {
