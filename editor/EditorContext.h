@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "editor/MainWindow.h"
+
 #include <QPointer>
 
 namespace velor {
 
-class MainWindow;
 class PageSlots;
 struct Platform;
 class frmBrowser;
@@ -13,7 +14,7 @@ class frmBrowser;
 /// What the page windows and the page-file operations share. Lives as long as the main window.
 struct EditorContext {
   Platform &platform;
-  MainWindow &mainWindow;
+  MainWindow mainWindow;
   PageSlots &pages;
   /// The one preview window, made on first use.
   QPointer<frmBrowser> preview;

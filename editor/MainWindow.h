@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/EditingCommands.h"
+
 #include <QPoint>
 #include <QString>
 #include <QStringList>
@@ -12,74 +14,109 @@ namespace velor {
 class FileDialog;
 class frmMain;
 
-/// What a page window needs of the window that holds it. MfrmProgram implements it; tests have a
-/// recording fake. Writes to boxes and tabs through it never fire the handlers meant for the
-/// person's own choices.
-class MainWindow {
+/// The area in which page windows, source editors and the preview lie, each in a frame of its own.
+class ChildWindows {
  public:
-  virtual ~MainWindow() = default;
-
-  // Child windows.
-  /// Makes `window` a child of the main window, not yet shown.
-  virtual void AdoptWindow(QWidget *window) = 0;
-  /// Shows an adopted window (maximised for pages) and makes it the active one.
-  virtual void ShowWindow(QWidget *window) = 0;
-  virtual void ActivateWindow(QWidget *window) = 0;
-  /// Takes an adopted window out of sight until ShowWindow; its frame goes with it.
-  virtual void HideWindow(QWidget *window) = 0;
+  virtual ~ChildWindows() = default;
+  /// Makes `window` a child of the area, not yet shown.
+  virtual void Adopt(QWidget *window) = 0;
+  /// Shows an adopted window filling the area, in front and with the keyboard.
+  virtual void Show(QWidget *window) = 0;
+  /// Brings an adopted window to the front.
+  virtual void Activate(QWidget *window) = 0;
+  /// Takes an adopted window out of sight until Show; its frame goes with it.
+  virtual void Hide(QWidget *window) = 0;
   /// Lets go of an adopted window that is closing: its frame vanishes. The window deletes itself.
-  virtual void ReleaseWindow(QWidget *window) = 0;
+  virtual void Release(QWidget *window) = 0;
+};
 
-  // Page tabs, `FileTab`. Keys are "key" followed by the page number. Unknown keys raise
-  // ElementNotFound (35601), positions out of range IndexOutOfBounds (35600).
-  virtual int TabCount() const = 0;
-  virtual void AddTab(const QString &key, int image) = 0;
-  virtual void SetTabCaption(const QString &key, const QString &caption) = 0;
+/// The page tabs `FileTab`: one a page, under the key "key" and the page number. Unknown keys raise
+/// ElementNotFound (35601), positions and images out of range IndexOutOfBounds (35600). No call
+/// counts as a choice of the person.
+class TabStrip {
+ public:
+  virtual ~TabStrip() = default;
+  virtual int Count() const = 0;
+  /// `image` counts from 1 in the strip's image list.
+  virtual void Add(const QString &key, int image) = 0;
+  virtual void SetCaption(const QString &key, const QString &caption) = 0;
   /// `position` counts from 1 in the order of the tabs.
-  virtual void SetTabCaptionAt(int position, const QString &caption) = 0;
-  virtual void SelectTab(const QString &key) = 0;
-  virtual void RemoveTab(const QString &key) = 0;
-  virtual void ClearTabs() = 0;
+  virtual void SetCaptionAt(int position, const QString &caption) = 0;
+  virtual void Select(const QString &key) = 0;
+  virtual void Remove(const QString &key) = 0;
+  virtual void Clear() = 0;
+};
 
-  // Availability.
-  /// The Edit, Insert and Table menus and the toolbar buttons that need a page, together.
-  virtual void SetPageCommandsEnabled(bool enabled) = 0;
-  /// The action that opens the source editor.
-  virtual void SetSourceEditingEnabled(bool enabled) = 0;
-  /// Brings the availability of the commands in step with the active window; called when the
-  /// preview gives way.
-  virtual void RefreshCommandState() = 0;
-  /// Clears the element-inspection state kept for the tool box.
-  virtual void ResetElementInspection() = 0;
+/// How a button of the editing toolbar looks.
+enum class ButtonState {
+  Unsupported,  ///< off; that it is pressed, or not, stays
+  Off,
+  On,
+  Pressed,
+};
 
-  // The editing toolbar and the formatting boxes. `key` as in the toolbar ("bold" ...).
-  virtual void SetEditButton(const QString &key, bool enabled, bool pressed) = 0;
-  /// Enabled state alone; the pressed state stays.
-  virtual void DisableEditButton(const QString &key) = 0;
-  // Each box is written only when its value differs.
+/// The editing toolbar `tbrEdit` and the formatting boxes. Each box is written only when its value
+/// differs, and no call counts as a choice of the person.
+class FormatDisplay {
+ public:
+  virtual ~FormatDisplay() = default;
+  /// `command` is one of the ten of EditCommands.h.
+  virtual void ShowButton(EditingCommand command, ButtonState state) = 0;
   virtual void ShowFontName(const QString &name) = 0;
-  /// `htmlColor` as "#RRGGBB"; compared as a colour.
+  /// Colours as "#RRGGBB", compared as colours.
   virtual void ShowBackColor(const QString &htmlColor) = 0;
   virtual void ShowForeColor(const QString &htmlColor) = 0;
   virtual void ShowBlockFormat(const QString &name) = 0;
   virtual void ShowFontSize(const QString &points) = 0;
+};
 
-  // Status bar `Sta`.
-  virtual void SetStatusText(const QString &text) = 0;
-  /// How the active page's bytes stand for its text, beside the status text; empty without a page.
+/// The status bar `Sta`.
+class StatusDisplay {
+ public:
+  virtual ~StatusDisplay() = default;
+  /// The tag of the element under the caret.
+  virtual void ShowTag(const QString &tag) = 0;
+  /// How the page's bytes stand for its text, beside the tag; empty without a page.
   virtual void ShowTextForm(const QString &words) = 0;
-  /// A notice that gives way to the status text after ten seconds.
-  virtual void ReportInStatusBar(const QString &message) = 0;
+  /// A notice that gives way to the tag after ten seconds.
+  virtual void Report(const QString &message) = 0;
+};
 
+/// Which menus and toolbar buttons can be used.
+class CommandAvailability {
+ public:
+  virtual ~CommandAvailability() = default;
+  /// The Edit, Insert and Table menus and the toolbar buttons that need a page, together.
+  virtual void SetPageCommandsEnabled(bool enabled) = 0;
+  /// The action that opens the source editor.
+  virtual void SetSourceEditingEnabled(bool enabled) = 0;
+  /// Brings all of it in step with the open pages; called when the preview gives way.
+  virtual void Refresh() = 0;
+};
+
+/// What a page window hands on because it concerns more than its page.
+class PageRequests {
+ public:
+  virtual ~PageRequests() = default;
   /// Pops up the context menu of the editing area.
   virtual void PopUpContextMenu(QPoint screenPosition) = 0;
-
   /// Files were dropped, paths in logic form: pages are opened, pictures go into `page` at its
   /// caret where there is one.
   virtual void TakeDroppedFiles(const QStringList &paths, frmMain *page) = 0;
+  /// Clears what the element tool box knows of the element under the caret.
+  virtual void ResetElementInspection() = 0;
+};
 
+/// The parts of the main window that pages talk to. All outlive every page.
+struct MainWindow {
+  ChildWindows &windows;
+  TabStrip &tabs;
+  FormatDisplay &formats;
+  StatusDisplay &status;
+  CommandAvailability &commands;
+  PageRequests &requests;
   /// The one file dialog that Open, Save and Save As share.
-  virtual FileDialog &SharedFileDialog() = 0;
+  FileDialog &fileDialog;
 };
 
 }  // namespace velor

@@ -159,7 +159,7 @@ bool PageJournal::Attempt(Step step) {
     return true;
   } catch (const RuntimeError &error) {
     if (!failureTold_) {
-      context_.mainWindow.ReportInStatusBar(
+      context_.mainWindow.status.Report(
           QStringLiteral("The changes of %1 could not be kept for a recovery: %2")
               .arg(context_.pages.Record(number_).Caption, error.Description()));
     }

@@ -60,7 +60,7 @@ std::optional<QRect> BrowserPlace(QSize inner, int toolBarHeight, int statusBarH
 frmBrowser &PreviewWindow(EditorContext &context) {
   if (context.preview.isNull()) {
     context.preview = new frmBrowser(context);
-    context.mainWindow.AdoptWindow(context.preview);
+    context.mainWindow.windows.Adopt(context.preview);
   }
   return *context.preview;
 }
@@ -158,13 +158,13 @@ void frmBrowser::MarkKill() {
 
 void frmBrowser::closeEvent(QCloseEvent *event) {
   if (PendingAction == QStringLiteral("kill")) {
-    context_.mainWindow.ReleaseWindow(this);
+    context_.mainWindow.windows.Release(this);
     event->accept();
     return;
   }
   event->ignore();
-  context_.mainWindow.HideWindow(this);
-  context_.mainWindow.RefreshCommandState();
+  context_.mainWindow.windows.Hide(this);
+  context_.mainWindow.commands.Refresh();
 }
 
 void frmBrowser::StatusTextChanged(const QString &text) {

@@ -178,7 +178,7 @@ void frmCodeEditor::closeEvent(QCloseEvent *event) {
   // What was not applied nobody wants any more.
   if (frmMain *page = context_.pages.Page(number_)) page->Journal().Catch();
   context_.pages.CodeEditor(number_).clear();
-  context_.mainWindow.ReleaseWindow(this);
+  context_.mainWindow.windows.Release(this);
   event->accept();
 }
 

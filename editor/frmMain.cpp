@@ -164,26 +164,26 @@ PageRecord frmMain::GetPageRecord() const {
 }
 
 void frmMain::UpdateTabCaption() {
-  context_.mainWindow.SetTabCaptionAt(number_, windowTitle());
+  context_.mainWindow.tabs.SetCaptionAt(number_, windowTitle());
 }
 
 void frmMain::CheckAcc() {
   const bool editable = context_.pages.Record(number_).ReadOnly == False16;
-  context_.mainWindow.SetSourceEditingEnabled(editable);
+  context_.mainWindow.commands.SetSourceEditingEnabled(editable);
   QuickButton(u"editcode")->setEnabled(editable);
 }
 
 void frmMain::OnActivated() {
   CheckAcc();
-  context_.mainWindow.ShowTextForm(component_->TextForm());
+  context_.mainWindow.status.ShowTextForm(component_->TextForm());
   try {
-    context_.mainWindow.SelectTab(PageKey(number_));
+    context_.mainWindow.tabs.Select(PageKey(number_));
   } catch (const RuntimeError &) {
     // The window outlives its tab for a moment while it closes, and its tab may not be there yet.
   }
   if (OptionIsTrue(context_.platform.registry, QStringLiteral("showtoolbox"),
                    QStringLiteral("True"))) {
-    context_.mainWindow.ResetElementInspection();
+    context_.mainWindow.requests.ResetElementInspection();
   }
 }
 
@@ -198,12 +198,12 @@ void frmMain::closeEvent(QCloseEvent *event) {
     return;
   }
   modWorkFlow::CleanUpAfterPage(context_, *this);
-  context_.mainWindow.ReleaseWindow(this);
+  context_.mainWindow.windows.Release(this);
   event->accept();
 }
 
 void frmMain::DocumentComplete() {
-  context_.mainWindow.ShowTextForm(component_->TextForm());
+  context_.mainWindow.status.ShowTextForm(component_->TextForm());
   journal_.Follow();
   if (PendingAction != QStringLiteral("gethtml")) return;
   // A load completes right after its page is made, so that the slot made last is this page's.
@@ -217,7 +217,7 @@ void frmMain::DisplayChanged() {
   RefreshMfrm();
   DynaLink();
   // Undo past an applied source brings back what the bytes were before.
-  context_.mainWindow.ShowTextForm(component_->TextForm());
+  context_.mainWindow.status.ShowTextForm(component_->TextForm());
 }
 
 void frmMain::MemoryChanged() {
@@ -225,7 +225,7 @@ void frmMain::MemoryChanged() {
 }
 
 void frmMain::ContextMenuRequested(QPoint screenPosition) {
-  context_.mainWindow.PopUpContextMenu(screenPosition);
+  context_.mainWindow.requests.PopUpContextMenu(screenPosition);
 }
 
 void frmMain::MouseNotified(int clientX, int clientY) {
@@ -234,11 +234,11 @@ void frmMain::MouseNotified(int clientX, int clientY) {
 }
 
 void frmMain::ComponentReported(const QString &message) {
-  context_.mainWindow.ReportInStatusBar(message);
+  context_.mainWindow.status.Report(message);
 }
 
 void frmMain::FilesDropped(const QStringList &paths) {
-  context_.mainWindow.TakeDroppedFiles(paths, this);
+  context_.mainWindow.requests.TakeDroppedFiles(paths, this);
 }
 
 }  // namespace velor

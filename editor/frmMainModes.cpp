@@ -56,7 +56,7 @@ void frmMain::ViewHtml() {
     ShowPlaceIn(*source_, places);
     shownCaret_ = CaretOf(*source_);
   } catch (const RuntimeError &error) {
-    context_.mainWindow.ReportInStatusBar(
+    context_.mainWindow.status.Report(
         QStringLiteral("The page's HTML could not be read: %1").arg(error.Description()));
   }
   views_->setCurrentWidget(source_->Widget());
@@ -88,7 +88,7 @@ void frmMain::ShowEditor() {
   const ElementPlaces places = component_->CaretPlaces();
   editor.Fill(CreatorHTML(), places);
   editor.setWindowTitle(GetPageRecord().Caption);
-  context_.mainWindow.ShowWindow(&editor);
+  context_.mainWindow.windows.Show(&editor);
   editor.Code().SetFocus();
 }
 
@@ -101,13 +101,13 @@ void frmMain::Preview() {
   const PageRecord record = GetPageRecord();
   frmBrowser &preview = PreviewWindow(context_);
   if (record.ReadOnly != False16) {
-    context_.mainWindow.ShowWindow(&preview);
+    context_.mainWindow.windows.Show(&preview);
     preview.brwWebBrowser().Navigate(ToUrl(record.Path));
     return;
   }
   const QString text = CreatorHTML();
   const bool written = modWorkFlow::WriteTemporaryCopy(context_, number_, text);
-  context_.mainWindow.ShowWindow(&preview);
+  context_.mainWindow.windows.Show(&preview);
   if (written) {
     preview.brwWebBrowser().Navigate(ToUrl(record.TempPath));
   } else {

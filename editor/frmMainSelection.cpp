@@ -7,43 +7,41 @@
 
 namespace velor {
 
-void frmMain::EditBarCheck(const QString &tbrButtonKey, std::int32_t function) {
-  MainWindow &mainWindow = context_.mainWindow;
+void frmMain::EditBarCheck(EditingCommand tbrButton, std::int32_t function) {
+  FormatDisplay &formats = context_.mainWindow.formats;
   switch (component_->QueryStatus(function)) {
     case CommandStatus::NotSupported:
-      mainWindow.DisableEditButton(tbrButtonKey);
+      formats.ShowButton(tbrButton, ButtonState::Unsupported);
       break;
     case CommandStatus::Disabled:
-      mainWindow.SetEditButton(tbrButtonKey, false, false);
+      formats.ShowButton(tbrButton, ButtonState::Off);
       break;
     case CommandStatus::Enabled:
     case CommandStatus::Ninched:
-      mainWindow.SetEditButton(tbrButtonKey, true, false);
+      formats.ShowButton(tbrButton, ButtonState::On);
       break;
     case CommandStatus::Latched:
-      mainWindow.SetEditButton(tbrButtonKey, true, true);
+      formats.ShowButton(tbrButton, ButtonState::Pressed);
       break;
   }
 }
 
 void frmMain::RefreshMfrm() {
-  for (const EditCommand &entry : EditCommands) {
-    EditBarCheck(entry.key.toString(), entry.Number());
-  }
+  for (const EditCommand &entry : EditCommands) EditBarCheck(entry.command, entry.Number());
   const auto value = [this](EditingCommand query) {
     return component_->ExecCommand(velor::Number(query)).toString();
   };
-  MainWindow &mainWindow = context_.mainWindow;
-  mainWindow.ShowFontName(value(EditingCommand::GetFontName));
-  mainWindow.ShowBackColor(value(EditingCommand::GetBackColor));
-  mainWindow.ShowForeColor(value(EditingCommand::GetForeColor));
-  mainWindow.ShowBlockFormat(value(EditingCommand::GetBlockFormat));
-  mainWindow.ShowFontSize(value(EditingCommand::GetFontSize));
+  FormatDisplay &formats = context_.mainWindow.formats;
+  formats.ShowFontName(value(EditingCommand::GetFontName));
+  formats.ShowBackColor(value(EditingCommand::GetBackColor));
+  formats.ShowForeColor(value(EditingCommand::GetForeColor));
+  formats.ShowBlockFormat(value(EditingCommand::GetBlockFormat));
+  formats.ShowFontSize(value(EditingCommand::GetFontSize));
 }
 
 void frmMain::DynaLink() {
   const HtmlElement element = GetActiveElement();
-  context_.mainWindow.SetStatusText(element.tagName);
+  context_.mainWindow.status.ShowTag(element.tagName);
   if (LowerCase(element.tagName) == QStringLiteral("a")) {
     component_->SetToolTip(QStringLiteral("Link to : ") +
                            element.Attribute(QStringLiteral("href")));

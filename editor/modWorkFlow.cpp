@@ -34,7 +34,7 @@ frmMain &MakePage(EditorContext &context) {
   const int number = context.pages.Grow();
   SourceEditor(context, number);
   frmMain &window = PageWindow(context, number);
-  context.mainWindow.AddTab(PageKey(number), PageTabImage);
+  context.mainWindow.tabs.Add(PageKey(number), PageTabImage);
   return window;
 }
 
@@ -64,11 +64,11 @@ void Load(frmMain &window, const QString &path) {
 /// Shows a filled page with its tab in front; from now on it follows the selection.
 void Present(EditorContext &context, frmMain &window, const QString &tabCaption) {
   const QString key = PageKey(window.Number());
-  context.mainWindow.ShowWindow(&window);
-  context.mainWindow.SetTabCaption(key, tabCaption);
-  context.mainWindow.SelectTab(key);
+  context.mainWindow.windows.Show(&window);
+  context.mainWindow.tabs.SetCaption(key, tabCaption);
+  context.mainWindow.tabs.Select(key);
   window.Ready = QStringLiteral("True");
-  context.mainWindow.SetPageCommandsEnabled(true);
+  context.mainWindow.commands.SetPageCommandsEnabled(true);
 }
 
 QString TemporaryCopyOfNewPage(EditorContext &context, int number) {
@@ -172,7 +172,7 @@ frmMain &PageWindow(EditorContext &context, int number) {
   QPointer<frmMain> &page = context.pages.Page(number);
   if (page.isNull()) {
     page = new frmMain(context, number);
-    context.mainWindow.AdoptWindow(page);
+    context.mainWindow.windows.Adopt(page);
   }
   return *page;
 }
@@ -182,7 +182,7 @@ frmCodeEditor &SourceEditor(EditorContext &context, int number) {
   if (editor.isNull()) {
     editor = new frmCodeEditor(context, number);
     editor->Tag = QString::number(number);
-    context.mainWindow.AdoptWindow(editor);
+    context.mainWindow.windows.Adopt(editor);
   }
   return *editor;
 }
@@ -192,7 +192,7 @@ void NewPage(EditorContext &context) {
   FillPage(window, [&] {
     const int number = window.Number();
     const QString caption = QStringLiteral("Untitled %1").arg(number);
-    context.mainWindow.ShowWindow(&window);
+    context.mainWindow.windows.Show(&window);
     window.Tag = QString::number(number);
     window.DHTML1().SetDocumentHTML(NewPageTemplate());
     window.PendingAction = QStringLiteral("gethtml");
@@ -204,9 +204,9 @@ void NewPage(EditorContext &context) {
     context.pages.Record(number) = record;
 
     window.Ready = QStringLiteral("True");
-    context.mainWindow.SetTabCaption(PageKey(number), caption);
-    context.mainWindow.SelectTab(PageKey(number));
-    context.mainWindow.SetPageCommandsEnabled(true);
+    context.mainWindow.tabs.SetCaption(PageKey(number), caption);
+    context.mainWindow.tabs.Select(PageKey(number));
+    context.mainWindow.commands.SetPageCommandsEnabled(true);
   });
 }
 
@@ -250,7 +250,7 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
     Present(context, window,
             isReadOnly ? record.Caption + QStringLiteral(" (Read-Only)") : record.Caption);
     // As after choosing the file: the first plain save takes its path from there.
-    if (record.HasFile != False16) context.mainWindow.SharedFileDialog().FileName = record.Path;
+    if (record.HasFile != False16) context.mainWindow.fileDialog.FileName = record.Path;
     window.Journal().Unsettle();
     if (kept.source) window.ReopenEditor(*kept.source);
     isKeptAgain = window.Journal().Catch();

@@ -27,7 +27,7 @@ void Ignoring(Step step) {
 CloseDecision SaveBeforeClosing(EditorContext &context, frmMain &window) {
   PageRecord &record = context.pages.Record(window.Number());
   const std::int32_t result =
-      SavePage(context, window, context.mainWindow.SharedFileDialog(), record, false);
+      SavePage(context, window, context.mainWindow.fileDialog, record, false);
   if (result == 0) return CloseDecision::Close;
   if (result != static_cast<int>(ErrorNumber::DialogCancelled)) {
     Message failure;
@@ -46,11 +46,11 @@ void CloseSourceEditor(EditorContext &context, int number) {
   context.pages.CodeEditor(number).clear();
 }
 
-void RemovePageTab(MainWindow &mainWindow, int number) {
-  if (mainWindow.TabCount() == 1) {
-    mainWindow.ClearTabs();
+void RemovePageTab(TabStrip &tabs, int number) {
+  if (tabs.Count() == 1) {
+    tabs.Clear();
   } else {
-    mainWindow.RemoveTab(PageKey(number));
+    tabs.Remove(PageKey(number));
   }
 }
 
@@ -99,12 +99,12 @@ void CleanUpAfterPage(EditorContext &context, frmMain &window) {
     Ignoring([&] { context.platform.files.Delete(context.pages.Record(number).TempPath); });
     Ignoring([&] { CloseSourceEditor(context, number); });
   }
-  Ignoring([&] { RemovePageTab(context.mainWindow, number); });
+  Ignoring([&] { RemovePageTab(context.mainWindow.tabs, number); });
   context.pages.Page(number).clear();
   Ignoring([&] {
-    if (context.mainWindow.TabCount() > 0) return;
-    context.mainWindow.SetPageCommandsEnabled(false);
-    context.mainWindow.ShowTextForm({});
+    if (context.mainWindow.tabs.Count() > 0) return;
+    context.mainWindow.commands.SetPageCommandsEnabled(false);
+    context.mainWindow.status.ShowTextForm({});
   });
 }
 

@@ -33,7 +33,7 @@ bool Attempt(EditorContext &context, const QString &path, Step step) {
     step();
     return true;
   } catch (const RuntimeError &error) {
-    context.mainWindow.ReportInStatusBar(
+    context.mainWindow.status.Report(
         QStringLiteral("%1 could not be saved: %2").arg(ForPeople(path), error.Description()));
     return false;
   }
@@ -47,7 +47,7 @@ void KeepForeignVersion(EditorContext &context, int number, const QString &path)
   const QByteArray there = files.ReadAll(path);
   if (FileTrace::Of(path, there) == context.pages.Trace(number)) return;
   const QString kept = replaced->Keep(path, there);
-  context.mainWindow.ReportInStatusBar(
+  context.mainWindow.status.Report(
       QStringLiteral("%1 held another version. It was replaced and is kept as %2")
           .arg(ForPeople(path), kept));
 }
@@ -66,7 +66,7 @@ void WriteFile(frmMain &window, const QString &path) {
   window.DHTML1().SaveDocument(path);
   TraceFile(window, path);
   if (!hasGone) return;
-  context.mainWindow.ReportInStatusBar(
+  context.mainWindow.status.Report(
       QStringLiteral("%1 was no longer there. It was written anew").arg(ForPeople(path)));
 }
 

@@ -15,6 +15,7 @@
 #include "platform/ProgramValues.h"
 #include "platform/RuntimeError.h"
 
+#include <QAction>
 #include <QPointer>
 
 #include <algorithm>
@@ -23,9 +24,6 @@ namespace velor {
 namespace {
 
 constexpr int PreviewMode = 4;
-
-const QString NewItem = QStringLiteral("mnuNew");
-const QString OpenItem = QStringLiteral("mnuOpen");
 
 const QStringList PageEndings = {QStringLiteral(".htm"), QStringLiteral(".html")};
 const QStringList PictureEndings = {QStringLiteral(".gif"),  QStringLiteral(".jpg"),
@@ -54,7 +52,7 @@ void CommandRouter::Run(const Command &command) {
       break;
     case CommandId::OpenPage:
       OpenPage([this] {
-        FileDialog &dialog = context_.mainWindow.SharedFileDialog();
+        FileDialog &dialog = context_.mainWindow.fileDialog;
         dialog.Flags = FileDialog::FileMustExist;
         dialog.Filter = QStringLiteral("HTML Files *.htm,*.html|*.htm;*.html");
         return dialog.ShowOpen();
@@ -103,13 +101,13 @@ void CommandRouter::Run(const Command &command) {
 }
 
 void CommandRouter::Click(const GeneralButton &button) {
-  if (button.guardItem && !host_.IsMenuItemEnabled(QString::fromLatin1(button.guardItem))) return;
+  if (button.guard == Guard::MenuItem && !host_.MenuItem(button.command.id).isEnabled()) return;
   Run(button.command);
 }
 
 bool CommandRouter::HasRoom() {
   // Exactly the limit: the test as it is published.
-  if (context_.mainWindow.TabCount() != MostPages) return true;
+  if (context_.mainWindow.tabs.Count() != MostPages) return true;
   Message refusal;
   refusal.text = QStringLiteral(
       "Too many Pages are opened. Please close one or two File(s), and then try to open it.");
@@ -119,18 +117,20 @@ bool CommandRouter::HasRoom() {
 }
 
 void CommandRouter::NewPage() {
-  host_.SetMenuItemEnabled(NewItem, false);
+  QAction &item = host_.MenuItem(CommandId::NewPage);
+  item.setEnabled(false);
   try {
     if (HasRoom()) modWorkFlow::NewPage(context_);
   } catch (...) {
-    host_.SetMenuItemEnabled(NewItem, true);
+    item.setEnabled(true);
     throw;
   }
-  host_.SetMenuItemEnabled(NewItem, true);
+  item.setEnabled(true);
 }
 
 void CommandRouter::OpenPage(const std::function<QString()> &choose) {
-  host_.SetMenuItemEnabled(OpenItem, false);
+  QAction &item = host_.MenuItem(CommandId::OpenPage);
+  item.setEnabled(false);
   // After a refusal the item deliberately stays disabled.
   if (!HasRoom()) return;
   QString path;
@@ -140,18 +140,18 @@ void CommandRouter::OpenPage(const std::function<QString()> &choose) {
   } catch (const RuntimeError &error) {
     // A cancelled dialog names no file, and nothing needs saying.
     if (!path.isEmpty()) {
-      context_.mainWindow.ReportInStatusBar(
+      context_.mainWindow.status.Report(
           QStringLiteral("%1 could not be opened: %2").arg(ForPeople(path), error.Description()));
     }
   }
-  host_.SetMenuItemEnabled(OpenItem, true);
+  item.setEnabled(true);
 }
 
 void CommandRouter::SavePage(SaveKind kind) {
   frmMain *page = host_.ActiveDocument();
   if (!page) return;
   const std::int32_t result =
-      modWorkFlow::SavePage(context_, *page, context_.mainWindow.SharedFileDialog(),
+      modWorkFlow::SavePage(context_, *page, context_.mainWindow.fileDialog,
                             context_.pages.Record(page->Number()), kind == SaveKind::SaveAs);
   if (result == 0 || result == static_cast<int>(ErrorNumber::DialogCancelled)) return;
   Message failure;
@@ -217,7 +217,7 @@ void CommandRouter::TakeDroppedFiles(const QStringList &paths, frmMain *page) {
   const QPointer<frmMain> alive = page;
   for (const QString &path : paths) {
     if (HasEnding(path, PageEndings)) {
-      if (host_.IsMenuItemEnabled(OpenItem)) OpenPage([&path] { return path; });
+      if (host_.MenuItem(CommandId::OpenPage).isEnabled()) OpenPage([&path] { return path; });
     } else if (!alive.isNull() && HasEnding(path, PictureEndings)) {
       insert_.PictureFile(*alive, path);
     }
@@ -225,7 +225,7 @@ void CommandRouter::TakeDroppedFiles(const QStringList &paths, frmMain *page) {
 }
 
 void CommandRouter::ActivatePage(int number) {
-  context_.mainWindow.ActivateWindow(&modWorkFlow::PageWindow(context_, number));
+  context_.mainWindow.windows.Activate(&modWorkFlow::PageWindow(context_, number));
 }
 
 }  // namespace velor

@@ -11,6 +11,8 @@
 #include <cstdint>
 #include <functional>
 
+class QAction;
+
 namespace velor {
 
 class InsertCommands;
@@ -25,8 +27,8 @@ class CommandHost {
   virtual ~CommandHost() = default;
   /// The page window that is the active child window; null when there is none.
   virtual frmMain *ActiveDocument() = 0;
-  virtual bool IsMenuItemEnabled(const QString &name) const = 0;
-  virtual void SetMenuItemEnabled(const QString &name, bool enabled) = 0;
+  /// The menu item that runs this command.
+  virtual QAction &MenuItem(CommandId command) = 0;
   virtual void ChooseMenuStyle(int index) = 0;
   virtual void ShowProjectManager() = 0;
   virtual void ShowAbout() = 0;

@@ -18,7 +18,7 @@ void DialogInsertCommands::Element(const QString &mode, frmMain &page) {
   if (dialog_.isNull()) {
     dialog_ = new frmInsertElement(context_.platform, sweeps_, page.window());
     QObject::connect(dialog_, &frmInsertElement::Reported, dialog_, [this](const QString &message) {
-      context_.mainWindow.ReportInStatusBar(message);
+      context_.mainWindow.status.Report(message);
     });
   }
   const PageRecord record = page.GetPageRecord();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/FormattingBar.h"
 
+#include "app/window/BandToolBar.h"
 #include "app/window/ChoiceBox.h"
 #include "chrome/ColorPicker.h"
 #include "chrome/FontPicker.h"
@@ -10,6 +11,9 @@
 
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QToolBar>
+
+#include <algorithm>
 
 namespace velor {
 namespace {
@@ -39,12 +43,7 @@ FormattingBar::FormattingBar(QWidget *parent)
     : QWidget(parent),
       cobFormat(Named(new ChoiceBox(this), "cobFormat", tr("Block Format"))),
       cobSize(Named(new ChoiceBox(this), "cobSize", tr("Font Size"))),
-      Font1(Named(new FontPicker(this), "Font1", tr("Font"))),
-      colors_(new QWidget(this)) {
-  cpFore = Named(new ColorPicker(QStringLiteral("forecolor"), colors_), "cpFore", tr("Text Color"));
-  cpBack = Named(new ColorPicker(QStringLiteral("backcolor"), colors_), "cpBack",
-                 tr("Background Color"));
-  cpBack->SetColor(PaperWhite);
+      Font1(Named(new FontPicker(this), "Font1", tr("Font"))) {
   // The keyboard is in the picker's text box, which is heard by a name of its own.
   Font1->lineEdit()->setAccessibleName(Font1->accessibleName());
   cobFormat->setFixedWidth(FormatWidth);
@@ -52,22 +51,47 @@ FormattingBar::FormattingBar(QWidget *parent)
   cobSize->setFixedWidth(SizeWidth);
 
   auto *row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
+  row->setContentsMargins(BarMargin - BarSpacing, 0, 0, 0);
   row->setSpacing(BarMargin);
   for (QWidget *box : std::initializer_list<QWidget *>{cobFormat, Font1, cobSize}) {
     row->addWidget(box);
   }
-  auto *colorRow = new QHBoxLayout(colors_);
-  colorRow->setContentsMargins(0, 0, 0, 0);
-  colorRow->setSpacing(BarSpacing);
-  colorRow->addWidget(cpFore);
-  colorRow->addWidget(cpBack);
+  QToolBar *tbrEdit = BuildButtons();
+  // One row for the eye: the colours close it.
+  tbrEdit->addWidget(BuildColors());
+  row->addWidget(tbrEdit, 1);
 
   connect(cobFormat, &ChoiceBox::Clicked, this, &FormattingBar::BlockFormatClicked);
   connect(cobSize, &ChoiceBox::Clicked, this, &FormattingBar::FontSizeClicked);
   connect(Font1, &FontPicker::FontChosen, this, &FormattingBar::FontNameChanged);
   connect(cpFore, &ColorPicker::ColorChosen, this, &FormattingBar::ForeColorChanged);
   connect(cpBack, &ColorPicker::ColorChosen, this, &FormattingBar::BackColorChanged);
+}
+
+QToolBar *FormattingBar::BuildButtons() {
+  QToolBar *bar = NewBandToolBar("tbrEdit", tr("Formatting"), this);
+  for (std::size_t index = 0; index < EditCommands.size(); ++index) {
+    const EditCommand &row = EditCommands[index];
+    buttons_[index] =
+        AddBandButton(*bar, row.key.toString(), row.tooltip.toString(), ButtonKind::Toggle);
+    connect(buttons_[index], &ToolBarAction::Chosen, this,
+            [this, &row] { Q_EMIT CommandClicked(row.command); });
+  }
+  return bar;
+}
+
+QWidget *FormattingBar::BuildColors() {
+  auto *colors = new QWidget(this);
+  cpFore = Named(new ColorPicker(QStringLiteral("forecolor"), colors), "cpFore", tr("Text Color"));
+  cpBack =
+      Named(new ColorPicker(QStringLiteral("backcolor"), colors), "cpBack", tr("Background Color"));
+  cpBack->SetColor(PaperWhite);
+  auto *row = new QHBoxLayout(colors);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(BarSpacing);
+  row->addWidget(cpFore);
+  row->addWidget(cpBack);
+  return colors;
 }
 
 void FormattingBar::InitialiseFonts() {
@@ -82,6 +106,16 @@ void FormattingBar::FillBlockFormats(const QStringList &names) {
 void FormattingBar::FillFontSizes() {
   for (const int points : FontSizePoints) cobSize->addItem(QString::number(points));
   cobSize->ShowText(QString());
+}
+
+void FormattingBar::ShowButton(EditingCommand command, ButtonState state) {
+  const auto row =
+      std::find_if(EditCommands.begin(), EditCommands.end(),
+                   [command](const EditCommand &entry) { return entry.command == command; });
+  if (row == EditCommands.end()) return;
+  ToolBarAction &button = *buttons_[static_cast<std::size_t>(row - EditCommands.begin())];
+  button.setEnabled(state == ButtonState::On || state == ButtonState::Pressed);
+  if (state != ButtonState::Unsupported) button.ShowChecked(state == ButtonState::Pressed);
 }
 
 void FormattingBar::ShowFontName(const QString &name) {

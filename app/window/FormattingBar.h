@@ -1,20 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "editor/EditCommands.h"
+#include "editor/MainWindow.h"
+
 #include <QString>
 #include <QWidget>
 
+#include <array>
 #include <cstdint>
+
+class QToolBar;
 
 namespace velor {
 
 class ChoiceBox;
 class ColorPicker;
 class FontPicker;
+class ToolBarAction;
 
-/// The five formatting boxes. They show the state of the text under the caret, written only when it
-/// differs, and tell what a person chooses; writes never fire the notices.
-class FormattingBar final : public QWidget {
+/// The row of the five formatting boxes and the editing toolbar `tbrEdit`. It shows the state of
+/// the text under the caret and tells what a person chooses.
+class FormattingBar final : public QWidget, public FormatDisplay {
   Q_OBJECT
 
  public:
@@ -25,17 +32,16 @@ class FormattingBar final : public QWidget {
   void FillBlockFormats(const QStringList &names);
   void FillFontSizes();
 
-  void ShowFontName(const QString &name);
-  void ShowBlockFormat(const QString &name);
-  void ShowFontSize(const QString &points);
-  /// Colours as "#RRGGBB", compared as colours.
-  void ShowForeColor(const QString &htmlColor);
-  void ShowBackColor(const QString &htmlColor);
-
-  /// The colour pickers, for the end of the editing buttons' row.
-  QWidget *ColorPickers() { return colors_; }
+  void ShowButton(EditingCommand command, ButtonState state) override;
+  void ShowFontName(const QString &name) override;
+  void ShowBackColor(const QString &htmlColor) override;
+  void ShowForeColor(const QString &htmlColor) override;
+  void ShowBlockFormat(const QString &name) override;
+  void ShowFontSize(const QString &points) override;
 
  Q_SIGNALS:
+  /// A button of `tbrEdit` was clicked: the page says whether it is pressed, not the click.
+  void CommandClicked(velor::EditingCommand command);
   void BlockFormatClicked(const QString &name);
   void FontSizeClicked(const QString &points);
   void FontNameChanged(const QString &name);
@@ -43,12 +49,16 @@ class FormattingBar final : public QWidget {
   void BackColorChanged(std::int32_t color);
 
  private:
+  QToolBar *BuildButtons();
+  QWidget *BuildColors();
+
   ChoiceBox *cobFormat;
   ChoiceBox *cobSize;
   FontPicker *Font1;
   ColorPicker *cpFore;
   ColorPicker *cpBack;
-  QWidget *colors_;
+  /// In the order of EditCommands.
+  std::array<ToolBarAction *, EditCommands.size()> buttons_{};
 };
 
 }  // namespace velor

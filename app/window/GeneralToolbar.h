@@ -8,39 +8,44 @@
 
 namespace velor {
 
+/// What has to be there for a button to be enabled.
+enum class Needs { Nothing, Page };
+
+/// Whether a click asks first if the menu item of the same command is enabled.
+enum class Guard { None, MenuItem };
+
 /// One button of `tbrGeneral`; its image has the key's name.
 struct GeneralButton {
   const char *key;
   const char *tooltip;
   Command command = {};
-  /// The menu item without which, enabled, the button does nothing; none: no test.
-  const char *guardItem = nullptr;
+  Guard guard = Guard::None;
+  Needs needs = Needs::Nothing;
 };
+
+constexpr GeneralButton PageButton(const char *key, const char *tooltip, Command command = {}) {
+  return {key, tooltip, command, Guard::None, Needs::Page};
+}
 
 /// The seventeen buttons in toolbar order.
 inline constexpr std::array<GeneralButton, 17> GeneralButtons{{
-    {"new", "New", {CommandId::NewPage}, "mnuNew"},
-    {"open", "Open", {CommandId::OpenPage}, "mnuOpen"},
-    {"save", "Save", {CommandId::SavePage}, "mnuSave"},
-    {"saveas", "Save As", {CommandId::SavePageAs}, "mnuSaveAs"},
+    {"new", "New", {CommandId::NewPage}, Guard::MenuItem},
+    {"open", "Open", {CommandId::OpenPage}, Guard::MenuItem},
+    {"save", "Save", {CommandId::SavePage}, Guard::MenuItem},
+    {"saveas", "Save As", {CommandId::SavePageAs}, Guard::MenuItem},
     {"startman", "Project Manager", {CommandId::ProjectManager}},
-    {"cut", "Cut", {CommandId::Editing, Number(EditingCommand::Cut)}},
-    {"copy", "Copy", {CommandId::Editing, Number(EditingCommand::Copy)}},
-    {"paste", "Paste", {CommandId::Editing, Number(EditingCommand::Paste)}},
-    {"delete", "Delete", {CommandId::Editing, Number(EditingCommand::Delete)}},
-    {"undo", "Undo", {CommandId::Editing, Number(EditingCommand::Undo)}},
-    {"redo", "Redo", {CommandId::Editing, Number(EditingCommand::Redo)}},
-    {"preview", "Preview", {CommandId::Preview}},
-    {"table", "Table", {CommandId::InsertTable}},
-    {"image", "Image", {CommandId::InsertImage}},
-    {"anchor", "Anchor"},
+    PageButton("cut", "Cut", {CommandId::Editing, Number(EditingCommand::Cut)}),
+    PageButton("copy", "Copy", {CommandId::Editing, Number(EditingCommand::Copy)}),
+    PageButton("paste", "Paste", {CommandId::Editing, Number(EditingCommand::Paste)}),
+    PageButton("delete", "Delete", {CommandId::Editing, Number(EditingCommand::Delete)}),
+    PageButton("undo", "Undo", {CommandId::Editing, Number(EditingCommand::Undo)}),
+    PageButton("redo", "Redo", {CommandId::Editing, Number(EditingCommand::Redo)}),
+    PageButton("preview", "Preview", {CommandId::Preview}),
+    PageButton("table", "Table", {CommandId::InsertTable}),
+    PageButton("image", "Image", {CommandId::InsertImage}),
+    PageButton("anchor", "Anchor"),
     {"help", "Help"},
     {"about", "About", {CommandId::About}},
 }};
-
-/// What SetPageCommandsEnabled switches together.
-inline constexpr std::array<const char *, 3> PageMenus{"mnuEdit_Top", "mnuInsert", "mnuTable"};
-inline constexpr std::array<const char *, 10> PageButtons{
-    "cut", "copy", "paste", "delete", "undo", "redo", "table", "image", "anchor", "preview"};
 
 }  // namespace velor

@@ -51,7 +51,7 @@ Menus BuildMenus(QMainWindow &window, const std::function<void(const Command &)>
     QAction *item = NewItem(window, row);
     QObject::connect(item, &QAction::triggered, &window, [run, &row] { run(row.command); });
     built.menus.value(QString::fromLatin1(row.parent))->addAction(item);
-    built.items.insert(name, item);
+    built.items.insert(row.command.id, item);
   }
   return built;
 }

@@ -19,8 +19,9 @@ namespace velor {
 struct Menus {
   /// Menus and popups by name.
   QHash<QString, QMenu *> menus;
-  /// Items by name; the style items share one name and stand here with their last.
-  QHash<QString, QAction *> items;
+  /// Items by what they run; of several items that run the same command, with another argument, the
+  /// last.
+  QHash<CommandId, QAction *> items;
 };
 
 /// Makes every menu of the table in `window`; an item chosen runs its command through `run`.

@@ -3,6 +3,7 @@
 
 #include "app/window/Command.h"
 
+#include <array>
 #include <span>
 
 namespace velor {
@@ -28,6 +29,9 @@ struct MenuRow {
   /// Key of the picture beside the item; none where it has no picture.
   const char *picture = nullptr;
 };
+
+/// The menus that can be used only while a page is open.
+inline constexpr std::array<const char *, 3> PageMenus{"mnuEdit_Top", "mnuInsert", "mnuTable"};
 
 /// Every menu and item of the main window, the two popups included.
 std::span<const MenuRow> MenuTable();

@@ -5,11 +5,11 @@
 #include "app/window/CoolBar.h"
 #include "app/window/DialogInsertCommands.h"
 #include "app/window/FormattingBar.h"
-#include "app/window/GeneralToolbar.h"
 #include "app/window/PageArea.h"
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
 #include "app/window/ProjectDesk.h"
+#include "app/window/StatusLine.h"
 #include "app/window/WindowStyling.h"
 #include "chrome/FlatSweeps.h"
 #include "chrome/Icons.h"
@@ -29,11 +29,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QMenu>
 #include <QPainter>
 #include <QPointer>
-#include <QStatusBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -81,22 +79,33 @@ void UnloadProgramWindows() {
 
 MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
     : platform_(platform),
-      context_{platform, *this, pages_, {}},
+      menus_(BuildMenus(*this, [this](const Command &command) { router_.Run(command); })),
+      coolBar_(new CoolBar(this)),
+      FileTab(new PageTabs(this)),
+      FileTab2(new PageTabs(this)),
+      area_(new PageArea(this)),
+      Sta(new StatusLine(this)),
+      sourceEditing_(new QAction(this)),
+      commands_(menus_, *coolBar_, *FileTab, *sourceEditing_),
+      fileDialog_(platform.components.CreateFileDialog()),
+      context_{platform,
+               {.windows = *area_,
+                .tabs = *FileTab,
+                .formats = coolBar_->Formatting(),
+                .status = *Sta,
+                .commands = commands_,
+                .requests = *this,
+                .fileDialog = *fileDialog_},
+               pages_,
+               {}},
       sweeps_(SweepsOn(platform.windows)),
       insert_(std::make_unique<DialogInsertCommands>(context_, values, sweeps_.get())),
       router_(context_, values, *this, *insert_),
       menuPictures_(ProgramMenuPictures()),
-      menus_(BuildMenus(*this, [this](const Command &command) { router_.Run(command); })),
       PM(new StyleMenuPainter(this)),
-      coolBar_(new CoolBar(this)),
-      FileTab(new PageTabs(this)),
-      FileTab2(new PageTabs(this)),
       CmbPages(new PageChooser(this)),
       recovery_(new RecoveryBar(context_, this)),
-      area_(new PageArea(this)),
-      sourceEditing_(new QAction(this)),
-      projects_(std::make_unique<ProjectDesk>(context_, values, *CmbPages, sweeps_.get())),
-      fileDialog_(platform.components.CreateFileDialog()) {
+      projects_(std::make_unique<ProjectDesk>(context_, values, *CmbPages, sweeps_.get())) {
   setObjectName(QStringLiteral("MfrmProgram"));
   setWindowTitle(QString::fromUtf16(ApplicationTitle));
   setWindowIcon(ProgramIcon());
@@ -104,7 +113,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
   PM->setObjectName(QStringLiteral("PM"));
   sourceEditing_->setObjectName(QStringLiteral("mnuEditHTML"));
   BuildLayout();
-  BuildStatusBar();
+  setStatusBar(Sta);
   new WindowList(*menus_.menus.value(QStringLiteral("mnuWindow")), *area_, this);
 }
 
@@ -149,24 +158,6 @@ QWidget *MfrmProgram::BuildTabRow() {
   return picFileTab;
 }
 
-void MfrmProgram::BuildStatusBar() {
-  auto *Sta = new QStatusBar(this);
-  Sta->setObjectName(QStringLiteral("Sta"));
-  Sta->setSizeGripEnabled(false);
-  statusText_ = new QLabel(Sta);
-  statusText_->setObjectName(QStringLiteral("Sta_1"));
-  statusText_->setTextFormat(Qt::PlainText);
-  statusText_->setIndent(BarMargin);
-  Sta->addWidget(statusText_, 1);
-  textForm_ = new QLabel(Sta);
-  textForm_->setObjectName(QStringLiteral("Sta_2"));
-  textForm_->setAccessibleName(QStringLiteral("Charset and line ends"));
-  textForm_->setTextFormat(Qt::PlainText);
-  textForm_->setContentsMargins(0, 0, BarMargin, 0);
-  Sta->addPermanentWidget(textForm_);
-  setStatusBar(Sta);
-}
-
 void MfrmProgram::Load() {
   RunLoadSteps(*this, platform_.runtime);
   // From the event loop: when start-up has said all it has to say.
@@ -180,19 +171,19 @@ void MfrmProgram::InitialiseHiddenComponent() {
 }
 
 void MfrmProgram::InitialiseFontPicker() {
-  coolBar_->Boxes().InitialiseFonts();
+  coolBar_->Formatting().InitialiseFonts();
 }
 
 void MfrmProgram::CreateBlockFormatNames() {
-  coolBar_->Boxes().FillBlockFormats(DE1->BlockFormats());
+  coolBar_->Formatting().FillBlockFormats(DE1->BlockFormats());
 }
 
 void MfrmProgram::SetFontSizeList() {
-  coolBar_->Boxes().FillFontSizes();
+  coolBar_->Formatting().FillFontSizes();
 }
 
 void MfrmProgram::PrepareControlsAndMenus() {
-  SetPageCommandsEnabled(false);
+  commands_.SetPageCommandsEnabled(false);
   StyleMainWindow(*this, sweeps_.get(), MenuImages(), *PM);
   try {
     PrepareMenus(platform_.registry, menuPictures_, *PM);
@@ -215,10 +206,10 @@ void MfrmProgram::FinishPreparation() {
 void MfrmProgram::ConnectBars() {
   connect(coolBar_, &CoolBar::GeneralClicked, this,
           [this](const GeneralButton &button) { router_.Click(button); });
-  connect(coolBar_, &CoolBar::EditClicked, this, [this](int command) {
-    router_.Run({CommandId::Editing, command});
+  FormattingBar *boxes = &coolBar_->Formatting();
+  connect(boxes, &FormattingBar::CommandClicked, this, [this](EditingCommand command) {
+    router_.Run({CommandId::Editing, Number(command)});
   });
-  FormattingBar *boxes = &coolBar_->Boxes();
   connect(boxes, &FormattingBar::BlockFormatClicked, this,
           [this](const QString &name) { router_.SetBlockFormat(name); });
   connect(boxes, &FormattingBar::FontSizeClicked, this,
@@ -254,12 +245,8 @@ frmMain *MfrmProgram::ActiveDocument() {
   return qobject_cast<frmMain *>(area_->Current());
 }
 
-bool MfrmProgram::IsMenuItemEnabled(const QString &name) const {
-  return menus_.items.value(name)->isEnabled();
-}
-
-void MfrmProgram::SetMenuItemEnabled(const QString &name, bool enabled) {
-  menus_.items.value(name)->setEnabled(enabled);
+QAction &MfrmProgram::MenuItem(CommandId command) {
+  return *menus_.items.value(command);
 }
 
 void MfrmProgram::ChooseMenuStyle(int index) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/window/CommandRouter.h"
+#include "app/window/CommandState.h"
 #include "app/window/LoadOrder.h"
 #include "app/window/MenuBuilder.h"
 #include "app/window/MenuSettings.h"
@@ -14,8 +15,6 @@
 
 #include <memory>
 
-class QLabel;
-
 namespace velor {
 
 class CoolBar;
@@ -26,6 +25,7 @@ class PageChooser;
 class PageTabs;
 class ProjectDesk;
 class RecoveryBar;
+class StatusLine;
 class StyleMenuPainter;
 class StylingSweeps;
 
@@ -33,7 +33,7 @@ class StylingSweeps;
 /// the page tabs `FileTab` and the page chooser `CmbPages` on `picFileTab`, the area of the child
 /// windows and the status bar `Sta`. It arranges and shows; what its commands do is the router's.
 class MfrmProgram final : public QMainWindow,
-                          public MainWindow,
+                          private PageRequests,
                           private CommandHost,
                           private LoadSteps {
   Q_OBJECT
@@ -49,37 +49,6 @@ class MfrmProgram final : public QMainWindow,
   CommandRouter &Router() { return router_; }
   EditorContext &Context() { return context_; }
 
-  // MainWindow
-  void AdoptWindow(QWidget *window) override;
-  void ShowWindow(QWidget *window) override;
-  void ActivateWindow(QWidget *window) override;
-  void HideWindow(QWidget *window) override;
-  void ReleaseWindow(QWidget *window) override;
-  int TabCount() const override;
-  void AddTab(const QString &key, int image) override;
-  void SetTabCaption(const QString &key, const QString &caption) override;
-  void SetTabCaptionAt(int position, const QString &caption) override;
-  void SelectTab(const QString &key) override;
-  void RemoveTab(const QString &key) override;
-  void ClearTabs() override;
-  void SetPageCommandsEnabled(bool enabled) override;
-  void SetSourceEditingEnabled(bool enabled) override;
-  void RefreshCommandState() override;
-  void ResetElementInspection() override;
-  void SetEditButton(const QString &key, bool enabled, bool pressed) override;
-  void DisableEditButton(const QString &key) override;
-  void ShowFontName(const QString &name) override;
-  void ShowBackColor(const QString &htmlColor) override;
-  void ShowForeColor(const QString &htmlColor) override;
-  void ShowBlockFormat(const QString &name) override;
-  void ShowFontSize(const QString &points) override;
-  void SetStatusText(const QString &text) override;
-  void ShowTextForm(const QString &words) override;
-  void ReportInStatusBar(const QString &message) override;
-  void PopUpContextMenu(QPoint screenPosition) override;
-  void TakeDroppedFiles(const QStringList &paths, frmMain *page) override;
-  FileDialog &SharedFileDialog() override;
-
  Q_SIGNALS:
   /// The window is about to go, and every other window with it, unasked.
   void Unloading();
@@ -92,10 +61,14 @@ class MfrmProgram final : public QMainWindow,
   void dropEvent(QDropEvent *event) override;
 
  private:
+  // PageRequests
+  void PopUpContextMenu(QPoint screenPosition) override;
+  void TakeDroppedFiles(const QStringList &paths, frmMain *page) override;
+  void ResetElementInspection() override;
+
   // CommandHost
   frmMain *ActiveDocument() override;
-  bool IsMenuItemEnabled(const QString &name) const override;
-  void SetMenuItemEnabled(const QString &name, bool enabled) override;
+  QAction &MenuItem(CommandId command) override;
   void ChooseMenuStyle(int index) override;
   void ShowProjectManager() override;
   void ShowAbout() override;
@@ -112,32 +85,31 @@ class MfrmProgram final : public QMainWindow,
 
   void BuildLayout();
   QWidget *BuildTabRow();
-  void BuildStatusBar();
   void ConnectBars();
   void ChildActivated();
 
   Platform &platform_;
   PageSlots pages_;
+  Menus menus_;
+  CoolBar *coolBar_;
+  PageTabs *FileTab;
+  PageTabs *FileTab2;
+  PageArea *area_;
+  StatusLine *Sta;
+  QAction *sourceEditing_;
+  CommandState commands_;
+  std::unique_ptr<FileDialog> fileDialog_;
   EditorContext context_;
   /// Null where windows are not to be styled.
   std::unique_ptr<StylingSweeps> sweeps_;
   std::unique_ptr<InsertCommands> insert_;
   CommandRouter router_;
   MenuPictures menuPictures_;
-  Menus menus_;
   StyleMenuPainter *PM;
-  CoolBar *coolBar_;
-  PageTabs *FileTab;
-  PageTabs *FileTab2;
   PageChooser *CmbPages;
   RecoveryBar *recovery_;
-  PageArea *area_;
-  QLabel *statusText_ = nullptr;
-  QLabel *textForm_ = nullptr;
-  QAction *sourceEditing_;
   std::unique_ptr<ProjectDesk> projects_;
   std::unique_ptr<EditingComponent> DE1;
-  std::unique_ptr<FileDialog> fileDialog_;
   QPointer<QWidget> lastActivated_;
   /// The element under the caret as the tool box knows it; empty where none is looked at.
   QString inspectedElement_;

@@ -3,10 +3,12 @@
 
 #include "chrome/Palette.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QShortcut>
+#include <QTabBar>
 
 #include <algorithm>
 
@@ -43,15 +45,18 @@ void PageArea::Show(QWidget *window) {
   window->show();
   frame->showMaximized();
   setActiveSubWindow(frame);
+  window->setFocus();
 }
 
 void PageArea::Activate(QWidget *window) {
   QMdiSubWindow *frame = FrameOf(window);
   if (!frame) return;
+  const bool walksAlongTabs = qobject_cast<QTabBar *>(QApplication::focusWidget()) != nullptr;
   if (frame->isHidden()) {
     Show(window);
   } else {
     setActiveSubWindow(frame);
+    if (!walksAlongTabs) window->setFocus();
   }
 }
 

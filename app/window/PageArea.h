@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "editor/MainWindow.h"
+
 #include <QList>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -10,20 +12,20 @@ class QMenu;
 
 namespace velor {
 
-/// Where the child windows live: page windows, source editors, the preview. Each adopted window
-/// lies in a frame that comes and goes with it. While no window is open, a hint stands there.
-class PageArea final : public QMdiArea {
+/// Where the child windows live: page windows, source editors, the preview. While none is open, a
+/// hint stands there.
+class PageArea final : public QMdiArea, public ChildWindows {
   Q_OBJECT
 
  public:
   explicit PageArea(QWidget *parent);
 
-  void Adopt(QWidget *window);
-  /// Shows the window filling the area, in front.
-  void Show(QWidget *window);
-  void Activate(QWidget *window);
-  void Hide(QWidget *window);
-  void Release(QWidget *window);
+  void Adopt(QWidget *window) override;
+  void Show(QWidget *window) override;
+  /// The keyboard goes with it, but stays with whoever walks along the tabs by keyboard.
+  void Activate(QWidget *window) override;
+  void Hide(QWidget *window) override;
+  void Release(QWidget *window) override;
 
   /// The window in front; null when none is open.
   QWidget *Current() const;

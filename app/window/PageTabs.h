@@ -1,28 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "editor/MainWindow.h"
+
 #include <QString>
 #include <QTabBar>
 
 namespace velor {
 
-/// The page tabs, `FileTab`: one a page, under the key "key" and the page number. The order never
-/// changes but by adding at the end and removing. Unknown keys raise ElementNotFound (35601),
-/// positions and images out of range IndexOutOfBounds (35600).
-class PageTabs final : public QTabBar {
+/// The page tabs. The order never changes but by adding at the end and removing.
+class PageTabs final : public QTabBar, public TabStrip {
   Q_OBJECT
 
  public:
   explicit PageTabs(QWidget *parent);
 
-  /// `image` counts from 1 in the strip's image list.
-  void Add(const QString &key, int image);
-  void SetCaption(const QString &key, const QString &caption);
-  /// `position` counts from 1.
-  void SetCaptionAt(int position, const QString &caption);
-  void Select(const QString &key);
-  void Remove(const QString &key);
-  void Clear();
+  int Count() const override { return count(); }
+  void Add(const QString &key, int image) override;
+  void SetCaption(const QString &key, const QString &caption) override;
+  void SetCaptionAt(int position, const QString &caption) override;
+  void Select(const QString &key) override;
+  void Remove(const QString &key) override;
+  void Clear() override;
 
  Q_SIGNALS:
   /// The person chose a page's tab, the one in front included; never by the calls above.

@@ -29,7 +29,7 @@ void ProjectDesk::ShowProjectManager(QWidget &parent) {
 }
 
 void ProjectDesk::ClearTabs() {
-  context_.mainWindow.ClearTabs();
+  context_.mainWindow.tabs.Clear();
 }
 
 void ProjectDesk::ClearPageChooser() {

@@ -119,7 +119,7 @@ void RecoveryBar::Offer() {
   if (context_.platform.journals == nullptr) return;
   const QString hindrance = context_.platform.journals->Hindrance();
   if (!hindrance.isEmpty()) {
-    context_.mainWindow.ReportInStatusBar(
+    context_.mainWindow.status.Report(
         QStringLiteral("Recovery is off, unsaved changes cannot be kept: %1").arg(hindrance));
   }
   Fill();
@@ -189,7 +189,7 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
 JournalledPage RecoveryBar::Read(const AbandonedPage &abandoned) {
   JournalReading reading = context_.platform.journals->Read(abandoned.id);
   if (reading.endIsMissing) {
-    context_.mainWindow.ReportInStatusBar(
+    context_.mainWindow.status.Report(
         QStringLiteral("The journal of %1 is damaged: its last changes are missing")
             .arg(NameOf(abandoned)));
   }
@@ -207,7 +207,7 @@ void RecoveryBar::Show(const AbandonedPage &abandoned) {
   const PageMemory &memory = page.page;
   const FaithfulPage original({memory.original, DecodePage(memory.original), {}});
   frmBrowser &preview = PreviewWindow(context_);
-  context_.mainWindow.ShowWindow(&preview);
+  context_.mainWindow.windows.Show(&preview);
   preview.brwWebBrowser().NavigateToText(
       page.source ? *page.source : original.Unmasked(memory.document),
       QUrl::fromLocalFile(memory.base));

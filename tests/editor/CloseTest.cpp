@@ -178,8 +178,8 @@ TEST_F(CloseTest, OneOfSeveralTabsGoesByItsKey) {
 TEST_F(CloseTest, AMissingTemporaryCopyOrTabIsNoError) {
   New();
   New();
-  mainWindow.RemoveTab(QStringLiteral("key1"));
-  mainWindow.AddTab(QStringLiteral("key9"), 1);
+  mainWindow.Remove(QStringLiteral("key1"));
+  mainWindow.Add(QStringLiteral("key9"), 1);
   EXPECT_TRUE(Page(1).close());
   EXPECT_FALSE(IsOpen(1));
 }

@@ -259,7 +259,7 @@ TEST_F(ModesTest, ActivationReadsWhetherTheToolBoxIsShown) {
 
 TEST_F(ModesTest, ActivationWithoutATabOrTagIsHarmless) {
   New();
-  mainWindow.ClearTabs();
+  mainWindow.Clear();
   Page(1).Tag.clear();
   EXPECT_NO_THROW(Page(1).OnActivated());
 }

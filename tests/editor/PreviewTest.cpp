@@ -77,7 +77,7 @@ TEST_F(PreviewTest, OneWindowServesAllPreviewsAndClosingHidesIt) {
   const QPointer<frmBrowser> window = context.preview;
   log.clear();
   EXPECT_FALSE(window->close());
-  EXPECT_EQ(log, Calls({"HideWindow(frmBrowser)", "RefreshCommandState()"}));
+  EXPECT_EQ(log, Calls({"HideWindow(frmBrowser)", "Refresh()"}));
   DeleteClosedWindows();
   ASSERT_FALSE(window.isNull());
   EXPECT_FALSE(window->isVisible());

@@ -26,15 +26,15 @@ class SelectionTest : public EditorWorld {
 TEST_F(SelectionTest, EachStatusGivesItsButtonState) {
   New();
   const std::map<CommandStatus, const char *> expected{
-      {CommandStatus::NotSupported, "DisableEditButton(bold)"},
-      {CommandStatus::Disabled, "SetEditButton(bold, False, False)"},
-      {CommandStatus::Enabled, "SetEditButton(bold, True, False)"},
-      {CommandStatus::Latched, "SetEditButton(bold, True, True)"},
-      {CommandStatus::Ninched, "SetEditButton(bold, True, False)"}};
+      {CommandStatus::NotSupported, "ShowButton(5000, Unsupported)"},
+      {CommandStatus::Disabled, "ShowButton(5000, Off)"},
+      {CommandStatus::Enabled, "ShowButton(5000, On)"},
+      {CommandStatus::Latched, "ShowButton(5000, Pressed)"},
+      {CommandStatus::Ninched, "ShowButton(5000, On)"}};
   for (const auto &[status, call] : expected) {
     log.clear();
     Component(1).statuses[5000] = status;
-    Page(1).EditBarCheck(QStringLiteral("bold"), 5000);
+    Page(1).EditBarCheck(EditingCommand::Bold, 5000);
     EXPECT_EQ(log, Calls({"QueryStatus(5000)", call}));
   }
 }
@@ -44,7 +44,7 @@ TEST_F(SelectionTest, AnyOtherStatusLeavesTheButtonAlone) {
   for (const int status : {2, 4, 15, -1}) {
     log.clear();
     Component(1).statuses[5023] = static_cast<CommandStatus>(status);
-    Page(1).EditBarCheck(QStringLiteral("italic"), 5023);
+    Page(1).EditBarCheck(EditingCommand::Italic, 5023);
     EXPECT_EQ(log, Calls({"QueryStatus(5023)"})) << status;
   }
 }
@@ -59,9 +59,9 @@ TEST_F(SelectionTest, RefreshingAsksTheTenCommandsInToolbarOrder) {
   EXPECT_EQ(Matching(QStringLiteral("QueryStatus")), expected);
   QStringList keys;
   for (const EditCommand &entry : EditCommands) {
-    keys << QStringLiteral("SetEditButton(%1, True, False)").arg(entry.key);
+    keys << QStringLiteral("ShowButton(%1, On)").arg(entry.Number());
   }
-  EXPECT_EQ(Matching(QStringLiteral("SetEditButton")), keys);
+  EXPECT_EQ(Matching(QStringLiteral("ShowButton")), keys);
 }
 
 TEST_F(SelectionTest, RefreshingShowsTheFiveValuesInTheirOrder) {
@@ -87,8 +87,8 @@ TEST_F(SelectionTest, ADisplayChangeRefreshesTheBoxesAndThenTheLink) {
     return std::find(log.begin(), log.end(), QString::fromLatin1(call)) - log.begin();
   };
   EXPECT_LT(place("QueryStatus(5000)"), place("ShowFontSize()"));
-  EXPECT_LT(place("ShowFontSize()"), place("SetStatusText(P)"));
-  EXPECT_EQ(mainWindow.statusText, QStringLiteral("P"));
+  EXPECT_LT(place("ShowFontSize()"), place("ShowTag(P)"));
+  EXPECT_EQ(mainWindow.tag, QStringLiteral("P"));
 }
 
 TEST_F(SelectionTest, BeforeThePageIsReadyNothingFollowsTheSelection) {
@@ -105,12 +105,12 @@ TEST_F(SelectionTest, ACaretInALinkTellsItsTargetAndMovingOutClearsIt) {
   for (const char *tag : {"A", "a"}) {
     Component(1).element = Element(tag, "next.htm");
     Page(1).DynaLink();
-    EXPECT_EQ(mainWindow.statusText, QString::fromLatin1(tag));
+    EXPECT_EQ(mainWindow.tag, QString::fromLatin1(tag));
     EXPECT_EQ(Component(1).toolTip, QStringLiteral("Link to : next.htm"));
   }
   Component(1).element = Element("B");
   Page(1).DynaLink();
-  EXPECT_EQ(mainWindow.statusText, QStringLiteral("B"));
+  EXPECT_EQ(mainWindow.tag, QStringLiteral("B"));
   EXPECT_TRUE(Component(1).toolTip.isEmpty()) << "bold text inside the link is no link itself";
 }
 

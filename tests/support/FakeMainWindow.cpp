@@ -26,61 +26,61 @@ std::vector<FakeMainWindow::Tab>::iterator FakeMainWindow::Find(const QString &k
   return tab;
 }
 
-void FakeMainWindow::AdoptWindow(QWidget *window) {
+void FakeMainWindow::Adopt(QWidget *window) {
   Note(log_, Call("AdoptWindow", {window->objectName()}));
   window->setParent(&host_);
   adopted.push_back(window);
 }
 
-void FakeMainWindow::ShowWindow(QWidget *window) {
+void FakeMainWindow::Show(QWidget *window) {
   Note(log_, Call("ShowWindow", {window->objectName()}));
   host_.show();
   window->show();
 }
 
-void FakeMainWindow::ActivateWindow(QWidget *window) {
+void FakeMainWindow::Activate(QWidget *window) {
   Note(log_, Call("ActivateWindow", {window->objectName()}));
 }
 
-void FakeMainWindow::HideWindow(QWidget *window) {
+void FakeMainWindow::Hide(QWidget *window) {
   Note(log_, Call("HideWindow", {window->objectName()}));
   window->hide();
 }
 
-void FakeMainWindow::ReleaseWindow(QWidget *window) {
+void FakeMainWindow::Release(QWidget *window) {
   Note(log_, Call("ReleaseWindow", {window->objectName()}));
   std::erase(adopted, window);
 }
 
-void FakeMainWindow::AddTab(const QString &key, int image) {
+void FakeMainWindow::Add(const QString &key, int image) {
   Note(log_, Call("AddTab", {key, QString::number(image)}));
   tabs.push_back({key, image, {}});
 }
 
-void FakeMainWindow::SetTabCaption(const QString &key, const QString &caption) {
+void FakeMainWindow::SetCaption(const QString &key, const QString &caption) {
   Note(log_, Call("SetTabCaption", {key, caption}));
   Find(key)->caption = caption;
 }
 
-void FakeMainWindow::SetTabCaptionAt(int position, const QString &caption) {
+void FakeMainWindow::SetCaptionAt(int position, const QString &caption) {
   Note(log_, Call("SetTabCaptionAt", {QString::number(position), caption}));
-  if (position < 1 || position > TabCount()) {
+  if (position < 1 || position > Count()) {
     throw RuntimeError::Of(ErrorNumber::IndexOutOfBounds, QStringLiteral("FileTab"));
   }
   tabs[static_cast<std::size_t>(position - 1)].caption = caption;
 }
 
-void FakeMainWindow::SelectTab(const QString &key) {
+void FakeMainWindow::Select(const QString &key) {
   Note(log_, Call("SelectTab", {key}));
   selectedTab = Find(key)->key;
 }
 
-void FakeMainWindow::RemoveTab(const QString &key) {
+void FakeMainWindow::Remove(const QString &key) {
   Note(log_, Call("RemoveTab", {key}));
   tabs.erase(Find(key));
 }
 
-void FakeMainWindow::ClearTabs() {
+void FakeMainWindow::Clear() {
   Note(log_, Call("ClearTabs", {}));
   tabs.clear();
 }
@@ -94,20 +94,31 @@ void FakeMainWindow::SetSourceEditingEnabled(bool enabled) {
   Note(log_, Call("SetSourceEditingEnabled", {BoolText(enabled)}));
 }
 
-void FakeMainWindow::RefreshCommandState() {
-  Note(log_, Call("RefreshCommandState", {}));
+void FakeMainWindow::Refresh() {
+  Note(log_, Call("Refresh", {}));
 }
 
 void FakeMainWindow::ResetElementInspection() {
   Note(log_, Call("ResetElementInspection", {}));
 }
 
-void FakeMainWindow::SetEditButton(const QString &key, bool enabled, bool pressed) {
-  Note(log_, Call("SetEditButton", {key, BoolText(enabled), BoolText(pressed)}));
-}
-
-void FakeMainWindow::DisableEditButton(const QString &key) {
-  Note(log_, Call("DisableEditButton", {key}));
+void FakeMainWindow::ShowButton(EditingCommand command, ButtonState state) {
+  const char *name = nullptr;
+  switch (state) {
+    case ButtonState::Unsupported:
+      name = "Unsupported";
+      break;
+    case ButtonState::Off:
+      name = "Off";
+      break;
+    case ButtonState::On:
+      name = "On";
+      break;
+    case ButtonState::Pressed:
+      name = "Pressed";
+      break;
+  }
+  Note(log_, Call("ShowButton", {QString::number(Number(command)), QString::fromLatin1(name)}));
 }
 
 void FakeMainWindow::ShowFontName(const QString &name) {
@@ -130,13 +141,13 @@ void FakeMainWindow::ShowFontSize(const QString &points) {
   Note(log_, Call("ShowFontSize", {points}));
 }
 
-void FakeMainWindow::SetStatusText(const QString &text) {
-  Note(log_, Call("SetStatusText", {text}));
-  statusText = text;
+void FakeMainWindow::ShowTag(const QString &text) {
+  Note(log_, Call("ShowTag", {text}));
+  tag = text;
 }
 
-void FakeMainWindow::ReportInStatusBar(const QString &message) {
-  Note(log_, Call("ReportInStatusBar", {message}));
+void FakeMainWindow::Report(const QString &message) {
+  Note(log_, Call("Report", {message}));
   reports << message;
 }
 

@@ -13,7 +13,12 @@ namespace velor {
 
 /// A main window that writes down what it is asked. Its tabs are real enough to be counted, found
 /// by key and by position, and to raise the errors of the real strip.
-class FakeMainWindow final : public MainWindow {
+class FakeMainWindow final : public ChildWindows,
+                             public TabStrip,
+                             public FormatDisplay,
+                             public StatusDisplay,
+                             public CommandAvailability,
+                             public PageRequests {
  public:
   struct Tab {
     QString key;
@@ -28,44 +33,46 @@ class FakeMainWindow final : public MainWindow {
   std::vector<Tab> tabs;
   QString selectedTab;
   std::vector<QWidget *> adopted;
-  QString statusText;
+  QString tag;
   QString textForm;
   QStringList reports;
   bool pageCommandsEnabled = false;
 
-  void AdoptWindow(QWidget *window) override;
-  void ShowWindow(QWidget *window) override;
-  void ActivateWindow(QWidget *window) override;
-  void HideWindow(QWidget *window) override;
-  void ReleaseWindow(QWidget *window) override;
+  void Adopt(QWidget *window) override;
+  void Show(QWidget *window) override;
+  void Activate(QWidget *window) override;
+  void Hide(QWidget *window) override;
+  void Release(QWidget *window) override;
 
-  int TabCount() const override { return static_cast<int>(tabs.size()); }
-  void AddTab(const QString &key, int image) override;
-  void SetTabCaption(const QString &key, const QString &caption) override;
-  void SetTabCaptionAt(int position, const QString &caption) override;
-  void SelectTab(const QString &key) override;
-  void RemoveTab(const QString &key) override;
-  void ClearTabs() override;
+  int Count() const override { return static_cast<int>(tabs.size()); }
+  void Add(const QString &key, int image) override;
+  void SetCaption(const QString &key, const QString &caption) override;
+  void SetCaptionAt(int position, const QString &caption) override;
+  void Select(const QString &key) override;
+  void Remove(const QString &key) override;
+  void Clear() override;
 
-  void SetPageCommandsEnabled(bool enabled) override;
-  void SetSourceEditingEnabled(bool enabled) override;
-  void RefreshCommandState() override;
-  void ResetElementInspection() override;
-
-  void SetEditButton(const QString &key, bool enabled, bool pressed) override;
-  void DisableEditButton(const QString &key) override;
+  void ShowButton(EditingCommand command, ButtonState state) override;
   void ShowFontName(const QString &name) override;
   void ShowBackColor(const QString &htmlColor) override;
   void ShowForeColor(const QString &htmlColor) override;
   void ShowBlockFormat(const QString &name) override;
   void ShowFontSize(const QString &points) override;
 
-  void SetStatusText(const QString &text) override;
+  void ShowTag(const QString &tag) override;
   void ShowTextForm(const QString &words) override { textForm = words; }
-  void ReportInStatusBar(const QString &message) override;
+  void Report(const QString &message) override;
+
+  void SetPageCommandsEnabled(bool enabled) override;
+  void SetSourceEditingEnabled(bool enabled) override;
+  void Refresh() override;
+
   void PopUpContextMenu(QPoint screenPosition) override;
   void TakeDroppedFiles(const QStringList &paths, frmMain *page) override;
-  FileDialog &SharedFileDialog() override { return dialog_; }
+  void ResetElementInspection() override;
+
+  /// As the pages see it.
+  operator MainWindow() { return {*this, *this, *this, *this, *this, *this, dialog_}; }
 
  private:
   std::vector<Tab>::iterator Find(const QString &key);

@@ -72,7 +72,7 @@ TEST_F(CommandRouterTest, TheEditButtonsAskNoMenuItem) {
 TEST_F(CommandRouterTest, CommandsGoToTheDocumentInFront) {
   frmMain &first = NewPage();
   NewPage();
-  window.ActivateWindow(&first);
+  Parts().windows.Activate(&first);
   log.clear();
   // Only the first page has that format, so that only there nothing is left to send.
   Component(first).values[5011] = QStringLiteral("Normal");

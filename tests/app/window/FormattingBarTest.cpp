@@ -112,11 +112,11 @@ TEST_F(FormattingBarTest, WithoutADocumentAChoiceDoesNothing) {
 }
 
 TEST_F(FormattingBarTest, WhatTheProgramWritesSendsNothing) {
-  window.ShowFontName(QStringLiteral("Arial"));
-  window.ShowBackColor(QStringLiteral("#FFFF00"));
-  window.ShowForeColor(QStringLiteral("#0000FF"));
-  window.ShowBlockFormat(QStringLiteral("Heading 3"));
-  window.ShowFontSize(QStringLiteral("18"));
+  Parts().formats.ShowFontName(QStringLiteral("Arial"));
+  Parts().formats.ShowBackColor(QStringLiteral("#FFFF00"));
+  Parts().formats.ShowForeColor(QStringLiteral("#0000FF"));
+  Parts().formats.ShowBlockFormat(QStringLiteral("Heading 3"));
+  Parts().formats.ShowFontSize(QStringLiteral("18"));
   EXPECT_TRUE(log.empty());
   EXPECT_EQ(Find<FontPicker>("Font1")->FontName(), QStringLiteral("Arial"));
   EXPECT_EQ(Find<ColorPicker>("cpBack")->Color(), 0x00FFFF);
@@ -127,20 +127,20 @@ TEST_F(FormattingBarTest, WhatTheProgramWritesSendsNothing) {
 
 TEST_F(FormattingBarTest, MixedAndUnknownValuesAreShownToo) {
   auto *format = Find<ChoiceBox>("cobFormat");
-  window.ShowBlockFormat(QStringLiteral("Heading 3"));
-  window.ShowBlockFormat(QString());
+  Parts().formats.ShowBlockFormat(QStringLiteral("Heading 3"));
+  Parts().formats.ShowBlockFormat(QString());
   EXPECT_EQ(format->Text(), QString());
   EXPECT_EQ(format->currentIndex(), -1);
-  window.ShowBlockFormat(QStringLiteral("Unheard of"));
+  Parts().formats.ShowBlockFormat(QStringLiteral("Unheard of"));
   EXPECT_EQ(format->Text(), QStringLiteral("Unheard of"));
   EXPECT_EQ(format->placeholderText(), QStringLiteral("Unheard of"));
 }
 
 TEST_F(FormattingBarTest, ABoxThatShowsTheValueAlreadyIsNotWritten) {
   auto *font = Find<FontPicker>("Font1");
-  window.ShowFontName(QStringLiteral("Arial"));
+  Parts().formats.ShowFontName(QStringLiteral("Arial"));
   font->lineEdit()->setCursorPosition(3);  // a write would put the caret back to the start
-  window.ShowFontName(QStringLiteral("Arial"));
+  Parts().formats.ShowFontName(QStringLiteral("Arial"));
   EXPECT_EQ(font->lineEdit()->cursorPosition(), 3);
 }
 
@@ -162,11 +162,11 @@ TEST_F(FormattingBarTest, AColourBoxIsComparedAsAColourBeforeItIsWritten) {
   PaintCounter counter;
   back->installEventFilter(&counter);
   for (const char *white : {"#ffffff", "#FFFFFF"}) {
-    window.ShowBackColor(QString::fromLatin1(white));
+    Parts().formats.ShowBackColor(QString::fromLatin1(white));
     QCoreApplication::processEvents();
   }
   EXPECT_EQ(counter.paints, 0);
-  window.ShowBackColor(QStringLiteral("#fffffe"));
+  Parts().formats.ShowBackColor(QStringLiteral("#fffffe"));
   EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > 0; }));
 }
 

@@ -117,7 +117,7 @@ TEST_F(MenusTest, TheRecordMenuIsAPopupOfItsOwn) {
 }
 
 TEST_F(MenusTest, TheContextMenuPopsUpWhereItIsAskedFor) {
-  window.PopUpContextMenu(QPoint(60, 70));
+  Parts().requests.PopUpContextMenu(QPoint(60, 70));
   QMenu *menu = Find<QMenu>("mnuExt");
   EXPECT_TRUE(menu->isVisible());
   EXPECT_EQ(menu->pos(), QPoint(60, 70));

@@ -99,7 +99,7 @@ TEST_F(OpeningTest, WithFivePagesNewRefusesBeforeItMakesASlot) {
 }
 
 TEST_F(OpeningTest, TheTestIsForExactlyFive) {
-  for (int i = 1; i <= 6; ++i) window.AddTab(QStringLiteral("key%1").arg(i), 1);
+  for (int i = 1; i <= 6; ++i) Parts().tabs.Add(QStringLiteral("key%1").arg(i), 1);
   Choose("mnuNew");
   EXPECT_EQ(Tabs().count(), 7);
 }

@@ -63,7 +63,7 @@ TEST_F(PageWindowsTest, AClickOnATabBringsItsPageToTheFront) {
 TEST_F(PageWindowsTest, ATabOfAnEmptySlotMakesItsWindow) {
   NewPage();
   window.Context().pages.Grow();
-  window.AddTab(QStringLiteral("key2"), 1);
+  Parts().tabs.Add(QStringLiteral("key2"), 1);
   ClickTab(1);
   ASSERT_FALSE(window.Context().pages.Page(2).isNull());
   EXPECT_EQ(Area().Current(), window.Context().pages.Page(2));
@@ -123,12 +123,12 @@ TEST_F(PageWindowsTest, TheSourceEditorComesToTheFrontAndTheTabLeadsBack) {
 TEST_F(PageWindowsTest, AClosedPreviewBringsThePageCommandsInStepWithThePages) {
   frmMain &page = NewPage();
   page.ChangeMode(4);
-  window.SetPageCommandsEnabled(false);
+  Parts().commands.SetPageCommandsEnabled(false);
   window.Context().preview->close();
   EXPECT_TRUE(Find<QToolButton>("tbrGeneral_preview")->isEnabled());
   page.ChangeMode(4);
   page.close();
-  window.SetPageCommandsEnabled(true);
+  Parts().commands.SetPageCommandsEnabled(true);
   window.Context().preview->close();
   EXPECT_FALSE(Find<QToolButton>("tbrGeneral_preview")->isEnabled());
 }

@@ -150,7 +150,7 @@ TEST_F(RealPageFiles, TwoWindowsOnOneFileAreTwoPages) {
   Choose("mnuSave");
   EXPECT_TRUE(Bytes(PageFile).contains("<p>O2ne</p>"));
   EXPECT_TRUE(Holds(first, QStringLiteral("<p>One</p>")));
-  window.ActivateWindow(&first);
+  Parts().windows.Activate(&first);
   PutCaret(first, QStringLiteral("p"));
   Type(first, QStringLiteral("1"));
   Choose("mnuSave");
@@ -189,7 +189,7 @@ TEST_F(RealPageFiles, ASecondPreviewOfThePageShowsWhatWasTypedSince) {
   const QPointer<frmBrowser> preview = window.Context().preview;
   preview->close();
   EXPECT_FALSE(preview->isVisible());
-  window.ActivateWindow(&page);
+  Parts().windows.Activate(&page);
   PutCaret(page, QStringLiteral("p"));
   Type(page, QStringLiteral("x"));
   page.ChangeMode(4);

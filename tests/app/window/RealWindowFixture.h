@@ -89,9 +89,9 @@ class RealWindow : public ::testing::Test {
   void Choose(const char *item) { Find<QAction>(item)->trigger(); }
   QToolButton &Button(const char *name) { return *Find<QToolButton>(name); }
   PageTabs &Tabs();
-  FakeFileDialog &SharedDialog() {
-    return static_cast<FakeFileDialog &>(window.SharedFileDialog());
-  }
+  /// The main window as pages see it.
+  const MainWindow &Parts() { return window.Context().mainWindow; }
+  FakeFileDialog &SharedDialog() { return static_cast<FakeFileDialog &>(Parts().fileDialog); }
 
   QString Logic(const QString &name) const;
   void Write(const QString &name, const QByteArray &content) const;

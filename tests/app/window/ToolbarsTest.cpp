@@ -34,6 +34,19 @@ QStringList Buttons(const QToolBar &bar) {
   return buttons;
 }
 
+/// "key enabled pressed" of each button in order.
+QStringList States(const QToolBar &bar) {
+  QStringList states;
+  for (const QAction *action : bar.actions()) {
+    if (action->isSeparator()) continue;
+    states.append(QStringLiteral("%1 %2 %3")
+                      .arg(action->data().toString())
+                      .arg(action->isEnabled())
+                      .arg(action->isChecked()));
+  }
+  return states;
+}
+
 TEST_F(ToolbarsTest, TheGeneralToolbarHasTheseButtonsInThisOrder) {
   EXPECT_EQ(Buttons(*Find<QToolBar>("tbrGeneral")).join(u' ').toStdString(),
             "new/New open/Open save/Save saveas/Save As startman/Project Manager cut/Cut copy/Copy "
@@ -108,32 +121,29 @@ TEST_F(ToolbarsTest, WhatNeedsAPageIsAvailableWhileThereIsOne) {
 TEST_F(ToolbarsTest, AnEditButtonShowsWhatThePageSaysNotTheClick) {
   NewPage();
   QToolButton *bold = Button("tbrEdit_bold");
-  window.SetEditButton(QStringLiteral("bold"), true, false);
+  Parts().formats.ShowButton(EditingCommand::Bold, ButtonState::On);
   bold->click();
   EXPECT_FALSE(bold->isChecked());
-  window.SetEditButton(QStringLiteral("bold"), true, true);
+  Parts().formats.ShowButton(EditingCommand::Bold, ButtonState::Pressed);
   EXPECT_TRUE(bold->isChecked());
   bold->click();
   EXPECT_TRUE(bold->isChecked());
-  window.DisableEditButton(QStringLiteral("bold"));
+  Parts().formats.ShowButton(EditingCommand::Bold, ButtonState::Unsupported);
   EXPECT_FALSE(bold->isEnabled());
   EXPECT_TRUE(bold->isChecked());
 }
 
-TEST_F(ToolbarsTest, AnUnknownEditButtonIsAnError) {
-  try {
-    window.SetEditButton(QStringLiteral("Bold"), true, true);
-    FAIL() << "no error";
-  } catch (const RuntimeError &error) {
-    EXPECT_EQ(error.Number(), ErrorNumber::ElementNotFound);
-  }
+TEST_F(ToolbarsTest, ACommandWithoutAButtonChangesNoButton) {
+  const QStringList before = States(*Find<QToolBar>("tbrEdit"));
+  Parts().formats.ShowButton(EditingCommand::Undo, ButtonState::Pressed);
+  EXPECT_EQ(States(*Find<QToolBar>("tbrEdit")), before);
 }
 
 TEST_F(ToolbarsTest, TheSourceEditingItemStandsInNoMenu) {
   QAction *item = Item("mnuEditHTML");
-  window.SetSourceEditingEnabled(false);
+  Parts().commands.SetSourceEditingEnabled(false);
   EXPECT_FALSE(item->isEnabled());
-  window.SetSourceEditingEnabled(true);
+  Parts().commands.SetSourceEditingEnabled(true);
   EXPECT_TRUE(item->isEnabled());
   for (const QMenu *menu : window.findChildren<QMenu *>()) {
     EXPECT_FALSE(menu->actions().contains(item));
@@ -143,10 +153,10 @@ TEST_F(ToolbarsTest, TheSourceEditingItemStandsInNoMenu) {
 TEST_F(ToolbarsTest, TheStatusBarShowsTheStatusTextAgainAfterANotice) {
   auto *bar = Find<QStatusBar>("Sta");
   auto *text = Find<QLabel>("Sta_1");
-  window.SetStatusText(QStringLiteral("<TD>"));
+  Parts().status.ShowTag(QStringLiteral("<TD>"));
   EXPECT_EQ(text->text(), QStringLiteral("<TD>"));
   EXPECT_EQ(text->textFormat(), Qt::PlainText);
-  window.ReportInStatusBar(QStringLiteral("disk full"));
+  Parts().status.Report(QStringLiteral("disk full"));
   EXPECT_EQ(bar->currentMessage(), QStringLiteral("disk full"));
   EXPECT_FALSE(text->isVisible());
   bar->clearMessage();

@@ -49,9 +49,9 @@ class WindowFixture : public ::testing::Test {
   frmMain &NewPage();
   /// A file that can be opened.
   void WriteFile(const QString &path);
-  FakeFileDialog &SharedDialog() {
-    return static_cast<FakeFileDialog &>(window.SharedFileDialog());
-  }
+  /// The main window as pages see it.
+  const MainWindow &Parts() { return window.Context().mainWindow; }
+  FakeFileDialog &SharedDialog() { return static_cast<FakeFileDialog &>(Parts().fileDialog); }
   /// The editing component of a page.
   static FakeEditingComponent &Component(frmMain &page);
   /// The log's calls of the editing commands, "ExecCommand(5000)" and the like.

@@ -52,7 +52,7 @@ class Subject {
   Subject() { window_.Load(); }
 
   bool Open(const QString &file) {
-    window_.SharedFileDialog().FileName = ToLogic(file);
+    window_.Context().mainWindow.fileDialog.FileName = ToLogic(file);
     modWorkFlow::OpenPage(window_.Context(), ToLogic(file));
     if (!QTest::qWaitFor([this] { return Page().PendingAction.isEmpty(); }, Patience)) return false;
     Page().DHTML1().SetFocus();
@@ -82,7 +82,7 @@ class Subject {
     Page().Journal().Catch();
     calls_.KillBefore(step);
     Tell(QStringLiteral("saving"));
-    modWorkFlow::SavePage(window_.Context(), Page(), window_.SharedFileDialog(),
+    modWorkFlow::SavePage(window_.Context(), Page(), window_.Context().mainWindow.fileDialog,
                           window_.Context().pages.Record(1), false);
     Tell(QStringLiteral("done"));
   }
