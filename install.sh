@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 packages=(
-  g++ cmake ninja-build pkg-config
+  g++ cmake ninja-build pkg-config esbuild
   qt6-base-dev qt6-webengine-dev qt6-webchannel-dev qt6-svg-dev libqscintilla2-qt6-dev
   libgl-dev libicu-dev libsqlite3-dev
   # Every test is built with the program.

@@ -37,15 +37,16 @@ const char Clock[] = R"(
     const listen = document.addEventListener;
     document.addEventListener = (type, work, capture) =>
       listen.call(document, type, bridgeTimed(work), capture);
-    const { requestAnimationFrame, MutationObserver } = globalThis;
+    const { queueMicrotask, requestAnimationFrame, MutationObserver } = globalThis;
+    globalThis.queueMicrotask = (work) => queueMicrotask(bridgeTimed(work));
     globalThis.requestAnimationFrame = (work) => requestAnimationFrame(bridgeTimed(work));
     globalThis.MutationObserver = class extends MutationObserver {
       constructor(work) { super(bridgeTimed(work)); }
     };
   })";
 const char ClockPushes[] =
-    "{ const push = bridgeTimed(velor.push);"
-    "velor.push = () => { push(); bridgeClock.pushes++; }; } 1";
+    "{ const { pushState } = velor.host;"
+    "velor.host.pushState = (told) => { pushState(told); bridgeClock.pushes++; }; } 1";
 
 /// Puts the caret into the text in the middle of the page.
 const char PlaceCaret[] = R"(

@@ -25,14 +25,8 @@ QByteArray Resource(const QString &path) {
 
 QString BridgeScript() {
   InitialiseBridgeResources();
-  QByteArray source = Resource(QStringLiteral(":/qtwebchannel/qwebchannel.js"));
-  const QByteArray order = Resource(QStringLiteral(":/bridge/order.txt"));
-  for (const QByteArray &line : order.split('\n')) {
-    const QByteArray name = line.trimmed();
-    if (name.isEmpty()) continue;
-    source += "\n;\n" + Resource(QStringLiteral(":/bridge/") + QString::fromUtf8(name));
-  }
-  return QString::fromUtf8(source) + QStringLiteral("\n;\n");
+  return QString::fromUtf8(Resource(QStringLiteral(":/qtwebchannel/qwebchannel.js")) + "\n;\n" +
+                           Resource(QStringLiteral(":/bridge/bridge.js")) + "\n;\n");
 }
 
 QString ScriptValue(const QVariant &value) {

@@ -10,9 +10,9 @@ namespace velor {
 /// The world the bridge lives in, apart from the page's.
 inline constexpr QWebEngineScript::ScriptWorldId bridgeWorld = QWebEngineScript::ApplicationWorld;
 
-/// The channel's client and the scripts of engine/bridge, in their order, as one script. It is
-/// evaluated when a page is there: the engine's own injection at a document's creation is now and
-/// then left out after a page's process has ended.
+/// The channel's client and the bundle of engine/bridge as one script. It is evaluated when a page
+/// is there: the engine's own injection at a document's creation is now and then left out after a
+/// page's process has ended.
 QString BridgeScript();
 
 /// A value (text, truth, number, list) as an expression of the script language.

@@ -16,11 +16,11 @@
   // `answers()`: what the program shows of the selection, as far as the suite asks for it:
   // {indeterm, state} or {indeterm, value}; `means(value)`: the suite's value in the same spelling.
   const status = (number) => () => {
-    const shown = velor.status(number);
+    const shown = velor.state().commands[number];
     return { indeterm: shown === 11, state: shown === 7 };
   };
   const reading = (number) => () => {
-    const value = velor.value(number);
+    const value = velor.exec(number);
     return { indeterm: value === '', value };
   };
   const number = (command, more = {}) =>

@@ -56,6 +56,10 @@
     return { html, states: questions.length ? states : undefined };
   }
 
+  // The bridge listens at the document, behind the window.
+  const inputs = ['beforeinput', 'input'];
+  const keepFromBridge = (event) => event.stopImmediatePropagation();
+
   function byEngine([html, todo]) {
     document.designMode = 'off';
     clear('<div contenteditable></div>');
@@ -63,12 +67,9 @@
     host.innerHTML = html;
     host.focus();
     suite.select(host);
-    velor.working = true;  // the bridge does not meddle
-    try {
-      for (const [name, value] of todo) document.execCommand(name, false, value);
-    } finally {
-      velor.working = false;
-    }
+    inputs.forEach((type) => addEventListener(type, keepFromBridge, true));
+    for (const [name, value] of todo) document.execCommand(name, false, value);
+    inputs.forEach((type) => removeEventListener(type, keepFromBridge, true));
     const result = host.innerHTML;
     document.designMode = 'on';
     document.execCommand('styleWithCSS', false, 'false');

@@ -80,7 +80,7 @@
   };
 
   globalThis.velorPageCheck = (kind, number) => {
-    if (!velor.editable()) return false;
+    if (document.body?.tagName !== 'BODY') return false;
     const [places, edit] = edits[kind];
     const place = places()[number];
     return place !== undefined && edit(place) !== false;

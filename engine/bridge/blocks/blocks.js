@@ -1,157 +1,155 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The block formats: how a unit's is named and how a unit is given another one.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const dom = velor.dom;
+import * as lists from './lists.js';
+import * as dom from '../page/dom.js';
+import * as selection from '../page/selection.js';
+import { become, heldUnits, unitsIn } from '../page/units.js';
 
-  // In the order in which lists show them. `list` is the element around the items.
-  const formats = [
-    { name: 'Normal', element: 'P' },
-    { name: 'Formatted', element: 'PRE' },
-    { name: 'Address', element: 'ADDRESS' },
-    { name: 'Heading 1', element: 'H1' },
-    { name: 'Heading 2', element: 'H2' },
-    { name: 'Heading 3', element: 'H3' },
-    { name: 'Heading 4', element: 'H4' },
-    { name: 'Heading 5', element: 'H5' },
-    { name: 'Heading 6', element: 'H6' },
-    { name: 'Numbered List', element: 'LI', list: 'OL' },
-    { name: 'Bulleted List', element: 'LI', list: 'UL' },
-    { name: 'Directory List', element: 'LI', list: 'DIR' },
-    { name: 'Menu List', element: 'LI', list: 'MENU' },
-    { name: 'Definition Term', element: 'DT', list: 'DL' },
-    { name: 'Definition', element: 'DD', list: 'DL' },
-    { name: 'Paragraph', element: 'P' },
-  ];
-  const byName = (name) => formats.find((each) => each.name.toLowerCase() === name.toLowerCase());
+// In the order in which lists show them. `list` is the element around the items.
+export const formats = [
+  { name: 'Normal', element: 'P' },
+  { name: 'Formatted', element: 'PRE' },
+  { name: 'Address', element: 'ADDRESS' },
+  { name: 'Heading 1', element: 'H1' },
+  { name: 'Heading 2', element: 'H2' },
+  { name: 'Heading 3', element: 'H3' },
+  { name: 'Heading 4', element: 'H4' },
+  { name: 'Heading 5', element: 'H5' },
+  { name: 'Heading 6', element: 'H6' },
+  { name: 'Numbered List', element: 'LI', list: 'OL' },
+  { name: 'Bulleted List', element: 'LI', list: 'UL' },
+  { name: 'Directory List', element: 'LI', list: 'DIR' },
+  { name: 'Menu List', element: 'LI', list: 'MENU' },
+  { name: 'Definition Term', element: 'DT', list: 'DL' },
+  { name: 'Definition', element: 'DD', list: 'DL' },
+  { name: 'Paragraph', element: 'P' },
+];
+const byName = (name) => formats.find((each) => each.name.toLowerCase() === name.toLowerCase());
 
-  function nameAt(element) {
-    const { tagName, parentNode } = element;
-    if (/^(LISTING|PLAINTEXT|XMP)$/.test(tagName)) return 'Formatted';
-    if (tagName === 'P') return null;
-    const fits = (each) => each.element === tagName &&
-      (tagName !== 'LI' || each.list === parentNode.tagName);
-    return formats.find(fits)?.name;
+function nameAt(element) {
+  const { tagName, parentNode } = element;
+  if (/^(LISTING|PLAINTEXT|XMP)$/.test(tagName)) return 'Formatted';
+  if (tagName === 'P') return null;
+  const fits = (each) => each.element === tagName &&
+    (tagName !== 'LI' || each.list === parentNode.tagName);
+  return formats.find(fits)?.name;
+}
+
+export function read(unit) {
+  for (let at = unit.home; at && !dom.isCell(at); at = at.parentNode) {
+    const name = nameAt(at);
+    if (name) return name;
   }
+  return 'Normal';
+}
 
-  function read(unit) {
-    for (let at = unit.home; at && !dom.isCell(at); at = at.parentNode) {
-      const name = nameAt(at);
-      if (name) return name;
+// Line ends show in preformatted text only; elsewhere they are breaks. Kept places go along.
+export function breakLines(element, kept) {
+  const goesOn = (text) => {
+    if (text.length) return true;
+    let at = dom.nextSkippingChildren(text);
+    while (at && element.contains(at) && !(dom.isText(at) ? at.length : dom.hasContent(at))) {
+      at = dom.nextSkippingChildren(at);
     }
-    return 'Normal';
-  }
-
-  // Line ends show in preformatted text only; elsewhere they are breaks. Kept places go along.
-  function breakLines(element, kept) {
-    const goesOn = (text) => {
-      if (text.length) return true;
-      let at = dom.nextSkippingChildren(text);
-      while (at && element.contains(at) && !(dom.isText(at) ? at.length : dom.hasContent(at))) {
-        at = dom.nextSkippingChildren(at);
+    return Boolean(at) && element.contains(at);
+  };
+  const places = kept ? [kept.anchor, kept.focus] : [];
+  const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
+  const texts = [];
+  while (walker.nextNode()) texts.push(walker.currentNode);
+  for (let text of texts) {
+    for (let at = text.data.indexOf('\n'); at >= 0; at = text.data.indexOf('\n')) {
+      const rest = text.splitText(at);
+      rest.deleteData(0, 1);
+      for (const place of places) {
+        if (place.node !== text || place.offset <= at) continue;
+        Object.assign(place, { node: rest, offset: place.offset - at - 1 });
       }
-      return Boolean(at) && element.contains(at);
-    };
-    const places = kept ? [kept.anchor, kept.focus] : [];
-    const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
-    const texts = [];
-    while (walker.nextNode()) texts.push(walker.currentNode);
-    for (let text of texts) {
-      for (let at = text.data.indexOf('\n'); at >= 0; at = text.data.indexOf('\n')) {
-        const rest = text.splitText(at);
-        rest.deleteData(0, 1);
-        for (const place of places) {
-          if (place.node !== text || place.offset <= at) continue;
-          Object.assign(place, { node: rest, offset: place.offset - at - 1 });
-        }
-        if (goesOn(rest)) text.after(dom.create('BR'));
-        if (!text.length) text.remove();
-        text = rest;
-      }
+      if (goesOn(rest)) text.after(dom.create('BR'));
       if (!text.length) text.remove();
+      text = rest;
     }
+    if (!text.length) text.remove();
   }
+}
 
-  function becomeParagraph(unit, { name, element: tag }, kept) {
-    const { block, container } = unit;
-    if (block?.tagName === tag) return block;
-    if (name === 'Normal') {
-      const formed = block && (dom.isParagraph(block));
-      if (!formed) return null;
-    }
-    const inside = dom.ancestor(block || container, (node) => node.tagName === tag, dom.isCell);
-    if (inside && tag !== 'P') return null;
-    const preformatted = dom.isPreformatted(block);
-    const element = velor.units.become(unit, tag);
-    if (preformatted) breakLines(element, kept);
-    return element;
+function becomeParagraph(unit, { name, element: tag }, kept) {
+  const { block, container } = unit;
+  if (block?.tagName === tag) return block;
+  if (name === 'Normal') {
+    const formed = block && (dom.isParagraph(block));
+    if (!formed) return null;
   }
+  const inside = dom.ancestor(block || container, (node) => node.tagName === tag, dom.isCell);
+  if (inside && tag !== 'P') return null;
+  const preformatted = dom.isPreformatted(block);
+  const element = become(unit, tag);
+  if (preformatted) breakLines(element, kept);
+  return element;
+}
 
-  // Several paragraphs are the lines of one preformatted text, or of one address.
-  function joinLines(blocks, lineEnd) {
-    for (const [index, block] of blocks.entries()) {
-      const above = blocks[index - 1];
-      const follows = above && dom.neighbour(above, 'nextSibling') === block;
-      if (!follows || block.attributes.length) continue;
-      if (dom.isText(above.nextSibling)) above.nextSibling.remove();
-      if (!dom.isBreak(above.lastChild)) above.append(lineEnd());
-      above.append(...block.childNodes);
-      block.remove();
-      blocks[index] = above;
-    }
+// Several paragraphs are the lines of one preformatted text, or of one address.
+function joinLines(blocks, lineEnd) {
+  for (const [index, block] of blocks.entries()) {
+    const above = blocks[index - 1];
+    const follows = above && dom.neighbour(above, 'nextSibling') === block;
+    if (!follows || block.attributes.length) continue;
+    if (dom.isText(above.nextSibling)) above.nextSibling.remove();
+    if (!dom.isBreak(above.lastChild)) above.append(lineEnd());
+    above.append(...block.childNodes);
+    block.remove();
+    blocks[index] = above;
   }
-  const lineEnds = new Map([
-    ['PRE', () => document.createTextNode('\n')], ['ADDRESS', () => dom.create('BR')],
-  ]);
+}
+const lineEnds = new Map([
+  ['PRE', () => document.createTextNode('\n')], ['ADDRESS', () => dom.create('BR')],
+]);
 
-  // A format chosen by name takes the place of the one that is there: an item is no heading then.
-  function becomePlain({ block }, kept) {
-    if (!block || !dom.isParagraph(block) || /^(P|DT)$/.test(block.tagName)) return;
-    const preformatted = dom.isPreformatted(block);
-    const paragraph = dom.rename(block, 'P');
-    if (preformatted) breakLines(paragraph, kept);
-    const item = paragraph.parentNode;
-    const alone = /^(LI|DT|DD)$/.test(item.tagName) && !paragraph.attributes.length &&
-      !dom.neighbour(paragraph, 'previousSibling') && !dom.neighbour(paragraph, 'nextSibling');
-    if (alone) dom.unwrap(paragraph);
+// A format chosen by name takes the place of the one that is there: an item is no heading then.
+function becomePlain({ block }, kept) {
+  if (!block || !dom.isParagraph(block) || /^(P|DT)$/.test(block.tagName)) return;
+  const preformatted = dom.isPreformatted(block);
+  const paragraph = dom.rename(block, 'P');
+  if (preformatted) breakLines(paragraph, kept);
+  const item = paragraph.parentNode;
+  const alone = /^(LI|DT|DD)$/.test(item.tagName) && !paragraph.attributes.length &&
+    !dom.neighbour(paragraph, 'previousSibling') && !dom.neighbour(paragraph, 'nextSibling');
+  if (alone) dom.unwrap(paragraph);
+}
+
+// A table or a rule that is selected has no text to format.
+export const takesFormat = ({ object }) =>
+  !object || !dom.isAtom(object) && object.tagName !== 'TABLE';
+
+// Lists of the other kind are left one level at a time.
+function makeList({ name, list, element }, kept) {
+  for (let level = 0; level < 50; level++) {
+    selection.restore(kept);
+    const units = unitsIn(selection.range());
+    if (units.every((unit) => read(unit) === name)) return;
+    lists.make(heldUnits(units), list, element);
   }
+}
 
-  // A table or a rule that is selected has no text to format.
-  const takesFormat = ({ object }) =>
-    !object || !dom.isAtom(object) && object.tagName !== 'TABLE';
-
-  // Lists of the other kind are left one level at a time.
-  function makeList({ name, list, element }, kept) {
-    for (let level = 0; level < 50; level++) {
-      velor.selection.restore(kept);
-      const units = velor.units.unitsIn(velor.selection.range());
-      if (units.every((unit) => read(unit) === name)) return;
-      velor.lists.make(velor.units.held(units), list, element);
-    }
+export function apply(name, range) {
+  const format = byName(name);
+  if (!format) return;
+  const kept = selection.keep();
+  const units = lists.housed(unitsIn(range), kept).filter(takesFormat);
+  if (!units.length) return;
+  if (units.every((unit) => read(unit) === format.name)) return;
+  if (format.list) {
+    units.forEach((unit) => becomePlain(unit, kept));
+    makeList(format, kept);
+  } else if (format.element === 'P') {
+    lists.unlist();
+    unitsIn(selection.range())
+      .forEach((unit) => becomeParagraph(unit, format, kept));
+  } else {
+    const made = units.map((unit) => becomeParagraph(unit, format, kept)).filter(Boolean);
+    const lineEnd = lineEnds.get(format.element);
+    if (lineEnd) joinLines(made, lineEnd);
   }
+  selection.restore(kept);
+}
 
-  function apply(name, range) {
-    const format = byName(name);
-    if (!format) return;
-    const kept = velor.selection.keep();
-    const units = velor.lists.housed(velor.units.unitsIn(range), kept).filter(takesFormat);
-    if (!units.length) return;
-    if (units.every((unit) => read(unit) === format.name)) return;
-    if (format.list) {
-      units.forEach((unit) => becomePlain(unit, kept));
-      makeList(format, kept);
-    } else if (format.element === 'P') {
-      velor.lists.unlist();
-      velor.units.unitsIn(velor.selection.range())
-        .forEach((unit) => becomeParagraph(unit, format, kept));
-    } else {
-      const made = units.map((unit) => becomeParagraph(unit, format, kept)).filter(Boolean);
-      const lineEnd = lineEnds.get(format.element);
-      if (lineEnd) joinLines(made, lineEnd);
-    }
-    velor.selection.restore(kept);
-  }
-
-  velor.blocks = { formats, read, apply, takesFormat, breakLines };
-})();

@@ -1,146 +1,143 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Indenting: text by BLOCKQUOTE, items by nesting them in the item before.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const dom = velor.dom;
-  const { lists } = velor;
+import * as lists from './lists.js';
+import * as dom from '../page/dom.js';
+import { enclose, partsOf } from '../page/units.js';
+import { holdOpen } from '../page/lines.js';
 
-  const isQuote = (node) => dom.isElement(node) && node.tagName === 'BLOCKQUOTE';
-  const inList = (unit) => {
-    const item = lists.itemOf(unit);
-    return item?.tagName === 'LI' ? item : null;
+const isQuote = (node) => dom.isElement(node) && node.tagName === 'BLOCKQUOTE';
+const inList = (unit) => {
+  const item = lists.itemOf(unit);
+  return item?.tagName === 'LI' ? item : null;
+};
+
+const quoteAround = (node) =>
+  dom.ancestor(node, isQuote, (at) => dom.isCell(at) || at.tagName === 'LI');
+const quoteOf = (unit) => quoteAround(unit.home);
+// The quote that holds a list whose first item is meant: indenting such an item made it.
+const quoteOfList = ([item]) => {
+  const list = item.parentNode;
+  const first = !dom.neighbour(item, 'previousSibling');
+  return first && isQuote(list.parentNode) ? list.parentNode : null;
+};
+
+// Lines without a block of their own would run into one where two of them meet.
+const runsOn = (one, other) => {
+  const edges = [[...one.childNodes].reverse(), [...other.childNodes]]
+    .map((nodes) => nodes.find(dom.isShown));
+  return edges.every((node) => node && !dom.isBlock(node));
+};
+
+const enquote = (parts) => dom.wrap(parts, dom.create('BLOCKQUOTE'));
+
+// Joins a quote with those beside it.
+function join(quote) {
+  const before = dom.neighbour(quote, 'previousSibling');
+  if (isQuote(before) && !before.attributes.length && !runsOn(before, quote)) {
+    dom.absorb(before, quote);
+    quote = before;
+  }
+  const after = dom.neighbour(quote, 'nextSibling');
+  if (isQuote(after) && !after.attributes.length && !runsOn(quote, after)) {
+    dom.absorb(quote, after);
+  }
+}
+
+export function indent(units) {
+  const made = [];
+  const loose = units.filter((unit) => !inList(unit));
+  for (const group of lists.groupsOf(units.filter(inList))) {
+    if (!lists.nest(group)) made.push(enquote([group[0].parentNode]));
+  }
+  let run = [];
+  const flush = () => {
+    if (run.length) made.push(enquote(run));
+    run = [];
   };
-
-  const quoteAround = (node) =>
-    dom.ancestor(node, isQuote, (at) => dom.isCell(at) || at.tagName === 'LI');
-  const quoteOf = (unit) => quoteAround(unit.home);
-  // The quote that holds a list whose first item is meant: indenting such an item made it.
-  const quoteOfList = ([item]) => {
-    const list = item.parentNode;
-    const first = !dom.neighbour(item, 'previousSibling');
-    return first && isQuote(list.parentNode) ? list.parentNode : null;
-  };
-
-  // Lines without a block of their own would run into one where two of them meet.
-  const runsOn = (one, other) => {
-    const edges = [[...one.childNodes].reverse(), [...other.childNodes]]
-      .map((nodes) => nodes.find(dom.isShown));
-    return edges.every((node) => node && !dom.isBlock(node));
-  };
-
-  const enquote = (parts) => dom.wrap(parts, dom.create('BLOCKQUOTE'));
-
-  // Joins a quote with those beside it.
-  function join(quote) {
-    const before = dom.neighbour(quote, 'previousSibling');
-    if (isQuote(before) && !before.attributes.length && !runsOn(before, quote)) {
-      dom.absorb(before, quote);
-      quote = before;
+  for (const unit of loose) {
+    // A term is indented as a definition.
+    if (unit.block?.tagName === 'DT') {
+      flush();
+      dom.rename(unit.block, 'DD');
+      continue;
     }
-    const after = dom.neighbour(quote, 'nextSibling');
-    if (isQuote(after) && !after.attributes.length && !runsOn(quote, after)) {
-      dom.absorb(quote, after);
+    const parts = partsOf(unit);
+    if (!parts.length) {
+      flush();
+      enclose(unit, dom.create('BLOCKQUOTE'));
+      continue;
+    }
+    if (run.length && dom.neighbour(run.at(-1), 'nextSibling') !== parts[0]) flush();
+    const last = run.at(-1);
+    for (let at = last?.nextSibling; at && at !== parts[0]; at = at.nextSibling) run.push(at);
+    run.push(...parts);
+  }
+  flush();
+  made.filter((quote) => quote.isConnected).forEach(join);
+}
+
+// The child of an element that a node lies in.
+function childOf(element, node) {
+  while (node.parentNode !== element) node = node.parentNode;
+  return node;
+}
+
+// Cuts the parts out of their quote and puts them where it stands.
+function unquote(quote, parts) {
+  const first = childOf(quote, parts[0]);
+  const behind = dom.neighbour(childOf(quote, parts.at(-1)), 'nextSibling');
+  let middle = quote;
+  if (behind) dom.splitBefore(behind, middle);
+  if (dom.neighbour(first, 'previousSibling')) middle = dom.splitBefore(first, middle);
+  keepApart(middle);
+  dom.unwrap(middle);
+}
+// Lines without a block that leave a quote beside others become paragraphs.
+function keepApart(quote) {
+  const isLine = (node) => Boolean(node) && !dom.isBlock(node) && !dom.isBreak(node);
+  for (const [edge, outer, inner] of [['firstChild', 'previousSibling', 'nextSibling'],
+    ['lastChild', 'nextSibling', 'previousSibling']]) {
+    if (!isLine(dom.neighbour(quote, outer))) continue;
+    const line = [];
+    for (let at = quote[edge]; at && !dom.isBlock(at); at = at[inner]) line.push(at);
+    if (edge === 'lastChild') line.reverse();
+    if (line.some(dom.isShown)) dom.wrap(line, dom.create('P'));
+  }
+}
+
+export function outdent(units) {
+  for (const group of lists.groupsOf(units)) {
+    const quote = quoteOfList(group);
+    if (quote) unquote(quote, [group[0].parentNode]);
+    else lists.outdent(group);
+  }
+  for (const parts of quotedRuns(units.filter((each) => !lists.itemOf(each)))) {
+    // Asked for now: the run before may have cut the quote in two.
+    const quote = quoteAround(parts[0]);
+    if (quote === parts[0]) holdOpen(dom.rename(quote, 'P'));
+    else if (quote?.isConnected) unquote(quote, parts);
+  }
+}
+// What leaves its quote together: the units that are neighbours in it.
+function quotedRuns(units) {
+  const runs = [];
+  let last = null;
+  for (const unit of units) {
+    const own = partsOf(unit);
+    const parts = own.length ? own : [unit.container];
+    const quote = quoteAround(parts[0]);
+    if (!quote) continue;
+    const goesOn = last?.quote === quote && parts[0] !== quote && childOf(quote, parts[0]) ===
+      dom.neighbour(childOf(quote, last.parts.at(-1)), 'nextSibling');
+    if (goesOn) {
+      last.parts.push(...parts);
+    } else {
+      last = { quote, parts: [...parts] };
+      runs.push(last.parts);
     }
   }
+  return runs;
+}
 
-  function indent(units) {
-    const made = [];
-    const loose = units.filter((unit) => !inList(unit));
-    for (const group of lists.groupsOf(units.filter(inList))) {
-      if (!lists.nest(group)) made.push(enquote([group[0].parentNode]));
-    }
-    let run = [];
-    const flush = () => {
-      if (run.length) made.push(enquote(run));
-      run = [];
-    };
-    for (const unit of loose) {
-      // A term is indented as a definition.
-      if (unit.block?.tagName === 'DT') {
-        flush();
-        dom.rename(unit.block, 'DD');
-        continue;
-      }
-      const parts = velor.units.partsOf(unit);
-      if (!parts.length) {
-        flush();
-        velor.units.enclose(unit, dom.create('BLOCKQUOTE'));
-        continue;
-      }
-      if (run.length && dom.neighbour(run.at(-1), 'nextSibling') !== parts[0]) flush();
-      const last = run.at(-1);
-      for (let at = last?.nextSibling; at && at !== parts[0]; at = at.nextSibling) run.push(at);
-      run.push(...parts);
-    }
-    flush();
-    made.filter((quote) => quote.isConnected).forEach(join);
-  }
+export const canOutdent = (unit) => Boolean(lists.itemOf(unit) || quoteOf(unit));
 
-  // The child of an element that a node lies in.
-  function childOf(element, node) {
-    while (node.parentNode !== element) node = node.parentNode;
-    return node;
-  }
-
-  // Cuts the parts out of their quote and puts them where it stands.
-  function unquote(quote, parts) {
-    const first = childOf(quote, parts[0]);
-    const behind = dom.neighbour(childOf(quote, parts.at(-1)), 'nextSibling');
-    let middle = quote;
-    if (behind) dom.splitBefore(behind, middle);
-    if (dom.neighbour(first, 'previousSibling')) middle = dom.splitBefore(first, middle);
-    keepApart(middle);
-    dom.unwrap(middle);
-  }
-  // Lines without a block that leave a quote beside others become paragraphs.
-  function keepApart(quote) {
-    const isLine = (node) => Boolean(node) && !dom.isBlock(node) && !dom.isBreak(node);
-    for (const [edge, outer, inner] of [['firstChild', 'previousSibling', 'nextSibling'],
-      ['lastChild', 'nextSibling', 'previousSibling']]) {
-      if (!isLine(dom.neighbour(quote, outer))) continue;
-      const line = [];
-      for (let at = quote[edge]; at && !dom.isBlock(at); at = at[inner]) line.push(at);
-      if (edge === 'lastChild') line.reverse();
-      if (line.some(dom.isShown)) dom.wrap(line, dom.create('P'));
-    }
-  }
-
-  function outdent(units) {
-    for (const group of lists.groupsOf(units)) {
-      const quote = quoteOfList(group);
-      if (quote) unquote(quote, [group[0].parentNode]);
-      else lists.outdent(group);
-    }
-    for (const parts of quotedRuns(units.filter((each) => !lists.itemOf(each)))) {
-      // Asked for now: the run before may have cut the quote in two.
-      const quote = quoteAround(parts[0]);
-      if (quote === parts[0]) velor.deletion.holdOpen(dom.rename(quote, 'P'));
-      else if (quote?.isConnected) unquote(quote, parts);
-    }
-  }
-  // What leaves its quote together: the units that are neighbours in it.
-  function quotedRuns(units) {
-    const runs = [];
-    let last = null;
-    for (const unit of units) {
-      const own = velor.units.partsOf(unit);
-      const parts = own.length ? own : [unit.container];
-      const quote = quoteAround(parts[0]);
-      if (!quote) continue;
-      const goesOn = last?.quote === quote && parts[0] !== quote && childOf(quote, parts[0]) ===
-        dom.neighbour(childOf(quote, last.parts.at(-1)), 'nextSibling');
-      if (goesOn) {
-        last.parts.push(...parts);
-      } else {
-        last = { quote, parts: [...parts] };
-        runs.push(last.parts);
-      }
-    }
-    return runs;
-  }
-
-  const canOutdent = (unit) => Boolean(lists.itemOf(unit) || quoteOf(unit));
-
-  velor.indent = { indent, outdent, canOutdent };
-})();

@@ -1,148 +1,148 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is made ready before the engine types, and typing over selected text.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const dom = velor.dom;
+import * as deletion from './deletion.js';
+import { formats } from '../formats/formats.js';
+import * as pending from '../formats/pending.js';
+import * as objects from '../objects/objects.js';
+import * as blanks from '../page/blanks.js';
+import * as dom from '../page/dom.js';
+import * as selection from '../page/selection.js';
+import { enclose, gapAt, unitsIn } from '../page/units.js';
 
-  // Input that fills an empty paragraph, so that nothing need keep it open any more.
-  const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']);
+// Input that fills an empty paragraph, so that nothing need keep it open any more.
+const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']);
 
-  // Bare text becomes a paragraph before it is split; so does the first text of an empty page. What
-  // has a name is there once, with the paragraph in it.
-  function needsParagraph(unit, { inputType }) {
-    if (!unit || !dom.isBare(unit.container)) return false;
-    const empty = () => unit.container === document.body && dom.isHollow(document.body);
-    const begins = /^insert(Composition)?Text$/.test(inputType);
-    if (inputType !== 'insertParagraph' && (!begins || !empty())) return false;
-    return !unit.block || unit.block.id !== '';
-  }
-  function makeParagraph(unit) {
-    const kept = velor.selection.keep();
-    const paragraph = velor.units.enclose(unit, dom.create('P'));
-    if (!dom.hasContent(paragraph)) {
-      paragraph.append(dom.create('BR'));
-      velor.selection.setCaret(paragraph, 0);
-    } else {
-      velor.selection.restore(kept);
-    }
-  }
-
-  // Texts that the person typed in: a no-break space there is one of theirs.
-  const typedIn = new WeakSet();
-
-  // A paragraph at a place where no line is, as before a table.
-  function makeLine([node, offset]) {
-    const paragraph = dom.create('P');
+// Bare text becomes a paragraph before it is split; so does the first text of an empty page. What
+// has a name is there once, with the paragraph in it.
+function needsParagraph(unit, { inputType }) {
+  if (!unit || !dom.isBare(unit.container)) return false;
+  const empty = () => unit.container === document.body && dom.isHollow(document.body);
+  const begins = /^insert(Composition)?Text$/.test(inputType);
+  if (inputType !== 'insertParagraph' && (!begins || !empty())) return false;
+  return !unit.block || unit.block.id !== '';
+}
+function makeParagraph(unit) {
+  const kept = selection.keep();
+  const paragraph = enclose(unit, dom.create('P'));
+  if (!dom.hasContent(paragraph)) {
     paragraph.append(dom.create('BR'));
-    node.insertBefore(paragraph, node.childNodes[offset] ?? null);
-    velor.selection.setCaret(paragraph, 0);
+    selection.setCaret(paragraph, 0);
+  } else {
+    selection.restore(kept);
   }
+}
 
-  // The no-break space that is all a paragraph or cell holds, which keeps an empty one open.
-  const isHolder = (text) => /^[ \t\n]*\u00a0[ \t\n]*$/.test(text.data);
-  function holderOf(unit, { startContainer }) {
-    if (dom.isText(startContainer) && !isHolder(startContainer)) return null;
-    if (unit?.nodes.length !== 1) return null;
-    let [at] = unit.nodes;
-    while (!dom.isText(at)) {
-      if (dom.isAtom(at) || at.childNodes.length !== 1) return null;
-      at = at.firstChild;
-    }
-    return isHolder(at) && !typedIn.has(at) ? at : null;
+// Texts that the person typed in: a no-break space there is one of theirs.
+const typedIn = new WeakSet();
+
+// A paragraph at a place where no line is, as before a table.
+export function makeLine([node, offset]) {
+  const paragraph = dom.create('P');
+  paragraph.append(dom.create('BR'));
+  node.insertBefore(paragraph, node.childNodes[offset] ?? null);
+  selection.setCaret(paragraph, 0);
+}
+
+// The no-break space that is all a paragraph or cell holds, which keeps an empty one open.
+const isHolder = (text) => /^[ \t\n]*\u00a0[ \t\n]*$/.test(text.data);
+function holderOf(unit, { startContainer }) {
+  if (dom.isText(startContainer) && !isHolder(startContainer)) return null;
+  if (unit?.nodes.length !== 1) return null;
+  let [at] = unit.nodes;
+  while (!dom.isText(at)) {
+    if (dom.isAtom(at) || at.childNodes.length !== 1) return null;
+    at = at.firstChild;
   }
+  return isHolder(at) && !typedIn.has(at) ? at : null;
+}
 
-  // All of the page: what is typed over it begins a new one.
-  const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
-    startContainer === document.body && endContainer === document.body && startOffset === 0 &&
-    endOffset === document.body.childNodes.length;
+// All of the page: what is typed over it begins a new one.
+const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
+  startContainer === document.body && endContainer === document.body && startOffset === 0 &&
+  endOffset === document.body.childNodes.length;
 
-  // What takes the place of selected text is to look as that did.
-  function keepLooks(range) {
-    const [text] = isAll(range) ? [] : velor.selection.textsIn(range);
-    const looks = text ? Object.entries(velor.formats)
-      .map(([name, format]) => [name, format.read(text.parentNode)]) : [];
-    velor.deletion.remove(range);
-    const element = velor.selection.caretElement(velor.selection.range());
-    for (const [name, value] of looks) {
-      const { read, same } = velor.formats[name];
-      if (!same(read(element), value)) velor.pending.set(name, value);
-    }
+// What takes the place of selected text is to look as that did.
+function keepLooks(range) {
+  const [text] = isAll(range) ? [] : selection.textsIn(range);
+  const looks = text ? Object.entries(formats)
+    .map(([name, format]) => [name, format.read(text.parentNode)]) : [];
+  deletion.remove(range);
+  const element = selection.caretElement(selection.range());
+  for (const [name, value] of looks) {
+    const { read, same } = formats[name];
+    if (!same(read(element), value)) pending.set(name, value);
   }
+}
 
-  function prepare(event) {
-    const range = velor.selection.range();
-    if (!range) return;
-    if (!range.collapsed) {
-      const object = velor.selection.control(range);
-      const gaveWay = object && velor.objects.giveWay(object);
-      if (event.inputType === 'insertCompositionText' && !object) keepLooks(range);
-      else if (!gaveWay) velor.deletion.empty(range);
-    }
-    const caret = velor.selection.range();
-    const gap = velor.units.gapAt(caret);
-    if (gap) {
-      makeLine(gap);
-      return;
-    }
-    const [unit] = velor.units.unitsIn(caret);
-    if (needsParagraph(unit, event)) makeParagraph(unit);
-    const holder = fills.has(event.inputType) ? holderOf(unit, caret) : null;
-    if (holder) document.getSelection().setBaseAndExtent(holder, 0, holder, holder.length);
+export function prepare(event) {
+  const range = selection.range();
+  if (!range) return;
+  if (!range.collapsed) {
+    const object = selection.control(range);
+    const gaveWay = object && objects.giveWay(object);
+    if (event.inputType === 'insertCompositionText' && !object) keepLooks(range);
+    else if (!gaveWay) deletion.empty(range);
   }
-
-  const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
-
-  // Where typing over a part of a link ended: what follows belongs to it, while the engine would go
-  // on behind the link.
-  let goesOn = null;
-  const isThere = ({ collapsed, startContainer, startOffset }) =>
-    collapsed && goesOn?.node === startContainer && goesOn.offset === startOffset;
-
-  // The first selected text and the place in it; null where something else comes first.
-  function firstText(range) {
-    const [text] = velor.selection.textsIn(range);
-    if (!text || velor.selection.control(range) || isAll(range)) return null;
-    if (text === range.startContainer) return { text, offset: range.startOffset };
-    const [leaf] = velor.selection.leavesIn(range);
-    return leaf === text ? { text, offset: 0 } : null;
+  const caret = selection.range();
+  const gap = gapAt(caret);
+  if (gap) {
+    makeLine(gap);
+    return;
   }
+  const [unit] = unitsIn(caret);
+  if (needsParagraph(unit, event)) makeParagraph(unit);
+  const holder = fills.has(event.inputType) ? holderOf(unit, caret) : null;
+  if (holder) document.getSelection().setBaseAndExtent(holder, 0, holder, holder.length);
+}
 
-  function put(data, { text, offset }) {
-    const blank = data === ' ' && !velor.blanks.keepsBlanks(text);
-    text.insertData(offset, blank ? '\u00a0' : data);
-    if (blank) velor.blanks.hold(text, offset, true);
-    return offset + data.length;
+const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
+
+// Where typing over a part of a link ended: what follows belongs to it, while the engine would go
+// on behind the link.
+let goesOn = null;
+const isThere = ({ collapsed, startContainer, startOffset }) =>
+  collapsed && goesOn?.node === startContainer && goesOn.offset === startOffset;
+
+// The first selected text and the place in it; null where something else comes first.
+function firstText(range) {
+  const [text] = selection.textsIn(range);
+  if (!text || selection.control(range) || isAll(range)) return null;
+  if (text === range.startContainer) return { text, offset: range.startOffset };
+  const [leaf] = selection.leavesIn(range);
+  return leaf === text ? { text, offset: 0 } : null;
+}
+
+function put(data, { text, offset }) {
+  const blank = data === ' ' && !blanks.keepsBlanks(text);
+  text.insertData(offset, blank ? '\u00a0' : data);
+  if (blank) blanks.hold(text, offset, true);
+  return offset + data.length;
+}
+
+// Types over selected text where the first of it stood, so that what is typed has its looks. The
+// engine would write them anew in markup of its own. False where no text is selected.
+export function over(data) {
+  if (!data || !selection.range()) return false;
+  deletion.tighten(selection.range());
+  const range = selection.range();
+  const place = isThere(range) ? { text: goesOn.node, offset: goesOn.offset } : firstText(range);
+  if (!place) return false;
+  const { text } = place;
+  if (!range.collapsed) blanks.release();
+  blanks.watch();
+  const end = put(data, place);
+  if (!range.collapsed) {
+    range.setStart(text, end);
+    deletion.clear(range);
+    blanks.meet(text, end);
   }
+  selection.setCaret(text, end);
+  goesOn = linkAt(text) ? { node: text, offset: end } : null;
+  return true;
+}
 
-  // Types over selected text where the first of it stood, so that what is typed has its looks. The
-  // engine would write them anew in markup of its own. False where no text is selected.
-  function over(data) {
-    if (!data || !velor.selection.range()) return false;
-    velor.deletion.tighten(velor.selection.range());
-    const range = velor.selection.range();
-    const place = isThere(range) ? { text: goesOn.node, offset: goesOn.offset } : firstText(range);
-    if (!place) return false;
-    const { text } = place;
-    if (!range.collapsed) velor.blanks.release();
-    velor.blanks.watch();
-    const end = put(data, place);
-    if (!range.collapsed) {
-      range.setStart(text, end);
-      velor.deletion.clear(range);
-      velor.blanks.meet(text, end);
-    }
-    velor.selection.setCaret(text, end);
-    goesOn = linkAt(text) ? { node: text, offset: end } : null;
-    return true;
-  }
-
-  velor.typing = {
-    prepare, over, makeLine,
-    // Something was typed at the caret.
-    done() {
-      const { anchorNode } = velor.selection.points();
-      if (anchorNode) typedIn.add(anchorNode);
-    },
-  };
-})();
+// Something was typed at the caret.
+export function done() {
+  const { anchorNode } = selection.points();
+  if (anchorNode) typedIn.add(anchorNode);
+}

@@ -2,309 +2,305 @@
 // Markup of other programs (office documents, mail, browsers) on its way in: its structure, links,
 // pictures, tables and emphasis stay, its private markup and its looks do not. A new tree is built
 // of what is known; so nothing unknown gets through.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const dom = velor.dom;
+import * as dom from '../page/dom.js';
 
-  const set = (names) => new Set(names.split(' '));
-  const dropped = set(
-    'APPLET AUDIO BASE BUTTON CANVAS COL COLGROUP EMBED FRAME FRAMESET HEAD IFRAME INPUT LINK ' +
-    'META NOSCRIPT OBJECT SCRIPT SELECT STYLE svg TEMPLATE TEXTAREA TITLE VIDEO XML');
-  const structure = set(
-    'ADDRESS BLOCKQUOTE CAPTION DD DL DT H1 H2 H3 H4 H5 H6 HR LI OL P PRE TABLE TBODY TD TFOOT ' +
-    'TH THEAD TR UL');
-  const emphasis = set(
-    'ABBR B BIG CITE CODE DEL DFN EM I INS KBD MARK Q S SAMP SMALL STRIKE STRONG SUB SUP TT U VAR');
-  const attributes = {
-    A: ['href', 'name', 'title', 'target'],
-    IMG: ['src', 'alt', 'title', 'width', 'height', 'border'],
-    TABLE: ['border', 'cellpadding', 'cellspacing', 'width'], OL: ['start', 'type'], UL: ['type'],
-    TD: ['colspan', 'rowspan', 'align', 'valign'], TH: ['colspan', 'rowspan', 'align', 'valign'],
+const set = (names) => new Set(names.split(' '));
+const dropped = set(
+  'APPLET AUDIO BASE BUTTON CANVAS COL COLGROUP EMBED FRAME FRAMESET HEAD IFRAME INPUT LINK ' +
+  'META NOSCRIPT OBJECT SCRIPT SELECT STYLE svg TEMPLATE TEXTAREA TITLE VIDEO XML');
+const structure = set(
+  'ADDRESS BLOCKQUOTE CAPTION DD DL DT H1 H2 H3 H4 H5 H6 HR LI OL P PRE TABLE TBODY TD TFOOT ' +
+  'TH THEAD TR UL');
+const emphasis = set(
+  'ABBR B BIG CITE CODE DEL DFN EM I INS KBD MARK Q S SAMP SMALL STRIKE STRONG SUB SUP TT U VAR');
+const attributes = {
+  A: ['href', 'name', 'title', 'target'],
+  IMG: ['src', 'alt', 'title', 'width', 'height', 'border'],
+  TABLE: ['border', 'cellpadding', 'cellspacing', 'width'], OL: ['start', 'type'], UL: ['type'],
+  TD: ['colspan', 'rowspan', 'align', 'valign'], TH: ['colspan', 'rowspan', 'align', 'valign'],
+};
+const wholes = set('BR HR IMG');
+
+// What a style says that is emphasis: the tag for it.
+const styled = [
+  ['B', ({ fontWeight }) => /bold/.test(fontWeight) || Number(fontWeight) >= 600],
+  ['I', ({ fontStyle }) => /italic|oblique/.test(fontStyle)],
+  ['U', (style) => /underline/.test(style.textDecoration + style.textDecorationLine)],
+  ['S', (style) => /line-through/.test(style.textDecoration + style.textDecorationLine)],
+  ['SUP', ({ verticalAlign }) => verticalAlign === 'super'],
+  ['SUB', ({ verticalAlign }) => verticalAlign === 'sub'],
+];
+// A way to write "no emphasis" that some programs put around everything.
+const undone = ({ tagName, style }) =>
+  (/^(B|STRONG)$/.test(tagName) && /^(normal|400)$/.test(style.fontWeight)) ||
+  (/^(I|EM)$/.test(tagName) && style.fontStyle === 'normal');
+
+const isBlock = (node) => dom.isElement(node) && dom.isBlock(node);
+const hasText = (nodes) => nodes.some((node) => {
+  if (dom.isText(node)) return /[^ \n]/.test(node.data);
+  return wholes.has(node.tagName) || hasText([...node.childNodes]);
+});
+
+// Breaks at the ends of a line are gaps, or hold open what has text.
+function withoutGaps(nodes) {
+  const isGap = (node) => dom.isBreak(node) || dom.isText(node) && !hasText([node]);
+  const shown = nodes.filter((node) => !isGap(node));
+  const [first, last] = [nodes.indexOf(shown[0]), nodes.indexOf(shown.at(-1))];
+  const breaks = (part) => part.some(dom.isBreak);
+  return shown.length ? nodes.slice(breaks(nodes.slice(0, first)) ? first : 0,
+    breaks(nodes.slice(last)) ? last + 1 : nodes.length) : [];
+}
+// Runs of inline nodes between blocks become paragraphs; those that show nothing go.
+function paragraphs(nodes) {
+  const result = [];
+  let run = [];
+  const flush = () => {
+    const shown = withoutGaps(run);
+    if (hasText(shown)) result.push(put('P', shown));
+    run = [];
   };
-  const wholes = set('BR HR IMG');
+  for (const node of nodes) {
+    if (isBlock(node)) {
+      flush();
+      result.push(node);
+    } else {
+      run.push(node);
+    }
+  }
+  flush();
+  return result;
+}
+function put(tag, nodes) {
+  const element = dom.create(tag);
+  element.append(...nodes);
+  return element;
+}
 
-  // What a style says that is emphasis: the tag for it.
-  const styled = [
-    ['B', ({ fontWeight }) => /bold/.test(fontWeight) || Number(fontWeight) >= 600],
-    ['I', ({ fontStyle }) => /italic|oblique/.test(fontStyle)],
-    ['U', (style) => /underline/.test(style.textDecoration + style.textDecorationLine)],
-    ['S', (style) => /line-through/.test(style.textDecoration + style.textDecorationLine)],
-    ['SUP', ({ verticalAlign }) => verticalAlign === 'super'],
-    ['SUB', ({ verticalAlign }) => verticalAlign === 'sub'],
-  ];
-  // A way to write "no emphasis" that some programs put around everything.
-  const undone = ({ tagName, style }) =>
-    (/^(B|STRONG)$/.test(tagName) && /^(normal|400)$/.test(style.fontWeight)) ||
-    (/^(I|EM)$/.test(tagName) && style.fontStyle === 'normal');
+function safeAddress(name, value) {
+  const address = value.trim().replace(/[\u0000-\u0020]/g, '');
+  if (name === 'href') return !/^(javascript|vbscript|data):/i.test(address);
+  return name !== 'src' || !/^(javascript|cid|blob|about):|msohtml/i.test(address);
+}
+function copyAttributes(from, to) {
+  // Programs say "from left to right" of everything.
+  if (from.getAttribute('dir')?.toLowerCase() === 'rtl') to.setAttribute('dir', 'rtl');
+  for (const name of attributes[from.tagName] ?? []) {
+    const value = from.getAttribute(name);
+    const own = name === 'name' && value?.startsWith('_');
+    if (value !== null && !own && safeAddress(name, value)) to.setAttribute(name, value);
+  }
+  return to;
+}
 
-  const isBlock = (node) => dom.isElement(node) && dom.isBlock(node);
-  const hasText = (nodes) => nodes.some((node) => {
-    if (dom.isText(node)) return /[^ \n]/.test(node.data);
-    return wholes.has(node.tagName) || hasText([...node.childNodes]);
+// What an element around blocks says is said in each of their lines.
+function around(nodes, make) {
+  if (!hasText(nodes)) return nodes;
+  if (!nodes.some(isBlock)) return [make(nodes)];
+  return nodes.flatMap((node) => {
+    if (!isBlock(node) || wholes.has(node.tagName)) return around([node], make);
+    const lines = around([...node.childNodes], make);
+    node.append(...lines);
+    return [node];
   });
+}
 
-  // Breaks at the ends of a line are gaps, or hold open what has text.
-  function withoutGaps(nodes) {
-    const isGap = (node) => dom.isBreak(node) || dom.isText(node) && !hasText([node]);
-    const shown = nodes.filter((node) => !isGap(node));
-    const [first, last] = [nodes.indexOf(shown[0]), nodes.indexOf(shown.at(-1))];
-    const breaks = (part) => part.some(dom.isBreak);
-    return shown.length ? nodes.slice(breaks(nodes.slice(0, first)) ? first : 0,
-      breaks(nodes.slice(last)) ? last + 1 : nodes.length) : [];
-  }
-  // Runs of inline nodes between blocks become paragraphs; those that show nothing go.
-  function paragraphs(nodes) {
-    const result = [];
-    let run = [];
-    const flush = () => {
-      const shown = withoutGaps(run);
-      if (hasText(shown)) result.push(put('P', shown));
-      run = [];
-    };
-    for (const node of nodes) {
-      if (isBlock(node)) {
-        flush();
-        result.push(node);
-      } else {
-        run.push(node);
-      }
-    }
-    flush();
-    return result;
-  }
-  function put(tag, nodes) {
-    const element = dom.create(tag);
-    element.append(...nodes);
-    return element;
-  }
+function emphasised(nodes, element, inside) {
+  if (!nodes.length || !element.hasAttribute('style')) return nodes;
+  const names = styled.filter(([, says]) => says(element.style)).map(([tag]) => tag)
+    .filter((tag) => !inside.has(tag) && !(tag === 'U' && inside.has('A')));
+  return names.reduce((content, tag) => wrapped(content, tag), nodes);
+}
 
-  function safeAddress(name, value) {
-    const address = value.trim().replace(/[\u0000-\u0020]/g, '');
-    if (name === 'href') return !/^(javascript|vbscript|data):/i.test(address);
-    return name !== 'src' || !/^(javascript|cid|blob|about):|msohtml/i.test(address);
-  }
-  function copyAttributes(from, to) {
-    // Programs say "from left to right" of everything.
-    if (from.getAttribute('dir')?.toLowerCase() === 'rtl') to.setAttribute('dir', 'rtl');
-    for (const name of attributes[from.tagName] ?? []) {
-      const value = from.getAttribute(name);
-      const own = name === 'name' && value?.startsWith('_');
-      if (value !== null && !own && safeAddress(name, value)) to.setAttribute(name, value);
-    }
-    return to;
-  }
+// A heading's lines are bold as they are.
+function wrapped(nodes, tag) {
+  const bold = /^(B|STRONG)$/.test(tag);
+  return nodes.some(isBlock)
+    ? nodes.flatMap((node) =>
+      (bold && isBlock(node) && /^(H[1-6]|TH)$/.test(node.tagName)
+        ? [node] : around([node], (content) => put(tag, content))))
+    : around(nodes, (content) => put(tag, content));
+}
 
-  // What an element around blocks says is said in each of their lines.
-  function around(nodes, make) {
-    if (!hasText(nodes)) return nodes;
-    if (!nodes.some(isBlock)) return [make(nodes)];
-    return nodes.flatMap((node) => {
-      if (!isBlock(node) || wholes.has(node.tagName)) return around([node], make);
-      const lines = around([...node.childNodes], make);
-      node.append(...lines);
-      return [node];
+const same = { STRONG: 'B', EM: 'I', INS: 'U' };
+// What one node becomes: a list of nodes. `inside` are the tags around it.
+function clean(node, inside) {
+  if (dom.isText(node)) return [cleanText(node, inside)].filter(({ length }) => length);
+  if (!dom.isElement(node) || dropped.has(node.tagName)) return [];
+  const tag = node.tagName;
+  const kind = same[tag] ?? tag;
+  const plain = undone(node) || inside.has(kind) && emphasis.has(tag);
+  const around = new Set([...inside, ...(plain ? [] : [kind])]);
+  if (/^(H[1-6]|TH)$/.test(tag)) around.add('B');
+  if (wholes.has(tag)) return whole(node);
+  const all = [...node.childNodes].flatMap((child) => clean(child, around));
+  const content = emphasised(all, node, around);
+  if (tag === 'A') return link(node, content);
+  if (emphasis.has(tag) && !plain) return wrapped(content, tag);
+  if (structure.has(tag)) return structured(node, content);
+  return dom.isBlock(node) ? paragraphs(content) : content;
+}
+function cleanText({ data }, inside) {
+  if (inside.has('PRE')) return document.createTextNode(data);
+  return document.createTextNode(data.replace(/[ \t\r\n\u00a0]+/g, ' '));
+}
+function whole(node) {
+  const copy = copyAttributes(node, dom.create(node.tagName));
+  return node.tagName === 'IMG' && !copy.hasAttribute('src') ? [] : [copy];
+}
+function link(node, content) {
+  const copy = copyAttributes(node, dom.create('A'));
+  if (!copy.hasAttribute('href') && !copy.hasAttribute('name')) return content;
+  if (content.some(isBlock)) {
+    return around(content, (line) => {
+      const part = copy.cloneNode(false);
+      copy.removeAttribute('name');
+      part.append(...line);
+      return part;
     });
   }
+  copy.append(...content);
+  return [copy];
+}
 
-  function emphasised(nodes, element, inside) {
-    if (!nodes.length || !element.hasAttribute('style')) return nodes;
-    const names = styled.filter(([, says]) => says(element.style)).map(([tag]) => tag)
-      .filter((tag) => !inside.has(tag) && !(tag === 'U' && inside.has('A')));
-    return names.reduce((content, tag) => wrapped(content, tag), nodes);
+function structured(node, content) {
+  const tag = node.tagName;
+  if (/^(UL|OL|DL)$/.test(tag)) return list(node, content);
+  if (/^(TABLE|TBODY|THEAD|TFOOT|TR)$/.test(tag)) {
+    const parts = content.filter(isBlock);
+    const copy = copyAttributes(node, put(tag, parts));
+    return parts.length ? [copy] : [];
   }
+  const blocks = content.some(isBlock);
+  if (/^(LI|TD|TH|DD|CAPTION)$/.test(tag)) {
+    const inner = blocks ? single(content) : content;
+    const lines = tag === 'LI' && !blocks ? withoutGaps(inner) : inner;
+    return [copyAttributes(node, put(tag, trim(lines)))];
+  }
+  if (tag === 'BLOCKQUOTE') {
+    return blocks || hasText(content) ? [put(tag, paragraphs(content))] : [];
+  }
+  // A paragraph or heading around blocks is none; an empty one is a gap.
+  if (blocks) return paragraphs(content);
+  const line = tag === 'PRE' ? content : trim(withoutGaps(content));
+  return hasText(line) ? [copyAttributes(node, put(tag, line))] : [];
+}
+// A paragraph that is all of an item is its text.
+function single(content) {
+  const shown = content.filter((node) => !dom.isText(node) || hasText([node]));
+  if (shown[0]?.tagName === 'P' && shown.slice(1).every(dom.isList)) {
+    return [...shown[0].childNodes, ...shown.slice(1)];
+  }
+  return shown;
+}
+function trim(nodes) {
+  const result = [...nodes];
+  if (dom.isText(result[0])) result[0].data = result[0].data.replace(/^ /, '');
+  const last = result.at(-1);
+  if (dom.isText(last)) last.data = last.data.replace(/ $/, '');
+  return result.filter((node) => !dom.isText(node) || node.length);
+}
+// Items only; a list directly in a list belongs to the item before it.
+function list(node, content) {
+  const copy = copyAttributes(node, dom.create(node.tagName));
+  for (const each of content) {
+    if (/^(LI|DT|DD)$/.test(each.tagName ?? '')) copy.append(each);
+    else if (copy.lastChild && dom.isList(each)) copy.lastChild.append(each);
+    else if (hasText([each])) copy.append(put('LI', [each]));
+  }
+  return copy.firstChild ? [copy] : [];
+}
 
-  // A heading's lines are bold as they are.
-  function wrapped(nodes, tag) {
-    const bold = /^(B|STRONG)$/.test(tag);
-    return nodes.some(isBlock)
-      ? nodes.flatMap((node) =>
-        (bold && isBlock(node) && /^(H[1-6]|TH)$/.test(node.tagName)
-          ? [node] : around([node], (content) => put(tag, content))))
-      : around(nodes, (content) => put(tag, content));
+// Office documents write the items of lists as paragraphs, with the sign typed before them.
+function placeInList(paragraph) {
+  const style = paragraph.getAttribute('style') ?? '';
+  const [, name, level] = /mso-list:\s*(\S+)[^;"]*level(\d)/.exec(style) ?? [];
+  return { name, level: Number(level ?? 0) };
+}
+function listParagraphs(root) {
+  let lists = [];
+  let last = null;
+  let of = '';
+  for (const paragraph of [...root.querySelectorAll('p, h1, h2, h3, h4, h5, h6')]) {
+    const { name, level } = placeInList(paragraph);
+    if (!level) continue;
+    const sign = [...paragraph.querySelectorAll('span')]
+      .find((span) => /mso-list:\s*ignore/i.test(span.getAttribute('style') ?? ''));
+    const [, number] = /^\s*\(?([0-9a-z]{1,4})[.)]/i.exec(sign?.textContent ?? '') ?? [];
+    const tag = number ? 'OL' : 'UL';
+    sign?.remove();
+    if (!last || paragraph.previousElementSibling !== last || level === 1 && name !== of) lists = [];
+    of = name;
+    lists.length = Math.min(lists.length, level);
+    if (lists[level - 1]?.tagName !== tag) lists.length = Math.min(lists.length, level - 1);
+    const item = root.ownerDocument.createElement('LI');
+    item.append(...paragraph.childNodes);
+    while (lists.length < level) {
+      const made = root.ownerDocument.createElement(tag);
+      if (lists.length === level - 1 && number > 1) made.setAttribute('start', number);
+      if (lists.length) (lists.at(-1).lastChild ?? lists.at(-1)).append(made);
+      else paragraph.before(made);
+      lists.push(made);
+    }
+    lists.at(-1).append(item);
+    last = lists[0];
+    paragraph.remove();
   }
+}
 
-  const same = { STRONG: 'B', EM: 'I', INS: 'U' };
-  // What one node becomes: a list of nodes. `inside` are the tags around it.
-  function clean(node, inside) {
-    if (dom.isText(node)) return [cleanText(node, inside)].filter(({ length }) => length);
-    if (!dom.isElement(node) || dropped.has(node.tagName)) return [];
-    const tag = node.tagName;
-    const kind = same[tag] ?? tag;
-    const plain = undone(node) || inside.has(kind) && emphasis.has(tag);
-    const around = new Set([...inside, ...(plain ? [] : [kind])]);
-    if (/^(H[1-6]|TH)$/.test(tag)) around.add('B');
-    if (wholes.has(tag)) return whole(node);
-    const all = [...node.childNodes].flatMap((child) => clean(child, around));
-    const content = emphasised(all, node, around);
-    if (tag === 'A') return link(node, content);
-    if (emphasis.has(tag) && !plain) return wrapped(content, tag);
-    if (structure.has(tag)) return structured(node, content);
-    return dom.isBlock(node) ? paragraphs(content) : content;
+// What is between the marks that a program has set around its fragment, with the table or list
+// that it is a part of; all where there are none.
+function partOf(html) {
+  const { body } = new DOMParser().parseFromString(html, 'text/html');
+  const comments = document.createNodeIterator(body, NodeFilter.SHOW_COMMENT);
+  const marks = {};
+  for (let node = comments.nextNode(); node; node = comments.nextNode()) {
+    const [, name] = /^\s*(Start|End)Fragment\s*$/.exec(node.data) ?? [];
+    if (name) marks[name] ??= node;
   }
-  function cleanText({ data }, inside) {
-    if (inside.has('PRE')) return document.createTextNode(data);
-    return document.createTextNode(data.replace(/[ \t\r\n\u00a0]+/g, ' '));
+  if (!marks.Start || !marks.End) return body;
+  const range = document.createRange();
+  range.setStartAfter(marks.Start);
+  range.setEndBefore(marks.End);
+  let part = range.collapsed ? body : range.cloneContents();
+  let at = range.commonAncestorContainer;
+  for (; /^(TABLE|TBODY|THEAD|TFOOT|TR|OL|UL|PRE)$/.test(at.tagName); at = at.parentNode) {
+    const shell = at.cloneNode(false);
+    shell.append(part);
+    part = shell;
   }
-  function whole(node) {
-    const copy = copyAttributes(node, dom.create(node.tagName));
-    return node.tagName === 'IMG' && !copy.hasAttribute('src') ? [] : [copy];
-  }
-  function link(node, content) {
-    const copy = copyAttributes(node, dom.create('A'));
-    if (!copy.hasAttribute('href') && !copy.hasAttribute('name')) return content;
-    if (content.some(isBlock)) {
-      return around(content, (line) => {
-        const part = copy.cloneNode(false);
-        copy.removeAttribute('name');
-        part.append(...line);
-        return part;
-      });
-    }
-    copy.append(...content);
-    return [copy];
-  }
+  const holder = body.ownerDocument.createElement('DIV');
+  holder.append(part);
+  return holder;
+}
 
-  function structured(node, content) {
-    const tag = node.tagName;
-    if (/^(UL|OL|DL)$/.test(tag)) return list(node, content);
-    if (/^(TABLE|TBODY|THEAD|TFOOT|TR)$/.test(tag)) {
-      const parts = content.filter(isBlock);
-      const copy = copyAttributes(node, put(tag, parts));
-      return parts.length ? [copy] : [];
+// Source code comes as divisions with kept blanks, a line each.
+function preformat(root) {
+  const isCode = ({ style }) => /^pre/.test(style.whiteSpace) &&
+    /mono|courier|consolas|menlo/i.test(style.fontFamily);
+  for (const code of [...root.querySelectorAll('div[style*="white-space"]')].filter(isCode)) {
+    const pre = root.ownerDocument.createElement('PRE');
+    code.before(pre);
+    for (const node of [...code.childNodes]) {
+      const line = node.tagName === 'DIV';
+      pre.append(...(line ? node.childNodes : [node]), ...(line ? ['\n'] : []));
     }
-    const blocks = content.some(isBlock);
-    if (/^(LI|TD|TH|DD|CAPTION)$/.test(tag)) {
-      const inner = blocks ? single(content) : content;
-      const lines = tag === 'LI' && !blocks ? withoutGaps(inner) : inner;
-      return [copyAttributes(node, put(tag, trim(lines)))];
-    }
-    if (tag === 'BLOCKQUOTE') {
-      return blocks || hasText(content) ? [put(tag, paragraphs(content))] : [];
-    }
-    // A paragraph or heading around blocks is none; an empty one is a gap.
-    if (blocks) return paragraphs(content);
-    const line = tag === 'PRE' ? content : trim(withoutGaps(content));
-    return hasText(line) ? [copyAttributes(node, put(tag, line))] : [];
+    code.remove();
   }
-  // A paragraph that is all of an item is its text.
-  function single(content) {
-    const shown = content.filter((node) => !dom.isText(node) || hasText([node]));
-    if (shown[0]?.tagName === 'P' && shown.slice(1).every(dom.isList)) {
-      return [...shown[0].childNodes, ...shown.slice(1)];
-    }
-    return shown;
+  for (const gap of root.querySelectorAll('pre br')) gap.replaceWith('\n');
+  for (const pre of root.querySelectorAll('pre')) {
+    const last = pre.lastChild;
+    if (dom.isText(last)) last.data = last.data.replace(/\n$/, '');
   }
-  function trim(nodes) {
-    const result = [...nodes];
-    if (dom.isText(result[0])) result[0].data = result[0].data.replace(/^ /, '');
-    const last = result.at(-1);
-    if (dom.isText(last)) last.data = last.data.replace(/ $/, '');
-    return result.filter((node) => !dom.isText(node) || node.length);
-  }
-  // Items only; a list directly in a list belongs to the item before it.
-  function list(node, content) {
-    const copy = copyAttributes(node, dom.create(node.tagName));
-    for (const each of content) {
-      if (/^(LI|DT|DD)$/.test(each.tagName ?? '')) copy.append(each);
-      else if (copy.lastChild && dom.isList(each)) copy.lastChild.append(each);
-      else if (hasText([each])) copy.append(put('LI', [each]));
-    }
-    return copy.firstChild ? [copy] : [];
-  }
+}
 
-  // Office documents write the items of lists as paragraphs, with the sign typed before them.
-  function placeInList(paragraph) {
-    const style = paragraph.getAttribute('style') ?? '';
-    const [, name, level] = /mso-list:\s*(\S+)[^;"]*level(\d)/.exec(style) ?? [];
-    return { name, level: Number(level ?? 0) };
-  }
-  function listParagraphs(root) {
-    let lists = [];
-    let last = null;
-    let of = '';
-    for (const paragraph of [...root.querySelectorAll('p, h1, h2, h3, h4, h5, h6')]) {
-      const { name, level } = placeInList(paragraph);
-      if (!level) continue;
-      const sign = [...paragraph.querySelectorAll('span')]
-        .find((span) => /mso-list:\s*ignore/i.test(span.getAttribute('style') ?? ''));
-      const [, number] = /^\s*\(?([0-9a-z]{1,4})[.)]/i.exec(sign?.textContent ?? '') ?? [];
-      const tag = number ? 'OL' : 'UL';
-      sign?.remove();
-      if (!last || paragraph.previousElementSibling !== last || level === 1 && name !== of) lists = [];
-      of = name;
-      lists.length = Math.min(lists.length, level);
-      if (lists[level - 1]?.tagName !== tag) lists.length = Math.min(lists.length, level - 1);
-      const item = root.ownerDocument.createElement('LI');
-      item.append(...paragraph.childNodes);
-      while (lists.length < level) {
-        const made = root.ownerDocument.createElement(tag);
-        if (lists.length === level - 1 && number > 1) made.setAttribute('start', number);
-        if (lists.length) (lists.at(-1).lastChild ?? lists.at(-1)).append(made);
-        else paragraph.before(made);
-        lists.push(made);
-      }
-      lists.at(-1).append(item);
-      last = lists[0];
-      paragraph.remove();
-    }
-  }
-
-  // What is between the marks that a program has set around its fragment, with the table or list
-  // that it is a part of; all where there are none.
-  function partOf(html) {
-    const { body } = new DOMParser().parseFromString(html, 'text/html');
-    const comments = document.createNodeIterator(body, NodeFilter.SHOW_COMMENT);
-    const marks = {};
-    for (let node = comments.nextNode(); node; node = comments.nextNode()) {
-      const [, name] = /^\s*(Start|End)Fragment\s*$/.exec(node.data) ?? [];
-      if (name) marks[name] ??= node;
-    }
-    if (!marks.Start || !marks.End) return body;
-    const range = document.createRange();
-    range.setStartAfter(marks.Start);
-    range.setEndBefore(marks.End);
-    let part = range.collapsed ? body : range.cloneContents();
-    let at = range.commonAncestorContainer;
-    for (; /^(TABLE|TBODY|THEAD|TFOOT|TR|OL|UL|PRE)$/.test(at.tagName); at = at.parentNode) {
-      const shell = at.cloneNode(false);
-      shell.append(part);
-      part = shell;
-    }
-    const holder = body.ownerDocument.createElement('DIV');
-    holder.append(part);
-    return holder;
-  }
-
-  // Source code comes as divisions with kept blanks, a line each.
-  function preformat(root) {
-    const isCode = ({ style }) => /^pre/.test(style.whiteSpace) &&
-      /mono|courier|consolas|menlo/i.test(style.fontFamily);
-    for (const code of [...root.querySelectorAll('div[style*="white-space"]')].filter(isCode)) {
-      const pre = root.ownerDocument.createElement('PRE');
-      code.before(pre);
-      for (const node of [...code.childNodes]) {
-        const line = node.tagName === 'DIV';
-        pre.append(...(line ? node.childNodes : [node]), ...(line ? ['\n'] : []));
-      }
-      code.remove();
-    }
-    for (const gap of root.querySelectorAll('pre br')) gap.replaceWith('\n');
-    for (const pre of root.querySelectorAll('pre')) {
-      const last = pre.lastChild;
-      if (dom.isText(last)) last.data = last.data.replace(/\n$/, '');
-    }
-  }
-
-  // A fragment of what the markup says, ready to be put in.
-  velor.cleaned = (html) => {
-    const body = partOf(html);
-    preformat(body);
-    listParagraphs(body);
-    const content = [...body.childNodes].flatMap((node) => clean(node, new Set()));
-    const fragment = document.createDocumentFragment();
-    fragment.append(...(content.some(isBlock) ? paragraphs(content) : content));
-    fragment.normalize();
-    return fragment;
-  };
-})();
+// A fragment of what the markup says, ready to be put in.
+export const cleaned = (html) => {
+  const body = partOf(html);
+  preformat(body);
+  listParagraphs(body);
+  const content = [...body.childNodes].flatMap((node) => clean(node, new Set()));
+  const fragment = document.createDocumentFragment();
+  fragment.append(...(content.some(isBlock) ? paragraphs(content) : content));
+  fragment.normalize();
+  return fragment;
+};

@@ -1,199 +1,200 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Markup put in at the selection exactly as it stands: scripts, handlers, comments and objects stay
 // in it (nothing of it runs while a page is edited).
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const dom = velor.dom;
+import * as deletion from '../blocks/deletion.js';
+import * as objects from '../objects/objects.js';
+import * as blanks from '../page/blanks.js';
+import * as dom from '../page/dom.js';
+import * as history from '../page/history.js';
+import { prune } from '../page/lines.js';
+import * as selection from '../page/selection.js';
 
-  function parse(html) {
-    const template = document.createElement('template');
-    template.innerHTML = html;
-    return document.importNode(template.content, true);
+function parse(html) {
+  const template = document.createElement('template');
+  template.innerHTML = html;
+  return document.importNode(template.content, true);
+}
+
+// The element that must be cut for blocks to come in at a node; null where none needs to.
+function cutAt(node, items) {
+  let top = null;
+  for (let at = node; at && !dom.isCell(at); at = at.parentNode) {
+    if (items && at.tagName === 'LI') return at;
+    if (dom.isInline(at) || dom.isParagraph(at)) top = at;
+    else if (!dom.isText(at) && !items) break;
   }
+  return top;
+}
 
-  // The element that must be cut for blocks to come in at a node; null where none needs to.
-  function cutAt(node, items) {
-    let top = null;
-    for (let at = node; at && !dom.isCell(at); at = at.parentNode) {
-      if (items && at.tagName === 'LI') return at;
-      if (dom.isInline(at) || dom.isParagraph(at)) top = at;
-      else if (!dom.isText(at) && !items) break;
-    }
-    return top;
+// Cuts everything up to `top` at the caret. Returns the two halves.
+function cut(node, offset, top) {
+  if (dom.isText(node)) {
+    node = offset === 0 ? node : node.splitText(offset);
+  } else {
+    const mark = document.createTextNode('');
+    node.insertBefore(mark, node.childNodes[offset] ?? null);
+    node = mark;
   }
+  return [top, dom.splitBefore(node, top)];
+}
 
-  // Cuts everything up to `top` at the caret. Returns the two halves.
-  function cut(node, offset, top) {
-    if (dom.isText(node)) {
-      node = offset === 0 ? node : node.splitText(offset);
-    } else {
-      const mark = document.createTextNode('');
-      node.insertBefore(mark, node.childNodes[offset] ?? null);
-      node = mark;
-    }
-    return [top, dom.splitBefore(node, top)];
+function dropIfHollow(half) {
+  if (dom.isHollow(half) && ![...half.querySelectorAll('*')].some(dom.isAtom)) {
+    half.remove();
+    return true;
   }
+  return false;
+}
 
-  function dropIfHollow(half) {
-    if (dom.isHollow(half) && ![...half.querySelectorAll('*')].some(dom.isAtom)) {
-      half.remove();
-      return true;
-    }
-    return false;
+// What a list takes: items, and those of another list; anything else goes into an item.
+function makeItems(fragment, list) {
+  const definitions = list.tagName === 'DL';
+  const tag = definitions ? 'DD' : 'LI';
+  const fits = (node) => (definitions ? /^(DT|DD)$/.test(node.tagName) : node.tagName === 'LI');
+  const isSame = (node) => (definitions ? node.tagName === 'DL' : dom.isList(node));
+  for (const node of [...fragment.childNodes]) {
+    if (isSame(node)) dom.unwrap(node);
+    else if (/^(P|LI)$/.test(node.tagName) && !fits(node)) dom.rename(node, tag);
+    else if (dom.isShown(node) && !fits(node)) dom.wrap([node], dom.create(tag));
   }
+}
+const isListOf = (node) => dom.isList(node) || node.tagName === 'DL';
 
-  // What a list takes: items, and those of another list; anything else goes into an item.
-  function makeItems(fragment, list) {
-    const definitions = list.tagName === 'DL';
-    const tag = definitions ? 'DD' : 'LI';
-    const fits = (node) => (definitions ? /^(DT|DD)$/.test(node.tagName) : node.tagName === 'LI');
-    const isSame = (node) => (definitions ? node.tagName === 'DL' : dom.isList(node));
-    for (const node of [...fragment.childNodes]) {
-      if (isSame(node)) dom.unwrap(node);
-      else if (/^(P|LI)$/.test(node.tagName) && !fits(node)) dom.rename(node, tag);
-      else if (dom.isShown(node) && !fits(node)) dom.wrap([node], dom.create(tag));
-    }
-  }
-  const isListOf = (node) => dom.isList(node) || node.tagName === 'DL';
-
-  function putBlocks(fragment, node, offset) {
-    const tops = [...fragment.children];
-    const items = tops.length > 0 && tops.every(({ tagName }) => tagName === 'LI');
-    const top = cutAt(node, items);
-    if (top?.tagName === 'DT') makeItems(fragment, top.parentNode);
-    const last = fragment.lastChild;
-    if (!top) {
-      const holder = holderAt(node);
-      putHere(fragment, node, offset);
-      holder?.remove();
-      afterBlocks(last, null);
-      return;
-    }
-    const [before, after] = cut(node, offset, top);
-    before.after(fragment);
-    velor.deletion.prune(dom.lastLeaf(before));
-    velor.deletion.prune(dom.firstLeaf(after));
-    dropIfHollow(before);
-    afterBlocks(last, dropIfHollow(after) ? null : after);
-  }
-
-  // The caret after inserted blocks: at the start of what follows, else at the end of the last.
-  function afterBlocks(last, following) {
-    const text = following && dom.firstLeaf(following);
-    if (text) {
-      const range = document.createRange();
-      if (dom.isText(text)) range.setStart(text, 0);
-      else range.setStartBefore(text);
-      velor.selection.setCaret(range.startContainer, range.startOffset);
-      return;
-    }
-    let shown = last;
-    while (shown.previousSibling && !dom.isShown(shown)) shown = shown.previousSibling;
-    const leaf = dom.isElement(shown) && shown.tagName !== 'TABLE' ? dom.lastLeaf(shown) : shown;
-    if (dom.isText(leaf)) velor.selection.setCaret(leaf, leaf.length);
-    else afterNode(leaf);
-  }
-
-  function afterNode(node) {
-    const index = [...node.parentNode.childNodes].indexOf(node);
-    velor.selection.setCaret(node.parentNode, index + 1);
-  }
-
-  function putHere(fragment, node, offset) {
-    if (dom.isText(node)) {
-      const second = offset === 0 ? node : node.splitText(offset);
-      if (offset === node.length && second === node) node.after(fragment);
-      else second.before(fragment);
-      if (!second.length) second.remove();
-    } else {
-      node.insertBefore(fragment, node.childNodes[offset] ?? null);
-    }
-  }
-
-  // The break that holds an empty block open.
-  function holderAt(node) {
-    const block = dom.blockOf(node);
-    return dom.isHollow(block) ? block.querySelector('br') : null;
-  }
-
-  // Elements that would stand in their like.
-  const likes = { STRONG: 'B', EM: 'I', INS: 'U', STRIKE: 'S', DEL: 'S' };
-  const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
-  function dropLikes(fragment, node) {
-    const around = new Set();
-    for (let at = node; !dom.isBlock(at); at = at.parentNode) around.add(kindOf(at));
-    for (const element of fragment.querySelectorAll('b, strong, i, em, u, ins, s, strike, del, code, sub, sup')) {
-      if (!element.attributes.length && around.has(kindOf(element))) dom.unwrap(element);
-    }
-  }
-  const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
-
-  function putInline(fragment, node, offset) {
+function putBlocks(fragment, node, offset) {
+  const tops = [...fragment.children];
+  const items = tops.length > 0 && tops.every(({ tagName }) => tagName === 'LI');
+  const top = cutAt(node, items);
+  if (top?.tagName === 'DT') makeItems(fragment, top.parentNode);
+  const last = fragment.lastChild;
+  if (!top) {
     const holder = holderAt(node);
-    dropLikes(fragment, node);
-    const last = fragment.lastChild;
-    const link = fragment.querySelector('a[href]') && linkAt(node);
-    if (link) {
-      // No link stands in another one.
-      const [before, after] = cut(node, offset, link);
-      before.after(fragment);
-      velor.deletion.prune(dom.lastLeaf(before));
-      velor.deletion.prune(dom.firstLeaf(after));
-    } else {
-      putHere(fragment, node, offset);
-    }
+    putHere(fragment, node, offset);
     holder?.remove();
-    if (dom.isText(last)) velor.selection.setCaret(last, last.length);
-    else afterNode(last);
+    afterBlocks(last, null);
+    return;
   }
+  const [before, after] = cut(node, offset, top);
+  before.after(fragment);
+  prune(dom.lastLeaf(before));
+  prune(dom.firstLeaf(after));
+  dropIfHollow(before);
+  afterBlocks(last, dropIfHollow(after) ? null : after);
+}
 
-  const holdsBlock = (fragment) => [...fragment.querySelectorAll('*')].some(dom.isBlock);
-
-  // An id that the page has already stays where it is.
-  function dropTakenIds(fragment) {
-    for (const element of fragment.querySelectorAll('[id]')) {
-      if (document.getElementById(element.id)) element.removeAttribute('id');
-    }
+// The caret after inserted blocks: at the start of what follows, else at the end of the last.
+function afterBlocks(last, following) {
+  const text = following && dom.firstLeaf(following);
+  if (text) {
+    const range = document.createRange();
+    if (dom.isText(text)) range.setStart(text, 0);
+    else range.setStartBefore(text);
+    selection.setCaret(range.startContainer, range.startOffset);
+    return;
   }
+  let shown = last;
+  while (shown.previousSibling && !dom.isShown(shown)) shown = shown.previousSibling;
+  const leaf = dom.isElement(shown) && shown.tagName !== 'TABLE' ? dom.lastLeaf(shown) : shown;
+  if (dom.isText(leaf)) selection.setCaret(leaf, leaf.length);
+  else afterNode(leaf);
+}
 
-  // Removes what the fragment replaces; only then is it known which ids are free.
-  function makeRoom(range, fragment) {
-    const { deletion, objects, selection } = velor;
-    const object = selection.control(range);
-    const gone = object && fragment.firstChild && objects.giveWay(object);
-    if (!gone && !range.collapsed && !fragment.firstChild) deletion.remove(range);
-    else if (!gone && !range.collapsed) {
-      const { startContainer, startOffset } = deletion.clear(range);
-      selection.setCaret(startContainer, startOffset);
-    }
-    dropTakenIds(fragment);
+function afterNode(node) {
+  const index = [...node.parentNode.childNodes].indexOf(node);
+  selection.setCaret(node.parentNode, index + 1);
+}
+
+function putHere(fragment, node, offset) {
+  if (dom.isText(node)) {
+    const second = offset === 0 ? node : node.splitText(offset);
+    if (offset === node.length && second === node) node.after(fragment);
+    else second.before(fragment);
+    if (!second.length) second.remove();
+  } else {
+    node.insertBefore(fragment, node.childNodes[offset] ?? null);
   }
+}
 
-  // Puts a fragment in the place of the selection.
-  velor.put = (fragment) => {
-    velor.blanks.release();
-    makeRoom(velor.selection.range(), fragment);
-    if (!fragment.firstChild) return;
-    velor.blanks.watch();
-    putAt(fragment, velor.selection.range());
-    velor.blanks.watched({ inputType: 'insertText' });
-  };
+// The break that holds an empty block open.
+function holderAt(node) {
+  const block = dom.blockOf(node);
+  return dom.isHollow(block) ? block.querySelector('br') : null;
+}
 
-  function putAt(fragment, { startContainer, startOffset }) {
-    if (dom.rawAt(startContainer)) {
-      const parts = holdsBlock(fragment) ? [...fragment.childNodes] : [fragment];
-      fragment.replaceChildren(parts.map((part) => part.textContent).join('\n'));
-    }
-    const home = dom.isText(startContainer) ? startContainer.parentNode : startContainer;
-    if (isListOf(home)) makeItems(fragment, home);
-    if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
-    else putInline(fragment, startContainer, startOffset);
+// Elements that would stand in their like.
+const likes = { STRONG: 'B', EM: 'I', INS: 'U', STRIKE: 'S', DEL: 'S' };
+const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
+function dropLikes(fragment, node) {
+  const around = new Set();
+  for (let at = node; !dom.isBlock(at); at = at.parentNode) around.add(kindOf(at));
+  for (const element of fragment.querySelectorAll('b, strong, i, em, u, ins, s, strike, del, code, sub, sup')) {
+    if (!element.attributes.length && around.has(kindOf(element))) dom.unwrap(element);
   }
+}
+const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
 
-  velor.pasteHTML = (html) => velor.history.step('pasteHTML', () => {
-    if (!velor.editable()) return;
-    velor.selection.ensure();
-    if (velor.selection.range()) velor.put(parse(html));
-  });
-})();
+function putInline(fragment, node, offset) {
+  const holder = holderAt(node);
+  dropLikes(fragment, node);
+  const last = fragment.lastChild;
+  const link = fragment.querySelector('a[href]') && linkAt(node);
+  if (link) {
+    // No link stands in another one.
+    const [before, after] = cut(node, offset, link);
+    before.after(fragment);
+    prune(dom.lastLeaf(before));
+    prune(dom.firstLeaf(after));
+  } else {
+    putHere(fragment, node, offset);
+  }
+  holder?.remove();
+  if (dom.isText(last)) selection.setCaret(last, last.length);
+  else afterNode(last);
+}
+
+const holdsBlock = (fragment) => [...fragment.querySelectorAll('*')].some(dom.isBlock);
+
+// An id that the page has already stays where it is.
+function dropTakenIds(fragment) {
+  for (const element of fragment.querySelectorAll('[id]')) {
+    if (document.getElementById(element.id)) element.removeAttribute('id');
+  }
+}
+
+// Removes what the fragment replaces; only then is it known which ids are free.
+function makeRoom(range, fragment) {
+  const object = selection.control(range);
+  const gone = object && fragment.firstChild && objects.giveWay(object);
+  if (!gone && !range.collapsed && !fragment.firstChild) deletion.remove(range);
+  else if (!gone && !range.collapsed) {
+    const { startContainer, startOffset } = deletion.clear(range);
+    selection.setCaret(startContainer, startOffset);
+  }
+  dropTakenIds(fragment);
+}
+
+// Puts a fragment in the place of the selection.
+export const put = (fragment) => {
+  blanks.release();
+  makeRoom(selection.range(), fragment);
+  if (!fragment.firstChild) return;
+  blanks.watch();
+  putAt(fragment, selection.range());
+  blanks.watched({ inputType: 'insertText' });
+};
+
+function putAt(fragment, { startContainer, startOffset }) {
+  if (dom.rawAt(startContainer)) {
+    const parts = holdsBlock(fragment) ? [...fragment.childNodes] : [fragment];
+    fragment.replaceChildren(parts.map((part) => part.textContent).join('\n'));
+  }
+  const home = dom.isText(startContainer) ? startContainer.parentNode : startContainer;
+  if (isListOf(home)) makeItems(fragment, home);
+  if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
+  else putInline(fragment, startContainer, startOffset);
+}
+
+export const pasteHTML = (html) => history.step('pasteHTML', () => {
+  if (!dom.isEditable()) return;
+  selection.ensure();
+  if (selection.range()) put(parse(html));
+});

@@ -2,272 +2,224 @@
 // The character formats: how each is read at an element, which elements carry it and how it is
 // written: B, I and U everywhere; fonts and colours as FONT in pages of the old dialect, as styles
 // in HTML5 pages.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const { isInline, isBlock, isHeading, create } = velor.dom;
+import * as dom from '../page/dom.js';
+import { create, isBlock, isHeading, isInline } from '../page/dom.js';
+import * as history from '../page/history.js';
+import { declarations, isOf, putDeclaration, takeDeclaration } from './declarations.js';
 
-  const style = (element) => getComputedStyle(element);
+const style = (element) => getComputedStyle(element);
 
-  // A computed colour: red, green, blue up to 255, and how much it covers, up to 1.
-  function parts(colour) {
-    const [red, green, blue, cover = 1] = colour.match(/[\d.]+/g).map(Number);
-    return { light: [red, green, blue], cover };
+// A computed colour: red, green, blue up to 255, and how much it covers, up to 1.
+function parts(colour) {
+  const [red, green, blue, cover = 1] = colour.match(/[\d.]+/g).map(Number);
+  return { light: [red, green, blue], cover };
+}
+const laidOn = (ground, { light, cover }) =>
+  light.map((part, index) => part * cover + ground[index] * (1 - cover));
+const hex = (light) => '#' +
+  light.map((part) => Math.round(part).toString(16).padStart(2, '0').toUpperCase()).join('');
+
+// CSS pixels are 96 an inch, points 72.
+const points = (pixels) => String(Math.round((parseFloat(pixels) * 72) / 96));
+const sizePoints = [8, 10, 12, 14, 18, 24, 36];
+function sizeNumber(text) {
+  const wanted = parseFloat(text);
+  let best = 0;
+  sizePoints.forEach((size, index) => {
+    if (Math.abs(size - wanted) < Math.abs(sizePoints[best] - wanted)) best = index;
+  });
+  return best + 1;
+}
+
+const ancestors = function* (element) {
+  for (let at = element; at && at !== document; at = at.parentNode) yield at;
+};
+
+// A heading, a table's header cell and a link have their look by nature: that alone is no format,
+// so that bold in a heading and underline in a link can be told apart and toggled.
+const boldByNature = (element) => isHeading(element) || element.tagName === 'TH';
+const weighs = (element) => Number(style(element).fontWeight) >= 600;
+function bold(element) {
+  for (const at of ancestors(element)) {
+    if (!weighs(at)) return false;
+    if (formats.bold.carries(at) || at.style.fontWeight) return true;
+    if (!at.parentElement || !weighs(at.parentElement)) return !boldByNature(at);
   }
-  const laidOn = (ground, { light, cover }) =>
-    light.map((part, index) => part * cover + ground[index] * (1 - cover));
-  const hex = (light) => '#' +
-    light.map((part) => Math.round(part).toString(16).padStart(2, '0').toUpperCase()).join('');
-
-  // CSS pixels are 96 an inch, points 72.
-  const points = (pixels) => String(Math.round((parseFloat(pixels) * 72) / 96));
-  const sizePoints = [8, 10, 12, 14, 18, 24, 36];
-  function sizeNumber(text) {
-    const wanted = parseFloat(text);
-    let best = 0;
-    sizePoints.forEach((size, index) => {
-      if (Math.abs(size - wanted) < Math.abs(sizePoints[best] - wanted)) best = index;
-    });
-    return best + 1;
+  return false;
+}
+// What the nearest element outwards says that says something (others answer undefined). What was
+// found on the way is remembered where a map is given for it: many texts have ancestors in common.
+const outwards = (says, otherwise) => (element, known = new Map()) => {
+  const passed = [];
+  let answer = undefined;
+  for (const at of ancestors(element)) {
+    answer = known.get(at);
+    if (answer !== undefined) break;
+    passed.push(at);
+    answer = says(at);
+    if (answer !== undefined) break;
   }
-
-  const ancestors = function* (element) {
-    for (let at = element; at && at !== document; at = at.parentNode) yield at;
-  };
-
-  // A heading, a table's header cell and a link have their look by nature: that alone is no format,
-  // so that bold in a heading and underline in a link can be told apart and toggled.
-  const boldByNature = (element) => isHeading(element) || element.tagName === 'TH';
-  const weighs = (element) => Number(style(element).fontWeight) >= 600;
-  function bold(element) {
-    for (const at of ancestors(element)) {
-      if (!weighs(at)) return false;
-      if (formats.bold.carries(at) || at.style.fontWeight) return true;
-      if (!at.parentElement || !weighs(at.parentElement)) return !boldByNature(at);
+  answer ??= otherwise;
+  for (const at of passed) known.set(at, answer);
+  return answer;
+};
+const underline = outwards((at) => {
+  const byNature = at.tagName === 'A' && !at.style.textDecorationLine;
+  const { textDecorationLine, display } = style(at);
+  if (!byNature && textDecorationLine.includes('underline')) return true;
+  return /^(inline-block|inline-table)$/.test(display) ? false : undefined;
+}, false);
+// What the eye sees behind text: the colours of the ancestors, as far down as they let it through.
+function ground(element, known = new Map()) {
+  const layers = [];
+  let light = [255, 255, 255];
+  for (const at of ancestors(element)) {
+    if (known.has(at)) {
+      light = known.get(at);
+      break;
     }
-    return false;
+    const layer = parts(style(at).backgroundColor);
+    layers.push({ at, layer });
+    if (layer.cover === 1) break;
   }
-  // What the nearest element outwards says that says something (others answer undefined). What was
-  // found on the way is remembered where a map is given for it: many texts have ancestors in common.
-  const outwards = (says, otherwise) => (element, known = new Map()) => {
-    const passed = [];
-    let answer = undefined;
-    for (const at of ancestors(element)) {
-      answer = known.get(at);
-      if (answer !== undefined) break;
-      passed.push(at);
-      answer = says(at);
-      if (answer !== undefined) break;
-    }
-    answer ??= otherwise;
-    for (const at of passed) known.set(at, answer);
-    return answer;
-  };
-  const underline = outwards((at) => {
-    const byNature = at.tagName === 'A' && !at.style.textDecorationLine;
-    const { textDecorationLine, display } = style(at);
-    if (!byNature && textDecorationLine.includes('underline')) return true;
-    return /^(inline-block|inline-table)$/.test(display) ? false : undefined;
-  }, false);
-  // What the eye sees behind text: the colours of the ancestors, as far down as they let it through.
-  function ground(element, known = new Map()) {
-    const layers = [];
-    let light = [255, 255, 255];
-    for (const at of ancestors(element)) {
-      if (known.has(at)) {
-        light = known.get(at);
-        break;
+  for (const { at, layer } of layers.reverse()) {
+    light = laidOn(light, layer);
+    known.set(at, light);
+  }
+  return light;
+}
+function textColour(element, known) {
+  const own = parts(style(element).color);
+  return own.cover === 1 ? own.light : laidOn(ground(element, known), own);
+}
+
+// The size that a FONT asks for, 1 to 7, as the engine reads it; 0 for none.
+function fontNumber(font) {
+  const [, sign, digits] = /^\s*([+-]?)(\d+)/.exec(font.getAttribute('size') ?? '') ?? [];
+  if (!digits) return 0;
+  const number = sign ? 3 + Number(sign + digits) : Number(digits);
+  return Math.min(Math.max(number, 1), sizePoints.length);
+}
+// A FONT has one of the seven sizes, whatever they come to in the typeface at hand.
+function fontSize(element) {
+  for (const at of ancestors(element)) {
+    if (dom.isBlock(at) || at.tagName === 'FONT' && at.style.fontSize) break;
+    const size = at.tagName === 'FONT' ? fontNumber(at) : 0;
+    if (size) return String(sizePoints[size - 1]);
+    if (formats.fontSize.carries(at)) break;
+  }
+  return points(style(element).fontSize);
+}
+
+// A block whose style is its text's alone.
+const holdsText = (element) => ![...element.children].some(isBlock);
+
+// read(element, known): the value of text in it; `known` may be a map for what one pass over an
+// unchanged page finds out. tags: elements that are nothing but the format.
+// attribute: FONT's, with a value's spelling there. property: of an inline style, with a value's
+// spelling there; part: the word in its value that the format is, where others may stand beside
+// it. write(value): the element to put around text; inLike(value): the same within another one.
+// acrossBlocks: its style is taken off a block around several paragraphs, too, since a span inside
+// would only undo it.
+function format(entry) {
+  const tags = new Set(entry.tags);
+  const spelled = (value) => value;
+  const { property, attribute, part, inAttribute = spelled, inStyle = spelled } = entry;
+  const written = ({ style: own }) =>
+    (part ? own?.textDecorationLine : own?.getPropertyValue(property)) ?? '';
+  const isStyled = (element) =>
+    (part ? written(element).split(' ').includes(part) : written(element) !== '');
+  // Other words of the same declaration stay.
+  function unstyle(element) {
+    const shared = part && written(element) !== part &&
+      declarations(element).find((each) => /^\s*text-decoration(-line)?\s*:/i.test(each));
+    if (!shared) return takeDeclaration(element, property);
+    const [name, value] = shared.split(':');
+    const others = value.split(/\s+/).filter((word) => word && word.toLowerCase() !== part);
+    return putDeclaration(element, name.trim().toLowerCase(), others.join(' '));
+  }
+  const style = (value) => css(property)(inStyle(value));
+  return {
+    write: (value) => (attribute && !dom.writesStyles()
+      ? create('FONT', { [attribute]: inAttribute(value) }) : style(value)),
+    ...entry,
+    inAttribute,
+    carries: (element) => isInline(element) && (tags.has(element.tagName) ||
+      (element.tagName === 'FONT' && element.hasAttribute(entry.attribute))) ||
+      isStyled(element) && (isInline(element) || isBlock(element) && element !== document.body &&
+        (entry.acrossBlocks || holdsText(element))),
+    // An empty element of the same format, to go around what keeps it.
+    shell(element) {
+      if (tags.has(element.tagName)) return create(element.tagName);
+      if (isBlock(element) && this.read(element) === true) return this.write(true);
+      if (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) {
+        return create('FONT', { [entry.attribute]: element.getAttribute(entry.attribute) });
       }
-      const layer = parts(style(at).backgroundColor);
-      layers.push({ at, layer });
-      if (layer.cover === 1) break;
-    }
-    for (const { at, layer } of layers.reverse()) {
-      light = laidOn(light, layer);
-      known.set(at, light);
-    }
-    return light;
-  }
-  function textColour(element, known) {
-    const own = parts(style(element).color);
-    return own.cover === 1 ? own.light : laidOn(ground(element, known), own);
-  }
-
-  // The size that a FONT asks for, 1 to 7, as the engine reads it; 0 for none.
-  function fontNumber(font) {
-    const [, sign, digits] = /^\s*([+-]?)(\d+)/.exec(font.getAttribute('size') ?? '') ?? [];
-    if (!digits) return 0;
-    const number = sign ? 3 + Number(sign + digits) : Number(digits);
-    return Math.min(Math.max(number, 1), sizePoints.length);
-  }
-  // A FONT has one of the seven sizes, whatever they come to in the typeface at hand.
-  function fontSize(element) {
-    for (const at of ancestors(element)) {
-      if (velor.dom.isBlock(at) || at.tagName === 'FONT' && at.style.fontSize) break;
-      const size = at.tagName === 'FONT' ? fontNumber(at) : 0;
-      if (size) return String(sizePoints[size - 1]);
-      if (formats.fontSize.carries(at)) break;
-    }
-    return points(style(element).fontSize);
-  }
-
-  // The declarations of an inline style as they were written; CSSOM would write all of them anew.
-  const declarations = (element) =>
-    (element.getAttribute('style') ?? '').match(/(?:[^;"'(]|"[^"]*"|'[^']*'|\([^)]*\))+/g) ?? [];
-  const isOf = (property) => (declaration) =>
-    declaration.slice(0, declaration.indexOf(':')).trim().toLowerCase() === property;
-
-  // The words of these properties in the shorthand `font`, which stands for less without them.
-  const fontWords = {
-    'font-weight': /(:|\s)(bold|bolder|lighter|[1-9]00)(?=\s)/i,
-    'font-style': /(:|\s)(italic|oblique)(?=\s)/i,
+      if (part) return this.write(true);
+      const own = declarations(element).find(isOf(property))?.trim();
+      return create('SPAN', { style: own ?? `${property}: ${written(element)}` });
+    },
+    // Takes the format off the element.
+    strip(element) {
+      history.attributesOf(element);
+      if (isStyled(element)) unstyle(element);
+      if (element.tagName === 'FONT') element.removeAttribute(entry.attribute);
+      if (tags.has(element.tagName)) {
+        if (element.attributes.length) dom.rename(element, 'SPAN');
+        else dom.unwrap(element);
+      } else if (/^(FONT|SPAN)$/.test(element.tagName) && !element.attributes.length) {
+        dom.unwrap(element);
+      }
+    },
   };
-  function takeFromShorthand(element, property) {
-    const all = declarations(element);
-    const word = fontWords[property];
-    const index = word ? all.findIndex(isOf('font')) : -1;
-    if (index < 0) {
-      element.style.removeProperty(property);
-    } else if (word.test(all[index])) {
-      all[index] = all[index].replace(word, '$1').replace(/:\s+/, ': ').replace(/ {2,}/g, ' ');
-      element.setAttribute('style', all.join(';'));
-    }
-  }
+}
 
-  function takeDeclaration(element, property) {
-    const all = declarations(element);
-    const left = all.filter((declaration) => !isOf(property)(declaration));
-    if (left.length === all.length) takeFromShorthand(element, property);
-    else if (left.length) element.setAttribute('style', left.join(';').trim());
-    else element.removeAttribute('style');
-    if (!element.getAttribute('style')) element.removeAttribute('style');
-  }
+const css = (property) => (value) => create('SPAN', { style: `${property}: ${value}` });
 
-  // Sets one declaration and leaves the others as they are written.
-  function putDeclaration(element, property, value) {
-    const all = declarations(element);
-    const last = all.findLastIndex(isOf(property));
-    const written = `${property}: ${value}`;
-    const end = /;\s*$/.test(element.getAttribute('style') ?? '') ? ';' : '';
-    if (last >= 0) all[last] = /^\s*/.exec(all[last])[0] + written;
-    else all.push((all.length ? ' ' : '') + written);
-    element.setAttribute('style', all.filter((each) => each.trim()).join(';') + end);
-  }
+// Every name of a list of fonts; one of several words in quotes.
+const fontFamily = (names) => names.split(',')
+  .map((name) => name.replace(/['"\\;]/g, '').trim())
+  .map((name) => (/^[a-z][a-z0-9-]*$/i.test(name) ? name : `'${name}'`)).join(', ');
 
-  // A block whose style is its text's alone.
-  const holdsText = (element) => ![...element.children].some(isBlock);
-
-  // read(element, known): the value of text in it; `known` may be a map for what one pass over an
-  // unchanged page finds out. tags: elements that are nothing but the format.
-  // attribute: FONT's, with a value's spelling there. property: of an inline style, with a value's
-  // spelling there; part: the word in its value that the format is, where others may stand beside
-  // it. write(value): the element to put around text; inLike(value): the same within another one.
-  // acrossBlocks: its style is taken off a block around several paragraphs, too, since a span inside
-  // would only undo it.
-  function format(entry) {
-    const tags = new Set(entry.tags);
-    const spelled = (value) => value;
-    const { property, attribute, part, inAttribute = spelled, inStyle = spelled } = entry;
-    const written = ({ style: own }) =>
-      (part ? own?.textDecorationLine : own?.getPropertyValue(property)) ?? '';
-    const isStyled = (element) =>
-      (part ? written(element).split(' ').includes(part) : written(element) !== '');
-    // Other words of the same declaration stay.
-    function unstyle(element) {
-      const shared = part && written(element) !== part &&
-        declarations(element).find((each) => /^\s*text-decoration(-line)?\s*:/i.test(each));
-      if (!shared) return takeDeclaration(element, property);
-      const [name, value] = shared.split(':');
-      const others = value.split(/\s+/).filter((word) => word && word.toLowerCase() !== part);
-      return putDeclaration(element, name.trim().toLowerCase(), others.join(' '));
-    }
-    const style = (value) => css(property)(inStyle(value));
-    return {
-      write: (value) => (attribute && !velor.dom.writesStyles()
-        ? create('FONT', { [attribute]: inAttribute(value) }) : style(value)),
-      ...entry,
-      inAttribute,
-      carries: (element) => isInline(element) && (tags.has(element.tagName) ||
-        (element.tagName === 'FONT' && element.hasAttribute(entry.attribute))) ||
-        isStyled(element) && (isInline(element) || isBlock(element) && element !== document.body &&
-          (entry.acrossBlocks || holdsText(element))),
-      // An empty element of the same format, to go around what keeps it.
-      shell(element) {
-        if (tags.has(element.tagName)) return create(element.tagName);
-        if (isBlock(element) && this.read(element) === true) return this.write(true);
-        if (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) {
-          return create('FONT', { [entry.attribute]: element.getAttribute(entry.attribute) });
-        }
-        if (part) return this.write(true);
-        const own = declarations(element).find(isOf(property))?.trim();
-        return create('SPAN', { style: own ?? `${property}: ${written(element)}` });
-      },
-      // Takes the format off the element.
-      strip(element) {
-        velor.history.attributesOf(element);
-        if (isStyled(element)) unstyle(element);
-        if (element.tagName === 'FONT') element.removeAttribute(entry.attribute);
-        if (tags.has(element.tagName)) {
-          if (element.attributes.length) velor.dom.rename(element, 'SPAN');
-          else velor.dom.unwrap(element);
-        } else if (/^(FONT|SPAN)$/.test(element.tagName) && !element.attributes.length) {
-          velor.dom.unwrap(element);
-        }
-      },
-    };
-  }
-
-  const css = (property) => (value) => create('SPAN', { style: `${property}: ${value}` });
-
-  // Every name of a list of fonts; one of several words in quotes.
-  const fontFamily = (names) => names.split(',')
-    .map((name) => name.replace(/['"\\;]/g, '').trim())
-    .map((name) => (/^[a-z][a-z0-9-]*$/i.test(name) ? name : `'${name}'`)).join(', ');
-
-  const formats = {
-    bold: format({
-      read: bold, tags: ['B', 'STRONG'], property: 'font-weight', acrossBlocks: true,
-      write: (on) => (on ? create('B') : css('font-weight')('normal')),
-      inLike: () => css('font-weight')('bold'),
-    }),
-    italic: format({
-      read: (element) => style(element).fontStyle !== 'normal',
-      tags: ['I', 'EM'], property: 'font-style', acrossBlocks: true,
-      write: (on) => (on ? create('I') : css('font-style')('normal')),
-      inLike: () => css('font-style')('italic'),
-    }),
-    underline: format({
-      read: underline, tags: ['U', 'INS'], property: 'text-decoration', part: 'underline',
-      acrossBlocks: true,
-      // A line drawn by an ancestor cannot be taken off from inside.
-      write: (on) => (on ? create('U') : null),
-    }),
-    fontName: format({
-      read: (element) => style(element).fontFamily.split(',')[0].trim().replace(/^["']|["']$/g, ''),
-      tags: [], attribute: 'face', property: 'font-family', inStyle: fontFamily,
-    }),
-    fontSize: format({
-      read: fontSize,
-      parse: (value) => String(sizePoints[sizeNumber(value) - 1]),
-      tags: ['BIG', 'SMALL'], attribute: 'size', inAttribute: sizeNumber,
-      property: 'font-size', inStyle: (value) => `${value}pt`,
-    }),
-    foreColor: format({
-      read: (element, known) => hex(textColour(element, known)),
-      tags: [], attribute: 'color', property: 'color', insideLinks: true,
-    }),
-    backColor: format({
-      read: (element, known) => hex(ground(element, known)), tags: [],
-      property: 'background-color',
-    }),
-  };
-  const same = (one, other) => String(one).toUpperCase() === String(other).toUpperCase();
-  for (const each of Object.values(formats)) {
-    each.same = same;
-    each.parse ??= (value) => value;
-  }
-
-  velor.formats = formats;
-  velor.takeDeclaration = takeDeclaration;
-  velor.putDeclaration = putDeclaration;
-})();
+export const formats = {
+  bold: format({
+    read: bold, tags: ['B', 'STRONG'], property: 'font-weight', acrossBlocks: true,
+    write: (on) => (on ? create('B') : css('font-weight')('normal')),
+    inLike: () => css('font-weight')('bold'),
+  }),
+  italic: format({
+    read: (element) => style(element).fontStyle !== 'normal',
+    tags: ['I', 'EM'], property: 'font-style', acrossBlocks: true,
+    write: (on) => (on ? create('I') : css('font-style')('normal')),
+    inLike: () => css('font-style')('italic'),
+  }),
+  underline: format({
+    read: underline, tags: ['U', 'INS'], property: 'text-decoration', part: 'underline',
+    acrossBlocks: true,
+    // A line drawn by an ancestor cannot be taken off from inside.
+    write: (on) => (on ? create('U') : null),
+  }),
+  fontName: format({
+    read: (element) => style(element).fontFamily.split(',')[0].trim().replace(/^["']|["']$/g, ''),
+    tags: [], attribute: 'face', property: 'font-family', inStyle: fontFamily,
+  }),
+  fontSize: format({
+    read: fontSize,
+    parse: (value) => String(sizePoints[sizeNumber(value) - 1]),
+    tags: ['BIG', 'SMALL'], attribute: 'size', inAttribute: sizeNumber,
+    property: 'font-size', inStyle: (value) => `${value}pt`,
+  }),
+  foreColor: format({
+    read: (element, known) => hex(textColour(element, known)),
+    tags: [], attribute: 'color', property: 'color', insideLinks: true,
+  }),
+  backColor: format({
+    read: (element, known) => hex(ground(element, known)), tags: [],
+    property: 'background-color',
+  }),
+};
+const same = (one, other) => String(one).toUpperCase() === String(other).toUpperCase();
+for (const each of Object.values(formats)) {
+  each.same = same;
+  each.parse ??= (value) => value;
+}

@@ -2,361 +2,358 @@
 // Character formats put on selected text. First the elements that carry the format are taken off
 // the text and given back to their other content, then what still looks different is wrapped in as
 // few elements as possible.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const dom = velor.dom;
+import { formats } from './formats.js';
+import * as dom from '../page/dom.js';
+import * as selection from '../page/selection.js';
 
-  // Cuts the texts at the ends of the range out of their longer nodes.
-  function isolate(range) {
-    const { startContainer, startOffset, endContainer, endOffset } = range;
-    const texts = velor.selection.textsIn(range);
-    if (!texts.length) return texts;
-    const last = texts.at(-1);
-    if (last === endContainer && endOffset < last.length) last.splitText(endOffset);
-    if (texts[0] === startContainer && startOffset > 0) texts[0] = texts[0].splitText(startOffset);
-    return texts;
+// Cuts the texts at the ends of the range out of their longer nodes.
+function isolate(range) {
+  const { startContainer, startOffset, endContainer, endOffset } = range;
+  const texts = selection.textsIn(range);
+  if (!texts.length) return texts;
+  const last = texts.at(-1);
+  if (last === endContainer && endOffset < last.length) last.splitText(endOffset);
+  if (texts[0] === startContainer && startOffset > 0) texts[0] = texts[0].splitText(startOffset);
+  return texts;
+}
+
+const textsUnder = function* (node) {
+  if (dom.isText(node)) {
+    if (!dom.isIgnorable(node)) yield node;
+  } else if (!dom.isNeutral(node) && !dom.isAtom(node)) {
+    for (const child of node.childNodes) yield* textsUnder(child);
   }
+};
 
-  const textsUnder = function* (node) {
-    if (dom.isText(node)) {
-      if (!dom.isIgnorable(node)) yield node;
-    } else if (!dom.isNeutral(node) && !dom.isAtom(node)) {
-      for (const child of node.childNodes) yield* textsUnder(child);
-    }
-  };
-
-  // How much of a node's text is in the set: 'all', 'some' or 'none' of it; 'empty' without text.
-  function coverage(node, chosen) {
-    let inside = false;
-    let outside = false;
-    for (const text of textsUnder(node)) {
-      if (chosen.has(text)) inside = true;
-      else outside = true;
-      if (inside && outside) return 'some';
-    }
-    if (inside) return 'all';
-    return outside ? 'none' : 'empty';
+// How much of a node's text is in the set: 'all', 'some' or 'none' of it; 'empty' without text.
+function coverage(node, chosen) {
+  let inside = false;
+  let outside = false;
+  for (const text of textsUnder(node)) {
+    if (chosen.has(text)) inside = true;
+    else outside = true;
+    if (inside && outside) return 'some';
   }
+  if (inside) return 'all';
+  return outside ? 'none' : 'empty';
+}
 
-  // Gives the format that `carrier` loses back to the part of its content that is not chosen.
-  function pushDown(format, carrier, chosen) {
-    const give = (parent) => {
-      let group = [];
-      const flush = () => {
-        while (group.length && coverage(group.at(-1), chosen) === 'empty') group.pop();
-        while (group.length && coverage(group[0], chosen) === 'empty') group.shift();
-        if (group.length) dom.wrap(group, format.shell(carrier));
-        group = [];
-      };
-      for (const child of [...parent.childNodes]) {
-        const cover = coverage(child, chosen);
-        const plain = !dom.isBlock(child) && !format.carries(child) && !holdsBlock(child);
-        if (plain && (cover === 'none' || cover === 'empty')) {
-          group.push(child);
-          continue;
-        }
-        flush();
-        if (cover !== 'all' && cover !== 'empty' && !format.carries(child)) give(child);
+// Gives the format that `carrier` loses back to the part of its content that is not chosen.
+function pushDown(format, carrier, chosen) {
+  const give = (parent) => {
+    let group = [];
+    const flush = () => {
+      while (group.length && coverage(group.at(-1), chosen) === 'empty') group.pop();
+      while (group.length && coverage(group[0], chosen) === 'empty') group.shift();
+      if (group.length) dom.wrap(group, format.shell(carrier));
+      group = [];
+    };
+    for (const child of [...parent.childNodes]) {
+      const cover = coverage(child, chosen);
+      const plain = !dom.isBlock(child) && !format.carries(child) && !holdsBlock(child);
+      if (plain && (cover === 'none' || cover === 'empty')) {
+        group.push(child);
+        continue;
       }
       flush();
-    };
-    give(carrier);
-    format.strip(carrier);
-  }
-  const holdsBlock = (node) =>
-    dom.isInline(node) && !dom.isAtom(node) &&
-    [...node.children].some((child) => dom.isBlock(child) || holdsBlock(child));
-
-  // What gives the texts another look than the wanted one and is to be taken off them, the outermost
-  // first: what holds nothing but them, and what stands before an ancestor with the wanted look.
-  // Another one stays around the new format, as a person would write it.
-  function carriersOf(format, texts, chosen, reads) {
-    const carriers = new Set();
-    const whole = remembered((carrier) => coverage(carrier, chosen) === 'all');
-    for (const text of texts) {
-      const chain = [];
-      let at = text.parentNode;
-      for (; !reads(at) && at !== document.body; at = at.parentNode) {
-        if (format.carries(at)) chain.unshift(at);
-      }
-      for (const carrier of chain) if (reads(at) || whole(carrier)) carriers.add(carrier);
+      if (cover !== 'all' && cover !== 'empty' && !format.carries(child)) give(child);
     }
-    return carriers;
-  }
-  function remembered(judge) {
-    const known = new Map();
-    return (node) => {
-      if (!known.has(node)) known.set(node, judge(node));
-      return known.get(node);
-    };
-  }
+    flush();
+  };
+  give(carrier);
+  format.strip(carrier);
+}
+const holdsBlock = (node) =>
+  dom.isInline(node) && !dom.isAtom(node) &&
+  [...node.children].some((child) => dom.isBlock(child) || holdsBlock(child));
 
-  // The highest node whose text is the given one only, or only such.
-  function highest(text, chosen, format, covers) {
-    let node = text;
-    for (let parent = node.parentNode; dom.isInline(parent); parent = parent.parentNode) {
-      if (format.insideLinks && parent.tagName === 'A') break;
-      if (!covers.has(parent)) {
-        const holdsLink = format.insideLinks && parent.querySelector('a[href]');
-        covers.set(parent, !holdsLink && !holdsBlock(parent) && coverage(parent, chosen) === 'all');
-      }
-      if (!covers.get(parent)) break;
-      node = parent;
+// What gives the texts another look than the wanted one and is to be taken off them, the outermost
+// first: what holds nothing but them, and what stands before an ancestor with the wanted look.
+// Another one stays around the new format, as a person would write it.
+function carriersOf(format, texts, chosen, reads) {
+  const carriers = new Set();
+  const whole = remembered((carrier) => coverage(carrier, chosen) === 'all');
+  for (const text of texts) {
+    const chain = [];
+    let at = text.parentNode;
+    for (; !reads(at) && at !== document.body; at = at.parentNode) {
+      if (format.carries(at)) chain.unshift(at);
     }
-    return node;
+    for (const carrier of chain) if (reads(at) || whole(carrier)) carriers.add(carrier);
   }
+  return carriers;
+}
+function remembered(judge) {
+  const known = new Map();
+  return (node) => {
+    if (!known.has(node)) known.set(node, judge(node));
+    return known.get(node);
+  };
+}
 
-  const nothing = new Set();
-
-  // Runs of neighbouring nodes; breaks and objects between two of them go along.
-  function runsOf(tops) {
-    const runs = [];
-    for (const top of tops) {
-      const run = runs.at(-1);
-      const between = [];
-      let at = run?.at(-1).nextSibling;
-      while (at && at !== top && !dom.isBlock(at) && !dom.isIsland(at) &&
-             (!dom.isText(at) || dom.isBlank(at)) && coverage(at, nothing) === 'empty') {
-        between.push(at);
-        at = at.nextSibling;
-      }
-      if (run && at === top) run.push(...between, top);
-      else runs.push([top]);
+// The highest node whose text is the given one only, or only such.
+function highest(text, chosen, format, covers) {
+  let node = text;
+  for (let parent = node.parentNode; dom.isInline(parent); parent = parent.parentNode) {
+    if (format.insideLinks && parent.tagName === 'A') break;
+    if (!covers.has(parent)) {
+      const holdsLink = format.insideLinks && parent.querySelector('a[href]');
+      covers.set(parent, !holdsLink && !holdsBlock(parent) && coverage(parent, chosen) === 'all');
     }
-    return runs;
+    if (!covers.get(parent)) break;
+    node = parent;
   }
+  return node;
+}
 
-  // The first element, from one that is all of a run inwards, that fits.
-  function within(run, fits) {
-    let only = run.length === 1 ? run[0] : null;
-    while (dom.isInline(only) && !dom.isAtom(only) && !(only.tagName === 'A') && !fits(only)) {
-      only = only.childNodes.length === 1 ? only.firstChild : null;
+const nothing = new Set();
+
+// Runs of neighbouring nodes; breaks and objects between two of them go along.
+function runsOf(tops) {
+  const runs = [];
+  for (const top of tops) {
+    const run = runs.at(-1);
+    const between = [];
+    let at = run?.at(-1).nextSibling;
+    while (at && at !== top && !dom.isBlock(at) && !dom.isIsland(at) &&
+           (!dom.isText(at) || dom.isBlank(at)) && coverage(at, nothing) === 'empty') {
+      between.push(at);
+      at = at.nextSibling;
     }
-    return dom.isElement(only) && fits(only) ? only : null;
+    if (run && at === top) run.push(...between, top);
+    else runs.push([top]);
   }
+  return runs;
+}
 
-  // A FONT that holds nothing but another one takes that one's attributes.
-  function collapse(font) {
-    const [inner] = font.childNodes;
-    const isBare = font.childNodes.length === 1 && inner.tagName === 'FONT' &&
-      [...inner.attributes].every(({ name }) => /^(color|face|size)$/.test(name));
-    if (!isBare) return font;
-    for (const { name, value } of inner.attributes) font.setAttribute(name, value);
-    dom.unwrap(inner);
+// The first element, from one that is all of a run inwards, that fits.
+function within(run, fits) {
+  let only = run.length === 1 ? run[0] : null;
+  while (dom.isInline(only) && !dom.isAtom(only) && !(only.tagName === 'A') && !fits(only)) {
+    only = only.childNodes.length === 1 ? only.firstChild : null;
+  }
+  return dom.isElement(only) && fits(only) ? only : null;
+}
+
+// A FONT that holds nothing but another one takes that one's attributes.
+function collapse(font) {
+  const [inner] = font.childNodes;
+  const isBare = font.childNodes.length === 1 && inner.tagName === 'FONT' &&
+    [...inner.attributes].every(({ name }) => /^(color|face|size)$/.test(name));
+  if (!isBare) return font;
+  for (const { name, value } of inner.attributes) font.setAttribute(name, value);
+  dom.unwrap(inner);
+  return collapse(font);
+}
+
+// An element of the same kind that the page's rules have taken the look off does not help.
+function written(format, value, run) {
+  const element = format.write(value);
+  const inLike = format.inLike && element.tagName !== 'SPAN' &&
+    run[0].parentNode.closest(element.tagName);
+  return inLike ? format.inLike() : element;
+}
+
+function put(format, run, value) {
+  const wrapper = written(format, value, run);
+  if (!wrapper) return null;
+  // A FONT that is there is used in any dialect.
+  const font = format.attribute && within(run, ({ tagName }) => tagName === 'FONT');
+  if (font) {
+    font.setAttribute(format.attribute, format.inAttribute(value));
     return collapse(font);
   }
-
-  // An element of the same kind that the page's rules have taken the look off does not help.
-  function written(format, value, run) {
-    const element = format.write(value);
-    const inLike = format.inLike && element.tagName !== 'SPAN' &&
-      run[0].parentNode.closest(element.tagName);
-    return inLike ? format.inLike() : element;
+  const span = wrapper.tagName === 'SPAN' && within(run, ({ tagName }) => tagName === 'SPAN');
+  if (span) {
+    const before = (span.getAttribute('style') ?? '').replace(/;?\s*$/, '');
+    const added = wrapper.getAttribute('style');
+    span.setAttribute('style', before ? `${before}; ${added}` : added);
+    return span;
   }
-
-  function put(format, run, value) {
-    const wrapper = written(format, value, run);
-    if (!wrapper) return null;
-    // A FONT that is there is used in any dialect.
-    const font = format.attribute && within(run, ({ tagName }) => tagName === 'FONT');
-    if (font) {
-      font.setAttribute(format.attribute, format.inAttribute(value));
-      return collapse(font);
-    }
-    const span = wrapper.tagName === 'SPAN' && within(run, ({ tagName }) => tagName === 'SPAN');
-    if (span) {
-      const before = (span.getAttribute('style') ?? '').replace(/;?\s*$/, '');
-      const added = wrapper.getAttribute('style');
-      span.setAttribute('style', before ? `${before}; ${added}` : added);
-      return span;
-    }
-    dom.wrap(run, wrapper);
-    // What went along without text may have been in its like.
-    if (format.tags.includes(wrapper.tagName)) {
-      const likes = [...wrapper.querySelectorAll(format.tags.join())];
-      likes.filter((like) => !like.attributes.length).forEach(dom.unwrap);
-    }
-    return wrapper;
+  dom.wrap(run, wrapper);
+  // What went along without text may have been in its like.
+  if (format.tags.includes(wrapper.tagName)) {
+    const likes = [...wrapper.querySelectorAll(format.tags.join())];
+    likes.filter((like) => !like.attributes.length).forEach(dom.unwrap);
   }
+  return wrapper;
+}
 
-  const mergeable = new Set(['B', 'EM', 'FONT', 'I', 'SPAN', 'STRONG', 'U', 'BIG', 'SMALL']);
-  // True when both look the same: by the same markup, or each by markup of the format alone.
-  function alike(format, element, other) {
-    if (!dom.isElement(other)) return false;
-    const bare = (each) => format.carries(each) && !dom.isBlock(each) &&
-      format.shell(each).tagName === each.tagName && dom.sameLooks(format.shell(each), each);
-    const isSame = () => format.same(format.read(element), format.read(other));
-    const isNamesake = other.tagName === element.tagName && mergeable.has(element.tagName) &&
-      !element.id;
-    if (isNamesake && dom.sameLooks(element, other)) return true;
-    if (bare(element) && bare(other)) return isSame();
-    if (!isNamesake) return false;
-    // The format itself may be spelled otherwise.
-    const rest = (each) => {
-      const copy = each.cloneNode(false);
-      if (format.attribute) copy.removeAttribute(format.attribute);
-      copy.style.removeProperty(format.property);
-      if (!copy.style.length) copy.removeAttribute('style');
-      return copy;
-    };
-    return format.carries(element) && format.carries(other) && isSame() &&
-      dom.sameLooks(rest(element), rest(other));
+const mergeable = new Set(['B', 'EM', 'FONT', 'I', 'SPAN', 'STRONG', 'U', 'BIG', 'SMALL']);
+// True when both look the same: by the same markup, or each by markup of the format alone.
+function alike(format, element, other) {
+  if (!dom.isElement(other)) return false;
+  const bare = (each) => format.carries(each) && !dom.isBlock(each) &&
+    format.shell(each).tagName === each.tagName && dom.sameLooks(format.shell(each), each);
+  const isSame = () => format.same(format.read(element), format.read(other));
+  const isNamesake = other.tagName === element.tagName && mergeable.has(element.tagName) &&
+    !element.id;
+  if (isNamesake && dom.sameLooks(element, other)) return true;
+  if (bare(element) && bare(other)) return isSame();
+  if (!isNamesake) return false;
+  // The format itself may be spelled otherwise.
+  const rest = (each) => {
+    const copy = each.cloneNode(false);
+    if (format.attribute) copy.removeAttribute(format.attribute);
+    copy.style.removeProperty(format.property);
+    if (!copy.style.length) copy.removeAttribute('style');
+    return copy;
+  };
+  return format.carries(element) && format.carries(other) && isSame() &&
+    dom.sameLooks(rest(element), rest(other));
+}
+
+// Elements whose order makes no difference to what they look like together.
+const turns = (format, outer) => !format.carries(outer) && (
+  /^(B|EM|I|STRONG)$/.test(outer.tagName) && !outer.attributes.length ||
+  /^(FONT|SPAN)$/.test(outer.tagName) && !outer.id && /^font-(weight|style)$/.test(format.property));
+// The neighbour; where all of it has the format inside other elements, with the format outside.
+function turned(format, element, neighbour) {
+  for (let at = neighbour; dom.isElement(at) && turns(format, at); at = at.firstChild) {
+    const inner = at.firstChild;
+    if (at.childNodes.length !== 1) break;
+    if (!alike(format, element, inner)) continue;
+    inner.replaceWith(...inner.childNodes);
+    return dom.wrap([neighbour], inner);
   }
+  return neighbour;
+}
 
-  // Elements whose order makes no difference to what they look like together.
-  const turns = (format, outer) => !format.carries(outer) && (
-    /^(B|EM|I|STRONG)$/.test(outer.tagName) && !outer.attributes.length ||
-    /^(FONT|SPAN)$/.test(outer.tagName) && !outer.id && /^font-(weight|style)$/.test(format.property));
-  // The neighbour; where all of it has the format inside other elements, with the format outside.
-  function turned(format, element, neighbour) {
-    for (let at = neighbour; dom.isElement(at) && turns(format, at); at = at.firstChild) {
-      const inner = at.firstChild;
-      if (at.childNodes.length !== 1) break;
-      if (!alike(format, element, inner)) continue;
-      inner.replaceWith(...inner.childNodes);
-      return dom.wrap([neighbour], inner);
-    }
-    return neighbour;
-  }
+// Joins the element with that neighbour where both are alike; what was there already is kept.
+function mergeWith(format, element, side, isNew) {
+  if (!dom.isElement(element[side])) return element;
+  const other = turned(format, element, element[side]);
+  if (!alike(format, element, other)) return element;
+  const [kept, gone] = isNew ? [other, element] : [element, other];
+  const before = (side === 'previousSibling') === isNew;
+  if (before) kept.append(...gone.childNodes);
+  else kept.prepend(...gone.childNodes);
+  gone.remove();
+  return kept;
+}
 
-  // Joins the element with that neighbour where both are alike; what was there already is kept.
-  function mergeWith(format, element, side, isNew) {
-    if (!dom.isElement(element[side])) return element;
-    const other = turned(format, element, element[side]);
-    if (!alike(format, element, other)) return element;
-    const [kept, gone] = isNew ? [other, element] : [element, other];
-    const before = (side === 'previousSibling') === isNew;
-    if (before) kept.append(...gone.childNodes);
-    else kept.prepend(...gone.childNodes);
-    gone.remove();
-    return kept;
-  }
-
-  // Joins each of the texts with those right beside it, keeping the given places ({node, offset})
-  // where they are.
-  function joinTexts(nodes, places) {
-    for (const node of nodes) {
-      if (!dom.isText(node) || !node.parentNode) continue;
-      let first = node;
-      while (dom.isText(first.previousSibling)) first = first.previousSibling;
-      for (let next = first.nextSibling; dom.isText(next); next = first.nextSibling) {
-        for (const place of places) {
-          if (place.node !== next) continue;
-          Object.assign(place, { node: first, offset: first.length + place.offset });
-        }
-        first.appendData(next.data);
-        next.remove();
+// Joins each of the texts with those right beside it, keeping the given places ({node, offset})
+// where they are.
+export function joinTexts(nodes, places) {
+  for (const node of nodes) {
+    if (!dom.isText(node) || !node.parentNode) continue;
+    let first = node;
+    while (dom.isText(first.previousSibling)) first = first.previousSibling;
+    for (let next = first.nextSibling; dom.isText(next); next = first.nextSibling) {
+      for (const place of places) {
+        if (place.node !== next) continue;
+        Object.assign(place, { node: first, offset: first.length + place.offset });
       }
+      first.appendData(next.data);
+      next.remove();
     }
   }
+}
 
-  // The elements around the texts that give a look which is there without them by now.
-  function needless(entry, texts, chosen, reads) {
-    const whole = remembered((element) => coverage(element, chosen) === 'all');
-    const parents = new Set(texts.map((text) => text.parentNode));
-    return [...parents].filter((element) => dom.isInline(element) && entry.carries(element) &&
-      reads(element) && reads(element.parentNode) && whole(element));
-  }
+// The elements around the texts that give a look which is there without them by now.
+function needless(entry, texts, chosen, reads) {
+  const whole = remembered((element) => coverage(element, chosen) === 'all');
+  const parents = new Set(texts.map((text) => text.parentNode));
+  return [...parents].filter((element) => dom.isInline(element) && entry.carries(element) &&
+    reads(element) && reads(element.parentNode) && whole(element));
+}
 
-  // The page's own rules may give text in an element another look: such text is formatted by itself.
-  // Answers the elements less those that had to go.
-  function insist(entry, elements, value) {
-    const reads = remembered((element) => entry.read(element));
-    const stubborn = elements.map((element) => new Set([...textsUnder(element)]
-      .filter((text) => !entry.same(reads(text.parentNode), reads(element)))));
-    return elements.filter((element, index) => {
-      const texts = stubborn[index];
-      if (!texts.size) return true;
-      pushDown(entry, element, texts);
-      for (const text of texts) put(entry, [text], value);
-      return false;
-    });
-  }
+// The page's own rules may give text in an element another look: such text is formatted by itself.
+// Answers the elements less those that had to go.
+function insist(entry, elements, value) {
+  const reads = remembered((element) => entry.read(element));
+  const stubborn = elements.map((element) => new Set([...textsUnder(element)]
+    .filter((text) => !entry.same(reads(text.parentNode), reads(element)))));
+  return elements.filter((element, index) => {
+    const texts = stubborn[index];
+    if (!texts.size) return true;
+    pushDown(entry, element, texts);
+    for (const text of texts) put(entry, [text], value);
+    return false;
+  });
+}
 
-  // The elements of the format around the texts that give it to nothing, since all in them needs it
-  // from inside.
-  function outgrown(entry, texts, chosen) {
-    const around = new Set();
-    for (const text of texts) {
-      for (let at = text.parentNode; dom.isInline(at) && !around.has(at); at = at.parentNode) {
-        around.add(at);
-      }
+// The elements of the format around the texts that give it to nothing, since all in them needs it
+// from inside.
+function outgrown(entry, texts, chosen) {
+  const around = new Set();
+  for (const text of texts) {
+    for (let at = text.parentNode; dom.isInline(at) && !around.has(at); at = at.parentNode) {
+      around.add(at);
     }
-    return [...around].filter((element) => entry.tags.includes(element.tagName) &&
-      coverage(element, chosen) === 'all');
   }
+  return [...around].filter((element) => entry.tags.includes(element.tagName) &&
+    coverage(element, chosen) === 'all');
+}
 
-  // Puts the format with that value on the texts, which are whole nodes. In passes that first read and
-  // then write: the engine works the page's looks out anew for what is read after each change.
-  function format(name, value, texts) {
-    const entry = velor.formats[name];
-    const touched = new Set();
-    const around = (node) => {
-      for (const near of [node.previousSibling, node, node.nextSibling]) {
-        if (near) touched.add(near);
-      }
-    };
-    texts.forEach(around);
-    const all = new Set(texts);
-    const reads = (element) => entry.same(entry.read(element), value);
-    for (const carrier of carriersOf(entry, texts, all, remembered(reads))) {
-      pushDown(entry, carrier, all);
+// Puts the format with that value on the texts, which are whole nodes. In passes that first read and
+// then write: the engine works the page's looks out anew for what is read after each change.
+function format(name, value, texts) {
+  const entry = formats[name];
+  const touched = new Set();
+  const around = (node) => {
+    for (const near of [node.previousSibling, node, node.nextSibling]) {
+      if (near) touched.add(near);
     }
-    needless(entry, texts, all, remembered(reads)).forEach((element) => entry.strip(element));
-    const lacks = remembered((element) => !reads(element));
-    const left = texts.filter((text) => lacks(text.parentNode));
-    const chosen = new Set(left);
-    if (value === true) outgrown(entry, left, chosen).forEach((element) => entry.strip(element));
-    const covers = new Map();
-    const tops = new Set(left.map((text) => highest(text, chosen, entry, covers)));
-    const made = runsOf(tops).map((run) => put(entry, run, value)).filter(Boolean);
-    for (const element of insist(entry, made, value)) {
-      const joined = mergeWith(entry, element, 'previousSibling', true);
-      mergeWith(entry, joined, 'nextSibling', joined === element);
-    }
-    return touched;
+  };
+  texts.forEach(around);
+  const all = new Set(texts);
+  const reads = (element) => entry.same(entry.read(element), value);
+  for (const carrier of carriersOf(entry, texts, all, remembered(reads))) {
+    pushDown(entry, carrier, all);
   }
-
-  function isThere(name, value, range) {
-    const { read, same } = velor.formats[name];
-    const elements = new Set(velor.selection.textsIn(range).map((text) => text.parentNode));
-    return [...elements].every((element) => same(read(element), value));
+  needless(entry, texts, all, remembered(reads)).forEach((element) => entry.strip(element));
+  const lacks = remembered((element) => !reads(element));
+  const left = texts.filter((text) => lacks(text.parentNode));
+  const chosen = new Set(left);
+  if (value === true) outgrown(entry, left, chosen).forEach((element) => entry.strip(element));
+  const covers = new Map();
+  const tops = new Set(left.map((text) => highest(text, chosen, entry, covers)));
+  const made = runsOf(tops).map((run) => put(entry, run, value)).filter(Boolean);
+  for (const element of insist(entry, made, value)) {
+    const joined = mergeWith(entry, element, 'previousSibling', true);
+    mergeWith(entry, joined, 'nextSibling', joined === element);
   }
+  return touched;
+}
 
-  // Where the selection is to begin or end again: at its outermost text, or beside the picture,
-  // island or break that it takes in there.
-  function placesOf(texts, range) {
-    const last = texts.at(-1);
-    const places = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
-    const { startContainer, startOffset, endContainer, endOffset } = range;
-    const leaves = [...velor.selection.leavesIn(range)].filter((leaf) => dom.isShown(leaf) &&
-      (leaf !== startContainer || startOffset < leaf.length) &&
-      (leaf !== endContainer || endOffset > 0));
-    if (!leaves.length) return places;
-    const isThing = (leaf) => dom.isAtom(leaf) || dom.isBreak(leaf);
-    const beside = (leaf, side) => isThing(leaf) && { beside: leaf, side };
-    const [first, end] = [leaves[0], leaves.at(-1)];
-    const from = { node: first, offset: first === startContainer ? startOffset : 0 };
-    const to = { node: end, offset: end === endContainer ? endOffset : end.length };
-    return [
-      beside(first, 0) || (dom.rawAt(first) ? from : places[0]),
-      beside(end, 1) || (dom.rawAt(end) ? to : places[1]),
-    ];
-  }
+function isThere(name, value, range) {
+  const { read, same } = formats[name];
+  const elements = new Set(selection.textsIn(range).map((text) => text.parentNode));
+  return [...elements].every((element) => same(read(element), value));
+}
 
-  // Puts a format on the text of the range and selects that text again.
-  function apply(name, value, range) {
-    if (isThere(name, value, range)) return;
-    const backward = document.getSelection().focusNode === range.startContainer &&
-      document.getSelection().focusOffset === range.startOffset && !range.collapsed;
-    const texts = isolate(range);
-    if (!texts.length) return;
-    const places = placesOf(texts, range);
-    joinTexts(format(name, value, texts), places);
-    const [anchor, focus] = backward ? places.reverse() : places;
-    velor.selection.restore({ anchor, focus });
-  }
+// Where the selection is to begin or end again: at its outermost text, or beside the picture,
+// island or break that it takes in there.
+function placesOf(texts, range) {
+  const last = texts.at(-1);
+  const places = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
+  const { startContainer, startOffset, endContainer, endOffset } = range;
+  const leaves = [...selection.leavesIn(range)].filter((leaf) => dom.isShown(leaf) &&
+    (leaf !== startContainer || startOffset < leaf.length) &&
+    (leaf !== endContainer || endOffset > 0));
+  if (!leaves.length) return places;
+  const isThing = (leaf) => dom.isAtom(leaf) || dom.isBreak(leaf);
+  const beside = (leaf, side) => isThing(leaf) && { beside: leaf, side };
+  const [first, end] = [leaves[0], leaves.at(-1)];
+  const from = { node: first, offset: first === startContainer ? startOffset : 0 };
+  const to = { node: end, offset: end === endContainer ? endOffset : end.length };
+  return [
+    beside(first, 0) || (dom.rawAt(first) ? from : places[0]),
+    beside(end, 1) || (dom.rawAt(end) ? to : places[1]),
+  ];
+}
 
-  velor.inline = { apply, joinTexts };
-})();
+// Puts a format on the text of the range and selects that text again.
+export function apply(name, value, range) {
+  if (isThere(name, value, range)) return;
+  const backward = document.getSelection().focusNode === range.startContainer &&
+    document.getSelection().focusOffset === range.startOffset && !range.collapsed;
+  const texts = isolate(range);
+  if (!texts.length) return;
+  const places = placesOf(texts, range);
+  joinTexts(format(name, value, texts), places);
+  const [anchor, focus] = backward ? places.reverse() : places;
+  selection.restore({ anchor, focus });
+}
+

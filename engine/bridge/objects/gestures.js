@@ -2,267 +2,267 @@
 // What a person does to objects: a press selects, a drag sizes or moves, arrow keys move. A drag
 // shows itself through an animation that stands still, which changes no node; only its end writes,
 // as one step of the history.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const dom = velor.dom;
+import * as boxes from './boxes.js';
+import { gripAt, pointAt, setDragging } from './frame.js';
+import { gridStep, snaps } from './grid.js';
+import * as objects from './objects.js';
+import * as dom from '../page/dom.js';
+import * as history from '../page/history.js';
+import * as selection from '../page/selection.js';
 
-  const slack = 3;  // pixels before a press becomes a drag
-  const least = 1;  // pixels of width and height
-  const stride = 16;  // pixels that the page scrolls in a frame while the pointer is outside
+const slack = 3;  // pixels before a press becomes a drag
+const least = 1;  // pixels of width and height
+const stride = 16;  // pixels that the page scrolls in a frame while the pointer is outside
 
-  let gesture = null;
-  let taken = false;  // the click that ends the press is not another one
+let gesture = null;
+let taken = false;  // the click that ends the press is not another one
 
-  velor.snapToGrid = false;
-  velor.setSnap = (on) => { velor.snapToGrid = on; };
-  const toGrid = (place) => Math.round(place / velor.gridStep) * velor.gridStep;
+const toGrid = (place) => Math.round(place / gridStep) * gridStep;
 
-  function moving({ before }, dx, dy) {
-    if (!velor.snapToGrid) return { dx, dy };
-    return { dx: toGrid(before.left + dx) - before.left, dy: toGrid(before.top + dy) - before.top };
+function moving({ before }, dx, dy) {
+  if (!snaps()) return { dx, dy };
+  return { dx: toGrid(before.left + dx) - before.left, dy: toGrid(before.top + dy) - before.top };
+}
+
+// The size that the handle at `grip` comes to. A corner keeps the ratio of the sides, unless it is
+// told to be free.
+function sizing({ before, grip }, dx, dy, free) {
+  const horizontal = /[ew]/.test(grip);
+  const vertical = /[ns]/.test(grip);
+  let width = Math.max(least, before.width + (grip.includes('w') ? -dx : dx));
+  let height = Math.max(least, before.height + (grip.includes('n') ? -dy : dy));
+  const kept = horizontal && vertical && !free;
+  if (kept) {
+    // The side that is drawn further leads.
+    const scale = [width / before.width, height / before.height]
+      .reduce((one, other) => (Math.abs(other - 1) > Math.abs(one - 1) ? other : one));
+    width = Math.max(1, before.width * scale);
+    height = Math.max(1, before.height * scale);
   }
-
-  // The size that the handle at `grip` comes to. A corner keeps the ratio of the sides, unless it is
-  // told to be free.
-  function sizing({ before, grip }, dx, dy, free) {
-    const horizontal = /[ew]/.test(grip);
-    const vertical = /[ns]/.test(grip);
-    let width = Math.max(least, before.width + (grip.includes('w') ? -dx : dx));
-    let height = Math.max(least, before.height + (grip.includes('n') ? -dy : dy));
-    const kept = horizontal && vertical && !free;
-    if (kept) {
-      // The side that is drawn further leads.
-      const scale = [width / before.width, height / before.height]
-        .reduce((one, other) => (Math.abs(other - 1) > Math.abs(one - 1) ? other : one));
-      width = Math.max(1, before.width * scale);
-      height = Math.max(1, before.height * scale);
-    }
-    const change = {};
-    // A picture of which the page says one side only has the other by its own shape.
-    const byShape = (auto, other) => before.keepsShape && kept && auto && !other;
-    const held = (auto, side) => side || before.keepsShape && auto;
-    if (held(before.autoWidth, horizontal) && !byShape(before.autoWidth, before.autoHeight)) {
-      change.width = horizontal ? width : before.width;
-    }
-    if (held(before.autoHeight, vertical) && !byShape(before.autoHeight, before.autoWidth)) {
-      change.height = vertical ? height : before.height;
-    }
-    if (grip.includes('w')) change.dx = before.width - width;
-    if (grip.includes('n')) change.dy = before.height - height;
-    return change;
+  const change = {};
+  // A picture of which the page says one side only has the other by its own shape.
+  const byShape = (auto, other) => before.keepsShape && kept && auto && !other;
+  const held = (auto, side) => side || before.keepsShape && auto;
+  if (held(before.autoWidth, horizontal) && !byShape(before.autoWidth, before.autoHeight)) {
+    change.width = horizontal ? width : before.width;
   }
-
-  function show({ object, before, change }) {
-    const frames = Object.fromEntries(Object.entries(velor.objects.properties(before, change))
-      .map(([property, pixels]) => [property, [`${pixels}px`, `${pixels}px`]]));
-    if (gesture.preview) {
-      gesture.preview.effect.setKeyframes(frames);
-    } else {
-      gesture.preview = object.animate(frames, { duration: 1, fill: 'both' });
-      gesture.preview.pause();
-    }
-    velor.setDragging({
-      grid: gesture.grip === 'move' && velor.snapToGrid ? velor.objects.measure(object) : null });
+  if (held(before.autoHeight, vertical) && !byShape(before.autoHeight, before.autoWidth)) {
+    change.height = vertical ? height : before.height;
   }
+  if (grip.includes('w')) change.dx = before.width - width;
+  if (grip.includes('n')) change.dy = before.height - height;
+  return change;
+}
 
-  // A place of the viewport among what the object lies in, however that is scrolled.
-  function placeFor(object, { clientX, clientY }) {
-    const { x, y } = velor.boxes.scrolled(object);
-    return { x: clientX + x, y: clientY + y };
+function show({ object, before, change }) {
+  const frames = Object.fromEntries(Object.entries(objects.properties(before, change))
+    .map(([property, pixels]) => [property, [`${pixels}px`, `${pixels}px`]]));
+  if (gesture.preview) {
+    gesture.preview.effect.setKeyframes(frames);
+  } else {
+    gesture.preview = object.animate(frames, { duration: 1, fill: 'both' });
+    gesture.preview.pause();
   }
+  setDragging({
+    grid: gesture.grip === 'move' && snaps() ? objects.measure(object) : null });
+}
 
-  function drag({ clientX, clientY, shiftKey }) {
-    const { object, grip, from, before: { scale } } = gesture;
-    gesture.last = { clientX, clientY, shiftKey };
-    const { x, y } = placeFor(object, gesture.last);
-    if (!gesture.change && Math.max(Math.abs(x - from.x), Math.abs(y - from.y)) < slack) return;
-    const [dx, dy] = [(x - from.x) / scale.x, (y - from.y) / scale.y];
-    gesture.change = grip === 'move' ? moving(gesture, dx, dy) : sizing(gesture, dx, dy, shiftKey);
-    show(gesture);
-    scrollOn();
+// A place of the viewport among what the object lies in, however that is scrolled.
+function placeFor(object, { clientX, clientY }) {
+  const { x, y } = boxes.scrolled(object);
+  return { x: clientX + x, y: clientY + y };
+}
+
+function drag({ clientX, clientY, shiftKey }) {
+  const { object, grip, from, before: { scale } } = gesture;
+  gesture.last = { clientX, clientY, shiftKey };
+  const { x, y } = placeFor(object, gesture.last);
+  if (!gesture.change && Math.max(Math.abs(x - from.x), Math.abs(y - from.y)) < slack) return;
+  const [dx, dy] = [(x - from.x) / scale.x, (y - from.y) / scale.y];
+  gesture.change = grip === 'move' ? moving(gesture, dx, dy) : sizing(gesture, dx, dy, shiftKey);
+  show(gesture);
+  scrollOn();
+}
+
+// While the pointer is held outside the window the page comes to meet it.
+function scrollOn() {
+  if (gesture.scrolls) return;
+  const { clientX: x, clientY: y } = gesture.last;
+  const towards = (place, end) => (place < 0 ? -stride : place >= end ? stride : 0);
+  const [right, down] = [towards(x, innerWidth), towards(y, innerHeight)];
+  if (!right && !down) return;
+  const scrolling = gesture;
+  scrolling.scrolls = true;
+  requestAnimationFrame(() => {
+    scrolling.scrolls = false;
+    if (gesture !== scrolling) return;
+    const before = [scrollX, scrollY].join();
+    scrollBy(right, down);
+    if ([scrollX, scrollY].join() !== before) drag(gesture.last);
+  });
+}
+
+function end() {
+  const ended = gesture;
+  gesture = null;
+  ended.preview?.cancel();
+  setDragging(null);
+  return ended;
+}
+const cancel = () => { if (gesture) end(); };
+
+function release(event) {
+  if (!gesture) return;
+  const { object, change, before, grip } = gesture;
+  const shown = objects.measure(object);
+  // An object does not become smaller than what it holds, nor larger than its page lets it: what is
+  // seen is what is written.
+  for (const side of ['width', 'height']) {
+    if (change && side in change) change[side] = shown[side];
   }
-
-  // While the pointer is held outside the window the page comes to meet it.
-  function scrollOn() {
-    if (gesture.scrolls) return;
-    const { clientX: x, clientY: y } = gesture.last;
-    const towards = (place, end) => (place < 0 ? -stride : place >= end ? stride : 0);
-    const [right, down] = [towards(x, innerWidth), towards(y, innerHeight)];
-    if (!right && !down) return;
-    const scrolling = gesture;
-    scrolling.scrolls = true;
-    requestAnimationFrame(() => {
-      scrolling.scrolls = false;
-      if (gesture !== scrolling) return;
-      const before = [scrollX, scrollY].join();
-      scrollBy(right, down);
-      if ([scrollX, scrollY].join() !== before) drag(gesture.last);
-    });
+  const same = ['width', 'height', 'left', 'top', 'right', 'bottom']
+    .every((side) => Math.abs(shown[side] - before[side]) < 0.5);
+  const { again } = end();
+  if (change && same) return;
+  if (change) history.step('drag', () => objects.write(object, before, change));
+  else if (again && grip === 'move' && objects.isBox(object)) {
+    pointAt('');
+    objects.enter(object, event);
   }
+}
 
-  function end() {
-    const ended = gesture;
-    gesture = null;
-    ended.preview?.cancel();
-    velor.setDragging(null);
-    return ended;
+function begin(object, grip, again, event) {
+  gesture = { object, grip, again, from: placeFor(object, event), change: null, preview: null,
+    before: objects.measure(object) };
+}
+
+// A picture in the text can be dragged to another place in it, which the engine does; a click
+// selects it.
+const dragsByEngine = (object) => object.tagName === 'IMG' && !objects.isMovable(object);
+
+function press(event) {
+  cancel();
+  taken = false;
+  if (!dom.isEditable()) return;
+  const selected = objects.selected();
+  if (event.button === 1) {
+    // The engine is about to paste: beside what is selected, never in its place.
+    if (selected) selection.setCaretAt(event.clientX, event.clientY);
+    return;
   }
-  const cancel = () => { if (gesture) end(); };
+  const grip = selected && gripAt(selected, event);
+  const object = grip ? selected : objects.at(event);
+  if (!object) return;
+  if (!grip && event.button === 0 && dragsByEngine(object)) return;
+  selection.selectNode(object);
+  taken = true;
+  event.preventDefault();
+  document.body.focus({ preventScroll: true });
+  if (event.button !== 0) return;
+  if (grip) begin(object, grip, true, event);
+  else if (objects.isMovable(object)) begin(object, 'move', false, event);
+}
 
-  function release(event) {
-    if (!gesture) return;
-    const { object, change, before, grip } = gesture;
-    const shown = velor.objects.measure(object);
-    // An object does not become smaller than what it holds, nor larger than its page lets it: what is
-    // seen is what is written.
-    for (const side of ['width', 'height']) {
-      if (change && side in change) change[side] = shown[side];
-    }
-    const same = ['width', 'height', 'left', 'top', 'right', 'bottom']
-      .every((side) => Math.abs(shown[side] - before[side]) < 0.5);
-    const { again } = end();
-    if (change && same) return;
-    if (change) velor.history.step('drag', () => velor.objects.write(object, before, change));
-    else if (again && grip === 'move' && velor.objects.isBox(object)) {
-      velor.pointAt('');
-      velor.objects.enter(object, event);
-    }
+function move(event) {
+  if (gesture && !(event.buttons & 1)) cancel();
+  if (gesture) {
+    drag(event);
+    return;
   }
+  const selected = objects.selected();
+  pointAt((selected && gripAt(selected, event)) ?? '');
+}
 
-  function begin(object, grip, again, event) {
-    gesture = { object, grip, again, from: placeFor(object, event), change: null, preview: null,
-      before: velor.objects.measure(object) };
+function click(event) {
+  const object = taken ? null : objects.at(event);
+  if (object) selection.selectNode(object);
+}
+
+const steps = new Map([
+  ['ArrowLeft', [-1, 0]], ['ArrowRight', [1, 0]], ['ArrowUp', [0, -1]], ['ArrowDown', [0, 1]],
+]);
+
+// The next line of the grid in a direction.
+function nextLine(place, direction) {
+  if (!direction) return place;
+  const lines = place / gridStep;
+  return (direction > 0 ? Math.floor(lines) + 1 : Math.ceil(lines) - 1) * gridStep;
+}
+
+// A run of moves is one step. With Ctrl the grid does not count.
+function nudge(object, [x, y], fine) {
+  const before = objects.measure(object);
+  const { left, top } = before;
+  const change = snaps() && !fine
+    ? { dx: nextLine(left, x) - left, dy: nextLine(top, y) - top } : { dx: x, dy: y };
+  history.expect('nudge', true);
+  objects.write(object, before, change);
+  history.arrive();
+}
+
+// The object that comes next on one side of the caret, within its cell; null where text does or a
+// paragraph with text.
+function objectBeside({ startContainer: node, startOffset: offset }, forward) {
+  const side = forward ? 'nextSibling' : 'previousSibling';
+  let beside = null;
+  if (dom.isText(node)) {
+    if (forward ? offset < node.length : offset > 0) return null;
+  } else {
+    beside = node.childNodes[forward ? offset : offset - 1] ?? null;
+    if (beside && !dom.isShown(beside)) beside = dom.neighbour(beside, side);
   }
+  for (let at = node; !beside && !dom.isCell(at); at = at.parentNode) {
+    beside = dom.neighbour(at, side);
+  }
+  while (beside && !dom.isObject(beside)) {
+    if (!dom.isInline(beside)) return null;
+    const within = [...beside.childNodes].filter(dom.isShown);
+    beside = within.at(forward ? 0 : -1) ?? null;
+  }
+  return beside;
+}
 
-  // A picture in the text can be dragged to another place in it, which the engine does; a click
-  // selects it.
-  const dragsByEngine = (object) => object.tagName === 'IMG' && !velor.objects.isMovable(object);
+function extendOver(range, key) {
+  const { direction } = getComputedStyle(selection.element());
+  const forward = key === 'ArrowDown' || (key === 'ArrowRight') === (direction === 'ltr') &&
+    key !== 'ArrowUp';
+  const object = objectBeside(range, forward);
+  if (!object) return false;
+  const index = selection.indexOf(object);
+  const [from, to] = forward ? [index, index + 1] : [index + 1, index];
+  const { parentNode } = object;
+  document.getSelection().setBaseAndExtent(parentNode, from, parentNode, to);
+  return true;
+}
 
-  function press(event) {
+function keyDown(event) {
+  const { key, ctrlKey, altKey, metaKey, shiftKey } = event;
+  if (gesture && !/^(Shift|Control|Alt)$/.test(key)) {
     cancel();
-    taken = false;
-    if (!velor.editable()) return;
-    const selected = velor.objects.selected();
-    if (event.button === 1) {
-      // The engine is about to paste: beside what is selected, never in its place.
-      if (selected) velor.caretAt(event.clientX, event.clientY);
-      return;
-    }
-    const grip = selected && velor.gripAt(selected, event);
-    const object = grip ? selected : velor.objects.at(event);
-    if (!object) return;
-    if (!grip && event.button === 0 && dragsByEngine(object)) return;
-    velor.selection.selectNode(object);
-    taken = true;
+    if (key === 'Escape') event.preventDefault();
+    return;
+  }
+  if (!dom.isEditable() || event.isComposing || altKey || metaKey) return;
+  const range = selection.range();
+  const object = selection.control(range);
+  if (key === 'Escape') objects.leave(object);
+  if (!steps.has(key)) return;
+  if (shiftKey) {
+    if (!ctrlKey && range?.collapsed && extendOver(range, key)) event.preventDefault();
+  } else if (object && objects.isMovable(object)) {
     event.preventDefault();
-    document.body.focus({ preventScroll: true });
-    if (event.button !== 0) return;
-    if (grip) begin(object, grip, true, event);
-    else if (velor.objects.isMovable(object)) begin(object, 'move', false, event);
+    nudge(object, steps.get(key), ctrlKey);
   }
+}
 
-  function move(event) {
-    if (gesture && !(event.buttons & 1)) cancel();
-    if (gesture) {
-      drag(event);
-      return;
-    }
-    const selected = velor.objects.selected();
-    velor.pointAt((selected && velor.gripAt(selected, event)) ?? '');
-  }
-
-  function click(event) {
-    const object = taken ? null : velor.objects.at(event);
-    if (object) velor.selection.selectNode(object);
-  }
-
-  const steps = new Map([
-    ['ArrowLeft', [-1, 0]], ['ArrowRight', [1, 0]], ['ArrowUp', [0, -1]], ['ArrowDown', [0, 1]],
-  ]);
-
-  // The next line of the grid in a direction.
-  function nextLine(place, direction) {
-    if (!direction) return place;
-    const lines = place / velor.gridStep;
-    return (direction > 0 ? Math.floor(lines) + 1 : Math.ceil(lines) - 1) * velor.gridStep;
-  }
-
-  // A run of moves is one step. With Ctrl the grid does not count.
-  function nudge(object, [x, y], fine) {
-    const before = velor.objects.measure(object);
-    const { left, top } = before;
-    const change = velor.snapToGrid && !fine
-      ? { dx: nextLine(left, x) - left, dy: nextLine(top, y) - top } : { dx: x, dy: y };
-    velor.history.expect('nudge', true);
-    velor.objects.write(object, before, change);
-    velor.history.arrive();
-  }
-
-  // The object that comes next on one side of the caret, within its cell; null where text does or a
-  // paragraph with text.
-  function objectBeside({ startContainer: node, startOffset: offset }, forward) {
-    const side = forward ? 'nextSibling' : 'previousSibling';
-    let beside = null;
-    if (dom.isText(node)) {
-      if (forward ? offset < node.length : offset > 0) return null;
-    } else {
-      beside = node.childNodes[forward ? offset : offset - 1] ?? null;
-      if (beside && !dom.isShown(beside)) beside = dom.neighbour(beside, side);
-    }
-    for (let at = node; !beside && !dom.isCell(at); at = at.parentNode) {
-      beside = dom.neighbour(at, side);
-    }
-    while (beside && !dom.isObject(beside)) {
-      if (!dom.isInline(beside)) return null;
-      const within = [...beside.childNodes].filter(dom.isShown);
-      beside = within.at(forward ? 0 : -1) ?? null;
-    }
-    return beside;
-  }
-
-  function extendOver(range, key) {
-    const { direction } = getComputedStyle(velor.selection.element());
-    const forward = key === 'ArrowDown' || (key === 'ArrowRight') === (direction === 'ltr') &&
-      key !== 'ArrowUp';
-    const object = objectBeside(range, forward);
-    if (!object) return false;
-    const index = velor.selection.indexOf(object);
-    const [from, to] = forward ? [index, index + 1] : [index + 1, index];
-    const { parentNode } = object;
-    document.getSelection().setBaseAndExtent(parentNode, from, parentNode, to);
-    return true;
-  }
-
-  function keyDown(event) {
-    const { key, ctrlKey, altKey, metaKey, shiftKey } = event;
-    if (gesture && !/^(Shift|Control|Alt)$/.test(key)) {
-      cancel();
-      if (key === 'Escape') event.preventDefault();
-      return;
-    }
-    if (!velor.editable() || event.isComposing || altKey || metaKey) return;
-    const range = velor.selection.range();
-    const object = velor.selection.control(range);
-    if (key === 'Escape') velor.objects.leave(object);
-    if (!steps.has(key)) return;
-    if (shiftKey) {
-      if (!ctrlKey && range?.collapsed && extendOver(range, key)) event.preventDefault();
-    } else if (object && velor.objects.isMovable(object)) {
-      event.preventDefault();
-      nudge(object, steps.get(key), ctrlKey);
-    }
-  }
-
-  velor.listenToGestures = () => {
-    gesture = null;
-    const listen = (name, handler) => document.addEventListener(name, handler, true);
-    listen('mousedown', press);
-    listen('mousemove', move);
-    listen('mouseup', release);
-    listen('click', click);
-    listen('keydown', keyDown);
-    listen('input', velor.objects.typed);
-    addEventListener('blur', cancel);
-  };
-})();
+export const listenToGestures = () => {
+  gesture = null;
+  const listen = (name, handler) => document.addEventListener(name, handler, true);
+  listen('mousedown', press);
+  listen('mousemove', move);
+  listen('mouseup', release);
+  listen('click', click);
+  listen('keydown', keyDown);
+  listen('input', objects.typed);
+  addEventListener('blur', cancel);
+};

@@ -2,144 +2,144 @@
 // Show details: the signs for what no style sheet can mark, since it has no box to hang a glyph on
 // (breaks, comments, scripts, hidden fields) or no name that a rule could give (tags that HTML does
 // not know). They are drawn over the page, those in sight only.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const dom = velor.dom;
+import * as boxes from './boxes.js';
+import * as overlay from './overlay.js';
+import * as dom from '../page/dom.js';
 
-  const most = 4000;  // nodes looked at for one drawing
-  const height = 12;  // pixels
-  const overlap = 3;  // pixels of a badge that lie on its line
+const most = 4000;  // nodes looked at for one drawing
+const height = 12;  // pixels
+const overlap = 3;  // pixels of a badge that lie on its line
 
-  const picture = (width, content) => {
-    const svg = `<svg xmlns="http://www.w3.org/2000/svg" width="${width}" height="${height}">` +
-      `${content}</svg>`;
-    return { image: `url("data:image/svg+xml,${encodeURIComponent(svg)}")`, width, height };
-  };
-  const mark = (width, text) => picture(width,
-    `<rect x="0.5" y="0.5" width="${width - 1}" height="${height - 1}" rx="1.5" fill="#fdf6d8"` +
-    ' stroke="#b58900"/><text x="50%" y="9" font-family="sans-serif" font-size="9"' +
-    ` text-anchor="middle" fill="#7a5c00">${text}</text>`);
-  const arrow = (path) => picture(12, `<path d="${path}" fill="none" stroke="#3465a4"/>`);
-  const breaks = {
-    ltr: arrow('M10 2v5H3M5.5 4.5L3 7l2.5 2.5'), rtl: arrow('M2 2v5H9M6.5 4.5L9 7l-2.5 2.5'),
-  };
-  const badges = new Map();
-  function badge(text) {
-    const short = text.replace(/[^\w:.-]/g, '').slice(0, 12);
-    if (!badges.has(short)) badges.set(short, mark(Math.ceil(6 + 5.7 * short.length), short));
-    return badges.get(short);
-  }
-  const comment = mark(16, '!--');
+const picture = (width, content) => {
+  const svg = `<svg xmlns="http://www.w3.org/2000/svg" width="${width}" height="${height}">` +
+    `${content}</svg>`;
+  return { image: `url("data:image/svg+xml,${encodeURIComponent(svg)}")`, width, height };
+};
+const mark = (width, text) => picture(width,
+  `<rect x="0.5" y="0.5" width="${width - 1}" height="${height - 1}" rx="1.5" fill="#fdf6d8"` +
+  ' stroke="#b58900"/><text x="50%" y="9" font-family="sans-serif" font-size="9"' +
+  ` text-anchor="middle" fill="#7a5c00">${text}</text>`);
+const arrow = (path) => picture(12, `<path d="${path}" fill="none" stroke="#3465a4"/>`);
+const breaks = {
+  ltr: arrow('M10 2v5H3M5.5 4.5L3 7l2.5 2.5'), rtl: arrow('M2 2v5H9M6.5 4.5L9 7l-2.5 2.5'),
+};
+const badges = new Map();
+function badge(text) {
+  const short = text.replace(/[^\w:.-]/g, '').slice(0, 12);
+  if (!badges.has(short)) badges.set(short, mark(Math.ceil(6 + 5.7 * short.length), short));
+  return badges.get(short);
+}
+const comment = mark(16, '!--');
 
-  const silent = /^(BASE|LINK|MAP|META|NOSCRIPT|SCRIPT|STYLE|TEMPLATE|TITLE)$/;
-  const boxless = /^(APPLET|EMBED|OBJECT|VIDEO|AUDIO)$/;
-  function signOf(node) {
-    if (node.nodeType === Node.COMMENT_NODE) return comment;
-    if (!dom.isElement(node)) return null;
-    const { tagName, localName } = node;
-    if (tagName === 'BR') return breaks[getComputedStyle(node.parentElement).direction];
-    if (tagName === 'INPUT') return node.type === 'hidden' ? badge('hidden') : null;
-    const unknown = node instanceof HTMLUnknownElement || localName.includes('-');
-    const marked = silent.test(tagName) || unknown ||
-      boxless.test(tagName) && !velor.boxes.firstBoxOf(node)?.width;
-    return marked ? badge(localName) : null;
-  }
+const silent = /^(BASE|LINK|MAP|META|NOSCRIPT|SCRIPT|STYLE|TEMPLATE|TITLE)$/;
+const boxless = /^(APPLET|EMBED|OBJECT|VIDEO|AUDIO)$/;
+function signOf(node) {
+  if (node.nodeType === Node.COMMENT_NODE) return comment;
+  if (!dom.isElement(node)) return null;
+  const { tagName, localName } = node;
+  if (tagName === 'BR') return breaks[getComputedStyle(node.parentElement).direction];
+  if (tagName === 'INPUT') return node.type === 'hidden' ? badge('hidden') : null;
+  const unknown = node instanceof HTMLUnknownElement || localName.includes('-');
+  const marked = silent.test(tagName) || unknown ||
+    boxless.test(tagName) && !boxes.firstBoxOf(node)?.width;
+  return marked ? badge(localName) : null;
+}
 
-  // Where something stands: at its own start, else at the start of what follows it, else at the end
-  // of what is before it, else in its parent.
-  function placeOf(node, { width }) {
-    const isLtr = getComputedStyle(node.parentElement).direction === 'ltr';
-    const startOf = ({ left, right, top }) => ({ x: isLtr ? left : right - width, y: top });
-    const endOf = ({ left, right, top }) => ({ x: isLtr ? right : left - width, y: top });
-    const { boxOf, firstBoxOf } = velor.boxes;
-    const boxed = (at) => at && firstBoxOf(at);
-    const own = dom.isElement(node) && boxed(node);
-    if (own?.width) return startOf(own);
-    const next = boxed(dom.neighbour(node, 'nextSibling'));
-    if (next) return startOf(next);
-    const before = boxed(dom.neighbour(node, 'previousSibling'));
-    return before ? endOf(before) : startOf(boxOf(node.parentElement));
-  }
-  function layerOf(node, sign, others) {
-    if (!dom.isBreak(node)) {
-      // Above the line that it stands before, so that the text can be read; beside another one.
-      const place = placeOf(node, sign);
-      const y = Math.max(-scrollY, place.y + overlap - height);
-      let { x } = place;
-      const inTheWay = (other) => Math.abs(other.y - y) < height && other.x < x + sign.width &&
-        x < other.x + other.width;
-      for (let other = others.find(inTheWay); other; other = others.find(inTheWay)) {
-        x = other.x + other.width + 1;
-      }
-      return { ...sign, node, x, y };
+// Where something stands: at its own start, else at the start of what follows it, else at the end
+// of what is before it, else in its parent.
+function placeOf(node, { width }) {
+  const isLtr = getComputedStyle(node.parentElement).direction === 'ltr';
+  const startOf = ({ left, right, top }) => ({ x: isLtr ? left : right - width, y: top });
+  const endOf = ({ left, right, top }) => ({ x: isLtr ? right : left - width, y: top });
+    const boxed = (at) => at && boxes.firstBoxOf(at);
+  const own = dom.isElement(node) && boxed(node);
+  if (own?.width) return startOf(own);
+  const next = boxed(dom.neighbour(node, 'nextSibling'));
+  if (next) return startOf(next);
+  const before = boxed(dom.neighbour(node, 'previousSibling'));
+  return before ? endOf(before) : startOf(boxes.boxOf(node.parentElement));
+}
+function layerOf(node, sign, others) {
+  if (!dom.isBreak(node)) {
+    // Above the line that it stands before, so that the text can be read; beside another one.
+    const place = placeOf(node, sign);
+    const y = Math.max(-scrollY, place.y + overlap - height);
+    let { x } = place;
+    const inTheWay = (other) => Math.abs(other.y - y) < height && other.x < x + sign.width &&
+      x < other.x + other.width;
+    for (let other = others.find(inTheWay); other; other = others.find(inTheWay)) {
+      x = other.x + other.width + 1;
     }
-    const box = velor.boxes.firstBoxOf(node);
-    if (!box) return null;
-    const x = sign === breaks.ltr ? box.left : box.right - sign.width;
-    return { ...sign, node, x, y: box.top + (box.height - height) / 2 };
+    return { ...sign, node, x, y };
   }
+  const box = boxes.firstBoxOf(node);
+  if (!box) return null;
+  const x = sign === breaks.ltr ? box.left : box.right - sign.width;
+  return { ...sign, node, x, y: box.top + (box.height - height) / 2 };
+}
 
-  // The nodes in sight lie between those at the viewport's corners.
-  function inSight() {
-    const { clientWidth, clientHeight } = document.documentElement;
-    const columns = [2, clientWidth / 2, clientWidth - 2];
-    const nodesAt = (y) => columns.map((x) => document.caretRangeFromPoint(x, y))
-      .filter(Boolean).map(({ startContainer, startOffset }) =>
-        startContainer.childNodes[startOffset] ?? startContainer);
-    const precedes = (one, other) =>
-      (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1);
-    return {
-      first: nodesAt(1).sort(precedes)[0] ?? document.body,
-      last: nodesAt(clientHeight - 1).sort(precedes).at(-1) ?? null,
-    };
-  }
-
-  function layers() {
-    const signs = [];
-    const walker = document.createTreeWalker(
-      document.body, NodeFilter.SHOW_ELEMENT | NodeFilter.SHOW_COMMENT | NodeFilter.SHOW_TEXT);
-    const { first, last } = inSight();
-    walker.currentNode = first;
-    // What stands just before the first text in sight belongs to it.
-    for (let back = 0; back < 5 && walker.previousNode(); back++);
-    // And a few more behind the last one.
-    let rest = most;
-    for (let node = walker.currentNode; node && rest > 0; node = walker.nextNode(), rest--) {
-      if (last && rest > 50 && last.compareDocumentPosition(node) ===
-          Node.DOCUMENT_POSITION_FOLLOWING) rest = 50;
-      const sign = signOf(node);
-      const layer = sign && layerOf(node, sign, signs);
-      if (layer) signs.push(layer);
-    }
-    return signs;
-  }
-
-  let shown = false;
-  let found = [];
-  function redraw() {
-    found = shown && velor.editable() ? layers() : [];
-    if (!found.length) {
-      velor.overlay.clear('details');
-      return;
-    }
-    const { clientWidth: right, clientHeight: bottom } = document.documentElement;
-    velor.overlay.draw('details', { left: 0, top: 0, right, bottom }, found);
-  }
-
-  const boxOfLayer = ({ x, y, width }) =>
-    ({ left: x, top: y, right: x + width, bottom: y + height, width, height });
-  velor.glyphs = {
-    show(on) {
-      shown = on;
-      velor.overlay.follow();
-    },
-    // The node whose sign a mouse event is on, and where a node's sign is; null where none is seen.
-    at: (event) => found.find((layer) => velor.boxes.holds(boxOfLayer(layer), event))?.node ?? null,
-    boxOf(node) {
-      const layer = found.find((each) => each.node === node);
-      return layer ? boxOfLayer(layer) : null;
-    },
+// The nodes in sight lie between those at the viewport's corners.
+function inSight() {
+  const { clientWidth, clientHeight } = document.documentElement;
+  const columns = [2, clientWidth / 2, clientWidth - 2];
+  const nodesAt = (y) => columns.map((x) => document.caretRangeFromPoint(x, y))
+    .filter(Boolean).map(({ startContainer, startOffset }) =>
+      startContainer.childNodes[startOffset] ?? startContainer);
+  const precedes = (one, other) =>
+    (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1);
+  return {
+    first: nodesAt(1).sort(precedes)[0] ?? document.body,
+    last: nodesAt(clientHeight - 1).sort(precedes).at(-1) ?? null,
   };
-  velor.overlay.add(redraw);
-})();
+}
+
+function layers() {
+  const signs = [];
+  const walker = document.createTreeWalker(
+    document.body, NodeFilter.SHOW_ELEMENT | NodeFilter.SHOW_COMMENT | NodeFilter.SHOW_TEXT);
+  const { first, last } = inSight();
+  walker.currentNode = first;
+  // What stands just before the first text in sight belongs to it.
+  for (let back = 0; back < 5 && walker.previousNode(); back++);
+  // And a few more behind the last one.
+  let rest = most;
+  for (let node = walker.currentNode; node && rest > 0; node = walker.nextNode(), rest--) {
+    if (last && rest > 50 && last.compareDocumentPosition(node) ===
+        Node.DOCUMENT_POSITION_FOLLOWING) rest = 50;
+    const sign = signOf(node);
+    const layer = sign && layerOf(node, sign, signs);
+    if (layer) signs.push(layer);
+  }
+  return signs;
+}
+
+let shown = false;
+let found = [];
+function redraw() {
+  found = shown && dom.isEditable() ? layers() : [];
+  if (!found.length) {
+    overlay.clear('details');
+    return;
+  }
+  const { clientWidth: right, clientHeight: bottom } = document.documentElement;
+  overlay.draw('details', { left: 0, top: 0, right, bottom }, found);
+}
+
+const boxOfLayer = ({ x, y, width }) =>
+  ({ left: x, top: y, right: x + width, bottom: y + height, width, height });
+export function show(on) {
+  shown = on;
+  overlay.follow();
+}
+
+// The node whose sign a mouse event is on; null where none is seen.
+export const nodeAt = (event) =>
+  found.find((layer) => boxes.holds(boxOfLayer(layer), event))?.node ?? null;
+
+// Where a node's sign is; null where none is seen.
+export function boxOf(node) {
+  const layer = found.find((each) => each.node === node);
+  return layer ? boxOfLayer(layer) : null;
+}
+
+overlay.add(redraw);

@@ -1,228 +1,225 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Objects: what is selected, sized and moved as a whole. Which one a place of the page means, how
 // large it is and where, and how a new size and place are written the way the page has them.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const dom = velor.dom;
+import { putDeclaration } from '../formats/declarations.js';
+import * as boxes from './boxes.js';
+import * as glyphs from './glyphs.js';
+import * as dom from '../page/dom.js';
+import * as selection from '../page/selection.js';
 
-  const selected = () => velor.selection.control(velor.selection.range());
+export const selected = () => selection.control(selection.range());
 
-  // Boxes that are moved about: those with a place of their own, outside the flow.
-  const isMovable = (node) => dom.isElement(node) && node !== document.body &&
-    /^(absolute|fixed)$/.test(getComputedStyle(node).position);
-  // Those that text is typed in; they are entered by a second click.
-  const isBox = (node) => isMovable(node) && !dom.isAtom(node);
+// Boxes that are moved about: those with a place of their own, outside the flow.
+export const isMovable = (node) => dom.isElement(node) && node !== document.body &&
+  /^(absolute|fixed)$/.test(getComputedStyle(node).position);
+// Those that text is typed in; they are entered by a second click.
+export const isBox = (node) => isMovable(node) && !dom.isAtom(node);
 
-  const edge = 2;      // pixels within a box's border that still count as its border
-  const outerEdge = 4; // and around a table, whose border may have no width at all
-  function isAtEdge(node, { clientX: x, clientY: y }) {
-    const { left, top, right, bottom } = velor.boxes.boxOf(node);
-    const distance = Math.min(x - left, right - x, y - top, bottom - y);
-    const border = Math.max(node.clientLeft, node.clientTop) * velor.boxes.zoomOf(node);
-    return distance >= -outerEdge && distance <= edge + border;
-  }
+const edge = 2;      // pixels within a box's border that still count as its border
+const outerEdge = 4; // and around a table, whose border may have no width at all
+function isAtEdge(node, { clientX: x, clientY: y }) {
+  const { left, top, right, bottom } = boxes.boxOf(node);
+  const distance = Math.min(x - left, right - x, y - top, bottom - y);
+  const border = Math.max(node.clientLeft, node.clientTop) * boxes.zoomOf(node);
+  return distance >= -outerEdge && distance <= edge + border;
+}
 
-  // The box that the person went into: clicks there place the caret.
-  let entered = null;
-  const isEntered = (node) => node === entered && node.contains(document.getSelection().anchorNode);
+// The box that the person went into: clicks there place the caret.
+let entered = null;
+const isEntered = (node) => node === entered && node.contains(document.getSelection().anchorNode);
 
-  function meant(node, place) {
-    for (let at = node; at && at !== document.body; at = at.parentElement) {
-      if (at.tagName === 'TABLE' || isMovable(at)) {
-        if (at === node && at.tagName === 'TABLE' || isAtEdge(at, place)) return at;
-        if (!isMovable(at)) continue;
-        return isEntered(at) ? null : at;
-      }
-      if (dom.isObject(at) && (dom.isAtom(at) || isAtEdge(at, place))) return at;
+function meant(node, place) {
+  for (let at = node; at && at !== document.body; at = at.parentElement) {
+    if (at.tagName === 'TABLE' || isMovable(at)) {
+      if (at === node && at.tagName === 'TABLE' || isAtEdge(at, place)) return at;
+      if (!isMovable(at)) continue;
+      return isEntered(at) ? null : at;
     }
-    return null;
+    if (dom.isObject(at) && (dom.isAtom(at) || isAtEdge(at, place))) return at;
   }
+  return null;
+}
 
-  const closed = 'IFRAME, OBJECT, EMBED, APPLET, VIDEO, AUDIO';
-  // The object that a mouse event means; null for text.
-  function at(event) {
-    const { target, clientX: x, clientY: y } = event;
-    if (!velor.editable() || !(target instanceof Element)) return null;
-    const sign = velor.glyphs.at(event);
-    if (dom.isObject(sign)) return sign;
-    const inside = [...document.querySelectorAll(closed)]
-      .filter((element) => velor.boxes.holds(velor.boxes.boxOf(element), event)).at(-1);
-    if (inside) return inside;
-    if (target.tagName === 'AREA') {
-      const name = target.closest('MAP')?.name ?? '';
-      const image = document.querySelector(`img[usemap="#${CSS.escape(name)}"]`);
-      if (image) return image;
-    }
-    const found = meant(target, event);
-    if (found) return found;
-    for (const [dx, dy] of [[outerEdge, 0], [-outerEdge, 0], [0, outerEdge], [0, -outerEdge]]) {
-      const table = document.elementFromPoint(x + dx, y + dy)?.closest('TABLE');
-      if (table && !table.contains(target) && isAtEdge(table, event)) return table;
-    }
-    return null;
+const closed = 'IFRAME, OBJECT, EMBED, APPLET, VIDEO, AUDIO';
+// The object that a mouse event means; null for text.
+export function at(event) {
+  const { target, clientX: x, clientY: y } = event;
+  if (!dom.isEditable() || !(target instanceof Element)) return null;
+  const sign = glyphs.nodeAt(event);
+  if (dom.isObject(sign)) return sign;
+  const inside = [...document.querySelectorAll(closed)]
+    .filter((element) => boxes.holds(boxes.boxOf(element), event)).at(-1);
+  if (inside) return inside;
+  if (target.tagName === 'AREA') {
+    const name = target.closest('MAP')?.name ?? '';
+    const image = document.querySelector(`img[usemap="#${CSS.escape(name)}"]`);
+    if (image) return image;
   }
-
-  // Puts the caret into a box, to the place that was clicked.
-  function enter(box, { clientX, clientY }) {
-    const place = document.caretRangeFromPoint(clientX, clientY);
-    const inside = place && box.contains(place.startContainer);
-    entered = box;
-    velor.selection.setCaret(...(inside ? [place.startContainer, place.startOffset] : [box, 0]));
+  const found = meant(target, event);
+  if (found) return found;
+  for (const [dx, dy] of [[outerEdge, 0], [-outerEdge, 0], [0, outerEdge], [0, -outerEdge]]) {
+    const table = document.elementFromPoint(x + dx, y + dy)?.closest('TABLE');
+    if (table && !table.contains(target) && isAtEdge(table, event)) return table;
   }
-  const paragraphFor = (object, place) => {
-    const paragraph = dom.create('P');
-    paragraph.append(dom.create('BR'));
-    object[place](paragraph);
-    velor.selection.setCaret(paragraph, 0);
-  };
-  const holdsParagraphs = (node) => dom.isBlock(node) && !dom.isParagraph(node) &&
-    !/^(CAPTION|DD|LI|TD|TH)$/.test(node.tagName);
+  return null;
+}
 
-  // What comes in the place of a selected block is a line of its own: a paragraph where there are
-  // such. Tells whether it is so; anything else is replaced as text is.
-  function giveWay(object) {
-    const { parentNode } = object;
-    if (!dom.isBlock(object) || !dom.isBlock(parentNode)) return false;
-    if (holdsParagraphs(parentNode)) {
-      paragraphFor(object, 'replaceWith');
-      return true;
-    }
-    const index = velor.selection.indexOf(object);
-    object.replaceWith(dom.create('BR'));
-    velor.selection.setCaret(parentNode, index);
+// Puts the caret into a box, to the place that was clicked.
+export function enter(box, { clientX, clientY }) {
+  const place = document.caretRangeFromPoint(clientX, clientY);
+  const inside = place && box.contains(place.startContainer);
+  entered = box;
+  selection.setCaret(...(inside ? [place.startContainer, place.startOffset] : [box, 0]));
+}
+const paragraphFor = (object, place) => {
+  const paragraph = dom.create('P');
+  paragraph.append(dom.create('BR'));
+  object[place](paragraph);
+  selection.setCaret(paragraph, 0);
+};
+const holdsParagraphs = (node) => dom.isBlock(node) && !dom.isParagraph(node) &&
+  !/^(CAPTION|DD|LI|TD|TH)$/.test(node.tagName);
+
+// What comes in the place of a selected block is a line of its own: a paragraph where there are
+// such. Tells whether it is so; anything else is replaced as text is.
+export function giveWay(object) {
+  const { parentNode } = object;
+  if (!dom.isBlock(object) || !dom.isBlock(parentNode)) return false;
+  if (holdsParagraphs(parentNode)) {
+    paragraphFor(object, 'replaceWith');
     return true;
   }
+  const index = selection.indexOf(object);
+  object.replaceWith(dom.create('BR'));
+  selection.setCaret(parentNode, index);
+  return true;
+}
 
-  // What Enter does to a selected object: it goes into a box, and behind a block it begins a
-  // paragraph. null where what is selected is replaced as text is.
-  function entering(object) {
-    if (isBox(object) && object.tagName !== 'TABLE') {
-      return () => {
-        const range = document.createRange();
-        range.selectNodeContents(object);
-        entered = object;
-        velor.selection.setCaret(range.endContainer, range.endOffset);
-      };
-    }
-    return dom.isBlock(object) && !dom.isParagraph(object.parentNode)
-      ? () => paragraphFor(object, 'after') : null;
-  }
-
-  // Escape goes out of a box, which is selected then, and from a selected object behind it.
-  function leave(object) {
-    const { anchorNode } = document.getSelection();
-    const box = object ?? dom.ancestor(anchorNode, isBox);
-    entered = null;
-    if (object) velor.selection.setCaret(object.parentNode, velor.selection.indexOf(object) + 1);
-    else if (box) velor.selection.selectNode(box);
-  }
-
-  // Whoever types in a box is in it.
-  function typed() {
-    entered = dom.ancestor(document.getSelection().anchorNode, isBox);
-  }
-
-  const number = (text) => parseFloat(text) || 0;
-
-  // What an object is before it is changed; a change is told against it. In pixels of the object,
-  // of which `scale` tells how large the viewport shows them; `origin` is a place in the viewport.
-  function measure(object) {
-    const style = getComputedStyle(object);
-    const given = object.computedStyleMap();
-    const isAuto = (property) => String(given.get(property)) === 'auto';
-    const sum = (...properties) =>
-      (style.boxSizing === 'border-box' ? 0
-        : properties.reduce((all, each) => all + number(style.getPropertyValue(each)), 0));
-    const rect = velor.boxes.boxOf(object);
-    const scale = velor.boxes.scaleOf(object);
-    const places = ['left', 'top', 'right', 'bottom'].map((side) => [side, number(style[side])]);
-    return {
-      scale, width: rect.width / scale.x, height: rect.height / scale.y, movable: isMovable(object),
-      ...Object.fromEntries(places),
-      // Where the grid of its coordinates begins, in the viewport.
-      origin: { x: rect.left - (number(style.left) + number(style.marginLeft)) * scale.x,
-        y: rect.top - (number(style.top) + number(style.marginTop)) * scale.y },
-      fromRight: isAuto('left') && !isAuto('right'),
-      fromBottom: isAuto('top') && !isAuto('bottom'),
-      autoWidth: isAuto('width'), autoHeight: isAuto('height'),
-      keepsShape: /^(IMG|VIDEO|CANVAS)$/.test(object.tagName),
-      aroundWidth: sum('padding-left', 'padding-right', 'border-left-width', 'border-right-width'),
-      aroundHeight: sum('padding-top', 'padding-bottom', 'border-top-width', 'border-bottom-width'),
+// What Enter does to a selected object: it goes into a box, and behind a block it begins a
+// paragraph. null where what is selected is replaced as text is.
+export function entering(object) {
+  if (isBox(object) && object.tagName !== 'TABLE') {
+    return () => {
+      const range = document.createRange();
+      range.selectNodeContents(object);
+      entered = object;
+      selection.setCaret(range.endContainer, range.endOffset);
     };
   }
+  return dom.isBlock(object) && !dom.isParagraph(object.parentNode)
+    ? () => paragraphFor(object, 'after') : null;
+}
 
-  // The properties that a change comes to. `dx` and `dy` move the left upper corner; `width` and
-  // `height` are there where they change and count the border in.
-  function properties(before, { dx = 0, dy = 0, width, height }) {
-    const changed = {};
-    if (width !== undefined) changed.width = width - before.aroundWidth;
-    if (height !== undefined) changed.height = height - before.aroundHeight;
-    if (!before.movable) return changed;
-    const farX = dx + (width ?? before.width) - before.width;
-    const farY = dy + (height ?? before.height) - before.height;
-    if (before.fromRight ? farX : dx) {
-      Object.assign(changed, before.fromRight
-        ? { right: before.right - farX } : { left: before.left + dx });
-    }
-    if (before.fromBottom ? farY : dy) {
-      Object.assign(changed, before.fromBottom
-        ? { bottom: before.bottom - farY } : { top: before.top + dy });
-    }
-    return changed;
-  }
+// Escape goes out of a box, which is selected then, and from a selected object behind it.
+export function leave(object) {
+  const { anchorNode } = document.getSelection();
+  const box = object ?? dom.ancestor(anchorNode, isBox);
+  entered = null;
+  if (object) selection.setCaret(object.parentNode, selection.indexOf(object) + 1);
+  else if (box) selection.selectNode(box);
+}
 
-  const withAttributes = new Set(['APPLET', 'CANVAS', 'EMBED', 'HR', 'IFRAME', 'IMG', 'MARQUEE',
-    'OBJECT', 'TABLE', 'VIDEO', 'svg']);
+// Whoever types in a box is in it.
+export function typed() {
+  entered = dom.ancestor(document.getSelection().anchorNode, isBox);
+}
 
-  // A size in percent stays one, and other lengths keep their unit.
-  function spelled(old, pixels, growth) {
-    const [, value, unit] = /^\s*(-?[\d.]+)([a-z]+|%)\s*$/i.exec(old) ?? [];
-    if (unit === '%') return `${Math.max(1, Math.round(value * growth))}%`;
-    return lengthIn(unit, value, growth) ?? pixels;
-  }
-  // null where the unit is pixels, or nothing says how many of them it has.
-  function lengthIn(unit, value, growth) {
-    if (!unit || /^px$/i.test(unit) || !Number(value) || !Number.isFinite(growth)) return null;
-    return `${Math.round(value * growth * 100) / 100}${unit}`;
-  }
+const number = (text) => parseFloat(text) || 0;
 
-  // Where the page has a style for a size, that is changed, and an attribute that is there too;
-  // where it has neither, the object's attribute is used if there is such a one.
-  function writeSize(object, property, pixels, growth) {
-    const rule = object.tagName === 'HR' && property === 'height';
-    const attribute = rule ? 'size' : property;
-    const styled = object.style.getPropertyValue(property);
-    const hasAttribute = object.hasAttribute(attribute);
-    const size = Math.max(0, Math.round(pixels));
-    if (styled) velor.putDeclaration(object, property, spelled(styled, `${size}px`, growth));
-    if (hasAttribute || !styled && withAttributes.has(object.tagName)) {
-      // A rule's size counts its border in.
-      const told = rule ? size + 2 : size;
-      object.setAttribute(attribute, spelled(object.getAttribute(attribute), `${told}`, growth));
-    } else if (!styled) {
-      velor.putDeclaration(object, property, `${size}px`);
-    }
-  }
-
-  function write(object, before, change) {
-    const changed = properties(before, change);
-    for (const [property, pixels] of Object.entries(changed)) {
-      if (property === 'width' || property === 'height') {
-        writeSize(object, property, pixels, change[property] / before[property]);
-      } else {
-        writePlace(object, property, pixels, before[property]);
-      }
-    }
-  }
-  function writePlace(object, side, pixels, before) {
-    const old = object.style.getPropertyValue(side);
-    const [, value, unit] = /^(-?[\d.]+)([a-z]+|%)$/i.exec(old) ?? [];
-    velor.putDeclaration(object, side,
-      lengthIn(unit, value, pixels / before) ?? `${Math.round(pixels)}px`);
-  }
-
-  velor.objects = {
-    selected, isMovable, isBox, at, enter, entering, leave, giveWay, typed, measure, properties, write,
+// What an object is before it is changed; a change is told against it. In pixels of the object,
+// of which `scale` tells how large the viewport shows them; `origin` is a place in the viewport.
+export function measure(object) {
+  const style = getComputedStyle(object);
+  const given = object.computedStyleMap();
+  const isAuto = (property) => String(given.get(property)) === 'auto';
+  const sum = (...properties) =>
+    (style.boxSizing === 'border-box' ? 0
+      : properties.reduce((all, each) => all + number(style.getPropertyValue(each)), 0));
+  const rect = boxes.boxOf(object);
+  const scale = boxes.scaleOf(object);
+  const places = ['left', 'top', 'right', 'bottom'].map((side) => [side, number(style[side])]);
+  return {
+    scale, width: rect.width / scale.x, height: rect.height / scale.y, movable: isMovable(object),
+    ...Object.fromEntries(places),
+    // Where the grid of its coordinates begins, in the viewport.
+    origin: { x: rect.left - (number(style.left) + number(style.marginLeft)) * scale.x,
+      y: rect.top - (number(style.top) + number(style.marginTop)) * scale.y },
+    fromRight: isAuto('left') && !isAuto('right'),
+    fromBottom: isAuto('top') && !isAuto('bottom'),
+    autoWidth: isAuto('width'), autoHeight: isAuto('height'),
+    keepsShape: /^(IMG|VIDEO|CANVAS)$/.test(object.tagName),
+    aroundWidth: sum('padding-left', 'padding-right', 'border-left-width', 'border-right-width'),
+    aroundHeight: sum('padding-top', 'padding-bottom', 'border-top-width', 'border-bottom-width'),
   };
-})();
+}
+
+// The properties that a change comes to. `dx` and `dy` move the left upper corner; `width` and
+// `height` are there where they change and count the border in.
+export function properties(before, { dx = 0, dy = 0, width, height }) {
+  const changed = {};
+  if (width !== undefined) changed.width = width - before.aroundWidth;
+  if (height !== undefined) changed.height = height - before.aroundHeight;
+  if (!before.movable) return changed;
+  const farX = dx + (width ?? before.width) - before.width;
+  const farY = dy + (height ?? before.height) - before.height;
+  if (before.fromRight ? farX : dx) {
+    Object.assign(changed, before.fromRight
+      ? { right: before.right - farX } : { left: before.left + dx });
+  }
+  if (before.fromBottom ? farY : dy) {
+    Object.assign(changed, before.fromBottom
+      ? { bottom: before.bottom - farY } : { top: before.top + dy });
+  }
+  return changed;
+}
+
+const withAttributes = new Set(['APPLET', 'CANVAS', 'EMBED', 'HR', 'IFRAME', 'IMG', 'MARQUEE',
+  'OBJECT', 'TABLE', 'VIDEO', 'svg']);
+
+// A size in percent stays one, and other lengths keep their unit.
+function spelled(old, pixels, growth) {
+  const [, value, unit] = /^\s*(-?[\d.]+)([a-z]+|%)\s*$/i.exec(old) ?? [];
+  if (unit === '%') return `${Math.max(1, Math.round(value * growth))}%`;
+  return lengthIn(unit, value, growth) ?? pixels;
+}
+// null where the unit is pixels, or nothing says how many of them it has.
+function lengthIn(unit, value, growth) {
+  if (!unit || /^px$/i.test(unit) || !Number(value) || !Number.isFinite(growth)) return null;
+  return `${Math.round(value * growth * 100) / 100}${unit}`;
+}
+
+// Where the page has a style for a size, that is changed, and an attribute that is there too;
+// where it has neither, the object's attribute is used if there is such a one.
+function writeSize(object, property, pixels, growth) {
+  const rule = object.tagName === 'HR' && property === 'height';
+  const attribute = rule ? 'size' : property;
+  const styled = object.style.getPropertyValue(property);
+  const hasAttribute = object.hasAttribute(attribute);
+  const size = Math.max(0, Math.round(pixels));
+  if (styled) putDeclaration(object, property, spelled(styled, `${size}px`, growth));
+  if (hasAttribute || !styled && withAttributes.has(object.tagName)) {
+    // A rule's size counts its border in.
+    const told = rule ? size + 2 : size;
+    object.setAttribute(attribute, spelled(object.getAttribute(attribute), `${told}`, growth));
+  } else if (!styled) {
+    putDeclaration(object, property, `${size}px`);
+  }
+}
+
+export function write(object, before, change) {
+  const changed = properties(before, change);
+  for (const [property, pixels] of Object.entries(changed)) {
+    if (property === 'width' || property === 'height') {
+      writeSize(object, property, pixels, change[property] / before[property]);
+    } else {
+      writePlace(object, property, pixels, before[property]);
+    }
+  }
+}
+function writePlace(object, side, pixels, before) {
+  const old = object.style.getPropertyValue(side);
+  const [, value, unit] = /^(-?[\d.]+)([a-z]+|%)$/i.exec(old) ?? [];
+  putDeclaration(object, side,
+    lengthIn(unit, value, pixels / before) ?? `${Math.round(pixels)}px`);
+}
+

@@ -1,247 +1,240 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What kinds of nodes a page is made of, and the few ways in which elements are cut and changed.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
 
-  const set = (names) => new Set(names.split(' '));
-  const blocks = set(
-    'ADDRESS ARTICLE ASIDE BLOCKQUOTE BODY CAPTION CENTER COL COLGROUP DD DETAILS DIALOG DIR DIV ' +
-    'DL DT FIELDSET FIGCAPTION FIGURE FOOTER FORM FRAMESET H1 H2 H3 H4 H5 H6 HEADER HR HTML ' +
-    'LEGEND LI LISTING MAIN MENU NAV OL P PLAINTEXT PRE SECTION SUMMARY TABLE TBODY TD TFOOT TH ' +
-    'THEAD TR UL XMP');
-  // Blocks that hold text only: they are split when another block comes into their middle.
-  const paragraphs = set('ADDRESS DT H1 H2 H3 H4 H5 H6 LISTING P PLAINTEXT PRE XMP');
-  const preformatted = set('LISTING PLAINTEXT PRE XMP');
-  // What may hold text without a paragraph around it, besides items.
-  const bare = set('ARTICLE ASIDE BLOCKQUOTE BODY CENTER DIV FOOTER FORM HEADER MAIN NAV SECTION TD TH');
-  const lists = set('DIR MENU OL UL');
-  // Nothing flows from one of these to the next.
-  const cells = set('BODY CAPTION TD TH');
-  // Shown as one thing; their inside is no text of the page.
-  const atoms = set(
-    'APPLET AUDIO BUTTON CANVAS EMBED HR IFRAME IMG INPUT ISINDEX MARQUEE METER OBJECT PROGRESS ' +
-    'SELECT TEXTAREA VIDEO');
-  // Selected as wholes, like boxes with a place of their own.
-  const objects = set(
-    'APPLET AUDIO BUTTON CANVAS EMBED HR IFRAME IMG INPUT MARQUEE OBJECT SELECT TABLE TEXTAREA ' +
-    'VIDEO svg');
-  const unseen = set('BASE HEAD LINK META NOFRAMES NOSCRIPT PARAM SCRIPT STYLE TEMPLATE TITLE');
+const set = (names) => new Set(names.split(' '));
+const blocks = set(
+  'ADDRESS ARTICLE ASIDE BLOCKQUOTE BODY CAPTION CENTER COL COLGROUP DD DETAILS DIALOG DIR DIV ' +
+  'DL DT FIELDSET FIGCAPTION FIGURE FOOTER FORM FRAMESET H1 H2 H3 H4 H5 H6 HEADER HR HTML ' +
+  'LEGEND LI LISTING MAIN MENU NAV OL P PLAINTEXT PRE SECTION SUMMARY TABLE TBODY TD TFOOT TH ' +
+  'THEAD TR UL XMP');
+// Blocks that hold text only: they are split when another block comes into their middle.
+const paragraphs = set('ADDRESS DT H1 H2 H3 H4 H5 H6 LISTING P PLAINTEXT PRE XMP');
+const preformatted = set('LISTING PLAINTEXT PRE XMP');
+// What may hold text without a paragraph around it, besides items.
+const bare = set('ARTICLE ASIDE BLOCKQUOTE BODY CENTER DIV FOOTER FORM HEADER MAIN NAV SECTION TD TH');
+const lists = set('DIR MENU OL UL');
+// Nothing flows from one of these to the next.
+const cells = set('BODY CAPTION TD TH');
+// Shown as one thing; their inside is no text of the page.
+const atoms = set(
+  'APPLET AUDIO BUTTON CANVAS EMBED HR IFRAME IMG INPUT ISINDEX MARQUEE METER OBJECT PROGRESS ' +
+  'SELECT TEXTAREA VIDEO');
+// Selected as wholes, like boxes with a place of their own.
+const objects = set(
+  'APPLET AUDIO BUTTON CANVAS EMBED HR IFRAME IMG INPUT MARQUEE OBJECT SELECT TABLE TEXTAREA ' +
+  'VIDEO svg');
+const unseen = set('BASE HEAD LINK META NOFRAMES NOSCRIPT PARAM SCRIPT STYLE TEMPLATE TITLE');
 
-  const isElement = (node) => node?.nodeType === Node.ELEMENT_NODE;
-  const isText = (node) => node?.nodeType === Node.TEXT_NODE;
-  const named = (names) => (node) => isElement(node) && names.has(node.tagName);
-  const isBlock = named(blocks);
-  // What is closed to editing is one thing too.
-  const isIsland = (node) =>
-    isElement(node) && node.getAttribute('contenteditable')?.toLowerCase() === 'false';
-  const isAtom = (node) =>
-    isElement(node) && (atoms.has(node.tagName) || node.tagName === 'svg' || isIsland(node));
-  function isObject(node) {
-    if (!isElement(node) || node === document.body) return false;
-    if (objects.has(node.tagName)) return true;
-    const { position, display } = getComputedStyle(node);
-    return position !== 'static' && !/^(inline|table-.*|contents|none)$/.test(display);
-  }
-  const isBreak = (node) => isElement(node) && node.tagName === 'BR';
-  const isNeutral = (node) => !isText(node) && (!isElement(node) || unseen.has(node.tagName));
-  const isInline = (node) => isElement(node) && !isBlock(node) && !isNeutral(node);
-  const isBlank = (node) => isText(node) && /^[ \t\r\n\f]*$/.test(node.data);
+// True where there is a body to edit; a frameset and a document without root have none.
+export const isEditable = () => document.body !== null && document.body.tagName === 'BODY';
 
-  // True for white space that shows nothing: at the edge of a block or between two of them.
-  function isIgnorable(node) {
-    if (!isBlank(node)) return false;
-    if (node.data === '') return true;
-    if (!isBlock(node.parentNode)) return false;
-    if (node.parentNode.closest('PRE, LISTING, XMP, TEXTAREA')) return false;
-    const bound = (side) => {
-      let next = node[side];
-      while (next && (isNeutral(next) || isBlank(next))) next = next[side];
-      return !next || isBlock(next) || isBreak(next);
-    };
-    return bound('previousSibling') || bound('nextSibling');
-  }
+export const isElement = (node) => node?.nodeType === Node.ELEMENT_NODE;
+export const isText = (node) => node?.nodeType === Node.TEXT_NODE;
+const named = (names) => (node) => isElement(node) && names.has(node.tagName);
+export const isBlock = named(blocks);
+export const isParagraph = named(paragraphs);
+export const isList = named(lists);
+export const isCell = named(cells);
+export const isPreformatted = named(preformatted);
+export const isBare = named(bare);
+export const isHeading = (node) => isElement(node) && /^H[1-6]$/.test(node.tagName);
+// What is closed to editing is one thing too.
+export const isIsland = (node) =>
+  isElement(node) && node.getAttribute('contenteditable')?.toLowerCase() === 'false';
+export const isAtom = (node) =>
+  isElement(node) && (atoms.has(node.tagName) || node.tagName === 'svg' || isIsland(node));
+export function isObject(node) {
+  if (!isElement(node) || node === document.body) return false;
+  if (objects.has(node.tagName)) return true;
+  const { position, display } = getComputedStyle(node);
+  return position !== 'static' && !/^(inline|table-.*|contents|none)$/.test(display);
+}
+export const isBreak = (node) => isElement(node) && node.tagName === 'BR';
+export const isNeutral = (node) => !isText(node) && (!isElement(node) || unseen.has(node.tagName));
+export const isInline = (node) => isElement(node) && !isBlock(node) && !isNeutral(node);
+export const isBlank = (node) => isText(node) && /^[ \t\r\n\f]*$/.test(node.data);
 
-  // A division that stands for a paragraph: it carries an alignment at most.
-  const isAlignment = ({ name, value }) =>
-    name === 'align' || name === 'style' && /^\s*text-align\s*:[^;]*;?\s*$/i.test(value);
-  const isPlainDivision = (node) => isElement(node) && node.tagName === 'DIV' &&
-    [...node.attributes].every(isAlignment);
-
-  // The page's dialect: an HTML5 page has its looks in styles, an older one in FONT and align.
-  const writesStyles = () => {
-    const { doctype } = document;
-    return doctype?.name === 'html' && !doctype.publicId;
+// True for white space that shows nothing: at the edge of a block or between two of them.
+export function isIgnorable(node) {
+  if (!isBlank(node)) return false;
+  if (node.data === '') return true;
+  if (!isBlock(node.parentNode)) return false;
+  if (node.parentNode.closest('PRE, LISTING, XMP, TEXTAREA')) return false;
+  const bound = (side) => {
+    let next = node[side];
+    while (next && (isNeutral(next) || isBlank(next))) next = next[side];
+    return !next || isBlock(next) || isBreak(next);
   };
+  return bound('previousSibling') || bound('nextSibling');
+}
 
-  // Text between these tags is written as it stands: no markup can be in it.
-  const rawAt = (node) =>
-    (isElement(node) ? node : node.parentElement)?.closest('XMP, PLAINTEXT') ?? null;
+// A division that stands for a paragraph: it carries an alignment at most.
+const isAlignment = ({ name, value }) =>
+  name === 'align' || name === 'style' && /^\s*text-align\s*:[^;]*;?\s*$/i.test(value);
+export const isPlainDivision = (node) => isElement(node) && node.tagName === 'DIV' &&
+  [...node.attributes].every(isAlignment);
 
-  const isShown = (node) => !isNeutral(node) && !isIgnorable(node);
+// The page's dialect: an HTML5 page has its looks in styles, an older one in FONT and align.
+export const writesStyles = () => {
+  const { doctype } = document;
+  return doctype?.name === 'html' && !doctype.publicId;
+};
 
-  function nextSkippingChildren(node) {
-    while (node && !node.nextSibling) node = node.parentNode;
-    return node ? node.nextSibling : null;
+// Text between these tags is written as it stands: no markup can be in it.
+export const rawAt = (node) =>
+  (isElement(node) ? node : node.parentElement)?.closest('XMP, PLAINTEXT') ?? null;
+
+export const isShown = (node) => !isNeutral(node) && !isIgnorable(node);
+
+export function nextSkippingChildren(node) {
+  while (node && !node.nextSibling) node = node.parentNode;
+  return node ? node.nextSibling : null;
+}
+const entered = (node) => !isAtom(node) && !isNeutral(node) && node.firstChild;
+export const nextNode = (node) => entered(node) || nextSkippingChildren(node);
+
+// The nearest ancestor, the node itself included, that fits; null from the body upwards.
+export function ancestor(node, fits, stop = (node) => node === document.body) {
+  for (let at = node; at; at = at.parentNode) {
+    if (fits(at)) return at;
+    if (stop(at)) return null;
   }
-  const entered = (node) => !isAtom(node) && !isNeutral(node) && node.firstChild;
-  const nextNode = (node) => entered(node) || nextSkippingChildren(node);
+  return null;
+}
+export const blockOf = (node) => ancestor(node, isBlock) || document.body;
 
-  // The nearest ancestor, the node itself included, that fits; null from the body upwards.
-  function ancestor(node, fits, stop = (node) => node === document.body) {
-    for (let at = node; at; at = at.parentNode) {
-      if (fits(at)) return at;
-      if (stop(at)) return null;
+export function firstLeaf(node) {
+  while (entered(node)) node = node.firstChild;
+  return node;
+}
+export function lastLeaf(node) {
+  while (entered(node)) node = node.lastChild;
+  return node;
+}
+
+export const create = (tag, attributes = {}) => {
+  const element = document.createElement(tag);
+  for (const [name, value] of Object.entries(attributes)) element.setAttribute(name, value);
+  return element;
+};
+
+// Where an element went that was made into another one, so that a kept selection finds it.
+const successors = new WeakMap();
+export const successor = (node) => {
+  while (successors.has(node)) node = successors.get(node);
+  return node;
+};
+
+export function rename(element, tag) {
+  if (element.tagName === tag) return element;
+  const other = create(tag);
+  for (const { name, value } of element.attributes) other.setAttribute(name, value);
+  other.append(...element.childNodes);
+  element.replaceWith(other);
+  successors.set(element, other);
+  return other;
+}
+
+export function unwrap(element) {
+  const parent = element.parentNode;
+  const children = [...element.childNodes];
+  element.replaceWith(...children);
+  successors.set(element, children[0] || parent);
+  return children;
+}
+
+export function wrap(nodes, element) {
+  nodes[0].before(element);
+  element.append(...nodes);
+  return element;
+}
+
+// Takes the content of the next element in, and the white space between the two.
+export function absorb(element, next) {
+  const between = [];
+  for (let at = element.nextSibling; at !== next; at = at.nextSibling) between.push(at);
+  element.append(...between, ...next.childNodes);
+  next.remove();
+}
+
+// The element again, empty; an id stays with the first of the two.
+export function twin(element) {
+  const copy = element.cloneNode(false);
+  copy.removeAttribute('id');
+  return copy;
+}
+
+// Cuts `top` in two just before `node`, which lies in it; returns the second half.
+export function splitBefore(node, top) {
+  const parent = node.parentNode;
+  const second = twin(parent);
+  const moved = [];
+  for (let at = node; at; at = at.nextSibling) moved.push(at);
+  parent.after(second);
+  second.append(...moved);
+  return parent === top ? second : splitBefore(second, top);
+}
+
+// The shown sibling on one side ('previousSibling', 'nextSibling'), or null.
+export function neighbour(node, side) {
+  let at = node[side];
+  while (at && !isShown(at)) at = at[side];
+  return at;
+}
+
+// The same, the node itself first.
+export const shownFrom = (node, side) => (!node || isShown(node) ? node : neighbour(node, side));
+
+export const sameAttributes = (one, other) =>
+  one.attributes.length === other.attributes.length &&
+  [...one.attributes].every(({ name, value }) => other.getAttribute(name) === value);
+
+// The same attributes, however their styles and colours are spelled.
+export function sameLooks(one, other) {
+  if (sameAttributes(one, other)) return true;
+  const looks = (element) => [...element.attributes].map(({ name, value }) => {
+    if (name === 'style') return element.style.cssText;
+    return name === 'color' || name === 'face' ? value.toLowerCase() : `${name}=${value}`;
+  }).sort().join('|');
+  return looks(one) === looks(other);
+}
+
+export const shownText = (node) => isText(node) && !isIgnorable(node);
+// True when the node shows something: text, a break or an object.
+export function hasContent(node) {
+  if (isNeutral(node)) return false;
+  if (isText(node)) return !isIgnorable(node);
+  if (isAtom(node) || isBreak(node) || node.tagName === 'TABLE') return true;
+  for (let at = node.firstChild; at; at = at.nextSibling) if (hasContent(at)) return true;
+  return false;
+}
+// True when nothing but the break that holds an empty line open is in it.
+export function isHollow(element) {
+  let only = null;
+  for (let at = element.firstChild; at; at = at.nextSibling) {
+    if (!hasContent(at)) continue;
+    if (only) return false;
+    only = at;
+  }
+  return !only || isBreak(only) || isInline(only) && !isAtom(only) && isHollow(only);
+}
+
+// How many units agree, up to `most`: by large pieces, which the engine compares at once, then by
+// ever smaller ones.
+function agreed(most, agree) {
+  let count = 0;
+  for (let piece = 65536; piece >= 1; piece /= 16) {
+    while (count < most && agree(count, Math.min(most, count + piece))) {
+      count = Math.min(most, count + piece);
     }
-    return null;
   }
-  const blockOf = (node) => ancestor(node, isBlock) || document.body;
-
-  function firstLeaf(node) {
-    while (entered(node)) node = node.firstChild;
-    return node;
-  }
-  function lastLeaf(node) {
-    while (entered(node)) node = node.lastChild;
-    return node;
-  }
-
-  const create = (tag, attributes = {}) => {
-    const element = document.createElement(tag);
-    for (const [name, value] of Object.entries(attributes)) element.setAttribute(name, value);
-    return element;
-  };
-
-  // Where an element went that was made into another one, so that a kept selection finds it.
-  const successors = new WeakMap();
-  const successor = (node) => {
-    while (successors.has(node)) node = successors.get(node);
-    return node;
-  };
-
-  function rename(element, tag) {
-    if (element.tagName === tag) return element;
-    const other = create(tag);
-    for (const { name, value } of element.attributes) other.setAttribute(name, value);
-    other.append(...element.childNodes);
-    element.replaceWith(other);
-    successors.set(element, other);
-    return other;
-  }
-
-  function unwrap(element) {
-    const parent = element.parentNode;
-    const children = [...element.childNodes];
-    element.replaceWith(...children);
-    successors.set(element, children[0] || parent);
-    return children;
-  }
-
-  function wrap(nodes, element) {
-    nodes[0].before(element);
-    element.append(...nodes);
-    return element;
-  }
-
-  // Takes the content of the next element in, and the white space between the two.
-  function absorb(element, next) {
-    const between = [];
-    for (let at = element.nextSibling; at !== next; at = at.nextSibling) between.push(at);
-    element.append(...between, ...next.childNodes);
-    next.remove();
-  }
-
-  // The element again, empty; an id stays with the first of the two.
-  function twin(element) {
-    const copy = element.cloneNode(false);
-    copy.removeAttribute('id');
-    return copy;
-  }
-
-  // Cuts `top` in two just before `node`, which lies in it; returns the second half.
-  function splitBefore(node, top) {
-    const parent = node.parentNode;
-    const second = twin(parent);
-    const moved = [];
-    for (let at = node; at; at = at.nextSibling) moved.push(at);
-    parent.after(second);
-    second.append(...moved);
-    return parent === top ? second : splitBefore(second, top);
-  }
-
-  // The shown sibling on one side ('previousSibling', 'nextSibling'), or null.
-  function neighbour(node, side) {
-    let at = node[side];
-    while (at && !isShown(at)) at = at[side];
-    return at;
-  }
-
-  // The same, the node itself first.
-  const shownFrom = (node, side) => (!node || isShown(node) ? node : neighbour(node, side));
-
-  const sameAttributes = (one, other) =>
-    one.attributes.length === other.attributes.length &&
-    [...one.attributes].every(({ name, value }) => other.getAttribute(name) === value);
-
-  // The same attributes, however their styles and colours are spelled.
-  function sameLooks(one, other) {
-    if (sameAttributes(one, other)) return true;
-    const looks = (element) => [...element.attributes].map(({ name, value }) => {
-      if (name === 'style') return element.style.cssText;
-      return name === 'color' || name === 'face' ? value.toLowerCase() : `${name}=${value}`;
-    }).sort().join('|');
-    return looks(one) === looks(other);
-  }
-
-  const shownText = (node) => isText(node) && !isIgnorable(node);
-  // True when the node shows something: text, a break or an object.
-  function hasContent(node) {
-    if (isNeutral(node)) return false;
-    if (isText(node)) return !isIgnorable(node);
-    if (isAtom(node) || isBreak(node) || node.tagName === 'TABLE') return true;
-    for (let at = node.firstChild; at; at = at.nextSibling) if (hasContent(at)) return true;
-    return false;
-  }
-  // True when nothing but the break that holds an empty line open is in it.
-  function isHollow(element) {
-    let only = null;
-    for (let at = element.firstChild; at; at = at.nextSibling) {
-      if (!hasContent(at)) continue;
-      if (only) return false;
-      only = at;
-    }
-    return !only || isBreak(only) || isInline(only) && !isAtom(only) && isHollow(only);
-  }
-
-  // How many units agree, up to `most`: by large pieces, which the engine compares at once, then by
-  // ever smaller ones.
-  function agreed(most, agree) {
-    let count = 0;
-    for (let piece = 65536; piece >= 1; piece /= 16) {
-      while (count < most && agree(count, Math.min(most, count + piece))) {
-        count = Math.min(most, count + piece);
-      }
-    }
-    return count;
-  }
-  // How much of a text is the same at its head and, behind that, at its tail.
-  function kept(old, now) {
-    const shorter = Math.min(old.length, now.length);
-    const head = agreed(shorter, (from, to) => old.slice(from, to) === now.slice(from, to));
-    const end = (text, from, to) => text.slice(text.length - to, text.length - from);
-    const tail = agreed(shorter - head, (from, to) => end(old, from, to) === end(now, from, to));
-    return { head, tail };
-  }
-
-  velor.dom = {
-    isElement, isText, isBlock, isAtom, isIsland, isObject, isBreak, isNeutral, isInline, isBlank, isIgnorable,
-    isShown, rawAt,
-    isPlainDivision, writesStyles, kept,
-    isParagraph: named(paragraphs), isList: named(lists), isCell: named(cells),
-    isPreformatted: named(preformatted), isBare: named(bare), shownFrom,
-    isHeading: (node) => isElement(node) && /^H[1-6]$/.test(node.tagName),
-    nextNode, nextSkippingChildren, ancestor, blockOf, firstLeaf, lastLeaf, create, successor,
-    rename, unwrap, wrap, absorb, twin, splitBefore, neighbour, sameAttributes, sameLooks, shownText,
-    hasContent, isHollow,
-  };
-})();
+  return count;
+}
+// How much of a text is the same at its head and, behind that, at its tail.
+export function kept(old, now) {
+  const shorter = Math.min(old.length, now.length);
+  const head = agreed(shorter, (from, to) => old.slice(from, to) === now.slice(from, to));
+  const end = (text, from, to) => text.slice(text.length - to, text.length - from);
+  const tail = agreed(shorter - head, (from, to) => end(old, from, to) === end(now, from, to));
+  return { head, tail };
+}

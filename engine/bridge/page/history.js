@@ -2,294 +2,302 @@
 // The one undo history. A mutation observer sees every change of the document, whoever makes it;
 // the changes are gathered into steps, and a step is taken back on the live nodes, last change
 // first. So a step holds nodes, not copies, and what it brings back is exact.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const { points, samePoints, select } = velor.selection;
+import * as dom from './dom.js';
+import { points, samePoints, select } from './selection.js';
 
-  const mostSteps = 1000;
-  // In UTF-16 units of kept text, nodes counted with what they weigh about; some 64 MB.
-  const mostWeight = 32e6;
-  const nodeWeight = 100;
+const mostSteps = 1000;
+// In UTF-16 units of kept text, nodes counted with what they weigh about; some 64 MB.
+const mostWeight = 32e6;
+const nodeWeight = 100;
 
-  let observer = null;
-  let open = null;  // the step that is being gathered
-  let undoable = [];
-  let redoable = [];
-  let lastPoints = null;  // the selection when the document was last at rest
-  // Whether the program has documents to go back or on to where these steps end.
-  let beyond = { undo: false, redo: false };
+let observer = null;
+let open = null;  // the step that is being gathered
+let undoable = [];
+let redoable = [];
+let lastPoints = null;  // the selection when the document was last at rest
+// Whether the program has documents to go back or on to where these steps end.
+let beyond = { undo: false, redo: false };
+let hooks = null;  // see start
+let along = { held: () => [], reinstate() {} };
 
-  // A long page has very many changes in a step, so they are kept small: classes, not closures.
-  class TextChange {
-    constructor(node, old) {
-      this.node = node;
-      this.old = old;
-    }
-    // Keeps what differs only: one key in a long text must not cost the text.
-    seal() {
-      const { old } = this;
-      const now = this.node.data;
-      const { head, tail } = velor.dom.kept(old, now);
-      this.head = head;
-      this.before = old.slice(head, old.length - tail);
-      this.after = now.slice(head, now.length - tail);
-      this.isVoid = this.before === this.after;
-      this.old = null;
-      return this.before.length + this.after.length + nodeWeight;
-    }
-    undo() { this.node.replaceData(this.head, this.after.length, this.before); }
-    redo() { this.node.replaceData(this.head, this.before.length, this.after); }
+// A long page has very many changes in a step, so they are kept small: classes, not closures.
+class TextChange {
+  constructor(node, old) {
+    this.node = node;
+    this.old = old;
   }
+  // Keeps what differs only: one key in a long text must not cost the text.
+  seal() {
+    const { old } = this;
+    const now = this.node.data;
+    const { head, tail } = dom.kept(old, now);
+    this.head = head;
+    this.before = old.slice(head, old.length - tail);
+    this.after = now.slice(head, now.length - tail);
+    this.isVoid = this.before === this.after;
+    this.old = null;
+    return this.before.length + this.after.length + nodeWeight;
+  }
+  undo() { this.node.replaceData(this.head, this.after.length, this.before); }
+  redo() { this.node.replaceData(this.head, this.before.length, this.after); }
+}
 
-  function putAttribute(element, space, name, value) {
-    if (value === null) element.removeAttributeNS(space, name);
-    else element.setAttributeNS(space, name, value);
+function putAttribute(element, space, name, value) {
+  if (value === null) element.removeAttributeNS(space, name);
+  else element.setAttributeNS(space, name, value);
+}
+// An attribute that is put back would come last; the page's text has it where it was.
+function orderAttributes(element, names) {
+  if (!names || element.getAttributeNames().join() === names.join()) return;
+  const attributes = names.map((name) => element.getAttributeNode(name)).filter(Boolean);
+  for (const attribute of attributes) {
+    element.removeAttributeNode(attribute);
+    element.setAttributeNode(attribute);
   }
-  // An attribute that is put back would come last; the page's text has it where it was.
-  function orderAttributes(element, names) {
-    if (!names || element.getAttributeNames().join() === names.join()) return;
-    const attributes = names.map((name) => element.getAttributeNode(name)).filter(Boolean);
-    for (const attribute of attributes) {
-      element.removeAttributeNode(attribute);
-      element.setAttributeNode(attribute);
-    }
+}
+class AttributeChange {
+  constructor(element, space, name, old, names) {
+    Object.assign(this, { element, space, name, old, before: names });
   }
-  class AttributeChange {
-    constructor(element, space, name, old, names) {
-      Object.assign(this, { element, space, name, old, before: names });
-    }
-    seal() {
-      this.now = this.element.getAttributeNS(this.space, this.name);
-      this.after = this.element.getAttributeNames();
-      return (this.old?.length ?? 0) + (this.now?.length ?? 0) + nodeWeight;
-    }
-    undo() {
-      putAttribute(this.element, this.space, this.name, this.old);
-      orderAttributes(this.element, this.before);
-    }
-    redo() {
-      putAttribute(this.element, this.space, this.name, this.now);
-      orderAttributes(this.element, this.after);
-    }
+  seal() {
+    this.now = this.element.getAttributeNS(this.space, this.name);
+    this.after = this.element.getAttributeNames();
+    return (this.old?.length ?? 0) + (this.now?.length ?? 0) + nodeWeight;
   }
+  undo() {
+    putAttribute(this.element, this.space, this.name, this.old);
+    orderAttributes(this.element, this.before);
+  }
+  redo() {
+    putAttribute(this.element, this.space, this.name, this.now);
+    orderAttributes(this.element, this.after);
+  }
+}
 
-  function exchange(parent, gone, come, next) {
-    for (const node of gone) if (node.parentNode === parent) node.remove();
-    for (const node of come) parent.insertBefore(node, next?.parentNode === parent ? next : null);
-  }
-  // What hangs under nodes that leave the document. The observer does not see what goes into a tree
-  // before that tree comes into the document; taking the step back pulls such nodes out again, and
-  // doing it again needs them where they were.
-  const hangings = (nodes) => {
-    const parents = [];
-    const collect = (node) => {
-      if (!node.hasChildNodes()) return;
-      parents.push([node, [...node.childNodes]]);
-      node.childNodes.forEach(collect);
-    };
-    nodes.forEach(collect);
-    return parents;
+function exchange(parent, gone, come, next) {
+  for (const node of gone) if (node.parentNode === parent) node.remove();
+  for (const node of come) parent.insertBefore(node, next?.parentNode === parent ? next : null);
+}
+// What hangs under nodes that leave the document. The observer does not see what goes into a tree
+// before that tree comes into the document; taking the step back pulls such nodes out again, and
+// doing it again needs them where they were.
+const hangings = (nodes) => {
+  const parents = [];
+  const collect = (node) => {
+    if (!node.hasChildNodes()) return;
+    parents.push([node, [...node.childNodes]]);
+    node.childNodes.forEach(collect);
   };
-  const hang = (parents) => {
-    for (const [parent, children] of parents) {
-      const same = parent.childNodes.length === children.length &&
-        children.every((child, index) => child === parent.childNodes[index]);
-      if (!same) parent.replaceChildren(...children);
-    }
+  nodes.forEach(collect);
+  return parents;
+};
+const hang = (parents) => {
+  for (const [parent, children] of parents) {
+    const same = parent.childNodes.length === children.length &&
+      children.every((child, index) => child === parent.childNodes[index]);
+    if (!same) parent.replaceChildren(...children);
+  }
+};
+const weightOf = (node) => nodeWeight + (node.firstChild
+  ? node.getElementsByTagName('*').length * nodeWeight + node.textContent.length : 0);
+const none = [];
+const listOf = (nodes) => (nodes.length ? [...nodes] : none);
+class ChildChange {
+  constructor({ target, addedNodes, removedNodes, nextSibling }) {
+    this.target = target;
+    this.added = listOf(addedNodes);
+    this.removed = listOf(removedNodes);
+    this.next = nextSibling;
+    this.under = none;
+  }
+  // What has left the document is kept by this step alone.
+  seal() {
+    let weight = nodeWeight * (1 + this.added.length);
+    for (const node of this.removed) if (!node.isConnected) weight += weightOf(node);
+    return weight;
+  }
+  undo() {
+    this.under = hangings(this.added);
+    exchange(this.target, this.added, this.removed, this.next);
+  }
+  redo() {
+    for (const node of this.removed) if (node.parentNode === this.target) node.remove();
+    hang(this.under);
+    exchange(this.target, none, this.added, this.next);
+  }
+}
+
+// Where the document was at rest: the selection and the blanks that are held there.
+const rest = () => ({ ...points(), held: along.held() });
+
+const begin = (kind, before = rest()) => {
+  open = {
+    kind, before, after: before, changes: [], seen: new Map(), names: new Map(), weight: 0,
   };
-  const weightOf = (node) => nodeWeight + (node.firstChild
-    ? node.getElementsByTagName('*').length * nodeWeight + node.textContent.length : 0);
-  const none = [];
-  const listOf = (nodes) => (nodes.length ? [...nodes] : none);
-  class ChildChange {
-    constructor({ target, addedNodes, removedNodes, nextSibling }) {
-      this.target = target;
-      this.added = listOf(addedNodes);
-      this.removed = listOf(removedNodes);
-      this.next = nextSibling;
-      this.under = none;
-    }
-    // What has left the document is kept by this step alone.
-    seal() {
-      let weight = nodeWeight * (1 + this.added.length);
-      for (const node of this.removed) if (!node.isConnected) weight += weightOf(node);
-      return weight;
-    }
-    undo() {
-      this.under = hangings(this.added);
-      exchange(this.target, this.added, this.removed, this.next);
-    }
-    redo() {
-      for (const node of this.removed) if (node.parentNode === this.target) node.remove();
-      hang(this.under);
-      exchange(this.target, none, this.added, this.next);
-    }
+};
+
+// Within a step the first value of a text or an attribute is the one to go back to.
+const firstOf = (node, key) => {
+  const keys = open.seen.get(node) ?? new Set();
+  open.seen.set(node, keys);
+  return keys.has(key) ? false : Boolean(keys.add(key));
+};
+
+function add(record) {
+  const { type, target, oldValue } = record;
+  if (type === 'childList') open.changes.push(new ChildChange(record));
+  else if (type === 'characterData') {
+    if (firstOf(target, '')) open.changes.push(new TextChange(target, oldValue));
+  } else if (firstOf(target, record.attributeNamespace + ' ' + record.attributeName)) {
+    open.changes.push(new AttributeChange(
+      target, record.attributeNamespace, record.attributeName, oldValue, open.names.get(target)));
   }
+}
 
-  // Where the document was at rest: the selection and the blanks that are held there.
-  const rest = () => ({ ...points(), held: velor.blanks.held() });
-
-  const begin = (kind, before = rest()) => {
-    open = {
-      kind, before, after: before, changes: [], seen: new Map(), names: new Map(), weight: 0,
-    };
-  };
-
-  // Within a step the first value of a text or an attribute is the one to go back to.
-  const firstOf = (node, key) => {
-    const keys = open.seen.get(node) ?? new Set();
-    open.seen.set(node, keys);
-    return keys.has(key) ? false : Boolean(keys.add(key));
-  };
-
-  function add(record) {
-    const { type, target, oldValue } = record;
-    if (type === 'childList') open.changes.push(new ChildChange(record));
-    else if (type === 'characterData') {
-      if (firstOf(target, '')) open.changes.push(new TextChange(target, oldValue));
-    } else if (firstOf(target, record.attributeNamespace + ' ' + record.attributeName)) {
-      open.changes.push(new AttributeChange(
-        target, record.attributeNamespace, record.attributeName, oldValue, open.names.get(target)));
-    }
+function absorb(records) {
+  if (records.length) {
+    const alone = !open;
+    if (alone) begin('other', lastPoints ?? rest());
+    records.forEach(add);
+    open.after = rest();
+    redoable = [];
+    beyond.redo = false;
+    hooks.changed();
+    if (alone) close();
   }
+  lastPoints = rest();
+}
 
-  function absorb(records) {
-    if (records.length) {
-      const alone = !open;
-      if (alone) begin('other', lastPoints ?? rest());
-      records.forEach(add);
-      open.after = rest();
-      redoable = [];
-      beyond.redo = false;
-      velor.contentChanged();
-      if (alone) close();
-    }
-    lastPoints = rest();
+const seal = (changes) => changes.reduce((sum, change) => sum + change.seal(), 0);
+
+function forgetOldest() {
+  let weight = undoable.reduce((sum, step) => sum + step.weight, 0);
+  while (undoable.length > 1 && (undoable.length > mostSteps || weight > mostWeight)) {
+    weight -= undoable.shift().weight;
   }
+}
 
-  const seal = (changes) => changes.reduce((sum, change) => sum + change.seal(), 0);
+function close() {
+  if (!open) return;
+  const step = open;
+  open = null;
+  if (!step.changes.length) return;
+  step.weight = seal(step.changes);
+  // What an input method wrote and took away again is no change.
+  step.changes = step.changes.filter((change) => !change.isVoid);
+  if (!step.changes.length) return;
+  delete step.seen;
+  delete step.names;
+  undoable.push(step);
+  forgetOldest();
+}
 
-  function forgetOldest() {
-    let weight = undoable.reduce((sum, step) => sum + step.weight, 0);
-    while (undoable.length > 1 && (undoable.length > mostSteps || weight > mostWeight)) {
-      weight -= undoable.shift().weight;
-    }
-  }
+export const settle = () => { if (observer) absorb(observer.takeRecords()); };
+export const finish = () => { settle(); close(); };
 
-  function close() {
-    if (!open) return;
-    const step = open;
-    open = null;
-    if (!step.changes.length) return;
-    step.weight = seal(step.changes);
-    // What an input method wrote and took away again is no change.
-    step.changes = step.changes.filter((change) => !change.isVoid);
-    if (!step.changes.length) return;
-    delete step.seen;
-    delete step.names;
-    undoable.push(step);
-    forgetOldest();
-  }
-
-  const settle = () => { if (observer) absorb(observer.takeRecords()); };
-  const finish = () => { settle(); close(); };
-
-  // A command: everything that `change` does is one step. Tells whether it changed the document.
-  function step(kind, change) {
-    finish();
-    begin(kind);
-    try {
-      change();
-    } finally {
-      settle();
-    }
-    const changed = open.changes.length > 0;
-    close();
-    return changed;
-  }
-
-  // Input that the engine is about to carry out. It joins the step at hand when that is of the same
-  // kind, `joins` allows it and the caret is still where that step left it.
-  function expect(kind, joins) {
-    settle();
-    if (open && open.kind === kind && joins && samePoints(open.after, points())) return;
-    close();
-    begin(kind);
-  }
-
-  // A change that belongs to what was done last, and ends it.
-  function amend(change) {
-    settle();
-    const step = open ?? undoable.at(-1);
-    if (!step) return;
-    if (!open) Object.assign(step, { seen: new Map(), names: new Map() });
-    open = step;
-    const { after } = step;
-    const sealed = step.changes.length;
-    const wasClosed = undoable.at(-1) === step;
+// A command: everything that `change` does is one step. Tells whether it changed the document.
+export function step(kind, change) {
+  finish();
+  begin(kind);
+  try {
     change();
-    observer.takeRecords().forEach(add);
-    step.after = { ...after, held: velor.blanks.held() };
-    if (wasClosed) {
-      step.weight += seal(step.changes.slice(sealed));
-      open = null;
-    } else {
-      close();
-    }
-    lastPoints = rest();
-    velor.contentChanged();
-  }
-
-  // Takes the caret into the step at hand after the input was carried out.
-  function arrive() {
+  } finally {
     settle();
-    if (open) open.after = rest();
   }
+  const changed = open.changes.length > 0;
+  close();
+  return changed;
+}
 
-  function travel(from, to, way, place) {
-    finish();
-    const step = from.pop();
-    if (!step) {
-      if (beyond[way]) velor.host?.[way === 'undo' ? 'earlierWanted' : 'laterWanted']();
-      return;
-    }
-    const changes = way === 'undo' ? [...step.changes].reverse() : step.changes;
-    changes.forEach((change) => change[way]());
-    observer.takeRecords();
-    to.push(step);
-    select(step[place]);
-    lastPoints = rest();
-    velor.blanks.reinstate(step[place].held);
-    velor.contentChanged();
+// Input that the engine is about to carry out. It joins the step at hand when that is of the same
+// kind, `joins` allows it and the caret is still where that step left it.
+export function expect(kind, joins) {
+  settle();
+  if (open && open.kind === kind && joins && samePoints(open.after, points())) return;
+  close();
+  begin(kind);
+}
+
+// A change that belongs to what was done last, and ends it.
+export function amend(change) {
+  settle();
+  const step = open ?? undoable.at(-1);
+  if (!step) return;
+  if (!open) Object.assign(step, { seen: new Map(), names: new Map() });
+  open = step;
+  const { after } = step;
+  const sealed = step.changes.length;
+  const wasClosed = undoable.at(-1) === step;
+  change();
+  observer.takeRecords().forEach(add);
+  step.after = { ...after, held: along.held() };
+  if (wasClosed) {
+    step.weight += seal(step.changes.slice(sealed));
+    open = null;
+  } else {
+    close();
   }
+  lastPoints = rest();
+  hooks.changed();
+}
 
-  velor.history = {
-    start({ earlier = false, later = false } = {}) {
-      observer?.disconnect();
-      beyond = { undo: earlier, redo: later };
-      open = null;
-      undoable = [];
-      redoable = [];
-      lastPoints = null;
-      observer = new MutationObserver(absorb);
-      observer.observe(document, {
-        subtree: true, childList: true, attributes: true, attributeOldValue: true,
-        characterData: true, characterDataOldValue: true,
-      });
-    },
-    // To be told before a step takes an attribute off an element of the page.
-    attributesOf(element) {
-      if (open && !open.names.has(element)) open.names.set(element, element.getAttributeNames());
-    },
-    step, amend, expect, arrive, settle, finish,
-    undo() { travel(undoable, redoable, 'undo', 'before'); },
-    redo() { travel(redoable, undoable, 'redo', 'after'); },
-    // Something was taken back and can be done again.
-    isBack: () => redoable.length > 0,
-    canUndo: () => undoable.length > 0 || Boolean(open?.changes.length) || beyond.undo,
-    canRedo: () => redoable.length > 0 || beyond.redo,
-    // The selection moved without a change of the document.
-    selectionMoved() { if (!open?.changes.length) lastPoints = rest(); },
-  };
-})();
+// Takes the caret into the step at hand after the input was carried out.
+export function arrive() {
+  settle();
+  if (open) open.after = rest();
+}
+
+function travel(from, to, way, place) {
+  finish();
+  const step = from.pop();
+  if (!step) {
+    if (beyond[way]) hooks.wantBeyond(way);
+    return;
+  }
+  const changes = way === 'undo' ? [...step.changes].reverse() : step.changes;
+  changes.forEach((change) => change[way]());
+  observer.takeRecords();
+  to.push(step);
+  select(step[place]);
+  lastPoints = rest();
+  along.reinstate(step[place].held);
+  hooks.changed();
+}
+
+// Begins anew, for a document that was just loaded. `earlier` and `later` tell whether the program
+// has documents beyond the steps; `changed` is called after each change of the document, and
+// `wantBeyond` with the way ('undo' or 'redo') where the steps end and the program has more.
+export function start({ earlier, later, changed, wantBeyond }) {
+  observer?.disconnect();
+  beyond = { undo: earlier, redo: later };
+  hooks = { changed, wantBeyond };
+  open = null;
+  undoable = [];
+  redoable = [];
+  lastPoints = null;
+  observer = new MutationObserver(absorb);
+  observer.observe(document, {
+    subtree: true, childList: true, attributes: true, attributeOldValue: true,
+    characterData: true, characterDataOldValue: true,
+  });
+}
+
+// Says what else belongs to the selection at a step's ends: `held()` answers it, `reinstate(held)`
+// puts it back.
+export function keepAlong(keeper) { along = keeper; }
+
+// To be told before a step takes an attribute off an element of the page.
+export function attributesOf(element) {
+  if (open && !open.names.has(element)) open.names.set(element, element.getAttributeNames());
+}
+
+export function undo() { travel(undoable, redoable, 'undo', 'before'); }
+export function redo() { travel(redoable, undoable, 'redo', 'after'); }
+
+// Something was taken back and can be done again.
+export const isBack = () => redoable.length > 0;
+export const canUndo = () => undoable.length > 0 || Boolean(open?.changes.length) || beyond.undo;
+export const canRedo = () => redoable.length > 0 || beyond.redo;
+
+// The selection moved without a change of the document.
+export function selectionMoved() { if (!open?.changes.length) lastPoints = rest(); }

@@ -1,59 +1,58 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The caret's place in terms that the page's source has too: an element's name, its number among
 // those of that name, and an offset in its text.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
+import * as dom from './dom.js';
+import * as history from './history.js';
+import * as selection from './selection.js';
 
-  // A longer way up tells nothing more.
-  const mostElements = 8;
+// A longer way up tells nothing more.
+const mostElements = 8;
 
-  function offsetIn(element, { startContainer, startOffset }) {
-    const before = document.createRange();
-    before.setStart(element, 0);
-    before.setEnd(startContainer, startOffset);
-    return before.toString().length;
+function offsetIn(element, { startContainer, startOffset }) {
+  const before = document.createRange();
+  before.setStart(element, 0);
+  before.setEnd(startContainer, startOffset);
+  return before.toString().length;
+}
+
+export const caretPlaces = () => {
+  const range = selection.range();
+  const places = [];
+  for (let at = selection.element(); range && at; at = at.parentElement) {
+    const name = at.localName;
+    const ordinal = [...document.getElementsByTagName(name)].indexOf(at);
+    // A selected object lies behind the range's start.
+    const offset = at.contains(range.startContainer) ? offsetIn(at, range) : 0;
+    places.push({ name, ordinal, offset });
+    if (places.length === mostElements) break;
   }
+  return places;
+};
 
-  velor.caretPlaces = () => {
-    const range = velor.selection.range();
-    const places = [];
-    for (let at = velor.selection.element(); range && at; at = at.parentElement) {
-      const name = at.localName;
-      const ordinal = [...document.getElementsByTagName(name)].indexOf(at);
-      // A selected object lies behind the range's start.
-      const offset = at.contains(range.startContainer) ? offsetIn(at, range) : 0;
-      places.push({ name, ordinal, offset });
-      if (places.length === mostElements) break;
-    }
-    return places;
-  };
-
-  function caretIn(element, offset) {
-    const texts = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
-    let last = null;
-    for (let text = texts.nextNode(); text; text = texts.nextNode()) {
-      if (offset <= text.length) return velor.selection.setCaret(text, offset);
-      offset -= text.length;
-      last = text;
-    }
-    if (last) return velor.selection.setCaret(last, last.length);
-    const object = !element.hasChildNodes() && velor.dom.isAtom(element);
-    if (object) velor.selection.selectNode(element);
-    else velor.selection.setCaret(element, 0);
+function caretIn(element, offset) {
+  const texts = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
+  let last = null;
+  for (let text = texts.nextNode(); text; text = texts.nextNode()) {
+    if (offset <= text.length) return selection.setCaret(text, offset);
+    offset -= text.length;
+    last = text;
   }
+  if (last) return selection.setCaret(last, last.length);
+  const object = !element.hasChildNodes() && dom.isAtom(element);
+  if (object) selection.selectNode(element);
+  else selection.setCaret(element, 0);
+}
 
-  velor.showPlace = (places) => {
-    for (const { name, ordinal, offset } of places) {
-      const element = document.getElementsByTagName(name)[ordinal];
-      if (!element || !velor.editable() || !document.body.contains(element)) continue;
-      velor.history.finish();
-      caretIn(element, offset);
-      element.scrollIntoView({ block: 'nearest' });
-      const box = document.getSelection().getRangeAt(0).getBoundingClientRect();
-      const seen = box.top >= 0 && box.bottom <= innerHeight;
-      if (box.height && !seen) scrollBy(0, box.top - innerHeight / 3);
-      return;
-    }
-  };
-})();
+export const showPlace = (places) => {
+  for (const { name, ordinal, offset } of places) {
+    const element = document.getElementsByTagName(name)[ordinal];
+    if (!element || !dom.isEditable() || !document.body.contains(element)) continue;
+    history.finish();
+    caretIn(element, offset);
+    element.scrollIntoView({ block: 'nearest' });
+    const box = document.getSelection().getRangeAt(0).getBoundingClientRect();
+    const seen = box.top >= 0 && box.bottom <= innerHeight;
+    if (box.height && !seen) scrollBy(0, box.top - innerHeight / 3);
+    return;
+  }
+};

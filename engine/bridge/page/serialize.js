@@ -1,63 +1,59 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The document as text: what outerHTML leaves out is put around it.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
+import { meantBlanks } from './blanks.js';
+import * as selection from './selection.js';
 
-  function doctype({ name, publicId, systemId }) {
-    let text = `<!DOCTYPE ${name}`;
-    if (publicId) text += ` PUBLIC "${publicId}"`;
-    else if (systemId) text += ' SYSTEM';
-    if (systemId) text += ` "${systemId}"`;
-    return `${text}>`;
+function doctype({ name, publicId, systemId }) {
+  let text = `<!DOCTYPE ${name}`;
+  if (publicId) text += ` PUBLIC "${publicId}"`;
+  else if (systemId) text += ' SYSTEM';
+  if (systemId) text += ` "${systemId}"`;
+  return `${text}>`;
+}
+
+// A parser drops a line break that comes first in these, so one that is meant is written twice.
+const dropsFirstBreak = 'pre, listing, textarea';
+const startsWithBreak = (element) => element.firstChild?.nodeType === Node.TEXT_NODE &&
+  element.firstChild.data.startsWith('\n');
+export function firstBreaks(top) {
+  const found = [...top.querySelectorAll?.(dropsFirstBreak) ?? []];
+  if (top.matches?.(dropsFirstBreak)) found.push(top);
+  return found.filter(startsWithBreak);
+}
+
+// The same node in a copy of its tree.
+function counterpart(node, root, copy) {
+  if (node === root) return copy;
+  return counterpart(node.parentNode, root, copy).childNodes[selection.indexOf(node)];
+}
+
+// A text is written by an element that holds it.
+const holder = document.createElement('p');
+function written(node) {
+  if (node.nodeType === Node.ELEMENT_NODE) return node.outerHTML;
+  holder.replaceChildren(node.cloneNode());
+  return holder.innerHTML;
+}
+
+function markup(root) {
+  const blanks = meantBlanks().filter(({ node }) => root.contains(node));
+  if (!firstBreaks(root).length && !blanks.length) return written(root);
+  const copy = root.cloneNode(true);
+  for (const { node, index, text } of blanks) {
+    counterpart(node, root, copy).replaceData(index, 1, text);
   }
+  firstBreaks(copy).forEach((element) => element.prepend('\n'));
+  return written(copy);
+}
 
-  // A parser drops a line break that comes first in these, so one that is meant is written twice.
-  const dropsFirstBreak = 'pre, listing, textarea';
-  const startsWithBreak = (element) => element.firstChild?.nodeType === Node.TEXT_NODE &&
-    element.firstChild.data.startsWith('\n');
-  function firstBreaks(top) {
-    const found = [...top.querySelectorAll?.(dropsFirstBreak) ?? []];
-    if (top.matches?.(dropsFirstBreak)) found.push(top);
-    return found.filter(startsWithBreak);
+// What a node adds to the text.
+export function serializeNode(node) {
+  switch (node.nodeType) {
+    case Node.DOCUMENT_TYPE_NODE: return doctype(node);
+    case Node.COMMENT_NODE: return `<!--${node.data}-->`;
+    case Node.PROCESSING_INSTRUCTION_NODE: return `<?${node.target} ${node.data}>`;
+    default: return markup(node);
   }
+}
 
-  // The same node in a copy of its tree.
-  function counterpart(node, root, copy) {
-    if (node === root) return copy;
-    return counterpart(node.parentNode, root, copy).childNodes[velor.selection.indexOf(node)];
-  }
-
-  // A text is written by an element that holds it.
-  const holder = document.createElement('p');
-  function written(node) {
-    if (node.nodeType === Node.ELEMENT_NODE) return node.outerHTML;
-    holder.replaceChildren(node.cloneNode());
-    return holder.innerHTML;
-  }
-
-  function markup(root) {
-    const blanks = velor.blanks.meant().filter(({ node }) => root.contains(node));
-    if (!firstBreaks(root).length && !blanks.length) return written(root);
-    const copy = root.cloneNode(true);
-    for (const { node, index, text } of blanks) {
-      counterpart(node, root, copy).replaceData(index, 1, text);
-    }
-    firstBreaks(copy).forEach((element) => element.prepend('\n'));
-    return written(copy);
-  }
-
-  function outer(node) {
-    switch (node.nodeType) {
-      case Node.DOCUMENT_TYPE_NODE: return doctype(node);
-      case Node.COMMENT_NODE: return `<!--${node.data}-->`;
-      case Node.PROCESSING_INSTRUCTION_NODE: return `<?${node.target} ${node.data}>`;
-      default: return markup(node);
-    }
-  }
-
-  velor.serialize = (page = document) => [...page.childNodes].map(outer).join('\n');
-  // What a node adds to the text.
-  velor.serialize.piece = outer;
-  velor.serialize.firstBreaks = firstBreaks;
-})();
+export const serialize = (page = document) => [...page.childNodes].map(serializeNode).join('\n');

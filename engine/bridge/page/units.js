@@ -2,205 +2,201 @@
 // Units: the paragraphs of a selection, as block commands see them. A unit is a run of inline nodes
 // between two blocks, in the block that holds it; where the run is all that a P, a heading and the
 // like hold, that block is the unit's own.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
-  const dom = velor.dom;
+import * as dom from './dom.js';
+import * as selection from './selection.js';
 
-  const own = (block) => dom.isParagraph(block) || block.tagName === 'DIV';
+const own = (block) => dom.isParagraph(block) || block.tagName === 'DIV';
 
-  // The run around `node`, which is inline or shown text, in its block; edges that show nothing are
-  // left out of it.
-  function runAround(node) {
-    const container = dom.blockOf(node.parentNode);
-    let top = node;
-    while (top.parentNode !== container) top = top.parentNode;
-    const holdsBlock = (at) => dom.isInline(at) && !dom.isAtom(at) && containsBlock(at);
-    // An inline element around blocks (old pages wrap them in FONT) is a container of its own.
-    for (let at = node.parentNode; at !== container; at = at.parentNode) {
-      if (holdsBlock(at)) return unit(at, childTowards(at, node));
-    }
-    return unit(container, top);
+// The run around `node`, which is inline or shown text, in its block; edges that show nothing are
+// left out of it.
+function runAround(node) {
+  const container = dom.blockOf(node.parentNode);
+  let top = node;
+  while (top.parentNode !== container) top = top.parentNode;
+  const holdsBlock = (at) => dom.isInline(at) && !dom.isAtom(at) && containsBlock(at);
+  // An inline element around blocks (old pages wrap them in FONT) is a container of its own.
+  for (let at = node.parentNode; at !== container; at = at.parentNode) {
+    if (holdsBlock(at)) return unit(at, childTowards(at, node));
   }
-  const containsBlock = (element) =>
-    [...element.children].some((child) =>
-      dom.isBlock(child) || (dom.isInline(child) && !dom.isAtom(child) && containsBlock(child)));
-  function childTowards(parent, node) {
-    while (node.parentNode !== parent) node = node.parentNode;
-    return node;
+  return unit(container, top);
+}
+const containsBlock = (element) =>
+  [...element.children].some((child) =>
+    dom.isBlock(child) || (dom.isInline(child) && !dom.isAtom(child) && containsBlock(child)));
+function childTowards(parent, node) {
+  while (node.parentNode !== parent) node = node.parentNode;
+  return node;
+}
+
+// A block, or an inline element around blocks: a run ends there.
+const stops = (node) =>
+  dom.isBlock(node) || (dom.isInline(node) && !dom.isAtom(node) && containsBlock(node));
+
+// The nodes of a run on one side of it, the nearest first, and what ends the run there.
+function reach(top, side) {
+  const nodes = [];
+  let at = top[side];
+  for (; at && !stops(at); at = at[side]) nodes.push(at);
+  return { nodes, end: at };
+}
+
+function spread(top, container) {
+  const before = reach(top, 'previousSibling');
+  const after = reach(top, 'nextSibling');
+  const nodes = [...before.nodes.reverse(), top, ...after.nodes];
+  let first = 0;
+  let end = nodes.length;
+  while (end - first > 1 && !dom.isShown(nodes[first])) first++;
+  while (end - first > 1 && !dom.isShown(nodes[end - 1])) end--;
+  const whole = own(container) && !before.end && !after.end;
+  return { nodes: nodes.slice(first, end), block: whole ? container : null };
+}
+
+// `home` is the element that a unit lies in or, where it is an object, is: enough for most answers.
+// The nodes of a run and its block are found out when they are asked for: a paragraph may be long.
+function unit(container, top) {
+  let known = null;
+  const read = () => (known ??= top ? spread(top, container)
+    : { nodes: [], block: own(container) && !firstShown(container) ? container : null });
+  return {
+    container, home: container, object: null,
+    get nodes() { return read().nodes; },
+    get block() { return read().block; },
+  };
+}
+
+const firstShown = (node) => dom.shownFrom(node.firstChild, 'nextSibling');
+const lastShownChild = (node) => dom.shownFrom(node.lastChild, 'previousSibling');
+
+// The unit of one leaf; null where the leaf is no part of any (a rule, space between blocks).
+function unitOf(leaf) {
+  if (dom.isBlock(leaf)) {
+    return dom.isAtom(leaf) || !own(leaf) && !dom.isCell(leaf) && leaf.tagName !== 'LI' &&
+      leaf.tagName !== 'DD' && leaf.tagName !== 'BLOCKQUOTE'
+      ? null
+      : unit(leaf, null);
   }
+  return runAround(leaf);
+}
 
-  // A block, or an inline element around blocks: a run ends there.
-  const stops = (node) =>
-    dom.isBlock(node) || (dom.isInline(node) && !dom.isAtom(node) && containsBlock(node));
+// The last leaf of a node that shows something.
+function lastShown(node) {
+  if (dom.isAtom(node)) return node;
+  const child = lastShownChild(node);
+  return child ? lastShown(child) : node;
+}
 
-  // The nodes of a run on one side of it, the nearest first, and what ends the run there.
-  function reach(top, side) {
-    const nodes = [];
-    let at = top[side];
-    for (; at && !stops(at); at = at[side]) nodes.push(at);
-    return { nodes, end: at };
+// A selected object that is a block itself.
+const objectUnit = (object) =>
+  ({ container: object.parentNode, home: object, object, nodes: [object], block: object });
+
+// The place of a caret between two blocks, or at their edge, where no line is: [node, offset];
+// null elsewhere.
+export function gapAt({ startContainer, startOffset, collapsed }) {
+  if (!collapsed) return null;
+  let [node, offset] = [startContainer, startOffset];
+  if (dom.isText(node)) {
+    if (!dom.isIgnorable(node)) return null;
+    [node, offset] = [node.parentNode, selection.indexOf(node)];
   }
+  if (!dom.isBare(node) && !/^(LI|DD)$/.test(node.tagName)) return null;
+  const around = [dom.shownFrom(node.childNodes[offset - 1], 'previousSibling'),
+    dom.shownFrom(node.childNodes[offset], 'nextSibling')].filter(Boolean);
+  return around.length && around.every(dom.isBlock) ? [node, offset] : null;
+}
 
-  function spread(top, container) {
-    const before = reach(top, 'previousSibling');
-    const after = reach(top, 'nextSibling');
-    const nodes = [...before.nodes.reverse(), top, ...after.nodes];
-    let first = 0;
-    let end = nodes.length;
-    while (end - first > 1 && !dom.isShown(nodes[first])) first++;
-    while (end - first > 1 && !dom.isShown(nodes[end - 1])) end--;
-    const whole = own(container) && !before.end && !after.end;
-    return { nodes: nodes.slice(first, end), block: whole ? container : null };
+function caretUnit({ startContainer: node, startOffset: offset }) {
+  if (dom.isText(node) && !dom.isIgnorable(node)) return unitOf(node);
+  if (dom.isText(node)) {
+    const { parentNode } = node;
+    return caretUnit(
+      { startContainer: parentNode, startOffset: selection.indexOf(node) });
   }
+  const last = lastShownChild(node);
+  if (!last) return dom.isBlock(node) ? unit(node, null) : unitOf(node);
+  const next = dom.shownFrom(node.childNodes[offset], 'nextSibling');
+  const line = dom.shownFrom(node.childNodes[offset - 1], 'previousSibling');
+  // At the end of a line before a block the caret is in that line.
+  if (line && !dom.isBlock(line) && dom.isBlock(next)) return unitOf(lastShown(line));
+  const leaf = next ? dom.firstLeaf(next) : dom.lastLeaf(last);
+  if (!dom.isBlock(leaf) || !dom.isAtom(leaf)) return unitOf(leaf);
+  if (dom.isIsland(leaf)) return null;
+  const near = dom.neighbour(leaf, 'previousSibling') || dom.neighbour(leaf, 'nextSibling');
+  return near && !dom.isAtom(near) ? unitOf(lastShown(near)) : null;
+}
 
-  // `home` is the element that a unit lies in or, where it is an object, is: enough for most answers.
-  // The nodes of a run and its block are found out when they are asked for: a paragraph may be long.
-  function unit(container, top) {
-    let known = null;
-    const read = () => (known ??= top ? spread(top, container)
-      : { nodes: [], block: own(container) && !firstShown(container) ? container : null });
-    return {
-      container, home: container, object: null,
-      get nodes() { return read().nodes; },
-      get block() { return read().block; },
-    };
+// Tells of one leaf after the other, in document order, whether it is in the run of the one before.
+function runFollower() {
+  let container = null;
+  let child = null;  // of the container, with the last leaf in it
+  return {
+    begin(found, leaf) {
+      ({ container } = found);
+      child = container.contains(leaf) && container !== leaf ? childTowards(container, leaf) : null;
+    },
+    takes(leaf) {
+      if (!child || !container.contains(leaf)) return false;
+      const next = childTowards(container, leaf);
+      while (child !== next && child && !stops(child)) child = child.nextSibling;
+      return child === next && !stops(next);
+    },
+  };
+}
+
+// `most` is the number of leaves that are looked at.
+export function unitsIn(range, most = Infinity) {
+  if (!range) return [];
+  const object = selection.control(range);
+  // A box has paragraphs of its own.
+  const isWhole = (node) => dom.isAtom(node) || node.tagName === 'TABLE';
+  if (object && dom.isBlock(object) && isWhole(object)) return [objectUnit(object)];
+  if (range.collapsed) return [caretUnit(range)].filter(Boolean);
+  const units = [];
+  const run = runFollower();
+  let rest = most;
+  for (const leaf of selection.leavesIn(range)) {
+    if (rest-- <= 0) break;
+    if (!dom.isShown(leaf)) continue;
+    // A selection that ends at the very start of a paragraph does not mean that paragraph.
+    const untouched = units.length && leaf === range.endContainer && range.endOffset === 0;
+    if (untouched || run.takes(leaf)) continue;
+    const found = unitOf(leaf);
+    if (!found) continue;
+    units.push(found);
+    run.begin(found, leaf);
   }
+  return units.length ? units : [caretUnit(range)].filter(Boolean);
+}
 
-  const firstShown = (node) => dom.shownFrom(node.firstChild, 'nextSibling');
-  const lastShownChild = (node) => dom.shownFrom(node.lastChild, 'previousSibling');
+// To be told before elements change: from then on a unit is what it was.
+export function heldUnits(units) {
+  for (const each of units) void each.nodes;
+  return units;
+}
 
-  // The unit of one leaf; null where the leaf is no part of any (a rule, space between blocks).
-  function unitOf(leaf) {
-    if (dom.isBlock(leaf)) {
-      return dom.isAtom(leaf) || !own(leaf) && !velor.dom.isCell(leaf) && leaf.tagName !== 'LI' &&
-        leaf.tagName !== 'DD' && leaf.tagName !== 'BLOCKQUOTE'
-        ? null
-        : unit(leaf, null);
-    }
-    return runAround(leaf);
+// The list item (or the item of another kind) that a unit lies in, within its table cell.
+export const itemAround = (found, fits = (node) => node.tagName === 'LI') =>
+  dom.ancestor(found.home, (node) => dom.isElement(node) && fits(node),
+    (node) => dom.isCell(node));
+
+// Puts the unit into a new element, or makes its own block into that element where it is only a
+// paragraph of another kind. Returns the element.
+export function become(found, tag) {
+  const { block, nodes, container } = found;
+  const paragraph = block && dom.isParagraph(block) && block.tagName !== 'DT';
+  if (paragraph || dom.isPlainDivision(block)) {
+    return dom.rename(block, tag);
   }
+  return enclose({ container, nodes }, dom.create(tag));
+}
 
-  // The last leaf of a node that shows something.
-  function lastShown(node) {
-    if (dom.isAtom(node)) return node;
-    const child = lastShownChild(node);
-    return child ? lastShown(child) : node;
-  }
+// Puts an element around the unit's nodes; into the container where it has none.
+export function enclose({ container, nodes }, element) {
+  if (nodes.length) return dom.wrap(nodes, element);
+  container.append(element);
+  return element;
+}
 
-  // A selected object that is a block itself.
-  const objectUnit = (object) =>
-    ({ container: object.parentNode, home: object, object, nodes: [object], block: object });
+// The topmost node of a unit: its block, or each of its nodes.
+export const partsOf = ({ block, nodes }) => (block ? [block] : nodes);
 
-  // The place of a caret between two blocks, or at their edge, where no line is: [node, offset];
-  // null elsewhere.
-  function gapAt({ startContainer, startOffset, collapsed }) {
-    if (!collapsed) return null;
-    let [node, offset] = [startContainer, startOffset];
-    if (dom.isText(node)) {
-      if (!dom.isIgnorable(node)) return null;
-      [node, offset] = [node.parentNode, velor.selection.indexOf(node)];
-    }
-    if (!dom.isBare(node) && !/^(LI|DD)$/.test(node.tagName)) return null;
-    const around = [dom.shownFrom(node.childNodes[offset - 1], 'previousSibling'),
-      dom.shownFrom(node.childNodes[offset], 'nextSibling')].filter(Boolean);
-    return around.length && around.every(dom.isBlock) ? [node, offset] : null;
-  }
-
-  function caretUnit({ startContainer: node, startOffset: offset }) {
-    if (dom.isText(node) && !dom.isIgnorable(node)) return unitOf(node);
-    if (dom.isText(node)) {
-      const { parentNode } = node;
-      return caretUnit(
-        { startContainer: parentNode, startOffset: velor.selection.indexOf(node) });
-    }
-    const last = lastShownChild(node);
-    if (!last) return dom.isBlock(node) ? unit(node, null) : unitOf(node);
-    const next = dom.shownFrom(node.childNodes[offset], 'nextSibling');
-    const line = dom.shownFrom(node.childNodes[offset - 1], 'previousSibling');
-    // At the end of a line before a block the caret is in that line.
-    if (line && !dom.isBlock(line) && dom.isBlock(next)) return unitOf(lastShown(line));
-    const leaf = next ? dom.firstLeaf(next) : dom.lastLeaf(last);
-    if (!dom.isBlock(leaf) || !dom.isAtom(leaf)) return unitOf(leaf);
-    if (dom.isIsland(leaf)) return null;
-    const near = dom.neighbour(leaf, 'previousSibling') || dom.neighbour(leaf, 'nextSibling');
-    return near && !dom.isAtom(near) ? unitOf(lastShown(near)) : null;
-  }
-
-  // Tells of one leaf after the other, in document order, whether it is in the run of the one before.
-  function runFollower() {
-    let container = null;
-    let child = null;  // of the container, with the last leaf in it
-    return {
-      begin(found, leaf) {
-        ({ container } = found);
-        child = container.contains(leaf) && container !== leaf ? childTowards(container, leaf) : null;
-      },
-      takes(leaf) {
-        if (!child || !container.contains(leaf)) return false;
-        const next = childTowards(container, leaf);
-        while (child !== next && child && !stops(child)) child = child.nextSibling;
-        return child === next && !stops(next);
-      },
-    };
-  }
-
-  // `most` is the number of leaves that are looked at.
-  function unitsIn(range, most = Infinity) {
-    if (!range) return [];
-    const object = velor.selection.control(range);
-    // A box has paragraphs of its own.
-    const isWhole = (node) => dom.isAtom(node) || node.tagName === 'TABLE';
-    if (object && dom.isBlock(object) && isWhole(object)) return [objectUnit(object)];
-    if (range.collapsed) return [caretUnit(range)].filter(Boolean);
-    const units = [];
-    const run = runFollower();
-    let rest = most;
-    for (const leaf of velor.selection.leavesIn(range)) {
-      if (rest-- <= 0) break;
-      if (!dom.isShown(leaf)) continue;
-      // A selection that ends at the very start of a paragraph does not mean that paragraph.
-      const untouched = units.length && leaf === range.endContainer && range.endOffset === 0;
-      if (untouched || run.takes(leaf)) continue;
-      const found = unitOf(leaf);
-      if (!found) continue;
-      units.push(found);
-      run.begin(found, leaf);
-    }
-    return units.length ? units : [caretUnit(range)].filter(Boolean);
-  }
-
-  // To be told before elements change: from then on a unit is what it was.
-  function held(units) {
-    for (const each of units) void each.nodes;
-    return units;
-  }
-
-  // The list item (or the item of another kind) that a unit lies in, within its table cell.
-  const itemOf = (found, fits = (node) => node.tagName === 'LI') =>
-    dom.ancestor(found.home, (node) => dom.isElement(node) && fits(node),
-      (node) => dom.isCell(node));
-
-  // Puts the unit into a new element, or makes its own block into that element where it is only a
-  // paragraph of another kind. Returns the element.
-  function become(found, tag) {
-    const { block, nodes, container } = found;
-    const paragraph = block && dom.isParagraph(block) && block.tagName !== 'DT';
-    if (paragraph || dom.isPlainDivision(block)) {
-      return dom.rename(block, tag);
-    }
-    return enclose({ container, nodes }, dom.create(tag));
-  }
-
-  // Puts an element around the unit's nodes; into the container where it has none.
-  function enclose({ container, nodes }, element) {
-    if (nodes.length) return dom.wrap(nodes, element);
-    container.append(element);
-    return element;
-  }
-
-  // The topmost node of a unit: its block, or each of its nodes.
-  const partsOf = ({ block, nodes }) => (block ? [block] : nodes);
-
-  velor.units = { gapAt, unitsIn, held, itemOf, become, enclose, partsOf };
-})();

@@ -2,15 +2,12 @@
 // Keys come another way than the program's expressions, which may overtake them. Before the program
 // reads the document it lets go of a key that no keyboard has, after all the others, and is told
 // when that one is here.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
+import { host } from './host.js';
 
-  function arrived(event) {
-    if (event.key !== 'F24') return;
-    event.stopImmediatePropagation();
-    velor.host?.inputArrived();
-  }
+function arrived(event) {
+  if (event.key !== 'F24') return;
+  event.stopImmediatePropagation();
+  host()?.inputArrived();
+}
 
-  addEventListener('keyup', arrived, true);
-})();
+addEventListener('keyup', arrived, true);

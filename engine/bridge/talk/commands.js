@@ -1,219 +1,224 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The one table of commands: a published number, the answer whether it applies and what it does.
 // Both look at the same view of the selection, so that enabling and doing cannot drift apart.
-(() => {
-  'use strict';
-  const { velor } = globalThis;
+import * as blocks from '../blocks/blocks.js';
+import * as deletion from '../blocks/deletion.js';
+import * as indent from '../blocks/indent.js';
+import * as lists from '../blocks/lists.js';
+import * as align from '../formats/align.js';
+import { formats } from '../formats/formats.js';
+import * as inline from '../formats/inline.js';
+import * as pending from '../formats/pending.js';
+import * as blanks from '../page/blanks.js';
+import * as dom from '../page/dom.js';
+import * as history from '../page/history.js';
+import * as selection from '../page/selection.js';
+import { heldUnits, unitsIn } from '../page/units.js';
+import { isWorking, work } from '../page/working.js';
+import { schedulePush } from './pace.js';
 
-  // The published numbers of a command's status.
-  const Disabled = 1;
-  const Enabled = 3;
-  const Latched = 7;
-  const Ninched = 11;
+// The published numbers of a command's status.
+const Disabled = 1;
+const Enabled = 3;
+const Latched = 7;
+const Ninched = 11;
 
-  // Both stop reading as soon as the answer is known: a selection may be the whole of a long page.
-  function spread(subjects, fits) {
-    let some = false;
-    let all = true;
-    for (const subject of subjects) {
-      if (fits(subject)) some = true;
-      else all = false;
-      if (some && !all) return Ninched;
-    }
-    return some ? Latched : Enabled;
+// Both stop reading as soon as the answer is known: a selection may be the whole of a long page.
+function spread(subjects, fits) {
+  let some = false;
+  let all = true;
+  for (const subject of subjects) {
+    if (fits(subject)) some = true;
+    else all = false;
+    if (some && !all) return Ninched;
   }
-  // The one value of all, or the empty text.
-  function common(subjects, read, same = (one, other) => one === other) {
-    let first = null;
-    for (const subject of subjects) {
-      const value = read(subject);
-      first ??= value;
-      if (!same(value, first)) return '';
-    }
-    return first ?? '';
+  return some ? Latched : Enabled;
+}
+// The one value of all, or the empty text.
+function common(subjects, read, same = (one, other) => one === other) {
+  let first = null;
+  for (const subject of subjects) {
+    const value = read(subject);
+    first ??= value;
+    if (!same(value, first)) return '';
   }
+  return first ?? '';
+}
 
-  // What a command may want to know of the selection, each read once and only when asked for.
-  velor.view = () => {
-    const range = velor.selection.range();
-    const once = (read) => {
-      let known;
-      return () => (known ??= read());
-    };
-    return {
-      range,
-      object: velor.selection.control(range),
-      elements: once(() => {
-        const texts = velor.selection.textsIn(range, velor.selection.leafLimit);
-        return [...new Set(texts.map((text) => text.parentElement))];
-      }),
-      units: once(() => velor.units.unitsIn(range, velor.selection.leafLimit)),
-    };
+// What a command may want to know of the selection, each read once and only when asked for.
+export const readView = () => {
+  const range = selection.range();
+  const once = (read) => {
+    let known;
+    return () => (known ??= read());
   };
-
-  // Where a character format is to be read: the elements of the selected texts, or the caret.
-  const subjects = ({ range, elements }) =>
-    (elements().length ? elements() : [velor.selection.caretElement(range)]);
-  // Reads a format at an element; what was chosen for the text to come counts at a caret.
-  function reader(name, view) {
-    if (velor.pending.has(name) && !view.elements().length) return () => velor.pending.get(name);
-    const known = new Map();
-    return (element) => velor.formats[name].read(element, known);
-  }
-
-  function put(name, value, { range, object, elements }) {
-    if (!elements().length) {
-      velor.pending.set(name, value);
-      return;
-    }
-    velor.inline.apply(name, value, range);
-    if (object?.isConnected) velor.selection.selectNode(object);
-  }
-
-  // A table or a box that is selected has its texts formatted; a picture has none.
-  const takesFormats = ({ object, range, elements }) => elements().length > 0 ||
-    !object && velor.dom.rawAt(range.startContainer) === null;
-  const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Disabled);
-  // What is done is done to all of the selection, however little of it the answer was read from.
-  const onUnits = (change) => (value, view) => {
-    const kept = velor.selection.keep();
-    const units = velor.units.held(velor.units.unitsIn(view.range));
-    change(velor.lists.housed(units, kept), value);
-    velor.selection.restore(kept);
+  return {
+    range,
+    object: selection.control(range),
+    elements: once(() => {
+      const texts = selection.textsIn(range, selection.leafLimit);
+      return [...new Set(texts.map((text) => text.parentElement))];
+    }),
+    units: once(() => unitsIn(range, selection.leafLimit)),
   };
+};
 
-  const toggle = (name) => ({
-    status: whereText((view) => spread(subjects(view), reader(name, view))),
-    run: (value, view) =>
-      put(name, spread(subjects(view), reader(name, view)) !== Latched, view),
-  });
+// Where a character format is to be read: the elements of the selected texts, or the caret.
+const subjects = ({ range, elements }) =>
+  (elements().length ? elements() : [selection.caretElement(range)]);
+// Reads a format at an element; what was chosen for the text to come counts at a caret.
+function reader(name, view) {
+  if (pending.has(name) && !view.elements().length) return () => pending.get(name);
+  const known = new Map();
+  return (element) => formats[name].read(element, known);
+}
 
-  const character = (name) => ({
-    status: whereText(() => Enabled),
+function put(name, value, { range, object, elements }) {
+  if (!elements().length) {
+    pending.set(name, value);
+    return;
+  }
+  inline.apply(name, value, range);
+  if (object?.isConnected) selection.selectNode(object);
+}
+
+// A table or a box that is selected has its texts formatted; a picture has none.
+const takesFormats = ({ object, range, elements }) => elements().length > 0 ||
+  !object && dom.rawAt(range.startContainer) === null;
+const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Disabled);
+// What is done is done to all of the selection, however little of it the answer was read from.
+const onUnits = (change) => (value, view) => {
+  const kept = selection.keep();
+  const units = heldUnits(unitsIn(view.range));
+  change(lists.housed(units, kept), value);
+  selection.restore(kept);
+};
+
+const toggle = (name) => ({
+  status: whereText((view) => spread(subjects(view), reader(name, view))),
+  run: (value, view) =>
+    put(name, spread(subjects(view), reader(name, view)) !== Latched, view),
+});
+
+const character = (name) => ({
+  status: whereText(() => Enabled),
+  run(value, view) {
+    const wanted = formats[name].parse(value);
+    if (wanted !== '') put(name, wanted, view);
+  },
+});
+
+const justify = (side) => ({
+  status: (view) => spread(view.units(), (unit) => align.read(unit) === side),
+  run: onUnits((units) => align.applyAll(units, side)),
+});
+
+const list = (tag) => {
+  const status = (view) => spread(view.units(), (unit) => lists.tagOf(unit) === tag);
+  return {
+    status: (view) => (view.units().length ? status(view) : Disabled),
     run(value, view) {
-      const wanted = velor.formats[name].parse(value);
-      if (wanted !== '') put(name, wanted, view);
+      if (status(view) === Latched) lists.unlist();
+      else onUnits((units) => lists.make(units, tag, 'LI'))(value, view);
     },
-  });
-
-  const justify = (side) => ({
-    status: (view) => spread(view.units(), (unit) => velor.align.read(unit) === side),
-    run: onUnits((units) => velor.align.applyAll(units, side)),
-  });
-
-  const list = (tag) => {
-    const status = (view) => spread(view.units(), (unit) => velor.lists.tagOf(unit) === tag);
-    return {
-      status: (view) => (view.units().length ? status(view) : Disabled),
-      run(value, view) {
-        if (status(view) === Latched) velor.lists.unlist();
-        else onUnits((units) => velor.lists.make(units, tag, 'LI'))(value, view);
-      },
-    };
   };
+};
 
-  const query = (value) => ({ status: () => Enabled, value });
-  const reading = (name) => query((view) =>
-    common(subjects(view), reader(name, view), velor.formats[name].same));
+const query = (value) => ({ status: () => Enabled, value });
+const reading = (name) => query((view) =>
+  common(subjects(view), reader(name, view), formats[name].same));
 
-  // Carried out by the engine itself at the program's call; only its status is answered here.
-  const byEngine = (status) => ({ status });
-  const selected = (view) => (view.range.collapsed ? Disabled : Enabled);
-  const always = () => Enabled;
+// Carried out by the engine itself at the program's call; only its status is answered here.
+const byEngine = (status) => ({ status });
+const selected = (view) => (view.range.collapsed ? Disabled : Enabled);
+const always = () => Enabled;
 
-  velor.commands = new Map([
-    [5000, toggle('bold')],
-    [5002, byEngine(selected)],  // Copy
-    [5003, byEngine(selected)],  // Cut
-    [5004, {  // Delete
-      status: always,
-      run(value, { range }) {
-        if (!range.collapsed) {
-          velor.deletion.remove(range);
-          return;
-        }
-        const join = velor.deletion.joining(range, 'end');
-        if (join) {
-          join();
-          return;
-        }
-        velor.blanks.watch();
-        document.execCommand('forwardDelete');
-        velor.blanks.watched({ inputType: 'deleteContentForward' });
-      },
-    }],
-    [5010, reading('backColor')],
-    [5011, query((view) => common(view.units(), velor.blocks.read))],
-    [5013, reading('fontName')],
-    [5014, reading('fontSize')],
-    [5015, reading('foreColor')],
-    [5018, {  // Indent
-      status: (view) => (view.units().length ? Enabled : Disabled),
-      run: onUnits(velor.indent.indent),
-    }],
-    [5023, toggle('italic')],
-    [5024, justify('center')],
-    [5025, justify('left')],
-    [5026, justify('right')],
-    [5030, list('OL')],
-    [5031, {  // Outdent
-      status: (view) => (view.units().some(velor.indent.canOutdent) ? Enabled : Disabled),
-      run: onUnits(velor.indent.outdent),
-    }],
-    [5032, byEngine(always)],  // Paste
-    [5033, {  // Redo
-      status: () => (velor.history.canRedo() ? Enabled : Disabled),
-      travel: () => velor.history.redo(),
-    }],
-    [5035, {  // SelectAll
-      status: always,
-      travel: () => document.getSelection().selectAllChildren(document.body),
-    }],
-    [5042, character('backColor')],
-    [5043, {  // SetBlockFormat
-      status: (view) => (view.units().some(velor.blocks.takesFormat) ? Enabled : Disabled),
-      run: (value, view) => velor.blocks.apply(value, view.range),
-    }],
-    [5044, character('fontName')],
-    [5045, character('fontSize')],
-    [5046, character('foreColor')],
-    [5048, toggle('underline')],
-    [5049, {  // Undo
-      status: () => (velor.history.canUndo() ? Enabled : Disabled),
-      travel: () => velor.history.undo(),
-    }],
-    [5051, list('UL')],
-  ]);
-
-  // Status, and the value of a query, by number; without a caret nothing applies.
-  velor.status = (number, view = velor.view()) =>
-    (view.range ? velor.commands.get(number).status(view) : Disabled);
-  velor.value = (number, view = velor.view()) =>
-    (view.range ? velor.commands.get(number).value(view) : '');
-
-  // True while a command is at work: what the engine reports then is no input of the person's.
-  velor.working = false;
-
-  velor.exec = (number, value = '') => {
-    const command = velor.commands.get(number);
-    if (!command || velor.working) return false;
-    velor.history.settle();
-    const view = velor.view();
-    if (velor.status(number, view) === Disabled) return false;
-    if (command.value) return velor.value(number, view);
-    velor.working = true;
-    try {
-      if (command.travel) command.travel();
-      else if (command.run) {
-        velor.history.step(number, () => {
-          if (!view.range.collapsed) velor.blanks.release();
-          command.run(String(value), view);
-        });
+export const commands = new Map([
+  [5000, toggle('bold')],
+  [5002, byEngine(selected)],  // Copy
+  [5003, byEngine(selected)],  // Cut
+  [5004, {  // Delete
+    status: always,
+    run(value, { range }) {
+      if (!range.collapsed) {
+        deletion.remove(range);
+        return;
       }
-    } finally {
-      velor.working = false;
+      const join = deletion.joining(range, 'end');
+      if (join) {
+        join();
+        return;
+      }
+      blanks.watch();
+      document.execCommand('forwardDelete');
+      blanks.watched({ inputType: 'deleteContentForward' });
+    },
+  }],
+  [5010, reading('backColor')],
+  [5011, query((view) => common(view.units(), blocks.read))],
+  [5013, reading('fontName')],
+  [5014, reading('fontSize')],
+  [5015, reading('foreColor')],
+  [5018, {  // Indent
+    status: (view) => (view.units().length ? Enabled : Disabled),
+    run: onUnits(indent.indent),
+  }],
+  [5023, toggle('italic')],
+  [5024, justify('center')],
+  [5025, justify('left')],
+  [5026, justify('right')],
+  [5030, list('OL')],
+  [5031, {  // Outdent
+    status: (view) => (view.units().some(indent.canOutdent) ? Enabled : Disabled),
+    run: onUnits(indent.outdent),
+  }],
+  [5032, byEngine(always)],  // Paste
+  [5033, {  // Redo
+    status: () => (history.canRedo() ? Enabled : Disabled),
+    travel: () => history.redo(),
+  }],
+  [5035, {  // SelectAll
+    status: always,
+    travel: () => document.getSelection().selectAllChildren(document.body),
+  }],
+  [5042, character('backColor')],
+  [5043, {  // SetBlockFormat
+    status: (view) => (view.units().some(blocks.takesFormat) ? Enabled : Disabled),
+    run: (value, view) => blocks.apply(value, view.range),
+  }],
+  [5044, character('fontName')],
+  [5045, character('fontSize')],
+  [5046, character('foreColor')],
+  [5048, toggle('underline')],
+  [5049, {  // Undo
+    status: () => (history.canUndo() ? Enabled : Disabled),
+    travel: () => history.undo(),
+  }],
+  [5051, list('UL')],
+]);
+
+// Status, and the value of a query, by number; without a caret nothing applies.
+export const statusOf = (number, view = readView()) =>
+  (view.range ? commands.get(number).status(view) : Disabled);
+export const queryValue = (number, view = readView()) =>
+  (view.range ? commands.get(number).value(view) : '');
+
+export const exec = (number, value = '') => {
+  const command = commands.get(number);
+  if (!command || isWorking()) return false;
+  history.settle();
+  const view = readView();
+  if (statusOf(number, view) === Disabled) return false;
+  if (command.value) return queryValue(number, view);
+  work(() => {
+    if (command.travel) command.travel();
+    else if (command.run) {
+      history.step(number, () => {
+        if (!view.range.collapsed) blanks.release();
+        command.run(String(value), view);
+      });
     }
-    velor.schedulePush();
-    return true;
-  };
-})();
+  });
+  schedulePush();
+  return true;
+};

@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the engine makes of a text, for the spare page that saves are verified in. Texts are given by
 // what differs from the one before: [offset, length, fresh].
-(() => {
-  'use strict';
-  const { velor } = globalThis;
+import { serialize } from '../page/serialize.js';
 
-  let text = '';
-  let expected = '';
+let text = '';
+let expected = '';
 
-  const edited = (before, [offset, length, fresh]) =>
-    before.slice(0, offset) + fresh + before.slice(offset + length);
+const edited = (before, [offset, length, fresh]) =>
+  before.slice(0, offset) + fresh + before.slice(offset + length);
 
-  // True where the text is parsed to the expected document, else that document's text.
-  velor.parsed = (textEdit, expectedEdit) => {
-    text = edited(text, textEdit);
-    expected = edited(expected, expectedEdit);
-    const found = velor.serialize(new DOMParser().parseFromString(text, 'text/html'));
-    return found === expected || found;
-  };
-})();
+// True where the text is parsed to the expected document, else that document's text.
+export const parsed = (textEdit, expectedEdit) => {
+  text = edited(text, textEdit);
+  expected = edited(expected, expectedEdit);
+  const found = serialize(new DOMParser().parseFromString(text, 'text/html'));
+  return found === expected || found;
+};

@@ -25,7 +25,7 @@ class BridgeCases : public ::testing::TestWithParam<BridgeCase> {
   /// Takes everything back; returns how many steps that were.
   static int UndoAll() {
     int steps = 0;
-    for (; page_->Evaluate(QStringLiteral("velor.history.canUndo()")).toBool(); ++steps) {
+    for (; page_->Evaluate(QStringLiteral("inside.history.canUndo()")).toBool(); ++steps) {
       Perform(*page_, QStringLiteral("undo"));
     }
     return steps;

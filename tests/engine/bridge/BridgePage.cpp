@@ -28,11 +28,8 @@ QString TextOf(const QString &path) {
 }
 
 QString JoinedScripts() {
-  QString joined;
-  const QStringList names =
-      TextOf(QStringLiteral(":/bridge/order.txt")).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-  for (const QString &name : names) joined += TextOf(QStringLiteral(":/bridge/") + name);
-  return joined + TextOf(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/markup.js"));
+  return TextOf(QStringLiteral(VELOR_BRIDGE_TEST_BUNDLE)) +
+         TextOf(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/markup.js"));
 }
 
 QWebEngineScript Script(const QString &source) {

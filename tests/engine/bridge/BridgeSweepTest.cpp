@@ -85,7 +85,7 @@ TEST(BridgeVocabulary, KnowsEveryCommandByItsNumber) {
   };
   QStringList numbers;
   for (const EditingCommand command : commands) numbers += QString::number(Number(command));
-  EXPECT_EQ(page.Evaluate(QStringLiteral("[...velor.commands.keys()].join(' ')"))
+  EXPECT_EQ(page.Evaluate(QStringLiteral("[...inside.commands.keys()].join(' ')"))
                 .toString()
                 .toStdString(),
             numbers.join(QLatin1Char(' ')).toStdString());
@@ -94,7 +94,7 @@ TEST(BridgeVocabulary, KnowsEveryCommandByItsNumber) {
 TEST(BridgeVocabulary, NamesTheBlockFormatsAsTheProgramDoes) {
   BridgePage page;
   page.Load(QStringLiteral("<p>one|</p>"));
-  EXPECT_EQ(page.Evaluate(QStringLiteral("velor.blocks.formats.map(({name}) => name).join('|')"))
+  EXPECT_EQ(page.Evaluate(QStringLiteral("inside.blockFormats.map(({name}) => name).join('|')"))
                 .toString()
                 .toStdString(),
             BlockFormatNames().join(QLatin1Char('|')).toStdString());

@@ -70,7 +70,7 @@ TEST_F(Bridge, MakesTextBoldThatThePagesRulesMadeLightWithoutABoldElementInItsLi
   Evaluate(QStringLiteral("velor.exec(5000)"));
   EXPECT_EQ(Text(QStringLiteral("document.querySelector('p').lastChild.outerHTML")),
             QStringLiteral("<span class=\"light\"><b>one</b></span>"));
-  EXPECT_EQ(Evaluate(QStringLiteral("velor.status(5000)")).toInt(), 7);
+  EXPECT_EQ(Evaluate(QStringLiteral("inside.statusOf(5000)")).toInt(), 7);
 }
 
 TEST_F(Bridge, PushesAfterAMoveOfTheSelectionWithoutTheMarkup) {
@@ -181,7 +181,7 @@ TEST_F(Bridge, TakesAPasteOfTheEngineBackInOneStep) {
   ASSERT_TRUE(Comes(QStringLiteral("document.body.textContent.includes('three')")));
   Evaluate(QStringLiteral("velor.exec(5049)"));
   EXPECT_EQ(Text(QStringLiteral("velor.serialize()")), loaded);
-  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+  EXPECT_FALSE(Evaluate(QStringLiteral("inside.history.canUndo()")).toBool());
 }
 
 TEST_F(Bridge, CutsOverParagraphsInOneStepAndFillsTheClipboard) {
@@ -210,7 +210,7 @@ TEST_F(Bridge, UndoesAChangeThatNoCommandMade) {
 TEST_F(Bridge, ForgetsTheOldestStepsBeyondAThousand) {
   Load(QStringLiteral("<p>^one|</p>"));
   Evaluate(QStringLiteral("for (let i = 0; i < 1100; i++) velor.exec(5000)"));
-  EXPECT_EQ(Evaluate(QStringLiteral("let n = 0; while (velor.history.canUndo()) {"
+  EXPECT_EQ(Evaluate(QStringLiteral("let n = 0; while (inside.history.canUndo()) {"
                                     "velor.exec(5049); n++; } n"))
                 .toInt(),
             1000);
@@ -290,7 +290,7 @@ TEST_F(Bridge, ShowsDetailsWithoutATraceInThePage) {
   Evaluate(QStringLiteral("velor.setDetails(true)"));
   EXPECT_NE(Text(glyph), QStringLiteral("none"));
   EXPECT_EQ(Text(QStringLiteral("velor.serialize()")), loaded);
-  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+  EXPECT_FALSE(Evaluate(QStringLiteral("inside.history.canUndo()")).toBool());
   Evaluate(QStringLiteral("velor.setDetails(false)"));
   EXPECT_EQ(Text(glyph), QStringLiteral("none"));
 }
@@ -307,7 +307,7 @@ TEST_F(Bridge, StartsAgainOnADocumentSetInPlace) {
   Evaluate(
       QStringLiteral("document.open(); document.write('<p>two</p>'); document.close();"
                      "markup.countKeys(); velor.start()"));
-  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+  EXPECT_FALSE(Evaluate(QStringLiteral("inside.history.canUndo()")).toBool());
   page_.Type(QStringLiteral("y"));
   EXPECT_EQ(Text(QStringLiteral("document.body.textContent")), QStringLiteral("ytwo"));
   Evaluate(QStringLiteral("velor.exec(5049)"));
@@ -341,7 +341,7 @@ TEST_F(Bridge, AppliesNothingInsideAnIslandThatIsClosedToEditing) {
                      "                                document.querySelector('span'), 1)"));
   const QString loaded = Text(QStringLiteral("velor.serialize()"));
   for (const int number : {5000, 5004, 5024, 5051}) {
-    EXPECT_EQ(Evaluate(QStringLiteral("velor.status(%1)").arg(number)).toInt(), 1);
+    EXPECT_EQ(Evaluate(QStringLiteral("inside.statusOf(%1)").arg(number)).toInt(), 1);
     Evaluate(QStringLiteral("velor.exec(%1)").arg(number));
   }
   Evaluate(QStringLiteral("velor.pasteHTML('<b>x</b>')"));

@@ -40,7 +40,7 @@ class Details : public ::testing::Test {
   void ExpectUntouchedPage() {
     EXPECT_EQ(Text(QStringLiteral("velor.serialize()")), text_);
     EXPECT_EQ(Evaluate(QStringLiteral("records")).toInt(), 0);
-    EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+    EXPECT_FALSE(Evaluate(QStringLiteral("inside.history.canUndo()")).toBool());
   }
 
   BridgePage page_;
@@ -106,7 +106,7 @@ TEST_F(Details, SelectAnObjectThatShowsNothingByItsSign) {
   Evaluate(QStringLiteral("velor.setDetails(true)"));
   ASSERT_TRUE(SignsCome(1));
   const QVariantMap sign =
-      Evaluate(QStringLiteral("velor.glyphs.boxOf(document.querySelector('embed'))")).toMap();
+      Evaluate(QStringLiteral("inside.glyphs.boxOf(document.querySelector('embed'))")).toMap();
   page_.Click({sign[QStringLiteral("left")].toInt() + 4, sign[QStringLiteral("top")].toInt() + 4});
   EXPECT_TRUE(Comes(QStringLiteral("velor.state().element.tag === 'EMBED'")));
   EXPECT_TRUE(
@@ -121,7 +121,7 @@ TEST_F(Details, PutSignsSideBySide) {
   ASSERT_TRUE(SignsCome(3));
   EXPECT_TRUE(
       Evaluate(QStringLiteral("{ const [a, b, c] = [...document.body.childNodes].slice(1, 4)"
-                              "    .map(velor.glyphs.boxOf);"
+                              "    .map(inside.glyphs.boxOf);"
                               "  a.right < b.left && b.right < c.left && a.top === c.top }"))
           .toBool());
 }
@@ -132,7 +132,7 @@ TEST_F(Details, LieBesideTextFromRightToLeft) {
   ASSERT_TRUE(SignsCome(1));
   EXPECT_TRUE(Evaluate(QStringLiteral("{ const range = document.createRange();"
                                       "  range.selectNode(document.querySelector('p').firstChild);"
-                                      "  velor.glyphs.boxOf(document.querySelector('br')).right <="
+                                      "  inside.glyphs.boxOf(document.querySelector('br')).right <="
                                       "      range.getBoundingClientRect().left }"))
                   .toBool());
 }

@@ -81,7 +81,7 @@ TEST_F(Drags, ChangeNothingWhereTheyEndInThemselves) {
   Load(QStringLiteral("<p>one <b id=\"o\">^words|</b> two</p>"));
   DragTo(QStringLiteral("#o"), QStringLiteral("#o"), QStringLiteral("left"));
   EXPECT_EQ(Body(), loaded_);
-  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+  EXPECT_FALSE(Evaluate(QStringLiteral("inside.history.canUndo()")).toBool());
 }
 
 TEST_F(Drags, BringAnAddressThatComesAloneAsALink) {

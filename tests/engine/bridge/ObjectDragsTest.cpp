@@ -9,7 +9,7 @@ class ObjectDrags : public Objects {};
 
 TEST_F(ObjectDrags, ThePointerLooksLikeTheGripThatItIsOver) {
   Load(QString::fromLatin1(box));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('div'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('div'))"));
   const auto looks = [this](QPoint place, const QString &cursor) {
     page_.Move(place);
     return Comes(
@@ -72,7 +72,7 @@ TEST_F(ObjectDrags, EscapeCancelsADrag) {
   page_.Button(QEvent::MouseButtonRelease, {290, 190});
   page_.Type(QStringLiteral(""));
   EXPECT_EQ(Body(), loaded_);
-  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+  EXPECT_FALSE(Evaluate(QStringLiteral("inside.history.canUndo()")).toBool());
   EXPECT_EQ(Selected(), QStringLiteral("DIV"));
 }
 
@@ -120,7 +120,7 @@ TEST_F(ObjectDrags, ArrowKeysMoveABoxToTheNextLineOfTheGridWhenItSnaps) {
 
 TEST_F(ObjectDrags, ACornerKeepsTheRatioOfThePictureUnlessShiftIsHeld) {
   Load(QStringLiteral("<img style=\"display: block\" width=\"100\" height=\"50\" alt=\"\">"));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
   Drag({100, 50}, {200, 60});
   EXPECT_TRUE(BecomesBody(
       QStringLiteral("<img style=\"display: block\" width=\"200\" height=\"100\" alt=\"\">")))
@@ -133,7 +133,7 @@ TEST_F(ObjectDrags, ACornerKeepsTheRatioOfThePictureUnlessShiftIsHeld) {
 
 TEST_F(ObjectDrags, ASideHandleChangesOneSideOnly) {
   Load(QStringLiteral("<img width=\"100\" height=\"50\" alt=\"\">"));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
   Drag({100, 25}, {130, 40});
   EXPECT_TRUE(BecomesBody(QStringLiteral("<img width=\"130\" height=\"50\" alt=\"\">")))
       << qPrintable(Body());
@@ -145,7 +145,7 @@ TEST_F(ObjectDrags, SizesAreWrittenAsThePageHasThem) {
       "<table style=\"COLOR:red;width:400px;border-collapse: collapse\" width=\"400\" "
       "height=\"100\"><tbody><tr><td>x</td></tr></tbody></table>"));
   const auto size = [this](const QPoint &from, const QPoint &by) {
-    Evaluate(QStringLiteral("velor.selection.selectNode(document.body.firstElementChild)"));
+    Evaluate(QStringLiteral("inside.selection.selectNode(document.body.firstElementChild)"));
     Drag(from, from + by);
     ASSERT_TRUE(QTest::qWaitFor([&] { return Body() != loaded_; }, 5000));
   };
@@ -173,7 +173,7 @@ TEST_F(ObjectDrags, SizesAreWrittenAsThePageHasThem) {
 
 TEST_F(ObjectDrags, TheSideOfACornerThatIsDrawnFurtherLeads) {
   Load(QStringLiteral("<img style=\"display: block\" width=\"200\" height=\"100\" alt=\"\">"));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
   Drag({200, 100}, {100, 100});
   EXPECT_TRUE(BecomesBody(
       QStringLiteral("<img style=\"display: block\" width=\"100\" height=\"50\" alt=\"\">")))
@@ -182,7 +182,7 @@ TEST_F(ObjectDrags, TheSideOfACornerThatIsDrawnFurtherLeads) {
 
 TEST_F(ObjectDrags, APictureIsNeverSmallerThanAPixel) {
   Load(QStringLiteral("<p>x</p><img width=\"100\" height=\"50\" alt=\"\">"));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
   const int top =
       Evaluate(QStringLiteral("document.querySelector('img').getBoundingClientRect().top")).toInt();
   Drag({100, top + 25}, {-200, top + 25});
@@ -194,12 +194,12 @@ TEST_F(ObjectDrags, WhatThePageDoesNotLetGrowIsNotWritten) {
   Load(
       QStringLiteral("<div style=\"width: 120px\"><img width=\"160\" height=\"100\" alt=\"\" "
                      "style=\"max-width: 100%; height: auto\"></div>"));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
   const int height = Evaluate(QStringLiteral("document.querySelector('img').offsetHeight")).toInt();
   Drag({120, height}, {160, height});
   Drag({120, height}, {160, height + 3});
   EXPECT_EQ(Body(), loaded_);
-  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+  EXPECT_FALSE(Evaluate(QStringLiteral("inside.history.canUndo()")).toBool());
 }
 
 TEST_F(ObjectDrags, LengthsKeepTheirUnits) {
@@ -231,7 +231,7 @@ TEST_F(ObjectDrags, FollowTheScaleThatAnObjectIsShownIn) {
   Load(
       QStringLiteral("<div style=\"transform: scale(0.5); transform-origin: 0 0\">"
                      "<img style=\"display: block\" width=\"100\" height=\"50\" alt=\"\"></div>"));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
   Drag({50, 12}, {80, 12});
   EXPECT_TRUE(Comes(QStringLiteral("document.querySelector('img').width === 160")))
       << qPrintable(Body());
@@ -258,7 +258,7 @@ TEST_F(ObjectDrags, HandlesAreWhereTheyAreDrawnWhenThePageIsZoomed) {
   Load(QStringLiteral("<img style=\"display: block\" width=\"100\" height=\"50\" alt=\"\">"));
   page_.Engine().setZoomFactor(2);
   ASSERT_TRUE(Comes(QStringLiteral("innerWidth === 400")));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
   ASSERT_TRUE(FrameComesAround(QStringLiteral("img")));
   Drag({200, 100}, {300, 110});
   EXPECT_TRUE(BecomesBody(

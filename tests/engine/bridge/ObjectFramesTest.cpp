@@ -34,7 +34,7 @@ class ObjectFrames : public Objects {
   }
   void Select(const QString &selector) {
     Evaluate(
-        QStringLiteral("velor.selection.selectNode(document.querySelector('%1'))").arg(selector));
+        QStringLiteral("inside.selection.selectNode(document.querySelector('%1'))").arg(selector));
   }
 };
 

@@ -37,7 +37,7 @@ class Objects : public ::testing::Test {
     return QTest::qWaitFor([&] { return Selected() == tag; }, 5000);
   }
   int Steps() {
-    return Evaluate(QStringLiteral("{ let n = 0; while (velor.history.canUndo()) {"
+    return Evaluate(QStringLiteral("{ let n = 0; while (inside.history.canUndo()) {"
                                    "velor.exec(5049); n++; }"
                                    "for (let i = 0; i < n; i++) velor.exec(5033); n }"))
         .toInt();

@@ -24,7 +24,7 @@ TEST_F(Objects, AClickSelectsAPictureAndDrawsEightHandlesWithoutTouchingThePage)
   EXPECT_TRUE(FrameComesAround(QStringLiteral("img")));
   EXPECT_EQ(Text(QStringLiteral("velor.serialize()")), text);
   EXPECT_EQ(Evaluate(QStringLiteral("records")).toInt(), 0);
-  EXPECT_FALSE(Evaluate(QStringLiteral("velor.history.canUndo()")).toBool());
+  EXPECT_FALSE(Evaluate(QStringLiteral("inside.history.canUndo()")).toBool());
 }
 
 TEST_F(Objects, TheFrameGoesWhenTextIsSelected) {
@@ -40,7 +40,7 @@ TEST_F(Objects, TheFrameFollowsScrollingAndReflow) {
   Load(
       QStringLiteral("<p>x</p><p><img width='100' height='100' alt=''></p>"
                      "<div style='height: 3000px'></div>"));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
   ASSERT_TRUE(FrameComesAround(QStringLiteral("img")));
   Evaluate(QStringLiteral("scrollTo(0, 40)"));
   EXPECT_TRUE(FrameComesAround(QStringLiteral("img")));
@@ -53,7 +53,7 @@ TEST_F(Objects, TheFrameDoesNotMakeThePageLonger) {
   const QString size = QStringLiteral(
       "`${document.scrollingElement.scrollWidth} ${document.scrollingElement.scrollHeight}`");
   const QString before = Text(size);
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('img'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
   ASSERT_TRUE(
       Comes(QStringLiteral("getComputedStyle(document.head, '::after').content !== 'none'")));
   EXPECT_EQ(Text(size), before);
@@ -78,7 +78,7 @@ TEST_P(EveryObject, IsSelectedByAClick) {
 
 TEST_P(EveryObject, IsSizedByItsCorner) {
   Load(QStringLiteral("<p>one</p>") + QString::fromLatin1(GetParam()));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.body.children[1])"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.body.children[1])"));
   const QString rect = QStringLiteral("document.body.children[1].getBoundingClientRect().%1");
   const QPoint corner(Evaluate(rect.arg(QStringLiteral("right"))).toInt(),
                       Evaluate(rect.arg(QStringLiteral("bottom"))).toInt());
@@ -240,7 +240,7 @@ TEST_F(Objects, TypingReplacesTheTableOfACell) {
   Load(
       QStringLiteral("<table><tbody><tr><td><table id=\"in\"><tbody><tr><td>x</td></tr></tbody>"
                      "</table></td></tr></tbody></table>"));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('#in'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('#in'))"));
   page_.Type(QStringLiteral("y"));
   EXPECT_EQ(Body(), QStringLiteral("<table><tbody><tr><td>y</td></tr></tbody></table>"));
   ExpectOneStep();
@@ -259,7 +259,7 @@ TEST_F(Objects, EnterBeginsAParagraphBehindATableAndARule) {
 
 TEST_F(Objects, EnterGoesIntoABoxAndEscapeOutOfItAndBehindIt) {
   Load(QString::fromLatin1(box));
-  Evaluate(QStringLiteral("velor.selection.selectNode(document.querySelector('div'))"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('div'))"));
   page_.Press(QKeySequence(Qt::Key_Return));
   page_.Type(QStringLiteral("!"));
   EXPECT_EQ(Text(QStringLiteral("document.querySelector('div').textContent")),

@@ -156,7 +156,7 @@
     },
     // Begins to follow; every element that has two others in it is a branch.
     follow() {
-      velor.changes.largestPiece = 1;
+      inside.dividePiecesOver(1);
       this.told();
       following.tellings = 0;
       return this.told();

@@ -38,7 +38,7 @@
 
   function run(around = []) {
     if (around.length < 3 && chance(0.3)) {
-      const free = runs[velor.dom.writesStyles() ? 'html5' : 'old']
+      const free = runs[inside.dom.writesStyles() ? 'html5' : 'old']
         .filter((each) => !around.includes(kindOf(each)));
       const chosen = oneOf(free);
       return tagged(chosen, line([...around, kindOf(chosen)], 2));
@@ -56,7 +56,7 @@
   }
   const lineOrNone = () => (chance(0.1) ? '<br>' : line());
 
-  const align = () => (velor.dom.writesStyles()
+  const align = () => (inside.dom.writesStyles()
     ? `style="text-align: ${oneOf(['center', 'right'])}"`
     : `align="${oneOf(['center', 'right'])}"`);
   const looks = () => {
@@ -96,7 +96,7 @@
     [1, () => tagged([oneOf(['pre', 'pre', 'xmp', 'listing'])], `${text()}\n${text()}`)],
     [1, () => tagged(['address'], line())],
     [2, (depth) => tagged(['div', looks()], depth > 0 ? blocks(depth - 1, 2) : line())],
-    [1, (depth) => (velor.dom.writesStyles() ? tagged(['p'], line())
+    [1, (depth) => (inside.dom.writesStyles() ? tagged(['p'], line())
       : tagged(['center'], depth > 0 ? blocks(depth - 1, 2) : line()))],
     [1, () => '<hr>'],
     [1, () => tagged(['div', 'contenteditable="false"'], word())],

@@ -54,13 +54,13 @@
     const before = look();
     const runsBefore = runs();
     const [number] = values;
-    const status = name === 'exec' ? velor.status(number) : 3;
+    const status = name === 'exec' ? inside.statusOf(number) : 3;
     velor[name](...values);
     velor.state();
     const after = look();
     const faults = markup.faults();
     if (faults && faults !== faultsBefore) return `${faults}: ${after.selected}`;
-    const changed = velor.history.canUndo();
+    const changed = inside.history.canUndo();
     if (changed !== (after.html !== before.html)) return `step without change: ${after.selected}`;
     if (honest.has(number) && (status !== 1) !== changed) {
       return `status ${status}: ${after.selected}`;
@@ -71,10 +71,10 @@
       const twice = look().html;
       const back = toggles.has(number) ? runs() === runsBefore : twice === after.html;
       if (!back) return `twice: ${after.selected} then ${look().selected}`;
-      if (velor.history.canUndo() && twice !== after.html) velor.exec(5049);
+      if (inside.history.canUndo() && twice !== after.html) velor.exec(5049);
     }
     velor.exec(5049);
-    if (velor.history.canUndo() || !same(look(), before)) return `undo: ${look().selected}`;
+    if (inside.history.canUndo() || !same(look(), before)) return `undo: ${look().selected}`;
     if (markup.told() !== before.html) return `told otherwise: ${markup.told()}`;
     velor.exec(5033);
     if (!same(look(), after)) return `redo: ${look().selected}`;
@@ -88,7 +88,7 @@
     (node.nodeType === Node.ELEMENT_NODE ? node : node.parentElement).closest(selector);
   const inlinesOver = (node) => {
     let count = 0;
-    for (let at = node.parentNode; velor.dom.isInline(at); at = at.parentNode) count++;
+    for (let at = node.parentNode; inside.dom.isInline(at); at = at.parentNode) count++;
     return count;
   };
   // The kinds of selections, each with its test of a range.
@@ -97,7 +97,7 @@
     word: ({ collapsed, startContainer: start, endContainer: end }) =>
       !collapsed && start === end && start.nodeType === Node.TEXT_NODE,
     'across blocks': ({ startContainer: start, endContainer: end }) =>
-      velor.dom.blockOf(start) !== velor.dom.blockOf(end),
+      inside.dom.blockOf(start) !== inside.dom.blockOf(end),
     'across items': ({ startContainer: start, endContainer: end }) => {
       const [first, last] = [within(start, 'li'), within(end, 'li')];
       return Boolean(first && last) && first !== last;
@@ -111,20 +111,20 @@
       return Boolean(first && last) && first !== last;
     },
     'bare text': ({ collapsed, startContainer: start }) =>
-      !collapsed && velor.dom.blockOf(start) === document.body,
+      !collapsed && inside.dom.blockOf(start) === document.body,
     heading: ({ collapsed, startContainer: start }) =>
       !collapsed && within(start, 'h1, h2, h3, h4, h5, h6') !== null,
-    'around a picture': (range) => !velor.selection.control(range) &&
-      [...velor.selection.leavesIn(range)].some(({ tagName }) => tagName === 'IMG'),
+    'around a picture': (range) => !inside.selection.control(range) &&
+      [...inside.selection.leavesIn(range)].some(({ tagName }) => tagName === 'IMG'),
     'nested inline elements': ({ collapsed, startContainer: start, endContainer: end }) =>
       !collapsed && inlinesOver(start) + inlinesOver(end) >= 3,
-    control: (range) => velor.selection.control(range) !== null,
+    control: (range) => inside.selection.control(range) !== null,
   };
   function kindsOf(body) {
     document.body.innerHTML = body;
     markup.select();
     velor.start();
-    const range = velor.selection.range();
+    const range = inside.selection.range();
     return Object.keys(kinds).filter((kind) => range && kinds[kind](range));
   }
 
@@ -138,7 +138,7 @@
     const found = kindsOf(body);
     const cells = [];
     const broken = changes
-      .filter(([, number]) => all || !velor.dom.writesStyles() || written.has(number))
+      .filter(([, number]) => all || !inside.dom.writesStyles() || written.has(number))
       .map((change) => {
         const fault = tryOne(body, change);
         cells.push(...found.map((kind) => `${kind}/${told(change)}`));

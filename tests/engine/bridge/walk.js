@@ -49,7 +49,7 @@
 
   // The words before, in and behind the selection.
   function parts() {
-    const range = velor.selection.range();
+    const range = inside.selection.range();
     if (!range) return null;
     const part = (set) => {
       const other = document.createRange();
@@ -70,9 +70,9 @@
     const found = [];
     const range = document.createRange();
     range.selectNodeContents(document.body);
-    for (const leaf of velor.selection.leavesIn(range)) {
-      if (!velor.dom.isShown(leaf)) continue;
-      if (velor.dom.isText(leaf)) {
+    for (const leaf of inside.selection.leavesIn(range)) {
+      if (!inside.dom.isShown(leaf)) continue;
+      if (inside.dom.isText(leaf)) {
         const lead = /^[ \n]*/.exec(leaf.data)[0].length;
         for (let offset = 0; offset <= leaf.length; offset++) {
           const edge = offset === 0 || offset === leaf.length;
@@ -80,12 +80,12 @@
             found.push([leaf, offset]);
           }
         }
-      } else if (velor.dom.isBlock(leaf) && !velor.dom.isAtom(leaf)) {
+      } else if (inside.dom.isBlock(leaf) && !inside.dom.isAtom(leaf)) {
         found.push([leaf, 0]);
       } else {
-        const index = velor.selection.indexOf(leaf);
+        const index = inside.selection.indexOf(leaf);
         found.push([leaf.parentNode, index]);
-        if (!velor.dom.isBreak(leaf)) found.push([leaf.parentNode, index + 1]);
+        if (!inside.dom.isBreak(leaf)) found.push([leaf.parentNode, index + 1]);
       }
     }
     return found;
@@ -108,10 +108,10 @@
       put(found[first], oneOf(found));
     } else if (kind === 6) {
       const element = oneOf([...document.body.querySelectorAll('img, hr, table, p, h1, li, b, a')]);
-      if (element) velor.selection.selectNode(element);
+      if (element) inside.selection.selectNode(element);
       else document.getSelection().selectAllChildren(document.body);
     } else {
-      const block = velor.dom.blockOf(found[first][0]);
+      const block = inside.dom.blockOf(found[first][0]);
       const next = found.find(([node]) =>
         block.compareDocumentPosition(node) === Node.DOCUMENT_POSITION_FOLLOWING);
       const start = found.find(([node]) => block.contains(node));
@@ -125,14 +125,14 @@
 
   // A no-break space between two words.
   function needlessNoBreak() {
-    const meant = velor.blanks.meant();
+    const meant = inside.blanks.meantBlanks();
     const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
     while (walker.nextNode()) {
       const node = walker.currentNode;
       for (let at = node.data.indexOf('\u00a0'); at >= 0; at = node.data.indexOf('\u00a0', at + 1)) {
         if (meant.some((place) => place.node === node && place.index === at)) continue;
-        const sides = [velor.blanks.beside(node, at, 'previousSibling'),
-          velor.blanks.beside(node, at + 1, 'nextSibling')];
+        const sides = [inside.blanks.beside(node, at, 'previousSibling'),
+          inside.blanks.beside(node, at + 1, 'nextSibling')];
         if (sides.every((side) => side && !/[\s\u00a0]/.test(side.node?.data[side.index] ?? ''))) {
           return true;
         }
@@ -147,7 +147,7 @@
     const allowed = /^background-color|^font-weight|^font-style/;
     const styled = [...document.querySelectorAll('body [style]')].filter((element) =>
       [...element.style].some((property) => !allowed.test(property)));
-    if (velor.dom.writesStyles()) {
+    if (inside.dom.writesStyles()) {
       if (document.querySelector('font, [align]')) faults.push('a FONT or align in an HTML5 page');
     } else if (styled.length) {
       faults.push('a style in an old page');
@@ -217,11 +217,11 @@
     }
     const toggles = [5000, 5023, 5048, 5030, 5051];
     if (changed && toggles.includes(number)) {
-      const now = velor.status(number);
+      const now = inside.statusOf(number);
       if (now !== (step.status === 7 ? 3 : 7)) faults.push(`status ${step.status} became ${now}`);
     }
-    if (changed && [5024, 5025, 5026].includes(number) && velor.status(number) !== 7) {
-      faults.push(`aligned, and the status is ${velor.status(number)}`);
+    if (changed && [5024, 5025, 5026].includes(number) && inside.statusOf(number) !== 7) {
+      faults.push(`aligned, and the status is ${inside.statusOf(number)}`);
     }
     return faults;
   }
@@ -264,8 +264,8 @@
     // Chooses a selection and a step and carries that out, or answers the key that is to be pressed.
     next() {
       if (!step || chance(0.6)) select();
-      if (!velor.selection.range()) velor.selection.setCaret(document.body, 0);
-      velor.history.settle();
+      if (!inside.selection.range()) inside.selection.setCaret(document.body, 0);
+      inside.history.settle();
       const before = look();
       const choice = pages.below(withKeys ? 20 : 12);
       let action;
@@ -279,7 +279,7 @@
       const [verb, ...values] = action;
       step = {
         before, action, parts: parts(), lines: shownLines(), count: objects(),
-        status: verb === 'exec' ? velor.status(values[0]) : 0,
+        status: verb === 'exec' ? inside.statusOf(values[0]) : 0,
       };
       if (verb === 'exec' || verb === 'travel') velor.exec(...values);
       else if (verb === 'pasteHTML') velor.pasteHTML(values[0]);
@@ -289,7 +289,7 @@
     },
     // What is wrong after the step, in words; nothing when all is well.
     judge() {
-      velor.history.settle();
+      inside.history.settle();
       const now = look();
       const inOrder = step.parts ? wordsJudged() : [];
       const faults = [...newFaults(), ...inOrder, ...toggleJudged(), ...travelled(now)];
@@ -304,7 +304,7 @@
       const end = look();
       const on = [];
       let at = trail.length - 1;
-      while (velor.history.canUndo()) {
+      while (inside.history.canUndo()) {
         on.push(look());
         velor.exec(undo);
         const here = look();

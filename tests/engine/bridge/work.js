@@ -42,7 +42,7 @@
   globalThis.work = {
     // The program is told of the text in idle time, at a moment of its own.
     begin() {
-      velor.changes = () => ({});
+      globalThis.requestIdleCallback = () => {};
       velor.host = { pushState() {}, pushMirror() {}, inputArrived() {} };
       velor.start({});
     },

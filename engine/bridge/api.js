@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The names that the program evaluates, on the global object `velor` of the bridge's world. Nothing
+// else of the bridge is global.
+import { pasteHTML } from './clipboard/paste.js';
+import { setDetails } from './objects/details.js';
+import { setSnap } from './objects/grid.js';
+import { restorePaths } from './page/paths.js';
+import { setCaretAt } from './page/selection.js';
+import { serialize } from './page/serialize.js';
+import { start } from './start.js';
+import './talk/arrivals.js';
+import { changes, mirror } from './talk/changes.js';
+import { exec } from './talk/commands.js';
+import { host, setHost } from './talk/host.js';
+import { caretPlaces, showPlace } from './page/places.js';
+import { replaceDocument, shownGeneration } from './talk/replace.js';
+import { state } from './talk/state.js';
+import { parsed } from './talk/verify.js';
+
+globalThis.velor = {
+  start, exec, state, pasteHTML, caretAt: setCaretAt, serialize, replaceDocument,
+  generation: shownGeneration, caretPlaces, showPlace, setDetails, setSnap, changes, mirror, parsed,
+  restore: restorePaths,
+  // The program's slots, which tests put something else in the place of.
+  get host() { return host(); },
+  set host(slots) { setHost(slots); },
+};

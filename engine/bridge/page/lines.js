@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What keeps lines whole while text is taken out of them.
+import * as dom from './dom.js';
+
+// A paragraph without content needs a break to be a line.
+export function holdOpen(block) {
+  if (dom.isElement(block) && block.isConnected && dom.isBlock(block) && !dom.isAtom(block) &&
+      !dom.hasContent(block) && block.tagName !== 'BODY') {
+    block.append(dom.create('BR'));
+  }
+}
+
+// Takes away a text and the inline elements around it that a deletion left without content.
+export function prune(node) {
+  const emptied = (at) => (dom.isText(at) ? !at.length
+    : dom.isInline(at) && !dom.isAtom(at) && !dom.isBreak(at) &&
+      [...at.childNodes].every((child) => dom.isText(child) && !child.length));
+  while (node.isConnected && emptied(node)) {
+    const { parentNode } = node;
+    node.remove();
+    node = parentNode;
+  }
+}

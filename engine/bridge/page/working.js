@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whether the bridge is at work on the document: what the engine reports then is no input of the
+// person's.
+
+let working = false;
+
+export const isWorking = () => working;
+
+export function work(change) {
+  working = true;
+  try {
+    return change();
+  } finally {
+    working = false;
+  }
+}

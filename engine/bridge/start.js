@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The beginning of work on a document that was loaded.
+import { listenToClipboard } from './clipboard/clipboard.js';
+import * as pending from './formats/pending.js';
+import { listenToKeys } from './keys/keys.js';
+import { setDetails } from './objects/details.js';
+import { listenToGestures } from './objects/gestures.js';
+import { setSnap } from './objects/grid.js';
+import * as overlay from './objects/overlay.js';
+import * as blanks from './page/blanks.js';
+import { isEditable } from './page/dom.js';
+import * as history from './page/history.js';
+import * as selection from './page/selection.js';
+import { connect, host } from './talk/host.js';
+import { schedulePush } from './talk/pace.js';
+import { listenToPointer } from './talk/pointer.js';
+import { contentChanged, listenToVisibility } from './talk/push.js';
+
+// Undo or redo came to the end of the page's history: the program may have a document beyond it.
+const wantBeyond = (way) => host()?.[way === 'undo' ? 'earlierWanted' : 'laterWanted']();
+
+// To be called after each load. `earlier` and `later` tell whether the program keeps documents that
+// undo and redo come to beyond the page's history.
+export function start({
+  showDetails = false, snapToGrid = false, earlier = false, later = false,
+} = {}) {
+  connect(schedulePush);
+  document.designMode = 'on';
+  document.execCommand('styleWithCSS', false, 'false');
+  document.execCommand('defaultParagraphSeparator', false, 'p');
+  document.execCommand('enableObjectResizing', false, 'false');
+  listenToVisibility();
+  selection.ensure();
+  // Without a focused element the engine drops typed characters until the first click.
+  if (isEditable()) document.body.focus({ preventScroll: true });
+  history.start({ earlier, later, changed: contentChanged, wantBeyond });
+  pending.clear();
+  blanks.reinstate([]);
+  listenToKeys();
+  listenToClipboard();
+  listenToPointer();
+  overlay.start();
+  listenToGestures();
+  setDetails(showDetails);
+  setSnap(snapToGrid);
+  contentChanged();
+}

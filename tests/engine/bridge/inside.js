@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The bridge as the program has it, and what only its tests look at.
+import '../../../engine/bridge/api.js';
+import * as blanks from '../../../engine/bridge/page/blanks.js';
+import { formats as blockFormats } from '../../../engine/bridge/blocks/blocks.js';
+import * as dom from '../../../engine/bridge/page/dom.js';
+import * as glyphs from '../../../engine/bridge/objects/glyphs.js';
+import * as history from '../../../engine/bridge/page/history.js';
+import * as selection from '../../../engine/bridge/page/selection.js';
+import { dividePiecesOver } from '../../../engine/bridge/talk/changes.js';
+import { commands, statusOf } from '../../../engine/bridge/talk/commands.js';
+
+globalThis.inside = {
+  blanks, blockFormats, commands, dividePiecesOver, dom, glyphs, history, selection, statusOf,
+};
