@@ -134,8 +134,8 @@ void SavingFigures() {
   for (const Size &size : Sizes) {
     bench.Load(bench.File(size));
     EditingComponent &editor = bench.ours.editor;
-    editor.ExecCommand(Number(EditingCommand::SelectAll));
-    editor.ExecCommand(Number(EditingCommand::JustifyCenter));
+    editor.ExecCommand(EditingCommand::SelectAll);
+    editor.ExecCommand(EditingCommand::JustifyCenter);
     const QString mine = bench.folder.filePath(QStringLiteral("ours.html"));
     const QString plain = bench.folder.filePath(QStringLiteral("plain.html"));
     Print(Compare(

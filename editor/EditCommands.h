@@ -14,12 +14,10 @@ struct EditCommand {
   QStringView key;
   QStringView tooltip;
   EditingCommand command;
-
-  constexpr int Number() const { return velor::Number(command); }
 };
 
 /// The ten formatting commands in toolbar order. The main window builds `tbrEdit` from this table
-/// and sends the number alone when a button is clicked; the page window refreshes the buttons in
+/// and sends the command alone when a button is clicked; the page window refreshes the buttons in
 /// the same order.
 inline constexpr std::array<EditCommand, 10> EditCommands{{
     {u"bold", u"Bold", EditingCommand::Bold},

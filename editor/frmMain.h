@@ -57,7 +57,7 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   /// Tells the element under the caret in the status bar and, for a link, its target in a tooltip.
   void DynaLink();
   /// Sets one editing-toolbar button from the status of `function`.
-  void EditBarCheck(EditingCommand tbrButton, std::int32_t function);
+  void EditBarCheck(EditingCommand tbrButton, EditingCommand function);
   /// Brings the main window's formatting buttons and boxes in step with the selection.
   void RefreshMfrm();
   /// Gives the tab at position Number() this window's caption.

@@ -7,7 +7,7 @@
 
 namespace velor {
 
-void frmMain::EditBarCheck(EditingCommand tbrButton, std::int32_t function) {
+void frmMain::EditBarCheck(EditingCommand tbrButton, EditingCommand function) {
   FormatDisplay &formats = context_.mainWindow.formats;
   switch (component_->QueryStatus(function)) {
     case CommandStatus::NotSupported:
@@ -27,9 +27,9 @@ void frmMain::EditBarCheck(EditingCommand tbrButton, std::int32_t function) {
 }
 
 void frmMain::RefreshMfrm() {
-  for (const EditCommand &entry : EditCommands) EditBarCheck(entry.command, entry.Number());
+  for (const EditCommand &entry : EditCommands) EditBarCheck(entry.command, entry.command);
   const auto value = [this](EditingCommand query) {
-    return component_->ExecCommand(velor::Number(query)).toString();
+    return component_->ExecCommand(query).toString();
   };
   FormatDisplay &formats = context_.mainWindow.formats;
   formats.ShowFontName(value(EditingCommand::GetFontName));

@@ -65,7 +65,8 @@ std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
   state.generation = object[u"generation"].toInt();
   const QJsonObject commands = object[u"commands"].toObject();
   for (auto entry = commands.begin(); entry != commands.end(); ++entry)
-    state.commands[entry.key().toInt()] = StatusOfNumber(entry.value().toInt());
+    state.commands[static_cast<EditingCommand>(entry.key().toInt())] =
+        StatusOfNumber(entry.value().toInt());
   state.fontName = object[u"fontName"].toString();
   state.fontSize = object[u"fontSize"].toString();
   state.foreColor = object[u"foreColor"].toString();
@@ -76,14 +77,14 @@ std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
   return state;
 }
 
-CommandStatus StateSnapshot::StatusOf(int command) const {
+CommandStatus StateSnapshot::StatusOf(EditingCommand command) const {
   const auto status = commands.find(command);
   return status != commands.end() ? status->second : CommandStatus::NotSupported;
 }
 
-std::optional<QString> StateSnapshot::ValueOf(int command) const {
+std::optional<QString> StateSnapshot::ValueOf(EditingCommand command) const {
   for (const ValueField &value : valueFields)
-    if (Number(value.command) == command) return this->*value.field;
+    if (value.command == command) return this->*value.field;
   return std::nullopt;
 }
 

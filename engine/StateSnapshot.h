@@ -18,7 +18,7 @@ struct StateSnapshot {
   bool dirty = false;
   /// Which of the documents that took one another's place this is (engine/bridge/page/replace.js).
   int generation = 0;
-  std::map<int, CommandStatus> commands;
+  std::map<EditingCommand, CommandStatus> commands;
   QString fontName;
   QString fontSize;
   QString foreColor;
@@ -31,9 +31,9 @@ struct StateSnapshot {
   static std::optional<StateSnapshot> FromJson(const QString &json);
 
   /// A command that the state does not name counts as not supported.
-  CommandStatus StatusOf(int command) const;
+  CommandStatus StatusOf(EditingCommand command) const;
   /// The value of a query command; nothing for any other command.
-  std::optional<QString> ValueOf(int command) const;
+  std::optional<QString> ValueOf(EditingCommand command) const;
 };
 
 }  // namespace velor

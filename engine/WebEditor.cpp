@@ -38,11 +38,17 @@ class EditorFrame : public QWidget {
 
 /// Commands that the engine itself carries out, since only it reaches the clipboard in every form.
 /// They go the way of all commands: an action of the view would overtake a command before it.
-QString ClipboardCommand(int command) {
-  if (command == Number(EditingCommand::Cut)) return QStringLiteral("cut");
-  if (command == Number(EditingCommand::Copy)) return QStringLiteral("copy");
-  if (command == Number(EditingCommand::Paste)) return QStringLiteral("paste");
-  return {};
+QString ClipboardCommand(EditingCommand command) {
+  switch (command) {
+    case EditingCommand::Cut:
+      return QStringLiteral("cut");
+    case EditingCommand::Copy:
+      return QStringLiteral("copy");
+    case EditingCommand::Paste:
+      return QStringLiteral("paste");
+    default:
+      return {};
+  }
 }
 
 }  // namespace
@@ -156,14 +162,16 @@ void WebEditor::SetToolTip(const QString &text) {
   if (container_ != nullptr) container_->setToolTip(text);
 }
 
-QVariant WebEditor::ExecCommand(int command, ExecOption, const QVariant &value) {
+QVariant WebEditor::ExecCommand(EditingCommand command, ExecOption, const QVariant &value) {
   if (const auto answer = snapshot_.ValueOf(command)) return *answer;
   if (const QString name = ClipboardCommand(command); !name.isEmpty()) {
     Run(QStringLiteral("document.execCommand(%1)").arg(ScriptValue(name)));
   } else if (value.isValid()) {
-    Run(QStringLiteral("velor.exec(%1,%2)").arg(command).arg(ScriptValue(value.toString())));
+    Run(QStringLiteral("velor.exec(%1,%2)")
+            .arg(Number(command))
+            .arg(ScriptValue(value.toString())));
   } else {
-    Run(QStringLiteral("velor.exec(%1)").arg(command));
+    Run(QStringLiteral("velor.exec(%1)").arg(Number(command)));
   }
   return {};
 }
@@ -172,7 +180,7 @@ QStringList WebEditor::BlockFormats() const {
   return BlockFormatNames();
 }
 
-CommandStatus WebEditor::QueryStatus(int command) const {
+CommandStatus WebEditor::QueryStatus(EditingCommand command) const {
   return snapshot_.StatusOf(command);
 }
 

@@ -53,8 +53,8 @@ class WebEditor : public EditingComponent {
   bool HasByteOrderMark() const override;
   ElementPlaces CaretPlaces() override;
   void ShowPlace(const ElementPlaces &places) override;
-  QVariant ExecCommand(int command, ExecOption option, const QVariant &value) override;
-  CommandStatus QueryStatus(int command) const override;
+  QVariant ExecCommand(EditingCommand command, ExecOption option, const QVariant &value) override;
+  CommandStatus QueryStatus(EditingCommand command) const override;
   QStringList BlockFormats() const override;
   HtmlDocument &Document() override;
   bool ShowDetails() const override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/EditingCommands.h"
 #include "platform/ElementPlace.h"
 #include "platform/HtmlDocument.h"
 #include "platform/PageMemory.h"
@@ -113,9 +114,9 @@ class EditingComponent {
   /// Carries out a command (EditingCommands.h) or, for a query command, answers its value: font
   /// name, block format name and size as text, colours as "#RRGGBB"; the empty text where the
   /// selection is mixed. A command that does not apply does nothing.
-  virtual QVariant ExecCommand(int command, ExecOption option = ExecOption::Default,
+  virtual QVariant ExecCommand(EditingCommand command, ExecOption option = ExecOption::Default,
                                const QVariant &value = {}) = 0;
-  virtual CommandStatus QueryStatus(int command) const = 0;
+  virtual CommandStatus QueryStatus(EditingCommand command) const = 0;
   /// The names that SetBlockFormat takes and GetBlockFormat answers, in the order to list them.
   virtual QStringList BlockFormats() const = 0;
 

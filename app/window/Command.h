@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/EditingCommands.h"
+
+#include <variant>
+
 namespace velor {
 
 /// What a menu item or toolbar button sets going. None is an item that stands in the menu and does
@@ -12,8 +16,8 @@ enum class CommandId {
   SavePage,
   SavePageAs,
   CloseProgram,
-  Editing,    ///< argument: the editing command's published number
-  MenuStyle,  ///< argument: number of the menu picture
+  Editing,    ///< argument: the EditingCommand
+  MenuStyle,  ///< argument: number of the menu picture, an int
   ProjectManager,
   InsertImage,
   InsertHyperlink,
@@ -26,7 +30,7 @@ enum class CommandId {
 
 struct Command {
   CommandId id = CommandId::None;
-  int argument = 0;
+  std::variant<std::monostate, EditingCommand, int> argument = {};
 
   bool operator==(const Command &) const = default;
 };

@@ -68,10 +68,10 @@ void CommandRouter::Run(const Command &command) {
       host_.CloseProgram();
       break;
     case CommandId::Editing:
-      Edit(command.argument);
+      Edit(std::get<EditingCommand>(command.argument));
       break;
     case CommandId::MenuStyle:
-      host_.ChooseMenuStyle(command.argument);
+      host_.ChooseMenuStyle(std::get<int>(command.argument));
       break;
     case CommandId::ProjectManager:
       host_.ShowProjectManager();
@@ -160,8 +160,8 @@ void CommandRouter::SavePage(SaveKind kind) {
   context_.platform.dialogs.ShowMessage(failure);
 }
 
-void CommandRouter::Edit(int number) {
-  if (frmMain *page = host_.ActiveDocument()) page->DHTML1().ExecCommand(number);
+void CommandRouter::Edit(EditingCommand command) {
+  if (frmMain *page = host_.ActiveDocument()) page->DHTML1().ExecCommand(command);
 }
 
 void CommandRouter::Insert(void (InsertCommands::*insertion)(frmMain &)) {
@@ -172,8 +172,8 @@ void CommandRouter::SetValue(EditingCommand query, EditingCommand set, const QSt
   frmMain *page = host_.ActiveDocument();
   if (!page) return;
   EditingComponent &component = page->DHTML1();
-  if (component.ExecCommand(Number(query)).toString() == value) return;
-  component.ExecCommand(Number(set), ExecOption::Default, value);
+  if (component.ExecCommand(query).toString() == value) return;
+  component.ExecCommand(set, ExecOption::Default, value);
 }
 
 void CommandRouter::SetBlockFormat(const QString &name) {
@@ -191,7 +191,7 @@ void CommandRouter::SetFontName(const QString &name) {
 void CommandRouter::SetColor(EditingCommand set, std::int32_t color) {
   frmMain *page = host_.ActiveDocument();
   if (!page) return;
-  page->DHTML1().ExecCommand(Number(set), ExecOption::Default, modColor::ColorToHtml(color));
+  page->DHTML1().ExecCommand(set, ExecOption::Default, modColor::ColorToHtml(color));
   page->DHTML1().SetFocus();
 }
 

@@ -72,7 +72,7 @@ class CommandRouter {
   void NewPage();
   void OpenPage(const std::function<QString()> &choose);
   void SavePage(SaveKind kind);
-  void Edit(int number);
+  void Edit(EditingCommand command);
   void Insert(void (InsertCommands::*insertion)(frmMain &));
   void SetValue(EditingCommand query, EditingCommand set, const QString &value);
   void SetColor(EditingCommand set, std::int32_t color);

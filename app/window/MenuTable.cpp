@@ -7,7 +7,7 @@ namespace velor {
 namespace {
 
 constexpr Command Editing(EditingCommand command) {
-  return {CommandId::Editing, Number(command)};
+  return {CommandId::Editing, command};
 }
 
 constexpr MenuRow Menu(const char *name, const char *caption, const char *parent = nullptr) {

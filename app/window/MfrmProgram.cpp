@@ -208,7 +208,7 @@ void MfrmProgram::ConnectBars() {
           [this](const GeneralButton &button) { router_.Click(button); });
   FormattingBar *boxes = &coolBar_->Formatting();
   connect(boxes, &FormattingBar::CommandClicked, this, [this](EditingCommand command) {
-    router_.Run({CommandId::Editing, Number(command)});
+    router_.Run({CommandId::Editing, command});
   });
   connect(boxes, &FormattingBar::BlockFormatClicked, this,
           [this](const QString &name) { router_.SetBlockFormat(name); });

@@ -26,7 +26,7 @@ TEST(EditCommandsTest, TheTenKeysStandInToolbarOrderWithTheirPublishedNumbers) {
   for (std::size_t row = 0; row < published.size(); ++row) {
     EXPECT_EQ(EditCommands[row].key.toString(), published[row].key.toString());
     EXPECT_EQ(EditCommands[row].tooltip.toString(), published[row].tooltip.toString());
-    EXPECT_EQ(EditCommands[row].Number(), published[row].number);
+    EXPECT_EQ(Number(EditCommands[row].command), published[row].number);
   }
 }
 

@@ -33,8 +33,8 @@ TEST_F(SelectionTest, EachStatusGivesItsButtonState) {
       {CommandStatus::Ninched, "ShowButton(5000, On)"}};
   for (const auto &[status, call] : expected) {
     log.clear();
-    Component(1).statuses[5000] = status;
-    Page(1).EditBarCheck(EditingCommand::Bold, 5000);
+    Component(1).statuses[EditingCommand::Bold] = status;
+    Page(1).EditBarCheck(EditingCommand::Bold, EditingCommand::Bold);
     EXPECT_EQ(log, Calls({"QueryStatus(5000)", call}));
   }
 }
@@ -43,8 +43,8 @@ TEST_F(SelectionTest, AnyOtherStatusLeavesTheButtonAlone) {
   New();
   for (const int status : {2, 4, 15, -1}) {
     log.clear();
-    Component(1).statuses[5023] = static_cast<CommandStatus>(status);
-    Page(1).EditBarCheck(EditingCommand::Italic, 5023);
+    Component(1).statuses[EditingCommand::Italic] = static_cast<CommandStatus>(status);
+    Page(1).EditBarCheck(EditingCommand::Italic, EditingCommand::Italic);
     EXPECT_EQ(log, Calls({"QueryStatus(5023)"})) << status;
   }
 }
@@ -54,23 +54,23 @@ TEST_F(SelectionTest, RefreshingAsksTheTenCommandsInToolbarOrder) {
   Page(1).RefreshMfrm();
   QStringList expected;
   for (const EditCommand &entry : EditCommands) {
-    expected << QStringLiteral("QueryStatus(%1)").arg(entry.Number());
+    expected << QStringLiteral("QueryStatus(%1)").arg(Number(entry.command));
   }
   EXPECT_EQ(Matching(QStringLiteral("QueryStatus")), expected);
   QStringList keys;
   for (const EditCommand &entry : EditCommands) {
-    keys << QStringLiteral("ShowButton(%1, On)").arg(entry.Number());
+    keys << QStringLiteral("ShowButton(%1, On)").arg(Number(entry.command));
   }
   EXPECT_EQ(Matching(QStringLiteral("ShowButton")), keys);
 }
 
 TEST_F(SelectionTest, RefreshingShowsTheFiveValuesInTheirOrder) {
   New();
-  Component(1).values[5013] = QStringLiteral("Arial");
-  Component(1).values[5010] = QStringLiteral("#ffffff");
-  Component(1).values[5015] = QStringLiteral("#102030");
-  Component(1).values[5011] = QStringLiteral("Heading 1");
-  Component(1).values[5014] = QStringLiteral("24");
+  Component(1).values[EditingCommand::GetFontName] = QStringLiteral("Arial");
+  Component(1).values[EditingCommand::GetBackColor] = QStringLiteral("#ffffff");
+  Component(1).values[EditingCommand::GetForeColor] = QStringLiteral("#102030");
+  Component(1).values[EditingCommand::GetBlockFormat] = QStringLiteral("Heading 1");
+  Component(1).values[EditingCommand::GetFontSize] = QStringLiteral("24");
   Page(1).RefreshMfrm();
   const CallLog boxes(log.end() - 10, log.end());
   EXPECT_EQ(boxes, Calls({"ExecCommand(5013)", "ShowFontName(Arial)", "ExecCommand(5010)",

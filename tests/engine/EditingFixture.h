@@ -16,11 +16,9 @@ class Editing : public WebEditorTest {
   Editing() { QApplication::clipboard()->clear(); }
 
   QVariant Exec(EditingCommand command, const QVariant &value = {}) {
-    return editor_->ExecCommand(Number(command), ExecOption::Default, value);
+    return editor_->ExecCommand(command, ExecOption::Default, value);
   }
-  CommandStatus Status(EditingCommand command) const {
-    return editor_->QueryStatus(Number(command));
-  }
+  CommandStatus Status(EditingCommand command) const { return editor_->QueryStatus(command); }
   bool Becomes(EditingCommand command, CommandStatus status) {
     return WaitFor([=, this] { return Status(command) == status; });
   }

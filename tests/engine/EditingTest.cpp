@@ -167,9 +167,10 @@ TEST_F(Editing, CommandsTakeTheirValues) {
 TEST_F(Editing, UnknownCommandsDoNothing) {
   LoadWithCaret("<p>One</p>", QStringLiteral("p"));
   const QString before = editor_->DocumentHTML();
-  editor_->ExecCommand(4711, ExecOption::Default, QStringLiteral("x\"); velor.exec(5035"));
+  editor_->ExecCommand(static_cast<EditingCommand>(4711), ExecOption::Default,
+                       QStringLiteral("x\"); velor.exec(5035"));
   EXPECT_EQ(editor_->DocumentHTML(), before);
-  EXPECT_EQ(editor_->QueryStatus(4711), CommandStatus::NotSupported);
+  EXPECT_EQ(editor_->QueryStatus(static_cast<EditingCommand>(4711)), CommandStatus::NotSupported);
 }
 
 TEST_F(Editing, StatesFollowTheCaretAndEachChangeIsTold) {

@@ -162,8 +162,8 @@ TEST_F(Loading, TwentyMegabytesComeUpAndAreSavedUnchanged) {
 
 TEST_F(Loading, AComponentNeverUsedMakesNoView) {
   EXPECT_EQ(editor_->Widget()->findChild<QWebEngineView *>(), nullptr);
-  EXPECT_EQ(editor_->QueryStatus(Number(EditingCommand::Bold)), CommandStatus::NotSupported);
-  editor_->ExecCommand(Number(EditingCommand::Bold), ExecOption::Default, {});
+  EXPECT_EQ(editor_->QueryStatus(EditingCommand::Bold), CommandStatus::NotSupported);
+  editor_->ExecCommand(EditingCommand::Bold, ExecOption::Default, {});
   EXPECT_EQ(editor_->Widget()->findChild<QWebEngineView *>(), nullptr);
 }
 

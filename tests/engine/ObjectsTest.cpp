@@ -37,9 +37,7 @@ class ObjectsOfThePage : public WebEditorTest {
     Send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
     Send(QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton);
   }
-  void Exec(EditingCommand command) {
-    editor_->ExecCommand(Number(command), ExecOption::Default, {});
-  }
+  void Exec(EditingCommand command) { editor_->ExecCommand(command, ExecOption::Default, {}); }
   DocumentSelection &Selection() { return editor_->Document().Selection(); }
   bool BoxIsSelected() {
     return WaitFor([this] {
@@ -84,9 +82,8 @@ TEST_F(ObjectsOfThePage, ADragIsOneUndoStepAndChangesOnlyTheElementsStyleInTheFi
   EXPECT_EQ(Saved(), moved);
   Exec(EditingCommand::Undo);
   EXPECT_EQ(Saved(), page);
-  EXPECT_TRUE(WaitFor([this] {
-    return editor_->QueryStatus(Number(EditingCommand::Undo)) == CommandStatus::Disabled;
-  }));
+  EXPECT_TRUE(WaitFor(
+      [this] { return editor_->QueryStatus(EditingCommand::Undo) == CommandStatus::Disabled; }));
 }
 
 TEST_F(ObjectsOfThePage, TheRightButtonSelectsAnObjectAndAsksForTheMenu) {
@@ -103,8 +100,8 @@ TEST_F(ObjectsOfThePage, TheRightButtonSelectsAnObjectAndAsksForTheMenu) {
 TEST_F(ObjectsOfThePage, CommandsOnTextApplyToTheTextOfABoxAndCuttingItIsOn) {
   QTest::mouseClick(Input(), Qt::LeftButton, Qt::NoModifier, {250, 150});
   ASSERT_TRUE(BoxIsSelected());
-  EXPECT_EQ(editor_->QueryStatus(Number(EditingCommand::Bold)), CommandStatus::Enabled);
-  EXPECT_EQ(editor_->QueryStatus(Number(EditingCommand::Cut)), CommandStatus::Enabled);
+  EXPECT_EQ(editor_->QueryStatus(EditingCommand::Bold), CommandStatus::Enabled);
+  EXPECT_EQ(editor_->QueryStatus(EditingCommand::Cut), CommandStatus::Enabled);
   Exec(EditingCommand::Delete);
   EXPECT_FALSE(DocumentHolds(QStringLiteral("<div")));
   Exec(EditingCommand::Undo);

@@ -19,9 +19,7 @@ class Pasting : public WebEditorTest {
   void Paste(const QString &html) {
     editor_->Document().Selection().CreateRange()->PasteHTML(html);
   }
-  void Exec(EditingCommand command) {
-    editor_->ExecCommand(Number(command), ExecOption::Default, {});
-  }
+  void Exec(EditingCommand command) { editor_->ExecCommand(command, ExecOption::Default, {}); }
   /// Selects from and to places in the text nodes of two elements.
   void Select(const QString &from, int start, const QString &to, int end) {
     Evaluate(QStringLiteral("getSelection().setBaseAndExtent(document.querySelector('%1')"

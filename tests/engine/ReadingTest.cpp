@@ -107,8 +107,8 @@ TEST_F(Reading, NoNoticeComesWhileADocumentIsRead) {
   int inside = 0;
   listener_.onDisplayChange = [&] { inside += reading ? 1 : 0; };
   for (int round = 0; round < rounds; ++round) {
-    editor_->ExecCommand(Number(EditingCommand::SelectAll), ExecOption::Default, {});
-    editor_->ExecCommand(Number(EditingCommand::Bold), ExecOption::Default, {});
+    editor_->ExecCommand(EditingCommand::SelectAll, ExecOption::Default, {});
+    editor_->ExecCommand(EditingCommand::Bold, ExecOption::Default, {});
     reading = true;
     EXPECT_EQ(DocumentHolds(QStringLiteral("<b>One</b>")), round % 2 == 0);
     reading = false;

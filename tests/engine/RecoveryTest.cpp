@@ -143,7 +143,7 @@ TEST_F(Recovery, ReadingAndSavingAnswerWhileThePageIsGone) {
   EXPECT_TRUE(DocumentHolds(QStringLiteral("<p>One!</p>")));
   editor_->SaveDocument(Logic(QStringLiteral("copy.htm")));
   EXPECT_TRUE(Bytes(QStringLiteral("copy.htm")).contains("<p>One!</p>"));
-  editor_->ExecCommand(Number(EditingCommand::Bold), ExecOption::Default, {});
+  editor_->ExecCommand(EditingCommand::Bold, ExecOption::Default, {});
   ASSERT_TRUE(ComesBack());
   EXPECT_TRUE(DocumentHolds(QStringLiteral("<p>One!</p>")));
 }

@@ -23,10 +23,10 @@ class Replacing : public WebEditorTest {
   void LoadPage(const QByteArray &bytes, const char *name = "page.htm") {
     editor_->LoadDocument(Write(QString::fromLatin1(name), bytes));
   }
-  void Undo() { editor_->ExecCommand(Number(EditingCommand::Undo), ExecOption::Default, {}); }
-  void Redo() { editor_->ExecCommand(Number(EditingCommand::Redo), ExecOption::Default, {}); }
+  void Undo() { editor_->ExecCommand(EditingCommand::Undo, ExecOption::Default, {}); }
+  void Redo() { editor_->ExecCommand(EditingCommand::Redo, ExecOption::Default, {}); }
   bool Becomes(EditingCommand command, CommandStatus status) {
-    return WaitFor([=, this] { return editor_->QueryStatus(Number(command)) == status; });
+    return WaitFor([=, this] { return editor_->QueryStatus(command) == status; });
   }
   bool BecomesBody(const QString &body) {
     return WaitFor(
@@ -134,7 +134,7 @@ TEST_F(Replacing, TheSameDocumentAgainLeavesNoStep) {
   const QByteArray same = Head + "<body><P>One</P></body></html>";
   LoadPage(same, "other.htm");
   EXPECT_EQ(Saved(), same);
-  EXPECT_EQ(editor_->QueryStatus(Number(EditingCommand::Undo)), CommandStatus::Disabled);
+  EXPECT_EQ(editor_->QueryStatus(EditingCommand::Undo), CommandStatus::Disabled);
 }
 
 TEST_F(Replacing, TheCaretStaysWhereItWas) {

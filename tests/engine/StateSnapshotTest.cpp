@@ -30,35 +30,35 @@ TEST(StateSnapshot, HoldsEveryFieldOfAPushedState) {
 
 TEST(StateSnapshot, AnswersTheStatusOfACommand) {
   const auto state = StateSnapshot::FromJson(whole);
-  EXPECT_EQ(state->StatusOf(5000), CommandStatus::Latched);
-  EXPECT_EQ(state->StatusOf(5023), CommandStatus::Enabled);
-  EXPECT_EQ(state->StatusOf(5048), CommandStatus::Ninched);
-  EXPECT_EQ(state->StatusOf(5025), CommandStatus::Disabled);
-  EXPECT_EQ(state->StatusOf(5024), CommandStatus::NotSupported);
+  EXPECT_EQ(state->StatusOf(EditingCommand::Bold), CommandStatus::Latched);
+  EXPECT_EQ(state->StatusOf(EditingCommand::Italic), CommandStatus::Enabled);
+  EXPECT_EQ(state->StatusOf(EditingCommand::Underline), CommandStatus::Ninched);
+  EXPECT_EQ(state->StatusOf(EditingCommand::JustifyLeft), CommandStatus::Disabled);
+  EXPECT_EQ(state->StatusOf(EditingCommand::JustifyCenter), CommandStatus::NotSupported);
 }
 
 TEST(StateSnapshot, AnUnpublishedOrMissingStatusIsNotSupported) {
   const auto state = StateSnapshot::FromJson(whole);
-  EXPECT_EQ(state->StatusOf(5026), CommandStatus::NotSupported);
-  EXPECT_EQ(state->StatusOf(4711), CommandStatus::NotSupported);
-  EXPECT_EQ(StateSnapshot{}.StatusOf(5000), CommandStatus::NotSupported);
+  EXPECT_EQ(state->StatusOf(EditingCommand::JustifyRight), CommandStatus::NotSupported);
+  EXPECT_EQ(state->StatusOf(static_cast<EditingCommand>(4711)), CommandStatus::NotSupported);
+  EXPECT_EQ(StateSnapshot{}.StatusOf(EditingCommand::Bold), CommandStatus::NotSupported);
 }
 
 TEST(StateSnapshot, AnswersTheValuesOfTheFiveQueryCommandsOnly) {
   const auto state = StateSnapshot::FromJson(whole);
-  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetFontName)), QStringLiteral("Arial"));
-  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetFontSize)), QStringLiteral("12"));
-  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetForeColor)), QStringLiteral("#112233"));
-  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetBackColor)), QStringLiteral("#FFFFFF"));
-  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetBlockFormat)), QStringLiteral("Heading 1"));
-  EXPECT_EQ(state->ValueOf(Number(EditingCommand::Bold)), std::nullopt);
+  EXPECT_EQ(state->ValueOf(EditingCommand::GetFontName), QStringLiteral("Arial"));
+  EXPECT_EQ(state->ValueOf(EditingCommand::GetFontSize), QStringLiteral("12"));
+  EXPECT_EQ(state->ValueOf(EditingCommand::GetForeColor), QStringLiteral("#112233"));
+  EXPECT_EQ(state->ValueOf(EditingCommand::GetBackColor), QStringLiteral("#FFFFFF"));
+  EXPECT_EQ(state->ValueOf(EditingCommand::GetBlockFormat), QStringLiteral("Heading 1"));
+  EXPECT_EQ(state->ValueOf(EditingCommand::Bold), std::nullopt);
 }
 
 TEST(StateSnapshot, AMixedSelectionHasEmptyValuesAndNoElement) {
   const auto state =
       StateSnapshot::FromJson(QStringLiteral(R"({"fontName": "", "element": null})"));
   ASSERT_TRUE(state.has_value());
-  EXPECT_EQ(state->ValueOf(Number(EditingCommand::GetFontName)), QString());
+  EXPECT_EQ(state->ValueOf(EditingCommand::GetFontName), QString());
   EXPECT_TRUE(state->element.IsNull());
   EXPECT_EQ(state->selection, SelectionType::None);
   EXPECT_FALSE(state->dirty);

@@ -157,8 +157,9 @@ QString FakeEditingComponent::Charset() const {
   return original_.page.encoding.charset;
 }
 
-QVariant FakeEditingComponent::ExecCommand(int command, ExecOption option, const QVariant &value) {
-  QString call = QStringLiteral("ExecCommand(%1").arg(command);
+QVariant FakeEditingComponent::ExecCommand(EditingCommand command, ExecOption option,
+                                           const QVariant &value) {
+  QString call = QStringLiteral("ExecCommand(%1").arg(Number(command));
   if (option != ExecOption::Default)
     call += QStringLiteral(", option %1").arg(static_cast<int>(option));
   if (value.isValid()) call += QStringLiteral(", %1").arg(value.toString());
@@ -167,8 +168,8 @@ QVariant FakeEditingComponent::ExecCommand(int command, ExecOption option, const
   return answer != values.end() ? answer->second : QVariant(QString());
 }
 
-CommandStatus FakeEditingComponent::QueryStatus(int command) const {
-  Log(QStringLiteral("QueryStatus(%1)").arg(command));
+CommandStatus FakeEditingComponent::QueryStatus(EditingCommand command) const {
+  Log(QStringLiteral("QueryStatus(%1)").arg(Number(command)));
   const auto status = statuses.find(command);
   return status != statuses.end() ? status->second : CommandStatus::Enabled;
 }

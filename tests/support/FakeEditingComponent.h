@@ -31,8 +31,8 @@ class FakeEditingComponent final : public EditingComponent,
   ~FakeEditingComponent() override;
 
   // What tests script.
-  std::map<int, CommandStatus> statuses;  ///< by command number; Enabled where absent
-  std::map<int, QVariant> values;         ///< by query command number; empty text where absent
+  std::map<EditingCommand, CommandStatus> statuses;  ///< Enabled where absent
+  std::map<EditingCommand, QVariant> values;         ///< of query commands; empty text where absent
   QStringList blockFormats = BlockFormatNames();
   SelectionType selectionType = SelectionType::None;
   HtmlElement element;  ///< under the caret, or the selected object
@@ -81,8 +81,8 @@ class FakeEditingComponent final : public EditingComponent,
   bool HasByteOrderMark() const override { return original_.page.encoding.byteOrderMark; }
   ElementPlaces CaretPlaces() override { return caretPlaces; }
   void ShowPlace(const ElementPlaces &places) override { caretPlaces = places; }
-  QVariant ExecCommand(int command, ExecOption option, const QVariant &value) override;
-  CommandStatus QueryStatus(int command) const override;
+  QVariant ExecCommand(EditingCommand command, ExecOption option, const QVariant &value) override;
+  CommandStatus QueryStatus(EditingCommand command) const override;
   QStringList BlockFormats() const override { return blockFormats; }
   HtmlDocument &Document() override;
   bool ShowDetails() const override;

@@ -75,7 +75,7 @@ TEST_F(CommandRouterTest, CommandsGoToTheDocumentInFront) {
   Parts().windows.Activate(&first);
   log.clear();
   // Only the first page has that format, so that only there nothing is left to send.
-  Component(first).values[5011] = QStringLiteral("Normal");
+  Component(first).values[EditingCommand::GetBlockFormat] = QStringLiteral("Normal");
   window.Router().SetBlockFormat(QStringLiteral("Normal"));
   EXPECT_EQ(Commands(), QStringList(QStringLiteral("ExecCommand(5011)")));
 }

@@ -32,7 +32,9 @@ class FormattingBarTest : public WindowFixture {
     Q_EMIT Find<ColorPicker>(picker)->Panel().Chosen(color);
   }
 
-  void PageAnswers(int query, const QString &value) { Component(page).values[query] = value; }
+  void PageAnswers(EditingCommand query, const QString &value) {
+    Component(page).values[query] = value;
+  }
 
   frmMain &page;
 };
@@ -54,31 +56,31 @@ TEST_F(FormattingBarTest, ListsTheBlockFormatsAndTheSevenSizes) {
 }
 
 TEST_F(FormattingBarTest, ADifferentBlockFormatIsSentAfterAskingForTheCurrentOne) {
-  PageAnswers(5011, QStringLiteral("Normal"));
+  PageAnswers(EditingCommand::GetBlockFormat, QStringLiteral("Normal"));
   Pick(Find<ChoiceBox>("cobFormat"), QStringLiteral("Heading 1"));
   EXPECT_EQ(Commands().join(u' ').toStdString(), "ExecCommand(5011) ExecCommand(5043, Heading 1)");
 }
 
 TEST_F(FormattingBarTest, TheCurrentBlockFormatIsNotSent) {
-  PageAnswers(5011, QStringLiteral("Heading 1"));
+  PageAnswers(EditingCommand::GetBlockFormat, QStringLiteral("Heading 1"));
   Pick(Find<ChoiceBox>("cobFormat"), QStringLiteral("Heading 1"));
   EXPECT_EQ(Commands().join(u' ').toStdString(), "ExecCommand(5011)");
 }
 
 TEST_F(FormattingBarTest, ADifferentSizeIsSent) {
-  PageAnswers(5014, QStringLiteral("12"));
+  PageAnswers(EditingCommand::GetFontSize, QStringLiteral("12"));
   Pick(Find<ChoiceBox>("cobSize"), QStringLiteral("24"));
   EXPECT_EQ(Commands().join(u' ').toStdString(), "ExecCommand(5014) ExecCommand(5045, 24)");
 }
 
 TEST_F(FormattingBarTest, TheCurrentSizeIsNotSent) {
-  PageAnswers(5014, QStringLiteral("24"));
+  PageAnswers(EditingCommand::GetFontSize, QStringLiteral("24"));
   Pick(Find<ChoiceBox>("cobSize"), QStringLiteral("24"));
   EXPECT_EQ(Commands().join(u' ').toStdString(), "ExecCommand(5014)");
 }
 
 TEST_F(FormattingBarTest, ADifferentFontIsSent) {
-  PageAnswers(5013, QStringLiteral("Serif"));
+  PageAnswers(EditingCommand::GetFontName, QStringLiteral("Serif"));
   auto *font = Find<FontPicker>("Font1");
   font->lineEdit()->setText(QStringLiteral("Some Face"));
   QTest::keyClick(font->lineEdit(), Qt::Key_Return);
@@ -86,7 +88,7 @@ TEST_F(FormattingBarTest, ADifferentFontIsSent) {
 }
 
 TEST_F(FormattingBarTest, TheFontThatThePageHasIsNotSent) {
-  PageAnswers(5013, QStringLiteral("Some Face"));
+  PageAnswers(EditingCommand::GetFontName, QStringLiteral("Some Face"));
   auto *font = Find<FontPicker>("Font1");
   font->lineEdit()->setText(QStringLiteral("Some Face"));
   QTest::keyClick(font->lineEdit(), Qt::Key_Return);

@@ -227,7 +227,8 @@ TEST_F(RealEditing, TheBoxesChangeThePage) {
   EXPECT_TRUE(InputOf(page)->hasFocus());
   Q_EMIT Find<ColorPicker>("cpBack")->Panel().Chosen(QColor(0xA0, 0xB0, 0xC0));
   EXPECT_TRUE(WaitFor([&] {
-    return page.DHTML1().ExecCommand(5010).toString().toUpper() == QStringLiteral("#A0B0C0");
+    return page.DHTML1().ExecCommand(EditingCommand::GetBackColor).toString().toUpper() ==
+           QStringLiteral("#A0B0C0");
   })) << Seen(page);
 }
 
