@@ -25,10 +25,13 @@ QString Find(const QString &path, NameOrigin origin) {
 }
 
 /// The native form of a path that an operation is about to use.
+template <class Error = RuntimeError>
 QString Usable(const QString &path, const QString &source, NameOrigin origin = NameOrigin::Chosen) {
-  if (IsOnUnknownDrive(path)) throw RuntimeError::Of(ErrorNumber::PathNotFound, source, path);
+  if (IsOnUnknownDrive(path))
+    throw Error(RuntimeError::Of(ErrorNumber::PathNotFound, source, path));
   // The system would take the name as far as the NUL, which is another file.
-  if (path.contains(QChar(0))) throw RuntimeError::Of(ErrorNumber::PathFileAccess, source, path);
+  if (path.contains(QChar(0)))
+    throw Error(RuntimeError::Of(ErrorNumber::PathFileAccess, source, path));
   return Find(path, origin);
 }
 
@@ -103,7 +106,7 @@ QByteArray QtFiles::ReadAll(const QString &path, NameOrigin origin) const {
 }
 
 void QtFiles::ReplaceAll(const QString &path, const QByteArray &content) {
-  ReplaceFile(Usable(path, QStringLiteral("ReplaceAll")), content, calls_);
+  ReplaceFile(Usable<FileWriteError>(path, QStringLiteral("ReplaceAll")), content, calls_);
 }
 
 void QtFiles::Delete(const QString &path) {

@@ -19,9 +19,6 @@ enum class NameOrigin {
 /// in memory for tests; one contract suite runs against both.
 class Files {
  public:
-  /// The source of every error of ReplaceAll, by which the event boundary knows a failed write.
-  static constexpr const char16_t *WriteSource = u"ReplaceAll";
-
   virtual ~Files() = default;
 
   /// Whether a file (not a folder) of that name exists. Never raises.
@@ -47,7 +44,8 @@ class Files {
   /// content is there, whole: written to a sibling, synced and renamed over it; mode, owner,
   /// symbolic links, access lists and other attributes kept; written in place where renaming would
   /// break a hard link or lose one of them, the old content then kept until that is done. A
-  /// read-only file is refused (75), also for the superuser; a full disk is 61.
+  /// read-only file is refused (75), also for the superuser; a full disk is 61. Every failure is a
+  /// FileWriteError.
   virtual void ReplaceAll(const QString &path, const QByteArray &content) = 0;
 
   /// Deletes a file; raises 53 when there is none.

@@ -2,7 +2,6 @@
 #include "app/startup/EventBoundary.h"
 
 #include "platform/Dialogs.h"
-#include "platform/Files.h"
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
 
@@ -70,8 +69,7 @@ void EventBoundary::Run(const std::function<void()> &action) {
 
 EventBoundary::Consequence EventBoundary::ConsequenceOf(const std::exception &error) const {
   if (phase_ == Phase::StartUp) return Consequence::Stop;
-  const auto *known = dynamic_cast<const RuntimeError *>(&error);
-  const bool isFailedWrite = known != nullptr && known->Source() == QStringView(Files::WriteSource);
+  const bool isFailedWrite = dynamic_cast<const FileWriteError *>(&error) != nullptr;
   return isFailedWrite ? Consequence::Stop : Consequence::Abandon;
 }
 

@@ -203,6 +203,15 @@ TEST_P(FilesContract, RaisesForTheAttributeOfAMissingFile) {
   EXPECT_EQ(ErrorOf([&] { Subject().IsReadOnly(Path("missing.htm")); }), ErrorNumber::FileNotFound);
 }
 
+TEST_P(FilesContract, EveryFailedWriteIsOneByItsType) {
+  World().AddFile(Path("a.htm"), "old");
+  World().MakeReadOnly(Path("a.htm"));
+  World().AddFolder(Path("images"));
+  for (const QString &path : {Path("a.htm"), Path("images"), Path("nowhere\\a.htm"),
+                              QStringLiteral(R"(C:\Site\a.htm)"), Path("a") + QChar(0)})
+    EXPECT_THROW(Subject().ReplaceAll(path, "x"), FileWriteError) << qPrintable(path);
+}
+
 TEST_P(FilesContract, DeletesFilesOnly) {
   World().AddFile(Path("a.htm"), "x");
   World().AddFolder(Path("images"));

@@ -112,10 +112,11 @@ void FakeFiles::ReplaceAll(const QString &path, const QByteArray &content) {
   std::optional<ErrorNumber> failure = std::exchange(nextWriteFailure_, std::nullopt);
   const bool isNew = !files_.contains(path);
   if (!folders_.contains(FolderOf(path))) failure = ErrorNumber::PathNotFound;
-  if (folders_.contains(path) || readOnly_.contains(path) || (isNew && !FolderWritable(path))) {
+  if (folders_.contains(path) || readOnly_.contains(path) || path.contains(QChar(0)) ||
+      (isNew && !FolderWritable(path))) {
     failure = failure.value_or(ErrorNumber::PathFileAccess);
   }
-  if (failure) throw RuntimeError::Of(*failure, operation, path);
+  if (failure) throw FileWriteError(RuntimeError::Of(*failure, operation, path));
   files_[path] = content;
 }
 

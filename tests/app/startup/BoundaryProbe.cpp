@@ -3,7 +3,6 @@
 // which scene it plays; what a test may look at goes to standard output.
 #include "app/startup/EventBoundary.h"
 #include "chrome/ReportingSweeps.h"
-#include "platform/Files.h"
 #include "platform/RuntimeError.h"
 #include "qt/QtDialogs.h"
 #include "qt/QtRuntime.h"
@@ -59,7 +58,8 @@ int main(int argc, char **argv) {
   QTimer::singleShot(0, &application, [&scene] {
     if (scene == "event") Raise(ErrorNumber::SubscriptOutOfRange, QStringLiteral("Pages"));
     if (scene == "write") {
-      Raise(ErrorNumber::DiskFull, QString::fromUtf16(Files::WriteSource));
+      throw FileWriteError(
+          RuntimeError::Of(ErrorNumber::DiskFull, QStringLiteral("ReplaceAll"), {}));
     }
   });
   QWidget window;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What becomes of an error that nobody caught, and of the program.
 #include "app/startup/EventBoundary.h"
-#include "platform/Files.h"
 #include "platform/RuntimeError.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FakeDialogs.h"
@@ -17,8 +16,8 @@ namespace {
 
 const RuntimeError MissingFile = RuntimeError::Of(
     ErrorNumber::FileNotFound, QStringLiteral("OpenPage"), QStringLiteral("/site/a.htm"));
-const RuntimeError FailedWrite = RuntimeError::Of(
-    ErrorNumber::DiskFull, QString::fromUtf16(Files::WriteSource), QStringLiteral("/site/a.htm"));
+const FileWriteError FailedWrite{RuntimeError::Of(
+    ErrorNumber::DiskFull, QStringLiteral("ReplaceAll"), QStringLiteral("/site/a.htm"))};
 
 class Boundary : public ::testing::Test {
  protected:
