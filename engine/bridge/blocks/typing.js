@@ -6,6 +6,7 @@ import * as pending from '../formats/pending.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
+import { openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { enclose, gapAt, unitsIn } from '../page/units.js';
 
@@ -37,10 +38,7 @@ const typedIn = new WeakSet();
 
 // A paragraph at a place where no line is, as before a table.
 export function makeLine([node, offset]) {
-  const paragraph = dom.create('P');
-  paragraph.append(dom.create('BR'));
-  node.insertBefore(paragraph, node.childNodes[offset] ?? null);
-  selection.setCaret(paragraph, 0);
+  openParagraph((paragraph) => node.insertBefore(paragraph, node.childNodes[offset] ?? null));
 }
 
 // The no-break space that is all a paragraph or cell holds, which keeps an empty one open.

@@ -5,6 +5,7 @@ import { putDeclaration } from '../formats/declarations.js';
 import * as boxes from './boxes.js';
 import * as glyphs from './glyphs.js';
 import * as dom from '../page/dom.js';
+import { openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 
 export const selected = () => selection.control(selection.range());
@@ -71,12 +72,6 @@ export function enter(box, { clientX, clientY }) {
   entered = box;
   selection.setCaret(...(inside ? [place.startContainer, place.startOffset] : [box, 0]));
 }
-const paragraphFor = (object, place) => {
-  const paragraph = dom.create('P');
-  paragraph.append(dom.create('BR'));
-  object[place](paragraph);
-  selection.setCaret(paragraph, 0);
-};
 const holdsParagraphs = (node) => dom.isBlock(node) && !dom.isParagraph(node) &&
   !/^(CAPTION|DD|LI|TD|TH)$/.test(node.tagName);
 
@@ -86,7 +81,7 @@ export function giveWay(object) {
   const { parentNode } = object;
   if (!dom.isBlock(object) || !dom.isBlock(parentNode)) return false;
   if (holdsParagraphs(parentNode)) {
-    paragraphFor(object, 'replaceWith');
+    openParagraph((paragraph) => object.replaceWith(paragraph));
     return true;
   }
   const index = selection.indexOf(object);
@@ -107,7 +102,7 @@ export function entering(object) {
     };
   }
   return dom.isBlock(object) && !dom.isParagraph(object.parentNode)
-    ? () => paragraphFor(object, 'after') : null;
+    ? () => openParagraph((paragraph) => object.after(paragraph)) : null;
 }
 
 // Escape goes out of a box, which is selected then, and from a selected object behind it.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What keeps lines whole while text is taken out of them.
 import * as dom from './dom.js';
+import * as selection from './selection.js';
 
 // A paragraph without content needs a break to be a line.
 export function holdOpen(block) {
@@ -20,4 +21,12 @@ export function prune(node) {
     node.remove();
     node = parentNode;
   }
+}
+
+/** Makes an empty paragraph, which `put` puts into the document, and sets the caret into it. */
+export function openParagraph(put) {
+  const paragraph = dom.create('P');
+  paragraph.append(dom.create('BR'));
+  put(paragraph);
+  selection.setCaret(paragraph, 0);
 }

@@ -16,12 +16,7 @@ import * as selection from '../page/selection.js';
 import { heldUnits, unitsIn } from '../page/units.js';
 import { isWorking, work } from '../page/working.js';
 import { schedulePush } from './pace.js';
-
-// The published numbers of a command's status.
-const Disabled = 1;
-const Enabled = 3;
-const Latched = 7;
-const Ninched = 11;
+import { Command, Status } from './vocabulary.js';
 
 // Both stop reading as soon as the answer is known: a selection may be the whole of a long page.
 function spread(subjects, fits) {
@@ -30,9 +25,9 @@ function spread(subjects, fits) {
   for (const subject of subjects) {
     if (fits(subject)) some = true;
     else all = false;
-    if (some && !all) return Ninched;
+    if (some && !all) return Status.Ninched;
   }
-  return some ? Latched : Enabled;
+  return some ? Status.Latched : Status.Enabled;
 }
 // The one value of all, or the empty text.
 function common(subjects, read, same = (one, other) => one === other) {
@@ -85,7 +80,7 @@ function put(name, value, { range, object, elements }) {
 // A table or a box that is selected has its texts formatted; a picture has none.
 const takesFormats = ({ object, range, elements }) => elements().length > 0 ||
   !object && dom.rawAt(range.startContainer) === null;
-const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Disabled);
+const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Status.Disabled);
 // What is done is done to all of the selection, however little of it the answer was read from.
 const onUnits = (change) => (value, view) => {
   const kept = selection.keep();
@@ -97,11 +92,11 @@ const onUnits = (change) => (value, view) => {
 const toggle = (name) => ({
   status: whereText((view) => spread(subjects(view), reader(name, view))),
   run: (value, view) =>
-    put(name, spread(subjects(view), reader(name, view)) !== Latched, view),
+    put(name, spread(subjects(view), reader(name, view)) !== Status.Latched, view),
 });
 
 const character = (name) => ({
-  status: whereText(() => Enabled),
+  status: whereText(() => Status.Enabled),
   run(value, view) {
     const wanted = formats[name].parse(value);
     if (wanted !== '') put(name, wanted, view);
@@ -116,28 +111,28 @@ const justify = (side) => ({
 const list = (tag) => {
   const status = (view) => spread(view.units(), (unit) => lists.tagOf(unit) === tag);
   return {
-    status: (view) => (view.units().length ? status(view) : Disabled),
+    status: (view) => (view.units().length ? status(view) : Status.Disabled),
     run(value, view) {
-      if (status(view) === Latched) lists.unlist();
+      if (status(view) === Status.Latched) lists.unlist();
       else onUnits((units) => lists.make(units, tag, 'LI'))(value, view);
     },
   };
 };
 
-const query = (value) => ({ status: () => Enabled, value });
+const query = (value) => ({ status: () => Status.Enabled, value });
 const reading = (name) => query((view) =>
   common(subjects(view), reader(name, view), formats[name].same));
 
 // Carried out by the engine itself at the program's call; only its status is answered here.
 const byEngine = (status) => ({ status });
-const selected = (view) => (view.range.collapsed ? Disabled : Enabled);
-const always = () => Enabled;
+const selected = (view) => (view.range.collapsed ? Status.Disabled : Status.Enabled);
+const always = () => Status.Enabled;
 
 export const commands = new Map([
-  [5000, toggle('bold')],
-  [5002, byEngine(selected)],  // Copy
-  [5003, byEngine(selected)],  // Cut
-  [5004, {  // Delete
+  [Command.Bold, toggle('bold')],
+  [Command.Copy, byEngine(selected)],
+  [Command.Cut, byEngine(selected)],
+  [Command.Delete, {
     status: always,
     run(value, { range }) {
       if (!range.collapsed) {
@@ -154,52 +149,52 @@ export const commands = new Map([
       blanks.watched({ inputType: 'deleteContentForward' });
     },
   }],
-  [5010, reading('backColor')],
-  [5011, query((view) => common(view.units(), blocks.read))],
-  [5013, reading('fontName')],
-  [5014, reading('fontSize')],
-  [5015, reading('foreColor')],
-  [5018, {  // Indent
-    status: (view) => (view.units().length ? Enabled : Disabled),
+  [Command.GetBackColor, reading('backColor')],
+  [Command.GetBlockFormat, query((view) => common(view.units(), blocks.read))],
+  [Command.GetFontName, reading('fontName')],
+  [Command.GetFontSize, reading('fontSize')],
+  [Command.GetForeColor, reading('foreColor')],
+  [Command.Indent, {
+    status: (view) => (view.units().length ? Status.Enabled : Status.Disabled),
     run: onUnits(indent.indent),
   }],
-  [5023, toggle('italic')],
-  [5024, justify('center')],
-  [5025, justify('left')],
-  [5026, justify('right')],
-  [5030, list('OL')],
-  [5031, {  // Outdent
-    status: (view) => (view.units().some(indent.canOutdent) ? Enabled : Disabled),
+  [Command.Italic, toggle('italic')],
+  [Command.JustifyCenter, justify('center')],
+  [Command.JustifyLeft, justify('left')],
+  [Command.JustifyRight, justify('right')],
+  [Command.OrderList, list('OL')],
+  [Command.Outdent, {
+    status: (view) => (view.units().some(indent.canOutdent) ? Status.Enabled : Status.Disabled),
     run: onUnits(indent.outdent),
   }],
-  [5032, byEngine(always)],  // Paste
-  [5033, {  // Redo
-    status: () => (history.canRedo() ? Enabled : Disabled),
+  [Command.Paste, byEngine(always)],
+  [Command.Redo, {
+    status: () => (history.canRedo() ? Status.Enabled : Status.Disabled),
     travel: () => history.redo(),
   }],
-  [5035, {  // SelectAll
+  [Command.SelectAll, {
     status: always,
     travel: () => document.getSelection().selectAllChildren(document.body),
   }],
-  [5042, character('backColor')],
-  [5043, {  // SetBlockFormat
-    status: (view) => (view.units().some(blocks.takesFormat) ? Enabled : Disabled),
+  [Command.SetBackColor, character('backColor')],
+  [Command.SetBlockFormat, {
+    status: (view) => (view.units().some(blocks.takesFormat) ? Status.Enabled : Status.Disabled),
     run: (value, view) => blocks.apply(value, view.range),
   }],
-  [5044, character('fontName')],
-  [5045, character('fontSize')],
-  [5046, character('foreColor')],
-  [5048, toggle('underline')],
-  [5049, {  // Undo
-    status: () => (history.canUndo() ? Enabled : Disabled),
+  [Command.SetFontName, character('fontName')],
+  [Command.SetFontSize, character('fontSize')],
+  [Command.SetForeColor, character('foreColor')],
+  [Command.Underline, toggle('underline')],
+  [Command.Undo, {
+    status: () => (history.canUndo() ? Status.Enabled : Status.Disabled),
     travel: () => history.undo(),
   }],
-  [5051, list('UL')],
+  [Command.UnorderList, list('UL')],
 ]);
 
 // Status, and the value of a query, by number; without a caret nothing applies.
 export const statusOf = (number, view = readView()) =>
-  (view.range ? commands.get(number).status(view) : Disabled);
+  (view.range ? commands.get(number).status(view) : Status.Disabled);
 export const queryValue = (number, view = readView()) =>
   (view.range ? commands.get(number).value(view) : '');
 
@@ -208,7 +203,7 @@ export const exec = (number, value = '') => {
   if (!command || isWorking()) return false;
   history.settle();
   const view = readView();
-  if (statusOf(number, view) === Disabled) return false;
+  if (statusOf(number, view) === Status.Disabled) return false;
   if (command.value) return queryValue(number, view);
   work(() => {
     if (command.travel) command.travel();

@@ -3,9 +3,14 @@
 // of selection and the element that holds it.
 import * as selection from '../page/selection.js';
 import { commands as table, queryValue, readView, statusOf } from './commands.js';
+import { Command } from './vocabulary.js';
 
 const values = {
-  backColor: 5010, blockFormat: 5011, fontName: 5013, fontSize: 5014, foreColor: 5015,
+  fontName: Command.GetFontName,
+  fontSize: Command.GetFontSize,
+  foreColor: Command.GetForeColor,
+  backColor: Command.GetBackColor,
+  blockFormat: Command.GetBlockFormat,
 };
 
 function element() {

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Enter. The engine splits paragraphs and items; what it would do badly is done here, and what it
+// leaves behind is put in order.
+import * as deletion from '../blocks/deletion.js';
+import * as lists from '../blocks/lists.js';
+import * as typing from '../blocks/typing.js';
+import * as inline from '../formats/inline.js';
+import * as objects from '../objects/objects.js';
+import * as blanks from '../page/blanks.js';
+import * as dom from '../page/dom.js';
+import * as history from '../page/history.js';
+import { openParagraph } from '../page/lines.js';
+import * as selection from '../page/selection.js';
+import { gapAt, unitsIn } from '../page/units.js';
+
+const preAt = (range) => dom.ancestor(range.startContainer, dom.isPreformatted);
+
+// The text of a preformatted block on both sides of the caret.
+function sidesOf(pre, { startContainer, startOffset }) {
+  const above = document.createRange();
+  above.setStart(pre, 0);
+  above.setEnd(startContainer, startOffset);
+  const below = document.createRange();
+  below.setStart(startContainer, startOffset);
+  below.setEnd(pre, pre.childNodes.length);
+  return [above.toString(), below.toString()];
+}
+
+// Enter in preformatted text is a line end, but on an empty last line leaves it.
+function breakLine() {
+  if (!selection.range().collapsed) deletion.remove(selection.range());
+  const range = selection.range();
+  const pre = preAt(range);
+  const [above, below] = sidesOf(pre, range);
+  const atEnd = /^\n?$/.test(below);
+  if (atEnd && above.endsWith('\n') && above + below !== '\n') {
+    leavePre(pre);
+    return;
+  }
+  const end = document.createTextNode(below === '' ? '\n\n' : '\n');
+  range.insertNode(end);
+  const caret = { node: end, offset: 1 };
+  inline.joinTexts([end], [caret]);
+  selection.setCaret(caret.node, caret.offset);
+}
+function leavePre(pre) {
+  const last = dom.lastLeaf(pre);
+  if (dom.isText(last)) last.data = last.data.replace(/\n{1,2}$/, '');
+  openParagraph((paragraph) => pre.after(paragraph));
+}
+
+// What is done by the engine after all, with an eye on the blanks beside it as at typing.
+function byEngine(inputType) {
+  blanks.watch();
+  document.execCommand(inputType);
+  blanks.watched({ inputType });
+}
+
+// The lines of an address are one address; Enter on its empty last line leaves it.
+function breakAddress(address) {
+  const { startContainer, startOffset } = selection.range();
+  const at = dom.isText(startContainer) ? null : startContainer.childNodes[startOffset];
+  const isLast = dom.isBreak(at) && dom.lastLeaf(address) === at;
+  if (!isLast || !dom.isBreak(at.previousSibling)) {
+    byEngine('insertLineBreak');
+    return;
+  }
+  at.previousSibling.remove();
+  at.remove();
+  openParagraph((paragraph) => address.after(paragraph));
+}
+
+// Over selected text Enter first deletes that.
+function replaceSelection() {
+  deletion.empty(selection.range());
+  const own = ownEnter();
+  if (own) {
+    own();
+    return;
+  }
+  typing.prepare({ inputType: 'insertParagraph' });
+  byEngine('insertParagraph');
+  tidySplit();
+}
+
+// In an item: an empty one is left. With other blocks in the item the engine would put the new one
+// among those.
+function enterInItem(unit) {
+  const item = lists.itemOf(unit);
+  if (!item) return null;
+  const isAlone = unit.block && [...item.childNodes].filter(dom.isShown).length === 1;
+  if (dom.isHollow(item) || (isAlone && dom.isHollow(unit.block))) return () => lists.leave(unit);
+  const others = [...item.children].filter((child) => child !== unit.block && dom.isBlock(child));
+  const goesOn = unit.block
+    ? /^(P|DIV)$/.test(unit.block.tagName) && unit.block.parentNode === item &&
+      dom.neighbour(unit.block, 'nextSibling')
+    : unit.container === item && others.some((child) => !dom.isList(child));
+  return goesOn ? () => lists.split(item) : null;
+}
+
+function enterInLine(range) {
+  const gap = gapAt(range);
+  if (gap) return () => typing.makeLine(gap);
+  const [unit] = unitsIn(range);
+  if (!unit) return null;
+  // A table has one caption.
+  if (unit.container.tagName === 'CAPTION') return () => byEngine('insertLineBreak');
+  if (unit.block?.tagName === 'ADDRESS' && !dom.isHollow(unit.block)) {
+    return () => breakAddress(unit.block);
+  }
+  return enterInItem(unit);
+}
+
+/** What Enter does here where the engine would do it badly, else null. */
+export function ownEnter() {
+  const range = selection.range();
+  if (!range) return null;
+  if (preAt(range) && !deletion.spansUnits(range)) return breakLine;
+  const object = selection.control(range);
+  const entering = object && objects.entering(object);
+  if (entering) return entering;
+  return range.collapsed ? enterInLine(range) : replaceSelection;
+}
+
+// A split paragraph leaves its id with the first half only.
+function dropDoubledId() {
+  const element = selection.element();
+  for (let at = element; at && at !== document.body; at = at.parentElement) {
+    if (!at.id || document.getElementById(at.id) === at) continue;
+    history.attributesOf(at);
+    at.removeAttribute('id');
+  }
+}
+
+// A new paragraph that is empty is outside of the link that the one before it ended with.
+function leaveLink(block) {
+  const link = dom.lastLeaf(block).parentNode.closest('a[href]');
+  if (!link || !block.contains(link)) return;
+  const kept = selection.keep();
+  dom.unwrap(link);
+  selection.restore(kept);
+}
+
+// A definition follows a term, and a term a definition.
+function alternate(block) {
+  const item = block.closest('DT, DD');
+  const others = item && [...item.childNodes].some((node) => node !== block && dom.isShown(node));
+  if (!item || (item !== block && others)) return;
+  const before = dom.neighbour(item, 'previousSibling');
+  if (before?.tagName !== item.tagName) return;
+  const kept = selection.keep();
+  dom.rename(item, item.tagName === 'DT' ? 'DD' : 'DT');
+  selection.restore(kept);
+}
+
+/**
+ * Puts in order what the engine left where it split a paragraph. The break that held a line open is
+ * not needed where text stands before it.
+ */
+export function tidySplit() {
+  dropDoubledId();
+  const split = dom.blockOf(selection.points().anchorNode);
+  if (dom.isHollow(split)) {
+    leaveLink(split);
+    alternate(split);
+  }
+  const block = dom.successor(split);
+  const first = dom.neighbour(block, 'previousSibling');
+  if (!dom.isElement(first) || !dom.isBlock(first) || dom.isHollow(first)) return;
+  const last = dom.lastLeaf(first);
+  const before = last.previousSibling;
+  if (dom.isBreak(last) && before && !dom.isBreak(before)) last.remove();
+}

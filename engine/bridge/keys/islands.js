@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Keys beside islands (`contenteditable="false"`). The engine tells of no input where the selection
+// begins or ends with a closed block, or where there is one in place of a line.
+import * as deletion from '../blocks/deletion.js';
+import * as typing from '../blocks/typing.js';
+import * as dom from '../page/dom.js';
+import * as history from '../page/history.js';
+import * as selection from '../page/selection.js';
+import { gapAt } from '../page/units.js';
+import { work } from '../page/working.js';
+import { exec } from '../talk/commands.js';
+import { schedulePush } from '../talk/pace.js';
+import { Command } from '../talk/vocabulary.js';
+
+export function isBesideIsland(range) {
+  if (!range) return false;
+  if (!range.collapsed) {
+    const last = range.endContainer.childNodes[range.endOffset - 1];
+    const [first] = selection.leavesIn(range);
+    return dom.isIsland(first) || (Boolean(last) && dom.isIsland(dom.lastLeaf(last)));
+  }
+  const [node, offset] = gapAt(range) ?? [];
+  return Boolean(node) &&
+    [node.childNodes[offset - 1], node.childNodes[offset]].some(dom.isIsland);
+}
+
+/** Deletes what is selected there and makes the line that the key is for. */
+export function makeWay(event) {
+  const { key } = event;
+  const range = selection.range();
+  const types = key.length === 1 || key === 'Enter';
+  const deletes = /^(Delete|Backspace)$/.test(key) && !range.collapsed;
+  if (!types && !deletes) return;
+  if (deletes || key === 'Enter') event.preventDefault();
+  if (deletes) {
+    exec(Command.Delete);
+    return;
+  }
+  history.expect('typing', false);
+  work(() => {
+    if (!range.collapsed) deletion.empty(range);
+    const gap = gapAt(selection.range());
+    if (gap) typing.makeLine(gap);
+  });
+  history.arrive();
+  schedulePush();
+}
