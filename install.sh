@@ -17,6 +17,7 @@ packages=(
 test_packages=(
   xvfb xauth xdotool openbox at-spi2-core python3-gi gir1.2-atspi-2.0 dbus dbus-x11 imagemagick
   mdbtools
+  node-typescript
 )
 # Another Node.js than Debian's will do, and brings an npm of its own.
 command -v node >/dev/null && command -v npm >/dev/null || test_packages+=(nodejs npm)

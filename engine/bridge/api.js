@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The names that the program evaluates, on the global object `velor` of the bridge's world. Nothing
 // else of the bridge is global.
 import { pasteHTML } from './clipboard/paste.js';
 import { setDetails } from './objects/details.js';
 import { setSnap } from './objects/grid.js';
 import { restorePaths } from './page/paths.js';
-import { setCaretAt } from './page/selection.js';
+import { setCaretAtPixel } from './page/selection.js';
 import { serialize } from './page/serialize.js';
 import { start } from './start.js';
 import './talk/arrivals.js';
@@ -18,7 +19,7 @@ import { state } from './talk/state.js';
 import { parsed } from './talk/verify.js';
 
 globalThis.velor = {
-  start, exec, state, pasteHTML, caretAt: setCaretAt, serialize, replaceDocument,
+  start, exec, state, pasteHTML, caretAt: setCaretAtPixel, serialize, replaceDocument,
   generation: shownGeneration, caretPlaces, showPlace, setDetails, setSnap, changes, mirror, parsed,
   restore: restorePaths,
   // The program's slots, which tests put something else in the place of.

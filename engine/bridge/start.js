@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The beginning of work on a document that was loaded.
 import { listenToClipboard } from './clipboard/clipboard.js';
 import * as pending from './formats/pending.js';

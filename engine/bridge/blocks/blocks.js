@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The block formats: how a unit's is named and how a unit is given another one.
 import * as lists from './lists.js';
 import * as dom from '../page/dom.js';
@@ -6,6 +7,7 @@ import * as selection from '../page/selection.js';
 import { become, heldUnits, unitsIn } from '../page/units.js';
 
 // In the order in which lists show them. `list` is the element around the items.
+/** @type {{ name: string, element: string, list?: string }[]} */
 export const formats = [
   { name: 'Normal', element: 'P' },
   { name: 'Formatted', element: 'PRE' },
@@ -43,7 +45,7 @@ export function read(unit) {
   return 'Normal';
 }
 
-// Line ends show in preformatted text only; elsewhere they are breaks. Kept places go along.
+// Line ends show in preformatted text only; elsewhere they are breaks. Kept anchors go along.
 export function breakLines(element, kept) {
   const goesOn = (text) => {
     if (text.length) return true;
@@ -53,17 +55,14 @@ export function breakLines(element, kept) {
     }
     return Boolean(at) && element.contains(at);
   };
-  const places = kept ? [kept.anchor, kept.focus] : [];
-  const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
-  const texts = [];
-  while (walker.nextNode()) texts.push(walker.currentNode);
-  for (let text of texts) {
+  const anchors = kept ? [kept.anchor, kept.focus] : [];
+  for (let text of dom.textsUnder(element)) {
     for (let at = text.data.indexOf('\n'); at >= 0; at = text.data.indexOf('\n')) {
       const rest = text.splitText(at);
       rest.deleteData(0, 1);
-      for (const place of places) {
-        if (place.node !== text || place.offset <= at) continue;
-        Object.assign(place, { node: rest, offset: place.offset - at - 1 });
+      const moved = anchors.filter((anchor) => anchor.node === text && anchor.offset > at);
+      for (const anchor of moved) {
+        Object.assign(anchor, { node: rest, offset: anchor.offset - at - 1 });
       }
       if (goesOn(rest)) text.after(dom.create('BR'));
       if (!text.length) text.remove();
@@ -119,9 +118,10 @@ function becomePlain({ block }, kept) {
 
 // A table or a rule that is selected has no text to format.
 export const takesFormat = ({ object }) =>
-  !object || !dom.isAtom(object) && object.tagName !== 'TABLE';
+  !object || (!dom.isAtom(object) && object.tagName !== 'TABLE');
 
 // Lists of the other kind are left one level at a time.
+/** @param {{ name: string, element: string, list?: string }} format */
 function makeList({ name, list, element }, kept) {
   for (let level = 0; level < 50; level++) {
     selection.restore(kept);

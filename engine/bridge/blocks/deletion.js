@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Deleting across paragraphs. The engine keeps the looks of joined text by styled spans; here the
 // text joins the paragraph before it and takes on that one's looks.
 import { breakLines } from './blocks.js';
@@ -171,8 +172,8 @@ function thingIn(range) {
 }
 // A text at an end of the range of which nothing is selected.
 const untouched = (leaf, range) =>
-  leaf === range.startContainer && dom.isText(leaf) && range.startOffset === leaf.length ||
-  leaf === range.endContainer && range.endOffset === 0;
+  (leaf === range.startContainer && dom.isText(leaf) && range.startOffset === leaf.length) ||
+  (leaf === range.endContainer && range.endOffset === 0);
 
 function removeThing(thing, place) {
   place.setStartBefore(thing);
@@ -188,7 +189,7 @@ function removeThing(thing, place) {
 function caretInto(unit, place) {
   const [node] = unit.nodes.filter((each) => each.isConnected);
   if (!node && !unit.container.isConnected) return;
-  place.setStart(...selection.place(selection.startOf(node ?? unit.container)));
+  place.setStart(...selection.pointOf(selection.startOf(node ?? unit.container)));
   place.collapse(true);
 }
 
@@ -249,8 +250,8 @@ export function remove(range) {
   const previous = dom.shownFrom(node.childNodes[offset - 1], 'previousSibling');
   const enters = (block) =>
     dom.isElement(block) && !dom.isAtom(block) && block.tagName !== 'TABLE';
-  if (enters(next)) selection.setCaret(...selection.place(selection.startOf(next)));
-  else if (enters(previous)) selection.setCaret(...selection.place(selection.endOf(previous)));
+  if (enters(next)) selection.setCaret(...selection.pointOf(selection.startOf(next)));
+  else if (enters(previous)) selection.setCaret(...selection.pointOf(selection.endOf(previous)));
 }
 
 // True when something shows between the edge of a paragraph and a place in it: white space there
@@ -310,14 +311,14 @@ function leafBeside(node, side) {
 }
 // The outermost leaf that shows something, on one side of a node; a table is one thing.
 function shownEdge(node, child, side) {
-  const inner = node.tagName === 'TABLE' || dom.isAtom(node) ? null : dom.shownFrom(node[child], side);
+  const isWhole = node.tagName === 'TABLE' || dom.isAtom(node);
+  const inner = isWhole ? null : dom.shownFrom(node[child], side);
   return inner ? shownEdge(inner, child, side) : node;
 }
 
 const unitOfLeaf = (leaf) =>
-  dom.isText(leaf) ? unitAt(leaf, 0)
-    : dom.isBlock(leaf) ? unitAt(leaf, 0)
-      : unitAt(leaf.parentNode, [...leaf.parentNode.childNodes].indexOf(leaf));
+  (dom.isText(leaf) || dom.isBlock(leaf)
+    ? unitAt(leaf, 0) : unitAt(leaf.parentNode, selection.indexOf(leaf)));
 
 const hollow = (unit) => Boolean(unit.block) && dom.isHollow(unit.block);
 
@@ -347,7 +348,9 @@ export function joining(range, side) {
   if (!unit || !range.collapsed) return null;
   const thing = thingBeside(range, side);
   if (thing) return () => removeBeside(thing);
-  if (!atEdge(range, unit, side)) return null;
+  return atEdge(range, unit, side) ? joiningAtEdge(unit, side) : null;
+}
+function joiningAtEdge(unit, side) {
   const back = side === 'start';
   if (back && startsItem(unit)) return () => lists.leave(unit);
   const anchor = unit.block || (back ? unit.nodes[0] : unit.nodes.at(-1)) || unit.container;
@@ -373,7 +376,8 @@ function emptyLine({ block, nodes, container }, side) {
 function trimEdges(first, second) {
   const last = first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null;
   const next = second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null;
-  const layout = dom.isText(last) && !blanks.keepsBlanks(last) && /[ \t\n]{2,}$|\n$/.exec(last.data);
+  const layout = dom.isText(last) && !blanks.keepsBlanks(last) &&
+    /[ \t\n]{2,}$|\n$/.exec(last.data);
   if (layout) last.deleteData(layout.index, layout[0].length);
   if (dom.isText(next) && !blanks.keepsBlanks(next)) {
     next.deleteData(0, /^[ \t\n]*/.exec(next.data)[0].length);
@@ -390,7 +394,7 @@ function joinAt(first, second) {
   if (takesIn) above.replaceChildren();
   if (!emptied) {
     trimEdges(first, second);
-    selection.setCaret(...selection.place(join(first, second)));
+    selection.setCaret(...selection.pointOf(join(first, second)));
     return;
   }
   const { parentNode } = emptied;
@@ -398,7 +402,7 @@ function joinAt(first, second) {
   const place = emptied === above ? selection.startOf(second.nodes[0] ?? second.container)
     : selection.endOf(first.nodes.at(-1) ?? first.container);
   removeEmptied(parentNode);
-  selection.setCaret(...selection.place(place));
+  selection.setCaret(...selection.pointOf(place));
 }
 function startsItem(unit) {
   const item = lists.itemOf(unit);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Indenting: text by BLOCKQUOTE, items by nesting them in the item before.
 import * as lists from './lists.js';
 import * as dom from '../page/dom.js';

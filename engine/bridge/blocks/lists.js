@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Lists: made of paragraphs, changed into another kind, moved in and out, taken apart again.
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
@@ -270,7 +271,7 @@ export function split(item) {
   blanks.part(above, below);
   holdOpen(above);
   holdOpen(below);
-  selection.setCaret(...selection.place(selection.startOf(below)));
+  selection.setCaret(...selection.pointOf(selection.startOf(below)));
 }
 
 // Takes every unit of the selection out of all lists. Elements change on the way, so the units

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // What is made ready before the engine types, and typing over selected text.
 import * as deletion from './deletion.js';
 import { formats } from '../formats/formats.js';

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Addresses that leave the page (copied) are full ones of files; those that come in, by the
 // clipboard or by the engine's dragging, become relative again. The scheme that the program shows
 // pages with is in neither.
@@ -73,4 +74,4 @@ function arrived({ inputType }) {
 }
 
 // At the window, so that it comes before the history looks at what arrived.
-addEventListener('input', arrived, true);
+addEventListener('input', (event) => arrived(/** @type {InputEvent} */ (event)), true);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Markup of other programs (office documents, mail, browsers) on its way in: its structure, links,
 // pictures, tables and emphasis stay, its private markup and its looks do not. A new tree is built
 // of what is known; so nothing unknown gets through.
@@ -22,6 +23,7 @@ const attributes = {
 const wholes = set('BR HR IMG');
 
 // What a style says that is emphasis: the tag for it.
+/** @type {[tag: string, says: (style: CSSStyleDeclaration) => boolean][]} */
 const styled = [
   ['B', ({ fontWeight }) => /bold/.test(fontWeight) || Number(fontWeight) >= 600],
   ['I', ({ fontStyle }) => /italic|oblique/.test(fontStyle)],
@@ -43,7 +45,7 @@ const hasText = (nodes) => nodes.some((node) => {
 
 // Breaks at the ends of a line are gaps, or hold open what has text.
 function withoutGaps(nodes) {
-  const isGap = (node) => dom.isBreak(node) || dom.isText(node) && !hasText([node]);
+  const isGap = (node) => dom.isBreak(node) || (dom.isText(node) && !hasText([node]));
   const shown = nodes.filter((node) => !isGap(node));
   const [first, last] = [nodes.indexOf(shown[0]), nodes.indexOf(shown.at(-1))];
   const breaks = (part) => part.some(dom.isBreak);
@@ -128,12 +130,12 @@ function clean(node, inside) {
   if (!dom.isElement(node) || dropped.has(node.tagName)) return [];
   const tag = node.tagName;
   const kind = same[tag] ?? tag;
-  const plain = undone(node) || inside.has(kind) && emphasis.has(tag);
-  const around = new Set([...inside, ...(plain ? [] : [kind])]);
-  if (/^(H[1-6]|TH)$/.test(tag)) around.add('B');
+  const plain = undone(node) || (inside.has(kind) && emphasis.has(tag));
+  const within = new Set([...inside, ...(plain ? [] : [kind])]);
+  if (/^(H[1-6]|TH)$/.test(tag)) within.add('B');
   if (wholes.has(tag)) return whole(node);
-  const all = [...node.childNodes].flatMap((child) => clean(child, around));
-  const content = emphasised(all, node, around);
+  const all = [...node.childNodes].flatMap((child) => clean(child, within));
+  const content = emphasised(all, node, within);
   if (tag === 'A') return link(node, content);
   if (emphasis.has(tag) && !plain) return wrapped(content, tag);
   if (structure.has(tag)) return structured(node, content);
@@ -210,37 +212,47 @@ function list(node, content) {
   return copy.firstChild ? [copy] : [];
 }
 
-// Office documents write the items of lists as paragraphs, with the sign typed before them.
-function placeInList(paragraph) {
+// Office documents write the items of lists as paragraphs, with the sign typed before them. Answers
+// which list such a paragraph belongs to and how deep it lies, 0 for no item; takes the sign out.
+function readItem(paragraph) {
   const style = paragraph.getAttribute('style') ?? '';
-  const [, name, level] = /mso-list:\s*(\S+)[^;"]*level(\d)/.exec(style) ?? [];
-  return { name, level: Number(level ?? 0) };
+  const [, name, level = '0'] = /mso-list:\s*(\S+)[^;"]*level(\d)/.exec(style) ?? [];
+  if (!Number(level)) return { name, level: 0, tag: '', start: 0 };
+  const sign = [...paragraph.querySelectorAll('span')]
+    .find((span) => /mso-list:\s*ignore/i.test(span.getAttribute('style') ?? ''));
+  const [, number] = /^\s*\(?([0-9a-z]{1,4})[.)]/i.exec(sign?.textContent ?? '') ?? [];
+  sign?.remove();
+  return { name, level: Number(level), tag: number ? 'OL' : 'UL', start: Number(number) };
 }
+
+// Opens lists until there is one of the item's level. `lists` are the open ones, the outermost
+// first.
+function openLists(lists, { level, tag, start }, paragraph) {
+  while (lists.length < level) {
+    const made = paragraph.ownerDocument.createElement(tag);
+    if (lists.length === level - 1 && start > 1) made.setAttribute('start', String(start));
+    if (lists.length) (lists.at(-1).lastChild ?? lists.at(-1)).append(made);
+    else paragraph.before(made);
+    lists.push(made);
+  }
+}
+
 function listParagraphs(root) {
   let lists = [];
-  let last = null;
+  let last = null;  // the outermost list
   let of = '';
   for (const paragraph of [...root.querySelectorAll('p, h1, h2, h3, h4, h5, h6')]) {
-    const { name, level } = placeInList(paragraph);
-    if (!level) continue;
-    const sign = [...paragraph.querySelectorAll('span')]
-      .find((span) => /mso-list:\s*ignore/i.test(span.getAttribute('style') ?? ''));
-    const [, number] = /^\s*\(?([0-9a-z]{1,4})[.)]/i.exec(sign?.textContent ?? '') ?? [];
-    const tag = number ? 'OL' : 'UL';
-    sign?.remove();
-    if (!last || paragraph.previousElementSibling !== last || level === 1 && name !== of) lists = [];
+    const found = readItem(paragraph);
+    if (!found.level) continue;
+    const { name, level, tag } = found;
+    const isBeside = last && paragraph.previousElementSibling === last;
+    if (!isBeside || (level === 1 && name !== of)) lists = [];
     of = name;
     lists.length = Math.min(lists.length, level);
     if (lists[level - 1]?.tagName !== tag) lists.length = Math.min(lists.length, level - 1);
     const item = root.ownerDocument.createElement('LI');
     item.append(...paragraph.childNodes);
-    while (lists.length < level) {
-      const made = root.ownerDocument.createElement(tag);
-      if (lists.length === level - 1 && number > 1) made.setAttribute('start', number);
-      if (lists.length) (lists.at(-1).lastChild ?? lists.at(-1)).append(made);
-      else paragraph.before(made);
-      lists.push(made);
-    }
+    openLists(lists, found, paragraph);
     lists.at(-1).append(item);
     last = lists[0];
     paragraph.remove();
@@ -252,20 +264,22 @@ function listParagraphs(root) {
 function partOf(html) {
   const { body } = new DOMParser().parseFromString(html, 'text/html');
   const comments = document.createNodeIterator(body, NodeFilter.SHOW_COMMENT);
+  /** @type {{ Start?: Node, End?: Node }} */
   const marks = {};
   for (let node = comments.nextNode(); node; node = comments.nextNode()) {
-    const [, name] = /^\s*(Start|End)Fragment\s*$/.exec(node.data) ?? [];
+    const [, name] = /^\s*(Start|End)Fragment\s*$/.exec(node.nodeValue) ?? [];
     if (name) marks[name] ??= node;
   }
   if (!marks.Start || !marks.End) return body;
   const range = document.createRange();
   range.setStartAfter(marks.Start);
   range.setEndBefore(marks.End);
+  /** @type {Node} */
   let part = range.collapsed ? body : range.cloneContents();
   let at = range.commonAncestorContainer;
-  for (; /^(TABLE|TBODY|THEAD|TFOOT|TR|OL|UL|PRE)$/.test(at.tagName); at = at.parentNode) {
+  for (; /^(TABLE|TBODY|THEAD|TFOOT|TR|OL|UL|PRE)$/.test(at.nodeName); at = at.parentNode) {
     const shell = at.cloneNode(false);
-    shell.append(part);
+    shell.appendChild(part);
     part = shell;
   }
   const holder = body.ownerDocument.createElement('DIV');

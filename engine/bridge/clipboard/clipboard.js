@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Copying, cutting and pasting. What is copied carries full addresses, so that it is of use
 // elsewhere; what comes in is cleaned unless it was copied here.
 import * as deletion from '../blocks/deletion.js';
@@ -225,7 +226,7 @@ function drop(event) {
     move(dragged, event);
     return;
   }
-  selection.setCaretAt(event.clientX, event.clientY);
+  selection.setCaretAtPixel(event.clientX, event.clientY);
   insert(event.dataTransfer, 'insertFromDrop');
 }
 

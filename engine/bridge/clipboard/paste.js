@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Markup put in at the selection exactly as it stands: scripts, handlers, comments and objects stay
 // in it (nothing of it runs while a page is edited).
 import * as deletion from '../blocks/deletion.js';
@@ -122,11 +123,12 @@ function holderAt(node) {
 
 // Elements that would stand in their like.
 const likes = { STRONG: 'B', EM: 'I', INS: 'U', STRIKE: 'S', DEL: 'S' };
+const emphasis = 'b, strong, i, em, u, ins, s, strike, del, code, sub, sup';
 const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
 function dropLikes(fragment, node) {
   const around = new Set();
   for (let at = node; !dom.isBlock(at); at = at.parentNode) around.add(kindOf(at));
-  for (const element of fragment.querySelectorAll('b, strong, i, em, u, ins, s, strike, del, code, sub, sup')) {
+  for (const element of fragment.querySelectorAll(emphasis)) {
     if (!element.attributes.length && around.has(kindOf(element))) dom.unwrap(element);
   }
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Alignment: in the align attribute of the old dialect, in styles in HTML5 pages.
 import { putDeclaration, takeDeclaration } from './declarations.js';
 import * as dom from '../page/dom.js';
@@ -44,7 +45,7 @@ const spellingOf = (element) => {
 };
 function write(element, side, spelling) {
   const styled = dom.writesStyles();
-  if (spelling === 'attribute' || !spelling && !styled) element.setAttribute('align', side);
+  if (spelling === 'attribute' || (!spelling && !styled)) element.setAttribute('align', side);
   else if (!objects.has(element.tagName)) putDeclaration(element, 'text-align', side);
   else addStyle(element, margins[side].map((margin) => `${margin}: auto`));
 }

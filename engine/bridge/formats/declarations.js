@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The declarations of an inline style as they were written; CSSOM would write all of them anew.
 export const declarations = (element) =>
   (element.getAttribute('style') ?? '').match(/(?:[^;"'(]|"[^"]*"|'[^']*'|\([^)]*\))+/g) ?? [];

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The character formats: how each is read at an element, which elements carry it and how it is
 // written: B, I and U everywhere; fonts and colours as FONT in pages of the old dialect, as styles
 // in HTML5 pages.
@@ -14,8 +15,8 @@ function parts(colour) {
   const [red, green, blue, cover = 1] = colour.match(/[\d.]+/g).map(Number);
   return { light: [red, green, blue], cover };
 }
-const laidOn = (ground, { light, cover }) =>
-  light.map((part, index) => part * cover + ground[index] * (1 - cover));
+const laidOn = (below, { light, cover }) =>
+  light.map((part, index) => part * cover + below[index] * (1 - cover));
 const hex = (light) => '#' +
   light.map((part) => Math.round(part).toString(16).padStart(2, '0').toUpperCase()).join('');
 
@@ -103,7 +104,7 @@ function fontNumber(font) {
 // A FONT has one of the seven sizes, whatever they come to in the typeface at hand.
 function fontSize(element) {
   for (const at of ancestors(element)) {
-    if (dom.isBlock(at) || at.tagName === 'FONT' && at.style.fontSize) break;
+    if (dom.isBlock(at) || (at.tagName === 'FONT' && at.style.fontSize)) break;
     const size = at.tagName === 'FONT' ? fontNumber(at) : 0;
     if (size) return String(sizePoints[size - 1]);
     if (formats.fontSize.carries(at)) break;
@@ -114,14 +115,12 @@ function fontSize(element) {
 // A block whose style is its text's alone.
 const holdsText = (element) => ![...element.children].some(isBlock);
 
-// read(element, known): the value of text in it; `known` may be a map for what one pass over an
-// unchanged page finds out. tags: elements that are nothing but the format.
-// attribute: FONT's, with a value's spelling there. property: of an inline style, with a value's
-// spelling there; part: the word in its value that the format is, where others may stand beside
-// it. write(value): the element to put around text; inLike(value): the same within another one.
-// acrossBlocks: its style is taken off a block around several paragraphs, too, since a span inside
-// would only undo it.
-function format(entry) {
+/**
+ * A format from what its row says.
+ * @param {FormatEntry} entry
+ * @returns {Format}
+ */
+function defineFormat(entry) {
   const tags = new Set(entry.tags);
   const spelled = (value) => value;
   const { property, attribute, part, inAttribute = spelled, inStyle = spelled } = entry;
@@ -129,6 +128,9 @@ function format(entry) {
     (part ? own?.textDecorationLine : own?.getPropertyValue(property)) ?? '';
   const isStyled = (element) =>
     (part ? written(element).split(' ').includes(part) : written(element) !== '');
+  // An element that stands for the format, by its name or by FONT's attribute.
+  const isMade = (element) => tags.has(element.tagName) ||
+    (element.tagName === 'FONT' && element.hasAttribute(attribute));
   // Other words of the same declaration stay.
   function unstyle(element) {
     const shared = part && written(element) !== part &&
@@ -138,32 +140,32 @@ function format(entry) {
     const others = value.split(/\s+/).filter((word) => word && word.toLowerCase() !== part);
     return putDeclaration(element, name.trim().toLowerCase(), others.join(' '));
   }
-  const style = (value) => css(property)(inStyle(value));
   return {
     write: (value) => (attribute && !dom.writesStyles()
-      ? create('FONT', { [attribute]: inAttribute(value) }) : style(value)),
+      ? create('FONT', { [attribute]: inAttribute(value) }) : css(property)(inStyle(value))),
+    parse: (value) => value,
     ...entry,
     inAttribute,
-    carries: (element) => isInline(element) && (tags.has(element.tagName) ||
-      (element.tagName === 'FONT' && element.hasAttribute(entry.attribute))) ||
-      isStyled(element) && (isInline(element) || isBlock(element) && element !== document.body &&
-        (entry.acrossBlocks || holdsText(element))),
-    // An empty element of the same format, to go around what keeps it.
+    same: (one, other) => String(one).toUpperCase() === String(other).toUpperCase(),
+    carries(element) {
+      if (isInline(element)) return isMade(element) || isStyled(element);
+      return isBlock(element) && element !== document.body && isStyled(element) &&
+        (entry.acrossBlocks || holdsText(element));
+    },
     shell(element) {
       if (tags.has(element.tagName)) return create(element.tagName);
       if (isBlock(element) && this.read(element) === true) return this.write(true);
-      if (element.tagName === 'FONT' && element.hasAttribute(entry.attribute)) {
-        return create('FONT', { [entry.attribute]: element.getAttribute(entry.attribute) });
+      if (element.tagName === 'FONT' && element.hasAttribute(attribute)) {
+        return create('FONT', { [attribute]: element.getAttribute(attribute) });
       }
       if (part) return this.write(true);
       const own = declarations(element).find(isOf(property))?.trim();
       return create('SPAN', { style: own ?? `${property}: ${written(element)}` });
     },
-    // Takes the format off the element.
     strip(element) {
       history.attributesOf(element);
       if (isStyled(element)) unstyle(element);
-      if (element.tagName === 'FONT') element.removeAttribute(entry.attribute);
+      if (element.tagName === 'FONT') element.removeAttribute(attribute);
       if (tags.has(element.tagName)) {
         if (element.attributes.length) dom.rename(element, 'SPAN');
         else dom.unwrap(element);
@@ -181,45 +183,41 @@ const fontFamily = (names) => names.split(',')
   .map((name) => name.replace(/['"\\;]/g, '').trim())
   .map((name) => (/^[a-z][a-z0-9-]*$/i.test(name) ? name : `'${name}'`)).join(', ');
 
+/** @type {Record<string, Format>} */
 export const formats = {
-  bold: format({
+  bold: defineFormat({
     read: bold, tags: ['B', 'STRONG'], property: 'font-weight', acrossBlocks: true,
     write: (on) => (on ? create('B') : css('font-weight')('normal')),
     inLike: () => css('font-weight')('bold'),
   }),
-  italic: format({
+  italic: defineFormat({
     read: (element) => style(element).fontStyle !== 'normal',
     tags: ['I', 'EM'], property: 'font-style', acrossBlocks: true,
     write: (on) => (on ? create('I') : css('font-style')('normal')),
     inLike: () => css('font-style')('italic'),
   }),
-  underline: format({
+  underline: defineFormat({
     read: underline, tags: ['U', 'INS'], property: 'text-decoration', part: 'underline',
     acrossBlocks: true,
     // A line drawn by an ancestor cannot be taken off from inside.
     write: (on) => (on ? create('U') : null),
   }),
-  fontName: format({
+  fontName: defineFormat({
     read: (element) => style(element).fontFamily.split(',')[0].trim().replace(/^["']|["']$/g, ''),
     tags: [], attribute: 'face', property: 'font-family', inStyle: fontFamily,
   }),
-  fontSize: format({
+  fontSize: defineFormat({
     read: fontSize,
     parse: (value) => String(sizePoints[sizeNumber(value) - 1]),
     tags: ['BIG', 'SMALL'], attribute: 'size', inAttribute: sizeNumber,
     property: 'font-size', inStyle: (value) => `${value}pt`,
   }),
-  foreColor: format({
+  foreColor: defineFormat({
     read: (element, known) => hex(textColour(element, known)),
     tags: [], attribute: 'color', property: 'color', insideLinks: true,
   }),
-  backColor: format({
+  backColor: defineFormat({
     read: (element, known) => hex(ground(element, known)), tags: [],
     property: 'background-color',
   }),
 };
-const same = (one, other) => String(one).toUpperCase() === String(other).toUpperCase();
-for (const each of Object.values(formats)) {
-  each.same = same;
-  each.parse ??= (value) => value;
-}

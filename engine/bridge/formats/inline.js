@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Character formats put on selected text. First the elements that carry the format are taken off
 // the text and given back to their other content, then what still looks different is wrapped in as
 // few elements as possible.
@@ -204,9 +205,12 @@ function alike(format, element, other) {
 }
 
 // Elements whose order makes no difference to what they look like together.
-const turns = (format, outer) => !format.carries(outer) && (
-  /^(B|EM|I|STRONG)$/.test(outer.tagName) && !outer.attributes.length ||
-  /^(FONT|SPAN)$/.test(outer.tagName) && !outer.id && /^font-(weight|style)$/.test(format.property));
+function turns(format, outer) {
+  if (format.carries(outer)) return false;
+  if (/^(B|EM|I|STRONG)$/.test(outer.tagName)) return !outer.attributes.length;
+  return /^(FONT|SPAN)$/.test(outer.tagName) && !outer.id &&
+    /^font-(weight|style)$/.test(format.property);
+}
 // The neighbour; where all of it has the format inside other elements, with the format outside.
 function turned(format, element, neighbour) {
   for (let at = neighbour; dom.isElement(at) && turns(format, at); at = at.firstChild) {
@@ -232,17 +236,19 @@ function mergeWith(format, element, side, isNew) {
   return kept;
 }
 
-// Joins each of the texts with those right beside it, keeping the given places ({node, offset})
-// where they are.
-export function joinTexts(nodes, places) {
+/**
+ * Joins each of the texts with those right beside it, keeping the anchors where they are.
+ * @param {Iterable<Node>} nodes
+ * @param {any[]} anchors
+ */
+export function joinTexts(nodes, anchors) {
   for (const node of nodes) {
     if (!dom.isText(node) || !node.parentNode) continue;
     let first = node;
     while (dom.isText(first.previousSibling)) first = first.previousSibling;
     for (let next = first.nextSibling; dom.isText(next); next = first.nextSibling) {
-      for (const place of places) {
-        if (place.node !== next) continue;
-        Object.assign(place, { node: first, offset: first.length + place.offset });
+      for (const anchor of anchors.filter(({ node: at }) => at === next)) {
+        Object.assign(anchor, { node: first, offset: first.length + anchor.offset });
       }
       first.appendData(next.data);
       next.remove();
@@ -286,9 +292,9 @@ function outgrown(entry, texts, chosen) {
     coverage(element, chosen) === 'all');
 }
 
-// Puts the format with that value on the texts, which are whole nodes. In passes that first read and
-// then write: the engine works the page's looks out anew for what is read after each change.
-function format(name, value, texts) {
+// Puts the format with that value on the texts, which are whole nodes. In passes that first read
+// and then write: the engine works the page's looks out anew for what is read after each change.
+function putOn(name, value, texts) {
   const entry = formats[name];
   const touched = new Set();
   const around = (node) => {
@@ -325,22 +331,22 @@ function isThere(name, value, range) {
 
 // Where the selection is to begin or end again: at its outermost text, or beside the picture,
 // island or break that it takes in there.
-function placesOf(texts, range) {
+function anchorsOf(texts, range) {
   const last = texts.at(-1);
-  const places = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
+  const outermost = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
   const { startContainer, startOffset, endContainer, endOffset } = range;
   const leaves = [...selection.leavesIn(range)].filter((leaf) => dom.isShown(leaf) &&
     (leaf !== startContainer || startOffset < leaf.length) &&
     (leaf !== endContainer || endOffset > 0));
-  if (!leaves.length) return places;
+  if (!leaves.length) return outermost;
   const isThing = (leaf) => dom.isAtom(leaf) || dom.isBreak(leaf);
   const beside = (leaf, side) => isThing(leaf) && { beside: leaf, side };
   const [first, end] = [leaves[0], leaves.at(-1)];
   const from = { node: first, offset: first === startContainer ? startOffset : 0 };
   const to = { node: end, offset: end === endContainer ? endOffset : end.length };
   return [
-    beside(first, 0) || (dom.rawAt(first) ? from : places[0]),
-    beside(end, 1) || (dom.rawAt(end) ? to : places[1]),
+    beside(first, 0) || (dom.rawAt(first) ? from : outermost[0]),
+    beside(end, 1) || (dom.rawAt(end) ? to : outermost[1]),
   ];
 }
 
@@ -351,9 +357,9 @@ export function apply(name, value, range) {
     document.getSelection().focusOffset === range.startOffset && !range.collapsed;
   const texts = isolate(range);
   if (!texts.length) return;
-  const places = placesOf(texts, range);
-  joinTexts(format(name, value, texts), places);
-  const [anchor, focus] = backward ? places.reverse() : places;
+  const anchors = anchorsOf(texts, range);
+  joinTexts(putOn(name, value, texts), anchors);
+  const [anchor, focus] = backward ? anchors.reverse() : anchors;
   selection.restore({ anchor, focus });
 }
 

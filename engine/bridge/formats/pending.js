@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Formats chosen at a caret: they wait for the text that is typed there.
 import * as inline from './inline.js';
 import * as selection from '../page/selection.js';

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Input methods. What one writes is not final until it ends; it replaces what it has written before,
-// and all of that is one input.
+// @ts-check
+// Input methods. What one writes is not final until it ends; it replaces what it has written
+// before, and all of that is one input.
 import * as pending from '../formats/pending.js';
 import * as history from '../page/history.js';
 import { work } from '../page/working.js';
@@ -10,7 +11,7 @@ let composing = false;
 /** True while an input method has written something that is not final yet. */
 export const isComposing = () => composing;
 
-/** Tells whether the input belongs to a composition that has begun already; begins one otherwise. */
+/** True where the input belongs to a composition that has begun already; begins one otherwise. */
 export function continues({ inputType }) {
   if (!/Composition/.test(inputType)) return false;
   const began = composing;

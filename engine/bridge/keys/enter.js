@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Enter. The engine splits paragraphs and items; what it would do badly is done here, and what it
 // leaves behind is put in order.
 import * as deletion from '../blocks/deletion.js';

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Input. The engine types; here its input becomes steps of the history, and what it does badly or
 // behind the history's back is done by the bridge.
 import * as deletion from '../blocks/deletion.js';
@@ -40,7 +41,8 @@ function joins({ inputType, data }, kind) {
 
 // What the bridge does in place of a deletion of the engine's; null where the engine does it well.
 function ownDeletion({ inputType }) {
-  if (!inputType.startsWith('delete') || partialDeletions.has(inputType) || isComposing()) return null;
+  const isWhole = inputType.startsWith('delete') && !partialDeletions.has(inputType);
+  if (!isWhole || isComposing()) return null;
   const range = selection.range();
   if (!range) return null;
   return range.collapsed

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Keys beside islands (`contenteditable="false"`). The engine tells of no input where the selection
 // begins or ends with a closed block, or where there is one in place of a line.
 import * as deletion from '../blocks/deletion.js';

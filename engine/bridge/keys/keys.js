@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Keys: which module of this folder each event goes to.
 import * as pending from '../formats/pending.js';
 import * as blanks from '../page/blanks.js';

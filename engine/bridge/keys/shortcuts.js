@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Shortcuts, and the input that the engine makes of them and of its own menus, as commands.
 import { Command } from '../talk/vocabulary.js';
 
@@ -18,7 +19,8 @@ const byKey = new Map([
 ]);
 
 /** True for input that the engine must not carry out: commands, and formats that nobody offers. */
-export const isCommand = ({ inputType }) => byInput.has(inputType) || inputType.startsWith('format');
+export const isCommand = ({ inputType }) =>
+  byInput.has(inputType) || inputType.startsWith('format');
 
 export const commandOfInput = ({ inputType }) => byInput.get(inputType);
 

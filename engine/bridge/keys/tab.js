@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Tab: in a table from cell to cell, in a list one level in or out.
 import * as lists from '../blocks/lists.js';
 import * as dom from '../page/dom.js';

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Where things of the page lie in the viewport, in its pixels. The engine tells boxes in the pixels
 // of the element, which a `zoom` of the page's own makes larger ones.
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Show details: what a style sheet can show of a page's structure. The sheet hangs on the document
 // but is no part of it.
 import * as glyphs from './glyphs.js';

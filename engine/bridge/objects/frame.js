@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The frame with eight handles around the selected object, and the grid while a box is moved.
 import * as boxes from './boxes.js';
 import * as glyphs from './glyphs.js';
@@ -32,6 +33,7 @@ function frameOf(object) {
     right: Math.round(right + x), bottom: Math.round(bottom + y) };
 }
 // The pixels of the frame's line that the handles have in their middle.
+/** @returns {[grip: string, x: number, y: number][]} */
 const handlePlaces = ({ left, top, right, bottom }) =>
   [...grips].map(([name, [x, y]]) =>
     [name, Math.round(left + x * (right - left - 1)), Math.round(top + y * (bottom - top - 1))]);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // What a person does to objects: a press selects, a drag sizes or moves, arrow keys move. A drag
 // shows itself through an animation that stands still, which changes no node; only its end writes,
 // as one step of the history.
@@ -42,7 +43,7 @@ function sizing({ before, grip }, dx, dy, free) {
   const change = {};
   // A picture of which the page says one side only has the other by its own shape.
   const byShape = (auto, other) => before.keepsShape && kept && auto && !other;
-  const held = (auto, side) => side || before.keepsShape && auto;
+  const held = (auto, side) => side || (before.keepsShape && auto);
   if (held(before.autoWidth, horizontal) && !byShape(before.autoWidth, before.autoHeight)) {
     change.width = horizontal ? width : before.width;
   }
@@ -88,7 +89,7 @@ function drag({ clientX, clientY, shiftKey }) {
 function scrollOn() {
   if (gesture.scrolls) return;
   const { clientX: x, clientY: y } = gesture.last;
-  const towards = (place, end) => (place < 0 ? -stride : place >= end ? stride : 0);
+  const towards = (place, size) => (place >= size ? stride : 0) - (place < 0 ? stride : 0);
   const [right, down] = [towards(x, innerWidth), towards(y, innerHeight)];
   if (!right && !down) return;
   const scrolling = gesture;
@@ -147,11 +148,11 @@ function press(event) {
   const selected = objects.selected();
   if (event.button === 1) {
     // The engine is about to paste: beside what is selected, never in its place.
-    if (selected) selection.setCaretAt(event.clientX, event.clientY);
+    if (selected) selection.setCaretAtPixel(event.clientX, event.clientY);
     return;
   }
   const grip = selected && gripAt(selected, event);
-  const object = grip ? selected : objects.at(event);
+  const object = grip ? selected : objects.objectAt(event);
   if (!object) return;
   if (!grip && event.button === 0 && dragsByEngine(object)) return;
   selection.selectNode(object);
@@ -174,10 +175,11 @@ function move(event) {
 }
 
 function click(event) {
-  const object = taken ? null : objects.at(event);
+  const object = taken ? null : objects.objectAt(event);
   if (object) selection.selectNode(object);
 }
 
+/** @type {Map<string, [x: number, y: number]>} */
 const steps = new Map([
   ['ArrowLeft', [-1, 0]], ['ArrowRight', [1, 0]], ['ArrowUp', [0, -1]], ['ArrowDown', [0, 1]],
 ]);
@@ -204,13 +206,8 @@ function nudge(object, [x, y], fine) {
 // paragraph with text.
 function objectBeside({ startContainer: node, startOffset: offset }, forward) {
   const side = forward ? 'nextSibling' : 'previousSibling';
-  let beside = null;
-  if (dom.isText(node)) {
-    if (forward ? offset < node.length : offset > 0) return null;
-  } else {
-    beside = node.childNodes[forward ? offset : offset - 1] ?? null;
-    if (beside && !dom.isShown(beside)) beside = dom.neighbour(beside, side);
-  }
+  if (dom.isText(node) && (forward ? offset < node.length : offset > 0)) return null;
+  let beside = dom.shownFrom(node.childNodes[forward ? offset : offset - 1] ?? null, side);
   for (let at = node; !beside && !dom.isCell(at); at = at.parentNode) {
     beside = dom.neighbour(at, side);
   }
@@ -224,8 +221,8 @@ function objectBeside({ startContainer: node, startOffset: offset }, forward) {
 
 function extendOver(range, key) {
   const { direction } = getComputedStyle(selection.element());
-  const forward = key === 'ArrowDown' || (key === 'ArrowRight') === (direction === 'ltr') &&
-    key !== 'ArrowUp';
+  const forwards = ['ArrowDown', direction === 'ltr' ? 'ArrowRight' : 'ArrowLeft'];
+  const forward = forwards.includes(key);
   const object = objectBeside(range, forward);
   if (!object) return false;
   const index = selection.indexOf(object);
@@ -236,17 +233,21 @@ function extendOver(range, key) {
 }
 
 function keyDown(event) {
-  const { key, ctrlKey, altKey, metaKey, shiftKey } = event;
+  const { key, altKey, metaKey } = event;
   if (gesture && !/^(Shift|Control|Alt)$/.test(key)) {
     cancel();
     if (key === 'Escape') event.preventDefault();
     return;
   }
   if (!dom.isEditable() || event.isComposing || altKey || metaKey) return;
+  if (key === 'Escape') objects.leave(objects.selected());
+  if (steps.has(key)) arrow(event);
+}
+
+function arrow(event) {
+  const { key, ctrlKey, shiftKey } = event;
   const range = selection.range();
   const object = selection.control(range);
-  if (key === 'Escape') objects.leave(object);
-  if (!steps.has(key)) return;
   if (shiftKey) {
     if (!ctrlKey && range?.collapsed && extendOver(range, key)) event.preventDefault();
   } else if (object && objects.isMovable(object)) {

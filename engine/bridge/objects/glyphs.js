@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Show details: the signs for what no style sheet can mark, since it has no box to hang a glyph on
 // (breaks, comments, scripts, hidden fields) or no name that a rule could give (tags that HTML does
 // not know). They are drawn over the page, those in sight only.
@@ -38,10 +39,10 @@ function signOf(node) {
   if (!dom.isElement(node)) return null;
   const { tagName, localName } = node;
   if (tagName === 'BR') return breaks[getComputedStyle(node.parentElement).direction];
-  if (tagName === 'INPUT') return node.type === 'hidden' ? badge('hidden') : null;
+  if (tagName === 'INPUT') return node.matches('[type="hidden" i]') ? badge('hidden') : null;
   const unknown = node instanceof HTMLUnknownElement || localName.includes('-');
   const marked = silent.test(tagName) || unknown ||
-    boxless.test(tagName) && !boxes.firstBoxOf(node)?.width;
+    (boxless.test(tagName) && !boxes.firstBoxOf(node)?.width);
   return marked ? badge(localName) : null;
 }
 

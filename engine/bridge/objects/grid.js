@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The grid that boxes are moved on.
 
 export const gridStep = 50; // pixels

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Objects: what is selected, sized and moved as a whole. Which one a place of the page means, how
 // large it is and where, and how a new size and place are written the way the page has them.
 import { putDeclaration } from '../formats/declarations.js';
@@ -32,7 +33,7 @@ const isEntered = (node) => node === entered && node.contains(document.getSelect
 function meant(node, place) {
   for (let at = node; at && at !== document.body; at = at.parentElement) {
     if (at.tagName === 'TABLE' || isMovable(at)) {
-      if (at === node && at.tagName === 'TABLE' || isAtEdge(at, place)) return at;
+      if ((at === node && at.tagName === 'TABLE') || isAtEdge(at, place)) return at;
       if (!isMovable(at)) continue;
       return isEntered(at) ? null : at;
     }
@@ -43,7 +44,7 @@ function meant(node, place) {
 
 const closed = 'IFRAME, OBJECT, EMBED, APPLET, VIDEO, AUDIO';
 // The object that a mouse event means; null for text.
-export function at(event) {
+export function objectAt(event) {
   const { target, clientX: x, clientY: y } = event;
   if (!dom.isEditable() || !(target instanceof Element)) return null;
   const sign = glyphs.nodeAt(event);
@@ -52,7 +53,7 @@ export function at(event) {
     .filter((element) => boxes.holds(boxes.boxOf(element), event)).at(-1);
   if (inside) return inside;
   if (target.tagName === 'AREA') {
-    const name = target.closest('MAP')?.name ?? '';
+    const name = target.closest('map')?.name ?? '';
     const image = document.querySelector(`img[usemap="#${CSS.escape(name)}"]`);
     if (image) return image;
   }
@@ -127,9 +128,9 @@ export function measure(object) {
   const style = getComputedStyle(object);
   const given = object.computedStyleMap();
   const isAuto = (property) => String(given.get(property)) === 'auto';
-  const sum = (...properties) =>
+  const sum = (...names) =>
     (style.boxSizing === 'border-box' ? 0
-      : properties.reduce((all, each) => all + number(style.getPropertyValue(each)), 0));
+      : names.reduce((all, each) => all + number(style.getPropertyValue(each)), 0));
   const rect = boxes.boxOf(object);
   const scale = boxes.scaleOf(object);
   const places = ['left', 'top', 'right', 'bottom'].map((side) => [side, number(style[side])]);
@@ -174,13 +175,13 @@ const withAttributes = new Set(['APPLET', 'CANVAS', 'EMBED', 'HR', 'IFRAME', 'IM
 // A size in percent stays one, and other lengths keep their unit.
 function spelled(old, pixels, growth) {
   const [, value, unit] = /^\s*(-?[\d.]+)([a-z]+|%)\s*$/i.exec(old) ?? [];
-  if (unit === '%') return `${Math.max(1, Math.round(value * growth))}%`;
+  if (unit === '%') return `${Math.max(1, Math.round(Number(value) * growth))}%`;
   return lengthIn(unit, value, growth) ?? pixels;
 }
 // null where the unit is pixels, or nothing says how many of them it has.
 function lengthIn(unit, value, growth) {
   if (!unit || /^px$/i.test(unit) || !Number(value) || !Number.isFinite(growth)) return null;
-  return `${Math.round(value * growth * 100) / 100}${unit}`;
+  return `${Math.round(Number(value) * growth * 100) / 100}${unit}`;
 }
 
 // Where the page has a style for a size, that is changed, and an attribute that is there too;
@@ -192,7 +193,7 @@ function writeSize(object, property, pixels, growth) {
   const hasAttribute = object.hasAttribute(attribute);
   const size = Math.max(0, Math.round(pixels));
   if (styled) putDeclaration(object, property, spelled(styled, `${size}px`, growth));
-  if (hasAttribute || !styled && withAttributes.has(object.tagName)) {
+  if (hasAttribute || (!styled && withAttributes.has(object.tagName))) {
     // A rule's size counts its border in.
     const told = rule ? size + 2 : size;
     object.setAttribute(attribute, spelled(object.getAttribute(attribute), `${told}`, growth));

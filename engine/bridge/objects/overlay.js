@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Drawing over the page: pictures that lie on two pseudo-elements of the head, given by a style
 // sheet that hangs on the document but is no part of it. Nothing drawn is a node, so there is
 // nothing of it in a mutation record or in the page's text, and the engine scrolls and scales it
@@ -21,7 +22,9 @@ const closed = sheetOf(
   'iframe, object, embed, applet, video, audio { pointer-events: none !important; }' +
   ' @layer velor { html { zoom: 1 } }');
 const sheet = sheetOf('head::before {} head::after {}');
-const styles = { details: sheet.cssRules[0].style, frame: sheet.cssRules[1].style };
+const [details, frame] = [...sheet.cssRules]
+  .map((rule) => (/** @type {CSSStyleRule} */ (rule)).style);
+const styles = { details, frame };
 const drawn = {};
 
 const px = (number) => `${Math.round(number * 100) / 100}px`;

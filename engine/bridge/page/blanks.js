@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Blanks at the edge of a line. HTML does not show them, so the engine writes a no-break space
 // where a blank was typed there or stands there after a deletion. That is needed while the caret is
 // beside it and wrong afterwards: here such places are held, shown to the program as blanks at
@@ -52,6 +53,7 @@ function edge(node, back) {
 const charAt = (place) => (place?.node ? place.node.data[place.index] : '');
 const isBlank = (place) => /[ \t\r\n]/.test(charAt(place));
 
+/** @returns {[left: any, right: any]} */
 function ends() {
   const { anchorNode, anchorOffset } = selection.points();
   if (!anchorNode) return [null, null];
@@ -74,7 +76,8 @@ function exchange({ node, index }, text) {
   node.deleteData(index + text.length, 1);
 }
 
-export const keepsBlanks = (text) => /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
+export const keepsBlanks = (text) =>
+  /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
 
 // A deletion ends at a place: a blank that HTML would not show there is held, so that what is
 // typed next stands beside it.
@@ -212,7 +215,10 @@ function lineBefore() {
 }
 const edgeBefore = (node) => (node.previousSibling ? edge(node.previousSibling, true) : null);
 
-// The input is there: holds what the engine wrote for blanks.
+/**
+ * The input is there: holds what the engine wrote for blanks.
+ * @param {{ inputType: string, data?: string | null }} input
+ */
 export function watched({ inputType, data }) {
   if (!before) return;
   const places = ends();
@@ -258,7 +264,9 @@ function meanings(places) {
   const dropped = ({ node, index }) => known.get(node)?.get(index) === '';
   const beyond = (node, index) => {
     let right = beside(node, index + 1, 'nextSibling');
-    while (right?.node && dropped(right)) right = beside(right.node, right.index + 1, 'nextSibling');
+    while (right?.node && dropped(right)) {
+      right = beside(right.node, right.index + 1, 'nextSibling');
+    }
     return right;
   };
   const meaning = ({ node, index, typed }) => {
@@ -271,8 +279,11 @@ function meanings(places) {
     if (isBlank(left) || isBlank(right)) return typed ? null : '';
     return ' ';
   };
-  const inOrder = (one, other) => (one.node === other.node ? other.index - one.index
-    : one.node.compareDocumentPosition(other.node) & Node.DOCUMENT_POSITION_FOLLOWING ? 1 : -1);
+  const inOrder = (one, other) => {
+    if (one.node === other.node) return other.index - one.index;
+    const order = one.node.compareDocumentPosition(other.node);
+    return order & Node.DOCUMENT_POSITION_FOLLOWING ? 1 : -1;
+  };
   return [...places].sort(inOrder).map((place) => {
     const text = meaning(place);
     if (!known.has(place.node)) known.set(place.node, new Map());

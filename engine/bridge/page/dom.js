@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // What kinds of nodes a page is made of, and the few ways in which elements are cut and changed.
 
 const set = (names) => new Set(names.split(' '));
@@ -11,7 +12,8 @@ const blocks = set(
 const paragraphs = set('ADDRESS DT H1 H2 H3 H4 H5 H6 LISTING P PLAINTEXT PRE XMP');
 const preformatted = set('LISTING PLAINTEXT PRE XMP');
 // What may hold text without a paragraph around it, besides items.
-const bare = set('ARTICLE ASIDE BLOCKQUOTE BODY CENTER DIV FOOTER FORM HEADER MAIN NAV SECTION TD TH');
+const bare = set(
+  'ARTICLE ASIDE BLOCKQUOTE BODY CENTER DIV FOOTER FORM HEADER MAIN NAV SECTION TD TH');
 const lists = set('DIR MENU OL UL');
 // Nothing flows from one of these to the next.
 const cells = set('BODY CAPTION TD TH');
@@ -28,7 +30,9 @@ const unseen = set('BASE HEAD LINK META NOFRAMES NOSCRIPT PARAM SCRIPT STYLE TEM
 // True where there is a body to edit; a frameset and a document without root have none.
 export const isEditable = () => document.body !== null && document.body.tagName === 'BODY';
 
+/** @type {(node: any) => node is HTMLElement} */
 export const isElement = (node) => node?.nodeType === Node.ELEMENT_NODE;
+/** @type {(node: any) => node is Text} */
 export const isText = (node) => node?.nodeType === Node.TEXT_NODE;
 const named = (names) => (node) => isElement(node) && names.has(node.tagName);
 export const isBlock = named(blocks);
@@ -70,7 +74,7 @@ export function isIgnorable(node) {
 
 // A division that stands for a paragraph: it carries an alignment at most.
 const isAlignment = ({ name, value }) =>
-  name === 'align' || name === 'style' && /^\s*text-align\s*:[^;]*;?\s*$/i.test(value);
+  name === 'align' || (name === 'style' && /^\s*text-align\s*:[^;]*;?\s*$/i.test(value));
 export const isPlainDivision = (node) => isElement(node) && node.tagName === 'DIV' &&
   [...node.attributes].every(isAlignment);
 
@@ -94,7 +98,7 @@ const entered = (node) => !isAtom(node) && !isNeutral(node) && node.firstChild;
 export const nextNode = (node) => entered(node) || nextSkippingChildren(node);
 
 // The nearest ancestor, the node itself included, that fits; null from the body upwards.
-export function ancestor(node, fits, stop = (node) => node === document.body) {
+export function ancestor(node, fits, stop = (at) => at === document.body) {
   for (let at = node; at; at = at.parentNode) {
     if (fits(at)) return at;
     if (stop(at)) return null;
@@ -110,6 +114,14 @@ export function firstLeaf(node) {
 export function lastLeaf(node) {
   while (entered(node)) node = node.lastChild;
   return node;
+}
+
+/** The texts in a node, in document order. @returns {Text[]} */
+export function textsUnder(root) {
+  const walker = document.createTreeWalker(root, NodeFilter.SHOW_TEXT);
+  const texts = [];
+  while (walker.nextNode()) texts.push(/** @type {Text} */ (walker.currentNode));
+  return texts;
 }
 
 export const create = (tag, attributes = {}) => {
@@ -216,7 +228,7 @@ export function isHollow(element) {
     if (only) return false;
     only = at;
   }
-  return !only || isBreak(only) || isInline(only) && !isAtom(only) && isHollow(only);
+  return !only || isBreak(only) || (isInline(only) && !isAtom(only) && isHollow(only));
 }
 
 // How many units agree, up to `most`: by large pieces, which the engine compares at once, then by

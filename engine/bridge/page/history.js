@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The one undo history. A mutation observer sees every change of the document, whoever makes it;
 // the changes are gathered into steps, and a step is taken back on the live nodes, last change
 // first. So a step holds nodes, not copies, and what it brings back is exact.
@@ -11,13 +12,18 @@ const mostWeight = 32e6;
 const nodeWeight = 100;
 
 let observer = null;
+/** @type {Step | null} */
 let open = null;  // the step that is being gathered
+/** @type {Step[]} */
 let undoable = [];
+/** @type {Step[]} */
 let redoable = [];
 let lastPoints = null;  // the selection when the document was last at rest
 // Whether the program has documents to go back or on to where these steps end.
 let beyond = { undo: false, redo: false };
+/** @type {{ changed(): void, wantBeyond(way: string): void } | null} */
 let hooks = null;  // see start
+/** @type {{ held(): any, reinstate(held: any): void }} */
 let along = { held: () => [], reinstate() {} };
 
 // A long page has very many changes in a step, so they are kept small: classes, not closures.
@@ -57,7 +63,11 @@ function orderAttributes(element, names) {
 }
 class AttributeChange {
   constructor(element, space, name, old, names) {
-    Object.assign(this, { element, space, name, old, before: names });
+    this.element = element;
+    this.space = space;
+    this.name = name;
+    this.old = old;
+    this.before = names;
   }
   seal() {
     this.now = this.element.getAttributeNS(this.space, this.name);
@@ -171,7 +181,7 @@ function absorb(records) {
 const seal = (changes) => changes.reduce((sum, change) => sum + change.seal(), 0);
 
 function forgetOldest() {
-  let weight = undoable.reduce((sum, step) => sum + step.weight, 0);
+  let weight = undoable.reduce((sum, each) => sum + each.weight, 0);
   while (undoable.length > 1 && (undoable.length > mostSteps || weight > mostWeight)) {
     weight -= undoable.shift().weight;
   }
@@ -179,16 +189,16 @@ function forgetOldest() {
 
 function close() {
   if (!open) return;
-  const step = open;
+  const closed = open;
   open = null;
-  if (!step.changes.length) return;
-  step.weight = seal(step.changes);
+  if (!closed.changes.length) return;
+  closed.weight = seal(closed.changes);
   // What an input method wrote and took away again is no change.
-  step.changes = step.changes.filter((change) => !change.isVoid);
-  if (!step.changes.length) return;
-  delete step.seen;
-  delete step.names;
-  undoable.push(step);
+  closed.changes = closed.changes.filter((change) => !change.isVoid);
+  if (!closed.changes.length) return;
+  delete closed.seen;
+  delete closed.names;
+  undoable.push(closed);
   forgetOldest();
 }
 
@@ -221,18 +231,18 @@ export function expect(kind, joins) {
 // A change that belongs to what was done last, and ends it.
 export function amend(change) {
   settle();
-  const step = open ?? undoable.at(-1);
-  if (!step) return;
-  if (!open) Object.assign(step, { seen: new Map(), names: new Map() });
-  open = step;
-  const { after } = step;
-  const sealed = step.changes.length;
-  const wasClosed = undoable.at(-1) === step;
+  const last = open ?? undoable.at(-1);
+  if (!last) return;
+  if (!open) Object.assign(last, { seen: new Map(), names: new Map() });
+  open = last;
+  const { after } = last;
+  const sealed = last.changes.length;
+  const wasClosed = undoable.at(-1) === last;
   change();
   observer.takeRecords().forEach(add);
-  step.after = { ...after, held: along.held() };
+  last.after = { ...after, held: along.held() };
   if (wasClosed) {
-    step.weight += seal(step.changes.slice(sealed));
+    last.weight += seal(last.changes.slice(sealed));
     open = null;
   } else {
     close();
@@ -249,18 +259,18 @@ export function arrive() {
 
 function travel(from, to, way, place) {
   finish();
-  const step = from.pop();
-  if (!step) {
+  const taken = from.pop();
+  if (!taken) {
     if (beyond[way]) hooks.wantBeyond(way);
     return;
   }
-  const changes = way === 'undo' ? [...step.changes].reverse() : step.changes;
+  const changes = way === 'undo' ? [...taken.changes].reverse() : taken.changes;
   changes.forEach((change) => change[way]());
   observer.takeRecords();
-  to.push(step);
-  select(step[place]);
+  to.push(taken);
+  select(taken[place]);
   lastPoints = rest();
-  along.reinstate(step[place].held);
+  along.reinstate(taken[place].held);
   hooks.changed();
 }
 

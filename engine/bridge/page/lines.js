@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // What keeps lines whole while text is taken out of them.
 import * as dom from './dom.js';
 import * as selection from './selection.js';

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The selection as numbers, which hold in a fresh parse of the same document.
 import { isText } from './dom.js';
 import * as selection from './selection.js';
@@ -27,7 +28,12 @@ function path(node, offset) {
   return numbers;
 }
 
+/**
+ * @param {NodePath} numbers
+ * @returns {Point}
+ */
 function resolve(numbers) {
+  /** @type {Node} */
   let node = document.documentElement;
   for (const index of numbers.slice(0, -1)) {
     if (!node.childNodes.length) break;
@@ -36,6 +42,7 @@ function resolve(numbers) {
   return [node, Math.min(numbers.at(-1) ?? 0, selection.length(node))];
 }
 
+/** @returns {{ start: NodePath, end: NodePath }} */
 export const selectionPaths = () => {
   const { anchorNode, anchorOffset, focusNode, focusOffset } = selection.points();
   const at = (node, offset) => (node ? path(node, offset) : []);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The caret's place in terms that the page's source has too: an element's name, its number among
 // those of that name, and an offset in its text.
 import * as dom from './dom.js';
@@ -15,6 +16,7 @@ function offsetIn(element, { startContainer, startOffset }) {
   return before.toString().length;
 }
 
+/** @returns {SourcePlace[]} */
 export const caretPlaces = () => {
   const range = selection.range();
   const places = [];
@@ -29,26 +31,26 @@ export const caretPlaces = () => {
   return places;
 };
 
-function caretIn(element, offset) {
-  const texts = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
-  let last = null;
-  for (let text = texts.nextNode(); text; text = texts.nextNode()) {
+function putCaret(element, offset) {
+  const texts = dom.textsUnder(element);
+  for (const text of texts) {
     if (offset <= text.length) return selection.setCaret(text, offset);
     offset -= text.length;
-    last = text;
   }
+  const last = texts.at(-1);
   if (last) return selection.setCaret(last, last.length);
   const object = !element.hasChildNodes() && dom.isAtom(element);
   if (object) selection.selectNode(element);
   else selection.setCaret(element, 0);
 }
 
+/** @param {SourcePlace[]} places */
 export const showPlace = (places) => {
   for (const { name, ordinal, offset } of places) {
     const element = document.getElementsByTagName(name)[ordinal];
     if (!element || !dom.isEditable() || !document.body.contains(element)) continue;
     history.finish();
-    caretIn(element, offset);
+    putCaret(element, offset);
     element.scrollIntoView({ block: 'nearest' });
     const box = document.getSelection().getRangeAt(0).getBoundingClientRect();
     const seen = box.top >= 0 && box.bottom <= innerHeight;

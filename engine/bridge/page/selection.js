@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The selection: what lies in it, how it is kept while elements change, where the caret is.
 import * as dom from './dom.js';
-import { firstLeaf, isAtom, isEditable, isElement, isNeutral, isText, lastLeaf, nextNode } from './dom.js';
+import {
+  firstLeaf, isAtom, isEditable, isElement, isNeutral, isText, lastLeaf, nextNode,
+} from './dom.js';
 
 // States of longer selections are judged by their first texts, objects and breaks.
 export const leafLimit = 2000;
@@ -22,7 +25,7 @@ export function range() {
   return isClosed(commonAncestorContainer) ? null : selected;
 }
 
-// A place outwards from where it is, as long as nothing lies between.
+// The outermost point that nothing lies before or behind this one.
 function outwards(node, offset, isAtEdge, step) {
   while (node !== document.body && isAtEdge(node, offset)) {
     offset = indexOf(node) + step;
@@ -117,19 +120,17 @@ export function indexOf(node) {
   return counter.startOffset;
 }
 
-// A place that survives the wrapping, unwrapping and renaming of elements around it: it clings to
-// a text, to one side of an object, or to an element without content.
-function mark(node, offset, inward) {
+// The anchor at a point. `inward` says which side a point between two nodes clings to: 'after',
+// 'before', or 'line' for a caret.
+/** @returns {Anchor} */
+function anchorAt(node, offset, inward) {
   if (isText(node)) return { node, offset };
   const after = node.childNodes[offset];
   const before = node.childNodes[offset - 1];
   // A caret at the end of a line before a block clings to the line.
-  if (inward === 'line') {
-    const { shownFrom, isBlock } = dom;
-    const last = shownFrom(before, 'previousSibling');
-    if (last && !isBlock(last) && isBlock(shownFrom(after, 'nextSibling'))) {
-      return mark(node, indexOf(last) + 1, 'before');
-    }
+  const last = inward === 'line' ? dom.shownFrom(before, 'previousSibling') : null;
+  if (last && !dom.isBlock(last) && dom.isBlock(dom.shownFrom(after, 'nextSibling'))) {
+    return anchorAt(node, indexOf(last) + 1, 'before');
   }
   const child = after && (inward !== 'before' || !before) ? after : before;
   if (!child) return { inside: node };
@@ -138,16 +139,21 @@ function mark(node, offset, inward) {
   return isOpen(leaf) ? { inside: leaf } : { beside: leaf, side: child === after ? 0 : 1 };
 }
 
-export function place(kept) {
-  if (kept.node) return [kept.node, Math.min(kept.offset, kept.node.length)];
-  if (kept.beside) {
-    const object = dom.successor(kept.beside);
-    return [object.parentNode, indexOf(object) + kept.side];
+/**
+ * @param {Anchor} anchor
+ * @returns {Point}
+ */
+export function pointOf(anchor) {
+  if ('node' in anchor) return [anchor.node, Math.min(anchor.offset, anchor.node.length)];
+  if ('beside' in anchor) {
+    const object = dom.successor(anchor.beside);
+    return [object.parentNode, indexOf(object) + anchor.side];
   }
-  return [dom.successor(kept.inside), 0];
+  return [dom.successor(anchor.inside), 0];
 }
 
 // The two ends of a node, as keep() keeps points.
+/** @returns {Anchor} */
 export const startOf = (node) => {
   const leaf = firstLeaf(node);
   if (isText(leaf)) return { node: leaf, offset: 0 };
@@ -155,6 +161,7 @@ export const startOf = (node) => {
     ? { inside: node } : { beside: leaf, side: 0 };
 };
 // An empty line's caret is before the break that holds it open.
+/** @returns {Anchor} */
 export const endOf = (node) => {
   const leaf = lastLeaf(node);
   if (isText(leaf)) return { node: leaf, offset: leaf.length };
@@ -162,6 +169,7 @@ export const endOf = (node) => {
     ? { inside: node } : { beside: leaf, side: dom.isBreak(leaf) ? 0 : 1 };
 };
 
+/** The selection as anchors. @returns {KeptSelection} */
 export function keep() {
   const { anchorNode, anchorOffset, focusNode, focusOffset } = points();
   const selected = range();
@@ -174,19 +182,20 @@ export function keep() {
     return { anchor: { beside: object, side }, focus: { beside: object, side: 1 - side } };
   }
   if (selected.collapsed) {
-    const caret = mark(focusNode, focusOffset, 'line');
+    const caret = anchorAt(focusNode, focusOffset, 'line');
     return { anchor: caret, focus: { ...caret } };
   }
   return {
-    anchor: mark(anchorNode, anchorOffset, forward ? 'after' : 'before'),
-    focus: mark(focusNode, focusOffset, forward ? 'before' : 'after'),
+    anchor: anchorAt(anchorNode, anchorOffset, forward ? 'after' : 'before'),
+    focus: anchorAt(focusNode, focusOffset, forward ? 'before' : 'after'),
   };
 }
 
+/** @param {KeptSelection} kept */
 export function restore(kept) {
   if (!kept) return;
-  const [anchorNode, anchorOffset] = place(kept.anchor);
-  const [focusNode, focusOffset] = place(kept.focus);
+  const [anchorNode, anchorOffset] = pointOf(kept.anchor);
+  const [focusNode, focusOffset] = pointOf(kept.focus);
   select({ anchorNode, anchorOffset, focusNode, focusOffset });
 }
 
@@ -225,9 +234,9 @@ export function ensure() {
 }
 
 // The caret where something is dropped: a place in CSS pixels of the viewport.
-export const setCaretAt = (x, y) => {
-  const place = document.caretRangeFromPoint(x, y);
-  if (place && document.body?.contains(place.startContainer)) {
-    setCaret(place.startContainer, place.startOffset);
+export const setCaretAtPixel = (x, y) => {
+  const caret = document.caretRangeFromPoint(x, y);
+  if (caret && document.body?.contains(caret.startContainer)) {
+    setCaret(caret.startContainer, caret.startOffset);
   }
 };

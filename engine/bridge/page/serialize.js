@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The document as text: what outerHTML leaves out is put around it.
 import { meantBlanks } from './blanks.js';
 import * as selection from './selection.js';

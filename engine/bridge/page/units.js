@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Units: the paragraphs of a selection, as block commands see them. A unit is a run of inline nodes
 // between two blocks, in the block that holds it; where the run is all that a P, a heading and the
 // like hold, that block is the unit's own.
@@ -71,10 +72,8 @@ const lastShownChild = (node) => dom.shownFrom(node.lastChild, 'previousSibling'
 // The unit of one leaf; null where the leaf is no part of any (a rule, space between blocks).
 function unitOf(leaf) {
   if (dom.isBlock(leaf)) {
-    return dom.isAtom(leaf) || !own(leaf) && !dom.isCell(leaf) && leaf.tagName !== 'LI' &&
-      leaf.tagName !== 'DD' && leaf.tagName !== 'BLOCKQUOTE'
-      ? null
-      : unit(leaf, null);
+    const holdsLine = own(leaf) || dom.isCell(leaf) || /^(BLOCKQUOTE|DD|LI)$/.test(leaf.tagName);
+    return holdsLine && !dom.isAtom(leaf) ? unit(leaf, null) : null;
   }
   return runAround(leaf);
 }
@@ -92,6 +91,10 @@ const objectUnit = (object) =>
 
 // The place of a caret between two blocks, or at their edge, where no line is: [node, offset];
 // null elsewhere.
+/**
+ * @param {PlainRange} range
+ * @returns {Point | null}
+ */
 export function gapAt({ startContainer, startOffset, collapsed }) {
   if (!collapsed) return null;
   let [node, offset] = [startContainer, startOffset];
@@ -99,7 +102,7 @@ export function gapAt({ startContainer, startOffset, collapsed }) {
     if (!dom.isIgnorable(node)) return null;
     [node, offset] = [node.parentNode, selection.indexOf(node)];
   }
-  if (!dom.isBare(node) && !/^(LI|DD)$/.test(node.tagName)) return null;
+  if (!dom.isBare(node) && !/^(LI|DD)$/.test(node.nodeName)) return null;
   const around = [dom.shownFrom(node.childNodes[offset - 1], 'previousSibling'),
     dom.shownFrom(node.childNodes[offset], 'nextSibling')].filter(Boolean);
   return around.length && around.every(dom.isBlock) ? [node, offset] : null;
@@ -144,6 +147,10 @@ function runFollower() {
 }
 
 // `most` is the number of leaves that are looked at.
+/**
+ * @param {PlainRange | null} range
+ * @returns {Unit[]}
+ */
 export function unitsIn(range, most = Infinity) {
   if (!range) return [];
   const object = selection.control(range);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Whether the bridge is at work on the document: what the engine reports then is no input of the
 // person's.
 

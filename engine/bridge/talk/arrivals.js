@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Keys come another way than the program's expressions, which may overtake them. Before the program
 // reads the document it lets go of a key that no keyboard has, after all the others, and is told
 // when that one is here.

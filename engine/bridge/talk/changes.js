@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The document's text for the program, told by what has changed since the last time. So telling it
 // costs what changed, however large the page is: it goes on while somebody types.
 //
@@ -190,6 +191,7 @@ const sameBlanks = (one, other) => one.length === other.length && one.every(
     index === other[number].index && text === other[number].text);
 
 // {revision, steps} from the text of that number to the document's now, or {revision, html}.
+/** @returns {Telling} */
 export const changes = (known = revision) => {
   if (!observer) return whole();
   note(observer.takeRecords());

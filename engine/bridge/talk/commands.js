@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The one table of commands: a published number, the answer whether it applies and what it does.
 // Both look at the same view of the selection, so that enabling and doing cannot drift apart.
 import * as blocks from '../blocks/blocks.js';
@@ -41,6 +42,7 @@ function common(subjects, read, same = (one, other) => one === other) {
 }
 
 // What a command may want to know of the selection, each read once and only when asked for.
+/** @returns {View} */
 export const readView = () => {
   const range = selection.range();
   const once = (read) => {
@@ -79,7 +81,7 @@ function put(name, value, { range, object, elements }) {
 
 // A table or a box that is selected has its texts formatted; a picture has none.
 const takesFormats = ({ object, range, elements }) => elements().length > 0 ||
-  !object && dom.rawAt(range.startContainer) === null;
+  (!object && dom.rawAt(range.startContainer) === null);
 const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Status.Disabled);
 // What is done is done to all of the selection, however little of it the answer was read from.
 const onUnits = (change) => (value, view) => {
@@ -128,6 +130,7 @@ const byEngine = (status) => ({ status });
 const selected = (view) => (view.range.collapsed ? Status.Disabled : Status.Enabled);
 const always = () => Status.Enabled;
 
+/** @type {Map<number, CommandRow>} */
 export const commands = new Map([
   [Command.Bold, toggle('bold')],
   [Command.Copy, byEngine(selected)],

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The pace of the pushes of state. After a rest the push follows as soon as the work at hand is
 // done, so that the toolbar does not lag a frame behind the key; then there is one an animation
 // frame at most. A hidden page has no frames.

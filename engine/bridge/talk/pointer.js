@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The pointer: its place goes to the program.
 import { host } from './host.js';
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // What the program is told of by the page itself: the state after each change, the document's text
 // in idle time.
 import * as history from '../page/history.js';

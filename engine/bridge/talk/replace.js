@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Another document in the place of this one, as one step of the history: the old nodes wait there
 // to be brought back.
 import * as pending from '../formats/pending.js';

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // What the program shows of the selection: the status of every command, the five values, the kind
 // of selection and the element that holds it.
 import * as selection from '../page/selection.js';
@@ -25,6 +26,7 @@ function kind({ range, object }) {
   return !range || range.collapsed ? 'None' : 'Text';
 }
 
+/** @returns {Omit<State, 'version' | 'dirty' | 'generation'>} */
 export const state = () => {
   const view = readView();
   const commands = {};

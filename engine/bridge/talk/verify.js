@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the engine makes of a text, for the spare page that saves are verified in. Texts are given by
-// what differs from the one before: [offset, length, fresh].
+// @ts-check
+// What the engine makes of a text, for the spare page that saves are verified in. Texts are given
+// by what differs from the one before.
 import { serialize } from '../page/serialize.js';
 
 let text = '';
 let expected = '';
 
+/** @type {(before: string, edit: TextEdit) => string} */
 const edited = (before, [offset, length, fresh]) =>
   before.slice(0, offset) + fresh + before.slice(offset + length);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The published numbers that the program and the bridge speak in.
 
 /** Commands. */

@@ -66,7 +66,8 @@
       return `status ${status}: ${after.selected}`;
     }
     if (!changed) return '';
-    if (settled.has(number) && values[1] !== 'Definition' || toggles.has(number) && status === 3) {
+    const settles = settled.has(number) && values[1] !== 'Definition';
+    if (settles || (toggles.has(number) && status === 3)) {
       velor[name](...values);
       const twice = look().html;
       const back = toggles.has(number) ? runs() === runsBefore : twice === after.html;

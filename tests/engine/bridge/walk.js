@@ -76,7 +76,7 @@
         const lead = /^[ \n]*/.exec(leaf.data)[0].length;
         for (let offset = 0; offset <= leaf.length; offset++) {
           const edge = offset === 0 || offset === leaf.length;
-          if (edge && lead < leaf.length || leaf.data[offset] === ' ' || chance(0.3)) {
+          if ((edge && lead < leaf.length) || leaf.data[offset] === ' ' || chance(0.3)) {
             found.push([leaf, offset]);
           }
         }
@@ -129,7 +129,8 @@
     const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
     while (walker.nextNode()) {
       const node = walker.currentNode;
-      for (let at = node.data.indexOf('\u00a0'); at >= 0; at = node.data.indexOf('\u00a0', at + 1)) {
+      const next = (from) => node.data.indexOf('\u00a0', from);
+      for (let at = next(0); at >= 0; at = next(at + 1)) {
         if (meant.some((place) => place.node === node && place.index === at)) continue;
         const sides = [inside.blanks.beside(node, at, 'previousSibling'),
           inside.blanks.beside(node, at + 1, 'nextSibling')];
@@ -176,16 +177,18 @@
       const faults = [];
       if (words !== all) faults.push('words are lost or moved');
       if (objects() !== count) faults.push('an object is lost');
-      if (JSON.stringify(shownLines()) !== JSON.stringify(lines)) faults.push('lines are other ones');
+      const sameLines = JSON.stringify(shownLines()) === JSON.stringify(lines);
+      if (!sameLines) faults.push('lines are other ones');
       if (old.inside !== now.inside) faults.push('another text is selected');
       return faults;
     }
     if (verb === 'pasteHTML' || verb === 'paste') {
-      const put = wordsOf(new DOMParser().parseFromString(value, 'text/html').body.textContent);
-      return words === old.before + put + old.behind ? [] : ['a paste took or moved words'];
+      const pasted = wordsOf(new DOMParser().parseFromString(value, 'text/html').body.textContent);
+      return words === old.before + pasted + old.behind ? [] : ['a paste took or moved words'];
     }
     if (verb === 'type') {
-      return words === old.before + wordsOf(value) + old.behind ? [] : ['typing took or moved words'];
+      const expected = old.before + wordsOf(value) + old.behind;
+      return words === expected ? [] : ['typing took or moved words'];
     }
     if (verb !== 'key') return [];
     if (/Return$/.test(value)) {
@@ -238,7 +241,7 @@
   function travelled(now) {
     if (now.html === step.before.html || chance(0.5)) return [];
     const [verb, value] = step.action;
-    if (verb === 'key' && /Ctrl\+[ZY]/.test(value) || verb === 'travel') return [];
+    if ((verb === 'key' && /Ctrl\+[ZY]/.test(value)) || verb === 'travel') return [];
     velor.exec(undo);
     const back = look();
     velor.exec(redo);
@@ -261,7 +264,8 @@
       step = null;
     },
     body: () => velor.serialize(),
-    // Chooses a selection and a step and carries that out, or answers the key that is to be pressed.
+    // Chooses a selection and a step and carries that out, or answers the key that is to be
+    // pressed.
     next() {
       if (!step || chance(0.6)) select();
       if (!inside.selection.range()) inside.selection.setCaret(document.body, 0);
@@ -297,7 +301,8 @@
       faults.push(...repeated(now));
       trail.push(look());
       if (!faults.length) return '';
-      return [faults.join(', '), step.before.selected, told(step.action), now.selected].join('\n  ');
+      const { before, action } = step;
+      return [faults.join(', '), before.selected, told(action), now.selected].join('\n  ');
     },
     // All the way back to the loaded page and on to the end.
     wayBack() {

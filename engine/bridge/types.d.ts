@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The words that the bridge's modules have in common, for the type checker. Nothing of this file is
+// in the program.
+
+/** A place between two characters of a text, or between two children of an element. */
+type Point = [node: Node, offset: number];
+
+/**
+ * A point that survives the wrapping, unwrapping and renaming of elements around it: it clings to a
+ * text, to one side of an object (0 before it, 1 behind it), or to an element without content.
+ */
+type Anchor = TextAnchor | { beside: ChildNode; side: number } | { inside: Element };
+interface TextAnchor { node: Text; offset: number }
+
+/** The selection as anchors; null where nothing is selected. */
+type KeptSelection = { anchor: Anchor; focus: Anchor } | null;
+
+/** The selection as the engine tells it; anchorNode is null where there is none. */
+interface SelectionPoints {
+  anchorNode: Node | null;
+  anchorOffset: number;
+  focusNode: Node | null;
+  focusOffset: number;
+}
+
+/**
+ * A range that is no live one: the engine follows all of those through every change of the document
+ * until they are collected.
+ */
+interface PlainRange {
+  startContainer: Node;
+  startOffset: number;
+  endContainer: Node;
+  endOffset: number;
+  collapsed?: boolean;
+}
+
+/**
+ * A point that holds in a fresh parse of the same document: child numbers from the root element and
+ * an offset, neighbouring texts counted as one.
+ */
+type NodePath = number[];
+
+/**
+ * A place that the page's source has too: the `ordinal`th element of a name, and an offset in its
+ * text.
+ */
+interface SourcePlace { name: string; ordinal: number; offset: number }
+
+/** A character of a text. */
+interface Character { node: Text; index: number }
+
+/** A paragraph of a selection; see page/units.js. */
+interface Unit {
+  readonly container: Element;
+  readonly home: Element;           // the container, or the object
+  readonly object: Element | null;  // a selected object that is a block itself
+  readonly nodes: ChildNode[];      // what shows, in the container
+  readonly block: Element | null;   // the container where the unit is all of it
+}
+
+/** One change of the document, which can be taken back and done again. */
+interface Change {
+  /** Keeps what is needed for both, when the step is over; answers what that weighs. */
+  seal(): number;
+  undo(): void;
+  redo(): void;
+  isVoid?: boolean;
+}
+
+/** What one undo takes back. */
+interface Step {
+  kind: string | number;            // an inputType or a command; equal ones may be one step
+  before: RestPoints;
+  after: RestPoints;
+  changes: Change[];
+  weight: number;
+  seen?: Map<Node, Set<string>>;    // while the step is gathered: what has changed already
+  names?: Map<Element, string[]>;   // and the order of attributes that are to be taken off
+}
+/** The selection when the document was at rest, and the blanks that were held then. */
+interface RestPoints extends SelectionPoints { held: unknown }
+
+/** The selection as a command sees it; its parts are read when they are asked for, and once only. */
+interface View {
+  range: Range | null;
+  object: Element | null;
+  elements(): Element[];
+  units(): Unit[];
+}
+
+/**
+ * A row of the table of commands. A query has `value`; what the engine carries out has only
+ * `status`.
+ */
+interface CommandRow {
+  status(view: View): number;
+  value?(view: View): string;
+  run?(value: string, view: View): void;
+  /** A deed that is no step of the history. */
+  travel?(): void;
+}
+
+/** A row of the table of character formats. */
+interface FormatEntry {
+  /**
+   * The value of text in an element; `known` may be a map for what one pass over an unchanged page
+   * finds out.
+   */
+  read(element: HTMLElement, known?: Map<any, any>): any;
+  /** Elements that are nothing but the format. */
+  tags: string[];
+  /** FONT's attribute, and a value's spelling there. */
+  attribute?: string;
+  inAttribute?(value: any): any;
+  /** The property of an inline style, and a value's spelling there. */
+  property: string;
+  inStyle?(value: any): string;
+  /** The word in the property's value that the format is, where others may stand beside it. */
+  part?: string;
+  /** The element to put around text; null where none can help. */
+  write?(value: any): HTMLElement | null;
+  /** The same within another one of its kind. */
+  inLike?(): HTMLElement;
+  /**
+   * Its style is taken off a block around several paragraphs too, since a span inside would only
+   * undo it.
+   */
+  acrossBlocks?: boolean;
+  /** It goes inside links, which have a look of their own. */
+  insideLinks?: boolean;
+  /** A value as the program gives it; '' for one that cannot be. */
+  parse?(value: string): any;
+}
+
+/** A character format; see formats/formats.js. */
+interface Format extends FormatEntry {
+  inAttribute(value: any): any;
+  write(value: any): HTMLElement | null;
+  parse(value: string): any;
+  same(one: any, other: any): boolean;
+  /** True for an element that gives the format to text in it. */
+  carries(element: any): boolean;
+  /** An empty element of the same format, to go around what keeps it. */
+  shell(element: HTMLElement): HTMLElement;
+  /** Takes the format off the element. */
+  strip(element: HTMLElement): void;
+}
+
+/** A box in the viewport, in its pixels. */
+interface Box {
+  left: number;
+  top: number;
+  right: number;
+  bottom: number;
+  width?: number;
+  height?: number;
+}
+
+/** What pushState tells, as JSON. */
+interface State {
+  version: number;
+  dirty: boolean;
+  generation: number;
+  commands: Record<number, number>;
+  fontName: string;
+  fontSize: string;
+  foreColor: string;
+  backColor: string;
+  blockFormat: string;
+  selection: 'None' | 'Text' | 'Control';
+  element: { tag: string; attributes: [name: string, value: string][] };
+}
+
+/** What differs in a text: `fresh` in place of `length` UTF-16 units from `offset`. */
+type TextEdit = [offset: number, length: number, fresh: string];
+/** The text of number `revision`: whole, or the steps that lead to it. */
+interface Telling { revision: number; html?: string; steps?: TextEdit[][] }
+
+/** The slots of the program's object on the channel. */
+interface Host {
+  pushState(json: string): void;
+  pushMirror(json: string): void;
+  pushMouse(x: number, y: number): void;
+  inputArrived(): void;
+  pictureWanted(): void;
+  earlierWanted(): void;
+  laterWanted(): void;
+}
+
+declare class QWebChannel {
+  constructor(transport: object, ready: (channel: { objects: { velorHost: Host } }) => void);
+}
+declare const qt: { webChannelTransport: object };
+interface Window {
+  velor: object;
+  QWebChannel?: typeof QWebChannel;
+  qt?: typeof qt;
+}
+declare var velor: object;
+// What Chromium has and the checker's library does not know.
+interface CSSStyleDeclaration { zoom: string }
+interface CSSStyleSheet { replaceSync(text: string): void }
+interface Array<T> { findLastIndex(fits: (each: T) => boolean): number }

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What eslint holds the scripts to; scripts.sh calls it from the repository's root.
+import js from '@eslint/js';
+import globals from 'globals';
+
+const rules = {
+  ...js.configs.recommended.rules,
+  'complexity': ['error', 16],
+  'eqeqeq': 'error',
+  'max-depth': ['error', 3],
+  'max-len': ['error', { code: 100, ignoreUrls: true }],
+  'max-lines': ['error', 420],
+  'no-control-regex': 'off',
+  'no-mixed-operators': [
+    'error', { groups: [['&&', '||'], ['??', '||'], ['&', '|', '^', '<<', '>>']] }],
+  'no-nested-ternary': 'error',
+  'no-shadow': 'error',
+  'no-unused-vars': ['error', { args: 'none', caughtErrors: 'none' }],
+  'no-var': 'error',
+  'object-shorthand': 'error',
+  'prefer-const': ['error', { destructuring: 'all' }],
+};
+
+const scripts = (files, sourceType, known) => ({
+  files,
+  languageOptions: { ecmaVersion: 2022, sourceType, globals: known },
+  linterOptions: { reportUnusedDisableDirectives: 'error' },
+  rules,
+});
+const written = (...names) => Object.fromEntries(names.map((name) => [name, 'writable']));
+
+export default [
+  scripts(['engine/bridge/**/*.js', 'tests/engine/bridge/inside.js'], 'module',
+    { ...globals.browser, ...written('qt', 'QWebChannel') }),
+  {
+    ...scripts(['tests/engine/bridge/*.js', 'tools/**/*.js'], 'script',
+      {
+        ...globals.browser,
+        ...written('inside', 'markup', 'pages', 'sweep', 'velor', 'walk', 'work'),
+      }),
+    ignores: ['tests/engine/bridge/inside.js'],
+  },
+  scripts(['tests/**/*.mjs', 'tools/**/*.mjs'], 'module', globals.node),
+  // A test's judgement is a list of rules.
+  { files: ['tests/**/*.js'], rules: { 'complexity': 'off', 'max-depth': 'off' } },
+];
