@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The direction of includes is data: this table, and nothing else, says who may include whom.
+// The direction of includes is data: AllowedIncludes(), and nothing else, says who may include
+// whom.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 #include <map>
 #include <regex>
@@ -37,6 +39,11 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"app",
        {"editor", "insert", "projects", "chrome", "recovery/offers", "qt", "engine", "platform",
         "app/settings"}},
+      {"tools", {"qt", "engine", "page/saving", "page/text", "catalogue", "files", "platform"}},
+      {"tests/support", {}},
+      {"bench",
+       {"app", "editor", "projects", "chrome", "qt", "engine", "page/text", "catalogue", "files",
+        "recovery", "platform", "tests/support"}},
   };
   return table;
 }
@@ -58,9 +65,9 @@ std::string LayerOf(const std::string &path) {
 }
 
 const std::vector<std::string> &SourceFolders() {
-  static const std::vector<std::string> folders = {"app",       "editor",   "insert",   "projects",
-                                                   "chrome",    "platform", "page",     "engine",
-                                                   "catalogue", "files",    "recovery", "qt"};
+  static const std::vector<std::string> folders = {
+      "app",    "editor",    "insert",   "projects", "chrome", "platform", "page",
+      "engine", "catalogue", "recovery", "files",    "qt",     "bench",    "tools"};
   return folders;
 }
 
@@ -91,8 +98,8 @@ std::string Objection(const Include &include) {
     return include.file + " includes the toolkit: " + include.target;
   static const std::regex engine(
       R"(^(QtWebEngine\w*|QWebEngine\w*|Qsci|sqlite3\.h|unicode)(/|$|\.))");
-  static const std::set<std::string> engineUsers = {"engine", "qt", "page/text", "catalogue",
-                                                    "app"};
+  static const std::set<std::string> engineUsers = {"engine", "qt",    "page/text", "catalogue",
+                                                    "app",    "tools", "bench"};
   if (!engineUsers.count(from) && std::regex_search(include.target, engine))
     return include.file + " includes an engine past its interface: " + include.target;
   if (!include.quoted) return {};
@@ -101,19 +108,103 @@ std::string Objection(const Include &include) {
   return include.file + " includes " + include.target + ": " + from + " must not know " + to;
 }
 
+struct SourceFile {
+  std::string path;
+  std::string text;
+};
+
+const std::vector<SourceFile> &AllSources() {
+  static const std::vector<SourceFile> all = [] {
+    std::vector<SourceFile> found;
+    const fs::path root = VELOR_SOURCE_DIR;
+    for (const std::string &top : SourceFolders()) {
+      for (const auto &entry : fs::recursive_directory_iterator(root / top)) {
+        const std::string extension = entry.path().extension().string();
+        if (extension != ".h" && extension != ".cpp") continue;
+        std::ifstream file(entry.path());
+        std::stringstream text;
+        text << file.rdbuf();
+        found.push_back({fs::relative(entry.path(), root).generic_string(), text.str()});
+      }
+    }
+    return found;
+  }();
+  return all;
+}
+
 std::vector<Include> AllIncludes() {
   std::vector<Include> all;
-  const fs::path root = VELOR_SOURCE_DIR;
-  for (const std::string &top : SourceFolders()) {
-    for (const auto &entry : fs::recursive_directory_iterator(root / top)) {
-      const std::string extension = entry.path().extension().string();
-      if (extension != ".h" && extension != ".cpp") continue;
-      std::ifstream text(entry.path());
-      const auto found = IncludesOf(fs::relative(entry.path(), root).generic_string(), text);
-      all.insert(all.end(), found.begin(), found.end());
-    }
+  for (const SourceFile &file : AllSources()) {
+    std::istringstream text(file.text);
+    const auto found = IncludesOf(file.path, text);
+    all.insert(all.end(), found.begin(), found.end());
   }
   return all;
+}
+
+/// Who points at whom.
+using Arrows = std::map<std::string, std::set<std::string>>;
+
+/// The names on a way that comes back to where it began, in order; empty when there is none.
+std::vector<std::string> CircleIn(const Arrows &arrows) {
+  std::set<std::string> cleared;
+  std::vector<std::string> way;
+  const std::function<bool(const std::string &)> closes = [&](const std::string &name) {
+    const auto seen = std::find(way.begin(), way.end(), name);
+    if (seen != way.end()) {
+      way.erase(way.begin(), seen);
+      way.push_back(name);
+      return true;
+    }
+    if (cleared.count(name) || !arrows.count(name)) return false;
+    way.push_back(name);
+    for (const std::string &next : arrows.at(name))
+      if (closes(next)) return true;
+    way.pop_back();
+    cleared.insert(name);
+    return false;
+  };
+  for (const auto &[name, targets] : arrows)
+    if (closes(name)) return way;
+  return {};
+}
+
+/// What the headers include of each other.
+Arrows HeaderArrows(const std::vector<Include> &includes) {
+  Arrows arrows;
+  for (const Include &include : includes)
+    if (include.quoted && fs::path(include.file).extension() == ".h")
+      arrows[include.file].insert(include.target);
+  return arrows;
+}
+
+/// A text without its string literals and comments.
+std::string CodeOf(const std::string &text) {
+  static const std::regex other(R"("(\\.|[^"\\\n])*"|//[^\n]*)");
+  return std::regex_replace(text, other, "");
+}
+
+/// Whether the text runs an event loop of its own: what a person does next may then arrive in the
+/// middle of what is being done.
+bool RunsAnEventLoop(const std::string &text) {
+  static const std::regex loop(R"((->|\.|::)exec\(|\bQEventLoop\s+\w+\s*[;({]|processEvents\()");
+  return std::regex_search(CodeOf(text), loop);
+}
+
+/// The places that run one, each for a reason.
+const std::set<std::string> &GuardedPlaces() {
+  static const std::set<std::string> places = {
+      "app/main.cpp",                          // the program's own
+      "engine/GuardedWait.cpp",                // the one wait for a page; lets no input in
+      "qt/QtDialogs.cpp",                      // dialogs that a person answers
+      "qt/QtFileDialog.cpp",                   // likewise
+      "qt/QtRuntime.cpp",                      // the contract's DoEvents
+      "tools/editing-suite/EditingSuite.cpp",  // a program without a person
+      "bench/CatalogueFigures.cpp",            // likewise
+      "bench/Children.cpp",
+      "bench/Measure.cpp",
+  };
+  return places;
 }
 
 TEST(Layers, NoIncludeRunsAgainstTheArrows) {
@@ -130,6 +221,9 @@ TEST(Layers, AnIncludeThatRunsUpIsObjectedTo) {
   EXPECT_NE(Objection({"platform/Files.h", "QWidget", false}), "");
   EXPECT_NE(Objection({"editor/frmMain.cpp", "QWebEngineView", false}), "");
   EXPECT_NE(Objection({"app/settings/modSettingManager.cpp", "editor/PageRecord.h", true}), "");
+  EXPECT_NE(Objection({"engine/EngineView.cpp", "bench/Measure.h", true}), "");
+  EXPECT_NE(Objection({"tools/catalogue/main.cpp", "app/main.h", true}), "");
+  EXPECT_NE(Objection({"qt/QtDialogs.cpp", "tests/support/FakeFiles.h", true}), "");
 }
 
 TEST(Layers, AnIncludeThatRunsDownIsAllowed) {
@@ -138,22 +232,44 @@ TEST(Layers, AnIncludeThatRunsDownIsAllowed) {
   EXPECT_EQ(Objection({"app/main.cpp", "qt/QtDialogs.h", true}), "");
 }
 
-TEST(Layers, OnlyTheGuardedPlacesRunAnEventLoopOrADialog) {
-  const fs::path root = VELOR_SOURCE_DIR;
-  static const std::regex loop(R"((->|\.|::)exec\(\)|processEvents\()");
-  for (const std::string &top : SourceFolders()) {
-    for (const auto &entry : fs::recursive_directory_iterator(root / top)) {
-      const std::string path = fs::relative(entry.path(), root).generic_string();
-      if (entry.path().extension() != ".cpp" || path.rfind("qt/", 0) == 0 ||
-          path.rfind("engine/", 0) == 0 || path == "app/main.cpp")
-        continue;
-      std::ifstream text(entry.path());
-      std::stringstream whole;
-      whole << text.rdbuf();
-      EXPECT_FALSE(std::regex_search(whole.str(), loop))
-          << path << " runs an event loop of its own";
-    }
-  }
+TEST(Layers, EveryFolderIsOneOfTheTable) {
+  for (const SourceFile &file : AllSources()) EXPECT_NE(LayerOf(file.path), "") << file.path;
+}
+
+TEST(Layers, TheTableHasNoCircle) {
+  EXPECT_EQ(CircleIn(AllowedIncludes()), std::vector<std::string>());
+}
+
+TEST(Layers, NoHeadersIncludeEachOtherInACircle) {
+  const Arrows arrows = HeaderArrows(AllIncludes());
+  ASSERT_GT(arrows.size(), 50u);
+  EXPECT_EQ(CircleIn(arrows), std::vector<std::string>());
+}
+
+TEST(Layers, ACircleIsFoundAndNamed) {
+  EXPECT_EQ(CircleIn({{"a", {"b"}}, {"b", {"c", "d"}}, {"d", {"b"}}}),
+            (std::vector<std::string>{"b", "d", "b"}));
+  EXPECT_EQ(CircleIn({{"a", {"b", "c"}}, {"b", {"c"}}}), std::vector<std::string>());
+  EXPECT_EQ(CircleIn(HeaderArrows({{"x/A.h", "x/B.h", true}, {"x/B.h", "x/A.h", true}})),
+            (std::vector<std::string>{"x/A.h", "x/B.h", "x/A.h"}));
+}
+
+TEST(Layers, OnlyTheGuardedPlacesRunAnEventLoop) {
+  std::set<std::string> places;
+  for (const SourceFile &file : AllSources())
+    if (RunsAnEventLoop(file.text)) places.insert(file.path);
+  EXPECT_EQ(places, GuardedPlaces());
+}
+
+TEST(Layers, AnEventLoopIsFoundInEveryForm) {
+  EXPECT_TRUE(RunsAnEventLoop("dialog.exec();"));
+  EXPECT_TRUE(RunsAnEventLoop("menu->exec(QCursor::pos());"));
+  EXPECT_TRUE(RunsAnEventLoop("QMenu::exec(actions, place);"));
+  EXPECT_TRUE(RunsAnEventLoop("QEventLoop loop;"));
+  EXPECT_TRUE(RunsAnEventLoop("QCoreApplication::processEvents(QEventLoop::AllEvents, 5);"));
+  EXPECT_FALSE(RunsAnEventLoop("Run(\"velor.exec(5000)\");"));
+  EXPECT_FALSE(RunsAnEventLoop("// dialog.exec() would wait here"));
+  EXPECT_FALSE(RunsAnEventLoop("sqlite3_exec(database, nullptr);"));
 }
 
 }  // namespace
