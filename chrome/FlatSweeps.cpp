@@ -57,19 +57,19 @@ void FlatSweeps::ThinEdgeByType(QWidget &window, const QString &typeName) {
 void FlatSweeps::AttachPainters(QWidget &window, std::initializer_list<QStringView> typeNames) {
   const QList<QWidget *> controls = ControlsOf(window);
   const qsizetype count = controls.size() + MenuItemsOf(window).size();
-  Painters.resize(static_cast<std::size_t>(count) + 1);
+  painters_.resize(static_cast<std::size_t>(count) + 1);
   for (QWidget *control : controls) {
     if (std::ranges::find(typeNames, ControlTypeName(*control)) == typeNames.end()) continue;
-    const auto index = static_cast<std::size_t>(PainterCount);
-    if (index >= Painters.size()) {
+    const auto index = static_cast<std::size_t>(painterCount_);
+    if (index >= painters_.size()) {
       throw RuntimeError::Of(ErrorNumber::SubscriptOutOfRange, QStringLiteral("Painters"),
                              window.objectName());
     }
-    Painters[index] = std::make_unique<cControlFlater>(windows_);
+    painters_[index] = std::make_unique<cControlFlater>(windows_);
     WidgetControl flat(*control, windows_);
-    Painters[index]->Attach(flat);
+    painters_[index]->Attach(flat);
     control->setProperty(HouseStyle::Flat, true);
-    ++PainterCount;
+    ++painterCount_;
   }
 }
 

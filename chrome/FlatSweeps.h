@@ -32,15 +32,15 @@ class FlatSweeps final : public StylingSweeps {
   void ThinEdgeSweep(QWidget &window) override;
   void ThinEdgeByType(QWidget &window, const QString &typeName) override;
 
-  const std::vector<std::unique_ptr<cControlFlater>> &AllPainters() const { return Painters; }
-  std::int16_t CountOfPainters() const { return PainterCount; }
+  const std::vector<std::unique_ptr<cControlFlater>> &AllPainters() const { return painters_; }
+  std::int16_t CountOfPainters() const { return painterCount_; }
 
  private:
   void AttachPainters(QWidget &window, std::initializer_list<QStringView> typeNames);
 
   WindowSystem &windows_;
-  std::vector<std::unique_ptr<cControlFlater>> Painters;
-  std::int16_t PainterCount = 0;
+  std::vector<std::unique_ptr<cControlFlater>> painters_;
+  std::int16_t painterCount_ = 0;
 };
 
 }  // namespace velor

@@ -63,18 +63,18 @@ SourceFindBar::SourceFindBar(SourceControl &source, QWidget *parent)
 
 void SourceFindBar::Build() {
   QHBoxLayout *finding = MakeRow();
-  txtFind = AddBox(*finding, "txtFind", QStringLiteral("Find"));
-  connect(txtFind, &QLineEdit::textEdited, this, [this] { Look(SearchDirection::Here); });
+  findText_ = AddBox(*finding, "txtFind", QStringLiteral("Find"));
+  connect(findText_, &QLineEdit::textEdited, this, [this] { Look(SearchDirection::Here); });
   connect(AddButton(*finding, "cmdPrevious", QStringLiteral("Previous"),
                     QStringLiteral("Find Previous (Shift+F3)")),
           &QPushButton::clicked, this, [this] { Look(SearchDirection::Backward); });
   connect(AddButton(*finding, "cmdNext", QStringLiteral("Next"), QStringLiteral("Find Next (F3)")),
           &QPushButton::clicked, this, [this] { Look(SearchDirection::Forward); });
-  chkCase = new QCheckBox(QStringLiteral("Match Case"));
-  chkCase->setObjectName(QStringLiteral("chkCase"));
-  chkCase->setAccessibleName(chkCase->text());
-  connect(chkCase, &QCheckBox::toggled, this, [this] { Look(SearchDirection::Here); });
-  finding->addWidget(chkCase);
+  matchCase_ = new QCheckBox(QStringLiteral("Match Case"));
+  matchCase_->setObjectName(QStringLiteral("chkCase"));
+  matchCase_->setAccessibleName(matchCase_->text());
+  connect(matchCase_, &QCheckBox::toggled, this, [this] { Look(SearchDirection::Here); });
+  finding->addWidget(matchCase_);
   result_ = new QLabel;
   result_->setObjectName(QStringLiteral("lblResult"));
   finding->addWidget(result_, 1);
@@ -83,7 +83,7 @@ void SourceFindBar::Build() {
           &QPushButton::clicked, this, &SourceFindBar::PutAway);
 
   QHBoxLayout *replacing = MakeRow();
-  txtReplace = AddBox(*replacing, "txtReplace", QStringLiteral("Replace with"));
+  replacement_ = AddBox(*replacing, "txtReplace", QStringLiteral("Replace with"));
   connect(AddButton(*replacing, "cmdReplace", QStringLiteral("Replace"),
                     QStringLiteral("Replace this one and find the next")),
           &QPushButton::clicked, this, &SourceFindBar::ReplaceFound);
@@ -103,16 +103,16 @@ void SourceFindBar::Build() {
 
 void SourceFindBar::Open(Purpose purpose) {
   const QString selected = source_.SelectedText();
-  if (IsOneLine(selected)) txtFind->setText(selected);
+  if (IsOneLine(selected)) findText_->setText(selected);
   replacing_->setVisible(purpose == Purpose::Replace);
   result_->clear();
   show();
-  txtFind->setFocus();
-  txtFind->selectAll();
+  findText_->setFocus();
+  findText_->selectAll();
 }
 
 void SourceFindBar::FindOn(SearchDirection direction) {
-  if (txtFind->text().isEmpty()) {
+  if (findText_->text().isEmpty()) {
     Open(Purpose::Find);
   } else {
     Look(direction);
@@ -125,25 +125,25 @@ void SourceFindBar::PutAway() {
 }
 
 void SourceFindBar::Look(SearchDirection direction) {
-  const QString wanted = txtFind->text();
+  const QString wanted = findText_->text();
   const bool found = source_.Find(wanted, direction, ChosenCase());
   result_->setText(found || wanted.isEmpty() ? QString() : QStringLiteral("Not found"));
 }
 
 void SourceFindBar::ReplaceFound() {
-  const auto rule = chkCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
-  if (source_.SelectedText().compare(txtFind->text(), rule) == 0 && !txtFind->text().isEmpty())
-    source_.ReplaceSelection(txtReplace->text());
+  const auto rule = matchCase_->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
+  if (source_.SelectedText().compare(findText_->text(), rule) == 0 && !findText_->text().isEmpty())
+    source_.ReplaceSelection(replacement_->text());
   Look(SearchDirection::Forward);
 }
 
 void SourceFindBar::ReplaceEverywhere() {
-  const int count = source_.ReplaceAll(txtFind->text(), txtReplace->text(), ChosenCase());
+  const int count = source_.ReplaceAll(findText_->text(), replacement_->text(), ChosenCase());
   result_->setText(QStringLiteral("%1 replaced").arg(count));
 }
 
 LetterCase SourceFindBar::ChosenCase() const {
-  return chkCase->isChecked() ? LetterCase::Matched : LetterCase::Ignored;
+  return matchCase_->isChecked() ? LetterCase::Matched : LetterCase::Ignored;
 }
 
 void SourceFindBar::keyPressEvent(QKeyEvent *event) {
@@ -154,7 +154,7 @@ void SourceFindBar::keyPressEvent(QKeyEvent *event) {
       break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (txtReplace->hasFocus()) {
+      if (replacement_->hasFocus()) {
         ReplaceFound();
       } else {
         Look(back ? SearchDirection::Backward : SearchDirection::Forward);

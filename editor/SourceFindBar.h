@@ -39,9 +39,9 @@ class SourceFindBar : public QWidget {
   LetterCase ChosenCase() const;
 
   SourceControl &source_;
-  QLineEdit *txtFind = nullptr;
-  QLineEdit *txtReplace = nullptr;
-  QCheckBox *chkCase = nullptr;
+  QLineEdit *findText_ = nullptr;
+  QLineEdit *replacement_ = nullptr;
+  QCheckBox *matchCase_ = nullptr;
   QWidget *replacing_ = nullptr;
   QLabel *result_ = nullptr;
 };

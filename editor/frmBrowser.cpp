@@ -87,16 +87,16 @@ frmBrowser::~frmBrowser() {
 }
 
 void frmBrowser::BuildToolBar() {
-  tbToolBar = new QToolBar(this);
-  tbToolBar->setObjectName(QStringLiteral("tbToolBar"));
-  tbToolBar->setAccessibleName(QStringLiteral("Navigation"));
-  tbToolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  tbToolBar->setIconSize(QSize(BrowserIconSize, BrowserIconSize));
-  tbToolBar->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);
+  toolBar_ = new QToolBar(this);
+  toolBar_->setObjectName(QStringLiteral("tbToolBar"));
+  toolBar_->setAccessibleName(QStringLiteral("Navigation"));
+  toolBar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  toolBar_->setIconSize(QSize(BrowserIconSize, BrowserIconSize));
+  toolBar_->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);
   for (const BrowserButton &row : BrowserButtons) {
     const QString key = row.key.toString();
     ToolBarAction *button =
-        AddToolBarButton(*tbToolBar, key, key, row.tooltip.toString(), ButtonKind::Click);
+        AddToolBarButton(*toolBar_, key, key, row.tooltip.toString(), ButtonKind::Click);
     button->setObjectName(key);
     connect(button, &ToolBarAction::Chosen, this, [this, key] { ButtonClicked(key); });
   }
@@ -136,9 +136,9 @@ bool frmBrowser::event(QEvent *event) {
 }
 
 void frmBrowser::PlaceParts() {
-  const int toolBarHeight = tbToolBar->sizeHint().height();
+  const int toolBarHeight = toolBar_->sizeHint().height();
   const int statusBarHeight = sta_->sizeHint().height();
-  tbToolBar->setGeometry(0, 0, width(), toolBarHeight);
+  toolBar_->setGeometry(0, 0, width(), toolBarHeight);
   sta_->setGeometry(0, height() - statusBarHeight, width(), statusBarHeight);
   if (const auto place = BrowserPlace(size(), toolBarHeight, statusBarHeight)) {
     browser_->Widget()->setGeometry(*place);

@@ -70,7 +70,7 @@ class frmBrowser : public QWidget, public ProgramWindow, private BrowserListener
 
   EditorContext &context_;
   std::unique_ptr<Browser> browser_;
-  QToolBar *tbToolBar = nullptr;
+  QToolBar *toolBar_ = nullptr;
   QStatusBar *sta_ = nullptr;
   QLabel *statusText_ = nullptr;
   QLabel *progress_ = nullptr;

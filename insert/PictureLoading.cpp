@@ -14,7 +14,7 @@ namespace {
 
 /// Bytes that a preview may take while it is decoded; more would keep the person waiting and come
 /// near the limit that the image reader sets itself.
-constexpr qint64 LargestDecode = 96 * 1024 * 1024;
+constexpr qint64 LargestDecode = qint64{96} * 1024 * 1024;
 
 /// Whether a preview costs more than it is worth. JPEG alone is decoded at the wanted size; other
 /// formats go through every pixel.

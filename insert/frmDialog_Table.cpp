@@ -58,18 +58,18 @@ frmDialog_Table::frmDialog_Table(ProgramValues &values, QWidget *parent)
   QFormLayout *form = FormParts::AddForm(rows);
   const QString one = QStringLiteral("1");
   const QString three = QStringLiteral("3");
-  Text1 = FormParts::AddNumberBox(form, QStringLiteral("Text1"), QStringLiteral("# Of Columns:"),
-                                  three);
-  Text2 =
+  columns_ = FormParts::AddNumberBox(form, QStringLiteral("Text1"), QStringLiteral("# Of Columns:"),
+                                     three);
+  rows_ =
       FormParts::AddNumberBox(form, QStringLiteral("Text2"), QStringLiteral("# Of Rows:"), three);
-  Combo1 = new AlignmentBox;
-  Combo1->setEditText(QStringLiteral("Left"));
-  FormParts::AddControl(form, QStringLiteral("Combo1"), QStringLiteral("Align:"), Combo1);
-  Combo1->lineEdit()->setAccessibleName(Combo1->accessibleName());
-  combo2 = FormParts::AddNumberBox(form, QStringLiteral("combo2"), QStringLiteral("Border:"), one);
-  combo3 =
+  alignment_ = new AlignmentBox;
+  alignment_->setEditText(QStringLiteral("Left"));
+  FormParts::AddControl(form, QStringLiteral("Combo1"), QStringLiteral("Align:"), alignment_);
+  alignment_->lineEdit()->setAccessibleName(alignment_->accessibleName());
+  border_ = FormParts::AddNumberBox(form, QStringLiteral("combo2"), QStringLiteral("Border:"), one);
+  cellSpacing_ =
       FormParts::AddNumberBox(form, QStringLiteral("combo3"), QStringLiteral("Cell Spacing:"), one);
-  combo4 =
+  cellPadding_ =
       FormParts::AddNumberBox(form, QStringLiteral("combo4"), QStringLiteral("Cell Padding:"), one);
 
   auto *TabStrip1 = new QTabWidget;
@@ -88,16 +88,16 @@ frmDialog_Table::frmDialog_Table(ProgramValues &values, QWidget *parent)
   window->addWidget(TabStrip1, 1);
   FormParts::AddButtonRow(window, {Command1, Command2});
   setMinimumWidth(ComfortableWidth);
-  Text1->setFocus();
+  columns_->setFocus();
 }
 
 void frmDialog_Table::Insert() {
-  values_.HTMLString = TableHtml({.align = Combo1->currentText(),
-                                  .cellSpacing = combo3->text(),
-                                  .cellPadding = combo4->text(),
-                                  .border = combo2->text(),
-                                  .rows = Text2->text(),
-                                  .columns = Text1->text()});
+  values_.HTMLString = TableHtml({.align = alignment_->currentText(),
+                                  .cellSpacing = cellSpacing_->text(),
+                                  .cellPadding = cellPadding_->text(),
+                                  .border = border_->text(),
+                                  .rows = rows_->text(),
+                                  .columns = columns_->text()});
   accept();
 }
 

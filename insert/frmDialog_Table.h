@@ -22,12 +22,12 @@ class frmDialog_Table : public QDialog {
   void Insert();
 
   ProgramValues &values_;
-  TextBox *Text1 = nullptr;     ///< columns
-  TextBox *Text2 = nullptr;     ///< rows
-  QComboBox *Combo1 = nullptr;  ///< alignment
-  TextBox *combo2 = nullptr;    ///< border
-  TextBox *combo3 = nullptr;    ///< cell spacing
-  TextBox *combo4 = nullptr;    ///< cell padding
+  TextBox *columns_ = nullptr;
+  TextBox *rows_ = nullptr;
+  QComboBox *alignment_ = nullptr;
+  TextBox *border_ = nullptr;
+  TextBox *cellSpacing_ = nullptr;
+  TextBox *cellPadding_ = nullptr;
 };
 
 }  // namespace velor

@@ -40,8 +40,8 @@ frmInsertElement::frmInsertElement(Platform &platform, StylingSweeps *sweeps, QW
     sweeps->ThinEdgeByType(*this, QStringLiteral("listbox"));
     sweeps->FlatComboSweep(*this);
   }
-  SSTab1->setTabEnabled(2, false);
-  SSTab1->setTabEnabled(3, false);
+  pages_->setTabEnabled(2, false);
+  pages_->setTabEnabled(3, false);
 }
 
 frmInsertElement::~frmInsertElement() = default;
@@ -54,18 +54,18 @@ void frmInsertElement::Connect() {
   onClick(u"cmdBrowseIMG", &frmInsertElement::BrowseForImage);
   onClick(u"cmdABrowse", &frmInsertElement::BrowseForLinkTarget);
   onClick(u"cmdAEmail", &frmInsertElement::AskForMailAddress);
-  onClick(u"cmdOK", &frmInsertElement::Accept);
+  onClick(u"cmdOK", &frmInsertElement::InsertAndClose);
   onClick(u"cmdCancel", &QDialog::reject);
 
-  connect(chkIMGSize, &QCheckBox::clicked, this, [this](bool checked) {
-    txtIMGHeight->setEnabled(checked);
-    txtIMGWidth->setEnabled(checked);
+  connect(sizeFromBoxes_, &QCheckBox::clicked, this, [this](bool checked) {
+    imageHeight_->setEnabled(checked);
+    imageWidth_->setEnabled(checked);
   });
-  connect(chkVIDSize, &QCheckBox::clicked, this, [this](bool checked) {
-    txtVIDHeight->setEnabled(checked);
-    txtVIDWidth->setEnabled(checked);
+  connect(videoSizeFromBoxes_, &QCheckBox::clicked, this, [this](bool checked) {
+    videoHeight_->setEnabled(checked);
+    videoWidth_->setEnabled(checked);
   });
-  connect(chkForever, &QCheckBox::clicked, txtVidLoop, &QWidget::setDisabled);
+  connect(videoLoopsForever_, &QCheckBox::clicked, videoLoops_, &QWidget::setDisabled);
 }
 
 void frmInsertElement::PrepareInsert(const QString &elementMode, HtmlDocument &document,
@@ -78,16 +78,16 @@ void frmInsertElement::PrepareInsert(const QString &elementMode, HtmlDocument &d
   ElementMode = elementMode;
 
   const int page = static_cast<int>(ElementModes.indexOf(elementMode));
-  SSTab1->setTabEnabled(page, true);
-  SSTab1->setCurrentIndex(page);
-  for (int other = 0; other < SSTab1->count(); ++other) {
-    if (other != page) SSTab1->setTabEnabled(other, false);
+  pages_->setTabEnabled(page, true);
+  pages_->setCurrentIndex(page);
+  for (int other = 0; other < pages_->count(); ++other) {
+    if (other != page) pages_->setTabEnabled(other, false);
   }
 }
 
 void frmInsertElement::showEvent(QShowEvent *event) {
   QDialog::showEvent(event);
-  firstBoxes_.at(static_cast<std::size_t>(SSTab1->currentIndex()))->setFocus();
+  firstBoxes_.at(static_cast<std::size_t>(pages_->currentIndex()))->setFocus();
 }
 
 QString frmInsertElement::GenerateCode(std::int32_t &InsertWhat) {
@@ -110,20 +110,20 @@ QString frmInsertElement::GenerateCode(std::int32_t &InsertWhat) {
 }
 
 ImageValues frmInsertElement::Values() const {
-  return {.source = txtImgSource->text(),
-          .alternativeText = txtAlt->text(),
-          .lowResolutionSource = txtLowRes->text(),
-          .alignment = cobIMGAlign->currentText(),
-          .border = txtIMGBorder->text(),
-          .horizontalSpacing = txtIMGHSpac->text(),
-          .verticalSpacing = txtIMGVspac->text(),
-          .sizeSource = chkIMGSize->isChecked() ? SizeSource::Boxes : SizeSource::Picture,
-          .height = txtIMGHeight->text(),
-          .width = txtIMGWidth->text(),
+  return {.source = imageSource_->text(),
+          .alternativeText = alternativeText_->text(),
+          .lowResolutionSource = lowResolutionSource_->text(),
+          .alignment = imageAlignment_->currentText(),
+          .border = imageBorder_->text(),
+          .horizontalSpacing = imageHorizontalSpacing_->text(),
+          .verticalSpacing = imageVerticalSpacing_->text(),
+          .sizeSource = sizeFromBoxes_->isChecked() ? SizeSource::Boxes : SizeSource::Picture,
+          .height = imageHeight_->text(),
+          .width = imageWidth_->text(),
           .picture = picture_};
 }
 
-void frmInsertElement::Accept() {
+void frmInsertElement::InsertAndClose() {
   if (InsertMode == u"true" && ElementMode == u"image") {
     std::int32_t image = 1;
     const QString failure =
@@ -142,7 +142,7 @@ void frmInsertElement::BrowseForImage() {
   const QString file = Browse(ImageFiles);
   try {
     ShowPicture(file);
-    FillWithLink(txtImgSource, file);
+    FillWithLink(imageSource_, file);
   } catch (const RuntimeError &error) {
     Q_EMIT Reported(error.Description());
   }
@@ -151,7 +151,7 @@ void frmInsertElement::BrowseForImage() {
 void frmInsertElement::BrowseForLinkTarget() {
   const QString file = Browse(AllFiles);
   try {
-    FillWithLink(txtHref, file);
+    FillWithLink(linkTarget_, file);
   } catch (const RuntimeError &error) {
     Q_EMIT Reported(error.Description());
   }
@@ -166,20 +166,20 @@ void frmInsertElement::FillWithLink(TextBox *box, const QString &file) {
 }
 
 void frmInsertElement::ShowPicture(const QString &file) {
-  const QSize bounds = picPreview->contentsRect().size();
+  const QSize bounds = preview_->contentsRect().size();
   const LoadedPicture picture = LoadPicture(file, bounds * devicePixelRatioF());
   picture_ = PictureSize::OfPixels(picture.pixels.height(), picture.pixels.width());
   if (picture.pixels.isEmpty()) {
-    picPreview->clear();
+    preview_->clear();
     previewCaption_->clear();
     return;
   }
   if (picture.preview.isNull()) {
-    picPreview->setText(QStringLiteral("Too large for a preview"));
+    preview_->setText(QStringLiteral("Too large for a preview"));
   } else {
     QPixmap pixmap = QPixmap::fromImage(picture.preview);
     pixmap.setDevicePixelRatio(PreviewRatio(pixmap.size(), bounds, devicePixelRatioF()));
-    picPreview->setPixmap(pixmap);
+    preview_->setPixmap(pixmap);
   }
   previewCaption_->setText(
       QStringLiteral("%1 × %2 pixels").arg(picture.pixels.width()).arg(picture.pixels.height()));
@@ -189,7 +189,7 @@ void frmInsertElement::AskForMailAddress() {
   const QString answer =
       platform_.dialogs.AskText(QStringLiteral("Please enter the E-mail Address."),
                                 QStringLiteral("Link to a E-mail Address"), ExampleAddress);
-  if (!answer.isEmpty()) txtHref->setText(QStringLiteral("mailto:") + answer);
+  if (!answer.isEmpty()) linkTarget_->setText(QStringLiteral("mailto:") + answer);
 }
 
 }  // namespace velor

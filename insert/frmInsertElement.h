@@ -77,7 +77,7 @@ class frmInsertElement : public QDialog {
   QWidget *BuildVideoPage();
 
   void Connect();
-  void Accept();
+  void InsertAndClose();
   void BrowseForImage();
   void BrowseForLinkTarget();
   void AskForMailAddress();
@@ -91,30 +91,30 @@ class frmInsertElement : public QDialog {
   std::unique_ptr<FileDialog> fileDialog_;
   PictureSize picture_;
 
-  QTabWidget *SSTab1 = nullptr;
+  QTabWidget *pages_ = nullptr;
   /// The box of each page in which typing starts.
   std::array<TextBox *, 4> firstBoxes_{};
 
-  TextBox *txtImgSource = nullptr;
-  TextBox *txtLowRes = nullptr;
-  TextBox *txtAlt = nullptr;
-  QLabel *picPreview = nullptr;
+  TextBox *imageSource_ = nullptr;
+  TextBox *lowResolutionSource_ = nullptr;
+  TextBox *alternativeText_ = nullptr;
+  QLabel *preview_ = nullptr;
   QLabel *previewCaption_ = nullptr;
-  QComboBox *cobIMGAlign = nullptr;
-  TextBox *txtIMGBorder = nullptr;
-  TextBox *txtIMGHSpac = nullptr;
-  TextBox *txtIMGVspac = nullptr;
-  QCheckBox *chkIMGSize = nullptr;
-  TextBox *txtIMGHeight = nullptr;
-  TextBox *txtIMGWidth = nullptr;
+  QComboBox *imageAlignment_ = nullptr;
+  TextBox *imageBorder_ = nullptr;
+  TextBox *imageHorizontalSpacing_ = nullptr;
+  TextBox *imageVerticalSpacing_ = nullptr;
+  QCheckBox *sizeFromBoxes_ = nullptr;
+  TextBox *imageHeight_ = nullptr;
+  TextBox *imageWidth_ = nullptr;
 
-  TextBox *txtHref = nullptr;
+  TextBox *linkTarget_ = nullptr;
 
-  TextBox *txtVidLoop = nullptr;
-  QCheckBox *chkForever = nullptr;
-  QCheckBox *chkVIDSize = nullptr;
-  TextBox *txtVIDHeight = nullptr;
-  TextBox *txtVIDWidth = nullptr;
+  TextBox *videoLoops_ = nullptr;
+  QCheckBox *videoLoopsForever_ = nullptr;
+  QCheckBox *videoSizeFromBoxes_ = nullptr;
+  TextBox *videoHeight_ = nullptr;
+  TextBox *videoWidth_ = nullptr;
 };
 
 }  // namespace velor

@@ -70,15 +70,15 @@ void frmInsertElement::Build() {
   setWindowTitle(QStringLiteral("Element Information..."));
   setModal(true);
 
-  SSTab1 = new QTabWidget;
-  Name(*SSTab1, QStringLiteral("SSTab1"), QStringLiteral("Element"));
+  pages_ = new QTabWidget;
+  Name(*pages_, QStringLiteral("SSTab1"), QStringLiteral("Element"));
   QVBoxLayout *window = MakePage(this);
-  window->addWidget(SSTab1, 1);
-  SSTab1->addTab(BuildImagePage(), QStringLiteral("Image"));
-  SSTab1->addTab(BuildHyperlinkPage(), QStringLiteral("Hyperlink"));
-  SSTab1->addTab(BuildTargetPage(), QStringLiteral("Target"));
-  SSTab1->addTab(BuildVideoPage(), QStringLiteral("Video"));
-  for (int i = 0; i < SSTab1->count(); ++i) AlignLabels(SSTab1->widget(i));
+  window->addWidget(pages_, 1);
+  pages_->addTab(BuildImagePage(), QStringLiteral("Image"));
+  pages_->addTab(BuildHyperlinkPage(), QStringLiteral("Hyperlink"));
+  pages_->addTab(BuildTargetPage(), QStringLiteral("Target"));
+  pages_->addTab(BuildVideoPage(), QStringLiteral("Video"));
+  for (int i = 0; i < pages_->count(); ++i) AlignLabels(pages_->widget(i));
   setMinimumWidth(ComfortableWidth);
   AddButtonRow(window, {MakeButton(QStringLiteral("cmdOK"), QStringLiteral("OK")),
                         MakeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"))});
@@ -87,22 +87,23 @@ void frmInsertElement::Build() {
 QWidget *frmInsertElement::BuildImagePage() {
   const HalvedPage page(QStringLiteral("SSTab2"), QStringLiteral("Image"));
 
-  txtImgSource = AddTextBox(
+  imageSource_ = AddTextBox(
       AddForm(page.general), QStringLiteral("txtImgSource"), QStringLiteral("Image Source:"),
       MakeButton(QStringLiteral("cmdBrowseIMG"), QStringLiteral("&Browse...")));
   QFormLayout *alternative = AddFrame(page.general, QStringLiteral("Alternative"));
-  txtLowRes =
+  lowResolutionSource_ =
       AddTextBox(alternative, QStringLiteral("txtLowRes"), QStringLiteral("Low Resolution:"),
                  MakeButton(QStringLiteral("cmdBrowseLowRes"), QStringLiteral("&Browse...")));
-  txtAlt = AddTextBox(alternative, QStringLiteral("txtAlt"), QStringLiteral("Alternative Text:"));
-  picPreview = new QLabel;
-  Name(*picPreview, QStringLiteral("picPreview"), QStringLiteral("Preview"));
-  picPreview->setFrameShape(QFrame::StyledPanel);
-  picPreview->setAlignment(Qt::AlignCenter);
-  picPreview->setMinimumSize(PreviewBounds);
+  alternativeText_ =
+      AddTextBox(alternative, QStringLiteral("txtAlt"), QStringLiteral("Alternative Text:"));
+  preview_ = new QLabel;
+  Name(*preview_, QStringLiteral("picPreview"), QStringLiteral("Preview"));
+  preview_->setFrameShape(QFrame::StyledPanel);
+  preview_->setAlignment(Qt::AlignCenter);
+  preview_->setMinimumSize(PreviewBounds);
   // The frame follows the dialog, never the picture.
-  picPreview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-  page.general->addWidget(picPreview, 1);
+  preview_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  page.general->addWidget(preview_, 1);
   previewCaption_ = new QLabel;
   previewCaption_->setObjectName(QStringLiteral("lblPreviewSize"));
   previewCaption_->setAlignment(Qt::AlignCenter);
@@ -111,28 +112,29 @@ QWidget *frmInsertElement::BuildImagePage() {
   QFormLayout *layout = AddFrame(page.appearance, QStringLiteral("Layout"));
   const QString zero = QStringLiteral("0");
   const QString pixels = QStringLiteral("32");
-  cobIMGAlign =
+  imageAlignment_ =
       AddComboBox(layout, QStringLiteral("cobIMGAlign"), QStringLiteral("Alignment:"), Alignments);
-  txtIMGBorder = AddNumberBox(layout, QStringLiteral("txtIMGBorder"),
+  imageBorder_ = AddNumberBox(layout, QStringLiteral("txtIMGBorder"),
                               QStringLiteral("Border thickness:"), zero);
-  txtIMGHSpac = AddNumberBox(layout, QStringLiteral("txtIMGHSpac"),
-                             QStringLiteral("Horizontal Spacing:"), zero);
-  txtIMGVspac = AddNumberBox(layout, QStringLiteral("txtIMGVspac"),
-                             QStringLiteral("Vertical Spacing:"), zero);
+  imageHorizontalSpacing_ = AddNumberBox(layout, QStringLiteral("txtIMGHSpac"),
+                                         QStringLiteral("Horizontal Spacing:"), zero);
+  imageVerticalSpacing_ = AddNumberBox(layout, QStringLiteral("txtIMGVspac"),
+                                       QStringLiteral("Vertical Spacing:"), zero);
   QFormLayout *size = AddFrame(page.appearance, QStringLiteral("Size"));
-  chkIMGSize =
+  sizeFromBoxes_ =
       AddCheckBox(size, QStringLiteral("chkIMGSize"), QStringLiteral("Use &Specific Size"));
-  txtIMGHeight =
+  imageHeight_ =
       AddNumberBox(size, QStringLiteral("txtIMGHeight"), QStringLiteral("Height:"), pixels);
-  txtIMGWidth = AddNumberBox(size, QStringLiteral("txtIMGWidth"), QStringLiteral("Width:"), pixels);
+  imageWidth_ = AddNumberBox(size, QStringLiteral("txtIMGWidth"), QStringLiteral("Width:"), pixels);
   page.appearance->addStretch();
 
-  for (TextBox *box : {txtIMGBorder, txtIMGHSpac, txtIMGVspac}) box->RepairNumberTo(zero);
-  for (TextBox *box : {txtIMGHeight, txtIMGWidth}) {
+  for (TextBox *box : {imageBorder_, imageHorizontalSpacing_, imageVerticalSpacing_})
+    box->RepairNumberTo(zero);
+  for (TextBox *box : {imageHeight_, imageWidth_}) {
     box->RepairNumberTo(pixels);
     box->setEnabled(false);
   }
-  firstBoxes_[0] = txtImgSource;
+  firstBoxes_[0] = imageSource_;
   return page.whole;
 }
 
@@ -146,14 +148,14 @@ QWidget *frmInsertElement::BuildHyperlinkPage() {
   for (QPushButton *button : {browse, mail}) button->setAccessibleName(button->toolTip());
 
   QFormLayout *link = AddForm(rows);
-  txtHref =
+  linkTarget_ =
       AddTextBox(link, QStringLiteral("txtHref"), QStringLiteral("Anchor Element Href:"), browse);
   AddComboBox(link, QStringLiteral("cobATarget"), QStringLiteral("Target Frame:"), TargetFrames);
   QFormLayout *special = AddFrame(rows, QStringLiteral("Special Links:"));
   AddButton(special, mail);
   AddBookmarkList(special, QStringLiteral("lstABookMark"),
                   QStringLiteral("Link to a Bookmark (Target):"), QStringLiteral("cmdRefreshA"));
-  firstBoxes_[1] = txtHref;
+  firstBoxes_[1] = linkTarget_;
   return page;
 }
 
@@ -178,9 +180,9 @@ QWidget *frmInsertElement::BuildVideoPage() {
   AddCheckBox(source, QStringLiteral("chkShowControl"),
               QStringLiteral("&Show controls in Browser"));
   QFormLayout *repeat = AddFrame(page.general, QStringLiteral("Repeat"));
-  txtVidLoop = AddNumberBox(repeat, QStringLiteral("txtVidLoop"), QStringLiteral("&Loop:"),
-                            QStringLiteral("1"));
-  chkForever = AddCheckBox(repeat, QStringLiteral("chkForever"), QStringLiteral("Forever"));
+  videoLoops_ = AddNumberBox(repeat, QStringLiteral("txtVidLoop"), QStringLiteral("&Loop:"),
+                             QStringLiteral("1"));
+  videoLoopsForever_ = AddCheckBox(repeat, QStringLiteral("chkForever"), QStringLiteral("Forever"));
   AddNumberBox(repeat, QStringLiteral("txtVidLoopDelay"), QStringLiteral("Loop &delay:"),
                QStringLiteral("0"), QStringLiteral("Milliseconds"));
   QFormLayout *start = AddFrame(page.general, QStringLiteral("Start"));
@@ -199,14 +201,14 @@ QWidget *frmInsertElement::BuildVideoPage() {
   AddNumberBox(layout, QStringLiteral("txtVIDHSpac"), QStringLiteral("Horizontal Spacing:"), zero);
   AddNumberBox(layout, QStringLiteral("txtVIDVspac"), QStringLiteral("Vertical Spacing:"), zero);
   QFormLayout *size = AddFrame(page.appearance, QStringLiteral("Size"));
-  chkVIDSize =
+  videoSizeFromBoxes_ =
       AddCheckBox(size, QStringLiteral("chkVIDSize"), QStringLiteral("Use &Specific Size"));
-  txtVIDHeight =
+  videoHeight_ =
       AddNumberBox(size, QStringLiteral("txtVIDHeight"), QStringLiteral("Height:"), pixels);
-  txtVIDWidth = AddNumberBox(size, QStringLiteral("txtVIDWidth"), QStringLiteral("Width:"), pixels);
+  videoWidth_ = AddNumberBox(size, QStringLiteral("txtVIDWidth"), QStringLiteral("Width:"), pixels);
   page.appearance->addStretch();
 
-  for (TextBox *box : {txtVIDHeight, txtVIDWidth}) box->RepairNumberTo(pixels);
+  for (TextBox *box : {videoHeight_, videoWidth_}) box->RepairNumberTo(pixels);
   return page.whole;
 }
 

@@ -37,14 +37,14 @@ frmProjectManager::frmProjectManager(Platform &platform, ProgramValues &values, 
     : QDialog(parent), platform_(platform), values_(values), host_(host) {
   Build();
   if (sweeps) sweeps->FlatSweep(*this);
-  SSTab1->setCurrentIndex(0);
-  SSTab1->setTabEnabled(PagesTab, false);
-  for (int tab = FirstUnusedTab; tab < SSTab1->count(); ++tab) SSTab1->setTabVisible(tab, false);
+  tabs_->setCurrentIndex(0);
+  tabs_->setTabEnabled(PagesTab, false);
+  for (int tab = FirstUnusedTab; tab < tabs_->count(); ++tab) tabs_->setTabVisible(tab, false);
   LoadProjects();
 
-  connect(SSTab1, &QTabWidget::currentChanged, this, &frmProjectManager::ListPages);
-  connect(cmdOpen, &QPushButton::clicked, this, &frmProjectManager::OpenCurrentProject);
-  connect(LsHistory, &QAbstractItemView::doubleClicked, cmdOpen, &QPushButton::click);
+  connect(tabs_, &QTabWidget::currentChanged, this, &frmProjectManager::ListPages);
+  connect(openButton_, &QPushButton::clicked, this, &frmProjectManager::OpenCurrentProject);
+  connect(projectList_, &QAbstractItemView::doubleClicked, openButton_, &QPushButton::click);
 }
 
 frmProjectManager::~frmProjectManager() = default;
@@ -63,41 +63,41 @@ void frmProjectManager::Build() {
   setObjectName(QStringLiteral("frmProjectManager"));
   setWindowTitle(QStringLiteral("Web Site Project Manager"));
   setModal(true);
-  SSTab1 = new QTabWidget;
-  SSTab1->setObjectName(QStringLiteral("SSTab1"));
-  column(this)->addWidget(SSTab1);
+  tabs_ = new QTabWidget;
+  tabs_->setObjectName(QStringLiteral("SSTab1"));
+  column(this)->addWidget(tabs_);
 
   auto *projectsPage = new QWidget;
   QVBoxLayout *projects = column(projectsPage);
   auto *Label1 = new QLabel(QStringLiteral("Select the Project and open it."));
   Label1->setObjectName(QStringLiteral("Label1"));
-  LsHistory = new RecordList(
+  projectList_ = new RecordList(
       {QStringLiteral("ProjectId"), QStringLiteral("ProjectName"), QStringLiteral("DateModified")},
       1);
-  LsHistory->setObjectName(QStringLiteral("LsHistory"));
-  LsHistory->setAccessibleName(Label1->text());
-  cmdOpen = new QPushButton(QStringLiteral("Open"));
-  cmdOpen->setObjectName(QStringLiteral("cmdOpen"));
-  cmdOpen->setAccessibleName(cmdOpen->text());
-  cmdOpen->setDefault(true);
-  Label1->setBuddy(LsHistory);
+  projectList_->setObjectName(QStringLiteral("LsHistory"));
+  projectList_->setAccessibleName(Label1->text());
+  openButton_ = new QPushButton(QStringLiteral("Open"));
+  openButton_->setObjectName(QStringLiteral("cmdOpen"));
+  openButton_->setAccessibleName(openButton_->text());
+  openButton_->setDefault(true);
+  Label1->setBuddy(projectList_);
   projects->addWidget(Label1);
-  projects->addWidget(LsHistory);
-  projects->addWidget(cmdOpen, 0, Qt::AlignRight);
+  projects->addWidget(projectList_);
+  projects->addWidget(openButton_, 0, Qt::AlignRight);
 
   auto *pagesPage = new QWidget;
-  LstPages = new RecordList({QStringLiteral("PageId"), QStringLiteral("PageName")}, 1);
-  LstPages->setObjectName(QStringLiteral("LstPages"));
-  LstPages->setAccessibleName(QStringLiteral("Web Pages"));
-  column(pagesPage)->addWidget(LstPages);
+  pageList_ = new RecordList({QStringLiteral("PageId"), QStringLiteral("PageName")}, 1);
+  pageList_->setObjectName(QStringLiteral("LstPages"));
+  pageList_->setAccessibleName(QStringLiteral("Web Pages"));
+  column(pagesPage)->addWidget(pageList_);
 
-  SSTab1->addTab(projectsPage, QStringLiteral("Project Manager"));
-  SSTab1->addTab(pagesPage, QStringLiteral("Web Pages"));
+  tabs_->addTab(projectsPage, QStringLiteral("Project Manager"));
+  tabs_->addTab(pagesPage, QStringLiteral("Web Pages"));
   for (const char16_t *unused : {u"Images", u"Reports", u"Tab 4"}) {
-    SSTab1->addTab(new QWidget, QString::fromUtf16(unused));
+    tabs_->addTab(new QWidget, QString::fromUtf16(unused));
   }
   resize(ComfortableSize);
-  LsHistory->setFocus();
+  projectList_->setFocus();
 }
 
 void frmProjectManager::reject() {
@@ -107,24 +107,24 @@ void frmProjectManager::reject() {
 
 void frmProjectManager::LoadProjects() {
   const int count = Query(Statements::GeneratedProjects()).RecordCount();
-  FillList(*LsHistory, projects_,
+  FillList(*projectList_, projects_,
            count < 2 ? Statements::GeneratedProjects() : Statements::GeneratedProjectsByDate(),
            LeadingColumn::None, 0, {},
            {QStringLiteral("IdProject"), QStringLiteral("Name"), QStringLiteral("DtModified")},
            Connection());
-  cmdOpen->setEnabled(count > 0);
-  SSTab1->setTabEnabled(PagesTab, count > 0);
+  openButton_->setEnabled(count > 0);
+  tabs_->setTabEnabled(PagesTab, count > 0);
 }
 
 void frmProjectManager::ListPages(int tab) {
-  const QVariant projectId = LsHistory->CurrentValue();
+  const QVariant projectId = projectList_->CurrentValue();
   if (tab != PagesTab || TextOf(projectId).isEmpty()) return;
-  FillList(*LstPages, pages_, Statements::PageListOfProject(projectId), LeadingColumn::None, 0, {},
+  FillList(*pageList_, pages_, Statements::PageListOfProject(projectId), LeadingColumn::None, 0, {},
            {QStringLiteral("PageId"), QStringLiteral("PageName")}, Connection());
 }
 
 void frmProjectManager::OpenCurrentProject() {
-  const QVariant projectId = LsHistory->CurrentValue();
+  const QVariant projectId = projectList_->CurrentValue();
   const Recordset &project = Query(Statements::ProjectById(projectId));
   if (project.RecordCount() > 0) {
     const QString start = TextOf(project.Value(PathColumn)) + QStringLiteral("\\Index.htm");

@@ -32,7 +32,8 @@ class frmProjectManager : public QDialog {
                     StylingSweeps *sweeps, QWidget *parent = nullptr);
   ~frmProjectManager() override;
 
-  /// Fills `LsHistory`, and makes opening and the page list available when there are projects.
+  /// Fills the list of projects, and makes opening and the page list available when there are
+  /// projects.
   void LoadProjects();
 
   /// Whether the person has closed the window rather than opened a project: whoever holds it
@@ -60,10 +61,10 @@ class frmProjectManager : public QDialog {
   RowTable pages_;
   bool closed_ = false;
 
-  QTabWidget *SSTab1 = nullptr;
-  RecordList *LsHistory = nullptr;
-  RecordList *LstPages = nullptr;
-  QPushButton *cmdOpen = nullptr;
+  QTabWidget *tabs_ = nullptr;
+  RecordList *projectList_ = nullptr;
+  RecordList *pageList_ = nullptr;
+  QPushButton *openButton_ = nullptr;
 };
 
 }  // namespace velor

@@ -41,19 +41,19 @@ void ShowColor(ColorPicker &picker, const QString &htmlColor) {
 
 FormattingBar::FormattingBar(QWidget *parent)
     : QWidget(parent),
-      cobFormat(Named(new ChoiceBox(this), "cobFormat", tr("Block Format"))),
-      cobSize(Named(new ChoiceBox(this), "cobSize", tr("Font Size"))),
-      Font1(Named(new FontPicker(this), "Font1", tr("Font"))) {
+      blockFormat_(Named(new ChoiceBox(this), "cobFormat", tr("Block Format"))),
+      fontSize_(Named(new ChoiceBox(this), "cobSize", tr("Font Size"))),
+      fontName_(Named(new FontPicker(this), "Font1", tr("Font"))) {
   // The keyboard is in the picker's text box, which is heard by a name of its own.
-  Font1->lineEdit()->setAccessibleName(Font1->accessibleName());
-  cobFormat->setFixedWidth(FormatWidth);
-  Font1->setFixedWidth(FontWidth);
-  cobSize->setFixedWidth(SizeWidth);
+  fontName_->lineEdit()->setAccessibleName(fontName_->accessibleName());
+  blockFormat_->setFixedWidth(FormatWidth);
+  fontName_->setFixedWidth(FontWidth);
+  fontSize_->setFixedWidth(SizeWidth);
 
   auto *row = new QHBoxLayout(this);
   row->setContentsMargins(BarMargin - BarSpacing, 0, 0, 0);
   row->setSpacing(BarMargin);
-  for (QWidget *box : std::initializer_list<QWidget *>{cobFormat, Font1, cobSize}) {
+  for (QWidget *box : std::initializer_list<QWidget *>{blockFormat_, fontName_, fontSize_}) {
     row->addWidget(box);
   }
   QToolBar *tbrEdit = BuildButtons();
@@ -61,11 +61,11 @@ FormattingBar::FormattingBar(QWidget *parent)
   tbrEdit->addWidget(BuildColors());
   row->addWidget(tbrEdit, 1);
 
-  connect(cobFormat, &ChoiceBox::Clicked, this, &FormattingBar::BlockFormatClicked);
-  connect(cobSize, &ChoiceBox::Clicked, this, &FormattingBar::FontSizeClicked);
-  connect(Font1, &FontPicker::FontChosen, this, &FormattingBar::FontNameChanged);
-  connect(cpFore, &ColorPicker::ColorChosen, this, &FormattingBar::ForeColorChanged);
-  connect(cpBack, &ColorPicker::ColorChosen, this, &FormattingBar::BackColorChanged);
+  connect(blockFormat_, &ChoiceBox::Clicked, this, &FormattingBar::BlockFormatClicked);
+  connect(fontSize_, &ChoiceBox::Clicked, this, &FormattingBar::FontSizeClicked);
+  connect(fontName_, &FontPicker::FontChosen, this, &FormattingBar::FontNameChanged);
+  connect(textColor_, &ColorPicker::ColorChosen, this, &FormattingBar::ForeColorChanged);
+  connect(backColor_, &ColorPicker::ColorChosen, this, &FormattingBar::BackColorChanged);
 }
 
 QToolBar *FormattingBar::BuildButtons() {
@@ -82,30 +82,31 @@ QToolBar *FormattingBar::BuildButtons() {
 
 QWidget *FormattingBar::BuildColors() {
   auto *colors = new QWidget(this);
-  cpFore = Named(new ColorPicker(QStringLiteral("forecolor"), colors), "cpFore", tr("Text Color"));
-  cpBack =
+  textColor_ =
+      Named(new ColorPicker(QStringLiteral("forecolor"), colors), "cpFore", tr("Text Color"));
+  backColor_ =
       Named(new ColorPicker(QStringLiteral("backcolor"), colors), "cpBack", tr("Background Color"));
-  cpBack->SetColor(PaperWhite);
+  backColor_->SetColor(PaperWhite);
   auto *row = new QHBoxLayout(colors);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(BarSpacing);
-  row->addWidget(cpFore);
-  row->addWidget(cpBack);
+  row->addWidget(textColor_);
+  row->addWidget(backColor_);
   return colors;
 }
 
 void FormattingBar::InitialiseFonts() {
-  Font1->Initialise();
+  fontName_->Initialise();
 }
 
 void FormattingBar::FillBlockFormats(const QStringList &names) {
-  cobFormat->addItems(names);
-  cobFormat->ShowText(QString());
+  blockFormat_->addItems(names);
+  blockFormat_->ShowText(QString());
 }
 
 void FormattingBar::FillFontSizes() {
-  for (const int points : FontSizePoints) cobSize->addItem(QString::number(points));
-  cobSize->ShowText(QString());
+  for (const int points : FontSizePoints) fontSize_->addItem(QString::number(points));
+  fontSize_->ShowText(QString());
 }
 
 void FormattingBar::ShowButton(EditingCommand command, ButtonState state) {
@@ -119,23 +120,23 @@ void FormattingBar::ShowButton(EditingCommand command, ButtonState state) {
 }
 
 void FormattingBar::ShowFontName(const QString &name) {
-  if (Font1->FontName() != name) Font1->SetFontName(name);
+  if (fontName_->FontName() != name) fontName_->SetFontName(name);
 }
 
 void FormattingBar::ShowBlockFormat(const QString &name) {
-  if (cobFormat->Text() != name) cobFormat->ShowText(name);
+  if (blockFormat_->Text() != name) blockFormat_->ShowText(name);
 }
 
 void FormattingBar::ShowFontSize(const QString &points) {
-  if (cobSize->Text() != points) cobSize->ShowText(points);
+  if (fontSize_->Text() != points) fontSize_->ShowText(points);
 }
 
 void FormattingBar::ShowForeColor(const QString &htmlColor) {
-  ShowColor(*cpFore, htmlColor);
+  ShowColor(*textColor_, htmlColor);
 }
 
 void FormattingBar::ShowBackColor(const QString &htmlColor) {
-  ShowColor(*cpBack, htmlColor);
+  ShowColor(*backColor_, htmlColor);
 }
 
 }  // namespace velor

@@ -52,11 +52,11 @@ class FormattingBar final : public QWidget, public FormatDisplay {
   QToolBar *BuildButtons();
   QWidget *BuildColors();
 
-  ChoiceBox *cobFormat;
-  ChoiceBox *cobSize;
-  FontPicker *Font1;
-  ColorPicker *cpFore;
-  ColorPicker *cpBack;
+  ChoiceBox *blockFormat_;
+  ChoiceBox *fontSize_;
+  FontPicker *fontName_;
+  ColorPicker *textColor_;
+  ColorPicker *backColor_;
   /// In the order of EditCommands.
   std::array<ToolBarAction *, EditCommands.size()> buttons_{};
 };
