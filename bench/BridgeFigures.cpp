@@ -70,7 +70,7 @@ void AddClock(QWidget *container) {
 
 /// Milliseconds of the bridge's for a key, on the page at `path`.
 double ShareOfAKey(PageBench &bench, const QString &path) {
-  constexpr int keys = 10;
+  constexpr int Keys = 10;
   QWidget *container = bench.ours.editor.Widget();
   bench.ours.editor.SetDocumentHTML(QStringLiteral("<p>in between</p>"));
   bench.ours.editor.LoadDocument(ToLogic(path));
@@ -83,14 +83,14 @@ double ShareOfAKey(PageBench &bench, const QString &path) {
     return Evaluate(container, QStringLiteral("bridgeClock.pushes")).toInt();
   };
   double before = 0;
-  for (int key = 0; key <= keys; ++key) {
+  for (int key = 0; key <= Keys; ++key) {
     const int told = pushes();
     QTest::keyClick(target, key % 6 == 5 ? Qt::Key_Space : Qt::Key_X);
     WaitUntil([&] { return pushes() > told; });
     // The first one finds a page that has just been laid out.
     if (key == 0) before = Evaluate(container, QStringLiteral("bridgeClock.spent")).toDouble();
   }
-  return (Evaluate(container, QStringLiteral("bridgeClock.spent")).toDouble() - before) / keys;
+  return (Evaluate(container, QStringLiteral("bridgeClock.spent")).toDouble() - before) / Keys;
 }
 
 struct Command {

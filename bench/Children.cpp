@@ -95,12 +95,12 @@ double MemoryOf(const QString &figure) {
 }
 
 double IdleTimeOf(const QString &figure) {
-  constexpr unsigned long settling = 5;
-  constexpr unsigned long watched = 20;
+  constexpr unsigned long Settling = 5;
+  constexpr unsigned long Watched = 20;
   const Child child(figure);
-  QThread::sleep(settling);
+  QThread::sleep(Settling);
   const double before = ProcessorTimeOfTree(child.Pid());
-  QThread::sleep(watched);
+  QThread::sleep(Watched);
   return ProcessorTimeOfTree(child.Pid()) - before;
 }
 

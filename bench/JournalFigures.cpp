@@ -57,13 +57,13 @@ class Typist {
   /// The mean time of a key, in milliseconds.
   double Type(bool isJournalled) {
     Evaluate(QStringLiteral("journalling(%1)").arg(isJournalled ? 1 : 0));
-    constexpr int keys = 30;
+    constexpr int Keys = 30;
     QWidget *target = view_->focusProxy();
-    for (int key = 1; key <= keys; ++key) {
+    for (int key = 1; key <= Keys; ++key) {
       QTest::keyClick(target, key % 6 == 0 ? Qt::Key_Space : Qt::Key_X);
       QTest::qWait(40);  // nobody types faster
     }
-    WaitUntil([this] { return Evaluate(QStringLiteral("paints.length")).toInt() >= keys; });
+    WaitUntil([this] { return Evaluate(QStringLiteral("paints.length")).toInt() >= Keys; });
     return Evaluate(QStringLiteral("paints.reduce((sum, time) => sum + time, 0) / paints.length"))
         .toDouble();
   }

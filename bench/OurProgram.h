@@ -10,7 +10,7 @@
 
 namespace velor {
 
-class RealPlatform;
+struct RealPlatform;
 struct EditorContext;
 
 namespace bench {

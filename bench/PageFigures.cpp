@@ -123,8 +123,8 @@ void ReadingFigures() {
 /// After a person has rested for a moment, what a save writes has been worked out; straight after a
 /// key it has to be found and verified first.
 void SavingAfterAnEditFigures() {
-  constexpr int rest = 4000;  // milliseconds
-  SaveAfterEdit(QStringLiteral("save after an edit and a rest"), Sizes[2], rest);
+  constexpr int Rest = 4000;  // milliseconds
+  SaveAfterEdit(QStringLiteral("save after an edit and a rest"), Sizes[2], Rest);
   for (const Size &size : Sizes)
     SaveAfterEdit(QStringLiteral("save straight after an edit"), size, 0);
 }

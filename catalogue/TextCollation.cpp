@@ -108,7 +108,7 @@ void AddTextCollation(sqlite3 *database) {
   auto collation = std::make_unique<TextCollation>();
   if (sqlite3_create_collation_v2(database, TextCollationName, SQLITE_UTF8, collation.get(),
                                   Compare, Delete) == SQLITE_OK) {
-    collation.release();
+    static_cast<void>(collation.release());  // Delete is called with it
   }
 }
 

@@ -18,14 +18,14 @@ namespace {
 using namespace std::chrono_literals;
 
 /// Between two keys of somebody who types on there is less than this.
-constexpr std::chrono::milliseconds pause = 150ms;
+constexpr std::chrono::milliseconds Pause = 150ms;
 /// With the component's own delay this leaves the journal less than two seconds behind.
-constexpr std::chrono::milliseconds longestDelay = 600ms;
+constexpr std::chrono::milliseconds LongestDelay = 600ms;
 /// Whoever rests this long does not wait for a key to show.
-constexpr std::chrono::milliseconds idle = 500ms;
+constexpr std::chrono::milliseconds Idle = 500ms;
 /// After this a moment between two keys is used to bring the journal to the disk. They come about
 /// once a second.
-constexpr std::chrono::milliseconds longestUnsynced = 500ms;
+constexpr std::chrono::milliseconds LongestUnsynced = 500ms;
 
 }  // namespace
 
@@ -54,14 +54,14 @@ void PageJournal::WriteSoon() {
   if (hasLeft_) return;
   if (!sinceChange_.isValid()) sinceChange_.start();
   const std::chrono::milliseconds left =
-      longestDelay - std::chrono::milliseconds(sinceChange_.elapsed());
-  writing_.start(std::clamp(left, 0ms, pause));
-  resting_.start(idle);
+      LongestDelay - std::chrono::milliseconds(sinceChange_.elapsed());
+  writing_.start(std::clamp(left, 0ms, Pause));
+  resting_.start(Idle);
 }
 
 void PageJournal::UseTheMoment() {
   if (writing_.isActive()) Write();
-  if (!sinceWrite_.isValid() || !sinceWrite_.hasExpired(longestUnsynced.count())) return;
+  if (!sinceWrite_.isValid() || !sinceWrite_.hasExpired(LongestUnsynced.count())) return;
   sinceWrite_.invalidate();
   Attempt([this] { journal_->Sync(); });
 }
@@ -142,7 +142,7 @@ bool PageJournal::IsWritten(const JournalledPage &page) const {
 }
 
 void PageJournal::RestWhenIdle() {
-  component_.IsIdle() ? Rest() : resting_.start(idle);
+  component_.IsIdle() ? Rest() : resting_.start(Idle);
 }
 
 void PageJournal::Rest() {

@@ -33,9 +33,9 @@ FileWriteError WriteError(int errnoValue, const QString &path) {
 
 /// The path that a chain of symbolic links ends at, whether something is there or not.
 QString FollowLinks(const QString &path) {
-  constexpr int mostLinks = 40;  // as many as the system itself follows
+  constexpr int MostLinks = 40;  // as many as the system itself follows
   QString target = path;
-  for (int i = 0; i < mostLinks; ++i) {
+  for (int i = 0; i < MostLinks; ++i) {
     char link[PATH_MAX];
     const ssize_t length = readlink(QFile::encodeName(target).constData(), link, sizeof link);
     if (length < 0) return target;

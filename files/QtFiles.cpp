@@ -18,7 +18,7 @@ namespace velor {
 namespace {
 
 /// What no page, picture or settings file comes near; reading more would hold the program up.
-constexpr off_t LargestRead = 256 * 1024 * 1024;
+constexpr off_t LargestRead = off_t{256} * 1024 * 1024;
 
 QString Find(const QString &path, NameOrigin origin) {
   return origin == NameOrigin::Program ? FindIgnoringCase(path) : ToNative(path);

@@ -23,8 +23,8 @@ QString Origin(const QString &kept) {
 
 /// The end of a name, short enough that time and suffix fit before and behind it.
 QString ShortName(const QString &nativePath) {
-  constexpr qsizetype most = 60;  // UTF-16 units, of up to three bytes each
-  return QFileInfo(nativePath).fileName().right(most);
+  constexpr qsizetype Most = 60;  // UTF-16 units, of up to three bytes each
+  return QFileInfo(nativePath).fileName().right(Most);
 }
 
 QString FreeName(const QString &folder, const QDateTime &time, const QString &name) {

@@ -145,8 +145,8 @@ Parsed ParseOrRaise(QStringView text, const QString &source) {
 template <typename Integer>
 Integer ToInteger(QStringView text, const QString &source) {
   const Parsed parsed = ParseOrRaise(text, source);
-  constexpr int width = std::numeric_limits<std::make_unsigned_t<Integer>>::digits;
-  return ToInteger<Integer>(parsed.isBits ? Signed(parsed.value, width) : parsed.value, source);
+  constexpr int Width = std::numeric_limits<std::make_unsigned_t<Integer>>::digits;
+  return ToInteger<Integer>(parsed.isBits ? Signed(parsed.value, Width) : parsed.value, source);
 }
 
 }  // namespace
@@ -186,8 +186,8 @@ double Val(QStringView text) {
   const Parsed parsed = ParseStart(compact);
   if (parsed.isBits) return Signed(parsed.value, parsed.value < std::ldexp(1, 16) ? 16 : 32);
   // The nearest number that there is, so that callers may go on calculating.
-  constexpr double largest = std::numeric_limits<double>::max();
-  return std::clamp(parsed.value, -largest, largest);
+  constexpr double Largest = std::numeric_limits<double>::max();
+  return std::clamp(parsed.value, -Largest, Largest);
 }
 
 bool IsNumeric(QStringView text) {

@@ -12,7 +12,7 @@ namespace velor {
 
 namespace {
 
-constexpr std::array<const char *, SourceRoleCount> roleNames = {
+constexpr std::array<const char *, SourceRoleCount> RoleNames = {
     "Text", "Tag", "Attribute", "String", "Comment", "Number", "Entity", "Keyword"};
 
 }  // namespace
@@ -23,7 +23,7 @@ const char *SourceLexer::language() const {
 
 QString SourceLexer::description(int style) const {
   return style >= 0 && style < SourceRoleCount
-             ? QString::fromLatin1(roleNames.at(static_cast<std::size_t>(style)))
+             ? QString::fromLatin1(RoleNames.at(static_cast<std::size_t>(style)))
              : QString();
 }
 

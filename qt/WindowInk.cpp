@@ -40,11 +40,10 @@ QRegion InkTable::Replace(Ink ink) {
 }
 
 std::vector<InkTable::Ink> InkTable::TakeOf(const ISubclass &handler) {
-  const auto rest =
-      std::ranges::stable_partition(all_, [&](const Ink &ink) { return ink.handler != &handler; });
-  std::vector<Ink> taken(std::make_move_iterator(rest.begin()),
-                         std::make_move_iterator(rest.end()));
-  all_.erase(rest.begin(), rest.end());
+  const auto rest = std::stable_partition(all_.begin(), all_.end(),
+                                          [&](const Ink &ink) { return ink.handler != &handler; });
+  std::vector<Ink> taken(std::make_move_iterator(rest), std::make_move_iterator(all_.end()));
+  all_.erase(rest, all_.end());
   return taken;
 }
 

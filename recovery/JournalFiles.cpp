@@ -33,8 +33,8 @@ constexpr qsizetype RoomAtLeast = 4096;
 /// Folders that hold nothing are looked at as well, but a start is not to be felt.
 constexpr int MostLookedAt = 1000;
 
-const QString lockName = QStringLiteral("lock");
-const QString fragments = QStringLiteral("*.tmp");
+const QString LockName = QStringLiteral("lock");
+const QString Fragments = QStringLiteral("*.tmp");
 
 /// Whatever has a journal's name, a file or not: what is no journal is told, not passed over.
 QStringList JournalsIn(const QString &folder) {
@@ -45,7 +45,7 @@ QStringList JournalsIn(const QString &folder) {
 
 /// The lock of a run's folder; not open where another holds it, or where the folder has gone.
 FileDescriptor TakeLock(const QString &folder) {
-  const QByteArray name = QFile::encodeName(folder + u'/' + lockName);
+  const QByteArray name = QFile::encodeName(folder + u'/' + LockName);
   FileDescriptor lock(open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, OwnerOnly));
   struct stat status {};
   const bool isOurs = lock.IsOpen() && flock(lock.Number(), LOCK_EX | LOCK_NB) == 0 &&
@@ -85,7 +85,7 @@ FileDescriptor OpenJournal(const QString &path) {
   return file;
 }
 
-const QString damagedBeginning =
+const QString DamagedBeginning =
     QStringLiteral("its beginning is damaged, or another version of the program wrote it.");
 
 AbandonedPage Summary(const QString &path) {
@@ -95,7 +95,7 @@ AbandonedPage Summary(const QString &path) {
     QFile reader;
     reader.open(file.Number(), QIODevice::ReadOnly);
     const auto summary = SummariseJournal(reader);
-    if (!summary) throw Defect(path, damagedBeginning);
+    if (!summary) throw Defect(path, DamagedBeginning);
     page = *summary;
   } catch (const RuntimeError &error) {
     page.defect = error.Description();
@@ -229,7 +229,7 @@ QString JournalFiles::OwnFolder() {
   const auto startTime = QDateTime::currentMSecsSinceEpoch();
   // Another run may look into the folder before it is locked, and remove it: then the next name.
   for (int attempt = 0; own_.isEmpty() || !QFile::exists(own_); ++attempt) {
-    constexpr int mostAttempts = 10;
+    constexpr int MostAttempts = 10;
     const QString folder =
         QStringLiteral("%1/%2-%3")
             .arg(root_, QString::number(getpid()), QString::number(startTime + attempt));
@@ -239,7 +239,7 @@ QString JournalFiles::OwnFolder() {
     if (lock.IsOpen()) {
       locks_[folder] = std::move(lock);
       own_ = folder;
-    } else if (attempt == mostAttempts) {
+    } else if (attempt == MostAttempts) {
       throw RuntimeError::Of(ErrorNumber::PathFileAccess, QStringLiteral("Journal"), folder);
     }
   }
@@ -292,7 +292,7 @@ JournalReading JournalFiles::Read(const QString &id) {
   QFile reader;
   reader.open(file.Number(), QIODevice::ReadOnly);
   auto reading = ReadJournal(reader.readAll());
-  if (!reading) throw Defect(id, damagedBeginning);
+  if (!reading) throw Defect(id, DamagedBeginning);
   return *std::move(reading);
 }
 
@@ -308,9 +308,9 @@ void JournalFiles::RemoveIfEmpty(const QString &folder) {
     calls_.Unlink(QFile::encodeName(folder + u'/' + name).constData());
   };
   // What a process left there that ended while it wrote.
-  for (const QString &name : QDir(folder).entryList({fragments}, QDir::Files | QDir::Hidden))
+  for (const QString &name : QDir(folder).entryList({Fragments}, QDir::Files | QDir::Hidden))
     remove(name);
-  remove(lockName);
+  remove(LockName);
   rmdir(QFile::encodeName(folder).constData());
   locks_.erase(folder);
   if (folder == own_) own_.clear();

@@ -26,12 +26,12 @@ constexpr qsizetype ChecksumSize = sizeof(quint64);
 
 /// Tells a torn or empty end of a file from what was written; no protection against intent.
 quint64 Checksum(QByteArrayView bytes) {
-  constexpr quint64 prime = 0x9E3779B97F4A7C15U;
-  quint64 sum = prime;
+  constexpr quint64 Prime = 0x9E3779B97F4A7C15U;
+  quint64 sum = Prime;
   for (; !bytes.isEmpty(); bytes = bytes.sliced(std::min(bytes.size(), ChecksumSize))) {
     quint64 word = 0;
     std::memcpy(&word, bytes.data(), static_cast<size_t>(std::min(bytes.size(), ChecksumSize)));
-    sum = (sum ^ word) * prime;
+    sum = (sum ^ word) * Prime;
     sum ^= sum >> 32U;
   }
   return sum;

@@ -26,15 +26,15 @@ namespace velor {
 
 namespace {
 
-const QString source = QStringLiteral("EditingSuite");
+const QString Source = QStringLiteral("EditingSuite");
 
 /// Rows that are asked for at once. Where they come to no end, each is tried by itself.
-constexpr int batch = 50;
+constexpr int Batch = 50;
 
 QString TextOf(const QString &path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly))
-    throw RuntimeError::Of(ErrorNumber::FileNotFound, source, path);
+    throw RuntimeError::Of(ErrorNumber::FileNotFound, Source, path);
   return QString::fromUtf8(file.readAll());
 }
 
@@ -46,13 +46,13 @@ QString SuiteScripts() {
 }
 
 /// What the names in the suite's markup stand for.
-const QString suiteRules = QStringLiteral(
+const QString SuiteRules = QStringLiteral(
     "<style>.bold { font-weight: bold } .notbold { font-weight: normal } "
     ".italic { font-style: italic } .underline { text-decoration: underline } "
     "#purple { color: purple }</style>");
 
-const QString html5 = QStringLiteral("<!DOCTYPE html>");
-const QString html4 = QStringLiteral(
+const QString Html5Doctype = QStringLiteral("<!DOCTYPE html>");
+const QString Html4Doctype = QStringLiteral(
     "<!DOCTYPE html PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\" "
     "\"http://www.w3.org/TR/html4/loose.dtd\">");
 
@@ -121,7 +121,7 @@ std::vector<EditingSuite::Outcome> EditingSuite::RunRows(const QString &way, int
   int oneByOneUntil = 0;
   while (static_cast<int>(outcomes.size()) < total) {
     const int from = static_cast<int>(outcomes.size());
-    const int count = from < oneByOneUntil ? 1 : qMin(batch, total - from);
+    const int count = from < oneByOneUntil ? 1 : qMin(Batch, total - from);
     const std::optional<QJsonValue> answer =
         Evaluate(QStringLiteral("velorSuite.run('%1', %2, %3)").arg(way).arg(from).arg(count));
     if (!answer) {
@@ -130,7 +130,7 @@ std::vector<EditingSuite::Outcome> EditingSuite::RunRows(const QString &way, int
       Open(dialect);
       continue;
     }
-    for (const QJsonValue &each : answer->toArray()) {
+    for (const QJsonValue each : answer->toArray()) {
       const QJsonValue states = each[u"states"];
       outcomes.push_back({each[u"holds"].toBool(), each[u"found"].toString(),
                           states.isString() ? std::optional(states.toString()) : std::nullopt});
@@ -143,8 +143,9 @@ QJsonValue EditingSuite::Open(Dialect dialect) {
   QEventLoop loop;
   const auto loaded =
       QObject::connect(view_.page(), &QWebEnginePage::loadFinished, &loop, &QEventLoop::quit);
-  view_.setHtml((dialect == Dialect::Html5 ? html5 : html4) + QStringLiteral("<html><head>") +
-                suiteRules + QStringLiteral("</head><body></body></html>"));
+  view_.setHtml((dialect == Dialect::Html5 ? Html5Doctype : Html4Doctype) +
+                QStringLiteral("<html><head>") + SuiteRules +
+                QStringLiteral("</head><body></body></html>"));
   loop.exec();
   QObject::disconnect(loaded);
   view_.page()->runJavaScript(BridgeScript() + SuiteScripts(), bridgeWorld);
@@ -153,7 +154,7 @@ QJsonValue EditingSuite::Open(Dialect dialect) {
                    .arg(ScriptValue(data_), ScriptValue(dialect == Dialect::Html5)));
   const QString error = counts ? (*counts)[u"error"].toString() : QStringLiteral("no end");
   if (!error.isEmpty())
-    throw RuntimeError::Of(ErrorNumber::TypeMismatch, source, path_ + QStringLiteral(": ") + error);
+    throw RuntimeError::Of(ErrorNumber::TypeMismatch, Source, path_ + QStringLiteral(": ") + error);
   return *counts;
 }
 

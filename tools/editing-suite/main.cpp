@@ -13,7 +13,7 @@
 
 namespace {
 
-const char *const description =
+const char *const Description =
     "Runs data files of the browsers' common suite of editing tests against the editor and prints\n"
     "a line for each file:\n"
     "\n"
@@ -73,7 +73,7 @@ int main(int argc, char **argv) {
   PrepareEnvironment();
   const QApplication application(argc, argv);
   QCommandLineParser parser;
-  parser.setApplicationDescription(QLatin1String(description));
+  parser.setApplicationDescription(QLatin1String(Description));
   parser.addHelpOption();
   const QCommandLineOption differences(QStringLiteral("differences"),
                                        QStringLiteral("Also prints each row that does not hold."));

@@ -13,10 +13,10 @@
 
 namespace {
 
-constexpr int somePageFailed = 1;
-constexpr int wrongUse = 2;
+constexpr int SomePageFailed = 1;
+constexpr int WrongUse = 2;
 
-const char *const description =
+const char *const Description =
     "Opens pages in the editing component, makes an edit in each, saves copies of them and prints "
     "a line of JSON a file:\n"
     "  file            as given\n"
@@ -42,7 +42,7 @@ void PrepareEngine() {
 
 int Usage(const QString &fault) {
   std::fprintf(stderr, "velor-page-check: %s (see --help)\n", qPrintable(fault));
-  return wrongUse;
+  return WrongUse;
 }
 
 }  // namespace
@@ -62,7 +62,7 @@ int main(int argc, char **argv) {
   const QCommandLineOption nth(QStringLiteral("nth"),
                                QStringLiteral("The place of the edit, counted from 0."),
                                QStringLiteral("N"), QStringLiteral("0"));
-  parser.setApplicationDescription(QString::fromLatin1(description));
+  parser.setApplicationDescription(QString::fromLatin1(Description));
   parser.addOptions({help, edit, nth});
   parser.addPositionalArgument(QStringLiteral("FILES"), QStringLiteral("Pages."),
                                QStringLiteral("FILES..."));
@@ -85,13 +85,13 @@ int main(int argc, char **argv) {
     velor::PageCheck check(engine);
     for (const QString &file : parser.positionalArguments()) {
       const QJsonObject result = check.Run(file, kind, place);
-      if (result.contains(velor::PageCheck::ErrorField())) status = somePageFailed;
+      if (result.contains(velor::PageCheck::ErrorField())) status = SomePageFailed;
       std::printf("%s\n", QJsonDocument(result).toJson(QJsonDocument::Compact).constData());
       std::fflush(stdout);
     }
     return status;
   } catch (const std::exception &error) {
     std::fprintf(stderr, "velor-page-check: %s\n", error.what());
-    return somePageFailed;
+    return SomePageFailed;
   }
 }
