@@ -4,7 +4,7 @@
 # -Wnull-dereference is left out: optimised builds take every use of a QPointer for a null one.
 add_library(velor_flags INTERFACE)
 target_compile_options(velor_flags INTERFACE
-    -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wcast-align
+    -Wall -Wextra -Wpedantic $<$<BOOL:${VELOR_WERROR}>:-Werror> -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wcast-align
     -Woverloaded-virtual -Wconversion -Wno-sign-conversion -Wformat=2)
 # QT_NO_CAST_FROM_BYTEARRAY keeps bytes and text apart; foreach is a macro that hides copies.
 target_compile_definitions(velor_flags INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH
@@ -16,10 +16,25 @@ if(VELOR_SANITIZE)
   target_link_options(velor_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Gives a target the headers of `list`, compiled once.
+function(velor_precompile name list)
+  if(VELOR_PRECOMPILE)
+    get_filename_component(shared ${list} NAME_WE)
+    if(NOT TARGET velor_${shared})
+      file(WRITE "${CMAKE_BINARY_DIR}/${shared}.cpp" "")
+      add_library(velor_${shared} OBJECT "${CMAKE_BINARY_DIR}/${shared}.cpp")
+      target_link_libraries(velor_${shared} PRIVATE velor_flags Qt6::Widgets $<TARGET_NAME_IF_EXISTS:GTest::gmock>)
+      target_precompile_headers(velor_${shared} PRIVATE "${PROJECT_SOURCE_DIR}/${list}")
+    endif()
+    target_precompile_headers(${name} REUSE_FROM velor_${shared})
+  endif()
+endfunction()
+
 function(velor_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   target_link_libraries(${name} PUBLIC velor_flags ${ARG_LINKS})
+  velor_precompile(${name} cmake/Precompiled.h)
 endfunction()
 
 # A program that people start. All of them are built by the target velor-programs and lie in
@@ -36,7 +51,9 @@ endfunction()
 # A GoogleTest program that runs under Qt's offscreen platform with scratch settings folders
 # (tests/support/TestMain.cpp sees to both). One program is one CTest case. SERIAL is for those that
 # start the engine or the program itself: they have the machine to themselves, all others run side by
-# side.
+# side. Tests that do not link the real parts have the label "plain", and the target velor-plain-tests
+# builds them.
+add_custom_target(velor-plain-tests)
 function(velor_test name)
   cmake_parse_arguments(ARG "SERIAL" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -48,7 +65,11 @@ function(velor_test name)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${timeout}
       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VELOR_NO_ERROR_BOX=1")
+  velor_precompile(${name} cmake/PrecompiledTests.h)
   if(ARG_SERIAL)
     set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)
+  elseif(NOT "velor_qt" IN_LIST ARG_LINKS)
+    set_tests_properties(${name} PROPERTIES LABELS plain)
+    add_dependencies(velor-plain-tests ${name})
   endif()
 endfunction()
