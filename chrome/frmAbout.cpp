@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/frmAbout.h"
 
+#include "Version.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
 #include "platform/Runtime.h"
@@ -138,7 +139,8 @@ QWidget *frmAbout::BuildHead() {
   large.setPointSizeF(large.pointSizeF() * 2.2);
   large.setWeight(QFont::DemiBold);
   product->setFont(large);
-  Thumbing = new Pattern(animation_);
+  product->setToolTip(tr("Version %1").arg(QLatin1String(ProgramVersion)));
+  pattern_ = new Pattern(animation_);
 
   auto *grid = new QGridLayout(head);
   grid->setContentsMargins(Margin, 0, Margin, 0);
@@ -150,7 +152,7 @@ QWidget *frmAbout::BuildHead() {
   grid->addWidget(NewQuietLabel("Label1", QStringLiteral("Example Software")), 2, 1);
   grid->setRowStretch(3, 1);
   grid->setColumnStretch(1, 1);
-  grid->addWidget(Thumbing, 0, 2, 4, 1, Qt::AlignVCenter);
+  grid->addWidget(pattern_, 0, 2, 4, 1, Qt::AlignVCenter);
   return head;
 }
 
@@ -206,7 +208,7 @@ void frmAbout::timerEvent(QTimerEvent *) {
 }
 
 void frmAbout::Play() {
-  if (animation_.Pass(runtime_.SecondsSinceMidnight())) Thumbing->update();
+  if (animation_.Pass(runtime_.SecondsSinceMidnight())) pattern_->update();
 }
 
 void frmAbout::WriteTo(const QString &link) {

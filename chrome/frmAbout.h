@@ -36,7 +36,7 @@ class frmAbout final : public QDialog {
   Runtime &runtime_;
   AboutAnimation animation_;
   QBasicTimer passes_;
-  Pattern *Thumbing = nullptr;
+  Pattern *pattern_ = nullptr;
 };
 
 }  // namespace velor

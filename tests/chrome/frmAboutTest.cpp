@@ -98,6 +98,11 @@ TEST_F(frmAboutTest, NamesProductMakerAndAddress) {
   EXPECT_FALSE(about.findChild<QTimer *>(QStringLiteral("Timer_Show"))->isActive());
 }
 
+TEST_F(frmAboutTest, TellsTheVersionWhenThePointerRestsOnTheProductsName) {
+  EXPECT_EQ(Control<QLabel>(about, QStringLiteral("Label2"))->toolTip(),
+            QStringLiteral("Version " VELOR_VERSION));
+}
+
 TEST_F(frmAboutTest, HasFiveRidgesOfALightAndADarkLine) {
   ShowActive();
   const QImage shown = about.grab().toImage();
