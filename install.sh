@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Installs what building and running needs on Debian 12, as root or through sudo.
-# Usage: install.sh [--test]    --test adds what the tests and the tour need
+# Usage: install.sh [--test] [--lint]    --test adds what the tests and the tour need, --lint what
+# tools/lint.sh needs
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -17,10 +18,13 @@ packages=(
 test_packages=(
   xvfb xauth xdotool openbox at-spi2-core python3-gi gir1.2-atspi-2.0 dbus dbus-x11 imagemagick
   mdbtools
-  node-typescript
 )
+lint_packages=(clang-format clang-tidy shellcheck python3 git node-typescript)
 # Another Node.js than Debian's will do, and brings an npm of its own.
-command -v node >/dev/null && command -v npm >/dev/null || test_packages+=(nodejs npm)
+if ! command -v node >/dev/null || ! command -v npm >/dev/null; then
+  test_packages+=(nodejs npm)
+  lint_packages+=(nodejs npm)
+fi
 
 # The second independent reader of Jet files, a package of npm, into build/jet-reader. Where that
 # cannot be had, the tests compare with the other readers only.
@@ -37,11 +41,14 @@ install_jet_reader() {
   fi
 }
 
-case "${1:-}" in
-  --test) packages+=("${test_packages[@]}") ;;
-  '') ;;
-  *) echo "usage: install.sh [--test]" >&2; exit 2 ;;
-esac
+tests=no
+for argument in "$@"; do
+  case "$argument" in
+    --test) tests=yes; packages+=("${test_packages[@]}") ;;
+    --lint) packages+=("${lint_packages[@]}") ;;
+    *) echo "usage: install.sh [--test] [--lint]" >&2; exit 2 ;;
+  esac
+done
 
 missing=()
 for package in "${packages[@]}"; do
@@ -58,4 +65,4 @@ if [ ${#missing[@]} -gt 0 ]; then
   "${as_root[@]}" apt-get update -q
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
 fi
-[ "${1:-}" != --test ] || install_jet_reader
+[ $tests = no ] || install_jet_reader
