@@ -6,7 +6,6 @@
 #include "engine/PageScheme.h"
 #include "platform/DriveMap.h"
 #include "qt/RealPlatform.h"
-#include "recovery/offers/RecoveryCopies.h"
 
 int main(int argc, char **argv) {
   using namespace velor;
@@ -32,8 +31,6 @@ int main(int argc, char **argv) {
     if (driveMapError) throw *driveMapError;
     StartUp(real.parts, values, windows);
   });
-  boundary.SetRecovery(
-      [&] { return WriteRecoveryCopies(mainWindow->Context(), real.runtime.ProgramFolder()); });
   boundary.StartUpDone();
   return Application::exec();
 }

@@ -23,12 +23,11 @@ namespace {
 constexpr mode_t AnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t PermissionBits = 07777;
 
-FileWriteError WriteError(int errnoValue, const QString &path) {
+RuntimeError WriteError(int errnoValue, const QString &path) {
   const QString source = QStringLiteral("ReplaceAll");
   // The file need not be there; what is missing is its folder.
-  if (errnoValue == ENOENT)
-    return FileWriteError(RuntimeError::Of(ErrorNumber::PathNotFound, source, path));
-  return FileWriteError(RuntimeError::FromErrno(errnoValue, source, path));
+  if (errnoValue == ENOENT) return RuntimeError::Of(ErrorNumber::PathNotFound, source, path);
+  return RuntimeError::FromErrno(errnoValue, source, path);
 }
 
 /// The path that a chain of symbolic links ends at, whether something is there or not.

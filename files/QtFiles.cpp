@@ -25,13 +25,10 @@ QString Find(const QString &path, NameOrigin origin) {
 }
 
 /// The native form of a path that an operation is about to use.
-template <class Error = RuntimeError>
 QString Usable(const QString &path, const QString &source, NameOrigin origin = NameOrigin::Chosen) {
-  if (IsOnUnknownDrive(path))
-    throw Error(RuntimeError::Of(ErrorNumber::PathNotFound, source, path));
+  if (IsOnUnknownDrive(path)) throw RuntimeError::Of(ErrorNumber::PathNotFound, source, path);
   // The system would take the name as far as the NUL, which is another file.
-  if (path.contains(QChar(0)))
-    throw Error(RuntimeError::Of(ErrorNumber::PathFileAccess, source, path));
+  if (path.contains(QChar(0))) throw RuntimeError::Of(ErrorNumber::PathFileAccess, source, path);
   return Find(path, origin);
 }
 
@@ -64,6 +61,17 @@ bool QtFiles::IsReadOnly(const QString &path) const {
   if (stat(name.constData(), &status) != 0) throw Failure(errno, source, native);
   const bool hasWriteBit = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
   return !hasWriteBit || !IsAccessible(name, W_OK);
+}
+
+bool QtFiles::IsSameFile(const QString &one, const QString &other) const {
+  const auto look = [](const QString &path, struct stat &status) {
+    return !IsOnUnknownDrive(path) &&
+           stat(QFile::encodeName(ToNative(path)).constData(), &status) == 0;
+  };
+  struct stat first {};
+  struct stat second {};
+  return look(one, first) && look(other, second) && first.st_dev == second.st_dev &&
+         first.st_ino == second.st_ino;
 }
 
 bool QtFiles::FolderWritable(const QString &path) const {
@@ -106,7 +114,7 @@ QByteArray QtFiles::ReadAll(const QString &path, NameOrigin origin) const {
 }
 
 void QtFiles::ReplaceAll(const QString &path, const QByteArray &content) {
-  ReplaceFile(Usable<FileWriteError>(path, QStringLiteral("ReplaceAll")), content, calls_);
+  ReplaceFile(Usable(path, QStringLiteral("ReplaceAll")), content, calls_);
 }
 
 void QtFiles::Delete(const QString &path) {

@@ -30,6 +30,10 @@ class Files {
   /// Raises 53 for a missing file.
   virtual bool IsReadOnly(const QString &path) const = 0;
 
+  /// Whether two paths lead to one file: by another spelling, a link, or another name of it. False
+  /// where one of them leads nowhere. Never raises.
+  virtual bool IsSameFile(const QString &one, const QString &other) const = 0;
+
   /// Whether files can be created in the folder that `path` lies in.
   virtual bool FolderWritable(const QString &path) const = 0;
 
@@ -44,8 +48,7 @@ class Files {
   /// content is there, whole: written to a sibling, synced and renamed over it; mode, owner,
   /// symbolic links, access lists and other attributes kept; written in place where renaming would
   /// break a hard link or lose one of them, the old content then kept until that is done. A
-  /// read-only file is refused (75), also for the superuser; a full disk is 61. Every failure is a
-  /// FileWriteError.
+  /// read-only file is refused (75), also for the superuser; a full disk is 61.
   virtual void ReplaceAll(const QString &path, const QByteArray &content) = 0;
 
   /// Deletes a file; raises 53 when there is none.

@@ -5,7 +5,6 @@
 
 #include <exception>
 #include <string>
-#include <utility>
 
 namespace velor {
 
@@ -34,9 +33,8 @@ enum class ErrorNumber : int {
   ElementNotFound = 35601,
 };
 
-/// The one family of exceptions. Nothing catches it on the way except where an operation is
-/// documented to return a number or to go on; one handler at the event boundary decides what a
-/// person sees.
+/// The one exception type. Nothing catches it on the way except where an operation is documented
+/// to return a number or to go on; one handler at the event boundary decides what a person sees.
 class RuntimeError : public std::exception {
  public:
   /// `source` names the operation or module, `description` the cause with the file it concerns.
@@ -63,12 +61,6 @@ class RuntimeError : public std::exception {
   QString source_;
   QString description_;
   std::string what_;
-};
-
-/// A file could not be written: what was meant for it is still in memory alone.
-class FileWriteError final : public RuntimeError {
- public:
-  explicit FileWriteError(RuntimeError error) : RuntimeError(std::move(error)) {}
 };
 
 /// The standard sentence of an error number ("File not found"); an unknown number gives

@@ -8,7 +8,6 @@
 #include <QScopedValueRollback>
 
 #include <cstdio>
-#include <utility>
 
 namespace velor {
 
@@ -37,26 +36,10 @@ QString BoxText(const std::exception &error) {
 EventBoundary::EventBoundary(Dialogs &dialogs, Runtime &runtime)
     : dialogs_(dialogs), runtime_(runtime) {}
 
-void EventBoundary::SetRecovery(Recovery writeRecoveryCopies) {
-  writeRecoveryCopies_ = std::move(writeRecoveryCopies);
-}
-
 void EventBoundary::Handle(const std::exception &error) {
   if (phase_ == Phase::Ending) return;
-  const Consequence consequence = ConsequenceOf(error);
-  QStringList copies;
-  if (consequence == Consequence::Stop) {
-    // Before anything waits for the person: a box may stay open for hours.
-    if (const auto writeCopies = std::exchange(writeRecoveryCopies_, nullptr)) {
-      try {
-        copies = writeCopies();
-      } catch (const std::exception &failure) {
-        WriteToStandardError(failure.what());
-      }
-    }
-  }
-  Report(error, consequence, copies);
-  if (consequence == Consequence::Stop) runtime_.EndProgram(1);
+  Report(error);
+  if (phase_ == Phase::StartUp) runtime_.EndProgram(1);
 }
 
 void EventBoundary::Run(const std::function<void()> &action) {
@@ -67,29 +50,14 @@ void EventBoundary::Run(const std::function<void()> &action) {
   }
 }
 
-EventBoundary::Consequence EventBoundary::ConsequenceOf(const std::exception &error) const {
-  if (phase_ == Phase::StartUp) return Consequence::Stop;
-  const bool isFailedWrite = dynamic_cast<const FileWriteError *>(&error) != nullptr;
-  return isFailedWrite ? Consequence::Stop : Consequence::Abandon;
-}
-
-void EventBoundary::Report(const std::exception &error, Consequence consequence,
-                           const QStringList &copies) {
+void EventBoundary::Report(const std::exception &error) {
   WriteToStandardError(error.what());
-  QString kept;
-  if (!copies.isEmpty()) {
-    kept = QStringLiteral("Copies of your unsaved pages: ") + copies.join(QStringLiteral(", "));
-    WriteToStandardError(kept.toLocal8Bit().constData());
-  }
   // An error that comes while a box is open (a timer's, say) must not pile up boxes.
   if (showsBox_ || qEnvironmentVariableIsSet("VELOR_NO_ERROR_BOX")) return;
   const QScopedValueRollback<bool> showing(showsBox_, true);
   Message message;
   message.text = BoxText(error);
-  if (consequence == Consequence::Stop) {
-    message.text += QStringLiteral("\n\nThe program has to end.");
-    if (!kept.isEmpty()) message.text += QStringLiteral("\n\n") + kept;
-  }
+  if (phase_ == Phase::StartUp) message.text += QStringLiteral("\n\nThe program has to end.");
   message.icon = MessageIcon::Critical;
   try {
     dialogs_.ShowMessage(message);

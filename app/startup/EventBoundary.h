@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QStringList>
 
 #include <exception>
 #include <functional>
@@ -14,19 +13,15 @@ class Runtime;
 
 /// The one place where errors end that nobody caught. It reports them (standard error, and a
 /// critical box unless $VELOR_NO_ERROR_BOX is set) and decides what becomes of the program:
-/// - anything that goes wrong during start-up, opening the database among it, and later a file
-///   that cannot be written: recovery copies are written and the program ends with status 1;
-/// - everything else: the operation is abandoned and the program goes on.
+/// - anything that goes wrong during start-up, opening the database among it: the program ends with
+///   status 1;
+/// - later: the operation is abandoned and the program goes on, a file that cannot be written
+///   included, since pages are open then.
 class EventBoundary {
  public:
   EventBoundary(Dialogs &dialogs, Runtime &runtime);
 
-  /// What writes copies of unsaved pages before the program stops, and answers where they lie, as
-  /// people read paths; the report names them. An error in it is only reported.
-  using Recovery = std::function<QStringList()>;
-  void SetRecovery(Recovery writeRecoveryCopies);
-
-  /// From now on only failed writes stop the program.
+  /// From now on no error ends the program.
   void StartUpDone() { phase_ = Phase::Running; }
 
   /// From now on the windows are going, and what fails on the way no longer matters to anybody.
@@ -40,14 +35,11 @@ class EventBoundary {
 
  private:
   enum class Phase { StartUp, Running, Ending };
-  enum class Consequence { Abandon, Stop };
 
-  Consequence ConsequenceOf(const std::exception &error) const;
-  void Report(const std::exception &error, Consequence consequence, const QStringList &copies);
+  void Report(const std::exception &error);
 
   Dialogs &dialogs_;
   Runtime &runtime_;
-  Recovery writeRecoveryCopies_;
   Phase phase_ = Phase::StartUp;
   bool showsBox_ = false;
 };

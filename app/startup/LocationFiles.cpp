@@ -28,7 +28,10 @@ QStringView UpTo(QStringView text, QStringView ends) {
 }  // namespace
 
 void WriteLocation(Files &files, const QString &file, const QString &location) {
-  files.ReplaceAll(file, (u'"' + ForPeople(location) + QStringLiteral("\"\r\n")).toUtf8());
+  const QByteArray content = (u'"' + ForPeople(location) + QStringLiteral("\"\r\n")).toUtf8();
+  // A start on a full disk, or from a program folder that is read-only, has nothing to write then.
+  if (files.FileExists(file) && files.ReadAll(file) == content) return;
+  files.ReplaceAll(file, content);
 }
 
 QString ReadLocation(const Files &files, const QString &file) {

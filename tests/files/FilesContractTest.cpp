@@ -100,6 +100,15 @@ TEST_P(FilesContract, TellsFilesFromFolders) {
   EXPECT_FALSE(Subject().FolderExists(""));
 }
 
+TEST_P(FilesContract, KnowsAFileByItsNameAndNothingThatIsMissing) {
+  World().AddFile(Path("a.htm"), "x");
+  World().AddFile(Path("b.htm"), "x");
+  EXPECT_TRUE(Subject().IsSameFile(Path("a.htm"), Path("a.htm")));
+  EXPECT_FALSE(Subject().IsSameFile(Path("a.htm"), Path("b.htm")));
+  EXPECT_FALSE(Subject().IsSameFile(Path("gone.htm"), Path("gone.htm")));
+  EXPECT_FALSE(Subject().IsSameFile({}, {}));
+}
+
 TEST_P(FilesContract, TakesAChosenNameExactly) {
   World().AddFile(Path("INDEX.HTM"), "x");
   EXPECT_FALSE(Subject().FileExists(Path("Index.htm")));
@@ -201,15 +210,6 @@ TEST_P(FilesContract, SaysWhetherAFolderTakesFiles) {
 
 TEST_P(FilesContract, RaisesForTheAttributeOfAMissingFile) {
   EXPECT_EQ(ErrorOf([&] { Subject().IsReadOnly(Path("missing.htm")); }), ErrorNumber::FileNotFound);
-}
-
-TEST_P(FilesContract, EveryFailedWriteIsOneByItsType) {
-  World().AddFile(Path("a.htm"), "old");
-  World().MakeReadOnly(Path("a.htm"));
-  World().AddFolder(Path("images"));
-  for (const QString &path : {Path("a.htm"), Path("images"), Path("nowhere\\a.htm"),
-                              QStringLiteral(R"(C:\Site\a.htm)"), Path("a") + QChar(0)})
-    EXPECT_THROW(Subject().ReplaceAll(path, "x"), FileWriteError) << qPrintable(path);
 }
 
 TEST_P(FilesContract, DeletesFilesOnly) {

@@ -89,6 +89,10 @@ bool FakeFiles::IsReadOnly(const QString &path) const {
   return readOnly_.contains(path);
 }
 
+bool FakeFiles::IsSameFile(const QString &one, const QString &other) const {
+  return one == other && files_.contains(one);
+}
+
 bool FakeFiles::FolderWritable(const QString &path) const {
   const QString folder = FolderOf(path);
   return folders_.contains(folder) && !unwritableFolders_.contains(folder);
@@ -112,11 +116,10 @@ void FakeFiles::ReplaceAll(const QString &path, const QByteArray &content) {
   std::optional<ErrorNumber> failure = std::exchange(nextWriteFailure_, std::nullopt);
   const bool isNew = !files_.contains(path);
   if (!folders_.contains(FolderOf(path))) failure = ErrorNumber::PathNotFound;
-  if (folders_.contains(path) || readOnly_.contains(path) || path.contains(QChar(0)) ||
-      (isNew && !FolderWritable(path))) {
+  if (folders_.contains(path) || readOnly_.contains(path) || (isNew && !FolderWritable(path))) {
     failure = failure.value_or(ErrorNumber::PathFileAccess);
   }
-  if (failure) throw FileWriteError(RuntimeError::Of(*failure, operation, path));
+  if (failure) throw RuntimeError::Of(*failure, operation, path);
   files_[path] = content;
 }
 

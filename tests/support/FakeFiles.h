@@ -37,6 +37,7 @@ class FakeFiles : public Files {
   bool FileExists(const QString &path, NameOrigin origin = NameOrigin::Chosen) const override;
   bool FolderExists(const QString &path, NameOrigin origin = NameOrigin::Chosen) const override;
   bool IsReadOnly(const QString &path) const override;
+  bool IsSameFile(const QString &one, const QString &other) const override;
   bool FolderWritable(const QString &path) const override;
   QDateTime ChangeTime(const QString &path) const override;
   QByteArray ReadAll(const QString &path, NameOrigin origin = NameOrigin::Chosen) const override;

@@ -39,10 +39,6 @@ int main(int argc, char **argv) {
   boundary.Run([&scene] {
     if (scene == "start-up") Raise(ErrorNumber::FileNotFound, QStringLiteral("StartUp"));
   });
-  boundary.SetRecovery([] {
-    std::puts("recovery");
-    return QStringList();
-  });
   boundary.StartUpDone();
 
   if (scene == "end") {
@@ -58,8 +54,7 @@ int main(int argc, char **argv) {
   QTimer::singleShot(0, &application, [&scene] {
     if (scene == "event") Raise(ErrorNumber::SubscriptOutOfRange, QStringLiteral("Pages"));
     if (scene == "write") {
-      throw FileWriteError(
-          RuntimeError::Of(ErrorNumber::DiskFull, QStringLiteral("ReplaceAll"), {}));
+      Raise(ErrorNumber::DiskFull, QStringLiteral("ReplaceAll"));
     }
   });
   QWidget window;

@@ -16,8 +16,8 @@ namespace {
 
 const RuntimeError MissingFile = RuntimeError::Of(
     ErrorNumber::FileNotFound, QStringLiteral("OpenPage"), QStringLiteral("/site/a.htm"));
-const FileWriteError FailedWrite{RuntimeError::Of(
-    ErrorNumber::DiskFull, QStringLiteral("ReplaceAll"), QStringLiteral("/site/a.htm"))};
+const RuntimeError FailedWrite = RuntimeError::Of(
+    ErrorNumber::DiskFull, QStringLiteral("ReplaceAll"), QStringLiteral("/site/a.htm"));
 
 class Boundary : public ::testing::Test {
  protected:
@@ -74,29 +74,11 @@ TEST_F(Boundary, LaterAnErrorAbandonsTheOperationAndTheProgramGoesOn) {
   EXPECT_NE(StandardError().find("File not found"), std::string::npos);
 }
 
-TEST_F(Boundary, AFailedWriteEndsTheProgramAfterTheRecoveryCopies) {
+TEST_F(Boundary, AFailedWriteIsToldWithItsFileAndReasonAndTheProgramGoesOn) {
   boundary_.StartUpDone();
-  boundary_.SetRecovery([this] {
-    log_.push_back(QStringLiteral("recovery"));
-    return QStringList{QStringLiteral("/home/u/Recovered1.htm")};
-  });
-  const QString box = BoxFor(FailedWrite) + TheEnd +
-                      QStringLiteral("\n\nCopies of your unsaved pages: /home/u/Recovered1.htm");
-  dialogs_.ExpectMessage(box);
-  EXPECT_EQ(EndedBy(FailedWrite), 1);
-  const CallLog order = {QStringLiteral("recovery"), QStringLiteral("ShowMessage(%1)").arg(box),
-                         QStringLiteral("EndProgram(1)")};
-  EXPECT_EQ(log_, order);
-}
-
-TEST_F(Boundary, NoRecoveryCopiesAreWrittenWhenTheProgramGoesOn) {
-  boundary_.StartUpDone();
-  boundary_.SetRecovery([] {
-    ADD_FAILURE() << "recovery copies were written";
-    return QStringList();
-  });
-  dialogs_.ExpectMessage(BoxFor(MissingFile));
-  EXPECT_EQ(EndedBy(MissingFile), std::nullopt);
+  dialogs_.ExpectMessage(BoxFor(FailedWrite));
+  EXPECT_EQ(EndedBy(FailedWrite), std::nullopt);
+  EXPECT_TRUE(dialogs_.messages.front().text.contains(QStringLiteral("Disk full: /site/a.htm")));
 }
 
 TEST_F(Boundary, ErrorsOfWindowsThatGoAtTheEndAreIgnored) {
@@ -104,15 +86,6 @@ TEST_F(Boundary, ErrorsOfWindowsThatGoAtTheEndAreIgnored) {
   boundary_.ProgramEnds();
   EXPECT_EQ(EndedBy(FailedWrite), std::nullopt);
   EXPECT_EQ(StandardError(), "");
-}
-
-TEST_F(Boundary, ARecoveryThatFailsIsReportedAndTheProgramStillEnds) {
-  boundary_.SetRecovery([]() -> QStringList { throw FailedWrite; });
-  dialogs_.ExpectMessage(BoxFor(MissingFile) + TheEnd);
-  EXPECT_EQ(EndedBy(MissingFile), 1);
-  const std::string report = StandardError();
-  EXPECT_NE(report.find("Disk full"), std::string::npos);
-  EXPECT_NE(report.find("File not found"), std::string::npos);
 }
 
 TEST_F(Boundary, AnErrorOfAnotherKindIsReportedInItsOwnWords) {
@@ -194,11 +167,11 @@ TEST(RunningProgram, AStylingSweepThatFailsIsReportedOnceTheWindowIsLoaded) {
   EXPECT_EQ(probe.output, "the window is loaded\nnext event\n");
 }
 
-TEST(RunningProgram, AFailedWriteInAnEventEndsItWithStatusOne) {
+TEST(RunningProgram, AFailedWriteInAnEventIsReportedAndTheNextEventStillComes) {
   const Probe probe = RunProbe(QStringLiteral("write"));
-  EXPECT_EQ(probe.status, 1);
+  EXPECT_EQ(probe.status, 0);
   EXPECT_TRUE(probe.report.contains("Error 61")) << probe.report.constData();
-  EXPECT_EQ(probe.output, "recovery\n");
+  EXPECT_EQ(probe.output, "next event\n");
 }
 
 TEST(RunningProgram, EndsAtOnceWithoutRunningAnythingElse) {

@@ -35,6 +35,13 @@ TEST_F(LocationFiles, ShowPeopleTheNativeFormInUtf8) {
             QByteArray("\"/home/u/G\xC3\xA4rten, alle\"\r\n"));
 }
 
+TEST_F(LocationFiles, WhatIsThereAlreadyIsNotWrittenAgain) {
+  Written(QStringLiteral("\\a"));
+  files_.FailNextWrite(ErrorNumber::DiskFull);
+  EXPECT_EQ(Written(QStringLiteral("\\a")), QByteArray("\"/a\"\r\n"));
+  EXPECT_EQ(ErrorOf([this] { Written(QStringLiteral("\\b")); }), ErrorNumber::DiskFull);
+}
+
 TEST_F(LocationFiles, WritingReplacesALongerContent) {
   files_.AddFile(File, QByteArray(1000, 'x'));
   EXPECT_EQ(Written(QStringLiteral("\\a")), QByteArray("\"/a\"\r\n"));

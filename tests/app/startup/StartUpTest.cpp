@@ -41,6 +41,9 @@ class LoggedFiles final : public Files {
     return world.FolderExists(Single(path), origin);
   }
   bool IsReadOnly(const QString &path) const override { return world.IsReadOnly(Single(path)); }
+  bool IsSameFile(const QString &one, const QString &other) const override {
+    return world.IsSameFile(Single(one), Single(other));
+  }
   bool FolderWritable(const QString &path) const override {
     return world.FolderWritable(Single(path));
   }
@@ -261,7 +264,7 @@ TEST_F(EntryProcedure, AnEmptyLocationFileIsAnErrorWithoutAMessage) {
 
 TEST_F(EntryProcedure, ALocationFileThatCannotBeWrittenIsAnError) {
   PutDatabaseBesideTheProgram();
-  files_.world.AddFile(DatabaseLocation, "\"/program\"\r\n");
+  files_.world.AddFile(DatabaseLocation, "\"/elsewhere\"\r\n");
   files_.world.MakeReadOnly(DatabaseLocation);
   EXPECT_EQ(ErrorOfStart(), ErrorNumber::PathFileAccess);
   EXPECT_EQ(database_.connectionsMade, 0);
