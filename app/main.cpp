@@ -16,6 +16,7 @@ int main(int argc, char **argv) {
   RealPlatform real(argc, argv);
   EventBoundary boundary(real.dialogs, real.runtime);
   application.SetBoundary(&boundary);
+  real.copies.RemoveAbandoned();
   ProgramValues values;
   std::unique_ptr<MfrmProgram> mainWindow;
   RealStartUpWindows windows(real.parts, values, [&] {

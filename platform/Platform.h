@@ -19,6 +19,7 @@ class Journals;
 class Registry;
 class ReplacedVersions;
 class Runtime;
+class TemporaryCopies;
 class WindowSystem;
 
 /// Makes the parts of which there are several. A part's widget becomes a child of `parent`.
@@ -46,6 +47,8 @@ struct Platform {
   Journals *journals = nullptr;
   /// Null where replaced versions are not kept.
   ReplacedVersions *replaced = nullptr;
+  /// Null where pages have no temporary copies: their text is handed on as it is.
+  TemporaryCopies *copies = nullptr;
 };
 
 }  // namespace velor

@@ -3,6 +3,7 @@
 
 #include "files/QtFiles.h"
 #include "files/ReplacedFiles.h"
+#include "files/TemporaryCopyFiles.h"
 #include "platform/Platform.h"
 #include "qt/QtComponents.h"
 #include "qt/QtDialogs.h"
@@ -25,7 +26,9 @@ struct RealPlatform {
   QtWindowSystem windows;
   JournalFiles journals;
   ReplacedFiles replaced;
-  Platform parts{files, runtime, dialogs, registry, components, &windows, &journals, &replaced};
+  TemporaryCopyFiles copies;
+  Platform parts{files,    runtime,   dialogs,   registry, components,
+                 &windows, &journals, &replaced, &copies};
 };
 
 }  // namespace velor
