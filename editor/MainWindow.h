@@ -31,7 +31,7 @@ class ChildWindows {
 };
 
 /// The page tabs `FileTab`: one a page, under the key "key" and the page number. Unknown keys raise
-/// ElementNotFound (35601), positions and images out of range IndexOutOfBounds (35600). No call
+/// ElementNotFound (35601), images out of range IndexOutOfBounds (35600). No call
 /// counts as a choice of the person.
 class TabStrip {
  public:
@@ -40,8 +40,6 @@ class TabStrip {
   /// `image` counts from 1 in the strip's image list.
   virtual void Add(const QString &key, int image) = 0;
   virtual void SetCaption(const QString &key, const QString &caption) = 0;
-  /// `position` counts from 1 in the order of the tabs.
-  virtual void SetCaptionAt(int position, const QString &caption) = 0;
   virtual void Select(const QString &key) = 0;
   virtual void Remove(const QString &key) = 0;
   virtual void Clear() = 0;

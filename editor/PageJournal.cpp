@@ -78,7 +78,7 @@ void PageJournal::Settle() {
   if (Page().source) {
     Write();
   } else {
-    Discard();
+    Remove();
   }
 }
 
@@ -93,6 +93,13 @@ void PageJournal::Unsettle() {
 }
 
 void PageJournal::Discard() {
+  saveFailed_ = false;
+  settled_ = component_.Memory().document;
+  context_.pages.SetAsideSource(number_).reset();
+  Remove();
+}
+
+void PageJournal::Remove() {
   writing_.stop();
   resting_.stop();
   sinceChange_.invalidate();
@@ -102,25 +109,37 @@ void PageJournal::Discard() {
 }
 
 void PageJournal::Leave() {
-  if (saveFailed_) {
-    if (sinceChange_.isValid()) Write();
+  if (settled_) {
+    Write();
     Rest();
   } else {
-    Discard();
+    Remove();  // a page that was never made whole
   }
   hasLeft_ = true;
+}
+
+bool PageJournal::HasChanges() const {
+  return settled_ && !IsSettled(component_.Memory().document);
+}
+
+bool PageJournal::IsSafe() {
+  if (!HasChanges()) return true;
+  if (!journal_) return !saveFailed_;
+  Write();
+  return hasJournal_ && IsWritten(Page());
 }
 
 JournalledPage PageJournal::Page() const {
   const PageRecord &record = context_.pages.Record(number_);
   const bool hasFile = record.HasFile != False16;
   const frmCodeEditor *editor = context_.pages.CodeEditor(number_);
+  const auto typed = editor == nullptr ? std::nullopt : editor->UnappliedText();
   return {record.Path,
           record.Caption,
           hasFile ? JournalledPage::Saving::ToItsFile : JournalledPage::Saving::AsksForAName,
           component_.Memory(),
           QDateTime::currentDateTime(),
-          editor == nullptr ? std::nullopt : editor->UnappliedText()};
+          typed ? typed : context_.pages.SetAsideSource(number_)};
 }
 
 void PageJournal::Write() {
@@ -129,7 +148,7 @@ void PageJournal::Write() {
   sinceChange_.invalidate();
   const JournalledPage page = Page();
   if (hasJournal_ && IsWritten(page)) return;
-  if (IsSettled(page.page.document) && !page.source && !saveFailed_) return Discard();
+  if (IsSettled(page.page.document) && !page.source && !saveFailed_) return Remove();
   if (!Attempt([&] { journal_->Write(page); })) return;
   if (!sinceWrite_.isValid()) sinceWrite_.start();
   hasJournal_ = true;

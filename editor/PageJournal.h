@@ -37,13 +37,18 @@ class PageJournal {
   void Unsettle();
   /// The person does not want the changes.
   void Discard();
-  /// The page goes; only what should have been saved and could not be stays.
+  /// The page goes; what is in no file and was not given up stays, for the next start to offer.
   void Leave();
+  /// Whether the document differs from what was loaded or saved last, or given up.
+  bool HasChanges() const;
+  /// Whether what the page holds is in its file or in the journal, which is written if need be.
+  bool IsSafe();
 
  private:
   bool IsSettled(const QString &document) const { return settled_ == document; }
   bool IsWritten(const JournalledPage &page) const;
   JournalledPage Page() const;
+  void Remove();
   void WriteSoon();
   void Write();
   /// Nobody waits for a key to show just now.

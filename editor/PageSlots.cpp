@@ -33,6 +33,7 @@ std::int16_t PageSlots::Grow() {
   Pages.emplace_back();
   records_.emplace_back();
   traces_.emplace_back();
+  setAsideSources_.emplace_back();
   ++pageCount_;
   CodeEditors.emplace_back();
   ++codeEditorCount_;
@@ -49,6 +50,10 @@ const PageRecord &PageSlots::Record(int number) const {
 
 FileTrace &PageSlots::Trace(int number) {
   return traces_[Index(number, pageCount_)];
+}
+
+std::optional<QString> &PageSlots::SetAsideSource(int number) {
+  return setAsideSources_[Index(number, pageCount_)];
 }
 
 QPointer<frmMain> &PageSlots::Page(int number) {

@@ -7,6 +7,7 @@
 #include <QPointer>
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace velor {
@@ -32,6 +33,8 @@ class PageSlots {
   const PageRecord &Record(int number) const;
   /// The file that the page was last loaded from or saved to, as it was then.
   FileTrace &Trace(int number);
+  /// A source that was typed and not applied, and that the page's own took the place of.
+  std::optional<QString> &SetAsideSource(int number);
   /// Empty before the window is made and after it is gone.
   QPointer<frmMain> &Page(int number);
   QPointer<frmCodeEditor> &CodeEditor(int number);
@@ -41,6 +44,7 @@ class PageSlots {
   std::vector<QPointer<frmCodeEditor>> CodeEditors;
   std::vector<PageRecord> records_;
   std::vector<FileTrace> traces_;
+  std::vector<std::optional<QString>> setAsideSources_;
   std::int16_t pageCount_ = 0;
   /// The upper bound of CodeEditors; grows in step with PageCount.
   std::int16_t codeEditorCount_ = 0;

@@ -72,7 +72,21 @@ void frmCodeEditor::TellJournal() {
 
 void frmCodeEditor::Fill(const QString &source, const ElementPlaces &caret) {
   code_->SetText(source);
-  lineEnds_->setText(NameOf(DeclaredEncoding(source).lineEnds));
+  SourceReplaced(caret);
+}
+
+void frmCodeEditor::Refill(const QString &source, const ElementPlaces &caret,
+                           const QString &typed) {
+  context_.pages.SetAsideSource(number_) = typed;
+  code_->ReplaceText(source);
+  SourceReplaced(caret);
+  context_.mainWindow.status.Report(
+      QStringLiteral("The page's source is shown again. The source that was typed and not applied "
+                     "comes back with Undo (Ctrl+Z)"));
+}
+
+void frmCodeEditor::SourceReplaced(const ElementPlaces &caret) {
+  lineEnds_->setText(NameOf(DeclaredEncoding(code_->Text()).lineEnds));
   ShowPlaceIn(*code_, caret);
   filledCaret_ = CaretOf(*code_);
   SelectionChanged();
@@ -105,21 +119,15 @@ std::int16_t frmCodeEditor::ApplyCode() {
   const std::int16_t index = CInt(Tag);
   const PageRecord record = context_.pages.Record(index);
   const QString text = code_->Text();
-  Files &files = context_.platform.files;
-  const bool hasCopy = !record.TempPath.isEmpty() && files.FolderWritable(record.TempPath);
-  if (hasCopy)
-    modGeneral::WriteTextFile(files, record.TempPath, text,
-                              modWorkFlow::EncodingOf(context_, index));
+  modWorkFlow::WriteTemporaryCopy(context_, index, text, modWorkFlow::CopyEnd::LineBreak);
   try {
     EditingComponent &page = modWorkFlow::PageWindow(context_, index).DHTML1();
-    if (hasCopy) {
-      page.LoadDocument(record.TempPath);
-    } else {
-      page.LoadText(text, record.Path.isEmpty() ? record.TempPath : record.Path);
-    }
+    // The text and not the file: the copy's last line break is no part of the page.
+    page.LoadText(text, record.Path.isEmpty() ? record.TempPath : record.Path);
     // The page may have been closed while it loaded, and this window with it.
     if (alive == nullptr) return 0;
     AppliedText = code_->Text();
+    context_.pages.SetAsideSource(number_).reset();
     TellJournal();
     ReturnCaret();
     return 0;
@@ -148,6 +156,7 @@ frmCodeEditor::CloseDecision frmCodeEditor::AskBeforeClosing() {
     case MessageAnswer::Yes:
       break;
     case MessageAnswer::No:
+      context_.pages.SetAsideSource(number_).reset();
       return CloseDecision::Close;
     default:
       return CloseDecision::Keep;

@@ -40,14 +40,17 @@ class frmCodeEditor : public QWidget, public ProgramWindow {
   /// applied.
   std::optional<QString> UnappliedText() const;
 
-  /// Replaces the source, the caret at that place of it.
+  /// Puts a source in, the caret at that place of it.
   void Fill(const QString &source, const ElementPlaces &caret);
+  /// Puts the page's source in the place of `typed`, which was not applied: undo brings that back,
+  /// and the page's journal holds it until a source is applied or given up.
+  void Refill(const QString &source, const ElementPlaces &caret, const QString &typed);
 
-  /// Writes the source to the page's temporary copy, in the page's charset unless it declares
-  /// another, and loads the page from it. 0 on success, otherwise the number of the error that
-  /// stopped it; source and applied text then stay. An error of the writing itself is raised. Where
-  /// the copy's folder cannot be written the page takes the text directly. A Tag that names no
-  /// page raises SubscriptOutOfRange (9).
+  /// Writes the source and a line break to the page's temporary copy, in the page's charset unless
+  /// it declares another, and loads the page from what the copy holds, less that line break. 0 on
+  /// success, otherwise the number of the error that stopped it; source and applied text then stay.
+  /// An error of the writing itself is raised. Where there is no place for a copy the page takes
+  /// the text without one. A Tag that names no page raises SubscriptOutOfRange (9).
   std::int16_t ApplyCode();
 
   void MarkKill() override;
@@ -57,6 +60,9 @@ class frmCodeEditor : public QWidget, public ProgramWindow {
 
  private:
   enum class CloseDecision { Close, Keep };
+
+  /// The source in the control is a new one.
+  void SourceReplaced(const ElementPlaces &caret);
 
   // Layout (frmCodeEditorLayout.cpp)
   void BuildLayout();

@@ -7,6 +7,7 @@
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
 #include "editor/MainWindow.h"
+#include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Platform.h"
@@ -164,7 +165,11 @@ PageRecord frmMain::GetPageRecord() const {
 }
 
 void frmMain::UpdateTabCaption() {
-  context_.mainWindow.tabs.SetCaptionAt(number_, windowTitle());
+  try {
+    context_.mainWindow.tabs.SetCaption(PageKey(number_), windowTitle());
+  } catch (const RuntimeError &) {
+    // A page that stayed open when all tabs were cleared has none: that is no failure of a save.
+  }
 }
 
 void frmMain::CheckAcc() {
@@ -175,6 +180,7 @@ void frmMain::CheckAcc() {
 
 void frmMain::OnActivated() {
   CheckAcc();
+  HoldNameInDialog(context_, *this);
   context_.mainWindow.status.ShowTextForm(component_->TextForm());
   try {
     context_.mainWindow.tabs.Select(PageKey(number_));
@@ -206,8 +212,9 @@ void frmMain::DocumentComplete() {
   context_.mainWindow.status.ShowTextForm(component_->TextForm());
   journal_.Follow();
   if (PendingAction != QStringLiteral("gethtml")) return;
-  // A load completes right after its page is made, so that the slot made last is this page's.
-  context_.pages.Record(context_.pages.PageCount()).SavedHTML = component_->DocumentHTML();
+  // A load completes right after its page is made, so that this is the slot made last. Where files
+  // are taken several at once the next page may be there already: the baseline is this page's.
+  context_.pages.Record(number_).SavedHTML = component_->DocumentHTML();
   journal_.Settle();
   PendingAction.clear();
 }
@@ -222,6 +229,11 @@ void frmMain::DisplayChanged() {
 
 void frmMain::MemoryChanged() {
   journal_.Follow();
+  const bool isReadOnly = context_.pages.Record(number_).ReadOnly != False16;
+  if (!isReadOnly || isReadOnlyTold_ || !journal_.HasChanges()) return;
+  isReadOnlyTold_ = true;
+  context_.mainWindow.status.Report(
+      QStringLiteral("This file is read-only: Save As keeps your changes"));
 }
 
 void frmMain::ContextMenuRequested(QPoint screenPosition) {

@@ -6,6 +6,7 @@
 #include "editor/PageJournal.h"
 #include "editor/PageRecord.h"
 #include "editor/SourceCaret.h"
+#include "editor/modWorkFlow.h"
 #include "platform/EditingCommands.h"
 #include "platform/EditingComponent.h"
 #include "platform/SourceControl.h"
@@ -60,14 +61,14 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   void EditBarCheck(EditingCommand tbrButton, EditingCommand function);
   /// Brings the main window's formatting buttons and boxes in step with the selection.
   void RefreshMfrm();
-  /// Gives the tab at position Number() this window's caption.
+  /// Gives this page's tab this window's caption.
   void UpdateTabCaption();
   /// Enables source editing unless the page is read-only.
   void CheckAcc();
   /// The element under the caret, or the selected object.
   HtmlElement GetActiveElement();
-  /// The page as HTML text, through its temporary copy; the component's own text where that copy
-  /// cannot be written.
+  /// The page as HTML text, as a save would write it. Its temporary copy holds that text then,
+  /// where there is a place for one.
   QString CreatorHTML();
   /// A copy of the page's record.
   PageRecord GetPageRecord() const;
@@ -101,6 +102,8 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   void ViewHtml();
   void EditHtml();
   void Preview();
+  /// False where the page has no temporary copy with that text now.
+  bool RenewTemporaryCopy(const QString &text, modWorkFlow::CopyEnd end);
   /// Takes the page's caret to where the source view's was moved.
   void ReturnCaretFromSource();
 
@@ -109,6 +112,7 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   std::unique_ptr<EditingComponent> component_;
   std::unique_ptr<SourceControl> source_;
   PageJournal journal_;
+  bool isReadOnlyTold_ = false;
   SourceCaret shownCaret_;  ///< where the source view's caret was put
   QToolBar *tbrQuick = nullptr;
   QStackedLayout *views_ = nullptr;

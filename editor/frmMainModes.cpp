@@ -6,7 +6,6 @@
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
-#include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
@@ -84,9 +83,15 @@ void frmMain::EditHtml() {
 
 void frmMain::ShowEditor() {
   frmCodeEditor &editor = modWorkFlow::SourceEditor(context_, number_);
+  const std::optional<QString> typed = editor.UnappliedText();
   editor.AppliedText = CreatorHTML();
   const ElementPlaces places = component_->CaretPlaces();
-  editor.Fill(CreatorHTML(), places);
+  const QString source = CreatorHTML();
+  if (typed) {
+    editor.Refill(source, places, *typed);
+  } else {
+    editor.Fill(source, places);
+  }
   editor.setWindowTitle(GetPageRecord().Caption);
   context_.mainWindow.windows.Show(&editor);
   editor.Code().SetFocus();
@@ -106,7 +111,7 @@ void frmMain::Preview() {
     return;
   }
   const QString text = CreatorHTML();
-  const bool written = modWorkFlow::WriteTemporaryCopy(context_, number_, text);
+  const bool written = RenewTemporaryCopy(text, modWorkFlow::CopyEnd::LineBreak);
   context_.mainWindow.windows.Show(&preview);
   if (written) {
     preview.brwWebBrowser().Navigate(ToUrl(record.TempPath));
@@ -116,14 +121,16 @@ void frmMain::Preview() {
 }
 
 QString frmMain::CreatorHTML() {
-  const QString tempPath = GetPageRecord().TempPath;
-  if (tempPath.isEmpty()) return component_->TextToSave();
+  const QString text = component_->TextToSave();
+  RenewTemporaryCopy(text, modWorkFlow::CopyEnd::Nothing);
+  return text;
+}
+
+bool frmMain::RenewTemporaryCopy(const QString &text, modWorkFlow::CopyEnd end) {
   try {
-    component_->SaveDocument(tempPath);
-    return modGeneral::ReadWholeFile(context_.platform.files, tempPath);
+    return modWorkFlow::WriteTemporaryCopy(context_, number_, text, end);
   } catch (const RuntimeError &) {
-    // Usual where a folder has a dot in its name: the copy's folder does not exist.
-    return component_->TextToSave();
+    return false;  // a full disk, say: the page's text does without the copy
   }
 }
 

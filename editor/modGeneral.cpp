@@ -15,9 +15,13 @@ QString ReadWholeFile(const Files &files, const QString &path) {
   return DecodePage(files.ReadAll(path)).text;
 }
 
+QByteArray PageBytes(const QString &text, const PageEncoding &page) {
+  return EncodePage(text, EncodingInPlaceOf(page, text));
+}
+
 void WriteTextFile(Files &files, const QString &path, const QString &text,
                    const PageEncoding &page) {
-  files.ReplaceAll(path, EncodePage(text + QStringLiteral("\r\n"), EncodingInPlaceOf(page, text)));
+  files.ReplaceAll(path, PageBytes(text + QStringLiteral("\r\n"), page));
 }
 
 QString FileNameOfPath(const QString &path) {

@@ -12,8 +12,11 @@ namespace velor::modGeneral {
 /// The file's whole content as text, decoded as pages are (page/text/PageEncoding.h).
 QString ReadWholeFile(const Files &files, const QString &path);
 
-/// Creates or replaces the file: the text followed by a line break (CR LF), in the charset that the
-/// text declares for itself, else as `page` was read.
+/// A text as a page's bytes: in the charset that the text declares for itself, else as `page` was
+/// read.
+QByteArray PageBytes(const QString &text, const PageEncoding &page);
+
+/// Creates or replaces the file: the text followed by a line break (CR LF), as PageBytes has it.
 void WriteTextFile(Files &files, const QString &path, const QString &text,
                    const PageEncoding &page);
 

@@ -4,6 +4,7 @@
 
 #include "app/settings/modSettingManager.h"
 #include "editor/MainWindow.h"
+#include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
@@ -15,6 +16,7 @@
 #include "platform/Platform.h"
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
+#include "platform/TemporaryCopies.h"
 
 namespace velor::modWorkFlow {
 
@@ -69,6 +71,7 @@ void Present(EditorContext &context, frmMain &window, const QString &tabCaption)
   context.mainWindow.tabs.Select(key);
   window.Ready = QStringLiteral("True");
   context.mainWindow.commands.SetPageCommandsEnabled(true);
+  HoldNameInDialog(context, window);
 }
 
 QString TemporaryCopyOfNewPage(EditorContext &context, int number) {
@@ -157,15 +160,14 @@ PageEncoding EncodingOf(const EditorContext &context, int number) {
   return encoding;
 }
 
-bool WriteTemporaryCopy(const EditorContext &context, int number, const QString &text) {
-  const QString tempPath = context.pages.Record(number).TempPath;
-  if (tempPath.isEmpty()) return false;
-  try {
-    modGeneral::WriteTextFile(context.platform.files, tempPath, text, EncodingOf(context, number));
-    return true;
-  } catch (const RuntimeError &) {
-    return false;
-  }
+bool WriteTemporaryCopy(const EditorContext &context, int number, const QString &text,
+                        CopyEnd end) {
+  const PageRecord &record = context.pages.Record(number);
+  TemporaryCopies *copies = context.platform.copies;
+  if (copies == nullptr || record.TempPath.isEmpty()) return false;
+  const QString content = end == CopyEnd::LineBreak ? text + QStringLiteral("\r\n") : text;
+  return copies->Write(record.TempPath, modGeneral::PageBytes(content, EncodingOf(context, number)),
+                       record.Path) == TemporaryCopies::Outcome::Written;
 }
 
 frmMain &PageWindow(EditorContext &context, int number) {
@@ -207,6 +209,7 @@ void NewPage(EditorContext &context) {
     context.mainWindow.tabs.SetCaption(PageKey(number), caption);
     context.mainWindow.tabs.Select(PageKey(number));
     context.mainWindow.commands.SetPageCommandsEnabled(true);
+    HoldNameInDialog(context, window);
   });
 }
 
@@ -249,8 +252,6 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
     const bool isReadOnly = record.ReadOnly != False16;
     Present(context, window,
             isReadOnly ? record.Caption + QStringLiteral(" (Read-Only)") : record.Caption);
-    // As after choosing the file: the first plain save takes its path from there.
-    if (record.HasFile != False16) context.mainWindow.fileDialog.FileName = record.Path;
     window.Journal().Unsettle();
     if (kept.source) window.ReopenEditor(*kept.source);
     isKeptAgain = window.Journal().Catch();

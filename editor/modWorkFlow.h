@@ -35,10 +35,13 @@ QString TemporaryCopyOf(const QString &path);
 /// How the page of a slot was read: charset and byte order mark. The defaults for an empty slot.
 PageEncoding EncodingOf(const EditorContext &context, int number);
 
-/// Writes the text of a slot's page to its temporary copy, in the page's encoding and followed by a
-/// line break. False where there is none to write to: no path, or a folder that does not exist or
-/// cannot be written.
-bool WriteTemporaryCopy(const EditorContext &context, int number, const QString &text);
+/// What follows the text in a temporary copy.
+enum class CopyEnd { Nothing, LineBreak };
+
+/// Writes the text of a slot's page to its temporary copy, in the page's encoding. False where
+/// there is no place for one: no path, a folder that takes no file, or a file of that name that is
+/// not this run's copy. Raises RuntimeError where the writing fails.
+bool WriteTemporaryCopy(const EditorContext &context, int number, const QString &text, CopyEnd end);
 
 /// Makes a page from the template in a slot and a tab of its own.
 void NewPage(EditorContext &context);
@@ -57,7 +60,7 @@ void OpenProjectPage(EditorContext &context, const QString &path);
 /// RuntimeError where it cannot be shown.
 bool RestorePage(EditorContext &context, const JournalledPage &kept);
 
-/// Notes what a page's file holds before it is loaded, or after it is saved.
+/// Notes what a page's file holds before it is loaded.
 void TraceFile(frmMain &window, const QString &path);
 
 /// Saves a page; a file that holds what the page did not come from is kept first, and the status
@@ -67,6 +70,18 @@ void TraceFile(frmMain &window, const QString &path);
 std::int32_t SavePage(EditorContext &context, frmMain &window, FileDialog &dialog,
                       PageRecord &record, bool SaveAs);
 
+enum class SaveKind { Save, SaveAs };
+enum class SaveEnd {
+  Safe,       ///< in its file; or the file could not be written, and the journal has it
+  Cancelled,  ///< the person gave no name
+  Failed,     ///< and was told so
+};
+
+/// Saves a page as its commands do, under the name that the page itself has: the shared dialog
+/// holds it before and afterwards. Offers another name for a page whose file is read-only. What
+/// keeps a page from being safe is told in a message, with the file and the reason.
+SaveEnd SaveAndTell(EditorContext &context, frmMain &window, SaveKind kind);
+
 /// Whether the document differs from its last load or save; outer white space and letter case do
 /// not count.
 bool HasUnsavedChanges(const QString &savedHtml, const QString &documentHtml);
@@ -74,7 +89,8 @@ bool HasUnsavedChanges(const QString &savedHtml, const QString &documentHtml);
 enum class CloseDecision { Close, Keep };
 
 /// Asks what closing a page needs to ask: refuses while its source editor is open, offers to save
-/// unsaved changes. A window marked "kill" closes unasked.
+/// unsaved changes. Without such changes nothing is asked where what the page holds is in its file
+/// or in the journal. A window marked "kill" closes unasked.
 CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window);
 
 /// What remains after the decision to close: the temporary copy, the page's source editor and the

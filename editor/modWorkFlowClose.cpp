@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pages closed.
 #include "editor/MainWindow.h"
+#include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Dialogs.h"
-#include "platform/Files.h"
 #include "platform/Platform.h"
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
+#include "platform/TemporaryCopies.h"
 
 namespace velor::modWorkFlow {
 
@@ -24,20 +25,6 @@ void Ignoring(Step step) {
   }
 }
 
-CloseDecision SaveBeforeClosing(EditorContext &context, frmMain &window) {
-  PageRecord &record = context.pages.Record(window.Number());
-  const std::int32_t result =
-      SavePage(context, window, context.mainWindow.fileDialog, record, false);
-  if (result == 0) return CloseDecision::Close;
-  if (result != static_cast<int>(ErrorNumber::DialogCancelled)) {
-    Message failure;
-    failure.text = QStringLiteral("File saving error: %1").arg(result);
-    failure.icon = MessageIcon::Critical;
-    context.platform.dialogs.ShowMessage(failure);
-  }
-  return CloseDecision::Keep;
-}
-
 void CloseSourceEditor(EditorContext &context, int number) {
   const QPointer<frmCodeEditor> editor = context.pages.CodeEditor(number);
   if (editor.isNull()) return;
@@ -46,8 +33,10 @@ void CloseSourceEditor(EditorContext &context, int number) {
   context.pages.CodeEditor(number).clear();
 }
 
-void RemovePageTab(TabStrip &tabs, int number) {
-  if (tabs.Count() == 1) {
+void RemovePageTab(EditorContext &context, int number) {
+  TabStrip &tabs = context.mainWindow.tabs;
+  // The last tab may be another page's where this one has lost its own.
+  if (tabs.Count() == 1 && OpenPageCount(context) <= 1) {
     tabs.Clear();
   } else {
     tabs.Remove(PageKey(number));
@@ -71,9 +60,8 @@ CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window) {
     return CloseDecision::Keep;
   }
 
-  if (!HasUnsavedChanges(record.SavedHTML, window.DHTML1().DocumentHTML())) {
-    return CloseDecision::Close;
-  }
+  const bool isChanged = HasUnsavedChanges(record.SavedHTML, window.DHTML1().DocumentHTML());
+  if (!isChanged && window.Journal().IsSafe()) return CloseDecision::Close;
   Message question;
   question.text = QStringLiteral("You have made changes to this document. Do you want to save it?");
   question.title = QStringLiteral("Closing doucment...");
@@ -81,7 +69,8 @@ CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window) {
   question.icon = MessageIcon::Question;
   switch (context.platform.dialogs.ShowMessage(question)) {
     case MessageAnswer::Yes:
-      return SaveBeforeClosing(context, window);
+      return SaveAndTell(context, window, SaveKind::Save) == SaveEnd::Safe ? CloseDecision::Close
+                                                                           : CloseDecision::Keep;
     case MessageAnswer::No:
       window.Journal().Discard();
       return CloseDecision::Close;
@@ -96,10 +85,11 @@ void CleanUpAfterPage(EditorContext &context, frmMain &window) {
   context.platform.runtime.ProcessPendingEvents();
   {
     const BusyCursor busy(context.platform.runtime);
-    Ignoring([&] { context.platform.files.Delete(context.pages.Record(number).TempPath); });
+    TemporaryCopies *copies = context.platform.copies;
+    if (copies != nullptr) copies->Remove(context.pages.Record(number).TempPath);
     Ignoring([&] { CloseSourceEditor(context, number); });
   }
-  Ignoring([&] { RemovePageTab(context.mainWindow.tabs, number); });
+  Ignoring([&] { RemovePageTab(context, number); });
   context.pages.Page(number).clear();
   Ignoring([&] {
     if (context.mainWindow.tabs.Count() > 0) return;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Pages saved.
 #include "editor/MainWindow.h"
+#include "editor/OpenPages.h"
 #include "editor/PageRecord.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
@@ -12,30 +13,43 @@
 #include "platform/Platform.h"
 #include "platform/ReplacedVersions.h"
 #include "platform/RuntimeError.h"
+#include "platform/TemporaryCopies.h"
+
+#include <optional>
 
 namespace velor::modWorkFlow {
 
 namespace {
 
-/// The flags and paths of a page that now has the file `path`.
-void TakeFile(PageRecord &record, const QString &path) {
+/// The flags and paths of a page that now has the file `path`. The temporary copy goes with the
+/// page's old name.
+void TakeFile(const EditorContext &context, PageRecord &record, const QString &path) {
+  const QString oldCopy = record.TempPath;
   record.ReadOnly = False16;
   record.HasFile = True16;
   record.Spare = False16;
   record.TempPath = TemporaryCopyOf(path);
+  TemporaryCopies *copies = context.platform.copies;
+  if (copies != nullptr && oldCopy != record.TempPath) copies->Remove(oldCopy);
 }
 
-/// Runs a step whose failure the operation passes over; the status bar tells the person. False on
-/// failure.
+/// Why a page is not in its file.
+struct SaveFailure {
+  RuntimeError error;
+  /// A plain save passes over its errors: the status bar has told this one.
+  enum class By { Result, StatusBar } told;
+};
+
+/// Runs a step whose failure the operation passes over; the status bar tells the person.
 template <typename Step>
-bool Attempt(EditorContext &context, const QString &path, Step step) {
+std::optional<RuntimeError> Attempt(EditorContext &context, const QString &path, Step step) {
   try {
     step();
-    return true;
+    return std::nullopt;
   } catch (const RuntimeError &error) {
     context.mainWindow.status.Report(
         QStringLiteral("%1 could not be saved: %2").arg(ForPeople(path), error.Description()));
-    return false;
+    return error;
   }
 }
 
@@ -64,7 +78,12 @@ void WriteFile(frmMain &window, const QString &path) {
   const bool hasGone = HasGone(context, window.Number(), path);
   KeepForeignVersion(window.Context(), window.Number(), path);
   window.DHTML1().SaveDocument(path);
-  TraceFile(window, path);
+  try {
+    TraceFile(window, path);
+  } catch (const RuntimeError &) {
+    // Written, and not to be read: the next save keeps what is there.
+    window.Context().pages.Trace(window.Number()) = {};
+  }
   if (!hasGone) return;
   context.mainWindow.status.Report(
       QStringLiteral("%1 was no longer there. It was written anew").arg(ForPeople(path)));
@@ -72,31 +91,79 @@ void WriteFile(frmMain &window, const QString &path) {
 
 /// Writes to the record's own file; path and temporary copy then follow the dialog's last name,
 /// which after another file was opened is that other file.
-void SavePlain(EditorContext &context, frmMain &window, const FileDialog &dialog,
-               PageRecord &record) {
+std::optional<RuntimeError> SavePlain(EditorContext &context, frmMain &window,
+                                      const FileDialog &dialog, PageRecord &record) {
   const QString file = record.Path;
-  const bool isSaved = Attempt(context, file, [&] { WriteFile(window, file); });
-  TakeFile(record, dialog.FileName);
+  const auto failure = Attempt(context, file, [&] { WriteFile(window, file); });
+  TakeFile(context, record, dialog.FileName);
   Attempt(context, file, [&] { record.SavedHTML = window.DHTML1().DocumentHTML(); });
   record.Path = dialog.FileName;
-  if (isSaved) {
-    window.Journal().Settle();
-  } else {
+  if (failure) {
     window.Journal().SaveFailed();
+  } else {
+    window.Journal().Settle();
   }
+  return failure;
 }
 
 void SaveUnderNewName(frmMain &window, FileDialog &dialog, PageRecord &record) {
   const QString file = dialog.FileName;
   WriteFile(window, file);
   window.Journal().Settle();
-  TakeFile(record, file);
+  TakeFile(window.Context(), record, file);
   record.SavedHTML = window.DHTML1().DocumentHTML();
   record.Path = file;
   window.setWindowTitle(modGeneral::FileNameOfPath(file));
   window.UpdateTabCaption();
   window.DHTML1().LoadDocument(file);
   window.Journal().Settle();
+  // The page may have been read-only before.
+  window.CheckAcc();
+}
+
+std::optional<SaveFailure> Save(EditorContext &context, frmMain &window, FileDialog &dialog,
+                                PageRecord &record, bool SaveAs) {
+  if (!SaveAs && record.HasFile != False16) {
+    const auto failure = SavePlain(context, window, dialog, record);
+    if (!failure) return std::nullopt;
+    return SaveFailure{*failure, SaveFailure::By::StatusBar};
+  }
+  try {
+    dialog.Filter = QStringLiteral("HTML File *.htm|*.htm");
+    dialog.Flags = FileDialog::OverwritePrompt;
+    if (dialog.ShowSave().isEmpty())
+      throw RuntimeError::Of(ErrorNumber::DialogCancelled, QStringLiteral("SavePage"));
+    SaveUnderNewName(window, dialog, record);
+    return std::nullopt;
+  } catch (const RuntimeError &error) {
+    return SaveFailure{error, SaveFailure::By::Result};
+  }
+}
+
+void TellFailure(EditorContext &context, const RuntimeError &error) {
+  Message failure;
+  failure.text = QStringLiteral("File saving error: %1").arg(error.Code());
+  failure.details = error.Description();
+  failure.icon = MessageIcon::Critical;
+  context.platform.dialogs.ShowMessage(failure);
+}
+
+bool IsWriteProtected(const EditorContext &context, const PageRecord &record) {
+  const Files &files = context.platform.files;
+  return record.HasFile != False16 && files.FileExists(record.Path) &&
+         files.IsReadOnly(record.Path);
+}
+
+/// Whether a page whose file cannot be written is to be saved under another name.
+bool WantsAnotherName(EditorContext &context, const PageRecord &record) {
+  Message question;
+  question.text =
+      QStringLiteral("%1 is read-only. Do you want to save your changes under another name?")
+          .arg(modGeneral::FileNameOfPath(record.Path));
+  question.details = ForPeople(record.Path);
+  question.buttons = MessageButtons::YesNo;
+  question.icon = MessageIcon::Question;
+  return context.platform.dialogs.ShowMessage(question) == MessageAnswer::Yes;
 }
 
 }  // namespace
@@ -109,19 +176,26 @@ void TraceFile(frmMain &window, const QString &path) {
 
 std::int32_t SavePage(EditorContext &context, frmMain &window, FileDialog &dialog,
                       PageRecord &record, bool SaveAs) {
-  if (!SaveAs && record.HasFile != False16) {
-    SavePlain(context, window, dialog, record);
-    return 0;
+  const auto failure = Save(context, window, dialog, record, SaveAs);
+  return failure && failure->told == SaveFailure::By::Result ? failure->error.Code() : 0;
+}
+
+SaveEnd SaveAndTell(EditorContext &context, frmMain &window, SaveKind kind) {
+  PageRecord &record = context.pages.Record(window.Number());
+  if (kind == SaveKind::Save && IsWriteProtected(context, record)) {
+    if (!WantsAnotherName(context, record)) return SaveEnd::Cancelled;
+    kind = SaveKind::SaveAs;
   }
-  try {
-    dialog.Filter = QStringLiteral("HTML File *.htm|*.htm");
-    dialog.Flags = FileDialog::OverwritePrompt;
-    if (dialog.ShowSave().isEmpty()) return static_cast<int>(ErrorNumber::DialogCancelled);
-    SaveUnderNewName(window, dialog, record);
-    return 0;
-  } catch (const RuntimeError &error) {
-    return error.Code();
-  }
+  HoldNameInDialog(context, window);
+  const auto failure =
+      Save(context, window, context.mainWindow.fileDialog, record, kind == SaveKind::SaveAs);
+  HoldNameInDialog(context, window);
+  if (!failure) return SaveEnd::Safe;
+  if (failure->error.Number() == ErrorNumber::DialogCancelled) return SaveEnd::Cancelled;
+  if (failure->told == SaveFailure::By::StatusBar && window.Journal().IsSafe())
+    return SaveEnd::Safe;
+  TellFailure(context, failure->error);
+  return SaveEnd::Failed;
 }
 
 bool HasUnsavedChanges(const QString &savedHtml, const QString &documentHtml) {

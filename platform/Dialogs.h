@@ -17,6 +17,8 @@ inline constexpr const char16_t *ApplicationTitle = u"Velor Web Creator";
 /// One modal message box: plain text, exactly these words, buttons and icon.
 struct Message {
   QString text;
+  /// Stands below the text in smaller letters: the file and the reason in words, say.
+  QString details = {};
   QString title = QString::fromUtf16(ApplicationTitle);
   MessageButtons buttons = MessageButtons::Ok;
   MessageIcon icon = MessageIcon::None;

@@ -31,7 +31,10 @@ class SourceControl {
   virtual void SetFocus() = 0;
 
   virtual QString Text() const = 0;
+  /// Puts another text in; the undo history begins with it.
   virtual void SetText(const QString &text) = 0;
+  /// Puts another text in the place of the one there, as one step of the undo history.
+  virtual void ReplaceText(const QString &text) = 0;
 
   /// Colour slots: 1 margin background, 26 line number background, 27 line number text; `color`
   /// with red in the low byte. Other slots are ignored.

@@ -2,6 +2,7 @@
 #include "qt/QsciSourceControl.h"
 
 #include "engine/FileDrops.h"
+#include "page/text/PageEncoding.h"
 #include "qt/SourceColors.h"
 #include "qt/SourceLexer.h"
 #include "qt/SourceMarks.h"
@@ -53,11 +54,18 @@ QColor FromColorValue(std::int32_t color) {
   return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
 }
 
+/// The line end that a page of this text has, by the rule that its charset line in the status bar
+/// goes by.
 QsciScintilla::EolMode EolModeOf(const QString &text) {
-  const qsizetype lineFeed = text.indexOf(u'\n');
-  const qsizetype carriageReturn = text.indexOf(u'\r');
-  if (carriageReturn < 0) return QsciScintilla::EolUnix;
-  return lineFeed < 0 ? QsciScintilla::EolMac : QsciScintilla::EolWindows;
+  switch (DeclaredEncoding(text).lineEnds) {
+    case LineEnds::Lf:
+      return QsciScintilla::EolUnix;
+    case LineEnds::Cr:
+      return QsciScintilla::EolMac;
+    case LineEnds::CrLf:
+      break;
+  }
+  return QsciScintilla::EolWindows;
 }
 
 /// On a dark field the slots' lightness is mirrored: what is to be as light as paper becomes as
@@ -147,6 +155,18 @@ void QsciSourceControl::SetText(const QString &text) {
   Send(QsciScintilla::SCI_EMPTYUNDOBUFFER);
   editor_->setReadOnly(readOnly);
   editor_->setModified(false);
+  marks_->TextReplaced();
+  FitLineNumbers();
+}
+
+void QsciSourceControl::ReplaceText(const QString &text) {
+  const QByteArray bytes = text.toUtf8();
+  editor_->setEolMode(EolModeOf(text));
+  Send(QsciScintilla::SCI_BEGINUNDOACTION);
+  Send(QsciScintilla::SCI_SETTARGETRANGE, 0, Send(QsciScintilla::SCI_GETLENGTH));
+  editor_->SendScintilla(QsciScintilla::SCI_REPLACETARGET, static_cast<unsigned long>(bytes.size()),
+                         bytes.constData());
+  Send(QsciScintilla::SCI_ENDUNDOACTION);
   marks_->TextReplaced();
   FitLineNumbers();
 }

@@ -17,7 +17,8 @@ class SourceMarks;
 
 /// The source control on QScintilla: HTML with its scripts and style sheets in colours that follow
 /// the palette, line numbers, folding, matching tags and brackets, a fixed-pitch font. Line ends
-/// stay as they were given, and new lines get the same. Inside it counts bytes of UTF-8.
+/// stay as they were given, and new lines get the form that most of them have. Inside it counts
+/// bytes of UTF-8.
 class QsciSourceControl final : public QObject, public SourceControl {
   Q_OBJECT
 
@@ -29,6 +30,7 @@ class QsciSourceControl final : public QObject, public SourceControl {
   void SetFocus() override;
   QString Text() const override;
   void SetText(const QString &text) override;
+  void ReplaceText(const QString &text) override;
   void SetColor(int slot, std::int32_t color) override;
   QString SelectedText() const override;
   void ReplaceSelection(const QString &text) override;

@@ -86,6 +86,10 @@ MessageAnswer QtDialogs::ShowMessage(const Message &message) {
   // The format first: the text may look like markup.
   box.setTextFormat(Qt::PlainText);
   box.setText(message.text);
+  box.setInformativeText(message.details);
+  // The toolkit leaves this label to guess.
+  if (auto *details = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel")))
+    details->setTextFormat(Qt::PlainText);
   box.setDefaultButton(set.initial);
   box.setEscapeButton(set.escape);
   if (message.foreground) {

@@ -5,6 +5,7 @@
 #include "app/window/InsertCommands.h"
 #include "editor/EditorContext.h"
 #include "editor/MainWindow.h"
+#include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
@@ -17,6 +18,7 @@
 
 #include <QAction>
 #include <QPointer>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -51,18 +53,13 @@ void CommandRouter::Run(const Command &command) {
       NewPage();
       break;
     case CommandId::OpenPage:
-      OpenPage([this] {
-        FileDialog &dialog = context_.mainWindow.fileDialog;
-        dialog.Flags = FileDialog::FileMustExist;
-        dialog.Filter = QStringLiteral("HTML Files *.htm,*.html|*.htm;*.html");
-        return dialog.ShowOpen();
-      });
+      OpenPage();
       break;
     case CommandId::SavePage:
-      SavePage(SaveKind::Save);
+      SavePage(modWorkFlow::SaveKind::Save);
       break;
     case CommandId::SavePageAs:
-      SavePage(SaveKind::SaveAs);
+      SavePage(modWorkFlow::SaveKind::SaveAs);
       break;
     case CommandId::CloseProgram:
       host_.CloseProgram();
@@ -105,22 +102,11 @@ void CommandRouter::Click(const GeneralButton &button) {
   Run(button.command);
 }
 
-bool CommandRouter::HasRoom() {
-  // Exactly the limit: the test as it is published.
-  if (context_.mainWindow.tabs.Count() != MostPages) return true;
-  Message refusal;
-  refusal.text = QStringLiteral(
-      "Too many Pages are opened. Please close one or two File(s), and then try to open it.");
-  refusal.icon = MessageIcon::Critical;
-  context_.platform.dialogs.ShowMessage(refusal);
-  return false;
-}
-
 void CommandRouter::NewPage() {
   QAction &item = host_.MenuItem(CommandId::NewPage);
   item.setEnabled(false);
   try {
-    if (HasRoom()) modWorkFlow::NewPage(context_);
+    if (HasRoom(context_)) modWorkFlow::NewPage(context_);
   } catch (...) {
     item.setEnabled(true);
     throw;
@@ -128,36 +114,39 @@ void CommandRouter::NewPage() {
   item.setEnabled(true);
 }
 
-void CommandRouter::OpenPage(const std::function<QString()> &choose) {
+void CommandRouter::OpenPage() {
   QAction &item = host_.MenuItem(CommandId::OpenPage);
   item.setEnabled(false);
   // After a refusal the item deliberately stays disabled.
-  if (!HasRoom()) return;
-  QString path;
+  if (!HasRoom(context_)) return;
   try {
-    path = choose();
-    modWorkFlow::OpenPage(context_, path);
-  } catch (const RuntimeError &error) {
+    FileDialog &dialog = context_.mainWindow.fileDialog;
+    dialog.Flags = FileDialog::FileMustExist;
+    dialog.Filter = QStringLiteral("HTML Files *.htm,*.html|*.htm;*.html");
     // A cancelled dialog names no file, and nothing needs saying.
-    if (!path.isEmpty()) {
-      context_.mainWindow.status.Report(
-          QStringLiteral("%1 could not be opened: %2").arg(ForPeople(path), error.Description()));
-    }
+    if (const QString path = dialog.ShowOpen(); !path.isEmpty()) OpenFile(path);
+  } catch (const RuntimeError &) {
   }
+  HoldNameOfActivePage();
   item.setEnabled(true);
 }
 
-void CommandRouter::SavePage(SaveKind kind) {
-  frmMain *page = host_.ActiveDocument();
-  if (!page) return;
-  const std::int32_t result =
-      modWorkFlow::SavePage(context_, *page, context_.mainWindow.fileDialog,
-                            context_.pages.Record(page->Number()), kind == SaveKind::SaveAs);
-  if (result == 0 || result == static_cast<int>(ErrorNumber::DialogCancelled)) return;
-  Message failure;
-  failure.text = QStringLiteral("File saving error: %1").arg(result);
-  failure.icon = MessageIcon::Critical;
-  context_.platform.dialogs.ShowMessage(failure);
+void CommandRouter::OpenFile(const QString &path) {
+  const QScopedValueRollback<bool> opening(isOpening_, true);
+  try {
+    if (!ShowPageOfFile(context_, path)) modWorkFlow::OpenPage(context_, path);
+  } catch (const RuntimeError &error) {
+    context_.mainWindow.status.Report(
+        QStringLiteral("%1 could not be opened: %2").arg(ForPeople(path), error.Description()));
+  }
+}
+
+void CommandRouter::HoldNameOfActivePage() {
+  if (frmMain *page = host_.ActiveDocument()) HoldNameInDialog(context_, *page);
+}
+
+void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
+  if (frmMain *page = host_.ActiveDocument()) modWorkFlow::SaveAndTell(context_, *page, kind);
 }
 
 void CommandRouter::Edit(EditingCommand command) {
@@ -204,24 +193,30 @@ void CommandRouter::SetBackColor(std::int32_t color) {
 }
 
 void CommandRouter::OpenProjectPage(int pageId) {
-  if (!HasRoom()) return;
+  if (!HasRoom(context_)) return;
   if (!values_.DbConnection) {
     throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("CmbPages"));
   }
   if (const auto path = projectPages_.PathOf(pageId, *values_.DbConnection)) {
-    modWorkFlow::OpenProjectPage(context_, *path);
+    if (!ShowPageOfFile(context_, ToLogic(FindIgnoringCase(*path))))
+      modWorkFlow::OpenProjectPage(context_, *path);
   }
 }
 
 void CommandRouter::TakeDroppedFiles(const QStringList &paths, frmMain *page) {
   const QPointer<frmMain> alive = page;
+  bool isRefused = false;
   for (const QString &path : paths) {
     if (HasEnding(path, PageEndings)) {
-      if (host_.MenuItem(CommandId::OpenPage).isEnabled()) OpenPage([&path] { return path; });
+      if (isOpening_ || ShowPageOfFile(context_, path)) continue;
+      // Said once, however many there are.
+      isRefused = isRefused || !HasRoom(context_);
+      if (!isRefused) OpenFile(path);
     } else if (!alive.isNull() && HasEnding(path, PictureEndings)) {
       insert_.PictureFile(*alive, path);
     }
   }
+  HoldNameOfActivePage();
 }
 
 void CommandRouter::ActivatePage(int number) {

@@ -3,13 +3,13 @@
 
 #include "app/window/Command.h"
 #include "app/window/ProjectPageQuery.h"
+#include "editor/modWorkFlow.h"
 #include "platform/EditingCommands.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <cstdint>
-#include <functional>
 
 class QAction;
 
@@ -40,9 +40,6 @@ class CommandHost {
 /// operations. A command that needs a document does nothing without one.
 class CommandRouter {
  public:
-  /// More pages than these are never open at once.
-  static constexpr int MostPages = 5;
-
   CommandRouter(EditorContext &context, ProgramValues &values, CommandHost &host,
                 InsertCommands &insert);
 
@@ -60,30 +57,33 @@ class CommandRouter {
 
   /// An entry of the page chooser was chosen.
   void OpenProjectPage(int pageId);
-  /// Files were dropped, paths in logic form: pages open as by the menu item, while it is enabled;
-  /// pictures go to the caret of `page`.
+  /// Files were dropped, paths in logic form: pages open as far as there is room, whether the menu
+  /// item is enabled or not; pictures go to the caret of `page`.
   void TakeDroppedFiles(const QStringList &paths, frmMain *page);
   /// A page's tab was chosen: its window is activated, made first where the slot is empty.
   void ActivatePage(int number);
 
  private:
-  enum class SaveKind { Save, SaveAs };
-
   void NewPage();
-  void OpenPage(const std::function<QString()> &choose);
-  void SavePage(SaveKind kind);
+  void OpenPage();
+  /// Opens the file, or brings the page to the front that has it; the status bar says where that
+  /// fails.
+  void OpenFile(const QString &path);
+  /// The shared dialog names the page that is active now.
+  void HoldNameOfActivePage();
+  void SavePage(modWorkFlow::SaveKind kind);
   void Edit(EditingCommand command);
   void Insert(void (InsertCommands::*insertion)(frmMain &));
   void SetValue(EditingCommand query, EditingCommand set, const QString &value);
   void SetColor(EditingCommand set, std::int32_t color);
-  /// Whether there is room for another page; tells the person when not.
-  bool HasRoom();
 
   EditorContext &context_;
   ProgramValues &values_;
   CommandHost &host_;
   InsertCommands &insert_;
   ProjectPageQuery projectPages_;
+  /// A load waits, and files may be dropped meanwhile.
+  bool isOpening_ = false;
 };
 
 }  // namespace velor

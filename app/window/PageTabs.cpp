@@ -61,17 +61,11 @@ void PageTabs::Add(const QString &key, int image) {
 }
 
 void PageTabs::SetCaption(const QString &key, const QString &caption) {
-  SetCaptionAt(IndexOf(key) + 1, caption);
-}
-
-void PageTabs::SetCaptionAt(int position, const QString &caption) {
-  if (position < 1 || position > count()) {
-    throw RuntimeError::Of(ErrorNumber::IndexOutOfBounds, NameOf(*this), QString::number(position));
-  }
+  const int index = IndexOf(key);
   // The tool tip holds the caption as it is and is measured; so it is there before the text, which
   // makes the strip lay itself out. "&" is a letter of a file name here, no mnemonic.
-  setTabToolTip(position - 1, caption);
-  setTabText(position - 1, QString(caption).replace(u'&', QStringLiteral("&&")));
+  setTabToolTip(index, caption);
+  setTabText(index, QString(caption).replace(u'&', QStringLiteral("&&")));
 }
 
 void PageTabs::Select(const QString &key) {

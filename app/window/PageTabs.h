@@ -18,7 +18,6 @@ class PageTabs final : public QTabBar, public TabStrip {
   int Count() const override { return count(); }
   void Add(const QString &key, int image) override;
   void SetCaption(const QString &key, const QString &caption) override;
-  void SetCaptionAt(int position, const QString &caption) override;
   void Select(const QString &key) override;
   void Remove(const QString &key) override;
   void Clear() override;

@@ -5,10 +5,12 @@
 #include "chrome/FrmFld.h"
 #include "editor/EditorContext.h"
 #include "editor/MainWindow.h"
+#include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Dialogs.h"
+#include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "projects/frmProjectManager.h"
 
@@ -49,6 +51,7 @@ void ProjectDesk::UnloadDocument(int index) {
 }
 
 void ProjectDesk::OpenProjectPage(const QString &path) {
+  if (ShowPageOfFile(context_, ToLogic(FindIgnoringCase(path))) || !HasRoom(context_)) return;
   modWorkFlow::OpenProjectPage(context_, path);
 }
 

@@ -104,6 +104,7 @@ TEST_F(CloseTest, AFailingSaveTellsItsNumberAndKeepsThePage) {
   dialogs.ExpectMessage(QStringLiteral("File saving error: 61"));
   EXPECT_FALSE(Page(1).close());
   EXPECT_TRUE(IsOpen(1));
+  EXPECT_EQ(dialogs.messages.at(1).details, QStringLiteral("Disk full"));
   EXPECT_EQ(dialogs.messages.at(1).icon, MessageIcon::Critical);
   EXPECT_EQ(dialogs.messages.at(1).buttons, MessageButtons::Ok);
   EXPECT_EQ(dialogs.messages.at(1).title, QStringLiteral("Velor Web Creator"));
@@ -185,12 +186,38 @@ TEST_F(CloseTest, AMissingTemporaryCopyOrTabIsNoError) {
 }
 
 TEST_F(CloseTest, ClosingAReadOnlyPageDeletesNothing) {
+  files.AddFile(IndexCopy, "mine");
   files.AddFile(IndexFile, "<p>a</p>");
   files.MakeReadOnly(IndexFile);
   modWorkFlow::OpenPage(context, IndexFile);
   Component(1).CompleteDocument();
+  // A plain save that fails gives the record a temporary path.
+  modWorkFlow::SavePage(context, Page(1), dialog, Record(1), false);
+  Page(1).ChangeMode(2);
+  const QStringList before = files.Paths();
   Page(1).close();
-  EXPECT_TRUE(Exists(IndexFile));
+  EXPECT_FALSE(IsOpen(1));
+  EXPECT_EQ(files.Paths(), before);
+  EXPECT_EQ(Content(IndexCopy), "mine");
+}
+
+TEST_F(CloseTest, APersonsOwnFileOfTheCopysNameIsNeitherWrittenNorDeleted) {
+  files.AddFile(IndexCopy, "mine");
+  Open(IndexFile);
+  for (const int mode : {2, 3, 4}) Page(1).ChangeMode(mode);
+  EXPECT_EQ(Code(1).text, QStringLiteral("<p>a</p>"));
+  pages.CodeEditor(1)->close();
+  EXPECT_TRUE(Page(1).close());
+  EXPECT_EQ(Content(IndexCopy), "mine");
+}
+
+TEST_F(CloseTest, TheCopyOfThePagesOldNameGoesWithASaveUnderANewOne) {
+  Open(IndexFile);
+  Page(1).CreatorHTML();
+  ASSERT_TRUE(Exists(IndexCopy));
+  dialog.ExpectSave(QStringLiteral("\\site\\new.htm"));
+  modWorkFlow::SavePage(context, Page(1), dialog, Record(1), true);
+  EXPECT_FALSE(Exists(IndexCopy));
 }
 
 TEST_F(CloseTest, AnEditorWithUnappliedSourceGoesWithItsPageUnasked) {

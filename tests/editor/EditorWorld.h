@@ -14,6 +14,7 @@
 #include "tests/support/FakeMainWindow.h"
 #include "tests/support/FakeRegistry.h"
 #include "tests/support/FakeRuntime.h"
+#include "tests/support/FakeTemporaryCopies.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -81,7 +82,9 @@ class EditorWorld : public ::testing::Test {
   FakeFileDialog dialog{&log};
   FakeComponents components{files, nullptr, &log};
   FakeMainWindow mainWindow{dialog, &log};
-  Platform platform{files, runtime, dialogs, registry, components};
+  FakeTemporaryCopies copies{files};
+  Platform platform{files,   runtime, dialogs, registry, components,
+                    nullptr, nullptr, nullptr, &copies};
   PageSlots pages;
   EditorContext context{platform, mainWindow, pages, {}};
 };

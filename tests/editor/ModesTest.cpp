@@ -90,8 +90,7 @@ TEST_F(ModesTest, ViewHtmlShowsACopyOfThePagesText) {
   EXPECT_EQ(SourceView(1).text, QStringLiteral("<p>b</p>"));
   EXPECT_EQ(SourceView(1).access, SourceAccess::View);
   EXPECT_TRUE(InFront(SourceView(1).Widget()));
-  EXPECT_EQ(log,
-            Calls({"SaveDocument(\\site\\indexTMP.htm)", "Source.SetText()", "Source.SetFocus()"}));
+  EXPECT_EQ(log, Calls({"TextToSave()", "Source.SetText()", "Source.SetFocus()"}));
 }
 
 TEST_F(ModesTest, ViewHtmlOpensAtTheCaretsElementAndDesignComesBackToWhereItWasMoved) {
@@ -144,8 +143,8 @@ TEST_F(ModesTest, EditHtmlMarksTheRecordAndFillsTheEditorFromTwoCopies) {
   Component(1).Edit(QStringLiteral("<p>b</p>"));
   Page(1).ChangeMode(3);
   EXPECT_EQ(Record(1).EditorOpen, True16);
-  EXPECT_EQ(log, Calls({"SaveDocument(\\site\\indexTMP.htm)", "SaveDocument(\\site\\indexTMP.htm)",
-                        "Source.SetText()", "ShowWindow(frmCodeEditor)", "Source.SetFocus()"}));
+  EXPECT_EQ(log, Calls({"TextToSave()", "TextToSave()", "Source.SetText()",
+                        "ShowWindow(frmCodeEditor)", "Source.SetFocus()"}));
   EXPECT_EQ(pages.CodeEditor(1)->AppliedText, QStringLiteral("<p>b</p>"));
   EXPECT_EQ(Code(1).text, QStringLiteral("<p>b</p>"));
   EXPECT_EQ(pages.CodeEditor(1)->windowTitle(), QStringLiteral("index.htm"));
@@ -164,12 +163,23 @@ TEST_F(ModesTest, EditHtmlMakesTheEditorAnewAfterItWasClosed) {
   EXPECT_TRUE(pages.CodeEditor(1)->isVisible());
 }
 
-TEST_F(ModesTest, EditHtmlAgainReplacesUnappliedSourceUnasked) {
+TEST_F(ModesTest, EditHtmlAgainReplacesUnappliedSourceAsOneStepThatUndoTakesBack) {
   Open(IndexFile);
   Page(1).ChangeMode(3);
   Code(1).text = QStringLiteral("unapplied");
   Page(1).ChangeMode(3);
   EXPECT_EQ(Code(1).text, QStringLiteral("<p>a</p>"));
+  EXPECT_EQ(Code(1).undoable, QStringList{QStringLiteral("unapplied")});
+  ASSERT_EQ(mainWindow.reports.size(), 1);
+  EXPECT_TRUE(mainWindow.reports[0].contains(QStringLiteral("Undo (Ctrl+Z)")));
+}
+
+TEST_F(ModesTest, EditHtmlAgainWithNothingTypedFillsTheEditorAnew) {
+  Open(IndexFile);
+  Page(1).ChangeMode(3);
+  Page(1).ChangeMode(3);
+  EXPECT_TRUE(Code(1).undoable.isEmpty());
+  EXPECT_TRUE(mainWindow.reports.isEmpty());
 }
 
 TEST_F(ModesTest, TheEditorsCaptionIsTheRecordsEvenAfterASaveUnderANewName) {
@@ -264,15 +274,22 @@ TEST_F(ModesTest, ActivationWithoutATabOrTagIsHarmless) {
   EXPECT_NO_THROW(Page(1).OnActivated());
 }
 
-TEST_F(ModesTest, TheTabCaptionIsSetAtThePositionOfThePagesNumber) {
+TEST_F(ModesTest, TheTabCaptionIsSetOnThePagesOwnTabWhicheverPlaceItHas) {
   New();
   New();
   New();
   Page(1).close();
   Page(2).setWindowTitle(QStringLiteral("two"));
   Page(2).UpdateTabCaption();
-  EXPECT_EQ(mainWindow.tabs[1].key, QStringLiteral("key3"));
-  EXPECT_EQ(mainWindow.tabs[1].caption, QStringLiteral("two"));
+  EXPECT_EQ(mainWindow.tabs[0].key, QStringLiteral("key2"));
+  EXPECT_EQ(mainWindow.tabs[0].caption, QStringLiteral("two"));
+  EXPECT_EQ(mainWindow.tabs[1].caption, QStringLiteral("Untitled 3"));
+}
+
+TEST_F(ModesTest, APageWithoutATabNeedsNoCaptionThere) {
+  New();
+  mainWindow.Clear();
+  EXPECT_NO_THROW(Page(1).UpdateTabCaption());
 }
 
 TEST_F(ModesTest, TheRecordIsHandedOutAsACopy) {

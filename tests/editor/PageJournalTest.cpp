@@ -172,6 +172,54 @@ TEST_F(PageJournals, APlainSaveThatFailsKeepsThePageEvenWhenItIsClosed) {
   EXPECT_TRUE(IsWritten(Changed));
 }
 
+TEST_F(PageJournals, WhereTheSaveAndTheJournalFailNothingClosesUnaskedAndYesClosesOnlyWhatIsSafe) {
+  Open(IndexFile);
+  Component(1).Edit(Changed);
+  journals.writeFailure = ErrorNumber::DiskFull;
+  files.FailNextWrite(ErrorNumber::DiskFull);
+  dialogs.ExpectMessage(QStringLiteral("File saving error: 61"));
+  modWorkFlow::SaveAndTell(context, Page(1), modWorkFlow::SaveKind::Save);
+  Answer(MessageAnswer::Cancel);
+  EXPECT_FALSE(Page(1).close());
+  Answer(MessageAnswer::Yes);
+  files.FailNextWrite(ErrorNumber::DiskFull);
+  dialogs.ExpectMessage(QStringLiteral("File saving error: 61"));
+  EXPECT_FALSE(Page(1).close());
+  ASSERT_FALSE(pages.Page(1).isNull());
+  Answer(MessageAnswer::Yes);
+  EXPECT_TRUE(Page(1).close());
+  EXPECT_EQ(Content(IndexFile), Changed.toUtf8());
+}
+
+TEST_F(PageJournals, APageWhoseLetterCaseAloneChangedClosesUnaskedAndIsKept) {
+  Open(IndexFile);
+  const QString otherCase = Component(1).DocumentHTML().toUpper();
+  Component(1).Edit(otherCase);
+  EXPECT_TRUE(Page(1).close());
+  DeleteClosedWindows();
+  EXPECT_TRUE(IsWritten(otherCase));
+}
+
+TEST_F(PageJournals, APageWhoseLetterCaseChangeCannotBeKeptAsks) {
+  Open(IndexFile);
+  journals.writeFailure = ErrorNumber::DiskFull;
+  Component(1).Edit(Component(1).DocumentHTML().toUpper());
+  Answer(MessageAnswer::No);
+  EXPECT_TRUE(Page(1).close());
+}
+
+TEST_F(PageJournals, AReadOnlyPageSaysSoAtTheFirstChange) {
+  files.AddFile(IndexFile, "<p>a</p>");
+  files.MakeReadOnly(IndexFile);
+  modWorkFlow::OpenPage(context, IndexFile);
+  Component(1).CompleteDocument();
+  EXPECT_TRUE(mainWindow.reports.isEmpty());
+  Component(1).Edit(Changed);
+  Component(1).Edit(QStringLiteral("<p>more</p>"));
+  EXPECT_EQ(mainWindow.reports,
+            QStringList{QStringLiteral("This file is read-only: Save As keeps your changes")});
+}
+
 TEST_F(PageJournals, APlainSaveThatFailsIsMadeGoodByTheNext) {
   Open(IndexFile);
   Change(1);
@@ -197,12 +245,12 @@ TEST_F(PageJournals, CancelAtTheClosePromptKeepsIt) {
   EXPECT_TRUE(IsWritten(Changed));
 }
 
-TEST_F(PageJournals, TheProgramsExitEndsIt) {
+TEST_F(PageJournals, APageClosedByForceStaysInIt) {
   Open(IndexFile);
   Change(1);
   Page(1).MarkKill();
   Page(1).close();
-  EXPECT_TRUE(IsEmpty());
+  EXPECT_TRUE(IsWritten(Changed));
 }
 
 TEST_F(PageJournals, AJournalThatCannotBeWrittenIsToldOnce) {
@@ -356,15 +404,27 @@ TEST_F(SourceJournals, ASaveOfThePageKeepsTheSource) {
   EXPECT_EQ(journals.Written().back().path, QStringLiteral("\\site\\new.htm"));
 }
 
-TEST_F(SourceJournals, TheProgramsExitEndsIt) {
+TEST_F(SourceJournals, ASourceClosedByForceStaysWithItsPage) {
   frmCodeEditor &editor = Edit();
   TypeInSource(Typed);
   Change(1);
   Page(1).MarkKill();
   editor.MarkKill();
   Page(1).close();
-  EXPECT_TRUE(IsEmpty());
-  EXPECT_FALSE(QTest::qWaitFor([&] { return !IsEmpty(); }, LongestDelay));
+  EXPECT_TRUE(IsWritten(Changed));
+  EXPECT_EQ(WrittenSource(), Typed);
+}
+
+TEST_F(SourceJournals, ASourceThatThePagesOwnTookThePlaceOfStaysUntilOneIsAppliedOrGivenUp) {
+  frmCodeEditor &editor = Edit();
+  TypeInSource(Typed);
+  Page(1).ChangeMode(3);
+  EXPECT_NE(Code(1).text, Typed);
+  Page(1).Journal().Catch();
+  EXPECT_EQ(WrittenSource(), Typed);
+  editor.ApplyCode();
+  Page(1).Journal().Catch();
+  EXPECT_EQ(WrittenSource(), std::nullopt);
 }
 
 TEST_F(SourceJournals, ARestoredSourceIsInTheEditorAgainAndNotInThePage) {

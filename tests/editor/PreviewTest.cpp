@@ -28,8 +28,8 @@ TEST_F(PreviewTest, APageIsShownFromItsTemporaryCopyWithALineBreakMore) {
   Open(IndexFile);
   Component(1).Edit(QStringLiteral("<p>b</p>"));
   Page(1).ChangeMode(4);
-  EXPECT_EQ(log, Calls({"AdoptWindow(frmBrowser)", "SaveDocument(\\site\\indexTMP.htm)",
-                        "ShowWindow(frmBrowser)", "Browser.Navigate(file:///site/indexTMP.htm)"}));
+  EXPECT_EQ(log, Calls({"AdoptWindow(frmBrowser)", "TextToSave()", "ShowWindow(frmBrowser)",
+                        "Browser.Navigate(file:///site/indexTMP.htm)"}));
   EXPECT_EQ(Content(QStringLiteral("\\site\\indexTMP.htm")), "<p>b</p>\r\n");
 }
 

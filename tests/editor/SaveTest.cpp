@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/OpenPages.h"
 #include "editor/modWorkFlow.h"
 #include "tests/editor/EditorWorld.h"
 
@@ -90,8 +91,8 @@ TEST_F(SaveTest, SavingUnderANewNameGoesInTheStatedOrder) {
   dialog.ExpectSave(NewName);
   EXPECT_EQ(Save(1, UnderNewName), 0);
   EXPECT_EQ(log, Calls({"ShowSave(HTML File *.htm|*.htm)", "SaveDocument(\\site\\new.htm)",
-                        "DocumentHTML()", "SetTabCaptionAt(1, new.htm)",
-                        "LoadDocument(\\site\\new.htm)"}));
+                        "DocumentHTML()", "SetTabCaption(key1, new.htm)",
+                        "LoadDocument(\\site\\new.htm)", "SetSourceEditingEnabled(True)"}));
 }
 
 TEST_F(SaveTest, SavingUnderANewNameBringsTheRecordUpToDateInPlace) {
@@ -151,15 +152,16 @@ TEST_F(SaveTest, AFileThatCannotBeWrittenReturnsItsErrorNumber) {
   EXPECT_EQ(Page(1).windowTitle(), QStringLiteral("index.htm"));
 }
 
-TEST_F(SaveTest, ATabThatIsNotAtThePagesPositionReturnsItsErrorAfterTheFileIsSafe) {
+TEST_F(SaveTest, AfterAPageWasClosedTheOthersAreSavedUnderTheirOwnTabs) {
   New().close();
+  New();
   New();
   Component(2).Edit(QStringLiteral("<p>b</p>"));
   dialog.ExpectSave(NewName);
-  EXPECT_EQ(Save(2, UnderNewName), static_cast<int>(ErrorNumber::IndexOutOfBounds));
+  EXPECT_EQ(Save(2, UnderNewName), 0);
   EXPECT_EQ(Content(NewName), "<p>b</p>");
-  EXPECT_EQ(Record(2).HasFile, True16);
-  EXPECT_EQ(Record(2).Path, NewName);
+  EXPECT_EQ(mainWindow.tabs[0].caption, QStringLiteral("new.htm"));
+  EXPECT_EQ(mainWindow.tabs[1].caption, QStringLiteral("Untitled 3"));
 }
 
 TEST_F(SaveTest, AFileThatCannotBeReadBackReturnsItsErrorNumber) {
@@ -169,6 +171,89 @@ TEST_F(SaveTest, AFileThatCannotBeReadBackReturnsItsErrorNumber) {
   dialog.ExpectSave(NewName);
   EXPECT_EQ(Save(1, UnderNewName), static_cast<int>(ErrorNumber::DeviceIoError));
   EXPECT_EQ(Record(1).Path, NewName);
+}
+
+/// Saved as the Save and Save As commands do it.
+class SaveCommandTest : public SaveTest {
+ protected:
+  modWorkFlow::SaveEnd Command(int number, modWorkFlow::SaveKind kind) {
+    return modWorkFlow::SaveAndTell(context, Page(number), kind);
+  }
+  modWorkFlow::SaveEnd Plain(int number) { return Command(number, modWorkFlow::SaveKind::Save); }
+};
+
+TEST_F(SaveCommandTest, EveryPlainSaveGoesToThePagesOwnFileWhateverWasOpenedSince) {
+  Open(IndexFile);
+  Open(OtherFile);
+  for (const char *text : {"<p>b</p>", "<p>c</p>"}) {
+    dialog.FileName = OtherFile;
+    Component(1).Edit(QString::fromLatin1(text));
+    EXPECT_EQ(Plain(1), modWorkFlow::SaveEnd::Safe);
+    EXPECT_EQ(Content(IndexFile), text);
+    EXPECT_EQ(Content(OtherFile), "<p>a</p>");
+    EXPECT_EQ(dialog.FileName, IndexFile);
+  }
+}
+
+TEST_F(SaveCommandTest, AFailedSaveUnderANewNameLeavesThePageItsOwn) {
+  Open(IndexFile);
+  files.AddFile(NewName, "old");
+  files.MakeReadOnly(NewName);
+  dialog.ExpectSave(NewName);
+  dialogs.ExpectMessage(QStringLiteral("File saving error: 75"));
+  EXPECT_EQ(Command(1, modWorkFlow::SaveKind::SaveAs), modWorkFlow::SaveEnd::Failed);
+  EXPECT_TRUE(dialogs.messages.at(0).details.contains(NewName))
+      << dialogs.messages.at(0).details.toStdString();
+  EXPECT_EQ(dialog.FileName, IndexFile);
+  for (int times = 0; times < 2; ++times) Plain(1);
+  EXPECT_EQ(Record(1).Path, IndexFile);
+  EXPECT_EQ(Content(NewName), "old");
+}
+
+TEST_F(SaveCommandTest, AReadOnlyFileIsSaidToBeSoAndAnotherNameIsOffered) {
+  Open(IndexFile);
+  files.MakeReadOnly(IndexFile);
+  Component(1).Edit(QStringLiteral("<p>b</p>"));
+  const QString question = QStringLiteral(
+      "index.htm is read-only. Do you want to save your changes under another name?");
+  dialogs.ExpectMessage(question, MessageAnswer::No);
+  EXPECT_EQ(Plain(1), modWorkFlow::SaveEnd::Cancelled);
+  EXPECT_NE(Record(1).SavedHTML, QStringLiteral("<p>b</p>"));
+  dialogs.ExpectMessage(question, MessageAnswer::Yes);
+  dialog.ExpectSave(NewName);
+  EXPECT_EQ(Plain(1), modWorkFlow::SaveEnd::Safe);
+  EXPECT_EQ(Content(NewName), "<p>b</p>");
+  EXPECT_EQ(Content(IndexFile), "<p>a</p>");
+}
+
+TEST_F(SaveCommandTest, APlainSaveThatFailsWithNoJournalToHoldThePageIsTold) {
+  Open(IndexFile);
+  Component(1).Edit(QStringLiteral("<p>b</p>"));
+  files.FailNextWrite(ErrorNumber::DiskFull);
+  dialogs.ExpectMessage(QStringLiteral("File saving error: 61"));
+  EXPECT_EQ(Plain(1), modWorkFlow::SaveEnd::Failed);
+  EXPECT_EQ(dialogs.messages.at(0).icon, MessageIcon::Critical);
+  EXPECT_TRUE(dialogs.messages.at(0).details.startsWith(QStringLiteral("Disk full")))
+      << dialogs.messages.at(0).details.toStdString();
+}
+
+TEST(ProposedFileTest, IsThePagesOwnFileElseANameFromItsTitleOrCaption) {
+  const QString folder = QStringLiteral("\\site");
+  const auto proposed = [&](const char *html) {
+    PageRecord record;
+    record.Caption = QStringLiteral("Untitled 3");
+    return ProposedFile(record, QString::fromUtf8(html), folder).toStdString();
+  };
+  PageRecord project;
+  project.Path = QStringLiteral("\\shop\\Home.htm");
+  EXPECT_EQ(ProposedFile(project, {}, folder), project.Path);
+  EXPECT_EQ(proposed(""), "\\site\\Untitled 3.htm");
+  EXPECT_EQ(proposed("<TITLE>Untitled New Page</TITLE>"), "\\site\\Untitled 3.htm");
+  EXPECT_EQ(proposed("<title>Bread &amp; rolls\n from Anna</title>"),
+            "\\site\\Bread & rolls from Anna.htm");
+  EXPECT_EQ(proposed("<title> a/b\\c: \"d\"? </title>"), "\\site\\abc d.htm");
+  EXPECT_EQ(proposed("<title>...</title>"), "\\site\\Untitled 3.htm");
+  EXPECT_EQ(proposed("<title>never closed"), "\\site\\Untitled 3.htm");
 }
 
 TEST(UnsavedChangesTest, LetterCaseAndOuterWhiteSpaceDoNotCount) {

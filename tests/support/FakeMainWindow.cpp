@@ -62,14 +62,6 @@ void FakeMainWindow::SetCaption(const QString &key, const QString &caption) {
   Find(key)->caption = caption;
 }
 
-void FakeMainWindow::SetCaptionAt(int position, const QString &caption) {
-  Note(log_, Call("SetTabCaptionAt", {QString::number(position), caption}));
-  if (position < 1 || position > Count()) {
-    throw RuntimeError::Of(ErrorNumber::IndexOutOfBounds, QStringLiteral("FileTab"));
-  }
-  tabs[static_cast<std::size_t>(position - 1)].caption = caption;
-}
-
 void FakeMainWindow::Select(const QString &key) {
   Note(log_, Call("SelectTab", {key}));
   selectedTab = Find(key)->key;

@@ -47,7 +47,6 @@ class FakeMainWindow final : public ChildWindows,
   int Count() const override { return static_cast<int>(tabs.size()); }
   void Add(const QString &key, int image) override;
   void SetCaption(const QString &key, const QString &caption) override;
-  void SetCaptionAt(int position, const QString &caption) override;
   void Select(const QString &key) override;
   void Remove(const QString &key) override;
   void Clear() override;

@@ -24,6 +24,15 @@ void FakeSourceControl::SetFocus() {
 void FakeSourceControl::SetText(const QString &newText) {
   Note(log_, QStringLiteral("Source.SetText()"));
   text = newText;
+  undoable.clear();
+  selectionStart = selectionEnd = 0;
+  TextChanged();
+}
+
+void FakeSourceControl::ReplaceText(const QString &newText) {
+  Note(log_, QStringLiteral("Source.ReplaceText()"));
+  undoable << text;
+  text = newText;
   selectionStart = selectionEnd = 0;
   TextChanged();
 }

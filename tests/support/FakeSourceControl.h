@@ -5,6 +5,7 @@
 #include "tests/support/CallLog.h"
 
 #include <QPointer>
+#include <QStringList>
 #include <QWidget>
 
 #include <functional>
@@ -22,6 +23,8 @@ class FakeSourceControl final : public SourceControl {
 
   const SourceAccess access;
   QString text;
+  /// The texts that an undo would bring back, the last one last.
+  QStringList undoable;
   std::map<int, std::int32_t> colors;
   /// The stretch of the text that is selected; the caret stands at its end.
   qsizetype selectionStart = 0;
@@ -36,6 +39,7 @@ class FakeSourceControl final : public SourceControl {
   void SetFocus() override;
   QString Text() const override { return text; }
   void SetText(const QString &newText) override;
+  void ReplaceText(const QString &newText) override;
   void SetColor(int slot, std::int32_t color) override { colors[slot] = color; }
   QString SelectedText() const override;
   void ReplaceSelection(const QString &replacement) override;

@@ -194,10 +194,21 @@ TEST_F(ProjectTest, APageThatStaysOpenHasNoTabAndClosesLaterWithoutHarm) {
   EXPECT_TRUE(window.Context().pages.Page(2).isNull());
   ASSERT_EQ(Tabs().count(), 1);
   EXPECT_EQ(Tabs().tabData(0).toString(), QStringLiteral("key3"));
+  const QString caption = Tabs().tabText(0);
+  // It is saved without a word about the tab that it has not, and the project's keeps its name.
+  const QString saved = QStringLiteral("\\site\\kept.htm");
+  window.Context().mainWindow.windows.Activate(&kept);
+  SharedDialog().ExpectSave(saved);
+  Choose("mnuSave");
+  EXPECT_EQ(files.Content(saved), "<p>unsaved</p>");
+  EXPECT_EQ(Tabs().tabText(0), caption);
+  Component(kept).CompleteDocument();
+  Component(kept).Edit(QStringLiteral("<p>more</p>"));
   dialogs.ExpectMessage(question, MessageAnswer::No);
   kept.close();
   DeleteClosedWindows();
   EXPECT_TRUE(window.Context().pages.Page(1).isNull());
+  EXPECT_EQ(Tabs().count(), 1) << "the tab that is left is the project's";
   EXPECT_FALSE(window.Context().pages.Page(3).isNull());
 }
 

@@ -98,10 +98,88 @@ TEST_F(OpeningTest, WithFivePagesNewRefusesBeforeItMakesASlot) {
   EXPECT_TRUE(Item("mnuNew")->isEnabled());
 }
 
-TEST_F(OpeningTest, TheTestIsForExactlyFive) {
-  for (int i = 1; i <= 6; ++i) Parts().tabs.Add(QStringLiteral("key%1").arg(i), 1);
+TEST_F(OpeningTest, ThereIsRoomUpToTheFifthPageAndForNoneBeyond) {
+  for (int pages = 1; pages <= 5; ++pages) {
+    NewPage();
+    EXPECT_EQ(Tabs().count(), pages);
+  }
+  // A page whose tab has gone is still one of the five.
+  Tabs().Remove(QStringLiteral("key2"));
+  ExpectRefusal();
   Choose("mnuNew");
-  EXPECT_EQ(Tabs().count(), 7);
+  EXPECT_EQ(PagesMade(), 5);
+}
+
+TEST_F(OpeningTest, DroppedPagesOpenAsFarAsThereIsRoomAndTheRestIsRefusedOnce) {
+  for (int i = 0; i < 3; ++i) NewPage();
+  QStringList paths;
+  for (const char *name : {"a", "b", "c", "d", "e"}) {
+    paths << QStringLiteral("\\site\\%1.htm").arg(QString::fromLatin1(name));
+    WriteFile(paths.back());
+  }
+  ExpectRefusal();
+  window.Router().TakeDroppedFiles(paths, nullptr);
+  EXPECT_EQ(Tabs().count(), 5);
+  EXPECT_TRUE(Item("mnuOpen")->isEnabled());
+  window.Context().pages.Page(1)->close();
+  window.Router().TakeDroppedFiles({paths[4]}, nullptr);
+  EXPECT_EQ(Tabs().count(), 5);
+  SharedDialog().ExpectCancelledOpen();
+  window.Context().pages.Page(2)->close();
+  Choose("mnuOpen");
+}
+
+TEST_F(OpeningTest, FilesDroppedAfterARefusedOpenStillOpenOnceThereIsRoom) {
+  OpenFive();
+  ExpectRefusal();
+  Choose("mnuOpen");
+  window.Context().pages.Page(1)->close();
+  window.Router().TakeDroppedFiles({QStringLiteral("\\site\\a.htm")}, nullptr);
+  EXPECT_EQ(Tabs().count(), 5);
+  EXPECT_FALSE(Item("mnuOpen")->isEnabled());
+}
+
+TEST_F(OpeningTest, AFileThatIsOpenAlreadyComesToTheFrontHoweverItIsOpened) {
+  const QString path = QStringLiteral("\\site\\a.htm");
+  SharedDialog().ExpectOpen(path);
+  Choose("mnuOpen");
+  for (int i = 0; i < 4; ++i) NewPage();
+  EXPECT_EQ(Tabs().currentIndex(), 4);
+  // There is room for it, though for no other.
+  window.Router().TakeDroppedFiles({path}, nullptr);
+  EXPECT_EQ(Tabs().currentIndex(), 0);
+  EXPECT_EQ(Find<QStatusBar>("Sta")->currentMessage(),
+            QStringLiteral("/site/a.htm is open already"));
+  window.Context().pages.Page(5)->close();
+  window.Router().ActivatePage(2);
+  SharedDialog().ExpectOpen(path);
+  Choose("mnuOpen");
+  EXPECT_EQ(Tabs().currentIndex(), 0);
+  EXPECT_EQ(PagesMade(), 5);
+}
+
+TEST_F(OpeningTest, TheDialogHoldsTheActivePagesNameWhateverHappened) {
+  const QString a = QStringLiteral("\\site\\a.htm");
+  const QString b = QStringLiteral("\\site\\b.htm");
+  WriteFile(b);
+  const auto held = [this] { return SharedDialog().FileName; };
+  SharedDialog().ExpectOpen(a);
+  Choose("mnuOpen");
+  EXPECT_EQ(held(), a);
+  window.Router().TakeDroppedFiles({b}, nullptr);
+  EXPECT_EQ(held(), b);
+  window.Router().ActivatePage(1);
+  EXPECT_EQ(held(), a);
+  SharedDialog().ExpectOpen(QStringLiteral("\\site\\gone.htm"));
+  Choose("mnuOpen");
+  EXPECT_EQ(held(), a) << "after an Open that failed";
+  SharedDialog().ExpectCancelledOpen();
+  Choose("mnuOpen");
+  EXPECT_EQ(held(), a) << "after an Open that was cancelled";
+  NewPage();
+  EXPECT_EQ(held(), QStringLiteral("\\site\\Untitled 3.htm"));
+  window.Context().pages.Page(3)->close();
+  EXPECT_NE(held(), QStringLiteral("\\site\\Untitled 3.htm")) << "the page in front now";
 }
 
 class ChooserTest : public OpeningTest {

@@ -42,24 +42,17 @@ TEST_F(PageTabsTest, KeepsTheOrderInWhichPagesCame) {
   EXPECT_FALSE(tabs.tabsClosable());
 }
 
-TEST_F(PageTabsTest, CaptionsByPositionCountFromOne) {
-  tabs.SetCaptionAt(3, QStringLiteral("other.htm"));
-  EXPECT_EQ(Captions().at(2), QStringLiteral("other.htm"));
-}
-
 TEST_F(PageTabsTest, AnAmpersandIsALetterOfTheCaption) {
   tabs.SetCaption(QStringLiteral("key1"), QStringLiteral("a&b.htm"));
   EXPECT_EQ(tabs.tabText(0), QStringLiteral("a&&b.htm"));
 }
 
-TEST_F(PageTabsTest, UnknownKeysAndPositionsAreErrors) {
+TEST_F(PageTabsTest, UnknownKeysAndImagesAreErrors) {
   const QString text = QStringLiteral("x");
   const QString unknown = QStringLiteral("key3");
   EXPECT_EQ(ErrorOf([&] { tabs.SetCaption(unknown, text); }), ErrorNumber::ElementNotFound);
   EXPECT_EQ(ErrorOf([&] { tabs.Select(unknown); }), ErrorNumber::ElementNotFound);
   EXPECT_EQ(ErrorOf([&] { tabs.Remove(unknown); }), ErrorNumber::ElementNotFound);
-  EXPECT_EQ(ErrorOf([&] { tabs.SetCaptionAt(4, text); }), ErrorNumber::IndexOutOfBounds);
-  EXPECT_EQ(ErrorOf([&] { tabs.SetCaptionAt(0, text); }), ErrorNumber::IndexOutOfBounds);
   EXPECT_EQ(ErrorOf([&] { tabs.Add(unknown, 2); }), ErrorNumber::IndexOutOfBounds);
   EXPECT_EQ(tabs.count(), 3);
 }

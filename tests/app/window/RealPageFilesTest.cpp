@@ -17,6 +17,8 @@
 #include <QSignalSpy>
 #include <QWebEnginePage>
 
+#include <unistd.h>
+
 namespace velor {
 namespace {
 
@@ -141,26 +143,60 @@ TEST_F(RealPageFiles, LetterCaseAloneIsNotAskedAbout) {
   EXPECT_EQ(Bytes(PageFile), Plain);
 }
 
-TEST_F(RealPageFiles, TwoWindowsOnOneFileAreTwoPages) {
-  frmMain &first = Open(PageFile, Plain);
-  frmMain &second = Open(PageFile);
-  EXPECT_EQ(Record(1).TempPath, Record(2).TempPath);
-  PutCaret(second, QStringLiteral("p"));
-  Type(second, QStringLiteral("2"));
+TEST_F(RealPageFiles, AFileThatIsOpenComesToTheFrontByWhateverNameItIsOpenedAgain) {
+  frmMain &page = Open(PageFile, Plain);
+  NewPage();
+  const QString name = folder.FilePath(PageFile);
+  ASSERT_TRUE(QFile::link(name, folder.FilePath(QStringLiteral("link.htm"))));
+  ASSERT_EQ(link(QFile::encodeName(name).constData(),
+                 QFile::encodeName(folder.FilePath(QStringLiteral("second.htm"))).constData()),
+            0);
+  for (const char *other : {"page.htm", "link.htm", "second.htm", "./page.htm"}) {
+    window.Router().ActivatePage(2);
+    ASSERT_EQ(Tabs().currentIndex(), 1);
+    SharedDialog().ExpectOpen(Logic(QString::fromLatin1(other)));
+    Choose("mnuOpen");
+    EXPECT_EQ(Tabs().count(), 2) << other;
+    EXPECT_EQ(Tabs().currentIndex(), 0) << other;
+  }
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
   Choose("mnuSave");
-  EXPECT_TRUE(Bytes(PageFile).contains("<p>O2ne</p>"));
-  EXPECT_TRUE(Holds(first, QStringLiteral("<p>One</p>")));
-  Parts().windows.Activate(&first);
-  PutCaret(first, QStringLiteral("p"));
-  Type(first, QStringLiteral("1"));
-  Choose("mnuSave");
-  EXPECT_TRUE(Bytes(PageFile).contains("<p>O1ne</p>"));
-  first.ChangeMode(2);
-  EXPECT_TRUE(first.close());
-  EXPECT_FALSE(Exists(PageCopy));
-  second.ChangeMode(2);
-  EXPECT_TRUE(second.Code1().Text().contains(QStringLiteral("<p>O2ne</p>")));
-  EXPECT_TRUE(second.close());
+  EXPECT_TRUE(Bytes(QStringLiteral("second.htm")).contains("<p>Oxne</p>"));
+}
+
+TEST_F(RealPageFiles, EverySaveOfADroppedPageGoesToItsOwnFile) {
+  const QString other = QStringLiteral("other.htm");
+  Open(other, Plain);
+  Write(PageFile, Plain);
+  window.Router().TakeDroppedFiles({Logic(PageFile)}, nullptr);
+  frmMain &page = *window.Context().pages.Page(2);
+  ASSERT_TRUE(WaitFor([&] { return page.PendingAction.isEmpty(); }));
+  PutCaret(page, QStringLiteral("p"));
+  for (const char *text : {"x", "y"}) {
+    Type(page, QString::fromLatin1(text));
+    Choose("mnuSave");
+  }
+  EXPECT_TRUE(Bytes(PageFile).contains("<p>Oxyne</p>")) << Bytes(PageFile).constData();
+  EXPECT_EQ(Bytes(other), Plain);
+}
+
+TEST_F(RealPageFiles, EverySaveGoesToThePagesOwnFileThoughAnotherOneWasOpenedOrRefusedLast) {
+  const QString other = QStringLiteral("other.htm");
+  frmMain &page = Open(PageFile, Plain);
+  Open(other, Plain);
+  Write(QStringLiteral("big.htm"), QByteArray(33'000'000, ' '));
+  SharedDialog().ExpectOpen(Logic(QStringLiteral("big.htm")));
+  Choose("mnuOpen");
+  window.Router().ActivatePage(1);
+  PutCaret(page, QStringLiteral("p"));
+  for (const char *text : {"x", "y"}) {
+    Type(page, QString::fromLatin1(text));
+    Choose("mnuSave");
+  }
+  EXPECT_TRUE(Bytes(PageFile).contains("<p>Oxyne</p>")) << Bytes(PageFile).constData();
+  EXPECT_EQ(Bytes(other), Plain);
+  EXPECT_EQ(Bytes(QStringLiteral("big.htm")).size(), 33'000'000);
 }
 
 TEST_F(RealPageFiles, ThePreviewShowsUnsavedEditsFromATemporaryCopy) {
@@ -232,6 +268,83 @@ TEST_F(RealPageFiles, ThePreviewOfAReadOnlyPageShowsTheFile) {
   EXPECT_TRUE(page.close());
   EXPECT_EQ(Bytes(PageFile), Plain);
   EXPECT_FALSE(Exists(PageCopy));
+}
+
+TEST_F(RealPageFiles, AnOwnFileOfTheTemporaryCopysNameIsLeftAloneWhateverIsDoneWithThePage) {
+  Write(PageCopy, "<p>mine</p>");
+  Open(PageFile, Plain).close();
+  EXPECT_EQ(Bytes(PageCopy), "<p>mine</p>");
+  frmMain &page = Open(PageFile);
+  page.ChangeMode(2);
+  EXPECT_EQ(page.Code1().Text().toUtf8(), Plain);
+  page.ChangeMode(4);
+  EXPECT_TRUE(PreviewShows(QStringLiteral("One")));
+  page.ChangeMode(3);
+  frmCodeEditor &editor = *window.Context().pages.CodeEditor(2);
+  editor.Code().SetText(QStringLiteral("<p>applied</p>"));
+  EXPECT_EQ(editor.ApplyCode(), 0);
+  EXPECT_TRUE(Holds(page, QStringLiteral("<p>applied</p>")));
+  EXPECT_TRUE(editor.close());
+  dialogs.ExpectMessage(SaveQuestion, MessageAnswer::No);
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Bytes(PageCopy), "<p>mine</p>");
+}
+
+TEST_F(RealPageFiles, AFileInAnotherFolderThatTheCopysRuleNamesIsLeftAlone) {
+  for (const char *name : {"my.site", "myTMP.site"})
+    QDir().mkpath(folder.FilePath(QString::fromLatin1(name)));
+  Write(QStringLiteral("myTMP.site/pageTMP.htm"), "mine");
+  frmMain &page = Open(QStringLiteral("my.site/page.htm"), Plain);
+  page.ChangeMode(2);
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Bytes(QStringLiteral("myTMP.site/pageTMP.htm")), "mine");
+}
+
+TEST_F(RealPageFiles, APageSavedUnderTheNameOfAnothersCopyOutlivesThatPage) {
+  frmMain &page = Open(PageFile, Plain);
+  page.ChangeMode(2);
+  ASSERT_TRUE(Exists(PageCopy));
+  frmMain &other = NewPage();
+  Type(other, QStringLiteral("new work"));
+  SharedDialog().ExpectSave(Logic(PageCopy));
+  Choose("mnuSave");
+  ASSERT_TRUE(Bytes(PageCopy).contains("new work"));
+  EXPECT_TRUE(page.close());
+  EXPECT_TRUE(Bytes(PageCopy).contains("new work"));
+}
+
+TEST_F(RealPageFiles, ALinkOfTheTemporaryCopysNameIsNotFollowed) {
+  Write(QStringLiteral("victim.txt"), "victim");
+  ASSERT_TRUE(
+      QFile::link(folder.FilePath(QStringLiteral("victim.txt")), folder.FilePath(PageCopy)));
+  frmMain &page = Open(PageFile, Plain);
+  page.ChangeMode(2);
+  page.ChangeMode(4);
+  EXPECT_TRUE(PreviewShows(QStringLiteral("One")));
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Bytes(QStringLiteral("victim.txt")), "victim");
+  EXPECT_TRUE(QFileInfo(folder.FilePath(PageCopy)).isSymLink());
+}
+
+TEST_F(RealPageFiles, AnUnchangedSourceAppliedFourTimesChangesNoByteOfThePage) {
+  const QList<QByteArray> pages = {
+      "<html><head></head><body>\n<p>One</p>\n</body></html>\n",
+      "<html><head></head><body>\r\n<p>One</p></body></html>",
+      "<p>One\r<p>Two\n<p>Three\r\n\r\n",
+      "<html><head><meta charset=big5></head><body><p>\xa4\xa4\xff \xe9</body></html>\n\n",
+      "\xef\xbb\xbf<!doctype html>\n<title>x</title><p>Caf\xc3\xa9\n",
+      QByteArray("\xff\xfe<\0p\0>\0O\0n\0e\0\n\0", 16),
+  };
+  for (const QByteArray &bytes : pages) {
+    frmMain &page = Open(PageFile, bytes);
+    page.ChangeMode(3);
+    frmCodeEditor &editor = *window.Context().pages.CodeEditor(page.Number());
+    for (int times = 0; times < 4; ++times) EXPECT_EQ(editor.ApplyCode(), 0);
+    EXPECT_TRUE(editor.close());
+    Choose("mnuSave");
+    EXPECT_EQ(Bytes(PageFile), bytes) << bytes.toStdString();
+    EXPECT_TRUE(page.close());
+  }
 }
 
 TEST_F(RealPageFiles, FivePagesAreOpenAtOnceEachWithItsOwnText) {

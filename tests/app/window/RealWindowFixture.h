@@ -3,6 +3,7 @@
 
 #include "app/window/MfrmProgram.h"
 #include "files/QtFiles.h"
+#include "files/TemporaryCopyFiles.h"
 #include "platform/Browser.h"
 #include "platform/Database.h"
 #include "platform/EditingComponent.h"
@@ -119,7 +120,9 @@ class RealWindow : public ::testing::Test {
   FakeDialogs dialogs;
   QtRegistry registry;
   AnsweredComponents components{files, runtime.ProgramFolder()};
-  Platform platform{files, runtime, dialogs, registry, components};
+  TemporaryCopyFiles copies;
+  Platform platform{files,   runtime, dialogs, registry, components,
+                    nullptr, nullptr, nullptr, &copies};
   ProgramValues values;
   MfrmProgram window{platform, values};
 

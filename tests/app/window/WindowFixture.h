@@ -13,6 +13,7 @@
 #include "tests/support/FakeFiles.h"
 #include "tests/support/FakeRegistry.h"
 #include "tests/support/FakeRuntime.h"
+#include "tests/support/FakeTemporaryCopies.h"
 
 #include <QAction>
 #include <QMenu>
@@ -66,7 +67,9 @@ class WindowFixture : public ::testing::Test {
   FakeDialogs dialogs{&log};
   FakeDatabase database{&log};
   FakeComponents components{files, &database, &log};
-  Platform platform{files, runtime, dialogs, registry, components};
+  FakeTemporaryCopies copies{files};
+  Platform platform{files,   runtime, dialogs, registry, components,
+                    nullptr, nullptr, nullptr, &copies};
   ProgramValues values;
   MfrmProgram window{platform, values};
 };
