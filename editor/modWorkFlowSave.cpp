@@ -2,12 +2,14 @@
 // Pages saved.
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
+#include "editor/PageLinks.h"
 #include "editor/PageRecord.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Dialogs.h"
+#include "platform/EditingComponent.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
@@ -15,6 +17,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/TemporaryCopies.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace velor::modWorkFlow {
@@ -106,9 +109,60 @@ std::optional<RuntimeError> SavePlain(EditorContext &context, frmMain &window,
   return failure;
 }
 
+enum class LinkChoice { Adapt, TakePictures, Leave };
+
+LinkChoice AskAboutLinks(EditorContext &context, const std::vector<BrokenLink> &links) {
+  const auto pictures = std::count_if(links.begin(), links.end(),
+                                      [](const BrokenLink &link) { return link.isPicture; });
+  const auto others = static_cast<std::ptrdiff_t>(links.size()) - pictures;
+  Message question;
+  question.text =
+      QStringLiteral(
+          "From the new folder %1 links and %2 pictures of this page would lead nowhere.")
+          .arg(others)
+          .arg(pictures);
+  question.details = QStringLiteral(
+      "Adapted, they lead to the files where these are now. Taken along, the pictures are copied "
+      "beside the page, and the links are adapted.");
+  question.icon = MessageIcon::Question;
+  QStringList captions = {QStringLiteral("Adapt"), QStringLiteral("Leave")};
+  if (pictures > 0) captions.insert(1, QStringLiteral("Take Pictures Along"));
+  const int answer = context.platform.dialogs.Choose(question, captions);
+  if (answer == 0) return LinkChoice::Adapt;
+  return answer == captions.size() - 1 ? LinkChoice::Leave : LinkChoice::TakePictures;
+}
+
+/// Lets the relative links of a page that goes to another folder lead where they led, as the person
+/// wants it: one undo step. Whether the document has changed.
+bool CarryLinks(EditorContext &context, frmMain &window, const QString &from, const QString &to) {
+  if (from.isEmpty() || modGeneral::FolderOfPath(from) == modGeneral::FolderOfPath(to))
+    return false;
+  Files &files = context.platform.files;
+  const QString html = window.DHTML1().TextToSave();
+  std::vector<BrokenLink> links = BrokenLinks(html, from, to, files);
+  if (links.empty()) return false;
+  const LinkChoice choice = AskAboutLinks(context, links);
+  if (choice == LinkChoice::Leave) return false;
+  if (choice == LinkChoice::TakePictures) TakePicturesAlong(links, to, files);
+  window.DHTML1().LoadText(WithAdapted(html, links), from);
+  return true;
+}
+
+void WriteToNewFolder(EditorContext &context, frmMain &window, const QString &from,
+                      const QString &to) {
+  const bool isAdapted = CarryLinks(context, window, from, to);
+  try {
+    WriteFile(window, to);
+  } catch (const RuntimeError &) {
+    // The page stays where it is, and so do its links.
+    if (isAdapted) window.DHTML1().ExecCommand(EditingCommand::Undo);
+    throw;
+  }
+}
+
 void SaveUnderNewName(frmMain &window, FileDialog &dialog, PageRecord &record) {
   const QString file = dialog.FileName;
-  WriteFile(window, file);
+  WriteToNewFolder(window.Context(), window, record.Path, file);
   window.Journal().Settle();
   TakeFile(window.Context(), record, file);
   record.SavedHTML = window.DHTML1().DocumentHTML();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -33,6 +34,10 @@ class Dialogs {
   virtual ~Dialogs() = default;
 
   virtual MessageAnswer ShowMessage(const Message &message) = 0;
+
+  /// A message whose buttons have these captions; the index of the one pressed. Its close button and
+  /// Escape answer the last. `message.buttons` does not count.
+  virtual int Choose(const Message &message, const QStringList &captions) = 0;
 
   /// A one-line question; the empty text when cancelled.
   virtual QString AskText(const QString &prompt, const QString &title,

@@ -8,6 +8,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace velor {
 
@@ -77,12 +78,7 @@ class HideWatcher final : public QObject {
   QEventLoop &loop_;
 };
 
-}  // namespace
-
-MessageAnswer QtDialogs::ShowMessage(const Message &message) {
-  const ButtonSet set = ButtonsOf(message.buttons);
-  QMessageBox box(IconOf(message.icon), message.title, {}, set.buttons,
-                  QApplication::activeWindow());
+void SetWords(QMessageBox &box, const Message &message) {
   // The format first: the text may look like markup.
   box.setTextFormat(Qt::PlainText);
   box.setText(message.text);
@@ -90,6 +86,15 @@ MessageAnswer QtDialogs::ShowMessage(const Message &message) {
   // The toolkit leaves this label to guess.
   if (auto *details = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel")))
     details->setTextFormat(Qt::PlainText);
+}
+
+}  // namespace
+
+MessageAnswer QtDialogs::ShowMessage(const Message &message) {
+  const ButtonSet set = ButtonsOf(message.buttons);
+  QMessageBox box(IconOf(message.icon), message.title, {}, set.buttons,
+                  QApplication::activeWindow());
+  SetWords(box, message);
   box.setDefaultButton(set.initial);
   box.setEscapeButton(set.escape);
   if (message.foreground) {
@@ -99,6 +104,20 @@ MessageAnswer QtDialogs::ShowMessage(const Message &message) {
     box.activateWindow();
   }
   return AnswerOf(box.exec());
+}
+
+int QtDialogs::Choose(const Message &message, const QStringList &captions) {
+  QMessageBox box(IconOf(message.icon), message.title, {}, QMessageBox::NoButton,
+                  QApplication::activeWindow());
+  SetWords(box, message);
+  QList<QAbstractButton *> buttons;
+  // Of one role, so that they keep their order.
+  for (const QString &caption : captions)
+    buttons << box.addButton(caption, QMessageBox::ActionRole);
+  box.setDefaultButton(qobject_cast<QPushButton *>(buttons.constFirst()));
+  box.setEscapeButton(buttons.constLast());
+  box.exec();
+  return static_cast<int>(buttons.indexOf(box.clickedButton()));
 }
 
 QString QtDialogs::AskText(const QString &prompt, const QString &title,

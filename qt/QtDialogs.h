@@ -9,6 +9,7 @@ namespace velor {
 class QtDialogs final : public Dialogs {
  public:
   MessageAnswer ShowMessage(const Message &message) override;
+  int Choose(const Message &message, const QStringList &captions) override;
   QString AskText(const QString &prompt, const QString &title,
                   const QString &defaultAnswer) override;
   void RunModal(QWidget &dialog) override;

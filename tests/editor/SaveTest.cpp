@@ -237,6 +237,35 @@ TEST_F(SaveCommandTest, APlainSaveThatFailsWithNoJournalToHoldThePageIsTold) {
       << dialogs.messages.at(0).details.toStdString();
 }
 
+TEST_F(SaveCommandTest, IntoAnotherFolderLinksAreAdaptedTakenAlongOrLeft) {
+  const QString question =
+      QStringLiteral("From the new folder 1 links and 1 pictures of this page would lead nowhere.");
+  const QByteArray page = "<a href=other.htm>x</a><img src=a.png>";
+  files.AddFile(OtherFile, "other");
+  files.AddFile(QStringLiteral("\\site\\a.png"), "picture");
+  files.AddFolder(QStringLiteral("\\new"));
+  const QString target = QStringLiteral("\\new\\page.htm");
+  struct Case {
+    const char *caption;
+    QByteArray written;
+  };
+  for (const Case &choice :
+       {Case{"Leave", page},
+        Case{"Adapt", "<a href=../site/other.htm>x</a><img src=../site/a.png>"},
+        Case{"Take Pictures Along", "<a href=../site/other.htm>x</a><img src=a.png>"}}) {
+    Open(IndexFile, page);
+    const int number = pages.PageCount();
+    dialog.ExpectSave(target);
+    dialogs.ExpectChoice(question, QString::fromLatin1(choice.caption));
+    EXPECT_EQ(Command(number, modWorkFlow::SaveKind::SaveAs), modWorkFlow::SaveEnd::Safe);
+    EXPECT_EQ(Content(target), choice.written) << choice.caption;
+    Component(number).CompleteDocument();
+    Page(number).close();
+  }
+  EXPECT_EQ(Content(QStringLiteral("\\new\\a.png")), "picture");
+  EXPECT_EQ(Content(IndexFile), page);
+}
+
 TEST(ProposedFileTest, IsThePagesOwnFileElseANameFromItsTitleOrCaption) {
   const QString folder = QStringLiteral("\\site");
   const auto proposed = [&](const char *html) {

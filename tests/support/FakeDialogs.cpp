@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <utility>
 
@@ -14,6 +15,10 @@ FakeDialogs::~FakeDialogs() {
 
 void FakeDialogs::ExpectMessage(const QString &text, MessageAnswer answer) {
   expected_.emplace_back(ExpectedMessage{text, answer});
+}
+
+void FakeDialogs::ExpectChoice(const QString &text, const QString &caption) {
+  expected_.emplace_back(ExpectedChoice{text, caption});
 }
 
 void FakeDialogs::ExpectQuestion(const QString &prompt, const QString &answer) {
@@ -46,6 +51,16 @@ MessageAnswer FakeDialogs::ShowMessage(const Message &message) {
   }
   EXPECT_EQ(message.text.toStdString(), expected.text.toStdString());
   return expected.answer;
+}
+
+int FakeDialogs::Choose(const Message &message, const QStringList &captions) {
+  messages.push_back(message);
+  ExpectedChoice expected;
+  const auto last = static_cast<int>(captions.size()) - 1;
+  if (!Take(expected, QStringLiteral("Choose(%1)").arg(message.text))) return last;
+  EXPECT_EQ(message.text.toStdString(), expected.text.toStdString());
+  EXPECT_TRUE(captions.contains(expected.caption)) << expected.caption.toStdString();
+  return std::max(static_cast<int>(captions.indexOf(expected.caption)), 0);
 }
 
 QString FakeDialogs::AskText(const QString &prompt, const QString &title,

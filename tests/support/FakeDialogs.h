@@ -23,6 +23,7 @@ class FakeDialogs final : public Dialogs {
   FakeDialogs &operator=(const FakeDialogs &) = delete;
 
   void ExpectMessage(const QString &text, MessageAnswer answer = MessageAnswer::Ok);
+  void ExpectChoice(const QString &text, const QString &caption);
   void ExpectQuestion(const QString &prompt, const QString &answer);
   /// `person` acts on the window in place of its event loop.
   void ExpectModal(std::function<void(QWidget &)> person);
@@ -31,6 +32,7 @@ class FakeDialogs final : public Dialogs {
   std::vector<Message> messages;
 
   MessageAnswer ShowMessage(const Message &message) override;
+  int Choose(const Message &message, const QStringList &captions) override;
   QString AskText(const QString &prompt, const QString &title,
                   const QString &defaultAnswer) override;
   void RunModal(QWidget &dialog) override;
@@ -39,6 +41,10 @@ class FakeDialogs final : public Dialogs {
   struct ExpectedMessage {
     QString text;
     MessageAnswer answer;
+  };
+  struct ExpectedChoice {
+    QString text;
+    QString caption;
   };
   struct ExpectedQuestion {
     QString prompt;
@@ -51,7 +57,8 @@ class FakeDialogs final : public Dialogs {
   template <typename Expected>
   bool Take(Expected &expected, const QString &call);
 
-  std::deque<std::variant<ExpectedMessage, ExpectedQuestion, ExpectedModal>> expected_;
+  std::deque<std::variant<ExpectedMessage, ExpectedChoice, ExpectedQuestion, ExpectedModal>>
+      expected_;
   CallLog *log_;
 };
 

@@ -113,6 +113,7 @@ TEST_F(Boundary, AnErrorThatComesWhileABoxIsOpenOpensNoSecondBox) {
       whileShown();
       return MessageAnswer::Ok;
     }
+    int Choose(const Message &, const QStringList &) override { return 0; }
     QString AskText(const QString &, const QString &, const QString &) override { return {}; }
     void RunModal(QWidget &) override {}
   } dialogs;
