@@ -6,6 +6,7 @@ import { breakLines } from './blocks.js';
 import * as lists from './lists.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
+import { beside, keepsBlanks } from '../page/line.js';
 import { holdOpen, prune } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { gapAt, heldUnits, unitsIn } from '../page/units.js';
@@ -236,7 +237,6 @@ export function clear(range) {
 export function empty(range) {
   blanks.watch();
   const { startContainer, startOffset } = clear(range);
-  blanks.meet(startContainer, startOffset);
   selection.setCaret(startContainer, startOffset);
   blanks.watched({ inputType: 'delete' });
 }
@@ -263,7 +263,7 @@ function shownBetween(range) {
     if (!dom.isText(leaf)) return true;
     const from = leaf === startContainer ? startOffset : 0;
     const text = leaf.data.slice(from, leaf === endContainer ? endOffset : leaf.length);
-    if (text !== '' && (blanks.keepsBlanks(leaf) || /[^ \t\n]/.test(text))) return true;
+    if (text !== '' && (keepsBlanks(leaf) || /[^ \t\n]/.test(text))) return true;
   }
   return false;
 }
@@ -330,7 +330,7 @@ const isWithinText = ({ startContainer: node, startOffset: offset, collapsed }, 
 // The picture, the island and the like that a deletion at a caret means.
 function thingBeside({ startContainer, startOffset }, side) {
   const back = side === 'start';
-  const found = blanks.beside(
+  const found = beside(
     startContainer, startOffset, back ? 'previousSibling' : 'nextSibling');
   return found?.object ?? null;
 }
@@ -376,10 +376,9 @@ function emptyLine({ block, nodes, container }, side) {
 function trimEdges(first, second) {
   const last = first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null;
   const next = second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null;
-  const layout = dom.isText(last) && !blanks.keepsBlanks(last) &&
-    /[ \t\n]{2,}$|\n$/.exec(last.data);
+  const layout = dom.isText(last) && !keepsBlanks(last) && /[ \t\n]{2,}$|\n$/.exec(last.data);
   if (layout) last.deleteData(layout.index, layout[0].length);
-  if (dom.isText(next) && !blanks.keepsBlanks(next)) {
+  if (dom.isText(next) && !keepsBlanks(next)) {
     next.deleteData(0, /^[ \t\n]*/.exec(next.data)[0].length);
   }
 }

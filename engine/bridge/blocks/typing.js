@@ -7,6 +7,7 @@ import * as pending from '../formats/pending.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
+import { keepsBlanks } from '../page/line.js';
 import { openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { enclose, gapAt, unitsIn } from '../page/units.js';
@@ -112,7 +113,7 @@ function firstText(range) {
 }
 
 function put(data, { text, offset }) {
-  const blank = data === ' ' && !blanks.keepsBlanks(text);
+  const blank = data === ' ' && !keepsBlanks(text);
   text.insertData(offset, blank ? '\u00a0' : data);
   if (blank) blanks.hold(text, offset, true);
   return offset + data.length;
@@ -133,7 +134,6 @@ export function over(data) {
   if (!range.collapsed) {
     range.setStart(text, end);
     deletion.clear(range);
-    blanks.meet(text, end);
   }
   selection.setCaret(text, end);
   goesOn = linkAt(text) ? { node: text, offset: end } : null;

@@ -30,7 +30,7 @@ function cutAt(node, items) {
 // Cuts everything up to `top` at the caret. Returns the two halves.
 function cut(node, offset, top) {
   if (dom.isText(node)) {
-    node = offset === 0 ? node : node.splitText(offset);
+    node = offset === 0 ? node : blanks.split(node, offset);
   } else {
     const mark = document.createTextNode('');
     node.insertBefore(mark, node.childNodes[offset] ?? null);
@@ -106,7 +106,7 @@ function afterNode(node) {
 
 function putHere(fragment, node, offset) {
   if (dom.isText(node)) {
-    const second = offset === 0 ? node : node.splitText(offset);
+    const second = offset === 0 ? node : blanks.split(node, offset);
     if (offset === node.length && second === node) node.after(fragment);
     else second.before(fragment);
     if (!second.length) second.remove();
@@ -176,7 +176,7 @@ function makeRoom(range, fragment) {
 
 // Puts a fragment in the place of the selection.
 export const put = (fragment) => {
-  blanks.release();
+  if (!selection.range().collapsed) blanks.release();
   makeRoom(selection.range(), fragment);
   if (!fragment.firstChild) return;
   blanks.watch();

@@ -54,6 +54,7 @@ function leavePre(pre) {
 function byEngine(inputType) {
   blanks.watch();
   document.execCommand(inputType);
+  blanks.engineDone({ inputType });
   blanks.watched({ inputType });
 }
 

@@ -67,6 +67,7 @@ function takeOver(event) {
 
 // inputType of the last beforeinput. Chromium's `input` reports insertText for Enter after typing.
 let announced = null;
+let composedBefore = false;  // an input method had begun what it writes on before the last beforeinput
 
 export function beforeInput(event) {
   if (isWorking() || !dom.isEditable()) return;
@@ -76,7 +77,11 @@ export function beforeInput(event) {
     event.preventDefault();
     return;
   }
-  if (continues(event)) return;
+  composedBefore = continues(event);
+  if (composedBefore) {
+    work(() => blanks.watch());
+    return;
+  }
   const kind = kindOf(event);
   history.expect(kind, joins(event, kind));
   if (inputType === 'insertText' && work(() => typing.over(event.data))) {
@@ -85,7 +90,7 @@ export function beforeInput(event) {
     return;
   }
   if (inputType.startsWith('insert') && kind !== 'drag') work(() => typing.prepare(event));
-  work(() => blanks.watch(inputType));
+  work(() => blanks.watch(inputType, event.getTargetRanges()[0]));
 }
 
 export function input(event) {
@@ -93,6 +98,8 @@ export function input(event) {
   const { data } = event;
   const inputType = announced ?? event.inputType;
   announced = null;
+  const begins = isComposing() && !composedBefore;
+  work(() => blanks.engineDone({ inputType: begins ? 'insertText' : inputType, data }));
   if (inputType === 'insertParagraph') work(tidySplit);
   if (inputType === 'insertText') work(() => pending.typed(data));
   typing.done();

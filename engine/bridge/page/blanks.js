@@ -1,59 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Blanks at the edge of a line. HTML does not show them, so the engine writes a no-break space
-// where a blank was typed there or stands there after a deletion. That is needed while the caret is
-// beside it and wrong afterwards: here such places are held, shown to the program as blanks at
-// once, and made blanks again as soon as the caret has gone. Blanks that a person types at a line's
-// start or several in a row stay no-break spaces, since HTML would swallow them.
+// Blanks at the edge of a line. HTML does not show them, so a no-break space stands where a blank was
+// typed there or is left by a deletion. That is needed while the caret is beside it and wrong
+// afterwards: here such places are held, shown to the program as blanks at once, and made blanks again
+// as soon as the caret has gone. Blanks that a person types at a line's start or several in a row stay
+// no-break spaces, since HTML would swallow them.
+//
+// Protocol, for every change of text at the caret: watch() before it, then the change, then watched().
+// Where the engine carries the change out, watch() is told what it will do, and engineDone() is called
+// first thing after it: that puts back the source's white space which the engine rewrote (whitespace.js).
 import * as dom from './dom.js';
 import * as history from './history.js';
+import { beside, charAt, edge, endsLine, isBlank, keepsBlanks } from './line.js';
 import { prune } from './lines.js';
 import * as selection from './selection.js';
+import * as whitespace from './whitespace.js';
 
 const noBreak = '\u00a0';
 
-let held = [];  // {node, index, typed}; never changed in place
+// {node, index, typed, was, across}; never changed in place. What was not typed stands for a blank of
+// the page: `was` is that character, and it goes where the one on the side `across` is a blank too.
+let held = [];
 let before = null;
 
-// The character beside a place in its line: {node, index}, {object}, or null at the line's edge.
-export function beside(node, offset, side) {
-  const back = side === 'previousSibling';
-  let at = node;
-  if (dom.isText(node)) {
-    const index = back ? offset - 1 : offset;
-    if (index >= 0 && index < node.length) return { node, index };
-  } else {
-    const child = node.childNodes[back ? offset - 1 : offset];
-    if (child) return edge(child, back) ?? beside(child, 0, side);
-  }
-  while (!at[side]) {
-    if (dom.isBlock(at)) return null;
-    at = at.parentNode;
-  }
-  if (dom.isBlock(at)) return null;
-  at = at[side];
-  const found = edge(at, back);
-  return found === undefined ? beside(at, back ? 0 : Infinity, side) : found;
-}
-// The outermost character of a node; undefined where the node has none.
-function edge(node, back) {
-  if (dom.isBlock(node) || dom.isBreak(node)) return null;
-  if (dom.isNeutral(node) && !dom.isText(node)) return undefined;
-  if (dom.isText(node)) {
-    return node.length ? { node, index: back ? node.length - 1 : 0 } : undefined;
-  }
-  if (dom.isAtom(node)) return { object: node };
-  const child = back ? node.lastChild : node.firstChild;
-  for (let at = child; at; at = back ? at.previousSibling : at.nextSibling) {
-    const found = edge(at, back);
-    if (found !== undefined) return found;
-  }
-  return undefined;
-}
-const charAt = (place) => (place?.node ? place.node.data[place.index] : '');
-const isBlank = (place) => /[ \t\r\n]/.test(charAt(place));
-
-/** @returns {[left: any, right: any]} */
 function ends() {
   const { anchorNode, anchorOffset } = selection.points();
   if (!anchorNode) return [null, null];
@@ -65,9 +34,9 @@ function ends() {
 const isHeld = (place) =>
   held.some(({ node, index }) => node === place?.node && index === place?.index);
 
-export function hold(node, index, typed) {
+export function hold(node, index, typed, { was = ' ', across = null } = {}) {
   if (isHeld({ node, index })) return;
-  held = [...held, { node, index, typed }];
+  held = [...held, { node, index, typed, was, across }];
 }
 
 // In that order, so that a selection that ends behind the character still does.
@@ -76,21 +45,22 @@ function exchange({ node, index }, text) {
   node.deleteData(index + text.length, 1);
 }
 
-export const keepsBlanks = (text) =>
-  /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
-
-// A deletion ends at a place: a blank that HTML would not show there is held, so that what is
-// typed next stands beside it.
-export function meet(node, offset) {
+// A deletion has ended at a point: a blank that HTML would not show there is held, so that what is
+// typed next stands beside it. A line end of the source stays where a blank can be taken instead.
+function meet(node, offset) {
   const left = beside(node, offset, 'previousSibling');
   const right = beside(node, offset, 'nextSibling');
-  const keep = (place) => {
+  const keep = (place, across) => {
     if (keepsBlanks(place.node)) return;
+    const was = charAt(place);
     exchange(place, noBreak);
-    hold(place.node, place.index, false);
+    hold(place.node, place.index, false, { was, across });
   };
-  if (isBlank(right) && (!left || isBlank(left))) keep(right);
-  if (isBlank(left) && !right) keep(left);
+  if (isBlank(left) && (!right || isBlank(right) && charAt(left) === ' ' && charAt(right) !== ' ')) {
+    keep(left, 'nextSibling');
+  } else if (isBlank(right) && (!left || isBlank(left))) {
+    keep(right, 'previousSibling');
+  }
 }
 
 // A line was cut between two blocks: the blank that would begin the second ends the first.
@@ -103,34 +73,25 @@ export function part(above, below) {
   if (last?.node && !isBlank(last)) last.node.insertData(last.index + 1, ' ');
 }
 
-// What the texts at the caret were before the engine changed them.
-export function watch(inputType = '') {
+// Notes what the texts at the caret are. `target` is what the engine is about to delete.
+export function watch(inputType = '', target = null) {
   const range = selection.range();
   before = null;
   if (!range) return;
   leave();
-  const left = beside(range.startContainer, range.startOffset, 'previousSibling');
-  const right = beside(range.endContainer, range.endOffset, 'nextSibling');
-  // A deletion may reach to the texts beside those.
-  const further = [
-    left?.node && beside(left.node, 0, 'previousSibling'),
-    right?.node && beside(right.node, right.node.length, 'nextSibling'),
-  ];
-  const texts = new Map();
-  for (const place of [left, right, ...further]) {
-    if (place?.node) texts.set(place.node, place.node.data);
-  }
-  if (inputType.startsWith('deleteWord')) {
-    const block = document.createRange();
-    block.selectNodeContents(dom.blockOf(range.startContainer));
-    for (const text of selection.textsIn(block)) texts.set(text, text.data);
-  }
+  const noted = whitespace.note(range, inputType, target);
+  const { left, right } = noted;
   const own = (place) => charAt(place) === noBreak && !isHeld(place);
   const isGap = (place) => isBlank(place) || charAt(place) === noBreak;
   before = {
-    texts, left, ownLeft: own(left), ownRight: own(right),
+    ...noted, ownLeft: own(left), ownRight: own(right),
     parts: own(left) && isGap(right), begins: own(right) && (!left || isGap(left)),
   };
+}
+
+// The engine has carried the input out.
+export function engineDone(input) {
+  if (before) whitespace.putBack({ ...before, isHeld }, input);
 }
 
 // What is held moves along with what was written or deleted before it.
@@ -224,13 +185,20 @@ export function watched({ inputType, data }) {
   const places = ends();
   if (inputType === 'insertParagraph' || inputType === 'insertLineBreak') tidyCut(places);
   if (data?.includes(noBreak)) return;
+  if (inputType === 'insertCompositionText') follow();
   if (inputType === 'insertText' || inputType.startsWith('delete')) {
     follow();
+    if (inputType !== 'insertText') meetCaret();
     holdFresh(inputType, data);
     holdAlone(inputType, data);
   }
   before = null;
   leave();
+}
+
+function meetCaret() {
+  const { anchorNode, anchorOffset } = selection.points();
+  if (anchorNode) meet(anchorNode, anchorOffset);
 }
 
 // True while the caret touches the blanks that the place is one of.
@@ -261,7 +229,9 @@ function leave() {
 // (null) what they are. At a line's end blanks are one.
 function meanings(places) {
   const known = new Map();
-  const dropped = ({ node, index }) => known.get(node)?.get(index) === '';
+  const meant = ({ node, index }) => known.get(node)?.get(index);
+  const dropped = (place) => meant(place) === '';
+  const isGap = (place) => isBlank(place) || meant(place) === ' ';
   const beyond = (node, index) => {
     let right = beside(node, index + 1, 'nextSibling');
     while (right?.node && dropped(right)) {
@@ -269,15 +239,17 @@ function meanings(places) {
     }
     return right;
   };
-  const meaning = ({ node, index, typed }) => {
+  const meaning = ({ node, index, typed, was, across }) => {
     if (!node.isConnected || node.data[index] !== noBreak) return null;
     const left = beside(node, index, 'previousSibling');
     const right = beyond(node, index);
+    if (across === 'previousSibling') return !left || isBlank(left) ? '' : was;
+    if (across === 'nextSibling') return right && isGap(right) ? '' : was;
     if (!left) return typed ? null : '';
-    if (!right) return isBlank(left) || charAt(left) === noBreak ? '' : ' ';
+    if (!right) return isBlank(left) || charAt(left) === noBreak ? '' : was;
+    if (typed) return endsLine(right) ? '' : isBlank(left) || isGap(right) ? null : was;
     if (charAt(left) === noBreak || charAt(right) === noBreak) return null;
-    if (isBlank(left) || isBlank(right)) return typed ? null : '';
-    return ' ';
+    return isBlank(left) || isBlank(right) ? '' : was;
   };
   const inOrder = (one, other) => {
     if (one.node === other.node) return other.index - one.index;
@@ -292,6 +264,14 @@ function meanings(places) {
   }).filter(({ text }) => text !== null);
 }
 const settle = (places) => meanings(places).forEach((place) => exchange(place, place.text));
+
+// Cuts a text in two; what is held in it goes along. Returns the second half.
+export function split(text, offset) {
+  const second = text.splitText(offset);
+  held = held.map((place) => (place.node === text && place.index >= offset
+    ? { ...place, node: second, index: place.index - offset } : place));
+  return second;
+}
 
 // The caret moved. Steps that can be done again need the texts as they are.
 export function selectionMoved() {

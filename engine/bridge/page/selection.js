@@ -74,6 +74,16 @@ export function select({ anchorNode, anchorOffset, focusNode, focusOffset }) {
 }
 export const setCaret = (node, offset) => document.getSelection().collapse(node, offset);
 
+// What the engine would delete at the caret with Delete.
+export function ahead() {
+  const selected = document.getSelection();
+  const kept = points();
+  selected.modify('extend', 'forward', 'character');
+  const { startContainer, startOffset, endContainer, endOffset } = selected.getRangeAt(0);
+  select(kept);
+  return { startContainer, startOffset, endContainer, endOffset };
+}
+
 // The first node of a range in document order, and the first one behind it.
 function bounds({ startContainer, startOffset, endContainer, endOffset }) {
   const first = isText(startContainer) || !startContainer.hasChildNodes()

@@ -147,9 +147,11 @@ export const commands = new Map([
         join();
         return;
       }
-      blanks.watch();
+      const input = { inputType: 'deleteContentForward' };
+      blanks.watch(input.inputType, selection.ahead());
       document.execCommand('forwardDelete');
-      blanks.watched({ inputType: 'deleteContentForward' });
+      blanks.engineDone(input);
+      blanks.watched(input);
     },
   }],
   [Command.GetBackColor, reading('backColor')],

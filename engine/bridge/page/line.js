@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The characters beside a point, in its line: across inline elements, up to a block or a break.
+import * as dom from './dom.js';
+
+// The character beside a place in its line: {node, index}, {object}, or null at the line's edge.
+export function beside(node, offset, side) {
+  const back = side === 'previousSibling';
+  let at = node;
+  if (dom.isText(node)) {
+    const index = back ? offset - 1 : offset;
+    if (index >= 0 && index < node.length) return { node, index };
+  } else {
+    const child = node.childNodes[back ? offset - 1 : offset];
+    if (child) return edge(child, back) ?? beside(child, 0, side);
+  }
+  while (!at[side]) {
+    if (dom.isBlock(at)) return null;
+    at = at.parentNode;
+  }
+  if (dom.isBlock(at)) return null;
+  at = at[side];
+  const found = edge(at, back);
+  return found === undefined ? beside(at, back ? 0 : Infinity, side) : found;
+}
+// The outermost character of a node; undefined where the node has none.
+export function edge(node, back) {
+  if (dom.isBlock(node) || dom.isBreak(node)) return null;
+  if (dom.isNeutral(node) && !dom.isText(node)) return undefined;
+  if (dom.isText(node)) {
+    return node.length ? { node, index: back ? node.length - 1 : 0 } : undefined;
+  }
+  if (dom.isAtom(node)) return { object: node };
+  const child = back ? node.lastChild : node.firstChild;
+  for (let at = child; at; at = back ? at.previousSibling : at.nextSibling) {
+    const found = edge(at, back);
+    if (found !== undefined) return found;
+  }
+  return undefined;
+}
+export const charAt = (place) => (place?.node ? place.node.data[place.index] : '');
+export const isBlank = (place) => /[ \t\r\n]/.test(charAt(place));
+
+// White space that HTML shows as it stands.
+export const keepsBlanks = (text) => /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
+
+// True where nothing but blanks follows in the line.
+export function endsLine(place) {
+  let at = place;
+  while (isBlank(at)) at = beside(at.node, at.index + 1, 'nextSibling');
+  return at === null;
+}

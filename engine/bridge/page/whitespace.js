@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The white space that sets out the source. HTML shows a run of it as one blank or not at all; the
+// engine, when it types or deletes beside such a run, makes no-break spaces of it or takes it away. Here
+// the texts at the caret are noted before the engine changes them, and what was white space of the
+// source is written back after it.
+import * as dom from './dom.js';
+import { beside, endsLine, isBlank, keepsBlanks } from './line.js';
+import * as selection from './selection.js';
+
+const noBreak = '\u00a0';
+const lead = (text) => /^[ \t\r\n]*/.exec(text)[0];
+const tail = (text) => /[ \t\r\n]*$/.exec(text)[0];
+const wordsOf = (text) => text.replace(/[ \t\r\n\u00a0]+/g, '');
+
+// The texts that a change at the range may reach: those beside it and the ones beside these.
+function textsAt({ startContainer, startOffset, endContainer, endOffset }) {
+  const left = beside(startContainer, startOffset, 'previousSibling');
+  const right = beside(endContainer, endOffset, 'nextSibling');
+  const further = [
+    left?.node && beside(left.node, 0, 'previousSibling'),
+    right?.node && beside(right.node, right.node.length, 'nextSibling'),
+  ];
+  const nodes = [left, right, ...further].filter((place) => place?.node).map(({ node }) => node);
+  return { left, right, texts: new Map(nodes.map((node) => [node, node.data])) };
+}
+
+// Where the removed white space stood: the engine drops texts that hold nothing else.
+const standing = ({ parentNode, previousSibling, nextSibling }) =>
+  ({ parentNode, previousSibling, nextSibling });
+
+// What is known before a change at the range. `target`, a static range, is what it will delete.
+export function note(range, inputType, target) {
+  const { left, right, texts } = textsAt(range);
+  if (inputType.startsWith('deleteWord')) {
+    const block = document.createRange();
+    block.selectNodeContents(dom.blockOf(range.startContainer));
+    for (const text of selection.textsIn(block)) texts.set(text, text.data);
+  }
+  const { startContainer, startOffset } = range;
+  const alone = new Map([...texts.keys()].filter(dom.isBlank).map((node) => [node, standing(node)]));
+  return { texts, left, right, alone, start: { node: startContainer, offset: startOffset },
+    target: dom.isText(target?.startContainer) && dom.isText(target.endContainer) ? target : null };
+}
+
+// The offset in a noted text where the caret stood, null where it did not touch it. At a line's end
+// the caret is seen before the white space that shows nothing.
+function caretOffset({ start, left, right }, node) {
+  const offset = node === start.node ? start.offset
+    : node === left?.node ? left.index + 1
+      : node === right?.node ? right.index : null;
+  return offset;
+}
+function shownOffset(text, offset, showsRest) {
+  const above = text.slice(0, offset);
+  return showsRest ? offset : above.length - tail(above).length;
+}
+
+// What is typed into the text at that offset: a blank that HTML would swallow is a no-break space.
+function typed(node, data, above, below) {
+  if (data !== ' ' || keepsBlanks(node)) return data;
+  const sees = (text, index, side, offset) => {
+    const near = text ? text.at(index) : beside(node, offset, side);
+    return typeof near === 'string' ? !/[ \t\r\n]/.test(near) : Boolean(near) && !isBlank(near);
+  };
+  const alone = sees(above, -1, 'previousSibling', 0) && sees(below, 0, 'nextSibling', node.length);
+  return alone ? ' ' : noBreak;
+}
+
+// What the noted texts are to be: {texts, caret}; null where that is not known.
+function afterTyping(noted, { data }) {
+  const { anchorNode, anchorOffset } = selection.points();
+  const texts = new Map(noted.texts);
+  if (!texts.has(anchorNode)) return { texts, caret: null };
+  const old = texts.get(anchorNode);
+  const at = caretOffset(noted, anchorNode);
+  if (at === null) return null;
+  const rest = beside(anchorNode, anchorOffset, 'nextSibling');
+  const below = old.slice(at);
+  const ends = wordsOf(below) === '' && !below.includes(noBreak) && (rest === null || endsLine(rest));
+  const offset = keepsBlanks(anchorNode) ? at : shownOffset(old, at, !ends);
+  // What was held for a blank the engine makes one, where a word follows.
+  const isBlankNow = (index) => data !== ' ' && anchorNode.data[index] === ' ' &&
+    lead(old[index - 1] ?? '') === '' && noted.isHeld({ node: anchorNode, index });
+  const above = old.slice(0, offset)
+    .replace(/\u00a0/g, (sign, index) => (isBlankNow(index) ? ' ' : sign));
+  const behind = old.slice(offset);
+  const put = typed(anchorNode, data, above, behind);
+  texts.set(anchorNode, above + put + behind);
+  return { texts, caret: { node: anchorNode, offset: offset + put.length } };
+}
+
+// White space is deleted as the one blank that it shows.
+function wholeRun(target, texts) {
+  const { startContainer, startOffset, endContainer, endOffset } = target;
+  const data = texts.get(startContainer) ?? '';
+  const part = data.slice(startOffset, endOffset);
+  if (startContainer !== endContainer || !part || lead(part) !== part) return target;
+  return { startContainer, startOffset: startOffset - tail(data.slice(0, startOffset)).length,
+    endContainer, endOffset: endOffset + lead(data.slice(endOffset)).length };
+}
+
+function afterDeletion({ texts: old, target }) {
+  if (!target) return null;
+  const { startContainer, startOffset, endContainer, endOffset } = wholeRun(target, old);
+  const precedes = (node, other) =>
+    Boolean(other.compareDocumentPosition(node) & Node.DOCUMENT_POSITION_PRECEDING);
+  const texts = new Map([...old].map(([node, data]) => {
+    const from = node === startContainer ? startOffset
+      : precedes(node, startContainer) ? data.length : 0;
+    const to = node === endContainer ? endOffset : precedes(endContainer, node) ? 0 : data.length;
+    return [node, to > from ? data.slice(0, from) + data.slice(to) : data];
+  }));
+  return { texts, caret: { node: startContainer, offset: startOffset } };
+}
+
+// A text was cut by a break: white space that would begin the second line ends the first.
+function afterBreak(noted) {
+  const { texts: old, start } = noted;
+  if (!old.has(start.node)) return null;
+  const { anchorNode, anchorOffset } = selection.points();
+  const second = beside(anchorNode, anchorOffset, 'nextSibling')?.node;
+  const broken = dom.isText(anchorNode) && anchorOffset === 0 ? anchorNode.previousSibling : null;
+  const first = dom.isBreak(broken) && dom.isText(broken.previousSibling)
+    ? broken.previousSibling : null;
+  const data = old.get(start.node);
+  const below = data.slice(start.offset);
+  if (!first || !second || first === second || wordsOf(below) === '') return null;
+  const texts = new Map([[first, data.slice(0, start.offset) + lead(below)],
+    [second, below.slice(lead(below).length)]]);
+  return { texts, caret: { node: second, offset: 0 } };
+}
+
+function planned(noted, input) {
+  const { inputType } = input;
+  if (inputType === 'insertText') return input.data ? afterTyping(noted, input) : null;
+  if (inputType === 'insertLineBreak') return afterBreak(noted);
+  return inputType.startsWith('delete') ? afterDeletion(noted) : null;
+}
+
+// A text of white space only that the engine has taken out of the page.
+function reinsert(node, { parentNode, previousSibling, nextSibling }, isLeft) {
+  if (!parentNode.isConnected) return;
+  const isThere = (sibling) => sibling?.parentNode === parentNode;
+  if (isLeft) {
+    if (isThere(previousSibling)) previousSibling.after(node);
+    else if (!previousSibling) parentNode.prepend(node);
+  } else if (isThere(nextSibling)) {
+    nextSibling.before(node);
+  } else if (!nextSibling) {
+    parentNode.append(node);
+  }
+}
+
+// Writes what differs only: the selection and the history see no more than that.
+function write(node, text) {
+  const now = node.data;
+  if (now === text) return false;
+  const { head, tail: end } = dom.kept(now, text);
+  const fresh = text.slice(head, text.length - end);
+  // In that order, so that an input method's text that begins here still does.
+  node.insertData(head, fresh);
+  node.deleteData(head + fresh.length, now.length - head - end);
+  return true;
+}
+
+// The engine has done what was noted for: its white space becomes the source's again. Nothing is
+// written where the texts are not what was expected but for their blanks.
+export function putBack(noted, input) {
+  const plan = planned(noted, input);
+  if (!plan) return;
+  const texts = [...plan.texts].filter(([node]) => node.isConnected ? !keepsBlanks(node) : true);
+  const fits = ([node, text]) => wordsOf(node.isConnected ? node.data : '') === wordsOf(text);
+  if (!texts.every(fits)) return;
+  let changed = false;
+  for (const [node, text] of texts) {
+    const place = noted.alone.get(node);
+    if (!node.isConnected && place && text) {
+      reinsert(node, place, node === noted.left?.node);
+      changed = true;
+    }
+    if (node.isConnected && write(node, text)) changed = true;
+  }
+  const { caret } = plan;
+  if (changed && caret?.node.isConnected) selection.setCaret(caret.node, caret.offset);
+}
