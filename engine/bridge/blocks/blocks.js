@@ -4,7 +4,7 @@
 import * as lists from './lists.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
-import { become, heldUnits, unitsIn } from '../page/units.js';
+import { become, changeUnits, heldUnits, unitsIn } from '../page/units.js';
 
 // In the order in which lists show them. `list` is the element around the items.
 /** @type {{ name: string, element: string, list?: string }[]} */
@@ -131,11 +131,14 @@ function makeList({ name, list, element }, kept) {
   }
 }
 
-export function apply(name, range) {
+export function apply(name) {
   const format = byName(name);
   if (!format) return;
   const kept = selection.keep();
-  const units = lists.housed(unitsIn(range), kept).filter(takesFormat);
+  changeUnits(kept, (units) => give(format, units, kept));
+}
+function give(format, found, kept) {
+  const units = lists.housed(found, kept).filter(takesFormat);
   if (!units.length) return;
   if (units.every((unit) => read(unit) === format.name)) return;
   if (format.list) {
@@ -150,6 +153,5 @@ export function apply(name, range) {
     const lineEnd = lineEnds.get(format.element);
     if (lineEnd) joinLines(made, lineEnd);
   }
-  selection.restore(kept);
 }
 

@@ -8,7 +8,7 @@ import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import { keepsBlanks } from '../page/line.js';
-import { openParagraph } from '../page/lines.js';
+import { holdOpen, openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { enclose, gapAt, unitsIn } from '../page/units.js';
 
@@ -56,18 +56,40 @@ function holderOf(unit, { startContainer }) {
   return isHolder(at) && !typedIn.has(at) ? at : null;
 }
 
+// Takes that no-break space away, where the caret is beside it, for what comes in its place.
+export function emptyHolder() {
+  const caret = selection.range();
+  const holder = caret?.collapsed ? holderOf(unitsIn(caret)[0], caret) : null;
+  if (!holder) return;
+  const block = dom.blockOf(holder);
+  holder.remove();
+  holdOpen(block);
+  selection.setCaret(block, 0);
+}
+
 // All of the page: what is typed over it begins a new one.
 const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
   startContainer === document.body && endContainer === document.body && startOffset === 0 &&
   endOffset === document.body.childNodes.length;
 
-// What takes the place of selected text is to look as that did.
-function keepLooks(range) {
-  const [text] = isAll(range) ? [] : selection.textsIn(range);
-  const looks = text ? Object.entries(formats)
-    .map(([name, format]) => [name, format.read(text.parentNode)]) : [];
+// The formats that elements around a text give it, each with its value there.
+function looksOf(text) {
+  const around = [];
+  for (let at = text.parentNode; !dom.isBlock(at); at = at.parentNode) around.push(at);
+  return Object.entries(formats).filter(([, format]) => around.some((at) => format.carries(at)))
+    .map(([name, format]) => [name, format.read(text.parentNode)]);
+}
+
+// Deletes what is selected. What is typed next looks as the first of it did, where it is typed in the
+// same paragraph: its formats wait at the caret. All of the page leaves none.
+export function removeKeepingLooks(range) {
+  const [text] = isAll(range) || selection.control(range) ? [] : selection.textsIn(range);
+  const looks = text ? looksOf(text) : [];
+  const block = text && dom.blockOf(text);
   deletion.remove(range);
-  const element = selection.caretElement(selection.range());
+  const caret = selection.range();
+  if (!caret || dom.blockOf(caret.startContainer) !== block) return;
+  const element = selection.caretElement(caret);
   for (const [name, value] of looks) {
     const { read, same } = formats[name];
     if (!same(read(element), value)) pending.set(name, value);
@@ -80,7 +102,7 @@ export function prepare(event) {
   if (!range.collapsed) {
     const object = selection.control(range);
     const gaveWay = object && objects.giveWay(object);
-    if (event.inputType === 'insertCompositionText' && !object) keepLooks(range);
+    if (event.inputType === 'insertCompositionText' && !object) removeKeepingLooks(range);
     else if (!gaveWay) deletion.empty(range);
   }
   const caret = selection.range();

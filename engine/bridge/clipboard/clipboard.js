@@ -3,6 +3,7 @@
 // Copying, cutting and pasting. What is copied carries full addresses, so that it is of use
 // elsewhere; what comes in is cleaned unless it was copied here.
 import * as deletion from '../blocks/deletion.js';
+import { removeKeepingLooks } from '../blocks/typing.js';
 import * as addresses from './addresses.js';
 import { cleaned } from './clean.js';
 import { put } from './paste.js';
@@ -60,7 +61,7 @@ function copy(event) {
 function cut(event) {
   const range = copy(event);
   if (!range) return;
-  history.step('deleteByCut', () => deletion.remove(range));
+  history.step('deleteByCut', () => removeKeepingLooks(range));
   schedulePush();
 }
 

@@ -3,6 +3,7 @@
 // Markup put in at the selection exactly as it stands: scripts, handlers, comments and objects stay
 // in it (nothing of it runs while a page is edited).
 import * as deletion from '../blocks/deletion.js';
+import { emptyHolder } from '../blocks/typing.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
@@ -177,6 +178,7 @@ function makeRoom(range, fragment) {
 // Puts a fragment in the place of the selection.
 export const put = (fragment) => {
   if (!selection.range().collapsed) blanks.release();
+  if (fragment.firstChild) emptyHolder();
   makeRoom(selection.range(), fragment);
   if (!fragment.firstChild) return;
   blanks.watch();

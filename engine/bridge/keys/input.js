@@ -47,7 +47,7 @@ function ownDeletion({ inputType }) {
   if (!range) return null;
   return range.collapsed
     ? deletion.joining(range, backward.test(inputType) ? 'start' : 'end')
-    : () => deletion.remove(range);
+    : () => typing.removeKeepingLooks(range);
 }
 
 // Carries the input out where that is not left to the engine; tells whether it was done.

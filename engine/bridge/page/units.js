@@ -204,6 +204,30 @@ export function enclose({ container, nodes }, element) {
   return element;
 }
 
+// Gives the selected units to `change` and then selects `kept` again. A caret where nothing is gets a
+// line to change: a break holds it open, and goes where the change has made nothing of it.
+export function changeUnits(kept, change) {
+  const units = unitsIn(selection.range());
+  const [{ container, block, nodes } = {}] = units;
+  const isOpen = units.length !== 1 || block || nodes.length || !dom.isCell(container);
+  if (isOpen) {
+    change(units);
+    selection.restore(kept);
+    return;
+  }
+  const line = dom.create('BR');
+  container.append(line);
+  selection.setCaret(container, selection.indexOf(line));
+  Object.assign(kept, selection.keep());
+  change(unitsIn(selection.range()));
+  if (line.parentNode !== container) {
+    selection.restore(kept);
+  } else {
+    line.remove();
+    selection.setCaret(container, container.childNodes.length);
+  }
+}
+
 // The topmost node of a unit: its block, or each of its nodes.
 export const partsOf = ({ block, nodes }) => (block ? [block] : nodes);
 

@@ -6,6 +6,7 @@ import * as blocks from '../blocks/blocks.js';
 import * as deletion from '../blocks/deletion.js';
 import * as indent from '../blocks/indent.js';
 import * as lists from '../blocks/lists.js';
+import { removeKeepingLooks } from '../blocks/typing.js';
 import * as align from '../formats/align.js';
 import { formats } from '../formats/formats.js';
 import * as inline from '../formats/inline.js';
@@ -14,7 +15,7 @@ import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
-import { heldUnits, unitsIn } from '../page/units.js';
+import { changeUnits, heldUnits, unitsIn } from '../page/units.js';
 import { isWorking, work } from '../page/working.js';
 import { schedulePush } from './pace.js';
 import { Command, Status } from './vocabulary.js';
@@ -84,11 +85,9 @@ const takesFormats = ({ object, range, elements }) => elements().length > 0 ||
   (!object && dom.rawAt(range.startContainer) === null);
 const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Status.Disabled);
 // What is done is done to all of the selection, however little of it the answer was read from.
-const onUnits = (change) => (value, view) => {
+const onUnits = (change) => (value) => {
   const kept = selection.keep();
-  const units = heldUnits(unitsIn(view.range));
-  change(lists.housed(units, kept), value);
-  selection.restore(kept);
+  changeUnits(kept, (units) => change(lists.housed(heldUnits(units), kept), value));
 };
 
 const toggle = (name) => ({
@@ -139,7 +138,7 @@ export const commands = new Map([
     status: always,
     run(value, { range }) {
       if (!range.collapsed) {
-        deletion.remove(range);
+        removeKeepingLooks(range);
         return;
       }
       const join = deletion.joining(range, 'end');
@@ -184,7 +183,7 @@ export const commands = new Map([
   [Command.SetBackColor, character('backColor')],
   [Command.SetBlockFormat, {
     status: (view) => (view.units().some(blocks.takesFormat) ? Status.Enabled : Status.Disabled),
-    run: (value, view) => blocks.apply(value, view.range),
+    run: (value) => blocks.apply(value),
   }],
   [Command.SetFontName, character('fontName')],
   [Command.SetFontSize, character('fontSize')],
