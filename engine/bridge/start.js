@@ -12,6 +12,7 @@ import * as blanks from './page/blanks.js';
 import { isEditable } from './page/dom.js';
 import * as history from './page/history.js';
 import * as selection from './page/selection.js';
+import './page/sourceLines.js';
 import { connect, host } from './talk/host.js';
 import { schedulePush } from './talk/pace.js';
 import { listenToPointer } from './talk/pointer.js';

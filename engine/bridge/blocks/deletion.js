@@ -9,6 +9,7 @@ import * as dom from '../page/dom.js';
 import { beside, keepsBlanks } from '../page/line.js';
 import { holdOpen, prune } from '../page/lines.js';
 import * as selection from '../page/selection.js';
+import { dropLine } from '../page/sourceLines.js';
 import { gapAt, heldUnits, unitsIn } from '../page/units.js';
 
 // A place like a range, but no live one: the engine follows all of those through every change of
@@ -75,8 +76,12 @@ function dropBlock(block) {
   const before = dom.neighbour(block, 'previousSibling');
   const after = dom.neighbour(block, 'nextSibling');
   const isLine = (node) => node && !dom.isBlock(node) && !dom.isBreak(node);
-  if (dom.isBlock(block) && isLine(before) && isLine(after)) block.replaceWith(dom.create('BR'));
-  else block.remove();
+  if (dom.isBlock(block) && isLine(before) && isLine(after)) {
+    block.replaceWith(dom.create('BR'));
+  } else {
+    dropLine(block);
+    block.remove();
+  }
   if (dom.isList(before) && dom.isList(after) && before.tagName === after.tagName &&
       (dom.sameAttributes(before, after) || !after.attributes.length)) {
     dom.absorb(before, after);

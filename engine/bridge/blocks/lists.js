@@ -6,6 +6,7 @@ import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import { holdOpen, prune } from '../page/lines.js';
 import * as selection from '../page/selection.js';
+import { dropInnerLines } from '../page/sourceLines.js';
 import { enclose, itemAround, unitsIn } from '../page/units.js';
 
 const isListOf = (node) => dom.isElement(node) && (dom.isList(node) || node.tagName === 'DL');
@@ -188,6 +189,7 @@ function toParagraphs(item) {
 function release(group) {
   const list = isolate(group);
   const paragraphs = group.flatMap(toParagraphs);
+  dropInnerLines(list);
   dom.unwrap(list);
   return paragraphs;
 }

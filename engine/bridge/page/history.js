@@ -23,6 +23,8 @@ let lastPoints = null;  // the selection when the document was last at rest
 let beyond = { undo: false, redo: false };
 /** @type {{ changed(): void, wantBeyond(way: string): void } | null} */
 let hooks = null;  // see start
+/** @type {(changes: any[]) => void} */
+let completeStep = () => {};
 /** @type {{ held(): any, reinstate(held: any): void }} */
 let along = { held: () => [], reinstate() {} };
 
@@ -142,7 +144,7 @@ const rest = () => ({ ...points(), held: along.held() });
 
 const begin = (kind, before = rest()) => {
   open = {
-    kind, before, after: before, changes: [], seen: new Map(), names: new Map(), weight: 0,
+    kind, before, after: before, changes: [], seen: new Map(), names: new Map(), weight: 0, completed: 0,
   };
 };
 
@@ -205,6 +207,15 @@ function close() {
 export const settle = () => { if (observer) absorb(observer.takeRecords()); };
 export const finish = () => { settle(); close(); };
 
+// What else belongs to the changes that the step at hand has got since it was last asked.
+function complete() {
+  if (!open) return;
+  const fresh = open.changes.slice(open.completed);
+  if (fresh.length) completeStep(fresh);
+  settle();
+  open.completed = open.changes.length;
+}
+
 // A command: everything that `change` does is one step. Tells whether it changed the document.
 export function step(kind, change) {
   finish();
@@ -213,6 +224,7 @@ export function step(kind, change) {
     change();
   } finally {
     settle();
+    complete();
   }
   const changed = open.changes.length > 0;
   close();
@@ -254,6 +266,7 @@ export function amend(change) {
 // Takes the caret into the step at hand after the input was carried out.
 export function arrive() {
   settle();
+  complete();
   if (open) open.after = rest();
 }
 
@@ -295,6 +308,9 @@ export function start({ earlier, later, changed, wantBeyond }) {
 // Says what else belongs to the selection at a step's ends: `held()` answers it, `reinstate(held)`
 // puts it back.
 export function keepAlong(keeper) { along = keeper; }
+
+// Says what is called at a step's end with its changes, to change what goes with them.
+export function completeStepsBy(completer) { completeStep = completer; }
 
 // To be told before a step takes an attribute off an element of the page.
 export function attributesOf(element) {
