@@ -36,8 +36,8 @@ const ancestors = function* (element) {
   for (let at = element; at && at !== document; at = at.parentNode) yield at;
 };
 
-// A heading, a table's header cell and a link have their look by nature: that alone is no format,
-// so that bold in a heading and underline in a link can be told apart and toggled.
+// A heading, a table's header cell, a link and inserted text have their look by nature: that alone is no
+// format, so that bold in a heading and underline in a link can be told apart and toggled.
 const boldByNature = (element) => isHeading(element) || element.tagName === 'TH';
 const weighs = (element) => Number(style(element).fontWeight) >= 600;
 function bold(element) {
@@ -65,7 +65,7 @@ const outwards = (says, otherwise) => (element, known = new Map()) => {
   return answer;
 };
 const underline = outwards((at) => {
-  const byNature = at.tagName === 'A' && !at.style.textDecorationLine;
+  const byNature = /^(A|INS)$/.test(at.tagName) && !at.style.textDecorationLine;
   const { textDecorationLine, display } = style(at);
   if (!byNature && textDecorationLine.includes('underline')) return true;
   return /^(inline-block|inline-table)$/.test(display) ? false : undefined;
@@ -135,6 +135,9 @@ function defineFormat(entry) {
   function unstyle(element) {
     const shared = part && written(element) !== part &&
       declarations(element).find((each) => /^\s*text-decoration(-line)?\s*:/i.test(each));
+    if (!shared && /^(DEL|S|STRIKE)$/.test(element.tagName)) {
+      return putDeclaration(element, property, 'none');
+    }
     if (!shared) return takeDeclaration(element, property);
     const [name, value] = shared.split(':');
     const others = value.split(/\s+/).filter((word) => word && word.toLowerCase() !== part);
@@ -197,7 +200,7 @@ export const formats = {
     inLike: () => css('font-style')('italic'),
   }),
   underline: defineFormat({
-    read: underline, tags: ['U', 'INS'], property: 'text-decoration', part: 'underline',
+    read: underline, tags: ['U'], property: 'text-decoration', part: 'underline',
     acrossBlocks: true,
     // A line drawn by an ancestor cannot be taken off from inside.
     write: (on) => (on ? create('U') : null),
