@@ -194,8 +194,21 @@ function release(group) {
   return paragraphs;
 }
 
-// Moves items of a nested list one level out; what follows them stays theirs.
-function lift(group) {
+// What followed items that leave their list becomes theirs, or stays on its level in an item of its own.
+function toLast(last, list, tail) {
+  const isWhole = itemsIn(list).every((item) => tail.includes(item));
+  const own = [...last.childNodes].filter(dom.isShown).at(-1);
+  if (isWhole && own?.tagName !== list.tagName) last.append(list);
+  else sublist(last, list).append(...tail);
+}
+function toOwnItem(last, list, tail) {
+  const rest = dom.twin(list);
+  rest.append(...tail);
+  last.after(dom.wrap([rest], dom.create('LI')));
+}
+
+// Moves items of a nested list one level out.
+function lift(group, putTail) {
   const list = group[0].parentNode;
   const outer = list.parentNode;
   const last = group.at(-1);
@@ -205,11 +218,11 @@ function lift(group) {
   if (outer.tagName === 'LI') {
     for (let at = list.nextSibling; at; at = at.nextSibling) behind.push(at);
   }
-  if (tail.some(dom.isShown)) sublist(last, list).append(...tail);
-  if (behind.some(dom.isShown)) last.append(...ownLine(last, behind));
   (outer.tagName === 'LI' ? outer : list).after(...group);
+  if (tail.some(dom.isShown)) putTail(last, list, tail);
+  if (behind.some(dom.isShown)) last.append(...ownLine(last, behind));
   if (!itemsIn(list).length) list.remove();
-  if (outer.tagName === 'LI' && !dom.hasContent(outer)) outer.remove();
+  if (outer.tagName === 'LI' && !dom.hasContent(outer) && !holdsNamed(outer)) outer.remove();
 }
 
 // What followed a list as text would run into the text of the item that takes it in.
@@ -247,16 +260,19 @@ export function nest(group) {
   return true;
 }
 
-export function outdent(group) {
+// What has no text may be an icon, a link or a link's target.
+const holdsNamed = (item) => item.querySelector('[id], [name], [href], [class]') !== null;
+
+export function outdent(group, putTail = toLast) {
   adopt(group[0].parentNode);
-  if (group[0].tagName === 'LI' && isNested(group[0])) lift(group);
+  if (group[0].tagName === 'LI' && isNested(group[0])) lift(group, putTail);
   else release(group);
 }
 
 // Takes the item that the caret is in one level out.
 export function leave(unit) {
   const kept = selection.keep();
-  groupsOf([unit]).forEach(outdent);
+  groupsOf([unit]).forEach((group) => outdent(group));
   selection.restore(kept);
 }
 
@@ -283,7 +299,7 @@ export function unlist() {
     const groups = groupsOf(unitsIn(selection.range()));
     if (!groups.length) return;
     const kept = selection.keep();
-    groups.forEach(outdent);
+    groups.forEach((group) => outdent(group, toOwnItem));
     selection.restore(kept);
   }
 }
