@@ -8,7 +8,7 @@ import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
-import { prune } from '../page/lines.js';
+import { holdOpen, prune } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 
 function parse(html) {
@@ -123,8 +123,8 @@ function holderAt(node) {
 }
 
 // Elements that would stand in their like.
-const likes = { STRONG: 'B', EM: 'I', INS: 'U', STRIKE: 'S', DEL: 'S' };
-const emphasis = 'b, strong, i, em, u, ins, s, strike, del, code, sub, sup';
+const likes = { STRONG: 'B', EM: 'I', STRIKE: 'S' };
+const emphasis = 'b, strong, i, em, u, s, strike, code, sub, sup';
 const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
 function dropLikes(fragment, node) {
   const around = new Set();
@@ -150,6 +150,7 @@ function putInline(fragment, node, offset) {
     putHere(fragment, node, offset);
   }
   holder?.remove();
+  holdOpen(dom.blockOf(node));
   if (dom.isText(last)) selection.setCaret(last, last.length);
   else afterNode(last);
 }
@@ -178,6 +179,7 @@ function makeRoom(range, fragment) {
 // Puts a fragment in the place of the selection.
 export const put = (fragment) => {
   if (!selection.range().collapsed) blanks.release();
+  house(fragment, selection.range().startContainer);
   if (fragment.firstChild) emptyHolder();
   makeRoom(selection.range(), fragment);
   if (!fragment.firstChild) return;
@@ -195,6 +197,29 @@ function putAt(fragment, { startContainer, startOffset }) {
   if (isListOf(home)) makeItems(fragment, home);
   if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
   else putInline(fragment, startContainer, startOffset);
+}
+
+// Parts of lists and tables that come without them: items and rows get theirs, cells and options are
+// what they hold.
+const homes = { LI: 'UL', DT: 'DL', DD: 'DL', TR: 'TABLE', TBODY: 'TABLE', TFOOT: 'TABLE', THEAD: 'TABLE' };
+const isIn = (node, home) =>
+  dom.ancestor(node, (at) => (home === 'UL' ? at.tagName === 'LI' || dom.isList(at) : isListOf(at)), dom.isCell);
+function house(fragment, node) {
+  for (const part of [...fragment.children]) {
+    if (/^(CAPTION|COL|COLGROUP|OPTGROUP|OPTION|TD|TH)$/.test(part.tagName)) {
+      dom.unwrap(part);
+      continue;
+    }
+    const home = homes[part.tagName];
+    if (!home || part.parentNode !== fragment || home !== 'TABLE' && isIn(node, home)) continue;
+    const parts = [];
+    for (let at = part; at && (homes[at.tagName] === home || !dom.isShown(at)); at = at.nextSibling) {
+      parts.push(at);
+    }
+    const holder = dom.wrap(parts, dom.create(home));
+    const rows = [...holder.children].filter(({ tagName }) => tagName === 'TR');
+    if (rows.length) dom.wrap(rows, dom.create('TBODY'));
+  }
 }
 
 export const pasteHTML = (html) => history.step('pasteHTML', () => {
