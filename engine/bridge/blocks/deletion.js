@@ -148,12 +148,23 @@ function removeLeaves(range) {
   blocks.forEach(holdOpen);
 }
 
+// The inline element that a page's rules make a line.
+const lineElement = (node) => dom.ancestor(node, (at) =>
+  dom.isInline(at) && /^(block|flex|grid|list-item)$/.test(getComputedStyle(at).display), dom.isBlock);
+
 // Deletes what is selected in one paragraph, as it stands.
 function cut(range) {
   const block = dom.blockOf(range.startContainer);
   if (dom.isHollow(block)) return;
-  const { startContainer, endContainer } = range;
+  const { startContainer, startOffset, endContainer } = range;
+  const [first, second] = [lineElement(startContainer), lineElement(endContainer)];
   range.deleteContents();
+  if (first && second && first !== second && !first.contains(second) && !second.contains(first)) {
+    first.append(...second.childNodes);
+    second.remove();
+    range.setStart(startContainer, startOffset);
+    range.collapse(true);
+  }
   prune(startContainer);
   prune(endContainer);
   holdOpen(block);
@@ -377,11 +388,12 @@ function emptyLine({ block, nodes, container }, side) {
 }
 
 // White space that showed nothing at the edges of two paragraphs would be a blank between them. A
-// blank alone may have been typed at the end of the first.
+// blank alone was seen where it was typed.
 function trimEdges(first, second) {
   const last = first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null;
   const next = second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null;
-  const layout = dom.isText(last) && !keepsBlanks(last) && /[ \t\n]{2,}$|\n$/.exec(last.data);
+  const layout = dom.isText(last) && !keepsBlanks(last) &&
+    (blanks.wasTypedIn(last) ? /[ \t\n]{2,}$|\n$/ : /[ \t\n]+$/).exec(last.data);
   if (layout) last.deleteData(layout.index, layout[0].length);
   if (dom.isText(next) && !keepsBlanks(next)) {
     next.deleteData(0, /^[ \t\n]*/.exec(next.data)[0].length);

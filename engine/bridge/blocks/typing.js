@@ -35,9 +35,6 @@ function makeParagraph(unit) {
   }
 }
 
-// Texts that the person typed in: a no-break space there is one of theirs.
-const typedIn = new WeakSet();
-
 // A paragraph at a place where no line is, as before a table.
 export function makeLine([node, offset]) {
   openParagraph((paragraph) => node.insertBefore(paragraph, node.childNodes[offset] ?? null));
@@ -53,7 +50,7 @@ function holderOf(unit, { startContainer }) {
     if (dom.isAtom(at) || at.childNodes.length !== 1) return null;
     at = at.firstChild;
   }
-  return isHolder(at) && !typedIn.has(at) ? at : null;
+  return isHolder(at) && !blanks.wasTypedIn(at) ? at : null;
 }
 
 // Takes that no-break space away, where the caret is beside it, for what comes in its place.
@@ -165,5 +162,5 @@ export function over(data) {
 // Something was typed at the caret.
 export function done() {
   const { anchorNode } = selection.points();
-  if (anchorNode) typedIn.add(anchorNode);
+  if (anchorNode) blanks.noteTyped(anchorNode);
 }

@@ -23,6 +23,11 @@ const noBreak = '\u00a0';
 let held = [];
 let before = null;
 
+// Texts that the person typed in: a blank or no-break space there is one of theirs.
+const typedIn = new WeakSet();
+export const noteTyped = (text) => typedIn.add(text);
+export const wasTypedIn = (text) => typedIn.has(text);
+
 function ends() {
   const { anchorNode, anchorOffset } = selection.points();
   if (!anchorNode) return [null, null];
@@ -157,6 +162,7 @@ function tidyCut([, right]) {
   if (cutsBlank && right.node.length > 1) right.node.deleteData(right.index, 1);
   const last = lineBefore();
   if (!last?.node) return;
+  noteTyped(last.node);
   if (charAt(last) === noBreak && !before.ownLeft) {
     last.node.replaceData(last.index, 1, ' ');
   } else if (cutsBlank && !isBlank(last)) last.node.appendData(' ');
