@@ -98,7 +98,10 @@ export function prepare(event) {
   if (!range) return;
   if (!range.collapsed) {
     const object = selection.control(range);
-    const gaveWay = object && objects.giveWay(object);
+    // A table is nothing to type over.
+    const behind = object?.tagName === 'TABLE' && !isAll(range) && objects.entering(object);
+    if (behind) behind();
+    const gaveWay = Boolean(behind) || object && objects.giveWay(object);
     if (event.inputType === 'insertCompositionText' && !object) removeKeepingLooks(range);
     else if (!gaveWay) deletion.empty(range);
   }

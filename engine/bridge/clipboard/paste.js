@@ -225,5 +225,18 @@ function house(fragment, node) {
 export const pasteHTML = (html) => history.step('pasteHTML', () => {
   if (!dom.isEditable()) return;
   selection.ensure();
-  if (selection.range()) put(parse(html));
+  if (!selection.range()) return;
+  const fragment = parse(html);
+  const [only, ...others] = [...fragment.childNodes].filter(dom.isShown);
+  put(fragment);
+  if (only?.tagName === 'TABLE' && !others.length) enterTable(only);
 });
+
+// Whoever has made a table writes in it.
+function enterTable(table) {
+  const cell = table.rows[0]?.cells[0];
+  const isEmpty = cell && cell.textContent.trim() === '' && !cell.querySelector('*:not(br)');
+  if (!isEmpty) return;
+  const text = dom.isText(cell.firstChild) ? cell.firstChild : null;
+  selection.setCaret(text ?? cell, 0);
+}

@@ -177,6 +177,16 @@ function move(event) {
 function click(event) {
   const object = taken ? null : objects.objectAt(event);
   if (object) selection.selectNode(object);
+  else if (!taken) enterCell(event.target);
+}
+
+// The engine puts the caret elsewhere where the cell that is clicked holds nothing.
+function enterCell(target) {
+  const cell = target.closest?.('TD, TH');
+  const { anchorNode } = document.getSelection();
+  if (cell && dom.isEditable() && !dom.hasContent(cell) && !cell.contains(anchorNode)) {
+    selection.setCaret(cell, 0);
+  }
 }
 
 /** @type {Map<string, [x: number, y: number]>} */

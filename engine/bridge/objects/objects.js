@@ -30,10 +30,14 @@ function isAtEdge(node, { clientX: x, clientY: y }) {
 let entered = null;
 const isEntered = (node) => node === entered && node.contains(document.getSelection().anchorNode);
 
+// Whether the node lies in a cell of the table: what is clicked there is that cell.
+const isInCell = (node, table) => table.contains(node.closest('CAPTION, TD, TH'));
+
 function meant(node, place) {
   for (let at = node; at && at !== document.body; at = at.parentElement) {
     if (at.tagName === 'TABLE' || isMovable(at)) {
-      if ((at === node && at.tagName === 'TABLE') || isAtEdge(at, place)) return at;
+      const isOutside = at.tagName !== 'TABLE' || isMovable(at) || !isInCell(node, at);
+      if ((at === node && at.tagName === 'TABLE') || (isOutside && isAtEdge(at, place))) return at;
       if (!isMovable(at)) continue;
       return isEntered(at) ? null : at;
     }
@@ -106,10 +110,11 @@ export function entering(object) {
     ? () => openParagraph((paragraph) => object.after(paragraph)) : null;
 }
 
-// Escape goes out of a box, which is selected then, and from a selected object behind it.
+// Escape goes out of a box or a table, which is selected then, and from a selected object behind it.
 export function leave(object) {
   const { anchorNode } = document.getSelection();
-  const box = object ?? dom.ancestor(anchorNode, isBox);
+  const box = object ??
+    dom.ancestor(anchorNode, (node) => node.tagName === 'TABLE' || isBox(node));
   entered = null;
   if (object) selection.setCaret(object.parentNode, selection.indexOf(object) + 1);
   else if (box) selection.selectNode(box);

@@ -20,7 +20,9 @@ const carrier = sheetOf('head { display: contents !important; white-space: norma
 // changes nothing, and gives way to any of the page.
 const closed = sheetOf(
   'iframe, object, embed, applet, video, audio { pointer-events: none !important; }' +
-  ' @layer velor { html { zoom: 1 } }');
+  ' @layer velor { html { zoom: 1 }' +
+  // An empty cell is one line high, unless the page says how high.
+  ' :is(td, th):empty:not([height]) { height: 1.2em } }');
 const sheet = sheetOf('head::before {} head::after {}');
 const [details, frame] = [...sheet.cssRules]
   .map((rule) => (/** @type {CSSStyleRule} */ (rule)).style);

@@ -225,7 +225,7 @@ TEST_F(Objects, ABlockThatIsPlacedInTheFlowIsSelectedAtItsEdgeOnly) {
 
 TEST_F(Objects, TypingReplacesASelectedObjectByAParagraphOfItsOwn) {
   const QString objects[] = {
-      QStringLiteral("<table><tbody><tr><td>x</td></tr></tbody></table>"), QStringLiteral("<hr>"),
+      QStringLiteral("<hr>"),
       QStringLiteral("<div style=\"position: absolute; left: 100px; top: 100px\">box</div>")};
   for (const QString &object : objects) {
     Load(QStringLiteral("<p>one|</p>%1<p>two</p>").arg(object));
@@ -236,14 +236,61 @@ TEST_F(Objects, TypingReplacesASelectedObjectByAParagraphOfItsOwn) {
   }
 }
 
-TEST_F(Objects, TypingReplacesTheTableOfACell) {
+TEST_F(Objects, TypingGoesBehindATableThatIsSelected) {
+  const QString table = QStringLiteral("<table><tbody><tr><td>x</td></tr></tbody></table>");
+  Load(QStringLiteral("<p>one|</p>%1<p>two</p>").arg(table));
+  page_.Press(QKeySequence(Qt::SHIFT | Qt::Key_Right));
+  page_.Type(QStringLiteral("yz"));
+  EXPECT_EQ(Body(), QStringLiteral("<p>one</p>%1<p>yz</p><p>two</p>").arg(table));
+  ExpectOneStep();
+}
+
+TEST_F(Objects, TypingGoesBehindTheSelectedTableOfACell) {
   Load(
       QStringLiteral("<table><tbody><tr><td><table id=\"in\"><tbody><tr><td>x</td></tr></tbody>"
                      "</table></td></tr></tbody></table>"));
   Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('#in'))"));
   page_.Type(QStringLiteral("y"));
-  EXPECT_EQ(Body(), QStringLiteral("<table><tbody><tr><td>y</td></tr></tbody></table>"));
+  EXPECT_EQ(Body(), QString(loaded_).replace(QStringLiteral("</table></td>"),
+                                             QStringLiteral("</table><p>y</p></td>")));
   ExpectOneStep();
+}
+
+TEST_F(Objects, AClickIntoASmallCellPutsTheCaretThere) {
+  Load(
+      QStringLiteral("<p>one</p><table border='1' cellspacing='0' cellpadding='0'><tbody><tr>"
+                     "<td style='width: 6px'></td><td id='c' style='width: 6px'></td></tr></tbody>"
+                     "</table><p>two</p>"));
+  const QString rect = QStringLiteral("document.querySelector('#c').getBoundingClientRect().%1");
+  EXPECT_GT(Evaluate(rect.arg(QStringLiteral("height"))).toInt(), 14);
+  const int left = Evaluate(rect.arg(QStringLiteral("left"))).toInt();
+  const int top = Evaluate(rect.arg(QStringLiteral("top"))).toInt();
+  page_.Click({left + 3, top + 3});
+  EXPECT_TRUE(
+      Comes(QStringLiteral("document.querySelector('#c').contains(getSelection().anchorNode)")));
+  EXPECT_EQ(Selected(), QString());
+  page_.Type(QStringLiteral("x"));
+  EXPECT_EQ(Text(QStringLiteral("document.querySelector('#c').textContent")), QStringLiteral("x"));
+  EXPECT_EQ(Text(QStringLiteral("document.querySelector('table').textContent")),
+            QStringLiteral("x"));
+}
+
+TEST_F(Objects, EscapeInACellSelectsItsTable) {
+  Load(QStringLiteral("<table><tbody><tr><td>on|e</td></tr></tbody></table>"));
+  page_.Press(QKeySequence(Qt::Key_Escape));
+  EXPECT_TRUE(BecomesSelected(QStringLiteral("TABLE")));
+}
+
+TEST_F(Objects, ATableThatIsPutInHasTheCaretInItsFirstCell) {
+  Load(QStringLiteral("<p>one|</p>"));
+  Evaluate(
+      QStringLiteral("velor.pasteHTML('<table><tr><td></td><td></td></tr><tr><td></td><td></td>"
+                     "</tr></table>')"));
+  page_.Type(QStringLiteral("a"));
+  page_.Press(QKeySequence(Qt::Key_Tab));
+  page_.Type(QStringLiteral("b"));
+  EXPECT_EQ(Text(QStringLiteral("document.querySelector('table').rows[0].innerHTML")),
+            QStringLiteral("<td>a</td><td>b</td>"));
 }
 
 TEST_F(Objects, EnterBeginsAParagraphBehindATableAndARule) {
