@@ -6,7 +6,7 @@ import { breakLines } from './blocks.js';
 import * as lists from './lists.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
-import { beside, keepsBlanks } from '../page/line.js';
+import { beside, keepsBlanks } from '../page/beside.js';
 import { holdOpen, prune } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { dropLine } from '../page/sourceLines.js';

@@ -7,7 +7,7 @@ import * as pending from '../formats/pending.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
-import { keepsBlanks } from '../page/line.js';
+import { keepsBlanks } from '../page/beside.js';
 import { holdOpen, openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { enclose, gapAt, unitsIn } from '../page/units.js';

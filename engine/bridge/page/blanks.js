@@ -11,7 +11,7 @@
 // first thing after it: that puts back the source's white space which the engine rewrote (whitespace.js).
 import * as dom from './dom.js';
 import * as history from './history.js';
-import { beside, charAt, edge, endsLine, isBlank, keepsBlanks } from './line.js';
+import { beside, charAt, edge, endsLine, isBlank, keepsBlanks } from './beside.js';
 import { prune } from './lines.js';
 import * as selection from './selection.js';
 import * as whitespace from './whitespace.js';

@@ -4,7 +4,7 @@
 // the texts at the caret are noted before the engine changes them, and what was white space of the
 // source is written back after it.
 import * as dom from './dom.js';
-import { beside, endsLine, isBlank, keepsBlanks } from './line.js';
+import { beside, endsLine, isBlank, keepsBlanks } from './beside.js';
 import * as selection from './selection.js';
 
 const noBreak = '\u00a0';

@@ -6,11 +6,11 @@ import { formats as blockFormats } from '../../../engine/bridge/blocks/blocks.js
 import * as dom from '../../../engine/bridge/page/dom.js';
 import * as glyphs from '../../../engine/bridge/objects/glyphs.js';
 import * as history from '../../../engine/bridge/page/history.js';
-import * as line from '../../../engine/bridge/page/line.js';
+import * as beside from '../../../engine/bridge/page/beside.js';
 import * as selection from '../../../engine/bridge/page/selection.js';
 import { dividePiecesOver } from '../../../engine/bridge/talk/changes.js';
 import { commands, statusOf } from '../../../engine/bridge/talk/commands.js';
 
 globalThis.inside = {
-  blanks, blockFormats, commands, dividePiecesOver, dom, glyphs, history, line, selection, statusOf,
+  blanks, blockFormats, commands, dividePiecesOver, dom, glyphs, history, beside, selection, statusOf,
 };

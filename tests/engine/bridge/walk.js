@@ -132,8 +132,8 @@
       const next = (from) => node.data.indexOf('\u00a0', from);
       for (let at = next(0); at >= 0; at = next(at + 1)) {
         if (meant.some((place) => place.node === node && place.index === at)) continue;
-        const sides = [inside.line.beside(node, at, 'previousSibling'),
-          inside.line.beside(node, at + 1, 'nextSibling')];
+        const sides = [inside.beside.beside(node, at, 'previousSibling'),
+          inside.beside.beside(node, at + 1, 'nextSibling')];
         if (sides.every((side) => side && !/[\s\u00a0]/.test(side.node?.data[side.index] ?? ''))) {
           return true;
         }
