@@ -2,6 +2,7 @@
 // @ts-check
 // The block formats: how a unit's is named and how a unit is given another one.
 import * as lists from './lists.js';
+import { beside, isBlank } from '../page/beside.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
 import { become, changeUnits, heldUnits, unitsIn } from '../page/units.js';
@@ -72,6 +73,25 @@ export function breakLines(element, kept) {
   }
 }
 
+// White space shows as it stands in preformatted text: what was seen of it is left. Kept places go along.
+function collapseBlanks(element, kept) {
+  const places = kept ? [kept.anchor, kept.focus] : [];
+  const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
+  while (walker.nextNode()) {
+    const text = walker.currentNode;
+    if (dom.ancestor(text, dom.isAtom)) continue;
+    for (let at = text.length - 1; at >= 0; at--) {
+      if (!isBlank({ node: text, index: at })) continue;
+      const before = beside(text, at, 'previousSibling');
+      const shows = before && !isBlank(before) && beside(text, at + 1, 'nextSibling') !== null;
+      text.insertData(at + 1, shows ? ' ' : '');
+      text.deleteData(at, 1);
+      if (shows) continue;
+      for (const place of places) if (place.node === text && place.offset > at) place.offset -= 1;
+    }
+  }
+}
+
 function becomeParagraph(unit, { name, element: tag }, kept) {
   const { block, container } = unit;
   if (block?.tagName === tag) return block;
@@ -83,6 +103,7 @@ function becomeParagraph(unit, { name, element: tag }, kept) {
   if (inside && tag !== 'P') return null;
   const preformatted = dom.isPreformatted(block);
   const element = become(unit, tag);
+  if (tag === 'PRE' && !preformatted) collapseBlanks(element, kept);
   if (preformatted) breakLines(element, kept);
   return element;
 }

@@ -195,16 +195,21 @@ function release(group) {
 }
 
 // What followed items that leave their list becomes theirs, or stays on its level in an item of its own.
+// Returns the item that it is in.
 function toLast(last, list, tail) {
   const isWhole = itemsIn(list).every((item) => tail.includes(item));
   const own = [...last.childNodes].filter(dom.isShown).at(-1);
   if (isWhole && own?.tagName !== list.tagName) last.append(list);
   else sublist(last, list).append(...tail);
+  return last;
 }
 function toOwnItem(last, list, tail) {
   const rest = dom.twin(list);
   rest.append(...tail);
-  last.after(dom.wrap([rest], dom.create('LI')));
+  const item = dom.create('LI');
+  item.append(rest);
+  last.after(item);
+  return item;
 }
 
 // Moves items of a nested list one level out.
@@ -219,8 +224,8 @@ function lift(group, putTail) {
     for (let at = list.nextSibling; at; at = at.nextSibling) behind.push(at);
   }
   (outer.tagName === 'LI' ? outer : list).after(...group);
-  if (tail.some(dom.isShown)) putTail(last, list, tail);
-  if (behind.some(dom.isShown)) last.append(...ownLine(last, behind));
+  const end = tail.some(dom.isShown) ? putTail(last, list, tail) : last;
+  if (behind.some(dom.isShown)) end.append(...ownLine(end, behind));
   if (!itemsIn(list).length) list.remove();
   if (outer.tagName === 'LI' && !dom.hasContent(outer) && !holdsNamed(outer)) outer.remove();
 }

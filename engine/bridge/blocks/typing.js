@@ -58,10 +58,11 @@ export function emptyHolder() {
   const caret = selection.range();
   const holder = caret?.collapsed ? holderOf(unitsIn(caret)[0], caret) : null;
   if (!holder) return;
-  const block = dom.blockOf(holder);
+  const { parentNode } = holder;
+  const index = selection.indexOf(holder);
   holder.remove();
-  holdOpen(block);
-  selection.setCaret(block, 0);
+  holdOpen(dom.blockOf(parentNode));
+  selection.setCaret(parentNode, index);
 }
 
 // All of the page: what is typed over it begins a new one.

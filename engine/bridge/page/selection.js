@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // The selection: what lies in it, how it is kept while elements change, where the caret is.
+import { beside, keepsBlanks } from './beside.js';
 import * as dom from './dom.js';
 import {
   firstLeaf, isAtom, isEditable, isElement, isNeutral, isText, lastLeaf, nextNode,
@@ -104,6 +105,15 @@ export function* leavesIn(selected) {
   }
 }
 
+// True where nothing but the white space at a line's edge is selected of a text.
+function showsNothing(text, { startContainer, startOffset, endContainer, endOffset }) {
+  const from = text === startContainer ? startOffset : 0;
+  const to = text === endContainer ? endOffset : text.length;
+  if (from === 0 && to === text.length || !/^[ \t\r\n]*$/.test(text.data.slice(from, to))) return false;
+  const isEdge = beside(text, from, 'previousSibling') === null || beside(text, to, 'nextSibling') === null;
+  return isEdge && !keepsBlanks(text);
+}
+
 // The texts of a range of which at least one character is selected and that can be formatted, among
 // its first `most` leaves.
 export function textsIn(selected, most = Infinity) {
@@ -115,6 +125,7 @@ export function textsIn(selected, most = Infinity) {
     if (!dom.shownText(node) || dom.rawAt(node)) continue;
     if (node === selected.startContainer && selected.startOffset === node.length) continue;
     if (node === selected.endContainer && selected.endOffset === 0) continue;
+    if (showsNothing(node, selected)) continue;
     texts.push(node);
   }
   return texts;

@@ -78,6 +78,10 @@ function unitOf(leaf) {
   return runAround(leaf);
 }
 
+function firstShownLeaf(node) {
+  const child = dom.isAtom(node) ? null : firstShown(node);
+  return child ? firstShownLeaf(child) : node;
+}
 // The last leaf of a node that shows something.
 function lastShown(node) {
   if (dom.isAtom(node)) return node;
@@ -121,7 +125,7 @@ function caretUnit({ startContainer: node, startOffset: offset }) {
   const line = dom.shownFrom(node.childNodes[offset - 1], 'previousSibling');
   // At the end of a line before a block the caret is in that line.
   if (line && !dom.isBlock(line) && dom.isBlock(next)) return unitOf(lastShown(line));
-  const leaf = next ? dom.firstLeaf(next) : dom.lastLeaf(last);
+  const leaf = next ? firstShownLeaf(next) : lastShown(last);
   if (!dom.isBlock(leaf) || !dom.isAtom(leaf)) return unitOf(leaf);
   if (dom.isIsland(leaf)) return null;
   const near = dom.neighbour(leaf, 'previousSibling') || dom.neighbour(leaf, 'nextSibling');
