@@ -25,10 +25,10 @@
 
   const runs = {
     old: [['b'], ['i'], ['u'], ['strong'], ['em'], ['font', 'color="#FF0000"'],
-      ['font', 'face="Arial"'], ['font', 'size="5"'], ['a', 'href="x.htm"']],
+      ['font', 'face="Arial"'], ['font', 'size="5"'], ['a', 'href="x.htm"'], ['ins', 'cite="y.htm"'], ['del', '']],
     html5: [['b'], ['i'], ['u'], ['strong'], ['em'], ['span', 'style="color: #FF0000"'],
       ['span', 'style="font-family: Arial"'], ['span', 'style="font-size: 18pt"'],
-      ['a', 'href="x.htm"']],
+      ['a', 'href="x.htm"'], ['ins', 'cite="y.htm"'], ['del', '']],
   };
   const likes = { strong: 'b', em: 'i' };
   const kindOf = ([tag, attribute = '']) => (likes[tag] ?? tag) + attribute.split(/[:=]/)[0];
@@ -49,12 +49,19 @@
     return text();
   }
   // Runs that touch or that are parted by a blank.
+  // Some pages have their lines set in, as people and programs write them.
+  let setOut = false;
+  const lineEnd = () => `\n${'  '.repeat(1 + below(4))}`;
+  const blank = () => (setOut && chance(0.4) ? lineEnd() : ' ');
   function line(around = [], most = 4) {
     let result = run(around);
-    for (let left = below(most); left > 0; left--) result += (chance(0.6) ? ' ' : '') + run(around);
+    for (let left = below(most); left > 0; left--) {
+      result += (chance(0.6) ? blank() : '') + run(around);
+    }
     return result;
   }
-  const lineOrNone = () => (chance(0.1) ? '<br>' : line());
+  const inLines = (text) => (setOut && chance(0.5) ? lineEnd() + text + lineEnd() : text);
+  const lineOrNone = () => (chance(0.1) ? '<br>' : inLines(line()));
 
   const align = () => (inside.dom.writesStyles()
     ? `style="text-align: ${oneOf(['center', 'right'])}"`
@@ -117,7 +124,7 @@
       // Bare text stands alone between blocks.
       bare = !bare && chance(0.12);
       result += bare ? line() : block(depth);
-      if (chance(0.15)) result += '\n';
+      if (chance(setOut ? 0.8 : 0.15)) result += setOut ? lineEnd() : '\n';
     }
     return result;
   }
@@ -126,6 +133,7 @@
     seed(number) {
       state = number;
       words = 0;
+      setOut = number % 2 === 0;
     },
     below, chance, oneOf,
     // The inside of a body.

@@ -47,6 +47,30 @@
   const same = (one, other) =>
     one.html === other.html && unblanked(one.selected) === unblanked(other.selected);
 
+  // How often the source's lines end.
+  const lineEnds = (html) => html.split('\n').length;
+  // What a look never takes away: marks of changes, links, names and classes, with their words.
+  const marks = () => [...document.body.querySelectorAll('ins, del, a[href], [id]')]
+    .map((element) => ({ words: wordsOf(element.textContent),
+      sign: `${element.id || element.tagName} ${element.getAttribute('href') ?? ''}` }));
+  function marksJudged() {
+    const [verb] = step.action;
+    if (!['exec', 'type'].includes(verb) || step.action[1] === 5004) return [];
+    const now = marks().map(({ sign, words }) => ({ sign, words }));
+    const all = (list, sign) => list.filter((mark) => mark.sign === sign).map(({ words }) => words).join('');
+    const lost = step.marks.filter(({ sign }) => !all(now, sign).includes(all(step.marks, sign)) &&
+      !/^[^ ]*[a-z0-9]/.test(sign));
+    return lost.length && verb === 'exec' ? [`${lost[0].sign} is lost`] : [];
+  }
+  // Typing and characters' formats leave every line end of the source.
+  const ofCharacters = [5000, 5023, 5042, 5044, 5045, 5046, 5048];
+  function lineEndsJudged() {
+    const [verb, number] = step.action;
+    const keeps = verb === 'type' && step.collapsed || verb === 'exec' && ofCharacters.includes(number);
+    const gone = keeps && lineEnds(look().html) < lineEnds(step.before.html);
+    return gone ? ['a line end of the source is lost'] : [];
+  }
+
   // The words before, in and behind the selection.
   function parts() {
     const range = inside.selection.range();
@@ -187,12 +211,13 @@
       return words === old.before + pasted + old.behind ? [] : ['a paste took or moved words'];
     }
     if (verb === 'type') {
+      if (step.table && words.length === all.length + wordsOf(value).length) return [];
       const expected = old.before + wordsOf(value) + old.behind;
       return words === expected ? [] : ['typing took or moved words'];
     }
     if (verb !== 'key') return [];
     if (/Return$/.test(value)) {
-      return words === old.before + old.behind ? [] : ['Enter took words'];
+      return step.table || words === old.before + old.behind ? [] : ['Enter took words'];
     }
     if (/^(Ctrl\+)?(Backspace|Del)$/.test(value)) {
       const most = value.startsWith('Ctrl') ? 12 : 1;
@@ -282,7 +307,8 @@
       else action = ['key', oneOf(keys)];
       const [verb, ...values] = action;
       step = {
-        before, action, parts: parts(), lines: shownLines(), count: objects(),
+        before, action, marks: marks(), collapsed: inside.selection.range()?.collapsed,
+        table: inside.selection.control(inside.selection.range())?.tagName === 'TABLE', parts: parts(), lines: shownLines(), count: objects(),
         status: verb === 'exec' ? inside.statusOf(values[0]) : 0,
       };
       if (verb === 'exec' || verb === 'travel') velor.exec(...values);
@@ -296,7 +322,7 @@
       inside.history.settle();
       const now = look();
       const inOrder = step.parts ? wordsJudged() : [];
-      const faults = [...newFaults(), ...inOrder, ...toggleJudged(), ...travelled(now)];
+      const faults = [...newFaults(), ...inOrder, ...lineEndsJudged(), ...marksJudged(), ...toggleJudged(), ...travelled(now)];
       trail.push(step.before, now);
       faults.push(...repeated(now));
       trail.push(look());
