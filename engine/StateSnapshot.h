@@ -16,7 +16,7 @@ struct StateSnapshot {
   int version = 0;
   /// The content changed since the push before.
   bool dirty = false;
-  /// Which of the documents that took one another's place this is (engine/bridge/page/replace.js).
+  /// Which of the documents that took one another's place this is (engine/bridge/talk/replace.js).
   int generation = 0;
   std::map<EditingCommand, CommandStatus> commands;
   QString fontName;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // The names that the program evaluates, on the global object `velor` of the bridge's world. Nothing
-// else of the bridge is global.
+// else of the bridge is global. docs/bridge.md says what each does.
 import { pasteHTML } from './clipboard/paste.js';
 import { setDetails } from './objects/details.js';
 import { setSnap } from './objects/grid.js';
@@ -14,15 +14,26 @@ import { changes, mirror } from './talk/changes.js';
 import { exec } from './talk/commands.js';
 import { host, setHost } from './talk/host.js';
 import { caretPlaces, showPlace } from './page/places.js';
-import { replaceDocument, shownGeneration } from './talk/replace.js';
+import { replaceDocument } from './talk/replace.js';
 import { state } from './talk/state.js';
 import { parsed } from './talk/verify.js';
 
 globalThis.velor = {
-  start, exec, state, pasteHTML, caretAt: setCaretAtPixel, serialize, replaceDocument,
-  generation: shownGeneration, caretPlaces, showPlace, setDetails, setSnap, changes, mirror, parsed,
+  start,
+  exec,
+  state,
+  pasteHTML,
+  caretAt: setCaretAtPixel,
+  serialize,
+  replaceDocument,
+  caretPlaces,
+  showPlace,
+  setDetails,
+  setSnap,
+  changes,
+  mirror,
+  parsed,
   restore: restorePaths,
-  // The program's slots, which tests put something else in the place of.
   get host() { return host(); },
   set host(slots) { setHost(slots); },
 };

@@ -19,7 +19,10 @@ import { listenToPointer } from './talk/pointer.js';
 import { contentChanged, listenToVisibility } from './talk/push.js';
 
 // Undo or redo came to the end of the page's history: the program may have a document beyond it.
-const wantBeyond = (way) => host()?.[way === 'undo' ? 'earlierWanted' : 'laterWanted']();
+function wantBeyond(way) {
+  if (way === 'undo') host()?.earlierWanted();
+  else host()?.laterWanted();
+}
 
 // To be called after each load. `earlier` and `later` tell whether the program keeps documents that
 // undo and redo come to beyond the page's history.
