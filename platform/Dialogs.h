@@ -35,8 +35,8 @@ class Dialogs {
 
   virtual MessageAnswer ShowMessage(const Message &message) = 0;
 
-  /// A message whose buttons have these captions; the index of the one pressed. Its close button and
-  /// Escape answer the last. `message.buttons` does not count.
+  /// A message whose buttons have these captions; the index of the one pressed. Its close button
+  /// and Escape answer the last. `message.buttons` does not count.
   virtual int Choose(const Message &message, const QStringList &captions) = 0;
 
   /// A one-line question; the empty text when cancelled.
