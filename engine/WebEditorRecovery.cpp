@@ -94,14 +94,14 @@ void WebEditor::ComposeAhead() {
   const Original original = original_;
   const QString html = mirror_.page.Html();
   if (load_ != LoadPurpose::None || html.size() > largestAhead) return;
-  original->MakeReady();
+  original->Prepare();
   const auto first = original->FirstTry(html);
   if (!first) return;
   EngineVerifier &verifier = engine_.Verifier();
   verifier.Foresee(*first, html, [original, html, &verifier] {
     EngineVerifier::KnownAnswers known(verifier);
     try {
-      original->Foresee(html, known);
+      original->Precompute(html, known);
     } catch (const RuntimeError &) {
       // A page that cannot be written says so when it is saved.
     }

@@ -57,7 +57,7 @@ void WebEditor::FollowGeneration(int generation) {
   if (next == originals_.end() || load_ != LoadPurpose::None) return;
   Original original = std::move(next->second);
   originals_.erase(next);
-  original_->Rest();
+  original_->DropCaches();
   originals_[generation_] = std::exchange(original_, std::move(original));
   generation_ = generation;
   qsizetype weight = 0;
@@ -80,7 +80,7 @@ void WebEditor::ReplaceKeepingEarlier(Original original, const QString &nativePa
 }
 
 void WebEditor::Keep(std::vector<Kept> &documents, Kept kept) {
-  kept.original->Rest();
+  kept.original->DropCaches();
   documents.push_back(std::move(kept));
   qsizetype weight = 0;
   for (auto end = documents.end(); end != documents.begin(); --end) {

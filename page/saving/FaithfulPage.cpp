@@ -12,20 +12,19 @@ namespace velor {
 
 namespace {
 
-/// More tries than this would keep a person waiting longer than a page written anew is worth, nor
-/// may they parse more than so many units together. One try is always made.
+/// Bounds the tries for one save, so that nobody waits long. One try is always made.
 struct Effort {
   qsizetype tries;
-  qsizetype parsed;
+  qsizetype parsed;  ///< UTF-16 units that all tries may parse together
 
   qsizetype For(const QString &text) const {
     return std::clamp(parsed / std::max<qsizetype>(text.size(), 1), qsizetype{1}, tries);
   }
 };
-constexpr Effort untilEqual{24, 40'000'000};
-constexpr Effort untilSmallest{120, 10'000'000};
+constexpr Effort UntilEqual{24, 40'000'000};
+constexpr Effort UntilSmallest{120, 10'000'000};
 
-/// Insertions taken apart where tags begin, so that each tag can be done without.
+/// Insertions cut where tags begin, so that each tag can be left out on its own.
 std::vector<TextPatch> TagByTag(const std::vector<TextPatch> &patches) {
   std::vector<TextPatch> parts;
   for (const TextPatch &patch : patches) {
@@ -42,7 +41,7 @@ std::vector<TextPatch> TagByTag(const std::vector<TextPatch> &patches) {
   return parts;
 }
 
-/// Insertions at one place made one again.
+/// Joins insertions at one place again.
 std::vector<TextPatch> Joined(const std::vector<TextPatch> &patches) {
   std::vector<TextPatch> joined;
   for (const TextPatch &patch : patches) {
@@ -65,7 +64,7 @@ qsizetype FirstDifference(QStringView one, QStringView other) {
 /// edits are far more often about, before them.
 std::vector<HtmlToken> WithoutLastTags(std::vector<HtmlToken> tokens) {
   for (HtmlToken &token : tokens) {
-    const bool isLast = token.name == elements::body || token.name == elements::html;
+    const bool isLast = token.name == elements::Body || token.name == elements::Html;
     if (isLast && token.kind == HtmlTokenKind::EndTag) token.key = 0;
   }
   return tokens;
@@ -83,8 +82,8 @@ struct FaithfulPage::Plan {
         steps(edits.size()),
         patcher(source, before, now, sourceToBefore, alignment, lineEnds) {}
 
-  /// The edit that is most likely behind a first difference at that place of the document: the
-  /// nearest.
+  /// The step of the edit nearest to a place of the document: most likely the one that made the
+  /// document differ there.
   PatchStep &StepAt(qsizetype place) {
     std::size_t nearest = 0;
     qsizetype shortest = now.text.size() + 1;
@@ -102,10 +101,10 @@ struct FaithfulPage::Plan {
   }
 
   SaveRung Rung() const {
-    int highest = PatchStep::alone;
-    for (const PatchStep step : steps) highest = std::max(highest, step.number);
-    if (highest == PatchStep::alone) return SaveRung::Edits;
-    return highest < PatchStep::element ? SaveRung::ImpliedTags : SaveRung::Elements;
+    PatchRung highest = PatchRung::EditAlone;
+    for (const PatchStep step : steps) highest = std::max(highest, step.rung);
+    if (highest == PatchRung::EditAlone) return SaveRung::Edits;
+    return highest < PatchRung::EnclosingElement ? SaveRung::ImpliedTags : SaveRung::Elements;
   }
 
   TokenText now;
@@ -126,6 +125,7 @@ void FaithfulPage::SetBaseline(const QString &serialisation) {
 }
 
 void FaithfulPage::Prepare() {
+  if (original_.baseline.isEmpty()) return;
   if (!source_) source_.emplace(mask_.MaskedText());
   if (before_) return;
   before_.emplace(original_.baseline, HtmlOrigin::Serialisation);
@@ -147,44 +147,40 @@ FaithfulPage::Plan &FaithfulPage::PlanFor(const QString &current) {
 std::optional<QString> FaithfulPage::FirstTry(const QString &current) {
   if (original_.baseline.isEmpty() || current == original_.baseline) return std::nullopt;
   const Plan &plan = PlanFor(current);
-  const auto patches = plan.patcher.For(plan.edits, plan.steps);
+  const auto patches = plan.patcher.PatchesFor(plan.edits, plan.steps);
   if (!patches) return std::nullopt;
   return Patched(mask_.MaskedText(), *patches);
 }
 
-void FaithfulPage::MakeReady() {
-  if (!original_.baseline.isEmpty()) Prepare();
-}
-
 SavedPage FaithfulPage::Compose(const QString &current, PageVerifier &verifier) {
-  if (original_.baseline.isEmpty()) return Everything(current);
+  if (original_.baseline.isEmpty()) return WriteEverything(current);
   if (current == original_.baseline)
     return {{original_.page.text, original_.bytes}, SaveRung::Unedited};
   PlanFor(current);
   // The verifier may wait for the engine, and another call may come meanwhile.
   const std::shared_ptr<Plan> plan = plan_;
-  if (!plan->result) plan->result = Climb(*plan, verifier, Tries::All);
-  return plan->result ? *plan->result : Everything(current);
+  if (!plan->result) plan->result = TryRungs(*plan, verifier, Tries::All);
+  return plan->result ? *plan->result : WriteEverything(current);
 }
 
-void FaithfulPage::Foresee(const QString &current, PageVerifier &verifier) {
+void FaithfulPage::Precompute(const QString &current, PageVerifier &verifier) {
   if (original_.baseline.isEmpty() || current == original_.baseline) return;
   Plan &plan = PlanFor(current);
-  if (!plan.result) plan.result = Climb(plan, verifier, Tries::First);
+  if (!plan.result) plan.result = TryRungs(plan, verifier, Tries::First);
 }
 
-void FaithfulPage::Rest() {
+void FaithfulPage::DropCaches() {
   plan_.reset();
   source_.reset();
   before_.reset();
 }
 
-std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
-                                             Tries tries) const {
+std::optional<SavedPage> FaithfulPage::TryRungs(Plan &plan, PageVerifier &verifier,
+                                                Tries tries) const {
   const QString &wanted = plan.now.text;
   std::optional<QString> wantedAgain;  // what the document is once it has been parsed again
-  for (qsizetype left = tries == Tries::All ? untilEqual.For(wanted) : 1; left > 0; --left) {
-    const auto patches = plan.patcher.For(plan.edits, plan.steps);
+  for (qsizetype left = tries == Tries::All ? UntilEqual.For(wanted) : 1; left > 0; --left) {
+    const auto patches = plan.patcher.PatchesFor(plan.edits, plan.steps);
     if (!patches) return std::nullopt;
     const auto document = verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wanted);
     if (!document) return std::nullopt;
@@ -192,37 +188,38 @@ std::optional<SavedPage> FaithfulPage::Climb(Plan &plan, PageVerifier &verifier,
     if (isFirstMiss) wantedAgain = verifier.Serialisation(wanted);
     if (*document == wanted || document == wantedAgain) {
       const SaveRung rung = plan.Rung();
-      return Splice(rung == SaveRung::Edits ? *patches : Smallest(*patches, *document, verifier),
-                    rung);
+      return Splice(
+          rung == SaveRung::Edits ? *patches : WithoutNeedless(*patches, *document, verifier),
+          rung);
     }
     if (plan.steps.empty() || tries == Tries::First) return std::nullopt;
     if (isFirstMiss && wantedAgain && *wantedAgain != wanted) {
-      if (auto saved = Moved(*wantedAgain, verifier)) return saved;
+      if (auto saved = TryAsParsed(*wantedAgain, verifier)) return saved;
     }
-    ++plan.StepAt(FirstDifference(wanted, *document)).number;
+    plan.StepAt(FirstDifference(wanted, *document)).Escalate();
   }
   return std::nullopt;
 }
 
-/// A parser moves what the document has where no markup can put it. Written where the parser moves
-/// it to, it may need nothing else.
-std::optional<SavedPage> FaithfulPage::Moved(const QString &wantedAgain,
-                                             PageVerifier &verifier) const {
+/// Where no markup gives the document (a picture between two table rows), a parser moves what
+/// stands there. Tries to write the edits where the parser moves them to.
+std::optional<SavedPage> FaithfulPage::TryAsParsed(const QString &wantedAgain,
+                                                   PageVerifier &verifier) const {
   const Plan plan(TokenText(wantedAgain, *before_), *source_, *before_, sourceToBefore_,
                   original_.page.encoding.lineEnds);
-  const auto patches = plan.patcher.For(plan.edits, plan.steps);
+  const auto patches = plan.patcher.PatchesFor(plan.edits, plan.steps);
   if (!patches) return std::nullopt;
   if (verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wantedAgain) != wantedAgain)
     return std::nullopt;
-  return Splice(Smallest(*patches, wantedAgain, verifier), SaveRung::Edits);
+  return Splice(WithoutNeedless(*patches, wantedAgain, verifier), SaveRung::Edits);
 }
 
-/// Leaves out what the document can do without: first halves of the patches, then smaller parts.
-std::vector<TextPatch> FaithfulPage::Smallest(const std::vector<TextPatch> &patches,
-                                              const QString &document,
-                                              PageVerifier &verifier) const {
+/// Leaves out patches that the document does not need: first halves of them, then smaller parts.
+std::vector<TextPatch> FaithfulPage::WithoutNeedless(const std::vector<TextPatch> &patches,
+                                                     const QString &document,
+                                                     PageVerifier &verifier) const {
   std::vector<TextPatch> kept = TagByTag(patches);
-  qsizetype left = untilSmallest.For(document);
+  qsizetype left = UntilSmallest.For(document);
   for (std::size_t part = kept.size() / 2; part > 0; part /= 2) {
     for (std::size_t at = 0; at + part <= kept.size() && kept.size() > part && left > 0;) {
       std::vector<TextPatch> fewer = kept;
@@ -252,7 +249,7 @@ SavedPage FaithfulPage::Splice(const std::vector<TextPatch> &patches, SaveRung r
   return {SpliceBytes(original_, own), rung};
 }
 
-SavedPage FaithfulPage::Everything(const QString &current) const {
+SavedPage FaithfulPage::WriteEverything(const QString &current) const {
   const PageEncoding &encoding = original_.page.encoding;
   return {WriteWhole(WithLineEnds(mask_.Unmask(current), encoding.lineEnds), encoding),
           SaveRung::Everything};

@@ -13,11 +13,11 @@ namespace velor {
 
 class PageVerifier;
 
-/// How much of a page had to be written for its edits, from nothing to everything.
+/// How much of a page was written for its edits, from nothing to everything.
 enum class SaveRung {
   Unedited,     ///< the bytes that were loaded
   Edits,        ///< the edits alone
-  ImpliedTags,  ///< also tags that the parser implied beside them
+  ImpliedTags,  ///< also tags beside them that the file leaves out
   Elements,     ///< the content of elements around them
   Everything,   ///< the engine's serialisation
 };
@@ -27,51 +27,50 @@ struct SavedPage {
   SaveRung rung = SaveRung::Unedited;
 };
 
-/// A page between its file and the engine: what the engine is given, and what is written for what
-/// the engine has. Whatever was not edited stays as the person wrote it, to the byte.
+/// Decides what text the engine loads for a page, and what bytes a save writes for the document
+/// that the engine has. Bytes outside the person's edits stay as they are in the file.
 ///
-/// Serialisations are the engine's, of the text that it was given (with masks, LF line breaks).
+/// All serialisations are the engine's, of the masked text, with LF line breaks.
 class FaithfulPage {
  public:
   explicit FaithfulPage(PageOriginal original = {});
 
   const PageOriginal &Original() const { return original_; }
-  /// The text for the engine.
+  /// The text that the engine is to load: the page's, with what must not reach the engine masked.
   const QString &TextToLoad() const { return mask_.MaskedText(); }
-  /// What the engine made of it, right after loading; empty until then.
+  /// The serialisation right after loading; empty until SetBaseline.
   const QString &Baseline() const { return original_.baseline; }
   void SetBaseline(const QString &serialisation);
-  /// A serialisation as a person may see it.
+  /// A serialisation with the original pieces in place of their masks.
   QString Unmasked(const QString &serialisation) const { return mask_.Unmask(serialisation); }
 
-  /// What is written when the engine has `current`. Each way of writing the edits is tried on the
-  /// verifier, from the smallest, until its document is the one at hand. Raises
+  /// What a save writes when the engine's serialisation is `current`. Tries to patch the source,
+  /// the smallest patches first, until the verifier parses the result to the same document. Raises
   /// InvalidProcedureCall for a character that the charset has no way to write.
   SavedPage Compose(const QString &current, PageVerifier &verifier);
-  /// The text whose document is asked for first when `current` is composed; nothing for an unedited
-  /// page. To have the verifier's answer ready before it is needed.
+  /// The text that Compose(current) will ask the verifier for first; nothing for an unedited page.
   std::optional<QString> FirstTry(const QString &current);
 
-  /// Finds out ahead of time what every save of an edited page needs.
-  void MakeReady();
-  /// Composes ahead of time where the verifier confirms the first try; else nothing happens.
-  void Foresee(const QString &current, PageVerifier &verifier);
-  /// Lets go of what can be found out again.
-  void Rest();
+  /// Computes ahead of time the tokens and alignment that every save of an edited page needs.
+  void Prepare();
+  /// Composes ahead of time, with one try: keeps the result for Compose if the verifier confirms
+  /// it.
+  void Precompute(const QString &current, PageVerifier &verifier);
+  /// Frees what Prepare and Precompute hold; it is computed again when it is needed.
+  void DropCaches();
 
  private:
   struct Plan;
 
-  void Prepare();
   Plan &PlanFor(const QString &current);
   enum class Tries { First, All };
-  /// Nothing where the tries did not lead to the document.
-  std::optional<SavedPage> Climb(Plan &plan, PageVerifier &verifier, Tries tries) const;
-  std::optional<SavedPage> Moved(const QString &wantedAgain, PageVerifier &verifier) const;
-  std::vector<TextPatch> Smallest(const std::vector<TextPatch> &patches, const QString &document,
-                                  PageVerifier &verifier) const;
+  /// Nothing where no try gave the document.
+  std::optional<SavedPage> TryRungs(Plan &plan, PageVerifier &verifier, Tries tries) const;
+  std::optional<SavedPage> TryAsParsed(const QString &wantedAgain, PageVerifier &verifier) const;
+  std::vector<TextPatch> WithoutNeedless(const std::vector<TextPatch> &patches,
+                                         const QString &document, PageVerifier &verifier) const;
   SavedPage Splice(const std::vector<TextPatch> &patches, SaveRung rung) const;
-  SavedPage Everything(const QString &current) const;
+  SavedPage WriteEverything(const QString &current) const;
 
   PageOriginal original_;
   PageMask mask_;

@@ -3,14 +3,16 @@
 
 #include "page/text/HtmlElements.h"
 
+#include <algorithm>
+
 namespace velor {
 
 namespace {
 
 using Number = std::int32_t;
 
-/// As far as an edit is moved in search of a better place.
-constexpr Number longestSlide = 2000;
+/// Maximum number of tokens that an edit may be shifted by.
+constexpr Number LongestSlide = 2000;
 
 /// Whether the tokens hold whole elements only.
 bool IsBalanced(const TokenText &text, Number from, Number to) {
@@ -18,7 +20,7 @@ bool IsBalanced(const TokenText &text, Number from, Number to) {
   for (Number at = from; at < to; ++at) {
     const HtmlToken &token = text.At(at);
     if (token.kind == HtmlTokenKind::StartTag) {
-      if (!elements::IsOneOf(token.name, elements::voidElements)) open.push_back(token.name);
+      if (!elements::IsOneOf(token.name, elements::VoidElements)) open.push_back(token.name);
     } else if (token.kind == HtmlTokenKind::EndTag) {
       if (open.empty() || open.back() != token.name) return false;
       open.pop_back();
@@ -27,10 +29,10 @@ bool IsBalanced(const TokenText &text, Number from, Number to) {
   return open.empty();
 }
 
-/// Moves an edit that is empty on one side.
-class Slide {
+/// Shifts an edit that only inserts, or only takes away, to the place where it is worth most.
+class EditShift {
  public:
-  Slide(const TokenText &before, const TokenText &now, PageEdit &edit)
+  EditShift(const TokenText &before, const TokenText &now, PageEdit &edit)
       : before_(before), now_(now), edit_(edit) {}
 
   /// The edit may move back to `from` and ahead to `to` in the text before.
@@ -44,16 +46,17 @@ class Slide {
       bestScore = score;
       best = edit_;
     };
-    for (Number steps = 0; steps < longestSlide && bestScore < best_ && StepBack(from); ++steps)
+    for (Number steps = 0; steps < LongestSlide && bestScore < BestScore && StepBack(from); ++steps)
       look();
     edit_ = start;
-    for (Number steps = 0; steps < longestSlide && bestScore < best_ && StepAhead(to); ++steps)
+    for (Number steps = 0; steps < LongestSlide && bestScore < BestScore && StepAhead(to); ++steps)
       look();
     edit_ = best;
   }
 
  private:
-  static constexpr int best_ = 3;
+  /// Of one or more whole elements; 2 begins or ends with one, 1 is balanced otherwise, 0 is not.
+  static constexpr int BestScore = 3;
 
   const TokenText &Long() const { return edit_.now == edit_.nowEnd ? before_ : now_; }
   Number From() const { return edit_.now == edit_.nowEnd ? edit_.before : edit_.now; }
@@ -63,7 +66,8 @@ class Slide {
     if (!IsBalanced(Long(), From(), To())) return 0;
     const HtmlToken &first = Long().At(From());
     const HtmlToken &last = Long().At(To() - 1);
-    if (first.kind == HtmlTokenKind::StartTag && last.kind == HtmlTokenKind::EndTag) return best_;
+    if (first.kind == HtmlTokenKind::StartTag && last.kind == HtmlTokenKind::EndTag)
+      return BestScore;
     return first.kind == HtmlTokenKind::StartTag || last.kind == HtmlTokenKind::EndTag ? 2 : 1;
   }
   void Move(Number by) {
@@ -88,31 +92,49 @@ class Slide {
   PageEdit &edit_;
 };
 
-}  // namespace
+/// The tokens from one on that have no counterpart; the number of the first that has.
+Number EndOfUnmatched(const std::vector<Number> &counterparts, Number from) {
+  const auto start = counterparts.begin() + from;
+  const auto end = std::find_if(start, counterparts.end(), [](Number found) { return found >= 0; });
+  return static_cast<Number>(end - counterparts.begin());
+}
 
-std::vector<PageEdit> FindEdits(const TokenText &before, const TokenText &now,
-                                const TokenAlignment &alignment) {
+/// The edits as the alignment has them, before any is shifted.
+std::vector<PageEdit> EditsBetween(const TokenText &before, const TokenText &now,
+                                   const TokenAlignment &alignment) {
   std::vector<PageEdit> edits;
   Number one = 0;
   Number other = 0;
   while (one < before.Count() || other < now.Count()) {
-    const PageEdit start{one, one, other, other};
-    while (one < before.Count() && alignment.toOther[static_cast<std::size_t>(one)] < 0) ++one;
-    while (other < now.Count() && alignment.fromOther[static_cast<std::size_t>(other)] < 0) ++other;
-    if (one > start.before || other > start.now)
-      edits.push_back({start.before, one, start.now, other, false});
+    const Number oneEnd = EndOfUnmatched(alignment.toOther, one);
+    const Number otherEnd = EndOfUnmatched(alignment.fromOther, other);
+    if (oneEnd > one || otherEnd > other) edits.push_back({one, oneEnd, other, otherEnd, false});
+    one = oneEnd;
+    other = otherEnd;
     if (one >= before.Count() || other >= now.Count()) continue;
     if (before.At(one).key != now.At(other).key)
       edits.push_back({one, one + 1, other, other + 1, true});
     ++one;
     ++other;
   }
+  return edits;
+}
+
+/// Whether an edit only inserts, or only takes away.
+bool IsOneSided(const PageEdit &edit) {
+  return (edit.before == edit.beforeEnd) != (edit.now == edit.nowEnd);
+}
+
+}  // namespace
+
+std::vector<PageEdit> FindEdits(const TokenText &before, const TokenText &now,
+                                const TokenAlignment &alignment) {
+  std::vector<PageEdit> edits = EditsBetween(before, now, alignment);
   for (std::size_t number = 0; number < edits.size(); ++number) {
-    PageEdit &edit = edits[number];
-    if ((edit.before == edit.beforeEnd) == (edit.now == edit.nowEnd)) continue;
+    if (!IsOneSided(edits[number])) continue;
     const Number from = number == 0 ? 0 : edits[number - 1].beforeEnd;
     const Number to = number + 1 == edits.size() ? before.Count() : edits[number + 1].before;
-    Slide(before, now, edit).Run(from, to);
+    EditShift(before, now, edits[number]).Run(from, to);
   }
   return edits;
 }

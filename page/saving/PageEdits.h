@@ -19,7 +19,7 @@ struct TokenText {
   TokenText() = default;
   explicit TokenText(const QString &html, HtmlOrigin origin = HtmlOrigin::Page)
       : text(html), tokens(TokenizeHtml(html, origin)) {}
-  /// Of a serialisation; sooner made where `before`, another one, differs in little.
+  /// Of a serialisation, quicker where it differs from `before`, another one, in one range only.
   TokenText(const QString &html, TokenText before)
       : text(html),
         tokens(TokenizeHtmlLike(html, before.text, std::move(before.tokens),
@@ -35,8 +35,8 @@ struct TokenText {
   }
 };
 
-/// A place where a document differs from what it was when it was loaded: the tokens
-/// [before, beforeEnd) of the serialisation then became [now, nowEnd) of the serialisation now.
+/// One difference between two serialisations of a document, the one right after loading and the
+/// one now: the tokens [before, beforeEnd) of the first became [now, nowEnd) of the second.
 struct PageEdit {
   std::int32_t before = 0;
   std::int32_t beforeEnd = 0;
@@ -46,8 +46,9 @@ struct PageEdit {
   bool isTagChange = false;
 };
 
-/// The edits that lead from one serialisation to the other, in order. What was merely inserted or
-/// taken away is moved, where what stands around it allows that, so that it holds whole elements.
+/// The edits that lead from one serialisation to the other, in order. An edit that only inserts or
+/// only takes away is shifted, where equal tokens beside it allow that, until it holds whole
+/// elements.
 std::vector<PageEdit> FindEdits(const TokenText &before, const TokenText &now,
                                 const TokenAlignment &alignment);
 

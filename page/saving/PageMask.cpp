@@ -143,10 +143,10 @@ class PageMasker {
       return;
     }
     const std::uint32_t key = HtmlNameKey(name);
-    if (elements::IsOneOf(key, elements::rawElements) ||
-        elements::IsOneOf(key, elements::titleElements))
+    if (elements::IsOneOf(key, elements::RawElements) ||
+        elements::IsOneOf(key, elements::TitleElements))
       RawText(name);
-    if (key == elements::plaintext) at_ = source_.size();
+    if (key == elements::Plaintext) at_ = source_.size();
   }
 
   bool IsPagesEndTag(qsizetype start) const {

@@ -7,13 +7,14 @@
 
 namespace velor {
 
-/// Says what the engine makes of a text, apart from any page that is being edited.
+/// Parses texts with the engine, apart from any page that is being edited.
 class PageVerifier {
  public:
   virtual ~PageVerifier() = default;
-  /// The serialisation of the document that the text is parsed to; nothing when it cannot be had.
+  /// The serialisation of the document that the engine parses the text to; nothing where the engine
+  /// does not answer.
   virtual std::optional<QString> Serialisation(const QString &text) = 0;
-  /// The same. That it will be `expected` is likely, and then costs less to find out.
+  /// The same answer, quicker where it is `expected`.
   virtual std::optional<QString> SerialisationLike(const QString &text,
                                                    const QString & /*expected*/) {
     return Serialisation(text);

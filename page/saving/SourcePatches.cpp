@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "page/saving/SourcePatches.h"
 
+#include "page/saving/EnclosingElements.h"
+#include "page/saving/MovedTokens.h"
 #include "page/saving/TagPatches.h"
-#include "page/text/HtmlElements.h"
 #include "page/text/TextCharacters.h"
 
 #include <algorithm>
@@ -12,113 +13,160 @@ namespace velor {
 
 namespace {
 
-using Number = std::int32_t;
-
-std::size_t Index(Number number) {
+std::size_t Index(std::int32_t number) {
   return static_cast<std::size_t>(number);
-}
-
-bool IsFrameTag(const HtmlToken &token) {
-  return token.name == elements::html || token.name == elements::head ||
-         token.name == elements::body;
 }
 
 bool IsBlank(const HtmlToken &token) {
   return token.kind == HtmlTokenKind::Blank || token.kind == HtmlTokenKind::LineBreak;
 }
 
-/// An element of the document now, by the numbers of its tags.
-struct OpenElement {
-  Number start = 0;
-  Number end = 0;
+/// Whether a token stands beside the page's frame, with nothing but blanks between.
+bool IsBesideFrame(const TokenText &source, std::int32_t number) {
+  std::int32_t back = number;
+  while (back >= 0 && IsBlank(source.At(back))) --back;
+  std::int32_t ahead = number;
+  while (ahead < source.Count() && IsBlank(source.At(ahead))) ++ahead;
+  const auto isFrame = [](const HtmlToken &token) {
+    return IsFrameTag(token) || token.kind == HtmlTokenKind::Doctype;
+  };
+  return back < 0 || ahead == source.Count() || isFrame(source.At(back)) ||
+         isFrame(source.At(ahead));
+}
+
+bool Overlap(const std::vector<TextPatch> &patches) {
+  return std::adjacent_find(patches.begin(), patches.end(),
+                            [](const TextPatch &one, const TextPatch &next) {
+                              return next.start < one.end;
+                            }) != patches.end();
+}
+
+/// How much two texts share at both ends, counted by characters as a parser reads them.
+struct SharedEnds {
+  qsizetype oldFront = 0;  ///< units, as are all of these
+  qsizetype newFront = 0;
+  qsizetype oldBack = 0;  ///< where the shared end begins
+  qsizetype newBack = 0;
+
+  SharedEnds(QStringView old, QStringView fresh) : oldBack(old.size()), newBack(fresh.size()) {
+    const std::vector<TextCharacter> olds = CharactersOf(old);
+    const std::vector<TextCharacter> news = CharactersOf(fresh);
+    const std::size_t shorter = std::min(olds.size(), news.size());
+    std::size_t front = 0;
+    for (; front < shorter && olds[front].Means(news[front]); ++front) {
+      oldFront += olds[front].length;
+      newFront += news[front].length;
+    }
+    for (std::size_t back = 1; back <= shorter - front; ++back) {
+      const TextCharacter &one = olds[olds.size() - back];
+      const TextCharacter &other = news[news.size() - back];
+      if (!one.Means(other)) break;
+      oldBack -= one.length;
+      newBack -= other.length;
+    }
+  }
 };
 
-Number EndOfElement(const TokenText &text, Number start) {
-  int depth = 0;
-  for (Number at = start; at < text.Count(); ++at) {
-    const HtmlToken &token = text.At(at);
-    if (token.kind == HtmlTokenKind::StartTag) {
-      if (!elements::IsOneOf(token.name, elements::voidElements)) ++depth;
-    } else if (token.kind == HtmlTokenKind::EndTag && --depth == 0) {
-      return at;
-    }
-  }
-  return -1;
-}
-
-/// The elements that hold the tokens [from, to), innermost first.
-std::vector<OpenElement> Around(const TokenText &text, Number from, Number to) {
-  std::vector<OpenElement> around;
-  int closed = 0;
-  for (Number at = from - 1; at >= 0; --at) {
-    const HtmlToken &token = text.At(at);
-    if (token.kind == HtmlTokenKind::EndTag) {
-      ++closed;
-    } else if (token.kind == HtmlTokenKind::StartTag &&
-               !elements::IsOneOf(token.name, elements::voidElements)) {
-      if (closed > 0) {
-        --closed;
-        continue;
-      }
-      const Number end = EndOfElement(text, at);
-      if (end >= to) around.push_back({at, end});
-    }
-  }
-  return around;
-}
-
-bool TellsPlace(const HtmlToken &token) {
-  return token.kind == HtmlTokenKind::Comment ||
-         (token.isStrong && token.kind != HtmlTokenKind::EndTag);
-}
-
-/// Pairs what a first alignment left over on both sides. Start tags, comments and long words tell
-/// where a stretch went; what stands in one row with them went along.
-std::vector<Number> MovedTokens(const TokenText &source, const TokenText &before,
-                                const TokenAlignment &alignment) {
-  std::vector<Number> sourceNumbers;
-  std::vector<Number> beforeNumbers;
-  std::vector<HtmlToken> sourceTokens;
-  std::vector<HtmlToken> beforeTokens;
-  // The parser makes the page's frame where it stands.
-  for (Number at = 0; at < source.Count(); ++at) {
-    if (alignment.toOther[Index(at)] >= 0 || IsFrameTag(source.At(at))) continue;
-    sourceNumbers.push_back(at);
-    sourceTokens.push_back(source.At(at));
-  }
-  for (Number at = 0; at < before.Count(); ++at) {
-    if (alignment.fromOther[Index(at)] >= 0 || IsFrameTag(before.At(at))) continue;
-    beforeNumbers.push_back(at);
-    beforeTokens.push_back(before.At(at));
-  }
-  const TokenAlignment leftOver =
-      AlignTokens(sourceTokens, beforeTokens, InStep::WithSerialisation);
-  std::vector<Number> moved(Index(before.Count()), -1);
-  std::vector<bool> isTaken(Index(source.Count()), false);
-  for (std::size_t at = 0; at < beforeNumbers.size(); ++at) {
-    const Number found = leftOver.fromOther[at];
-    if (found < 0 || sourceTokens[Index(found)].key != beforeTokens[at].key) continue;
-    if (!TellsPlace(beforeTokens[at])) continue;
-    moved[Index(beforeNumbers[at])] = sourceNumbers[Index(found)];
-    isTaken[Index(sourceNumbers[Index(found)])] = true;
-  }
-  const auto takeAlong = [&](Number at, Number by) {
-    const Number next = at + by;
-    if (moved[Index(at)] < 0 || next < 0 || next >= before.Count()) return;
-    const Number found = moved[Index(at)] + by;
-    if (moved[Index(next)] >= 0 || alignment.fromOther[Index(next)] >= 0) return;
-    if (found < 0 || found >= source.Count() || alignment.toOther[Index(found)] >= 0) return;
-    if (isTaken[Index(found)] || source.At(found).key != before.At(next).key) return;
-    if (IsFrameTag(before.At(next))) return;
-    moved[Index(next)] = found;
-    isTaken[Index(found)] = true;
-  };
-  for (Number at = 0; at < before.Count(); ++at) takeAlong(at, 1);
-  for (Number at = before.Count() - 1; at >= 0; --at) takeAlong(at, -1);
-  return moved;
-}
-
 }  // namespace
+
+/// Gives the source of a region the tokens that the document has now, each as the source writes it
+/// where the source has it.
+class SourcePatches::RegionWriter {
+ public:
+  RegionWriter(const SourcePatches &patcher, Region region, Patches &out)
+      : patcher_(patcher),
+        source_(patcher.source_),
+        now_(patcher.now_),
+        region_(region),
+        isPage_(region.from == 0),
+        out_(out) {
+    if (isPage_) return;
+    const Number tag = patcher.CounterpartOfNow(region.from - 1);
+    done_ = source_.At(tag).End();
+    next_ = tag + 1;
+  }
+
+  void Run() {
+    for (Number at = region_.from; at < region_.to; ++at) {
+      const Number source = patcher_.CounterpartOfNow(at);
+      if (source < 0)
+        Add(at);
+      else
+        Keep(at, source);
+    }
+    if (isPage_) return CloseGap(source_.Count(), source_.text.size());
+    const Number end = patcher_.CounterpartOfNow(region_.to);
+    if (end < 0) added_ += now_.Slice(region_.to, region_.to + 1);
+    CloseGap(end < 0 ? next_ : end, end < 0 ? done_ : source_.At(end).offset);
+  }
+
+ private:
+  /// A token that the source does not have.
+  void Add(Number at) {
+    const HtmlToken &token = now_.At(at);
+    const bool isImpliedAnyway = token.kind == HtmlTokenKind::EndTag && IsFrameTag(token);
+    if (!isImpliedAnyway) added_ += now_.Slice(at, at + 1);
+  }
+
+  void Keep(Number at, Number source) {
+    CloseGap(source, source_.At(source).offset);
+    const Number before = patcher_.beforeToNow_.fromOther[Index(at)];
+    if (patcher_.before_.At(before).key != now_.At(at).key)
+      patcher_.PatchTagAt(source, {before, before + 1, at, at + 1, true}, out_);
+    done_ = source_.At(source).End();
+    next_ = source + 1;
+  }
+
+  /// What the edit took away goes. The page's frame and the blanks around it stay; what else the
+  /// parser ignored, or moved, could count now.
+  bool Stays(Number source) const {
+    const HtmlToken &token = source_.At(source);
+    const bool isIgnored = patcher_.sourceToBefore_.toOther[Index(source)] < 0;
+    return isIgnored && (IsFrameTag(token) || (IsBlank(token) && IsBesideFrame(source_, source)));
+  }
+
+  /// Writes the source from `done_` up to `end`: of its tokens before `source` what stays, then
+  /// what was added.
+  void CloseGap(Number source, qsizetype end) {
+    QString kept;
+    bool isWholeGapKept = true;
+    for (; next_ < source; ++next_) {
+      const bool stays = Stays(next_);
+      isWholeGapKept = isWholeGapKept && stays;
+      if (stays) kept += source_.Slice(next_, next_ + 1);
+    }
+    if (!isWholeGapKept || !added_.isEmpty())
+      patcher_.Replace(done_, end, kept + patcher_.WithPageLineEnds(added_), out_);
+    added_.clear();
+  }
+
+  const SourcePatches &patcher_;
+  const TokenText &source_;
+  const TokenText &now_;
+  Region region_;
+  bool isPage_;
+  Patches &out_;
+  qsizetype done_ = 0;  ///< the source is settled up to this offset
+  Number next_ = 0;     ///< the source's first token that is not
+  QString added_;
+};
+
+void PatchStep::Escalate() {
+  switch (rung) {
+    case PatchRung::EditAlone:
+      rung = PatchRung::ImpliedTagsLeft;
+      break;
+    case PatchRung::ImpliedTagsLeft:
+      rung = PatchRung::ImpliedTagsAround;
+      break;
+    case PatchRung::ImpliedTagsAround:
+      rung = PatchRung::EnclosingElement;
+      break;
+    case PatchRung::EnclosingElement:
+      ++outwards;
+      break;
+  }
+}
 
 SourcePatches::SourcePatches(const TokenText &source, const TokenText &before, const TokenText &now,
                              const TokenAlignment &sourceToBefore,
@@ -129,33 +177,97 @@ SourcePatches::SourcePatches(const TokenText &source, const TokenText &before, c
       sourceToBefore_(sourceToBefore),
       beforeToNow_(beforeToNow),
       lineEnds_(lineEnds),
-      moved_(MovedTokens(source, before, sourceToBefore)) {}
+      moved_(FindMovedTokens(source, before, sourceToBefore)) {}
 
-Number SourcePatches::InPlace(Number before) const {
+SourcePatches::Number SourcePatches::CounterpartInOrder(Number before) const {
   return sourceToBefore_.fromOther[Index(before)];
 }
 
-Number SourcePatches::Anywhere(Number before) const {
-  const Number source = InPlace(before);
+SourcePatches::Number SourcePatches::CounterpartAnywhere(Number before) const {
+  const Number source = CounterpartInOrder(before);
   return source >= 0 ? source : moved_[Index(before)];
 }
 
-Number SourcePatches::InPlaceOfNow(Number now) const {
+SourcePatches::Number SourcePatches::CounterpartOfNow(Number now) const {
   const Number before = beforeToNow_.fromOther[Index(now)];
-  return before >= 0 ? InPlace(before) : -1;
+  return before >= 0 ? CounterpartInOrder(before) : -1;
 }
 
-QString SourcePatches::InPageForm(QStringView text) const {
+/// What the parser moved counts as long as it is in order.
+SourcePatches::SourceRange SourcePatches::CounterpartOf(const PageEdit &edit) const {
+  SourceRange range;
+  for (Number at = edit.before; at < edit.beforeEnd; ++at) {
+    const Number source = CounterpartAnywhere(at);
+    if (source <= range.last) continue;
+    if (range.IsEmpty()) range.first = source;
+    range.last = source;
+  }
+  return range;
+}
+
+QStringView SourcePatches::ImpliedLeftOf(const PageEdit &edit) const {
+  Number left = edit.before;
+  while (left > 0 && CounterpartAnywhere(left - 1) < 0) --left;
+  return before_.Slice(left, edit.before);
+}
+
+QStringView SourcePatches::ImpliedRightOf(const PageEdit &edit) const {
+  Number right = edit.beforeEnd;
+  while (right < before_.Count() && CounterpartAnywhere(right) < 0) ++right;
+  return before_.Slice(edit.beforeEnd, right);
+}
+
+/// Where the source gets what is inserted by an edit that takes nothing of it away.
+qsizetype SourcePatches::InsertionPlace(const PageEdit &edit) const {
+  Number left = edit.before;
+  while (left > 0 && CounterpartAnywhere(left - 1) < 0) --left;
+  // Between an implied tag and what the parser moved here, the place is where that came from.
+  const Number next = edit.beforeEnd;
+  if (left < edit.before && next < before_.Count() && moved_[Index(next)] >= 0)
+    return source_.At(moved_[Index(next)]).offset;
+  return left > 0 ? source_.At(CounterpartAnywhere(left - 1)).End() : 0;
+}
+
+bool SourcePatches::EndsLike(Number before, Number source) const {
+  const HtmlToken &one = before_.At(before);
+  const HtmlToken &other = source_.At(source);
+  return one.kind == HtmlTokenKind::EndTag && other.kind == HtmlTokenKind::EndTag &&
+         one.name == other.name;
+}
+
+QString SourcePatches::WithPageLineEnds(QStringView text) const {
   return WithLineEnds(text.toString(), lineEnds_);
 }
 
-std::optional<std::vector<TextPatch>> SourcePatches::For(
+std::optional<std::vector<TextPatch>> SourcePatches::PatchesFor(
+    const std::vector<PageEdit> &edits, const std::vector<PatchStep> &steps) const {
+  const auto regions = RegionsFor(edits, steps);
+  if (!regions) return std::nullopt;
+  Patches patches;
+  for (const Region &region : *regions) RegionWriter(*this, region, patches).Run();
+  for (std::size_t number = 0; number < edits.size(); ++number) {
+    const PageEdit &edit = edits[number];
+    if (std::any_of(regions->begin(), regions->end(),
+                    [&](const Region &region) { return region.Holds(edit.now, edit.nowEnd); }))
+      continue;
+    if (edit.isTagChange && CounterpartAnywhere(edit.before) >= 0)
+      PatchTagAt(CounterpartAnywhere(edit.before), edit, patches);
+    else
+      PatchStretch(edit, steps[number].rung, patches);
+  }
+  std::stable_sort(patches.begin(), patches.end(), [](const TextPatch &a, const TextPatch &b) {
+    return a.start != b.start ? a.start < b.start : a.end < b.end;
+  });
+  if (Overlap(patches)) return std::nullopt;
+  return patches;
+}
+
+std::optional<std::vector<SourcePatches::Region>> SourcePatches::RegionsFor(
     const std::vector<PageEdit> &edits, const std::vector<PatchStep> &steps) const {
   std::vector<Region> regions;
   for (std::size_t number = 0; number < edits.size(); ++number) {
-    const int outwards = steps[number].number - PatchStep::element;
-    if (outwards < 0) continue;
-    const auto region = RegionOf(edits[number], outwards);
+    if (steps[number].rung != PatchRung::EnclosingElement) continue;
+    const auto region = RegionOf(edits[number], steps[number].outwards);
     if (!region) return std::nullopt;
     const auto holds = [](const Region &outer, const Region &inner) {
       return outer.Holds(inner.from, inner.to);
@@ -166,30 +278,25 @@ std::optional<std::vector<TextPatch>> SourcePatches::For(
     std::erase_if(regions, [&](const Region &other) { return holds(*region, other); });
     regions.push_back(*region);
   }
-  Patches patches;
-  for (const Region &region : regions) Explicit(region, patches);
-  for (std::size_t number = 0; number < edits.size(); ++number) {
-    const PageEdit &edit = edits[number];
-    if (std::any_of(regions.begin(), regions.end(),
-                    [&](const Region &region) { return region.Holds(edit.now, edit.nowEnd); }))
-      continue;
-    if (edit.isTagChange && Anywhere(edit.before) >= 0)
-      Tag(Anywhere(edit.before), edit, patches);
-    else
-      Stretch(edit, steps[number], patches);
-  }
-  std::stable_sort(patches.begin(), patches.end(), [](const TextPatch &a, const TextPatch &b) {
-    return a.start != b.start ? a.start < b.start : a.end < b.end;
-  });
-  for (std::size_t number = 1; number < patches.size(); ++number) {
-    if (patches[number].start < patches[number - 1].end) return std::nullopt;
-  }
-  return patches;
+  return regions;
 }
 
+std::optional<SourcePatches::Region> SourcePatches::RegionOf(const PageEdit &edit,
+                                                             int outwards) const {
+  for (const ElementTags &element : EnclosingElements(now_, edit.now, edit.nowEnd)) {
+    const Number start = beforeToNow_.fromOther[Index(element.start)];
+    const Number end = beforeToNow_.fromOther[Index(element.end)];
+    if (start < 0 || end < 0 || CounterpartInOrder(start) < 0) continue;
+    if (edit.before <= start || edit.beforeEnd > end || EndTagOf(before_, start) != end) continue;
+    if (outwards-- == 0) return Region{element.start + 1, element.end};
+  }
+  if (outwards-- == 0) return Region{0, now_.Count()};
+  return std::nullopt;
+}
+
+/// Leaves out of the patch what it shares with the source at both ends.
 void SourcePatches::Replace(qsizetype start, qsizetype end, const QString &text,
                             Patches &out) const {
-  // What patch and source share at both ends stays the source's own.
   const QStringView old = QStringView(source_.text).sliced(start, end - start);
   QStringView fresh = text;
   qsizetype front = 0;
@@ -205,57 +312,44 @@ void SourcePatches::Replace(qsizetype start, qsizetype end, const QString &text,
   out.push_back({start + front, end - back, fresh.toString()});
 }
 
-void SourcePatches::Tag(Number source, const PageEdit &edit, Patches &out) const {
+void SourcePatches::PatchTagAt(Number source, const PageEdit &edit, Patches &out) const {
   const HtmlToken &token = source_.At(source);
   const TagTexts texts{QStringView(source_.text).sliced(0, token.End()),
                        before_.Slice(edit.before, edit.beforeEnd),
                        now_.Slice(edit.now, edit.nowEnd)};
   for (const TextPatch &patch : PatchTag(texts, token.offset))
-    Replace(patch.start, patch.end, InPageForm(patch.text), out);
+    Replace(patch.start, patch.end, WithPageLineEnds(patch.text), out);
 }
 
-void SourcePatches::Stretch(const PageEdit &edit, PatchStep step, Patches &out) const {
-  Number first = -1;
-  Number last = -1;
-  for (Number at = edit.before; at < edit.beforeEnd; ++at) {
-    const Number source = Anywhere(at);
-    // What the parser moved counts as long as it is in order.
-    if (source < 0 || source <= last) continue;
-    if (first < 0) first = source;
-    last = source;
+/// Writes the stretch of source that an edit replaces anew.
+void SourcePatches::PatchStretch(const PageEdit &edit, PatchRung rung, Patches &out) const {
+  const SourceRange range = CounterpartOf(edit);
+  const QStringView left = rung == PatchRung::EditAlone ? QStringView() : ImpliedLeftOf(edit);
+  const QStringView right =
+      rung == PatchRung::ImpliedTagsAround ? ImpliedRightOf(edit) : QStringView();
+  if (left.isEmpty() && right.isEmpty() && IsTextForText(range, edit))
+    return PatchCharacters(range, edit, out);
+  const QStringView fresh = now_.Slice(edit.now, edit.nowEnd);
+  QString text = WithPageLineEnds(left.toString() + fresh.toString() + right.toString());
+  if (range.IsEmpty()) {
+    const qsizetype place = InsertionPlace(edit);
+    return Replace(place, place, text, out);
   }
-  Number left = edit.before;
-  while (left > 0 && Anywhere(left - 1) < 0) --left;
-  QString text;
-  QStringView behind;
-  if (step.number >= PatchStep::withImpliedTags) text += before_.Slice(left, edit.before);
-  if (step.number == PatchStep::withTagsBeside) {
-    Number right = edit.beforeEnd;
-    while (right < before_.Count() && Anywhere(right) < 0) ++right;
-    behind = before_.Slice(edit.beforeEnd, right);
-  }
-  if (first >= 0 && text.isEmpty() && behind.isEmpty() && Characters(first, last, edit, out))
-    return;
-  text = InPageForm(text + now_.Slice(edit.now, edit.nowEnd).toString() + behind.toString());
-  if (first < 0) {
-    qsizetype place = left > 0 ? source_.At(Anywhere(left - 1)).End() : 0;
-    // Between an implied tag and what the parser moved here, the place is where that came from.
-    const Number next = edit.beforeEnd;
-    if (left < edit.before && next < before_.Count() && moved_[Index(next)] >= 0)
-      place = source_.At(moved_[Index(next)]).offset;
-    Replace(place, place, text, out);
-    return;
-  }
-  qsizetype end = source_.At(last).End();
+  qsizetype end = source_.At(range.last).End();
   // Where an end tag is needed in place of the same one that goes, that one stays.
-  if (!text.isEmpty() && behind.isEmpty() && edit.now == edit.nowEnd &&
-      IsEndOfSame(edit.before - 1, last)) {
+  if (!text.isEmpty() && right.isEmpty() && fresh.isEmpty() &&
+      EndsLike(edit.before - 1, range.last)) {
     text.chop(before_.At(edit.before - 1).length);
-    end = source_.At(last).offset;
+    end = source_.At(range.last).offset;
   }
-  // Tags of the page's frame that only the source has stay where they are.
-  qsizetype start = source_.At(first).offset;
-  for (Number at = first; at <= last; ++at) {
+  ReplaceBesideFrameTags(range, end, std::move(text), out);
+}
+
+/// Tags of the page's frame that only the source has stay where they are.
+void SourcePatches::ReplaceBesideFrameTags(SourceRange range, qsizetype end, QString text,
+                                           Patches &out) const {
+  qsizetype start = source_.At(range.first).offset;
+  for (Number at = range.first; at <= range.last; ++at) {
     const HtmlToken &token = source_.At(at);
     if (!IsFrameTag(token) || sourceToBefore_.toOther[Index(at)] >= 0) continue;
     Replace(start, token.offset, std::exchange(text, QString()), out);
@@ -264,119 +358,24 @@ void SourcePatches::Stretch(const PageEdit &edit, PatchStep step, Patches &out) 
   Replace(start, end, text, out);
 }
 
-bool SourcePatches::IsEndOfSame(Number before, Number source) const {
-  const HtmlToken &one = before_.At(before);
-  const HtmlToken &other = source_.At(source);
-  return one.kind == HtmlTokenKind::EndTag && other.kind == HtmlTokenKind::EndTag &&
-         one.name == other.name;
-}
-
-/// Text for text: references of the source that the edit did not touch stay as they are written.
-bool SourcePatches::Characters(Number first, Number last, const PageEdit &edit,
-                               Patches &out) const {
-  if (edit.now == edit.nowEnd) return false;
-  for (Number at = first; at <= last; ++at) {
+bool SourcePatches::IsTextForText(SourceRange range, const PageEdit &edit) const {
+  if (range.IsEmpty() || edit.now == edit.nowEnd) return false;
+  for (Number at = range.first; at <= range.last; ++at) {
     if (!source_.At(at).IsText()) return false;
   }
   for (Number at = edit.now; at < edit.nowEnd; ++at) {
     if (!now_.At(at).IsText()) return false;
   }
-  const qsizetype place = source_.At(first).offset;
-  const QStringView old = source_.Slice(first, last + 1);
-  const QStringView fresh = now_.Slice(edit.now, edit.nowEnd);
-  const std::vector<TextCharacter> olds = CharactersOf(old);
-  const std::vector<TextCharacter> news = CharactersOf(fresh);
-  const std::size_t shorter = std::min(olds.size(), news.size());
-  std::size_t front = 0;
-  qsizetype oldFront = 0;
-  qsizetype newFront = 0;
-  while (front < shorter && olds[front].Means(news[front])) {
-    oldFront += olds[front].length;
-    newFront += news[front].length;
-    ++front;
-  }
-  qsizetype oldBack = old.size();
-  qsizetype newBack = fresh.size();
-  for (std::size_t back = 1; back <= shorter - front; ++back) {
-    const TextCharacter &a = olds[olds.size() - back];
-    const TextCharacter &b = news[news.size() - back];
-    if (!a.Means(b)) break;
-    oldBack -= a.length;
-    newBack -= b.length;
-  }
-  Replace(place + oldFront, place + oldBack, InPageForm(fresh.sliced(newFront, newBack - newFront)),
-          out);
   return true;
 }
 
-std::optional<SourcePatches::Region> SourcePatches::RegionOf(const PageEdit &edit,
-                                                             int outwards) const {
-  for (const OpenElement &element : Around(now_, edit.now, edit.nowEnd)) {
-    const Number start = beforeToNow_.fromOther[Index(element.start)];
-    const Number end = beforeToNow_.fromOther[Index(element.end)];
-    if (start < 0 || end < 0 || InPlace(start) < 0) continue;
-    if (edit.before <= start || edit.beforeEnd > end || EndOfElement(before_, start) != end)
-      continue;
-    if (outwards-- == 0) return Region{element.start + 1, element.end};
-  }
-  if (outwards-- == 0) return Region{0, now_.Count()};
-  return std::nullopt;
-}
-
-/// Whether a token of the source stands beside the page's frame, with nothing but blanks between.
-bool SourcePatches::IsAtFrame(Number source) const {
-  Number back = source;
-  while (back >= 0 && IsBlank(source_.At(back))) --back;
-  Number ahead = source;
-  while (ahead < source_.Count() && IsBlank(source_.At(ahead))) ++ahead;
-  const auto isFrame = [](const HtmlToken &token) {
-    return IsFrameTag(token) || token.kind == HtmlTokenKind::Doctype;
-  };
-  return back < 0 || ahead == source_.Count() || isFrame(source_.At(back)) ||
-         isFrame(source_.At(ahead));
-}
-
-/// Gives the source of a region the tokens that the document has now, each as the source writes it
-/// where the source has it.
-void SourcePatches::Explicit(Region region, Patches &out) const {
-  const bool isPage = region.from == 0;
-  qsizetype done = isPage ? 0 : source_.At(InPlaceOfNow(region.from - 1)).End();
-  Number next = isPage ? 0 : InPlaceOfNow(region.from - 1) + 1;  // the source's next token
-  QString added;
-  const auto closeGap = [&](Number source, qsizetype end) {
-    QString kept;
-    bool isKept = true;
-    for (; next < source; ++next) {
-      const HtmlToken &token = source_.At(next);
-      // What the edit took away goes. The page's frame and the blanks around it stay; what else
-      // the parser ignored, or moved, could count now.
-      const bool isIgnored = sourceToBefore_.toOther[Index(next)] < 0;
-      const bool stays = isIgnored && (IsFrameTag(token) || (IsBlank(token) && IsAtFrame(next)));
-      isKept = isKept && stays;
-      if (stays) kept += source_.Slice(next, next + 1);
-    }
-    if (!isKept || !added.isEmpty()) Replace(done, end, kept + InPageForm(added), out);
-    added.clear();
-  };
-  for (Number at = region.from; at < region.to; ++at) {
-    const HtmlToken &token = now_.At(at);
-    const Number source = InPlaceOfNow(at);
-    if (source < 0) {
-      const bool isImpliedAnyway = token.kind == HtmlTokenKind::EndTag && IsFrameTag(token);
-      if (!isImpliedAnyway) added += now_.Slice(at, at + 1);
-      continue;
-    }
-    closeGap(source, source_.At(source).offset);
-    const Number before = beforeToNow_.fromOther[Index(at)];
-    if (before_.At(before).key != token.key)
-      Tag(source, {before, before + 1, at, at + 1, true}, out);
-    done = source_.At(source).End();
-    next = source + 1;
-  }
-  if (isPage) return closeGap(source_.Count(), source_.text.size());
-  const Number end = InPlaceOfNow(region.to);
-  if (end < 0) added += now_.Slice(region.to, region.to + 1);
-  closeGap(end < 0 ? next : end, end < 0 ? done : source_.At(end).offset);
+/// References of the source that the edit did not touch stay as they are written.
+void SourcePatches::PatchCharacters(SourceRange range, const PageEdit &edit, Patches &out) const {
+  const qsizetype place = source_.At(range.first).offset;
+  const QStringView fresh = now_.Slice(edit.now, edit.nowEnd);
+  const SharedEnds shared(source_.Slice(range.first, range.last + 1), fresh);
+  Replace(place + shared.oldFront, place + shared.oldBack,
+          WithPageLineEnds(fresh.sliced(shared.newFront, shared.newBack - shared.newFront)), out);
 }
 
 }  // namespace velor

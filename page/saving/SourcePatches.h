@@ -10,54 +10,79 @@
 
 namespace velor {
 
-/// How much is written for one edit. Each step writes more than the one before.
-struct PatchStep {
-  /// 0: the edit alone. 1: also the tags that the parser implied left of it. 2: and those right of
-  /// it, where something that goes was open there again. From 3 on, one step an element outwards:
-  /// the elements around it get every tag that the parser implied in them, and lose those that it
-  /// ignored. The last: so does the whole page.
-  int number = 0;
-
-  static constexpr int alone = 0;
-  static constexpr int withImpliedTags = 1;
-  static constexpr int withTagsBeside = 2;
-  static constexpr int element = 3;
+/// How much of the source is written for one edit. Each rung writes more than the one before.
+enum class PatchRung {
+  EditAlone,
+  /// Also the tags that the parser implied left of the edit.
+  ImpliedTagsLeft,
+  /// And those right of it, where something that is taken away was still open there.
+  ImpliedTagsAround,
+  /// The content of an element around the edit: it gets every tag that the parser implied in it and
+  /// loses what the parser ignored. The outermost element is the page itself.
+  EnclosingElement,
 };
 
-/// Carries edits of a document over into its source.
+/// A rung for one edit; at EnclosingElement also which element, 0 for the innermost.
+struct PatchStep {
+  PatchRung rung = PatchRung::EditAlone;
+  int outwards = 0;
+
+  void Escalate();
+};
+
+/// Turns edits of a document into patches of its source.
 class SourcePatches {
  public:
-  /// All texts outlive this object. `sourceOfBefore`: the source's tokens by those of `before`.
+  /// `source` is the text that the engine was given, `before` its serialisation right after
+  /// loading, `now` the one now. All arguments outlive this object.
   SourcePatches(const TokenText &source, const TokenText &before, const TokenText &now,
                 const TokenAlignment &sourceToBefore, const TokenAlignment &beforeToNow,
                 LineEnds lineEnds);
 
-  /// The patches for all edits, each with its step, in order. Nothing where an edit has no such
-  /// step: then everything is to be written anew.
-  std::optional<std::vector<TextPatch>> For(const std::vector<PageEdit> &edits,
-                                            const std::vector<PatchStep> &steps) const;
+  /// The patches for all edits, each with the step of its number, in order and without overlap.
+  /// Nothing where an edit has no such step: then the whole page is to be written anew.
+  std::optional<std::vector<TextPatch>> PatchesFor(const std::vector<PageEdit> &edits,
+                                                   const std::vector<PatchStep> &steps) const;
 
  private:
-  /// The content of an element now: the tokens between its tags; of the page: all tokens.
-  struct Region {
-    std::int32_t from = 0;
-    std::int32_t to = 0;
-    bool Holds(std::int32_t first, std::int32_t last) const { return from <= first && last <= to; }
-  };
+  using Number = std::int32_t;
   using Patches = std::vector<TextPatch>;
 
-  std::int32_t InPlace(std::int32_t before) const;
-  std::int32_t Anywhere(std::int32_t before) const;
-  std::int32_t InPlaceOfNow(std::int32_t now) const;
-  void Tag(std::int32_t source, const PageEdit &edit, Patches &out) const;
-  void Stretch(const PageEdit &edit, PatchStep step, Patches &out) const;
-  std::optional<Region> RegionOf(const PageEdit &edit, int ancestor) const;
-  void Explicit(Region region, Patches &out) const;
-  bool IsEndOfSame(std::int32_t before, std::int32_t source) const;
-  bool IsAtFrame(std::int32_t source) const;
-  bool Characters(std::int32_t first, std::int32_t last, const PageEdit &edit, Patches &out) const;
+  /// The content of an element of `now`: the tokens between its tags; of the page: all tokens.
+  struct Region {
+    Number from = 0;
+    Number to = 0;
+    bool Holds(Number first, Number last) const { return from <= first && last <= to; }
+  };
+  /// Tokens of the source, both ends included; `first` is -1 for none.
+  struct SourceRange {
+    Number first = -1;
+    Number last = -1;
+    bool IsEmpty() const { return first < 0; }
+  };
+  class RegionWriter;
+
+  Number CounterpartInOrder(Number before) const;
+  Number CounterpartAnywhere(Number before) const;
+  Number CounterpartOfNow(Number now) const;
+  SourceRange CounterpartOf(const PageEdit &edit) const;
+  QStringView ImpliedLeftOf(const PageEdit &edit) const;
+  QStringView ImpliedRightOf(const PageEdit &edit) const;
+  qsizetype InsertionPlace(const PageEdit &edit) const;
+  bool EndsLike(Number before, Number source) const;
+
+  /// Nothing where one of the edits has no element that far out.
+  std::optional<std::vector<Region>> RegionsFor(const std::vector<PageEdit> &edits,
+                                                const std::vector<PatchStep> &steps) const;
+  std::optional<Region> RegionOf(const PageEdit &edit, int outwards) const;
+
+  void PatchTagAt(Number source, const PageEdit &edit, Patches &out) const;
+  void PatchStretch(const PageEdit &edit, PatchRung rung, Patches &out) const;
+  bool IsTextForText(SourceRange range, const PageEdit &edit) const;
+  void PatchCharacters(SourceRange range, const PageEdit &edit, Patches &out) const;
+  void ReplaceBesideFrameTags(SourceRange range, qsizetype end, QString text, Patches &out) const;
   void Replace(qsizetype start, qsizetype end, const QString &text, Patches &out) const;
-  QString InPageForm(QStringView text) const;
+  QString WithPageLineEnds(QStringView text) const;
 
   const TokenText &source_;
   const TokenText &before_;
@@ -65,8 +90,7 @@ class SourcePatches {
   const TokenAlignment &sourceToBefore_;
   const TokenAlignment &beforeToNow_;
   LineEnds lineEnds_;
-  /// The source's tokens by those of `before` that the parser moved elsewhere; -1 for none.
-  std::vector<std::int32_t> moved_;
+  std::vector<Number> moved_;  ///< FindMovedTokens of source and before
 };
 
 }  // namespace velor

@@ -10,10 +10,10 @@ namespace {
 
 using Number = std::int32_t;
 
-/// A stretch is given up, and what was found of it kept, when it needs more steps than this.
-constexpr Number longestWay = 1000;
-/// Gaps larger than this (one side times the other) hold no tags worth pairing.
-constexpr std::size_t largestGap = 250'000;
+/// Most insertions and deletions in one stretch; past them the best way so far is taken.
+constexpr Number LongestWay = 1000;
+/// Largest gap, one side's tags times the other's, in which tags are paired by name.
+constexpr std::size_t LargestGap = 250'000;
 
 struct Place {
   Number one = 0;
@@ -40,7 +40,7 @@ class Aligner {
       if (Same(at))
         Pair(at.one++, at.other++);
       else
-        at = Stretch(at);
+        at = CrossStretch(at);
     }
     PairTagsInGaps();
     return std::move(result_);
@@ -59,10 +59,10 @@ class Aligner {
   /// Myers' greedy search from a mismatch until the texts are in step again; pairs what lies on the
   /// way and returns its end. `ways[d]` holds, by diagonal (one - other) from -d to d, how far in
   /// `one` a way with d steps gets.
-  Place Stretch(Place start) {
+  Place CrossStretch(Place start) {
     std::vector<std::vector<Number>> ways;
     Number bestDiagonal = 0;
-    for (Number d = 0; d <= longestWay; ++d) {
+    for (Number d = 0; d <= LongestWay; ++d) {
       std::vector<Number> &way = ways.emplace_back(static_cast<std::size_t>(2 * d + 1), -1);
       Number furthest = -1;
       for (Number diagonal = -d; diagonal <= d; diagonal += 2) {
@@ -76,14 +76,14 @@ class Aligner {
         }
         way[static_cast<std::size_t>(diagonal + d)] = at.one;
         const bool isThere = at.one == end_.one && at.other == end_.other;
-        if (isThere || strong >= inStep_) return Follow(ways, d, diagonal, start);
+        if (isThere || strong >= inStep_) return PairAlong(ways, d, diagonal, start);
         if (at.one + at.other > furthest) {
           furthest = at.one + at.other;
           bestDiagonal = diagonal;
         }
       }
     }
-    return Follow(ways, longestWay, bestDiagonal, start);
+    return PairAlong(ways, LongestWay, bestDiagonal, start);
   }
 
   static Number Reach(const std::vector<std::vector<Number>> &ways, Number d, Number diagonal) {
@@ -104,8 +104,9 @@ class Aligner {
     return {one, one - diagonal - start.one + start.other};
   }
 
-  Place Follow(const std::vector<std::vector<Number>> &ways, Number d, Number diagonal,
-               Place start) {
+  /// Pairs the equal tokens on a way found, from its end back to `start`.
+  Place PairAlong(const std::vector<std::vector<Number>> &ways, Number d, Number diagonal,
+                  Place start) {
     const Number one = Reach(ways, d, diagonal);
     const Place end{one, one - diagonal - start.one + start.other};
     Place at = end;
@@ -146,7 +147,7 @@ class Aligner {
   void PairTags(Place from, Place to) {
     const std::vector<Number> ones = Tags(one_, from.one, to.one);
     const std::vector<Number> others = Tags(other_, from.other, to.other);
-    if (ones.empty() || others.empty() || ones.size() * others.size() > largestGap) return;
+    if (ones.empty() || others.empty() || ones.size() * others.size() > LargestGap) return;
     const auto sameName = [&](std::size_t i, std::size_t j) {
       const HtmlToken &a = one_[static_cast<std::size_t>(ones[i])];
       const HtmlToken &b = other_[static_cast<std::size_t>(others[j])];

@@ -16,13 +16,13 @@ struct TokenAlignment {
   std::vector<std::int32_t> fromOther;  ///< by number in the second text
 };
 
-/// After so many tags and long words in a row that agree two texts count as in step again. Few for
-/// a text and its own serialisation, which never move far apart; more for an edit, which may have
+/// The number of equal strong tokens in a row after which two texts count as in step again: few for
+/// a page and its own serialisation, which never move far apart; more for an edit, which may have
 /// repeated what stands beside it.
 enum class InStep : int { WithSerialisation = 8, WithEdit = 24 };
 
-/// The shortest way from one text to the other, stretch by stretch: time grows with the lengths and
-/// with the square of the distance within a stretch, which is bounded.
+/// Aligns two texts by Myers' difference algorithm, one stretch that differs at a time. Time grows
+/// with the lengths, and with the square of the differences within a stretch, which is bounded.
 TokenAlignment AlignTokens(const std::vector<HtmlToken> &one, const std::vector<HtmlToken> &other,
                            InStep inStep);
 

@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::array scriptWords = {
+constexpr std::array ScriptWords = {
     "async"sv,    "await"sv,      "break"sv,   "case"sv,   "catch"sv,    "class"sv, "const"sv,
     "continue"sv, "debugger"sv,   "default"sv, "delete"sv, "do"sv,       "else"sv,  "export"sv,
     "extends"sv,  "false"sv,      "finally"sv, "for"sv,    "function"sv, "if"sv,    "import"sv,
@@ -23,7 +23,7 @@ constexpr std::array scriptWords = {
     "typeof"sv,   "undefined"sv,  "var"sv,     "void"sv,   "while"sv,    "with"sv,  "yield"sv};
 
 /// Of PHP and VBScript, in lower case: their case means nothing there.
-constexpr std::array serverWords = {
+constexpr std::array ServerWords = {
     "and"sv,        "array"sv,   "as"sv,       "break"sv,        "by"sv,           "byref"sv,
     "byval"sv,      "call"sv,    "case"sv,     "catch"sv,        "class"sv,        "const"sv,
     "continue"sv,   "default"sv, "die"sv,      "dim"sv,          "do"sv,           "each"sv,
@@ -39,7 +39,7 @@ constexpr std::array serverWords = {
     "until"sv,      "use"sv,     "var"sv,      "wend"sv,         "while"sv,        "with"sv,
     "xor"sv};
 
-static_assert(std::ranges::is_sorted(scriptWords) && std::ranges::is_sorted(serverWords));
+static_assert(std::ranges::is_sorted(ScriptWords) && std::ranges::is_sorted(ServerWords));
 
 /// What goes on over the line's end.
 enum class Open { Nothing, Comment, Template, DoubleQuoted, SingleQuoted };
@@ -168,7 +168,7 @@ class ScriptLine final : public CodeLine {
   using CodeLine::CodeLine;
 
  private:
-  bool IsKeyword(QByteArrayView word) const override { return Has(scriptWords, word); }
+  bool IsKeyword(QByteArrayView word) const override { return Has(ScriptWords, word); }
 
   bool ReadOwn() override {
     if (Next() == '`') {
@@ -212,7 +212,7 @@ class ServerLine final : public CodeLine {
 
  private:
   bool IsKeyword(QByteArrayView word) const override {
-    return Has(serverWords, word.toByteArray().toLower());
+    return Has(ServerWords, word.toByteArray().toLower());
   }
 
   /// "#", and an apostrophe that has no partner in its line, begin a comment.

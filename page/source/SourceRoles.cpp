@@ -34,7 +34,7 @@ struct TextElement {
 };
 
 /// A line's state counts them from 1.
-constexpr std::array<TextElement, 8> textElements = {{{"script", Inside::Script},
+constexpr std::array<TextElement, 8> TextElements = {{{"script", Inside::Script},
                                                       {"style", Inside::StyleSheet},
                                                       {"title", Inside::References},
                                                       {"textarea", Inside::References},
@@ -42,7 +42,7 @@ constexpr std::array<TextElement, 8> textElements = {{{"script", Inside::Script}
                                                       {"iframe", Inside::Raw},
                                                       {"noembed", Inside::Raw},
                                                       {"noframes", Inside::Raw}}};
-constexpr int TextElementCount = static_cast<int>(textElements.size());
+constexpr int TextElementCount = static_cast<int>(TextElements.size());
 
 struct ServerMark {
   QByteArrayView opening;
@@ -50,12 +50,12 @@ struct ServerMark {
 };
 
 /// The short form of PHP's comes last, since the others begin like it.
-constexpr std::array<ServerMark, 4> serverMarks = {
+constexpr std::array<ServerMark, 4> ServerMarks = {
     {{"<%", "%>"}, {"<?php", "?>"}, {"<?=", "?>"}, {"<? ", "?>"}}};
-constexpr int ServerMarkCount = static_cast<int>(serverMarks.size());
+constexpr int ServerMarkCount = static_cast<int>(ServerMarks.size());
 
 /// What a script has to be told as for its lines to be read as script.
-constexpr std::array<QByteArrayView, 5> scriptTypes = {"javascript", "ecmascript", "jscript",
+constexpr std::array<QByteArrayView, 5> ScriptTypes = {"javascript", "ecmascript", "jscript",
                                                        "module", "json"};
 
 /// Packed into a SourceLineState, the lowest bits first.
@@ -193,10 +193,10 @@ class Line {
     const qsizetype end = NameEnd(name);
     const QByteArray lower = line_.sliced(name, end - name).toByteArray().toLower();
     const auto *const element =
-        std::ranges::find(textElements, QByteArrayView(lower), &TextElement::name);
-    const bool holdsText = !isEnd && element != textElements.end();
+        std::ranges::find(TextElements, QByteArrayView(lower), &TextElement::name);
+    const bool holdsText = !isEnd && element != TextElements.end();
     state_.mode = Mode::Tag;
-    state_.element = holdsText ? static_cast<int>(element - textElements.begin()) + 1 : 0;
+    state_.element = holdsText ? static_cast<int>(element - TextElements.begin()) + 1 : 0;
     state_.isData = false;
     Take(SourceRole::Tag, end);
   }
@@ -251,7 +251,7 @@ class Line {
     isType_ = false;
     const QByteArray type = line_.sliced(at_, end - at_).toByteArray().toLower();
     state_.isData = std::ranges::none_of(
-        scriptTypes, [&type](QByteArrayView known) { return type.contains(known); });
+        ScriptTypes, [&type](QByteArrayView known) { return type.contains(known); });
   }
 
   void TakeThrough(QByteArrayView closing, SourceRole role) {
@@ -263,7 +263,7 @@ class Line {
   // The inside of elements that hold text
 
   const TextElement &Element() const {
-    return textElements.at(static_cast<std::size_t>(std::max(state_.element, 1) - 1));
+    return TextElements.at(static_cast<std::size_t>(std::max(state_.element, 1) - 1));
   }
 
   bool IsEndTagOfElement(qsizetype at) const {
@@ -307,7 +307,7 @@ class Line {
 
   int ServerMarkAt(qsizetype at) const {
     for (int mark = 0; mark < ServerMarkCount; ++mark) {
-      if (BeginsWith(line_, at, serverMarks.at(static_cast<std::size_t>(mark)).opening))
+      if (BeginsWith(line_, at, ServerMarks.at(static_cast<std::size_t>(mark)).opening))
         return mark;
     }
     // PHP's short mark before a line's end.
@@ -324,14 +324,14 @@ class Line {
     state_.mode = Mode::Server;
     state_.inner = 0;
     state_.serverMark = mark;
-    const auto &opening = serverMarks.at(static_cast<std::size_t>(mark)).opening;
+    const auto &opening = ServerMarks.at(static_cast<std::size_t>(mark)).opening;
     Take(SourceRole::Tag, std::min(at_ + opening.size(), line_.size()));
     return true;
   }
 
   void ReadServerCode() {
     const QByteArrayView closing =
-        serverMarks.at(static_cast<std::size_t>(state_.serverMark)).closing;
+        ServerMarks.at(static_cast<std::size_t>(state_.serverMark)).closing;
     const qsizetype found = line_.indexOf(closing, at_);
     const qsizetype end = found < 0 ? line_.size() : found;
     state_.inner = RolesOfServerCode(line_.sliced(at_, end - at_), state_.inner, roles_ + at_);

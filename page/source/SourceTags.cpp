@@ -19,8 +19,8 @@ std::uint32_t KeyOf(QByteArrayView name) {
 
 bool IsTextElement(QByteArrayView name) {
   const std::uint32_t key = KeyOf(name);
-  return elements::IsOneOf(key, elements::rawElements) ||
-         elements::IsOneOf(key, elements::titleElements);
+  return elements::IsOneOf(key, elements::RawElements) ||
+         elements::IsOneOf(key, elements::TitleElements);
 }
 
 qsizetype Find(QByteArrayView source, char wanted, qsizetype from) {
@@ -134,7 +134,7 @@ std::vector<SourceStretch> FoldableStretches(QByteArrayView source) {
 }
 
 bool IsVoidElement(QByteArrayView name) {
-  return elements::IsOneOf(KeyOf(name), elements::voidElements);
+  return elements::IsOneOf(KeyOf(name), elements::VoidElements);
 }
 
 void VisitTags(QByteArrayView source, const std::function<bool(const SourceTag &)> &visit) {

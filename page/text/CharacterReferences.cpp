@@ -17,7 +17,7 @@ namespace {
 constexpr char32_t Replacement = 0xFFFD;
 
 /// What the numbers 128 to 159 stand for: characters of windows-1252, as old programs meant them.
-constexpr char32_t oldNumbers[] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+constexpr char32_t OldNumbers[] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
                                    0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
@@ -35,7 +35,7 @@ struct NameTable {
 const NameTable &Names() {
   static const NameTable table = [] {
     NameTable made;
-    for (const char *const *row = namedReferences; *row != nullptr; ++row) {
+    for (const char *const *row = NamedReferences; *row != nullptr; ++row) {
       for (const QByteArray &entry : QByteArray(*row).split(' ')) {
         const qsizetype sign = entry.indexOf('=');
         const QList<QByteArray> codes = entry.mid(sign + 1).split(',');
@@ -62,7 +62,7 @@ int DigitOf(QChar unit, int base) {
 }
 
 char32_t CharacterOfNumber(char32_t number) {
-  if (number >= 0x80 && number < 0x80 + std::size(oldNumbers)) return oldNumbers[number - 0x80];
+  if (number >= 0x80 && number < 0x80 + std::size(OldNumbers)) return OldNumbers[number - 0x80];
   const bool isSurrogate = number >= 0xD800 && number <= 0xDFFF;
   return number == 0 || number > QChar::LastValidCodePoint || isSurrogate ? Replacement : number;
 }

@@ -7,6 +7,7 @@ namespace {
 
 constexpr char16_t Replacement = 0xFFFD;
 constexpr char Escape = '\x1b';
+constexpr qsizetype EscapeLength = 3;
 
 constexpr bool IsAscii(unsigned char byte) {
   return byte < 0x80;
@@ -137,9 +138,12 @@ class Decoder {
     Take(character != 0 ? character : Replacement, 4);
   }
 
+  /// What an escape sequence of ISO-2022-JP sets; None for bytes that are no such sequence.
+  enum class State { None, Ascii, Roman, Katakana, Kanji };
+  static State StateOf(QByteArrayView rest);
   void RunWithStates();
-  /// The escape sequence at hand; 0 for what is none.
-  char StateOf(QByteArrayView rest) const;
+  void TakeIn(State state);
+  void TakeKanji();
 
   CharsetForm form_;
   const CharsetIndex &index_;
@@ -148,56 +152,60 @@ class Decoder {
   qsizetype at_ = 0;
 };
 
-char Decoder::StateOf(QByteArrayView rest) const {
-  if (rest.startsWith("\x1b(")) {
-    const char last = rest.size() > 2 ? rest[2] : '\0';
-    return last == 'B' || last == 'J' || last == 'I' ? last : '\0';
-  }
-  return rest.startsWith("\x1b$@") || rest.startsWith("\x1b$B") ? '$' : '\0';
+Decoder::State Decoder::StateOf(QByteArrayView rest) {
+  if (rest.startsWith("\x1b(B")) return State::Ascii;
+  if (rest.startsWith("\x1b(J")) return State::Roman;
+  if (rest.startsWith("\x1b(I")) return State::Katakana;
+  const bool isKanji = rest.startsWith("\x1b$@") || rest.startsWith("\x1b$B");
+  return isKanji ? State::Kanji : State::None;
 }
 
 void Decoder::RunWithStates() {
-  char state = 'B';
+  State state = State::Ascii;
   bool isAfterEscape = false;
   while (at_ < bytes_.size()) {
-    const unsigned char byte = Byte(0);
-    if (bytes_[at_] == Escape) {
-      const char next = StateOf(bytes_.sliced(at_));
-      if (next == '\0') {
-        isAfterEscape = false;
-        Take(Replacement, 1);
-        continue;
-      }
-      // Two in a row hide something.
-      if (isAfterEscape) sink_.Put(Replacement, at_);
-      isAfterEscape = true;
-      state = next;
-      at_ += 3;
+    const State next = bytes_[at_] == Escape ? StateOf(bytes_.sliced(at_)) : State::None;
+    if (next == State::None) {
+      isAfterEscape = false;
+      TakeIn(state);
       continue;
     }
-    isAfterEscape = false;
-    if (state == '$') {
-      if (!IsIn(byte, 0x21, 0x7E)) {
-        Take(Replacement, 1);
-      } else if (Left() == 1 || bytes_[at_ + 1] == Escape) {
-        Take(Replacement, 1);
-      } else {
-        const char32_t character =
-            IsIn(Byte(1), 0x21, 0x7E)
-                ? index_.pairs[CharsetIndex::Pair(byte | 0x80, Byte(1) | 0x80)]
-                : 0;
-        Take(character != 0 ? character : Replacement, 2);
-      }
-    } else if (state == 'I') {
-      Take(IsIn(byte, 0x21, 0x5F) ? static_cast<char32_t>(0xFF61 + byte - 0x21) : Replacement, 1);
-    } else if (!IsAscii(byte) || byte == 0x0E || byte == 0x0F) {
-      Take(Replacement, 1);
-    } else if (state == 'J' && (byte == '\\' || byte == '~')) {
-      Take(byte == '\\' ? 0xA5 : 0x203E, 1);
-    } else {
-      Take(byte, 1);
-    }
+    // Two escape sequences in a row decode to U+FFFD (Encoding Standard, ISO-2022-JP).
+    if (isAfterEscape) sink_.Put(Replacement, at_);
+    isAfterEscape = true;
+    state = next;
+    at_ += EscapeLength;
   }
+}
+
+/// The character at hand in one of the states; an escape byte that begins no sequence is broken.
+void Decoder::TakeIn(State state) {
+  const unsigned char byte = Byte(0);
+  if (bytes_[at_] == Escape) return Take(Replacement, 1);
+  switch (state) {
+    case State::Kanji:
+      return TakeKanji();
+    case State::Katakana:
+      return Take(
+          IsIn(byte, 0x21, 0x5F) ? static_cast<char32_t>(0xFF61 + byte - 0x21) : Replacement, 1);
+    default:
+      break;
+  }
+  const bool isShift = byte == 0x0E || byte == 0x0F;
+  if (!IsAscii(byte) || isShift) return Take(Replacement, 1);
+  if (state == State::Roman && byte == '\\') return Take(0xA5, 1);
+  if (state == State::Roman && byte == '~') return Take(0x203E, 1);
+  Take(byte, 1);
+}
+
+/// JIS X 0208: two bytes.
+void Decoder::TakeKanji() {
+  const unsigned char byte = Byte(0);
+  if (!IsIn(byte, 0x21, 0x7E) || Left() == 1 || bytes_[at_ + 1] == Escape)
+    return Take(Replacement, 1);
+  const char32_t character =
+      IsIn(Byte(1), 0x21, 0x7E) ? index_.pairs[CharsetIndex::Pair(byte | 0x80, Byte(1) | 0x80)] : 0;
+  Take(character != 0 ? character : Replacement, 2);
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ struct Form {
 };
 
 /// Those that are not of one byte, and those whose tables have other names.
-constexpr Form forms[] = {
+constexpr Form Forms[] = {
     {"utf-8", CharsetForm::Unicode, nullptr},
     {"utf-16le", CharsetForm::Unicode, nullptr},
     {"utf-16be", CharsetForm::Unicode, nullptr},
@@ -47,7 +47,7 @@ struct Correction {
 
 using namespace std::string_view_literals;
 
-constexpr Correction corrections[] = {
+constexpr Correction Corrections[] = {
     {"iso-8859-16", 0xA1,
      u"\u0104\u0105\u0141\u20AC\u201E\u0160\u00A7\u0161\u00A9\u0218\u00AB\u0179\u00AD\u017A\u017B"
      u"\u00B0\u00B1\u010C\u0142\u017D\u201D\u00B6\u00B7\u017E\u010D\u0219\u00BB\u0152\u0153\u0178\u017C"sv},
@@ -315,7 +315,7 @@ void FillPairs(CharsetForm form, const Table &table, CharsetIndex &index) {
 }
 
 void Correct(QLatin1String charset, CharsetIndex &index) {
-  for (const Correction &correction : corrections) {
+  for (const Correction &correction : Corrections) {
     if (charset != QLatin1String(correction.charset)) continue;
     int bytes = correction.bytes;
     for (const char16_t character : correction.characters) {
@@ -346,10 +346,10 @@ void FillWritten(CharsetForm form, CharsetIndex &index) {
 }
 
 const Form *FindForm(const QString &charset) {
-  const auto form = std::find_if(std::begin(forms), std::end(forms), [&](const Form &row) {
+  const auto form = std::find_if(std::begin(Forms), std::end(Forms), [&](const Form &row) {
     return charset == QLatin1String(row.charset);
   });
-  return form != std::end(forms) ? form : nullptr;
+  return form != std::end(Forms) ? form : nullptr;
 }
 
 std::unique_ptr<CharsetIndex> MakeIndex(const QString &charset) {

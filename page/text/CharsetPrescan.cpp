@@ -14,7 +14,7 @@ namespace velor {
 
 namespace {
 
-constexpr qsizetype prescanBytes = 1024;
+constexpr qsizetype PrescanBytes = 1024;
 
 constexpr bool IsSpace(char c) {
   return c == ' ' || c == '\t' || c == '\n' || c == '\f' || c == '\r';
@@ -41,7 +41,7 @@ QString KnownCharset(QByteArrayView label) {
 /// Walks the bytes; every step ends at the end of what may be looked at.
 class Prescan {
  public:
-  explicit Prescan(QByteArrayView bytes) : bytes_(bytes.first(qMin(bytes.size(), prescanBytes))) {}
+  explicit Prescan(QByteArrayView bytes) : bytes_(bytes.first(qMin(bytes.size(), PrescanBytes))) {}
 
   QString Run() {
     const QString xmlCharset = XmlDeclaration();
@@ -192,12 +192,11 @@ class Prescan {
 /// The charset of a meta element in the head, wherever the head ends.
 QString LateCharset(QByteArrayView bytes) {
   using namespace elements;
-  static constexpr std::uint32_t meta = NameKeyOf(u"meta");
-  static constexpr std::uint32_t head = NameKeyOf(u"head");
-  static constexpr std::uint32_t headElements[] = {
-      script,
-      meta,
-      head,
+  static constexpr std::uint32_t Meta = NameKeyOf(u"meta");
+  static constexpr std::uint32_t HeadElements[] = {
+      Script,
+      Meta,
+      Head,
       NameKeyOf(u"html"),
       NameKeyOf(u"title"),
       NameKeyOf(u"style"),
@@ -210,8 +209,8 @@ QString LateCharset(QByteArrayView bytes) {
   for (const HtmlToken &token : TokenizeHtml(QString::fromLatin1(start))) {
     if (!token.IsTag()) continue;
     const bool isStart = token.kind == HtmlTokenKind::StartTag;
-    if (!IsOneOf(token.name, headElements) || (token.name == head && !isStart)) return {};
-    if (token.name != meta || !isStart) continue;
+    if (!IsOneOf(token.name, HeadElements) || (token.name == Head && !isStart)) return {};
+    if (token.name != Meta || !isStart) continue;
     const QString charset = Prescan(start.sliced(token.offset, token.length)).Run();
     if (!charset.isEmpty()) return charset;
   }
@@ -222,7 +221,7 @@ QString LateCharset(QByteArrayView bytes) {
 
 QString DeclaredCharset(QByteArrayView bytes) {
   const QString early = Prescan(bytes).Run();
-  return early.isEmpty() && bytes.size() > prescanBytes ? LateCharset(bytes) : early;
+  return early.isEmpty() && bytes.size() > PrescanBytes ? LateCharset(bytes) : early;
 }
 
 }  // namespace velor

@@ -26,23 +26,23 @@ inline constexpr std::uint32_t NameKeyOf(std::u16string_view name) {
   return NameKeyOf<char16_t>(name);
 }
 
-inline constexpr std::uint32_t script = NameKeyOf(u"script");
-inline constexpr std::uint32_t plaintext = NameKeyOf(u"plaintext");
-inline constexpr std::uint32_t svg = NameKeyOf(u"svg");
-inline constexpr std::uint32_t math = NameKeyOf(u"math");
-inline constexpr std::uint32_t font = NameKeyOf(u"font");
-inline constexpr std::uint32_t rawElements[] = {script,
+inline constexpr std::uint32_t Script = NameKeyOf(u"script");
+inline constexpr std::uint32_t Plaintext = NameKeyOf(u"plaintext");
+inline constexpr std::uint32_t Svg = NameKeyOf(u"svg");
+inline constexpr std::uint32_t Math = NameKeyOf(u"math");
+inline constexpr std::uint32_t Font = NameKeyOf(u"font");
+inline constexpr std::uint32_t RawElements[] = {Script,
                                                 NameKeyOf(u"style"),
                                                 NameKeyOf(u"xmp"),
                                                 NameKeyOf(u"iframe"),
                                                 NameKeyOf(u"noembed"),
                                                 NameKeyOf(u"noframes")};
 /// Their text has references but no tags.
-inline constexpr std::uint32_t titleElements[] = {NameKeyOf(u"title"), NameKeyOf(u"textarea")};
-inline constexpr std::uint32_t breakDroppers[] = {NameKeyOf(u"pre"), NameKeyOf(u"listing"),
+inline constexpr std::uint32_t TitleElements[] = {NameKeyOf(u"title"), NameKeyOf(u"textarea")};
+inline constexpr std::uint32_t BreakDroppers[] = {NameKeyOf(u"pre"), NameKeyOf(u"listing"),
                                                   NameKeyOf(u"textarea")};
 /// Elements of foreign content whose inside is HTML again.
-inline constexpr std::uint32_t integrationPoints[] = {NameKeyOf(u"foreignobject"),
+inline constexpr std::uint32_t IntegrationPoints[] = {NameKeyOf(u"foreignobject"),
                                                       NameKeyOf(u"desc"),
                                                       NameKeyOf(u"title"),
                                                       NameKeyOf(u"mi"),
@@ -52,7 +52,7 @@ inline constexpr std::uint32_t integrationPoints[] = {NameKeyOf(u"foreignobject"
                                                       NameKeyOf(u"mtext"),
                                                       NameKeyOf(u"annotation-xml")};
 /// HTML elements that end foreign content.
-inline constexpr std::uint32_t breakouts[] = {
+inline constexpr std::uint32_t Breakouts[] = {
     NameKeyOf(u"b"),      NameKeyOf(u"big"),     NameKeyOf(u"blockquote"), NameKeyOf(u"body"),
     NameKeyOf(u"br"),     NameKeyOf(u"center"),  NameKeyOf(u"code"),       NameKeyOf(u"dd"),
     NameKeyOf(u"div"),    NameKeyOf(u"dl"),      NameKeyOf(u"dt"),         NameKeyOf(u"em"),
@@ -64,11 +64,11 @@ inline constexpr std::uint32_t breakouts[] = {
     NameKeyOf(u"s"),      NameKeyOf(u"small"),   NameKeyOf(u"span"),       NameKeyOf(u"strong"),
     NameKeyOf(u"strike"), NameKeyOf(u"sub"),     NameKeyOf(u"sup"),        NameKeyOf(u"table"),
     NameKeyOf(u"tt"),     NameKeyOf(u"u"),       NameKeyOf(u"ul"),         NameKeyOf(u"var")};
-inline constexpr std::uint32_t html = NameKeyOf(u"html");
-inline constexpr std::uint32_t head = NameKeyOf(u"head");
-inline constexpr std::uint32_t body = NameKeyOf(u"body");
+inline constexpr std::uint32_t Html = NameKeyOf(u"html");
+inline constexpr std::uint32_t Head = NameKeyOf(u"head");
+inline constexpr std::uint32_t Body = NameKeyOf(u"body");
 /// Elements without content and end tag.
-inline constexpr std::uint32_t voidElements[] = {
+inline constexpr std::uint32_t VoidElements[] = {
     NameKeyOf(u"area"),  NameKeyOf(u"base"), NameKeyOf(u"basefont"), NameKeyOf(u"bgsound"),
     NameKeyOf(u"br"),    NameKeyOf(u"col"),  NameKeyOf(u"embed"),    NameKeyOf(u"frame"),
     NameKeyOf(u"hr"),    NameKeyOf(u"img"),  NameKeyOf(u"input"),    NameKeyOf(u"keygen"),

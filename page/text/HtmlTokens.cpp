@@ -2,6 +2,7 @@
 #include "page/text/HtmlTokens.h"
 
 #include "page/text/HtmlElements.h"
+#include "page/text/RawText.h"
 #include "page/text/TextCharacters.h"
 #include "platform/TextDifference.h"
 
@@ -105,6 +106,9 @@ class Tokenizer {
 
   bool Has(qsizetype at, QStringView text) const {
     return html_.sliced(std::min(at, html_.size())).startsWith(text, Qt::CaseInsensitive);
+  }
+  QStringView NameOf(const HtmlTagParts &parts) const {
+    return html_.sliced(parts.name, parts.nameLength);
   }
   bool InForeign() const { return !foreign_.empty() && !foreign_.back().holdsHtml; }
 
@@ -214,7 +218,7 @@ class Tokenizer {
 
   void StartTag() {
     const HtmlTagParts parts = ReadHtmlTag(html_, at_);
-    const std::uint32_t name = HtmlNameKey(html_.sliced(parts.name, parts.nameLength));
+    const std::uint32_t name = HtmlNameKey(NameOf(parts));
     if (!parts.isClosed) {  // a parser drops a tag that the text's end cuts off
       Push(HtmlTokenKind::Comment, html_.size(), 0);
       return;
@@ -222,7 +226,7 @@ class Tokenizer {
     const bool isFree = foreign_.empty();
     const bool isHtml = EnterElement(name, parts.isSelfClosing);
     qsizetype end = parts.end;
-    if (isHtml && IsOneOf(name, breakDroppers) && end < html_.size() &&
+    if (isHtml && IsOneOf(name, BreakDroppers) && end < html_.size() &&
         (html_[end] == u'\n' || html_[end] == u'\r'))
       end += CharacterAt(html_, end).length;
     HtmlToken &token = Push(HtmlTokenKind::StartTag, end, TagKey(html_, parts, name));
@@ -230,22 +234,22 @@ class Tokenizer {
     token.isStrong = true;
     token.isFree = isFree;
     if (!isHtml) return;
-    if (name == plaintext) {
+    if (name == Plaintext) {
       const qsizetype close = origin_ == HtmlOrigin::Serialisation
                                   ? html_.lastIndexOf(QStringLiteral("</plaintext>"))
                                   : html_.size();
       Raw(close < at_ ? html_.size() : close);
-    } else if (IsOneOf(name, rawElements)) {
-      Raw(EndOfRaw(parts, name == script));
-    } else if (IsOneOf(name, titleElements)) {
-      const qsizetype textEnd = EndOfRaw(parts, false);
+    } else if (IsOneOf(name, RawElements)) {
+      Raw(EndOfRawText(html_, at_, NameOf(parts)));
+    } else if (IsOneOf(name, TitleElements)) {
+      const qsizetype textEnd = EndOfRawText(html_, at_, NameOf(parts));
       while (at_ < textEnd) Run(textEnd, References::AreResolved);
     }
   }
 
   void EndTag() {
     const HtmlTagParts parts = ReadHtmlTag(html_, at_);
-    const std::uint32_t name = HtmlNameKey(html_.sliced(parts.name, parts.nameLength));
+    const std::uint32_t name = HtmlNameKey(NameOf(parts));
     if (!parts.isClosed) {
       Push(HtmlTokenKind::Comment, html_.size(), 0);
       return;
@@ -266,44 +270,13 @@ class Tokenizer {
 
   /// Keeps track of foreign content; false for an element of that kind.
   bool EnterElement(std::uint32_t name, bool isSelfClosing) {
-    if (InForeign() && (IsOneOf(name, breakouts) || name == font)) {
+    if (InForeign() && (IsOneOf(name, Breakouts) || name == Font)) {
       while (InForeign()) foreign_.pop_back();
     }
-    const bool isRoot = name == svg || name == math;
+    const bool isRoot = name == Svg || name == Math;
     if (!isRoot && !InForeign()) return true;
-    if (!isSelfClosing) foreign_.push_back({name, !isRoot && IsOneOf(name, integrationPoints)});
+    if (!isSelfClosing) foreign_.push_back({name, !isRoot && IsOneOf(name, IntegrationPoints)});
     return false;
-  }
-
-  /// Where the end tag stands that a raw text element just opened waits for.
-  qsizetype EndOfRaw(const HtmlTagParts &parts, bool isScript) const {
-    const QStringView name = html_.sliced(parts.name, parts.nameLength);
-    bool isEscaped = false;
-    bool isDoubleEscaped = false;
-    for (qsizetype at = at_; at < html_.size(); ++at) {
-      if (html_[at] == u'-' && isEscaped && Has(at, u"-->")) isEscaped = isDoubleEscaped = false;
-      if (html_[at] != u'<') continue;
-      if (isScript && Has(at, u"<!--")) {
-        isEscaped = true;
-        // "<!-->" and "<!--->" end the escape that they begin.
-        if (Has(at + 4, u">") || Has(at + 4, u"->")) isEscaped = false;
-        continue;
-      }
-      if (isEscaped && !isDoubleEscaped && Has(at + 1, name) && EndsName(at + 1 + name.size()))
-        isDoubleEscaped = true;
-      if (at + 1 >= html_.size() || html_[at + 1] != u'/' || !Has(at + 2, name) ||
-          !EndsName(at + 2 + name.size()))
-        continue;
-      if (!isDoubleEscaped) return at;
-      isDoubleEscaped = false;
-    }
-    return html_.size();
-  }
-  bool EndsName(qsizetype at) const {
-    if (at >= html_.size()) return false;
-    const char16_t unit = html_[at].unicode();
-    return unit == u'>' || unit == u'/' || ClassOf(unit) == TextClass::Blank ||
-           ClassOf(unit) == TextClass::LineBreak;
   }
 
   /// Raw text by lines.

@@ -29,9 +29,9 @@ struct HtmlToken {
   std::int32_t offset = 0;  ///< UTF-16 units
   std::int32_t length = 0;
   HtmlTokenKind kind = HtmlTokenKind::Word;
-  /// A tag, or a word that is long enough to tell two places apart.
+  /// A tag, or a word of three or more characters: distinctive enough to align texts by.
   bool isStrong = false;
-  /// A tag that is read in the same way whatever stands before it.
+  /// A tag outside foreign content: tokenizing may begin anew there.
   bool isFree = false;
 
   bool operator==(const HtmlToken &) const = default;
@@ -56,7 +56,7 @@ std::uint32_t HtmlNameKey(QStringView name);
 enum class HtmlOrigin { Page, Serialisation };
 std::vector<HtmlToken> TokenizeHtml(QStringView text, HtmlOrigin origin = HtmlOrigin::Page);
 
-/// The same, sooner, where the tokens of a text are known that differs in one stretch.
+/// Incremental TokenizeHtml: reuses the tokens of `before` outside the one range that differs.
 std::vector<HtmlToken> TokenizeHtmlLike(QStringView text, QStringView before,
                                         std::vector<HtmlToken> tokens,
                                         HtmlOrigin origin = HtmlOrigin::Page);

@@ -394,7 +394,7 @@ TEST(Ladder, AsksAgainAfterTheEngineWasSilent) {
   FaithfulPage page(Original(rows));
   page.SetBaseline(rowsBefore);
   SilentVerifier silent;
-  page.Foresee(rowsNow, silent);
+  page.Precompute(rowsNow, silent);
   ScriptedVerifier verifier(rowsNow);
   EXPECT_EQ(page.Compose(rowsNow, verifier).rung, SaveRung::Edits);
 }

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "page/saving/MovedTokens.h"
+
+#include "page/text/HtmlElements.h"
+
+namespace velor {
+
+namespace {
+
+using Number = std::int32_t;
+
+std::size_t Index(Number number) {
+  return static_cast<std::size_t>(number);
+}
+
+/// Tokens without a counterpart, and their numbers in the text that they are from.
+struct Unmatched {
+  std::vector<Number> numbers;
+  std::vector<HtmlToken> tokens;
+
+  /// The page's frame is left out: a parser makes it where it stands.
+  Unmatched(const TokenText &text, const std::vector<Number> &counterparts) {
+    for (Number at = 0; at < text.Count(); ++at) {
+      if (counterparts[Index(at)] >= 0 || IsFrameTag(text.At(at))) continue;
+      numbers.push_back(at);
+      tokens.push_back(text.At(at));
+    }
+  }
+};
+
+/// Whether a token alone is enough to tell a place.
+bool TellsPlace(const HtmlToken &token) {
+  return token.kind == HtmlTokenKind::Comment ||
+         (token.isStrong && token.kind != HtmlTokenKind::EndTag);
+}
+
+class MovedTokenFinder {
+ public:
+  MovedTokenFinder(const TokenText &source, const TokenText &before,
+                   const TokenAlignment &alignment)
+      : source_(source),
+        before_(before),
+        alignment_(alignment),
+        moved_(Index(before.Count()), -1),
+        isTaken_(Index(source.Count()), false) {}
+
+  std::vector<Number> Run() {
+    PairTokensThatTellPlaces();
+    for (Number at = 0; at < before_.Count(); ++at) PairNeighbour(at, 1);
+    for (Number at = before_.Count() - 1; at >= 0; --at) PairNeighbour(at, -1);
+    return std::move(moved_);
+  }
+
+ private:
+  void Pair(Number before, Number source) {
+    moved_[Index(before)] = source;
+    isTaken_[Index(source)] = true;
+  }
+
+  void PairTokensThatTellPlaces() {
+    const Unmatched source(source_, alignment_.toOther);
+    const Unmatched before(before_, alignment_.fromOther);
+    const TokenAlignment leftOver =
+        AlignTokens(source.tokens, before.tokens, InStep::WithSerialisation);
+    for (std::size_t at = 0; at < before.numbers.size(); ++at) {
+      const Number found = leftOver.fromOther[at];
+      if (found < 0 || source.tokens[Index(found)].key != before.tokens[at].key) continue;
+      if (TellsPlace(before.tokens[at])) Pair(before.numbers[at], source.numbers[Index(found)]);
+    }
+  }
+
+  /// Where the token at `at` moved, pairs the token `by` further on with the one that stands there
+  /// in the source, if they are the same and both are free.
+  void PairNeighbour(Number at, Number by) {
+    const Number next = at + by;
+    if (moved_[Index(at)] < 0 || next < 0 || next >= before_.Count()) return;
+    const Number source = moved_[Index(at)] + by;
+    if (source < 0 || source >= source_.Count()) return;
+    const bool isFree = moved_[Index(next)] < 0 && alignment_.fromOther[Index(next)] < 0 &&
+                        alignment_.toOther[Index(source)] < 0 && !isTaken_[Index(source)];
+    if (!isFree || source_.At(source).key != before_.At(next).key) return;
+    if (!IsFrameTag(before_.At(next))) Pair(next, source);
+  }
+
+  const TokenText &source_;
+  const TokenText &before_;
+  const TokenAlignment &alignment_;
+  std::vector<Number> moved_;
+  std::vector<bool> isTaken_;  ///< by number in the source
+};
+
+}  // namespace
+
+bool IsFrameTag(const HtmlToken &token) {
+  return token.name == elements::Html || token.name == elements::Head ||
+         token.name == elements::Body;
+}
+
+std::vector<Number> FindMovedTokens(const TokenText &source, const TokenText &before,
+                                    const TokenAlignment &alignment) {
+  return MovedTokenFinder(source, before, alignment).Run();
+}
+
+}  // namespace velor
