@@ -105,7 +105,7 @@ TEST_F(HardPages, ChangeNothingOutsideTheElementAroundTheEdit) {
   int number = 0;
   int whole = 0;  // saves that wrote more than the edit
   for (const QByteArray &element : elements) {
-    for (const QString &kind : PageCheck::Kinds()) {
+    for (const QString &kind : PageCheck::ScriptKinds()) {
       if (++number % 3 != 0 && !AsksForAll()) continue;
       SCOPED_TRACE(qPrintable(kind));
       const QJsonObject result = Check(before + element + behind, kind, 0);
@@ -124,7 +124,7 @@ TEST_F(HardPages, OfNastyMarkupAreSavedAsTheDocumentsTheyBecame) {
   const std::uint32_t count = AsksForAll() ? 600 : 16;
   int edits = 0;
   for (std::uint32_t number = 0; number < count && !HasFailure(); ++number) {
-    const QString &kind = PageCheck::Kinds()[number % PageCheck::Kinds().size()];
+    const QString &kind = PageCheck::ScriptKinds()[number % PageCheck::ScriptKinds().size()];
     SCOPED_TRACE(number);
     const QJsonObject result = Check(NastyPage(number), kind, static_cast<int>(number / 8 % 3));
     edits += result[QStringLiteral("edited")].toBool() ? 1 : 0;

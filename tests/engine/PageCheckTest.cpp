@@ -88,6 +88,37 @@ TEST_F(PageCheckProgram, LeavesAPageWithoutTheAskedPlaceAsItIs) {
   EXPECT_TRUE(Has(0, "identical"));
 }
 
+TEST_F(PageCheckProgram, TypesAWordAsAPersonDoesAndKeepsTheCopy) {
+  const QString page =
+      Write(QStringLiteral("page.htm"), "<table>\n<tr><TD>one two<td>three\n</table>\n<P>four");
+  const QString kept = folder_.filePath(QStringLiteral("kept"));
+  for (const char *nth : {"0", "1", "2", "5"}) {
+    EXPECT_EQ(Run({QStringLiteral("--edit=type=zebra"), QStringLiteral("--nth"), QLatin1String(nth),
+                   QStringLiteral("--keep"), kept, page}),
+              0);
+    ASSERT_EQ(lines_.size(), 1U);
+    EXPECT_TRUE(Has(0, "edited")) << nth;
+    EXPECT_EQ(lines_[0][QStringLiteral("bytes_added")].toInt(), 5) << output_.constData();
+    QFile copy(kept + QStringLiteral("/1.htm"));
+    ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(copy.readAll().contains("zebra")) << nth;
+  }
+}
+
+TEST_F(PageCheckProgram, PressesKeysAndPastes) {
+  const QString page = Write(QStringLiteral("page.htm"), "<P id=a>one <B>two</B> three</P>");
+  for (const auto &[kind, lost, added] :
+       {std::tuple{"backspace", 1, 0}, {"delete", 1, 0}, {"paste", 0, 6}, {"type", 0, 8}}) {
+    EXPECT_EQ(Run({QStringLiteral("--edit"), QLatin1String(kind), page}), 0);
+    ASSERT_EQ(lines_.size(), 1U);
+    EXPECT_TRUE(Has(0, "edited")) << kind;
+    EXPECT_EQ(lines_[0][QStringLiteral("bytes_lost")].toInt(), lost) << kind;
+    EXPECT_EQ(lines_[0][QStringLiteral("bytes_added")].toInt(), added) << kind;
+  }
+  EXPECT_EQ(Run({QStringLiteral("--edit=enter"), page}), 0);
+  EXPECT_GT(lines_[0][QStringLiteral("bytes_added")].toInt(), 0);
+}
+
 TEST_F(PageCheckProgram, RefusesWhatMeansNothing) {
   const QString page = Write(QStringLiteral("page.htm"), "<P>one two");
   for (const QStringList &arguments : {QStringList{},

@@ -111,9 +111,9 @@ class HazardPages : public WebEditorTest, public ::testing::WithParamInterface<H
     EXPECT_TRUE(untouched[QStringLiteral("document_equal")].toBool());
     const qsizetype every = AsksForAll() ? 1 : 2;
     int edited = 0;
-    for (qsizetype at = GetParam().page.size() % every; at < PageCheck::Kinds().size();
+    for (qsizetype at = GetParam().page.size() % every; at < PageCheck::ScriptKinds().size();
          at += every) {
-      const QString &kind = PageCheck::Kinds()[at];
+      const QString &kind = PageCheck::ScriptKinds()[at];
       const QJsonObject result = check.Run(file, kind, 0);
       if (!result[QStringLiteral("edited")].toBool()) continue;
       ++edited;
@@ -175,7 +175,7 @@ class ManyPages : public WebEditorTest {
     if (HasFailure()) ADD_FAILURE() << page.toPercentEncoding(" \n<>=\"/").constData();
   }
   static const QString &Kind(std::uint32_t number) {
-    return PageCheck::Kinds()[static_cast<qsizetype>(number) % PageCheck::Kinds().size()];
+    return PageCheck::ScriptKinds()[static_cast<qsizetype>(number) % PageCheck::ScriptKinds().size()];
   }
   PageCheck check_{Engine()};
   Tally tally_;

@@ -75,6 +75,21 @@ TEST(BytesBeyondEdit, AreNoneWhereWhatTheParserMovedIsTakenAway) {
   EXPECT_EQ(beyond.outside, 0);
 }
 
+TEST(ByteDifference, ForgivesNothing) {
+  const auto count = [](const char *file, const char *saved) {
+    const ByteDifference difference = CountByteDifference(file, saved);
+    return std::pair(difference.lost, difference.added);
+  };
+  EXPECT_EQ(count("<p>one two\n  </p>", "<p>one two\n  </p>"),
+            std::pair(qsizetype{0}, qsizetype{0}));
+  EXPECT_EQ(count("<p>one two\n  </p>", "<p>one twoword\n  </p>"),
+            std::pair(qsizetype{0}, qsizetype{4}));
+  EXPECT_EQ(count("<p>one two\n  </p>", "<p>one twoword</p>"),
+            std::pair(qsizetype{3}, qsizetype{4}));
+  EXPECT_EQ(count("<P>one", "<p>one"), std::pair(qsizetype{1}, qsizetype{1}));
+  EXPECT_EQ(count("", "<p>"), std::pair(qsizetype{0}, qsizetype{3}));
+}
+
 }  // namespace
 
 }  // namespace velor

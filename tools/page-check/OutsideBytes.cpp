@@ -132,7 +132,31 @@ qsizetype ImpliedTags(const QString &come, const TokenText &source, const TokenT
   return units;
 }
 
+/// A token a byte.
+std::vector<HtmlToken> BytesAsTokens(const QByteArray &bytes) {
+  std::vector<HtmlToken> tokens;
+  tokens.reserve(static_cast<std::size_t>(bytes.size()));
+  for (const char byte : bytes) {
+    HtmlToken token;
+    token.key = static_cast<unsigned char>(byte);
+    token.offset = static_cast<std::int32_t>(tokens.size());
+    token.length = 1;
+    token.isStrong = true;
+    tokens.push_back(token);
+  }
+  return tokens;
+}
+
 }  // namespace
+
+ByteDifference CountByteDifference(const QByteArray &file, const QByteArray &saved) {
+  const TokenAlignment alignment =
+      AlignTokens(BytesAsTokens(file), BytesAsTokens(saved), InStep::WithEdit);
+  const auto unmatched = [](const std::vector<std::int32_t> &counterparts) {
+    return static_cast<qsizetype>(std::count(counterparts.begin(), counterparts.end(), -1));
+  };
+  return {unmatched(alignment.toOther), unmatched(alignment.fromOther)};
+}
 
 BytesBeyondEdit CountBytesBeyondEdit(const EditedPage &page) {
   if (page.file == page.saved) return {};

@@ -28,4 +28,11 @@ struct BytesBeyondEdit {
 /// the document; both sides are counted with the page's charset.
 BytesBeyondEdit CountBytesBeyondEdit(const EditedPage &page);
 
+/// How two files differ, byte by byte, whatever the bytes mean.
+struct ByteDifference {
+  qsizetype lost = 0;
+  qsizetype added = 0;
+};
+ByteDifference CountByteDifference(const QByteArray &file, const QByteArray &saved);
+
 }  // namespace velor

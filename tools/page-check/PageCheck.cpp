@@ -9,9 +9,12 @@
 #include "platform/RuntimeError.h"
 #include "tools/page-check/OutsideBytes.h"
 
+#include <QClipboard>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 #include <QWebEnginePage>
 #include <QWebEngineView>
@@ -47,9 +50,45 @@ class PageCheck::Desk {
     auto *layout = new QVBoxLayout(&window_);
     layout->addWidget(editor.Widget());
     window_.show();
+    window_.activateWindow();
   }
 
-  bool Edit(const QString &kind, int place) {
+  bool Edit(const QString &words, int place) {
+    const QString kind = words.section(u'=', 0, 0);
+    if (!EditByScript(kind, place)) return false;
+    if (kind == u"type")
+      Type(words.contains(u'=') ? words.section(u'=', 1) : QStringLiteral("inserted"));
+    else if (kind == u"paste")
+      Paste();
+    else if (const auto key = KeyOf(kind))
+      Press(*key, {});
+    return true;
+  }
+
+ private:
+  static std::optional<Qt::Key> KeyOf(const QString &kind) {
+    if (kind == u"enter") return Qt::Key_Return;
+    if (kind == u"backspace") return Qt::Key_Backspace;
+    if (kind == u"delete") return Qt::Key_Delete;
+    return std::nullopt;
+  }
+  void Press(Qt::Key key, const QString &text) {
+    editor.SetFocus();
+    QWidget *input = editor.Widget()->findChild<QWebEngineView *>()->focusProxy();
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, key, Qt::NoModifier, text);
+      QCoreApplication::sendEvent(input, &event);
+    }
+  }
+  void Type(const QString &text) {
+    for (const QChar sign : text) Press(static_cast<Qt::Key>(sign.toUpper().unicode()), sign);
+  }
+  void Paste() {
+    QGuiApplication::clipboard()->setText(QStringLiteral("pasted"));
+    editor.ExecCommand(EditingCommand::Paste, ExecOption::Default, {});
+  }
+
+  bool EditByScript(const QString &kind, int place) {
     QWebEnginePage &page = *editor.Widget()->findChild<QWebEngineView *>()->page();
     const auto answer = std::make_shared<std::optional<bool>>();
     page.runJavaScript(QStringLiteral("%1\n;velorPageCheck(%2,%3)")
@@ -62,7 +101,6 @@ class PageCheck::Desk {
     return answer->value_or(false);
   }
 
- private:
   EditingEngine &engine_;
   QtFiles files_;
   QWidget window_;
@@ -91,12 +129,24 @@ const char *RungName(SaveRung rung) {
 
 }  // namespace
 
-const QStringList &PageCheck::Kinds() {
+const QStringList &PageCheck::ScriptKinds() {
   static const QStringList kinds = {
       QStringLiteral("insert-word"),      QStringLiteral("bold"),      QStringLiteral("image"),
-      QStringLiteral("delete-paragraph"), QStringLiteral("table-row"), QStringLiteral("enter"),
+      QStringLiteral("delete-paragraph"), QStringLiteral("table-row"), QStringLiteral("split"),
       QStringLiteral("center"),           QStringLiteral("attribute")};
   return kinds;
+}
+
+const QStringList &PageCheck::KeyKinds() {
+  static const QStringList kinds = {QStringLiteral("type"), QStringLiteral("enter"),
+                                    QStringLiteral("backspace"), QStringLiteral("delete"),
+                                    QStringLiteral("paste")};
+  return kinds;
+}
+
+bool PageCheck::IsKind(const QString &words) {
+  return ScriptKinds().contains(words) || KeyKinds().contains(words) ||
+         words.startsWith(QStringLiteral("type="));
 }
 
 PageCheck::PageCheck(EditingEngine &engine)
@@ -121,6 +171,8 @@ QJsonObject PageCheck::Run(const QString &file, const QString &kind, int place) 
   QJsonObject result = {{QStringLiteral("file"), file},
                         {QStringLiteral("edited"), false},
                         {QStringLiteral("identical"), false},
+                        {QStringLiteral("bytes_lost"), 0},
+                        {QStringLiteral("bytes_added"), 0},
                         {QStringLiteral("bytes_outside"), 0},
                         {QStringLiteral("bytes_implied"), 0},
                         {QStringLiteral("rung"), QString()},
@@ -153,9 +205,12 @@ void PageCheck::Measure(const QString &file, const QString &kind, int place, QJs
   const QString saved = Parsed(page.saved);
   const bool isEqual =
       saved == page.now || saved == Parsed(page.now.toUtf8().prepend("\xEF\xBB\xBF"));
+  const ByteDifference difference = CountByteDifference(page.file, page.saved);
   const BytesBeyondEdit beyond = CountBytesBeyondEdit(page);
   result[QStringLiteral("edited")] = isEdited;
   result[QStringLiteral("identical")] = page.saved == page.file;
+  result[QStringLiteral("bytes_lost")] = static_cast<int>(difference.lost);
+  result[QStringLiteral("bytes_added")] = static_cast<int>(difference.added);
   result[QStringLiteral("bytes_outside")] = static_cast<int>(beyond.outside);
   result[QStringLiteral("bytes_implied")] = static_cast<int>(beyond.implied);
   result[QStringLiteral("rung")] = QLatin1String(RungName(rung));

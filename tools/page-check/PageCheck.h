@@ -20,13 +20,19 @@ class PageCheck {
   explicit PageCheck(EditingEngine &engine);
   ~PageCheck();
 
-  /// The kinds of edit, in the words of the command line.
-  static const QStringList &Kinds();
+  /// The kinds of edit, in the words of the command line: those that a script makes in the
+  /// document, and those that the page gets as a person's keys and commands. "type=WORD" types that
+  /// word.
+  static const QStringList &ScriptKinds();
+  static const QStringList &KeyKinds();
+  /// Whether the words name a kind.
+  static bool IsKind(const QString &words);
 
   /// Checks one page; `kind` empty for no edit, `place` counts from 0. Native path. The answer has
-  /// `file`, `edited` (false where the page has no such place), `identical`, `bytes_outside`,
-  /// `bytes_implied` (see BytesBeyondEdit), `rung`, `document_equal` and `ms` (the time that saving
-  /// took); ErrorField() as well when the file cannot be opened, edited or saved.
+  /// `file`, `edited` (false where the page has no such place), `identical`, `bytes_lost` and
+  /// `bytes_added` (see ByteDifference), `bytes_outside`, `bytes_implied` (see BytesBeyondEdit),
+  /// `rung`, `document_equal` and `ms` (the time that saving took); ErrorField() as well when the
+  /// file cannot be opened, edited or saved.
   QJsonObject Run(const QString &file, const QString &kind, int place);
   /// What the last check saved.
   QByteArray Saved() const;

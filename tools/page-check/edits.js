@@ -38,7 +38,69 @@
     return Boolean(text);
   };
 
+  const inline = 'a, abbr, b, big, code, em, font, i, img, s, small, span, strong, sub, sup, tt, u';
+  // The words of a text with their ends as offsets.
+  const wordEnds = (text) => [...text.data.matchAll(/[\p{L}\p{N}]{2,}/gu)]
+    .map(({ index, 0: { length } }) => index + length);
+  const isInline = (node) => node?.nodeType === Node.ELEMENT_NODE && node.matches(inline);
+  const isLastIn = (cell, text) => cell && !texts().some((each) => cell.contains(each) &&
+    text.compareDocumentPosition(each) & Node.DOCUMENT_POSITION_FOLLOWING);
+
+  // Where a person may put the caret, by what makes such a place hard to save: each a list of
+  // [text, offset].
+  const kindsOfPlace = {
+    wordEnd: (text) => wordEnds(text).slice(0, 1),
+    lineEnd: (text) => [...text.data.matchAll(/[^\s](?=[ \t]*\n)/g)].map(({ index }) => index + 1),
+    indented: (text) => [...text.data.matchAll(/\n[ \t]+[\p{L}\p{N}]{2,}/gu)]
+      .map(({ index, 0: { length } }) => index + length),
+    textEnd: (text) => {
+      const end = text.data.trimEnd().length;
+      return text.nextSibling === null || isInline(text.nextSibling) ? [end] : [];
+    },
+    behindInline: (text) => (isInline(text.previousSibling) && /^\S/.test(text.data) ? [0] : []),
+    cellEnd: (text) => (isLastIn(text.parentElement.closest('td, th'), text)
+      ? [text.data.trimEnd().length] : []),
+  };
+
+  // Numbers below `count`, each once, so that any first few of them lie evenly.
+  const evenly = (count) => {
+    const bits = Math.max(1, Math.ceil(Math.log2(count)));
+    const reversed = (number) => {
+      let result = 0;
+      for (let bit = 0; bit < bits; ++bit) result = result * 2 + ((number >> bit) & 1);
+      return result;
+    };
+    return Array.from({ length: 2 ** bits }, (_, number) => reversed(number))
+      .filter((number) => number < count);
+  };
+
+  // All caret places: the kinds take turns, the places of a kind lie evenly over the page.
+  const caretPlaces = () => {
+    const shown = texts().filter((text) => text.parentElement.getClientRects().length > 0);
+    const lists = Object.values(kindsOfPlace).map((offsets) => {
+      const all = shown.flatMap((text) => offsets(text).map((offset) => [text, offset]));
+      return evenly(all.length).map((number) => all[number]);
+    });
+    const places = [];
+    for (let turn = 0; lists.some((list) => turn < list.length); ++turn) {
+      for (const list of lists) {
+        if (turn < list.length) places.push(list[turn]);
+      }
+    }
+    return places;
+  };
+  // The keys come from the program, as a person's do.
+  const atCaret = [caretPlaces, ([text, offset]) => {
+    select(text, offset);
+    return true;
+  }];
+
   const edits = {
+    'type': atCaret,
+    'enter': atCaret,
+    'backspace': atCaret,
+    'delete': atCaret,
+    'paste': atCaret,
     'insert-word': [texts, (text) => {
       select(text, firstWord(text).end);
       return document.execCommand('insertText', false, ' inserted');
@@ -67,7 +129,7 @@
       row.after(fresh);
       return true;
     }],
-    'enter': [texts, (text) => {
+    'split': [texts, (text) => {
       select(text, firstWord(text).end);
       return document.execCommand('insertParagraph');
     }],
