@@ -279,19 +279,16 @@ TEST_F(JetCatalogue, OpensInAnotherLetterCase) {
   EXPECT_EQ(Column("Select * from pRoJeCt", "NAME").size(), 3);
 }
 
-// The files that other programs wrote, where they are at hand.
-TEST_F(JetCatalogue, RepairsFilesOfOtherPrograms) {
-  const QDir samples(U(VELOR_SOURCE_DIR) + U("/../shared/data/jet"));
-  for (const QString &name : samples.entryList({U("*.mdb")}, QDir::Files)) {
+class JetRepairs : public JetCatalogue {
+ protected:
+  /// Moves the folders of the catalogue that the file holds. Where they stand in an index, as
+  /// `indexed` names them, the repair is refused.
+  enum class Folders { Free, Indexed };
+  void Check(Folders folders) {
     connection_.reset();
-    QFile::remove(File());
-    ASSERT_TRUE(QFile::copy(samples.filePath(name), File()));
-    QFile::setPermissions(File(), QFile::ReadOwner | QFile::WriteOwner);
     const QStringList pages = Column("Select * from Page Order by PageId", "PageName");
-    EXPECT_FALSE(pages.isEmpty()) << name.toStdString();
-    // One of them has its folders in indexes.
-    const bool indexed = name == u"idxpath.mdb";
-    const char *folders = indexed ? "Path" : "TPath";
+    EXPECT_FALSE(pages.isEmpty());
+    const bool indexed = folders == Folders::Indexed;
     for (const char *repair : {"Update Project set Path = '\\new' where IdProject = '2'",
                                "Update Page set TPath = '\\new' where ProjectId = '2'",
                                "Update CustomCD set PPath = '\\new' where ProjectId = '2'"}) {
@@ -304,10 +301,41 @@ TEST_F(JetCatalogue, RepairsFilesOfOtherPrograms) {
     }
     if (indexed) Run("Update Page set Path = '\\new' where ProjectId = '2'");
     connection_.reset();
-    for (const QString &folder : Column("Select * from Page where ProjectId = '2'", folders)) {
+    const char *column = indexed ? "Path" : "TPath";
+    for (const QString &folder : Column("Select * from Page where ProjectId = '2'", column))
       EXPECT_EQ(folder, U("\\new"));
-    }
     EXPECT_EQ(Column("Select * from Page Order by PageId", "PageName"), pages);
+  }
+};
+
+TEST_F(JetRepairs, MoveTheFoldersOfEveryKindOfCatalogue) {
+  for (const fixture::FolderType type : {fixture::FolderType::Text, fixture::FolderType::Memo}) {
+    for (const bool worn : {false, true}) {
+      fixture::CatalogueShape shape;
+      shape.folders = type;
+      shape.worn = worn;
+      Make(fixture::CatalogueFixture(shape));
+      Check(Folders::Free);
+    }
+  }
+}
+
+TEST_F(JetRepairs, MoveTheFoldersOfOtherProgramsFiles) {
+  const QString folder =
+      qEnvironmentVariable("VELOR_MORE_CATALOGUES", QStringLiteral(VELOR_MORE_CATALOGUES));
+  if (folder.isEmpty())
+    GTEST_SKIP() << "VELOR_MORE_CATALOGUES names no folder with more catalogues";
+  const QDir samples(folder);
+  const QStringList names = samples.entryList({U("*.mdb")}, QDir::Files);
+  EXPECT_FALSE(names.isEmpty()) << folder.toStdString();
+  for (const QString &name : names) {
+    SCOPED_TRACE(name.toStdString());
+    connection_.reset();
+    QFile::remove(File());
+    ASSERT_TRUE(QFile::copy(samples.filePath(name), File()));
+    QFile::setPermissions(File(), QFile::ReadOwner | QFile::WriteOwner);
+    // One of them has its folders in indexes.
+    Check(name == u"idxpath.mdb" ? Folders::Indexed : Folders::Free);
   }
 }
 
