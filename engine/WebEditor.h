@@ -45,6 +45,7 @@ class WebEditor : public EditingComponent {
   void LoadText(const QString &html, const QString &path) override;
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
+  QString ReasonToWriteAnew() override;
   PageMemory Memory() const override;
   bool IsIdle() const override;
   void Recall(const PageMemory &memory) override;

@@ -49,6 +49,13 @@ bool IsFrameset(const QString &serialisation) {
          !serialisation.contains(QStringLiteral("<body"));
 }
 
+QString WrittenAnew(const QString &reason) {
+  const QString sentence = QStringLiteral(
+      "The page's source could not be kept as it was written: the whole page is written anew");
+  return sentence +
+         (reason.isEmpty() ? QStringLiteral(".") : QStringLiteral(", since %1.").arg(reason));
+}
+
 }  // namespace
 
 void WebEditor::SetDocumentHTML(const QString &html) {
@@ -232,15 +239,16 @@ std::optional<QString> WebEditor::Read() {
 void WebEditor::SaveDocument(const QString &path) {
   Files &files = files_;
   const SavedPage saved = Compose();
-  if (saved.rung == SaveRung::Everything)
-    Report(
-        QStringLiteral("The page's source could not be kept as it was written: the whole page "
-                       "is written anew."));
+  if (saved.rung == SaveRung::Everything) Report(WrittenAnew(saved.reason));
   files.ReplaceAll(path, saved.page.bytes);
 }
 
 QString WebEditor::TextToSave() {
   return Compose().page.text;
+}
+
+QString WebEditor::ReasonToWriteAnew() {
+  return Compose().reason;
 }
 
 QString WebEditor::Charset() const {

@@ -86,6 +86,9 @@ class EditingComponent {
   virtual void SaveDocument(const QString &path) = 0;
   /// What SaveDocument would write, as text.
   virtual QString TextToSave() = 0;
+  /// Why SaveDocument would write the page's whole source anew, in words that go on from "since";
+  /// empty where it keeps the source but for the edits, and for a page that came from no source.
+  virtual QString ReasonToWriteAnew() { return {}; }
 
   /// The page as it was last seen on this side, without asking the engine: not more than a second
   /// and a half behind, and then MemoryChanged follows.

@@ -251,7 +251,8 @@ PageToWrite WriteWhole(const QString &text, const PageEncoding &encoding) {
   RequireReferencesFit({}, {{0, 0, text}}, converter, encoding.charset);
   QByteArray bytes = EncodePage(text, encoding);
   QString written = converter.FirstReference(text) < 0 ? text : DecodePage(bytes).text;
-  return StillReadAsBefore({std::move(written), std::move(bytes)}, encoding);
+  return StillReadAsBefore({std::move(written), std::move(bytes), WrittenExtent::WholePage},
+                           encoding);
 }
 
 }  // namespace velor

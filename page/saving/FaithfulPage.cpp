@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "page/saving/FaithfulPage.h"
 
+#include "page/saving/MovedTokens.h"
 #include "page/saving/PageVerifier.h"
 #include "page/saving/SourcePatches.h"
 #include "page/text/HtmlElements.h"
+#include "page/text/TextPlaces.h"
+#include "platform/RuntimeError.h"
 
 #include <algorithm>
 #include <utility>
@@ -60,15 +63,57 @@ qsizetype FirstDifference(QStringView one, QStringView other) {
   return end - one.begin();
 }
 
-/// The body's and the root's end tag match nothing: a parser moves the text behind them, which
-/// edits are far more often about, before them.
-std::vector<HtmlToken> WithoutLastTags(std::vector<HtmlToken> tokens) {
+/// The source's tokens as they are matched with its serialisation. What a parser moves matches
+/// nothing at first: text between the parts of a table, which would else be taken for a cell's, and
+/// the body's and the root's end tag, since it moves the text behind them before them.
+std::vector<HtmlToken> TokensThatStay(std::vector<HtmlToken> tokens) {
+  TextPlaces places;
   for (HtmlToken &token : tokens) {
-    const bool isLast = token.name == elements::Body || token.name == elements::Html;
-    if (isLast && token.kind == HtmlTokenKind::EndTag) token.key = 0;
+    const bool isFrame = token.name == elements::Body || token.name == elements::Html;
+    if (token.kind == HtmlTokenKind::StartTag)
+      places.StartTag(token.name);
+    else if (token.kind == HtmlTokenKind::EndTag)
+      places.EndTag(token.name);
+    const bool isMoved = token.kind == HtmlTokenKind::Word && places.IsBetweenTableParts();
+    if (isMoved || (isFrame && token.kind == HtmlTokenKind::EndTag)) token.key = 0;
   }
   return tokens;
 }
+
+/// A serialisation without the page's frame as a parser implies it, and without the blanks before
+/// its content, which a source without that frame cannot hold.
+QString WithoutImpliedFrame(const QString &serialisation) {
+  QString content = serialisation;
+  for (const char *tag : {"<html>", "<head>", "</head>", "<body>"}) {
+    const qsizetype at = content.indexOf(QLatin1String(tag));
+    if (at >= 0) content.remove(at, static_cast<qsizetype>(qstrlen(tag)));
+  }
+  for (const char *tag : {"</html>", "</body>"}) {
+    const qsizetype at = content.lastIndexOf(QLatin1String(tag));
+    if (at >= 0) content.remove(at, static_cast<qsizetype>(qstrlen(tag)));
+  }
+  qsizetype start = 0;
+  while (start < content.size()) {
+    if (content[start].isSpace()) {
+      content.remove(start, 1);
+    } else if (QStringView(content).sliced(start).startsWith(u"<!--")) {
+      const qsizetype end = content.indexOf(QStringLiteral("-->"), start);
+      start = end < 0 ? content.size() : end + 3;
+    } else {
+      break;
+    }
+  }
+  return content;
+}
+
+/// Of a page's code in a message, in UTF-16 units.
+constexpr qsizetype LongestQuote = 60;
+
+const QString NoSmallerChange =
+    QStringLiteral("no smaller change of its source gives the page as it is shown now");
+const QString NoAnswer =
+    QStringLiteral("the check whether a smaller change is enough did not answer");
+const QString NoText = QStringLiteral("bytes that are no text in %1 stand beside what was changed");
 
 }  // namespace
 
@@ -113,6 +158,7 @@ struct FaithfulPage::Plan {
   std::vector<PatchStep> steps;
   SourcePatches patcher;
   std::optional<SavedPage> result;
+  QString reason = NoSmallerChange;  ///< why there is no result
 };
 
 FaithfulPage::FaithfulPage(PageOriginal original)
@@ -126,11 +172,14 @@ void FaithfulPage::SetBaseline(const QString &serialisation) {
 
 void FaithfulPage::Prepare() {
   if (original_.baseline.isEmpty()) return;
-  if (!source_) source_.emplace(mask_.MaskedText());
+  if (!source_) {
+    source_.emplace(mask_.MaskedText());
+    hasFrameTags_ = std::any_of(source_->tokens.begin(), source_->tokens.end(), IsFrameTag);
+  }
   if (before_) return;
   before_.emplace(original_.baseline, HtmlOrigin::Serialisation);
   sourceToBefore_ =
-      AlignTokens(WithoutLastTags(source_->tokens), before_->tokens, InStep::WithSerialisation);
+      AlignTokens(TokensThatStay(source_->tokens), before_->tokens, InStep::WithSerialisation);
 }
 
 FaithfulPage::Plan &FaithfulPage::PlanFor(const QString &current) {
@@ -153,14 +202,14 @@ std::optional<QString> FaithfulPage::FirstTry(const QString &current) {
 }
 
 SavedPage FaithfulPage::Compose(const QString &current, PageVerifier &verifier) {
-  if (original_.baseline.isEmpty()) return WriteEverything(current);
+  if (original_.baseline.isEmpty()) return WriteEverything(current, {});
   if (current == original_.baseline)
-    return {{original_.page.text, original_.bytes}, SaveRung::Unedited};
+    return {{original_.page.text, original_.bytes}, SaveRung::Unedited, {}};
   PlanFor(current);
   // The verifier may wait for the engine, and another call may come meanwhile.
   const std::shared_ptr<Plan> plan = plan_;
   if (!plan->result) plan->result = TryRungs(*plan, verifier, Tries::All);
-  return plan->result ? *plan->result : WriteEverything(current);
+  return plan->result ? *plan->result : WriteEverything(current, plan->reason);
 }
 
 void FaithfulPage::Precompute(const QString &current, PageVerifier &verifier) {
@@ -183,10 +232,14 @@ std::optional<SavedPage> FaithfulPage::TryRungs(Plan &plan, PageVerifier &verifi
     const auto patches = plan.patcher.PatchesFor(plan.edits, plan.steps);
     if (!patches) return std::nullopt;
     const auto document = verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wanted);
-    if (!document) return std::nullopt;
-    const bool isFirstMiss = *document != wanted && !wantedAgain;
+    if (!document) {
+      plan.reason = NoAnswer;
+      return std::nullopt;
+    }
+    const bool isWanted = IsSameDocument(*document, wanted);
+    const bool isFirstMiss = !isWanted && !wantedAgain;
     if (isFirstMiss) wantedAgain = verifier.Serialisation(wanted);
-    if (*document == wanted || document == wantedAgain) {
+    if (isWanted || document == wantedAgain) {
       const SaveRung rung = plan.Rung();
       return Splice(
           rung == SaveRung::Edits ? *patches : WithoutNeedless(*patches, *document, verifier),
@@ -246,13 +299,35 @@ SavedPage FaithfulPage::Splice(const std::vector<TextPatch> &patches, SaveRung r
     own.push_back({mask_.ToSource(start, PageMask::Edge::Start),
                    mask_.ToSource(end, PageMask::Edge::End), mask_.Unmask(text)});
   }
-  return {SpliceBytes(original_, own), rung};
+  SavedPage saved{SpliceBytes(original_, own), rung, {}};
+  if (saved.page.extent == WrittenExtent::WholePage) {
+    saved.rung = SaveRung::Everything;
+    saved.reason = NoText.arg(original_.page.encoding.charset);
+  }
+  return saved;
 }
 
-SavedPage FaithfulPage::WriteEverything(const QString &current) const {
+/// A source without tags of HTML, HEAD and BODY never gets them; where they would stand makes no
+/// difference then.
+bool FaithfulPage::IsSameDocument(const QString &one, const QString &other) const {
+  if (one == other) return true;
+  return !hasFrameTags_ && WithoutImpliedFrame(one) == WithoutImpliedFrame(other);
+}
+
+SavedPage FaithfulPage::WriteEverything(const QString &current, const QString &reason) const {
+  if (!original_.baseline.isEmpty()) {
+    if (const auto lost = mask_.Dropped(original_.baseline, current))
+      throw RuntimeError(
+          ErrorNumber::InvalidProcedureCall, QStringLiteral("SaveDocument"),
+          QStringLiteral("The page would have to be written anew, since %1, and that would lose "
+                         "\"%2\", which has no place in the page as it is shown. Change the page's "
+                         "source instead.")
+              .arg(reason, lost->left(LongestQuote)));
+  }
   const PageEncoding &encoding = original_.page.encoding;
-  return {WriteWhole(WithLineEnds(mask_.Unmask(current), encoding.lineEnds), encoding),
-          SaveRung::Everything};
+  const QString text = mask_.Unmask(hasFrameTags_ ? current : WithoutImpliedFrame(current));
+  return {WriteWhole(WithLineEnds(text, encoding.lineEnds), encoding), SaveRung::Everything,
+          reason};
 }
 
 }  // namespace velor

@@ -25,6 +25,9 @@ enum class SaveRung {
 struct SavedPage {
   PageToWrite page;
   SaveRung rung = SaveRung::Unedited;
+  /// At Everything: why the page's source could not be kept, in words that go on from "since". Empty
+  /// for a page that came from no source.
+  QString reason;
 };
 
 /// Decides what text the engine loads for a page, and what bytes a save writes for the document
@@ -46,7 +49,8 @@ class FaithfulPage {
 
   /// What a save writes when the engine's serialisation is `current`. Tries to patch the source,
   /// the smallest patches first, until the verifier parses the result to the same document. Raises
-  /// InvalidProcedureCall for a character that the charset has no way to write.
+  /// InvalidProcedureCall for a character that the charset has no way to write, and where the page
+  /// would have to be written anew without server code or template signs that it has.
   SavedPage Compose(const QString &current, PageVerifier &verifier);
   /// The text that Compose(current) will ask the verifier for first; nothing for an unedited page.
   std::optional<QString> FirstTry(const QString &current);
@@ -70,11 +74,13 @@ class FaithfulPage {
   std::vector<TextPatch> WithoutNeedless(const std::vector<TextPatch> &patches,
                                          const QString &document, PageVerifier &verifier) const;
   SavedPage Splice(const std::vector<TextPatch> &patches, SaveRung rung) const;
-  SavedPage WriteEverything(const QString &current) const;
+  SavedPage WriteEverything(const QString &current, const QString &reason) const;
+  bool IsSameDocument(const QString &one, const QString &other) const;
 
   PageOriginal original_;
   PageMask mask_;
   std::optional<TokenText> source_;
+  bool hasFrameTags_ = true;  ///< of `source_`: HTML, HEAD or BODY
   std::optional<TokenText> before_;
   TokenAlignment sourceToBefore_;
   std::shared_ptr<Plan> plan_;  ///< for the serialisation composed last

@@ -3,17 +3,21 @@
 
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace velor {
 
-/// What must not reach the engine as it stands, replaced by what a parser leaves alone: server code
-/// (`<% %>`, `<?php ?>`, and `<!--#include-->` inside tags), NOSCRIPT elements (whose content is
-/// markup where scripts are off, and tears a HEAD open), the attribute that makes a TEMPLATE a
-/// shadow root (whose content no serialisation has). Content becomes a comment, what stands inside
-/// a tag a word. Real comments stay.
-/// Left out altogether: the blanks behind a page's last end tags. A parser moves them before these,
-/// where they would stand between the page's text and whatever is added at its end.
+/// Hides from the engine what it would move, drop or run:
+/// - server code (`<% %>`, `<?php ?>`, and `<!--#include-->` inside tags);
+/// - template signs (see TemplateSigns.h) among attributes and where text may not stand: between
+/// the
+///   parts of a table, before the body, behind the page's end;
+/// - NOSCRIPT elements (where scripts are off their content is markup, which tears a HEAD open);
+/// - the attribute that makes a TEMPLATE a shadow root, which no serialisation has.
+/// In content a comment takes their place, inside a tag a word of the page's own. Real comments
+/// stay. Left out altogether are blanks behind the page's last end tags: a parser moves them before
+/// these tags, where they would stand between the page's text and whatever is added at its end.
 ///
 /// Offsets count UTF-16 units. "Masked" is the text that the engine is given, or one of its
 /// serialisations.
@@ -25,6 +29,10 @@ class PageMask {
 
   /// A text of the engine's with the original pieces in the place of their masks.
   QString Unmask(const QString &text) const;
+
+  /// The first of the hidden pieces that neither serialisation has a mask of: it was dropped when
+  /// the text was parsed, not by an edit.
+  std::optional<QString> Dropped(const QString &before, const QString &now) const;
 
   /// Whether that place of the source is in server code.
   bool IsServerCode(qsizetype source) const;
@@ -38,7 +46,7 @@ class PageMask {
 
  private:
   friend class PageMasker;
-  enum class Kind { Content, AttributeName, InTag, LeftOut };
+  enum class Kind { Content, AttributeName, NamePart, InTag, LeftOut };
   struct Piece {
     qsizetype source = 0;
     qsizetype sourceLength = 0;
@@ -48,6 +56,7 @@ class PageMask {
     QString text;
   };
 
+  QString WordOf(std::size_t number) const;
   const Piece *PieceBefore(qsizetype masked) const;
 
   QString masked_;

@@ -34,6 +34,14 @@ bool IsBesideFrame(const TokenText &source, std::int32_t number) {
          isFrame(source.At(ahead));
 }
 
+/// Whether a token of a serialisation is a tag of the page's frame that a parser may have implied:
+/// one without attributes.
+bool IsImpliedFrame(const HtmlToken &token) {
+  constexpr std::int32_t LengthOfBareTag = 6;  // <html>, <head>, <body>
+  return IsFrameTag(token) &&
+         (token.kind == HtmlTokenKind::EndTag || token.length == LengthOfBareTag);
+}
+
 bool Overlap(const std::vector<TextPatch> &patches) {
   return std::adjacent_find(patches.begin(), patches.end(),
                             [](const TextPatch &one, const TextPatch &next) {
@@ -105,7 +113,7 @@ class SourcePatches::RegionWriter {
   void Add(Number at) {
     const HtmlToken &token = now_.At(at);
     const bool isImpliedAnyway = token.kind == HtmlTokenKind::EndTag && IsFrameTag(token);
-    if (!isImpliedAnyway) added_ += now_.Slice(at, at + 1);
+    if (!isImpliedAnyway) added_ += patcher_.TextOf(now_, at, at + 1);
   }
 
   void Keep(Number at, Number source) {
@@ -177,6 +185,7 @@ SourcePatches::SourcePatches(const TokenText &source, const TokenText &before, c
       sourceToBefore_(sourceToBefore),
       beforeToNow_(beforeToNow),
       lineEnds_(lineEnds),
+      hasFrameTags_(std::any_of(source.tokens.begin(), source.tokens.end(), IsFrameTag)),
       moved_(FindMovedTokens(source, before, sourceToBefore)) {}
 
 SourcePatches::Number SourcePatches::CounterpartInOrder(Number before) const {
@@ -205,16 +214,27 @@ SourcePatches::SourceRange SourcePatches::CounterpartOf(const PageEdit &edit) co
   return range;
 }
 
-QStringView SourcePatches::ImpliedLeftOf(const PageEdit &edit) const {
-  Number left = edit.before;
-  while (left > 0 && CounterpartAnywhere(left - 1) < 0) --left;
-  return before_.Slice(left, edit.before);
+/// The text of tokens of a serialisation. A source without tags of HTML, HEAD and BODY gets none
+/// that a parser implies.
+QString SourcePatches::TextOf(const TokenText &serialisation, Number from, Number to) const {
+  if (hasFrameTags_) return serialisation.Slice(from, to).toString();
+  QString text;
+  for (Number at = from; at < to; ++at) {
+    if (!IsImpliedFrame(serialisation.At(at))) text += serialisation.Slice(at, at + 1);
+  }
+  return text;
 }
 
-QStringView SourcePatches::ImpliedRightOf(const PageEdit &edit) const {
+QString SourcePatches::ImpliedLeftOf(const PageEdit &edit) const {
+  Number left = edit.before;
+  while (left > 0 && CounterpartAnywhere(left - 1) < 0) --left;
+  return TextOf(before_, left, edit.before);
+}
+
+QString SourcePatches::ImpliedRightOf(const PageEdit &edit) const {
   Number right = edit.beforeEnd;
   while (right < before_.Count() && CounterpartAnywhere(right) < 0) ++right;
-  return before_.Slice(edit.beforeEnd, right);
+  return TextOf(before_, edit.beforeEnd, right);
 }
 
 /// Where the source gets what is inserted by an edit that takes nothing of it away.
@@ -324,13 +344,12 @@ void SourcePatches::PatchTagAt(Number source, const PageEdit &edit, Patches &out
 /// Writes the stretch of source that an edit replaces anew.
 void SourcePatches::PatchStretch(const PageEdit &edit, PatchRung rung, Patches &out) const {
   const SourceRange range = CounterpartOf(edit);
-  const QStringView left = rung == PatchRung::EditAlone ? QStringView() : ImpliedLeftOf(edit);
-  const QStringView right =
-      rung == PatchRung::ImpliedTagsAround ? ImpliedRightOf(edit) : QStringView();
+  const QString left = rung == PatchRung::EditAlone ? QString() : ImpliedLeftOf(edit);
+  const QString right = rung == PatchRung::ImpliedTagsAround ? ImpliedRightOf(edit) : QString();
   if (left.isEmpty() && right.isEmpty() && IsTextForText(range, edit))
     return PatchCharacters(range, edit, out);
-  const QStringView fresh = now_.Slice(edit.now, edit.nowEnd);
-  QString text = WithPageLineEnds(left.toString() + fresh.toString() + right.toString());
+  const QString fresh = TextOf(now_, edit.now, edit.nowEnd);
+  QString text = WithPageLineEnds(left + fresh + right);
   if (range.IsEmpty()) {
     const qsizetype place = InsertionPlace(edit);
     return Replace(place, place, text, out);

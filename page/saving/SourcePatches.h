@@ -66,8 +66,9 @@ class SourcePatches {
   Number CounterpartAnywhere(Number before) const;
   Number CounterpartOfNow(Number now) const;
   SourceRange CounterpartOf(const PageEdit &edit) const;
-  QStringView ImpliedLeftOf(const PageEdit &edit) const;
-  QStringView ImpliedRightOf(const PageEdit &edit) const;
+  QString TextOf(const TokenText &serialisation, Number from, Number to) const;
+  QString ImpliedLeftOf(const PageEdit &edit) const;
+  QString ImpliedRightOf(const PageEdit &edit) const;
   qsizetype InsertionPlace(const PageEdit &edit) const;
   bool EndsLike(Number before, Number source) const;
 
@@ -90,6 +91,7 @@ class SourcePatches {
   const TokenAlignment &sourceToBefore_;
   const TokenAlignment &beforeToNow_;
   LineEnds lineEnds_;
+  bool hasFrameTags_;          ///< whether the source has any tag of HTML, HEAD or BODY
   std::vector<Number> moved_;  ///< FindMovedTokens of source and before
 };
 

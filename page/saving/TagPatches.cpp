@@ -19,8 +19,18 @@ const HtmlAttributeSlice *Find(QStringView html, const Attributes &attributes, Q
   return found == attributes.end() ? nullptr : &*found;
 }
 
-/// The value between the quotes that the source has there.
+/// Whether a parser reads the value as a whole where no quotes stand around it.
+bool NeedsNoQuotes(QStringView value) {
+  static constexpr QStringView Breaking = u" \t\r\n\f\"'=<>`";
+  return !value.isEmpty() && !value.endsWith(u'/') &&
+         std::none_of(value.begin(), value.end(),
+                      [](QChar unit) { return Breaking.contains(unit); });
+}
+
+/// The value between the quotes that the source has there, without any where it has none and the
+/// value needs none.
 QString Quoted(QStringView value, char16_t quote) {
+  if (quote == 0 && NeedsNoQuotes(value)) return value.toString();
   if (quote != u'\'') return u'"' + value.toString() + u'"';
   const QString apostrophes = value.toString().replace(u'\'', QLatin1String("&#39;"));
   return u'\'' + apostrophes + u'\'';
@@ -54,8 +64,7 @@ std::vector<TextPatch> PatchTag(const TagTexts &texts, qsizetype offset) {
       const bool hasValue = place->value >= 0;
       const qsizetype start = hasValue ? place->value - (place->quote != 0 ? 1 : 0) : nameEnd;
       patches.push_back(
-          {start, place->end,
-           (hasValue ? QString() : QStringLiteral("=")) + Quoted(value, place->quote)});
+          {start, place->end, hasValue ? Quoted(value, place->quote) : u'=' + Quoted(value, u'"')});
     }
   }
   for (const HtmlAttributeSlice &attribute : source.attributes) {

@@ -17,10 +17,14 @@ struct PageOriginal {
   QString baseline;
 };
 
+/// How much of a page's bytes is written anew.
+enum class WrittenExtent { Patches, WholePage };
+
 /// What is written for a document.
 struct PageToWrite {
   QString text;
   QByteArray bytes;
+  WrittenExtent extent = WrittenExtent::Patches;
 };
 
 }  // namespace velor

@@ -231,6 +231,74 @@ TEST_F(ManyPages, OfAnotherFolderAreSavedWithNothingButTheEdit) {
   EXPECT_GE(tally_.clean * 1000, tally_.edits * 985) << tally_.clean << " of " << tally_.edits;
 }
 
+struct Template {
+  const char *name;
+  QByteArray page;
+};
+
+void PrintTo(const Template &page, std::ostream *out) {
+  *out << page.name;
+}
+
+class TemplatePages : public WebEditorTest, public ::testing::WithParamInterface<Template> {
+ protected:
+  /// What is saved after `script` changed the document.
+  QByteArray SavedAfter(const QString &script) {
+    const QString path = Write(QStringLiteral("page.htm"), GetParam().page);
+    editor_->LoadDocument(path);
+    Evaluate(script);
+    editor_->SaveDocument(path);
+    return Bytes(QStringLiteral("page.htm"));
+  }
+};
+
+TEST_P(TemplatePages, KeepEverySignWhenTheTextOfACellChanges) {
+  const QByteArray saved = SavedAfter(QStringLiteral(
+      "{ const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);"
+      "while (walker.nextNode() && !walker.currentNode.data.includes('Head'));"
+      "walker.currentNode.data = walker.currentNode.data.replace('Head', 'HeadX'); }"));
+  EXPECT_EQ(saved, QByteArray(GetParam().page).replace("Head", "HeadX"));
+}
+
+TEST_P(TemplatePages, KeepEverySignWhenAnAttributeOfTheTableChanges) {
+  const QByteArray saved =
+      SavedAfter(QStringLiteral("document.querySelector('table').setAttribute('title', 'new')"));
+  QByteArray page = GetParam().page;
+  EXPECT_EQ(saved, page.insert(page.indexOf('>', page.indexOf("<table")), " title=\"new\""));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Languages, TemplatePages,
+    ::testing::Values(
+        Template{
+            "Handlebars",
+            "<table>\n<tr>{{#each cols}}<th>Head</th>{{/each}}</tr>\n{{#each rows}}<tr><td>Name"
+            "</td><td>{{name}}</td></tr>{{/each}}\n</table>"},
+        Template{
+            "Jinja",
+            "{% extends \"base.html\" %}\n<!DOCTYPE html>\n<html><head>{% block head %}\n"
+            "<title>{{ t }}</title>{% endblock %}</head>\n<body {% if x %}class=\"a\"{% endif %}>"
+            "\n<table>\n{% for r in rows %}\n  <tr {{ r.attrs }}>{% if a < b %}<td>Head {{ r }}"
+            "</td>{% else %}<td><a href=\"{% url \"x\" %}\">b</a></td>{% endif %}</tr>\n"
+            "{% endfor %}</table>\n</body>{% block end %}{% endblock %}\n</html>\n"},
+        Template{
+            "Freemarker",
+            "<table><#list rows as r><tr><#if r.x><td>Head</td><#else><td>${r.y}</td></#if></tr>"
+            "</#list></table>"},
+        Template{
+            "Velocity",
+            "<table>\n#foreach( $r in $rows )\n<tr>$r.before()<td>Head $r.name</td></tr>\n#end\n"
+            "</table>"},
+        Template{"Thymeleaf",
+                 "<table th:each=\"r : ${rs}\"><tr>[[${r.x}]]<td>Head</td></tr></table>"},
+        Template{
+            "server code",
+            "<table>\n<% Do %>\n<tr <?php echo 1 ?>><td>Head <%= x %></td></tr><% Loop %></table>"},
+        Template{
+            "blocks of a framework",
+            "<table>@for (r of rows; track r.id) {<tr *ngIf=\"r\"><td [x]=\"r\">Head {{ r }}</td>"
+            "</tr>} @empty {<tr><td>none</td></tr>}</table>"}));
+
 class Saving : public WebEditorTest {};
 
 TEST_F(Saving, TheSourceThatIsShownIsThePersonsOwn) {
@@ -266,6 +334,40 @@ TEST_F(Saving, ServerCodeIsNeverSeenByTheEngineNorMissedByThePerson) {
   editor_->LoadDocument(Write(QStringLiteral("page.htm"), "<p>one <%= \"<b>\" %> two</p>"));
   EXPECT_FALSE(Evaluate(QStringLiteral("document.body.innerHTML")).toString().contains(u'%'));
   EXPECT_TRUE(DocumentHolds(QStringLiteral("<%= \"<b>\" %>")));
+}
+
+TEST_F(Saving, AnIncludeFileNeverGetsTheTagsOfAWholePage) {
+  const QString path = Write(QStringLiteral("page.asp"),
+                             "<% a %>\r\n<p align=\"<%=b%>\">One two</p>\r\n<% c %>\r\n");
+  editor_->LoadDocument(path);
+  Evaluate(QStringLiteral("document.querySelector('p').remove()"));
+  EXPECT_EQ(editor_->ReasonToWriteAnew(), QString());
+  editor_->SaveDocument(path);
+  EXPECT_EQ(Bytes(QStringLiteral("page.asp")), "<% a %>\r\n\r\n<% c %>\r\n");
+}
+
+TEST_F(Saving, AValueIsChangedInTheQuotesThatItHad) {
+  const QString path =
+      Write(QStringLiteral("page.htm"), "<P ALIGN=left>one<P ALIGN='left'>two<P ALIGN=left>three");
+  editor_->LoadDocument(path);
+  Evaluate(
+      QStringLiteral("document.querySelectorAll('p').forEach((p, at) => "
+                     "p.setAttribute('align', at < 2 ? 'center' : 'a b'))"));
+  editor_->SaveDocument(path);
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")),
+            "<P ALIGN=center>one<P ALIGN='center'>two<P ALIGN=\"a b\">three");
+}
+
+TEST_F(Saving, TheReasonToWriteAPageAnewIsKnownBeforeItIsSaved) {
+  // The last byte begins a character of two bytes, and would take the next letter for its second.
+  const QByteArray file = "<meta charset=big5>\r\n<p id=x>one \xA4";
+  const QString path = Write(QStringLiteral("page.htm"), file);
+  editor_->LoadDocument(path);
+  EXPECT_EQ(editor_->ReasonToWriteAnew(), QString());
+  Evaluate(QStringLiteral("document.querySelector('p').append('new')"));
+  EXPECT_TRUE(editor_->ReasonToWriteAnew().contains(u"no text in big5"))
+      << qPrintable(editor_->ReasonToWriteAnew());
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")), file);
 }
 
 TEST_F(Saving, AFramesetIsSaidToHaveNoTextToEdit) {

@@ -120,6 +120,10 @@ INSTANTIATE_TEST_SUITE_P(
              u"width=\"3\">x</td></body></html>",
              u"<html><head></head><body><td nowrap=\"\" width=\"3\">x</td></body></html>",
              "<TD NOWRAP  width=3>x"},
+        Edit{"a value without quotes, and one that needs them now", "<P ALIGN=left Title=x>x",
+             u"<html><head></head><body><p align=\"left\" title=\"x\">x</p></body></html>",
+             u"<html><head></head><body><p align=\"center\" title=\"x y\">x</p></body></html>",
+             "<P ALIGN=center Title=\"x y\">x"},
         Edit{"a value that had none", "<p title>x",
              u"<html><head></head><body><p title=\"\">x</p></body></html>",
              u"<html><head></head><body><p title=\"a\">x</p></body></html>", "<p title=\"a\">x"},
@@ -262,6 +266,94 @@ TEST(MaskedPages, TakeNoOtherPagesMasksForTheirOwn) {
   EXPECT_EQ(two.Unmasked(one.TextToLoad()), one.TextToLoad());
 }
 
+TEST(MaskedPages, KeepTemplateSignsWhereTextMayNotStand) {
+  for (const char *file :
+       {"<table>{{#each a}}<tr>{% for b %}<td>c</td>{% endfor %}</tr>{{/each}}</table>",
+        "<table><#list a as b><tr><td>c</td></tr></#list></table>",
+        "{% extends \"a\" %}<!doctype html><html>{% b %}<head>{{c}}</head>{% d %}<body>e",
+        "<body>a</body>{% b %}</html>{% c %}", "<p {% if a %}class=b{% endif %} data-{{c}}=d>e",
+        "<a href=\"{% url \"a\" %}\" {{b}}{{c}} title={{ d }}>e</a>"}) {
+    FaithfulPage page(Original(file));
+    EXPECT_FALSE(page.TextToLoad().contains(u"{%")) << file;
+    EXPECT_FALSE(page.TextToLoad().contains(u"{{")) << file;
+    EXPECT_FALSE(page.TextToLoad().contains(u"<#")) << file;
+    EXPECT_EQ(page.Unmasked(page.TextToLoad()).remove(u' '), QString::fromUtf8(file).remove(u' '));
+  }
+}
+
+TEST(MaskedPages, LeaveTemplateSignsInTextToBeEdited) {
+  for (const char *file :
+       {"<p>{{a}} and {% b %} cost $5 ${c}", "<table><tr><td>{{a}}</td></tr></table>{{b}}",
+        "{% a %}<p>b", "<a href=\"{{a}}\" title='{% b \"c\" %}' id={{d}}>e",
+        "<title>{{a}}</title><script>{{b}}</script>", "<html><body>{{a}}<head>{{b}}</head>"})
+    EXPECT_EQ(FaithfulPage(Original(file)).TextToLoad(), QLatin1String(file));
+}
+
+TEST(MaskedPages, RefuseToWriteAnewWhatTheDocumentHasNoPlaceFor) {
+  const QByteArray file = "<p title=a title=\"<% b %>\">one</p>";
+  const QString before =
+      QStringLiteral("<html><head></head><body><p title=\"a\">one</p></body></html>");
+  ScriptedVerifier verifier(QString(before).replace(QStringLiteral("one"), QStringLiteral("two")),
+                            [](const QString &) { return false; });
+  try {
+    Save(file, before, QString(before).replace(QStringLiteral("one"), QStringLiteral("two")),
+         verifier);
+    FAIL();
+  } catch (const RuntimeError &error) {
+    EXPECT_EQ(error.Number(), ErrorNumber::InvalidProcedureCall);
+    EXPECT_TRUE(error.Description().contains(u"<% b %>")) << qPrintable(error.Description());
+  }
+}
+
+TEST(MaskedPages, NeverTakeTextOfATableForThatOfItsCells) {
+  const QByteArray file =
+      "<table>\n<tr>aa bb<th>Head</th>cc dd</tr>\n"
+      "aa bb<tr><td>Name</td><td>aa bb</td></tr>cc dd\n</table>";
+  const QString before = QStringLiteral(
+      "<html><head></head><body>aa bbcc ddaa bbcc dd\n<table>\n<tbody><tr><th>Head</th></tr>\n"
+      "<tr><td>Name</td><td>aa bb</td></tr></tbody></table></body></html>");
+  const QString now = QString(before).replace(QStringLiteral("Head"), QStringLiteral("HeadX"));
+  ScriptedVerifier verifier(now);
+  EXPECT_EQ(Save(file, before, now, verifier).page.bytes,
+            QByteArray(file).replace("Head", "HeadX"));
+}
+
+TEST(Fragments, NeverGetTheTagsOfAWholePage) {
+  const QByteArray file = "<% a %>\n<p align=\"<%=b%>\">One two</p>\n<% c %>\n";
+  FaithfulPage page(Original(file));
+  const QString body = page.TextToLoad().sliced(page.TextToLoad().indexOf(u"<p "));
+  const QString start = page.TextToLoad().first(page.TextToLoad().indexOf(u"-->") + 3);
+  page.SetBaseline(start + QStringLiteral("<html><head></head><body>") + body +
+                   QStringLiteral("</body></html>"));
+  const QString rest = body.sliced(body.indexOf(u"</p>") + 4);
+  const QString now =
+      start + QStringLiteral("<html><head></head><body>") + rest + QStringLiteral("</body></html>");
+  // The engine puts a comment before the root where nothing else stands before it.
+  const QString parsed =
+      start + rest.trimmed() + QStringLiteral("<html><head></head><body></body></html>");
+  class Verifier : public PageVerifier {
+   public:
+    explicit Verifier(QString parsed) : parsed_(std::move(parsed)) {}
+    std::optional<QString> Serialisation(const QString &) override { return parsed_; }
+
+   private:
+    QString parsed_;
+  } verifier(parsed);
+  for (int round = 0; round < 2; ++round) {
+    const SavedPage saved = page.Compose(now, verifier);
+    EXPECT_FALSE(saved.page.bytes.contains("<html>")) << saved.page.bytes.constData();
+    EXPECT_FALSE(saved.page.bytes.contains("<body>")) << saved.page.bytes.constData();
+    EXPECT_TRUE(saved.page.bytes.contains("<% c %>")) << saved.page.bytes.constData();
+  }
+  SilentVerifier silent;
+  FaithfulPage other(Original("<p>one"));
+  other.SetBaseline(QStringLiteral("<html><head></head><body><p>one</p></body></html>"));
+  const SavedPage anew =
+      other.Compose(QStringLiteral("<html><head></head><body><p>two</p></body></html>"), silent);
+  EXPECT_EQ(anew.rung, SaveRung::Everything);
+  EXPECT_EQ(anew.page.bytes, "<p>two</p>");
+}
+
 TEST(Ladder, GivesAnUneditedPageBackWithoutAskingTheEngine) {
   const QByteArray file = "<META charset=big5>\r\n<P>\xA4\xA4 \x81 bad\n&nbsp";
   const QString before = QStringLiteral("<html>anything");
@@ -367,7 +459,7 @@ TEST(Ladder, LeavesOutEachTagThatTheDocumentCanDoWithout) {
 
 TEST(Ladder, WritesEverythingWhereNothingElseGivesTheDocument) {
   ScriptedVerifier verifier(rowsNow, [](const QString &) { return false; });
-  const SavedPage saved = Save(rows, rowsBefore, rowsNow, verifier);
+  const SavedPage saved = Save("<html>" + rows, rowsBefore, rowsNow, verifier);
   EXPECT_EQ(saved.page.text, rowsNow);
   EXPECT_EQ(saved.rung, SaveRung::Everything);
 }
@@ -388,6 +480,17 @@ TEST(Ladder, TriesLessOnALargePageThanOnASmallOne) {
 TEST(Ladder, WritesEverythingWhereTheEngineIsSilent) {
   SilentVerifier verifier;
   EXPECT_EQ(Save(rows, rowsBefore, rowsNow, verifier).rung, SaveRung::Everything);
+}
+
+TEST(Ladder, SaysWhyAPageIsWrittenAnew) {
+  SilentVerifier silent;
+  EXPECT_TRUE(Save(rows, rowsBefore, rowsNow, silent).reason.contains(u"did not answer"));
+  ScriptedVerifier refusing(rowsNow, [](const QString &) { return false; });
+  EXPECT_TRUE(Save(rows, rowsBefore, rowsNow, refusing).reason.contains(u"no smaller change"));
+  ScriptedVerifier willing(rowsNow);
+  EXPECT_EQ(Save(rows, rowsBefore, rowsNow, willing).reason, QString());
+  FaithfulPage fresh;
+  EXPECT_EQ(fresh.Compose(rowsNow, willing).reason, QString());
 }
 
 TEST(Ladder, AsksAgainAfterTheEngineWasSilent) {

@@ -1,0 +1,359 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "page/saving/PageMasker.h"
+
+#include "page/text/HtmlElements.h"
+#include "page/text/HtmlTokens.h"
+
+#include <QHash>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace velor {
+
+namespace {
+
+using elements::IsOneOf;
+using elements::NameKeyOf;
+
+/// Elements that do not end a head.
+constexpr std::uint32_t HeadElements[] = {
+    elements::Html,        elements::Head,      NameKeyOf(u"title"),    NameKeyOf(u"meta"),
+    NameKeyOf(u"link"),    NameKeyOf(u"base"),  NameKeyOf(u"basefont"), NameKeyOf(u"bgsound"),
+    elements::Script,      NameKeyOf(u"style"), NameKeyOf(u"noscript"), NameKeyOf(u"template"),
+    NameKeyOf(u"noframes")};
+
+bool IsSpace(QChar unit) {
+  return unit == u' ' || unit == u'\n' || unit == u'\t' || unit == u'\r' || unit == u'\f';
+}
+
+/// Behind the next `close`, or the text's end.
+qsizetype After(QStringView text, QStringView close, qsizetype from) {
+  const qsizetype found = text.indexOf(close, from);
+  return found < 0 ? text.size() : found + close.size();
+}
+
+}  // namespace
+
+void PageMasker::Run() {
+  while (at_ < source_.size()) {
+    const qsizetype open = source_.indexOf(u'<', at_);
+    const qsizetype end = open < 0 ? source_.size() : open;
+    if (at_ < end)
+      ReadText(end);
+    else
+      ReadMarkup();
+  }
+  LeaveOutTail();
+  Write();
+}
+
+bool PageMasker::IsSpaceAt(qsizetype at) const {
+  return at < source_.size() && IsSpace(source_[at]);
+}
+
+bool PageMasker::IsLetterAt(qsizetype at) const {
+  if (at >= source_.size()) return false;
+  const int code = source_[at].unicode() | 0x20;
+  return code >= u'a' && code <= u'z';
+}
+
+/// Where the server code ends that begins at `at`; `at` itself where none does.
+qsizetype PageMasker::EndOfServerCode(qsizetype at) const {
+  const QStringView rest = source_.sliced(at);
+  if (rest.startsWith(u"<%")) return After(source_, u"%>", at + 2);
+  if (!rest.startsWith(u"<?")) return at;
+  const bool isCode = rest.startsWith(u"<?php", Qt::CaseInsensitive) || rest.size() < 3 ||
+                      rest[2] == u'=' || IsSpace(rest[2]);
+  return isCode ? After(source_, u"?>", at + 2) : at;
+}
+
+qsizetype PageMasker::EndOfComment() const {
+  if (source_.sliced(at_ + 4).startsWith(u">")) return at_ + 5;
+  if (source_.sliced(at_ + 4).startsWith(u"->")) return at_ + 6;
+  for (qsizetype at = source_.indexOf(u"--", at_ + 4); at >= 0;
+       at = source_.indexOf(u"--", at + 1)) {
+    const QStringView rest = source_.sliced(at + 2);
+    if (rest.startsWith(u">")) return at + 3;
+    if (rest.startsWith(u"!>")) return at + 4;
+  }
+  return source_.size();
+}
+
+void PageMasker::Note(qsizetype end, PageMask::Kind kind) {
+  PageMask::Piece piece;
+  piece.source = at_;
+  piece.sourceLength = end - at_;
+  piece.kind = kind;
+  mask_.pieces_.push_back(piece);
+  at_ = end;
+}
+
+/// Reads text up to `end`, or up to the end of the first template sign in it that is to be masked.
+void PageMasker::ReadText(qsizetype end) {
+  const bool mayHaveSigns = isBeforeBody_ || isBehindEnd_ || places_.IsBetweenTableParts();
+  const qsizetype sign = mayHaveSigns ? NextSign(end) : end;
+  TakeText(sign);
+  at_ = sign;
+  if (sign == end) return;
+  // The text before the sign may have begun the body.
+  if (IsNoPlaceForText())
+    return Note(signs_.EndOf(sign, SignPlace::BetweenTags), PageMask::Kind::Content);
+  TakeText(end);
+  at_ = end;
+}
+
+/// Whether a parser moves text that stands here, or makes it begin the body.
+bool PageMasker::IsNoPlaceForText() const {
+  return places_.IsBetweenTableParts() || isBehindEnd_ || (isBeforeBody_ && LastFrameTag() > at_);
+}
+
+qsizetype PageMasker::NextSign(qsizetype end) {
+  qsizetype at = at_;
+  while (at < end && signs_.EndOf(at, SignPlace::BetweenTags) == at) ++at;
+  return at;
+}
+
+/// The last tag of HTML, HEAD, BODY or FRAMESET, or doctype: a fragment without them has no place
+/// before its body.
+qsizetype PageMasker::LastFrameTag() const {
+  if (lastFrameTag_ > -2) return lastFrameTag_;
+  static const QRegularExpression tag(
+      QStringLiteral("<(?:!doctype|/?(?:html|head|body|frameset))\\b"),
+      QRegularExpression::CaseInsensitiveOption);
+  lastFrameTag_ = -1;
+  for (auto found = tag.globalMatch(source_.toString()); found.hasNext();)
+    lastFrameTag_ = found.next().capturedStart();
+  return lastFrameTag_;
+}
+
+void PageMasker::TakeText(qsizetype end) {
+  if (end == at_ || std::all_of(source_.begin() + at_, source_.begin() + end, IsSpace)) {
+    if (isBehindEnd_ && end > at_)
+      tail_.push_back({at_, end - at_, 0, 0, PageMask::Kind::LeftOut, {}});
+    return;
+  }
+  isBeforeBody_ = false;
+  LeaveEnd();
+}
+
+/// More than the page's end follows: the blanks there are the engine's to see.
+void PageMasker::LeaveEnd() {
+  isBehindEnd_ = false;
+  tail_.clear();
+}
+
+void PageMasker::LeaveOutTail() {
+  std::vector<PageMask::Piece> &pieces = mask_.pieces_;
+  pieces.insert(pieces.end(), tail_.begin(), tail_.end());
+  std::sort(pieces.begin(), pieces.end(),
+            [](const PageMask::Piece &a, const PageMask::Piece &b) { return a.source < b.source; });
+}
+
+/// What begins with the "<" at hand.
+void PageMasker::ReadMarkup() {
+  if (const qsizetype end = EndOfServerCode(at_); end > at_)
+    return Note(end, PageMask::Kind::Content);
+  const QChar next = at_ + 1 < source_.size() ? source_[at_ + 1] : QChar();
+  if (source_.sliced(at_).startsWith(u"<!--")) {
+    at_ = EndOfComment();
+  } else if (IsLetterAt(at_ + 1) || (next == u'/' && IsLetterAt(at_ + 2))) {
+    ReadTag();
+  } else if (next == u'!' || next == u'/' || next == u'?') {
+    at_ = After(source_, u">", at_);
+  } else if (const qsizetype end = signs_.EndOf(at_, SignPlace::BetweenTags);
+             end > at_ && IsNoPlaceForText()) {
+    Note(end, PageMask::Kind::Content);
+  } else {  // a sign of text
+    TakeText(at_ + 1);
+    ++at_;
+  }
+}
+
+/// A tag with the code in it, and the raw text behind it.
+void PageMasker::ReadTag() {
+  const qsizetype start = at_;
+  const std::size_t firstPiece = mask_.pieces_.size();
+  const bool isEndTag = source_[start + 1] == u'/';
+  const qsizetype nameStart = isEndTag ? start + 2 : start + 1;
+  qsizetype nameEnd = nameStart;
+  while (nameEnd < source_.size() && !IsSpace(source_[nameEnd]) && source_[nameEnd] != u'>' &&
+         source_[nameEnd] != u'/' && source_[nameEnd] != u'<')
+    ++nameEnd;
+  const QStringView name = source_.sliced(nameStart, nameEnd - nameStart);
+  at_ = nameEnd;
+  FollowTag(name, isEndTag);
+  ReadAttributes(name);
+  if (isEndTag) return;
+  if (name.compare(u"noscript", Qt::CaseInsensitive) == 0) {
+    HideNoscript(start, firstPiece);
+    return;
+  }
+  const std::uint32_t key = HtmlNameKey(name);
+  if (IsOneOf(key, elements::RawElements) || IsOneOf(key, elements::TitleElements))
+    ReadRawText(name);
+  if (key == elements::Plaintext) at_ = source_.size();
+}
+
+/// Keeps account of where the page is before and behind a tag.
+void PageMasker::FollowTag(QStringView name, bool isEndTag) {
+  const std::uint32_t key = HtmlNameKey(name);
+  if (isEndTag)
+    places_.EndTag(key);
+  else
+    places_.StartTag(key);
+  const bool isPagesEnd = isEndTag && (key == elements::Body || key == elements::Html);
+  if (isPagesEnd || (!isEndTag && !IsOneOf(key, HeadElements))) isBeforeBody_ = false;
+  const bool isWhole = at_ < source_.size() && (IsSpace(source_[at_]) || source_[at_] == u'>');
+  if (isPagesEnd && isWhole)
+    isBehindEnd_ = true;
+  else
+    LeaveEnd();
+}
+
+/// Walks to the tag's end; `at_` is behind it then.
+void PageMasker::ReadAttributes(QStringView name) {
+  const bool isTemplate = name.compare(u"template", Qt::CaseInsensitive) == 0;
+  TagState tag;
+  tag.nameEnd = at_;
+  while (at_ < source_.size()) {
+    if (MaskInTag(tag)) continue;
+    const QChar unit = source_[at_++];
+    if (!tag.quote.isNull()) {
+      if (unit == tag.quote) tag = {tag.nameEnd, QChar(), false};
+    } else if (unit == u'>') {
+      return;
+    } else if (unit == u'=') {
+      tag.isValue = true;
+      while (IsSpaceAt(at_)) ++at_;
+      if (at_ < source_.size() && (source_[at_] == u'"' || source_[at_] == u'\''))
+        tag.quote = source_[at_++];
+    } else if (IsSpace(unit)) {
+      tag.isValue = false;
+      if (isTemplate) HideShadowRoot();
+    }
+  }
+}
+
+/// Masks the server code or template sign that begins here; false where there is none.
+bool PageMasker::MaskInTag(const TagState &tag) {
+  const bool isInValue = tag.isValue || !tag.quote.isNull();
+  qsizetype end = source_[at_] == u'<' ? EndOfServerCode(at_) : at_;
+  if (source_.sliced(at_).startsWith(u"<!--#")) end = After(source_, u"-->", at_);
+  const bool isCode = end > at_;
+  if (!isCode) end = EndOfSignInTag(tag);
+  if (end == at_) return false;
+  // A sign within an attribute's name stays one name with what stands before it.
+  const QChar before = source_[at_ - 1];
+  const bool isJoined = !isCode && at_ > tag.nameEnd && !IsSpace(before) && before != u'"' &&
+                        before != u'\'' && before != u'/';
+  Note(end, isInValue  ? PageMask::Kind::InTag
+            : isJoined ? PageMask::Kind::NamePart
+                       : PageMask::Kind::AttributeName);
+  return true;
+}
+
+/// A sign in a value is left to be seen and edited there, unless a parser would end the value in
+/// it.
+qsizetype PageMasker::EndOfSignInTag(const TagState &tag) {
+  const qsizetype end = signs_.EndOf(at_, SignPlace::InTag);
+  const QStringView sign = source_.sliced(at_, end - at_);
+  if (!tag.quote.isNull()) return sign.contains(tag.quote) ? end : at_;
+  if (!tag.isValue) return end;
+  const bool endsValue = std::any_of(sign.begin(), sign.end(),
+                                     [](QChar unit) { return IsSpace(unit) || unit == u'>'; });
+  return endsValue ? end : at_;
+}
+
+/// The attribute that makes a TEMPLATE a shadow root.
+bool PageMasker::HideShadowRoot() {
+  for (const QStringView name : {QStringView(u"shadowrootmode"), QStringView(u"shadowroot")}) {
+    const QStringView rest = source_.sliced(at_);
+    if (!rest.startsWith(name, Qt::CaseInsensitive)) continue;
+    const QChar next = rest.size() > name.size() ? rest[name.size()] : QChar(u' ');
+    if (!IsSpace(next) && next != u'=' && next != u'>' && next != u'/') continue;
+    Note(at_ + name.size(), PageMask::Kind::InTag);
+    return true;
+  }
+  return false;
+}
+
+/// Masks a NOSCRIPT element from its start tag to its end tag, where it has one.
+bool PageMasker::HideNoscript(qsizetype start, std::size_t firstPiece) {
+  // Looked for once, not once for each of many that are never closed.
+  if (noscriptClose_ < at_) noscriptClose_ = CloseOf(u"noscript", at_);
+  if (noscriptClose_ >= source_.size()) return false;
+  mask_.pieces_.resize(firstPiece);
+  at_ = start;
+  Note(After(source_, u">", noscriptClose_), PageMask::Kind::Content);
+  return true;
+}
+
+qsizetype PageMasker::CloseOf(QStringView name, qsizetype from) const {
+  for (qsizetype at = source_.indexOf(u"</", from); at >= 0; at = source_.indexOf(u"</", at + 2)) {
+    if (!source_.sliced(at + 2).startsWith(name, Qt::CaseInsensitive)) continue;
+    const qsizetype end = at + 2 + name.size();
+    if (end >= source_.size()) break;
+    if (IsSpace(source_[end]) || source_[end] == u'>' || source_[end] == u'/') return at;
+  }
+  return source_.size();
+}
+
+/// Server code in raw text is text there; only an end tag in it would be taken for the element's.
+void PageMasker::ReadRawText(QStringView name) {
+  for (;;) {
+    const qsizetype close = CloseOf(name, at_);
+    qsizetype code = source_.indexOf(u'<', at_);
+    qsizetype codeEnd = code;
+    while (code >= 0 && code < close) {
+      codeEnd = EndOfServerCode(code);
+      if (codeEnd > close) break;
+      code = source_.indexOf(u'<', std::max(codeEnd, code + 1));
+    }
+    if (code < 0 || code >= close || close >= source_.size()) {
+      at_ = close;
+      return;
+    }
+    at_ = code;
+    Note(codeEnd, PageMask::Kind::InTag);
+  }
+}
+
+void PageMasker::Write() {
+  QString &masked = mask_.masked_;
+  if (mask_.pieces_.empty()) {
+    masked = source_.toString();
+    return;
+  }
+  // A word of this page's own, which the source does not have: a mask that gets into another page
+  // must not stand for anything there.
+  mask_.stem_ = QStringLiteral("velor-code-%1-").arg(qHash(source_, std::size_t{0}), 0, 36);
+  while (source_.contains(mask_.stem_, Qt::CaseInsensitive)) mask_.stem_ += u'x';
+  qsizetype done = 0;
+  for (std::size_t number = 0; number < mask_.pieces_.size(); ++number) {
+    PageMask::Piece &piece = mask_.pieces_[number];
+    masked += source_.sliced(done, piece.source - done);
+    piece.masked = masked.size();
+    piece.text = source_.sliced(piece.source, piece.sourceLength).toString();
+    const QString word = mask_.WordOf(number);
+    switch (piece.kind) {
+      case PageMask::Kind::Content:
+        masked += QStringLiteral("<!--") + word + QStringLiteral("-->");
+        break;
+      case PageMask::Kind::AttributeName:
+        masked += u' ' + word;  // behind a tag's name it must not become part of it
+        break;
+      case PageMask::Kind::NamePart:
+      case PageMask::Kind::InTag:
+        masked += word;
+        break;
+      case PageMask::Kind::LeftOut:
+        break;
+    }
+    piece.maskedLength = masked.size() - piece.masked;
+    done = piece.source + piece.sourceLength;
+  }
+  masked += source_.sliced(done);
+}
+
+}  // namespace velor
