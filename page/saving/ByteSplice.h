@@ -19,14 +19,14 @@ struct TextPatch {
 /// The text with all patches; they are in order and do not overlap.
 QString Patched(const QString &text, const std::vector<TextPatch> &patches);
 
-/// Carries patches of a page's text (order and overlap as above) over into its bytes: what no patch
-/// touches is copied byte by byte, valid in the charset or not. What the charset lacks is written
-/// as a reference. Raises InvalidProcedureCall where no reference can stand (scripts, style sheets,
-/// comments, names of tags and attributes, server code).
+/// Applies patches of a page's text (order and overlap as above) to its bytes. Bytes that no patch
+/// touches are copied as they are, valid in the charset or not. A character that the charset lacks
+/// is written as a reference. Raises InvalidProcedureCall where no reference can stand (scripts,
+/// style sheets, comments, names of tags and attributes, server code).
 PageToWrite SpliceBytes(const PageOriginal &original, const std::vector<TextPatch> &patches);
 
-/// The bytes of a text that takes the place of the page's: lines that it shares with the page keep
-/// their bytes where the encoding stays. Raises as above.
+/// The bytes of a text that replaces the page's. Lines that both have keep their bytes where the
+/// encoding stays the same. Raises as above.
 QByteArray BytesForText(const PageOriginal &original, const QString &text,
                         const PageEncoding &encoding);
 

@@ -25,8 +25,8 @@ enum class SaveRung {
 struct SavedPage {
   PageToWrite page;
   SaveRung rung = SaveRung::Unedited;
-  /// At Everything: why the page's source could not be kept, in words that go on from "since". Empty
-  /// for a page that came from no source.
+  /// At Everything: why the page's source could not be kept, in words that go on from "since".
+  /// Empty for a page that came from no source.
   QString reason;
 };
 

@@ -17,8 +17,9 @@ struct TagTexts {
   QStringView now;
 };
 
-/// The patches of the source that give the tag its attributes of now, attribute by attribute: what
-/// did not change keeps its letter case, quotes and place. `offset`: where the tag begins.
+/// The patches that give the source's tag the attributes that the document has now. Unchanged
+/// attributes keep their letter case, quotes and place; a changed value keeps its quotes, or the
+/// lack of them where the new value needs none. `offset`: where the tag begins in the source.
 std::vector<TextPatch> PatchTag(const TagTexts &texts, qsizetype offset);
 
 }  // namespace velor

@@ -10,11 +10,12 @@
 /// Places of a document in its source and back. Positions in UTF-16 units.
 namespace velor {
 
-/// Where the first of the places stands whose element the source has a tag for.
+/// The offset in the source of the first of the places whose element has a tag there; nothing where
+/// none has.
 std::optional<qsizetype> FindPlace(const QString &source, const ElementPlaces &places);
 
-/// The place at a position, told by the elements that are open there; within a start tag it is the
-/// beginning of that tag's element.
+/// The place at an offset in the source, as the path of the elements that are open there. Inside a
+/// start tag it is the beginning of that tag's element.
 ElementPlaces PlacesAt(const QString &source, qsizetype position);
 
 }  // namespace velor

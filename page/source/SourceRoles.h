@@ -7,7 +7,7 @@
 
 namespace velor {
 
-/// The parts of HTML source that are told apart by colour.
+/// The parts of HTML source that have colours of their own.
 enum class SourceRole : std::uint8_t {
   Text,
   Tag,        ///< with doctypes, the marks around server code, and the selectors of style sheets
@@ -20,19 +20,19 @@ enum class SourceRole : std::uint8_t {
 };
 inline constexpr int SourceRoleCount = 8;
 
-/// In what a line of source begins: text, a tag, a comment, a script. 0 at the start of a page; any
-/// number will do.
+/// The state in which a line of source begins: in text, a tag, a comment, a script. 0 at the start
+/// of a page; any number is accepted.
 using SourceLineState = int;
 
-/// Tells the role of each byte of one line of UTF-8 source, its line end included, and answers the
-/// state in which the next line begins. A line is enough because a control that colours what is
-/// seen keeps the states; no bytes and no state do harm.
+/// Finds the role of each byte of one line of UTF-8 source, its line end included; returns the
+/// state in which the next line begins. The control keeps the states of all lines, so that only
+/// visible lines are coloured. Any bytes and any state are accepted.
 ///
 /// `roles` has room for as many as the line has bytes.
 SourceLineState RolesOfLine(QByteArrayView line, SourceLineState state, SourceRole *roles);
 
-/// The same for a line of a style sheet, of script and of code that a server runs (PHP, VBScript),
-/// what is looked at.
+/// RolesOfLine for a line of a style sheet, of a script and of server code (PHP, VBScript), with a
+/// state of its own each.
 int RolesOfStyleSheet(QByteArrayView line, int state, SourceRole *roles);
 int RolesOfScript(QByteArrayView line, int state, SourceRole *roles);
 int RolesOfServerCode(QByteArrayView line, int state, SourceRole *roles);

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-/// What the readers of UTF-8 source share.
+/// Character classes and scanning that the readers of UTF-8 source share.
 namespace velor {
 
 inline bool IsDigit(char letter) {
@@ -16,7 +16,8 @@ inline bool IsLetter(char letter) {
   return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z');
 }
 
-/// Of a name in script and style sheets; bytes beyond ASCII are parts of letters.
+/// Whether a byte belongs to a name in scripts and style sheets. Bytes beyond ASCII count as
+/// letters.
 inline bool IsWordByte(char letter) {
   return IsLetter(letter) || IsDigit(letter) || letter == '_' ||
          static_cast<unsigned char>(letter) >= 0x80;
@@ -26,7 +27,8 @@ inline bool IsBlank(char letter) {
   return letter == ' ' || letter == '\t' || letter == '\n' || letter == '\r' || letter == '\f';
 }
 
-/// Behind the string whose quote stands at `begin`, at the latest behind the line.
+/// The offset behind the string whose opening quote stands at `begin`; the line's end where no
+/// quote closes it.
 inline qsizetype StringEnd(QByteArrayView line, qsizetype begin) {
   for (qsizetype end = begin + 1; end < line.size(); ++end) {
     if (line[end] == '\\')

@@ -19,7 +19,9 @@ struct TextCharacter {
   }
 };
 
+/// The character that begins at an offset of the text.
 TextCharacter CharacterAt(QStringView text, qsizetype at);
+/// All characters of the text, in order.
 std::vector<TextCharacter> CharactersOf(QStringView text);
 
 }  // namespace velor
