@@ -310,6 +310,27 @@ TEST(QsciSourceControlTest, AViewIgnoresTheKeyboardAndAnEditorTakesIt) {
   EXPECT_EQ(editor.Text(), QStringLiteral("xa"));
 }
 
+TEST(QsciSourceControlTest, ATextPutInAnothersPlaceIsOneStepThatUndoTakesBack) {
+  QWidget host;
+  host.show();
+  QsciSourceControl source(&host, SourceAccess::Edit);
+  source.SetText(QStringLiteral("a\n"));
+  QTest::keyClicks(source.Widget(), QStringLiteral("typed "));
+  source.ReplaceText(QStringLiteral("b\r\nb\r\n"));
+  EXPECT_EQ(source.Text(), QStringLiteral("b\r\nb\r\n"));
+  QTest::keyClick(source.Widget(), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(source.Text(), QStringLiteral("typed a\n"));
+}
+
+TEST(QsciSourceControlTest, ANewLineGetsTheLineEndThatMostLinesHave) {
+  QWidget host;
+  host.show();
+  QsciSourceControl source(&host, SourceAccess::Edit);
+  source.SetText(QStringLiteral("a\nb\nc\r\n"));
+  QTest::keyClick(source.Widget(), Qt::Key_Return);
+  EXPECT_EQ(source.Text(), QStringLiteral("\na\nb\nc\r\n"));
+}
+
 TEST(QsciSourceControlTest, ANewLineGetsTheLineEndOfTheText) {
   QWidget host;
   host.show();
