@@ -19,12 +19,12 @@ using namespace std::chrono_literals;
 
 /// Between two keys of somebody who types on there is less than this.
 constexpr std::chrono::milliseconds Pause = 150ms;
-/// With the component's own delay this leaves the journal less than two seconds behind.
+/// With the component's own delay the journal is less than two seconds behind.
 constexpr std::chrono::milliseconds LongestDelay = 600ms;
-/// Whoever rests this long does not wait for a key to show.
+/// Nobody who paused this long waits for a key to show.
 constexpr std::chrono::milliseconds Idle = 500ms;
-/// After this a moment between two keys is used to bring the journal to the disk. They come about
-/// once a second.
+/// A journal that waits longer than this for the disk is synced at the next pause between keys,
+/// which comes about once a second.
 constexpr std::chrono::milliseconds LongestUnsynced = 500ms;
 
 }  // namespace
@@ -33,103 +33,117 @@ PageJournal::PageJournal(EditorContext &context, EditingComponent &component, in
     : context_(context), component_(component), number_(number) {
   if (context.platform.journals != nullptr) journal_ = context.platform.journals->Begin();
   writing_.setSingleShot(true);
-  resting_.setSingleShot(true);
+  compacting_.setSingleShot(true);
   QObject::connect(&writing_, &QTimer::timeout, [this] { Write(); });
-  QObject::connect(&resting_, &QTimer::timeout, [this] { RestWhenIdle(); });
+  QObject::connect(&compacting_, &QTimer::timeout, [this] { CompactWhenIdle(); });
 }
 
-void PageJournal::Follow() {
-  // Before it is settled for the first time the page is still being made.
-  if (!journal_ || !settled_) return;
+void PageJournal::DocumentChanged() {
+  if (!journal_ || !saved_) return;
   const QString document = component_.Memory().document;
-  if (hasJournal_ ? document != written_.page.document : !IsSettled(document)) WriteSoon();
-  if (component_.IsIdle()) UseTheMoment();
+  if (hasJournal_ ? document != written_.page.document : !IsSaved(document)) WriteSoon();
+  if (component_.IsIdle()) WriteBetweenKeys();
 }
 
-void PageJournal::FollowSource() {
-  if (journal_ && settled_) WriteSoon();
+void PageJournal::SourceChanged() {
+  if (journal_ && saved_) WriteSoon();
 }
 
 void PageJournal::WriteSoon() {
-  if (hasLeft_) return;
+  if (phase_ != Phase::Following) return;
   if (!sinceChange_.isValid()) sinceChange_.start();
   const std::chrono::milliseconds left =
       LongestDelay - std::chrono::milliseconds(sinceChange_.elapsed());
   writing_.start(std::clamp(left, 0ms, Pause));
-  resting_.start(Idle);
+  compacting_.start(Idle);
 }
 
-void PageJournal::UseTheMoment() {
+void PageJournal::WriteBetweenKeys() {
   if (writing_.isActive()) Write();
   if (!sinceWrite_.isValid() || !sinceWrite_.hasExpired(LongestUnsynced.count())) return;
   sinceWrite_.invalidate();
   Attempt([this] { journal_->Sync(); });
 }
 
-bool PageJournal::Catch() {
-  Write();
-  return !failureTold_;
+bool PageJournal::Flush() {
+  return Write();
 }
 
-void PageJournal::Settle() {
+void PageJournal::MarkSaved() {
   saveFailed_ = false;
-  settled_ = component_.Memory().document;
+  saved_ = component_.Memory().document;
   // A save takes the document alone: a source that was not applied to it is still to be kept.
-  if (Page().source) {
+  if (Page(RunEnd::Unforeseen).source) {
     Write();
   } else {
     Remove();
   }
 }
 
-void PageJournal::SaveFailed() {
+void PageJournal::MarkSaveFailed() {
   saveFailed_ = true;
   if (!hasJournal_) Write();
 }
 
-void PageJournal::Unsettle() {
+void PageJournal::MarkUnsaved() {
   // No serialisation is the null text.
-  settled_ = QString();
+  saved_ = QString();
 }
 
 void PageJournal::Discard() {
   saveFailed_ = false;
-  settled_ = component_.Memory().document;
+  saved_ = component_.Memory().document;
   context_.pages.SetAsideSource(number_).reset();
   Remove();
 }
 
 void PageJournal::Remove() {
   writing_.stop();
-  resting_.stop();
+  compacting_.stop();
   sinceChange_.invalidate();
   sinceWrite_.invalidate();
   if (hasJournal_) journal_->Remove();
   hasJournal_ = false;
 }
 
-void PageJournal::Leave() {
-  if (settled_) {
+void PageJournal::PageCloses() {
+  if (phase_ != Phase::Following) return;
+  if (saved_) {
     Write();
-    Rest();
+    Compact();
   } else {
     Remove();  // a page that was never made whole
   }
-  hasLeft_ = true;
+  phase_ = Phase::Closed;
 }
 
 bool PageJournal::HasChanges() const {
-  return settled_ && !IsSettled(component_.Memory().document);
+  return saved_ && !IsSaved(component_.Memory().document);
 }
 
 bool PageJournal::IsSafe() {
   if (!HasChanges()) return true;
   if (!journal_) return !saveFailed_;
   Write();
-  return hasJournal_ && IsWritten(Page());
+  return hasJournal_ && IsWritten(Page(RunEnd::Unforeseen));
 }
 
-JournalledPage PageJournal::Page() const {
+bool PageJournal::KeepAtExit() {
+  if (!journal_ || !saved_ || phase_ != Phase::Following) return true;
+  const bool isWritten = Write(RunEnd::Exit);
+  phase_ = Phase::KeptAtExit;
+  compacting_.stop();
+  if (!hasJournal_) return isWritten;
+  return Attempt([this] { journal_->Sync(); }) && isWritten;
+}
+
+void PageJournal::CallOffExit() {
+  if (phase_ != Phase::KeptAtExit) return;
+  phase_ = Phase::Following;
+  Write();
+}
+
+JournalledPage PageJournal::Page(RunEnd end) const {
   const PageRecord &record = context_.pages.Record(number_);
   const bool hasFile = record.HasFile != False16;
   const frmCodeEditor *editor = context_.pages.CodeEditor(number_);
@@ -139,35 +153,40 @@ JournalledPage PageJournal::Page() const {
           hasFile ? JournalledPage::Saving::ToItsFile : JournalledPage::Saving::AsksForAName,
           component_.Memory(),
           QDateTime::currentDateTime(),
-          typed ? typed : context_.pages.SetAsideSource(number_)};
+          typed ? typed : context_.pages.SetAsideSource(number_),
+          end};
 }
 
-void PageJournal::Write() {
-  if (!journal_ || hasLeft_) return;
+bool PageJournal::Write(RunEnd end) {
+  if (!journal_ || phase_ != Phase::Following) return true;
   writing_.stop();
   sinceChange_.invalidate();
-  const JournalledPage page = Page();
-  if (hasJournal_ && IsWritten(page)) return;
-  if (IsSettled(page.page.document) && !page.source && !saveFailed_) return Remove();
-  if (!Attempt([&] { journal_->Write(page); })) return;
+  const JournalledPage page = Page(end);
+  if (hasJournal_ && IsWritten(page)) return true;
+  if (IsSaved(page.page.document) && !page.source && !saveFailed_) {
+    Remove();
+    return true;
+  }
+  if (!Attempt([&] { journal_->Write(page); })) return false;
   if (!sinceWrite_.isValid()) sinceWrite_.start();
   hasJournal_ = true;
   written_ = page;
+  return true;
 }
 
 bool PageJournal::IsWritten(const JournalledPage &page) const {
   return page.path == written_.path && page.saving == written_.saving &&
-         page.page == written_.page && page.source == written_.source;
+         page.page == written_.page && page.source == written_.source && page.end == written_.end;
 }
 
-void PageJournal::RestWhenIdle() {
-  component_.IsIdle() ? Rest() : resting_.start(Idle);
+void PageJournal::CompactWhenIdle() {
+  component_.IsIdle() ? Compact() : compacting_.start(Idle);
 }
 
-void PageJournal::Rest() {
-  resting_.stop();
+void PageJournal::Compact() {
+  compacting_.stop();
   sinceWrite_.invalidate();
-  if (hasJournal_) Attempt([this] { journal_->Rest(); });
+  if (hasJournal_) Attempt([this] { journal_->Compact(); });
 }
 
 template <typename Step>

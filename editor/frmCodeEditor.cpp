@@ -67,7 +67,7 @@ std::optional<QString> frmCodeEditor::UnappliedText() const {
 }
 
 void frmCodeEditor::TellJournal() {
-  if (frmMain *page = context_.pages.Page(number_)) page->Journal().FollowSource();
+  if (frmMain *page = context_.pages.Page(number_)) page->Journal().SourceChanged();
 }
 
 void frmCodeEditor::Fill(const QString &source, const ElementPlaces &caret) {
@@ -185,7 +185,7 @@ void frmCodeEditor::closeEvent(QCloseEvent *event) {
   }
   context_.pages.Record(number_).EditorOpen = False16;
   // What was not applied nobody wants any more.
-  if (frmMain *page = context_.pages.Page(number_)) page->Journal().Catch();
+  if (frmMain *page = context_.pages.Page(number_)) page->Journal().Flush();
   context_.pages.CodeEditor(number_).clear();
   context_.mainWindow.windows.Release(this);
   event->accept();

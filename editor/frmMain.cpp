@@ -210,12 +210,12 @@ void frmMain::closeEvent(QCloseEvent *event) {
 
 void frmMain::DocumentComplete() {
   context_.mainWindow.status.ShowTextForm(component_->TextForm());
-  journal_.Follow();
+  journal_.DocumentChanged();
   if (PendingAction != QStringLiteral("gethtml")) return;
   // A load completes right after its page is made, so that this is the slot made last. Where files
   // are taken several at once the next page may be there already: the baseline is this page's.
   context_.pages.Record(number_).SavedHTML = component_->DocumentHTML();
-  journal_.Settle();
+  journal_.MarkSaved();
   PendingAction.clear();
 }
 
@@ -228,7 +228,7 @@ void frmMain::DisplayChanged() {
 }
 
 void frmMain::MemoryChanged() {
-  journal_.Follow();
+  journal_.DocumentChanged();
   const bool isReadOnly = context_.pages.Record(number_).ReadOnly != False16;
   if (!isReadOnly || isReadOnlyTold_ || !journal_.HasChanges()) return;
   isReadOnlyTold_ = true;

@@ -252,9 +252,9 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
     const bool isReadOnly = record.ReadOnly != False16;
     Present(context, window,
             isReadOnly ? record.Caption + QStringLiteral(" (Read-Only)") : record.Caption);
-    window.Journal().Unsettle();
+    window.Journal().MarkUnsaved();
     if (kept.source) window.ReopenEditor(*kept.source);
-    isKeptAgain = window.Journal().Catch();
+    isKeptAgain = window.Journal().Flush();
   });
   return isKeptAgain;
 }

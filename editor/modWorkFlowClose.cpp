@@ -81,7 +81,7 @@ CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window) {
 
 void CleanUpAfterPage(EditorContext &context, frmMain &window) {
   const int number = window.Number();
-  window.Journal().Leave();
+  window.Journal().PageCloses();
   context.platform.runtime.ProcessPendingEvents();
   {
     const BusyCursor busy(context.platform.runtime);

@@ -77,7 +77,7 @@ bool HasGone(const EditorContext &context, int number, const QString &path) {
 void WriteFile(frmMain &window, const QString &path) {
   const EditorContext &context = window.Context();
   // Should the program not live to the end of it, no key is lost.
-  window.Journal().Catch();
+  window.Journal().Flush();
   const bool hasGone = HasGone(context, window.Number(), path);
   KeepForeignVersion(window.Context(), window.Number(), path);
   window.DHTML1().SaveDocument(path);
@@ -102,9 +102,9 @@ std::optional<RuntimeError> SavePlain(EditorContext &context, frmMain &window,
   Attempt(context, file, [&] { record.SavedHTML = window.DHTML1().DocumentHTML(); });
   record.Path = dialog.FileName;
   if (failure) {
-    window.Journal().SaveFailed();
+    window.Journal().MarkSaveFailed();
   } else {
-    window.Journal().Settle();
+    window.Journal().MarkSaved();
   }
   return failure;
 }
@@ -163,14 +163,14 @@ void WriteToNewFolder(EditorContext &context, frmMain &window, const QString &fr
 void SaveUnderNewName(frmMain &window, FileDialog &dialog, PageRecord &record) {
   const QString file = dialog.FileName;
   WriteToNewFolder(window.Context(), window, record.Path, file);
-  window.Journal().Settle();
+  window.Journal().MarkSaved();
   TakeFile(window.Context(), record, file);
   record.SavedHTML = window.DHTML1().DocumentHTML();
   record.Path = file;
   window.setWindowTitle(modGeneral::FileNameOfPath(file));
   window.UpdateTabCaption();
   window.DHTML1().LoadDocument(file);
-  window.Journal().Settle();
+  window.Journal().MarkSaved();
   // The page may have been read-only before.
   window.CheckAcc();
 }

@@ -11,6 +11,14 @@
 
 namespace velor {
 
+/// How the run ended that left a page's journal behind.
+enum class RunEnd {
+  /// It crashed, was killed, or still runs.
+  Unforeseen,
+  /// The person closed the program with the page unsaved.
+  Exit,
+};
+
 /// A page with unsaved changes, as a journal has it.
 struct JournalledPage {
   /// The page's file in logic form; empty for one that was never saved.
@@ -21,32 +29,32 @@ struct JournalledPage {
   PageMemory page;
   /// When the document was like this.
   QDateTime time;
-  /// What the page's source editor holds, where that was not applied to the document.
+  /// The text of the page's source editor, where it was not applied to the document.
   std::optional<QString> source = std::nullopt;
+  RunEnd end = RunEnd::Unforeseen;
 };
 
-/// The journal of one page: what it holds is on this side of the process's end as soon as Write
-/// has returned, and on the disk when Sync or Rest has. A journal that nobody removes is an
-/// abandoned page of a later run. Failures are RuntimeErrors; what was written before stays
-/// readable.
+/// The journal of one page. It survives a crash of the process once Write returns, and of the
+/// machine once Sync or Compact returns. A journal that nobody removes is an abandoned page of a
+/// later run. Failures are RuntimeErrors; what was written before stays readable.
 class Journal {
  public:
   virtual ~Journal() = default;
 
-  /// Appends what has changed since the last time.
+  /// Appends what has changed since the last Write.
   virtual void Write(const JournalledPage &page) = 0;
-  /// Brings it to the disk. For a moment between two keys.
+  /// Brings it to the disk. Short enough for a moment between two keys.
   virtual void Sync() = 0;
-  /// Brings it to the disk, and into a shorter form where it has grown. For when the person rests.
-  virtual void Rest() = 0;
-  /// The changes are saved, or nobody wants them. The next Write begins anew.
+  /// Sync, and a shorter file where it has grown. For when nobody types.
+  virtual void Compact() = 0;
+  /// Deletes it: the changes are saved, or nobody wants them. The next Write begins anew.
   virtual void Remove() = 0;
 };
 
 /// What a list says of a page whose program ended before its changes were saved.
 struct AbandonedPage {
   QString id;
-  /// As JournalledPage has them.
+  /// path, caption, time and end as in JournalledPage.
   QString path;
   QString caption;
   QDateTime time;
@@ -55,6 +63,7 @@ struct AbandonedPage {
   /// Why nothing of it can be read, for people. Empty where something can, as far as its beginning
   /// tells.
   QString defect;
+  RunEnd end = RunEnd::Unforeseen;
 };
 
 /// What a journal holds.
@@ -73,8 +82,7 @@ class Journals {
   /// Why no journal can be written, for people; empty where they can.
   virtual QString Hindrance() = 0;
 
-  /// A journal with nothing in it yet; nothing is made before the first Write. Must not outlive
-  /// the Journals.
+  /// An empty journal; no file is made before the first Write. Must not outlive the Journals.
   virtual std::unique_ptr<Journal> Begin() = 0;
 
   /// The pages of runs that have ended, newest first; from now on they are this run's to offer.
@@ -82,7 +90,7 @@ class Journals {
   virtual std::vector<AbandonedPage> Abandoned() = 0;
   /// What is left of an abandoned page. Raises RuntimeError where that is nothing.
   virtual JournalReading Read(const QString &id) = 0;
-  /// Does away with an abandoned page. Raises RuntimeError where it cannot.
+  /// Deletes the journal of an abandoned page. Raises RuntimeError where it cannot.
   virtual void Discard(const QString &id) = 0;
 };
 

@@ -116,7 +116,8 @@ class JournalFile : public Journal {
       WriteWhole(page, Durability::Process);
     } else if (IsSamePage(page)) {
       Append(JournalChange(last_.page.document, page.page.document, page.time) +
-             JournalSourceChange(last_.source, page.source, page.time));
+             JournalSourceChange(last_.source, page.source, page.time) +
+             JournalEnd(page.end, page.time));
     } else {
       Append(JournalRecord(page));
     }
@@ -129,7 +130,7 @@ class JournalFile : public Journal {
     SyncName();
   }
 
-  void Rest() override {
+  void Compact() override {
     if (!file_.IsOpen()) return;
     if (size_ <= 2 * WholeSize() + MostSlack) return Sync();
     WriteWhole(last_, Durability::Disk);

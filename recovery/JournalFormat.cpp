@@ -19,6 +19,7 @@ enum class Kind : quint8 {
   SourceChange = 3,
   SourceGone = 4,
   PageWithSource = 5,
+  KeptAtExit = 6,
 };
 
 constexpr qsizetype LengthSize = sizeof(quint64);
@@ -89,6 +90,11 @@ std::optional<JournalledPage> WholePage(QDataStream &stream, Kind kind) {
   return whole;
 }
 
+/// A run that wrote on after its record of an exit did not end there.
+RunEnd EndOf(Kind last) {
+  return last == Kind::KeptAtExit ? RunEnd::Exit : RunEnd::Unforeseen;
+}
+
 /// Carries a record out on the page; false, with nothing changed, for one that says nothing to us.
 bool Apply(const QByteArray &payload, std::optional<JournalledPage> &page) {
   QDataStream stream(payload);
@@ -108,9 +114,10 @@ bool Apply(const QByteArray &payload, std::optional<JournalledPage> &page) {
     page->source = source;
   } else if (kind == Kind::SourceGone && page) {
     page->source.reset();
-  } else {
+  } else if (kind != Kind::KeptAtExit || !page) {
     return false;
   }
+  page->end = EndOf(kind);
   page->time = QDateTime::fromMSecsSinceEpoch(time);
   return true;
 }
@@ -127,7 +134,13 @@ QByteArray JournalRecord(const JournalledPage &page) {
                   static_cast<quint8>(page.saving), page.page.original, page.page.base,
                   page.page.document, source...);
   };
-  return page.source ? record(Kind::PageWithSource, *page.source) : record(Kind::Page);
+  return (page.source ? record(Kind::PageWithSource, *page.source) : record(Kind::Page)) +
+         JournalEnd(page.end, page.time);
+}
+
+QByteArray JournalEnd(RunEnd end, const QDateTime &time) {
+  if (end != RunEnd::Exit) return {};
+  return Record(Kind::KeptAtExit, qint64{time.toMSecsSinceEpoch()});
 }
 
 QByteArray JournalChange(const QString &before, const QString &after, const QDateTime &time) {
@@ -180,7 +193,8 @@ std::optional<AbandonedPage> SummariseJournal(QIODevice &journal) {
     if (kind == Kind::Page || kind == Kind::PageWithSource) stream >> read.path >> read.caption;
     if (stream.status() != QDataStream::Ok) return summary;
     read.time = QDateTime::fromMSecsSinceEpoch(time);
-    if (kind != Kind::Change)
+    read.end = EndOf(kind);
+    if (kind != Kind::Change && kind != Kind::KeptAtExit)
       read.hasSource = kind == Kind::SourceChange || kind == Kind::PageWithSource;
     summary = read;
     if (!journal.seek(next)) return summary;

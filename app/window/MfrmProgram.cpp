@@ -17,6 +17,7 @@
 #include "chrome/ProgramWindow.h"
 #include "chrome/ReportingSweeps.h"
 #include "chrome/frmAbout.h"
+#include "editor/PagesAtExit.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmMain.h"
 #include "platform/Dialogs.h"
@@ -32,6 +33,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -235,6 +237,10 @@ void MfrmProgram::ChildActivated() {
 }
 
 void MfrmProgram::closeEvent(QCloseEvent *event) {
+  // Waiting for a page lets another request to close in.
+  if (isClosing_) return event->ignore();
+  const QScopedValueRollback<bool> closing(isClosing_, true);
+  if (!KeepPagesAtExit(context_)) return event->ignore();
   Q_EMIT Unloading();
   UnloadProgramWindows();
   event->accept();

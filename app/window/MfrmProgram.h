@@ -111,6 +111,7 @@ class MfrmProgram final : public QMainWindow,
   std::unique_ptr<ProjectDesk> projects_;
   std::unique_ptr<EditingComponent> DE1;
   QPointer<QWidget> lastActivated_;
+  bool isClosing_ = false;
   /// The element under the caret as the tool box knows it; empty where none is looked at.
   QString inspectedElement_;
 };

@@ -4,13 +4,16 @@
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
 #include "editor/MainWindow.h"
+#include "editor/PageSlots.h"
 #include "editor/frmBrowser.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "page/saving/FaithfulPage.h"
+#include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
+#include "platform/RuntimeError.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -24,6 +27,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace velor {
@@ -42,6 +46,7 @@ QString NoteOn(const AbandonedPage &page, const Files &files) {
   QStringList parts;
   parts << QStringLiteral("changed %1")
                .arg(page.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+  if (page.end == RunEnd::Exit) parts << QStringLiteral("kept at exit");
   if (!page.defect.isEmpty()) {
     parts << page.defect;
   } else if (page.path.isEmpty()) {
@@ -56,11 +61,22 @@ QString NoteOn(const AbandonedPage &page, const Files &files) {
   return parts.join(QStringLiteral("  ·  "));
 }
 
+QString CaptionOf(const std::vector<AbandonedPage> &pages) {
+  const bool isExit = std::all_of(pages.begin(), pages.end(), [](const AbandonedPage &page) {
+    return page.end == RunEnd::Exit;
+  });
+  return isExit ? QStringLiteral(
+                      "These pages were kept at exit with their unsaved changes (Alt+G leads to "
+                      "them):")
+                : QStringLiteral(
+                      "These pages were not saved when the program ended (Alt+G leads to them):");
+}
+
 QPushButton *AddButton(QHBoxLayout &row, const char *objectName, const QString &caption,
-                       const QString &page, const QString &tooltip) {
+                       const QString &accessibleName, const QString &tooltip) {
   auto *button = new QPushButton(caption);
   button->setObjectName(QString::fromLatin1(objectName));
-  button->setAccessibleName(caption + u' ' + page);
+  button->setAccessibleName(accessibleName);
   button->setToolTip(tooltip);
   button->setAutoDefault(false);
   row.addWidget(button);
@@ -89,9 +105,6 @@ RecoveryBar::RecoveryBar(EditorContext &context, QWidget *parent)
   // A shortcut of its own: a label's letter would press the button at once.
   connect(new QShortcut(Qt::ALT | Qt::Key_G, this), &QShortcut::activated, this,
           [this] { FirstButtonOf(*rows_, 0)->setFocus(Qt::ShortcutFocusReason); });
-  auto *caption = new QLabel(
-      QStringLiteral("These pages were not saved when the program ended (Alt+G leads to them):"));
-  caption->setObjectName(QStringLiteral("lblRecovery"));
   auto *content = new QWidget;
   content->setObjectName(QStringLiteral("picRecoveryRows"));
   rows_ = new QVBoxLayout(content);
@@ -110,9 +123,27 @@ RecoveryBar::RecoveryBar(EditorContext &context, QWidget *parent)
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
   column->setSpacing(BarMargin);
-  column->addWidget(caption);
+  BuildCaption(*column);
   column->addWidget(scroller_);
   hide();
+}
+
+void RecoveryBar::BuildCaption(QVBoxLayout &column) {
+  auto *line = new QHBoxLayout;
+  line->setSpacing(BarMargin);
+  caption_ = new QLabel;
+  caption_->setObjectName(QStringLiteral("lblRecovery"));
+  caption_->setTextFormat(Qt::PlainText);
+  line->addWidget(caption_, 1);
+  QPushButton *restore = AddButton(*line, "cmdRestoreAll", QStringLiteral("Restore All"),
+                                   QStringLiteral("Restore all pages"),
+                                   QStringLiteral("Open all pages with their unsaved changes"));
+  connect(restore, &QPushButton::clicked, this, &RecoveryBar::RestoreAll);
+  QPushButton *discard = AddButton(
+      *line, "cmdDiscardAll", QStringLiteral("Discard All"), QStringLiteral("Discard all pages"),
+      QStringLiteral("Give the unsaved changes of all pages up, after a question"));
+  connect(discard, &QPushButton::clicked, this, &RecoveryBar::DiscardAll);
+  column.addLayout(line);
 }
 
 void RecoveryBar::Offer() {
@@ -130,6 +161,7 @@ void RecoveryBar::Fill() {
   // Whoever goes to the first by Alt+G and presses is to restore, not to discard.
   std::stable_partition(pages.begin(), pages.end(),
                         [](const AbandonedPage &page) { return page.defect.isEmpty(); });
+  caption_->setText(CaptionOf(pages));
   for (const AbandonedPage &page : pages) AddRow(page);
   QuietenNotes();
   FitRows();
@@ -167,20 +199,25 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
   details->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   line->addWidget(details, 1);
 
-  QPushButton *restore = AddButton(*line, "cmdRestore", QStringLiteral("Restore"), name,
-                                   QStringLiteral("Open the page with its unsaved changes"));
-  connect(restore, &QPushButton::clicked, this, [=, this] { Restore(row, abandoned); });
-  QPushButton *show = AddButton(*line, "cmdShow", QStringLiteral("Show"), name,
-                                QStringLiteral("Look at the page in the preview"));
+  const Offered offered{row, abandoned};
+  const auto add = [&](const char *objectName, const QString &verb, const QString &tooltip) {
+    return AddButton(*line, objectName, verb, verb + u' ' + name, tooltip);
+  };
+  QPushButton *restore = add("cmdRestore", QStringLiteral("Restore"),
+                             QStringLiteral("Open the page with its unsaved changes"));
+  connect(restore, &QPushButton::clicked, this, [=, this] { RestoreOne(offered); });
+  QPushButton *show =
+      add("cmdShow", QStringLiteral("Show"), QStringLiteral("Look at the page in the preview"));
   connect(show, &QPushButton::clicked, this, [=, this] { Show(abandoned); });
-  QPushButton *discard = AddButton(*line, "cmdDiscard", QStringLiteral("Discard"), name,
-                                   QStringLiteral("Give the unsaved changes up"));
-  connect(discard, &QPushButton::clicked, this, [=, this] { Discard(row, abandoned.id); });
+  QPushButton *discard =
+      add("cmdDiscard", QStringLiteral("Discard"), QStringLiteral("Give the unsaved changes up"));
+  connect(discard, &QPushButton::clicked, this, [=, this] { Discard(offered); });
   for (QPushButton *button : {restore, show, discard}) {
     button->setEnabled(abandoned.defect.isEmpty() || button == discard);
     button->installEventFilter(this);
   }
   rows_->addWidget(row);
+  offered_.push_back(offered);
   // Where the bar is in sight already, a new row would come by itself only later, and count as
   // nothing until then.
   row->show();
@@ -196,10 +233,42 @@ JournalledPage RecoveryBar::Read(const AbandonedPage &abandoned) {
   return std::move(reading.page);
 }
 
-void RecoveryBar::Restore(QWidget *row, const AbandonedPage &abandoned) {
+void RecoveryBar::RestoreOne(const Offered &offered) {
+  if (context_.mainWindow.tabs.Count() < MostPages) return Restore(offered);
+  context_.mainWindow.status.Report(
+      QStringLiteral("%1 stays here: %2 pages are open, which is the most. Close one, then restore "
+                     "it")
+          .arg(NameOf(offered.page))
+          .arg(MostPages));
+}
+
+void RecoveryBar::RestoreAll() {
+  std::vector<Offered> readable;
+  std::copy_if(offered_.begin(), offered_.end(), std::back_inserter(readable),
+               [](const Offered &offered) { return offered.page.defect.isEmpty(); });
+  const auto room =
+      static_cast<std::size_t>(std::max(0, MostPages - context_.mainWindow.tabs.Count()));
+  const std::size_t count = std::min(room, readable.size());
+  // The newest find room; their tabs come in the order in which they were changed.
+  for (std::size_t next = count; next-- > 0;) {
+    try {
+      Restore(readable[next]);
+    } catch (const RuntimeError &error) {
+      context_.mainWindow.status.Report(
+          QStringLiteral("%1 could not be restored: %2")
+              .arg(NameOf(readable[next].page), error.Description()));
+    }
+  }
+  if (count == readable.size()) return;
+  context_.mainWindow.status.Report(
+      QStringLiteral("%1 more stay here: %2 pages are open, which is the most")
+          .arg(readable.size() - count)
+          .arg(MostPages));
+}
+
+void RecoveryBar::Restore(const Offered &offered) {
   // Only what another journal holds may go.
-  if (!modWorkFlow::RestorePage(context_, Read(abandoned))) return;
-  Discard(row, abandoned.id);
+  if (modWorkFlow::RestorePage(context_, Read(offered.page))) Discard(offered);
 }
 
 void RecoveryBar::Show(const AbandonedPage &abandoned) {
@@ -213,14 +282,27 @@ void RecoveryBar::Show(const AbandonedPage &abandoned) {
       QUrl::fromLocalFile(memory.base));
 }
 
-void RecoveryBar::Discard(QWidget *row, const QString &id) {
-  context_.platform.journals->Discard(id);
-  RemoveRow(row);
+void RecoveryBar::Discard(const Offered &offered) {
+  context_.platform.journals->Discard(offered.page.id);
+  RemoveRow(offered.row);
+}
+
+void RecoveryBar::DiscardAll() {
+  Message question;
+  question.text = QStringLiteral(
+                      "Discard the unsaved changes of all pages listed here (%1)? They cannot be "
+                      "brought back.")
+                      .arg(offered_.size());
+  question.buttons = MessageButtons::YesNo;
+  question.icon = MessageIcon::Question;
+  if (context_.platform.dialogs.ShowMessage(question) != MessageAnswer::Yes) return;
+  for (const Offered &offered : std::vector(offered_)) Discard(offered);
 }
 
 void RecoveryBar::RemoveRow(QWidget *row) {
   const bool hadFocus = row->isAncestorOf(QApplication::focusWidget());
   const int place = rows_->indexOf(row);
+  offered_.erase(offered_.begin() + place);
   rows_->removeWidget(row);
   row->hide();
   row->deleteLater();

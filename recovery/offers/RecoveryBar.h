@@ -6,17 +6,21 @@
 
 #include <QFrame>
 
+#include <vector>
+
+class QLabel;
 class QPushButton;
 class QScrollArea;
 class QVBoxLayout;
 
 namespace velor {
 
-/// The strip above the page area that offers pages whose program ended before they were saved. A
-/// row for each: its name, the time of its last change, whether its file has become newer; Restore
-/// opens it as it was left, Show lets the person look at it in the preview, Discard does away with
-/// it. Hidden while there is nothing to offer. What is not decided is offered again by the next
-/// run.
+/// The strip above the page area that offers pages with unsaved changes: those of a run that
+/// crashed, and those that an exit kept. One row a page: its name, the time of its last change, how
+/// the file on disk compares. Restore opens the page as it was left, Show opens it in the preview,
+/// Discard deletes its journal; Restore All and Discard All do so with every row. At most MostPages
+/// are open at once: what finds no room stays in the bar. Hidden while there is nothing to offer.
+/// What is not decided is offered again by the next run.
 ///
 /// Alt+G leads to the first row from anywhere in the window. From there Left and Right go along a
 /// row, Up and Down, Home and End along the rows; Space and Enter press.
@@ -38,14 +42,23 @@ class RecoveryBar final : public QFrame {
   void changeEvent(QEvent *event) override;
 
  private:
+  struct Offered {
+    QWidget *row;
+    AbandonedPage page;
+  };
+
+  void BuildCaption(QVBoxLayout &column);
   void Fill();
   void AddRow(const AbandonedPage &abandoned);
-  void Restore(QWidget *row, const AbandonedPage &abandoned);
+  void RestoreOne(const Offered &offered);
+  void RestoreAll();
+  void Restore(const Offered &offered);
   void Show(const AbandonedPage &abandoned);
-  void Discard(QWidget *row, const QString &id);
+  void Discard(const Offered &offered);
+  void DiscardAll();
   /// What the journal holds; the status bar says where its end is missing.
   JournalledPage Read(const AbandonedPage &abandoned);
-  /// Takes the focus from a button to another of the bar; false for keys that do not.
+  /// Takes the focus from a button of a row to another; false for keys that do not.
   bool Walk(QPushButton *from, int key);
   void RemoveRow(QWidget *row);
   /// Height for the rows there are, a few at most.
@@ -53,6 +66,8 @@ class RecoveryBar final : public QFrame {
   void QuietenNotes();
 
   EditorContext &context_;
+  std::vector<Offered> offered_;  ///< in the order of the rows
+  QLabel *caption_ = nullptr;
   QScrollArea *scroller_ = nullptr;
   QVBoxLayout *rows_ = nullptr;
 };

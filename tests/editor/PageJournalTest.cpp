@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // When a page's changes are journalled, and when the journal goes.
+#include "editor/PagesAtExit.h"
 #include "editor/modWorkFlow.h"
 #include "tests/editor/EditorWorld.h"
 #include "tests/support/FakeJournals.h"
@@ -85,7 +86,7 @@ TEST_F(PageJournals, ItGoesToTheDiskInAPause) {
   Open(IndexFile);
   Component(1).isIdle = true;
   Change(1);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return journals.rests > 0; }, LongestDelay));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return journals.compactings > 0; }, LongestDelay));
 }
 
 TEST_F(PageJournals, ItGoesToTheDiskBetweenKeysWhereNobodyPauses) {
@@ -101,7 +102,7 @@ TEST_F(PageJournals, ItGoesToTheDiskBetweenKeysWhereNobodyPauses) {
       },
       5 * LongestDelay));
   EXPECT_LE(typing.elapsed(), 2 * LongestDelay);
-  EXPECT_EQ(journals.rests, 0);
+  EXPECT_EQ(journals.compactings, 0);
 }
 
 TEST_F(PageJournals, ItDoesNotGoToTheDiskWhileAKeyIsOnItsWay) {
@@ -110,7 +111,7 @@ TEST_F(PageJournals, ItDoesNotGoToTheDiskWhileAKeyIsOnItsWay) {
   EXPECT_FALSE(QTest::qWaitFor(
       [&] {
         Component(1).Edit(QStringLiteral("<p>%1</p>").arg(++keys));
-        return journals.syncs + journals.rests > 0;
+        return journals.syncs + journals.compactings > 0;
       },
       2 * LongestDelay));
   EXPECT_FALSE(IsEmpty());
@@ -120,7 +121,7 @@ TEST_F(PageJournals, WhatIsOnTheDiskIsNotBroughtThereAgain) {
   Open(IndexFile);
   Component(1).isIdle = true;
   Change(1);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return journals.rests > 0; }, LongestDelay));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return journals.compactings > 0; }, LongestDelay));
   EXPECT_FALSE(QTest::qWaitFor(
       [&] {
         Component(1).Edit(Changed);
@@ -251,6 +252,89 @@ TEST_F(PageJournals, APageClosedByForceStaysInIt) {
   Page(1).MarkKill();
   Page(1).close();
   EXPECT_TRUE(IsWritten(Changed));
+}
+
+class ExitJournals : public PageJournals {
+ protected:
+  /// What the main window does at its end.
+  bool Exit() {
+    if (!KeepPagesAtExit(context)) return false;
+    for (int number = 1; number <= pages.PageCount(); ++number) {
+      if (pages.CodeEditor(number)) pages.CodeEditor(number)->MarkKill();
+      if (pages.Page(number)) pages.Page(number)->MarkKill();
+    }
+    for (int number = 1; number <= pages.PageCount(); ++number) {
+      if (pages.CodeEditor(number)) pages.CodeEditor(number)->close();
+      if (pages.Page(number)) pages.Page(number)->close();
+    }
+    return true;
+  }
+  void ExpectQuestion(MessageAnswer answer) {
+    dialogs.ExpectMessage(
+        QStringLiteral("The unsaved changes of index.htm cannot be kept for the next start. They "
+                       "are lost if the program ends now.\n\nEnd the program all the same?"),
+        answer);
+  }
+};
+
+TEST_F(ExitJournals, UnsavedChangesAreKeptUnaskedAndSavedPagesLeaveNothing) {
+  Open(QStringLiteral("\\site\\saved.htm"));
+  Open(IndexFile);
+  Component(2).Edit(Changed);
+  EXPECT_TRUE(Exit());
+  EXPECT_TRUE(dialogs.messages.empty());
+  ASSERT_EQ(journals.Written().size(), 1);
+  EXPECT_EQ(journals.Written()[0].path, IndexFile);
+  EXPECT_EQ(journals.Written()[0].page.document, Changed);
+  EXPECT_EQ(journals.Written()[0].end, RunEnd::Exit);
+  EXPECT_GT(journals.syncs, 0);
+}
+
+TEST_F(ExitJournals, WhatWasJournalledBeforeIsMarkedAsKeptAtExit) {
+  Open(IndexFile);
+  Change(1);
+  EXPECT_EQ(journals.Written()[0].end, RunEnd::Unforeseen);
+  EXPECT_TRUE(Exit());
+  EXPECT_EQ(journals.Written()[0].end, RunEnd::Exit);
+}
+
+TEST_F(ExitJournals, WhereAPageCannotBeKeptExitAsksAndNoGoesOn) {
+  Open(IndexFile);
+  journals.writeFailure = ErrorNumber::DiskFull;
+  Component(1).Edit(Changed);
+  ExpectQuestion(MessageAnswer::No);
+  EXPECT_FALSE(Exit());
+  EXPECT_EQ(dialogs.messages.size(), 1);
+  // The page is followed on, and its journal no longer says that it was left at an exit.
+  journals.writeFailure.reset();
+  Change(1, QStringLiteral("<p>room again</p>"));
+  EXPECT_EQ(journals.Written()[0].end, RunEnd::Unforeseen);
+}
+
+TEST_F(ExitJournals, YesEndsTheProgramWithoutTheChanges) {
+  Open(IndexFile);
+  journals.writeFailure = ErrorNumber::DiskFull;
+  Component(1).Edit(Changed);
+  ExpectQuestion(MessageAnswer::Yes);
+  EXPECT_TRUE(Exit());
+  EXPECT_TRUE(IsEmpty());
+}
+
+TEST_F(ExitJournals, AFailingDiskIsNoMatterWhereNothingIsUnsaved) {
+  Open(IndexFile);
+  journals.writeFailure = ErrorNumber::DiskFull;
+  EXPECT_TRUE(Exit());
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(ExitJournals, APageWhoseSaveFailedIsKeptToo) {
+  Open(IndexFile);
+  Component(1).Edit(Changed);
+  files.FailNextWrite(ErrorNumber::DiskFull);
+  modWorkFlow::SavePage(context, Page(1), dialog, Record(1), AsBefore);
+  EXPECT_TRUE(Exit());
+  EXPECT_TRUE(IsWritten(Changed));
+  EXPECT_EQ(journals.Written()[0].end, RunEnd::Exit);
 }
 
 TEST_F(PageJournals, AJournalThatCannotBeWrittenIsToldOnce) {
@@ -404,15 +488,18 @@ TEST_F(SourceJournals, ASaveOfThePageKeepsTheSource) {
   EXPECT_EQ(journals.Written().back().path, QStringLiteral("\\site\\new.htm"));
 }
 
-TEST_F(SourceJournals, ASourceClosedByForceStaysWithItsPage) {
+TEST_F(SourceJournals, AnExitKeepsTheSourceThatWasNotApplied) {
   frmCodeEditor &editor = Edit();
   TypeInSource(Typed);
-  Change(1);
+  EXPECT_TRUE(KeepPagesAtExit(context));
   Page(1).MarkKill();
   editor.MarkKill();
+  // The editor may go before its page.
+  editor.close();
   Page(1).close();
-  EXPECT_TRUE(IsWritten(Changed));
   EXPECT_EQ(WrittenSource(), Typed);
+  EXPECT_EQ(journals.Written().back().end, RunEnd::Exit);
+  EXPECT_FALSE(QTest::qWaitFor([&] { return WrittenSource() != Typed; }, LongestDelay));
 }
 
 TEST_F(SourceJournals, ASourceThatThePagesOwnTookThePlaceOfStaysUntilOneIsAppliedOrGivenUp) {
@@ -420,10 +507,10 @@ TEST_F(SourceJournals, ASourceThatThePagesOwnTookThePlaceOfStaysUntilOneIsApplie
   TypeInSource(Typed);
   Page(1).ChangeMode(3);
   EXPECT_NE(Code(1).text, Typed);
-  Page(1).Journal().Catch();
+  Page(1).Journal().Flush();
   EXPECT_EQ(WrittenSource(), Typed);
   editor.ApplyCode();
-  Page(1).Journal().Catch();
+  Page(1).Journal().Flush();
   EXPECT_EQ(WrittenSource(), std::nullopt);
 }
 

@@ -46,7 +46,7 @@ struct Sitting {
     modWorkFlow::OpenPage(context, ToLogic(file));
     Component().CompleteDocument();
     Component().Edit(Changed);
-    Page().Journal().Catch();
+    Page().Journal().Flush();
   }
   ~Sitting() {
     const std::vector<QWidget *> windows = mainWindow.adopted;

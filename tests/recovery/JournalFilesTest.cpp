@@ -87,7 +87,7 @@ TEST_F(JournalFilesTest, AJournalThatHasGrownBecomesShortAgainAndGoesOn) {
     }
     const QString file = Files().filter(QStringLiteral(".page")).value(0);
     EXPECT_GT(QFileInfo(file).size(), 300'000);
-    journal->Rest();
+    journal->Compact();
     EXPECT_LT(QFileInfo(file).size(), 10'000);
     EXPECT_EQ(ModeOf(file), 0600u);
     journal->Write(Page(QStringLiteral("the last")));
@@ -120,7 +120,7 @@ TEST_F(JournalFilesTest, ADiskThatCannotSyncIsAnError) {
   const auto journal = journals.Begin();
   journal->Write(Page(QStringLiteral("one")));
   calls.Fail(FaultyCalls::Call::Sync, EIO);
-  EXPECT_EQ(ErrorOf([&] { journal->Rest(); }), ErrorNumber::DeviceIoError);
+  EXPECT_EQ(ErrorOf([&] { journal->Compact(); }), ErrorNumber::DeviceIoError);
 }
 
 TEST_F(JournalFilesTest, AStateFolderThatCannotBeMadeIsAnError) {
@@ -172,16 +172,16 @@ TEST_F(JournalFilesTest, AJournalGoesToTheDiskBeforeItsNameAndTheNameBeforeItsFo
   const auto journal = journals.Begin();
   journal->Write(Page(QStringLiteral("one")));
   calls.order.clear();
-  journal->Rest();
+  journal->Compact();
   using Call = FaultyCalls::Call;
   EXPECT_EQ(calls.order, (std::vector{Call::Sync, Call::Sync, Call::Sync}));
   calls.order.clear();
-  journal->Rest();
+  journal->Compact();
   EXPECT_EQ(calls.order, std::vector{Call::Sync});
   // Grown far beyond the page.
   for (int i = 0; i < 200; ++i) journal->Write(Page(QString(1000, QChar(u'a' + i % 26))));
   calls.order.clear();
-  journal->Rest();
+  journal->Compact();
   EXPECT_EQ(calls.order, (std::vector{Call::Open, Call::Write, Call::Sync, Call::Rename, Call::Sync,
                                       Call::Sync}));
 }
@@ -197,10 +197,10 @@ TEST_F(JournalFilesTest, AProcessThatEndsAtAnyStepLosesNothingThatWasWritten) {
       journal->Write(Page(QStringLiteral("first")));
       calls.KillBefore(step);
       journal->Write(Page(QStringLiteral("first second")));
-      journal->Rest();
+      journal->Compact();
       for (int i = 0; i < 10; ++i)
         journal->Write(Page(QStringLiteral("first ") + QString(30'000, QChar(u'a' + i))));
-      journal->Rest();
+      journal->Compact();
       _exit(0);
     }
     int status = 0;
@@ -257,9 +257,9 @@ TEST_F(JournalFilesTest, EveryCallThatFailsIsAnErrorAndLeavesWhatWasWritten) {
     calls.FailAt(number, error);
     write(QStringLiteral("first"));
     write(QStringLiteral("first second"));
-    attempt([&] { journal->Rest(); });
+    attempt([&] { journal->Compact(); });
     for (int i = 0; i < 10; ++i) write(QString(30'000, QChar(u'a' + i)));
-    attempt([&] { journal->Rest(); });
+    attempt([&] { journal->Compact(); });
     write(QStringLiteral("last"));
     life.hasFailed = calls.calls >= number;
     return life;

@@ -105,10 +105,10 @@ TEST_P(JournalsContract, AJournalNeverWrittenOrRemovedLeavesNothing) {
   const auto never = Subject().Begin();
   const auto removed = Subject().Begin();
   removed->Write(Page(QStringLiteral("a")));
-  removed->Rest();
+  removed->Compact();
   removed->Remove();
   removed->Remove();
-  removed->Rest();
+  removed->Compact();
   EXPECT_TRUE(AfterTheEnd().empty());
 }
 

@@ -16,7 +16,7 @@ class FakeJournal final : public Journal {
     journals_.written_[number_] = page;
   }
   void Sync() override { ++journals_.syncs; }
-  void Rest() override { ++journals_.rests; }
+  void Compact() override { ++journals_.compactings; }
   void Remove() override { journals_.written_.erase(number_); }
 
  private:
@@ -30,11 +30,17 @@ std::unique_ptr<Journal> FakeJournals::Begin() {
 
 std::vector<AbandonedPage> FakeJournals::Abandoned() {
   std::vector<AbandonedPage> pages;
-  for (const QString &defect : defects) pages.push_back({defect, {}, {}, {}, false, defect});
+  for (const QString &defect : defects)
+    pages.push_back({defect, {}, {}, {}, false, defect, RunEnd::Unforeseen});
   for (auto next = abandoned_.rbegin(); next != abandoned_.rend(); ++next) {
     const auto &[number, page] = *next;
-    pages.push_back(
-        {QString::number(number), page.path, page.caption, page.time, page.source.has_value(), {}});
+    pages.push_back({QString::number(number),
+                     page.path,
+                     page.caption,
+                     page.time,
+                     page.source.has_value(),
+                     {},
+                     page.end});
   }
   return pages;
 }

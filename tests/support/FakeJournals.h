@@ -35,7 +35,7 @@ class FakeJournals : public Journals {
   /// Every Write raises this while it is set.
   std::optional<ErrorNumber> writeFailure;
   int syncs = 0;
-  int rests = 0;
+  int compactings = 0;
 
  private:
   friend class FakeJournal;

@@ -4,6 +4,7 @@
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
+#include "tests/support/FakeJournals.h"
 
 #include <QSignalSpy>
 
@@ -28,6 +29,34 @@ TEST_F(ExitTest, UnsavedPagesAreNotAskedAbout) {
   EXPECT_TRUE(dialogs.messages.empty());
   DeleteClosedWindows();
   EXPECT_TRUE(page.isNull());
+}
+
+TEST_F(ExitTest, UnsavedPagesAreInTheJournalsOfTheNextStart) {
+  FakeJournals journals;
+  platform.journals = &journals;
+  ChangedPage();
+  window.close();
+  EXPECT_EQ(unloaded.count(), 1);
+  ASSERT_EQ(journals.Written().size(), 1);
+  EXPECT_EQ(journals.Written()[0].page.document, QStringLiteral("<p>changed</p>"));
+  EXPECT_EQ(journals.Written()[0].end, RunEnd::Exit);
+}
+
+TEST_F(ExitTest, WhereTheyCannotBeKeptNoKeepsTheWindowOpen) {
+  FakeJournals journals;
+  journals.writeFailure = ErrorNumber::DiskFull;
+  platform.journals = &journals;
+  const QPointer<frmMain> page = &ChangedPage();
+  dialogs.ExpectMessage(
+      QStringLiteral("The unsaved changes of Untitled 1 cannot be kept for the next start. They "
+                     "are lost if the program ends now.\n\nEnd the program all the same?"),
+      MessageAnswer::No);
+  EXPECT_FALSE(window.close());
+  DeleteClosedWindows();
+  EXPECT_EQ(unloaded.count(), 0);
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_FALSE(page.isNull());
+  platform.journals = nullptr;
 }
 
 TEST_F(ExitTest, TheExitItemClosesTheWindow) {

@@ -50,7 +50,7 @@ class RealRecovery : public RealWindow {
   /// What another run finds after this one's end, once it holds the text.
   JournalledPage Left(frmMain &page, const QString &text) {
     EXPECT_TRUE(WaitFor([&] { return page.DHTML1().Memory().document.contains(text); }));
-    EXPECT_TRUE(page.Journal().Catch());
+    EXPECT_TRUE(page.Journal().Flush());
     // The process would have ended here; this one goes on, and the page stays.
     const JournalledPage kept{window.Context().pages.Record(page.Number()).Path,
                               page.GetPageRecord().Caption, JournalledPage::Saving::ToItsFile,
@@ -65,6 +65,9 @@ class RealRecovery : public RealWindow {
       found += QDir(root.filePath(run)).entryList({QStringLiteral("*.page")});
     return found;
   }
+
+  /// The run's locks go, as at its process's end; its windows must have gone before.
+  void EndRun() { journals_.reset(); }
 
   SyncCalls calls_;
 
@@ -189,17 +192,39 @@ TEST_F(RealRecovery, ASourceThatWasNotAppliedIsInItsEditorAgainAndIsAppliedFaith
   EXPECT_EQ(Bytes(QStringLiteral("page.htm")), QByteArray(source).replace("one", "typed") + "\r\n");
 }
 
-TEST_F(RealRecovery, ACleanExitLeavesNothingBehind) {
+TEST_F(RealRecovery, AnExitKeepsTheLastKeyAndTheSourceThatWasNotApplied) {
+  Open(QStringLiteral("unchanged.htm"), "<p>zero</p>");
   frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
-  PutCaret(page, QStringLiteral("p"));
-  Type(page, QStringLiteral("X"));
   frmMain &source = NewPage();
   source.ChangeMode(3);
   window.Context().pages.CodeEditor(source.Number())->Code().SetText(QStringLiteral("<p>x</p>"));
-  ASSERT_TRUE(WaitFor([] { return JournalsThere().size() == 2; }));
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("X"));
   Choose("mnuExit");
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  QTest::qWait(0);
+  EXPECT_TRUE(dialogs.messages.empty());
+  EndRun();
+  JournalFiles next;
+  const std::vector<AbandonedPage> kept = next.Abandoned();
+  ASSERT_EQ(kept.size(), 2);
+  for (const AbandonedPage &abandoned : kept) {
+    EXPECT_EQ(abandoned.end, RunEnd::Exit);
+    const JournalledPage left = next.Read(abandoned.id).page;
+    if (abandoned.hasSource) {
+      EXPECT_EQ(left.source, QStringLiteral("<p>x</p>"));
+    } else {
+      EXPECT_TRUE(left.page.document.contains(QStringLiteral("oXne")));
+    }
+  }
+}
+
+TEST_F(RealRecovery, AnExitWithNothingUnsavedLeavesNothingBehind) {
+  frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("X"));
+  Choose("mnuSave");
+  Choose("mnuExit");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_EQ(JournalsThere(), QStringList());
 }
 

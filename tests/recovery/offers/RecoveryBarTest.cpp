@@ -152,6 +152,62 @@ TEST_F(RecoveryBars, DiscardGivesOnePageUpAndLeavesTheOthers) {
   EXPECT_FALSE(Bar().isVisible());
 }
 
+TEST_F(RecoveryBars, PagesOfAnExitAreOfferedAsKeptAtExit) {
+  JournalledPage page = Page({}, QStringLiteral("Untitled 1"));
+  page.end = RunEnd::Exit;
+  journals.AddAbandoned(page);
+  Offer();
+  EXPECT_TRUE(Note().contains(QStringLiteral("kept at exit")));
+  EXPECT_EQ(Find<QLabel>("lblRecovery")->text(),
+            QStringLiteral("These pages were kept at exit with their unsaved changes (Alt+G leads "
+                           "to them):"));
+}
+
+TEST_F(RecoveryBars, OneButtonBringsAllBackInTheOrderOfTheirChanges) {
+  for (const char *name : {"a.htm", "b.htm", "c.htm"})
+    journals.AddAbandoned(
+        Page(QStringLiteral("\\site\\") + QLatin1String(name), QLatin1String(name)));
+  Offer();
+  Buttons("cmdRestoreAll")[0]->click();
+  ASSERT_EQ(Slots().PageCount(), 3);
+  EXPECT_EQ(Slots().Record(1).Path, QStringLiteral("\\site\\a.htm"));
+  EXPECT_EQ(Slots().Record(3).Path, QStringLiteral("\\site\\c.htm"));
+  EXPECT_TRUE(journals.Abandoned().empty());
+  EXPECT_FALSE(Bar().isVisible());
+}
+
+TEST_F(RecoveryBars, FivePagesAreTheMostAndWhatFindsNoRoomStaysAndIsSaid) {
+  for (int i = 1; i <= 8; ++i)
+    journals.AddAbandoned(Page({}, QStringLiteral("Untitled %1").arg(i)));
+  Offer();
+  Buttons("cmdRestoreAll")[0]->click();
+  EXPECT_EQ(Tabs().count(), 5);
+  EXPECT_EQ(journals.Abandoned().size(), 3);
+  EXPECT_EQ(window.statusBar()->currentMessage(),
+            QStringLiteral("3 more stay here: 5 pages are open, which is the most"));
+  Buttons("cmdRestore")[0]->click();
+  EXPECT_EQ(Tabs().count(), 5);
+  EXPECT_EQ(journals.Abandoned().size(), 3);
+  EXPECT_EQ(window.statusBar()->currentMessage(),
+            QStringLiteral("Untitled 3 stays here: 5 pages are open, which is the most. Close one, "
+                           "then restore it"));
+}
+
+TEST_F(RecoveryBars, OneButtonDiscardsAllAfterAQuestion) {
+  const QString question = QStringLiteral(
+      "Discard the unsaved changes of all pages listed here (2)? They cannot be brought back.");
+  journals.AddAbandoned(Page(IndexFile, QStringLiteral("index.htm")));
+  journals.AddAbandoned(Page({}, QStringLiteral("Untitled 2")));
+  Offer();
+  dialogs.ExpectMessage(question, MessageAnswer::No);
+  Buttons("cmdDiscardAll")[0]->click();
+  EXPECT_EQ(journals.Abandoned().size(), 2);
+  dialogs.ExpectMessage(question, MessageAnswer::Yes);
+  Buttons("cmdDiscardAll")[0]->click();
+  EXPECT_TRUE(journals.Abandoned().empty());
+  EXPECT_FALSE(Bar().isVisible());
+}
+
 /// A person who has but a keyboard, and three pages to decide on, the newest first.
 class RecoveryKeys : public RecoveryBars {
  protected:

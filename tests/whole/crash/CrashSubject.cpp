@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program's window with somebody at it, on the real engine. To be killed.
 // Usage: velor-crash-subject type|source FILE SEED
-//        velor-crash-subject save|journal|restore FILE STEP
+//        velor-crash-subject save|journal|restore|return FILE STEP
 // type     types the alphabet again and again into the page
 // source   does so into the page's HTML source, which is not applied
 // save     types one alphabet and saves
 // journal  types one alphabet and rests until it is in the journal, on the disk
 // restore  restores the first page that is offered; FILE is not opened
+// return   restores all pages that are offered, types one alphabet and closes the window at once
 // It prints "ready", a line for each key with its time, "saving", and "done" at the end. With STEP
 // the process ends before that call which changes a file, counted within the save, the journalling,
 // the restoring.
@@ -55,9 +56,7 @@ class Subject {
     window_.Context().mainWindow.fileDialog.FileName = ToLogic(file);
     modWorkFlow::OpenPage(window_.Context(), ToLogic(file));
     if (!QTest::qWaitFor([this] { return Page().PendingAction.isEmpty(); }, Patience)) return false;
-    Page().DHTML1().SetFocus();
-    input_ = Page().findChild<QWebEngineView *>()->focusProxy();
-    QTest::keyClick(input_, Qt::Key_End, Qt::ControlModifier);
+    GoToTheEnd();
     Tell(QStringLiteral("ready"));
     return true;
   }
@@ -79,7 +78,7 @@ class Subject {
   void Save(int step) {
     if (!TypesAlphabet()) return;
     // What was typed a moment ago may be lost; here it was typed a while before.
-    Page().Journal().Catch();
+    Page().Journal().Flush();
     calls_.KillBefore(step);
     Tell(QStringLiteral("saving"));
     modWorkFlow::SavePage(window_.Context(), Page(), window_.Context().mainWindow.fileDialog,
@@ -96,22 +95,38 @@ class Subject {
   }
 
   void Restore(int step) {
-    QPushButton *button = nullptr;
-    const auto isOffered = [&] {
-      button = window_.findChild<QPushButton *>(QStringLiteral("cmdRestore"));
-      return button != nullptr;
-    };
     Tell(QStringLiteral("ready"));
-    if (!QTest::qWaitFor(isOffered, Patience)) return;
+    if (!IsOffered()) return;
     calls_.KillBefore(step);
-    button->click();
+    Press("cmdRestore");
     Tell(QStringLiteral("done"));
+  }
+
+  void Return() {
+    if (!IsOffered()) return;
+    Press("cmdRestoreAll");
+    GoToTheEnd();
+    for (int i = 0; i < Letters; ++i) TypeLetter();
+    if (window_.close()) Tell(QStringLiteral("done"));
+    QCoreApplication::exit();
   }
 
  private:
   static constexpr int Patience = 60'000;
   static constexpr auto Sync = FaultyCalls::Call::Sync;
 
+  bool IsOffered() {
+    return QTest::qWaitFor([this] { return Find("cmdRestore") != nullptr; }, Patience);
+  }
+  QPushButton *Find(const char *button) {
+    return window_.findChild<QPushButton *>(QString::fromLatin1(button));
+  }
+  void Press(const char *button) { Find(button)->click(); }
+  void GoToTheEnd() {
+    Page().DHTML1().SetFocus();
+    input_ = Page().findChild<QWebEngineView *>()->focusProxy();
+    QTest::keyClick(input_, Qt::Key_End, Qt::ControlModifier);
+  }
   frmMain &Page() { return *window_.Context().pages.Page(1); }
   void TypeLetter() {
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
@@ -159,6 +174,7 @@ int main(int argc, char **argv) {
   velor::Subject subject;
   QTimer::singleShot(0, [&] {
     if (what == QStringLiteral("restore")) return subject.Restore(number);
+    if (what == QStringLiteral("return")) return subject.Return();
     if (!subject.Open(file)) return;
     if (what == QStringLiteral("save")) return subject.Save(number);
     if (what == QStringLiteral("journal")) return subject.Journalise(number);
