@@ -4,6 +4,7 @@
 #include "editor/MainWindow.h"
 
 #include <QPointer>
+#include <QStringList>
 
 namespace velor {
 
@@ -18,6 +19,8 @@ struct EditorContext {
   PageSlots &pages;
   /// The one preview window, made on first use.
   QPointer<frmBrowser> preview;
+  /// Preferences whose bad value the person has been told of.
+  QStringList toldSettings = {};
 };
 
 }  // namespace velor

@@ -10,6 +10,7 @@
 #include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
 #include "editor/modWorkFlow.h"
+#include "platform/Dialogs.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 
@@ -17,6 +18,7 @@
 #include <QCloseEvent>
 #include <QSize>
 #include <QStackedLayout>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -53,9 +55,17 @@ constexpr int QuickIconSize = 16;
 constexpr std::int32_t Grey = 0x808080;
 constexpr std::int32_t White = 0xFFFFFF;
 
-bool OptionIsTrue(const Registry &registry, const QString &name, const QString &defaultValue) {
-  return LowerCase(modSettingManager::GetOption(registry, name, defaultValue)) ==
-         QStringLiteral("true");
+/// A preference that is a truth value. One that is none is told in a box, once a run, when the
+/// event loop is reached again.
+bool TruthOption(EditorContext &context, const QString &name, const QString &defaultValue) {
+  return modSettingManager::TruthOption(
+      context.platform.registry, name, defaultValue, [&](const RuntimeError &fault) {
+        if (context.toldSettings.contains(name)) return;
+        context.toldSettings << name;
+        QTimer::singleShot(0, [&dialogs = context.platform.dialogs, text = fault.Description()] {
+          dialogs.ShowMessage({.text = text, .icon = MessageIcon::Critical});
+        });
+      });
 }
 
 }  // namespace
@@ -86,12 +96,11 @@ frmMain::frmMain(EditorContext &context, int number)
   layout->addLayout(views_, 1);
   setFocusProxy(component_->Widget());
 
-  const Registry &registry = context_.platform.registry;
   component_->SetShowDetails(
-      OptionIsTrue(registry, QStringLiteral("ShowDetails"), QStringLiteral("False")));
+      TruthOption(context_, QStringLiteral("ShowDetails"), QStringLiteral("False")));
   QuickButton(u"detail")->ShowChecked(component_->ShowDetails());
   component_->SetSnapToGrid(
-      OptionIsTrue(registry, QStringLiteral("SnapToGrid"), QStringLiteral("True")));
+      TruthOption(context_, QStringLiteral("SnapToGrid"), QStringLiteral("True")));
   QuickButton(u"snap")->ShowChecked(component_->SnapToGrid());
   source_->SetColor(1, Grey);
   source_->SetColor(27, Grey);
@@ -187,8 +196,7 @@ void frmMain::OnActivated() {
   } catch (const RuntimeError &) {
     // The window outlives its tab for a moment while it closes, and its tab may not be there yet.
   }
-  if (OptionIsTrue(context_.platform.registry, QStringLiteral("showtoolbox"),
-                   QStringLiteral("True"))) {
+  if (TruthOption(context_, QStringLiteral("showtoolbox"), QStringLiteral("True"))) {
     context_.mainWindow.requests.ResetElementInspection();
   }
 }

@@ -168,8 +168,9 @@ std::int32_t CLng(double value) {
 }
 
 bool CBool(QStringView text) {
-  if (text.compare(u"True", Qt::CaseInsensitive) == 0) return true;
-  if (text.compare(u"False", Qt::CaseInsensitive) == 0) return false;
+  const QString word = TrimBlanks(text);
+  if (word.compare(u"True", Qt::CaseInsensitive) == 0) return true;
+  if (word.compare(u"False", Qt::CaseInsensitive) == 0) return false;
   const Parsed parsed = ParseOrRaise(text, QStringLiteral("CBool"));
   if (std::isinf(parsed.value)) {
     throw RuntimeError::Of(ErrorNumber::Overflow, QStringLiteral("CBool"));

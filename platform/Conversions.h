@@ -18,7 +18,8 @@ std::int16_t CInt(double value);
 /// 32-bit integer, rounded the same way.
 std::int32_t CLng(QStringView text);
 std::int32_t CLng(double value);
-/// Truth value of a text: "True"/"False" in any letter case, or a number (0 is false).
+/// Truth value of a text: "True"/"False" in any letter case, or a number (0 is false); outer blanks
+/// do not count.
 bool CBool(QStringView text);
 
 /// The number a text starts with (leading blanks skipped, blanks between digits ignored, exponents

@@ -25,6 +25,9 @@ class Registry {
 
   /// Nothing when the key or the value is missing or cannot be read.
   virtual std::optional<RegistryValue> Query(const QString &keyPath, const QString &name) const = 0;
+
+  /// Where a person finds the values of a key: the file's native path, or the store's own name.
+  virtual QString Location(const QString &keyPath) const = 0;
 };
 
 }  // namespace velor

@@ -61,4 +61,8 @@ std::optional<RegistryValue> QtRegistry::Query(const QString &keyPath, const QSt
   return RegistryValue{RegistryValue::Type::Text, value.toString()};
 }
 
+QString QtRegistry::Location(const QString &keyPath) const {
+  return Place(keyPath, {}).Settings().fileName();
+}
+
 }  // namespace velor

@@ -11,6 +11,7 @@ class QtRegistry : public Registry {
  public:
   bool SetText(const QString &keyPath, const QString &name, const QString &text) override;
   std::optional<RegistryValue> Query(const QString &keyPath, const QString &name) const override;
+  QString Location(const QString &keyPath) const override;
 };
 
 }  // namespace velor

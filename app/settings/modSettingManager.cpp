@@ -4,6 +4,7 @@
 #include "platform/Conversions.h"
 #include "platform/Paths.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace velor::modSettingManager {
@@ -16,6 +17,17 @@ QString KeyPath(const QString &applicationName, const QString &section) {
 
 QString Product() {
   return QString::fromUtf16(ApplicationName);
+}
+
+template <typename Value>
+Value Converted(const Registry &registry, const QString &valueName, const QString &defaultValue,
+                Value (*convert)(QStringView), const FaultListener &tell) {
+  try {
+    return convert(GetOption(registry, valueName, defaultValue));
+  } catch (const RuntimeError &error) {
+    tell(FaultOf(registry, valueName, defaultValue, error));
+    return convert(defaultValue);
+  }
 }
 
 }  // namespace
@@ -43,12 +55,36 @@ QString GetOption(const Registry &registry, const QString &valueName, const QStr
                        defaultValue);
 }
 
+bool TruthOption(const Registry &registry, const QString &valueName, const QString &defaultValue,
+                 const FaultListener &tell) {
+  return Converted<bool>(registry, valueName, defaultValue, &CBool, tell);
+}
+
+std::int16_t IntegerOption(const Registry &registry, const QString &valueName,
+                           const QString &defaultValue, const FaultListener &tell) {
+  return Converted<std::int16_t>(registry, valueName, defaultValue, &CInt, tell);
+}
+
+std::int32_t LongOption(const Registry &registry, const QString &valueName,
+                        const QString &defaultValue, const FaultListener &tell) {
+  return Converted<std::int32_t>(registry, valueName, defaultValue, &CLng, tell);
+}
+
+RuntimeError FaultOf(const Registry &registry, const QString &valueName,
+                     const QString &defaultValue, const RuntimeError &cause) {
+  const QString file = registry.Location(KeyPath(Product(), QString::fromUtf16(OptionSection)));
+  return RuntimeError::Of(
+      cause.Number(), cause.Source(),
+      QStringLiteral("the setting %1 in %2 is \"%3\"; \"%4\" counts until it is mended")
+          .arg(valueName, file, GetOption(registry, valueName, defaultValue), defaultValue));
+}
+
 void AddToHistory(Registry &registry, const QString &path) {
   const QString section = QString::fromUtf16(HistorySection);
   const QString countName = QStringLiteral("historycount");
   const QString stored =
       GetRegSetting(registry, Product(), section, countName, QStringLiteral("0"));
-  double count = std::trunc(Val(stored));
+  double count = std::max(0.0, std::trunc(Val(stored)));
   // In one step: a number edited by hand may be so large that subtracting 100 leaves it as it is.
   if (count >= HistorySlots) count = std::fmod(count, HistorySlots);
   const QString slot = NumberText(count + 1);

@@ -2,8 +2,12 @@
 #pragma once
 
 #include "platform/Registry.h"
+#include "platform/RuntimeError.h"
 
 #include <QString>
+
+#include <cstdint>
+#include <functional>
 
 /// Preferences and the recent-files history, as text values in the per-user store under
 /// Software\Company\VelorCDMaker. Nothing is cached: every read goes to the store. Failures are
@@ -24,9 +28,26 @@ QString GetRegSetting(const Registry &registry, const QString &applicationName,
                       const QString &section, const QString &valueName,
                       const QString &defaultValue);
 
-/// A preference. Callers pass the default as text and convert the result themselves.
+/// A preference. Callers pass the default as text and convert the result themselves, or by the
+/// functions below.
 void SetOption(Registry &registry, const QString &valueName, const QString &value);
 QString GetOption(const Registry &registry, const QString &valueName, const QString &defaultValue);
+
+/// Receives the conversion's error for a stored text that cannot be converted: the description
+/// names the setting, its text and the file.
+using FaultListener = std::function<void(const RuntimeError &)>;
+
+// A preference converted; the default counts after a fault.
+bool TruthOption(const Registry &registry, const QString &valueName, const QString &defaultValue,
+                 const FaultListener &tell);
+std::int16_t IntegerOption(const Registry &registry, const QString &valueName,
+                           const QString &defaultValue, const FaultListener &tell);
+std::int32_t LongOption(const Registry &registry, const QString &valueName,
+                        const QString &defaultValue, const FaultListener &tell);
+
+/// The error for a preference whose stored text says nothing, with the conversion's own number.
+RuntimeError FaultOf(const Registry &registry, const QString &valueName,
+                     const QString &defaultValue, const RuntimeError &cause);
 
 /// Records one opened file in the next slot of the ring; after slot 100 comes slot 1. `path` in
 /// logic form, written as people read paths. The same file twice fills two slots.

@@ -8,7 +8,10 @@
 #include "platform/Registry.h"
 #include "platform/RuntimeError.h"
 
+#include <QStringList>
+
 #include <array>
+#include <optional>
 
 namespace velor {
 namespace {
@@ -29,10 +32,6 @@ constexpr std::array<ColorSetting, 4> ColorSettings{{
     {"mnuHighlight", "16761024", &MenuPainter::SetHighlightColor},
     {"mnuHighFore", "0", &MenuPainter::SetHighlightTextColor},
 }};
-
-QString Option(const Registry &registry, const QString &name, const QString &defaultValue) {
-  return modSettingManager::GetOption(registry, name, defaultValue);
-}
 
 void LoadBackground(const QString &name, const MenuPictures &pictures, MenuPainter &painter) {
   try {
@@ -63,17 +62,33 @@ MenuPictures ProgramMenuPictures() {
 }
 
 void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPainter &painter) {
-  const int style = CInt(Option(registry, QString::fromUtf16(StyleSetting), QStringLiteral("2")));
+  std::optional<RuntimeError> first;
+  QStringList faults;
+  const auto tell = [&](const RuntimeError &fault) {
+    if (!first) first = fault;
+    faults << fault.Description();
+  };
+  const QString styleSetting = QString::fromUtf16(StyleSetting);
+  const QString defaultStyle = QStringLiteral("2");
+  const int style = modSettingManager::IntegerOption(registry, styleSetting, defaultStyle, tell);
   if (style != 0) {
-    painter.SetBackground(pictures.numbered(style));
+    try {
+      painter.SetBackground(pictures.numbered(style));
+    } catch (const RuntimeError &error) {
+      tell(modSettingManager::FaultOf(registry, styleSetting, defaultStyle, error));
+      painter.SetBackground(pictures.numbered(CInt(defaultStyle)));
+    }
   } else {
-    LoadBackground(Option(registry, QString::fromUtf16(BackgroundSetting), QString()), pictures,
-                   painter);
+    LoadBackground(
+        modSettingManager::GetOption(registry, QString::fromUtf16(BackgroundSetting), QString()),
+        pictures, painter);
   }
   for (const ColorSetting &setting : ColorSettings) {
-    (painter.*setting.set)(CLng(Option(registry, QString::fromLatin1(setting.name),
-                                       QString::fromLatin1(setting.defaultValue))));
+    (painter.*
+     setting.set)(modSettingManager::LongOption(registry, QString::fromLatin1(setting.name),
+                                                QString::fromLatin1(setting.defaultValue), tell));
   }
+  if (first) throw RuntimeError(first->Number(), first->Source(), faults.join(u'\n'));
 }
 
 void ChooseMenuStyle(int index, Registry &registry, const MenuPictures &pictures,

@@ -23,8 +23,9 @@ struct MenuPictures {
 MenuPictures ProgramMenuPictures();
 
 /// Sets up the painter as the settings say: the background, then text, border, highlight and
-/// highlighted text colour. A picture file that cannot be loaded leaves the background as it was;
-/// a setting that is no number raises TypeMismatch (13).
+/// highlighted text colour. A picture file that cannot be loaded leaves the background as it was.
+/// For a setting that is no number, or names no picture, the default counts; when all is set, one
+/// error names every such setting and the file.
 void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPainter &painter);
 
 /// Stores the chosen style and shows its picture at once.

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QStackedLayout>
+#include <QTest>
 #include <QToolBar>
 
 namespace velor {
@@ -216,6 +217,21 @@ TEST_F(ModesTest, ShowDetailAndSnapToGridToggleAndAreRemembered) {
   EXPECT_EQ(Option(QStringLiteral("SnapToGrid")), QStringLiteral("False"));
   Button(1, 6)->trigger();
   EXPECT_EQ(Option(QStringLiteral("ShowDetails")), QStringLiteral("False"));
+}
+
+TEST_F(ModesTest, ATruthValueThatIsNoneIsToldOnceARunWithItsSettingAndFile) {
+  modSettingManager::SetOption(registry, QStringLiteral("SnapToGrid"), QStringLiteral("yes"));
+  modSettingManager::SetOption(registry, QStringLiteral("ShowDetails"), QStringLiteral(" 1 "));
+  dialogs.ExpectMessage(
+      QStringLiteral("Type mismatch: the setting SnapToGrid in /config/fake.conf is \"yes\"; "
+                     "\"True\" counts until it is mended"));
+  New();
+  EXPECT_TRUE(Component(1).SnapToGrid());
+  EXPECT_TRUE(Component(1).ShowDetails());
+  New();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !dialogs.messages.empty(); }));
+  EXPECT_FALSE(QTest::qWaitFor([&] { return dialogs.messages.size() > 1; }, 50));
+  EXPECT_EQ(dialogs.messages[0].icon, MessageIcon::Critical);
 }
 
 TEST_F(ModesTest, TogglingLeavesOtherWindowsAloneAndTheNextWindowFollows) {

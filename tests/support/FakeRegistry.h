@@ -26,6 +26,7 @@ class FakeRegistry : public Registry {
 
   bool SetText(const QString &keyPath, const QString &name, const QString &text) override;
   std::optional<RegistryValue> Query(const QString &keyPath, const QString &name) const override;
+  QString Location(const QString &) const override { return QStringLiteral("/config/fake.conf"); }
 
  private:
   std::map<std::pair<QString, QString>, RegistryValue> values_;

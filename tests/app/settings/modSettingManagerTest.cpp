@@ -73,11 +73,38 @@ TEST_F(Settings, FailInSilence) {
   EXPECT_EQ(GetOption(registry_, "MenuStyle", "2"), "2");
 }
 
-TEST_F(Settings, LeaveConversionErrorsToTheCaller) {
+TEST_F(Settings, ATextThatCannotBeConvertedIsToldAndTheDefaultCounts) {
   SetOption(registry_, "SnapToGrid", "yes");
-  const QString text = GetOption(registry_, "SnapToGrid", "True");
-  EXPECT_EQ(text, "yes");
-  EXPECT_EQ(ErrorOf([&] { CBool(text); }), ErrorNumber::TypeMismatch);
+  EXPECT_EQ(GetOption(registry_, "SnapToGrid", "True"), "yes");
+  std::vector<RuntimeError> told;
+  const auto tell = [&](const RuntimeError &fault) { told.push_back(fault); };
+  EXPECT_TRUE(TruthOption(registry_, "SnapToGrid", "True", tell));
+  EXPECT_FALSE(TruthOption(registry_, "SnapToGrid", "False", tell));
+  ASSERT_EQ(told.size(), 2);
+  EXPECT_EQ(told[0].Number(), ErrorNumber::TypeMismatch);
+  EXPECT_EQ(told[0].Description(),
+            QStringLiteral("Type mismatch: the setting SnapToGrid in /config/fake.conf is \"yes\"; "
+                           "\"True\" counts until it is mended"));
+}
+
+TEST_F(Settings, TruthValuesAreWordsInAnyLetterCaseOrNumbersBlanksAroundThemOrNot) {
+  const std::pair<const char *, bool> values[] = {
+      {"True", true}, {"TRUE ", true}, {" true", true},  {"1", true},       {"-1", true},
+      {" 2 ", true},  {"0.5", true},   {"False", false}, {" FALSE", false}, {"0", false}};
+  for (const auto &[text, expected] : values) {
+    SetOption(registry_, "ShowDetails", text);
+    EXPECT_EQ(TruthOption(registry_, "ShowDetails", expected ? "False" : "True",
+                          [&](const RuntimeError &) { ADD_FAILURE() << text; }),
+              expected)
+        << text;
+  }
+}
+
+TEST_F(Settings, ACountBelowTheRingCountsAsNone) {
+  registry_.Put(HistoryKey, "historycount", {RegistryValue::Type::Text, "-5"});
+  AddToHistory(registry_, R"(\a.htm)");
+  EXPECT_EQ(History("file1"), "/a.htm");
+  EXPECT_EQ(History("historycount"), "1");
 }
 
 TEST_F(Settings, KeepEveryCharacter) {

@@ -92,9 +92,35 @@ TEST_F(MenuSettingsTest, APictureFileThatCannotBeLoadedLeavesTheBackground) {
   EXPECT_EQ(Prepared(), "text 0, border 8388608, highlight 16761024, highlight text 0");
 }
 
-TEST_F(MenuSettingsTest, AStyleThatIsNoNumberIsAnError) {
+TEST_F(MenuSettingsTest, BadValuesAreNamedWithTheFileAndTheOthersStillApply) {
+  pictures.numbered = [](int number) {
+    if (number > 2) throw RuntimeError::Of(ErrorNumber::IndexOutOfBounds, QStringLiteral("test"));
+    return QPixmap(number, 1);
+  };
+  Store("MenuStyle", "5");
+  Store("mnuFore", "abc");
+  Store("mnuHighlight", "2");
+  try {
+    Prepared();
+    FAIL() << "no error";
+  } catch (const RuntimeError &error) {
+    EXPECT_EQ(error.Number(), ErrorNumber::IndexOutOfBounds);
+    EXPECT_EQ(
+        error.Description(),
+        QStringLiteral(
+            "Index out of bounds: the setting MenuStyle in /config/fake.conf is \"5\"; \"2\" "
+            "counts until it is mended\n"
+            "Type mismatch: the setting mnuFore in /config/fake.conf is \"abc\"; \"0\" counts "
+            "until it is mended"));
+  }
+  EXPECT_EQ(painter.calls.join(QStringLiteral(", ")).toStdString(),
+            "background 2, text 0, border 8388608, highlight 2, highlight text 0");
+}
+
+TEST_F(MenuSettingsTest, AStyleThatIsNoNumberIsAnErrorAndTheDefaultCounts) {
   Store("MenuStyle", "blue");
   EXPECT_THROW(Prepared(), RuntimeError);
+  EXPECT_TRUE(painter.calls.constFirst() == QStringLiteral("background 2"));
 }
 
 TEST_F(MenuSettingsTest, ChoosingAStyleStoresItAndShowsItAtOnce) {
