@@ -7,6 +7,7 @@
 #include "engine/WebDocument.h"
 #include "platform/EditingCommands.h"
 #include "platform/Paths.h"
+#include "platform/PlainTip.h"
 
 #include <QClipboard>
 #include <QEvent>
@@ -159,7 +160,7 @@ void WebEditor::SetFocus() {
 }
 
 void WebEditor::SetToolTip(const QString &text) {
-  if (container_ != nullptr) container_->setToolTip(text);
+  if (container_ != nullptr) container_->setToolTip(PlainTip(text));
 }
 
 QVariant WebEditor::ExecCommand(EditingCommand command, ExecOption, const QVariant &value) {

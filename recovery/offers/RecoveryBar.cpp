@@ -12,6 +12,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/PlainTip.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 
@@ -189,12 +190,12 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
   title->setFont(strong);
   // As little as a long path may a long name push the buttons out of sight.
   title->setMinimumWidth(BarMargin);
-  title->setToolTip(name);
+  title->setToolTip(PlainTip(name));
   line->addWidget(title);
   auto *details = new QLabel(note);
   details->setObjectName(QString::fromUtf16(NoteName));
   details->setTextFormat(Qt::PlainText);
-  details->setToolTip(note);
+  details->setToolTip(PlainTip(note));
   // A long path is cut off rather than pushing the buttons out of sight.
   details->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   line->addWidget(details, 1);
@@ -254,9 +255,8 @@ void RecoveryBar::RestoreAll() {
     try {
       Restore(readable[next]);
     } catch (const RuntimeError &error) {
-      context_.mainWindow.status.Report(
-          QStringLiteral("%1 could not be restored: %2")
-              .arg(NameOf(readable[next].page), error.Description()));
+      context_.mainWindow.status.Report(QStringLiteral("%1 could not be restored: %2")
+                                            .arg(NameOf(readable[next].page), error.Description()));
     }
   }
   if (count == readable.size()) return;
