@@ -2,13 +2,18 @@
 #include "chrome/FrmFld.h"
 
 #include "platform/Paths.h"
+#include "platform/PlainTip.h"
 #include "platform/ProgramValues.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QCollator>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QStorageInfo>
@@ -55,10 +60,45 @@ std::vector<Drive> Drives() {
   return drives;
 }
 
+/// A line of text as wide as its window leaves room for: too long a path loses its middle.
+class PathLine final : public QLabel {
+ public:
+  PathLine() { setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); }
+
+  void ShowPath(const QString &path) {
+    whole_ = path;
+    setToolTip(PlainTip(path));
+    Elide();
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent *event) override {
+    QLabel::resizeEvent(event);
+    Elide();
+  }
+
+ private:
+  void Elide() { setText(fontMetrics().elidedText(whole_, Qt::ElideMiddle, width())); }
+
+  QString whole_;
+};
+
+/// In the order of people: f2 before f10, letter case ignored.
+void SortNaturally(QFileInfoList &folders) {
+  // The C locale knows no numbers within names.
+  const QLocale locale;
+  QCollator order(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
+  order.setNumericMode(true);
+  order.setCaseSensitivity(Qt::CaseInsensitive);
+  std::sort(folders.begin(), folders.end(), [&](const QFileInfo &one, const QFileInfo &other) {
+    return order.compare(one.fileName(), other.fileName()) < 0;
+  });
+}
+
 QTreeWidgetItem *NewFolderItem(const QString &name, const QString &path) {
   auto *item = new QTreeWidgetItem({name});
   item->setData(0, PathRole, path);
-  item->setToolTip(0, path);
+  item->setToolTip(0, PlainTip(path));
   item->setIcon(0, QApplication::style()->standardIcon(QStyle::SP_DirIcon));
   // Whether there is something to open shows when it is opened: looking ahead would read every
   // folder's folders.
@@ -73,7 +113,9 @@ FrmFld::FrmFld(ProgramValues &values, QWidget *parent)
       values_(values),
       drive1_(new QComboBox),
       dir1_(new QTreeWidget),
-      selected_(new QLabel) {
+      path_(new QLineEdit),
+      hidden_(new QCheckBox(QStringLiteral("Show hidden folders"))),
+      selected_(new PathLine) {
   setObjectName(QStringLiteral("FrmFld"));
   setWindowTitle(QStringLiteral("Select Folder"));
 
@@ -83,10 +125,17 @@ FrmFld::FrmFld(ProgramValues &values, QWidget *parent)
   dir1_->setAccessibleName(QStringLiteral("Folder"));
   dir1_->setHeaderHidden(true);
   dir1_->setUniformRowHeights(true);
+  // As wide as its widest row, so that deep folders are reached by scrolling.
+  dir1_->header()->setStretchLastSection(false);
+  dir1_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  dir1_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  path_->setObjectName(QStringLiteral("txtPath"));
+  path_->setAccessibleName(QStringLiteral("Path"));
+  path_->setPlaceholderText(QStringLiteral("Type or paste a path"));
+  hidden_->setObjectName(QStringLiteral("chkHidden"));
   selected_->setObjectName(QStringLiteral("lblSelected"));
   selected_->setAccessibleName(QStringLiteral("Selected folder"));
   selected_->setTextFormat(Qt::PlainText);
-  selected_->setWordWrap(true);
 
   auto *buttons = new QDialogButtonBox;
   ok_ = buttons->addButton(QStringLiteral("Ok"), QDialogButtonBox::AcceptRole);
@@ -101,6 +150,8 @@ FrmFld::FrmFld(ProgramValues &values, QWidget *parent)
   driveLabel->setBuddy(drive1_);
   auto *folderLabel = new QLabel(QStringLiteral("Folder"));
   folderLabel->setBuddy(dir1_);
+  auto *pathLabel = new QLabel(QStringLiteral("Path"));
+  pathLabel->setBuddy(path_);
 
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(16, 16, 16, 16);
@@ -110,20 +161,23 @@ FrmFld::FrmFld(ProgramValues &values, QWidget *parent)
   layout->addSpacing(8);
   layout->addWidget(folderLabel);
   layout->addWidget(dir1_, 1);
+  layout->addWidget(hidden_);
+  layout->addSpacing(8);
+  layout->addWidget(pathLabel);
+  layout->addWidget(path_);
   layout->addWidget(selected_);
   layout->addSpacing(8);
   layout->addWidget(buttons);
-  resize(460, 480);
+  resize(460, 560);
 
   connect(buttons, &QDialogButtonBox::accepted, this, &FrmFld::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &FrmFld::reject);
   connect(drive1_, &QComboBox::currentIndexChanged, this, &FrmFld::ShowDrive);
   connect(dir1_, &QTreeWidget::itemExpanded, this,
           [this](QTreeWidgetItem *item) { FillFolders(*item); });
-  connect(dir1_, &QTreeWidget::currentItemChanged, this, [this] {
-    selected_->setText(SelectedFolder());
-    ok_->setEnabled(dir1_->currentItem() != nullptr);
-  });
+  connect(dir1_, &QTreeWidget::currentItemChanged, this, &FrmFld::ShowSelected);
+  connect(path_, &QLineEdit::textEdited, this, &FrmFld::TakeTypedPath);
+  connect(hidden_, &QCheckBox::toggled, this, &FrmFld::ShowHidden);
 
   FillDrives();
   SelectFolder(QDir::homePath());
@@ -147,8 +201,10 @@ void FrmFld::ShowDrive() {
 void FrmFld::FillFolders(QTreeWidgetItem &item) {
   if (item.childCount() > 0) return;
   const QDir folder(item.data(0, PathRole).toString());
-  const QFileInfoList children =
-      folder.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+  const QDir::Filters hidden = hidden_->isChecked() ? QDir::Hidden : QDir::Filters();
+  QFileInfoList children =
+      folder.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | hidden, QDir::Unsorted);
+  SortNaturally(children);
   for (const QFileInfo &child : children) {
     item.addChild(NewFolderItem(child.fileName(), child.absoluteFilePath()));
   }
@@ -182,6 +238,30 @@ void FrmFld::SelectFolder(const QString &nativePath) {
   }
   dir1_->setCurrentItem(item);
   dir1_->scrollToItem(item, QAbstractItemView::PositionAtCenter);
+}
+
+void FrmFld::TakeTypedPath(const QString &text) {
+  const QString native = ToNative(FromPeople(text.trimmed()));
+  const bool isFolder = native.startsWith(u'/') && QFileInfo(native).isDir();
+  if (isFolder) {
+    const QSignalBlocker blocker(path_);
+    SelectFolder(native);
+    // As it was typed, so that typing goes on.
+    path_->setText(text);
+  }
+  ok_->setEnabled(isFolder && QDir::cleanPath(native) == SelectedFolder());
+}
+
+void FrmFld::ShowHidden() {
+  const QString selected = SelectedFolder();
+  if (!selected.isEmpty()) SelectFolder(selected);
+}
+
+void FrmFld::ShowSelected() {
+  const QString folder = SelectedFolder();
+  static_cast<PathLine *>(selected_)->ShowPath(folder);
+  path_->setText(folder);
+  ok_->setEnabled(!folder.isEmpty());
 }
 
 QString FrmFld::SelectedFolder() const {

@@ -3,8 +3,10 @@
 
 #include <QDialog>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -13,8 +15,10 @@ namespace velor {
 
 struct ProgramValues;
 
-/// The folder picker. Its answer is the chosen folder in logic form, or the empty text when it was
-/// cancelled by its button, Escape or the close box; the other of its two results is left alone.
+/// The folder picker: the drive, the tree of its folders, and a box for a path that is typed or
+/// pasted. Its size does not depend on the names shown. Its answer is the chosen folder in logic
+/// form, or the empty text when it was cancelled by its button, Escape or the close box; the other
+/// of its two results is left alone.
 class FrmFld : public QDialog {
   Q_OBJECT
 
@@ -24,7 +28,8 @@ class FrmFld : public QDialog {
   /// Where the answer goes: ProjectFolderResult when set, else ImageFolderPath.
   bool ForProject = false;
 
-  /// Opens the tree down to a native folder and selects it; as far as it exists below the drive.
+  /// Opens the tree down to a native folder and selects it, or the nearest folder above it that is
+  /// there.
   void SelectFolder(const QString &nativePath);
   /// The selected folder in native form.
   QString SelectedFolder() const;
@@ -37,11 +42,18 @@ class FrmFld : public QDialog {
   void FillDrives();
   void ShowDrive();
   void FillFolders(QTreeWidgetItem &item);
+  /// Follows what the person types into the path box; Ok needs a folder that is there.
+  void TakeTypedPath(const QString &text);
+  /// Reads the folders anew, with hidden ones or without.
+  void ShowHidden();
+  void ShowSelected();
   void StoreResult(const QString &folder);
 
   ProgramValues &values_;
   QComboBox *drive1_;
   QTreeWidget *dir1_;
+  QLineEdit *path_;
+  QCheckBox *hidden_;
   QLabel *selected_;
   QPushButton *ok_;
 };

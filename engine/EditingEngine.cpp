@@ -2,6 +2,7 @@
 #include "engine/EditingEngine.h"
 
 #include "engine/BridgeScript.h"
+#include "platform/Paths.h"
 
 #include <QWebEngineCookieStore>
 #include <QWebEngineDownloadRequest>
@@ -51,7 +52,8 @@ bool IsLocal(const QUrl &address) {
 }  // namespace
 
 void RequestBlocker::interceptRequest(QWebEngineUrlRequestInfo &request) {
-  if (!IsLocal(request.requestUrl())) request.block(true);
+  if (!IsLocal(request.requestUrl())) return request.block(true);
+  if (const auto mapped = UrlOfMappedDrive(request.requestUrl())) request.redirect(*mapped);
 }
 
 QWebEngineProfile &EditingEngine::Profile() {

@@ -5,8 +5,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
+#include <QSaveFile>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 namespace velor {
 
@@ -14,6 +18,19 @@ namespace {
 
 QString Source() {
   return QStringLiteral("DriveMap");
+}
+
+RuntimeError Failure(const QFileDevice &file) {
+  return RuntimeError::Of(ErrorNumber::PathFileAccess, Source(),
+                          QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
+}
+
+/// The empty text for a missing file.
+QString ReadFile(const QString &nativeFile) {
+  QFile file(nativeFile);
+  if (!file.exists()) return {};
+  if (!file.open(QIODevice::ReadOnly)) throw Failure(file);
+  return QString::fromUtf8(file.readAll());
 }
 
 bool Holds(const QString &folder, const QString &path) {
@@ -68,6 +85,16 @@ std::optional<QString> DriveMap::ToDrive(const QString &nativePath) const {
   return QString(closest->letter) + u':' + (rest.isEmpty() ? QStringLiteral("\\") : rest);
 }
 
+void DriveMap::Set(QChar letter, const QString &nativeFolder) {
+  Remove(letter);
+  const QString folder = QDir::cleanPath(nativeFolder);
+  drives_.append({letter.toUpper(), folder == u"/" ? QString() : folder});
+}
+
+void DriveMap::Remove(QChar letter) {
+  drives_.removeIf([&](const Drive &drive) { return drive.letter == letter.toUpper(); });
+}
+
 const DriveMap::Drive *DriveMap::Find(QChar letter) const {
   for (const Drive &drive : drives_) {
     if (drive.letter == letter) return &drive;
@@ -80,16 +107,44 @@ QString DriveMapFile() {
          QStringLiteral("/Company/drives.conf");
 }
 
+DriveMap ReadDriveMapFile(const QString &nativeFile) {
+  return DriveMap::Parse(ReadFile(nativeFile), nativeFile);
+}
+
+void WriteDriveMapFile(const QString &nativeFile, const DriveMap &map) {
+  QString text;
+  for (const QString &line : ReadFile(nativeFile).split(u'\n')) {
+    if (line.trimmed().startsWith(u'#')) text += line + u'\n';
+  }
+  for (const DriveMap::Drive &drive : map.Drives()) {
+    text += QStringLiteral("%1: %2\n")
+                .arg(drive.letter)
+                .arg(drive.folder.isEmpty() ? QStringLiteral("/") : drive.folder);
+  }
+  QDir().mkpath(QFileInfo(nativeFile).path());
+  QSaveFile file(nativeFile);
+  const QByteArray bytes = text.toUtf8();
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    throw Failure(file);
+}
+
+void UseAddedDrives(const DriveMap &map) {
+  DriveMap together = DriveMapInUse();
+  const QList<DriveMap::Drive> inUse = together.Drives();
+  for (const DriveMap::Drive &drive : map.Drives()) {
+    const bool isInUse = std::any_of(inUse.begin(), inUse.end(), [&](const auto &known) {
+      return known.letter == drive.letter;
+    });
+    if (!isInUse)
+      together.Set(drive.letter, drive.folder.isEmpty() ? QStringLiteral("/") : drive.folder);
+  }
+  UseDriveMap(together);
+}
+
 std::optional<RuntimeError> UseDriveMapFile(const QString &nativeFile) {
   UseDriveMap({});
-  QFile file(nativeFile);
-  if (!file.exists()) return std::nullopt;
-  if (!file.open(QIODevice::ReadOnly)) {
-    return RuntimeError::Of(ErrorNumber::PathFileAccess, Source(),
-                            QStringLiteral("%1: %2").arg(nativeFile, file.errorString()));
-  }
   try {
-    UseDriveMap(DriveMap::Parse(QString::fromUtf8(file.readAll()), nativeFile));
+    UseDriveMap(ReadDriveMapFile(nativeFile));
   } catch (const RuntimeError &error) {
     return error;
   }

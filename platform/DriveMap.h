@@ -16,6 +16,12 @@ namespace velor {
 /// for catalogues that are shared with machines where those drives exist.
 class DriveMap {
  public:
+  struct Drive {
+    QChar letter;
+    /// Native, without a trailing separator; the root is the empty text.
+    QString folder;
+  };
+
   /// Maps nothing.
   DriveMap() = default;
 
@@ -32,13 +38,12 @@ class DriveMap {
   /// closely; nothing outside the mapped folders.
   std::optional<QString> ToDrive(const QString &nativePath) const;
 
- private:
-  struct Drive {
-    QChar letter;
-    /// Without a trailing separator; the root is the empty text.
-    QString folder;
-  };
+  const QList<Drive> &Drives() const { return drives_; }
+  /// Gives a drive a folder, in place of the one it had.
+  void Set(QChar letter, const QString &nativeFolder);
+  void Remove(QChar letter);
 
+ private:
   const Drive *Find(QChar letter) const;
 
   QList<Drive> drives_;
@@ -46,6 +51,18 @@ class DriveMap {
 
 /// The drive map file: drives.conf beside the settings file. Native form.
 QString DriveMapFile();
+
+/// The map in the file; a missing file maps nothing. Raises RuntimeError for a file that cannot be
+/// read, and as DriveMap::Parse.
+DriveMap ReadDriveMapFile(const QString &nativeFile);
+
+/// Writes the map to the file, whose comments stay; its folder is made. Raises RuntimeError where
+/// that fails, and the old file stays whole.
+void WriteDriveMapFile(const QString &nativeFile, const DriveMap &map);
+
+/// Makes the drives of `map` that have no folder yet known to Paths.h. A drive in use keeps its
+/// folder: paths on it are about.
+void UseAddedDrives(const DriveMap &map);
 
 /// Makes the map in the file the one that Paths.h works by; a missing file maps nothing. Runs
 /// before anything that has a path, the error boundary's parts included, and so answers rather than

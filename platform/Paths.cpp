@@ -48,6 +48,10 @@ void UseDriveMap(const DriveMap &map) {
   Drives() = map;
 }
 
+const DriveMap &DriveMapInUse() {
+  return Drives();
+}
+
 QString ToLogic(const QString &nativePath) {
   if (NativeIsLogic()) return nativePath;
   QString logic = nativePath;
@@ -85,6 +89,12 @@ bool IsOnUnknownDrive(const QString &path) {
 
 QUrl ToUrl(const QString &logicPath) {
   return QUrl::fromLocalFile(ToNative(logicPath));
+}
+
+std::optional<QUrl> UrlOfMappedDrive(const QUrl &url) {
+  const QString path = url.isLocalFile() ? url.path().mid(1) : QString();
+  const auto native = NativeIsLogic() ? std::nullopt : Drives().ToNative(path);
+  return native ? std::optional(QUrl::fromLocalFile(*native)) : std::nullopt;
 }
 
 QString FindIgnoringCase(const QString &logicPath) {

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QUrl>
 
+#include <optional>
+
 /// The program's logic sees paths with "\" only: the native /home/u/site/a.htm is
 /// \home\u\site\a.htm inside, a plain exchange of separators. These functions stand at the
 /// boundary: dialogs, pickers, the program folder and drops give ToLogic; file operations take
@@ -12,9 +14,11 @@ namespace velor {
 
 class DriveMap;
 
-/// Sets the drives by which ToLogic and ToNative go. Start-up does it once, before any path is
-/// exchanged: paths of both sides must not meet.
+/// Sets the drives by which ToLogic and ToNative go. Start-up does it before any path is exchanged;
+/// later drives may only be added, so that no path loses its meaning.
 void UseDriveMap(const DriveMap &map);
+/// The drives in use.
+const DriveMap &DriveMapInUse();
 
 /// Native to logic form: a drive path below the folder of a mapped drive. A real backslash in a
 /// native name travels as U+F05C.
@@ -41,6 +45,10 @@ bool IsOnUnknownDrive(const QString &path);
 /// The file: URL of a logic path; never made by concatenation, so that blanks, "#", "%" and "?"
 /// are encoded.
 QUrl ToUrl(const QString &logicPath);
+
+/// The file: URL here of a file: URL on a mapped drive ("file:///C:/pics/a.png"); nothing for
+/// others.
+std::optional<QUrl> UrlOfMappedDrive(const QUrl &url);
 
 /// The existing native path that a name made by the program itself (Index.htm, eThumbs.mdb ...)
 /// stands for: the exact name where it exists, else component by component ignoring letter case;

@@ -4,9 +4,13 @@
 #include "platform/ProgramValues.h"
 #include "tests/support/Checks.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
@@ -123,6 +127,69 @@ TEST_F(FolderPicker, EnterInTheFolderListMeansOk) {
   QTest::keyClick(&Dir1(), Qt::Key_Return);
   EXPECT_EQ(values_.ImageFolderPath, ToLogic(Native(QStringLiteral("Other"))));
   EXPECT_FALSE(picker_.isVisible());
+}
+
+TEST_F(FolderPicker, KeepsItsSizeWhateverTheNamesAndShowsALongPathInATip) {
+  const QString longName(200, QChar(u'n'));
+  ASSERT_TRUE(QDir(folder_.path()).mkdir(longName));
+  const QSize size = picker_.size();
+  picker_.SelectFolder(Native(longName));
+  QCoreApplication::processEvents();
+  EXPECT_EQ(picker_.size(), size);
+  EXPECT_LE(picker_.minimumSizeHint().width(), size.width());
+  EXPECT_TRUE(picker_.rect().contains(
+      QRect(Button("SSCommand2").mapTo(&picker_, QPoint(0, 0)), Button("SSCommand2").size())));
+  auto *selected = picker_.findChild<QLabel *>(QStringLiteral("lblSelected"));
+  EXPECT_EQ(selected->toolTip(), Native(longName));
+  EXPECT_TRUE(selected->text().contains(QChar(0x2026)));
+}
+
+TEST_F(FolderPicker, DeepFoldersAreReachedByKeyboardAndByScrolling) {
+  QString deep = QStringLiteral("deep");
+  for (int level = 1; level <= 20; ++level) deep += QStringLiteral("/level%1").arg(level);
+  ASSERT_TRUE(QDir(folder_.path()).mkpath(deep));
+  picker_.SelectFolder(Native(QStringLiteral("deep")));
+  for (int i = 0; i < 42; ++i) QTest::keyClick(&Dir1(), Qt::Key_Right);
+  EXPECT_EQ(picker_.SelectedFolder(), Native(deep));
+  EXPECT_TRUE(Button("SSCommand1").isEnabled());
+  EXPECT_GT(Dir1().horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(FolderPicker, FoldersAreInTheOrderOfPeopleAndHiddenOnesComeOnRequest) {
+  for (const char *name : {"f10", "f2", "F1", ".secret"})
+    ASSERT_TRUE(QDir(folder_.path()).mkpath(QStringLiteral("Order/") + QLatin1String(name)));
+  const auto names = [&] {
+    QStringList found;
+    picker_.SelectFolder(Native(QStringLiteral("Order")));
+    for (int i = 0; i < Dir1().currentItem()->childCount(); ++i)
+      found << Dir1().currentItem()->child(i)->text(0);
+    return found;
+  };
+  const QStringList shown{QStringLiteral("F1"), QStringLiteral("f2"), QStringLiteral("f10")};
+  EXPECT_EQ(names(), shown);
+  picker_.findChild<QCheckBox *>(QStringLiteral("chkHidden"))->click();
+  EXPECT_EQ(picker_.SelectedFolder(), Native(QStringLiteral("Order")));
+  EXPECT_TRUE(names().contains(QStringLiteral(".secret")));
+  EXPECT_EQ(names().size(), 4);
+}
+
+TEST_F(FolderPicker, APathCanBeTypedAndOkNeedsAFolderThatIsThere) {
+  auto *box = picker_.findChild<QLineEdit *>(QStringLiteral("txtPath"));
+  box->setFocus();
+  box->clear();
+  QTest::keyClicks(box, Native(QStringLiteral("Sites/Nowhere")));
+  EXPECT_FALSE(Button("SSCommand1").isEnabled());
+  box->clear();
+  QTest::keyClicks(box, Native(QStringLiteral("Sites/Bob's Site")));
+  EXPECT_EQ(box->text(), Native(QStringLiteral("Sites/Bob's Site")));
+  EXPECT_TRUE(Button("SSCommand1").isEnabled());
+  Button("SSCommand1").click();
+  EXPECT_EQ(values_.ImageFolderPath, ToLogic(Native(QStringLiteral("Sites/Bob's Site"))));
+}
+
+TEST_F(FolderPicker, StartsAtTheNearestFolderThatIsStillThere) {
+  picker_.SelectFolder(Native(QStringLiteral("Sites/gone/deeper")));
+  EXPECT_EQ(picker_.SelectedFolder(), Native(QStringLiteral("Sites")));
 }
 
 }  // namespace

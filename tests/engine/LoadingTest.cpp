@@ -3,6 +3,7 @@
 #include "platform/EditingCommands.h"
 #include "platform/RuntimeError.h"
 #include "tests/engine/ComponentFixture.h"
+#include "tests/support/MappedDrives.h"
 
 #include <QApplication>
 #include <QDir>
@@ -65,6 +66,14 @@ TEST_F(Loading, APictureGivenByItsFileAddressShows) {
   editor_->LoadDocument(Write(
       QStringLiteral("page.htm"),
       "<img src=\"" + QUrl::fromLocalFile(Native(QStringLiteral("a.png"))).toEncoded() + "\">"));
+  EXPECT_EQ(PictureWidth(), 3);
+}
+
+TEST_F(Loading, APictureOnAMappedDriveShows) {
+  WritePicture(QStringLiteral("a b.png"));
+  const MappedDrives drives(QStringLiteral("C: ") + folder_.path());
+  editor_->LoadDocument(
+      Write(QStringLiteral("page.htm"), "<p>x</p><img src=\"file:///C:/a%20b.png\">"));
   EXPECT_EQ(PictureWidth(), 3);
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/DriveMap.h"
 #include "platform/Paths.h"
 #include "tests/support/Checks.h"
 
@@ -50,6 +51,18 @@ TEST(Paths, ReadBothFormsFromPeople) {
   }
   const QString odd = ToLogic("/home/odd\\name");
   EXPECT_EQ(FromPeople(ForPeople(odd)), odd);
+}
+
+TEST(Paths, AnAddressOnAMappedDriveIsThatFilesHere) {
+  UseDriveMap(DriveMap::Parse(QStringLiteral("D: /mnt/d"), QStringLiteral("test")));
+  const auto mapped = UrlOfMappedDrive(QUrl(QStringLiteral("file:///D:/pics/a%20%231.png")));
+  const auto unmapped = UrlOfMappedDrive(QUrl(QStringLiteral("file:///C:/pics/a.png")));
+  const auto local = UrlOfMappedDrive(QUrl(QStringLiteral("file:///home/u/D:/a.png")));
+  const auto remote = UrlOfMappedDrive(QUrl(QStringLiteral("http://D:/a.png")));
+  UseDriveMap({});
+  ASSERT_TRUE(mapped.has_value());
+  EXPECT_EQ(mapped->toLocalFile(), "/mnt/d/pics/a #1.png");
+  EXPECT_FALSE(unmapped || local || remote);
 }
 
 TEST(Paths, RecogniseDriveTexts) {
