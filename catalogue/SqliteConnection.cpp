@@ -100,6 +100,17 @@ QString SqliteConnection::Notice() const {
   return jet_ ? jet_->Notice() : QString();
 }
 
+QString SqliteConnection::Defect() {
+  if (!jet_) return {};
+  jet_->Refresh();
+  const QString damage = jet_->Damage();
+  if (damage.isEmpty()) return {};
+  return QStringLiteral(
+             "The catalogue %1 is not whole: %2. What is left of it is shown, and nothing can be "
+             "changed in it; put a whole copy in its place")
+      .arg(jet_->Path(), damage);
+}
+
 sqlite3 *SqliteConnection::BeginStatement() {
   if (!database_) {
     throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("Database"),

@@ -33,6 +33,7 @@ class SqliteConnection final : public DatabaseConnection {
   std::unique_ptr<Recordset> CreateRecordset() override;
 
   QString Notice() const override;
+  QString Defect() override;
 
   /// The open database, ready for one statement: what another program has written since the last
   /// one is seen. Raises ObjectNotSet (91) before Open.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/SqliteStatement.h"
 
+#include "catalogue/LockHolder.h"
+
 #include <QByteArrayView>
 
 #include <sqlite3.h>
@@ -36,9 +38,23 @@ ErrorNumber NumberOf(int resultCode) {
 }  // namespace
 
 RuntimeError DatabaseError(sqlite3 *database, const QString &source, const QString &subject) {
-  return RuntimeError::Of(
-      NumberOf(sqlite3_extended_errcode(database)), source,
-      QStringLiteral("%1: %2").arg(QString::fromUtf8(sqlite3_errmsg(database)), subject));
+  const ErrorNumber number = NumberOf(sqlite3_extended_errcode(database));
+  const QString cause = QString::fromUtf8(sqlite3_errmsg(database));
+  // The tables of a Jet file belong to a database without a file; their errors name it themselves.
+  const char *name = sqlite3_db_filename(database, "main");
+  const QString file = QString::fromUtf8(name);
+  QString text = cause;
+  if (!file.isEmpty()) {
+    const QString holder = LockHolder(file);
+    text = number != ErrorNumber::PermissionDenied
+               ? QStringLiteral("the catalogue %1: %2").arg(file, cause)
+               : QStringLiteral(
+                     "the catalogue %1 is locked by %2; close it there, or wait until it has "
+                     "written, and try again")
+                     .arg(file, holder.isEmpty() ? QStringLiteral("another program") : holder);
+  }
+  if (subject != file) text += QStringLiteral("\n\n%1").arg(subject);
+  return RuntimeError::Of(number, source, text);
 }
 
 SqliteStatement::SqliteStatement(sqlite3 *database, const QString &text, const QString &source,

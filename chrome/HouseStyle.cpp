@@ -259,6 +259,8 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWid
                           QStyleHintReturn *returnData) const {
   // Words suffice on the buttons of a dialog.
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  // An open list shows maxVisibleItems rows and a scroll bar, not a menu as high as the screen.
+  if (hint == SH_ComboBox_Popup) return 0;
   return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 

@@ -76,9 +76,14 @@ class DatabaseConnection {
   virtual void Open(const QString &connectionText, const QString &user, const QString &password,
                     int options) = 0;
   virtual ObjectState State() const = 0;
-  /// What opening the file brought about that the person should know (an interrupted change that
-  /// was taken back, say); empty as a rule.
+  /// What opening the file did that the person should know (an interrupted change was taken back,
+  /// say); empty as a rule.
   virtual QString Notice() const { return {}; }
+
+  /// What is missing or damaged in the file, as far as it can be told by reading all of it, in one
+  /// sentence for people; empty for a sound file. What is there can be read; nothing can be
+  /// changed.
+  virtual QString Defect() { return {}; }
 
   /// Runs a statement that returns no rows. Raises when it fails.
   virtual void Execute(const QString &statement, int options) = 0;

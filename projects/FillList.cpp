@@ -27,14 +27,21 @@ std::vector<SourceColumn> Find(const QStringList &names, const Recordset &record
   return columns;
 }
 
+void Show(const RowTable &table, ListControl &list) {
+  list.SetArray(table);
+  list.ReBind();
+  list.Refresh();
+  list.Refresh();
+}
+
 }  // namespace
 
 std::int16_t FillList(ListControl &list, RowTable &table, const QString &statement,
                       LeadingColumn leadingColumn, std::int32_t keyValue, const QString &keyColumn,
                       const QStringList &columnNames, DatabaseConnection &connection) {
+  const int offset = leadingColumn == LeadingColumn::Reserved ? 1 : 0;
   std::int16_t found = 0;
   try {
-    const int offset = leadingColumn == LeadingColumn::Reserved ? 1 : 0;
     // Filled aside, so that a list that shows `table` never sees it half full.
     RowTable fresh(static_cast<int>(columnNames.size()) - 1 + offset);
     const auto records = connection.CreateRecordset();
@@ -59,12 +66,12 @@ std::int16_t FillList(ListControl &list, RowTable &table, const QString &stateme
       }
     }
     table = std::move(fresh);
-    list.SetArray(table);
-    list.ReBind();
-    list.Refresh();
-    list.Refresh();
-  } catch (const RuntimeError &) {
-    // The caller learns of it by the row number alone.
+    Show(table, list);
+  } catch (const RuntimeError &error) {
+    // Rows of another statement would be taken for this one's.
+    table = RowTable(static_cast<int>(columnNames.size()) - 1 + offset);
+    Show(table, list);
+    list.FillFailed(error.Description());
   }
   return found;
 }

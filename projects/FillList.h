@@ -20,6 +20,8 @@ class ListControl {
   /// Reads the table's shape and content anew.
   virtual void ReBind() = 0;
   virtual void Refresh() = 0;
+  /// Filling it failed, and it is empty now; `description` for people.
+  virtual void FillFailed(const QString &) {}
 };
 
 /// Whether column 0 is kept free for the list's own use; it then holds 0 in every row and the
@@ -30,7 +32,7 @@ enum class LeadingColumn { None, Reserved };
 /// is rebuilt once. Values are normalised by column type (NormalisedValue). Returns the number of
 /// the last row whose `keyColumn` holds `keyValue`; 0 without one or with an empty `keyColumn`.
 ///
-/// A failure is not raised; the table and the list keep what they held.
+/// A failure is not raised: table and list are empty then, and the list is told why.
 std::int16_t FillList(ListControl &list, RowTable &table, const QString &statement,
                       LeadingColumn leadingColumn, std::int32_t keyValue, const QString &keyColumn,
                       const QStringList &columnNames, DatabaseConnection &connection);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "projects/RecordList.h"
 
+#include "platform/PlainTip.h"
 #include "projects/RowTable.h"
 #include "projects/Values.h"
 
@@ -15,8 +16,8 @@ namespace velor {
 /// The table as the view reads it.
 class RowTableModel : public QAbstractTableModel {
  public:
-  RowTableModel(QStringList headings, QObject *parent)
-      : QAbstractTableModel(parent), headings_(std::move(headings)) {}
+  RowTableModel(QStringList headings, int nameColumn, QObject *parent)
+      : QAbstractTableModel(parent), headings_(std::move(headings)), nameColumn_(nameColumn) {}
 
   void SetTable(const RowTable &table) { source_ = &table; }
 
@@ -35,9 +36,11 @@ class RowTableModel : public QAbstractTableModel {
     return parent.isValid() ? 0 : static_cast<int>(headings_.size());
   }
   QVariant data(const QModelIndex &index, int role) const override {
-    // The tip shows what a narrow column cuts off.
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
-    return TextOf(Value(index.row(), index.column()));
+    const QString text = TextOf(Value(index.row(), index.column()));
+    if (text.isEmpty() && index.column() == nameColumn_) return QStringLiteral("(no name)");
+    // The tip shows what a narrow column cuts off.
+    return role == Qt::ToolTipRole ? PlainTip(text) : text;
   }
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
     const bool named = orientation == Qt::Horizontal && role == Qt::DisplayRole;
@@ -46,6 +49,7 @@ class RowTableModel : public QAbstractTableModel {
 
  private:
   const QStringList headings_;
+  const int nameColumn_;
   const RowTable *source_ = &table_;
   /// As of the last Rebuild, so that the view does not depend on when the source changes or goes.
   RowTable table_;
@@ -67,7 +71,7 @@ class RoomyDelegate : public QStyledItemDelegate {
 }  // namespace
 
 RecordList::RecordList(const QStringList &headings, int nameColumn)
-    : model_(new RowTableModel(headings, this)) {
+    : model_(new RowTableModel(headings, nameColumn, this)) {
   setModel(model_);
   setItemDelegate(new RoomyDelegate(this));
   setRootIsDecorated(false);

@@ -6,6 +6,7 @@
 #include "platform/Database.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/ProgramValues.h"
 #include "platform/RuntimeError.h"
@@ -17,6 +18,7 @@
 #include "projects/Values.h"
 
 #include <QHBoxLayout>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
@@ -40,8 +42,14 @@ frmProjectManager::frmProjectManager(Platform &platform, ProgramValues &values, 
   tabs_->setCurrentIndex(0);
   tabs_->setTabEnabled(PagesTab, false);
   for (int tab = FirstUnusedTab; tab < tabs_->count(); ++tab) tabs_->setTabVisible(tab, false);
+  for (RecordList *list : {projectList_, pageList_})
+    connect(list, &RecordList::Failed, this, &frmProjectManager::ShowNote);
   LoadProjects();
 
+  connect(projectList_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          &frmProjectManager::UpdateOpen);
+  connect(projectList_->model(), &QAbstractItemModel::modelReset, this,
+          &frmProjectManager::UpdateOpen);
   connect(tabs_, &QTabWidget::currentChanged, this, &frmProjectManager::ListPages);
   connect(openButton_, &QPushButton::clicked, this, &frmProjectManager::OpenCurrentProject);
   connect(projectList_, &QAbstractItemView::doubleClicked, openButton_, &QPushButton::click);
@@ -65,7 +73,15 @@ void frmProjectManager::Build() {
   setModal(true);
   tabs_ = new QTabWidget;
   tabs_->setObjectName(QStringLiteral("SSTab1"));
-  column(this)->addWidget(tabs_);
+  auto *layout = column(this);
+  layout->addWidget(tabs_);
+  note_ = new QLabel;
+  note_->setObjectName(QStringLiteral("lblNote"));
+  note_->setAccessibleName(QStringLiteral("Note"));
+  note_->setTextFormat(Qt::PlainText);
+  note_->setWordWrap(true);
+  note_->hide();
+  layout->addWidget(note_);
 
   auto *projectsPage = new QWidget;
   QVBoxLayout *projects = column(projectsPage);
@@ -105,31 +121,49 @@ void frmProjectManager::reject() {
   QDialog::reject();
 }
 
+void frmProjectManager::Reopen() {
+  tabs_->setCurrentIndex(0);
+  LoadProjects();
+  closed_ = false;
+}
+
 void frmProjectManager::LoadProjects() {
+  ShowNote(Connection().Defect());
   const int count = Query(Statements::GeneratedProjects()).RecordCount();
   FillList(*projectList_, projects_,
            count < 2 ? Statements::GeneratedProjects() : Statements::GeneratedProjectsByDate(),
            LeadingColumn::None, 0, {},
            {QStringLiteral("IdProject"), QStringLiteral("Name"), QStringLiteral("DtModified")},
            Connection());
-  openButton_->setEnabled(count > 0);
   tabs_->setTabEnabled(PagesTab, count > 0);
+  UpdateOpen();
+}
+
+void frmProjectManager::UpdateOpen() {
+  openButton_->setEnabled(!TextOf(projectList_->CurrentValue()).isEmpty());
+}
+
+void frmProjectManager::ShowNote(const QString &text) {
+  // A failing statement stands behind the reason.
+  note_->setText(text.section(u'\n', 0, 0));
+  note_->setVisible(!text.isEmpty());
 }
 
 void frmProjectManager::ListPages(int tab) {
   const QVariant projectId = projectList_->CurrentValue();
   if (tab != PagesTab || TextOf(projectId).isEmpty()) return;
+  ShowNote(Connection().Defect());
   FillList(*pageList_, pages_, Statements::PageListOfProject(projectId), LeadingColumn::None, 0, {},
            {QStringLiteral("PageId"), QStringLiteral("PageName")}, Connection());
 }
 
 void frmProjectManager::OpenCurrentProject() {
   const QVariant projectId = projectList_->CurrentValue();
+  if (TextOf(projectId).isEmpty()) return;
   const Recordset &project = Query(Statements::ProjectById(projectId));
   if (project.RecordCount() > 0) {
-    const QString start = TextOf(project.Value(PathColumn)) + QStringLiteral("\\Index.htm");
-    const bool siteThere = platform_.files.FileExists(start, NameOrigin::Program);
-    if (!siteThere && !RepairFolders(projectId)) return;
+    const QString stored = TextOf(project.Value(PathColumn));
+    if (!IsSiteIn(stored) && !RepairFolders(projectId, stored)) return;
   }
 
   hide();
@@ -147,14 +181,43 @@ void frmProjectManager::OpenCurrentProject() {
   }
 }
 
-bool frmProjectManager::RepairFolders(const QVariant &projectId) {
+bool frmProjectManager::IsSiteIn(const QString &folder) const {
+  return platform_.files.FileExists(folder + QStringLiteral("\\Index.htm"), NameOrigin::Program);
+}
+
+QString frmProjectManager::FolderToWrite(const QString &folder, const QString &stored) {
+  QString chosen = folder;
+  while (IsOnUnknownDrive(stored) && !IsDrivePath(chosen)) {
+    const QString drive = stored.left(1).toUpper();
+    const MessageAnswer answer = platform_.dialogs.ShowMessage(
+        {.text = QStringLiteral(
+                     "This catalogue comes from another computer, where the site lies in %1. That "
+                     "computer no longer finds the site if %2 is written into the catalogue.\n\n"
+                     "Yes: name the folder here that stands for drive %3:. No: write %2 all the "
+                     "same.")
+                     .arg(stored, ForPeople(chosen), drive),
+         .buttons = MessageButtons::YesNoCancel,
+         .icon = MessageIcon::Question});
+    if (answer == MessageAnswer::No) break;
+    if (answer != MessageAnswer::Yes) return {};
+    host_.NameDrives(stored);
+    if (IsSiteIn(stored)) return stored;
+    // By the drive it lies on now.
+    chosen = ToLogic(ToNative(chosen));
+  }
+  return chosen;
+}
+
+bool frmProjectManager::RepairFolders(const QVariant &projectId, const QString &stored) {
   const MessageAnswer answer = platform_.dialogs.ShowMessage(
       {.text = QStringLiteral("Web path not found please provide the path"),
        .buttons = MessageButtons::YesNo});
   if (answer != MessageAnswer::Yes) return false;
-  host_.PickProjectFolder();
-  const QString folder = values_.ProjectFolderResult;
+  host_.PickProjectFolder(stored);
+  if (values_.ProjectFolderResult.isEmpty()) return false;
+  const QString folder = FolderToWrite(values_.ProjectFolderResult, stored);
   if (folder.isEmpty()) return false;
+  if (folder == stored && IsSiteIn(stored)) return true;
   ExecuteSql(Connection(), Statements::SetProjectFolder(folder, projectId));
   ExecuteSql(Connection(), Statements::SetPageFolders(folder, projectId));
   ExecuteSql(Connection(), Statements::SetCustomFolder(folder, projectId));

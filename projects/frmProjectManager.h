@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class QLabel;
 class QPushButton;
 class QTabWidget;
 
@@ -36,9 +37,11 @@ class frmProjectManager : public QDialog {
   /// projects.
   void LoadProjects();
 
-  /// Whether the person has closed the window rather than opened a project: whoever holds it
-  /// releases it then, and the next showing is a fresh one.
+  /// Whether the person has closed the window rather than opened a project.
   bool IsClosed() const { return closed_; }
+  /// Makes a closed window like a fresh one, its list read anew. It keeps its controls: each sweep
+  /// over fresh ones takes painters that the program never gives back.
+  void Reopen();
 
   void reject() override;
 
@@ -46,9 +49,18 @@ class frmProjectManager : public QDialog {
   void Build();
   void OpenCurrentProject();
   /// False when the person does not give the moved site a folder; nothing has changed then.
-  bool RepairFolders(const QVariant &projectId);
+  bool RepairFolders(const QVariant &projectId, const QString &stored);
+  /// Before a folder of this computer is written into the catalogue of another: offers to name the
+  /// drive's folder here. The folder as it is to be written, or the stored one where that is there
+  /// now; empty when the person calls it off.
+  QString FolderToWrite(const QString &folder, const QString &stored);
+  bool IsSiteIn(const QString &folder) const;
   void FillPageChooser(const QVariant &projectId);
   void ListPages(int tab);
+  /// What a person should know of the catalogue, under the lists; empty takes it back.
+  void ShowNote(const QString &text);
+  /// Opening needs a row of the list's own.
+  void UpdateOpen();
   /// The window's one result set, holding the statement's rows.
   Recordset &Query(const QString &statement);
   DatabaseConnection &Connection();
@@ -65,6 +77,7 @@ class frmProjectManager : public QDialog {
   RecordList *projectList_ = nullptr;
   RecordList *pageList_ = nullptr;
   QPushButton *openButton_ = nullptr;
+  QLabel *note_ = nullptr;
 };
 
 }  // namespace velor

@@ -163,7 +163,10 @@ QWidget *MfrmProgram::BuildTabRow() {
 void MfrmProgram::Load() {
   RunLoadSteps(*this, platform_.runtime);
   // From the event loop: when start-up has said all it has to say.
-  QTimer::singleShot(0, recovery_, [this] { recovery_->Offer(); });
+  QTimer::singleShot(0, recovery_, [this] {
+    projects_->ReportCatalogueDefect();
+    recovery_->Offer();
+  });
 }
 
 void MfrmProgram::InitialiseHiddenComponent() {

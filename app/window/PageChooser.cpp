@@ -21,7 +21,7 @@ void PageChooser::RemovePages() {
 
 void PageChooser::AddPage(const QString &name, std::int32_t pageId) {
   const QSignalBlocker silence(this);
-  addItem(name, pageId);
+  addItem(name.isEmpty() ? QStringLiteral("(no name)") : name, pageId);
   // Nothing is chosen until the person chooses.
   if (count() == 1) setCurrentIndex(-1);
   setEnabled(true);

@@ -2,6 +2,7 @@
 #include "app/window/ProjectDesk.h"
 
 #include "app/window/PageChooser.h"
+#include "chrome/FrmDrives.h"
 #include "chrome/FrmFld.h"
 #include "editor/EditorContext.h"
 #include "editor/MainWindow.h"
@@ -9,9 +10,12 @@
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
+#include "platform/Database.h"
 #include "platform/Dialogs.h"
+#include "platform/DriveMap.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
+#include "platform/ProgramValues.h"
 #include "projects/frmProjectManager.h"
 
 namespace velor {
@@ -23,11 +27,16 @@ ProjectDesk::ProjectDesk(EditorContext &context, ProgramValues &values, PageChoo
 void ProjectDesk::ShowProjectManager(QWidget &parent) {
   if (manager_.isNull()) {
     manager_ = new frmProjectManager(context_.platform, values_, *this, sweeps_, &parent);
+  } else if (manager_->IsClosed()) {
+    manager_->Reopen();
   }
   context_.platform.dialogs.RunModal(*manager_);
-  if (manager_.isNull() || !manager_->IsClosed()) return;
-  manager_->deleteLater();
-  manager_.clear();
+}
+
+void ProjectDesk::ReportCatalogueDefect() {
+  if (!values_.DbConnection) return;
+  const QString defect = values_.DbConnection->Defect();
+  if (!defect.isEmpty()) context_.mainWindow.status.Report(defect);
 }
 
 void ProjectDesk::ClearTabs() {
@@ -55,10 +64,17 @@ void ProjectDesk::OpenProjectPage(const QString &path) {
   modWorkFlow::OpenProjectPage(context_, path);
 }
 
-void ProjectDesk::PickProjectFolder() {
-  FrmFld picker(values_);
+void ProjectDesk::PickProjectFolder(const QString &wanted) {
+  FrmFld picker(values_, manager_);
   picker.ForProject = true;
+  if (!wanted.isEmpty() && !IsOnUnknownDrive(wanted)) picker.SelectFolder(ToNative(wanted));
   context_.platform.dialogs.RunModal(picker);
+}
+
+void ProjectDesk::NameDrives(const QString &path) {
+  FrmDrives drives(context_.platform.dialogs, DriveMapFile(), manager_);
+  drives.AddDrive(path.at(0));
+  context_.platform.dialogs.RunModal(drives);
 }
 
 }  // namespace velor

@@ -21,9 +21,12 @@ class ProjectDesk final : public ProjectHost {
   ProjectDesk(EditorContext &context, ProgramValues &values, PageChooser &chooser,
               StylingSweeps *sweeps);
 
-  /// Shows the project manager modally over `parent`: the one hidden by an earlier opening, else a
-  /// fresh one.
+  /// Shows the project manager modally over `parent`: as it was left by opening a project, as a
+  /// fresh one after it was closed.
   void ShowProjectManager(QWidget &parent);
+
+  /// Tells in the status bar that the catalogue is not whole, where it is not.
+  void ReportCatalogueDefect();
 
   void ClearTabs() override;
   void ClearPageChooser() override;
@@ -31,7 +34,8 @@ class ProjectDesk final : public ProjectHost {
   int DocumentCount() const override;
   void UnloadDocument(int index) override;
   void OpenProjectPage(const QString &path) override;
-  void PickProjectFolder() override;
+  void PickProjectFolder(const QString &wanted) override;
+  void NameDrives(const QString &path) override;
 
  private:
   EditorContext &context_;

@@ -167,13 +167,18 @@ void JetFile::Refresh() {
   }
 }
 
-const JetAccess &JetFile::Access() {
+QString JetFile::Damage() {
   Parts &parts = *parts_;
   if (!parts.checked) {
     for (const auto &table : parts.tables) CheckJetTable(parts.pager, *table);
     parts.checked = true;
   }
-  QString reason = parts.pager.Damage();
+  return parts.pager.Damage();
+}
+
+const JetAccess &JetFile::Access() {
+  Parts &parts = *parts_;
+  QString reason = Damage();
   if (reason.isEmpty()) reason = parts.storage->WriteObjection();
   const JetAccessMode mode = reason.isEmpty() ? JetAccessMode::ReadWrite : JetAccessMode::ReadOnly;
   parts.access = {mode, reason};

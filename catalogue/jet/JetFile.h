@@ -57,8 +57,12 @@ class JetFile {
   /// when it is just being written. Does nothing within a transaction.
   void Refresh();
 
-  /// Whether the file can be written as it is. The first question (and the first after a change by
-  /// another program) walks all tables and compares the rows with what the definitions count.
+  /// What is missing or damaged, for people; empty for a sound file. The first question (and the
+  /// first after a change by another program) walks all tables and compares the rows with what the
+  /// definitions count.
+  QString Damage();
+
+  /// Whether the file can be written as it is. A damaged file cannot.
   const JetAccess &Access();
 
   /// Valid as long as the file is.

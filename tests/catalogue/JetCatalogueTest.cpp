@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The catalogue as a Jet file: what the program's statements see of it and do to it.
 #include "catalogue/SqliteConnection.h"
+#include "catalogue/jet/JetFile.h"
+#include "catalogue/jet/JetFormat.h"
 #include "platform/Paths.h"
 #include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"
@@ -122,6 +124,36 @@ TEST_F(JetCatalogue, OrdersAndComparesTextsIgnoringLetterCase) {
   EXPECT_EQ(Column("Select * from Page where ProjectId = '2' Order by Pagename", "PageName"),
             (QStringList{U("About"), U("prices")}));
   EXPECT_EQ(Column("Select * from Page where PageName = 'ABOUT'", "PageId"), QStringList{U("11")});
+}
+
+TEST_F(JetCatalogue, OfASoundFileNothingIsSaid) {
+  Open();
+  EXPECT_EQ(connection_->Defect(), QString());
+}
+
+TEST_F(JetCatalogue, WhoseCopyBrokeOffSaysSoIsReadOnAndIsNotChanged) {
+  Write(Bytes().chopped(100));
+  Open();
+  EXPECT_EQ(connection_->Defect(),
+            U("The catalogue %1 is not whole: its last page is incomplete. What is left of it is "
+              "shown, and nothing can be changed in it; put a whole copy in its place")
+                .arg(File()));
+  EXPECT_TRUE(Refusal("Update Project set Path = 'x' where IdProject = '1'")
+                  .contains(U("its last page is incomplete")));
+}
+
+TEST_F(JetCatalogue, WithARowMissingSaysHowManyThereShouldBe) {
+  QByteArray bytes = Bytes();
+  {
+    const auto file = JetFile::Open(File());
+    const JetTable &page = *file->FindTable(U("Page"));
+    char *rows = bytes.data() + qsizetype{page.definitionPage} * jet::PageBytes + 16;
+    ++rows[0];
+  }
+  Write(bytes);
+  Open();
+  EXPECT_TRUE(connection_->Defect().contains(U("the table Page should have")))
+      << connection_->Defect().toStdString();
 }
 
 TEST_F(JetCatalogue, GivesDatesAsText) {

@@ -139,7 +139,11 @@ TEST_F(SqliteCatalogue, AFileLockedByAnotherProgramIsRefused) {
   ASSERT_EQ(sqlite3_exec(other, "Begin exclusive", nullptr, nullptr, nullptr), SQLITE_OK);
   const RuntimeError error = Refusal();
   EXPECT_EQ(error.Number(), ErrorNumber::PermissionDenied);
-  EXPECT_TRUE(error.Description().contains(QStringLiteral("locked")));
+  EXPECT_EQ(
+      error.Description(),
+      QStringLiteral("Permission denied: the catalogue %1 is locked by another program; close "
+                     "it there, or wait until it has written, and try again")
+          .arg(File()));
   sqlite3_close(other);
 }
 

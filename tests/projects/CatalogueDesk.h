@@ -23,6 +23,7 @@ class CatalogueDesk : public ProjectHost {
   int DocumentCount() const override { return 0; }
   void UnloadDocument(int) override {}
   void OpenProjectPage(const QString &path) override { opened = path; }
+  void NameDrives(const QString &) override {}
 
  protected:
   ProgramValues &values_;

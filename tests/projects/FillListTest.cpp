@@ -24,6 +24,8 @@ class NotedList final : public ListControl {
   }
   void ReBind() override { log_.push_back(QStringLiteral("ReBind")); }
   void Refresh() override { log_.push_back(QStringLiteral("Refresh")); }
+  void FillFailed(const QString &description) override { failure = description; }
+  QString failure;
 
  private:
   CallLog &log_;
@@ -190,16 +192,19 @@ TEST_F(FillListTest, ShowsAnEmptyListForNoRows) {
   EXPECT_EQ(log.back(), QStringLiteral("Refresh"));
 }
 
-TEST_F(FillListTest, SaysNothingOfAFailingStatementAndKeepsWhatWasThere) {
+TEST_F(FillListTest, AFailingStatementEmptiesTheListWhichIsToldWhy) {
   Fill();
   log.clear();
   database.results.clear();
   EXPECT_EQ(Fill(), 0);
-  EXPECT_EQ(table.HighestRow(), 3);
-  EXPECT_EQ(std::count(log.begin(), log.end(), QStringLiteral("ReBind")), 0);
+  EXPECT_EQ(table.HighestRow(), 0);
+  EXPECT_EQ(table.HighestColumn(), 2);
+  EXPECT_EQ(std::count(log.begin(), log.end(), QStringLiteral("ReBind")), 1);
+  EXPECT_FALSE(list.failure.isEmpty());
 }
 
-TEST_F(FillListTest, SaysNothingOfAnUnknownColumn) {
+TEST_F(FillListTest, AnUnknownColumnEmptiesTheListToo) {
+  Fill();
   EXPECT_EQ(Fill(LeadingColumn::None, 0, {}, {QStringLiteral("Nowhere")}), 0);
   EXPECT_EQ(Fill(LeadingColumn::None, 1, QStringLiteral("Nowhere")), 0);
   EXPECT_EQ(table.HighestRow(), 0);

@@ -26,7 +26,7 @@ class PickingDesk final : public CatalogueDesk {
   /// Native form.
   QString folderToPick;
 
-  void PickProjectFolder() override {
+  void PickProjectFolder(const QString &) override {
     FrmFld picker(values_);
     picker.ForProject = true;
     picker.SelectFolder(folderToPick);

@@ -24,7 +24,7 @@ class Desk final : public CatalogueDesk {
   using CatalogueDesk::CatalogueDesk;
   QString pickedFolder;
 
-  void PickProjectFolder() override { values_.ProjectFolderResult = pickedFolder; }
+  void PickProjectFolder(const QString &) override { values_.ProjectFolderResult = pickedFolder; }
 };
 
 class ProjectRepairTest : public CatalogueOnDisk<FakeFiles, Desk> {

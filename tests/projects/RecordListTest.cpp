@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextDocument>
 
 namespace velor {
 namespace {
@@ -75,6 +76,19 @@ TEST_F(RecordListTest, TellsInATipWhatANarrowColumnCutsOff) {
   list.SetArray(table);
   list.ReBind();
   EXPECT_EQ(list.model()->index(0, 1).data(Qt::ToolTipRole).toString(), QString(300, QChar(u'n')));
+}
+
+TEST_F(RecordListTest, ShowsANameThatLooksLikeMarkupLetterByLetterInTheTipToo) {
+  const QString name = QStringLiteral("Bob's <b>Big</b> & \"Quoted\" <img src=x>  Site");
+  table.At(1, 1) = name;
+  list.SetArray(table);
+  list.ReBind();
+  EXPECT_EQ(Shown(0, 1), name);
+  const QString tip = list.model()->index(0, 1).data(Qt::ToolTipRole).toString();
+  QTextDocument shown;
+  ASSERT_TRUE(Qt::mightBeRichText(tip));
+  shown.setHtml(tip);
+  EXPECT_EQ(shown.toPlainText(), name);
 }
 
 TEST_F(RecordListTest, CannotBeWrittenInto) {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/DriveMap.h"
+#include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/ProgramValues.h"
 #include "projects/ProjectHost.h"
@@ -21,6 +23,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <functional>
 
 namespace velor {
 namespace {
@@ -46,10 +49,18 @@ class NotedHost final : public ProjectHost {
   void OpenProjectPage(const QString &path) override {
     log_.push_back(U("OpenProjectPage(%1)").arg(path));
   }
-  void PickProjectFolder() override {
+  void PickProjectFolder(const QString &) override {
     log_.push_back(U("PickProjectFolder"));
     values_.ProjectFolderResult = pickedFolder;
   }
+  void NameDrives(const QString &path) override {
+    log_.push_back(U("NameDrives(%1)").arg(path));
+    if (onNameDrives) onNameDrives();
+    if (!namedDrives.isEmpty()) UseDriveMap(DriveMap::Parse(namedDrives, U("test")));
+  }
+  std::function<void()> onNameDrives;
+  /// The drive map after the person has named drives.
+  QString namedDrives;
 
  private:
   CallLog &log_;
@@ -233,6 +244,42 @@ TEST_F(ProjectManagerTest, LeavesThePageListAloneWithoutACurrentProject) {
   EXPECT_EQ(Get<RecordList>("LstPages")->model()->rowCount(), 2);
 }
 
+TEST_F(ProjectManagerTest, SaysWhatFailedAndShowsNoOtherProjectsPages) {
+  Open();
+  ShowTab(1);
+  EXPECT_TRUE(Get<QLabel>("lblNote")->isHidden());
+  ShowTab(0);
+  database.failures.insert(
+      {ListedPages12, RuntimeError::Of(ErrorNumber::PermissionDenied, U("test"),
+                                       U("the catalogue is locked\n\nSelect"))});
+  ShowTab(1);
+  EXPECT_EQ(Get<RecordList>("LstPages")->model()->rowCount(), 0);
+  EXPECT_EQ(Get<QLabel>("lblNote")->text(), U("Permission denied: the catalogue is locked"));
+  EXPECT_TRUE(Get<QLabel>("lblNote")->isVisible());
+  ShowTab(0);
+  database.failures.clear();
+  ShowTab(1);
+  EXPECT_EQ(Get<RecordList>("LstPages")->model()->rowCount(), 2);
+  EXPECT_TRUE(Get<QLabel>("lblNote")->isHidden());
+}
+
+TEST_F(ProjectManagerTest, OpenIsOffWhereTheListCouldNotBeFilled) {
+  database.failures.insert({ByDate, RuntimeError::Of(ErrorNumber::InvalidProcedureCall, U("test"),
+                                                     U("no such column: DtModified"))});
+  Open();
+  EXPECT_EQ(Get<RecordList>("LsHistory")->model()->rowCount(), 0);
+  EXPECT_FALSE(Get<QPushButton>("cmdOpen")->isEnabled());
+  EXPECT_TRUE(Get<QLabel>("lblNote")->text().contains(U("no such column: DtModified")));
+}
+
+TEST_F(ProjectManagerTest, ADamagedCatalogueIsSaidUnderTheLists) {
+  database.defect = U("The catalogue \\eThumbs.mdb is not whole: its last page is incomplete");
+  Open();
+  EXPECT_EQ(Get<QLabel>("lblNote")->text(), database.defect);
+  EXPECT_TRUE(Get<QLabel>("lblNote")->isVisible());
+  EXPECT_TRUE(Get<QPushButton>("cmdOpen")->isEnabled());
+}
+
 TEST_F(ProjectManagerTest, OpensAProjectStepByStep) {
   Open();
   Click();
@@ -319,6 +366,70 @@ TEST_F(ProjectManagerTest, StopsWhenTheFolderPickerIsCancelled) {
   EXPECT_EQ(log.back(), U("PickProjectFolder"));
   EXPECT_EQ(database.statements, std::vector<QString>{Project12});
   EXPECT_TRUE(window->isVisible());
+}
+
+/// A catalogue from a computer with drives, whose site is not where it says.
+class ForeignCatalogueTest : public ProjectManagerTest {
+ protected:
+  ForeignCatalogueTest() {
+    database.results[Project12].rows[0][2] = U("C:\\Sites\\Shop");
+    host.pickedFolder = U("\\home\\win\\Sites\\Shop");
+    Open();
+    dialogs.ExpectMessage(Question, MessageAnswer::Yes);
+  }
+  ~ForeignCatalogueTest() override { UseDriveMap({}); }
+
+  void ExpectWarning(MessageAnswer answer) {
+    dialogs.ExpectMessage(
+        U("This catalogue comes from another computer, where the site lies in C:\\Sites\\Shop. "
+          "That "
+          "computer no longer finds the site if /home/win/Sites/Shop is written into the "
+          "catalogue.\n\nYes: name the folder here that stands for drive C:. No: write "
+          "/home/win/Sites/Shop all the same."),
+        answer);
+  }
+  bool IsWritten(const QString &folder) const {
+    return std::any_of(database.statements.begin(), database.statements.end(),
+                       [&](const QString &statement) {
+                         return statement.startsWith(U("Update Project")) &&
+                                statement.contains(u'\'' + folder + u'\'');
+                       });
+  }
+};
+
+TEST_F(ForeignCatalogueTest, WarnsBeforeAPathOfThisComputerIsWrittenAndCancelWritesNothing) {
+  ExpectWarning(MessageAnswer::Cancel);
+  Click();
+  EXPECT_EQ(database.statements, std::vector<QString>{Project12});
+  EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(ForeignCatalogueTest, NoWritesTheFolderAsItIs) {
+  ExpectWarning(MessageAnswer::No);
+  Click();
+  EXPECT_TRUE(IsWritten(U("\\home\\win\\Sites\\Shop")));
+}
+
+TEST_F(ForeignCatalogueTest, ANamedDriveIsWhatIsWritten) {
+  host.namedDrives = U("C: /home/win");
+  host.pickedFolder = U("\\home\\win\\Sites\\Moved");
+  dialogs.ExpectMessage(
+      U("This catalogue comes from another computer, where the site lies in C:\\Sites\\Shop. That "
+        "computer no longer finds the site if /home/win/Sites/Moved is written into the "
+        "catalogue.\n\nYes: name the folder here that stands for drive C:. No: write "
+        "/home/win/Sites/Moved all the same."),
+      MessageAnswer::Yes);
+  Click();
+  EXPECT_TRUE(IsWritten(U("C:\\Sites\\Moved")));
+}
+
+TEST_F(ForeignCatalogueTest, WhereTheNamedDriveHasTheSiteNothingIsWritten) {
+  host.namedDrives = U("C: /home/win");
+  host.onNameDrives = [this] { files.AddFile(U("C:\\Sites\\Shop\\Index.htm"), "<HTML>"); };
+  ExpectWarning(MessageAnswer::Yes);
+  Click();
+  EXPECT_FALSE(IsWritten(U("C:\\Sites\\Shop")));
+  EXPECT_EQ(log.back(), U("OpenProjectPage(C:\\Sites\\Shop\\Files\\Home.htm)"));
 }
 
 TEST_F(ProjectManagerTest, WritesThePickedFolderIntoTheThreeTablesAsItIs) {

@@ -136,6 +136,7 @@ class FakeConnection final : public DatabaseConnection {
   ObjectState State() const override { return state_; }
 
   QString Notice() const override { return database_.notice; }
+  QString Defect() override { return database_.defect; }
 
   void Execute(const QString &statement, int options) override {
     Note(database_.log_, QStringLiteral("Execute(%1, %2)").arg(statement).arg(options));

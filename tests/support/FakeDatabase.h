@@ -38,6 +38,8 @@ class FakeDatabase {
   std::optional<RuntimeError> openFailure;
   /// What opening has to tell.
   QString notice;
+  /// What is wrong with the file.
+  QString defect;
 
   // What tests read.
   std::vector<QString> statements;  ///< every statement, queried or executed, in order

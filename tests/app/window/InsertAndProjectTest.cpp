@@ -13,6 +13,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTabWidget>
+#include <QTest>
 
 namespace velor {
 namespace {
@@ -36,6 +38,15 @@ class InsertTest : public WindowFixture {
 
   frmMain *front = nullptr;
 };
+
+TEST_F(InsertTest, ACatalogueThatIsNotWholeIsSaidInTheStatusBarAtTheStart) {
+  database.defect = QStringLiteral("The catalogue is not whole");
+  values.DbConnection = database.CreateConnection();
+  MfrmProgram second(platform, values);
+  second.Load();
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return second.statusBar()->currentMessage() == database.defect; }));
+}
 
 TEST_F(InsertTest, ImageAndHyperlinkOpenTheElementDialogOnTheirPage) {
   front = &NewPage();
@@ -225,7 +236,7 @@ TEST_F(ProjectTest, AMissingHomePageIsReportedAfterEverythingBeforeIt) {
   EXPECT_EQ(window.Context().pages.PageCount(), 1);
 }
 
-TEST_F(ProjectTest, AManagerHiddenByOpeningIsKeptAClosedOneIsNot) {
+TEST_F(ProjectTest, AManagerHiddenByOpeningIsAsItWasAClosedOneIsReadAnew) {
   QPointer<QWidget> first;
   dialogs.ExpectModal([&](QWidget &manager) {
     first = &manager;
@@ -235,13 +246,17 @@ TEST_F(ProjectTest, AManagerHiddenByOpeningIsKeptAClosedOneIsNot) {
   dialogs.ExpectModal([&](QWidget &manager) {
     EXPECT_EQ(&manager, first);
     manager.show();
+    manager.findChild<QTabWidget *>()->setCurrentIndex(1);
     manager.close();
   });
   Choose("mnuView_ProjectMan");
-  DeleteClosedWindows();
-  EXPECT_TRUE(first.isNull());
-  dialogs.ExpectModal([](QWidget &manager) { EXPECT_FALSE(manager.isVisible()); });
+  database.statements.clear();
+  dialogs.ExpectModal([](QWidget &manager) {
+    EXPECT_FALSE(manager.isVisible());
+    EXPECT_EQ(manager.findChild<QTabWidget *>()->currentIndex(), 0);
+  });
   Choose("mnuView_ProjectMan");
+  EXPECT_EQ(database.statements.size(), 2);
 }
 
 TEST_F(ProjectTest, TheFolderPickerAnswersForTheProjectAndIsGoneAfterwards) {
@@ -257,10 +272,10 @@ TEST_F(ProjectTest, TheFolderPickerAnswersForTheProjectAndIsGoneAfterwards) {
       picker->findChild<QPushButton *>(QString::fromLatin1(button))->click();
     });
   }
-  desk.PickProjectFolder();
+  desk.PickProjectFolder({});
   EXPECT_EQ(values.ProjectFolderResult, QStringLiteral("\\usr"));
   EXPECT_TRUE(shown.isNull());
-  desk.PickProjectFolder();
+  desk.PickProjectFolder({});
   EXPECT_EQ(values.ProjectFolderResult, QString());
   EXPECT_TRUE(shown.isNull());
   EXPECT_EQ(values.ImageFolderPath, QStringLiteral("\\images"));

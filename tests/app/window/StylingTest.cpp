@@ -40,6 +40,21 @@ TEST_F(StylingTest, TheMainWindowsComboBoxesAreFlatOnceItIsLoaded) {
   }
 }
 
+TEST_F(StylingTest, TheProjectManagersButtonIsPaintedEachTimeOfAHundred) {
+  values.DbConnection = database.CreateConnection();
+  values.DbConnection->Open({}, {}, {}, -1);
+  database.results[QStringLiteral("Select * from Project where Created = true")] = {};
+  for (int time = 0; time < 100; ++time) {
+    dialogs.ExpectModal([](QWidget &manager) {
+      EXPECT_TRUE(IsFlat(manager.findChild<QPushButton *>(QStringLiteral("cmdOpen"))));
+      manager.show();
+      manager.close();
+    });
+    styled.findChild<QAction *>(QStringLiteral("mnuView_ProjectMan"))->trigger();
+    DeleteClosedWindows();
+  }
+}
+
 TEST_F(StylingTest, WithoutAWindowSystemNothingIsStyled) {
   EXPECT_FALSE(IsFlat(Find<QComboBox>("cobFormat")));
 }

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "catalogue/LockHolder.h"
+
+#include <QFile>
+#include <QStringList>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace velor {
+
+namespace {
+
+QString ReadSystemFile(const QString &path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? QString::fromLocal8Bit(file.readAll()) : QString();
+}
+
+}  // namespace
+
+QString LockHolder(const QString &nativePath) {
+  struct stat status {};
+  if (stat(QFile::encodeName(nativePath).constData(), &status) != 0) return {};
+  // Not asked of the file itself: closing it once more would drop the locks of this process.
+  const QString locks = ReadSystemFile(QStringLiteral("/proc/locks"));
+  const QString inode = u':' + QString::number(status.st_ino);
+  for (const QString &line : locks.split(u'\n')) {
+    // "1: POSIX ADVISORY WRITE 1234 fd:01:5678 0 EOF"; a waiting process has "->" after the number.
+    const QStringList fields = line.simplified().split(u' ');
+    constexpr int process = 4;
+    constexpr int place = 5;
+    if (fields.size() <= place || !fields[place].endsWith(inode)) continue;
+    if (fields[process].toLongLong() <= 0 || fields[process].toLongLong() == getpid()) continue;
+    const QString name =
+        ReadSystemFile(QStringLiteral("/proc/%1/comm").arg(fields[process])).trimmed();
+    if (!name.isEmpty()) return QStringLiteral("%1 (process %2)").arg(name, fields[process]);
+  }
+  return {};
+}
+
+}  // namespace velor
