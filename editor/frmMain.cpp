@@ -8,6 +8,7 @@
 #include "chrome/ToolBarButtons.h"
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
+#include "editor/OutsideChanges.h"
 #include "editor/PageSlots.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Dialogs.h"
@@ -94,6 +95,8 @@ frmMain::frmMain(EditorContext &context, int number)
   views_->addWidget(component_->Widget());
   views_->addWidget(source_->Widget());
   layout->addLayout(views_, 1);
+  outside_ = new OutsideChanges(context_, *this);
+  layout->addWidget(outside_);
   setFocusProxy(component_->Widget());
 
   component_->SetShowDetails(

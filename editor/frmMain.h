@@ -21,6 +21,7 @@ class QToolBar;
 
 namespace velor {
 
+class OutsideChanges;
 class ToolBarAction;
 
 /// The document window: one page, in design view (`DHTML1`) or source view (`Code1`) lying in the
@@ -48,6 +49,7 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   SourceControl &Code1() { return *source_; }
   EditorContext &Context() { return context_; }
   PageJournal &Journal() { return journal_; }
+  OutsideChanges &Outside() { return *outside_; }
 
   /// 1 design, 2 view HTML, 3 edit HTML, 4 preview; anything else does nothing.
   void ChangeMode(std::int32_t mode);
@@ -116,6 +118,7 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   SourceCaret shownCaret_;  ///< where the source view's caret was put
   QToolBar *tbrQuick = nullptr;
   QStackedLayout *views_ = nullptr;
+  OutsideChanges *outside_ = nullptr;
 };
 
 }  // namespace velor

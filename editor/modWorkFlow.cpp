@@ -5,6 +5,7 @@
 #include "app/settings/modSettingManager.h"
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
+#include "editor/OutsideChanges.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
@@ -247,6 +248,7 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
     const PageRecord record = RecordOfRestored(context, number, kept);
     context.pages.Record(number) = record;
     context.pages.Trace(number) = FileTrace::Of(kept.path, kept.page.original);
+    if (!kept.path.isEmpty()) window.Outside().Follow(kept.path);
     window.setWindowTitle(record.Caption);
     window.CheckAcc();
     const bool isReadOnly = record.ReadOnly != False16;

@@ -2,6 +2,7 @@
 // Pages saved.
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
+#include "editor/OutsideChanges.h"
 #include "editor/PageLinks.h"
 #include "editor/PageRecord.h"
 #include "editor/PageSlots.h"
@@ -224,6 +225,7 @@ bool WantsAnotherName(EditorContext &context, const PageRecord &record) {
 
 void TraceFile(frmMain &window, const QString &path) {
   const Platform &platform = window.Context().platform;
+  window.Outside().Follow(path);
   if (platform.replaced == nullptr) return;
   window.Context().pages.Trace(window.Number()) = FileTrace::Of(path, platform.files.ReadAll(path));
 }

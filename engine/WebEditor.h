@@ -48,6 +48,7 @@ class WebEditor : public EditingComponent {
   QString ReasonToWriteAnew() override;
   PageMemory Memory() const override;
   bool IsIdle() const override;
+  bool IsWaiting() const override;
   void Recall(const PageMemory &memory) override;
   QString Charset() const override;
   QString TextForm() const override;

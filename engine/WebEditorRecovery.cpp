@@ -64,6 +64,10 @@ void WebEditor::MirrorTaken() {
   });
 }
 
+bool WebEditor::IsWaiting() const {
+  return engine_.Guard().Waiting();
+}
+
 PageMemory WebEditor::Memory() const {
   return {original_->Original().bytes, nativePath_, mirror_.page.Html()};
 }

@@ -96,6 +96,9 @@ class EditingComponent {
   /// Whether all that the person has typed so far is known to be on the screen: a moment for what
   /// should delay no key. Asked when MemoryChanged comes.
   virtual bool IsIdle() const { return false; }
+  /// Whether a call into the engine, of this component or another, still waits further up the
+  /// stack.
+  virtual bool IsWaiting() const { return false; }
   /// Replaces the page by one that was remembered; returns when it is parsed. Against its original
   /// it is an edited page, and is saved as such. Raises RuntimeError when it cannot be shown.
   virtual void Recall(const PageMemory &memory) = 0;

@@ -14,6 +14,7 @@ class DatabaseConnection;
 class Dialogs;
 class EditingComponent;
 class FileDialog;
+class FileWatches;
 class Files;
 class Journals;
 class Registry;
@@ -49,6 +50,8 @@ struct Platform {
   ReplacedVersions *replaced = nullptr;
   /// Null where pages have no temporary copies: their text is handed on as it is.
   TemporaryCopies *copies = nullptr;
+  /// Null where files are not watched for changes by others.
+  FileWatches *watches = nullptr;
 };
 
 }  // namespace velor

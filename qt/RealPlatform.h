@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "files/QtFileWatches.h"
 #include "files/QtFiles.h"
 #include "files/ReplacedFiles.h"
 #include "files/TemporaryCopyFiles.h"
@@ -27,8 +28,9 @@ struct RealPlatform {
   JournalFiles journals;
   ReplacedFiles replaced;
   TemporaryCopyFiles copies;
+  QtFileWatches watches;
   Platform parts{files,    runtime,   dialogs,   registry, components,
-                 &windows, &journals, &replaced, &copies};
+                 &windows, &journals, &replaced, &copies,  &watches};
 };
 
 }  // namespace velor

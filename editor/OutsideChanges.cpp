@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/OutsideChanges.h"
+
+#include "chrome/Palette.h"
+#include "editor/PageSlots.h"
+#include "editor/VersionCompare.h"
+#include "editor/frmCodeEditor.h"
+#include "editor/frmMain.h"
+#include "editor/modGeneral.h"
+#include "editor/modWorkFlow.h"
+#include "page/text/PageEncoding.h"
+#include "platform/Paths.h"
+#include "platform/Platform.h"
+#include "platform/ReplacedVersions.h"
+#include "platform/RuntimeError.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+
+#include <chrono>
+
+namespace velor {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// While the engine is waited for, or the page is being made, the file is looked at later.
+constexpr std::chrono::milliseconds retryDelay = 100ms;
+
+}  // namespace
+
+OutsideChanges::OutsideChanges(EditorContext &context, frmMain &page)
+    : QFrame(&page), context_(context), page_(page) {
+  setObjectName(QStringLiteral("picOutside"));
+  setAccessibleName(QStringLiteral("Changed file"));
+  auto *line = new QHBoxLayout(this);
+  line->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
+  line->setSpacing(BarMargin);
+  text_ = new QLabel;
+  text_->setObjectName(QStringLiteral("lblOutside"));
+  text_->setTextFormat(Qt::PlainText);
+  text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  line->addWidget(text_, 1);
+  const auto add = [&](const char *name, const QString &caption, const QString &tip,
+                       void (OutsideChanges::*action)()) {
+    auto *button = new QPushButton(caption);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setAccessibleName(caption);
+    button->setToolTip(tip);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, action);
+    line->addWidget(button);
+  };
+  add("cmdKeepMine", QStringLiteral("Keep Mine"),
+      QStringLiteral("Go on with the page as it is here; saving it keeps the other version"),
+      &OutsideChanges::KeepMine);
+  add("cmdTakeTheirs", QStringLiteral("Take Theirs"),
+      QStringLiteral("Load the file again; Undo brings the page back as it is here"),
+      &OutsideChanges::TakeTheirs);
+  add("cmdCompare", QStringLiteral("Compare"),
+      QStringLiteral("Show both side by side as source, with the differences marked"),
+      &OutsideChanges::Compare);
+  hide();
+
+  retry_.setSingleShot(true);
+  connect(&retry_, &QTimer::timeout, this, &OutsideChanges::Look);
+  if (context.platform.watches == nullptr) return;
+  watch_ = context.platform.watches->Begin([this](const QString &) { Look(); });
+}
+
+void OutsideChanges::Follow(const QString &path) {
+  if (!watch_) return;
+  hide();
+  if (path == path_) return;
+  path_ = path;
+  isThere_ = true;
+  isReadOnly_ =
+      context_.platform.files.FileExists(path) && context_.platform.files.IsReadOnly(path);
+  watch_->SetFiles({path});
+}
+
+void OutsideChanges::Look() {
+  if (page_.Tag == QStringLiteral("kill")) return;
+  if (page_.Ready != QStringLiteral("True") || page_.DHTML1().IsWaiting())
+    return retry_.start(retryDelay);
+  if (!context_.platform.files.FileExists(path_)) return TellRemoval();
+  isThere_ = true;
+  try {
+    const QByteArray content = context_.platform.files.ReadAll(path_);
+    if (FileTrace::Of(path_, content) == context_.pages.Trace(page_.Number())) {
+      hide();
+      return TellPermissions();
+    }
+    const QPointer<OutsideChanges> alive(this);
+    const bool hasUnsavedWork = HasUnsavedWork();
+    if (alive == nullptr) return;
+    if (!hasUnsavedWork) {
+      TakeFile();
+      if (alive == nullptr) return;
+      return Report(QStringLiteral(
+          "%1 was changed by another program and is loaded again; Undo brings back what was here"));
+    }
+  } catch (const RuntimeError &error) {
+    return context_.mainWindow.status.Report(
+        QStringLiteral("%1 was changed by another program and cannot be read: %2")
+            .arg(Name(), error.Description()));
+  }
+  text_->setText(QStringLiteral("%1 was changed by another program, and has unsaved changes here.")
+                     .arg(Name()));
+  show();
+}
+
+void OutsideChanges::TellRemoval() {
+  if (!isThere_) return;
+  isThere_ = false;
+  Report(QStringLiteral(
+      "%1 is no longer there: it was removed, renamed, or its disk has gone. The page stays open, "
+      "and saving it writes the file anew"));
+}
+
+void OutsideChanges::TellPermissions() {
+  const bool isReadOnly = context_.platform.files.IsReadOnly(path_);
+  if (isReadOnly == isReadOnly_) return;
+  isReadOnly_ = isReadOnly;
+  Report(isReadOnly ? QStringLiteral("%1 is read-only now: Save As keeps your changes")
+                    : QStringLiteral("%1 can be written now"));
+}
+
+bool OutsideChanges::HasUnsavedWork() {
+  const QPointer<OutsideChanges> alive(this);
+  // Asking for the document brings Memory() up to the last key.
+  (void)page_.DHTML1().DocumentHTML();
+  if (alive == nullptr) return true;
+  const frmCodeEditor *editor = context_.pages.CodeEditor(page_.Number());
+  if (editor != nullptr && editor->UnappliedText()) return true;
+  return page_.Journal().HasChanges();
+}
+
+void OutsideChanges::TakeFile() {
+  EditingComponent &component = page_.DHTML1();
+  const QPointer<frmMain> alive(&page_);
+  const int number = page_.Number();
+  const ElementPlaces caret = component.CaretPlaces();
+  if (alive == nullptr) return;
+  // Read first: a file that changes in between counts as changed again. Noted last: a page that
+  // could not be loaded still holds its old text.
+  const FileTrace trace = FileTrace::Of(path_, context_.platform.files.ReadAll(path_));
+  component.LoadDocument(path_);
+  if (alive == nullptr) return;
+  context_.pages.Trace(number) = trace;
+  component.ShowPlace(caret);
+  const QString html = component.DocumentHTML();
+  if (alive == nullptr) return;
+  context_.pages.Record(number).SavedHTML = html;
+  page_.Journal().MarkSaved();
+}
+
+void OutsideChanges::KeepOwnText() {
+  if (context_.platform.replaced == nullptr) return;
+  const QString text = page_.DHTML1().TextToSave();
+  context_.platform.replaced->Keep(
+      path_, EncodePage(text, modWorkFlow::EncodingOf(context_, page_.Number())));
+}
+
+void OutsideChanges::TakeTheirs() {
+  KeepOwnText();
+  TakeFile();
+  hide();
+  Report(QStringLiteral("%1 is loaded again; Undo brings back what was here"));
+}
+
+void OutsideChanges::KeepMine() {
+  // The trace stays: a save keeps the file's version before it replaces it.
+  hide();
+  Report(QStringLiteral("Saving %1 keeps the other version among the replaced ones"));
+}
+
+void OutsideChanges::Compare() {
+  const QByteArray there = context_.platform.files.ReadAll(path_);
+  auto *compare =
+      new VersionCompare(Name(), page_.DHTML1().TextToSave(), DecodePage(there).text, window());
+  compare->show();
+}
+
+void OutsideChanges::Report(const QString &message) const {
+  context_.mainWindow.status.Report(message.arg(Name()));
+}
+
+QString OutsideChanges::Name() const {
+  return modGeneral::FileNameOfPath(path_);
+}
+
+void OutsideChanges::paintEvent(QPaintEvent *) {
+  QPainter painter(this);
+  painter.fillRect(rect(), HoverField(palette()));
+  painter.setPen(Hairline(palette()));
+  painter.drawLine(rect().topLeft(), rect().topRight());
+}
+
+}  // namespace velor
