@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -77,8 +78,21 @@ TEST_F(Program, AFirstStartAsksNothingAndWritesBothLocationFiles) {
 }
 
 TEST_F(Program, ActsUponNoArgumentTheToolkitsIncluded) {
-  Start({QStringLiteral("-platform"), QStringLiteral("nowhere"), QStringLiteral("page.htm")});
+  Write(QStringLiteral("page.htm"), "<p>one</p>");
+  Start(
+      {QStringLiteral("-platform"), QStringLiteral("nowhere"), Native(QStringLiteral("page.htm"))});
   ExpectStarted();
+  // Whatever opens a page records it in the history.
+  QFile settings(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                 QStringLiteral("/Company/VelorCDMaker.conf"));
+  const auto isOpened = [&] {
+    const bool holds =
+        settings.open(QIODevice::ReadOnly) && settings.readAll().contains("page.htm");
+    settings.close();
+    return holds;
+  };
+  constexpr int longEnough = 3000;
+  EXPECT_FALSE(QTest::qWaitFor(isOpened, longEnough));
 }
 
 TEST_F(Program, ADamagedCatalogueEndsItWithAReportAndStaysAsItIs) {
