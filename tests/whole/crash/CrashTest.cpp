@@ -285,6 +285,24 @@ TEST(Crash, AKillAtAnyStepOfARestoreLosesNothing) {
   }
 }
 
+TEST(Crash, AKilledRunsPageComesBackAfterEveryExitThatFollows) {
+  const Home home;
+  Life killed(QStringLiteral("journal"), home.Path(Page), 0);
+  ASSERT_TRUE(killed.Hears("done", StartLimit));
+  killed.Kill();
+  for (const int alphabets : {2, 3}) {
+    Life again(QStringLiteral("return"), home.Path(Page), 0);
+    ASSERT_TRUE(again.Hears("done", StartLimit));
+    again.Kill();
+    const auto pages = Recovered();
+    ASSERT_EQ(pages.size(), 1U);
+    EXPECT_EQ(pages[0].end, RunEnd::Exit);
+    EXPECT_TRUE(pages[0].page.document.contains(QString::fromLatin1(Alphabet.repeated(alphabets))))
+        << pages[0].page.document.toStdString();
+    EXPECT_EQ(home.Content(Page), Old);
+  }
+}
+
 TEST(Crash, TwoCopiesAtOnceLeaveEachOthersPagesAlone) {
   for (int run = 0; run < Runs(1); ++run) {
     const Home home;
