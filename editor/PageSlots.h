@@ -15,9 +15,6 @@ namespace velor {
 class frmCodeEditor;
 class frmMain;
 
-/// More pages than these are never open at once, whichever way they come.
-inline constexpr int MostPages = 5;
-
 /// The key of a page's tab: "key" followed by the page number.
 QString PageKey(int number);
 

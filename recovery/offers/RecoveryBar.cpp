@@ -4,7 +4,7 @@
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
 #include "editor/MainWindow.h"
-#include "editor/PageSlots.h"
+#include "editor/OpenPages.h"
 #include "editor/frmBrowser.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
@@ -234,8 +234,14 @@ JournalledPage RecoveryBar::Read(const AbandonedPage &abandoned) {
   return std::move(reading.page);
 }
 
+int RecoveryBar::Room() const {
+  // A page that stayed open without a tab counts too.
+  const int open = std::max(context_.mainWindow.tabs.Count(), OpenPageCount(context_));
+  return std::max(0, MostPages - open);
+}
+
 void RecoveryBar::RestoreOne(const Offered &offered) {
-  if (context_.mainWindow.tabs.Count() < MostPages) return Restore(offered);
+  if (Room() > 0) return Restore(offered);
   context_.mainWindow.status.Report(
       QStringLiteral("%1 stays here: %2 pages are open, which is the most. Close one, then restore "
                      "it")
@@ -247,8 +253,7 @@ void RecoveryBar::RestoreAll() {
   std::vector<Offered> readable;
   std::copy_if(offered_.begin(), offered_.end(), std::back_inserter(readable),
                [](const Offered &offered) { return offered.page.defect.isEmpty(); });
-  const auto room =
-      static_cast<std::size_t>(std::max(0, MostPages - context_.mainWindow.tabs.Count()));
+  const auto room = static_cast<std::size_t>(Room());
   const std::size_t count = std::min(room, readable.size());
   // The newest find room; their tabs come in the order in which they were changed.
   for (std::size_t next = count; next-- > 0;) {

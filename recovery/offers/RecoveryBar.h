@@ -50,6 +50,8 @@ class RecoveryBar final : public QFrame {
   void BuildCaption(QVBoxLayout &column);
   void Fill();
   void AddRow(const AbandonedPage &abandoned);
+  /// How many more pages may be open.
+  int Room() const;
   void RestoreOne(const Offered &offered);
   void RestoreAll();
   void Restore(const Offered &offered);
