@@ -75,6 +75,7 @@ interface Step {
   after: RestPoints;
   changes: Change[];
   weight: number;
+  completed: number;                // of the changes: those that what goes with them was made for
   seen?: Map<Node, Set<string>>;    // while the step is gathered: what has changed already
   names?: Map<Element, string[]>;   // and the order of attributes that are to be taken off
 }

@@ -73,22 +73,25 @@ export function breakLines(element, kept) {
   }
 }
 
-// White space shows as it stands in preformatted text: what was seen of it is left. Kept places go along.
+// White space shows as it stands in preformatted text: what was seen of it is left. Kept places go
+// along.
 function collapseBlanks(element, kept) {
   const places = kept ? [kept.anchor, kept.focus] : [];
   const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
   while (walker.nextNode()) {
-    const text = walker.currentNode;
-    if (dom.ancestor(text, dom.isAtom)) continue;
-    for (let at = text.length - 1; at >= 0; at--) {
-      if (!isBlank({ node: text, index: at })) continue;
-      const before = beside(text, at, 'previousSibling');
-      const shows = before && !isBlank(before) && beside(text, at + 1, 'nextSibling') !== null;
-      text.insertData(at + 1, shows ? ' ' : '');
-      text.deleteData(at, 1);
-      if (shows) continue;
-      for (const place of places) if (place.node === text && place.offset > at) place.offset -= 1;
-    }
+    const text = /** @type {Text} */ (walker.currentNode);
+    if (!dom.ancestor(text, dom.isAtom)) collapseText(text, places);
+  }
+}
+function collapseText(text, places) {
+  for (let at = text.length - 1; at >= 0; at--) {
+    if (!isBlank({ node: text, index: at })) continue;
+    const before = beside(text, at, 'previousSibling');
+    const shows = before && !isBlank(before) && beside(text, at + 1, 'nextSibling') !== null;
+    if (shows) text.insertData(at + 1, ' ');
+    text.deleteData(at, 1);
+    const moved = shows ? [] : places.filter(({ node, offset }) => node === text && offset > at);
+    for (const place of moved) place.offset -= 1;
   }
 }
 

@@ -7,7 +7,7 @@ import * as lists from './lists.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import { beside, keepsBlanks } from '../page/beside.js';
-import { holdOpen, prune } from '../page/lines.js';
+import { holdOpen, lineElement, prune } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { dropLine } from '../page/sourceLines.js';
 import { gapAt, heldUnits, unitsIn } from '../page/units.js';
@@ -147,10 +147,6 @@ function removeLeaves(range) {
   }
   blocks.forEach(holdOpen);
 }
-
-// The inline element that a page's rules make a line.
-const lineElement = (node) => dom.ancestor(node, (at) =>
-  dom.isInline(at) && /^(block|flex|grid|list-item)$/.test(getComputedStyle(at).display), dom.isBlock);
 
 // Deletes what is selected in one paragraph, as it stands.
 function cut(range) {
@@ -316,12 +312,12 @@ function clearBetween(first, second) {
 function leafBeside(node, side) {
   const cell = cellOf(node);
   for (let at = node; at && at !== cell; at = at.parentNode) {
-    let beside = dom.neighbour(at, side);
-    while (isNothing(beside)) beside = dom.neighbour(beside, side);
-    if (!beside) continue;
-    if (beside.tagName === 'TABLE') return beside;
-    return side === 'previousSibling' ? shownEdge(beside, 'lastChild', 'previousSibling')
-      : shownEdge(beside, 'firstChild', 'nextSibling');
+    let near = dom.neighbour(at, side);
+    while (isNothing(near)) near = dom.neighbour(near, side);
+    if (!near) continue;
+    if (near.tagName === 'TABLE') return near;
+    return side === 'previousSibling' ? shownEdge(near, 'lastChild', 'previousSibling')
+      : shownEdge(near, 'firstChild', 'nextSibling');
   }
   return null;
 }
@@ -387,17 +383,9 @@ function emptyLine({ block, nodes, container }, side) {
   return side === 'start' || !inner || dom.isBreak(inner) ? edge : null;
 }
 
-// White space that showed nothing at the edges of two paragraphs would be a blank between them. A
-// blank alone was seen where it was typed.
 function trimEdges(first, second) {
-  const last = first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null;
-  const next = second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null;
-  const layout = dom.isText(last) && !keepsBlanks(last) &&
-    (blanks.wasTypedIn(last) ? /[ \t\n]{2,}$|\n$/ : /[ \t\n]+$/).exec(last.data);
-  if (layout) last.deleteData(layout.index, layout[0].length);
-  if (dom.isText(next) && !keepsBlanks(next)) {
-    next.deleteData(0, /^[ \t\n]*/.exec(next.data)[0].length);
-  }
+  blanks.trimEdges(first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null,
+    second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null);
 }
 
 function joinAt(first, second) {

@@ -194,8 +194,8 @@ function release(group) {
   return paragraphs;
 }
 
-// What followed items that leave their list becomes theirs, or stays on its level in an item of its own.
-// Returns the item that it is in.
+// What followed items that leave their list becomes theirs, or stays on its level in an item of its
+// own. Returns the item that it is in.
 function toLast(last, list, tail) {
   const isWhole = itemsIn(list).every((item) => tail.includes(item));
   const own = [...last.childNodes].filter(dom.isShown).at(-1);

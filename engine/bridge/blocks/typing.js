@@ -78,8 +78,8 @@ function looksOf(text) {
     .map(([name, format]) => [name, format.read(text.parentNode)]);
 }
 
-// Deletes what is selected. What is typed next looks as the first of it did, where it is typed in the
-// same paragraph: its formats wait at the caret. All of the page leaves none.
+// Deletes what is selected. What is typed next looks as the first of it did, where it is typed in
+// the same paragraph: its formats wait at the caret. All of the page leaves none.
 export function removeKeepingLooks(range) {
   const [text] = isAll(range) || selection.control(range) ? [] : selection.textsIn(range);
   const looks = text ? looksOf(text) : [];
@@ -102,7 +102,7 @@ export function prepare(event) {
     // A table is nothing to type over.
     const behind = object?.tagName === 'TABLE' && !isAll(range) && objects.entering(object);
     if (behind) behind();
-    const gaveWay = Boolean(behind) || object && objects.giveWay(object);
+    const gaveWay = Boolean(behind) || (object && objects.giveWay(object));
     if (event.inputType === 'insertCompositionText' && !object) removeKeepingLooks(range);
     else if (!gaveWay) deletion.empty(range);
   }

@@ -199,11 +199,14 @@ function putAt(fragment, { startContainer, startOffset }) {
   else putInline(fragment, startContainer, startOffset);
 }
 
-// Parts of lists and tables that come without them: items and rows get theirs, cells and options are
-// what they hold.
-const homes = { LI: 'UL', DT: 'DL', DD: 'DL', TR: 'TABLE', TBODY: 'TABLE', TFOOT: 'TABLE', THEAD: 'TABLE' };
+// Parts of lists and tables that come without them: items and rows get theirs, cells and options
+// are what they hold.
+const homes = {
+  LI: 'UL', DT: 'DL', DD: 'DL', TR: 'TABLE', TBODY: 'TABLE', TFOOT: 'TABLE', THEAD: 'TABLE',
+};
+const takesItems = (node) => node.tagName === 'LI' || dom.isList(node);
 const isIn = (node, home) =>
-  dom.ancestor(node, (at) => (home === 'UL' ? at.tagName === 'LI' || dom.isList(at) : isListOf(at)), dom.isCell);
+  dom.ancestor(node, home === 'UL' ? takesItems : isListOf, dom.isCell) !== null;
 function house(fragment, node) {
   for (const part of [...fragment.children]) {
     if (/^(CAPTION|COL|COLGROUP|OPTGROUP|OPTION|TD|TH)$/.test(part.tagName)) {
@@ -211,11 +214,13 @@ function house(fragment, node) {
       continue;
     }
     const home = homes[part.tagName];
-    if (!home || part.parentNode !== fragment || home !== 'TABLE' && isIn(node, home)) continue;
+    if (!home || part.parentNode !== fragment) continue;
+    if (home !== 'TABLE' && isIn(node, home)) continue;
     const parts = [];
-    for (let at = part; at && (homes[at.tagName] === home || !dom.isShown(at)); at = at.nextSibling) {
-      parts.push(at);
-    }
+    const belongs = (at) => homes[at.tagName] === home || !dom.isShown(at);
+    /** @type {any} */
+    let at = part;
+    for (; at && belongs(at); at = at.nextSibling) parts.push(at);
     const holder = dom.wrap(parts, dom.create(home));
     const rows = [...holder.children].filter(({ tagName }) => tagName === 'TR');
     if (rows.length) dom.wrap(rows, dom.create('TBODY'));
@@ -227,6 +232,7 @@ export const pasteHTML = (html) => history.step('pasteHTML', () => {
   selection.ensure();
   if (!selection.range()) return;
   const fragment = parse(html);
+  /** @type {any[]} */
   const [only, ...others] = [...fragment.childNodes].filter(dom.isShown);
   put(fragment);
   if (only?.tagName === 'TABLE' && !others.length) enterTable(only);

@@ -36,8 +36,8 @@ const ancestors = function* (element) {
   for (let at = element; at && at !== document; at = at.parentNode) yield at;
 };
 
-// A heading, a table's header cell, a link and inserted text have their look by nature: that alone is no
-// format, so that bold in a heading and underline in a link can be told apart and toggled.
+// A heading, a table's header cell, a link and inserted text have their look by nature: that alone
+// is no format, so that bold in a heading and underline in a link can be told apart and toggled.
 const boldByNature = (element) => isHeading(element) || element.tagName === 'TH';
 const weighs = (element) => Number(style(element).fontWeight) >= 600;
 function bold(element) {

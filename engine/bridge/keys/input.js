@@ -67,7 +67,8 @@ function takeOver(event) {
 
 // inputType of the last beforeinput. Chromium's `input` reports insertText for Enter after typing.
 let announced = null;
-let composedBefore = false;  // an input method had begun what it writes on before the last beforeinput
+// Whether an input method had begun what it writes on before the last beforeinput.
+let composedBefore = false;
 
 export function beforeInput(event) {
   if (isWorking() || !dom.isEditable()) return;

@@ -110,7 +110,8 @@ export function entering(object) {
     ? () => openParagraph((paragraph) => object.after(paragraph)) : null;
 }
 
-// Escape goes out of a box or a table, which is selected then, and from a selected object behind it.
+// Escape goes out of a box or a table, which is selected then, and from a selected object behind
+// it.
 export function leave(object) {
   const { anchorNode } = document.getSelection();
   const box = object ??

@@ -41,7 +41,8 @@ export const charAt = (place) => (place?.node ? place.node.data[place.index] : '
 export const isBlank = (place) => /[ \t\r\n]/.test(charAt(place));
 
 // White space that HTML shows as it stands.
-export const keepsBlanks = (text) => /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
+export const keepsBlanks = (text) =>
+  /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
 
 // True where nothing but blanks follows in the line.
 export function endsLine(place) {

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Blanks at the edge of a line. HTML does not show them, so a no-break space stands where a blank was
-// typed there or is left by a deletion. That is needed while the caret is beside it and wrong
-// afterwards: here such places are held, shown to the program as blanks at once, and made blanks again
-// as soon as the caret has gone. Blanks that a person types at a line's start or several in a row stay
-// no-break spaces, since HTML would swallow them.
+// Blanks at the edge of a line. HTML does not show them, so a no-break space stands where a blank
+// was typed there or is left by a deletion. That is needed while the caret is beside it and wrong
+// afterwards: here such places are held, shown to the program as blanks at once, and made blanks
+// again as soon as the caret has gone. Blanks that a person types at a line's start or several in a
+// row stay no-break spaces, since HTML would swallow them.
 //
-// Protocol, for every change of text at the caret: watch() before it, then the change, then watched().
-// Where the engine carries the change out, watch() is told what it will do, and engineDone() is called
-// first thing after it: that puts back the source's white space which the engine rewrote (whitespace.js).
+// Protocol, for every change of text at the caret: watch() before it, then the change, then
+// watched(). Where the engine carries the change out, watch() is told what it will do, and
+// engineDone() is called first thing after it: that puts back the source's white space which the
+// engine rewrote (whitespace.js).
 import * as dom from './dom.js';
 import * as history from './history.js';
 import { beside, charAt, edge, endsLine, isBlank, keepsBlanks } from './beside.js';
@@ -18,8 +19,8 @@ import * as whitespace from './whitespace.js';
 
 const noBreak = '\u00a0';
 
-// {node, index, typed, was, across}; never changed in place. What was not typed stands for a blank of
-// the page: `was` is that character, and it goes where the one on the side `across` is a blank too.
+// {node, index, typed, was, across}; never changed in place. What was not typed stands for a blank
+// of the page: `was` is that character, and it goes where the one on the side `across` is a blank.
 let held = [];
 let before = null;
 
@@ -28,6 +29,7 @@ const typedIn = new WeakSet();
 export const noteTyped = (text) => typedIn.add(text);
 export const wasTypedIn = (text) => typedIn.has(text);
 
+/** @returns {[left: any, right: any]} */
 function ends() {
   const { anchorNode, anchorOffset } = selection.points();
   if (!anchorNode) return [null, null];
@@ -61,7 +63,8 @@ function meet(node, offset) {
     exchange(place, noBreak);
     hold(place.node, place.index, false, { was, across });
   };
-  if (isBlank(left) && (!right || isBlank(right) && charAt(left) === ' ' && charAt(right) !== ' ')) {
+  const takesLeft = isBlank(right) && charAt(left) === ' ' && charAt(right) !== ' ';
+  if (isBlank(left) && (!right || takesLeft)) {
     keep(left, 'nextSibling');
   } else if (isBlank(right) && (!left || isBlank(left))) {
     keep(right, 'previousSibling');
@@ -253,7 +256,13 @@ function meanings(places) {
     if (across === 'nextSibling') return right && isGap(right) ? '' : was;
     if (!left) return typed ? null : '';
     if (!right) return isBlank(left) || charAt(left) === noBreak ? '' : was;
-    if (typed) return endsLine(right) ? '' : isBlank(left) || isGap(right) ? null : was;
+    return typed ? meaningOfTyped(left, right, was) : meaningOfLeft(left, right, was);
+  };
+  const meaningOfTyped = (left, right, was) => {
+    if (endsLine(right)) return '';
+    return isBlank(left) || isGap(right) ? null : was;
+  };
+  const meaningOfLeft = (left, right, was) => {
     if (charAt(left) === noBreak || charAt(right) === noBreak) return null;
     return isBlank(left) || isBlank(right) ? '' : was;
   };
@@ -270,6 +279,19 @@ function meanings(places) {
   }).filter(({ text }) => text !== null);
 }
 const settle = (places) => meanings(places).forEach((place) => exchange(place, place.text));
+
+// The last text of a paragraph and the first of the one that joins it: white space that showed
+// nothing there would be a blank between them. A blank alone was seen where it was typed.
+export function trimEdges(last, next) {
+  if (dom.isText(last) && !keepsBlanks(last)) {
+    const unseen = wasTypedIn(last) ? /[ \t\n]{2,}$|\n$/ : /[ \t\n]+$/;
+    const [layout = ''] = unseen.exec(last.data) ?? [];
+    last.deleteData(last.length - layout.length, layout.length);
+  }
+  if (dom.isText(next) && !keepsBlanks(next)) {
+    next.deleteData(0, /^[ \t\n]*/.exec(next.data)[0].length);
+  }
+}
 
 // Cuts a text in two; what is held in it goes along. Returns the second half.
 export function split(text, offset) {

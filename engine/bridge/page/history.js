@@ -144,7 +144,8 @@ const rest = () => ({ ...points(), held: along.held() });
 
 const begin = (kind, before = rest()) => {
   open = {
-    kind, before, after: before, changes: [], seen: new Map(), names: new Map(), weight: 0, completed: 0,
+    kind, before, after: before, changes: [], seen: new Map(), names: new Map(), weight: 0,
+    completed: 0,
   };
 };
 

@@ -31,3 +31,7 @@ export function openParagraph(put) {
   put(paragraph);
   selection.setCaret(paragraph, 0);
 }
+
+/** The inline element around a node that a page's rules make a line; null for none. */
+export const lineElement = (node) => dom.ancestor(node, (at) => dom.isInline(at) &&
+  /^(block|flex|grid|list-item)$/.test(getComputedStyle(at).display), dom.isBlock);

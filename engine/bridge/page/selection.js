@@ -79,7 +79,7 @@ export const setCaret = (node, offset) => document.getSelection().collapse(node,
 export function ahead() {
   const selected = document.getSelection();
   const kept = points();
-  selected.modify('extend', 'forward', 'character');
+  /** @type {any} */ (selected).modify('extend', 'forward', 'character');
   const { startContainer, startOffset, endContainer, endOffset } = selected.getRangeAt(0);
   select(kept);
   return { startContainer, startOffset, endContainer, endOffset };
@@ -109,9 +109,10 @@ export function* leavesIn(selected) {
 function showsNothing(text, { startContainer, startOffset, endContainer, endOffset }) {
   const from = text === startContainer ? startOffset : 0;
   const to = text === endContainer ? endOffset : text.length;
-  if (from === 0 && to === text.length || !/^[ \t\r\n]*$/.test(text.data.slice(from, to))) return false;
-  const isEdge = beside(text, from, 'previousSibling') === null || beside(text, to, 'nextSibling') === null;
-  return isEdge && !keepsBlanks(text);
+  const isAll = from === 0 && to === text.length;
+  if (isAll || !/^[ \t\r\n]*$/.test(text.data.slice(from, to))) return false;
+  const sides = [beside(text, from, 'previousSibling'), beside(text, to, 'nextSibling')];
+  return sides.includes(null) && !keepsBlanks(text);
 }
 
 // The texts of a range of which at least one character is selected and that can be formatted, among

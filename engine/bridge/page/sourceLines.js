@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The lines of the source. A block that was made begins on a line of its own where its neighbours do,
-// with their indentation; what stood there before stays where it is. In a page without line ends
-// between its blocks there are none beside new ones either.
+// The lines of the source. A block that was made begins on a line of its own where its neighbours
+// do, with their indentation; what stood there before stays where it is. In a page without line
+// ends between its blocks there are none beside new ones either.
 import * as dom from './dom.js';
 import * as history from './history.js';
 
 const holdsItems = (node) => dom.isElement(node) &&
   /^(DIR|DL|MENU|OL|TABLE|TBODY|TFOOT|THEAD|UL)$/.test(node.tagName);
 
-// The line end and the indentation before a node; null where it does not begin a line. A parser takes
-// the ones before a table's first row out of the rows' group.
+// The line end and the indentation before a node; null where it does not begin a line. A parser
+// takes the ones before a table's first row out of the rows' group.
 function lineOf(node) {
   const { previousSibling: before, parentNode } = node;
   if (!before && /^(TBODY|TFOOT|THEAD)$/.test(parentNode.tagName)) return lineOf(parentNode);

@@ -208,17 +208,18 @@ export function enclose({ container, nodes }, element) {
   return element;
 }
 
-// Gives the selected units to `change` and then selects `kept` again. A caret where nothing is gets a
-// line to change: a break holds it open, and goes where the change has made nothing of it.
+// Gives the selected units to `change` and then selects `kept` again. A caret where nothing is gets
+// a line to change: a break holds it open, and goes where the change has made nothing of it.
 export function changeUnits(kept, change) {
   const units = unitsIn(selection.range());
-  const [{ container, block, nodes } = {}] = units;
-  const isOpen = units.length !== 1 || block || nodes.length || !dom.isCell(container);
-  if (isOpen) {
+  const [only] = units;
+  const isOpen = units.length !== 1 || only.block || only.nodes.length;
+  if (isOpen || !dom.isCell(only.container)) {
     change(units);
     selection.restore(kept);
     return;
   }
+  const { container } = only;
   const line = dom.create('BR');
   container.append(line);
   selection.setCaret(container, selection.indexOf(line));

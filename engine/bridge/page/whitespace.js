@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The white space that sets out the source. HTML shows a run of it as one blank or not at all; the
-// engine, when it types or deletes beside such a run, makes no-break spaces of it or takes it away. Here
-// the texts at the caret are noted before the engine changes them, and what was white space of the
-// source is written back after it.
+// engine, when it types or deletes beside such a run, makes no-break spaces of it or takes it away.
+// Here the texts at the caret are noted before the engine changes them, and what was white space of
+// the source is written back after it.
 import * as dom from './dom.js';
 import { beside, endsLine, isBlank, keepsBlanks } from './beside.js';
 import * as selection from './selection.js';
@@ -37,7 +37,8 @@ export function note(range, inputType, target) {
     for (const text of selection.textsIn(block)) texts.set(text, text.data);
   }
   const { startContainer, startOffset } = range;
-  const alone = new Map([...texts.keys()].filter(dom.isBlank).map((node) => [node, standing(node)]));
+  const blank = [...texts.keys()].filter(dom.isBlank);
+  const alone = new Map(blank.map((node) => [node, standing(node)]));
   return { texts, left, right, alone, start: { node: startContainer, offset: startOffset },
     target: dom.isText(target?.startContainer) && dom.isText(target.endContainer) ? target : null };
 }
@@ -45,10 +46,9 @@ export function note(range, inputType, target) {
 // The offset in a noted text where the caret stood, null where it did not touch it. At a line's end
 // the caret is seen before the white space that shows nothing.
 function caretOffset({ start, left, right }, node) {
-  const offset = node === start.node ? start.offset
-    : node === left?.node ? left.index + 1
-      : node === right?.node ? right.index : null;
-  return offset;
+  if (node === start.node) return start.offset;
+  if (node === left?.node) return left.index + 1;
+  return node === right?.node ? right.index : null;
 }
 function shownOffset(text, offset, showsRest) {
   const above = text.slice(0, offset);
@@ -68,7 +68,9 @@ function typed(node, data, above, below) {
 
 // What the noted texts are to be: {texts, caret}; null where that is not known.
 function afterTyping(noted, { data }) {
-  const { anchorNode, anchorOffset } = selection.points();
+  const points = selection.points();
+  const anchorNode = /** @type {Text} */ (points.anchorNode);
+  const { anchorOffset } = points;
   const texts = new Map(noted.texts);
   if (!texts.has(anchorNode)) return { texts, caret: null };
   const old = texts.get(anchorNode);
@@ -76,7 +78,8 @@ function afterTyping(noted, { data }) {
   if (at === null) return null;
   const rest = beside(anchorNode, anchorOffset, 'nextSibling');
   const below = old.slice(at);
-  const ends = wordsOf(below) === '' && !below.includes(noBreak) && (rest === null || endsLine(rest));
+  const hasRest = wordsOf(below) !== '' || below.includes(noBreak);
+  const ends = !hasRest && (rest === null || endsLine(rest));
   const offset = keepsBlanks(anchorNode) ? at : shownOffset(old, at, !ends);
   // What was held for a blank the engine makes one, where a word follows.
   const isBlankNow = (index) => data !== ' ' && anchorNode.data[index] === ' ' &&
@@ -105,9 +108,10 @@ function afterDeletion({ texts: old, target }) {
   const precedes = (node, other) =>
     Boolean(other.compareDocumentPosition(node) & Node.DOCUMENT_POSITION_PRECEDING);
   const texts = new Map([...old].map(([node, data]) => {
-    const from = node === startContainer ? startOffset
-      : precedes(node, startContainer) ? data.length : 0;
-    const to = node === endContainer ? endOffset : precedes(endContainer, node) ? 0 : data.length;
+    let from = precedes(node, startContainer) ? data.length : 0;
+    let to = precedes(endContainer, node) ? 0 : data.length;
+    if (node === startContainer) from = startOffset;
+    if (node === endContainer) to = endOffset;
     return [node, to > from ? data.slice(0, from) + data.slice(to) : data];
   }));
   return { texts, caret: { node: startContainer, offset: startOffset } };

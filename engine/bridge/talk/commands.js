@@ -115,7 +115,7 @@ const list = (tag) => {
     status: (view) => (view.units().length ? status(view) : Status.Disabled),
     run(value, view) {
       if (status(view) === Status.Latched) lists.unlist();
-      else onUnits((units) => lists.make(units, tag, 'LI'))(value, view);
+      else onUnits((units) => lists.make(units, tag, 'LI'))(value);
     },
   };
 };

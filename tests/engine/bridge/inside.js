@@ -12,5 +12,6 @@ import { dividePiecesOver } from '../../../engine/bridge/talk/changes.js';
 import { commands, statusOf } from '../../../engine/bridge/talk/commands.js';
 
 globalThis.inside = {
-  blanks, blockFormats, commands, dividePiecesOver, dom, glyphs, history, beside, selection, statusOf,
+  beside, blanks, blockFormats, commands, dividePiecesOver, dom, glyphs, history, selection,
+  statusOf,
 };

@@ -25,7 +25,8 @@
 
   const runs = {
     old: [['b'], ['i'], ['u'], ['strong'], ['em'], ['font', 'color="#FF0000"'],
-      ['font', 'face="Arial"'], ['font', 'size="5"'], ['a', 'href="x.htm"'], ['ins', 'cite="y.htm"'], ['del', '']],
+      ['font', 'face="Arial"'], ['font', 'size="5"'], ['a', 'href="x.htm"'],
+      ['ins', 'cite="y.htm"'], ['del', '']],
     html5: [['b'], ['i'], ['u'], ['strong'], ['em'], ['span', 'style="color: #FF0000"'],
       ['span', 'style="font-family: Arial"'], ['span', 'style="font-size: 18pt"'],
       ['a', 'href="x.htm"'], ['ins', 'cite="y.htm"'], ['del', '']],
@@ -60,7 +61,8 @@
     }
     return result;
   }
-  const inLines = (text) => (setOut && chance(0.5) ? lineEnd() + text + lineEnd() : text);
+  const inLines = (content) =>
+    (setOut && chance(0.5) ? lineEnd() + content + lineEnd() : content);
   const lineOrNone = () => (chance(0.1) ? '<br>' : inLines(line()));
 
   const align = () => (inside.dom.writesStyles()

@@ -54,19 +54,20 @@
     .map((element) => ({ words: wordsOf(element.textContent),
       sign: `${element.id || element.tagName} ${element.getAttribute('href') ?? ''}` }));
   function marksJudged() {
-    const [verb] = step.action;
-    if (!['exec', 'type'].includes(verb) || step.action[1] === 5004) return [];
-    const now = marks().map(({ sign, words }) => ({ sign, words }));
-    const all = (list, sign) => list.filter((mark) => mark.sign === sign).map(({ words }) => words).join('');
-    const lost = step.marks.filter(({ sign }) => !all(now, sign).includes(all(step.marks, sign)) &&
-      !/^[^ ]*[a-z0-9]/.test(sign));
-    return lost.length && verb === 'exec' ? [`${lost[0].sign} is lost`] : [];
+    if (step.action[0] !== 'exec' || step.action[1] === 5004) return [];
+    const now = marks();
+    const wordsUnder = (list, sign) =>
+      list.filter((mark) => mark.sign === sign).map(({ words }) => words).join('');
+    const lost = step.marks.find(({ sign }) => !/^[a-z]/.test(sign) &&
+      !wordsUnder(now, sign).includes(wordsUnder(step.marks, sign)));
+    return lost ? [`${lost.sign} is lost`] : [];
   }
   // Typing and characters' formats leave every line end of the source.
   const ofCharacters = [5000, 5023, 5042, 5044, 5045, 5046, 5048];
   function lineEndsJudged() {
     const [verb, number] = step.action;
-    const keeps = verb === 'type' && step.collapsed || verb === 'exec' && ofCharacters.includes(number);
+    const keeps = verb === 'type' ? step.collapsed
+      : verb === 'exec' && ofCharacters.includes(number);
     const gone = keeps && lineEnds(look().html) < lineEnds(step.before.html);
     return gone ? ['a line end of the source is lost'] : [];
   }
@@ -307,8 +308,9 @@
       else action = ['key', oneOf(keys)];
       const [verb, ...values] = action;
       step = {
-        before, action, marks: marks(), collapsed: inside.selection.range()?.collapsed,
-        table: inside.selection.control(inside.selection.range())?.tagName === 'TABLE', parts: parts(), lines: shownLines(), count: objects(),
+        before, action, marks: marks(), parts: parts(), lines: shownLines(), count: objects(),
+        collapsed: inside.selection.range()?.collapsed,
+        table: inside.selection.control(inside.selection.range())?.tagName === 'TABLE',
         status: verb === 'exec' ? inside.statusOf(values[0]) : 0,
       };
       if (verb === 'exec' || verb === 'travel') velor.exec(...values);
@@ -322,7 +324,8 @@
       inside.history.settle();
       const now = look();
       const inOrder = step.parts ? wordsJudged() : [];
-      const faults = [...newFaults(), ...inOrder, ...lineEndsJudged(), ...marksJudged(), ...toggleJudged(), ...travelled(now)];
+      const faults = [...newFaults(), ...inOrder, ...lineEndsJudged(), ...marksJudged(),
+        ...toggleJudged(), ...travelled(now)];
       trail.push(step.before, now);
       faults.push(...repeated(now));
       trail.push(look());
