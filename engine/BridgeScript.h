@@ -8,7 +8,7 @@
 namespace velor {
 
 /// The world the bridge lives in, apart from the page's.
-inline constexpr QWebEngineScript::ScriptWorldId bridgeWorld = QWebEngineScript::ApplicationWorld;
+inline constexpr QWebEngineScript::ScriptWorldId BridgeWorld = QWebEngineScript::ApplicationWorld;
 
 /// The channel's client and the bundle of engine/bridge as one script. It is evaluated when a page
 /// is there: the engine's own injection at a document's creation is now and then left out after a

@@ -19,7 +19,7 @@ struct Setting {
 
 /// Pages are other people's: nothing of theirs runs, opens, stores or reaches out. The clipboard
 /// entries concern the bridge's own world, the only one with scripts.
-constexpr Setting settings[] = {
+constexpr Setting Settings[] = {
     {QWebEngineSettings::JavascriptEnabled, false},
     {QWebEngineSettings::JavascriptCanOpenWindows, false},
     {QWebEngineSettings::JavascriptCanAccessClipboard, true},
@@ -64,7 +64,7 @@ QWebEngineProfile &EditingEngine::Profile() {
   profile_->cookieStore()->setCookieFilter([](const auto &) { return false; });
   profile_->setUrlRequestInterceptor(&blocker_);
   profile_->installUrlSchemeHandler(PageScheme::Name(), &scheme_);
-  for (const Setting &setting : settings)
+  for (const Setting &setting : Settings)
     profile_->settings()->setAttribute(setting.attribute, setting.on);
   profile_->settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
   QObject::connect(profile_.get(), &QWebEngineProfile::downloadRequested,

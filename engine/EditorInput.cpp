@@ -17,14 +17,14 @@ namespace velor {
 namespace {
 
 /// Keys with which a browser goes elsewhere or loads anew.
-const QKeyCombination browserKeys[] = {
+const QKeyCombination BrowserKeys[] = {
     Qt::Key_F5,   Qt::CTRL | Qt::Key_R, Qt::ALT | Qt::Key_Left, Qt::ALT | Qt::Key_Right,
     Qt::Key_Back, Qt::Key_Forward,      Qt::Key_Refresh,
 };
 
 bool IsBrowserKey(const QKeyEvent &key) {
-  return std::find(std::begin(browserKeys), std::end(browserKeys), key.keyCombination()) !=
-         std::end(browserKeys);
+  return std::find(std::begin(BrowserKeys), std::end(BrowserKeys), key.keyCombination()) !=
+         std::end(BrowserKeys);
 }
 
 /// Input that keeps its place among the program's commands.

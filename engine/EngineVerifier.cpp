@@ -16,9 +16,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::chrono::milliseconds answerLimit = 1min;
+constexpr std::chrono::milliseconds AnswerLimit = 1min;
 /// A process that ends while it parses is replaced once.
-constexpr int mostTries = 2;
+constexpr int MostTries = 2;
 
 /// What leads from one text to the other, for the script.
 QString Edit(const QString &before, const QString &after) {
@@ -58,12 +58,12 @@ std::optional<QString> EngineVerifier::Answer(const Question &question, const Pa
   const QString &text = question.text;
   if (const auto known = Known(text)) return known;
   if (engine_.Guard().InCallback()) return std::nullopt;
-  for (int tries = 0; tries < mostTries && !Known(text); ++tries) {
-    if (wanted_.text != text) Foresee(text, question.expected, {});
+  for (int tries = 0; tries < MostTries && !Known(text); ++tries) {
+    if (wanted_.text != text) Precompute(text, question.expected, {});
     const WaitEnd end =
         GuardedWait(engine_.Guard())
             .Until(
-                *this, answerLimit, [&] { return Known(text).has_value() || wanted_.text != text; },
+                *this, AnswerLimit, [&] { return Known(text).has_value() || wanted_.text != text; },
                 patience);
     if (end != WaitEnd::Stopped) continue;
     *isStopped = true;
@@ -87,8 +87,8 @@ std::optional<QString> EngineVerifier::Stoppable::SerialisationLike(const QStrin
   return verifier_.Answer({text, expected}, &patience_, &isStopped_);
 }
 
-void EngineVerifier::Foresee(const QString &text, const QString &expected,
-                             std::function<void()> then) {
+void EngineVerifier::Precompute(const QString &text, const QString &expected,
+                                std::function<void()> then) {
   wanted_ = {text, expected};
   then_ = std::move(then);
   isAsked_ = false;
@@ -109,7 +109,7 @@ void EngineVerifier::Start() {
     const EngineCallback callback(engine_.Guard());
     if (page != page_.get()) return;
     engine_.Scheme().Withdraw(address);
-    page_->runJavaScript(engine_.Bridge(), bridgeWorld);
+    page_->runJavaScript(engine_.Bridge(), BridgeWorld);
     isReady_ = true;
     if (!wanted_.text.isEmpty() && !isAsked_) Ask();
   });
@@ -129,7 +129,7 @@ void EngineVerifier::Ask() {
   page_->runJavaScript(
       QStringLiteral("velor.parsed(%1,%2)")
           .arg(Edit(before.text, given_.text), Edit(before.expected, given_.expected)),
-      bridgeWorld, [self = QPointer<EngineVerifier>(this), asked = given_](const QVariant &answer) {
+      BridgeWorld, [self = QPointer<EngineVerifier>(this), asked = given_](const QVariant &answer) {
         if (self == nullptr || self->wanted_.text != asked.text) return;
         const EngineCallback callback(self->engine_.Guard());
         const bool isExpected = answer.typeId() == QMetaType::Bool && answer.toBool();

@@ -17,10 +17,9 @@ namespace velor {
 
 class EditingEngine;
 
-/// Parses texts in a spare page of the engine, which nobody sees and which shows nothing of them:
-/// no script of theirs runs and nothing they name is fetched. The page is made at the first use and
-/// made anew when its process ends. It keeps the texts that it was last given, so that only what
-/// differs travels. The last answer is kept.
+/// Parses texts in a spare page of the engine, which is never shown, runs no script and fetches
+/// nothing. The page is made at the first question, and made anew when its process ends. It keeps
+/// the texts of the last question, so that only the difference is sent; the last answer is kept.
 class EngineVerifier : public QObject, public PageVerifier {
   Q_OBJECT
 
@@ -28,17 +27,17 @@ class EngineVerifier : public QObject, public PageVerifier {
   explicit EngineVerifier(EditingEngine &engine);
   ~EngineVerifier() override;
 
-  /// Waits for the engine; nothing inside one of its callbacks, unless the answer is known.
+  /// Waits for the engine. Nothing inside one of its callbacks, unless the answer is known.
   std::optional<QString> Serialisation(const QString &text) override;
   std::optional<QString> SerialisationLike(const QString &text, const QString &expected) override;
-  /// Has the answer, likely `expected`, found out; `then` runs when it is known, from inside the
-  /// engine. A later call replaces one that waits.
-  void Foresee(const QString &text, const QString &expected, std::function<void()> then);
+  /// Asks without waiting; `expected` is the likely answer. `then` runs when the answer is known,
+  /// from inside the engine. A later call replaces one that has no answer yet.
+  void Precompute(const QString &text, const QString &expected, std::function<void()> then);
 
   /// The process that parses; 0 for none.
   std::int64_t ProcessId() const;
 
-  /// The answers of an engine that the person may stop by Escape; there are none from then on.
+  /// A verifier that the person may stop by Escape; it answers nothing from then on.
   class Stoppable : public PageVerifier {
    public:
     Stoppable(EngineVerifier &verifier, Patience patience)
@@ -52,7 +51,7 @@ class EngineVerifier : public QObject, public PageVerifier {
     bool isStopped_ = false;
   };
 
-  /// The answers that are known already, without a wait.
+  /// A verifier that never waits: it answers what is known already.
   class KnownAnswers : public PageVerifier {
    public:
     explicit KnownAnswers(const EngineVerifier &verifier) : verifier_(verifier) {}

@@ -6,7 +6,6 @@
 #include "engine/EditorPage.h"
 
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
 #include <QWebEngineLoadingInfo>
@@ -22,11 +21,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// The longest that input is waited for; usually the page says within milliseconds that it is
-/// there.
-constexpr std::chrono::milliseconds inputTravel = 500ms;
 /// The longest that the notice of a process's end is waited for.
-constexpr std::chrono::milliseconds endTravel = 1s;
+constexpr std::chrono::milliseconds EndTravel = 1s;
 
 /// A document that is in design mode from its beginning is laid out once; `velor.start` turns the
 /// mode on in any case, but then everything is laid out a second time.
@@ -35,22 +31,25 @@ QWebEngineScript DesignModeScript() {
   script.setName(QStringLiteral("designMode"));
   script.setSourceCode(QStringLiteral("document.designMode = 'on'"));
   script.setInjectionPoint(QWebEngineScript::DocumentCreation);
-  script.setWorldId(bridgeWorld);
+  script.setWorldId(BridgeWorld);
   return script;
 }
 
 }  // namespace
 
 EngineView::EngineView(EditingEngine &engine, QWidget *container)
-    : engine_(engine), host_(engine.Guard()), view_(new QWebEngineView(container)) {
+    : engine_(engine),
+      host_(engine.Guard()),
+      view_(new QWebEngineView(container)),
+      turns_(*this, engine.Guard()) {
   page_ = new EditorPage(&engine.Profile(), engine.Guard(), view_);
   page_->setBackgroundColor(Qt::white);
   channel_.registerObject(QStringLiteral("velorHost"), &host_);
-  page_->setWebChannel(&channel_, bridgeWorld);
+  page_->setWebChannel(&channel_, BridgeWorld);
   page_->scripts().insert(DesignModeScript());
   view_->setPage(page_);
   view_->setContextMenuPolicy(Qt::CustomContextMenu);
-  input_ = new EditorInput(view_, [this](const QEvent &input) { return Keep(input); });
+  input_ = new EditorInput(view_, [this](const QEvent &input) { return turns_.HoldBack(input); });
   container->layout()->addWidget(view_);
   container->setFocusProxy(view_);
 
@@ -71,16 +70,9 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   connect(&host_, &BridgeHost::LaterWanted, this, [this] {
     if (phase_ == Phase::Ready) Q_EMIT LaterWanted();
   });
-  connect(&host_, &BridgeHost::InputArrived, this, &EngineView::InputArrived);
-  patience_.setSingleShot(true);
-  patience_.setInterval(inputTravel);
-  connect(&patience_, &QTimer::timeout, this, &EngineView::InputArrived);
-  leaving_.setSingleShot(true);
-  leaving_.setInterval(1ms);
-  connect(&leaving_, &QTimer::timeout, this, &EngineView::Proceed);
+  connect(&host_, &BridgeHost::InputArrived, &turns_, &TurnQueue::ProbeArrived);
   connect(input_, &EditorInput::InputComing, this, [this] {
-    sinceInput_.start();
-    followed_ = false;
+    turns_.NoteInput();
     Q_EMIT InputComing();
   });
   connect(input_, &EditorInput::FilesDropped, this, &EngineView::FilesDropped);
@@ -91,7 +83,7 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   connect(page_, &QWebEnginePage::renderProcessTerminated, this, [this] {
     const EngineCallback callback(engine_.Guard());
     phase_ = Phase::Dead;
-    ForgetTurns();
+    turns_.Clear();
     Q_EMIT Died();
     engine_.Guard().Wake();
   });
@@ -127,7 +119,7 @@ void EngineView::Load(const QString &nativePath, const QString &text, const QStr
   address_ = engine_.Scheme().Offer(nativePath, text);
   start_ = start;
   startAnswer_ = {};
-  ForgetTurns();
+  turns_.Clear();
   const QWidget *focused = view_->window()->focusWidget();
   hadFocus_ = focused != nullptr && (focused == view_ || view_->isAncestorOf(focused));
   phase_ = Phase::Loading;
@@ -145,87 +137,21 @@ void EngineView::EndLoad(Phase phase) {
   engine_.Guard().Wake();
 }
 
-void EngineView::Run(const QString &expression,
-                     const std::function<void(const QVariant &)> &answer) {
-  if (CurrentPhase() != Phase::Ready) return;
-  turns_.push_back({nullptr, expression, answer});
-  // Input that waits before it leaves when it may.
-  if (turns_.size() == 1) Proceed();
+void EngineView::Run(const QString &expression, const Answer &answer) {
+  if (IsOpen()) turns_.Run(expression, answer);
 }
 
-bool EngineView::Keep(const QEvent &input) {
-  if (sending_ || CurrentPhase() != Phase::Ready) return false;
-  if (commands_ == 0 && turns_.empty()) return false;
-  turns_.push_back({std::unique_ptr<QEvent>(input.clone()), {}, {}});
-  return true;
-}
-
-void EngineView::Proceed() {
-  if (proceeding_) return;
-  const QPointer<EngineView> alive(this);
-  proceeding_ = true;
-  while (CurrentPhase() == Phase::Ready && !turns_.empty()) {
-    if (turns_.front().input != nullptr ? commands_ > 0 : InputOnItsWay()) break;
-    const Turn turn = std::move(turns_.front());
-    turns_.pop_front();
-    if (turn.input == nullptr) {
-      Evaluate(turn.expression, turn.answer);
-    } else {
-      SendInput(*turn.input);
-      if (alive == nullptr) return;
-    }
-  }
-  proceeding_ = false;
-  if (!turns_.empty() && turns_.front().input == nullptr && !patience_.isActive()) FollowInput();
-}
-
-void EngineView::SendInput(QEvent &input) {
-  const QPointer<EngineView> alive(this);
-  sending_ = true;
+void EngineView::Send(QEvent &input) {
   QCoreApplication::sendEvent(view_->focusProxy(), &input);
-  if (alive != nullptr) sending_ = false;
 }
 
-void EngineView::ForgetTurns() {
-  turns_.clear();
-  commands_ = 0;
-  sinceInput_.invalidate();
-  patience_.stop();
-}
-
-bool EngineView::InputOnItsWay() const {
-  return sinceInput_.isValid() && !sinceInput_.hasExpired(inputTravel.count());
-}
-
-void EngineView::FollowInput() {
-  // Let go after all the others, this key says when they are there
-  // (engine/bridge/talk/arrivals.js).
-  followed_ = true;
-  QKeyEvent last(QEvent::KeyRelease, Qt::Key_F24, Qt::NoModifier);
-  SendInput(last);
-  patience_.start();
-}
-
-void EngineView::InputArrived() {
-  if (followed_) sinceInput_.invalidate();
-  patience_.stop();
-  if (turns_.empty() || turns_.front().input == nullptr) Proceed();
-  if (!turns_.empty()) leaving_.start();
-  engine_.Guard().Wake();
-}
-
-void EngineView::Evaluate(const QString &expression,
-                          const std::function<void(const QVariant &)> &answer) {
-  if (!answer) ++commands_;
-  page_->runJavaScript(expression, bridgeWorld,
-                       [alive = QPointer<EngineView>(this), &guard = engine_.Guard(), answer,
-                        address = address_](const QVariant &value) {
+void EngineView::Evaluate(const QString &expression, const Answer &answered) {
+  page_->runJavaScript(expression, BridgeWorld,
+                       [alive = QPointer<EngineView>(this), &guard = engine_.Guard(),
+                        answered](const QVariant &value) {
                          if (alive == nullptr) return;
                          const EngineCallback callback(guard);
-                         if (answer) return answer(value);
-                         if (address != alive->address_ || alive->commands_ == 0) return;
-                         if (--alive->commands_ == 0 && !alive->turns_.empty())
-                           alive->leaving_.start();
+                         answered(value);
                        });
 }
 
@@ -253,14 +179,13 @@ std::optional<QVariant> EngineView::Ask(const QString &expression, std::chrono::
 void EngineView::EndProcess() {
   if (page_ == nullptr) return;
   EndRenderer(*page_);
-  Wait(endTravel, [this] { return CurrentPhase() == Phase::Dead; });
+  Wait(EndTravel, [this] { return CurrentPhase() == Phase::Dead; });
 }
 
 void EngineView::AwaitInput() {
-  if (CurrentPhase() != Phase::Ready || engine_.Guard().InCallback()) return;
-  if (!InputOnItsWay()) return;
-  FollowInput();
-  Wait(inputTravel, [this] { return !sinceInput_.isValid() || CurrentPhase() != Phase::Ready; });
+  if (!IsOpen() || engine_.Guard().InCallback() || !turns_.IsInputOnItsWay()) return;
+  turns_.SendProbe();
+  Wait(TurnQueue::InputTravel, [this] { return !turns_.IsInputOnItsWay() || !IsOpen(); });
 }
 
 WaitEnd EngineView::Wait(std::chrono::milliseconds limit, const std::function<bool()> &done,

@@ -3,17 +3,14 @@
 
 #include "engine/BridgeHost.h"
 #include "engine/EditingEngine.h"
+#include "engine/TurnQueue.h"
 
-#include <QElapsedTimer>
 #include <QPointer>
-#include <QTimer>
 #include <QVariant>
 #include <QWebChannel>
 
 #include <chrono>
-#include <deque>
 #include <functional>
-#include <memory>
 #include <optional>
 
 class QEvent;
@@ -28,7 +25,7 @@ class EditorPage;
 /// bridge, and says what happens. It lives in a container widget that may go before it; then it
 /// behaves like a dead page. Unless said otherwise its signals come from inside the engine, so that
 /// receivers may only store.
-class EngineView : public QObject {
+class EngineView : public QObject, private PageWays {
   Q_OBJECT
 
  public:
@@ -50,11 +47,9 @@ class EngineView : public QObject {
   void Load(const QString &nativePath, const QString &text, const QString &start);
   const QVariant &StartAnswer() const { return startAnswer_; }
 
-  /// Evaluates an expression; `answer`, where given, is called from inside the engine. Expressions
-  /// and keys go one after the other. They take different ways to the page: so an expression waits
-  /// here while keys that were pressed before it may still be on theirs, and a key while a command
-  /// is, which is an expression without answer.
-  void Run(const QString &expression, const std::function<void(const QVariant &)> &answer = {});
+  /// Evaluates an expression in its turn among keys and other expressions (TurnQueue); `answer`,
+  /// where given, is called from inside the engine. Without one it is a command.
+  void Run(const QString &expression, const Answer &answer = {});
   /// Evaluates an expression and waits for its value. Nothing when the page is not ready, dies
   /// or does not answer in time; then, and only then, `this` may be gone. Where the person stops
   /// the wait, the page's process is ended.
@@ -92,24 +87,9 @@ class EngineView : public QObject {
   void FilesDropped(const QStringList &nativePaths, QPoint clientPosition);
 
  private:
-  /// What waits for its turn: input of the person's, or else an expression.
-  struct Turn {
-    std::unique_ptr<QEvent> input;
-    QString expression;
-    std::function<void(const QVariant &)> answer;
-  };
-
-  void Evaluate(const QString &expression, const std::function<void(const QVariant &)> &answer);
-  /// True when the input was taken to wait behind a command.
-  bool Keep(const QEvent &input);
-  /// Lets go of everything whose turn has come; from outside the engine where input may wait.
-  void Proceed();
-  void SendInput(QEvent &input);
-  void ForgetTurns();
-  bool InputOnItsWay() const;
-  /// Asks the page to tell when the input sent so far is there.
-  void FollowInput();
-  void InputArrived();
+  bool IsOpen() const override { return CurrentPhase() == Phase::Ready; }
+  void Evaluate(const QString &expression, const Answer &answered) override;
+  void Send(QEvent &input) override;
   void EndLoad(Phase phase);
   void EndProcess();
 
@@ -125,14 +105,7 @@ class EngineView : public QObject {
   QUrl address_;
   QString start_;
   QVariant startAnswer_;
-  QElapsedTimer sinceInput_;  ///< invalid when all of it is known to have arrived
-  bool followed_ = false;     ///< FollowInput came after the last of it
-  std::deque<Turn> turns_;
-  int commands_ = 0;      ///< on their way to the page
-  bool sending_ = false;  ///< input that has waited
-  bool proceeding_ = false;
-  QTimer leaving_;   ///< leads out of the engine before input is let go
-  QTimer patience_;  ///< for a page that does not say that the input is there
+  TurnQueue turns_;
 };
 
 }  // namespace velor

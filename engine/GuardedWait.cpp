@@ -16,7 +16,7 @@ namespace velor {
 
 namespace {
 
-constexpr std::chrono::milliseconds pumpInterval{2};
+constexpr std::chrono::milliseconds PumpInterval{2};
 
 bool IsInput(QEvent::Type type) {
   switch (type) {
@@ -120,7 +120,7 @@ WaitEnd GuardedWait::Until(QObject &subject, std::chrono::milliseconds limit,
     });
   }
 
-  pump.start(pumpInterval);
+  pump.start(PumpInterval);
   ++guard_.waits_;
   loop.exec(QEventLoop::ExcludeUserInputEvents);
   if (isImpatient && end == WaitEnd::TimedOut) {

@@ -22,13 +22,13 @@ enum class Notice {
   Menu,
   Drop,
   Report,
-  Travel,
+  StepOverLoad,
   Died
 };
 
-/// Notices on their way out. They leave with the next posted events: by then the engine's callback
-/// or the caller that caused them has returned. While a wait runs none leaves; a timer of a
-/// millisecond takes care of those that could not.
+/// Notices to the component's listener. Each is delivered with the next posted events, when the
+/// engine's callback or the call that caused it has returned. None is delivered during a wait
+/// (GuardedWait); a timer of a millisecond tries those again.
 class NoticeQueue : public QObject {
   Q_OBJECT
 

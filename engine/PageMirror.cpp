@@ -31,7 +31,7 @@ std::optional<QString> After(const QString &text, const QVariantList &edits) {
 
 }  // namespace
 
-bool PageMirror::Follow(const QVariantMap &told) {
+bool PageMirror::Apply(const QVariantMap &told) {
   const int revision = told[QStringLiteral("revision")].toInt();
   if (const auto html = told.find(QStringLiteral("html")); html != told.end()) {
     html_ = html->toString();
@@ -41,7 +41,7 @@ bool PageMirror::Follow(const QVariantMap &told) {
   const QVariantList steps = told[QStringLiteral("steps")].toList();
   const int first = revision - static_cast<int>(steps.size());
   if (revision_ == 0 || revision_ < first) return false;
-  // Where two tellings have crossed, the first steps have been followed already.
+  // Where a push and an answer crossed, the first steps have been applied already.
   QString html = html_;
   for (int step = revision_; step < revision; ++step) {
     auto after = After(html, steps[step - first].toList());

@@ -8,23 +8,23 @@
 
 namespace velor {
 
-/// The text of a page as this side has it, kept by what the page tells of its changes
-/// (engine/bridge/talk/changes.js): the whole once, then the stretches that differ.
+/// This side's copy of a page's text, kept up to date by the edits that the page tells
+/// (engine/bridge/talk/changes.js): the whole once, then the ranges that differ.
 class PageMirror {
  public:
   PageMirror() = default;
-  /// A text that did not come from the page itself.
+  /// A text that the page has not told: it has no revision.
   explicit PageMirror(QString html) : html_(std::move(html)) {}
 
   const QString &Html() const { return html_; }
-  /// What the page is to be asked with: which of the texts that it told this one is.
+  /// Revision of this text, to be passed to velor.changes() and velor.mirror(); 0 for none.
   int Revision() const { return revision_; }
 
-  /// Follows what was told. False where that does not follow on from this text; then nothing
-  /// changes, and the page is to be asked for the whole (with Revision 0).
-  bool Follow(const QVariantMap &told);
-  /// The same page will not tell anything any more that follows on from this text.
-  void Detach() { revision_ = 0; }
+  /// Applies an answer of velor.changes(). False where it does not follow on from this revision;
+  /// then nothing changes, and the whole is to be asked for (ForgetRevision).
+  bool Apply(const QVariantMap &told);
+  /// The next update has to be a whole text.
+  void ForgetRevision() { revision_ = 0; }
 
  private:
   QString html_;

@@ -45,7 +45,7 @@ struct ValueField {
   QString StateSnapshot::*field;
 };
 
-constexpr ValueField valueFields[] = {
+constexpr ValueField ValueFields[] = {
     {EditingCommand::GetFontName, &StateSnapshot::fontName},
     {EditingCommand::GetFontSize, &StateSnapshot::fontSize},
     {EditingCommand::GetForeColor, &StateSnapshot::foreColor},
@@ -83,7 +83,7 @@ CommandStatus StateSnapshot::StatusOf(EditingCommand command) const {
 }
 
 std::optional<QString> StateSnapshot::ValueOf(EditingCommand command) const {
-  for (const ValueField &value : valueFields)
+  for (const ValueField &value : ValueFields)
     if (value.command == command) return this->*value.field;
   return std::nullopt;
 }

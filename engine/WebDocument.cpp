@@ -10,7 +10,7 @@ namespace {
 
 /// The engine takes minutes and all memory for millions of cells, and nobody could stop it; this
 /// many, ends included, it shows in seconds.
-constexpr qsizetype mostTags = 400'000;
+constexpr qsizetype MostTags = 400'000;
 
 }  // namespace
 
@@ -21,7 +21,7 @@ class WebTextRange : public TextRange {
   void Collapse() override { collapsed_ = true; }
   HtmlElement ParentElement() const override { return editor_.snapshot_.element; }
   void PasteHTML(const QString &html) override {
-    if (html.count(u'<') > mostTags) {
+    if (html.count(u'<') > MostTags) {
       editor_.Report(QStringLiteral("That is too large to be put into a page."));
       return;
     }

@@ -63,10 +63,8 @@ WebEditor::WebEditor(EditingEngine &engine, Files &files, QString programFolder,
   // A document that the one who shows the widget sets right afterwards must not wait for another.
   container_ = new EditorFrame(
       parent, [this] { QTimer::singleShot(1, &notices_, [this] { LoadBlankIfEmpty(); }); });
-  mirrorTimer_.setSingleShot(true);
-  QObject::connect(&mirrorTimer_, &QTimer::timeout, [this] { TakeMirror(); });
-  idleTimer_.setSingleShot(true);
-  QObject::connect(&idleTimer_, &QTimer::timeout, [this] { ComposeAhead(); });
+  QObject::connect(&mirror_, &DocumentMirror::LookDue, [this] { LookAtPage(); });
+  QObject::connect(&mirror_, &DocumentMirror::Rested, [this] { ComposeAhead(); });
 }
 
 WebEditor::~WebEditor() {
@@ -87,18 +85,18 @@ void WebEditor::ConnectView() {
   QObject::connect(view, &EngineView::StateArrived,
                    [this](const StateSnapshot &state) { StateArrived(state); });
   QObject::connect(view, &EngineView::MirrorArrived, [this](const QVariantMap &told) {
-    isIdle_ = told[QStringLiteral("idle")].toBool();
-    if (mirror_.page.Follow(told))
-      MirrorTaken();
+    typing_.NoteTold(told[QStringLiteral("idle")].toBool());
+    if (mirror_.ApplyChanges(told))
+      MemoryChanged();
     else
-      TakeMirrorSoon();
+      mirror_.LookSoon();
   });
   QObject::connect(view, &EngineView::LoadEnded,
                    [this] { notices_.Post(Notice::LoadEnded, [this] { FinishLoad(); }); });
   QObject::connect(view, &EngineView::Died,
                    [this] { notices_.Post(Notice::Died, [this] { Died(); }); });
-  const auto travel = [this](Direction direction) {
-    notices_.Post(Notice::Travel, [this, direction] { Travel(direction); });
+  const auto step = [this](Direction direction) {
+    notices_.Post(Notice::StepOverLoad, [this, direction] { StepOverLoad(direction); });
   };
   QObject::connect(view, &EngineView::PictureWanted, [this] {
     notices_.Post(Notice::Picture, [this] {
@@ -108,8 +106,8 @@ void WebEditor::ConnectView() {
       if (!markup.isEmpty()) Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(markup)));
     });
   });
-  QObject::connect(view, &EngineView::EarlierWanted, [travel] { travel(Direction::Earlier); });
-  QObject::connect(view, &EngineView::LaterWanted, [travel] { travel(Direction::Later); });
+  QObject::connect(view, &EngineView::EarlierWanted, [step] { step(Direction::Earlier); });
+  QObject::connect(view, &EngineView::LaterWanted, [step] { step(Direction::Later); });
   QObject::connect(view, &EngineView::PointerMoved, [this](QPoint position) {
     notices_.Post(Notice::Pointer, [this, position] {
       if (listener_ != nullptr) listener_->MouseNotified(position.x(), position.y());
@@ -126,8 +124,7 @@ void WebEditor::ConnectView() {
   });
   // Completion is told before the first input reaches the page.
   QObject::connect(view, &EngineView::InputComing, [this] {
-    isIdle_ = false;
-    sinceInput_.start();
+    typing_.NoteInput();
     notices_.Deliver();
   });
 }
@@ -139,9 +136,7 @@ void WebEditor::TakeFiles(const QStringList &nativePaths) {
 }
 
 bool WebEditor::IsIdle() const {
-  // A key that changed nothing is followed by no word of the page.
-  constexpr qint64 longestKey = 1000;  // milliseconds
-  return isIdle_ || !sinceInput_.isValid() || sinceInput_.hasExpired(longestKey);
+  return typing_.IsIdle();
 }
 
 QWidget *WebEditor::Widget() {

@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/DocumentHistory.h"
+#include "engine/DocumentMirror.h"
 #include "engine/EngineView.h"
+#include "engine/Lifetime.h"
 #include "engine/NoticeQueue.h"
-#include "engine/PageMirror.h"
 #include "engine/StateSnapshot.h"
-#include "page/saving/FaithfulPage.h"
 #include "platform/EditingComponent.h"
 
-#include <QElapsedTimer>
-#include <QTimer>
 #include <QWidget>
 
-#include <map>
 #include <memory>
 #include <optional>
-#include <vector>
 
 namespace velor {
 
@@ -25,10 +22,10 @@ class WebDocument;
 /// The editing component on the browser engine.
 ///
 /// The view is made with the first document, or when the widget is first seen without one: an
-/// editor that is never shown costs nothing. States come from the pushed snapshot. A mirror of the
-/// document is kept on this side: it answers while the page cannot, and a page whose process has
-/// ended comes back from it with what it was loaded from (original and baseline) unchanged, so
-/// that what counts as edited stays the same.
+/// editor that is never shown costs nothing. This class puts its parts together: DocumentHistory
+/// knows what the document came from and what undo over a load brings back, DocumentMirror what was
+/// last seen of it, EngineView the page itself. A page whose process has ended comes back from the
+/// mirror with its original and baseline unchanged, so that what counts as edited stays the same.
 class WebEditor : public EditingComponent {
  public:
   /// `programFolder` in logic form: where the links of a page without a file lead.
@@ -71,22 +68,18 @@ class WebEditor : public EditingComponent {
   friend class WebDocument;
   friend class WebTextRange;
 
+  using Original = DocumentHistory::Original;
+  using Direction = DocumentHistory::Direction;
   /// What a load under way is for.
-  enum class LoadPurpose { None, Blank, Document, Restore, Travel };
-  /// The document and the selection's place as they were last seen on this side.
-  struct Mirror {
-    PageMirror page;
-    QVariant start;
-    QVariant end;
-  };
-  /// What the document came from; never null. Shared with the saves that are under way.
-  using Original = std::shared_ptr<FaithfulPage>;
-  /// A document that a load took the place of.
-  struct Kept {
-    Original original;
+  enum class LoadPurpose { None, Blank, Document, Restore, Step };
+  /// The document for whoever saves or keeps it. Complete in itself, since a wait has passed.
+  struct Reading {
     QString html;
+    Original original;  ///< what the document came from
+    bool isEditorGone = false;
+    /// The page is alive and did not answer: it may hold more than `html`.
+    bool isUnanswered = false;
   };
-  enum class Direction { Earlier, Later };
 
   EngineView &View();
   void ConnectView();
@@ -100,11 +93,14 @@ class WebEditor : public EditingComponent {
   Loaded Load(LoadPurpose purpose);
   void BeginLoad(LoadPurpose purpose);
   void FinishLoad();
+  void PostComplete();
   void LoadBlankIfEmpty();
-  /// The document as the page has it now; nothing when it does not answer (then `this` may be
-  /// gone). A person who stops the wait ends the page's process, and the mirror is what there is.
-  std::optional<QString> Read();
-  /// For a wait that a person may stop; harmless when `this` is gone.
+  /// The document as the page has it now, or else as last seen. A person who stops the wait ends
+  /// the page's process.
+  Reading Read();
+  /// Nothing where the page does not answer or the editor is gone.
+  std::optional<QString> AskForDocument();
+  /// For a wait that a person may stop; may outlive the editor.
   Patience Stoppable(const QString &message);
   /// Works out in an idle moment what a save would write.
   void ComposeAhead();
@@ -115,18 +111,16 @@ class WebEditor : public EditingComponent {
   Replaced ReplaceInPlace(const Original &original, const QString &nativePath);
   /// Loads the document; the one before is kept at this side and undo comes back to it.
   void ReplaceKeepingEarlier(Original original, const QString &nativePath);
-  static void Keep(std::vector<Kept> &documents, Kept kept);
-  void Travel(Direction direction);
-  /// Makes the original of that generation the one in force.
-  void FollowGeneration(int generation);
+  /// Loads the document that undo or redo comes to beyond the page's own history.
+  void StepOverLoad(Direction direction);
+  void ShowGeneration(int generation);
 
   // The mirror and bringing a page back (WebEditorRecovery.cpp)
   void StateArrived(const StateSnapshot &state);
-  void TakeMirrorSoon();
-  void TakeMirror();
-  /// Follows an answer of velor.mirror; false where it has to be asked for anew.
-  bool Follow(const QVariantMap &mirror);
-  void MirrorTaken();
+  void LookAtPage();
+  /// Takes over an answer of velor.mirror; false where it has to be asked for anew.
+  bool ApplyMirror(const QVariantMap &mirror);
+  void MemoryChanged();
   void Died();
   void Report(const QString &message);
   /// Files were dropped or pasted.
@@ -141,13 +135,9 @@ class WebEditor : public EditingComponent {
   EditingListener *listener_ = nullptr;
   std::unique_ptr<WebDocument> document_;
 
-  Original original_ = std::make_shared<FaithfulPage>();
+  DocumentHistory history_;
+  DocumentMirror mirror_;
   QString nativePath_;
-  int lastGeneration_ = 0;
-  int generation_ = 0;                 ///< of the document in force, within one load
-  std::map<int, Original> originals_;  ///< of the other generations
-  std::vector<Kept> earlier_;          ///< the one that was there last comes last
-  std::vector<Kept> later_;
   StateSnapshot snapshot_;
   bool showDetails_ = false;
   bool snapToGrid_ = false;
@@ -155,16 +145,12 @@ class WebEditor : public EditingComponent {
   LoadPurpose load_ = LoadPurpose::None;
   int loads_ = 0;             ///< counts the loads begun
   bool hasDocument_ = false;  ///< one that was set or loaded, not the blank page
-  int deaths_ = 0;            ///< of the page's process, in quick succession
-  QElapsedTimer sinceDeath_;
-  Mirror mirror_;
-  bool isIdle_ = false;
-  QElapsedTimer sinceInput_;
-  QTimer mirrorTimer_;
-  QTimer idleTimer_;  ///< runs out when a person rests, the mirror taken
+  CrashCount crashes_;
+  TypingWatch typing_;
 
   NoticeQueue notices_;
-  std::unique_ptr<EngineView> view_;  ///< last: goes first, while the rest can still be told
+  std::unique_ptr<EngineView> view_;  ///< goes while the rest can still be told
+  Lifetime lifetime_;                 ///< last: over before anything else goes
 };
 
 }  // namespace velor

@@ -15,23 +15,23 @@ namespace {
 using namespace std::chrono_literals;
 
 /// Two minutes hold the largest page that a person would wait for.
-constexpr std::chrono::milliseconds loadLimit = 2min;
+constexpr std::chrono::milliseconds LoadLimit = 2min;
 /// After this the person may stop it.
-constexpr std::chrono::milliseconds loadPatience = 1500ms;
-const QString longLoad =
+constexpr std::chrono::milliseconds LoadPatience = 1500ms;
+const QString LongLoad =
     QStringLiteral("The page takes long to show. Press Escape to stop loading it.");
-constexpr std::chrono::milliseconds readLimit = 2min;
-constexpr std::chrono::milliseconds readPatience = 1s;
+constexpr std::chrono::milliseconds ReadLimit = 2min;
+constexpr std::chrono::milliseconds ReadPatience = 1s;
 /// Where what changed does not follow on from what is known here the whole is asked for.
-constexpr int readAttempts = 2;
-const QString longRead = QStringLiteral(
+constexpr int ReadAttempts = 2;
+const QString LongRead = QStringLiteral(
     "The page does not answer. Press Escape to stop it and go on with its text as last seen.");
-const QString longCheck =
+const QString LongCheck =
     QStringLiteral("The page takes long to save. Press Escape to have it written anew as a whole.");
 /// Preparing a larger one would hold the window up for seconds (bytes).
-constexpr qsizetype largestPage = 32'000'000;
+constexpr qsizetype LargestPage = 32'000'000;
 /// A page whose process ends while it loads is tried once more.
-constexpr int loadAttempts = 2;
+constexpr int LoadAttempts = 2;
 
 /// Where links of a page without a file lead: the folder itself.
 QString FolderAddress(const QString &logicFolder) {
@@ -60,8 +60,7 @@ QString WrittenAnew(const QString &reason) {
 
 void WebEditor::SetDocumentHTML(const QString &html) {
   const PageEncoding encoding = DeclaredEncoding(html);
-  earlier_.clear();
-  later_.clear();
+  history_.ForgetLoaded();
   Replace(std::make_shared<FaithfulPage>(
               PageOriginal{EncodePage(html, encoding), {html, encoding}, {}}),
           FolderAddress(programFolder_), LoadPurpose::Document);
@@ -72,13 +71,13 @@ void WebEditor::LoadDocument(const QString &path) {
 }
 
 void WebEditor::LoadText(const QString &html, const QString &path) {
-  const PageOriginal &original = original_->Original();
+  const PageOriginal &original = history_.Current()->Original();
   TakeBytes(BytesForText(original, html, EncodingInPlaceOf(original.page.encoding, html)),
             ToNative(path));
 }
 
 void WebEditor::TakeBytes(const QByteArray &bytes, const QString &nativePath) {
-  if (bytes.size() > largestPage)
+  if (bytes.size() > LargestPage)
     throw RuntimeError::Of(ErrorNumber::OutOfStringSpace, QStringLiteral("LoadDocument"),
                            nativePath);
   auto original = std::make_shared<FaithfulPage>(PageOriginal{bytes, DecodePage(bytes), {}});
@@ -93,8 +92,7 @@ void WebEditor::TakeBytes(const QByteArray &bytes, const QString &nativePath) {
                                nativePath);
     }
   }
-  earlier_.clear();
-  later_.clear();
+  history_.ForgetLoaded();
   Replace(std::move(original), nativePath, LoadPurpose::Document);
 }
 
@@ -104,10 +102,10 @@ void WebEditor::LoadBlankIfEmpty() {
 }
 
 void WebEditor::Replace(Original original, const QString &nativePath, LoadPurpose purpose) {
-  original_ = std::move(original);
   nativePath_ = nativePath;
-  mirror_ = {PageMirror(WithLineEnds(original_->TextToLoad(), LineEnds::Lf)), {}, {}};
-  deaths_ = 0;
+  mirror_.Reset(WithLineEnds(original->TextToLoad(), LineEnds::Lf));
+  history_.Load(std::move(original));
+  crashes_.Clear();
   switch (Load(purpose)) {
     case Loaded::Yes:
       return FinishLoad();
@@ -121,58 +119,56 @@ void WebEditor::Replace(Original original, const QString &nativePath, LoadPurpos
 }
 
 WebEditor::Loaded WebEditor::Load(LoadPurpose purpose) {
-  const QPointer<EngineView> view(&View());
-  for (int attempt = 1; attempt <= loadAttempts; ++attempt) {
+  for (int attempt = 1; attempt <= LoadAttempts; ++attempt) {
     BeginLoad(purpose);
     const int load = loads_;
     bool isTold = false;
     const auto tell = [this](const QString &message) {
       if (listener_ != nullptr) listener_->ComponentReported(message);
     };
-    const Patience patience{loadPatience, [&] {
+    const Patience patience{LoadPatience, [&] {
                               isTold = true;
-                              tell(longLoad);
+                              tell(LongLoad);
                             }};
-    const WaitEnd end = view->Wait(
-        loadLimit,
+    const WaitEnd end = view_->Wait(
+        LoadLimit,
         [this, load] {
           return load != loads_ || view_->CurrentPhase() != EngineView::Phase::Loading;
         },
         &patience);
-    if (view != nullptr && isTold) tell({});
     // A page closed or replaced meanwhile is no failure of this call; one that cannot be waited
     // for here ends its loading by itself.
-    if (view == nullptr || load != loads_ || end == WaitEnd::Refused) return Loaded::Unknown;
+    if (end == WaitEnd::Destroyed) return Loaded::Unknown;
+    if (isTold) tell({});
+    if (load != loads_ || end == WaitEnd::Refused) return Loaded::Unknown;
     if (end == WaitEnd::Stopped) {
       // The page's process goes with its view; it may be busy for ever.
       view_.reset();
       hasDocument_ = false;
       return Loaded::No;
     }
-    if (view->CurrentPhase() != EngineView::Phase::Dead) break;
+    if (view_->CurrentPhase() != EngineView::Phase::Dead) break;
   }
-  return view->CurrentPhase() == EngineView::Phase::Ready ? Loaded::Yes : Loaded::No;
+  return view_->CurrentPhase() == EngineView::Phase::Ready ? Loaded::Yes : Loaded::No;
 }
 
 void WebEditor::BeginLoad(LoadPurpose purpose) {
   load_ = purpose;
   ++loads_;
   hasDocument_ = hasDocument_ || purpose == LoadPurpose::Document;
-  generation_ = 0;
-  originals_.clear();
+  history_.LoadAgain();
   snapshot_ = {};
-  mirrorTimer_.stop();
-  mirror_.page.Detach();
-  QString text = original_->TextToLoad();
+  mirror_.BeginLoad();
+  QString text = history_.Current()->TextToLoad();
   QString start = QStringLiteral("velor.start({showDetails:%1,snapToGrid:%2,earlier:%3,later:%4});")
                       .arg(ScriptValue(showDetails_), ScriptValue(snapToGrid_),
-                           ScriptValue(!earlier_.empty()), ScriptValue(!later_.empty()));
-  if (purpose == LoadPurpose::Restore || purpose == LoadPurpose::Travel) {
+                           ScriptValue(history_.HasEarlier()), ScriptValue(history_.HasLater()));
+  if (purpose == LoadPurpose::Restore || purpose == LoadPurpose::Step) {
     // Untouched, it comes from its original again: what the engine makes of its own
     // serialisation may differ from what it made of the page.
-    if (mirror_.page.Html() != original_->Baseline()) text = mirror_.page.Html();
+    if (mirror_.Html() != history_.Current()->Baseline()) text = mirror_.Html();
     start += QStringLiteral("velor.restore(%1,%2);")
-                 .arg(ScriptValue(mirror_.start), ScriptValue(mirror_.end));
+                 .arg(ScriptValue(mirror_.Start()), ScriptValue(mirror_.End()));
   }
   View().Load(nativePath_, text, start + QStringLiteral("velor.changes()"));
 }
@@ -190,56 +186,73 @@ void WebEditor::FinishLoad() {
     Report(QStringLiteral("The page's display has been restored."));
     return;
   }
-  if (purpose == LoadPurpose::Travel) return;
-  mirror_.page.Follow(view_->StartAnswer().toMap());
-  original_->SetBaseline(mirror_.page.Html());
-  if (IsFrameset(mirror_.page.Html()))
+  if (purpose == LoadPurpose::Step) return;
+  mirror_.ApplyChanges(view_->StartAnswer().toMap());
+  history_.Current()->SetBaseline(mirror_.Html());
+  if (IsFrameset(mirror_.Html()))
     Report(
         QStringLiteral("The page is a frameset, which has no text to edit here: use Edit HTML to "
                        "change it."));
-  if (purpose == LoadPurpose::Document)
-    notices_.Post(Notice::Complete, [this] {
-      if (listener_ != nullptr) listener_->DocumentComplete();
-    });
+  if (purpose == LoadPurpose::Document) PostComplete();
+}
+
+void WebEditor::PostComplete() {
+  notices_.Post(Notice::Complete, [this] {
+    if (listener_ != nullptr) listener_->DocumentComplete();
+  });
 }
 
 QString WebEditor::DocumentHTML() {
   LoadBlankIfEmpty();
-  const QString mirror = mirror_.page.Html();
-  const QPointer<QWidget> alive(container_);
-  const Original original = original_;
-  const auto html = Read();
-  return (alive != nullptr ? original_ : original)->Unmasked(html.value_or(mirror));
+  const Reading reading = Read();
+  return reading.original->Unmasked(reading.html);
 }
 
 Patience WebEditor::Stoppable(const QString &message) {
-  return {readPatience,
-          [this, alive = QPointer<QWidget>(container_), message] {
-            if (alive != nullptr && listener_ != nullptr) listener_->ComponentReported(message);
+  return {ReadPatience,
+          [this, life = lifetime_.Begin(), message] {
+            if (!life.IsOver() && listener_ != nullptr) listener_->ComponentReported(message);
           },
           Patience::Input::Kept};
 }
 
-std::optional<QString> WebEditor::Read() {
+WebEditor::Reading WebEditor::Read() {
+  const Lifetime::Watch life = lifetime_.Begin();
+  Reading reading{mirror_.Html(), history_.Current()};
+  const auto html = AskForDocument();
+  reading.isEditorGone = life.IsOver();
+  if (reading.isEditorGone) return reading;
+  if (html) {
+    // Reading may have found that undo brought back a document with another original.
+    reading.original = history_.Current();
+    reading.html = *html;
+  } else {
+    reading.isUnanswered = view_ != nullptr && view_->CurrentPhase() == EngineView::Phase::Ready &&
+                           !engine_.Guard().InCallback();
+  }
+  return reading;
+}
+
+std::optional<QString> WebEditor::AskForDocument() {
   if (view_ == nullptr) return std::nullopt;
-  const QPointer<EngineView> alive(view_.get());
+  const Lifetime::Watch life = lifetime_.Begin();
   const int load = loads_;
-  alive->AwaitInput();
-  if (alive == nullptr) return std::nullopt;
-  const Patience patience = Stoppable(longRead);
-  for (int attempt = 1; attempt <= readAttempts && alive != nullptr; ++attempt) {
-    const auto answer = alive->Ask(QStringLiteral("velor.mirror(%1)").arg(mirror_.page.Revision()),
-                                   readLimit, &patience);
-    if (!answer || load != loads_) return std::nullopt;
-    if (Follow(answer->toMap())) return mirror_.page.Html();
+  view_->AwaitInput();
+  const Patience patience = life.IsOver() ? Patience{} : Stoppable(LongRead);
+  for (int attempt = 1; attempt <= ReadAttempts && !life.IsOver() && load == loads_; ++attempt) {
+    const auto answer = view_->Ask(QStringLiteral("velor.mirror(%1)").arg(mirror_.Revision()),
+                                   ReadLimit, &patience);
+    if (!answer || life.IsOver() || load != loads_) return std::nullopt;
+    if (ApplyMirror(answer->toMap())) return mirror_.Html();
   }
   return std::nullopt;
 }
 
 void WebEditor::SaveDocument(const QString &path) {
   Files &files = files_;
+  const Lifetime::Watch life = lifetime_.Begin();
   const SavedPage saved = Compose();
-  if (saved.rung == SaveRung::Everything) Report(WrittenAnew(saved.reason));
+  if (saved.rung == SaveRung::Everything && !life.IsOver()) Report(WrittenAnew(saved.reason));
   files.ReplaceAll(path, saved.page.bytes);
 }
 
@@ -252,32 +265,26 @@ QString WebEditor::ReasonToWriteAnew() {
 }
 
 QString WebEditor::Charset() const {
-  return original_->Original().page.encoding.charset;
+  return history_.Current()->Original().page.encoding.charset;
 }
 
 QString WebEditor::TextForm() const {
-  return InWords(original_->Original().page.encoding);
+  return InWords(history_.Current()->Original().page.encoding);
 }
 
 bool WebEditor::HasByteOrderMark() const {
-  return original_->Original().page.encoding.byteOrderMark;
+  return history_.Current()->Original().page.encoding.byteOrderMark;
 }
 
 SavedPage WebEditor::Compose() {
   LoadBlankIfEmpty();
-  const Original original = original_;
-  const QString mirror = mirror_.page.Html();
   const QString nativePath = nativePath_;
-  EditingEngine &engine = engine_;
-  EngineVerifier::Stoppable verifier(engine.Verifier(), Stoppable(longCheck));
-  const QPointer<EngineView> alive(view_.get());
-  // Reading may find that undo brought back a document with another original.
-  if (const auto html = Read()) return Original(original_)->Compose(*html, verifier);
-  // A live page that does not answer may hold more than the mirror: better no file than an old one.
-  if (alive != nullptr && alive->CurrentPhase() == EngineView::Phase::Ready &&
-      !engine.Guard().InCallback())
+  EngineVerifier::Stoppable verifier(engine_.Verifier(), Stoppable(LongCheck));
+  const Reading reading = Read();
+  // Better no file than one without what was typed last.
+  if (reading.isUnanswered)
     throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("SaveDocument"), nativePath);
-  return original->Compose(mirror, verifier);
+  return reading.original->Compose(reading.html, verifier);
 }
 
 }  // namespace velor

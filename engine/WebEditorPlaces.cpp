@@ -12,7 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 
 /// A convenience: it may not hold up a change of modes for longer.
-constexpr std::chrono::milliseconds placeLimit = 400ms;
+constexpr std::chrono::milliseconds PlaceLimit = 400ms;
 
 const QString Name = QStringLiteral("name");
 const QString Ordinal = QStringLiteral("ordinal");
@@ -23,7 +23,7 @@ const QString Offset = QStringLiteral("offset");
 ElementPlaces WebEditor::CaretPlaces() {
   ElementPlaces places;
   if (view_ == nullptr) return places;
-  const auto answer = view_->Ask(QStringLiteral("velor.caretPlaces()"), placeLimit);
+  const auto answer = view_->Ask(QStringLiteral("velor.caretPlaces()"), PlaceLimit);
   if (!answer) return places;
   for (const QVariant &each : answer->toList()) {
     const QVariantMap place = each.toMap();

@@ -9,56 +9,39 @@ namespace velor {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr std::chrono::milliseconds mirrorPause = 300ms;
-/// A page that keeps killing its process within this time is left as it is after a few tries.
-constexpr std::chrono::milliseconds steadyTime = 10s;
-constexpr int restoreAttempts = 3;
-/// A person who rests this long may be about to save.
-constexpr std::chrono::milliseconds idlePause = 700ms;
 /// Composing a larger page ahead would be felt by who goes on typing (UTF-16 units).
-constexpr qsizetype largestAhead = 2'000'000;
+constexpr qsizetype LargestAhead = 2'000'000;
 
 }  // namespace
 
 void WebEditor::StateArrived(const StateSnapshot &state) {
   snapshot_ = state;
-  FollowGeneration(state.generation);
-  TakeMirrorSoon();
-  if (idleTimer_.isActive()) idleTimer_.start(idlePause);
+  ShowGeneration(state.generation);
+  mirror_.LookSoon();
+  mirror_.PutOffRest();
   notices_.Post(Notice::Display, [this] {
     if (listener_ != nullptr) listener_->DisplayChanged();
   });
 }
 
-void WebEditor::TakeMirrorSoon() {
-  if (!mirrorTimer_.isActive()) mirrorTimer_.start(mirrorPause);
-}
-
-void WebEditor::TakeMirror() {
-  view_->Run(QStringLiteral("velor.mirror(%1)").arg(mirror_.page.Revision()),
+void WebEditor::LookAtPage() {
+  view_->Run(QStringLiteral("velor.mirror(%1)").arg(mirror_.Revision()),
              [this, load = loads_](const QVariant &value) {
                const QVariantMap mirror = value.toMap();
                if (load != loads_ || mirror.isEmpty()) return;
-               if (!Follow(mirror)) return TakeMirrorSoon();
-               MirrorTaken();
-               idleTimer_.start(idlePause);
+               if (!ApplyMirror(mirror)) return mirror_.LookSoon();
+               MemoryChanged();
+               mirror_.AwaitRest();
              });
 }
 
-bool WebEditor::Follow(const QVariantMap &mirror) {
-  if (!mirror_.page.Follow(mirror)) {
-    mirror_.page.Detach();
-    return false;
-  }
-  mirror_.start = mirror[QStringLiteral("start")];
-  mirror_.end = mirror[QStringLiteral("end")];
-  FollowGeneration(mirror[QStringLiteral("generation")].toInt());
+bool WebEditor::ApplyMirror(const QVariantMap &mirror) {
+  if (!mirror_.ApplyAnswer(mirror)) return false;
+  ShowGeneration(mirror[QStringLiteral("generation")].toInt());
   return true;
 }
 
-void WebEditor::MirrorTaken() {
+void WebEditor::MemoryChanged() {
   notices_.Post(Notice::Memory, [this] {
     if (listener_ != nullptr) listener_->MemoryChanged();
   });
@@ -69,21 +52,19 @@ bool WebEditor::IsWaiting() const {
 }
 
 PageMemory WebEditor::Memory() const {
-  return {original_->Original().bytes, nativePath_, mirror_.page.Html()};
+  return {history_.Current()->Original().bytes, nativePath_, mirror_.Html()};
 }
 
 void WebEditor::Recall(const PageMemory &memory) {
-  earlier_.clear();
-  later_.clear();
-  const QPointer<QWidget> alive(container_);
+  history_.ForgetLoaded();
+  const Lifetime::Watch life = lifetime_.Begin();
   // First the page as it was before, since only the engine knows what it makes of it.
   Replace(std::make_shared<FaithfulPage>(
               PageOriginal{memory.original, DecodePage(memory.original), {}}),
           memory.base, LoadPurpose::Document);
-  if (alive == nullptr) return;
-  if (memory.document == mirror_.page.Html()) return;
-  mirror_ = {PageMirror(memory.document), {}, {}};
-  switch (Load(LoadPurpose::Travel)) {
+  if (life.IsOver() || memory.document == mirror_.Html()) return;
+  mirror_.Reset(memory.document);
+  switch (Load(LoadPurpose::Step)) {
     case Loaded::Yes:
       return FinishLoad();
     case Loaded::No:
@@ -95,14 +76,14 @@ void WebEditor::Recall(const PageMemory &memory) {
 }
 
 void WebEditor::ComposeAhead() {
-  const Original original = original_;
-  const QString html = mirror_.page.Html();
-  if (load_ != LoadPurpose::None || html.size() > largestAhead) return;
+  const Original original = history_.Current();
+  const QString html = mirror_.Html();
+  if (load_ != LoadPurpose::None || html.size() > LargestAhead) return;
   original->Prepare();
   const auto first = original->FirstTry(html);
   if (!first) return;
   EngineVerifier &verifier = engine_.Verifier();
-  verifier.Foresee(*first, html, [original, html, &verifier] {
+  verifier.Precompute(*first, html, [original, html, &verifier] {
     EngineVerifier::KnownAnswers known(verifier);
     try {
       original->Precompute(html, known);
@@ -114,16 +95,15 @@ void WebEditor::ComposeAhead() {
 
 void WebEditor::Died() {
   if (view_->CurrentPhase() != EngineView::Phase::Dead) return;
-  if (sinceDeath_.isValid() && sinceDeath_.hasExpired(steadyTime.count())) deaths_ = 0;
-  sinceDeath_.start();
-  if (++deaths_ > restoreAttempts) {
+  if (!crashes_.AllowsRestoring()) {
     Report(
         QStringLiteral("The page's display keeps stopping. Its text is kept: save the page and "
                        "open it again."));
     return;
   }
   Report(QStringLiteral("The page's display stopped and is being restored."));
-  BeginLoad(original_->Baseline().isEmpty() ? LoadPurpose::Document : LoadPurpose::Restore);
+  BeginLoad(history_.Current()->Baseline().isEmpty() ? LoadPurpose::Document
+                                                     : LoadPurpose::Restore);
 }
 
 void WebEditor::Report(const QString &message) {

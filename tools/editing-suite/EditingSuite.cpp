@@ -148,7 +148,7 @@ QJsonValue EditingSuite::Open(Dialect dialect) {
                 QStringLiteral("</head><body></body></html>"));
   loop.exec();
   QObject::disconnect(loaded);
-  view_.page()->runJavaScript(BridgeScript() + SuiteScripts(), bridgeWorld);
+  view_.page()->runJavaScript(BridgeScript() + SuiteScripts(), BridgeWorld);
   const std::optional<QJsonValue> counts =
       Evaluate(QStringLiteral("velorSuite.open(%1, %2)")
                    .arg(ScriptValue(data_), ScriptValue(dialect == Dialect::Html5)));
@@ -166,7 +166,7 @@ std::optional<QJsonValue> EditingSuite::Evaluate(const QString &expression) {
   // The engine may answer after this call has given up.
   const auto text = std::make_shared<QString>();
   const QPointer<QEventLoop> waiting = &loop;
-  view_.page()->runJavaScript(QStringLiteral("JSON.stringify(%1)").arg(expression), bridgeWorld,
+  view_.page()->runJavaScript(QStringLiteral("JSON.stringify(%1)").arg(expression), BridgeWorld,
                               [text, waiting](const QVariant &answer) {
                                 *text = answer.toString();
                                 if (waiting) waiting->quit();

@@ -94,7 +94,7 @@ class PageCheck::Desk {
     page.runJavaScript(QStringLiteral("%1\n;velorPageCheck(%2,%3)")
                            .arg(EditScript(), ScriptValue(kind))
                            .arg(place),
-                       bridgeWorld, [answer](const QVariant &value) { *answer = value.toBool(); });
+                       BridgeWorld, [answer](const QVariant &value) { *answer = value.toBool(); });
     GuardedWait(engine_.Guard()).Until(page, std::chrono::minutes(1), [&] {
       return answer->has_value();
     });

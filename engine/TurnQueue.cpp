@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/TurnQueue.h"
+
+#include <QKeyEvent>
+#include <QPointer>
+
+#include <utility>
+
+namespace velor {
+
+using namespace std::chrono_literals;
+
+TurnQueue::TurnQueue(PageWays &ways, EngineGuard &guard) : ways_(ways), guard_(guard) {
+  probeTimer_.setSingleShot(true);
+  probeTimer_.setInterval(InputTravel);
+  connect(&probeTimer_, &QTimer::timeout, this, &TurnQueue::ProbeArrived);
+  leaveTimer_.setSingleShot(true);
+  leaveTimer_.setInterval(1ms);
+  connect(&leaveTimer_, &QTimer::timeout, this, &TurnQueue::SendDue);
+}
+
+void TurnQueue::Run(const QString &expression, const PageWays::Answer &answer) {
+  if (!ways_.IsOpen()) return;
+  turns_.push_back({nullptr, expression, answer});
+  // Input that waits before it is sent when it may.
+  if (turns_.size() == 1) SendDue();
+}
+
+bool TurnQueue::HoldBack(const QEvent &input) {
+  if (isSendingInput_ || !ways_.IsOpen()) return false;
+  if (commands_ == 0 && turns_.empty()) return false;
+  turns_.push_back({std::unique_ptr<QEvent>(input.clone()), {}, {}});
+  return true;
+}
+
+void TurnQueue::NoteInput() {
+  sinceInput_.start();
+  isProbeBehind_ = false;
+}
+
+bool TurnQueue::IsInputOnItsWay() const {
+  return sinceInput_.isValid() && !sinceInput_.hasExpired(InputTravel.count());
+}
+
+void TurnQueue::SendDue() {
+  if (isSendingDue_) return;
+  const QPointer<TurnQueue> alive(this);
+  isSendingDue_ = true;
+  while (ways_.IsOpen() && !turns_.empty()) {
+    if (turns_.front().input != nullptr ? commands_ > 0 : IsInputOnItsWay()) break;
+    const Turn turn = std::move(turns_.front());
+    turns_.pop_front();
+    if (turn.input == nullptr) {
+      SendExpression(turn);
+    } else {
+      SendInput(*turn.input);
+      if (alive == nullptr) return;
+    }
+  }
+  isSendingDue_ = false;
+  if (!turns_.empty() && turns_.front().input == nullptr && !probeTimer_.isActive()) SendProbe();
+}
+
+void TurnQueue::SendExpression(const Turn &turn) {
+  if (turn.answer) return ways_.Evaluate(turn.expression, turn.answer);
+  ++commands_;
+  ways_.Evaluate(turn.expression, [alive = QPointer<TurnQueue>(this), page = page_](auto &&) {
+    if (alive == nullptr || alive->page_ != page) return;
+    if (--alive->commands_ == 0 && !alive->turns_.empty()) alive->leaveTimer_.start();
+  });
+}
+
+void TurnQueue::SendInput(QEvent &input) {
+  const QPointer<TurnQueue> alive(this);
+  isSendingInput_ = true;
+  ways_.Send(input);
+  if (alive != nullptr) isSendingInput_ = false;
+}
+
+void TurnQueue::SendProbe() {
+  isProbeBehind_ = true;
+  QKeyEvent probe(QEvent::KeyRelease, Qt::Key_F24, Qt::NoModifier);
+  SendInput(probe);
+  probeTimer_.start();
+}
+
+void TurnQueue::ProbeArrived() {
+  if (isProbeBehind_) sinceInput_.invalidate();
+  probeTimer_.stop();
+  if (turns_.empty() || turns_.front().input == nullptr) SendDue();
+  if (!turns_.empty()) leaveTimer_.start();
+  guard_.Wake();
+}
+
+void TurnQueue::Clear() {
+  ++page_;
+  turns_.clear();
+  commands_ = 0;
+  sinceInput_.invalidate();
+  probeTimer_.stop();
+}
+
+}  // namespace velor

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/TurnQueue.h"
+
+#include <QKeyEvent>
+#include <QStringList>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace velor {
+
+namespace {
+
+/// A page that notes what reaches it, and answers when the test says so.
+class NotedPage final : public PageWays {
+ public:
+  bool IsOpen() const override { return isOpen; }
+  void Evaluate(const QString &expression, const Answer &answered) override {
+    arrived << expression;
+    answers.push_back(answered);
+  }
+  void Send(QEvent &input) override {
+    const auto &key = static_cast<const QKeyEvent &>(input);
+    arrived << (key.key() == Qt::Key_F24 ? QStringLiteral("probe") : key.text());
+    if (onInput) onInput();
+  }
+  std::string Arrived() const { return arrived.join(u' ').toStdString(); }
+  void AnswerFirst() {
+    const Answer answer = answers.front();
+    answers.erase(answers.begin());
+    answer({});
+  }
+
+  bool isOpen = true;
+  QStringList arrived;
+  std::vector<Answer> answers;
+  std::function<void()> onInput;
+};
+
+class Turns : public ::testing::Test {
+ protected:
+  /// A key as the view's input offers it: held back, or on its way to the page.
+  void Press(const char *text) {
+    const QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QString::fromUtf8(text));
+    if (queue_->HoldBack(key)) return;
+    page_.arrived << key.text();
+    queue_->NoteInput();
+  }
+  void Command(const char *expression) { queue_->Run(QString::fromUtf8(expression), {}); }
+  bool ArrivedBecomes(const std::string &text) {
+    return QTest::qWaitFor([&] { return page_.Arrived() == text; });
+  }
+
+  NotedPage page_;
+  EngineGuard guard_;
+  std::unique_ptr<TurnQueue> queue_ = std::make_unique<TurnQueue>(page_, guard_);
+};
+
+TEST_F(Turns, ExpressionsGoAtOnceWhereNoInputIsOnItsWay) {
+  Command("bold");
+  Command("italic");
+  EXPECT_EQ(page_.Arrived(), "bold italic");
+}
+
+TEST_F(Turns, InputWaitsForTheCommandsBeforeItAndIsSentFromOutsideTheEngine) {
+  Command("bold");
+  Command("italic");
+  Press("a");
+  page_.AnswerFirst();
+  page_.AnswerFirst();
+  EXPECT_EQ(page_.Arrived(), "bold italic") << "sent inside the engine's callback";
+  EXPECT_TRUE(ArrivedBecomes("bold italic a"));
+}
+
+TEST_F(Turns, InputDoesNotWaitForAQuestion) {
+  queue_->Run(QStringLiteral("state"), [](const QVariant &) {});
+  Press("a");
+  EXPECT_EQ(page_.Arrived(), "state a");
+}
+
+TEST_F(Turns, AnExpressionWaitsUntilTheProbeBehindTheInputHasArrived) {
+  Press("a");
+  Command("bold");
+  EXPECT_EQ(page_.Arrived(), "a probe");
+  queue_->ProbeArrived();
+  EXPECT_EQ(page_.Arrived(), "a probe bold");
+}
+
+TEST_F(Turns, AProbeDoesNotSpeakForInputThatCameBehindIt) {
+  Press("a");
+  queue_->SendProbe();
+  queue_->NoteInput();
+  queue_->ProbeArrived();
+  EXPECT_TRUE(queue_->IsInputOnItsWay());
+}
+
+TEST_F(Turns, APageThatDoesNotTellOfTheProbeHoldsAnExpressionUpForAMomentOnly) {
+  Press("a");
+  Command("bold");
+  EXPECT_TRUE(ArrivedBecomes("a probe bold"));
+}
+
+TEST_F(Turns, KeysAndCommandsKeepTheirOrderWhateverTheirNumber) {
+  Command("bold");
+  Press("a");
+  Press("b");
+  Command("italic");
+  Press("c");
+  page_.AnswerFirst();
+  ASSERT_TRUE(ArrivedBecomes("bold a b italic"));
+  page_.AnswerFirst();
+  EXPECT_TRUE(ArrivedBecomes("bold a b italic c"));
+}
+
+TEST_F(Turns, NothingIsSentToAPageThatIsNotThere) {
+  page_.isOpen = false;
+  Command("bold");
+  Press("a");
+  EXPECT_EQ(page_.Arrived(), "a") << "input is the view's own business then";
+}
+
+TEST_F(Turns, ANewPageGetsNothingThatWaitedForTheOneBefore) {
+  Command("bold");
+  Press("a");
+  queue_->Clear();
+  page_.AnswerFirst();
+  Command("italic");
+  Press("b");
+  page_.AnswerFirst();
+  EXPECT_TRUE(ArrivedBecomes("bold italic b"));
+}
+
+TEST_F(Turns, InputThatClosesThePageEndsTheQueueWithoutHarm) {
+  Command("bold");
+  Press("a");
+  Press("b");
+  page_.onInput = [&] { queue_.reset(); };
+  page_.AnswerFirst();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return queue_ == nullptr; }));
+  EXPECT_EQ(page_.Arrived(), "bold a");
+}
+
+}  // namespace
+
+}  // namespace velor
