@@ -32,8 +32,16 @@ void RequireFile(EditorContext &context, const QString &path, const QString &ope
   }
 }
 
+/// A page's baseline goes into the slot made last. Where pages are made one right after another,
+/// each has its baseline before the next slot is made.
+void FinishLastPage(PageSlots &pages) {
+  if (pages.PageCount() == 0) return;
+  if (frmMain *last = pages.Page(pages.PageCount())) last->DHTML1().DeliverCompletion();
+}
+
 /// Makes a slot with its source editor and document window, and the page's tab.
 frmMain &MakePage(EditorContext &context) {
+  FinishLastPage(context.pages);
   const int number = context.pages.Grow();
   SourceEditor(context, number);
   frmMain &window = PageWindow(context, number);

@@ -15,9 +15,13 @@ NoticeQueue::NoticeQueue(EngineGuard &guard) : guard_(guard) {
   connect(&timer_, &QTimer::timeout, this, &NoticeQueue::Deliver);
 }
 
+std::vector<NoticeQueue::Waiting>::iterator NoticeQueue::Find(Notice kind) {
+  return std::find_if(waiting_.begin(), waiting_.end(),
+                      [kind](const Waiting &other) { return other.kind == kind; });
+}
+
 void NoticeQueue::Post(Notice kind, std::function<void()> deliver) {
-  const auto same = std::find_if(waiting_.begin(), waiting_.end(),
-                                 [kind](const Waiting &other) { return other.kind == kind; });
+  const auto same = Find(kind);
   if (same != waiting_.end() && kind != Notice::Report) {
     same->deliver = std::move(deliver);
   } else {
@@ -43,6 +47,14 @@ void NoticeQueue::Deliver() {
     first.deliver();
   }
   if (alive != nullptr) timer_.stop();
+}
+
+void NoticeQueue::DeliverNow(Notice kind) {
+  const auto found = Find(kind);
+  if (found == waiting_.end() || guard_.Waiting()) return;
+  const Waiting notice = std::move(*found);
+  waiting_.erase(found);
+  notice.deliver();
 }
 
 }  // namespace velor

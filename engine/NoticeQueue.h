@@ -39,12 +39,16 @@ class NoticeQueue : public QObject {
   void Post(Notice kind, std::function<void()> deliver);
   /// Delivers everything that waits; only outside of engine callbacks.
   void Deliver();
+  /// Delivers a notice of that kind before all others, where one waits.
+  void DeliverNow(Notice kind);
 
  private:
   struct Waiting {
     Notice kind;
     std::function<void()> deliver;
   };
+
+  std::vector<Waiting>::iterator Find(Notice kind);
 
   EngineGuard &guard_;
   QTimer timer_;

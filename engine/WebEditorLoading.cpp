@@ -202,6 +202,10 @@ void WebEditor::PostComplete() {
   });
 }
 
+void WebEditor::DeliverCompletion() {
+  notices_.DeliverNow(Notice::Complete);
+}
+
 QString WebEditor::DocumentHTML() {
   LoadBlankIfEmpty();
   const Reading reading = Read();

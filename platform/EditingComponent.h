@@ -76,8 +76,13 @@ class EditingComponent {
   /// `path` in logic form. Raises RuntimeError when the file cannot be read or is too large (14);
   /// the old page stays. Raises it too where the person stops a long load. Where a document was
   /// loaded or set already whose links resolve against the same folder, the exchange is one step of
-  /// the undo history, and undo brings back that document with its bytes.
+  /// the undo history, and undo brings back that document with its bytes. Where the file's document
+  /// is the one on show, in whatever folder it was, that stays as it is with caret, place and undo
+  /// history, and the file's bytes are what it came from.
   virtual void LoadDocument(const QString &path) = 0;
+  /// Delivers DocumentComplete now where it is on its way; else nothing happens. For who is about
+  /// to make another page before the notice comes by itself.
+  virtual void DeliverCompletion() = 0;
   /// Like LoadDocument of a file that holds `html`, without looking at the file, which need not
   /// exist.
   virtual void LoadText(const QString &html, const QString &path) = 0;

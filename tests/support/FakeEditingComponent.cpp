@@ -69,6 +69,10 @@ void FakeEditingComponent::CompleteDocument() {
   if (listener_ != nullptr) listener_->DocumentComplete();
 }
 
+void FakeEditingComponent::DeliverCompletion() {
+  if (completion_.isActive()) CompleteDocument();
+}
+
 void FakeEditingComponent::ChangeDisplay() {
   if (listener_ != nullptr) listener_->DisplayChanged();
 }

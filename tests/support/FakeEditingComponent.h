@@ -71,6 +71,7 @@ class FakeEditingComponent final : public EditingComponent,
   void SetDocumentHTML(const QString &html) override;
   void LoadDocument(const QString &path) override;
   void LoadText(const QString &html, const QString &path) override;
+  void DeliverCompletion() override;
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
   PageMemory Memory() const override;

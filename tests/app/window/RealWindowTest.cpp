@@ -10,6 +10,7 @@
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
+#include "editor/modWorkFlow.h"
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
 
@@ -94,6 +95,23 @@ TEST_F(RealEditing, PagesDroppedOnThePageOrTheWindowOpen) {
   DropFiles(window, {folder.FilePath(QStringLiteral("third.HTM"))}, {20, 20});
   EXPECT_TRUE(WaitFor([&] { return Tabs().count() == 3; }));
   EXPECT_TRUE(Holds(page, QStringLiteral("<p>One</p>"))) << Seen(page);
+}
+
+TEST_F(RealEditing, ClosingPagesThatWereDroppedTogetherAsksNothing) {
+  frmMain &page = Open(PageFile, Plain);
+  QStringList dropped;
+  for (const char *name : {"a.htm", "b.htm", "c.htm"}) {
+    Write(QString::fromLatin1(name), QByteArray("<p>") + name + "</p>");
+    dropped << folder.FilePath(QString::fromLatin1(name));
+  }
+  DropFiles(ViewOf(page), dropped, {20, 20});
+  ASSERT_TRUE(WaitFor([&] { return Tabs().count() == 4; }));
+  for (std::int16_t number = 4; number >= 1; --number) {
+    frmMain &closed = modWorkFlow::PageWindow(window.Context(), number);
+    EXPECT_TRUE(WaitFor([&] { return closed.PendingAction.isEmpty(); }));
+    EXPECT_TRUE(closed.close()) << number;
+  }
+  EXPECT_TRUE(dialogs.messages.empty());
 }
 
 TEST_F(RealEditing, PagesDroppedOnASourceOrThePreviewOpenAndLeaveThoseAsTheyAre) {
