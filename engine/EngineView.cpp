@@ -21,6 +21,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr std::chrono::milliseconds MoveLimit = 5s;
 /// The longest that the notice of a process's end is waited for.
 constexpr std::chrono::milliseconds EndTravel = 1s;
 
@@ -138,7 +139,7 @@ void EngineView::EndLoad(Phase phase) {
 }
 
 void EngineView::Run(const QString &expression, const Answer &answer) {
-  if (IsOpen()) turns_.Run(expression, answer);
+  turns_.Run(expression, answer);
 }
 
 void EngineView::Send(QEvent &input) {
@@ -174,6 +175,17 @@ std::optional<QVariant> EngineView::Ask(const QString &expression, std::chrono::
   wasStopped_ = end == WaitEnd::Stopped;
   if (wasStopped_) EndProcess();
   return end == WaitEnd::Done ? *value : std::nullopt;
+}
+
+bool EngineView::MoveTo(const QString &nativePath) {
+  QUrl address = engine_.Scheme().NewAddress(nativePath);
+  address.setHost(address_.host());
+  const auto moved =
+      Ask(QStringLiteral("velor.moveTo(%1)").arg(ScriptValue(address.toString(QUrl::FullyEncoded))),
+          MoveLimit);
+  if (!moved || !moved->toBool()) return false;
+  address_ = address;
+  return true;
 }
 
 void EngineView::EndProcess() {

@@ -55,6 +55,9 @@ class EngineView : public QObject, private PageWays {
   /// the wait, the page's process is ended.
   std::optional<QVariant> Ask(const QString &expression, std::chrono::milliseconds limit,
                               const Patience *patience = nullptr);
+  /// Gives the page the address of another file, against which its links resolve from then on; the
+  /// document stays as it is. False where the page does not do so; then `this` may be gone.
+  bool MoveTo(const QString &nativePath);
   /// Whether the last wait of Ask was stopped.
   bool WasStopped() const { return wasStopped_; }
   /// Waits until the keys that were sent to the page a moment ago have arrived there: they take

@@ -35,8 +35,8 @@ void RegisterPageScheme() {
   if (!QWebEngineUrlScheme::schemeByName(PageScheme::Name()).name().isEmpty()) return;
   QWebEngineUrlScheme scheme(PageScheme::Name());
   scheme.setSyntax(QWebEngineUrlScheme::Syntax::Path);
-  scheme.setFlags(QWebEngineUrlScheme::SecureScheme | QWebEngineUrlScheme::LocalScheme |
-                  QWebEngineUrlScheme::LocalAccessAllowed);
+  // Not a local scheme: a page of one cannot be given another address (EngineView::MoveTo).
+  scheme.setFlags(QWebEngineUrlScheme::SecureScheme | QWebEngineUrlScheme::LocalAccessAllowed);
   QWebEngineUrlScheme::registerScheme(scheme);
 }
 
@@ -44,11 +44,16 @@ QByteArray PageScheme::Name() {
   return QByteArrayLiteral("velor-page");
 }
 
-QUrl PageScheme::Offer(const QString &nativePath, const QString &text) {
+QUrl PageScheme::NewAddress(const QString &nativePath) {
   QUrl address;
   address.setScheme(QString::fromLatin1(Name()));
   address.setPath(nativePath, QUrl::DecodedMode);
   address.setQuery(QStringLiteral("page=%1").arg(++lastNumber_));
+  return address;
+}
+
+QUrl PageScheme::Offer(const QString &nativePath, const QString &text) {
+  const QUrl address = NewAddress(nativePath);
   offered_[Key(address)] = text.toUtf8();
   return address;
 }

@@ -23,6 +23,8 @@ class PageScheme : public QWebEngineUrlSchemeHandler {
  public:
   static QByteArray Name();
 
+  /// A new address for a page of that file (as Offer takes it), under which no text is offered.
+  QUrl NewAddress(const QString &nativePath);
   /// Offers a text and returns the address that shows it; `nativePath` is the page's file, or the
   /// folder (ending in "/") against which a page without a file resolves its links.
   QUrl Offer(const QString &nativePath, const QString &text);

@@ -108,6 +108,9 @@ class WebEditor : public EditingComponent {
 
   // One document in another's place, so that undo brings it back (WebEditorReplacing.cpp)
   enum class Replaced { Done, NotPossible, Stopped };
+  /// Whether links in the page on show resolve as links in that file do. A document that is the one
+  /// on show, as after its first save, is given the file's address for that.
+  bool SharesFolder(const FaithfulPage &page, const QString &nativePath);
   /// Exchanges the document within the page: one step of its history.
   Replaced ReplaceInPlace(const Original &original, const QString &nativePath);
   /// Loads the document; the one before is kept at this side and undo comes back to it.

@@ -40,10 +40,6 @@ QString FolderAddress(const QString &logicFolder) {
   return path;
 }
 
-QString FolderOf(const QString &nativePath) {
-  return nativePath.left(nativePath.lastIndexOf(u'/') + 1);
-}
-
 bool IsFrameset(const QString &serialisation) {
   return serialisation.contains(QStringLiteral("<frameset")) &&
          !serialisation.contains(QStringLiteral("<body"));
@@ -81,7 +77,8 @@ void WebEditor::TakeBytes(const QByteArray &bytes, const QString &nativePath) {
     throw RuntimeError::Of(ErrorNumber::OutOfStringSpace, QStringLiteral("LoadDocument"),
                            nativePath);
   auto original = std::make_shared<FaithfulPage>(PageOriginal{bytes, DecodePage(bytes), {}});
-  if (hasDocument_ && FolderOf(nativePath) == FolderOf(nativePath_)) {
+  const Lifetime::Watch life = lifetime_.Begin();
+  if (hasDocument_ && SharesFolder(*original, nativePath)) {
     switch (ReplaceInPlace(original, nativePath)) {
       case Replaced::Done:
         return;
@@ -92,6 +89,7 @@ void WebEditor::TakeBytes(const QByteArray &bytes, const QString &nativePath) {
                                nativePath);
     }
   }
+  if (life.IsOver()) return;
   history_.ForgetLoaded();
   Replace(std::move(original), nativePath, LoadPurpose::Document);
 }

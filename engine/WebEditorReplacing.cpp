@@ -14,7 +14,24 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds ReplaceLimit = 1min;
 const QString LongReplacement = QStringLiteral(
     "The page takes long to show. Press Escape to stop it; the page is as before then.");
+QString FolderOf(const QString &nativePath) {
+  return nativePath.left(nativePath.lastIndexOf(u'/') + 1);
+}
+
 }  // namespace
+
+bool WebEditor::SharesFolder(const FaithfulPage &page, const QString &nativePath) {
+  if (FolderOf(nativePath) == FolderOf(nativePath_)) return true;
+  if (load_ != LoadPurpose::None) return false;
+  const Lifetime::Watch life = lifetime_.Begin();
+  const int load = loads_;
+  EngineVerifier &verifier = engine_.Verifier();
+  const Reading reading = Read();
+  if (reading.isEditorGone || reading.isUnanswered) return false;
+  const auto parsed = verifier.SerialisationLike(page.TextToLoad(), reading.html);
+  if (life.IsOver() || load != loads_ || parsed != reading.html) return false;
+  return view_->MoveTo(nativePath);
+}
 
 WebEditor::Replaced WebEditor::ReplaceInPlace(const Original &original, const QString &nativePath) {
   if (load_ != LoadPurpose::None) return Replaced::NotPossible;

@@ -14,7 +14,7 @@ import { changes, mirror } from './talk/changes.js';
 import { exec } from './talk/commands.js';
 import { host, setHost } from './talk/host.js';
 import { caretPlaces, showPlace } from './page/places.js';
-import { replaceDocument } from './talk/replace.js';
+import { moveTo, replaceDocument } from './talk/replace.js';
 import { state } from './talk/state.js';
 import { parsed } from './talk/verify.js';
 
@@ -34,6 +34,7 @@ globalThis.velor = {
   mirror,
   parsed,
   restore: restorePaths,
+  moveTo,
   get host() { return host(); },
   set host(slots) { setHost(slots); },
 };

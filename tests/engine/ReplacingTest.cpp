@@ -54,6 +54,46 @@ TEST_F(Replacing, TheOtherDocumentComesInOneStepWithinThePage) {
   EXPECT_TRUE(BecomesBody(QStringLiteral("<p>Two</p><p>Three</p>")));
 }
 
+TEST_F(Replacing, AFirstSaveInAnotherFolderKeepsTheDocumentTheCaretAndUndo) {
+  editor_->SetDocumentHTML(
+      QStringLiteral("<html><head><title>T</title></head>\r\n<body>\r\n<p>One</p>\r\n"
+                     "<p>Two</p>\r\n</body>"));
+  Show();
+  Evaluate(QStringLiteral("getSelection().collapse(document.querySelector('p').firstChild, 3)"));
+  TypeText(QStringLiteral("x"));
+  ASSERT_TRUE(WaitFor([&] { return editor_->DocumentHTML().contains(QStringLiteral("Onex")); }));
+  SetMark();
+  ASSERT_TRUE(QDir(QFileInfo(Native(QStringLiteral("a"))).path()).mkdir(QStringLiteral("site")));
+  const QString file = Logic(QStringLiteral("site/first.htm"));
+  editor_->SaveDocument(file);
+  const QByteArray saved = Bytes(QStringLiteral("site/first.htm"));
+  editor_->LoadDocument(file);
+  EXPECT_EQ(Mark().toString(), QStringLiteral("same page"));
+  EXPECT_TRUE(Evaluate(QStringLiteral("document.baseURI"))
+                  .toString()
+                  .contains(QStringLiteral("/site/first.htm")));
+  TypeText(QStringLiteral("y"));
+  ASSERT_TRUE(WaitFor([&] { return editor_->DocumentHTML().contains(QStringLiteral("Onexy")); }));
+  Undo();
+  Undo();
+  EXPECT_TRUE(
+      WaitFor([&] { return editor_->DocumentHTML().contains(QStringLiteral("<p>One</p>")); }));
+  Redo();
+  ASSERT_TRUE(
+      WaitFor([&] { return editor_->DocumentHTML().contains(QStringLiteral("<p>Onex</p>")); }));
+  editor_->SaveDocument(file);
+  EXPECT_EQ(Bytes(QStringLiteral("site/first.htm")), saved);
+}
+
+TEST_F(Replacing, AnotherDocumentOfAnotherFolderIsLoaded) {
+  LoadPage(Head + "<body><p>One</p></body></html>");
+  SetMark();
+  ASSERT_TRUE(QDir(QFileInfo(Native(QStringLiteral("a"))).path()).mkdir(QStringLiteral("site")));
+  LoadPage(Head + "<body><p>Two</p></body></html>", "site/other.htm");
+  EXPECT_TRUE(BecomesBody(QStringLiteral("<p>Two</p>")));
+  EXPECT_FALSE(Mark().isValid());
+}
+
 TEST_F(Replacing, WhatWasDoneBeforeIsTakenBackBehindIt) {
   LoadWithCaret(Head + "<body><p>One</p></body></html>", QStringLiteral("p"));
   TypeText(QStringLiteral("!"));

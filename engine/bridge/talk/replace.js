@@ -34,6 +34,19 @@ function exchange(fresh) {
   scrollTo(scrollX, scrollY);
 }
 
+/**
+ * Gives the page another address, so that its links resolve against it; whether that was possible.
+ * @param {string} address
+ */
+export const moveTo = (address) => {
+  try {
+    globalThis.history.replaceState(null, '', address);
+    return true;
+  } catch {
+    return false;
+  }
+};
+
 // Answers the new document's text, or '' where only a load can put it here. A document that is
 // this one already leaves no step.
 export const replaceDocument = (text, generation) => {
