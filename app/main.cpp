@@ -9,7 +9,7 @@
 
 int main(int argc, char **argv) {
   using namespace velor;
-  RegisterPageScheme();
+  RegisterSchemes();
   Application application(argv);
   DressApplication(application);
   const auto driveMapError = UseDriveMapFile(DriveMapFile());

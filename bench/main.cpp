@@ -18,7 +18,7 @@ int main(int argc, char **argv) {
   for (const char *variable :
        {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"})
     qputenv(variable, scratch.path().toLocal8Bit());
-  velor::RegisterPageScheme();
+  velor::RegisterSchemes();
   int one = 1;
   QApplication application(one, argv);
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));

@@ -34,6 +34,7 @@ std::int16_t PageSlots::Grow() {
   records_.emplace_back();
   traces_.emplace_back();
   setAsideSources_.emplace_back();
+  sites_.emplace_back();
   ++pageCount_;
   CodeEditors.emplace_back();
   ++codeEditorCount_;
@@ -54,6 +55,10 @@ FileTrace &PageSlots::Trace(int number) {
 
 std::optional<QString> &PageSlots::SetAsideSource(int number) {
   return setAsideSources_[Index(number, pageCount_)];
+}
+
+QString &PageSlots::Site(int number) {
+  return sites_[Index(number, pageCount_)];
 }
 
 QPointer<frmMain> &PageSlots::Page(int number) {

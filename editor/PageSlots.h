@@ -35,6 +35,8 @@ class PageSlots {
   FileTrace &Trace(int number);
   /// A source that was typed and not applied, and that the page's own took the place of.
   std::optional<QString> &SetAsideSource(int number);
+  /// The folder of the project that the page was opened from, in logic form; empty for none.
+  QString &Site(int number);
   /// Empty before the window is made and after it is gone.
   QPointer<frmMain> &Page(int number);
   QPointer<frmCodeEditor> &CodeEditor(int number);
@@ -45,6 +47,7 @@ class PageSlots {
   std::vector<PageRecord> records_;
   std::vector<FileTrace> traces_;
   std::vector<std::optional<QString>> setAsideSources_;
+  std::vector<QString> sites_;
   std::int16_t pageCount_ = 0;
   /// The upper bound of CodeEditors; grows in step with PageCount.
   std::int16_t codeEditorCount_ = 0;

@@ -105,6 +105,7 @@ void frmMain::ReopenEditor(const QString &source) {
 void frmMain::Preview() {
   const PageRecord record = GetPageRecord();
   frmBrowser &preview = PreviewWindow(context_);
+  preview.brwWebBrowser().SetSite(FindIgnoringCase(context_.pages.Site(number_)));
   if (record.ReadOnly != False16) {
     context_.mainWindow.windows.Show(&preview);
     preview.brwWebBrowser().Navigate(ToUrl(record.Path));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/PageScheme.h"
 
+#include "engine/preview/SiteScheme.h"
 #include "platform/Paths.h"
 
 #include <QBuffer>
@@ -31,11 +32,14 @@ QString FileOf(const QUrl &address) {
 
 }  // namespace
 
-void RegisterPageScheme() {
+void RegisterSchemes() {
+  RegisterSiteScheme();
   if (!QWebEngineUrlScheme::schemeByName(PageScheme::Name()).name().isEmpty()) return;
   QWebEngineUrlScheme scheme(PageScheme::Name());
-  scheme.setSyntax(QWebEngineUrlScheme::Syntax::Path);
-  // Not a local scheme: a page of one cannot be given another address (EngineView::MoveTo).
+  scheme.setSyntax(QWebEngineUrlScheme::Syntax::Host);
+  // Not a local scheme: a page of one cannot be given another address (EngineView::MoveTo). A host
+  // a load keeps the engine from showing pictures and style sheets as it read them for an earlier
+  // one.
   scheme.setFlags(QWebEngineUrlScheme::SecureScheme | QWebEngineUrlScheme::LocalAccessAllowed);
   QWebEngineUrlScheme::registerScheme(scheme);
 }
@@ -47,8 +51,9 @@ QByteArray PageScheme::Name() {
 QUrl PageScheme::NewAddress(const QString &nativePath) {
   QUrl address;
   address.setScheme(QString::fromLatin1(Name()));
+  address.setHost(QStringLiteral("page%1").arg(++lastNumber_));
   address.setPath(nativePath, QUrl::DecodedMode);
-  address.setQuery(QStringLiteral("page=%1").arg(++lastNumber_));
+  address.setQuery(QStringLiteral("page=%1").arg(lastNumber_));
   return address;
 }
 

@@ -10,8 +10,9 @@
 
 namespace velor {
 
-/// Makes the scheme known; before the application object is made. Repeating it is harmless.
-void RegisterPageScheme();
+/// Makes the engine's schemes known, the preview's too; before the application object is made.
+/// Repeating it is harmless.
+void RegisterSchemes();
 
 /// The scheme under which pages are shown for editing. A page's address is its own native path, so
 /// that its relative links resolve to the files beside it, with a query that names the text on

@@ -27,9 +27,13 @@ class Browser {
   virtual QWidget *Widget() = 0;
   virtual void SetListener(BrowserListener *listener) = 0;
 
+  /// The folder (native) whose files the pages navigated to from now on may use; where a page lies
+  /// outside of it, and for an empty text, it is the folder of the page itself. Nothing else of
+  /// this machine is shown to a page, and what a page names outside is told as status text.
+  virtual void SetSite(const QString &folder) = 0;
   virtual void Navigate(const QUrl &url) = 0;
-  /// Shows a page that has no file: its relative links resolve against `baseUrl`. The browser keeps
-  /// a private copy as long as it lives.
+  /// Shows a text in the place of the file `baseUrl`, which need not exist, or of a page in that
+  /// folder (ending in "/").
   virtual void NavigateToText(const QString &html, const QUrl &baseUrl) = 0;
   virtual void GoBack() = 0;
   virtual void GoForward() = 0;

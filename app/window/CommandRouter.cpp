@@ -197,10 +197,10 @@ void CommandRouter::OpenProjectPage(int pageId) {
   if (!values_.DbConnection) {
     throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("CmbPages"));
   }
-  if (const auto path = projectPages_.PathOf(pageId, *values_.DbConnection)) {
-    if (!ShowPageOfFile(context_, ToLogic(FindIgnoringCase(*path))))
-      modWorkFlow::OpenProjectPage(context_, *path);
-  }
+  const auto page = projectPages_.Find(pageId, *values_.DbConnection);
+  if (!page || ShowPageOfFile(context_, ToLogic(FindIgnoringCase(page->path)))) return;
+  modWorkFlow::OpenProjectPage(context_, page->path);
+  context_.pages.Site(context_.pages.PageCount()) = page->folder;
 }
 
 void CommandRouter::TakeDroppedFiles(const QStringList &paths, frmMain *page) {

@@ -18,9 +18,13 @@ class ProjectPageQuery {
   ProjectPageQuery();
   ~ProjectPageQuery();
 
-  /// Folder and file of the page as the catalogue has them, joined as they stand; nothing when no
-  /// page has that identifier.
-  std::optional<QString> PathOf(int pageId, DatabaseConnection &connection);
+  struct Found {
+    QString path;    ///< folder and file as the catalogue has them, joined as they stand
+    QString folder;  ///< the project's
+  };
+
+  /// Nothing when no page has that identifier.
+  std::optional<Found> Find(int pageId, DatabaseConnection &connection);
 
  private:
   std::unique_ptr<Recordset> recordset_;

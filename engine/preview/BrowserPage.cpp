@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/preview/BrowserPage.h"
 
+#include "engine/preview/SiteScheme.h"
+
 #include <QFileInfo>
 #include <QPointer>
 #include <QSet>
@@ -37,39 +39,63 @@ bool IsWebContent(const QUrl &url) {
   return suffixes.contains(QFileInfo(url.path()).suffix().toLower());
 }
 
+bool IsOfASite(const QUrl &url) {
+  return url.scheme() == QLatin1String(SiteScheme::Name());
+}
+
+/// What a browser shows itself.
+bool IsShownHere(const QUrl &url) {
+  static const QSet<QString> schemes{QStringLiteral("http"),  QStringLiteral("https"),
+                                     QStringLiteral("about"), QStringLiteral("data"),
+                                     QStringLiteral("blob"),  QStringLiteral("javascript")};
+  return schemes.contains(url.scheme());
+}
+
 }  // namespace
 
-void LocalFileGuard::interceptRequest(QWebEngineUrlRequestInfo &request) {
-  if (!request.requestUrl().isLocalFile()) return;
+void SiteGuard::interceptRequest(QWebEngineUrlRequestInfo &request) {
+  const QUrl url = request.requestUrl();
+  if (url.isLocalFile()) return request.block(true);
+  if (!IsOfASite(url)) return;
   switch (request.resourceType()) {
     case QWebEngineUrlRequestInfo::ResourceTypeXhr:
       request.block(true);
       break;
     case QWebEngineUrlRequestInfo::ResourceTypeSubFrame:
     case QWebEngineUrlRequestInfo::ResourceTypeObject:
-      request.block(!IsWebContent(request.requestUrl()));
+      request.block(!IsWebContent(url));
       break;
     default:
       break;
   }
 }
 
+BrowserPage::BrowserPage(QWebEngineProfile *profile, const SiteScheme &scheme)
+    : QWebEnginePage(profile), scheme_(scheme) {}
+
 QWebEnginePage *BrowserPage::createWindow(WebWindowType) {
   return new WindowRequest(profile(), this);
 }
 
 bool BrowserPage::acceptNavigationRequest(const QUrl &url, NavigationType, bool isMainFrame) {
-  const QUrl copy = this->url().adjusted(QUrl::RemoveFragment);
-  if (!isMainFrame || !url.hasFragment() || !bases_.contains(copy) ||
-      bases_.value(copy) != url.adjusted(QUrl::RemoveFragment)) {
-    return true;
+  if (IsShownHere(url)) return true;
+  if (IsOfASite(url)) {
+    // What a frame may not show is refused, and told, where it is asked for.
+    if (!isMainFrame || scheme_.IsInside(url)) return true;
+    Q_EMIT LinkRefused(SiteScheme::FileOf(url));
+  } else if (url.isLocalFile()) {
+    Q_EMIT LinkRefused(url.toLocalFile());
   }
-  QUrl place = copy;
-  place.setFragment(url.fragment(QUrl::FullyEncoded), QUrl::StrictMode);
-  // The engine does not begin a load from inside its question.
-  QMetaObject::invokeMethod(
-      this, [this, place] { load(place); }, Qt::QueuedConnection);
   return false;
+}
+
+void BrowserPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &message,
+                                           int, const QString &) {
+  // The engine refuses addresses of files itself, and says so here only.
+  static const QString refusal = QStringLiteral("Not allowed to load local resource: ");
+  if (!message.startsWith(refusal)) return;
+  const QUrl url(message.mid(refusal.size()));
+  Q_EMIT PartRefused(url.isLocalFile() ? url.toLocalFile() : url.toString());
 }
 
 }  // namespace velor

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QHash>
 #include <QUrl>
 #include <QWebEnginePage>
 #include <QWebEngineUrlRequestInterceptor>
 
 namespace velor {
 
-/// Lets a page on disk use the files beside it and what is on the web, but not read the person's
-/// files: the engine knows only "all local files" or "none". Its scripts get no file's content, and
-/// its frames show pages and pictures only.
-class LocalFileGuard final : public QWebEngineUrlRequestInterceptor {
+class SiteScheme;
+
+/// Lets a page use the files of its site and what is on the web. Its scripts get no file's text,
+/// its frames show pages and pictures only, and no request for a file goes past the site's scheme.
+class SiteGuard final : public QWebEngineUrlRequestInterceptor {
   Q_OBJECT
 
  public:
@@ -20,22 +20,28 @@ class LocalFileGuard final : public QWebEngineUrlRequestInterceptor {
   void interceptRequest(QWebEngineUrlRequestInfo &request) override;
 };
 
-/// The preview's page: what would open a window opens here instead.
+/// The preview's page: what would open a window opens here instead, and no link leads out of the
+/// site to another place of this machine.
 class BrowserPage final : public QWebEnginePage {
   Q_OBJECT
 
  public:
-  using QWebEnginePage::QWebEnginePage;
+  BrowserPage(QWebEngineProfile *profile, const SiteScheme &scheme);
 
-  /// `copy` stands in for the page at `base`: links from it to places of that page stay in it.
-  void StandIn(const QUrl &copy, const QUrl &base) { bases_[copy] = base; }
+ Q_SIGNALS:
+  /// A link leads to that place of this machine, outside of the site; it is not followed.
+  void LinkRefused(const QString &file);
+  /// So does the address of a picture, a frame or the like; it is not shown.
+  void PartRefused(const QString &file);
 
  protected:
   QWebEnginePage *createWindow(WebWindowType type) override;
   bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override;
+  void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level, const QString &message,
+                                int lineNumber, const QString &source) override;
 
  private:
-  QHash<QUrl, QUrl> bases_;
+  const SiteScheme &scheme_;
 };
 
 }  // namespace velor

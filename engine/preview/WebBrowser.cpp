@@ -2,12 +2,10 @@
 #include "engine/preview/WebBrowser.h"
 
 #include "engine/FileDrops.h"
-#include "engine/preview/BaseElement.h"
 #include "engine/preview/BrowserPage.h"
-#include "platform/RuntimeError.h"
 
 #include <QAction>
-#include <QFile>
+#include <QDesktopServices>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineProfile>
@@ -20,7 +18,6 @@ namespace {
 
 /// Progress is told in percent.
 constexpr int ProgressMaximum = 100;
-constexpr const char *Utf8Mark = "\xEF\xBB\xBF";
 
 /// What the engine's own context menu offers and this browser refuses or has no second window for.
 constexpr QWebEnginePage::WebAction RefusedActions[] = {
@@ -50,7 +47,14 @@ class BrowserView final : public QWebEngineView {
 };
 
 QString Named(const QUrl &address) {
-  return address.isLocalFile() ? address.toLocalFile() : address.toDisplayString();
+  if (address.scheme() == QLatin1String(SiteScheme::Name())) return SiteScheme::FileOf(address);
+  return address.toDisplayString();
+}
+
+bool IsForAnotherProgram(const QUrl &address) {
+  const QString scheme = address.scheme();
+  return scheme == QStringLiteral("mailto") || scheme == QStringLiteral("tel") ||
+         scheme == QStringLiteral("sms");
 }
 
 }  // namespace
@@ -58,11 +62,13 @@ QString Named(const QUrl &address) {
 WebBrowser::WebBrowser(QWidget *parent)
     : profile_(std::make_unique<QWebEngineProfile>()),
       view_(new BrowserView(parent)),
-      page_(new BrowserPage(profile_.get())) {
+      page_(new BrowserPage(profile_.get(), scheme_)) {
   QWebEngineSettings *settings = page_->settings();
-  profile_->setUrlRequestInterceptor(new LocalFileGuard(profile_.get()));
-  settings->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
-  settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
+  profile_->setUrlRequestInterceptor(new SiteGuard(profile_.get()));
+  profile_->installUrlSchemeHandler(SiteScheme::Name(), &scheme_);
+  settings->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, false);
+  settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
+  settings->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
   settings->setAttribute(QWebEngineSettings::PluginsEnabled, false);
   settings->setAttribute(QWebEngineSettings::NavigateOnDropEnabled, false);
   for (const QWebEnginePage::WebAction refused : RefusedActions) {
@@ -76,8 +82,18 @@ WebBrowser::WebBrowser(QWidget *parent)
             download->cancel();
             TellState(tr("The preview downloads nothing: %1").arg(Named(download->url())));
           });
-  connect(page_, &QWebEnginePage::linkHovered, this,
-          [this](const QString &address) { TellStatus(address.isEmpty() ? state_ : address); });
+  connect(page_, &QWebEnginePage::linkHovered, this, [this](const QString &address) {
+    TellStatus(address.isEmpty() ? state_ : Named(QUrl(address)));
+  });
+  const auto refused = [this](const QString &file) {
+    if (!refused_.contains(file)) refused_ << file;
+    if (!isOpening_) TellRefused();
+  };
+  connect(&scheme_, &SiteScheme::Refused, this, refused);
+  connect(page_, &BrowserPage::PartRefused, this, refused);
+  connect(page_, &BrowserPage::LinkRefused, this, [this](const QString &file) {
+    TellState(tr("Outside of the site and not opened: %1").arg(file));
+  });
   connect(page_, &QWebEnginePage::loadProgress, this, [this](int percent) {
     if (listener_ != nullptr) listener_->ProgressChanged(percent, ProgressMaximum);
   });
@@ -100,25 +116,16 @@ void WebBrowser::SetListener(BrowserListener *listener) {
   listener_ = listener;
 }
 
+void WebBrowser::SetSite(const QString &folder) {
+  site_ = folder;
+}
+
 void WebBrowser::Navigate(const QUrl &url) {
-  page_->load(url);
+  page_->load(url.isLocalFile() ? scheme_.AddressOf(url.toLocalFile(), site_) : url);
 }
 
 void WebBrowser::NavigateToText(const QString &html, const QUrl &baseUrl) {
-  // A page keeps its file, so that each place in the history shows its own page.
-  if (!bases_.contains(baseUrl)) bases_.append(baseUrl);
-  const QString name =
-      copies_.filePath(QStringLiteral("preview%1.htm").arg(bases_.indexOf(baseUrl) + 1));
-  QFile copy(name);
-  // The mark outweighs the charset that the page declares for its own file.
-  const QByteArray bytes = Utf8Mark + WithBase(html, baseUrl).toUtf8();
-  if (!copy.open(QIODevice::WriteOnly) || copy.write(bytes) != bytes.size() || !copy.flush()) {
-    throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("Preview"),
-                       copy.errorString() + QStringLiteral(": ") + name);
-  }
-  const QUrl url = QUrl::fromLocalFile(name);
-  page_->StandIn(url, baseUrl);
-  page_->load(url);
+  page_->load(scheme_.Offer(baseUrl.toLocalFile(), site_, html));
 }
 
 void WebBrowser::GoBack() {
@@ -130,23 +137,35 @@ void WebBrowser::GoForward() {
 }
 
 void WebBrowser::Refresh() {
-  page_->triggerAction(QWebEnginePage::Reload);
+  page_->triggerAction(QWebEnginePage::ReloadAndBypassCache);
 }
 
 void WebBrowser::Stop() {
+  isStopping_ = true;
   page_->triggerAction(QWebEnginePage::Stop);
 }
 
 void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo &loading) {
   switch (loading.status()) {
     case QWebEngineLoadingInfo::LoadStartedStatus:
+      isStopping_ = false;
+      // The engine ends such a load by itself.
+      if (IsForAnotherProgram(loading.url())) return OpenElsewhere(loading.url());
+      refused_.clear();
+      stateBefore_ = state_;
       TellState(tr("Opening %1").arg(Named(loading.url())));
+      isOpening_ = true;
       break;
     case QWebEngineLoadingInfo::LoadStoppedStatus:
-      TellState(tr("Stopped"));
+      // The engine also ends what it never began so, a link to another program for one.
+      if (isStopping_)
+        TellState(tr("Stopped"));
+      else if (isOpening_)
+        TellState(stateBefore_);
       break;
     case QWebEngineLoadingInfo::LoadSucceededStatus:
       TellState(tr("Done"));
+      if (!refused_.isEmpty()) TellRefused();
       break;
     case QWebEngineLoadingInfo::LoadFailedStatus:
       TellState(tr("%1 could not be opened").arg(Named(loading.url())));
@@ -154,8 +173,23 @@ void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo &loading) {
   }
 }
 
+void WebBrowser::TellRefused() {
+  QString text = tr("Outside of the site and not shown: %1").arg(refused_.first());
+  if (refused_.size() > 1) text += tr(" and %1 more").arg(refused_.size() - 1);
+  TellState(text);
+}
+
+void WebBrowser::OpenElsewhere(const QUrl &url) {
+  if (QDesktopServices::openUrl(url)) return;
+  const QString text = url.toDisplayString();
+  TellState(url.scheme() == QStringLiteral("mailto")
+                ? tr("No mail program is set up here to write to %1").arg(url.path())
+                : tr("No program is set up here to open %1").arg(text));
+}
+
 void WebBrowser::TellState(const QString &state) {
   state_ = state;
+  isOpening_ = false;
   TellStatus(state);
 }
 

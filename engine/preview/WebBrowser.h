@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/preview/SiteScheme.h"
 #include "platform/Browser.h"
 
-#include <QList>
 #include <QObject>
 #include <QPointer>
-#include <QTemporaryDir>
+#include <QStringList>
 #include <QUrl>
 
 #include <memory>
@@ -19,8 +19,9 @@ namespace velor {
 
 class BrowserPage;
 
-/// The preview browser on Qt WebEngine. Page scripts run, in the engine's sandbox; what a page
-/// leaves behind (cookies, cache, storage) goes with the browser, downloads are refused, and what
+/// The preview browser on Qt WebEngine. Files are shown as parts of their site (SiteScheme), and
+/// nothing else of this machine is. Page scripts run, in the engine's sandbox; what a page leaves
+/// behind (cookies, cache, storage) goes with the browser, downloads are refused, and what
 /// would open a window opens here instead. Out of sight it is silent. The status text is the
 /// address under the pointer, else how the load stands.
 class WebBrowser final : public QObject, public Browser {
@@ -32,6 +33,7 @@ class WebBrowser final : public QObject, public Browser {
 
   QWidget *Widget() override;
   void SetListener(BrowserListener *listener) override;
+  void SetSite(const QString &folder) override;
   void Navigate(const QUrl &url) override;
   void NavigateToText(const QString &html, const QUrl &baseUrl) override;
   void GoBack() override;
@@ -43,16 +45,21 @@ class WebBrowser final : public QObject, public Browser {
   void LoadingChanged(const QWebEngineLoadingInfo &loading);
   void TellState(const QString &state);
   void TellStatus(const QString &text);
+  void TellRefused();
+  void OpenElsewhere(const QUrl &url);
 
+  SiteScheme scheme_;
   std::unique_ptr<QWebEngineProfile> profile_;
   QPointer<QWebEngineView> view_;
   QPointer<BrowserPage> page_;
   BrowserListener *listener_ = nullptr;
+  QString site_;  ///< native folder; empty for the folder of each page
   /// How the last load stands.
   QString state_;
-  /// Holds the pages of NavigateToText, one file a base; removed with the browser.
-  QTemporaryDir copies_;
-  QList<QUrl> bases_;
+  bool isOpening_ = false;   ///< which is told
+  QString stateBefore_;      ///< before that
+  bool isStopping_ = false;  ///< Stop was asked for
+  QStringList refused_;      ///< parts of the page that lie outside of its site
 };
 
 }  // namespace velor

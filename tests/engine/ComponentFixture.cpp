@@ -22,7 +22,7 @@ namespace {
 class EngineEnvironment : public ::testing::Environment {
  public:
   /// At static initialisation: the scheme must be known before the application object is made.
-  EngineEnvironment() { RegisterPageScheme(); }
+  EngineEnvironment() { RegisterSchemes(); }
   void TearDown() override { engine_.reset(); }
   EditingEngine &Engine() {
     if (engine_ == nullptr) engine_ = std::make_unique<EditingEngine>();

@@ -17,11 +17,13 @@ class FakeBrowser final : public Browser {
   ~FakeBrowser() override { delete widget_; }
 
   QUrl url;
+  QString site;
   QString html;  ///< of NavigateToText
   BrowserListener *listener = nullptr;
 
   QWidget *Widget() override { return widget_; }
   void SetListener(BrowserListener *newListener) override { listener = newListener; }
+  void SetSite(const QString &folder) override { site = folder; }
   void Navigate(const QUrl &newUrl) override {
     Note(log_, QStringLiteral("Browser.Navigate(%1)").arg(newUrl.toString()));
     url = newUrl;

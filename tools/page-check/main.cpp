@@ -63,7 +63,7 @@ bool Keep(const QByteArray &saved, const QString &folder, int number) {
 
 int main(int argc, char **argv) {
   PrepareEngine();
-  velor::RegisterPageScheme();
+  velor::RegisterSchemes();
   const QApplication application(argc, argv);
   QCommandLineParser parser;
   const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the real browser does with pages: the behaviour of an engine, which the fake has none of.
-#include "engine/preview/BaseElement.h"
+#include "engine/PageScheme.h"
+#include "engine/preview/SiteScheme.h"
 #include "engine/preview/WebBrowser.h"
 #include "tests/support/Checks.h"
 
 #include <QAction>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
@@ -21,6 +23,13 @@
 #include <memory>
 
 namespace velor {
+
+namespace {
+
+// Before the application object is made.
+const bool SchemesAreKnown = (RegisterSchemes(), true);
+
+}  // namespace
 
 class WebBrowserTest : public ::testing::Test, protected BrowserListener {
  protected:
@@ -50,6 +59,18 @@ class WebBrowserTest : public ::testing::Test, protected BrowserListener {
 
   bool StatusBecomes(const QString &text) {
     return QTest::qWaitFor([&] { return !statuses.isEmpty() && statuses.last() == text; }, 20000);
+  }
+  /// As a person does, so that the engine takes it for one's wish.
+  void Click(const QString &selector) {
+    EnginePage()->runJavaScript(
+        QStringLiteral("(() => { const box = document.querySelector('%1').getBoundingClientRect();"
+                       "return [box.x + box.width / 2, box.y + box.height / 2] })()")
+            .arg(selector),
+        [this](const QVariant &value) {
+          const QVariantList at = value.toList();
+          QTest::mouseClick(browser.Widget()->focusProxy(), Qt::LeftButton, {},
+                            {at.value(0).toInt(), at.value(1).toInt()});
+        });
   }
   /// A script that answers in the page's title.
   bool Answers(const QString &script, const QString &answer) {
@@ -97,15 +118,11 @@ TEST_F(WebBrowserTest, ATextIsShownWithItsLinksResolvedAgainstTheBase) {
       << EnginePage()->title().toStdString();
 }
 
-TEST_F(WebBrowserTest, APrivateCopyGoesWithTheBrowser) {
-  auto own = std::make_unique<WebBrowser>(&host);
-  auto *page = qobject_cast<QWebEngineView *>(own->Widget())->page();
-  own->NavigateToText(QStringLiteral("<title>copy</title>"), QUrl());
-  ASSERT_TRUE(QTest::qWaitFor([&] { return page->title() == QStringLiteral("copy"); }, 20000));
-  const QString copy = page->url().toLocalFile();
-  EXPECT_TRUE(QFile::exists(copy));
-  own.reset();
-  EXPECT_FALSE(QFile::exists(copy));
+TEST_F(WebBrowserTest, ATextIsOnNoDisk) {
+  browser.NavigateToText(QStringLiteral("<title>text</title>"),
+                         QUrl::fromLocalFile(folder.filePath(QStringLiteral("page.htm"))));
+  ASSERT_TRUE(TitleBecomes(QStringLiteral("text")));
+  EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
 TEST_F(WebBrowserTest, ALargeTextIsShownToo) {
@@ -121,7 +138,7 @@ TEST_F(WebBrowserTest, WhatWouldOpenAWindowOpensHere) {
   ASSERT_TRUE(TitleBecomes(QStringLiteral("first")));
   EnginePage()->runJavaScript(QStringLiteral("document.getElementById('l').click()"));
   EXPECT_TRUE(TitleBecomes(QStringLiteral("next")));
-  EXPECT_EQ(EnginePage()->url(), next);
+  EXPECT_EQ(SiteScheme::FileOf(EnginePage()->url()), next.toLocalFile());
 }
 
 TEST_F(WebBrowserTest, HowALoadStandsIsToldAsStatusText) {
@@ -278,6 +295,189 @@ TEST_F(WebBrowserTest, APageOnDiskUsesTheFilesBesideItButItsScriptsReadNone) {
       << EnginePage()->title().toStdString();
 }
 
+TEST_F(WebBrowserTest, AMailLinkIsNoLoadThatWasStopped) {
+  browser.Navigate(Put(QStringLiteral("page.htm"),
+                       "<title>page</title><a href='mailto:info@example.com'>mail</a>"));
+  ASSERT_TRUE(StatusBecomes(QStringLiteral("Done")));
+  Click(QStringLiteral("a"));
+  EXPECT_TRUE(
+      StatusBecomes(QStringLiteral("No mail program is set up here to write to info@example.com")))
+      << statuses.join(u'|').toStdString();
+  EXPECT_FALSE(statuses.contains(QStringLiteral("Stopped")));
+}
+
+TEST_F(WebBrowserTest, ALinkOutOfTheSiteIsToldAndNotFollowed) {
+  ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("site")));
+  const QUrl outside = Put(QStringLiteral("outside.htm"), "<title>outside</title>");
+  const QString told =
+      QStringLiteral("Outside of the site and not opened: ") + outside.toLocalFile();
+  browser.Navigate(
+      Put(QStringLiteral("site/page.htm"), "<title>page</title><a href=../outside.htm>l</a>"));
+  ASSERT_TRUE(StatusBecomes(QStringLiteral("Done"))) << statuses.join(u'|').toStdString();
+  Click(QStringLiteral("a"));
+  EXPECT_TRUE(StatusBecomes(told)) << statuses.join(u'|').toStdString();
+  EXPECT_EQ(EnginePage()->title(), QStringLiteral("page"));
+}
+
+TEST_F(WebBrowserTest, APictureOutsideOfTheSiteIsToldAndNotShown) {
+  ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("site")));
+  const QUrl outside =
+      Put(QStringLiteral("p.svg"), "<svg xmlns='http://www.w3.org/2000/svg' width='9'/>");
+  for (const QString &address : {QStringLiteral("../p.svg"), outside.toString()}) {
+    statuses.clear();
+    browser.Navigate(Put(QStringLiteral("site/page.htm"),
+                         "<title>page</title><img src='" + address.toUtf8() + "'>"));
+    EXPECT_TRUE(StatusBecomes(QStringLiteral("Outside of the site and not shown: ") +
+                              outside.toLocalFile()))
+        << statuses.join(u'|').toStdString();
+    EXPECT_TRUE(
+        Answers(QStringLiteral("'w' + document.images[0].naturalWidth"), QStringLiteral("w0")));
+  }
+}
+
+TEST_F(WebBrowserTest, AProjectsFolderIsTheSiteOfThePagesInIt) {
+  ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("site/sub")));
+  Put(QStringLiteral("site/code.js"), "document.title = 'beside'");
+  browser.SetSite(folder.filePath(QStringLiteral("site")));
+  browser.Navigate(Put(QStringLiteral("site/sub/page.htm"), "<script src=../code.js></script>"));
+  EXPECT_TRUE(TitleBecomes(QStringLiteral("beside"))) << statuses.join(u'|').toStdString();
+}
+
+/// Every way by which a page's script may try to read what it is not to: each tells what it read in
+/// the list that becomes the title.
+TEST_F(WebBrowserTest, NoScriptReadsAFileOutsideOfItsSiteNorOfAnotherSite) {
+  for (const char *name : {"site", "other", "site/.hidden"})
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QString::fromLatin1(name)));
+  const QByteArray picture =
+      "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect fill='red' width='9' "
+      "height='9'/></svg>";
+  for (const char *name : {"other/", "site/.hidden/"}) {
+    const QString at = QString::fromLatin1(name);
+    Put(at + QStringLiteral("page.htm"), "<title>secret</title>secret");
+    Put(at + QStringLiteral("code.js"),
+        "globalThis.secret = true; self.onconnect || postMessage(1)");
+    Put(at + QStringLiteral("style.css"), "p { width: 77px } @font-face {}");
+    Put(at + QStringLiteral("text.txt"), "secret");
+    Put(at + QStringLiteral("p.svg"), picture);
+  }
+  ASSERT_TRUE(QFile::link(folder.filePath(QStringLiteral("other/page.htm")),
+                          folder.filePath(QStringLiteral("site/link.htm"))));
+  browser.Navigate(QUrl::fromLocalFile(folder.filePath(QStringLiteral("other/page.htm"))));
+  ASSERT_TRUE(TitleBecomes(QStringLiteral("secret")));
+  const QString otherSite = EnginePage()->url().adjusted(QUrl::RemoveFilename).toString();
+
+  QStringList roots{QStringLiteral("../other/"),
+                    QStringLiteral(".hidden/"),
+                    otherSite,
+                    QUrl::fromLocalFile(folder.path()).toString() + QStringLiteral("/other/"),
+                    QStringLiteral("../site/../other/"),
+                    QStringLiteral("%2e%2e/other/"),
+                    QStringLiteral("..\\\\other\\\\")};
+  QString list;
+  for (const QString &root : roots) list += u'\'' + root + QStringLiteral("',");
+  Put(QStringLiteral("site/page.htm"), QStringLiteral(R"(<p>x</p><script>
+    const found = [];
+    const note = (what, root) => found.push(what + ' ' + root);
+    const within = (work) => Promise.race([new Promise(work),
+                                           new Promise((end) => setTimeout(end, 1500))]);
+    const read = (root) => Promise.all([
+      within(async (end) => {
+        await fetch(root + 'text.txt').then((answer) => answer.text())
+            .then((text) => text && note('fetch', root), () => {});
+        end(); }),
+      within((end) => {
+        const request = new XMLHttpRequest();
+        request.onloadend = () => { if (request.responseText) note('xhr', root); end(); };
+        try { request.open('GET', root + 'text.txt'); request.send(); } catch (error) { end(); }
+      }),
+      ...['iframe', 'object', 'embed'].map((name) => within((end) => {
+        const frame = document.createElement(name);
+        frame.onload = () => {
+          try {
+            const page = frame.contentDocument ?? frame.getSVGDocument?.();
+            if (page?.body?.textContent.includes('secret')) note(name, root);
+          } catch (error) {}
+          end();
+        };
+        frame.onerror = end;
+        frame[name === 'object' ? 'data' : 'src'] = root + 'page.htm';
+        document.body.append(frame);
+      })),
+      within((end) => {
+        const image = new Image();
+        image.onload = () => {
+          const canvas = document.createElement('canvas');
+          try {
+            const pen = canvas.getContext('2d');
+            pen.drawImage(image, 0, 0);
+            if (pen.getImageData(1, 1, 1, 1).data[0]) note('canvas', root);
+          } catch (error) {}
+          end();
+        };
+        image.onerror = end;
+        image.src = root + 'p.svg';
+      }),
+      within((end) => {
+        const style = document.createElement('link');
+        style.rel = 'stylesheet';
+        style.onload = () => {
+          try { if (style.sheet.cssRules.length) note('css', root); } catch (error) {}
+          end();
+        };
+        style.onerror = end;
+        style.href = root + 'style.css';
+        document.head.append(style);
+      }),
+      within((end) => {
+        const face = new FontFace('f', 'url("' + root + 'text.txt")');
+        face.load().then(() => { note('font', root); end(); }, end);
+      }),
+      ...[Worker, SharedWorker].map((Kind) => within((end) => {
+        try {
+          const worker = new Kind(root + 'code.js');
+          worker.onmessage = () => { note('worker', root); end(); };
+          worker.onerror = end;
+        } catch (error) { end(); }
+      })),
+      within((end) => {
+        if (!navigator.serviceWorker) return end();
+        navigator.serviceWorker.register(root + 'code.js')
+            .then(() => { note('service worker', root); end(); }, end);
+      }),
+      within((end) => {
+        const frame = document.createElement('iframe');
+        globalThis.onmessage = (event) => { if (event.data === root) note('data frame', root); };
+        frame.onload = end;
+        frame.src = URL.createObjectURL(new Blob(['<script>fetch("' + new URL(root, location) +
+            'text.txt").then(a => a.text()).then(t => parent.postMessage("' +
+            root.replaceAll('\\', '') + '", "*"))<\/script>'], { type: 'text/html' }));
+        document.body.append(frame);
+      }),
+    ]);
+    onload = async () => {
+      for (const root of [%1]) await read(root);
+      const link = document.createElement('iframe');
+      await within((end) => {
+        link.onload = () => {
+          try {
+            if (link.contentDocument.body.textContent.includes('secret')) note('link', '');
+          } catch (error) {}
+          end();
+        };
+        link.src = 'link.htm';
+        document.body.append(link);
+      });
+      document.title = 'read: ' + found.join('; ');
+    };</script>)")
+                                           .arg(list)
+                                           .toUtf8());
+  browser.Navigate(QUrl::fromLocalFile(folder.filePath(QStringLiteral("site/page.htm"))));
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] { return EnginePage()->title().startsWith(QStringLiteral("read:")); }, 90000))
+      << EnginePage()->title().toStdString();
+  EXPECT_EQ(EnginePage()->title(), QStringLiteral("read:"));
+}
+
 TEST_F(WebBrowserTest, APageOnDiskMayUseWhatIsOnTheWeb) {
   QTcpServer server;
   ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
@@ -285,27 +485,6 @@ TEST_F(WebBrowserTest, APageOnDiskMayUseWhatIsOnTheWeb) {
       QStringLiteral("page.htm"),
       QStringLiteral("<img src='http://127.0.0.1:%1/p.png'>").arg(server.serverPort()).toUtf8()));
   EXPECT_TRUE(QTest::qWaitFor([&] { return server.hasPendingConnections(); }, 20000));
-}
-
-TEST(BaseElementTest, TheBaseStandsWhereThePageIsParsedAsBefore) {
-  const QUrl base(QStringLiteral("file:///site/a%20b.htm"));
-  const QString element = QStringLiteral("<base href=\"file:///site/a%20b.htm\">");
-  struct Row {
-    const char *before;
-    const char *after;
-  };
-  for (const Row &row : {Row{"<!doctype html><html lang=x><HEAD class=c>", "<title>t</title>"},
-                         Row{"<!doctype html><html>", "<body>x"}, Row{"<!DOCTYPE html>", "<p>x"},
-                         Row{"", "<p>x"}, Row{"<!-- <head> --><head>", "<p>"}}) {
-    const QString before = QString::fromLatin1(row.before);
-    const QString after = QString::fromLatin1(row.after);
-    EXPECT_EQ(WithBase(before + after, base), before + element + after);
-  }
-}
-
-TEST(BaseElementTest, APagesOwnBaseStaysTheOnlyOne) {
-  const QString html = QStringLiteral("<head><base href=\"x/\"></head>");
-  EXPECT_EQ(WithBase(html, QUrl(QStringLiteral("file:///site/a.htm"))), html);
 }
 
 }  // namespace velor

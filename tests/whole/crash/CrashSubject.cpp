@@ -166,7 +166,7 @@ class Subject {
 }  // namespace velor
 
 int main(int argc, char **argv) {
-  velor::RegisterPageScheme();
+  velor::RegisterSchemes();
   QApplication application(argc, argv);
   const QString what = QApplication::arguments().value(1);
   const QString file = QApplication::arguments().value(2);
