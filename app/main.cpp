@@ -4,6 +4,7 @@
 #include "app/window/MfrmProgram.h"
 #include "chrome/Palette.h"
 #include "engine/PageScheme.h"
+#include "engine/Sandbox.h"
 #include "platform/DriveMap.h"
 #include "qt/RealPlatform.h"
 
@@ -27,6 +28,9 @@ int main(int argc, char **argv) {
     QObject::connect(mainWindow.get(), &MfrmProgram::Unloaded, &application,
                      [] { QCoreApplication::exit(); });
     mainWindow->Load();
+    if (IsSandboxOff())
+      mainWindow->Context().mainWindow.status.Report(QStringLiteral(
+          "The browser engine's sandbox is off: preview only pages that you trust."));
   });
   boundary.Run([&] {
     if (driveMapError) throw *driveMapError;
