@@ -190,14 +190,29 @@ function forgetOldest() {
   }
 }
 
+const sameNodes = (one, other) =>
+  one.length === other.length && one.every((node, index) => node === other[index]);
+// Whether a change takes away just what the one before it has put in.
+const takesBack = (change, before) => change instanceof ChildChange &&
+  before instanceof ChildChange && change.target === before.target && !change.added.length &&
+  !before.removed.length && sameNodes(change.removed, before.added);
+function withoutPairs(changes) {
+  const left = [];
+  for (const change of changes) {
+    if (takesBack(change, left.at(-1))) left.pop();
+    else left.push(change);
+  }
+  return left;
+}
+
 function close() {
   if (!open) return;
   const closed = open;
   open = null;
   if (!closed.changes.length) return;
   closed.weight = seal(closed.changes);
-  // What an input method wrote and took away again is no change.
-  closed.changes = closed.changes.filter((change) => !change.isVoid);
+  // What an input method wrote and took away again is no change, nor is a line that was held open.
+  closed.changes = withoutPairs(closed.changes.filter((change) => !change.isVoid));
   if (!closed.changes.length) return;
   delete closed.seen;
   delete closed.names;
