@@ -9,6 +9,8 @@
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 #include <QWebEngineView>
 
@@ -51,6 +53,20 @@ QString Named(const QUrl &address) {
   return address.toDisplayString();
 }
 
+/// Pictures that a page names by full file addresses are asked of its site, which serves those that
+/// lie in it: the engine refuses "file:" to every page of another scheme without asking anybody.
+QWebEngineScript SitePictures() {
+  QWebEngineScript script;
+  script.setName(QStringLiteral("site pictures"));
+  script.setInjectionPoint(QWebEngineScript::DocumentReady);
+  script.setWorldId(QWebEngineScript::ApplicationWorld);
+  script.setRunsOnSubFrames(true);
+  script.setSourceCode(
+      QStringLiteral("for (const image of document.querySelectorAll('img[src^=\"file:\" i]'))"
+                     "  image.src = new URL(image.src).pathname;"));
+  return script;
+}
+
 bool IsForAnotherProgram(const QUrl &address) {
   const QString scheme = address.scheme();
   return scheme == QStringLiteral("mailto") || scheme == QStringLiteral("tel") ||
@@ -74,6 +90,7 @@ WebBrowser::WebBrowser(QWidget *parent)
   for (const QWebEnginePage::WebAction refused : RefusedActions) {
     page_->action(refused)->setVisible(false);
   }
+  page_->scripts().insert(SitePictures());
   view_->setPage(page_);
   LeaveFilesToTheWindow(*view_);
 
@@ -103,6 +120,9 @@ WebBrowser::WebBrowser(QWidget *parent)
 }
 
 WebBrowser::~WebBrowser() {
+  // Requests that are still on their way are told to nobody.
+  scheme_.disconnect(this);
+  if (!page_.isNull()) page_->disconnect(this);
   // The page goes before its profile, and the view before the page.
   delete view_;
   delete page_;
