@@ -9,6 +9,7 @@
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 namespace velor {
@@ -63,10 +64,27 @@ qsizetype FirstDifference(QStringView one, QStringView other) {
   return end - one.begin();
 }
 
+/// The keys of the words that stand where text may.
+std::unordered_set<std::uint64_t> KeysOfSettledWords(const std::vector<HtmlToken> &tokens) {
+  std::unordered_set<std::uint64_t> keys;
+  TextPlaces places;
+  for (const HtmlToken &token : tokens) {
+    if (token.kind == HtmlTokenKind::StartTag)
+      places.StartTag(token.name);
+    else if (token.kind == HtmlTokenKind::EndTag)
+      places.EndTag(token.name);
+    else if (token.kind == HtmlTokenKind::Word && !places.IsBetweenTableParts())
+      keys.insert(token.key);
+  }
+  return keys;
+}
+
 /// The source's tokens as they are matched with its serialisation. What a parser moves matches
-/// nothing at first: text between the parts of a table, which would else be taken for a cell's, and
-/// the body's and the root's end tag, since it moves the text behind them before them.
+/// nothing at first where it could be taken for something else: words between the parts of a table
+/// that stand in a cell as well, and the body's and the root's end tag, since it moves the text
+/// behind them before them.
 std::vector<HtmlToken> TokensThatStay(std::vector<HtmlToken> tokens) {
+  const std::unordered_set<std::uint64_t> settled = KeysOfSettledWords(tokens);
   TextPlaces places;
   for (HtmlToken &token : tokens) {
     const bool isFrame = token.name == elements::Body || token.name == elements::Html;
@@ -74,7 +92,8 @@ std::vector<HtmlToken> TokensThatStay(std::vector<HtmlToken> tokens) {
       places.StartTag(token.name);
     else if (token.kind == HtmlTokenKind::EndTag)
       places.EndTag(token.name);
-    const bool isMoved = token.kind == HtmlTokenKind::Word && places.IsBetweenTableParts();
+    const bool isMoved = token.kind == HtmlTokenKind::Word && places.IsBetweenTableParts() &&
+                         settled.contains(token.key);
     if (isMoved || (isFrame && token.kind == HtmlTokenKind::EndTag)) token.key = 0;
   }
   return tokens;
