@@ -86,9 +86,12 @@ TEST_F(Recovery, NoKeyPaysForTheMirror) {
       "  Object.defineProperty(Element.prototype, 'outerHTML', { configurable: true,"
       "    get() { if (atKey) given.paid++; return get.call(this); } });"
       "}"));
-  TypeText(QStringLiteral("ab"));
-  ASSERT_TRUE(Gave(QStringLiteral("pushed"), QStringLiteral("Oneab")));
-  EXPECT_GE(Evaluate(QStringLiteral("given.pushes")).toInt(), 2);
+  // One key after the other: two may share an animation frame, and then a push.
+  for (int key = 1; key <= 2; ++key) {
+    TypeText(QStringLiteral("a"));
+    ASSERT_TRUE(WaitFor([&] { return Evaluate(QStringLiteral("given.pushes")).toInt() >= key; }));
+  }
+  ASSERT_TRUE(Gave(QStringLiteral("pushed"), QStringLiteral("Oneaa")));
   EXPECT_EQ(Evaluate(QStringLiteral("given.paid")).toInt(), 0);
 }
 
