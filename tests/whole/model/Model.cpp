@@ -1,0 +1,395 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/whole/model/Model.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QRegularExpression>
+
+#include <array>
+#include <cstdlib>
+#include <utility>
+
+namespace velor {
+
+namespace {
+
+using Kind = Deed::Kind;
+
+constexpr int MostPages = 5;
+
+/// Pages of several forms, and files whose names the temporary copies' rule gives.
+const std::array<std::pair<const char *, QByteArray>, 8> FirstFiles = {{
+    {"site/a.htm", "<html><head></head><body><p>alpha</p></body></html>\n"},
+    {"site/b.htm",
+     "<html>\r\n<head><meta charset=windows-1252></head>\r\n<body>\r\n<p>b\xEAta</p>\r\n</body>\r\n"
+     "</html>\r\n"},
+    {"site/c.html", "<!doctype html>\n<title>c</title>\n<p>gamma</p>"},
+    {"site/index.htm", "<html><head></head><body>\n  <p>index</p>\n</body></html>\n"},
+    {"site/indexTMP.htm", "<html><head></head><body><p>no copy of index</p></body></html>"},
+    {"site/my.site/page.htm", "<html><head></head><body><p>page</p></body></html>\n"},
+    {"site/myTMP.site/pageTMP.htm",
+     "<html><head></head><body><p>no copy of page</p></body></html>"},
+    {"site/notes.txt", "w0w are the notes of nobody's page\n"},
+}};
+
+const QRegularExpression &Word() {
+  static const QRegularExpression word(QStringLiteral("w\\d+w"));
+  return word;
+}
+
+Words WordsIn(const QString &text) {
+  Words words;
+  for (auto match = Word().globalMatch(text); match.hasNext();)
+    words.insert(match.next().captured());
+  return words;
+}
+
+std::string Listed(const Words &words) {
+  QStringList list(words.begin(), words.end());
+  list.sort();
+  return list.join(QStringLiteral(", ")).toStdString();
+}
+
+template <typename... Parts>
+QString Sentence(const Parts &...parts) {
+  std::string text;
+  ((text += parts), ...);
+  return QString::fromStdString(text);
+}
+
+std::string Name(const QString &path) {
+  return path.section(u'/', -2).toStdString();
+}
+
+/// The name of a temporary copy beside its page.
+QString CopyOf(QString path) {
+  return path.replace(u'.', QStringLiteral("TMP."));
+}
+
+bool IsWritable(const QString &path) {
+  return (QFile::permissions(path) & QFile::WriteOwner) != 0;
+}
+
+bool MayTouchAFile(Kind kind) {
+  return kind == Kind::Save || kind == Kind::SaveAs || kind == Kind::Close;
+}
+
+}  // namespace
+
+Content ContentOf(const QByteArray &bytes) {
+  const QString text = QString::fromLatin1(bytes);
+  return {QString(text).remove(Word()).toLatin1(), WordsIn(text)};
+}
+
+Model::Model(const QString &engine) : engine_(engine) {
+  for (const char *name : {"program", "config", "data", "cache", "state"})
+    QDir(folder_.path()).mkpath(QString::fromLatin1(name));
+  qputenv("VELOR_PROGRAM_FOLDER", QFile::encodeName(Path(QStringLiteral("program"))));
+  qputenv("XDG_CONFIG_HOME", QFile::encodeName(Path(QStringLiteral("config"))));
+  qputenv("XDG_DATA_HOME", QFile::encodeName(Path(QStringLiteral("data"))));
+  qputenv("XDG_CACHE_HOME", QFile::encodeName(Path(QStringLiteral("cache"))));
+  qputenv("XDG_STATE_HOME", QFile::encodeName(Path(QStringLiteral("state"))));
+  for (const auto &[name, bytes] : FirstFiles) Write(Path(QString::fromLatin1(name)), bytes);
+  files_ = Disk();
+}
+
+Model::~Model() = default;
+
+QString Model::Begin() {
+  return StartAnew();
+}
+
+QString Model::Carry(const Deed &deed) {
+  const QString wrong = Act(deed);
+  return wrong.isEmpty() ? QString() : InWords(deed) + QStringLiteral(": ") + wrong;
+}
+
+void Model::Write(const QString &path, const QByteArray &bytes) {
+  QDir().mkpath(QFileInfo(path).path());
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) std::abort();
+}
+
+QMap<QString, Content> Model::Disk() const {
+  QMap<QString, Content> contents;
+  QDirIterator walk(Path(QStringLiteral("site")), QDir::Files | QDir::Hidden,
+                    QDirIterator::Subdirectories);
+  while (walk.hasNext()) {
+    QFile file(walk.next());
+    if (file.open(QIODevice::ReadOnly)) contents.insert(file.fileName(), ContentOf(file.readAll()));
+  }
+  return contents;
+}
+
+Model::Page *Model::Active() {
+  const auto found = pages_.find(active_);
+  return found == pages_.end() ? nullptr : &*found;
+}
+
+bool Model::IsOpen(const QString &path) const {
+  for (const Page &page : pages_)
+    if (page.path == path) return true;
+  return false;
+}
+
+QStringList Model::PeoplesFiles() const {
+  QStringList pages;
+  for (const QString &path : files_.keys())
+    if (!path.endsWith(QStringLiteral(".txt"))) pages.append(path);
+  return pages;
+}
+
+QJsonObject Model::InJson(const Deed &deed) {
+  static const QMap<Kind, const char *> names = {
+      {Kind::New, "new"},          {Kind::Open, "open"},
+      {Kind::Drop, "drop"},        {Kind::Switch, "switch"},
+      {Kind::Type, "type"},        {Kind::Save, "save"},
+      {Kind::SaveAs, "saveas"},    {Kind::ViewHtml, "view"},
+      {Kind::Design, "design"},    {Kind::Preview, "preview"},
+      {Kind::EditHtml, "edit"},    {Kind::TypeSource, "source"},
+      {Kind::Apply, "apply"},      {Kind::CloseSource, "closesource"},
+      {Kind::Close, "close"},      {Kind::DiskFull, "full"},
+      {Kind::DiskHasRoom, "room"}, {Kind::Exit, "exit"},
+      {Kind::Kill, "room"}};
+  constexpr std::array answers = {"yes", "no", "cancel"};
+  QJsonObject sent{{QStringLiteral("do"), QString::fromLatin1(names.value(deed.kind))},
+                   {QStringLiteral("answer"),
+                    QString::fromLatin1(answers.at(static_cast<std::size_t>(deed.answer)))},
+                   {QStringLiteral("page"), deed.choice}};
+  const QStringList files = PeoplesFiles();
+  const QString chosen = files.at(deed.choice % files.size());
+  if (deed.kind == Kind::Open) sent.insert(QStringLiteral("path"), chosen);
+  if (deed.kind == Kind::Drop) {
+    QJsonArray paths;
+    for (int i = 0; i < 2 + deed.choice % 2; ++i)
+      paths.append(files.at((deed.choice + i) % files.size()));
+    sent.insert(QStringLiteral("paths"), paths);
+  }
+  // One name in four is not given: the dialog is cancelled.
+  if (MayTouchAFile(deed.kind) && deed.choice % 4 != 0)
+    sent.insert(QStringLiteral("path"), Path(QStringLiteral("site/own%1.htm").arg(++words_)));
+  if (deed.kind == Kind::Type || deed.kind == Kind::TypeSource)
+    sent.insert(QStringLiteral("text"), QStringLiteral("w%1w").arg(++words_));
+  return sent;
+}
+
+QString Model::Act(const Deed &deed) {
+  const QStringList files = PeoplesFiles();
+  const QString chosen = files.at(deed.choice % files.size());
+  switch (deed.kind) {
+    case Kind::MakeReadOnly:
+    case Kind::MakeWritable:
+      if (!IsOpen(chosen))
+        QFile::setPermissions(chosen, deed.kind == Kind::MakeWritable
+                                          ? QFile::ReadOwner | QFile::WriteOwner
+                                          : QFile::ReadOwner);
+      return {};
+    case Kind::ChangeOutside:
+      if (!IsOpen(chosen) && IsWritable(chosen)) {
+        QFile file(chosen);
+        if (file.open(QIODevice::Append)) file.write("<!-- by another program -->");
+        file.close();
+        files_ = Disk();
+      }
+      return {};
+    default:
+      break;
+  }
+  const QJsonObject sent = InJson(deed);
+  const auto seen = life_->Do(sent);
+  if (deed.kind == Kind::DiskFull) isFull_ = true;
+  if (deed.kind == Kind::DiskHasRoom || deed.kind == Kind::Kill) isFull_ = false;
+  if (!seen) {
+    if (deed.kind != Kind::Exit) return QStringLiteral("the program has ended");
+    if (!life_->EndedWell()) return QStringLiteral("the exit failed");
+    return StartAnew();
+  }
+  if (deed.kind == Kind::Kill) {
+    life_->Kill();
+    return StartAnew();
+  }
+  return Check(deed, sent, *seen);
+}
+
+QString Model::StartAnew() {
+  for (const Page &page : std::as_const(pages_)) {
+    if (page.IsChanged()) kept_ += page.shown.words - page.saved;
+    kept_ += page.typed;
+  }
+  pages_.clear();
+  active_ = 0;
+  isFull_ = false;
+  life_.reset();
+  life_ = std::make_unique<Life>(engine_);
+  auto seen = life_->Start();
+  if (!seen) return QStringLiteral("the program does not start");
+  Words missing = std::exchange(kept_, {});
+  for (;;) {
+    const QString wrong = TakeRestored(*seen, missing);
+    if (!wrong.isEmpty()) return wrong;
+    if ((*seen)[QStringLiteral("offers")].toInt() == 0 || pages_.size() >= MostPages) break;
+    const auto before = pages_.size();
+    seen = life_->Do({{QStringLiteral("do"), QStringLiteral("restore")}});
+    if (!seen) return QStringLiteral("the program has ended while it restored a page");
+    if ((*seen)[QStringLiteral("pages")].toArray().size() <= before)
+      return QStringLiteral("an offered page did not come back");
+  }
+  const bool isAllBack = (*seen)[QStringLiteral("offers")].toInt() == 0;
+  if (isAllBack && !missing.isEmpty())
+    return Sentence("lost since the run before: ", Listed(missing));
+  kept_ = missing;
+  const QJsonObject nothing;
+  return CheckFiles({Kind::Design}, nothing);
+}
+
+QString Model::TakeRestored(const QJsonObject &seen, Words &missing) {
+  for (const QJsonValue &value : seen[QStringLiteral("pages")].toArray()) {
+    const QJsonObject told = value.toObject();
+    const int number = told[QStringLiteral("number")].toInt();
+    if (pages_.contains(number)) continue;
+    Page page;
+    page.path = told[QStringLiteral("path")].toString();
+    page.shown.words = WordsIn(told[QStringLiteral("text")].toString());
+    page.source = WordsIn(told[QStringLiteral("source")].toString());
+    page.typed = page.source - page.shown.words;
+    if (files_.contains(page.path)) {
+      page.saved = files_[page.path].words;
+      page.shown.rest = files_[page.path].rest;
+      page.readOnly = !IsWritable(page.path);
+    }
+    missing -= page.shown.words + page.typed;
+    pages_.insert(number, page);
+    if (told[QStringLiteral("active")].toBool()) active_ = number;
+  }
+  return {};
+}
+
+QString Model::Check(const Deed &deed, const QJsonObject &sent, const QJsonObject &seen) {
+  const QString error = seen[QStringLiteral("error")].toString();
+  if (!error.isEmpty() && !isFull_) return QStringLiteral("an error: ") + error;
+  const Page *active = Active();
+  const bool mayFail = isFull_ || (active != nullptr && active->readOnly);
+  for (const QJsonValue &message : seen[QStringLiteral("messages")].toArray())
+    if (message.toString().startsWith(QStringLiteral("File saving error")) && !mayFail)
+      return message.toString();
+  const QString wrong = CheckFiles(deed, sent);
+  if (!wrong.isEmpty()) return wrong;
+  return CheckPages(deed, sent, seen);
+}
+
+QString Model::CheckFiles(const Deed &deed, const QJsonObject &sent) {
+  Page *active = Active();
+  QStringList targets;
+  if (active != nullptr && MayTouchAFile(deed.kind)) {
+    targets.append(sent[QStringLiteral("path")].toString());
+    if (!active->path.isEmpty() && deed.kind != Kind::SaveAs) targets.append(active->path);
+  }
+  const QMap<QString, Content> disk = Disk();
+  for (auto [path, content] : files_.asKeyValueRange()) {
+    if (!disk.contains(path)) return Sentence(Name(path), " is gone");
+    if (disk[path] != content && !targets.contains(path))
+      return Sentence(Name(path), " has other bytes");
+  }
+  for (auto [path, content] : disk.asKeyValueRange()) {
+    if (files_.contains(path) && files_[path] == content) continue;
+    if (targets.contains(path)) {
+      const Words all = active->shown.words + active->typed;
+      if (content.words != active->shown.words && content.words != all)
+        return Sentence(Name(path), " was saved without some words");
+      if (!active->shown.rest.isEmpty() && content.rest != active->shown.rest)
+        return Sentence(Name(path), " was saved with other bytes: ", content.rest.toStdString(),
+                        " in place of ", active->shown.rest.toStdString());
+      active->shown = content;
+      active->typed -= content.words;
+      active->saved = content.words;
+      active->path = path;
+      active->readOnly = false;
+      files_.insert(path, content);
+      continue;
+    }
+    bool isCopy = false;
+    for (const Page &page : std::as_const(pages_)) isCopy = isCopy || CopyOf(page.path) == path;
+    if (!isCopy) return Sentence(Name(path), " was left behind");
+  }
+  return {};
+}
+
+QString Model::CheckPages(const Deed &deed, const QJsonObject &sent, const QJsonObject &seen) {
+  const QJsonArray all = seen[QStringLiteral("pages")].toArray();
+  if (all.size() > MostPages) return QStringLiteral("more pages than there may be");
+  if (seen[QStringLiteral("tabs")].toInt() != all.size())
+    return QStringLiteral("other tabs than pages");
+  QMap<int, QJsonObject> told;
+  for (const QJsonValue &value : all)
+    told.insert(value.toObject()[QStringLiteral("number")].toInt(), value.toObject());
+  const int wasActive = active_;
+  for (const int number : pages_.keys()) {
+    if (told.contains(number)) continue;
+    const Page page = pages_.take(number);
+    if (deed.kind != Kind::Close || number != wasActive)
+      return Sentence("the page of ", Name(page.path), " is gone");
+    const QString wrong = CheckGone(deed, page, seen);
+    if (!wrong.isEmpty()) return wrong;
+  }
+  for (auto [number, page] : told.asKeyValueRange()) {
+    const Words words = WordsIn(page[QStringLiteral("text")].toString());
+    const QString path = page[QStringLiteral("path")].toString();
+    if (page[QStringLiteral("active")].toBool()) active_ = number;
+    if (!pages_.contains(number)) {
+      if (deed.kind != Kind::New && deed.kind != Kind::Open && deed.kind != Kind::Drop)
+        return QStringLiteral("a page came from nowhere");
+      if (!path.isEmpty() && IsOpen(path)) return Sentence(Name(path), " is open twice");
+      const Content file = files_.value(path);
+      if (words != file.words) return Sentence(Name(path), " is shown with other words");
+      pages_.insert(number, {path, file, file.words, {}, {}, !path.isEmpty() && !IsWritable(path)});
+      continue;
+    }
+    Page &known = pages_[number];
+    if (deed.kind == Kind::Type && number == wasActive)
+      known.shown.words.insert(sent[QStringLiteral("text")].toString());
+    // What is applied takes the page's place, words that the source has not got included.
+    const bool mayApply = deed.kind == Kind::Apply || deed.kind == Kind::CloseSource;
+    if (mayApply && number == wasActive && words == known.source) known.shown.words = words;
+    // Source that was applied, by its button or on the way to a save or an end of the editor.
+    if (number == wasActive && words == known.shown.words + known.typed) {
+      known.shown.words = words;
+      known.typed.clear();
+    }
+    if (words != known.shown.words)
+      return Sentence("page ", std::to_string(number), " shows ", Listed(words), " in place of ",
+                      Listed(known.shown.words));
+    const Words typed = WordsIn(page[QStringLiteral("source")].toString()) - words;
+    const bool mayGo = deed.kind == Kind::EditHtml || deed.kind == Kind::CloseSource;
+    if (!mayGo && !typed.contains(known.typed))
+      return Sentence("typed source is gone: ", Listed(known.typed - typed));
+    known.typed = typed;
+    known.source = WordsIn(page[QStringLiteral("source")].toString());
+    if (path != known.path)
+      return Sentence("page ", std::to_string(number), " says it is ", Name(path), ", it is ",
+                      Name(known.path));
+    const bool isNamed = MayTouchAFile(deed.kind) && number == wasActive && !path.isEmpty();
+    if (isNamed && !page[QStringLiteral("tab")].toString().contains(path.section(u'/', -1)))
+      return Sentence("the tab of ", Name(path), " says ",
+                      page[QStringLiteral("tab")].toString().toStdString());
+  }
+  if (told.isEmpty()) active_ = 0;
+  return {};
+}
+
+QString Model::CheckGone(const Deed &deed, const Page &page, const QJsonObject &seen) {
+  const bool wasAsked = !seen[QStringLiteral("messages")].toArray().isEmpty();
+  if (!page.IsChanged()) {
+    return wasAsked && page.saved == page.shown.words && deed.answer == Deed::Answer::No
+               ? QStringLiteral("a page without changes asked before it closed")
+               : QString();
+  }
+  if (wasAsked && deed.answer == Deed::Answer::No) return {};
+  // Whatever was not asked for, or could not be saved, comes back at the next start.
+  kept_ += page.shown.words - page.saved;
+  return {};
+}
+
+}  // namespace velor
