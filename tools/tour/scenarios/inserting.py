@@ -96,7 +96,8 @@ def pictures_and_tables_are_inserted(tour):
     insert_picture(tour, picture, "file:///" + picture, "15-picture-unsaved")
     caption = next(name for name in program.names(TAB) if name.startswith("Untitled"))
     program.press("Preview", within=program.wait(caption, "frame"))
-    program.wait("Done", "label", program.wait("Preview", "frame"))
+    program.wait(f"Outside of the site and not shown: {picture}", "label",
+                 program.wait("Preview", "frame"))
     copy = os.path.join(tour.folder, caption.replace("Untitled ", "Temp") + ".htm")
     check(f'src="file:///{picture}"' in file_text(copy, "big5"), "the absolute link is not in the page")
     program.shot("16-picture-unsaved-preview")
