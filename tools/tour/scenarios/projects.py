@@ -32,10 +32,15 @@ def a_project_that_moved_is_found_again_and_edited(tour):
     picker = program.wait("Select Folder", WINDOW)
     tree = program.wait("Folder", "tree|table|tree table", picker)
     wait_for(lambda: Program.has_state(tree, Atspi.StateType.FOCUSED), "the folder list's focus")
-    # The picker begins at the home folder, which is the program folder here.
-    program.key("End", "Right", "Right", "Down")
-    chosen = program.wait("Lighthouse", "tree item|table cell", picker)
-    wait_for(lambda: Program.has_state(chosen, Atspi.StateType.SELECTED), "the site's folder to be chosen")
+    # The tree begins at the nearest folder of the old path that is there; a typed path leads anywhere.
+    site = os.path.join(tour.folder, "Sites", "Lighthouse")
+    box = program.wait("Path", "text", picker)
+    Atspi.Component.grab_focus(box)
+    wait_for(lambda: Program.has_state(box, Atspi.StateType.FOCUSED), "the path box's focus")
+    program.key("ctrl+a")
+    program.type(site)
+    wait_for(lambda: Program.has_state(program.wait("Ok", "button|push button", picker),
+                                       Atspi.StateType.ENABLED), "the folder to be taken")
     program.shot("19-folder-picker")
     program.key("Return")
     tour.tab("Home.htm")
