@@ -6,6 +6,7 @@
 #include "platform/Paths.h"
 #include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"
+#include "tests/support/MoreSamples.h"
 #include "tests/support/jet/JetCatalogues.h"
 
 #include <QDir>
@@ -352,14 +353,14 @@ TEST_F(JetRepairs, MoveTheFoldersOfEveryKindOfCatalogue) {
   }
 }
 
-TEST_F(JetRepairs, MoveTheFoldersOfOtherProgramsFiles) {
-  const QString folder =
-      qEnvironmentVariable("VELOR_MORE_CATALOGUES", QStringLiteral(VELOR_MORE_CATALOGUES));
-  if (folder.isEmpty())
-    GTEST_SKIP() << "VELOR_MORE_CATALOGUES names no folder with more catalogues";
-  const QDir samples(folder);
+class OtherProgramsFiles : public JetRepairs, public ::testing::WithParamInterface<std::string> {};
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(OtherProgramsFiles);
+
+TEST_P(OtherProgramsFiles, HaveTheirFoldersMoved) {
+  const QDir samples(QString::fromStdString(GetParam()));
   const QStringList names = samples.entryList({U("*.mdb")}, QDir::Files);
-  EXPECT_FALSE(names.isEmpty()) << folder.toStdString();
+  EXPECT_FALSE(names.isEmpty()) << GetParam();
   for (const QString &name : names) {
     SCOPED_TRACE(name.toStdString());
     connection_.reset();
@@ -370,6 +371,10 @@ TEST_F(JetRepairs, MoveTheFoldersOfOtherProgramsFiles) {
     Check(name == u"idxpath.mdb" ? Folders::Indexed : Folders::Free);
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(JetRepairs, OtherProgramsFiles,
+                         ::testing::ValuesIn(MoreSamples("VELOR_MORE_CATALOGUES",
+                                                         VELOR_MORE_CATALOGUES)));
 
 }  // namespace
 }  // namespace velor

@@ -3,6 +3,7 @@
 #include "tests/engine/ComponentFixture.h"
 #include "tests/engine/PeoplesPages.h"
 #include "tests/support/Checks.h"
+#include "tests/support/MoreSamples.h"
 #include "tools/page-check/PageCheck.h"
 
 #include <QDir>
@@ -218,18 +219,23 @@ TEST_F(ManyPages, OfThisFolderAreSavedWithNothingButTheEdit) {
   EXPECT_GE(tally_.clean * 1000, tally_.edits * 985) << tally_.clean << " of " << tally_.edits;
 }
 
-TEST_F(ManyPages, OfAnotherFolderAreSavedWithNothingButTheEdit) {
-  const QString folder = qEnvironmentVariable("VELOR_MORE_PAGES", QStringLiteral(VELOR_MORE_PAGES));
-  if (folder.isEmpty()) GTEST_SKIP() << "VELOR_MORE_PAGES names no folder with more pages";
-  const QDir pages(folder);
+class PagesOfAnotherFolder : public ManyPages, public ::testing::WithParamInterface<std::string> {};
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(PagesOfAnotherFolder);
+
+TEST_P(PagesOfAnotherFolder, AreSavedWithNothingButTheEdit) {
+  const QDir pages(QString::fromStdString(GetParam()));
   std::uint32_t number = 0;
   for (const QString &name : pages.entryList({QStringLiteral("*.htm*")}, QDir::Files)) {
     if (++number % 5 != 0 && !AsksForAll()) continue;
     tally_.Add(check_.Run(pages.filePath(name), Kind(number / 5), 1));
   }
-  EXPECT_GT(tally_.edits, 0) << qPrintable(folder);
+  EXPECT_GT(tally_.edits, 0) << GetParam();
   EXPECT_GE(tally_.clean * 1000, tally_.edits * 985) << tally_.clean << " of " << tally_.edits;
 }
+
+INSTANTIATE_TEST_SUITE_P(ManyPages, PagesOfAnotherFolder,
+                         ::testing::ValuesIn(MoreSamples("VELOR_MORE_PAGES", VELOR_MORE_PAGES)));
 
 struct Template {
   const char *name;

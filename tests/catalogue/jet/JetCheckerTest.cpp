@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The structural checker finds what is broken, so that its silence means something.
+#include "tests/support/MoreSamples.h"
 #include "tests/support/jet/JetBytes.h"
 #include "tests/support/jet/JetCatalogues.h"
 #include "tests/support/jet/JetChecker.h"
@@ -65,18 +66,24 @@ TEST(JetChecker, FindsNothingWrongWithTheWritersFiles) {
   EXPECT_EQ(Joined(JetComplaints(WriteJetFile(file))), "");
 }
 
-TEST(JetChecker, FindsNothingWrongWithFilesOfOtherPrograms) {
-  const QString path =
-      qEnvironmentVariable("VELOR_MORE_CATALOGUES", QStringLiteral(VELOR_MORE_CATALOGUES));
-  if (path.isEmpty()) GTEST_SKIP() << "VELOR_MORE_CATALOGUES names no folder with more catalogues";
-  const QFileInfoList files = QDir(path).entryInfoList({QStringLiteral("*.mdb")}, QDir::Files);
-  EXPECT_FALSE(files.isEmpty()) << path.toStdString();
+class FilesOfOtherPrograms : public testing::TestWithParam<std::string> {};
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(FilesOfOtherPrograms);
+
+TEST_P(FilesOfOtherPrograms, HaveNothingWrongInThem) {
+  const QDir folder(QString::fromStdString(GetParam()));
+  const QFileInfoList files = folder.entryInfoList({QStringLiteral("*.mdb")}, QDir::Files);
+  EXPECT_FALSE(files.isEmpty()) << GetParam();
   for (const QFileInfo &info : files) {
     QFile file(info.filePath());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(Joined(JetComplaints(file.readAll())), "") << info.fileName().toStdString();
   }
 }
+
+INSTANTIATE_TEST_SUITE_P(JetChecker, FilesOfOtherPrograms,
+                         testing::ValuesIn(velor::MoreSamples("VELOR_MORE_CATALOGUES",
+                                                              VELOR_MORE_CATALOGUES)));
 
 TEST(JetChecker, TheSameDescriptionGivesTheSameBytes) {
   EXPECT_EQ(WornFile(), WornFile());
