@@ -9,8 +9,19 @@ import * as selection from './selection.js';
 
 const noBreak = '\u00a0';
 const lead = (text) => /^[ \t\r\n]*/.exec(text)[0];
-const tail = (text) => /[ \t\r\n]*$/.exec(text)[0];
+// An expression that ends in $ is tried at every place of a text; this looks at its end alone.
+function tail(text) {
+  let from = text.length;
+  while (from > 0 && /[ \t\r\n]/.test(text[from - 1])) from--;
+  return text.slice(from);
+}
 const wordsOf = (text) => text.replace(/[ \t\r\n\u00a0]+/g, '');
+// Looks at the part that differs alone: a key in a text of a megabyte changes little of it.
+function haveSameWords(one, other) {
+  const { head, tail: end } = dom.kept(one, other);
+  const middle = (text) => wordsOf(text.slice(head, text.length - end));
+  return middle(one) === middle(other);
+}
 
 // The texts that a change at the range may reach: those beside it and the ones beside these.
 function textsAt({ startContainer, startOffset, endContainer, endOffset }) {
@@ -78,7 +89,7 @@ function afterTyping(noted, { data }) {
   if (at === null) return null;
   const rest = beside(anchorNode, anchorOffset, 'nextSibling');
   const below = old.slice(at);
-  const hasRest = wordsOf(below) !== '' || below.includes(noBreak);
+  const hasRest = /[^ \t\r\n]/.test(below);
   const ends = !hasRest && (rest === null || endsLine(rest));
   const offset = keepsBlanks(anchorNode) ? at : shownOffset(old, at, !ends);
   // What was held for a blank the engine makes one, where a word follows.
@@ -128,7 +139,7 @@ function afterBreak(noted) {
     ? broken.previousSibling : null;
   const data = old.get(start.node);
   const below = data.slice(start.offset);
-  if (!first || !second || first === second || wordsOf(below) === '') return null;
+  if (!first || !second || first === second || !/[^ \t\r\n\u00a0]/.test(below)) return null;
   const texts = new Map([[first, data.slice(0, start.offset) + lead(below)],
     [second, below.slice(lead(below).length)]]);
   return { texts, caret: { node: second, offset: 0 } };
@@ -173,7 +184,7 @@ export function putBack(noted, input) {
   const plan = planned(noted, input);
   if (!plan) return;
   const texts = [...plan.texts].filter(([node]) => node.isConnected ? !keepsBlanks(node) : true);
-  const fits = ([node, text]) => wordsOf(node.isConnected ? node.data : '') === wordsOf(text);
+  const fits = ([node, text]) => haveSameWords(node.isConnected ? node.data : '', text);
   if (!texts.every(fits)) return;
   let changed = false;
   for (const [node, text] of texts) {
