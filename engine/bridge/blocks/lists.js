@@ -4,7 +4,7 @@
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
-import { holdOpen, prune } from '../page/lines.js';
+import { holdOpen, dropEmptyInline } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { dropInnerLines } from '../page/sourceLines.js';
 import { enclose, itemAround, unitsIn } from '../page/units.js';
@@ -61,20 +61,20 @@ function isolate(group) {
   return list;
 }
 
-// Joins a list with neighbours of its kind.
-function join(list) {
-  const alike = (other) => other?.tagName === list.tagName && dom.isElement(other) &&
-    (dom.sameAttributes(list, other) || !list.attributes.length);
+/** True where the second of two lists beside each other can be joined to the first. */
+export const isContinuation = (first, second) =>
+  dom.isElement(first) && dom.isElement(second) && first.tagName === second.tagName &&
+  (dom.sameAttributes(first, second) || !second.attributes.length);
+
+// Joins a list with the lists beside it that it continues, or that continue it.
+function joinNeighbours(list) {
   const before = dom.neighbour(list, 'previousSibling');
   const after = dom.neighbour(list, 'nextSibling');
-  if (alike(before)) {
+  if (isContinuation(before, list)) {
     dom.absorb(before, list);
     list = before;
   }
-  if (after && dom.isElement(after) && after.tagName === list.tagName &&
-      (dom.sameAttributes(list, after) || !after.attributes.length)) {
-    dom.absorb(list, after);
-  }
+  if (isContinuation(list, after)) dom.absorb(list, after);
   return list;
 }
 
@@ -128,7 +128,7 @@ export function make(units, outer, inner) {
 function convert(group, outer) {
   if (group[0].parentNode.tagName === outer) return;
   adopt(group[0].parentNode);
-  join(dom.rename(isolate(group), outer));
+  joinNeighbours(dom.rename(isolate(group), outer));
 }
 const inOrder = (one, other) =>
   (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1);
@@ -142,12 +142,12 @@ function gather(items, outer) {
       for (let at = list.nextSibling; at !== item; at = list.nextSibling) list.append(at);
       list.append(item);
     } else {
-      if (list) join(list);
+      if (list) joinNeighbours(list);
       list = dom.wrap([item], dom.create(outer));
     }
     last = item;
   }
-  if (last) join(list);
+  if (last) joinNeighbours(list);
 }
 
 // A division that is a line of an item.
@@ -289,8 +289,8 @@ export function split(item) {
   dom.splitBefore(mark, item);
   const below = dom.blockOf(mark);
   const above = below === item.nextSibling ? item : item.lastChild;
-  prune(dom.lastLeaf(above));
-  prune(mark);
+  dropEmptyInline(dom.lastLeaf(above));
+  dropEmptyInline(mark);
   blanks.part(above, below);
   holdOpen(above);
   holdOpen(below);

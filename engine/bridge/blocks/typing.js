@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // What is made ready before the engine types, and typing over selected text.
-import * as deletion from './deletion.js';
+import { deleteRange, deleteToLine, deleteToPoint } from './deletion.js';
+import { narrowSelection } from './extent.js';
 import { formats } from '../formats/formats.js';
 import * as pending from '../formats/pending.js';
 import * as objects from '../objects/objects.js';
@@ -80,11 +81,11 @@ function looksOf(text) {
 
 // Deletes what is selected. What is typed next looks as the first of it did, where it is typed in
 // the same paragraph: its formats wait at the caret. All of the page leaves none.
-export function removeKeepingLooks(range) {
+export function deleteKeepingLooks(range) {
   const [text] = isAll(range) || selection.control(range) ? [] : selection.textsIn(range);
   const looks = text ? looksOf(text) : [];
   const block = text && dom.blockOf(text);
-  deletion.remove(range);
+  deleteToLine(range);
   const caret = selection.range();
   if (!caret || dom.blockOf(caret.startContainer) !== block) return;
   const element = selection.caretElement(caret);
@@ -103,8 +104,8 @@ export function prepare(event) {
     const behind = object?.tagName === 'TABLE' && !isAll(range) && objects.entering(object);
     if (behind) behind();
     const gaveWay = Boolean(behind) || (object && objects.giveWay(object));
-    if (event.inputType === 'insertCompositionText' && !object) removeKeepingLooks(range);
-    else if (!gaveWay) deletion.empty(range);
+    if (event.inputType === 'insertCompositionText' && !object) deleteKeepingLooks(range);
+    else if (!gaveWay) deleteToPoint(range);
   }
   const caret = selection.range();
   const gap = gapAt(caret);
@@ -146,7 +147,7 @@ function put(data, { text, offset }) {
 // engine would write them anew in markup of its own. False where no text is selected.
 export function over(data) {
   if (!data || !selection.range()) return false;
-  deletion.tighten(selection.range());
+  narrowSelection(selection.range());
   const range = selection.range();
   const place = isThere(range) ? { text: goesOn.node, offset: goesOn.offset } : firstText(range);
   if (!place) return false;
@@ -156,7 +157,7 @@ export function over(data) {
   const end = put(data, place);
   if (!range.collapsed) {
     range.setStart(text, end);
-    deletion.clear(range);
+    deleteRange(range);
   }
   selection.setCaret(text, end);
   goesOn = linkAt(text) ? { node: text, offset: end } : null;

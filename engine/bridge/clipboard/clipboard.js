@@ -2,8 +2,8 @@
 // @ts-check
 // Copying, cutting and pasting. What is copied carries full addresses, so that it is of use
 // elsewhere; what comes in is cleaned unless it was copied here.
-import * as deletion from '../blocks/deletion.js';
-import { removeKeepingLooks } from '../blocks/typing.js';
+import { deleteToPoint } from '../blocks/deletion.js';
+import { deleteKeepingLooks } from '../blocks/typing.js';
 import * as addresses from './addresses.js';
 import { cleaned } from './clean.js';
 import { put } from './paste.js';
@@ -61,7 +61,7 @@ function copy(event) {
 function cut(event) {
   const range = copy(event);
   if (!range) return;
-  history.step('deleteByCut', () => removeKeepingLooks(range));
+  history.step('deleteByCut', () => deleteKeepingLooks(range));
   schedulePush();
 }
 
@@ -207,7 +207,7 @@ function move(range, event) {
     // Texts and elements at the place may be joined to others; this stays where it is in them.
     const mark = document.createComment('');
     place.insertNode(mark);
-    if (!event.ctrlKey) deletion.empty(range);
+    if (!event.ctrlKey) deleteToPoint(range);
     const { parentNode } = mark;
     const index = selection.indexOf(mark);
     mark.remove();

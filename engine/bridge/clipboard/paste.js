@@ -2,13 +2,13 @@
 // @ts-check
 // Markup put in at the selection exactly as it stands: scripts, handlers, comments and objects stay
 // in it (nothing of it runs while a page is edited).
-import * as deletion from '../blocks/deletion.js';
+import { deleteRange, deleteToLine } from '../blocks/deletion.js';
 import { emptyHolder } from '../blocks/typing.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
-import { holdOpen, prune } from '../page/lines.js';
+import { holdOpen, dropEmptyInline } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 
 function parse(html) {
@@ -77,8 +77,8 @@ function putBlocks(fragment, node, offset) {
   }
   const [before, after] = cut(node, offset, top);
   before.after(fragment);
-  prune(dom.lastLeaf(before));
-  prune(dom.firstLeaf(after));
+  dropEmptyInline(dom.lastLeaf(before));
+  dropEmptyInline(dom.firstLeaf(after));
   dropIfHollow(before);
   afterBlocks(last, dropIfHollow(after) ? null : after);
 }
@@ -144,8 +144,8 @@ function putInline(fragment, node, offset) {
     // No link stands in another one.
     const [before, after] = cut(node, offset, link);
     before.after(fragment);
-    prune(dom.lastLeaf(before));
-    prune(dom.firstLeaf(after));
+    dropEmptyInline(dom.lastLeaf(before));
+    dropEmptyInline(dom.firstLeaf(after));
   } else {
     putHere(fragment, node, offset);
   }
@@ -168,9 +168,9 @@ function dropTakenIds(fragment) {
 function makeRoom(range, fragment) {
   const object = selection.control(range);
   const gone = object && fragment.firstChild && objects.giveWay(object);
-  if (!gone && !range.collapsed && !fragment.firstChild) deletion.remove(range);
+  if (!gone && !range.collapsed && !fragment.firstChild) deleteToLine(range);
   else if (!gone && !range.collapsed) {
-    const { startContainer, startOffset } = deletion.clear(range);
+    const { startContainer, startOffset } = deleteRange(range);
     selection.setCaret(startContainer, startOffset);
   }
   dropTakenIds(fragment);

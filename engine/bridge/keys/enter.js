@@ -2,7 +2,8 @@
 // @ts-check
 // Enter. The engine splits paragraphs and items; what it would do badly is done here, and what it
 // leaves behind is put in order.
-import * as deletion from '../blocks/deletion.js';
+import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
+import { spansUnits } from '../blocks/extent.js';
 import * as lists from '../blocks/lists.js';
 import * as typing from '../blocks/typing.js';
 import * as inline from '../formats/inline.js';
@@ -29,7 +30,7 @@ function sidesOf(pre, { startContainer, startOffset }) {
 
 // Enter in preformatted text is a line end, but on an empty last line leaves it.
 function breakLine() {
-  if (!selection.range().collapsed) deletion.remove(selection.range());
+  if (!selection.range().collapsed) deleteToLine(selection.range());
   const range = selection.range();
   const pre = preAt(range);
   const [above, below] = sidesOf(pre, range);
@@ -74,7 +75,7 @@ function breakAddress(address) {
 
 // Over selected text Enter first deletes that.
 function replaceSelection() {
-  deletion.empty(selection.range());
+  deleteToPoint(selection.range());
   const own = ownEnter();
   if (own) {
     own();
@@ -117,7 +118,7 @@ function enterInLine(range) {
 export function ownEnter() {
   const range = selection.range();
   if (!range) return null;
-  if (preAt(range) && !deletion.spansUnits(range)) return breakLine;
+  if (preAt(range) && !spansUnits(range)) return breakLine;
   const object = selection.control(range);
   const entering = object && objects.entering(object);
   if (entering) return entering;

@@ -2,7 +2,7 @@
 // @ts-check
 // Input. The engine types; here its input becomes steps of the history, and what it does badly or
 // behind the history's back is done by the bridge.
-import * as deletion from '../blocks/deletion.js';
+import { deletionAtCaret } from '../blocks/caretDeletion.js';
 import * as typing from '../blocks/typing.js';
 import * as pending from '../formats/pending.js';
 import * as blanks from '../page/blanks.js';
@@ -46,8 +46,8 @@ function ownDeletion({ inputType }) {
   const range = selection.range();
   if (!range) return null;
   return range.collapsed
-    ? deletion.joining(range, backward.test(inputType) ? 'start' : 'end')
-    : () => typing.removeKeepingLooks(range);
+    ? deletionAtCaret(range, backward.test(inputType) ? 'start' : 'end')
+    : () => typing.deleteKeepingLooks(range);
 }
 
 // Carries the input out where that is not left to the engine; tells whether it was done.

@@ -2,7 +2,7 @@
 // @ts-check
 // Keys beside islands (`contenteditable="false"`). The engine tells of no input where the selection
 // begins or ends with a closed block, or where there is one in place of a line.
-import * as deletion from '../blocks/deletion.js';
+import { deleteToPoint } from '../blocks/deletion.js';
 import * as typing from '../blocks/typing.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -39,7 +39,7 @@ export function makeWay(event) {
   }
   history.expect('typing', false);
   work(() => {
-    if (!range.collapsed) deletion.empty(range);
+    if (!range.collapsed) deleteToPoint(range);
     const gap = gapAt(selection.range());
     if (gap) typing.makeLine(gap);
   });

@@ -13,7 +13,7 @@
 import * as dom from './dom.js';
 import * as history from './history.js';
 import { beside, charAt, edge, endsLine, isBlank, keepsBlanks } from './beside.js';
-import { prune } from './lines.js';
+import { dropEmptyInline } from './lines.js';
 import * as selection from './selection.js';
 import * as whitespace from './whitespace.js';
 
@@ -76,7 +76,7 @@ export function part(above, below) {
   const first = beside(below, 0, 'nextSibling');
   if (!isBlank(first)) return;
   first.node.deleteData(first.index, 1);
-  prune(first.node);
+  dropEmptyInline(first.node);
   const last = beside(above, above.childNodes.length, 'previousSibling');
   if (last?.node && !isBlank(last)) last.node.insertData(last.index + 1, ' ');
 }

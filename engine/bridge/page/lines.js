@@ -12,8 +12,11 @@ export function holdOpen(block) {
   }
 }
 
-// Takes away a text and the inline elements around it that a deletion left without content.
-export function prune(node) {
+/**
+ * Drops a text that a deletion has left empty, and the inline elements around it that hold nothing
+ * else.
+ */
+export function dropEmptyInline(node) {
   const emptied = (at) => (dom.isText(at) ? !at.length
     : dom.isInline(at) && !dom.isAtom(at) && !dom.isBreak(at) &&
       [...at.childNodes].every((child) => dom.isText(child) && !child.length));

@@ -3,10 +3,10 @@
 // The one table of commands: a published number, the answer whether it applies and what it does.
 // Both look at the same view of the selection, so that enabling and doing cannot drift apart.
 import * as blocks from '../blocks/blocks.js';
-import * as deletion from '../blocks/deletion.js';
+import { deletionAtCaret } from '../blocks/caretDeletion.js';
 import * as indent from '../blocks/indent.js';
 import * as lists from '../blocks/lists.js';
-import { removeKeepingLooks } from '../blocks/typing.js';
+import { deleteKeepingLooks } from '../blocks/typing.js';
 import * as align from '../formats/align.js';
 import { formats } from '../formats/formats.js';
 import * as inline from '../formats/inline.js';
@@ -138,10 +138,10 @@ export const commands = new Map([
     status: always,
     run(value, { range }) {
       if (!range.collapsed) {
-        removeKeepingLooks(range);
+        deleteKeepingLooks(range);
         return;
       }
-      const join = deletion.joining(range, 'end');
+      const join = deletionAtCaret(range, 'end');
       if (join) {
         join();
         return;

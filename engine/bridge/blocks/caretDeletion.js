@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
+// Backspace and Delete at a caret where the engine would do it badly: at the edge of a paragraph,
+// which is joined to its neighbour, and beside a picture, an island and the like.
+import { deleteToLine } from './deletion.js';
+import { cellOf, isAtEdge, isEmptyParagraph, sameUnit, unitAt } from './extent.js';
+import { dropBlock, dropEmptyBlocks, join } from './joining.js';
+import * as lists from './lists.js';
+import * as blanks from '../page/blanks.js';
+import * as dom from '../page/dom.js';
+import { beside } from '../page/beside.js';
+import * as selection from '../page/selection.js';
+import { unitsIn } from '../page/units.js';
+
+// An element without content that takes no room either.
+const isNothing = (node) => dom.isElement(node) && !dom.hasContent(node) &&
+  node.getBoundingClientRect().height * node.getBoundingClientRect().width === 0;
+// Drops what is nothing between two paragraphs, less what may be a link's target.
+/**
+ * @param {Unit} first
+ * @param {Unit} second
+ */
+function dropNothings(first, second) {
+  const range = document.createRange();
+  range.setStartAfter(first.nodes.at(-1) ?? first.container);
+  range.setEndBefore(second.nodes[0] ?? second.container);
+  for (const leaf of [...selection.leavesIn(range)]) {
+    if (isNothing(leaf) && dom.isBlock(leaf) && !leaf.id && !leaf.firstChild) leaf.remove();
+  }
+}
+
+// The nearest shown leaf before or after a node; null at the edge of its cell.
+function leafBeside(node, side) {
+  const cell = cellOf(node);
+  for (let at = node; at && at !== cell; at = at.parentNode) {
+    let near = dom.neighbour(at, side);
+    while (isNothing(near)) near = dom.neighbour(near, side);
+    if (!near) continue;
+    if (near.tagName === 'TABLE') return near;
+    return side === 'previousSibling' ? shownEdge(near, 'lastChild', 'previousSibling')
+      : shownEdge(near, 'firstChild', 'nextSibling');
+  }
+  return null;
+}
+// The outermost leaf that shows something, on one side of a node; a table is one thing.
+function shownEdge(node, child, side) {
+  const isWhole = node.tagName === 'TABLE' || dom.isAtom(node);
+  const inner = isWhole ? null : dom.shownFrom(node[child], side);
+  return inner ? shownEdge(inner, child, side) : node;
+}
+
+const unitOfLeaf = (leaf) =>
+  (dom.isText(leaf) || dom.isBlock(leaf)
+    ? unitAt(leaf, 0) : unitAt(leaf.parentNode, selection.indexOf(leaf)));
+
+// Most carets stand beside a character: no edge is there, however long the paragraph.
+const isWithinText = ({ startContainer: node, startOffset: offset, collapsed }, side) =>
+  collapsed && dom.isText(node) &&
+  (side === 'start' ? node.data.slice(0, offset) : node.data.slice(offset)).trim() !== '';
+
+// The picture, the island and the like beside a caret; null for none.
+function objectBeside({ startContainer, startOffset }, side) {
+  const found = beside(
+    startContainer, startOffset, side === 'start' ? 'previousSibling' : 'nextSibling');
+  return found?.object ?? null;
+}
+function deleteObject(object) {
+  const range = document.createRange();
+  range.selectNode(object);
+  deleteToLine(range);
+}
+
+/**
+ * What a deletion at a caret does where that is not left to the engine; null where it is.
+ * @param {Range} range the caret
+ * @param {'start' | 'end'} side 'start' for Backspace, 'end' for Delete
+ * @returns {(() => void) | null}
+ */
+export function deletionAtCaret(range, side) {
+  if (isWithinText(range, side)) return null;
+  const unit = unitsIn(range)[0];
+  if (!unit || !range.collapsed) return null;
+  const object = objectBeside(range, side);
+  if (object) return () => deleteObject(object);
+  return isAtEdge(range, unit, side) ? deletionAtEdge(unit, side) : null;
+}
+
+function deletionAtEdge(unit, side) {
+  const back = side === 'start';
+  if (back && startsItem(unit)) return () => lists.leave(unit);
+  const edge = unit.block || (back ? unit.nodes[0] : unit.nodes.at(-1)) || unit.container;
+  const leaf = leafBeside(edge, back ? 'previousSibling' : 'nextSibling');
+  if (!leaf || leaf.tagName === 'TABLE') return () => {};
+  if (dom.isBlock(leaf) && dom.isAtom(leaf)) return () => leaf.remove();
+  const other = unitOfLeaf(leaf);
+  if (!other || sameUnit(unit, other)) return null;
+  return back ? () => joinAtCaret(other, unit) : () => joinAtCaret(unit, other);
+}
+
+/** True for the first paragraph of a list item. @param {Unit} unit */
+function startsItem(unit) {
+  const item = lists.itemOf(unit);
+  if (!item) return false;
+  const first = [...item.childNodes].find(dom.isShown);
+  return !first || first === unit.nodes[0] || first === unit.block || item === unit.block;
+}
+
+// The break that is an empty line of bare text, where the run begins or ends with one. An item's
+// or a cell's only line is that item or cell.
+function emptyLine({ block, nodes, container }, side) {
+  const [edge, inner] = side === 'start' ? nodes : [nodes.at(-1), nodes.at(-2)];
+  if (block || lists.isItem(container) || !dom.isBreak(edge)) return null;
+  if (!dom.neighbour(edge, 'previousSibling') && !dom.neighbour(edge, 'nextSibling')) return null;
+  return side === 'start' || !inner || dom.isBreak(inner) ? edge : null;
+}
+
+// White space at the edges that meet would show as a blank.
+function trimEdges(first, second) {
+  blanks.trimEdges(first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null,
+    second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null);
+}
+
+// Joins two paragraphs and puts the caret between them. Where one of the two is an empty line it
+// goes, and the other stays as it is.
+/**
+ * @param {Unit} first
+ * @param {Unit} second
+ */
+function joinAtCaret(first, second) {
+  dropNothings(first, second);
+  const above = emptyLine(first, 'end') ?? (isEmptyParagraph(first) ? first.block : null);
+  const below = emptyLine(second, 'start') ?? (isEmptyParagraph(second) ? second.block : null);
+  // Bare text has the emptied paragraph for its own.
+  const takesIn = !second.block && above?.tagName === 'P';
+  const emptied = takesIn ? null : above ?? below;
+  if (takesIn) above.replaceChildren();
+  if (!emptied) {
+    trimEdges(first, second);
+    selection.setCaret(...selection.pointOf(join(first, second)));
+    return;
+  }
+  const { parentNode } = emptied;
+  dropBlock(emptied);
+  const caret = emptied === above ? selection.startOf(second.nodes[0] ?? second.container)
+    : selection.endOf(first.nodes.at(-1) ?? first.container);
+  dropEmptyBlocks(parentNode);
+  selection.setCaret(...selection.pointOf(caret));
+}

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
+// How far a deletion goes: the paragraphs that a selection begins and ends in, and whether a point
+// is at the edge of one. Nothing here changes the document.
+import * as dom from '../page/dom.js';
+import { keepsBlanks } from '../page/beside.js';
+import * as selection from '../page/selection.js';
+import { heldUnits, unitsIn } from '../page/units.js';
+
+/**
+ * A caret as a range.
+ * @param {Node} node
+ * @param {number} offset
+ * @returns {PlainRange}
+ */
+const caretAt = (node, offset) => ({
+  startContainer: node, startOffset: offset, endContainer: node, endOffset: offset, collapsed: true,
+});
+
+/**
+ * The paragraph that a caret at this point would be in; null where no line is.
+ * @param {Node} node
+ * @param {number} offset
+ * @returns {Unit | null}
+ */
+export const unitAt = (node, offset) => heldUnits(unitsIn(caretAt(node, offset)))[0] ?? null;
+
+/**
+ * @param {Unit | null} one
+ * @param {Unit | null} other
+ */
+export const sameUnit = (one, other) =>
+  one === other || Boolean(one && other && one.container === other.container &&
+    one.nodes[0] === other.nodes[0]);
+
+/** The table cell around a node, else the body: nothing is joined across their edges. */
+export const cellOf = (node) => dom.ancestor(node, dom.isCell) || document.body;
+
+/** True for a paragraph that is nothing but an empty line. @param {Unit} unit */
+export const isEmptyParagraph = (unit) => Boolean(unit.block) && dom.isHollow(unit.block);
+
+/**
+ * The same range with its ends in the blocks that it takes in, so that what stands behind a block
+ * that is selected as a whole stays out of it. A range over all of the page, or over one object, is
+ * answered as it is.
+ * @param {Range} range
+ * @returns {Range}
+ */
+export function narrowed(range) {
+  const { startContainer, startOffset, endContainer, endOffset } = range;
+  const { body } = document;
+  const all = startContainer === body && endContainer === body && startOffset === 0 &&
+    endOffset === body.childNodes.length;
+  if (all || selection.control(range)) return range;
+  const result = range.cloneRange();
+  const enters = (node) => dom.isElement(node) && dom.isBlock(node) && !dom.isAtom(node) &&
+    node.tagName !== 'TABLE' && node.hasChildNodes();
+  const first = () => result.startContainer.childNodes[result.startOffset];
+  const last = () => result.endContainer.childNodes[result.endOffset - 1];
+  while (enters(first())) result.setStart(first(), 0);
+  while (enters(last())) result.setEnd(last(), last().childNodes.length);
+  excludeNextParagraph(result);
+  return result.collapsed ? range : result;
+}
+
+// Whole paragraphs that were selected by three clicks end at the start of the one behind them.
+/** @param {Range} range */
+function excludeNextParagraph(range) {
+  const { startContainer, startOffset, endContainer, endOffset } = range;
+  const first = unitAt(startContainer, startOffset);
+  const behind = unitAt(endContainer, endOffset);
+  if (!first || !behind || sameUnit(first, behind) || isEmptyParagraph(first)) return;
+  if (!isAtEdge(caretAt(startContainer, startOffset), first, 'start')) return;
+  if (!isAtEdge(caretAt(endContainer, endOffset), behind, 'start')) return;
+  const leaf = [...selection.leavesIn(range)]
+    .filter((each) => dom.isShown(each) && !behind.nodes.some((node) => node.contains(each)))
+    .at(-1);
+  if (dom.isText(leaf)) range.setEnd(leaf, leaf.length);
+  else if (leaf) range.setEndAfter(leaf);
+}
+
+/** Moves the selection's ends as `narrowed` says. @param {Range} range the selected one */
+export function narrowSelection(range) {
+  if (range.collapsed) return;
+  const { startContainer, startOffset, endContainer, endOffset } = narrowed(range);
+  document.getSelection().setBaseAndExtent(startContainer, startOffset, endContainer, endOffset);
+}
+
+/** True when the range begins in one paragraph and ends in another. @param {Range} range */
+export function spansUnits(range) {
+  if (range.collapsed || selection.control(range)) return false;
+  const { startContainer, startOffset, endContainer, endOffset } = narrowed(range);
+  return !sameUnit(unitAt(startContainer, startOffset), unitAt(endContainer, endOffset));
+}
+
+// True when something in the range shows. White space does not: the range ends at the edge of a
+// paragraph.
+/** @param {PlainRange} range */
+function showsAnything(range) {
+  const { startContainer, startOffset, endContainer, endOffset } = range;
+  for (const leaf of selection.leavesIn(range)) {
+    if (!dom.isShown(leaf)) continue;
+    if (!dom.isText(leaf)) return true;
+    const from = leaf === startContainer ? startOffset : 0;
+    const text = leaf.data.slice(from, leaf === endContainer ? endOffset : leaf.length);
+    if (text !== '' && (keepsBlanks(leaf) || /[^ \t\n]/.test(text))) return true;
+  }
+  return false;
+}
+
+/**
+ * True when nothing shows between a range and the start or end of the paragraph that it is in.
+ * @param {PlainRange} range
+ * @param {Unit} unit
+ * @param {'start' | 'end'} side
+ */
+export function isAtEdge(range, unit, side) {
+  const [first, last] = [unit.nodes[0], unit.nodes.at(-1)];
+  if (!first) return true;
+  const { indexOf } = selection;
+  const { startContainer, startOffset, endContainer, endOffset } = range;
+  const rest = { startContainer, startOffset, endContainer, endOffset };
+  if (side === 'start') {
+    Object.assign(rest, { startContainer: first.parentNode, startOffset: indexOf(first) });
+  } else {
+    const end = dom.isBreak(last) && last !== first ? last.previousSibling : last;
+    Object.assign(rest, { endContainer: end.parentNode, endOffset: indexOf(end) + 1 });
+  }
+  return !showsAnything(rest) || dom.isHollow(unit.home);
+}

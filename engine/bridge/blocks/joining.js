@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
+// Joining: the content of a paragraph goes to the end of the one before it and takes on that one's
+// looks; the blocks that this leaves empty go. The engine would keep the looks by styled spans.
+import { breakLines } from './blocks.js';
+import * as lists from './lists.js';
+import * as dom from '../page/dom.js';
+import { holdOpen } from '../page/lines.js';
+import * as selection from '../page/selection.js';
+import { dropLine } from '../page/sourceLines.js';
+
+/** Drops a block that is empty, and then the lists and quotes that held nothing else. */
+export function dropEmptyBlocks(block) {
+  while (dom.isElement(block) && !dom.isCell(block) && !dom.hasContent(block)) {
+    const parent = block.parentNode;
+    dropBlock(block);
+    block = parent;
+  }
+}
+
+/**
+ * Drops a block, or the break that is an empty line. Lines of bare text that it kept apart stay
+ * apart; lists of a kind become one.
+ */
+export function dropBlock(block) {
+  const before = dom.neighbour(block, 'previousSibling');
+  const after = dom.neighbour(block, 'nextSibling');
+  const isLine = (node) => node && !dom.isBlock(node) && !dom.isBreak(node);
+  if (dom.isBlock(block) && isLine(before) && isLine(after)) {
+    block.replaceWith(dom.create('BR'));
+  } else {
+    dropLine(block);
+    block.remove();
+  }
+  if (dom.isList(before) && lists.isContinuation(before, after)) dom.absorb(before, after);
+}
+
+// The nodes less the break at their end, which goes.
+/** @param {ChildNode[]} nodes */
+const dropTrailingBreak = (nodes) => {
+  const last = nodes.at(-1);
+  if (dom.isBreak(last)) {
+    last.remove();
+    return nodes.slice(0, -1);
+  }
+  return nodes;
+};
+
+// What the nodes show, as one text that is not in the document yet: for where no markup may stand.
+/** @param {ChildNode[]} nodes */
+function asText(nodes) {
+  const text = document.createTextNode(
+    nodes.map((node) => (dom.isBreak(node) ? '\n' : node.textContent)).join(''));
+  nodes.forEach((node) => node.remove());
+  return text.length ? [text] : [];
+}
+
+// The lists that are all that is left of an item go along into the other one.
+function moveSublists(home, item) {
+  const rest = [...home.childNodes].filter(dom.isShown);
+  const onlyLists = rest.length > 0 && rest.every(dom.isList);
+  if (home.tagName === 'LI' && item && !home.contains(item) && onlyLists) item.append(...rest);
+}
+
+/**
+ * Moves the content of one paragraph to the end of the one before it. Answers the point between the
+ * two.
+ * @param {Unit} first
+ * @param {Unit} second
+ * @param {ChildNode | null} [mark] where the content goes when nothing is left of `first`
+ * @returns {Anchor}
+ */
+export function join(first, second, mark = null) {
+  const left = dropTrailingBreak(first.nodes.filter((node) => node.isConnected));
+  const home = second.container;
+  const leavesPre = dom.isPreformatted(second.block) && !dom.isPreformatted(first.container);
+  if (leavesPre) breakLines(home);
+  const all = leavesPre ? [...home.childNodes] : second.nodes.filter((node) => node.isConnected);
+  const moved = dom.rawAt(first.container) ? asText(all) : all;
+  const last = left.at(-1);
+  const between = last ? selection.endOf(last) : selection.startOf(moved[0] ?? first.container);
+  if (last ?? mark) (last ?? mark).after(...moved);
+  else if (first.container.firstChild) first.container.prepend(...moved);
+  else first.container.append(...moved);
+  moveSublists(home, lists.itemOf(first));
+  dropEmptyBlocks(home);
+  holdOpen(first.container);
+  return between;
+}
