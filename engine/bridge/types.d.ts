@@ -47,8 +47,18 @@ type NodePath = number[];
  */
 interface SourcePlace { name: string; ordinal: number; offset: number }
 
+/** A direction in the document, by the property that leads there. */
+type Side = 'previousSibling' | 'nextSibling';
+
 /** A character of a text. */
-interface Character { node: Text; index: number }
+interface Character { node: Text; index: number; object?: undefined }
+/** What is beside a point in its line: a character or an object; see page/beside.js. */
+type Neighbour = Character | { object: Element; node?: undefined; index?: undefined };
+
+/** A no-break space that stands for a blank; see page/standIns.js. */
+interface StandIn { node: Text; index: number; typed: boolean; was: string; across: Side | null }
+/** A stand-in, and the text that the page has in its place. */
+interface Resolution { node: Text; index: number; text: string }
 
 /** A paragraph of a selection; see page/units.js. */
 interface Unit {
@@ -79,8 +89,8 @@ interface Step {
   seen?: Map<Node, Set<string>>;    // while the step is gathered: what has changed already
   names?: Map<Element, string[]>;   // and the order of attributes that are to be taken off
 }
-/** The selection when the document was at rest, and the blanks that were held then. */
-interface RestPoints extends SelectionPoints { held: unknown }
+/** The selection when the document was at rest, and what is kept along with it. */
+interface RestPoints extends SelectionPoints { along: unknown }
 
 /** The selection as a command sees it; its parts are read when they are asked for, and once only. */
 interface View {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // Lists: made of paragraphs, changed into another kind, moved in and out, taken apart again.
-import * as blanks from '../page/blanks.js';
+import { moveBlankAbove } from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import { holdOpen, dropEmptyInline } from '../page/lines.js';
@@ -291,7 +291,7 @@ export function split(item) {
   const above = below === item.nextSibling ? item : item.lastChild;
   dropEmptyInline(dom.lastLeaf(above));
   dropEmptyInline(mark);
-  blanks.part(above, below);
+  moveBlankAbove(above, below);
   holdOpen(above);
   holdOpen(below);
   selection.setCaret(...selection.pointOf(selection.startOf(below)));

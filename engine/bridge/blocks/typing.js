@@ -11,6 +11,7 @@ import * as dom from '../page/dom.js';
 import { keepsBlanks } from '../page/beside.js';
 import { holdOpen, openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
+import { addTyped, noBreak, resolveAll } from '../page/standIns.js';
 import { enclose, gapAt, unitsIn } from '../page/units.js';
 
 // Input that fills an empty paragraph, so that nothing need keep it open any more.
@@ -36,7 +37,7 @@ function makeParagraph(unit) {
   }
 }
 
-// A paragraph at a place where no line is, as before a table.
+/** A paragraph at a point where no line is, as before a table. @param {Point} point */
 export function makeLine([node, offset]) {
   openParagraph((paragraph) => node.insertBefore(paragraph, node.childNodes[offset] ?? null));
 }
@@ -123,23 +124,30 @@ const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.hre
 
 // Where typing over a part of a link ended: what follows belongs to it, while the engine would go
 // on behind the link.
-let goesOn = null;
-const isThere = ({ collapsed, startContainer, startOffset }) =>
-  collapsed && goesOn?.node === startContainer && goesOn.offset === startOffset;
+/** @type {TextAnchor | null} */
+let linkEnd = null;
+const isInLink = ({ collapsed, startContainer, startOffset }) =>
+  collapsed && linkEnd?.node === startContainer && linkEnd.offset === startOffset;
 
-// The first selected text and the place in it; null where something else comes first.
-function firstText(range) {
-  const [text] = selection.textsIn(range);
-  if (!text || selection.control(range) || isAll(range)) return null;
-  if (text === range.startContainer) return { text, offset: range.startOffset };
+// Where the first selected text begins to be selected; null where something else comes first.
+/** @returns {TextAnchor | null} */
+function firstSelectedText(range) {
+  const [node] = selection.textsIn(range);
+  if (!node || selection.control(range) || isAll(range)) return null;
+  if (node === range.startContainer) return { node, offset: range.startOffset };
   const [leaf] = selection.leavesIn(range);
-  return leaf === text ? { text, offset: 0 } : null;
+  return leaf === node ? { node, offset: 0 } : null;
 }
 
-function put(data, { text, offset }) {
-  const blank = data === ' ' && !keepsBlanks(text);
-  text.insertData(offset, blank ? '\u00a0' : data);
-  if (blank) blanks.hold(text, offset, true);
+// Answers the offset behind what was put in.
+/**
+ * @param {string} data
+ * @param {TextAnchor} at
+ */
+function insertAt(data, { node, offset }) {
+  const blank = data === ' ' && !keepsBlanks(node);
+  node.insertData(offset, blank ? noBreak : data);
+  if (blank) addTyped({ node, index: offset });
   return offset + data.length;
 }
 
@@ -149,18 +157,18 @@ export function over(data) {
   if (!data || !selection.range()) return false;
   narrowSelection(selection.range());
   const range = selection.range();
-  const place = isThere(range) ? { text: goesOn.node, offset: goesOn.offset } : firstText(range);
-  if (!place) return false;
-  const { text } = place;
-  if (!range.collapsed) blanks.release();
+  const start = isInLink(range) ? linkEnd : firstSelectedText(range);
+  if (!start) return false;
+  const { node } = start;
+  if (!range.collapsed) resolveAll();
   blanks.watch();
-  const end = put(data, place);
+  const end = insertAt(data, start);
   if (!range.collapsed) {
-    range.setStart(text, end);
+    range.setStart(node, end);
     deleteRange(range);
   }
-  selection.setCaret(text, end);
-  goesOn = linkAt(text) ? { node: text, offset: end } : null;
+  selection.setCaret(node, end);
+  linkEnd = linkAt(node) ? { node, offset: end } : null;
   return true;
 }
 

@@ -10,6 +10,7 @@ import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import { holdOpen, dropEmptyInline } from '../page/lines.js';
 import * as selection from '../page/selection.js';
+import { resolveAll, splitText } from '../page/standIns.js';
 
 function parse(html) {
   const template = document.createElement('template');
@@ -31,7 +32,7 @@ function cutAt(node, items) {
 // Cuts everything up to `top` at the caret. Returns the two halves.
 function cut(node, offset, top) {
   if (dom.isText(node)) {
-    node = offset === 0 ? node : blanks.split(node, offset);
+    node = offset === 0 ? node : splitText(node, offset);
   } else {
     const mark = document.createTextNode('');
     node.insertBefore(mark, node.childNodes[offset] ?? null);
@@ -107,7 +108,7 @@ function afterNode(node) {
 
 function putHere(fragment, node, offset) {
   if (dom.isText(node)) {
-    const second = offset === 0 ? node : blanks.split(node, offset);
+    const second = offset === 0 ? node : splitText(node, offset);
     if (offset === node.length && second === node) node.after(fragment);
     else second.before(fragment);
     if (!second.length) second.remove();
@@ -178,7 +179,7 @@ function makeRoom(range, fragment) {
 
 // Puts a fragment in the place of the selection.
 export const put = (fragment) => {
-  if (!selection.range().collapsed) blanks.release();
+  if (!selection.range().collapsed) resolveAll();
   house(fragment, selection.range().startContainer);
   if (fragment.firstChild) emptyHolder();
   makeRoom(selection.range(), fragment);

@@ -2,10 +2,10 @@
 // @ts-check
 // Keys: which module of this folder each event goes to.
 import * as pending from '../formats/pending.js';
-import * as blanks from '../page/blanks.js';
 import { isEditable } from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
+import * as standIns from '../page/standIns.js';
 import { exec } from '../talk/commands.js';
 import { selectionMoved } from '../talk/push.js';
 import { compositionEnd } from './composition.js';
@@ -35,7 +35,7 @@ function keyDown(event) {
 
 function selectionChange() {
   pending.selectionMoved();
-  blanks.selectionMoved();
+  standIns.selectionMoved();
   history.selectionMoved();
   selectionMoved();
 }

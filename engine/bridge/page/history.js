@@ -25,8 +25,8 @@ let beyond = { undo: false, redo: false };
 let hooks = null;  // see start
 /** @type {(changes: any[]) => void} */
 let completeStep = () => {};
-/** @type {{ held(): any, reinstate(held: any): void }} */
-let along = { held: () => [], reinstate() {} };
+/** @type {{ current(): unknown, restore(saved: unknown): void }} */
+let along = { current: () => null, restore() {} };
 
 // A long page has very many changes in a step, so they are kept small: classes, not closures.
 class TextChange {
@@ -139,8 +139,9 @@ class ChildChange {
   }
 }
 
-// Where the document was at rest: the selection and the blanks that are held there.
-const rest = () => ({ ...points(), held: along.held() });
+// Where the document is at rest: the selection and what is kept along with it.
+/** @returns {RestPoints} */
+const rest = () => ({ ...points(), along: along.current() });
 
 const begin = (kind, before = rest()) => {
   open = {
@@ -268,7 +269,7 @@ export function amend(change) {
   const wasClosed = undoable.at(-1) === last;
   change();
   observer.takeRecords().forEach(add);
-  last.after = { ...after, held: along.held() };
+  last.after = { ...after, along: along.current() };
   if (wasClosed) {
     last.weight += seal(last.changes.slice(sealed));
     open = null;
@@ -299,7 +300,7 @@ function travel(from, to, way, place) {
   to.push(taken);
   select(taken[place]);
   lastPoints = rest();
-  along.reinstate(taken[place].held);
+  along.restore(taken[place].along);
   hooks.changed();
 }
 
@@ -321,8 +322,8 @@ export function start({ earlier, later, changed, wantBeyond }) {
   });
 }
 
-// Says what else belongs to the selection at a step's ends: `held()` answers it, `reinstate(held)`
-// puts it back.
+// Says what else belongs to the selection at a step's ends: `current()` answers it,
+// `restore(saved)` puts it back.
 export function keepAlong(keeper) { along = keeper; }
 
 // Says what is called at a step's end with its changes, to change what goes with them.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // The document as text: what outerHTML leaves out is put around it.
-import { meantBlanks } from './blanks.js';
+import { blanksAsWritten } from './standIns.js';
 import * as selection from './selection.js';
 
 function doctype({ name, publicId, systemId }) {
@@ -37,7 +37,7 @@ function written(node) {
 }
 
 function markup(root) {
-  const blanks = meantBlanks().filter(({ node }) => root.contains(node));
+  const blanks = blanksAsWritten().filter(({ node }) => root.contains(node));
   if (!firstBreaks(root).length && !blanks.length) return written(root);
   const copy = root.cloneNode(true);
   for (const { node, index, text } of blanks) {

@@ -92,9 +92,9 @@ function afterTyping(noted, { data }) {
   const hasRest = /[^ \t\r\n]/.test(below);
   const ends = !hasRest && (rest === null || endsLine(rest));
   const offset = keepsBlanks(anchorNode) ? at : shownOffset(old, at, !ends);
-  // What was held for a blank the engine makes one, where a word follows.
+  // A stand-in the engine makes a blank, where a word follows.
   const isBlankNow = (index) => data !== ' ' && anchorNode.data[index] === ' ' &&
-    lead(old[index - 1] ?? '') === '' && noted.isHeld({ node: anchorNode, index });
+    lead(old[index - 1] ?? '') === '' && noted.isStandIn({ node: anchorNode, index });
   const above = old.slice(0, offset)
     .replace(/\u00a0/g, (sign, index) => (isBlankNow(index) ? ' ' : sign));
   const behind = old.slice(offset);

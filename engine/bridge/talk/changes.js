@@ -6,9 +6,9 @@
 // The text is known here by the lengths of its pieces: the children of the root and of the elements
 // that are written with much text, which are called branches. A mutation observer says which pieces
 // are to be written anew.
-import { meantBlanks } from '../page/blanks.js';
 import { selectionPaths } from '../page/paths.js';
 import { firstBreaks, serialize, serializeNode } from '../page/serialize.js';
+import { blanksAsWritten } from '../page/standIns.js';
 import { shownGeneration } from './replace.js';
 
 // These write what is in them in ways of their own.
@@ -88,7 +88,7 @@ function whole() {
   branches.clear();
   steps = [];
   revision += 1;
-  blanks = meantBlanks();
+  blanks = blanksAsWritten();
   requestIdleCallback(measureAll);
   return { revision, html: serialize() };
 }
@@ -195,7 +195,7 @@ const sameBlanks = (one, other) => one.length === other.length && one.every(
 export const changes = (known = revision) => {
   if (!observer) return whole();
   note(observer.takeRecords());
-  const now = meantBlanks();
+  const now = blanksAsWritten();
   if (!sameBlanks(now, blanks)) for (const { node } of [...now, ...blanks]) touched.add(node);
   if (known > revision || revision - known > steps.length) return whole();
   if (!branches.size) measureAll();

@@ -15,6 +15,7 @@ import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
+import { resolveAll } from '../page/standIns.js';
 import { changeUnits, heldUnits, unitsIn } from '../page/units.js';
 import { isWorking, work } from '../page/working.js';
 import { schedulePush } from './pace.js';
@@ -213,7 +214,7 @@ export const exec = (number, value = '') => {
     if (command.travel) command.travel();
     else if (command.run) {
       history.step(number, () => {
-        if (!view.range.collapsed) blanks.release();
+        if (!view.range.collapsed) resolveAll();
         command.run(String(value), view);
       });
     }

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The bridge as the program has it, and what only its tests look at.
 import '../../../engine/bridge/api.js';
-import * as blanks from '../../../engine/bridge/page/blanks.js';
 import { formats as blockFormats } from '../../../engine/bridge/blocks/blocks.js';
 import * as dom from '../../../engine/bridge/page/dom.js';
 import * as glyphs from '../../../engine/bridge/objects/glyphs.js';
 import * as history from '../../../engine/bridge/page/history.js';
 import * as beside from '../../../engine/bridge/page/beside.js';
 import * as selection from '../../../engine/bridge/page/selection.js';
+import * as standIns from '../../../engine/bridge/page/standIns.js';
 import { dividePiecesOver } from '../../../engine/bridge/talk/changes.js';
 import { commands, statusOf } from '../../../engine/bridge/talk/commands.js';
 
 globalThis.inside = {
-  beside, blanks, blockFormats, commands, dividePiecesOver, dom, glyphs, history, selection,
-  statusOf,
+  beside, blockFormats, commands, dividePiecesOver, dom, glyphs, history, selection,
+  standIns, statusOf,
 };

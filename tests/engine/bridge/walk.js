@@ -150,13 +150,13 @@
 
   // A no-break space between two words.
   function needlessNoBreak() {
-    const meant = inside.blanks.meantBlanks();
+    const written = inside.standIns.blanksAsWritten();
     const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
     while (walker.nextNode()) {
       const node = walker.currentNode;
       const next = (from) => node.data.indexOf('\u00a0', from);
       for (let at = next(0); at >= 0; at = next(at + 1)) {
-        if (meant.some((place) => place.node === node && place.index === at)) continue;
+        if (written.some((each) => each.node === node && each.index === at)) continue;
         const sides = [inside.beside.beside(node, at, 'previousSibling'),
           inside.beside.beside(node, at + 1, 'nextSibling')];
         if (sides.every((side) => side && !/[\s\u00a0]/.test(side.node?.data[side.index] ?? ''))) {
