@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // What this program does under each name of the suite.
 (() => {
   'use strict';
   const suite = globalThis.velorSuite;
 
   const sizePoints = ['8', '10', '12', '14', '18', '24', '36'];
-  const blockNames = new Map([
+  const blockNames = new Map(/** @type {[tag: string, name: string][]} */ ([
     ['p', 'Paragraph'], ['pre', 'Formatted'], ['address', 'Address'],
     ...[1, 2, 3, 4, 5, 6].map((level) => [`h${level}`, `Heading ${level}`]),
-  ]);
+  ]));
   const known = (value) => (value === undefined ? null : value);
 
   // `value(text)`: a row's value in the program's vocabulary, null for one that it does not have.

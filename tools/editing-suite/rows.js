@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The rows of a suite of editing tests: how they are read, how the selection in their markup is
 // set, and in which one spelling markup is compared.
 (() => {
@@ -16,37 +17,37 @@
       Array.isArray(row) && typeof row[0] === 'string' && Array.isArray(row[1]));
   };
 
-  // A place in the markup: brackets stand in texts, braces between nodes.
-  function placeOf(root, signs, attribute) {
-    const place = document.createRange();
+  // A point in the markup, as a range: brackets stand in texts, braces between nodes.
+  function pointOf(root, signs, attribute) {
+    const point = document.createRange();
     const bearer = root.querySelector(`[${attribute}]`);
     if (bearer) {
-      place.setStart(bearer, Number(bearer.getAttribute(attribute)));
+      point.setStart(bearer, Number(bearer.getAttribute(attribute)));
       bearer.removeAttribute(attribute);
-      return place;
+      return point;
     }
     const walker = document.createTreeWalker(root, NodeFilter.SHOW_TEXT);
     while (walker.nextNode()) {
-      const text = walker.currentNode;
+      const text = /** @type {Text} */ (walker.currentNode);
       const at = text.data.search(signs);
       if (at < 0) continue;
       const between = /[{}]/.test(text.data[at]);
       text.deleteData(at, 1);
-      if (!between) place.setStart(text, at);
+      if (!between) point.setStart(text, at);
       else if (!text.length) {
-        place.setStartBefore(text);
+        point.setStartBefore(text);
         text.remove();
-      } else if (at === 0) place.setStartBefore(text);
-      else if (at === text.length) place.setStartAfter(text);
-      else place.setStartBefore(text.splitText(at));
-      place.collapse(true);
-      return place;
+      } else if (at === 0) point.setStartBefore(text);
+      else if (at === text.length) point.setStartAfter(text);
+      else point.setStartBefore(text.splitText(at));
+      point.collapse(true);
+      return point;
     }
     return null;
   }
   suite.select = (root) => {
-    const start = placeOf(root, /[[{]/, 'data-start');
-    const end = placeOf(root, /[\]}]/, 'data-end');
+    const start = pointOf(root, /[[{]/, 'data-start');
+    const end = pointOf(root, /[\]}]/, 'data-end');
     if (!start || !end) return;
     getSelection().setBaseAndExtent(
       start.startContainer, start.startOffset, end.startContainer, end.startOffset);
@@ -54,19 +55,22 @@
 
   // A colour by its parts, however it is spelled.
   const pen = document.createElement('canvas').getContext('2d');
+  /** @type {(spelled: string) => string} */
   suite.colour = (spelled) => {
     pen.fillStyle = '#000000';
     pen.fillStyle = spelled;
-    return pen.fillStyle;
+    return String(pen.fillStyle);
   };
 
   // Markup in one spelling: styles as the engine writes them, neighbouring texts joined.
   suite.normal = (html) => {
     const parsed = document.createElement('div');
     parsed.innerHTML = html;
-    placeOf(parsed, /[[{]/, 'data-start');
-    placeOf(parsed, /[\]}]/, 'data-end');
-    for (const element of parsed.querySelectorAll('[style]')) {
+    pointOf(parsed, /[[{]/, 'data-start');
+    pointOf(parsed, /[\]}]/, 'data-end');
+    /** @type {NodeListOf<HTMLElement>} */
+    const styled = parsed.querySelectorAll('[style]');
+    for (const element of styled) {
       const { style } = element;
       if (style.color) style.color = suite.colour(style.color);
       if (style.backgroundColor) style.backgroundColor = suite.colour(style.backgroundColor);

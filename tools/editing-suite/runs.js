@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Runs rows, by the bridge's commands or by the engine's own, and compares what is then there, and
 // what was shown before and after, with what the row expects.
 (() => {
@@ -26,6 +27,10 @@
   }
 
   // What the program shows otherwise than the row expects: mixed, on, the value.
+  /**
+   * @param {any[]} question
+   * @param {number} from
+   */
   function differs([name, command, expected], from) {
     const [indeterm, state, value] = expected.slice(from);
     const shown = command.answers();
@@ -63,7 +68,7 @@
   function byEngine([html, todo]) {
     document.designMode = 'off';
     clear('<div contenteditable></div>');
-    const host = document.body.firstChild;
+    const host = /** @type {HTMLElement} */ (document.body.firstChild);
     host.innerHTML = html;
     host.focus();
     suite.select(host);

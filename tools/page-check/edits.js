@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The edits of a page check, each at the place with a number (from 0). An edit answers false where
 // the page has no such place.
 (() => {
@@ -11,7 +12,7 @@
     const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
     const found = [];
     while (walker.nextNode()) {
-      const text = walker.currentNode;
+      const text = /** @type {Text} */ (walker.currentNode);
       if (word.test(text.data) && !text.parentElement.closest(closed)) found.push(text);
     }
     return found;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The characters beside a point, in its line: across inline elements, up to a block or a break.
 import * as dom from './dom.js';
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The lines of the source. A block that was made begins on a line of its own where its neighbours
 // do, with their indentation; what stood there before stays where it is. In a page without line
 // ends between its blocks there are none beside new ones either.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The white space that sets out the source. HTML shows a run of it as one blank or not at all; the
 // engine, when it types or deletes beside such a run, makes no-break spaces of it or takes it away.
 // Here the texts at the caret are noted before the engine changes them, and what was white space of

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // The bridge as the program has it, and what only its tests look at.
 import '../../../engine/bridge/api.js';
 import { formats as blockFormats } from '../../../engine/bridge/blocks/blocks.js';

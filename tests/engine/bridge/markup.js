@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Reads and writes a selection in markup: "^" is the anchor, "|" the focus, a "|" alone the caret.
 (() => {
   'use strict';
@@ -6,8 +7,9 @@
   const locate = (sign) => {
     const walker = document.createTreeWalker(document.documentElement, NodeFilter.SHOW_TEXT);
     while (walker.nextNode()) {
-      const offset = walker.currentNode.data.indexOf(sign);
-      if (offset >= 0) return { node: walker.currentNode, offset };
+      const node = /** @type {Text} */ (walker.currentNode);
+      const offset = node.data.indexOf(sign);
+      if (offset >= 0) return { node, offset };
     }
     return null;
   };

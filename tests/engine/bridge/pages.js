@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Pages at random, from a seed: everything that people's pages are made of, in the dialect of the
 // document that asks, each word another one so that a lost one is missed.
 (() => {
@@ -32,8 +33,10 @@
       ['a', 'href="x.htm"'], ['ins', 'cite="y.htm"'], ['del', '']],
   };
   const likes = { strong: 'b', em: 'i' };
+  /** @type {(element: string[]) => string} */
   const kindOf = ([tag, attribute = '']) => (likes[tag] ?? tag) + attribute.split(/[:=]/)[0];
 
+  /** @type {(element: string[], inside: string) => string} */
   const tagged = ([tag, attributes = ''], inside) =>
     `<${tag}${attributes && ` ${attributes}`}>${inside}</${tag}>`;
 
@@ -95,6 +98,7 @@
       caption + tagged(['tbody'], some(2, row)));
   }
 
+  /** @type {[weight: number, make: (depth: number) => string][]} */
   const kinds = [
     [8, () => tagged(['p', looks()], lineOrNone())],
     [3, () => tagged([`h${1 + below(4)}`, looks()], lineOrNone())],

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Carries out every command on a page and tells which of them broke a rule that holds for all.
 (() => {
   'use strict';
 
   const table = '<table><tbody><tr><td>x</td></tr></tbody></table>';
+  /** @type {[call: string, ...values: any[]][]} */
   const changes = [
     ['exec', 5000], ['exec', 5023], ['exec', 5048], ['exec', 5024], ['exec', 5030], ['exec', 5051],
     ['exec', 5018], ['exec', 5031], ['exec', 5004], ['exec', 5043, 'Heading 2'],
@@ -35,7 +37,7 @@
     const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
     const found = [];
     while (walker.nextNode()) {
-      const text = walker.currentNode;
+      const text = /** @type {Text} */ (walker.currentNode);
       const formats = formatsOf(text);
       if (found.at(-1)?.formats === formats) found.at(-1).text += text.data;
       else found.push({ formats, text: text.data });

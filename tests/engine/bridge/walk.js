@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // A walk at random over a page: a selection, a step, and what must be true after it, whatever the
 // step was; and all of it back to the loaded page and on again.
 (() => {
@@ -116,6 +117,7 @@
     return found;
   }
 
+  /** @type {(anchor: any[], focus: any[]) => void} */
   const put = ([anchor, from], [focus, to]) =>
     document.getSelection().setBaseAndExtent(anchor, from, focus, to);
 
@@ -153,7 +155,7 @@
     const written = inside.standIns.blanksAsWritten();
     const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
     while (walker.nextNode()) {
-      const node = walker.currentNode;
+      const node = /** @type {Text} */ (walker.currentNode);
       const next = (from) => node.data.indexOf('\u00a0', from);
       for (let at = next(0); at >= 0; at = next(at + 1)) {
         if (written.some((each) => each.node === node && each.index === at)) continue;
@@ -171,7 +173,9 @@
     const faults = markup.faults().split(', ').filter(Boolean);
     // Old pages have no other means for these.
     const allowed = /^background-color|^font-weight|^font-style/;
-    const styled = [...document.querySelectorAll('body [style]')].filter((element) =>
+    /** @type {NodeListOf<HTMLElement>} */
+    const elements = document.querySelectorAll('body [style]');
+    const styled = [...elements].filter((element) =>
       [...element.style].some((property) => !allowed.test(property)));
     if (inside.dom.writesStyles()) {
       if (document.querySelector('font, [align]')) faults.push('a FONT or align in an HTML5 page');

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
 // Counts what the bridge does with the page's nodes: every step from node to node, every node of a
 // list that it goes through, every computed style. Strings that are made of nodes count by length.
 (() => {
@@ -42,8 +43,8 @@
   globalThis.work = {
     // The program is told of the text in idle time, at a moment of its own.
     begin() {
-      globalThis.requestIdleCallback = () => {};
-      velor.host = { pushState() {}, pushMirror() {}, inputArrived() {} };
+      globalThis.requestIdleCallback = () => 0;
+      velor.host = /** @type {any} */ ({ pushState() {}, pushMirror() {}, inputArrived() {} });
       velor.start({});
     },
     reset() { count = 0; },
@@ -53,11 +54,12 @@
       const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
       const texts = [];
       while (walker.nextNode()) {
-        if (walker.currentNode.data.trim()) texts.push(walker.currentNode);
+        const text = /** @type {Text} */ (walker.currentNode);
+        if (text.data.trim()) texts.push(text);
       }
-      const text = texts[texts.length >> 1];
-      getSelection().collapse(text, text.length >> 1);
-      work.text = text;
+      const middle = texts[texts.length >> 1];
+      getSelection().collapse(middle, middle.length >> 1);
+      work.text = middle;
     },
     selectWord() {
       const { text } = work;
