@@ -19,7 +19,7 @@ constexpr int ArrowWidth = 12;
 }  // namespace
 
 ColorPicker::ColorPicker(const QString &iconKey, QWidget *parent)
-    : QToolButton(parent), panel_(new ColorPalette(this)) {
+    : QToolButton(parent), iconKey_(iconKey), panel_(new ColorPalette(this)) {
   setIcon(IconFor(iconKey));
   setAutoRaise(true);
   setFocusPolicy(Qt::TabFocus);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QString>
 #include <QToolButton>
 
 #include <cstdint>
@@ -22,6 +23,7 @@ class ColorPicker final : public QToolButton {
 
   ColorPicker(const QString &iconKey, QWidget *parent);
 
+  QString IconKey() const { return iconKey_; }
   std::int32_t Color() const { return color_; }
   /// Shows a colour; tells nobody.
   void SetColor(std::int32_t color);
@@ -40,6 +42,7 @@ class ColorPicker final : public QToolButton {
   void Choose(const QColor &color);
   void AskForCustom();
 
+  const QString iconKey_;
   std::int32_t color_ = 0;
   std::vector<QColor> recent_;
   ColorPalette *panel_;

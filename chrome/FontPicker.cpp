@@ -6,12 +6,14 @@
 #include <QFocusEvent>
 #include <QFontDatabase>
 #include <QHash>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStringList>
 #include <QStyledItemDelegate>
+#include <QWheelEvent>
 
 namespace velor {
 namespace {
@@ -82,7 +84,10 @@ FontPicker::FontPicker(QWidget *parent) : QComboBox(parent) {
   completer()->setCompletionMode(QCompleter::InlineCompletion);
   completer()->setCaseSensitivity(Qt::CaseInsensitive);
   connect(this, &QComboBox::activated, this, [this](int index) { Choose(itemText(index)); });
-  connect(lineEdit(), &QLineEdit::returnPressed, this, [this] { Choose(currentText()); });
+  connect(lineEdit(), &QLineEdit::returnPressed, this, [this] {
+    Choose(currentText());
+    Q_EMIT Done();
+  });
 }
 
 void FontPicker::Initialise() {
@@ -96,8 +101,10 @@ void FontPicker::Initialise() {
 void FontPicker::SetFontName(const QString &name) {
   const QSignalBlocker silence(this);
   shown_ = name;
-  setCurrentIndex(findText(name, Qt::MatchFixedString));
-  setEditText(name);
+  const int index = findText(name, Qt::MatchFixedString);
+  setCurrentIndex(index);
+  // An installed font is shown as the list spells it: pages give names in any letter case.
+  setEditText(index < 0 ? name : itemText(index));
   lineEdit()->setCursorPosition(0);
 }
 
@@ -106,6 +113,25 @@ void FontPicker::Choose(const QString &name) {
   if (name.isEmpty() || name == shown_) return;
   SetFontName(name);
   Q_EMIT FontChosen(name);
+}
+
+void FontPicker::hidePopup() {
+  const bool wasOpen = view()->isVisible();
+  QComboBox::hidePopup();
+  if (wasOpen) Q_EMIT Done();
+}
+
+void FontPicker::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_Escape) {
+    SetFontName(shown_);
+    Q_EMIT Done();
+  } else {
+    QComboBox::keyPressEvent(event);
+  }
+}
+
+void FontPicker::wheelEvent(QWheelEvent *event) {
+  event->ignore();
 }
 
 void FontPicker::focusOutEvent(QFocusEvent *event) {

@@ -20,12 +20,18 @@ class FontPicker final : public QComboBox {
   /// Shows a name; tells nobody.
   void SetFontName(const QString &name);
 
+  void hidePopup() override;
+
  Q_SIGNALS:
   /// The person chose or typed a name.
   void FontChosen(const QString &name);
+  /// The person is done with the box: a name was chosen, or Escape pressed.
+  void Done();
 
  protected:
   void focusOutEvent(QFocusEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
+  void wheelEvent(QWheelEvent *event) override;
 
  private:
   void Choose(const QString &name);

@@ -28,6 +28,16 @@ class ChildWindows {
   virtual void Hide(QWidget *window) = 0;
   /// Lets go of an adopted window that is closing: its frame vanishes. The window deletes itself.
   virtual void Release(QWidget *window) = 0;
+  /// The window in front; null when none is open.
+  virtual QWidget *Current() const = 0;
+};
+
+/// What a tab tells of its page beside the caption.
+struct TabState {
+  /// The page's file as people read paths; empty where it has none.
+  QString path;
+  /// The page, or its source editor, holds what no file has.
+  bool hasChanges = false;
 };
 
 /// The page tabs `FileTab`: one a page, under the key "key" and the page number. Unknown keys raise
@@ -40,6 +50,7 @@ class TabStrip {
   /// `image` counts from 1 in the strip's image list.
   virtual void Add(const QString &key, int image) = 0;
   virtual void SetCaption(const QString &key, const QString &caption) = 0;
+  virtual void SetState(const QString &key, const TabState &state) = 0;
   virtual void Select(const QString &key) = 0;
   virtual void Remove(const QString &key) = 0;
   virtual void Clear() = 0;
@@ -66,6 +77,8 @@ class FormatDisplay {
   virtual void ShowForeColor(const QString &htmlColor) = 0;
   virtual void ShowBlockFormat(const QString &name) = 0;
   virtual void ShowFontSize(const QString &points) = 0;
+  /// Nothing that can be formatted is in front: buttons and boxes are off and empty.
+  virtual void ShowNothing() = 0;
 };
 
 /// The status bar `Sta`.
@@ -76,8 +89,13 @@ class StatusDisplay {
   virtual void ShowTag(const QString &tag) = 0;
   /// How the page's bytes stand for its text, beside the tag; empty without a page.
   virtual void ShowTextForm(const QString &words) = 0;
-  /// A notice that gives way to the tag after ten seconds.
+  /// A notice about what is in front. It gives way to the tag after ten seconds, and when another
+  /// page comes to the front.
   virtual void Report(const QString &message) = 0;
+  /// Likewise about a page that may not be in front yet. An empty text takes back the last notice.
+  virtual void ReportOn(int page, const QString &message) = 0;
+  /// Whether a notice stands there now.
+  virtual bool HasNotice() const = 0;
 };
 
 /// Which menus and toolbar buttons can be used.
@@ -88,7 +106,7 @@ class CommandAvailability {
   virtual void SetPageCommandsEnabled(bool enabled) = 0;
   /// The action that opens the source editor.
   virtual void SetSourceEditingEnabled(bool enabled) = 0;
-  /// Brings all of it in step with the open pages; called when the preview gives way.
+  /// Brings all of it in step with the open pages and with what is in front.
   virtual void Refresh() = 0;
 };
 

@@ -104,9 +104,9 @@ void OutsideChanges::Look() {
           "%1 was changed by another program and is loaded again; Undo brings back what was here"));
     }
   } catch (const RuntimeError &error) {
-    return context_.mainWindow.status.Report(
-        QStringLiteral("%1 was changed by another program and cannot be read: %2")
-            .arg(Name(), error.Description()));
+    return context_.mainWindow.status.ReportOn(
+        page_.Number(), QStringLiteral("%1 was changed by another program and cannot be read: %2")
+                            .arg(Name(), error.Description()));
   }
   text_->setText(QStringLiteral("%1 was changed by another program, and has unsaved changes here.")
                      .arg(Name()));
@@ -156,6 +156,7 @@ void OutsideChanges::TakeFile() {
   if (alive == nullptr) return;
   context_.pages.Record(number).SavedHTML = html;
   page_.Journal().MarkSaved();
+  page_.ShowTab();
 }
 
 void OutsideChanges::KeepOwnText() {
@@ -186,7 +187,7 @@ void OutsideChanges::Compare() {
 }
 
 void OutsideChanges::Report(const QString &message) const {
-  context_.mainWindow.status.Report(message.arg(Name()));
+  context_.mainWindow.status.ReportOn(page_.Number(), message.arg(Name()));
 }
 
 QString OutsideChanges::Name() const {

@@ -151,6 +151,15 @@ void frmBrowser::ButtonClicked(const QString &key) {
   }
 }
 
+QString frmBrowser::ShownName() const {
+  if (page_ == 0) return windowTitle();
+  return QStringLiteral("%1, %2").arg(PageName(context_, page_), windowTitle());
+}
+
+void frmBrowser::OnActivated() {
+  ShowPageWithoutFormats(context_, page_);
+}
+
 void frmBrowser::MarkKill() {
   Tag = QStringLiteral("kill");
   PendingAction = QStringLiteral("kill");

@@ -3,6 +3,7 @@
 
 #include "chrome/ProgramWindow.h"
 #include "editor/EditorContext.h"
+#include "editor/FrontWindow.h"
 #include "platform/Browser.h"
 
 #include <QRect>
@@ -34,7 +35,10 @@ frmBrowser &PreviewWindow(EditorContext &context);
 
 /// The preview: a page as a web browser shows it. Made on first use and then kept; closing hides
 /// it.
-class frmBrowser : public QWidget, public ProgramWindow, private BrowserListener {
+class frmBrowser : public QWidget,
+                   public ProgramWindow,
+                   public FrontWindow,
+                   private BrowserListener {
   Q_OBJECT
 
  public:
@@ -49,6 +53,18 @@ class frmBrowser : public QWidget, public ProgramWindow, private BrowserListener
 
   /// Carries out a toolbar button: "Back", "Forward", "Refresh", "Stop"; other keys do nothing.
   void ButtonClicked(const QString &key);
+
+  /// Takes the slot of the page that is shown from now on; 0 for a text that no page holds.
+  void SetPage(int number) { page_ = number; }
+
+  // FrontWindow
+  FrontView View() const override { return FrontView::Preview; }
+  int PageNumber() const override { return page_; }
+  QString ShownName() const override;
+  QString FilePath() const override { return PagePath(context_, page_); }
+  /// What is looked at here is not edited.
+  void Edit(EditingCommand) override {}
+  void OnActivated() override;
 
   void MarkKill() override;
 
@@ -70,6 +86,7 @@ class frmBrowser : public QWidget, public ProgramWindow, private BrowserListener
 
   EditorContext &context_;
   std::unique_ptr<Browser> browser_;
+  int page_ = 0;
   QToolBar *toolBar_ = nullptr;
   QStatusBar *sta_ = nullptr;
   QLabel *statusText_ = nullptr;

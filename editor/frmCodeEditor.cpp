@@ -4,6 +4,7 @@
 #include "chrome/Icons.h"
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
+#include "editor/SourceWrap.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
@@ -56,6 +57,7 @@ frmCodeEditor::frmCodeEditor(EditorContext &context, int number)
   code_->SetColor(27, Grey);
   code_->SetColor(26, White);
   code_->SetMarkedLine(0);
+  code_->SetLineWrap(ChosenLineWrap(context_.platform.registry));
   code_->SetSelectionListener([this] { SelectionChanged(); });
   code_->SetTextListener([this] { TellJournal(); });
 }
@@ -67,7 +69,10 @@ std::optional<QString> frmCodeEditor::UnappliedText() const {
 }
 
 void frmCodeEditor::TellJournal() {
-  if (frmMain *page = context_.pages.Page(number_)) page->Journal().SourceChanged();
+  frmMain *page = context_.pages.Page(number_);
+  if (page == nullptr) return;
+  page->Journal().SourceChanged();
+  page->ShowTab();
 }
 
 void frmCodeEditor::Fill(const QString &source, const ElementPlaces &caret) {
@@ -100,18 +105,33 @@ void frmCodeEditor::SelectionChanged() {
   if (caret.column > length && code_->SelectedText().isEmpty()) code_->SetCaret(caret.line, length);
 }
 
-void frmCodeEditor::Apply() {
+bool frmCodeEditor::Apply() {
   const QPointer<frmCodeEditor> alive(this);
   context_.platform.runtime.ProcessPendingEvents();
-  if (alive == nullptr) return;
+  if (alive == nullptr) return false;
   Dialogs &dialogs = context_.platform.dialogs;
   const std::int16_t result = ApplyCode();
-  if (result == 0) return;
+  if (alive == nullptr) return false;
+  code_->SetFocus();
+  if (result == 0) return true;
   Message failure;
   failure.text = Description(result);
   failure.title = QStringLiteral("Error Number: %1").arg(result);
   failure.icon = MessageIcon::Critical;
   dialogs.ShowMessage(failure);
+  return false;
+}
+
+QString frmCodeEditor::ShownName() const {
+  return QStringLiteral("%1, HTML source").arg(PageName(context_, number_));
+}
+
+void frmCodeEditor::Edit(EditingCommand command) {
+  code_->Edit(command);
+}
+
+void frmCodeEditor::OnActivated() {
+  ShowPageWithoutFormats(context_, number_);
 }
 
 std::int16_t frmCodeEditor::ApplyCode() {
@@ -130,6 +150,7 @@ std::int16_t frmCodeEditor::ApplyCode() {
     context_.pages.SetAsideSource(number_).reset();
     TellJournal();
     ReturnCaret();
+    if (frmMain *window = context_.pages.Page(number_)) window->RefreshSourceView();
     return 0;
   } catch (const RuntimeError &error) {
     return CInt(static_cast<double>(error.Code()));

@@ -3,6 +3,7 @@
 
 #include "chrome/ProgramWindow.h"
 #include "editor/EditorContext.h"
+#include "editor/FrontWindow.h"
 #include "editor/SourceCaret.h"
 #include "platform/SourceControl.h"
 
@@ -21,7 +22,7 @@ namespace velor {
 /// Document". While it is open (the page record's EditorOpen) the page cannot be closed. The
 /// buttons of `tbrGeneral` and the tabs of `tabCode` do nothing; the source control's own keys are
 /// the editing commands.
-class frmCodeEditor : public QWidget, public ProgramWindow {
+class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   Q_OBJECT
 
  public:
@@ -53,6 +54,18 @@ class frmCodeEditor : public QWidget, public ProgramWindow {
   /// the text without one. A Tag that names no page raises SubscriptOutOfRange (9).
   std::int16_t ApplyCode();
 
+  /// `cmdApply`: ApplyCode, and a message where it fails. The keyboard is in the source after it,
+  /// the caret where it was. Whether the page has the source now.
+  bool Apply();
+
+  // FrontWindow
+  FrontView View() const override { return FrontView::SourceEditor; }
+  int PageNumber() const override { return number_; }
+  QString ShownName() const override;
+  QString FilePath() const override { return PagePath(context_, number_); }
+  void Edit(EditingCommand command) override;
+  void OnActivated() override;
+
   void MarkKill() override;
 
  protected:
@@ -70,8 +83,7 @@ class frmCodeEditor : public QWidget, public ProgramWindow {
   QWidget *BuildMain();
   QWidget *BuildStatus();
 
-  /// `cmdApply`: ApplyCode, and a message where it fails.
-  void Apply();
+  void PopUpMenu(QPoint place);
   CloseDecision AskBeforeClosing();
   /// Keeps the caret within its line and tells where it stands.
   void SelectionChanged();

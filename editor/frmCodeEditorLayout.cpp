@@ -4,11 +4,14 @@
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
 #include "editor/SourceFindBar.h"
+#include "editor/SourceWrap.h"
 #include "editor/frmCodeEditor.h"
+#include "platform/Platform.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>
@@ -46,6 +49,23 @@ constexpr std::array<ToolRow, 12> Tools{{
 }};
 constexpr std::array<QStringView, 7> Tabs{u"Standard", u"Forms",  u"Fonts",  u"Lists",
                                           u"Scripts",  u"Frames", u"Advance"};
+
+/// The source's own context menu; a row without a caption is a separator.
+struct MenuEntry {
+  QStringView caption;
+  EditingCommand command = EditingCommand::Undo;
+};
+constexpr std::array<MenuEntry, 9> MenuEntries{{
+    {u"&Undo", EditingCommand::Undo},
+    {u"&Redo", EditingCommand::Redo},
+    {},
+    {u"Cu&t", EditingCommand::Cut},
+    {u"&Copy", EditingCommand::Copy},
+    {u"&Paste", EditingCommand::Paste},
+    {u"&Delete", EditingCommand::Delete},
+    {},
+    {u"Select &All", EditingCommand::SelectAll},
+}};
 
 /// Nothing lies in the side panel, so it takes no room.
 constexpr int ToolsWidth = 0;
@@ -98,7 +118,7 @@ QWidget *frmCodeEditor::BuildTop() {
   auto *cmdApply = new QPushButton(QStringLiteral("Apply to Document"));
   cmdApply->setObjectName(QStringLiteral("cmdApply"));
   cmdApply->setAccessibleName(cmdApply->text());
-  cmdApply->setToolTip(QStringLiteral("Write the source back into the page"));
+  cmdApply->setToolTip(QStringLiteral("Write the source back into the page (Ctrl+Return)"));
   connect(cmdApply, &QPushButton::clicked, this, &frmCodeEditor::Apply);
 
   auto *tabCode = new QTabBar;
@@ -143,11 +163,40 @@ QWidget *frmCodeEditor::BuildMain() {
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, this, act);
   };
+  onKey(Qt::CTRL | Qt::Key_Return, [this] { Apply(); });
+  onKey(Qt::CTRL | Qt::Key_Enter, [this] { Apply(); });
   onKey(Qt::CTRL | Qt::Key_F, [=] { findBar->Open(SourceFindBar::Purpose::Find); });
   onKey(Qt::CTRL | Qt::Key_H, [=] { findBar->Open(SourceFindBar::Purpose::Replace); });
   onKey(Qt::Key_F3, [=] { findBar->FindOn(SearchDirection::Forward); });
   onKey(Qt::SHIFT | Qt::Key_F3, [=] { findBar->FindOn(SearchDirection::Backward); });
+  code_->Widget()->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(code_->Widget(), &QWidget::customContextMenuRequested, this, &frmCodeEditor::PopUpMenu);
   return picMain;
+}
+
+void frmCodeEditor::PopUpMenu(QPoint place) {
+  auto *menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (const MenuEntry &entry : MenuEntries) {
+    if (entry.caption.isEmpty()) {
+      menu->addSeparator();
+      continue;
+    }
+    menu->addAction(entry.caption.toString(), this,
+                    [this, command = entry.command] { Edit(command); });
+  }
+  menu->addSeparator();
+  QAction *apply = menu->addAction(QStringLiteral("Apply to Document"), this, [this] { Apply(); });
+  apply->setShortcut(Qt::CTRL | Qt::Key_Return);
+  QAction *wrap = menu->addAction(QStringLiteral("&Wrap Lines"));
+  wrap->setCheckable(true);
+  wrap->setChecked(ChosenLineWrap(context_.platform.registry) == LineWrap::On);
+  connect(wrap, &QAction::toggled, this, [this](bool on) {
+    const LineWrap chosen = on ? LineWrap::On : LineWrap::Off;
+    ChooseLineWrap(context_.platform.registry, chosen);
+    code_->SetLineWrap(chosen);
+  });
+  menu->popup(code_->Widget()->mapToGlobal(place));
 }
 
 QWidget *frmCodeEditor::BuildStatus() {

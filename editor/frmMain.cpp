@@ -10,6 +10,7 @@
 #include "editor/OpenPages.h"
 #include "editor/OutsideChanges.h"
 #include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Dialogs.h"
 #include "platform/Platform.h"
@@ -39,8 +40,8 @@ struct QuickButtonRow {
 
 /// The mode toolbar; positions count from 1, the separator included.
 constexpr std::array<QuickButtonRow, 7> QuickButtons{{
-    {u"design", u"Design", u"Design Mode", ButtonKind::Click},
-    {u"viewcode", u"View HTML", u"View HTML", ButtonKind::Click},
+    {u"design", u"Design", u"Design Mode", ButtonKind::Toggle},
+    {u"viewcode", u"View HTML", u"View HTML", ButtonKind::Toggle},
     {u"editcode", u"Edit HTML", u"Edit HTML", ButtonKind::Click},
     {u"preview", u"Preview", u"Preview", ButtonKind::Click},
     {},  // separator
@@ -105,6 +106,7 @@ frmMain::frmMain(EditorContext &context, int number)
   component_->SetSnapToGrid(
       TruthOption(context_, QStringLiteral("SnapToGrid"), QStringLiteral("True")));
   QuickButton(u"snap")->ShowChecked(component_->SnapToGrid());
+  QuickButton(u"design")->ShowChecked(true);
   source_->SetColor(1, Grey);
   source_->SetColor(27, Grey);
   source_->SetColor(26, White);
@@ -193,14 +195,26 @@ void frmMain::CheckAcc() {
 void frmMain::OnActivated() {
   CheckAcc();
   HoldNameInDialog(context_, *this);
-  context_.mainWindow.status.ShowTextForm(component_->TextForm());
+  ShowState();
   try {
     context_.mainWindow.tabs.Select(PageKey(number_));
+    ShowTab();
   } catch (const RuntimeError &) {
     // The window outlives its tab for a moment while it closes, and its tab may not be there yet.
   }
   if (TruthOption(context_, QStringLiteral("showtoolbox"), QStringLiteral("True"))) {
     context_.mainWindow.requests.ResetElementInspection();
+  }
+}
+
+void frmMain::ShowTab() {
+  const frmCodeEditor *editor = context_.pages.CodeEditor(number_);
+  const bool hasSource = editor != nullptr && editor->UnappliedText().has_value();
+  try {
+    context_.mainWindow.tabs.SetState(PageKey(number_),
+                                      {FilePath(), hasSource || journal_.HasChanges()});
+  } catch (const RuntimeError &) {
+    // The tab may not be there yet, or not any more.
   }
 }
 
@@ -220,7 +234,7 @@ void frmMain::closeEvent(QCloseEvent *event) {
 }
 
 void frmMain::DocumentComplete() {
-  context_.mainWindow.status.ShowTextForm(component_->TextForm());
+  if (IsInFront()) ShowState();
   journal_.DocumentChanged();
   if (PendingAction != QStringLiteral("gethtml")) return;
   // A load completes right after its page is made, so that this is the slot made last. Where files
@@ -228,23 +242,21 @@ void frmMain::DocumentComplete() {
   context_.pages.Record(number_).SavedHTML = component_->DocumentHTML();
   journal_.MarkSaved();
   PendingAction.clear();
+  ShowTab();
 }
 
 void frmMain::DisplayChanged() {
-  if (Ready != QStringLiteral("True")) return;
-  RefreshMfrm();
-  DynaLink();
-  // Undo past an applied source brings back what the bytes were before.
-  context_.mainWindow.status.ShowTextForm(component_->TextForm());
+  if (Ready == QStringLiteral("True") && IsInFront()) ShowState();
 }
 
 void frmMain::MemoryChanged() {
   journal_.DocumentChanged();
+  ShowTab();
   const bool isReadOnly = context_.pages.Record(number_).ReadOnly != False16;
   if (!isReadOnly || isReadOnlyTold_ || !journal_.HasChanges()) return;
   isReadOnlyTold_ = true;
-  context_.mainWindow.status.Report(
-      QStringLiteral("This file is read-only: Save As keeps your changes"));
+  context_.mainWindow.status.ReportOn(
+      number_, QStringLiteral("This file is read-only: Save As keeps your changes"));
 }
 
 void frmMain::ContextMenuRequested(QPoint screenPosition) {
@@ -257,7 +269,7 @@ void frmMain::MouseNotified(int clientX, int clientY) {
 }
 
 void frmMain::ComponentReported(const QString &message) {
-  context_.mainWindow.status.Report(message);
+  context_.mainWindow.status.ReportOn(number_, message);
 }
 
 void frmMain::FilesDropped(const QStringList &paths) {

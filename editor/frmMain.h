@@ -3,6 +3,7 @@
 
 #include "chrome/ProgramWindow.h"
 #include "editor/EditorContext.h"
+#include "editor/FrontWindow.h"
 #include "editor/PageJournal.h"
 #include "editor/PageRecord.h"
 #include "editor/SourceCaret.h"
@@ -29,7 +30,7 @@ class ToolBarAction;
 ///
 /// Invariant: the design view always holds the truth of the page; the source view is a copy for
 /// reading.
-class frmMain : public QWidget, public ProgramWindow, private EditingListener {
+class frmMain : public QWidget, public ProgramWindow, public FrontWindow, private EditingListener {
   Q_OBJECT
 
  public:
@@ -75,8 +76,18 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   /// A copy of the page's record.
   PageRecord GetPageRecord() const;
 
-  /// The main window calls this when the window becomes the active document.
-  void OnActivated();
+  // FrontWindow
+  FrontView View() const override;
+  int PageNumber() const override { return number_; }
+  QString ShownName() const override;
+  QString FilePath() const override { return PagePath(context_, number_); }
+  void Edit(EditingCommand command) override;
+  void OnActivated() override;
+
+  /// Tells the page's tab where its file is and whether the page holds what no file has.
+  void ShowTab();
+  /// Shows the page's HTML anew where it is seen.
+  void RefreshSourceView();
   void MarkKill() override;
 
   /// The pointer's place in the page at the last mouse notice, in CSS pixels.
@@ -101,7 +112,13 @@ class frmMain : public QWidget, public ProgramWindow, private EditingListener {
   void QuickButtonClicked(int position);
   void ToggleShowDetails();
   void ToggleSnapToGrid();
+  void ShowDesign();
   void ViewHtml();
+  /// Marks the mode's button and brings the bars in step with the view, if the window is in front.
+  void ShowMode();
+  /// Brings the formatting bar and the status bar in step with the view.
+  void ShowState();
+  bool IsInFront() const;
   void EditHtml();
   void Preview();
   /// False where the page has no temporary copy with that text now.

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The four modes of a page window, and the page as text.
+#include "chrome/ToolBarButtons.h"
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
 #include "editor/SourceCaret.h"
+#include "editor/SourceWrap.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
@@ -29,10 +31,7 @@ QUrl BaseOf(const PageRecord &record, const Runtime &runtime) {
 void frmMain::ChangeMode(std::int32_t mode) {
   switch (mode) {
     case 1:
-      ReturnCaretFromSource();
-      views_->setCurrentWidget(component_->Widget());
-      setFocusProxy(component_->Widget());
-      component_->SetFocus();
+      ShowDesign();
       break;
     case 2:
       ViewHtml();
@@ -48,7 +47,25 @@ void frmMain::ChangeMode(std::int32_t mode) {
   }
 }
 
+void frmMain::ShowDesign() {
+  ReturnCaretFromSource();
+  views_->setCurrentWidget(component_->Widget());
+  setFocusProxy(component_->Widget());
+  component_->SetFocus();
+  ShowMode();
+}
+
 void frmMain::ViewHtml() {
+  views_->setCurrentWidget(source_->Widget());
+  RefreshSourceView();
+  setFocusProxy(source_->Widget());
+  source_->SetFocus();
+  ShowMode();
+}
+
+void frmMain::RefreshSourceView() {
+  if (View() != FrontView::SourceView) return;
+  source_->SetLineWrap(ChosenLineWrap(context_.platform.registry));
   try {
     const ElementPlaces places = component_->CaretPlaces();
     source_->SetText(CreatorHTML());
@@ -58,14 +75,34 @@ void frmMain::ViewHtml() {
     context_.mainWindow.status.Report(
         QStringLiteral("The page's HTML could not be read: %1").arg(error.Description()));
   }
-  views_->setCurrentWidget(source_->Widget());
-  setFocusProxy(source_->Widget());
-  source_->SetFocus();
+}
+
+void frmMain::ShowMode() {
+  QuickButton(u"design")->ShowChecked(View() == FrontView::Design);
+  QuickButton(u"viewcode")->ShowChecked(View() == FrontView::SourceView);
+  if (!IsInFront()) return;
+  context_.mainWindow.commands.Refresh();
+  ShowState();
+}
+
+FrontView frmMain::View() const {
+  return views_->currentWidget() == source_->Widget() ? FrontView::SourceView : FrontView::Design;
+}
+
+QString frmMain::ShownName() const {
+  return windowTitle();
+}
+
+void frmMain::Edit(EditingCommand command) {
+  if (View() == FrontView::Design) {
+    component_->ExecCommand(command);
+  } else if (command == EditingCommand::Copy || command == EditingCommand::SelectAll) {
+    source_->Edit(command);
+  }
 }
 
 void frmMain::ReturnCaretFromSource() {
-  const bool moved =
-      views_->currentWidget() == source_->Widget() && CaretOf(*source_) != shownCaret_;
+  const bool moved = View() == FrontView::SourceView && CaretOf(*source_) != shownCaret_;
   if (moved) component_->ShowPlace(CaretPlacesOf(*source_));
 }
 
@@ -105,6 +142,7 @@ void frmMain::ReopenEditor(const QString &source) {
 void frmMain::Preview() {
   const PageRecord record = GetPageRecord();
   frmBrowser &preview = PreviewWindow(context_);
+  preview.SetPage(number_);
   preview.brwWebBrowser().SetSite(FindIgnoringCase(context_.pages.Site(number_)));
   if (record.ReadOnly != False16) {
     context_.mainWindow.windows.Show(&preview);

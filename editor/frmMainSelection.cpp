@@ -26,6 +26,22 @@ void frmMain::EditBarCheck(EditingCommand tbrButton, EditingCommand function) {
   }
 }
 
+bool frmMain::IsInFront() const {
+  return context_.mainWindow.windows.Current() == this;
+}
+
+void frmMain::ShowState() {
+  if (View() == FrontView::SourceView || Ready != QStringLiteral("True")) {
+    context_.mainWindow.formats.ShowNothing();
+    context_.mainWindow.status.ShowTag({});
+  } else {
+    RefreshMfrm();
+    DynaLink();
+  }
+  // Undo past an applied source brings back what the bytes were before.
+  context_.mainWindow.status.ShowTextForm(component_->TextForm());
+}
+
 void frmMain::RefreshMfrm() {
   for (const EditCommand &entry : EditCommands) EditBarCheck(entry.command, entry.command);
   const auto value = [this](EditingCommand query) {

@@ -3,6 +3,7 @@
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
+#include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
@@ -89,6 +90,10 @@ void CleanUpAfterPage(EditorContext &context, frmMain &window) {
     if (copies != nullptr) copies->Remove(context.pages.Record(number).TempPath);
     Ignoring([&] { CloseSourceEditor(context, number); });
   }
+  Ignoring([&] {
+    frmBrowser *preview = context.preview;
+    if (preview != nullptr && preview->PageNumber() == number) preview->close();
+  });
   Ignoring([&] { RemovePageTab(context, number); });
   context.pages.Page(number).clear();
   Ignoring([&] {

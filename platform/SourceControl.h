@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/EditingCommands.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -20,6 +22,9 @@ enum class SearchDirection {
   Backward,
 };
 enum class LetterCase { Ignored, Matched };
+
+/// Whether lines longer than the control is wide go on below.
+enum class LineWrap { Off, On };
 
 /// A control that shows HTML source as text. Text inside is Unicode with the line ends it was
 /// given.
@@ -44,11 +49,16 @@ class SourceControl {
   /// Puts `text` in place of the selection.
   virtual void ReplaceSelection(const QString &text) = 0;
 
+  /// Undo, redo, cut, copy, paste, delete or select all; other commands, and those that a view
+  /// refuses, do nothing.
+  virtual void Edit(EditingCommand command) = 0;
+
   /// Zero-based line and column of the caret, columns in UTF-16 units.
   virtual int CaretLine() const = 0;
   virtual int CaretColumn() const = 0;
   virtual int LineLength(int line) const = 0;
   virtual void SetCaret(int line, int column) = 0;
+  virtual void SetLineWrap(LineWrap wrap) = 0;
   /// Brings the caret's line to about the middle of what is seen.
   virtual void CenterCaret() = 0;
 

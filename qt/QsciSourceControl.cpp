@@ -184,6 +184,34 @@ void QsciSourceControl::ReplaceSelection(const QString &text) {
   editor_->replaceSelectedText(text);
 }
 
+void QsciSourceControl::Edit(EditingCommand command) {
+  switch (command) {
+    case EditingCommand::Undo:
+      editor_->undo();
+      break;
+    case EditingCommand::Redo:
+      editor_->redo();
+      break;
+    case EditingCommand::Cut:
+      editor_->cut();
+      break;
+    case EditingCommand::Copy:
+      editor_->copy();
+      break;
+    case EditingCommand::Paste:
+      editor_->paste();
+      break;
+    case EditingCommand::Delete:
+      Send(QsciScintilla::SCI_CLEAR);
+      break;
+    case EditingCommand::SelectAll:
+      editor_->selectAll();
+      break;
+    default:
+      break;
+  }
+}
+
 int QsciSourceControl::CaretLine() const {
   return static_cast<int>(
       Send(QsciScintilla::SCI_LINEFROMPOSITION, Send(QsciScintilla::SCI_GETCURRENTPOS)));
@@ -204,6 +232,10 @@ void QsciSourceControl::SetCaret(int line, int column) {
     position = Send(QsciScintilla::SCI_POSITIONRELATIVECODEUNITS, LineStart(line), column);
   Send(QsciScintilla::SCI_ENSUREVISIBLE, line);
   Send(QsciScintilla::SCI_GOTOPOS, position);
+}
+
+void QsciSourceControl::SetLineWrap(LineWrap wrap) {
+  editor_->setWrapMode(wrap == LineWrap::On ? QsciScintilla::WrapWord : QsciScintilla::WrapNone);
 }
 
 void QsciSourceControl::CenterCaret() {

@@ -34,10 +34,12 @@ class QsciSourceControl final : public QObject, public SourceControl {
   void SetColor(int slot, std::int32_t color) override;
   QString SelectedText() const override;
   void ReplaceSelection(const QString &text) override;
+  void Edit(EditingCommand command) override;
   int CaretLine() const override;
   int CaretColumn() const override;
   int LineLength(int line) const override;
   void SetCaret(int line, int column) override;
+  void SetLineWrap(LineWrap wrap) override;
   void CenterCaret() override;
   void SetSelectionListener(std::function<void()> listener) override;
   void SetTextListener(std::function<void()> listener) override;

@@ -92,6 +92,23 @@ void AddToHistory(Registry &registry, const QString &path) {
   SaveRegSetting(registry, Product(), section, countName, slot);
 }
 
+QStringList History(const Registry &registry) {
+  const QString section = QString::fromUtf16(HistorySection);
+  const auto read = [&](const QString &name) {
+    return GetRegSetting(registry, Product(), section, name, QString());
+  };
+  const int latest = static_cast<int>(
+      std::fmod(std::trunc(Val(read(QStringLiteral("historycount")))), HistorySlots));
+  QStringList paths;
+  for (int back = 0; back < HistorySlots; ++back) {
+    const int slot = (latest - 1 - back + 2 * HistorySlots) % HistorySlots + 1;
+    const QString path = read(QStringLiteral("file%1").arg(slot));
+    if (!path.isEmpty()) paths.append(FromPeople(path));
+  }
+  paths.removeDuplicates();
+  return paths;
+}
+
 QString CutAtNul(const QString &buffer) {
   return buffer.left(buffer.indexOf(QChar(0)));
 }

@@ -5,6 +5,7 @@
 #include "platform/RuntimeError.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <functional>
@@ -52,6 +53,9 @@ RuntimeError FaultOf(const Registry &registry, const QString &valueName,
 /// Records one opened file in the next slot of the ring; after slot 100 comes slot 1. `path` in
 /// logic form, written as people read paths. The same file twice fills two slots.
 void AddToHistory(Registry &registry, const QString &path);
+
+/// The recorded files in logic form, the latest first, each once.
+QStringList History(const Registry &registry);
 
 /// The text before the first NUL character, or all of it.
 QString CutAtNul(const QString &buffer);

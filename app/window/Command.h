@@ -3,6 +3,7 @@
 
 #include "platform/EditingCommands.h"
 
+#include <compare>
 #include <variant>
 
 namespace velor {
@@ -32,7 +33,7 @@ struct Command {
   CommandId id = CommandId::None;
   std::variant<std::monostate, EditingCommand, int> argument = {};
 
-  bool operator==(const Command &) const = default;
+  auto operator<=>(const Command &) const = default;
 };
 
 }  // namespace velor

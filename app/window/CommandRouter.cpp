@@ -7,6 +7,8 @@
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
+#include "editor/frmBrowser.h"
+#include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
 #include "insert/modColor.h"
@@ -42,8 +44,12 @@ bool HasEnding(const QString &path, const QStringList &endings) {
 }  // namespace
 
 CommandRouter::CommandRouter(EditorContext &context, ProgramValues &values, CommandHost &host,
-                             InsertCommands &insert)
-    : context_(context), values_(values), host_(host), insert_(insert) {}
+                             InsertCommands &insert, Additions additions)
+    : context_(context), values_(values), host_(host), insert_(insert), additions_(additions) {}
+
+frmMain *CommandRouter::ActiveDocument() {
+  return dynamic_cast<frmMain *>(host_.Front());
+}
 
 void CommandRouter::Run(const Command &command) {
   switch (command.id) {
@@ -89,7 +95,7 @@ void CommandRouter::Run(const Command &command) {
       Insert(&InsertCommands::Table);
       break;
     case CommandId::Preview:
-      if (frmMain *page = host_.ActiveDocument()) page->ChangeMode(PreviewMode);
+      Preview();
       break;
     case CommandId::About:
       host_.ShowAbout();
@@ -98,12 +104,13 @@ void CommandRouter::Run(const Command &command) {
 }
 
 void CommandRouter::Click(const GeneralButton &button) {
-  if (button.guard == Guard::MenuItem && !host_.MenuItem(button.command.id).isEnabled()) return;
+  if (button.guard == Guard::MenuItem && !host_.MenuItem(button.command).isEnabled()) return;
+  if (button.reach == Reach::Beyond && additions_ == Additions::Off) return;
   Run(button.command);
 }
 
 void CommandRouter::NewPage() {
-  QAction &item = host_.MenuItem(CommandId::NewPage);
+  QAction &item = host_.MenuItem({CommandId::NewPage});
   item.setEnabled(false);
   try {
     if (HasRoom(context_)) modWorkFlow::NewPage(context_);
@@ -115,7 +122,7 @@ void CommandRouter::NewPage() {
 }
 
 void CommandRouter::OpenPage() {
-  QAction &item = host_.MenuItem(CommandId::OpenPage);
+  QAction &item = host_.MenuItem({CommandId::OpenPage});
   item.setEnabled(false);
   // After a refusal the item deliberately stays disabled.
   if (!HasRoom(context_)) return;
@@ -142,23 +149,53 @@ void CommandRouter::OpenFile(const QString &path) {
 }
 
 void CommandRouter::HoldNameOfActivePage() {
-  if (frmMain *page = host_.ActiveDocument()) HoldNameInDialog(context_, *page);
+  if (frmMain *page = ActiveDocument()) HoldNameInDialog(context_, *page);
 }
 
 void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
-  if (frmMain *page = host_.ActiveDocument()) modWorkFlow::SaveAndTell(context_, *page, kind);
+  const FrontWindow *front = host_.Front();
+  if (front == nullptr || front->PageNumber() == 0) return;
+  if (additions_ == Additions::Off && ActiveDocument() == nullptr) return;
+  const QPointer<frmMain> page = context_.pages.Page(front->PageNumber());
+  if (front->View() == FrontView::SourceEditor) {
+    // What is seen is what is saved: the source goes into the page first. Undo there takes it back.
+    frmCodeEditor *editor = context_.pages.CodeEditor(front->PageNumber());
+    if (editor->UnappliedText() && !editor->Apply()) return;
+  }
+  if (page.isNull()) return;
+  // What the save has to tell outweighs that it went well.
+  context_.mainWindow.status.Report({});
+  const auto end = modWorkFlow::SaveAndTell(context_, *page, kind);
+  if (page.isNull()) return;
+  page->ShowTab();
+  if (end == modWorkFlow::SaveEnd::Safe && !context_.mainWindow.status.HasNotice())
+    context_.mainWindow.status.Report(QStringLiteral("Saved %1").arg(page->FilePath()));
+}
+
+void CommandRouter::Preview() {
+  const FrontWindow *front = host_.Front();
+  if (frmMain *page = ActiveDocument()) {
+    page->ChangeMode(PreviewMode);
+  } else if (front != nullptr && front->View() == FrontView::Preview &&
+             additions_ == Additions::On) {
+    context_.preview->brwWebBrowser().Refresh();
+  }
 }
 
 void CommandRouter::Edit(EditingCommand command) {
-  if (frmMain *page = host_.ActiveDocument()) page->DHTML1().ExecCommand(command);
+  if (additions_ == Additions::On) {
+    if (FrontWindow *front = host_.Front()) front->Edit(command);
+  } else if (frmMain *page = ActiveDocument()) {
+    page->DHTML1().ExecCommand(command);
+  }
 }
 
 void CommandRouter::Insert(void (InsertCommands::*insertion)(frmMain &)) {
-  if (frmMain *page = host_.ActiveDocument()) (insert_.*insertion)(*page);
+  if (frmMain *page = ActiveDocument()) (insert_.*insertion)(*page);
 }
 
 void CommandRouter::SetValue(EditingCommand query, EditingCommand set, const QString &value) {
-  frmMain *page = host_.ActiveDocument();
+  frmMain *page = ActiveDocument();
   if (!page) return;
   EditingComponent &component = page->DHTML1();
   if (component.ExecCommand(query).toString() == value) return;
@@ -178,7 +215,7 @@ void CommandRouter::SetFontName(const QString &name) {
 }
 
 void CommandRouter::SetColor(EditingCommand set, std::int32_t color) {
-  frmMain *page = host_.ActiveDocument();
+  frmMain *page = ActiveDocument();
   if (!page) return;
   page->DHTML1().ExecCommand(set, ExecOption::Default, modColor::ColorToHtml(color));
   page->DHTML1().SetFocus();
@@ -201,6 +238,12 @@ void CommandRouter::OpenProjectPage(int pageId) {
   if (!page || ShowPageOfFile(context_, ToLogic(FindIgnoringCase(page->path)))) return;
   modWorkFlow::OpenProjectPage(context_, page->path);
   context_.pages.Site(context_.pages.PageCount()) = page->folder;
+}
+
+void CommandRouter::OpenRecentFile(const QString &path) {
+  if (isOpening_ || ShowPageOfFile(context_, path) || !HasRoom(context_)) return;
+  OpenFile(path);
+  HoldNameOfActivePage();
 }
 
 void CommandRouter::TakeDroppedFiles(const QStringList &paths, frmMain *page) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/window/Additions.h"
 #include "app/window/Command.h"
 #include "app/window/ProjectPageQuery.h"
 #include "editor/modWorkFlow.h"
@@ -15,6 +16,7 @@ class QAction;
 
 namespace velor {
 
+class FrontWindow;
 class InsertCommands;
 class frmMain;
 struct EditorContext;
@@ -25,10 +27,10 @@ struct ProgramValues;
 class CommandHost {
  public:
   virtual ~CommandHost() = default;
-  /// The page window that is the active child window; null when there is none.
-  virtual frmMain *ActiveDocument() = 0;
+  /// The child window in front; null when there is none.
+  virtual FrontWindow *Front() = 0;
   /// The menu item that runs this command.
-  virtual QAction &MenuItem(CommandId command) = 0;
+  virtual QAction &MenuItem(const Command &command) = 0;
   virtual void ChooseMenuStyle(int index) = 0;
   virtual void ShowProjectManager() = 0;
   virtual void ShowAbout() = 0;
@@ -37,11 +39,12 @@ class CommandHost {
 
 /// Where every command of the menus, toolbars and formatting boxes arrives. The main window edits
 /// nothing itself: editing goes to the active document's component, files to the page-file
-/// operations. A command that needs a document does nothing without one.
+/// operations. A command that needs a document does nothing without one. With additions, the
+/// commands of the Edit menu act on what is in front, and saving and previewing on its page.
 class CommandRouter {
  public:
   CommandRouter(EditorContext &context, ProgramValues &values, CommandHost &host,
-                InsertCommands &insert);
+                InsertCommands &insert, Additions additions);
 
   void Run(const Command &command);
   /// Runs the button's command unless its guard item is disabled.
@@ -57,6 +60,9 @@ class CommandRouter {
 
   /// An entry of the page chooser was chosen.
   void OpenProjectPage(int pageId);
+  /// A file of the list of those opened last was chosen; the path in logic form. Opens it, or
+  /// brings its page to the front; nothing while another load waits.
+  void OpenRecentFile(const QString &path);
   /// Files were dropped, paths in logic form: pages open as far as there is room, whether the menu
   /// item is enabled or not; pictures go to the caret of `page`.
   void TakeDroppedFiles(const QStringList &paths, frmMain *page);
@@ -72,6 +78,9 @@ class CommandRouter {
   /// The shared dialog names the page that is active now.
   void HoldNameOfActivePage();
   void SavePage(modWorkFlow::SaveKind kind);
+  void Preview();
+  /// The page window in front; null when something else is, or nothing.
+  frmMain *ActiveDocument();
   void Edit(EditingCommand command);
   void Insert(void (InsertCommands::*insertion)(frmMain &));
   void SetValue(EditingCommand query, EditingCommand set, const QString &value);
@@ -81,6 +90,7 @@ class CommandRouter {
   ProgramValues &values_;
   CommandHost &host_;
   InsertCommands &insert_;
+  const Additions additions_;
   ProjectPageQuery projectPages_;
   /// A load waits, and files may be dropped meanwhile.
   bool isOpening_ = false;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/window/Additions.h"
+#include "app/window/Command.h"
+#include "editor/FrontWindow.h"
 #include "editor/MainWindow.h"
 
 class QAction;
@@ -8,14 +11,25 @@ class QAction;
 namespace velor {
 
 class CoolBar;
+class PageArea;
 struct Menus;
 
+/// Whether a command has something to act on where that view is in front.
+bool ActsOn(const Command &command, FrontView front);
+
 /// Enables and disables the menus and toolbar buttons that need a page: the only place that does.
+/// They follow whether a page is open; with additions, also whether they act on what is in front.
 class CommandState final : public CommandAvailability {
  public:
   /// All outlive it. `sourceEditing` is the action that opens the source editor.
-  CommandState(const Menus &menus, CoolBar &bars, const TabStrip &tabs, QAction &sourceEditing)
-      : menus_(menus), bars_(bars), tabs_(tabs), sourceEditing_(sourceEditing) {}
+  CommandState(const Menus &menus, CoolBar &bars, const PageArea &area, const TabStrip &tabs,
+               QAction &sourceEditing, Additions additions)
+      : menus_(menus),
+        bars_(bars),
+        area_(area),
+        tabs_(tabs),
+        sourceEditing_(sourceEditing),
+        additions_(additions) {}
 
   void SetPageCommandsEnabled(bool enabled) override;
   void SetSourceEditingEnabled(bool enabled) override;
@@ -24,8 +38,10 @@ class CommandState final : public CommandAvailability {
  private:
   const Menus &menus_;
   CoolBar &bars_;
+  const PageArea &area_;
   const TabStrip &tabs_;
   QAction &sourceEditing_;
+  const Additions additions_;
 };
 
 }  // namespace velor

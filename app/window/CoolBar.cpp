@@ -33,9 +33,10 @@ QToolBar *CoolBar::BuildGeneral() {
   return bar;
 }
 
-void CoolBar::SetPageButtonsEnabled(bool enabled) {
+void CoolBar::SetPageButtonsEnabled(const std::function<bool(const Command &)> &isUsable) {
   for (std::size_t index = 0; index < GeneralButtons.size(); ++index) {
-    if (GeneralButtons[index].needs == Needs::Page) general_[index]->setEnabled(enabled);
+    const GeneralButton &row = GeneralButtons[index];
+    if (row.needs == Needs::Page) general_[index]->setEnabled(isUsable(row.command));
   }
 }
 

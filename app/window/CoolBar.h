@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 
 class QToolBar;
 
@@ -23,8 +24,8 @@ class CoolBar final : public QWidget {
 
   FormattingBar &Formatting() { return *formatting_; }
 
-  /// The buttons of `tbrGeneral` that act on a page, together.
-  void SetPageButtonsEnabled(bool enabled);
+  /// Enables each button of `tbrGeneral` that needs a page as `isUsable` says of its command.
+  void SetPageButtonsEnabled(const std::function<bool(const Command &)> &isUsable);
 
  Q_SIGNALS:
   void GeneralClicked(const velor::GeneralButton &button);

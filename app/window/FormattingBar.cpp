@@ -11,7 +11,9 @@
 
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QMenu>
 #include <QToolBar>
+#include <QWidgetAction>
 
 #include <algorithm>
 
@@ -33,9 +35,55 @@ Box *Named(Box *box, const char *name, const QString &label) {
 
 /// Shows `htmlColor` in `picker` unless it shows that colour already.
 void ShowColor(ColorPicker &picker, const QString &htmlColor) {
+  picker.setEnabled(true);
   const std::int32_t color = modColor::HtmlToColor(htmlColor);
   if (picker.Color() != color) picker.SetColor(color);
 }
+
+/// A row of colour pickers, side by side.
+QWidget *PickerRow(std::initializer_list<ColorPicker *> pickers, QWidget *parent) {
+  auto *row = new QWidget(parent);
+  auto *layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(BarSpacing);
+  for (ColorPicker *picker : pickers) layout->addWidget(picker);
+  return row;
+}
+
+/// The colour pickers on a toolbar. Where the toolbar is too narrow for them, others that choose
+/// for them stand in the menu of what did not fit.
+class ColorsAction final : public QWidgetAction {
+ public:
+  ColorsAction(ColorPicker &fore, ColorPicker &back, QObject *parent)
+      : QWidgetAction(parent), fore_(fore), back_(back) {
+    setDefaultWidget(PickerRow({&fore_, &back_}, nullptr));
+  }
+
+ protected:
+  QWidget *createWidget(QWidget *parent) override {
+    auto *menu = qobject_cast<QMenu *>(parent);
+    if (menu == nullptr) return nullptr;  // the pickers themselves
+    return PickerRow({StandIn(fore_, *menu), StandIn(back_, *menu)}, menu);
+  }
+
+ private:
+  ColorPicker *StandIn(ColorPicker &picker, QMenu &menu) {
+    auto *stand = new ColorPicker(picker.IconKey(), &menu);
+    stand->setAccessibleName(picker.accessibleName());
+    stand->setToolTip(picker.toolTip());
+    stand->SetColor(picker.Color());
+    stand->setEnabled(picker.isEnabled());
+    connect(stand, &ColorPicker::ColorChosen, &picker, [&picker, &menu](std::int32_t color) {
+      menu.close();
+      picker.SetColor(color);
+      Q_EMIT picker.ColorChosen(color);
+    });
+    return stand;
+  }
+
+  ColorPicker &fore_;
+  ColorPicker &back_;
+};
 
 }  // namespace
 
@@ -58,12 +106,17 @@ FormattingBar::FormattingBar(QWidget *parent)
   }
   QToolBar *tbrEdit = BuildButtons();
   // One row for the eye: the colours close it.
-  tbrEdit->addWidget(BuildColors());
+  AddColors(*tbrEdit);
   row->addWidget(tbrEdit, 1);
+  setTabOrder(blockFormat_, fontName_);
+  setTabOrder(fontName_, fontSize_);
 
   connect(blockFormat_, &ChoiceBox::Clicked, this, &FormattingBar::BlockFormatClicked);
   connect(fontSize_, &ChoiceBox::Clicked, this, &FormattingBar::FontSizeClicked);
   connect(fontName_, &FontPicker::FontChosen, this, &FormattingBar::FontNameChanged);
+  connect(blockFormat_, &ChoiceBox::Done, this, &FormattingBar::Done);
+  connect(fontSize_, &ChoiceBox::Done, this, &FormattingBar::Done);
+  connect(fontName_, &FontPicker::Done, this, &FormattingBar::Done);
   connect(textColor_, &ColorPicker::ColorChosen, this, &FormattingBar::ForeColorChanged);
   connect(backColor_, &ColorPicker::ColorChosen, this, &FormattingBar::BackColorChanged);
 }
@@ -80,19 +133,13 @@ QToolBar *FormattingBar::BuildButtons() {
   return bar;
 }
 
-QWidget *FormattingBar::BuildColors() {
-  auto *colors = new QWidget(this);
+void FormattingBar::AddColors(QToolBar &bar) {
   textColor_ =
-      Named(new ColorPicker(QStringLiteral("forecolor"), colors), "cpFore", tr("Text Color"));
+      Named(new ColorPicker(QStringLiteral("forecolor"), this), "cpFore", tr("Text Color"));
   backColor_ =
-      Named(new ColorPicker(QStringLiteral("backcolor"), colors), "cpBack", tr("Background Color"));
+      Named(new ColorPicker(QStringLiteral("backcolor"), this), "cpBack", tr("Background Color"));
   backColor_->SetColor(PaperWhite);
-  auto *row = new QHBoxLayout(colors);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(BarSpacing);
-  row->addWidget(textColor_);
-  row->addWidget(backColor_);
-  return colors;
+  bar.addAction(new ColorsAction(*textColor_, *backColor_, &bar));
 }
 
 void FormattingBar::InitialiseFonts() {
@@ -120,14 +167,18 @@ void FormattingBar::ShowButton(EditingCommand command, ButtonState state) {
 }
 
 void FormattingBar::ShowFontName(const QString &name) {
-  if (fontName_->FontName() != name) fontName_->SetFontName(name);
+  fontName_->setEnabled(true);
+  // An installed font is shown as the list spells it.
+  if (fontName_->FontName().compare(name, Qt::CaseInsensitive) != 0) fontName_->SetFontName(name);
 }
 
 void FormattingBar::ShowBlockFormat(const QString &name) {
+  blockFormat_->setEnabled(true);
   if (blockFormat_->Text() != name) blockFormat_->ShowText(name);
 }
 
 void FormattingBar::ShowFontSize(const QString &points) {
+  fontSize_->setEnabled(true);
   if (fontSize_->Text() != points) fontSize_->ShowText(points);
 }
 
@@ -137,6 +188,19 @@ void FormattingBar::ShowForeColor(const QString &htmlColor) {
 
 void FormattingBar::ShowBackColor(const QString &htmlColor) {
   ShowColor(*backColor_, htmlColor);
+}
+
+void FormattingBar::ShowNothing() {
+  for (ToolBarAction *button : buttons_) {
+    button->setEnabled(false);
+    button->ShowChecked(false);
+  }
+  ShowFontName({});
+  ShowBlockFormat({});
+  ShowFontSize({});
+  for (QWidget *box :
+       std::initializer_list<QWidget *>{blockFormat_, fontName_, fontSize_, textColor_, backColor_})
+    box->setEnabled(false);
 }
 
 }  // namespace velor

@@ -38,6 +38,7 @@ class FormattingBar final : public QWidget, public FormatDisplay {
   void ShowForeColor(const QString &htmlColor) override;
   void ShowBlockFormat(const QString &name) override;
   void ShowFontSize(const QString &points) override;
+  void ShowNothing() override;
 
  Q_SIGNALS:
   /// A button of `tbrEdit` was clicked: the page says whether it is pressed, not the click.
@@ -47,10 +48,12 @@ class FormattingBar final : public QWidget, public FormatDisplay {
   void FontNameChanged(const QString &name);
   void ForeColorChanged(std::int32_t color);
   void BackColorChanged(std::int32_t color);
+  /// The person is done with a box.
+  void Done();
 
  private:
   QToolBar *BuildButtons();
-  QWidget *BuildColors();
+  void AddColors(QToolBar &bar);
 
   ChoiceBox *blockFormat_;
   ChoiceBox *fontSize_;

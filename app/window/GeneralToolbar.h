@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/window/Additions.h"
 #include "app/window/Command.h"
 #include "platform/EditingCommands.h"
 
@@ -21,10 +22,11 @@ struct GeneralButton {
   Command command = {};
   Guard guard = Guard::None;
   Needs needs = Needs::Nothing;
+  Reach reach = Reach::Published;
 };
 
 constexpr GeneralButton PageButton(const char *key, const char *tooltip, Command command = {}) {
-  return {key, tooltip, command, Guard::None, Needs::Page};
+  return {key, tooltip, command, Guard::None, Needs::Page, Reach::Published};
 }
 
 /// The seventeen buttons in toolbar order.

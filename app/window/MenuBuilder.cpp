@@ -40,18 +40,23 @@ QAction *NewItem(QMainWindow &window, const MenuRow &row) {
 
 }  // namespace
 
-Menus BuildMenus(QMainWindow &window, const std::function<void(const Command &)> &run) {
+Menus BuildMenus(QMainWindow &window, Additions additions,
+                 const std::function<void(const Command &)> &run) {
   Menus built;
   for (const MenuRow &row : MenuTable()) {
     const QString name = QString::fromLatin1(row.name);
+    const bool isOff = row.reach == Reach::Beyond && additions == Additions::Off;
+    if (row.parent && !built.menus.contains(QString::fromLatin1(row.parent))) continue;
+    if (row.kind == MenuKind::Menu && isOff) continue;
     if (row.kind == MenuKind::Menu || row.kind == MenuKind::Popup) {
       built.menus.insert(name, NewMenu(window, row, built));
       continue;
     }
     QAction *item = NewItem(window, row);
-    QObject::connect(item, &QAction::triggered, &window, [run, &row] { run(row.command); });
+    if (!isOff)
+      QObject::connect(item, &QAction::triggered, &window, [run, &row] { run(row.command); });
     built.menus.value(QString::fromLatin1(row.parent))->addAction(item);
-    built.items.insert(row.command.id, item);
+    if (row.command.id != CommandId::None) built.items.emplace(row.command, item);
   }
   return built;
 }

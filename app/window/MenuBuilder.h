@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <functional>
+#include <map>
 
 class QAction;
 class QMainWindow;
@@ -19,14 +20,14 @@ namespace velor {
 struct Menus {
   /// Menus and popups by name.
   QHash<QString, QMenu *> menus;
-  /// Items by what they run; of several items that run the same command, with another argument, the
-  /// last.
-  QHash<CommandId, QAction *> items;
+  /// Items by the command that they run.
+  std::map<Command, QAction *> items;
 };
 
 /// Makes every menu of the table in `window`; an item chosen runs its command through `run`.
 /// Captions stand in the actions exactly as in the table; names are object names.
-Menus BuildMenus(QMainWindow &window, const std::function<void(const Command &)> &run);
+Menus BuildMenus(QMainWindow &window, Additions additions,
+                 const std::function<void(const Command &)> &run);
 
 /// The pictures beside the items, under the items' names in lower case.
 ImageList MenuImages();

@@ -61,7 +61,8 @@ MenuPictures ProgramMenuPictures() {
               }};
 }
 
-void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPainter &painter) {
+void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPainter &painter,
+                  const std::function<void(int style)> &showStyle) {
   std::optional<RuntimeError> first;
   QStringList faults;
   const auto tell = [&](const RuntimeError &fault) {
@@ -70,13 +71,14 @@ void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPa
   };
   const QString styleSetting = QString::fromUtf16(StyleSetting);
   const QString defaultStyle = QStringLiteral("2");
-  const int style = modSettingManager::IntegerOption(registry, styleSetting, defaultStyle, tell);
+  int style = modSettingManager::IntegerOption(registry, styleSetting, defaultStyle, tell);
   if (style != 0) {
     try {
       painter.SetBackground(pictures.numbered(style));
     } catch (const RuntimeError &error) {
       tell(modSettingManager::FaultOf(registry, styleSetting, defaultStyle, error));
-      painter.SetBackground(pictures.numbered(CInt(defaultStyle)));
+      style = CInt(defaultStyle);
+      painter.SetBackground(pictures.numbered(style));
     }
   } else {
     LoadBackground(
@@ -88,6 +90,7 @@ void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPa
      setting.set)(modSettingManager::LongOption(registry, QString::fromLatin1(setting.name),
                                                 QString::fromLatin1(setting.defaultValue), tell));
   }
+  showStyle(style);
   if (first) throw RuntimeError(first->Number(), first->Source(), faults.join(u'\n'));
 }
 

@@ -25,8 +25,10 @@ MenuPictures ProgramMenuPictures();
 /// Sets up the painter as the settings say: the background, then text, border, highlight and
 /// highlighted text colour. A picture file that cannot be loaded leaves the background as it was.
 /// For a setting that is no number, or names no picture, the default counts; when all is set, one
-/// error names every such setting and the file.
-void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPainter &painter);
+/// error names every such setting and the file. `showStyle` is told the style that counts, 0 for a
+/// picture file.
+void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPainter &painter,
+                  const std::function<void(int style)> &showStyle);
 
 /// Stores the chosen style and shows its picture at once.
 void ChooseMenuStyle(int index, Registry &registry, const MenuPictures &pictures,

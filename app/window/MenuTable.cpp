@@ -37,6 +37,11 @@ constexpr MenuRow StyleItem(int index, const char *caption) {
           .index = index};
 }
 
+constexpr MenuRow Beyond(MenuRow row) {
+  row.reach = Reach::Beyond;
+  return row;
+}
+
 constexpr MenuRow Popup(const char *name) {
   return {.name = name, .caption = "", .kind = MenuKind::Popup};
 }
@@ -82,6 +87,9 @@ constexpr MenuRow Rows[] = {
     Item("mnuWindowCascade", "Cascade (&C)", "mnuWindow"),
     Item("mnuWindowTileHorizontal", "Horizontal (&H)", "mnuWindow"),
     Item("mnuWindowTileVertical", "Vertical (&V)", "mnuWindow"),
+
+    Beyond(Menu("mnuTools", "Tools (&T)")),
+    Beyond(Menu("mnuRecent", "Recent Files (&R)", "mnuTools")),
 
     Menu("mnuHelp_Top", "Help (&H)"),
     Item("mnuAbout", "About", "mnuHelp_Top", {CommandId::About}, "about"),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/window/Additions.h"
 #include "app/window/Command.h"
 
 #include <array>
@@ -28,6 +29,7 @@ struct MenuRow {
   int index = 0;
   /// Key of the picture beside the item; none where it has no picture.
   const char *picture = nullptr;
+  Reach reach = Reach::Published;
 };
 
 /// The menus that can be used only while a page is open.

@@ -9,6 +9,7 @@
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
 #include "app/window/ProjectDesk.h"
+#include "app/window/RecentFiles.h"
 #include "app/window/StatusLine.h"
 #include "app/window/WindowStyling.h"
 #include "chrome/FlatSweeps.h"
@@ -26,9 +27,11 @@
 #include "platform/RuntimeError.h"
 #include "recovery/offers/RecoveryBar.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPainter>
@@ -40,18 +43,30 @@
 namespace velor {
 namespace {
 
+constexpr int ChooserWidth = 240;
+constexpr int ChooserButtonWidth = 26;
+/// Two tabs and the chooser need more.
+constexpr int NarrowRow = 700;
+
 /// The row of the page tabs, of the backdrop's colour so that the tab in front belongs to what lies
 /// below it.
+/// In a narrow window the page chooser becomes a button before the tabs give way.
 class TabRow final : public QWidget {
  public:
-  using QWidget::QWidget;
+  TabRow(QComboBox &chooser, QWidget *parent) : QWidget(parent), chooser_(chooser) {}
 
  protected:
+  void resizeEvent(QResizeEvent *event) override {
+    QWidget::resizeEvent(event);
+    chooser_.setFixedWidth(width() < NarrowRow ? ChooserButtonWidth : ChooserWidth);
+  }
   void paintEvent(QPaintEvent *) override { QPainter(this).fillRect(rect(), Backdrop(palette())); }
+
+ private:
+  QComboBox &chooser_;
 };
 
 constexpr QSize FirstSize(1180, 800);
-constexpr int ChooserWidth = 240;
 
 /// The program's one array of flat painters lives in them.
 std::unique_ptr<StylingSweeps> SweepsOn(WindowSystem *windows) {
@@ -81,14 +96,16 @@ void UnloadProgramWindows() {
 
 MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
     : platform_(platform),
-      menus_(BuildMenus(*this, [this](const Command &command) { router_.Run(command); })),
+      additions_(ReadAdditions(platform.registry)),
+      menus_(
+          BuildMenus(*this, additions_, [this](const Command &command) { router_.Run(command); })),
       coolBar_(new CoolBar(this)),
       FileTab(new PageTabs(this)),
       FileTab2(new PageTabs(this)),
-      area_(new PageArea(this)),
+      area_(new PageArea(additions_, this)),
       Sta(new StatusLine(this)),
       sourceEditing_(new QAction(this)),
-      commands_(menus_, *coolBar_, *FileTab, *sourceEditing_),
+      commands_(menus_, *coolBar_, *area_, *FileTab, *sourceEditing_, additions_),
       fileDialog_(platform.components.CreateFileDialog()),
       context_{platform,
                {.windows = *area_,
@@ -102,7 +119,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
                {}},
       sweeps_(SweepsOn(platform.windows)),
       insert_(std::make_unique<DialogInsertCommands>(context_, values, sweeps_.get())),
-      router_(context_, values, *this, *insert_),
+      router_(context_, values, *this, *insert_, additions_),
       menuPictures_(ProgramMenuPictures()),
       PM(new StyleMenuPainter(this)),
       CmbPages(new PageChooser(this)),
@@ -116,6 +133,11 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
   sourceEditing_->setObjectName(QStringLiteral("mnuEditHTML"));
   BuildLayout();
   setStatusBar(Sta);
+  if (QMenu *recent = menus_.menus.value(QStringLiteral("mnuRecent"))) {
+    new RecentFiles(
+        *recent, platform.registry, [this](const QString &path) { router_.OpenRecentFile(path); },
+        this);
+  }
   new WindowList(*menus_.menus.value(QStringLiteral("mnuWindow")), *area_, this);
 }
 
@@ -139,7 +161,7 @@ void MfrmProgram::BuildLayout() {
 }
 
 QWidget *MfrmProgram::BuildTabRow() {
-  auto *picFileTab = new TabRow(this);
+  auto *picFileTab = new TabRow(*CmbPages, this);
   picFileTab->setObjectName(QStringLiteral("picFileTab"));
   FileTab->setObjectName(QStringLiteral("FileTab"));
   FileTab->setAccessibleName(tr("Pages"));
@@ -148,7 +170,7 @@ QWidget *MfrmProgram::BuildTabRow() {
   CmbPages->setObjectName(QStringLiteral("CmbPages"));
   CmbPages->setAccessibleName(tr("Project pages"));
   CmbPages->setToolTip(tr("Project pages"));
-  CmbPages->setFixedWidth(ChooserWidth);
+  CmbPages->view()->setMinimumWidth(ChooserWidth);
 
   auto *row = new QHBoxLayout(picFileTab);
   row->setContentsMargins(BarMargin, BarMargin - BarSpacing, BarMargin, 0);
@@ -189,9 +211,11 @@ void MfrmProgram::SetFontSizeList() {
 
 void MfrmProgram::PrepareControlsAndMenus() {
   commands_.SetPageCommandsEnabled(false);
+  coolBar_->Formatting().ShowNothing();
   StyleMainWindow(*this, sweeps_.get(), MenuImages(), *PM);
   try {
-    PrepareMenus(platform_.registry, menuPictures_, *PM);
+    PrepareMenus(platform_.registry, menuPictures_, *PM,
+                 [this](int style) { MarkMenuStyle(style); });
   } catch (const RuntimeError &error) {
     // A preference that cannot be read does not keep the program from starting: it is reported from
     // the event loop, when the window is there.
@@ -229,14 +253,21 @@ void MfrmProgram::ConnectBars() {
           [this](int number) { router_.ActivatePage(number); });
   connect(CmbPages, &PageChooser::PageChosen, this,
           [this](std::int32_t pageId) { router_.OpenProjectPage(pageId); });
-  connect(area_, &QMdiArea::subWindowActivated, this, [this] { ChildActivated(); });
+  connect(boxes, &FormattingBar::Done, area_, &PageArea::GiveKeyboard);
+  connect(area_, &PageArea::FrontChanged, this, &MfrmProgram::ShowFront);
 }
 
-void MfrmProgram::ChildActivated() {
-  QWidget *current = area_->Current();
-  if (!current || current == lastActivated_) return;
-  lastActivated_ = current;
-  if (auto *page = qobject_cast<frmMain *>(current)) page->OnActivated();
+void MfrmProgram::ShowFront() {
+  FrontWindow *front = area_->Front();
+  Sta->PageCame(front == nullptr ? 0 : front->PageNumber());
+  commands_.Refresh();
+  if (front != nullptr) {
+    front->OnActivated();
+    return;
+  }
+  coolBar_->Formatting().ShowNothing();
+  Sta->ShowTag({});
+  Sta->ShowTextForm({});
 }
 
 void MfrmProgram::closeEvent(QCloseEvent *event) {
@@ -250,16 +281,26 @@ void MfrmProgram::closeEvent(QCloseEvent *event) {
   Q_EMIT Unloaded();
 }
 
-frmMain *MfrmProgram::ActiveDocument() {
-  return qobject_cast<frmMain *>(area_->Current());
+FrontWindow *MfrmProgram::Front() {
+  return area_->Front();
 }
 
-QAction &MfrmProgram::MenuItem(CommandId command) {
-  return *menus_.items.value(command);
+QAction &MfrmProgram::MenuItem(const Command &command) {
+  return *menus_.items.at(command);
 }
 
 void MfrmProgram::ChooseMenuStyle(int index) {
   velor::ChooseMenuStyle(index, platform_.registry, menuPictures_, *PM);
+  MarkMenuStyle(index);
+}
+
+void MfrmProgram::MarkMenuStyle(int index) {
+  for (const MenuRow &row : MenuTable()) {
+    if (row.command.id != CommandId::MenuStyle) continue;
+    QAction &item = MenuItem(row.command);
+    item.setCheckable(true);
+    item.setChecked(row.index == index);
+  }
 }
 
 void MfrmProgram::ShowProjectManager() {

@@ -67,8 +67,8 @@ class MfrmProgram final : public QMainWindow,
   void ResetElementInspection() override;
 
   // CommandHost
-  frmMain *ActiveDocument() override;
-  QAction &MenuItem(CommandId command) override;
+  FrontWindow *Front() override;
+  QAction &MenuItem(const Command &command) override;
   void ChooseMenuStyle(int index) override;
   void ShowProjectManager() override;
   void ShowAbout() override;
@@ -86,9 +86,12 @@ class MfrmProgram final : public QMainWindow,
   void BuildLayout();
   QWidget *BuildTabRow();
   void ConnectBars();
-  void ChildActivated();
+  /// Brings bars and titles in step with the window that has come to the front.
+  void ShowFront();
+  void MarkMenuStyle(int index);
 
   Platform &platform_;
+  const Additions additions_;
   PageSlots pages_;
   Menus menus_;
   CoolBar *coolBar_;
@@ -110,7 +113,6 @@ class MfrmProgram final : public QMainWindow,
   RecoveryBar *recovery_;
   std::unique_ptr<ProjectDesk> projects_;
   std::unique_ptr<EditingComponent> DE1;
-  QPointer<QWidget> lastActivated_;
   bool isClosing_ = false;
   /// The element under the caret as the tool box knows it; empty where none is looked at.
   QString inspectedElement_;

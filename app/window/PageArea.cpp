@@ -2,11 +2,13 @@
 #include "app/window/PageArea.h"
 
 #include "chrome/Palette.h"
+#include "editor/FrontWindow.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QTabBar>
 
@@ -22,21 +24,35 @@ QMdiSubWindow *FrameOf(const QWidget *window) {
 
 }  // namespace
 
-PageArea::PageArea(QWidget *parent) : QMdiArea(parent) {
+PageArea::PageArea(Additions additions, QWidget *parent) : QMdiArea(parent), additions_(additions) {
   setObjectName(QStringLiteral("PageArea"));
   setFrameShape(QFrame::NoFrame);
   setActivationOrder(QMdiArea::ActivationHistoryOrder);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  // The key that closes a child window where people come from; Ctrl+W is the frame's own.
-  connect(new QShortcut(Qt::CTRL | Qt::Key_F4, this), &QShortcut::activated, this,
-          &QMdiArea::closeActiveSubWindow);
+  connect(this, &QMdiArea::subWindowActivated, this, &PageArea::NoticeFront);
+  // The keys of child windows where people come from; Ctrl+W and Ctrl+Tab are the area's own.
+  const auto onKey = [this](const QKeySequence &key, void (QMdiArea::*act)()) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this, act);
+  };
+  const QKeySequence close(Qt::CTRL | Qt::Key_F4);
+  // Where the platform closes by it the frames have it, and two shortcuts of one key do nothing.
+  if (!QKeySequence::keyBindings(QKeySequence::Close).contains(close))
+    onKey(close, &QMdiArea::closeActiveSubWindow);
+  onKey(Qt::CTRL | Qt::Key_F6, &QMdiArea::activateNextSubWindow);
+  onKey(Qt::CTRL | Qt::SHIFT | Qt::Key_F6, &QMdiArea::activatePreviousSubWindow);
+}
+
+PageArea::~PageArea() {
+  // The frames that go with it are no news.
+  disconnect(this, &QMdiArea::subWindowActivated, this, nullptr);
 }
 
 void PageArea::Adopt(QWidget *window) {
   QMdiSubWindow *frame = addSubWindow(window);
   frame->setObjectName(window->objectName() + QStringLiteral("_Frame"));
   frame->hide();
+  window->installEventFilter(this);
 }
 
 void PageArea::Show(QWidget *window) {
@@ -45,19 +61,22 @@ void PageArea::Show(QWidget *window) {
   window->show();
   frame->showMaximized();
   setActiveSubWindow(frame);
+  NoticeFront();
   window->setFocus();
 }
 
 void PageArea::Activate(QWidget *window) {
   QMdiSubWindow *frame = FrameOf(window);
   if (!frame) return;
-  const bool walksAlongTabs = qobject_cast<QTabBar *>(QApplication::focusWidget()) != nullptr;
-  if (frame->isHidden()) {
+  if (frame->isHidden() || frame->isMinimized()) {
     Show(window);
-  } else {
-    setActiveSubWindow(frame);
-    if (!walksAlongTabs) window->setFocus();
+    return;
   }
+  QWidget *tabs = qobject_cast<QTabBar *>(QApplication::focusWidget());
+  const QScopedValueRollback keeping(keepsKeyboard_, tabs != nullptr);
+  // The frame takes the keyboard for its window whoever has it.
+  setActiveSubWindow(frame);
+  (tabs != nullptr ? tabs : window)->setFocus();
 }
 
 void PageArea::Hide(QWidget *window) {
@@ -65,6 +84,7 @@ void PageArea::Hide(QWidget *window) {
   if (!frame) return;
   ActivateInPlaceOf(frame);
   frame->hide();
+  NoticeFront();
 }
 
 void PageArea::Release(QWidget *window) {
@@ -77,6 +97,7 @@ void PageArea::Release(QWidget *window) {
   window->setParent(this);
   removeSubWindow(frame);
   frame->deleteLater();
+  NoticeFront();
 }
 
 void PageArea::ActivateInPlaceOf(QMdiSubWindow *going) {
@@ -91,6 +112,52 @@ void PageArea::ActivateInPlaceOf(QMdiSubWindow *going) {
 QWidget *PageArea::Current() const {
   const QMdiSubWindow *frame = currentSubWindow();
   return frame && !frame->isHidden() ? frame->widget() : nullptr;
+}
+
+FrontWindow *PageArea::Front() const {
+  return dynamic_cast<FrontWindow *>(Current());
+}
+
+void PageArea::NoticeFront() {
+  QWidget *front = Current();
+  if (front != nullptr && front == noticed_) return;
+  noticed_ = front;
+  NameFrames();
+  Q_EMIT FrontChanged();
+  if (!keepsKeyboard_) GiveKeyboard();
+}
+
+void PageArea::GiveKeyboard() {
+  if (QWidget *front = Current()) front->setFocus();
+}
+
+bool PageArea::eventFilter(QObject *watched, QEvent *event) {
+  // The frame takes over the title of its window first. The area watches its frames as well, whose
+  // titles are its own work.
+  if (event->type() == QEvent::WindowTitleChange &&
+      qobject_cast<QMdiSubWindow *>(watched) == nullptr)
+    QMetaObject::invokeMethod(this, &PageArea::NameFrames, Qt::QueuedConnection);
+  return QMdiArea::eventFilter(watched, event);
+}
+
+void PageArea::NameFrames() {
+  for (QWidget *window : OpenWindows()) {
+    const QString name = NameOf(window);
+    if (FrameOf(window)->windowTitle() != name) FrameOf(window)->setWindowTitle(name);
+  }
+}
+
+QString PageArea::NameOf(const QWidget *window) const {
+  const auto *shown = dynamic_cast<const FrontWindow *>(window);
+  if (shown == nullptr || additions_ == Additions::Off) return window->windowTitle();
+  const QString name = shown->ShownName();
+  const QList<QWidget *> windows = OpenWindows();
+  const bool isShared = std::any_of(windows.begin(), windows.end(), [&](const QWidget *other) {
+    const auto *another = dynamic_cast<const FrontWindow *>(other);
+    return other != window && another != nullptr && another->ShownName() == name;
+  });
+  const QString path = shown->FilePath();
+  return isShared && !path.isEmpty() ? QStringLiteral("%1 (%2)").arg(name, path) : name;
 }
 
 QList<QWidget *> PageArea::OpenWindows() const {
@@ -130,7 +197,7 @@ void WindowList::Refill() {
   if (windows.isEmpty()) return;
   entries_.append(menu_.addSeparator());
   for (QWidget *window : windows) {
-    const QString caption = window->windowTitle().replace(u'&', QStringLiteral("&&"));
+    const QString caption = area_.NameOf(window).replace(u'&', QStringLiteral("&&"));
     QAction *entry = menu_.addAction(QStringLiteral("&%1 %2").arg(entries_.size()).arg(caption));
     entry->setCheckable(true);
     entry->setChecked(window == area_.Current());

@@ -26,6 +26,8 @@ constexpr int TabPadding = 12;
 constexpr int WidestTab = 220;
 constexpr int NarrowestTab = 72;
 constexpr int MarkHeight = 2;
+/// The dot on the picture of a page with unsaved changes.
+constexpr int ChangeMark = 9;
 
 QString NameOf(const QTabBar &tabs) {
   return tabs.objectName();
@@ -55,6 +57,7 @@ void PageTabs::Add(const QString &key, int image) {
     throw RuntimeError::Of(ErrorNumber::IndexOutOfBounds, NameOf(*this), QString::number(image));
   }
   const QSignalBlocker silence(this);
+  tabs_.emplace_back();
   const int index =
       addTab(IconFor(QString::fromLatin1(Images[static_cast<std::size_t>(image - 1)])), QString());
   setTabData(index, key);
@@ -62,10 +65,25 @@ void PageTabs::Add(const QString &key, int image) {
 
 void PageTabs::SetCaption(const QString &key, const QString &caption) {
   const int index = IndexOf(key);
-  // The tool tip holds the caption as it is and is measured; so it is there before the text, which
-  // makes the strip lay itself out. "&" is a letter of a file name here, no mnemonic.
-  setTabToolTip(index, caption);
+  // The caption is measured: it is there before the text, which makes the strip lay itself out. "&"
+  // is a letter of a file name here, no mnemonic.
+  tabs_[static_cast<std::size_t>(index)].caption = caption;
+  Describe(index);
   setTabText(index, QString(caption).replace(u'&', QStringLiteral("&&")));
+}
+
+void PageTabs::SetState(const QString &key, const TabState &state) {
+  const int index = IndexOf(key);
+  tabs_[static_cast<std::size_t>(index)].state = state;
+  Describe(index);
+  update(tabRect(index));
+}
+
+void PageTabs::Describe(int index) {
+  const Tab &tab = tabs_[static_cast<std::size_t>(index)];
+  const QString &place = tab.state.path.isEmpty() ? tab.caption : tab.state.path;
+  // Assistive technology reads the tip as the tab's description.
+  setTabToolTip(index, tab.state.hasChanges ? tr("%1\nUnsaved changes").arg(place) : place);
 }
 
 void PageTabs::Select(const QString &key) {
@@ -77,12 +95,16 @@ void PageTabs::Select(const QString &key) {
 void PageTabs::Remove(const QString &key) {
   const int index = IndexOf(key);
   const QSignalBlocker silence(this);
+  tabs_.erase(tabs_.begin() + index);
   removeTab(index);
 }
 
 void PageTabs::Clear() {
   const QSignalBlocker silence(this);
-  while (count() > 0) removeTab(count() - 1);
+  while (count() > 0) {
+    removeTab(count() - 1);
+    tabs_.pop_back();
+  }
 }
 
 int PageTabs::IndexOf(const QString &key) const {
@@ -100,7 +122,8 @@ void PageTabs::Choose(int index) {
 
 QSize PageTabs::tabSizeHint(int index) const {
   // Rounded up: a caption that is a fraction wider than its place would be cut.
-  const int text = qCeil(QFontMetricsF(font()).horizontalAdvance(tabToolTip(index)));
+  const int text = qCeil(
+      QFontMetricsF(font()).horizontalAdvance(tabs_[static_cast<std::size_t>(index)].caption));
   const int width = TabPadding + MenuIconSize + TabPadding / 2 + text + TabPadding;
   return {std::clamp(width, NarrowestTab, WidestTab), TabHeight};
 }
@@ -115,6 +138,7 @@ void PageTabs::paintEvent(QPaintEvent *) {
   for (int index = 0; index < count(); ++index) {
     const QRect tab = tabRect(index);
     const bool front = index == currentIndex();
+    const Tab &told = tabs_[static_cast<std::size_t>(index)];
     QStyleOptionTab option;
     initStyleOption(&option, index);
     if (front) {
@@ -131,10 +155,19 @@ void PageTabs::paintEvent(QPaintEvent *) {
     picture.moveLeft(place.left());
     tabIcon(index).paint(&painter, picture, Qt::AlignCenter,
                          front ? QIcon::Normal : QIcon::Disabled);
+    if (told.state.hasChanges) {
+      painter.setRenderHint(QPainter::Antialiasing);
+      painter.setBrush(palette().highlight());
+      painter.setPen(QPen(palette().color(QPalette::Window), 1));
+      painter.drawEllipse(QRect(picture.bottomRight() - QPoint(ChangeMark - 2, ChangeMark - 2),
+                                QSize(ChangeMark, ChangeMark)));
+      painter.setRenderHint(QPainter::Antialiasing, false);
+      painter.setBrush(Qt::NoBrush);
+    }
     place.setLeft(place.left() + MenuIconSize + TabPadding / 2);
     painter.setPen(front ? palette().color(QPalette::Text) : QuietText(palette()));
     painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(tabToolTip(index), elideMode(), place.width()));
+                     fontMetrics().elidedText(told.caption, elideMode(), place.width()));
     if (front && hasFocus()) {
       painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));
       painter.drawRect(tab.adjusted(4, MarkHeight + 3, -5, -5));

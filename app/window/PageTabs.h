@@ -6,6 +6,8 @@
 #include <QString>
 #include <QTabBar>
 
+#include <vector>
+
 namespace velor {
 
 /// The page tabs. The order never changes but by adding at the end and removing.
@@ -18,6 +20,7 @@ class PageTabs final : public QTabBar, public TabStrip {
   int Count() const override { return count(); }
   void Add(const QString &key, int image) override;
   void SetCaption(const QString &key, const QString &caption) override;
+  void SetState(const QString &key, const TabState &state) override;
   void Select(const QString &key) override;
   void Remove(const QString &key) override;
   void Clear() override;
@@ -34,6 +37,15 @@ class PageTabs final : public QTabBar, public TabStrip {
  private:
   int IndexOf(const QString &key) const;
   void Choose(int index);
+  /// Makes the tip from caption and state.
+  void Describe(int index);
+
+  struct Tab {
+    QString caption;
+    TabState state;
+  };
+  /// In the order of the strip.
+  std::vector<Tab> tabs_;
 };
 
 }  // namespace velor

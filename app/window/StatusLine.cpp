@@ -36,7 +36,17 @@ void StatusLine::ShowTextForm(const QString &words) {
 }
 
 void StatusLine::Report(const QString &message) {
+  ReportOn(front_, message);
+}
+
+void StatusLine::ReportOn(int page, const QString &message) {
+  noticeOn_ = page;
   showMessage(message, NoticeMilliseconds);
+}
+
+void StatusLine::PageCame(int page) {
+  front_ = page;
+  if (noticeOn_ != 0 && noticeOn_ != page) clearMessage();
 }
 
 }  // namespace velor

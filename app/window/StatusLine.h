@@ -20,10 +20,16 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   void ShowTag(const QString &tag) override;
   void ShowTextForm(const QString &words) override;
   void Report(const QString &message) override;
+  void ReportOn(int page, const QString &message) override;
+  bool HasNotice() const override { return !currentMessage().isEmpty(); }
+  /// The slot of the page that is now in front, 0 for none: a notice on another page goes.
+  void PageCame(int page);
 
  private:
   QLabel *tag_;
   QLabel *textForm_;
+  int front_ = 0;     ///< slot of the page in front
+  int noticeOn_ = 0;  ///< slot of the page that the notice is about; 0: the program
 };
 
 }  // namespace velor

@@ -281,6 +281,7 @@ void RecoveryBar::Show(const AbandonedPage &abandoned) {
   const PageMemory &memory = page.page;
   const FaithfulPage original({memory.original, DecodePage(memory.original), {}});
   frmBrowser &preview = PreviewWindow(context_);
+  preview.SetPage(0);
   context_.mainWindow.windows.Show(&preview);
   preview.brwWebBrowser().NavigateToText(
       page.source ? *page.source : original.Unmasked(memory.document),

@@ -72,7 +72,9 @@ TEST_F(ModesTest, DesignComesToTheFrontWithTheFocusAndCopiesNothing) {
   Page(1).ChangeMode(2);
   log.clear();
   Page(1).ChangeMode(1);
-  EXPECT_EQ(log, Calls({"SetFocus()"}));
+  // Nothing is copied; the bars then show what is true of the design view.
+  EXPECT_EQ(CallLog(log.begin(), log.begin() + 2), Calls({"SetFocus()", "Refresh()"}));
+  EXPECT_EQ(Count(QStringLiteral("Source.SetText()")), 0);
   EXPECT_TRUE(InFront(Component(1).Widget()));
   EXPECT_FALSE(InFront(SourceView(1).Widget()));
 }
@@ -91,7 +93,8 @@ TEST_F(ModesTest, ViewHtmlShowsACopyOfThePagesText) {
   EXPECT_EQ(SourceView(1).text, QStringLiteral("<p>b</p>"));
   EXPECT_EQ(SourceView(1).access, SourceAccess::View);
   EXPECT_TRUE(InFront(SourceView(1).Widget()));
-  EXPECT_EQ(log, Calls({"TextToSave()", "Source.SetText()", "Source.SetFocus()"}));
+  EXPECT_EQ(log, Calls({"TextToSave()", "Source.SetText()", "Source.SetFocus()", "Refresh()",
+                        "ShowNothing()", "ShowTag()"}));
 }
 
 TEST_F(ModesTest, ViewHtmlOpensAtTheCaretsElementAndDesignComesBackToWhereItWasMoved) {
@@ -271,8 +274,9 @@ TEST_F(ModesTest, ActivationChecksAccessAndThenSelectsTheTab) {
   New();
   New();
   Page(1).OnActivated();
-  EXPECT_EQ(
-      log, Calls({"SetSourceEditingEnabled(True)", "SelectTab(key1)", "ResetElementInspection()"}));
+  EXPECT_EQ(log.front(), QStringLiteral("SetSourceEditingEnabled(True)"));
+  EXPECT_EQ(CallLog(log.end() - 2, log.end()),
+            Calls({"SelectTab(key1)", "ResetElementInspection()"}));
   EXPECT_EQ(mainWindow.selectedTab, QStringLiteral("key1"));
 }
 

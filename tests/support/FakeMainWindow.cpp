@@ -36,25 +36,29 @@ void FakeMainWindow::Show(QWidget *window) {
   Note(log_, Call("ShowWindow", {window->objectName()}));
   host_.show();
   window->show();
+  current_ = window;
 }
 
 void FakeMainWindow::Activate(QWidget *window) {
   Note(log_, Call("ActivateWindow", {window->objectName()}));
+  current_ = window;
 }
 
 void FakeMainWindow::Hide(QWidget *window) {
   Note(log_, Call("HideWindow", {window->objectName()}));
   window->hide();
+  if (current_ == window) current_.clear();
 }
 
 void FakeMainWindow::Release(QWidget *window) {
   Note(log_, Call("ReleaseWindow", {window->objectName()}));
   std::erase(adopted, window);
+  if (current_ == window) current_.clear();
 }
 
 void FakeMainWindow::Add(const QString &key, int image) {
   Note(log_, Call("AddTab", {key, QString::number(image)}));
-  tabs.push_back({key, image, {}});
+  tabs.push_back({key, image, {}, {}});
 }
 
 void FakeMainWindow::SetCaption(const QString &key, const QString &caption) {
@@ -133,6 +137,10 @@ void FakeMainWindow::ShowFontSize(const QString &points) {
   Note(log_, Call("ShowFontSize", {points}));
 }
 
+void FakeMainWindow::ShowNothing() {
+  Note(log_, Call("ShowNothing", {}));
+}
+
 void FakeMainWindow::ShowTag(const QString &text) {
   Note(log_, Call("ShowTag", {text}));
   tag = text;
@@ -140,6 +148,11 @@ void FakeMainWindow::ShowTag(const QString &text) {
 
 void FakeMainWindow::Report(const QString &message) {
   Note(log_, Call("Report", {message}));
+  reports << message;
+}
+
+void FakeMainWindow::ReportOn(int page, const QString &message) {
+  Note(log_, Call("ReportOn", {QString::number(page), message}));
   reports << message;
 }
 

@@ -4,6 +4,7 @@
 #include "editor/MainWindow.h"
 #include "tests/support/CallLog.h"
 
+#include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
@@ -24,6 +25,7 @@ class FakeMainWindow final : public ChildWindows,
     QString key;
     int image = 0;
     QString caption;
+    TabState state = {};
   };
 
   explicit FakeMainWindow(FileDialog &sharedDialog, CallLog *log = nullptr)
@@ -43,10 +45,13 @@ class FakeMainWindow final : public ChildWindows,
   void Activate(QWidget *window) override;
   void Hide(QWidget *window) override;
   void Release(QWidget *window) override;
+  /// The window shown or activated last, unless it has gone since.
+  QWidget *Current() const override { return current_; }
 
   int Count() const override { return static_cast<int>(tabs.size()); }
   void Add(const QString &key, int image) override;
   void SetCaption(const QString &key, const QString &caption) override;
+  void SetState(const QString &key, const TabState &state) override { Find(key)->state = state; }
   void Select(const QString &key) override;
   void Remove(const QString &key) override;
   void Clear() override;
@@ -57,10 +62,13 @@ class FakeMainWindow final : public ChildWindows,
   void ShowForeColor(const QString &htmlColor) override;
   void ShowBlockFormat(const QString &name) override;
   void ShowFontSize(const QString &points) override;
+  void ShowNothing() override;
 
   void ShowTag(const QString &tag) override;
   void ShowTextForm(const QString &words) override { textForm = words; }
   void Report(const QString &message) override;
+  void ReportOn(int page, const QString &message) override;
+  bool HasNotice() const override { return !reports.isEmpty() && !reports.last().isEmpty(); }
 
   void SetPageCommandsEnabled(bool enabled) override;
   void SetSourceEditingEnabled(bool enabled) override;
@@ -78,6 +86,7 @@ class FakeMainWindow final : public ChildWindows,
 
   CallLog *log_;
   QWidget host_;
+  QPointer<QWidget> current_;
   FileDialog &dialog_;
 };
 

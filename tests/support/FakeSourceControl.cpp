@@ -48,6 +48,16 @@ void FakeSourceControl::ReplaceSelection(const QString &replacement) {
   TextChanged();
 }
 
+void FakeSourceControl::Edit(EditingCommand command) {
+  Note(log_, QStringLiteral("Source.Edit(%1)").arg(Number(command)));
+  if (command == EditingCommand::SelectAll) {
+    selectionStart = 0;
+    selectionEnd = text.size();
+  } else if (command == EditingCommand::Cut || command == EditingCommand::Delete) {
+    ReplaceSelection({});
+  }
+}
+
 int FakeSourceControl::CaretLine() const {
   return static_cast<int>(QStringView(text).left(selectionEnd).count(u'\n'));
 }

@@ -32,6 +32,7 @@ class FakeSourceControl final : public SourceControl {
   std::function<void()> selectionListener;
   std::function<void()> textListener;
   int markedLine = -1;
+  LineWrap wrap = LineWrap::Off;
   /// The column that the caret is said to stand in, where it is not where the text has it.
   std::optional<int> strayColumn;
 
@@ -43,10 +44,12 @@ class FakeSourceControl final : public SourceControl {
   void SetColor(int slot, std::int32_t color) override { colors[slot] = color; }
   QString SelectedText() const override;
   void ReplaceSelection(const QString &replacement) override;
+  void Edit(EditingCommand command) override;
   int CaretLine() const override;
   int CaretColumn() const override;
   int LineLength(int line) const override;
   void SetCaret(int line, int column) override;
+  void SetLineWrap(LineWrap newWrap) override { wrap = newWrap; }
   void CenterCaret() override {}
   void SetSelectionListener(std::function<void()> listener) override {
     selectionListener = std::move(listener);

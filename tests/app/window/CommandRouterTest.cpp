@@ -4,6 +4,8 @@
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
 
+#include <QStatusBar>
+
 namespace velor {
 namespace {
 
@@ -168,6 +170,44 @@ TEST_F(CommandRouterTest, AFailedSaveTellsTheErrorsNumber) {
   ASSERT_EQ(dialogs.messages.size(), 1U);
   EXPECT_EQ(dialogs.messages[0].buttons, MessageButtons::Ok);
   EXPECT_EQ(dialogs.messages[0].title, QStringLiteral("Velor Web Creator"));
+}
+
+class PublishedOnly : public WindowFixture {
+ protected:
+  PublishedOnly() : WindowFixture(Additions::Off) {}
+};
+
+TEST_F(PublishedOnly, CommandsGoToTheActiveDocumentAloneAndMenusFollowTheOpenPages) {
+  frmMain &page = NewPage();
+  page.ChangeMode(2);
+  log.clear();
+  Choose("mnuCopy");
+  EXPECT_EQ(log, CallLog({QStringLiteral("ExecCommand(5002)")}));
+  page.ChangeMode(3);
+  log.clear();
+  Choose("mnuCut");
+  Choose("mnuSave");
+  EXPECT_TRUE(log.empty());
+  for (const char *on : {"mnuCut", "mnuInsert", "mnuTable"})
+    EXPECT_TRUE(Item(on)->isEnabled()) << on;
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("Velor Web Creator - [Untitled 1]"));
+}
+
+TEST_F(CommandRouterTest, ASaveThatWentWellIsSaidWithThePath) {
+  NewPage();
+  SharedDialog().ExpectSave(QStringLiteral("\\site\\a.htm"));
+  Choose("mnuSave");
+  EXPECT_EQ(Find<QStatusBar>("Sta")->currentMessage(), QStringLiteral("Saved /site/a.htm"));
+}
+
+TEST_F(CommandRouterTest, ASaveThatFailedIsNotSaidToHaveGoneWell) {
+  frmMain &page = NewPage();
+  SharedDialog().ExpectSave(QStringLiteral("\\site\\a.htm"));
+  Choose("mnuSave");
+  Component(page).nextSaveFailure = RuntimeError::Of(ErrorNumber::DiskFull, QStringLiteral("test"));
+  Choose("mnuSave");
+  EXPECT_FALSE(Find<QStatusBar>("Sta")->currentMessage().startsWith(QStringLiteral("Saved")))
+      << Find<QStatusBar>("Sta")->currentMessage().toStdString();
 }
 
 }  // namespace

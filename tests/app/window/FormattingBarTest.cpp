@@ -160,6 +160,8 @@ TEST_F(FormattingBarTest, AColourBoxIsComparedAsAColourBeforeItIsWritten) {
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
   QCoreApplication::processEvents();
   auto *back = Find<ColorPicker>("cpBack");
+  Parts().formats.ShowBackColor(QStringLiteral("#ffffff"));
+  QCoreApplication::processEvents();
   ASSERT_EQ(back->Color(), 0xFFFFFF);
   PaintCounter counter;
   back->installEventFilter(&counter);

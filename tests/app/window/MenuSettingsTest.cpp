@@ -41,12 +41,13 @@ class MenuSettingsTest : public ::testing::Test {
 
   std::string Prepared() {
     painter.calls.clear();
-    PrepareMenus(registry, pictures, painter);
+    PrepareMenus(registry, pictures, painter, [this](int style) { shownStyle = style; });
     return painter.calls.join(QStringLiteral(", ")).toStdString();
   }
 
   FakeRegistry registry;
   RecordingPainter painter;
+  int shownStyle = -1;
   /// A picture's width tells which one it is.
   MenuPictures pictures{.numbered = [](int number) { return QPixmap(number, 1); },
                         .file =
@@ -62,6 +63,7 @@ class MenuSettingsTest : public ::testing::Test {
 TEST_F(MenuSettingsTest, AFirstRunUsesTheDefaultsInThisOrder) {
   EXPECT_EQ(Prepared(),
             "background 2, text 0, border 8388608, highlight 16761024, highlight text 0");
+  EXPECT_EQ(shownStyle, 2);
 }
 
 TEST_F(MenuSettingsTest, StoredValuesAreUsed) {
@@ -71,6 +73,7 @@ TEST_F(MenuSettingsTest, StoredValuesAreUsed) {
   Store("mnuHighlight", "2");
   Store("mnuHighFore", "3");
   EXPECT_EQ(Prepared(), "background 1, text 255, border 1, highlight 2, highlight text 3");
+  EXPECT_EQ(shownStyle, 1);
 }
 
 TEST_F(MenuSettingsTest, StyleNoughtLoadsThePictureFile) {
@@ -153,7 +156,7 @@ TEST(ProgramMenuPictures, ADamagedFileChangesNothing) {
   modSettingManager::SetOption(registry, QStringLiteral("MenuStyle"), QStringLiteral("0"));
   modSettingManager::SetOption(registry, QStringLiteral("MenuBackground"), damaged.fileName());
   RecordingPainter painter;
-  PrepareMenus(registry, ProgramMenuPictures(), painter);
+  PrepareMenus(registry, ProgramMenuPictures(), painter, [](int) {});
   EXPECT_TRUE(painter.calls.constFirst().startsWith(QStringLiteral("text")));
 }
 

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/modSettingManager.h"
+#include "app/window/PageTabs.h"
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
 
@@ -32,8 +34,29 @@ QString Tree(const QList<QAction *> &items) {
 
 using MenusTest = WindowFixture;
 
-TEST_F(MenusTest, TheMenuBarHoldsExactlyThisTree) {
-  EXPECT_EQ(Tree(window.menuBar()->actions()).toStdString(),
+/// What is published is there in both settings.
+class PublishedMenus : public WindowFixture, public ::testing::WithParamInterface<Additions> {
+ protected:
+  PublishedMenus() : WindowFixture(GetParam()) {}
+};
+INSTANTIATE_TEST_SUITE_P(Both, PublishedMenus, ::testing::Values(Additions::On, Additions::Off),
+                         [](const auto &setting) {
+                           return setting.param == Additions::On ? "WithAdditions" : "Alone";
+                         });
+
+TEST_P(PublishedMenus, TheMenuBarHoldsExactlyThisTreeAndToolsBetweenWindowAndHelp) {
+  QList<QAction *> menus = window.menuBar()->actions();
+  QAction *tools = window.findChild<QAction *>(QStringLiteral("mnuTools"));
+  EXPECT_EQ(tools != nullptr, GetParam() == Additions::On);
+  if (tools != nullptr) {
+    const qsizetype place = menus.indexOf(tools);
+    ASSERT_GT(place, 0);
+    EXPECT_EQ(tools->text(), QStringLiteral("Tools (&T)"));
+    EXPECT_EQ(menus.at(place - 1)->objectName(), QStringLiteral("mnuWindow"));
+    EXPECT_EQ(menus.at(place + 1)->objectName(), QStringLiteral("mnuHelp_Top"));
+    menus.removeAt(place);
+  }
+  EXPECT_EQ(Tree(menus).toStdString(),
             R"tree(mnuFile_Top "File (&F)"
   mnuNew "New Document(&N)" Ctrl+N
   mnuOpen "Open... (&O)" Ctrl+O
@@ -74,7 +97,7 @@ mnuHelp_Top "Help (&H)"
 )tree");
 }
 
-TEST_F(MenusTest, TheContextMenuHoldsExactlyThisTree) {
+TEST_P(PublishedMenus, TheContextMenuHoldsExactlyThisTree) {
   EXPECT_EQ(Tree(Find<QMenu>("mnuExt")->actions()).toStdString(),
             R"tree(extCut "Cut"
 extCopy "Copy"
@@ -124,7 +147,7 @@ TEST_F(MenusTest, TheContextMenuPopsUpWhereItIsAskedFor) {
   menu->close();
 }
 
-TEST_F(MenusTest, ItemsWithoutAnActionDoNothing) {
+TEST_P(PublishedMenus, ItemsWithoutAnActionDoNothing) {
   NewPage();
   const QPixmap before = window.grab();
   log.clear();
@@ -173,6 +196,41 @@ TEST_F(MenusTest, AListedDocumentComesToTheFront) {
   menu.actions().at(4)->trigger();
   EXPECT_EQ(ListedWindows(menu).at(1), QStringLiteral("&1 Untitled 1*"));
   EXPECT_EQ(Component(first).Calls().empty(), false);
+}
+
+TEST_F(MenusTest, TheRecentFilesAreListedLatestFirstAndOpen) {
+  QMenu &recent = *Find<QMenu>("mnuRecent");
+  const auto listed = [&recent] {
+    Q_EMIT recent.aboutToShow();
+    QStringList captions;
+    for (const QAction *entry : recent.actions()) captions.append(entry->text());
+    return captions;
+  };
+  EXPECT_EQ(listed(), QStringList(QStringLiteral("No file was opened yet")));
+  EXPECT_FALSE(recent.actions().at(0)->isEnabled());
+  for (const char *name : {"a.htm", "b.htm", "a.htm"}) {
+    const QString path = QStringLiteral("\\site\\") + QString::fromLatin1(name);
+    WriteFile(path);
+    modSettingManager::AddToHistory(registry, path);
+  }
+  EXPECT_EQ(listed(),
+            QStringList({QStringLiteral("&1 /site/a.htm"), QStringLiteral("&2 /site/b.htm")}));
+  recent.actions().at(1)->trigger();
+  ASSERT_EQ(Tabs().count(), 1);
+  EXPECT_EQ(Tabs().tabText(0), QStringLiteral("b.htm"));
+  EXPECT_EQ(Tabs().tabToolTip(0), QStringLiteral("/site/b.htm"));
+}
+
+TEST_F(MenusTest, TheChosenMenuStyleIsMarked) {
+  const auto marked = [this] {
+    QStringList styles;
+    for (const QAction *item : window.findChildren<QAction *>(QStringLiteral("mnuView_style")))
+      if (item->isChecked()) styles.append(item->text());
+    return styles;
+  };
+  EXPECT_EQ(marked(), QStringList(QStringLiteral("Clear XP Style")));
+  Choose("mnuView_style");
+  EXPECT_EQ(marked(), QStringList(QStringLiteral("Sky Blue")));
 }
 
 }  // namespace

@@ -87,5 +87,18 @@ TEST_F(PageTabsTest, WhatTheProgramDoesTellsNobody) {
   EXPECT_EQ(chosen.count(), 0);
 }
 
+TEST_F(PageTabsTest, ATabTellsItsFileAndUnsavedChanges) {
+  const QString key = QStringLiteral("key2");
+  EXPECT_EQ(tabs.tabToolTip(1), QStringLiteral("two.htm"));
+  tabs.SetState(key, {.path = QStringLiteral("/site/two.htm")});
+  EXPECT_EQ(tabs.tabToolTip(1), QStringLiteral("/site/two.htm"));
+  const QImage before = tabs.grab(tabs.tabRect(1)).toImage();
+  tabs.SetState(key, {.path = QStringLiteral("/site/two.htm"), .hasChanges = true});
+  EXPECT_EQ(tabs.tabToolTip(1), QStringLiteral("/site/two.htm\nUnsaved changes"));
+  EXPECT_NE(tabs.grab(tabs.tabRect(1)).toImage(), before);
+  tabs.Remove(QStringLiteral("key1"));
+  EXPECT_EQ(tabs.tabToolTip(0), QStringLiteral("/site/two.htm\nUnsaved changes"));
+}
+
 }  // namespace
 }  // namespace velor

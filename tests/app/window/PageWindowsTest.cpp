@@ -115,7 +115,7 @@ TEST_F(PageWindowsTest, TheSourceEditorComesToTheFrontAndTheTabLeadsBack) {
   EXPECT_EQ(Area().Current(), editor);
   log.clear();
   Choose("mnuCut");
-  EXPECT_TRUE(log.empty());  // no document in front
+  EXPECT_EQ(log, CallLog({QStringLiteral("Source.Edit(5003)")}));
   ClickTab(0);
   EXPECT_EQ(Area().Current(), &page);
 }

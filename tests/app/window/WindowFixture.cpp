@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/app/window/WindowFixture.h"
 
+#include "app/settings/modSettingManager.h"
 #include "app/window/PageTabs.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
@@ -10,7 +11,17 @@
 
 namespace velor {
 
-WindowFixture::WindowFixture() {
+namespace {
+
+Additions Stored(Registry &registry, Additions additions) {
+  if (additions == Additions::Off)
+    modSettingManager::SetOption(registry, QStringLiteral("PublishedOnly"), QStringLiteral("True"));
+  return additions;
+}
+
+}  // namespace
+
+WindowFixture::WindowFixture(Additions wanted) : additions(Stored(registry, wanted)) {
   files.AddFolder(runtime.programFolder);
   files.AddFolder(QStringLiteral("\\site"));
   window.Load();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/window/Additions.h"
 #include "app/window/MfrmProgram.h"
 #include "platform/Platform.h"
 #include "platform/ProgramValues.h"
@@ -30,7 +31,7 @@ class frmMain;
 /// The main window, loaded, in a world of fakes.
 class WindowFixture : public ::testing::Test {
  protected:
-  WindowFixture();
+  explicit WindowFixture(Additions additions = Additions::On);
   ~WindowFixture() override { DeleteClosedWindows(); }
 
   template <typename Widget>
@@ -63,6 +64,8 @@ class WindowFixture : public ::testing::Test {
   CallLog log;
   FakeFiles files;
   FakeRegistry registry;
+  /// Read when the window is made.
+  const Additions additions;
   FakeRuntime runtime{&log};
   FakeDialogs dialogs{&log};
   FakeDatabase database{&log};

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/RecentFiles.h"
+
+#include "app/settings/modSettingManager.h"
+#include "platform/Paths.h"
+
+#include <QAction>
+#include <QMenu>
+
+#include <utility>
+
+namespace velor {
+namespace {
+
+/// As many as have a digit for a key.
+constexpr int MostListed = 9;
+
+}  // namespace
+
+RecentFiles::RecentFiles(QMenu &menu, const Registry &registry,
+                         std::function<void(const QString &path)> open, QObject *parent)
+    : QObject(parent), menu_(menu), registry_(registry), open_(std::move(open)) {
+  connect(&menu_, &QMenu::aboutToShow, this, &RecentFiles::Refill);
+}
+
+void RecentFiles::Refill() {
+  menu_.clear();
+  const QStringList paths = modSettingManager::History(registry_).mid(0, MostListed);
+  for (const QString &path : paths) {
+    const QString caption = ForPeople(path).replace(u'&', QStringLiteral("&&"));
+    menu_.addAction(QStringLiteral("&%1 %2").arg(menu_.actions().size() + 1).arg(caption), this,
+                    [this, path] { open_(path); });
+  }
+  if (paths.isEmpty()) menu_.addAction(tr("No file was opened yet"))->setEnabled(false);
+}
+
+}  // namespace velor

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+
+class QMenu;
+
+namespace velor {
+
+class Registry;
+
+/// Lists the files opened last in a menu whenever it drops down, the latest first.
+class RecentFiles final : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `open` is called with the path of the file that a person chooses, in logic form.
+  RecentFiles(QMenu &menu, const Registry &registry, std::function<void(const QString &path)> open,
+              QObject *parent);
+
+ private:
+  void Refill();
+
+  QMenu &menu_;
+  const Registry &registry_;
+  std::function<void(const QString &path)> open_;
+};
+
+}  // namespace velor
