@@ -35,7 +35,7 @@ EngineVerifier::EngineVerifier(EditingEngine &engine) : engine_(engine) {}
 
 EngineVerifier::~EngineVerifier() {
   // The engine answers what is still open while the page is deleted.
-  wanted_ = {};
+  wanted_.reset();
   then_ = {};
 }
 
@@ -59,15 +59,15 @@ std::optional<QString> EngineVerifier::Answer(const Question &question, const Pa
   if (const auto known = Known(text)) return known;
   if (engine_.Guard().InCallback()) return std::nullopt;
   for (int tries = 0; tries < MostTries && !Known(text); ++tries) {
-    if (wanted_.text != text) Precompute(text, question.expected, {});
+    if (!IsWanted(text)) Precompute(text, question.expected, {});
     const WaitEnd end =
         GuardedWait(engine_.Guard())
             .Until(
-                *this, AnswerLimit, [&] { return Known(text).has_value() || wanted_.text != text; },
+                *this, AnswerLimit, [&] { return Known(text).has_value() || !IsWanted(text); },
                 patience);
     if (end != WaitEnd::Stopped) continue;
     *isStopped = true;
-    wanted_ = {};
+    wanted_.reset();
     given_ = {};
     isReady_ = false;
     if (page_ != nullptr) EndRenderer(*page_);
@@ -89,7 +89,7 @@ std::optional<QString> EngineVerifier::Stoppable::SerialisationLike(const QStrin
 
 void EngineVerifier::Precompute(const QString &text, const QString &expected,
                                 std::function<void()> then) {
-  wanted_ = {text, expected};
+  wanted_ = Question{text, expected};
   then_ = std::move(then);
   isAsked_ = false;
   if (page_ == nullptr) Start();
@@ -111,12 +111,12 @@ void EngineVerifier::Start() {
     engine_.Scheme().Withdraw(address);
     page_->runJavaScript(engine_.Bridge(), BridgeWorld);
     isReady_ = true;
-    if (!wanted_.text.isEmpty() && !isAsked_) Ask();
+    if (wanted_ && !isAsked_) Ask();
   });
   connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, [this] {
     const EngineCallback callback(engine_.Guard());
     isReady_ = false;
-    wanted_ = {};
+    wanted_.reset();
     page_.release()->deleteLater();
     engine_.Guard().Wake();
   });
@@ -125,16 +125,16 @@ void EngineVerifier::Start() {
 
 void EngineVerifier::Ask() {
   isAsked_ = true;
-  const Question before = std::exchange(given_, wanted_);
+  const Question before = std::exchange(given_, *wanted_);
   page_->runJavaScript(
       QStringLiteral("velor.parsed(%1,%2)")
           .arg(Edit(before.text, given_.text), Edit(before.expected, given_.expected)),
       BridgeWorld, [self = QPointer<EngineVerifier>(this), asked = given_](const QVariant &answer) {
-        if (self == nullptr || self->wanted_.text != asked.text) return;
+        if (self == nullptr || !self->IsWanted(asked.text)) return;
         const EngineCallback callback(self->engine_.Guard());
         const bool isExpected = answer.typeId() == QMetaType::Bool && answer.toBool();
         self->last_ = {asked.text, isExpected ? asked.expected : answer.toString()};
-        self->wanted_ = {};
+        self->wanted_.reset();
         if (const auto then = std::exchange(self->then_, {})) then();
         self->engine_.Guard().Wake();
       });

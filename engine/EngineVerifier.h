@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 class QWebEnginePage;
@@ -78,6 +79,7 @@ class EngineVerifier : public QObject, public PageVerifier {
   std::optional<QString> Answer(const Question &question, const Patience *patience,
                                 bool *isStopped);
   std::optional<QString> Known(const QString &text) const;
+  bool IsWanted(const QString &text) const { return wanted_ && wanted_->text == text; }
   /// Makes the page where there is none.
   void Start();
   void Ask();
@@ -85,8 +87,8 @@ class EngineVerifier : public QObject, public PageVerifier {
   EditingEngine &engine_;
   std::unique_ptr<QWebEnginePage> page_;
   bool isReady_ = false;
-  Question wanted_;  ///< asked, or to be asked when the page is ready; no text for none
-  Question given_;   ///< what the page has
+  std::optional<Question> wanted_;  ///< asked, or to be asked when the page is ready
+  Question given_;                  ///< what the page has
   bool isAsked_ = false;
   std::function<void()> then_;
   Parsed last_;

@@ -400,6 +400,20 @@ TEST_F(Saving, TheVerifierIsNotThePagesOwnProcess) {
   EXPECT_NE(Engine().Verifier().ProcessId(), Page()->renderProcessPid());
 }
 
+TEST_F(Saving, TheVerifierParsesAnEmptyTextLikeAnyOther) {
+  EXPECT_EQ(Engine().Verifier().Serialisation(QString()),
+            QStringLiteral("<html><head></head><body></body></html>"));
+}
+
+TEST_F(Saving, APageWhoseWholeTextIsTakenAwayIsSavedEmpty) {
+  const QString path = Write(QStringLiteral("page.htm"), "one two");
+  editor_->LoadDocument(path);
+  Evaluate(QStringLiteral("document.body.textContent = ''"));
+  editor_->SaveDocument(path);
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")), "");
+  EXPECT_TRUE(listener_.reports.empty()) << qPrintable(listener_.reports.front());
+}
+
 TEST_F(Saving, AVerifierWhoseProcessEndsIsMadeAnew) {
   LoadWithCaret("<P>one<P id=x>two", QStringLiteral("#x"));
   TypeText(QStringLiteral("z"));
