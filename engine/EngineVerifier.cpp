@@ -6,8 +6,6 @@
 #include "engine/EditorPage.h"
 #include "platform/TextDifference.h"
 
-#include <QPointer>
-
 #include <utility>
 
 namespace velor {
@@ -33,11 +31,7 @@ QString Edit(const QString &before, const QString &after) {
 
 EngineVerifier::EngineVerifier(EditingEngine &engine) : engine_(engine) {}
 
-EngineVerifier::~EngineVerifier() {
-  // The engine answers what is still open while the page is deleted.
-  wanted_.reset();
-  then_ = {};
-}
+EngineVerifier::~EngineVerifier() = default;
 
 std::optional<QString> EngineVerifier::Known(const QString &text) const {
   if (last_.serialisation.isEmpty() || last_.text != text) return std::nullopt;
@@ -129,14 +123,14 @@ void EngineVerifier::Ask() {
   page_->runJavaScript(
       QStringLiteral("velor.parsed(%1,%2)")
           .arg(Edit(before.text, given_.text), Edit(before.expected, given_.expected)),
-      BridgeWorld, [self = QPointer<EngineVerifier>(this), asked = given_](const QVariant &answer) {
-        if (self == nullptr || !self->IsWanted(asked.text)) return;
-        const EngineCallback callback(self->engine_.Guard());
+      BridgeWorld, [this, life = lifetime_.NewWatch(), asked = given_](const QVariant &answer) {
+        if (life.IsOver() || !IsWanted(asked.text)) return;
+        const EngineCallback callback(engine_.Guard());
         const bool isExpected = answer.typeId() == QMetaType::Bool && answer.toBool();
-        self->last_ = {asked.text, isExpected ? asked.expected : answer.toString()};
-        self->wanted_.reset();
-        if (const auto then = std::exchange(self->then_, {})) then();
-        self->engine_.Guard().Wake();
+        last_ = {asked.text, isExpected ? asked.expected : answer.toString()};
+        wanted_.reset();
+        if (const auto then = std::exchange(then_, {})) then();
+        engine_.Guard().Wake();
       });
 }
 

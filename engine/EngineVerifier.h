@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/GuardedWait.h"
+#include "engine/Lifetime.h"
 #include "page/saving/PageVerifier.h"
 
 #include <QObject>
@@ -92,6 +93,7 @@ class EngineVerifier : public QObject, public PageVerifier {
   bool isAsked_ = false;
   std::function<void()> then_;
   Parsed last_;
+  Lifetime lifetime_;  ///< last: the engine answers what is still open while the page is deleted
 };
 
 }  // namespace velor

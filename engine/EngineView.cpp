@@ -103,7 +103,8 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
 }
 
 EngineView::~EngineView() {
-  // The engine answers what is still open while the page is deleted; nobody listens any more.
+  // While the page is deleted the engine answers what is still open and tells of the page's end.
+  lifetime_.End();
   blockSignals(true);
   phase_ = Phase::Dead;
   delete view_;
@@ -148,9 +149,9 @@ void EngineView::Send(QEvent &input) {
 
 void EngineView::Evaluate(const QString &expression, const Answer &answered) {
   page_->runJavaScript(expression, BridgeWorld,
-                       [alive = QPointer<EngineView>(this), &guard = engine_.Guard(),
+                       [life = lifetime_.NewWatch(), &guard = engine_.Guard(),
                         answered](const QVariant &value) {
-                         if (alive == nullptr) return;
+                         if (life.IsOver()) return;
                          const EngineCallback callback(guard);
                          answered(value);
                        });

@@ -3,6 +3,7 @@
 
 #include "engine/BridgeHost.h"
 #include "engine/EditingEngine.h"
+#include "engine/Lifetime.h"
 #include "engine/TurnQueue.h"
 
 #include <QPointer>
@@ -109,6 +110,7 @@ class EngineView : public QObject, private PageWays {
   QString start_;
   QVariant startAnswer_;
   TurnQueue turns_;
+  Lifetime lifetime_;
 };
 
 }  // namespace velor

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -81,6 +82,53 @@ class EscapeWatch : public QObject {
   std::vector<Kept> kept_;
 };
 
+/// The event loop of one wait. It may run twice: first without user input, then in view of Escape.
+class WaitLoop {
+ public:
+  WaitLoop(QObject &subject, EngineGuard &guard, const std::function<bool()> &done) : done_(done) {
+    QObject::connect(&pump_, &QTimer::timeout, &loop_, [this] {
+      QCoreApplication::sendPostedEvents();
+      Look();
+    });
+    QObject::connect(&guard, &EngineGuard::Woken, &loop_, [this] { Look(); });
+    QObject::connect(&subject, &QObject::destroyed, &loop_, [this] { End(WaitEnd::Destroyed); });
+    pump_.start(PumpInterval);
+  }
+
+  /// How the wait ended; nothing while it goes on.
+  const std::optional<WaitEnd> &Ended() const { return end_; }
+  /// Ends the wait as timed out when that time has passed.
+  void LimitTo(std::chrono::milliseconds limit) {
+    QTimer::singleShot(limit, &loop_, [this] { End(WaitEnd::TimedOut); });
+  }
+  /// Runs until the wait ends, or for that time.
+  void RunWithoutInput(std::optional<std::chrono::milliseconds> time) {
+    if (time) QTimer::singleShot(*time, &loop_, &QEventLoop::quit);
+    loop_.exec(QEventLoop::ExcludeUserInputEvents);
+  }
+  /// Tells the person and runs until the wait ends or is stopped by Escape.
+  void RunStoppable(const Patience &patience) {
+    const EscapeWatch watch(patience.input, [this] { End(WaitEnd::Stopped); });
+    patience.tell();
+    loop_.exec();
+  }
+
+ private:
+  void Look() {
+    if (!end_ && done_()) end_ = WaitEnd::Done;
+    if (end_) loop_.quit();
+  }
+  void End(WaitEnd end) {
+    if (!end_ || end == WaitEnd::Destroyed) end_ = end;
+    loop_.quit();
+  }
+
+  const std::function<bool()> &done_;
+  QEventLoop loop_;
+  QTimer pump_;
+  std::optional<WaitEnd> end_;
+};
+
 }  // namespace
 
 WaitEnd GuardedWait::Until(QObject &subject, std::chrono::milliseconds limit,
@@ -88,51 +136,18 @@ WaitEnd GuardedWait::Until(QObject &subject, std::chrono::milliseconds limit,
   if (guard_.InCallback()) return WaitEnd::Refused;
   if (done()) return WaitEnd::Done;
 
-  const QPointer<QObject> alive(&subject);
-  const QPointer<EngineGuard> guardAlive(&guard_);
-  WaitEnd end = WaitEnd::TimedOut;
-  QEventLoop loop;
-  const auto look = [&] {
-    if (alive.isNull())
-      end = WaitEnd::Destroyed;
-    else if (done())
-      end = WaitEnd::Done;
-    else
-      return;
-    loop.quit();
-  };
-  QTimer pump;
-  QObject::connect(&pump, &QTimer::timeout, &loop, [&] {
-    QCoreApplication::sendPostedEvents();
-    look();
-  });
-  QObject::connect(&guard_, &EngineGuard::Woken, &loop, look);
-  QObject::connect(&subject, &QObject::destroyed, &loop, [&] {
-    end = WaitEnd::Destroyed;
-    loop.quit();
-  });
-  QTimer::singleShot(limit, &loop, &QEventLoop::quit);
-  bool isImpatient = false;
-  if (patience != nullptr) {
-    QTimer::singleShot(patience->time, &loop, [&] {
-      isImpatient = true;
-      loop.quit();
-    });
-  }
-
-  pump.start(PumpInterval);
+  const Lifetime::Watch guardLife = guard_.lifetime_.NewWatch();
   ++guard_.waits_;
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
-  if (isImpatient && end == WaitEnd::TimedOut) {
-    const EscapeWatch watch(patience->input, [&] {
-      end = WaitEnd::Stopped;
-      loop.quit();
-    });
-    patience->tell();
-    loop.exec();
+  WaitLoop loop(subject, guard_, done);
+  loop.LimitTo(limit);
+  if (patience == nullptr) {
+    loop.RunWithoutInput({});
+  } else {
+    loop.RunWithoutInput(patience->time);
+    if (!loop.Ended()) loop.RunStoppable(*patience);
   }
-  if (guardAlive != nullptr) --guard_.waits_;
-  return end;
+  if (!guardLife.IsOver()) --guard_.waits_;
+  return loop.Ended().value_or(WaitEnd::TimedOut);
 }
 
 }  // namespace velor

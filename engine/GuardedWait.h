@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "engine/Lifetime.h"
+
 #include <QObject>
 
 #include <chrono>
@@ -28,6 +30,7 @@ class EngineGuard : public QObject {
   friend class GuardedWait;
   int callbacks_ = 0;
   int waits_ = 0;
+  Lifetime lifetime_;
 };
 
 /// Stands at the top of every function that the engine calls.

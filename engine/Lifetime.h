@@ -5,12 +5,14 @@
 
 namespace velor {
 
-/// A member that ends with its object. Whoever waits for the engine inside a member function takes
-/// a Watch before and asks it afterwards, since a person may have closed the page meanwhile.
+/// A member whose life is that of its object, for code that may outlive the object: a callback of
+/// the engine, or a member function after a wait, in which a person may have closed the page. Such
+/// code makes a Watch beforehand and asks it before it touches the object.
 class Lifetime {
  public:
   class Watch {
    public:
+    /// The object has been destroyed, or its owner has called End.
     bool IsOver() const { return token_.expired(); }
 
    private:
@@ -20,7 +22,9 @@ class Lifetime {
     std::weak_ptr<char> token_;
   };
 
-  Watch Begin() const { return Watch(token_); }
+  Watch NewWatch() const { return Watch(token_); }
+  /// Ends the life that was watched so far; a new one begins.
+  void End() { token_ = std::make_shared<char>(); }
 
  private:
   std::shared_ptr<char> token_ = std::make_shared<char>();

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/NoticeQueue.h"
 
-#include <QPointer>
-
 #include <algorithm>
 #include <utility>
 
@@ -35,9 +33,24 @@ void NoticeQueue::Post(Notice kind, std::function<void()> deliver) {
   QMetaObject::invokeMethod(this, &NoticeQueue::Deliver, Qt::QueuedConnection);
 }
 
+void NoticeQueue::PostToListener(Notice kind, Tell tell) {
+  Post(kind, [this, tell = std::move(tell)] {
+    if (listener_ != nullptr) tell(*listener_);
+  });
+}
+
+void NoticeQueue::Report(const QString &message) {
+  PostToListener(Notice::Report,
+                 [message](EditingListener &listener) { listener.ComponentReported(message); });
+}
+
+void NoticeQueue::ReportNow(const QString &message) {
+  if (listener_ != nullptr) listener_->ComponentReported(message);
+}
+
 void NoticeQueue::Deliver() {
-  const QPointer<NoticeQueue> alive(this);
-  while (alive != nullptr && !waiting_.empty()) {
+  const Lifetime::Watch life = lifetime_.NewWatch();
+  while (!life.IsOver() && !waiting_.empty()) {
     // Still running while a notice is delivered, for the others: its receiver may raise an error,
     // show a dialog or wait for the engine.
     timer_.start();
@@ -46,7 +59,7 @@ void NoticeQueue::Deliver() {
     waiting_.erase(waiting_.begin());
     first.deliver();
   }
-  if (alive != nullptr) timer_.stop();
+  if (!life.IsOver()) timer_.stop();
 }
 
 void NoticeQueue::DeliverNow(Notice kind) {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "engine/GuardedWait.h"
+#include "engine/Lifetime.h"
+#include "platform/EditingComponent.h"
 
 #include <QObject>
 #include <QTimer>
@@ -11,7 +13,7 @@
 
 namespace velor {
 
-/// What a component has to tell, in the order in which it is told when several wait.
+/// Kinds of notices, in the order in which they are delivered when several wait.
 enum class Notice {
   LoadEnded,
   Complete,
@@ -26,20 +28,34 @@ enum class Notice {
   Died
 };
 
-/// Notices to the component's listener. Each is delivered with the next posted events, when the
-/// engine's callback or the call that caused it has returned. None is delivered during a wait
+/// Delivers notices of an editing component to its listener, and to the component itself what it
+/// may not do inside a callback of the engine. A notice is delivered with the next posted events,
+/// when the callback or the call that caused it has returned. None is delivered during a wait
 /// (GuardedWait); a timer of a millisecond tries those again.
 class NoticeQueue : public QObject {
   Q_OBJECT
 
  public:
+  using Tell = std::function<void(EditingListener &)>;
+
   explicit NoticeQueue(EngineGuard &guard);
 
-  /// Two waiting notices of one kind are one, the later; reports are all told.
+  /// nullptr for none; what is told then is dropped.
+  void SetListener(EditingListener *listener) { listener_ = listener; }
+
+  /// Calls `deliver` in its turn. Of two waiting notices of one kind only the later is delivered;
+  /// of reports, all.
   void Post(Notice kind, std::function<void()> deliver);
-  /// Delivers everything that waits; only outside of engine callbacks.
+  /// Posts a notice that calls `tell` with the listener.
+  void PostToListener(Notice kind, Tell tell);
+  /// Posts a message for the status bar.
+  void Report(const QString &message);
+  /// Passes a message on at once, even during a wait; an empty one takes the last one back.
+  void ReportNow(const QString &message);
+
+  /// Delivers all waiting notices; only outside of engine callbacks.
   void Deliver();
-  /// Delivers a notice of that kind before all others, where one waits.
+  /// Delivers the waiting notice of that kind, if any, before all others.
   void DeliverNow(Notice kind);
 
  private:
@@ -51,8 +67,10 @@ class NoticeQueue : public QObject {
   std::vector<Waiting>::iterator Find(Notice kind);
 
   EngineGuard &guard_;
+  EditingListener *listener_ = nullptr;
   QTimer timer_;
   std::vector<Waiting> waiting_;
+  Lifetime lifetime_;
 };
 
 }  // namespace velor

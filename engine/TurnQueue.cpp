@@ -2,7 +2,6 @@
 #include "engine/TurnQueue.h"
 
 #include <QKeyEvent>
-#include <QPointer>
 
 #include <utility>
 
@@ -44,7 +43,7 @@ bool TurnQueue::IsInputOnItsWay() const {
 
 void TurnQueue::SendDue() {
   if (isSendingDue_) return;
-  const QPointer<TurnQueue> alive(this);
+  const Lifetime::Watch life = lifetime_.NewWatch();
   isSendingDue_ = true;
   while (ways_.IsOpen() && !turns_.empty()) {
     if (turns_.front().input != nullptr ? commands_ > 0 : IsInputOnItsWay()) break;
@@ -54,7 +53,7 @@ void TurnQueue::SendDue() {
       SendExpression(turn);
     } else {
       SendInput(*turn.input);
-      if (alive == nullptr) return;
+      if (life.IsOver()) return;
     }
   }
   isSendingDue_ = false;
@@ -64,17 +63,17 @@ void TurnQueue::SendDue() {
 void TurnQueue::SendExpression(const Turn &turn) {
   if (turn.answer) return ways_.Evaluate(turn.expression, turn.answer);
   ++commands_;
-  ways_.Evaluate(turn.expression, [alive = QPointer<TurnQueue>(this), page = page_](auto &&) {
-    if (alive == nullptr || alive->page_ != page) return;
-    if (--alive->commands_ == 0 && !alive->turns_.empty()) alive->leaveTimer_.start();
+  ways_.Evaluate(turn.expression, [this, page = pageLife_.NewWatch()](auto &&) {
+    if (page.IsOver()) return;
+    if (--commands_ == 0 && !turns_.empty()) leaveTimer_.start();
   });
 }
 
 void TurnQueue::SendInput(QEvent &input) {
-  const QPointer<TurnQueue> alive(this);
+  const Lifetime::Watch life = lifetime_.NewWatch();
   isSendingInput_ = true;
   ways_.Send(input);
-  if (alive != nullptr) isSendingInput_ = false;
+  if (!life.IsOver()) isSendingInput_ = false;
 }
 
 void TurnQueue::SendProbe() {
@@ -93,7 +92,7 @@ void TurnQueue::ProbeArrived() {
 }
 
 void TurnQueue::Clear() {
-  ++page_;
+  pageLife_.End();
   turns_.clear();
   commands_ = 0;
   sinceInput_.invalidate();

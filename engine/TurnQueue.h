@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/GuardedWait.h"
+#include "engine/Lifetime.h"
 
 #include <QElapsedTimer>
 #include <QEvent>
@@ -88,13 +89,14 @@ class TurnQueue : public QObject {
   EngineGuard &guard_;
   std::deque<Turn> turns_;
   int commands_ = 0;             ///< on their way
-  int page_ = 0;                 ///< counts Clear: answers of an earlier page are not counted
   QElapsedTimer sinceInput_;     ///< invalid when all input is known to have arrived
   bool isProbeBehind_ = false;   ///< the probe was sent after the last input
   bool isSendingInput_ = false;  ///< input that has waited is not to be held back again
   bool isSendingDue_ = false;
   QTimer leaveTimer_;  ///< leads out of the engine before input is sent
   QTimer probeTimer_;  ///< for a page that does not tell of the probe
+  Lifetime pageLife_;  ///< until Clear
+  Lifetime lifetime_;
 };
 
 }  // namespace velor

@@ -77,7 +77,7 @@ void WebEditor::TakeBytes(const QByteArray &bytes, const QString &nativePath) {
     throw RuntimeError::Of(ErrorNumber::OutOfStringSpace, QStringLiteral("LoadDocument"),
                            nativePath);
   auto original = std::make_shared<FaithfulPage>(PageOriginal{bytes, DecodePage(bytes), {}});
-  const Lifetime::Watch life = lifetime_.Begin();
+  const Lifetime::Watch life = lifetime_.NewWatch();
   if (hasDocument_ && SharesFolder(*original, nativePath)) {
     switch (ReplaceInPlace(original, nativePath)) {
       case Replaced::Done:
@@ -212,14 +212,14 @@ QString WebEditor::DocumentHTML() {
 
 Patience WebEditor::Stoppable(const QString &message) {
   return {ReadPatience,
-          [this, life = lifetime_.Begin(), message] {
+          [this, life = lifetime_.NewWatch(), message] {
             if (!life.IsOver() && listener_ != nullptr) listener_->ComponentReported(message);
           },
           Patience::Input::Kept};
 }
 
 WebEditor::Reading WebEditor::Read() {
-  const Lifetime::Watch life = lifetime_.Begin();
+  const Lifetime::Watch life = lifetime_.NewWatch();
   Reading reading{mirror_.Html(), history_.Current()};
   const auto html = AskForDocument();
   reading.isEditorGone = life.IsOver();
@@ -237,7 +237,7 @@ WebEditor::Reading WebEditor::Read() {
 
 std::optional<QString> WebEditor::AskForDocument() {
   if (view_ == nullptr) return std::nullopt;
-  const Lifetime::Watch life = lifetime_.Begin();
+  const Lifetime::Watch life = lifetime_.NewWatch();
   const int load = loads_;
   view_->AwaitInput();
   const Patience patience = life.IsOver() ? Patience{} : Stoppable(LongRead);
@@ -252,7 +252,7 @@ std::optional<QString> WebEditor::AskForDocument() {
 
 void WebEditor::SaveDocument(const QString &path) {
   Files &files = files_;
-  const Lifetime::Watch life = lifetime_.Begin();
+  const Lifetime::Watch life = lifetime_.NewWatch();
   const SavedPage saved = Compose();
   if (saved.rung == SaveRung::Everything && !life.IsOver()) Report(WrittenAnew(saved.reason));
   files.ReplaceAll(path, saved.page.bytes);

@@ -57,7 +57,7 @@ PageMemory WebEditor::Memory() const {
 
 void WebEditor::Recall(const PageMemory &memory) {
   history_.ForgetLoaded();
-  const Lifetime::Watch life = lifetime_.Begin();
+  const Lifetime::Watch life = lifetime_.NewWatch();
   // First the page as it was before, since only the engine knows what it makes of it.
   Replace(std::make_shared<FaithfulPage>(
               PageOriginal{memory.original, DecodePage(memory.original), {}}),

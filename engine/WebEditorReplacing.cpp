@@ -23,7 +23,7 @@ QString FolderOf(const QString &nativePath) {
 bool WebEditor::SharesFolder(const FaithfulPage &page, const QString &nativePath) {
   if (FolderOf(nativePath) == FolderOf(nativePath_)) return true;
   if (load_ != LoadPurpose::None) return false;
-  const Lifetime::Watch life = lifetime_.Begin();
+  const Lifetime::Watch life = lifetime_.NewWatch();
   const int load = loads_;
   EngineVerifier &verifier = engine_.Verifier();
   const Reading reading = Read();
@@ -35,7 +35,7 @@ bool WebEditor::SharesFolder(const FaithfulPage &page, const QString &nativePath
 
 WebEditor::Replaced WebEditor::ReplaceInPlace(const Original &original, const QString &nativePath) {
   if (load_ != LoadPurpose::None) return Replaced::NotPossible;
-  const Lifetime::Watch life = lifetime_.Begin();
+  const Lifetime::Watch life = lifetime_.NewWatch();
   const int load = loads_;
   view_->AwaitInput();
   // A page closed or loaded anew meanwhile is no failure of this call.
