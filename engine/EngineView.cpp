@@ -148,13 +148,13 @@ void EngineView::Send(QEvent &input) {
 }
 
 void EngineView::Evaluate(const QString &expression, const Answer &answered) {
-  page_->runJavaScript(expression, BridgeWorld,
-                       [life = lifetime_.NewWatch(), &guard = engine_.Guard(),
-                        answered](const QVariant &value) {
-                         if (life.IsOver()) return;
-                         const EngineCallback callback(guard);
-                         answered(value);
-                       });
+  page_->runJavaScript(
+      expression, BridgeWorld,
+      [life = lifetime_.NewWatch(), &guard = engine_.Guard(), answered](const QVariant &value) {
+        if (life.IsOver()) return;
+        const EngineCallback callback(guard);
+        answered(value);
+      });
 }
 
 std::optional<QVariant> EngineView::Ask(const QString &expression, std::chrono::milliseconds limit,

@@ -34,9 +34,15 @@ void NoticeQueue::Post(Notice kind, std::function<void()> deliver) {
 }
 
 void NoticeQueue::PostToListener(Notice kind, Tell tell) {
-  Post(kind, [this, tell = std::move(tell)] {
-    if (listener_ != nullptr) tell(*listener_);
-  });
+  Post(kind, [this, tell = std::move(tell)] { TellNow(tell); });
+}
+
+void NoticeQueue::TellNow(const Tell &tell) {
+  if (listener_ != nullptr) tell(*listener_);
+}
+
+void NoticeQueue::PostDocumentComplete() {
+  PostToListener(Notice::Complete, [](EditingListener &listener) { listener.DocumentComplete(); });
 }
 
 void NoticeQueue::Report(const QString &message) {
@@ -45,7 +51,7 @@ void NoticeQueue::Report(const QString &message) {
 }
 
 void NoticeQueue::ReportNow(const QString &message) {
-  if (listener_ != nullptr) listener_->ComponentReported(message);
+  TellNow([&message](EditingListener &listener) { listener.ComponentReported(message); });
 }
 
 void NoticeQueue::Deliver() {

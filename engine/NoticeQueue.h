@@ -48,8 +48,12 @@ class NoticeQueue : public QObject {
   void Post(Notice kind, std::function<void()> deliver);
   /// Posts a notice that calls `tell` with the listener.
   void PostToListener(Notice kind, Tell tell);
+  /// Posts DocumentComplete.
+  void PostDocumentComplete();
   /// Posts a message for the status bar.
   void Report(const QString &message);
+  /// Calls `tell` with the listener, if any, at once.
+  void TellNow(const Tell &tell);
   /// Passes a message on at once, even during a wait; an empty one takes the last one back.
   void ReportNow(const QString &message);
 

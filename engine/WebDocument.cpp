@@ -2,7 +2,8 @@
 #include "engine/WebDocument.h"
 
 #include "engine/BridgeScript.h"
-#include "engine/WebEditor.h"
+#include "engine/LiveDocument.h"
+#include "engine/NoticeQueue.h"
 
 namespace velor {
 
@@ -12,38 +13,40 @@ namespace {
 /// many, ends included, it shows in seconds.
 constexpr qsizetype MostTags = 400'000;
 
-}  // namespace
-
 class WebTextRange : public TextRange {
  public:
-  explicit WebTextRange(WebEditor &editor) : editor_(editor) {}
+  WebTextRange(LiveDocument &document, NoticeQueue &notices)
+      : document_(document), notices_(notices) {}
 
   void Collapse() override { collapsed_ = true; }
-  HtmlElement ParentElement() const override { return editor_.snapshot_.element; }
+  HtmlElement ParentElement() const override { return document_.Snapshot().element; }
   void PasteHTML(const QString &html) override {
     if (html.count(u'<') > MostTags) {
-      editor_.Report(QStringLiteral("That is too large to be put into a page."));
+      notices_.Report(QStringLiteral("That is too large to be put into a page."));
       return;
     }
-    if (collapsed_) editor_.Run(QStringLiteral("getSelection().collapseToStart()"));
-    editor_.Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(html)));
+    if (collapsed_) document_.Run(QStringLiteral("getSelection().collapseToStart()"));
+    document_.Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(html)));
   }
 
  private:
-  WebEditor &editor_;
+  LiveDocument &document_;
+  NoticeQueue &notices_;
   bool collapsed_ = false;
 };
 
+}  // namespace
+
 SelectionType WebDocument::Type() const {
-  return editor_.snapshot_.selection;
+  return document_.Snapshot().selection;
 }
 
 std::unique_ptr<TextRange> WebDocument::CreateRange() {
-  return std::make_unique<WebTextRange>(editor_);
+  return std::make_unique<WebTextRange>(document_, notices_);
 }
 
 HtmlElement WebDocument::ControlElement() const {
-  return Type() == SelectionType::Control ? editor_.snapshot_.element : HtmlElement{};
+  return Type() == SelectionType::Control ? document_.Snapshot().element : HtmlElement{};
 }
 
 }  // namespace velor

@@ -5,12 +5,15 @@
 
 namespace velor {
 
-class WebEditor;
+class LiveDocument;
+class NoticeQueue;
 
-/// The document object of a WebEditor; answers from its snapshot.
+/// The document object of a WebEditor: answers from the state that the page pushed last, without
+/// asking the page.
 class WebDocument : public HtmlDocument, private DocumentSelection {
  public:
-  explicit WebDocument(WebEditor &editor) : editor_(editor) {}
+  WebDocument(LiveDocument &document, NoticeQueue &notices)
+      : document_(document), notices_(notices) {}
 
   DocumentSelection &Selection() override { return *this; }
 
@@ -19,7 +22,8 @@ class WebDocument : public HtmlDocument, private DocumentSelection {
   std::unique_ptr<TextRange> CreateRange() override;
   HtmlElement ControlElement() const override;
 
-  WebEditor &editor_;
+  LiveDocument &document_;
+  NoticeQueue &notices_;
 };
 
 }  // namespace velor

@@ -4,8 +4,8 @@
 #include "engine/BridgeScript.h"
 #include "engine/FileDrops.h"
 #include "engine/PastedPicture.h"
-#include "engine/WebDocument.h"
 #include "platform/EditingCommands.h"
+#include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/PlainTip.h"
 
@@ -54,120 +54,188 @@ QString ClipboardCommand(EditingCommand command) {
 
 }  // namespace
 
-WebEditor::WebEditor(EditingEngine &engine, Files &files, QString programFolder, QWidget *parent)
-    : engine_(engine),
+WebEditor::WebEditor(EditingEngine &engine, Files &files, const QString &programFolder,
+                     QWidget *parent)
+    : guard_(engine.Guard()),
       files_(files),
-      programFolder_(std::move(programFolder)),
-      document_(std::make_unique<WebDocument>(*this)),
-      notices_(engine.Guard()) {
-  // A document that the one who shows the widget sets right afterwards must not wait for another.
-  container_ = new EditorFrame(
-      parent, [this] { QTimer::singleShot(1, &notices_, [this] { LoadBlankIfEmpty(); }); });
-  QObject::connect(&mirror_, &DocumentMirror::LookDue, [this] { LookAtPage(); });
-  QObject::connect(&mirror_, &DocumentMirror::Rested, [this] { ComposeAhead(); });
+      notices_(engine.Guard()),
+      // A document that whoever shows the widget sets right afterwards must not wait for another.
+      document_(
+          engine, notices_,
+          new EditorFrame(
+              parent,
+              [this] { QTimer::singleShot(1, &notices_, [this] { loader_.LoadBlankIfEmpty(); }); }),
+          [this](EngineView &view) { ConnectView(view); }),
+      documentObject_(document_, notices_),
+      loader_(document_, notices_, options_, programFolder),
+      replacer_(document_, loader_, notices_, engine.Verifier()),
+      saver_(document_, loader_, notices_, files, engine.Verifier()) {
+  QObject::connect(&document_.Mirror(), &DocumentMirror::Rested, [this] { saver_.ComposeAhead(); });
 }
 
-WebEditor::~WebEditor() {
-  view_.reset();
-  delete container_;
-}
-
-EngineView &WebEditor::View() {
-  if (view_ == nullptr) {
-    view_ = std::make_unique<EngineView>(engine_, container_);
-    ConnectView();
-  }
-  return *view_;
-}
-
-void WebEditor::ConnectView() {
-  EngineView *view = view_.get();
-  QObject::connect(view, &EngineView::StateArrived,
-                   [this](const StateSnapshot &state) { StateArrived(state); });
-  QObject::connect(view, &EngineView::MirrorArrived, [this](const QVariantMap &told) {
-    typing_.NoteTold(told[QStringLiteral("idle")].toBool());
-    if (mirror_.ApplyChanges(told))
-      MemoryChanged();
-    else
-      mirror_.LookSoon();
-  });
-  QObject::connect(view, &EngineView::LoadEnded,
-                   [this] { notices_.Post(Notice::LoadEnded, [this] { FinishLoad(); }); });
-  QObject::connect(view, &EngineView::Died,
-                   [this] { notices_.Post(Notice::Died, [this] { Died(); }); });
-  const auto step = [this](Direction direction) {
-    notices_.Post(Notice::StepOverLoad, [this, direction] { StepOverLoad(direction); });
+void WebEditor::ConnectView(EngineView &view) {
+  const auto post = [this](Notice kind, const std::function<void()> &deliver) {
+    notices_.Post(kind, deliver);
   };
-  QObject::connect(view, &EngineView::PictureWanted, [this] {
-    notices_.Post(Notice::Picture, [this] {
-      const QStringList files = LocalFiles(QGuiApplication::clipboard()->mimeData());
-      if (!files.isEmpty()) return TakeFiles(files);
-      const QString markup = PastedPicture(nativePath_);
-      if (!markup.isEmpty()) Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(markup)));
+  using Direction = DocumentHistory::Direction;
+  QObject::connect(&view, &EngineView::StateArrived,
+                   [this](const StateSnapshot &state) { StateArrived(state); });
+  QObject::connect(&view, &EngineView::MirrorArrived, [this](const QVariantMap &told) {
+    typing_.NoteTold(told[QStringLiteral("idle")].toBool());
+    document_.ApplyChanges(told);
+  });
+  QObject::connect(&view, &EngineView::LoadEnded,
+                   [=, this] { post(Notice::LoadEnded, [this] { loader_.FinishLoad(); }); });
+  QObject::connect(&view, &EngineView::Died,
+                   [=, this] { post(Notice::Died, [this] { loader_.ReloadAfterCrash(); }); });
+  QObject::connect(&view, &EngineView::PictureWanted,
+                   [=, this] { post(Notice::Picture, [this] { PastePicture(); }); });
+  QObject::connect(&view, &EngineView::EarlierWanted, [=, this] {
+    post(Notice::StepOverLoad, [this] { replacer_.StepOverLoad(Direction::Earlier); });
+  });
+  QObject::connect(&view, &EngineView::LaterWanted, [=, this] {
+    post(Notice::StepOverLoad, [this] { replacer_.StepOverLoad(Direction::Later); });
+  });
+  QObject::connect(&view, &EngineView::PointerMoved, [this](QPoint position) {
+    notices_.PostToListener(Notice::Pointer, [position](EditingListener &listener) {
+      listener.MouseNotified(position.x(), position.y());
     });
   });
-  QObject::connect(view, &EngineView::EarlierWanted, [step] { step(Direction::Earlier); });
-  QObject::connect(view, &EngineView::LaterWanted, [step] { step(Direction::Later); });
-  QObject::connect(view, &EngineView::PointerMoved, [this](QPoint position) {
-    notices_.Post(Notice::Pointer, [this, position] {
-      if (listener_ != nullptr) listener_->MouseNotified(position.x(), position.y());
+  QObject::connect(&view, &EngineView::MenuWanted, [this](QPoint position) {
+    notices_.PostToListener(Notice::Menu, [position](EditingListener &listener) {
+      listener.ContextMenuRequested(position);
     });
   });
-  QObject::connect(view, &EngineView::MenuWanted, [this](QPoint position) {
-    notices_.Post(Notice::Menu, [this, position] {
-      if (listener_ != nullptr) listener_->ContextMenuRequested(position);
-    });
-  });
-  QObject::connect(view, &EngineView::FilesDropped, [this](const QStringList &files, QPoint place) {
-    Run(QStringLiteral("velor.caretAt(%1,%2)").arg(place.x()).arg(place.y()));
-    notices_.Post(Notice::Drop, [this, files] { TakeFiles(files); });
-  });
+  QObject::connect(
+      &view, &EngineView::FilesDropped, [=, this](const QStringList &files, QPoint place) {
+        document_.Run(QStringLiteral("velor.caretAt(%1,%2)").arg(place.x()).arg(place.y()));
+        post(Notice::Drop, [this, files] { TellOfFiles(files); });
+      });
   // Completion is told before the first input reaches the page.
-  QObject::connect(view, &EngineView::InputComing, [this] {
+  QObject::connect(&view, &EngineView::InputComing, [this] {
     typing_.NoteInput();
     notices_.Deliver();
   });
 }
 
-void WebEditor::TakeFiles(const QStringList &nativePaths) {
+void WebEditor::StateArrived(const StateSnapshot &state) {
+  document_.ApplyState(state);
+  notices_.PostToListener(Notice::Display,
+                          [](EditingListener &listener) { listener.DisplayChanged(); });
+}
+
+void WebEditor::PastePicture() {
+  const QStringList files = LocalFiles(QGuiApplication::clipboard()->mimeData());
+  if (!files.isEmpty()) return TellOfFiles(files);
+  const QString markup = PastedPicture(document_.NativePath());
+  if (!markup.isEmpty())
+    document_.Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(markup)));
+}
+
+void WebEditor::TellOfFiles(const QStringList &nativePaths) {
   QStringList paths;
   for (const QString &file : nativePaths) paths += ToLogic(file);
-  if (listener_ != nullptr) listener_->FilesDropped(paths);
+  notices_.TellNow([&paths](EditingListener &listener) { listener.FilesDropped(paths); });
+}
+
+QWidget *WebEditor::Widget() {
+  return document_.Frame();
+}
+
+void WebEditor::SetListener(EditingListener *listener) {
+  notices_.SetListener(listener);
+}
+
+void WebEditor::SetFocus() {
+  if (document_.View() != nullptr)
+    document_.View()->SetFocus();
+  else if (document_.Frame() != nullptr)
+    document_.Frame()->setFocus();
+}
+
+void WebEditor::SetToolTip(const QString &text) {
+  if (document_.Frame() != nullptr) document_.Frame()->setToolTip(PlainTip(text));
+}
+
+void WebEditor::SetDocumentHTML(const QString &html) {
+  loader_.LoadText(html);
+}
+
+void WebEditor::LoadDocument(const QString &path) {
+  replacer_.Replace(files_.ReadAll(path), ToNative(path));
+}
+
+void WebEditor::LoadText(const QString &html, const QString &path) {
+  const PageOriginal &original = document_.History().Current()->Original();
+  replacer_.Replace(BytesForText(original, html, EncodingInPlaceOf(original.page.encoding, html)),
+                    ToNative(path));
+}
+
+void WebEditor::DeliverCompletion() {
+  notices_.DeliverNow(Notice::Complete);
+}
+
+QString WebEditor::DocumentHTML() {
+  loader_.LoadBlankIfEmpty();
+  const LiveDocument::Reading reading = document_.Read();
+  return reading.original->Unmasked(reading.html);
+}
+
+void WebEditor::SaveDocument(const QString &path) {
+  saver_.Save(path);
+}
+
+QString WebEditor::TextToSave() {
+  return Compose().page.text;
+}
+
+QString WebEditor::ReasonToWriteAnew() {
+  return Compose().reason;
+}
+
+PageMemory WebEditor::Memory() const {
+  return {document_.History().Current()->Original().bytes, document_.NativePath(),
+          document_.Mirror().Html()};
+}
+
+void WebEditor::Recall(const PageMemory &memory) {
+  loader_.Restore(memory);
 }
 
 bool WebEditor::IsIdle() const {
   return typing_.IsIdle();
 }
 
-QWidget *WebEditor::Widget() {
-  return container_;
+bool WebEditor::IsWaiting() const {
+  return guard_.Waiting();
 }
 
-void WebEditor::SetListener(EditingListener *listener) {
-  listener_ = listener;
+const PageEncoding &WebEditor::Encoding() const {
+  return document_.History().Current()->Original().page.encoding;
 }
 
-void WebEditor::SetFocus() {
-  if (view_ != nullptr)
-    view_->SetFocus();
-  else if (container_ != nullptr)
-    container_->setFocus();
+QString WebEditor::Charset() const {
+  return Encoding().charset;
 }
 
-void WebEditor::SetToolTip(const QString &text) {
-  if (container_ != nullptr) container_->setToolTip(PlainTip(text));
+QString WebEditor::TextForm() const {
+  return InWords(Encoding());
+}
+
+bool WebEditor::HasByteOrderMark() const {
+  return Encoding().byteOrderMark;
 }
 
 QVariant WebEditor::ExecCommand(EditingCommand command, ExecOption, const QVariant &value) {
-  if (const auto answer = snapshot_.ValueOf(command)) return *answer;
+  if (const auto answer = document_.Snapshot().ValueOf(command)) return *answer;
   if (const QString name = ClipboardCommand(command); !name.isEmpty()) {
-    Run(QStringLiteral("document.execCommand(%1)").arg(ScriptValue(name)));
+    document_.Run(QStringLiteral("document.execCommand(%1)").arg(ScriptValue(name)));
   } else if (value.isValid()) {
-    Run(QStringLiteral("velor.exec(%1,%2)")
-            .arg(Number(command))
-            .arg(ScriptValue(value.toString())));
+    document_.Run(QStringLiteral("velor.exec(%1,%2)")
+                      .arg(Number(command))
+                      .arg(ScriptValue(value.toString())));
   } else {
-    Run(QStringLiteral("velor.exec(%1)").arg(Number(command)));
+    document_.Run(QStringLiteral("velor.exec(%1)").arg(Number(command)));
   }
   return {};
 }
@@ -177,33 +245,29 @@ QStringList WebEditor::BlockFormats() const {
 }
 
 CommandStatus WebEditor::QueryStatus(EditingCommand command) const {
-  return snapshot_.StatusOf(command);
+  return document_.Snapshot().StatusOf(command);
 }
 
 HtmlDocument &WebEditor::Document() {
-  return *document_;
+  return documentObject_;
 }
 
 bool WebEditor::ShowDetails() const {
-  return showDetails_;
+  return options_.showDetails;
 }
 
 void WebEditor::SetShowDetails(bool on) {
-  showDetails_ = on;
-  Run(QStringLiteral("velor.setDetails(%1)").arg(ScriptValue(on)));
+  options_.showDetails = on;
+  document_.Run(QStringLiteral("velor.setDetails(%1)").arg(ScriptValue(on)));
 }
 
 bool WebEditor::SnapToGrid() const {
-  return snapToGrid_;
+  return options_.snapToGrid;
 }
 
 void WebEditor::SetSnapToGrid(bool on) {
-  snapToGrid_ = on;
-  Run(QStringLiteral("velor.setSnap(%1)").arg(ScriptValue(on)));
-}
-
-void WebEditor::Run(const QString &expression) {
-  if (view_ != nullptr) view_->Run(expression);
+  options_.snapToGrid = on;
+  document_.Run(QStringLiteral("velor.setSnap(%1)").arg(ScriptValue(on)));
 }
 
 }  // namespace velor

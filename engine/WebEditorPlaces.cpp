@@ -22,8 +22,8 @@ const QString Offset = QStringLiteral("offset");
 
 ElementPlaces WebEditor::CaretPlaces() {
   ElementPlaces places;
-  if (view_ == nullptr) return places;
-  const auto answer = view_->Ask(QStringLiteral("velor.caretPlaces()"), PlaceLimit);
+  if (document_.View() == nullptr) return places;
+  const auto answer = document_.View()->Ask(QStringLiteral("velor.caretPlaces()"), PlaceLimit);
   if (!answer) return places;
   for (const QVariant &each : answer->toList()) {
     const QVariantMap place = each.toMap();
@@ -36,7 +36,7 @@ void WebEditor::ShowPlace(const ElementPlaces &places) {
   QVariantList list;
   for (const ElementPlace &place : places)
     list << QVariantMap{{Name, place.name}, {Ordinal, place.ordinal}, {Offset, place.offset}};
-  Run(QStringLiteral("velor.showPlace(%1)").arg(ScriptValue(list)));
+  document_.Run(QStringLiteral("velor.showPlace(%1)").arg(ScriptValue(list)));
 }
 
 }  // namespace velor
