@@ -13,7 +13,7 @@ type Anchor = TextAnchor | { beside: ChildNode; side: number } | { inside: Eleme
 interface TextAnchor { node: Text; offset: number }
 
 /** The selection as anchors; null where nothing is selected. */
-type KeptSelection = { anchor: Anchor; focus: Anchor } | null;
+type SavedSelection = { anchor: Anchor; focus: Anchor } | null;
 
 /** The selection as the engine tells it; anchorNode is null where there is none. */
 interface SelectionPoints {
@@ -157,6 +157,9 @@ interface Format extends FormatEntry {
   /** Takes the format off the element. */
   strip(element: HTMLElement): void;
 }
+
+/** A position in the viewport, in its pixels. */
+interface Position { x: number; y: number }
 
 /** A box in the viewport, in its pixels. */
 interface Box {

@@ -5,7 +5,7 @@ import * as lists from './lists.js';
 import { beside, isBlank } from '../page/beside.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
-import { become, changeUnits, heldUnits, unitsIn } from '../page/units.js';
+import { become, changeUnits, readUnits, unitsIn } from '../page/units.js';
 
 // In the order in which lists show them. `list` is the element around the items.
 /** @type {{ name: string, element: string, list?: string }[]} */
@@ -47,7 +47,7 @@ export function read(unit) {
 }
 
 // Line ends show in preformatted text only; elsewhere they are breaks. Kept anchors go along.
-export function breakLines(element, kept) {
+export function breakLines(element, saved) {
   const goesOn = (text) => {
     if (text.length) return true;
     let at = dom.nextSkippingChildren(text);
@@ -56,7 +56,7 @@ export function breakLines(element, kept) {
     }
     return Boolean(at) && element.contains(at);
   };
-  const anchors = kept ? [kept.anchor, kept.focus] : [];
+  const anchors = saved ? [saved.anchor, saved.focus] : [];
   for (let text of dom.textsUnder(element)) {
     for (let at = text.data.indexOf('\n'); at >= 0; at = text.data.indexOf('\n')) {
       const rest = text.splitText(at);
@@ -73,29 +73,29 @@ export function breakLines(element, kept) {
   }
 }
 
-// White space shows as it stands in preformatted text: what was seen of it is left. Kept places go
-// along.
-function collapseBlanks(element, kept) {
-  const places = kept ? [kept.anchor, kept.focus] : [];
+// White space shows as it stands in preformatted text: what was seen of it is left. The selection's
+// anchors in it go along.
+function collapseBlanks(element, saved) {
+  const anchors = saved ? [saved.anchor, saved.focus] : [];
   const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
   while (walker.nextNode()) {
     const text = /** @type {Text} */ (walker.currentNode);
-    if (!dom.ancestor(text, dom.isAtom)) collapseText(text, places);
+    if (!dom.ancestor(text, dom.isAtom)) collapseText(text, anchors);
   }
 }
-function collapseText(text, places) {
+function collapseText(text, anchors) {
   for (let at = text.length - 1; at >= 0; at--) {
     if (!isBlank({ node: text, index: at })) continue;
     const before = beside(text, at, 'previousSibling');
     const shows = before && !isBlank(before) && beside(text, at + 1, 'nextSibling') !== null;
     if (shows) text.insertData(at + 1, ' ');
     text.deleteData(at, 1);
-    const moved = shows ? [] : places.filter(({ node, offset }) => node === text && offset > at);
-    for (const place of moved) place.offset -= 1;
+    const moved = shows ? [] : anchors.filter(({ node, offset }) => node === text && offset > at);
+    for (const anchor of moved) anchor.offset -= 1;
   }
 }
 
-function becomeParagraph(unit, { name, element: tag }, kept) {
+function becomeParagraph(unit, { name, element: tag }, saved) {
   const { block, container } = unit;
   if (block?.tagName === tag) return block;
   if (name === 'Normal') {
@@ -106,8 +106,8 @@ function becomeParagraph(unit, { name, element: tag }, kept) {
   if (inside && tag !== 'P') return null;
   const preformatted = dom.isPreformatted(block);
   const element = become(unit, tag);
-  if (tag === 'PRE' && !preformatted) collapseBlanks(element, kept);
-  if (preformatted) breakLines(element, kept);
+  if (tag === 'PRE' && !preformatted) collapseBlanks(element, saved);
+  if (preformatted) breakLines(element, saved);
   return element;
 }
 
@@ -129,11 +129,11 @@ const lineEnds = new Map([
 ]);
 
 // A format chosen by name takes the place of the one that is there: an item is no heading then.
-function becomePlain({ block }, kept) {
+function becomePlain({ block }, saved) {
   if (!block || !dom.isParagraph(block) || /^(P|DT)$/.test(block.tagName)) return;
   const preformatted = dom.isPreformatted(block);
   const paragraph = dom.rename(block, 'P');
-  if (preformatted) breakLines(paragraph, kept);
+  if (preformatted) breakLines(paragraph, saved);
   const item = paragraph.parentNode;
   const alone = /^(LI|DT|DD)$/.test(item.tagName) && !paragraph.attributes.length &&
     !dom.neighbour(paragraph, 'previousSibling') && !dom.neighbour(paragraph, 'nextSibling');
@@ -146,34 +146,34 @@ export const takesFormat = ({ object }) =>
 
 // Lists of the other kind are left one level at a time.
 /** @param {{ name: string, element: string, list?: string }} format */
-function makeList({ name, list, element }, kept) {
+function makeList({ name, list, element }, saved) {
   for (let level = 0; level < 50; level++) {
-    selection.restore(kept);
+    selection.restore(saved);
     const units = unitsIn(selection.range());
     if (units.every((unit) => read(unit) === name)) return;
-    lists.make(heldUnits(units), list, element);
+    lists.make(readUnits(units), list, element);
   }
 }
 
 export function apply(name) {
   const format = byName(name);
   if (!format) return;
-  const kept = selection.keep();
-  changeUnits(kept, (units) => give(format, units, kept));
+  const saved = selection.save();
+  changeUnits(saved, (units) => give(format, units, saved));
 }
-function give(format, found, kept) {
-  const units = lists.housed(found, kept).filter(takesFormat);
+function give(format, found, saved) {
+  const units = lists.housed(found, saved).filter(takesFormat);
   if (!units.length) return;
   if (units.every((unit) => read(unit) === format.name)) return;
   if (format.list) {
-    units.forEach((unit) => becomePlain(unit, kept));
-    makeList(format, kept);
+    units.forEach((unit) => becomePlain(unit, saved));
+    makeList(format, saved);
   } else if (format.element === 'P') {
     lists.unlist();
     unitsIn(selection.range())
-      .forEach((unit) => becomeParagraph(unit, format, kept));
+      .forEach((unit) => becomeParagraph(unit, format, saved));
   } else {
-    const made = units.map((unit) => becomeParagraph(unit, format, kept)).filter(Boolean);
+    const made = units.map((unit) => becomeParagraph(unit, format, saved)).filter(Boolean);
     const lineEnd = lineEnds.get(format.element);
     if (lineEnd) joinLines(made, lineEnd);
   }

@@ -5,7 +5,7 @@
 import * as dom from '../page/dom.js';
 import { keepsBlanks } from '../page/beside.js';
 import * as selection from '../page/selection.js';
-import { heldUnits, unitsIn } from '../page/units.js';
+import { readUnits, unitsIn } from '../page/units.js';
 
 /**
  * A caret as a range.
@@ -23,7 +23,7 @@ const caretAt = (node, offset) => ({
  * @param {number} offset
  * @returns {Unit | null}
  */
-export const unitAt = (node, offset) => heldUnits(unitsIn(caretAt(node, offset)))[0] ?? null;
+export const unitAt = (node, offset) => readUnits(unitsIn(caretAt(node, offset)))[0] ?? null;
 
 /**
  * @param {Unit | null} one

@@ -276,9 +276,9 @@ export function outdent(group, putTail = toLast) {
 
 // Takes the item that the caret is in one level out.
 export function leave(unit) {
-  const kept = selection.keep();
+  const saved = selection.save();
   groupsOf([unit]).forEach((group) => outdent(group));
-  selection.restore(kept);
+  selection.restore(saved);
 }
 
 // Cuts an item in two at the caret, where its text stands in a block with more behind it: the
@@ -303,19 +303,19 @@ export function unlist() {
   for (let level = 0; level < 50; level++) {
     const groups = groupsOf(unitsIn(selection.range()));
     if (!groups.length) return;
-    const kept = selection.keep();
+    const saved = selection.save();
     groups.forEach((group) => outdent(group, toOwnItem));
-    selection.restore(kept);
+    selection.restore(saved);
   }
 }
 
 // Old pages have text directly in lists: what is touched becomes an item. Returns the units as they
 // are then.
-export function housed(units, kept) {
+export function housed(units, saved) {
   const stray = units.filter(({ container, nodes }) => dom.isList(container) && nodes.length);
   if (!stray.length) return units;
   stray.forEach(({ nodes }) => dom.wrap(nodes, dom.create('LI')));
-  selection.restore(kept);
+  selection.restore(saved);
   return unitsIn(selection.range());
 }
 

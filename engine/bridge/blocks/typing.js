@@ -27,13 +27,13 @@ function needsParagraph(unit, { inputType }) {
   return !unit.block || unit.block.id !== '';
 }
 function makeParagraph(unit) {
-  const kept = selection.keep();
+  const saved = selection.save();
   const paragraph = enclose(unit, dom.create('P'));
   if (!dom.hasContent(paragraph)) {
     paragraph.append(dom.create('BR'));
     selection.setCaret(paragraph, 0);
   } else {
-    selection.restore(kept);
+    selection.restore(saved);
   }
 }
 

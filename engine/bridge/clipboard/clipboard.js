@@ -198,15 +198,15 @@ const dragEnds = () => { dragged = null; };
 
 // The engine's own moving of what is dragged within a page takes two steps and doubles ids.
 function move(range, event) {
-  const place = document.caretRangeFromPoint(event.clientX, event.clientY);
-  const isAway = place && document.body.contains(place.startContainer) &&
-    !range.isPointInRange(place.startContainer, place.startOffset);
+  const target = document.caretRangeFromPoint(event.clientX, event.clientY);
+  const isAway = target && document.body.contains(target.startContainer) &&
+    !range.isPointInRange(target.startContainer, target.startOffset);
   if (!isAway) return;
   history.step('drag', () => {
     const fragment = partOf(range);
-    // Texts and elements at the place may be joined to others; this stays where it is in them.
+    // Texts and elements there may be joined to others; this stays where it is in them.
     const mark = document.createComment('');
-    place.insertNode(mark);
+    target.insertNode(mark);
     if (!event.ctrlKey) deleteToPoint(range);
     const { parentNode } = mark;
     const index = selection.indexOf(mark);

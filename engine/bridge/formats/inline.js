@@ -228,12 +228,12 @@ function mergeWith(format, element, side, isNew) {
   if (!dom.isElement(element[side])) return element;
   const other = turned(format, element, element[side]);
   if (!alike(format, element, other)) return element;
-  const [kept, gone] = isNew ? [other, element] : [element, other];
+  const [stays, gone] = isNew ? [other, element] : [element, other];
   const before = (side === 'previousSibling') === isNew;
-  if (before) kept.append(...gone.childNodes);
-  else kept.prepend(...gone.childNodes);
+  if (before) stays.append(...gone.childNodes);
+  else stays.prepend(...gone.childNodes);
   gone.remove();
-  return kept;
+  return stays;
 }
 
 /**

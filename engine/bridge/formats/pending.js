@@ -5,19 +5,19 @@ import * as inline from './inline.js';
 import * as selection from '../page/selection.js';
 
 const chosen = new Map();
-let place = null;  // where the formats were chosen
+let chosenAt = null;  // where the formats were chosen
 
 export const has = (name) => chosen.has(name);
 export const get = (name) => chosen.get(name);
 export function set(name, value) {
   chosen.set(name, value);
-  place = selection.points();
+  chosenAt = selection.points();
 }
 export function clear() { chosen.clear(); }
 
 // The caret went elsewhere: what was chosen is forgotten.
 export function selectionMoved() {
-  if (chosen.size && !selection.samePoints(place, selection.points())) chosen.clear();
+  if (chosen.size && !selection.samePoints(chosenAt, selection.points())) chosen.clear();
 }
 
 // The text is there: puts the formats on it and the caret at its end.
@@ -33,4 +33,4 @@ export function typed(text) {
 }
 
 // A new line keeps what was chosen.
-export function moved() { if (chosen.size) place = selection.points(); }
+export function moved() { if (chosen.size) chosenAt = selection.points(); }

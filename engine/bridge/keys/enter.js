@@ -139,9 +139,9 @@ function dropDoubledId() {
 function leaveLink(block) {
   const link = dom.lastLeaf(block).parentNode.closest('a[href]');
   if (!link || !block.contains(link)) return;
-  const kept = selection.keep();
+  const saved = selection.save();
   dom.unwrap(link);
-  selection.restore(kept);
+  selection.restore(saved);
 }
 
 // A definition follows a term, and a term a definition.
@@ -151,9 +151,9 @@ function alternate(block) {
   if (!item || (item !== block && others)) return;
   const before = dom.neighbour(item, 'previousSibling');
   if (before?.tagName !== item.tagName) return;
-  const kept = selection.keep();
+  const saved = selection.save();
   dom.rename(item, item.tagName === 'DT' ? 'DD' : 'DT');
-  selection.restore(kept);
+  selection.restore(saved);
 }
 
 /**

@@ -34,7 +34,7 @@ function frameOf(object) {
 }
 // The pixels of the frame's line that the handles have in their middle.
 /** @returns {[grip: string, x: number, y: number][]} */
-const handlePlaces = ({ left, top, right, bottom }) =>
+const handleCentres = ({ left, top, right, bottom }) =>
   [...grips].map(([name, [x, y]]) =>
     [name, Math.round(left + x * (right - left - 1)), Math.round(top + y * (bottom - top - 1))]);
 
@@ -43,10 +43,10 @@ const square = (paint, size) => ([, x, y]) => ({ image: solid(paint), x: x - (si
 
 function frameLayers(frame) {
   const { left, top, right, bottom } = frame;
-  const places = handlePlaces(frame);
+  const centres = handleCentres(frame);
   const line = (x, y, width, height) => ({ image: solid(colour), x, y, width, height });
   return [
-    ...places.map(square('#ffffff', handle - 2)), ...places.map(square(colour, handle)),
+    ...centres.map(square('#ffffff', handle - 2)), ...centres.map(square(colour, handle)),
     line(left, top, right - left, 1), line(left, bottom - 1, right - left, 1),
     line(left, top, 1, bottom - top), line(right - 1, top, 1, bottom - top),
   ];
@@ -59,12 +59,12 @@ function gridLayers({ origin: { x, y }, scale }) {
   return ['to right', 'to bottom'].map((way) => ({ image: line(way), x, y, ...size }));
 }
 
-// The handle at a place ('nw' ... 'se'), 'move' inside a box that can be moved, or ''.
+// The handle under the pointer ('nw' ... 'se'), 'move' inside a box that can be moved, or ''.
 export const gripAt = (object, { clientX, clientY }) => {
   const box = boxes.boxOf(object);
   if (!box.width || !box.height) return '';
   const near = handle / 2 + reach;
-  const hit = handlePlaces(frameOf(object)).find(([, x, y]) =>
+  const hit = handleCentres(frameOf(object)).find(([, x, y]) =>
     Math.abs(clientX - x) <= near && Math.abs(clientY - y) <= near);
   if (hit) return hit[0];
   const inside = boxes.holds(box, { clientX, clientY });

@@ -18,7 +18,7 @@ const stride = 16;  // pixels that the page scrolls in a frame while the pointer
 let gesture = null;
 let taken = false;  // the click that ends the press is not another one
 
-const toGrid = (place) => Math.round(place / gridStep) * gridStep;
+const toGrid = (pixels) => Math.round(pixels / gridStep) * gridStep;
 
 function moving({ before }, dx, dy) {
   if (!snaps()) return { dx, dy };
@@ -32,8 +32,8 @@ function sizing({ before, grip }, dx, dy, free) {
   const vertical = /[ns]/.test(grip);
   let width = Math.max(least, before.width + (grip.includes('w') ? -dx : dx));
   let height = Math.max(least, before.height + (grip.includes('n') ? -dy : dy));
-  const kept = horizontal && vertical && !free;
-  if (kept) {
+  const keepsRatio = horizontal && vertical && !free;
+  if (keepsRatio) {
     // The side that is drawn further leads.
     const scale = [width / before.width, height / before.height]
       .reduce((one, other) => (Math.abs(other - 1) > Math.abs(one - 1) ? other : one));
@@ -42,12 +42,12 @@ function sizing({ before, grip }, dx, dy, free) {
   }
   const change = {};
   // A picture of which the page says one side only has the other by its own shape.
-  const byShape = (auto, other) => before.keepsShape && kept && auto && !other;
-  const held = (auto, side) => side || (before.keepsShape && auto);
-  if (held(before.autoWidth, horizontal) && !byShape(before.autoWidth, before.autoHeight)) {
+  const byShape = (auto, other) => before.keepsShape && keepsRatio && auto && !other;
+  const changes = (auto, side) => side || (before.keepsShape && auto);
+  if (changes(before.autoWidth, horizontal) && !byShape(before.autoWidth, before.autoHeight)) {
     change.width = horizontal ? width : before.width;
   }
-  if (held(before.autoHeight, vertical) && !byShape(before.autoHeight, before.autoWidth)) {
+  if (changes(before.autoHeight, vertical) && !byShape(before.autoHeight, before.autoWidth)) {
     change.height = vertical ? height : before.height;
   }
   if (grip.includes('w')) change.dx = before.width - width;
@@ -68,8 +68,8 @@ function show({ object, before, change }) {
     grid: gesture.grip === 'move' && snaps() ? objects.measure(object) : null });
 }
 
-// A place of the viewport among what the object lies in, however that is scrolled.
-function placeFor(object, { clientX, clientY }) {
+// A position of the viewport among what the object lies in, however that is scrolled.
+function positionFor(object, { clientX, clientY }) {
   const { x, y } = boxes.scrolled(object);
   return { x: clientX + x, y: clientY + y };
 }
@@ -77,7 +77,7 @@ function placeFor(object, { clientX, clientY }) {
 function drag({ clientX, clientY, shiftKey }) {
   const { object, grip, from, before: { scale } } = gesture;
   gesture.last = { clientX, clientY, shiftKey };
-  const { x, y } = placeFor(object, gesture.last);
+  const { x, y } = positionFor(object, gesture.last);
   if (!gesture.change && Math.max(Math.abs(x - from.x), Math.abs(y - from.y)) < slack) return;
   const [dx, dy] = [(x - from.x) / scale.x, (y - from.y) / scale.y];
   gesture.change = grip === 'move' ? moving(gesture, dx, dy) : sizing(gesture, dx, dy, shiftKey);
@@ -89,7 +89,7 @@ function drag({ clientX, clientY, shiftKey }) {
 function scrollOn() {
   if (gesture.scrolls) return;
   const { clientX: x, clientY: y } = gesture.last;
-  const towards = (place, size) => (place >= size ? stride : 0) - (place < 0 ? stride : 0);
+  const towards = (at, size) => (at >= size ? stride : 0) - (at < 0 ? stride : 0);
   const [right, down] = [towards(x, innerWidth), towards(y, innerHeight)];
   if (!right && !down) return;
   const scrolling = gesture;
@@ -133,7 +133,7 @@ function release(event) {
 }
 
 function begin(object, grip, again, event) {
-  gesture = { object, grip, again, from: placeFor(object, event), change: null, preview: null,
+  gesture = { object, grip, again, from: positionFor(object, event), change: null, preview: null,
     before: objects.measure(object) };
 }
 
@@ -195,9 +195,9 @@ const steps = new Map([
 ]);
 
 // The next line of the grid in a direction.
-function nextLine(place, direction) {
-  if (!direction) return place;
-  const lines = place / gridStep;
+function nextLine(pixels, direction) {
+  if (!direction) return pixels;
+  const lines = pixels / gridStep;
   return (direction > 0 ? Math.floor(lines) + 1 : Math.ceil(lines) - 1) * gridStep;
 }
 

@@ -48,7 +48,7 @@ function signOf(node) {
 
 // Where something stands: at its own start, else at the start of what follows it, else at the end
 // of what is before it, else in its parent.
-function placeOf(node, { width }) {
+function positionOf(node, { width }) {
   const isLtr = getComputedStyle(node.parentElement).direction === 'ltr';
   const startOf = ({ left, right, top }) => ({ x: isLtr ? left : right - width, y: top });
   const endOf = ({ left, right, top }) => ({ x: isLtr ? right : left - width, y: top });
@@ -63,9 +63,9 @@ function placeOf(node, { width }) {
 function layerOf(node, sign, others) {
   if (!dom.isBreak(node)) {
     // Above the line that it stands before, so that the text can be read; beside another one.
-    const place = placeOf(node, sign);
-    const y = Math.max(-scrollY, place.y + overlap - height);
-    let { x } = place;
+    const position = positionOf(node, sign);
+    const y = Math.max(-scrollY, position.y + overlap - height);
+    let { x } = position;
     const inTheWay = (other) => Math.abs(other.y - y) < height && other.x < x + sign.width &&
       x < other.x + other.width;
     for (let other = others.find(inTheWay); other; other = others.find(inTheWay)) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Objects: what is selected, sized and moved as a whole. Which one a place of the page means, how
+// Objects: what is selected, sized and moved as a whole. Which one the pointer means, how
 // large it is and where, and how a new size and place are written the way the page has them.
 import { putDeclaration } from '../formats/declarations.js';
 import * as boxes from './boxes.js';
@@ -33,15 +33,16 @@ const isEntered = (node) => node === entered && node.contains(document.getSelect
 // Whether the node lies in a cell of the table: what is clicked there is that cell.
 const isInCell = (node, table) => table.contains(node.closest('CAPTION, TD, TH'));
 
-function meant(node, place) {
+function meant(node, pointer) {
   for (let at = node; at && at !== document.body; at = at.parentElement) {
     if (at.tagName === 'TABLE' || isMovable(at)) {
       const isOutside = at.tagName !== 'TABLE' || isMovable(at) || !isInCell(node, at);
-      if ((at === node && at.tagName === 'TABLE') || (isOutside && isAtEdge(at, place))) return at;
+      const isTable = at === node && at.tagName === 'TABLE';
+      if (isTable || (isOutside && isAtEdge(at, pointer))) return at;
       if (!isMovable(at)) continue;
       return isEntered(at) ? null : at;
     }
-    if (dom.isObject(at) && (dom.isAtom(at) || isAtEdge(at, place))) return at;
+    if (dom.isObject(at) && (dom.isAtom(at) || isAtEdge(at, pointer))) return at;
   }
   return null;
 }
@@ -70,12 +71,12 @@ export function objectAt(event) {
   return null;
 }
 
-// Puts the caret into a box, to the place that was clicked.
+// Puts the caret into a box, to where it was clicked.
 export function enter(box, { clientX, clientY }) {
-  const place = document.caretRangeFromPoint(clientX, clientY);
-  const inside = place && box.contains(place.startContainer);
+  const clicked = document.caretRangeFromPoint(clientX, clientY);
+  const inside = clicked && box.contains(clicked.startContainer);
   entered = box;
-  selection.setCaret(...(inside ? [place.startContainer, place.startOffset] : [box, 0]));
+  selection.setCaret(...(inside ? [clicked.startContainer, clicked.startOffset] : [box, 0]));
 }
 const holdsParagraphs = (node) => dom.isBlock(node) && !dom.isParagraph(node) &&
   !/^(CAPTION|DD|LI|TD|TH)$/.test(node.tagName);
@@ -129,7 +130,7 @@ export function typed() {
 const number = (text) => parseFloat(text) || 0;
 
 // What an object is before it is changed; a change is told against it. In pixels of the object,
-// of which `scale` tells how large the viewport shows them; `origin` is a place in the viewport.
+// of which `scale` tells how large the viewport shows them; `origin` is a position in the viewport.
 export function measure(object) {
   const style = getComputedStyle(object);
   const given = object.computedStyleMap();
@@ -139,10 +140,10 @@ export function measure(object) {
       : names.reduce((all, each) => all + number(style.getPropertyValue(each)), 0));
   const rect = boxes.boxOf(object);
   const scale = boxes.scaleOf(object);
-  const places = ['left', 'top', 'right', 'bottom'].map((side) => [side, number(style[side])]);
+  const sides = ['left', 'top', 'right', 'bottom'].map((side) => [side, number(style[side])]);
   return {
     scale, width: rect.width / scale.x, height: rect.height / scale.y, movable: isMovable(object),
-    ...Object.fromEntries(places),
+    ...Object.fromEntries(sides),
     // Where the grid of its coordinates begins, in the viewport.
     origin: { x: rect.left - (number(style.left) + number(style.marginLeft)) * scale.x,
       y: rect.top - (number(style.top) + number(style.marginTop)) * scale.y },
@@ -201,8 +202,8 @@ function writeSize(object, property, pixels, growth) {
   if (styled) putDeclaration(object, property, spelled(styled, `${size}px`, growth));
   if (hasAttribute || (!styled && withAttributes.has(object.tagName))) {
     // A rule's size counts its border in.
-    const told = rule ? size + 2 : size;
-    object.setAttribute(attribute, spelled(object.getAttribute(attribute), `${told}`, growth));
+    const counted = rule ? size + 2 : size;
+    object.setAttribute(attribute, spelled(object.getAttribute(attribute), `${counted}`, growth));
   } else if (!styled) {
     putDeclaration(object, property, `${size}px`);
   }

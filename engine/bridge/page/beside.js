@@ -3,7 +3,13 @@
 // The characters beside a point, in its line: across inline elements, up to a block or a break.
 import * as dom from './dom.js';
 
-// The character beside a place in its line: {node, index}, {object}, or null at the line's edge.
+/**
+ * What is beside a point in its line; null at the line's edge.
+ * @param {Node} node
+ * @param {number} offset
+ * @param {Side} side
+ * @returns {Neighbour | null}
+ */
 export function beside(node, offset, side) {
   const back = side === 'previousSibling';
   let at = node;
@@ -38,16 +44,16 @@ export function edge(node, back) {
   }
   return undefined;
 }
-export const charAt = (place) => (place?.node ? place.node.data[place.index] : '');
-export const isBlank = (place) => /[ \t\r\n]/.test(charAt(place));
+export const charAt = (character) => (character?.node ? character.node.data[character.index] : '');
+export const isBlank = (character) => /[ \t\r\n]/.test(charAt(character));
 
 // White space that HTML shows as it stands.
 export const keepsBlanks = (text) =>
   /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
 
 // True where nothing but blanks follows in the line.
-export function endsLine(place) {
-  let at = place;
+export function endsLine(character) {
+  let at = character;
   while (isBlank(at)) at = beside(at.node, at.index + 1, 'nextSibling');
   return at === null;
 }

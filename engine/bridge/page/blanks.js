@@ -114,7 +114,7 @@ function writtenIn(node, data) {
     const from = Math.max(0, anchorOffset - (data?.length ?? 0));
     return node === anchorNode ? [from, anchorOffset] : [0, 0];
   }
-  const { head, tail } = dom.kept(noted.texts.get(node), node.data);
+  const { head, tail } = dom.commonEnds(noted.texts.get(node), node.data);
   return [head, node.length - tail];
 }
 
@@ -144,7 +144,7 @@ function addNeedless(inputType, data) {
     if (noted.begins) addIf(atCaret('nextSibling'));
   }
   for (const [node, old] of noted.texts) {
-    const { head, tail } = dom.kept(old, node.data);
+    const { head, tail } = dom.commonEnds(old, node.data);
     const gone = old.slice(head, old.length - tail);
     if (!gone || !node.isConnected) continue;
     if (/^[ \u00a0]/.test(gone)) addIf(beside(node, head, 'previousSibling'));

@@ -130,7 +130,7 @@ export const create = (tag, attributes = {}) => {
   return element;
 };
 
-// Where an element went that was made into another one, so that a kept selection finds it.
+// Where an element went that was made into another one, so that a saved selection finds it.
 const successors = new WeakMap();
 export const successor = (node) => {
   while (successors.has(node)) node = successors.get(node);
@@ -243,7 +243,7 @@ function agreed(most, agree) {
   return count;
 }
 // How much of a text is the same at its head and, behind that, at its tail.
-export function kept(old, now) {
+export function commonEnds(old, now) {
   const shorter = Math.min(old.length, now.length);
   const head = agreed(shorter, (from, to) => old.slice(from, to) === now.slice(from, to));
   const end = (text, from, to) => text.slice(text.length - to, text.length - from);

@@ -38,7 +38,7 @@ class TextChange {
   seal() {
     const { old } = this;
     const now = this.node.data;
-    const { head, tail } = dom.kept(old, now);
+    const { head, tail } = dom.commonEnds(old, now);
     this.head = head;
     this.before = old.slice(head, old.length - tail);
     this.after = now.slice(head, now.length - tail);
@@ -287,7 +287,7 @@ export function arrive() {
   if (open) open.after = rest();
 }
 
-function travel(from, to, way, place) {
+function travel(from, to, way, end) {
   finish();
   const taken = from.pop();
   if (!taken) {
@@ -298,9 +298,9 @@ function travel(from, to, way, place) {
   changes.forEach((change) => change[way]());
   observer.takeRecords();
   to.push(taken);
-  select(taken[place]);
+  select(taken[end]);
   lastPoints = rest();
-  along.restore(taken[place].along);
+  along.restore(taken[end].along);
   hooks.changed();
 }
 

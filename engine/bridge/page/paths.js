@@ -4,8 +4,11 @@
 import { isText } from './dom.js';
 import * as selection from './selection.js';
 
-// A place as numbers, the last one an offset, that holds in a fresh parse of the same document:
-// neighbouring texts count as one node.
+/**
+ * @param {Node} node
+ * @param {number} offset
+ * @returns {NodePath}
+ */
 function path(node, offset) {
   const numbers = [];
   const mergedIndexOf = (child) => {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The selection: what lies in it, how it is kept while elements change, where the caret is.
+// The selection: what lies in it, how it is saved while elements change, where the caret is.
 import { beside, keepsBlanks } from './beside.js';
 import * as dom from './dom.js';
 import {
@@ -78,10 +78,10 @@ export const setCaret = (node, offset) => document.getSelection().collapse(node,
 // What the engine would delete at the caret with Delete.
 export function ahead() {
   const selected = document.getSelection();
-  const kept = points();
+  const saved = points();
   /** @type {any} */ (selected).modify('extend', 'forward', 'character');
   const { startContainer, startOffset, endContainer, endOffset } = selected.getRangeAt(0);
-  select(kept);
+  select(saved);
   return { startContainer, startOffset, endContainer, endOffset };
 }
 
@@ -174,7 +174,7 @@ export function pointOf(anchor) {
   return [dom.successor(anchor.inside), 0];
 }
 
-// The two ends of a node, as keep() keeps points.
+// The two ends of a node, as save() has them.
 /** @returns {Anchor} */
 export const startOf = (node) => {
   const leaf = firstLeaf(node);
@@ -191,8 +191,8 @@ export const endOf = (node) => {
     ? { inside: node } : { beside: leaf, side: dom.isBreak(leaf) ? 0 : 1 };
 };
 
-/** The selection as anchors. @returns {KeptSelection} */
-export function keep() {
+/** The selection as anchors. @returns {SavedSelection} */
+export function save() {
   const { anchorNode, anchorOffset, focusNode, focusOffset } = points();
   const selected = range();
   if (!selected) return null;
@@ -213,11 +213,11 @@ export function keep() {
   };
 }
 
-/** @param {KeptSelection} kept */
-export function restore(kept) {
-  if (!kept) return;
-  const [anchorNode, anchorOffset] = pointOf(kept.anchor);
-  const [focusNode, focusOffset] = pointOf(kept.focus);
+/** @param {SavedSelection} saved */
+export function restore(saved) {
+  if (!saved) return;
+  const [anchorNode, anchorOffset] = pointOf(saved.anchor);
+  const [focusNode, focusOffset] = pointOf(saved.focus);
   select({ anchorNode, anchorOffset, focusNode, focusOffset });
 }
 
@@ -255,7 +255,7 @@ export function ensure() {
   else setCaret(leaf.parentNode, indexOf(leaf));
 }
 
-// The caret where something is dropped: a place in CSS pixels of the viewport.
+// The caret where something is dropped: x and y are CSS pixels of the viewport.
 export const setCaretAtPixel = (x, y) => {
   const caret = document.caretRangeFromPoint(x, y);
   if (caret && document.body?.contains(caret.startContainer)) {

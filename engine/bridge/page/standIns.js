@@ -54,7 +54,7 @@ export function shiftStandIns(texts) {
     const { node, index } = standIn;
     const old = texts.get(node);
     if (old === undefined || old === node.data) return [standIn];
-    const { head, tail } = dom.kept(old, node.data);
+    const { head, tail } = dom.commonEnds(old, node.data);
     if (index < head) return [standIn];
     const moved = { ...standIn, index: index + node.length - old.length };
     return moved.index >= node.length - tail ? [moved] : [];
@@ -101,6 +101,7 @@ function isAtCaret(standIn) {
 function resolutions(among) {
   /** @type {Map<Text, Map<number, string | null>>} */
   const known = new Map();
+  /** @param {Neighbour} character */
   const resolved = ({ node, index }) => known.get(node)?.get(index);
   const isGap = (character) => isBlank(character) || resolved(character) === ' ';
   const nextBehind = (node, index) => {

@@ -93,9 +93,8 @@ function lastShown(node) {
 const objectUnit = (object) =>
   ({ container: object.parentNode, home: object, object, nodes: [object], block: object });
 
-// The place of a caret between two blocks, or at their edge, where no line is: [node, offset];
-// null elsewhere.
 /**
+ * The point of a caret between two blocks, or at their edge, where no line is; null elsewhere.
  * @param {PlainRange} range
  * @returns {Point | null}
  */
@@ -179,8 +178,11 @@ export function unitsIn(range, most = Infinity) {
   return units.length ? units : [caretUnit(range)].filter(Boolean);
 }
 
-// To be told before elements change: from then on a unit is what it was.
-export function heldUnits(units) {
+/**
+ * Reads what the units hold, before elements change: from then on a unit is what it was.
+ * @param {Unit[]} units
+ */
+export function readUnits(units) {
   for (const each of units) void each.nodes;
   return units;
 }
@@ -208,25 +210,25 @@ export function enclose({ container, nodes }, element) {
   return element;
 }
 
-// Gives the selected units to `change` and then selects `kept` again. A caret where nothing is gets
-// a line to change: a break holds it open, and goes where the change has made nothing of it.
-export function changeUnits(kept, change) {
+// Gives the selected units to `change` and then selects `saved` again. A caret where nothing is
+// gets a line to change: a break holds it open, and goes where the change has made nothing of it.
+export function changeUnits(saved, change) {
   const units = unitsIn(selection.range());
   const [only] = units;
   const isOpen = units.length !== 1 || only.block || only.nodes.length;
   if (isOpen || !dom.isCell(only.container)) {
     change(units);
-    selection.restore(kept);
+    selection.restore(saved);
     return;
   }
   const { container } = only;
   const line = dom.create('BR');
   container.append(line);
   selection.setCaret(container, selection.indexOf(line));
-  Object.assign(kept, selection.keep());
+  Object.assign(saved, selection.save());
   change(unitsIn(selection.range()));
   if (line.parentNode !== container) {
-    selection.restore(kept);
+    selection.restore(saved);
   } else {
     line.remove();
     selection.setCaret(container, container.childNodes.length);

@@ -19,7 +19,7 @@ function tail(text) {
 const wordsOf = (text) => text.replace(/[ \t\r\n\u00a0]+/g, '');
 // Looks at the part that differs alone: a key in a text of a megabyte changes little of it.
 function haveSameWords(one, other) {
-  const { head, tail: end } = dom.kept(one, other);
+  const { head, tail: end } = dom.commonEnds(one, other);
   const middle = (text) => wordsOf(text.slice(head, text.length - end));
   return middle(one) === middle(other);
 }
@@ -32,7 +32,7 @@ function textsAt({ startContainer, startOffset, endContainer, endOffset }) {
     left?.node && beside(left.node, 0, 'previousSibling'),
     right?.node && beside(right.node, right.node.length, 'nextSibling'),
   ];
-  const nodes = [left, right, ...further].filter((place) => place?.node).map(({ node }) => node);
+  const nodes = [left, right, ...further].filter((each) => each?.node).map(({ node }) => node);
   return { left, right, texts: new Map(nodes.map((node) => [node, node.data])) };
 }
 
@@ -171,7 +171,7 @@ function reinsert(node, { parentNode, previousSibling, nextSibling }, isLeft) {
 function write(node, text) {
   const now = node.data;
   if (now === text) return false;
-  const { head, tail: end } = dom.kept(now, text);
+  const { head, tail: end } = dom.commonEnds(now, text);
   const fresh = text.slice(head, text.length - end);
   // In that order, so that an input method's text that begins here still does.
   node.insertData(head, fresh);
@@ -189,9 +189,9 @@ export function putBack(noted, input) {
   if (!texts.every(fits)) return;
   let changed = false;
   for (const [node, text] of texts) {
-    const place = noted.alone.get(node);
-    if (!node.isConnected && place && text) {
-      reinsert(node, place, node === noted.left?.node);
+    const stood = noted.alone.get(node);
+    if (!node.isConnected && stood && text) {
+      reinsert(node, stood, node === noted.left?.node);
       changed = true;
     }
     if (node.isConnected && write(node, text)) changed = true;

@@ -94,7 +94,7 @@ function whole() {
 }
 
 // What has to be written anew, and the branches on the way there; null where that is the whole.
-function places() {
+function touchedPieces() {
   if (touched.has(document) || !branches.size) return null;
   const found = { pieces: new Set(), lists: new Set(), ways: new Set() };
   for (const node of touched) {
@@ -173,7 +173,7 @@ function rewrite(node, length, offset, found, edits) {
 }
 
 function step() {
-  const found = places();
+  const found = touchedPieces();
   if (!found) return null;
   const root = document.documentElement;
   let offset = 0;

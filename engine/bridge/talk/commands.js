@@ -16,7 +16,7 @@ import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
 import { resolveAll } from '../page/standIns.js';
-import { changeUnits, heldUnits, unitsIn } from '../page/units.js';
+import { changeUnits, readUnits, unitsIn } from '../page/units.js';
 import { isWorking, work } from '../page/working.js';
 import { schedulePush } from './pace.js';
 import { Command, Status } from './vocabulary.js';
@@ -87,8 +87,8 @@ const takesFormats = ({ object, range, elements }) => elements().length > 0 ||
 const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Status.Disabled);
 // What is done is done to all of the selection, however little of it the answer was read from.
 const onUnits = (change) => (value) => {
-  const kept = selection.keep();
-  changeUnits(kept, (units) => change(lists.housed(heldUnits(units), kept), value));
+  const saved = selection.save();
+  changeUnits(saved, (units) => change(lists.housed(readUnits(units), saved), value));
 };
 
 const toggle = (name) => ({

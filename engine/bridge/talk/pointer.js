@@ -1,27 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The pointer: its place goes to the program.
+// The pointer: its position goes to the program.
 import { host } from './host.js';
 
-let place = null;
+let position = null;
 let waiting = false;
 
 function tell() {
   waiting = false;
-  host()?.pushMouse(Math.round(place.x), Math.round(place.y));
+  host()?.pushMouse(Math.round(position.x), Math.round(position.y));
 }
 
 const at = ({ clientX, clientY }) => ({ x: clientX, y: clientY });
 
 function moved(event) {
-  place = at(event);
+  position = at(event);
   if (waiting) return;
   waiting = true;
   requestAnimationFrame(tell);
 }
 
 function pressed(event) {
-  place = at(event);
+  position = at(event);
   tell();
 }
 
