@@ -2,9 +2,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Runs clang-tidy over C++ files, many files in one unit.
 
-Most of clang-tidy's time goes into the toolkit's headers. So the files of a folder that are
-compiled alike are read as one unit. Files that cannot be read together (two of them have a private
-name in common) are read in two halves, and so on down to a single file, whose errors are its own.
+Most of clang-tidy's time goes into the toolkit's headers. So the files of a folder are read as one
+unit, with the options of all. Files that cannot be read together (two of them have a private name in
+common, or one has errors) are told by a quick look and go into further units.
 
 usage: tidy.py [--jobs N] [--analyze] BUILD FILE...
     BUILD      a configured build folder (compile_commands.json)
@@ -19,8 +19,10 @@ import subprocess
 import sys
 from concurrent.futures import ThreadPoolExecutor
 
-MOST_FILES = 24
-CLASH = "clang-diagnostic-error"
+MOST_FILES = 40
+# Looks at no more than the preprocessor does, so that only the compiler's own errors are found.
+QUICK_LOOK = "--checks=-*,modernize-deprecated-headers"
+ERROR = re.compile(r"^(/[^:\n]+):\d+:\d+: error: .*\[clang-diagnostic-error", re.MULTILINE)
 
 
 def options_by_file(build):
@@ -33,20 +35,39 @@ def options_by_file(build):
         output = words.index("-o")
         del words[output : output + 2]
         words = [w for w in words if w != "-c" and w != entry["file"] and "_autogen/" not in w]
-        options[os.path.realpath(entry["file"])] = tuple(words)
+        own = options[os.path.realpath(entry["file"])] = []
+        for word in words:  # an option and its value become one word
+            if own and own[-1] == "-isystem":
+                own[-1] += word
+            else:
+                own.append(word)
     return options
 
 
+def definitions(words):
+    """The values of the macros that options define."""
+    return dict((w[2:].split("=", 1) + [""])[:2] for w in words if w.startswith("-D"))
+
+
 def groups(files, options):
-    """Lists of files of one folder that are compiled alike."""
+    """Lists of files of one folder whose options do not contradict each other, with all of these."""
     found = {}
     for file in files:
         path = os.path.realpath(file)
-        if path in options:
-            found.setdefault((options[path], file.split("/")[0]), []).append(path)
-    for (words, _), paths in found.items():
-        for start in range(0, len(paths), MOST_FILES):
-            yield words, paths[start : start + MOST_FILES]
+        if path not in options:
+            continue
+        own = definitions(options[path])
+        of_folder = found.setdefault(file.split("/")[0], [])
+        for words, paths in of_folder:
+            values = definitions(words)
+            if len(paths) < MOST_FILES and all(values.get(name, own[name]) == own[name] for name in own):
+                break
+        else:
+            words, paths = [], []
+            of_folder.append((words, paths))
+        words.extend(w for w in options[path] if w not in words)
+        paths.append(path)
+    return [group for of_folder in found.values() for group in of_folder]
 
 
 def stand_in_for_moc(path, folder):
@@ -56,25 +77,46 @@ def stand_in_for_moc(path, folder):
             open(os.path.join(folder, name), "w", encoding="utf-8").close()
 
 
-def check(words, paths, folder, checks):
-    """What clang-tidy says about the files, as a list of messages."""
+def clang_tidy(checks, words, paths, folder):
+    """Lets clang-tidy read the files as one unit. A unit lies outside the tree's configuration,
+    which is therefore named; warnings (-w) are the build's matter."""
     unit = paths[0]
-    for path in paths:
-        stand_in_for_moc(path, folder)
     if len(paths) > 1:
-        unit = os.path.join(folder, "unit-%s.cpp" % re.sub(r"\W", "_", paths[0] + str(len(paths))))
+        unit = os.path.join(folder, "unit-%s-%d.cpp" % (re.sub(r"\W", "_", paths[0]), len(paths)))
         with open(unit, "w", encoding="utf-8") as text:
             text.writelines('#include "%s"\n' % path for path in paths)
-    command = ["clang-tidy", "--quiet", *checks, unit, "--", "-w", *words, "-I" + folder]
-    ended = subprocess.run(command, capture_output=True, text=True, check=False)
-    if len(paths) > 1 and CLASH in ended.stdout:
-        middle = len(paths) // 2
-        return check(words, paths[:middle], folder, checks) + check(
-            words, paths[middle:], folder, checks
-        )
-    if ended.returncode != 0 and not ended.stdout.strip():
-        return [ended.stderr]
-    return re.split(r"\n(?=/)", ended.stdout.strip()) if ended.stdout.strip() else []
+    command = ["clang-tidy", "--quiet", "--config-file=.clang-tidy", *checks, unit]
+    command += ["--", "-w", "-ferror-limit=0", *words, "-I" + folder]
+    return subprocess.run(command, capture_output=True, text=True, check=False)
+
+
+def units(words, paths, folder):
+    """The files in lists that can be read together."""
+    while len(paths) > 1:
+        wrong = set(ERROR.findall(clang_tidy([QUICK_LOOK], words, paths, folder).stdout))
+        later = [path for path in paths if path in wrong]
+        if not wrong:
+            break
+        if not later or len(later) == len(paths):  # the fault is the first file's, or a header's
+            later = paths[1:]
+        yield [path for path in paths if path not in later]
+        paths = later
+    yield paths
+
+
+def check(checks, words, paths, folder):
+    """What clang-tidy says about the files, as a list of messages."""
+    messages = []
+    for path in paths:
+        stand_in_for_moc(path, folder)
+    for together in units(words, paths, folder):
+        ended = clang_tidy(checks, words, together, folder)
+        said = ended.stdout.strip()
+        if said:
+            messages += re.split(r"\n(?=/)", said)
+        elif ended.returncode != 0:
+            messages.append(ended.stderr)
+    return messages
 
 
 def main():
@@ -87,14 +129,11 @@ def main():
 
     folder = os.path.realpath(os.path.join(given.build, "lint"))
     os.makedirs(folder, exist_ok=True)
-    # Warnings (-w) are the build's matter. A unit lies outside the tree's configuration, which is therefore named.
-    checks = ["--config-file=.clang-tidy"]
-    if given.analyze:
-        checks.append("--checks=clang-analyzer-*")
+    checks = ["--checks=clang-analyzer-*"] if given.analyze else []
     work = sorted(groups(given.files, options_by_file(given.build)), key=lambda g: -len(g[1]))
     messages = {}
     with ThreadPoolExecutor(given.jobs) as pool:
-        for found in pool.map(lambda g: check(*g, folder, checks), work):
+        for found in pool.map(lambda g: check(checks, *g, folder), work):
             for message in found:
                 messages.setdefault(message.splitlines()[0].replace(os.getcwd() + "/", ""), message)
     for _, message in sorted(messages.items()):
