@@ -27,13 +27,13 @@ QString LockHolder(const QString &nativePath) {
   for (const QString &line : locks.split(u'\n')) {
     // "1: POSIX ADVISORY WRITE 1234 fd:01:5678 0 EOF"; a waiting process has "->" after the number.
     const QStringList fields = line.simplified().split(u' ');
-    constexpr int process = 4;
-    constexpr int place = 5;
-    if (fields.size() <= place || !fields[place].endsWith(inode)) continue;
-    if (fields[process].toLongLong() <= 0 || fields[process].toLongLong() == getpid()) continue;
+    constexpr int Process = 4;
+    constexpr int Place = 5;
+    if (fields.size() <= Place || !fields[Place].endsWith(inode)) continue;
+    if (fields[Process].toLongLong() <= 0 || fields[Process].toLongLong() == getpid()) continue;
     const QString name =
-        ReadSystemFile(QStringLiteral("/proc/%1/comm").arg(fields[process])).trimmed();
-    if (!name.isEmpty()) return QStringLiteral("%1 (process %2)").arg(name, fields[process]);
+        ReadSystemFile(QStringLiteral("/proc/%1/comm").arg(fields[Process])).trimmed();
+    if (!name.isEmpty()) return QStringLiteral("%1 (process %2)").arg(name, fields[Process]);
   }
   return {};
 }

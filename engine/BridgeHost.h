@@ -21,6 +21,7 @@ class BridgeHost : public QObject {
   explicit BridgeHost(EngineGuard &guard) : guard_(guard) {}
 
  public Q_SLOTS:
+  // NOLINTBEGIN(readability-identifier-naming): the scripts call them by these names.
   void pushState(const QString &json) {
     const EngineCallback callback(guard_);
     if (const auto state = StateSnapshot::FromJson(json)) Q_EMIT StateArrived(*state);
@@ -49,6 +50,7 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     Q_EMIT LaterWanted();
   }
+  // NOLINTEND(readability-identifier-naming)
 
  Q_SIGNALS:
   void StateArrived(const velor::StateSnapshot &state);

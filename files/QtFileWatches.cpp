@@ -20,7 +20,7 @@ namespace {
 using namespace std::chrono_literals;
 
 /// A program that writes a file in several steps is waited for this long after each of them.
-constexpr std::chrono::milliseconds rest = 200ms;
+constexpr std::chrono::milliseconds QuietTime = 200ms;
 
 /// What tells one state of a file from another without reading it; all 0 for a missing file.
 struct State {
@@ -47,9 +47,9 @@ class QtFileWatch final : public FileWatch {
   explicit QtFileWatch(FileWatches::Listener listener) : listener_(std::move(listener)) {
     resting_.setSingleShot(true);
     QObject::connect(&watcher_, &QFileSystemWatcher::fileChanged, &resting_,
-                     [this] { resting_.start(rest); });
+                     [this] { resting_.start(QuietTime); });
     QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, &resting_,
-                     [this] { resting_.start(rest); });
+                     [this] { resting_.start(QuietTime); });
     QObject::connect(&resting_, &QTimer::timeout, [this] { Compare(); });
   }
 

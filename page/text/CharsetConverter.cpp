@@ -72,7 +72,7 @@ QString CharsetConverter::DecodeUnicode(QByteArrayView bytes, std::vector<std::i
   const char *const sourceEnd = source + bytes.size();
   qsizetype used = 0;
   for (;;) {
-    char16_t *const start = reinterpret_cast<char16_t *>(text.data());
+    auto *const start = reinterpret_cast<char16_t *>(text.data());
     char16_t *target = start + used;
     const auto done = static_cast<std::int32_t>(source - bytes.data());
     if (offsets != nullptr) offsets->resize(static_cast<std::size_t>(text.size()));
