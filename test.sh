@@ -7,4 +7,4 @@ cd "$(dirname "$0")"
 ./install.sh --test
 cmake --preset release
 cmake --build --preset release --parallel "$(nproc)"
-exec ctest --preset release --parallel "$(nproc)" "$@"
+exec ctest --preset release --parallel "$(nproc)" --no-tests=error "$@"

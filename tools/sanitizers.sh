@@ -6,4 +6,4 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 cmake --preset sanitizers
 cmake --build --preset sanitizers --parallel "$(nproc)" --target velor-plain-tests
-exec ctest --preset sanitizers --parallel "$(nproc)" --label-regex plain "$@"
+exec ctest --preset sanitizers --parallel "$(nproc)" --no-tests=error --label-regex plain "$@"

@@ -76,6 +76,7 @@ TEST(BridgeContract, EveryCommandHasOneRowInTheTable) {
   static const std::regex row(R"(\n  \[Command\.(\w+), )");
   const Names rows = Matches(TextOf("engine/bridge/talk/commands.js"), row);
   static const std::regex name(R"(\n  (\w+): \d+)");
+  EXPECT_THAT(rows, SizeIs(27));
   EXPECT_THAT(rows, ContainerEq(Matches(Vocabulary("Command"), name)));
 }
 

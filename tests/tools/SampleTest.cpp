@@ -74,7 +74,9 @@ TEST_F(Sample, EveryPictureThatAPageShowsIsThere) {
     }
   }
   EXPECT_EQ(pictures, 5);
-  for (const QString &file : QDir(Native(QStringLiteral("eImages"))).entryList(QDir::Files)) {
+  const QStringList images = QDir(Native(QStringLiteral("eImages"))).entryList(QDir::Files);
+  EXPECT_FALSE(images.isEmpty());
+  for (const QString &file : images) {
     EXPECT_FALSE(QImage(Native(QStringLiteral("eImages/") + file)).isNull()) << file.toStdString();
   }
 }
