@@ -71,7 +71,7 @@ class OurPreview {
  private:
   frmMain &Page() { return *program_.Context().pages.Page(1); }
   QWebEnginePage &Engine() {
-    QWidget *widget = program_.Context().preview->brwWebBrowser().Widget();
+    QWidget *widget = program_.Context().preview->WebBrowser().Widget();
     return *qobject_cast<QWebEngineView *>(widget)->page();
   }
 

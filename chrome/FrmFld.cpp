@@ -111,24 +111,24 @@ QTreeWidgetItem *NewFolderItem(const QString &name, const QString &path) {
 FrmFld::FrmFld(ProgramValues &values, QWidget *parent)
     : QDialog(parent),
       values_(values),
-      drive1_(new QComboBox),
-      dir1_(new QTreeWidget),
+      drives_(new QComboBox),
+      folders_(new QTreeWidget),
       path_(new QLineEdit),
       hidden_(new QCheckBox(QStringLiteral("Show hidden folders"))),
       selected_(new PathLine) {
   setObjectName(QStringLiteral("FrmFld"));
   setWindowTitle(QStringLiteral("Select Folder"));
 
-  drive1_->setObjectName(QStringLiteral("Drive1"));
-  drive1_->setAccessibleName(QStringLiteral("Drive"));
-  dir1_->setObjectName(QStringLiteral("Dir1"));
-  dir1_->setAccessibleName(QStringLiteral("Folder"));
-  dir1_->setHeaderHidden(true);
-  dir1_->setUniformRowHeights(true);
+  drives_->setObjectName(QStringLiteral("Drive1"));
+  drives_->setAccessibleName(QStringLiteral("Drive"));
+  folders_->setObjectName(QStringLiteral("Dir1"));
+  folders_->setAccessibleName(QStringLiteral("Folder"));
+  folders_->setHeaderHidden(true);
+  folders_->setUniformRowHeights(true);
   // As wide as its widest row, so that deep folders are reached by scrolling.
-  dir1_->header()->setStretchLastSection(false);
-  dir1_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  dir1_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  folders_->header()->setStretchLastSection(false);
+  folders_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  folders_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   path_->setObjectName(QStringLiteral("txtPath"));
   path_->setAccessibleName(QStringLiteral("Path"));
   path_->setPlaceholderText(QStringLiteral("Type or paste a path"));
@@ -147,9 +147,9 @@ FrmFld::FrmFld(ProgramValues &values, QWidget *parent)
   cancel->setAccessibleName(cancel->text());
 
   auto *driveLabel = new QLabel(QStringLiteral("Drive"));
-  driveLabel->setBuddy(drive1_);
+  driveLabel->setBuddy(drives_);
   auto *folderLabel = new QLabel(QStringLiteral("Folder"));
-  folderLabel->setBuddy(dir1_);
+  folderLabel->setBuddy(folders_);
   auto *pathLabel = new QLabel(QStringLiteral("Path"));
   pathLabel->setBuddy(path_);
 
@@ -157,10 +157,10 @@ FrmFld::FrmFld(ProgramValues &values, QWidget *parent)
   layout->setContentsMargins(16, 16, 16, 16);
   layout->setSpacing(6);
   layout->addWidget(driveLabel);
-  layout->addWidget(drive1_);
+  layout->addWidget(drives_);
   layout->addSpacing(8);
   layout->addWidget(folderLabel);
-  layout->addWidget(dir1_, 1);
+  layout->addWidget(folders_, 1);
   layout->addWidget(hidden_);
   layout->addSpacing(8);
   layout->addWidget(pathLabel);
@@ -172,30 +172,30 @@ FrmFld::FrmFld(ProgramValues &values, QWidget *parent)
 
   connect(buttons, &QDialogButtonBox::accepted, this, &FrmFld::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &FrmFld::reject);
-  connect(drive1_, &QComboBox::currentIndexChanged, this, &FrmFld::ShowDrive);
-  connect(dir1_, &QTreeWidget::itemExpanded, this,
+  connect(drives_, &QComboBox::currentIndexChanged, this, &FrmFld::ShowDrive);
+  connect(folders_, &QTreeWidget::itemExpanded, this,
           [this](QTreeWidgetItem *item) { FillFolders(*item); });
-  connect(dir1_, &QTreeWidget::currentItemChanged, this, &FrmFld::ShowSelected);
+  connect(folders_, &QTreeWidget::currentItemChanged, this, &FrmFld::ShowSelected);
   connect(path_, &QLineEdit::textEdited, this, &FrmFld::TakeTypedPath);
   connect(hidden_, &QCheckBox::toggled, this, &FrmFld::ShowHidden);
 
   FillDrives();
   SelectFolder(QDir::homePath());
-  dir1_->setFocus();
+  folders_->setFocus();
 }
 
 void FrmFld::FillDrives() {
-  const QSignalBlocker blocker(drive1_);
-  for (const Drive &drive : Drives()) drive1_->addItem(drive.label, drive.path);
+  const QSignalBlocker blocker(drives_);
+  for (const Drive &drive : Drives()) drives_->addItem(drive.label, drive.path);
 }
 
 void FrmFld::ShowDrive() {
-  const QString path = drive1_->currentData().toString();
-  dir1_->clear();
+  const QString path = drives_->currentData().toString();
+  folders_->clear();
   QTreeWidgetItem *root = NewFolderItem(path, path);
-  dir1_->addTopLevelItem(root);
+  folders_->addTopLevelItem(root);
   root->setExpanded(true);
-  dir1_->setCurrentItem(root);
+  folders_->setCurrentItem(root);
 }
 
 void FrmFld::FillFolders(QTreeWidgetItem &item) {
@@ -219,16 +219,16 @@ void FrmFld::SelectFolder(const QString &nativePath) {
     return wanted == folder || wanted.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
   };
   int best = 0;
-  for (int index = 1; index < drive1_->count(); ++index) {
-    const QString path = drive1_->itemData(index).toString();
-    if (isWithin(path) && path.size() > drive1_->itemData(best).toString().size()) best = index;
+  for (int index = 1; index < drives_->count(); ++index) {
+    const QString path = drives_->itemData(index).toString();
+    if (isWithin(path) && path.size() > drives_->itemData(best).toString().size()) best = index;
   }
   {
-    const QSignalBlocker blocker(drive1_);
-    drive1_->setCurrentIndex(best);
+    const QSignalBlocker blocker(drives_);
+    drives_->setCurrentIndex(best);
   }
   ShowDrive();
-  QTreeWidgetItem *item = dir1_->topLevelItem(0);
+  QTreeWidgetItem *item = folders_->topLevelItem(0);
   for (QTreeWidgetItem *next = item; next != nullptr;) {
     item = std::exchange(next, nullptr);
     item->setExpanded(true);
@@ -236,8 +236,8 @@ void FrmFld::SelectFolder(const QString &nativePath) {
       if (isWithin(item->child(index)->data(0, PathRole).toString())) next = item->child(index);
     }
   }
-  dir1_->setCurrentItem(item);
-  dir1_->scrollToItem(item, QAbstractItemView::PositionAtCenter);
+  folders_->setCurrentItem(item);
+  folders_->scrollToItem(item, QAbstractItemView::PositionAtCenter);
 }
 
 void FrmFld::TakeTypedPath(const QString &text) {
@@ -265,7 +265,7 @@ void FrmFld::ShowSelected() {
 }
 
 QString FrmFld::SelectedFolder() const {
-  const QTreeWidgetItem *item = dir1_->currentItem();
+  const QTreeWidgetItem *item = folders_->currentItem();
   return item != nullptr ? item->data(0, PathRole).toString() : QString();
 }
 

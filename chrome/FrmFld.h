@@ -50,8 +50,8 @@ class FrmFld : public QDialog {
   void StoreResult(const QString &folder);
 
   ProgramValues &values_;
-  QComboBox *drive1_;
-  QTreeWidget *dir1_;
+  QComboBox *drives_;
+  QTreeWidget *folders_;
   QLineEdit *path_;
   QCheckBox *hidden_;
   QLabel *selected_;

@@ -30,13 +30,13 @@ std::int16_t PageSlots::Grow() {
   if (pageCount_ == std::numeric_limits<std::int16_t>::max()) {
     throw RuntimeError::Of(ErrorNumber::Overflow, QStringLiteral("PageSlots"));
   }
-  Pages.emplace_back();
+  pages_.emplace_back();
   records_.emplace_back();
   traces_.emplace_back();
   setAsideSources_.emplace_back();
   sites_.emplace_back();
   ++pageCount_;
-  CodeEditors.emplace_back();
+  codeEditors_.emplace_back();
   ++codeEditorCount_;
   return pageCount_;
 }
@@ -62,11 +62,11 @@ QString &PageSlots::Site(int number) {
 }
 
 QPointer<frmMain> &PageSlots::Page(int number) {
-  return Pages[Index(number, pageCount_)];
+  return pages_[Index(number, pageCount_)];
 }
 
 QPointer<frmCodeEditor> &PageSlots::CodeEditor(int number) {
-  return CodeEditors[Index(number, codeEditorCount_)];
+  return codeEditors_[Index(number, codeEditorCount_)];
 }
 
 }  // namespace velor

@@ -42,14 +42,14 @@ class PageSlots {
   QPointer<frmCodeEditor> &CodeEditor(int number);
 
  private:
-  std::vector<QPointer<frmMain>> Pages;
-  std::vector<QPointer<frmCodeEditor>> CodeEditors;
+  std::vector<QPointer<frmMain>> pages_;
+  std::vector<QPointer<frmCodeEditor>> codeEditors_;
   std::vector<PageRecord> records_;
   std::vector<FileTrace> traces_;
   std::vector<std::optional<QString>> setAsideSources_;
   std::vector<QString> sites_;
   std::int16_t pageCount_ = 0;
-  /// The upper bound of CodeEditors; grows in step with PageCount.
+  /// The upper bound of codeEditors_; grows in step with pageCount_.
   std::int16_t codeEditorCount_ = 0;
 };
 

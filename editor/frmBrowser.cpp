@@ -103,22 +103,22 @@ void frmBrowser::BuildToolBar() {
 }
 
 void frmBrowser::BuildStatusBar() {
-  sta_ = new QStatusBar(this);
-  sta_->setObjectName(QStringLiteral("Sta"));
-  sta_->setSizeGripEnabled(false);
-  sta_->setContentsMargins(BarMargin, 0, BarMargin, 0);
-  statusText_ = new QLabel(sta_);
+  statusBar_ = new QStatusBar(this);
+  statusBar_->setObjectName(QStringLiteral("Sta"));
+  statusBar_->setSizeGripEnabled(false);
+  statusBar_->setContentsMargins(BarMargin, 0, BarMargin, 0);
+  statusText_ = new QLabel(statusBar_);
   statusText_->setObjectName(QStringLiteral("Sta_1"));
   statusText_->setTextFormat(Qt::PlainText);
   // A long address is cut rather than widening the window.
   statusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  progress_ = new QLabel(sta_);
+  progress_ = new QLabel(statusBar_);
   progress_->setObjectName(QStringLiteral("Sta_2"));
   progress_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   // As wide at rest as under way, so that nothing moves.
   progress_->setMinimumWidth(progress_->fontMetrics().horizontalAdvance(WidestProgress));
-  sta_->addWidget(statusText_, 1);
-  sta_->addPermanentWidget(progress_);
+  statusBar_->addWidget(statusText_, 1);
+  statusBar_->addPermanentWidget(progress_);
 }
 
 QSize frmBrowser::sizeHint() const {
@@ -137,9 +137,9 @@ bool frmBrowser::event(QEvent *event) {
 
 void frmBrowser::PlaceParts() {
   const int toolBarHeight = toolBar_->sizeHint().height();
-  const int statusBarHeight = sta_->sizeHint().height();
+  const int statusBarHeight = statusBar_->sizeHint().height();
   toolBar_->setGeometry(0, 0, width(), toolBarHeight);
-  sta_->setGeometry(0, height() - statusBarHeight, width(), statusBarHeight);
+  statusBar_->setGeometry(0, height() - statusBarHeight, width(), statusBarHeight);
   if (const auto place = BrowserPlace(size(), toolBarHeight, statusBarHeight)) {
     browser_->Widget()->setGeometry(*place);
   }

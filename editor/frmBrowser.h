@@ -49,7 +49,7 @@ class frmBrowser : public QWidget,
   QString Tag;
   QString PendingAction;
 
-  Browser &brwWebBrowser() { return *browser_; }
+  Browser &WebBrowser() { return *browser_; }
 
   /// Carries out a toolbar button: "Back", "Forward", "Refresh", "Stop"; other keys do nothing.
   void ButtonClicked(const QString &key);
@@ -88,7 +88,7 @@ class frmBrowser : public QWidget,
   std::unique_ptr<Browser> browser_;
   int page_ = 0;
   QToolBar *toolBar_ = nullptr;
-  QStatusBar *sta_ = nullptr;
+  QStatusBar *statusBar_ = nullptr;
   QLabel *statusText_ = nullptr;
   QLabel *progress_ = nullptr;
 };

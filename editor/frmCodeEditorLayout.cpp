@@ -85,15 +85,15 @@ QVBoxLayout *Stack(QWidget *parent) {
 }  // namespace
 
 void frmCodeEditor::BuildLayout() {
-  auto *picTools = new QWidget;
-  picTools->setObjectName(QStringLiteral("picTools"));
-  picTools->setFixedWidth(ToolsWidth);
+  auto *sidePanel = new QWidget;
+  sidePanel->setObjectName(QStringLiteral("picTools"));
+  sidePanel->setFixedWidth(ToolsWidth);
 
   auto *middle = new QHBoxLayout;
   middle->setContentsMargins(0, 0, 0, 0);
   middle->setSpacing(0);
   middle->addWidget(BuildMain(), 1);
-  middle->addWidget(picTools);
+  middle->addWidget(sidePanel);
 
   QVBoxLayout *layout = Stack(this);
   layout->addWidget(BuildTop());
@@ -103,58 +103,58 @@ void frmCodeEditor::BuildLayout() {
 }
 
 QWidget *frmCodeEditor::BuildTop() {
-  auto *tbrGeneral = new QToolBar;
-  tbrGeneral->setObjectName(QStringLiteral("tbrGeneral"));
-  tbrGeneral->setAccessibleName(QStringLiteral("Source Tools"));
-  tbrGeneral->setProperty(HouseStyle::OnBand, true);
-  tbrGeneral->setIconSize(QSize(ToolIconSize, ToolIconSize));
+  auto *toolBar = new QToolBar;
+  toolBar->setObjectName(QStringLiteral("tbrGeneral"));
+  toolBar->setAccessibleName(QStringLiteral("Source Tools"));
+  toolBar->setProperty(HouseStyle::OnBand, true);
+  toolBar->setIconSize(QSize(ToolIconSize, ToolIconSize));
   for (const ToolRow &row : Tools) {
-    ToolBarAction *button = AddToolBarButton(
-        *tbrGeneral, row.key.toString(), row.caption.toString(), Tooltip(row), ButtonKind::Click);
+    ToolBarAction *button = AddToolBarButton(*toolBar, row.key.toString(), row.caption.toString(),
+                                             Tooltip(row), ButtonKind::Click);
     // Nothing is gained by coming to a button that does nothing.
-    tbrGeneral->widgetForAction(button)->setFocusPolicy(Qt::NoFocus);
+    toolBar->widgetForAction(button)->setFocusPolicy(Qt::NoFocus);
   }
 
-  auto *cmdApply = new QPushButton(QStringLiteral("Apply to Document"));
-  cmdApply->setObjectName(QStringLiteral("cmdApply"));
-  cmdApply->setAccessibleName(cmdApply->text());
-  cmdApply->setToolTip(QStringLiteral("Write the source back into the page (Ctrl+Return)"));
-  connect(cmdApply, &QPushButton::clicked, this, &frmCodeEditor::Apply);
+  auto *applyButton = new QPushButton(QStringLiteral("Apply to Document"));
+  applyButton->setObjectName(QStringLiteral("cmdApply"));
+  applyButton->setAccessibleName(applyButton->text());
+  applyButton->setToolTip(QStringLiteral("Write the source back into the page (Ctrl+Return)"));
+  connect(applyButton, &QPushButton::clicked, this, &frmCodeEditor::Apply);
 
-  auto *tabCode = new QTabBar;
-  tabCode->setObjectName(QStringLiteral("tabCode"));
-  tabCode->setAccessibleName(QStringLiteral("Element Groups"));
-  tabCode->setDocumentMode(true);
-  tabCode->setDrawBase(false);
-  tabCode->setExpanding(false);
-  tabCode->setFocusPolicy(Qt::NoFocus);
-  for (const QStringView tab : Tabs) tabCode->addTab(tab.toString());
+  auto *elementGroups = new QTabBar;
+  elementGroups->setObjectName(QStringLiteral("tabCode"));
+  elementGroups->setAccessibleName(QStringLiteral("Element Groups"));
+  elementGroups->setDocumentMode(true);
+  elementGroups->setDrawBase(false);
+  elementGroups->setExpanding(false);
+  elementGroups->setFocusPolicy(Qt::NoFocus);
+  for (const QStringView tab : Tabs) elementGroups->addTab(tab.toString());
 
-  auto *coolBar = new QFrame;
-  coolBar->setObjectName(QStringLiteral("CoolBar"));
+  auto *bandBar = new QFrame;
+  bandBar->setObjectName(QStringLiteral("CoolBar"));
   auto *buttons = new QHBoxLayout;
   buttons->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);
   buttons->setSpacing(BarMargin);
-  buttons->addWidget(tbrGeneral, 1);
-  buttons->addWidget(cmdApply);
-  QVBoxLayout *bands = Stack(coolBar);
+  buttons->addWidget(toolBar, 1);
+  buttons->addWidget(applyButton);
+  QVBoxLayout *bands = Stack(bandBar);
   bands->addLayout(buttons);
-  bands->addWidget(tabCode);
+  bands->addWidget(elementGroups);
 
-  auto *picTop = new QWidget;
-  picTop->setObjectName(QStringLiteral("picTop"));
-  picTop->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  Stack(picTop)->addWidget(coolBar);
-  return picTop;
+  auto *top = new QWidget;
+  top->setObjectName(QStringLiteral("picTop"));
+  top->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  Stack(top)->addWidget(bandBar);
+  return top;
 }
 
 QWidget *frmCodeEditor::BuildMain() {
   code_->Widget()->setObjectName(QStringLiteral("Code"));
   code_->Widget()->setAccessibleName(QStringLiteral("HTML source"));
-  auto *picMain = new QWidget;
-  picMain->setObjectName(QStringLiteral("picMain"));
-  auto *findBar = new SourceFindBar(*code_, picMain);
-  QVBoxLayout *layout = Stack(picMain);
+  auto *sourceArea = new QWidget;
+  sourceArea->setObjectName(QStringLiteral("picMain"));
+  auto *findBar = new SourceFindBar(*code_, sourceArea);
+  QVBoxLayout *layout = Stack(sourceArea);
   layout->addWidget(code_->Widget(), 1);
   layout->addWidget(findBar);
 
@@ -171,7 +171,7 @@ QWidget *frmCodeEditor::BuildMain() {
   onKey(Qt::SHIFT | Qt::Key_F3, [=] { findBar->FindOn(SearchDirection::Backward); });
   code_->Widget()->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(code_->Widget(), &QWidget::customContextMenuRequested, this, &frmCodeEditor::PopUpMenu);
-  return picMain;
+  return sourceArea;
 }
 
 void frmCodeEditor::PopUpMenu(QPoint place) {
@@ -200,9 +200,9 @@ void frmCodeEditor::PopUpMenu(QPoint place) {
 }
 
 QWidget *frmCodeEditor::BuildStatus() {
-  auto *staMain = new QStatusBar;
-  staMain->setObjectName(QStringLiteral("staMain"));
-  staMain->setSizeGripEnabled(false);
+  auto *statusBar = new QStatusBar;
+  statusBar->setObjectName(QStringLiteral("staMain"));
+  statusBar->setSizeGripEnabled(false);
   place_ = new QLabel;
   place_->setObjectName(QStringLiteral("lblPlace"));
   lineEnds_ = new QLabel;
@@ -210,9 +210,9 @@ QWidget *frmCodeEditor::BuildStatus() {
   lineEnds_->setToolTip(QStringLiteral("How the lines of the source end"));
   for (QLabel *label : {place_, lineEnds_}) {
     label->setContentsMargins(BarMargin, 0, BarMargin, 0);
-    staMain->addPermanentWidget(label);
+    statusBar->addPermanentWidget(label);
   }
-  return staMain;
+  return statusBar;
 }
 
 }  // namespace velor

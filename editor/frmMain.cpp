@@ -91,7 +91,7 @@ frmMain::frmMain(EditorContext &context, int number)
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  layout->addWidget(tbrQuick);
+  layout->addWidget(modeBar_);
   views_ = new QStackedLayout;
   views_->addWidget(component_->Widget());
   views_->addWidget(source_->Widget());
@@ -119,20 +119,20 @@ frmMain::~frmMain() {
 }
 
 void frmMain::BuildToolBar() {
-  tbrQuick = new QToolBar(this);
-  tbrQuick->setObjectName(QStringLiteral("tbrQuick"));
-  tbrQuick->setAccessibleName(QStringLiteral("Modes"));
-  tbrQuick->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  tbrQuick->setIconSize(QSize(QuickIconSize, QuickIconSize));
-  tbrQuick->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);
+  modeBar_ = new QToolBar(this);
+  modeBar_->setObjectName(QStringLiteral("tbrQuick"));
+  modeBar_->setAccessibleName(QStringLiteral("Modes"));
+  modeBar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  modeBar_->setIconSize(QSize(QuickIconSize, QuickIconSize));
+  modeBar_->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);
   int position = 0;
   for (const QuickButtonRow &row : QuickButtons) {
     ++position;
     if (row.key.isEmpty()) {
-      tbrQuick->addSeparator();
+      modeBar_->addSeparator();
       continue;
     }
-    ToolBarAction *button = AddToolBarButton(*tbrQuick, row.key.toString(), row.caption.toString(),
+    ToolBarAction *button = AddToolBarButton(*modeBar_, row.key.toString(), row.caption.toString(),
                                              row.tooltip.toString(), row.kind);
     button->setObjectName(row.key.toString());
     connect(button, &ToolBarAction::Chosen, this,
@@ -141,7 +141,7 @@ void frmMain::BuildToolBar() {
 }
 
 ToolBarAction *frmMain::QuickButton(QStringView key) const {
-  for (QAction *button : tbrQuick->actions()) {
+  for (QAction *button : modeBar_->actions()) {
     if (button->data().toString() == key) return static_cast<ToolBarAction *>(button);
   }
   return nullptr;

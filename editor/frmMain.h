@@ -60,8 +60,8 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void ReopenEditor(const QString &source);
   /// Tells the element under the caret in the status bar and, for a link, its target in a tooltip.
   void DynaLink();
-  /// Sets one editing-toolbar button from the status of `function`.
-  void EditBarCheck(EditingCommand tbrButton, EditingCommand function);
+  /// Shows the status of `command` on the editing toolbar's button of the command `button`.
+  void EditBarCheck(EditingCommand button, EditingCommand command);
   /// Brings the main window's formatting buttons and boxes in step with the selection.
   void RefreshMfrm();
   /// Gives this page's tab this window's caption.
@@ -107,7 +107,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void FilesDropped(const QStringList &paths) override;
 
   void BuildToolBar();
-  /// A button of tbrQuick by its key.
+  /// A button of the mode toolbar by its key; null for an unknown one.
   ToolBarAction *QuickButton(QStringView key) const;
   void QuickButtonClicked(int position);
   void ToggleShowDetails();
@@ -133,7 +133,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   PageJournal journal_;
   bool isReadOnlyTold_ = false;
   SourceCaret shownCaret_;  ///< where the source view's caret was put
-  QToolBar *tbrQuick = nullptr;
+  QToolBar *modeBar_ = nullptr;
   QStackedLayout *views_ = nullptr;
   OutsideChanges *outside_ = nullptr;
 };

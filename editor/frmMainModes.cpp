@@ -143,19 +143,19 @@ void frmMain::Preview() {
   const PageRecord record = GetPageRecord();
   frmBrowser &preview = PreviewWindow(context_);
   preview.SetPage(number_);
-  preview.brwWebBrowser().SetSite(FindIgnoringCase(context_.pages.Site(number_)));
+  preview.WebBrowser().SetSite(FindIgnoringCase(context_.pages.Site(number_)));
   if (record.ReadOnly != False16) {
     context_.mainWindow.windows.Show(&preview);
-    preview.brwWebBrowser().Navigate(ToUrl(record.Path));
+    preview.WebBrowser().Navigate(ToUrl(record.Path));
     return;
   }
   const QString text = CreatorHTML();
   const bool written = RenewTemporaryCopy(text, modWorkFlow::CopyEnd::LineBreak);
   context_.mainWindow.windows.Show(&preview);
   if (written) {
-    preview.brwWebBrowser().Navigate(ToUrl(record.TempPath));
+    preview.WebBrowser().Navigate(ToUrl(record.TempPath));
   } else {
-    preview.brwWebBrowser().NavigateToText(text, BaseOf(record, context_.platform.runtime));
+    preview.WebBrowser().NavigateToText(text, BaseOf(record, context_.platform.runtime));
   }
 }
 

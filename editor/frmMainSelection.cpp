@@ -7,21 +7,21 @@
 
 namespace velor {
 
-void frmMain::EditBarCheck(EditingCommand tbrButton, EditingCommand function) {
+void frmMain::EditBarCheck(EditingCommand button, EditingCommand command) {
   FormatDisplay &formats = context_.mainWindow.formats;
-  switch (component_->QueryStatus(function)) {
+  switch (component_->QueryStatus(command)) {
     case CommandStatus::NotSupported:
-      formats.ShowButton(tbrButton, ButtonState::Unsupported);
+      formats.ShowButton(button, ButtonState::Unsupported);
       break;
     case CommandStatus::Disabled:
-      formats.ShowButton(tbrButton, ButtonState::Off);
+      formats.ShowButton(button, ButtonState::Off);
       break;
     case CommandStatus::Enabled:
     case CommandStatus::Ninched:
-      formats.ShowButton(tbrButton, ButtonState::On);
+      formats.ShowButton(button, ButtonState::On);
       break;
     case CommandStatus::Latched:
-      formats.ShowButton(tbrButton, ButtonState::Pressed);
+      formats.ShowButton(button, ButtonState::Pressed);
       break;
   }
 }

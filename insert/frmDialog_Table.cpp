@@ -72,21 +72,21 @@ frmDialog_Table::frmDialog_Table(ProgramValues &values, QWidget *parent)
   cellPadding_ =
       FormParts::AddNumberBox(form, QStringLiteral("combo4"), QStringLiteral("Cell Padding:"), one);
 
-  auto *TabStrip1 = new QTabWidget;
-  FormParts::Name(*TabStrip1, QStringLiteral("TabStrip1"), QStringLiteral("Table Setup:"));
-  TabStrip1->addTab(page, QStringLiteral("Table"));
+  auto *tabs = new QTabWidget;
+  FormParts::Name(*tabs, QStringLiteral("TabStrip1"), QStringLiteral("Table Setup:"));
+  tabs->addTab(page, QStringLiteral("Table"));
 
-  QPushButton *Command1 =
+  QPushButton *insertButton =
       FormParts::MakeButton(QStringLiteral("Command1"), QStringLiteral("Insert"));
-  QPushButton *Command2 =
+  QPushButton *cancelButton =
       FormParts::MakeButton(QStringLiteral("Command2"), QStringLiteral("Cancel"));
-  connect(Command1, &QPushButton::clicked, this, &frmDialog_Table::Insert);
-  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
+  connect(insertButton, &QPushButton::clicked, this, &frmDialog_Table::Insert);
+  connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);
 
   QVBoxLayout *window = FormParts::MakePage(this);
   window->addWidget(new QLabel(QStringLiteral("Table Setup:")));
-  window->addWidget(TabStrip1, 1);
-  FormParts::AddButtonRow(window, {Command1, Command2});
+  window->addWidget(tabs, 1);
+  FormParts::AddButtonRow(window, {insertButton, cancelButton});
   setMinimumWidth(ComfortableWidth);
   columns_->setFocus();
 }

@@ -85,19 +85,19 @@ void frmProjectManager::Build() {
 
   auto *projectsPage = new QWidget;
   QVBoxLayout *projects = column(projectsPage);
-  auto *Label1 = new QLabel(QStringLiteral("Select the Project and open it."));
-  Label1->setObjectName(QStringLiteral("Label1"));
+  auto *caption = new QLabel(QStringLiteral("Select the Project and open it."));
+  caption->setObjectName(QStringLiteral("Label1"));
   projectList_ = new RecordList(
       {QStringLiteral("ProjectId"), QStringLiteral("ProjectName"), QStringLiteral("DateModified")},
       1);
   projectList_->setObjectName(QStringLiteral("LsHistory"));
-  projectList_->setAccessibleName(Label1->text());
+  projectList_->setAccessibleName(caption->text());
   openButton_ = new QPushButton(QStringLiteral("Open"));
   openButton_->setObjectName(QStringLiteral("cmdOpen"));
   openButton_->setAccessibleName(openButton_->text());
   openButton_->setDefault(true);
-  Label1->setBuddy(projectList_);
-  projects->addWidget(Label1);
+  caption->setBuddy(projectList_);
+  projects->addWidget(caption);
   projects->addWidget(projectList_);
   projects->addWidget(openButton_, 0, Qt::AlignRight);
 

@@ -6,7 +6,7 @@
 
 namespace velor {
 
-FrmLogin::FrmLogin(Components &components) : commonDialog1_(components.CreateFileDialog()) {
+FrmLogin::FrmLogin(Components &components) : databaseDialog_(components.CreateFileDialog()) {
   setObjectName(QStringLiteral("FrmLogin"));
   setWindowTitle(QStringLiteral("Form1"));
 }

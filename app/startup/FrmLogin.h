@@ -19,10 +19,10 @@ class FrmLogin : public QWidget {
  public:
   explicit FrmLogin(Components &components);
 
-  FileDialog &CommonDialog1() { return *commonDialog1_; }
+  FileDialog &CommonDialog1() { return *databaseDialog_; }
 
  private:
-  std::unique_ptr<FileDialog> commonDialog1_;
+  std::unique_ptr<FileDialog> databaseDialog_;
 };
 
 }  // namespace velor

@@ -178,7 +178,7 @@ void CommandRouter::Preview() {
     page->ChangeMode(PreviewMode);
   } else if (front != nullptr && front->View() == FrontView::Preview &&
              additions_ == Additions::On) {
-    context_.preview->brwWebBrowser().Refresh();
+    context_.preview->WebBrowser().Refresh();
   }
 }
 

@@ -283,7 +283,7 @@ void RecoveryBar::Show(const AbandonedPage &abandoned) {
   frmBrowser &preview = PreviewWindow(context_);
   preview.SetPage(0);
   context_.mainWindow.windows.Show(&preview);
-  preview.brwWebBrowser().NavigateToText(
+  preview.WebBrowser().NavigateToText(
       page.source ? *page.source : original.Unmasked(memory.document),
       QUrl::fromLocalFile(memory.base));
 }
