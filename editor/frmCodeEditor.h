@@ -77,7 +77,7 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   /// The source in the control is a new one.
   void SourceReplaced(const ElementPlaces &caret);
 
-  // Layout (frmCodeEditorLayout.cpp)
+  // Layout (SourceEditorLayout.cpp)
   void BuildLayout();
   QWidget *BuildTop();
   QWidget *BuildMain();

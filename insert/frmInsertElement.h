@@ -69,7 +69,7 @@ class frmInsertElement : public QDialog {
   void showEvent(QShowEvent *event) override;
 
  private:
-  // Building (frmInsertElementPages.cpp).
+  // Building (ElementDialogPages.cpp).
   void Build();
   QWidget *BuildImagePage();
   QWidget *BuildHyperlinkPage();
