@@ -20,18 +20,20 @@ int main(int argc, char **argv) {
   real.copies.RemoveAbandoned();
   ProgramValues values;
   std::unique_ptr<MfrmProgram> mainWindow;
-  RealStartUpWindows windows(real.parts, values, [&] {
-    mainWindow = std::make_unique<MfrmProgram>(real.parts, values);
-    QObject::connect(mainWindow.get(), &MfrmProgram::Unloading, &application,
-                     [&] { boundary.ProgramEnds(); });
-    // Not quit(), which would ask every window once more.
-    QObject::connect(mainWindow.get(), &MfrmProgram::Unloaded, &application,
-                     [] { QCoreApplication::exit(); });
-    mainWindow->Load();
-    if (IsSandboxOff())
-      mainWindow->Context().mainWindow.status.Report(QStringLiteral(
-          "The browser engine's sandbox is off: preview only pages that you trust."));
-  });
+  RealStartUpWindows windows(
+      real.parts.components, real.dialogs, {values.ImageFolderPath, values.ProjectFolderResult},
+      [&] {
+        mainWindow = std::make_unique<MfrmProgram>(real.parts, values);
+        QObject::connect(mainWindow.get(), &MfrmProgram::Unloading, &application,
+                         [&] { boundary.ProgramEnds(); });
+        // Not quit(), which would ask every window once more.
+        QObject::connect(mainWindow.get(), &MfrmProgram::Unloaded, &application,
+                         [] { QCoreApplication::exit(); });
+        mainWindow->Load();
+        if (IsSandboxOff())
+          mainWindow->Context().mainWindow.status.Report(QStringLiteral(
+              "The browser engine's sandbox is off: preview only pages that you trust."));
+      });
   boundary.Run([&] {
     if (driveMapError) throw *driveMapError;
     StartUp(real.parts, values, windows);

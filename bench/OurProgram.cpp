@@ -32,10 +32,11 @@ OurProgram::OurProgram() {
   Prepare(folder_.path());
   DressApplication(*qApp);
   real_ = std::make_unique<RealPlatform>(0, nullptr);
-  RealStartUpWindows windows(real_->parts, values_, [this] {
-    window_ = std::make_unique<MfrmProgram>(real_->parts, values_);
-    window_->Load();
-  });
+  RealStartUpWindows windows(real_->parts.components, real_->dialogs,
+                             {values_.ImageFolderPath, values_.ProjectFolderResult}, [this] {
+                               window_ = std::make_unique<MfrmProgram>(real_->parts, values_);
+                               window_->Load();
+                             });
   StartUp(real_->parts, values_, windows);
   (void)QTest::qWaitForWindowExposed(window_.get());
 }

@@ -5,7 +5,6 @@
 #include "platform/Dialogs.h"
 #include "platform/Paths.h"
 #include "platform/PlainTip.h"
-#include "platform/ProgramValues.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -85,12 +84,13 @@ void FrmDrives::AddDrive(QChar letter) {
 }
 
 void FrmDrives::Add() {
-  ProgramValues answer;
-  FrmFld picker(answer, this);
+  QString imageFolder;
+  QString folder;
+  FrmFld picker({imageFolder, folder}, this);
   picker.ForProject = true;
   dialogs_.RunModal(picker);
-  if (answer.ProjectFolderResult.isEmpty()) return;
-  map_.Set(letter_->currentText().at(0), ToNative(answer.ProjectFolderResult));
+  if (folder.isEmpty()) return;
+  map_.Set(letter_->currentText().at(0), ToNative(folder));
   Fill();
 }
 

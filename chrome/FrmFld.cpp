@@ -3,7 +3,6 @@
 
 #include "platform/Paths.h"
 #include "platform/PlainTip.h"
-#include "platform/ProgramValues.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -108,9 +107,9 @@ QTreeWidgetItem *NewFolderItem(const QString &name, const QString &path) {
 
 }  // namespace
 
-FrmFld::FrmFld(ProgramValues &values, QWidget *parent)
+FrmFld::FrmFld(PickedFolders results, QWidget *parent)
     : QDialog(parent),
-      values_(values),
+      results_(results),
       drives_(new QComboBox),
       folders_(new QTreeWidget),
       path_(new QLineEdit),
@@ -280,7 +279,7 @@ void FrmFld::reject() {
 }
 
 void FrmFld::StoreResult(const QString &folder) {
-  (ForProject ? values_.ProjectFolderResult : values_.ImageFolderPath) = folder;
+  (ForProject ? results_.ProjectFolderResult : results_.ImageFolderPath) = folder;
 }
 
 }  // namespace velor

@@ -13,7 +13,11 @@ class QTreeWidgetItem;
 
 namespace velor {
 
-struct ProgramValues;
+/// Where the folder picker leaves its answer: one of the two, see FrmFld::ForProject.
+struct PickedFolders {
+  QString &ImageFolderPath;
+  QString &ProjectFolderResult;
+};
 
 /// The folder picker: the drive, the tree of its folders, and a box for a path that is typed or
 /// pasted. Its size does not depend on the names shown. Its answer is the chosen folder in logic
@@ -23,7 +27,8 @@ class FrmFld : public QDialog {
   Q_OBJECT
 
  public:
-  explicit FrmFld(ProgramValues &values, QWidget *parent = nullptr);
+  /// The texts that `results` refers to outlive the picker.
+  explicit FrmFld(PickedFolders results, QWidget *parent = nullptr);
 
   /// Where the answer goes: ProjectFolderResult when set, else ImageFolderPath.
   bool ForProject = false;
@@ -49,7 +54,7 @@ class FrmFld : public QDialog {
   void ShowSelected();
   void StoreResult(const QString &folder);
 
-  ProgramValues &values_;
+  PickedFolders results_;
   QComboBox *drives_;
   QTreeWidget *folders_;
   QLineEdit *path_;

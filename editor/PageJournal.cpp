@@ -5,7 +5,6 @@
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "platform/EditingComponent.h"
-#include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
@@ -29,9 +28,10 @@ constexpr std::chrono::milliseconds LongestUnsynced = 500ms;
 
 }  // namespace
 
-PageJournal::PageJournal(EditorContext &context, EditingComponent &component, int number)
-    : context_(context), component_(component), number_(number) {
-  if (context.platform.journals != nullptr) journal_ = context.platform.journals->Begin();
+PageJournal::PageJournal(Journals *journals, PageSlots &pages, StatusDisplay &status,
+                         EditingComponent &component, int number)
+    : pages_(pages), status_(status), component_(component), number_(number) {
+  if (journals != nullptr) journal_ = journals->Begin();
   writing_.setSingleShot(true);
   compacting_.setSingleShot(true);
   QObject::connect(&writing_, &QTimer::timeout, [this] { Write(); });
@@ -93,7 +93,7 @@ void PageJournal::MarkUnsaved() {
 void PageJournal::Discard() {
   saveFailed_ = false;
   saved_ = component_.Memory().document;
-  context_.pages.SetAsideSource(number_).reset();
+  pages_.SetAsideSource(number_).reset();
   Remove();
 }
 
@@ -144,16 +144,16 @@ void PageJournal::CallOffExit() {
 }
 
 JournalledPage PageJournal::Page(RunEnd end) const {
-  const PageRecord &record = context_.pages.Record(number_);
+  const PageRecord &record = pages_.Record(number_);
   const bool hasFile = record.HasFile != False16;
-  const frmCodeEditor *editor = context_.pages.CodeEditor(number_);
+  const frmCodeEditor *editor = pages_.CodeEditor(number_);
   const auto typed = editor == nullptr ? std::nullopt : editor->UnappliedText();
   return {record.Path,
           record.Caption,
           hasFile ? JournalledPage::Saving::ToItsFile : JournalledPage::Saving::AsksForAName,
           component_.Memory(),
           QDateTime::currentDateTime(),
-          typed ? typed : context_.pages.SetAsideSource(number_),
+          typed ? typed : pages_.SetAsideSource(number_),
           end};
 }
 
@@ -197,9 +197,8 @@ bool PageJournal::Attempt(Step step) {
     return true;
   } catch (const RuntimeError &error) {
     if (!failureTold_) {
-      context_.mainWindow.status.Report(
-          QStringLiteral("The changes of %1 could not be kept for a recovery: %2")
-              .arg(context_.pages.Record(number_).Caption, error.Description()));
+      status_.Report(QStringLiteral("The changes of %1 could not be kept for a recovery: %2")
+                         .arg(pages_.Record(number_).Caption, error.Description()));
     }
     failureTold_ = true;
     return false;

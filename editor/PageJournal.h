@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "editor/EditorContext.h"
 #include "platform/Journal.h"
 
 #include <QElapsedTimer>
@@ -12,6 +11,8 @@
 namespace velor {
 
 class EditingComponent;
+class PageSlots;
+class StatusDisplay;
 
 /// Keeps a page's unsaved changes, and the text of its source editor that was not applied, in a
 /// journal while there are any. The journal is at most about a second behind what the component
@@ -20,8 +21,9 @@ class EditingComponent;
 /// told in the status bar.
 class PageJournal {
  public:
-  /// All outlive it.
-  PageJournal(EditorContext &context, EditingComponent &component, int number);
+  /// All outlive it. `number` is the page's slot in `pages`. Without `journals` nothing is kept.
+  PageJournal(Journals *journals, PageSlots &pages, StatusDisplay &status,
+              EditingComponent &component, int number);
 
   /// The component's Memory() may have changed.
   void DocumentChanged();
@@ -70,7 +72,8 @@ class PageJournal {
   /// Whether the journal still follows its page.
   enum class Phase { Following, KeptAtExit, Closed };
 
-  EditorContext &context_;
+  PageSlots &pages_;
+  StatusDisplay &status_;
   EditingComponent &component_;
   const int number_;
   std::unique_ptr<Journal> journal_;  ///< null without journals

@@ -77,7 +77,8 @@ frmMain::frmMain(EditorContext &context, int number)
       number_(number),
       component_(context.platform.components.CreateEditingComponent(this)),
       source_(context.platform.components.CreateSourceControl(this, SourceAccess::View)),
-      journal_(context, *component_, number) {
+      journal_(context.platform.journals, context.pages, context.mainWindow.status, *component_,
+               number) {
   setObjectName(QStringLiteral("frmMain"));
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowIcon(IconFor(QStringLiteral("page")));

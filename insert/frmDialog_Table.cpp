@@ -4,7 +4,6 @@
 #include "insert/FormParts.h"
 #include "insert/TableHtml.h"
 #include "insert/TextBox.h"
-#include "platform/ProgramValues.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -47,8 +46,7 @@ class AlignmentBox : public QComboBox {
 
 }  // namespace
 
-frmDialog_Table::frmDialog_Table(ProgramValues &values, QWidget *parent)
-    : QDialog(parent), values_(values) {
+frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent) : QDialog(parent), html_(html) {
   setObjectName(QStringLiteral("frmDialog_Table"));
   setWindowTitle(QStringLiteral("Table Editor"));
   setModal(true);
@@ -92,12 +90,12 @@ frmDialog_Table::frmDialog_Table(ProgramValues &values, QWidget *parent)
 }
 
 void frmDialog_Table::Insert() {
-  values_.HTMLString = TableHtml({.align = alignment_->currentText(),
-                                  .cellSpacing = cellSpacing_->text(),
-                                  .cellPadding = cellPadding_->text(),
-                                  .border = border_->text(),
-                                  .rows = rows_->text(),
-                                  .columns = columns_->text()});
+  html_ = TableHtml({.align = alignment_->currentText(),
+                     .cellSpacing = cellSpacing_->text(),
+                     .cellPadding = cellPadding_->text(),
+                     .border = border_->text(),
+                     .rows = rows_->text(),
+                     .columns = columns_->text()});
   accept();
 }
 

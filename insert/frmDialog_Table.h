@@ -8,20 +8,21 @@ class QComboBox;
 namespace velor {
 
 class TextBox;
-struct ProgramValues;
 
-/// The table dialog. Insert leaves the table's HTML in ProgramValues::HTMLString and closes; Cancel
-/// closes and leaves that text as it was. Made for one showing, modal, and released after it.
+/// The table dialog. Insert leaves the table's HTML in `html` (ProgramValues::HTMLString) and
+/// closes; Cancel closes and leaves that text as it was. Made for one showing, modal, and released
+/// after it.
 class frmDialog_Table : public QDialog {
   Q_OBJECT
 
  public:
-  explicit frmDialog_Table(ProgramValues &values, QWidget *parent = nullptr);
+  /// `html` outlives the dialog.
+  explicit frmDialog_Table(QString &html, QWidget *parent = nullptr);
 
  private:
   void Insert();
 
-  ProgramValues &values_;
+  QString &html_;
   TextBox *columns_ = nullptr;
   TextBox *rows_ = nullptr;
   QComboBox *alignment_ = nullptr;

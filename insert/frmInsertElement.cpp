@@ -30,8 +30,9 @@ const QStringList ElementModes = {QStringLiteral("image"), QStringLiteral("hyper
 
 }  // namespace
 
-frmInsertElement::frmInsertElement(Platform &platform, StylingSweeps *sweeps, QWidget *parent)
-    : QDialog(parent), platform_(platform) {
+frmInsertElement::frmInsertElement(Runtime &runtime, Dialogs &dialogs, Components &components,
+                                   StylingSweeps *sweeps, QWidget *parent)
+    : QDialog(parent), runtime_(runtime), dialogs_(dialogs), components_(components) {
   Build();
   Connect();
   if (sweeps) {
@@ -127,14 +128,14 @@ void frmInsertElement::InsertAndClose() {
   if (InsertMode == u"true" && ElementMode == u"image") {
     std::int32_t image = 1;
     const QString failure =
-        InsertHtmlAtSelection(platform_.runtime, IsCreator, GenerateCode(image), TheDOM, TheCode);
+        InsertHtmlAtSelection(runtime_, IsCreator, GenerateCode(image), TheDOM, TheCode);
     if (!failure.isEmpty()) Q_EMIT Reported(failure);
   }
   accept();
 }
 
 QString frmInsertElement::Browse(const QString &filter) {
-  if (!fileDialog_) fileDialog_ = platform_.components.CreateFileDialog();
+  if (!fileDialog_) fileDialog_ = components_.CreateFileDialog();
   return BrowseForFile(*fileDialog_, filter);
 }
 
@@ -187,8 +188,8 @@ void frmInsertElement::ShowPicture(const QString &file) {
 
 void frmInsertElement::AskForMailAddress() {
   const QString answer =
-      platform_.dialogs.AskText(QStringLiteral("Please enter the E-mail Address."),
-                                QStringLiteral("Link to a E-mail Address"), ExampleAddress);
+      dialogs_.AskText(QStringLiteral("Please enter the E-mail Address."),
+                       QStringLiteral("Link to a E-mail Address"), ExampleAddress);
   if (!answer.isEmpty()) linkTarget_->setText(QStringLiteral("mailto:") + answer);
 }
 

@@ -17,11 +17,13 @@ class QTabWidget;
 
 namespace velor {
 
+class Components;
+class Dialogs;
 class FileDialog;
+class Runtime;
 class SourceControl;
 class StylingSweeps;
 class TextBox;
-struct Platform;
 
 /// The element dialog: pages for a picture, a hyperlink, a bookmark and a video. Only a picture
 /// reaches the document; OK on the other pages, and in edit mode, changes nothing.
@@ -32,8 +34,10 @@ class frmInsertElement : public QDialog {
   Q_OBJECT
 
  public:
-  /// Without `sweeps` the controls keep the palette's own look.
-  frmInsertElement(Platform &platform, StylingSweeps *sweeps, QWidget *parent = nullptr);
+  /// `runtime`, `dialogs` and `components` outlive the dialog; `components` makes the file dialog
+  /// of its browse buttons. Without `sweeps` the controls keep the palette's own look.
+  frmInsertElement(Runtime &runtime, Dialogs &dialogs, Components &components,
+                   StylingSweeps *sweeps, QWidget *parent = nullptr);
   ~frmInsertElement() override;
 
   // What a showing is about; see PrepareInsert.
@@ -87,7 +91,9 @@ class frmInsertElement : public QDialog {
   void ShowPicture(const QString &file);
   ImageValues Values() const;
 
-  Platform &platform_;
+  Runtime &runtime_;
+  Dialogs &dialogs_;
+  Components &components_;
   std::unique_ptr<FileDialog> fileDialog_;
   PictureSize picture_;
 

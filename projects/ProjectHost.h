@@ -29,9 +29,9 @@ class ProjectHost {
   /// Opens a page file of a project; `path` in logic form, made up by the program.
   virtual void OpenProjectPage(const QString &path) = 0;
 
-  /// Shows the folder picker for a project's folder, modally, at the nearest folder of `wanted`
-  /// that is there; the answer is then in ProgramValues::ProjectFolderResult, empty when cancelled.
-  virtual void PickProjectFolder(const QString &wanted) = 0;
+  /// Shows the folder picker for a project's folder, modally, at `wanted` or the nearest folder
+  /// above it that is there. Returns the folder in logic form, empty when cancelled.
+  virtual QString PickProjectFolder(const QString &wanted) = 0;
   /// Shows the window that names folders for drives, modally, with a row for the drive that `path`
   /// begins with.
   virtual void NameDrives(const QString &path) = 0;

@@ -7,8 +7,6 @@
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
-#include "platform/Platform.h"
-#include "platform/ProgramValues.h"
 #include "platform/RuntimeError.h"
 #include "projects/FillList.h"
 #include "projects/ProjectHost.h"
@@ -34,9 +32,10 @@ const QString PathColumn = QStringLiteral("Path");
 
 }  // namespace
 
-frmProjectManager::frmProjectManager(Platform &platform, ProgramValues &values, ProjectHost &host,
+frmProjectManager::frmProjectManager(const Files &files, Dialogs &dialogs,
+                                     DatabaseConnection *connection, ProjectHost &host,
                                      StylingSweeps *sweeps, QWidget *parent)
-    : QDialog(parent), platform_(platform), values_(values), host_(host) {
+    : QDialog(parent), files_(files), dialogs_(dialogs), connection_(connection), host_(host) {
   Build();
   if (sweeps) sweeps->FlatSweep(*this);
   tabs_->setCurrentIndex(0);
@@ -182,14 +181,14 @@ void frmProjectManager::OpenCurrentProject() {
 }
 
 bool frmProjectManager::IsSiteIn(const QString &folder) const {
-  return platform_.files.FileExists(folder + QStringLiteral("\\Index.htm"), NameOrigin::Program);
+  return files_.FileExists(folder + QStringLiteral("\\Index.htm"), NameOrigin::Program);
 }
 
 QString frmProjectManager::FolderToWrite(const QString &folder, const QString &stored) {
   QString chosen = folder;
   while (IsOnUnknownDrive(stored) && !IsDrivePath(chosen)) {
     const QString drive = stored.left(1).toUpper();
-    const MessageAnswer answer = platform_.dialogs.ShowMessage(
+    const MessageAnswer answer = dialogs_.ShowMessage(
         {.text = QStringLiteral(
                      "This catalogue comes from another computer, where the site lies in %1. That "
                      "computer no longer finds the site if %2 is written into the catalogue.\n\n"
@@ -209,13 +208,13 @@ QString frmProjectManager::FolderToWrite(const QString &folder, const QString &s
 }
 
 bool frmProjectManager::RepairFolders(const QVariant &projectId, const QString &stored) {
-  const MessageAnswer answer = platform_.dialogs.ShowMessage(
-      {.text = QStringLiteral("Web path not found please provide the path"),
-       .buttons = MessageButtons::YesNo});
+  const MessageAnswer answer =
+      dialogs_.ShowMessage({.text = QStringLiteral("Web path not found please provide the path"),
+                            .buttons = MessageButtons::YesNo});
   if (answer != MessageAnswer::Yes) return false;
-  host_.PickProjectFolder(stored);
-  if (values_.ProjectFolderResult.isEmpty()) return false;
-  const QString folder = FolderToWrite(values_.ProjectFolderResult, stored);
+  const QString picked = host_.PickProjectFolder(stored);
+  if (picked.isEmpty()) return false;
+  const QString folder = FolderToWrite(picked, stored);
   if (folder.isEmpty()) return false;
   if (folder == stored && IsSiteIn(stored)) return true;
   ExecuteSql(Connection(), Statements::SetProjectFolder(folder, projectId));
@@ -239,10 +238,10 @@ Recordset &frmProjectManager::Query(const QString &statement) {
 }
 
 DatabaseConnection &frmProjectManager::Connection() {
-  if (!values_.DbConnection) {
+  if (connection_ == nullptr) {
     throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("DbConnection"));
   }
-  return *values_.DbConnection;
+  return *connection_;
 }
 
 }  // namespace velor

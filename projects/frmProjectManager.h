@@ -14,12 +14,12 @@ class QTabWidget;
 namespace velor {
 
 class DatabaseConnection;
+class Dialogs;
+class Files;
 class ProjectHost;
 class RecordList;
 class Recordset;
 class StylingSweeps;
-struct Platform;
-struct ProgramValues;
 
 /// The project manager: lists the generated projects, repairs the folder of one that has moved, and
 /// opens one for editing. Opening hides the window, closing it ends it; see IsClosed.
@@ -27,10 +27,11 @@ class frmProjectManager : public QDialog {
   Q_OBJECT
 
  public:
-  /// Loads the list. A database failure passes through. Without `sweeps` the controls keep the
-  /// palette's own look.
-  frmProjectManager(Platform &platform, ProgramValues &values, ProjectHost &host,
-                    StylingSweeps *sweeps, QWidget *parent = nullptr);
+  /// Loads the list of projects. Raises RuntimeError when the database fails, ObjectNotSet (91)
+  /// where there is no connection. All arguments outlive the window. Without `sweeps` the controls
+  /// keep the palette's own look.
+  frmProjectManager(const Files &files, Dialogs &dialogs, DatabaseConnection *connection,
+                    ProjectHost &host, StylingSweeps *sweeps, QWidget *parent = nullptr);
   ~frmProjectManager() override;
 
   /// Fills the list of projects, and makes opening and the page list available when there are
@@ -65,8 +66,9 @@ class frmProjectManager : public QDialog {
   Recordset &Query(const QString &statement);
   DatabaseConnection &Connection();
 
-  Platform &platform_;
-  ProgramValues &values_;
+  const Files &files_;
+  Dialogs &dialogs_;
+  DatabaseConnection *connection_;
   ProjectHost &host_;
   std::unique_ptr<Recordset> records_;
   RowTable projects_;

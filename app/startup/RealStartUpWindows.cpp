@@ -1,25 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/startup/RealStartUpWindows.h"
 
-#include "chrome/FrmFld.h"
-
 #include <utility>
 
 namespace velor {
 
-RealStartUpWindows::RealStartUpWindows(Platform &platform, ProgramValues &values,
-                                       std::function<void()> loadMainWindow)
-    : platform_(platform), values_(values), loadMainWindow_(std::move(loadMainWindow)) {}
+RealStartUpWindows::RealStartUpWindows(Components &components, Dialogs &dialogs,
+                                       PickedFolders results, std::function<void()> loadMainWindow)
+    : components_(components),
+      dialogs_(dialogs),
+      results_(results),
+      loadMainWindow_(std::move(loadMainWindow)) {}
 
 FileDialog &RealStartUpWindows::LoadLogin() {
-  login_ = std::make_unique<FrmLogin>(platform_.components);
+  login_ = std::make_unique<FrmLogin>(components_);
   return login_->CommonDialog1();
 }
 
 void RealStartUpWindows::PickImageFolder() {
-  FrmFld picker(values_);
+  FrmFld picker(results_);
   picker.ForProject = false;
-  platform_.dialogs.RunModal(picker);
+  dialogs_.RunModal(picker);
 }
 
 }  // namespace velor

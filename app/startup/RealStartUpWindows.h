@@ -3,6 +3,7 @@
 
 #include "app/startup/FrmLogin.h"
 #include "app/startup/StartUp.h"
+#include "chrome/FrmFld.h"
 
 #include <functional>
 #include <memory>
@@ -12,8 +13,9 @@ namespace velor {
 /// The windows of the running program. FrmLogin lives as long as this object.
 class RealStartUpWindows final : public StartUpWindows {
  public:
-  /// `loadMainWindow` makes and shows the main window.
-  RealStartUpWindows(Platform &platform, ProgramValues &values,
+  /// `components` makes the database dialog; the image folder's picker is shown by `dialogs` and
+  /// answers in `results`. `loadMainWindow` makes and shows the main window.
+  RealStartUpWindows(Components &components, Dialogs &dialogs, PickedFolders results,
                      std::function<void()> loadMainWindow);
 
   FileDialog &LoadLogin() override;
@@ -21,8 +23,9 @@ class RealStartUpWindows final : public StartUpWindows {
   void LoadMainWindow() override { loadMainWindow_(); }
 
  private:
-  Platform &platform_;
-  ProgramValues &values_;
+  Components &components_;
+  Dialogs &dialogs_;
+  PickedFolders results_;
   std::function<void()> loadMainWindow_;
   std::unique_ptr<FrmLogin> login_;
 };

@@ -32,9 +32,10 @@ QString Text(const char16_t *text) {
   return QString::fromUtf16(text);
 }
 
-class Procedure {
+/// The steps that ask where a path leads nowhere, in their order.
+class StartUpSteps {
  public:
-  Procedure(Platform &platform, ProgramValues &values, StartUpWindows &windows)
+  StartUpSteps(Platform &platform, ProgramValues &values, StartUpWindows &windows)
       : platform_(platform),
         files_(platform.files),
         values_(values),
@@ -142,10 +143,10 @@ void StartUp(Platform &platform, ProgramValues &values, StartUpWindows &windows)
   platform.runtime.ProcessPendingEvents();
   FileDialog &databaseDialog = windows.LoadLogin();
 
-  Procedure procedure(platform, values, windows);
-  procedure.LocateDatabase(databaseDialog);
-  procedure.OpenConnection();
-  procedure.LocateImageFolder();
+  StartUpSteps steps(platform, values, windows);
+  steps.LocateDatabase(databaseDialog);
+  steps.OpenConnection();
+  steps.LocateImageFolder();
 
   windows.LoadMainWindow();
 }

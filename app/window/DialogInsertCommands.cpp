@@ -16,7 +16,9 @@ namespace velor {
 
 void DialogInsertCommands::Element(const QString &mode, frmMain &page) {
   if (dialog_.isNull()) {
-    dialog_ = new frmInsertElement(context_.platform, sweeps_, page.window());
+    const Platform &platform = context_.platform;
+    dialog_ = new frmInsertElement(platform.runtime, platform.dialogs, platform.components, sweeps_,
+                                   page.window());
     QObject::connect(dialog_, &frmInsertElement::Reported, dialog_, [this](const QString &message) {
       context_.mainWindow.status.Report(message);
     });
@@ -45,7 +47,7 @@ void DialogInsertCommands::Video(frmMain &page) {
 
 void DialogInsertCommands::Table(frmMain &page) {
   const QPointer<frmMain> alive = &page;
-  frmDialog_Table dialog(values_, page.window());
+  frmDialog_Table dialog(values_.HTMLString, page.window());
   context_.platform.dialogs.RunModal(dialog);
   if (alive.isNull()) return;
   page.DHTML1().Document().Selection().CreateRange()->PasteHTML(values_.HTMLString);

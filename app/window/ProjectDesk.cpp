@@ -26,7 +26,8 @@ ProjectDesk::ProjectDesk(EditorContext &context, ProgramValues &values, PageChoo
 
 void ProjectDesk::ShowProjectManager(QWidget &parent) {
   if (manager_.isNull()) {
-    manager_ = new frmProjectManager(context_.platform, values_, *this, sweeps_, &parent);
+    manager_ = new frmProjectManager(context_.platform.files, context_.platform.dialogs,
+                                     values_.DbConnection.get(), *this, sweeps_, &parent);
   } else if (manager_->IsClosed()) {
     manager_->Reopen();
   }
@@ -64,11 +65,12 @@ void ProjectDesk::OpenProjectPage(const QString &path) {
   modWorkFlow::OpenProjectPage(context_, path);
 }
 
-void ProjectDesk::PickProjectFolder(const QString &wanted) {
-  FrmFld picker(values_, manager_);
+QString ProjectDesk::PickProjectFolder(const QString &wanted) {
+  FrmFld picker({values_.ImageFolderPath, values_.ProjectFolderResult}, manager_);
   picker.ForProject = true;
   if (!wanted.isEmpty() && !IsOnUnknownDrive(wanted)) picker.SelectFolder(ToNative(wanted));
   context_.platform.dialogs.RunModal(picker);
+  return values_.ProjectFolderResult;
 }
 
 void ProjectDesk::NameDrives(const QString &path) {

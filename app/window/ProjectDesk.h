@@ -34,7 +34,7 @@ class ProjectDesk final : public ProjectHost {
   int DocumentCount() const override;
   void UnloadDocument(int index) override;
   void OpenProjectPage(const QString &path) override;
-  void PickProjectFolder(const QString &wanted) override;
+  QString PickProjectFolder(const QString &wanted) override;
   void NameDrives(const QString &path) override;
 
  private:

@@ -22,7 +22,7 @@ namespace {
 
 class FolderPicker : public ::testing::Test {
  protected:
-  FolderPicker() : picker_(values_) {
+  FolderPicker() : picker_({values_.ImageFolderPath, values_.ProjectFolderResult}) {
     QDir(folder_.path()).mkpath(QStringLiteral("Sites/Bob's Site"));
     QDir(folder_.path()).mkpath(QStringLiteral("Other"));
     values_.ProjectFolderResult = QStringLiteral("\\project");

@@ -12,7 +12,6 @@
 #include "tests/support/FakeEditingComponent.h"
 #include "tests/support/FakeFileDialog.h"
 #include "tests/support/FakeFiles.h"
-#include "tests/support/FakeRegistry.h"
 #include "tests/support/FakeRuntime.h"
 #include "tests/support/FakeStylingSweeps.h"
 #include "tests/support/Forms.h"
@@ -107,12 +106,10 @@ class ElementDialogTest : public testing::Test {
   FakeFiles files;
   FakeRuntime runtime;
   FakeDialogs dialogs{&log};
-  FakeRegistry registry;
   FileDialogSource components;
-  Platform platform{files, runtime, dialogs, registry, components};
   FakeStylingSweeps sweeps{&log};
   FakeEditingComponent component{files, nullptr};
-  frmInsertElement dialog{platform, &sweeps};
+  frmInsertElement dialog{runtime, dialogs, components, &sweeps};
 };
 
 }  // namespace velor

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "insert/TableHtml.h"
 #include "insert/frmDialog_Table.h"
-#include "platform/ProgramValues.h"
 #include "tests/support/Checks.h"
 #include "tests/support/Forms.h"
 
@@ -27,8 +26,8 @@ class TableDialogTest : public testing::Test {
   }
   void Click(const QString &button) { Control<QPushButton>(dialog, button)->click(); }
 
-  ProgramValues values;
-  frmDialog_Table dialog{values};
+  QString html;
+  frmDialog_Table dialog{html};
 };
 
 TEST_F(TableDialogTest, ShowsItsFieldsUnderTheirLabelsWithTheirDefaults) {
@@ -78,7 +77,7 @@ TEST_F(TableDialogTest, TakesWhatIsTypedAsItIs) {
   edit->clear();
   QTest::keyClicks(edit, U("cent"));
   Click(U("Command1"));
-  EXPECT_TRUE(values.HTMLString.startsWith(U("<Table align=\"cent\" ")));
+  EXPECT_TRUE(html.startsWith(U("<Table align=\"cent\" ")));
 }
 
 TEST_F(TableDialogTest, PutsEachFieldInItsPlaceAndCloses) {
@@ -91,35 +90,35 @@ TEST_F(TableDialogTest, PutsEachFieldInItsPlaceAndCloses) {
   Type(U("combo4"), U("7"));
   Click(U("Command1"));
   EXPECT_FALSE(dialog.isVisible());
-  EXPECT_EQ(values.HTMLString, TableHtml({.align = U("Right"),
-                                          .cellSpacing = U("6"),
-                                          .cellPadding = U("7"),
-                                          .border = U("5"),
-                                          .rows = U("4"),
-                                          .columns = U("2")}));
+  EXPECT_EQ(html, TableHtml({.align = U("Right"),
+                             .cellSpacing = U("6"),
+                             .cellPadding = U("7"),
+                             .border = U("5"),
+                             .rows = U("4"),
+                             .columns = U("2")}));
 }
 
 TEST_F(TableDialogTest, LeavesTheLastTableAloneWhenCancelled) {
-  values.HTMLString = U("<Table>");
+  html = U("<Table>");
   dialog.show();
   Type(U("Text1"), U("9"));
   Click(U("Command2"));
   EXPECT_FALSE(dialog.isVisible());
-  EXPECT_EQ(values.HTMLString, U("<Table>"));
+  EXPECT_EQ(html, U("<Table>"));
 }
 
 TEST_F(TableDialogTest, InsertsByEnterAndCancelsByEscape) {
   dialog.show();
   QTest::keyClick(&dialog, Qt::Key_Return);
   EXPECT_FALSE(dialog.isVisible());
-  EXPECT_NE(values.HTMLString, QString());
+  EXPECT_NE(html, QString());
 
-  ProgramValues untouched;
+  QString untouched;
   frmDialog_Table cancelled(untouched);
   cancelled.show();
   QTest::keyClick(&cancelled, Qt::Key_Escape);
   EXPECT_FALSE(cancelled.isVisible());
-  EXPECT_EQ(untouched.HTMLString, QString());
+  EXPECT_EQ(untouched, QString());
 }
 
 TEST_F(TableDialogTest, GoesThroughItsFieldsInTheOrderOfTheEye) {

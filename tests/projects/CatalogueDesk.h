@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/ProgramValues.h"
 #include "projects/ProjectHost.h"
 
 #include <QStringList>
@@ -11,7 +10,6 @@ namespace velor {
 /// A main window without pages; how it picks a folder is each test's own.
 class CatalogueDesk : public ProjectHost {
  public:
-  explicit CatalogueDesk(ProgramValues &values) : values_(values) {}
   QStringList pages;
   QString opened;
 
@@ -24,9 +22,6 @@ class CatalogueDesk : public ProjectHost {
   void UnloadDocument(int) override {}
   void OpenProjectPage(const QString &path) override { opened = path; }
   void NameDrives(const QString &) override {}
-
- protected:
-  ProgramValues &values_;
 };
 
 }  // namespace velor

@@ -3,15 +3,10 @@
 
 #include "catalogue/SqliteConnection.h"
 #include "platform/Paths.h"
-#include "platform/Platform.h"
-#include "platform/ProgramValues.h"
 #include "projects/RecordsetReader.h"
 #include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"
-#include "tests/support/FakeComponents.h"
 #include "tests/support/FakeDialogs.h"
-#include "tests/support/FakeRegistry.h"
-#include "tests/support/FakeRuntime.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
@@ -26,16 +21,16 @@ class CatalogueOnDisk : public testing::TestWithParam<CatalogueFormat> {
  protected:
   void Open(const fixture::FixtureFile &content) {
     WriteCatalogue(File(), GetParam(), content);
-    values.DbConnection = std::make_unique<SqliteConnection>();
-    values.DbConnection->Open(QStringLiteral("Data Source=") + ToLogic(File()), {}, {}, -1);
+    connection = std::make_unique<SqliteConnection>();
+    connection->Open(QStringLiteral("Data Source=") + ToLogic(File()), {}, {}, -1);
   }
 
   QString File() const { return folder.filePath(QStringLiteral("eThumbs.mdb")); }
 
   /// The column of all rows, in the order of the statement.
   QStringList Column(const char *statement, const char *column) {
-    const auto records = values.DbConnection->CreateRecordset();
-    OpenRecordset(*records, QString::fromUtf8(statement), *values.DbConnection);
+    const auto records = connection->CreateRecordset();
+    OpenRecordset(*records, QString::fromUtf8(statement), *connection);
     QStringList texts;
     for (; !records->EndOfFile(); records->MoveNext())
       texts.append(records->Value(QString::fromUtf8(column)).toString());
@@ -44,13 +39,9 @@ class CatalogueOnDisk : public testing::TestWithParam<CatalogueFormat> {
 
   QTemporaryDir folder;
   FilesPart files;
-  FakeRuntime runtime;
   FakeDialogs dialogs;
-  FakeRegistry registry;
-  FakeComponents components{files};
-  Platform platform{files, runtime, dialogs, registry, components};
-  ProgramValues values;
-  DeskPart desk{values};
+  std::unique_ptr<DatabaseConnection> connection;
+  DeskPart desk;
 };
 
 }  // namespace velor

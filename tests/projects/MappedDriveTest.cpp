@@ -22,15 +22,17 @@ QString U(const char *text) {
 /// A main window that picks folders with the real picker.
 class PickingDesk final : public CatalogueDesk {
  public:
-  using CatalogueDesk::CatalogueDesk;
   /// Native form.
   QString folderToPick;
 
-  void PickProjectFolder(const QString &) override {
-    FrmFld picker(values_);
+  QString PickProjectFolder(const QString &) override {
+    QString imageFolder;
+    QString projectFolder;
+    FrmFld picker({imageFolder, projectFolder});
     picker.ForProject = true;
     picker.SelectFolder(folderToPick);
     picker.accept();
+    return projectFolder;
   }
 };
 
@@ -54,7 +56,7 @@ class MappedDrive : public CatalogueOnDisk<QtFiles, PickingDesk> {
 
   /// The oldest project, 2, is the list's first.
   void OpenProject() {
-    frmProjectManager manager(platform, values, desk, nullptr);
+    frmProjectManager manager(files, dialogs, connection.get(), desk, nullptr);
     Control<QPushButton>(manager, U("cmdOpen"))->click();
   }
 };

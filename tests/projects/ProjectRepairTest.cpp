@@ -21,10 +21,9 @@ QString U(const char *text) {
 
 class Desk final : public CatalogueDesk {
  public:
-  using CatalogueDesk::CatalogueDesk;
   QString pickedFolder;
 
-  void PickProjectFolder(const QString &) override { values_.ProjectFolderResult = pickedFolder; }
+  QString PickProjectFolder(const QString &) override { return pickedFolder; }
 };
 
 class ProjectRepairTest : public CatalogueOnDisk<FakeFiles, Desk> {
@@ -33,7 +32,7 @@ class ProjectRepairTest : public CatalogueOnDisk<FakeFiles, Desk> {
 };
 
 TEST_P(ProjectRepairTest, ListsGeneratedProjectsOldestFirst) {
-  frmProjectManager manager(platform, values, desk, nullptr);
+  frmProjectManager manager(files, dialogs, connection.get(), desk, nullptr);
   const QAbstractItemModel *list = Control<RecordList>(manager, U("LsHistory"))->model();
   ASSERT_EQ(list->rowCount(), 2);
   EXPECT_EQ(list->index(0, 0).data().toString(), U("2"));
@@ -43,7 +42,7 @@ TEST_P(ProjectRepairTest, ListsGeneratedProjectsOldestFirst) {
 }
 
 TEST_P(ProjectRepairTest, ListsThePagesOfTheProjectAloneByName) {
-  frmProjectManager manager(platform, values, desk, nullptr);
+  frmProjectManager manager(files, dialogs, connection.get(), desk, nullptr);
   Control<QTabWidget>(manager, U("SSTab1"))->setCurrentIndex(1);
   const QAbstractItemModel *pages = Control<RecordList>(manager, U("LstPages"))->model();
   ASSERT_EQ(pages->rowCount(), 2);
@@ -52,7 +51,7 @@ TEST_P(ProjectRepairTest, ListsThePagesOfTheProjectAloneByName) {
 }
 
 TEST_P(ProjectRepairTest, PutsTheNewFolderIntoTheProjectsRowsAndNoOthers) {
-  frmProjectManager manager(platform, values, desk, nullptr);
+  frmProjectManager manager(files, dialogs, connection.get(), desk, nullptr);
   desk.pickedFolder = U("\\new\\Bob's Site");
   dialogs.ExpectMessage(U("Web path not found please provide the path"), MessageAnswer::Yes);
   Control<QPushButton>(manager, U("cmdOpen"))->click();
@@ -74,7 +73,7 @@ TEST_P(ProjectRepairTest, KeepsTheFirstChangeWhenALaterStatementFails) {
   fixture::FixtureFile content = SmallCatalogue();
   content.tables.pop_back();  // CustomCD
   Open(content);
-  frmProjectManager manager(platform, values, desk, nullptr);
+  frmProjectManager manager(files, dialogs, connection.get(), desk, nullptr);
   desk.pickedFolder = U("\\new");
   dialogs.ExpectMessage(U("Web path not found please provide the path"), MessageAnswer::Yes);
   auto *cmdOpen = Control<QPushButton>(manager, U("cmdOpen"));

@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/DriveMap.h"
 #include "platform/Paths.h"
-#include "platform/Platform.h"
-#include "platform/ProgramValues.h"
 #include "projects/ProjectHost.h"
 #include "projects/RecordList.h"
 #include "projects/frmProjectManager.h"
 #include "tests/support/Checks.h"
-#include "tests/support/FakeComponents.h"
 #include "tests/support/FakeDatabase.h"
 #include "tests/support/FakeDialogs.h"
 #include "tests/support/FakeFiles.h"
-#include "tests/support/FakeRegistry.h"
-#include "tests/support/FakeRuntime.h"
 #include "tests/support/FakeStylingSweeps.h"
 #include "tests/support/Forms.h"
 
@@ -35,7 +30,7 @@ QString U(const char *text) {
 /// A main window that notes what the project manager does with it.
 class NotedHost final : public ProjectHost {
  public:
-  NotedHost(CallLog &log, ProgramValues &values) : log_(log), values_(values) {}
+  explicit NotedHost(CallLog &log) : log_(log) {}
   int documents = 2;
   QString pickedFolder;
 
@@ -49,9 +44,9 @@ class NotedHost final : public ProjectHost {
   void OpenProjectPage(const QString &path) override {
     log_.push_back(U("OpenProjectPage(%1)").arg(path));
   }
-  void PickProjectFolder(const QString &) override {
+  QString PickProjectFolder(const QString &) override {
     log_.push_back(U("PickProjectFolder"));
-    values_.ProjectFolderResult = pickedFolder;
+    return pickedFolder;
   }
   void NameDrives(const QString &path) override {
     log_.push_back(U("NameDrives(%1)").arg(path));
@@ -64,7 +59,6 @@ class NotedHost final : public ProjectHost {
 
  private:
   CallLog &log_;
-  ProgramValues &values_;
 };
 
 const QString Generated = QStringLiteral("Select * from Project where Created = true");
@@ -80,8 +74,8 @@ const QString Question = QStringLiteral("Web path not found please provide the p
 class ProjectManagerTest : public testing::Test {
  protected:
   ProjectManagerTest() {
-    values.DbConnection = database.CreateConnection();
-    values.DbConnection->Open({}, {}, {}, -1);
+    connection = database.CreateConnection();
+    connection->Open({}, {}, {}, -1);
     SetProjects(2);
     FakeRows pages;
     pages.columns = {{U("PageId"), ColumnType::Integer}, {U("PageName")}};
@@ -112,7 +106,7 @@ class ProjectManagerTest : public testing::Test {
 
   /// The window as the command shows it.
   frmProjectManager &Open() {
-    window = std::make_unique<frmProjectManager>(platform, values, host, &sweeps);
+    window = std::make_unique<frmProjectManager>(files, dialogs, connection.get(), host, &sweeps);
     log.clear();
     database.statements.clear();
     window->show();
@@ -143,13 +137,9 @@ class ProjectManagerTest : public testing::Test {
   CallLog log;
   FakeDatabase database{&log};
   FakeFiles files;
-  FakeRuntime runtime;
   FakeDialogs dialogs{&log};
-  FakeRegistry registry;
-  FakeComponents components{files};
-  Platform platform{files, runtime, dialogs, registry, components};
-  ProgramValues values;
-  NotedHost host{log, values};
+  std::unique_ptr<DatabaseConnection> connection;
+  NotedHost host{log};
   FakeStylingSweeps sweeps{&log};
   std::unique_ptr<frmProjectManager> window;
 };
@@ -189,7 +179,7 @@ TEST_F(ProjectManagerTest, TakesItsLastThreeTabsOutOfUse) {
 }
 
 TEST_F(ProjectManagerTest, IsStyledBeforeItReadsTheList) {
-  frmProjectManager manager(platform, values, host, &sweeps);
+  frmProjectManager manager(files, dialogs, connection.get(), host, &sweeps);
   ASSERT_FALSE(log.empty());
   EXPECT_EQ(log.front(), U("FlatSweep(frmProjectManager)"));
   EXPECT_EQ(std::count(log.begin(), log.end(), log.front()), 1);
@@ -203,7 +193,7 @@ TEST_F(ProjectManagerTest, OrdersTheListOnlyWhenThereAreTwoProjects) {
   for (const auto &row : cases) {
     SetProjects(row.projects);
     database.statements.clear();
-    frmProjectManager manager(platform, values, host, nullptr);
+    frmProjectManager manager(files, dialogs, connection.get(), host, nullptr);
     EXPECT_EQ(database.statements, (std::vector<QString>{Generated, row.fill}));
     const QAbstractItemModel *list = Control<RecordList>(manager, U("LsHistory"))->model();
     EXPECT_EQ(list->rowCount(), row.projects);
@@ -293,7 +283,7 @@ TEST_F(ProjectManagerTest, OpensAProjectStepByStep) {
 }
 
 TEST_F(ProjectManagerTest, UsesOneResultSetForAllItsQueries) {
-  frmProjectManager manager(platform, values, host, nullptr);
+  frmProjectManager manager(files, dialogs, connection.get(), host, nullptr);
   // Its own, and the list's fresh one.
   EXPECT_EQ(database.recordsetsMade, 2);
   Control<QPushButton>(manager, U("cmdOpen"))->click();
@@ -493,11 +483,13 @@ TEST_F(ProjectManagerTest, KnowsThatItWasClosed) {
 
 TEST_F(ProjectManagerTest, PassesOnThatTheCatalogueCannotBeRead) {
   database.results.clear();
-  EXPECT_EQ(ErrorOf([&] { frmProjectManager manager(platform, values, host, nullptr); }),
-            ErrorNumber::InvalidProcedureCall);
-  values.DbConnection.reset();
-  EXPECT_EQ(ErrorOf([&] { frmProjectManager manager(platform, values, host, nullptr); }),
-            ErrorNumber::ObjectNotSet);
+  EXPECT_EQ(
+      ErrorOf([&] { frmProjectManager manager(files, dialogs, connection.get(), host, nullptr); }),
+      ErrorNumber::InvalidProcedureCall);
+  connection.reset();
+  EXPECT_EQ(
+      ErrorOf([&] { frmProjectManager manager(files, dialogs, connection.get(), host, nullptr); }),
+      ErrorNumber::ObjectNotSet);
 }
 
 }  // namespace

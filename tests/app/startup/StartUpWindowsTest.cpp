@@ -5,8 +5,6 @@
 #include "tests/support/FakeComponents.h"
 #include "tests/support/FakeDialogs.h"
 #include "tests/support/FakeFiles.h"
-#include "tests/support/FakeRegistry.h"
-#include "tests/support/FakeRuntime.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -20,8 +18,8 @@ class StartUpWindowsOfTheProgram : public ::testing::Test {
  protected:
   StartUpWindowsOfTheProgram()
       : components_(files_),
-        platform_{files_, runtime_, dialogs_, registry_, components_},
-        windows_(platform_, values_, [this] { ++mainWindows_; }) {}
+        windows_(components_, dialogs_, {values_.ImageFolderPath, values_.ProjectFolderResult},
+                 [this] { ++mainWindows_; }) {}
 
   static QWidget *Login() {
     for (QWidget *window : QApplication::topLevelWidgets()) {
@@ -31,11 +29,8 @@ class StartUpWindowsOfTheProgram : public ::testing::Test {
   }
 
   FakeFiles files_;
-  FakeRuntime runtime_;
   FakeDialogs dialogs_;
-  FakeRegistry registry_;
   FakeComponents components_;
-  Platform platform_;
   ProgramValues values_;
   int mainWindows_ = 0;
   RealStartUpWindows windows_;

@@ -62,7 +62,8 @@ TEST_F(StylingTest, WithoutAWindowSystemNothingIsStyled) {
 TEST_F(StylingTest, TheElementDialogThinsButtonsTextBoxesAndListsAndThenFlattensItsComboBoxes) {
   CallLog sweeps;
   FakeStylingSweeps recorded(&sweeps);
-  frmInsertElement dialog(styledPlatform, &recorded);
+  frmInsertElement dialog(styledPlatform.runtime, styledPlatform.dialogs, styledPlatform.components,
+                          &recorded);
   EXPECT_EQ(sweeps, (CallLog{QStringLiteral("ThinEdgeByType(frmInsertElement, commandbutton)"),
                              QStringLiteral("ThinEdgeByType(frmInsertElement, textbox)"),
                              QStringLiteral("ThinEdgeByType(frmInsertElement, listbox)"),
