@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The element dialog's pages: which controls there are, where they stand and what they say.
+// frmInsertElement: its four pages, their controls and labels.
 #include "insert/FormParts.h"
 #include "insert/TextBox.h"
 #include "insert/frmInsertElement.h"

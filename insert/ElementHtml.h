@@ -12,7 +12,7 @@ namespace velor {
 class Runtime;
 class SourceControl;
 
-/// An element of no page: its tag name in upper case and no attributes.
+/// Makes an element that belongs to no page: the tag name in upper case, no attributes.
 HtmlElement CreateScratchElement(const QString &tagName);
 
 /// The element's start tag. A value that is empty or holds anything but ASCII letters, digits, "-",
@@ -24,7 +24,7 @@ struct PictureSize {
   std::int32_t height = 0;
   std::int32_t width = 0;
 
-  /// At 96 pixels an inch.
+  /// The size of a picture of so many pixels, at 96 pixels an inch.
   static PictureSize OfPixels(int pixelHeight, int pixelWidth);
   bool operator==(const PictureSize &) const = default;
 };
@@ -37,9 +37,10 @@ inline constexpr double TwipsPerPixel = 15;
 /// this figure; it is no conversion of units.
 std::int32_t DefaultLength(std::int32_t himetric, double twipsPerPixel = TwipsPerPixel);
 
+/// Where height and width of the tag come from: DefaultLength of the picture, or the size boxes.
 enum class SizeSource { Picture, Boxes };
 
-/// What the person entered for a picture, as typed.
+/// The fields of the picture page. Texts are as typed.
 struct ImageValues {
   QString source;
   QString alternativeText;
@@ -55,13 +56,13 @@ struct ImageValues {
   PictureSize picture;
 };
 
-/// The picture's tag; the empty text without a source. An attribute whose text does not convert is
-/// left out, the others are written.
+/// The IMG tag of a picture; the empty text where `source` is empty. An attribute whose text is not
+/// the number that it needs is left out.
 QString ImageHtml(const ImageValues &values);
 
-/// Puts `html` in place of the selection: of `document` when `isCreator`, else of `code`. Pending
-/// window events run once between taking the selection and pasting. A failure is not raised: its
-/// description is returned, the empty text when all went well.
+/// Replaces the selection of `document` (where `isCreator`) or of `code` by `html`. Pending window
+/// events run once between reading the selection and pasting. Never raises: returns the failure's
+/// description, the empty text on success.
 QString InsertHtmlAtSelection(Runtime &runtime, bool isCreator, const QString &html,
                               HtmlDocument *document, SourceControl *code);
 

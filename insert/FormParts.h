@@ -17,40 +17,39 @@ namespace velor {
 
 class TextBox;
 
-/// The rows of which this folder's forms are made. Each control gets its contract name as object
-/// name and its label as accessible name; controls are made in the order of the rows, so that the
-/// tab order follows the eye.
+/// Builds the pages of this folder's dialogs row by row. Each control gets `name` as object name
+/// and its label as accessible name. Tab goes through the controls in the order of these calls.
 namespace FormParts {
 
-/// Names a control; `label` may hold a mnemonic.
+/// Sets object name and accessible name; the mnemonic's "&" is taken out of `label`.
 void Name(QWidget &control, const QString &name, const QString &label);
 
-/// A page of rows with the margins that all pages share.
+/// Gives `page` a column layout with the margins that all pages share.
 QVBoxLayout *MakePage(QWidget *page);
-/// A form straight on the page.
+/// Appends a form (labels at the left, controls at the right) to the page.
 QFormLayout *AddForm(QVBoxLayout *page);
-/// A form within a titled frame.
+/// Appends a form within a frame that has this title.
 QFormLayout *AddFrame(QVBoxLayout *page, const QString &title);
 
-/// A box that takes the width of its row, with `beside` (a button) at its right.
+/// Appends a text box as wide as its row, with the button `beside` at its right where given.
 TextBox *AddTextBox(QFormLayout *form, const QString &name, const QString &label,
                     QPushButton *beside = nullptr);
-/// A narrow box for a number, followed by `unit`.
+/// Appends a narrow text box for a number, with `unit` at its right.
 TextBox *AddNumberBox(QFormLayout *form, const QString &name, const QString &label,
                       const QString &value, const QString &unit = {});
-/// Any other control, as wide as its row.
+/// Appends any other control, as wide as its row.
 void AddControl(QFormLayout *form, const QString &name, const QString &label, QWidget *control);
 QComboBox *AddComboBox(QFormLayout *form, const QString &name, const QString &label,
                        const QStringList &items);
 QCheckBox *AddCheckBox(QFormLayout *form, const QString &name, const QString &caption);
-/// A button that answers Enter only once it is made the default.
+/// Makes a button that Enter presses only where it was made the dialog's default.
 QPushButton *MakeButton(const QString &name, const QString &caption);
-/// A button on a row of its own, no wider than it must be.
+/// Appends a button on a row of its own, as narrow as its caption allows.
 void AddButton(QFormLayout *form, QPushButton *button);
-/// The row of buttons that ends a window; the first one is the default.
+/// Appends the window's last row, its buttons at the right; the first one becomes the default.
 void AddButtonRow(QVBoxLayout *window, std::initializer_list<QPushButton *> buttons);
 
-/// Gives the labels of a page one width, so that its boxes stand in one line across frames.
+/// Gives all labels of a page the same width, so that the boxes of its frames line up.
 void AlignLabels(QWidget *page);
 
 }  // namespace FormParts

@@ -7,18 +7,18 @@ namespace velor {
 
 class FileDialog;
 
-/// How many characters of `text` equal `character` exactly.
+/// The number of occurrences of `character` in `text`, letter case counted.
 int CountChar(const QString &text, QChar character);
 
 /// The link from the page at `pagePath` to the file at `targetPath`, both full paths in logic form.
 /// A target on another drive, or one without a name, gives "file:///" and the target.
 ///
-/// Drives are told apart ignoring letter case, every segment including the drive is compared with
-/// it: two paths that differ in the case of a segment only part ways there. Links are the names as
-/// they stand, nothing is percent-encoded.
+/// Whether both lie on one drive is decided ignoring letter case. The folders that both have in
+/// common are found by exact comparison: from the first segment that differs, in letter case only
+/// even, the link goes up by "..". Names are written as they stand, nothing is percent-encoded.
 QString MakeRelativeLink(const QString &pagePath, const QString &targetPath);
 
-/// "file:///" and the path with "/" for every "\".
+/// "file:///" followed by the path with every "\" as "/".
 QString MakeAbsoluteLink(const QString &path);
 
 /// Asks for an existing file. `filter` holds pairs of description and patterns separated by "|",

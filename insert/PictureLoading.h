@@ -11,18 +11,17 @@ namespace velor {
 struct LoadedPicture {
   /// The picture's own size in pixels, upright; empty for no picture.
   QSize pixels;
-  /// Scaled to fit the bounds asked for, never enlarged. Null where only the size is known: a very
-  /// large picture in a format that is decoded at full size.
+  /// Scaled down to fit `bounds` of LoadPicture, never enlarged. Null where the picture would take
+  /// too much memory: its format can only be decoded at full size.
   QImage preview;
 };
 
-/// Pixels of a loaded picture that go on one unit of the screen within `bounds` (in units): 1 for a
-/// small picture, which is shown as large as a page shows it, up to `screenRatio` for one that
-/// needs all of the screen's pixels.
+/// The device pixel ratio to show a loaded picture with in `bounds` (device-independent pixels). A
+/// picture that fits has 1, as in a page; a larger one more, so that it fits, up to `screenRatio`.
 qreal PreviewRatio(QSize picture, QSize bounds, qreal screenRatio);
 
-/// Loads a picture. The empty path gives no picture; a file that is missing, damaged or of an
-/// unknown format raises RuntimeError. `path` in logic form.
+/// Loads a picture with a preview for `bounds` (pixels). `path` in logic form; the empty path gives
+/// no picture. Raises RuntimeError for a file that is missing, damaged or of an unknown format.
 LoadedPicture LoadPicture(const QString &path, QSize bounds);
 
 }  // namespace velor

@@ -8,8 +8,9 @@ namespace velor {
 /// Selects the whole text of a box.
 void SelectAllText(QLineEdit &box);
 
-/// A text box that selects its whole text when the person comes to it, by key or by mouse, and can
-/// put a number right when they leave it. Coming back from another window counts as neither.
+/// A text box that selects its whole text when it gets the focus by key or mouse, and can replace a
+/// text that is no number when it loses the focus. A focus that follows its window's activation
+/// does neither.
 class TextBox : public QLineEdit {
  public:
   using QLineEdit::QLineEdit;
@@ -24,7 +25,8 @@ class TextBox : public QLineEdit {
 
  private:
   QString replacement_;
-  /// The press that brought the focus has placed the caret; its release selects.
+  /// Set by the mouse press that gave the focus: its release selects, after the press placed the
+  /// caret.
   bool selectOnRelease_ = false;
 };
 

@@ -40,7 +40,7 @@ class frmInsertElement : public QDialog {
                    StylingSweeps *sweeps, QWidget *parent = nullptr);
   ~frmInsertElement() override;
 
-  // What a showing is about; see PrepareInsert.
+  // Set before the dialog is shown; PrepareInsert sets all that an insertion needs.
   HtmlDocument *TheDOM = nullptr;
   SourceControl *TheCode = nullptr;
   HtmlElement inImage;
@@ -57,16 +57,17 @@ class frmInsertElement : public QDialog {
   /// Whether the result goes into TheDOM rather than TheCode.
   bool IsCreator = false;
 
-  /// Sets the fields for inserting an element of that mode into `document` and brings up its page,
-  /// the only one available. `savedPath` is the page's file, empty while it has none.
+  /// Prepares the next showing: sets the fields above for inserting an element of that mode into
+  /// `document`, and makes its page the current and only available one. `savedPath` is the file of
+  /// the edited page in logic form, empty while it has none.
   void PrepareInsert(const QString &elementMode, HtmlDocument &document, const QString &savedPath);
 
-  /// 1 gives the picture's HTML; 2, 3 and 4 make a fresh element in inHyperlink, inTarget or
-  /// inVideo and give the empty text, as every other number does.
+  /// For 1 returns the picture's HTML. For 2, 3 and 4 puts a new element into inHyperlink, inTarget
+  /// or inVideo. Returns the empty text for all numbers but 1.
   QString GenerateCode(std::int32_t &InsertWhat);
 
  Q_SIGNALS:
-  /// An operation that fails silently for the dialog's user: what failed, for the status bar.
+  /// An operation failed and the dialog shows nothing of it; `message` is for the status bar.
   void Reported(const QString &message);
 
  protected:

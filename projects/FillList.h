@@ -11,16 +11,16 @@ namespace velor {
 class DatabaseConnection;
 class RowTable;
 
-/// What a filled list must be able to do.
+/// A list that FillList can show a table in.
 class ListControl {
  public:
   virtual ~ListControl() = default;
-  /// The table to show. A change of it shows after ReBind, to whose end it must live.
+  /// Sets the table to show, which outlives the next ReBind.
   virtual void SetArray(const RowTable &table) = 0;
-  /// Reads the table's shape and content anew.
+  /// Shows the table's present columns and rows.
   virtual void ReBind() = 0;
   virtual void Refresh() = 0;
-  /// Filling it failed, and it is empty now; `description` for people.
+  /// Told that the statement failed and the list is empty; `description` is for people.
   virtual void FillFailed(const QString &) {}
 };
 
@@ -32,7 +32,8 @@ enum class LeadingColumn { None, Reserved };
 /// is rebuilt once. Values are normalised by column type (NormalisedValue). Returns the number of
 /// the last row whose `keyColumn` holds `keyValue`; 0 without one or with an empty `keyColumn`.
 ///
-/// A failure is not raised: table and list are empty then, and the list is told why.
+/// Never raises for a failing statement: table and list are empty then, and FillFailed tells the
+/// list.
 std::int16_t FillList(ListControl &list, RowTable &table, const QString &statement,
                       LeadingColumn leadingColumn, std::int32_t keyValue, const QString &keyColumn,
                       const QStringList &columnNames, DatabaseConnection &connection);

@@ -7,8 +7,8 @@
 
 namespace velor {
 
-/// What the project manager needs of the main window. Nothing in it answers to the person's own
-/// choices: the page chooser's handler does not run when its items change.
+/// What the project manager needs of the main window. Changes of the page chooser made here do not
+/// count as a choice of the person.
 class ProjectHost {
  public:
   virtual ~ProjectHost() = default;
@@ -22,11 +22,11 @@ class ProjectHost {
 
   /// The number of the page slot made last.
   virtual int DocumentCount() const = 0;
-  /// Closes the document window of that slot, with its own questions; a slot without a window is
-  /// passed over. Slots count from 1.
+  /// Closes the document window of that slot (from 1), which may ask and stay open. Does nothing
+  /// for a slot without a window.
   virtual void UnloadDocument(int index) = 0;
 
-  /// Opens a page file of a project; `path` in logic form, made up by the program.
+  /// Opens a page file of a project. `path` in logic form, found ignoring letter case (NameOrigin).
   virtual void OpenProjectPage(const QString &path) = 0;
 
   /// Shows the folder picker for a project's folder, modally, at `wanted` or the nearest folder

@@ -5,15 +5,14 @@
 
 #include <QString>
 
-/// How every reader and writer of the catalogue goes to the database. Failures are RuntimeErrors of
-/// the database's and pass through.
+/// Queries and changes of the catalogue. All raise the database's RuntimeErrors.
 namespace velor {
 
-/// Runs a query on `records`, closed first where it is open from the query before: client-side,
-/// static, read-only, so that the row count is known at once.
+/// Opens `records` with the rows of a query, after closing it where it is open. The cursor is
+/// client-side, static and read-only, so that RecordCount is known at once.
 void OpenRecordset(Recordset &records, const QString &statement, DatabaseConnection &connection);
 
-/// Runs a statement that returns nothing. There is no transaction around it.
+/// Runs a statement that returns no rows, outside of any transaction.
 void ExecuteSql(DatabaseConnection &connection, const QString &statement);
 
 }  // namespace velor

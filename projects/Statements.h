@@ -6,16 +6,16 @@
 
 #include <cstdint>
 
-/// Every statement that is put to the catalogue database. The texts are part of the contract with
-/// the databases people have; identifiers travel as quoted literals and the database converts them.
+/// All statements of the catalogue database. Their texts are published and never change: people's
+/// databases answer to them. Identifiers are quoted literals, which the database converts to
+/// numbers.
 namespace velor::Statements {
 
-/// A value as an SQL text literal: its text with every apostrophe doubled, between apostrophes.
-/// Null is the empty text, a number its shortest decimal text.
+/// A value as an SQL text literal: TextOf(value) between apostrophes, its own apostrophes doubled.
 QString QuoteSql(const QVariant &value);
 
 QString GeneratedProjects();
-/// The same, oldest change first.
+/// As GeneratedProjects, oldest change first.
 QString GeneratedProjectsByDate();
 QString ProjectById(const QVariant &projectId);
 
@@ -25,9 +25,9 @@ QString SetCustomFolder(const QString &folder, const QVariant &projectId);
 
 /// A project's pages by name, for the page chooser.
 QString PagesOfProject(const QVariant &projectId);
-/// The same for the page list; it spells the sort column differently.
+/// As PagesOfProject, for the page list; the sort column is spelt differently.
 QString PageListOfProject(const QVariant &projectId);
-/// The one statement whose identifier stands unquoted.
+/// One page; its identifier stands unquoted, unlike those of the others.
 QString PageById(std::int32_t pageId);
 
 }  // namespace velor::Statements

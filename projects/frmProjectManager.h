@@ -22,7 +22,8 @@ class Recordset;
 class StylingSweeps;
 
 /// The project manager: lists the generated projects, repairs the folder of one that has moved, and
-/// opens one for editing. Opening hides the window, closing it ends it; see IsClosed.
+/// opens one for editing. Opening a project hides the window and keeps its state; closing it does
+/// not, see IsClosed.
 class frmProjectManager : public QDialog {
   Q_OBJECT
 
@@ -40,8 +41,8 @@ class frmProjectManager : public QDialog {
 
   /// Whether the person has closed the window rather than opened a project.
   bool IsClosed() const { return closed_; }
-  /// Makes a closed window like a fresh one, its list read anew. It keeps its controls: each sweep
-  /// over fresh ones takes painters that the program never gives back.
+  /// Puts a closed window into the state of a new one and reads the list anew. A window that was
+  /// made anew instead would take flat painters that the program never frees.
   void Reopen();
 
   void reject() override;
@@ -49,21 +50,26 @@ class frmProjectManager : public QDialog {
  private:
   void Build();
   void OpenCurrentProject();
-  /// False when the person does not give the moved site a folder; nothing has changed then.
+  /// Asks for the folder of a site that is not in `stored` and writes it to the catalogue. False,
+  /// and nothing is written, when the person gives none.
   bool RepairFolders(const QVariant &projectId, const QString &stored);
-  /// Before a folder of this computer is written into the catalogue of another: offers to name the
-  /// drive's folder here. The folder as it is to be written, or the stored one where that is there
-  /// now; empty when the person calls it off.
+  /// The folder to write to the catalogue for the chosen `folder`. Where the catalogue is another
+  /// computer's (`stored` is on an unknown drive), offers first to name the folder that stands for
+  /// its drive here; `stored` is returned where the site is in it then. Empty when the person
+  /// cancels.
   QString FolderToWrite(const QString &folder, const QString &stored);
+  /// Whether a folder holds a project's site (its Index.htm).
   bool IsSiteIn(const QString &folder) const;
   void FillPageChooser(const QVariant &projectId);
   void ListPages(int tab);
-  /// What a person should know of the catalogue, under the lists; empty takes it back.
+  /// Shows the first line of `text` under the lists, where the person should know something of the
+  /// catalogue; the empty text hides the note.
   void ShowNote(const QString &text);
-  /// Opening needs a row of the list's own.
+  /// Enables the Open button where a project is current.
   void UpdateOpen();
-  /// The window's one result set, holding the statement's rows.
+  /// Runs a query on the window's one result set and returns that.
   Recordset &Query(const QString &statement);
+  /// Raises ObjectNotSet (91) without a connection.
   DatabaseConnection &Connection();
 
   const Files &files_;
