@@ -7,9 +7,10 @@
 
 namespace velor {
 
-/// The pattern of the About box: squares fill a grid row by row, stand for a while, go, and come
-/// again. A step is due whenever more than StepSeconds have passed since the last; the first is due
-/// at once. Times are seconds since midnight; a clock that went back counts as passed.
+/// The pattern of the About box: Steps steps, the first Squares of which each add a square to a
+/// grid of Columns columns. The full grid stays for the rest, then it is empty and begins anew. A
+/// step is due when more than StepSeconds have passed since the last one, or the clock went back;
+/// the first is due at once.
 class AboutAnimation {
  public:
   static constexpr int Squares = 20;
@@ -18,10 +19,12 @@ class AboutAnimation {
   static constexpr int Side = 12;  ///< of a square, in device-independent pixels
   static constexpr double StepSeconds = 0.05;
 
-  /// One pass of the loop; whether a step was due.
+  /// Takes a step if one is due at `now` (seconds since midnight); returns whether it did.
   bool Pass(double now);
 
+  /// How many squares are shown, from index 0.
   int ShownSquares() const { return shown_; }
+  /// The place of a square in the pattern, in device-independent pixels.
   static QRect SquareAt(int index) {
     return {Side * (index % Columns), Side * (index / Columns), Side, Side};
   }

@@ -12,7 +12,7 @@ class QToolButton;
 
 namespace velor {
 
-/// One colour that people choose by its name.
+/// A colour of the palette with the name that its field has for people.
 struct NamedColor {
   const char *name;
   QRgb rgb;
@@ -31,12 +31,16 @@ class ColorPalette final : public QFrame {
 
   explicit ColorPalette(QWidget *parent);
 
+  /// Shows these colours, the latest first, in the second part; hides that part for none.
   void SetRecent(const std::vector<QColor> &colors);
-  /// Shows the panel below `anchor`, with the field of `current` (or the first) in focus.
+  /// Shows the panel below `anchor`. The field of `current` gets the focus, the first where none is
+  /// of that colour.
   void DropDownFrom(const QWidget &anchor, const QColor &current);
 
  Q_SIGNALS:
+  /// A field was chosen; the panel has closed.
   void Chosen(const QColor &color);
+  /// The button for any other colour was pressed; the panel has closed.
   void CustomWanted();
 
  protected:

@@ -21,17 +21,19 @@ class ColorPicker final : public QToolButton {
   /// Chosen colours kept for the palette's second part, the latest first.
   static constexpr std::size_t RecentColors = 8;
 
+  /// `iconKey` as in IconFor.
   ColorPicker(const QString &iconKey, QWidget *parent);
 
   QString IconKey() const { return iconKey_; }
   std::int32_t Color() const { return color_; }
-  /// Shows a colour; tells nobody.
+  /// Shows a colour without emitting ColorChosen.
   void SetColor(std::int32_t color);
 
+  /// The panel that drops down, hidden until then.
   ColorPalette &Panel() { return *panel_; }
 
  Q_SIGNALS:
-  /// The person chose a colour, the one that was there included.
+  /// The person chose a colour, be it the one already shown.
   void ColorChosen(std::int32_t color);
 
  protected:

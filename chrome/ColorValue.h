@@ -5,7 +5,8 @@
 
 #include <cstdint>
 
-/// Colours as settings hold them: red in the low byte, blue in the third.
+/// Conversion of colours from and to 32-bit values as settings hold them: red in the low byte,
+/// green in the second, blue in the third; alpha is left out.
 namespace velor {
 
 inline QColor FromColorValue(std::int32_t value) {

@@ -3,9 +3,9 @@
 
 namespace velor {
 
-/// From now on combo boxes tell the accessibility bus their label as their name and the text that
-/// is chosen as their value and description. Of themselves they tell the chosen text as their name,
-/// and a box without a visible label could not be told from another.
+/// Makes combo boxes report their label to assistive technology as their name, and the chosen text
+/// as value and description. Qt reports the chosen text as the name, so that boxes without a
+/// visible label cannot be told apart. Called once, before the first window.
 void AnnounceComboBoxLabels();
 
 }  // namespace velor

@@ -9,7 +9,7 @@
 
 namespace velor {
 
-/// A place within the parent, in twips.
+/// A rectangle within the parent. Twips: 1/1440 inch, 15 to a pixel at 96 pixels an inch.
 struct TwipRect {
   std::int32_t left = 0;
   std::int32_t top = 0;
@@ -18,12 +18,13 @@ struct TwipRect {
   bool operator==(const TwipRect &) const = default;
 };
 
-/// A control as the flat painter knows it.
+/// What the flat painter needs to know of a control.
 class FlatControl {
  public:
   virtual ~FlatControl() = default;
+  /// The kind of control, as ControlTypeName.
   virtual QString TypeName() const = 0;
-  /// RuntimeError for a control that has no window.
+  /// Raises RuntimeError for a control that has no window.
   virtual WindowHandle Hwnd() const = 0;
   virtual TwipRect Place() const = 0;
   virtual void Move(const TwipRect &place) = 0;

@@ -13,14 +13,16 @@ namespace velor {
 
 class cControlFlater;
 
-/// Swaps a window's sunken edge for a thin one; nothing moves, no window comes to the front.
+/// Replaces the sunken edge in a window's extended style by a thin one. Size, place and stacking
+/// order stay.
 void ThinEdge(WindowSystem &windows, WindowHandle window);
 
-/// The sweeps themselves, with the program's one array of painters.
+/// The sweeps, with the program's one array of flat painters.
 ///
-/// Every sweep that makes painters first resizes the array to the window's controls, indices 0 to
-/// their count, while the counter goes on counting over all windows: a window with fewer controls
-/// than there are painters already raises SubscriptOutOfRange (9). Painters beyond the new size go.
+/// Every sweep that makes painters first resizes the array to indices 0 to the number of the
+/// window's controls, and deletes painters beyond. The counter, which is the next painter's index,
+/// goes on over all windows: a window with fewer controls than painters were made before raises
+/// SubscriptOutOfRange (9).
 class FlatSweeps final : public StylingSweeps {
  public:
   /// The window system outlives the sweeps.
@@ -32,7 +34,9 @@ class FlatSweeps final : public StylingSweeps {
   void ThinEdgeSweep(QWidget &window) override;
   void ThinEdgeByType(QWidget &window, const QString &typeName) override;
 
+  /// The array; null where no painter was made for an index.
   const std::vector<std::unique_ptr<cControlFlater>> &AllPainters() const { return painters_; }
+  /// How many painters were made since the program began.
   std::int16_t CountOfPainters() const { return painterCount_; }
 
  private:

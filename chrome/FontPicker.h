@@ -17,13 +17,13 @@ class FontPicker final : public QComboBox {
   void Initialise();
 
   QString FontName() const { return currentText(); }
-  /// Shows a name; tells nobody.
+  /// Shows a name without emitting FontChosen.
   void SetFontName(const QString &name);
 
   void hidePopup() override;
 
  Q_SIGNALS:
-  /// The person chose or typed a name.
+  /// The person chose a name from the list, or typed one and pressed Enter.
   void FontChosen(const QString &name);
   /// The person is done with the box: a name was chosen, or Escape pressed.
   void Done();

@@ -13,9 +13,10 @@ namespace velor {
 
 class Dialogs;
 
-/// The window of the drive map: which folder here stands for which drive of another computer. Ok
-/// writes the map's file, comments kept. A new drive is in use at once; a drive that was removed or
-/// given another folder stays in use until the program ends, since open pages have paths on it.
+/// The window that edits the drive map: which folder here stands for which drive of another
+/// computer. Ok writes the map's file, in which comments stay. An added drive is in use at once; a
+/// removed or changed one keeps its old folder until the program ends, since open pages have paths
+/// on it.
 class FrmDrives final : public QDialog {
   Q_OBJECT
 
@@ -24,10 +25,11 @@ class FrmDrives final : public QDialog {
   /// RuntimeError for a file that cannot be read.
   FrmDrives(Dialogs &dialogs, const QString &file, QWidget *parent = nullptr);
 
-  /// Chooses a letter as the next to be added.
+  /// Selects `letter` in the box of the drive to add.
   void AddDrive(QChar letter);
 
-  /// Raises RuntimeError where the file cannot be written; the window stays then.
+  /// Writes the file and closes. Raises RuntimeError where writing fails; the window stays open
+  /// then.
   void accept() override;
 
  private:

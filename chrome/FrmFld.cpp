@@ -175,8 +175,8 @@ FrmFld::FrmFld(PickedFolders results, QWidget *parent)
   connect(folders_, &QTreeWidget::itemExpanded, this,
           [this](QTreeWidgetItem *item) { FillFolders(*item); });
   connect(folders_, &QTreeWidget::currentItemChanged, this, &FrmFld::ShowSelected);
-  connect(path_, &QLineEdit::textEdited, this, &FrmFld::TakeTypedPath);
-  connect(hidden_, &QCheckBox::toggled, this, &FrmFld::ShowHidden);
+  connect(path_, &QLineEdit::textEdited, this, &FrmFld::SelectTypedPath);
+  connect(hidden_, &QCheckBox::toggled, this, &FrmFld::ReloadFolders);
 
   FillDrives();
   SelectFolder(QDir::homePath());
@@ -239,7 +239,7 @@ void FrmFld::SelectFolder(const QString &nativePath) {
   folders_->scrollToItem(item, QAbstractItemView::PositionAtCenter);
 }
 
-void FrmFld::TakeTypedPath(const QString &text) {
+void FrmFld::SelectTypedPath(const QString &text) {
   const QString native = ToNative(FromPeople(text.trimmed()));
   const bool isFolder = native.startsWith(u'/') && QFileInfo(native).isDir();
   if (isFolder) {
@@ -251,7 +251,7 @@ void FrmFld::TakeTypedPath(const QString &text) {
   ok_->setEnabled(isFolder && QDir::cleanPath(native) == SelectedFolder());
 }
 
-void FrmFld::ShowHidden() {
+void FrmFld::ReloadFolders() {
   const QString selected = SelectedFolder();
   if (!selected.isEmpty()) SelectFolder(selected);
 }

@@ -21,8 +21,8 @@ struct PickedFolders {
 
 /// The folder picker: the drive, the tree of its folders, and a box for a path that is typed or
 /// pasted. Its size does not depend on the names shown. Its answer is the chosen folder in logic
-/// form, or the empty text when it was cancelled by its button, Escape or the close box; the other
-/// of its two results is left alone.
+/// form, or the empty text when it was cancelled by its button, Escape or the close box. Of its two
+/// results only the one that ForProject selects is written.
 class FrmFld : public QDialog {
   Q_OBJECT
 
@@ -30,7 +30,7 @@ class FrmFld : public QDialog {
   /// The texts that `results` refers to outlive the picker.
   explicit FrmFld(PickedFolders results, QWidget *parent = nullptr);
 
-  /// Where the answer goes: ProjectFolderResult when set, else ImageFolderPath.
+  /// Selects the result to write: ProjectFolderResult when true, else ImageFolderPath.
   bool ForProject = false;
 
   /// Opens the tree down to a native folder and selects it, or the nearest folder above it that is
@@ -45,12 +45,16 @@ class FrmFld : public QDialog {
 
  private:
   void FillDrives();
+  /// Shows the root of the chosen drive, expanded and selected.
   void ShowDrive();
+  /// Adds the subfolders of an item that was expanded for the first time.
   void FillFolders(QTreeWidgetItem &item);
-  /// Follows what the person types into the path box; Ok needs a folder that is there.
-  void TakeTypedPath(const QString &text);
-  /// Reads the folders anew, with hidden ones or without.
-  void ShowHidden();
+  /// Selects the folder that was typed into the path box; disables Ok while there is no such
+  /// folder.
+  void SelectTypedPath(const QString &text);
+  /// Reads the folders again after "Show hidden folders" was switched.
+  void ReloadFolders();
+  /// Writes the selected folder to the path box and the line below it.
   void ShowSelected();
   void StoreResult(const QString &folder);
 

@@ -10,50 +10,54 @@ class QStyleOptionTab;
 class QStyleOptionToolButton;
 class QStyleOptionViewItem;
 
-/// What HouseStyle draws of its own, one function a part of a control. Boxes and buttons are in
-/// HouseBoxes.cpp, what lies in bars in HouseBars.cpp, lists and their scroll bars in
-/// HouseLists.cpp.
+/// The drawing functions of HouseStyle, one a part of a control: boxes and buttons
+/// (HouseBoxes.cpp), bars and what lies in them (HouseBars.cpp), lists and scroll bars
+/// (HouseLists.cpp). Options are those that QStyle passes; state and palette are taken from them.
 namespace velor {
 
 // Boxes and buttons.
 /// Whether the control has a flat painter, which draws its edges.
 bool IsFlat(const QWidget *widget);
+/// Fills `rect` with round corners.
 void FillRounded(QPainter *painter, const QRect &rect, const QColor &color);
+/// A one-pixel frame in the hairline colour around option->rect.
 void DrawHairlineFrame(const QStyleOption *option, QPainter *painter);
-/// The field and edge of a text box; the edge tells the keyboard's place.
+/// Background and edge of a text box; with the focus the edge is highlighted.
 void DrawEntryBox(const QStyleOption *option, QPainter *painter, const QWidget *widget);
+/// Background and edge of a button, without its caption.
 void DrawPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget);
-/// A combo box without its text. `arrow` is where its sign lies; a flat one has a button of its
-/// painter's width instead.
+/// A combo box without its text. The arrow is drawn in `arrow`; in a flat box it is drawn in a
+/// button `flatButtonWidth` wide at the right, which the flat painter frames.
 void DrawComboBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget,
                   const QRect &arrow, int flatButtonWidth);
 
-/// The box that is ticked, without its words.
+/// The square of a check box with its tick, without the caption.
 void DrawCheckBox(const QStyleOption *option, QPainter *painter, const QWidget *widget);
 
 // Bars.
-/// The field behind a toolbar's button; nothing at rest.
+/// Background of a toolbar button under the pointer, pressed or switched on; else draws nothing.
 void DrawToolField(const QStyleOption *option, QPainter *painter);
-/// A picture with its words beside it, the pair in the middle of the button.
+/// Icon and caption of a toolbar button side by side, centred in it.
 void DrawToolLabel(const QStyleOptionToolButton *button, QPainter *painter, const QStyle *style);
-/// Between the picture and the words of such a button.
+/// Pixels between icon and caption of a toolbar button.
 inline constexpr int ToolLabelGap = 7;
 void DrawToolBar(const QStyleOption *option, QPainter *painter, const QWidget *widget);
 void DrawToolSeparator(const QStyleOption *option, QPainter *painter);
 void DrawTab(const QStyleOptionTab *tab, QPainter *painter);
 void DrawStatusBar(const QStyleOption *option, QPainter *painter);
 void DrawMenuBarItem(const QStyleOptionMenuItem *item, QPainter *painter, const QStyle *style);
-/// One of the buttons of a maximised page window, at the end of the menu bar.
+/// One of the buttons of a maximised page window, at the end of the menu bar, in `place`.
 void DrawMdiButton(const QStyleOptionComplex *option, QPainter *painter, const QRect &place,
                    QStyle::SubControl button);
 
 // Lists.
 void DrawHeaderSection(const QStyleOptionHeader *header, QPainter *painter);
-/// The field behind one item of a list.
+/// Background of one item of a list.
 void DrawItemField(const QStyleOptionViewItem *item, QPainter *painter);
-/// The mark of the item that has the keyboard.
+/// Focus frame of one item of a list.
 void DrawItemFocus(const QStyleOption *option, QPainter *painter);
-/// Where a scroll bar's parts lie: there are no arrows, the groove is all of it.
+/// The rectangle of a scroll bar's part. There are no arrow buttons: the groove is the whole bar,
+/// and the slider at least `shortestSlider` pixels long.
 QRect ScrollBarPart(const QStyleOptionSlider &bar, QStyle::SubControl part, int shortestSlider);
 void DrawScrollBar(const QStyleOptionComplex *option, QPainter *painter, const QRect &slider);
 

@@ -5,16 +5,16 @@
 
 namespace velor {
 
-/// Fusion drawn calmer: flat fields, hairlines instead of bevels, round corners under the pointer,
-/// room around icons and texts, scroll bars that are a slider alone, our own pictures in message
-/// boxes. Where else things lie within a control stays Fusion's business.
+/// The style of the program's controls: Qt's Fusion with flat backgrounds, hairlines instead of
+/// bevels, rounded highlights under the pointer, more room around icons and captions, scroll bars
+/// without arrows and our own icons in message boxes. What it does not override is Fusion's.
 class HouseStyle : public QProxyStyle {
   Q_OBJECT
 
  public:
-  /// A toolbar with this property set lies on a larger band and draws no line below itself.
+  /// Dynamic property: the toolbar lies on a larger band and draws no line below itself.
   static constexpr const char *OnBand = "velorOnBand";
-  /// A control with this property set has a flat painter, which draws its edges.
+  /// Dynamic property: the control has a flat painter, which draws its edges instead of this style.
   static constexpr const char *Flat = "velorFlat";
 
   HouseStyle();

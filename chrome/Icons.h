@@ -6,14 +6,13 @@
 
 namespace velor {
 
-/// The picture of a toolbar button or menu item by its key ("new", "bold", "Refresh" ...; letter
-/// case does not matter, and a blank in it is a hyphen in the drawing's name). Line drawings on one
-/// 24-unit grid, drawn anew in the application palette's colours at every size and screen
-/// resolution, so they follow a change of palette and stay crisp. Disabled, and selected on the
-/// highlight colour, they take those colours. A null icon for a key without a picture.
+/// The icon of a toolbar button or menu item by its key ("new", "bold", "Refresh" ...): the drawing
+/// resources/icons/KEY.svg, the key in lower case with "-" for blanks. It is rendered in the
+/// application palette's present colours at every size, screen resolution and state (disabled,
+/// selected), so that it follows a change of palette. A null icon for a key without a drawing.
 QIcon IconFor(const QString &key);
 
-/// The program's own picture, for its windows.
+/// The program's own icon, for its windows.
 QIcon ProgramIcon();
 
 }  // namespace velor

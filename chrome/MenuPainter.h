@@ -18,11 +18,12 @@ namespace velor {
 /// The pictures beside menu items, each under a key in lower case.
 using ImageList = QHash<QString, QIcon>;
 
-/// What paints a window's menus, `PM`. Colours are 32-bit values, red in the low byte.
+/// Paints the menus of a window (`PM`). Colours are 32-bit values, red in the low byte.
 class MenuPainter {
  public:
   virtual ~MenuPainter() = default;
 
+  /// The picture is drawn behind the items.
   virtual void SetBackground(const QPixmap &picture) = 0;
   virtual void SetTextColor(std::int32_t color) = 0;
   virtual void SetBorderColor(std::int32_t color) = 0;
@@ -36,11 +37,11 @@ class MenuPainter {
   virtual void SetItemPicture(const QString &itemName, const QString &imageKey) = 0;
 };
 
-/// Gives the window's menu items the pictures whose key is the item's name in lower case; items
-/// without such a picture keep their plain look.
+/// Sets the pictures of all menu items of the window for which `images` has one: its key is the
+/// item's object name in lower case.
 void MenuPictureSweep(QWidget &window, const ImageList &images, MenuPainter &painter);
 
-/// What a menu is drawn with.
+/// Picture and colours that a menu is drawn with.
 struct MenuLook {
   QPixmap background;
   QColor text = Qt::black;
@@ -49,12 +50,12 @@ struct MenuLook {
   QColor highlightText = Qt::white;
 };
 
-/// The look as it is shown on a palette: on a dark one the picture only tints the palette's field,
-/// on a high-contrast one there is none; colours that could not be read on what lies behind them
-/// give way to the palette's.
+/// The look adapted to a palette. On a dark palette the picture only tints the palette's
+/// background, on a high-contrast one it is left out. A colour with too little contrast to what
+/// lies behind it is replaced by the palette's.
 MenuLook LegibleLook(const MenuLook &look, const QPalette &palette);
 
-/// The menu painter for Qt's menus: a style of its own for each of them.
+/// The menu painter for Qt's menus: sets a style of its own on each of them.
 class StyleMenuPainter final : public QObject, public MenuPainter {
   Q_OBJECT
 
@@ -71,6 +72,7 @@ class StyleMenuPainter final : public QObject, public MenuPainter {
   void TakeOver(QWidget &window) override;
   void SetItemPicture(const QString &itemName, const QString &imageKey) override;
 
+  /// The look as it was set, before LegibleLook.
   const MenuLook &Look() const;
 
  private:

@@ -6,34 +6,35 @@
 
 class QApplication;
 
-/// The program's colours and measures, all of them functions of the palette in use. Measures are in
+/// The program's palettes, the colours derived from the palette in use, and measures in
 /// device-independent pixels.
 namespace velor {
 
 enum class Shade { Light, Dark };
 
-/// VELOR_PALETTE ("light" or "dark") where it is set, else the desktop's.
+/// The value of $VELOR_PALETTE ("light" or "dark") where it is set, else the desktop's shade.
 Shade ChosenShade();
 QPalette PaletteFor(Shade shade);
 Shade ShadeOf(const QPalette &palette);
 
-/// Whether somebody chose the palette for its contrast: nothing but black on white, or the like.
+/// Whether the palette is a high-contrast one: text and background nearly as far apart as black and
+/// white (Contrast above 19.5).
 bool IsHighContrast(const QPalette &palette);
 
-/// Style, palette and icon of the whole program, and its names for people who hear it; called once,
-/// before the first window. A desktop's high-contrast palette stays as it is, unless the
-/// environment asks for one of ours.
+/// Sets style, palette and icon of the application, and how its combo boxes report to assistive
+/// technology (AnnounceComboBoxLabels). Called once, before the first window. A desktop's
+/// high-contrast palette stays, unless $VELOR_PALETTE is set.
 void DressApplication(QApplication &application);
 
 /// The thin line between neighbouring areas.
 QColor Hairline(const QPalette &palette);
 /// The edge of boxes and buttons.
 QColor BoxEdge(const QPalette &palette);
-/// Text that stands back: hints, captions of pages that are not in front.
+/// Text of less weight: hints, captions of tabs that are not in front.
 QColor QuietText(const QPalette &palette);
-/// The field behind the page windows.
+/// The background behind the page windows.
 QColor Backdrop(const QPalette &palette);
-/// A button under the pointer, and one that is pressed or switched on.
+/// Backgrounds of a button: under the pointer; pressed or switched on.
 QColor HoverField(const QPalette &palette);
 QColor PressedField(const QPalette &palette);
 
@@ -41,7 +42,7 @@ QColor PressedField(const QPalette &palette);
 double Contrast(const QColor &one, const QColor &other);
 /// The least contrast at which text counts as legible.
 inline constexpr double LegibleContrast = 4.5;
-/// The same where the palette was chosen for its contrast.
+/// As LegibleContrast, on a high-contrast palette.
 inline constexpr double HighLegibleContrast = 7;
 
 inline constexpr int ToolIconSize = 20;

@@ -9,8 +9,9 @@
 
 namespace velor {
 
-/// Sweeps whose errors do not keep a window from loading: what was styled stays, and the error is
-/// raised anew from the event loop, where the program's one handler reports it.
+/// Runs other sweeps and catches their errors, so that a window loads although its styling failed:
+/// what was styled stays, and the error is raised again from the event loop, where the event
+/// boundary reports it.
 class ReportingSweeps final : public StylingSweeps {
  public:
   explicit ReportingSweeps(std::unique_ptr<StylingSweeps> sweeps) : sweeps_(std::move(sweeps)) {}

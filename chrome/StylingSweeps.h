@@ -7,20 +7,20 @@ class QWidget;
 
 namespace velor {
 
-/// The sweeps that give a window's controls the program's flat look. Each window calls those it
-/// wants once, when it loads. Type names are those of the control kinds: "CommandButton",
-/// "TextBox", "ComboBox", "ImageCombo", "HScrollBar", "ListBox", "ProgressBar".
+/// Sweeps: each goes once over all controls of a window and gives them the program's flat look. A
+/// window calls those that it wants when it loads. Type names are those of the control kinds:
+/// "CommandButton", "TextBox", "ComboBox", "ImageCombo", "HScrollBar", "ListBox", "ProgressBar".
 class StylingSweeps {
  public:
   virtual ~StylingSweeps() = default;
 
-  /// A flat painter for every control that can have one.
+  /// Attaches a flat painter to every control that can have one.
   virtual void FlatSweep(QWidget &window) = 0;
-  /// A flat painter for every combo box.
+  /// Attaches a flat painter to every combo box.
   virtual void FlatComboSweep(QWidget &window) = 0;
-  /// A thin edge for every button, text box and progress bar.
+  /// Gives every button, text box and progress bar a thin edge (ThinEdge).
   virtual void ThinEdgeSweep(QWidget &window) = 0;
-  /// A thin edge for every control of that type name, letter case ignored.
+  /// Gives every control of that type name, letter case ignored, a thin edge.
   virtual void ThinEdgeByType(QWidget &window, const QString &typeName) = 0;
 };
 

@@ -10,15 +10,16 @@ namespace velor {
 
 enum class ButtonKind { Click, Toggle };
 
-/// A toolbar button's action. What a person does with the button, by mouse, by key or through
-/// assistive technology (which toggles without a click), comes as Chosen. A toggle shows what the
-/// program says and nothing else: choosing it leaves it as it is until the program shows a state.
+/// A toolbar button's action. It emits Chosen when the person uses the button, by mouse, key or
+/// assistive technology (which toggles without a click). Choosing a toggle does not change how it
+/// looks: only ShowChecked does.
 class ToolBarAction final : public QAction {
   Q_OBJECT
 
  public:
   ToolBarAction(ButtonKind kind, const QString &key, const QString &caption, QObject *parent);
 
+  /// Shows a toggle as checked or not, without emitting Chosen.
   void ShowChecked(bool checked);
 
  Q_SIGNALS:
@@ -28,8 +29,8 @@ class ToolBarAction final : public QAction {
   bool showing_ = false;
 };
 
-/// Adds a button with the picture of `key`, reachable by Tab and named for assistive technology.
-/// The action's data is the key.
+/// Appends a button with the icon of `key` (IconFor), reachable by Tab, with `caption` as its name
+/// for assistive technology. The action's data is the key.
 ToolBarAction *AddToolBarButton(QToolBar &bar, const QString &key, const QString &caption,
                                 const QString &tooltip, ButtonKind kind);
 

@@ -11,18 +11,18 @@ class QWidget;
 
 namespace velor {
 
-/// The kind of control that a widget is, by the name that kinds have ("CommandButton", "TextBox",
-/// "ComboBox", "HScrollBar", "ListBox", "ProgressBar"); empty for any other widget and for the
-/// inner parts of a control.
+/// The name of the kind of control that a widget is: "CommandButton", "TextBox", "ComboBox",
+/// "HScrollBar", "ListBox" or "ProgressBar". Empty for any other widget and for the widgets that a
+/// control consists of, such as the text box in a combo box.
 QString ControlTypeName(const QWidget &widget);
 
-/// The controls of a window, in its order: all its descendant widgets.
+/// The controls of a window: all its descendant widgets, in the window's order.
 QList<QWidget *> ControlsOf(const QWidget &window);
 
-/// The controls of type "Menu": menus and their items, with separators.
+/// The menus of a window and their items, separators among them.
 QList<QAction *> MenuItemsOf(const QWidget &window);
 
-/// A widget as the flat painter knows it.
+/// A widget seen as a control that the flat painter works on.
 class WidgetControl final : public FlatControl {
  public:
   WidgetControl(QWidget &widget, WindowSystem &windows) : widget_(widget), windows_(windows) {}
@@ -30,7 +30,8 @@ class WidgetControl final : public FlatControl {
   QString TypeName() const override { return ControlTypeName(widget_); }
   WindowHandle Hwnd() const override { return windows_.HandleOf(widget_); }
   TwipRect Place() const override;
-  /// For good: a layout that places the widget anew finds it just as far inwards.
+  /// Stays in force in a layout: whenever the layout places the widget, it is moved and resized by
+  /// the same amounts again.
   void Move(const TwipRect &place) override;
 
  private:

@@ -11,11 +11,12 @@ namespace velor {
 
 /// Gives one control a flat look: watches the messages of its window and, after the control has
 /// painted itself, paints thin frames over its edges: level while it is idle, sunken or raised
-/// under the pointer, with the keyboard focus, pressed or dropped down. Detaches when it goes.
+/// under the pointer, with the keyboard focus, pressed or dropped down. The destructor detaches.
 class cControlFlater final : public ISubclass {
  public:
   enum class Kind : std::int16_t { Edge = 0, Combo = 1, Button = 2, Scroll = 3 };
 
+  /// Identifier of the timer that runs while the pointer is over the control.
   static constexpr std::int32_t HoverTimer = 1;
   static constexpr std::int32_t HoverPeriod = 10;  ///< milliseconds
 
@@ -25,8 +26,8 @@ class cControlFlater final : public ISubclass {
   cControlFlater(const cControlFlater &) = delete;
   cControlFlater &operator=(const cControlFlater &) = delete;
 
-  /// Leaves whatever it was attached to and watches `control`. A control of kind Edge becomes two
-  /// pixels smaller on every side, to make room for its frame. InvalidControl for a control without
+  /// Detaches from the control before and watches `control`. One of kind Edge becomes two pixels
+  /// smaller on every side, to make room for its frame. Raises InvalidControl for a control without
   /// a window.
   void Attach(FlatControl &control);
 
@@ -34,7 +35,7 @@ class cControlFlater final : public ISubclass {
   Kind GetKind() const { return kind_; }
 
   MsgResponse ISubclass_MsgResponse(std::int32_t message) const override;
-  /// Accepted, without effect: the painter alone knows when it has to run.
+  /// Has no effect: when the painter runs is decided by ISubclass_MsgResponse(message).
   void ISubclass_SetMsgResponse(MsgResponse) {}
   /// Always 0.
   std::int32_t ISubclass_WindowProc(WindowHandle hwnd, std::int32_t iMsg, std::int32_t wParam,
@@ -46,9 +47,13 @@ class cControlFlater final : public ISubclass {
   void Detach();
   void ChooseKind(FlatControl &control);
   void ShrinkForFrame(FlatControl &control);
+  /// Attaches to or detaches from every message that is watched.
   void ForEachMessage(HookMessage hook);
+  /// On the hover timer: repaints and stops the timer once the pointer has left the control.
   void CheckHover();
+  /// The state to paint: that of the control now.
   FrameState State();
+  /// Paints the frames of the kind in the present state.
   void Redraw();
 
   WindowSystem &windows_;

@@ -10,8 +10,8 @@ namespace velor {
 
 class Runtime;
 
-/// The About box: the product, its maker, a mail link, a band of ridges and a small pattern that
-/// plays while the box is the active window.
+/// The About box: product, maker, a mail link, a band of ridges and a small animated pattern
+/// (AboutAnimation) that runs while the box is the active window.
 class frmAbout final : public QDialog {
   Q_OBJECT
 
@@ -30,7 +30,9 @@ class frmAbout final : public QDialog {
 
   QWidget *BuildHead();
   QWidget *BuildFoot();
+  /// Takes the animation's next step if it is due.
   void Play();
+  /// Opens the desktop's mail program for a mailto: link; a failure is ignored.
   void WriteTo(const QString &link);
 
   Runtime &runtime_;
