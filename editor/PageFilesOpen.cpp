@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Pages made and opened.
-#include "editor/modWorkFlow.h"
-
+// modWorkFlow: pages are made, opened and restored.
 #include "app/settings/modSettingManager.h"
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
@@ -10,6 +8,7 @@
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
+#include "editor/modWorkFlow.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Journal.h"
@@ -252,7 +251,7 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
   FillPage(window, [&] {
     const int number = window.Number();
     window.Tag = QString::number(number);
-    window.DHTML1().Recall(kept.page);
+    window.DHTML1().Restore(kept.page);
     const PageRecord record = RecordOfRestored(context, number, kept);
     context.pages.Record(number) = record;
     context.pages.Trace(number) = FileTrace::Of(kept.path, kept.page.original);

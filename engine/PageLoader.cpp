@@ -177,7 +177,7 @@ void PageLoader::Restore(const PageMemory &memory) {
            memory.base);
   if (life.IsOver() || memory.document == document_.Mirror().Html()) return;
   document_.Mirror().Reset(memory.document);
-  LoadAndFinish(Purpose::Step, QStringLiteral("Recall"));
+  LoadAndFinish(Purpose::Step, QStringLiteral("Restore"));
 }
 
 void PageLoader::ReloadAfterCrash() {

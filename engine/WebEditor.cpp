@@ -198,7 +198,7 @@ PageMemory WebEditor::Memory() const {
           document_.Mirror().Html()};
 }
 
-void WebEditor::Recall(const PageMemory &memory) {
+void WebEditor::Restore(const PageMemory &memory) {
   loader_.Restore(memory);
 }
 

@@ -41,7 +41,7 @@ class WebEditor : public EditingComponent {
   PageMemory Memory() const override;
   bool IsIdle() const override;
   bool IsWaiting() const override;
-  void Recall(const PageMemory &memory) override;
+  void Restore(const PageMemory &memory) override;
   QString Charset() const override;
   QString TextForm() const override;
   bool HasByteOrderMark() const override;

@@ -8,32 +8,34 @@ class QWidget;
 
 namespace velor {
 
+/// Receives what a browser reports.
 class BrowserListener {
  public:
   virtual ~BrowserListener() = default;
-  /// The address under the pointer, else how the load stands; also that the page's process has
-  /// ended, after which Refresh shows the page again.
+  /// Text for the status bar: the address of the link under the pointer, else the state of the
+  /// load. Also reports that the page's process has ended; Refresh shows the page again then.
   virtual void StatusTextChanged(const QString &text) = 0;
-  /// Both 32-bit, as browsers of old report them; done when equal.
+  /// Progress of a load as two 32-bit numbers; it is complete when both are equal.
   virtual void ProgressChanged(int progress, int maximum) = 0;
 };
 
-/// A web browser for previews: scripts on, a profile of its own that remembers nothing, downloads
-/// refused.
+/// A web browser for previews. Scripts run; nothing is remembered between runs (a profile of its
+/// own, off the record); downloads are refused.
 class Browser {
  public:
   virtual ~Browser() = default;
 
   virtual QWidget *Widget() = 0;
+  /// At most one; null for none. It outlives the browser or is unset before it goes.
   virtual void SetListener(BrowserListener *listener) = 0;
 
-  /// The folder (native) whose files the pages navigated to from now on may use; where a page lies
-  /// outside of it, and for an empty text, it is the folder of the page itself. Nothing else of
-  /// this machine is shown to a page, and what a page names outside is told as status text.
+  /// Sets the folder (native) whose files may be used by pages navigated to from now on. For a page
+  /// outside of it, and for the empty text, that is the page's own folder. No other file of this
+  /// machine is given to a page; a file that was refused is reported as status text.
   virtual void SetSite(const QString &folder) = 0;
   virtual void Navigate(const QUrl &url) = 0;
-  /// Shows a text in the place of the file `baseUrl`, which need not exist, or of a page in that
-  /// folder (ending in "/").
+  /// Shows `html` as if it were the file `baseUrl`, which need not exist, or a file in the folder
+  /// `baseUrl` (ending in "/").
   virtual void NavigateToText(const QString &html, const QUrl &baseUrl) = 0;
   virtual void GoBack() = 0;
   virtual void GoForward() = 0;

@@ -6,14 +6,14 @@
 
 #include <cstdint>
 
-/// Checked conversions between text and numbers, and the text operations whose rules matter.
-/// Locale-free: the decimal separator is ".". Each of the conversions raises RuntimeError:
-/// TypeMismatch (13) for a text that is no number, Overflow (6) for one outside the range.
+/// Conversions between texts and numbers by fixed rules, independent of the locale: the decimal
+/// separator is ".". CInt, CLng and CBool raise RuntimeError: TypeMismatch (13) for a text that is
+/// no number, Overflow (6) for a number outside the range.
 namespace velor {
 
 /// 16-bit integer; fractions are rounded to the nearest whole number, ties to even (2.5 is 2).
 std::int16_t CInt(QStringView text);
-/// As above for a number already at hand.
+/// As above for a number instead of its text.
 std::int16_t CInt(double value);
 /// 32-bit integer, rounded the same way.
 std::int32_t CLng(QStringView text);

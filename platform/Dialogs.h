@@ -35,11 +35,11 @@ class Dialogs {
 
   virtual MessageAnswer ShowMessage(const Message &message) = 0;
 
-  /// A message whose buttons have these captions; the index of the one pressed. Its close button
-  /// and Escape answer the last. `message.buttons` does not count.
+  /// Shows a message with a button for each of these captions, instead of `message.buttons`.
+  /// Returns the index of the one pressed; the last for the close button and Escape.
   virtual int Choose(const Message &message, const QStringList &captions) = 0;
 
-  /// A one-line question; the empty text when cancelled.
+  /// Asks for one line of text; returns the empty text when cancelled.
   virtual QString AskText(const QString &prompt, const QString &title,
                           const QString &defaultAnswer) = 0;
 
@@ -47,8 +47,7 @@ class Dialogs {
   virtual void RunModal(QWidget &dialog) = 0;
 };
 
-/// A file dialog that is an object with a memory: what one use leaves in its fields the next finds.
-/// Paths in logic form.
+/// A file dialog whose fields keep their values from one showing to the next. Paths in logic form.
 class FileDialog {
  public:
   /// The chosen file must exist (open dialogs).
@@ -58,13 +57,15 @@ class FileDialog {
 
   virtual ~FileDialog() = default;
 
-  /// Cancelling raises RuntimeError 32755 when set; otherwise it leaves no trace but ChosenName().
+  /// Whether a cancelled showing raises RuntimeError DialogCancelled (32755) rather than returning
+  /// the empty text.
   bool CancelError = false;
   /// Pairs of description and patterns separated by "|", patterns separated by ";".
   QString Filter;
   /// Sum of the flags above.
   int Flags = 0;
-  /// The full path that the dialog last held. A cancelled showing keeps it.
+  /// The full path that the dialog starts with, and afterwards the one chosen. A cancelled showing
+  /// leaves it unchanged.
   QString FileName;
 
   /// Shows the dialog; returns the path chosen now, the empty text when cancelled.

@@ -11,9 +11,9 @@
 
 namespace velor {
 
-/// Folders that stand for the drives of another machine: with "C: /home/me/windows" the text
-/// C:\Sites\Shop means /home/me/windows/Sites/Shop, and that folder is called C:\Sites\Shop. Made
-/// for catalogues that are shared with machines where those drives exist.
+/// Maps drives of another machine to folders of this one, for catalogues that are shared with
+/// machines where those drives exist. With "C: /home/me/windows" the path C:\Sites\Shop means
+/// /home/me/windows/Sites/Shop, and that folder has the logic form C:\Sites\Shop.
 class DriveMap {
  public:
   struct Drive {
@@ -31,15 +31,15 @@ class DriveMap {
   /// has a folder already.
   static DriveMap Parse(const QString &text, const QString &name);
 
-  /// The native path that a text beginning with a mapped drive means; nothing for other texts.
+  /// The native path of a path on a mapped drive; nullopt for any other text.
   std::optional<QString> ToNative(const QString &drivePath) const;
 
-  /// The drive path by which a native path is known: that of the drive whose folder holds it most
-  /// closely; nothing outside the mapped folders.
+  /// The drive path of a native path in a mapped folder, by the innermost of the folders that
+  /// contain it; nullopt outside of all mapped folders.
   std::optional<QString> ToDrive(const QString &nativePath) const;
 
   const QList<Drive> &Drives() const { return drives_; }
-  /// Gives a drive a folder, in place of the one it had.
+  /// Maps a drive, instead of its folder before.
   void Set(QChar letter, const QString &nativeFolder);
   void Remove(QChar letter);
 
@@ -60,13 +60,13 @@ DriveMap ReadDriveMapFile(const QString &nativeFile);
 /// that fails, and the old file stays whole.
 void WriteDriveMapFile(const QString &nativeFile, const DriveMap &map);
 
-/// Makes the drives of `map` that have no folder yet known to Paths.h. A drive in use keeps its
-/// folder: paths on it are about.
+/// Adds the drives of `map` that are not mapped yet to the map that Paths.h uses. A mapped drive
+/// keeps its folder, since the program holds paths on it.
 void UseAddedDrives(const DriveMap &map);
 
-/// Makes the map in the file the one that Paths.h works by; a missing file maps nothing. Runs
-/// before anything that has a path, the error boundary's parts included, and so answers rather than
-/// raises why the file could not be taken; no drive is mapped then.
+/// Reads the map that Paths.h uses from the file; a missing file maps nothing. Returns the error
+/// where the file cannot be read or parsed; no drive is mapped then. It does not raise, since it
+/// runs before the event boundary exists.
 std::optional<RuntimeError> UseDriveMapFile(const QString &nativeFile);
 
 }  // namespace velor

@@ -27,26 +27,26 @@ enum class CommandStatus : int {
 /// How a command may talk to the person; Default leaves it to the command.
 enum class ExecOption : int { Default = 0, PromptUser = 1, DontPromptUser = 2 };
 
-/// What an editing component tells its owner. Every notice is delivered after the call that caused
-/// it has returned, never from inside it; only that a load takes long is reported while it does.
+/// Receives the notices of an editing component. They come after the call that caused them has
+/// returned, never from inside it; only ComponentReported also comes while a load is waited for.
 class EditingListener {
  public:
   virtual ~EditingListener() = default;
-  /// A document set or loaded is there; delivered before any user input reaches it.
+  /// A document was set or loaded. Delivered before any user input reaches it.
   virtual void DocumentComplete() = 0;
   /// The selection, or the state of what is selected, has changed.
   virtual void DisplayChanged() = 0;
-  /// What Memory answers may have changed.
+  /// The result of Memory may have changed.
   virtual void MemoryChanged() {}
-  /// A context menu is wanted at that place of the screen; the component shows none itself.
+  /// The person asked for a context menu. The component shows none itself.
   virtual void ContextMenuRequested(QPoint screenPosition) = 0;
   /// The pointer moved or pressed within the page, in CSS pixels of its viewport.
   virtual void MouseNotified(int clientX, int clientY) = 0;
-  /// Something a person should read in the status bar (the page's engine stopped, came back ...);
-  /// an empty text takes back what was said last.
+  /// Text for the status bar (the page's engine stopped, was restarted ...); the empty text clears
+  /// the last one.
   virtual void ComponentReported(const QString &message) = 0;
-  /// Files were dropped on the page or pasted, paths in logic form. The caret is where they were
-  /// dropped; the component does nothing else with them.
+  /// Files were dropped on the page or pasted, paths in logic form. The component has put the caret
+  /// where they were dropped and does nothing else with them.
   virtual void FilesDropped(const QStringList &) {}
 };
 
@@ -80,8 +80,8 @@ class EditingComponent {
   /// is the one on show, in whatever folder it was, that stays as it is with caret, place and undo
   /// history, and the file's bytes are what it came from.
   virtual void LoadDocument(const QString &path) = 0;
-  /// Delivers DocumentComplete now where it is on its way; else nothing happens. For who is about
-  /// to make another page before the notice comes by itself.
+  /// Delivers a pending DocumentComplete at once; does nothing without one. Called before another
+  /// page is made, so that each page has its baseline before the next.
   virtual void DeliverCompletion() = 0;
   /// Like LoadDocument of a file that holds `html`, without looking at the file, which need not
   /// exist.
@@ -91,44 +91,46 @@ class EditingComponent {
   virtual void SaveDocument(const QString &path) = 0;
   /// What SaveDocument would write, as text.
   virtual QString TextToSave() = 0;
-  /// Why SaveDocument would write the page's whole source anew, in words that go on from "since";
-  /// empty where it keeps the source but for the edits, and for a page that came from no source.
+  /// Why SaveDocument would rewrite the page's whole source, in words that complete a sentence
+  /// after "since". Empty where it keeps the source except for the edits, and for a page without a
+  /// source.
   virtual QString ReasonToWriteAnew() { return {}; }
 
-  /// The page as it was last seen on this side, without asking the engine: not more than a second
-  /// and a half behind, and then MemoryChanged follows.
+  /// The page as last received from the engine, without waiting for it. At most 1.5 seconds old;
+  /// when it is renewed MemoryChanged follows.
   virtual PageMemory Memory() const = 0;
-  /// Whether all that the person has typed so far is known to be on the screen: a moment for what
-  /// should delay no key. Asked when MemoryChanged comes.
+  /// Whether everything typed so far is on the screen, so that work now delays no key. Asked when
+  /// MemoryChanged comes.
   virtual bool IsIdle() const { return false; }
-  /// Whether a call into the engine, of this component or another, still waits further up the
-  /// stack.
+  /// Whether a call that waits for the engine, of this component or another, is on the call stack.
   virtual bool IsWaiting() const { return false; }
-  /// Replaces the page by one that was remembered; returns when it is parsed. Against its original
-  /// it is an edited page, and is saved as such. Raises RuntimeError when it cannot be shown.
-  virtual void Recall(const PageMemory &memory) = 0;
+  /// Replaces the page by one that Memory gave, of an earlier run perhaps; returns when it is
+  /// parsed. It counts as edited against memory.original, and is saved as such. Raises RuntimeError
+  /// when it cannot be shown.
+  virtual void Restore(const PageMemory &memory) = 0;
 
   /// The WHATWG name of the page's charset ("big5", "utf-8", "windows-1252" ...).
   virtual QString Charset() const = 0;
-  /// How the page's bytes stand for its text, in words: charset, byte order mark, line ends
+  /// The encoding of the page's file in words: charset, byte order mark, line ends
   /// ("utf-8 (BOM), CR LF").
   virtual QString TextForm() const = 0;
   /// Whether the page's bytes begin with a byte order mark.
   virtual bool HasByteOrderMark() const = 0;
 
-  /// Where the caret, or the start of the selection, stands; empty where there is none or the page
-  /// does not answer.
+  /// The place of the caret or of the selection's start; empty where there is none or the page does
+  /// not answer.
   virtual ElementPlaces CaretPlaces() = 0;
-  /// Puts the caret to the first of these places that the document has, and brings it into sight.
+  /// Puts the caret to the first of these places that the document has, and scrolls it into view.
   virtual void ShowPlace(const ElementPlaces &places) = 0;
 
-  /// Carries out a command (EditingCommands.h) or, for a query command, answers its value: font
+  /// Carries out a command (EditingCommands.h) or, for a query command, returns its value: font
   /// name, block format name and size as text, colours as "#RRGGBB"; the empty text where the
   /// selection is mixed. A command that does not apply does nothing.
   virtual QVariant ExecCommand(EditingCommand command, ExecOption option = ExecOption::Default,
                                const QVariant &value = {}) = 0;
+  /// From the last snapshot of the selection; does not wait.
   virtual CommandStatus QueryStatus(EditingCommand command) const = 0;
-  /// The names that SetBlockFormat takes and GetBlockFormat answers, in the order to list them.
+  /// The values of SetBlockFormat and GetBlockFormat, in the order to list them.
   virtual QStringList BlockFormats() const = 0;
 
   /// The document object. Valid as long as the component.

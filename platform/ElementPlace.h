@@ -7,9 +7,9 @@
 
 namespace velor {
 
-/// An element told by its name (lower case) and its number, from 0, among those of that name in
-/// document order; and a place in its text, counted in UTF-16 units from its beginning with line
-/// breaks as one.
+/// A place in the text of an element. The element is given by its name (lower case) and its number,
+/// from 0, among the elements of that name in document order; the place by its offset in the
+/// element's text, in UTF-16 units, a line break counting as one.
 struct ElementPlace {
   QString name;
   int ordinal = 0;
@@ -18,8 +18,8 @@ struct ElementPlace {
   bool operator==(const ElementPlace &) const = default;
 };
 
-/// One place, told by each of the elements around it, innermost first: source and document do not
-/// have every element in common.
+/// One place, given relative to each of the elements around it, innermost first. Several, since the
+/// parsed document can have elements that its source has not, and the other way round.
 using ElementPlaces = std::vector<ElementPlace>;
 
 }  // namespace velor

@@ -9,22 +9,22 @@
 
 namespace velor {
 
-/// Watches files on the disk for as long as it lives.
+/// Watches files on the disk until it is destroyed.
 class FileWatch {
  public:
   virtual ~FileWatch() = default;
 
-  /// Watches these files, in logic form, in place of those before; a file need not exist.
+  /// Replaces the watched files (logic form). A file need not exist.
   virtual void SetFiles(const QStringList &paths) = 0;
 };
 
-/// Makes watches. Implementations: files/QtFileWatches.h, and a fake for tests; one contract suite
-/// runs against both.
+/// Creates watches. Implementations: files/QtFileWatches.h, and a fake for tests; one contract
+/// suite runs against both.
 class FileWatches {
  public:
-  /// Called from the event loop, with the path as it was given to SetFiles, less than a second
-  /// after the file was written, replaced, removed, brought back or given other permissions. A
-  /// burst of changes is told once, when it has come to rest.
+  /// Called from the event loop, with the path as passed to SetFiles, less than a second after the
+  /// file was written, replaced, removed, created or given other permissions. Changes in quick
+  /// succession are reported once, after the last.
   using Listener = std::function<void(const QString &path)>;
 
   virtual ~FileWatches() = default;

@@ -7,16 +7,16 @@
 
 namespace velor {
 
-/// How a path came about decides how it is looked up.
+/// The origin of a path decides how it is looked up.
 enum class NameOrigin {
   Chosen,   ///< picked or typed by a person: taken exactly
-  Program,  ///< made up by the program: exactly first, then ignoring letter case
+  Program,  ///< composed by the program: exactly first, then ignoring letter case
 };
 
-/// Files as the logic sees them: paths in logic form (Paths.h), every failure a RuntimeError with
-/// the number mapped from the system's, naming the file; where the drive or the folder itself is
-/// missing the number is 76 throughout. Implementations: files/QtFiles.h, and a fake
-/// in memory for tests; one contract suite runs against both.
+/// The file system. Paths in logic form (Paths.h). Failures are RuntimeErrors that name the file,
+/// their number mapped from the system's (RuntimeError::FromErrno); PathNotFound (76) where the
+/// drive or the folder is missing. Implementations: files/QtFiles.h, and a fake in memory for
+/// tests; one contract suite runs against both.
 class Files {
  public:
   virtual ~Files() = default;
@@ -26,18 +26,18 @@ class Files {
   /// Whether a folder of that name exists. Never raises.
   virtual bool FolderExists(const QString &path, NameOrigin origin = NameOrigin::Chosen) const = 0;
 
-  /// No write bit in the mode, or write access refused. The first holds for the superuser too.
-  /// Raises 53 for a missing file.
+  /// Whether the file has no write bit in its mode, which counts for the superuser too, or write
+  /// access is refused. Raises 53 for a missing file.
   virtual bool IsReadOnly(const QString &path) const = 0;
 
-  /// Whether two paths lead to one file: by another spelling, a link, or another name of it. False
-  /// where one of them leads nowhere. Never raises.
+  /// Whether two paths lead to one file, be it by another spelling, a symbolic or a hard link.
+  /// False where one of them leads to none. Never raises.
   virtual bool IsSameFile(const QString &one, const QString &other) const = 0;
 
   /// Whether files can be created in the folder that `path` lies in.
   virtual bool FolderWritable(const QString &path) const = 0;
 
-  /// When the file's content was last changed; invalid where there is none. Never raises.
+  /// The modification time of the file; an invalid time where there is no file. Never raises.
   virtual QDateTime ChangeTime(const QString &path) const = 0;
 
   /// The whole content. Raises 14 (more than 256 MB), 53 (missing), 76 (drive or folder missing),

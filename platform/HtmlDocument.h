@@ -9,7 +9,7 @@
 
 namespace velor {
 
-/// An element as a value: what it was when it was asked for.
+/// A copy of an element: name and attributes at the time of the call that returned it.
 struct HtmlElement {
   /// Upper case, as the document object model reports HTML elements; empty for no element.
   QString tagName;
@@ -24,7 +24,7 @@ struct HtmlElement {
 /// The kinds of selection: "None" (a caret), "Text" (a range of text), "Control" (one object).
 enum class SelectionType { None, Text, Control };
 
-/// A stretch of the document that follows the selection it was made from.
+/// A range of the document, at first that of the selection it was created from.
 class TextRange {
  public:
   virtual ~TextRange() = default;
@@ -32,7 +32,7 @@ class TextRange {
   virtual void Collapse() = 0;
   /// The element that holds the (collapsed) range.
   virtual HtmlElement ParentElement() const = 0;
-  /// Replaces the range by the markup as it stands (scripts, handlers, comments and objects kept),
+  /// Replaces the range by the markup unchanged (scripts, handlers, comments and objects are kept),
   /// as one undo step. The empty text removes the range's content.
   virtual void PasteHTML(const QString &html) = 0;
 };
@@ -47,7 +47,7 @@ class DocumentSelection {
   virtual HtmlElement ControlElement() const = 0;
 };
 
-/// The document object of an editing component.
+/// The document of an editing component.
 class HtmlDocument {
  public:
   virtual ~HtmlDocument() = default;

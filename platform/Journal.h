@@ -19,12 +19,12 @@ enum class RunEnd {
   Exit,
 };
 
-/// A page with unsaved changes, as a journal has it.
+/// A page with unsaved changes, as a journal stores it.
 struct JournalledPage {
   /// The page's file in logic form; empty for one that was never saved.
   QString path;
   QString caption;
-  /// Whether a plain save writes to `path`.
+  /// Whether Save writes to `path` or asks for a name.
   enum class Saving { ToItsFile, AsksForAName } saving = Saving::AsksForAName;
   PageMemory page;
   /// When the document was like this.
@@ -34,61 +34,62 @@ struct JournalledPage {
   RunEnd end = RunEnd::Unforeseen;
 };
 
-/// The journal of one page. It survives a crash of the process once Write returns, and of the
-/// machine once Sync or Compact returns. A journal that nobody removes is an abandoned page of a
-/// later run. Failures are RuntimeErrors; what was written before stays readable.
+/// The journal of one page. Its content survives a crash of the process once Write returns, and of
+/// the machine once Sync or Compact returns. A journal that is not removed is an AbandonedPage for
+/// a later run. Failures are RuntimeErrors; what was written before stays readable.
 class Journal {
  public:
   virtual ~Journal() = default;
 
-  /// Appends what has changed since the last Write.
+  /// Appends what of the page has changed since the last Write.
   virtual void Write(const JournalledPage &page) = 0;
-  /// Brings it to the disk. Short enough for a moment between two keys.
+  /// Makes what was written durable. Fast enough to be called between two keys.
   virtual void Sync() = 0;
-  /// Sync, and a shorter file where it has grown. For when nobody types.
+  /// Syncs, and rewrites a file that has grown to hold the last state alone. For idle moments.
   virtual void Compact() = 0;
-  /// Deletes it: the changes are saved, or nobody wants them. The next Write begins anew.
+  /// Deletes the journal, since the changes are saved or given up. The next Write begins a new one.
   virtual void Remove() = 0;
 };
 
-/// What a list says of a page whose program ended before its changes were saved.
+/// A page whose run ended before its changes were saved, as Journals::Abandoned lists it.
 struct AbandonedPage {
-  QString id;
+  QString id;  ///< for Read and Discard
   /// path, caption, time and end as in JournalledPage.
   QString path;
   QString caption;
   QDateTime time;
-  /// Whether a source is with it that was not applied.
+  /// Whether there is a source that was not applied.
   bool hasSource = false;
-  /// Why nothing of it can be read, for people. Empty where something can, as far as its beginning
-  /// tells.
+  /// Why nothing of it can be read, in words for people. Empty where it is readable as far as its
+  /// header tells.
   QString defect;
   RunEnd end = RunEnd::Unforeseen;
 };
 
-/// What a journal holds.
+/// The result of Journals::Read.
 struct JournalReading {
   JournalledPage page;
-  /// Whether something stands behind it that cannot be read any more: the last changes.
+  /// Whether the journal's end is damaged, so that the last changes are missing.
   bool endIsMissing = false;
 };
 
-/// The journals of a person's running and ended programs. A run never sees what another run that
-/// still goes on has written, nor what another run is already offering.
+/// The journals of all runs of the program by this user. A run does not see journals of another run
+/// that has not ended, nor those that another run offers already.
 class Journals {
  public:
   virtual ~Journals() = default;
 
-  /// Why no journal can be written, for people; empty where they can.
+  /// Why no journal can be written, in words for people; empty where journals can be written.
   virtual QString Hindrance() = 0;
 
-  /// An empty journal; no file is made before the first Write. Must not outlive the Journals.
+  /// Creates an empty journal; its file is created by the first Write. Must not outlive the
+  /// Journals.
   virtual std::unique_ptr<Journal> Begin() = 0;
 
-  /// The pages of runs that have ended, newest first; from now on they are this run's to offer.
-  /// Where there are very many these are the newest, and the others follow when these are gone.
+  /// The pages of ended runs, newest first; from now on no other run is given them. Where there are
+  /// very many only the newest are returned; the next call after those are gone returns more.
   virtual std::vector<AbandonedPage> Abandoned() = 0;
-  /// What is left of an abandoned page. Raises RuntimeError where that is nothing.
+  /// Reads an abandoned page. Raises RuntimeError where nothing of it can be read.
   virtual JournalReading Read(const QString &id) = 0;
   /// Deletes the journal of an abandoned page. Raises RuntimeError where it cannot.
   virtual void Discard(const QString &id) = 0;

@@ -6,14 +6,14 @@
 
 namespace velor {
 
-/// A page as an editing component can be given it again, so that what counts as edited, and what a
-/// save writes, is as it was.
+/// The state of a page that EditingComponent::Memory gives and EditingComponent::Restore takes. The
+/// restored page counts as edited, and is saved, exactly as the page that the state was taken of.
 struct PageMemory {
-  /// The bytes that the document came from.
+  /// The bytes that the document was loaded from.
   QByteArray original;
-  /// What links resolve against: a native path of a file, or of a folder with "/" at its end.
+  /// The base of relative links: the native path of a file, or of a folder with "/" at its end.
   QString base;
-  /// The document as the component has it: for no other use than giving it back.
+  /// The document's text in the component's own form; only meant for Restore.
   QString document;
 
   bool operator==(const PageMemory &) const = default;

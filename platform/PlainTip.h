@@ -5,8 +5,8 @@
 
 namespace velor {
 
-/// The text of a tool tip that shows `text` letter by letter. Tool tips take what looks like markup
-/// for markup; names and texts from files, catalogues and pages are none.
+/// `text` in a form that a tool tip shows letter by letter. For names and texts from files,
+/// catalogues and pages: tool tips would interpret markup in them.
 QString PlainTip(const QString &text);
 
 }  // namespace velor

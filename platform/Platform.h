@@ -23,7 +23,8 @@ class Runtime;
 class TemporaryCopies;
 class WindowSystem;
 
-/// Makes the parts of which there are several. A part's widget becomes a child of `parent`.
+/// Creates the parts of which the program needs several. A part's widget becomes a child of
+/// `parent`.
 class Components {
  public:
   virtual ~Components() = default;
@@ -35,20 +36,21 @@ class Components {
   virtual std::unique_ptr<DatabaseConnection> CreateDatabaseConnection() = 0;
 };
 
-/// The environment, whole. Everything the logic asks of the world goes through it.
+/// All services of the environment. Only what composes others has the whole of it; a class takes
+/// the services that it uses.
 struct Platform {
   Files &files;
   Runtime &runtime;
   Dialogs &dialogs;
   Registry &registry;
   Components &components;
-  /// Null where windows are not to be styled.
+  /// Null where controls are not styled.
   WindowSystem *windows = nullptr;
   /// Null where unsaved changes are not journalled.
   Journals *journals = nullptr;
   /// Null where replaced versions are not kept.
   ReplacedVersions *replaced = nullptr;
-  /// Null where pages have no temporary copies: their text is handed on as it is.
+  /// Null where pages have no temporary copies: previews get the page's text instead of a file.
   TemporaryCopies *copies = nullptr;
   /// Null where files are not watched for changes by others.
   FileWatches *watches = nullptr;

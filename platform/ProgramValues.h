@@ -9,10 +9,10 @@
 
 namespace velor {
 
-/// The values that the whole program shares. One instance lives from start to end; it is handed to
-/// those who need it, so that tests have their own. Paths in logic form.
+/// The program-wide values, under their published names. There is one instance, owned by main; a
+/// class takes those values that it uses. Paths in logic form.
 struct ProgramValues {
-  /// The command-line text, captured first thing; nothing acts upon it.
+  /// The command line without the program's name, set first of all; nothing acts upon it.
   QString CommandLine;
   /// Full path of the catalogue database: a folder followed by "\eThumbs.mdb".
   QString DatabasePath;

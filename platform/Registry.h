@@ -7,7 +7,7 @@
 
 namespace velor {
 
-/// One stored value. Only text values count as settings; a value of any other type reads as absent.
+/// One stored value. A setting whose value is no text counts as missing.
 struct RegistryValue {
   enum class Type { Text, Other };
   Type type = Type::Text;
@@ -15,7 +15,7 @@ struct RegistryValue {
 };
 
 /// The per-user hierarchical store of named values under key paths such as
-/// "Software\Company\VelorCDMaker\option". No caching: every query sees what is stored now.
+/// "Software\Company\VelorCDMaker\option". Nothing is cached: Query returns what is stored now.
 class Registry {
  public:
   virtual ~Registry() = default;
@@ -23,10 +23,10 @@ class Registry {
   /// Creates the key and its missing parents. False when the value could not be stored.
   virtual bool SetText(const QString &keyPath, const QString &name, const QString &text) = 0;
 
-  /// Nothing when the key or the value is missing or cannot be read.
+  /// nullopt when the key or the value is missing or cannot be read.
   virtual std::optional<RegistryValue> Query(const QString &keyPath, const QString &name) const = 0;
 
-  /// Where a person finds the values of a key: the file's native path, or the store's own name.
+  /// Where people find the values of a key: the native path of a file, or the name of the store.
   virtual QString Location(const QString &keyPath) const = 0;
 };
 

@@ -6,14 +6,14 @@
 
 namespace velor {
 
-/// Where versions of files go that a save is about to replace although the page at hand did not
-/// come from them. The newest 200 are kept, each with the path it had and the time.
+/// Keeps versions of files that are about to be replaced by a page that was not loaded from them,
+/// since another program wrote them. The newest 200 are kept, each with its path and the time.
 class ReplacedVersions {
  public:
   virtual ~ReplacedVersions() = default;
 
-  /// Keeps what the file at `path` (logic form) held; on the disk when it returns. Answers where it
-  /// lies, as people read paths. Raises RuntimeError where it cannot be kept.
+  /// Stores `content` of the file at `path` (logic form) durably. Returns the native path of the
+  /// copy. Raises RuntimeError where it cannot be stored.
   virtual QString Keep(const QString &path, const QByteArray &content) = 0;
 };
 

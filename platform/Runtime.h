@@ -5,37 +5,37 @@
 
 namespace velor {
 
-/// What the running program may ask of the process it lives in.
+/// The process and the desktop that the program runs in.
 class Runtime {
  public:
   virtual ~Runtime() = default;
 
-  /// The arguments after the program's name, as one text. Captured, never acted upon.
+  /// The arguments after the program's name, as one text.
   virtual QString CommandLineText() const = 0;
 
   /// The program folder in logic form, without a trailing separator except at a root ("\").
   virtual QString ProgramFolder() const = 0;
 
-  /// Lets pending window events run once; user input is delivered too.
+  /// Processes the pending window events once, user input among them.
   virtual void ProcessPendingEvents() = 0;
 
   /// Ends the program at once: no window's close handler runs, nothing further is written.
   [[noreturn]] virtual void EndProgram(int exitStatus = 0) = 0;
 
-  /// The local clock, to the millisecond.
+  /// Seconds since local midnight, to the millisecond.
   virtual double SecondsSinceMidnight() const = 0;
 
-  /// Has the desktop do what its shell means by `operation` with a file or address, in a native
-  /// folder. RuntimeError where nothing could be started.
+  /// Runs the desktop's `operation` ("Open" ...) on a file or address, with `folder` (native) as
+  /// working folder. Raises RuntimeError where nothing could be started.
   virtual void ShellExecute(const QString &operation, const QString &target,
                             const QString &folder) = 0;
 
-  /// The busy pointer, nested calls counted; see BusyCursor.
+  /// Shows the busy pointer until RestoreCursor was called as often; see BusyCursor.
   virtual void ShowBusyCursor() = 0;
   virtual void RestoreCursor() = 0;
 };
 
-/// The busy pointer for the life of a scope.
+/// Shows the busy pointer during its lifetime.
 class BusyCursor {
  public:
   explicit BusyCursor(Runtime &runtime) : runtime_(runtime) { runtime_.ShowBusyCursor(); }

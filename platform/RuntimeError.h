@@ -8,9 +8,8 @@
 
 namespace velor {
 
-/// The error numbers that the program's operations return and report. They are the classic
-/// run-time numbers of desktop Basic, so that people find them in old manuals; published values,
-/// never renumbered.
+/// The error numbers that the program's operations return and report. They are published and never
+/// renumbered; most are the classic run-time numbers of desktop Basic, which old manuals list.
 enum class ErrorNumber : int {
   /// An object's own error 1049, as objects publish theirs.
   InvalidControl = -2147220455,
@@ -33,19 +32,19 @@ enum class ErrorNumber : int {
   ElementNotFound = 35601,
 };
 
-/// The one exception type. Nothing catches it on the way except where an operation is documented
-/// to return a number or to go on; one handler at the event boundary decides what a person sees.
+/// The program's one exception type. It is caught only where an operation is documented to return a
+/// number or to go on, and at the event boundary, which reports it to the person.
 class RuntimeError : public std::exception {
  public:
-  /// `source` names the operation or module, `description` the cause with the file it concerns.
+  /// `source` is the name of the failing operation or module; `description` says the cause and the
+  /// file.
   RuntimeError(ErrorNumber number, QString source, QString description);
 
-  /// `description` is Description() of the number, followed by `detail` when there is one.
+  /// The description is that of the number (Description below), followed by `detail` where given.
   static RuntimeError Of(ErrorNumber number, const QString &source, const QString &detail = {});
 
-  /// The error for a failed system call on `path`; `errnoValue` as the C library sets it
-  /// (ENOENT 53, ENOTDIR 76, EACCES and EPERM and EROFS 75 or 70, ENOSPC and EDQUOT 61, EIO 57
-  /// ...).
+  /// The error for a failed system call on `path`, its number by errno: ENOENT 53, ENOTDIR 76,
+  /// EACCES, EPERM and EROFS 75 or 70, ENOSPC and EDQUOT 61, EIO 57 ...
   static RuntimeError FromErrno(int errnoValue, const QString &source, const QString &path);
 
   ErrorNumber Number() const { return number_; }

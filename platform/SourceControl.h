@@ -12,22 +12,21 @@ class QWidget;
 
 namespace velor {
 
-/// Whether the person may type into a source control. A view accepts typing nowhere it matters:
-/// what it shows is a copy.
+/// What a source control is for: Edit changes the source; what is typed in a View is lost, for it
+/// shows a copy.
 enum class SourceAccess { View, Edit };
 
 enum class SearchDirection {
-  Here,  ///< forward from the selection's start: what is found already stays while it is typed on
+  Here,  ///< forward from the selection's start: a match stays selected while its text is typed
   Forward,
   Backward,
 };
 enum class LetterCase { Ignored, Matched };
 
-/// Whether lines longer than the control is wide go on below.
+/// Whether lines that are longer than the control is wide are wrapped.
 enum class LineWrap { Off, On };
 
-/// A control that shows HTML source as text. Text inside is Unicode with the line ends it was
-/// given.
+/// A control that shows HTML source as text, with the line ends of the text that was set.
 class SourceControl {
  public:
   virtual ~SourceControl() = default;
@@ -36,21 +35,21 @@ class SourceControl {
   virtual void SetFocus() = 0;
 
   virtual QString Text() const = 0;
-  /// Puts another text in; the undo history begins with it.
+  /// Replaces the text and empties the undo history.
   virtual void SetText(const QString &text) = 0;
-  /// Puts another text in the place of the one there, as one step of the undo history.
+  /// Replaces the text as one step of the undo history.
   virtual void ReplaceText(const QString &text) = 0;
 
-  /// Colour slots: 1 margin background, 26 line number background, 27 line number text; `color`
-  /// with red in the low byte. Other slots are ignored.
+  /// Sets a colour, red in the low byte. Slots: 1 margin background, 26 line number background, 27
+  /// line number text; others are ignored.
   virtual void SetColor(int slot, std::int32_t color) = 0;
 
   virtual QString SelectedText() const = 0;
-  /// Puts `text` in place of the selection.
+  /// Replaces the selection by `text`.
   virtual void ReplaceSelection(const QString &text) = 0;
 
-  /// Undo, redo, cut, copy, paste, delete or select all; other commands, and those that a view
-  /// refuses, do nothing.
+  /// Carries out Undo, Redo, Cut, Copy, Paste, Delete or SelectAll. Does nothing for other commands and
+  /// for those that a View refuses.
   virtual void Edit(EditingCommand command) = 0;
 
   /// Zero-based line and column of the caret, columns in UTF-16 units.
@@ -59,7 +58,7 @@ class SourceControl {
   virtual int LineLength(int line) const = 0;
   virtual void SetCaret(int line, int column) = 0;
   virtual void SetLineWrap(LineWrap wrap) = 0;
-  /// Brings the caret's line to about the middle of what is seen.
+  /// Scrolls the caret's line to about the middle of the view.
   virtual void CenterCaret() = 0;
 
   /// Called after the caret or the selection has changed, by a person or by the program.
@@ -71,10 +70,10 @@ class SourceControl {
   virtual int MarkedLine() const = 0;
   virtual void SetMarkedLine(int line) = 0;
 
-  /// Looks for `text` around the whole source, selects what it finds and brings it into sight.
-  /// False when it is nowhere, or empty; the selection then stays.
+  /// Searches for `text`, going on at the other end of the source; selects the match and scrolls it
+  /// into view. False, and the selection stays, without a match and for the empty text.
   virtual bool Find(const QString &text, SearchDirection direction, LetterCase letterCase) = 0;
-  /// Replaces every occurrence, as one undo step; answers how many there were.
+  /// Replaces every occurrence as one undo step; returns their number.
   virtual int ReplaceAll(const QString &text, const QString &replacement,
                          LetterCase letterCase) = 0;
 };

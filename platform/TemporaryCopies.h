@@ -6,29 +6,29 @@
 
 namespace velor {
 
-/// The temporary copies of a run's pages. Their names are made from the names of the pages, so that
-/// a person may have a file of such a name: a copy is written only where nothing is, or over what
-/// this run wrote and nobody has changed since, and only such a copy is removed. Paths in logic
+/// The temporary copies of a run's pages. Their names derive from the names of the pages, so that a
+/// person may have a file of that name. Therefore a copy is created only where no file is, and
+/// replaced or removed only where this run wrote it and nobody changed it since. Paths in logic
 /// form. Implementations: files/TemporaryCopyFiles.h, and a fake for tests; one contract suite runs
 /// against both.
 class TemporaryCopies {
  public:
   enum class Outcome {
     Written,
-    NoPlace,  ///< a file, link or folder of that name is not ours, or the folder takes no file
+    NoPlace,  ///< the name is taken by something not ours, or no file can be created in the folder
   };
 
   virtual ~TemporaryCopies() = default;
 
-  /// Creates the copy, or replaces its content. NoPlace leaves everything as it is. A new copy is
-  /// open to nobody to whom the file `page` is closed; `page` may be empty or missing. Raises
-  /// RuntimeError where the writing fails; no copy is there then.
+  /// Creates the copy or replaces its content; does nothing for NoPlace. A new copy is readable by
+  /// nobody who cannot read the file `page`, which may be empty or missing. Raises RuntimeError
+  /// where writing fails; there is no copy then.
   virtual Outcome Write(const QString &path, const QByteArray &content, const QString &page) = 0;
 
-  /// Removes the copy. What is not a copy of this run, or was changed since, stays. Never raises.
+  /// Removes the copy, unless it is not this run's or was changed since. Never raises.
   virtual void Remove(const QString &path) = 0;
 
-  /// Removes the copies of runs that ended without removing them. Never raises.
+  /// Removes unchanged copies of runs that ended without removing them. Never raises.
   virtual void RemoveAbandoned() = 0;
 };
 

@@ -5,13 +5,14 @@
 
 namespace velor {
 
-/// The one stretch by which a text differs from the one before it, in UTF-16 units. It never cuts a
-/// character in two, so that it can leave this process in any encoding.
+/// The difference of two texts as one replacement: `removed` units at `start` of the first text
+/// became `inserted` units of the second. UTF-16 units; surrogate pairs are never split.
 struct TextDifference {
   qsizetype start = 0;
   qsizetype removed = 0;
   qsizetype inserted = 0;
 
+  /// The shortest such replacement.
   static TextDifference Between(QStringView before, QStringView after);
 
   QStringView InsertedIn(QStringView after) const { return after.sliced(start, inserted); }

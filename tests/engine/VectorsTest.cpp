@@ -194,7 +194,7 @@ TEST_F(Vectors, DoNothingInARestoredPage) {
   editor_->LoadDocument(Write(QStringLiteral("page.htm"), WholePage()));
   PageMemory memory = editor_->Memory();
   memory.document.replace(QStringLiteral("text</p>"), QStringLiteral("text!</p>"));
-  editor_->Recall(memory);
+  editor_->Restore(memory);
   ASSERT_TRUE(DocumentHolds(QStringLiteral("text!</p>")));
   ExpectNothingHappened();
 }

@@ -149,8 +149,8 @@ PageMemory FakeEditingComponent::Memory() const {
   return {original_.bytes, base_, current_};
 }
 
-void FakeEditingComponent::Recall(const PageMemory &memory) {
-  Log(QStringLiteral("Recall(%1)").arg(memory.base));
+void FakeEditingComponent::Restore(const PageMemory &memory) {
+  Log(QStringLiteral("Restore(%1)").arg(memory.base));
   if (const auto failure = std::exchange(nextLoadFailure, std::nullopt)) throw *failure;
   Take({memory.original, DecodePage(memory.original), {}});
   base_ = memory.base;

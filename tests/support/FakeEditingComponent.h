@@ -76,7 +76,7 @@ class FakeEditingComponent final : public EditingComponent,
   QString TextToSave() override;
   PageMemory Memory() const override;
   bool IsIdle() const override { return isIdle; }
-  void Recall(const PageMemory &memory) override;
+  void Restore(const PageMemory &memory) override;
   QString Charset() const override;
   QString TextForm() const override { return InWords(original_.page.encoding); }
   bool HasByteOrderMark() const override { return original_.page.encoding.byteOrderMark; }
