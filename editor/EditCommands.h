@@ -17,8 +17,7 @@ struct EditCommand {
 };
 
 /// The ten formatting commands in toolbar order. The main window builds `tbrEdit` from this table
-/// and sends the command alone when a button is clicked; the page window refreshes the buttons in
-/// the same order.
+/// and sends the command when its button is clicked; the page window updates the buttons by it.
 inline constexpr std::array<EditCommand, 10> EditCommands{{
     {u"bold", u"Bold", EditingCommand::Bold},
     {u"italic", u"Italic", EditingCommand::Italic},

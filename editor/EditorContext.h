@@ -12,14 +12,16 @@ class PageSlots;
 struct Platform;
 class frmBrowser;
 
-/// What the page windows and the page-file operations share. Lives as long as the main window.
+/// Everything that page windows and the page-file operations of modWorkFlow share. Who opens or
+/// saves pages has all of it; others take the parts that they use. Lives as long as the main
+/// window.
 struct EditorContext {
   Platform &platform;
   MainWindow mainWindow;
   PageSlots &pages;
-  /// The one preview window, made on first use.
+  /// The one preview window; null until first use (PreviewWindow).
   QPointer<frmBrowser> preview;
-  /// Preferences whose bad value the person has been told of.
+  /// Names of preferences whose unusable value was reported already.
   QStringList toldSettings = {};
 };
 

@@ -7,8 +7,8 @@
 
 namespace velor {
 
-/// What a page last saw of a file, enough to tell whether it still is that. Times are not looked
-/// at: programs that copy set them, and a file touched without a change is the same.
+/// Path, size and hash of a file's content, by which a page recognises that its file was changed.
+/// File times are not compared: copying programs set them, and a touched file has not changed.
 struct FileTrace {
   QString path;  ///< logic form; empty before the page has met a file
   qsizetype size = 0;

@@ -18,33 +18,32 @@ enum class FrontView {
   Preview,
 };
 
-/// A child window as the main window sees it while it is in front.
+/// A child window, for the commands and displays of the main window while it is in front.
 class FrontWindow {
  public:
   virtual ~FrontWindow() = default;
   virtual FrontView View() const = 0;
-  /// The slot of the page that it shows; 0 for the preview of a text that no page holds.
+  /// The slot of the page that it shows; 0 for the preview of a text that is no page's.
   virtual int PageNumber() const = 0;
   /// Its name in titles and in the Window menu: the page's, and what is shown of it where that is
   /// not the page itself ("a.htm, HTML source").
   virtual QString ShownName() const = 0;
-  /// The page's file as people read paths; empty where it has none.
+  /// The page's file in the form for people (ForPeople); empty where it has none.
   virtual QString FilePath() const = 0;
-  /// Carries out a command on what is seen. One that the view has no use for does nothing.
+  /// Carries out a command on what it shows; one that does not apply to the view does nothing.
   virtual void Edit(EditingCommand command) = 0;
-  /// It has come to the front: shows in the bars what is true of it.
+  /// To be called when it has come to the front: updates the bars of the main window.
   virtual void OnActivated() = 0;
 };
 
-/// The name of a slot's page as its window has it now; the record's caption where the window has
-/// gone.
+/// The name of a slot's page: the title of its window, or the record's caption where that is gone.
 QString PageName(const EditorContext &context, int number);
 
-/// The file of a slot's page as people read paths; empty where it has none.
+/// The file of a slot's page in the form for people (ForPeople); empty where it has none.
 QString PagePath(const EditorContext &context, int number);
 
-/// Shows in the bars what is true of a page of which something else than the design view is in
-/// front: its tab, charset and line ends; nothing to format.
+/// Updates the bars for a page whose source or preview is in front: selects its tab, shows charset
+/// and line ends, and disables formatting.
 void ShowPageWithoutFormats(const EditorContext &context, int number);
 
 }  // namespace velor

@@ -24,19 +24,19 @@ class ChildWindows {
   virtual void Show(QWidget *window) = 0;
   /// Brings an adopted window to the front.
   virtual void Activate(QWidget *window) = 0;
-  /// Takes an adopted window out of sight until Show; its frame goes with it.
+  /// Hides an adopted window and its frame until Show.
   virtual void Hide(QWidget *window) = 0;
-  /// Lets go of an adopted window that is closing: its frame vanishes. The window deletes itself.
+  /// Removes the frame of an adopted window that is closing. The window deletes itself.
   virtual void Release(QWidget *window) = 0;
   /// The window in front; null when none is open.
   virtual QWidget *Current() const = 0;
 };
 
-/// What a tab tells of its page beside the caption.
+/// What a tab shows of its page in addition to the caption.
 struct TabState {
-  /// The page's file as people read paths; empty where it has none.
+  /// The page's file in the form for people (ForPeople); empty where it has none.
   QString path;
-  /// The page, or its source editor, holds what no file has.
+  /// The page, or its source editor, has unsaved changes.
   bool hasChanges = false;
 };
 
@@ -58,10 +58,10 @@ class TabStrip {
 
 /// How a button of the editing toolbar looks.
 enum class ButtonState {
-  Unsupported,  ///< off; that it is pressed, or not, stays
-  Off,
-  On,
-  Pressed,
+  Unsupported,  ///< disabled; whether it is pressed stays as it was
+  Off,          ///< disabled, not pressed
+  On,           ///< enabled, not pressed
+  Pressed,      ///< enabled and pressed
 };
 
 /// The editing toolbar `tbrEdit` and the formatting boxes. Each box is written only when its value
@@ -77,7 +77,7 @@ class FormatDisplay {
   virtual void ShowForeColor(const QString &htmlColor) = 0;
   virtual void ShowBlockFormat(const QString &name) = 0;
   virtual void ShowFontSize(const QString &points) = 0;
-  /// Nothing that can be formatted is in front: buttons and boxes are off and empty.
+  /// Disables the buttons and empties the boxes, since nothing that can be formatted is in front.
   virtual void ShowNothing() = 0;
 };
 
@@ -87,14 +87,15 @@ class StatusDisplay {
   virtual ~StatusDisplay() = default;
   /// The tag of the element under the caret.
   virtual void ShowTag(const QString &tag) = 0;
-  /// How the page's bytes stand for its text, beside the tag; empty without a page.
+  /// Encoding and line ends of the page (EditingComponent::TextForm); empty without a page.
   virtual void ShowTextForm(const QString &words) = 0;
-  /// A notice about what is in front. It gives way to the tag after ten seconds, and when another
+  /// Shows a notice about what is in front, in place of the tag, for ten seconds or until another
   /// page comes to the front.
   virtual void Report(const QString &message) = 0;
-  /// Likewise about a page that may not be in front yet. An empty text takes back the last notice.
+  /// As Report, about the page of that slot, which may not be in front yet. An empty text removes
+  /// the last notice.
   virtual void ReportOn(int page, const QString &message) = 0;
-  /// Whether a notice stands there now.
+  /// Whether a notice is shown now.
   virtual bool HasNotice() const = 0;
 };
 
@@ -102,24 +103,24 @@ class StatusDisplay {
 class CommandAvailability {
  public:
   virtual ~CommandAvailability() = default;
-  /// The Edit, Insert and Table menus and the toolbar buttons that need a page, together.
+  /// Enables or disables the Edit, Insert and Table menus and all toolbar buttons that need a page.
   virtual void SetPageCommandsEnabled(bool enabled) = 0;
-  /// The action that opens the source editor.
+  /// Enables or disables the action that opens the source editor.
   virtual void SetSourceEditingEnabled(bool enabled) = 0;
-  /// Brings all of it in step with the open pages and with what is in front.
+  /// Enables or disables all of it by the open pages and by what is in front.
   virtual void Refresh() = 0;
 };
 
-/// What a page window hands on because it concerns more than its page.
+/// Requests of a page window that concern more than its page.
 class PageRequests {
  public:
   virtual ~PageRequests() = default;
-  /// Pops up the context menu of the editing area.
+  /// Shows the context menu of the editing area.
   virtual void PopUpContextMenu(QPoint screenPosition) = 0;
   /// Files were dropped, paths in logic form: pages are opened, pictures go into `page` at its
   /// caret where there is one.
   virtual void TakeDroppedFiles(const QStringList &paths, frmMain *page) = 0;
-  /// Clears what the element tool box knows of the element under the caret.
+  /// Clears the element tool box's record of the element under the caret.
   virtual void ResetElementInspection() = 0;
 };
 

@@ -12,24 +12,25 @@ namespace velor {
 class frmMain;
 struct PageRecord;
 
-/// More pages than these are never open at once.
+/// The maximum number of open pages.
 inline constexpr int MostPages = 5;
 
+/// The number of page windows, be they without a tab.
 int OpenPageCount(EditorContext &context);
 
-/// Whether another page can be opened; tells the person when not.
+/// Whether another page can be opened; shows a message where not.
 bool HasRoom(EditorContext &context);
 
-/// Brings the page to the front that has this file, by whatever name the path calls it, and says
-/// so. False where no page has it.
+/// Activates the page that has this file (Files::IsSameFile) and reports that in the status bar.
+/// False where no page has it.
 bool ShowPageOfFile(EditorContext &context, const QString &path);
 
-/// The name under which the page is to be saved: its own file; for a page without one a name in
-/// `folder` made from the title in `html`, or where that says nothing from the page's caption.
+/// The full path to propose for saving a page: its own file; for a page without one a name in
+/// `folder`, made from the title in `html`, or from the page's caption where the title gives none.
 QString ProposedFile(const PageRecord &record, const QString &html, const QString &folder);
 
-/// Makes the shared file dialog hold ProposedFile of the page, so that what takes a name from the
-/// dialog takes this page's. A page without a file stays in the folder that was used last.
+/// Sets FileName of the shared file dialog to ProposedFile of the page, so that a save takes this
+/// page's name. For a page without a file the folder is the one that the dialog used last.
 void HoldNameInDialog(EditorContext &context, frmMain &page);
 
 }  // namespace velor

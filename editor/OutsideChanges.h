@@ -15,20 +15,21 @@ namespace velor {
 
 class frmMain;
 
-/// What other programs do to a page's file while the page is open. A page without unsaved changes
-/// is loaded again where it stands, as one step of its undo history. One with unsaved changes gets
-/// this bar, which offers its own text (the save keeps the other version), the file's text (the
-/// page's own is kept with the replaced versions, and Undo brings it back), or both side by side.
-/// Removal, return and permissions are told in the status bar. Hidden while there is nothing to
-/// decide.
+/// Watches a page's file for changes by other programs, and is the bar that asks about them. A page
+/// without unsaved changes is loaded again at its place, as one step of its undo history. For a
+/// page with unsaved changes the bar is shown. It offers to keep the page's text (a save then keeps
+/// the other version), to load the file (the page's text goes to the replaced versions, and Undo
+/// brings it back), or to compare both. Removal, return and permissions are reported in the status
+/// bar.
 class OutsideChanges final : public QFrame {
   Q_OBJECT
 
  public:
-  /// Both outlive it; `page` becomes its parent.
+  /// Both outlive it; `page` becomes its parent. Hidden at first.
   OutsideChanges(EditorContext &context, frmMain &page);
 
-  /// Follows this file from now on, in place of another. The page's trace says what it holds.
+  /// Watches this file (logic form) from now on, instead of the one before. PageSlots::Trace has
+  /// the content that the page knows.
   void Follow(const QString &path);
 
  protected:

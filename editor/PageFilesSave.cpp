@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Pages saved.
+// modWorkFlow: pages are saved.
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/OutsideChanges.h"

@@ -16,11 +16,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Between two keys of somebody who types on there is less than this.
+/// Longer than the time between two keys of somebody who types without a pause.
 constexpr std::chrono::milliseconds Pause = 150ms;
 /// With the component's own delay the journal is less than two seconds behind.
 constexpr std::chrono::milliseconds LongestDelay = 600ms;
-/// Nobody who paused this long waits for a key to show.
+/// After a pause this long no key press is pending.
 constexpr std::chrono::milliseconds Idle = 500ms;
 /// A journal that waits longer than this for the disk is synced at the next pause between keys,
 /// which comes about once a second.
@@ -62,7 +62,7 @@ void PageJournal::WriteBetweenKeys() {
   if (writing_.isActive()) Write();
   if (!sinceWrite_.isValid() || !sinceWrite_.hasExpired(LongestUnsynced.count())) return;
   sinceWrite_.invalidate();
-  Attempt([this] { journal_->Sync(); });
+  RunOrReport([this] { journal_->Sync(); });
 }
 
 bool PageJournal::Flush() {
@@ -134,7 +134,7 @@ bool PageJournal::KeepAtExit() {
   phase_ = Phase::KeptAtExit;
   compacting_.stop();
   if (!hasJournal_) return isWritten;
-  return Attempt([this] { journal_->Sync(); }) && isWritten;
+  return RunOrReport([this] { journal_->Sync(); }) && isWritten;
 }
 
 void PageJournal::CallOffExit() {
@@ -167,7 +167,7 @@ bool PageJournal::Write(RunEnd end) {
     Remove();
     return true;
   }
-  if (!Attempt([&] { journal_->Write(page); })) return false;
+  if (!RunOrReport([&] { journal_->Write(page); })) return false;
   if (!sinceWrite_.isValid()) sinceWrite_.start();
   hasJournal_ = true;
   written_ = page;
@@ -186,11 +186,11 @@ void PageJournal::CompactWhenIdle() {
 void PageJournal::Compact() {
   compacting_.stop();
   sinceWrite_.invalidate();
-  if (hasJournal_) Attempt([this] { journal_->Compact(); });
+  if (hasJournal_) RunOrReport([this] { journal_->Compact(); });
 }
 
 template <typename Step>
-bool PageJournal::Attempt(Step step) {
+bool PageJournal::RunOrReport(Step step) {
   try {
     step();
     failureTold_ = false;

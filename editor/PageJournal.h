@@ -14,44 +14,44 @@ class EditingComponent;
 class PageSlots;
 class StatusDisplay;
 
-/// Keeps a page's unsaved changes, and the text of its source editor that was not applied, in a
-/// journal while there are any. The journal is at most about a second behind what the component
-/// knows; it is written between two keys where there is a pause, and about once a second such a
-/// pause brings it to the disk. Does nothing where the platform has no journals. A failed write is
-/// told in the status bar.
+/// Keeps a page's unsaved changes, and the source that was typed and not applied, in a journal. A
+/// change is written about a second after EditingComponent::Memory has it, sooner in a pause
+/// between two keys; about once a second such a pause also syncs the journal. Does nothing without
+/// journals. A failed write is reported in the status bar.
 class PageJournal {
  public:
   /// All outlive it. `number` is the page's slot in `pages`. Without `journals` nothing is kept.
   PageJournal(Journals *journals, PageSlots &pages, StatusDisplay &status,
               EditingComponent &component, int number);
 
-  /// The component's Memory() may have changed.
+  /// To be called when the component's Memory() may have changed.
   void DocumentChanged();
-  /// The text of the page's source editor may have changed, or may have been applied.
+  /// To be called when the text of the page's source editor may have changed or been applied.
   void SourceChanged();
-  /// Writes now what is not written yet. False where the page has unsaved changes that no journal
-  /// holds.
+  /// Writes now what is not written yet. False where writing failed: the journal has not all
+  /// unsaved changes.
   bool Flush();
-  /// The page was loaded or saved: its present document needs no journal.
+  /// The page was loaded or saved: its present document counts as saved.
   void MarkSaved();
-  /// A save failed: the journal stays until one goes well, although the page counts as saved.
+  /// A save failed: the journal stays until a save succeeds, even where the document counts as
+  /// saved.
   void MarkSaveFailed();
-  /// The page counts as changed whatever it holds: nothing of it is in a file yet.
+  /// The page counts as changed, whatever its document is: nothing of it is in a file yet.
   void MarkUnsaved();
-  /// The person does not want the changes: the journal is deleted.
+  /// The person gave the changes up: deletes the journal.
   void Discard();
-  /// The page closes: what is in no file and was not given up stays, for the next start to offer.
+  /// The page closes. The journal of changes that are neither saved nor given up stays, and the
+  /// next start offers them.
   void PageCloses();
-  /// Whether the document differs from what was loaded or saved last, or given up.
+  /// Whether the document differs from the one last loaded, saved or given up.
   bool HasChanges() const;
-  /// Whether what the page holds is in its file or in the journal, which is written if need be.
+  /// Whether the page's content is in its file or in the journal, which is written now if needed.
   bool IsSafe();
 
-  /// The program is about to end with this page as it is: writes what Memory() knows of its unsaved
-  /// changes to the disk, marked as kept at exit, and follows the page no more. False as with
-  /// Flush.
+  /// The program is about to end with this page unsaved: writes and syncs the unsaved changes that
+  /// Memory() has, marked as kept at exit, and ignores later changes. False as with Flush.
   bool KeepAtExit();
-  /// The program goes on after KeepAtExit.
+  /// The program goes on after KeepAtExit: changes are written again.
   void CallOffExit();
 
  private:
@@ -61,15 +61,16 @@ class PageJournal {
   void Remove();
   void WriteSoon();
   bool Write(RunEnd end = RunEnd::Unforeseen);
-  /// Writes and syncs what is due. Called when no key is on its way to the screen.
+  /// Writes and syncs what is due. Called when no key press is pending.
   void WriteBetweenKeys();
   void CompactWhenIdle();
   void Compact();
-  /// False where the step failed, which the status bar tells once.
+  /// Runs a step on the journal. False where it raised RuntimeError; the first failure in a row is
+  /// reported in the status bar.
   template <typename Step>
-  bool Attempt(Step step);
+  bool RunOrReport(Step step);
 
-  /// Whether the journal still follows its page.
+  /// Whether changes of the page are still written.
   enum class Phase { Following, KeptAtExit, Closed };
 
   PageSlots &pages_;
@@ -77,7 +78,7 @@ class PageJournal {
   EditingComponent &component_;
   const int number_;
   std::unique_ptr<Journal> journal_;  ///< null without journals
-  std::optional<QString> saved_;      ///< the document that needs no journal; unset while loading
+  std::optional<QString> saved_;      ///< the document that counts as saved; unset while loading
   JournalledPage written_;            ///< what is in the journal
   Phase phase_ = Phase::Following;
   bool hasJournal_ = false;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The four modes of a page window, and the page as text.
+// frmMain: its four modes, and the page as text.
 #include "chrome/ToolBarButtons.h"
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"

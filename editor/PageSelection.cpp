@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the main window shows of the selection: buttons, boxes, status text, the link's target.
+// frmMain: what the main window shows of the selection (buttons, boxes, tag, a link's target).
 #include "editor/EditCommands.h"
 #include "editor/MainWindow.h"
 #include "editor/frmMain.h"

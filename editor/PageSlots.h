@@ -33,7 +33,8 @@ class PageSlots {
   const PageRecord &Record(int number) const;
   /// The file that the page was last loaded from or saved to, as it was then.
   FileTrace &Trace(int number);
-  /// A source that was typed and not applied, and that the page's own took the place of.
+  /// Source that was typed and not applied when the source editor was filled anew with the page's
+  /// own.
   std::optional<QString> &SetAsideSource(int number);
   /// The folder of the project that the page was opened from, in logic form; empty for none.
   QString &Site(int number);

@@ -5,10 +5,9 @@
 
 namespace velor {
 
-/// Writes the unsaved changes of all open pages, and source that was not applied, to their
-/// journals, marked as kept at exit, so that the next start offers them. Asks nothing where that
-/// succeeds. Where it fails for a page, asks whether to end all the same. False when the program is
-/// to go on.
+/// Keeps the unsaved changes of all open pages, and source that was not applied, for the next start
+/// (PageJournal::KeepAtExit). Where that fails for a page, asks whether to end all the same;
+/// otherwise asks nothing. False when the program is to go on.
 bool KeepPagesAtExit(EditorContext &context);
 
 }  // namespace velor

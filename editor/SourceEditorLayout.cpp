@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The parts of the source editor's window and where they lie.
+// frmCodeEditor: its controls and their layout.
 #include "chrome/HouseStyle.h"
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"

@@ -64,23 +64,23 @@ SourceFindBar::SourceFindBar(SourceControl &source, QWidget *parent)
 void SourceFindBar::Build() {
   QHBoxLayout *finding = MakeRow();
   findText_ = AddBox(*finding, "txtFind", QStringLiteral("Find"));
-  connect(findText_, &QLineEdit::textEdited, this, [this] { Look(SearchDirection::Here); });
+  connect(findText_, &QLineEdit::textEdited, this, [this] { Find(SearchDirection::Here); });
   connect(AddButton(*finding, "cmdPrevious", QStringLiteral("Previous"),
                     QStringLiteral("Find Previous (Shift+F3)")),
-          &QPushButton::clicked, this, [this] { Look(SearchDirection::Backward); });
+          &QPushButton::clicked, this, [this] { Find(SearchDirection::Backward); });
   connect(AddButton(*finding, "cmdNext", QStringLiteral("Next"), QStringLiteral("Find Next (F3)")),
-          &QPushButton::clicked, this, [this] { Look(SearchDirection::Forward); });
+          &QPushButton::clicked, this, [this] { Find(SearchDirection::Forward); });
   matchCase_ = new QCheckBox(QStringLiteral("Match Case"));
   matchCase_->setObjectName(QStringLiteral("chkCase"));
   matchCase_->setAccessibleName(matchCase_->text());
-  connect(matchCase_, &QCheckBox::toggled, this, [this] { Look(SearchDirection::Here); });
+  connect(matchCase_, &QCheckBox::toggled, this, [this] { Find(SearchDirection::Here); });
   finding->addWidget(matchCase_);
   result_ = new QLabel;
   result_->setObjectName(QStringLiteral("lblResult"));
   finding->addWidget(result_, 1);
   connect(AddButton(*finding, "cmdCloseFind", QStringLiteral("Close"),
                     QStringLiteral("Close (Escape)")),
-          &QPushButton::clicked, this, &SourceFindBar::PutAway);
+          &QPushButton::clicked, this, &SourceFindBar::CloseBar);
 
   QHBoxLayout *replacing = MakeRow();
   replacement_ = AddBox(*replacing, "txtReplace", QStringLiteral("Replace with"));
@@ -115,16 +115,16 @@ void SourceFindBar::FindOn(SearchDirection direction) {
   if (findText_->text().isEmpty()) {
     Open(Purpose::Find);
   } else {
-    Look(direction);
+    Find(direction);
   }
 }
 
-void SourceFindBar::PutAway() {
+void SourceFindBar::CloseBar() {
   hide();
   source_.SetFocus();
 }
 
-void SourceFindBar::Look(SearchDirection direction) {
+void SourceFindBar::Find(SearchDirection direction) {
   const QString wanted = findText_->text();
   const bool found = source_.Find(wanted, direction, ChosenCase());
   result_->setText(found || wanted.isEmpty() ? QString() : QStringLiteral("Not found"));
@@ -134,7 +134,7 @@ void SourceFindBar::ReplaceFound() {
   const auto rule = matchCase_->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive;
   if (source_.SelectedText().compare(findText_->text(), rule) == 0 && !findText_->text().isEmpty())
     source_.ReplaceSelection(replacement_->text());
-  Look(SearchDirection::Forward);
+  Find(SearchDirection::Forward);
 }
 
 void SourceFindBar::ReplaceEverywhere() {
@@ -150,14 +150,14 @@ void SourceFindBar::keyPressEvent(QKeyEvent *event) {
   const bool back = event->modifiers().testFlag(Qt::ShiftModifier);
   switch (event->key()) {
     case Qt::Key_Escape:
-      PutAway();
+      CloseBar();
       break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       if (replacement_->hasFocus()) {
         ReplaceFound();
       } else {
-        Look(back ? SearchDirection::Backward : SearchDirection::Forward);
+        Find(back ? SearchDirection::Backward : SearchDirection::Forward);
       }
       break;
     default:

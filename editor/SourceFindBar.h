@@ -11,8 +11,8 @@ class QLineEdit;
 
 namespace velor {
 
-/// The slim bar below a source control that finds and replaces in it: Enter and Shift+Enter find on
-/// and back, Escape puts it away and gives the focus back. Hidden until it is asked for.
+/// The bar below a source control that finds and replaces in it. Enter and Shift+Enter find the
+/// next and previous match, Escape closes the bar and returns the focus. Hidden at first.
 class SourceFindBar : public QWidget {
   Q_OBJECT
 
@@ -22,9 +22,10 @@ class SourceFindBar : public QWidget {
   /// `source` outlives the bar.
   SourceFindBar(SourceControl &source, QWidget *parent);
 
-  /// Shows the bar with the selected text, if it is of one line, ready to be typed over.
+  /// Shows the bar, with the boxes for replacing where `purpose` is Replace. The selected text, if
+  /// it is of one line, becomes the text to find; it is selected, so that typing replaces it.
   void Open(Purpose purpose);
-  /// Finds the next place in that direction; opens the bar where there is nothing to look for yet.
+  /// Finds the next match in that direction; opens the bar while there is no text to find.
   void FindOn(SearchDirection direction);
 
  protected:
@@ -32,8 +33,11 @@ class SourceFindBar : public QWidget {
 
  private:
   void Build();
-  void PutAway();
-  void Look(SearchDirection direction);
+  /// Hides the bar and focuses the source control.
+  void CloseBar();
+  /// Selects the next match, or shows that there is none.
+  void Find(SearchDirection direction);
+  /// Replaces the selected match and finds the next one.
   void ReplaceFound();
   void ReplaceEverywhere();
   LetterCase ChosenCase() const;

@@ -7,8 +7,8 @@ namespace velor {
 
 class Registry;
 
-/// The preference WrapSource ("True" unless it says otherwise): whether source views and source
-/// editors wrap long lines.
+/// The preference WrapSource (default "True"): whether source views and source editors wrap long
+/// lines.
 LineWrap ChosenLineWrap(const Registry &registry);
 void ChooseLineWrap(Registry &registry, LineWrap wrap);
 

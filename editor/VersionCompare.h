@@ -8,7 +8,7 @@
 
 namespace velor {
 
-/// The lines of two texts that the other does not have, by number from 0.
+/// The lines by which two texts differ, by number from 0: those that the other text has not.
 struct LineDifferences {
   std::vector<int> left;
   std::vector<int> right;
@@ -16,12 +16,13 @@ struct LineDifferences {
   static LineDifferences Between(const QStringList &left, const QStringList &right);
 };
 
-/// Two versions of a page's source side by side, the lines that differ marked, scrolled together.
-/// Both are for reading and copying. Deletes itself when it closes.
+/// Shows two versions of a page's source side by side, read-only, scrolled together, with the lines
+/// marked that differ. Deletes itself when it closes.
 class VersionCompare final : public QDialog {
   Q_OBJECT
 
  public:
+  /// `name` is the page's, for the window's title; `mine` is shown at the left.
   VersionCompare(const QString &name, const QString &mine, const QString &theirs, QWidget *parent);
 };
 

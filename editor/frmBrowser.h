@@ -20,21 +20,22 @@ class QToolBar;
 
 namespace velor {
 
-/// The share of a load that is done, as the preview shows it: whole percent modulo 100, so that a
-/// completed load reads 0; 0 too where it cannot be computed in 32 bits.
+/// The progress of a load in whole percent modulo 100, so that a completed load is 0. 0 where
+/// `maximum` is 0 or the computation leaves 32 bits.
 int ProgressPercent(std::int32_t progress, std::int32_t maximum);
 
-/// Where the browser lies in a window of that inner size: all of it between toolbar and status bar.
-/// None where the window is too low for the bars: the browser then stays where it was.
+/// The browser's place in a window of that inner size: all between toolbar and status bar. nullopt
+/// where the window is too low for the bars; the browser keeps its place then.
 std::optional<QRect> BrowserPlace(QSize inner, int toolBarHeight, int statusBarHeight);
 
 class frmBrowser;
 
-/// The one preview window; made, as a child of the main window, when there is none.
+/// The one preview window (EditorContext::preview); created as a child of the main window when
+/// there is none.
 frmBrowser &PreviewWindow(EditorContext &context);
 
-/// The preview: a page as a web browser shows it. Made on first use and then kept; closing hides
-/// it.
+/// The preview: shows a page as a web browser does. Created on first use; closing only hides it,
+/// unless MarkKill was called.
 class frmBrowser : public QWidget,
                    public ProgramWindow,
                    public FrontWindow,
@@ -54,7 +55,7 @@ class frmBrowser : public QWidget,
   /// Carries out a toolbar button: "Back", "Forward", "Refresh", "Stop"; other keys do nothing.
   void ButtonClicked(const QString &key);
 
-  /// Takes the slot of the page that is shown from now on; 0 for a text that no page holds.
+  /// Sets the slot of the page that is shown from now on; 0 for a text that is no page's.
   void SetPage(int number) { page_ = number; }
 
   // FrontWindow
@@ -62,7 +63,7 @@ class frmBrowser : public QWidget,
   int PageNumber() const override { return page_; }
   QString ShownName() const override;
   QString FilePath() const override { return PagePath(context_, page_); }
-  /// What is looked at here is not edited.
+  /// Does nothing: the preview is not edited.
   void Edit(EditingCommand) override {}
   void OnActivated() override;
 

@@ -59,7 +59,7 @@ frmCodeEditor::frmCodeEditor(EditorContext &context, int number)
   code_->SetMarkedLine(0);
   code_->SetLineWrap(ChosenLineWrap(context_.platform.registry));
   code_->SetSelectionListener([this] { SelectionChanged(); });
-  code_->SetTextListener([this] { TellJournal(); });
+  code_->SetTextListener([this] { UpdateJournal(); });
 }
 
 std::optional<QString> frmCodeEditor::UnappliedText() const {
@@ -68,7 +68,7 @@ std::optional<QString> frmCodeEditor::UnappliedText() const {
   return text == AppliedText ? std::nullopt : std::optional(text);
 }
 
-void frmCodeEditor::TellJournal() {
+void frmCodeEditor::UpdateJournal() {
   frmMain *page = context_.pages.Page(number_);
   if (page == nullptr) return;
   page->Journal().SourceChanged();
@@ -148,7 +148,7 @@ std::int16_t frmCodeEditor::ApplyCode() {
     if (alive == nullptr) return 0;
     AppliedText = code_->Text();
     context_.pages.SetAsideSource(number_).reset();
-    TellJournal();
+    UpdateJournal();
     ReturnCaret();
     if (frmMain *window = context_.pages.Page(number_)) window->RefreshSourceView();
     return 0;

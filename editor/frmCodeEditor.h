@@ -37,14 +37,13 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   QString PendingAction;
 
   SourceControl &Code() { return *code_; }
-  /// The source that the page has not got: nothing while the editor is closed, or holds what was
-  /// applied.
+  /// Source not yet applied to the page; nullopt when the editor is closed or its text unchanged.
   std::optional<QString> UnappliedText() const;
 
-  /// Puts a source in, the caret at that place of it.
+  /// Sets the source, with an empty undo history, and puts the caret to that place.
   void Fill(const QString &source, const ElementPlaces &caret);
-  /// Puts the page's source in the place of `typed`, which was not applied: undo brings that back,
-  /// and the page's journal holds it until a source is applied or given up.
+  /// Replaces `typed`, which was not applied, by the page's source. Undo brings `typed` back, and
+  /// the page's journal keeps it until a source is applied or given up.
   void Refill(const QString &source, const ElementPlaces &caret, const QString &typed);
 
   /// Writes the source and a line break to the page's temporary copy, in the page's charset unless
@@ -54,8 +53,8 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   /// the text without one. A Tag that names no page raises SubscriptOutOfRange (9).
   std::int16_t ApplyCode();
 
-  /// `cmdApply`: ApplyCode, and a message where it fails. The keyboard is in the source after it,
-  /// the caret where it was. Whether the page has the source now.
+  /// The command of `cmdApply`: ApplyCode, with a message where it fails. The source control has
+  /// the focus afterwards, its caret where it was. Returns whether the page has the source now.
   bool Apply();
 
   // FrontWindow
@@ -74,7 +73,7 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
  private:
   enum class CloseDecision { Close, Keep };
 
-  /// The source in the control is a new one.
+  /// To be called after the control got another source.
   void SourceReplaced(const ElementPlaces &caret);
 
   // Layout (SourceEditorLayout.cpp)
@@ -85,17 +84,17 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
 
   void PopUpMenu(QPoint place);
   CloseDecision AskBeforeClosing();
-  /// Keeps the caret within its line and tells where it stands.
+  /// Keeps the caret within its line and shows its line and column.
   void SelectionChanged();
-  /// The page's journal keeps what is not applied.
-  void TellJournal();
-  /// Takes the page's caret along to the element that the source's caret was moved to.
+  /// Updates the page's journal and tab after the source changed or was applied.
+  void UpdateJournal();
+  /// Moves the page's caret to the place of the source's caret, where that was moved.
   void ReturnCaret();
 
   EditorContext &context_;
   const int number_;
   std::unique_ptr<SourceControl> code_;
-  SourceCaret filledCaret_;  ///< where the caret was put when the source was filled
+  SourceCaret filledCaret_;  ///< the caret as Fill or Refill left it
   QLabel *place_ = nullptr;
   QLabel *lineEnds_ = nullptr;
 };

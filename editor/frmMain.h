@@ -54,24 +54,26 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
 
   /// 1 design, 2 view HTML, 3 edit HTML, 4 preview; anything else does nothing.
   void ChangeMode(std::int32_t mode);
-  /// Opens the source editor on this page, or fills it anew.
+  /// Opens the source editor with this page's source. In an editor that is open already the source
+  /// is replaced (frmCodeEditor::Refill).
   void ShowEditor();
-  /// Opens the source editor with a source that the page has not got.
+  /// Opens the source editor with a source that is not applied to the page.
   void ReopenEditor(const QString &source);
-  /// Tells the element under the caret in the status bar and, for a link, its target in a tooltip.
+  /// Shows the tag of the element under the caret in the status bar and, for a link, its target in
+  /// a tooltip.
   void DynaLink();
   /// Shows the status of `command` on the editing toolbar's button of the command `button`.
   void EditBarCheck(EditingCommand button, EditingCommand command);
-  /// Brings the main window's formatting buttons and boxes in step with the selection.
+  /// Updates the main window's formatting buttons and boxes to the selection.
   void RefreshMfrm();
-  /// Gives this page's tab this window's caption.
+  /// Sets the caption of this page's tab to this window's.
   void UpdateTabCaption();
   /// Enables source editing unless the page is read-only.
   void CheckAcc();
   /// The element under the caret, or the selected object.
   HtmlElement GetActiveElement();
-  /// The page as HTML text, as a save would write it. Its temporary copy holds that text then,
-  /// where there is a place for one.
+  /// The page as HTML text, as a save would write it. Also writes it to the page's temporary copy;
+  /// a failure of that is ignored.
   QString CreatorHTML();
   /// A copy of the page's record.
   PageRecord GetPageRecord() const;
@@ -84,13 +86,13 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void Edit(EditingCommand command) override;
   void OnActivated() override;
 
-  /// Tells the page's tab where its file is and whether the page holds what no file has.
+  /// Updates the page's tab: the path of its file, and whether the page has unsaved changes.
   void ShowTab();
-  /// Shows the page's HTML anew where it is seen.
+  /// Reads the page's HTML again, where the source view shows it.
   void RefreshSourceView();
   void MarkKill() override;
 
-  /// The pointer's place in the page at the last mouse notice, in CSS pixels.
+  // The pointer's place in the page at the last mouse notice, in CSS pixels.
   int ClientX = 0;
   int ClientY = 0;
 
@@ -114,16 +116,17 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void ToggleSnapToGrid();
   void ShowDesign();
   void ViewHtml();
-  /// Marks the mode's button and brings the bars in step with the view, if the window is in front.
+  /// Checks the mode's button and, if the window is in front, updates the bars to the view.
   void ShowMode();
-  /// Brings the formatting bar and the status bar in step with the view.
+  /// Updates the formatting bar and the status bar to the view.
   void ShowState();
   bool IsInFront() const;
   void EditHtml();
   void Preview();
-  /// False where the page has no temporary copy with that text now.
+  /// Writes the text to the page's temporary copy; false where that fails or there is no place for
+  /// one.
   bool RenewTemporaryCopy(const QString &text, modWorkFlow::CopyEnd end);
-  /// Takes the page's caret to where the source view's was moved.
+  /// Moves the page's caret to the place of the source view's caret, where that was moved.
   void ReturnCaretFromSource();
 
   EditorContext &context_;
@@ -132,7 +135,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   std::unique_ptr<SourceControl> source_;
   PageJournal journal_;
   bool isReadOnlyTold_ = false;
-  SourceCaret shownCaret_;  ///< where the source view's caret was put
+  SourceCaret shownCaret_;  ///< the source view's caret as ViewHtml left it
   QToolBar *modeBar_ = nullptr;
   QStackedLayout *views_ = nullptr;
   OutsideChanges *outside_ = nullptr;

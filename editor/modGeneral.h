@@ -12,11 +12,10 @@ namespace velor::modGeneral {
 /// The file's whole content as text, decoded as pages are (page/text/PageEncoding.h).
 QString ReadWholeFile(const Files &files, const QString &path);
 
-/// A text as a page's bytes: in the charset that the text declares for itself, else as `page` was
-/// read.
+/// Encodes a page's text: in the charset that the text declares, else in that of `page`.
 QByteArray PageBytes(const QString &text, const PageEncoding &page);
 
-/// Creates or replaces the file: the text followed by a line break (CR LF), as PageBytes has it.
+/// Creates the file or replaces its content by PageBytes of the text followed by CR LF.
 void WriteTextFile(Files &files, const QString &path, const QString &text,
                    const PageEncoding &page);
 

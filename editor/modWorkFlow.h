@@ -8,7 +8,7 @@
 
 #include <cstdint>
 
-/// The life of a page as a file: made, opened, saved, closed. Paths in logic form.
+/// Page files: pages are made, opened, saved and closed. Paths in logic form.
 namespace velor {
 
 class FileDialog;
@@ -19,54 +19,55 @@ struct PageRecord;
 
 namespace modWorkFlow {
 
-/// The text every new page starts from: fourteen lines ended by CR LF, the last without.
+/// The text of a new page: fourteen lines separated by CR LF.
 const QString &NewPageTemplate();
 
-/// The document window of a slot; made, as a child of the main window, when the slot is empty.
+/// The document window of a slot; created as a child of the main window when the slot is empty.
 frmMain &PageWindow(EditorContext &context, int number);
 
-/// The source editor of a slot; made, with the slot's number in its Tag, when the slot is empty.
+/// The source editor of a slot; created, with the slot's number in its Tag, when the slot is empty.
 frmCodeEditor &SourceEditor(EditorContext &context, int number);
 
-/// Where the temporary copy of a page file goes; the empty text where the rule would name the file
-/// itself (a path without a single "."): a temporary copy is never the person's own file.
+/// The path of the temporary copy of a page file (modGeneral::TemporaryPath). Empty where that
+/// would be the file itself, whose path has no ".".
 QString TemporaryCopyOf(const QString &path);
 
-/// How the page of a slot was read: charset and byte order mark. The defaults for an empty slot.
+/// Charset and byte order mark of the page of a slot; the defaults for an empty slot.
 PageEncoding EncodingOf(const EditorContext &context, int number);
 
 /// What follows the text in a temporary copy.
 enum class CopyEnd { Nothing, LineBreak };
 
 /// Writes the text of a slot's page to its temporary copy, in the page's encoding. False where
-/// there is no place for one: no path, a folder that takes no file, or a file of that name that is
-/// not this run's copy. Raises RuntimeError where the writing fails.
+/// there is no place for one: TempPath is empty, or TemporaryCopies::Outcome::NoPlace. Raises
+/// RuntimeError where the writing fails.
 bool WriteTemporaryCopy(const EditorContext &context, int number, const QString &text, CopyEnd end);
 
-/// Makes a page from the template in a slot and a tab of its own.
+/// Makes a page from the template in a new slot with a tab.
 void NewPage(EditorContext &context);
 
-/// Opens a page file in a slot of its own and records it in the history. 1 when the file is
-/// read-only, else 0. A missing file is error 53 before anything is made.
+/// Opens a page file in a new slot and records it in the history. Returns 1 when the file is
+/// read-only, else 0. Raises FileNotFound (53) for a missing file, before a slot is made.
 std::int16_t OpenPage(EditorContext &context, const QString &path);
 
-/// Opens a page of a web-site project: no history, and its first Save asks for a name. A missing
-/// file is error 53 as above.
+/// Opens a page of a web-site project. It is not recorded in the history, and its first Save asks
+/// for a name. Raises 53 as OpenPage.
 void OpenProjectPage(EditorContext &context, const QString &path);
 
-/// Opens a page of an earlier run as it was left, with unsaved changes, in a slot of its own: a
-/// page that was never saved as a new one. A source that was not applied is in its source editor
-/// again. Whether it is in this run's journal now. Raises
-/// RuntimeError where it cannot be shown.
+/// Opens a page of an earlier run with its unsaved changes in a new slot; one that was never saved
+/// is a new page again. A source that was not applied is put into the source editor. Returns
+/// whether this run's journal has the page now. Raises RuntimeError where it cannot be shown.
 bool RestorePage(EditorContext &context, const JournalledPage &kept);
 
-/// Notes what a page's file holds before it is loaded.
+/// Sets the trace of a page (PageSlots::Trace) to the file's present content. Called before
+/// loading.
 void TraceFile(frmMain &window, const QString &path);
 
-/// Saves a page; a file that holds what the page did not come from is kept first, and the status
-/// bar says so. `record` is the slot's own and is brought up to date. A plain save (not SaveAs,
-/// and the page has a file) ignores errors, which the status bar tells; otherwise `dialog` asks for
-/// a name. 0 on success, 32755 when the dialog was cancelled, else the error number.
+/// Saves a page. A version of the file that the page did not come from is first kept with the
+/// replaced versions, which the status bar reports. `record` is the slot's own and is updated. With
+/// SaveAs, or for a page without a file, `dialog` asks for a name; returns 0 on success, 32755 when
+/// the dialog was cancelled, else the error number. A plain save returns 0 always; the status bar
+/// reports its failure.
 std::int32_t SavePage(EditorContext &context, frmMain &window, FileDialog &dialog,
                       PageRecord &record, bool SaveAs);
 
@@ -77,24 +78,23 @@ enum class SaveEnd {
   Failed,     ///< and was told so
 };
 
-/// Saves a page as its commands do, under the name that the page itself has: the shared dialog
-/// holds it before and afterwards. Offers another name for a page whose file is read-only. What
-/// keeps a page from being safe is told in a message, with the file and the reason.
+/// Saves a page as the Save and Save As commands do, with the shared file dialog set to the page's
+/// own name. Offers another name for a page whose file is read-only. A failure that leaves the page
+/// unsafe is shown in a message with the file and the reason.
 SaveEnd SaveAndTell(EditorContext &context, frmMain &window, SaveKind kind);
 
-/// Whether the document differs from its last load or save; outer white space and letter case do
-/// not count.
+/// Whether the document differs from its text at the last load or save, apart from outer white
+/// space and letter case.
 bool HasUnsavedChanges(const QString &savedHtml, const QString &documentHtml);
 
 enum class CloseDecision { Close, Keep };
 
-/// Asks what closing a page needs to ask: refuses while its source editor is open, offers to save
-/// unsaved changes. Without such changes nothing is asked where what the page holds is in its file
-/// or in the journal. A window marked "kill" closes unasked.
+/// Decides whether a page may close, and asks the person where needed: refuses while its source
+/// editor is open, offers to save unsaved changes. Without such changes nothing is asked as long as
+/// the page's content is in its file or in the journal. A window marked "kill" closes unasked.
 CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window);
 
-/// What remains after the decision to close: the temporary copy, the page's source editor and the
-/// tab go. Errors are ignored.
+/// Removes a closing page's temporary copy, source editor and tab. Errors are ignored.
 void CleanUpAfterPage(EditorContext &context, frmMain &window);
 
 }  // namespace modWorkFlow
