@@ -11,16 +11,17 @@
 #include <functional>
 
 /// Preferences and the recent-files history, as text values in the per-user store under
-/// Software\Company\VelorCDMaker. Nothing is cached: every read goes to the store. Failures are
-/// silent here: a write that fails leaves the old value, a read that fails gives the default.
+/// Software\Company\VelorCDMaker. Nothing is cached: every call reads the store. Failures are not
+/// reported: a write that fails leaves the old value, a read that fails returns the default.
 namespace velor::modSettingManager {
 
 inline constexpr const char16_t *ApplicationName = u"VelorCDMaker";
 inline constexpr const char16_t *OptionSection = u"option";
 inline constexpr const char16_t *HistorySection = u"history";
-/// The history is a ring of so many slots, numbered from 1.
+/// The number of slots of the history, a ring numbered from 1.
 inline constexpr int HistorySlots = 100;
 
+/// Stores a text under Software\Company\APPLICATION\SECTION.
 void SaveRegSetting(Registry &registry, const QString &applicationName, const QString &section,
                     const QString &valueName, const QString &value);
 
@@ -29,16 +30,16 @@ QString GetRegSetting(const Registry &registry, const QString &applicationName,
                       const QString &section, const QString &valueName,
                       const QString &defaultValue);
 
-/// A preference. Callers pass the default as text and convert the result themselves, or by the
-/// functions below.
+/// Stores and reads a preference as text. The functions below also convert what they read.
 void SetOption(Registry &registry, const QString &valueName, const QString &value);
 QString GetOption(const Registry &registry, const QString &valueName, const QString &defaultValue);
 
-/// Receives the conversion's error for a stored text that cannot be converted: the description
-/// names the setting, its text and the file.
+/// Called with the error when a stored text cannot be converted; its description names the setting,
+/// the text and the file.
 using FaultListener = std::function<void(const RuntimeError &)>;
 
-// A preference converted; the default counts after a fault.
+// Read a preference and convert it (CBool, CInt, CLng). Where that fails they call `tell` and
+// return the default's value.
 bool TruthOption(const Registry &registry, const QString &valueName, const QString &defaultValue,
                  const FaultListener &tell);
 std::int16_t IntegerOption(const Registry &registry, const QString &valueName,
@@ -46,18 +47,18 @@ std::int16_t IntegerOption(const Registry &registry, const QString &valueName,
 std::int32_t LongOption(const Registry &registry, const QString &valueName,
                         const QString &defaultValue, const FaultListener &tell);
 
-/// The error for a preference whose stored text says nothing, with the conversion's own number.
+/// The error for a preference whose stored text is unusable, with the number of `cause`.
 RuntimeError FaultOf(const Registry &registry, const QString &valueName,
                      const QString &defaultValue, const RuntimeError &cause);
 
-/// Records one opened file in the next slot of the ring; after slot 100 comes slot 1. `path` in
-/// logic form, written as people read paths. The same file twice fills two slots.
+/// Writes an opened file to the next slot of the ring, also when another slot has it already; slot
+/// 1 follows slot 100. `path` in logic form; it is stored in the form for people (ForPeople).
 void AddToHistory(Registry &registry, const QString &path);
 
 /// The recorded files in logic form, the latest first, each once.
 QStringList History(const Registry &registry);
 
-/// The text before the first NUL character, or all of it.
+/// The text up to the first NUL character; the whole text without one.
 QString CutAtNul(const QString &buffer);
 
 }  // namespace velor::modSettingManager

@@ -11,26 +11,24 @@ namespace velor {
 class Dialogs;
 class Runtime;
 
-/// The one place where errors end that nobody caught. It reports them (standard error, and a
-/// critical box unless $VELOR_NO_ERROR_BOX is set) and decides what becomes of the program:
-/// - anything that goes wrong during start-up, opening the database among it: the program ends with
-///   status 1;
-/// - later: the operation is abandoned and the program goes on, a file that cannot be written
-///   included, since pages are open then.
+/// The one handler of errors that nothing else caught. It reports them (standard error, and a
+/// critical message unless $VELOR_NO_ERROR_BOX is set) and decides how to go on:
+/// - during start-up, opening the database included, the program ends with status 1;
+/// - later only the failed operation ends, whatever the error is, since pages are open then.
 class EventBoundary {
  public:
   EventBoundary(Dialogs &dialogs, Runtime &runtime);
 
-  /// From now on no error ends the program.
+  /// Start-up is done: from now on no error ends the program.
   void StartUpDone() { phase_ = Phase::Running; }
 
-  /// From now on the windows are going, and what fails on the way no longer matters to anybody.
+  /// The windows are being closed for good: from now on errors are ignored.
   void ProgramEnds() { phase_ = Phase::Ending; }
 
-  /// Does what the policy says about an error that was caught.
+  /// Handles a caught error as described above.
   void Handle(const std::exception &error);
 
-  /// Runs start-up, or anything else from outside the event loop, inside the boundary.
+  /// Runs `action` (start-up, or anything outside the event loop) and handles its error.
   void Run(const std::function<void()> &action);
 
  private:
@@ -44,13 +42,13 @@ class EventBoundary {
   bool showsBox_ = false;
 };
 
-/// The application object: every event that is delivered passes the boundary. It is given the
-/// program's name alone, since the command line is not acted upon, the toolkit's switches included.
+/// The application object; it delivers every event within the boundary. Qt gets only the program's
+/// name of the command line, so that its own switches have no effect.
 class Application final : public QApplication {
  public:
   explicit Application(char **arguments);
 
-  /// Before this an error in an event goes through.
+  /// Without a boundary an error in an event is not caught.
   void SetBoundary(EventBoundary *boundary) { boundary_ = boundary; }
 
   bool notify(QObject *receiver, QEvent *event) override;

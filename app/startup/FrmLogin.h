@@ -11,8 +11,8 @@ namespace velor {
 
 class Components;
 
-/// A form that is loaded at start and never shown: it owns the dialog that asks for the database.
-/// It has no behaviour of its own.
+/// A form that is loaded at start and never shown. It owns the dialog that asks for the database
+/// and does nothing else.
 class FrmLogin : public QWidget {
   Q_OBJECT
 

@@ -7,21 +7,19 @@
 
 namespace velor {
 
-/// The two small files beside the program that say where the catalogue database and the image
-/// folder lie. Each holds one line: a path between double quotes, then CR LF; UTF-8, and the path
-/// in the form in which people know it (Paths.h, ForPeople).
-///
-/// `file` and the paths read and written are in logic form.
+/// The two files beside the program with the paths of the catalogue database and of the image
+/// folder. Each has one line: the path in the form for people (ForPeople) between double quotes,
+/// then CR LF; UTF-8. Arguments and results are in logic form.
 
-/// Replaces the file's whole content.
+/// Writes the path; a file that has it already is not written.
 void WriteLocation(Files &files, const QString &file, const QString &location);
 
-/// The first item of the first line: without its quotes when it is quoted, otherwise up to the
-/// first comma or the line's end, leading blanks dropped. Raises InputPastEnd (62) when the file is
+/// The path in the file: the FirstItem of its text. Raises InputPastEnd (62) when the file is
 /// empty.
 QString ReadLocation(const Files &files, const QString &file);
 
-/// ReadLocation's rule for a file's text.
+/// The first item of the first line: the text between its quotes when it is quoted, otherwise up to
+/// the first comma or the line's end, without leading blanks.
 QString FirstItem(QStringView text);
 
 }  // namespace velor

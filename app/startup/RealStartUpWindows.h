@@ -10,7 +10,7 @@
 
 namespace velor {
 
-/// The windows of the running program. FrmLogin lives as long as this object.
+/// The real windows of start-up. FrmLogin lives as long as this object.
 class RealStartUpWindows final : public StartUpWindows {
  public:
   /// `components` makes the database dialog; the image folder's picker is shown by `dialogs` and

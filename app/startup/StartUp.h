@@ -6,24 +6,22 @@
 
 namespace velor {
 
-/// The program's own windows as start-up needs them.
+/// The windows that start-up loads and shows.
 class StartUpWindows {
  public:
   virtual ~StartUpWindows() = default;
-  /// Loads the hidden form that owns the dialog for the database, and gives that dialog. The form
-  /// is never shown and stays loaded until the program ends.
+  /// Loads the hidden form FrmLogin and returns its dialog for the database.
   virtual FileDialog &LoadLogin() = 0;
-  /// Shows the folder picker with the image folder as its target; it leaves its answer in
-  /// ProgramValues::ImageFolderPath, the empty text when cancelled.
+  /// Shows the folder picker for the image folder. Its answer is then in
+  /// ProgramValues::ImageFolderPath, empty when cancelled.
   virtual void PickImageFolder() = 0;
   /// Makes and shows the main window.
   virtual void LoadMainWindow() = 0;
 };
 
-/// Settles what the rest of the program takes for granted, in this order: the command line, the
-/// hidden form, the database's place, the one connection to it, the image folder's place; then
-/// loads the main window. Asks where a path cannot be found and ends the program at once when the
-/// person declines. Catches nothing: whatever goes wrong here stops the program.
+/// Fills `values` and loads the windows, in this order: command line, hidden form, the database's
+/// path, the one connection to it, the image folder's path, main window. Asks for a path that
+/// cannot be found, and ends the program at once when the person declines. Catches no error.
 void StartUp(Platform &platform, ProgramValues &values, StartUpWindows &windows);
 
 }  // namespace velor
