@@ -186,7 +186,7 @@ void ColorPalette::DropDownFrom(const QWidget &anchor, const QColor &current) {
 void ColorPalette::keyPressEvent(QKeyEvent *event) {
   const auto at = std::find(fields_.begin(), fields_.end(), focusWidget());
   const auto count = static_cast<int>(fields_.size());
-  // "Custom..." stands behind the last row.
+  // "Custom..." comes after the last row.
   int place = at == fields_.end() ? count : static_cast<int>(at - fields_.begin());
   switch (event->key()) {
     case Qt::Key_Left:

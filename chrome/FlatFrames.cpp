@@ -25,7 +25,7 @@ PixelRect Shrunk(const PixelRect &rect) {
   return Grown(rect, -1);
 }
 
-/// A pen for the life of a scope: made, selected, deselected, deleted.
+/// A pen that is created and selected, and at the end of its scope deselected and deleted.
 class SelectedPen {
  public:
   SelectedPen(WindowSystem &windows, DeviceContext context, SystemColor color)
@@ -47,7 +47,7 @@ class SelectedPen {
   Pen before_;
 };
 
-/// A device context for the life of a scope.
+/// A device context that is given back at the end of its scope.
 class Canvas {
  public:
   Canvas(WindowSystem &windows, WindowHandle surface)
@@ -65,7 +65,7 @@ class Canvas {
   DeviceContext context_;
 };
 
-/// The drop-down button of a combo box in its state, `button` being what two frames left of it.
+/// Paints the drop-down button of a combo box; `button` is its area inside two outer frames.
 void PaintDropDown(Canvas &canvas, PixelRect button, FrameState state) {
   switch (state) {
     case FrameState::Idle:
@@ -184,7 +184,7 @@ void PaintScroll(WindowSystem &windows, WindowHandle control, FrameState state) 
   PixelRect left = area;
   PixelRect right = area;
   left.right = arrow;
-  // The two states differ by one pixel; that is how the frames have always looked.
+  // The published frames of the two states differ by this pixel.
   right.left = Sum(Sum(area.right, -arrow), active ? 1 : 2);
   for (const PixelRect &button : {left, right}) {
     canvas.Frame(button, Face, Face);

@@ -35,7 +35,7 @@ struct Drive {
   QString path;
 };
 
-/// Mounts that hold the system or nothing lasting rather than a person's files.
+/// Whether people keep files on the volume: false for mounts of the system and of temporary files.
 bool HoldsPersonalFiles(const QStorageInfo &volume) {
   static const QList<QByteArray> systemTypes = {"tmpfs",    "ramfs", "overlay", "squashfs",
                                                 "devtmpfs", "nsfs",  "efivarfs"};
@@ -59,7 +59,8 @@ std::vector<Drive> Drives() {
   return drives;
 }
 
-/// A line of text as wide as its window leaves room for: too long a path loses its middle.
+/// A label for a path, as wide as the window leaves room for; a longer path is elided in the
+/// middle.
 class PathLine final : public QLabel {
  public:
   PathLine() { setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); }
@@ -82,9 +83,9 @@ class PathLine final : public QLabel {
   QString whole_;
 };
 
-/// In the order of people: f2 before f10, letter case ignored.
+/// Sorts by name with numbers by value (f2 before f10), letter case ignored.
 void SortNaturally(QFileInfoList &folders) {
-  // The C locale knows no numbers within names.
+  // The C locale does not compare numbers in names by value.
   const QLocale locale;
   QCollator order(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
   order.setNumericMode(true);
@@ -99,8 +100,8 @@ QTreeWidgetItem *NewFolderItem(const QString &name, const QString &path) {
   item->setData(0, PathRole, path);
   item->setToolTip(0, PlainTip(path));
   item->setIcon(0, QApplication::style()->standardIcon(QStyle::SP_DirIcon));
-  // Whether there is something to open shows when it is opened: looking ahead would read every
-  // folder's folders.
+  // Whether the folder has subfolders is found out when it is expanded: to know it before would
+  // mean reading all subfolders.
   item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
   return item;
 }
@@ -124,7 +125,7 @@ FrmFld::FrmFld(PickedFolders results, QWidget *parent)
   folders_->setAccessibleName(QStringLiteral("Folder"));
   folders_->setHeaderHidden(true);
   folders_->setUniformRowHeights(true);
-  // As wide as its widest row, so that deep folders are reached by scrolling.
+  // As wide as the widest row, so that deep folders can be scrolled to.
   folders_->header()->setStretchLastSection(false);
   folders_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   folders_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -245,7 +246,7 @@ void FrmFld::SelectTypedPath(const QString &text) {
   if (isFolder) {
     const QSignalBlocker blocker(path_);
     SelectFolder(native);
-    // As it was typed, so that typing goes on.
+    // SelectFolder wrote the clean path: keep what is being typed.
     path_->setText(text);
   }
   ok_->setEnabled(isFolder && QDir::cleanPath(native) == SelectedFolder());

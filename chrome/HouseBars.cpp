@@ -11,14 +11,14 @@
 namespace velor {
 namespace {
 
-/// The line above the tab in front.
+/// Height of the line above the tab in front.
 constexpr int FrontLine = 2;
-/// The side of the signs on the buttons of page windows.
+/// Side of the signs on the buttons of page windows.
 constexpr int SignSize = 10;
 
 }  // namespace
 
-/// The field behind a flat button; nothing at rest.
+/// Background of a flat button; draws nothing in its normal state.
 void DrawToolField(const QStyleOption *option, QPainter *painter) {
   const bool enabled = option->state & QStyle::State_Enabled;
   const bool down = option->state & (QStyle::State_Sunken | QStyle::State_On);
@@ -53,8 +53,8 @@ void DrawToolBar(const QStyleOption *option, QPainter *painter, const QWidget *w
                     Hairline(option->palette));
 }
 
-/// A tab on top of its pages: the one in front is open towards them and carries a coloured line,
-/// the others are words alone.
+/// A tab above its pages. The one in front has no lower edge and a coloured line above; the others
+/// are only captions.
 void DrawTab(const QStyleOptionTab *tab, QPainter *painter) {
   const bool inFront = tab->state & QStyle::State_Selected;
   const bool enabled = tab->state & QStyle::State_Enabled;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Boxes and buttons, and what of them a flat painter leaves to the style.
+// Boxes and buttons, with and without a flat painter.
 #include "chrome/HouseDrawing.h"
 #include "chrome/HouseStyle.h"
 #include "chrome/Palette.h"
@@ -12,10 +12,10 @@
 namespace velor {
 namespace {
 
-/// What the flat painter's rings take of a combo box and of a button, on every side.
+/// Pixels that the flat painter's frames take on every side of a combo box and of a button.
 constexpr int ComboRings = 2;
 constexpr int ButtonRings = 3;
-/// The line below the text of a flat combo box that has the keyboard.
+/// Height of the line below the text of a flat combo box that has the focus.
 constexpr int FocusLine = 2;
 
 bool HasThinEdge(const QWidget *widget) {
@@ -23,7 +23,7 @@ bool HasThinEdge(const QWidget *widget) {
          (widget->property(ExtendedStyleProperty).toInt() & WindowBits::ExtendedStaticEdge) != 0;
 }
 
-/// The field and edge of boxes and push buttons; the edge tells the keyboard's place.
+/// Background and edge of boxes and push buttons; with the focus the edge is highlighted.
 void DrawBox(const QStyleOption *option, QPainter *painter, const QWidget *widget,
              const QColor &field) {
   const QPalette &palette = option->palette;
@@ -52,7 +52,7 @@ bool ShowsFocus(const QStyleOption *option) {
   return (option->state & QStyle::State_Enabled) && (option->state & QStyle::State_HasFocus);
 }
 
-/// A field that its flat painter frames; inside it the keyboard's place has a frame of its own.
+/// Background of a control with a flat painter; with the focus it has a frame inside the painter's.
 void DrawFlatField(const QStyleOption *option, QPainter *painter, const QColor &field, int rings,
                    const QColor &innerEdge) {
   painter->fillRect(option->rect, field);
@@ -75,7 +75,7 @@ void DrawComboArrow(const QStyleOptionComplex *option, QPainter *painter, const 
   painter->restore();
 }
 
-/// A combo box that its flat painter frames, with a button as wide as the painter has it.
+/// A combo box with a flat painter; its button is as wide as the painter frames it.
 void DrawFlatCombo(const QStyleOptionComplex *option, QPainter *painter, int buttonWidth) {
   const QRect inside = option->rect.adjusted(ComboRings, ComboRings, -ComboRings, -ComboRings);
   QRect button = inside;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Lists: their headers, the fields of their items, their scroll bars.
+// Lists: headers, backgrounds of items, scroll bars.
 #include "chrome/HouseDrawing.h"
 #include "chrome/Palette.h"
 
@@ -11,12 +11,12 @@
 namespace velor {
 namespace {
 
-/// Between a scroll bar's slider and its long edges.
+/// Pixels between a scroll bar's slider and the bar's long edges.
 constexpr int SliderInset = 4;
-/// How much of the line around a selected item shows.
+/// Opacity of the outline around a selected item.
 constexpr float FaintFocus = 0.35F;
 
-/// Darker than an edge: it is taken hold of.
+/// Colour of the slider, darker than an edge to be found with the mouse.
 QColor ScrollSlider(const QPalette &palette) {
   return palette.color(ShadeOf(palette) == Shade::Dark ? QPalette::Light : QPalette::Dark);
 }

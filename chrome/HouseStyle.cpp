@@ -15,14 +15,14 @@
 namespace velor {
 namespace {
 
-/// Room left and right of a tool button's picture and words, and of a push button's words.
+/// Pixels left and right of icon and caption of a tool button, and of the caption of a push button.
 constexpr int BesideToolLabel = 9;
 constexpr int BesideButtonText = 12;
-/// Between a group's title and its frame.
+/// Pixels between a group's title and its frame.
 constexpr int TitleSpace = 3;
-/// What a box's text stands back from its edge, beyond the toolkit's own distance.
+/// Pixels between a box's text and its edge, in addition to Fusion's.
 constexpr int TextInset = 3;
-/// The distance of texts in lists and their headers from the cell's edges.
+/// Pixels between the texts of lists and headers and the edges of their cells.
 constexpr int CellInset = 6;
 constexpr int RowHeight = 24;
 constexpr int HeaderHeight = 26;
@@ -41,7 +41,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
                                QPainter *painter, const QWidget *widget) const {
   switch (element) {
     case PE_PanelLineEdit:
-      // A box within a box (a combo box's, a spin box's) has no edge of its own.
+      // The text box inside a combo box or spin box has no edge of its own.
       if (const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
           frame && frame->lineWidth > 0) {
         DrawEntryBox(option, painter, widget);
@@ -257,9 +257,9 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption *option
 
 int HouseStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                           QStyleHintReturn *returnData) const {
-  // Words suffice on the buttons of a dialog.
+  // Dialog buttons have a caption and no icon.
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
-  // An open list shows maxVisibleItems rows and a scroll bar, not a menu as high as the screen.
+  // A drop-down list shows maxVisibleItems rows with a scroll bar, not all rows like a menu.
   if (hint == SH_ComboBox_Popup) return 0;
   return QProxyStyle::styleHint(hint, option, widget, returnData);
 }

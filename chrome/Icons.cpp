@@ -12,8 +12,8 @@
 namespace velor {
 namespace {
 
-/// The drawings name two colours: the line's own, and this one, which the palette's accent
-/// replaces.
+/// The second colour of the drawings, besides that of their lines; replaced by the palette's
+/// accent.
 constexpr const char *DrawnAccent = "#2f6fde";
 
 struct Inks {

@@ -25,10 +25,10 @@ constexpr int IconColumn = ItemSpace + MenuIconSize + ItemSpace;
 constexpr int ArrowColumn = 20;
 constexpr int ItemHeight = 28;
 constexpr int SeparatorHeight = 9;
-/// How much of the background picture a dark palette lets through.
+/// Opacity of the background picture on a dark palette.
 constexpr qreal DarkTint = 0.10;
 
-/// The picture's average colour over white paper.
+/// The picture's average colour on a white background.
 QColor Average(const QPixmap &picture) {
   QImage paper(picture.size(), QImage::Format_RGB32);
   paper.fill(Qt::white);
@@ -65,8 +65,8 @@ void DrawShortcutAndText(QPainter *painter, const QStyleOptionMenuItem *item, co
   }
 }
 
-/// The picture beside an item; in the text's colour where its own ink, made for the palette, would
-/// sink into the menu's field or highlight.
+/// The picture beside an item. It is drawn in the text's colour where its own, chosen for the
+/// palette, has too little contrast to the menu's background or highlight.
 void DrawIcon(QPainter *painter, const QIcon &icon, const QRect &place, QIcon::Mode mode,
               const QColor &text, const QPalette &palette) {
   QPixmap picture = icon.pixmap(place.size(), painter->device()->devicePixelRatio(), mode);
@@ -131,12 +131,12 @@ void MenuPictureSweep(QWidget &window, const ImageList &images, MenuPainter &pai
   }
 }
 
-/// Draws the menus that carry it, in the look it holds.
+/// Draws the menus that it is set on, in the look that it holds.
 class StyleMenuPainter::Style final : public QProxyStyle {
  public:
   const MenuLook &Look() const { return look_; }
 
-  /// The look, to be changed.
+  /// The look, for changes.
   MenuLook &ChangeLook() {
     shownFor_.reset();
     return look_;
@@ -206,7 +206,7 @@ class StyleMenuPainter::Style final : public QProxyStyle {
   }
 
  private:
-  /// The look on that palette, worked out once.
+  /// LegibleLook on that palette, computed once.
   const MenuLook &Shown(const QPalette &palette) const {
     if (shownFor_ != palette.cacheKey()) {
       shown_ = LegibleLook(look_, palette);

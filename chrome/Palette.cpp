@@ -113,7 +113,7 @@ QPalette PaletteFor(Shade shade) {
 }
 
 bool IsHighContrast(const QPalette &palette) {
-  // Ordinary palettes, the toolkit's own among them, stop short of this.
+  // The contrast of ordinary palettes, Qt's own among them, is lower.
   constexpr double Ordinary = 19.5;
   return Contrast(palette.color(QPalette::WindowText), palette.color(QPalette::Window)) > Ordinary;
 }

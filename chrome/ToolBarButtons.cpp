@@ -35,7 +35,7 @@ ToolBarAction *AddToolBarButton(QToolBar &bar, const QString &key, const QString
   action->setToolTip(tooltip);
   bar.addAction(action);
   QWidget *button = bar.widgetForAction(action);
-  // Tool buttons by themselves are passed over by Tab.
+  // By default Tab skips tool buttons.
   button->setFocusPolicy(Qt::TabFocus);
   button->setAccessibleName(caption);
   button->setProperty("key", key);

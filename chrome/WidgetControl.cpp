@@ -34,7 +34,7 @@ const KindOfWidget Kinds[] = {
     {&QProgressBar::staticMetaObject, u"ProgressBar"},
 };
 
-/// Whether the widget belongs to a control that is made of several.
+/// Whether the widget is a part of another control, such as the text box in a combo box.
 bool IsInnerPart(const QWidget &widget) {
   for (const QWidget *above = widget.parentWidget(); above; above = above->parentWidget()) {
     if (qobject_cast<const QComboBox *>(above) || qobject_cast<const QAbstractSpinBox *>(above)) {
@@ -54,7 +54,7 @@ bool IsBarOfItsOwn(const QScrollBar &bar) {
   return bar.orientation() == Qt::Horizontal;
 }
 
-/// Keeps a widget inwards of the place that its layout gives it.
+/// Keeps a widget smaller, by fixed margins, than the place that its layout gives it.
 class InwardsKeeper final : public QObject {
  public:
   InwardsKeeper(QWidget &widget, const QMargins &inwards)

@@ -11,7 +11,7 @@
 namespace velor {
 namespace {
 
-/// Pixels between an Edge control and its place before it was attached, on every side.
+/// Pixels by which an Edge control becomes smaller on every side when it is attached.
 constexpr std::int32_t EdgeRoom = 2;
 
 constexpr std::int32_t ControlMessages[] = {

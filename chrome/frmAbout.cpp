@@ -30,7 +30,7 @@ constexpr int Ridges = 5;
 constexpr int RidgeDistance = 2;
 constexpr int Margin = 24;
 
-/// Milliseconds from pass to pass: a little over a step, so that every pass makes one.
+/// Milliseconds between two passes: a little over StepSeconds, so that every pass takes a step.
 constexpr int PassPeriod = 52;
 
 const QString MailAddress = QStringLiteral("info@example.com");
@@ -47,7 +47,7 @@ QLabel *NewQuietLabel(const char *name, const QString &text) {
   return label;
 }
 
-/// A link in one piece: a click, Enter or Space follows it, Tab reaches it, and it shows that.
+/// A link as a control: Tab reaches it and it shows the focus; a click, Enter or Space follows it.
 class MailLink final : public QLabel {
  public:
   MailLink() : QLabel(MailAddress) {
@@ -91,7 +91,7 @@ class MailLink final : public QLabel {
 
 }  // namespace
 
-/// The picture area that the squares are drawn on.
+/// The widget that draws the squares of the animation.
 class frmAbout::Pattern final : public QWidget {
  public:
   explicit Pattern(const AboutAnimation &animation) : animation_(animation) {
@@ -216,7 +216,7 @@ void frmAbout::WriteTo(const QString &link) {
   try {
     runtime_.ShellExecute(QStringLiteral("Open"), link, QDir::currentPath());
   } catch (const std::exception &) {
-    // The address can be read; nothing more is promised.
+    // Without a mail program the address can still be read.
   }
 }
 

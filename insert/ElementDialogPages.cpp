@@ -21,7 +21,7 @@ using namespace FormParts;
 constexpr QSize PreviewBounds(320, 180);
 constexpr int ComfortableWidth = 600;
 
-/// "Botton" goes into pages as it stands and is never corrected.
+/// "Botton" is the published spelling and is written to pages like that.
 const QStringList Alignments = {
     QStringLiteral("Default"),   QStringLiteral("Left"),     QStringLiteral("Right"),
     QStringLiteral("Top"),       QStringLiteral("Texttop"),  QStringLiteral("Middle"),
@@ -44,7 +44,7 @@ void AddBookmarkList(QFormLayout *form, const QString &name, const QString &labe
   AddButton(form, MakeButton(refreshName, QStringLiteral("&Refresh")));
 }
 
-/// A page that holds two, "General" and "Appearance", filled by the callers.
+/// A page with two tabs, "General" and "Appearance", which the callers fill.
 struct HalvedPage {
   QWidget *whole = new QWidget;
   QVBoxLayout *general;
@@ -101,7 +101,7 @@ QWidget *frmInsertElement::BuildImagePage() {
   preview_->setFrameShape(QFrame::StyledPanel);
   preview_->setAlignment(Qt::AlignCenter);
   preview_->setMinimumSize(PreviewBounds);
-  // The frame follows the dialog, never the picture.
+  // The frame is resized with the dialog and does not grow with the picture.
   preview_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   page.general->addWidget(preview_, 1);
   previewCaption_ = new QLabel;

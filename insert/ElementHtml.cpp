@@ -29,12 +29,12 @@ void SetAttribute(HtmlElement &element, const QString &name, const QString &valu
   element.attributes.emplace_back(name, value);
 }
 
-/// Sets the attribute to the whole number that `text` stands for; without one it stays unset.
+/// Sets the attribute to CLng of `text`; leaves it out where the text is no number.
 void SetWholeNumber(HtmlElement &element, const QString &name, const QString &text) {
   try {
     SetAttribute(element, name, QString::number(CLng(text)));
   } catch (const RuntimeError &) {
-    // The other attributes are wanted all the same.
+    // Only this attribute is left out.
   }
 }
 

@@ -20,7 +20,7 @@ namespace {
 constexpr int Margin = 14;
 constexpr int Spacing = 10;
 constexpr int NumberWidth = 90;
-/// What a frame's own edge takes.
+/// Pixels that the edge of a frame takes.
 constexpr int FrameEdge = 3;
 
 void Arrange(QFormLayout &form) {
@@ -35,7 +35,7 @@ template <typename Row>
 void AddRow(QFormLayout *form, const QString &label, Row *row, QWidget *control) {
   auto *labelWidget = new QLabel(label);
   labelWidget->setBuddy(control);
-  // Forms align labels to the top of their row; as high as the box they stand in its middle.
+  // Forms align labels to the top of the row; a label as high as the box is centred beside it.
   labelWidget->setMinimumHeight(control->sizeHint().height());
   form->addRow(labelWidget, row);
 }
@@ -57,7 +57,7 @@ QVBoxLayout *MakePage(QWidget *page) {
 QFormLayout *AddForm(QVBoxLayout *page) {
   auto *form = new QFormLayout;
   Arrange(*form);
-  // As far in as the forms within frames are.
+  // The same indentation as forms within frames have.
   form->setContentsMargins(Margin + FrameEdge, 0, Margin + FrameEdge, 0);
   page->addLayout(form);
   return form;

@@ -12,12 +12,12 @@
 namespace velor {
 namespace {
 
-/// Bytes that a preview may take while it is decoded; more would keep the person waiting and come
-/// near the limit that the image reader sets itself.
+/// Maximum bytes of a picture decoded for its preview. More takes too long, and comes near the
+/// limit of QImageReader.
 constexpr qint64 LargestDecode = qint64{96} * 1024 * 1024;
 
-/// Whether a preview costs more than it is worth. JPEG alone is decoded at the wanted size; other
-/// formats go through every pixel.
+/// Whether decoding exceeds LargestDecode. Only JPEG is decoded at the wanted size, so it never
+/// does.
 bool IsTooLargeToPreview(const QImageReader &reader, QSize size) {
   if (reader.format() == "jpeg") return false;
   const bool known = reader.imageFormat() != QImage::Format_Invalid;

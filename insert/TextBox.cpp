@@ -11,7 +11,8 @@
 namespace velor {
 namespace {
 
-/// Whether the focus moves between controls, rather than between windows or to a menu and back.
+/// Whether the focus moves between controls, not with the window's activation or to a menu and
+/// back.
 bool MovesBetweenControls(const QFocusEvent &event) {
   return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::PopupFocusReason;
 }
@@ -38,7 +39,7 @@ void TextBox::focusOutEvent(QFocusEvent *event) {
 
 void TextBox::mouseReleaseEvent(QMouseEvent *event) {
   QLineEdit::mouseReleaseEvent(event);
-  // A drag has selected what the person wanted.
+  // A drag with the mouse has made a selection: keep it.
   if (std::exchange(selectOnRelease_, false) && !hasSelectedText()) SelectAllText(*this);
 }
 

@@ -17,14 +17,13 @@ namespace {
 
 constexpr int ComfortableWidth = 360;
 
-/// Takes any text; its list is filled anew, below the text that stands there, each time it drops
-/// down.
+/// Takes any text. Its list is filled again whenever it drops down, and the text stays.
 class AlignmentBox : public QComboBox {
  public:
   AlignmentBox() {
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
-    // What is typed goes into the page as it is, not as the list would complete it.
+    // The typed text is written to the page as it is: no completion from the list.
     setCompleter(nullptr);
     Refill();
   }

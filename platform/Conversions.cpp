@@ -24,10 +24,10 @@ constexpr bool IsBlank(QChar c) {
   return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r';
 }
 
-/// What a text starts with: a number, and how much of the text it took.
+/// The number at the start of a text, and the number of characters that it takes.
 struct Parsed {
   bool isNumber = false;
-  /// Written as &H or &O: a pattern of bits, whose sign depends on the width it is wanted in.
+  /// Written as &H or &O: its bits are taken as a signed number of the result's width.
   bool isBits = false;
   double value = 0;
   qsizetype length = 0;
@@ -89,7 +89,7 @@ Parsed ParseDecimal(QStringView text) {
       at = end;
     }
   }
-  // Not QByteArray::toDouble, which says 0 for a number that is too large.
+  // QByteArray::toDouble would return 0 for a number that is too large.
   const double value = QLocale::c().toDouble(QString::fromLatin1(number));
   return {.isNumber = true, .value = negative ? -value : value, .length = at};
 }
@@ -116,7 +116,7 @@ double Signed(double bits, int width) {
              : bits;
 }
 
-/// Ties to even, whatever rounding mode a library may have left behind.
+/// Rounds ties to even, independent of the rounding mode that a library may have set.
 double RoundToEven(double value) {
   const double floor = std::floor(value);
   const double fraction = value - floor;
@@ -186,7 +186,7 @@ double Val(QStringView text) {
   }
   const Parsed parsed = ParseStart(compact);
   if (parsed.isBits) return Signed(parsed.value, parsed.value < std::ldexp(1, 16) ? 16 : 32);
-  // The nearest number that there is, so that callers may go on calculating.
+  // The largest finite number instead of infinity, so that callers can calculate with it.
   constexpr double Largest = std::numeric_limits<double>::max();
   return std::clamp(parsed.value, -Largest, Largest);
 }

@@ -4,7 +4,7 @@
 namespace velor {
 
 const std::vector<BlockFormat> &BlockFormats() {
-  // Normal and Paragraph are one element; whoever looks an element up finds Normal, the first.
+  // Normal and Paragraph have the same element; a look-up by element finds Normal, the first.
   static const std::vector<BlockFormat> formats = {
       {"Normal", "P"},         {"Formatted", "PRE"},      {"Address", "ADDRESS"},
       {"Heading 1", "H1"},     {"Heading 2", "H2"},       {"Heading 3", "H3"},

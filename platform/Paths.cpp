@@ -13,20 +13,21 @@ namespace velor {
 
 namespace {
 
-/// Stands for a real backslash of a native name while "\" separates folders.
+/// Replaces a backslash of a native name in logic form, where "\" separates folders.
 constexpr char16_t BackslashInName = 0xF05C;
 
 bool NativeIsLogic() {
   return QDir::separator() == u'\\';
 }
 
-/// The map is a property of the machine, like its separator: no caller chooses it.
+/// Global, since the map is a property of the machine like its separator.
 DriveMap &Drives() {
   static DriveMap drives;
   return drives;
 }
 
-/// An existing path below `folder` for names[at] and on; at each level the exact name first.
+/// Finds an existing path below `folder` for the names from index `at` on; at each level the exact
+/// name is preferred.
 std::optional<QString> Find(const QString &folder, const QStringList &names, qsizetype at) {
   if (at == names.size()) return folder;
   const QString prefix = folder.isEmpty() || folder.endsWith(u'/') ? folder : folder + u'/';
@@ -72,8 +73,8 @@ QString ForPeople(const QString &path) {
 }
 
 QString FromPeople(const QString &text) {
-  // A text from the root is native, and its backslashes belong to names. In any other the
-  // separators are all that can be meant.
+  // A text that begins with "/" is native, and its backslashes belong to names. In any other text
+  // both are separators.
   if (text.startsWith(u'/')) return ToLogic(text);
   QString logic = text;
   return logic.replace(u'/', u'\\');

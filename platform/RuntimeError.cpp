@@ -38,7 +38,7 @@ constexpr Sentence Sentences[] = {
      "property."},
 };
 
-/// A system error that is not listed is a failed access.
+/// The number for an errno; PathFileAccess (75) for one that is not listed.
 ErrorNumber NumberForErrno(int errnoValue) {
   switch (errnoValue) {
     case ENOENT:

@@ -8,7 +8,7 @@ namespace velor {
 
 namespace {
 
-/// Compared at once; texts of many megabytes differ in few places.
+/// Units compared at once: texts of many megabytes differ in few places.
 constexpr qsizetype Block = 2048;
 
 bool IsSame(QStringView one, qsizetype oneAt, QStringView other, qsizetype otherAt) {

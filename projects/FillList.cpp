@@ -42,7 +42,7 @@ std::int16_t FillList(ListControl &list, RowTable &table, const QString &stateme
   const int offset = leadingColumn == LeadingColumn::Reserved ? 1 : 0;
   std::int16_t found = 0;
   try {
-    // Filled aside, so that a list that shows `table` never sees it half full.
+    // A table of its own is filled, so that a list that shows `table` never sees half of the rows.
     RowTable fresh(static_cast<int>(columnNames.size()) - 1 + offset);
     const auto records = connection.CreateRecordset();
     OpenRecordset(*records, statement, connection);
@@ -68,7 +68,7 @@ std::int16_t FillList(ListControl &list, RowTable &table, const QString &stateme
     table = std::move(fresh);
     Show(table, list);
   } catch (const RuntimeError &error) {
-    // Rows of another statement would be taken for this one's.
+    // Otherwise the rows of the last statement would remain and be taken for this one's.
     table = RowTable(static_cast<int>(columnNames.size()) - 1 + offset);
     Show(table, list);
     list.FillFailed(error.Description());

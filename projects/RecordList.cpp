@@ -13,7 +13,7 @@
 
 namespace velor {
 
-/// The table as the view reads it.
+/// The item model of a RowTable.
 class RowTableModel : public QAbstractTableModel {
  public:
   RowTableModel(QStringList headings, int nameColumn, QObject *parent)
@@ -39,7 +39,7 @@ class RowTableModel : public QAbstractTableModel {
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
     const QString text = TextOf(Value(index.row(), index.column()));
     if (text.isEmpty() && index.column() == nameColumn_) return QStringLiteral("(no name)");
-    // The tip shows what a narrow column cuts off.
+    // A text that a narrow column cuts off is shown whole as a tool tip.
     return role == Qt::ToolTipRole ? PlainTip(text) : text;
   }
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
@@ -51,13 +51,13 @@ class RowTableModel : public QAbstractTableModel {
   const QStringList headings_;
   const int nameColumn_;
   const RowTable *source_ = &table_;
-  /// As of the last Rebuild, so that the view does not depend on when the source changes or goes.
+  /// A copy made by the last Rebuild: the source may change or go before the view is told.
   RowTable table_;
 };
 
 namespace {
 
-/// Columns with room beside their texts.
+/// Draws the columns with room beside their texts.
 class RoomyDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;

@@ -36,7 +36,7 @@ QVariant NormalisedValue(const QVariant &value, ColumnType type) {
     case ColumnType::Boolean:
       return QVariant::fromValue(!value.isNull() && CBool(TextOf(value)) ? True16 : False16);
     default:
-      // Numbers need no way through their text; it would lead to the same number.
+      // Numbers are not converted to text and back: the result is the same.
       return IsNumberType(value) ? value.toDouble() : Val(TextOf(value));
   }
 }

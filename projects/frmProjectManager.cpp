@@ -143,7 +143,7 @@ void frmProjectManager::UpdateOpen() {
 }
 
 void frmProjectManager::ShowNote(const QString &text) {
-  // A failing statement stands behind the reason.
+  // The lines behind the first one have the failing statement.
   note_->setText(text.section(u'\n', 0, 0));
   note_->setVisible(!text.isEmpty());
 }
@@ -166,14 +166,15 @@ void frmProjectManager::OpenCurrentProject() {
   }
 
   hide();
-  // The tabs go before the documents: a page whose closing is called off stays open without one.
+  // Tabs are removed before the documents are closed: a page whose closing is cancelled stays open
+  // without a tab.
   host_.ClearTabs();
   host_.ClearPageChooser();
   FillPageChooser(projectId);
   for (int index = 1, count = host_.DocumentCount(); index <= count; ++index) {
     host_.UnloadDocument(index);
   }
-  // Read again, for a repair may have changed the folder.
+  // Read again, since a repair may have changed the folder.
   const Recordset &opened = Query(Statements::ProjectById(projectId));
   if (opened.RecordCount() > 0) {
     host_.OpenProjectPage(TextOf(opened.Value(PathColumn)) + QStringLiteral("\\Files\\Home.htm"));
@@ -201,7 +202,7 @@ QString frmProjectManager::FolderToWrite(const QString &folder, const QString &s
     if (answer != MessageAnswer::Yes) return {};
     host_.NameDrives(stored);
     if (IsSiteIn(stored)) return stored;
-    // By the drive it lies on now.
+    // The folder may be on a mapped drive now: take its path on that drive.
     chosen = ToLogic(ToNative(chosen));
   }
   return chosen;
