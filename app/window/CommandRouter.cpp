@@ -12,10 +12,10 @@
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
 #include "insert/modColor.h"
+#include "platform/Database.h"
 #include "platform/Dialogs.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
-#include "platform/ProgramValues.h"
 #include "platform/RuntimeError.h"
 
 #include <QAction>
@@ -43,9 +43,14 @@ bool HasEnding(const QString &path, const QStringList &endings) {
 
 }  // namespace
 
-CommandRouter::CommandRouter(EditorContext &context, ProgramValues &values, CommandHost &host,
-                             InsertCommands &insert, Additions additions)
-    : context_(context), values_(values), host_(host), insert_(insert), additions_(additions) {}
+CommandRouter::CommandRouter(EditorContext &context,
+                             const std::unique_ptr<DatabaseConnection> &catalogue,
+                             CommandHost &host, InsertCommands &insert, Additions additions)
+    : context_(context),
+      catalogue_(catalogue),
+      host_(host),
+      insert_(insert),
+      additions_(additions) {}
 
 frmMain *CommandRouter::ActiveDocument() {
   return dynamic_cast<frmMain *>(host_.Front());
@@ -231,10 +236,10 @@ void CommandRouter::SetBackColor(std::int32_t color) {
 
 void CommandRouter::OpenProjectPage(int pageId) {
   if (!HasRoom(context_)) return;
-  if (!values_.DbConnection) {
+  if (!catalogue_) {
     throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("CmbPages"));
   }
-  const auto page = projectPages_.Find(pageId, *values_.DbConnection);
+  const auto page = projectPages_.Find(pageId, *catalogue_);
   if (!page || ShowPageOfFile(context_, ToLogic(FindIgnoringCase(page->path)))) return;
   modWorkFlow::OpenProjectPage(context_, page->path);
   context_.pages.Site(context_.pages.PageCount()) = page->folder;

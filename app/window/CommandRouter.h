@@ -11,6 +11,7 @@
 #include <QStringList>
 
 #include <cstdint>
+#include <memory>
 
 class QAction;
 
@@ -21,7 +22,6 @@ class InsertCommands;
 class frmMain;
 struct EditorContext;
 struct GeneralButton;
-struct ProgramValues;
 
 /// What the router asks of the window whose commands it carries out.
 class CommandHost {
@@ -43,8 +43,8 @@ class CommandHost {
 /// commands of the Edit menu act on what is in front, and saving and previewing on its page.
 class CommandRouter {
  public:
-  CommandRouter(EditorContext &context, ProgramValues &values, CommandHost &host,
-                InsertCommands &insert, Additions additions);
+  CommandRouter(EditorContext &context, const std::unique_ptr<DatabaseConnection> &catalogue,
+                CommandHost &host, InsertCommands &insert, Additions additions);
 
   void Run(const Command &command);
   /// Runs the button's command unless its guard item is disabled.
@@ -87,7 +87,7 @@ class CommandRouter {
   void SetColor(EditingCommand set, std::int32_t color);
 
   EditorContext &context_;
-  ProgramValues &values_;
+  const std::unique_ptr<DatabaseConnection> &catalogue_;
   CommandHost &host_;
   InsertCommands &insert_;
   const Additions additions_;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/DialogInsertCommands.h"
 
-#include "editor/EditorContext.h"
 #include "editor/MainWindow.h"
 #include "editor/frmMain.h"
 #include "insert/ElementHtml.h"
@@ -9,24 +8,19 @@
 #include "insert/frmDialog_Table.h"
 #include "insert/frmInsertElement.h"
 #include "platform/Dialogs.h"
-#include "platform/Platform.h"
-#include "platform/ProgramValues.h"
 
 namespace velor {
 
 void DialogInsertCommands::Element(const QString &mode, frmMain &page) {
   if (dialog_.isNull()) {
-    const Platform &platform = context_.platform;
-    dialog_ = new frmInsertElement(platform.runtime, platform.dialogs, platform.components, sweeps_,
-                                   page.window());
-    QObject::connect(dialog_, &frmInsertElement::Reported, dialog_, [this](const QString &message) {
-      context_.mainWindow.status.Report(message);
-    });
+    dialog_ = new frmInsertElement(runtime_, dialogs_, components_, sweeps_, page.window());
+    QObject::connect(dialog_, &frmInsertElement::Reported, dialog_,
+                     [this](const QString &message) { status_.Report(message); });
   }
   const PageRecord record = page.GetPageRecord();
   dialog_->PrepareInsert(mode, page.DHTML1().Document(),
                          record.HasFile != False16 ? record.Path : QString());
-  context_.platform.dialogs.RunModal(*dialog_);
+  dialogs_.RunModal(*dialog_);
 }
 
 void DialogInsertCommands::Image(frmMain &page) {
@@ -47,10 +41,10 @@ void DialogInsertCommands::Video(frmMain &page) {
 
 void DialogInsertCommands::Table(frmMain &page) {
   const QPointer<frmMain> alive = &page;
-  frmDialog_Table dialog(values_.HTMLString, page.window());
-  context_.platform.dialogs.RunModal(dialog);
+  frmDialog_Table dialog(html_, page.window());
+  dialogs_.RunModal(dialog);
   if (alive.isNull()) return;
-  page.DHTML1().Document().Selection().CreateRange()->PasteHTML(values_.HTMLString);
+  page.DHTML1().Document().Selection().CreateRange()->PasteHTML(html_);
 }
 
 void DialogInsertCommands::PictureFile(frmMain &page, const QString &path) {

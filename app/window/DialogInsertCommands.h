@@ -8,31 +8,44 @@
 
 namespace velor {
 
+class Components;
+class Dialogs;
+class Runtime;
+class StatusDisplay;
 class StylingSweeps;
 class frmInsertElement;
-struct EditorContext;
-struct ProgramValues;
 
-/// The insert commands by means of the element dialog, one for the whole run, and the table dialog,
-/// one for each showing. Both stand over the page's window.
+/// The insert commands by the element dialog, of which there is one for the whole run, and the
+/// table dialog, one for each showing. Their parent is the page's top-level window.
 class DialogInsertCommands final : public InsertCommands {
  public:
-  DialogInsertCommands(EditorContext &context, ProgramValues &values, StylingSweeps *sweeps)
-      : context_(context), values_(values), sweeps_(sweeps) {}
+  /// All outlive it. `html` is ProgramValues::HTMLString. Without `sweeps` the dialogs keep the
+  /// palette's own look.
+  DialogInsertCommands(Runtime &runtime, Dialogs &dialogs, Components &components,
+                       StatusDisplay &status, QString &html, StylingSweeps *sweeps)
+      : runtime_(runtime),
+        dialogs_(dialogs),
+        components_(components),
+        status_(status),
+        html_(html),
+        sweeps_(sweeps) {}
 
   void Image(frmMain &page) override;
   void Hyperlink(frmMain &page) override;
   void Target(frmMain &page) override;
   void Video(frmMain &page) override;
-  /// Pastes HTMLString at the selection once the dialog has closed, however it closed.
+  /// Pastes `html` at the selection once the dialog has closed, cancelled or not.
   void Table(frmMain &page) override;
   void PictureFile(frmMain &page, const QString &path) override;
 
  private:
   void Element(const QString &mode, frmMain &page);
 
-  EditorContext &context_;
-  ProgramValues &values_;
+  Runtime &runtime_;
+  Dialogs &dialogs_;
+  Components &components_;
+  StatusDisplay &status_;
+  QString &html_;
   StylingSweeps *sweeps_;
   QPointer<frmInsertElement> dialog_;
 };

@@ -104,10 +104,10 @@ FormattingBar::FormattingBar(QWidget *parent)
   for (QWidget *box : std::initializer_list<QWidget *>{blockFormat_, fontName_, fontSize_}) {
     row->addWidget(box);
   }
-  QToolBar *tbrEdit = BuildButtons();
+  QToolBar *buttonBar = BuildButtons();
   // One row for the eye: the colours close it.
-  AddColors(*tbrEdit);
-  row->addWidget(tbrEdit, 1);
+  AddColors(*buttonBar);
+  row->addWidget(buttonBar, 1);
   setTabOrder(blockFormat_, fontName_);
   setTabOrder(fontName_, fontSize_);
 

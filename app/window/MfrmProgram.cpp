@@ -24,6 +24,7 @@
 #include "platform/Dialogs.h"
 #include "platform/EditingComponent.h"
 #include "platform/Platform.h"
+#include "platform/ProgramValues.h"
 #include "platform/RuntimeError.h"
 #include "recovery/offers/RecoveryBar.h"
 
@@ -99,40 +100,45 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
       additions_(ReadAdditions(platform.registry)),
       menus_(
           BuildMenus(*this, additions_, [this](const Command &command) { router_.Run(command); })),
-      coolBar_(new CoolBar(this)),
-      FileTab(new PageTabs(this)),
-      FileTab2(new PageTabs(this)),
+      bandBar_(new CoolBar(this)),
+      pageTabs_(new PageTabs(this)),
+      secondTabs_(new PageTabs(this)),
       area_(new PageArea(additions_, this)),
-      Sta(new StatusLine(this)),
+      statusLine_(new StatusLine(this)),
       sourceEditing_(new QAction(this)),
-      commands_(menus_, *coolBar_, *area_, *FileTab, *sourceEditing_, additions_),
+      commands_(menus_, *bandBar_, *area_, *pageTabs_, *sourceEditing_, additions_),
       fileDialog_(platform.components.CreateFileDialog()),
       context_{platform,
                {.windows = *area_,
-                .tabs = *FileTab,
-                .formats = coolBar_->Formatting(),
-                .status = *Sta,
+                .tabs = *pageTabs_,
+                .formats = bandBar_->Formatting(),
+                .status = *statusLine_,
                 .commands = commands_,
                 .requests = *this,
                 .fileDialog = *fileDialog_},
                pages_,
                {}},
       sweeps_(SweepsOn(platform.windows)),
-      insert_(std::make_unique<DialogInsertCommands>(context_, values, sweeps_.get())),
-      router_(context_, values, *this, *insert_, additions_),
+      insert_(std::make_unique<DialogInsertCommands>(platform.runtime, platform.dialogs,
+                                                     platform.components, *statusLine_,
+                                                     values.HTMLString, sweeps_.get())),
+      router_(context_, values.DbConnection, *this, *insert_, additions_),
       menuPictures_(ProgramMenuPictures()),
-      PM(new StyleMenuPainter(this)),
-      CmbPages(new PageChooser(this)),
+      menuPainter_(new StyleMenuPainter(this)),
+      pageChooser_(new PageChooser(this)),
       recovery_(new RecoveryBar(context_, this)),
-      projects_(std::make_unique<ProjectDesk>(context_, values, *CmbPages, sweeps_.get())) {
+      projects_(std::make_unique<ProjectDesk>(
+          context_, values.DbConnection,
+          PickedFolders{values.ImageFolderPath, values.ProjectFolderResult}, *pageChooser_,
+          sweeps_.get())) {
   setObjectName(QStringLiteral("MfrmProgram"));
   setWindowTitle(QString::fromUtf16(ApplicationTitle));
   setWindowIcon(ProgramIcon());
   resize(FirstSize);
-  PM->setObjectName(QStringLiteral("PM"));
+  menuPainter_->setObjectName(QStringLiteral("PM"));
   sourceEditing_->setObjectName(QStringLiteral("mnuEditHTML"));
   BuildLayout();
-  setStatusBar(Sta);
+  setStatusBar(statusLine_);
   if (QMenu *recent = menus_.menus.value(QStringLiteral("mnuRecent"))) {
     new RecentFiles(
         *recent, platform.registry, [this](const QString &path) { router_.OpenRecentFile(path); },
@@ -153,7 +159,7 @@ void MfrmProgram::BuildLayout() {
   auto *column = new QVBoxLayout(center);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
-  column->addWidget(coolBar_);
+  column->addWidget(bandBar_);
   column->addWidget(BuildTabRow());
   column->addWidget(recovery_);
   column->addWidget(area_, 1);
@@ -161,25 +167,25 @@ void MfrmProgram::BuildLayout() {
 }
 
 QWidget *MfrmProgram::BuildTabRow() {
-  auto *picFileTab = new TabRow(*CmbPages, this);
-  picFileTab->setObjectName(QStringLiteral("picFileTab"));
-  FileTab->setObjectName(QStringLiteral("FileTab"));
-  FileTab->setAccessibleName(tr("Pages"));
-  FileTab2->setObjectName(QStringLiteral("FileTab2"));
-  FileTab2->hide();
-  CmbPages->setObjectName(QStringLiteral("CmbPages"));
-  CmbPages->setAccessibleName(tr("Project pages"));
-  CmbPages->setToolTip(tr("Project pages"));
-  CmbPages->view()->setMinimumWidth(ChooserWidth);
+  auto *tabRow = new TabRow(*pageChooser_, this);
+  tabRow->setObjectName(QStringLiteral("picFileTab"));
+  pageTabs_->setObjectName(QStringLiteral("FileTab"));
+  pageTabs_->setAccessibleName(tr("Pages"));
+  secondTabs_->setObjectName(QStringLiteral("FileTab2"));
+  secondTabs_->hide();
+  pageChooser_->setObjectName(QStringLiteral("CmbPages"));
+  pageChooser_->setAccessibleName(tr("Project pages"));
+  pageChooser_->setToolTip(tr("Project pages"));
+  pageChooser_->view()->setMinimumWidth(ChooserWidth);
 
-  auto *row = new QHBoxLayout(picFileTab);
+  auto *row = new QHBoxLayout(tabRow);
   row->setContentsMargins(BarMargin, BarMargin - BarSpacing, BarMargin, 0);
   row->setSpacing(BarMargin);
-  row->addWidget(FileTab, 1, Qt::AlignBottom);
-  row->addWidget(FileTab2);
-  row->addWidget(CmbPages, 0, Qt::AlignVCenter);
-  picFileTab->setMinimumHeight(BoxHeight + 2 * BarMargin);
-  return picFileTab;
+  row->addWidget(pageTabs_, 1, Qt::AlignBottom);
+  row->addWidget(secondTabs_);
+  row->addWidget(pageChooser_, 0, Qt::AlignVCenter);
+  tabRow->setMinimumHeight(BoxHeight + 2 * BarMargin);
+  return tabRow;
 }
 
 void MfrmProgram::Load() {
@@ -192,29 +198,29 @@ void MfrmProgram::Load() {
 }
 
 void MfrmProgram::InitialiseHiddenComponent() {
-  DE1 = platform_.components.CreateEditingComponent(this);
-  DE1->Widget()->setObjectName(QStringLiteral("DE1"));
-  DE1->Widget()->hide();
+  formatNames_ = platform_.components.CreateEditingComponent(this);
+  formatNames_->Widget()->setObjectName(QStringLiteral("DE1"));
+  formatNames_->Widget()->hide();
 }
 
 void MfrmProgram::InitialiseFontPicker() {
-  coolBar_->Formatting().InitialiseFonts();
+  bandBar_->Formatting().InitialiseFonts();
 }
 
 void MfrmProgram::CreateBlockFormatNames() {
-  coolBar_->Formatting().FillBlockFormats(DE1->BlockFormats());
+  bandBar_->Formatting().FillBlockFormats(formatNames_->BlockFormats());
 }
 
 void MfrmProgram::SetFontSizeList() {
-  coolBar_->Formatting().FillFontSizes();
+  bandBar_->Formatting().FillFontSizes();
 }
 
 void MfrmProgram::PrepareControlsAndMenus() {
   commands_.SetPageCommandsEnabled(false);
-  coolBar_->Formatting().ShowNothing();
-  StyleMainWindow(*this, sweeps_.get(), MenuImages(), *PM);
+  bandBar_->Formatting().ShowNothing();
+  StyleMainWindow(*this, sweeps_.get(), MenuImages(), *menuPainter_);
   try {
-    PrepareMenus(platform_.registry, menuPictures_, *PM,
+    PrepareMenus(platform_.registry, menuPictures_, *menuPainter_,
                  [this](int style) { MarkMenuStyle(style); });
   } catch (const RuntimeError &error) {
     // A preference that cannot be read does not keep the program from starting: it is reported from
@@ -233,9 +239,9 @@ void MfrmProgram::FinishPreparation() {
 }
 
 void MfrmProgram::ConnectBars() {
-  connect(coolBar_, &CoolBar::GeneralClicked, this,
+  connect(bandBar_, &CoolBar::GeneralClicked, this,
           [this](const GeneralButton &button) { router_.Click(button); });
-  FormattingBar *boxes = &coolBar_->Formatting();
+  FormattingBar *boxes = &bandBar_->Formatting();
   connect(boxes, &FormattingBar::CommandClicked, this, [this](EditingCommand command) {
     router_.Run({CommandId::Editing, command});
   });
@@ -249,9 +255,9 @@ void MfrmProgram::ConnectBars() {
           [this](std::int32_t color) { router_.SetForeColor(color); });
   connect(boxes, &FormattingBar::BackColorChanged, this,
           [this](std::int32_t color) { router_.SetBackColor(color); });
-  connect(FileTab, &PageTabs::PageChosen, this,
+  connect(pageTabs_, &PageTabs::PageChosen, this,
           [this](int number) { router_.ActivatePage(number); });
-  connect(CmbPages, &PageChooser::PageChosen, this,
+  connect(pageChooser_, &PageChooser::PageChosen, this,
           [this](std::int32_t pageId) { router_.OpenProjectPage(pageId); });
   connect(boxes, &FormattingBar::Done, area_, &PageArea::GiveKeyboard);
   connect(area_, &PageArea::FrontChanged, this, &MfrmProgram::ShowFront);
@@ -259,15 +265,15 @@ void MfrmProgram::ConnectBars() {
 
 void MfrmProgram::ShowFront() {
   FrontWindow *front = area_->Front();
-  Sta->PageCame(front == nullptr ? 0 : front->PageNumber());
+  statusLine_->PageCame(front == nullptr ? 0 : front->PageNumber());
   commands_.Refresh();
   if (front != nullptr) {
     front->OnActivated();
     return;
   }
-  coolBar_->Formatting().ShowNothing();
-  Sta->ShowTag({});
-  Sta->ShowTextForm({});
+  bandBar_->Formatting().ShowNothing();
+  statusLine_->ShowTag({});
+  statusLine_->ShowTextForm({});
 }
 
 void MfrmProgram::closeEvent(QCloseEvent *event) {
@@ -290,7 +296,7 @@ QAction &MfrmProgram::MenuItem(const Command &command) {
 }
 
 void MfrmProgram::ChooseMenuStyle(int index) {
-  velor::ChooseMenuStyle(index, platform_.registry, menuPictures_, *PM);
+  velor::ChooseMenuStyle(index, platform_.registry, menuPictures_, *menuPainter_);
   MarkMenuStyle(index);
 }
 

@@ -28,6 +28,7 @@ class RecoveryBar;
 class StatusLine;
 class StyleMenuPainter;
 class StylingSweeps;
+struct ProgramValues;
 
 /// The main window: menus, the band bar `CoolBar` with its two toolbars and the formatting boxes,
 /// the page tabs `FileTab` and the page chooser `CmbPages` on `picFileTab`, the area of the child
@@ -94,11 +95,11 @@ class MfrmProgram final : public QMainWindow,
   const Additions additions_;
   PageSlots pages_;
   Menus menus_;
-  CoolBar *coolBar_;
-  PageTabs *FileTab;
-  PageTabs *FileTab2;
+  CoolBar *bandBar_;
+  PageTabs *pageTabs_;
+  PageTabs *secondTabs_;
   PageArea *area_;
-  StatusLine *Sta;
+  StatusLine *statusLine_;
   QAction *sourceEditing_;
   CommandState commands_;
   std::unique_ptr<FileDialog> fileDialog_;
@@ -108,11 +109,11 @@ class MfrmProgram final : public QMainWindow,
   std::unique_ptr<InsertCommands> insert_;
   CommandRouter router_;
   MenuPictures menuPictures_;
-  StyleMenuPainter *PM;
-  PageChooser *CmbPages;
+  StyleMenuPainter *menuPainter_;
+  PageChooser *pageChooser_;
   RecoveryBar *recovery_;
   std::unique_ptr<ProjectDesk> projects_;
-  std::unique_ptr<EditingComponent> DE1;
+  std::unique_ptr<EditingComponent> formatNames_;
   bool isClosing_ = false;
   /// The element under the caret as the tool box knows it; empty where none is looked at.
   QString inspectedElement_;

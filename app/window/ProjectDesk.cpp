@@ -3,7 +3,6 @@
 
 #include "app/window/PageChooser.h"
 #include "chrome/FrmDrives.h"
-#include "chrome/FrmFld.h"
 #include "editor/EditorContext.h"
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
@@ -15,19 +14,23 @@
 #include "platform/DriveMap.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
-#include "platform/ProgramValues.h"
 #include "projects/frmProjectManager.h"
 
 namespace velor {
 
-ProjectDesk::ProjectDesk(EditorContext &context, ProgramValues &values, PageChooser &chooser,
-                         StylingSweeps *sweeps)
-    : context_(context), values_(values), chooser_(chooser), sweeps_(sweeps) {}
+ProjectDesk::ProjectDesk(EditorContext &context,
+                         const std::unique_ptr<DatabaseConnection> &catalogue,
+                         PickedFolders folders, PageChooser &chooser, StylingSweeps *sweeps)
+    : context_(context),
+      catalogue_(catalogue),
+      folders_(folders),
+      chooser_(chooser),
+      sweeps_(sweeps) {}
 
 void ProjectDesk::ShowProjectManager(QWidget &parent) {
   if (manager_.isNull()) {
     manager_ = new frmProjectManager(context_.platform.files, context_.platform.dialogs,
-                                     values_.DbConnection.get(), *this, sweeps_, &parent);
+                                     catalogue_.get(), *this, sweeps_, &parent);
   } else if (manager_->IsClosed()) {
     manager_->Reopen();
   }
@@ -35,8 +38,8 @@ void ProjectDesk::ShowProjectManager(QWidget &parent) {
 }
 
 void ProjectDesk::ReportCatalogueDefect() {
-  if (!values_.DbConnection) return;
-  const QString defect = values_.DbConnection->Defect();
+  if (!catalogue_) return;
+  const QString defect = catalogue_->Defect();
   if (!defect.isEmpty()) context_.mainWindow.status.Report(defect);
 }
 
@@ -66,11 +69,11 @@ void ProjectDesk::OpenProjectPage(const QString &path) {
 }
 
 QString ProjectDesk::PickProjectFolder(const QString &wanted) {
-  FrmFld picker({values_.ImageFolderPath, values_.ProjectFolderResult}, manager_);
+  FrmFld picker(folders_, manager_);
   picker.ForProject = true;
   if (!wanted.isEmpty() && !IsOnUnknownDrive(wanted)) picker.SelectFolder(ToNative(wanted));
   context_.platform.dialogs.RunModal(picker);
-  return values_.ProjectFolderResult;
+  return folders_.ProjectFolderResult;
 }
 
 void ProjectDesk::NameDrives(const QString &path) {

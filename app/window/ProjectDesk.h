@@ -1,31 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "chrome/FrmFld.h"
 #include "projects/ProjectHost.h"
 
 #include <QPointer>
+
+#include <memory>
 
 class QWidget;
 
 namespace velor {
 
+class DatabaseConnection;
 class PageChooser;
 class StylingSweeps;
 class frmProjectManager;
 struct EditorContext;
-struct ProgramValues;
 
-/// The main window as the project manager sees it, and the keeper of that window.
+/// Shows the project manager, keeps its window from one showing to the next, and is its
+/// ProjectHost.
 class ProjectDesk final : public ProjectHost {
  public:
-  ProjectDesk(EditorContext &context, ProgramValues &values, PageChooser &chooser,
-              StylingSweeps *sweeps);
+  /// All outlive it. `catalogue` may be null until the project manager is shown. The folder picker
+  /// answers in `folders`.
+  ProjectDesk(EditorContext &context, const std::unique_ptr<DatabaseConnection> &catalogue,
+              PickedFolders folders, PageChooser &chooser, StylingSweeps *sweeps);
 
-  /// Shows the project manager modally over `parent`: as it was left by opening a project, as a
-  /// fresh one after it was closed.
+  /// Shows the project manager modally over `parent`, in the state in which opening a project left
+  /// it; after it was closed, in that of a new one.
   void ShowProjectManager(QWidget &parent);
 
-  /// Tells in the status bar that the catalogue is not whole, where it is not.
+  /// Reports a damaged catalogue (DatabaseConnection::Defect) in the status bar.
   void ReportCatalogueDefect();
 
   void ClearTabs() override;
@@ -39,7 +45,8 @@ class ProjectDesk final : public ProjectHost {
 
  private:
   EditorContext &context_;
-  ProgramValues &values_;
+  const std::unique_ptr<DatabaseConnection> &catalogue_;
+  PickedFolders folders_;
   PageChooser &chooser_;
   StylingSweeps *sweeps_;
   QPointer<frmProjectManager> manager_;

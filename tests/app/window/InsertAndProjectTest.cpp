@@ -260,7 +260,8 @@ TEST_F(ProjectTest, AManagerHiddenByOpeningIsAsItWasAClosedOneIsReadAnew) {
 }
 
 TEST_F(ProjectTest, TheFolderPickerAnswersForTheProjectAndIsGoneAfterwards) {
-  ProjectDesk desk(window.Context(), values, Chooser(), nullptr);
+  ProjectDesk desk(window.Context(), values.DbConnection,
+                   {values.ImageFolderPath, values.ProjectFolderResult}, Chooser(), nullptr);
   values.ImageFolderPath = QStringLiteral("\\images");
   QPointer<QWidget> shown;
   for (const char *button : {"SSCommand1", "SSCommand2"}) {
