@@ -5,12 +5,12 @@ namespace velor {
 
 class Registry;
 
-/// Whether the program does what goes beyond its published behaviour. Rows of the menu and toolbar
-/// tables that do are marked with Reach::Beyond.
+/// Whether behaviour beyond the published one is on. Rows of the menu and toolbar tables that are
+/// beyond it have Reach::Beyond.
 enum class Additions { Off, On };
 
-/// What a menu, a menu item or a toolbar button belongs to. While additions are off, menus beyond
-/// the published ones are not there, and what goes beyond in published places has no effect.
+/// Whether a menu, menu item or toolbar button is published. While additions are off, menus beyond
+/// the published ones are not created, and items beyond them in published menus have no effect.
 enum class Reach { Published, Beyond };
 
 /// The preference PublishedOnly: "True" turns every addition off. Read at start.

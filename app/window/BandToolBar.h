@@ -10,11 +10,12 @@ class QWidget;
 
 namespace velor {
 
-/// An empty toolbar for the band bar; `label` is its name for assistive technology.
+/// Creates an empty toolbar for the band bar. `name` is its object name, `label` its name for
+/// assistive technology.
 QToolBar *NewBandToolBar(const char *name, const QString &label, QWidget *parent);
 
-/// Adds a button that carries the toolbar's name and the key as object name ("tbrEdit_bold"), and a
-/// separator behind it where a group of buttons ends.
+/// Appends a button whose object name is the toolbar's with the key ("tbrEdit_bold"), and a
+/// separator after the last button of a group.
 ToolBarAction *AddBandButton(QToolBar &bar, const QString &key, const QString &tooltip,
                              ButtonKind kind);
 

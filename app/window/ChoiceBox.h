@@ -6,8 +6,8 @@
 
 namespace velor {
 
-/// A list to choose from whose text may be one that is not in the list. Nothing is chosen without
-/// the list: a key on the closed box opens it, letters pick in it.
+/// A drop-down list that can show a text which is not among its entries. Entries are chosen only in
+/// the open list: a key on the closed box opens it, letters select in it.
 class ChoiceBox final : public QComboBox {
   Q_OBJECT
 
@@ -15,22 +15,22 @@ class ChoiceBox final : public QComboBox {
   explicit ChoiceBox(QWidget *parent);
 
   QString Text() const { return text_; }
-  /// Shows a text; tells nobody.
+  /// Shows a text without emitting Clicked.
   void ShowText(const QString &text);
 
   void hidePopup() override;
 
  Q_SIGNALS:
-  /// The person clicked an entry, the one already shown included.
+  /// The person chose an entry, be it the one already shown.
   void Clicked(const QString &text);
-  /// The person is done with the box: an entry was chosen, or Escape pressed.
+  /// The person chose an entry or pressed Escape: the focus can go back to the page.
   void Done();
 
  protected:
-  /// A text that is not in the list looks like one that is.
+  /// Draws a text that is not in the list like one that is.
   void paintEvent(QPaintEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
-  /// The wheel scrolls what lies under the box, if anything.
+  /// Passes the wheel on to what is under the box.
   void wheelEvent(QWheelEvent *event) override;
   bool eventFilter(QObject *watched, QEvent *event) override;
 

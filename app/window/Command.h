@@ -8,8 +8,7 @@
 
 namespace velor {
 
-/// What a menu item or toolbar button sets going. None is an item that stands in the menu and does
-/// nothing.
+/// What a menu item or toolbar button does. None: nothing.
 enum class CommandId {
   None,
   NewPage,

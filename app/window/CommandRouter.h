@@ -23,7 +23,7 @@ class frmMain;
 struct EditorContext;
 struct GeneralButton;
 
-/// What the router asks of the window whose commands it carries out.
+/// What the router needs of the window whose commands it carries out.
 class CommandHost {
  public:
   virtual ~CommandHost() = default;
@@ -37,49 +37,48 @@ class CommandHost {
   virtual void CloseProgram() = 0;
 };
 
-/// Where every command of the menus, toolbars and formatting boxes arrives. The main window edits
-/// nothing itself: editing goes to the active document's component, files to the page-file
-/// operations. A command that needs a document does nothing without one. With additions, the
-/// commands of the Edit menu act on what is in front, and saving and previewing on its page.
+/// Carries out the commands of menus, toolbars and formatting boxes: editing by the component of
+/// the active page window, files by modWorkFlow. A command that needs a page window does nothing
+/// without one. With additions, the commands of the Edit menu act on the window in front whatever
+/// it shows, and saving and previewing on its page.
 class CommandRouter {
  public:
   CommandRouter(EditorContext &context, const std::unique_ptr<DatabaseConnection> &catalogue,
                 CommandHost &host, InsertCommands &insert, Additions additions);
 
   void Run(const Command &command);
-  /// Runs the button's command unless its guard item is disabled.
+  /// Runs the button's command unless it has a guard (Guard::MenuItem) that is disabled.
   void Click(const GeneralButton &button);
 
-  // The formatting boxes: the command is sent only when the value differs from the page's.
+  // For the formatting boxes. The command is sent only when the value differs from the page's.
   void SetBlockFormat(const QString &name);
   void SetFontSize(const QString &points);
   void SetFontName(const QString &name);
-  /// Colours are sent without a comparison, and the keyboard goes back to the page.
+  /// Colours are always sent, and the page gets the focus.
   void SetForeColor(std::int32_t color);
   void SetBackColor(std::int32_t color);
 
-  /// An entry of the page chooser was chosen.
+  /// Opens the page with that identifier in the catalogue.
   void OpenProjectPage(int pageId);
-  /// A file of the list of those opened last was chosen; the path in logic form. Opens it, or
-  /// brings its page to the front; nothing while another load waits.
+  /// Opens a file of the list of recent files, or activates the page that has it. `path` in logic
+  /// form. Does nothing while another page is being opened.
   void OpenRecentFile(const QString &path);
-  /// Files were dropped, paths in logic form: pages open as far as there is room, whether the menu
-  /// item is enabled or not; pictures go to the caret of `page`.
+  /// Opens dropped pages as far as there is room, whether Open is enabled or not, and inserts
+  /// dropped pictures at the caret of `page`. Paths in logic form.
   void TakeDroppedFiles(const QStringList &paths, frmMain *page);
-  /// A page's tab was chosen: its window is activated, made first where the slot is empty.
+  /// Activates the page window of a slot; it is created first where the slot is empty.
   void ActivatePage(int number);
 
  private:
   void NewPage();
   void OpenPage();
-  /// Opens the file, or brings the page to the front that has it; the status bar says where that
-  /// fails.
+  /// Opens the file, or activates the page that has it. A failure is reported in the status bar.
   void OpenFile(const QString &path);
-  /// The shared dialog names the page that is active now.
+  /// HoldNameInDialog for the page that is active now.
   void HoldNameOfActivePage();
   void SavePage(modWorkFlow::SaveKind kind);
   void Preview();
-  /// The page window in front; null when something else is, or nothing.
+  /// The page window in front; null when the window in front is another one, or there is none.
   frmMain *ActiveDocument();
   void Edit(EditingCommand command);
   void Insert(void (InsertCommands::*insertion)(frmMain &));
@@ -92,7 +91,7 @@ class CommandRouter {
   InsertCommands &insert_;
   const Additions additions_;
   ProjectPageQuery projectPages_;
-  /// A load waits, and files may be dropped meanwhile.
+  /// While a load is waited for: files may be dropped meanwhile.
   bool isOpening_ = false;
 };
 

@@ -14,11 +14,11 @@ class CoolBar;
 class PageArea;
 struct Menus;
 
-/// Whether a command has something to act on where that view is in front.
+/// Whether a command applies to that view.
 bool ActsOn(const Command &command, FrontView front);
 
-/// Enables and disables the menus and toolbar buttons that need a page: the only place that does.
-/// They follow whether a page is open; with additions, also whether they act on what is in front.
+/// Enables and disables the menus and toolbar buttons that need a page; nothing else does. They are
+/// enabled while a page is open and, with additions, while they apply to the view in front.
 class CommandState final : public CommandAvailability {
  public:
   /// All outlive it. `sourceEditing` is the action that opens the source editor.

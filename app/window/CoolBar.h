@@ -24,10 +24,11 @@ class CoolBar final : public QWidget {
 
   FormattingBar &Formatting() { return *formatting_; }
 
-  /// Enables each button of `tbrGeneral` that needs a page as `isUsable` says of its command.
+  /// Enables each button of `tbrGeneral` that needs a page if `isUsable` is true for its command.
   void SetPageButtonsEnabled(const std::function<bool(const Command &)> &isUsable);
 
  Q_SIGNALS:
+  /// The person used a button of `tbrGeneral`.
   void GeneralClicked(const velor::GeneralButton &button);
 
  protected:

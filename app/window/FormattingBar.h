@@ -19,15 +19,15 @@ class ColorPicker;
 class FontPicker;
 class ToolBarAction;
 
-/// The row of the five formatting boxes and the editing toolbar `tbrEdit`. It shows the state of
-/// the text under the caret and tells what a person chooses.
+/// The five formatting boxes and the editing toolbar `tbrEdit`. It shows the formats at the caret
+/// and emits what the person chooses.
 class FormattingBar final : public QWidget, public FormatDisplay {
   Q_OBJECT
 
  public:
   explicit FormattingBar(QWidget *parent);
 
-  // Filling, while the window loads.
+  // Fill the lists of the boxes; called while the window loads.
   void InitialiseFonts();
   void FillBlockFormats(const QStringList &names);
   void FillFontSizes();
@@ -41,14 +41,14 @@ class FormattingBar final : public QWidget, public FormatDisplay {
   void ShowNothing() override;
 
  Q_SIGNALS:
-  /// A button of `tbrEdit` was clicked: the page says whether it is pressed, not the click.
+  /// A button of `tbrEdit` was clicked. It does not change until ShowButton.
   void CommandClicked(velor::EditingCommand command);
   void BlockFormatClicked(const QString &name);
   void FontSizeClicked(const QString &points);
   void FontNameChanged(const QString &name);
   void ForeColorChanged(std::int32_t color);
   void BackColorChanged(std::int32_t color);
-  /// The person is done with a box.
+  /// The person chose in a box or left it by Escape: the focus can go back to the page.
   void Done();
 
  private:

@@ -9,10 +9,10 @@
 
 namespace velor {
 
-/// What has to be there for a button to be enabled.
+/// What a button needs to be enabled.
 enum class Needs { Nothing, Page };
 
-/// Whether a click asks first if the menu item of the same command is enabled.
+/// MenuItem: a click does nothing while the menu item of the same command is disabled.
 enum class Guard { None, MenuItem };
 
 /// One button of `tbrGeneral`; its image has the key's name.

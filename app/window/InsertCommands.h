@@ -7,7 +7,7 @@ namespace velor {
 
 class frmMain;
 
-/// The commands that insert something into a page through a dialog of their own.
+/// The commands that insert an element at the caret of a page. All but PictureFile show a dialog.
 class InsertCommands {
  public:
   virtual ~InsertCommands() = default;
@@ -16,7 +16,8 @@ class InsertCommands {
   virtual void Target(frmMain &page) = 0;
   virtual void Video(frmMain &page) = 0;
   virtual void Table(frmMain &page) = 0;
-  /// A picture's file, without a dialog, linked as the dialog would. `path` in logic form.
+  /// Inserts the picture file without a dialog, with the link that the dialog would make. `path` in
+  /// logic form.
   virtual void PictureFile(frmMain &page, const QString &path) = 0;
 };
 

@@ -13,8 +13,9 @@ class LoadSteps {
   virtual void InitialiseFontPicker() = 0;
   virtual void CreateBlockFormatNames() = 0;
   virtual void SetFontSizeList() = 0;
-  /// Styling and menus.
+  /// Styles the controls and sets up the menu painter.
   virtual void PrepareControlsAndMenus() = 0;
+  /// Shows the window and returns without processing events.
   virtual void ShowWithoutWaiting() = 0;
   virtual void FinishPreparation() = 0;
 };

@@ -16,20 +16,20 @@ class QMenu;
 
 namespace velor {
 
-/// The menus made from the table.
+/// The menus and items that BuildMenus created.
 struct Menus {
-  /// Menus and popups by name.
+  /// Menus and pop-up menus by object name.
   QHash<QString, QMenu *> menus;
   /// Items by the command that they run.
   std::map<Command, QAction *> items;
 };
 
-/// Makes every menu of the table in `window`; an item chosen runs its command through `run`.
-/// Captions stand in the actions exactly as in the table; names are object names.
+/// Creates all menus of the table in `window`. A chosen item calls `run` with its command. Names of
+/// the table become object names; captions are taken unchanged.
 Menus BuildMenus(QMainWindow &window, Additions additions,
                  const std::function<void(const Command &)> &run);
 
-/// The pictures beside the items, under the items' names in lower case.
+/// The pictures beside the items; their keys are the items' object names in lower case.
 ImageList MenuImages();
 
 }  // namespace velor

@@ -13,24 +13,26 @@ class Registry;
 
 /// Where the menu painter's pictures come from.
 struct MenuPictures {
-  /// A picture of the window's menu image list, counted from 1; IndexOutOfBounds (35600) beyond it.
+  /// A picture of the window's menu image list by its number from 1. Raises IndexOutOfBounds
+  /// (35600) for any other number.
   std::function<QPixmap(int)> numbered;
-  /// A picture file as the settings name it; RuntimeError where it cannot be loaded.
+  /// A picture file by its path as the settings have it. Raises RuntimeError where it cannot be
+  /// loaded.
   std::function<QPixmap(const QString &)> file;
 };
 
-/// The pictures the program comes with, and files in whatever form Qt reads.
+/// The program's own pictures, and files of all formats that Qt reads.
 MenuPictures ProgramMenuPictures();
 
-/// Sets up the painter as the settings say: the background, then text, border, highlight and
-/// highlighted text colour. A picture file that cannot be loaded leaves the background as it was.
-/// For a setting that is no number, or names no picture, the default counts; when all is set, one
-/// error names every such setting and the file. `showStyle` is told the style that counts, 0 for a
-/// picture file.
+/// Sets up the painter by the settings: background, then text, border, highlight and highlighted
+/// text colour. A picture file that cannot be loaded leaves the background unchanged. A setting
+/// that is no number, or the number of no picture, is replaced by its default; after all is set,
+/// one RuntimeError with the names of all such settings is raised. `showStyle` is called with the
+/// number of the menu style, 0 for a picture file.
 void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPainter &painter,
                   const std::function<void(int style)> &showStyle);
 
-/// Stores the chosen style and shows its picture at once.
+/// Stores a menu style and sets its picture as the painter's background.
 void ChooseMenuStyle(int index, Registry &registry, const MenuPictures &pictures,
                      MenuPainter &painter);
 

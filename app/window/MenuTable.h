@@ -16,8 +16,8 @@ enum class MenuKind {
   Separator,
 };
 
-/// One row of the menu tree. Rows follow the order of display; a row lies in the menu `parent`
-/// names, which stands above it (none: the menu bar).
+/// One row of the menu tree, in the order of display. `parent` is the name of the menu that the row
+/// is in, an earlier row; null for the menu bar.
 struct MenuRow {
   const char *name;
   const char *caption;
@@ -25,14 +25,14 @@ struct MenuRow {
   const char *parent = nullptr;
   const char *shortcut = nullptr;
   Command command = {};
-  /// Tells items of one name apart; 0 where the name is the only one.
+  /// Number among the items of the same name; 0 where the name is unique.
   int index = 0;
-  /// Key of the picture beside the item; none where it has no picture.
+  /// Key of the picture beside the item; null for none.
   const char *picture = nullptr;
   Reach reach = Reach::Published;
 };
 
-/// The menus that can be used only while a page is open.
+/// The menus that are enabled only while a page is open.
 inline constexpr std::array<const char *, 3> PageMenus{"mnuEdit_Top", "mnuInsert", "mnuTable"};
 
 /// Every menu and item of the main window, the two popups included.

@@ -32,7 +32,8 @@ struct ProgramValues;
 
 /// The main window: menus, the band bar `CoolBar` with its two toolbars and the formatting boxes,
 /// the page tabs `FileTab` and the page chooser `CmbPages` on `picFileTab`, the area of the child
-/// windows and the status bar `Sta`. It arranges and shows; what its commands do is the router's.
+/// windows and the status bar `Sta`. It creates and connects these parts; CommandRouter carries out
+/// its commands.
 class MfrmProgram final : public QMainWindow,
                           private PageRequests,
                           private CommandHost,
@@ -44,16 +45,16 @@ class MfrmProgram final : public QMainWindow,
   MfrmProgram(Platform &platform, ProgramValues &values);
   ~MfrmProgram() override;
 
-  /// Prepares the window step by step and shows it.
+  /// Prepares the window in the order of LoadSteps and shows it.
   void Load();
 
   CommandRouter &Router() { return router_; }
   EditorContext &Context() { return context_; }
 
  Q_SIGNALS:
-  /// The window is about to go, and every other window with it, unasked.
+  /// The window is about to close, and all others with it, without a question.
   void Unloading();
-  /// The window has gone and every other window with it: the program is to end.
+  /// The window and all others are closed: the program is to end.
   void Unloaded();
 
  protected:
@@ -87,7 +88,7 @@ class MfrmProgram final : public QMainWindow,
   void BuildLayout();
   QWidget *BuildTabRow();
   void ConnectBars();
-  /// Brings bars and titles in step with the window that has come to the front.
+  /// Updates bars and titles for the window that has come to the front.
   void ShowFront();
   void MarkMenuStyle(int index);
 
@@ -104,7 +105,7 @@ class MfrmProgram final : public QMainWindow,
   CommandState commands_;
   std::unique_ptr<FileDialog> fileDialog_;
   EditorContext context_;
-  /// Null where windows are not to be styled.
+  /// Null where controls are not styled.
   std::unique_ptr<StylingSweeps> sweeps_;
   std::unique_ptr<InsertCommands> insert_;
   CommandRouter router_;
@@ -115,7 +116,7 @@ class MfrmProgram final : public QMainWindow,
   std::unique_ptr<ProjectDesk> projects_;
   std::unique_ptr<EditingComponent> formatNames_;
   bool isClosing_ = false;
-  /// The element under the caret as the tool box knows it; empty where none is looked at.
+  /// The element under the caret that the tool box shows; empty for none.
   QString inspectedElement_;
 };
 

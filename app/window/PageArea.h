@@ -16,8 +16,8 @@ namespace velor {
 
 class FrontWindow;
 
-/// Where the child windows live: page windows, source editors, the preview. While none is open, a
-/// hint stands there.
+/// The area of the child windows: page windows, source editors, the preview. While none is open it
+/// shows a hint.
 class PageArea final : public QMdiArea, public ChildWindows {
   Q_OBJECT
 
@@ -27,25 +27,26 @@ class PageArea final : public QMdiArea, public ChildWindows {
 
   void Adopt(QWidget *window) override;
   void Show(QWidget *window) override;
-  /// The keyboard goes with it, but stays with whoever walks along the tabs by keyboard.
+  /// Also moves the focus into the window, unless the person is choosing tabs by keyboard.
   void Activate(QWidget *window) override;
   void Hide(QWidget *window) override;
   void Release(QWidget *window) override;
 
   QWidget *Current() const override;
-  /// The window in front as commands see it; null when none is open.
+  /// The window in front; null when none is open.
   FrontWindow *Front() const;
   /// The open windows in the order in which they were adopted.
   QList<QWidget *> OpenWindows() const;
 
-  /// What titles and the Window menu call an open window; with its path where two share a name.
+  /// The name of an open window in titles and in the Window menu: FrontWindow::ShownName, with the
+  /// path where two windows have the same.
   QString NameOf(const QWidget *window) const;
 
-  /// Puts the keyboard into the window in front, where its caret is.
+  /// Moves the focus into the window in front.
   void GiveKeyboard();
 
  Q_SIGNALS:
-  /// Another window is in front, or none.
+  /// Another window has come to the front, or none is open any more.
   void FrontChanged();
 
  protected:
@@ -54,11 +55,11 @@ class PageArea final : public QMdiArea, public ChildWindows {
   bool eventFilter(QObject *watched, QEvent *event) override;
 
  private:
-  /// Brings the window used last to the front in place of one that is about to go. It goes only
-  /// then: the area hands on being maximised from the window in front to the next one.
+  /// Activates the window used last before `going`. Called before `going` is removed, since the
+  /// next window is maximised only if it is activated while the one in front still is.
   void ActivateInPlaceOf(QMdiSubWindow *going);
   void NoticeFront();
-  /// Gives each frame the name that its window shows.
+  /// Sets each frame's title to NameOf its window.
   void NameFrames();
 
   const Additions additions_;
@@ -66,8 +67,8 @@ class PageArea final : public QMdiArea, public ChildWindows {
   bool keepsKeyboard_ = false;  ///< somebody walks along the tabs by keyboard
 };
 
-/// Lists the area's open windows at the end of `menu` whenever it drops down, the one in front
-/// checked; choosing one brings it to the front.
+/// Lists the area's open windows at the end of `menu` whenever it is opened, the one in front
+/// checked. Choosing one activates it.
 class WindowList final : public QObject {
   Q_OBJECT
 

@@ -10,7 +10,7 @@
 
 namespace velor {
 
-/// The page tabs. The order never changes but by adding at the end and removing.
+/// The page tabs. New tabs are appended; tabs cannot be moved.
 class PageTabs final : public QTabBar, public TabStrip {
   Q_OBJECT
 
@@ -26,7 +26,7 @@ class PageTabs final : public QTabBar, public TabStrip {
   void Clear() override;
 
  Q_SIGNALS:
-  /// The person chose a page's tab, the one in front included; never by the calls above.
+  /// The person chose a page's tab, be it the one in front. Not emitted by the calls above.
   void PageChosen(int number);
 
  protected:
@@ -37,7 +37,7 @@ class PageTabs final : public QTabBar, public TabStrip {
  private:
   int IndexOf(const QString &key) const;
   void Choose(int index);
-  /// Makes the tip from caption and state.
+  /// Sets the tool tip from caption and state.
   void Describe(int index);
 
   struct Tab {

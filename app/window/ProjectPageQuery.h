@@ -11,8 +11,8 @@ namespace velor {
 class DatabaseConnection;
 class Recordset;
 
-/// Finds the file of a project's page by the page's identifier in the catalogue. The one recordset
-/// stays open from one choice to the next.
+/// Finds the file of a project's page by the page's identifier in the catalogue. Its recordset
+/// stays open until the next query.
 class ProjectPageQuery {
  public:
   ProjectPageQuery();
@@ -23,7 +23,7 @@ class ProjectPageQuery {
     QString folder;  ///< the project's
   };
 
-  /// Nothing when no page has that identifier.
+  /// nullopt when no page has that identifier. Raises the database's RuntimeErrors.
   std::optional<Found> Find(int pageId, DatabaseConnection &connection);
 
  private:

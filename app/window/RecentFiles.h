@@ -12,7 +12,7 @@ namespace velor {
 
 class Registry;
 
-/// Lists the files opened last in a menu whenever it drops down, the latest first.
+/// Lists the recently opened files in a menu whenever it is opened, the latest first.
 class RecentFiles final : public QObject {
   Q_OBJECT
 

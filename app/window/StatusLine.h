@@ -22,7 +22,8 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   void Report(const QString &message) override;
   void ReportOn(int page, const QString &message) override;
   bool HasNotice() const override { return !currentMessage().isEmpty(); }
-  /// The slot of the page that is now in front, 0 for none: a notice on another page goes.
+  /// To be called with the slot of the page that has come to the front, 0 for none: removes a
+  /// notice about another page.
   void PageCame(int page);
 
  private:

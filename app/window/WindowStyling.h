@@ -7,8 +7,8 @@ namespace velor {
 
 class StylingSweeps;
 
-/// The sweeps of the main window's load, in their order: flat combo boxes, thin edges, pictures in
-/// its menus. Where there is no window system to paint on, and so no `sweeps`, only the last.
+/// Styles the main window when it loads, in this order: flat combo boxes, thin edges, menu
+/// pictures. Without `sweeps` only the last.
 void StyleMainWindow(QWidget &window, StylingSweeps *sweeps, const ImageList &images,
                      MenuPainter &menus);
 
