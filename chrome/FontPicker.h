@@ -25,7 +25,7 @@ class FontPicker final : public QComboBox {
  Q_SIGNALS:
   /// The person chose a name from the list, or typed one and pressed Enter.
   void FontChosen(const QString &name);
-  /// The person is done with the box: a name was chosen, or Escape pressed.
+  /// The person chose a name or pressed Escape: the focus can go back to the page.
   void Done();
 
  protected:

@@ -18,9 +18,9 @@ namespace velor {
 
 namespace {
 
-/// The title that the template of new pages has; it says nothing about the page.
+/// The title in the template of new pages; no file name is made from it.
 const QString TitleOfNewPages = QStringLiteral("Untitled New Page");
-/// A proposed name is no longer than this (UTF-16 units).
+/// Maximum length of a proposed name in UTF-16 units.
 constexpr qsizetype LongestName = 60;
 
 QString WithoutReferences(QStringView text) {
@@ -47,7 +47,7 @@ QString TitleOf(const QString &html) {
   return end < 0 ? QString() : WithoutReferences(QStringView(html).sliced(begin, end - begin));
 }
 
-/// A text as a file name that every system takes; empty where nothing of it can stand in one.
+/// A file name made from a text, valid on every system; empty where no character of it is.
 QString AsFileName(const QString &text) {
   QString name = text.simplified().left(LongestName);
   const QString forbidden = QStringLiteral("\\/:*?\"<>|");
@@ -70,7 +70,7 @@ int OpenPageCount(EditorContext &context) {
 }
 
 bool HasRoom(EditorContext &context) {
-  // A tab may be missing that a page still has, so both are counted.
+  // A page can have lost its tab, so both are counted.
   if (std::max(context.mainWindow.tabs.Count(), OpenPageCount(context)) < MostPages) return true;
   Message refusal;
   refusal.text = QStringLiteral(

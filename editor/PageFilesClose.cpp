@@ -17,7 +17,7 @@ namespace velor::modWorkFlow {
 
 namespace {
 
-/// Runs a step of the clean-up; what fails there leaves nothing that a person could mend.
+/// Runs a step of the clean-up and ignores its error: the person could not mend it.
 template <typename Step>
 void Ignoring(Step step) {
   try {
@@ -36,7 +36,7 @@ void CloseSourceEditor(EditorContext &context, int number) {
 
 void RemovePageTab(EditorContext &context, int number) {
   TabStrip &tabs = context.mainWindow.tabs;
-  // The last tab may be another page's where this one has lost its own.
+  // Where this page has lost its tab, the last one is another page's.
   if (tabs.Count() == 1 && OpenPageCount(context) <= 1) {
     tabs.Clear();
   } else {

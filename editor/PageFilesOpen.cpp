@@ -31,8 +31,8 @@ void RequireFile(EditorContext &context, const QString &path, const QString &ope
   }
 }
 
-/// A page's baseline goes into the slot made last. Where pages are made one right after another,
-/// each has its baseline before the next slot is made.
+/// Sets the baseline of the page made last, if its load has not reported yet, before the next slot
+/// is made.
 void FinishLastPage(PageSlots &pages) {
   if (pages.PageCount() == 0) return;
   if (frmMain *last = pages.Page(pages.PageCount())) last->DHTML1().DeliverCompletion();
@@ -48,8 +48,8 @@ frmMain &MakePage(EditorContext &context) {
   return window;
 }
 
-/// Runs the steps that fill a page just made. Where they fail nothing half-made stays behind:
-/// window, source editor and tab go again (the slot's number stays used), and the error goes on.
+/// Runs the steps that fill a new page. Where they fail, window, source editor and tab are removed
+/// again (the slot stays used), and the error is rethrown.
 template <typename Steps>
 void FillPage(frmMain &window, Steps steps) {
   try {
@@ -63,7 +63,7 @@ void FillPage(frmMain &window, Steps steps) {
 
 /// Loads the file; the HTML it becomes is to be the saved baseline.
 void Load(frmMain &window, const QString &path) {
-  // Before it is loaded: a file that changes in between counts as changed then.
+  // Before it is loaded: a file that changes in between then counts as changed.
   TraceFile(window, path);
   window.DHTML1().LoadDocument(path);
   window.setWindowTitle(modGeneral::FileNameOfPath(path));
@@ -71,7 +71,7 @@ void Load(frmMain &window, const QString &path) {
   window.CheckAcc();
 }
 
-/// Shows a filled page with its tab in front; from now on it follows the selection.
+/// Shows a filled page and selects its tab; from now on the window follows the selection.
 void Present(EditorContext &context, frmMain &window, const QString &tabCaption) {
   const QString key = PageKey(window.Number());
   context.mainWindow.windows.Show(&window);

@@ -25,8 +25,8 @@ namespace velor::modWorkFlow {
 
 namespace {
 
-/// The flags and paths of a page that now has the file `path`. The temporary copy goes with the
-/// page's old name.
+/// Sets the flags and the temporary copy's path of the record of a page that now has the file
+/// `path`, and removes the temporary copy of its old name.
 void TakeFile(const EditorContext &context, PageRecord &record, const QString &path) {
   const QString oldCopy = record.TempPath;
   record.ReadOnly = False16;
@@ -37,14 +37,15 @@ void TakeFile(const EditorContext &context, PageRecord &record, const QString &p
   if (copies != nullptr && oldCopy != record.TempPath) copies->Remove(oldCopy);
 }
 
-/// Why a page is not in its file.
+/// Why a page could not be saved.
 struct SaveFailure {
   RuntimeError error;
-  /// A plain save passes over its errors: the status bar has told this one.
+  /// Who tells the person: a plain save reported the error in the status bar already.
   enum class By { Result, StatusBar } told;
 };
 
-/// Runs a step whose failure the operation passes over; the status bar tells the person.
+/// Runs a step whose failure does not stop the operation; it is reported in the status bar and
+/// returned.
 template <typename Step>
 std::optional<RuntimeError> Attempt(EditorContext &context, const QString &path, Step step) {
   try {
@@ -57,7 +58,8 @@ std::optional<RuntimeError> Attempt(EditorContext &context, const QString &path,
   }
 }
 
-/// What another program, or another page, has written must not be lost by a save over it.
+/// Keeps the version of the file that another program, or another page, wrote, before a save
+/// replaces it.
 void KeepForeignVersion(EditorContext &context, int number, const QString &path) {
   const Files &files = context.platform.files;
   ReplacedVersions *replaced = context.platform.replaced;
@@ -70,14 +72,14 @@ void KeepForeignVersion(EditorContext &context, int number, const QString &path)
           .arg(ForPeople(path), kept));
 }
 
-/// Whether the page's file is not there any more.
+/// Whether the page's file was removed.
 bool HasGone(const EditorContext &context, int number, const QString &path) {
   return context.pages.Trace(number).path == path && !context.platform.files.FileExists(path);
 }
 
 void WriteFile(frmMain &window, const QString &path) {
   const EditorContext &context = window.Context();
-  // Should the program not live to the end of it, no key is lost.
+  // So that no key is lost where the program ends during the save.
   window.Journal().Flush();
   const bool hasGone = HasGone(context, window.Number(), path);
   KeepForeignVersion(window.Context(), window.Number(), path);
@@ -85,7 +87,7 @@ void WriteFile(frmMain &window, const QString &path) {
   try {
     TraceFile(window, path);
   } catch (const RuntimeError &) {
-    // Written, and not to be read: the next save keeps what is there.
+    // Written, but not readable: the trace stays, so that the next save keeps what is in the file.
     window.Context().pages.Trace(window.Number()) = {};
   }
   if (!hasGone) return;
@@ -93,8 +95,8 @@ void WriteFile(frmMain &window, const QString &path) {
       QStringLiteral("%1 was no longer there. It was written anew").arg(ForPeople(path)));
 }
 
-/// Writes to the record's own file; path and temporary copy then follow the dialog's last name,
-/// which after another file was opened is that other file.
+/// Writes to the record's own file. Path and temporary copy are then set by the dialog's FileName,
+/// which is another file where that was opened in between.
 std::optional<RuntimeError> SavePlain(EditorContext &context, frmMain &window,
                                       const FileDialog &dialog, PageRecord &record) {
   const QString file = record.Path;
@@ -133,8 +135,8 @@ LinkChoice AskAboutLinks(EditorContext &context, const std::vector<BrokenLink> &
   return answer == captions.size() - 1 ? LinkChoice::Leave : LinkChoice::TakePictures;
 }
 
-/// Lets the relative links of a page that goes to another folder lead where they led, as the person
-/// wants it: one undo step. Whether the document has changed.
+/// Adapts the relative links of a page that goes to another folder, as the person chooses, as one
+/// undo step. Returns whether the document changed.
 bool CarryLinks(EditorContext &context, frmMain &window, const QString &from, const QString &to) {
   if (from.isEmpty() || modGeneral::FolderOfPath(from) == modGeneral::FolderOfPath(to))
     return false;
@@ -155,7 +157,7 @@ void WriteToNewFolder(EditorContext &context, frmMain &window, const QString &fr
   try {
     WriteFile(window, to);
   } catch (const RuntimeError &) {
-    // The page stays where it is, and so do its links.
+    // The page stays in its folder: its links are set back.
     if (isAdapted) window.DHTML1().ExecCommand(EditingCommand::Undo);
     throw;
   }
@@ -209,7 +211,7 @@ bool IsWriteProtected(const EditorContext &context, const PageRecord &record) {
          files.IsReadOnly(record.Path);
 }
 
-/// Whether a page whose file cannot be written is to be saved under another name.
+/// Asks whether a page whose file cannot be written is to be saved under another name.
 bool WantsAnotherName(EditorContext &context, const PageRecord &record) {
   Message question;
   question.text =

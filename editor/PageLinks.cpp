@@ -18,7 +18,7 @@ namespace {
 
 const std::array LinkAttributes = {u"href", u"src", u"background", u"data", u"poster", u"longdesc"};
 const std::array PictureAttributes = {u"src", u"background", u"poster"};
-/// Elements whose src is no picture.
+/// Elements whose src is not a picture.
 const std::array NoPictures = {u"script", u"iframe", u"frame",  u"embed",
                                u"audio",  u"video",  u"source", u"track"};
 
@@ -29,7 +29,8 @@ bool IsOneOf(const Names &names, QStringView name) {
   });
 }
 
-/// Whether an address is one of a file beside the page: no scheme, no root, no place in the page.
+/// Whether an address is relative to the page's folder: no scheme, not from the root, not a
+/// fragment alone.
 bool IsRelative(QStringView address) {
   if (address.isEmpty() || QStringView(u"/\\#?").contains(address.front())) return false;
   const qsizetype colon = address.indexOf(u':');
@@ -37,7 +38,7 @@ bool IsRelative(QStringView address) {
   return colon < 0 || (slash >= 0 && slash < colon);
 }
 
-/// An address up to its query and its place in the page.
+/// An address without query and fragment.
 QStringView PathPart(QStringView address) {
   const auto end =
       std::find_if(address.begin(), address.end(), [](QChar c) { return c == u'?' || c == u'#'; });
@@ -48,7 +49,7 @@ QString NativeFolderOf(const QString &file) {
   return QDir::cleanPath(ToNative(modGeneral::FolderOfPath(file)) + u'/');
 }
 
-/// The file that a relative address means for a page in that native folder.
+/// The file of a relative address in a page in that native folder.
 QString TargetOf(QStringView slice, const QString &nativeFolder) {
   const QString path = PathPart(HtmlAttributeValue(slice)).toString();
   const QString decoded = QUrl::fromPercentEncoding(path.toUtf8());
@@ -62,7 +63,7 @@ QStringList Encoded(const QStringList &segments) {
   return encoded;
 }
 
-/// The address, written as it was, behind the way from the new folder to the old one.
+/// The path from the new folder to the old one, followed by the address unchanged.
 QString Adapted(QStringView slice, const QString &oldFolder, const QString &newFolder) {
   QStringList way = Encoded(QDir(newFolder).relativeFilePath(oldFolder).split(u'/'));
   way.removeAll(QStringLiteral("."));

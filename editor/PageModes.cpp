@@ -20,7 +20,7 @@ namespace velor {
 
 namespace {
 
-/// What relative links of a page without a readable temporary copy resolve against.
+/// The base of relative links for the preview of a page without a temporary copy.
 QUrl BaseOf(const PageRecord &record, const Runtime &runtime) {
   return record.Path.isEmpty() ? ToUrl(runtime.ProgramFolder() + QStringLiteral("\\"))
                                : ToUrl(record.Path);
@@ -112,7 +112,7 @@ void frmMain::EditHtml() {
   try {
     ShowEditor();
   } catch (...) {
-    // An editor that never opened must not keep its page from closing.
+    // The editor did not open: EditorOpen would keep the page from closing.
     context_.pages.Record(number_).EditorOpen = before;
     throw;
   }

@@ -11,7 +11,7 @@ namespace velor {
 
 namespace {
 
-/// The place of slot `number` in a list whose upper bound is `bound`.
+/// The index of slot `number` in a list of `bound` slots.
 std::size_t Index(int number, std::int16_t bound) {
   if (number < 1 || number > bound) {
     throw RuntimeError::Of(ErrorNumber::SubscriptOutOfRange, QStringLiteral("PageSlots"),

@@ -12,12 +12,12 @@ namespace velor {
 
 namespace {
 
-/// Brings the component's Memory() up to the last key. The page may be gone afterwards.
+/// Updates the component's Memory() to the last key typed. The page may be closed meanwhile.
 void BringMemoryUpToDate(frmMain &page) {
   try {
     (void)page.DHTML1().DocumentHTML();
   } catch (const RuntimeError &) {
-    // What was last seen of the page is kept then.
+    // The page as it was last received is kept then.
   }
 }
 

@@ -12,13 +12,13 @@ namespace velor {
 
 namespace {
 
-/// Behind the line break that begins at `at`; `at` where none does.
+/// The index after the line break at `at`; `at` where there is none.
 qsizetype BehindBreak(const QString &text, qsizetype at) {
   if (text[at] == u'\r') return at + 1 < text.size() && text[at + 1] == u'\n' ? at + 2 : at + 1;
   return text[at] == u'\n' ? at + 1 : at;
 }
 
-/// Where the line begins that holds the position, and its number.
+/// Start and number of the line that contains a position.
 SourceCaret CaretAt(const QString &text, qsizetype position) {
   int line = 0;
   qsizetype start = 0;

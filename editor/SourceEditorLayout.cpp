@@ -32,7 +32,7 @@ struct ToolRow {
   QStringView keys;
 };
 
-/// The images' order is that of their list.
+/// In the order of the image list.
 constexpr std::array<ToolRow, 12> Tools{{
     {u"copy", u"Copy", u"Ctrl+C"},
     {u"cut", u"Cut", u"Ctrl+X"},
@@ -67,7 +67,7 @@ constexpr std::array<MenuEntry, 9> MenuEntries{{
     {u"Select &All", EditingCommand::SelectAll},
 }};
 
-/// Nothing lies in the side panel, so it takes no room.
+/// The side panel is empty, so it has no width.
 constexpr int ToolsWidth = 0;
 
 QString Tooltip(const ToolRow &row) {
@@ -111,7 +111,7 @@ QWidget *frmCodeEditor::BuildTop() {
   for (const ToolRow &row : Tools) {
     ToolBarAction *button = AddToolBarButton(*toolBar, row.key.toString(), row.caption.toString(),
                                              Tooltip(row), ButtonKind::Click);
-    // Nothing is gained by coming to a button that does nothing.
+    // Tab skips buttons that do nothing.
     toolBar->widgetForAction(button)->setFocusPolicy(Qt::NoFocus);
   }
 

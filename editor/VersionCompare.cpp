@@ -17,7 +17,7 @@ namespace velor {
 
 namespace {
 
-/// Above this the stretch between the first and the last difference is marked whole.
+/// Above this size all lines between the first and the last difference are marked.
 constexpr qsizetype MostComparisons = 4'000'000;
 
 QStringList LinesOf(QString text) {
@@ -61,7 +61,7 @@ LineDifferences LineDifferences::Between(const QStringList &left, const QStringL
     for (qsizetype column = 0; column < columns; ++column) markRight(column);
     return differences;
   }
-  // common[row][column]: the length of the longest common sequence of what stands from there on.
+  // common[row][column]: length of the longest common subsequence of the lines from there on.
   const qsizetype width = columns + 1;
   std::vector<int> common(static_cast<std::size_t>((rows + 1) * width), 0);
   const auto at = [&](qsizetype row, qsizetype column) -> int & {

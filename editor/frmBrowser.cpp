@@ -35,9 +35,9 @@ constexpr std::array<BrowserButton, 4> BrowserButtons{{
 }};
 
 constexpr int BrowserIconSize = 16;
-/// The size of the window that is not maximised.
+/// Size of the window when it is not maximised.
 constexpr QSize UsualSize(800, 600);
-/// The widest that the progress reads.
+/// The widest text that the progress label shows.
 constexpr QLatin1String WidestProgress("-99%");
 
 }  // namespace
@@ -115,7 +115,7 @@ void frmBrowser::BuildStatusBar() {
   progress_ = new QLabel(statusBar_);
   progress_->setObjectName(QStringLiteral("Sta_2"));
   progress_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  // As wide at rest as under way, so that nothing moves.
+  // A fixed width, so that nothing moves while the number changes.
   progress_->setMinimumWidth(progress_->fontMetrics().horizontalAdvance(WidestProgress));
   statusBar_->addWidget(statusText_, 1);
   statusBar_->addPermanentWidget(progress_);

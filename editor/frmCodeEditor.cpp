@@ -205,7 +205,7 @@ void frmCodeEditor::closeEvent(QCloseEvent *event) {
     return;
   }
   context_.pages.Record(number_).EditorOpen = False16;
-  // What was not applied nobody wants any more.
+  // The person gave up what was not applied.
   if (frmMain *page = context_.pages.Page(number_)) page->Journal().Flush();
   context_.pages.CodeEditor(number_).clear();
   context_.mainWindow.windows.Release(this);

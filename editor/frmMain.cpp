@@ -57,8 +57,8 @@ constexpr int QuickIconSize = 16;
 constexpr std::int32_t Grey = 0x808080;
 constexpr std::int32_t White = 0xFFFFFF;
 
-/// A preference that is a truth value. One that is none is told in a box, once a run, when the
-/// event loop is reached again.
+/// Reads a preference that is a truth value. An unusable text is reported once a run, by a message
+/// from the event loop.
 bool TruthOption(EditorContext &context, const QString &name, const QString &defaultValue) {
   return modSettingManager::TruthOption(
       context.platform.registry, name, defaultValue, [&](const RuntimeError &fault) {
@@ -183,7 +183,7 @@ void frmMain::UpdateTabCaption() {
   try {
     context_.mainWindow.tabs.SetCaption(PageKey(number_), windowTitle());
   } catch (const RuntimeError &) {
-    // A page that stayed open when all tabs were cleared has none: that is no failure of a save.
+    // A page that stayed open when all tabs were cleared has no tab; its save has not failed.
   }
 }
 
