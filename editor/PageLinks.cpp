@@ -7,10 +7,13 @@
 #include "platform/Paths.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QUrl>
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
 namespace velor {
 
@@ -18,6 +21,11 @@ namespace {
 
 const std::array LinkAttributes = {u"href", u"src", u"background", u"data", u"poster", u"longdesc"};
 const std::array PictureAttributes = {u"src", u"background", u"poster"};
+/// These hold several addresses, each with a size.
+const std::array ListAttributes = {u"srcset", u"imagesrcset"};
+/// Of the files that styles name.
+const std::array PictureEndings = {u"gif",  u"jpg", u"jpeg", u"png", u"bmp",
+                                   u"webp", u"svg", u"ico",  u"avif"};
 /// Elements whose src is not a picture.
 const std::array NoPictures = {u"script", u"iframe", u"frame",  u"embed",
                                u"audio",  u"video",  u"source", u"track"};
@@ -50,16 +58,17 @@ QString NativeFolderOf(const QString &file) {
 }
 
 /// The file of a relative address in a page in that native folder.
-QString TargetOf(QStringView slice, const QString &nativeFolder) {
-  const QString path = PathPart(HtmlAttributeValue(slice)).toString();
+QString TargetOf(const QString &address, const QString &nativeFolder) {
+  const QString path = PathPart(address).toString();
   const QString decoded = QUrl::fromPercentEncoding(path.toUtf8());
   return ToLogic(QDir::cleanPath(nativeFolder + u'/' + decoded));
 }
 
+/// Without quotes, brackets and commas, so that the address can stand in a style and in a list.
 QStringList Encoded(const QStringList &segments) {
   QStringList encoded;
   for (const QString &segment : segments)
-    encoded << QString::fromLatin1(QUrl::toPercentEncoding(segment, "!$'()*+,;=:@"));
+    encoded << QString::fromLatin1(QUrl::toPercentEncoding(segment, "!$*+;=:@"));
   return encoded;
 }
 
@@ -79,34 +88,119 @@ QString Adapted(QStringView slice, const QString &oldFolder, const QString &newF
   return (way + rest).join(u'/');
 }
 
+/// The addresses of a list of pictures, without their sizes.
+std::vector<QStringView> AddressesInList(QStringView list) {
+  std::vector<QStringView> addresses;
+  const auto isBetween = [](QChar c) { return c.isSpace() || c == u','; };
+  for (qsizetype at = 0; at < list.size();) {
+    while (at < list.size() && isBetween(list[at])) ++at;
+    const qsizetype start = at;
+    while (at < list.size() && !list[at].isSpace()) ++at;
+    QStringView address = list.sliced(start, at - start);
+    if (address.endsWith(u',')) {
+      while (address.endsWith(u',')) address.chop(1);
+    } else {
+      while (at < list.size() && list[at] != u',') ++at;
+    }
+    if (!address.isEmpty()) addresses.push_back(address);
+  }
+  return addresses;
+}
+
+/// The addresses in a style sheet's text or a style attribute's source.
+std::vector<QStringView> AddressesInStyle(QStringView style) {
+  static const QRegularExpression named(
+      QStringLiteral("(?:url\\(\\s*|@import\\s+(?=[\"']))(\"|'|&quot;|&apos;|&#39;|)(.*?)\\1\\s*"
+                     "(?:\\)|;|$)"),
+      QRegularExpression::CaseInsensitiveOption);
+  std::vector<QStringView> addresses;
+  for (auto matches = named.globalMatch(style.toString()); matches.hasNext();) {
+    const QRegularExpressionMatch match = matches.next();
+    if (match.capturedLength(2) > 0)
+      addresses.push_back(style.sliced(match.capturedStart(2), match.capturedLength(2)));
+  }
+  return addresses;
+}
+
+bool HasPictureEnding(const QString &path) {
+  return IsOneOf(PictureEndings, QStringView(path).sliced(path.lastIndexOf(u'.') + 1));
+}
+
+/// Gathers the links that break on the way from one folder to another.
+class LinkSearch {
+ public:
+  LinkSearch(const QString &html, QString oldFolder, QString newFolder, const Files &files)
+      : html_(html),
+        oldFolder_(std::move(oldFolder)),
+        newFolder_(std::move(newFolder)),
+        files_(files) {}
+
+  enum class Kind { Picture, Other, ByEnding };
+
+  /// `slice` of the source, which means `address`.
+  void Look(QStringView slice, const QString &address, Kind kind) {
+    if (!IsRelative(slice)) return;
+    const QString target = TargetOf(address, oldFolder_);
+    const bool isThere = files_.FileExists(target) || files_.FolderExists(target);
+    if (!isThere || files_.IsSameFile(target, TargetOf(address, newFolder_))) return;
+    const bool isPicture =
+        kind == Kind::Picture || (kind == Kind::ByEnding && HasPictureEnding(target));
+    links.push_back({slice.data() - html_.constData(), slice.size(), isPicture, target,
+                     Adapted(slice, oldFolder_, newFolder_)});
+  }
+  void LookAtAttribute(QStringView element, QStringView name, QStringView slice) {
+    if (IsOneOf(LinkAttributes, name)) {
+      const bool isPicture = IsOneOf(PictureAttributes, name) && !IsOneOf(NoPictures, element);
+      Look(slice, HtmlAttributeValue(slice), isPicture ? Kind::Picture : Kind::Other);
+    } else if (IsOneOf(ListAttributes, name)) {
+      for (const QStringView address : AddressesInList(slice))
+        Look(address, HtmlAttributeValue(address), Kind::Picture);
+    } else if (IsOneOf(std::array{u"style"}, name)) {
+      for (const QStringView address : AddressesInStyle(slice))
+        Look(address, HtmlAttributeValue(address), Kind::ByEnding);
+    }
+  }
+  void LookAtSheet(QStringView sheet) {
+    for (const QStringView address : AddressesInStyle(sheet))
+      Look(address, address.toString(), Kind::ByEnding);
+  }
+
+  std::vector<BrokenLink> links;
+
+ private:
+  const QString &html_;
+  const QString oldFolder_;
+  const QString newFolder_;
+  const Files &files_;
+};
+
 }  // namespace
 
 std::vector<BrokenLink> BrokenLinks(const QString &html, const QString &from, const QString &to,
                                     const Files &files) {
   const QString oldFolder = NativeFolderOf(from);
   const QString newFolder = NativeFolderOf(to);
-  std::vector<BrokenLink> links;
-  if (oldFolder == newFolder) return links;
+  if (oldFolder == newFolder) return {};
+  LinkSearch search(html, oldFolder, newFolder, files);
+  std::optional<qsizetype> sheet;  // where the style sheet at hand begins
   for (const HtmlToken &token : TokenizeHtml(html)) {
+    if (sheet && token.kind == HtmlTokenKind::EndTag) {
+      search.LookAtSheet(QStringView(html).sliced(*sheet, token.offset - *sheet));
+      sheet.reset();
+    }
     if (token.kind != HtmlTokenKind::StartTag) continue;
     const HtmlTagParts tag = ReadHtmlTag(html, token.offset);
     const QStringView element = QStringView(html).sliced(tag.name, tag.nameLength);
-    const bool isBase = IsOneOf(std::array{u"base"}, element);
+    if (IsOneOf(std::array{u"style"}, element)) sheet = token.End();
     for (const HtmlAttributeSlice &attribute : tag.attributes) {
       const QStringView name = attribute.NameIn(html);
       const QStringView slice = attribute.ValueIn(html).trimmed();
-      if (!IsOneOf(LinkAttributes, name) || slice.isEmpty()) continue;
-      if (isBase) return {};
-      if (!IsRelative(slice)) continue;
-      const QString target = TargetOf(slice, oldFolder);
-      const bool isThere = files.FileExists(target) || files.FolderExists(target);
-      if (!isThere || files.IsSameFile(target, TargetOf(slice, newFolder))) continue;
-      links.push_back({slice.data() - html.constData(), slice.size(),
-                       IsOneOf(PictureAttributes, name) && !IsOneOf(NoPictures, element), target,
-                       Adapted(slice, oldFolder, newFolder)});
+      if (slice.isEmpty()) continue;
+      if (IsOneOf(std::array{u"base"}, element) && IsOneOf(LinkAttributes, name)) return {};
+      search.LookAtAttribute(element, name, slice);
     }
   }
-  return links;
+  return search.links;
 }
 
 QString WithAdapted(const QString &html, const std::vector<BrokenLink> &links) {

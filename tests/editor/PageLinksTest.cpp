@@ -74,6 +74,37 @@ TEST_F(PageLinks, InTextAndCommentsAreNone) {
                   .empty());
 }
 
+TEST_F(PageLinks, InListsOfPicturesAndInStylesAreAdaptedToo) {
+  EXPECT_EQ(
+      Adapted("<img srcset='pics/c.png 1x, ../picture1.png 2x,gone.png 3x'>", "\\site\\new.htm"),
+      "<img srcset='sub/pics/c.png 1x, picture1.png 2x,gone.png 3x'>");
+  EXPECT_EQ(Adapted("<img srcset='pics/c.png, ../picture1.png'>", "\\site\\new.htm"),
+            "<img srcset='sub/pics/c.png, picture1.png'>");
+  EXPECT_EQ(Adapted("<p style=\"background: URL( pics/c.png ) red; list-style-image: "
+                    "url(&quot;../picture1.png&quot;)\">",
+                    "\\site\\new.htm"),
+            "<p style=\"background: URL( sub/pics/c.png ) red; list-style-image: "
+            "url(&quot;picture1.png&quot;)\">");
+  EXPECT_EQ(Adapted("<style>\n@import 'style.css';\np { background: url(\"a b.png\") }\n</style>"
+                    "<p>url(pics/c.png)</p>",
+                    "\\site\\new.htm"),
+            "<style>\n@import 'sub/style.css';\np { background: url(\"sub/a b.png\") }\n</style>"
+            "<p>url(pics/c.png)</p>");
+  EXPECT_TRUE(Broken("<p style='background: url(data:image/gif;base64,AA)'>",
+                     QStringLiteral("\\site\\new.htm"))
+                  .empty());
+}
+
+TEST_F(PageLinks, AFolderWhoseNameHasSignsOfStylesAndListsIsWrittenWithoutThem) {
+  files_.AddFile(QStringLiteral("\\it's (a), b\\c.png"), "c");
+  const QString html = QStringLiteral("<p style='background: url(c.png)'><img srcset='c.png 1x'>");
+  const auto links = BrokenLinks(html, QStringLiteral("\\it's (a), b\\old.htm"),
+                                 QStringLiteral("\\new.htm"), files_);
+  EXPECT_EQ(WithAdapted(html, links).toStdString(),
+            "<p style='background: url(it%27s%20%28a%29%2C%20b/c.png)'>"
+            "<img srcset='it%27s%20%28a%29%2C%20b/c.png 1x'>");
+}
+
 TEST_F(PageLinks, PicturesAreTakenAlongButNeverOverAnotherFile) {
   files_.AddFile(QStringLiteral("\\other\\c.png"), "another picture");
   const char *html = "<img src=pics/c.png><img src='a b.png'><link href=style.css>";
