@@ -80,17 +80,23 @@ bool HasRoom(EditorContext &context) {
   return false;
 }
 
-bool ShowPageOfFile(EditorContext &context, const QString &path) {
+frmMain *PageOfFile(EditorContext &context, const QString &path) {
   for (int number = 1; number <= context.pages.PageCount(); ++number) {
     frmMain *page = context.pages.Page(number);
     const QString file = context.pages.Record(number).Path;
-    if (page == nullptr || file.isEmpty() || !context.platform.files.IsSameFile(file, path))
-      continue;
-    context.mainWindow.windows.Activate(page);
-    context.mainWindow.status.Report(QStringLiteral("%1 is open already").arg(ForPeople(file)));
-    return true;
+    if (page != nullptr && !file.isEmpty() && context.platform.files.IsSameFile(file, path))
+      return page;
   }
-  return false;
+  return nullptr;
+}
+
+bool ShowPageOfFile(EditorContext &context, const QString &path) {
+  frmMain *page = PageOfFile(context, path);
+  if (page == nullptr) return false;
+  context.mainWindow.windows.Activate(page);
+  context.mainWindow.status.Report(
+      QStringLiteral("%1 is open already").arg(ForPeople(page->GetPageRecord().Path)));
+  return true;
 }
 
 QString ProposedFile(const PageRecord &record, const QString &html, const QString &folder) {

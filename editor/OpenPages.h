@@ -21,8 +21,11 @@ int OpenPageCount(EditorContext &context);
 /// Whether another page can be opened; shows a message where not.
 bool HasRoom(EditorContext &context);
 
-/// Activates the page that has this file (Files::IsSameFile) and reports that in the status bar.
-/// False where no page has it.
+/// The page that has this file (Files::IsSameFile); nullptr where none has it.
+frmMain *PageOfFile(EditorContext &context, const QString &path);
+
+/// Activates the page that has this file and reports that in the status bar. False where no page
+/// has it.
 bool ShowPageOfFile(EditorContext &context, const QString &path);
 
 /// The full path to propose for saving a page: its own file; for a page without one a name in

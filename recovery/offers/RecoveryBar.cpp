@@ -5,7 +5,9 @@
 #include "chrome/Palette.h"
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
+#include "editor/PageSlots.h"
 #include "editor/frmBrowser.h"
+#include "editor/frmMain.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "page/saving/FaithfulPage.h"
@@ -240,7 +242,26 @@ int RecoveryBar::Room() const {
   return std::max(0, MostPages - open);
 }
 
+frmMain *RecoveryBar::OpenPageOf(const Offered &offered) const {
+  const auto restored = unkept_.find(offered.page.id);
+  if (restored != unkept_.end() && restored->second != nullptr) return restored->second;
+  return offered.page.path.isEmpty() ? nullptr : PageOfFile(context_, offered.page.path);
+}
+
+void RecoveryBar::ShowOpenPage(const Offered &offered, frmMain &page) {
+  context_.mainWindow.windows.Activate(&page);
+  const auto restored = unkept_.find(offered.page.id);
+  const bool isRestored = restored != unkept_.end() && restored->second == &page;
+  if (isRestored && page.Journal().Flush()) return Discard(offered);
+  context_.mainWindow.status.Report(
+      (isRestored ? QStringLiteral("%1 is restored already, and stays here until its changes can "
+                                   "be kept for a recovery")
+                  : QStringLiteral("%1 is open already. Close it, then restore what was kept"))
+          .arg(NameOf(offered.page)));
+}
+
 void RecoveryBar::RestoreOne(const Offered &offered) {
+  if (frmMain *page = OpenPageOf(offered)) return ShowOpenPage(offered, *page);
   if (Room() > 0) return Restore(offered);
   context_.mainWindow.status.Report(
       QStringLiteral("%1 stays here: %2 pages are open, which is the most. Close one, then restore "
@@ -252,7 +273,9 @@ void RecoveryBar::RestoreOne(const Offered &offered) {
 void RecoveryBar::RestoreAll() {
   std::vector<Offered> readable;
   std::copy_if(offered_.begin(), offered_.end(), std::back_inserter(readable),
-               [](const Offered &offered) { return offered.page.defect.isEmpty(); });
+               [this](const Offered &offered) {
+                 return offered.page.defect.isEmpty() && OpenPageOf(offered) == nullptr;
+               });
   const auto room = static_cast<std::size_t>(Room());
   const std::size_t count = std::min(room, readable.size());
   // The newest find room; their tabs come in the order in which they were changed.
@@ -273,7 +296,8 @@ void RecoveryBar::RestoreAll() {
 
 void RecoveryBar::Restore(const Offered &offered) {
   // Only what another journal holds may go.
-  if (modWorkFlow::RestorePage(context_, Read(offered.page))) Discard(offered);
+  if (modWorkFlow::RestorePage(context_, Read(offered.page))) return Discard(offered);
+  unkept_[offered.page.id] = context_.pages.Page(context_.pages.PageCount());
 }
 
 void RecoveryBar::Show(const AbandonedPage &abandoned) {

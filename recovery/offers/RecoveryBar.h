@@ -5,7 +5,9 @@
 #include "platform/Journal.h"
 
 #include <QFrame>
+#include <QPointer>
 
+#include <map>
 #include <vector>
 
 class QLabel;
@@ -15,12 +17,15 @@ class QVBoxLayout;
 
 namespace velor {
 
+class frmMain;
+
 /// The strip above the page area that offers pages with unsaved changes: those of a run that
 /// crashed, and those that an exit kept. One row a page: its name, the time of its last change, how
 /// the file on disk compares. Restore opens the page as it was left, Show opens it in the preview,
 /// Discard deletes its journal; Restore All and Discard All do so with every row. At most MostPages
-/// are open at once: what finds no room stays in the bar. Hidden while there is nothing to offer.
-/// What is not decided is offered again by the next run.
+/// are open at once: what finds no room stays in the bar, and so does a page whose file is open, or
+/// that was restored and is in no journal yet; restoring it again shows the open page. Hidden while
+/// there is nothing to offer. What is not decided is offered again by the next run.
 ///
 /// Alt+G leads to the first row from anywhere in the window. From there Left and Right go along a
 /// row, Up and Down, Home and End along the rows; Space and Enter press.
@@ -55,6 +60,9 @@ class RecoveryBar final : public QFrame {
   void RestoreOne(const Offered &offered);
   void RestoreAll();
   void Restore(const Offered &offered);
+  /// The open page of that file, or the one that the row was restored to.
+  frmMain *OpenPageOf(const Offered &offered) const;
+  void ShowOpenPage(const Offered &offered, frmMain &page);
   void Show(const AbandonedPage &abandoned);
   void Discard(const Offered &offered);
   void DiscardAll();
@@ -69,6 +77,8 @@ class RecoveryBar final : public QFrame {
 
   EditorContext &context_;
   std::vector<Offered> offered_;  ///< in the order of the rows
+  /// The pages that were restored and could not be kept in a journal of this run, by the row's id.
+  std::map<QString, QPointer<frmMain>> unkept_;
   QLabel *caption_ = nullptr;
   QScrollArea *scroller_ = nullptr;
   QVBoxLayout *rows_ = nullptr;

@@ -353,6 +353,42 @@ TEST_F(RecoveryBars, WhereNothingCanBeKeptTheStatusBarSaysSo) {
             QStringLiteral("Recovery is off, unsaved changes cannot be kept: Path not found"));
 }
 
+TEST_F(RecoveryBars, APageWhoseFileIsOpenComesToTheFrontAndItsRowStays) {
+  WriteFile(IndexFile);
+  SharedDialog().ExpectOpen(IndexFile);
+  Choose("mnuOpen");
+  NewPage();
+  journals.AddAbandoned(Page(IndexFile, QStringLiteral("index.htm")));
+  Offer();
+  Buttons("cmdRestore")[0]->click();
+  EXPECT_EQ(Slots().PageCount(), 2);
+  EXPECT_EQ(Tabs().currentIndex(), 0);
+  EXPECT_EQ(window.statusBar()->currentMessage(),
+            QStringLiteral("index.htm is open already. Close it, then restore what was kept"));
+  Find<QPushButton>("cmdRestoreAll")->click();
+  EXPECT_EQ(Slots().PageCount(), 2);
+  Slots().Page(1)->close();
+  Buttons("cmdRestore")[0]->click();
+  EXPECT_EQ(Slots().PageCount(), 3);
+  EXPECT_FALSE(Bar().isVisible());
+}
+
+TEST_F(RecoveryBars, ARestoredPageThatNoJournalHoldsIsOpenedOnceHoweverOftenItIsAskedFor) {
+  journals.AddAbandoned(Page({}, QStringLiteral("Untitled 1")));
+  journals.writeFailure = ErrorNumber::DiskFull;
+  Offer();
+  for (int times = 0; times < 3; ++times) {
+    Buttons("cmdRestore")[0]->click();
+    Find<QPushButton>("cmdRestoreAll")->click();
+  }
+  EXPECT_EQ(Slots().PageCount(), 1);
+  journals.writeFailure.reset();
+  Buttons("cmdRestore")[0]->click();
+  EXPECT_EQ(Slots().PageCount(), 1);
+  EXPECT_FALSE(Bar().isVisible());
+  EXPECT_EQ(journals.Written().size(), 1U);
+}
+
 TEST_F(RecoveryBars, WhatFollowsIsOfferedWhenTheListIsDone) {
   journals.AddAbandoned(Page({}, QStringLiteral("Untitled 1")));
   Offer();
