@@ -19,12 +19,12 @@ class FakeFileWatches final : public FileWatches {
     return watch;
   }
 
-  /// Tells every watch of the file.
+  /// Tells every watch of the file; a burst once.
   void Change(const QString &path) {
-    QTimer::singleShot(0, &timer_, [this, path] {
-      for (Watch *watch : std::set<Watch *>(*watches_)) {
-        if (watches_->contains(watch) && watch->files.contains(path)) watch->listener(path);
-      }
+    for (Watch *watch : *watches_)
+      if (watch->files.contains(path)) watch->changed.insert(path);
+    QTimer::singleShot(0, &timer_, [this] {
+      for (Watch *watch : std::set<Watch *>(*watches_)) Tell(watch);
     });
   }
 
@@ -36,12 +36,23 @@ class FakeFileWatches final : public FileWatches {
   struct Watch final : FileWatch {
     Watch(Registered all, Listener tell) : registered(std::move(all)), listener(std::move(tell)) {}
     ~Watch() override { registered->erase(this); }
-    void SetFiles(const QStringList &paths) override { files = paths; }
+    void SetFiles(const QStringList &paths) override {
+      files = paths;
+      changed.clear();
+    }
 
     const Registered registered;
     const Listener listener;
     QStringList files;
+    std::set<QString> changed;  ///< and not told yet
   };
+
+  void Tell(Watch *watch) {
+    if (!watches_->contains(watch)) return;
+    // The listener may end the watch.
+    const Listener listener = watch->listener;
+    for (const QString &path : std::exchange(watch->changed, {})) listener(path);
+  }
 
   const Registered watches_ = std::make_shared<std::set<Watch *>>();
   QTimer timer_;
