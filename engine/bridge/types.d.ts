@@ -2,6 +2,12 @@
 // The words that the bridge's modules have in common, for the type checker. Nothing of this file is
 // in the program.
 
+/**
+ * A node whose kind is asked while the program runs (dom.isText, dom.isBlock ...): the checker lets
+ * everything be read of it.
+ */
+type AnyNode = any;
+
 /** A place between two characters of a text, or between two children of an element. */
 type Point = [node: Node, offset: number];
 
@@ -47,13 +53,26 @@ type NodePath = number[];
  */
 interface SourcePlace { name: string; ordinal: number; offset: number }
 
-/** A direction in the document, by the property that leads there. */
+/** A direction in the document, by the property that leads there; page/dom.js has both. */
 type Side = 'previousSibling' | 'nextSibling';
 
 /** A character of a text. */
 interface Character { node: Text; index: number; object?: undefined }
 /** What is beside a point in its line: a character or an object; see page/beside.js. */
 type Neighbour = Character | { object: Element; node?: undefined; index?: undefined };
+
+/** The texts at the caret before a change; see page/whitespace.js. */
+interface Noted {
+  texts: Map<Text, string>;         // those that the change may reach, as they were
+  left: Neighbour | null;           // what was beside the caret
+  right: Neighbour | null;
+  alone: Map<Text, Siblings>;       // where those stood that hold white space only
+  start: { node: AnyNode; offset: number };
+  target: PlainRange | null;        // what the engine was about to delete in texts
+  isStandIn?(character: Neighbour | null): boolean;
+}
+/** Where a node stands, or stood. */
+interface Siblings { parentNode: AnyNode; previousSibling: AnyNode; nextSibling: AnyNode }
 
 /** A no-break space that stands for a blank; see page/standIns.js. */
 interface StandIn { node: Text; index: number; typed: boolean; was: string; across: Side | null }
@@ -87,7 +106,7 @@ interface Step {
   weight: number;
   completed: number;                // of the changes: those that what goes with them was made for
   seen?: Map<Node, Set<string>>;    // while the step is gathered: what has changed already
-  names?: Map<Element, string[]>;   // and the order of attributes that are to be taken off
+  names?: Map<AnyNode, string[]>;   // and the order of attributes that are to be taken off
 }
 /** The selection when the document was at rest, and what is kept along with it. */
 interface RestPoints extends SelectionPoints { along: unknown }

@@ -124,9 +124,9 @@ function joinLines(blocks, lineEnd) {
     blocks[index] = above;
   }
 }
-const lineEnds = new Map([
+const lineEnds = new Map(/** @type {[tag: string, make: () => ChildNode][]} */ ([
   ['PRE', () => document.createTextNode('\n')], ['ADDRESS', () => dom.create('BR')],
-]);
+]));
 
 // A format chosen by name takes the place of the one that is there: an item is no heading then.
 function becomePlain({ block }, saved) {

@@ -97,7 +97,10 @@ function deletionAtEdge(unit, side) {
   return back ? () => joinAtCaret(other, unit) : () => joinAtCaret(unit, other);
 }
 
-/** True for the first paragraph of a list item. @param {Unit} unit */
+/**
+ * True for the first paragraph of a list item.
+ * @param {Unit} unit
+ */
 function startsItem(unit) {
   const item = lists.itemOf(unit);
   if (!item) return false;

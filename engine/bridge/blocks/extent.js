@@ -36,7 +36,10 @@ export const sameUnit = (one, other) =>
 /** The table cell around a node, else the body: nothing is joined across their edges. */
 export const cellOf = (node) => dom.ancestor(node, dom.isCell) || document.body;
 
-/** True for a paragraph that is nothing but an empty line. @param {Unit} unit */
+/**
+ * True for a paragraph that is nothing but an empty line.
+ * @param {Unit} unit
+ */
 export const isEmptyParagraph = (unit) => Boolean(unit.block) && dom.isHollow(unit.block);
 
 /**
@@ -79,14 +82,20 @@ function excludeNextParagraph(range) {
   else if (leaf) range.setEndAfter(leaf);
 }
 
-/** Moves the selection's ends as `narrowed` says. @param {Range} range the selected one */
+/**
+ * Moves the selection's ends as `narrowed` says.
+ * @param {Range} range the selected one
+ */
 export function narrowSelection(range) {
   if (range.collapsed) return;
   const { startContainer, startOffset, endContainer, endOffset } = narrowed(range);
   document.getSelection().setBaseAndExtent(startContainer, startOffset, endContainer, endOffset);
 }
 
-/** True when the range begins in one paragraph and ends in another. @param {Range} range */
+/**
+ * True when the range begins in one paragraph and ends in another.
+ * @param {Range} range
+ */
 export function spansUnits(range) {
   if (range.collapsed || selection.control(range)) return false;
   const { startContainer, startOffset, endContainer, endOffset } = narrowed(range);

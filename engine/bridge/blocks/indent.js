@@ -96,8 +96,10 @@ function unquote(quote, parts) {
 // Lines without a block that leave a quote beside others become paragraphs.
 function keepApart(quote) {
   const isLine = (node) => Boolean(node) && !dom.isBlock(node) && !dom.isBreak(node);
-  for (const [edge, outer, inner] of [['firstChild', 'previousSibling', 'nextSibling'],
-    ['lastChild', 'nextSibling', 'previousSibling']]) {
+  /** @type {[edge: 'firstChild' | 'lastChild', outer: Side, inner: Side][]} */
+  const ends = [['firstChild', 'previousSibling', 'nextSibling'],
+    ['lastChild', 'nextSibling', 'previousSibling']];
+  for (const [edge, outer, inner] of ends) {
     if (!isLine(dom.neighbour(quote, outer))) continue;
     const line = [];
     for (let at = quote[edge]; at && !dom.isBlock(at); at = at[inner]) line.push(at);

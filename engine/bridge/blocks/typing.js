@@ -37,7 +37,10 @@ function makeParagraph(unit) {
   }
 }
 
-/** A paragraph at a point where no line is, as before a table. @param {Point} point */
+/**
+ * A paragraph at a point where no line is, as before a table.
+ * @param {Point} point
+ */
 export function makeLine([node, offset]) {
   openParagraph((paragraph) => node.insertBefore(paragraph, node.childNodes[offset] ?? null));
 }

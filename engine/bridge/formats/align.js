@@ -98,7 +98,8 @@ function carriersOf(units, side) {
   const chosen = new Set(units.map(keyOf));
   const judged = new Map();
   for (const unit of units) {
-    const isCarrier = (node) => /^(DIV|BLOCKQUOTE|TD|TH)$/.test(node.tagName) && spellingOf(node);
+    const isCarrier = (node) => /^(DIV|BLOCKQUOTE|TD|TH)$/.test(node.tagName) &&
+      spellingOf(node) !== null;
     const at = dom.ancestor(unit.block?.parentNode ?? unit.container, isCarrier);
     if (!at || judged.has(at) || read(unit) === side) continue;
     judged.set(at, within(at).every((each) => chosen.has(keyOf(each))));

@@ -325,7 +325,7 @@ function putOn(name, value, texts) {
 
 function isThere(name, value, range) {
   const { read, same } = formats[name];
-  const elements = new Set(selection.textsIn(range).map((text) => text.parentNode));
+  const elements = new Set(selection.textsIn(range).map((text) => text.parentElement));
   return [...elements].every((element) => same(read(element), value));
 }
 

@@ -76,7 +76,8 @@ export function enter(box, { clientX, clientY }) {
   const clicked = document.caretRangeFromPoint(clientX, clientY);
   const inside = clicked && box.contains(clicked.startContainer);
   entered = box;
-  selection.setCaret(...(inside ? [clicked.startContainer, clicked.startOffset] : [box, 0]));
+  if (inside) selection.setCaret(clicked.startContainer, clicked.startOffset);
+  else selection.setCaret(box, 0);
 }
 const holdsParagraphs = (node) => dom.isBlock(node) && !dom.isParagraph(node) &&
   !/^(CAPTION|DD|LI|TD|TH)$/.test(node.tagName);

@@ -29,7 +29,12 @@ export function beside(node, offset, side) {
   const found = edge(at, back);
   return found === undefined ? beside(at, back ? 0 : Infinity, side) : found;
 }
-// The outermost character of a node; undefined where the node has none.
+/**
+ * The outermost character of a node; undefined where the node has none.
+ * @param {AnyNode} node
+ * @param {boolean} back
+ * @returns {Neighbour | null | undefined}
+ */
 export function edge(node, back) {
   if (dom.isBlock(node) || dom.isBreak(node)) return null;
   if (dom.isNeutral(node) && !dom.isText(node)) return undefined;
@@ -44,14 +49,22 @@ export function edge(node, back) {
   }
   return undefined;
 }
+/** @param {Neighbour | null} character */
 export const charAt = (character) => (character?.node ? character.node.data[character.index] : '');
+/** @param {Neighbour | null} character */
 export const isBlank = (character) => /[ \t\r\n]/.test(charAt(character));
 
-// White space that HTML shows as it stands.
+/**
+ * White space that HTML shows as it stands.
+ * @param {AnyNode} text
+ */
 export const keepsBlanks = (text) =>
   /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
 
-// True where nothing but blanks follows in the line.
+/**
+ * True where nothing but blanks follows in the line.
+ * @param {Neighbour | null} character
+ */
 export function endsLine(character) {
   let at = character;
   while (isBlank(at)) at = beside(at.node, at.index + 1, 'nextSibling');

@@ -24,11 +24,16 @@ import {
 import * as whitespace from './whitespace.js';
 
 // What watch() has found; null at rest.
+/**
+ * @type {(Noted & { ownLeft: boolean, ownRight: boolean, parts: boolean, begins: boolean }) | null}
+ */
 let noted = null;
 
 // Texts that the person typed in: a blank or no-break space there is one of theirs.
 const typedIn = new WeakSet();
+/** @param {AnyNode} text */
 export const noteTyped = (text) => typedIn.add(text);
+/** @param {Text} text */
 export const wasTypedIn = (text) => typedIn.has(text);
 
 // The character on that side of the caret.
@@ -45,6 +50,10 @@ function replaceUnseenBlank() {
   if (!selection.points().anchorNode) return;
   const left = atCaret('previousSibling');
   const right = atCaret('nextSibling');
+  /**
+   * @param {Neighbour} blank
+   * @param {Side} across
+   */
   const replace = (blank, across) => {
     if (keepsBlanks(blank.node)) return;
     const was = charAt(blank);
@@ -85,7 +94,9 @@ export function watch(inputType = '', target = null) {
   resolveAwayFromCaret();
   const found = whitespace.note(range, inputType, target);
   const { left, right } = found;
+  /** @param {Neighbour | null} character */
   const isOwn = (character) => charAt(character) === noBreak && !isStandIn(character);
+  /** @param {Neighbour | null} character */
   const isGap = (character) => isBlank(character) || charAt(character) === noBreak;
   noted = {
     ...found,
@@ -108,6 +119,10 @@ export function engineDone(input) {
 
 // Where text was written in a node just now, from and to. In a text that was not at the caret
 // before (typed text may have been put into another format) that is what was typed.
+/**
+ * @param {AnyNode} node
+ * @param {string} data
+ */
 function writtenIn(node, data) {
   if (!noted.texts.has(node)) {
     const { anchorNode, anchorOffset } = selection.points();
@@ -119,6 +134,10 @@ function writtenIn(node, data) {
 }
 
 // Makes stand-ins of what the engine wrote for blanks.
+/**
+ * @param {string} inputType
+ * @param {string} data
+ */
 function addWritten(inputType, data) {
   const { anchorNode } = selection.points();
   const texts = new Set(noted.texts.keys());
@@ -135,7 +154,12 @@ function addWritten(inputType, data) {
 
 // A no-break space that stood beside a blank, or first in its line, stands between words now: it
 // is needed no more.
+/**
+ * @param {string} inputType
+ * @param {string} data
+ */
 function addNeedless(inputType, data) {
+  /** @param {Neighbour | null} character */
   const addIf = (character) => {
     if (charAt(character) === noBreak) addLeft(character);
   };
@@ -177,6 +201,7 @@ function lastAbove() {
   if (dom.isBreak(above)) return beside(above, 0, 'previousSibling') ?? lastBefore(above);
   return dom.isBlock(above) && above.lastChild ? edge(above.lastChild, true) : null;
 }
+/** @param {AnyNode} node */
 const lastBefore = (node) => (node.previousSibling ? edge(node.previousSibling, true) : null);
 
 /**
@@ -201,8 +226,12 @@ export function watched({ inputType, data }) {
   resolveAwayFromCaret();
 }
 
-// The last text of a paragraph and the first of the one that joins it: white space that showed
-// nothing there would be a blank between them. A blank alone was seen where it was typed.
+/**
+ * The last text of a paragraph and the first of the one that joins it: white space that showed
+ * nothing there would be a blank between them. A blank alone was seen where it was typed.
+ * @param {AnyNode} last
+ * @param {AnyNode} next
+ */
 export function trimEdges(last, next) {
   if (dom.isText(last) && !keepsBlanks(last)) {
     const unseen = wasTypedIn(last) ? /[ \t\n]{2,}$|\n$/ : /[ \t\n]+$/;

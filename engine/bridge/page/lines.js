@@ -4,7 +4,10 @@
 import * as dom from './dom.js';
 import * as selection from './selection.js';
 
-// A paragraph without content needs a break to be a line.
+/**
+ * A paragraph without content needs a break to be a line.
+ * @param {AnyNode} block
+ */
 export function holdOpen(block) {
   if (dom.isElement(block) && block.isConnected && dom.isBlock(block) && !dom.isAtom(block) &&
       !dom.hasContent(block) && block.tagName !== 'BODY') {
@@ -15,8 +18,10 @@ export function holdOpen(block) {
 /**
  * Drops a text that a deletion has left empty, and the inline elements around it that hold nothing
  * else.
+ * @param {AnyNode} node
  */
 export function dropEmptyInline(node) {
+  /** @param {AnyNode} at */
   const emptied = (at) => (dom.isText(at) ? !at.length
     : dom.isInline(at) && !dom.isAtom(at) && !dom.isBreak(at) &&
       [...at.childNodes].every((child) => dom.isText(child) && !child.length));
@@ -27,7 +32,10 @@ export function dropEmptyInline(node) {
   }
 }
 
-/** Makes an empty paragraph, which `put` puts into the document, and sets the caret into it. */
+/**
+ * Makes an empty paragraph, which `put` puts into the document, and sets the caret into it.
+ * @param {(paragraph: HTMLElement) => void} put
+ */
 export function openParagraph(put) {
   const paragraph = dom.create('P');
   paragraph.append(dom.create('BR'));
@@ -35,6 +43,9 @@ export function openParagraph(put) {
   selection.setCaret(paragraph, 0);
 }
 
-/** The inline element around a node that a page's rules make a line; null for none. */
+/**
+ * The inline element around a node that a page's rules make a line; null for none.
+ * @param {AnyNode} node
+ */
 export const lineElement = (node) => dom.ancestor(node, (at) => dom.isInline(at) &&
   /^(block|flex|grid|list-item)$/.test(getComputedStyle(at).display), dom.isBlock);

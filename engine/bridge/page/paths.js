@@ -11,6 +11,7 @@ import * as selection from './selection.js';
  */
 function path(node, offset) {
   const numbers = [];
+  /** @param {AnyNode} child */
   const mergedIndexOf = (child) => {
     let index = 0;
     for (let at = child.previousSibling; at; at = at.previousSibling) {
@@ -48,10 +49,18 @@ function resolve(numbers) {
 /** @returns {{ start: NodePath, end: NodePath }} */
 export const selectionPaths = () => {
   const { anchorNode, anchorOffset, focusNode, focusOffset } = selection.points();
+  /**
+   * @param {AnyNode} node
+   * @param {number} offset
+   */
   const at = (node, offset) => (node ? path(node, offset) : []);
   return { start: at(anchorNode, anchorOffset), end: at(focusNode, focusOffset) };
 };
 
+/**
+ * @param {NodePath} start
+ * @param {NodePath} end
+ */
 export const restorePaths = (start, end) => {
   if (!start?.length || !end?.length) return;
   const [anchorNode, anchorOffset] = resolve(start);

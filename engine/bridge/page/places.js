@@ -9,6 +9,10 @@ import * as selection from './selection.js';
 // A longer way up tells nothing more.
 const mostElements = 8;
 
+/**
+ * @param {AnyNode} element
+ * @param {PlainRange} range
+ */
 function offsetIn(element, { startContainer, startOffset }) {
   const before = document.createRange();
   before.setStart(element, 0);
@@ -31,6 +35,10 @@ export const caretPlaces = () => {
   return places;
 };
 
+/**
+ * @param {AnyNode} element
+ * @param {number} offset
+ */
 function putCaret(element, offset) {
   const texts = dom.textsUnder(element);
   for (const text of texts) {

@@ -11,6 +11,7 @@ import {
 export const leafLimit = 2000;
 
 // The inside of an island that is closed to editing is no place for a command.
+/** @param {AnyNode} node */
 function isClosed(node) {
   const host = (isElement(node) ? node : node.parentElement)?.closest('[contenteditable]');
   return host?.getAttribute('contenteditable').toLowerCase() === 'false';
@@ -27,6 +28,13 @@ export function range() {
 }
 
 // The outermost point that nothing lies before or behind this one.
+/**
+ * @param {AnyNode} node
+ * @param {number} offset
+ * @param {(node: AnyNode, offset: number) => boolean} isAtEdge
+ * @param {number} step
+ * @returns {Point}
+ */
 function outwards(node, offset, isAtEdge, step) {
   while (node !== document.body && isAtEdge(node, offset)) {
     offset = indexOf(node) + step;
@@ -35,7 +43,11 @@ function outwards(node, offset, isAtEdge, step) {
   return [node, offset];
 }
 
-// The one object that the range holds and nothing else, else null.
+/**
+ * The one object that the range holds and nothing else, else null.
+ * @param {PlainRange | null} selected
+ * @returns {AnyNode}
+ */
 export function control(selected) {
   if (!selected || selected.collapsed) return null;
   const { startContainer, startOffset, endContainer, endOffset } = selected;
@@ -53,6 +65,7 @@ export function control(selected) {
   return only && dom.isObject(only) ? only : null;
 }
 
+/** @param {AnyNode} node */
 export function selectNode(node) {
   const index = indexOf(node);
   document.getSelection().setBaseAndExtent(node.parentNode, index, node.parentNode, index + 1);
@@ -63,16 +76,27 @@ export const points = () => {
   return { anchorNode, anchorOffset, focusNode, focusOffset };
 };
 // The engine may have to look for its selection's ends: they are asked for no more than needed.
+/** @type {(keyof SelectionPoints)[]} */
 const pointNames = ['anchorNode', 'anchorOffset', 'focusNode', 'focusOffset'];
+/**
+ * @param {SelectionPoints} one
+ * @param {SelectionPoints} other
+ */
 export const samePoints = (one, other) => pointNames.every((name) => one[name] === other[name]);
 
+/** @param {AnyNode} node */
 export const length = (node) => (isText(node) ? node.length : node.childNodes.length);
+/** @param {SelectionPoints} points */
 export function select({ anchorNode, anchorOffset, focusNode, focusOffset }) {
   if (!anchorNode?.isConnected || !focusNode?.isConnected) return;
   document.getSelection().setBaseAndExtent(
     anchorNode, Math.min(anchorOffset, length(anchorNode)),
     focusNode, Math.min(focusOffset, length(focusNode)));
 }
+/**
+ * @param {AnyNode} node
+ * @param {number} offset
+ */
 export const setCaret = (node, offset) => document.getSelection().collapse(node, offset);
 
 // What the engine would delete at the caret with Delete.
@@ -86,6 +110,7 @@ export function ahead() {
 }
 
 // The first node of a range in document order, and the first one behind it.
+/** @param {PlainRange} range */
 function bounds({ startContainer, startOffset, endContainer, endOffset }) {
   const first = isText(startContainer) || !startContainer.hasChildNodes()
     ? startContainer
@@ -95,7 +120,10 @@ function bounds({ startContainer, startOffset, endContainer, endOffset }) {
   return { first, stop };
 }
 
-// The leaves (texts, breaks, objects, empty elements) in a range, in document order.
+/**
+ * The leaves (texts, breaks, objects, empty elements) in a range, in document order.
+ * @param {PlainRange | null} selected
+ */
 export function* leavesIn(selected) {
   const { first, stop } = bounds(selected);
   // A range that starts inside an object has all of that object.
@@ -106,6 +134,10 @@ export function* leavesIn(selected) {
 }
 
 // True where nothing but the white space at a line's edge is selected of a text.
+/**
+ * @param {Text} text
+ * @param {PlainRange} range
+ */
 function showsNothing(text, { startContainer, startOffset, endContainer, endOffset }) {
   const from = text === startContainer ? startOffset : 0;
   const to = text === endContainer ? endOffset : text.length;
@@ -115,9 +147,14 @@ function showsNothing(text, { startContainer, startOffset, endContainer, endOffs
   return sides.includes(null) && !keepsBlanks(text);
 }
 
-// The texts of a range of which at least one character is selected and that can be formatted, among
-// its first `most` leaves.
+/**
+ * The texts of a range of which at least one character is selected and that can be formatted, among
+ * its first `most` leaves.
+ * @param {PlainRange | null} selected
+ * @param {number} [most]
+ */
 export function textsIn(selected, most = Infinity) {
+  /** @type {Text[]} */
   const texts = [];
   if (!selected || selected.collapsed) return texts;
   let rest = most;
@@ -132,11 +169,13 @@ export function textsIn(selected, most = Infinity) {
   return texts;
 }
 
+/** @param {AnyNode} node */
 const isOpen = (node) =>
   isElement(node) && !isAtom(node) && !isNeutral(node) && !dom.isBreak(node);
 // The engine counts faster than a script that would have to look at every child; the one range for
 // it is kept, since all ranges are followed through every change of the document.
 const counter = document.createRange();
+/** @param {AnyNode} node */
 export function indexOf(node) {
   counter.setStartBefore(node);
   return counter.startOffset;
@@ -144,7 +183,12 @@ export function indexOf(node) {
 
 // The anchor at a point. `inward` says which side a point between two nodes clings to: 'after',
 // 'before', or 'line' for a caret.
-/** @returns {Anchor} */
+/**
+ * @param {AnyNode} node
+ * @param {number} offset
+ * @param {'after' | 'before' | 'line'} inward
+ * @returns {Anchor}
+ */
 function anchorAt(node, offset, inward) {
   if (isText(node)) return { node, offset };
   const after = node.childNodes[offset];
@@ -174,16 +218,22 @@ export function pointOf(anchor) {
   return [dom.successor(anchor.inside), 0];
 }
 
-// The two ends of a node, as save() has them.
-/** @returns {Anchor} */
+/**
+ * The start of a node, as save() has it.
+ * @param {AnyNode} node
+ * @returns {Anchor}
+ */
 export const startOf = (node) => {
   const leaf = firstLeaf(node);
   if (isText(leaf)) return { node: leaf, offset: 0 };
   return leaf === node && dom.isBlock(node) && !isAtom(node)
     ? { inside: node } : { beside: leaf, side: 0 };
 };
-// An empty line's caret is before the break that holds it open.
-/** @returns {Anchor} */
+/**
+ * The end of a node. An empty line's caret is before the break that holds it open.
+ * @param {AnyNode} node
+ * @returns {Anchor}
+ */
 export const endOf = (node) => {
   const leaf = lastLeaf(node);
   if (isText(leaf)) return { node: leaf, offset: leaf.length };
@@ -191,7 +241,10 @@ export const endOf = (node) => {
     ? { inside: node } : { beside: leaf, side: dom.isBreak(leaf) ? 0 : 1 };
 };
 
-/** The selection as anchors. @returns {SavedSelection} */
+/**
+ * The selection as anchors.
+ * @returns {SavedSelection}
+ */
 export function save() {
   const { anchorNode, anchorOffset, focusNode, focusOffset } = points();
   const selected = range();
@@ -231,7 +284,10 @@ export function element() {
   return isElement(startContainer) ? startContainer : startContainer.parentElement;
 }
 
-// The element that text typed at the caret would be in.
+/**
+ * The element that text typed at the caret would be in.
+ * @param {PlainRange} range
+ */
 export function caretElement({ startContainer, startOffset }) {
   if (isText(startContainer)) return startContainer.parentElement;
   const child = startContainer.childNodes[startOffset] || startContainer.lastChild;
@@ -255,7 +311,11 @@ export function ensure() {
   else setCaret(leaf.parentNode, indexOf(leaf));
 }
 
-// The caret where something is dropped: x and y are CSS pixels of the viewport.
+/**
+ * The caret where something is dropped: x and y are CSS pixels of the viewport.
+ * @param {number} x
+ * @param {number} y
+ */
 export const setCaretAtPixel = (x, y) => {
   const caret = document.caretRangeFromPoint(x, y);
   if (caret && document.body?.contains(caret.startContainer)) {

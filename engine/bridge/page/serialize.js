@@ -4,6 +4,7 @@
 import { blanksAsWritten } from './standIns.js';
 import * as selection from './selection.js';
 
+/** @param {DocumentType} type */
 function doctype({ name, publicId, systemId }) {
   let text = `<!DOCTYPE ${name}`;
   if (publicId) text += ` PUBLIC "${publicId}"`;
@@ -14,8 +15,10 @@ function doctype({ name, publicId, systemId }) {
 
 // A parser drops a line break that comes first in these, so one that is meant is written twice.
 const dropsFirstBreak = 'pre, listing, textarea';
+/** @param {AnyNode} element */
 const startsWithBreak = (element) => element.firstChild?.nodeType === Node.TEXT_NODE &&
   element.firstChild.data.startsWith('\n');
+/** @param {AnyNode} top */
 export function firstBreaks(top) {
   const found = [...top.querySelectorAll?.(dropsFirstBreak) ?? []];
   if (top.matches?.(dropsFirstBreak)) found.push(top);
@@ -23,6 +26,12 @@ export function firstBreaks(top) {
 }
 
 // The same node in a copy of its tree.
+/**
+ * @param {AnyNode} node
+ * @param {AnyNode} root
+ * @param {AnyNode} copy
+ * @returns {AnyNode}
+ */
 function counterpart(node, root, copy) {
   if (node === root) return copy;
   return counterpart(node.parentNode, root, copy).childNodes[selection.indexOf(node)];
@@ -30,12 +39,14 @@ function counterpart(node, root, copy) {
 
 // A text is written by an element that holds it.
 const holder = document.createElement('p');
+/** @param {AnyNode} node */
 function written(node) {
   if (node.nodeType === Node.ELEMENT_NODE) return node.outerHTML;
   holder.replaceChildren(node.cloneNode());
   return holder.innerHTML;
 }
 
+/** @param {AnyNode} root */
 function markup(root) {
   const blanks = blanksAsWritten().filter(({ node }) => root.contains(node));
   if (!firstBreaks(root).length && !blanks.length) return written(root);
@@ -47,7 +58,10 @@ function markup(root) {
   return written(copy);
 }
 
-// What a node adds to the text.
+/**
+ * What a node adds to the text.
+ * @param {AnyNode} node
+ */
 export function serializeNode(node) {
   switch (node.nodeType) {
     case Node.DOCUMENT_TYPE_NODE: return doctype(node);

@@ -15,13 +15,20 @@ export const noBreak = '\u00a0';
 /** @type {StandIn[]} */
 let standIns = [];
 
-/** Puts a character in the place of another; a selection that ends behind it still does. */
+/**
+ * Puts a character in the place of another; a selection that ends behind it still does.
+ * @param {Neighbour} character
+ * @param {string} text
+ */
 export function replaceCharacter({ node, index }, text) {
   node.insertData(index, text);
   node.deleteData(index + text.length, 1);
 }
 
-/** True for a character that is a stand-in. @param {Neighbour | null} character */
+/**
+ * True for a character that is a stand-in.
+ * @param {Neighbour | null} character
+ */
 export const isStandIn = (character) => character !== null && 'node' in character &&
   standIns.some(({ node, index }) => node === character.node && index === character.index);
 
@@ -32,13 +39,13 @@ function add(standIn) {
 }
 /**
  * A no-break space that the person typed, as a blank, becomes a stand-in.
- * @param {Character} character
+ * @param {Neighbour} character
  */
 export const addTyped = ({ node, index }) =>
   add({ node, index, typed: true, was: ' ', across: null });
 /**
  * A no-break space that a change has left in the place of a blank becomes a stand-in.
- * @param {Character} character
+ * @param {Neighbour} character
  * @param {string} was the character of the page that it stands for
  * @param {Side | null} across it is resolved into nothing where the one on this side is a blank
  */
@@ -74,6 +81,12 @@ export function splitText(text, offset) {
 }
 
 // True when the character is one of the blanks that reach from a point to one side.
+/**
+ * @param {AnyNode} node
+ * @param {number} offset
+ * @param {Side} side
+ * @param {Character} character
+ */
 function reaches(node, offset, side, { node: text, index }) {
   const step = side === 'previousSibling' ? 0 : 1;
   let at = node && beside(node, offset, side);
@@ -87,7 +100,7 @@ function reaches(node, offset, side, { node: text, index }) {
 /** @param {StandIn} standIn */
 function isAtCaret(standIn) {
   const { anchorNode, anchorOffset, focusNode, focusOffset } = selection.points();
-  return ['previousSibling', 'nextSibling'].some((side) =>
+  return dom.sides.some((side) =>
     reaches(anchorNode, anchorOffset, side, standIn) ||
     reaches(focusNode, focusOffset, side, standIn));
 }
@@ -103,7 +116,12 @@ function resolutions(among) {
   const known = new Map();
   /** @param {Neighbour} character */
   const resolved = ({ node, index }) => known.get(node)?.get(index);
+  /** @param {Neighbour | null} character */
   const isGap = (character) => isBlank(character) || resolved(character) === ' ';
+  /**
+   * @param {AnyNode} node
+   * @param {number} index
+   */
   const nextBehind = (node, index) => {
     let right = beside(node, index + 1, 'nextSibling');
     while (right?.node && resolved(right) === '') {
@@ -122,14 +140,28 @@ function resolutions(among) {
     if (!right) return isBlank(left) || charAt(left) === noBreak ? '' : was;
     return typed ? textForTyped(left, right, was) : textForLeft(left, right, was);
   };
+  /**
+   * @param {Neighbour | null} left
+   * @param {Neighbour | null} right
+   * @param {string} was
+   */
   const textForTyped = (left, right, was) => {
     if (endsLine(right)) return '';
     return isBlank(left) || isGap(right) ? null : was;
   };
+  /**
+   * @param {Neighbour | null} left
+   * @param {Neighbour | null} right
+   * @param {string} was
+   */
   const textForLeft = (left, right, was) => {
     if (charAt(left) === noBreak || charAt(right) === noBreak) return null;
     return isBlank(left) || isBlank(right) ? '' : was;
   };
+  /**
+   * @param {StandIn} one
+   * @param {StandIn} other
+   */
   const lastFirst = (one, other) => {
     if (one.node === other.node) return other.index - one.index;
     const order = one.node.compareDocumentPosition(other.node);
@@ -142,6 +174,7 @@ function resolutions(among) {
     return { node: standIn.node, index: standIn.index, text };
   }).filter(({ text }) => text !== null);
 }
+/** @param {StandIn[]} among */
 const resolve = (among) =>
   resolutions(among).forEach((each) => replaceCharacter(each, each.text));
 
@@ -171,4 +204,8 @@ export const blanksAsWritten = () => resolutions(standIns);
 export function forgetStandIns() { standIns = []; }
 
 // A step that is taken back brings back the stand-ins that were there.
-history.keepAlong({ current: () => standIns, restore(saved) { standIns = saved; } });
+history.keepAlong({
+  current: () => standIns,
+  /** @param {StandIn[]} saved */
+  restore(saved) { standIns = saved; },
+});

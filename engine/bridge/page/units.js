@@ -6,14 +6,17 @@
 import * as dom from './dom.js';
 import * as selection from './selection.js';
 
+/** @param {AnyNode} block */
 const own = (block) => dom.isParagraph(block) || block.tagName === 'DIV';
 
 // The run around `node`, which is inline or shown text, in its block; edges that show nothing are
 // left out of it.
+/** @param {AnyNode} node */
 function runAround(node) {
   const container = dom.blockOf(node.parentNode);
   let top = node;
   while (top.parentNode !== container) top = top.parentNode;
+  /** @param {AnyNode} at */
   const holdsBlock = (at) => dom.isInline(at) && !dom.isAtom(at) && containsBlock(at);
   // An inline element around blocks (old pages wrap them in FONT) is a container of its own.
   for (let at = node.parentNode; at !== container; at = at.parentNode) {
@@ -21,19 +24,29 @@ function runAround(node) {
   }
   return unit(container, top);
 }
+/** @type {(element: AnyNode) => boolean} */
 const containsBlock = (element) =>
   [...element.children].some((child) =>
     dom.isBlock(child) || (dom.isInline(child) && !dom.isAtom(child) && containsBlock(child)));
+/**
+ * @param {AnyNode} parent
+ * @param {AnyNode} node
+ */
 function childTowards(parent, node) {
   while (node.parentNode !== parent) node = node.parentNode;
   return node;
 }
 
 // A block, or an inline element around blocks: a run ends there.
+/** @param {AnyNode} node */
 const stops = (node) =>
   dom.isBlock(node) || (dom.isInline(node) && !dom.isAtom(node) && containsBlock(node));
 
 // The nodes of a run on one side of it, the nearest first, and what ends the run there.
+/**
+ * @param {AnyNode} top
+ * @param {Side} side
+ */
 function reach(top, side) {
   const nodes = [];
   let at = top[side];
@@ -41,6 +54,10 @@ function reach(top, side) {
   return { nodes, end: at };
 }
 
+/**
+ * @param {AnyNode} top
+ * @param {AnyNode} container
+ */
 function spread(top, container) {
   const before = reach(top, 'previousSibling');
   const after = reach(top, 'nextSibling');
@@ -55,7 +72,13 @@ function spread(top, container) {
 
 // `home` is the element that a unit lies in or, where it is an object, is: enough for most answers.
 // The nodes of a run and its block are found out when they are asked for: a paragraph may be long.
+/**
+ * @param {AnyNode} container
+ * @param {AnyNode} top
+ * @returns {Unit}
+ */
 function unit(container, top) {
+  /** @type {{ nodes: ChildNode[], block: Element | null } | null} */
   let known = null;
   const read = () => (known ??= top ? spread(top, container)
     : { nodes: [], block: own(container) && !firstShown(container) ? container : null });
@@ -66,10 +89,13 @@ function unit(container, top) {
   };
 }
 
+/** @param {AnyNode} node */
 const firstShown = (node) => dom.shownFrom(node.firstChild, 'nextSibling');
+/** @param {AnyNode} node */
 const lastShownChild = (node) => dom.shownFrom(node.lastChild, 'previousSibling');
 
 // The unit of one leaf; null where the leaf is no part of any (a rule, space between blocks).
+/** @param {AnyNode} leaf */
 function unitOf(leaf) {
   if (dom.isBlock(leaf)) {
     const holdsLine = own(leaf) || dom.isCell(leaf) || /^(BLOCKQUOTE|DD|LI)$/.test(leaf.tagName);
@@ -78,11 +104,13 @@ function unitOf(leaf) {
   return runAround(leaf);
 }
 
+/** @type {(node: AnyNode) => AnyNode} */
 function firstShownLeaf(node) {
   const child = dom.isAtom(node) ? null : firstShown(node);
   return child ? firstShownLeaf(child) : node;
 }
 // The last leaf of a node that shows something.
+/** @type {(node: AnyNode) => AnyNode} */
 function lastShown(node) {
   if (dom.isAtom(node)) return node;
   const child = lastShownChild(node);
@@ -90,6 +118,7 @@ function lastShown(node) {
 }
 
 // A selected object that is a block itself.
+/** @param {AnyNode} object */
 const objectUnit = (object) =>
   ({ container: object.parentNode, home: object, object, nodes: [object], block: object });
 
@@ -111,12 +140,16 @@ export function gapAt({ startContainer, startOffset, collapsed }) {
   return around.length && around.every(dom.isBlock) ? [node, offset] : null;
 }
 
-function caretUnit({ startContainer: node, startOffset: offset }) {
+/**
+ * @param {AnyNode} node
+ * @param {number} offset
+ * @returns {Unit | null}
+ */
+function caretUnit(node, offset) {
   if (dom.isText(node) && !dom.isIgnorable(node)) return unitOf(node);
   if (dom.isText(node)) {
     const { parentNode } = node;
-    return caretUnit(
-      { startContainer: parentNode, startOffset: selection.indexOf(node) });
+    return caretUnit(parentNode, selection.indexOf(node));
   }
   const last = lastShownChild(node);
   if (!last) return dom.isBlock(node) ? unit(node, null) : unitOf(node);
@@ -131,15 +164,26 @@ function caretUnit({ startContainer: node, startOffset: offset }) {
   return near && !dom.isAtom(near) ? unitOf(lastShown(near)) : null;
 }
 
+/** @param {PlainRange} range */
+const caretUnits = ({ startContainer, startOffset }) =>
+  [caretUnit(startContainer, startOffset)].filter(Boolean);
+
 // Tells of one leaf after the other, in document order, whether it is in the run of the one before.
 function runFollower() {
+  /** @type {AnyNode} */
   let container = null;
+  /** @type {AnyNode} */
   let child = null;  // of the container, with the last leaf in it
   return {
+    /**
+     * @param {Unit} found
+     * @param {AnyNode} leaf
+     */
     begin(found, leaf) {
       ({ container } = found);
       child = container.contains(leaf) && container !== leaf ? childTowards(container, leaf) : null;
     },
+    /** @param {AnyNode} leaf */
     takes(leaf) {
       if (!child || !container.contains(leaf)) return false;
       const next = childTowards(container, leaf);
@@ -158,9 +202,10 @@ export function unitsIn(range, most = Infinity) {
   if (!range) return [];
   const object = selection.control(range);
   // A box has paragraphs of its own.
+  /** @param {AnyNode} node */
   const isWhole = (node) => dom.isAtom(node) || node.tagName === 'TABLE';
   if (object && dom.isBlock(object) && isWhole(object)) return [objectUnit(object)];
-  if (range.collapsed) return [caretUnit(range)].filter(Boolean);
+  if (range.collapsed) return caretUnits(range);
   const units = [];
   const run = runFollower();
   let rest = most;
@@ -175,7 +220,7 @@ export function unitsIn(range, most = Infinity) {
     units.push(found);
     run.begin(found, leaf);
   }
-  return units.length ? units : [caretUnit(range)].filter(Boolean);
+  return units.length ? units : caretUnits(range);
 }
 
 /**
@@ -187,13 +232,21 @@ export function readUnits(units) {
   return units;
 }
 
-// The list item (or the item of another kind) that a unit lies in, within its table cell.
+/**
+ * The list item (or the item of another kind) that a unit lies in, within its table cell.
+ * @param {Unit} found
+ * @param {(node: AnyNode) => boolean} [fits]
+ */
 export const itemAround = (found, fits = (node) => node.tagName === 'LI') =>
   dom.ancestor(found.home, (node) => dom.isElement(node) && fits(node),
-    (node) => dom.isCell(node));
+    dom.isCell);
 
-// Puts the unit into a new element, or makes its own block into that element where it is only a
-// paragraph of another kind. Returns the element.
+/**
+ * Puts the unit into a new element, or makes its own block into that element where it is only a
+ * paragraph of another kind. Returns the element.
+ * @param {Unit} found
+ * @param {string} tag
+ */
 export function become(found, tag) {
   const { block, nodes, container } = found;
   const paragraph = block && dom.isParagraph(block) && block.tagName !== 'DT';
@@ -203,15 +256,23 @@ export function become(found, tag) {
   return enclose({ container, nodes }, dom.create(tag));
 }
 
-// Puts an element around the unit's nodes; into the container where it has none.
+/**
+ * Puts an element around the unit's nodes; into the container where it has none.
+ * @param {Pick<Unit, 'container' | 'nodes'>} unit
+ * @param {AnyNode} element
+ */
 export function enclose({ container, nodes }, element) {
   if (nodes.length) return dom.wrap(nodes, element);
   container.append(element);
   return element;
 }
 
-// Gives the selected units to `change` and then selects `saved` again. A caret where nothing is
-// gets a line to change: a break holds it open, and goes where the change has made nothing of it.
+/**
+ * Gives the selected units to `change` and then selects `saved` again. A caret where nothing is
+ * gets a line to change: a break holds it open, and goes where the change has made nothing of it.
+ * @param {SavedSelection} saved
+ * @param {(units: Unit[]) => void} change
+ */
 export function changeUnits(saved, change) {
   const units = unitsIn(selection.range());
   const [only] = units;
@@ -235,6 +296,9 @@ export function changeUnits(saved, change) {
   }
 }
 
-// The topmost node of a unit: its block, or each of its nodes.
+/**
+ * The topmost node of a unit: its block, or each of its nodes.
+ * @param {Unit} unit
+ */
 export const partsOf = ({ block, nodes }) => (block ? [block] : nodes);
 

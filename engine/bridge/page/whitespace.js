@@ -9,22 +9,31 @@ import { beside, endsLine, isBlank, keepsBlanks } from './beside.js';
 import * as selection from './selection.js';
 
 const noBreak = '\u00a0';
+/** @param {string} text */
 const lead = (text) => /^[ \t\r\n]*/.exec(text)[0];
 // An expression that ends in $ is tried at every place of a text; this looks at its end alone.
+/** @param {string} text */
 function tail(text) {
   let from = text.length;
   while (from > 0 && /[ \t\r\n]/.test(text[from - 1])) from--;
   return text.slice(from);
 }
+/** @param {string} text */
 const wordsOf = (text) => text.replace(/[ \t\r\n\u00a0]+/g, '');
 // Looks at the part that differs alone: a key in a text of a megabyte changes little of it.
+/**
+ * @param {AnyNode} one
+ * @param {AnyNode} other
+ */
 function haveSameWords(one, other) {
   const { head, tail: end } = dom.commonEnds(one, other);
+  /** @param {string} text */
   const middle = (text) => wordsOf(text.slice(head, text.length - end));
   return middle(one) === middle(other);
 }
 
 // The texts that a change at the range may reach: those beside it and the ones beside these.
+/** @param {PlainRange} range */
 function textsAt({ startContainer, startOffset, endContainer, endOffset }) {
   const left = beside(startContainer, startOffset, 'previousSibling');
   const right = beside(endContainer, endOffset, 'nextSibling');
@@ -37,10 +46,19 @@ function textsAt({ startContainer, startOffset, endContainer, endOffset }) {
 }
 
 // Where the removed white space stood: the engine drops texts that hold nothing else.
+/**
+ * @param {Siblings} node
+ * @returns {Siblings}
+ */
 const standing = ({ parentNode, previousSibling, nextSibling }) =>
   ({ parentNode, previousSibling, nextSibling });
 
-// What is known before a change at the range. `target`, a static range, is what it will delete.
+/**
+ * What is known before a change at the range. `target`, a static range, is what it will delete.
+ * @param {PlainRange} range
+ * @param {string} inputType
+ * @param {StaticRange | PlainRange | null} target
+ */
 export function note(range, inputType, target) {
   const { left, right, texts } = textsAt(range);
   if (inputType.startsWith('deleteWord')) {
@@ -57,19 +75,40 @@ export function note(range, inputType, target) {
 
 // The offset in a noted text where the caret stood, null where it did not touch it. At a line's end
 // the caret is seen before the white space that shows nothing.
+/**
+ * @param {Noted} noted
+ * @param {AnyNode} node
+ */
 function caretOffset({ start, left, right }, node) {
   if (node === start.node) return start.offset;
   if (node === left?.node) return left.index + 1;
   return node === right?.node ? right.index : null;
 }
+/**
+ * @param {string} text
+ * @param {number} offset
+ * @param {boolean} showsRest
+ */
 function shownOffset(text, offset, showsRest) {
   const above = text.slice(0, offset);
   return showsRest ? offset : above.length - tail(above).length;
 }
 
 // What is typed into the text at that offset: a blank that HTML would swallow is a no-break space.
+/**
+ * @param {AnyNode} node
+ * @param {string} data
+ * @param {string} above
+ * @param {string} below
+ */
 function typed(node, data, above, below) {
   if (data !== ' ' || keepsBlanks(node)) return data;
+  /**
+   * @param {string} text
+   * @param {number} index
+   * @param {Side} side
+   * @param {number} offset
+   */
   const sees = (text, index, side, offset) => {
     const near = text ? text.at(index) : beside(node, offset, side);
     return typeof near === 'string' ? !/[ \t\r\n]/.test(near) : Boolean(near) && !isBlank(near);
@@ -79,6 +118,10 @@ function typed(node, data, above, below) {
 }
 
 // What the noted texts are to be: {texts, caret}; null where that is not known.
+/**
+ * @param {Noted} noted
+ * @param {{ data?: string | null }} input
+ */
 function afterTyping(noted, { data }) {
   const points = selection.points();
   const anchorNode = /** @type {Text} */ (points.anchorNode);
@@ -94,6 +137,7 @@ function afterTyping(noted, { data }) {
   const ends = !hasRest && (rest === null || endsLine(rest));
   const offset = keepsBlanks(anchorNode) ? at : shownOffset(old, at, !ends);
   // A stand-in the engine makes a blank, where a word follows.
+  /** @param {number} index */
   const isBlankNow = (index) => data !== ' ' && anchorNode.data[index] === ' ' &&
     lead(old[index - 1] ?? '') === '' && noted.isStandIn({ node: anchorNode, index });
   const above = old.slice(0, offset)
@@ -105,18 +149,27 @@ function afterTyping(noted, { data }) {
 }
 
 // White space is deleted as the one blank that it shows.
+/**
+ * @param {StaticRange | PlainRange | null} target
+ * @param {Map<Text, string>} texts
+ */
 function wholeRun(target, texts) {
   const { startContainer, startOffset, endContainer, endOffset } = target;
-  const data = texts.get(startContainer) ?? '';
+  const data = texts.get(/** @type {Text} */ (startContainer)) ?? '';
   const part = data.slice(startOffset, endOffset);
   if (startContainer !== endContainer || !part || lead(part) !== part) return target;
   return { startContainer, startOffset: startOffset - tail(data.slice(0, startOffset)).length,
     endContainer, endOffset: endOffset + lead(data.slice(endOffset)).length };
 }
 
+/** @param {Noted} noted */
 function afterDeletion({ texts: old, target }) {
   if (!target) return null;
   const { startContainer, startOffset, endContainer, endOffset } = wholeRun(target, old);
+  /**
+   * @param {AnyNode} node
+   * @param {AnyNode} other
+   */
   const precedes = (node, other) =>
     Boolean(other.compareDocumentPosition(node) & Node.DOCUMENT_POSITION_PRECEDING);
   const texts = new Map([...old].map(([node, data]) => {
@@ -130,6 +183,7 @@ function afterDeletion({ texts: old, target }) {
 }
 
 // A text was cut by a break: white space that would begin the second line ends the first.
+/** @param {Noted} noted */
 function afterBreak(noted) {
   const { texts: old, start } = noted;
   if (!old.has(start.node)) return null;
@@ -146,6 +200,10 @@ function afterBreak(noted) {
   return { texts, caret: { node: second, offset: 0 } };
 }
 
+/**
+ * @param {Noted} noted
+ * @param {{ inputType: string, data?: string | null }} input
+ */
 function planned(noted, input) {
   const { inputType } = input;
   if (inputType === 'insertText') return input.data ? afterTyping(noted, input) : null;
@@ -154,8 +212,14 @@ function planned(noted, input) {
 }
 
 // A text of white space only that the engine has taken out of the page.
+/**
+ * @param {AnyNode} node
+ * @param {Siblings} stood
+ * @param {boolean} isLeft
+ */
 function reinsert(node, { parentNode, previousSibling, nextSibling }, isLeft) {
   if (!parentNode.isConnected) return;
+  /** @param {AnyNode} sibling */
   const isThere = (sibling) => sibling?.parentNode === parentNode;
   if (isLeft) {
     if (isThere(previousSibling)) previousSibling.after(node);
@@ -168,6 +232,10 @@ function reinsert(node, { parentNode, previousSibling, nextSibling }, isLeft) {
 }
 
 // Writes what differs only: the selection and the history see no more than that.
+/**
+ * @param {AnyNode} node
+ * @param {string} text
+ */
 function write(node, text) {
   const now = node.data;
   if (now === text) return false;
@@ -179,12 +247,17 @@ function write(node, text) {
   return true;
 }
 
-// The engine has done what was noted for: its white space becomes the source's again. Nothing is
-// written where the texts are not what was expected but for their blanks.
+/**
+ * The engine has done what was noted for: its white space becomes the source's again. Nothing is
+ * written where the texts are not what was expected but for their blanks.
+ * @param {Noted} noted
+ * @param {{ inputType: string, data?: string | null }} input
+ */
 export function putBack(noted, input) {
   const plan = planned(noted, input);
   if (!plan) return;
   const texts = [...plan.texts].filter(([node]) => node.isConnected ? !keepsBlanks(node) : true);
+  /** @param {[node: Text, text: string]} planned */
   const fits = ([node, text]) => haveSameWords(node.isConnected ? node.data : '', text);
   if (!texts.every(fits)) return;
   let changed = false;

@@ -7,6 +7,12 @@ let working = false;
 
 export const isWorking = () => working;
 
+/**
+ * Tells that the bridge is at work while it calls `change`; answers what that answers.
+ * @template T
+ * @param {() => T} change
+ * @returns {T}
+ */
 export function work(change) {
   working = true;
   try {
