@@ -10,7 +10,7 @@
 
 namespace velor {
 
-/// Calls again for as long as a signal gets in between.
+/// Repeats a system call that a signal interrupted (EINTR); answers its last result.
 template <typename Call>
 auto Uninterrupted(Call call) {
   auto answer = call();
@@ -18,19 +18,20 @@ auto Uninterrupted(Call call) {
   return answer;
 }
 
-/// Not open, with errno set, where that failed.
+/// Opens a file, with O_CLOEXEC among its flags. Not open, with errno set, where that failed.
 FileDescriptor OpenFile(FileCalls &calls, const QByteArray &name, int flags, mode_t mode = 0);
 
-/// False with errno set when that failed; the file is closed all the same.
+/// False with errno set where the file system reports a failed write; the file is closed all the
+/// same.
 bool CloseFile(FileCalls &calls, FileDescriptor file);
 
-/// Writes all of it; false with errno set when that failed, however much was written by then.
+/// Writes all of `content`; false with errno set where that failed, perhaps with a part written.
 bool WriteBytes(FileCalls &calls, int file, const QByteArray &content);
 
 /// Like FileCalls::Sync, where a file system that cannot sync such a file counts as done.
 bool SyncFile(FileCalls &calls, int file);
 
-/// Brings the names in a native folder to the disk.
+/// Syncs a native folder, so that new, renamed and deleted names in it survive a power failure.
 bool SyncFolder(FileCalls &calls, const QByteArray &folder);
 
 /// Gives `to` the extended attributes of `from`, access control lists among them. False where one

@@ -22,7 +22,7 @@ class FileDescriptor {
   bool IsOpen() const { return number_ >= 0; }
   int Number() const { return number_; }
 
-  /// Lets go of it without closing it.
+  /// Answers the number and leaves the closing to the caller.
   int Release() { return std::exchange(number_, -1); }
 
  private:

@@ -2,8 +2,8 @@
 #include "files/FileReplacement.h"
 
 #include "files/FileBytes.h"
-#include "files/LeftSiblings.h"
 #include "files/ReplacedFiles.h"
+#include "files/StaleTempFiles.h"
 #include "platform/RuntimeError.h"
 
 #include <QDir>
@@ -44,7 +44,7 @@ QString FollowLinks(const QString &path) {
   throw WriteError(ELOOP, path);
 }
 
-/// Who may do what with a file that is made anew.
+/// Permissions of a new file.
 constexpr mode_t AsTheUserAsks = 0666;  // less what the umask takes
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
 
@@ -67,14 +67,15 @@ class Replacement {
     if (old_) RefuseReadOnly();
     if (old_ && (!S_ISREG(old_->st_mode) || old_->st_nlink > 1)) {
       WriteInPlace();
-    } else if (!WriteSiblingAndRename(old_ ? OwnerOnly : AsTheUserAsks)) {
+    } else if (!WriteTempAndRename(old_ ? OwnerOnly : AsTheUserAsks)) {
       WriteInPlace();
     }
   }
 
-  void RunAnew() {
+  /// Creates the file for its owner alone, whatever is there.
+  void RunPrivate() {
     old_.reset();
-    WriteSiblingAndRename(OwnerOnly);
+    WriteTempAndRename(OwnerOnly);
   }
 
  private:
@@ -87,41 +88,41 @@ class Replacement {
   }
 
   /// False, with nothing changed, where an existing file has to be written in place.
-  bool WriteSiblingAndRename(mode_t mode) {
+  bool WriteTempAndRename(mode_t mode) {
     const QString folder = QFileInfo(path_).path();
-    const QByteArray siblingName = QFile::encodeName(NewSibling(folder));
-    FileDescriptor file = OpenFile(calls_, siblingName, O_WRONLY | O_CREAT | O_EXCL, mode);
+    const QByteArray tempName = QFile::encodeName(NewTempName(folder));
+    FileDescriptor file = OpenFile(calls_, tempName, O_WRONLY | O_CREAT | O_EXCL, mode);
     if (!file.IsOpen()) {
       if (old_ && (errno == EACCES || errno == EPERM || errno == EROFS)) return false;
       throw WriteError(errno, path_);
     }
     if (old_ && !TakeOwnerModeAndAttributes(file.Number())) {
-      calls_.Unlink(siblingName.constData());
+      calls_.Unlink(tempName.constData());
       return false;
     }
-    ClaimSibling(file.Number());
+    MarkTempInUse(file.Number());
     const bool isWritten = WriteBytes(calls_, file.Number(), content_) &&
                            SyncFile(calls_, file.Number()) && CloseFile(calls_, std::move(file));
-    if (isWritten && Rename(siblingName)) {
+    if (isWritten && Rename(tempName)) {
       // A rename survives a power failure only when its folder is on the disk.
       if (!SyncFolder(calls_, QFile::encodeName(folder))) throw WriteError(errno, path_);
-      RemoveLeftSiblings(folder, calls_);
+      RemoveStaleTempFiles(folder, calls_);
       return true;
     }
     const int error = errno;
-    calls_.Unlink(siblingName.constData());
-    if (isWritten && old_ && IsNoRenaming(error)) return false;
+    calls_.Unlink(tempName.constData());
+    if (isWritten && old_ && IsRenameRefused(error)) return false;
     throw WriteError(error, path_);
   }
 
-  bool Rename(const QByteArray &sibling) const {
-    return Uninterrupted([&] { return calls_.Rename(sibling.constData(), name_.constData()); }) ==
+  bool Rename(const QByteArray &tempName) const {
+    return Uninterrupted([&] { return calls_.Rename(tempName.constData(), name_.constData()); }) ==
            0;
   }
 
-  /// Whether the place, not the disk, refused: a mount point, or a folder where nobody but a file's
-  /// owner may replace it.
-  static bool IsNoRenaming(int error) {
+  /// Whether a rename failed for the place of the file, not for the disk: a mount point, or a
+  /// folder where only a file's owner may replace it.
+  static bool IsRenameRefused(int error) {
     return error == EBUSY || error == EXDEV || error == EACCES || error == EPERM;
   }
 
@@ -154,11 +155,11 @@ class Replacement {
     const QString kept = replaced.KeepNative(path_, before);
     if (!Overwrite(file.Number(), content_)) {
       const int error = errno;
-      if (Overwrite(file.Number(), before)) replaced.Forget(kept);
+      if (Overwrite(file.Number(), before)) replaced.Remove(kept);
       throw WriteError(error, path_);
     }
     if (!CloseFile(calls_, std::move(file))) throw WriteError(errno, path_);
-    replaced.Forget(kept);
+    replaced.Remove(kept);
   }
 
   /// Takes the blocks for the new content beyond the old end, which changes nothing that is read.
@@ -195,7 +196,7 @@ void ReplaceFile(const QString &nativePath, const QByteArray &content, FileCalls
 }
 
 void CreatePrivateFile(const QString &nativePath, const QByteArray &content, FileCalls &calls) {
-  Replacement(nativePath, content, calls).RunAnew();
+  Replacement(nativePath, content, calls).RunPrivate();
 }
 
 }  // namespace velor

@@ -30,7 +30,7 @@ QString ShortName(const QString &nativePath) {
 QString FreeName(const QString &folder, const QDateTime &time, const QString &name) {
   const QString stamp = time.toString(QStringLiteral("yyyy-MM-dd'T'HH-mm-ss.zzz"));
   for (int number = 1;; ++number) {
-    // With the process's number, since another copy may be at the same thing.
+    // The process number tells apart two copies of the program that keep a version at once.
     const QString path =
         QStringLiteral("%1/%2-%3-%4 %5")
             .arg(folder, stamp, QString::number(getpid()), QString::number(number), name);
@@ -49,7 +49,7 @@ QString ReplacedFiles::KeepNative(const QString &nativePath, const QByteArray &c
   MakePrivateFolder(folder);
   const QDateTime now = QDateTime::currentDateTimeUtc();
   QString kept = FreeName(folder, now, ShortName(nativePath));
-  // First what it is, so that no version lies there that nobody knows.
+  // The origin is written first, so that there is no version whose origin is unknown.
   const QString origin =
       QStringLiteral("%1\n%2\n").arg(nativePath, now.toString(Qt::ISODateWithMs));
   CreatePrivateFile(Origin(kept), origin.toUtf8(), calls_);
@@ -59,12 +59,12 @@ QString ReplacedFiles::KeepNative(const QString &nativePath, const QByteArray &c
       QDir(folder).entryList({QStringLiteral("*.from")}, QDir::Files | QDir::Hidden, QDir::Name);
   for (qsizetype i = 0; i < origins.size() - MostVersions; ++i) {
     const QString oldest = folder + u'/' + origins[i];
-    Forget(oldest.chopped(Origin({}).size()));
+    Remove(oldest.chopped(Origin({}).size()));
   }
   return kept;
 }
 
-void ReplacedFiles::Forget(const QString &kept) {
+void ReplacedFiles::Remove(const QString &kept) {
   for (const QString &name : {kept, Origin(kept)}) {
     Uninterrupted([&] { return calls_.Unlink(QFile::encodeName(name).constData()); });
   }

@@ -13,11 +13,13 @@ class ReplacedFiles : public ReplacedVersions {
   explicit ReplacedFiles(FileCalls &calls = FileCalls::OfTheSystem()) : calls_(calls) {}
 
   QString Keep(const QString &path, const QByteArray &content) override;
-  /// The same for a native path; answers where it lies.
+  /// Keep for a native path; answers the kept file's path.
   QString KeepNative(const QString &nativePath, const QByteArray &content);
-  /// Lets go of a version again.
-  void Forget(const QString &kept);
+  /// Deletes a kept version, by the path that KeepNative answered: its replacement is on the disk,
+  /// or the old content is back.
+  void Remove(const QString &kept);
 
+  /// Keeping one more deletes the oldest.
   static constexpr int MostVersions = 200;
 
  private:

@@ -5,7 +5,8 @@
 
 namespace velor {
 
-/// Where the program keeps what outlives a run and is nobody's document, in native form:
+/// The native folder for files of the program itself that outlive a run (journals, replaced
+/// versions, lists of copies):
 /// `$XDG_STATE_HOME/velor-web-creator`, by default below `~/.local/state`. It need not exist.
 QString StateFolder();
 

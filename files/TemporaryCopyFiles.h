@@ -9,13 +9,13 @@
 
 namespace velor {
 
-/// How a temporary copy is recognised: as the file that it is, with the size and the time of change
-/// that it had after it was written.
+/// Identifies a temporary copy as this program wrote it. A file whose mark differs was changed or
+/// replaced by somebody else, and is neither written nor removed.
 struct CopyMark {
   dev_t device = 0;
   ino_t inode = 0;
   qint64 size = 0;
-  qint64 changed = 0;  ///< nanoseconds since 1970
+  qint64 changed = 0;  ///< modification time, nanoseconds since 1970
 
   bool operator==(const CopyMark &) const = default;
 };
@@ -35,11 +35,12 @@ class TemporaryCopyFiles final : public TemporaryCopies {
   void RemoveAbandoned() override;
 
  private:
-  /// The copy of that native path, open for writing, if it is still ours.
+  /// Opens the copy at a native path for writing; not open where it is no longer as marked.
   FileDescriptor OpenOwn(const QString &path) const;
-  /// A copy that was not there before; not open, with errno set, where it could not be created.
+  /// Creates the copy, with the permissions of `page`; not open, with errno set, where there is a
+  /// file of that name or the creation failed.
   FileDescriptor Create(const QString &path, const QString &page);
-  /// Remembers the copy, here and in the list. `mark` null: the copy is gone.
+  /// Sets the mark of a copy, in memory and in the list; nullptr for a copy that is gone.
   void Remember(const QString &path, const CopyMark *mark);
   void OpenList();
 

@@ -45,7 +45,7 @@ class Files {
   virtual QByteArray ReadAll(const QString &path, NameOrigin origin = NameOrigin::Chosen) const = 0;
 
   /// Creates the file or replaces its whole content so that at every moment the old or the new
-  /// content is there, whole: written to a sibling, synced and renamed over it; mode, owner,
+  /// content is there, whole: written to a temporary file, synced and renamed over it; mode, owner,
   /// symbolic links, access lists and other attributes kept; written in place where renaming would
   /// break a hard link or lose one of them, the old content then kept until that is done. A
   /// read-only file is refused (75), also for the superuser; a full disk is 61.

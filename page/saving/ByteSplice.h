@@ -16,7 +16,7 @@ struct TextPatch {
   QString text;
 };
 
-/// The text with all patches; they are in order and do not overlap.
+/// The text with all patches applied. The patches are in order and do not overlap.
 QString Patched(const QString &text, const std::vector<TextPatch> &patches);
 
 /// Applies patches of a page's text (order and overlap as above) to its bytes. Bytes that no patch

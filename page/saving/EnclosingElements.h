@@ -14,7 +14,7 @@ struct ElementTags {
   std::int32_t end = 0;
 };
 
-/// The number of the end tag that closes the element begun at `start`; -1 where there is none.
+/// The number of the end tag that closes the element whose start tag is `start`; -1 for none.
 std::int32_t EndTagOf(const TokenText &text, std::int32_t start);
 
 /// The elements that hold all of the tokens [from, to), innermost first.

@@ -273,8 +273,6 @@ std::optional<SavedPage> FaithfulPage::TryRungs(Plan &plan, PageVerifier &verifi
   return std::nullopt;
 }
 
-/// Where no markup gives the document (a picture between two table rows), a parser moves what
-/// stands there. Tries to write the edits where the parser moves them to.
 std::optional<SavedPage> FaithfulPage::TryAsParsed(const QString &wantedAgain,
                                                    PageVerifier &verifier) const {
   const Plan plan(TokenText(wantedAgain, *before_), *source_, *before_, sourceToBefore_,
@@ -286,7 +284,7 @@ std::optional<SavedPage> FaithfulPage::TryAsParsed(const QString &wantedAgain,
   return Splice(WithoutNeedless(*patches, wantedAgain, verifier), SaveRung::Edits);
 }
 
-/// Leaves out patches that the document does not need: first halves of them, then smaller parts.
+/// Leaves out half of the patches at a time, then smaller parts.
 std::vector<TextPatch> FaithfulPage::WithoutNeedless(const std::vector<TextPatch> &patches,
                                                      const QString &document,
                                                      PageVerifier &verifier) const {
@@ -326,8 +324,6 @@ SavedPage FaithfulPage::Splice(const std::vector<TextPatch> &patches, SaveRung r
   return saved;
 }
 
-/// A source without tags of HTML, HEAD and BODY never gets them; where they would stand makes no
-/// difference then.
 bool FaithfulPage::IsSameDocument(const QString &one, const QString &other) const {
   if (one == other) return true;
   return !hasFrameTags_ && WithoutImpliedFrame(one) == WithoutImpliedFrame(other);

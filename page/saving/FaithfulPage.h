@@ -64,17 +64,28 @@ class FaithfulPage {
   void DropCaches();
 
  private:
+  /// The edits that lead to one serialisation, the rung of each, and the result once it is known.
   struct Plan;
 
+  /// The plan for a serialisation, made where the last one was for another.
   Plan &PlanFor(const QString &current);
   enum class Tries { First, All };
-  /// Nothing where no try gave the document.
+  /// Tries the edits alone, then higher rungs for the edit at the first difference. Nothing where
+  /// no try gave the document.
   std::optional<SavedPage> TryRungs(Plan &plan, PageVerifier &verifier, Tries tries) const;
+  /// Tries to write the edits where the parser moves them to, for a document that no markup gives
+  /// (a picture between two table rows). `wantedAgain` is what the document's own serialisation is
+  /// parsed to.
   std::optional<SavedPage> TryAsParsed(const QString &wantedAgain, PageVerifier &verifier) const;
+  /// The patches less those without which the document is the same.
   std::vector<TextPatch> WithoutNeedless(const std::vector<TextPatch> &patches,
                                          const QString &document, PageVerifier &verifier) const;
+  /// Writes patches of the masked text into the page's bytes.
   SavedPage Splice(const std::vector<TextPatch> &patches, SaveRung rung) const;
+  /// Writes the serialisation itself, unmasked, in the page's charset and line ends.
   SavedPage WriteEverything(const QString &current, const QString &reason) const;
+  /// Whether two serialisations are of one document. Implied tags of HTML, HEAD and BODY make no
+  /// difference where the source has none of those.
   bool IsSameDocument(const QString &one, const QString &other) const;
 
   PageOriginal original_;

@@ -13,12 +13,12 @@ std::size_t Index(Number number) {
   return static_cast<std::size_t>(number);
 }
 
-/// Tokens without a counterpart, and their numbers in the text that they are from.
+/// The tokens of a text that have no counterpart, and their numbers in that text.
 struct Unmatched {
   std::vector<Number> numbers;
   std::vector<HtmlToken> tokens;
 
-  /// The page's frame is left out: a parser makes it where it stands.
+  /// Without tags of HTML, HEAD and BODY: a parser does not move those.
   Unmatched(const TokenText &text, const std::vector<Number> &counterparts) {
     for (Number at = 0; at < text.Count(); ++at) {
       if (counterparts[Index(at)] >= 0 || IsFrameTag(text.At(at))) continue;
@@ -28,8 +28,8 @@ struct Unmatched {
   }
 };
 
-/// Whether a token alone is enough to tell a place.
-bool TellsPlace(const HtmlToken &token) {
+/// Whether a token is distinctive enough to be matched by itself.
+bool IsDistinctive(const HtmlToken &token) {
   return token.kind == HtmlTokenKind::Comment ||
          (token.isStrong && token.kind != HtmlTokenKind::EndTag);
 }
@@ -45,7 +45,7 @@ class MovedTokenFinder {
         isTaken_(Index(source.Count()), false) {}
 
   std::vector<Number> Run() {
-    PairTokensThatTellPlaces();
+    PairDistinctiveTokens();
     for (Number at = 0; at < before_.Count(); ++at) PairNeighbour(at, 1);
     for (Number at = before_.Count() - 1; at >= 0; --at) PairNeighbour(at, -1);
     return std::move(moved_);
@@ -57,7 +57,7 @@ class MovedTokenFinder {
     isTaken_[Index(source)] = true;
   }
 
-  void PairTokensThatTellPlaces() {
+  void PairDistinctiveTokens() {
     const Unmatched source(source_, alignment_.toOther);
     const Unmatched before(before_, alignment_.fromOther);
     const TokenAlignment leftOver =
@@ -65,12 +65,12 @@ class MovedTokenFinder {
     for (std::size_t at = 0; at < before.numbers.size(); ++at) {
       const Number found = leftOver.fromOther[at];
       if (found < 0 || source.tokens[Index(found)].key != before.tokens[at].key) continue;
-      if (TellsPlace(before.tokens[at])) Pair(before.numbers[at], source.numbers[Index(found)]);
+      if (IsDistinctive(before.tokens[at])) Pair(before.numbers[at], source.numbers[Index(found)]);
     }
   }
 
-  /// Where the token at `at` moved, pairs the token `by` further on with the one that stands there
-  /// in the source, if they are the same and both are free.
+  /// If the token at `at` moved, pairs its neighbour (`by` is 1 or -1) with the neighbour in the
+  /// source, where the two are equal and neither has a counterpart.
   void PairNeighbour(Number at, Number by) {
     const Number next = at + by;
     if (moved_[Index(at)] < 0 || next < 0 || next >= before_.Count()) return;

@@ -10,14 +10,15 @@ namespace velor {
 
 /// Hides from the engine what it would move, drop or run:
 /// - server code (`<% %>`, `<?php ?>`, and `<!--#include-->` inside tags);
-/// - template signs (see TemplateSigns.h) among attributes and where text may not stand: between
-/// the
-///   parts of a table, before the body, behind the page's end;
-/// - NOSCRIPT elements (where scripts are off their content is markup, which tears a HEAD open);
+/// - template signs (TemplateSigns.h) among attributes and where text may not stand: between parts
+///   of a table, before the body, behind the page's end;
+/// - NOSCRIPT elements (with scripts off a parser reads their content as markup, which ends a
+/// HEAD);
 /// - the attribute that makes a TEMPLATE a shadow root, which no serialisation has.
-/// In content a comment takes their place, inside a tag a word of the page's own. Real comments
-/// stay. Left out altogether are blanks behind the page's last end tags: a parser moves them before
-/// these tags, where they would stand between the page's text and whatever is added at its end.
+/// In content a comment takes the place of such a piece, inside a tag a word that the page does not
+/// contain. The page's own comments stay. Blanks behind the page's last end tags are left out
+/// altogether: a parser moves them before these tags, between the page's text and whatever is added
+/// at its end.
 ///
 /// Offsets count UTF-16 units. "Masked" is the text that the engine is given, or one of its
 /// serialisations.
@@ -30,11 +31,11 @@ class PageMask {
   /// A text of the engine's with the original pieces in the place of their masks.
   QString Unmask(const QString &text) const;
 
-  /// The first of the hidden pieces that neither serialisation has a mask of: it was dropped when
-  /// the text was parsed, not by an edit.
+  /// The first hidden piece whose mask neither serialisation has: the parser dropped it, not an
+  /// edit. Nothing where there is none.
   std::optional<QString> Dropped(const QString &before, const QString &now) const;
 
-  /// Whether that place of the source is in server code.
+  /// Whether that offset of the source is in server code.
   bool IsServerCode(qsizetype source) const;
 
   enum class Edge { Start, End };
@@ -46,7 +47,13 @@ class PageMask {
 
  private:
   friend class PageMasker;
-  enum class Kind { Content, AttributeName, NamePart, InTag, LeftOut };
+  enum class Kind {
+    Content,        ///< outside of tags: a comment takes its place
+    AttributeName,  ///< in a tag where an attribute may begin: a word with a blank before it
+    NamePart,       ///< in a tag, joined to the name before it: a word
+    InTag,          ///< in an attribute's value, or in raw text: a word
+    LeftOut,        ///< nothing takes its place
+  };
   struct Piece {
     qsizetype source = 0;
     qsizetype sourceLength = 0;
@@ -56,11 +63,13 @@ class PageMask {
     QString text;
   };
 
+  /// The word that stands for the piece of that number.
   QString WordOf(std::size_t number) const;
+  /// The last piece whose mask begins before an offset of the masked text; nullptr for none.
   const Piece *PieceBefore(qsizetype masked) const;
 
   QString masked_;
-  QString stem_;
+  QString stem_;  ///< how all words of this page begin; the page does not contain it
   std::vector<Piece> pieces_;
 };
 

@@ -27,7 +27,7 @@ bool IsSpace(QChar unit) {
   return unit == u' ' || unit == u'\n' || unit == u'\t' || unit == u'\r' || unit == u'\f';
 }
 
-/// Behind the next `close`, or the text's end.
+/// The offset behind the next `close`; the text's end where there is none.
 qsizetype After(QStringView text, QStringView close, qsizetype from) {
   const qsizetype found = text.indexOf(close, from);
   return found < 0 ? text.size() : found + close.size();
@@ -45,7 +45,7 @@ void PageMasker::Run() {
       ReadMarkup();
   }
   LeaveOutTail();
-  Write();
+  WriteMaskedText();
 }
 
 bool PageMasker::IsSpaceAt(qsizetype at) const {
@@ -58,7 +58,6 @@ bool PageMasker::IsLetterAt(qsizetype at) const {
   return code >= u'a' && code <= u'z';
 }
 
-/// Where the server code ends that begins at `at`; `at` itself where none does.
 qsizetype PageMasker::EndOfServerCode(qsizetype at) const {
   const QStringView rest = source_.sliced(at);
   if (rest.startsWith(u"<%")) return After(source_, u"%>", at + 2);
@@ -80,7 +79,7 @@ qsizetype PageMasker::EndOfComment() const {
   return source_.size();
 }
 
-void PageMasker::Note(qsizetype end, PageMask::Kind kind) {
+void PageMasker::Hide(qsizetype end, PageMask::Kind kind) {
   PageMask::Piece piece;
   piece.source = at_;
   piece.sourceLength = end - at_;
@@ -89,21 +88,19 @@ void PageMasker::Note(qsizetype end, PageMask::Kind kind) {
   at_ = end;
 }
 
-/// Reads text up to `end`, or up to the end of the first template sign in it that is to be masked.
 void PageMasker::ReadText(qsizetype end) {
   const bool mayHaveSigns = isBeforeBody_ || isBehindEnd_ || places_.IsBetweenTableParts();
   const qsizetype sign = mayHaveSigns ? NextSign(end) : end;
-  TakeText(sign);
+  AccountForText(sign);
   at_ = sign;
   if (sign == end) return;
   // The text before the sign may have begun the body.
   if (IsNoPlaceForText())
-    return Note(signs_.EndOf(sign, SignPlace::BetweenTags), PageMask::Kind::Content);
-  TakeText(end);
+    return Hide(signs_.EndOf(sign, SignPlace::BetweenTags), PageMask::Kind::Content);
+  AccountForText(end);
   at_ = end;
 }
 
-/// Whether a parser moves text that stands here, or makes it begin the body.
 bool PageMasker::IsNoPlaceForText() const {
   return places_.IsBetweenTableParts() || isBehindEnd_ || (isBeforeBody_ && LastFrameTag() > at_);
 }
@@ -114,8 +111,6 @@ qsizetype PageMasker::NextSign(qsizetype end) {
   return at;
 }
 
-/// The last tag of HTML, HEAD, BODY or FRAMESET, or doctype: a fragment without them has no place
-/// before its body.
 qsizetype PageMasker::LastFrameTag() const {
   if (lastFrameTag_ > -2) return lastFrameTag_;
   static const QRegularExpression tag(
@@ -127,18 +122,17 @@ qsizetype PageMasker::LastFrameTag() const {
   return lastFrameTag_;
 }
 
-void PageMasker::TakeText(qsizetype end) {
+void PageMasker::AccountForText(qsizetype end) {
   if (end == at_ || std::all_of(source_.begin() + at_, source_.begin() + end, IsSpace)) {
     if (isBehindEnd_ && end > at_)
       tail_.push_back({at_, end - at_, 0, 0, PageMask::Kind::LeftOut, {}});
     return;
   }
   isBeforeBody_ = false;
-  LeaveEnd();
+  KeepTail();
 }
 
-/// More than the page's end follows: the blanks there are the engine's to see.
-void PageMasker::LeaveEnd() {
+void PageMasker::KeepTail() {
   isBehindEnd_ = false;
   tail_.clear();
 }
@@ -150,10 +144,9 @@ void PageMasker::LeaveOutTail() {
             [](const PageMask::Piece &a, const PageMask::Piece &b) { return a.source < b.source; });
 }
 
-/// What begins with the "<" at hand.
 void PageMasker::ReadMarkup() {
   if (const qsizetype end = EndOfServerCode(at_); end > at_)
-    return Note(end, PageMask::Kind::Content);
+    return Hide(end, PageMask::Kind::Content);
   const QChar next = at_ + 1 < source_.size() ? source_[at_ + 1] : QChar();
   if (source_.sliced(at_).startsWith(u"<!--")) {
     at_ = EndOfComment();
@@ -163,14 +156,13 @@ void PageMasker::ReadMarkup() {
     at_ = After(source_, u">", at_);
   } else if (const qsizetype end = signs_.EndOf(at_, SignPlace::BetweenTags);
              end > at_ && IsNoPlaceForText()) {
-    Note(end, PageMask::Kind::Content);
+    Hide(end, PageMask::Kind::Content);
   } else {  // a sign of text
-    TakeText(at_ + 1);
+    AccountForText(at_ + 1);
     ++at_;
   }
 }
 
-/// A tag with the code in it, and the raw text behind it.
 void PageMasker::ReadTag() {
   const qsizetype start = at_;
   const std::size_t firstPiece = mask_.pieces_.size();
@@ -182,7 +174,7 @@ void PageMasker::ReadTag() {
     ++nameEnd;
   const QStringView name = source_.sliced(nameStart, nameEnd - nameStart);
   at_ = nameEnd;
-  FollowTag(name, isEndTag);
+  AccountForTag(name, isEndTag);
   ReadAttributes(name);
   if (isEndTag) return;
   if (name.compare(u"noscript", Qt::CaseInsensitive) == 0) {
@@ -195,8 +187,7 @@ void PageMasker::ReadTag() {
   if (key == elements::Plaintext) at_ = source_.size();
 }
 
-/// Keeps account of where the page is before and behind a tag.
-void PageMasker::FollowTag(QStringView name, bool isEndTag) {
+void PageMasker::AccountForTag(QStringView name, bool isEndTag) {
   const std::uint32_t key = HtmlNameKey(name);
   if (isEndTag)
     places_.EndTag(key);
@@ -208,16 +199,15 @@ void PageMasker::FollowTag(QStringView name, bool isEndTag) {
   if (isPagesEnd && isWhole)
     isBehindEnd_ = true;
   else
-    LeaveEnd();
+    KeepTail();
 }
 
-/// Walks to the tag's end; `at_` is behind it then.
 void PageMasker::ReadAttributes(QStringView name) {
   const bool isTemplate = name.compare(u"template", Qt::CaseInsensitive) == 0;
   TagState tag;
   tag.nameEnd = at_;
   while (at_ < source_.size()) {
-    if (MaskInTag(tag)) continue;
+    if (HideInTag(tag)) continue;
     const QChar unit = source_[at_++];
     if (!tag.quote.isNull()) {
       if (unit == tag.quote) tag = {tag.nameEnd, QChar(), false};
@@ -235,8 +225,7 @@ void PageMasker::ReadAttributes(QStringView name) {
   }
 }
 
-/// Masks the server code or template sign that begins here; false where there is none.
-bool PageMasker::MaskInTag(const TagState &tag) {
+bool PageMasker::HideInTag(const TagState &tag) {
   const bool isInValue = tag.isValue || !tag.quote.isNull();
   qsizetype end = source_[at_] == u'<' ? EndOfServerCode(at_) : at_;
   if (source_.sliced(at_).startsWith(u"<!--#")) end = After(source_, u"-->", at_);
@@ -247,14 +236,12 @@ bool PageMasker::MaskInTag(const TagState &tag) {
   const QChar before = source_[at_ - 1];
   const bool isJoined = !isCode && at_ > tag.nameEnd && !IsSpace(before) && before != u'"' &&
                         before != u'\'' && before != u'/';
-  Note(end, isInValue  ? PageMask::Kind::InTag
+  Hide(end, isInValue  ? PageMask::Kind::InTag
             : isJoined ? PageMask::Kind::NamePart
                        : PageMask::Kind::AttributeName);
   return true;
 }
 
-/// A sign in a value is left to be seen and edited there, unless a parser would end the value in
-/// it.
 qsizetype PageMasker::EndOfSignInTag(const TagState &tag) {
   const qsizetype end = signs_.EndOf(at_, SignPlace::InTag);
   const QStringView sign = source_.sliced(at_, end - at_);
@@ -265,31 +252,29 @@ qsizetype PageMasker::EndOfSignInTag(const TagState &tag) {
   return endsValue ? end : at_;
 }
 
-/// The attribute that makes a TEMPLATE a shadow root.
 bool PageMasker::HideShadowRoot() {
   for (const QStringView name : {QStringView(u"shadowrootmode"), QStringView(u"shadowroot")}) {
     const QStringView rest = source_.sliced(at_);
     if (!rest.startsWith(name, Qt::CaseInsensitive)) continue;
     const QChar next = rest.size() > name.size() ? rest[name.size()] : QChar(u' ');
     if (!IsSpace(next) && next != u'=' && next != u'>' && next != u'/') continue;
-    Note(at_ + name.size(), PageMask::Kind::InTag);
+    Hide(at_ + name.size(), PageMask::Kind::InTag);
     return true;
   }
   return false;
 }
 
-/// Masks a NOSCRIPT element from its start tag to its end tag, where it has one.
 bool PageMasker::HideNoscript(qsizetype start, std::size_t firstPiece) {
   // Looked for once, not once for each of many that are never closed.
-  if (noscriptClose_ < at_) noscriptClose_ = CloseOf(u"noscript", at_);
+  if (noscriptClose_ < at_) noscriptClose_ = EndTagFrom(u"noscript", at_);
   if (noscriptClose_ >= source_.size()) return false;
   mask_.pieces_.resize(firstPiece);
   at_ = start;
-  Note(After(source_, u">", noscriptClose_), PageMask::Kind::Content);
+  Hide(After(source_, u">", noscriptClose_), PageMask::Kind::Content);
   return true;
 }
 
-qsizetype PageMasker::CloseOf(QStringView name, qsizetype from) const {
+qsizetype PageMasker::EndTagFrom(QStringView name, qsizetype from) const {
   for (qsizetype at = source_.indexOf(u"</", from); at >= 0; at = source_.indexOf(u"</", at + 2)) {
     if (!source_.sliced(at + 2).startsWith(name, Qt::CaseInsensitive)) continue;
     const qsizetype end = at + 2 + name.size();
@@ -299,10 +284,9 @@ qsizetype PageMasker::CloseOf(QStringView name, qsizetype from) const {
   return source_.size();
 }
 
-/// Server code in raw text is text there; only an end tag in it would be taken for the element's.
 void PageMasker::ReadRawText(QStringView name) {
   for (;;) {
-    const qsizetype close = CloseOf(name, at_);
+    const qsizetype close = EndTagFrom(name, at_);
     qsizetype code = source_.indexOf(u'<', at_);
     qsizetype codeEnd = code;
     while (code >= 0 && code < close) {
@@ -315,11 +299,11 @@ void PageMasker::ReadRawText(QStringView name) {
       return;
     }
     at_ = code;
-    Note(codeEnd, PageMask::Kind::InTag);
+    Hide(codeEnd, PageMask::Kind::InTag);
   }
 }
 
-void PageMasker::Write() {
+void PageMasker::WriteMaskedText() {
   QString &masked = mask_.masked_;
   if (mask_.pieces_.empty()) {
     masked = source_.toString();

@@ -11,8 +11,8 @@
 
 namespace velor {
 
-/// Walks through a page's source once, notes what a PageMask is to replace, and writes the masked
-/// text.
+/// Builds a PageMask: walks through the page's source once, records the pieces to hide, and writes
+/// the masked text. `at_` is where the walk is; functions that read move it behind what they read.
 class PageMasker {
  public:
   PageMasker(const QString &source, PageMask &mask)
@@ -28,37 +28,65 @@ class PageMasker {
     bool isValue = false;  ///< behind an "="
   };
 
+  /// The offset behind the server code that begins at `at`; `at` itself where none does.
   qsizetype EndOfServerCode(qsizetype at) const;
+  /// The offset behind the comment that begins at `at_`.
   qsizetype EndOfComment() const;
   bool IsSpaceAt(qsizetype at) const;
   bool IsLetterAt(qsizetype at) const;
 
-  void Note(qsizetype end, PageMask::Kind kind);
+  /// Records the source from `at_` to `end` as a piece to hide, and moves behind it.
+  void Hide(qsizetype end, PageMask::Kind kind);
 
   // Text
+  /// Reads text up to `end`, or up to the end of the first template sign in it that is to be
+  /// hidden.
   void ReadText(qsizetype end);
+  /// Whether a parser moves text that stands at `at_`, or makes it begin the body.
   bool IsNoPlaceForText() const;
+  /// Where the next template sign begins; `end` where there is none before it.
   qsizetype NextSign(qsizetype end);
-  void TakeText(qsizetype end);
+  /// Notes what the text from `at_` to `end` means for the places behind it. Blanks mean nothing,
+  /// but behind the page's end they are candidates for being left out.
+  void AccountForText(qsizetype end);
+  /// Offset of the source's last tag of HTML, HEAD, BODY or FRAMESET, or doctype; -1 for a fragment
+  /// without them, which has no place before its body.
   qsizetype LastFrameTag() const;
 
   // The blanks behind the page's end tags
-  void LeaveEnd();
+  /// What follows is more than blanks: the page has not ended, and its blanks stay.
+  void KeepTail();
+  /// Leaves out the blanks behind the page's end tags.
   void LeaveOutTail();
 
   // Markup
+  /// Reads what begins with the "<" at `at_`.
   void ReadMarkup();
+  /// Reads a tag with the code in it, and the raw text behind it.
   void ReadTag();
-  void FollowTag(QStringView name, bool isEndTag);
+  /// Updates the places (before the body, in a table, behind the end) for a tag.
+  void AccountForTag(QStringView name, bool isEndTag);
+  /// Reads up to the tag's end.
   void ReadAttributes(QStringView name);
-  bool MaskInTag(const TagState &tag);
+  /// Hides the server code or template sign that begins at `at_`; false where there is none.
+  bool HideInTag(const TagState &tag);
+  /// The offset behind the template sign at `at_` that is to be hidden; `at_` where there is none.
+  /// A sign in a value stays, to be seen and edited there, unless a parser would end the value in
+  /// it.
   qsizetype EndOfSignInTag(const TagState &tag);
+  /// Hides the attribute at `at_` where it is the one that makes a TEMPLATE a shadow root.
   bool HideShadowRoot();
+  /// Hides the NOSCRIPT element whose start tag, begun at `start`, was just read, instead of the
+  /// pieces from `firstPiece` on in that tag; false where the element has no end tag.
   bool HideNoscript(qsizetype start, std::size_t firstPiece);
-  qsizetype CloseOf(QStringView name, qsizetype from) const;
+  /// Where the next end tag of that name begins; the text's end where there is none.
+  qsizetype EndTagFrom(QStringView name, qsizetype from) const;
+  /// Reads the content of a raw text element. Server code in it is text, and hidden only where it
+  /// holds an end tag that would be taken for the element's.
   void ReadRawText(QStringView name);
 
-  void Write();
+  /// Writes the masked text, with a mask in the place of each piece.
+  void WriteMaskedText();
 
   QStringView source_;
   PageMask &mask_;

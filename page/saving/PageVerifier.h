@@ -14,7 +14,7 @@ class PageVerifier {
   /// The serialisation of the document that the engine parses the text to; nothing where the engine
   /// does not answer.
   virtual std::optional<QString> Serialisation(const QString &text) = 0;
-  /// The same answer, quicker where it is `expected`.
+  /// The same answer; takes less time if it equals `expected`.
   virtual std::optional<QString> SerialisationLike(const QString &text,
                                                    const QString & /*expected*/) {
     return Serialisation(text);

@@ -21,7 +21,8 @@ bool IsBlank(const HtmlToken &token) {
   return token.kind == HtmlTokenKind::Blank || token.kind == HtmlTokenKind::LineBreak;
 }
 
-/// Whether a token stands beside the page's frame, with nothing but blanks between.
+/// Whether nothing but blanks stands between a token and a tag of HTML, HEAD or BODY, a doctype, or
+/// an end of the source.
 bool IsBesideFrame(const TokenText &source, std::int32_t number) {
   std::int32_t back = number;
   while (back >= 0 && IsBlank(source.At(back))) --back;
@@ -34,8 +35,8 @@ bool IsBesideFrame(const TokenText &source, std::int32_t number) {
          isFrame(source.At(ahead));
 }
 
-/// Whether a token of a serialisation is a tag of the page's frame that a parser may have implied:
-/// one without attributes.
+/// Whether a token of a serialisation is a tag of HTML, HEAD or BODY that a parser may have
+/// implied: one without attributes.
 bool IsImpliedFrame(const HtmlToken &token) {
   constexpr std::int32_t LengthOfBareTag = 6;  // <html>, <head>, <body>
   return IsFrameTag(token) &&
@@ -77,8 +78,8 @@ struct SharedEnds {
 
 }  // namespace
 
-/// Gives the source of a region the tokens that the document has now, each as the source writes it
-/// where the source has it.
+/// Writes a region of the source anew: the tokens that the document has now, each as the source
+/// writes it where it has a counterpart there.
 class SourcePatches::RegionWriter {
  public:
   RegionWriter(const SourcePatches &patcher, Region region, Patches &out)
@@ -125,8 +126,9 @@ class SourcePatches::RegionWriter {
     next_ = source + 1;
   }
 
-  /// What the edit took away goes. The page's frame and the blanks around it stay; what else the
-  /// parser ignored, or moved, could count now.
+  /// Whether a token of the source that the document does not have stays: a tag of HTML, HEAD or
+  /// BODY that the parser ignored, and blanks that it ignored beside one. All else goes: an edit
+  /// took it away, or the parser ignored or moved it and might now read it otherwise.
   bool Stays(Number source) const {
     const HtmlToken &token = source_.At(source);
     const bool isIgnored = patcher_.sourceToBefore_.toOther[Index(source)] < 0;
@@ -154,8 +156,8 @@ class SourcePatches::RegionWriter {
   Region region_;
   bool isPage_;
   Patches &out_;
-  qsizetype done_ = 0;  ///< the source is settled up to this offset
-  Number next_ = 0;     ///< the source's first token that is not
+  qsizetype done_ = 0;  ///< patches for the source up to this offset are written
+  Number next_ = 0;     ///< the first token of the source behind `done_`
   QString added_;
 };
 
@@ -202,7 +204,6 @@ SourcePatches::Number SourcePatches::CounterpartOfNow(Number now) const {
   return before >= 0 ? CounterpartInOrder(before) : -1;
 }
 
-/// What the parser moved counts as long as it is in order.
 SourcePatches::SourceRange SourcePatches::CounterpartOf(const PageEdit &edit) const {
   SourceRange range;
   for (Number at = edit.before; at < edit.beforeEnd; ++at) {
@@ -214,8 +215,6 @@ SourcePatches::SourceRange SourcePatches::CounterpartOf(const PageEdit &edit) co
   return range;
 }
 
-/// The text of tokens of a serialisation. A source without tags of HTML, HEAD and BODY gets none
-/// that a parser implies.
 QString SourcePatches::TextOf(const TokenText &serialisation, Number from, Number to) const {
   if (hasFrameTags_) return serialisation.Slice(from, to).toString();
   QString text;
@@ -237,7 +236,6 @@ QString SourcePatches::ImpliedRightOf(const PageEdit &edit) const {
   return TextOf(before_, edit.beforeEnd, right);
 }
 
-/// Where the source gets what is inserted by an edit that takes nothing of it away.
 qsizetype SourcePatches::InsertionPlace(const PageEdit &edit) const {
   Number left = edit.before;
   while (left > 0 && CounterpartAnywhere(left - 1) < 0) --left;
@@ -248,7 +246,7 @@ qsizetype SourcePatches::InsertionPlace(const PageEdit &edit) const {
   return left > 0 ? source_.At(CounterpartAnywhere(left - 1)).End() : 0;
 }
 
-bool SourcePatches::EndsLike(Number before, Number source) const {
+bool SourcePatches::AreSameEndTag(Number before, Number source) const {
   const HtmlToken &one = before_.At(before);
   const HtmlToken &other = source_.At(source);
   return one.kind == HtmlTokenKind::EndTag && other.kind == HtmlTokenKind::EndTag &&
@@ -273,7 +271,7 @@ std::optional<std::vector<TextPatch>> SourcePatches::PatchesFor(
     if (edit.isTagChange && CounterpartAnywhere(edit.before) >= 0)
       PatchTagAt(CounterpartAnywhere(edit.before), edit, patches);
     else
-      PatchStretch(edit, steps[number].rung, patches);
+      PatchTokens(edit, steps[number].rung, patches);
   }
   std::stable_sort(patches.begin(), patches.end(), [](const TextPatch &a, const TextPatch &b) {
     return a.start != b.start ? a.start < b.start : a.end < b.end;
@@ -314,7 +312,6 @@ std::optional<SourcePatches::Region> SourcePatches::RegionOf(const PageEdit &edi
   return std::nullopt;
 }
 
-/// Leaves out of the patch what it shares with the source at both ends.
 void SourcePatches::Replace(qsizetype start, qsizetype end, const QString &text,
                             Patches &out) const {
   const QStringView old = QStringView(source_.text).sliced(start, end - start);
@@ -341,8 +338,7 @@ void SourcePatches::PatchTagAt(Number source, const PageEdit &edit, Patches &out
     Replace(patch.start, patch.end, WithPageLineEnds(patch.text), out);
 }
 
-/// Writes the stretch of source that an edit replaces anew.
-void SourcePatches::PatchStretch(const PageEdit &edit, PatchRung rung, Patches &out) const {
+void SourcePatches::PatchTokens(const PageEdit &edit, PatchRung rung, Patches &out) const {
   const SourceRange range = CounterpartOf(edit);
   const QString left = rung == PatchRung::EditAlone ? QString() : ImpliedLeftOf(edit);
   const QString right = rung == PatchRung::ImpliedTagsAround ? ImpliedRightOf(edit) : QString();
@@ -357,14 +353,13 @@ void SourcePatches::PatchStretch(const PageEdit &edit, PatchRung rung, Patches &
   qsizetype end = source_.At(range.last).End();
   // Where an end tag is needed in place of the same one that goes, that one stays.
   if (!text.isEmpty() && right.isEmpty() && fresh.isEmpty() &&
-      EndsLike(edit.before - 1, range.last)) {
+      AreSameEndTag(edit.before - 1, range.last)) {
     text.chop(before_.At(edit.before - 1).length);
     end = source_.At(range.last).offset;
   }
   ReplaceBesideFrameTags(range, end, std::move(text), out);
 }
 
-/// Tags of the page's frame that only the source has stay where they are.
 void SourcePatches::ReplaceBesideFrameTags(SourceRange range, qsizetype end, QString text,
                                            Patches &out) const {
   qsizetype start = source_.At(range.first).offset;
@@ -388,7 +383,6 @@ bool SourcePatches::IsTextForText(SourceRange range, const PageEdit &edit) const
   return true;
 }
 
-/// References of the source that the edit did not touch stay as they are written.
 void SourcePatches::PatchCharacters(SourceRange range, const PageEdit &edit, Patches &out) const {
   const qsizetype place = source_.At(range.first).offset;
   const QStringView fresh = now_.Slice(edit.now, edit.nowEnd);

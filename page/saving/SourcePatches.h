@@ -27,6 +27,7 @@ struct PatchStep {
   PatchRung rung = PatchRung::EditAlone;
   int outwards = 0;
 
+  /// Goes to the next rung; at EnclosingElement one element outwards.
   void Escalate();
 };
 
@@ -62,26 +63,44 @@ class SourcePatches {
   };
   class RegionWriter;
 
+  /// The number in the source of a token of `before`; -1 for one that the parser implied or moved.
   Number CounterpartInOrder(Number before) const;
+  /// The same, tokens that the parser moved included.
   Number CounterpartAnywhere(Number before) const;
+  /// The number in the source of a token of `now`; -1 for a new, implied or moved one.
   Number CounterpartOfNow(Number now) const;
+  /// What an edit takes away from the source. Moved tokens count as long as they are in order.
   SourceRange CounterpartOf(const PageEdit &edit) const;
+  /// The text of tokens of a serialisation, without the implied tags of HTML, HEAD and BODY where
+  /// the source has none of those.
   QString TextOf(const TokenText &serialisation, Number from, Number to) const;
+  /// The tokens without counterpart right before an edit, and right behind it.
   QString ImpliedLeftOf(const PageEdit &edit) const;
   QString ImpliedRightOf(const PageEdit &edit) const;
+  /// Where the source gets what an edit inserts that takes nothing away.
   qsizetype InsertionPlace(const PageEdit &edit) const;
-  bool EndsLike(Number before, Number source) const;
+  /// Whether both tokens are end tags of one name.
+  bool AreSameEndTag(Number before, Number source) const;
 
-  /// Nothing where one of the edits has no element that far out.
+  /// The outermost regions of the edits at EnclosingElement. Nothing where one of them has no
+  /// element that far out.
   std::optional<std::vector<Region>> RegionsFor(const std::vector<PageEdit> &edits,
                                                 const std::vector<PatchStep> &steps) const;
   std::optional<Region> RegionOf(const PageEdit &edit, int outwards) const;
 
+  /// Gives a start tag of the source the attributes that it has in `now`.
   void PatchTagAt(Number source, const PageEdit &edit, Patches &out) const;
-  void PatchStretch(const PageEdit &edit, PatchRung rung, Patches &out) const;
+  /// Replaces the tokens of the source that an edit replaces.
+  void PatchTokens(const PageEdit &edit, PatchRung rung, Patches &out) const;
+  /// Whether an edit puts text in the place of text, without tags on either side.
   bool IsTextForText(SourceRange range, const PageEdit &edit) const;
+  /// Replaces the characters that differ. References of the source that the edit did not touch stay
+  /// as they are written.
   void PatchCharacters(SourceRange range, const PageEdit &edit, Patches &out) const;
+  /// Replaces the source from the range's start to the offset `end`. Tags of HTML, HEAD and BODY
+  /// that only the source has stay where they are.
   void ReplaceBesideFrameTags(SourceRange range, qsizetype end, QString text, Patches &out) const;
+  /// Adds a patch, less what old and new text share at both ends.
   void Replace(qsizetype start, qsizetype end, const QString &text, Patches &out) const;
   QString WithPageLineEnds(QStringView text) const;
 

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// Places of a document in its source and back. Positions in UTF-16 units.
+// From places in a document to offsets in its source (UTF-16 units) and back.
 namespace velor {
 
 /// The offset in the source of the first of the places whose element has a tag there; nothing where

@@ -24,11 +24,10 @@ inline constexpr int SourceRoleCount = 8;
 /// of a page; any number is accepted.
 using SourceLineState = int;
 
-/// Finds the role of each byte of one line of UTF-8 source, its line end included; returns the
-/// state in which the next line begins. The control keeps the states of all lines, so that only
-/// visible lines are coloured. Any bytes and any state are accepted.
-///
-/// `roles` has room for as many as the line has bytes.
+/// Writes the role of each byte of one line of UTF-8 source, its line end included, to `roles`,
+/// which has room for as many as the line has bytes. Returns the state in which the next line
+/// begins. The source control keeps the states of all lines, so that only visible lines are
+/// coloured. Bytes that are no valid UTF-8 and unknown states are accepted.
 SourceLineState RolesOfLine(QByteArrayView line, SourceLineState state, SourceRole *roles);
 
 /// RolesOfLine for a line of a style sheet, of a script and of server code (PHP, VBScript), with a

@@ -11,7 +11,7 @@
 
 namespace velor {
 
-/// What is no text in HTML source.
+/// Markup in HTML source: a tag, a comment, a doctype or a declaration. Offsets in bytes.
 struct SourceTag {
   enum class Kind { Start, End, Other };  ///< Other: comments, doctypes, declarations
 
@@ -23,30 +23,31 @@ struct SourceTag {
   bool operator==(const SourceTag &) const = default;
 };
 
-/// Tells the tags of UTF-8 source in their order, until `visit` answers false. What stands in
-/// scripts, styles, text areas and the like is their text. Any bytes will do.
+/// Calls `visit` with each tag of UTF-8 source, in order, until it answers false. The content of
+/// scripts, styles, text areas and the like has no tags. Bytes that are no valid UTF-8 are
+/// accepted.
 ///
-/// Beside TokenizeHtml (HtmlTokens.h) because it follows every keystroke of the source editor: it
-/// reads the control's own bytes without a copy and passes over text, of which the tokenizer makes
-/// tokens and keys. It knows no foreign content and no escapes of scripts; only saving needs them.
+/// It is not TokenizeHtml (HtmlTokens.h), since it runs after every keystroke in the source editor:
+/// it reads the control's bytes without a copy and skips text, which the tokenizer cuts into
+/// tokens. It knows neither foreign content nor the escapes of scripts; only saving needs those.
 void VisitTags(QByteArrayView source, const std::function<bool(const SourceTag &)> &visit);
 
-/// The tag that holds that byte and the one that closes or opens its element; the second is absent
-/// for elements without content and for what is not closed. Nothing outside of tags.
+/// A tag and the other tag of its element, which elements without content and unclosed ones lack.
 struct TagPair {
   SourceTag own;
   std::optional<SourceTag> other;
 };
+/// The pair of the tag that holds the byte at `position`; nothing outside of tags.
 std::optional<TagPair> MatchingTags(QByteArrayView source, qsizetype position);
 
-/// From a tag to what closes it, or a comment: what can be folded away.
+/// Bytes of source that can be folded away: an element with its tags, or a comment.
 struct SourceStretch {
   qsizetype begin = 0;
   qsizetype end = 0;  ///< behind the last byte
 };
 
-/// Elements whose end tag is there, and comments, in the order of their ends. An end tag closes the
-/// nearest element of its name and what was left open inside.
+/// All elements that have an end tag, and all comments, ordered by their ends. An end tag closes
+/// the nearest open element of its name, and those left open inside.
 std::vector<SourceStretch> FoldableStretches(QByteArrayView source);
 
 /// Whether elements of that name (lower case) have neither content nor end tag.

@@ -23,12 +23,13 @@ class CharsetConverter {
   CharsetConverter(const CharsetConverter &) = delete;
   CharsetConverter &operator=(const CharsetConverter &) = delete;
 
-  /// Bytes that are no text become U+FFFD.
+  /// Invalid bytes become U+FFFD. Never raises.
   QString Decode(QByteArrayView bytes);
-  /// The same; `offsets` gets for each UTF-16 unit the place of the first byte of its character.
+  /// Decode that also fills `offsets`: for each UTF-16 unit the offset of its character's first
+  /// byte.
   QString Decode(QByteArrayView bytes, std::vector<std::int32_t> &offsets);
 
-  /// What would not read back as the same character is written as a decimal reference.
+  /// A character that would not decode to itself is written as a decimal reference (&#26085;).
   QByteArray Encode(const QString &text);
   /// Where in the text (UTF-16 units) the first character stands that would be written as a
   /// reference; -1 for none.
@@ -40,6 +41,7 @@ class CharsetConverter {
   QByteArray EncodeUnicode(const QString &text);
   /// The bytes of a character beyond ASCII; empty for one that the charset lacks.
   QByteArray BytesOf(char32_t character) const;
+  /// Whether the character is written in the charset, not as a reference.
   bool Writes(char32_t character) const;
 
   CharsetForm form_;

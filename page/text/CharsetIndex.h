@@ -14,16 +14,18 @@ namespace velor {
 /// The rules by which a charset's bytes are read.
 enum class CharsetForm { Unicode, SingleByte, Big5, EucJp, EucKr, Gb, Iso2022Jp, ShiftJis };
 
-/// The characters of a charset beyond ASCII, as the Encoding Standard's indexes give them; 0 stands
-/// for none. ISO-2022-JP has those of EUC-JP, whose bytes are its own with the highest bit set.
+/// The characters of a charset beyond ASCII, as the Encoding Standard's indexes give them; 0 where
+/// the bytes stand for none. ISO-2022-JP shares EUC-JP's, whose bytes are the same with the highest
+/// bit set.
 struct CharsetIndex {
   /// Characters of one byte, from 0x80 on.
   std::array<char16_t, 128> singles{};
-  /// Characters of two bytes, see Pair.
+  /// Characters of two bytes, at the place that Pair answers.
   std::vector<char32_t> pairs;
-  /// Characters of three bytes in EUC-JP: what follows 0x8F.
+  /// Characters of three bytes in EUC-JP, by the two bytes behind 0x8F.
   std::vector<char32_t> triples;
-  /// For each character of the BMP the byte or the two bytes to write.
+  /// By character of the BMP: the byte or two bytes (lead * 256 + trail) that encode it; 0 for
+  /// none.
   std::vector<std::uint16_t> written;
 
   /// The place of two bytes, the first from 0x80 on, in `pairs` and `triples`.
@@ -34,13 +36,13 @@ struct CharsetIndex {
 
 CharsetForm FormOf(const QString &charset);
 
-/// `charset` is a WHATWG name of another form than Unicode. The library's tables, and the
-/// standard's characters where these differ. Made at the first use.
+/// The index of a charset (WHATWG name) of any form but Unicode, made at its first use from ICU's
+/// tables, with the standard's characters where the two differ.
 const CharsetIndex &IndexOf(const QString &charset);
 
-/// The characters that GB 18030 counts through in four bytes; 0 for bytes that are none.
+/// The character that GB 18030 computes from four bytes; 0 where the bytes stand for none.
 char32_t FourByteCharacter(QByteArrayView bytes);
-/// Empty where there are none.
+/// The four bytes of GB 18030 for a character; empty where there are none.
 QByteArray FourBytesOf(char32_t character);
 
 }  // namespace velor

@@ -6,7 +6,7 @@
 
 namespace velor {
 
-/// A head that is longer is not looked through.
+/// Bytes of a page in which a declaration is looked for.
 inline constexpr qsizetype LongestHead = 1'000'000;
 
 /// The charset that a page's first bytes declare: by the HTML standard's "prescan a byte stream to

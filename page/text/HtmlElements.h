@@ -7,7 +7,7 @@
 #include <string_view>
 #include <type_traits>
 
-/// The elements that a parser treats in ways of their own, by the keys of their names.
+// Elements that a parser treats in special ways, as keys of their names (NameKeyOf).
 namespace velor::elements {
 
 template <std::size_t Count>
@@ -15,7 +15,7 @@ bool IsOneOf(std::uint32_t name, const std::uint32_t (&names)[Count]) {
   return std::find(std::begin(names), std::end(names), name) != std::end(names);
 }
 
-/// Of a name in lower case.
+/// A hash of a name in lower case, never 0; HtmlToken::name and the lists below hold such keys.
 template <typename Unit>
 constexpr std::uint32_t NameKeyOf(std::basic_string_view<Unit> name) {
   std::uint32_t key = 2166136261U;
@@ -31,14 +31,16 @@ inline constexpr std::uint32_t Plaintext = NameKeyOf(u"plaintext");
 inline constexpr std::uint32_t Svg = NameKeyOf(u"svg");
 inline constexpr std::uint32_t Math = NameKeyOf(u"math");
 inline constexpr std::uint32_t Font = NameKeyOf(u"font");
+/// Elements whose text has neither references nor tags.
 inline constexpr std::uint32_t RawElements[] = {Script,
                                                 NameKeyOf(u"style"),
                                                 NameKeyOf(u"xmp"),
                                                 NameKeyOf(u"iframe"),
                                                 NameKeyOf(u"noembed"),
                                                 NameKeyOf(u"noframes")};
-/// Their text has references but no tags.
+/// Elements whose text has references but no tags.
 inline constexpr std::uint32_t TitleElements[] = {NameKeyOf(u"title"), NameKeyOf(u"textarea")};
+/// Elements behind whose start tag a parser drops one line break.
 inline constexpr std::uint32_t BreakDroppers[] = {NameKeyOf(u"pre"), NameKeyOf(u"listing"),
                                                   NameKeyOf(u"textarea")};
 /// Elements of foreign content whose inside is HTML again.

@@ -31,7 +31,7 @@ struct HtmlToken {
   HtmlTokenKind kind = HtmlTokenKind::Word;
   /// A tag, or a word of three or more characters: distinctive enough to align texts by.
   bool isStrong = false;
-  /// A tag outside foreign content: tokenizing may begin anew there.
+  /// A tag outside foreign content, from which tokenizing can start without what stands before.
   bool isFree = false;
 
   bool operator==(const HtmlToken &) const = default;
@@ -48,12 +48,13 @@ struct HtmlToken {
 /// The key of a tag name in any letter case ("image" is "img").
 std::uint32_t HtmlNameKey(QStringView name);
 
-/// Cuts a page's text into tokens, in order and without overlap; never raises, whatever the text.
-/// Characters between two tokens (NULs) are such as a parser drops. It follows the HTML standard's
-/// tokenizer, with the states that its tree builder would choose: raw text elements, script's
-/// escapes, foreign content. NOSCRIPT's content is markup, as where scripts are off.
-/// In a serialisation a PLAINTEXT element ends, as no page can write it.
+/// Where a text is from. In a serialisation a PLAINTEXT element has an end tag; in a page it never
+/// ends.
 enum class HtmlOrigin { Page, Serialisation };
+/// Cuts a page's text into tokens, in order and without overlap; never raises, whatever the text.
+/// Between two tokens are only characters that a parser drops (NULs). It follows the HTML
+/// standard's tokenizer, with the states that its tree builder would choose: raw text elements,
+/// script's escapes, foreign content. NOSCRIPT's content is markup, as where scripts are off.
 std::vector<HtmlToken> TokenizeHtml(QStringView text, HtmlOrigin origin = HtmlOrigin::Page);
 
 /// Incremental TokenizeHtml: reuses the tokens of `before` outside the one range that differs.

@@ -6,9 +6,9 @@
 
 namespace velor {
 
-/// Follows a page's tags, in order, to tell where text may stand. Between the parts of a table (in
-/// TABLE, TBODY, TR and the like, outside of cells and captions) it may not: a parser moves it
-/// before the table. Names are HtmlNameKey's.
+/// Tells whether text may stand behind the tags of a page that it was given so far, in order. Text
+/// may not stand between the parts of a table (in TABLE, TBODY, TR and the like, outside of cells
+/// and captions): a parser moves it before the table. Names are HtmlNameKey's.
 class TextPlaces {
  public:
   void StartTag(std::uint32_t name);
@@ -20,7 +20,7 @@ class TextPlaces {
  private:
   struct Table {
     bool isInCell = false;
-    /// Open elements that may not stand in a table: their text goes with them.
+    /// Number of open elements between the parts: a parser moves them with their text.
     int misplaced = 0;
   };
   std::vector<Table> tables_;  ///< the innermost last

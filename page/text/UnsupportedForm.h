@@ -8,14 +8,14 @@
 
 namespace velor {
 
-/// Forms of files that are no page in any charset that pages may have. DecodePage reads them as
-/// something, and a page edited in that reading would destroy the file.
+/// Forms of files that are no page in any charset that pages may have. DecodePage would decode them
+/// to a wrong text, and saving that would destroy the file.
 enum class UnsupportedForm { Utf32, Utf7, Ebcdic, Binary };
 
-/// Nothing for a page. Looks at the first few thousand bytes.
+/// The form of a file, by its first few thousand bytes; nothing for a page.
 std::optional<UnsupportedForm> UnsupportedFormOf(QByteArrayView bytes);
 
-/// What a person is told: "UTF-32, which is none of the charsets that pages may have".
+/// The form in words: "UTF-32, which is none of the charsets that pages may have".
 QString InWords(UnsupportedForm form);
 
 }  // namespace velor

@@ -11,7 +11,7 @@ namespace velor {
 namespace {
 
 /// What a killed process left beside a page.
-class LeftSiblings : public FileFaults {
+class StaleTempFiles : public FileFaults {
  protected:
   const QString Left = ".velor-0123456789abcdef.tmp";
 
@@ -25,14 +25,14 @@ class LeftSiblings : public FileFaults {
   bool IsThere(const QString &name) const { return Names().contains(name); }
 };
 
-TEST_F(LeftSiblings, GoWithTheNextSaveInTheirFolder) {
+TEST_F(StaleTempFiles, GoWithTheNextSaveInTheirFolder) {
   Leave(Left);
   Leave(".velor-1.tmp");
   Replace();
   EXPECT_EQ(Names(), QStringList("a.htm"));
 }
 
-TEST_F(LeftSiblings, OfAProcessKilledInTheMiddleOfASaveGo) {
+TEST_F(StaleTempFiles, OfAProcessKilledInTheMiddleOfASaveGo) {
   int step = 1;
   while (DiesAt(calls_, step, [this] { Replace(); }) && Names().size() == 1) ++step;
   ASSERT_EQ(Names().size(), 2);
@@ -42,7 +42,7 @@ TEST_F(LeftSiblings, OfAProcessKilledInTheMiddleOfASaveGo) {
   EXPECT_EQ(Names(), QStringList("a.htm"));
 }
 
-TEST_F(LeftSiblings, StayWhileTheirProcessIsAtWork) {
+TEST_F(StaleTempFiles, StayWhileTheirProcessIsAtWork) {
   Leave(Left);
   QFile working(folder_.filePath(Left));
   ASSERT_TRUE(working.open(QIODevice::ReadOnly));
@@ -54,13 +54,13 @@ TEST_F(LeftSiblings, StayWhileTheirProcessIsAtWork) {
   EXPECT_FALSE(IsThere(Left));
 }
 
-TEST_F(LeftSiblings, StayWhileTheyAreSoNewThatTheyMayBeAboutToBeClaimed) {
+TEST_F(StaleTempFiles, StayWhileTheyAreSoNewThatTheyMayBeAboutToBeClaimed) {
   Leave(Left, 5);
   Replace();
   EXPECT_TRUE(IsThere(Left));
 }
 
-TEST_F(LeftSiblings, OfStrangersStay) {
+TEST_F(StaleTempFiles, OfStrangersStay) {
   QStringList strangers{
       ".velor-.tmp",       ".velor-notes.tmp", ".velor-0123456789ABCDEF.tmp", "velor-12.tmp",
       ".velor-12.tmp.bak", ".velor-12.htm",    ".velor-00123456789abcdef.tmp"};

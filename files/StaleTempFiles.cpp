@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "files/LeftSiblings.h"
+#include "files/StaleTempFiles.h"
 
 #include "files/FileDescriptor.h"
 
@@ -22,11 +22,11 @@ namespace {
 constexpr std::string_view Prefix = ".velor-";
 constexpr std::string_view Suffix = ".tmp";
 constexpr std::size_t MostDigits = 16;
-/// Between its making and its claim, and between the end of its claim and its new name, a sibling
-/// has nothing but its youth to protect it (seconds).
+/// Seconds. Only its age protects a temporary file between its creation and its lock, and between
+/// the end of the lock and the renaming.
 constexpr time_t Young = 60;
 
-bool IsSiblingName(std::string_view name) {
+bool IsTempName(std::string_view name) {
   if (!name.starts_with(Prefix) || !name.ends_with(Suffix)) return false;
   const std::size_t around = Prefix.size() + Suffix.size();
   if (name.size() <= around || name.size() > around + MostDigits) return false;
@@ -34,7 +34,7 @@ bool IsSiblingName(std::string_view name) {
   return digits.find_first_not_of("0123456789abcdef") == std::string_view::npos;
 }
 
-bool IsLeft(int folder, const char *name) {
+bool IsStale(int folder, const char *name) {
   const FileDescriptor file(openat(folder, name, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
   struct stat status {};
   if (!file.IsOpen() || fstat(file.Number(), &status) != 0) return false;
@@ -45,23 +45,23 @@ bool IsLeft(int folder, const char *name) {
 
 }  // namespace
 
-QString NewSibling(const QString &folder) {
+QString NewTempName(const QString &folder) {
   const QString digits = QString::number(QRandomGenerator::system()->generate64(), 16);
   return folder + u'/' + QLatin1String(Prefix.data()) + digits + QLatin1String(Suffix.data());
 }
 
-void ClaimSibling(int file) {
+void MarkTempInUse(int file) {
   flock(file, LOCK_EX | LOCK_NB);
 }
 
-void RemoveLeftSiblings(const QString &folder, FileCalls &calls) {
-  // Read without asking for the nature of each entry: a folder may hold a great many.
+void RemoveStaleTempFiles(const QString &folder, FileCalls &calls) {
+  // Reads names only, without a stat of each entry: a folder may hold a great many.
   const auto close = [](DIR *directory) { closedir(directory); };
   const std::unique_ptr<DIR, decltype(close)> directory(
       opendir(QFile::encodeName(folder).constData()), close);
   if (directory == nullptr) return;
   while (const dirent *entry = readdir(directory.get())) {
-    if (!IsSiblingName(entry->d_name) || !IsLeft(dirfd(directory.get()), entry->d_name)) continue;
+    if (!IsTempName(entry->d_name) || !IsStale(dirfd(directory.get()), entry->d_name)) continue;
     calls.Unlink(QFile::encodeName(folder + u'/' + QFile::decodeName(entry->d_name)).constData());
   }
 }
