@@ -12,8 +12,9 @@
 
 namespace velor {
 
-/// The bridge's door into the program: the object "velorHost" of docs/bridge.md. The page calls its
-/// slots from inside the engine, so receivers of its signals may only store.
+/// The object "velorHost" that the bridge calls; docs/bridge.md says what each slot means. Slots
+/// run inside a callback of the engine, so that receivers of the signals may only store. The
+/// signals mean what those of EngineView of the same name do.
 class BridgeHost : public QObject {
   Q_OBJECT
 
@@ -54,8 +55,9 @@ class BridgeHost : public QObject {
 
  Q_SIGNALS:
   void StateArrived(const velor::StateSnapshot &state);
-  void MirrorArrived(const QVariantMap &told);
+  void MirrorArrived(const QVariantMap &changes);
   void PointerMoved(QPoint clientPosition);
+  /// The probe of a TurnQueue has arrived in the page.
   void InputArrived();
   void PictureWanted();
   void EarlierWanted();

@@ -7,15 +7,15 @@
 
 namespace velor {
 
-/// The world the bridge lives in, apart from the page's.
+/// The script world of the bridge: it shares the document with the page, but no variables.
 inline constexpr QWebEngineScript::ScriptWorldId BridgeWorld = QWebEngineScript::ApplicationWorld;
 
-/// The channel's client and the bundle of engine/bridge as one script. It is evaluated when a page
-/// is there: the engine's own injection at a document's creation is now and then left out after a
-/// page's process has ended.
+/// The web channel's client and the bundle of engine/bridge as one script. It is evaluated when a
+/// page has been loaded, not injected at the document's creation: the engine now and then leaves
+/// that out after a page's process has ended.
 QString BridgeScript();
 
-/// A value (text, truth, number, list) as an expression of the script language.
+/// A JavaScript literal for a value: a text, Boolean, number, list or map.
 QString ScriptValue(const QVariant &value);
 
 }  // namespace velor

@@ -20,10 +20,10 @@ qsizetype WeightOf(const FaithfulPage &page) {
 
 void DocumentHistory::Load(Original original) {
   current_ = std::move(original);
-  LoadAgain();
+  DropGenerations();
 }
 
-void DocumentHistory::LoadAgain() {
+void DocumentHistory::DropGenerations() {
   generation_ = 0;
   generations_.clear();
 }

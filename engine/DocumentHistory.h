@@ -13,8 +13,8 @@
 namespace velor {
 
 /// What the document on show came from, and the documents before and behind it in the undo history.
-/// One document takes another's place in two ways: within the page, as a step of the page's own
-/// history (a generation), or by a load, which that history does not survive. The latter are kept
+/// One document replaces another in two ways: within the page, as a step of the page's own history
+/// (a generation), or by a load, which ends that history. Documents replaced by a load are kept
 /// here as text, and undo at the beginning of the page's history steps to them.
 class DocumentHistory {
  public:
@@ -26,22 +26,25 @@ class DocumentHistory {
   bool HasEarlier() const { return !earlier_.empty(); }
   bool HasLater() const { return !later_.empty(); }
 
-  /// A load begins: the generations of the page before it are gone.
+  /// Makes `original` current, for a load that begins; the generations before it are gone.
   void Load(Original original);
-  void LoadAgain();
-  /// Forgets all documents that a load took the place of.
+  /// The current document is loaded again: its generations are gone.
+  void DropGenerations();
+  /// Drops the documents that loads took the place of: undo leads to none of them.
   void ForgetLoaded();
   /// Keeps the current document, which a load is about to replace; `html` is its text now.
   void KeepForUndo(QString html);
-  /// Makes the document before or behind the current one current, and answers its text, to be
-  /// loaded; `html` is the text of the current one, which is kept. Nothing where there is none.
+  /// Makes the earlier or later loaded document current and answers its text, to be loaded. `html`
+  /// is the text of the document current so far, which is kept. Nothing where there is no such
+  /// document.
   std::optional<QString> Step(Direction direction, QString html);
 
   /// A number for the next exchange within the page.
   int NewGeneration() { return ++lastGeneration_; }
-  /// The exchange has been made.
+  /// The page made that exchange: `original` is current from now on.
   void AddGeneration(int generation, Original original);
-  /// The page shows that generation, by undo or redo: its original is the current one.
+  /// The page shows that generation, by undo or redo: makes its original current. Does nothing for
+  /// an unknown one.
   void ShowGeneration(int generation);
 
  private:
@@ -50,6 +53,7 @@ class DocumentHistory {
     QString html;
   };
 
+  /// Appends a document, and drops the oldest beyond the memory limit.
   static void Keep(std::vector<Loaded> &documents, Loaded document);
 
   Original current_ = std::make_shared<FaithfulPage>();

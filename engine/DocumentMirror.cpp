@@ -9,10 +9,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::chrono::milliseconds LookPause = 300ms;
-/// A person who rests this long may be about to save.
-constexpr std::chrono::milliseconds RestPause = 700ms;
-/// A key that changed nothing is followed by no word of the page.
+constexpr std::chrono::milliseconds UpdateDelay = 300ms;
+/// A person who does nothing for this long may be about to save.
+constexpr std::chrono::milliseconds LongEnoughPause = 700ms;
+/// A key that changes nothing gets no report of the page.
 constexpr std::chrono::milliseconds LongestKey = 1s;
 /// A page that keeps ending its process within this time is left as it is after a few tries.
 constexpr std::chrono::milliseconds SteadyTime = 10s;
@@ -21,12 +21,12 @@ constexpr int MostCrashes = 3;
 }  // namespace
 
 DocumentMirror::DocumentMirror() {
-  lookTimer_.setSingleShot(true);
-  lookTimer_.setInterval(LookPause);
-  connect(&lookTimer_, &QTimer::timeout, this, &DocumentMirror::LookDue);
-  restTimer_.setSingleShot(true);
-  restTimer_.setInterval(RestPause);
-  connect(&restTimer_, &QTimer::timeout, this, &DocumentMirror::Rested);
+  updateTimer_.setSingleShot(true);
+  updateTimer_.setInterval(UpdateDelay);
+  connect(&updateTimer_, &QTimer::timeout, this, &DocumentMirror::UpdateDue);
+  pauseTimer_.setSingleShot(true);
+  pauseTimer_.setInterval(LongEnoughPause);
+  connect(&pauseTimer_, &QTimer::timeout, this, &DocumentMirror::Paused);
 }
 
 void DocumentMirror::Reset(QString html) {
@@ -40,7 +40,7 @@ void DocumentMirror::SetHtml(QString html) {
 }
 
 void DocumentMirror::BeginLoad() {
-  lookTimer_.stop();
+  updateTimer_.stop();
   page_.ForgetRevision();
 }
 
@@ -54,16 +54,16 @@ bool DocumentMirror::ApplyAnswer(const QVariantMap &mirror) {
   return true;
 }
 
-void DocumentMirror::LookSoon() {
-  if (!lookTimer_.isActive()) lookTimer_.start();
+void DocumentMirror::ScheduleUpdate() {
+  if (!updateTimer_.isActive()) updateTimer_.start();
 }
 
-void DocumentMirror::AwaitRest() {
-  restTimer_.start();
+void DocumentMirror::ExpectPause() {
+  pauseTimer_.start();
 }
 
-void DocumentMirror::PutOffRest() {
-  if (restTimer_.isActive()) restTimer_.start();
+void DocumentMirror::PostponePause() {
+  if (pauseTimer_.isActive()) pauseTimer_.start();
 }
 
 void TypingWatch::NoteInput() {
@@ -75,7 +75,7 @@ bool TypingWatch::IsIdle() const {
   return isIdle_ || !sinceInput_.isValid() || sinceInput_.hasExpired(LongestKey.count());
 }
 
-bool CrashCount::AllowsRestoring() {
+bool CrashCount::CountCrash() {
   if (sinceCrash_.isValid() && sinceCrash_.hasExpired(SteadyTime.count())) crashes_ = 0;
   sinceCrash_.start();
   return ++crashes_ <= MostCrashes;

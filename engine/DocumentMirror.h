@@ -12,8 +12,9 @@
 
 namespace velor {
 
-/// The document and the selection's place as they were last seen on this side, and when it is time
-/// to look again. It answers while the page cannot, and brings the page back when its process ends.
+/// The document's text and selection as the page last told them, and the timers that say when to
+/// ask the page again. The mirror answers while the page cannot, and a page whose process has ended
+/// is loaded from it.
 class DocumentMirror : public QObject {
   Q_OBJECT
 
@@ -21,49 +22,54 @@ class DocumentMirror : public QObject {
   DocumentMirror();
 
   const QString &Html() const { return page_.Html(); }
-  /// The selection's ends as velor.restore takes them.
+  /// The selection's ends, as velor.restore takes them; invalid when unknown.
   const QVariant &Start() const { return start_; }
   const QVariant &End() const { return end_; }
-  /// To be passed to velor.mirror.
+  /// Revision of Html, to be passed to velor.mirror; 0 for none.
   int Revision() const { return page_.Revision(); }
 
-  /// Begins anew with a text that the page has not told.
+  /// Replaces text and selection by a text that the page has not told.
   void Reset(QString html);
   /// The document was exchanged within the page; the selection's place is as it was.
   void SetHtml(QString html);
-  /// A load begins: what the page tells next does not follow on from this text.
+  /// To be called when a load begins: the next answer of the page has to hold its whole text.
   void BeginLoad();
-  /// Takes over what the page told of its text alone. False where that does not follow on.
+  /// Applies an answer of velor.changes to the text; false where its changes are not changes of
+  /// this revision.
   bool ApplyChanges(const QVariantMap &told) { return page_.Apply(told); }
-  /// Takes over an answer of velor.mirror; false where it has to be asked for anew.
+  /// Applies an answer of velor.mirror to text and selection. False where its changes are not
+  /// changes of this revision: the next answer has to hold the whole text then.
   bool ApplyAnswer(const QVariantMap &mirror);
 
-  /// LookDue follows in a moment.
-  void LookSoon();
-  /// The page was looked at: Rested follows where nothing is done for a while.
-  void AwaitRest();
-  /// Something was done: a rest that is awaited begins anew.
-  void PutOffRest();
+  /// Emits UpdateDue in 0.3 s.
+  void ScheduleUpdate();
+  /// The mirror is up to date: emits Paused after 0.7 s, unless PostponePause comes before.
+  void ExpectPause();
+  /// Something was done: begins the time to an expected Paused anew.
+  void PostponePause();
 
  Q_SIGNALS:
-  void LookDue();
-  /// The person rests, and this is what the page holds.
-  void Rested();
+  /// It is time to bring the mirror up to date.
+  void UpdateDue();
+  /// The person has done nothing for a while, and the mirror holds what the page holds.
+  void Paused();
 
  private:
   PageMirror page_;
   QVariant start_;
   QVariant end_;
-  QTimer lookTimer_;
-  QTimer restTimer_;
+  QTimer updateTimer_;
+  QTimer pauseTimer_;
 };
 
-/// Whether all that a person typed is known to be on the screen.
+/// Tells whether all that a person typed is known to be on the screen.
 class TypingWatch {
  public:
+  /// Input is about to reach the page.
   void NoteInput();
-  /// The page told how it stands.
-  void NoteTold(bool isIdle) { isIdle_ = isIdle; }
+  /// The page reported whether all input before is on the screen.
+  void NoteReport(bool isIdle) { isIdle_ = isIdle; }
+  /// True also a second after the last input: a key that changes nothing gets no report.
   bool IsIdle() const;
 
  private:
@@ -71,11 +77,11 @@ class TypingWatch {
   QElapsedTimer sinceInput_;
 };
 
-/// Counts the ends of a page's process: a page that keeps ending it is not brought back for ever.
+/// Limits how often a page is restored whose process ends again and again.
 class CrashCount {
  public:
-  /// Counts one more; whether the page is to be brought back.
-  bool AllowsRestoring();
+  /// Counts an end of the process; false where it is the fourth with less than 10 s between them.
+  bool CountCrash();
   void Clear() { crashes_ = 0; }
 
  private:

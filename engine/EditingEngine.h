@@ -20,13 +20,13 @@ class RequestBlocker : public QWebEngineUrlRequestInterceptor {
   void interceptRequest(QWebEngineUrlRequestInfo &request) override;
 };
 
-/// What all editing components share: one profile without memory, the scheme, the blocker and the
-/// guard. Outlives every component that uses it.
+/// What all editing components share. It must outlive them.
 class EditingEngine {
  public:
-  /// Made at its first use, since that starts the browser engine.
+  /// The profile, which stores nothing; made at its first use, since that starts the browser
+  /// engine.
   QWebEngineProfile &Profile();
-  /// The bridge's script, read once.
+  /// BridgeScript(), read once.
   const QString &Bridge();
   PageScheme &Scheme() { return scheme_; }
   EngineGuard &Guard() { return guard_; }

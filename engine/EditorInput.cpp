@@ -16,7 +16,7 @@ namespace velor {
 
 namespace {
 
-/// Keys with which a browser goes elsewhere or loads anew.
+/// Keys with which a browser navigates or reloads.
 const QKeyCombination BrowserKeys[] = {
     Qt::Key_F5,   Qt::CTRL | Qt::Key_R, Qt::ALT | Qt::Key_Left, Qt::ALT | Qt::Key_Right,
     Qt::Key_Back, Qt::Key_Forward,      Qt::Key_Refresh,
@@ -27,8 +27,8 @@ bool IsBrowserKey(const QKeyEvent &key) {
          std::end(BrowserKeys);
 }
 
-/// Input that keeps its place among the program's commands.
-bool MayWait(QEvent::Type type) {
+/// Input whose order among the program's commands is kept.
+bool IsOrdered(QEvent::Type type) {
   switch (type) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
@@ -44,13 +44,13 @@ bool MayWait(QEvent::Type type) {
 
 }  // namespace
 
-EditorInput::EditorInput(QWebEngineView *view, std::function<bool(const QEvent &)> keep)
-    : QObject(view), view_(view), keep_(std::move(keep)) {
+EditorInput::EditorInput(QWebEngineView *view, std::function<bool(const QEvent &)> holdBack)
+    : QObject(view), view_(view), holdBack_(std::move(holdBack)) {
   view_->installEventFilter(this);
-  Attach();
+  FilterInputWidget();
 }
 
-void EditorInput::Attach() {
+void EditorInput::FilterInputWidget() {
   if (QWidget *input = view_->focusProxy()) {
     input->removeEventFilter(this);
     input->installEventFilter(this);
@@ -73,10 +73,10 @@ bool EditorInput::TakeFiles(QEvent *event) {
 bool EditorInput::eventFilter(QObject *watched, QEvent *event) {
   if (TakeFiles(event)) return true;
   if (watched == view_) {
-    if (event->type() == QEvent::ChildPolished) Attach();
+    if (event->type() == QEvent::ChildPolished) FilterInputWidget();
     return false;
   }
-  if (MayWait(event->type()) && keep_(*event)) {
+  if (IsOrdered(event->type()) && holdBack_(*event)) {
     event->accept();
     return true;
   }

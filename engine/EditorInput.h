@@ -11,35 +11,36 @@ class QWebEngineView;
 
 namespace velor {
 
-/// Stands before the view's input: gives the program's shortcuts back to the program and keeps the
-/// browser's own keys from doing anything. Everything else goes to the page, formatting and undo
-/// keys too: the bridge carries them out in the order in which they come with typed text.
+/// An event filter before the view's input. It gives the program's shortcuts to the program and
+/// drops the browser's own keys (reload, back). Everything else goes to the page, formatting and
+/// undo keys too: the bridge carries them out in their order among typed text.
 class EditorInput : public QObject {
   Q_OBJECT
 
  public:
-  /// Follows the view's input widget, which the engine may replace. Keys and buttons are first
-  /// offered to `keep`, which may take them to send them again later.
-  EditorInput(QWebEngineView *view, std::function<bool(const QEvent &)> keep);
+  /// Each key, button and input method event is first passed to `holdBack`; where that answers true
+  /// the event goes no further, and the caller sends it again later. A child of `view`.
+  EditorInput(QWebEngineView *view, std::function<bool(const QEvent &)> holdBack);
 
-  /// Takes up the view's present input widget.
-  void Attach();
+  /// Filters the view's present input widget; to be called when the engine may have replaced it.
+  void FilterInputWidget();
 
  Q_SIGNALS:
   /// A key or button is about to reach the page.
   void InputComing();
-  /// Files of this machine were dropped, native paths; the page never sees them.
+  /// Files of this machine were dropped: native paths, and where, in CSS pixels. The page does not
+  /// get the event.
   void FilesDropped(const QStringList &nativePaths, QPoint position);
 
  protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
 
  private:
-  /// Takes what drags files for itself; false for everything else.
+  /// Accepts drags and drops of files; false for every other event.
   bool TakeFiles(QEvent *event);
 
   QWebEngineView *view_;
-  std::function<bool(const QEvent &)> keep_;
+  std::function<bool(const QEvent &)> holdBack_;
 };
 
 }  // namespace velor

@@ -8,8 +8,8 @@
 
 namespace velor {
 
-/// A page that goes nowhere: the only navigation it accepts is the load that its owner announced.
-/// No windows, no dialogs, no console.
+/// A page of the engine that accepts one navigation only: the load that LoadOwn began. It opens no
+/// windows and no dialogs. Errors of its scripts, which are the bridge's, go to the log.
 class EditorPage : public QWebEnginePage {
   Q_OBJECT
 
@@ -34,7 +34,8 @@ class EditorPage : public QWebEnginePage {
   QUrl own_;
 };
 
-/// Ends the process of a page, which may be busy for ever; the page tells when it has ended.
+/// Kills the process of a page, which may be busy for ever. The page emits renderProcessTerminated
+/// when it has ended.
 void EndRenderer(const QWebEnginePage &page);
 
 }  // namespace velor

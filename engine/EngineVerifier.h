@@ -20,8 +20,9 @@ namespace velor {
 class EditingEngine;
 
 /// Parses texts in a spare page of the engine, which is never shown, runs no script and fetches
-/// nothing. The page is made at the first question, and made anew when its process ends. It keeps
-/// the texts of the last question, so that only the difference is sent; the last answer is kept.
+/// nothing. The page is made for the first question, and again when its process has ended. Only
+/// what differs from the last question is sent to it. The last answer is kept and given again for
+/// the same text.
 class EngineVerifier : public QObject, public PageVerifier {
   Q_OBJECT
 
@@ -29,17 +30,19 @@ class EngineVerifier : public QObject, public PageVerifier {
   explicit EngineVerifier(EditingEngine &engine);
   ~EngineVerifier() override;
 
-  /// Waits for the engine. Nothing inside one of its callbacks, unless the answer is known.
+  /// Waits for the engine, at most a minute. Inside one of its callbacks the answer is nothing
+  /// unless it is the one kept.
   std::optional<QString> Serialisation(const QString &text) override;
   std::optional<QString> SerialisationLike(const QString &text, const QString &expected) override;
-  /// Asks without waiting; `expected` is the likely answer. `then` runs when the answer is known,
-  /// from inside the engine. A later call replaces one that has no answer yet.
+  /// Asks without waiting; `expected` is the likely answer. When the answer is there it is kept,
+  /// and `then` runs inside a callback of the engine. A later call replaces one without an answer.
   void Precompute(const QString &text, const QString &expected, std::function<void()> then);
 
-  /// The process that parses; 0 for none.
+  /// Number of the process that parses; 0 for none.
   std::int64_t ProcessId() const;
 
-  /// A verifier that the person may stop by Escape; it answers nothing from then on.
+  /// A verifier whose waits the person may stop by Escape (Patience); it answers nothing from then
+  /// on.
   class Stoppable : public PageVerifier {
    public:
     Stoppable(EngineVerifier &verifier, Patience patience)
@@ -53,7 +56,7 @@ class EngineVerifier : public QObject, public PageVerifier {
     bool isStopped_ = false;
   };
 
-  /// A verifier that never waits: it answers what is known already.
+  /// A verifier that never waits: it gives the answer that is kept, or none.
   class KnownAnswers : public PageVerifier {
    public:
     explicit KnownAnswers(const EngineVerifier &verifier) : verifier_(verifier) {}
@@ -75,14 +78,17 @@ class EngineVerifier : public QObject, public PageVerifier {
     QString expected;
   };
 
-  /// Waits, where `patience` is given until the person stops the page, which `isStopped` then
-  /// tells.
+  /// Waits for an answer. With `patience` the person may stop the wait; that ends the page's
+  /// process and sets `*isStopped`.
   std::optional<QString> Answer(const Question &question, const Patience *patience,
                                 bool *isStopped);
+  /// The kept answer, where it is for that text.
   std::optional<QString> Known(const QString &text) const;
+  /// Whether the question under way is for that text.
   bool IsWanted(const QString &text) const { return wanted_ && wanted_->text == text; }
-  /// Makes the page where there is none.
+  /// Makes the page.
   void Start();
+  /// Sends `wanted_` to the page.
   void Ask();
 
   EditingEngine &engine_;

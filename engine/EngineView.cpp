@@ -22,8 +22,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds MoveLimit = 5s;
-/// The longest that the notice of a process's end is waited for.
-constexpr std::chrono::milliseconds EndTravel = 1s;
+/// Limit of the wait for the notice that a process has ended.
+constexpr std::chrono::milliseconds EndLimit = 1s;
 
 /// A document that is in design mode from its beginning is laid out once; `velor.start` turns the
 /// mode on in any case, but then everything is laid out a second time.
@@ -59,8 +59,8 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
     if (phase_ == Phase::Ready) Q_EMIT StateArrived(state);
   });
   connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
-  connect(&host_, &BridgeHost::MirrorArrived, this, [this](const QVariantMap &told) {
-    if (phase_ == Phase::Ready) Q_EMIT MirrorArrived(told);
+  connect(&host_, &BridgeHost::MirrorArrived, this, [this](const QVariantMap &changes) {
+    if (phase_ == Phase::Ready) Q_EMIT MirrorArrived(changes);
   });
   connect(&host_, &BridgeHost::PictureWanted, this, [this] {
     if (phase_ == Phase::Ready) Q_EMIT PictureWanted();
@@ -132,7 +132,7 @@ void EngineView::EndLoad(Phase phase) {
   phase_ = phase;
   engine_.Scheme().Withdraw(address_);
   page_->history()->clear();
-  input_->Attach();
+  input_->FilterInputWidget();
   // The engine may have put another input widget in the place of the one that the person used.
   if (hadFocus_) view_->setFocus();
   Q_EMIT LoadEnded();
@@ -192,13 +192,13 @@ bool EngineView::MoveTo(const QString &nativePath) {
 void EngineView::EndProcess() {
   if (page_ == nullptr) return;
   EndRenderer(*page_);
-  Wait(EndTravel, [this] { return CurrentPhase() == Phase::Dead; });
+  Wait(EndLimit, [this] { return CurrentPhase() == Phase::Dead; });
 }
 
 void EngineView::AwaitInput() {
   if (!IsOpen() || engine_.Guard().InCallback() || !turns_.IsInputOnItsWay()) return;
   turns_.SendProbe();
-  Wait(TurnQueue::InputTravel, [this] { return !turns_.IsInputOnItsWay() || !IsOpen(); });
+  Wait(TurnQueue::LongestInputDelay, [this] { return !turns_.IsInputOnItsWay() || !IsOpen(); });
 }
 
 WaitEnd EngineView::Wait(std::chrono::milliseconds limit, const std::function<bool()> &done,

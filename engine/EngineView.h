@@ -23,8 +23,9 @@ class EditorInput;
 class EditorPage;
 
 /// One view of the browser engine with the bridge in it: loads texts, evaluates expressions of the
-/// bridge, and says what happens. It lives in a container widget that may go before it; then it
-/// behaves like a dead page. Unless said otherwise its signals come from inside the engine, so that
+/// bridge, and emits signals for what happens in the page. The view lies in a container widget,
+/// which may be deleted before this object; this object then behaves like a page whose process has
+/// ended. Unless said otherwise signals are emitted inside a callback of the engine, where
 /// receivers may only store.
 class EngineView : public QObject, private PageWays {
   Q_OBJECT
@@ -43,28 +44,31 @@ class EngineView : public QObject, private PageWays {
 
   Phase CurrentPhase() const;
 
-  /// Begins to replace the page. `nativePath` as PageScheme::Offer takes it. `start` is evaluated
-  /// when the page is there; its value is StartAnswer().
+  /// Begins to load another page and returns at once; LoadEnded follows. `nativePath` as in
+  /// PageScheme::Offer. `start` is an expression of the bridge that is evaluated when the page is
+  /// there; its value is StartAnswer().
   void Load(const QString &nativePath, const QString &text, const QString &start);
   const QVariant &StartAnswer() const { return startAnswer_; }
 
-  /// Evaluates an expression in its turn among keys and other expressions (TurnQueue); `answer`,
-  /// where given, is called from inside the engine. Without one it is a command.
+  /// Evaluates an expression in its order among keys and other expressions (TurnQueue). `answer`,
+  /// where given, is called with its value inside a callback of the engine. Without `answer` it is
+  /// a command. Nothing happens where the page is not Ready.
   void Run(const QString &expression, const Answer &answer = {});
-  /// Evaluates an expression and waits for its value. Nothing when the page is not ready, dies
-  /// or does not answer in time; then, and only then, `this` may be gone. Where the person stops
-  /// the wait, the page's process is ended.
+  /// Evaluates an expression and waits for its value. Nothing where the page is not Ready, its
+  /// process ends, it does not answer within `limit`, or the call comes inside a callback of the
+  /// engine; then, and only then, `this` may be gone. If the person stops the wait, the page's
+  /// process is ended.
   std::optional<QVariant> Ask(const QString &expression, std::chrono::milliseconds limit,
                               const Patience *patience = nullptr);
-  /// Gives the page the address of another file, against which its links resolve from then on; the
-  /// document stays as it is. False where the page does not do so; then `this` may be gone.
+  /// Gives the page the address of another file, against which its links resolve from then on. The
+  /// document stays as it is. False where the page did not take it; then `this` may be gone.
   bool MoveTo(const QString &nativePath);
   /// Whether the last wait of Ask was stopped.
   bool WasStopped() const { return wasStopped_; }
-  /// Waits until the keys that were sent to the page a moment ago have arrived there: they take
-  /// another way than expressions, which could overtake them.
+  /// Waits until the input sent so far has arrived in the page, at most half a second: expressions
+  /// take another way and could overtake it. `this` may be gone afterwards.
   void AwaitInput();
-  /// Waits for `done`; see GuardedWait.
+  /// GuardedWait::Until with this view as the subject.
   WaitEnd Wait(std::chrono::milliseconds limit, const std::function<bool()> &done,
                const Patience *patience = nullptr);
 
@@ -73,17 +77,21 @@ class EngineView : public QObject, private PageWays {
  Q_SIGNALS:
   /// The phase is Ready or Failed now.
   void LoadEnded();
+  /// The page's process has ended; the phase is Dead now.
   void Died();
+  /// The states and values at the caret have changed.
   void StateArrived(const velor::StateSnapshot &state);
-  /// What has changed in the document (PageMirror); `idle` in it says that what was done before is
-  /// on the screen.
-  void MirrorArrived(const QVariantMap &told);
+  /// Changes of the document's text, as PageMirror::Apply takes them; `idle` in it says that all
+  /// input before is on the screen.
+  void MirrorArrived(const QVariantMap &changes);
   /// Paste was asked for where the clipboard has no text.
   void PictureWanted();
-  /// Undo or redo came to the end of the page's own history.
+  /// Undo was asked for at the beginning of the page's own history; redo at its end.
   void EarlierWanted();
   void LaterWanted();
+  /// The pointer moved or pressed, in CSS pixels of the viewport.
   void PointerMoved(QPoint clientPosition);
+  /// A context menu was asked for, in pixels of the screen.
   void MenuWanted(QPoint screenPosition);
   /// A key or button is about to reach the page; from outside the engine.
   void InputComing();

@@ -8,10 +8,11 @@ class QWidget;
 
 namespace velor {
 
-/// Native paths of the files of this machine that are dragged or on the clipboard.
+/// Native paths of the files of this machine in a drag or on the clipboard; empty for other data.
 QStringList LocalFiles(const QMimeData *data);
 
-/// A widget that takes drags itself leaves those of files to the window around it.
+/// Makes a widget that accepts drags itself ignore drags of files, so that the window around it
+/// gets them.
 void LeaveFilesToTheWindow(QWidget &widget);
 
 }  // namespace velor

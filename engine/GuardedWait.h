@@ -10,16 +10,15 @@
 
 namespace velor {
 
-/// What the engine is doing on this thread's stack, shared by every view of one engine: whether
-/// control is inside one of its callbacks (where an answer would never come) and how many waits
-/// are running (during which no notice may leave).
+/// What is on this thread's stack, shared by all views of one engine: callbacks of the engine
+/// (inside one an answer would never come) and waits for it (during one no notice is delivered).
 class EngineGuard : public QObject {
   Q_OBJECT
 
  public:
   bool InCallback() const { return callbacks_ > 0; }
   bool Waiting() const { return waits_ > 0; }
-  /// Lets the running waits look again whether they are done; safe inside a callback.
+  /// Makes the running waits ask at once whether they are done; safe inside a callback.
   void Wake() { Q_EMIT Woken(); }
 
  Q_SIGNALS:
@@ -33,7 +32,7 @@ class EngineGuard : public QObject {
   Lifetime lifetime_;
 };
 
-/// Stands at the top of every function that the engine calls.
+/// Marks a scope as a callback: the first statement of every function that the engine calls.
 class EngineCallback {
  public:
   explicit EngineCallback(EngineGuard &guard) : guard_(guard) { ++guard_.callbacks_; }
@@ -53,10 +52,11 @@ enum class WaitEnd {
   Refused,  ///< inside an engine callback; nothing was waited for
 };
 
-/// A wait that may be long: after some time the person is told and may stop it by Escape.
+/// For a wait that may be long: after `time`, `tell` is called to tell the person, who may then
+/// stop the wait by Escape.
 struct Patience {
-  /// Other input from then on: lost, where it meant what the wait is about to replace, or given to
-  /// whom it was meant for when the wait has ended.
+  /// What becomes of other input from then on. Lost: dropped, since it was meant for the document
+  /// that the wait replaces. Kept: delivered to its receiver after the wait.
   enum class Input { Lost, Kept };
 
   std::chrono::milliseconds time;
@@ -64,15 +64,16 @@ struct Patience {
   Input input = Input::Lost;
 };
 
-/// The one nested event loop of the program. User input stays in its queue meanwhile. Posted
-/// events are pumped by a timer as well, since the GLib dispatcher does not always send them in a
-/// loop that was entered from one of its own callbacks.
+/// The program's one nested event loop for waits. Input of the person stays in its queue until the
+/// wait ends, or until its patience is over. A timer sends posted events too, since the GLib
+/// dispatcher does not always do so in a loop that was entered from one of its own callbacks.
 class GuardedWait {
  public:
   explicit GuardedWait(EngineGuard &guard) : guard_(guard) {}
 
-  /// Returns when `done` answers true (asked every 2 ms and at each Wake), `subject` is destroyed
-  /// or the limit has passed.
+  /// Returns when `done` answers true (asked every 2 ms and at each Wake), `subject` is destroyed,
+  /// `limit` has passed, or the person stops the wait. `done` may use `subject`: it is not called
+  /// after its destruction.
   WaitEnd Until(QObject &subject, std::chrono::milliseconds limit,
                 const std::function<bool()> &done, const Patience *patience = nullptr);
 

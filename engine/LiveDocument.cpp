@@ -27,7 +27,7 @@ QString MirrorCall(const DocumentMirror &mirror) {
 LiveDocument::LiveDocument(EditingEngine &engine, NoticeQueue &notices, QWidget *frame,
                            ConnectView connect)
     : engine_(engine), notices_(notices), frame_(frame), connect_(std::move(connect)) {
-  QObject::connect(&mirror_, &DocumentMirror::LookDue, [this] { UpdateMirror(); });
+  QObject::connect(&mirror_, &DocumentMirror::UpdateDue, [this] { UpdateMirror(); });
 }
 
 LiveDocument::~LiveDocument() {
@@ -37,7 +37,7 @@ LiveDocument::~LiveDocument() {
 
 void LiveDocument::Load(const QString &text, const QString &start) {
   pageLife_.End();
-  history_.LoadAgain();
+  history_.DropGenerations();
   snapshot_ = {};
   mirror_.BeginLoad();
   if (view_ == nullptr) {
@@ -93,15 +93,15 @@ std::optional<QString> LiveDocument::AskForText() {
 void LiveDocument::ApplyState(const StateSnapshot &state) {
   snapshot_ = state;
   history_.ShowGeneration(state.generation);
-  mirror_.LookSoon();
-  mirror_.PutOffRest();
+  mirror_.ScheduleUpdate();
+  mirror_.PostponePause();
 }
 
 void LiveDocument::ApplyChanges(const QVariantMap &told) {
   if (mirror_.ApplyChanges(told))
     PostMemoryChanged();
   else
-    mirror_.LookSoon();
+    mirror_.ScheduleUpdate();
 }
 
 void LiveDocument::UpdateMirror() {
@@ -109,9 +109,9 @@ void LiveDocument::UpdateMirror() {
   view_->Run(MirrorCall(mirror_), [this, page = WatchPage()](const QVariant &value) {
     const QVariantMap mirror = value.toMap();
     if (page.IsOver() || mirror.isEmpty()) return;
-    if (!ApplyMirror(mirror)) return mirror_.LookSoon();
+    if (!ApplyMirror(mirror)) return mirror_.ScheduleUpdate();
     PostMemoryChanged();
-    mirror_.AwaitRest();
+    mirror_.ExpectPause();
   });
 }
 

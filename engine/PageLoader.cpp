@@ -182,7 +182,7 @@ void PageLoader::Restore(const PageMemory &memory) {
 
 void PageLoader::ReloadAfterCrash() {
   if (document_.View()->CurrentPhase() != EngineView::Phase::Dead) return;
-  if (!crashes_.AllowsRestoring()) {
+  if (!crashes_.CountCrash()) {
     notices_.Report(
         QStringLiteral("The page's display keeps stopping. Its text is kept: save the page and "
                        "open it again."));

@@ -29,6 +29,7 @@ class PageScheme : public QWebEngineUrlSchemeHandler {
   /// Offers a text and returns the address that shows it; `nativePath` is the page's file, or the
   /// folder (ending in "/") against which a page without a file resolves its links.
   QUrl Offer(const QString &nativePath, const QString &text);
+  /// Ends an offer; does nothing for an address without one.
   void Withdraw(const QUrl &address);
 
   void requestStarted(QWebEngineUrlRequestJob *job) override;

@@ -5,9 +5,10 @@
 
 namespace velor {
 
-/// The markup for the picture on the clipboard; empty where there is none. A page that has a file
-/// gets the picture as a file beside it, under a name that is free (picture1.png, picture2.png
-/// ...); any other, and one whose folder cannot be written, within the address.
+/// Markup (an IMG) for the picture on the clipboard; empty where there is none. For a page with a
+/// file the picture is written beside it, under the first free name of picture1.png, picture2.png
+/// ... For a page without one, and where the folder cannot be written, the address holds the
+/// picture itself (data:).
 QString PastedPicture(const QString &nativePagePath);
 
 }  // namespace velor

@@ -3,9 +3,9 @@
 
 namespace velor {
 
-/// Whether the environment turns the engine's sandbox off, as it has to be for the superuser and
-/// where the system allows no user namespaces: pages in the preview then run with the person's own
-/// rights.
+/// Whether the environment turns the engine's sandbox off. It has to be off for the superuser and
+/// where the system allows no user namespaces. Scripts of pages in the preview then run with the
+/// person's own rights.
 bool IsSandboxOff();
 
 }  // namespace velor

@@ -10,13 +10,14 @@
 
 namespace velor {
 
-/// The state of a page as the bridge last pushed it (docs/bridge.md): what the commands' states,
-/// their values and the document object answer from without asking the page.
+/// The state of a page as the bridge last pushed it (docs/bridge.md). Commands' states, their
+/// values and the document object are answered from it without asking the page.
 struct StateSnapshot {
   int version = 0;
   /// The content changed since the push before.
   bool dirty = false;
-  /// Which of the documents that took one another's place this is (engine/bridge/talk/replace.js).
+  /// Number of the document that the page shows: 0 for the loaded one, else that of its exchange
+  /// (DocumentHistory, engine/bridge/talk/replace.js).
   int generation = 0;
   std::map<EditingCommand, CommandStatus> commands;
   QString fontName;
@@ -27,7 +28,7 @@ struct StateSnapshot {
   SelectionType selection = SelectionType::None;
   HtmlElement element;
 
-  /// Nothing for a text that is no state.
+  /// Nothing for a text that is no JSON of a state.
   static std::optional<StateSnapshot> FromJson(const QString &json);
 
   /// A command that the state does not name counts as not supported.

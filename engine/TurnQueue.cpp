@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 
 TurnQueue::TurnQueue(PageWays &ways, EngineGuard &guard) : ways_(ways), guard_(guard) {
   probeTimer_.setSingleShot(true);
-  probeTimer_.setInterval(InputTravel);
+  probeTimer_.setInterval(LongestInputDelay);
   connect(&probeTimer_, &QTimer::timeout, this, &TurnQueue::ProbeArrived);
   leaveTimer_.setSingleShot(true);
   leaveTimer_.setInterval(1ms);
@@ -38,7 +38,7 @@ void TurnQueue::NoteInput() {
 }
 
 bool TurnQueue::IsInputOnItsWay() const {
-  return sinceInput_.isValid() && !sinceInput_.hasExpired(InputTravel.count());
+  return sinceInput_.isValid() && !sinceInput_.hasExpired(LongestInputDelay.count());
 }
 
 void TurnQueue::SendDue() {

@@ -16,7 +16,7 @@
 
 namespace velor {
 
-/// The two ways into a page, neither of which waits for the other.
+/// The two ways into a page: neither keeps the order of what is sent on the other.
 class PageWays {
  public:
   using Answer = std::function<void(const QVariant &)>;
@@ -30,9 +30,9 @@ class PageWays {
   virtual void Send(QEvent &input) = 0;
 };
 
-/// Keeps expressions and input in the order in which they came, by never sending one while what
-/// came before it may still be on the other way. A command is an expression without an answer;
-/// input waits for commands alone, an expression for input.
+/// Sends expressions and input to a page in the order in which they came. Since they take two ways,
+/// one is not sent as long as an earlier one may still be under way on the other. A command is an
+/// expression without an answer. Input waits for commands only, an expression for input.
 ///
 ///                      Run                                  HoldBack
 ///         +----------------------> command on its way -------------------> input waits
@@ -55,19 +55,23 @@ class TurnQueue : public QObject {
  public:
   TurnQueue(PageWays &ways, EngineGuard &guard);
 
-  /// The longest that input is taken to be on its way; a page tells of it within milliseconds.
-  static constexpr std::chrono::milliseconds InputTravel{500};
+  /// After this input counts as arrived, for a page that does not answer the probe. A page that
+  /// does takes milliseconds.
+  static constexpr std::chrono::milliseconds LongestInputDelay{500};
 
-  /// Sends an expression in its turn; without `answer` it is a command. Nothing where there is no
-  /// page.
+  /// Sends an expression when its turn comes; without `answer` it is a command. Does nothing where
+  /// there is no page.
   void Run(const QString &expression, const PageWays::Answer &answer);
-  /// True where the input was taken, to be sent when the commands before it have been answered.
+  /// True where a copy of the input was taken, to be sent when the commands before it have been
+  /// answered; false where it may go to the page now.
   bool HoldBack(const QEvent &input);
-  /// Input goes to the page now.
+  /// To be called when input goes to the page.
   void NoteInput();
+  /// Whether input was sent that may not have arrived yet.
   bool IsInputOnItsWay() const;
-  /// Asks the page to tell when the input sent so far is there.
+  /// Sends the probe, so that ProbeArrived follows when the input sent so far is there.
   void SendProbe();
+  /// To be called when the page tells of the probe.
   void ProbeArrived();
   /// Forgets everything: another page comes, or the page has ended.
   void Clear();
@@ -80,7 +84,8 @@ class TurnQueue : public QObject {
     PageWays::Answer answer;
   };
 
-  /// Sends everything whose turn has come; from outside the engine where input waits.
+  /// Sends everything whose turn has come; not to be called inside a callback of the engine where
+  /// input waits.
   void SendDue();
   void SendExpression(const Turn &turn);
   void SendInput(QEvent &input);
@@ -93,7 +98,7 @@ class TurnQueue : public QObject {
   bool isProbeBehind_ = false;   ///< the probe was sent after the last input
   bool isSendingInput_ = false;  ///< input that has waited is not to be held back again
   bool isSendingDue_ = false;
-  QTimer leaveTimer_;  ///< leads out of the engine before input is sent
+  QTimer leaveTimer_;  ///< calls SendDue outside of the engine's callback
   QTimer probeTimer_;  ///< for a page that does not tell of the probe
   Lifetime pageLife_;  ///< until Clear
   Lifetime lifetime_;

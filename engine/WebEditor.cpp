@@ -70,7 +70,7 @@ WebEditor::WebEditor(EditingEngine &engine, Files &files, const QString &program
       loader_(document_, notices_, options_, programFolder),
       replacer_(document_, loader_, notices_, engine.Verifier()),
       saver_(document_, loader_, notices_, files, engine.Verifier()) {
-  QObject::connect(&document_.Mirror(), &DocumentMirror::Rested, [this] { saver_.ComposeAhead(); });
+  QObject::connect(&document_.Mirror(), &DocumentMirror::Paused, [this] { saver_.ComposeAhead(); });
 }
 
 void WebEditor::ConnectView(EngineView &view) {
@@ -81,7 +81,7 @@ void WebEditor::ConnectView(EngineView &view) {
   QObject::connect(&view, &EngineView::StateArrived,
                    [this](const StateSnapshot &state) { StateArrived(state); });
   QObject::connect(&view, &EngineView::MirrorArrived, [this](const QVariantMap &told) {
-    typing_.NoteTold(told[QStringLiteral("idle")].toBool());
+    typing_.NoteReport(told[QStringLiteral("idle")].toBool());
     document_.ApplyChanges(told);
   });
   QObject::connect(&view, &EngineView::LoadEnded,

@@ -29,9 +29,9 @@ class BrowserPage final : public QWebEnginePage {
   BrowserPage(QWebEngineProfile *profile, const SiteScheme &scheme);
 
  Q_SIGNALS:
-  /// A link leads to that place of this machine, outside of the site; it is not followed.
+  /// A link was not followed, since it leads to that file of this machine outside of the site.
   void LinkRefused(const QString &file);
-  /// So does the address of a picture, a frame or the like; it is not shown.
+  /// A picture, a frame or the like was not shown for the same reason.
   void PartRefused(const QString &file);
 
  protected:

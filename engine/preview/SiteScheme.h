@@ -13,10 +13,10 @@ namespace velor {
 void RegisterSiteScheme();
 
 /// The scheme under which the preview shows pages of this machine. A site is a folder with all that
-/// lies below it. Each address made has an origin of its own, which no page can guess and no other
-/// origin may ask; and the engine does not take style sheets and pictures for those that it read
-/// before. The path of an address is the file's own, so that a link that leads out of the folder is
-/// seen to do so.
+/// lies below it. Each address made has a host of its own: no page can guess it, no page of another
+/// host may request it, and the engine does not use style sheets and pictures that it cached for
+/// another one. The path of an address is the file's own path, so that links out of the folder are
+/// recognised.
 ///
 /// Invariant: only regular files of the site's folder are served, after links of the file system
 /// have been followed, and nothing hidden (a name in the path below that folder that begins with a
@@ -41,7 +41,7 @@ class SiteScheme : public QWebEngineUrlSchemeHandler {
   void requestStarted(QWebEngineUrlRequestJob *job) override;
 
  Q_SIGNALS:
-  /// Something that lies outside of its page's site was asked for, and not served.
+  /// A file outside of its page's site was requested, and not served.
   void Refused(const QString &file);
 
  private:

@@ -32,7 +32,7 @@ constexpr QWebEnginePage::WebAction RefusedActions[] = {
     QWebEnginePage::OpenLinkInNewWindow,
 };
 
-/// Pages out of sight make no sound.
+/// A view that mutes its page while it is hidden.
 class BrowserView final : public QWebEngineView {
  public:
   using QWebEngineView::QWebEngineView;
@@ -170,14 +170,15 @@ void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo &loading) {
     case QWebEngineLoadingInfo::LoadStartedStatus:
       isStopping_ = false;
       // The engine ends such a load by itself.
-      if (IsForAnotherProgram(loading.url())) return OpenElsewhere(loading.url());
+      if (IsForAnotherProgram(loading.url())) return OpenInOtherProgram(loading.url());
       refused_.clear();
       stateBefore_ = state_;
       TellState(tr("Opening %1").arg(Named(loading.url())));
       isOpening_ = true;
       break;
     case QWebEngineLoadingInfo::LoadStoppedStatus:
-      // The engine also ends what it never began so, a link to another program for one.
+      // The engine also reports as stopped what it never began to load, such as a link to another
+      // program.
       if (isStopping_)
         TellState(tr("Stopped"));
       else if (isOpening_)
@@ -199,7 +200,7 @@ void WebBrowser::TellRefused() {
   TellState(text);
 }
 
-void WebBrowser::OpenElsewhere(const QUrl &url) {
+void WebBrowser::OpenInOtherProgram(const QUrl &url) {
   if (QDesktopServices::openUrl(url)) return;
   const QString text = url.toDisplayString();
   TellState(url.scheme() == QStringLiteral("mailto")

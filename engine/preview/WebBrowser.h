@@ -22,7 +22,7 @@ class BrowserPage;
 /// The preview browser on Qt WebEngine. Files are shown as parts of their site (SiteScheme), and
 /// nothing else of this machine is. Page scripts run, in the engine's sandbox; what a page leaves
 /// behind (cookies, cache, storage) goes with the browser, downloads are refused, and what
-/// would open a window opens here instead. Out of sight it is silent. The status text is the
+/// would open a window opens here instead. A hidden preview makes no sound. The status text is the
 /// address under the pointer, else how the load stands.
 class WebBrowser final : public QObject, public Browser {
   Q_OBJECT
@@ -43,22 +43,25 @@ class WebBrowser final : public QObject, public Browser {
 
  private:
   void LoadingChanged(const QWebEngineLoadingInfo &loading);
+  /// Makes a text the state of the load, and shows it.
   void TellState(const QString &state);
+  /// Shows a text in the status bar, over the state of the load.
   void TellStatus(const QString &text);
+  /// Tells which parts of the page were not shown.
   void TellRefused();
-  void OpenElsewhere(const QUrl &url);
+  /// Opens an address in the program that the desktop has for it (mailto: and the like).
+  void OpenInOtherProgram(const QUrl &url);
 
   SiteScheme scheme_;
   std::unique_ptr<QWebEngineProfile> profile_;
   QPointer<QWebEngineView> view_;
   QPointer<BrowserPage> page_;
   BrowserListener *listener_ = nullptr;
-  QString site_;  ///< native folder; empty for the folder of each page
-  /// How the last load stands.
-  QString state_;
-  bool isOpening_ = false;   ///< which is told
-  QString stateBefore_;      ///< before that
-  bool isStopping_ = false;  ///< Stop was asked for
+  QString site_;             ///< native folder; empty for the folder of each page
+  QString state_;            ///< of the last load, in words
+  bool isOpening_ = false;   ///< `state_` says that a page is being opened
+  QString stateBefore_;      ///< the state before the load under way
+  bool isStopping_ = false;  ///< Stop was called during the load under way
   QStringList refused_;      ///< parts of the page that lie outside of its site
 };
 
