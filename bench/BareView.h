@@ -20,10 +20,10 @@ class BareView : public QWebEngineView {
   void LoadFile(const QString &nativePath);
   /// The root element's markup, waited for.
   QString OuterHtml();
-  /// The same after an edit at the caret.
+  /// OuterHtml after inserting markup at the caret.
   QString OuterHtmlAfter(const QString &insertedHtml);
 
-  /// Counts the selection changes that the page reported.
+  /// Number of selection changes that the page reported.
   int selectionChanges = 0;
 
  public Q_SLOTS:

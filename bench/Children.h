@@ -8,17 +8,17 @@ namespace velor::bench {
 // Figures that need a process of their own run this program again with the name of a figure that
 // begins with "child-"; it says when it is ready and then waits to be ended.
 
-/// Milliseconds from the start of a child to its word.
+/// Milliseconds from the start of a child until it says that it is ready.
 double TimeToReady(const QString &figure);
 
 /// Proportional set size of a child that is ready and of all its descendants, in MB.
 double MemoryOf(const QString &figure);
 
-/// Milliseconds of processor time that a child and all its descendants take in 20 s once they have
-/// come to rest.
+/// Milliseconds of processor time that a child and all its descendants use in 20 s once they are
+/// idle.
 double IdleTimeOf(const QString &figure);
 
-/// The child's side.
+/// To be called in a child: says that it is ready and waits to be ended.
 void TellReadyAndWait();
 
 }  // namespace velor::bench

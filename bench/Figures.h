@@ -39,7 +39,7 @@ void StartFigure();
 void MemoryFigure();
 void MemoryAfterClosingFigure();
 void IdleFigure();
-/// Does what a child process is for and tells on standard output when it is done.
+// What the child processes do; each says on standard output when it is ready.
 void ChildOurWindow();
 void ChildBareWindow();
 void ChildOurFivePages();

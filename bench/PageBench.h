@@ -14,7 +14,7 @@
 
 namespace velor::bench {
 
-/// The window that shows our component, with what a listener needs to know.
+/// A window with our editing component; counts the notices that the component sends.
 class OurPage : public EditingListener {
  public:
   explicit OurPage(const QString &programFolder);
@@ -35,7 +35,7 @@ class OurPage : public EditingListener {
 /// Our component and a bare view of the same size, and pages on the disk for both.
 struct PageBench {
   PageBench();
-  /// Writes a page and answers its native path.
+  /// Writes a page into the folder and answers its native path.
   QString File(const QString &name, const QByteArray &content) const;
   QString File(const Size &size) const;
   void Load(const QString &path);

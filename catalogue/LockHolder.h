@@ -5,8 +5,8 @@
 
 namespace velor {
 
-/// The program of this machine that holds a lock on a file: its name and process number, for
-/// people. Empty where that cannot be told (another machine's lock, another user's process).
+/// Name and process number, for people, of the program of this machine that holds a lock on a file.
+/// Empty where they are not known (a lock of another machine, a process of another user).
 QString LockHolder(const QString &nativePath);
 
 }  // namespace velor

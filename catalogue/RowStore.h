@@ -11,9 +11,9 @@ struct sqlite3_stmt;
 
 namespace velor {
 
-/// The values of a query's rows, kept small: sixteen bytes a value, and the texts one behind the
-/// other as the database gives them. Most values of "Select *" are never asked for; those that are
-/// become QVariants then.
+/// The values of a query's rows in little memory: sixteen bytes a value, and the texts one behind
+/// the other in the database's encoding. A value becomes a QVariant when it is asked for; most
+/// values of "Select *" never are.
 class RowStore {
  public:
   explicit RowStore(int columns = 0) : columns_(columns) {}

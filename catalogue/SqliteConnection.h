@@ -35,12 +35,12 @@ class SqliteConnection final : public DatabaseConnection {
   QString Notice() const override;
   QString Defect() override;
 
-  /// The open database, ready for one statement: what another program has written since the last
-  /// one is seen. Raises ObjectNotSet (91) before Open.
+  /// The open database, for one statement, which sees what other programs have written so far.
+  /// Raises ObjectNotSet (91) before Open.
   sqlite3 *BeginStatement();
 
  private:
-  /// Before the database, whose tables may be its.
+  /// Declared before the database, whose tables may read from it.
   std::unique_ptr<JetFile> jet_;
   std::unique_ptr<sqlite3, SqliteClose> database_;
 };

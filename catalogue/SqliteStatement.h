@@ -12,8 +12,8 @@ struct sqlite3_stmt;
 
 namespace velor {
 
-/// The error that the database reports now. It names the file first, who holds it where that is
-/// why, and `subject` (the statement, or the file itself) last.
+/// The database's current error as a RuntimeError. Its text names the file first, then who holds a
+/// lock where that is the reason, and `subject` (the statement, or the file itself) last.
 RuntimeError DatabaseError(sqlite3 *database, const QString &source, const QString &subject);
 
 /// One prepared statement, finished when it goes out of scope. Failures raise DatabaseError with

@@ -8,8 +8,8 @@ namespace velor {
 /// The collation's name in declarations.
 inline constexpr const char *TextCollationName = "CATALOGUE";
 
-/// Adds the collation by which texts of a Jet catalogue are ordered and compared: in a dictionary's
-/// order of all scripts, letter case ignored, accents told apart.
+/// Adds the collation by which texts of a Jet catalogue are ordered and compared: dictionary order
+/// of all scripts, ignoring letter case but not accents.
 void AddTextCollation(sqlite3 *database);
 
 }  // namespace velor

@@ -29,7 +29,7 @@ void FillWithSample(const QString &folder, const QString &executableFolder) {
 
 }  // namespace
 
-QString SettleProgramFolder(const QString &executableFolder) {
+QString PrepareProgramFolder(const QString &executableFolder) {
   const QString given = qEnvironmentVariable("VELOR_PROGRAM_FOLDER");
   if (!given.isEmpty()) return QDir::cleanPath(QDir(given).absolutePath());
   if (IsWritable(executableFolder)) return QDir::cleanPath(executableFolder);

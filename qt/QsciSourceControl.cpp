@@ -110,7 +110,7 @@ QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
   Send(QsciScintilla::SCI_SETIDLESTYLING, QsciScintilla::SC_IDLESTYLING_ALL);
   LeaveFilesToTheWindow(*editor_);
   LeaveFilesToTheWindow(*editor_->viewport());
-  FollowPalette();
+  ApplyPalette();
   editor_->installEventFilter(this);
   connect(editor_, &QsciScintilla::linesChanged, this, &QsciSourceControl::FitLineNumbers);
   connect(editor_, &QsciScintilla::SCN_UPDATEUI, this, [this](int updated) {
@@ -274,11 +274,11 @@ long QsciSourceControl::LineEnd(int line) const {
 }
 
 bool QsciSourceControl::eventFilter(QObject *watched, QEvent *event) {
-  if (watched == editor_ && event->type() == QEvent::PaletteChange) FollowPalette();
+  if (watched == editor_ && event->type() == QEvent::PaletteChange) ApplyPalette();
   return QObject::eventFilter(watched, event);
 }
 
-void QsciSourceControl::FollowPalette() {
+void QsciSourceControl::ApplyPalette() {
   const QPalette palette = editor_->palette();
   const QColor paper = palette.color(QPalette::Base);
   const QColor ink = palette.color(QPalette::Text);
@@ -310,7 +310,7 @@ void QsciSourceControl::FollowPalette() {
     editor_->SendScintilla(QsciScintilla::SCI_MARKERSETBACK, number,
                            Mix(paper, ink, FoldMarkShare));
   }
-  marks_->FollowPalette();
+  marks_->ApplyPalette();
   ApplyColorSlots();
   FitLineNumbers();
 }

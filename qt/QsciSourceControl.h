@@ -17,8 +17,8 @@ class SourceMarks;
 
 /// The source control on QScintilla: HTML with its scripts and style sheets in colours that follow
 /// the palette, line numbers, folding, matching tags and brackets, a fixed-pitch font. Line ends
-/// stay as they were given, and new lines get the form that most of them have. Inside it counts
-/// bytes of UTF-8.
+/// stay as they were given, and new lines get the form that most of them have. Positions inside the
+/// control are bytes of UTF-8.
 class QsciSourceControl final : public QObject, public SourceControl {
   Q_OBJECT
 
@@ -52,14 +52,17 @@ class QsciSourceControl final : public QObject, public SourceControl {
 
  private:
   long Send(unsigned int message, long first = 0, long second = 0) const;
+  /// Positions in bytes: of a line's first character, and behind its last one, before the line end.
   long LineStart(int line) const;
-  /// Before the line's end mark.
   long LineEnd(int line) const;
-  /// Whether `text` lies between two places; backward where the second comes first. The control's
-  /// target is then there.
+  /// Searches for `text` between two positions, backward where `to` is before `from`. True where it
+  /// was found; the control's target is set to it then.
   bool FindBetween(const QByteArray &text, long from, long to);
-  void FollowPalette();
+  /// Sets the colours of text, margins and marks from the palette.
+  void ApplyPalette();
+  /// Sets the colours that the owner chose, by `colors_`, over the palette's.
   void ApplyColorSlots();
+  /// Makes the margin as wide as the largest line number.
   void FitLineNumbers();
 
   QPointer<QsciScintilla> editor_;

@@ -8,8 +8,7 @@
 
 namespace velor {
 
-/// The real parts. The editing components share one engine, which lives as long as this object:
-/// it must outlive them.
+/// Makes the real components. It must outlive the editing components, which share its engine.
 class QtComponents final : public Components {
  public:
   /// `programFolder` in logic form.

@@ -5,7 +5,7 @@
 
 namespace velor {
 
-/// Message boxes, questions and modal windows over whatever window of the program is active.
+/// Message boxes, questions and modal windows, over the active window of the program.
 class QtDialogs final : public Dialogs {
  public:
   MessageAnswer ShowMessage(const Message &message) override;

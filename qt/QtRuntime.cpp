@@ -16,7 +16,7 @@
 namespace velor {
 
 QtRuntime::QtRuntime(int argumentCount, const char *const *arguments)
-    : programFolder_(ToLogic(SettleProgramFolder(QCoreApplication::applicationDirPath()))) {
+    : programFolder_(ToLogic(PrepareProgramFolder(QCoreApplication::applicationDirPath()))) {
   QStringList texts;
   for (int index = 1; index < argumentCount; ++index) {
     texts << QString::fromLocal8Bit(arguments[index]);

@@ -5,8 +5,8 @@
 
 namespace velor {
 
-/// The process that the program really lives in. The program folder is settled when the object is
-/// made (ProgramFolder.h).
+/// The process of the program. The constructor finds or
+/// makes the program folder (ProgramFolder.h).
 class QtRuntime final : public Runtime {
  public:
   /// The arguments as main gets them.

@@ -90,7 +90,7 @@ void QtWindowSystem::WatchDropDown(QWidget &widget) {
   }
 }
 
-void QtWindowSystem::Bring(const Notice &notice) {
+void QtWindowSystem::Dispatch(const Notice &notice) {
   if (!IsHooked(notice.window, notice.message)) return;
   Deliver(notice, MsgResponse::Preprocess);
   QMetaObject::invokeMethod(
@@ -108,10 +108,10 @@ void QtWindowSystem::Deliver(const Notice &notice, MsgResponse stage) {
   }
 }
 
-void QtWindowSystem::BringDropDownClosed(const QWidget &combo) {
+void QtWindowSystem::DispatchDropDownClosed(const QWidget &combo) {
   const WindowHandle window = KnownHandle(combo);
   for (const WindowHandle told : {window, Parent(window)}) {
-    Bring({told, Messages::Command, Messages::DropDownClosed * 65536, window});
+    Dispatch({told, Messages::Command, Messages::DropDownClosed * 65536, window});
   }
 }
 
@@ -119,7 +119,7 @@ bool QtWindowSystem::eventFilter(QObject *object, QEvent *event) {
   auto *widget = qobject_cast<QWidget *>(object);
   if (!widget) return false;
   if (const QComboBox *combo = DroppedFrom(*widget)) {
-    if (event->type() == QEvent::Hide) BringDropDownClosed(*combo);
+    if (event->type() == QEvent::Hide) DispatchDropDownClosed(*combo);
     return false;
   }
   const WindowHandle window = KnownHandle(*widget);
@@ -132,14 +132,14 @@ bool QtWindowSystem::eventFilter(QObject *object, QEvent *event) {
       return true;
     case QEvent::Move:
     case QEvent::Resize:
-      Bring({window, Messages::Paint});
+      Dispatch({window, Messages::Paint});
       return false;
     case QEvent::Show:
     case QEvent::Hide:
       RefreshInkOf(window);
       return false;
     default:
-      if (const std::int32_t message = MessageOf(*event)) Bring({window, message});
+      if (const std::int32_t message = MessageOf(*event)) Dispatch({window, message});
       return false;
   }
 }
@@ -193,7 +193,7 @@ void QtWindowSystem::timerEvent(QTimerEvent *event) {
       timers_, [event](const auto &entry) { return entry.second.timerId() == event->timerId(); });
   if (timer == timers_.end()) return;
   const auto [window, id] = timer->first;
-  // A handler that has left does not come to stop its timer.
+  // A handler that was detached cannot stop its timer any more.
   if (!IsHooked(window, Messages::Timer)) {
     timers_.erase(timer);
     return;

@@ -21,10 +21,10 @@ namespace velor {
 /// The window system over Qt's widgets. A control that Qt makes of several widgets (a list and its
 /// viewport) is one window.
 ///
-/// Qt draws inside paint events only. So what a handler draws is kept, for each window that it
-/// draws on, and put on top of the window's own painting inside each of its paint events; drawing
-/// anything else than what is kept asks for a paint event. Messages other than paint come by the
-/// event loop, right after the widget's own treatment of the event.
+/// Qt draws inside paint events only. What a handler draws on a window is therefore kept, and
+/// painted over the window's own painting in each of its paint events. A drawing that differs from
+/// the one kept schedules a paint event. Handlers get messages other than paint from the event
+/// loop, right after the widget has handled the event.
 class QtWindowSystem final : public QObject, public WindowSystem {
  public:
   QtWindowSystem() = default;
@@ -83,7 +83,7 @@ class QtWindowSystem final : public QObject, public WindowSystem {
     std::int32_t message;
     bool operator==(const Hook &) const = default;
   };
-  /// Who is drawing: the handler that runs and the window whose message it got.
+  /// The handler that runs, and the window whose message it got.
   struct Author {
     ISubclass *handler = nullptr;
     WindowHandle window = 0;
@@ -94,15 +94,22 @@ class QtWindowSystem final : public QObject, public WindowSystem {
   /// 0 for a widget that was never asked about, or that is being destroyed.
   WindowHandle KnownHandle(const QWidget &widget) const;
   bool IsHooked(WindowHandle window, std::int32_t message) const;
-  /// Sees the events of the widget from now on.
+  /// Filters the widget's events from now on.
   void Watch(QWidget &widget);
+  /// Also those of a combo box's list, to tell when it closes.
   void WatchDropDown(QWidget &widget);
+  /// Drops all that is kept for a window that is being destroyed.
   void Forget(WindowHandle window);
-  /// Delivers to those that come before the window's own treatment, and after it to the others.
-  void Bring(const Notice &notice);
+  /// Delivers a message to the handlers that want it before the window handles it (Preprocess) now,
+  /// and to the others from the event loop.
+  void Dispatch(const Notice &notice);
+  /// Calls the handlers of a message that want it at that stage.
   void Deliver(const Notice &notice, MsgResponse stage);
-  void BringDropDownClosed(const QWidget &combo);
+  /// Tells the combo box and its parent that the list has closed.
+  void DispatchDropDownClosed(const QWidget &combo);
+  /// Lets the widget paint itself, then paints what the handlers drew on it.
   void PaintOnTop(QWidget &widget, QEvent *event);
+  /// Schedules paint events where handlers of that window's messages have drawn.
   void RefreshInkOf(WindowHandle author);
 
   QHash<WindowHandle, QPointer<QWidget>> widgets_;
@@ -110,9 +117,8 @@ class QtWindowSystem final : public QObject, public WindowSystem {
   QSet<WindowHandle> watched_;
   std::vector<Hook> hooks_;
   Author author_;
-  /// The window whose paint event runs, and whether its own painting does.
-  WindowHandle painting_ = 0;
-  bool ownPainting_ = false;
+  WindowHandle painting_ = 0;  ///< the window whose paint event runs; 0 for none
+  bool ownPainting_ = false;   ///< the widget of `painting_` is painting itself
   InkTable ink_;
   DrawingContexts contexts_;
   std::map<TimerKey, QBasicTimer> timers_;

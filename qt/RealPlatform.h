@@ -15,7 +15,7 @@
 
 namespace velor {
 
-/// The real environment, composed. Made after the application object; outlives every window.
+/// All services of the real environment. Made after the application object; outlives every window.
 struct RealPlatform {
   RealPlatform(int argc, char **argv) : runtime(argc, argv) {}
 

@@ -9,7 +9,8 @@ class QPalette;
 
 namespace velor {
 
-/// Legible (contrast 4.5 : 1 and better) on the palette's light or dark text background.
+/// The colour of a role on the palette's light or dark text background; its contrast is 4.5 : 1 or
+/// better.
 QColor SourceColor(SourceRole role, const QPalette &palette);
 
 }  // namespace velor

@@ -5,8 +5,9 @@
 
 namespace velor {
 
-/// Colours HTML source by its roles: style numbers are those of SourceRole. The library's own HTML
-/// lexer ends the program on pages as they are (docs/decisions/qscintilla.md).
+/// Colours HTML source by its roles; style numbers are those of SourceRole. It takes the place of
+/// the library's own HTML lexer, which aborts the program on some real pages
+/// (docs/decisions/qscintilla.md).
 class SourceLexer final : public QsciLexerCustom {
  public:
   using QsciLexerCustom::QsciLexerCustom;

@@ -81,7 +81,7 @@ SourceMarks::SourceMarks(QsciScintilla *editor) : QObject(editor), editor_(edito
   connect(editor_, &QsciScintilla::cursorPositionChanged, this, [this] { tags_.start(TagPause); });
 }
 
-void SourceMarks::FollowPalette() {
+void SourceMarks::ApplyPalette() {
   const QPalette palette = editor_->palette();
   SetIndicator(*editor_, TagIndicator, QsciScintillaBase::INDIC_STRAIGHTBOX,
                palette.color(QPalette::Highlight));

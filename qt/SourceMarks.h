@@ -8,9 +8,9 @@ class QsciScintilla;
 
 namespace velor {
 
-/// What needs more than a line of HTML source: the elements and comments that can be folded, and
-/// the tag at the caret together with its partner. Both follow a moment after the change, so that
-/// typing in a long source never waits for them.
+/// Marks in the source control that need more than one line of the source: the folds of elements
+/// and comments, and the tag at the caret with the other tag of its element. Both are brought up to
+/// date by a timer after a change, so that typing in a long source does not wait for them.
 class SourceMarks : public QObject {
   Q_OBJECT
 
@@ -20,9 +20,9 @@ class SourceMarks : public QObject {
 
   explicit SourceMarks(QsciScintilla *editor);
 
-  /// Takes up the colours of the editor's palette.
-  void FollowPalette();
-  /// Takes up a text that was put in as a whole.
+  /// Sets the colours of the marks from the editor's palette.
+  void ApplyPalette();
+  /// To be called when the whole text was replaced: finds folds and tags at once.
   void TextReplaced();
 
  private:

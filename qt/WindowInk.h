@@ -25,20 +25,21 @@ using Strokes = std::vector<Stroke>;
 
 QRegion RegionOf(const Strokes &strokes);
 
-/// What the handlers last drew, for each of them and each window drawn on.
+/// The last drawing of each handler on each window.
 class InkTable {
  public:
-  /// One handler's drawing on one window, on account of the window whose messages it gets.
+  /// The drawing of one handler on one window.
   struct Ink {
     const ISubclass *handler;
-    WindowHandle surface;
-    WindowHandle author;
+    WindowHandle surface;  ///< the window drawn on
+    WindowHandle author;   ///< the window whose messages the handler gets
     Strokes strokes;
   };
 
-  /// The pixels that look different now; empty where the same is drawn again.
+  /// Replaces the drawing of the same handler and surface. Answers the pixels that changed; empty
+  /// where the drawing is the same.
   QRegion Replace(Ink ink);
-  /// Takes a handler's drawings away; returns them.
+  /// Removes and returns a handler's drawings.
   std::vector<Ink> TakeOf(const ISubclass &handler);
   void ForgetSurface(WindowHandle surface);
   const std::vector<Ink> &All() const { return all_; }
@@ -57,10 +58,13 @@ class DrawingContexts {
     Strokes strokes;
   };
 
+  /// A new device context for drawing on a window.
   DeviceContext Take(WindowHandle surface);
+  /// Ends a device context and returns what was drawn in it.
   Drawing Give(DeviceContext context);
   Pen AddPen(std::int32_t color);
   void RemovePen(Pen pen) { pens_.erase(pen); }
+  /// Makes a pen the context's; returns the one before.
   Pen Select(DeviceContext context, Pen pen);
   void MoveTo(DeviceContext context, PixelPoint point);
   void LineTo(DeviceContext context, PixelPoint point);

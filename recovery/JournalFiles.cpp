@@ -70,8 +70,8 @@ RuntimeError Defect(const QString &path, const QString &why) {
                       QStringLiteral("%1 cannot be read: %2").arg(path, why));
 }
 
-/// A journal for reading. Raises RuntimeError for what nobody but this program's own user put
-/// there.
+/// Opens a journal for reading. Raises RuntimeError where it cannot be opened, is no plain file, is
+/// another user's or too large.
 FileDescriptor OpenJournal(const QString &path) {
   FileDescriptor file(
       open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
@@ -145,7 +145,7 @@ class JournalFile : public Journal {
   }
 
  private:
-  /// What is to be on this side of an end: the process's, or the machine's.
+  /// Which crash the content has to survive once it is written: of the process, or of the machine.
   enum class Durability { Process, Disk };
 
   QByteArray Name() const { return QFile::encodeName(path_); }
@@ -162,7 +162,7 @@ class JournalFile : public Journal {
     return last_.page.original.size() + units * qsizetype{sizeof(QChar)};
   }
 
-  /// The file's name in its folder, and the folder's among the runs, to the disk.
+  /// Syncs the folder and the one above, so that both names survive a crash of the machine.
   void SyncName() {
     if (isNameOnDisk_) return;
     const QString folder = QFileInfo(path_).path();
@@ -178,14 +178,15 @@ class JournalFile : public Journal {
       return;
     }
     const RuntimeError failure = Failure();
-    // Half a record would hide what is appended after it: then the next is a whole one, elsewhere.
+    // A torn record would hide the records behind it. Where it cannot be cut off, the next Write
+    // begins another file.
     if (Uninterrupted([&] { return calls_.Truncate(file_.Number(), size_); }) != 0)
       file_ = FileDescriptor();
     throw failure;
   }
 
-  /// Puts a new file in the journal's place, whole: an end at any moment leaves the one or the
-  /// other.
+  /// Replaces the journal by a new file with one record. A crash at any moment leaves the old file
+  /// or the new one.
   void WriteWhole(const JournalledPage &page, Durability durability) {
     const QByteArray content = JournalHead() + JournalRecord(page);
     const QByteArray fresh =

@@ -13,8 +13,8 @@ namespace velor {
 
 /// Journals as files in `recovery` below the state folder, which only their owner may read. Every
 /// run has a folder of its own there, named by its process and start time, with a lock that the
-/// system lets go when the process ends, however it ends. The folder comes with the first journal
-/// and goes with the last. An abandoned page's id is the path of its journal.
+/// system releases when the process ends, however it ends. The folder is made for the first journal
+/// and removed with the last. An abandoned page's id is the path of its journal.
 class JournalFiles : public Journals {
  public:
   explicit JournalFiles(FileCalls &calls = FileCalls::OfTheSystem());
@@ -28,23 +28,23 @@ class JournalFiles : public Journals {
   JournalReading Read(const QString &id) override;
   void Discard(const QString &id) override;
 
-  /// This run's folder, made and locked.
+  /// This run's folder; made and locked where it is missing.
   QString OwnFolder();
 
-  /// Whoever has more pages to decide on is shown the newest first. Each folder of an ended run
-  /// that is looked at takes an open file, and a program that ends again and again leaves
-  /// thousands.
+  /// Limit of Abandoned, which takes the newest runs first. Each folder of an ended run takes an
+  /// open file for its lock, and a program that crashes again and again leaves thousands.
   static constexpr std::size_t MostOffered = 200;
 
  private:
-  /// Whether the folder of an ended run is this run's now.
+  /// Locks the folder of an ended run for this run; false where that run lives, or another has it.
   bool Claim(const QString &folder);
-  /// Removes a folder of ours that holds no journal, as far as it holds nothing but ours.
+  /// Removes a folder that this run has locked where it holds no journal. Unknown files in it keep
+  /// it.
   void RemoveIfEmpty(const QString &folder);
 
   FileCalls &calls_;
   QString root_;
-  QString own_;  ///< empty until there is something to write
+  QString own_;  ///< empty before the first journal
   int begun_ = 0;
   std::map<QString, FileDescriptor> locks_;  ///< by folder; held until it goes
 };

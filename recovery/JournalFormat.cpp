@@ -65,15 +65,16 @@ QByteArray ChangeRecord(Kind kind, const QString &before, const QString &after,
                 qint64{difference.removed}, difference.InsertedIn(after).toString());
 }
 
-/// False, with nothing changed, where the stretch does not lie within the text.
-bool Replace(QString &text, QDataStream &stretch) {
+/// Replaces the range that a change record holds; false, with nothing changed, where it does not
+/// lie within the text.
+bool Replace(QString &text, QDataStream &change) {
   qint64 start = 0;
   qint64 removed = 0;
   QString inserted;
-  stretch >> start >> removed >> inserted;
+  change >> start >> removed >> inserted;
   const bool isWithin =
       start >= 0 && start <= text.size() && removed >= 0 && removed <= text.size() - start;
-  if (stretch.status() != QDataStream::Ok || !isWithin) return false;
+  if (change.status() != QDataStream::Ok || !isWithin) return false;
   text.replace(start, removed, inserted);
   return true;
 }
@@ -95,7 +96,7 @@ RunEnd EndOf(Kind last) {
   return last == Kind::KeptAtExit ? RunEnd::Exit : RunEnd::Unforeseen;
 }
 
-/// Carries a record out on the page; false, with nothing changed, for one that says nothing to us.
+/// Applies a record to the page; false, with nothing changed, for a record of unknown form.
 bool Apply(const QByteArray &payload, std::optional<JournalledPage> &page) {
   QDataStream stream(payload);
   stream.setVersion(QDataStream::Qt_6_4);

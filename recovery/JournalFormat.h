@@ -7,9 +7,9 @@
 
 class QIODevice;
 
-/// The format of a page's journal: a first line, then records, each with its length and a checksum.
-/// A torn record ends the journal: what stands before it counts. Numbers are in the machine's own
-/// byte order, since journals do not travel.
+// The format of a page's journal: a first line, then records, each with its length and a checksum.
+// The first record that is cut off or damaged ends the journal; those before it count. Numbers are
+// in native byte order: a journal is only read on the machine that wrote it.
 namespace velor {
 
 /// The first line.
@@ -18,21 +18,22 @@ QByteArray JournalHead();
 /// A record of the whole page.
 QByteArray JournalRecord(const JournalledPage &page);
 
-/// A record of a change of the document: the one stretch that differs.
+/// A record of a change of the document: the one range that differs.
 QByteArray JournalChange(const QString &before, const QString &after, const QDateTime &time);
 
-/// The same for the source that was not applied; empty where the two are equal.
+/// A record of a change of the source that is not applied; nullopt for none. Empty where the two
+/// are equal.
 QByteArray JournalSourceChange(const std::optional<QString> &before,
                                const std::optional<QString> &after, const QDateTime &time);
 
-/// That the page was left like this when the person closed the program; nothing for another end.
+/// A record that the run ended by an exit; empty for RunEnd::Unforeseen, which has no record.
 QByteArray JournalEnd(RunEnd end, const QDateTime &time);
 
-/// The page as the last whole record leaves it; nothing where not even the first is whole.
+/// The page after the last whole record; nothing where not even the first record is whole.
 std::optional<JournalReading> ReadJournal(const QByteArray &journal);
 
-/// What a list says of a journal, read from a few bytes of each record without checking the sums.
-/// Nothing where it does not begin as a journal does.
+/// The line of a list of journals: reads a few bytes of each record and checks no sums. Nothing
+/// where the file does not begin as a journal.
 std::optional<AbandonedPage> SummariseJournal(QIODevice &journal);
 
 }  // namespace velor

@@ -14,9 +14,9 @@ namespace velor {
 
 class JetPager;
 
-/// Walks a table's rows in the file's order, reading values only when they are asked for. A row
-/// that is changed during the walk shows as it was when its page was reached. What is damaged is
-/// left out and noted in the file's access state; the walk always ends.
+/// Walks a table's rows in the file's order and reads a value only when it is asked for. A row that
+/// is changed during the walk is read as it was when its page was reached. Damaged rows are left
+/// out and noted in the pager; the walk always ends.
 class JetCursor {
  public:
   JetCursor(JetPager &pager, const JetTable &table, std::vector<jet::PageNumber> pages);
@@ -32,10 +32,11 @@ class JetCursor {
   /// double. DateTime: "yyyy-MM-dd", with " HH:mm:ss" where the time is not midnight. Text, Memo,
   /// Guid: QString. Binary, Ole: QByteArray. What cannot be read is null.
   QVariant Value(int column) const;
-  /// Whether every value that the row says it has is there, long values to their last part.
+  /// Whether every value of the row can be read, long values to their last part.
   bool IsWhole() const;
 
  private:
+  /// Goes to the next sound page of the table; false past the last one.
   bool EnterPage();
   bool HasLongValue(const JetColumn &column) const;
 

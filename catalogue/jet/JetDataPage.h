@@ -22,7 +22,8 @@ class JetSlots {
 
   int Count() const { return jet::Get<quint16>(page_->data() + jet::DataRows); }
   quint16 Flags(int slot) const;
-  /// A row that people see: neither deleted nor the body of a row that has moved here.
+  /// Whether a row's home slot is here: it is neither deleted nor the body of a row that moved
+  /// here.
   bool IsHome(int slot) const { return !(Flags(slot) & jet::SlotMoved); }
   JetBytes Row(int slot) const;
   /// Bytes between slots and rows.
@@ -35,7 +36,7 @@ class JetSlots {
   const jet::Page *page_;
 };
 
-/// The row at a place of a data page and what keeps its bytes alive.
+/// A row of a data page, with the page that holds its bytes.
 struct JetFoundRow {
   JetPlace place;
   std::shared_ptr<const jet::Page> page;
@@ -43,19 +44,22 @@ struct JetFoundRow {
   JetBytes bytes;
 };
 
-/// Nothing (page is null) where there is no such row, or the page is no sound data page.
+/// Finds the row at a place. `page` is null where there is none, or the page is no sound data page.
 JetFoundRow FindJetRow(JetPager &pager, const JetPlace &place);
 
-/// The place that the first four bytes of a moved row, or a long value, name.
+/// Reads a place (row u8, page u24), as pointers to moved rows and long values have it.
 JetPlace PlaceAt(const unsigned char *bytes);
+/// Writes a place in the same form.
 void PutPlace(unsigned char *bytes, const JetPlace &place);
 
-/// Changes to a sound data page; the caller has made sure that there is room. The free count is
-/// brought up to date.
+// Changes to a sound data page, its count of free bytes included. The caller has made sure that
+// there is room.
+
+/// Replaces flags and bytes of a slot's row.
 void ReplaceJetRow(jet::Page &page, int slot, quint16 flags, JetBytes bytes);
-/// Returns the new slot.
+/// Adds a row; returns its slot.
 int AddJetRow(jet::Page &page, quint16 flags, JetBytes bytes);
-/// An empty data page that belongs to a table.
+/// Makes a page of zeros an empty data page of a table.
 void InitializeDataPage(jet::Page &page, jet::PageNumber definition);
 
 }  // namespace velor

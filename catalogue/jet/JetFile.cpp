@@ -31,7 +31,7 @@ struct JetFile::Parts {
   void CheckNobodyElse();
   void CheckWritable();
   void WriteChanges();
-  void Return(JetPager::Moment moment);
+  void GoBackTo(JetPager::Moment moment);
 
   std::unique_ptr<JetStorage> storage;
   JetPager pager;
@@ -105,12 +105,12 @@ void JetFile::Parts::WriteChanges() {
   if (!backedUp) storage->Backup();
   backedUp = true;
   CommitJetChanges(*storage, pager);
-  pager.Settle(storage->Stamp());
+  pager.NoteCommit(storage->Stamp());
 }
 
-void JetFile::Parts::Return(JetPager::Moment moment) {
-  pager.Return(std::move(moment));
-  updater.Forget();
+void JetFile::Parts::GoBackTo(JetPager::Moment moment) {
+  pager.GoBackTo(std::move(moment));
+  updater.ForgetRooms();
 }
 
 JetFile::JetFile(std::unique_ptr<JetStorage> storage)
@@ -210,7 +210,7 @@ void JetFile::Commit() {
 
 void JetFile::Rollback() {
   if (!parts_->inTransaction) return;
-  parts_->Return(std::move(parts_->begin));
+  parts_->GoBackTo(std::move(parts_->begin));
   parts_->inTransaction = false;
 }
 
@@ -226,7 +226,7 @@ void JetFile::RollbackTo(int number) {
   auto &savepoints = parts_->savepoints;
   while (!savepoints.empty() && savepoints.back().first > number) savepoints.pop_back();
   if (savepoints.empty() || savepoints.back().first != number) return;
-  parts_->Return(savepoints.back().second);
+  parts_->GoBackTo(savepoints.back().second);
 }
 
 void JetFile::Release(int number) {
@@ -258,7 +258,7 @@ void JetFile::UpdateRow(const JetTable &table, JetRowId row,
     parts.updater.Update(table, row, assignments);
   } catch (const RuntimeError &) {
     parts.pager.Undo();
-    parts.updater.Forget();
+    parts.updater.ForgetRooms();
     throw;
   }
   parts.pager.Mark();

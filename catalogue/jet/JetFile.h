@@ -52,20 +52,20 @@ class JetFile {
   /// Letter case ignored; nullptr when there is none. Valid as long as the file is.
   const JetTable *FindTable(const QString &name) const;
 
-  /// To be called at the start of each statement: when another program has changed the file, what
-  /// is known of it is read again. Raises when its tables are no longer those that were opened, or
-  /// when it is just being written. Does nothing within a transaction.
+  /// To be called at the start of each statement: reads definitions and pages again where another
+  /// program has changed the file. Raises where the tables are no longer those that were opened, or
+  /// the file is being written. Does nothing within a transaction.
   void Refresh();
 
-  /// What is missing or damaged, for people; empty for a sound file. The first question (and the
-  /// first after a change by another program) walks all tables and compares the rows with what the
-  /// definitions count.
+  /// What is missing or damaged, for people; empty for a sound file. The first call, and the first
+  /// after a change by another program, walks all tables and compares their rows with the counts in
+  /// the definitions.
   QString Damage();
 
   /// Whether the file can be written as it is. A damaged file cannot.
   const JetAccess &Access();
 
-  /// Valid as long as the file is.
+  /// A cursor before the table's first row; valid as long as the file is.
   JetCursor Scan(const JetTable &table);
 
   /// Begin within a transaction, and Commit or Rollback outside one, do nothing.
@@ -78,9 +78,9 @@ class JetFile {
   /// Savepoints of a transaction are numbered by the caller, in rising order. A number that exists
   /// is kept as it is; outside a transaction there are none.
   void Savepoint(int number);
-  /// Undoes what happened after the savepoint, which remains.
+  /// Undoes the changes after the savepoint, which remains.
   void RollbackTo(int number);
-  /// Forgets this savepoint and the later ones.
+  /// Removes this savepoint and the later ones; the changes stay.
   void Release(int number);
 
   /// Changes text and memo values of a row. Raises with nothing changed for a column that is

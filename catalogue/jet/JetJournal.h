@@ -8,10 +8,10 @@
 
 namespace velor {
 
-/// Brings changed pages into the file whole: what they held before goes into the journal beside the
-/// file and to the disk, then the pages are written, then the journal goes. When writing fails, the
-/// file is put back and the error raised; when even that fails, the journal stays for the next
-/// opening.
+/// Writes the changed pages to the file, all or none. First the old content of these pages is
+/// written to the journal beside the file and synced, then the pages are written, then the journal
+/// is removed. When writing fails, the old content is put back and the error raised; when that
+/// fails too, the journal stays for the next opening.
 ///
 /// The journal: a head (JournalMark, bytes of the file before and after, its modification time,
 /// number of records u32, checksum u64), then a record for each page that the file had: page u32,

@@ -14,12 +14,12 @@ namespace velor {
 /// damaged.
 std::optional<QByteArray> ReadJetLongValue(JetPager &pager, JetBytes field);
 
-/// Gives back the bytes that the value occupies outside its own row. Its slots stay, of length 0
-/// and without the mark of a deleted row: there are readers that, after such a mark on a page of
-/// long values, lose the row that follows it. Raises for a damaged value.
+/// Frees the bytes that a value occupies outside its own row. Its slots stay, with length 0 and
+/// without the flags of a deleted row, since some readers lose the row behind a deleted one on a
+/// page of long values. Raises for a damaged value.
 void FreeJetLongValue(JetPager &pager, JetBytes field);
 
-/// The bytes in the row of a value that stands there itself.
+/// The bytes in the row for a value that is stored in the row itself.
 QByteArray InlineJetLongValue(const QByteArray &content);
 
 }  // namespace velor

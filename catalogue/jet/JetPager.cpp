@@ -53,7 +53,7 @@ jet::Page &JetPager::Modify(jet::PageNumber number) {
   return *(now_.changes[number] = std::move(copy));
 }
 
-void JetPager::Return(Moment moment) {
+void JetPager::GoBackTo(Moment moment) {
   now_ = std::move(moment);
   Mark();
 }
@@ -86,7 +86,7 @@ jet::PageNumber JetPager::Append() {
   return number;
 }
 
-void JetPager::Settle(const JetStamp &stamp) {
+void JetPager::NoteCommit(const JetStamp &stamp) {
   stamp_ = stamp;
   for (auto &[number, page] : now_.changes) cache_[number % cache_.size()] = {number, page};
   now_.changes.clear();

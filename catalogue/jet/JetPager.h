@@ -17,7 +17,7 @@ namespace velor {
 class JetPager {
  public:
   using Changes = std::map<jet::PageNumber, std::shared_ptr<jet::Page>>;
-  /// The transaction at one moment.
+  /// The transaction's state at one moment.
   struct Moment {
     Changes changes;
     jet::PageNumber pageCount = 0;
@@ -25,37 +25,39 @@ class JetPager {
 
   explicit JetPager(JetStorage &storage);
 
-  /// Forgets everything: changes, cache and damage. `stamp` is the file as it is now.
+  /// Drops changes, cache and damage, and begins with the file in the state of `stamp`.
   void Reset(const JetStamp &stamp);
   /// The file's state that the cache belongs to.
   const JetStamp &Stamp() const { return stamp_; }
-  /// 0: pages are not encoded.
+  /// The key of encoded pages; 0 where pages are not encoded.
   void SetKey(quint32 key) { key_ = key; }
 
-  /// A partial last page counts.
+  /// Pages of the file with the transaction's changes; a partial last page counts.
   jet::PageNumber PageCount() const { return now_.pageCount; }
-  /// nullptr beyond the end.
+  /// A page, decoded; nullptr beyond the end.
   std::shared_ptr<const jet::Page> Read(jet::PageNumber number);
 
-  /// The page to change, which must exist.
+  /// A page for changing, which must exist. The reference is valid until the next call.
   jet::Page &Modify(jet::PageNumber number);
   /// A new page of zeros at the end. Raises DiskFull where the format ends.
   jet::PageNumber Append();
 
   const Moment &Now() const { return now_; }
-  void Return(Moment moment);
+  /// Goes back to a moment that Now answered, and sets the mark there.
+  void GoBackTo(Moment moment);
 
-  /// Undo goes back to here. Cheap: only the pages changed since are kept.
+  /// Sets the mark that Undo goes back to. It costs no copy: only pages changed since are kept.
   void Mark();
   void Undo();
 
-  /// The changes are in the file, which is now in the state of `stamp`.
-  void Settle(const JetStamp &stamp);
+  /// To be called when the changes have been written and the file is in the state of `stamp`: they
+  /// become part of the cache.
+  void NoteCommit(const JetStamp &stamp);
 
   /// Encodes a page for the file, or decodes it.
   void ApplyKey(jet::PageNumber number, jet::Page &page) const;
 
-  /// What is wrong with the file, for people; the first note stays.
+  /// Notes what is wrong with the file, in words for people; only the first note is kept.
   void NoteDamage(const QString &what);
   const QString &Damage() const { return damage_; }
 
@@ -69,10 +71,10 @@ class JetPager {
   JetStamp stamp_;
   quint32 key_ = 0;
   Moment now_;
-  /// Since the mark: pages as they were (nullptr: not changed before).
+  /// The pages changed since the mark, as they were then; nullptr for one without changes then.
   std::vector<std::pair<jet::PageNumber, std::shared_ptr<jet::Page>>> undo_;
   jet::PageNumber markedPageCount_ = 0;
-  /// A page has one place, its number modulo the size.
+  /// A page's place is its number modulo the size.
   std::vector<Cached> cache_;
   QString damage_;
 };

@@ -12,7 +12,8 @@
 
 namespace velor {
 
-/// One row's bytes, taken apart; the bytes must outlive it. Every offset in them has been checked.
+/// Gives access to the columns in one row's bytes, whose offsets Parse has checked. The bytes must
+/// outlive it.
 class JetRow {
  public:
   JetRow() = default;
@@ -20,8 +21,8 @@ class JetRow {
   /// Nothing for bytes that cannot be a row of that table.
   static std::optional<JetRow> Parse(const JetTable &table, JetBytes bytes);
 
-  /// Whether the variable data ends where the numbers about it begin, and every column that is not
-  /// null has its place in the row.
+  /// Whether the variable data ends right before its offsets, and every column that is not null has
+  /// its place in the row.
   bool IsWhole(const JetTable &table) const;
 
   /// A Boolean is never null.
@@ -31,13 +32,14 @@ class JetRow {
   /// The stored bytes of a column; empty for null and for what lies outside the row.
   JetBytes Field(const JetColumn &column) const;
 
-  /// The row with one variable column's bytes exchanged (nothing: null); everything else keeps its
-  /// bytes, those of deleted columns too. A row that ends before the column is made longer. The
-  /// result can be longer than a row may be.
+  /// A copy of the row with other bytes in one variable column (nothing: null). Everything else
+  /// keeps its bytes, those of deleted columns too. A row that ends before the column is made
+  /// longer. The result can be longer than a row may be.
   QByteArray Replace(const JetTable &table, const JetColumn &column,
                      const std::optional<QByteArray> &value) const;
 
  private:
+  /// Whether the row is long enough to have the column.
   bool HasPlace(const JetColumn &column) const;
   std::size_t VariableOffset(int index) const;
   std::size_t FixedDataEnd() const;

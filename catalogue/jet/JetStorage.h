@@ -11,7 +11,7 @@
 
 namespace velor {
 
-/// What tells one state of a file from another without reading it.
+/// Identifies a state of a file without reading its content.
 struct JetStamp {
   qint64 bytes = 0;
   /// Modification time, nanoseconds since 1970.
@@ -21,8 +21,9 @@ struct JetStamp {
   bool operator==(const JetStamp &) const = default;
 };
 
-/// The file and what lies beside it, page by page. All access goes through here, so that a test can
-/// fail or stop at any single write. Failures raise RuntimeError with the file's name.
+/// The database file, read and written by pages, and the journal and lock file beside it. All
+/// access goes through this class, so that a test can fail or stop at any single write. Failures
+/// raise RuntimeError with the file's name.
 ///
 /// A commit is CreateJournal, AppendJournal ..., SyncJournal, KeepModified(time), WritePage ...,
 /// Sync, RemoveJournal, KeepModified(nothing).
@@ -30,23 +31,23 @@ class JetStorage {
  public:
   virtual ~JetStorage() = default;
 
-  /// Native form.
+  /// The database file's path in native form.
   virtual QString Path() const = 0;
   virtual JetStamp Stamp() = 0;
-  /// Empty when the file can be written, else why not.
+  /// Why the file cannot be written, for people; empty where it can.
   virtual QString WriteObjection() = 0;
   /// Names who has the file open, by the live locks of the lock file beside it; empty when nobody
   /// has.
   virtual QString LockedBy() = 0;
 
-  /// The part of the page that the file does not hold reads as zeros.
+  /// Reads a page; what lies beyond the file's end reads as zeros.
   virtual void ReadPage(jet::PageNumber number, jet::Page &page) = 0;
   virtual void WritePage(jet::PageNumber number, const jet::Page &page) = 0;
   virtual void Truncate(qint64 bytes) = 0;
   virtual void Sync() = 0;
-  /// As long as a time is given (nanoseconds since 1970), the file keeps it as its modification
-  /// time whatever is written, and the journal is touched before each write: so a journal left
-  /// behind can tell whether somebody else wrote since. Nothing: the file is modified now.
+  /// Keeps `nanoseconds` (since 1970) as the file's modification time whatever is written from now
+  /// on, and touches the journal before each write. A journal left behind can then tell whether
+  /// another program has written since. Nothing ends that, and sets the modification time to now.
   virtual void KeepModified(std::optional<qint64> nanoseconds) = 0;
 
   /// Copies the file to its name with ".bak" appended, whole or not at all.
@@ -68,8 +69,8 @@ class JetStorage {
   virtual QString SetJournalAside() = 0;
 };
 
-/// The real one. Raises when the file is missing or cannot be read. The file is opened for writing
-/// only when it is written.
+/// The storage on the real file. Raises when the file is missing or cannot be read. The file is
+/// opened for writing at the first write.
 std::unique_ptr<JetStorage> OpenJetStorage(const QString &nativePath);
 
 }  // namespace velor

@@ -78,7 +78,7 @@ inline JetPlace HomeOf(JetRowId row) {
 struct JetTable {
   QString name;
   std::vector<JetColumn> columns;
-  /// As the definition counts them; JetFile compares them with what is there.
+  /// Number of rows by the definition; JetFile::Damage compares it with the rows found.
   quint32 storedRows = 0;
   jet::PageNumber definitionPage = 0;
   int maximumColumns = 0;

@@ -10,7 +10,7 @@
 
 namespace velor {
 
-/// How a table's rows are found. What is damaged is noted in the pager and left out.
+// Finding a table's rows. Damage is noted in the pager, and what is damaged left out.
 
 /// The pages that the table owns, in rising order.
 std::vector<jet::PageNumber> JetTablePages(JetPager &pager, const JetTable &table);
@@ -19,8 +19,8 @@ std::vector<jet::PageNumber> JetTablePages(JetPager &pager, const JetTable &tabl
 std::shared_ptr<const jet::Page> ReadJetTablePage(JetPager &pager, const JetTable &table,
                                                   jet::PageNumber number);
 
-/// The body of a row that has moved; `home` are the bytes in its home slot. The page is nullptr
-/// when they lead nowhere.
+/// The body of a row that has moved; `home` are the bytes in its home slot. `page` is null where
+/// they point to no row.
 JetFoundRow FollowJetPointer(JetPager &pager, const JetTable &table, JetBytes home);
 
 void NoteDamagedRow(JetPager &pager, const JetTable &table, const JetPlace &home);

@@ -20,8 +20,8 @@ struct JetAssignment {
   QVariant value;
 };
 
-/// Changes rows in the pager's pages. A row that no longer fits where it is moves to another page
-/// of its table, and its home slot keeps the way there.
+/// Changes rows in the pager's pages. A row that has become too long for its page is moved to
+/// another page of its table; its home slot then holds a pointer to it.
 class JetUpdater {
  public:
   explicit JetUpdater(JetPager &pager) : pager_(pager) {}
@@ -30,17 +30,19 @@ class JetUpdater {
   /// changed; a damaged map or long value can show later.
   void Update(const JetTable &table, JetRowId row, const QList<JetAssignment> &assignments);
 
-  /// Forgets where there is room; to be called when changes have been undone.
-  void Forget() { rooms_.clear(); }
+  /// Drops what is known of free room; to be called when changes have been undone.
+  void ForgetRooms() { rooms_.clear(); }
 
  private:
-  /// Pages with room at the last look; those before `next` had too little.
+  /// Pages that had room when they were last read; those before index `next` had too little.
   struct Room {
     std::vector<jet::PageNumber> pages;
     std::size_t next = 0;
   };
 
+  /// Puts the bytes of a moved row on a page of its table.
   JetPlace Add(const JetTable &table, const QByteArray &row);
+  /// A page of the table with that much room, a new one where there is none.
   jet::PageNumber FindRoom(const JetTable &table, int bytes);
   jet::PageNumber AppendPage(const JetTable &table);
 

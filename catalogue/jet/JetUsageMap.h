@@ -18,22 +18,25 @@ struct JetPages {
   JetSoundness soundness = JetSoundness::Sound;
 };
 
-/// A set of pages, kept in a row of a data page.
+/// A set of page numbers, stored as a bitmap in a row of a data page.
 class JetUsageMap {
  public:
-  /// `beyond` is what a page that the map does not reach counts as.
+  /// `beyond`: whether pages behind the end of the bitmap are in the set.
   JetUsageMap(JetPager &pager, const JetPlace &row, JetBit beyond);
 
-  /// The pages in the set, as far as the file has them. A map that names others is damaged, unless
-  /// it counts the pages beyond it as set.
+  /// The pages of the file in the set. A map that has pages beyond the file's end is damaged,
+  /// unless `beyond` is Set.
   JetPages Pages() const;
 
-  /// Makes the map larger where it must be. Raises DeviceIoError for a damaged map.
+  /// Sets or clears a page, in a larger map where it must be. Raises DeviceIoError for a damaged
+  /// map.
   void Put(jet::PageNumber number, JetBit bit);
 
  private:
   JetFoundRow Row() const;
+  /// Puts a bit into an inline map; false where that does not reach the page.
   bool PutInline(jet::PageNumber number, JetBit bit);
+  /// Turns an inline map into one with pages of its own.
   void MakePaged();
   jet::PageNumber AddMapPage(jet::PageNumber group);
 

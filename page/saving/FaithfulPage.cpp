@@ -28,7 +28,7 @@ struct Effort {
 constexpr Effort UntilEqual{24, 40'000'000};
 constexpr Effort UntilSmallest{120, 10'000'000};
 
-/// Insertions cut where tags begin, so that each tag can be left out on its own.
+/// Cuts inserted texts where tags begin, so that each tag can be left out on its own.
 std::vector<TextPatch> TagByTag(const std::vector<TextPatch> &patches) {
   std::vector<TextPatch> parts;
   for (const TextPatch &patch : patches) {
@@ -45,7 +45,7 @@ std::vector<TextPatch> TagByTag(const std::vector<TextPatch> &patches) {
   return parts;
 }
 
-/// Joins insertions at one place again.
+/// Joins insertions at the same offset, which TagByTag cut.
 std::vector<TextPatch> Joined(const std::vector<TextPatch> &patches) {
   std::vector<TextPatch> joined;
   for (const TextPatch &patch : patches) {
@@ -64,8 +64,9 @@ qsizetype FirstDifference(QStringView one, QStringView other) {
   return end - one.begin();
 }
 
-/// The keys of the words that stand where text may.
-std::unordered_set<std::uint64_t> KeysOfSettledWords(const std::vector<HtmlToken> &tokens) {
+/// The keys of the words that stand where text may stand.
+std::unordered_set<std::uint64_t> KeysOfWordsOutsideTableParts(
+    const std::vector<HtmlToken> &tokens) {
   std::unordered_set<std::uint64_t> keys;
   TextPlaces places;
   for (const HtmlToken &token : tokens) {
@@ -79,12 +80,12 @@ std::unordered_set<std::uint64_t> KeysOfSettledWords(const std::vector<HtmlToken
   return keys;
 }
 
-/// The source's tokens as they are matched with its serialisation. What a parser moves matches
-/// nothing at first where it could be taken for something else: words between the parts of a table
-/// that stand in a cell as well, and the body's and the root's end tag, since it moves the text
-/// behind them before them.
-std::vector<HtmlToken> TokensThatStay(std::vector<HtmlToken> tokens) {
-  const std::unordered_set<std::uint64_t> settled = KeysOfSettledWords(tokens);
+/// The source's tokens for the alignment with its serialisation. Tokens that a parser moves get a
+/// key that matches nothing, where they could be matched with the wrong token: words between the
+/// parts of a table that stand elsewhere too, and the end tags of BODY and HTML, since a parser
+/// moves the text behind them before them.
+std::vector<HtmlToken> TokensToMatch(std::vector<HtmlToken> tokens) {
+  const std::unordered_set<std::uint64_t> elsewhere = KeysOfWordsOutsideTableParts(tokens);
   TextPlaces places;
   for (HtmlToken &token : tokens) {
     const bool isFrame = token.name == elements::Body || token.name == elements::Html;
@@ -93,14 +94,14 @@ std::vector<HtmlToken> TokensThatStay(std::vector<HtmlToken> tokens) {
     else if (token.kind == HtmlTokenKind::EndTag)
       places.EndTag(token.name);
     const bool isMoved = token.kind == HtmlTokenKind::Word && places.IsBetweenTableParts() &&
-                         settled.contains(token.key);
+                         elsewhere.contains(token.key);
     if (isMoved || (isFrame && token.kind == HtmlTokenKind::EndTag)) token.key = 0;
   }
   return tokens;
 }
 
-/// A serialisation without the page's frame as a parser implies it, and without the blanks before
-/// its content, which a source without that frame cannot hold.
+/// A serialisation without tags of HTML, HEAD and BODY that a parser implies, and without the
+/// blanks before its content, which a source without these tags cannot hold.
 QString WithoutImpliedFrame(const QString &serialisation) {
   QString content = serialisation;
   for (const char *tag : {"<html>", "<head>", "</head>", "<body>"}) {
@@ -125,7 +126,7 @@ QString WithoutImpliedFrame(const QString &serialisation) {
   return content;
 }
 
-/// Of a page's code in a message, in UTF-16 units.
+/// UTF-16 units of a page's code that a message quotes.
 constexpr qsizetype LongestQuote = 60;
 
 const QString NoSmallerChange =
@@ -198,7 +199,7 @@ void FaithfulPage::Prepare() {
   if (before_) return;
   before_.emplace(original_.baseline, HtmlOrigin::Serialisation);
   sourceToBefore_ =
-      AlignTokens(TokensThatStay(source_->tokens), before_->tokens, InStep::WithSerialisation);
+      AlignTokens(TokensToMatch(source_->tokens), before_->tokens, InStep::WithSerialisation);
 }
 
 FaithfulPage::Plan &FaithfulPage::PlanFor(const QString &current) {

@@ -38,23 +38,23 @@ class ProgramFolder : public ::testing::Test {
 
 TEST_F(ProgramFolder, IsTheOneThatTheEnvironmentNames) {
   qputenv("VELOR_PROGRAM_FOLDER", QFile::encodeName(Native(QStringLiteral("chosen/"))));
-  EXPECT_EQ(SettleProgramFolder(Bin()), Native(QStringLiteral("chosen")));
+  EXPECT_EQ(PrepareProgramFolder(Bin()), Native(QStringLiteral("chosen")));
 }
 
 TEST_F(ProgramFolder, ARootKeepsItsSeparator) {
   qputenv("VELOR_PROGRAM_FOLDER", "/");
-  EXPECT_EQ(SettleProgramFolder(Bin()), QStringLiteral("/"));
+  EXPECT_EQ(PrepareProgramFolder(Bin()), QStringLiteral("/"));
 }
 
 TEST_F(ProgramFolder, IsTheExecutablesFolderWhenThatIsWritable) {
-  EXPECT_EQ(SettleProgramFolder(Bin()), Bin());
+  EXPECT_EQ(PrepareProgramFolder(Bin()), Bin());
   EXPECT_FALSE(QFileInfo::exists(Data()));
 }
 
 TEST_F(ProgramFolder, IsTheDataFolderFilledWithTheSampleWhenTheExecutablesIsReadOnly) {
   InstallSampleMaker();
   MakeBinReadOnly();
-  EXPECT_EQ(SettleProgramFolder(Bin()), Data());
+  EXPECT_EQ(PrepareProgramFolder(Bin()), Data());
   EXPECT_TRUE(QFileInfo(Data() + QStringLiteral("/eThumbs.mdb")).isFile());
   EXPECT_TRUE(QFileInfo(Data() + QStringLiteral("/eImages")).isDir());
 }
@@ -63,13 +63,13 @@ TEST_F(ProgramFolder, ADataFolderThatExistsIsNotFilledAgain) {
   InstallSampleMaker();
   MakeBinReadOnly();
   QDir().mkpath(Data());
-  EXPECT_EQ(SettleProgramFolder(Bin()), Data());
+  EXPECT_EQ(PrepareProgramFolder(Bin()), Data());
   EXPECT_TRUE(QDir(Data()).isEmpty());
 }
 
 TEST_F(ProgramFolder, WithoutASampleMakerTheDataFolderStaysEmpty) {
   MakeBinReadOnly();
-  EXPECT_EQ(SettleProgramFolder(Bin()), Data());
+  EXPECT_EQ(PrepareProgramFolder(Bin()), Data());
   EXPECT_TRUE(QDir(Data()).isEmpty());
 }
 
