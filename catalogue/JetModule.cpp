@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char *ModuleName = "jet";
 
-/// What SQLite hands back to every function that concerns one table.
+/// One table of the module; SQLite passes it to every function that concerns the table.
 struct Table : sqlite3_vtab {
   JetFile *file = nullptr;
   const JetTable *definition = nullptr;
@@ -58,7 +58,8 @@ int ResultCodeOf(const std::exception &error) {
   }
 }
 
-/// The detail alone: the statement that fails puts the number's sentence in front of it again.
+/// The error's detail, without the sentence of its number, which DatabaseError puts before it
+/// again.
 QByteArray TextOf(const std::exception &error) {
   const auto *known = dynamic_cast<const RuntimeError *>(&error);
   if (known == nullptr) return error.what();
@@ -310,7 +311,7 @@ int Begin(sqlite3_vtab *table) {
   return Guarded(table, [&] { From(table).file->Begin(); });
 }
 
-/// Writes the file. Here and not at xCommit, whose failure SQLite would not take.
+/// Writes the file; not in xCommit, whose failure SQLite ignores.
 int Sync(sqlite3_vtab *table) {
   return Guarded(table, [&] { From(table).file->Commit(); });
 }
@@ -362,7 +363,8 @@ constexpr sqlite3_module Module = {
     .xShadowName = nullptr,
 };
 
-/// What a statement may do. The rest would change the connection alone and look like a success.
+/// Denies statements that would change the connection only, not the file, and look as if they had
+/// succeeded.
 int Authorize(void *, int action, const char *, const char *, const char *, const char *) {
   switch (action) {
     case SQLITE_SELECT:

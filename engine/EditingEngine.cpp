@@ -17,8 +17,8 @@ struct Setting {
   bool on;
 };
 
-/// Pages are other people's: nothing of theirs runs, opens, stores or reaches out. The clipboard
-/// entries concern the bridge's own world, the only one with scripts.
+/// Pages may be hostile: they run no scripts, open no windows, store nothing and reach nothing
+/// outside. The clipboard settings concern the bridge's world, the only one with scripts.
 constexpr Setting Settings[] = {
     {QWebEngineSettings::JavascriptEnabled, false},
     {QWebEngineSettings::JavascriptCanOpenWindows, false},

@@ -82,8 +82,8 @@ bool EditorInput::eventFilter(QObject *watched, QEvent *event) {
   }
   switch (event->type()) {
     case QEvent::ShortcutOverride:
-      // Unanswered, the key is first offered to the program's shortcuts; only what none of them
-      // wants comes back as a key press.
+      // An ignored override offers the key to the program's shortcuts first; one that none of them
+      // takes comes back as a key press.
       event->ignore();
       return true;
     case QEvent::KeyPress:

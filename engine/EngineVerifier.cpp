@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds AnswerLimit = 1min;
 /// A process that ends while it parses is replaced once.
 constexpr int MostTries = 2;
 
-/// What leads from one text to the other, for the script.
+/// The difference of two texts as an argument of velor.parsed: [start, removed, inserted].
 QString Edit(const QString &before, const QString &after) {
   const auto difference = TextDifference::Between(before, after);
   return QStringLiteral("[%1,%2,%3]")

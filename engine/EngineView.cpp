@@ -55,7 +55,7 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   container->setFocusProxy(view_);
 
   connect(&host_, &BridgeHost::StateArrived, this, [this](const StateSnapshot &state) {
-    // While a page loads the channel may still deliver what the page before it had to say.
+    // While a page loads the channel may still deliver calls of the page before it.
     if (phase_ == Phase::Ready) Q_EMIT StateArrived(state);
   });
   connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
@@ -90,7 +90,7 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   });
   connect(page_, &QWebEnginePage::loadingChanged, this, [this](const QWebEngineLoadingInfo &info) {
     const EngineCallback callback(engine_.Guard());
-    // Refused navigations of the page's own end here as well, under their own addresses.
+    // Navigations of the page that were refused end here too, with other addresses.
     if (phase_ != Phase::Loading || info.url() != address_) return;
     if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) return;
     if (info.status() != QWebEngineLoadingInfo::LoadSucceededStatus) return EndLoad(Phase::Failed);
@@ -103,7 +103,7 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
 }
 
 EngineView::~EngineView() {
-  // While the page is deleted the engine answers what is still open and tells of the page's end.
+  // While the page is deleted the engine answers open expressions and reports the page's end.
   lifetime_.End();
   blockSignals(true);
   phase_ = Phase::Dead;
@@ -160,7 +160,7 @@ void EngineView::Evaluate(const QString &expression, const Answer &answered) {
 std::optional<QVariant> EngineView::Ask(const QString &expression, std::chrono::milliseconds limit,
                                         const Patience *patience) {
   if (CurrentPhase() != Phase::Ready || engine_.Guard().InCallback()) return std::nullopt;
-  // Shared, since the answer may come when nobody waits any more.
+  // Shared, since the answer may come after the wait has ended.
   const auto value = std::make_shared<std::optional<QVariant>>();
   Run(expression, [this, value](const QVariant &answer) {
     *value = answer;

@@ -41,7 +41,7 @@ bool IsInput(QEvent::Type type) {
   }
 }
 
-/// Keeps all input of the program from where it was meant for, and looks out for Escape in it.
+/// Takes all input of the program while it lives, and calls `escaped` for Escape.
 class EscapeWatch : public QObject {
  public:
   EscapeWatch(Patience::Input input, std::function<void()> escaped)
@@ -72,7 +72,8 @@ class EscapeWatch : public QObject {
     std::unique_ptr<QEvent> event;
   };
 
-  /// A drag goes on only while it is answered; an override is a question about the key behind it.
+  /// Whether an event means the same later. A drag needs its answers at once, and a shortcut
+  /// override asks about the key event behind it.
   static bool CanWait(QEvent::Type type) {
     return type != QEvent::DragEnter && type != QEvent::Drop && type != QEvent::ShortcutOverride;
   }
@@ -82,7 +83,8 @@ class EscapeWatch : public QObject {
   std::vector<Kept> kept_;
 };
 
-/// The event loop of one wait. It may run twice: first without user input, then in view of Escape.
+/// The event loop of one wait. It may run twice: first without user input, then with
+/// Escape watched.
 class WaitLoop {
  public:
   WaitLoop(QObject &subject, EngineGuard &guard, const std::function<bool()> &done) : done_(done) {

@@ -57,8 +57,8 @@ void NoticeQueue::ReportNow(const QString &message) {
 void NoticeQueue::Deliver() {
   const Lifetime::Watch life = lifetime_.NewWatch();
   while (!life.IsOver() && !waiting_.empty()) {
-    // Still running while a notice is delivered, for the others: its receiver may raise an error,
-    // show a dialog or wait for the engine.
+    // The timer runs while a notice is delivered, for the notices behind it: the receiver may raise
+    // an error, show a dialog or wait for the engine.
     timer_.start();
     if (guard_.Waiting()) return;
     const Waiting first = std::move(waiting_.front());

@@ -131,8 +131,8 @@ void PageLoader::BeginLoad(Purpose purpose) {
                       .arg(ScriptValue(options_.showDetails), ScriptValue(options_.snapToGrid),
                            ScriptValue(history.HasEarlier()), ScriptValue(history.HasLater()));
   if (purpose == Purpose::Restore || purpose == Purpose::Step) {
-    // Untouched, it comes from its original again: what the engine makes of its own
-    // serialisation may differ from what it made of the page.
+    // An unedited document is loaded from its original: the engine may parse its own serialisation
+    // to another document.
     if (mirror.Html() != history.Current()->Baseline()) text = mirror.Html();
     start += QStringLiteral("velor.restore(%1,%2);")
                  .arg(ScriptValue(mirror.Start()), ScriptValue(mirror.End()));
@@ -171,7 +171,7 @@ void PageLoader::BeginStep(QString html) {
 
 void PageLoader::Restore(const PageMemory &memory) {
   const Lifetime::Watch life = document_.WatchEditor();
-  // First the page as it was before, since only the engine knows what it makes of it.
+  // First the original, to learn its baseline from the engine.
   LoadPage(std::make_shared<FaithfulPage>(
                PageOriginal{memory.original, DecodePage(memory.original), {}}),
            memory.base);

@@ -14,7 +14,7 @@ namespace velor {
 
 namespace {
 
-/// The text after one step; nothing where the step is not one of this text.
+/// The text after one step; nothing where the step does not fit this text.
 std::optional<QString> After(const QString &text, const QVariantList &edits) {
   std::vector<TextPatch> patches;
   qsizetype done = 0;
@@ -41,14 +41,14 @@ bool PageMirror::Apply(const QVariantMap &told) {
   const QVariantList steps = told[QStringLiteral("steps")].toList();
   const int first = revision - static_cast<int>(steps.size());
   if (revision_ == 0 || revision_ < first) return false;
-  // Where a push and an answer crossed, the first steps have been applied already.
+  // Steps up to this revision have been applied already, by a push that crossed with an answer.
   QString html = html_;
   for (int step = revision_; step < revision; ++step) {
     auto after = After(html, steps[step - first].toList());
     if (!after) return false;
     html = std::move(*after);
   }
-  // One text stays one in memory where nothing differs after all.
+  // An equal text is not taken over, so that copies of the old one go on sharing its memory.
   if (html != html_) html_ = html;
   revision_ = std::max(revision, revision_);
   return true;

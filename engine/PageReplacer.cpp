@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds ReplaceLimit = 1min;
 const QString LongReplacement = QStringLiteral(
     "The page takes long to show. Press Escape to stop it; the page is as before then.");
-/// Preparing a larger one would hold the window up for seconds (bytes).
+/// Bytes. Preparing a larger page would block the window for seconds.
 constexpr qsizetype LargestPage = 32'000'000;
 
 QString FolderOf(const QString &nativePath) {

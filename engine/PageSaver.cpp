@@ -14,7 +14,7 @@ namespace {
 
 const QString LongCheck =
     QStringLiteral("The page takes long to save. Press Escape to have it written anew as a whole.");
-/// Composing a larger page ahead would be felt by who goes on typing (UTF-16 units).
+/// UTF-16 units. Composing a larger page ahead would delay the next key.
 constexpr qsizetype LargestAhead = 2'000'000;
 
 QString WrittenAnew(const QString &reason) {
@@ -35,7 +35,7 @@ SavedPage PageSaver::Compose() {
   const QString nativePath = document_.NativePath();
   EngineVerifier::Stoppable verifier(verifier_, document_.StoppableWith(LongCheck));
   const LiveDocument::Reading reading = document_.Read();
-  // Better no file than one without what was typed last.
+  // A file without what was typed last would be worse than none.
   if (reading.isUnanswered)
     throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("SaveDocument"), nativePath);
   return reading.original->Compose(reading.html, verifier);

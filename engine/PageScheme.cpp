@@ -15,7 +15,7 @@ namespace velor {
 
 namespace {
 
-/// The engine spells an address in its own way; path and query say what it is.
+/// Identifies an address by path and query, since the engine may spell the rest in another way.
 QString Key(const QUrl &address) {
   return address.path(QUrl::FullyDecoded) + u'?' + address.query();
 }
@@ -23,7 +23,7 @@ QString Key(const QUrl &address) {
 /// The existing regular file that an address stands for; empty when there is none.
 QString FileOf(const QUrl &address) {
   const QString path = address.path(QUrl::FullyDecoded);
-  // Links written with "\" are as common in old pages as the browsers of their time allowed.
+  // Old pages have links with "\", which the browsers of their time accepted.
   for (const QString &candidate :
        {path, FindIgnoringCase(ToLogic(path)), FindIgnoringCase(QString(path).replace('/', '\\'))})
     if (QFileInfo(candidate).isFile()) return candidate;

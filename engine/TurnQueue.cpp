@@ -21,7 +21,7 @@ TurnQueue::TurnQueue(PageWays &ways, EngineGuard &guard) : ways_(ways), guard_(g
 void TurnQueue::Run(const QString &expression, const PageWays::Answer &answer) {
   if (!ways_.IsOpen()) return;
   turns_.push_back({nullptr, expression, answer});
-  // Input that waits before it is sent when it may.
+  // Turns before it are sent first, when they may be.
   if (turns_.size() == 1) SendDue();
 }
 

@@ -9,8 +9,8 @@ namespace velor {
 
 namespace {
 
-/// The engine takes minutes and all memory for millions of cells, and nobody could stop it; this
-/// many, ends included, it shows in seconds.
+/// Tags, end tags included, that the engine shows in seconds. For millions it takes minutes and all
+/// memory, and nobody could stop it.
 constexpr qsizetype MostTags = 400'000;
 
 class WebTextRange : public TextRange {

@@ -20,7 +20,7 @@ namespace velor {
 
 namespace {
 
-/// The widget that is laid out; the view comes into it when it is needed.
+/// The widget that is laid out; the view is put into it when the first document is loaded.
 class EditorFrame : public QWidget {
  public:
   EditorFrame(QWidget *parent, std::function<void()> shown)
@@ -37,8 +37,9 @@ class EditorFrame : public QWidget {
   std::function<void()> shown_;
 };
 
-/// Commands that the engine itself carries out, since only it reaches the clipboard in every form.
-/// They go the way of all commands: an action of the view would overtake a command before it.
+/// The engine's name of a command that only the engine can carry out: it alone reaches all forms of
+/// the clipboard. Empty for other commands. It is evaluated like all commands, since an action of
+/// the view would overtake a command before it.
 QString ClipboardCommand(EditingCommand command) {
   switch (command) {
     case EditingCommand::Cut:
@@ -59,7 +60,8 @@ WebEditor::WebEditor(EditingEngine &engine, Files &files, const QString &program
     : guard_(engine.Guard()),
       files_(files),
       notices_(engine.Guard()),
-      // A document that whoever shows the widget sets right afterwards must not wait for another.
+      // Later, since the caller that shows the widget may set a document right afterwards, which
+      // must not wait for the blank page.
       document_(
           engine, notices_,
           new EditorFrame(
@@ -111,7 +113,7 @@ void WebEditor::ConnectView(EngineView &view) {
         document_.Run(QStringLiteral("velor.caretAt(%1,%2)").arg(place.x()).arg(place.y()));
         post(Notice::Drop, [this, files] { TellOfFiles(files); });
       });
-  // Completion is told before the first input reaches the page.
+  // DocumentComplete is delivered before the first input reaches the page.
   QObject::connect(&view, &EngineView::InputComing, [this] {
     typing_.NoteInput();
     notices_.Deliver();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The caret's place in terms that hold for the page's source as well.
+// The caret's place as a path of elements, which can be found in the page's source too.
 #include "engine/BridgeScript.h"
 #include "engine/WebEditor.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A convenience: it may not hold up a change of modes for longer.
+/// Asking for the place delays a change of modes no longer than this.
 constexpr std::chrono::milliseconds PlaceLimit = 400ms;
 
 const QString Name = QStringLiteral("name");

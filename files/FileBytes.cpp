@@ -10,7 +10,7 @@ namespace velor {
 
 namespace {
 
-/// Asks twice, for the size and for the content; nothing where the second answer failed.
+/// Calls twice, for the size and for the content. Nothing where a call fails.
 template <typename Call>
 std::optional<QByteArray> Answer(Call call) {
   const ssize_t size = call(nullptr, 0);
@@ -34,7 +34,7 @@ FileDescriptor OpenFile(FileCalls &calls, const QByteArray &name, int flags, mod
 }
 
 bool CloseFile(FileCalls &calls, FileDescriptor file) {
-  // Interrupted, it is closed nevertheless.
+  // An interrupted close has closed the file.
   return calls.Close(file.Release()) == 0 || errno == EINTR;
 }
 
@@ -58,7 +58,7 @@ bool SyncFile(FileCalls &calls, int file) {
 
 bool SyncFolder(FileCalls &calls, const QByteArray &folder) {
   const FileDescriptor descriptor = OpenFile(calls, folder, O_RDONLY | O_DIRECTORY);
-  // A folder in which files may be made but not listed cannot be opened; its file is safe by then.
+  // A folder in which files may be created but not listed cannot be opened; it is not synced then.
   return !descriptor.IsOpen() || SyncFile(calls, descriptor.Number());
 }
 
@@ -70,7 +70,7 @@ bool CopyAttributes(FileCalls &calls, int from, int to) {
     if (name.isEmpty()) continue;
     const auto value = AttributeOf(from, name.constData());
     if (!value) return false;
-    // Some are given by the system alone, which has done so already.
+    // The system sets some attributes itself and lets nobody else do so: those are equal already.
     if (AttributeOf(to, name.constData()) == value) continue;
     const auto size = static_cast<size_t>(value->size());
     const int given = Uninterrupted(

@@ -19,10 +19,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A program that writes a file in several steps is waited for this long after each of them.
+/// Changes within this time of one another are reported once: a program may write a file in several
+/// steps.
 constexpr std::chrono::milliseconds QuietTime = 200ms;
 
-/// What tells one state of a file from another without reading it; all 0 for a missing file.
+/// Identifies a state of a file without reading its content; all 0 for a missing file.
 struct State {
   dev_t device = 0;
   ino_t inode = 0;
@@ -45,12 +46,12 @@ struct State {
 class QtFileWatch final : public FileWatch {
  public:
   explicit QtFileWatch(FileWatches::Listener listener) : listener_(std::move(listener)) {
-    resting_.setSingleShot(true);
-    QObject::connect(&watcher_, &QFileSystemWatcher::fileChanged, &resting_,
-                     [this] { resting_.start(QuietTime); });
-    QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, &resting_,
-                     [this] { resting_.start(QuietTime); });
-    QObject::connect(&resting_, &QTimer::timeout, [this] { Compare(); });
+    quietTimer_.setSingleShot(true);
+    QObject::connect(&watcher_, &QFileSystemWatcher::fileChanged, &quietTimer_,
+                     [this] { quietTimer_.start(QuietTime); });
+    QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, &quietTimer_,
+                     [this] { quietTimer_.start(QuietTime); });
+    QObject::connect(&quietTimer_, &QTimer::timeout, [this] { Compare(); });
   }
 
   void SetFiles(const QStringList &paths) override {
@@ -58,12 +59,13 @@ class QtFileWatch final : public FileWatch {
     if (!before.isEmpty()) watcher_.removePaths(before);
     files_.clear();
     for (const QString &path : paths) files_[path] = State::Of(ToNative(path));
-    Follow();
+    WatchMissing();
   }
 
  private:
-  /// A file that was replaced or removed is watched no more; one that came back is anew.
-  void Follow() {
+  /// Watches again the files that the watcher dropped, since they were replaced or removed and came
+  /// back, and their folders.
+  void WatchMissing() {
     QStringList wanted;
     for (const auto &[path, state] : files_) {
       const QString native = ToNative(path);
@@ -76,8 +78,9 @@ class QtFileWatch final : public FileWatch {
     }
   }
 
+  /// Calls the listener with each file whose state has changed.
   void Compare() {
-    Follow();
+    WatchMissing();
     QStringList changed;
     for (auto &[path, state] : files_) {
       const State now = State::Of(ToNative(path));
@@ -92,7 +95,7 @@ class QtFileWatch final : public FileWatch {
 
   FileWatches::Listener listener_;
   QFileSystemWatcher watcher_;
-  QTimer resting_;
+  QTimer quietTimer_;
   std::map<QString, State> files_;
 };
 

@@ -17,7 +17,7 @@ namespace velor {
 
 namespace {
 
-/// What no page, picture or settings file comes near; reading more would hold the program up.
+/// Bytes. No page, picture or settings file is that large; reading more would block the program.
 constexpr off_t LargestRead = off_t{256} * 1024 * 1024;
 
 QString Find(const QString &path, NameOrigin origin) {
@@ -27,7 +27,7 @@ QString Find(const QString &path, NameOrigin origin) {
 /// The native form of a path that an operation is about to use.
 QString Usable(const QString &path, const QString &source, NameOrigin origin = NameOrigin::Chosen) {
   if (IsOnUnknownDrive(path)) throw RuntimeError::Of(ErrorNumber::PathNotFound, source, path);
-  // The system would take the name as far as the NUL, which is another file.
+  // System calls read the name up to the NUL, which names another file.
   if (path.contains(QChar(0))) throw RuntimeError::Of(ErrorNumber::PathFileAccess, source, path);
   return Find(path, origin);
 }
@@ -100,7 +100,7 @@ QByteArray QtFiles::ReadAll(const QString &path, NameOrigin origin) const {
   QByteArray content(status.st_size, Qt::Uninitialized);
   qsizetype used = 0;
   for (;;) {
-    // One byte more than is expected, so that the end is met without another round.
+    // Room for one byte more than expected, so that the end is found without another read.
     if (used == content.size()) content.resize(used + used / 2 + 1);
     const ssize_t count =
         read(file.Number(), content.data() + used, static_cast<size_t>(content.size() - used));

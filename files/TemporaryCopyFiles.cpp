@@ -26,7 +26,7 @@ namespace {
 
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
 constexpr mode_t AsTheUserAsks = 0666;  // less what the umask takes
-/// The size of a copy in the list that is being written.
+/// The size in the mark of a copy that is being written.
 constexpr qint64 Unfinished = -1;
 const char *const AccessList = "system.posix_acl_access";
 
@@ -40,7 +40,7 @@ std::optional<struct stat> StatusOf(int file) {
   return fstat(file, &status) == 0 ? std::optional(status) : std::nullopt;
 }
 
-/// Whether the file that this is has only this name and no other content than the mark says.
+/// Whether a file is a plain file with one name, in the state that the mark says.
 bool IsAsMarked(const struct stat &status, const CopyMark &mark) {
   if (!S_ISREG(status.st_mode) || status.st_nlink != 1) return false;
   const CopyMark now = MarkOf(status);
@@ -53,8 +53,8 @@ bool IsThereAsMarked(const QByteArray &name, const CopyMark &mark) {
   return lstat(name.constData(), &status) == 0 && IsAsMarked(status, mark);
 }
 
-/// Whether an error of creating a file says that the name or the folder is not to be had.
-bool IsNoPlace(int error) {
+/// Whether an error of creating a file means that no file of that name can be created there.
+bool IsNameUnusable(int error) {
   return error == EEXIST || error == ENOENT || error == ENOTDIR || error == EACCES ||
          error == EPERM || error == EROFS || error == ELOOP || error == ENAMETOOLONG ||
          error == EISDIR || error == ENXIO;
@@ -72,7 +72,8 @@ bool HasAccessList(const QByteArray &name) {
 }
 
 // A line of the list: device, inode, size and time of change as numbers, and the path with its
-// bytes escaped; of a copy that is gone the path alone. The last line of a path holds.
+// bytes escaped; of a copy that is gone the path alone. Of several lines with one path the last
+// counts.
 
 QByteArray ListLine(const QString &path, const CopyMark *mark) {
   const QByteArray name = QFile::encodeName(path).toPercentEncoding("/");
@@ -84,7 +85,7 @@ QByteArray ListLine(const QString &path, const CopyMark *mark) {
 
 std::map<QString, CopyMark> ReadList(const QByteArray &list) {
   std::map<QString, CopyMark> copies;
-  // What stands behind the last line end was cut off.
+  // A line without an end was cut off by a crash.
   for (const QByteArray &line : list.left(list.lastIndexOf('\n') + 1).split('\n')) {
     const QList<QByteArray> parts = line.split(' ');
     const QString path = QFile::decodeName(QByteArray::fromPercentEncoding(parts.constLast()));
@@ -136,7 +137,7 @@ FileDescriptor TemporaryCopyFiles::Create(const QString &path, const QString &pa
   FileDescriptor file = OpenFile(calls_, name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW,
                                  hasPage ? OwnerOnly : AsTheUserAsks);
   if (!file.IsOpen() || !hasPage) return file;
-  // The bits of a file with an access list do not say who may read it.
+  // The mode of a file with an access list does not say who may read it: the copy stays private.
   if (HasAccessList(original) || HasAccessList(name)) return file;
   if (const auto status = StatusOf(file.Number()))
     Uninterrupted([&] { return calls_.SetMode(file.Number(), ModeLike(like, *status)); });
@@ -153,7 +154,7 @@ TemporaryCopies::Outcome TemporaryCopyFiles::Write(const QString &path, const QB
   FileDescriptor file = OpenOwn(native);
   if (!file.IsOpen()) file = Create(native, page);
   if (!file.IsOpen()) {
-    if (IsNoPlace(errno)) return Outcome::NoPlace;
+    if (IsNameUnusable(errno)) return Outcome::NoPlace;
     throw failure(errno);
   }
   const auto begun = StatusOf(file.Number());

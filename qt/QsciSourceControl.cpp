@@ -29,7 +29,8 @@ constexpr int FirstFoldMarker = QsciScintilla::SC_MARKNUM_FOLDEREND;
 constexpr int LastFoldMarker = QsciScintilla::SC_MARKNUM_FOLDEROPEN;
 constexpr int TabColumns = 4;
 constexpr int MiddleLightness = 128;
-/// How much of the highlight colour, and of the text's, is in fields that stand back.
+/// Share of the highlight colour, and of the text colour, in the fields of marked lines and
+/// margins.
 constexpr double MarkedLineShare = 0.08;
 constexpr double BraceShare = 0.3;
 constexpr double FoldMarkShare = 0.55;
@@ -68,8 +69,8 @@ QsciScintilla::EolMode EolModeOf(const QString &text) {
   return QsciScintilla::EolWindows;
 }
 
-/// On a dark field the slots' lightness is mirrored: what is to be as light as paper becomes as
-/// dark as the paper there, and greys in the middle stay as they are.
+/// On a dark palette the lightness of the owner's colours is mirrored: white becomes as dark as the
+/// text background, and a middle grey stays.
 QColor SlotColor(std::int32_t value, const QPalette &palette) {
   const QColor color = FromColorValue(value);
   const QColor paper = palette.color(QPalette::Base);
@@ -106,7 +107,7 @@ QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
   editor_->setFolding(QsciScintilla::BoxedTreeFoldStyle, FoldMargin);
   editor_->markerDefine(QsciScintilla::Background, LineMarker);
   editor_->setReadOnly(access == SourceAccess::View);
-  // A long source is styled as far as it is seen, and the rest when nothing else is to be done.
+  // Of a long source the visible part is styled at once, the rest while the program is idle.
   Send(QsciScintilla::SCI_SETIDLESTYLING, QsciScintilla::SC_IDLESTYLING_ALL);
   LeaveFilesToTheWindow(*editor_);
   LeaveFilesToTheWindow(*editor_->viewport());
@@ -114,7 +115,7 @@ QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
   editor_->installEventFilter(this);
   connect(editor_, &QsciScintilla::linesChanged, this, &QsciSourceControl::FitLineNumbers);
   connect(editor_, &QsciScintilla::SCN_UPDATEUI, this, [this](int updated) {
-    // Typing moves the caret as well, and is told as a change of the content alone.
+    // Typing moves the caret too, but is reported as a change of the content only.
     const bool moved = (updated & CaretUpdates) != 0;
     if (moved && selectionListener_) selectionListener_();
   });

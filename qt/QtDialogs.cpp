@@ -79,11 +79,11 @@ class HideWatcher final : public QObject {
 };
 
 void SetWords(QMessageBox &box, const Message &message) {
-  // The format first: the text may look like markup.
+  // The format is set before the text, which may look like markup.
   box.setTextFormat(Qt::PlainText);
   box.setText(message.text);
   box.setInformativeText(message.details);
-  // The toolkit leaves this label to guess.
+  // The message box would guess the format of this label.
   if (auto *details = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel")))
     details->setTextFormat(Qt::PlainText);
 }
@@ -136,7 +136,7 @@ void QtDialogs::RunModal(QWidget &dialog) {
   dialog.setWindowModality(Qt::ApplicationModal);
   dialog.show();
   dialog.activateWindow();
-  // A window that hides itself while it is being shown is done already.
+  // A window that hid itself while it was being shown has ended already.
   if (dialog.isVisible()) loop.exec(QEventLoop::DialogExec);
 }
 

@@ -9,7 +9,7 @@ namespace velor {
 
 namespace {
 
-/// The settings that a key path lies in, read afresh, and the name of a value within them.
+/// The settings file of a key path, read again from the disk, and the name of a value in it.
 class Place {
  public:
   Place(const QString &keyPath, const QString &name)
@@ -42,7 +42,7 @@ bool QtRegistry::SetText(const QString &keyPath, const QString &name, const QStr
   settings.setValue(place.Key(), text);
   settings.sync();
   if (settings.status() == QSettings::NoError) return true;
-  // What could not be written stays in QSettings' own memory; later reads must see what is stored.
+  // QSettings keeps in memory what it could not write; later reads must see what is stored.
   if (before.isValid()) {
     settings.setValue(place.Key(), before);
   } else {

@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds FoldPause = 150ms;
 constexpr std::chrono::milliseconds TagPause = 40ms;
-/// A "<" further before the caret than this begins no tag that anybody looks at.
+/// Bytes before the caret in which the "<" of its tag is looked for.
 constexpr qsizetype LongestTag = 4096;
 constexpr int TagFieldAlpha = 40;
 constexpr int TagEdgeAlpha = 110;

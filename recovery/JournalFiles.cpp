@@ -24,26 +24,27 @@ namespace velor {
 namespace {
 
 constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
-/// A journal may be this much longer than what it stands for before it is written anew.
+/// Bytes that a journal may be longer than twice its page before Compact writes it anew.
 constexpr qsizetype MostSlack = 256 * 1024;
-/// No page is so large that its journal comes near.
+/// Bytes. No page is so large that its journal is that long.
 constexpr off_t LargestJournal = 512 * 1024 * 1024;
-/// What a journal needs at least.
+/// Bytes that a journal needs at least.
 constexpr qsizetype RoomAtLeast = 4096;
-/// Folders that hold nothing are looked at as well, but a start is not to be felt.
+/// Folders that Abandoned looks into, empty ones included: a limit for the time of a start.
 constexpr int MostLookedAt = 1000;
 
 const QString LockName = QStringLiteral("lock");
 const QString Fragments = QStringLiteral("*.tmp");
 
-/// Whatever has a journal's name, a file or not: what is no journal is told, not passed over.
+/// Everything with a journal's name, plain file or not: what cannot be read is reported, not
+/// skipped.
 QStringList JournalsIn(const QString &folder) {
   return QDir(folder).entryList(
       {QStringLiteral("*.page")},
       QDir::Files | QDir::Dirs | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
 }
 
-/// The lock of a run's folder; not open where another holds it, or where the folder has gone.
+/// Locks a run's folder; not open where another process has the lock, or the folder is gone.
 FileDescriptor TakeLock(const QString &folder) {
   const QByteArray name = QFile::encodeName(folder + u'/' + LockName);
   FileDescriptor lock(open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, OwnerOnly));
@@ -229,7 +230,8 @@ JournalFiles::~JournalFiles() {
 
 QString JournalFiles::OwnFolder() {
   const auto startTime = QDateTime::currentMSecsSinceEpoch();
-  // Another run may look into the folder before it is locked, and remove it: then the next name.
+  // Another run may look into the new folder before it is locked, and remove it; the next name is
+  // tried then.
   for (int attempt = 0; own_.isEmpty() || !QFile::exists(own_); ++attempt) {
     constexpr int MostAttempts = 10;
     const QString folder =
@@ -309,7 +311,7 @@ void JournalFiles::RemoveIfEmpty(const QString &folder) {
   const auto remove = [&](const QString &name) {
     calls_.Unlink(QFile::encodeName(folder + u'/' + name).constData());
   };
-  // What a process left there that ended while it wrote.
+  // Files that a process left half written.
   for (const QString &name : QDir(folder).entryList({Fragments}, QDir::Files | QDir::Hidden))
     remove(name);
   remove(LockName);

@@ -25,7 +25,7 @@ enum class Kind : quint8 {
 constexpr qsizetype LengthSize = sizeof(quint64);
 constexpr qsizetype ChecksumSize = sizeof(quint64);
 
-/// Tells a torn or empty end of a file from what was written; no protection against intent.
+/// Detects records that were cut off or never written; it does not protect against forgery.
 quint64 Checksum(QByteArrayView bytes) {
   constexpr quint64 Prime = 0x9E3779B97F4A7C15U;
   quint64 sum = Prime;
@@ -91,7 +91,7 @@ std::optional<JournalledPage> WholePage(QDataStream &stream, Kind kind) {
   return whole;
 }
 
-/// A run that wrote on after its record of an exit did not end there.
+/// How the run ended, by its last record: records behind the one of an exit mean that it went on.
 RunEnd EndOf(Kind last) {
   return last == Kind::KeptAtExit ? RunEnd::Exit : RunEnd::Unforeseen;
 }

@@ -22,7 +22,7 @@ bool IsNamed(const jet::Page &page, const char *name) {
   return std::memcmp(page.data() + jet::EngineName, name, std::strlen(name)) == 0;
 }
 
-/// Empty for a Jet 4 file, else what it is and what to do.
+/// What the file is and what to do, for people; empty for a Jet 4 file.
 QString Objection(const jet::Page &page) {
   if (IsNamed(page, AceName)) {
     return QStringLiteral(

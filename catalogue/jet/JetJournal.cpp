@@ -135,7 +135,7 @@ std::optional<Head> ReadHead(JetBytes bytes) {
               jet::Get<quint32>(head + 24)};
 }
 
-/// Its writer ended before it was whole, so that no page was written.
+/// Whether the journal was cut off while it was written: no page has been written then.
 bool IsUnfinished(JetBytes bytes) {
   if (bytes.size() < HeadBytes) {
     const std::size_t known = std::min(bytes.size(), JournalMark.size());
@@ -157,7 +157,7 @@ std::optional<Journal> ReadJournal(JetBytes bytes) {
   return journal;
 }
 
-/// Every sector is as it was or as it was to be.
+/// Whether every sector of the file has its content before or after the commit.
 bool HoldsOnlyOurs(JetStorage &storage, const Journal &journal) {
   jet::Page page;
   for (const Record &record : journal.records) {
@@ -171,8 +171,8 @@ bool HoldsOnlyOurs(JetStorage &storage, const Journal &journal) {
   return true;
 }
 
-/// The file has the time that the commit kept, or the one that its last write gave it just before
-/// it could be set back.
+/// Whether the file's modification time is the one that the commit kept, or that of the commit's
+/// last write, if it ended before it could set the time back.
 bool IsUnchangedSince(JetStorage &storage, const Journal &journal) {
   const JetStamp stamp = storage.Stamp();
   if (stamp.bytes < journal.head.bytesBefore || stamp.bytes > journal.head.bytesAfter) return false;

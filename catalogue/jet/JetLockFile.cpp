@@ -17,7 +17,7 @@ constexpr qsizetype NameBytes = 32;
 constexpr qsizetype SlotBytes = 2 * NameBytes;
 constexpr qsizetype MaximumSlots = 255;
 
-/// Empty when there is none.
+/// The path of the lock file beside a database; empty where there is none.
 QString LockFileOf(const QString &databasePath) {
   const QFileInfo database(databasePath);
   const QString wanted = database.completeBaseName() + QStringLiteral(".ldb");

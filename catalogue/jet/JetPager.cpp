@@ -11,7 +11,7 @@ namespace velor {
 namespace {
 
 constexpr std::size_t CachedPages = 2048;
-/// 2 GB.
+/// Pages of a file of 2 GB, the format's limit.
 constexpr jet::PageNumber MaximumPages = 0x80000000 / jet::PageBytes;
 
 }  // namespace

@@ -84,7 +84,6 @@ JetPages JetUsageMap::Pages() const {
   return pages;
 }
 
-/// False when the map is of the other kind or does not reach the page.
 bool JetUsageMap::PutInline(jet::PageNumber number, JetBit bit) {
   const JetFoundRow row = Row();
   const auto first = jet::Get<quint32>(row.bytes.data() + jet::InlineMapStart);

@@ -34,7 +34,8 @@ class JetUsageMap {
 
  private:
   JetFoundRow Row() const;
-  /// Puts a bit into an inline map; false where that does not reach the page.
+  /// Puts a bit into an inline map; false where the map is of the other kind or does not reach the
+  /// page.
   bool PutInline(jet::PageNumber number, JetBit bit);
   /// Turns an inline map into one with pages of its own.
   void MakePaged();

@@ -12,8 +12,8 @@ namespace velor {
 
 namespace {
 
-/// Stands in for the window a page wants to open: hands its first address to the page that asked,
-/// and goes.
+/// Takes the place of a window that a page opens: loads the first address into the page that asked
+/// for the window, then deletes itself.
 class WindowRequest final : public QWebEnginePage {
  public:
   WindowRequest(QWebEngineProfile *profile, QWebEnginePage *asking)
@@ -80,7 +80,7 @@ QWebEnginePage *BrowserPage::createWindow(WebWindowType) {
 bool BrowserPage::acceptNavigationRequest(const QUrl &url, NavigationType, bool isMainFrame) {
   if (IsShownHere(url)) return true;
   if (IsOfASite(url)) {
-    // What a frame may not show is refused, and told, where it is asked for.
+    // SiteScheme refuses and reports what a frame may not show.
     if (!isMainFrame || scheme_.IsInside(url)) return true;
     Q_EMIT LinkRefused(SiteScheme::FileOf(url));
   } else if (url.isLocalFile()) {

@@ -91,7 +91,7 @@ QByteArray SiteScheme::TextOf(const QUrl &address) const {
 
 QString SiteScheme::Find(const QUrl &address) const {
   const QString path = FileOf(address);
-  // Links written with "\" are as common in old pages as the browsers of their time allowed.
+  // Old pages have links with "\", which the browsers of their time accepted.
   for (const QString &candidate : {path, FindIgnoringCase(ToLogic(path)),
                                    FindIgnoringCase(QString(path).replace('/', '\\'))}) {
     QUrl found = address;

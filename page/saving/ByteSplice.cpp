@@ -15,7 +15,7 @@ namespace velor {
 
 namespace {
 
-/// The charset that changes its state by escape sequences.
+/// Whether the charset changes its state by escape sequences.
 bool HasStates(const PageEncoding &encoding) {
   return encoding.charset == u"iso-2022-jp";
 }
@@ -36,7 +36,7 @@ bool TakesReference(const QString &whole, const HtmlToken &token, qsizetype plac
   });
 }
 
-/// Raises where a reference of the text would stand for nothing.
+/// Raises InvalidProcedureCall where a character would need a reference in a place that takes none.
 void RequireReferencesFit(const QString &text, const std::vector<TextPatch> &patches,
                           CharsetConverter &converter, const QString &charset) {
   std::vector<qsizetype> places;
@@ -93,7 +93,7 @@ PageToWrite StillReadAsBefore(PageToWrite page, const PageEncoding &encoding) {
   return page;
 }
 
-/// The text by lines, with their breaks.
+/// A text cut into lines, each with its line end.
 TokenText Lines(const QString &text) {
   TokenText lines;
   lines.text = text;
@@ -124,8 +124,8 @@ class Splicer {
 
   bool Fits() const { return text_ == original_.page.text; }
 
-  /// The patches with their edges moved out of characters (and out of stretches in another state);
-  /// such as meet then are one.
+  /// The patches with their edges moved out of characters, and out of bytes in another state of the
+  /// charset; patches that meet then are joined.
   std::vector<TextPatch> Widened(const std::vector<TextPatch> &patches) const {
     std::vector<TextPatch> wide;
     qsizetype done = 0;  // end of the patch before, in the text
@@ -166,7 +166,7 @@ class Splicer {
     result.bytes += bytes_.sliced(Byte(done));
     expected += QStringView(text_).sliced(done);
     result.text = expected;
-    // Bytes that are no text may swallow what now stands behind them.
+    // Invalid bytes may swallow the first of the bytes that now follow them.
     const QByteArrayView all = result.bytes;
     if (converter_.Decode(all.sliced(markLength_)) != expected)
       return WriteWhole(Patched(text_, patches), original_.page.encoding);
@@ -192,7 +192,7 @@ class Splicer {
     if (unit <= 0 || unit >= text_.size()) return true;
     return Byte(unit) != Byte(unit - 1) && !text_[unit].isLowSurrogate();
   }
-  /// Whether the bytes before a place leave the charset in its first state.
+  /// Whether the charset is in its initial state behind the bytes before an offset of the text.
   bool IsPlain(qsizetype unit) const {
     const QByteArrayView before = bytes_.first(Byte(unit));
     const qsizetype escape = before.lastIndexOf('\x1b');

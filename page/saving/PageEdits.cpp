@@ -29,7 +29,7 @@ bool IsBalanced(const TokenText &text, Number from, Number to) {
   return open.empty();
 }
 
-/// Shifts an edit that only inserts, or only takes away, to the place where it is worth most.
+/// Shifts an edit that only inserts, or only takes away, to the place with the best Score.
 class EditShift {
  public:
   EditShift(const TokenText &before, const TokenText &now, PageEdit &edit)
@@ -55,7 +55,8 @@ class EditShift {
   }
 
  private:
-  /// Of one or more whole elements; 2 begins or ends with one, 1 is balanced otherwise, 0 is not.
+  /// The score of an edit that holds whole elements only. 2: it holds whole elements and text, and
+  /// begins or ends with a tag; 1: it begins and ends with text; 0: it cuts an element.
   static constexpr int BestScore = 3;
 
   const TokenText &Long() const { return edit_.now == edit_.nowEnd ? before_ : now_; }
@@ -92,14 +93,14 @@ class EditShift {
   PageEdit &edit_;
 };
 
-/// The tokens from one on that have no counterpart; the number of the first that has.
+/// The number of the first token at or behind `from` that has a counterpart.
 Number EndOfUnmatched(const std::vector<Number> &counterparts, Number from) {
   const auto start = counterparts.begin() + from;
   const auto end = std::find_if(start, counterparts.end(), [](Number found) { return found >= 0; });
   return static_cast<Number>(end - counterparts.begin());
 }
 
-/// The edits as the alignment has them, before any is shifted.
+/// The edits by the alignment, not yet shifted.
 std::vector<PageEdit> EditsBetween(const TokenText &before, const TokenText &now,
                                    const TokenAlignment &alignment) {
   std::vector<PageEdit> edits;

@@ -19,7 +19,7 @@ const HtmlAttributeSlice *Find(QStringView html, const Attributes &attributes, Q
   return found == attributes.end() ? nullptr : &*found;
 }
 
-/// Whether a parser reads the value as a whole where no quotes stand around it.
+/// Whether a parser reads the whole value where it has no quotes around it.
 bool NeedsNoQuotes(QStringView value) {
   static constexpr QStringView Breaking = u" \t\r\n\f\"'=<>`";
   return !value.isEmpty() && !value.endsWith(u'/') &&
@@ -27,8 +27,8 @@ bool NeedsNoQuotes(QStringView value) {
                       [](QChar unit) { return Breaking.contains(unit); });
 }
 
-/// The value between the quotes that the source has there, without any where it has none and the
-/// value needs none.
+/// The value in the quotes of the source; without quotes where the source has none and the value
+/// needs none.
 QString Quoted(QStringView value, char16_t quote) {
   if (quote == 0 && NeedsNoQuotes(value)) return value.toString();
   if (quote != u'\'') return u'"' + value.toString() + u'"';
@@ -36,8 +36,8 @@ QString Quoted(QStringView value, char16_t quote) {
   return u'\'' + apostrophes + u'\'';
 }
 
-/// With the space before it.
-qsizetype StartOf(QStringView html, const HtmlAttributeSlice &attribute) {
+/// Where the space before an attribute begins.
+qsizetype StartWithSpace(QStringView html, const HtmlAttributeSlice &attribute) {
   qsizetype start = attribute.name;
   while (start > 0 && html[start - 1].isSpace()) --start;
   return start;
@@ -69,10 +69,10 @@ std::vector<TextPatch> PatchTag(const TagTexts &texts, qsizetype offset) {
   }
   for (const HtmlAttributeSlice &attribute : source.attributes) {
     const QStringView name = attribute.NameIn(texts.source);
-    // Duplicates go with the one that counts: the next of them would take its place.
+    // All duplicates go too: a parser would take the next one for the attribute.
     if (Find(texts.now, now.attributes, name) == nullptr &&
         Find(texts.before, before.attributes, name) != nullptr)
-      patches.push_back({StartOf(texts.source, attribute), attribute.end, {}});
+      patches.push_back({StartWithSpace(texts.source, attribute), attribute.end, {}});
   }
   if (!added.isEmpty()) {
     // An unquoted value would take what follows it for its own.

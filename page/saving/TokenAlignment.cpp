@@ -10,7 +10,8 @@ namespace {
 
 using Number = std::int32_t;
 
-/// Most insertions and deletions in one stretch; past them the best way so far is taken.
+/// Most insertions and deletions in one stretch that differs; beyond them the best path so far is
+/// taken.
 constexpr Number LongestWay = 1000;
 /// Largest gap, one side's tags times the other's, in which tags are paired by name.
 constexpr std::size_t LargestGap = 250'000;

@@ -10,12 +10,12 @@ namespace velor {
 
 namespace {
 
-/// A longer way up tells nothing more.
+/// Elements of a path; more would not make it more exact.
 constexpr std::size_t MostElements = 8;
 /// The longest name of a character reference has this many letters.
 constexpr qsizetype LongestReference = 32;
 
-/// What stands for one character of the document: bytes of source, UTF-16 units of text.
+/// The source of one character of the document: its bytes, and its UTF-16 units in the text.
 struct Piece {
   qsizetype bytes;
   int units;
@@ -54,7 +54,8 @@ int UnitsOf(QByteArrayView text) {
   return units;
 }
 
-/// Goes on for so many units and answers the bytes passed; `units` becomes what was left to go.
+/// The bytes that `units` UTF-16 units take, at most the whole text; `units` is reduced by the
+/// units passed.
 qsizetype Advance(QByteArrayView text, int &units) {
   qsizetype at = 0;
   while (units > 0 && at < text.size()) {

@@ -16,7 +16,7 @@ constexpr bool IsIn(unsigned char byte, int first, int last) {
   return byte >= first && byte <= last;
 }
 
-/// The text as it comes; no form gives more units than it takes bytes.
+/// Collects the decoded text and its offsets; no form gives more units than it has bytes.
 class Sink {
  public:
   Sink(qsizetype bytes, std::vector<std::int32_t> *offsets)
@@ -86,7 +86,7 @@ class Decoder {
     sink_.Put(character, at_);
     at_ += count;
   }
-  /// What is no text: so many bytes, less the last where that is ASCII or would be behind the end.
+  /// An error of `count` bytes, without the last one if it is ASCII or beyond the end.
   void TakeBroken(qsizetype count) {
     if (count > Left()) return Take(Replacement, Left());
     Take(Replacement, IsAscii(Byte(count - 1)) ? count - 1 : count);
@@ -109,7 +109,7 @@ class Decoder {
     const char32_t character = Left() > 1 ? index_.pairs[CharsetIndex::Pair(Byte(0), Byte(1))] : 0;
     if (character != 0) return Take(character, 2);
     if (form_ == CharsetForm::Big5 && Left() > 1 && Byte(0) == 0x88) {
-      // A letter and an accent that has no character together with it.
+      // A letter and an accent, which have no character together.
       const bool isSmall = Byte(1) >= 0xA0;
       const int accent = Byte(1) - (isSmall ? 0xA3 : 0x62);
       if (accent == 0 || accent == 2) {
@@ -128,13 +128,13 @@ class Decoder {
     TakeBroken(3);
   }
 
-  /// The characters of GB 18030 that are counted through: four bytes, every other one a digit.
+  /// A character of GB 18030 in four bytes, of which the second and fourth are digits.
   void TakeFour() {
     const qsizetype left = Left();
     if (left < 4 && (left < 3 || IsIn(Byte(2), 0x81, 0xFE))) return Take(Replacement, left);
     if (!IsIn(Byte(2), 0x81, 0xFE) || !IsIn(Byte(3), '0', '9')) return Take(Replacement, 1);
     const char32_t character = FourByteCharacter({bytes_.data() + at_, 4});
-    // Such as stand for nothing are taken together.
+    // Four bytes that stand for no character are one error.
     Take(character != 0 ? character : Replacement, 4);
   }
 
@@ -178,7 +178,8 @@ void Decoder::RunWithStates() {
   }
 }
 
-/// The character at hand in one of the states; an escape byte that begins no sequence is broken.
+/// Takes one character in the given state; an escape byte that begins no known sequence is an
+/// error.
 void Decoder::TakeIn(State state) {
   const unsigned char byte = Byte(0);
   if (bytes_[at_] == Escape) return Take(Replacement, 1);

@@ -266,7 +266,7 @@ bool IsWritten(CharsetForm form, int lead) {
   }
 }
 
-/// Of these Big5 has two forms, and the later is the one in use.
+/// Whether Big5 has two forms of a character, of which the later is written.
 bool IsLaterForm(char32_t character) {
   return std::u32string_view(U"\u2550\u255E\u2561\u256A\u5341\u5345").find(character) !=
          std::u32string_view::npos;

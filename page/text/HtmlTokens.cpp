@@ -123,7 +123,7 @@ class Tokenizer {
     return tokens_.back();
   }
 
-  /// What begins with the "<" at hand; false where that is text.
+  /// Reads what begins with the "<" at `at_`; false where that is text.
   bool Markup() {
     if (at_ + 1 >= html_.size()) return false;
     const QChar next = html_[at_ + 1];
@@ -279,7 +279,7 @@ class Tokenizer {
     return false;
   }
 
-  /// Raw text by lines.
+  /// Reads raw text, a token a line.
   void Raw(qsizetype end) {
     while (at_ < end) {
       qsizetype lineEnd = at_;
@@ -310,7 +310,7 @@ class Tokenizer {
 
   enum class References { AreResolved, AreText };
 
-  /// One token of text; the first character may be anything.
+  /// Reads one token of text, at least one character.
   void Run(qsizetype end, References references) {
     const auto read = [&](qsizetype at) {
       if (references == References::AreText && html_[at] == u'&') return TextCharacter{u'&', 0, 1};
@@ -336,7 +336,7 @@ class Tokenizer {
     while (tokenEnd < end && html_[tokenEnd] != u'<') {
       const TextCharacter next = read(tokenEnd);
       const TextClass nextKind = ClassOf(next.first);
-      // A mark belongs to the sign that it stands on; a NUL is as if it were not there.
+      // A combining mark belongs to the character before it; a NUL is skipped.
       if (nextKind == TextClass::Nothing && kind == TextClass::Letter) {
         tokenEnd += next.length;
         continue;

@@ -13,11 +13,11 @@ using elements::IsOneOf;
 using elements::NameKeyOf;
 
 constexpr std::uint32_t TableElement = NameKeyOf(u"table");
-/// Their text may stand.
+/// Parts of a table in which text may stand.
 constexpr std::uint32_t Cells[] = {NameKeyOf(u"td"), NameKeyOf(u"th"), NameKeyOf(u"caption")};
 constexpr std::uint32_t Rows[] = {NameKeyOf(u"tr"),    NameKeyOf(u"tbody"), NameKeyOf(u"thead"),
                                   NameKeyOf(u"tfoot"), NameKeyOf(u"col"),   NameKeyOf(u"colgroup")};
-/// Elements that a parser leaves between the parts of a table without opening them for text.
+/// Elements that a parser leaves between the parts of a table, and whose text it does not move.
 constexpr std::uint32_t Closed[] = {elements::Script, NameKeyOf(u"style"), NameKeyOf(u"form")};
 
 bool HoldsText(std::uint32_t name) {

@@ -10,10 +10,10 @@ namespace velor {
 namespace {
 
 constexpr qsizetype Looked = 4096;
-/// A page has a few control characters at most; of another file's bytes every twelfth is one.
+/// A file counts as binary from one control character in so many bytes; pages have a few at most.
 constexpr qsizetype OneIn = 12;
 
-/// How files begin that programs for other things write.
+/// How files of other kinds begin.
 constexpr QByteArrayView Signatures[] = {{"\x89PNG", 4},
                                          {"GIF87a", 6},
                                          {"GIF89a", 6},
