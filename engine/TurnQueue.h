@@ -34,21 +34,22 @@ class PageWays {
 /// one is not sent as long as an earlier one may still be under way on the other. A command is an
 /// expression without an answer. Input waits for commands only, an expression for input.
 ///
-///                      Run                                  HoldBack
-///         +----------------------> command on its way -------------------> input waits
-///         |                            |       ^                               |
-///         |                   answered |       | answered, or                  | answered; sent
-///         from |                            v       | 500 ms later                  | outside the
-///         engine
-///       nothing on its way <-----------+   expression waits,                   |
-///         |          ^                     a probe is sent behind the input    |
-///         |          |                             ^                           |
-///         | NoteInput| the probe has arrived,      | Run                       |
-///         |          | or 500 ms later             |                           |
-///         +----------+-------> input on its way ---+<--------------------------+
+///                      Run                                   HoldBack
+///         +----------------------> command on its way ------------------> input waits
+///         |                            |         ^                            |
+///         |                   answered |         | probe arrived,             | answered; sent
+///         |                            |         | or 500 ms later            | outside of the
+///         |                            v         |                            | callback
+///       nothing on its way <-----------+     expression waits;                |
+///         |          ^                       a probe is sent                  |
+///         |          |                       behind the input                 |
+///         | NoteInput| probe arrived,            ^                            |
+///         |          | or 500 ms later           | Run                        |
+///         +----------+-------> input on its way -+<---------------------------+
 ///
-/// The probe is the release of a key that nobody has: the page tells of it (ProbeArrived), and all
-/// input sent before it is there then (engine/bridge/talk/arrivals.js).
+/// Whatever comes while something waits, waits behind it. The probe is the release of a key that
+/// nobody has: the page tells of it (ProbeArrived), and all input sent before it is there then
+/// (engine/bridge/talk/arrivals.js).
 class TurnQueue : public QObject {
   Q_OBJECT
 

@@ -7,8 +7,8 @@
 
 namespace velor {
 
-/// What several fakes were asked, in the order in which they were asked it, as "Name(arguments)".
-/// A fake that is given no log keeps quiet.
+/// The calls of several fakes in one order, as "Name(arguments)". A fake without a log notes
+/// nothing.
 using CallLog = std::vector<QString>;
 
 inline void Note(CallLog *log, const QString &call) {

@@ -9,7 +9,7 @@
 
 namespace velor {
 
-/// A browser that goes nowhere and writes down where it was sent.
+/// A browser that loads nothing and notes what it was told to load.
 class FakeBrowser final : public Browser {
  public:
   explicit FakeBrowser(QWidget *parent, CallLog *log = nullptr)

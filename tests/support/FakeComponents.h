@@ -15,18 +15,18 @@ namespace velor {
 class FakeDatabase;
 class FakeFileDialog;
 
-/// Makes fakes, and keeps them in sight in the order in which they were made. A part that its
-/// owner has deleted dangles here.
+/// Makes fakes and lists them in the order in which they were made. The pointer to a fake that its
+/// owner has deleted dangles.
 class FakeComponents final : public Components {
  public:
   /// `database` may be null where no connection is made.
   explicit FakeComponents(Files &files, FakeDatabase *database = nullptr, CallLog *log = nullptr)
       : files_(files), database_(database), log_(log) {}
 
-  /// Touches each editing component as it is made.
+  /// Called with each editing component when it is made.
   std::function<void(FakeEditingComponent &)> onEditingComponent;
 
-  /// Touches each file dialog as it is made.
+  /// Called with each file dialog when it is made.
   std::function<void(FakeFileDialog &)> onFileDialog;
 
   std::vector<FakeEditingComponent *> editingComponents;

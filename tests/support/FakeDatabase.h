@@ -24,9 +24,9 @@ struct FakeRows {
   std::vector<std::vector<QVariant>> rows;
 };
 
-/// A database that answers each statement with the rows the test wrote down for exactly that text.
-/// Any other query fails as a statement nobody understands would; any statement may be executed
-/// unless it is among the failures. Connections and recordsets made from it must not outlive it.
+/// A database that answers a query with the rows that the test gave for exactly that text; any
+/// other query fails as one with a syntax error does. Every statement can be executed unless it is
+/// among the failures. It must outlive its connections and recordsets.
 class FakeDatabase {
  public:
   explicit FakeDatabase(CallLog *log = nullptr) : log_(log) {}
@@ -36,9 +36,9 @@ class FakeDatabase {
   std::map<QString, RuntimeError> failures;
   /// Raised by the next Open of a connection.
   std::optional<RuntimeError> openFailure;
-  /// What opening has to tell.
+  /// What DatabaseConnection::Notice answers.
   QString notice;
-  /// What is wrong with the file.
+  /// What DatabaseConnection::Defect answers.
   QString defect;
 
   // What tests read.

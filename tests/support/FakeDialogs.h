@@ -13,8 +13,8 @@ class QWidget;
 
 namespace velor {
 
-/// A person who answers what the test foresaw, in that order. A message, question or window that
-/// was not foreseen fails the test, and so does one that was foreseen and never came.
+/// Answers messages, questions and windows as the test expects them, in that order. One that was
+/// not expected fails the test, and so does an expected one that never came.
 class FakeDialogs final : public Dialogs {
  public:
   explicit FakeDialogs(CallLog *log = nullptr) : log_(log) {}

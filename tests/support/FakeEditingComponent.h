@@ -18,10 +18,10 @@
 
 namespace velor {
 
-/// An editing component without an engine: the document is a text, the selection a stretch of it,
-/// states and values are what the test scripts. It keeps the real one's promises (loading and
-/// saving through Files, the completion notice after the call has returned), and writes down every
-/// call as "Name(arguments)".
+/// An editing component without an engine: the document is a text, the selection a range of it, and
+/// the test sets states and values. It keeps the contract of the real one (loading and saving
+/// through Files, the completion notice after the call has returned), and notes every call as
+/// "Name(arguments)".
 class FakeEditingComponent final : public EditingComponent,
                                    public HtmlDocument,
                                    public DocumentSelection {
@@ -47,8 +47,7 @@ class FakeEditingComponent final : public EditingComponent,
   // What a person or the engine does.
   /// Replaces the selected text, the caret after it, and tells of the changed display.
   void TypeText(const QString &text);
-  /// Puts another text in the document's place, as editing would; tells nobody but who follows what
-  /// the component remembers.
+  /// Replaces the document's text, as editing would; only MemoryChanged is told.
   void Edit(const QString &html);
   /// Delivers the pending completion notice at once instead of by the event loop.
   void CompleteDocument();

@@ -8,8 +8,8 @@
 
 namespace velor {
 
-/// A file dialog whose person chooses what the test foresaw. A showing that was not foreseen fails
-/// the test, and so does a foreseen one that never came.
+/// A file dialog in which the person chooses the paths that the test expects, in that order. A
+/// showing that was not expected fails the test, and so does an expected one that never came.
 class FakeFileDialog final : public FileDialog {
  public:
   explicit FakeFileDialog(CallLog *log = nullptr) : log_(log) {}

@@ -12,11 +12,11 @@
 
 namespace velor {
 
-/// Files in memory, by logic path. The root folder "\" is there; other folders are made by
-/// AddFolder and AddFile (with their parents), or by nobody, and then nothing can be written there.
+/// Files in memory, by logic path. There is the root folder "\"; AddFolder and AddFile make others,
+/// with their parents. In a folder that was not made nothing can be written.
 class FakeFiles : public Files {
  public:
-  // The world as a test wants it.
+  // What tests set up.
   void AddFolder(const QString &path);
   void AddFile(const QString &path, const QByteArray &content);
   void MakeReadOnly(const QString &path);

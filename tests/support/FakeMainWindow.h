@@ -12,8 +12,8 @@
 
 namespace velor {
 
-/// A main window that writes down what it is asked. Its tabs are real enough to be counted, found
-/// by key and by position, and to raise the errors of the real strip.
+/// A main window that notes its calls. Its tabs can be counted and found by key and by position,
+/// and raise the errors of the real tabs.
 class FakeMainWindow final : public ChildWindows,
                              public TabStrip,
                              public FormatDisplay,
@@ -78,7 +78,7 @@ class FakeMainWindow final : public ChildWindows,
   void TakeDroppedFiles(const QStringList &paths, frmMain *page) override;
   void ResetElementInspection() override;
 
-  /// As the pages see it.
+  /// The form in which pages get it.
   operator MainWindow() { return {*this, *this, *this, *this, *this, *this, dialog_}; }
 
  private:

@@ -14,7 +14,7 @@ struct ProgramEnded {
   int exitStatus = 0;
 };
 
-/// A process that ends by an exception and whose pending events are the test's.
+/// A process that ends by throwing ProgramEnded, and whose pending events the test provides.
 class FakeRuntime final : public Runtime {
  public:
   explicit FakeRuntime(CallLog *log = nullptr) : log_(log) {}

@@ -12,7 +12,7 @@
 
 namespace velor {
 
-/// The system's calls, where something goes wrong at one of them.
+/// The real system calls, of which chosen ones fail or end the process.
 class FaultyCalls : public FileCalls {
  public:
   enum class Call {
@@ -68,7 +68,7 @@ class FaultyCalls : public FileCalls {
     return Pass(Call::Attribute) ? FileCalls::SetAttribute(file, name, value, size) : -1;
   }
 
-  /// After `good` calls of this kind that go well, `bad` ones fail with that errno.
+  /// After `good` calls of this kind have succeeded, `bad` ones fail with that errno.
   void Fail(Call call, int errnoValue, int good = 0, int bad = std::numeric_limits<int>::max()) {
     failing_ = call;
     errno_ = errnoValue;
@@ -96,9 +96,9 @@ class FaultyCalls : public FileCalls {
   }
 
   int calls = 0;
-  /// What was called, in order.
+  /// All calls so far, in order.
   std::vector<Call> order;
-  /// Fails too, always.
+  /// Calls of this kind fail too (EIO).
   std::optional<Call> alsoFails;
   size_t longestWrite = static_cast<size_t>(-1);
 

@@ -11,8 +11,8 @@
 
 namespace velor {
 
-/// Without the superuser's rights for the life of a scope, with a state folder of that user's own;
-/// nothing to do for other users.
+/// Gives up the superuser's rights for a scope, with a state folder for the ordinary user. Does
+/// nothing for other users.
 class AsOrdinaryUser {
  public:
   AsOrdinaryUser() : user_(geteuid()) {
@@ -36,7 +36,7 @@ class AsOrdinaryUser {
   std::optional<QTemporaryDir> states_;
 };
 
-/// No file may grow beyond so many bytes: what a full disk looks like, without one.
+/// Limits the size of files (bytes), so that writing fails as on a full disk.
 class FileSizeLimit {
  public:
   explicit FileSizeLimit(rlim_t bytes = 1000) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
