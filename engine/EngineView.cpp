@@ -54,24 +54,28 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   container->layout()->addWidget(view_);
   container->setFocusProxy(view_);
 
-  connect(&host_, &BridgeHost::StateArrived, this, [this](const StateSnapshot &state) {
-    // While a page loads the channel may still deliver calls of the page before it.
-    if (phase_ == Phase::Ready) Q_EMIT StateArrived(state);
-  });
+  ConnectHost();
+  ConnectInput();
+  ConnectPage();
+}
+
+void EngineView::ConnectHost() {
+  // While a page loads the channel may still deliver calls of the page before it.
+  const auto whenReady = [this]<typename... Arguments>(void (EngineView::*signal)(Arguments...)) {
+    return [this, signal](Arguments... arguments) {
+      if (phase_ == Phase::Ready) (this->*signal)(arguments...);
+    };
+  };
+  connect(&host_, &BridgeHost::StateArrived, this, whenReady(&EngineView::StateArrived));
+  connect(&host_, &BridgeHost::MirrorArrived, this, whenReady(&EngineView::MirrorArrived));
+  connect(&host_, &BridgeHost::PictureWanted, this, whenReady(&EngineView::PictureWanted));
+  connect(&host_, &BridgeHost::EarlierWanted, this, whenReady(&EngineView::EarlierWanted));
+  connect(&host_, &BridgeHost::LaterWanted, this, whenReady(&EngineView::LaterWanted));
   connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
-  connect(&host_, &BridgeHost::MirrorArrived, this, [this](const QVariantMap &changes) {
-    if (phase_ == Phase::Ready) Q_EMIT MirrorArrived(changes);
-  });
-  connect(&host_, &BridgeHost::PictureWanted, this, [this] {
-    if (phase_ == Phase::Ready) Q_EMIT PictureWanted();
-  });
-  connect(&host_, &BridgeHost::EarlierWanted, this, [this] {
-    if (phase_ == Phase::Ready) Q_EMIT EarlierWanted();
-  });
-  connect(&host_, &BridgeHost::LaterWanted, this, [this] {
-    if (phase_ == Phase::Ready) Q_EMIT LaterWanted();
-  });
   connect(&host_, &BridgeHost::InputArrived, &turns_, &TurnQueue::ProbeArrived);
+}
+
+void EngineView::ConnectInput() {
   connect(input_, &EditorInput::InputComing, this, [this] {
     turns_.NoteInput();
     Q_EMIT InputComing();
@@ -81,6 +85,9 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
     const EngineCallback callback(engine_.Guard());
     Q_EMIT MenuWanted(view_->mapToGlobal(position));
   });
+}
+
+void EngineView::ConnectPage() {
   connect(page_, &QWebEnginePage::renderProcessTerminated, this, [this] {
     const EngineCallback callback(engine_.Guard());
     phase_ = Phase::Dead;

@@ -102,7 +102,11 @@ class EngineView : public QObject, private PageWays {
   bool IsOpen() const override { return CurrentPhase() == Phase::Ready; }
   void Evaluate(const QString &expression, const Answer &answered) override;
   void Send(QEvent &input) override;
+  void ConnectHost();
+  void ConnectInput();
+  void ConnectPage();
   void EndLoad(Phase phase);
+  /// Kills the page's process and waits for the notice of its end.
   void EndProcess();
 
   EditingEngine &engine_;
