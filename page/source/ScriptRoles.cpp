@@ -22,7 +22,7 @@ constexpr std::array ScriptWords = {
     "static"sv,   "super"sv,      "switch"sv,  "this"sv,   "throw"sv,    "true"sv,  "try"sv,
     "typeof"sv,   "undefined"sv,  "var"sv,     "void"sv,   "while"sv,    "with"sv,  "yield"sv};
 
-/// Of PHP and VBScript, in lower case: their case means nothing there.
+/// Keywords of PHP and VBScript, in lower case: both ignore letter case.
 constexpr std::array ServerWords = {
     "and"sv,        "array"sv,   "as"sv,       "break"sv,        "by"sv,           "byref"sv,
     "byval"sv,      "call"sv,    "case"sv,     "catch"sv,        "class"sv,        "const"sv,
@@ -41,7 +41,7 @@ constexpr std::array ServerWords = {
 
 static_assert(std::ranges::is_sorted(ScriptWords) && std::ranges::is_sorted(ServerWords));
 
-/// What goes on over the line's end.
+/// What is still open at a line's end.
 enum class Open { Nothing, Comment, Template, DoubleQuoted, SingleQuoted };
 
 class CodeLine {
@@ -59,7 +59,7 @@ class CodeLine {
   }
 
  protected:
-  /// Reads what only one language has; false where nothing of the kind stands there.
+  /// Reads what only this language has; false where nothing of the kind stands at `at_`.
   virtual bool ReadOwn() = 0;
   virtual bool IsKeyword(QByteArrayView word) const = 0;
 
@@ -76,7 +76,7 @@ class CodeLine {
     at_ = end;
   }
 
-  /// Whether an operand rather than an operator is due: "/" begins a regular expression then.
+  /// Whether an operand has to follow, not an operator: "/" begins a regular expression then.
   bool IsOperandDue() const {
     return last_ == '\0' || lastWordBinds_ ||
            QByteArrayView("(,=:[!&|?{};+-*%~^<>").contains(last_);
@@ -103,7 +103,7 @@ class CodeLine {
     last_ = before;
   }
 
-  /// A string goes on in the next line where a backslash is the last thing in this one.
+  /// Takes a string up to `end`; it goes on in the next line where this one ends in a backslash.
   void TakeString(qsizetype end, Open kind) {
     qsizetype textEnd = code_.size();
     while (textEnd > 0 && (code_[textEnd - 1] == '\n' || code_[textEnd - 1] == '\r')) --textEnd;
@@ -151,10 +151,8 @@ class CodeLine {
     Take(isKeyword ? SourceRole::Keyword : SourceRole::Text, end);
   }
 
-  /// The last character that is no blank, 0 at the line's start; and whether it ends a word such as
-  /// "return", which an operand follows.
-  char last_ = '\0';
-  bool lastWordBinds_ = false;
+  char last_ = '\0';            ///< the last character that is no blank, 0 at the line's start
+  bool lastWordBinds_ = false;  ///< `last_` ends a word such as "return", which an operand follows
 };
 
 template <std::size_t Count>
@@ -175,7 +173,8 @@ class ScriptLine final : public CodeLine {
       TakeTemplate(1);
       return true;
     }
-    // Old pages hide a script from browsers that know none; to a script it is a comment's begin.
+    // Old pages hide scripts from browsers without them in "<!--"; in a script that begins a
+    // comment.
     if (BeginsWith(code_, at_, "<!--")) {
       Take(SourceRole::Comment, code_.size());
       return true;
@@ -187,7 +186,8 @@ class ScriptLine final : public CodeLine {
     return true;
   }
 
-  /// Behind its "/" and flags; -1 where none closes it in this line.
+  /// The offset behind the expression's closing "/" and flags; -1 where none closes it in this
+  /// line.
   qsizetype RegularExpressionEnd() const {
     bool isInSet = false;
     for (qsizetype end = at_ + 1; end < code_.size(); ++end) {

@@ -25,7 +25,7 @@ enum class Mode {
 };
 constexpr int ModeCount = 9;
 
-/// What the inside of an element is, up to its own end tag.
+/// What the content of an element is, up to its own end tag.
 enum class Inside { Script, StyleSheet, References, Raw };
 
 struct TextElement {
@@ -33,7 +33,7 @@ struct TextElement {
   Inside inside;
 };
 
-/// A line's state counts them from 1.
+/// The elements whose content is no markup. LineState::element counts them from 1.
 constexpr std::array<TextElement, 8> TextElements = {{{"script", Inside::Script},
                                                       {"style", Inside::StyleSheet},
                                                       {"title", Inside::References},
@@ -49,25 +49,26 @@ struct ServerMark {
   QByteArrayView closing;
 };
 
-/// The short form of PHP's comes last, since the others begin like it.
+/// The marks of server code. The short one of PHP comes last, since the others begin like it.
 constexpr std::array<ServerMark, 4> ServerMarks = {
     {{"<%", "%>"}, {"<?php", "?>"}, {"<?=", "?>"}, {"<? ", "?>"}}};
 constexpr int ServerMarkCount = static_cast<int>(ServerMarks.size());
 
-/// What a script has to be told as for its lines to be read as script.
+/// A script whose type contains one of these is coloured as script.
 constexpr std::array<QByteArrayView, 5> ScriptTypes = {"javascript", "ecmascript", "jscript",
                                                        "module", "json"};
 
-/// Packed into a SourceLineState, the lowest bits first.
+/// The state in which a line begins; packed into a SourceLineState, the first member in the lowest
+/// bits.
 struct LineState {
   Mode mode = Mode::Text;
   /// The text element that the tag begins, or that the line stands in; 0 for none.
   int element = 0;
-  /// Its script is in no language that is known here.
+  /// The element is a script in an unknown language, whose lines are not coloured.
   bool isData = false;
-  /// Of the style sheet, script or server code around the line's begin.
+  /// State of the reader of style sheets, scripts or server code, where the line begins in such.
   int inner = 0;
-  /// Where server code stands: its mark and what goes on behind it.
+  /// Of server code: index of its mark, and the mode and inner state that go on behind it.
   int serverMark = 0;
   Mode serverIn = Mode::Text;
   int innerBehindServer = 0;
@@ -230,7 +231,7 @@ class Line {
     state_.mode = Mode::Tag;
     if (letter == '>') return;
     const qsizetype end = std::max(FirstOf(" \t\r\n\f><", at_), at_ + 1);
-    HearType(end);
+    ReadScriptType(end);
     Take(SourceRole::String, end);
   }
 
@@ -241,12 +242,12 @@ class Line {
     }
     const char ends[] = {quote, '<'};
     const qsizetype end = std::max(FirstOf({ends, 2}, at_), at_ + 1);
-    HearType(end);
+    ReadScriptType(end);
     Take(SourceRole::String, end);
   }
 
-  /// What a script's type says, where that is the value up to `end`.
-  void HearType(qsizetype end) {
+  /// Where the value up to `end` is a script's type, notes whether its language is known.
+  void ReadScriptType(qsizetype end) {
     if (!isType_) return;
     isType_ = false;
     const QByteArray type = line_.sliced(at_, end - at_).toByteArray().toLower();

@@ -12,8 +12,8 @@ bool IsName(char letter) {
   return IsWordByte(letter) || letter == '-';
 }
 
-/// Goes through a line once. A name is a selector, a property or a value's word by what stands
-/// before it.
+/// Reads a line from left to right. Whether a name is a selector, a property or a word of a value
+/// depends on what stands before it.
 class StyleSheetLine {
  public:
   StyleSheetLine(QByteArrayView css, int state, SourceRole *roles)
@@ -32,7 +32,7 @@ class StyleSheetLine {
 
  private:
   enum class Place { Selector, Property, Value };
-  /// A page's rules are not nested deeper; beyond it the colours are those of the outer ones.
+  /// Rules nested deeper, which pages do not have, get the colours of this depth.
   static constexpr int MostDepth = 15;
 
   char Next(qsizetype ahead = 0) const {

@@ -14,7 +14,7 @@ class RawTextScan {
 
   qsizetype EndFrom(qsizetype at) {
     for (; at < html_.size(); ++at) {
-      if (isScript_) FollowEscape(at);
+      if (isScript_) UpdateEscape(at);
       if (html_[at] != u'<' || !IsTag(at + 1, u"/")) continue;
       if (escape_ != Escape::Double) return at;
       escape_ = Escape::Single;
@@ -23,11 +23,11 @@ class RawTextScan {
   }
 
  private:
-  /// Within "<!--" and "-->" a script's own start tag opens a stretch in which its next end tag
-  /// does not count.
+  /// The states of the standard's script escapes. Single: behind "<!--", up to "-->". Double:
+  /// there, and behind a start tag of the script element; its next end tag does not end the script.
   enum class Escape { None, Single, Double };
 
-  void FollowEscape(qsizetype at) {
+  void UpdateEscape(qsizetype at) {
     if (html_[at] == u'-' && Has(at, u"-->"))
       escape_ = Escape::None;
     else if (html_[at] != u'<')
@@ -41,7 +41,7 @@ class RawTextScan {
   bool Has(qsizetype at, QStringView text) const {
     return html_.sliced(std::min(at, html_.size())).startsWith(text, Qt::CaseInsensitive);
   }
-  /// Whether `lead` and the element's name stand there, and the name ends there.
+  /// Whether `lead` and the element's name stand at `at`, and the name ends behind them.
   bool IsTag(qsizetype at, QStringView lead) const {
     if (!Has(at, lead) || !Has(at + lead.size(), name_)) return false;
     const qsizetype end = at + lead.size() + name_.size();
