@@ -286,7 +286,7 @@ void StyleMenuPainter::TakeOver(QWidget &window) {
 }
 
 void StyleMenuPainter::SetItemPicture(const QString &itemName, const QString &imageKey) {
-  if (QAction *item = window_->findChild<QAction *>(itemName)) {
+  if (auto *item = window_->findChild<QAction *>(itemName)) {
     item->setIcon(images_.value(imageKey));
     item->setIconVisibleInMenu(true);
   }
