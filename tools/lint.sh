@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Checks what a reader should not have to: form, names and common mistakes of the sources, and the
-# subjects of the commits. Checks what changed since the last release; --all checks every file and
-# runs the static analyser too; --quick leaves clang-tidy out, which takes minutes.
-# Usage: lint.sh [--all] [--since COMMIT]
+# subjects of the commits. Checks what changed since the last release; --all checks every file;
+# --quick leaves clang-tidy out, which takes minutes; --analyze adds its static analyser, which takes as
+# long again.
+# Usage: lint.sh [--all] [--quick | --analyze] [--since COMMIT]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -20,8 +21,9 @@ while [ $# -gt 0 ]; do
   case "$1" in
     --all) scope=all ;;
     --quick) depth=quick ;;
+    --analyze) depth=analyzer ;;
     --since) since=${2:?"--since needs a commit"}; shift ;;
-    *) echo "usage: lint.sh [--all] [--quick] [--since COMMIT]" >&2; exit 2 ;;
+    *) echo "usage: lint.sh [--all] [--quick | --analyze] [--since COMMIT]" >&2; exit 2 ;;
   esac
   shift
 done
@@ -58,7 +60,7 @@ tidy() {
   [ ${#units[@]} -gt 0 ] || return 0
   [ -f build/release/compile_commands.json ] || cmake --preset release >/dev/null
   local analyze=()
-  [ "$scope" = changed ] || analyze=(--analyze)
+  [ "$depth" != analyzer ] || analyze=(--analyze)
   tools/lint/tidy.py --jobs "$(nproc)" "${analyze[@]}" build/release "${units[@]}"
 }
 
