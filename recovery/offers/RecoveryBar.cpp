@@ -105,7 +105,7 @@ RecoveryBar::RecoveryBar(EditorContext &context, QWidget *parent)
   setObjectName(QStringLiteral("picRecovery"));
   setAccessibleName(QStringLiteral("Recovered pages"));
 
-  // A shortcut of its own: a label's letter would press the button at once.
+  // A shortcut of the bar, not a label's letter: that would press the button at once.
   connect(new QShortcut(Qt::ALT | Qt::Key_G, this), &QShortcut::activated, this,
           [this] { FirstButtonOf(*rows_, 0)->setFocus(Qt::ShortcutFocusReason); });
   auto *content = new QWidget;
@@ -161,12 +161,12 @@ void RecoveryBar::Offer() {
 
 void RecoveryBar::Fill() {
   std::vector<AbandonedPage> pages = context_.platform.journals->Abandoned();
-  // Whoever goes to the first by Alt+G and presses is to restore, not to discard.
+  // Unreadable journals come last: the first button, which Alt+G leads to, has to be a Restore.
   std::stable_partition(pages.begin(), pages.end(),
                         [](const AbandonedPage &page) { return page.defect.isEmpty(); });
   caption_->setText(CaptionOf(pages));
   for (const AbandonedPage &page : pages) AddRow(page);
-  QuietenNotes();
+  DimNotes();
   FitRows();
 }
 
@@ -190,7 +190,7 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
   QFont strong = title->font();
   strong.setBold(true);
   title->setFont(strong);
-  // As little as a long path may a long name push the buttons out of sight.
+  // A long name may not push the buttons out of sight.
   title->setMinimumWidth(BarMargin);
   title->setToolTip(PlainTip(name));
   line->addWidget(title);
@@ -221,8 +221,8 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
   }
   rows_->addWidget(row);
   offered_.push_back(offered);
-  // Where the bar is in sight already, a new row would come by itself only later, and count as
-  // nothing until then.
+  // In a bar that is visible already the layout would show a new row later, and sizeHint() would
+  // leave it out until then.
   row->show();
 }
 
@@ -237,7 +237,7 @@ JournalledPage RecoveryBar::Read(const AbandonedPage &abandoned) {
 }
 
 int RecoveryBar::Room() const {
-  // A page that stayed open without a tab counts too.
+  // Pages that stayed open without a tab count too.
   const int open = std::max(context_.mainWindow.tabs.Count(), OpenPageCount(context_));
   return std::max(0, MostPages - open);
 }
@@ -341,7 +341,7 @@ void RecoveryBar::RemoveRow(QWidget *row) {
   if (hadFocus) FirstButtonOf(*rows_, std::min(place, rows_->count() - 1))->setFocus();
 }
 
-bool RecoveryBar::Walk(QPushButton *from, int key) {
+bool RecoveryBar::MoveFocus(QPushButton *from, int key) {
   const int place = rows_->indexOf(from->parentWidget());
   const QList<QPushButton *> row = ButtonsOf(*rows_, place);
   const auto alongRow = [&](qsizetype step) {
@@ -382,7 +382,7 @@ bool RecoveryBar::eventFilter(QObject *watched, QEvent *event) {
   auto *button = qobject_cast<QPushButton *>(watched);
   if (button != nullptr && event->type() == QEvent::FocusIn) scroller_->ensureWidgetVisible(button);
   if (button != nullptr && event->type() == QEvent::KeyPress)
-    return Walk(button, static_cast<QKeyEvent *>(event)->key());
+    return MoveFocus(button, static_cast<QKeyEvent *>(event)->key());
   return QFrame::eventFilter(watched, event);
 }
 
@@ -404,10 +404,10 @@ void RecoveryBar::paintEvent(QPaintEvent *) {
 void RecoveryBar::changeEvent(QEvent *event) {
   QFrame::changeEvent(event);
   if (event->type() == QEvent::FontChange) FitRows();
-  if (event->type() == QEvent::PaletteChange) QuietenNotes();
+  if (event->type() == QEvent::PaletteChange) DimNotes();
 }
 
-void RecoveryBar::QuietenNotes() {
+void RecoveryBar::DimNotes() {
   for (QLabel *note : findChildren<QLabel *>(QString::fromUtf16(NoteName))) {
     QPalette quiet = palette();
     quiet.setColor(QPalette::WindowText, QuietText(palette()));

@@ -53,27 +53,38 @@ class RecoveryBar final : public QFrame {
   };
 
   void BuildCaption(QVBoxLayout &column);
+  /// Makes a row for each abandoned page, and hides the bar where there is none.
   void Fill();
   void AddRow(const AbandonedPage &abandoned);
   /// How many more pages may be open.
   int Room() const;
+  /// Shows the page of a row where it is open already, else restores it where there is room; the
+  /// status bar says where there is none.
   void RestoreOne(const Offered &offered);
+  /// Restores the newest pages that there is room for.
   void RestoreAll();
+  /// Opens the page as it was left; removes its journal once another one holds the page.
   void Restore(const Offered &offered);
   /// The open page of that file, or the one that the row was restored to.
   frmMain *OpenPageOf(const Offered &offered) const;
+  /// Activates the open page. Discards the row where it was restored from it and its changes can be
+  /// kept now; else the status bar says why the row stays.
   void ShowOpenPage(const Offered &offered, frmMain &page);
+  /// Shows the page in the preview.
   void Show(const AbandonedPage &abandoned);
+  /// Deletes the journal and the row.
   void Discard(const Offered &offered);
+  /// Asks first.
   void DiscardAll();
   /// What the journal holds; the status bar says where its end is missing.
   JournalledPage Read(const AbandonedPage &abandoned);
-  /// Takes the focus from a button of a row to another; false for keys that do not.
-  bool Walk(QPushButton *from, int key);
+  /// Moves the focus from a button of a row to another, by the key; false for other keys.
+  bool MoveFocus(QPushButton *from, int key);
   void RemoveRow(QWidget *row);
-  /// Height for the rows there are, a few at most.
+  /// Gives the bar the height of its rows, a few at most, and hides it without rows.
   void FitRows();
-  void QuietenNotes();
+  /// Gives the notes of all rows the palette's quiet text colour.
+  void DimNotes();
 
   EditorContext &context_;
   std::vector<Offered> offered_;  ///< in the order of the rows
