@@ -3,7 +3,6 @@
 
 #include "page/saving/MovedTokens.h"
 #include "page/saving/PageVerifier.h"
-#include "page/saving/SourcePatches.h"
 #include "page/text/HtmlElements.h"
 #include "page/text/TextPlaces.h"
 #include "platform/RuntimeError.h"
@@ -140,12 +139,12 @@ const QString NoText = QStringLiteral("bytes that are no text in %1 stand beside
 /// How one serialisation is written.
 struct FaithfulPage::Plan {
   Plan(TokenText current, const TokenText &source, const TokenText &before,
-       const TokenAlignment &sourceToBefore, LineEnds lineEnds)
+       const TokenAlignment &sourceToBefore, PageForm form)
       : now(std::move(current)),
         alignment(AlignTokens(before.tokens, now.tokens, InStep::WithEdit)),
         edits(FindEdits(before, now, alignment)),
         steps(edits.size()),
-        patcher(source, before, now, sourceToBefore, alignment, lineEnds) {}
+        patcher(source, before, now, sourceToBefore, alignment, std::move(form)) {}
 
   /// The step of the edit nearest to a place of the document: most likely the one that made the
   /// document differ there.
@@ -202,6 +201,10 @@ void FaithfulPage::Prepare() {
       AlignTokens(TokensToMatch(source_->tokens), before_->tokens, InStep::WithSerialisation);
 }
 
+PageForm FaithfulPage::Form() const {
+  return {original_.page.encoding.lineEnds, mask_.Stem()};
+}
+
 FaithfulPage::Plan &FaithfulPage::PlanFor(const QString &current) {
   Prepare();
   if (plan_ != nullptr && plan_->now.text == current) return *plan_;
@@ -209,7 +212,7 @@ FaithfulPage::Plan &FaithfulPage::PlanFor(const QString &current) {
   const bool isFree = plan_.use_count() == 1;
   TokenText like = isFree ? std::move(plan_->now) : plan_ != nullptr ? plan_->now : *before_;
   plan_ = std::make_shared<Plan>(TokenText(current, std::move(like)), *source_, *before_,
-                                 sourceToBefore_, original_.page.encoding.lineEnds);
+                                 sourceToBefore_, Form());
   return *plan_;
 }
 
@@ -276,8 +279,7 @@ std::optional<SavedPage> FaithfulPage::TryRungs(Plan &plan, PageVerifier &verifi
 
 std::optional<SavedPage> FaithfulPage::TryAsParsed(const QString &wantedAgain,
                                                    PageVerifier &verifier) const {
-  const Plan plan(TokenText(wantedAgain, *before_), *source_, *before_, sourceToBefore_,
-                  original_.page.encoding.lineEnds);
+  const Plan plan(TokenText(wantedAgain, *before_), *source_, *before_, sourceToBefore_, Form());
   const auto patches = plan.patcher.PatchesFor(plan.edits, plan.steps);
   if (!patches) return std::nullopt;
   if (verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wantedAgain) != wantedAgain)

@@ -4,6 +4,7 @@
 #include "page/saving/ByteSplice.h"
 #include "page/saving/PageEdits.h"
 #include "page/saving/PageMask.h"
+#include "page/saving/SourcePatches.h"
 #include "page/text/PageText.h"
 
 #include <memory>
@@ -67,6 +68,7 @@ class FaithfulPage {
   /// The edits that lead to one serialisation, the rung of each, and the result once it is known.
   struct Plan;
 
+  PageForm Form() const;
   /// The plan for a serialisation, made where the last one was for another.
   Plan &PlanFor(const QString &current);
   enum class Tries { First, All };

@@ -28,6 +28,9 @@ class PageMask {
 
   const QString &MaskedText() const { return masked_; }
 
+  /// What the words begin with that stand for hidden pieces.
+  const QString &Stem() const { return stem_; }
+
   /// A text of the engine's with the original pieces in the place of their masks.
   QString Unmask(const QString &text) const;
 

@@ -4,6 +4,7 @@
 #include "page/saving/EnclosingElements.h"
 #include "page/saving/MovedTokens.h"
 #include "page/saving/TagPatches.h"
+#include "page/saving/TagSpelling.h"
 #include "page/text/TextCharacters.h"
 
 #include <algorithm>
@@ -105,7 +106,7 @@ class SourcePatches::RegionWriter {
     }
     if (isPage_) return CloseGap(source_.Count(), source_.text.size());
     const Number end = patcher_.CounterpartOfNow(region_.to);
-    if (end < 0) added_ += now_.Slice(region_.to, region_.to + 1);
+    if (end < 0) added_ += patcher_.TextOf(now_, region_.to, region_.to + 1, next_);
     CloseGap(end < 0 ? next_ : end, end < 0 ? done_ : source_.At(end).offset);
   }
 
@@ -114,7 +115,7 @@ class SourcePatches::RegionWriter {
   void Add(Number at) {
     const HtmlToken &token = now_.At(at);
     const bool isImpliedAnyway = token.kind == HtmlTokenKind::EndTag && IsFrameTag(token);
-    if (!isImpliedAnyway) added_ += patcher_.TextOf(now_, at, at + 1);
+    if (!isImpliedAnyway) added_ += patcher_.TextOf(now_, at, at + 1, next_);
   }
 
   void Keep(Number at, Number source) {
@@ -180,13 +181,13 @@ void PatchStep::Escalate() {
 
 SourcePatches::SourcePatches(const TokenText &source, const TokenText &before, const TokenText &now,
                              const TokenAlignment &sourceToBefore,
-                             const TokenAlignment &beforeToNow, LineEnds lineEnds)
+                             const TokenAlignment &beforeToNow, PageForm form)
     : source_(source),
       before_(before),
       now_(now),
       sourceToBefore_(sourceToBefore),
       beforeToNow_(beforeToNow),
-      lineEnds_(lineEnds),
+      form_(std::move(form)),
       hasFrameTags_(std::any_of(source.tokens.begin(), source.tokens.end(), IsFrameTag)),
       moved_(FindMovedTokens(source, before, sourceToBefore)) {}
 
@@ -215,35 +216,47 @@ SourcePatches::SourceRange SourcePatches::CounterpartOf(const PageEdit &edit) co
   return range;
 }
 
-QString SourcePatches::TextOf(const TokenText &serialisation, Number from, Number to) const {
-  if (hasFrameTags_) return serialisation.Slice(from, to).toString();
+QString SourcePatches::TextOf(const TokenText &serialisation, Number from, Number to,
+                              Number near) const {
   QString text;
+  std::optional<TagSpelling> spelling;
   for (Number at = from; at < to; ++at) {
-    if (!IsImpliedFrame(serialisation.At(at))) text += serialisation.Slice(at, at + 1);
+    const HtmlToken &token = serialisation.At(at);
+    const QStringView slice = serialisation.Slice(at, at + 1);
+    if (!hasFrameTags_ && IsImpliedFrame(token)) continue;
+    const bool isOfPage = token.IsTag() && token.isFree;
+    if (isOfPage && !spelling) spelling = SpellingNear(source_, near);
+    text += isOfPage ? Spelled(slice, *spelling, form_.maskStem) : slice.toString();
   }
   return text;
 }
 
-QString SourcePatches::ImpliedLeftOf(const PageEdit &edit) const {
+QString SourcePatches::ImpliedLeftOf(const PageEdit &edit, Number near) const {
   Number left = edit.before;
   while (left > 0 && CounterpartAnywhere(left - 1) < 0) --left;
-  return TextOf(before_, left, edit.before);
+  return TextOf(before_, left, edit.before, near);
 }
 
-QString SourcePatches::ImpliedRightOf(const PageEdit &edit) const {
+QString SourcePatches::ImpliedRightOf(const PageEdit &edit, Number near) const {
   Number right = edit.beforeEnd;
   while (right < before_.Count() && CounterpartAnywhere(right) < 0) ++right;
-  return TextOf(before_, edit.beforeEnd, right);
+  return TextOf(before_, edit.beforeEnd, right, near);
+}
+
+SourcePatches::Number SourcePatches::SourcePlace(const PageEdit &edit) const {
+  Number left = edit.before;
+  while (left > 0 && CounterpartAnywhere(left - 1) < 0) --left;
+  return left > 0 ? CounterpartAnywhere(left - 1) + 1 : 0;
 }
 
 qsizetype SourcePatches::InsertionPlace(const PageEdit &edit) const {
-  Number left = edit.before;
-  while (left > 0 && CounterpartAnywhere(left - 1) < 0) --left;
   // Between an implied tag and what the parser moved here, the place is where that came from.
   const Number next = edit.beforeEnd;
-  if (left < edit.before && next < before_.Count() && moved_[Index(next)] >= 0)
+  const bool isBehindImplied = edit.before > 0 && CounterpartAnywhere(edit.before - 1) < 0;
+  if (isBehindImplied && next < before_.Count() && moved_[Index(next)] >= 0)
     return source_.At(moved_[Index(next)]).offset;
-  return left > 0 ? source_.At(CounterpartAnywhere(left - 1)).End() : 0;
+  const Number place = SourcePlace(edit);
+  return place > 0 ? source_.At(place - 1).End() : 0;
 }
 
 bool SourcePatches::AreSameEndTag(Number before, Number source) const {
@@ -254,7 +267,7 @@ bool SourcePatches::AreSameEndTag(Number before, Number source) const {
 }
 
 QString SourcePatches::WithPageLineEnds(QStringView text) const {
-  return WithLineEnds(text.toString(), lineEnds_);
+  return WithLineEnds(text.toString(), form_.lineEnds);
 }
 
 std::optional<std::vector<TextPatch>> SourcePatches::PatchesFor(
@@ -334,17 +347,20 @@ void SourcePatches::PatchTagAt(Number source, const PageEdit &edit, Patches &out
   const TagTexts texts{QStringView(source_.text).sliced(0, token.End()),
                        before_.Slice(edit.before, edit.beforeEnd),
                        now_.Slice(edit.now, edit.nowEnd)};
-  for (const TextPatch &patch : PatchTag(texts, token.offset))
+  const TagSpelling spelling = SpellingNear(source_, source + 1);
+  for (const TextPatch &patch : PatchTag(texts, token.offset, spelling, form_.maskStem))
     Replace(patch.start, patch.end, WithPageLineEnds(patch.text), out);
 }
 
 void SourcePatches::PatchTokens(const PageEdit &edit, PatchRung rung, Patches &out) const {
   const SourceRange range = CounterpartOf(edit);
-  const QString left = rung == PatchRung::EditAlone ? QString() : ImpliedLeftOf(edit);
-  const QString right = rung == PatchRung::ImpliedTagsAround ? ImpliedRightOf(edit) : QString();
+  const Number near = SourcePlace(edit);
+  const QString left = rung == PatchRung::EditAlone ? QString() : ImpliedLeftOf(edit, near);
+  const QString right =
+      rung == PatchRung::ImpliedTagsAround ? ImpliedRightOf(edit, near) : QString();
   if (left.isEmpty() && right.isEmpty() && IsTextForText(range, edit))
     return PatchCharacters(range, edit, out);
-  const QString fresh = TextOf(now_, edit.now, edit.nowEnd);
+  const QString fresh = TextOf(now_, edit.now, edit.nowEnd, near);
   QString text = WithPageLineEnds(left + fresh + right);
   if (range.IsEmpty()) {
     const qsizetype place = InsertionPlace(edit);

@@ -31,6 +31,12 @@ struct PatchStep {
   void Escalate();
 };
 
+/// What everything that is written for a page keeps to.
+struct PageForm {
+  LineEnds lineEnds = LineEnds::Lf;
+  QString maskStem;  ///< PageMask::Stem
+};
+
 /// Turns edits of a document into patches of its source.
 class SourcePatches {
  public:
@@ -38,7 +44,7 @@ class SourcePatches {
   /// loading, `now` the one now. All arguments outlive this object.
   SourcePatches(const TokenText &source, const TokenText &before, const TokenText &now,
                 const TokenAlignment &sourceToBefore, const TokenAlignment &beforeToNow,
-                LineEnds lineEnds);
+                PageForm form);
 
   /// The patches for all edits, each with the step of its number, in order and without overlap.
   /// Nothing where an edit has no such step: then the whole page is to be written anew.
@@ -72,11 +78,13 @@ class SourcePatches {
   /// What an edit takes away from the source. Moved tokens count as long as they are in order.
   SourceRange CounterpartOf(const PageEdit &edit) const;
   /// The text of tokens of a serialisation, without the implied tags of HTML, HEAD and BODY where
-  /// the source has none of those.
-  QString TextOf(const TokenText &serialisation, Number from, Number to) const;
+  /// the source has none of those. Tags are spelled as those near the source's token `near`.
+  QString TextOf(const TokenText &serialisation, Number from, Number to, Number near) const;
   /// The tokens without counterpart right before an edit, and right behind it.
-  QString ImpliedLeftOf(const PageEdit &edit) const;
-  QString ImpliedRightOf(const PageEdit &edit) const;
+  QString ImpliedLeftOf(const PageEdit &edit, Number near) const;
+  QString ImpliedRightOf(const PageEdit &edit, Number near) const;
+  /// The number of the source's token behind what stands before an edit.
+  Number SourcePlace(const PageEdit &edit) const;
   /// Where the source gets what an edit inserts that takes nothing away.
   qsizetype InsertionPlace(const PageEdit &edit) const;
   /// Whether both tokens are end tags of one name.
@@ -109,7 +117,7 @@ class SourcePatches {
   const TokenText &now_;
   const TokenAlignment &sourceToBefore_;
   const TokenAlignment &beforeToNow_;
-  LineEnds lineEnds_;
+  PageForm form_;
   bool hasFrameTags_;          ///< whether the source has any tag of HTML, HEAD or BODY
   std::vector<Number> moved_;  ///< FindMovedTokens of source and before
 };

@@ -19,23 +19,6 @@ const HtmlAttributeSlice *Find(QStringView html, const Attributes &attributes, Q
   return found == attributes.end() ? nullptr : &*found;
 }
 
-/// Whether a parser reads the whole value where it has no quotes around it.
-bool NeedsNoQuotes(QStringView value) {
-  static constexpr QStringView Breaking = u" \t\r\n\f\"'=<>`";
-  return !value.isEmpty() && !value.endsWith(u'/') &&
-         std::none_of(value.begin(), value.end(),
-                      [](QChar unit) { return Breaking.contains(unit); });
-}
-
-/// The value in the quotes of the source; without quotes where the source has none and the value
-/// needs none.
-QString Quoted(QStringView value, char16_t quote) {
-  if (quote == 0 && NeedsNoQuotes(value)) return value.toString();
-  if (quote != u'\'') return u'"' + value.toString() + u'"';
-  const QString apostrophes = value.toString().replace(u'\'', QLatin1String("&#39;"));
-  return u'\'' + apostrophes + u'\'';
-}
-
 /// Where the space before an attribute begins.
 qsizetype StartWithSpace(QStringView html, const HtmlAttributeSlice &attribute) {
   qsizetype start = attribute.name;
@@ -45,7 +28,8 @@ qsizetype StartWithSpace(QStringView html, const HtmlAttributeSlice &attribute) 
 
 }  // namespace
 
-std::vector<TextPatch> PatchTag(const TagTexts &texts, qsizetype offset) {
+std::vector<TextPatch> PatchTag(const TagTexts &texts, qsizetype offset,
+                                const TagSpelling &spelling, QStringView maskStem) {
   const HtmlTagParts source = ReadHtmlTag(texts.source, offset);
   const HtmlTagParts before = ReadHtmlTag(texts.before, 0);
   const HtmlTagParts now = ReadHtmlTag(texts.now, 0);
@@ -58,13 +42,14 @@ std::vector<TextPatch> PatchTag(const TagTexts &texts, qsizetype offset) {
     if (old != nullptr && old->ValueIn(texts.before) == value) continue;
     const HtmlAttributeSlice *place = Find(texts.source, source.attributes, name);
     if (place == nullptr) {
-      added += u' ' + name.toString() + u'=' + Quoted(value, u'"');
+      added += SpelledAttribute(name, value, spelling, maskStem);
     } else {
       const qsizetype nameEnd = place->name + place->nameLength;
       const bool hasValue = place->value >= 0;
       const qsizetype start = hasValue ? place->value - (place->quote != 0 ? 1 : 0) : nameEnd;
-      patches.push_back(
-          {start, place->end, hasValue ? Quoted(value, place->quote) : u'=' + Quoted(value, u'"')});
+      const char16_t quote = hasValue ? place->quote : spelling.quote;
+      const QString written = QuotedValue(value, quote, maskStem);
+      patches.push_back({start, place->end, hasValue ? written : u'=' + written});
     }
   }
   for (const HtmlAttributeSlice &attribute : source.attributes) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "page/saving/ByteSplice.h"
+#include "page/saving/TagSpelling.h"
 
 #include <QStringView>
 
@@ -19,7 +20,9 @@ struct TagTexts {
 
 /// The patches that give the source's tag the attributes that the document has now. Unchanged
 /// attributes keep their letter case, quotes and place; a changed value keeps its quotes, or the
-/// lack of them where the new value needs none. `offset`: where the tag begins in the source.
-std::vector<TextPatch> PatchTag(const TagTexts &texts, qsizetype offset);
+/// lack of them where the new value needs none; new attributes are written in `spelling`. `offset`:
+/// where the tag begins in the source. `maskStem`: as for Spelled.
+std::vector<TextPatch> PatchTag(const TagTexts &texts, qsizetype offset,
+                                const TagSpelling &spelling, QStringView maskStem);
 
 }  // namespace velor

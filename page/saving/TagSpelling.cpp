@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "page/saving/TagSpelling.h"
+
+#include "page/text/HtmlElements.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace velor {
+
+namespace {
+
+using Number = std::int32_t;
+using elements::NameKeyOf;
+
+constexpr std::uint32_t Blocks[] = {
+    NameKeyOf(u"address"), NameKeyOf(u"blockquote"), NameKeyOf(u"body"),  NameKeyOf(u"caption"),
+    NameKeyOf(u"center"),  NameKeyOf(u"dd"),         NameKeyOf(u"div"),   NameKeyOf(u"dl"),
+    NameKeyOf(u"dt"),      NameKeyOf(u"form"),       NameKeyOf(u"h1"),    NameKeyOf(u"h2"),
+    NameKeyOf(u"h3"),      NameKeyOf(u"h4"),         NameKeyOf(u"h5"),    NameKeyOf(u"h6"),
+    NameKeyOf(u"head"),    NameKeyOf(u"hr"),         NameKeyOf(u"html"),  NameKeyOf(u"li"),
+    NameKeyOf(u"ol"),      NameKeyOf(u"p"),          NameKeyOf(u"pre"),   NameKeyOf(u"section"),
+    NameKeyOf(u"table"),   NameKeyOf(u"tbody"),      NameKeyOf(u"td"),    NameKeyOf(u"tfoot"),
+    NameKeyOf(u"th"),      NameKeyOf(u"thead"),      NameKeyOf(u"title"), NameKeyOf(u"tr"),
+    NameKeyOf(u"ul")};
+
+/// Maximum number of tokens that are looked at on each side of a place.
+constexpr Number Sight = 4000;
+
+/// Whether a parser reads the value as a whole where no quotes stand around it.
+bool NeedsNoQuotes(QStringView value) {
+  static constexpr QStringView Breaking = u" \t\r\n\f\"'=<>`";
+  return !value.isEmpty() && !value.endsWith(u'/') &&
+         std::none_of(value.begin(), value.end(),
+                      [](QChar unit) { return Breaking.contains(unit); });
+}
+
+bool HasLetter(QStringView name) {
+  return std::any_of(name.begin(), name.end(), [](QChar unit) { return unit.isLetter(); });
+}
+
+TagSpelling::Case CaseOf(QStringView name) {
+  const bool hasLower =
+      std::any_of(name.begin(), name.end(), [](QChar unit) { return unit.isLower(); });
+  return hasLower ? TagSpelling::Case::Lower : TagSpelling::Case::Upper;
+}
+
+bool IsMasked(QStringView text, QStringView maskStem) {
+  return !maskStem.isEmpty() && text.contains(maskStem);
+}
+
+QString InCase(QStringView name, TagSpelling::Case letters, QStringView maskStem) {
+  const bool stays = letters == TagSpelling::Case::Lower || IsMasked(name, maskStem);
+  return stays ? name.toString() : name.toString().toUpper();
+}
+
+/// Calls `look` with the tags near a token until it answers true.
+void LookAround(const TokenText &source, Number number,
+                const std::function<bool(const HtmlToken &)> &look) {
+  const Number start = std::clamp<Number>(number, 0, source.Count());
+  for (Number at = start - 1; at >= std::max<Number>(0, start - Sight); --at) {
+    if (source.At(at).IsTag() && source.At(at).isFree && look(source.At(at))) return;
+  }
+  for (Number at = start; at < std::min(source.Count(), start + Sight); ++at) {
+    if (source.At(at).IsTag() && source.At(at).isFree && look(source.At(at))) return;
+  }
+}
+
+/// Takes the details of a spelling from one tag after the other, each from the first that has it.
+class SpellingReader {
+ public:
+  explicit SpellingReader(const TokenText &source) : source_(source) {}
+
+  /// Whether every detail is found.
+  bool Read(const HtmlToken &token) {
+    const bool isBlock = elements::IsOneOf(token.name, Blocks);
+    const bool isVoid = elements::IsOneOf(token.name, elements::VoidElements);
+    const QStringView html = QStringView(source_.text).first(token.End());
+    const HtmlTagParts tag = ReadHtmlTag(html, token.offset);
+    if (isBlock && !hasCase_) {
+      hasCase_ = true;
+      found_.tagNames = CaseOf(html.sliced(tag.name, tag.nameLength));
+    }
+    if (isVoid && !hasVoidEnd_) {
+      hasVoidEnd_ = true;
+      found_.voidEnd =
+          tag.isSelfClosing ? TagSpelling::VoidEnd::Slash : TagSpelling::VoidEnd::Plain;
+    }
+    // New attributes are written behind the last one.
+    for (auto at = tag.attributes.rbegin(); at != tag.attributes.rend(); ++at)
+      ReadAttribute(html, *at);
+    return hasCase_ && hasVoidEnd_ && hasAttributeCase_ && hasQuote_ && hasBareQuote_;
+  }
+  const TagSpelling &Found() const { return found_; }
+
+ private:
+  void ReadAttribute(QStringView html, const HtmlAttributeSlice &attribute) {
+    if (!hasAttributeCase_ && HasLetter(attribute.NameIn(html))) {
+      hasAttributeCase_ = true;
+      found_.attributeNames = CaseOf(attribute.NameIn(html));
+    }
+    if (attribute.value < 0) return;
+    if (!hasQuote_ && attribute.quote != 0) {
+      hasQuote_ = true;
+      found_.quote = attribute.quote;
+    }
+    if (!hasBareQuote_ && NeedsNoQuotes(attribute.ValueIn(html))) {
+      hasBareQuote_ = true;
+      found_.bareQuote = attribute.quote;
+    }
+  }
+
+  const TokenText &source_;
+  TagSpelling found_;
+  bool hasCase_ = false;
+  bool hasVoidEnd_ = false;
+  bool hasAttributeCase_ = false;
+  bool hasQuote_ = false;
+  bool hasBareQuote_ = false;
+};
+
+}  // namespace
+
+TagSpelling SpellingNear(const TokenText &source, Number number) {
+  SpellingReader reader(source);
+  LookAround(source, number, [&](const HtmlToken &token) { return reader.Read(token); });
+  return reader.Found();
+}
+
+QString QuotedValue(QStringView value, char16_t quote, QStringView maskStem) {
+  if (quote == 0 && NeedsNoQuotes(value) && !IsMasked(value, maskStem)) return value.toString();
+  if (quote != u'\'') return u'"' + value.toString() + u'"';
+  const QString apostrophes = value.toString().replace(u'\'', QLatin1String("&#39;"));
+  return u'\'' + apostrophes + u'\'';
+}
+
+QString SpelledAttribute(QStringView name, QStringView value, const TagSpelling &spelling,
+                         QStringView maskStem) {
+  const char16_t quote = NeedsNoQuotes(value)    ? spelling.bareQuote
+                         : value.contains(u'\'') ? u'"'
+                                                 : spelling.quote;
+  return u' ' + InCase(name, spelling.attributeNames, maskStem) + u'=' +
+         QuotedValue(value, quote, maskStem);
+}
+
+QString Spelled(QStringView tag, const TagSpelling &spelling, QStringView maskStem) {
+  const HtmlTagParts parts = ReadHtmlTag(tag, 0);
+  const QStringView name = tag.sliced(parts.name, parts.nameLength);
+  const std::uint32_t key = HtmlNameKey(name);
+  if (key == elements::Svg || key == elements::Math) return tag.toString();
+  QString text = tag.first(parts.name).toString() + InCase(name, spelling.tagNames, maskStem);
+  for (const HtmlAttributeSlice &attribute : parts.attributes)
+    text += SpelledAttribute(attribute.NameIn(tag), attribute.ValueIn(tag), spelling, maskStem);
+  const bool isVoid = elements::IsOneOf(key, elements::VoidElements) && !tag.startsWith(u"</");
+  if (isVoid && spelling.voidEnd == TagSpelling::VoidEnd::Slash) text += QLatin1String(" /");
+  return text += tag.sliced(parts.end - 1);
+}
+
+}  // namespace velor
