@@ -34,10 +34,6 @@ export function read(unit) {
   return objects.has(object?.tagName) ? placeOf(object) : sideOf(home);
 }
 
-function addStyle(element, declarations) {
-  const before = (element.getAttribute('style') ?? '').replace(/;?\s*$/, '');
-  element.setAttribute('style', (before ? [before] : []).concat(declarations).join('; '));
-}
 // Where the page has an alignment of its own it stays: in the attribute or in the style.
 const spellingOf = (element) => {
   if (element.hasAttribute('align')) return 'attribute';
@@ -47,7 +43,7 @@ function write(element, side, spelling) {
   const styled = dom.writesStyles();
   if (spelling === 'attribute' || (!spelling && !styled)) element.setAttribute('align', side);
   else if (!objects.has(element.tagName)) putDeclaration(element, 'text-align', side);
-  else addStyle(element, margins[side].map((margin) => `${margin}: auto`));
+  else for (const margin of margins[side]) putDeclaration(element, margin, 'auto');
 }
 
 // An attribute that is written anew stays in its place among the others: without a value it aligns

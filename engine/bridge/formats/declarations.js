@@ -6,20 +6,38 @@ export const declarations = (element) =>
 export const isOf = (property) => (declaration) =>
   declaration.slice(0, declaration.indexOf(':')).trim().toLowerCase() === property;
 
+
+// Writes the declarations that are left, and the last semicolon where the style has it.
+function write(element, all) {
+  const end = /;\s*$/.test(element.getAttribute('style') ?? '') ? ';' : '';
+  const left = all.filter((each) => each.trim());
+  if (left.length) element.setAttribute('style', left.join(';').trim() + end);
+  else element.removeAttribute('style');
+}
+
 // The words of these properties in the shorthand `font`, which stands for less without them.
 const fontWords = {
   'font-weight': /(:|\s)(bold|bolder|lighter|[1-9]00)(?=\s)/i,
   'font-style': /(:|\s)(italic|oblique)(?=\s)/i,
 };
+// One of several properties that a declaration sets, as the engine spells what it leaves.
+function withoutPart(declaration, property) {
+  const scratch = document.createElement('span');
+  scratch.setAttribute('style', declaration);
+  if (!scratch.style.getPropertyValue(property)) return declaration;
+  scratch.style.removeProperty(property);
+  const [space] = /^\s*/.exec(declaration);
+  return space + scratch.style.cssText.replace(/;$/, '');
+}
 function takeFromShorthand(element, property) {
   const all = declarations(element);
   const word = fontWords[property];
   const index = word ? all.findIndex(isOf('font')) : -1;
   if (index < 0) {
-    element.style.removeProperty(property);
+    write(element, all.map((each) => withoutPart(each, property)));
   } else if (word.test(all[index])) {
     all[index] = all[index].replace(word, '$1').replace(/:\s+/, ': ').replace(/ {2,}/g, ' ');
-    element.setAttribute('style', all.join(';'));
+    write(element, all);
   }
 }
 
@@ -27,9 +45,7 @@ export function takeDeclaration(element, property) {
   const all = declarations(element);
   const left = all.filter((declaration) => !isOf(property)(declaration));
   if (left.length === all.length) takeFromShorthand(element, property);
-  else if (left.length) element.setAttribute('style', left.join(';').trim());
-  else element.removeAttribute('style');
-  if (!element.getAttribute('style')) element.removeAttribute('style');
+  else write(element, left);
 }
 
 // Sets one declaration and leaves the others as they are written.
@@ -37,8 +53,7 @@ export function putDeclaration(element, property, value) {
   const all = declarations(element);
   const last = all.findLastIndex(isOf(property));
   const written = `${property}: ${value}`;
-  const end = /;\s*$/.test(element.getAttribute('style') ?? '') ? ';' : '';
   if (last >= 0) all[last] = /^\s*/.exec(all[last])[0] + written;
   else all.push((all.length ? ' ' : '') + written);
-  element.setAttribute('style', all.filter((each) => each.trim()).join(';') + end);
+  write(element, all);
 }

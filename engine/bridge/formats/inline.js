@@ -70,17 +70,21 @@ const holdsBlock = (node) =>
 
 // What gives the texts another look than the wanted one and is to be taken off them, the outermost
 // first: what holds nothing but them, and what stands before an ancestor with the wanted look.
-// Another one stays around the new format, as a person would write it.
-function carriersOf(format, texts, chosen, reads) {
+// Another one stays around the new format, as a person would write it; so does what is in a block
+// with the look that holds other text too, where an element inside can give another look.
+function carriersOf(format, texts, chosen, reads, value) {
   const carriers = new Set();
   const whole = remembered((carrier) => coverage(carrier, chosen) === 'all');
+  const canBeInside = format.write(value) !== null;
+  const stays = (carrier) => canBeInside && dom.isBlock(carrier) && !whole(carrier);
   for (const text of texts) {
     const chain = [];
     let at = text.parentNode;
     for (; !reads(at) && at !== document.body; at = at.parentNode) {
       if (format.carries(at)) chain.unshift(at);
     }
-    for (const carrier of chain) if (reads(at) || whole(carrier)) carriers.add(carrier);
+    const isLast = reads(at) && !chain.some(stays);
+    for (const carrier of chain) if (isLast || whole(carrier)) carriers.add(carrier);
   }
   return carriers;
 }
@@ -305,7 +309,7 @@ function putOn(name, value, texts) {
   texts.forEach(around);
   const all = new Set(texts);
   const reads = (element) => entry.same(entry.read(element), value);
-  for (const carrier of carriersOf(entry, texts, all, remembered(reads))) {
+  for (const carrier of carriersOf(entry, texts, all, remembered(reads), value)) {
     pushDown(entry, carrier, all);
   }
   needless(entry, texts, all, remembered(reads)).forEach((element) => entry.strip(element));
