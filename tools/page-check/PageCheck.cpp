@@ -69,7 +69,7 @@ class PageCheck::Desk {
   static std::optional<Qt::Key> KeyOf(const QString &kind) {
     if (kind == u"enter") return Qt::Key_Return;
     if (kind == u"backspace") return Qt::Key_Backspace;
-    if (kind == u"delete") return Qt::Key_Delete;
+    if (kind == u"delete" || kind == u"delete-word") return Qt::Key_Delete;
     return std::nullopt;
   }
   void Press(Qt::Key key, const QString &text) {
@@ -138,9 +138,9 @@ const QStringList &PageCheck::ScriptKinds() {
 }
 
 const QStringList &PageCheck::KeyKinds() {
-  static const QStringList kinds = {QStringLiteral("type"), QStringLiteral("enter"),
+  static const QStringList kinds = {QStringLiteral("type"),      QStringLiteral("enter"),
                                     QStringLiteral("backspace"), QStringLiteral("delete"),
-                                    QStringLiteral("paste")};
+                                    QStringLiteral("paste"),     QStringLiteral("delete-word")};
   return kinds;
 }
 

@@ -102,6 +102,11 @@
     'backspace': atCaret,
     'delete': atCaret,
     'paste': atCaret,
+    'delete-word': [texts, (text) => {
+      const { start, end } = firstWord(text);
+      select(text, start, end);
+      return true;
+    }],
     'insert-word': [texts, (text) => {
       select(text, firstWord(text).end);
       return document.execCommand('insertText', false, ' inserted');

@@ -33,9 +33,11 @@ const char *const Description =
     "  ms              milliseconds that saving took\n"
     "  error           only of a file that could not be opened, edited or saved; nothing else of "
     "that line counts\n"
-    "The edits type, enter, backspace, delete and paste are keys and commands as a person gives "
+    "The edits type, enter, backspace, delete, delete-word and paste are keys and commands as a "
+    "person gives "
     "them "
-    "(type=WORD types that word). Their places are where a person may put the caret: at ends of "
+    "(type=WORD types that word; delete-word selects a word and deletes it). The others' places "
+    "are where a person may put the caret: at ends of "
     "words, lines, texts and cells, behind inline elements and in indented text in turn, each kind "
     "evenly over the page.\n"
     "Exit status: 0; 1 when a file has an error; 2 for arguments that mean nothing.";
