@@ -20,12 +20,16 @@ const fontWords = {
   'font-weight': /(:|\s)(bold|bolder|lighter|[1-9]00)(?=\s)/i,
   'font-style': /(:|\s)(italic|oblique)(?=\s)/i,
 };
-// One of several properties that a declaration sets, as the engine spells what it leaves.
+// A declaration without one of several properties that it sets, as the engine spells what is left;
+// nothing where that says nothing.
 function withoutPart(declaration, property) {
   const scratch = document.createElement('span');
   scratch.setAttribute('style', declaration);
   if (!scratch.style.getPropertyValue(property)) return declaration;
   scratch.style.removeProperty(property);
+  if ([...scratch.style].every((name) => scratch.style.getPropertyValue(name) === 'initial')) {
+    return '';
+  }
   const [space] = /^\s*/.exec(declaration);
   return space + scratch.style.cssText.replace(/;$/, '');
 }
