@@ -29,8 +29,8 @@ function dropNothings(first, second) {
   }
 }
 
-// The nearest shown leaf before or after a node; null at the edge of its cell.
-function leafBeside(node, side) {
+/** The nearest shown leaf before or after a node; null at the edge of its cell. */
+export function leafBeside(node, side) {
   const cell = cellOf(node);
   for (let at = node; at && at !== cell; at = at.parentNode) {
     let near = dom.neighbour(at, side);
@@ -49,7 +49,8 @@ function shownEdge(node, child, side) {
   return inner ? shownEdge(inner, child, side) : node;
 }
 
-const unitOfLeaf = (leaf) =>
+/** The paragraph that a leaf is in. */
+export const unitOfLeaf = (leaf) =>
   (dom.isText(leaf) || dom.isBlock(leaf)
     ? unitAt(leaf, 0) : unitAt(leaf.parentNode, selection.indexOf(leaf)));
 

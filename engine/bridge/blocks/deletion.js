@@ -88,6 +88,13 @@ function setToStart(rest, unit) {
   rest.collapse(true);
 }
 
+// The break that a point is right behind, the start of its line; null for none.
+function breakBefore(node, offset) {
+  const before = dom.isText(node)
+    ? offset === 0 && node.previousSibling : node.childNodes[offset - 1];
+  return dom.isBreak(before) ? before : null;
+}
+
 // Deletes from one paragraph into another and joins what is left of the two. `rest` becomes the
 // range where the caret will be.
 /**
@@ -106,13 +113,14 @@ function deleteAcross(range, rest) {
   }
   const begins = first.container === startContainer ||
     first.nodes.some((node) => node.contains(startContainer));
+  const line = breakBefore(startContainer, startOffset);
   const mark = document.createTextNode('');
   if (first.nodes.length) first.nodes[0].before(mark);
   else first.container.prepend(mark);
   range.deleteContents();
   dropEmptyInline(startContainer);
   dropEmptyInline(endContainer);
-  if (begins && second.container.isConnected) join(first, second, mark);
+  if (begins && second.container.isConnected) join(first, second, mark, line);
   else dropEmptyBlocks(dom.blockOf(endContainer));
   mark.remove();
   holdOpen(first.container);

@@ -13,7 +13,7 @@ import { readUnits, unitsIn } from '../page/units.js';
  * @param {number} offset
  * @returns {PlainRange}
  */
-const caretAt = (node, offset) => ({
+export const caretAt = (node, offset) => ({
   startContainer: node, startOffset: offset, endContainer: node, endOffset: offset, collapsed: true,
 });
 

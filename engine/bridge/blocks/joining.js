@@ -35,11 +35,14 @@ export function dropBlock(block) {
   if (dom.isList(before) && lists.isContinuation(before, after)) dom.absorb(before, after);
 }
 
-// The nodes less the break at their end, which goes.
-/** @param {ChildNode[]} nodes */
-const dropTrailingBreak = (nodes) => {
+// The nodes less the break at their end, which goes, unless it is the one that `line` is behind.
+/**
+ * @param {ChildNode[]} nodes
+ * @param {ChildNode | null} line
+ */
+const dropTrailingBreak = (nodes, line) => {
   const last = nodes.at(-1);
-  if (dom.isBreak(last)) {
+  if (dom.isBreak(last) && last !== line) {
     last.remove();
     return nodes.slice(0, -1);
   }
@@ -68,10 +71,11 @@ function moveSublists(home, item) {
  * @param {Unit} first
  * @param {Unit} second
  * @param {ChildNode | null} [mark] where the content goes when nothing is left of `first`
+ * @param {ChildNode | null} [line] a break at the end of `first` that stays before the content
  * @returns {Anchor}
  */
-export function join(first, second, mark = null) {
-  const left = dropTrailingBreak(first.nodes.filter((node) => node.isConnected));
+export function join(first, second, mark = null, line = null) {
+  const left = dropTrailingBreak(first.nodes.filter((node) => node.isConnected), line);
   const home = second.container;
   const leavesPre = dom.isPreformatted(second.block) && !dom.isPreformatted(first.container);
   if (leavesPre) breakLines(home);

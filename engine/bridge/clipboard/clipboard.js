@@ -6,6 +6,7 @@ import { deleteToPoint } from '../blocks/deletion.js';
 import { deleteKeepingLooks } from '../blocks/typing.js';
 import * as addresses from './addresses.js';
 import { cleaned } from './clean.js';
+import { closed, openEndsOf } from './openEnds.js';
 import { put } from './paste.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -13,8 +14,11 @@ import * as selection from '../page/selection.js';
 import { host } from '../talk/host.js';
 import { schedulePush } from '../talk/pace.js';
 
-// Says in copied markup that it comes from this program and needs no cleaning.
-const origin = '<meta name="generator" content="Velor Web Creator">';
+// Says in copied markup that it comes from this program and needs no cleaning, and which of its
+// ends lie within a paragraph.
+const generator = '<meta name="generator" content="Velor Web Creator"';
+const origin = new RegExp(`${generator} data-ends="(closed|open|line) (closed|open|line)">`);
+const originOf = ({ start, end }) => `${generator} data-ends="${start} ${end}">`;
 
 // What must be around a part of the page for it to mean the same elsewhere.
 const holds = (node) => dom.isInline(node) || dom.isList(node) ||
@@ -40,13 +44,17 @@ function copied(range) {
   const holder = dom.create('DIV');
   holder.append(partOf(range));
   addresses.widen(holder);
+  // A parser drops the first line end of these.
+  for (const { firstChild } of holder.querySelectorAll('pre, listing')) {
+    if (dom.isText(firstChild) && firstChild.data.startsWith('\n')) firstChild.insertData(0, '\n');
+  }
   return holder.innerHTML;
 }
 
 const isForms = (node) => dom.isElement(node) && node.closest('input, textarea, select');
 
 function give(data, range) {
-  data.setData('text/html', origin + copied(range));
+  data.setData('text/html', originOf(openEndsOf(range)) + copied(range));
   data.setData('text/plain', document.getSelection().toString());
 }
 
@@ -112,7 +120,7 @@ function linkOf(data) {
 function fragmentOf(data, range) {
   const html = data.getData('text/html');
   if (!html.trim()) return linkOf(data) ?? textFragment(data.getData('text/plain'), range);
-  if (!html.includes(origin)) return cleaned(html);
+  if (!origin.test(html)) return cleaned(html);
   const own = document.createElement('template');
   own.innerHTML = html.replace(origin, '');
   for (const element of own.content.querySelectorAll('meta[charset]')) element.remove();
@@ -161,6 +169,12 @@ function paste(event) {
   else host()?.pictureWanted();
 }
 
+/** @returns {any} the open ends */
+function openEndsIn(data) {
+  const [, start, end] = origin.exec(data.getData('text/html')) ?? [];
+  return start ? { start, end } : closed;
+}
+
 function fit(fragment, range) {
   unwrapSingle(fragment, range);
   fitIntoList(fragment, range);
@@ -169,11 +183,12 @@ function insert(data, kind) {
   const range = selection.range();
   if (!range) return;
   const fragment = fragmentOf(data, range);
+  const open = openEndsIn(data);
   fit(fragment, range);
   dropKnownIds(fragment);
   addresses.narrow(fragment);
   if (!fragment.hasChildNodes()) return;
-  history.step(kind, () => put(fragment));
+  history.step(kind, () => put(fragment, open));
   schedulePush();
 }
 

@@ -2,8 +2,9 @@
 // @ts-check
 // Markup put in at the selection exactly as it stands: scripts, handlers, comments and objects stay
 // in it (nothing of it runs while a page is edited).
-import { deleteRange, deleteToLine } from '../blocks/deletion.js';
+import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
 import { emptyHolder } from '../blocks/typing.js';
+import { closed, joinsFor } from './openEnds.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
@@ -41,8 +42,17 @@ function cut(node, offset, top) {
   return [top, dom.splitBefore(node, top)];
 }
 
-function dropIfHollow(half) {
+// An empty block gives its name to the one that comes in its place.
+function giveName(block, next) {
+  if (!block.id || !dom.isElement(next) || !dom.isBlock(next) || next.id) return;
+  const { id } = block;
+  history.attributesOf(block);
+  block.removeAttribute('id');
+  next.id = id;
+}
+function dropIfHollow(half, next = null) {
   if (dom.isHollow(half) && ![...half.querySelectorAll('*')].some(dom.isAtom)) {
+    giveName(half, next);
     half.remove();
     return true;
   }
@@ -77,10 +87,11 @@ function putBlocks(fragment, node, offset) {
     return;
   }
   const [before, after] = cut(node, offset, top);
+  const first = dom.shownFrom(fragment.firstChild, 'nextSibling');
   before.after(fragment);
   dropEmptyInline(dom.lastLeaf(before));
   dropEmptyInline(dom.firstLeaf(after));
-  dropIfHollow(before);
+  dropIfHollow(before, first);
   afterBlocks(last, dropIfHollow(after) ? null : after);
 }
 
@@ -170,24 +181,35 @@ function makeRoom(range, fragment) {
   const object = selection.control(range);
   const gone = object && fragment.firstChild && objects.giveWay(object);
   if (!gone && !range.collapsed && !fragment.firstChild) deleteToLine(range);
-  else if (!gone && !range.collapsed) {
-    const { startContainer, startOffset } = deleteRange(range);
-    selection.setCaret(startContainer, startOffset);
-  }
+  else if (!gone && !range.collapsed) deleteToPoint(range);
   dropTakenIds(fragment);
 }
 
-// Puts a fragment in the place of the selection.
-export const put = (fragment) => {
-  if (!selection.range().collapsed) resolveAll();
+/**
+ * Puts a fragment in the place of the selection.
+ * @param {DocumentFragment} fragment
+ * @param {import('./openEnds.js').OpenEnds} [open]
+ */
+export const put = (fragment, open = closed) => {
+  const replaces = !selection.range().collapsed;
+  if (replaces) resolveAll();
   house(fragment, selection.range().startContainer);
   if (fragment.firstChild) emptyHolder();
   makeRoom(selection.range(), fragment);
   if (!fragment.firstChild) return;
   blanks.watch();
-  putAt(fragment, selection.range());
+  putJoined(fragment, open, selection.range());
+  // What stood in for a blank beside the gap stands beside what was put in.
+  if (replaces) resolveAll();
   blanks.watched({ inputType: 'insertText' });
 };
+
+function putJoined(fragment, open, range) {
+  const ends = holdsBlock(fragment) ? open : closed;
+  const join = joinsFor(fragment, ends, range.startContainer, range.startOffset);
+  putAt(fragment, range);
+  join();
+}
 
 function putAt(fragment, { startContainer, startOffset }) {
   if (dom.rawAt(startContainer)) {

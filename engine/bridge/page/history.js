@@ -26,8 +26,9 @@ let beyond = { undo: false, redo: false };
 let hooks = null;  // see start
 /** @type {(changes: any[]) => void} */
 let completeStep = () => {};
-/** @type {{ current(): unknown, restore(saved: unknown): void }} */
-let along = { current: () => null, restore() {} };
+/** @typedef {{ current(): any, restore(saved: any): void, isSame(a: any, b: any): boolean }} Keeper */
+/** @type {Keeper} */
+let along = { current: () => null, restore() {}, isSame: () => true };
 
 // Where the document is at rest: the selection and what is kept along with it.
 /** @returns {RestPoints} */
@@ -124,7 +125,8 @@ function close() {
   closed.weight = seal(closed.changes);
   // What an input method wrote and took away again is no change, nor is a line that was held open.
   closed.changes = withoutPairs(closed.changes.filter((change) => !change.isVoid));
-  if (!closed.changes.length) return;
+  const isSame = along.isSame(closed.before.along, closed.after.along);
+  if (!closed.changes.length && isSame) return;
   delete closed.seen;
   delete closed.names;
   undoable.push(closed);
@@ -254,9 +256,9 @@ export function start({ earlier, later, changed, wantBeyond }) {
 }
 
 /**
- * Says what else belongs to the selection at a step's ends: `current()` answers it,
- * `restore(saved)` puts it back.
- * @param {{ current(): unknown, restore(saved: unknown): void }} keeper
+ * Says what else belongs to the document at a step's ends: `current()` answers it, `restore(saved)`
+ * puts it back, `isSame` compares two answers.
+ * @param {Keeper} keeper
  */
 export function keepAlong(keeper) { along = keeper; }
 

@@ -204,8 +204,15 @@ export const blanksAsWritten = () => resolutions(standIns);
 export function forgetStandIns() { standIns = []; }
 
 // A step that is taken back brings back the stand-ins that were there.
+// A blank typed over a no-break space changes no text, but what the page has there.
 history.keepAlong({
   current: () => standIns,
   /** @param {StandIn[]} saved */
   restore(saved) { standIns = saved; },
+  /**
+   * @param {StandIn[]} one
+   * @param {StandIn[]} other
+   */
+  isSame: (one, other) => one.length === other.length && one.every(({ node, index, typed }, at) =>
+    node === other[at].node && index === other[at].index && typed === other[at].typed),
 });

@@ -130,6 +130,8 @@ void Perform(BridgePage &page, const QString &step) {
     const QString type = verb == QStringLiteral("pasteText") ? QStringLiteral("text/plain")
                                                              : QStringLiteral("text/html");
     page.Evaluate(QStringLiteral("markup.paste(%1, %2)").arg(ScriptText(type), ScriptText(value)));
+  } else if (verb == QStringLiteral("cutAndPaste")) {
+    page.Evaluate(QStringLiteral("markup.paste('text/html', markup.cut())"));
   } else if (CommandNumbers().count(verb) == 1) {
     page.Evaluate(
         QStringLiteral("velor.exec(%1, %2)").arg(CommandNumbers().at(verb)).arg(ScriptText(value)));

@@ -74,6 +74,14 @@ TEST_P(BridgeWalk, EveryCommandKeepsTheWordsTheRulesAndTheWayBack) {
   }
 }
 
+TEST_P(BridgeWalk, WhatWasCutComesBackWithItsWordsBlanksAndLines) {
+  for (int seed = FirstSeed(); seed < FirstSeed() + Pages(60); ++seed) {
+    Begin(seed, false);
+    const QString fault = Text(QStringLiteral("walk.cutAndPaste(%1)").arg(StepsAPage));
+    EXPECT_EQ(fault.toStdString(), "") << "seed " << seed;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Dialects, BridgeWalk,
                          ::testing::Values(Dialect{"Old", ""}, Dialect{"Html5", "<!DOCTYPE html>"}),
                          [](const auto &dialect) { return std::string(dialect.param.name); });

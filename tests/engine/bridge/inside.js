@@ -3,6 +3,8 @@
 // The bridge as the program has it, and what only its tests look at.
 import '../../../engine/bridge/api.js';
 import { formats as blockFormats } from '../../../engine/bridge/blocks/blocks.js';
+import { isWithin } from '../../../engine/bridge/clipboard/openEnds.js';
+import * as extent from '../../../engine/bridge/blocks/extent.js';
 import * as dom from '../../../engine/bridge/page/dom.js';
 import * as glyphs from '../../../engine/bridge/objects/glyphs.js';
 import * as history from '../../../engine/bridge/page/history.js';
@@ -13,6 +15,6 @@ import { dividePiecesOver } from '../../../engine/bridge/talk/changes.js';
 import { commands, statusOf } from '../../../engine/bridge/talk/commands.js';
 
 globalThis.inside = {
-  beside, blockFormats, commands, dividePiecesOver, dom, glyphs, history, selection,
-  standIns, statusOf,
+  beside, blockFormats, commands, dividePiecesOver, dom, extent, glyphs, history, isWithin,
+  selection, standIns, statusOf,
 };

@@ -140,6 +140,13 @@
       document.body.dispatchEvent(
         new ClipboardEvent('paste', { clipboardData, bubbles: true, cancelable: true }));
     },
+    // A cut; answers what it has put on the clipboard.
+    cut() {
+      const clipboardData = new DataTransfer();
+      document.body.dispatchEvent(
+        new ClipboardEvent('cut', { clipboardData, bubbles: true, cancelable: true }));
+      return clipboardData.getData('text/html');
+    },
     // The document's text as a program has it that is told of the changes.
     told() {
       const { revision, html, steps } = velor.changes(following.revision);

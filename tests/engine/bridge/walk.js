@@ -287,6 +287,45 @@
 
   const told = (action) => action.join(' ');
 
+  // What a cut and a paste of it in the same place must leave: the words in their order, a blank
+  // between two words where there was one, the lines, and what marks them.
+  const shown = () => document.body.innerText.replace(/[\s\u00a0]+/g, ' ').trim();
+  const names = () => [...document.body.querySelectorAll('[id], [class], a[href]')]
+    .map((element) => `${element.id}.${element.className} ${element.getAttribute('href') ?? ''}`)
+    .filter((name, index, all) => all.indexOf(name) === index).sort().join(', ');
+  // In one paragraph, or from within one to another of the same list, cell or division: a paragraph
+  // that is deleted as a whole leaves an empty line, and what follows it is not joined.
+  const isOnePlace = ({ startContainer, startOffset, endContainer, endOffset }) => {
+    const from = inside.extent.unitAt(startContainer, startOffset)?.home;
+    const to = inside.extent.unitAt(endContainer, endOffset)?.home;
+    const isBare = (node) => node === document.body || inside.dom.isCell(node);
+    if (!from || !to || isBare(from) || isBare(to)) return false;
+    return from === to || (from.parentNode === to.parentNode &&
+      inside.isWithin(startContainer, startOffset, 'start'));
+  };
+  function cutAndPasted() {
+    const before = { ...look(), shown: shown(), lines: shownLines(), names: names() };
+    const given = markup.cut();
+    if (!given) return '';
+    inside.history.settle();
+    const cut = look();
+    if (cut.html === before.html) return '';
+    markup.paste('text/html', given);
+    inside.history.settle();
+    const now = look();
+    const faults = [];
+    if (shown() !== before.shown) faults.push('words or blanks are other ones');
+    if (JSON.stringify(shownLines()) !== JSON.stringify(before.lines)) {
+      faults.push('lines are other ones');
+    }
+    if (names() !== before.names) faults.push(`names were ${before.names} and are ${names()}`);
+    velor.exec(undo);
+    velor.exec(undo);
+    if (!same(look(), before)) faults.push('undo does not lead back');
+    if (!faults.length) return '';
+    return [faults, before.selected, cut.selected, now.selected].join('\n  ');
+  }
+
   globalThis.walk = {
     begin(keysToo) {
       withKeys = keysToo;
@@ -356,6 +395,17 @@
         if (look().html !== wanted.html) return `redo comes to ${look().selected}`;
       }
       return look().html === end.html ? '' : `redo ends at ${look().selected}`;
+    },
+    // So many cuts, each pasted back in the next step; the first fault.
+    cutAndPaste(count) {
+      for (let left = count; left > 0; left--) {
+        select();
+        const range = inside.selection.range();
+        if (!range || !range.toString().trim() || !isOnePlace(range)) continue;
+        const fault = cutAndPasted();
+        if (fault) return fault;
+      }
+      return '';
     },
     // So many steps without keys; the first fault.
     rush(count) {

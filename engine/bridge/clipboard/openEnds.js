@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
+// Open ends: a part of the page that begins or ends within a paragraph. Where such a part comes in,
+// its first paragraph joins the one before the caret, and the one behind the caret joins its last:
+// what was cut comes back as it was.
+import { leafBeside, unitOfLeaf } from '../blocks/caretDeletion.js';
+import { caretAt, isAtEdge, narrowed, sameUnit, unitAt } from '../blocks/extent.js';
+import { join } from '../blocks/joining.js';
+import * as dom from '../page/dom.js';
+import * as selection from '../page/selection.js';
+import { noBreak } from '../page/standIns.js';
+
+/**
+ * An end is 'open' within a paragraph's text, a 'line' where it takes in the line end beside a
+ * paragraph and none of its text, else 'closed'.
+ * @typedef {'closed' | 'open' | 'line'} End
+ * @typedef {{ start: End, end: End }} OpenEnds
+ */
+
+/** @type {OpenEnds} */
+export const closed = { start: 'closed', end: 'closed' };
+
+/**
+ * Whether something of a paragraph stands before or behind a point in it.
+ * @param {Node} node
+ * @param {number} offset
+ * @param {'start' | 'end'} side
+ */
+export function isWithin(node, offset, side) {
+  const unit = unitAt(node, offset);
+  if (!unit?.nodes.length) return false;
+  const paragraph = document.createRange();
+  paragraph.setStartBefore(unit.nodes[0]);
+  paragraph.setEndAfter(unit.nodes.at(-1));
+  const beyond = paragraph.comparePoint(node, offset);
+  if (beyond) return beyond === (side === 'start' ? 1 : -1) && !dom.isHollow(unit.home);
+  return !isAtEdge(caretAt(node, offset), unit, side);
+}
+
+/** @returns {End} */
+function endAt(node, offset, side, other) {
+  if (!isWithin(node, offset, side)) return 'closed';
+  return isWithin(node, offset, other) ? 'open' : 'line';
+}
+
+/**
+ * The open ends of a range.
+ * @param {Range} range
+ * @returns {OpenEnds}
+ */
+export function openEndsOf(range) {
+  if (range.collapsed || selection.control(range)) return closed;
+  const { startContainer, startOffset, endContainer, endOffset } = narrowed(range);
+  return {
+    start: endAt(startContainer, startOffset, 'start', 'end'),
+    end: endAt(endContainer, endOffset, 'end', 'start'),
+  };
+}
+
+const holdsBlock = (node) => [...node.querySelectorAll('*')].some(dom.isBlock);
+
+// The outermost node on one side that says something: layout between blocks does not, white space
+// in a paragraph does.
+const edgeIn = (node, child, side) =>
+  (holdsBlock(node) ? dom.shownFrom(node[child], side) : node[child]);
+
+// Of a paragraph that only a line end was taken from there are but tags.
+function dropEmptyEdge(fragment, child, side) {
+  let holder = fragment;
+  let at = edgeIn(holder, child, side);
+  while (dom.isElement(at) && !dom.isAtom(at)) {
+    if (dom.hasContent(at)) {
+      holder = at;
+    } else {
+      at.remove();
+      if (dom.isBlock(at)) return;
+    }
+    at = edgeIn(holder, child, side);
+  }
+}
+
+// The leaf at one end of the fragment. White space alone would be taken for layout: a no-break
+// space keeps its place until the paragraphs are joined.
+function leafAt(fragment, child, side) {
+  let at = edgeIn(fragment, child, side);
+  while (dom.isElement(at) && !dom.isAtom(at) && at.tagName !== 'TABLE' && at.firstChild) {
+    at = edgeIn(at, child, side);
+  }
+  const blank = blankOf(at)?.data;
+  if (blank) at.data = noBreak;
+  return { node: at, blank };
+}
+
+const edgeOf = ({ block, nodes, container }, side) =>
+  block || (side === 'previousSibling' ? nodes[0] : nodes.at(-1)) || container;
+
+/**
+ * Says what is to be joined once the fragment is in the page at that point. Answers what joins it.
+ * @param {DocumentFragment} fragment
+ * @param {OpenEnds} open
+ * @param {Node} node
+ * @param {number} offset
+ * @returns {() => void}
+ */
+export function joinsFor(fragment, open, node, offset) {
+  if (open.start === 'line') dropEmptyEdge(fragment, 'firstChild', 'nextSibling');
+  if (open.end === 'line') dropEmptyEdge(fragment, 'lastChild', 'previousSibling');
+  // The line that began or ended there is a paragraph's.
+  if (open !== closed && fragment.firstChild && !holdsBlock(fragment)) {
+    dom.wrap([...fragment.childNodes], dom.create('P'));
+  }
+  const joinsStart = open.start === 'open' && isWithin(node, offset, 'start');
+  const joinsEnd = open.end === 'open' && isWithin(node, offset, 'end');
+  const first = joinsStart ? leafAt(fragment, 'firstChild', 'nextSibling') : null;
+  const last = joinsEnd ? leafAt(fragment, 'lastChild', 'previousSibling') : null;
+  return () => {
+    if (first) joinWith(first.node, 'previousSibling');
+    if (last) joinWith(last.node, 'nextSibling');
+    for (const leaf of [first, last]) if (leaf?.blank) leaf.node.data = leaf.blank;
+  };
+}
+
+const isOne = (leaf) => dom.isBlock(leaf) && (dom.isAtom(leaf) || leaf.tagName === 'TABLE');
+
+// Joins two paragraphs that were one before that was cut in two. A break at the first one's end was
+// before the caret: it holds no empty line open.
+function joinHalves(first, second, blank) {
+  const between = join(first, second, null, first.nodes.at(-1) ?? null);
+  if (blank) second.nodes[0].before(blank);
+  return between;
+}
+
+// Joins the paragraph that a leaf begins or ends with the one on that side of it. Text that was put
+// in beside text is in its paragraph already.
+function joinWith(leaf, side) {
+  const back = side === 'previousSibling';
+  const unit = leaf?.isConnected && !isOne(leaf) ? unitOfLeaf(leaf) : null;
+  const outer = back ? unit?.nodes[0] : unit?.nodes.at(-1);
+  if (!outer?.contains(leaf)) return;
+  const near = leafBeside(edgeOf(unit, side), side);
+  const other = near && !isOne(near) ? unitOfLeaf(near) : null;
+  if (!other || sameUnit(unit, other)) return;
+  if (back) {
+    joinHalves(other, unit, blankOf(other.nodes.at(-1)?.nextSibling));
+  } else {
+    const between = joinHalves(unit, other, blankOf(other.nodes[0]?.previousSibling));
+    selection.setCaret(...selection.pointOf(between));
+  }
+}
+
+// White space at the edge of a paragraph was a blank between words before that was cut in two.
+const blankOf = (node) => (dom.isText(node) && /^[ \t\n]+$/.test(node.data) ? node : null);
