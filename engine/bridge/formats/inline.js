@@ -70,13 +70,14 @@ const holdsBlock = (node) =>
 
 // What gives the texts another look than the wanted one and is to be taken off them, the outermost
 // first: what holds nothing but them, and what stands before an ancestor with the wanted look.
-// Another one stays around the new format, as a person would write it; so does what is in a block
-// with the look that holds other text too, where an element inside can give another look.
+// Another one stays around the new format, as a person would write it; so does what is in a cell
+// or table with the look that holds other text too, where an element inside can give another look.
+const isPartOfTable = ({ tagName }) => /^(TABLE|TBODY|TD|TFOOT|TH|THEAD|TR)$/.test(tagName);
 function carriersOf(format, texts, chosen, reads, value) {
   const carriers = new Set();
   const whole = remembered((carrier) => coverage(carrier, chosen) === 'all');
   const canBeInside = format.write(value) !== null;
-  const stays = (carrier) => canBeInside && dom.isBlock(carrier) && !whole(carrier);
+  const stays = (carrier) => canBeInside && isPartOfTable(carrier) && !whole(carrier);
   for (const text of texts) {
     const chain = [];
     let at = text.parentNode;
