@@ -51,6 +51,18 @@ bool Overlap(const std::vector<TextPatch> &patches) {
                             }) != patches.end();
 }
 
+/// The characters of a text; NULs, which a parser drops, belong to the one before them.
+std::vector<TextCharacter> CharactersWithNuls(QStringView text) {
+  std::vector<TextCharacter> characters;
+  for (const TextCharacter &character : CharactersOf(text)) {
+    if (character.first == 0 && !characters.empty())
+      characters.back().length += character.length;
+    else
+      characters.push_back(character);
+  }
+  return characters;
+}
+
 /// How much two texts share at both ends, counted by characters as a parser reads them.
 struct SharedEnds {
   qsizetype oldFront = 0;  ///< units, as are all of these
@@ -59,7 +71,7 @@ struct SharedEnds {
   qsizetype newBack = 0;
 
   SharedEnds(QStringView old, QStringView fresh) : oldBack(old.size()), newBack(fresh.size()) {
-    const std::vector<TextCharacter> olds = CharactersOf(old);
+    const std::vector<TextCharacter> olds = CharactersWithNuls(old);
     const std::vector<TextCharacter> news = CharactersOf(fresh);
     const std::size_t shorter = std::min(olds.size(), news.size());
     std::size_t front = 0;

@@ -147,6 +147,10 @@ INSTANTIATE_TEST_SUITE_P(
              u"<html><head></head><body><p>x</p><div><svg viewBox=\"0 0 1 1\"><g></g></svg></div>"
              u"</body></html>",
              "<P>x</P><DIV><svg viewBox=\"0 0 1 1\"><g></g></svg></DIV>"},
+        Edit{"a word with NULs, which a parser drops", QByteArray("<p>o\0n\0e\0 t\0wo</p>", 18),
+             u"<html><head></head><body><p>one two</p></body></html>",
+             u"<html><head></head><body><p>onex two</p></body></html>",
+             QByteArray("<p>o\0n\0e\0x t\0wo</p>", 19)},
         Edit{"an attribute taken away", "<TD NOWRAP ALIGN=left  width=3>x",
              u"<html><head></head><body><td nowrap=\"\" align=\"left\" "
              u"width=\"3\">x</td></body></html>",
