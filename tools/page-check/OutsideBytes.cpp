@@ -132,6 +132,12 @@ qsizetype ImpliedTags(const QString &come, const TokenText &source, const TokenT
   return units;
 }
 
+/// Tags that are written as the page's others are may close themselves, which the document's do
+/// not.
+QString WithoutSlashes(QString text) {
+  return text.replace(QLatin1String(" />"), QLatin1String(">"));
+}
+
 /// A token a byte.
 std::vector<HtmlToken> BytesAsTokens(const QByteArray &bytes) {
   std::vector<HtmlToken> tokens;
@@ -171,7 +177,7 @@ BytesBeyondEdit CountBytesBeyondEdit(const EditedPage &page) {
   const TokenText now(page.now, HtmlOrigin::Serialisation);
   const Distance edit = DistanceOfEdit(source, before, now, ends);
   const qsizetype gone = size(changed.gone) - size(edit.gone);
-  const qsizetype come = size(changed.come) - size(WithLineEnds(edit.come, ends));
+  const qsizetype come = size(WithoutSlashes(changed.come)) - size(WithLineEnds(edit.come, ends));
   const qsizetype implied =
       come > 0 ? std::min(come, ImpliedTags(changed.come, source, before, now)) : 0;
   return {std::max<qsizetype>(0, gone) + std::max<qsizetype>(0, come - implied), implied};
