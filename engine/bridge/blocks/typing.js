@@ -142,6 +142,12 @@ function firstSelectedText(range) {
   return leaf === node ? { node, offset: 0 } : null;
 }
 
+// In a link that holds blocks the engine would type behind it, and cut the link to pieces for that.
+function inLinkOfBlocks({ startContainer, startOffset }) {
+  if (!dom.isText(startContainer) || !dom.blockOf(startContainer).closest('a[href]')) return null;
+  return { node: startContainer, offset: startOffset };
+}
+
 // Answers the offset behind what was put in.
 /**
  * @param {string} data
@@ -160,7 +166,7 @@ export function over(data) {
   if (!data || !selection.range()) return false;
   narrowSelection(selection.range());
   const range = selection.range();
-  const start = isInLink(range) ? linkEnd : firstSelectedText(range);
+  const start = isInLink(range) ? linkEnd : firstSelectedText(range) ?? inLinkOfBlocks(range);
   if (!start) return false;
   const { node } = start;
   if (!range.collapsed) resolveAll();

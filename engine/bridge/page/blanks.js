@@ -47,7 +47,9 @@ function atCaret(side) {
 // there, so that what is typed next stands beside it. A line end of the source stays where a blank
 // can be taken instead.
 function replaceUnseenBlank() {
-  if (!selection.points().anchorNode) return;
+  const { anchorNode } = selection.points();
+  // In an empty line the source's white space is layout.
+  if (!anchorNode || dom.isHollow(dom.blockOf(anchorNode))) return;
   const left = atCaret('previousSibling');
   const right = atCaret('nextSibling');
   /**

@@ -32,16 +32,30 @@ function haveSameWords(one, other) {
   return middle(one) === middle(other);
 }
 
-// The texts that a change at the range may reach: those beside it and the ones beside these.
+// The texts from a character on, the first that holds more than white space the last.
+const mostBeyond = 4;
+/**
+ * @param {Neighbour | null} place
+ * @param {Side} side
+ */
+function textsFrom(place, side) {
+  const nodes = [];
+  let at = place;
+  while (at?.node && nodes.length < mostBeyond) {
+    nodes.push(at.node);
+    if (nodes.length > 1 && !dom.isBlank(at.node)) break;
+    at = beside(at.node, side === 'nextSibling' ? at.node.length : 0, side);
+  }
+  return nodes;
+}
+
+// The texts that a change at the range may reach: those beside it, the ones beside these, and white
+// space that follows.
 /** @param {PlainRange} range */
 function textsAt({ startContainer, startOffset, endContainer, endOffset }) {
   const left = beside(startContainer, startOffset, 'previousSibling');
   const right = beside(endContainer, endOffset, 'nextSibling');
-  const further = [
-    left?.node && beside(left.node, 0, 'previousSibling'),
-    right?.node && beside(right.node, right.node.length, 'nextSibling'),
-  ];
-  const nodes = [left, right, ...further].filter((each) => each?.node).map(({ node }) => node);
+  const nodes = [...textsFrom(left, 'previousSibling'), ...textsFrom(right, 'nextSibling')];
   return { left, right, texts: new Map(nodes.map((node) => [node, node.data])) };
 }
 
