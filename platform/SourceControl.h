@@ -48,8 +48,8 @@ class SourceControl {
   /// Replaces the selection by `text`.
   virtual void ReplaceSelection(const QString &text) = 0;
 
-  /// Carries out Undo, Redo, Cut, Copy, Paste, Delete or SelectAll. Does nothing for other commands and
-  /// for those that a View refuses.
+  /// Carries out Undo, Redo, Cut, Copy, Paste, Delete or SelectAll. Does nothing for other commands
+  /// and for those that a View refuses.
   virtual void Edit(EditingCommand command) = 0;
 
   /// Zero-based line and column of the caret, columns in UTF-16 units.
