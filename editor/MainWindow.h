@@ -93,9 +93,9 @@ class StatusDisplay {
   /// page comes to the front.
   virtual void Report(const QString &message) = 0;
   /// As Report, about the page of that slot, which may not be in front yet. An empty text removes
-  /// the last notice.
+  /// the notices about it.
   virtual void ReportOn(int page, const QString &message) = 0;
-  /// Whether a notice is shown now.
+  /// Whether there is a notice about what is in front.
   virtual bool HasNotice() const = 0;
 };
 

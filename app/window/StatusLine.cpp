@@ -5,15 +5,11 @@
 
 #include <QLabel>
 
+#include <algorithm>
+
 namespace velor {
-namespace {
-
-constexpr int NoticeMilliseconds = 10'000;
-
-}  // namespace
-
-StatusLine::StatusLine(QWidget *parent)
-    : QStatusBar(parent), tag_(new QLabel(this)), textForm_(new QLabel(this)) {
+StatusLine::StatusLine(QWidget *parent, NoticeTimes times)
+    : QStatusBar(parent), tag_(new QLabel(this)), textForm_(new QLabel(this)), times_(times) {
   setObjectName(QStringLiteral("Sta"));
   setSizeGripEnabled(false);
   tag_->setObjectName(QStringLiteral("Sta_1"));
@@ -25,6 +21,11 @@ StatusLine::StatusLine(QWidget *parent)
   textForm_->setTextFormat(Qt::PlainText);
   textForm_->setContentsMargins(0, 0, BarMargin, 0);
   addPermanentWidget(textForm_);
+  timer_.setSingleShot(true);
+  connect(&timer_, &QTimer::timeout, this, [this] {
+    notices_.pop_back();
+    Show();
+  });
 }
 
 void StatusLine::ShowTag(const QString &tag) {
@@ -40,13 +41,40 @@ void StatusLine::Report(const QString &message) {
 }
 
 void StatusLine::ReportOn(int page, const QString &message) {
-  noticeOn_ = page;
-  showMessage(message, NoticeMilliseconds);
+  if (message.isEmpty()) return Drop([page](const Notice &notice) { return notice.page == page; });
+  if (!notices_.empty()) {
+    notices_.back().left = timer_.remainingTimeAsDuration();
+    if (times_.shown - notices_.back().left >= times_.read) notices_.pop_back();
+  }
+  std::erase_if(notices_, [&](const Notice &notice) { return notice.text == message; });
+  notices_.push_back({page, message, times_.shown});
+  Show();
+}
+
+bool StatusLine::HasNotice() const {
+  return std::any_of(notices_.begin(), notices_.end(),
+                     [this](const Notice &notice) { return notice.page == front_; });
 }
 
 void StatusLine::PageCame(int page) {
   front_ = page;
-  if (noticeOn_ != 0 && noticeOn_ != page) clearMessage();
+  Drop([page](const Notice &notice) { return notice.page != 0 && notice.page != page; });
+}
+
+template <typename Condition>
+void StatusLine::Drop(Condition isDue) {
+  if (notices_.empty()) return;
+  notices_.back().left = timer_.remainingTimeAsDuration();
+  if (std::erase_if(notices_, isDue) > 0) Show();
+}
+
+void StatusLine::Show() {
+  if (notices_.empty()) {
+    timer_.stop();
+    return clearMessage();
+  }
+  timer_.start(notices_.back().left);
+  showMessage(notices_.back().text);
 }
 
 }  // namespace velor

@@ -4,33 +4,56 @@
 #include "editor/MainWindow.h"
 
 #include <QStatusBar>
+#include <QTimer>
+
+#include <chrono>
+#include <vector>
 
 class QLabel;
 
 namespace velor {
 
+struct NoticeTimes {
+  std::chrono::milliseconds shown{10'000};
+  /// Whoever has had a notice before their eyes for so long has read it.
+  std::chrono::milliseconds read{5'000};
+};
+
 /// The status bar `Sta`: the tag under the caret at the left, charset and line ends of the page at
-/// the right.
+/// the right. The newest notice is shown at once; one whose place it took before anybody could read
+/// it comes back afterwards.
 class StatusLine final : public QStatusBar, public StatusDisplay {
   Q_OBJECT
 
  public:
-  explicit StatusLine(QWidget *parent);
+  explicit StatusLine(QWidget *parent, NoticeTimes times = {});
 
   void ShowTag(const QString &tag) override;
   void ShowTextForm(const QString &words) override;
   void Report(const QString &message) override;
   void ReportOn(int page, const QString &message) override;
-  bool HasNotice() const override { return !currentMessage().isEmpty(); }
-  /// To be called with the slot of the page that has come to the front, 0 for none: removes a
-  /// notice about another page.
+  bool HasNotice() const override;
+  /// To be called with the slot of the page that has come to the front, 0 for none: removes the
+  /// notices about other pages.
   void PageCame(int page);
 
  private:
+  struct Notice {
+    int page;  ///< the slot of the page that it is about; 0: the program
+    QString text;
+    std::chrono::milliseconds left;  ///< of its time
+  };
+
+  template <typename Condition>
+  void Drop(Condition isDue);
+  void Show();
+
   QLabel *tag_;
   QLabel *textForm_;
-  int front_ = 0;     ///< slot of the page in front
-  int noticeOn_ = 0;  ///< slot of the page that the notice is about; 0: the program
+  const NoticeTimes times_;
+  std::vector<Notice> notices_;  ///< the last one is on show
+  QTimer timer_;                 ///< for that one
+  int front_ = 0;                ///< slot of the page in front
 };
 
 }  // namespace velor
