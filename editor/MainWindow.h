@@ -38,6 +38,8 @@ struct TabState {
   QString path;
   /// The page, or its source editor, has unsaved changes.
   bool hasChanges = false;
+  /// Stands behind the caption.
+  QString note = {};
 };
 
 /// The page tabs `FileTab`: one a page, under the key "key" and the page number. Unknown keys raise

@@ -211,9 +211,13 @@ void frmMain::OnActivated() {
 void frmMain::ShowTab() {
   const frmCodeEditor *editor = context_.pages.CodeEditor(number_);
   const bool hasSource = editor != nullptr && editor->UnappliedText().has_value();
+  const bool isReadOnly = context_.pages.Record(number_).ReadOnly != False16;
+  const QString note = isReadOnly && journal_.HasChanges()
+                           ? QStringLiteral("Save As keeps your changes")
+                           : QString();
   try {
     context_.mainWindow.tabs.SetState(PageKey(number_),
-                                      {FilePath(), hasSource || journal_.HasChanges()});
+                                      {FilePath(), hasSource || journal_.HasChanges(), note});
   } catch (const RuntimeError &) {
     // The tab may not be there yet, or not any more.
   }

@@ -24,6 +24,7 @@ constexpr std::array<const char *, 1> Images{"page"};
 constexpr int TabHeight = 34;
 constexpr int TabPadding = 12;
 constexpr int WidestTab = 220;
+constexpr int WidestTabWithNote = 440;
 constexpr int NarrowestTab = 72;
 constexpr int MarkHeight = 2;
 /// The dot on the picture of a page with unsaved changes.
@@ -74,16 +75,27 @@ void PageTabs::SetCaption(const QString &key, const QString &caption) {
 
 void PageTabs::SetState(const QString &key, const TabState &state) {
   const int index = IndexOf(key);
-  tabs_[static_cast<std::size_t>(index)].state = state;
+  TabState &known = tabs_[static_cast<std::size_t>(index)].state;
+  const bool isAsWide = known.note == state.note;
+  known = state;
   Describe(index);
-  update(tabRect(index));
+  if (isAsWide) return update(tabRect(index));
+  // Makes the strip lay itself out.
+  setTabText(index, tabText(index));
+}
+
+QString PageTabs::Tab::Shown() const {
+  return state.note.isEmpty() ? caption : caption + QStringLiteral("  ·  ") + state.note;
 }
 
 void PageTabs::Describe(int index) {
   const Tab &tab = tabs_[static_cast<std::size_t>(index)];
   const QString &place = tab.state.path.isEmpty() ? tab.caption : tab.state.path;
   // Assistive technology reads the tip as the tab's description.
-  setTabToolTip(index, tab.state.hasChanges ? tr("%1\nUnsaved changes").arg(place) : place);
+  QStringList lines{place};
+  if (tab.state.hasChanges) lines << tr("Unsaved changes");
+  if (!tab.state.note.isEmpty()) lines << tab.state.note;
+  setTabToolTip(index, lines.join(u'\n'));
 }
 
 void PageTabs::Select(const QString &key) {
@@ -122,10 +134,11 @@ void PageTabs::Choose(int index) {
 
 QSize PageTabs::tabSizeHint(int index) const {
   // Rounded up: a caption that is a fraction wider than its place would be cut.
-  const int text = qCeil(
-      QFontMetricsF(font()).horizontalAdvance(tabs_[static_cast<std::size_t>(index)].caption));
+  const Tab &tab = tabs_[static_cast<std::size_t>(index)];
+  const int text = qCeil(QFontMetricsF(font()).horizontalAdvance(tab.Shown()));
   const int width = TabPadding + MenuIconSize + TabPadding / 2 + text + TabPadding;
-  return {std::clamp(width, NarrowestTab, WidestTab), TabHeight};
+  const int widest = tab.state.note.isEmpty() ? WidestTab : WidestTabWithNote;
+  return {std::clamp(width, NarrowestTab, widest), TabHeight};
 }
 
 QSize PageTabs::minimumTabSizeHint(int) const {
@@ -167,7 +180,7 @@ void PageTabs::paintEvent(QPaintEvent *) {
     place.setLeft(place.left() + MenuIconSize + TabPadding / 2);
     painter.setPen(front ? palette().color(QPalette::Text) : QuietText(palette()));
     painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(told.caption, elideMode(), place.width()));
+                     fontMetrics().elidedText(told.Shown(), elideMode(), place.width()));
     if (front && hasFocus()) {
       painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DotLine));
       painter.drawRect(tab.adjusted(4, MarkHeight + 3, -5, -5));

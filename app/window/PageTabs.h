@@ -43,6 +43,8 @@ class PageTabs final : public QTabBar, public TabStrip {
   struct Tab {
     QString caption;
     TabState state;
+
+    QString Shown() const;
   };
   /// In the order of the strip.
   std::vector<Tab> tabs_;

@@ -270,6 +270,28 @@ TEST_F(RealPageFiles, ThePreviewOfAReadOnlyPageShowsTheFile) {
   EXPECT_FALSE(Exists(PageCopy));
 }
 
+TEST_F(RealPageFiles, AReadOnlyPageSaysOnItsTabAtTheFirstKeyHowChangesAreKept) {
+  const QString note = QStringLiteral("Save As keeps your changes");
+  Write(PageFile, Plain);
+  QFile::setPermissions(folder.FilePath(PageFile), QFile::ReadOwner);
+  frmMain &page = Open(PageFile);
+  EXPECT_FALSE(Tabs().tabToolTip(0).contains(note));
+  const int before = Tabs().tabRect(0).width();
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("x"));
+  EXPECT_TRUE(WaitFor([&] { return Tabs().tabToolTip(0).contains(note); }));
+  EXPECT_EQ(Tabs().tabText(0), QStringLiteral("page.htm (Read-Only)"));
+  EXPECT_GT(Tabs().tabRect(0).width(), before) << "the note stands on the tab";
+  dialogs.ExpectMessage(
+      QStringLiteral("page.htm is read-only. Do you want to save your changes under another name?"),
+      MessageAnswer::Yes);
+  SharedDialog().ExpectSave(Logic(QStringLiteral("other.htm")));
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(PageFile), Plain);
+  EXPECT_TRUE(Bytes(QStringLiteral("other.htm")).contains("Oxne"));
+  EXPECT_FALSE(Tabs().tabToolTip(0).contains(note));
+}
+
 TEST_F(RealPageFiles, AnOwnFileOfTheTemporaryCopysNameIsLeftAloneWhateverIsDoneWithThePage) {
   Write(PageCopy, "<p>mine</p>");
   Open(PageFile, Plain).close();
