@@ -50,10 +50,17 @@ function giveName(block, next) {
   block.removeAttribute('id');
   next.id = id;
 }
+// Comments, and the server code that stands as such, stay where an empty block goes.
+function commentsIn(block) {
+  const walker = document.createTreeWalker(block, NodeFilter.SHOW_COMMENT);
+  const comments = [];
+  while (walker.nextNode()) comments.push(walker.currentNode);
+  return comments;
+}
 function dropIfHollow(half, next = null) {
   if (dom.isHollow(half) && ![...half.querySelectorAll('*')].some(dom.isAtom)) {
     giveName(half, next);
-    half.remove();
+    half.replaceWith(...commentsIn(half));
     return true;
   }
   return false;

@@ -26,7 +26,10 @@ let beyond = { undo: false, redo: false };
 let hooks = null;  // see start
 /** @type {(changes: any[]) => void} */
 let completeStep = () => {};
-/** @typedef {{ current(): any, restore(saved: any): void, isSame(a: any, b: any): boolean }} Keeper */
+/**
+ * @typedef {{ current(): any, restore(saved: any): void, isSame(one: any, other: any): boolean }}
+ * Keeper
+ */
 /** @type {Keeper} */
 let along = { current: () => null, restore() {}, isSame: () => true };
 
