@@ -9,6 +9,7 @@
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "page/text/PageEncoding.h"
+#include "page/text/UnsupportedForm.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/ReplacedVersions.h"
@@ -147,7 +148,12 @@ void OutsideChanges::TakeFile() {
   if (alive == nullptr) return;
   // Read first: a file that changes in between counts as changed again. Noted last: a page that
   // could not be loaded still holds its old text.
-  const FileTrace trace = FileTrace::Of(path_, context_.platform.files.ReadAll(path_));
+  const QByteArray content = context_.platform.files.ReadAll(path_);
+  if (const auto form = UnsupportedFormOf(content))
+    throw RuntimeError(
+        ErrorNumber::TypeMismatch, QStringLiteral("OutsideChanges"),
+        QStringLiteral("it is %1 now. The page stays as it is here").arg(InWords(*form)));
+  const FileTrace trace = FileTrace::Of(path_, content);
   component.LoadDocument(path_);
   if (alive == nullptr) return;
   context_.pages.Trace(number) = trace;

@@ -9,6 +9,7 @@
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
+#include "page/text/UnsupportedForm.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Journal.h"
@@ -29,6 +30,17 @@ void RequireFile(EditorContext &context, const QString &path, const QString &ope
   if (!context.platform.files.FileExists(path)) {
     throw RuntimeError::Of(ErrorNumber::FileNotFound, operation, ForPeople(path));
   }
+}
+
+/// A file that is no page in any charset that pages may have is never shown in design view, from
+/// where a save would destroy it.
+void RequirePage(const QByteArray &bytes, const QString &path, const QString &operation) {
+  const auto form = UnsupportedFormOf(bytes);
+  if (!form) return;
+  throw RuntimeError(
+      ErrorNumber::TypeMismatch, operation,
+      QStringLiteral("%1 is %2. It is not opened as a page, and the file stays as it is.")
+          .arg(ForPeople(path), InWords(*form)));
 }
 
 /// Sets the baseline of the page made last, if its load has not reported yet, before the next slot
@@ -222,7 +234,9 @@ void NewPage(EditorContext &context) {
 }
 
 std::int16_t OpenPage(EditorContext &context, const QString &path) {
-  RequireFile(context, path, QStringLiteral("OpenPage"));
+  const QString operation = QStringLiteral("OpenPage");
+  RequireFile(context, path, operation);
+  RequirePage(context.platform.files.ReadAll(path), path, operation);
   bool readOnly = false;
   frmMain &window = MakePage(context);
   FillPage(window, [&] {
@@ -240,12 +254,15 @@ std::int16_t OpenPage(EditorContext &context, const QString &path) {
 void OpenProjectPage(EditorContext &context, const QString &path) {
   // The catalogue may spell a name in another letter case than the disk.
   const QString file = ToLogic(FindIgnoringCase(path));
-  RequireFile(context, file, QStringLiteral("OpenProjectPage"));
+  const QString operation = QStringLiteral("OpenProjectPage");
+  RequireFile(context, file, operation);
+  RequirePage(context.platform.files.ReadAll(file), file, operation);
   frmMain &window = MakePage(context);
   FillPage(window, [&] { OpenWritable(context, window, file, False16); });
 }
 
 bool RestorePage(EditorContext &context, const JournalledPage &kept) {
+  RequirePage(kept.page.original, kept.path, QStringLiteral("RestorePage"));
   frmMain &window = MakePage(context);
   bool isKeptAgain = false;
   FillPage(window, [&] {

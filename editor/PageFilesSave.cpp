@@ -18,6 +18,8 @@
 #include "platform/RuntimeError.h"
 #include "platform/TemporaryCopies.h"
 
+#include <QPointer>
+
 #include <algorithm>
 #include <optional>
 
@@ -58,18 +60,33 @@ std::optional<RuntimeError> Attempt(EditorContext &context, const QString &path,
   }
 }
 
-/// Keeps the version of the file that another program, or another page, wrote, before a save
-/// replaces it.
-void KeepForeignVersion(EditorContext &context, int number, const QString &path) {
+/// Why a save would write the page's source anew; empty where it keeps it, and where that is not
+/// known: the save itself then fails, and tells why.
+QString ReasonToWriteAnew(frmMain &window) {
+  try {
+    return window.DHTML1().ReasonToWriteAnew();
+  } catch (const RuntimeError &) {
+    return {};
+  }
+}
+
+enum class Writing { Edits, Anew };
+
+/// What another program, or another page, has written must not be lost by a save over it; neither
+/// what the page came from where the save keeps nothing of its source.
+void KeepVersion(EditorContext &context, const frmMain &window, const QString &path,
+                 Writing writing) {
   const Files &files = context.platform.files;
   ReplacedVersions *replaced = context.platform.replaced;
   if (replaced == nullptr || !files.FileExists(path) || files.IsReadOnly(path)) return;
   const QByteArray there = files.ReadAll(path);
-  if (FileTrace::Of(path, there) == context.pages.Trace(number)) return;
+  const bool isOwn = FileTrace::Of(path, there) == context.pages.Trace(window.Number());
+  if (isOwn && (writing == Writing::Edits || window.WasWrittenAnew)) return;
   const QString kept = replaced->Keep(path, there);
-  context.mainWindow.status.Report(
-      QStringLiteral("%1 held another version. It was replaced and is kept as %2")
-          .arg(ForPeople(path), kept));
+  const QString notice =
+      isOwn ? QStringLiteral("%1 was written anew. What it held is kept as %2")
+            : QStringLiteral("%1 held another version. It was replaced and is kept as %2");
+  context.mainWindow.status.Report(notice.arg(ForPeople(path), kept));
 }
 
 /// Whether the page's file was removed.
@@ -82,8 +99,10 @@ void WriteFile(frmMain &window, const QString &path) {
   // So that no key is lost where the program ends during the save.
   window.Journal().Flush();
   const bool hasGone = HasGone(context, window.Number(), path);
-  KeepForeignVersion(window.Context(), window.Number(), path);
+  const Writing writing = ReasonToWriteAnew(window).isEmpty() ? Writing::Edits : Writing::Anew;
+  KeepVersion(window.Context(), window, path, writing);
   window.DHTML1().SaveDocument(path);
+  window.WasWrittenAnew = writing == Writing::Anew;
   try {
     TraceFile(window, path);
   } catch (const RuntimeError &) {
@@ -173,6 +192,7 @@ void SaveUnderNewName(frmMain &window, FileDialog &dialog, PageRecord &record) {
   window.setWindowTitle(modGeneral::FileNameOfPath(file));
   window.UpdateTabCaption();
   window.DHTML1().LoadDocument(file);
+  window.WasWrittenAnew = false;
   window.Journal().MarkSaved();
   // The page may have been read-only before.
   window.CheckAcc();
@@ -223,6 +243,33 @@ bool WantsAnotherName(EditorContext &context, const PageRecord &record) {
   return context.platform.dialogs.ShowMessage(question) == MessageAnswer::Yes;
 }
 
+enum class AnewChoice { Save, SaveAs, Cancel };
+
+/// What to do with a page whose file a save would write anew, asked before the first such save.
+AnewChoice AskBeforeWritingAnew(EditorContext &context, frmMain &window, const PageRecord &record) {
+  if (record.HasFile == False16 || window.WasWrittenAnew) return AnewChoice::Save;
+  const QString reason = ReasonToWriteAnew(window);
+  if (reason.isEmpty()) return AnewChoice::Save;
+  Message question;
+  question.text = QStringLiteral("The source of %1 cannot be kept as it was written, since %2.")
+                      .arg(modGeneral::FileNameOfPath(record.Path), reason);
+  question.details = QStringLiteral(
+                         "Saved anew, the whole file is written as the page is shown now. What it "
+                         "holds is kept among the replaced versions.\n%1")
+                         .arg(ForPeople(record.Path));
+  question.icon = MessageIcon::Question;
+  switch (context.platform.dialogs.Choose(
+      question, {QStringLiteral("Save Anew"), QStringLiteral("Save Under Another Name"),
+                 QStringLiteral("Cancel")})) {
+    case 0:
+      return AnewChoice::Save;
+    case 1:
+      return AnewChoice::SaveAs;
+    default:
+      return AnewChoice::Cancel;
+  }
+}
+
 }  // namespace
 
 void TraceFile(frmMain &window, const QString &path) {
@@ -243,6 +290,12 @@ SaveEnd SaveAndTell(EditorContext &context, frmMain &window, SaveKind kind) {
   if (kind == SaveKind::Save && IsWriteProtected(context, record)) {
     if (!WantsAnotherName(context, record)) return SaveEnd::Cancelled;
     kind = SaveKind::SaveAs;
+  }
+  if (kind == SaveKind::Save) {
+    const QPointer<frmMain> alive(&window);
+    const AnewChoice choice = AskBeforeWritingAnew(context, window, record);
+    if (alive == nullptr || choice == AnewChoice::Cancel) return SaveEnd::Cancelled;
+    if (choice == AnewChoice::SaveAs) kind = SaveKind::SaveAs;
   }
   HoldNameInDialog(context, window);
   const auto failure =

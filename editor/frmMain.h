@@ -92,6 +92,10 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void RefreshSourceView();
   void MarkKill() override;
 
+  /// Whether its file was last written anew as a whole: the person has agreed, and what the file
+  /// held before is kept.
+  bool WasWrittenAnew = false;
+
   // The pointer's place in the page at the last mouse notice, in CSS pixels.
   int ClientX = 0;
   int ClientY = 0;

@@ -47,7 +47,8 @@ bool WriteTemporaryCopy(const EditorContext &context, int number, const QString 
 void NewPage(EditorContext &context);
 
 /// Opens a page file in a new slot and records it in the history. Returns 1 when the file is
-/// read-only, else 0. Raises FileNotFound (53) for a missing file, before a slot is made.
+/// read-only, else 0. Raises FileNotFound (53) for a missing file, and TypeMismatch (13)
+/// for one that is no page in any charset that pages may have, before a slot is made.
 std::int16_t OpenPage(EditorContext &context, const QString &path);
 
 /// Opens a page of a web-site project. It is not recorded in the history, and its first Save asks
@@ -79,7 +80,8 @@ enum class SaveEnd {
 };
 
 /// Saves a page as the Save and Save As commands do, with the shared file dialog set to the page's
-/// own name. Offers another name for a page whose file is read-only. A failure that leaves the page
+/// own name. Offers another name for a page whose file is read-only, and asks
+/// before a file is written anew whose source cannot be kept. A failure that leaves the page
 /// unsafe is shown in a message with the file and the reason.
 SaveEnd SaveAndTell(EditorContext &context, frmMain &window, SaveKind kind);
 

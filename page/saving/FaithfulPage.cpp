@@ -178,6 +178,7 @@ struct FaithfulPage::Plan {
   SourcePatches patcher;
   std::optional<SavedPage> result;
   QString reason = NoSmallerChange;  ///< why there is no result
+  bool isExhausted = false;          ///< no try that is left would give one
 };
 
 FaithfulPage::FaithfulPage(PageOriginal original)
@@ -231,7 +232,10 @@ SavedPage FaithfulPage::Compose(const QString &current, PageVerifier &verifier) 
   PlanFor(current);
   // The verifier may wait for the engine, and another call may come meanwhile.
   const std::shared_ptr<Plan> plan = plan_;
-  if (!plan->result) plan->result = TryRungs(*plan, verifier, Tries::All);
+  if (!plan->result && !plan->isExhausted) {
+    plan->result = TryRungs(*plan, verifier, Tries::All);
+    plan->isExhausted = !plan->result && plan->reason != NoAnswer;
+  }
   return plan->result ? *plan->result : WriteEverything(current, plan->reason);
 }
 

@@ -41,6 +41,7 @@ class FakeEditingComponent final : public EditingComponent,
   qsizetype selectionEnd = 0;
   ElementPlaces caretPlaces;
   bool isIdle = false;
+  QString reasonToWriteAnew;
   std::optional<RuntimeError> nextLoadFailure;  ///< raised once by LoadDocument and LoadText
   std::optional<RuntimeError> nextSaveFailure;  ///< raised once by SaveDocument
 
@@ -73,6 +74,7 @@ class FakeEditingComponent final : public EditingComponent,
   void DeliverCompletion() override;
   void SaveDocument(const QString &path) override;
   QString TextToSave() override;
+  QString ReasonToWriteAnew() override { return reasonToWriteAnew; }
   PageMemory Memory() const override;
   bool IsIdle() const override { return isIdle; }
   void Restore(const PageMemory &memory) override;
