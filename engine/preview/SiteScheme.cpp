@@ -72,7 +72,10 @@ QUrl SiteScheme::Offer(const QString &file, const QString &site, const QString &
 }
 
 QString SiteScheme::FileOf(const QUrl &address) {
-  return address.path(QUrl::FullyDecoded);
+  const QString path = address.path(QUrl::FullyDecoded);
+  // "/C:/pics/a.png": a full address of another machine's drive, which is a folder here.
+  const auto mapped = UrlOfMappedDrive(QUrl::fromLocalFile(path));
+  return mapped ? mapped->toLocalFile() : path;
 }
 
 bool SiteScheme::IsInside(const QUrl &address) const {

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Pages that name files on mapped drives, in the whole window.
+#include "editor/PageSlots.h"
+#include "editor/frmBrowser.h"
+#include "editor/frmMain.h"
+#include "tests/app/window/RealWindowFixture.h"
+#include "tests/engine/ComponentFixture.h"
+#include "tests/support/MappedDrives.h"
+
+#include <QDir>
+
+namespace velor {
+namespace {
+
+const QByteArray Picture = "<svg xmlns='http://www.w3.org/2000/svg' width='23' height='10'/>";
+
+class RealFileLinks : public RealWindow {
+ protected:
+  static bool Becomes(QWidget &shown, const char *expression, const char *wanted) {
+    return WaitFor([&] {
+      return Evaluate(EngineOf(shown), QString::fromLatin1(expression)).toString() ==
+             QString::fromLatin1(wanted);
+    });
+  }
+  QWidget &Preview(frmMain &page) {
+    page.ChangeMode(4);
+    return *window.Context().preview;
+  }
+};
+
+constexpr const char *PictureWidth = "document.images[0] ? String(document.images[0].width) : ''";
+
+TEST_F(RealFileLinks, PicturesOnMappedDrivesShowInDesignViewAndPreview) {
+  const MappedDrives drives(QStringLiteral("D: ") + folder.FilePath(QStringLiteral("disk")));
+  QDir().mkpath(folder.FilePath(QStringLiteral("disk/Site")));
+  Write(QStringLiteral("disk/Site/a b.svg"), Picture);
+  frmMain &page =
+      Open(QStringLiteral("disk/Site/page.htm"), "<p>one</p><img src='file:///D:/Site/a%20b.svg'>");
+  EXPECT_TRUE(Becomes(page, PictureWidth, "23"));
+  EXPECT_TRUE(Becomes(Preview(page), PictureWidth, "23"));
+}
+
+}  // namespace
+}  // namespace velor
