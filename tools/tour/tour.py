@@ -11,7 +11,7 @@ import shutil
 import sys
 
 from moves import Tour
-from scenarios import inserting, pages, preview, projects, source, start_and_exit
+from scenarios import hours, inserting, pages, preview, projects, source, start_and_exit
 
 # Each begins with the program as the one before it left it.
 SCENARIOS = (
@@ -26,6 +26,9 @@ SCENARIOS = (
     pages.closing_asks,
     preview.the_preview_walks_through_pages,
     inserting.pictures_and_tables_are_inserted,
+    hours.an_old_page_is_repaired,
+    hours.text_moves_between_pages,
+    hours.patience_is_lost,
     start_and_exit.exit_ends_everything,
     projects.a_project_that_moved_is_found_again_and_edited,
     start_and_exit.exit_ends_everything,
