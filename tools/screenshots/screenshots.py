@@ -103,6 +103,7 @@ def main_window(photos):
     photos.popup(lambda: program.click(middle, middle, 3), "context-menu", "Down", "Down")
     photos.popup(lambda: program.key("alt+f"), "file-menu", "Down")
     photos.popup(lambda: program.key("alt+v"), "view-menu", "Right", "Down")
+    photos.popup(lambda: program.key("alt+t"), "tools-menu", "Down")
     photos.popup(lambda: photos.click("Text Color"), "colour-palette", "Down")
     photos.popup(lambda: photos.click("Block Format", "combo box"), "combo-list")
     photos.popup(lambda: photos.list_of("Font"), "font-list", "Down")
@@ -209,6 +210,15 @@ def modes(photos):
     photos.dialog(lambda: program.key("ctrl+F4"), "close-prompt", ("Yes", "push button"))
 
 
+def narrow(photos):
+    """The narrowest window."""
+    program = photos.program
+    program.press("Design", within=program.wait("Untitled 5", "frame"))
+    program.size_window(int(480 * photos.factor), int(820 * photos.factor))
+    photos.away()
+    photos.shot("narrow")
+
+
 def home(scratch):
     """A home folder that somebody might have."""
     folder = os.path.join(scratch, "home")
@@ -288,7 +298,7 @@ def main(run_folder, out, palette, scale, *wanted):
     sessions = {
         "recovery": recovery,
         "start": lambda: session("start", ("eImages",), start_up),
-        "main": lambda: session("main", (), main_window, dialogs, modes),
+        "main": lambda: session("main", (), main_window, dialogs, modes, narrow),
         "objects": lambda: session("objects", (), objects),
     }
     for name in wanted or sessions:
