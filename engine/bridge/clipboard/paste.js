@@ -263,7 +263,8 @@ export const pasteHTML = (html) => history.step('pasteHTML', () => {
   if (!selection.range()) return;
   const fragment = parse(html);
   /** @type {any[]} */
-  const [only, ...others] = [...fragment.childNodes].filter(dom.isShown);
+  const [only, ...others] = [...fragment.childNodes]
+    .filter((node) => dom.isShown(node) && !dom.isBlank(node));
   put(fragment);
   if (only?.tagName === 'TABLE' && !others.length) enterTable(only);
 });

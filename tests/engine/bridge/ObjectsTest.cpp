@@ -293,6 +293,15 @@ TEST_F(Objects, ATableThatIsPutInHasTheCaretInItsFirstCell) {
             QStringLiteral("<td>a</td><td>b</td>"));
 }
 
+TEST_F(Objects, ALineEndBehindATableThatIsPutInMakesNoDifferenceToTheCaret) {
+  Load(QStringLiteral("<p>one|</p>"));
+  Evaluate(
+      QStringLiteral("velor.pasteHTML('<Table border=1>\\r\\n<TR>\\r\\n<TD></TD>\\r\\n</TR>\\r\\n"
+                     "</Table>\\r\\n')"));
+  page_.Type(QStringLiteral("a"));
+  EXPECT_EQ(Text(QStringLiteral("document.querySelector('td').innerHTML")), QStringLiteral("a"));
+}
+
 TEST_F(Objects, EnterBeginsAParagraphBehindATableAndARule) {
   for (const char *object : {"<table><tbody><tr><td>x</td></tr></tbody></table>", "<hr>"}) {
     Load(QStringLiteral("<p>one|</p>%1<p>two</p>").arg(QString::fromLatin1(object)));
