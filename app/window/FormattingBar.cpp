@@ -22,8 +22,8 @@ namespace {
 
 constexpr std::int32_t PaperWhite = 0xFFFFFF;
 constexpr int FormatWidth = 150;
-constexpr int FontWidth = 190;
-constexpr int SizeWidth = 64;
+constexpr int FontWidth = 182;
+constexpr int SizeWidth = 72;
 
 template <typename Box>
 Box *Named(Box *box, const char *name, const QString &label) {

@@ -21,10 +21,12 @@ const hex = (light) => '#' +
   light.map((part) => Math.round(part).toString(16).padStart(2, '0').toUpperCase()).join('');
 
 // CSS pixels are 96 an inch, points 72.
-const points = (pixels) => String(Math.round((parseFloat(pixels) * 72) / 96));
+const points = (pixels) => (pixels * 72) / 96;
 const sizePoints = [8, 10, 12, 14, 18, 24, 36];
+// The FONT size nearest to a size as `sizeText` writes it.
 function sizeNumber(text) {
-  const wanted = parseFloat(text);
+  const number = parseFloat(text);
+  const wanted = text.endsWith('px') ? points(number) : number;
   let best = 0;
   sizePoints.forEach((size, index) => {
     if (Math.abs(size - wanted) < Math.abs(sizePoints[best] - wanted)) best = index;
@@ -101,6 +103,25 @@ function fontNumber(font) {
   const number = sign ? 3 + Number(sign + digits) : Number(digits);
   return Math.min(Math.max(number, 1), sizePoints.length);
 }
+// The engine's own sizes, as those of headings, are this close to the points that they stand for.
+const slack = 0.2;
+// Whether the nearest element that says a size in its style says it in pixels.
+const isInPixels = outwards((at) => {
+  const said = at.style?.fontSize;
+  return said ? /px$/i.test(said) : undefined;
+}, false);
+// One of the seven sizes as a bare number of points; any other with its unit: the one that the page
+// says, else that in which it is a whole number.
+function sizeText(element) {
+  const pixels = parseFloat(style(element).fontSize);
+  const size = points(pixels);
+  const listed = sizePoints.find((each) => Math.abs(each - size) < slack);
+  if (listed) return String(listed);
+  const isOddPoints = !Number.isInteger(size) && Number.isInteger(pixels);
+  const [number, unit] = isInPixels(element) || isOddPoints ? [pixels, 'px'] : [size, 'pt'];
+  return `${Math.round(number * 10) / 10} ${unit}`;
+}
+
 // A FONT has one of the seven sizes, whatever they come to in the typeface at hand.
 function fontSize(element) {
   for (const at of ancestors(element)) {
@@ -109,7 +130,7 @@ function fontSize(element) {
     if (size) return String(sizePoints[size - 1]);
     if (formats.fontSize.carries(at)) break;
   }
-  return points(style(element).fontSize);
+  return sizeText(element);
 }
 
 // A block whose style is its text's alone.
@@ -213,7 +234,8 @@ export const formats = {
     read: fontSize,
     parse: (value) => String(sizePoints[sizeNumber(value) - 1]),
     tags: ['BIG', 'SMALL'], attribute: 'size', inAttribute: sizeNumber,
-    property: 'font-size', inStyle: (value) => `${value}pt`,
+    property: 'font-size',
+    inStyle: (value) => (/\d$/.test(value) ? `${value}pt` : value.replace(' ', '')),
   }),
   foreColor: defineFormat({
     read: (element, known) => hex(textColour(element, known)),
