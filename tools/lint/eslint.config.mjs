@@ -29,16 +29,20 @@ const scripts = (files, sourceType, known) => ({
 });
 const written = (...names) => Object.fromEntries(names.map((name) => [name, 'writable']));
 
+// What the build joins; the others are scripts by themselves.
+const modules = [
+  'engine/bridge/**/*.js', 'tests/engine/bridge/inside.js', 'tools/editing-suite/commands.js'];
+
 export default [
-  scripts(['engine/bridge/**/*.js', 'tests/engine/bridge/inside.js'], 'module',
-    { ...globals.browser, ...written('qt', 'QWebChannel') }),
+  scripts(modules, 'module',
+    { ...globals.browser, ...written('qt', 'QWebChannel', 'velor') }),
   {
     ...scripts(['tests/engine/bridge/*.js', 'tools/**/*.js'], 'script',
       {
         ...globals.browser,
         ...written('inside', 'markup', 'pages', 'sweep', 'velor', 'walk', 'work'),
       }),
-    ignores: ['tests/engine/bridge/inside.js'],
+    ignores: modules,
   },
   scripts(['tests/**/*.mjs', 'tools/**/*.mjs'], 'module', globals.node),
   // A test's judgement is a list of rules.

@@ -13,8 +13,9 @@ import * as selection from '../../../engine/bridge/page/selection.js';
 import * as standIns from '../../../engine/bridge/page/standIns.js';
 import { dividePiecesOver } from '../../../engine/bridge/talk/changes.js';
 import { commands, statusOf } from '../../../engine/bridge/talk/commands.js';
+import { Command, Status } from '../../../engine/bridge/talk/vocabulary.js';
 
 globalThis.inside = {
   beside, blockFormats, commands, dividePiecesOver, dom, extent, glyphs, history, isWithin,
-  selection, standIns, statusOf,
+  selection, standIns, statusOf, Command, Status,
 };

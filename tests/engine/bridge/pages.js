@@ -135,6 +135,14 @@
     return result;
   }
 
+  const snippets = [
+    () => `<b>${word()}</b>`, () => `<p>${word()}</p>`, () => `<p>${word()}</p><p>${word()}</p>`,
+    () => `<ul><li>${word()}</li><li>${word()}</li></ul>`,
+    () => `<table><tbody><tr><td>${word()}</td></tr></tbody></table>`,
+    () => '<img src="b.png">', () => `<a href="y.htm">${word()}</a>`, word,
+    () => `<h2>${word()}</h2>`,
+  ];
+
   globalThis.pages = {
     seed(number) {
       state = number;
@@ -144,6 +152,8 @@
     below, chance, oneOf,
     // The inside of a body.
     body: () => blocks(2, 3),
+    // Markup to put in at the selection.
+    snippet: () => oneOf(snippets)(),
     word,
   };
 })();

@@ -4,25 +4,36 @@
 (() => {
   'use strict';
 
+  const { Command, Status } = inside;
   const table = '<table><tbody><tr><td>x</td></tr></tbody></table>';
   /** @type {[call: string, ...values: any[]][]} */
   const changes = [
-    ['exec', 5000], ['exec', 5023], ['exec', 5048], ['exec', 5024], ['exec', 5030], ['exec', 5051],
-    ['exec', 5018], ['exec', 5031], ['exec', 5004], ['exec', 5043, 'Heading 2'],
-    ['exec', 5043, 'Normal'], ['exec', 5043, 'Definition'], ['exec', 5045, '18'],
-    ['exec', 5042, '#00FF00'], ['exec', 5046, '#FF0000'], ['exec', 5044, 'Courier New'],
-    ['exec', 5025], ['exec', 5026], ['exec', 5043, 'Formatted'], ['exec', 5043, 'Address'],
-    ['exec', 5043, 'Paragraph'], ['exec', 5043, 'Bulleted List'], ['exec', 5043, 'Numbered List'],
+    ['exec', Command.Bold], ['exec', Command.Italic], ['exec', Command.Underline],
+    ['exec', Command.JustifyCenter], ['exec', Command.OrderList], ['exec', Command.UnorderList],
+    ['exec', Command.Indent], ['exec', Command.Outdent], ['exec', Command.Delete],
+    ['exec', Command.SetBlockFormat, 'Heading 2'], ['exec', Command.SetBlockFormat, 'Normal'],
+    ['exec', Command.SetBlockFormat, 'Definition'], ['exec', Command.SetFontSize, '18'],
+    ['exec', Command.SetBackColor, '#00FF00'], ['exec', Command.SetForeColor, '#FF0000'],
+    ['exec', Command.SetFontName, 'Courier New'], ['exec', Command.JustifyLeft],
+    ['exec', Command.JustifyRight], ['exec', Command.SetBlockFormat, 'Formatted'],
+    ['exec', Command.SetBlockFormat, 'Address'], ['exec', Command.SetBlockFormat, 'Paragraph'],
+    ['exec', Command.SetBlockFormat, 'Bulleted List'],
+    ['exec', Command.SetBlockFormat, 'Numbered List'],
     ['pasteHTML', '<code>x</code>'], ['pasteHTML', '<p>x</p>'],
     ['pasteHTML', table], ['pasteHTML', ''],
   ];
 
   const look = () => ({ html: velor.serialize(), selected: markup.read() });
   // Carried out a second time, the first of these are taken back and the others change nothing.
-  const toggles = new Set([5000, 5023, 5048]);
-  const settled = new Set([5024, 5025, 5026, 5042, 5043, 5044, 5045, 5046]);
+  const toggles = new Set([Command.Bold, Command.Italic, Command.Underline]);
+  // What a page's dialect makes a difference for.
+  const written = new Set([
+    Command.JustifyCenter, Command.JustifyLeft, Command.JustifyRight, Command.SetBackColor,
+    Command.SetFontName, Command.SetFontSize, Command.SetForeColor,
+  ]);
+  const settled = new Set([...written, Command.SetBlockFormat]);
   // Enabled only where they do something.
-  const honest = new Set([5018, 5031]);
+  const honest = new Set([Command.Indent, Command.Outdent]);
 
   // Runs that were joined come back apart in the spelling that they were joined in.
   const spelled = { STRONG: 'B', EM: 'I' };
@@ -56,7 +67,7 @@
     const before = look();
     const runsBefore = runs();
     const [number] = values;
-    const status = name === 'exec' ? inside.statusOf(number) : 3;
+    const status = name === 'exec' ? inside.statusOf(number) : Status.Enabled;
     velor[name](...values);
     velor.state();
     const after = look();
@@ -64,28 +75,25 @@
     if (faults && faults !== faultsBefore) return `${faults}: ${after.selected}`;
     const changed = inside.history.canUndo();
     if (changed !== (after.html !== before.html)) return `step without change: ${after.selected}`;
-    if (honest.has(number) && (status !== 1) !== changed) {
+    if (honest.has(number) && (status !== Status.Disabled) !== changed) {
       return `status ${status}: ${after.selected}`;
     }
     if (!changed) return '';
     const settles = settled.has(number) && values[1] !== 'Definition';
-    if (settles || (toggles.has(number) && status === 3)) {
+    if (settles || (toggles.has(number) && status === Status.Enabled)) {
       velor[name](...values);
       const twice = look().html;
       const back = toggles.has(number) ? runs() === runsBefore : twice === after.html;
       if (!back) return `twice: ${after.selected} then ${look().selected}`;
-      if (inside.history.canUndo() && twice !== after.html) velor.exec(5049);
+      if (inside.history.canUndo() && twice !== after.html) velor.exec(Command.Undo);
     }
-    velor.exec(5049);
+    velor.exec(Command.Undo);
     if (inside.history.canUndo() || !same(look(), before)) return `undo: ${look().selected}`;
     if (markup.told() !== before.html) return `told otherwise: ${markup.told()}`;
-    velor.exec(5033);
+    velor.exec(Command.Redo);
     if (!same(look(), after)) return `redo: ${look().selected}`;
     return markup.told() === after.html ? '' : `told otherwise: ${markup.told()}`;
   }
-
-  // What a page's dialect makes a difference for.
-  const written = new Set([5024, 5025, 5026, 5042, 5044, 5045, 5046]);
 
   const within = (node, selector) =>
     (node.nodeType === Node.ELEMENT_NODE ? node : node.parentElement).closest(selector);

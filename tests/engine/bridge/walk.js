@@ -5,9 +5,13 @@
 (() => {
   'use strict';
 
+  const { Command, Status } = inside;
+  const { Undo: undo, Redo: redo } = Command;
   const { below, chance, oneOf } = pages;
-  const undo = 5049;
-  const redo = 5033;
+  const switches = [Command.Bold, Command.Italic, Command.Underline];
+  const alignments = [Command.JustifyCenter, Command.JustifyLeft, Command.JustifyRight];
+  const values = [
+    Command.SetBackColor, Command.SetFontName, Command.SetFontSize, Command.SetForeColor];
 
   const points = ['8', '14', '24'];
   const colours = ['#FF0000', '#0000FF'];
@@ -17,19 +21,11 @@
 
   // Commands that change looks and structure, never the words.
   const formats = [
-    () => [5000], () => [5023], () => [5048],
-    () => [5024], () => [5025], () => [5026],
-    () => [5030], () => [5051], () => [5018], () => [5031],
-    () => [5043, oneOf(blockNames)], () => [5045, oneOf(points)],
-    () => [5044, oneOf(fonts)], () => [5046, oneOf(colours)], () => [5042, oneOf(colours)],
-  ];
-  const inserted = [
-    () => `<b>${pages.word()}</b>`, () => `<p>${pages.word()}</p>`,
-    () => `<p>${pages.word()}</p><p>${pages.word()}</p>`,
-    () => `<ul><li>${pages.word()}</li><li>${pages.word()}</li></ul>`,
-    () => `<table><tbody><tr><td>${pages.word()}</td></tr></tbody></table>`,
-    () => '<img src="b.png">', () => `<a href="y.htm">${pages.word()}</a>`,
-    () => pages.word(), () => `<h2>${pages.word()}</h2>`,
+    ...[...switches, ...alignments, Command.OrderList, Command.UnorderList, Command.Indent,
+      Command.Outdent].map((number) => () => [number]),
+    () => [Command.SetBlockFormat, oneOf(blockNames)], () => [Command.SetFontSize, oneOf(points)],
+    () => [Command.SetFontName, oneOf(fonts)], () => [Command.SetForeColor, oneOf(colours)],
+    () => [Command.SetBackColor, oneOf(colours)],
   ];
   const keys = [
     'Return', 'Return', 'Return', 'Shift+Return', 'Backspace', 'Backspace', 'Backspace', 'Del',
@@ -55,7 +51,7 @@
     .map((element) => ({ words: wordsOf(element.textContent),
       sign: `${element.id || element.tagName} ${element.getAttribute('href') ?? ''}` }));
   function marksJudged() {
-    if (step.action[0] !== 'exec' || step.action[1] === 5004) return [];
+    if (step.action[0] !== 'exec' || step.action[1] === Command.Delete) return [];
     const now = marks();
     const wordsUnder = (list, sign) =>
       list.filter((mark) => mark.sign === sign).map(({ words }) => words).join('');
@@ -64,7 +60,7 @@
     return lost ? [`${lost.sign} is lost`] : [];
   }
   // Typing and characters' formats leave every line end of the source.
-  const ofCharacters = [5000, 5023, 5042, 5044, 5045, 5046, 5048];
+  const ofCharacters = [...switches, ...values];
   function lineEndsJudged() {
     const [verb, number] = step.action;
     const keeps = verb === 'type' ? step.collapsed
@@ -198,7 +194,7 @@
     const words = wordsOf(document.body.textContent);
     const all = old.before + old.inside + old.behind;
     if (verb === 'exec') {
-      if (value === 5004) {
+      if (value === Command.Delete) {
         const atCaret = !old.inside && (all.length - words.length <= 1 || objects() < count);
         return words === old.before + old.behind || atCaret
           ? [] : ['a deletion took other words'];
@@ -244,27 +240,29 @@
     if (verb !== 'exec') return [];
     const changed = look().html !== step.before.html;
     const faults = [];
-    if (step.status === 1 && changed) faults.push('disabled and done');
-    if ([5018, 5031].includes(number) && step.status !== 1 && !changed) {
+    if (step.status === Status.Disabled && changed) faults.push('disabled and done');
+    const isIndent = [Command.Indent, Command.Outdent].includes(number);
+    if (isIndent && step.status !== Status.Disabled && !changed) {
       faults.push('enabled and nothing done');
     }
-    const toggles = [5000, 5023, 5048, 5030, 5051];
+    const toggles = [...switches, Command.OrderList, Command.UnorderList];
     if (changed && toggles.includes(number)) {
       const now = inside.statusOf(number);
-      if (now !== (step.status === 7 ? 3 : 7)) faults.push(`status ${step.status} became ${now}`);
+      const expected = step.status === Status.Latched ? Status.Enabled : Status.Latched;
+      if (now !== expected) faults.push(`status ${step.status} became ${now}`);
     }
-    if (changed && [5024, 5025, 5026].includes(number) && inside.statusOf(number) !== 7) {
+    if (changed && alignments.includes(number) && inside.statusOf(number) !== Status.Latched) {
       faults.push(`aligned, and the status is ${inside.statusOf(number)}`);
     }
     return faults;
   }
 
   // Twice the same is once.
-  const settled = new Set([5024, 5025, 5026, 5042, 5043, 5044, 5045, 5046]);
+  const settled = new Set([...alignments, ...values, Command.SetBlockFormat]);
   function repeated(now) {
-    const [verb, ...values] = step.action;
-    if (verb !== 'exec' || !settled.has(values[0]) || chance(0.7)) return [];
-    velor.exec(...values);
+    const [verb, number, value] = step.action;
+    if (verb !== 'exec' || !settled.has(number) || chance(0.7)) return [];
+    velor.exec(number, value);
     return look().html === now.html ? [] : [`done twice it gives ${look().selected}`];
   }
 
@@ -343,22 +341,22 @@
       const choice = pages.below(withKeys ? 20 : 12);
       let action;
       if (choice < 8) action = ['exec', ...oneOf(formats)()];
-      else if (choice === 8) action = ['exec', 5004];
-      else if (choice === 9) action = ['pasteHTML', oneOf(inserted)()];
-      else if (choice === 10) action = ['paste', oneOf(inserted)()];
+      else if (choice === 8) action = ['exec', Command.Delete];
+      else if (choice === 9) action = ['pasteHTML', pages.snippet()];
+      else if (choice === 10) action = ['paste', pages.snippet()];
       else if (choice === 11) action = ['travel', oneOf([undo, undo, redo])];
       else if (choice < 15) action = ['type', oneOf(['x', 'y', ' ', ' ', '.'])];
       else action = ['key', oneOf(keys)];
-      const [verb, ...values] = action;
+      const [verb, first, second] = action;
       step = {
         before, action, marks: marks(), parts: parts(), lines: shownLines(), count: objects(),
         collapsed: inside.selection.range()?.collapsed,
         table: inside.selection.control(inside.selection.range())?.tagName === 'TABLE',
-        status: verb === 'exec' ? inside.statusOf(values[0]) : 0,
+        status: verb === 'exec' ? inside.statusOf(first) : 0,
       };
-      if (verb === 'exec' || verb === 'travel') velor.exec(...values);
-      else if (verb === 'pasteHTML') velor.pasteHTML(values[0]);
-      else if (verb === 'paste') markup.paste('text/html', values[0]);
+      if (verb === 'exec' || verb === 'travel') velor.exec(first, second);
+      else if (verb === 'pasteHTML') velor.pasteHTML(first);
+      else if (verb === 'paste') markup.paste('text/html', first);
       else return told(action);
       return '';
     },
