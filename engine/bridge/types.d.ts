@@ -190,6 +190,12 @@ interface Box {
   height?: number;
 }
 
+/**
+ * A change of an object's size and position, in its own pixels: by how much its left upper corner
+ * moves, and its new size with padding and border; what is left out stays.
+ */
+interface Resizing { dx?: number; dy?: number; width?: number; height?: number }
+
 /** What pushState tells, as JSON. */
 interface State {
   version: number;

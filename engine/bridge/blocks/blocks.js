@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The block formats: how a unit's is named and how a unit is given another one.
+// The block formats (Heading 1, Formatted, Bulleted List ...): which one a paragraph has, and how a
+// selection is given another one.
 import * as lists from './lists.js';
 import { beside, isBlank } from '../page/beside.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
 import { become, changeUnits, readUnits, unitsIn } from '../page/units.js';
 
-// In the order in which lists show them. `list` is the element around the items.
-/** @type {{ name: string, element: string, list?: string }[]} */
+/**
+ * The block formats, in the order in which lists show them: the published name, the tag of the
+ * block and, for an item's format, the tag of the list around it.
+ * @type {{ name: string, element: string, list?: string }[]}
+ */
 export const formats = [
   { name: 'Normal', element: 'P' },
   { name: 'Formatted', element: 'PRE' },
@@ -29,6 +33,7 @@ export const formats = [
 ];
 const byName = (name) => formats.find((each) => each.name.toLowerCase() === name.toLowerCase());
 
+// The name of the format that an element gives; null or undefined for none.
 function nameAt(element) {
   const { tagName, parentNode } = element;
   if (/^(LISTING|PLAINTEXT|XMP)$/.test(tagName)) return 'Formatted';
@@ -38,15 +43,27 @@ function nameAt(element) {
   return formats.find(fits)?.name;
 }
 
+/**
+ * The name of a paragraph's block format.
+ * @param {Unit} unit
+ * @returns {string}
+ */
 export function read(unit) {
-  for (let at = unit.home; at && !dom.isCell(at); at = at.parentNode) {
+  /** @type {AnyNode} */
+  let at = unit.home;
+  for (; at && !dom.isCell(at); at = at.parentNode) {
     const name = nameAt(at);
     if (name) return name;
   }
   return 'Normal';
 }
 
-// Line ends show in preformatted text only; elsewhere they are breaks. Kept anchors go along.
+/**
+ * Makes breaks of the line ends in an element that is no preformatted one any more: line ends show
+ * in such text only.
+ * @param {Element} element
+ * @param {SavedSelection} [saved] its anchors move along
+ */
 export function breakLines(element, saved) {
   const goesOn = (text) => {
     if (text.length) return true;
@@ -56,6 +73,7 @@ export function breakLines(element, saved) {
     }
     return Boolean(at) && element.contains(at);
   };
+  /** @type {any[]} */
   const anchors = saved ? [saved.anchor, saved.focus] : [];
   for (let text of dom.textsUnder(element)) {
     for (let at = text.data.indexOf('\n'); at >= 0; at = text.data.indexOf('\n')) {
@@ -73,8 +91,8 @@ export function breakLines(element, saved) {
   }
 }
 
-// White space shows as it stands in preformatted text: what was seen of it is left. The selection's
-// anchors in it go along.
+// Leaves of white space what was seen of it, in an element that becomes preformatted: there all of
+// it shows. The anchors of `saved` move along.
 function collapseBlanks(element, saved) {
   const anchors = saved ? [saved.anchor, saved.focus] : [];
   const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
@@ -95,6 +113,7 @@ function collapseText(text, anchors) {
   }
 }
 
+// Gives one paragraph the block of a format; answers that block, null where nothing is to be done.
 function becomeParagraph(unit, { name, element: tag }, saved) {
   const { block, container } = unit;
   if (block?.tagName === tag) return block;
@@ -111,7 +130,8 @@ function becomeParagraph(unit, { name, element: tag }, saved) {
   return element;
 }
 
-// Several paragraphs are the lines of one preformatted text, or of one address.
+// Joins blocks that are neighbours into one, as lines of it (a preformatted text, an address).
+// `lineEnd` makes what goes between two lines.
 function joinLines(blocks, lineEnd) {
   for (const [index, block] of blocks.entries()) {
     const above = blocks[index - 1];
@@ -128,7 +148,8 @@ const lineEnds = new Map(/** @type {[tag: string, make: () => ChildNode][]} */ (
   ['PRE', () => document.createTextNode('\n')], ['ADDRESS', () => dom.create('BR')],
 ]));
 
-// A format chosen by name takes the place of the one that is there: an item is no heading then.
+// Makes a heading, address or preformatted text a plain paragraph, or bare text of its item where
+// it is all of that: an item is no heading.
 function becomePlain({ block }, saved) {
   if (!block || !dom.isParagraph(block) || /^(P|DT)$/.test(block.tagName)) return;
   const preformatted = dom.isPreformatted(block);
@@ -140,29 +161,38 @@ function becomePlain({ block }, saved) {
   if (alone) dom.unwrap(paragraph);
 }
 
-// A table or a rule that is selected has no text to format.
+/**
+ * False for a table or a rule that is selected as a whole: it has no text to format.
+ * @param {Unit} unit
+ */
 export const takesFormat = ({ object }) =>
   !object || (!dom.isAtom(object) && object.tagName !== 'TABLE');
 
-// Lists of the other kind are left one level at a time.
+// Makes items of the selected paragraphs. Those of definition lists in other lists, and the other
+// way round, leave theirs one level at a time.
 /** @param {{ name: string, element: string, list?: string }} format */
 function makeList({ name, list, element }, saved) {
   for (let level = 0; level < 50; level++) {
     selection.restore(saved);
     const units = unitsIn(selection.range());
     if (units.every((unit) => read(unit) === name)) return;
-    lists.make(readUnits(units), list, element);
+    lists.makeItems(readUnits(units), list, element);
   }
 }
 
+/**
+ * Gives the selected paragraphs a block format and keeps the selection; nothing for an unknown
+ * name.
+ * @param {string} name as published, in any case
+ */
 export function apply(name) {
   const format = byName(name);
   if (!format) return;
   const saved = selection.save();
-  changeUnits(saved, (units) => give(format, units, saved));
+  changeUnits(saved, (units) => applyTo(units, format, saved));
 }
-function give(format, found, saved) {
-  const units = lists.housed(found, saved).filter(takesFormat);
+function applyTo(found, format, saved) {
+  const units = lists.wrapStrayText(found, saved).filter(takesFormat);
   if (!units.length) return;
   if (units.every((unit) => read(unit) === format.name)) return;
   if (format.list) {

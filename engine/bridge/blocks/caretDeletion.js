@@ -12,7 +12,7 @@ import { beside } from '../page/beside.js';
 import * as selection from '../page/selection.js';
 import { unitsIn } from '../page/units.js';
 
-// An element without content that takes no room either.
+// True for an element without content that takes no room on the screen.
 const isNothing = (node) => dom.isElement(node) && !dom.hasContent(node) &&
   node.getBoundingClientRect().height * node.getBoundingClientRect().width === 0;
 // Drops what is nothing between two paragraphs, less what may be a link's target.
@@ -59,7 +59,7 @@ const isWithinText = ({ startContainer: node, startOffset: offset, collapsed }, 
   collapsed && dom.isText(node) &&
   (side === 'start' ? node.data.slice(0, offset) : node.data.slice(offset)).trim() !== '';
 
-// The picture, the island and the like beside a caret; null for none.
+// The picture, island or other object beside a caret; null for none.
 function objectBeside({ startContainer, startOffset }, side) {
   const found = beside(
     startContainer, startOffset, side === 'start' ? 'previousSibling' : 'nextSibling');
@@ -86,9 +86,10 @@ export function deletionAtCaret(range, side) {
   return isAtEdge(range, unit, side) ? deletionAtEdge(unit, side) : null;
 }
 
+// The same at the edge of a paragraph.
 function deletionAtEdge(unit, side) {
   const back = side === 'start';
-  if (back && startsItem(unit)) return () => lists.leave(unit);
+  if (back && startsItem(unit)) return () => lists.outdentItemOf(unit);
   const edge = unit.block || (back ? unit.nodes[0] : unit.nodes.at(-1)) || unit.container;
   const leaf = leafBeside(edge, back ? 'previousSibling' : 'nextSibling');
   if (!leaf || leaf.tagName === 'TABLE') return () => {};
@@ -118,7 +119,7 @@ function emptyLine({ block, nodes, container }, side) {
   return side === 'start' || !inner || dom.isBreak(inner) ? edge : null;
 }
 
-// White space at the edges that meet would show as a blank.
+// Deletes the white space at the two edges that are about to meet, where it would show as a blank.
 function trimEdges(first, second) {
   blanks.trimEdges(first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null,
     second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null);

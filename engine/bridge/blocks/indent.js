@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Indenting: text by BLOCKQUOTE, items by nesting them in the item before.
+// Indenting and outdenting. A paragraph is indented by a BLOCKQUOTE around it, an item by moving it
+// into a list in the item before it.
 import * as lists from './lists.js';
 import * as dom from '../page/dom.js';
 import { enclose, partsOf } from '../page/units.js';
@@ -15,14 +16,16 @@ const inList = (unit) => {
 const quoteAround = (node) =>
   dom.ancestor(node, isQuote, (at) => dom.isCell(at) || at.tagName === 'LI');
 const quoteOf = (unit) => quoteAround(unit.home);
-// The quote that holds a list whose first item is meant: indenting such an item made it.
-const quoteOfList = ([item]) => {
-  const list = item.parentNode;
-  const first = !dom.neighbour(item, 'previousSibling');
+// The quote around the list whose first item this is; null for any other item. Indenting a first
+// item has put that quote there, since such an item has none before it.
+/** @param {AnyNode[]} group */
+const quoteOfList = (group) => {
+  const list = group[0].parentNode;
+  const first = !dom.neighbour(group[0], 'previousSibling');
   return first && isQuote(list.parentNode) ? list.parentNode : null;
 };
 
-// Lines without a block of their own would run into one where two of them meet.
+// True where two quotes meet with lines without a block of their own, which would become one line.
 const runsOn = (one, other) => {
   const edges = [[...one.childNodes].reverse(), [...other.childNodes]]
     .map((nodes) => nodes.find(dom.isShown));
@@ -31,8 +34,8 @@ const runsOn = (one, other) => {
 
 const enquote = (parts) => dom.wrap(parts, dom.create('BLOCKQUOTE'));
 
-// Joins a quote with those beside it.
-function join(quote) {
+// Joins a new quote with the quotes beside it that have no attributes.
+function joinQuotes(quote) {
   const before = dom.neighbour(quote, 'previousSibling');
   if (isQuote(before) && !before.attributes.length && !runsOn(before, quote)) {
     dom.absorb(before, quote);
@@ -44,6 +47,10 @@ function join(quote) {
   }
 }
 
+/**
+ * Indents paragraphs by one level. Neighbours come into one quote.
+ * @param {Unit[]} units
+ */
 export function indent(units) {
   const made = [];
   const loose = units.filter((unit) => !inList(unit));
@@ -74,7 +81,7 @@ export function indent(units) {
     run.push(...parts);
   }
   flush();
-  made.filter((quote) => quote.isConnected).forEach(join);
+  made.filter((quote) => quote.isConnected).forEach(joinQuotes);
 }
 
 // The child of an element that a node lies in.
@@ -83,18 +90,20 @@ function childOf(element, node) {
   return node;
 }
 
-// Cuts the parts out of their quote and puts them where it stands.
+// Takes parts out of their quote, to where it stands; what is before and behind them stays in a
+// quote.
 function unquote(quote, parts) {
   const first = childOf(quote, parts[0]);
   const behind = dom.neighbour(childOf(quote, parts.at(-1)), 'nextSibling');
   let middle = quote;
   if (behind) dom.splitBefore(behind, middle);
   if (dom.neighbour(first, 'previousSibling')) middle = dom.splitBefore(first, middle);
-  keepApart(middle);
+  wrapEdgeLines(middle);
   dom.unwrap(middle);
 }
-// Lines without a block that leave a quote beside others become paragraphs.
-function keepApart(quote) {
+// Makes paragraphs of a quote's first and last line without a block, where another such line stands
+// beside the quote: without the quote they would be one.
+function wrapEdgeLines(quote) {
   const isLine = (node) => Boolean(node) && !dom.isBlock(node) && !dom.isBreak(node);
   /** @type {[edge: 'firstChild' | 'lastChild', outer: Side, inner: Side][]} */
   const ends = [['firstChild', 'previousSibling', 'nextSibling'],
@@ -108,6 +117,10 @@ function keepApart(quote) {
   }
 }
 
+/**
+ * Takes paragraphs one level out: items out of their list, others out of their quote.
+ * @param {Unit[]} units
+ */
 export function outdent(units) {
   for (const group of lists.groupsOf(units)) {
     const quote = quoteOfList(group);
@@ -121,7 +134,7 @@ export function outdent(units) {
     else if (quote?.isConnected) unquote(quote, parts);
   }
 }
-// What leaves its quote together: the units that are neighbours in it.
+// The runs of nodes that leave their quote together: the paragraphs that are neighbours in it.
 function quotedRuns(units) {
   const runs = [];
   let last = null;
@@ -142,5 +155,9 @@ function quotedRuns(units) {
   return runs;
 }
 
+/**
+ * True for a paragraph that is in a list or in a quote.
+ * @param {Unit} unit
+ */
 export const canOutdent = (unit) => Boolean(lists.itemOf(unit) || quoteOf(unit));
 

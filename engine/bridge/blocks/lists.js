@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Lists: made of paragraphs, changed into another kind, moved in and out, taken apart again.
+// Lists: paragraphs become items, a list becomes one of another kind, items go a level deeper or
+// higher, items become paragraphs again. A *group* is a run of items that are neighbours in one
+// list; what is done to it is done to all of them at once. `outer` is the tag of a list (OL, UL,
+// DIR, MENU, DL), `inner` the tag of its items (LI, DT, DD).
 import { moveBlankAbove } from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -10,16 +13,21 @@ import { dropInnerLines } from '../page/sourceLines.js';
 import { enclose, itemAround, unitsIn } from '../page/units.js';
 
 const isListOf = (node) => dom.isElement(node) && (dom.isList(node) || node.tagName === 'DL');
+/** True for LI, DT or DD that is directly in a list. */
 export const isItem = (node) =>
   dom.isElement(node) && /^(LI|DT|DD)$/.test(node.tagName) && isListOf(node.parentNode);
+/**
+ * The item that a paragraph is in; null for none.
+ * @param {Unit} unit
+ */
 export const itemOf = (unit) => itemAround(unit, isItem);
 
 const itemsIn = (list) => [...list.children].filter(isItem);
 
 const itemsOf = (units) => new Set(units.map(itemOf).filter(Boolean));
 
-// Items in document order, grouped by neighbourhood.
-function grouped(items) {
+// The groups that items in document order make.
+function groupNeighbours(items) {
   const groups = new Map();  // by their last items
   for (const item of items) {
     const before = dom.neighbour(item, 'previousSibling');
@@ -31,19 +39,24 @@ function grouped(items) {
   return [...groups.values()];
 }
 
-// The groups of the units' items, those in another one of them left out.
+/**
+ * The groups of the items that the paragraphs are in, less the items that lie in another one of
+ * them: those go along with it.
+ * @param {Unit[]} units
+ * @returns {AnyNode[][]}
+ */
 export function groupsOf(units) {
   const items = itemsOf(units);
   const within = (item) => {
     for (let at = item.parentNode; at; at = at.parentNode) if (items.has(at)) return true;
     return false;
   };
-  return grouped([...items].filter((item) => !within(item)));
+  return groupNeighbours([...items].filter((item) => !within(item)));
 }
 
-// Old pages have lists directly in lists: such a list belongs to the item before it, or to one of
-// its own. What is touched is put right.
-function adopt(list) {
+// Old pages have lists directly in lists. Moves such a list into the item before it, or into an
+// item of its own where there is none; the same for the lists around it.
+function moveIntoItem(list) {
   while (dom.isElement(list?.parentNode) && dom.isList(list) && dom.isList(list.parentNode)) {
     const before = dom.neighbour(list, 'previousSibling');
     if (isItem(before)) before.append(list);
@@ -52,8 +65,8 @@ function adopt(list) {
   }
 }
 
-// Cuts a list so that the group is all that it holds; returns that list.
-function isolate(group) {
+// Cuts a list in up to three, so that the group is all that one of them holds; answers that one.
+function cutOutList(group) {
   let list = group[0].parentNode;
   const behind = dom.neighbour(group.at(-1), 'nextSibling');
   if (behind) dom.splitBefore(behind, list);
@@ -61,12 +74,12 @@ function isolate(group) {
   return list;
 }
 
-/** True where the second of two lists beside each other can be joined to the first. */
+/** True where the second of two neighbouring lists can be joined to the first one. */
 export const isContinuation = (first, second) =>
   dom.isElement(first) && dom.isElement(second) && first.tagName === second.tagName &&
   (dom.sameAttributes(first, second) || !second.attributes.length);
 
-// Joins a list with the lists beside it that it continues, or that continue it.
+// Joins a list with the lists beside it, where they are alike; answers the list that is left.
 function joinNeighbours(list) {
   const before = dom.neighbour(list, 'previousSibling');
   const after = dom.neighbour(list, 'nextSibling');
@@ -78,8 +91,8 @@ function joinNeighbours(list) {
   return list;
 }
 
-// An item's alignment is carried by a division in it.
-function alignInside(item) {
+// Moves an item's `align` to a new division around its content: an item has none.
+function moveAlignInside(item) {
   const side = item.getAttribute('align');
   if (!side) return;
   history.attributesOf(item);
@@ -89,15 +102,16 @@ function alignInside(item) {
   item.append(division);
 }
 
-// A box with a place of its own stays where it is; its text becomes the item.
+// A box outside the flow of the text stays where it is; its text becomes the item.
 const isBox = ({ block, nodes }) =>
   nodes.length > 0 && block?.tagName === 'DIV' && dom.isObject(block);
 
+// Makes an item of one paragraph, not in any list yet; answers the item.
 function makeItem(unit, inner) {
   const block = isBox(unit) ? null : unit.block;
   if (block && (block.tagName === 'P' || block.tagName === 'DIV')) {
     const item = dom.rename(block, inner);
-    alignInside(item);
+    moveAlignInside(item);
     return item;
   }
   const item = dom.create(inner);
@@ -105,14 +119,20 @@ function makeItem(unit, inner) {
   return enclose(unit, item);
 }
 
-// Makes every unit an item `inner` of a list `outer`.
-export function make(units, outer, inner) {
+/**
+ * Makes every paragraph an item of a list of that kind. Items of another kind of list change kind
+ * with their list, which is cut for that where it holds others too.
+ * @param {Unit[]} units
+ * @param {string} outer
+ * @param {string} inner
+ */
+export function makeItems(units, outer, inner) {
   const definition = outer === 'DL';
-  const fits = ([item]) => item.parentNode.tagName === 'DL' === definition;
-  const loose = groupsOf(units).filter((group) => !fits(group)).flatMap(release);
-  for (const group of grouped(itemsOf(units)).filter(fits)) {
+  const fits = (group) => group[0].parentNode.tagName === 'DL' === definition;
+  const loose = groupsOf(units).filter((group) => !fits(group)).flatMap(takeOutOfList);
+  for (const group of groupNeighbours(itemsOf(units)).filter(fits)) {
     if (definition) group.forEach((item) => dom.rename(item, inner));
-    else convert(group, outer);
+    else changeListKind(group, outer);
   }
   // A term holds no list.
   const asItem = (block) =>
@@ -121,20 +141,22 @@ export function make(units, outer, inner) {
     (unit.block ?? unit.container).isConnected);
   const items = [...loose.map(asItem), ...fresh.map((unit) => makeItem(unit, inner))];
   const isInList = (item) => isListOf(item.parentNode);
-  gather(items.filter((item) => !isInList(item)).sort(inOrder), outer);
+  wrapInLists(items.filter((item) => !isInList(item)).sort(inOrder), outer);
   // What stood in a list without being an item of it.
-  grouped(items.filter(isInList).sort(inOrder)).forEach((group) => convert(group, outer));
+  groupNeighbours(items.filter(isInList).sort(inOrder))
+    .forEach((group) => changeListKind(group, outer));
 }
-function convert(group, outer) {
+// Cuts the group's list out and makes it a list of that kind.
+function changeListKind(group, outer) {
   if (group[0].parentNode.tagName === outer) return;
-  adopt(group[0].parentNode);
-  joinNeighbours(dom.rename(isolate(group), outer));
+  moveIntoItem(group[0].parentNode);
+  joinNeighbours(dom.rename(cutOutList(group), outer));
 }
 const inOrder = (one, other) =>
   (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1);
 
-// Puts neighbouring items that stand outside any list into one.
-function gather(items, outer) {
+// Puts items that stand in no list into new ones: neighbours into one list.
+function wrapInLists(items, outer) {
   let list = null;
   let last = null;
   for (const item of items) {
@@ -153,7 +175,7 @@ function gather(items, outer) {
 // A division that is a line of an item.
 const isLine = (node) => dom.isPlainDivision(node) && ![...node.children].some(dom.isBlock);
 
-// Makes items that stand in no list into paragraphs; returns those.
+// Makes an item into paragraphs, in the place where it stands; answers those.
 function toParagraphs(item) {
   const shown = [...item.childNodes].filter(dom.isShown);
   const [only] = shown;
@@ -185,25 +207,26 @@ function toParagraphs(item) {
   return blocks;
 }
 
-// Takes items of one list out of it, to where the list stands; returns the paragraphs.
-function release(group) {
-  const list = isolate(group);
+// Makes the items of a group into paragraphs where their list stands; answers the paragraphs.
+function takeOutOfList(group) {
+  const list = cutOutList(group);
   const paragraphs = group.flatMap(toParagraphs);
   dropInnerLines(list);
   dom.unwrap(list);
   return paragraphs;
 }
 
-// What followed items that leave their list becomes theirs, or stays on its level in an item of its
-// own. Returns the item that it is in.
-function toLast(last, list, tail) {
+// Two ways for the items that followed a group which leaves its list (`tail`): they become a list
+// in the group's last item, or stay as deep as they are, in a new item behind it. Both answer the
+// item that the tail is in.
+function putTailIntoLast(last, list, tail) {
   const isWhole = itemsIn(list).every((item) => tail.includes(item));
   const own = [...last.childNodes].filter(dom.isShown).at(-1);
   if (isWhole && own?.tagName !== list.tagName) last.append(list);
-  else sublist(last, list).append(...tail);
+  else sublistAtEnd(last, list).append(...tail);
   return last;
 }
-function toOwnItem(last, list, tail) {
+function putTailIntoNewItem(last, list, tail) {
   const rest = dom.twin(list);
   rest.append(...tail);
   const item = dom.create('LI');
@@ -212,8 +235,8 @@ function toOwnItem(last, list, tail) {
   return item;
 }
 
-// Moves items of a nested list one level out.
-function lift(group, putTail) {
+// Moves a group of a nested list one level out. `putTail` is one of the two functions above.
+function moveOneLevelOut(group, putTail) {
   const list = group[0].parentNode;
   const outer = list.parentNode;
   const last = group.at(-1);
@@ -230,7 +253,8 @@ function lift(group, putTail) {
   if (outer.tagName === 'LI' && !dom.hasContent(outer) && !holdsNamed(outer)) outer.remove();
 }
 
-// What followed a list as text would run into the text of the item that takes it in.
+// Nodes that are to stand behind the content of an item, their first line in a division where it
+// would run into the item's text else.
 function ownLine(item, nodes) {
   const ends = [...item.childNodes].reverse().find(dom.isShown);
   const bare = (node) => !dom.isBlock(node);
@@ -240,8 +264,8 @@ function ownLine(item, nodes) {
   return [dom.wrap(line, dom.create('DIV')), ...nodes.slice(line.length)];
 }
 
-// The list at an item's end that takes further items of a list's kind.
-function sublist(item, like) {
+// The list of a kind (that of `like`) at an item's end, made where there is none.
+function sublistAtEnd(item, like) {
   const shown = [...item.childNodes].filter(dom.isShown).at(-1);
   if (shown?.tagName === like.tagName) return shown;
   const list = dom.create(like.tagName);
@@ -254,36 +278,54 @@ const isNested = (item) => {
   return outer.tagName === 'LI' || dom.isList(outer);
 };
 
-// Nests items in the item before them. False for the first items of a list, which have none.
+/**
+ * Moves a group into a list in the item before it. False for the first items of a list, which have
+ * no item before them: nothing is changed then.
+ * @param {AnyNode[]} group
+ * @returns {boolean}
+ */
 export function nest(group) {
-  adopt(group[0].parentNode);
+  moveIntoItem(group[0].parentNode);
   const beside = dom.neighbour(group[0], 'previousSibling');
-  if (dom.isList(beside)) adopt(beside);
+  if (dom.isList(beside)) moveIntoItem(beside);
   const before = dom.neighbour(group[0], 'previousSibling');
   if (!isItem(before)) return false;
-  sublist(before, group[0].parentNode).append(...group);
+  sublistAtEnd(before, group[0].parentNode).append(...group);
   return true;
 }
 
-// What has no text may be an icon, a link or a link's target.
+// True for an item that is kept though it has no text: it may hold an icon, a link or a link's
+// target.
 const holdsNamed = (item) => item.querySelector('[id], [name], [href], [class]') !== null;
 
-export function outdent(group, putTail = toLast) {
-  adopt(group[0].parentNode);
-  if (group[0].tagName === 'LI' && isNested(group[0])) lift(group, putTail);
-  else release(group);
+/**
+ * Takes a group one level out: to the list around its list, or out of all lists as paragraphs.
+ * @param {AnyNode[]} group
+ * @param {(last: Element, list: Element, tail: Node[]) => Element} [putTail] where the items go
+ *   that followed the group in its list
+ */
+export function outdent(group, putTail = putTailIntoLast) {
+  moveIntoItem(group[0].parentNode);
+  if (group[0].tagName === 'LI' && isNested(group[0])) moveOneLevelOut(group, putTail);
+  else takeOutOfList(group);
 }
 
-// Takes the item that the caret is in one level out.
-export function leave(unit) {
+/**
+ * Takes the item that a paragraph is in one level out. The selection stays in the text it is in.
+ * @param {Unit} unit
+ */
+export function outdentItemOf(unit) {
   const saved = selection.save();
   groupsOf([unit]).forEach((group) => outdent(group));
   selection.restore(saved);
 }
 
-// Cuts an item in two at the caret, where its text stands in a block with more behind it: the
-// engine would take the text past that.
-export function split(item) {
+/**
+ * Cuts an item in two at the caret, which is at the start of the second one then. For an item whose
+ * text stands in a block with more behind it: the engine would move the text past that.
+ * @param {AnyNode} item
+ */
+export function splitItem(item) {
   const mark = document.createTextNode('');
   selection.range().insertNode(mark);
   dom.splitBefore(mark, item);
@@ -297,21 +339,28 @@ export function split(item) {
   selection.setCaret(...selection.pointOf(selection.startOf(below)));
 }
 
-// Takes every unit of the selection out of all lists. Elements change on the way, so the units
-// are read anew for each level.
+/**
+ * Takes every paragraph of the selection out of all lists. Elements change on the way, so the
+ * paragraphs are read anew for each level.
+ */
 export function unlist() {
   for (let level = 0; level < 50; level++) {
     const groups = groupsOf(unitsIn(selection.range()));
     if (!groups.length) return;
     const saved = selection.save();
-    groups.forEach((group) => outdent(group, toOwnItem));
+    groups.forEach((group) => outdent(group, putTailIntoNewItem));
     selection.restore(saved);
   }
 }
 
-// Old pages have text directly in lists: what is touched becomes an item. Returns the units as they
-// are then.
-export function housed(units, saved) {
+/**
+ * Old pages have text directly in lists. Makes an item of such text among the paragraphs, and puts
+ * the selection back to `saved`. Answers the selection's paragraphs as they are then.
+ * @param {Unit[]} units
+ * @param {SavedSelection} saved
+ * @returns {Unit[]}
+ */
+export function wrapStrayText(units, saved) {
   const stray = units.filter(({ container, nodes }) => dom.isList(container) && nodes.length);
   if (!stray.length) return units;
   stray.forEach(({ nodes }) => dom.wrap(nodes, dom.create('LI')));
@@ -319,7 +368,12 @@ export function housed(units, saved) {
   return unitsIn(selection.range());
 }
 
-export const tagOf = (unit) => {
+/**
+ * The tag of the list that a paragraph is an item of; null for none, and for a definition list.
+ * @param {Unit} unit
+ * @returns {string | null}
+ */
+export const listTagOf = (unit) => {
   const item = itemAround(unit);
   return item && dom.isList(item.parentNode) ? item.parentNode.tagName : null;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// What is made ready before the engine types, and typing over selected text.
+// Typing. The engine puts typed text in; what is done here is what it needs before it can (a line,
+// a paragraph, an empty selection), and all of it where text is typed over selected text or in a
+// link.
 import { deleteRange, deleteToLine, deleteToPoint } from './deletion.js';
 import { narrowSelection } from './extent.js';
 import { formats } from '../formats/formats.js';
@@ -14,11 +16,11 @@ import * as selection from '../page/selection.js';
 import { addTyped, noBreak, resolveAll } from '../page/standIns.js';
 import { enclose, gapAt, unitsIn } from '../page/units.js';
 
-// Input that fills an empty paragraph, so that nothing need keep it open any more.
+// inputType of input after which an empty paragraph has text: its holder is not needed any more.
 const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']);
 
-// Bare text becomes a paragraph before it is split; so does the first text of an empty page. What
-// has a name is there once, with the paragraph in it.
+// True where bare text has to become a paragraph before the input: it is about to be split, or it
+// is the first text of an empty page. A block with an id is not split: the paragraph is made in it.
 function needsParagraph(unit, { inputType }) {
   if (!unit || !dom.isBare(unit.container)) return false;
   const empty = () => unit.container === document.body && dom.isHollow(document.body);
@@ -26,6 +28,7 @@ function needsParagraph(unit, { inputType }) {
   if (inputType !== 'insertParagraph' && (!begins || !empty())) return false;
   return !unit.block || unit.block.id !== '';
 }
+// Puts a paragraph around bare text, or an empty one where there is no text; the caret stays.
 function makeParagraph(unit) {
   const saved = selection.save();
   const paragraph = enclose(unit, dom.create('P'));
@@ -38,14 +41,16 @@ function makeParagraph(unit) {
 }
 
 /**
- * A paragraph at a point where no line is, as before a table.
+ * Makes an empty paragraph, with the caret in it, at a point where no line is (before a table).
  * @param {Point} point
  */
 export function makeLine([node, offset]) {
   openParagraph((paragraph) => node.insertBefore(paragraph, node.childNodes[offset] ?? null));
 }
 
-// The no-break space that is all a paragraph or cell holds, which keeps an empty one open.
+// A *holder* is the no-break space that is all a paragraph or cell holds: pages have it there so
+// that an empty one is seen. Answers the one at the caret; null for none, and for one that was
+// typed.
 const isHolder = (text) => /^[ \t\n]*\u00a0[ \t\n]*$/.test(text.data);
 function holderOf(unit, { startContainer }) {
   if (dom.isText(startContainer) && !isHolder(startContainer)) return null;
@@ -58,8 +63,8 @@ function holderOf(unit, { startContainer }) {
   return isHolder(at) && !blanks.wasTypedIn(at) ? at : null;
 }
 
-// Takes that no-break space away, where the caret is beside it, for what comes in its place.
-export function emptyHolder() {
+/** Deletes the holder that the caret is beside; something else is about to come in its place. */
+export function dropHolder() {
   const caret = selection.range();
   const holder = caret?.collapsed ? holderOf(unitsIn(caret)[0], caret) : null;
   if (!holder) return;
@@ -70,12 +75,12 @@ export function emptyHolder() {
   selection.setCaret(parentNode, index);
 }
 
-// All of the page: what is typed over it begins a new one.
+// True where all of the page is selected: what is typed over it has no looks from before.
 const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
   startContainer === document.body && endContainer === document.body && startOffset === 0 &&
   endOffset === document.body.childNodes.length;
 
-// The formats that elements around a text give it, each with its value there.
+// The character formats that inline elements around a text give it: pairs of name and value.
 function looksOf(text) {
   const around = [];
   for (let at = text.parentNode; !dom.isBlock(at); at = at.parentNode) around.push(at);
@@ -83,8 +88,12 @@ function looksOf(text) {
     .map(([name, format]) => [name, format.read(text.parentNode)]);
 }
 
-// Deletes what is selected. What is typed next looks as the first of it did, where it is typed in
-// the same paragraph: its formats wait at the caret. All of the page leaves none.
+/**
+ * Deletes what is selected and puts the caret into a line. The formats of the first deleted text
+ * wait at the caret for what is typed next (formats/pending.js), where that is in the same
+ * paragraph; not where all of the page is deleted.
+ * @param {Range} range the selected one
+ */
 export function deleteKeepingLooks(range) {
   const [text] = isAll(range) || selection.control(range) ? [] : selection.textsIn(range);
   const looks = text ? looksOf(text) : [];
@@ -99,17 +108,22 @@ export function deleteKeepingLooks(range) {
   }
 }
 
-export function prepare(event) {
+/**
+ * Makes the caret ready for input that the engine is about to carry out: deletes what is selected,
+ * makes a line or paragraph where there is none, and selects a holder so that the text replaces it.
+ * @param {{ inputType: string }} event
+ */
+export function prepareCaret(event) {
   const range = selection.range();
   if (!range) return;
   if (!range.collapsed) {
     const object = selection.control(range);
-    // A table is nothing to type over.
-    const behind = object?.tagName === 'TABLE' && !isAll(range) && objects.entering(object);
-    if (behind) behind();
-    const gaveWay = Boolean(behind) || (object && objects.giveWay(object));
+    // Nobody types over a table: the text goes into a new paragraph behind it.
+    const goBehind = object?.tagName === 'TABLE' && !isAll(range) && objects.enterActionOf(object);
+    if (goBehind) goBehind();
+    const isGone = Boolean(goBehind) || (object && objects.replaceByLine(object));
     if (event.inputType === 'insertCompositionText' && !object) deleteKeepingLooks(range);
-    else if (!gaveWay) deleteToPoint(range);
+    else if (!isGone) deleteToPoint(range);
   }
   const caret = selection.range();
   const gap = gapAt(caret);
@@ -125,14 +139,14 @@ export function prepare(event) {
 
 const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
 
-// Where typing over a part of a link ended: what follows belongs to it, while the engine would go
-// on behind the link.
+// The point behind text that was typed over a part of a link. What is typed there next belongs to
+// the link too; the engine would put it behind the link.
 /** @type {TextAnchor | null} */
 let linkEnd = null;
 const isInLink = ({ collapsed, startContainer, startOffset }) =>
   collapsed && linkEnd?.node === startContainer && linkEnd.offset === startOffset;
 
-// Where the first selected text begins to be selected; null where something else comes first.
+// The start of the first selected text; null where something else is selected before it.
 /** @returns {TextAnchor | null} */
 function firstSelectedText(range) {
   const [node] = selection.textsIn(range);
@@ -142,13 +156,14 @@ function firstSelectedText(range) {
   return leaf === node ? { node, offset: 0 } : null;
 }
 
-// In a link that holds blocks the engine would type behind it, and cut the link to pieces for that.
+// The caret as a point in a text, where it is in a link that holds blocks; null elsewhere. The engine
+// would type behind such a link, and cut it to pieces for that.
 function inLinkOfBlocks({ startContainer, startOffset }) {
   if (!dom.isText(startContainer) || !dom.blockOf(startContainer).closest('a[href]')) return null;
   return { node: startContainer, offset: startOffset };
 }
 
-// Answers the offset behind what was put in.
+// Puts typed text into a text; answers the offset behind it.
 /**
  * @param {string} data
  * @param {TextAnchor} at
@@ -160,9 +175,14 @@ function insertAt(data, { node, offset }) {
   return offset + data.length;
 }
 
-// Types over selected text where the first of it stood, so that what is typed has its looks. The
-// engine would write them anew in markup of its own. False where no text is selected.
-export function over(data) {
+/**
+ * Types text in place of the selected text, into the node of the first of it, so that it has the
+ * looks of that; the engine would write them anew in markup of its own. Goes on in a link after
+ * such typing. False where it does neither: the engine types then.
+ * @param {string | null} data
+ * @returns {boolean}
+ */
+export function typeOver(data) {
   if (!data || !selection.range()) return false;
   narrowSelection(selection.range());
   const range = selection.range();
@@ -181,8 +201,10 @@ export function over(data) {
   return true;
 }
 
-// Something was typed at the caret.
-export function done() {
+/**
+ * Notes that the text at the caret was typed in: a no-break space that is all of it is no holder.
+ */
+export function noteTyped() {
   const { anchorNode } = selection.points();
   if (anchorNode) blanks.noteTyped(anchorNode);
 }

@@ -3,7 +3,7 @@
 // Markup put in at the selection exactly as it stands: scripts, handlers, comments and objects stay
 // in it (nothing of it runs while a page is edited).
 import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
-import { emptyHolder } from '../blocks/typing.js';
+import { dropHolder } from '../blocks/typing.js';
 import { closed, joinsFor } from './openEnds.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
@@ -186,7 +186,7 @@ function dropTakenIds(fragment) {
 // Removes what the fragment replaces; only then is it known which ids are free.
 function makeRoom(range, fragment) {
   const object = selection.control(range);
-  const gone = object && fragment.firstChild && objects.giveWay(object);
+  const gone = object && fragment.firstChild && objects.replaceByLine(object);
   if (!gone && !range.collapsed && !fragment.firstChild) deleteToLine(range);
   else if (!gone && !range.collapsed) deleteToPoint(range);
   dropTakenIds(fragment);
@@ -201,7 +201,7 @@ export const put = (fragment, open = closed) => {
   const replaces = !selection.range().collapsed;
   if (replaces) resolveAll();
   house(fragment, selection.range().startContainer);
-  if (fragment.firstChild) emptyHolder();
+  if (fragment.firstChild) dropHolder();
   makeRoom(selection.range(), fragment);
   if (!fragment.firstChild) return;
   blanks.watch();

@@ -81,7 +81,7 @@ function replaceSelection() {
     own();
     return;
   }
-  typing.prepare({ inputType: 'insertParagraph' });
+  typing.prepareCaret({ inputType: 'insertParagraph' });
   byEngine('insertParagraph');
   tidySplit();
 }
@@ -92,13 +92,14 @@ function enterInItem(unit) {
   const item = lists.itemOf(unit);
   if (!item) return null;
   const isAlone = unit.block && [...item.childNodes].filter(dom.isShown).length === 1;
-  if (dom.isHollow(item) || (isAlone && dom.isHollow(unit.block))) return () => lists.leave(unit);
+  const isEmpty = dom.isHollow(item) || (isAlone && dom.isHollow(unit.block));
+  if (isEmpty) return () => lists.outdentItemOf(unit);
   const others = [...item.children].filter((child) => child !== unit.block && dom.isBlock(child));
   const goesOn = unit.block
     ? /^(P|DIV)$/.test(unit.block.tagName) && unit.block.parentNode === item &&
       dom.neighbour(unit.block, 'nextSibling')
     : unit.container === item && others.some((child) => !dom.isList(child));
-  return goesOn ? () => lists.split(item) : null;
+  return goesOn ? () => lists.splitItem(item) : null;
 }
 
 function enterInLine(range) {
@@ -120,8 +121,8 @@ export function ownEnter() {
   if (!range) return null;
   if (preAt(range) && !spansUnits(range)) return breakLine;
   const object = selection.control(range);
-  const entering = object && objects.entering(object);
-  if (entering) return entering;
+  const action = object && objects.enterActionOf(object);
+  if (action) return action;
   return range.collapsed ? enterInLine(range) : replaceSelection;
 }
 

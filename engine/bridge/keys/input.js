@@ -85,12 +85,12 @@ export function beforeInput(event) {
   }
   const kind = kindOf(event);
   history.expect(kind, joins(event, kind));
-  if (inputType === 'insertText' && work(() => typing.over(event.data))) {
+  if (inputType === 'insertText' && work(() => typing.typeOver(event.data))) {
     event.preventDefault();
     input(event);
     return;
   }
-  if (inputType.startsWith('insert') && kind !== 'drag') work(() => typing.prepare(event));
+  if (inputType.startsWith('insert') && kind !== 'drag') work(() => typing.prepareCaret(event));
   work(() => blanks.watch(inputType, event.getTargetRanges()[0]));
 }
 
@@ -103,7 +103,7 @@ export function input(event) {
   work(() => blanks.engineDone({ inputType: begins ? 'insertText' : inputType, data }));
   if (inputType === 'insertParagraph') work(tidySplit);
   if (inputType === 'insertText') work(() => pending.typed(data));
-  typing.done();
+  typing.noteTyped();
   work(() => blanks.watched({ inputType, data }));
   pending.moved();
   history.arrive();

@@ -49,7 +49,7 @@ export function tab(backwards) {
   const cell = cellAtCaret();
   if (!cell) {
     const [unit] = unitsIn(selection.range());
-    if (unit && lists.tagOf(unit)) exec(backwards ? Command.Outdent : Command.Indent);
+    if (unit && lists.listTagOf(unit)) exec(backwards ? Command.Outdent : Command.Indent);
     return;
   }
   const next = cellBeside(cell, backwards ? -1 : 1);

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Where things of the page lie in the viewport, in its pixels. The engine tells boxes in the pixels
-// of the element, which a `zoom` of the page's own makes larger ones.
+// Where things of the page lie in the viewport, in its pixels. The engine gives boxes in pixels of
+// the element; where the page sets `zoom`, one of those is several of the viewport's.
 
-// Engines that have this property tell boxes in pixels of the viewport.
-const tellsViewport = 'currentCSSZoom' in Element.prototype;
+// Engines that have this property give boxes in pixels of the viewport.
+const givesViewportPixels = 'currentCSSZoom' in Element.prototype;
 
+/**
+ * What a length of the engine's is multiplied by to be one of the viewport.
+ * @param {Element} element
+ */
 export function zoomOf(element) {
   let zoom = 1;
-  if (tellsViewport) return zoom;
+  if (givesViewportPixels) return zoom;
   for (let at = element; at; at = at.parentElement) zoom *= Number(getComputedStyle(at).zoom) || 1;
   return zoom;
 }
@@ -17,9 +21,16 @@ const scaled = ({ left, top, width, height }, zoom) => ({
   left: left * zoom, top: top * zoom, right: (left + width) * zoom, bottom: (top + height) * zoom,
   width: width * zoom, height: height * zoom,
 });
+/**
+ * An element's box in the viewport.
+ * @param {Element} element
+ */
 export const boxOf = (element) => scaled(element.getBoundingClientRect(), zoomOf(element));
 
-// The first box that the node has, of a text its first line; null where it has none.
+/**
+ * A node's first box in the viewport, of a text its first line; null where it has none.
+ * @param {Node} node
+ */
 export function firstBoxOf(node) {
   const range = document.createRange();
   range.selectNode(node);
@@ -27,8 +38,11 @@ export function firstBoxOf(node) {
   return rect ? scaled(rect, zoomOf(node.parentElement)) : null;
 }
 
-// How many pixels of the viewport one pixel of an element's own sizes is, across and down: its
-// zoom, and the scale of the elements that it lies in.
+/**
+ * How many pixels of the viewport one pixel of an element's own sizes is, across and down: its zoom
+ * times the scale (`transform`) of the elements around it.
+ * @param {HTMLElement} element
+ */
 export function scaleOf(element) {
   const zoom = zoomOf(element);
   const box = boxOf(element);
@@ -37,10 +51,18 @@ export function scaleOf(element) {
   return { x: along(box.width, element.offsetWidth), y: along(box.height, element.offsetHeight) };
 }
 
+/**
+ * True where a mouse event is in a box.
+ * @param {Box} box
+ * @param {{ clientX: number, clientY: number }} event
+ */
 export const holds = ({ left, top, right, bottom }, { clientX: x, clientY: y }) =>
   x >= left && x < right && y >= top && y < bottom;
 
-// How far everything that an element lies in is scrolled; what is fixed stays where it is.
+/**
+ * How far the elements around an element are scrolled, in all; for a fixed one nothing is counted.
+ * @param {Element} element
+ */
 export function scrolled(element) {
   let [x, y] = [0, 0];
   for (let at = element; at; at = at.parentElement) {

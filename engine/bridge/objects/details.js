@@ -19,6 +19,7 @@ sheet.replaceSync([
   'body form, body div, body blockquote { outline: 1px dashed #c4cedd; }',
 ].join('\n'));
 
+/** Shows or hides the details: this sheet and the signs of glyphs.js. */
 export const setDetails = (on) => {
   adoptSheet(sheet, on);
   glyphs.show(on);

@@ -10,11 +10,11 @@ import { adoptSheet } from './overlay.js';
 
 const colour = '#1a5fb4';
 const solid = (paint) => `linear-gradient(${paint}, ${paint})`;
-const handle = 7;    // pixels
-const reach = 2;     // pixels around a handle that take hold of it too
-const least = 24;    // pixels: a smaller object's handles stand apart from it
+const handle = 7;    // pixels: the side of a handle
+const reach = 2;     // pixels around a handle where a press is on it too
+const least = 24;    // pixels: a smaller object has a frame of this size around it
 
-// Grips by compass point: which edges they move, as parts of the width and height.
+// The handles by compass point: where each lies, as parts of the frame's width and height.
 const grips = new Map([
   ['nw', [0, 0]], ['n', [0.5, 0]], ['ne', [1, 0]], ['w', [0, 0.5]], ['e', [1, 0.5]],
   ['sw', [0, 1]], ['s', [0.5, 1]], ['se', [1, 1]],
@@ -59,7 +59,12 @@ function gridLayers({ origin: { x, y }, scale }) {
   return ['to right', 'to bottom'].map((way) => ({ image: line(way), x, y, ...size }));
 }
 
-// The handle under the pointer ('nw' ... 'se'), 'move' inside a box that can be moved, or ''.
+/**
+ * What a press at a mouse event takes hold of: a handle of the selected object ('nw' ... 'se'),
+ * 'move' for the inside of a movable one, '' for nothing.
+ * @param {any} object the selected one
+ * @param {{ clientX: number, clientY: number }} event
+ */
 export const gripAt = (object, { clientX, clientY }) => {
   const box = boxes.boxOf(object);
   if (!box.width || !box.height) return '';
@@ -72,27 +77,37 @@ export const gripAt = (object, { clientX, clientY }) => {
 };
 
 let pointing = '';
-// What the pointer is over: it looks like that and does not reach what lies below.
+/**
+ * Gives the pointer the shape for what it is over; the page below is not reached then.
+ * @param {string} grip as gripAt answers it
+ */
 export const pointAt = (grip) => {
   if (grip === pointing) return;
   pointing = grip;
   redraw();
 };
 
-// While an object is being dragged: its grid, where it has one.
+// While an object is being dragged: its measures if the grid is shown.
+/** @type {{ grid: any } | null} */
 let dragging = null;
+/**
+ * Draws the frame as that of an object which is being dragged, with the grid where `grid` has its
+ * measures; null ends that.
+ * @param {{ grid: any } | null} state
+ */
 export const setDragging = (state) => {
   dragging = state;
   redraw();
 };
 
-// A selected object's frame tells enough: it is not tinted like selected text. The rules name the
-// tags that are in it, since the engine styles all elements of a rule's tag anew; where these are
-// more than so many, the tint stays.
+// A selected object has its frame: it is not tinted like selected text too. The rule against the
+// tint names the tags in the object, since the engine computes the style of every element with a
+// tag of the rule anew. Where the page has more such elements than this, the tint stays.
 const most = 4000;
 const tintless = new CSSStyleSheet();
 let untinted = '';
 let repaint = null;
+// An animation that stands still and shows nothing.
 function stillAnimation(object) {
   const shadow = '0 0 transparent';
   const animation =
@@ -100,6 +115,7 @@ function stillAnimation(object) {
   animation.pause();
   return animation;
 }
+// Takes the tint off an object, and gives the one before it back; null for no object.
 function clearTint(object) {
   const tags = object
     ? new Set([object, ...object.querySelectorAll('*')].map(({ localName }) => localName)) : [];
@@ -116,8 +132,9 @@ function clearTint(object) {
     selectors && `${selectors} { background: transparent !important; color: inherit !important }`);
 }
 
-const watched = new ResizeObserver(() => overlay.follow());
+const watched = new ResizeObserver(() => overlay.scheduleRedraw());
 let subject = null;
+// Has the frame drawn anew when the object's size changes.
 function watch(object) {
   if (object === subject) return;
   clearTint(object);
@@ -144,4 +161,4 @@ function redraw() {
     pointing ? { 'pointer-events': 'auto', cursor } : {});
 }
 
-overlay.add(redraw);
+overlay.addRedraw(redraw);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// What a person does to objects: a press selects, a drag sizes or moves, arrow keys move. A drag
-// shows itself through an animation that stands still, which changes no node; only its end writes,
-// as one step of the history.
+// What a person does to objects: a press selects, a drag sizes or moves, arrow keys move. While a
+// drag goes on it is shown by an animation that stands still, which changes no node. Its end writes
+// to the document, as one step of the history.
 import * as boxes from './boxes.js';
 import { gripAt, pointAt, setDragging } from './frame.js';
 import { gridStep, snaps } from './grid.js';
@@ -15,33 +15,34 @@ const slack = 3;  // pixels before a press becomes a drag
 const least = 1;  // pixels of width and height
 const stride = 16;  // pixels that the page scrolls in a frame while the pointer is outside
 
-let gesture = null;
-let taken = false;  // the click that ends the press is not another one
+let gesture = null;  // the press or drag that goes on
+let taken = false;   // the press has selected an object: the click behind it does nothing
 
 const toGrid = (pixels) => Math.round(pixels / gridStep) * gridStep;
 
-function moving({ before }, dx, dy) {
+// The change that a box comes to which is moved so far.
+function moveChange({ before }, dx, dy) {
   if (!snaps()) return { dx, dy };
   return { dx: toGrid(before.left + dx) - before.left, dy: toGrid(before.top + dy) - before.top };
 }
 
-// The size that the handle at `grip` comes to. A corner keeps the ratio of the sides, unless it is
-// told to be free.
-function sizing({ before, grip }, dx, dy, free) {
+// The change that an object comes to of which the handle `grip` is moved so far. A corner keeps the
+// ratio of the sides, unless `free`.
+function sizeChange({ before, grip }, dx, dy, free) {
   const horizontal = /[ew]/.test(grip);
   const vertical = /[ns]/.test(grip);
   let width = Math.max(least, before.width + (grip.includes('w') ? -dx : dx));
   let height = Math.max(least, before.height + (grip.includes('n') ? -dy : dy));
   const keepsRatio = horizontal && vertical && !free;
   if (keepsRatio) {
-    // The side that is drawn further leads.
+    // The side that has changed more gives the scale.
     const scale = [width / before.width, height / before.height]
       .reduce((one, other) => (Math.abs(other - 1) > Math.abs(one - 1) ? other : one));
     width = Math.max(1, before.width * scale);
     height = Math.max(1, before.height * scale);
   }
   const change = {};
-  // A picture of which the page says one side only has the other by its own shape.
+  // Where the page gives one side of a picture only, the engine computes the other by its ratio.
   const byShape = (auto, other) => before.keepsShape && keepsRatio && auto && !other;
   const changes = (auto, side) => side || (before.keepsShape && auto);
   if (changes(before.autoWidth, horizontal) && !byShape(before.autoWidth, before.autoHeight)) {
@@ -55,8 +56,9 @@ function sizing({ before, grip }, dx, dy, free) {
   return change;
 }
 
+// Shows what the gesture would change.
 function show({ object, before, change }) {
-  const frames = Object.fromEntries(Object.entries(objects.properties(before, change))
+  const frames = Object.fromEntries(Object.entries(objects.changedProperties(before, change))
     .map(([property, pixels]) => [property, [`${pixels}px`, `${pixels}px`]]));
   if (gesture.preview) {
     gesture.preview.effect.setKeyframes(frames);
@@ -68,7 +70,8 @@ function show({ object, before, change }) {
     grid: gesture.grip === 'move' && snaps() ? objects.measure(object) : null });
 }
 
-// A position of the viewport among what the object lies in, however that is scrolled.
+// The position of a mouse event, counted from where the elements around the object begin: scrolling
+// them does not change it.
 function positionFor(object, { clientX, clientY }) {
   const { x, y } = boxes.scrolled(object);
   return { x: clientX + x, y: clientY + y };
@@ -80,13 +83,14 @@ function drag({ clientX, clientY, shiftKey }) {
   const { x, y } = positionFor(object, gesture.last);
   if (!gesture.change && Math.max(Math.abs(x - from.x), Math.abs(y - from.y)) < slack) return;
   const [dx, dy] = [(x - from.x) / scale.x, (y - from.y) / scale.y];
-  gesture.change = grip === 'move' ? moving(gesture, dx, dy) : sizing(gesture, dx, dy, shiftKey);
+  gesture.change = grip === 'move'
+    ? moveChange(gesture, dx, dy) : sizeChange(gesture, dx, dy, shiftKey);
   show(gesture);
-  scrollOn();
+  scrollAlong();
 }
 
-// While the pointer is held outside the window the page comes to meet it.
-function scrollOn() {
+// Scrolls the page for as long as the pointer is held outside the window.
+function scrollAlong() {
   if (gesture.scrolls) return;
   const { clientX: x, clientY: y } = gesture.last;
   const towards = (at, size) => (at >= size ? stride : 0) - (at < 0 ? stride : 0);
@@ -103,6 +107,7 @@ function scrollOn() {
   });
 }
 
+// Ends the gesture and what is shown of it; answers it.
 function end() {
   const ended = gesture;
   gesture = null;
@@ -125,7 +130,7 @@ function release(event) {
     .every((side) => Math.abs(shown[side] - before[side]) < 0.5);
   const { again } = end();
   if (change && same) return;
-  if (change) history.step('drag', () => objects.write(object, before, change));
+  if (change) history.step('drag', () => objects.writeChange(object, before, change));
   else if (again && grip === 'move' && objects.isBox(object)) {
     pointAt('');
     objects.enter(object, event);
@@ -137,8 +142,8 @@ function begin(object, grip, again, event) {
     before: objects.measure(object) };
 }
 
-// A picture in the text can be dragged to another place in it, which the engine does; a click
-// selects it.
+// True for a picture in the text: the engine begins a drag of it to another place; a click selects
+// it.
 const dragsByEngine = (object) => object.tagName === 'IMG' && !objects.isMovable(object);
 
 function press(event) {
@@ -194,26 +199,26 @@ const steps = new Map([
   ['ArrowLeft', [-1, 0]], ['ArrowRight', [1, 0]], ['ArrowUp', [0, -1]], ['ArrowDown', [0, 1]],
 ]);
 
-// The next line of the grid in a direction.
+// The position of the next line of the grid in a direction: -1, 1, or 0 for where it is.
 function nextLine(pixels, direction) {
   if (!direction) return pixels;
   const lines = pixels / gridStep;
   return (direction > 0 ? Math.floor(lines) + 1 : Math.ceil(lines) - 1) * gridStep;
 }
 
-// A run of moves is one step. With Ctrl the grid does not count.
+// Moves an object by a key: by a pixel, or to the next line of the grid unless `fine`. Moves in a
+// row are one step of the history.
 function nudge(object, [x, y], fine) {
   const before = objects.measure(object);
   const { left, top } = before;
   const change = snaps() && !fine
     ? { dx: nextLine(left, x) - left, dy: nextLine(top, y) - top } : { dx: x, dy: y };
   history.expect('nudge', true);
-  objects.write(object, before, change);
+  objects.writeChange(object, before, change);
   history.arrive();
 }
 
-// The object that comes next on one side of the caret, within its cell; null where text does or a
-// paragraph with text.
+// The object that comes next on one side of the caret, within its cell; null where text comes next.
 function objectBeside({ startContainer: node, startOffset: offset }, forward) {
   const side = forward ? 'nextSibling' : 'previousSibling';
   if (dom.isText(node) && (forward ? offset < node.length : offset > 0)) return null;
@@ -229,6 +234,7 @@ function objectBeside({ startContainer: node, startOffset: offset }, forward) {
   return beside;
 }
 
+// Selects the object that comes next in an arrow key's direction; false where none does.
 function extendOver(range, key) {
   const { direction } = getComputedStyle(selection.element());
   const forwards = ['ArrowDown', direction === 'ltr' ? 'ArrowRight' : 'ArrowLeft'];
@@ -250,7 +256,7 @@ function keyDown(event) {
     return;
   }
   if (!dom.isEditable() || event.isComposing || altKey || metaKey) return;
-  if (key === 'Escape') objects.leave(objects.selected());
+  if (key === 'Escape') objects.stepOut(objects.selected());
   if (steps.has(key)) arrow(event);
 }
 
@@ -266,6 +272,7 @@ function arrow(event) {
   }
 }
 
+/** Begins to listen on a document that was loaded. */
 export const listenToGestures = () => {
   gesture = null;
   const listen = (name, handler) => document.addEventListener(name, handler, true);
@@ -274,6 +281,6 @@ export const listenToGestures = () => {
   listen('mouseup', release);
   listen('click', click);
   listen('keydown', keyDown);
-  listen('input', objects.typed);
+  listen('input', objects.noteTyped);
   addEventListener('blur', cancel);
 };

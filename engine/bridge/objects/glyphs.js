@@ -34,6 +34,7 @@ const comment = mark(16, '!--');
 
 const silent = /^(BASE|LINK|MAP|META|NOSCRIPT|SCRIPT|STYLE|TEMPLATE|TITLE)$/;
 const boxless = /^(APPLET|EMBED|OBJECT|VIDEO|AUDIO)$/;
+// The picture that stands for a node; null for one that needs none.
 function signOf(node) {
   if (node.nodeType === Node.COMMENT_NODE) return comment;
   if (!dom.isElement(node)) return null;
@@ -46,13 +47,13 @@ function signOf(node) {
   return marked ? badge(localName) : null;
 }
 
-// Where something stands: at its own start, else at the start of what follows it, else at the end
-// of what is before it, else in its parent.
+// The position of a node's sign: at the node's own start, else where the next node starts, else
+// where the one before it ends, else in its parent.
 function positionOf(node, { width }) {
   const isLtr = getComputedStyle(node.parentElement).direction === 'ltr';
   const startOf = ({ left, right, top }) => ({ x: isLtr ? left : right - width, y: top });
   const endOf = ({ left, right, top }) => ({ x: isLtr ? right : left - width, y: top });
-    const boxed = (at) => at && boxes.firstBoxOf(at);
+  const boxed = (at) => at && boxes.firstBoxOf(at);
   const own = dom.isElement(node) && boxed(node);
   if (own?.width) return startOf(own);
   const next = boxed(dom.neighbour(node, 'nextSibling'));
@@ -60,6 +61,7 @@ function positionOf(node, { width }) {
   const before = boxed(dom.neighbour(node, 'previousSibling'));
   return before ? endOf(before) : startOf(boxes.boxOf(node.parentElement));
 }
+// A sign with its position, above the others; null for a break that is not seen.
 function layerOf(node, sign, others) {
   if (!dom.isBreak(node)) {
     // Above the line that it stands before, so that the text can be read; beside another one.
@@ -79,7 +81,7 @@ function layerOf(node, sign, others) {
   return { ...sign, node, x, y: box.top + (box.height - height) / 2 };
 }
 
-// The nodes in sight lie between those at the viewport's corners.
+// The first and the last node in sight, by what is at the viewport's upper and lower edge.
 function inSight() {
   const { clientWidth, clientHeight } = document.documentElement;
   const columns = [2, clientWidth / 2, clientWidth - 2];
@@ -94,6 +96,7 @@ function inSight() {
   };
 }
 
+// The signs of the nodes in sight.
 function layers() {
   const signs = [];
   const walker = document.createTreeWalker(
@@ -128,19 +131,23 @@ function redraw() {
 
 const boxOfLayer = ({ x, y, width }) =>
   ({ left: x, top: y, right: x + width, bottom: y + height, width, height });
+/**
+ * Shows or hides the signs.
+ * @param {boolean} on
+ */
 export function show(on) {
   shown = on;
-  overlay.follow();
+  overlay.scheduleRedraw();
 }
 
-// The node whose sign a mouse event is on; null where none is seen.
+/** The node whose sign is at a mouse event; null where none is seen there. */
 export const nodeAt = (event) =>
   found.find((layer) => boxes.holds(boxOfLayer(layer), event))?.node ?? null;
 
-// Where a node's sign is; null where none is seen.
+/** The box of a node's sign in the viewport; null where none is seen. */
 export function boxOf(node) {
   const layer = found.find((each) => each.node === node);
   return layer ? boxOfLayer(layer) : null;
 }
 
-overlay.add(redraw);
+overlay.addRedraw(redraw);

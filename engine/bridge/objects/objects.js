@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Objects: what is selected, sized and moved as a whole. Which one the pointer means, how
-// large it is and where, and how a new size and place are written the way the page has them.
+// Objects: what is selected, sized and moved as a whole. Which one the pointer is on, how large it
+// is and where, and how a new size and position are written, in the spelling that the page has. A
+// *box* is an object outside the flow that text is typed in: a click selects it, a second one puts
+// the caret into it; the person has *entered* it then.
 import { putDeclaration } from '../formats/declarations.js';
 import * as boxes from './boxes.js';
 import * as glyphs from './glyphs.js';
@@ -9,16 +11,18 @@ import * as dom from '../page/dom.js';
 import { openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 
+/** The selected object; null where text or nothing is selected. */
 export const selected = () => selection.control(selection.range());
 
-// Boxes that are moved about: those with a place of their own, outside the flow.
+/** True for an object that can be moved: one with a position of its own, outside the flow. */
 export const isMovable = (node) => dom.isElement(node) && node !== document.body &&
   /^(absolute|fixed)$/.test(getComputedStyle(node).position);
-// Those that text is typed in; they are entered by a second click.
+/** True for a movable object that text is typed in. */
 export const isBox = (node) => isMovable(node) && !dom.isAtom(node);
 
 const edge = 2;      // pixels within a box's border that still count as its border
 const outerEdge = 4; // and around a table, whose border may have no width at all
+// True where a mouse event is on an object's border.
 function isAtEdge(node, { clientX: x, clientY: y }) {
   const { left, top, right, bottom } = boxes.boxOf(node);
   const distance = Math.min(x - left, right - x, y - top, bottom - y);
@@ -26,14 +30,16 @@ function isAtEdge(node, { clientX: x, clientY: y }) {
   return distance >= -outerEdge && distance <= edge + border;
 }
 
-// The box that the person went into: clicks there place the caret.
+// The box that the person has entered: clicks in it place the caret.
 let entered = null;
 const isEntered = (node) => node === entered && node.contains(document.getSelection().anchorNode);
 
-// Whether the node lies in a cell of the table: what is clicked there is that cell.
+// True for a node in a cell or the caption of the table: a click there is not one on the table.
 const isInCell = (node, table) => table.contains(node.closest('CAPTION, TD, TH'));
 
-function meant(node, pointer) {
+// The object among a node and the elements around it that a click selects; null where it places the
+// caret.
+function clickedAmong(node, pointer) {
   for (let at = node; at && at !== document.body; at = at.parentElement) {
     if (at.tagName === 'TABLE' || isMovable(at)) {
       const isOutside = at.tagName !== 'TABLE' || isMovable(at) || !isInCell(node, at);
@@ -48,7 +54,11 @@ function meant(node, pointer) {
 }
 
 const closed = 'IFRAME, OBJECT, EMBED, APPLET, VIDEO, AUDIO';
-// The object that a mouse event means; null for text.
+/**
+ * The object that a click at a mouse event's position selects; null where it places the caret. An
+ * object that shows nothing is found by its sign, a table also right outside its border.
+ * @param {MouseEvent} event
+ */
 export function objectAt(event) {
   const { target, clientX: x, clientY: y } = event;
   if (!dom.isEditable() || !(target instanceof Element)) return null;
@@ -62,7 +72,7 @@ export function objectAt(event) {
     const image = document.querySelector(`img[usemap="#${CSS.escape(name)}"]`);
     if (image) return image;
   }
-  const found = meant(target, event);
+  const found = clickedAmong(target, event);
   if (found) return found;
   for (const [dx, dy] of [[outerEdge, 0], [-outerEdge, 0], [0, outerEdge], [0, -outerEdge]]) {
     const table = document.elementFromPoint(x + dx, y + dy)?.closest('TABLE');
@@ -71,7 +81,7 @@ export function objectAt(event) {
   return null;
 }
 
-// Puts the caret into a box, to where it was clicked.
+/** Enters a box: puts the caret where it was clicked, else at its start. */
 export function enter(box, { clientX, clientY }) {
   const clicked = document.caretRangeFromPoint(clientX, clientY);
   const inside = clicked && box.contains(clicked.startContainer);
@@ -79,12 +89,18 @@ export function enter(box, { clientX, clientY }) {
   if (inside) selection.setCaret(clicked.startContainer, clicked.startOffset);
   else selection.setCaret(box, 0);
 }
+// True for a block that has paragraphs in it, not text right away.
 const holdsParagraphs = (node) => dom.isBlock(node) && !dom.isParagraph(node) &&
   !/^(CAPTION|DD|LI|TD|TH)$/.test(node.tagName);
 
-// What comes in the place of a selected block is a line of its own: a paragraph where there are
-// such. Tells whether it is so; anything else is replaced as text is.
-export function giveWay(object) {
+/**
+ * Puts an empty line with the caret in the place of a block that is selected as a whole: a
+ * paragraph where its parent holds such, else a break. False where nothing was done, since the
+ * object or its parent is no block: it is replaced as text is.
+ * @param {Element} object
+ * @returns {boolean}
+ */
+export function replaceByLine(object) {
   const { parentNode } = object;
   if (!dom.isBlock(object) || !dom.isBlock(parentNode)) return false;
   if (holdsParagraphs(parentNode)) {
@@ -97,9 +113,13 @@ export function giveWay(object) {
   return true;
 }
 
-// What Enter does to a selected object: it goes into a box, and behind a block it begins a
-// paragraph. null where what is selected is replaced as text is.
-export function entering(object) {
+/**
+ * What Enter does where an object is selected, as a function to call: it enters a box, and begins a
+ * paragraph behind any other block. null where the object is replaced as text is.
+ * @param {Element} object
+ * @returns {(() => void) | null}
+ */
+export function enterActionOf(object) {
   if (isBox(object) && object.tagName !== 'TABLE') {
     return () => {
       const range = document.createRange();
@@ -112,9 +132,12 @@ export function entering(object) {
     ? () => openParagraph((paragraph) => object.after(paragraph)) : null;
 }
 
-// Escape goes out of a box or a table, which is selected then, and from a selected object behind
-// it.
-export function leave(object) {
+/**
+ * What Escape does. With the caret in a box or a table that is selected; from a selected object the
+ * caret goes behind it.
+ * @param {any} object the selected one; null for none
+ */
+export function stepOut(object) {
   const { anchorNode } = document.getSelection();
   const box = object ??
     dom.ancestor(anchorNode, (node) => node.tagName === 'TABLE' || isBox(node));
@@ -123,15 +146,20 @@ export function leave(object) {
   else if (box) selection.selectNode(box);
 }
 
-// Whoever types in a box is in it.
-export function typed() {
+/** Notes that the box at the caret is entered: text was typed in it. */
+export function noteTyped() {
   entered = dom.ancestor(document.getSelection().anchorNode, isBox);
 }
 
 const number = (text) => parseFloat(text) || 0;
 
-// What an object is before it is changed; a change is told against it. In pixels of the object,
-// of which `scale` tells how large the viewport shows them; `origin` is a position in the viewport.
+/**
+ * An object's measures, to be taken before a change. Lengths are pixels of the object; `scale` is
+ * how many of the viewport's one of those is. `fromRight` and `fromBottom`: the page positions the
+ * object by that side. `around...` is what padding and borders add to the size that the page
+ * writes.
+ * @param {any} object
+ */
 export function measure(object) {
   const style = getComputedStyle(object);
   const given = object.computedStyleMap();
@@ -157,9 +185,15 @@ export function measure(object) {
   };
 }
 
-// The properties that a change comes to. `dx` and `dy` move the left upper corner; `width` and
-// `height` are there where they change and count the border in.
-export function properties(before, { dx = 0, dy = 0, width, height }) {
+/**
+ * The values of `width`, `height` and the sides that a change comes to, in pixels; those alone that
+ * change.
+ * @param {ReturnType<measure>} before
+ * @param {Resizing} change
+ * @returns {Record<string, number>}
+ */
+export function changedProperties(before, { dx = 0, dy = 0, width, height }) {
+  /** @type {Record<string, number>} */
   const changed = {};
   if (width !== undefined) changed.width = width - before.aroundWidth;
   if (height !== undefined) changed.height = height - before.aroundHeight;
@@ -180,38 +214,45 @@ export function properties(before, { dx = 0, dy = 0, width, height }) {
 const withAttributes = new Set(['APPLET', 'CANVAS', 'EMBED', 'HR', 'IFRAME', 'IMG', 'MARQUEE',
   'OBJECT', 'TABLE', 'VIDEO', 'svg']);
 
-// A size in percent stays one, and other lengths keep their unit.
-function spelled(old, pixels, growth) {
+// A size in the unit of the old one, which has grown by the factor `growth`; else `pixels`, a text.
+function spelledLike(old, pixels, growth) {
   const [, value, unit] = /^\s*(-?[\d.]+)([a-z]+|%)\s*$/i.exec(old) ?? [];
   if (unit === '%') return `${Math.max(1, Math.round(Number(value) * growth))}%`;
   return lengthIn(unit, value, growth) ?? pixels;
 }
-// null where the unit is pixels, or nothing says how many of them it has.
+// A length in the unit it had; null where that is pixels, or the growth is not known.
 function lengthIn(unit, value, growth) {
   if (!unit || /^px$/i.test(unit) || !Number(value) || !Number.isFinite(growth)) return null;
   return `${Math.round(Number(value) * growth * 100) / 100}${unit}`;
 }
 
-// Where the page has a style for a size, that is changed, and an attribute that is there too;
-// where it has neither, the object's attribute is used if there is such a one.
+// Writes a size to where the page has it: the style, the attribute, or both. Where it has neither,
+// to the attribute, if the object's element has such a one, else to the style.
 function writeSize(object, property, pixels, growth) {
   const rule = object.tagName === 'HR' && property === 'height';
   const attribute = rule ? 'size' : property;
   const styled = object.style.getPropertyValue(property);
   const hasAttribute = object.hasAttribute(attribute);
   const size = Math.max(0, Math.round(pixels));
-  if (styled) putDeclaration(object, property, spelled(styled, `${size}px`, growth));
+  if (styled) putDeclaration(object, property, spelledLike(styled, `${size}px`, growth));
   if (hasAttribute || (!styled && withAttributes.has(object.tagName))) {
     // A rule's size counts its border in.
     const counted = rule ? size + 2 : size;
-    object.setAttribute(attribute, spelled(object.getAttribute(attribute), `${counted}`, growth));
+    object.setAttribute(attribute,
+      spelledLike(object.getAttribute(attribute), `${counted}`, growth));
   } else if (!styled) {
     putDeclaration(object, property, `${size}px`);
   }
 }
 
-export function write(object, before, change) {
-  const changed = properties(before, change);
+/**
+ * Writes a change of size and position to an object.
+ * @param {any} object
+ * @param {ReturnType<measure>} before
+ * @param {Resizing} change
+ */
+export function writeChange(object, before, change) {
+  const changed = changedProperties(before, change);
   for (const [property, pixels] of Object.entries(changed)) {
     if (property === 'width' || property === 'height') {
       writeSize(object, property, pixels, change[property] / before[property]);

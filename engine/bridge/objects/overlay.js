@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Drawing over the page: pictures that lie on two pseudo-elements of the head, given by a style
-// sheet that hangs on the document but is no part of it. Nothing drawn is a node, so there is
-// nothing of it in a mutation record or in the page's text, and the engine scrolls and scales it
-// with the page. The head is what no page has rules for; it shows nothing and takes no room.
+// Drawing over the page. The pictures are backgrounds of two pseudo-elements of HEAD, set by an
+// adopted style sheet. So nothing drawn is a node: it is in no mutation record and not in the
+// page's text, and the engine scrolls and scales it with the page. HEAD is taken since pages have
+// no rules for it, and it shows nothing itself.
 import * as boxes from './boxes.js';
 import { isEditable } from '../page/dom.js';
 
@@ -15,9 +15,9 @@ const sheetOf = (rules) => {
 // A head without a box of its own has pseudo-elements all the same.
 const carrier = sheetOf('head { display: contents !important; white-space: normal !important; }' +
   ' head > * { display: none !important; }');
-// What lies inside frames and the like is another page's or program's: the pointer shall meet the
-// object. The engine tells its own zoom as the root's, unless a rule gives the root one; this rule
-// changes nothing, and gives way to any of the page.
+// What lies inside frames and the like is another page's or program's: the pointer is to meet the
+// object itself. The engine gives its own zoom as that of HTML, unless a rule sets one there; the
+// rule here sets none, and any rule of the page comes before it.
 const closed = sheetOf(
   'iframe, object, embed, applet, video, audio { pointer-events: none !important; }' +
   ' @layer velor { html { zoom: 1 }' +
@@ -31,7 +31,11 @@ const drawn = {};
 
 const px = (number) => `${Math.round(number * 100) / 100}px`;
 
-// Hangs a sheet on the document, or takes it off.
+/**
+ * Adds a style sheet to the document's adopted ones, or removes it.
+ * @param {CSSStyleSheet} added
+ * @param {boolean} on
+ */
 export const adoptSheet = (added, on) => {
   const has = document.adoptedStyleSheets.includes(added);
   if (on === has) return;
@@ -39,7 +43,7 @@ export const adoptSheet = (added, on) => {
   document.adoptedStyleSheets = on ? [...others, added] : others;
 };
 
-// Where an absolute child of the root counts from, in pixels of the viewport.
+// The point that positions of an absolute child of the root are counted from, in the viewport.
 function origin() {
   const root = document.documentElement;
   const { position, transform, filter, perspective } = getComputedStyle(root);
@@ -72,8 +76,15 @@ function background(layers, { left, top }) {
   };
 }
 
-// Draws on one of the two ('details' lies below 'frame'), in place of what was there. `area` is a
-// box of the viewport that goes with the page, or 'view' for all of the viewport.
+/**
+ * Draws on one of the two pseudo-elements, in place of what was there; 'details' lies below
+ * 'frame'.
+ * @param {'details' | 'frame'} name
+ * @param {Box | 'view'} area a box of the viewport, which scrolls with the page; 'view' for all of
+ *   the viewport
+ * @param {any[]} layers images with their boxes, the upper ones first
+ * @param {object} [more] further declarations
+ */
 export function draw(name, area, layers, more = {}) {
   const inView = area === 'view';
   const declarations = {
@@ -88,28 +99,33 @@ export function draw(name, area, layers, more = {}) {
   drawn[name] = text;
   styles[name].cssText = text;
 }
+/** @param {'details' | 'frame'} name */
 export function clear(name) {
   if (!drawn[name]) return;
   drawn[name] = '';
   styles[name].cssText = '';
 }
 
-// What follows the page is drawn anew with the next frame, once, however much happens.
-const followers = [];
+const redraws = [];  // what is called to draw anew
 let waiting = false;
-export function follow() {
+/** Has everything drawn anew with the next animation frame: the page looks otherwise now. */
+export function scheduleRedraw() {
   if (waiting) return;
   waiting = true;
   requestAnimationFrame(() => {
     waiting = false;
-    followers.forEach((redraw) => redraw());
+    redraws.forEach((redraw) => redraw());
   });
 }
-const sizes = new ResizeObserver(follow);
+const sizes = new ResizeObserver(scheduleRedraw);
 
-// Has `redraw` called at each of these drawings.
-export const add = (redraw) => followers.push(redraw);
+/**
+ * Has a function called whenever everything is drawn anew.
+ * @param {() => void} redraw
+ */
+export const addRedraw = (redraw) => redraws.push(redraw);
 
+/** Begins to draw on a document that was loaded. */
 export function start() {
   // A page that shows its head keeps it as it is.
   const { head } = document;
@@ -118,9 +134,9 @@ export function start() {
   }
   adoptSheet(closed, true);
   adoptSheet(sheet, true);
-  document.addEventListener('scroll', follow, true);
-  document.addEventListener('load', follow, true);
-  addEventListener('resize', follow);
+  document.addEventListener('scroll', scheduleRedraw, true);
+  document.addEventListener('load', scheduleRedraw, true);
+  addEventListener('resize', scheduleRedraw);
   sizes.disconnect();
   if (document.body) sizes.observe(document.body);
 }

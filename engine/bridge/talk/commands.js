@@ -88,7 +88,7 @@ const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Sta
 // What is done is done to all of the selection, however little of it the answer was read from.
 const onUnits = (change) => (value) => {
   const saved = selection.save();
-  changeUnits(saved, (units) => change(lists.housed(readUnits(units), saved), value));
+  changeUnits(saved, (units) => change(lists.wrapStrayText(readUnits(units), saved), value));
 };
 
 const toggle = (name) => ({
@@ -111,12 +111,12 @@ const justify = (side) => ({
 });
 
 const list = (tag) => {
-  const status = (view) => spread(view.units(), (unit) => lists.tagOf(unit) === tag);
+  const status = (view) => spread(view.units(), (unit) => lists.listTagOf(unit) === tag);
   return {
     status: (view) => (view.units().length ? status(view) : Status.Disabled),
     run(value, view) {
       if (status(view) === Status.Latched) lists.unlist();
-      else onUnits((units) => lists.make(units, tag, 'LI'))(value);
+      else onUnits((units) => lists.makeItems(units, tag, 'LI'))(value);
     },
   };
 };

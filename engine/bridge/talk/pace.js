@@ -22,7 +22,7 @@ function push() {
 }
 
 export function schedulePush() {
-  overlay.follow();
+  overlay.scheduleRedraw();
   if (waiting) return;
   waiting = true;
   const rested = performance.now() - lastPush > frame;
