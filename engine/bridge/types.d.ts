@@ -111,7 +111,9 @@ interface Step {
 /** The selection when the document was at rest, and what is kept along with it. */
 interface RestPoints extends SelectionPoints { along: unknown }
 
-/** The selection as a command sees it; its parts are read when they are asked for, and once only. */
+/**
+ * The selection as a command sees it; its parts are read when they are asked for, and once only.
+ */
 interface View {
   range: Range | null;
   object: Element | null;
@@ -131,49 +133,75 @@ interface CommandRow {
   travel?(): void;
 }
 
-/** A row of the table of character formats. */
+/**
+ * What formats/formats.js says of one character format. A *value* is true or false for bold, italic
+ * and underline, else a text: a font's name, a size ('14' for points,
+ * '15 px'), '#RRGGBB'.
+ */
 interface FormatEntry {
   /**
-   * The value of text in an element; `known` may be a map for what one pass over an unchanged page
-   * finds out.
+   * The value that text in an element is shown with, by the engine's computed styles. `known`: a
+   * map that the caller gives to all calls of one pass over an unchanged page; results are kept
+   * there.
    */
   read(element: HTMLElement, known?: Map<any, any>): any;
-  /** Elements that are nothing but the format. */
+
+  // Where the page can have the format.
+
+  /** Elements that mean the format and nothing else, as B and STRONG mean bold. May be empty. */
   tags: string[];
-  /** FONT's attribute, and a value's spelling there. */
+  /** The attribute of FONT that has the value; left out where FONT has none. */
   attribute?: string;
-  inAttribute?(value: any): any;
-  /** The property of an inline style, and a value's spelling there. */
+  /** The CSS property that has the value in an inline style. */
   property: string;
-  inStyle?(value: any): string;
-  /** The word in the property's value that the format is, where others may stand beside it. */
+  /** The word among others in the property's value that is the format ('underline'). */
   part?: string;
-  /** The element to put around text; null where none can help. */
-  write?(value: any): HTMLElement | null;
-  /** The same within another one of its kind. */
-  inLike?(): HTMLElement;
+
+  // How it is written to the page.
+
+  /** A value as FONT's attribute has it; the value itself if left out. */
+  inAttribute?(value: any): any;
+  /** A value as the inline style has it; the value itself if left out. */
+  inStyle?(value: any): string;
   /**
-   * Its style is taken off a block around several paragraphs too, since a span inside would only
-   * undo it.
+   * A new element to put around text, by the page's dialect; null where no element around the text
+   * can give it the value. If left out: FONT with the attribute, or SPAN with the style.
+   */
+  write?(value: any): HTMLElement | null;
+  /**
+   * The same for text within an element of the tag that `write` makes: another B would not help.
+   */
+  inLike?(): HTMLElement;
+
+  // How it goes along with other elements.
+
+  /**
+   * The style is taken off a block with several paragraphs too. For formats that are on or off: a
+   * span inside would only undo the block's style. Else a block counts only where its style is its
+   * text's alone.
    */
   acrossBlocks?: boolean;
-  /** It goes inside links, which have a look of their own. */
+  /** The element goes inside links, since a link has a value of its own (its colour). */
   insideLinks?: boolean;
-  /** A value as the program gives it; '' for one that cannot be. */
+  /**
+   * The value of a text that the program gives; '' for one that is none. The text itself if left
+   * out.
+   */
   parse?(value: string): any;
 }
 
-/** A character format; see formats/formats.js. */
+/** A character format: its entry with what is left out there, and what follows from it. */
 interface Format extends FormatEntry {
   inAttribute(value: any): any;
   write(value: any): HTMLElement | null;
   parse(value: string): any;
+  /** True for two values that are the same. */
   same(one: any, other: any): boolean;
-  /** True for an element that gives the format to text in it. */
+  /** True for an element that gives the format to text in it, by its tag, attribute or style. */
   carries(element: any): boolean;
-  /** An empty element of the same format, to go around what keeps it. */
+  /** A new empty element that gives the same format as the one given does, and nothing else. */
   shell(element: HTMLElement): HTMLElement;
-  /** Takes the format off the element. */
+  /** Takes the format off an element, which goes where it was nothing else. */
   strip(element: HTMLElement): void;
 }
 

@@ -156,8 +156,8 @@ function firstSelectedText(range) {
   return leaf === node ? { node, offset: 0 } : null;
 }
 
-// The caret as a point in a text, where it is in a link that holds blocks; null elsewhere. The engine
-// would type behind such a link, and cut it to pieces for that.
+// The caret as a point in a text, where it is in a link that holds blocks; null elsewhere. The
+// engine would type behind such a link, and cut it to pieces for that.
 function inLinkOfBlocks({ startContainer, startOffset }) {
   if (!dom.isText(startContainer) || !dom.blockOf(startContainer).closest('a[href]')) return null;
   return { node: startContainer, offset: startOffset };

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Alignment: in the align attribute of the old dialect, in styles in HTML5 pages.
+// Alignment of paragraphs, tables and rules. It stays where the page has it; else it is written as
+// a style in HTML5 pages and as the align attribute in others. A *side* is 'left', 'center' or
+// 'right' ('justify' is read too).
 import { putDeclaration, takeDeclaration } from './declarations.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import { enclose, unitsIn } from '../page/units.js';
 
 const objects = new Set(['HR', 'TABLE']);
+// The block that has a paragraph's alignment; null where one has to be made.
 const bearer = ({ block }) =>
   block && (/^(P|DIV|H[1-6]|ADDRESS|HR|TABLE)$/.test(block.tagName) || dom.isPreformatted(block))
     ? block : null;
@@ -19,7 +22,7 @@ function sideOf(element) {
   return side;
 }
 
-// A table or rule is placed by its margins.
+// A table or rule is aligned by its margins: these are `auto` for each side.
 const margins = { left: [], center: ['margin-left', 'margin-right'], right: ['margin-left'] };
 function placeOf(object) {
   const written = object.getAttribute('align');
@@ -29,6 +32,11 @@ function placeOf(object) {
   return isAuto('right') ? 'center' : 'right';
 }
 
+/**
+ * How a paragraph, or the table or rule that it is, is aligned.
+ * @param {Unit} unit
+ * @returns {string}
+ */
 export function read(unit) {
   const { object, home } = unit;
   return objects.has(object?.tagName) ? placeOf(object) : sideOf(home);
@@ -46,8 +54,8 @@ function write(element, side, spelling) {
   else for (const margin of margins[side]) putDeclaration(element, margin, 'auto');
 }
 
-// An attribute that is written anew stays in its place among the others: without a value it aligns
-// nothing.
+// Takes the alignment off an element. The attribute stays, without a value, which aligns nothing:
+// so one that is written next is in its place among the others.
 function clear(element) {
   history.attributesOf(element);
   if (element.hasAttribute('align')) element.setAttribute('align', '');
@@ -58,7 +66,7 @@ function clear(element) {
   }
 }
 
-// Gives the element the alignment; tells whether it has to be written there.
+// Aligns an element; false where it has the side without anything written there.
 function change(element, side) {
   const spelling = spellingOf(element);
   clear(element);
@@ -68,13 +76,13 @@ function change(element, side) {
   return !plain;
 }
 
-// Bare text in the body becomes a paragraph; in a cell or an item, where a paragraph would bring
-// its margins, a division.
+// Aligns one paragraph. Bare text in the body becomes a P for that, in a cell or an item a DIV: a P
+// would have margins there.
 function apply(unit, side) {
   if (read(unit) === side) return;
   let element = bearer(unit);
   if (element) {
-    if (!change(element, side)) dissolve(element);
+    if (!change(element, side)) unwrapBareDivision(element);
     return;
   }
   const tag = /^(LI|DD|DT|TD|TH|CAPTION)$/.test(unit.container.tagName) ? 'DIV' : 'P';
@@ -89,7 +97,8 @@ const within = (element) => {
   return unitsIn(range);
 };
 
-// The elements that align the units and nothing else: these are changed, not doubled inside.
+// The elements around the units that align these and nothing else: they are changed, so that no
+// second alignment comes inside them.
 function carriersOf(units, side) {
   const chosen = new Set(units.map(keyOf));
   const judged = new Map();
@@ -103,13 +112,19 @@ function carriersOf(units, side) {
   return [...judged.keys()].filter((element) => judged.get(element));
 }
 
+/**
+ * Aligns paragraphs, tables and rules.
+ * @param {Unit[]} units
+ * @param {'left' | 'center' | 'right'} side
+ */
 export function applyAll(units, side) {
   for (const carrier of carriersOf(units, side)) change(carrier, side);
   units.forEach((unit) => apply(unit, side));
 }
 
-// A division that only carried the alignment of an item goes with it.
-function dissolve(element) {
+// Unwraps a division that is all of an item or cell and has no attributes left: it was there for
+// the alignment.
+function unwrapBareDivision(element) {
   const item = element.parentNode;
   const carried = element.tagName === 'DIV' && !element.attributes.length &&
     /^(LI|DD|DT|TD|TH|CAPTION)$/.test(item.tagName);

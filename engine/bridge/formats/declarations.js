@@ -1,8 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The declarations of an inline style as they were written; CSSOM would write all of them anew.
+// Inline styles, changed as texts: CSSOM would write all of their declarations anew.
+
+/**
+ * The declarations of an element's style as the page writes them, with the white space around them.
+ * @param {Element} element
+ * @returns {string[]}
+ */
 export const declarations = (element) =>
   (element.getAttribute('style') ?? '').match(/(?:[^;"'(]|"[^"]*"|'[^']*'|\([^)]*\))+/g) ?? [];
+/**
+ * A test of a declaration: whether it is one of this property.
+ * @param {string} property
+ */
 export const isOf = (property) => (declaration) =>
   declaration.slice(0, declaration.indexOf(':')).trim().toLowerCase() === property;
 
@@ -45,6 +55,12 @@ function takeFromShorthand(element, property) {
   }
 }
 
+/**
+ * Takes a property out of an element's style, out of a shorthand too; without any left the
+ * attribute goes.
+ * @param {any} element
+ * @param {string} property
+ */
 export function takeDeclaration(element, property) {
   const all = declarations(element);
   const left = all.filter((declaration) => !isOf(property)(declaration));
@@ -52,7 +68,12 @@ export function takeDeclaration(element, property) {
   else write(element, left);
 }
 
-// Sets one declaration and leaves the others as they are written.
+/**
+ * Sets one property in an element's style, where it stands or else at the end.
+ * @param {Element} element
+ * @param {string} property
+ * @param {string} value
+ */
 export function putDeclaration(element, property, value) {
   const all = declarations(element);
   const last = all.findLastIndex(isOf(property));

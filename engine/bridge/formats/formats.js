@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The character formats: how each is read at an element, which elements carry it and how it is
-// written: B, I and U everywhere; fonts and colours as FONT in pages of the old dialect, as styles
-// in HTML5 pages.
+// The character formats. The table at the end has one entry for each (FormatEntry in types.d.ts
+// says what its fields mean): how it is read at an element, which elements carry it, how it is
+// written. B, I and U are written in all pages; sizes, fonts and colours as styles in HTML5 pages,
+// else as FONT.
 import * as dom from '../page/dom.js';
 import { create, isBlock, isHeading, isInline } from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -10,11 +11,12 @@ import { declarations, isOf, putDeclaration, takeDeclaration } from './declarati
 
 const style = (element) => getComputedStyle(element);
 
-// A computed colour: red, green, blue up to 255, and how much it covers, up to 1.
-function parts(colour) {
+// A computed colour: `light` is red, green and blue (0 to 255), `cover` its alpha (0 to 1).
+function colourOf(colour) {
   const [red, green, blue, cover = 1] = colour.match(/[\d.]+/g).map(Number);
   return { light: [red, green, blue], cover };
 }
+// The light that is seen where a colour lies on another.
 const laidOn = (below, { light, cover }) =>
   light.map((part, index) => part * cover + below[index] * (1 - cover));
 const hex = (light) => '#' +
@@ -22,8 +24,9 @@ const hex = (light) => '#' +
 
 // CSS pixels are 96 an inch, points 72.
 const points = (pixels) => (pixels * 72) / 96;
+// The points of FONT's sizes 1 to 7.
 const sizePoints = [8, 10, 12, 14, 18, 24, 36];
-// The FONT size nearest to a size as `sizeText` writes it.
+// FONT's size (1 to 7) that comes nearest to a size as `sizeText` writes it.
 function sizeNumber(text) {
   const number = parseFloat(text);
   const wanted = text.endsWith('px') ? points(number) : number;
@@ -34,6 +37,7 @@ function sizeNumber(text) {
   return best + 1;
 }
 
+// The element and those around it, outwards.
 const ancestors = function* (element) {
   for (let at = element; at && at !== document; at = at.parentNode) yield at;
 };
@@ -41,39 +45,41 @@ const ancestors = function* (element) {
 // A heading, a table's header cell, a link and inserted text have their look by nature: that alone
 // is no format, so that bold in a heading and underline in a link can be told apart and toggled.
 const boldByNature = (element) => isHeading(element) || element.tagName === 'TH';
-const weighs = (element) => Number(style(element).fontWeight) >= 600;
+const isBoldType = (element) => Number(style(element).fontWeight) >= 600;
 function bold(element) {
   for (const at of ancestors(element)) {
-    if (!weighs(at)) return false;
+    if (!isBoldType(at)) return false;
     if (formats.bold.carries(at) || at.style.fontWeight) return true;
-    if (!at.parentElement || !weighs(at.parentElement)) return !boldByNature(at);
+    if (!at.parentElement || !isBoldType(at.parentElement)) return !boldByNature(at);
   }
   return false;
 }
-// What the nearest element outwards says that says something (others answer undefined). What was
-// found on the way is remembered where a map is given for it: many texts have ancestors in common.
-const outwards = (says, otherwise) => (element, known = new Map()) => {
+// A function that reads a value from the nearest element outwards for which `readAt` answers
+// something else than undefined; `otherwise` where none does. Results are kept in `known` for all
+// elements on the way: many texts have ancestors in common.
+const readOutwards = (readAt, otherwise) => (element, known = new Map()) => {
   const passed = [];
   let answer = undefined;
   for (const at of ancestors(element)) {
     answer = known.get(at);
     if (answer !== undefined) break;
     passed.push(at);
-    answer = says(at);
+    answer = readAt(at);
     if (answer !== undefined) break;
   }
   answer ??= otherwise;
   for (const at of passed) known.set(at, answer);
   return answer;
 };
-const underline = outwards((at) => {
+const underline = readOutwards((at) => {
   const byNature = /^(A|INS)$/.test(at.tagName) && !at.style.textDecorationLine;
   const { textDecorationLine, display } = style(at);
   if (!byNature && textDecorationLine.includes('underline')) return true;
   return /^(inline-block|inline-table)$/.test(display) ? false : undefined;
 }, false);
-// What the eye sees behind text: the colours of the ancestors, as far down as they let it through.
-function ground(element, known = new Map()) {
+// The light that is seen behind text in an element: the backgrounds of the elements around it, as
+// far as the inner ones let the outer ones through.
+function lightBehind(element, known = new Map()) {
   const layers = [];
   let light = [255, 255, 255];
   for (const at of ancestors(element)) {
@@ -81,7 +87,7 @@ function ground(element, known = new Map()) {
       light = known.get(at);
       break;
     }
-    const layer = parts(style(at).backgroundColor);
+    const layer = colourOf(style(at).backgroundColor);
     layers.push({ at, layer });
     if (layer.cover === 1) break;
   }
@@ -91,12 +97,13 @@ function ground(element, known = new Map()) {
   }
   return light;
 }
+// The light of text in an element.
 function textColour(element, known) {
-  const own = parts(style(element).color);
-  return own.cover === 1 ? own.light : laidOn(ground(element, known), own);
+  const own = colourOf(style(element).color);
+  return own.cover === 1 ? own.light : laidOn(lightBehind(element, known), own);
 }
 
-// The size that a FONT asks for, 1 to 7, as the engine reads it; 0 for none.
+// The size that FONT's attribute comes to (1 to 7) as the engine reads it; 0 for none.
 function fontNumber(font) {
   const [, sign, digits] = /^\s*([+-]?)(\d+)/.exec(font.getAttribute('size') ?? '') ?? [];
   if (!digits) return 0;
@@ -105,13 +112,13 @@ function fontNumber(font) {
 }
 // The engine's own sizes, as those of headings, are this close to the points that they stand for.
 const slack = 0.2;
-// Whether the nearest element that says a size in its style says it in pixels.
-const isInPixels = outwards((at) => {
+// True where the nearest element that says a size in its style says it in pixels.
+const isInPixels = readOutwards((at) => {
   const said = at.style?.fontSize;
   return said ? /px$/i.test(said) : undefined;
 }, false);
-// One of the seven sizes as a bare number of points; any other with its unit: the one that the page
-// says, else that in which it is a whole number.
+// The computed size in an element: one of the seven sizes as a bare number of points; any other
+// with its unit: the one that the page says, else that in which it is a whole number.
 function sizeText(element) {
   const pixels = parseFloat(style(element).fontSize);
   const size = points(pixels);
@@ -122,7 +129,8 @@ function sizeText(element) {
   return `${Math.round(number * 10) / 10} ${unit}`;
 }
 
-// A FONT has one of the seven sizes, whatever they come to in the typeface at hand.
+// The size of text in an element. In a FONT it is that of its attribute: what the engine shows that
+// with differs by typeface.
 function fontSize(element) {
   for (const at of ancestors(element)) {
     if (dom.isBlock(at) || (at.tagName === 'FONT' && at.style.fontSize)) break;
@@ -133,11 +141,11 @@ function fontSize(element) {
   return sizeText(element);
 }
 
-// A block whose style is its text's alone.
+// True for a block that holds no other ones: its style is its text's alone.
 const holdsText = (element) => ![...element.children].some(isBlock);
 
 /**
- * A format from what its row says.
+ * The format that an entry describes.
  * @param {FormatEntry} entry
  * @returns {Format}
  */
@@ -145,14 +153,15 @@ function defineFormat(entry) {
   const tags = new Set(entry.tags);
   const spelled = (value) => value;
   const { property, attribute, part, inAttribute = spelled, inStyle = spelled } = entry;
+  // The property's value in an element's inline style, '' for none.
   const written = ({ style: own }) =>
     (part ? own?.textDecorationLine : own?.getPropertyValue(property)) ?? '';
   const isStyled = (element) =>
     (part ? written(element).split(' ').includes(part) : written(element) !== '');
-  // An element that stands for the format, by its name or by FONT's attribute.
-  const isMade = (element) => tags.has(element.tagName) ||
+  // True for an element that gives the format by its tag, or by FONT's attribute.
+  const isMarkup = (element) => tags.has(element.tagName) ||
     (element.tagName === 'FONT' && element.hasAttribute(attribute));
-  // Other words of the same declaration stay.
+  // Takes the format out of an inline style; other words of the same declaration stay.
   function unstyle(element) {
     const shared = part && written(element) !== part &&
       declarations(element).find((each) => /^\s*text-decoration(-line)?\s*:/i.test(each));
@@ -172,7 +181,7 @@ function defineFormat(entry) {
     inAttribute,
     same: (one, other) => String(one).toUpperCase() === String(other).toUpperCase(),
     carries(element) {
-      if (isInline(element)) return isMade(element) || isStyled(element);
+      if (isInline(element)) return isMarkup(element) || isStyled(element);
       return isBlock(element) && element !== document.body && isStyled(element) &&
         (entry.acrossBlocks || holdsText(element));
     },
@@ -200,14 +209,18 @@ function defineFormat(entry) {
   };
 }
 
+// Makes a SPAN with a style.
 const css = (property) => (value) => create('SPAN', { style: `${property}: ${value}` });
 
-// Every name of a list of fonts; one of several words in quotes.
+// A list of fonts as CSS has it: names of several words in quotes.
 const fontFamily = (names) => names.split(',')
   .map((name) => name.replace(/['"\\;]/g, '').trim())
   .map((name) => (/^[a-z][a-z0-9-]*$/i.test(name) ? name : `'${name}'`)).join(', ');
 
-/** @type {Record<string, Format>} */
+/**
+ * The character formats by the name that the other modules have for them.
+ * @type {Record<string, Format>}
+ */
 export const formats = {
   bold: defineFormat({
     read: bold, tags: ['B', 'STRONG'], property: 'font-weight', acrossBlocks: true,
@@ -223,7 +236,7 @@ export const formats = {
   underline: defineFormat({
     read: underline, tags: ['U'], property: 'text-decoration', part: 'underline',
     acrossBlocks: true,
-    // A line drawn by an ancestor cannot be taken off from inside.
+    // An underline that an element around draws cannot be taken off from inside.
     write: (on) => (on ? create('U') : null),
   }),
   fontName: defineFormat({
@@ -242,7 +255,7 @@ export const formats = {
     tags: [], attribute: 'color', property: 'color', insideLinks: true,
   }),
   backColor: defineFormat({
-    read: (element, known) => hex(ground(element, known)), tags: [],
-    property: 'background-color',
+    read: (element, known) => hex(lightBehind(element, known)),
+    tags: [], property: 'background-color',
   }),
 };

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // Character formats put on selected text. First the elements that carry the format are taken off
-// the text and given back to their other content, then what still looks different is wrapped in as
-// few elements as possible.
+// the text, and given back to their other content. Then what does not have the wanted look yet is
+// wrapped in as few elements as possible. `chosen` is the set of texts that are formatted, `reads`
+// tells whether an element gives the wanted look.
 import { formats } from './formats.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
 
-// Cuts the texts at the ends of the range out of their longer nodes.
-function isolate(range) {
+// Cuts the texts at the ends of the range in two, so that all that is selected is whole texts;
+// answers those.
+function splitTextsAtEnds(range) {
   const { startContainer, startOffset, endContainer, endOffset } = range;
   const texts = selection.textsIn(range);
   if (!texts.length) return texts;
@@ -89,6 +91,7 @@ function carriersOf(format, texts, chosen, reads, value) {
   }
   return carriers;
 }
+// The same function, which asks `judge` once only for each node.
 function remembered(judge) {
   const known = new Map();
   return (node) => {
@@ -97,7 +100,8 @@ function remembered(judge) {
   };
 }
 
-// The highest node whose text is the given one only, or only such.
+// The outermost inline node around a text that holds chosen texts only; `covers` keeps what is
+// known.
 function highest(text, chosen, format, covers) {
   let node = text;
   for (let parent = node.parentNode; dom.isInline(parent); parent = parent.parentNode) {
@@ -132,7 +136,8 @@ function runsOf(tops) {
   return runs;
 }
 
-// The first element, from one that is all of a run inwards, that fits.
+// The first element that fits, of those that hold all of a run each, from outside inwards; null for
+// none.
 function within(run, fits) {
   let only = run.length === 1 ? run[0] : null;
   while (dom.isInline(only) && !dom.isAtom(only) && !(only.tagName === 'A') && !fits(only)) {
@@ -141,33 +146,35 @@ function within(run, fits) {
   return dom.isElement(only) && fits(only) ? only : null;
 }
 
-// A FONT that holds nothing but another one takes that one's attributes.
-function collapse(font) {
+// Joins a FONT with the FONT that is all it holds; answers the one that is left.
+function joinFonts(font) {
   const [inner] = font.childNodes;
   const isBare = font.childNodes.length === 1 && inner.tagName === 'FONT' &&
     [...inner.attributes].every(({ name }) => /^(color|face|size)$/.test(name));
   if (!isBare) return font;
   for (const { name, value } of inner.attributes) font.setAttribute(name, value);
   dom.unwrap(inner);
-  return collapse(font);
+  return joinFonts(font);
 }
 
-// An element of the same kind that the page's rules have taken the look off does not help.
-function written(format, value, run) {
+// The element to put around a run. Where the run is in one of that tag already, which the page's
+// rules have taken the look off, another one would not help.
+function wrapperFor(format, value, run) {
   const element = format.write(value);
   const inLike = format.inLike && element.tagName !== 'SPAN' &&
     run[0].parentNode.closest(element.tagName);
   return inLike ? format.inLike() : element;
 }
 
-function put(format, run, value) {
-  const wrapper = written(format, value, run);
+// Gives a run the format, by an element that is there or a new one; answers that, null for none.
+function putOnRun(format, run, value) {
+  const wrapper = wrapperFor(format, value, run);
   if (!wrapper) return null;
   // A FONT that is there is used in any dialect.
   const font = format.attribute && within(run, ({ tagName }) => tagName === 'FONT');
   if (font) {
     font.setAttribute(format.attribute, format.inAttribute(value));
-    return collapse(font);
+    return joinFonts(font);
   }
   const span = wrapper.tagName === 'SPAN' && within(run, ({ tagName }) => tagName === 'SPAN');
   if (span) {
@@ -209,16 +216,17 @@ function alike(format, element, other) {
     dom.sameLooks(rest(element), rest(other));
 }
 
-// Elements whose order makes no difference to what they look like together.
-function turns(format, outer) {
+// True for an element that may as well stand inside one of the format: it looks the same.
+function canGoInside(format, outer) {
   if (format.carries(outer)) return false;
   if (/^(B|EM|I|STRONG)$/.test(outer.tagName)) return !outer.attributes.length;
   return /^(FONT|SPAN)$/.test(outer.tagName) && !outer.id &&
     /^font-(weight|style)$/.test(format.property);
 }
-// The neighbour; where all of it has the format inside other elements, with the format outside.
-function turned(format, element, neighbour) {
-  for (let at = neighbour; dom.isElement(at) && turns(format, at); at = at.firstChild) {
+// Turns a neighbour inside out where all of it has the format within such elements: the format is
+// outside then. Answers the neighbour as it is afterwards.
+function turnedInsideOut(format, element, neighbour) {
+  for (let at = neighbour; dom.isElement(at) && canGoInside(format, at); at = at.firstChild) {
     const inner = at.firstChild;
     if (at.childNodes.length !== 1) break;
     if (!alike(format, element, inner)) continue;
@@ -228,10 +236,11 @@ function turned(format, element, neighbour) {
   return neighbour;
 }
 
-// Joins the element with that neighbour where both are alike; what was there already is kept.
+// Joins the element with its neighbour where both are alike, into the older one of the two; answers
+// the one that is left.
 function mergeWith(format, element, side, isNew) {
   if (!dom.isElement(element[side])) return element;
-  const other = turned(format, element, element[side]);
+  const other = turnedInsideOut(format, element, element[side]);
   if (!alike(format, element, other)) return element;
   const [stays, gone] = isNew ? [other, element] : [element, other];
   const before = (side === 'previousSibling') === isNew;
@@ -242,7 +251,7 @@ function mergeWith(format, element, side, isNew) {
 }
 
 /**
- * Joins each of the texts with those right beside it, keeping the anchors where they are.
+ * Joins each of the texts with the texts right beside it; the anchors stay at their characters.
  * @param {Iterable<Node>} nodes
  * @param {any[]} anchors
  */
@@ -261,7 +270,7 @@ export function joinTexts(nodes, anchors) {
   }
 }
 
-// The elements around the texts that give a look which is there without them by now.
+// The parents of the texts that give a look which the text has without them too.
 function needless(entry, texts, chosen, reads) {
   const whole = remembered((element) => coverage(element, chosen) === 'all');
   const parents = new Set(texts.map((text) => text.parentNode));
@@ -269,9 +278,9 @@ function needless(entry, texts, chosen, reads) {
     reads(element) && reads(element.parentNode) && whole(element));
 }
 
-// The page's own rules may give text in an element another look: such text is formatted by itself.
-// Answers the elements less those that had to go.
-function insist(entry, elements, value) {
+// The page's own rules may give text in one of the new elements another look: such text is
+// formatted by itself, and the element given up. Answers the elements that are left.
+function formatAgainstRules(entry, elements, value) {
   const reads = remembered((element) => entry.read(element));
   const stubborn = elements.map((element) => new Set([...textsUnder(element)]
     .filter((text) => !entry.same(reads(text.parentNode), reads(element)))));
@@ -279,14 +288,14 @@ function insist(entry, elements, value) {
     const texts = stubborn[index];
     if (!texts.size) return true;
     pushDown(entry, element, texts);
-    for (const text of texts) put(entry, [text], value);
+    for (const text of texts) putOnRun(entry, [text], value);
     return false;
   });
 }
 
-// The elements of the format around the texts that give it to nothing, since all in them needs it
-// from inside.
-function outgrown(entry, texts, chosen) {
+// The elements of the format around the texts that have no effect: all of the text in them lacks
+// the look and gets an element inside.
+function withoutEffect(entry, texts, chosen) {
   const around = new Set();
   for (const text of texts) {
     for (let at = text.parentNode; dom.isInline(at) && !around.has(at); at = at.parentNode) {
@@ -297,8 +306,9 @@ function outgrown(entry, texts, chosen) {
     coverage(element, chosen) === 'all');
 }
 
-// Puts the format with that value on the texts, which are whole nodes. In passes that first read
-// and then write: the engine works the page's looks out anew for what is read after each change.
+// Puts a format on texts; answers the nodes whose neighbours may have become texts to join. Each
+// pass reads first and writes then, since the engine computes styles anew for what is read after a
+// change.
 function putOn(name, value, texts) {
   const entry = formats[name];
   const touched = new Set();
@@ -317,25 +327,28 @@ function putOn(name, value, texts) {
   const lacks = remembered((element) => !reads(element));
   const left = texts.filter((text) => lacks(text.parentNode));
   const chosen = new Set(left);
-  if (value === true) outgrown(entry, left, chosen).forEach((element) => entry.strip(element));
+  if (value === true) {
+    withoutEffect(entry, left, chosen).forEach((element) => entry.strip(element));
+  }
   const covers = new Map();
   const tops = new Set(left.map((text) => highest(text, chosen, entry, covers)));
-  const made = runsOf(tops).map((run) => put(entry, run, value)).filter(Boolean);
-  for (const element of insist(entry, made, value)) {
+  const made = runsOf(tops).map((run) => putOnRun(entry, run, value)).filter(Boolean);
+  for (const element of formatAgainstRules(entry, made, value)) {
     const joined = mergeWith(entry, element, 'previousSibling', true);
     mergeWith(entry, joined, 'nextSibling', joined === element);
   }
   return touched;
 }
 
+// True where all of the range has the format's value.
 function isThere(name, value, range) {
   const { read, same } = formats[name];
   const elements = new Set(selection.textsIn(range).map((text) => text.parentElement));
   return [...elements].every((element) => same(read(element), value));
 }
 
-// Where the selection is to begin or end again: at its outermost text, or beside the picture,
-// island or break that it takes in there.
+// The selection's two ends as anchors: at its outermost texts, or beside the picture, island or
+// break that it begins or ends with.
 function anchorsOf(texts, range) {
   const last = texts.at(-1);
   const outermost = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
@@ -355,12 +368,17 @@ function anchorsOf(texts, range) {
   ];
 }
 
-// Puts a format on the text of the range and selects that text again.
+/**
+ * Puts a format on the text of a range and selects that again, in the direction it was selected in.
+ * @param {string} name
+ * @param {any} value
+ * @param {Range} range the selected one
+ */
 export function apply(name, value, range) {
   if (isThere(name, value, range)) return;
   const backward = document.getSelection().focusNode === range.startContainer &&
     document.getSelection().focusOffset === range.startOffset && !range.collapsed;
-  const texts = isolate(range);
+  const texts = splitTextsAtEnds(range);
   if (!texts.length) return;
   const anchors = anchorsOf(texts, range);
   joinTexts(putOn(name, value, texts), anchors);

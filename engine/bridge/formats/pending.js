@@ -1,27 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Formats chosen at a caret: they wait for the text that is typed there.
+// Formats that were chosen at a caret. They are *pending* until text is typed there, and forgotten
+// when the caret goes elsewhere.
 import * as inline from './inline.js';
 import * as selection from '../page/selection.js';
 
-const chosen = new Map();
-let chosenAt = null;  // where the formats were chosen
+const chosen = new Map();  // their values by their names
+let chosenAt = null;       // the selection that they wait at
 
+/** @param {string} name */
 export const has = (name) => chosen.has(name);
+/** @param {string} name */
 export const get = (name) => chosen.get(name);
+/**
+ * Has text that is typed at the caret next get a format.
+ * @param {string} name
+ * @param {any} value
+ */
 export function set(name, value) {
   chosen.set(name, value);
   chosenAt = selection.points();
 }
+/** Forgets all of them. */
 export function clear() { chosen.clear(); }
 
-// The caret went elsewhere: what was chosen is forgotten.
-export function selectionMoved() {
+/** Forgets them where the selection is another one than when they were chosen. */
+export function clearIfMoved() {
   if (chosen.size && !selection.samePoints(chosenAt, selection.points())) chosen.clear();
 }
 
-// The text is there: puts the formats on it and the caret at its end.
-export function typed(text) {
+/**
+ * Puts them on the text before the caret, and the caret behind it; they are not pending any more.
+ * @param {string | null} text what was typed
+ */
+export function applyToTyped(text) {
   if (!chosen.size || !text) return;
   const { anchorNode: node, anchorOffset: end } = selection.points();
   const start = end - text.length;
@@ -32,5 +44,5 @@ export function typed(text) {
   chosen.clear();
 }
 
-// A new line keeps what was chosen.
-export function moved() { if (chosen.size) chosenAt = selection.points(); }
+/** Has them wait at the caret where it is now: input such as Enter moves it and keeps them. */
+export function moveToCaret() { if (chosen.size) chosenAt = selection.points(); }

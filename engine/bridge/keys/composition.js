@@ -21,7 +21,7 @@ export function continues({ inputType }) {
 
 export function compositionEnd({ data }) {
   composing = false;
-  work(() => pending.typed(data));
+  work(() => pending.applyToTyped(data));
   history.arrive();
   // An abandoned one leaves nothing behind.
   if (!data) history.finish();

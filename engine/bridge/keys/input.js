@@ -102,10 +102,10 @@ export function input(event) {
   const begins = isComposing() && !composedBefore;
   work(() => blanks.engineDone({ inputType: begins ? 'insertText' : inputType, data }));
   if (inputType === 'insertParagraph') work(tidySplit);
-  if (inputType === 'insertText') work(() => pending.typed(data));
+  if (inputType === 'insertText') work(() => pending.applyToTyped(data));
   typing.noteTyped();
   work(() => blanks.watched({ inputType, data }));
-  pending.moved();
+  pending.moveToCaret();
   history.arrive();
   // What the engine changed was mostly told of before it says so.
   selectionMoved();

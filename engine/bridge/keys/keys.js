@@ -34,7 +34,7 @@ function keyDown(event) {
 }
 
 function selectionChange() {
-  pending.selectionMoved();
+  pending.clearIfMoved();
   standIns.selectionMoved();
   history.selectionMoved();
   selectionMoved();
