@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The beginning of work on a document that was loaded.
+// What is done once after each load: the document becomes editable, and the modules begin to
+// listen.
 import { listenToClipboard } from './clipboard/clipboard.js';
 import * as pending from './formats/pending.js';
 import { listenToKeys } from './keys/keys.js';
@@ -18,14 +19,20 @@ import { schedulePush } from './talk/pace.js';
 import { listenToPointer } from './talk/pointer.js';
 import { contentChanged, listenToVisibility } from './talk/push.js';
 
-// Undo or redo came to the end of the page's history: the program may have a document beyond it.
+// Undo or redo came to the end of the page's history. Tells the program, which may have a document
+// beyond it.
+/** @param {'undo' | 'redo'} way */
 function wantBeyond(way) {
   if (way === 'undo') host()?.earlierWanted();
   else host()?.laterWanted();
 }
 
-// To be called after each load. `earlier` and `later` tell whether the program keeps documents that
-// undo and redo come to beyond the page's history.
+/**
+ * Begins the work on a document; to be called after each load. `earlier` and `later` tell whether
+ * the program keeps documents that undo and redo come to beyond the page's history.
+ * @param {{ showDetails?: boolean, snapToGrid?: boolean, earlier?: boolean, later?: boolean }}
+ *   options
+ */
 export function start({
   showDetails = false, snapToGrid = false, earlier = false, later = false,
 } = {}) {

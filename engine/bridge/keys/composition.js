@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Input methods. What one writes is not final until it ends; it replaces what it has written
-// before, and all of that is one input.
+// Input methods. While one composes it replaces its own text again and again; all of that is one
+// input, and is final when the composition ends.
 import * as pending from '../formats/pending.js';
 import * as history from '../page/history.js';
 import { work } from '../page/working.js';
@@ -11,18 +11,26 @@ let composing = false;
 /** True while an input method has written something that is not final yet. */
 export const isComposing = () => composing;
 
-/** True where the input belongs to a composition that has begun already; begins one otherwise. */
-export function continues({ inputType }) {
+/**
+ * True for input of a composition that goes on. The first input of one answers false, and begins
+ * it.
+ * @param {InputEvent} event a beforeinput event
+ */
+export function continuesComposition({ inputType }) {
   if (!/Composition/.test(inputType)) return false;
   const began = composing;
   composing = true;
   return began;
 }
 
-export function compositionEnd({ data }) {
+/**
+ * Ends the composition: pending formats go on its text.
+ * @param {CompositionEvent} event
+ */
+export function endComposition({ data }) {
   composing = false;
   work(() => pending.applyToTyped(data));
   history.arrive();
-  // An abandoned one leaves nothing behind.
+  // One that was given up leaves no text, and no step of the history.
   if (!data) history.finish();
 }

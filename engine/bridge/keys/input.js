@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Input. The engine types; here its input becomes steps of the history, and what it does badly or
-// behind the history's back is done by the bridge.
+// Input events. The engine carries out most input; here that is made ready before (beforeinput),
+// and made a step of the history after (input). What the engine would do badly, or past the
+// history, is done by the bridge in its place.
 import { deletionAtCaret } from '../blocks/caretDeletion.js';
 import * as typing from '../blocks/typing.js';
 import * as pending from '../formats/pending.js';
@@ -13,15 +14,16 @@ import { isWorking, work } from '../page/working.js';
 import { exec } from '../talk/commands.js';
 import { schedulePush } from '../talk/pace.js';
 import { selectionMoved } from '../talk/push.js';
-import { continues, isComposing } from './composition.js';
+import { continuesComposition, isComposing } from './composition.js';
 import { ownEnter, tidySplit } from './enter.js';
 import { commandOfInput, isCommand } from './shortcuts.js';
 
 const typingInputs = new Set(['insertText', 'insertCompositionText', 'deleteCompositionText']);
-// Deletions that are parts of something else.
+// Deletions that are parts of other input.
 const partialDeletions = new Set(['deleteByDrag', 'deleteCompositionText']);
 const backward = /^delete.*Backward$/;
 
+// The kind of step that input makes: input of the same kind may be one step.
 function kindOf({ inputType }) {
   if (typingInputs.has(inputType)) return 'typing';
   if (inputType === 'deleteByDrag' || inputType === 'insertFromDrop') return 'drag';
@@ -29,8 +31,9 @@ function kindOf({ inputType }) {
   return inputType.startsWith('delete') ? 'delete' : inputType;
 }
 
-// Typing is undone word by word: the first letter after a blank begins a step.
-function joins({ inputType, data }, kind) {
+// True where input may join the step before it. Typing is undone word by word: the first letter
+// behind a blank begins a new step.
+function joinsLastStep({ inputType, data }, kind) {
   if (kind === 'drag') return true;
   if (kind !== 'typing') return kind === 'delete';
   if (inputType !== 'insertText') return true;
@@ -50,7 +53,7 @@ function ownDeletion({ inputType }) {
     : () => typing.deleteKeepingLooks(range);
 }
 
-// Carries the input out where that is not left to the engine; tells whether it was done.
+// Carries input out where that is not left to the engine; false where it is.
 function takeOver(event) {
   if (isCommand(event)) {
     exec(commandOfInput(event));
@@ -67,9 +70,13 @@ function takeOver(event) {
 
 // inputType of the last beforeinput. Chromium's `input` reports insertText for Enter after typing.
 let announced = null;
-// Whether an input method had begun what it writes on before the last beforeinput.
+// Whether the last beforeinput belonged to a composition that had begun before.
 let composedBefore = false;
 
+/**
+ * Makes the page ready for input that the engine is about to carry out, or carries it out.
+ * @param {InputEvent} event
+ */
 export function beforeInput(event) {
   if (isWorking() || !dom.isEditable()) return;
   const { inputType } = event;
@@ -78,13 +85,13 @@ export function beforeInput(event) {
     event.preventDefault();
     return;
   }
-  composedBefore = continues(event);
+  composedBefore = continuesComposition(event);
   if (composedBefore) {
     work(() => blanks.watch());
     return;
   }
   const kind = kindOf(event);
-  history.expect(kind, joins(event, kind));
+  history.expect(kind, joinsLastStep(event, kind));
   if (inputType === 'insertText' && work(() => typing.typeOver(event.data))) {
     event.preventDefault();
     input(event);
@@ -94,6 +101,10 @@ export function beforeInput(event) {
   work(() => blanks.watch(inputType, event.getTargetRanges()[0]));
 }
 
+/**
+ * Tidies up what the engine has put in, and ends the step.
+ * @param {any} event
+ */
 export function input(event) {
   if (isWorking()) return;
   const { data } = event;
@@ -107,6 +118,6 @@ export function input(event) {
   work(() => blanks.watched({ inputType, data }));
   pending.moveToCaret();
   history.arrive();
-  // What the engine changed was mostly told of before it says so.
+  // Pushes nothing where the state was pushed during this input already.
   selectionMoved();
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Keys beside islands (`contenteditable="false"`). The engine tells of no input where the selection
-// begins or ends with a closed block, or where there is one in place of a line.
+// Keys beside islands (`contenteditable="false"`). The engine sends no input events where the
+// selection begins or ends with an island that is a block, or where there is one in place of a
+// line.
 import { deleteToPoint } from '../blocks/deletion.js';
 import * as typing from '../blocks/typing.js';
 import * as dom from '../page/dom.js';
@@ -13,6 +14,11 @@ import { exec } from '../talk/commands.js';
 import { schedulePush } from '../talk/pace.js';
 import { Command } from '../talk/vocabulary.js';
 
+/**
+ * True where a key has to be handled here: the selection begins or ends with an island, or the
+ * caret is at a point beside one where no line is.
+ * @param {any} range the selected one; null for none
+ */
 export function isBesideIsland(range) {
   if (!range) return false;
   if (!range.collapsed) {
@@ -25,8 +31,12 @@ export function isBesideIsland(range) {
     [node.childNodes[offset - 1], node.childNodes[offset]].some(dom.isIsland);
 }
 
-/** Deletes what is selected there and makes the line that the key is for. */
-export function makeWay(event) {
+/**
+ * Handles a key there. Delete and Backspace delete what is selected. Enter and a character do too,
+ * and make a line with the caret in it; the character is typed by the engine then.
+ * @param {KeyboardEvent} event
+ */
+export function typeBesideIsland(event) {
   const { key } = event;
   const range = selection.range();
   const types = key.length === 1 || key === 'Enter';

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Keys: which module of this folder each event goes to.
+// Which module of this folder each event of the keyboard, of input and of the selection goes to.
 import * as pending from '../formats/pending.js';
 import { isEditable } from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -8,11 +8,11 @@ import * as selection from '../page/selection.js';
 import * as standIns from '../page/standIns.js';
 import { exec } from '../talk/commands.js';
 import { selectionMoved } from '../talk/push.js';
-import { compositionEnd } from './composition.js';
+import { endComposition } from './composition.js';
 import { beforeInput, input } from './input.js';
-import { isBesideIsland, makeWay } from './islands.js';
+import { isBesideIsland, typeBesideIsland } from './islands.js';
 import { commandOfKey } from './shortcuts.js';
-import { tab } from './tab.js';
+import { pressTab } from './tab.js';
 
 function keyDown(event) {
   if (!isEditable() || event.isComposing) return;
@@ -20,11 +20,11 @@ function keyDown(event) {
   const isPlain = !ctrlKey && !altKey && !metaKey;
   if (isPlain && key === 'Tab') {
     event.preventDefault();
-    tab(shiftKey);
+    pressTab(shiftKey);
     return;
   }
   if (isPlain && isBesideIsland(selection.range())) {
-    makeWay(event);
+    typeBesideIsland(event);
     return;
   }
   const command = commandOfKey(event);
@@ -40,10 +40,11 @@ function selectionChange() {
   selectionMoved();
 }
 
+/** Begins to listen on a document that was loaded. */
 export function listenToKeys() {
   document.addEventListener('beforeinput', beforeInput, true);
   document.addEventListener('input', input, true);
-  document.addEventListener('compositionend', compositionEnd, true);
+  document.addEventListener('compositionend', endComposition, true);
   document.addEventListener('keydown', keyDown, true);
   document.addEventListener('selectionchange', selectionChange);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Shortcuts, and the input that the engine makes of them and of its own menus, as commands.
+// Which command a shortcut means, and which one an input event that the engine makes of shortcuts
+// and of its own menus.
 import { Command } from '../talk/vocabulary.js';
 
 const byInput = new Map([
@@ -18,13 +19,24 @@ const byKey = new Map([
   ['a', Command.SelectAll],
 ]);
 
-/** True for input that the engine must not carry out: commands, and formats that nobody offers. */
+/**
+ * True for input that the engine must not carry out: our commands, and formats that the program
+ * does not have.
+ * @param {InputEvent} event
+ */
 export const isCommand = ({ inputType }) =>
   byInput.has(inputType) || inputType.startsWith('format');
 
+/**
+ * The command that such input means; undefined for none.
+ * @param {InputEvent} event
+ */
 export const commandOfInput = ({ inputType }) => byInput.get(inputType);
 
-/** The command of a key that is pressed; undefined for none. */
+/**
+ * The command that a key means with the modifiers that are held; undefined for none.
+ * @param {KeyboardEvent} event
+ */
 export function commandOfKey({ key, ctrlKey, altKey, metaKey, shiftKey }) {
   if (!ctrlKey || altKey || metaKey) return undefined;
   return byKey.get((shiftKey ? 'shift+' : '') + key.toLowerCase());

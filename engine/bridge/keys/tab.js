@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Tab: in a table from cell to cell, in a list one level in or out.
+// Tab: in a table it goes from cell to cell, in a list it moves the item one level in or out;
+// elsewhere it does nothing.
 import * as lists from '../blocks/lists.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -20,7 +21,7 @@ function enterCell(cell) {
   else selection.setCaret(leaf.parentNode, selection.indexOf(leaf));
 }
 
-// A row like the given one behind it, empty; answers its first cell.
+// Adds an empty row like the given one behind it; answers its first cell.
 function addRow(row) {
   const added = dom.twin(row);
   for (const cell of row.cells) {
@@ -44,8 +45,11 @@ function cellBeside(cell, step) {
   return beside;
 }
 
-/** `backwards` is Shift+Tab. */
-export function tab(backwards) {
+/**
+ * Does what Tab does. Behind the last cell it adds a row, which is one step of the history.
+ * @param {boolean} backwards Shift+Tab
+ */
+export function pressTab(backwards) {
   const cell = cellAtCaret();
   if (!cell) {
     const [unit] = unitsIn(selection.range());

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Keys come another way than the program's expressions, which may overtake them. Before the program
-// reads the document it lets go of a key that no keyboard has, after all the others, and is told
-// when that one is here.
+// How the program knows that all keys have arrived. They take another way than its expressions,
+// which may overtake them. So the program releases a key that no keyboard has (F24) behind the
+// others, and is told here when that release has come.
 import { host } from './host.js';
 
-function arrived(event) {
+function tellArrival(event) {
   if (event.key !== 'F24') return;
   event.stopImmediatePropagation();
   host()?.inputArrived();
 }
 
-addEventListener('keyup', arrived, true);
+addEventListener('keyup', tellArrival, true);

@@ -1,83 +1,93 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The document's text for the program, told by what has changed since the last time. So telling it
-// costs what changed, however large the page is: it goes on while somebody types.
+// The document's text for the program, as what has changed since the last time. So the cost is that
+// of the change, however large the page is, and it can be told while somebody types.
 //
-// The text is known here by the lengths of its pieces: the children of the root and of the elements
-// that are written with much text, which are called branches. A mutation observer says which pieces
-// are to be written anew.
+// Of the text that was told only the lengths of its *pieces* are kept here. Pieces are the children
+// of a *branch*: the root element, and each element in it that is longer than `largestPiece`. A
+// mutation observer says which pieces have to be serialized anew.
 import { selectionPaths } from '../page/paths.js';
 import { firstBreaks, serialize, serializeNode } from '../page/serialize.js';
 import { blanksAsWritten } from '../page/standIns.js';
 import { shownGeneration } from './replace.js';
 
-// These write what is in them in ways of their own.
+// Elements that are serialized in ways of their own: they are never branches.
 const undivided = 'pre, listing, textarea, template, title, script, style, xmp, iframe, noembed, ' +
   'noframes, noscript, plaintext, svg, math';
-const mostSteps = 8;
-const mostPieces = 500;  // where more have changed the whole costs less
+const mostSteps = 8;     // kept, for a program that has not seen the last ones
+const mostPieces = 500;  // where more have changed, the whole text costs less
 
-// Numbers the texts that were told. It begins anywhere, so that what the document before this one
-// told is not taken for this one's.
+// The number of the text that was told last. It begins at random, so that a number of the document
+// before this one is not taken for one of this document's.
 let revision = 1 + Math.floor(Math.random() * 1e9);
-let largestPiece = 20000;  // UTF-16 units; a longer one is divided into its children's
-let steps = [];  // the last of them, each a list of [offset, length, text] for the text before it
+let largestPiece = 20000;  // UTF-16 units
+/** @type {TextEdit[][]} the steps that led to the last texts */
+let steps = [];
 let observer = null;
-const touched = new Set();
-let blanks = [];  // that were told otherwise than they stand in the document
-const branches = new Map();  // {open, close, children, lengths}, tags and children by their lengths
+const touched = new Set();  // nodes that changed since the last text
+/** @type {Resolution[]} the stand-ins that the last text has blanks for */
+let blanks = [];
+// The branches by their elements: {open, close, children, lengths}, where `open` and `close` are
+// the lengths of the tags and `lengths` those of the children.
+const branches = new Map();
 
 const note = (records) => { for (const { target } of records) touched.add(target); };
 const sum = (lengths) => lengths.reduce((all, length) => all + length, 0);
 
-// Whatever holds something that is written otherwise than the engine writes it.
-function exceptions() {
+// The nodes whose text is another one than the engine's `outerHTML`, with all elements around them.
+function nodesWithOwnText() {
   const found = new Set();
   const nodes = [...firstBreaks(document), ...blanks.map(({ node }) => node)];
   for (const node of nodes) for (let at = node; at; at = at.parentNode) found.add(at);
   return found;
 }
 
-const divides = (node, length) => length > largestPiece && node.childElementCount > 1 &&
+// True for a node of that length whose children are to be pieces.
+const isBranch = (node, length) => length > largestPiece && node.childElementCount > 1 &&
   !node.matches(undivided);
 
+// The length of a node's text; makes it a branch where it is long. `special` are nodesWithOwnText.
 function lengthOf(node, special) {
   const isText = node.nodeType === Node.TEXT_NODE;
   if (isText && !special.has(node) && !/[&<>\u00a0]/.test(node.data)) return node.length;
   const isPlain = node.nodeType === Node.ELEMENT_NODE && !special.has(node);
   const { length } = isPlain ? node.outerHTML : serializeNode(node);
-  if (divides(node, length)) measure(node, special);
+  if (isBranch(node, length)) makeBranch(node, special);
   return length;
 }
 
+// An element's start tag, and the length of its end tag.
 function tagsOf(element) {
   const text = element.cloneNode(false).outerHTML;
   const open = text.lastIndexOf('</');
   return { open: text.slice(0, open), close: text.length - open };
 }
 
-function measure(element, special) {
+function makeBranch(element, special) {
   const { open, close } = tagsOf(element);
   const children = [...element.childNodes];
   const lengths = children.map((child) => lengthOf(child, special));
   branches.set(element, { open: open.length, close, children, lengths });
 }
 
-function forget(node) {
+function dropBranch(node) {
   const branch = branches.get(node);
   if (!branch) return;
   branches.delete(node);
-  branch.children.forEach(forget);
+  branch.children.forEach(dropBranch);
 }
 
-function measureAll() {
+// Takes the lengths of the whole text, where they are not known and nothing has changed since.
+function makeBranches() {
   note(observer.takeRecords());
   const root = document.documentElement;
   if (branches.size || touched.size || !root) return;
-  measure(root, exceptions());
+  makeBranch(root, nodesWithOwnText());
 }
 
-function whole() {
+// The whole text, as one that no steps lead to. The lengths are taken later, in idle time.
+/** @returns {Telling} */
+function tellWhole() {
   if (!observer) {
     observer = new MutationObserver(note);
     observer.observe(
@@ -89,11 +99,12 @@ function whole() {
   steps = [];
   revision += 1;
   blanks = blanksAsWritten();
-  requestIdleCallback(measureAll);
+  requestIdleCallback(makeBranches);
   return { revision, html: serialize() };
 }
 
-// What has to be written anew, and the branches on the way there; null where that is the whole.
+// What of the text has changed; null where the whole is to be told. `pieces`: to be serialized
+// anew. `lists`: branches that have got other children. `ways`: both and all branches around them.
 function touchedPieces() {
   if (touched.has(document) || !branches.size) return null;
   const found = { pieces: new Set(), lists: new Set(), ways: new Set() };
@@ -112,14 +123,14 @@ function touchedPieces() {
   return found.pieces.size > mostPieces ? null : found;
 }
 
-// Writes a node anew; answers its text.
-function piece(node) {
+// A node's text; makes it a branch where that is long.
+function serializePiece(node) {
   const text = serializeNode(node);
-  if (divides(node, text.length)) measure(node, exceptions());
+  if (isBranch(node, text.length)) makeBranch(node, nodesWithOwnText());
   return text;
 }
 
-// The children that are the same nodes at both ends stay; the others are exchanged.
+// What of a branch's children was exchanged: those from `head` to `end`, for the nodes `come`.
 function difference(children, fresh) {
   let head = 0;
   let end = children.length;
@@ -132,10 +143,10 @@ function difference(children, fresh) {
   return { head, end, come: fresh.slice(head, freshEnd) };
 }
 
-// Adds the edits of a node that stood at `offset`; answers its new length.
-function rewrite(node, length, offset, found, edits) {
+// Adds the edits for a node whose text is `length` long at `offset`; answers its new length.
+function addEdits(node, length, offset, found, edits) {
   if (found.pieces.has(node)) {
-    const text = piece(node);
+    const text = serializePiece(node);
     edits.push([offset, length, text]);
     return text.length;
   }
@@ -146,7 +157,7 @@ function rewrite(node, length, offset, found, edits) {
     for (let index = from; index < to; index += 1) {
       const before = lengths[index];
       if (found.ways.has(children[index])) {
-        lengths[index] = rewrite(children[index], before, at, found, edits);
+        lengths[index] = addEdits(children[index], before, at, found, edits);
       }
       at += before;
     }
@@ -160,8 +171,8 @@ function rewrite(node, length, offset, found, edits) {
     branch.children = [...node.childNodes];
     const { head, end, come } = difference(children, branch.children);
     keep(0, head);
-    children.slice(head, end).forEach(forget);
-    const texts = come.map(piece);
+    children.slice(head, end).forEach(dropBranch);
+    const texts = come.map(serializePiece);
     const gone = sum(lengths.slice(head, end));
     edits.push([at, gone, texts.join('')]);
     at += gone;
@@ -172,7 +183,9 @@ function rewrite(node, length, offset, found, edits) {
   return branch.open + sum(branch.lengths) + branch.close;
 }
 
-function step() {
+// The edits that lead from the last text to the document's now; null where the whole is to be told.
+/** @returns {TextEdit[] | null} */
+function editsSinceLast() {
   const found = touchedPieces();
   if (!found) return null;
   const root = document.documentElement;
@@ -182,7 +195,7 @@ function step() {
     offset += serializeNode(node).length + 1;
   }
   const edits = [];
-  rewrite(root, 0, offset, found, edits);
+  addEdits(root, 0, offset, found, edits);
   return edits;
 }
 
@@ -190,19 +203,24 @@ const sameBlanks = (one, other) => one.length === other.length && one.every(
   ({ node, index, text }, number) => node === other[number].node &&
     index === other[number].index && text === other[number].text);
 
-// {revision, steps} from the text of that number to the document's now, or {revision, html}.
-/** @returns {Telling} */
+/**
+ * What leads from a text that was told to the document's text now, which is given a new number
+ * where it is another one. The whole text, where the steps are not known any more or would cost
+ * more.
+ * @param {number} [known] the number of the text that the program has
+ * @returns {Telling}
+ */
 export const changes = (known = revision) => {
-  if (!observer) return whole();
+  if (!observer) return tellWhole();
   note(observer.takeRecords());
   const now = blanksAsWritten();
   if (!sameBlanks(now, blanks)) for (const { node } of [...now, ...blanks]) touched.add(node);
-  if (known > revision || revision - known > steps.length) return whole();
-  if (!branches.size) measureAll();
+  if (known > revision || revision - known > steps.length) return tellWhole();
+  if (!branches.size) makeBranches();
   if (touched.size) {
     blanks = now;
-    const edits = step();
-    if (!edits) return whole();
+    const edits = editsSinceLast();
+    if (!edits) return tellWhole();
     touched.clear();
     steps = [...steps, edits].slice(-mostSteps);
     revision += 1;
@@ -210,8 +228,15 @@ export const changes = (known = revision) => {
   return { revision, steps: steps.slice(steps.length - (revision - known)) };
 };
 
-// For tests: a small page is divided as a large one is.
+/**
+ * For tests: has a small page told as a large one is.
+ * @param {number} size the length from which an element is a branch
+ */
 export function dividePiecesOver(size) { largestPiece = size; }
 
+/**
+ * The same with the document's generation and the selection's ends.
+ * @param {number} [known]
+ */
 export const mirror = (known) => (
   { ...changes(known), generation: shownGeneration(), ...selectionPaths() });

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The one table of commands: a published number, the answer whether it applies and what it does.
-// Both look at the same view of the selection, so that enabling and doing cannot drift apart.
+// The one table of commands: for each published number its status and what it does. Both look at
+// the same view of the selection, so that what is shown and what is done agree.
 import * as blocks from '../blocks/blocks.js';
 import { deletionAtCaret } from '../blocks/caretDeletion.js';
 import * as indent from '../blocks/indent.js';
@@ -21,8 +21,10 @@ import { isWorking, work } from '../page/working.js';
 import { schedulePush } from './pace.js';
 import { Command, Status } from './vocabulary.js';
 
-// Both stop reading as soon as the answer is known: a selection may be the whole of a long page.
-function spread(subjects, fits) {
+// The next two stop reading as soon as the answer is known: a selection may be all of a long page.
+
+// Latched where all of the subjects fit, Ninched where some do, else Enabled.
+function statusOfAll(subjects, fits) {
   let some = false;
   let all = true;
   for (const subject of subjects) {
@@ -32,8 +34,8 @@ function spread(subjects, fits) {
   }
   return some ? Status.Latched : Status.Enabled;
 }
-// The one value of all, or the empty text.
-function common(subjects, read, same = (one, other) => one === other) {
+// The value that all of the subjects have, or an empty text.
+function commonValue(subjects, read, same = (one, other) => one === other) {
   let first = null;
   for (const subject of subjects) {
     const value = read(subject);
@@ -43,8 +45,10 @@ function common(subjects, read, same = (one, other) => one === other) {
   return first ?? '';
 }
 
-// What a command may want to know of the selection, each read once and only when asked for.
-/** @returns {View} */
+/**
+ * The selection for commands: each part is read when it is asked for, and once.
+ * @returns {View}
+ */
 export const readView = () => {
   const range = selection.range();
   const once = (read) => {
@@ -62,17 +66,18 @@ export const readView = () => {
   };
 };
 
-// Where a character format is to be read: the elements of the selected texts, or the caret.
+// The elements to read a character format at: those of the selected texts, or the caret's.
 const subjects = ({ range, elements }) =>
   (elements().length ? elements() : [selection.caretElement(range)]);
-// Reads a format at an element; what was chosen for the text to come counts at a caret.
+// A function that reads a format at an element; a format that is pending at the caret counts.
 function reader(name, view) {
   if (pending.has(name) && !view.elements().length) return () => pending.get(name);
   const known = new Map();
   return (element) => formats[name].read(element, known);
 }
 
-function put(name, value, { range, object, elements }) {
+// Puts a format on the selected text, or has it pending at the caret.
+function putFormat(name, value, { range, object, elements }) {
   if (!elements().length) {
     pending.set(name, value);
     return;
@@ -81,37 +86,39 @@ function put(name, value, { range, object, elements }) {
   if (object?.isConnected) selection.selectNode(object);
 }
 
-// A table or a box that is selected has its texts formatted; a picture has none.
+// False where there is no text to format: a picture is selected, or the text takes no markup.
 const takesFormats = ({ object, range, elements }) => elements().length > 0 ||
   (!object && dom.rawAt(range.startContainer) === null);
 const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Status.Disabled);
-// What is done is done to all of the selection, however little of it the answer was read from.
+// A run() that changes all paragraphs of the selection; status() may have read some of them only.
 const onUnits = (change) => (value) => {
   const saved = selection.save();
   changeUnits(saved, (units) => change(lists.wrapStrayText(readUnits(units), saved), value));
 };
 
+// The kinds of rows.
+
 const toggle = (name) => ({
-  status: whereText((view) => spread(subjects(view), reader(name, view))),
+  status: whereText((view) => statusOfAll(subjects(view), reader(name, view))),
   run: (value, view) =>
-    put(name, spread(subjects(view), reader(name, view)) !== Status.Latched, view),
+    putFormat(name, statusOfAll(subjects(view), reader(name, view)) !== Status.Latched, view),
 });
 
 const character = (name) => ({
   status: whereText(() => Status.Enabled),
   run(value, view) {
     const wanted = formats[name].parse(value);
-    if (wanted !== '') put(name, wanted, view);
+    if (wanted !== '') putFormat(name, wanted, view);
   },
 });
 
 const justify = (side) => ({
-  status: (view) => spread(view.units(), (unit) => align.read(unit) === side),
+  status: (view) => statusOfAll(view.units(), (unit) => align.read(unit) === side),
   run: onUnits((units) => align.applyAll(units, side)),
 });
 
 const list = (tag) => {
-  const status = (view) => spread(view.units(), (unit) => lists.listTagOf(unit) === tag);
+  const status = (view) => statusOfAll(view.units(), (unit) => lists.listTagOf(unit) === tag);
   return {
     status: (view) => (view.units().length ? status(view) : Status.Disabled),
     run(value, view) {
@@ -123,14 +130,17 @@ const list = (tag) => {
 
 const query = (value) => ({ status: () => Status.Enabled, value });
 const reading = (name) => query((view) =>
-  common(subjects(view), reader(name, view), formats[name].same));
+  commonValue(subjects(view), reader(name, view), formats[name].same));
 
-// Carried out by the engine itself at the program's call; only its status is answered here.
+// The program has the engine itself carry these out; they have a status only.
 const byEngine = (status) => ({ status });
 const selected = (view) => (view.range.collapsed ? Status.Disabled : Status.Enabled);
 const always = () => Status.Enabled;
 
-/** @type {Map<number, CommandRow>} */
+/**
+ * The commands by their published numbers.
+ * @type {Map<number, CommandRow>}
+ */
 export const commands = new Map([
   [Command.Bold, toggle('bold')],
   [Command.Copy, byEngine(selected)],
@@ -155,7 +165,7 @@ export const commands = new Map([
     },
   }],
   [Command.GetBackColor, reading('backColor')],
-  [Command.GetBlockFormat, query((view) => common(view.units(), blocks.read))],
+  [Command.GetBlockFormat, query((view) => commonValue(view.units(), blocks.read))],
   [Command.GetFontName, reading('fontName')],
   [Command.GetFontSize, reading('fontSize')],
   [Command.GetForeColor, reading('foreColor')],
@@ -197,12 +207,27 @@ export const commands = new Map([
   [Command.UnorderList, list('UL')],
 ]);
 
-// Status, and the value of a query, by number; without a caret nothing applies.
+/**
+ * A command's status; Disabled without a selection.
+ * @param {number} number
+ * @param {View} [view]
+ */
 export const statusOf = (number, view = readView()) =>
   (view.range ? commands.get(number).status(view) : Status.Disabled);
+/**
+ * The value of a query command; empty without a selection.
+ * @param {number} number
+ * @param {View} [view]
+ */
 export const queryValue = (number, view = readView()) =>
   (view.range ? commands.get(number).value(view) : '');
 
+/**
+ * Carries out a command as one step of the history.
+ * @param {number} number
+ * @param {string} [value]
+ * @returns {string | boolean} the value of a query; of any other command whether it applied
+ */
 export const exec = (number, value = '') => {
   const command = commands.get(number);
   if (!command || isWorking()) return false;

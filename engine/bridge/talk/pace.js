@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The pace of the pushes of state. After a rest the push follows as soon as the work at hand is
-// done, so that the toolbar does not lag a frame behind the key; then there is one an animation
-// frame at most. A hidden page has no frames.
+// When the state is pushed to the program. After a rest that is as soon as the work at hand is
+// done, so that the toolbar does not lag a frame behind the key; then once an animation frame at
+// most. A hidden page has no animation frames.
 import * as overlay from '../objects/overlay.js';
 
 const frame = 16;  // milliseconds
@@ -11,9 +11,13 @@ let waiting = false;
 let lastPush = -Infinity;
 let send = () => false;
 
-// Says what a push is: a function that tells whether anything was sent.
+/**
+ * Sets what is called to push.
+ * @param {() => boolean} sender answers whether anything was sent
+ */
 export function pushBy(sender) { send = sender; }
 
+/** True for a page that nobody sees: it has no animation frames. */
 export const isHidden = () => document.visibilityState === 'hidden';
 
 function push() {
@@ -21,6 +25,7 @@ function push() {
   if (send()) lastPush = performance.now();
 }
 
+/** Has the state pushed soon, once, and what is drawn over the page drawn anew. */
 export function schedulePush() {
   overlay.scheduleRedraw();
   if (waiting) return;
@@ -30,5 +35,5 @@ export function schedulePush() {
   else requestAnimationFrame(push);
 }
 
-// Pushes at once where a push is waiting for a frame.
+/** Pushes at once where a push is waiting for a frame. */
 export function flushPush() { if (waiting) push(); }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The pointer: its position goes to the program.
+// Tells the program where the pointer is.
 import { host } from './host.js';
 
 let position = null;
@@ -25,6 +25,7 @@ function pressed(event) {
   tell();
 }
 
+/** Begins to listen on a document that was loaded. */
 export const listenToPointer = () => {
   document.addEventListener('mousemove', moved, true);
   document.addEventListener('mousedown', pressed, true);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// What the program is told of by the page itself: the state after each change, the document's text
-// in idle time.
+// What the page tells the program without being asked: the state after each change, and the mirror
+// (the changes of the document's text) in idle time.
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
 import { changes } from './changes.js';
@@ -10,21 +10,21 @@ import { flushPush, isHidden, pushBy, schedulePush } from './pace.js';
 import { shownGeneration } from './replace.js';
 import { state } from './state.js';
 
-// The document is told of in idle time, when no change came for a while; during steady work after
-// the longer time, so that little is lost with the page's process. Milliseconds.
+// Milliseconds. The mirror is written in idle time when no change came for the pause; during steady
+// work when the lag is over, so that little is lost if the page's process ends.
 const mirrorPause = 200;
 const mirrorLag = 700;
 
-let version = 0;
-let dirty = true;
-let mirrorWaits = false;
-let changedFirst = 0;  // since the mirror was given
+let version = 0;          // counts pushes
+let dirty = true;         // the content changed since the last push
+let mirrorWaits = false;  // until there is idle time
+let changedFirst = 0;     // when, since the mirror was written
 let changedLast = 0;
-let pushedPoints = null;
+let pushedPoints = null;  // the selection at the last push
 
-const whenIdle = () => requestIdleCallback(giveMirror, { timeout: mirrorPause });
+const whenIdle = () => requestIdleCallback(writeMirrorAfterPause, { timeout: mirrorPause });
 
-function wantMirror() {
+function scheduleMirror() {
   changedLast = performance.now();
   if (isHidden()) {
     writeMirror(true);
@@ -34,14 +34,14 @@ function wantMirror() {
     whenIdle();
   }
 }
-function giveMirror(deadline) {
+function writeMirrorAfterPause(deadline) {
   if (!mirrorWaits) return;
   const now = performance.now();
   const busy = now - changedLast < mirrorPause && now - changedFirst < mirrorLag;
   if (busy && !isHidden()) whenIdle();
   else writeMirror(!deadline.didTimeout);
 }
-// `idle` says that there was time left, so that all that was done is on the screen.
+// `idle`: there was time left, so that all changes are on the screen.
 function writeMirror(idle) {
   mirrorWaits = false;
   host().pushMirror(JSON.stringify({ idle, ...changes() }));
@@ -52,30 +52,33 @@ function push() {
   history.settle();
   version += 1;
   host().pushState(JSON.stringify({ version, dirty, generation: shownGeneration(), ...state() }));
-  if (dirty) wantMirror();
+  if (dirty) scheduleMirror();
   dirty = false;
   pushedPoints = selection.points();
   return true;
 }
 pushBy(push);
 
-// The selection moved; nothing new where the last push told of it already.
+/** Has the state pushed after the selection moved, unless the last push had that selection. */
 export function selectionMoved() {
   const known = pushedPoints && selection.samePoints(pushedPoints, selection.points());
   if (dirty || !known) schedulePush();
 }
 
+/** Has the state pushed, and the mirror written, after the content changed. */
 export function contentChanged() {
   dirty = true;
   schedulePush();
 }
 
+// A page that is hidden has neither frames nor idle time: what waits for them is told at once.
 function flushWhenHidden() {
   if (!isHidden()) return;
   flushPush();
   if (mirrorWaits) writeMirror(true);
 }
 
+/** Begins to listen on a document that was loaded. */
 export function listenToVisibility() {
   document.addEventListener('visibilitychange', flushWhenHidden);
 }

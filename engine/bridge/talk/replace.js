@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Another document in the place of this one, as one step of the history: the old nodes wait there
-// to be brought back.
+// Puts another document in the place of this one, as one step of the history, which keeps the old
+// nodes. Each document has a *generation*, a number that the program gave it.
 import * as pending from '../formats/pending.js';
 import { isEditable } from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -11,14 +11,16 @@ import { serialize } from '../page/serialize.js';
 import { work } from '../page/working.js';
 import { schedulePush } from './pace.js';
 
-// Which original a document came from, by its root: undo brings the old root back and with it the
-// original that its bytes are owed to.
+// By root element: undo brings the old root back and with it the generation, by which the program
+// knows the file's text that belongs to it.
 const generations = new WeakMap();
+/** The generation of the document that is shown; 0 for the one that was loaded. */
 export const shownGeneration = () => generations.get(document.documentElement) ?? 0;
 
-// A policy that a page states holds for as long as the page is there.
+// A security policy that a page states holds until another page is loaded.
 const policy = 'meta[http-equiv="content-security-policy" i]';
 
+// True for a document that can take this one's place without a load.
 const exchangeable = (fresh) =>
   isEditable() && fresh.body?.tagName === 'BODY' && fresh.compatMode === document.compatMode &&
   ![document, fresh].some((page) => page.querySelector(policy));
@@ -35,8 +37,9 @@ function exchange(fresh) {
 }
 
 /**
- * Gives the page another address, so that its links resolve against it; whether that was possible.
+ * Gives the page another address without a load, so that its links resolve against that.
  * @param {string} address
+ * @returns {boolean} whether that was possible
  */
 export const moveTo = (address) => {
   try {
@@ -47,8 +50,13 @@ export const moveTo = (address) => {
   }
 };
 
-// Answers the new document's text, or '' where only a load can put it here. A document that is
-// this one already leaves no step.
+/**
+ * Puts the document that a text is parsed to in the place of this one; the caret stays where it
+ * was. One that serializes as this one does only gives it its generation.
+ * @param {string} text
+ * @param {number} generation
+ * @returns {string} the new document's text; empty where only a load can put it here
+ */
 export const replaceDocument = (text, generation) => {
   const fresh = new DOMParser().parseFromString(text, 'text/html');
   if (!exchangeable(fresh)) return '';

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// What the program shows of the selection: the status of every command, the five values, the kind
-// of selection and the element that holds it.
+// What the program shows of the selection: the status of every command, the values of five queries,
+// the kind of selection and the element at its start.
 import * as selection from '../page/selection.js';
 import { commands as table, queryValue, readView, statusOf } from './commands.js';
 import { Command } from './vocabulary.js';
@@ -26,7 +26,10 @@ function kind({ range, object }) {
   return !range || range.collapsed ? 'None' : 'Text';
 }
 
-/** @returns {Omit<State, 'version' | 'dirty' | 'generation'>} */
+/**
+ * The state of the selection now; push.js adds the rest of it.
+ * @returns {Omit<State, 'version' | 'dirty' | 'generation'>}
+ */
 export const state = () => {
   const view = readView();
   const commands = {};
