@@ -1,23 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Addresses that leave the page (copied) are full ones of files; those that come in, by the
-// clipboard or by the engine's dragging, become relative again. The scheme that the program shows
-// pages with is in neither.
+// Addresses in what is copied and pasted. What leaves the page has the full addresses of files
+// (file:); in what comes in they become relative to the page again. The scheme that the program
+// shows pages with (velor-page:) is not to be seen in either.
 
 const scheme = 'velor-page:';
 const attributes = [
   'action', 'background', 'cite', 'codebase', 'data', 'dynsrc', 'href', 'longdesc', 'lowsrc',
   'poster', 'src',
 ];
-// These hold addresses among other things.
+// Attributes that hold addresses among other things.
 const mixed = ['srcset', 'style', 'usemap'];
 const locals = [scheme, 'file:'];
 const selectorOf = (names, marks) =>
   names.flatMap((name) => marks.map((mark) => `[${name}*="${mark}"]`)).join();
 const addresses = new RegExp(`(?:${scheme}|file:)[^\\s"'()<>,]*`, 'g');
 
-const isOurs = () => new URL(document.baseURI).protocol === scheme;
+// True for a page that the program shows from a file.
+const isShownFromFile = () => new URL(document.baseURI).protocol === scheme;
 
+// An address as it is written in this page.
 function relative(address) {
   const target = new URL(address);
   const base = new URL(document.baseURI);
@@ -35,7 +37,12 @@ function relative(address) {
   return (up + to.slice(common).join('/') || './') + target.search + target.hash;
 }
 
-export function narrow(root, marks = locals) {
+/**
+ * Makes addresses of local files relative to the page, in what has come in.
+ * @param {ParentNode} root
+ * @param {string[]} [marks] the schemes of addresses that are changed
+ */
+export function makeRelative(root, marks = locals) {
   const names = [...attributes, ...mixed];
   for (const element of root.querySelectorAll(selectorOf(names, marks))) {
     for (const name of names) {
@@ -47,9 +54,12 @@ export function narrow(root, marks = locals) {
   }
 }
 
-// A link within the page stays one.
-export function widen(root) {
-  if (!isOurs()) return;
+/**
+ * Makes the addresses in copied markup full ones of files; links within the page stay as they are.
+ * @param {ParentNode} root
+ */
+export function makeFull(root) {
+  if (!isShownFromFile()) return;
   for (const element of root.querySelectorAll(attributes.map((name) => `[${name}]`).join())) {
     for (const name of attributes) {
       const value = element.getAttribute(name);
@@ -59,6 +69,7 @@ export function widen(root) {
     }
   }
 }
+// An attribute's value as a full address; null for what is none.
 function resolved(value) {
   try {
     return new URL(value, document.baseURI);
@@ -67,11 +78,12 @@ function resolved(value) {
   }
 }
 
-function arrived({ inputType }) {
+// After what the engine itself has put in.
+function onInput({ inputType }) {
   if (inputType === 'insertFromPaste' || inputType === 'insertFromDrop') {
-    narrow(document, [scheme]);
+    makeRelative(document, [scheme]);
   }
 }
 
-// At the window, so that it comes before the history looks at what arrived.
-addEventListener('input', (event) => arrived(/** @type {InputEvent} */ (event)), true);
+// At the window, which gets the event before the document, where the history makes a step of it.
+addEventListener('input', (event) => onInput(/** @type {InputEvent} */ (event)), true);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Markup of other programs (office documents, mail, browsers) on its way in: its structure, links,
+// Cleans markup of other programs (office documents, mail, browsers): its structure, links,
 // pictures, tables and emphasis stay, its private markup and its looks do not. A new tree is built
-// of what is known; so nothing unknown gets through.
+// of what is known, so that nothing unknown comes in. Functions here answer lists of new nodes.
 import * as dom from '../page/dom.js';
 
 const set = (names) => new Set(names.split(' '));
@@ -20,9 +20,10 @@ const attributes = {
   TABLE: ['border', 'cellpadding', 'cellspacing', 'width'], OL: ['start', 'type'], UL: ['type'],
   TD: ['colspan', 'rowspan', 'align', 'valign'], TH: ['colspan', 'rowspan', 'align', 'valign'],
 };
-const wholes = set('BR HR IMG');
+// Elements without content.
+const empties = set('BR HR IMG');
 
-// What a style says that is emphasis: the tag for it.
+// The tags for what is emphasis in a style.
 /** @type {[tag: string, says: (style: CSSStyleDeclaration) => boolean][]} */
 const styled = [
   ['B', ({ fontWeight }) => /bold/.test(fontWeight) || Number(fontWeight) >= 600],
@@ -32,18 +33,18 @@ const styled = [
   ['SUP', ({ verticalAlign }) => verticalAlign === 'super'],
   ['SUB', ({ verticalAlign }) => verticalAlign === 'sub'],
 ];
-// A way to write "no emphasis" that some programs put around everything.
-const undone = ({ tagName, style }) =>
+// True for an element that its own style makes none: some programs put such a B around everything.
+const isUndone = ({ tagName, style }) =>
   (/^(B|STRONG)$/.test(tagName) && /^(normal|400)$/.test(style.fontWeight)) ||
   (/^(I|EM)$/.test(tagName) && style.fontStyle === 'normal');
 
 const isBlock = (node) => dom.isElement(node) && dom.isBlock(node);
 const hasText = (nodes) => nodes.some((node) => {
   if (dom.isText(node)) return /[^ \n]/.test(node.data);
-  return wholes.has(node.tagName) || hasText([...node.childNodes]);
+  return empties.has(node.tagName) || hasText([...node.childNodes]);
 });
 
-// Breaks at the ends of a line are gaps, or hold open what has text.
+// The nodes of a line less the breaks at its ends, which are there as a gap or to hold it open.
 function withoutGaps(nodes) {
   const isGap = (node) => dom.isBreak(node) || (dom.isText(node) && !hasText([node]));
   const shown = nodes.filter((node) => !isGap(node));
@@ -58,7 +59,7 @@ function paragraphs(nodes) {
   let run = [];
   const flush = () => {
     const shown = withoutGaps(run);
-    if (hasText(shown)) result.push(put('P', shown));
+    if (hasText(shown)) result.push(elementAround('P', shown));
     run = [];
   };
   for (const node of nodes) {
@@ -72,13 +73,14 @@ function paragraphs(nodes) {
   flush();
   return result;
 }
-function put(tag, nodes) {
+function elementAround(tag, nodes) {
   const element = dom.create(tag);
   element.append(...nodes);
   return element;
 }
 
-function safeAddress(name, value) {
+// False for an address that runs a script, or that means something in the other program only.
+function isSafeAddress(name, value) {
   const address = value.trim().replace(/[\u0000-\u0020]/g, '');
   if (name === 'href') return !/^(javascript|vbscript|data):/i.test(address);
   return name !== 'src' || !/^(javascript|cid|blob|about):|msohtml/i.test(address);
@@ -89,55 +91,57 @@ function copyAttributes(from, to) {
   for (const name of attributes[from.tagName] ?? []) {
     const value = from.getAttribute(name);
     const own = name === 'name' && value?.startsWith('_');
-    if (value !== null && !own && safeAddress(name, value)) to.setAttribute(name, value);
+    if (value !== null && !own && isSafeAddress(name, value)) to.setAttribute(name, value);
   }
   return to;
 }
 
-// What an element around blocks says is said in each of their lines.
-function around(nodes, make) {
+// Wraps nodes by `make`, which is given a line's nodes: within each line where there are blocks.
+function wrapLines(nodes, make) {
   if (!hasText(nodes)) return nodes;
   if (!nodes.some(isBlock)) return [make(nodes)];
   return nodes.flatMap((node) => {
-    if (!isBlock(node) || wholes.has(node.tagName)) return around([node], make);
-    const lines = around([...node.childNodes], make);
+    if (!isBlock(node) || empties.has(node.tagName)) return wrapLines([node], make);
+    const lines = wrapLines([...node.childNodes], make);
     node.append(...lines);
     return [node];
   });
 }
 
+// The content with the emphasis that an element's style has.
 function emphasised(nodes, element, inside) {
   if (!nodes.length || !element.hasAttribute('style')) return nodes;
   const names = styled.filter(([, says]) => says(element.style)).map(([tag]) => tag)
     .filter((tag) => !inside.has(tag) && !(tag === 'U' && inside.has('A')));
-  return names.reduce((content, tag) => wrapped(content, tag), nodes);
+  return names.reduce((content, tag) => inEmphasis(content, tag), nodes);
 }
 
-// A heading's lines are bold as they are.
-function wrapped(nodes, tag) {
+// The nodes in an element of emphasis; headings are bold without one.
+function inEmphasis(nodes, tag) {
   const bold = /^(B|STRONG)$/.test(tag);
   return nodes.some(isBlock)
     ? nodes.flatMap((node) =>
       (bold && isBlock(node) && /^(H[1-6]|TH)$/.test(node.tagName)
-        ? [node] : around([node], (content) => put(tag, content))))
-    : around(nodes, (content) => put(tag, content));
+        ? [node] : wrapLines([node], (content) => elementAround(tag, content))))
+    : wrapLines(nodes, (content) => elementAround(tag, content));
 }
 
+// Tags that mean the same for `inside`.
 const same = { STRONG: 'B', EM: 'I', INS: 'U' };
-// What one node becomes: a list of nodes. `inside` are the tags around it.
+// What one node becomes. `inside`: the tags around it.
 function clean(node, inside) {
   if (dom.isText(node)) return [cleanText(node, inside)].filter(({ length }) => length);
   if (!dom.isElement(node) || dropped.has(node.tagName)) return [];
   const tag = node.tagName;
   const kind = same[tag] ?? tag;
-  const plain = undone(node) || (inside.has(kind) && emphasis.has(tag));
+  const plain = isUndone(node) || (inside.has(kind) && emphasis.has(tag));
   const within = new Set([...inside, ...(plain ? [] : [kind])]);
   if (/^(H[1-6]|TH)$/.test(tag)) within.add('B');
-  if (wholes.has(tag)) return whole(node);
+  if (empties.has(tag)) return copyOfEmpty(node);
   const all = [...node.childNodes].flatMap((child) => clean(child, within));
   const content = emphasised(all, node, within);
   if (tag === 'A') return link(node, content);
-  if (emphasis.has(tag) && !plain) return wrapped(content, tag);
+  if (emphasis.has(tag) && !plain) return inEmphasis(content, tag);
   if (structure.has(tag)) return structured(node, content);
   return dom.isBlock(node) ? paragraphs(content) : content;
 }
@@ -145,7 +149,7 @@ function cleanText({ data }, inside) {
   if (inside.has('PRE')) return document.createTextNode(data);
   return document.createTextNode(data.replace(/[ \t\r\n\u00a0]+/g, ' '));
 }
-function whole(node) {
+function copyOfEmpty(node) {
   const copy = copyAttributes(node, dom.create(node.tagName));
   return node.tagName === 'IMG' && !copy.hasAttribute('src') ? [] : [copy];
 }
@@ -153,7 +157,7 @@ function link(node, content) {
   const copy = copyAttributes(node, dom.create('A'));
   if (!copy.hasAttribute('href') && !copy.hasAttribute('name')) return content;
   if (content.some(isBlock)) {
-    return around(content, (line) => {
+    return wrapLines(content, (line) => {
       const part = copy.cloneNode(false);
       copy.removeAttribute('name');
       part.append(...line);
@@ -164,30 +168,32 @@ function link(node, content) {
   return [copy];
 }
 
+// What an element of the structure becomes, given what its content became.
 function structured(node, content) {
   const tag = node.tagName;
   if (/^(UL|OL|DL)$/.test(tag)) return list(node, content);
   if (/^(TABLE|TBODY|THEAD|TFOOT|TR)$/.test(tag)) {
     const parts = content.filter(isBlock);
-    const copy = copyAttributes(node, put(tag, parts));
+    const copy = copyAttributes(node, elementAround(tag, parts));
     return parts.length ? [copy] : [];
   }
   const blocks = content.some(isBlock);
   if (/^(LI|TD|TH|DD|CAPTION)$/.test(tag)) {
-    const inner = blocks ? single(content) : content;
+    const inner = blocks ? unwrapSingle(content) : content;
     const lines = tag === 'LI' && !blocks ? withoutGaps(inner) : inner;
-    return [copyAttributes(node, put(tag, trim(lines)))];
+    return [copyAttributes(node, elementAround(tag, trim(lines)))];
   }
   if (tag === 'BLOCKQUOTE') {
-    return blocks || hasText(content) ? [put(tag, paragraphs(content))] : [];
+    return blocks || hasText(content) ? [elementAround(tag, paragraphs(content))] : [];
   }
   // A paragraph or heading around blocks is none; an empty one is a gap.
   if (blocks) return paragraphs(content);
   const line = tag === 'PRE' ? content : trim(withoutGaps(content));
-  return hasText(line) ? [copyAttributes(node, put(tag, line))] : [];
+  return hasText(line) ? [copyAttributes(node, elementAround(tag, line))] : [];
 }
-// A paragraph that is all of an item is its text.
-function single(content) {
+// The content of an item or cell; a paragraph that is all of it, but for lists behind, is
+// unwrapped.
+function unwrapSingle(content) {
   const shown = content.filter((node) => !dom.isText(node) || hasText([node]));
   if (shown[0]?.tagName === 'P' && shown.slice(1).every(dom.isList)) {
     return [...shown[0].childNodes, ...shown.slice(1)];
@@ -201,19 +207,19 @@ function trim(nodes) {
   if (dom.isText(last)) last.data = last.data.replace(/ $/, '');
   return result.filter((node) => !dom.isText(node) || node.length);
 }
-// Items only; a list directly in a list belongs to the item before it.
+// What a list becomes: one with items only; a list directly in it goes into the item before.
 function list(node, content) {
   const copy = copyAttributes(node, dom.create(node.tagName));
   for (const each of content) {
     if (/^(LI|DT|DD)$/.test(each.tagName ?? '')) copy.append(each);
     else if (copy.lastChild && dom.isList(each)) copy.lastChild.append(each);
-    else if (hasText([each])) copy.append(put('LI', [each]));
+    else if (hasText([each])) copy.append(elementAround('LI', [each]));
   }
   return copy.firstChild ? [copy] : [];
 }
 
-// Office documents write the items of lists as paragraphs, with the sign typed before them. Answers
-// which list such a paragraph belongs to and how deep it lies, 0 for no item; takes the sign out.
+// Office documents write list items as paragraphs, with the bullet or number as text. Takes that
+// out, and answers which list (`name`) the paragraph belongs to and its level in it, 0 for no item.
 function readItem(paragraph) {
   const style = paragraph.getAttribute('style') ?? '';
   const [, name, level = '0'] = /mso-list:\s*(\S+)[^;"]*level(\d)/.exec(style) ?? [];
@@ -237,7 +243,8 @@ function openLists(lists, { level, tag, start }, paragraph) {
   }
 }
 
-function listParagraphs(root) {
+// Makes lists of such paragraphs.
+function makeLists(root) {
   let lists = [];
   let last = null;  // the outermost list
   let of = '';
@@ -259,8 +266,8 @@ function listParagraphs(root) {
   }
 }
 
-// What is between the marks that a program has set around its fragment, with the table or list
-// that it is a part of; all where there are none.
+// What is between the comments that a program has put around its fragment, with the table or list
+// that it is a part of; all of the markup where there are none.
 function partOf(html) {
   const { body } = new DOMParser().parseFromString(html, 'text/html');
   const comments = document.createNodeIterator(body, NodeFilter.SHOW_COMMENT);
@@ -287,8 +294,8 @@ function partOf(html) {
   return holder;
 }
 
-// Source code comes as divisions with kept blanks, a line each.
-function preformat(root) {
+// Makes PRE of source code, which comes as a division with kept blanks for each line.
+function makePreformatted(root) {
   const isCode = ({ style }) => /^pre/.test(style.whiteSpace) &&
     /mono|courier|consolas|menlo/i.test(style.fontFamily);
   for (const code of [...root.querySelectorAll('div[style*="white-space"]')].filter(isCode)) {
@@ -307,11 +314,15 @@ function preformat(root) {
   }
 }
 
-// A fragment of what the markup says, ready to be put in.
+/**
+ * The clean form of another program's markup, ready to be put in.
+ * @param {string} html
+ * @returns {DocumentFragment}
+ */
 export const cleaned = (html) => {
   const body = partOf(html);
-  preformat(body);
-  listParagraphs(body);
+  makePreformatted(body);
+  makeLists(body);
   const content = [...body.childNodes].flatMap((node) => clean(node, new Set()));
   const fragment = document.createDocumentFragment();
   fragment.append(...(content.some(isBlock) ? paragraphs(content) : content));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Copying, cutting and pasting. What is copied carries full addresses, so that it is of use
-// elsewhere; what comes in is cleaned unless it was copied here.
+// Copying, cutting, pasting and dragging. What is copied has full addresses, so that it is of use
+// elsewhere; what comes in is built anew (clean.js) unless it was copied in this program.
 import { deleteToPoint } from '../blocks/deletion.js';
 import { deleteKeepingLooks } from '../blocks/typing.js';
 import * as addresses from './addresses.js';
@@ -20,17 +20,18 @@ const generator = '<meta name="generator" content="Velor Web Creator"';
 const origin = new RegExp(`${generator} data-ends="(closed|open|line) (closed|open|line)">`);
 const originOf = ({ start, end }) => `${generator} data-ends="${start} ${end}">`;
 
-// What must be around a part of the page for it to mean the same elsewhere.
-const holds = (node) => dom.isInline(node) || dom.isList(node) ||
+// True for an element that has to be around a part of the page for it to mean the same elsewhere.
+const isContext = (node) => dom.isInline(node) || dom.isList(node) ||
   /^(DL|TABLE|TBODY|THEAD|TFOOT|TR|PRE)$/.test(node.tagName);
 function contextOf(range) {
   const elements = [];
   let at = range.commonAncestorContainer;
   if (dom.isText(at)) at = at.parentNode;
-  for (; holds(at); at = at.parentNode) elements.push(at);
+  for (; isContext(at); at = at.parentNode) elements.push(at);
   return elements;
 }
 
+// A copy of a range's content, with such elements around it.
 function partOf(range) {
   const content = range.cloneContents();
   for (const element of contextOf(range)) {
@@ -40,10 +41,11 @@ function partOf(range) {
   }
   return content;
 }
-function copied(range) {
+// The markup of a range for the clipboard.
+function copiedMarkup(range) {
   const holder = dom.create('DIV');
   holder.append(partOf(range));
-  addresses.widen(holder);
+  addresses.makeFull(holder);
   // A parser drops the first line end of these.
   for (const { firstChild } of holder.querySelectorAll('pre, listing')) {
     if (dom.isText(firstChild) && firstChild.data.startsWith('\n')) firstChild.insertData(0, '\n');
@@ -51,18 +53,21 @@ function copied(range) {
   return holder.innerHTML;
 }
 
-const isForms = (node) => dom.isElement(node) && node.closest('input, textarea, select');
+// True in a field of a form, where the engine copies and pastes its text.
+const isInField = (node) => dom.isElement(node) && node.closest('input, textarea, select');
 
-function give(data, range) {
-  data.setData('text/html', originOf(openEndsOf(range)) + copied(range));
+// Puts a range on the clipboard, or into what is dragged.
+function putInto(data, range) {
+  data.setData('text/html', originOf(openEndsOf(range)) + copiedMarkup(range));
   data.setData('text/plain', document.getSelection().toString());
 }
 
+// Answers what was copied; null for nothing.
 function copy(event) {
   const range = selection.range();
-  if (!range || range.collapsed || isForms(event.target)) return null;
+  if (!range || range.collapsed || isInField(event.target)) return null;
   event.preventDefault();
-  give(event.clipboardData, range);
+  putInto(event.clipboardData, range);
   return range;
 }
 
@@ -73,16 +78,18 @@ function cut(event) {
   schedulePush();
 }
 
-// Blanks that a page would not show: all but the last of a run, and those before a line. One
-// before the first line parts it from the text that it joins.
-const runKept = (line) => line.replace(/\t/g, '    ').replace(/ (?= )/g, '\u00a0');
-const blanksKept = (line) => runKept(line).replace(/^ /, '\u00a0');
+// Makes no-break spaces of blanks that a page would not show: of all but the last of a run, and in
+// `keepBlanks` of one that a line begins with. The first line joins text that is there: a blank
+// before it is shown.
+const keepRuns = (line) => line.replace(/\t/g, '    ').replace(/ (?= )/g, '\u00a0');
+const keepBlanks = (line) => keepRuns(line).replace(/^ /, '\u00a0');
 
-// Lines of text: paragraphs where empty lines part them, else lines of one; items in a list.
-function lines(text, inList) {
+// Plain text as markup: a paragraph for what stands between empty lines, with breaks in it; in a
+// list for each line (fitIntoList makes items of them).
+function markupOfText(text, inList) {
   const fragment = document.createDocumentFragment();
   const broken = (block) => block.split('\n').flatMap((line, index) =>
-    (index ? [dom.create('BR'), blanksKept(line)] : [runKept(line)]));
+    (index ? [dom.create('BR'), keepBlanks(line)] : [keepRuns(line)]));
   const ends = inList ? /\n+/ : /\n(?:[ \t]*\n)+/;
   const blocks = text.replace(/\r\n?/g, '\n').replace(/^\n+|\n+$/g, '').split(ends);
   if (blocks.length < 2) {
@@ -99,7 +106,7 @@ function lines(text, inList) {
 function textFragment(text, range) {
   const pre = dom.ancestor(
     range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName));
-  if (!pre) return lines(text, Boolean(itemAt(range)));
+  if (!pre) return markupOfText(text, Boolean(itemAt(range)));
   const fragment = document.createDocumentFragment();
   fragment.append(text.replace(/\r\n?/g, '\n'));
   return fragment;
@@ -117,6 +124,7 @@ function linkOf(data) {
   return fragment;
 }
 
+// What the clipboard or a drop has, as markup for this page.
 function fragmentOf(data, range) {
   const html = data.getData('text/html');
   if (!html.trim()) return linkOf(data) ?? textFragment(data.getData('text/plain'), range);
@@ -127,8 +135,8 @@ function fragmentOf(data, range) {
   return document.importNode(own.content, true);
 }
 
-// One paragraph means its text, which joins the one that the caret is in: programs put a P around
-// a single word. On an empty page it stays what it is.
+// Unwraps a paragraph that is all that comes in: its text joins the paragraph at the caret, since
+// programs put a P around a single word too. On an empty page it stays.
 function unwrapSingle(fragment, { startContainer }) {
   const shown = [...fragment.childNodes].filter(dom.isShown);
   const [only] = shown;
@@ -136,11 +144,12 @@ function unwrapSingle(fragment, { startContainer }) {
   if (startContainer !== document.body || dom.hasContent(document.body)) dom.unwrap(only);
 }
 
-// In a list paragraphs and items are items of that list.
+// The list item that a range begins in; null for none.
 function itemAt({ startContainer, startOffset }) {
   const start = dom.isList(startContainer) && startContainer.childNodes[startOffset];
   return dom.ancestor(start || startContainer, (node) => node.tagName === 'LI', dom.isCell);
 }
+// In a list paragraphs and the items of one list become items of that list.
 function fitIntoList(fragment, range) {
   if (!itemAt(range)) return;
   const shown = [...fragment.childNodes].filter(dom.isShown);
@@ -150,7 +159,7 @@ function fitIntoList(fragment, range) {
   }
 }
 
-// No id may be in a page twice.
+// Drops ids that the page has: none may be in it twice.
 function dropKnownIds(fragment) {
   for (const element of fragment.querySelectorAll('[id]')) {
     if (document.getElementById(element.id)) element.removeAttribute('id');
@@ -158,7 +167,7 @@ function dropKnownIds(fragment) {
 }
 
 function paste(event) {
-  if (!dom.isEditable() || isForms(event.target)) return;
+  if (!dom.isEditable() || isInField(event.target)) return;
   event.preventDefault();
   const { clipboardData } = event;
   const says = (type) => clipboardData.getData(type).trim() !== '';
@@ -175,10 +184,12 @@ function openEndsIn(data) {
   return start ? { start, end } : closed;
 }
 
+// Makes the fragment one that goes with what is around the range.
 function fit(fragment, range) {
   unwrapSingle(fragment, range);
   fitIntoList(fragment, range);
 }
+// Puts what the clipboard or a drop has in at the selection, as one step of the history.
 function insert(data, kind) {
   const range = selection.range();
   if (!range) return;
@@ -186,17 +197,17 @@ function insert(data, kind) {
   const open = openEndsIn(data);
   fit(fragment, range);
   dropKnownIds(fragment);
-  addresses.narrow(fragment);
+  addresses.makeRelative(fragment);
   if (!fragment.hasChildNodes()) return;
   history.step(kind, () => put(fragment, open));
   schedulePush();
 }
 
-// What is being dragged out of this page; null for what comes from elsewhere.
+// The range that is being dragged out of this page; null for what comes from elsewhere.
 let dragged = null;
 
-// A picture that is not selected is dragged by itself.
-function dragStarts(event) {
+// The selection is dragged, or a picture that is not in it.
+function startDrag(event) {
   const range = selection.range()?.cloneRange();
   const { target } = event;
   dragged = range && !range.collapsed && range.intersectsNode(target) ? range : null;
@@ -204,14 +215,15 @@ function dragStarts(event) {
     dragged = document.createRange();
     dragged.selectNode(target);
   }
-  if (!dragged || isForms(target)) return;
+  if (!dragged || isInField(target)) return;
   // The engine would have a picture carry a file, which a drop opens or puts beside a page.
   event.dataTransfer.items.clear();
-  give(event.dataTransfer, dragged);
+  putInto(event.dataTransfer, dragged);
 }
-const dragEnds = () => { dragged = null; };
+const endDrag = () => { dragged = null; };
 
-// The engine's own moving of what is dragged within a page takes two steps and doubles ids.
+// Moves (with Ctrl copies) a range to where it is dropped, as one step; the engine would take two
+// and double ids.
 function move(range, event) {
   const target = document.caretRangeFromPoint(event.clientX, event.clientY);
   const isAway = target && document.body.contains(target.startContainer) &&
@@ -246,9 +258,10 @@ function drop(event) {
   insert(event.dataTransfer, 'insertFromDrop');
 }
 
+/** Begins to listen on a document that was loaded. */
 export const listenToClipboard = () => {
-  document.addEventListener('dragstart', dragStarts, true);
-  document.addEventListener('dragend', dragEnds, true);
+  document.addEventListener('dragstart', startDrag, true);
+  document.addEventListener('dragend', endDrag, true);
   document.addEventListener('drop', drop, true);
   document.addEventListener('copy', copy, true);
   document.addEventListener('cut', cut, true);

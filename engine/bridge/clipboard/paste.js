@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Markup put in at the selection exactly as it stands: scripts, handlers, comments and objects stay
-// in it (nothing of it runs while a page is edited).
+// Puts markup in at the selection, exactly as it stands: scripts, handlers, comments and objects
+// stay in it (nothing of it runs while a page is edited). The paragraph at the caret is cut in two
+// where blocks come in.
 import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
 import { dropHolder } from '../blocks/typing.js';
 import { closed, joinsFor } from './openEnds.js';
@@ -30,8 +31,8 @@ function cutAt(node, items) {
   return top;
 }
 
-// Cuts everything up to `top` at the caret. Returns the two halves.
-function cut(node, offset, top) {
+// Cuts an element in two at a point in it; answers both halves.
+function cutInTwo(node, offset, top) {
   if (dom.isText(node)) {
     node = offset === 0 ? node : splitText(node, offset);
   } else {
@@ -50,13 +51,15 @@ function giveName(block, next) {
   block.removeAttribute('id');
   next.id = id;
 }
-// Comments, and the server code that stands as such, stay where an empty block goes.
+// The comments in a block, in document order.
 function commentsIn(block) {
   const walker = document.createTreeWalker(block, NodeFilter.SHOW_COMMENT);
   const comments = [];
   while (walker.nextNode()) comments.push(walker.currentNode);
   return comments;
 }
+// Drops a half that nothing is left in; tells whether it did. Comments, and the
+// server code that stands as such, stay.
 function dropIfHollow(half, next = null) {
   if (dom.isHollow(half) && ![...half.querySelectorAll('*')].some(dom.isAtom)) {
     giveName(half, next);
@@ -66,7 +69,8 @@ function dropIfHollow(half, next = null) {
   return false;
 }
 
-// What a list takes: items, and those of another list; anything else goes into an item.
+// Makes the fragment one that may stand in a list: items, those of lists in it too; anything else
+// goes into an item.
 function makeItems(fragment, list) {
   const definitions = list.tagName === 'DL';
   const tag = definitions ? 'DD' : 'LI';
@@ -80,6 +84,7 @@ function makeItems(fragment, list) {
 }
 const isListOf = (node) => dom.isList(node) || node.tagName === 'DL';
 
+// Puts a fragment with blocks in at a point.
 function putBlocks(fragment, node, offset) {
   const tops = [...fragment.children];
   const items = tops.length > 0 && tops.every(({ tagName }) => tagName === 'LI');
@@ -88,22 +93,23 @@ function putBlocks(fragment, node, offset) {
   const last = fragment.lastChild;
   if (!top) {
     const holder = holderAt(node);
-    putHere(fragment, node, offset);
+    insertAt(fragment, node, offset);
     holder?.remove();
-    afterBlocks(last, null);
+    setCaretBehindBlocks(last, null);
     return;
   }
-  const [before, after] = cut(node, offset, top);
+  const [before, after] = cutInTwo(node, offset, top);
   const first = dom.shownFrom(fragment.firstChild, 'nextSibling');
   before.after(fragment);
   dropEmptyInline(dom.lastLeaf(before));
   dropEmptyInline(dom.firstLeaf(after));
   dropIfHollow(before, first);
-  afterBlocks(last, dropIfHollow(after) ? null : after);
+  setCaretBehindBlocks(last, dropIfHollow(after) ? null : after);
 }
 
-// The caret after inserted blocks: at the start of what follows, else at the end of the last.
-function afterBlocks(last, following) {
+// Puts the caret behind blocks that were put in: to the start of what follows, else to the end of
+// the last one.
+function setCaretBehindBlocks(last, following) {
   const text = following && dom.firstLeaf(following);
   if (text) {
     const range = document.createRange();
@@ -116,15 +122,16 @@ function afterBlocks(last, following) {
   while (shown.previousSibling && !dom.isShown(shown)) shown = shown.previousSibling;
   const leaf = dom.isElement(shown) && shown.tagName !== 'TABLE' ? dom.lastLeaf(shown) : shown;
   if (dom.isText(leaf)) selection.setCaret(leaf, leaf.length);
-  else afterNode(leaf);
+  else setCaretBehind(leaf);
 }
 
-function afterNode(node) {
+function setCaretBehind(node) {
   const index = [...node.parentNode.childNodes].indexOf(node);
   selection.setCaret(node.parentNode, index + 1);
 }
 
-function putHere(fragment, node, offset) {
+// Puts a fragment in at a point, as it is.
+function insertAt(fragment, node, offset) {
   if (dom.isText(node)) {
     const second = offset === 0 ? node : splitText(node, offset);
     if (offset === node.length && second === node) node.after(fragment);
@@ -141,11 +148,11 @@ function holderAt(node) {
   return dom.isHollow(block) ? block.querySelector('br') : null;
 }
 
-// Elements that would stand in their like.
+// Takes emphasis out of the fragment that the text around it has already: no B comes into a B.
 const likes = { STRONG: 'B', EM: 'I', STRIKE: 'S' };
 const emphasis = 'b, strong, i, em, u, s, strike, code, sub, sup';
 const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
-function dropLikes(fragment, node) {
+function dropDoubleEmphasis(fragment, node) {
   const around = new Set();
   for (let at = node; !dom.isBlock(at); at = at.parentNode) around.add(kindOf(at));
   for (const element of fragment.querySelectorAll(emphasis)) {
@@ -154,36 +161,37 @@ function dropLikes(fragment, node) {
 }
 const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
 
+// Puts a fragment without blocks in at a point.
 function putInline(fragment, node, offset) {
   const holder = holderAt(node);
-  dropLikes(fragment, node);
+  dropDoubleEmphasis(fragment, node);
   const last = fragment.lastChild;
   const link = fragment.querySelector('a[href]') && linkAt(node);
   if (link) {
     // No link stands in another one.
-    const [before, after] = cut(node, offset, link);
+    const [before, after] = cutInTwo(node, offset, link);
     before.after(fragment);
     dropEmptyInline(dom.lastLeaf(before));
     dropEmptyInline(dom.firstLeaf(after));
   } else {
-    putHere(fragment, node, offset);
+    insertAt(fragment, node, offset);
   }
   holder?.remove();
   holdOpen(dom.blockOf(node));
   if (dom.isText(last)) selection.setCaret(last, last.length);
-  else afterNode(last);
+  else setCaretBehind(last);
 }
 
 const holdsBlock = (fragment) => [...fragment.querySelectorAll('*')].some(dom.isBlock);
 
-// An id that the page has already stays where it is.
+// Drops ids that the page has: none may be in it twice.
 function dropTakenIds(fragment) {
   for (const element of fragment.querySelectorAll('[id]')) {
     if (document.getElementById(element.id)) element.removeAttribute('id');
   }
 }
 
-// Removes what the fragment replaces; only then is it known which ids are free.
+// Deletes what the fragment replaces, and the ids in the fragment that the page still has then.
 function makeRoom(range, fragment) {
   const object = selection.control(range);
   const gone = object && fragment.firstChild && objects.replaceByLine(object);
@@ -200,7 +208,7 @@ function makeRoom(range, fragment) {
 export const put = (fragment, open = closed) => {
   const replaces = !selection.range().collapsed;
   if (replaces) resolveAll();
-  house(fragment, selection.range().startContainer);
+  wrapParts(fragment, selection.range().startContainer);
   if (fragment.firstChild) dropHolder();
   makeRoom(selection.range(), fragment);
   if (!fragment.firstChild) return;
@@ -218,6 +226,7 @@ function putJoined(fragment, open, range) {
   join();
 }
 
+// Puts a fragment in at the caret.
 function putAt(fragment, { startContainer, startOffset }) {
   if (dom.rawAt(startContainer)) {
     const parts = holdsBlock(fragment) ? [...fragment.childNodes] : [fragment];
@@ -229,15 +238,16 @@ function putAt(fragment, { startContainer, startOffset }) {
   else putInline(fragment, startContainer, startOffset);
 }
 
-// Parts of lists and tables that come without them: items and rows get theirs, cells and options
-// are what they hold.
+// The lists and tables that parts of such stand in.
 const homes = {
   LI: 'UL', DT: 'DL', DD: 'DL', TR: 'TABLE', TBODY: 'TABLE', TFOOT: 'TABLE', THEAD: 'TABLE',
 };
 const takesItems = (node) => node.tagName === 'LI' || dom.isList(node);
 const isIn = (node, home) =>
   dom.ancestor(node, home === 'UL' ? takesItems : isListOf, dom.isCell) !== null;
-function house(fragment, node) {
+// Puts items and rows that come without their list or table into a new one, unless the place that
+// they go to (`node`) is in one; cells and options become what they hold.
+function wrapParts(fragment, node) {
   for (const part of [...fragment.children]) {
     if (/^(CAPTION|COL|COLGROUP|OPTGROUP|OPTION|TD|TH)$/.test(part.tagName)) {
       dom.unwrap(part);
@@ -257,6 +267,11 @@ function house(fragment, node) {
   }
 }
 
+/**
+ * Puts markup in at the selection, as one step of the history. Behind a table that comes alone the
+ * caret goes into its first cell.
+ * @param {string} html
+ */
 export const pasteHTML = (html) => history.step('pasteHTML', () => {
   if (!dom.isEditable()) return;
   selection.ensure();
@@ -269,7 +284,7 @@ export const pasteHTML = (html) => history.step('pasteHTML', () => {
   if (only?.tagName === 'TABLE' && !others.length) enterTable(only);
 });
 
-// Whoever has made a table writes in it.
+// Puts the caret into a new table's first cell, where that is empty.
 function enterTable(table) {
   const cell = table.rows[0]?.cells[0];
   const isEmpty = cell && cell.textContent.trim() === '' && !cell.querySelector('*:not(br)');
