@@ -85,7 +85,7 @@ class AnsweringFileDialog final : public FileDialog {
   const QString &chosen_;
 };
 
-enum class Engine { StandIn, Real };
+enum class Engine { Fake, Real };
 
 class ModelComponents final : public Components {
  public:
@@ -252,7 +252,7 @@ class Subject {
   }
   /// At the start of the page's first paragraph.
   void Type(frmMain &page, const QString &word) {
-    if (engine_ == Engine::StandIn) {
+    if (engine_ == Engine::Fake) {
       auto &component = static_cast<FakeEditingComponent &>(page.DHTML1());
       QString text = component.Memory().document;
       const qsizetype body = text.indexOf(QStringLiteral("<p"), 0, Qt::CaseInsensitive);
@@ -322,7 +322,7 @@ int main(int argc, char **argv) {
   RegisterSchemes();
   QApplication application(argc, argv);
   const bool isReal = QApplication::arguments().value(1) == QStringLiteral("real");
-  Subject subject(isReal ? Engine::Real : Engine::StandIn);
+  Subject subject(isReal ? Engine::Real : Engine::Fake);
   subject.Settle();
   Answer(subject.Tell());
   for (std::string line; !subject.HasEnded() && std::getline(std::cin, line);) {
