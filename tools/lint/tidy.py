@@ -35,6 +35,10 @@ def options_by_file(build):
         output = words.index("-o")
         del words[output : output + 2]
         words = [w for w in words if w != "-c" and w != entry["file"] and "_autogen/" not in w]
+        if "-Winvalid-pch" in words:  # the compiler's precompiled headers say nothing to another one
+            words.remove("-Winvalid-pch")
+            headers = words.index("-include")
+            del words[headers : headers + 2]
         own = options[os.path.realpath(entry["file"])] = []
         for word in words:  # an option and its value become one word
             if own and own[-1] == "-isystem":
