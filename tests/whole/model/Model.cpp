@@ -153,7 +153,8 @@ QJsonObject Model::InJson(const Deed &deed) {
       {Kind::Apply, "apply"},      {Kind::CloseSource, "closesource"},
       {Kind::Close, "close"},      {Kind::DiskFull, "full"},
       {Kind::DiskHasRoom, "room"}, {Kind::Exit, "exit"},
-      {Kind::Kill, "room"}};
+      {Kind::Kill, "room"},        {Kind::Undo, "undo"},
+      {Kind::TakeTheirs, "theirs"}};
   constexpr std::array answers = {"yes", "no", "cancel"};
   QJsonObject sent{{QStringLiteral("do"), QString::fromLatin1(names.value(deed.kind))},
                    {QStringLiteral("answer"),
@@ -188,13 +189,7 @@ QString Model::Act(const Deed &deed) {
                                           : QFile::ReadOwner);
       return {};
     case Kind::ChangeOutside:
-      if (!IsOpen(chosen) && IsWritable(chosen)) {
-        QFile file(chosen);
-        if (file.open(QIODevice::Append)) file.write("<!-- by another program -->");
-        file.close();
-        files_ = Disk();
-      }
-      return {};
+      return IsWritable(chosen) ? ChangeOutside(deed, chosen) : QString();
     default:
       break;
   }
@@ -212,6 +207,43 @@ QString Model::Act(const Deed &deed) {
     return StartAnew();
   }
   return Check(deed, sent, *seen);
+}
+
+QString Model::ChangeOutside(const Deed &deed, const QString &path) {
+  QFile file(path);
+  if (file.open(QIODevice::Append)) file.write("<!-- by another program -->");
+  file.close();
+  files_[path] = Disk().value(path);
+  const QJsonObject sent{{QStringLiteral("do"), QStringLiteral("changed")},
+                         {QStringLiteral("path"), path}};
+  const auto seen = life_->Do(sent);
+  if (!seen) return QStringLiteral("the program has ended");
+  for (Page &page : pages_) {
+    if (page.path != path) continue;
+    page.isAskedAbout = page.IsChanged() || !page.typed.isEmpty();
+    if (!page.isAskedAbout) Load(page, files_[path]);
+  }
+  return Check(deed, sent, *seen);
+}
+
+void Model::Load(Page &page, const Content &content) {
+  page.earlier.push_back(page.shown);
+  page.shown = content;
+  page.saved = content.words;
+  page.savedRest = content.rest;
+  page.isSourceStale = true;
+  page.isAskedAbout = false;
+}
+
+void Model::Undo(Page &page) {
+  if (page.earlier.empty()) return;
+  const Content before = page.earlier.back();
+  page.earlier.pop_back();
+  page.shown.words = before.words;
+  // A page that has had no file has no bytes yet.
+  if (before.rest.isEmpty() || before.rest == page.shown.rest) return;
+  page.shown.rest = before.rest;
+  page.isSourceStale = true;
 }
 
 QString Model::StartAnew() {
@@ -234,8 +266,11 @@ QString Model::StartAnew() {
     const auto before = pages_.size();
     seen = life_->Do({{QStringLiteral("do"), QStringLiteral("restore")}});
     if (!seen) return QStringLiteral("the program has ended while it restored a page");
-    if ((*seen)[QStringLiteral("pages")].toArray().size() <= before)
-      return QStringLiteral("an offered page did not come back");
+    if ((*seen)[QStringLiteral("pages")].toArray().size() > before) continue;
+    // What was kept of a file that is open waits until that page is closed.
+    if ((*seen)[QStringLiteral("status")].toString().contains(QStringLiteral("open already")))
+      break;
+    return QStringLiteral("an offered page did not come back");
   }
   const bool isAllBack = (*seen)[QStringLiteral("offers")].toInt() == 0;
   if (isAllBack && !missing.isEmpty())
@@ -257,7 +292,7 @@ QString Model::TakeRestored(const QJsonObject &seen, Words &missing) {
     page.typed = page.source - page.shown.words;
     if (files_.contains(page.path)) {
       page.saved = files_[page.path].words;
-      page.shown.rest = files_[page.path].rest;
+      page.shown.rest = page.savedRest = files_[page.path].rest;
       page.readOnly = !IsWritable(page.path);
     }
     missing -= page.shown.words + page.typed;
@@ -299,10 +334,13 @@ QString Model::CheckFiles(const Deed &deed, const QJsonObject &sent) {
       const Words all = active->shown.words + active->typed;
       if (content.words != active->shown.words && content.words != all)
         return Sentence(Name(path), " was saved without some words");
-      if (!active->shown.rest.isEmpty() && content.rest != active->shown.rest)
+      const bool isStale = active->isSourceStale && !active->typed.isEmpty();
+      if (!isStale && !active->shown.rest.isEmpty() && content.rest != active->shown.rest)
         return Sentence(Name(path), " was saved with other bytes: ", content.rest.toStdString(),
                         " in place of ", active->shown.rest.toStdString());
       active->shown = content;
+      active->savedRest = content.rest;
+      active->isAskedAbout = false;
       active->typed -= content.words;
       active->saved = content.words;
       active->path = path;
@@ -344,12 +382,27 @@ QString Model::CheckPages(const Deed &deed, const QJsonObject &sent, const QJson
       if (!path.isEmpty() && IsOpen(path)) return Sentence(Name(path), " is open twice");
       const Content file = files_.value(path);
       if (words != file.words) return Sentence(Name(path), " is shown with other words");
-      pages_.insert(number, {path, file, file.words, {}, {}, !path.isEmpty() && !IsWritable(path)});
+      Page opened;
+      opened.path = path;
+      opened.shown = file;
+      opened.saved = file.words;
+      opened.savedRest = file.rest;
+      opened.readOnly = !path.isEmpty() && !IsWritable(path);
+      pages_.insert(number, opened);
       continue;
     }
     Page &known = pages_[number];
+    const Content before = known.shown;
     if (deed.kind == Kind::Type && number == wasActive)
       known.shown.words.insert(sent[QStringLiteral("text")].toString());
+    if (deed.kind == Kind::Undo && number == wasActive) {
+      if (known.isHistoryKnown)
+        Undo(known);
+      else
+        known.shown = {{}, words};
+    }
+    if (deed.kind == Kind::TakeTheirs && number == wasActive && known.isAskedAbout)
+      Load(known, files_.value(known.path));
     // What is applied takes the page's place, words that the source has not got included.
     const bool mayApply = deed.kind == Kind::Apply || deed.kind == Kind::CloseSource;
     if (mayApply && number == wasActive && words == known.source) known.shown.words = words;
@@ -358,6 +411,14 @@ QString Model::CheckPages(const Deed &deed, const QJsonObject &sent, const QJson
       known.shown.words = words;
       known.typed.clear();
     }
+    const bool isStep =
+        number == wasActive && (deed.kind == Kind::Type || mayApply || MayTouchAFile(deed.kind));
+    if (isStep && known.shown.words != before.words) known.earlier.push_back(before);
+    if (mayApply && number == wasActive && known.isSourceStale) {
+      known.shown.rest = known.savedRest = {};
+      known.isHistoryKnown = false;
+    }
+    if (deed.kind == Kind::EditHtml && number == wasActive) known.isSourceStale = false;
     if (words != known.shown.words)
       return Sentence("page ", std::to_string(number), " shows ", Listed(words), " in place of ",
                       Listed(known.shown.words));
