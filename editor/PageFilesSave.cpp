@@ -155,29 +155,33 @@ LinkChoice AskAboutLinks(EditorContext &context, const std::vector<BrokenLink> &
 }
 
 /// Adapts the relative links of a page that goes to another folder, as the person chooses, as one
-/// undo step. Returns whether the document changed.
-bool CarryLinks(EditorContext &context, frmMain &window, const QString &from, const QString &to) {
+/// undo step, and shows it from there. Returns the text before, where the document changed.
+std::optional<QString> CarryLinks(EditorContext &context, frmMain &window, const QString &from,
+                                  const QString &to) {
   if (from.isEmpty() || modGeneral::FolderOfPath(from) == modGeneral::FolderOfPath(to))
-    return false;
+    return std::nullopt;
   Files &files = context.platform.files;
   const QString html = window.DHTML1().TextToSave();
   std::vector<BrokenLink> links = BrokenLinks(html, from, to, files);
-  if (links.empty()) return false;
+  if (links.empty()) return std::nullopt;
   const LinkChoice choice = AskAboutLinks(context, links);
-  if (choice == LinkChoice::Leave) return false;
+  if (choice == LinkChoice::Leave) return std::nullopt;
   if (choice == LinkChoice::TakePictures) TakePicturesAlong(links, to, files);
-  window.DHTML1().LoadText(WithAdapted(html, links), from);
-  return true;
+  window.DHTML1().LoadText(WithAdapted(html, links), to);
+  return html;
 }
 
 void WriteToNewFolder(EditorContext &context, frmMain &window, const QString &from,
                       const QString &to) {
-  const bool isAdapted = CarryLinks(context, window, from, to);
+  const auto before = CarryLinks(context, window, from, to);
   try {
     WriteFile(window, to);
   } catch (const RuntimeError &) {
-    // The page stays in its folder: its links are set back.
-    if (isAdapted) window.DHTML1().ExecCommand(EditingCommand::Undo);
+    // The page stays in its folder: its links are set back, and resolve against it again.
+    if (before) {
+      window.DHTML1().ExecCommand(EditingCommand::Undo);
+      window.DHTML1().LoadText(*before, from);
+    }
     throw;
   }
 }

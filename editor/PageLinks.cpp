@@ -74,7 +74,8 @@ QStringList Encoded(const QStringList &segments) {
 
 /// The path from the new folder to the old one, followed by the address unchanged.
 QString Adapted(QStringView slice, const QString &oldFolder, const QString &newFolder) {
-  QStringList way = Encoded(QDir(newFolder).relativeFilePath(oldFolder).split(u'/'));
+  QStringList way =
+      Encoded(QDir(newFolder).relativeFilePath(oldFolder).split(u'/', Qt::SkipEmptyParts));
   way.removeAll(QStringLiteral("."));
   QStringList rest = slice.toString().split(u'/');
   while (rest.size() > 1 && (rest.front() == u"." || rest.front() == u"..")) {

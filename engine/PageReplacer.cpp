@@ -33,12 +33,20 @@ PageReplacer::PageReplacer(LiveDocument &document, PageLoader &loader, NoticeQue
     : document_(document), loader_(loader), notices_(notices), verifier_(verifier) {}
 
 void PageReplacer::Replace(const QByteArray &bytes, const QString &nativePath) {
+  ReplaceFrom(Source::File, bytes, nativePath);
+}
+
+void PageReplacer::ReplaceText(const QByteArray &bytes, const QString &nativePath) {
+  ReplaceFrom(Source::Text, bytes, nativePath);
+}
+
+void PageReplacer::ReplaceFrom(Source source, const QByteArray &bytes, const QString &nativePath) {
   if (bytes.size() > LargestPage)
     throw RuntimeError::Of(ErrorNumber::OutOfStringSpace, QStringLiteral("LoadDocument"),
                            nativePath);
   auto original = std::make_shared<FaithfulPage>(PageOriginal{bytes, DecodePage(bytes), {}});
   const Lifetime::Watch life = document_.WatchEditor();
-  if (loader_.HasDocument() && SharesFolder(*original, nativePath)) {
+  if (loader_.HasDocument() && SharesFolder(source, *original, nativePath)) {
     switch (ReplaceInPlace(original, nativePath)) {
       case Outcome::Done:
         return;
@@ -52,9 +60,11 @@ void PageReplacer::Replace(const QByteArray &bytes, const QString &nativePath) {
   if (!life.IsOver()) loader_.LoadPage(std::move(original), nativePath);
 }
 
-bool PageReplacer::SharesFolder(const FaithfulPage &page, const QString &nativePath) {
+bool PageReplacer::SharesFolder(Source source, const FaithfulPage &page,
+                                const QString &nativePath) {
   if (FolderOf(nativePath) == FolderOf(document_.NativePath())) return true;
   if (loader_.IsLoading()) return false;
+  if (source == Source::Text) return document_.View()->MoveTo(nativePath);
   const Lifetime::Watch shown = document_.WatchPage();
   EngineVerifier &verifier = verifier_;
   const LiveDocument::Reading reading = document_.Read();

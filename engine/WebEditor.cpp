@@ -169,8 +169,9 @@ void WebEditor::LoadDocument(const QString &path) {
 
 void WebEditor::LoadText(const QString &html, const QString &path) {
   const PageOriginal &original = document_.History().Current()->Original();
-  replacer_.Replace(BytesForText(original, html, EncodingInPlaceOf(original.page.encoding, html)),
-                    ToNative(path));
+  replacer_.ReplaceText(
+      BytesForText(original, html, EncodingInPlaceOf(original.page.encoding, html)),
+      ToNative(path));
 }
 
 void WebEditor::DeliverCompletion() {

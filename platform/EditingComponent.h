@@ -84,7 +84,8 @@ class EditingComponent {
   /// page is made, so that each page has its baseline before the next.
   virtual void DeliverCompletion() = 0;
   /// Like LoadDocument of a file that holds `html`, without looking at the file, which need not
-  /// exist.
+  /// exist. It is a text of the document on show: undo leads back also where the folder is another
+  /// one, against which the links resolve from then on.
   virtual void LoadText(const QString &html, const QString &path) = 0;
   /// Writes the document to a file in the page's own charset and line ends. Raises RuntimeError
   /// when the file cannot be written; an old file then stays whole.

@@ -58,6 +58,8 @@ TEST_F(PageLinks, AreAdaptedInTheSpellingThatTheyHad) {
             "<img src=../../site/sub/pics/c.png>");
   EXPECT_EQ(Adapted("<img src=../picture1.png>", "\\other\\find.htm"),
             "<img src=../site/picture1.png>");
+  EXPECT_EQ(Adapted("<img src=pics/c.png>", "\\site\\sub\\deep\\find.htm"),
+            "<img src=../pics/c.png>");
 }
 
 TEST_F(PageLinks, OfAPageThatStaysInItsFolderOrNamesABaseDoNotBreak) {

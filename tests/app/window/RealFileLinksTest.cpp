@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Pages that name files on mapped drives, in the whole window.
+// Pages that name files by full addresses, on mapped drives too, in the whole window.
 #include "editor/PageSlots.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmMain.h"
@@ -38,6 +38,30 @@ TEST_F(RealFileLinks, PicturesOnMappedDrivesShowInDesignViewAndPreview) {
       Open(QStringLiteral("disk/Site/page.htm"), "<p>one</p><img src='file:///D:/Site/a%20b.svg'>");
   EXPECT_TRUE(Becomes(page, PictureWidth, "23"));
   EXPECT_TRUE(Becomes(Preview(page), PictureWidth, "23"));
+}
+
+TEST_F(RealFileLinks, InAnotherFolderListsOfPicturesAndStylesLeadWhereTheyLed) {
+  Write(QStringLiteral("a.svg"), Picture);
+  QDir().mkpath(folder.FilePath(QStringLiteral("sub")));
+  const QByteArray source =
+      "<style>\nh1 { background: url(a.svg) }\n</style>\n<h1>head</h1>\n"
+      "<IMG srcset='a.svg 1x' SRC=a.svg>\n<p style='background: url(a.svg)'>one\n";
+  frmMain &page = Open(QStringLiteral("page.htm"), source);
+  dialogs.ExpectChoice(
+      QStringLiteral("From the new folder 0 links and 4 pictures of this page would lead nowhere."),
+      QStringLiteral("Adapt"));
+  SharedDialog().ExpectSave(Logic(QStringLiteral("sub/page.htm")));
+  Choose("mnuSaveAs");
+  QByteArray adapted = source;
+  EXPECT_EQ(Bytes(QStringLiteral("sub/page.htm")).toStdString(),
+            adapted.replace("a.svg", "../a.svg").toStdString());
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")), source);
+  EXPECT_TRUE(Becomes(page, PictureWidth, "23"));
+  EXPECT_TRUE(
+      Becomes(page,
+              "new URL(document.images[0].currentSrc).pathname.split('/').at(-2) === 'sub' ? "
+              "'' : 'above'",
+              "above"));
 }
 
 }  // namespace
