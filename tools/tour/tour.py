@@ -29,7 +29,6 @@ SCENARIOS = (
     hours.an_old_page_is_repaired,
     hours.text_moves_between_pages,
     hours.patience_is_lost,
-    start_and_exit.exit_ends_everything,
     projects.a_project_that_moved_is_found_again_and_edited,
     start_and_exit.exit_ends_everything,
 )

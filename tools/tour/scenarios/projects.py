@@ -17,8 +17,6 @@ def catalogue(tour, statement):
 
 def a_project_that_moved_is_found_again_and_edited(tour):
     step("a project's moved folder is asked for, written into the catalogue, its home page edited")
-    # A program of its own: the tab of a page that is saved is found by the page's number.
-    tour.start()
     program = tour.program
     program.click_on("Project Manager")
     manager = program.wait("Web Site Project Manager", WINDOW)
