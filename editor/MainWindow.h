@@ -40,6 +40,8 @@ struct TabState {
   bool hasChanges = false;
   /// Stands behind the caption.
   QString note = {};
+  /// The file cannot be written: changes go under another name.
+  bool isReadOnly = false;
 };
 
 /// The page tabs `FileTab`: one a page, under the key "key" and the page number. Unknown keys raise

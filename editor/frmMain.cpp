@@ -217,7 +217,10 @@ void frmMain::ShowTab() {
                            : QString();
   try {
     context_.mainWindow.tabs.SetState(PageKey(number_),
-                                      {FilePath(), hasSource || journal_.HasChanges(), note});
+                                      {.path = FilePath(),
+                                       .hasChanges = hasSource || journal_.HasChanges(),
+                                       .note = note,
+                                       .isReadOnly = isReadOnly});
   } catch (const RuntimeError &) {
     // The tab may not be there yet, or not any more.
   }

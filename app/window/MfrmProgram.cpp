@@ -257,6 +257,7 @@ void MfrmProgram::ConnectBars() {
           [this](std::int32_t color) { router_.SetBackColor(color); });
   connect(pageTabs_, &PageTabs::PageChosen, this,
           [this](int number) { router_.ActivatePage(number); });
+  connect(pageTabs_, &PageTabs::Pointed, statusLine_, &StatusLine::ShowPlace);
   connect(pageChooser_, &PageChooser::PageChosen, this,
           [this](std::int32_t pageId) { router_.OpenProjectPage(pageId); });
   connect(boxes, &FormattingBar::Done, area_, &PageArea::GiveKeyboard);

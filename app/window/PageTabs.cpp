@@ -7,6 +7,7 @@
 #include "platform/RuntimeError.h"
 
 #include <QFontMetricsF>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyleOptionTab>
@@ -29,6 +30,29 @@ constexpr int NarrowestTab = 72;
 constexpr int MarkHeight = 2;
 /// The dot on the picture of a page with unsaved changes.
 constexpr int ChangeMark = 9;
+/// The padlock on the picture of a page that cannot be saved: its body.
+constexpr QSize Padlock(8, 6);
+
+/// What a tab's state puts on its picture.
+void PaintMarks(QPainter &painter, const QPalette &palette, const TabState &state,
+                const QRect &picture) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (state.isReadOnly) {
+    const QRectF body(picture.topRight() - QPoint(Padlock.width() - 3, -3), Padlock);
+    const QRectF bow = body.adjusted(1.5, -4, -1.5, -Padlock.height() + 4);
+    painter.setPen(QPen(palette.color(QPalette::Text), 1.5));
+    painter.drawArc(bow, 0, 180 * 16);
+    painter.fillRect(body, palette.color(QPalette::Text));
+  }
+  if (state.hasChanges) {
+    painter.setBrush(palette.highlight());
+    painter.setPen(QPen(palette.color(QPalette::Window), 1));
+    painter.drawEllipse(QRect(picture.bottomRight() - QPoint(ChangeMark - 2, ChangeMark - 2),
+                              QSize(ChangeMark, ChangeMark)));
+  }
+  painter.restore();
+}
 
 QString NameOf(const QTabBar &tabs) {
   return tabs.objectName();
@@ -38,6 +62,7 @@ QString NameOf(const QTabBar &tabs) {
 
 PageTabs::PageTabs(QWidget *parent) : QTabBar(parent) {
   setDrawBase(false);
+  setMouseTracking(true);
   setDocumentMode(true);
   setExpanding(false);
   setMovable(false);
@@ -91,9 +116,10 @@ QString PageTabs::Tab::Shown() const {
 void PageTabs::Describe(int index) {
   const Tab &tab = tabs_[static_cast<std::size_t>(index)];
   const QString &place = tab.state.path.isEmpty() ? tab.caption : tab.state.path;
-  // Assistive technology reads the tip as the tab's description.
   QStringList lines{place};
+  if (tab.state.isReadOnly) lines << tr("Read-only");
   if (tab.state.hasChanges) lines << tr("Unsaved changes");
+  // Assistive technology reads the tip as the tab's description.
   if (!tab.state.note.isEmpty()) lines << tab.state.note;
   setTabToolTip(index, lines.join(u'\n'));
 }
@@ -145,6 +171,17 @@ QSize PageTabs::minimumTabSizeHint(int) const {
   return {NarrowestTab, TabHeight};
 }
 
+void PageTabs::mouseMoveEvent(QMouseEvent *event) {
+  QTabBar::mouseMoveEvent(event);
+  const int index = tabAt(event->position().toPoint());
+  Q_EMIT Pointed(index < 0 ? QString() : tabs_[static_cast<std::size_t>(index)].state.path);
+}
+
+void PageTabs::leaveEvent(QEvent *event) {
+  QTabBar::leaveEvent(event);
+  Q_EMIT Pointed({});
+}
+
 void PageTabs::paintEvent(QPaintEvent *) {
   QPainter painter(this);
   const QColor line = Hairline(palette());
@@ -168,15 +205,7 @@ void PageTabs::paintEvent(QPaintEvent *) {
     picture.moveLeft(place.left());
     tabIcon(index).paint(&painter, picture, Qt::AlignCenter,
                          front ? QIcon::Normal : QIcon::Disabled);
-    if (told.state.hasChanges) {
-      painter.setRenderHint(QPainter::Antialiasing);
-      painter.setBrush(palette().highlight());
-      painter.setPen(QPen(palette().color(QPalette::Window), 1));
-      painter.drawEllipse(QRect(picture.bottomRight() - QPoint(ChangeMark - 2, ChangeMark - 2),
-                                QSize(ChangeMark, ChangeMark)));
-      painter.setRenderHint(QPainter::Antialiasing, false);
-      painter.setBrush(Qt::NoBrush);
-    }
+    PaintMarks(painter, palette(), told.state, picture);
     place.setLeft(place.left() + MenuIconSize + TabPadding / 2);
     painter.setPen(front ? palette().color(QPalette::Text) : QuietText(palette()));
     painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,

@@ -29,7 +29,12 @@ class PageTabs final : public QTabBar, public TabStrip {
   /// The person chose a page's tab, be it the one in front. Not emitted by the calls above.
   void PageChosen(int number);
 
+  /// The pointer is on the tab of a page with that file; on none: an empty path.
+  void Pointed(const QString &path);
+
  protected:
+  void mouseMoveEvent(QMouseEvent *event) override;
+  void leaveEvent(QEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
   QSize tabSizeHint(int index) const override;
   QSize minimumTabSizeHint(int index) const override;

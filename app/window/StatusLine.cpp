@@ -15,6 +15,8 @@ StatusLine::StatusLine(QWidget *parent, NoticeTimes times)
   tag_->setObjectName(QStringLiteral("Sta_1"));
   tag_->setTextFormat(Qt::PlainText);
   tag_->setIndent(BarMargin);
+  // A long path gives way to the window, not the other way round.
+  tag_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   addWidget(tag_, 1);
   textForm_->setObjectName(QStringLiteral("Sta_2"));
   textForm_->setAccessibleName(QStringLiteral("Charset and line ends"));
@@ -29,7 +31,19 @@ StatusLine::StatusLine(QWidget *parent, NoticeTimes times)
 }
 
 void StatusLine::ShowTag(const QString &tag) {
-  tag_->setText(tag);
+  tagName_ = tag;
+  ShowTagOrPlace();
+}
+
+void StatusLine::ShowPlace(const QString &path) {
+  place_ = path;
+  ShowTagOrPlace();
+}
+
+void StatusLine::ShowTagOrPlace() {
+  const int room = tag_->width() - 2 * BarMargin;
+  tag_->setText(place_.isEmpty() ? tagName_
+                                 : tag_->fontMetrics().elidedText(place_, Qt::ElideMiddle, room));
 }
 
 void StatusLine::ShowTextForm(const QString &words) {

@@ -33,6 +33,8 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   void Report(const QString &message) override;
   void ReportOn(int page, const QString &message) override;
   bool HasNotice() const override;
+  /// Shows the path of the file that the pointer is on, in place of the tag; empty: the tag again.
+  void ShowPlace(const QString &path);
   /// To be called with the slot of the page that has come to the front, 0 for none: removes the
   /// notices about other pages.
   void PageCame(int page);
@@ -47,9 +49,12 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   template <typename Condition>
   void Drop(Condition isDue);
   void Show();
+  void ShowTagOrPlace();
 
   QLabel *tag_;
   QLabel *textForm_;
+  QString tagName_;
+  QString place_;
   const NoticeTimes times_;
   std::vector<Notice> notices_;  ///< the last one is on show
   QTimer timer_;                 ///< for that one

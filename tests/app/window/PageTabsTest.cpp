@@ -100,5 +100,24 @@ TEST_F(PageTabsTest, ATabTellsItsFileAndUnsavedChanges) {
   EXPECT_EQ(tabs.tabToolTip(0), QStringLiteral("/site/two.htm\nUnsaved changes"));
 }
 
+TEST_F(PageTabsTest, ATabTellsThatItsPageIsReadOnly) {
+  const QImage before = tabs.grab(tabs.tabRect(1)).toImage();
+  tabs.SetState(QStringLiteral("key2"),
+                {.path = QStringLiteral("/cd/two.htm"), .hasChanges = true, .isReadOnly = true});
+  EXPECT_EQ(tabs.tabToolTip(1), QStringLiteral("/cd/two.htm\nRead-only\nUnsaved changes"));
+  EXPECT_NE(tabs.grab(tabs.tabRect(1)).toImage(), before);
+}
+
+TEST_F(PageTabsTest, ThePointerOnATabTellsWhereItsPageLies) {
+  QSignalSpy pointed(&tabs, &PageTabs::Pointed);
+  tabs.SetState(QStringLiteral("key2"), {.path = QStringLiteral("/site/two.htm")});
+  QTest::mouseMove(&tabs, tabs.tabRect(1).center());
+  ASSERT_FALSE(pointed.isEmpty());
+  EXPECT_EQ(pointed.last().at(0).toString(), QStringLiteral("/site/two.htm"));
+  QEvent leaves(QEvent::Leave);
+  QApplication::sendEvent(&tabs, &leaves);
+  EXPECT_EQ(pointed.last().at(0).toString(), QString());
+}
+
 }  // namespace
 }  // namespace velor

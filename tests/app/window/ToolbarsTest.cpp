@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/FormattingBar.h"
+#include "app/window/PageTabs.h"
 #include "chrome/ColorPicker.h"
 #include "chrome/Icons.h"
 #include "editor/frmMain.h"
@@ -161,6 +162,20 @@ TEST_F(ToolbarsTest, TheStatusBarShowsTheStatusTextAgainAfterANotice) {
   EXPECT_FALSE(text->isVisible());
   bar->clearMessage();
   EXPECT_TRUE(text->isVisible());
+}
+
+TEST_F(ToolbarsTest, TheStatusBarTellsThePathOfThePageThatIsPointedAt) {
+  auto *text = Find<QLabel>("Sta_1");
+  Parts().status.ShowTag(QStringLiteral("TD"));
+  Q_EMIT Tabs().Pointed(QStringLiteral("/site/a.htm"));
+  EXPECT_EQ(text->text(), QStringLiteral("/site/a.htm"));
+  Parts().status.ShowTag(QStringLiteral("LI"));
+  EXPECT_EQ(text->text(), QStringLiteral("/site/a.htm"));
+  const int width = window.minimumSizeHint().width();
+  Q_EMIT Tabs().Pointed(QString(4000, u'x'));
+  EXPECT_EQ(window.minimumSizeHint().width(), width) << "a long path leaves the window its size";
+  Q_EMIT Tabs().Pointed({});
+  EXPECT_EQ(text->text(), QStringLiteral("LI"));
 }
 
 }  // namespace
