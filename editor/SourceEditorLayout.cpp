@@ -191,11 +191,7 @@ void frmCodeEditor::PopUpMenu(QPoint place) {
   QAction *wrap = menu->addAction(QStringLiteral("&Wrap Lines"));
   wrap->setCheckable(true);
   wrap->setChecked(ChosenLineWrap(context_.platform.registry) == LineWrap::On);
-  connect(wrap, &QAction::toggled, this, [this](bool on) {
-    const LineWrap chosen = on ? LineWrap::On : LineWrap::Off;
-    ChooseLineWrap(context_.platform.registry, chosen);
-    code_->SetLineWrap(chosen);
-  });
+  connect(wrap, &QAction::triggered, this, [this] { TurnLineWrap(context_); });
   menu->popup(code_->Widget()->mapToGlobal(place));
 }
 

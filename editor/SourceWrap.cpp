@@ -2,7 +2,12 @@
 #include "editor/SourceWrap.h"
 
 #include "app/settings/modSettingManager.h"
+#include "editor/EditorContext.h"
+#include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
+#include "editor/frmMain.h"
 #include "platform/Conversions.h"
+#include "platform/Platform.h"
 
 namespace velor {
 namespace {
@@ -16,8 +21,14 @@ LineWrap ChosenLineWrap(const Registry &registry) {
   return LowerCase(chosen) == QStringLiteral("false") ? LineWrap::Off : LineWrap::On;
 }
 
-void ChooseLineWrap(Registry &registry, LineWrap wrap) {
+void TurnLineWrap(EditorContext &context) {
+  Registry &registry = context.platform.registry;
+  const LineWrap wrap = ChosenLineWrap(registry) == LineWrap::On ? LineWrap::Off : LineWrap::On;
   modSettingManager::SetOption(registry, Setting, BoolText(wrap == LineWrap::On));
+  for (int number = 1; number <= context.pages.PageCount(); ++number) {
+    if (frmMain *page = context.pages.Page(number)) page->Code1().SetLineWrap(wrap);
+    if (frmCodeEditor *editor = context.pages.CodeEditor(number)) editor->Code().SetLineWrap(wrap);
+  }
 }
 
 }  // namespace velor

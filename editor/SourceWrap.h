@@ -6,10 +6,12 @@
 namespace velor {
 
 class Registry;
+struct EditorContext;
 
 /// The preference WrapSource (default "True"): whether source views and source editors wrap long
 /// lines.
 LineWrap ChosenLineWrap(const Registry &registry);
-void ChooseLineWrap(Registry &registry, LineWrap wrap);
+/// Turns that preference over, for every source view and source editor that is open as well.
+void TurnLineWrap(EditorContext &context);
 
 }  // namespace velor

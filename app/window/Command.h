@@ -26,6 +26,9 @@ enum class CommandId {
   InsertTable,
   Preview,
   About,
+  FindCommand,
+  WrapSource,
+  Drives,
 };
 
 struct Command {

@@ -7,6 +7,7 @@
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
+#include "editor/SourceWrap.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
@@ -104,6 +105,15 @@ void CommandRouter::Run(const Command &command) {
       break;
     case CommandId::About:
       host_.ShowAbout();
+      break;
+    case CommandId::FindCommand:
+      host_.ShowCommandPalette();
+      break;
+    case CommandId::WrapSource:
+      TurnLineWrap(context_);
+      break;
+    case CommandId::Drives:
+      host_.ShowDrives();
       break;
   }
 }

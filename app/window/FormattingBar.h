@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 
 class QToolBar;
 
@@ -39,6 +40,9 @@ class FormattingBar final : public QWidget, public FormatDisplay {
   void ShowBlockFormat(const QString &name) override;
   void ShowFontSize(const QString &points) override;
   void ShowNothing() override;
+
+  /// The ten buttons in toolbar order.
+  std::span<ToolBarAction *const> Buttons() const { return buttons_; }
 
  Q_SIGNALS:
   /// A button of `tbrEdit` was clicked. It does not change until ShowButton.

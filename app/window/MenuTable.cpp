@@ -89,7 +89,11 @@ constexpr MenuRow Rows[] = {
     Item("mnuWindowTileVertical", "Vertical (&V)", "mnuWindow"),
 
     Beyond(Menu("mnuTools", "Tools (&T)")),
+    Beyond(Item("mnuFindCommand", "Find Command... (&F)", "mnuTools", {CommandId::FindCommand}, nullptr, "Ctrl+Shift+P")),
     Beyond(Menu("mnuRecent", "Recent Files (&R)", "mnuTools")),
+    Separator("mnu6", "mnuTools"),
+    Beyond(Item("mnuWrapSource", "Wrap Source Lines (&W)", "mnuTools", {CommandId::WrapSource})),
+    Beyond(Item("mnuDrives", "Drives... (&D)", "mnuTools", {CommandId::Drives})),
 
     Menu("mnuHelp_Top", "Help (&H)"),
     Item("mnuAbout", "About", "mnuHelp_Top", {CommandId::About}, "about"),

@@ -2,6 +2,7 @@
 // The main window's parts, how it loads, and how it goes.
 #include "app/window/MfrmProgram.h"
 
+#include "app/window/CommandPalette.h"
 #include "app/window/CoolBar.h"
 #include "app/window/DialogInsertCommands.h"
 #include "app/window/FormattingBar.h"
@@ -17,8 +18,10 @@
 #include "chrome/Palette.h"
 #include "chrome/ProgramWindow.h"
 #include "chrome/ReportingSweeps.h"
+#include "chrome/ToolBarButtons.h"
 #include "chrome/frmAbout.h"
 #include "editor/PagesAtExit.h"
+#include "editor/SourceWrap.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmMain.h"
 #include "platform/Dialogs.h"
@@ -139,11 +142,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
   sourceEditing_->setObjectName(QStringLiteral("mnuEditHTML"));
   BuildLayout();
   setStatusBar(statusLine_);
-  if (QMenu *recent = menus_.menus.value(QStringLiteral("mnuRecent"))) {
-    new RecentFiles(
-        *recent, platform.registry, [this](const QString &path) { router_.OpenRecentFile(path); },
-        this);
-  }
+  PrepareTools();
   new WindowList(*menus_.menus.value(QStringLiteral("mnuWindow")), *area_, this);
 }
 
@@ -164,6 +163,19 @@ void MfrmProgram::BuildLayout() {
   column->addWidget(recovery_);
   column->addWidget(area_, 1);
   setCentralWidget(center);
+}
+
+void MfrmProgram::PrepareTools() {
+  QMenu *tools = menus_.menus.value(QStringLiteral("mnuTools"));
+  if (tools == nullptr) return;
+  new RecentFiles(
+      *menus_.menus.value(QStringLiteral("mnuRecent")), platform_.registry,
+      [this](const QString &path) { router_.OpenRecentFile(path); }, this);
+  QAction &wrap = MenuItem({CommandId::WrapSource});
+  wrap.setCheckable(true);
+  // Source editors have the same choice in their own menus.
+  connect(tools, &QMenu::aboutToShow, this,
+          [this, &wrap] { wrap.setChecked(ChosenLineWrap(platform_.registry) == LineWrap::On); });
 }
 
 QWidget *MfrmProgram::BuildTabRow() {
@@ -317,6 +329,25 @@ void MfrmProgram::ShowProjectManager() {
 void MfrmProgram::ShowAbout() {
   frmAbout about(platform_.runtime, this);
   platform_.dialogs.RunModal(about);
+}
+
+void MfrmProgram::ShowCommandPalette() {
+  QList<NamedCommand> commands;
+  for (const MenuRow &row : MenuTable()) {
+    const bool isOwn = row.command.id == CommandId::FindCommand;
+    if (row.kind != MenuKind::Item || row.command.id == CommandId::None || isOwn) continue;
+    commands.append({SpokenCaption(QString::fromLatin1(row.caption)), &MenuItem(row.command)});
+  }
+  for (ToolBarAction *button : bandBar_->Formatting().Buttons())
+    commands.append({button->toolTip(), button});
+  const QPointer<MfrmProgram> alive = this;
+  CommandPalette palette(commands, this);
+  platform_.dialogs.RunModal(palette);
+  if (!alive.isNull() && palette.Chosen() != nullptr) palette.Chosen()->trigger();
+}
+
+void MfrmProgram::ShowDrives() {
+  projects_->ShowDrives(*this);
 }
 
 void MfrmProgram::CloseProgram() {

@@ -74,6 +74,8 @@ class MfrmProgram final : public QMainWindow,
   void ChooseMenuStyle(int index) override;
   void ShowProjectManager() override;
   void ShowAbout() override;
+  void ShowCommandPalette() override;
+  void ShowDrives() override;
   void CloseProgram() override;
 
   // LoadSteps
@@ -91,6 +93,8 @@ class MfrmProgram final : public QMainWindow,
   /// Updates bars and titles for the window that has come to the front.
   void ShowFront();
   void MarkMenuStyle(int index);
+  /// The menu Tools, where it is there: the files opened last, and what is chosen there.
+  void PrepareTools();
 
   Platform &platform_;
   const Additions additions_;

@@ -37,6 +37,11 @@ void ProjectDesk::ShowProjectManager(QWidget &parent) {
   context_.platform.dialogs.RunModal(*manager_);
 }
 
+void ProjectDesk::ShowDrives(QWidget &parent) {
+  FrmDrives drives(context_.platform.dialogs, DriveMapFile(), &parent);
+  context_.platform.dialogs.RunModal(drives);
+}
+
 void ProjectDesk::ReportCatalogueDefect() {
   if (!catalogue_) return;
   const QString defect = catalogue_->Defect();

@@ -31,6 +31,9 @@ class ProjectDesk final : public ProjectHost {
   /// it; after it was closed, in that of a new one.
   void ShowProjectManager(QWidget &parent);
 
+  /// Shows the window of the drive map modally over `parent`.
+  void ShowDrives(QWidget &parent);
+
   /// Reports a damaged catalogue (DatabaseConnection::Defect) in the status bar.
   void ReportCatalogueDefect();
 

@@ -3,8 +3,12 @@
 #include "app/window/PageTabs.h"
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
+#include "tests/support/FakeSourceControl.h"
 
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMenuBar>
+#include <QTest>
 
 namespace velor {
 namespace {
@@ -219,6 +223,72 @@ TEST_F(MenusTest, TheRecentFilesAreListedLatestFirstAndOpen) {
   ASSERT_EQ(Tabs().count(), 1);
   EXPECT_EQ(Tabs().tabText(0), QStringLiteral("b.htm"));
   EXPECT_EQ(Tabs().tabToolTip(0), QStringLiteral("/site/b.htm"));
+}
+
+TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
+  EXPECT_EQ(Tree(Find<QMenu>("mnuTools")->actions()).toStdString(),
+            R"tree(mnuFindCommand "Find Command... (&F)" Ctrl+Shift+P
+mnuRecent "Recent Files (&R)"
+mnu6 "-"
+mnuWrapSource "Wrap Source Lines (&W)"
+mnuDrives "Drives... (&D)"
+)tree");
+}
+
+TEST_F(MenusTest, SourceLinesWrapAsChosenInToolsAtOnceAndInLaterPages) {
+  frmMain &page = NewPage();
+  page.ChangeMode(2);
+  QMenu &tools = *Find<QMenu>("mnuTools");
+  const auto isMarked = [&] {
+    Q_EMIT tools.aboutToShow();
+    return Item("mnuWrapSource")->isChecked();
+  };
+  const auto wrapOf = [](frmMain &shown) {
+    return static_cast<FakeSourceControl &>(shown.Code1()).wrap;
+  };
+  EXPECT_TRUE(isMarked());
+  EXPECT_EQ(wrapOf(page), LineWrap::On);
+  Choose("mnuWrapSource");
+  EXPECT_FALSE(isMarked());
+  EXPECT_EQ(wrapOf(page), LineWrap::Off);
+  frmMain &later = NewPage();
+  later.ChangeMode(2);
+  EXPECT_EQ(wrapOf(later), LineWrap::Off);
+  Choose("mnuWrapSource");
+  EXPECT_TRUE(isMarked());
+  EXPECT_EQ(wrapOf(page), LineWrap::On);
+}
+
+TEST_F(MenusTest, ACommandIsFoundByWordsAndRunOnWhatIsInFront) {
+  const auto type = [](QWidget &palette, const QString &words) {
+    auto *line = palette.findChild<QLineEdit *>(QStringLiteral("txtWords"));
+    line->setText(words);
+    QTest::keyClick(line, Qt::Key_Return);
+  };
+  dialogs.ExpectModal([](QWidget &palette) {
+    const auto *list = palette.findChild<QListWidget *>(QStringLiteral("lstCommands"));
+    EXPECT_EQ(list->item(0)->text(), QStringLiteral("New Document (Ctrl+N)"));
+    EXPECT_TRUE(list->findItems(QStringLiteral("Bold"), Qt::MatchExactly).isEmpty());
+    palette.close();
+  });
+  Choose("mnuFindCommand");
+  NewPage();
+  log.clear();
+  dialogs.ExpectModal([&](QWidget &palette) { type(palette, QStringLiteral("all SEL")); });
+  Choose("mnuFindCommand");
+  EXPECT_EQ(Commands(), QStringList(QStringLiteral("ExecCommand(5035)")));
+  log.clear();
+  dialogs.ExpectModal([&](QWidget &palette) { type(palette, QStringLiteral("no such thing")); });
+  Choose("mnuFindCommand");
+  EXPECT_TRUE(Commands().isEmpty());
+}
+
+TEST_F(MenusTest, ToolsShowsTheDrives) {
+  dialogs.ExpectModal([](QWidget &shown) {
+    EXPECT_EQ(shown.objectName(), QStringLiteral("FrmDrives"));
+    shown.close();
+  });
+  Choose("mnuDrives");
 }
 
 TEST_F(MenusTest, TheChosenMenuStyleIsMarked) {

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+#include <QList>
+#include <QPointer>
+
+class QAction;
+class QLineEdit;
+class QListWidget;
+class QListWidgetItem;
+
+namespace velor {
+
+/// What the palette calls a command, and the item that runs it.
+struct NamedCommand {
+  QString name;
+  QAction *item;
+};
+
+/// Finds a command by some words of its name. Commands that cannot be used now are not listed.
+class CommandPalette final : public QDialog {
+  Q_OBJECT
+
+ public:
+  CommandPalette(const QList<NamedCommand> &commands, QWidget *parent);
+
+  /// The item that the person chose; null for none. It is run when the window has closed, so that
+  /// it acts on what is in front.
+  QAction *Chosen() const { return chosen_; }
+
+ protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+ private:
+  /// Lists the commands whose names hold every word typed.
+  void Filter();
+  void Choose(const QListWidgetItem *entry);
+
+  QList<NamedCommand> commands_;
+  QLineEdit *words_;
+  QListWidget *list_;
+  QPointer<QAction> chosen_;
+};
+
+/// A caption as it is read: without the letter for its key and the dots.
+QString SpokenCaption(QString caption);
+
+}  // namespace velor
