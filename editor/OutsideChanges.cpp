@@ -70,6 +70,12 @@ OutsideChanges::OutsideChanges(EditorContext &context, frmMain &page)
   connect(&retry_, &QTimer::timeout, this, &OutsideChanges::Look);
   if (context.platform.watches == nullptr) return;
   watch_ = context.platform.watches->Begin([this](const QString &) { Look(); });
+  parts_ = context.platform.watches->Begin(
+      [this](const QString &path) { page_.DHTML1().ShowAnew(path); });
+}
+
+void OutsideChanges::FollowParts(const QStringList &paths) {
+  if (parts_) parts_->SetFiles(paths);
 }
 
 void OutsideChanges::Follow(const QString &path) {

@@ -31,6 +31,9 @@ class OutsideChanges final : public QFrame {
   /// Watches this file (logic form) from now on, instead of the one before. PageSlots::Trace has
   /// the content that the page knows.
   void Follow(const QString &path);
+  /// Follows the files that the page shows, in place of those before: one that changes is shown
+  /// anew.
+  void FollowParts(const QStringList &paths);
 
  protected:
   void paintEvent(QPaintEvent *event) override;
@@ -53,6 +56,7 @@ class OutsideChanges final : public QFrame {
   EditorContext &context_;
   frmMain &page_;
   std::unique_ptr<FileWatch> watch_;  ///< null where files are not watched
+  std::unique_ptr<FileWatch> parts_;  ///< likewise
   QString path_;
   bool isThere_ = true;
   bool isReadOnly_ = false;

@@ -80,6 +80,10 @@ frmBrowser::frmBrowser(EditorContext &context)
   setFocusProxy(browser_->Widget());
 
   browser_->SetListener(this);
+  if (context.platform.watches == nullptr) return;
+  parts_ = context.platform.watches->Begin([this](const QString &) {
+    if (isVisible()) browser_->Refresh();
+  });
 }
 
 frmBrowser::~frmBrowser() {
@@ -178,6 +182,10 @@ void frmBrowser::closeEvent(QCloseEvent *event) {
 
 void frmBrowser::StatusTextChanged(const QString &text) {
   statusText_->setText(text);
+}
+
+void frmBrowser::PartsShown(const QStringList &paths) {
+  if (parts_) parts_->SetFiles(paths);
 }
 
 void frmBrowser::ProgressChanged(int progress, int maximum) {

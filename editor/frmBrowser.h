@@ -5,6 +5,7 @@
 #include "editor/EditorContext.h"
 #include "editor/FrontWindow.h"
 #include "platform/Browser.h"
+#include "platform/FileWatch.h"
 
 #include <QRect>
 #include <QString>
@@ -80,6 +81,7 @@ class frmBrowser : public QWidget,
  private:
   void StatusTextChanged(const QString &text) override;
   void ProgressChanged(int progress, int maximum) override;
+  void PartsShown(const QStringList &paths) override;
 
   void BuildToolBar();
   void BuildStatusBar();
@@ -88,6 +90,7 @@ class frmBrowser : public QWidget,
   EditorContext &context_;
   std::unique_ptr<Browser> browser_;
   int page_ = 0;
+  std::unique_ptr<FileWatch> parts_;  ///< of the page's files; null where files are not watched
   QToolBar *toolBar_ = nullptr;
   QStatusBar *statusBar_ = nullptr;
   QLabel *statusText_ = nullptr;

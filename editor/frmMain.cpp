@@ -280,6 +280,10 @@ void frmMain::ComponentReported(const QString &message) {
   context_.mainWindow.status.ReportOn(number_, message);
 }
 
+void frmMain::PartsShown(const QStringList &paths) {
+  outside_->FollowParts(paths);
+}
+
 void frmMain::FilesDropped(const QStringList &paths) {
   context_.mainWindow.requests.TakeDroppedFiles(paths, this);
 }

@@ -110,6 +110,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void ContextMenuRequested(QPoint screenPosition) override;
   void MouseNotified(int clientX, int clientY) override;
   void ComponentReported(const QString &message) override;
+  void PartsShown(const QStringList &paths) override;
   void FilesDropped(const QStringList &paths) override;
 
   void BuildToolBar();

@@ -52,8 +52,17 @@ bool IsLocal(const QUrl &address) {
 }  // namespace
 
 void RequestBlocker::interceptRequest(QWebEngineUrlRequestInfo &request) {
-  if (!IsLocal(request.requestUrl())) return request.block(true);
-  if (const auto mapped = UrlOfMappedDrive(request.requestUrl())) request.redirect(*mapped);
+  const QUrl address = request.requestUrl();
+  if (!IsLocal(address)) return request.block(true);
+  const auto mapped = UrlOfMappedDrive(address);
+  if (address.isLocalFile())
+    Q_EMIT FileAsked(request.firstPartyUrl().host(), PartName(address),
+                     mapped.value_or(address).toLocalFile());
+  if (mapped) request.redirect(*mapped);
+}
+
+EditingEngine::EditingEngine() {
+  QObject::connect(&blocker_, &RequestBlocker::FileAsked, &scheme_, &PageScheme::PartAsked);
 }
 
 QWebEngineProfile &EditingEngine::Profile() {

@@ -18,11 +18,16 @@ class RequestBlocker : public QWebEngineUrlRequestInterceptor {
 
  public:
   void interceptRequest(QWebEngineUrlRequestInfo &request) override;
+
+ Q_SIGNALS:
+  /// As PageScheme::PartAsked, for a file that is named by a full address.
+  void FileAsked(const QString &page, const QString &name, const QString &file);
 };
 
 /// What all editing components share. It must outlive them.
 class EditingEngine {
  public:
+  EditingEngine();
   /// The profile, which stores nothing; made at its first use, since that starts the browser
   /// engine.
   QWebEngineProfile &Profile();

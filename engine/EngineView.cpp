@@ -72,6 +72,10 @@ void EngineView::ConnectHost() {
   connect(&host_, &BridgeHost::EarlierWanted, this, whenReady(&EngineView::EarlierWanted));
   connect(&host_, &BridgeHost::LaterWanted, this, whenReady(&EngineView::LaterWanted));
   connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
+  connect(&engine_.Scheme(), &PageScheme::PartAsked, this,
+          [this](const QString &page, const QString &name, const QString &file) {
+            if (page == address_.host()) Q_EMIT PartAsked(name, file);
+          });
   connect(&host_, &BridgeHost::InputArrived, &turns_, &TurnQueue::ProbeArrived);
 }
 

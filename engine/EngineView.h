@@ -84,6 +84,8 @@ class EngineView : public QObject, private PageWays {
   /// Changes of the document's text, as PageMirror::Apply takes them; `idle` in it says that all
   /// input before is on the screen.
   void MirrorArrived(const QVariantMap &changes);
+  /// The page asks for a file: its name in the bridge (PartName), and the native file.
+  void PartAsked(const QString &name, const QString &file);
   /// Paste was asked for where the clipboard has no text.
   void PictureWanted();
   /// Undo was asked for at the beginning of the page's own history; redo at its end.

@@ -19,6 +19,7 @@ enum class Notice {
   Complete,
   Display,
   Memory,
+  Parts,
   Picture,
   Pointer,
   Menu,

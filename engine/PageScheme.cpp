@@ -32,6 +32,10 @@ QString FileOf(const QUrl &address) {
 
 }  // namespace
 
+QString PartName(const QUrl &address) {
+  return address.scheme() + u':' + address.path(QUrl::FullyDecoded);
+}
+
 void RegisterSchemes() {
   RegisterSiteScheme();
   if (!QWebEngineUrlScheme::schemeByName(PageScheme::Name()).name().isEmpty()) return;
@@ -75,7 +79,10 @@ void PageScheme::requestStarted(QWebEngineUrlRequestJob *job) {
     job->reply(QByteArrayLiteral("text/html; charset=utf-8"), buffer);
     return;
   }
-  auto *file = new QFile(FileOf(address), job);
+  const QString path = FileOf(address);
+  Q_EMIT PartAsked(address.host(), PartName(address),
+                   path.isEmpty() ? address.path(QUrl::FullyDecoded) : path);
+  auto *file = new QFile(path, job);
   if (file->fileName().isEmpty() || !file->open(QIODevice::ReadOnly)) {
     job->fail(QWebEngineUrlRequestJob::UrlNotFound);
     return;

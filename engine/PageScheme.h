@@ -14,6 +14,9 @@ namespace velor {
 /// Repeating it is harmless.
 void RegisterSchemes();
 
+/// The scheme and path of an address, as the bridge tells files apart.
+QString PartName(const QUrl &address);
+
 /// The scheme under which pages are shown for editing. A page's address is its own native path, so
 /// that its relative links resolve to the files beside it, with a query that names the text on
 /// offer; the text itself comes from memory, already decoded. Every other address of the scheme is
@@ -33,6 +36,11 @@ class PageScheme : public QWebEngineUrlSchemeHandler {
   void Withdraw(const QUrl &address);
 
   void requestStarted(QWebEngineUrlRequestJob *job) override;
+
+ Q_SIGNALS:
+  /// A page asks for a file of its own: the host of the page's address, the scheme and path that
+  /// it asked by, and the native file, which need not exist. From inside the engine.
+  void PartAsked(const QString &page, const QString &name, const QString &file);
 
  private:
   std::map<QString, QByteArray> offered_;  ///< UTF-8, by Key of the address

@@ -92,6 +92,8 @@ void WebEditor::ConnectView(EngineView &view) {
                    [=, this] { post(Notice::Died, [this] { loader_.ReloadAfterCrash(); }); });
   QObject::connect(&view, &EngineView::PictureWanted,
                    [=, this] { post(Notice::Picture, [this] { PastePicture(); }); });
+  QObject::connect(&view, &EngineView::PartAsked,
+                   [this](const QString &name, const QString &file) { PartAsked(name, file); });
   QObject::connect(&view, &EngineView::EarlierWanted, [=, this] {
     post(Notice::StepOverLoad, [this] { replacer_.StepOverLoad(Direction::Earlier); });
   });
@@ -132,6 +134,27 @@ void WebEditor::PastePicture() {
   const QString markup = PastedPicture(document_.NativePath());
   if (!markup.isEmpty())
     document_.Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(markup)));
+}
+
+void WebEditor::PartAsked(const QString &name, const QString &file) {
+  if (!partsOf_ || partsOf_->IsOver()) {
+    parts_.clear();
+    partsOf_ = document_.WatchPage();
+  }
+  QStringList &names = parts_[ToLogic(file)];
+  if (names.contains(name)) return;
+  names << name;
+  notices_.PostToListener(Notice::Parts, [this](EditingListener &listener) {
+    QStringList paths;
+    for (const auto &[path, known] : parts_) paths << path;
+    listener.PartsShown(paths);
+  });
+}
+
+void WebEditor::ShowAnew(const QString &path) {
+  const auto part = parts_.find(path);
+  if (part == parts_.end()) return;
+  document_.Run(QStringLiteral("velor.showAnew(%1)").arg(ScriptValue(part->second)));
 }
 
 void WebEditor::TellOfFiles(const QStringList &nativePaths) {

@@ -9,6 +9,9 @@
 #include "engine/WebDocument.h"
 #include "platform/EditingComponent.h"
 
+#include <map>
+#include <optional>
+
 namespace velor {
 
 class Files;
@@ -45,6 +48,7 @@ class WebEditor : public EditingComponent {
   QString Charset() const override;
   QString TextForm() const override;
   bool HasByteOrderMark() const override;
+  void ShowAnew(const QString &path) override;
   ElementPlaces CaretPlaces() override;
   void ShowPlace(const ElementPlaces &places) override;
   QVariant ExecCommand(EditingCommand command, ExecOption option, const QVariant &value) override;
@@ -64,6 +68,8 @@ class WebEditor : public EditingComponent {
   void StateArrived(const StateSnapshot &state);
   /// The picture or the files on the clipboard go into the page.
   void PastePicture();
+  /// The page asks for a file that it shows; `name` is the file's in the bridge.
+  void PartAsked(const QString &name, const QString &file);
   /// Tells the listener of files that were dropped or pasted.
   void TellOfFiles(const QStringList &nativePaths);
   const PageEncoding &Encoding() const;
@@ -72,7 +78,10 @@ class WebEditor : public EditingComponent {
   Files &files_;
   ViewOptions options_;
   TypingWatch typing_;
-  NoticeQueue notices_;  ///< outlives the parts, which post to it
+  /// The files that the page shows, by logic path, with their names in the bridge.
+  std::map<QString, QStringList> parts_;
+  std::optional<Lifetime::Watch> partsOf_;  ///< the page that they belong to
+  NoticeQueue notices_;                     ///< outlives the parts, which post to it
   LiveDocument document_;
   WebDocument documentObject_;
   PageLoader loader_;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
 class QWidget;
@@ -15,6 +16,9 @@ class BrowserListener {
   /// Text for the status bar: the address of the link under the pointer, else the state of the
   /// load. Also reports that the page's process has ended; Refresh shows the page again then.
   virtual void StatusTextChanged(const QString &text) = 0;
+  /// The page shows these files of its site beside its own, style sheets and pictures, paths in
+  /// logic form; told whenever there is another.
+  virtual void PartsShown(const QStringList &) {}
   /// Progress of a load as two 32-bit numbers; it is complete when both are equal.
   virtual void ProgressChanged(int progress, int maximum) = 0;
 };

@@ -45,6 +45,9 @@ class EditingListener {
   /// Text for the status bar (the page's engine stopped, was restarted ...); the empty text clears
   /// the last one.
   virtual void ComponentReported(const QString &message) = 0;
+  /// The page shows these files beside its own, style sheets and pictures, paths in logic form;
+  /// told whenever there is another. A file need not exist.
+  virtual void PartsShown(const QStringList &) {}
   /// Files were dropped on the page or pasted, paths in logic form. The component has put the caret
   /// where they were dropped and does nothing else with them.
   virtual void FilesDropped(const QStringList &) {}
@@ -117,6 +120,10 @@ class EditingComponent {
   virtual QString TextForm() const = 0;
   /// Whether the page's bytes begin with a byte order mark.
   virtual bool HasByteOrderMark() const = 0;
+
+  /// Shows a file of PartsShown as it is on the disk now; document, caret, scroll and undo history
+  /// stay as they are.
+  virtual void ShowAnew(const QString & /*path*/) {}
 
   /// The place of the caret or of the selection's start; empty where there is none or the page does
   /// not answer.

@@ -5,6 +5,7 @@
 import { pasteHTML } from './clipboard/paste.js';
 import { setDetails } from './objects/details.js';
 import { setSnap } from './objects/grid.js';
+import { showAnew } from './objects/parts.js';
 import { restorePaths } from './page/paths.js';
 import { setCaretAtPixel } from './page/selection.js';
 import { serialize } from './page/serialize.js';
@@ -30,6 +31,7 @@ globalThis.velor = {
   showPlace,
   setDetails,
   setSnap,
+  showAnew,
   changes,
   mirror,
   parsed,

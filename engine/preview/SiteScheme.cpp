@@ -115,7 +115,10 @@ void SiteScheme::requestStarted(QWebEngineUrlRequestJob *job) {
     buffer->setData(text);
     return job->reply(QByteArrayLiteral("text/html; charset=utf-8"), buffer);
   }
-  auto *file = new QFile(Find(address), job);
+  const QString path = Find(address);
+  if (!path.isEmpty() && FileOf(address) != sites_.value(address.host()).page)
+    Q_EMIT PartServed(path);
+  auto *file = new QFile(path, job);
   if (!file->fileName().isEmpty() && file->open(QIODevice::ReadOnly))
     return job->reply(QMimeDatabase().mimeTypeForFile(file->fileName()).name().toLatin1(), file);
   if (IsInside(address)) return job->fail(QWebEngineUrlRequestJob::UrlNotFound);

@@ -41,6 +41,9 @@ class SiteScheme : public QWebEngineUrlSchemeHandler {
   void requestStarted(QWebEngineUrlRequestJob *job) override;
 
  Q_SIGNALS:
+  /// A file is served, other than the page that its site was made for; native. From inside the
+  /// engine.
+  void PartServed(const QString &file);
   /// A file outside of its page's site was requested, and not served.
   void Refused(const QString &file);
 

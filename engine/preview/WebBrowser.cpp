@@ -3,6 +3,7 @@
 
 #include "engine/FileDrops.h"
 #include "engine/preview/BrowserPage.h"
+#include "platform/Paths.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -102,6 +103,16 @@ WebBrowser::WebBrowser(QWidget *parent)
   connect(page_, &QWebEnginePage::linkHovered, this, [this](const QString &address) {
     TellStatus(address.isEmpty() ? state_ : Named(QUrl(address)));
   });
+  tellingParts_.setSingleShot(true);
+  connect(&tellingParts_, &QTimer::timeout, this, [this] {
+    if (listener_ != nullptr) listener_->PartsShown(parts_);
+  });
+  connect(&scheme_, &SiteScheme::PartServed, this, [this](const QString &file) {
+    const QString path = ToLogic(file);
+    if (parts_.contains(path)) return;
+    parts_ << path;
+    tellingParts_.start(0);
+  });
   const auto refused = [this](const QString &file) {
     if (!refused_.contains(file)) refused_ << file;
     if (!isOpening_) TellRefused();
@@ -172,6 +183,7 @@ void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo &loading) {
       // The engine ends such a load by itself.
       if (IsForAnotherProgram(loading.url())) return OpenInOtherProgram(loading.url());
       refused_.clear();
+      parts_.clear();
       stateBefore_ = state_;
       TellState(tr("Opening %1").arg(Named(loading.url())));
       isOpening_ = true;

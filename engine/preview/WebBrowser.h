@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+#include <QTimer>
 #include <QUrl>
 
 #include <memory>
@@ -62,6 +63,8 @@ class WebBrowser final : public QObject, public Browser {
   bool isOpening_ = false;   ///< `state_` says that a page is being opened
   QString stateBefore_;      ///< the state before the load under way
   bool isStopping_ = false;  ///< Stop was called during the load under way
+  QStringList parts_;        ///< of the page, in logic form
+  QTimer tellingParts_;
   QStringList refused_;      ///< parts of the page that lie outside of its site
 };
 

@@ -3,6 +3,7 @@
 // disk.
 #include "editor/OutsideChanges.h"
 #include "editor/PageSlots.h"
+#include "editor/frmBrowser.h"
 #include "editor/frmMain.h"
 #include "files/QtFileWatches.h"
 #include "files/ReplacedFiles.h"
@@ -82,6 +83,65 @@ TEST_F(RealOutside, APageWithChangesKeepsThemUntilTheirsIsTaken) {
   EXPECT_FALSE(page.Outside().isVisible());
   Choose("mnuUndo");
   EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("oXne")); })) << Seen(page);
+}
+
+TEST_F(RealOutside, AStyleSheetAndPicturesThatChangeAreShownAnewAndNothingElseChanges) {
+  const auto picture = [](int width) {
+    return QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='") +
+           QByteArray::number(width) + "' height='10'/>";
+  };
+  Write(QStringLiteral("a.css"), "p { text-indent: 1px; background: url(back.svg) }");
+  for (const char *name : {"img.svg", "back.svg", "own.svg"})
+    Write(QString::fromLatin1(name), picture(20));
+  const QByteArray source =
+      "<link rel=stylesheet href=a.css><p>one</p><div style='background: url(own.svg)'>two</div>"
+      "<img src=img.svg>";
+  frmMain &page = Open(PageFile, source);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("X"));
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("oXne")); }));
+  const QString before = page.DHTML1().DocumentHTML();
+  const auto value = [&](const char *expression) {
+    return Evaluate(EngineOf(page), QString::fromLatin1(expression)).toString();
+  };
+  const auto becomes = [&](const char *expression, const QString &wanted) {
+    return WaitFor([&] { return value(expression) == wanted; });
+  };
+  ASSERT_TRUE(becomes("String(document.images[0].width)", QStringLiteral("20")));
+  const char *own = "getComputedStyle(document.querySelector('div')).backgroundImage";
+  const QString ownBefore = value(own);
+  for (int change = 1; change <= 2; ++change) {
+    Write(QStringLiteral("own.svg"), picture(20 + change));
+    EXPECT_TRUE(WaitFor([&] { return value(own) != ownBefore; }));
+    Write(QStringLiteral("img.svg"), picture(30 + change));
+    EXPECT_TRUE(becomes("String(document.images[0].width)", QString::number(30 + change)))
+        << value("String(document.images[0].width)").toStdString();
+    Write(QStringLiteral("a.css"), "p { text-indent: " + QByteArray::number(5 + change) + "px }");
+    EXPECT_TRUE(becomes("getComputedStyle(document.querySelector('p')).textIndent",
+                        QStringLiteral("%1px").arg(5 + change)));
+  }
+  EXPECT_EQ(page.DHTML1().DocumentHTML(), before);
+  Type(page, QStringLiteral("Y"));
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("oXYne")); })) << Seen(page);
+  Choose("mnuUndo");
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("one")); })) << Seen(page);
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(PageFile), source);
+}
+
+TEST_F(RealOutside, APreviewShowsAStyleSheetThatChangesAnew) {
+  Write(QStringLiteral("a.css"), "p { text-indent: 1px }");
+  frmMain &page = Open(PageFile, "<link rel=stylesheet href=a.css><p>one</p>");
+  page.ChangeMode(4);
+  const auto indent = [&] {
+    return Evaluate(EngineOf(*window.Context().preview),
+                    QStringLiteral("document.querySelector('p') ? getComputedStyle("
+                                   "document.querySelector('p')).textIndent : ''"))
+        .toString();
+  };
+  ASSERT_TRUE(WaitFor([&] { return indent() == QStringLiteral("1px"); }));
+  Write(QStringLiteral("a.css"), "p { text-indent: 7px }");
+  EXPECT_TRUE(WaitFor([&] { return indent() == QStringLiteral("7px"); })) << indent().toStdString();
 }
 
 TEST_F(RealOutside, AFileThatIsRemovedIsSaidAndASaveWritesItAnew) {
