@@ -95,6 +95,10 @@ void BrowserPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const 
   static const QString refusal = QStringLiteral("Not allowed to load local resource: ");
   if (!message.startsWith(refusal)) return;
   const QUrl url(message.mid(refusal.size()));
+  // What lies in the site is asked of it then.
+  QUrl ofSite = this->url();
+  ofSite.setPath(url.path());
+  if (IsOfASite(ofSite) && scheme_.IsInside(ofSite)) return;
   Q_EMIT PartRefused(url.isLocalFile() ? url.toLocalFile() : url.toString());
 }
 

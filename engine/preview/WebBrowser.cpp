@@ -54,17 +54,34 @@ QString Named(const QUrl &address) {
   return address.toDisplayString();
 }
 
-/// Pictures that a page names by full file addresses are asked of its site, which serves those that
-/// lie in it: the engine refuses "file:" to every page of another scheme without asking anybody.
-QWebEngineScript SitePictures() {
+/// What a page names by full file addresses is asked of its site, which serves what lies in it: the
+/// engine refuses "file:" to every page of another scheme without asking anybody.
+const QString FileLinks = QStringLiteral(R"(
+  const own = (link) => {
+    const { pathname, search, hash } = new URL(link, document.baseURI);
+    return pathname + search + hash;
+  };
+  const inText = (text) => text.replace(/file:\/\/[^\s"'()]*/gi, own);
+  const names = ['src', 'href', 'background', 'data', 'poster', 'longdesc', 'action'];
+  for (const name of names) {
+    for (const element of document.querySelectorAll(`[${name}^="file:" i]`)) {
+      element.setAttribute(name, own(element.getAttribute(name)));
+    }
+  }
+  for (const name of ['style', 'srcset']) {
+    for (const element of document.querySelectorAll(`[${name}*="file:" i]`)) {
+      element.setAttribute(name, inText(element.getAttribute(name)));
+    }
+  }
+)");
+
+QWebEngineScript SiteLinks() {
   QWebEngineScript script;
-  script.setName(QStringLiteral("site pictures"));
+  script.setName(QStringLiteral("site links"));
   script.setInjectionPoint(QWebEngineScript::DocumentReady);
   script.setWorldId(QWebEngineScript::ApplicationWorld);
   script.setRunsOnSubFrames(true);
-  script.setSourceCode(
-      QStringLiteral("for (const image of document.querySelectorAll('img[src^=\"file:\" i]'))"
-                     "  image.src = new URL(image.src).pathname;"));
+  script.setSourceCode(QStringLiteral("{%1}").arg(FileLinks));
   return script;
 }
 
@@ -91,7 +108,7 @@ WebBrowser::WebBrowser(QWidget *parent)
   for (const QWebEnginePage::WebAction refused : RefusedActions) {
     page_->action(refused)->setVisible(false);
   }
-  page_->scripts().insert(SitePictures());
+  page_->scripts().insert(SiteLinks());
   view_->setPage(page_);
   LeaveFilesToTheWindow(*view_);
 

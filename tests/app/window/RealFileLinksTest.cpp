@@ -40,6 +40,29 @@ TEST_F(RealFileLinks, PicturesOnMappedDrivesShowInDesignViewAndPreview) {
   EXPECT_TRUE(Becomes(Preview(page), PictureWidth, "23"));
 }
 
+TEST_F(RealFileLinks, WhatLiesInTheSiteShowsInThePreviewByItsFullAddress) {
+  Write(QStringLiteral("a.svg"), Picture);
+  Write(QStringLiteral("other.htm"), "<title>other</title>");
+  Write(QStringLiteral("sheet.css"), "p { text-indent: 7px }");
+  const QByteArray site = "file://" + folder.FilePath({}).toUtf8() + '/';
+  frmMain &page = Open(QStringLiteral("page.htm"),
+                       "<link rel=stylesheet href='" + site + "sheet.css'><body background='" +
+                           site + "a.svg'><p style='background: url(" + site +
+                           "a.svg)'>one</p><a href='" + site + "other.htm'>other</a>");
+  QWidget &preview = Preview(page);
+  EXPECT_TRUE(Becomes(preview,
+                      "document.querySelector('p') ? getComputedStyle("
+                      "document.querySelector('p')).textIndent : ''",
+                      "7px"));
+  const char *loads =
+      "String(['p', 'body'].map((name) => getComputedStyle("
+      "document.querySelector(name)).backgroundImage).every((value) => "
+      "value.startsWith('url(\"velor-site:')))";
+  EXPECT_TRUE(Becomes(preview, loads, "true"));
+  Evaluate(EngineOf(preview), QStringLiteral("document.querySelector('a').click()"));
+  EXPECT_TRUE(Becomes(preview, "document.title", "other"));
+}
+
 TEST_F(RealFileLinks, InAnotherFolderListsOfPicturesAndStylesLeadWhereTheyLed) {
   Write(QStringLiteral("a.svg"), Picture);
   QDir().mkpath(folder.FilePath(QStringLiteral("sub")));
