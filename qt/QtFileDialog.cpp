@@ -8,7 +8,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
+#include <QHeaderView>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QTreeView>
+
+#include <algorithm>
+#include <memory>
 
 namespace velor {
 
@@ -22,6 +29,40 @@ QStringList Patterns(const QString &list) {
     patterns << (pattern == QStringLiteral("*.*") ? QStringLiteral("*") : pattern);
   }
   return patterns;
+}
+
+/// Room for the name, size, type and date of a file.
+constexpr QSize FirstSize(860, 540);
+constexpr int NarrowestName = 200;
+
+/// Widens the columns behind the name to what they show, and gives the name the rest.
+void FitColumns(QTreeView &list) {
+  QHeaderView &header = *list.header();
+  const QAbstractItemView &items = list;
+  int others = 0;
+  for (int column = 1; column < header.count(); ++column) {
+    const int needed = std::max(items.sizeHintForColumn(column), header.sectionSizeHint(column));
+    if (header.sectionSize(column) < needed) header.resizeSection(column, needed);
+    others += header.sectionSize(column);
+  }
+  header.resizeSection(0, std::max(NarrowestName, list.viewport()->width() - others));
+}
+
+/// Makes the dialog's first folder readable; later the widths are the person's.
+void FitFirstFolder(QFileDialog &dialog) {
+  dialog.resize(dialog.size().expandedTo(FirstSize).boundedTo(dialog.screen()->availableSize()));
+  auto *list = dialog.findChild<QTreeView *>(QStringLiteral("treeView"));
+  auto *files = dialog.findChild<QFileSystemModel *>();
+  // The desktop's own dialog has neither.
+  if (list == nullptr || files == nullptr) return;
+  const QString first = dialog.directory().absolutePath();
+  auto once = std::make_shared<QMetaObject::Connection>();
+  *once = QObject::connect(files, &QFileSystemModel::directoryLoaded, list,
+                           [list, first, once](const QString &path) {
+                             if (path != first) return;
+                             QObject::disconnect(*once);
+                             FitColumns(*list);
+                           });
 }
 
 }  // namespace
@@ -76,6 +117,7 @@ QString QtFileDialog::Show(Purpose purpose) {
   } else {
     dialog.setDirectory(QDir::homePath());
   }
+  FitFirstFolder(dialog);
 
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     if (CancelError) {

@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,6 +19,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -247,6 +249,26 @@ TEST_F(FileDialogs, SaveAsksBeforeATakenNameWhenItIsToldTo) {
     Choose(box, Native(QStringLiteral("taken.htm")));
   });
   EXPECT_EQ(dialog_.ShowSave(), Logic(QStringLiteral("taken.htm")));
+}
+
+TEST_F(FileDialogs, TheFirstFoldersColumnsAreReadable) {
+  MakeFile(QStringLiteral("a.htm"));
+  dialog_.FileName = Logic(QStringLiteral("a.htm"));
+  OnDialog<QFileDialog> person([](QFileDialog &box) {
+    auto *list = box.findChild<QTreeView *>(QStringLiteral("treeView"));
+    const QAbstractItemView &items = *list;
+    const auto isReadable = [&] {
+      const QHeaderView &header = *list->header();
+      if (list->model()->rowCount(list->rootIndex()) != 1) return false;
+      for (int column = 0; column < header.count(); ++column) {
+        if (header.sectionSize(column) < items.sizeHintForColumn(column)) return false;
+      }
+      return header.length() <= list->viewport()->width();
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isReadable));
+    box.reject();
+  });
+  dialog_.ShowOpen();
 }
 
 TEST_F(FileDialogs, SaveTakesATakenNameUnaskedOtherwise) {
