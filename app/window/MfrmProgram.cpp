@@ -41,6 +41,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -71,6 +72,8 @@ class TabRow final : public QWidget {
 };
 
 constexpr QSize FirstSize(1180, 800);
+/// Room for the frame that the desktop puts around the window; known only once it is there.
+constexpr QSize FrameRoom(16, 48);
 
 /// The program's one array of flat painters lives in them.
 std::unique_ptr<StylingSweeps> SweepsOn(WindowSystem *windows) {
@@ -137,7 +140,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
   setObjectName(QStringLiteral("MfrmProgram"));
   setWindowTitle(QString::fromUtf16(ApplicationTitle));
   setWindowIcon(ProgramIcon());
-  resize(FirstSize);
+  resize(FirstSize.boundedTo(screen()->availableSize() - FrameRoom));
   menuPainter_->setObjectName(QStringLiteral("PM"));
   sourceEditing_->setObjectName(QStringLiteral("mnuEditHTML"));
   BuildLayout();

@@ -6,6 +6,7 @@
 #include "tests/app/window/WindowFixture.h"
 
 #include <QCoreApplication>
+#include <QScreen>
 #include <QTest>
 
 namespace velor {
@@ -92,6 +93,14 @@ TEST_F(LoadingWindow, FillsItsPartsStepByStepAndShowsLast) {
             "DE1 1, fonts 1, formats 0, sizes 0, shown 0\n"
             "DE1 1, fonts 1, formats 1, sizes 1, shown 0");
   EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(LoadingWindow, LeavesRoomForItsFrameOnTheScreen) {
+  window.Load();
+  const QSize titleBarAndEdges(8, 32);
+  const QSize room = window.screen()->availableSize() - titleBarAndEdges;
+  EXPECT_LE(window.width(), room.width());
+  EXPECT_LE(window.height(), room.height());
 }
 
 TEST_F(LoadingWindow, ComesUpInSpiteOfAPreferenceThatCannotBeReadAndReportsItAfterwards) {

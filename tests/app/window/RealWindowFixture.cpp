@@ -17,6 +17,8 @@
 namespace velor {
 
 RealWindow::RealWindow() {
+  // As on a large screen, whatever the one here is.
+  window.resize(1180, 800);
   window.Load();
   EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
   window.activateWindow();

@@ -24,6 +24,8 @@ Additions Stored(Registry &registry, Additions additions) {
 WindowFixture::WindowFixture(Additions wanted) : additions(Stored(registry, wanted)) {
   files.AddFolder(runtime.programFolder);
   files.AddFolder(QStringLiteral("\\site"));
+  // As on a large screen, whatever the one here is.
+  window.resize(1180, 800);
   window.Load();
   log.clear();
 }
