@@ -51,18 +51,17 @@ QWidget *PickerRow(std::initializer_list<ColorPicker *> pickers, QWidget *parent
 }
 
 /// The colour pickers on a toolbar. Where the toolbar is too narrow for them, others that choose
-/// for them stand in the menu of what did not fit.
+/// for them stand in the menu of what did not fit; a toolbar keeps an action's default widget out
+/// of that menu, so they are none.
 class ColorsAction final : public QWidgetAction {
  public:
   ColorsAction(ColorPicker &fore, ColorPicker &back, QObject *parent)
-      : QWidgetAction(parent), fore_(fore), back_(back) {
-    setDefaultWidget(PickerRow({&fore_, &back_}, nullptr));
-  }
+      : QWidgetAction(parent), fore_(fore), back_(back) {}
 
  protected:
   QWidget *createWidget(QWidget *parent) override {
     auto *menu = qobject_cast<QMenu *>(parent);
-    if (menu == nullptr) return nullptr;  // the pickers themselves
+    if (menu == nullptr) return PickerRow({&fore_, &back_}, parent);
     return PickerRow({StandIn(fore_, *menu), StandIn(back_, *menu)}, menu);
   }
 
