@@ -65,7 +65,7 @@ class WebBrowser final : public QObject, public Browser {
   bool isStopping_ = false;  ///< Stop was called during the load under way
   QStringList parts_;        ///< of the page, in logic form
   QTimer tellingParts_;
-  QStringList refused_;      ///< parts of the page that lie outside of its site
+  QStringList refused_;  ///< parts of the page that lie outside of its site
 };
 
 }  // namespace velor
