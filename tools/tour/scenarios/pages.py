@@ -25,7 +25,7 @@ def a_new_page_is_typed_formatted_and_saved(tour):
     tour.tab("hello.htm")
     text = file_text(path, "big5")
     check("charset=big5" in text, "the new page lost its charset")
-    check("Hello brave <b>world</b>" in text, f"the bold word is not in the page: {text!r}")
+    check("Hello brave <B>world</B>" in text, f"the bold word is not in the page: {text!r}")
     check("\r\n" in text and "\n" not in text.replace("\r\n", ""), "line ends were mixed")
     shutil.copy(path, tour.out)
 
