@@ -17,7 +17,6 @@ struct Deed {
     Drop,    ///< two or three files at once
     Switch,  ///< to another page's tab
     Type,    ///< a word at the page's start
-    Undo,
     Save,
     SaveAs,
     ViewHtml,
@@ -32,8 +31,7 @@ struct Deed {
     DiskHasRoom,
     MakeReadOnly,
     MakeWritable,
-    ChangeOutside,  ///< another program writes a file, one of an open page too
-    TakeTheirs,     ///< the file's version in the place of a page with changes
+    ChangeOutside,  ///< another program writes a file that no page shows
     Exit,
     Kill,
   };

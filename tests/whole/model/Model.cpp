@@ -153,8 +153,7 @@ QJsonObject Model::InJson(const Deed &deed) {
       {Kind::Apply, "apply"},      {Kind::CloseSource, "closesource"},
       {Kind::Close, "close"},      {Kind::DiskFull, "full"},
       {Kind::DiskHasRoom, "room"}, {Kind::Exit, "exit"},
-      {Kind::Kill, "room"},        {Kind::Undo, "undo"},
-      {Kind::TakeTheirs, "theirs"}};
+      {Kind::Kill, "room"}};
   constexpr std::array answers = {"yes", "no", "cancel"};
   QJsonObject sent{{QStringLiteral("do"), QString::fromLatin1(names.value(deed.kind))},
                    {QStringLiteral("answer"),
@@ -189,7 +188,13 @@ QString Model::Act(const Deed &deed) {
                                           : QFile::ReadOwner);
       return {};
     case Kind::ChangeOutside:
-      return IsWritable(chosen) ? ChangeOutside(deed, chosen) : QString();
+      if (!IsOpen(chosen) && IsWritable(chosen)) {
+        QFile file(chosen);
+        if (file.open(QIODevice::Append)) file.write("<!-- by another program -->");
+        file.close();
+        files_ = Disk();
+      }
+      return {};
     default:
       break;
   }
@@ -207,43 +212,6 @@ QString Model::Act(const Deed &deed) {
     return StartAnew();
   }
   return Check(deed, sent, *seen);
-}
-
-QString Model::ChangeOutside(const Deed &deed, const QString &path) {
-  QFile file(path);
-  if (file.open(QIODevice::Append)) file.write("<!-- by another program -->");
-  file.close();
-  files_[path] = Disk().value(path);
-  const QJsonObject sent{{QStringLiteral("do"), QStringLiteral("changed")},
-                         {QStringLiteral("path"), path}};
-  const auto seen = life_->Do(sent);
-  if (!seen) return QStringLiteral("the program has ended");
-  for (Page &page : pages_) {
-    if (page.path != path) continue;
-    page.isAskedAbout = page.IsChanged() || !page.typed.isEmpty();
-    if (!page.isAskedAbout) Load(page, files_[path]);
-  }
-  return Check(deed, sent, *seen);
-}
-
-void Model::Load(Page &page, const Content &content) {
-  page.earlier.push_back(page.shown);
-  page.shown = content;
-  page.saved = content.words;
-  page.savedRest = content.rest;
-  page.isSourceStale = true;
-  page.isAskedAbout = false;
-}
-
-void Model::Undo(Page &page) {
-  if (page.earlier.empty()) return;
-  const Content before = page.earlier.back();
-  page.earlier.pop_back();
-  page.shown.words = before.words;
-  // A page that has had no file has no bytes yet.
-  if (before.rest.isEmpty() || before.rest == page.shown.rest) return;
-  page.shown.rest = before.rest;
-  page.isSourceStale = true;
 }
 
 QString Model::StartAnew() {
@@ -292,7 +260,7 @@ QString Model::TakeRestored(const QJsonObject &seen, Words &missing) {
     page.typed = page.source - page.shown.words;
     if (files_.contains(page.path)) {
       page.saved = files_[page.path].words;
-      page.shown.rest = page.savedRest = files_[page.path].rest;
+      page.shown.rest = files_[page.path].rest;
       page.readOnly = !IsWritable(page.path);
     }
     missing -= page.shown.words + page.typed;
@@ -334,13 +302,10 @@ QString Model::CheckFiles(const Deed &deed, const QJsonObject &sent) {
       const Words all = active->shown.words + active->typed;
       if (content.words != active->shown.words && content.words != all)
         return Sentence(Name(path), " was saved without some words");
-      const bool isStale = active->isSourceStale && !active->typed.isEmpty();
-      if (!isStale && !active->shown.rest.isEmpty() && content.rest != active->shown.rest)
+      if (!active->shown.rest.isEmpty() && content.rest != active->shown.rest)
         return Sentence(Name(path), " was saved with other bytes: ", content.rest.toStdString(),
                         " in place of ", active->shown.rest.toStdString());
       active->shown = content;
-      active->savedRest = content.rest;
-      active->isAskedAbout = false;
       active->typed -= content.words;
       active->saved = content.words;
       active->path = path;
@@ -382,27 +347,12 @@ QString Model::CheckPages(const Deed &deed, const QJsonObject &sent, const QJson
       if (!path.isEmpty() && IsOpen(path)) return Sentence(Name(path), " is open twice");
       const Content file = files_.value(path);
       if (words != file.words) return Sentence(Name(path), " is shown with other words");
-      Page opened;
-      opened.path = path;
-      opened.shown = file;
-      opened.saved = file.words;
-      opened.savedRest = file.rest;
-      opened.readOnly = !path.isEmpty() && !IsWritable(path);
-      pages_.insert(number, opened);
+      pages_.insert(number, {path, file, file.words, {}, {}, !path.isEmpty() && !IsWritable(path)});
       continue;
     }
     Page &known = pages_[number];
-    const Content before = known.shown;
     if (deed.kind == Kind::Type && number == wasActive)
       known.shown.words.insert(sent[QStringLiteral("text")].toString());
-    if (deed.kind == Kind::Undo && number == wasActive) {
-      if (known.isHistoryKnown)
-        Undo(known);
-      else
-        known.shown = {{}, words};
-    }
-    if (deed.kind == Kind::TakeTheirs && number == wasActive && known.isAskedAbout)
-      Load(known, files_.value(known.path));
     // What is applied takes the page's place, words that the source has not got included.
     const bool mayApply = deed.kind == Kind::Apply || deed.kind == Kind::CloseSource;
     if (mayApply && number == wasActive && words == known.source) known.shown.words = words;
@@ -411,14 +361,6 @@ QString Model::CheckPages(const Deed &deed, const QJsonObject &sent, const QJson
       known.shown.words = words;
       known.typed.clear();
     }
-    const bool isStep =
-        number == wasActive && (deed.kind == Kind::Type || mayApply || MayTouchAFile(deed.kind));
-    if (isStep && known.shown.words != before.words) known.earlier.push_back(before);
-    if (mayApply && number == wasActive && known.isSourceStale) {
-      known.shown.rest = known.savedRest = {};
-      known.isHistoryKnown = false;
-    }
-    if (deed.kind == Kind::EditHtml && number == wasActive) known.isSourceStale = false;
     if (words != known.shown.words)
       return Sentence("page ", std::to_string(number), " shows ", Listed(words), " in place of ",
                       Listed(known.shown.words));

@@ -11,7 +11,6 @@
 #include <QTemporaryDir>
 
 #include <memory>
-#include <vector>
 
 namespace velor {
 
@@ -51,13 +50,8 @@ class Model {
     Words typed;   ///< in its source editor and not applied
     Words source;  ///< all in its source editor
     bool readOnly = false;
-    QByteArray savedRest;          ///< of its file when it was loaded or last saved
-    std::vector<Content> earlier;  ///< what each Undo brings back, the last first
-    bool isSourceStale = false;  ///< its source editor was filled before the page got another rest
-    bool isHistoryKnown = true;  ///< such a source was not applied
-    bool isAskedAbout = false;   ///< its file was changed while it had changes
 
-    bool IsChanged() const { return shown.words != saved || shown.rest != savedRest; }
+    bool IsChanged() const { return shown.words != saved; }
   };
 
   QString Path(const QString &name) const { return folder_.filePath(name); }
@@ -66,10 +60,6 @@ class Model {
 
   QJsonObject InJson(const Deed &deed);
   QString Act(const Deed &deed);
-  /// Another program writes to a file.
-  QString ChangeOutside(const Deed &deed, const QString &path);
-  void Undo(Page &page);
-  void Load(Page &page, const Content &content);
   QString StartAnew();
   /// Compares what is seen, and takes over what the deed may have changed.
   QString Check(const Deed &deed, const QJsonObject &sent, const QJsonObject &seen);
