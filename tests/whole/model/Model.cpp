@@ -300,7 +300,9 @@ QString Model::CheckFiles(const Deed &deed, const QJsonObject &sent) {
     if (files_.contains(path) && files_[path] == content) continue;
     if (targets.contains(path)) {
       const Words all = active->shown.words + active->typed;
-      if (content.words != active->shown.words && content.words != all)
+      // Source in front is applied first, and takes the page's place as it does by its button.
+      const bool isSource = !active->typed.isEmpty() && content.words == active->source;
+      if (content.words != active->shown.words && content.words != all && !isSource)
         return Sentence(Name(path), " was saved without some words");
       if (!active->shown.rest.isEmpty() && content.rest != active->shown.rest)
         return Sentence(Name(path), " was saved with other bytes: ", content.rest.toStdString(),
