@@ -63,6 +63,35 @@ struct HalvedPage {
   }
 };
 
+const QString Zero = QStringLiteral("0");
+
+/// Fills the "Appearance" half of a page. `kind` is the part of the boxes' names that tells the
+/// pages apart.
+AppearanceBoxes AddAppearance(QVBoxLayout *half, const QString &kind, const QString &border) {
+  const QString pixels = QStringLiteral("32");
+  const auto name = [&kind](const char *before, const char *behind) {
+    return QLatin1String(before) + kind + QLatin1String(behind);
+  };
+  AppearanceBoxes boxes;
+  QFormLayout *layout = AddFrame(half, QStringLiteral("Layout"));
+  boxes.alignment =
+      AddComboBox(layout, name("cob", "Align"), QStringLiteral("Alignment:"), Alignments);
+  boxes.border =
+      AddNumberBox(layout, name("txt", "Border"), QStringLiteral("Border thickness:"), border);
+  boxes.horizontalSpacing =
+      AddNumberBox(layout, name("txt", "HSpac"), QStringLiteral("Horizontal Spacing:"), Zero);
+  boxes.verticalSpacing =
+      AddNumberBox(layout, name("txt", "Vspac"), QStringLiteral("Vertical Spacing:"), Zero);
+  QFormLayout *size = AddFrame(half, QStringLiteral("Size"));
+  boxes.sizeFromBoxes =
+      AddCheckBox(size, name("chk", "Size"), QStringLiteral("Use &Specific Size"));
+  boxes.height = AddNumberBox(size, name("txt", "Height"), QStringLiteral("Height:"), pixels);
+  boxes.width = AddNumberBox(size, name("txt", "Width"), QStringLiteral("Width:"), pixels);
+  half->addStretch();
+  for (TextBox *box : {boxes.height, boxes.width}) box->RepairNumberTo(pixels);
+  return boxes;
+}
+
 }  // namespace
 
 void frmInsertElement::Build() {
@@ -109,31 +138,10 @@ QWidget *frmInsertElement::BuildImagePage() {
   previewCaption_->setAlignment(Qt::AlignCenter);
   page.general->addWidget(previewCaption_);
 
-  QFormLayout *layout = AddFrame(page.appearance, QStringLiteral("Layout"));
-  const QString zero = QStringLiteral("0");
-  const QString pixels = QStringLiteral("32");
-  imageAlignment_ =
-      AddComboBox(layout, QStringLiteral("cobIMGAlign"), QStringLiteral("Alignment:"), Alignments);
-  imageBorder_ = AddNumberBox(layout, QStringLiteral("txtIMGBorder"),
-                              QStringLiteral("Border thickness:"), zero);
-  imageHorizontalSpacing_ = AddNumberBox(layout, QStringLiteral("txtIMGHSpac"),
-                                         QStringLiteral("Horizontal Spacing:"), zero);
-  imageVerticalSpacing_ = AddNumberBox(layout, QStringLiteral("txtIMGVspac"),
-                                       QStringLiteral("Vertical Spacing:"), zero);
-  QFormLayout *size = AddFrame(page.appearance, QStringLiteral("Size"));
-  sizeFromBoxes_ =
-      AddCheckBox(size, QStringLiteral("chkIMGSize"), QStringLiteral("Use &Specific Size"));
-  imageHeight_ =
-      AddNumberBox(size, QStringLiteral("txtIMGHeight"), QStringLiteral("Height:"), pixels);
-  imageWidth_ = AddNumberBox(size, QStringLiteral("txtIMGWidth"), QStringLiteral("Width:"), pixels);
-  page.appearance->addStretch();
-
-  for (TextBox *box : {imageBorder_, imageHorizontalSpacing_, imageVerticalSpacing_})
-    box->RepairNumberTo(zero);
-  for (TextBox *box : {imageHeight_, imageWidth_}) {
-    box->RepairNumberTo(pixels);
-    box->setEnabled(false);
-  }
+  imageLook_ = AddAppearance(page.appearance, QStringLiteral("IMG"), Zero);
+  for (TextBox *box : {imageLook_.border, imageLook_.horizontalSpacing, imageLook_.verticalSpacing})
+    box->RepairNumberTo(Zero);
+  for (TextBox *box : {imageLook_.height, imageLook_.width}) box->setEnabled(false);
   firstBoxes_[0] = imageSource_;
   return page.whole;
 }
@@ -192,23 +200,7 @@ QWidget *frmInsertElement::BuildVideoPage() {
               QStringLiteral("Start on &Mouse Over"));
   page.general->addStretch();
 
-  QFormLayout *layout = AddFrame(page.appearance, QStringLiteral("Layout"));
-  const QString zero = QStringLiteral("0");
-  const QString pixels = QStringLiteral("32");
-  AddComboBox(layout, QStringLiteral("cobVIDAlign"), QStringLiteral("Alignment:"), Alignments);
-  AddNumberBox(layout, QStringLiteral("txtVIDBorder"), QStringLiteral("Border thickness:"),
-               QStringLiteral("1"));
-  AddNumberBox(layout, QStringLiteral("txtVIDHSpac"), QStringLiteral("Horizontal Spacing:"), zero);
-  AddNumberBox(layout, QStringLiteral("txtVIDVspac"), QStringLiteral("Vertical Spacing:"), zero);
-  QFormLayout *size = AddFrame(page.appearance, QStringLiteral("Size"));
-  videoSizeFromBoxes_ =
-      AddCheckBox(size, QStringLiteral("chkVIDSize"), QStringLiteral("Use &Specific Size"));
-  videoHeight_ =
-      AddNumberBox(size, QStringLiteral("txtVIDHeight"), QStringLiteral("Height:"), pixels);
-  videoWidth_ = AddNumberBox(size, QStringLiteral("txtVIDWidth"), QStringLiteral("Width:"), pixels);
-  page.appearance->addStretch();
-
-  for (TextBox *box : {videoHeight_, videoWidth_}) box->RepairNumberTo(pixels);
+  videoLook_ = AddAppearance(page.appearance, QStringLiteral("VID"), QStringLiteral("1"));
   return page.whole;
 }
 

@@ -58,14 +58,10 @@ void frmInsertElement::Connect() {
   onClick(u"cmdOK", &frmInsertElement::InsertAndClose);
   onClick(u"cmdCancel", &QDialog::reject);
 
-  connect(sizeFromBoxes_, &QCheckBox::clicked, this, [this](bool checked) {
-    imageHeight_->setEnabled(checked);
-    imageWidth_->setEnabled(checked);
-  });
-  connect(videoSizeFromBoxes_, &QCheckBox::clicked, this, [this](bool checked) {
-    videoHeight_->setEnabled(checked);
-    videoWidth_->setEnabled(checked);
-  });
+  for (const AppearanceBoxes &look : {imageLook_, videoLook_}) {
+    connect(look.sizeFromBoxes, &QCheckBox::clicked, look.height, &QWidget::setEnabled);
+    connect(look.sizeFromBoxes, &QCheckBox::clicked, look.width, &QWidget::setEnabled);
+  }
   connect(videoLoopsForever_, &QCheckBox::clicked, videoLoops_, &QWidget::setDisabled);
 }
 
@@ -111,17 +107,18 @@ QString frmInsertElement::GenerateCode(std::int32_t &InsertWhat) {
 }
 
 ImageValues frmInsertElement::Values() const {
-  return {.source = imageSource_->text(),
-          .alternativeText = alternativeText_->text(),
-          .lowResolutionSource = lowResolutionSource_->text(),
-          .alignment = imageAlignment_->currentText(),
-          .border = imageBorder_->text(),
-          .horizontalSpacing = imageHorizontalSpacing_->text(),
-          .verticalSpacing = imageVerticalSpacing_->text(),
-          .sizeSource = sizeFromBoxes_->isChecked() ? SizeSource::Boxes : SizeSource::Picture,
-          .height = imageHeight_->text(),
-          .width = imageWidth_->text(),
-          .picture = picture_};
+  return {
+      .source = imageSource_->text(),
+      .alternativeText = alternativeText_->text(),
+      .lowResolutionSource = lowResolutionSource_->text(),
+      .alignment = imageLook_.alignment->currentText(),
+      .border = imageLook_.border->text(),
+      .horizontalSpacing = imageLook_.horizontalSpacing->text(),
+      .verticalSpacing = imageLook_.verticalSpacing->text(),
+      .sizeSource = imageLook_.sizeFromBoxes->isChecked() ? SizeSource::Boxes : SizeSource::Picture,
+      .height = imageLook_.height->text(),
+      .width = imageLook_.width->text(),
+      .picture = picture_};
 }
 
 void frmInsertElement::InsertAndClose() {

@@ -25,6 +25,17 @@ class SourceControl;
 class StylingSweeps;
 class TextBox;
 
+/// The boxes of a page's half "Appearance", the same for pictures and videos.
+struct AppearanceBoxes {
+  QComboBox *alignment = nullptr;
+  TextBox *border = nullptr;
+  TextBox *horizontalSpacing = nullptr;
+  TextBox *verticalSpacing = nullptr;
+  QCheckBox *sizeFromBoxes = nullptr;
+  TextBox *height = nullptr;
+  TextBox *width = nullptr;
+};
+
 /// The element dialog: pages for a picture, a hyperlink, a bookmark and a video. Only a picture
 /// reaches the document; OK on the other pages, and in edit mode, changes nothing.
 ///
@@ -107,21 +118,13 @@ class frmInsertElement : public QDialog {
   TextBox *alternativeText_ = nullptr;
   QLabel *preview_ = nullptr;
   QLabel *previewCaption_ = nullptr;
-  QComboBox *imageAlignment_ = nullptr;
-  TextBox *imageBorder_ = nullptr;
-  TextBox *imageHorizontalSpacing_ = nullptr;
-  TextBox *imageVerticalSpacing_ = nullptr;
-  QCheckBox *sizeFromBoxes_ = nullptr;
-  TextBox *imageHeight_ = nullptr;
-  TextBox *imageWidth_ = nullptr;
+  AppearanceBoxes imageLook_;
 
   TextBox *linkTarget_ = nullptr;
 
   TextBox *videoLoops_ = nullptr;
   QCheckBox *videoLoopsForever_ = nullptr;
-  QCheckBox *videoSizeFromBoxes_ = nullptr;
-  TextBox *videoHeight_ = nullptr;
-  TextBox *videoWidth_ = nullptr;
+  AppearanceBoxes videoLook_;
 };
 
 }  // namespace velor

@@ -11,18 +11,6 @@ namespace velor {
 namespace {
 
 using Number = std::int32_t;
-using elements::NameKeyOf;
-
-constexpr std::uint32_t Blocks[] = {
-    NameKeyOf(u"address"), NameKeyOf(u"blockquote"), NameKeyOf(u"body"),  NameKeyOf(u"caption"),
-    NameKeyOf(u"center"),  NameKeyOf(u"dd"),         NameKeyOf(u"div"),   NameKeyOf(u"dl"),
-    NameKeyOf(u"dt"),      NameKeyOf(u"form"),       NameKeyOf(u"h1"),    NameKeyOf(u"h2"),
-    NameKeyOf(u"h3"),      NameKeyOf(u"h4"),         NameKeyOf(u"h5"),    NameKeyOf(u"h6"),
-    NameKeyOf(u"head"),    NameKeyOf(u"hr"),         NameKeyOf(u"html"),  NameKeyOf(u"li"),
-    NameKeyOf(u"ol"),      NameKeyOf(u"p"),          NameKeyOf(u"pre"),   NameKeyOf(u"section"),
-    NameKeyOf(u"table"),   NameKeyOf(u"tbody"),      NameKeyOf(u"td"),    NameKeyOf(u"tfoot"),
-    NameKeyOf(u"th"),      NameKeyOf(u"thead"),      NameKeyOf(u"title"), NameKeyOf(u"tr"),
-    NameKeyOf(u"ul")};
 
 /// Maximum number of tokens that are looked at on each side of a place.
 constexpr Number Sight = 4000;
@@ -73,7 +61,7 @@ class SpellingReader {
 
   /// Whether every detail is found.
   bool Read(const HtmlToken &token) {
-    const bool isBlock = elements::IsOneOf(token.name, Blocks);
+    const bool isBlock = elements::IsOneOf(token.name, elements::Blocks);
     const bool isVoid = elements::IsOneOf(token.name, elements::VoidElements);
     const QStringView html = QStringView(source_.text).first(token.End());
     const HtmlTagParts tag = ReadHtmlTag(html, token.offset);

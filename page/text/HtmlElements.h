@@ -66,6 +66,17 @@ inline constexpr std::uint32_t Breakouts[] = {
     NameKeyOf(u"s"),      NameKeyOf(u"small"),   NameKeyOf(u"span"),       NameKeyOf(u"strong"),
     NameKeyOf(u"strike"), NameKeyOf(u"sub"),     NameKeyOf(u"sup"),        NameKeyOf(u"table"),
     NameKeyOf(u"tt"),     NameKeyOf(u"u"),       NameKeyOf(u"ul"),         NameKeyOf(u"var")};
+/// Blocks and the parts of a page: their tags show in which letter case an author writes.
+inline constexpr std::uint32_t Blocks[] = {
+    NameKeyOf(u"address"), NameKeyOf(u"blockquote"), NameKeyOf(u"body"),  NameKeyOf(u"caption"),
+    NameKeyOf(u"center"),  NameKeyOf(u"dd"),         NameKeyOf(u"div"),   NameKeyOf(u"dl"),
+    NameKeyOf(u"dt"),      NameKeyOf(u"form"),       NameKeyOf(u"h1"),    NameKeyOf(u"h2"),
+    NameKeyOf(u"h3"),      NameKeyOf(u"h4"),         NameKeyOf(u"h5"),    NameKeyOf(u"h6"),
+    NameKeyOf(u"head"),    NameKeyOf(u"hr"),         NameKeyOf(u"html"),  NameKeyOf(u"li"),
+    NameKeyOf(u"ol"),      NameKeyOf(u"p"),          NameKeyOf(u"pre"),   NameKeyOf(u"section"),
+    NameKeyOf(u"table"),   NameKeyOf(u"tbody"),      NameKeyOf(u"td"),    NameKeyOf(u"tfoot"),
+    NameKeyOf(u"th"),      NameKeyOf(u"thead"),      NameKeyOf(u"title"), NameKeyOf(u"tr"),
+    NameKeyOf(u"ul")};
 inline constexpr std::uint32_t Html = NameKeyOf(u"html");
 inline constexpr std::uint32_t Head = NameKeyOf(u"head");
 inline constexpr std::uint32_t Body = NameKeyOf(u"body");
