@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Installs what building and running needs on Debian 12, as root or through sudo.
-# Usage: install.sh [--test] [--lint]    --test adds what the tests and the tour need, --lint what
-# tools/lint.sh needs
+# Usage: install.sh [--test] [--lint] [--package]    --test adds what the tests and the tour need, --lint
+# what tools/lint.sh needs, --package what tools/package.sh needs
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -20,6 +20,7 @@ test_packages=(
   mdbtools
 )
 lint_packages=(clang-format clang-tidy shellcheck python3 git node-typescript)
+package_packages=(appstream desktop-file-utils dpkg-dev file lintian mandoc strace)
 # Another Node.js than Debian's will do, and brings an npm of its own.
 if ! command -v node >/dev/null || ! command -v npm >/dev/null; then
   test_packages+=(nodejs npm)
@@ -46,7 +47,8 @@ for argument in "$@"; do
   case "$argument" in
     --test) tests=yes; packages+=("${test_packages[@]}") ;;
     --lint) packages+=("${lint_packages[@]}") ;;
-    *) echo "usage: install.sh [--test] [--lint]" >&2; exit 2 ;;
+    --package) packages+=("${package_packages[@]}") ;;
+    *) echo "usage: install.sh [--test] [--lint] [--package]" >&2; exit 2 ;;
   esac
 done
 

@@ -22,6 +22,12 @@ bool IsWritable(const QString &folder) {
   return (status.st_mode & AnyWriteBit) != 0 && access(name.constData(), W_OK | X_OK) == 0;
 }
 
+/// Whether the executable lies in the "bin" of a prefix that the program was installed to. Such a
+/// folder is nobody's own, though the superuser may write there.
+bool IsInstalled(const QString &executableFolder) {
+  return QFileInfo(executableFolder + QStringLiteral("/../share/velor-web-creator")).isDir();
+}
+
 void FillWithSample(const QString &folder, const QString &executableFolder) {
   const QString sampleMaker = QDir(executableFolder).filePath(QStringLiteral("velor-sample-site"));
   if (QFileInfo(sampleMaker).isExecutable()) QProcess::execute(sampleMaker, {folder});
@@ -32,7 +38,9 @@ void FillWithSample(const QString &folder, const QString &executableFolder) {
 QString PrepareProgramFolder(const QString &executableFolder) {
   const QString given = qEnvironmentVariable("VELOR_PROGRAM_FOLDER");
   if (!given.isEmpty()) return QDir::cleanPath(QDir(given).absolutePath());
-  if (IsWritable(executableFolder)) return QDir::cleanPath(executableFolder);
+  if (!IsInstalled(executableFolder) && IsWritable(executableFolder)) {
+    return QDir::cleanPath(executableFolder);
+  }
   const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
   const QString folder = QDir::cleanPath(data + QStringLiteral("/velor-web-creator"));
   if (!QFileInfo::exists(folder) && QDir().mkpath(folder)) {

@@ -51,6 +51,13 @@ TEST_F(ProgramFolder, IsTheExecutablesFolderWhenThatIsWritable) {
   EXPECT_FALSE(QFileInfo::exists(Data()));
 }
 
+TEST_F(ProgramFolder, IsTheDataFolderOfAnInstalledProgramThoughItsFolderIsWritable) {
+  QDir(folder_.path()).mkpath(QStringLiteral("share/velor-web-creator"));
+  InstallSampleMaker();
+  EXPECT_EQ(PrepareProgramFolder(Bin()), Data());
+  EXPECT_TRUE(QFileInfo(Data() + QStringLiteral("/eThumbs.mdb")).isFile());
+}
+
 TEST_F(ProgramFolder, IsTheDataFolderFilledWithTheSampleWhenTheExecutablesIsReadOnly) {
   InstallSampleMaker();
   MakeBinReadOnly();
