@@ -4,14 +4,11 @@
 #include "engine/BridgeScript.h"
 #include "engine/LiveDocument.h"
 #include "engine/NoticeQueue.h"
+#include "platform/PasteLimit.h"
 
 namespace velor {
 
 namespace {
-
-/// Tags, end tags included, that the engine shows in seconds. For millions it takes minutes and all
-/// memory, and nobody could stop it.
-constexpr qsizetype MostTags = 400'000;
 
 class WebTextRange : public TextRange {
  public:
@@ -21,7 +18,7 @@ class WebTextRange : public TextRange {
   void Collapse() override { collapsed_ = true; }
   HtmlElement ParentElement() const override { return document_.Snapshot().element; }
   void PasteHTML(const QString &html) override {
-    if (html.count(u'<') > MostTags) {
+    if (html.count(u'<') > MostPastedTags) {
       notices_.Report(QStringLiteral("That is too large to be put into a page."));
       return;
     }

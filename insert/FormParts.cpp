@@ -141,6 +141,29 @@ void AddButtonRow(QVBoxLayout *window, std::initializer_list<QPushButton *> butt
   window->addLayout(row);
 }
 
+QLabel *AddRefusal(QVBoxLayout *window, std::initializer_list<TextBox *> boxes) {
+  auto *line = new QLabel;
+  line->setObjectName(QStringLiteral("lblRefusal"));
+  line->setTextFormat(Qt::PlainText);
+  line->setWordWrap(true);
+  // Its room stays free, so that the window does not grow by it.
+  QSizePolicy policy = line->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  line->setSizePolicy(policy);
+  line->hide();
+  window->addWidget(line);
+  for (const TextBox *box : boxes)
+    QObject::connect(box, &QLineEdit::textEdited, line, &QWidget::hide);
+  return line;
+}
+
+void Refuse(QLabel &line, const QString &why, TextBox &box) {
+  line.setText(why);
+  line.show();
+  box.setFocus();
+  SelectAllText(box);
+}
+
 void AlignLabels(QWidget *page) {
   QList<QLabel *> labels;
   int width = 0;

@@ -9,6 +9,7 @@
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
+class QLabel;
 class QPushButton;
 class QVBoxLayout;
 class QWidget;
@@ -48,6 +49,12 @@ QPushButton *MakeButton(const QString &name, const QString &caption);
 void AddButton(QFormLayout *form, QPushButton *button);
 /// Appends the window's last row, its buttons at the right; the first one becomes the default.
 void AddButtonRow(QVBoxLayout *window, std::initializer_list<QPushButton *> buttons);
+
+/// Appends a line, unseen at first, for why the dialog does not close. It goes when one of `boxes`
+/// is edited.
+QLabel *AddRefusal(QVBoxLayout *window, std::initializer_list<TextBox *> boxes);
+/// Shows why the dialog does not close, and gives the keyboard to the box to mend.
+void Refuse(QLabel &line, const QString &why, TextBox &box);
 
 /// Gives all labels of a page the same width, so that the boxes of its frames line up.
 void AlignLabels(QWidget *page);

@@ -2,6 +2,7 @@
 #include "insert/TableHtml.h"
 
 #include "platform/Conversions.h"
+#include "platform/PasteLimit.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
@@ -15,6 +16,11 @@ int Count(const QString &text) {
   } catch (const RuntimeError &) {
     return 0;
   }
+}
+
+/// Two tags for the table, for each row and for each cell.
+int MostRows(int columns) {
+  return (MostPastedTags / 2 - 1) / (columns + 1);
 }
 
 QString Attribute(const QString &name, const QString &value) {
@@ -35,8 +41,17 @@ QString TableHtml(const TableValues &values) {
   html += Attribute(QStringLiteral("cellpadding"), values.cellPadding);
   html += Attribute(QStringLiteral("border"), values.border);
   html += QStringLiteral(" width=75%>\r\n");
-  if (row.size() * rows <= LargestTableText) html += row.repeated(rows);
+  if (rows <= MostRows(columns)) html += row.repeated(rows);
   return html + QStringLiteral("</Table>\r\n");
+}
+
+QString TableRefusal(const TableValues &values) {
+  const int columns = Count(values.columns);
+  const int most = MostRows(columns);
+  if (Count(values.rows) <= most) return {};
+  return QStringLiteral("The table is too large: with %1 columns a page takes %2 rows at most.")
+      .arg(columns)
+      .arg(most);
 }
 
 }  // namespace velor

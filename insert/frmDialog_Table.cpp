@@ -83,18 +83,22 @@ frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent) : QDialog(paren
   QVBoxLayout *window = FormParts::MakePage(this);
   window->addWidget(new QLabel(QStringLiteral("Table Setup:")));
   window->addWidget(tabs, 1);
+  refusal_ = FormParts::AddRefusal(window, {columns_, rows_});
   FormParts::AddButtonRow(window, {insertButton, cancelButton});
   setMinimumWidth(ComfortableWidth);
   columns_->setFocus();
 }
 
 void frmDialog_Table::Insert() {
-  html_ = TableHtml({.align = alignment_->currentText(),
-                     .cellSpacing = cellSpacing_->text(),
-                     .cellPadding = cellPadding_->text(),
-                     .border = border_->text(),
-                     .rows = rows_->text(),
-                     .columns = columns_->text()});
+  const TableValues values{.align = alignment_->currentText(),
+                           .cellSpacing = cellSpacing_->text(),
+                           .cellPadding = cellPadding_->text(),
+                           .border = border_->text(),
+                           .rows = rows_->text(),
+                           .columns = columns_->text()};
+  if (const QString why = TableRefusal(values); !why.isEmpty())
+    return FormParts::Refuse(*refusal_, why, *rows_);
+  html_ = TableHtml(values);
   accept();
 }
 

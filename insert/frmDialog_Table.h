@@ -4,13 +4,15 @@
 #include <QDialog>
 
 class QComboBox;
+class QLabel;
 
 namespace velor {
 
 class TextBox;
 
 /// The table dialog. Insert leaves the table's HTML in `html` (ProgramValues::HTMLString) and
-/// closes; Cancel closes and leaves that text as it was. Made for one showing, modal, and released
+/// closes; a table that no page takes is refused in words, and the dialog stays. Cancel closes and
+/// leaves that text as it was. Made for one showing, modal, and released
 /// after it.
 class frmDialog_Table : public QDialog {
   Q_OBJECT
@@ -29,6 +31,7 @@ class frmDialog_Table : public QDialog {
   TextBox *border_ = nullptr;
   TextBox *cellSpacing_ = nullptr;
   TextBox *cellPadding_ = nullptr;
+  QLabel *refusal_ = nullptr;
 };
 
 }  // namespace velor

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "insert/TableHtml.h"
+#include "platform/PasteLimit.h"
 #include "tests/support/Checks.h"
 
 namespace velor {
@@ -95,11 +96,29 @@ TEST(TableHtml, HasRowsWithoutCellsForAColumnCountThatIsNone) {
   }
 }
 
-TEST(TableHtml, LeavesOutRowsThatNoMemoryHolds) {
+TEST(TableHtml, LeavesOutRowsThatNoPageTakes) {
   TableValues values = Defaults();
   values.rows = QStringLiteral("32767");
   values.columns = QStringLiteral("32767");
   EXPECT_EQ(TableHtml(values), WithoutRows());
+}
+
+TEST(TableHtml, RefusesExactlyWhatHasMoreTagsThanAPageTakes) {
+  TableValues values = Defaults();
+  for (const char *columns : {"0", "1", "3", "499", "32767", "abc"}) {
+    values.columns = QString::fromLatin1(columns);
+    int most = 0;
+    for (int step = 1 << 14; step > 0; step /= 2) {
+      values.rows = QString::number(most + step);
+      if (TableRefusal(values).isEmpty()) most += step;
+    }
+    values.rows = QString::number(most);
+    EXPECT_LE(TableHtml(values).count(u'<'), MostPastedTags) << columns;
+    values.rows = QString::number(most + 1);
+    const QString why = TableRefusal(values);
+    EXPECT_EQ(why.isEmpty(), most == 32767) << columns;
+    EXPECT_TRUE(why.isEmpty() || why.contains(QString::number(most))) << columns;
+  }
 }
 
 TEST(TableHtml, WritesTheLongestRowAndTheLongestColumn) {

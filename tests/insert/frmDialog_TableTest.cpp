@@ -98,6 +98,26 @@ TEST_F(TableDialogTest, PutsEachFieldInItsPlaceAndCloses) {
                              .columns = U("2")}));
 }
 
+TEST_F(TableDialogTest, RefusesATableThatNoPageTakesAndSaysHowManyRowsItDoes) {
+  dialog.show();
+  auto *refusal = Control<QLabel>(dialog, U("lblRefusal"));
+  EXPECT_FALSE(refusal->isVisible());
+  Type(U("Text1"), U("99"));
+  Type(U("Text2"), U("2000"));
+  Click(U("Command1"));
+  ASSERT_TRUE(dialog.isVisible());
+  EXPECT_EQ(html, QString());
+  EXPECT_TRUE(refusal->isVisible());
+  EXPECT_EQ(refusal->text(),
+            U("The table is too large: with 99 columns a page takes 1999 rows at most."));
+  EXPECT_EQ(dialog.focusWidget(), Control<QLineEdit>(dialog, U("Text2")));
+  QTest::keyClicks(Control<QLineEdit>(dialog, U("Text2")), U("1999"));
+  EXPECT_FALSE(refusal->isVisible());
+  Click(U("Command1"));
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(html.count(U("<TR>")), 1999);
+}
+
 TEST_F(TableDialogTest, LeavesTheLastTableAloneWhenCancelled) {
   html = U("<Table>");
   dialog.show();
