@@ -109,6 +109,7 @@ void frmInsertElement::Build() {
   pages_->addTab(BuildVideoPage(), QStringLiteral("Video"));
   for (int i = 0; i < pages_->count(); ++i) AlignLabels(pages_->widget(i));
   setMinimumWidth(ComfortableWidth);
+  refusal_ = AddRefusal(window, {firstBoxes_[0], firstBoxes_[1], firstBoxes_[2], firstBoxes_[3]});
   AddButtonRow(window, {MakeButton(QStringLiteral("cmdOK"), QStringLiteral("OK")),
                         MakeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"))});
 }
@@ -129,6 +130,8 @@ QWidget *frmInsertElement::BuildImagePage() {
   Name(*preview_, QStringLiteral("picPreview"), QStringLiteral("Preview"));
   preview_->setFrameShape(QFrame::StyledPanel);
   preview_->setAlignment(Qt::AlignCenter);
+  preview_->setTextFormat(Qt::PlainText);
+  preview_->setWordWrap(true);
   preview_->setMinimumSize(PreviewBounds);
   // The frame is resized with the dialog and does not grow with the picture.
   preview_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);

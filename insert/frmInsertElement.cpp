@@ -2,15 +2,18 @@
 #include "insert/frmInsertElement.h"
 
 #include "chrome/StylingSweeps.h"
+#include "insert/FormParts.h"
 #include "insert/LinkPaths.h"
 #include "insert/PictureLoading.h"
 #include "insert/TextBox.h"
 #include "platform/Dialogs.h"
+#include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
@@ -82,9 +85,19 @@ void frmInsertElement::PrepareInsert(const QString &elementMode, HtmlDocument &d
   }
 }
 
+TextBox *frmInsertElement::FirstBox() const {
+  return firstBoxes_.at(static_cast<std::size_t>(pages_->currentIndex()));
+}
+
 void frmInsertElement::showEvent(QShowEvent *event) {
   QDialog::showEvent(event);
-  firstBoxes_.at(static_cast<std::size_t>(pages_->currentIndex()))->setFocus();
+  refusal_->hide();
+  if (FirstBox()->isVisible()) {
+    FirstBox()->setFocus();
+  } else {
+    // The page was left at its other half.
+    (FirstBox() == imageSource_ ? imageLook_ : videoLook_).alignment->setFocus();
+  }
 }
 
 QString frmInsertElement::GenerateCode(std::int32_t &InsertWhat) {
@@ -122,6 +135,12 @@ ImageValues frmInsertElement::Values() const {
 }
 
 void frmInsertElement::InsertAndClose() {
+  if (OnEmptyAddress == EmptyAddress::Refused && FirstBox()->text().isEmpty()) {
+    if (auto *halves = pages_->currentWidget()->findChild<QTabWidget *>())
+      halves->setCurrentIndex(0);
+    const QString label = FirstBox()->accessibleName().remove(u':').trimmed();
+    return FormParts::Refuse(*refusal_, QStringLiteral("%1 is empty.").arg(label), *FirstBox());
+  }
   if (InsertMode == u"true" && ElementMode == u"image") {
     std::int32_t image = 1;
     const QString failure =
@@ -142,8 +161,16 @@ void frmInsertElement::BrowseForImage() {
     ShowPicture(file);
     FillWithLink(imageSource_, file);
   } catch (const RuntimeError &error) {
+    ShowThatItCannotBeShown(file);
     Q_EMIT Reported(error.Description());
   }
+}
+
+void frmInsertElement::ShowThatItCannotBeShown(const QString &file) {
+  // The size of the picture that the box Image Source still names stays.
+  previewCaption_->clear();
+  const QString name = QFileInfo(ToNative(file)).fileName();
+  preview_->setText(QStringLiteral("%1 cannot be shown as a picture.").arg(name));
 }
 
 void frmInsertElement::BrowseForLinkTarget() {

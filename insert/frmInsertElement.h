@@ -36,6 +36,11 @@ struct AppearanceBoxes {
   TextBox *width = nullptr;
 };
 
+/// What OK does while the first box of the page, the element's address or name, is empty: nothing
+/// goes into the document in either case. Published is that the dialog goes and the selected
+/// content with it; Refused says so in the dialog, which stays.
+enum class EmptyAddress { Taken, Refused };
+
 /// The element dialog: pages for a picture, a hyperlink, a bookmark and a video. Only a picture
 /// reaches the document; OK on the other pages, and in edit mode, changes nothing.
 ///
@@ -67,6 +72,7 @@ class frmInsertElement : public QDialog {
   QString FilePath;
   /// Whether the result goes into TheDOM rather than TheCode.
   bool IsCreator = false;
+  EmptyAddress OnEmptyAddress = EmptyAddress::Taken;
 
   /// Prepares the next showing: sets the fields above for inserting an element of that mode into
   /// `document`, and makes its page the current and only available one. `savedPath` is the file of
@@ -93,6 +99,7 @@ class frmInsertElement : public QDialog {
   QWidget *BuildVideoPage();
 
   void Connect();
+  TextBox *FirstBox() const;
   void InsertAndClose();
   void BrowseForImage();
   void BrowseForLinkTarget();
@@ -101,6 +108,7 @@ class frmInsertElement : public QDialog {
   void FillWithLink(TextBox *box, const QString &file);
   QString Browse(const QString &filter);
   void ShowPicture(const QString &file);
+  void ShowThatItCannotBeShown(const QString &file);
   ImageValues Values() const;
 
   Runtime &runtime_;
@@ -110,6 +118,7 @@ class frmInsertElement : public QDialog {
   PictureSize picture_;
 
   QTabWidget *pages_ = nullptr;
+  QLabel *refusal_ = nullptr;
   /// The box of each page in which typing starts.
   std::array<TextBox *, 4> firstBoxes_{};
 

@@ -16,6 +16,7 @@ void DialogInsertCommands::Element(const QString &mode, frmMain &page) {
     dialog_ = new frmInsertElement(runtime_, dialogs_, components_, sweeps_, page.window());
     QObject::connect(dialog_, &frmInsertElement::Reported, dialog_,
                      [this](const QString &message) { status_.Report(message); });
+    if (additions_ == Additions::On) dialog_->OnEmptyAddress = EmptyAddress::Refused;
   }
   const PageRecord record = page.GetPageRecord();
   dialog_->PrepareInsert(mode, page.DHTML1().Document(),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/window/Additions.h"
 #include "app/window/InsertCommands.h"
 
 #include <QPointer>
@@ -22,13 +23,15 @@ class DialogInsertCommands final : public InsertCommands {
   /// All outlive it. `html` is ProgramValues::HTMLString. Without `sweeps` the dialogs keep the
   /// palette's own look.
   DialogInsertCommands(Runtime &runtime, Dialogs &dialogs, Components &components,
-                       StatusDisplay &status, QString &html, StylingSweeps *sweeps)
+                       StatusDisplay &status, QString &html, StylingSweeps *sweeps,
+                       Additions additions)
       : runtime_(runtime),
         dialogs_(dialogs),
         components_(components),
         status_(status),
         html_(html),
-        sweeps_(sweeps) {}
+        sweeps_(sweeps),
+        additions_(additions) {}
 
   void Image(frmMain &page) override;
   void Hyperlink(frmMain &page) override;
@@ -47,6 +50,7 @@ class DialogInsertCommands final : public InsertCommands {
   StatusDisplay &status_;
   QString &html_;
   StylingSweeps *sweeps_;
+  Additions additions_;
   QPointer<frmInsertElement> dialog_;
 };
 

@@ -127,7 +127,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
       sweeps_(SweepsOn(platform.windows)),
       insert_(std::make_unique<DialogInsertCommands>(platform.runtime, platform.dialogs,
                                                      platform.components, *statusLine_,
-                                                     values.HTMLString, sweeps_.get())),
+                                                     values.HTMLString, sweeps_.get(), additions_)),
       router_(context_, values.DbConnection, *this, *insert_, additions_),
       menuPictures_(ProgramMenuPictures()),
       menuPainter_(new StyleMenuPainter(this)),

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QTabWidget>
 
+#include <tuple>
+
 namespace velor {
 namespace {
 
@@ -179,6 +181,18 @@ TEST_F(ElementDialogTest, LetsTypingStartInThePagesFirstBox) {
   dialog.hide();
   Show("target");
   EXPECT_EQ(dialog.focusWidget(), Get<QLineEdit>("txtBookmarkName"));
+}
+
+TEST_F(ElementDialogTest, LetsTypingStartInTheHalfInWhichAPageWasLeft) {
+  for (const auto &[kind, halves, first] : {std::tuple{"image", "SSTab2", "cobIMGAlign"},
+                                            std::tuple{"video", "SSTab3", "cobVIDAlign"}}) {
+    Show(kind);
+    Get<QTabWidget>(halves)->setCurrentIndex(1);
+    dialog.hide();
+    Show(kind);
+    EXPECT_EQ(dialog.focusWidget(), Get<QComboBox>(first));
+    dialog.hide();
+  }
 }
 
 TEST_F(ElementDialogTest, RepairsTheSevenBoxesThatAreRepairedAndNoOthers) {

@@ -78,7 +78,7 @@ TEST_F(ElementDialogTest, LoadsThePictureButFillsNothingForAnUnknownSavedMode) {
   EXPECT_EQ(Get<QLabel>("lblPreviewSize")->text(), U("10 × 20 pixels"));
 }
 
-TEST_F(ElementDialogTest, EndsSilentlyWhenThePictureCannotBeLoaded) {
+TEST_F(ElementDialogTest, SaysWhereThePictureWasThatAPictureCannotBeShown) {
   QFile file(folder.filePath(U("bad.png")));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   file.write("no picture");
@@ -91,9 +91,15 @@ TEST_F(ElementDialogTest, EndsSilentlyWhenThePictureCannotBeLoaded) {
   drawing.write(QByteArray::fromHex("d7cdc69a0000000000000000640064006000000000000000"));
   drawing.close();
   for (const char *name : {"bad.png", "missing.png", "drawing.wmf"}) {
+    components.dialog->ExpectOpen(SavePicture(U("good.png"), {20, 10}));
+    Click("cmdBrowseIMG");
+    Type("txtImgSource", "before");
     components.dialog->ExpectOpen(ToLogic(folder.filePath(U(name))));
     Click("cmdBrowseIMG");
     EXPECT_EQ(Text("txtImgSource"), U("before"));
+    EXPECT_EQ(Get<QLabel>("picPreview")->text(), U(name) + U(" cannot be shown as a picture."));
+    EXPECT_TRUE(Get<QLabel>("picPreview")->pixmap(Qt::ReturnByValue).isNull());
+    EXPECT_EQ(Get<QLabel>("lblPreviewSize")->text(), QString());
     EXPECT_TRUE(reports.last().first().toString().contains(U(name))) << name;
   }
   EXPECT_EQ(reports.count(), 3);
@@ -211,6 +217,32 @@ TEST_F(ElementDialogTest, RemovesTheSelectionWithoutASource) {
   Show("image");
   Click("cmdOK");
   EXPECT_TRUE(component.DocumentHTML().contains(U("one </B")));
+}
+
+TEST_F(ElementDialogTest, SaysThatTheAddressIsEmptyAndStaysWhereThatIsWanted) {
+  dialog.OnEmptyAddress = EmptyAddress::Refused;
+  const QString before = component.DocumentHTML();
+  const auto *refusal = Get<QLabel>("lblRefusal");
+  const struct {
+    const char *kind, *box, *words;
+  } pages[] = {{"image", "txtImgSource", "Image Source is empty."},
+               {"hyperlink", "txtHref", "Anchor Element Href is empty."},
+               {"target", "txtBookmarkName", "Bookmark Name is empty."},
+               {"video", "txtVidSource", "Video Source is empty."}};
+  for (const auto &page : pages) {
+    Show(page.kind);
+    EXPECT_FALSE(refusal->isVisible());
+    for (const char *halves : {"SSTab2", "SSTab3"}) Get<QTabWidget>(halves)->setCurrentIndex(1);
+    Click("cmdOK");
+    ASSERT_TRUE(dialog.isVisible()) << page.kind;
+    EXPECT_EQ(refusal->text(), U(page.words));
+    EXPECT_TRUE(refusal->isVisible());
+    EXPECT_EQ(dialog.focusWidget(), Get<QLineEdit>(page.box));
+    QTest::keyClicks(Get<QLineEdit>(page.box), U("x"));
+    EXPECT_FALSE(refusal->isVisible());
+    EXPECT_EQ(component.DocumentHTML(), before);
+    Click("cmdCancel");
+  }
 }
 
 TEST_F(ElementDialogTest, LeavesThePageAloneForEverythingElse) {
