@@ -56,13 +56,16 @@ CommandPalette::CommandPalette(const QList<NamedCommand> &commands, QWidget *par
 void CommandPalette::Filter() {
   const QStringList words = words_->text().split(u' ', Qt::SkipEmptyParts);
   list_->clear();
+  int named = 0;
   for (qsizetype index = 0; index < commands_.size(); ++index) {
     const NamedCommand &command = commands_.at(index);
-    if (!HoldsAll(command.name, words)) continue;
+    const bool isNamed = HoldsAll(command.name, words);
+    if (!isNamed && !HoldsAll(command.name + u' ' + command.words, words)) continue;
     const QString keys = command.item->shortcut().toString(QKeySequence::NativeText);
     auto *entry = new QListWidgetItem(
-        keys.isEmpty() ? command.name : QStringLiteral("%1 (%2)").arg(command.name, keys), list_);
+        keys.isEmpty() ? command.name : QStringLiteral("%1 (%2)").arg(command.name, keys));
     entry->setData(Qt::UserRole, index);
+    list_->insertItem(isNamed ? named++ : list_->count(), entry);
   }
   list_->setCurrentRow(0);
 }

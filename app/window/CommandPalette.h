@@ -16,9 +16,12 @@ namespace velor {
 struct NamedCommand {
   QString name;
   QAction *item;
+  /// Further words by which it is found.
+  QString words = {};
 };
 
-/// Finds a command by some words of its name. Commands that cannot be used now are not listed.
+/// Finds a command by some words of its name or by other words for it. Commands that cannot be used
+/// now are not listed.
 class CommandPalette final : public QDialog {
   Q_OBJECT
 
@@ -33,7 +36,8 @@ class CommandPalette final : public QDialog {
   bool eventFilter(QObject *watched, QEvent *event) override;
 
  private:
-  /// Lists the commands whose names hold every word typed.
+  /// Lists the commands that every word typed is found in, those first that have all of them in
+  /// their names.
   void Filter();
   void Choose(const QListWidgetItem *entry);
 

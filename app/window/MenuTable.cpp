@@ -42,6 +42,11 @@ constexpr MenuRow Beyond(MenuRow row) {
   return row;
 }
 
+constexpr MenuRow Found(const char *words, MenuRow row) {
+  row.words = words;
+  return row;
+}
+
 constexpr MenuRow Popup(const char *name) {
   return {.name = name, .caption = "", .kind = MenuKind::Popup};
 }
@@ -49,22 +54,22 @@ constexpr MenuRow Popup(const char *name) {
 // clang-format off
 constexpr MenuRow Rows[] = {
     Menu("mnuFile_Top", "File (&F)"),
-    Item("mnuNew", "New Document(&N)", "mnuFile_Top", {CommandId::NewPage}, "new", "Ctrl+N"),
-    Item("mnuOpen", "Open... (&O)", "mnuFile_Top", {CommandId::OpenPage}, "open", "Ctrl+O"),
-    Item("mnuSave", "Save (&S)", "mnuFile_Top", {CommandId::SavePage}, "save", "Ctrl+S"),
-    Item("mnuSaveAs", "Save As... (&A)", "mnuFile_Top", {CommandId::SavePageAs}, "saveas", "F12"),
+    Found("page create", Item("mnuNew", "New Document(&N)", "mnuFile_Top", {CommandId::NewPage}, "new", "Ctrl+N")),
+    Found("file load", Item("mnuOpen", "Open... (&O)", "mnuFile_Top", {CommandId::OpenPage}, "open", "Ctrl+O")),
+    Found("write keep", Item("mnuSave", "Save (&S)", "mnuFile_Top", {CommandId::SavePage}, "save", "Ctrl+S")),
+    Found("copy rename", Item("mnuSaveAs", "Save As... (&A)", "mnuFile_Top", {CommandId::SavePageAs}, "saveas", "F12")),
     Separator("mnu1", "mnuFile_Top"),
-    Item("mnuExit", "Exit (&X)", "mnuFile_Top", {CommandId::CloseProgram}),
+    Found("quit close end", Item("mnuExit", "Exit (&X)", "mnuFile_Top", {CommandId::CloseProgram})),
 
     Menu("mnuEdit_Top", "Edit (&E)"),
-    Item("mnuUndo", "Undo (&U)", "mnuEdit_Top", Editing(EditingCommand::Undo), "undo"),
-    Item("mnuRedo", "Redo (&R)", "mnuEdit_Top", Editing(EditingCommand::Redo), "redo"),
+    Found("take back", Item("mnuUndo", "Undo (&U)", "mnuEdit_Top", Editing(EditingCommand::Undo), "undo")),
+    Found("again repeat", Item("mnuRedo", "Redo (&R)", "mnuEdit_Top", Editing(EditingCommand::Redo), "redo")),
     Separator("mnu3", "mnuEdit_Top"),
     Item("mnuCut", "&Cut", "mnuEdit_Top", Editing(EditingCommand::Cut), "cut"),
     Item("mnuCopy", "&Copy", "mnuEdit_Top", Editing(EditingCommand::Copy), "copy"),
     Item("mnuPaste", "&Paste", "mnuEdit_Top", Editing(EditingCommand::Paste), "paste"),
-    Item("mnuDelete", "&Delete", "mnuEdit_Top", Editing(EditingCommand::Delete), "delete"),
-    Item("mnuSelectAll", "&Select All", "mnuEdit_Top", Editing(EditingCommand::SelectAll)),
+    Found("remove clear erase", Item("mnuDelete", "&Delete", "mnuEdit_Top", Editing(EditingCommand::Delete), "delete")),
+    Found("everything mark", Item("mnuSelectAll", "&Select All", "mnuEdit_Top", Editing(EditingCommand::SelectAll))),
 
     Menu("mnuView_Top", "View (&V)"),
     Menu("mnuView_menustyle", "Menu Style (&M)", "mnuView_Top"),
@@ -73,15 +78,15 @@ constexpr MenuRow Rows[] = {
     Separator("mnu5", "mnuView_menustyle"),
     StyleItem(1, "Sky Blue"),
     StyleItem(2, "Clear XP Style"),
-    Item("mnuView_ProjectMan", "Project Manager", "mnuView_Top", {CommandId::ProjectManager}, "startman"),
+    Found("site web pages catalogue", Item("mnuView_ProjectMan", "Project Manager", "mnuView_Top", {CommandId::ProjectManager}, "startman")),
     Item("mnuDetail", "Show Detail (&D)", "mnuView_Top", {}, "detail"),
 
     Menu("mnuInsert", "Insert (&I)"),
-    Item("mnuISTimage", "Image", "mnuInsert", {CommandId::InsertImage}, "image"),
-    Item("mnuISTlink", "Hyperlink", "mnuInsert", {CommandId::InsertHyperlink}, "link"),
+    Found("picture photo graphic", Item("mnuISTimage", "Image", "mnuInsert", {CommandId::InsertImage}, "image")),
+    Found("link address url", Item("mnuISTlink", "Hyperlink", "mnuInsert", {CommandId::InsertHyperlink}, "link")),
 
     Menu("mnuTable", "Table (&A)"),
-    Item("mnuTBLnew", "Insert Table", "mnuTable", {CommandId::InsertTable}, "table"),
+    Found("grid rows columns cells", Item("mnuTBLnew", "Insert Table", "mnuTable", {CommandId::InsertTable}, "table")),
 
     Menu("mnuWindow", "Window (&W)"),
     Item("mnuWindowCascade", "Cascade (&C)", "mnuWindow"),
@@ -92,11 +97,11 @@ constexpr MenuRow Rows[] = {
     Beyond(Item("mnuFindCommand", "Find Command... (&F)", "mnuTools", {CommandId::FindCommand}, nullptr, "Ctrl+Shift+P")),
     Beyond(Menu("mnuRecent", "Recent Files (&R)", "mnuTools")),
     Separator("mnu6", "mnuTools"),
-    Beyond(Item("mnuWrapSource", "Wrap Source Lines (&W)", "mnuTools", {CommandId::WrapSource})),
-    Beyond(Item("mnuDrives", "Drives... (&D)", "mnuTools", {CommandId::Drives})),
+    Found("html long break", Beyond(Item("mnuWrapSource", "Wrap Source Lines (&W)", "mnuTools", {CommandId::WrapSource}))),
+    Found("letter folder map windows", Beyond(Item("mnuDrives", "Drives... (&D)", "mnuTools", {CommandId::Drives}))),
 
     Menu("mnuHelp_Top", "Help (&H)"),
-    Item("mnuAbout", "About", "mnuHelp_Top", {CommandId::About}, "about"),
+    Found("version program", Item("mnuAbout", "About", "mnuHelp_Top", {CommandId::About}, "about")),
     Item("mnuhelp", "Help", "mnuHelp_Top", {}, "help"),
 
     Popup("mnuExt"),

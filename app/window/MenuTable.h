@@ -30,6 +30,8 @@ struct MenuRow {
   /// Key of the picture beside the item; null for none.
   const char *picture = nullptr;
   Reach reach = Reach::Published;
+  /// Further words by which the item is found in the list of commands; empty for none.
+  const char *words = "";
 };
 
 /// The menus that are enabled only while a page is open.

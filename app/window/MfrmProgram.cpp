@@ -339,10 +339,11 @@ void MfrmProgram::ShowCommandPalette() {
   for (const MenuRow &row : MenuTable()) {
     const bool isOwn = row.command.id == CommandId::FindCommand;
     if (row.kind != MenuKind::Item || row.command.id == CommandId::None || isOwn) continue;
-    commands.append({SpokenCaption(QString::fromLatin1(row.caption)), &MenuItem(row.command)});
+    commands.append({SpokenCaption(QString::fromLatin1(row.caption)), &MenuItem(row.command),
+                     QString::fromLatin1(row.words)});
   }
   for (ToolBarAction *button : bandBar_->Formatting().Buttons())
-    commands.append({button->toolTip(), button});
+    commands.append({button->toolTip(), button, {}});
   const QPointer<MfrmProgram> alive = this;
   CommandPalette palette(commands, this);
   platform_.dialogs.RunModal(palette);

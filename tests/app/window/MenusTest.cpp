@@ -283,6 +283,27 @@ TEST_F(MenusTest, ACommandIsFoundByWordsAndRunOnWhatIsInFront) {
   EXPECT_TRUE(Commands().isEmpty());
 }
 
+TEST_F(MenusTest, ACommandIsFoundByOtherWordsForItBehindThoseNamedSo) {
+  NewPage();
+  const auto found = [this](const char *words) {
+    QStringList entries;
+    dialogs.ExpectModal([&](QWidget &palette) {
+      palette.findChild<QLineEdit *>(QStringLiteral("txtWords"))
+          ->setText(QString::fromLatin1(words));
+      const auto *list = palette.findChild<QListWidget *>(QStringLiteral("lstCommands"));
+      for (int row = 0; row < list->count(); ++row) entries.append(list->item(row)->text());
+      palette.close();
+    });
+    Choose("mnuFindCommand");
+    return entries;
+  };
+  EXPECT_EQ(found("pict"), QStringList(QStringLiteral("Image")));
+  const QStringList pages = found("page");
+  EXPECT_TRUE(pages.contains(QStringLiteral("New Document (Ctrl+N)")))
+      << pages.join(u'|').toStdString();
+  EXPECT_EQ(found("tab").constFirst(), QStringLiteral("Insert Table"));
+}
+
 TEST_F(MenusTest, ToolsShowsTheDrives) {
   dialogs.ExpectModal([](QWidget &shown) {
     EXPECT_EQ(shown.objectName(), QStringLiteral("FrmDrives"));
