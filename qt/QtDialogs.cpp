@@ -5,10 +5,16 @@
 #include <QDialog>
 #include <QEvent>
 #include <QEventLoop>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace velor {
 
@@ -78,6 +84,29 @@ class HideWatcher final : public QObject {
   QEventLoop &loop_;
 };
 
+/// Room for the buttons and the picture that desktops put beside a title, and for a title font
+/// that is larger than ours.
+constexpr int TitleButtons = 170;
+
+int WidthForTitle(const QWidget &box) {
+  return box.fontMetrics().horizontalAdvance(box.windowTitle()) + TitleButtons;
+}
+
+/// Puts a window that is about to be shown over the middle of its parent. The toolkit takes the
+/// desktop's frame into account only from the second showing on, and the window would jump.
+void PutOverParent(QWidget &window) {
+  if (window.parentWidget() == nullptr) return;
+  if (!window.testAttribute(Qt::WA_Resized)) window.adjustSize();
+  const QRect around = window.parentWidget()->window()->frameGeometry();
+  const QRect screen = window.parentWidget()->screen()->availableGeometry();
+  QRect place(QPoint(), window.size());
+  place.moveCenter(around.center());
+  place.moveRight(std::min(place.right(), screen.right()));
+  place.moveBottom(std::min(place.bottom(), screen.bottom()));
+  place.moveTopLeft({std::max(place.left(), screen.left()), std::max(place.top(), screen.top())});
+  window.move(place.topLeft());
+}
+
 void SetWords(QMessageBox &box, const Message &message) {
   // The format is set before the text, which may look like markup.
   box.setTextFormat(Qt::PlainText);
@@ -86,6 +115,10 @@ void SetWords(QMessageBox &box, const Message &message) {
   // The message box would guess the format of this label.
   if (auto *details = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel")))
     details->setTextFormat(Qt::PlainText);
+  // The box sizes itself by its layout.
+  if (auto *grid = qobject_cast<QGridLayout *>(box.layout()))
+    grid->addItem(new QSpacerItem(WidthForTitle(box), 0), grid->rowCount(), 0, 1,
+                  grid->columnCount());
 }
 
 }  // namespace
@@ -127,6 +160,8 @@ QString QtDialogs::AskText(const QString &prompt, const QString &title,
   box.setLabelText(prompt);
   if (auto *label = box.findChild<QLabel *>()) label->setTextFormat(Qt::PlainText);
   box.setTextValue(defaultAnswer);
+  // The box sizes itself by what it holds.
+  if (auto *line = box.findChild<QLineEdit *>()) line->setMinimumWidth(WidthForTitle(box));
   return box.exec() == QDialog::Accepted ? box.textValue() : QString();
 }
 
@@ -134,6 +169,7 @@ void QtDialogs::RunModal(QWidget &dialog) {
   QEventLoop loop;
   HideWatcher watcher(dialog, loop);
   dialog.setWindowModality(Qt::ApplicationModal);
+  PutOverParent(dialog);
   dialog.show();
   dialog.activateWindow();
   // A window that hid itself while it was being shown has ended already.

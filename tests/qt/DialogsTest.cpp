@@ -117,6 +117,34 @@ TEST(TextQuestion, GivesTheTypedText) {
       QStringLiteral("bottom"));
 }
 
+TEST(TextQuestion, AndMessagesAreWideEnoughForTheirTitles) {
+  QtDialogs dialogs;
+  const QString title(30, u'M');
+  const auto isWide = [&title](const QWidget &box) {
+    return box.width() >= box.fontMetrics().horizontalAdvance(title) + 100;
+  };
+  {
+    OnDialog<QInputDialog> person([&](QInputDialog &box) {
+      EXPECT_TRUE(isWide(box));
+      box.reject();
+    });
+    dialogs.AskText(QStringLiteral("Name:"), title, {});
+  }
+  Message message{.text = QStringLiteral("Short"), .title = title};
+  {
+    OnDialog<QMessageBox> person([&](QMessageBox &box) {
+      EXPECT_TRUE(isWide(box));
+      box.accept();
+    });
+    dialogs.ShowMessage(message);
+  }
+  OnDialog<QMessageBox> person([&](QMessageBox &box) {
+    EXPECT_TRUE(isWide(box));
+    box.buttons().constFirst()->click();
+  });
+  dialogs.Choose(message, {QStringLiteral("One"), QStringLiteral("Two")});
+}
+
 TEST(TextQuestion, GivesTheEmptyTextWhenItIsCancelled) {
   QtDialogs dialogs;
   OnDialog<QInputDialog> person([](QInputDialog &box) { box.reject(); });
@@ -139,6 +167,26 @@ TEST(ModalWindow, ReturnsWhenTheWindowHidesAndCanBeShownAgain) {
     OnDialog<QWidget> person([](QWidget &shown) { shown.hide(); });
     dialogs.RunModal(window);
     EXPECT_FALSE(window.isVisible());
+  }
+}
+
+TEST(ModalWindow, LiesOverTheMiddleOfItsParentAtEveryShowing) {
+  QtDialogs dialogs;
+  QWidget parent;
+  parent.setGeometry(150, 120, 400, 300);
+  parent.show();
+  QDialog window(&parent);
+  window.setMinimumSize(200, 100);
+  QPoint first;
+  for (int showing = 0; showing < 2; ++showing) {
+    OnDialog<QDialog> person([&](QDialog &shown) {
+      const QPoint middle = QRect(shown.pos(), shown.size()).center();
+      EXPECT_LE((middle - parent.frameGeometry().center()).manhattanLength(), 2);
+      if (showing == 0) first = shown.pos();
+      EXPECT_EQ(shown.pos(), first);
+      shown.accept();
+    });
+    dialogs.RunModal(window);
   }
 }
 
