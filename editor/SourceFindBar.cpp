@@ -99,6 +99,9 @@ void SourceFindBar::Build() {
   rows->setSpacing(BarMargin);
   rows->addLayout(finding);
   rows->addWidget(replacing_);
+  // From the words to their replacement, before the buttons of either.
+  QWidget::setTabOrder(findText_, replacement_);
+  QWidget::setTabOrder(replacement_, findChild<QPushButton *>(QStringLiteral("cmdPrevious")));
 }
 
 void SourceFindBar::Open(Purpose purpose) {

@@ -73,6 +73,14 @@ TEST_F(FindBarTest, F3GoesOnAndShiftF3Back) {
   EXPECT_EQ(Selected(), 4);
 }
 
+TEST_F(FindBarTest, TabGoesFromTheWordsToTheirReplacement) {
+  OpenBar(Qt::Key_H);
+  QTest::keyClick(&Part<QLineEdit>("txtFind"), Qt::Key_Tab);
+  EXPECT_TRUE(Part<QLineEdit>("txtReplace").hasFocus());
+  QTest::keyClick(&Part<QLineEdit>("txtReplace"), Qt::Key_Tab);
+  EXPECT_TRUE(Part<QPushButton>("cmdPrevious").hasFocus());
+}
+
 TEST_F(FindBarTest, CtrlHReplacesOneByOneOrAll) {
   OpenBar(Qt::Key_H);
   ASSERT_TRUE(Shown("txtReplace"));
