@@ -3,6 +3,7 @@
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/MfrmProgram.h"
 #include "chrome/Palette.h"
+#include "engine/PageAccess.h"
 #include "engine/PageScheme.h"
 #include "engine/Sandbox.h"
 #include "platform/DriveMap.h"
@@ -11,6 +12,7 @@
 int main(int argc, char **argv) {
   using namespace velor;
   RegisterSchemes();
+  ShowPagesToAssistiveTechnology();
   Application application(argv);
   DressApplication(application);
   const auto driveMapError = UseDriveMapFile(DriveMapFile());

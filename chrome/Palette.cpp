@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/Palette.h"
 
+#include "chrome/ApplicationAccess.h"
 #include "chrome/ComboBoxAccess.h"
 #include "chrome/HouseStyle.h"
 #include "chrome/Icons.h"
+#include "chrome/TabBarAccess.h"
 
 #include <QApplication>
 
@@ -125,6 +127,8 @@ void DressApplication(QApplication &application) {
   QApplication::setStyle(new HouseStyle);
   QApplication::setPalette(palette);
   AnnounceComboBoxLabels();
+  AnnounceTabStates();
+  AnnounceSeenWindows();
   application.setWindowIcon(ProgramIcon());
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/PageArea.h"
 
+#include "app/window/PageAreaAccess.h"
 #include "chrome/Palette.h"
 #include "editor/FrontWindow.h"
 
@@ -25,6 +26,7 @@ QMdiSubWindow *FrameOf(const QWidget *window) {
 }  // namespace
 
 PageArea::PageArea(Additions additions, QWidget *parent) : QMdiArea(parent), additions_(additions) {
+  AnnounceSeenPages();
   setObjectName(QStringLiteral("PageArea"));
   setFrameShape(QFrame::NoFrame);
   setActivationOrder(QMdiArea::ActivationHistoryOrder);

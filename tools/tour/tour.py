@@ -11,7 +11,7 @@ import shutil
 import sys
 
 from moves import Tour
-from scenarios import hours, inserting, pages, preview, projects, source, start_and_exit
+from scenarios import hours, inserting, pages, preview, projects, reading, source, start_and_exit
 
 # Each begins with the program as the one before it left it.
 SCENARIOS = (
@@ -25,6 +25,7 @@ SCENARIOS = (
     pages.five_pages_are_the_limit,
     pages.closing_asks,
     preview.the_preview_walks_through_pages,
+    reading.a_page_is_read_over_the_bus,
     inserting.pictures_and_tables_are_inserted,
     hours.an_old_page_is_repaired,
     hours.text_moves_between_pages,

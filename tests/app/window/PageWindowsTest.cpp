@@ -7,6 +7,7 @@
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
 
+#include <QAccessible>
 #include <QMdiSubWindow>
 #include <QTest>
 #include <QToolButton>
@@ -148,6 +149,21 @@ TEST_F(PageWindowsTest, APreviewThatIsClosedIsOnlyHidden) {
   EXPECT_EQ(window.Context().preview, preview);
   EXPECT_TRUE(preview->isVisible());
   EXPECT_EQ(Area().Current(), preview);
+}
+
+TEST_F(PageWindowsTest, AssistiveTechnologyMeetsNoPageThatAnotherCovers) {
+  frmMain &first = NewPage();
+  frmMain &second = NewPage();
+  QAccessibleInterface &area = *QAccessible::queryAccessibleInterface(&Area());
+  ASSERT_EQ(area.childCount(), 1);
+  EXPECT_EQ(area.child(0)->object(), second.parentWidget());
+  EXPECT_EQ(area.indexOfChild(area.child(0)), 0);
+  Area().Activate(&first);
+  ASSERT_EQ(area.childCount(), 1);
+  EXPECT_EQ(area.child(0)->object(), first.parentWidget());
+  EXPECT_EQ(area.indexOfChild(QAccessible::queryAccessibleInterface(second.parentWidget())), -1);
+  first.parentWidget()->showNormal();
+  EXPECT_EQ(area.childCount(), 2);
 }
 
 TEST_F(PageWindowsTest, TheAreaWithoutPagesTellsHowToBegin) {

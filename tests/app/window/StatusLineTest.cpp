@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/StatusLine.h"
 
+#include <QAccessible>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -37,6 +38,17 @@ TEST(StatusLineTest, ANoticeTakenBackGivesWayToTheOneBeforeIt) {
   bar.ReportOn(2, QStringLiteral("taken back"));
   bar.ReportOn(2, {});
   EXPECT_EQ(bar.currentMessage(), QStringLiteral("before"));
+}
+
+TEST(StatusLineTest, ANoticeIsTheNameOfTheBarForAssistiveTechnology) {
+  StatusLine bar(nullptr);
+  const auto name = [&bar] {
+    return QAccessible::queryAccessibleInterface(&bar)->text(QAccessible::Name);
+  };
+  bar.Report(QStringLiteral("Saved"));
+  EXPECT_EQ(name(), QStringLiteral("Saved"));
+  bar.Report({});
+  EXPECT_EQ(name(), QString());
 }
 
 TEST(StatusLineTest, ANoticeRepeatedIsShownOnce) {

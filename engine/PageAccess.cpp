@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/PageAccess.h"
+
+#include <QtGlobal>
+
+namespace velor {
+
+void ShowPagesToAssistiveTechnology() {
+  constexpr const char *Switch = "QTWEBENGINE_ENABLE_LINUX_ACCESSIBILITY";
+  if (!qEnvironmentVariableIsSet(Switch)) qputenv(Switch, "1");
+}
+
+}  // namespace velor
