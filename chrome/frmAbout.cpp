@@ -6,6 +6,7 @@
 #include "chrome/Palette.h"
 #include "platform/Runtime.h"
 
+#include <QAccessibleWidget>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QEvent>
@@ -50,7 +51,9 @@ QLabel *NewQuietLabel(const char *name, const QString &text) {
 /// A link as a control: Tab reaches it and it shows the focus; a click, Enter or Space follows it.
 class MailLink final : public QLabel {
  public:
-  MailLink() : QLabel(MailAddress) {
+  MailLink() {
+    // Not by the label's constructor, which would have it told as a label once and for all.
+    setText(MailAddress);
     setObjectName(QStringLiteral("lblMail_To"));
     setForegroundRole(QPalette::Link);
     setCursor(Qt::PointingHandCursor);
@@ -59,6 +62,8 @@ class MailLink final : public QLabel {
     underlined.setUnderline(true);
     setFont(underlined);
   }
+
+  void Follow() { Q_EMIT linkActivated(QStringLiteral("mailto:") + MailAddress); }
 
  protected:
   void mouseReleaseEvent(QMouseEvent *event) override {
@@ -84,10 +89,27 @@ class MailLink final : public QLabel {
     painter.setPen(palette().color(QPalette::Highlight));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
   }
-
- private:
-  void Follow() { Q_EMIT linkActivated(QStringLiteral("mailto:") + MailAddress); }
 };
+
+/// The link as assistive technology meets it.
+class MailLinkAccess final : public QAccessibleWidget {
+ public:
+  explicit MailLinkAccess(MailLink &link) : QAccessibleWidget(&link, QAccessible::Link) {}
+
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? MailAddress : QAccessibleWidget::text(kind);
+  }
+  QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+  void doAction(const QString &action) override {
+    if (action != pressAction()) return QAccessibleWidget::doAction(action);
+    static_cast<MailLink *>(widget())->Follow();
+  }
+};
+
+QAccessibleInterface *AccessOfMailLink(const QString &, QObject *object) {
+  auto *link = dynamic_cast<MailLink *>(object);
+  return link ? new MailLinkAccess(*link) : nullptr;
+}
 
 }  // namespace
 
@@ -104,7 +126,13 @@ class frmAbout::Pattern final : public QWidget {
   void paintEvent(QPaintEvent *) override {
     QPainter painter(this);
     for (int index = 0; index < animation_.ShownSquares(); ++index) {
-      painter.fillRect(AboutAnimation::SquareAt(index), palette().highlight());
+      const QRect square = AboutAnimation::SquareAt(index);
+      painter.fillRect(square, palette().highlight());
+      painter.fillRect(square.adjusted(1, 1, -1, -1), palette().window());
+      // Paler than its edge, so that each one is seen beside the next.
+      painter.setOpacity(0.5);
+      painter.fillRect(square.adjusted(2, 2, -2, -2), palette().highlight());
+      painter.setOpacity(1);
     }
   }
 
@@ -158,6 +186,7 @@ QWidget *frmAbout::BuildHead() {
 
 QWidget *frmAbout::BuildFoot() {
   auto *foot = new QWidget;
+  QAccessible::installFactory(AccessOfMailLink);
   auto *mail = new MailLink;
   mail->setMargin(2);
   connect(mail, &QLabel::linkActivated, this, &frmAbout::WriteTo);

@@ -4,6 +4,7 @@
 #include "tests/support/FakeRuntime.h"
 #include "tests/support/Forms.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDir>
 #include <QTest>
@@ -129,6 +130,15 @@ TEST_F(frmAboutTest, DrawsOneSquareMoreAtEveryStep) {
   }
 }
 
+TEST_F(frmAboutTest, EachSquareIsSeenBesideTheNext) {
+  ShowActive();
+  ASSERT_TRUE(Draws(1));
+  const QImage shown = Thumbing().grab().toImage();
+  const QRect square = AboutAnimation::SquareAt(0);
+  EXPECT_NE(shown.pixelColor(square.center()), shown.pixelColor(square.topLeft()));
+  EXPECT_NE(shown.pixelColor(square.center()), about.palette().color(QPalette::Window));
+}
+
 TEST_F(frmAboutTest, StepsWithTheClockAlone) {
   ShowActive();
   ASSERT_TRUE(Draws(1));
@@ -189,6 +199,17 @@ TEST_F(frmAboutTest, ItsMailLinkOpensThroughTheShellUnderABusyPointer) {
                           QStringLiteral("ShellExecute(Open, mailto:info@example.com, %1)")
                               .arg(QDir::currentPath()),
                           QStringLiteral("RestoreCursor()")}));
+}
+
+TEST_F(frmAboutTest, ItsMailLinkIsALinkForAssistiveTechnology) {
+  ShowActive();
+  auto &link =
+      *QAccessible::queryAccessibleInterface(Control<QLabel>(about, QStringLiteral("lblMail_To")));
+  EXPECT_EQ(link.role(), QAccessible::Link);
+  EXPECT_EQ(link.text(QAccessible::Name), QStringLiteral("info@example.com"));
+  EXPECT_TRUE(link.state().focusable);
+  link.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(log.size(), 3U);
 }
 
 TEST_F(frmAboutTest, AMailLinkThatFailsIsIgnored) {
