@@ -128,11 +128,14 @@ src="data:image/svg+xml,%3Csvg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 1
 
 
 def objects(photos):
-    """Selected objects with their handles, a box on its way over the grid, and the details."""
+    """A read-only page, selected objects with their handles, a box on its way over the grid, the
+    details."""
     program = photos.program
+    photos.dialog(lambda: program.key("ctrl+o"), "file-dialog", ("Cancel",))
     path = os.path.join(program.folder, "objects.htm")
     with open(path, "w", encoding="utf-8") as page:
         page.write(OBJECTS)
+    os.chmod(path, 0o444)
     program.key("ctrl+o")
     dialog = program.wait(None, "dialog|file chooser")
     wait_for(lambda: program.has_state(program.wait(role="text", within=dialog),
@@ -182,11 +185,26 @@ def dialogs(photos):
     def tab_of(opener, tab):
         return lambda: photos.click(opener) or photos.click(tab, "page tab")
 
+    def refused(opener, *keys):
+        """A dialog that says why it does not close."""
+        return lambda: opener() or program.wait("Cancel") and program.key(*keys)
+
+    def tab_of_mail():
+        item("alt+i", "Down", "Return")()
+        photos.click("Link to a E-mail Address")
+
     photos.dialog(lambda: photos.click("Image"), "image-dialog", ("Browse...",))
+    photos.dialog(refused(lambda: photos.click("Image"), "Return"), "image-dialog-refused", ("OK",))
     photos.dialog(tab_of("Image", "Appearance"), "image-dialog-appearance", ("Alignment:", "combo box"))
     photos.dialog(item("alt+i", "Down", "Return"), "link-dialog", ("Target Frame:", "combo box"))
     photos.dialog(tab_of("Project Manager", "Web Pages"), "project-pages", ("Open", "push button"))
+    photos.dialog(tab_of_mail, "mail-prompt", ("OK",))
     photos.dialog(lambda: photos.click("Table"), "table-dialog", ("Cancel",))
+    photos.dialog(refused(lambda: photos.click("Table"), "9", "9", "Tab", *"9999", "Return"),
+                  "table-dialog-refused", ("Cancel",))
+    photos.dialog(lambda: program.key("ctrl+shift+p"), "find-command", ("Commands", "list"))
+    photos.dialog(item("alt+t", "d"), "drives", ("Cancel",))
+    photos.dialog(item("alt+t", "s"), "settings", ("Cancel",))
     photos.dialog(lambda: photos.click("Project Manager"), "project-manager", ("Open", "push button"))
     photos.dialog(lambda: photos.click("About"), "about-box", ("Close",))
     photos.dialog(lambda: program.key("ctrl+o"), "message-box", ("OK",))
@@ -203,9 +221,13 @@ def modes(photos):
     program.wait("Replace with", "text")
     program.type("page")
     photos.shot("edit-html-find-bar")
-    program.key("Escape", "ctrl+F4")
+    middle = int(500 * photos.factor)
+    program.key("Escape")
+    photos.popup(lambda: program.click(middle, middle, 3), "source-context-menu", "Down")
+    program.key("ctrl+F4")
     program.press("Preview", within=page)
     photos.shot("preview")
+    photos.popup(lambda: program.click(middle, middle, 3), "preview-context-menu", "Down")
     program.key("ctrl+F4")
     photos.dialog(lambda: program.key("ctrl+F4"), "close-prompt", ("Yes", "push button"))
 
