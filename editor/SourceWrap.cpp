@@ -23,8 +23,13 @@ LineWrap ChosenLineWrap(const Registry &registry) {
 
 void TurnLineWrap(EditorContext &context) {
   Registry &registry = context.platform.registry;
-  const LineWrap wrap = ChosenLineWrap(registry) == LineWrap::On ? LineWrap::Off : LineWrap::On;
-  modSettingManager::SetOption(registry, Setting, BoolText(wrap == LineWrap::On));
+  const bool isOn = ChosenLineWrap(registry) == LineWrap::On;
+  modSettingManager::SetOption(registry, Setting, BoolText(!isOn));
+  ShowLineWrap(context);
+}
+
+void ShowLineWrap(EditorContext &context) {
+  const LineWrap wrap = ChosenLineWrap(context.platform.registry);
   for (int number = 1; number <= context.pages.PageCount(); ++number) {
     if (frmMain *page = context.pages.Page(number)) page->Code1().SetLineWrap(wrap);
     if (frmCodeEditor *editor = context.pages.CodeEditor(number)) editor->Code().SetLineWrap(wrap);

@@ -55,6 +55,10 @@ QString GetOption(const Registry &registry, const QString &valueName, const QStr
                        defaultValue);
 }
 
+QString OptionsPlace(const Registry &registry) {
+  return registry.Location(KeyPath(Product(), QString::fromUtf16(OptionSection)));
+}
+
 bool TruthOption(const Registry &registry, const QString &valueName, const QString &defaultValue,
                  const FaultListener &tell) {
   return Converted<bool>(registry, valueName, defaultValue, &CBool, tell);
@@ -72,11 +76,11 @@ std::int32_t LongOption(const Registry &registry, const QString &valueName,
 
 RuntimeError FaultOf(const Registry &registry, const QString &valueName,
                      const QString &defaultValue, const RuntimeError &cause) {
-  const QString file = registry.Location(KeyPath(Product(), QString::fromUtf16(OptionSection)));
   return RuntimeError::Of(
       cause.Number(), cause.Source(),
       QStringLiteral("the setting %1 in %2 is \"%3\"; \"%4\" counts until it is mended")
-          .arg(valueName, file, GetOption(registry, valueName, defaultValue), defaultValue));
+          .arg(valueName, OptionsPlace(registry), GetOption(registry, valueName, defaultValue),
+               defaultValue));
 }
 
 void AddToHistory(Registry &registry, const QString &path) {

@@ -34,6 +34,9 @@ QString GetRegSetting(const Registry &registry, const QString &applicationName,
 void SetOption(Registry &registry, const QString &valueName, const QString &value);
 QString GetOption(const Registry &registry, const QString &valueName, const QString &defaultValue);
 
+/// Where people find the stored preferences: a file, or the name of the store.
+QString OptionsPlace(const Registry &registry);
+
 /// Called with the error when a stored text cannot be converted; its description names the setting,
 /// the text and the file.
 using FaultListener = std::function<void(const RuntimeError &)>;

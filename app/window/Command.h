@@ -29,6 +29,7 @@ enum class CommandId {
   FindCommand,
   WrapSource,
   Drives,
+  Settings,
 };
 
 struct Command {

@@ -115,6 +115,9 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::Drives:
       host_.ShowDrives();
       break;
+    case CommandId::Settings:
+      host_.ShowSettings();
+      break;
   }
 }
 

@@ -36,6 +36,7 @@ class CommandHost {
   virtual void ShowAbout() = 0;
   virtual void ShowCommandPalette() = 0;
   virtual void ShowDrives() = 0;
+  virtual void ShowSettings() = 0;
   virtual void CloseProgram() = 0;
 };
 

@@ -10,7 +10,6 @@
 
 #include <QStringList>
 
-#include <array>
 #include <optional>
 
 namespace velor {
@@ -18,20 +17,6 @@ namespace {
 
 constexpr const char16_t *StyleSetting = u"MenuStyle";
 constexpr const char16_t *BackgroundSetting = u"MenuBackground";
-
-struct ColorSetting {
-  const char *name;
-  const char *defaultValue;
-  void (MenuPainter::*set)(std::int32_t color);
-};
-
-/// In the order in which they are read and set.
-constexpr std::array<ColorSetting, 4> ColorSettings{{
-    {"mnuFore", "0", &MenuPainter::SetTextColor},
-    {"mnuBorder", "8388608", &MenuPainter::SetBorderColor},
-    {"mnuHighlight", "16761024", &MenuPainter::SetHighlightColor},
-    {"mnuHighFore", "0", &MenuPainter::SetHighlightTextColor},
-}};
 
 void LoadBackground(const QString &name, const MenuPictures &pictures, MenuPainter &painter) {
   try {
@@ -48,6 +33,13 @@ QPixmap Loaded(const QString &file, ErrorNumber failure) {
 }
 
 }  // namespace
+
+const std::array<ColorSetting, 4> ColorSettings{{
+    {"mnuFore", "0", "Text:", &MenuPainter::SetTextColor},
+    {"mnuBorder", "8388608", "Border:", &MenuPainter::SetBorderColor},
+    {"mnuHighlight", "16761024", "Chosen item:", &MenuPainter::SetHighlightColor},
+    {"mnuHighFore", "0", "Text of the chosen item:", &MenuPainter::SetHighlightTextColor},
+}};
 
 MenuPictures ProgramMenuPictures() {
   return {.numbered =

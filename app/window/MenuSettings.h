@@ -4,6 +4,8 @@
 #include <QPixmap>
 #include <QString>
 
+#include <array>
+#include <cstdint>
 #include <functional>
 
 namespace velor {
@@ -20,6 +22,17 @@ struct MenuPictures {
   /// loaded.
   std::function<QPixmap(const QString &)> file;
 };
+
+/// A preference that is a colour of the menus.
+struct ColorSetting {
+  const char *name;
+  const char *defaultValue;
+  const char *label;
+  void (MenuPainter::*set)(std::int32_t color);
+};
+
+/// In the order in which they are read and set.
+extern const std::array<ColorSetting, 4> ColorSettings;
 
 /// The program's own pictures, and files of all formats that Qt reads.
 MenuPictures ProgramMenuPictures();

@@ -99,6 +99,7 @@ constexpr MenuRow Rows[] = {
     Separator("mnu6", "mnuTools"),
     Found("html long break", Beyond(Item("mnuWrapSource", "Wrap Source Lines (&W)", "mnuTools", {CommandId::WrapSource}))),
     Found("letter folder map windows", Beyond(Item("mnuDrives", "Drives... (&D)", "mnuTools", {CommandId::Drives}))),
+    Found("options preferences colours", Beyond(Item("mnuSettings", "Settings... (&S)", "mnuTools", {CommandId::Settings}))),
 
     Menu("mnuHelp_Top", "Help (&H)"),
     Found("version program", Item("mnuAbout", "About", "mnuHelp_Top", {CommandId::About}, "about")),

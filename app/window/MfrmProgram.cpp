@@ -6,6 +6,7 @@
 #include "app/window/CoolBar.h"
 #include "app/window/DialogInsertCommands.h"
 #include "app/window/FormattingBar.h"
+#include "app/window/FrmSettings.h"
 #include "app/window/PageArea.h"
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
@@ -235,13 +236,17 @@ void MfrmProgram::PrepareControlsAndMenus() {
   bandBar_->Formatting().ShowNothing();
   StyleMainWindow(*this, sweeps_.get(), MenuImages(), *menuPainter_);
   try {
-    PrepareMenus(platform_.registry, menuPictures_, *menuPainter_,
-                 [this](int style) { MarkMenuStyle(style); });
+    DressMenus();
   } catch (const RuntimeError &error) {
     // A preference that cannot be read does not keep the program from starting: it is reported from
     // the event loop, when the window is there.
     QTimer::singleShot(0, this, [error] { throw error; });
   }
+}
+
+void MfrmProgram::DressMenus() {
+  PrepareMenus(platform_.registry, menuPictures_, *menuPainter_,
+               [this](int style) { MarkMenuStyle(style); });
 }
 
 void MfrmProgram::ShowWithoutWaiting() {
@@ -352,6 +357,15 @@ void MfrmProgram::ShowCommandPalette() {
 
 void MfrmProgram::ShowDrives() {
   projects_->ShowDrives(*this);
+}
+
+void MfrmProgram::ShowSettings() {
+  const QPointer<MfrmProgram> alive = this;
+  FrmSettings settings(platform_.registry, menuPictures_, this);
+  platform_.dialogs.RunModal(settings);
+  if (alive.isNull() || settings.result() != QDialog::Accepted) return;
+  ShowLineWrap(context_);
+  DressMenus();
 }
 
 void MfrmProgram::CloseProgram() {

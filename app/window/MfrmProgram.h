@@ -76,6 +76,7 @@ class MfrmProgram final : public QMainWindow,
   void ShowAbout() override;
   void ShowCommandPalette() override;
   void ShowDrives() override;
+  void ShowSettings() override;
   void CloseProgram() override;
 
   // LoadSteps
@@ -92,6 +93,8 @@ class MfrmProgram final : public QMainWindow,
   void ConnectBars();
   /// Updates bars and titles for the window that has come to the front.
   void ShowFront();
+  /// Dresses the menus by the preferences. Raises RuntimeError as PrepareMenus does.
+  void DressMenus();
   void MarkMenuStyle(int index);
   /// The menu Tools, where it is there: the files opened last, and what is chosen there.
   void PrepareTools();

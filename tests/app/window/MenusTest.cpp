@@ -232,6 +232,7 @@ mnuRecent "Recent Files (&R)"
 mnu6 "-"
 mnuWrapSource "Wrap Source Lines (&W)"
 mnuDrives "Drives... (&D)"
+mnuSettings "Settings... (&S)"
 )tree");
 }
 

@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/FrmSettings.h"
+
+#include "app/settings/modSettingManager.h"
+#include "app/window/MenuTable.h"
+#include "chrome/ColorPicker.h"
+#include "insert/FormParts.h"
+#include "insert/TextBox.h"
+#include "platform/Conversions.h"
+#include "platform/Registry.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace velor {
+
+using namespace FormParts;
+namespace Settings = modSettingManager;
+
+FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidget *parent)
+    : QDialog(parent), registry_(registry), pictures_(pictures) {
+  setObjectName(QStringLiteral("FrmSettings"));
+  setWindowTitle(QStringLiteral("Settings"));
+  setModal(true);
+  QVBoxLayout *window = MakePage(this);
+
+  QFormLayout *pages = AddFrame(window, QStringLiteral("Pages that are opened from now on"));
+  AddTruth(pages, "ShowDetails", "False", QStringLiteral("Show &details"));
+  AddTruth(pages, "SnapToGrid", "True", QStringLiteral("&Snap to grid"));
+  AddTruth(pages, "showtoolbox", "True",
+           QStringLiteral("&Forget the inspected element when another page comes to the front"));
+  QFormLayout *source = AddFrame(window, QStringLiteral("Source"));
+  AddTruth(source, "WrapSource", "True", QStringLiteral("&Wrap long lines"));
+  QFormLayout *menus = AddFrame(window, QStringLiteral("Menus"));
+  AddMenuStyle(menus);
+  for (const ColorSetting &setting : ColorSettings) AddColor(menus, setting);
+  QFormLayout *program = AddFrame(window, QStringLiteral("From the next start on"));
+  QCheckBox *publishedOnly =
+      AddTruth(program, "PublishedOnly", "False",
+               QStringLiteral("&Published behaviour only, without the menu Tools"));
+  publishedOnly->setToolTip(QStringLiteral("PublishedOnly=False in %1 brings the menu back.")
+                                .arg(Settings::OptionsPlace(registry)));
+
+  refusal_ = AddRefusal(window, {background_});
+  if (!faults_.isEmpty()) {
+    refusal_->setText(faults_.join(u'\n'));
+    refusal_->show();
+  }
+  QPushButton *ok = MakeButton(QStringLiteral("cmdOK"), QStringLiteral("OK"));
+  QPushButton *cancel = MakeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"));
+  connect(ok, &QPushButton::clicked, this, &FrmSettings::accept);
+  connect(cancel, &QPushButton::clicked, this, &FrmSettings::reject);
+  AddButtonRow(window, {ok, cancel});
+  AlignLabels(this);
+}
+
+void FrmSettings::AddRow(const QString &name, const std::function<QString()> &text) {
+  const bool isValue = !std::exchange(isFaulty_, false);
+  rows_.push_back({name, text, isValue ? std::optional(text()) : std::nullopt});
+}
+
+void FrmSettings::Tell(const RuntimeError &fault) {
+  faults_ << fault.Description();
+  isFaulty_ = true;
+}
+
+QCheckBox *FrmSettings::AddTruth(QFormLayout *form, const char *name, const char *defaultValue,
+                                 const QString &caption) {
+  const QString setting = QString::fromLatin1(name);
+  QCheckBox *box = AddCheckBox(form, setting, caption);
+  box->setChecked(Settings::TruthOption(registry_, setting, QString::fromLatin1(defaultValue),
+                                        [this](const RuntimeError &fault) { Tell(fault); }));
+  AddRow(setting, [box] { return BoolText(box->isChecked()); });
+  return box;
+}
+
+void FrmSettings::AddMenuStyle(QFormLayout *form) {
+  style_ = AddComboBox(form, QStringLiteral("MenuStyle"), QStringLiteral("Style:"),
+                       {QStringLiteral("Picture file")});
+  for (const MenuRow &row : MenuTable())
+    if (row.command.id == CommandId::MenuStyle) style_->addItem(QString::fromLatin1(row.caption));
+  const int last = style_->count() - 1;
+  const QString setting = QStringLiteral("MenuStyle");
+  int style = Settings::IntegerOption(registry_, setting, QStringLiteral("2"),
+                                      [this](const RuntimeError &fault) { Tell(fault); });
+  if (style < 0 || style > last) {
+    Tell(Settings::FaultOf(registry_, setting, QStringLiteral("2"),
+                           RuntimeError::Of(ErrorNumber::IndexOutOfBounds, setting)));
+    style = 2;
+  }
+  style_->setCurrentIndex(style);
+  AddRow(setting, [this] { return QString::number(style_->currentIndex()); });
+
+  background_ = AddTextBox(form, QStringLiteral("MenuBackground"), QStringLiteral("Picture file:"));
+  background_->setText(Settings::GetOption(registry_, QStringLiteral("MenuBackground"), QString()));
+  AddRow(QStringLiteral("MenuBackground"), [this] { return background_->text(); });
+  const auto followStyle = [this] { background_->setEnabled(style_->currentIndex() == 0); };
+  connect(style_, &QComboBox::currentIndexChanged, this, followStyle);
+  followStyle();
+}
+
+void FrmSettings::AddColor(QFormLayout *form, const ColorSetting &setting) {
+  const QString name = QString::fromLatin1(setting.name);
+  auto *picker = new ColorPicker(QStringLiteral("backcolor"), this);
+  AddControl(form, name, QString::fromLatin1(setting.label), picker);
+  picker->SetColor(Settings::LongOption(registry_, name, QString::fromLatin1(setting.defaultValue),
+                                        [this](const RuntimeError &fault) { Tell(fault); }));
+  AddRow(name, [picker] { return QString::number(picker->Color()); });
+}
+
+void FrmSettings::accept() {
+  if (style_->currentIndex() == 0) {
+    try {
+      pictures_.file(background_->text());
+    } catch (const RuntimeError &) {
+      return Refuse(*refusal_, QStringLiteral("That file cannot be shown as a picture."),
+                    *background_);
+    }
+  }
+  for (const Row &row : rows_)
+    if (row.text() != row.before) Settings::SetOption(registry_, row.name, row.text());
+  QDialog::accept();
+}
+
+}  // namespace velor
