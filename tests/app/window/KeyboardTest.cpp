@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Every window is usable without a mouse: walks by Tab and arrows, compared with the tables.
+#include "app/window/GeneralToolbar.h"
+#include "app/window/MenuTable.h"
+#include "editor/EditCommands.h"
+#include "editor/frmMain.h"
+#include "tests/app/window/WindowFixture.h"
+#include "tests/support/FakeDialogs.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMenu>
+#include <QTest>
+
+namespace velor {
+namespace {
+
+QString NameOf(const QWidget &control) {
+  const auto *button = qobject_cast<const QAbstractButton *>(&control);
+  const bool isNamed = button == nullptr || !control.objectName().isEmpty();
+  return isNamed ? control.objectName() : button->text().remove(u'&');
+}
+
+/// What Tab meets from where the keyboard is, until it is back there or where `isEnd` says.
+QStringList WalkByTab(QWidget &start, const std::function<bool(const QWidget &)> &isEnd) {
+  constexpr int Enough = 100;
+  QStringList met{NameOf(start)};
+  for (int step = 0; step < Enough; ++step) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    const QWidget *now = QApplication::focusWidget();
+    if (now == nullptr || now == &start || isEnd(*now)) return met;
+    met.append(NameOf(*now));
+  }
+  ADD_FAILURE() << "Tab never ends";
+  return met;
+}
+
+/// The items that the arrow keys meet in an open menu, submenus included, by their names in the
+/// table of menus.
+QStringList WalkByArrows(QMenu &menu) {
+  QStringList met;
+  const QAction *first = nullptr;
+  for (;;) {
+    QTest::keyClick(&menu, Qt::Key_Down);
+    const QAction *item = menu.activeAction();
+    if (item == nullptr || item == first) return met;
+    if (first == nullptr) first = item;
+    met.append(item->objectName());
+    if (item->menu() == nullptr || !item->isEnabled()) continue;
+    QTest::keyClick(&menu, Qt::Key_Right);
+    EXPECT_TRUE(item->menu()->isVisible()) << item->objectName().toStdString();
+    item->menu()->setActiveAction(nullptr);
+    met += WalkByArrows(*item->menu());
+    QTest::keyClick(item->menu(), Qt::Key_Left);
+    EXPECT_FALSE(item->menu()->isVisible()) << item->objectName().toStdString();
+  }
+}
+
+class KeyboardTest : public WindowFixture {
+ protected:
+  KeyboardTest() {
+    window.show();
+    window.activateWindow();
+  }
+
+  /// The items below a menu that can be chosen, in the order of the table.
+  QStringList ItemsOf(const char *menu) {
+    QStringList items;
+    for (const MenuRow &row : MenuTable()) {
+      if (row.parent == nullptr || std::string_view(row.parent) != menu ||
+          row.kind == MenuKind::Separator)
+        continue;
+      items.append(QString::fromLatin1(row.name));
+      if (row.kind == MenuKind::Menu) items += ItemsOf(row.name);
+    }
+    return items;
+  }
+};
+
+TEST_F(KeyboardTest, ArrowsMeetEveryItemOfEveryMenuOfTheTable) {
+  NewPage();
+  for (const MenuRow &row : MenuTable()) {
+    if (row.kind != MenuKind::Menu || row.parent != nullptr) continue;
+    auto *menu = Find<QMenu>(row.name);
+    menu->popup({});
+    QStringList met = WalkByArrows(*menu);
+    menu->close();
+    // Recent files and open windows are in no table.
+    met.removeAll(QString());
+    EXPECT_EQ(met, ItemsOf(row.name)) << row.name << ": " << met.join(u' ').toStdString();
+  }
+}
+
+TEST_F(KeyboardTest, TabMeetsEveryButtonAndBoxOfTheMainWindowInTheOrderOfTheEye) {
+  frmMain &page = NewPage();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QStringList expected;
+  const auto expect = [&](const QString &name) {
+    const auto *control = Find<QWidget>(name.toLatin1().constData());
+    if (control->isEnabled()) expected.append(name);
+  };
+  for (const GeneralButton &button : GeneralButtons)
+    expect(QStringLiteral("tbrGeneral_") + QString::fromLatin1(button.key));
+  for (const char *box : {"cobFormat", "Font1", "cobSize"}) expect(QString::fromLatin1(box));
+  for (const EditCommand &row : EditCommands)
+    expect(QStringLiteral("tbrEdit_") + row.key.toString());
+  for (const char *box : {"cpFore", "cpBack", "FileTab", "CmbPages"})
+    expect(QString::fromLatin1(box));
+
+  QWidget &start = *Find<QWidget>(expected.constFirst().toLatin1().constData());
+  start.setFocus(Qt::TabFocusReason);
+  QStringList met = WalkByTab(start, [&](const QWidget &now) { return page.isAncestorOf(&now); });
+  EXPECT_EQ(met, expected) << met.join(u' ').toStdString();
+}
+
+struct DialogWalk {
+  const char *item;
+  const char *controls;
+};
+
+TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
+  NewPage();
+  // Each from where the keyboard is at first; the strips of tabs come last.
+  const DialogWalk walks[] = {
+      {"mnuAbout", "Close lblMail_To"},
+      {"mnuFindCommand", "txtWords lstCommands"},
+      {"mnuSettings",
+       "ShowDetails SnapToGrid showtoolbox WrapSource MenuStyle mnuFore mnuBorder mnuHighlight "
+       "mnuHighFore PublishedOnly cmdOK cmdCancel"},
+      {"mnuDrives", "lstDrives cobLetter cmdAdd OK Cancel"},
+      {"mnuTBLnew",
+       "Text1 Text2 Combo1 combo2 combo3 combo4 Command1 Command2 qt_tabwidget_tabbar"},
+      {"mnuISTimage",
+       "txtImgSource cmdBrowseIMG txtLowRes cmdBrowseLowRes txtAlt cmdOK cmdCancel "
+       "qt_tabwidget_tabbar qt_tabwidget_tabbar"},
+      {"mnuISTlink",
+       "txtHref cmdABrowse cobATarget cmdAEmail lstABookMark cmdRefreshA cmdOK cmdCancel "
+       "qt_tabwidget_tabbar"},
+  };
+  for (const DialogWalk &walk : walks) {
+    dialogs.ExpectModal([&](QWidget &dialog) {
+      dialog.show();
+      dialog.activateWindow();
+      ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog)) << walk.item;
+      ASSERT_NE(QApplication::focusWidget(), nullptr) << walk.item;
+      const QStringList met =
+          WalkByTab(*QApplication::focusWidget(), [](const QWidget &) { return false; });
+      EXPECT_EQ(met.join(u' ').toStdString(), walk.controls) << walk.item;
+      dialog.close();
+    });
+    Choose(walk.item);
+  }
+}
+
+}  // namespace
+}  // namespace velor
