@@ -4,6 +4,7 @@
 #include "Version.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
+#include "platform/Dialogs.h"
 #include "platform/Runtime.h"
 
 #include <QAccessibleWidget>
@@ -167,7 +168,6 @@ QWidget *frmAbout::BuildHead() {
   large.setPointSizeF(large.pointSizeF() * 2.2);
   large.setWeight(QFont::DemiBold);
   product->setFont(large);
-  product->setToolTip(tr("Version %1").arg(QLatin1String(ProgramVersion)));
   pattern_ = new Pattern(animation_);
 
   auto *grid = new QGridLayout(head);
@@ -175,12 +175,17 @@ QWidget *frmAbout::BuildHead() {
   grid->setHorizontalSpacing(Margin);
   grid->setVerticalSpacing(2);
   grid->setRowStretch(0, 1);
-  grid->addWidget(logo, 0, 0, 4, 1, Qt::AlignVCenter);
+  grid->addWidget(logo, 0, 0, 5, 1, Qt::AlignVCenter);
   grid->addWidget(product, 1, 1);
   grid->addWidget(NewQuietLabel("Label1", QStringLiteral("Example Software")), 2, 1);
-  grid->setRowStretch(3, 1);
+  grid->addWidget(NewQuietLabel("lblVersion",
+                                QStringLiteral("%1 %2\nQt WebEngine %3")
+                                    .arg(QString::fromUtf16(ApplicationTitle),
+                                         QLatin1String(ProgramVersion), QLatin1String(qVersion()))),
+                  3, 1);
+  grid->setRowStretch(4, 1);
   grid->setColumnStretch(1, 1);
-  grid->addWidget(pattern_, 0, 2, 4, 1, Qt::AlignVCenter);
+  grid->addWidget(pattern_, 0, 2, 5, 1, Qt::AlignVCenter);
   return head;
 }
 

@@ -99,9 +99,13 @@ TEST_F(frmAboutTest, NamesProductMakerAndAddress) {
   EXPECT_FALSE(about.findChild<QTimer *>(QStringLiteral("Timer_Show"))->isActive());
 }
 
-TEST_F(frmAboutTest, TellsTheVersionWhenThePointerRestsOnTheProductsName) {
-  EXPECT_EQ(Control<QLabel>(about, QStringLiteral("Label2"))->toolTip(),
-            QStringLiteral("Version " VELOR_VERSION));
+TEST_F(frmAboutTest, NamesProgramVersionAndEngine) {
+  ShowActive();
+  auto *version = Control<QLabel>(about, QStringLiteral("lblVersion"));
+  EXPECT_EQ(version->text(), QStringLiteral("Velor Web Creator " VELOR_VERSION "\nQt WebEngine ") +
+                                 QLatin1String(qVersion()));
+  EXPECT_GE(version->width(), version->sizeHint().width());
+  EXPECT_GE(version->height(), version->sizeHint().height());
 }
 
 TEST_F(frmAboutTest, HasFiveRidgesOfALightAndADarkLine) {
