@@ -1,19 +1,53 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/startup/DesktopService.h"
+#include "app/startup/EndingSignals.h"
 #include "app/startup/EventBoundary.h"
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/MfrmProgram.h"
 #include "chrome/Palette.h"
+#include "editor/PagesAtExit.h"
 #include "engine/PageAccess.h"
 #include "engine/PageScheme.h"
 #include "engine/Sandbox.h"
 #include "platform/DriveMap.h"
+#include "platform/Paths.h"
+#include "qt/ProgramFolder.h"
 #include "qt/RealPlatform.h"
+#include "qt/RunningProgram.h"
+
+#include <QSessionManager>
+
+namespace velor {
+namespace {
+
+/// What was asked of this program from outside is done by its main window.
+QStringList OpenInWindow(MfrmProgram &window, const OpeningRequest &request) {
+  window.ComeToFront(request.activationToken);
+  QStringList paths;
+  for (const QString &file : request.files) paths += ToLogic(file);
+  return window.Router().OpenFiles(paths, request.line);
+}
+
+void Act(MfrmProgram &window, const QString &action) {
+  if (window.Router().IsBusy()) return;
+  if (action == QStringLiteral("new-page")) window.Router().Run({CommandId::NewPage});
+  if (action == QStringLiteral("project-manager")) window.Router().Run({CommandId::ProjectManager});
+}
+
+}  // namespace
+}  // namespace velor
 
 int main(int argc, char **argv) {
   using namespace velor;
   RegisterSchemes();
   ShowPagesToAssistiveTechnology();
   Application application(argv);
+  const QString programFolder = PrepareProgramFolder(QCoreApplication::applicationDirPath());
+  RunningProgram running(programFolder);
+  if (!running.Claim()) {
+    AskRunningProgram(programFolder, {{}, 0, qEnvironmentVariable("XDG_ACTIVATION_TOKEN")});
+    return 0;
+  }
   DressApplication(application);
   const auto driveMapError = UseDriveMapFile(DriveMapFile());
   RealPlatform real(argc, argv);
@@ -41,5 +75,18 @@ int main(int argc, char **argv) {
     StartUp(real.parts, values, windows);
   });
   boundary.StartUpDone();
+
+  const auto isBusy = [&] { return mainWindow->Router().IsBusy(); };
+  running.Serve([&](const OpeningRequest &request) { return OpenInWindow(*mainWindow, request); },
+                isBusy);
+  DesktopService desktop([&](const OpeningRequest &request) { running.Take(request); },
+                         [&](const QString &action) { Act(*mainWindow, action); });
+  if (programFolder == InstalledProgramFolder()) desktop.Register();
+  const EndingSignals signals([&] { mainWindow->close(); });
+  // The session ends: whatever becomes of the other programs, nothing may be lost here.
+  QObject::connect(&application, &QGuiApplication::commitDataRequest, mainWindow.get(),
+                   [&](QSessionManager &manager) {
+                     if (!KeepPagesAtExit(mainWindow->Context())) manager.cancel();
+                   });
   return Application::exec();
 }

@@ -18,7 +18,11 @@ execute_process(COMMAND date -R -d "${released}" OUTPUT_VARIABLE VELOR_RELEASE_T
 string(SUBSTRING "${released}" 0 10 VELOR_RELEASE_DATE)
 configure_file("${packaging}/${application}.metainfo.xml.in" "${made}/${application}.metainfo.xml" @ONLY)
 
-install(TARGETS velor-web-creator velor-catalogue velor-page-check velor-sample-site)
+configure_file("${packaging}/${application}.service.in" "${made}/${application}.service" @ONLY)
+set(programs velor-web-creator velor-open velor-catalogue velor-page-check velor-sample-site)
+
+install(TARGETS ${programs})
+install(FILES "${made}/${application}.service" DESTINATION "${CMAKE_INSTALL_DATADIR}/dbus-1/services")
 install(FILES "${packaging}/${application}.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
 install(FILES "${made}/${application}.metainfo.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 install(FILES "${PROJECT_SOURCE_DIR}/resources/icons/app.svg" DESTINATION "${icons}/scalable/apps"
@@ -48,13 +52,13 @@ function(velor_compressed from name destination)
 endfunction()
 configure_file("${packaging}/changelog.in" "${made}/changelog" @ONLY)
 velor_compressed("${made}/changelog" changelog "${CMAKE_INSTALL_DATADIR}/doc/velor-web-creator")
-foreach(program velor-web-creator velor-catalogue velor-page-check velor-sample-site)
+foreach(program ${programs})
   velor_compressed("${packaging}/man/${program}.1" ${program}.1 "${CMAKE_INSTALL_MANDIR}/man1")
 endforeach()
 install(FILES "${packaging}/lintian-overrides" DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides"
   RENAME velor-web-creator)
 install(FILES "${packaging}/copyright" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/velor-web-creator")
-foreach(program velor-catalogue velor-page-check velor-sample-site)
+foreach(program velor-open velor-catalogue velor-page-check velor-sample-site)
   install(FILES "${packaging}/completions/${program}"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
 endforeach()

@@ -35,14 +35,18 @@ void FillWithSample(const QString &folder, const QString &executableFolder) {
 
 }  // namespace
 
+QString InstalledProgramFolder() {
+  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  return QDir::cleanPath(data + QStringLiteral("/velor-web-creator"));
+}
+
 QString PrepareProgramFolder(const QString &executableFolder) {
   const QString given = qEnvironmentVariable("VELOR_PROGRAM_FOLDER");
   if (!given.isEmpty()) return QDir::cleanPath(QDir(given).absolutePath());
   if (!IsInstalled(executableFolder) && IsWritable(executableFolder)) {
     return QDir::cleanPath(executableFolder);
   }
-  const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  const QString folder = QDir::cleanPath(data + QStringLiteral("/velor-web-creator"));
+  QString folder = InstalledProgramFolder();
   if (!QFileInfo::exists(folder) && QDir().mkpath(folder)) {
     FillWithSample(folder, executableFolder);
   }

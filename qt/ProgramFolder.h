@@ -14,4 +14,7 @@ namespace velor {
 /// without the sample maker it stays empty and the program asks.
 QString PrepareProgramFolder(const QString &executableFolder);
 
+/// The program folder of an installed program, `$XDG_DATA_HOME/velor-web-creator`, in native form.
+QString InstalledProgramFolder();
+
 }  // namespace velor

@@ -34,7 +34,7 @@ installed_files() { find /etc /opt /srv /usr | sort; }
 installed_files >"$before"
 trap '"${as_root[@]}" dpkg --purge velor-web-creator >/dev/null 2>&1 || true; rm -f "$before" "$after"' EXIT
 "${as_root[@]}" dpkg -i "$package"
-tools/tour/with-desktop.sh 1300x900 /usr/bin/python3 tools/tour/installed.py /usr/bin/velor-web-creator build/package/screenshots
+tools/tour/with-desktop.sh 1300x900 /usr/bin/python3 tools/tour/installed.py build/package/screenshots
 "${as_root[@]}" dpkg --purge velor-web-creator
 installed_files >"$after"
 diff "$before" "$after" || { echo "package.sh: files were left behind or are missing" >&2; exit 1; }

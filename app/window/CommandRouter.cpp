@@ -20,6 +20,7 @@
 #include "platform/RuntimeError.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QPointer>
 #include <QScopedValueRollback>
 
@@ -28,6 +29,7 @@
 namespace velor {
 namespace {
 
+constexpr int SourceEditorMode = 3;
 constexpr int PreviewMode = 4;
 
 const QStringList PageEndings = {QStringLiteral(".htm"), QStringLiteral(".html")};
@@ -156,14 +158,17 @@ void CommandRouter::OpenPage() {
   item.setEnabled(true);
 }
 
-void CommandRouter::OpenFile(const QString &path) {
+QString CommandRouter::OpenFile(const QString &path) {
   const QScopedValueRollback<bool> opening(isOpening_, true);
   try {
     if (!ShowPageOfFile(context_, path)) modWorkFlow::OpenPage(context_, path);
   } catch (const RuntimeError &error) {
-    context_.mainWindow.status.Report(
-        QStringLiteral("%1 could not be opened: %2").arg(ForPeople(path), error.Description()));
+    const QString refusal =
+        QStringLiteral("%1 could not be opened: %2").arg(ForPeople(path), error.Description());
+    context_.mainWindow.status.Report(refusal);
+    return refusal;
   }
+  return {};
 }
 
 void CommandRouter::HoldNameOfActivePage() {
@@ -262,6 +267,39 @@ void CommandRouter::OpenRecentFile(const QString &path) {
   if (isOpening_ || ShowPageOfFile(context_, path) || !HasRoom(context_)) return;
   OpenFile(path);
   HoldNameOfActivePage();
+}
+
+QStringList CommandRouter::OpenFiles(const QStringList &paths, int line) {
+  QStringList notOpened;
+  bool isRefused = false;
+  for (const QString &path : paths) {
+    if (ShowPageOfFile(context_, path)) continue;
+    // Said once, however many there are.
+    isRefused = isRefused || !HasRoom(context_);
+    const QString refusal =
+        isRefused
+            ? QStringLiteral("%1 could not be opened: too many pages are open").arg(ForPeople(path))
+            : OpenFile(path);
+    if (!refusal.isEmpty()) notOpened += refusal;
+  }
+  frmMain *first = paths.isEmpty() ? nullptr : PageOfFile(context_, paths.first());
+  if (line > 0 && first != nullptr) ShowSourceLine(*first, line);
+  HoldNameOfActivePage();
+  return notOpened;
+}
+
+bool CommandRouter::IsBusy() const {
+  return isOpening_ || QApplication::activeModalWidget() != nullptr ||
+         QApplication::activePopupWidget() != nullptr;
+}
+
+void CommandRouter::ShowSourceLine(frmMain &page, int line) {
+  context_.mainWindow.windows.Activate(&page);
+  page.ChangeMode(SourceEditorMode);
+  frmCodeEditor *editor = context_.pages.CodeEditor(page.Number());
+  if (editor == nullptr) return;
+  editor->Code().SetCaret(line - 1, 0);
+  editor->Code().CenterCaret();
 }
 
 void CommandRouter::TakeDroppedFiles(const QStringList &paths, frmMain *page) {

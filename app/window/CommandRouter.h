@@ -66,6 +66,12 @@ class CommandRouter {
   /// Opens a file of the list of recent files, or activates the page that has it. `path` in logic
   /// form. Does nothing while another page is being opened.
   void OpenRecentFile(const QString &path);
+  /// Opens pages that another program names, as far as there is room, and shows line `line` of the
+  /// first in its source editor unless that is 0. Paths in logic form. Gives a sentence for each
+  /// that was not opened.
+  QStringList OpenFiles(const QStringList &paths, int line);
+  /// Whether a page is being opened, or a dialog waits for a person: nothing else can be opened.
+  bool IsBusy() const;
   /// Opens dropped pages as far as there is room, whether Open is enabled or not, and inserts
   /// dropped pictures at the caret of `page`. Paths in logic form.
   void TakeDroppedFiles(const QStringList &paths, frmMain *page);
@@ -75,8 +81,11 @@ class CommandRouter {
  private:
   void NewPage();
   void OpenPage();
-  /// Opens the file, or activates the page that has it. A failure is reported in the status bar.
-  void OpenFile(const QString &path);
+  /// Opens the file, or activates the page that has it. A failure is reported in the status bar;
+  /// returns that sentence, or the empty text.
+  QString OpenFile(const QString &path);
+  /// Shows a line, counted from 1, of the page's source in its editor.
+  void ShowSourceLine(frmMain &page, int line);
   /// HoldNameInDialog for the page that is active now.
   void HoldNameOfActivePage();
   void SavePage(modWorkFlow::SaveKind kind);

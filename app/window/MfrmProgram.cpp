@@ -213,6 +213,14 @@ void MfrmProgram::Load() {
   });
 }
 
+void MfrmProgram::ComeToFront(const QString &activationToken) {
+  // The toolkit reads it when a window is activated.
+  if (!activationToken.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  raise();
+  activateWindow();
+}
+
 void MfrmProgram::InitialiseHiddenComponent() {
   formatNames_ = platform_.components.CreateEditingComponent(this);
   formatNames_->Widget()->setObjectName(QStringLiteral("DE1"));

@@ -48,6 +48,9 @@ class MfrmProgram final : public QMainWindow,
   /// Prepares the window in the order of LoadSteps and shows it.
   void Load();
 
+  /// Takes the keyboard; `activationToken` is the desktop's leave to do so, and may be empty.
+  void ComeToFront(const QString &activationToken);
+
   CommandRouter &Router() { return router_; }
   EditorContext &Context() { return context_; }
 

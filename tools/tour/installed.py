@@ -2,22 +2,46 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A first day with the installed program, in a home that holds nothing and with its sockets watched.
 
-Usage: installed.py EXECUTABLE OUT_FOLDER
+Usage: installed.py OUT_FOLDER
 """
 import os
 import re
 import shutil
+import subprocess
 import sys
 import tempfile
+
+from gi.repository import Gio, GLib
 
 from desktop import Program, file_text, wait_for
 from moves import Tour, check, step
 
 
+INSTALLED = "/usr/bin/velor-web-creator"
+
+
+def velor_open_begun(tour, arguments, folder):
+    return subprocess.Popen([os.path.join(os.path.dirname(INSTALLED), "velor-open"), *arguments], cwd=folder,
+                            env=tour.program.environment, stderr=subprocess.PIPE, text=True)
+
+
+def velor_open(tour, arguments, folder):
+    """Its exit status, and what it said."""
+    running = velor_open_begun(tour, arguments, folder)
+    said = running.communicate(timeout=60)[1]
+    return running.returncode, said
+
+
+def ask_as_desktop(method, parameters):
+    bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+    bus.call_sync("com.velor.WebCreator", "/com/velor/WebCreator", "org.freedesktop.Application", method, parameters,
+                  None, Gio.DBusCallFlags.NONE, -1, None)
+
+
 class FirstDay(Tour):
     """A program that nobody told where its folder is."""
 
-    def __init__(self, executable, out):
+    def __init__(self, out):
         self.out = out
         self.scratch = tempfile.mkdtemp(prefix="velor-home-")
         self.folder = os.path.join(self.scratch, ".local/share/velor-web-creator")
@@ -25,7 +49,7 @@ class FirstDay(Tour):
         self.executable = os.path.join(self.scratch, "watched")
         with open(self.executable, "w", encoding="utf-8") as script:
             # Under -D the program, not strace, has the process that is started.
-            script.write(f'#!/bin/sh\nexec strace -D -f --seccomp-bpf -qq -e trace=network -o "{self.sockets}" "{executable}"\n')
+            script.write(f'#!/bin/sh\nexec strace -D -f --seccomp-bpf -qq -e trace=network -o "{self.sockets}" "{INSTALLED}"\n')
         os.chmod(self.executable, 0o755)
         self.program = None
 
@@ -52,6 +76,50 @@ def day(tour):
     wait_for(lambda: file_text(page) != before, "the page to be written")
     after = file_text(page)
     check(after.replace("Hello ", "", 1) == before, f"the page holds {after!r}")
+    step("velor-open opens pages in the program that runs")
+    pages = os.path.join(tour.scratch, "my pages")
+    os.makedirs(pages)
+    names = ["a b#1%20.htm", "ä.htm", "third.html", "fourth.htm", "fifth.htm"]
+    for name in names:
+        with open(os.path.join(pages, name), "w", encoding="utf-8") as file:
+            file.write("<html><body>\n<p>One\n<p>Two\n</body></html>\n")
+    check(velor_open(tour, names[:3], pages) == (0, ""), "three pages")
+    for name in names[:3]:
+        tour.tab(name)
+    check(velor_open(tour, ["none.htm"], pages)[0] == 1, "a page that is not there opened")
+    check("none.htm" in velor_open(tour, ["none.htm"], pages)[1], "the sentence names the page")
+    check(velor_open(tour, ["--line", "x", "a.htm"], pages)[0] == 2, "a line that is no number was taken")
+    check(velor_open(tour, ["--line", "3", names[0]], pages) == (0, ""), "a line of a page that is open")
+    tour.program.wait("Line 3, Column 1", "label")
+    tour.program.shot("source-line")
+
+    step("a second start brings the program to the front and ends")
+    check(subprocess.run([INSTALLED], env=tour.program.environment, timeout=60, check=False).returncode == 0,
+          "the second start failed")
+
+    step("the sixth page says once that there are too many")
+    late = velor_open_begun(tour, names[3:], pages)
+    tour.answer("Too many Pages are opened. Please close one or two File(s), and then try to open it.", "OK")
+    sentences = late.communicate(timeout=60)[1]
+    check(late.returncode == 1 and names[4] in sentences and names[3] not in sentences, f"it said {sentences!r}")
+
+    step("the system's wish to end keeps what was typed")
+    tour.program.type("kept ")
+    tour.program.process.terminate()
+    status = tour.program.wait_end()
+    check(status == 0, f"the program ended with status {status}")
+    tour.start()
+    tour.program.wait("Restore all pages", "push button|button")
+    tour.program.shot("kept")
+
+    step("the desktop opens pages and calls actions")
+    ask_as_desktop("Open", GLib.Variant("(asa{sv})", ([f"file://{pages}/fifth.htm"], {})))
+    tour.tab("fifth.htm")
+    ask_as_desktop("ActivateAction", GLib.Variant("(sava{sv})", ("project-manager", [], {})))
+    tour.program.wait("Web Site Project Manager", "dialog|frame|window")
+    tour.program.shot("project-manager")
+    tour.program.key("Escape")
+
     step("exit leaves nothing running")
     tour.program.open_popup(lambda: tour.program.key("alt+f"))
     tour.program.key("x")
@@ -65,10 +133,10 @@ def day(tour):
 
 
 if __name__ == "__main__":
-    program, out_folder = (os.path.abspath(argument) for argument in sys.argv[1:3])
+    out_folder = os.path.abspath(sys.argv[1])
     shutil.rmtree(out_folder, ignore_errors=True)
     os.makedirs(out_folder)
-    first = FirstDay(program, out_folder)
+    first = FirstDay(out_folder)
     try:
         day(first)
     except Exception:
