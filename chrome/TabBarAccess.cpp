@@ -94,7 +94,8 @@ class TabBarAccess final : public QAccessibleWidget {
     return QAccessible::accessibleInterface(tabs_.value(index));
   }
   int indexOfChild(const QAccessibleInterface *child) const override {
-    if (const auto *tab = dynamic_cast<const TabAccess *>(child)) return tab->Index();
+    if (child->role() == QAccessible::PageTab)
+      return static_cast<const TabAccess *>(child)->Index();
     const int other = QAccessibleWidget::indexOfChild(child);
     return other < 0 ? other : Bar().count() + other;
   }

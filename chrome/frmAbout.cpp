@@ -36,6 +36,7 @@ constexpr int Margin = 24;
 constexpr int PassPeriod = 52;
 
 const QString MailAddress = QStringLiteral("info@example.com");
+const QString MailLinkName = QStringLiteral("lblMail_To");
 
 QLabel *NewLabel(const char *name, const QString &text) {
   auto *label = new QLabel(text);
@@ -53,9 +54,10 @@ QLabel *NewQuietLabel(const char *name, const QString &text) {
 class MailLink final : public QLabel {
  public:
   MailLink() {
-    // Not by the label's constructor, which would have it told as a label once and for all.
+    // The text comes when the name is there by which AccessOfMailLink knows the link: a text makes
+    // the toolkit ask.
+    setObjectName(MailLinkName);
     setText(MailAddress);
-    setObjectName(QStringLiteral("lblMail_To"));
     setForegroundRole(QPalette::Link);
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
@@ -107,9 +109,11 @@ class MailLinkAccess final : public QAccessibleWidget {
   }
 };
 
+/// By the name: dynamic_cast crashes on the engine's objects, which have no type information.
 QAccessibleInterface *AccessOfMailLink(const QString &, QObject *object) {
-  auto *link = dynamic_cast<MailLink *>(object);
-  return link ? new MailLinkAccess(*link) : nullptr;
+  auto *label = qobject_cast<QLabel *>(object);
+  if (label == nullptr || label->objectName() != MailLinkName) return nullptr;
+  return new MailLinkAccess(*static_cast<MailLink *>(label));
 }
 
 }  // namespace

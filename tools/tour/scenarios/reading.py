@@ -60,6 +60,11 @@ def a_page_is_read_over_the_bus(tour):
     program.key("Escape")
     program.wait_gone("Dark teal", "push button|button")
 
+    program.click_on("About")
+    program.wait("info@example.com", "link")
+    program.key("Escape")
+    program.wait_gone("About us...", "dialog")
+
     program.key("ctrl+End")
     program.type(" now")
     program.key("ctrl+s")
