@@ -27,6 +27,7 @@ SCENARIOS = (
     preview.the_preview_walks_through_pages,
     reading.a_page_is_read_over_the_bus,
     inserting.pictures_and_tables_are_inserted,
+    hours.an_article_is_written,
     hours.an_old_page_is_repaired,
     hours.text_moves_between_pages,
     hours.patience_is_lost,
