@@ -177,13 +177,20 @@ void CommandRouter::HoldNameOfActivePage() {
 
 void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
   const FrontWindow *front = host_.Front();
-  if (front == nullptr || front->PageNumber() == 0) return;
   if (additions_ == Additions::Off && ActiveDocument() == nullptr) return;
+  if (front == nullptr || front->PageNumber() == 0) {
+    context_.mainWindow.status.Report(QStringLiteral("There is no page to save"));
+    return;
+  }
   const QPointer<frmMain> page = context_.pages.Page(front->PageNumber());
+  QString done = QStringLiteral("Saved %1");
   if (front->View() == FrontView::SourceEditor) {
     // What is seen is what is saved: the source goes into the page first. Undo there takes it back.
     frmCodeEditor *editor = context_.pages.CodeEditor(front->PageNumber());
-    if (editor->UnappliedText() && !editor->Apply()) return;
+    if (editor->UnappliedText()) {
+      if (!editor->Apply()) return;
+      done = QStringLiteral("The source was applied to the page. Saved %1");
+    }
   }
   if (page.isNull()) return;
   // What the save has to tell outweighs that it went well.
@@ -192,7 +199,7 @@ void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
   if (page.isNull()) return;
   page->ShowTab();
   if (end == modWorkFlow::SaveEnd::Safe && !context_.mainWindow.status.HasNotice())
-    context_.mainWindow.status.Report(QStringLiteral("Saved %1").arg(page->FilePath()));
+    context_.mainWindow.status.Report(done.arg(page->FilePath()));
 }
 
 void CommandRouter::Preview() {

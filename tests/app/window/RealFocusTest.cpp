@@ -79,7 +79,18 @@ class RealFocus : public RealWindow {
     box->showPopup();
     return *box;
   }
+  QComboBox &DropFonts() {
+    auto *box = Find<FontPicker>("Font1");
+    box->lineEdit()->setFocus();
+    box->showPopup();
+    return *box;
+  }
   static void PressInList(QComboBox &box, Qt::Key key) { QTest::keyClick(box.view(), key); }
+  static void ClickInList(QComboBox &box, int row) {
+    const QModelIndex entry = box.model()->index(row, 0);
+    QTest::mouseClick(box.view()->viewport(), Qt::LeftButton, {},
+                      box.view()->visualRect(entry).center());
+  }
 
   QPointer<frmMain> first;
   QPointer<frmMain> second;
@@ -105,6 +116,12 @@ const RealFocus::Row Rows[] = {
        t.Preview().close();
      },
      Place::SecondPage},
+    {"a preview is closed by Ctrl+F4",
+     [](RealFocus &t) {
+       t.second->ChangeMode(4);
+       RealFocus::Press(Qt::Key_F4, Qt::ControlModifier);
+     },
+     Place::SecondPage},
     {"a page is closed", [](RealFocus &t) { t.second->close(); }, Place::FirstPage},
     {"a page is closed by the frame's key",
      [](RealFocus &) { RealFocus::Press(Qt::Key_F4, Qt::ControlModifier); }, Place::FirstPage},
@@ -122,6 +139,12 @@ const RealFocus::Row Rows[] = {
        t.Button("tbrGeneral_open").click();
      },
      Place::SecondPage},
+    {"saving under another name is cancelled",
+     [](RealFocus &t) {
+       t.SharedDialog().ExpectCancelledSave();
+       t.Button("tbrGeneral_saveas").click();
+     },
+     Place::SecondPage},
     {"a file is opened over the menu and its page closed",
      [](RealFocus &t) { t.NewPage().close(); }, Place::SecondPage},
     {"View HTML is left for the design view",
@@ -137,15 +160,11 @@ const RealFocus::Row Rows[] = {
      [](RealFocus &t) { RealFocus::PressInList(t.Drop("cobFormat"), Qt::Key_Escape); },
      Place::SecondPage},
     {"a block format is clicked",
-     [](RealFocus &t) {
-       ChoiceBox &box = t.Drop("cobFormat");
-       const QModelIndex entry = box.model()->index(1, 0);
-       QTest::mouseClick(box.view()->viewport(), Qt::LeftButton, {},
-                         box.view()->visualRect(entry).center());
-     },
-     Place::SecondPage},
+     [](RealFocus &t) { RealFocus::ClickInList(t.Drop("cobFormat"), 1); }, Place::SecondPage},
     {"a size is chosen by Enter",
      [](RealFocus &t) { RealFocus::PressInList(t.Drop("cobSize"), Qt::Key_Return); },
+     Place::SecondPage},
+    {"a size is clicked", [](RealFocus &t) { RealFocus::ClickInList(t.Drop("cobSize"), 1); },
      Place::SecondPage},
     {"the sizes are left by Escape",
      [](RealFocus &t) { RealFocus::PressInList(t.Drop("cobSize"), Qt::Key_Escape); },
@@ -163,6 +182,14 @@ const RealFocus::Row Rows[] = {
        line->setText(QStringLiteral("Some Face"));
        RealFocus::Press(Qt::Key_Return);
      },
+     Place::SecondPage},
+    {"a font is chosen by Enter",
+     [](RealFocus &t) { RealFocus::PressInList(t.DropFonts(), Qt::Key_Return); },
+     Place::SecondPage},
+    {"a font is clicked", [](RealFocus &t) { RealFocus::ClickInList(t.DropFonts(), 0); },
+     Place::SecondPage},
+    {"the list of fonts is left by Escape",
+     [](RealFocus &t) { RealFocus::PressInList(t.DropFonts(), Qt::Key_Escape); },
      Place::SecondPage},
     {"the font box is left by Escape",
      [](RealFocus &t) {

@@ -19,6 +19,7 @@
 #include <QMenu>
 #include <QStatusBar>
 #include <QTest>
+#include <QWebEnginePage>
 
 namespace velor {
 namespace {
@@ -108,6 +109,41 @@ TEST_F(RealFront, WithoutAPageAllThatNeedsOneIsOffAndEmpty) {
     EXPECT_FALSE(Button(button).isEnabled()) << button;
 }
 
+TEST_F(RealFront, SavingWithoutAPageSaysThatThereIsNone) {
+  for (const char *item : {"mnuSave", "mnuSaveAs"}) {
+    Parts().status.Report({});
+    Choose(item);
+    EXPECT_EQ(Find<QStatusBar>("Sta")->currentMessage(),
+              QStringLiteral("There is no page to save"));
+  }
+}
+
+TEST_F(RealFront, CharsetAndLineEndsAreThoseOfThePageThatCameToTheFront) {
+  frmMain &old =
+      Open(QStringLiteral("old.htm"),
+           "<html><head><meta charset=windows-1252></head>\r\n<body>a</body></html>\r\n");
+  frmMain &young = Open(QStringLiteral("young.htm"),
+                        "<html><head><meta charset=utf-8></head>\n<body>b</body></html>\n");
+  ASSERT_NE(old.DHTML1().TextForm(), young.DHTML1().TextForm());
+  EXPECT_EQ(TextForm(), young.DHTML1().TextForm());
+  ClickTab(0);
+  EXPECT_EQ(TextForm(), old.DHTML1().TextForm());
+  young.ChangeMode(3);
+  EXPECT_EQ(TextForm(), young.DHTML1().TextForm());
+  ClickTab(0);
+  young.ChangeMode(4);
+  EXPECT_EQ(TextForm(), young.DHTML1().TextForm());
+}
+
+TEST_F(RealFront, ASizeThatIsNoneOfTheSevenIsShownWithItsUnit) {
+  frmMain &page =
+      Open(QStringLiteral("a.htm"), "<html><body><p style='font-size: 15pt'>One</p></body></html>");
+  PutCaret(page, QStringLiteral("p"));
+  EXPECT_TRUE(WaitFor([this] {
+    return Find<ChoiceBox>("cobSize")->Text() == QStringLiteral("15 pt");
+  })) << Find<ChoiceBox>("cobSize")->Text().toStdString();
+}
+
 TEST_F(RealFront, WithTheSourceEditorInFrontTheEditCommandsActOnTheSource) {
   frmMain &page = Open(QStringLiteral("a.htm"), Plain);
   page.ChangeMode(3);
@@ -140,6 +176,9 @@ TEST_F(RealFront, SavingWithTheSourceEditorInFrontAppliesTheSourceAndSavesThePag
   Choose("mnuSave");
   EXPECT_TRUE(Bytes(QStringLiteral("a.htm")).contains("<p>Two</p>"));
   EXPECT_EQ(EditorOf(page).AppliedText, EditorOf(page).Code().Text());
+  EXPECT_EQ(Find<QStatusBar>("Sta")->currentMessage(),
+            QStringLiteral("The source was applied to the page. Saved %1")
+                .arg(folder.FilePath(QStringLiteral("a.htm"))));
   EXPECT_EQ(Area().Current(), &EditorOf(page)) << "one goes on in the source";
   EditorOf(page).close();
   Choose("mnuUndo");
@@ -187,6 +226,17 @@ TEST_F(RealFront, WithThePreviewInFrontSaveSavesItsPageAndTheRestIsOff) {
   EXPECT_TRUE(Bytes(QStringLiteral("a.htm")).contains("<p>Oxne</p>"));
 }
 
+TEST_F(RealFront, WithThePreviewInFrontPreviewShowsThePageAnew) {
+  frmMain &page = Open(QStringLiteral("a.htm"), Plain);
+  page.ChangeMode(4);
+  QWebEnginePage &shown = EngineOf(*window.Context().preview);
+  ASSERT_TRUE(WaitFor([&] { return !shown.isLoading(); }));
+  int loads = 0;
+  QObject::connect(&shown, &QWebEnginePage::loadFinished, &page, [&loads] { ++loads; });
+  Button("tbrGeneral_preview").click();
+  EXPECT_TRUE(WaitFor([&] { return loads == 1; }));
+}
+
 TEST_F(RealFront, ThePreviewClosesWithItsPage) {
   frmMain &page = Open(QStringLiteral("a.htm"), Plain);
   Open(QStringLiteral("b.htm"), Plain);
@@ -215,14 +265,23 @@ TEST_F(RealFront, SourceEditorAndPreviewAreNamedByTheirPageAndKind) {
   })) << window.windowTitle().toStdString();
 }
 
-TEST_F(RealFront, AMinimisedPageComesUpWhenItsTabIsClicked) {
+TEST_F(RealFront, AMinimisedPageComesUpWhenItIsChosen) {
   frmMain &page = Open(QStringLiteral("a.htm"), Plain);
   Open(QStringLiteral("b.htm"), Plain);
   auto *frame = qobject_cast<QMdiSubWindow *>(page.parentWidget());
-  frame->showMinimized();
-  ClickTab(0);
-  EXPECT_FALSE(frame->isMinimized());
-  EXPECT_EQ(Area().Current(), &page);
+  const auto chooseInMenu = [this] {
+    Q_EMIT Find<QMenu>("mnuWindow")->aboutToShow();
+    for (QAction *action : Find<QMenu>("mnuWindow")->actions())
+      if (action->text() == QStringLiteral("&1 a.htm")) action->trigger();
+  };
+  for (const std::function<void()> &choose :
+       std::initializer_list<std::function<void()>>{[this] { ClickTab(0); }, chooseInMenu}) {
+    ClickTab(1);
+    frame->showMinimized();
+    choose();
+    EXPECT_FALSE(frame->isMinimized());
+    EXPECT_EQ(Area().Current(), &page);
+  }
 }
 
 TEST_F(RealFront, ANoticeGoesWhenAnotherPageComesToTheFront) {

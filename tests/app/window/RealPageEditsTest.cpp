@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a person does in a page by keys, mouse, menus and dialogs, with the file that comes of it.
+#include "editor/frmMain.h"
+#include "platform/EditingComponent.h"
+#include "tests/app/window/RealWindowFixture.h"
+#include "tests/engine/ComponentFixture.h"
+
+#include <QPushButton>
+#include <QTest>
+#include <QWebEnginePage>
+
+namespace velor {
+namespace {
+
+const QString File = QStringLiteral("a.htm");
+
+class RealPageEdits : public RealWindow {
+ protected:
+  /// A rectangle of the page, in its widget's coordinates.
+  static QRect Place(frmMain &page, const QString &selector, int index = 0) {
+    const QVariantList place =
+        Evaluate(EngineOf(page),
+                 QStringLiteral("{ const r = document.querySelectorAll('%1')[%2]"
+                                ".getBoundingClientRect(); [r.x, r.y, r.width, r.height] }")
+                     .arg(selector)
+                     .arg(index))
+            .toList();
+    EXPECT_EQ(place.size(), 4) << selector.toStdString();
+    return {place.value(0).toInt(), place.value(1).toInt(), place.value(2).toInt(),
+            place.value(3).toInt()};
+  }
+  static void Click(frmMain &page, QPoint place) {
+    QTest::mouseClick(InputOf(page), Qt::LeftButton, {}, place);
+  }
+  static bool TableIsSelected(frmMain &page) {
+    return page.DHTML1().Document().Selection().Type() == SelectionType::Control;
+  }
+  frmMain &PageWithTable() {
+    frmMain &page = Open(File, "<html><body>\n<p>Prices</p>\n</body></html>\n");
+    Key(page, Qt::Key_End, Qt::ControlModifier);
+    dialogs.ExpectModal([](QWidget &dialog) {
+      dialog.findChild<QPushButton *>(QStringLiteral("Command1"))->click();
+    });
+    Choose("mnuTBLnew");
+    EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("<table")); })) << Seen(page);
+    return page;
+  }
+};
+
+TEST_F(RealPageEdits, AFirstWordThatIsCutAndPastedBackKeepsItsBlank) {
+  struct Row {
+    const char *page;
+    const char *within;
+  };
+  for (const Row &row : {Row{"<p>alpha beta gamma</p>", "p"},
+                         Row{"<ul><li>alpha beta</li><li>gamma</li></ul>", "li"},
+                         Row{"<p>alpha <b>beta</b> gamma</p>", "p"},
+                         Row{"<table><tr><td>alpha beta</td></tr></table>", "td"}}) {
+    SCOPED_TRACE(row.page);
+    const QByteArray content = QByteArray("<html><body>") + row.page + "</body></html>";
+    frmMain &page = Open(File, content);
+    PutCaret(page, QString::fromLatin1(row.within));
+    Key(page, Qt::Key_Home);
+    Key(page, Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    Key(page, Qt::Key_X, Qt::ControlModifier);
+    ASSERT_TRUE(WaitFor([&] { return !Holds(page, QStringLiteral("alpha")); })) << Seen(page);
+    Key(page, Qt::Key_V, Qt::ControlModifier);
+    ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("alpha")); })) << Seen(page);
+    Choose("mnuSave");
+    EXPECT_EQ(Bytes(File).toStdString(), content.toStdString());
+    page.MarkKill();
+    page.close();
+  }
+}
+
+TEST_F(RealPageEdits, ATableThatWasPutInIsFilledByTabAndGrowsByARow) {
+  frmMain &page = PageWithTable();
+  for (int cell = 1; cell <= 9; ++cell) {
+    Type(page, QStringLiteral("c%1").arg(cell));
+    Key(page, Qt::Key_Tab);
+  }
+  Type(page, QStringLiteral("more"));
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("more")); })) << Seen(page);
+  const QString html = page.DHTML1().DocumentHTML();
+  EXPECT_TRUE(html.contains(QStringLiteral("<p>Prices</p>"))) << Seen(page);
+  for (int cell = 1; cell <= 9; ++cell)
+    EXPECT_TRUE(html.contains(QStringLiteral("<td>c%1</td>").arg(cell))) << cell << Seen(page);
+  EXPECT_TRUE(html.contains(QStringLiteral("<td>more</td>"))) << Seen(page);
+  EXPECT_EQ(html.count(QStringLiteral("<tr>")), 4) << Seen(page);
+}
+
+TEST_F(RealPageEdits, AnEmptyCellIsALineHighAndNothingOfThatIsInTheFile) {
+  frmMain &page = PageWithTable();
+  const int line = Place(page, QStringLiteral("p")).height();
+  for (int cell = 0; cell < 9; ++cell)
+    EXPECT_GE(Place(page, QStringLiteral("td"), cell).height(), line) << cell;
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(File).count("<td></td>"), 9) << Bytes(File).toStdString();
+}
+
+TEST_F(RealPageEdits, AClickInACellPutsTheCaretThereAndTheEdgeSelectsTheTable) {
+  frmMain &page = PageWithTable();
+  for (const int cell : {4, 8, 0}) {
+    Click(page, Place(page, QStringLiteral("td"), cell).center());
+    Type(page, QStringLiteral("c%1").arg(cell));
+    ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("<td>c%1</td>").arg(cell)); }))
+        << Seen(page);
+    EXPECT_FALSE(TableIsSelected(page));
+  }
+  const QRect table = Place(page, QStringLiteral("table"));
+  Click(page, {table.right() + 2, table.center().y()});
+  EXPECT_TRUE(WaitFor([&] { return TableIsSelected(page); }));
+  Click(page, Place(page, QStringLiteral("td"), 4).center());
+  EXPECT_TRUE(WaitFor([&] { return !TableIsSelected(page); }));
+  Key(page, Qt::Key_Escape);
+  EXPECT_TRUE(WaitFor([&] { return TableIsSelected(page); }));
+}
+
+TEST_F(RealPageEdits, WhatIsTypedWithATableSelectedGoesBehindIt) {
+  frmMain &page = PageWithTable();
+  Type(page, QStringLiteral("c"));
+  Key(page, Qt::Key_Escape);
+  ASSERT_TRUE(WaitFor([&] { return TableIsSelected(page); }));
+  Type(page, QStringLiteral("x"));
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("x")); })) << Seen(page);
+  const QString html = page.DHTML1().DocumentHTML();
+  EXPECT_TRUE(html.contains(QStringLiteral("<td>c</td>"))) << Seen(page);
+  EXPECT_GT(html.lastIndexOf(u'x'), html.indexOf(QStringLiteral("</table>"))) << Seen(page);
+}
+
+}  // namespace
+}  // namespace velor
