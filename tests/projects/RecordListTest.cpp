@@ -48,6 +48,16 @@ TEST_F(RecordListTest, ShowsTheTableAfterARebindAndMakesTheFirstRowCurrent) {
   EXPECT_EQ(list.CurrentValue(), QVariant(10.0));
 }
 
+TEST_F(RecordListTest, SaysThatARowHasNoName) {
+  table.At(1, 1) = QString();
+  table.At(2, 1) = QVariant();
+  list.SetArray(table);
+  list.ReBind();
+  EXPECT_EQ(Shown(0, 1), QStringLiteral("(no name)"));
+  EXPECT_EQ(Shown(1, 1), QStringLiteral("(no name)"));
+  EXPECT_EQ(Shown(2, 1), QStringLiteral("name 3"));
+}
+
 TEST_F(RecordListTest, HasNoCurrentValueOnceItsRowsAreGone) {
   list.SetArray(table);
   list.ReBind();

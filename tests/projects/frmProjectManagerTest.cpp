@@ -166,6 +166,21 @@ TEST_F(ProjectManagerTest, ShowsItsTabsListsAndButton) {
   EXPECT_EQ(Get<RecordList>("LstPages")->model()->columnCount(), 2);
 }
 
+TEST_F(ProjectManagerTest, GoesThroughTabsListAndButtonByTab) {
+  Open();
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  QStringList met;
+  const QWidget *start = window->focusWidget();
+  ASSERT_NE(start, nullptr);
+  do {
+    met.append(window->focusWidget()->objectName());
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+  } while (window->focusWidget() != start && met.size() < 10);
+  EXPECT_EQ(met, (QStringList{U("LsHistory"), U("cmdOpen"), U("qt_tabwidget_tabbar")}))
+      << met.join(u' ').toStdString();
+}
+
 TEST_F(ProjectManagerTest, TakesItsLastThreeTabsOutOfUse) {
   Open();
   auto *tabs = Get<QTabWidget>("SSTab1");

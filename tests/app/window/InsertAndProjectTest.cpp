@@ -3,6 +3,7 @@
 #include "app/window/PageTabs.h"
 #include "app/window/ProjectDesk.h"
 #include "chrome/FrmFld.h"
+#include "chrome/HouseStyle.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "insert/frmInsertElement.h"
@@ -10,8 +11,10 @@
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/Checks.h"
 
+#include <QAbstractItemView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
@@ -160,6 +163,29 @@ class ProjectTest : public WindowFixture {
     manager.findChild<QPushButton *>(QStringLiteral("cmdOpen"))->click();
   }
 };
+
+TEST(PageChooserTest, ManyPagesAreAListOfTwentyRowsInWhichTypingFinds) {
+  HouseStyle style;
+  PageChooser chooser(nullptr);
+  chooser.setStyle(&style);
+  for (int page = 1; page <= 700; ++page)
+    chooser.AddPage(page == 1 ? QString() : QStringLiteral("Page %1").arg(page), page);
+  EXPECT_EQ(chooser.itemText(0), QStringLiteral("(no name)"));
+  chooser.show();
+  chooser.showPopup();
+  QAbstractItemView &list = *chooser.view();
+  const int row = list.visualRect(list.model()->index(0, 0)).height();
+  ASSERT_GT(row, 0);
+  EXPECT_LE(list.viewport()->height() / row, 20);
+  EXPECT_GE(list.viewport()->height() / row, 19);
+  EXPECT_TRUE(list.verticalScrollBar()->isVisible());
+  QTest::keyClicks(&list, QStringLiteral("page 69"));
+  EXPECT_EQ(list.currentIndex().data().toString(), QStringLiteral("Page 69"));
+  int chosen = 0;
+  QObject::connect(&chooser, &PageChooser::PageChosen, [&](std::int32_t id) { chosen = id; });
+  QTest::keyClick(&list, Qt::Key_Return);
+  EXPECT_EQ(chosen, 69);
+}
 
 TEST_F(ProjectTest, ItemAndButtonShowTheProjectManagerModally) {
   int shown = 0;
