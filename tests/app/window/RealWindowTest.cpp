@@ -411,6 +411,7 @@ TEST_F(RealEditing, TheHyperlinkDialogLeavesThePageAsItIs) {
   const QString before = page.DHTML1().DocumentHTML();
   dialogs.ExpectModal([](QWidget &dialog) {
     dialog.show();
+    dialog.findChild<QLineEdit *>(QStringLiteral("txtHref"))->setText(QStringLiteral("b.htm"));
     dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
     EXPECT_FALSE(dialog.isVisible());
   });
