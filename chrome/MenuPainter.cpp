@@ -6,6 +6,8 @@
 #include "chrome/WidgetControl.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QEvent>
 #include <QImage>
 #include <QMenu>
 #include <QPainter>
@@ -91,6 +93,13 @@ void DrawCheck(QPainter *painter, const QRect &item, const QColor &color) {
   painter->setPen(QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter->drawPolyline(
       QPolygonF{{middle + QPointF(-4, 0), middle + QPointF(-1, 3), middle + QPointF(5, -4)}});
+}
+
+/// Whether a menu belongs to the window or to something in it, a menu being a window of its own.
+bool IsWithin(const QMenu &menu, const QWidget &window) {
+  for (const QWidget *at = menu.parentWidget(); at != nullptr; at = at->parentWidget())
+    if (at == &window) return true;
+  return false;
 }
 
 }  // namespace
@@ -283,6 +292,16 @@ void StyleMenuPainter::SetImageList(const ImageList &images) {
 void StyleMenuPainter::TakeOver(QWidget &window) {
   window_ = &window;
   for (QMenu *menu : window.findChildren<QMenu *>()) menu->setStyle(style_.get());
+  // Source editors, the preview and text boxes make theirs when they are asked for.
+  qApp->installEventFilter(this);
+}
+
+bool StyleMenuPainter::eventFilter(QObject *watched, QEvent *event) {
+  if (event->type() != QEvent::Polish) return false;
+  auto *menu = qobject_cast<QMenu *>(watched);
+  if (menu != nullptr && menu->style() != style_.get() && IsWithin(*menu, *window_))
+    menu->setStyle(style_.get());
+  return false;
 }
 
 void StyleMenuPainter::SetItemPicture(const QString &itemName, const QString &imageKey) {

@@ -31,7 +31,7 @@ class MenuPainter {
   virtual void SetHighlightTextColor(std::int32_t color) = 0;
 
   virtual void SetImageList(const ImageList &images) = 0;
-  /// Takes over drawing every menu of the window.
+  /// Takes over drawing every menu of the window, those too that are made later.
   virtual void TakeOver(QWidget &window) = 0;
   /// Shows the picture with that key beside the item of that name.
   virtual void SetItemPicture(const QString &itemName, const QString &imageKey) = 0;
@@ -74,6 +74,8 @@ class StyleMenuPainter final : public QObject, public MenuPainter {
 
   /// The look as it was set, before LegibleLook.
   const MenuLook &Look() const;
+
+  bool eventFilter(QObject *watched, QEvent *event) override;
 
  private:
   class Style;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // frmCodeEditor: its controls and their layout.
 #include "chrome/HouseStyle.h"
+#include "chrome/Icons.h"
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
 #include "editor/SourceFindBar.h"
@@ -54,15 +55,16 @@ constexpr std::array<QStringView, 7> Tabs{u"Standard", u"Forms",  u"Fonts",  u"L
 struct MenuEntry {
   QStringView caption;
   EditingCommand command = EditingCommand::Undo;
+  QStringView picture = {};
 };
 constexpr std::array<MenuEntry, 9> MenuEntries{{
-    {u"&Undo", EditingCommand::Undo},
-    {u"&Redo", EditingCommand::Redo},
+    {u"&Undo", EditingCommand::Undo, u"undo"},
+    {u"&Redo", EditingCommand::Redo, u"redo"},
     {},
-    {u"Cu&t", EditingCommand::Cut},
-    {u"&Copy", EditingCommand::Copy},
-    {u"&Paste", EditingCommand::Paste},
-    {u"&Delete", EditingCommand::Delete},
+    {u"Cu&t", EditingCommand::Cut, u"cut"},
+    {u"&Copy", EditingCommand::Copy, u"copy"},
+    {u"&Paste", EditingCommand::Paste, u"paste"},
+    {u"&Delete", EditingCommand::Delete, u"delete"},
     {},
     {u"Select &All", EditingCommand::SelectAll},
 }};
@@ -182,8 +184,9 @@ void frmCodeEditor::PopUpMenu(QPoint place) {
       menu->addSeparator();
       continue;
     }
-    menu->addAction(entry.caption.toString(), this,
-                    [this, command = entry.command] { Edit(command); });
+    QAction *item = menu->addAction(entry.caption.toString(), this,
+                                    [this, command = entry.command] { Edit(command); });
+    if (!entry.picture.isEmpty()) item->setIcon(IconFor(entry.picture.toString()));
   }
   menu->addSeparator();
   QAction *apply = menu->addAction(QStringLiteral("Apply to Document"), this, [this] { Apply(); });

@@ -150,6 +150,21 @@ TEST_F(MenuPainterTest, TheProgramsOwnPicturesAreLegibleOnEveryPalette) {
   }
 }
 
+TEST_F(MenuPainterTest, MenusMadeLaterAnywhereInTheWindowArePaintedAlikeAndNoOthers) {
+  painter.TakeOver(window);
+  QWidget editor(&window);
+  QMenu later(&editor);
+  later.addAction(QStringLiteral("Undo"));
+  later.popup({});
+  EXPECT_EQ(later.style(), menu->style());
+  later.close();
+  QMenu elsewhere;
+  elsewhere.addAction(QStringLiteral("Undo"));
+  elsewhere.popup({});
+  EXPECT_NE(elsewhere.style(), menu->style());
+  elsewhere.close();
+}
+
 TEST_F(MenuPainterTest, PopUpMenusArePaintedAlike) {
   auto *popup = new QMenu(&window);
   popup->addAction(QStringLiteral("Cut"));
