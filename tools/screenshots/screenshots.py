@@ -132,18 +132,24 @@ def objects(photos):
     details."""
     program = photos.program
     photos.dialog(lambda: program.key("ctrl+o"), "file-dialog", ("Cancel",))
-    path = os.path.join(program.folder, "objects.htm")
-    with open(path, "w", encoding="utf-8") as page:
-        page.write(OBJECTS)
-    os.chmod(path, 0o444)
-    program.key("ctrl+o")
-    dialog = program.wait(None, "dialog|file chooser")
-    wait_for(lambda: program.has_state(program.wait(role="text", within=dialog),
-                                       Atspi.StateType.FOCUSED), "the name box's focus")
-    program.key("ctrl+a")
-    program.type(path)
-    program.key("Return")
-    program.wait(os.path.basename(path), "page tab")
+
+    def open_page(name, mode, caption):
+        path = os.path.join(program.folder, name)
+        with open(path, "w", encoding="utf-8") as page:
+            page.write(OBJECTS)
+        os.chmod(path, mode)
+        program.key("ctrl+o")
+        dialog = program.wait(None, "dialog|file chooser")
+        wait_for(lambda: program.has_state(program.wait(role="text", within=dialog),
+                                           Atspi.StateType.FOCUSED), "the name box's focus")
+        program.key("ctrl+a")
+        program.type(path)
+        program.key("Return")
+        program.wait(caption, "page tab")
+
+    open_page("locked.htm", 0o444, "locked.htm (Read-Only)")
+    photos.shot("read-only")
+    open_page("objects.htm", 0o644, "objects.htm")
     view = program.wait(role="document web")
     place = Atspi.Component.get_extents(view, Atspi.CoordType.SCREEN)
 
@@ -169,8 +175,7 @@ def objects(photos):
     photos.shot("box-on-grid")
     program.release()
     program.key("ctrl+z")
-    page = program.wait(os.path.basename(path), "frame")
-    program.press("Show Detail", within=page)
+    program.press("Show Detail", within=program.wait("objects.htm", "frame"))
     photos.away()
     wait_for(lambda: program.colour(*at(40.5, 167)) != program.colour(*at(900, 400)), "the details")
     photos.shot("details")
