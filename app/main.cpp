@@ -48,7 +48,7 @@ int main(int argc, char **argv) {
     AskRunningProgram(programFolder, {{}, 0, qEnvironmentVariable("XDG_ACTIVATION_TOKEN")});
     return 0;
   }
-  DressApplication(application);
+  StyleApplication(application);
   const auto driveMapError = UseDriveMapFile(DriveMapFile());
   RealPlatform real(argc, argv);
   EventBoundary boundary(real.dialogs, real.runtime);

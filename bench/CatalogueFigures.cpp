@@ -163,7 +163,7 @@ void ChildReadPages() {
   const auto connection = Opened(qEnvironmentVariable(FileVariable));
   const auto records = connection->CreateRecordset();
   OpenRecordset(*records, Statements::PagesOfProject(1), *connection);
-  TellReadyAndWait();
+  ReportReadyAndWait();
 }
 
 }  // namespace velor::bench

@@ -104,7 +104,7 @@ double IdleTimeOf(const QString &figure) {
   return ProcessorTimeOfTree(child.Pid()) - before;
 }
 
-void TellReadyAndWait() {
+void ReportReadyAndWait() {
   std::puts("ready");
   std::fflush(stdout);
   QApplication::exec();

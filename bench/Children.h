@@ -19,6 +19,6 @@ double MemoryOf(const QString &figure);
 double IdleTimeOf(const QString &figure);
 
 /// To be called in a child: says that it is ready and waits to be ended.
-void TellReadyAndWait();
+void ReportReadyAndWait();
 
 }  // namespace velor::bench

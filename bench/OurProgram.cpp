@@ -30,7 +30,7 @@ void Prepare(const QString &folder) {
 
 OurProgram::OurProgram() {
   Prepare(folder_.path());
-  DressApplication(*qApp);
+  StyleApplication(*qApp);
   real_ = std::make_unique<RealPlatform>(0, nullptr);
   RealStartUpWindows windows(real_->parts.components, real_->dialogs,
                              {values_.ImageFolderPath, values_.ProjectFolderResult}, [this] {

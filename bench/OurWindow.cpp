@@ -14,13 +14,13 @@ namespace velor::bench {
 
 void ChildOurWindow() {
   const OurProgram program;
-  TellReadyAndWait();
+  ReportReadyAndWait();
 }
 
 void ChildOurFivePages() {
   OurProgram program;
   for (int page = 0; page < 5; ++page) modWorkFlow::NewPage(program.Context());
-  TellReadyAndWait();
+  ReportReadyAndWait();
 }
 
 namespace {
@@ -34,7 +34,7 @@ void OpenAndClose(int pages) {
     window.close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
-  TellReadyAndWait();
+  ReportReadyAndWait();
 }
 
 }  // namespace

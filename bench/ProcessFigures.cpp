@@ -33,7 +33,7 @@ void OpenAndClose(int views) {
     view.show();
     view.LoadFile(SmallPage(folder));
   }
-  TellReadyAndWait();
+  ReportReadyAndWait();
 }
 
 }  // namespace
@@ -81,7 +81,7 @@ void ChildBareWindow() {
   view.resize(1280, 860);
   view.show();
   view.LoadFile(SmallPage(folder));
-  TellReadyAndWait();
+  ReportReadyAndWait();
 }
 
 void ChildBareOneClosed() {
@@ -101,7 +101,7 @@ void ChildBareFiveViews() {
     views.back()->show();
     views.back()->LoadFile(SmallPage(folder));
   }
-  TellReadyAndWait();
+  ReportReadyAndWait();
 }
 
 }  // namespace velor::bench

@@ -235,7 +235,7 @@ int IsAtEnd(sqlite3_vtab_cursor *cursor) {
   return From(cursor).atEnd ? 1 : 0;
 }
 
-void Give(sqlite3_context *context, const QVariant &value) {
+void SetResult(sqlite3_context *context, const QVariant &value) {
   switch (value.typeId()) {
     case QMetaType::QString: {
       const QByteArray text = value.toString().toUtf8();
@@ -266,7 +266,7 @@ int GiveColumn(sqlite3_vtab_cursor *base, sqlite3_context *context, int column) 
     const auto &columns = cursor.Of().definition->columns;
     const JetType type = columns[static_cast<std::size_t>(column)].type;
     if (type != JetType::Boolean && !IsWholeNumber(type)) {
-      Give(context, cursor.rows->Value(column));
+      SetResult(context, cursor.rows->Value(column));
     } else if (const std::optional<qint64> number = cursor.rows->Integer(column)) {
       sqlite3_result_int64(context, *number);
     }

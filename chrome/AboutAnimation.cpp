@@ -3,7 +3,7 @@
 
 namespace velor {
 
-bool AboutAnimation::Pass(double now) {
+bool AboutAnimation::StepIfDue(double now) {
   if (lastStep_ && now >= *lastStep_ && now - *lastStep_ <= StepSeconds) return false;
   lastStep_ = now;
   if (step_ < Squares) shown_ = step_ + 1;

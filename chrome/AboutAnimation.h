@@ -20,7 +20,7 @@ class AboutAnimation {
   static constexpr double StepSeconds = 0.05;
 
   /// Takes a step if one is due at `now` (seconds since midnight); returns whether it did.
-  bool Pass(double now);
+  bool StepIfDue(double now);
 
   /// How many squares are shown, from index 0.
   int ShownSquares() const { return shown_; }

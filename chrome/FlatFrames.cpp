@@ -51,7 +51,7 @@ class SelectedPen {
 class Canvas {
  public:
   Canvas(WindowSystem &windows, WindowHandle surface)
-      : windows_(windows), context_(windows.TakeDeviceContext(surface)) {}
+      : windows_(windows), context_(windows.CreateDeviceContext(surface)) {}
   ~Canvas() { windows_.DeleteDeviceContext(context_); }
   Canvas(const Canvas &) = delete;
   Canvas &operator=(const Canvas &) = delete;

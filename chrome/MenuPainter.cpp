@@ -133,7 +133,7 @@ MenuLook LegibleLook(const MenuLook &look, const QPalette &palette) {
 
 void MenuPictureSweep(QWidget &window, const ImageList &images, MenuPainter &painter) {
   painter.SetImageList(images);
-  painter.TakeOver(window);
+  painter.PaintMenusOf(window);
   for (const QAction *item : MenuItemsOf(window)) {
     const QString key = item->objectName().toLower();
     if (images.contains(key)) painter.SetItemPicture(item->objectName(), key);
@@ -289,7 +289,7 @@ void StyleMenuPainter::SetImageList(const ImageList &images) {
   images_ = images;
 }
 
-void StyleMenuPainter::TakeOver(QWidget &window) {
+void StyleMenuPainter::PaintMenusOf(QWidget &window) {
   window_ = &window;
   for (QMenu *menu : window.findChildren<QMenu *>()) menu->setStyle(style_.get());
   // Source editors, the preview and text boxes make theirs when they are asked for.

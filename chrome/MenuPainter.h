@@ -32,7 +32,7 @@ class MenuPainter {
 
   virtual void SetImageList(const ImageList &images) = 0;
   /// Takes over drawing every menu of the window, those too that are made later.
-  virtual void TakeOver(QWidget &window) = 0;
+  virtual void PaintMenusOf(QWidget &window) = 0;
   /// Shows the picture with that key beside the item of that name.
   virtual void SetItemPicture(const QString &itemName, const QString &imageKey) = 0;
 };
@@ -69,7 +69,7 @@ class StyleMenuPainter final : public QObject, public MenuPainter {
   void SetHighlightColor(std::int32_t color) override;
   void SetHighlightTextColor(std::int32_t color) override;
   void SetImageList(const ImageList &images) override;
-  void TakeOver(QWidget &window) override;
+  void PaintMenusOf(QWidget &window) override;
   void SetItemPicture(const QString &itemName, const QString &imageKey) override;
 
   /// The look as it was set, before LegibleLook.

@@ -120,7 +120,7 @@ bool IsHighContrast(const QPalette &palette) {
   return Contrast(palette.color(QPalette::WindowText), palette.color(QPalette::Window)) > Ordinary;
 }
 
-void DressApplication(QApplication &application) {
+void StyleApplication(QApplication &application) {
   const QPalette desktops = QGuiApplication::palette();
   const bool keeps = !qEnvironmentVariableIsSet("VELOR_PALETTE") && IsHighContrast(desktops);
   const QPalette palette = keeps ? desktops : PaletteFor(ChosenShade());

@@ -24,7 +24,7 @@ bool IsHighContrast(const QPalette &palette);
 /// Sets style, palette and icon of the application, and how its combo boxes report to assistive
 /// technology (AnnounceComboBoxLabels). Called once, before the first window. A desktop's
 /// high-contrast palette stays, unless $VELOR_PALETTE is set.
-void DressApplication(QApplication &application);
+void StyleApplication(QApplication &application);
 
 /// The thin line between neighbouring areas.
 QColor Hairline(const QPalette &palette);

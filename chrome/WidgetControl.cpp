@@ -63,12 +63,12 @@ class InwardsKeeper final : public QObject {
   }
 
   bool eventFilter(QObject *, QEvent *event) override {
-    if (event->type() == QEvent::Resize || event->type() == QEvent::Move) Keep();
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move) ShrinkByMargins();
     return false;
   }
 
  private:
-  void Keep() {
+  void ShrinkByMargins() {
     if (widget_.geometry() == kept_) return;
     kept_ = widget_.geometry().marginsRemoved(inwards_);
     widget_.setGeometry(kept_);

@@ -66,18 +66,19 @@ class MailLink final : public QLabel {
     setFont(underlined);
   }
 
-  void Follow() { Q_EMIT linkActivated(QStringLiteral("mailto:") + MailAddress); }
+  void OpenMail() { Q_EMIT linkActivated(QStringLiteral("mailto:") + MailAddress); }
 
  protected:
   void mouseReleaseEvent(QMouseEvent *event) override {
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) Follow();
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+      OpenMail();
   }
   void keyPressEvent(QKeyEvent *event) override {
     switch (event->key()) {
       case Qt::Key_Return:
       case Qt::Key_Enter:
       case Qt::Key_Space:
-        Follow();
+        OpenMail();
         break;
       default:
         QLabel::keyPressEvent(event);
@@ -105,7 +106,7 @@ class MailLinkAccess final : public QAccessibleWidget {
   QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
   void doAction(const QString &action) override {
     if (action != pressAction()) return QAccessibleWidget::doAction(action);
-    static_cast<MailLink *>(widget())->Follow();
+    static_cast<MailLink *>(widget())->OpenMail();
   }
 };
 
@@ -246,7 +247,7 @@ void frmAbout::timerEvent(QTimerEvent *) {
 }
 
 void frmAbout::Play() {
-  if (animation_.Pass(runtime_.SecondsSinceMidnight())) pattern_->update();
+  if (animation_.StepIfDue(runtime_.SecondsSinceMidnight())) pattern_->update();
 }
 
 void frmAbout::WriteTo(const QString &link) {

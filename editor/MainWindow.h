@@ -123,7 +123,7 @@ class PageRequests {
   virtual void PopUpContextMenu(QPoint screenPosition) = 0;
   /// Files were dropped, paths in logic form: pages are opened, pictures go into `page` at its
   /// caret where there is one.
-  virtual void TakeDroppedFiles(const QStringList &paths, frmMain *page) = 0;
+  virtual void OpenDroppedFiles(const QStringList &paths, frmMain *page) = 0;
   /// Clears the element tool box's record of the element under the caret.
   virtual void ResetElementInspection() = 0;
 };

@@ -107,7 +107,7 @@ QString ProposedFile(const PageRecord &record, const QString &html, const QStrin
   return folder + u'\\' + name + QStringLiteral(".htm");
 }
 
-void HoldNameInDialog(EditorContext &context, frmMain &page) {
+void SetDialogFileName(EditorContext &context, frmMain &page) {
   FileDialog &dialog = context.mainWindow.fileDialog;
   const QString folder = dialog.FileName.contains(u'\\') ? modGeneral::FolderOfPath(dialog.FileName)
                                                          : ToLogic(QDir::homePath());

@@ -34,6 +34,6 @@ QString ProposedFile(const PageRecord &record, const QString &html, const QStrin
 
 /// Sets FileName of the shared file dialog to ProposedFile of the page, so that a save takes this
 /// page's name. For a page without a file the folder is the one that the dialog used last.
-void HoldNameInDialog(EditorContext &context, frmMain &page);
+void SetDialogFileName(EditorContext &context, frmMain &page);
 
 }  // namespace velor

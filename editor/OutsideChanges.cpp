@@ -67,18 +67,18 @@ OutsideChanges::OutsideChanges(EditorContext &context, frmMain &page)
   hide();
 
   retry_.setSingleShot(true);
-  connect(&retry_, &QTimer::timeout, this, &OutsideChanges::Look);
+  connect(&retry_, &QTimer::timeout, this, &OutsideChanges::CheckFile);
   if (context.platform.watches == nullptr) return;
-  watch_ = context.platform.watches->Begin([this](const QString &) { Look(); });
+  watch_ = context.platform.watches->Begin([this](const QString &) { CheckFile(); });
   parts_ = context.platform.watches->Begin(
-      [this](const QString &path) { page_.DHTML1().ShowAnew(path); });
+      [this](const QString &path) { page_.DHTML1().ReloadPart(path); });
 }
 
-void OutsideChanges::FollowParts(const QStringList &paths) {
+void OutsideChanges::WatchParts(const QStringList &paths) {
   if (parts_) parts_->SetFiles(paths);
 }
 
-void OutsideChanges::Follow(const QString &path) {
+void OutsideChanges::WatchFile(const QString &path) {
   if (!watch_) return;
   hide();
   if (path == path_) return;
@@ -89,23 +89,23 @@ void OutsideChanges::Follow(const QString &path) {
   watch_->SetFiles({path});
 }
 
-void OutsideChanges::Look() {
+void OutsideChanges::CheckFile() {
   if (page_.Tag == QStringLiteral("kill")) return;
   if (page_.Ready != QStringLiteral("True") || page_.DHTML1().IsWaiting())
     return retry_.start(retryDelay);
-  if (!context_.platform.files.FileExists(path_)) return TellRemoval();
+  if (!context_.platform.files.FileExists(path_)) return ReportRemoval();
   isThere_ = true;
   try {
     const QByteArray content = context_.platform.files.ReadAll(path_);
     if (FileTrace::Of(path_, content) == context_.pages.Trace(page_.Number())) {
       hide();
-      return TellPermissions();
+      return ReportPermissions();
     }
     const QPointer<OutsideChanges> alive(this);
     const bool hasUnsavedWork = HasUnsavedWork();
     if (alive == nullptr) return;
     if (!hasUnsavedWork) {
-      TakeFile();
+      LoadFile();
       if (alive == nullptr) return;
       return Report(QStringLiteral(
           "%1 was changed by another program and is loaded again; Undo brings back what was here"));
@@ -120,7 +120,7 @@ void OutsideChanges::Look() {
   show();
 }
 
-void OutsideChanges::TellRemoval() {
+void OutsideChanges::ReportRemoval() {
   if (!isThere_) return;
   isThere_ = false;
   Report(QStringLiteral(
@@ -128,7 +128,7 @@ void OutsideChanges::TellRemoval() {
       "and saving it writes the file anew"));
 }
 
-void OutsideChanges::TellPermissions() {
+void OutsideChanges::ReportPermissions() {
   const bool isReadOnly = context_.platform.files.IsReadOnly(path_);
   if (isReadOnly == isReadOnly_) return;
   isReadOnly_ = isReadOnly;
@@ -146,7 +146,7 @@ bool OutsideChanges::HasUnsavedWork() {
   return page_.Journal().HasChanges();
 }
 
-void OutsideChanges::TakeFile() {
+void OutsideChanges::LoadFile() {
   EditingComponent &component = page_.DHTML1();
   const QPointer<frmMain> alive(&page_);
   const int number = page_.Number();
@@ -171,16 +171,16 @@ void OutsideChanges::TakeFile() {
   page_.ShowTab();
 }
 
-void OutsideChanges::KeepOwnText() {
+void OutsideChanges::StoreOwnText() {
   if (context_.platform.replaced == nullptr) return;
   const QString text = page_.DHTML1().TextToSave();
-  context_.platform.replaced->Keep(
+  context_.platform.replaced->Store(
       path_, EncodePage(text, modWorkFlow::EncodingOf(context_, page_.Number())));
 }
 
 void OutsideChanges::TakeTheirs() {
-  KeepOwnText();
-  TakeFile();
+  StoreOwnText();
+  LoadFile();
   hide();
   Report(QStringLiteral("%1 is loaded again; Undo brings back what was here"));
 }

@@ -30,23 +30,23 @@ class OutsideChanges final : public QFrame {
 
   /// Watches this file (logic form) from now on, instead of the one before. PageSlots::Trace has
   /// the content that the page knows.
-  void Follow(const QString &path);
-  /// Follows the files that the page shows, in place of those before: one that changes is shown
+  void WatchFile(const QString &path);
+  /// Watches the files that the page shows, in place of those before: one that changes is shown
   /// anew.
-  void FollowParts(const QStringList &paths);
+  void WatchParts(const QStringList &paths);
 
  protected:
   void paintEvent(QPaintEvent *event) override;
 
  private:
   /// Compares the file with what the page knows of it.
-  void Look();
-  void TellRemoval();
-  void TellPermissions();
+  void CheckFile();
+  void ReportRemoval();
+  void ReportPermissions();
   bool HasUnsavedWork();
   /// Puts the file's text in the page's place.
-  void TakeFile();
-  void KeepOwnText();
+  void LoadFile();
+  void StoreOwnText();
   void TakeTheirs();
   void KeepMine();
   void Compare();

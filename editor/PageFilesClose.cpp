@@ -70,8 +70,8 @@ CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window) {
   question.icon = MessageIcon::Question;
   switch (context.platform.dialogs.ShowMessage(question)) {
     case MessageAnswer::Yes:
-      return SaveAndTell(context, window, SaveKind::Save) == SaveEnd::Safe ? CloseDecision::Close
-                                                                           : CloseDecision::Keep;
+      return SaveAndReport(context, window, SaveKind::Save) == SaveEnd::Safe ? CloseDecision::Close
+                                                                             : CloseDecision::Keep;
     case MessageAnswer::No:
       window.Journal().Discard();
       return CloseDecision::Close;
@@ -82,7 +82,7 @@ CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window) {
 
 void CleanUpAfterPage(EditorContext &context, frmMain &window) {
   const int number = window.Number();
-  window.Journal().PageCloses();
+  window.Journal().Close();
   context.platform.runtime.ProcessPendingEvents();
   {
     const BusyCursor busy(context.platform.runtime);

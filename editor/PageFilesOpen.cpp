@@ -53,7 +53,7 @@ void FinishLastPage(PageSlots &pages) {
 /// Makes a slot with its source editor and document window, and the page's tab.
 frmMain &MakePage(EditorContext &context) {
   FinishLastPage(context.pages);
-  const int number = context.pages.Grow();
+  const int number = context.pages.AddSlot();
   SourceEditor(context, number);
   frmMain &window = PageWindow(context, number);
   context.mainWindow.tabs.Add(PageKey(number), PageTabImage);
@@ -91,7 +91,7 @@ void Present(EditorContext &context, frmMain &window, const QString &tabCaption)
   context.mainWindow.tabs.Select(key);
   window.Ready = QStringLiteral("True");
   context.mainWindow.commands.SetPageCommandsEnabled(true);
-  HoldNameInDialog(context, window);
+  SetDialogFileName(context, window);
 }
 
 QString TemporaryCopyOfNewPage(EditorContext &context, int number) {
@@ -229,7 +229,7 @@ void NewPage(EditorContext &context) {
     context.mainWindow.tabs.SetCaption(PageKey(number), caption);
     context.mainWindow.tabs.Select(PageKey(number));
     context.mainWindow.commands.SetPageCommandsEnabled(true);
-    HoldNameInDialog(context, window);
+    SetDialogFileName(context, window);
   });
 }
 
@@ -272,7 +272,7 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
     const PageRecord record = RecordOfRestored(context, number, kept);
     context.pages.Record(number) = record;
     context.pages.Trace(number) = FileTrace::Of(kept.path, kept.page.original);
-    if (!kept.path.isEmpty()) window.Outside().Follow(kept.path);
+    if (!kept.path.isEmpty()) window.Outside().WatchFile(kept.path);
     window.setWindowTitle(record.Caption);
     window.CheckAcc();
     const bool isReadOnly = record.ReadOnly != False16;

@@ -29,7 +29,7 @@ namespace {
 
 /// Sets the flags and the temporary copy's path of the record of a page that now has the file
 /// `path`, and removes the temporary copy of its old name.
-void TakeFile(const EditorContext &context, PageRecord &record, const QString &path) {
+void AssignFile(const EditorContext &context, PageRecord &record, const QString &path) {
   const QString oldCopy = record.TempPath;
   record.ReadOnly = False16;
   record.HasFile = True16;
@@ -42,14 +42,14 @@ void TakeFile(const EditorContext &context, PageRecord &record, const QString &p
 /// Why a page could not be saved.
 struct SaveFailure {
   RuntimeError error;
-  /// Who tells the person: a plain save reported the error in the status bar already.
-  enum class By { Result, StatusBar } told;
+  /// What the person learns it from: a plain save reports it in the status bar itself.
+  enum class By { Result, StatusBar } reportedBy;
 };
 
 /// Runs a step whose failure does not stop the operation; it is reported in the status bar and
 /// returned.
 template <typename Step>
-std::optional<RuntimeError> Attempt(EditorContext &context, const QString &path, Step step) {
+std::optional<RuntimeError> RunAndReport(EditorContext &context, const QString &path, Step step) {
   try {
     step();
     return std::nullopt;
@@ -74,15 +74,15 @@ enum class Writing { Edits, Anew };
 
 /// What another program, or another page, has written must not be lost by a save over it; neither
 /// what the page came from where the save keeps nothing of its source.
-void KeepVersion(EditorContext &context, const frmMain &window, const QString &path,
-                 Writing writing) {
+void StoreVersion(EditorContext &context, const frmMain &window, const QString &path,
+                  Writing writing) {
   const Files &files = context.platform.files;
   ReplacedVersions *replaced = context.platform.replaced;
   if (replaced == nullptr || !files.FileExists(path) || files.IsReadOnly(path)) return;
   const QByteArray there = files.ReadAll(path);
   const bool isOwn = FileTrace::Of(path, there) == context.pages.Trace(window.Number());
   if (isOwn && (writing == Writing::Edits || window.WasWrittenAnew)) return;
-  const QString kept = replaced->Keep(path, there);
+  const QString kept = replaced->Store(path, there);
   const QString notice =
       isOwn ? QStringLiteral("%1 was written anew. What it held is kept as %2")
             : QStringLiteral("%1 held another version. It was replaced and is kept as %2");
@@ -100,7 +100,7 @@ void WriteFile(frmMain &window, const QString &path) {
   window.Journal().Flush();
   const bool hasGone = HasGone(context, window.Number(), path);
   const Writing writing = ReasonToWriteAnew(window).isEmpty() ? Writing::Edits : Writing::Anew;
-  KeepVersion(window.Context(), window, path, writing);
+  StoreVersion(window.Context(), window, path, writing);
   window.DHTML1().SaveDocument(path);
   window.WasWrittenAnew = writing == Writing::Anew;
   try {
@@ -119,9 +119,9 @@ void WriteFile(frmMain &window, const QString &path) {
 std::optional<RuntimeError> SavePlain(EditorContext &context, frmMain &window,
                                       const FileDialog &dialog, PageRecord &record) {
   const QString file = record.Path;
-  const auto failure = Attempt(context, file, [&] { WriteFile(window, file); });
-  TakeFile(context, record, dialog.FileName);
-  Attempt(context, file, [&] { record.SavedHTML = window.DHTML1().DocumentHTML(); });
+  const auto failure = RunAndReport(context, file, [&] { WriteFile(window, file); });
+  AssignFile(context, record, dialog.FileName);
+  RunAndReport(context, file, [&] { record.SavedHTML = window.DHTML1().DocumentHTML(); });
   record.Path = dialog.FileName;
   if (failure) {
     window.Journal().MarkSaveFailed();
@@ -156,7 +156,7 @@ LinkChoice AskAboutLinks(EditorContext &context, const std::vector<BrokenLink> &
 
 /// Adapts the relative links of a page that goes to another folder, as the person chooses, as one
 /// undo step, and shows it from there. Returns the text before, where the document changed.
-std::optional<QString> CarryLinks(EditorContext &context, frmMain &window, const QString &from,
+std::optional<QString> AdaptLinks(EditorContext &context, frmMain &window, const QString &from,
                                   const QString &to) {
   if (from.isEmpty() || modGeneral::FolderOfPath(from) == modGeneral::FolderOfPath(to))
     return std::nullopt;
@@ -166,14 +166,14 @@ std::optional<QString> CarryLinks(EditorContext &context, frmMain &window, const
   if (links.empty()) return std::nullopt;
   const LinkChoice choice = AskAboutLinks(context, links);
   if (choice == LinkChoice::Leave) return std::nullopt;
-  if (choice == LinkChoice::TakePictures) TakePicturesAlong(links, to, files);
+  if (choice == LinkChoice::TakePictures) CopyPictures(links, to, files);
   window.DHTML1().LoadText(WithAdapted(html, links), to);
   return html;
 }
 
 void WriteToNewFolder(EditorContext &context, frmMain &window, const QString &from,
                       const QString &to) {
-  const auto before = CarryLinks(context, window, from, to);
+  const auto before = AdaptLinks(context, window, from, to);
   try {
     WriteFile(window, to);
   } catch (const RuntimeError &) {
@@ -190,7 +190,7 @@ void SaveUnderNewName(frmMain &window, FileDialog &dialog, PageRecord &record) {
   const QString file = dialog.FileName;
   WriteToNewFolder(window.Context(), window, record.Path, file);
   window.Journal().MarkSaved();
-  TakeFile(window.Context(), record, file);
+  AssignFile(window.Context(), record, file);
   record.SavedHTML = window.DHTML1().DocumentHTML();
   record.Path = file;
   window.setWindowTitle(modGeneral::FileNameOfPath(file));
@@ -221,7 +221,7 @@ std::optional<SaveFailure> Save(EditorContext &context, frmMain &window, FileDia
   }
 }
 
-void TellFailure(EditorContext &context, const RuntimeError &error) {
+void ShowFailure(EditorContext &context, const RuntimeError &error) {
   Message failure;
   failure.text = QStringLiteral("File saving error: %1").arg(error.Code());
   failure.details = error.Description();
@@ -278,7 +278,7 @@ AnewChoice AskBeforeWritingAnew(EditorContext &context, frmMain &window, const P
 
 void TraceFile(frmMain &window, const QString &path) {
   const Platform &platform = window.Context().platform;
-  window.Outside().Follow(path);
+  window.Outside().WatchFile(path);
   if (platform.replaced == nullptr) return;
   window.Context().pages.Trace(window.Number()) = FileTrace::Of(path, platform.files.ReadAll(path));
 }
@@ -286,10 +286,10 @@ void TraceFile(frmMain &window, const QString &path) {
 std::int32_t SavePage(EditorContext &context, frmMain &window, FileDialog &dialog,
                       PageRecord &record, bool SaveAs) {
   const auto failure = Save(context, window, dialog, record, SaveAs);
-  return failure && failure->told == SaveFailure::By::Result ? failure->error.Code() : 0;
+  return failure && failure->reportedBy == SaveFailure::By::Result ? failure->error.Code() : 0;
 }
 
-SaveEnd SaveAndTell(EditorContext &context, frmMain &window, SaveKind kind) {
+SaveEnd SaveAndReport(EditorContext &context, frmMain &window, SaveKind kind) {
   PageRecord &record = context.pages.Record(window.Number());
   if (kind == SaveKind::Save && IsWriteProtected(context, record)) {
     if (!WantsAnotherName(context, record)) return SaveEnd::Cancelled;
@@ -301,15 +301,15 @@ SaveEnd SaveAndTell(EditorContext &context, frmMain &window, SaveKind kind) {
     if (alive == nullptr || choice == AnewChoice::Cancel) return SaveEnd::Cancelled;
     if (choice == AnewChoice::SaveAs) kind = SaveKind::SaveAs;
   }
-  HoldNameInDialog(context, window);
+  SetDialogFileName(context, window);
   const auto failure =
       Save(context, window, context.mainWindow.fileDialog, record, kind == SaveKind::SaveAs);
-  HoldNameInDialog(context, window);
+  SetDialogFileName(context, window);
   if (!failure) return SaveEnd::Safe;
   if (failure->error.Number() == ErrorNumber::DialogCancelled) return SaveEnd::Cancelled;
-  if (failure->told == SaveFailure::By::StatusBar && window.Journal().IsSafe())
+  if (failure->reportedBy == SaveFailure::By::StatusBar && window.Journal().IsSafe())
     return SaveEnd::Safe;
-  TellFailure(context, failure->error);
+  ShowFailure(context, failure->error);
   return SaveEnd::Failed;
 }
 

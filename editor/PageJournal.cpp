@@ -93,7 +93,7 @@ void PageJournal::MarkUnsaved() {
 void PageJournal::Discard() {
   saveFailed_ = false;
   saved_ = component_.Memory().document;
-  pages_.SetAsideSource(number_).reset();
+  pages_.DisplacedSource(number_).reset();
   Remove();
 }
 
@@ -106,7 +106,7 @@ void PageJournal::Remove() {
   hasJournal_ = false;
 }
 
-void PageJournal::PageCloses() {
+void PageJournal::Close() {
   if (phase_ != Phase::Following) return;
   if (saved_) {
     Write();
@@ -137,7 +137,7 @@ bool PageJournal::KeepAtExit() {
   return RunOrReport([this] { journal_->Sync(); }) && isWritten;
 }
 
-void PageJournal::CallOffExit() {
+void PageJournal::CancelExit() {
   if (phase_ != Phase::KeptAtExit) return;
   phase_ = Phase::Following;
   Write();
@@ -153,7 +153,7 @@ JournalledPage PageJournal::Page(RunEnd end) const {
           hasFile ? JournalledPage::Saving::ToItsFile : JournalledPage::Saving::AsksForAName,
           component_.Memory(),
           QDateTime::currentDateTime(),
-          typed ? typed : pages_.SetAsideSource(number_),
+          typed ? typed : pages_.DisplacedSource(number_),
           end};
 }
 

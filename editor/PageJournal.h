@@ -42,7 +42,7 @@ class PageJournal {
   void Discard();
   /// The page closes. The journal of changes that are neither saved nor given up stays, and the
   /// next start offers them.
-  void PageCloses();
+  void Close();
   /// Whether the document differs from the one last loaded, saved or given up.
   bool HasChanges() const;
   /// Whether the page's content is in its file or in the journal, which is written now if needed.
@@ -52,7 +52,7 @@ class PageJournal {
   /// Memory() has, marked as kept at exit, and ignores later changes. False as with Flush.
   bool KeepAtExit();
   /// The program goes on after KeepAtExit: changes are written again.
-  void CallOffExit();
+  void CancelExit();
 
  private:
   bool IsSaved(const QString &document) const { return saved_ == document; }

@@ -139,7 +139,7 @@ class LinkSearch {
   enum class Kind { Picture, Other, ByEnding };
 
   /// `slice` of the source, which means `address`.
-  void Look(QStringView slice, const QString &address, Kind kind) {
+  void Check(QStringView slice, const QString &address, Kind kind) {
     if (!IsRelative(slice)) return;
     const QString target = TargetOf(address, oldFolder_);
     const bool isThere = files_.FileExists(target) || files_.FolderExists(target);
@@ -152,18 +152,18 @@ class LinkSearch {
   void LookAtAttribute(QStringView element, QStringView name, QStringView slice) {
     if (IsOneOf(LinkAttributes, name)) {
       const bool isPicture = IsOneOf(PictureAttributes, name) && !IsOneOf(NoPictures, element);
-      Look(slice, HtmlAttributeValue(slice), isPicture ? Kind::Picture : Kind::Other);
+      Check(slice, HtmlAttributeValue(slice), isPicture ? Kind::Picture : Kind::Other);
     } else if (IsOneOf(ListAttributes, name)) {
       for (const QStringView address : AddressesInList(slice))
-        Look(address, HtmlAttributeValue(address), Kind::Picture);
+        Check(address, HtmlAttributeValue(address), Kind::Picture);
     } else if (IsOneOf(std::array{u"style"}, name)) {
       for (const QStringView address : AddressesInStyle(slice))
-        Look(address, HtmlAttributeValue(address), Kind::ByEnding);
+        Check(address, HtmlAttributeValue(address), Kind::ByEnding);
     }
   }
   void LookAtSheet(QStringView sheet) {
     for (const QStringView address : AddressesInStyle(sheet))
-      Look(address, address.toString(), Kind::ByEnding);
+      Check(address, address.toString(), Kind::ByEnding);
   }
 
   std::vector<BrokenLink> links;
@@ -211,7 +211,7 @@ QString WithAdapted(const QString &html, const std::vector<BrokenLink> &links) {
   return adapted;
 }
 
-void TakePicturesAlong(std::vector<BrokenLink> &links, const QString &to, Files &files) {
+void CopyPictures(std::vector<BrokenLink> &links, const QString &to, Files &files) {
   for (BrokenLink &link : links) {
     if (!link.isPicture || !files.FileExists(link.target)) continue;
     const QString name = modGeneral::FileNameOfPath(link.target);

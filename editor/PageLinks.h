@@ -32,6 +32,6 @@ QString WithAdapted(const QString &html, const std::vector<BrokenLink> &links);
 /// Copies the pictures among the links to the folder of `to` and adapts the links to the copies.
 /// Where a file of that name with another content is there, it stays, and the link leads to the old
 /// picture.
-void TakePicturesAlong(std::vector<BrokenLink> &links, const QString &to, Files &files);
+void CopyPictures(std::vector<BrokenLink> &links, const QString &to, Files &files);
 
 }  // namespace velor

@@ -26,14 +26,14 @@ QString PageKey(int number) {
   return QStringLiteral("key%1").arg(number);
 }
 
-std::int16_t PageSlots::Grow() {
+std::int16_t PageSlots::AddSlot() {
   if (pageCount_ == std::numeric_limits<std::int16_t>::max()) {
     throw RuntimeError::Of(ErrorNumber::Overflow, QStringLiteral("PageSlots"));
   }
   pages_.emplace_back();
   records_.emplace_back();
   traces_.emplace_back();
-  setAsideSources_.emplace_back();
+  displacedSources_.emplace_back();
   sites_.emplace_back();
   ++pageCount_;
   codeEditors_.emplace_back();
@@ -53,8 +53,8 @@ FileTrace &PageSlots::Trace(int number) {
   return traces_[Index(number, pageCount_)];
 }
 
-std::optional<QString> &PageSlots::SetAsideSource(int number) {
-  return setAsideSources_[Index(number, pageCount_)];
+std::optional<QString> &PageSlots::DisplacedSource(int number) {
+  return displacedSources_[Index(number, pageCount_)];
 }
 
 QString &PageSlots::Site(int number) {

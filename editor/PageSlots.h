@@ -23,7 +23,7 @@ QString PageKey(int number);
 class PageSlots {
  public:
   /// Adds a slot to each of the three lists and returns its number. Raises Overflow (6) past 32767.
-  std::int16_t Grow();
+  std::int16_t AddSlot();
 
   /// The number of the slot made last; 0 before the first.
   std::int16_t PageCount() const { return pageCount_; }
@@ -35,7 +35,7 @@ class PageSlots {
   FileTrace &Trace(int number);
   /// Source that was typed and not applied when the source editor was filled anew with the page's
   /// own.
-  std::optional<QString> &SetAsideSource(int number);
+  std::optional<QString> &DisplacedSource(int number);
   /// The folder of the project that the page was opened from, in logic form; empty for none.
   QString &Site(int number);
   /// Empty before the window is made and after it is gone.
@@ -47,7 +47,7 @@ class PageSlots {
   std::vector<QPointer<frmCodeEditor>> codeEditors_;
   std::vector<PageRecord> records_;
   std::vector<FileTrace> traces_;
-  std::vector<std::optional<QString>> setAsideSources_;
+  std::vector<std::optional<QString>> displacedSources_;
   std::vector<QString> sites_;
   std::int16_t pageCount_ = 0;
   /// The upper bound of codeEditors_; grows in step with pageCount_.

@@ -52,7 +52,7 @@ bool KeepPagesAtExit(EditorContext &context) {
   }
   if (lost.isEmpty() || EndsAllTheSame(context.platform.dialogs, lost)) return true;
   for (const QPointer<frmMain> &page : open) {
-    if (page) page->Journal().CallOffExit();
+    if (page) page->Journal().CancelExit();
   }
   return false;
 }

@@ -82,7 +82,7 @@ void frmCodeEditor::Fill(const QString &source, const ElementPlaces &caret) {
 
 void frmCodeEditor::Refill(const QString &source, const ElementPlaces &caret,
                            const QString &typed) {
-  context_.pages.SetAsideSource(number_) = typed;
+  context_.pages.DisplacedSource(number_) = typed;
   code_->ReplaceText(source);
   SourceReplaced(caret);
   context_.mainWindow.status.Report(
@@ -147,7 +147,7 @@ std::int16_t frmCodeEditor::ApplyCode() {
     // The page may have been closed while it loaded, and this window with it.
     if (alive == nullptr) return 0;
     AppliedText = code_->Text();
-    context_.pages.SetAsideSource(number_).reset();
+    context_.pages.DisplacedSource(number_).reset();
     UpdateJournal();
     ReturnCaret();
     if (frmMain *window = context_.pages.Page(number_)) window->RefreshSourceView();
@@ -177,7 +177,7 @@ frmCodeEditor::CloseDecision frmCodeEditor::AskBeforeClosing() {
     case MessageAnswer::Yes:
       break;
     case MessageAnswer::No:
-      context_.pages.SetAsideSource(number_).reset();
+      context_.pages.DisplacedSource(number_).reset();
       return CloseDecision::Close;
     default:
       return CloseDecision::Keep;

@@ -195,7 +195,7 @@ void frmMain::CheckAcc() {
 
 void frmMain::OnActivated() {
   CheckAcc();
-  HoldNameInDialog(context_, *this);
+  SetDialogFileName(context_, *this);
   ShowState();
   try {
     context_.mainWindow.tabs.Select(PageKey(number_));
@@ -281,11 +281,11 @@ void frmMain::ComponentReported(const QString &message) {
 }
 
 void frmMain::PartsShown(const QStringList &paths) {
-  outside_->FollowParts(paths);
+  outside_->WatchParts(paths);
 }
 
 void frmMain::FilesDropped(const QStringList &paths) {
-  context_.mainWindow.requests.TakeDroppedFiles(paths, this);
+  context_.mainWindow.requests.OpenDroppedFiles(paths, this);
 }
 
 }  // namespace velor

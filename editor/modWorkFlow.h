@@ -83,7 +83,7 @@ enum class SaveEnd {
 /// own name. Offers another name for a page whose file is read-only, and asks
 /// before a file is written anew whose source cannot be kept. A failure that leaves the page
 /// unsafe is shown in a message with the file and the reason.
-SaveEnd SaveAndTell(EditorContext &context, frmMain &window, SaveKind kind);
+SaveEnd SaveAndReport(EditorContext &context, frmMain &window, SaveKind kind);
 
 /// Whether the document differs from its text at the last load or save, apart from outer white
 /// space and letter case.

@@ -57,7 +57,7 @@ void EditorInput::FilterInputWidget() {
   }
 }
 
-bool EditorInput::TakeFiles(QEvent *event) {
+bool EditorInput::AcceptFiles(QEvent *event) {
   if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove &&
       event->type() != QEvent::Drop)
     return false;
@@ -71,7 +71,7 @@ bool EditorInput::TakeFiles(QEvent *event) {
 }
 
 bool EditorInput::eventFilter(QObject *watched, QEvent *event) {
-  if (TakeFiles(event)) return true;
+  if (AcceptFiles(event)) return true;
   if (watched == view_) {
     if (event->type() == QEvent::ChildPolished) FilterInputWidget();
     return false;

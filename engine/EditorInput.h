@@ -37,7 +37,7 @@ class EditorInput : public QObject {
 
  private:
   /// Accepts drags and drops of files; false for every other event.
-  bool TakeFiles(QEvent *event);
+  bool AcceptFiles(QEvent *event);
 
   QWebEngineView *view_;
   std::function<bool(const QEvent &)> holdBack_;

@@ -50,7 +50,7 @@ EngineView::EngineView(EditingEngine &engine, QWidget *container)
   page_->scripts().insert(DesignModeScript());
   view_->setPage(page_);
   view_->setContextMenuPolicy(Qt::CustomContextMenu);
-  input_ = new EditorInput(view_, [this](const QEvent &input) { return turns_.HoldBack(input); });
+  input_ = new EditorInput(view_, [this](const QEvent &input) { return turns_.Defer(input); });
   container->layout()->addWidget(view_);
   container->setFocusProxy(view_);
 

@@ -32,7 +32,7 @@ QStringList LocalFiles(const QMimeData *data) {
   return paths;
 }
 
-void LeaveFilesToTheWindow(QWidget &widget) {
+void IgnoreFileDrags(QWidget &widget) {
   widget.installEventFilter(new FilesLeft(&widget));
 }
 

@@ -13,6 +13,6 @@ QStringList LocalFiles(const QMimeData *data);
 
 /// Makes a widget that accepts drags itself ignore drags of files, so that the window around it
 /// gets them.
-void LeaveFilesToTheWindow(QWidget &widget);
+void IgnoreFileDrags(QWidget &widget);
 
 }  // namespace velor

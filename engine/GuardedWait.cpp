@@ -90,9 +90,9 @@ class WaitLoop {
   WaitLoop(QObject &subject, EngineGuard &guard, const std::function<bool()> &done) : done_(done) {
     QObject::connect(&pump_, &QTimer::timeout, &loop_, [this] {
       QCoreApplication::sendPostedEvents();
-      Look();
+      CheckDone();
     });
-    QObject::connect(&guard, &EngineGuard::Woken, &loop_, [this] { Look(); });
+    QObject::connect(&guard, &EngineGuard::Woken, &loop_, [this] { CheckDone(); });
     QObject::connect(&subject, &QObject::destroyed, &loop_, [this] { End(WaitEnd::Destroyed); });
     pump_.start(PumpInterval);
   }
@@ -116,7 +116,7 @@ class WaitLoop {
   }
 
  private:
-  void Look() {
+  void CheckDone() {
     if (!end_ && done_()) end_ = WaitEnd::Done;
     if (end_) loop_.quit();
   }

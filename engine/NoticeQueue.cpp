@@ -33,12 +33,12 @@ void NoticeQueue::Post(Notice kind, std::function<void()> deliver) {
   QMetaObject::invokeMethod(this, &NoticeQueue::Deliver, Qt::QueuedConnection);
 }
 
-void NoticeQueue::PostToListener(Notice kind, Tell tell) {
-  Post(kind, [this, tell = std::move(tell)] { TellNow(tell); });
+void NoticeQueue::PostToListener(Notice kind, Notification notify) {
+  Post(kind, [this, notify = std::move(notify)] { NotifyNow(notify); });
 }
 
-void NoticeQueue::TellNow(const Tell &tell) {
-  if (listener_ != nullptr) tell(*listener_);
+void NoticeQueue::NotifyNow(const Notification &notify) {
+  if (listener_ != nullptr) notify(*listener_);
 }
 
 void NoticeQueue::PostDocumentComplete() {
@@ -51,7 +51,7 @@ void NoticeQueue::Report(const QString &message) {
 }
 
 void NoticeQueue::ReportNow(const QString &message) {
-  TellNow([&message](EditingListener &listener) { listener.ComponentReported(message); });
+  NotifyNow([&message](EditingListener &listener) { listener.ComponentReported(message); });
 }
 
 void NoticeQueue::Deliver() {

@@ -37,7 +37,7 @@ class NoticeQueue : public QObject {
   Q_OBJECT
 
  public:
-  using Tell = std::function<void(EditingListener &)>;
+  using Notification = std::function<void(EditingListener &)>;
 
   explicit NoticeQueue(EngineGuard &guard);
 
@@ -47,14 +47,14 @@ class NoticeQueue : public QObject {
   /// Calls `deliver` in its turn. Of two waiting notices of one kind only the later is delivered;
   /// of reports, all.
   void Post(Notice kind, std::function<void()> deliver);
-  /// Posts a notice that calls `tell` with the listener.
-  void PostToListener(Notice kind, Tell tell);
+  /// Posts a notice that calls `notify` with the listener.
+  void PostToListener(Notice kind, Notification notify);
   /// Posts DocumentComplete.
   void PostDocumentComplete();
   /// Posts a message for the status bar.
   void Report(const QString &message);
-  /// Calls `tell` with the listener, if any, at once.
-  void TellNow(const Tell &tell);
+  /// Calls `notify` with the listener, if any, at once.
+  void NotifyNow(const Notification &notify);
   /// Passes a message on at once, even during a wait; an empty one takes the last one back.
   void ReportNow(const QString &message);
 

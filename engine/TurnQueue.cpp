@@ -25,7 +25,7 @@ void TurnQueue::Run(const QString &expression, const PageWays::Answer &answer) {
   if (turns_.size() == 1) SendDue();
 }
 
-bool TurnQueue::HoldBack(const QEvent &input) {
+bool TurnQueue::Defer(const QEvent &input) {
   if (isSendingInput_ || !ways_.IsOpen()) return false;
   if (commands_ == 0 && turns_.empty()) return false;
   turns_.push_back({std::unique_ptr<QEvent>(input.clone()), {}, {}});

@@ -34,7 +34,7 @@ class PageWays {
 /// one is not sent as long as an earlier one may still be under way on the other. A command is an
 /// expression without an answer. Input waits for commands only, an expression for input.
 ///
-///                      Run                                   HoldBack
+///                      Run                                   Defer
 ///         +----------------------> command on its way ------------------> input waits
 ///         |                            |         ^                            |
 ///         |                   answered |         | probe arrived,             | answered; sent
@@ -65,7 +65,7 @@ class TurnQueue : public QObject {
   void Run(const QString &expression, const PageWays::Answer &answer);
   /// True where a copy of the input was taken, to be sent when the commands before it have been
   /// answered; false where it may go to the page now.
-  bool HoldBack(const QEvent &input);
+  bool Defer(const QEvent &input);
   /// To be called when input goes to the page.
   void NoteInput();
   /// Whether input was sent that may not have arrived yet.

@@ -113,7 +113,7 @@ void WebEditor::ConnectView(EngineView &view) {
   QObject::connect(
       &view, &EngineView::FilesDropped, [=, this](const QStringList &files, QPoint place) {
         document_.Run(QStringLiteral("velor.caretAt(%1,%2)").arg(place.x()).arg(place.y()));
-        post(Notice::Drop, [this, files] { TellOfFiles(files); });
+        post(Notice::Drop, [this, files] { ReportFiles(files); });
       });
   // DocumentComplete is delivered before the first input reaches the page.
   QObject::connect(&view, &EngineView::InputComing, [this] {
@@ -130,7 +130,7 @@ void WebEditor::StateArrived(const StateSnapshot &state) {
 
 void WebEditor::PastePicture() {
   const QStringList files = LocalFiles(QGuiApplication::clipboard()->mimeData());
-  if (!files.isEmpty()) return TellOfFiles(files);
+  if (!files.isEmpty()) return ReportFiles(files);
   const QString markup = PastedPicture(document_.NativePath());
   if (!markup.isEmpty())
     document_.Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(markup)));
@@ -151,16 +151,16 @@ void WebEditor::PartAsked(const QString &name, const QString &file) {
   });
 }
 
-void WebEditor::ShowAnew(const QString &path) {
+void WebEditor::ReloadPart(const QString &path) {
   const auto part = parts_.find(path);
   if (part == parts_.end()) return;
   document_.Run(QStringLiteral("velor.showAnew(%1)").arg(ScriptValue(part->second)));
 }
 
-void WebEditor::TellOfFiles(const QStringList &nativePaths) {
+void WebEditor::ReportFiles(const QStringList &nativePaths) {
   QStringList paths;
   for (const QString &file : nativePaths) paths += ToLogic(file);
-  notices_.TellNow([&paths](EditingListener &listener) { listener.FilesDropped(paths); });
+  notices_.NotifyNow([&paths](EditingListener &listener) { listener.FilesDropped(paths); });
 }
 
 QWidget *WebEditor::Widget() {

@@ -48,7 +48,7 @@ class WebEditor : public EditingComponent {
   QString Charset() const override;
   QString TextForm() const override;
   bool HasByteOrderMark() const override;
-  void ShowAnew(const QString &path) override;
+  void ReloadPart(const QString &path) override;
   ElementPlaces CaretPlaces() override;
   void ShowPlace(const ElementPlaces &places) override;
   QVariant ExecCommand(EditingCommand command, ExecOption option, const QVariant &value) override;
@@ -71,7 +71,7 @@ class WebEditor : public EditingComponent {
   /// The page asks for a file that it shows; `name` is the file's in the bridge.
   void PartAsked(const QString &name, const QString &file);
   /// Tells the listener of files that were dropped or pasted.
-  void TellOfFiles(const QStringList &nativePaths);
+  void ReportFiles(const QStringList &nativePaths);
   const PageEncoding &Encoding() const;
 
   const EngineGuard &guard_;

@@ -152,7 +152,7 @@ class Replacement {
     if (before.size() < old_->st_size) throw WriteError(EIO, path_);
     if (!ReserveRoom(file.Number())) throw WriteError(errno, path_);
     ReplacedFiles replaced(calls_);
-    const QString kept = replaced.KeepNative(path_, before);
+    const QString kept = replaced.StoreNative(path_, before);
     if (!Overwrite(file.Number(), content_)) {
       const int error = errno;
       if (Overwrite(file.Number(), before)) replaced.Remove(kept);

@@ -40,11 +40,11 @@ QString FreeName(const QString &folder, const QDateTime &time, const QString &na
 
 }  // namespace
 
-QString ReplacedFiles::Keep(const QString &path, const QByteArray &content) {
-  return KeepNative(ToNative(path), content);
+QString ReplacedFiles::Store(const QString &path, const QByteArray &content) {
+  return StoreNative(ToNative(path), content);
 }
 
-QString ReplacedFiles::KeepNative(const QString &nativePath, const QByteArray &content) {
+QString ReplacedFiles::StoreNative(const QString &nativePath, const QByteArray &content) {
   const QString folder = StateFolder() + QStringLiteral("/replaced");
   MakePrivateFolder(folder);
   const QDateTime now = QDateTime::currentDateTimeUtc();

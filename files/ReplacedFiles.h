@@ -12,10 +12,10 @@ class ReplacedFiles : public ReplacedVersions {
  public:
   explicit ReplacedFiles(FileCalls &calls = FileCalls::OfTheSystem()) : calls_(calls) {}
 
-  QString Keep(const QString &path, const QByteArray &content) override;
-  /// Keep for a native path; answers the kept file's path.
-  QString KeepNative(const QString &nativePath, const QByteArray &content);
-  /// Deletes a kept version, by the path that KeepNative answered: its replacement is on the disk,
+  QString Store(const QString &path, const QByteArray &content) override;
+  /// Store for a native path; answers the kept file's path.
+  QString StoreNative(const QString &nativePath, const QByteArray &content);
+  /// Deletes a kept version, by the path that StoreNative answered: its replacement is on the disk,
   /// or the old content is back.
   void Remove(const QString &kept);
 

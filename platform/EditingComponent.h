@@ -123,7 +123,7 @@ class EditingComponent {
 
   /// Shows a file of PartsShown as it is on the disk now; document, caret, scroll and undo history
   /// stay as they are.
-  virtual void ShowAnew(const QString & /*path*/) {}
+  virtual void ReloadPart(const QString & /*path*/) {}
 
   /// The place of the caret or of the selection's start; empty where there is none or the page does
   /// not answer.

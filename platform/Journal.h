@@ -80,7 +80,7 @@ class Journals {
   virtual ~Journals() = default;
 
   /// Why no journal can be written, in words for people; empty where journals can be written.
-  virtual QString Hindrance() = 0;
+  virtual QString ReasonUnavailable() = 0;
 
   /// Creates an empty journal; its file is created by the first Write. Must not outlive the
   /// Journals.

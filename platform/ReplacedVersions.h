@@ -14,7 +14,7 @@ class ReplacedVersions {
 
   /// Stores `content` of the file at `path` (logic form) durably. Returns the native path of the
   /// copy. Raises RuntimeError where it cannot be stored.
-  virtual QString Keep(const QString &path, const QByteArray &content) = 0;
+  virtual QString Store(const QString &path, const QByteArray &content) = 0;
 };
 
 }  // namespace velor

@@ -12,7 +12,7 @@ namespace velor {
 /// A window of the window system; every control is one. 0 is none. Handles are never reused; calls
 /// with the handle of a window that is gone do nothing and return 0 or empty values.
 using WindowHandle = std::int32_t;
-/// A window's drawing surface, valid from TakeDeviceContext to DeleteDeviceContext.
+/// A window's drawing surface, valid from CreateDeviceContext to DeleteDeviceContext.
 using DeviceContext = std::int32_t;
 /// A pen of one colour, valid from CreatePen to DeletePen.
 using Pen = std::int32_t;
@@ -129,7 +129,7 @@ class WindowSystem {
   /// The colour (red in the low byte) of a system colour's reference, which is its index with the
   /// top bit set; -1 for an unknown one.
   virtual std::int32_t TranslateColor(std::uint32_t reference) = 0;
-  virtual DeviceContext TakeDeviceContext(WindowHandle window) = 0;
+  virtual DeviceContext CreateDeviceContext(WindowHandle window) = 0;
   virtual void DeleteDeviceContext(DeviceContext context) = 0;
   virtual Pen CreatePen(std::int32_t color) = 0;
   /// Returns the pen that was selected before.

@@ -109,8 +109,8 @@ QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
   editor_->setReadOnly(access == SourceAccess::View);
   // Of a long source the visible part is styled at once, the rest while the program is idle.
   Send(QsciScintilla::SCI_SETIDLESTYLING, QsciScintilla::SC_IDLESTYLING_ALL);
-  LeaveFilesToTheWindow(*editor_);
-  LeaveFilesToTheWindow(*editor_->viewport());
+  IgnoreFileDrags(*editor_);
+  IgnoreFileDrags(*editor_->viewport());
   ApplyPalette();
   editor_->installEventFilter(this);
   connect(editor_, &QsciScintilla::linesChanged, this, &QsciSourceControl::FitLineNumbers);

@@ -63,7 +63,7 @@ void QtWindowSystem::DetachMessage(ISubclass &handler, WindowHandle window, std:
   std::erase(hooks_, Hook{&handler, window, message});
   const auto remains = [&](const Hook &hook) { return hook.handler == &handler; };
   if (std::ranges::any_of(hooks_, remains)) return;
-  for (const InkTable::Ink &ink : ink_.TakeOf(handler)) {
+  for (const InkTable::Ink &ink : ink_.RemoveOf(handler)) {
     if (QWidget *surface = Find(ink.surface)) surface->update(RegionOf(ink.strokes));
   }
 }
@@ -203,13 +203,13 @@ void QtWindowSystem::timerEvent(QTimerEvent *event) {
   Deliver(notice, MsgResponse::PostProcess);
 }
 
-DeviceContext QtWindowSystem::TakeDeviceContext(WindowHandle window) {
+DeviceContext QtWindowSystem::CreateDeviceContext(WindowHandle window) {
   if (QWidget *widget = Find(window)) Watch(*widget);
-  return contexts_.Take(window);
+  return contexts_.Begin(window);
 }
 
 void QtWindowSystem::DeleteDeviceContext(DeviceContext context) {
-  DrawingContexts::Drawing drawing = contexts_.Give(context);
+  DrawingContexts::Drawing drawing = contexts_.End(context);
   QWidget *surface = Find(drawing.surface);
   if (!surface) return;
   const QRegion changed =

@@ -52,7 +52,7 @@ class QtWindowSystem final : public QObject, public WindowSystem {
   void StartTimer(WindowHandle window, std::int32_t id, std::int32_t milliseconds) override;
   void StopTimer(WindowHandle window, std::int32_t id) override;
   std::int32_t TranslateColor(std::uint32_t reference) override;
-  DeviceContext TakeDeviceContext(WindowHandle window) override;
+  DeviceContext CreateDeviceContext(WindowHandle window) override;
   void DeleteDeviceContext(DeviceContext context) override;
   Pen CreatePen(std::int32_t color) override;
   Pen SelectPen(DeviceContext context, Pen pen) override;

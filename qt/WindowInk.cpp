@@ -39,7 +39,7 @@ QRegion InkTable::Replace(Ink ink) {
   return before + RegionOf(place->strokes);
 }
 
-std::vector<InkTable::Ink> InkTable::TakeOf(const ISubclass &handler) {
+std::vector<InkTable::Ink> InkTable::RemoveOf(const ISubclass &handler) {
   const auto rest = std::stable_partition(all_.begin(), all_.end(),
                                           [&](const Ink &ink) { return ink.handler != &handler; });
   std::vector<Ink> taken(std::make_move_iterator(rest), std::make_move_iterator(all_.end()));
@@ -51,12 +51,12 @@ void InkTable::ForgetSurface(WindowHandle surface) {
   std::erase_if(all_, [surface](const Ink &ink) { return ink.surface == surface; });
 }
 
-DeviceContext DrawingContexts::Take(WindowHandle surface) {
+DeviceContext DrawingContexts::Begin(WindowHandle surface) {
   drawings_[++lastContext_].surface = surface;
   return lastContext_;
 }
 
-DrawingContexts::Drawing DrawingContexts::Give(DeviceContext context) {
+DrawingContexts::Drawing DrawingContexts::End(DeviceContext context) {
   auto node = drawings_.extract(context);
   return node ? std::move(node.mapped()) : Drawing{};
 }

@@ -40,7 +40,7 @@ class InkTable {
   /// where the drawing is the same.
   QRegion Replace(Ink ink);
   /// Removes and returns a handler's drawings.
-  std::vector<Ink> TakeOf(const ISubclass &handler);
+  std::vector<Ink> RemoveOf(const ISubclass &handler);
   void ForgetSurface(WindowHandle surface);
   const std::vector<Ink> &All() const { return all_; }
 
@@ -59,9 +59,9 @@ class DrawingContexts {
   };
 
   /// A new device context for drawing on a window.
-  DeviceContext Take(WindowHandle surface);
+  DeviceContext Begin(WindowHandle surface);
   /// Ends a device context and returns what was drawn in it.
-  Drawing Give(DeviceContext context);
+  Drawing End(DeviceContext context);
   Pen AddPen(std::int32_t color);
   void RemovePen(Pen pen) { pens_.erase(pen); }
   /// Makes a pen the context's; returns the one before.

@@ -254,7 +254,7 @@ std::unique_ptr<Journal> JournalFiles::Begin() {
   return std::make_unique<JournalFile>(*this, ++begun_, calls_);
 }
 
-QString JournalFiles::Hindrance() {
+QString JournalFiles::ReasonUnavailable() {
   try {
     const QString folder = OwnFolder();
     const bool hasRoom = WriteBytes(calls_, locks_[folder].Number(), QByteArray(RoomAtLeast, '\0'));
@@ -267,7 +267,7 @@ QString JournalFiles::Hindrance() {
   }
 }
 
-bool JournalFiles::Claim(const QString &folder) {
+bool JournalFiles::LockFolder(const QString &folder) {
   if (folder == own_) return false;
   if (locks_.contains(folder)) return true;
   FileDescriptor lock = TakeLock(folder);
@@ -282,7 +282,7 @@ std::vector<AbandonedPage> JournalFiles::Abandoned() {
   for (const QString &run : RunsIn(root_)) {
     if (pages.size() >= MostOffered || ++lookedAt > MostLookedAt) break;
     const QString folder = root_ + u'/' + run;
-    if (!Claim(folder)) continue;
+    if (!LockFolder(folder)) continue;
     for (const QString &name : JournalsIn(folder)) pages.push_back(Summary(folder + u'/' + name));
     RemoveIfEmpty(folder);
   }

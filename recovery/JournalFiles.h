@@ -22,7 +22,7 @@ class JournalFiles : public Journals {
   JournalFiles(const JournalFiles &) = delete;
   JournalFiles &operator=(const JournalFiles &) = delete;
 
-  QString Hindrance() override;
+  QString ReasonUnavailable() override;
   std::unique_ptr<Journal> Begin() override;
   std::vector<AbandonedPage> Abandoned() override;
   JournalReading Read(const QString &id) override;
@@ -37,7 +37,7 @@ class JournalFiles : public Journals {
 
  private:
   /// Locks the folder of an ended run for this run; false where that run lives, or another has it.
-  bool Claim(const QString &folder);
+  bool LockFolder(const QString &folder);
   /// Removes a folder that this run has locked where it holds no journal. Unknown files in it keep
   /// it.
   void RemoveIfEmpty(const QString &folder);

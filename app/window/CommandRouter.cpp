@@ -154,7 +154,7 @@ void CommandRouter::OpenPage() {
     if (const QString path = dialog.ShowOpen(); !path.isEmpty()) OpenFile(path);
   } catch (const RuntimeError &) {
   }
-  HoldNameOfActivePage();
+  UpdateDialogFileName();
   item.setEnabled(true);
 }
 
@@ -171,8 +171,8 @@ QString CommandRouter::OpenFile(const QString &path) {
   return {};
 }
 
-void CommandRouter::HoldNameOfActivePage() {
-  if (frmMain *page = ActiveDocument()) HoldNameInDialog(context_, *page);
+void CommandRouter::UpdateDialogFileName() {
+  if (frmMain *page = ActiveDocument()) SetDialogFileName(context_, *page);
 }
 
 void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
@@ -195,7 +195,7 @@ void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
   if (page.isNull()) return;
   // What the save has to tell outweighs that it went well.
   context_.mainWindow.status.Report({});
-  const auto end = modWorkFlow::SaveAndTell(context_, *page, kind);
+  const auto end = modWorkFlow::SaveAndReport(context_, *page, kind);
   if (page.isNull()) return;
   page->ShowTab();
   if (end == modWorkFlow::SaveEnd::Safe && !context_.mainWindow.status.HasNotice())
@@ -273,7 +273,7 @@ void CommandRouter::OpenProjectPage(int pageId) {
 void CommandRouter::OpenRecentFile(const QString &path) {
   if (isOpening_ || ShowPageOfFile(context_, path) || !HasRoom(context_)) return;
   OpenFile(path);
-  HoldNameOfActivePage();
+  UpdateDialogFileName();
 }
 
 QStringList CommandRouter::OpenFiles(const QStringList &paths, int line) {
@@ -291,7 +291,7 @@ QStringList CommandRouter::OpenFiles(const QStringList &paths, int line) {
   }
   frmMain *first = paths.isEmpty() ? nullptr : PageOfFile(context_, paths.first());
   if (line > 0 && first != nullptr) ShowSourceLine(*first, line);
-  HoldNameOfActivePage();
+  UpdateDialogFileName();
   return notOpened;
 }
 
@@ -309,7 +309,7 @@ void CommandRouter::ShowSourceLine(frmMain &page, int line) {
   editor->Code().CenterCaret();
 }
 
-void CommandRouter::TakeDroppedFiles(const QStringList &paths, frmMain *page) {
+void CommandRouter::OpenDroppedFiles(const QStringList &paths, frmMain *page) {
   const QPointer<frmMain> alive = page;
   bool isRefused = false;
   for (const QString &path : paths) {
@@ -322,7 +322,7 @@ void CommandRouter::TakeDroppedFiles(const QStringList &paths, frmMain *page) {
       insert_.PictureFile(*alive, path);
     }
   }
-  HoldNameOfActivePage();
+  UpdateDialogFileName();
 }
 
 void CommandRouter::ActivatePage(int number) {

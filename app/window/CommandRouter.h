@@ -74,7 +74,7 @@ class CommandRouter {
   bool IsBusy() const;
   /// Opens dropped pages as far as there is room, whether Open is enabled or not, and inserts
   /// dropped pictures at the caret of `page`. Paths in logic form.
-  void TakeDroppedFiles(const QStringList &paths, frmMain *page);
+  void OpenDroppedFiles(const QStringList &paths, frmMain *page);
   /// Activates the page window of a slot; it is created first where the slot is empty.
   void ActivatePage(int number);
 
@@ -86,8 +86,8 @@ class CommandRouter {
   QString OpenFile(const QString &path);
   /// Shows a line, counted from 1, of the page's source in its editor.
   void ShowSourceLine(frmMain &page, int line);
-  /// HoldNameInDialog for the page that is active now.
-  void HoldNameOfActivePage();
+  /// SetDialogFileName for the page that is active now.
+  void UpdateDialogFileName();
   void SavePage(modWorkFlow::SaveKind kind);
   void Preview();
   /// The page window in front; null when the window in front is another one, or there is none.

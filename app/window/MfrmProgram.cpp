@@ -288,13 +288,13 @@ void MfrmProgram::ConnectBars() {
   connect(pageTabs_, &PageTabs::Pointed, statusLine_, &StatusLine::ShowPlace);
   connect(pageChooser_, &PageChooser::PageChosen, this,
           [this](std::int32_t pageId) { router_.OpenProjectPage(pageId); });
-  connect(boxes, &FormattingBar::Done, area_, &PageArea::GiveKeyboard);
+  connect(boxes, &FormattingBar::Done, area_, &PageArea::FocusFrontWindow);
   connect(area_, &PageArea::FrontChanged, this, &MfrmProgram::ShowFront);
 }
 
 void MfrmProgram::ShowFront() {
   FrontWindow *front = area_->Front();
-  statusLine_->PageCame(front == nullptr ? 0 : front->PageNumber());
+  statusLine_->PageActivated(front == nullptr ? 0 : front->PageNumber());
   commands_.Refresh();
   if (front != nullptr) {
     front->OnActivated();

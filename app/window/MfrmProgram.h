@@ -68,7 +68,7 @@ class MfrmProgram final : public QMainWindow,
  private:
   // PageRequests
   void PopUpContextMenu(QPoint screenPosition) override;
-  void TakeDroppedFiles(const QStringList &paths, frmMain *page) override;
+  void OpenDroppedFiles(const QStringList &paths, frmMain *page) override;
   void ResetElementInspection() override;
 
   // CommandHost

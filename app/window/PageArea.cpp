@@ -126,10 +126,10 @@ void PageArea::NoticeFront() {
   noticed_ = front;
   NameFrames();
   Q_EMIT FrontChanged();
-  if (!keepsKeyboard_) GiveKeyboard();
+  if (!keepsKeyboard_) FocusFrontWindow();
 }
 
-void PageArea::GiveKeyboard() {
+void PageArea::FocusFrontWindow() {
   if (QWidget *front = Current()) front->setFocus();
 }
 

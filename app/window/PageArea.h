@@ -43,7 +43,7 @@ class PageArea final : public QMdiArea, public ChildWindows {
   QString NameOf(const QWidget *window) const;
 
   /// Moves the focus into the window in front.
-  void GiveKeyboard();
+  void FocusFrontWindow();
 
  Q_SIGNALS:
   /// Another window has come to the front, or none is open any more.

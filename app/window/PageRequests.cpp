@@ -17,8 +17,8 @@ void MfrmProgram::PopUpContextMenu(QPoint screenPosition) {
   menus_.menus.value(QStringLiteral("mnuExt"))->popup(screenPosition);
 }
 
-void MfrmProgram::TakeDroppedFiles(const QStringList &paths, frmMain *page) {
-  router_.TakeDroppedFiles(paths, page);
+void MfrmProgram::OpenDroppedFiles(const QStringList &paths, frmMain *page) {
+  router_.OpenDroppedFiles(paths, page);
 }
 
 void MfrmProgram::ResetElementInspection() {
@@ -35,7 +35,7 @@ void MfrmProgram::dropEvent(QDropEvent *event) {
     if (url.isLocalFile()) paths += ToLogic(url.toLocalFile());
   event->acceptProposedAction();
   // The program that the files come from waits for the end of this event.
-  QTimer::singleShot(0, this, [this, paths] { TakeDroppedFiles(paths, nullptr); });
+  QTimer::singleShot(0, this, [this, paths] { OpenDroppedFiles(paths, nullptr); });
 }
 
 }  // namespace velor

@@ -70,7 +70,7 @@ bool StatusLine::HasNotice() const {
                      [this](const Notice &notice) { return notice.page == front_; });
 }
 
-void StatusLine::PageCame(int page) {
+void StatusLine::PageActivated(int page) {
   front_ = page;
   Drop([page](const Notice &notice) { return notice.page != 0 && notice.page != page; });
 }

@@ -37,7 +37,7 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   void ShowPlace(const QString &path);
   /// To be called with the slot of the page that has come to the front, 0 for none: removes the
   /// notices about other pages.
-  void PageCame(int page);
+  void PageActivated(int page);
 
  private:
   struct Notice {

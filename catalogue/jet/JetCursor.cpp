@@ -13,7 +13,7 @@ namespace velor {
 JetCursor::JetCursor(JetPager &pager, const JetTable &table, std::vector<jet::PageNumber> pages)
     : pager_(&pager), table_(&table), pages_(std::move(pages)) {}
 
-bool JetCursor::EnterPage() {
+bool JetCursor::NextPage() {
   while (nextPage_ < pages_.size()) {
     const jet::PageNumber number = pages_[nextPage_++];
     page_ = ReadJetTablePage(*pager_, *table_, number);
@@ -26,7 +26,7 @@ bool JetCursor::EnterPage() {
 }
 
 bool JetCursor::Next() {
-  if (!page_ && !EnterPage()) return false;
+  if (!page_ && !NextPage()) return false;
   for (;;) {
     const JetSlots slots(*page_);
     while (++home_.slot < slots.Count()) {
@@ -46,7 +46,7 @@ bool JetCursor::Next() {
       row_ = *row;
       return true;
     }
-    if (!EnterPage()) return false;
+    if (!NextPage()) return false;
   }
 }
 

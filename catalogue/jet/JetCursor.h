@@ -37,7 +37,7 @@ class JetCursor {
 
  private:
   /// Goes to the next sound page of the table; false past the last one.
-  bool EnterPage();
+  bool NextPage();
   bool HasLongValue(const JetColumn &column) const;
 
   JetPager *pager_;

@@ -13,7 +13,7 @@ unsigned char *SlotAt(jet::Page &page, int slot) {
 }
 
 void PutFree(jet::Page &page) {
-  jet::Put(page.data() + jet::DataFree, static_cast<quint16>(JetSlots(page).Free()));
+  jet::Put(page.data() + jet::DataFree, static_cast<quint16>(JetSlots(page).FreeBytes()));
 }
 
 }  // namespace
@@ -37,14 +37,14 @@ bool JetSlots::AreSound() const {
   for (int slot = 0; slot < Count(); ++slot) {
     if (Begin(slot) > End(slot)) return false;
   }
-  return Free() >= 0;
+  return FreeBytes() >= 0;
 }
 
 JetBytes JetSlots::Row(int slot) const {
   return {page_->data() + Begin(slot), static_cast<std::size_t>(End(slot) - Begin(slot))};
 }
 
-int JetSlots::Free() const {
+int JetSlots::FreeBytes() const {
   return End(Count()) - jet::DataSlots - jet::SlotBytes * Count();
 }
 
@@ -72,7 +72,7 @@ void ReplaceJetRow(jet::Page &page, int slot, quint16 flags, JetBytes bytes) {
       static_cast<std::ptrdiff_t>(old.size()) - static_cast<std::ptrdiff_t>(bytes.size());
   // Everything below the row moves by the difference in length.
   unsigned char *lowest =
-      page.data() + jet::DataSlots + jet::SlotBytes * slots.Count() + slots.Free();
+      page.data() + jet::DataSlots + jet::SlotBytes * slots.Count() + slots.FreeBytes();
   std::memmove(lowest + shift, lowest, static_cast<std::size_t>(end - old.size() - lowest));
   std::copy(bytes.begin(), bytes.end(), end - bytes.size());
   for (int index = slot; index < slots.Count(); ++index) {
@@ -87,8 +87,8 @@ void ReplaceJetRow(jet::Page &page, int slot, quint16 flags, JetBytes bytes) {
 int AddJetRow(jet::Page &page, quint16 flags, JetBytes bytes) {
   const JetSlots slots(page);
   const int slot = slots.Count();
-  const auto offset = static_cast<quint16>(jet::DataSlots + jet::SlotBytes * slot + slots.Free() -
-                                           static_cast<int>(bytes.size()));
+  const auto offset = static_cast<quint16>(jet::DataSlots + jet::SlotBytes * slot +
+                                           slots.FreeBytes() - static_cast<int>(bytes.size()));
   std::copy(bytes.begin(), bytes.end(), page.begin() + offset);
   jet::Put(SlotAt(page, slot), static_cast<quint16>(flags | offset));
   jet::Put(page.data() + jet::DataRows, static_cast<quint16>(slot + 1));

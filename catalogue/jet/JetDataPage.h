@@ -27,7 +27,7 @@ class JetSlots {
   bool IsHome(int slot) const { return !(Flags(slot) & jet::SlotMoved); }
   JetBytes Row(int slot) const;
   /// Bytes between slots and rows.
-  int Free() const;
+  int FreeBytes() const;
 
  private:
   int Begin(int slot) const;

@@ -37,7 +37,7 @@ class Walk {
   explicit Walk(const std::vector<unsigned char> &bytes) : bytes_(bytes) {}
 
   /// The next bytes, or nullptr.
-  const unsigned char *Take(std::size_t count) {
+  const unsigned char *Next(std::size_t count) {
     if (failed_ || count > bytes_.size() - at_) {
       failed_ = true;
       return nullptr;
@@ -69,17 +69,17 @@ JetColumn ColumnOf(const unsigned char *record) {
 
 bool ReadColumns(Walk &walk, int count, JetTable &table) {
   for (int index = 0; index < count; ++index) {
-    const unsigned char *record = walk.Take(jet::ColumnRecordBytes);
+    const unsigned char *record = walk.Next(jet::ColumnRecordBytes);
     if (!record) return false;
     table.columns.push_back(ColumnOf(record));
     const JetColumn &column = table.columns.back();
     if (column.number >= HighestColumn || column.variableIndex >= HighestColumn) return false;
   }
   for (JetColumn &column : table.columns) {
-    const unsigned char *length = walk.Take(sizeof(quint16));
+    const unsigned char *length = walk.Next(sizeof(quint16));
     if (!length) return false;
     const auto bytes = jet::Get<quint16>(length);
-    const unsigned char *name = walk.Take(bytes);
+    const unsigned char *name = walk.Next(bytes);
     if (!name) return false;
     column.name = DecodeJetText({name, bytes});
   }
@@ -89,7 +89,7 @@ bool ReadColumns(Walk &walk, int count, JetTable &table) {
 std::optional<std::set<int>> ReadIndexedColumns(Walk &walk, quint32 count) {
   std::set<int> numbers;
   for (quint32 index = 0; index < count; ++index) {
-    const unsigned char *record = walk.Take(jet::IndexRecordBytes);
+    const unsigned char *record = walk.Next(jet::IndexRecordBytes);
     if (!record) return std::nullopt;
     for (int column = 0; column < jet::IndexColumns; ++column) {
       const auto number =
@@ -106,7 +106,7 @@ std::optional<JetTable> ReadJetDefinition(JetPager &pager, jet::PageNumber page,
                                           const QString &name) {
   const std::vector<unsigned char> bytes = ReadBytes(pager, page);
   Walk walk(bytes);
-  const unsigned char *head = walk.Take(jet::DefinitionHead);
+  const unsigned char *head = walk.Next(jet::DefinitionHead);
   if (!head) return std::nullopt;
 
   JetTable table;
@@ -120,7 +120,7 @@ std::optional<JetTable> ReadJetDefinition(JetPager &pager, jet::PageNumber page,
 
   const auto indexes = jet::Get<quint32>(head + jet::IndexCount);
   if (indexes > bytes.size() / jet::IndexRecordBytes) return std::nullopt;
-  walk.Take(static_cast<std::size_t>(indexes) * jet::IndexHeadBytes);
+  walk.Next(static_cast<std::size_t>(indexes) * jet::IndexHeadBytes);
   if (!ReadColumns(walk, jet::Get<quint16>(head + jet::ColumnCount), table)) return std::nullopt;
   const auto indexed = ReadIndexedColumns(walk, indexes);
   if (!indexed || table.columns.empty()) return std::nullopt;

@@ -182,7 +182,7 @@ bool IsUnchangedSince(JetStorage &storage, const Journal &journal) {
 }
 
 void PutBack(JetStorage &storage, const Journal &journal) {
-  storage.KeepModified(journal.head.modified);
+  storage.PinModificationTime(journal.head.modified);
   for (const Record &record : journal.records) storage.WritePage(record.number, record.before);
   storage.Truncate(journal.head.bytesBefore);
   storage.Sync();
@@ -220,7 +220,7 @@ void WriteJournal(JetStorage &storage, const JetPager &pager) {
 }
 
 void WritePages(JetStorage &storage, const JetPager &pager) {
-  storage.KeepModified(pager.Stamp().modified);
+  storage.PinModificationTime(pager.Stamp().modified);
   for (const auto &[number, page] : pager.Now().changes) {
     jet::Page encoded = *page;
     pager.ApplyKey(number, encoded);
@@ -248,7 +248,7 @@ void CommitJetChanges(JetStorage &storage, const JetPager &pager) {
       PutBack(storage, *journal);
     throw;
   }
-  storage.KeepModified(std::nullopt);
+  storage.PinModificationTime(std::nullopt);
 }
 
 QString RecoverJetFile(JetStorage &storage) {

@@ -25,8 +25,8 @@ struct JetStamp {
 /// access goes through this class, so that a test can fail or stop at any single write. Failures
 /// raise RuntimeError with the file's name.
 ///
-/// A commit is CreateJournal, AppendJournal ..., SyncJournal, KeepModified(time), WritePage ...,
-/// Sync, RemoveJournal, KeepModified(nothing).
+/// A commit is CreateJournal, AppendJournal ..., SyncJournal, PinModificationTime(time), WritePage
+/// ..., Sync, RemoveJournal, PinModificationTime(nothing).
 class JetStorage {
  public:
   virtual ~JetStorage() = default;
@@ -48,7 +48,7 @@ class JetStorage {
   /// Keeps `nanoseconds` (since 1970) as the file's modification time whatever is written from now
   /// on, and touches the journal before each write. A journal left behind can then tell whether
   /// another program has written since. Nothing ends that, and sets the modification time to now.
-  virtual void KeepModified(std::optional<qint64> nanoseconds) = 0;
+  virtual void PinModificationTime(std::optional<qint64> nanoseconds) = 0;
 
   /// Copies the file to its name with ".bak" appended, whole or not at all.
   virtual void Backup() = 0;

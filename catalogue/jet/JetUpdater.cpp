@@ -69,12 +69,12 @@ std::optional<QByteArray> StoredValue(const JetTable &table, const JetColumn &co
 /// Whether the row can stand in the slot in place of what is there.
 bool Fits(const jet::Page &page, int slot, qsizetype bytes) {
   const JetSlots slots(page);
-  return slots.Free() + static_cast<qsizetype>(slots.Row(slot).size()) >= bytes;
+  return slots.FreeBytes() + static_cast<qsizetype>(slots.Row(slot).size()) >= bytes;
 }
 
 bool HasRoom(const jet::Page &page, int bytes) {
   const JetSlots slots(page);
-  return slots.Count() < jet::MaximumSlots && slots.Free() >= bytes + jet::SlotBytes;
+  return slots.Count() < jet::MaximumSlots && slots.FreeBytes() >= bytes + jet::SlotBytes;
 }
 
 }  // namespace

@@ -170,7 +170,7 @@ class PosixJetStorage final : public JetStorage {
     SyncDescriptor(writer_, path_);
   }
 
-  void KeepModified(std::optional<qint64> nanoseconds) override {
+  void PinModificationTime(std::optional<qint64> nanoseconds) override {
     kept_ = nanoseconds;
     if (!kept_) Touch(writer_, path_);
   }

@@ -110,15 +110,15 @@ WebBrowser::WebBrowser(QWidget *parent)
   }
   page_->scripts().insert(SiteLinks());
   view_->setPage(page_);
-  LeaveFilesToTheWindow(*view_);
+  IgnoreFileDrags(*view_);
 
   connect(profile_.get(), &QWebEngineProfile::downloadRequested, this,
           [this](QWebEngineDownloadRequest *download) {
             download->cancel();
-            TellState(tr("The preview downloads nothing: %1").arg(Named(download->url())));
+            ShowLoadState(tr("The preview downloads nothing: %1").arg(Named(download->url())));
           });
   connect(page_, &QWebEnginePage::linkHovered, this, [this](const QString &address) {
-    TellStatus(address.isEmpty() ? state_ : Named(QUrl(address)));
+    ShowInStatusBar(address.isEmpty() ? state_ : Named(QUrl(address)));
   });
   tellingParts_.setSingleShot(true);
   connect(&tellingParts_, &QTimer::timeout, this, [this] {
@@ -132,19 +132,20 @@ WebBrowser::WebBrowser(QWidget *parent)
   });
   const auto refused = [this](const QString &file) {
     if (!refused_.contains(file)) refused_ << file;
-    if (!isOpening_) TellRefused();
+    if (!isOpening_) ReportRefused();
   };
   connect(&scheme_, &SiteScheme::Refused, this, refused);
   connect(page_, &BrowserPage::PartRefused, this, refused);
   connect(page_, &BrowserPage::LinkRefused, this, [this](const QString &file) {
-    TellState(tr("Outside of the site and not opened: %1").arg(file));
+    ShowLoadState(tr("Outside of the site and not opened: %1").arg(file));
   });
   connect(page_, &QWebEnginePage::loadProgress, this, [this](int percent) {
     if (listener_ != nullptr) listener_->ProgressChanged(percent, ProgressMaximum);
   });
   connect(page_, &QWebEnginePage::loadingChanged, this, &WebBrowser::LoadingChanged);
-  connect(page_, &QWebEnginePage::renderProcessTerminated, this,
-          [this] { TellState(tr("The page's process has ended. Refresh shows the page again.")); });
+  connect(page_, &QWebEnginePage::renderProcessTerminated, this, [this] {
+    ShowLoadState(tr("The page's process has ended. Refresh shows the page again."));
+  });
 }
 
 WebBrowser::~WebBrowser() {
@@ -202,48 +203,48 @@ void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo &loading) {
       refused_.clear();
       parts_.clear();
       stateBefore_ = state_;
-      TellState(tr("Opening %1").arg(Named(loading.url())));
+      ShowLoadState(tr("Opening %1").arg(Named(loading.url())));
       isOpening_ = true;
       break;
     case QWebEngineLoadingInfo::LoadStoppedStatus:
       // The engine also reports as stopped what it never began to load, such as a link to another
       // program.
       if (isStopping_)
-        TellState(tr("Stopped"));
+        ShowLoadState(tr("Stopped"));
       else if (isOpening_)
-        TellState(stateBefore_);
+        ShowLoadState(stateBefore_);
       break;
     case QWebEngineLoadingInfo::LoadSucceededStatus:
-      TellState(tr("Done"));
-      if (!refused_.isEmpty()) TellRefused();
+      ShowLoadState(tr("Done"));
+      if (!refused_.isEmpty()) ReportRefused();
       break;
     case QWebEngineLoadingInfo::LoadFailedStatus:
-      TellState(tr("%1 could not be opened").arg(Named(loading.url())));
+      ShowLoadState(tr("%1 could not be opened").arg(Named(loading.url())));
       break;
   }
 }
 
-void WebBrowser::TellRefused() {
+void WebBrowser::ReportRefused() {
   QString text = tr("Outside of the site and not shown: %1").arg(refused_.first());
   if (refused_.size() > 1) text += tr(" and %1 more").arg(refused_.size() - 1);
-  TellState(text);
+  ShowLoadState(text);
 }
 
 void WebBrowser::OpenInOtherProgram(const QUrl &url) {
   if (QDesktopServices::openUrl(url)) return;
   const QString text = url.toDisplayString();
-  TellState(url.scheme() == QStringLiteral("mailto")
-                ? tr("No mail program is set up here to write to %1").arg(url.path())
-                : tr("No program is set up here to open %1").arg(text));
+  ShowLoadState(url.scheme() == QStringLiteral("mailto")
+                    ? tr("No mail program is set up here to write to %1").arg(url.path())
+                    : tr("No program is set up here to open %1").arg(text));
 }
 
-void WebBrowser::TellState(const QString &state) {
+void WebBrowser::ShowLoadState(const QString &state) {
   state_ = state;
   isOpening_ = false;
-  TellStatus(state);
+  ShowInStatusBar(state);
 }
 
-void WebBrowser::TellStatus(const QString &text) {
+void WebBrowser::ShowInStatusBar(const QString &text) {
   if (listener_ != nullptr) listener_->StatusTextChanged(text);
 }
 

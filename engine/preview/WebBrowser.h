@@ -45,11 +45,11 @@ class WebBrowser final : public QObject, public Browser {
  private:
   void LoadingChanged(const QWebEngineLoadingInfo &loading);
   /// Makes a text the state of the load, and shows it.
-  void TellState(const QString &state);
+  void ShowLoadState(const QString &state);
   /// Shows a text in the status bar, over the state of the load.
-  void TellStatus(const QString &text);
+  void ShowInStatusBar(const QString &text);
   /// Tells which parts of the page were not shown.
-  void TellRefused();
+  void ReportRefused();
   /// Opens an address in the program that the desktop has for it (mailto: and the like).
   void OpenInOtherProgram(const QUrl &url);
 

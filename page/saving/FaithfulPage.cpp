@@ -316,8 +316,8 @@ SavedPage FaithfulPage::Splice(const std::vector<TextPatch> &patches, SaveRung r
   std::vector<TextPatch> own;
   const QString &masked = mask_.MaskedText();
   for (const TextPatch &patch : patches) {
-    const qsizetype start = mask_.OutOfMask(patch.start, PageMask::Edge::Start);
-    const qsizetype end = mask_.OutOfMask(patch.end, PageMask::Edge::End);
+    const qsizetype start = mask_.MoveOutOfMask(patch.start, PageMask::Edge::Start);
+    const qsizetype end = mask_.MoveOutOfMask(patch.end, PageMask::Edge::End);
     const QString text = masked.mid(start, patch.start - start) + patch.text +
                          masked.mid(patch.end, end - patch.end);
     own.push_back({mask_.ToSource(start, PageMask::Edge::Start),

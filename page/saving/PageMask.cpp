@@ -56,7 +56,7 @@ const PageMask::Piece *PageMask::PieceBefore(qsizetype masked) const {
   return next == pieces_.begin() ? nullptr : &*std::prev(next);
 }
 
-qsizetype PageMask::OutOfMask(qsizetype masked, Edge edge) const {
+qsizetype PageMask::MoveOutOfMask(qsizetype masked, Edge edge) const {
   const Piece *piece = PieceBefore(masked);
   if (piece == nullptr || masked >= piece->masked + piece->maskedLength) return masked;
   return edge == Edge::Start ? piece->masked : piece->masked + piece->maskedLength;
@@ -74,7 +74,7 @@ bool PageMask::IsServerCode(qsizetype source) const {
 }
 
 qsizetype PageMask::ToSource(qsizetype masked, Edge edge) const {
-  const qsizetype offset = OutOfMask(masked, edge);
+  const qsizetype offset = MoveOutOfMask(masked, edge);
   const Piece *piece = PieceBefore(offset);
   if (piece == nullptr) return offset;
   return piece->source + piece->sourceLength + offset - piece->masked - piece->maskedLength;

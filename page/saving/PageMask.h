@@ -46,7 +46,7 @@ class PageMask {
   /// edge.
   qsizetype ToSource(qsizetype masked, Edge edge) const;
   /// An offset into MaskedText() that lies inside a mask moved to the mask's edge.
-  qsizetype OutOfMask(qsizetype masked, Edge edge) const;
+  qsizetype MoveOutOfMask(qsizetype masked, Edge edge) const;
 
  private:
   friend class PageMasker;

@@ -51,8 +51,8 @@ class CodeLine {
   virtual ~CodeLine() = default;
 
   int Read() {
-    if (open_ == Open::Comment) TakeComment(0);
-    if (open_ == Open::Template) TakeTemplate(0);
+    if (open_ == Open::Comment) ConsumeComment(0);
+    if (open_ == Open::Template) ConsumeTemplate(0);
     if (open_ == Open::DoubleQuoted || open_ == Open::SingleQuoted) GoOnInString();
     while (at_ < code_.size()) ReadOne();
     return static_cast<int>(open_);
@@ -67,7 +67,7 @@ class CodeLine {
     return at_ + ahead < code_.size() ? code_[at_ + ahead] : '\0';
   }
 
-  void Take(SourceRole role, qsizetype end) {
+  void Consume(SourceRole role, qsizetype end) {
     end = std::min(end, code_.size());
     for (qsizetype at = at_; at < end; ++at) {
       if (!IsBlank(code_[at])) last_ = code_[at];
@@ -82,11 +82,11 @@ class CodeLine {
            QByteArrayView("(,=:[!&|?{};+-*%~^<>").contains(last_);
   }
 
-  void TakeTemplate(qsizetype opening) {
+  void ConsumeTemplate(qsizetype opening) {
     qsizetype end = at_ + opening;
     while (end < code_.size() && code_[end] != '`') end += code_[end] == '\\' ? 2 : 1;
     open_ = end >= code_.size() ? Open::Template : Open::Nothing;
-    Take(SourceRole::String, end + 1);
+    Consume(SourceRole::String, end + 1);
   }
 
   QByteArrayView code_;
@@ -95,51 +95,51 @@ class CodeLine {
   Open open_;
 
  private:
-  void TakeComment(qsizetype opening) {
+  void ConsumeComment(qsizetype opening) {
     const qsizetype closing = code_.indexOf(QByteArrayView("*/"), at_ + opening);
     open_ = closing < 0 ? Open::Comment : Open::Nothing;
     const char before = last_;
-    Take(SourceRole::Comment, closing < 0 ? code_.size() : closing + 2);
+    Consume(SourceRole::Comment, closing < 0 ? code_.size() : closing + 2);
     last_ = before;
   }
 
   /// Takes a string up to `end`; it goes on in the next line where this one ends in a backslash.
-  void TakeString(qsizetype end, Open kind) {
+  void ConsumeString(qsizetype end, Open kind) {
     qsizetype textEnd = code_.size();
     while (textEnd > 0 && (code_[textEnd - 1] == '\n' || code_[textEnd - 1] == '\r')) --textEnd;
     const bool goesOn =
         end == code_.size() && textEnd < code_.size() && textEnd > 0 && code_[textEnd - 1] == '\\';
     open_ = goesOn ? kind : Open::Nothing;
-    Take(SourceRole::String, end);
+    Consume(SourceRole::String, end);
   }
 
   void GoOnInString() {
     const char quote = open_ == Open::DoubleQuoted ? '"' : '\'';
     qsizetype end = 0;
     while (end < code_.size() && code_[end] != quote) end += code_[end] == '\\' ? 2 : 1;
-    TakeString(std::min(end + 1, code_.size()), open_);
+    ConsumeString(std::min(end + 1, code_.size()), open_);
   }
 
   void ReadOne() {
     const char letter = code_[at_];
-    if (letter == '/' && Next(1) == '*') return TakeComment(2);
-    if (letter == '/' && Next(1) == '/') return Take(SourceRole::Comment, code_.size());
+    if (letter == '/' && Next(1) == '*') return ConsumeComment(2);
+    if (letter == '/' && Next(1) == '/') return Consume(SourceRole::Comment, code_.size());
     if (ReadOwn()) return;
     if (letter == '"' || letter == '\'') {
-      return TakeString(StringEnd(code_, at_),
-                        letter == '"' ? Open::DoubleQuoted : Open::SingleQuoted);
+      return ConsumeString(StringEnd(code_, at_),
+                           letter == '"' ? Open::DoubleQuoted : Open::SingleQuoted);
     }
     if (IsDigit(letter) || (letter == '.' && IsDigit(Next(1)))) return ReadNumber();
     if (IsWordByte(letter) || letter == '$') return ReadWord();
     if (!IsBlank(letter)) lastWordBinds_ = false;
-    Take(SourceRole::Text, at_ + 1);
+    Consume(SourceRole::Text, at_ + 1);
   }
 
   void ReadNumber() {
     qsizetype end = at_ + 1;
     while (end < code_.size() && (IsWordByte(code_[end]) || code_[end] == '.')) ++end;
     lastWordBinds_ = false;
-    Take(SourceRole::Number, end);
+    Consume(SourceRole::Number, end);
   }
 
   void ReadWord() {
@@ -148,7 +148,7 @@ class CodeLine {
     const QByteArrayView word = code_.sliced(at_, end - at_);
     const bool isKeyword = last_ != '.' && IsKeyword(word);
     lastWordBinds_ = isKeyword && word != "this" && word != "super";
-    Take(isKeyword ? SourceRole::Keyword : SourceRole::Text, end);
+    Consume(isKeyword ? SourceRole::Keyword : SourceRole::Text, end);
   }
 
   char last_ = '\0';            ///< the last character that is no blank, 0 at the line's start
@@ -170,19 +170,19 @@ class ScriptLine final : public CodeLine {
 
   bool ReadOwn() override {
     if (Next() == '`') {
-      TakeTemplate(1);
+      ConsumeTemplate(1);
       return true;
     }
     // Old pages hide scripts from browsers without them in "<!--"; in a script that begins a
     // comment.
     if (BeginsWith(code_, at_, "<!--")) {
-      Take(SourceRole::Comment, code_.size());
+      Consume(SourceRole::Comment, code_.size());
       return true;
     }
     if (Next() != '/' || !IsOperandDue()) return false;
     const qsizetype end = RegularExpressionEnd();
     if (end < 0) return false;
-    Take(SourceRole::String, end);
+    Consume(SourceRole::String, end);
     return true;
   }
 
@@ -219,7 +219,7 @@ class ServerLine final : public CodeLine {
   bool ReadOwn() override {
     const bool isComment =
         Next() == '#' || (Next() == '\'' && !code_.sliced(at_ + 1).contains('\''));
-    if (isComment) Take(SourceRole::Comment, code_.size());
+    if (isComment) Consume(SourceRole::Comment, code_.size());
     return isComment;
   }
 };

@@ -119,7 +119,7 @@ class Line {
   }
 
  private:
-  void Take(SourceRole role, qsizetype end) {
+  void Consume(SourceRole role, qsizetype end) {
     std::fill(roles_ + at_, roles_ + end, role);
     at_ = end;
   }
@@ -140,9 +140,9 @@ class Line {
       case Mode::SingleQuoted:
         return ReadQuoted('\'');
       case Mode::Comment:
-        return TakeThrough("-->", SourceRole::Comment);
+        return ConsumeThrough("-->", SourceRole::Comment);
       case Mode::Declaration:
-        return TakeThrough(">", SourceRole::Tag);
+        return ConsumeThrough(">", SourceRole::Tag);
       case Mode::Inside:
         return ReadInside();
       case Mode::Server:
@@ -163,18 +163,18 @@ class Line {
 
   void ReadText() {
     if (line_[at_] == '&') return ReadReference();
-    if (line_[at_] != '<') return Take(SourceRole::Text, FirstOf("<&", at_));
+    if (line_[at_] != '<') return Consume(SourceRole::Text, FirstOf("<&", at_));
     if (BeginsWith(line_, at_, "<!--")) {
       state_.mode = Mode::Comment;
-      return Take(SourceRole::Comment, at_ + 4);
+      return Consume(SourceRole::Comment, at_ + 4);
     }
     const bool isEnd = BeginsWith(line_, at_, "</");
     if (IsLetterAt(at_ + (isEnd ? 2 : 1))) return BeginTag(isEnd);
     if (isEnd || BeginsWith(line_, at_, "<!") || BeginsWith(line_, at_, "<?")) {
       state_.mode = Mode::Declaration;
-      return Take(SourceRole::Tag, at_ + 2);
+      return Consume(SourceRole::Tag, at_ + 2);
     }
-    Take(SourceRole::Text, at_ + 1);
+    Consume(SourceRole::Text, at_ + 1);
   }
 
   void ReadReference() {
@@ -182,9 +182,9 @@ class Line {
     if (end < line_.size() && line_[end] == '#') ++end;
     const qsizetype name = end;
     while (end < line_.size() && (IsLetter(line_[end]) || IsDigit(line_[end]))) ++end;
-    if (end == name) return Take(SourceRole::Text, end);
+    if (end == name) return Consume(SourceRole::Text, end);
     if (end < line_.size() && line_[end] == ';') ++end;
-    Take(SourceRole::Entity, end);
+    Consume(SourceRole::Entity, end);
   }
 
   qsizetype NameEnd(qsizetype from) const { return FirstOf(" \t\r\n\f/>", from); }
@@ -199,7 +199,7 @@ class Line {
     state_.mode = Mode::Tag;
     state_.element = holdsText ? static_cast<int>(element - TextElements.begin()) + 1 : 0;
     state_.isData = false;
-    Take(SourceRole::Tag, end);
+    Consume(SourceRole::Tag, end);
   }
 
   void ReadTag() {
@@ -207,43 +207,43 @@ class Line {
     if (letter == '>') {
       state_.mode = state_.element == 0 ? Mode::Text : Mode::Inside;
       state_.inner = 0;
-      return Take(SourceRole::Tag, at_ + 1);
+      return Consume(SourceRole::Tag, at_ + 1);
     }
     if (letter == '=') {
       state_.mode = Mode::Value;
-      return Take(SourceRole::Tag, at_ + 1);
+      return Consume(SourceRole::Tag, at_ + 1);
     }
-    if (letter == '/' || letter == '<') return Take(SourceRole::Tag, at_ + 1);
-    if (IsBlank(letter)) return Take(SourceRole::Text, at_ + 1);
+    if (letter == '/' || letter == '<') return Consume(SourceRole::Tag, at_ + 1);
+    if (IsBlank(letter)) return Consume(SourceRole::Text, at_ + 1);
     const qsizetype end = FirstOf(" \t\r\n\f/>=<", at_);
     isType_ =
         line_.sliced(at_, end - at_).compare(QByteArrayView("type"), Qt::CaseInsensitive) == 0;
-    Take(SourceRole::Attribute, end);
+    Consume(SourceRole::Attribute, end);
   }
 
   void ReadValue() {
     const char letter = line_[at_];
-    if (IsBlank(letter)) return Take(SourceRole::Text, at_ + 1);
+    if (IsBlank(letter)) return Consume(SourceRole::Text, at_ + 1);
     if (letter == '"' || letter == '\'') {
       state_.mode = letter == '"' ? Mode::DoubleQuoted : Mode::SingleQuoted;
-      return Take(SourceRole::String, at_ + 1);
+      return Consume(SourceRole::String, at_ + 1);
     }
     state_.mode = Mode::Tag;
     if (letter == '>') return;
     const qsizetype end = std::max(FirstOf(" \t\r\n\f><", at_), at_ + 1);
     ReadScriptType(end);
-    Take(SourceRole::String, end);
+    Consume(SourceRole::String, end);
   }
 
   void ReadQuoted(char quote) {
     if (line_[at_] == quote) {
       state_.mode = Mode::Tag;
-      return Take(SourceRole::String, at_ + 1);
+      return Consume(SourceRole::String, at_ + 1);
     }
     const char ends[] = {quote, '<'};
     const qsizetype end = std::max(FirstOf({ends, 2}, at_), at_ + 1);
     ReadScriptType(end);
-    Take(SourceRole::String, end);
+    Consume(SourceRole::String, end);
   }
 
   /// Where the value up to `end` is a script's type, notes whether its language is known.
@@ -255,10 +255,10 @@ class Line {
         ScriptTypes, [&type](QByteArrayView known) { return type.contains(known); });
   }
 
-  void TakeThrough(QByteArrayView closing, SourceRole role) {
+  void ConsumeThrough(QByteArrayView closing, SourceRole role) {
     const qsizetype found = line_.indexOf(closing, at_);
     if (found >= 0) state_.mode = Mode::Text;
-    Take(role, found < 0 ? line_.size() : found + closing.size());
+    Consume(role, found < 0 ? line_.size() : found + closing.size());
   }
 
   // The inside of elements that hold text
@@ -297,10 +297,10 @@ class Line {
         at_ = end;
         return;
       case Inside::References:
-        while (at_ < end) line_[at_] == '&' ? ReadReference() : Take(SourceRole::Text, at_ + 1);
+        while (at_ < end) line_[at_] == '&' ? ReadReference() : Consume(SourceRole::Text, at_ + 1);
         return;
       case Inside::Raw:
-        return Take(SourceRole::Text, end);
+        return Consume(SourceRole::Text, end);
     }
   }
 
@@ -326,7 +326,7 @@ class Line {
     state_.inner = 0;
     state_.serverMark = mark;
     const auto &opening = ServerMarks.at(static_cast<std::size_t>(mark)).opening;
-    Take(SourceRole::Tag, std::min(at_ + opening.size(), line_.size()));
+    Consume(SourceRole::Tag, std::min(at_ + opening.size(), line_.size()));
     return true;
   }
 
@@ -338,7 +338,7 @@ class Line {
     state_.inner = RolesOfServerCode(line_.sliced(at_, end - at_), state_.inner, roles_ + at_);
     at_ = end;
     if (found < 0) return;
-    Take(SourceRole::Tag, found + closing.size());
+    Consume(SourceRole::Tag, found + closing.size());
     state_.mode = state_.serverIn;
     state_.inner = state_.innerBehindServer;
   }

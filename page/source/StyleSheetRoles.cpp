@@ -25,7 +25,7 @@ class StyleSheetLine {
         depth_(state >> 4 & 15) {}
 
   int Read() {
-    if (isComment_) TakeComment(0);
+    if (isComment_) ConsumeComment(0);
     while (at_ < css_.size()) ReadOne();
     return static_cast<int>(place_) | (isComment_ ? 4 : 0) | (holdsRules_ ? 8 : 0) | depth_ << 4;
   }
@@ -39,16 +39,16 @@ class StyleSheetLine {
     return at_ + ahead < css_.size() ? css_[at_ + ahead] : '\0';
   }
 
-  void Take(SourceRole role, qsizetype end) {
+  void Consume(SourceRole role, qsizetype end) {
     end = std::min(end, css_.size());
     std::fill(roles_ + at_, roles_ + end, role);
     at_ = end;
   }
 
-  void TakeComment(qsizetype opening) {
+  void ConsumeComment(qsizetype opening) {
     const qsizetype closing = css_.indexOf(QByteArrayView("*/"), at_ + opening);
     isComment_ = closing < 0;
-    Take(SourceRole::Comment, isComment_ ? css_.size() : closing + 2);
+    Consume(SourceRole::Comment, isComment_ ? css_.size() : closing + 2);
   }
 
   qsizetype NameEnd(qsizetype from) const {
@@ -63,19 +63,19 @@ class StyleSheetLine {
 
   void ReadOne() {
     const char letter = css_[at_];
-    if (letter == '/' && Next(1) == '*') return TakeComment(2);
-    if (letter == '"' || letter == '\'') return Take(SourceRole::String, StringEnd(css_, at_));
+    if (letter == '/' && Next(1) == '*') return ConsumeComment(2);
+    if (letter == '"' || letter == '\'') return Consume(SourceRole::String, StringEnd(css_, at_));
     if (letter == '@') return ReadAtRule();
     if (place_ == Place::Value && (NumberBegins() || letter == '#')) {
       qsizetype end = at_ + 1;
       while (end < css_.size() && (IsName(css_[end]) || css_[end] == '.' || css_[end] == '%'))
         ++end;
-      return Take(SourceRole::Number, end);
+      return Consume(SourceRole::Number, end);
     }
     const bool beginsSelector = place_ == Place::Selector && (letter == '.' || letter == '#');
     if (IsName(letter) || beginsSelector) return ReadName(NameEnd(at_ + 1));
     ReadPunctuation(letter);
-    Take(SourceRole::Text, at_ + 1);
+    Consume(SourceRole::Text, at_ + 1);
   }
 
   void ReadAtRule() {
@@ -83,13 +83,13 @@ class StyleSheetLine {
     const QByteArrayView name = css_.sliced(at_, end - at_);
     holdsRules_ = name == "@media" || name == "@supports";
     place_ = Place::Value;
-    Take(SourceRole::Keyword, end);
+    Consume(SourceRole::Keyword, end);
   }
 
   void ReadName(qsizetype end) {
     if (place_ == Place::Selector) holdsRules_ = false;
-    if (place_ == Place::Value) return Take(SourceRole::Text, end);
-    Take(place_ == Place::Selector ? SourceRole::Tag : SourceRole::Attribute, end);
+    if (place_ == Place::Value) return Consume(SourceRole::Text, end);
+    Consume(place_ == Place::Selector ? SourceRole::Tag : SourceRole::Attribute, end);
   }
 
   void ReadPunctuation(char letter) {

@@ -64,16 +64,16 @@ class Decoder {
       const unsigned char byte = Byte(0);
       const char16_t single = IsAscii(byte) ? byte : index_.singles[byte - 0x80U];
       if (IsAscii(byte) || single != 0)
-        Take(single, 1);
+        Consume(single, 1);
       else if (!IsLead(byte))
-        Take(Replacement, 1);
+        Consume(Replacement, 1);
       else if (form_ == CharsetForm::Gb && Left() > 1 && IsIn(Byte(1), '0', '9'))
-        TakeFour();
+        ConsumeFour();
       else if (form_ == CharsetForm::EucJp && byte == 0x8F && Left() > 1 &&
                IsIn(Byte(1), 0xA1, 0xFE))
-        TakeThree();
+        ConsumeThree();
       else
-        TakePair();
+        ConsumePair();
     }
   }
 
@@ -82,14 +82,14 @@ class Decoder {
   unsigned char Byte(qsizetype offset) const {
     return static_cast<unsigned char>(bytes_[at_ + offset]);
   }
-  void Take(char32_t character, qsizetype count) {
+  void Consume(char32_t character, qsizetype count) {
     sink_.Put(character, at_);
     at_ += count;
   }
   /// An error of `count` bytes, without the last one if it is ASCII or beyond the end.
-  void TakeBroken(qsizetype count) {
-    if (count > Left()) return Take(Replacement, Left());
-    Take(Replacement, IsAscii(Byte(count - 1)) ? count - 1 : count);
+  void ConsumeBroken(qsizetype count) {
+    if (count > Left()) return Consume(Replacement, Left());
+    Consume(Replacement, IsAscii(Byte(count - 1)) ? count - 1 : count);
   }
 
   bool IsLead(unsigned char byte) const {
@@ -105,45 +105,45 @@ class Decoder {
     }
   }
 
-  void TakePair() {
+  void ConsumePair() {
     const char32_t character = Left() > 1 ? index_.pairs[CharsetIndex::Pair(Byte(0), Byte(1))] : 0;
-    if (character != 0) return Take(character, 2);
+    if (character != 0) return Consume(character, 2);
     if (form_ == CharsetForm::Big5 && Left() > 1 && Byte(0) == 0x88) {
       // A letter and an accent, which have no character together.
       const bool isSmall = Byte(1) >= 0xA0;
       const int accent = Byte(1) - (isSmall ? 0xA3 : 0x62);
       if (accent == 0 || accent == 2) {
         sink_.Put(isSmall ? 0xEA : 0xCA, at_);
-        return Take(accent == 0 ? 0x304 : 0x30C, 2);
+        return Consume(accent == 0 ? 0x304 : 0x30C, 2);
       }
     }
-    TakeBroken(2);
+    ConsumeBroken(2);
   }
 
   /// JIS X 0212: 0x8F and two bytes.
-  void TakeThree() {
+  void ConsumeThree() {
     const char32_t character =
         Left() > 2 ? index_.triples[CharsetIndex::Pair(Byte(1), Byte(2))] : 0;
-    if (character != 0) return Take(character, 3);
-    TakeBroken(3);
+    if (character != 0) return Consume(character, 3);
+    ConsumeBroken(3);
   }
 
   /// A character of GB 18030 in four bytes, of which the second and fourth are digits.
-  void TakeFour() {
+  void ConsumeFour() {
     const qsizetype left = Left();
-    if (left < 4 && (left < 3 || IsIn(Byte(2), 0x81, 0xFE))) return Take(Replacement, left);
-    if (!IsIn(Byte(2), 0x81, 0xFE) || !IsIn(Byte(3), '0', '9')) return Take(Replacement, 1);
+    if (left < 4 && (left < 3 || IsIn(Byte(2), 0x81, 0xFE))) return Consume(Replacement, left);
+    if (!IsIn(Byte(2), 0x81, 0xFE) || !IsIn(Byte(3), '0', '9')) return Consume(Replacement, 1);
     const char32_t character = FourByteCharacter({bytes_.data() + at_, 4});
     // Four bytes that stand for no character are one error.
-    Take(character != 0 ? character : Replacement, 4);
+    Consume(character != 0 ? character : Replacement, 4);
   }
 
   /// What an escape sequence of ISO-2022-JP sets; None for bytes that are no such sequence.
   enum class State { None, Ascii, Roman, Katakana, Kanji };
   static State StateOf(QByteArrayView rest);
   void RunWithStates();
-  void TakeIn(State state);
-  void TakeKanji();
+  void ConsumeIn(State state);
+  void ConsumeKanji();
 
   CharsetForm form_;
   const CharsetIndex &index_;
@@ -167,7 +167,7 @@ void Decoder::RunWithStates() {
     const State next = bytes_[at_] == Escape ? StateOf(bytes_.sliced(at_)) : State::None;
     if (next == State::None) {
       isAfterEscape = false;
-      TakeIn(state);
+      ConsumeIn(state);
       continue;
     }
     // Two escape sequences in a row decode to U+FFFD (Encoding Standard, ISO-2022-JP).
@@ -180,33 +180,33 @@ void Decoder::RunWithStates() {
 
 /// Takes one character in the given state; an escape byte that begins no known sequence is an
 /// error.
-void Decoder::TakeIn(State state) {
+void Decoder::ConsumeIn(State state) {
   const unsigned char byte = Byte(0);
-  if (bytes_[at_] == Escape) return Take(Replacement, 1);
+  if (bytes_[at_] == Escape) return Consume(Replacement, 1);
   switch (state) {
     case State::Kanji:
-      return TakeKanji();
+      return ConsumeKanji();
     case State::Katakana:
-      return Take(
+      return Consume(
           IsIn(byte, 0x21, 0x5F) ? static_cast<char32_t>(0xFF61 + byte - 0x21) : Replacement, 1);
     default:
       break;
   }
   const bool isShift = byte == 0x0E || byte == 0x0F;
-  if (!IsAscii(byte) || isShift) return Take(Replacement, 1);
-  if (state == State::Roman && byte == '\\') return Take(0xA5, 1);
-  if (state == State::Roman && byte == '~') return Take(0x203E, 1);
-  Take(byte, 1);
+  if (!IsAscii(byte) || isShift) return Consume(Replacement, 1);
+  if (state == State::Roman && byte == '\\') return Consume(0xA5, 1);
+  if (state == State::Roman && byte == '~') return Consume(0x203E, 1);
+  Consume(byte, 1);
 }
 
 /// JIS X 0208: two bytes.
-void Decoder::TakeKanji() {
+void Decoder::ConsumeKanji() {
   const unsigned char byte = Byte(0);
   if (!IsIn(byte, 0x21, 0x7E) || Left() == 1 || bytes_[at_ + 1] == Escape)
-    return Take(Replacement, 1);
+    return Consume(Replacement, 1);
   const char32_t character =
       IsIn(Byte(1), 0x21, 0x7E) ? index_.pairs[CharsetIndex::Pair(byte | 0x80, Byte(1) | 0x80)] : 0;
-  Take(character != 0 ? character : Replacement, 2);
+  Consume(character != 0 ? character : Replacement, 2);
 }
 
 }  // namespace

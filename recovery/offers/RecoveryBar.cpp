@@ -151,10 +151,10 @@ void RecoveryBar::BuildCaption(QVBoxLayout &column) {
 
 void RecoveryBar::Offer() {
   if (context_.platform.journals == nullptr) return;
-  const QString hindrance = context_.platform.journals->Hindrance();
-  if (!hindrance.isEmpty()) {
+  const QString reason = context_.platform.journals->ReasonUnavailable();
+  if (!reason.isEmpty()) {
     context_.mainWindow.status.Report(
-        QStringLiteral("Recovery is off, unsaved changes cannot be kept: %1").arg(hindrance));
+        QStringLiteral("Recovery is off, unsaved changes cannot be kept: %1").arg(reason));
   }
   Fill();
 }

@@ -41,7 +41,7 @@ class MenuPainterTest : public ::testing::Test {
   }
 
   QImage Shown(Shade shade) {
-    painter.TakeOver(window);
+    painter.PaintMenusOf(window);
     menu->setPalette(PaletteFor(shade));
     menu->resize(menu->sizeHint());
     return menu->grab().toImage();
@@ -68,7 +68,7 @@ TEST_F(MenuPainterTest, DrawsBackgroundPictureAndBorder) {
 
 TEST_F(MenuPainterTest, DrawsTheItemUnderThePointerInTheHighlightColour) {
   painter.SetBackground(Filled(Qt::white));
-  painter.TakeOver(window);
+  painter.PaintMenusOf(window);
   menu->setActiveAction(item);
   const QImage shown = Shown(Shade::Light);
   const QRect place = menu->actionGeometry(item);
@@ -151,7 +151,7 @@ TEST_F(MenuPainterTest, TheProgramsOwnPicturesAreLegibleOnEveryPalette) {
 }
 
 TEST_F(MenuPainterTest, MenusMadeLaterAnywhereInTheWindowArePaintedAlikeAndNoOthers) {
-  painter.TakeOver(window);
+  painter.PaintMenusOf(window);
   QWidget editor(&window);
   QMenu later(&editor);
   later.addAction(QStringLiteral("Undo"));
@@ -169,7 +169,7 @@ TEST_F(MenuPainterTest, PopUpMenusArePaintedAlike) {
   auto *popup = new QMenu(&window);
   popup->addAction(QStringLiteral("Cut"));
   painter.SetBackground(Filled(QColor(250, 240, 200)));
-  painter.TakeOver(window);
+  painter.PaintMenusOf(window);
   popup->setPalette(PaletteFor(Shade::Light));
   popup->resize(popup->sizeHint());
   const QImage shown = popup->grab().toImage();
@@ -179,7 +179,7 @@ TEST_F(MenuPainterTest, PopUpMenusArePaintedAlike) {
 
 TEST_F(MenuPainterTest, AnItemWithoutAPictureKeepsItsPlainLook) {
   painter.SetBackground(Filled(Qt::white));
-  painter.TakeOver(window);
+  painter.PaintMenusOf(window);
   const QImage before = Shown(Shade::Light);
   ImageList images;
   images.insert(QStringLiteral("mnuopen"), IconFor(QStringLiteral("open")));
@@ -201,7 +201,7 @@ TEST_F(MenuPainterTest, TheSweepLooksPicturesUpByTheNameInLowerCase) {
 }
 
 TEST_F(MenuPainterTest, LeavesRoomForShortcuts) {
-  painter.TakeOver(window);
+  painter.PaintMenusOf(window);
   const int before = menu->sizeHint().width();
   item->setShortcut(QKeySequence(QStringLiteral("Ctrl+O")));
   EXPECT_GT(menu->sizeHint().width(), before + 30);

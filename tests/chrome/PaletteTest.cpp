@@ -52,10 +52,10 @@ TEST(HighContrast, OfTheDesktopStaysWhenTheProgramIsDressed) {
   QPalette high(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white,
                 Qt::black, Qt::black);
   QApplication::setPalette(high);
-  DressApplication(*qApp);
+  StyleApplication(*qApp);
   EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::black));
   qputenv("VELOR_PALETTE", "light");
-  DressApplication(*qApp);
+  StyleApplication(*qApp);
   EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(Qt::white));
   qunsetenv("VELOR_PALETTE");
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));

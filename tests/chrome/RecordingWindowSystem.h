@@ -89,7 +89,7 @@ class RecordingWindowSystem final : public WindowSystem {
     calls.append(QStringLiteral("translate %1 to %2").arg(reference, 0, 16).arg(color));
     return color;
   }
-  DeviceContext TakeDeviceContext(WindowHandle window) override {
+  DeviceContext CreateDeviceContext(WindowHandle window) override {
     calls.append(QStringLiteral("take ") + Text({window}));
     return Context;
   }

@@ -20,19 +20,19 @@ constexpr double Later = 0.051;
 
 TEST(AboutAnimation, StepsAtOnceAndThenWheneverMoreThanATwentiethOfASecondHasPassed) {
   AboutAnimation animation;
-  EXPECT_TRUE(animation.Pass(100.0));
-  EXPECT_FALSE(animation.Pass(100.0));
-  EXPECT_FALSE(animation.Pass(100.05));
-  EXPECT_TRUE(animation.Pass(100.051));
-  EXPECT_FALSE(animation.Pass(100.09));
-  EXPECT_TRUE(animation.Pass(100.2));
+  EXPECT_TRUE(animation.StepIfDue(100.0));
+  EXPECT_FALSE(animation.StepIfDue(100.0));
+  EXPECT_FALSE(animation.StepIfDue(100.05));
+  EXPECT_TRUE(animation.StepIfDue(100.051));
+  EXPECT_FALSE(animation.StepIfDue(100.09));
+  EXPECT_TRUE(animation.StepIfDue(100.2));
 }
 
 TEST(AboutAnimation, MidnightCountsAsPassedTime) {
   AboutAnimation animation;
-  animation.Pass(86399.99);
-  EXPECT_TRUE(animation.Pass(0.0));
-  EXPECT_FALSE(animation.Pass(0.03));
+  animation.StepIfDue(86399.99);
+  EXPECT_TRUE(animation.StepIfDue(0.0));
+  EXPECT_FALSE(animation.StepIfDue(0.03));
 }
 
 TEST(AboutAnimation, FillsTwentySquaresStandsForTenStepsAndStartsAgain) {
@@ -40,7 +40,7 @@ TEST(AboutAnimation, FillsTwentySquaresStandsForTenStepsAndStartsAgain) {
   double now = 0;
   for (int round = 0; round < 2; ++round) {
     for (int step = 1; step <= 30; ++step) {
-      ASSERT_TRUE(animation.Pass(now += Later));
+      ASSERT_TRUE(animation.StepIfDue(now += Later));
       const int expected = step < 20 ? step : step < 30 ? 20 : 0;
       EXPECT_EQ(animation.ShownSquares(), expected) << "step " << step;
     }

@@ -78,13 +78,13 @@ TEST_F(LastingFaults, APageThatIsInNoFileAndNoJournalNeverClosesUnasked) {
   FromEachCallOn([this] {
     failAt();
     run->Component().Edit(Changed);
-    modWorkFlow::SaveAndTell(run->context, run->Page(), modWorkFlow::SaveKind::Save);
+    modWorkFlow::SaveAndReport(run->context, run->Page(), modWorkFlow::SaveKind::Save);
     const bool isClosed = run->Page().close();
     run->calls.FailNoMore();
     if (!isClosed) {
       EXPECT_EQ(person.questions, 1);
       EXPECT_EQ(Content(page_), Old);
-      EXPECT_EQ(modWorkFlow::SaveAndTell(run->context, run->Page(), modWorkFlow::SaveKind::Save),
+      EXPECT_EQ(modWorkFlow::SaveAndReport(run->context, run->Page(), modWorkFlow::SaveKind::Save),
                 modWorkFlow::SaveEnd::Safe);
       EXPECT_EQ(Content(page_), Changed.toUtf8());
       return;

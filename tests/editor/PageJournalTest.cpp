@@ -142,7 +142,7 @@ TEST_F(PageJournals, WhereTheSaveAndTheJournalFailNothingClosesUnaskedAndYesClos
   journals.writeFailure = ErrorNumber::DiskFull;
   files.FailNextWrite(ErrorNumber::DiskFull);
   dialogs.ExpectMessage(QStringLiteral("File saving error: 61"));
-  modWorkFlow::SaveAndTell(context, Page(1), modWorkFlow::SaveKind::Save);
+  modWorkFlow::SaveAndReport(context, Page(1), modWorkFlow::SaveKind::Save);
   Answer(MessageAnswer::Cancel);
   EXPECT_FALSE(Page(1).close());
   Answer(MessageAnswer::Yes);

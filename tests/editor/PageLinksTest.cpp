@@ -112,7 +112,7 @@ TEST_F(PageLinks, PicturesAreTakenAlongButNeverOverAnotherFile) {
   const char *html = "<img src=pics/c.png><img src='a b.png'><link href=style.css>";
   const QString to = QStringLiteral("\\other\\new.htm");
   auto links = Broken(html, to);
-  TakePicturesAlong(links, to, files_);
+  CopyPictures(links, to, files_);
   EXPECT_EQ(WithAdapted(QString::fromUtf8(html), links).toStdString(),
             "<img src=../site/sub/pics/c.png><img src='a%20b.png'>"
             "<link href=../site/sub/style.css>");

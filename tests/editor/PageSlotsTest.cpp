@@ -12,23 +12,23 @@ namespace velor {
 TEST(PageSlotsTest, NumbersStartAtOneAndOnlyGrow) {
   PageSlots slots;
   EXPECT_EQ(slots.PageCount(), 0);
-  EXPECT_EQ(slots.Grow(), 1);
-  EXPECT_EQ(slots.Grow(), 2);
+  EXPECT_EQ(slots.AddSlot(), 1);
+  EXPECT_EQ(slots.AddSlot(), 2);
   EXPECT_EQ(slots.PageCount(), 2);
 }
 
 TEST(PageSlotsTest, GrowingKeepsWhatTheSlotsHold) {
   PageSlots slots;
-  slots.Grow();
+  slots.AddSlot();
   slots.Record(1).Path = QStringLiteral("\\site\\a.htm");
-  slots.Grow();
+  slots.AddSlot();
   EXPECT_EQ(slots.Record(1).Path, QStringLiteral("\\site\\a.htm"));
   EXPECT_TRUE(slots.Record(2).Path.isEmpty());
 }
 
 TEST(PageSlotsTest, ANewSlotIsEmptyInAllThreeLists) {
   PageSlots slots;
-  slots.Grow();
+  slots.AddSlot();
   EXPECT_TRUE(slots.Page(1).isNull());
   EXPECT_TRUE(slots.CodeEditor(1).isNull());
   EXPECT_EQ(slots.Record(1).HasFile, False16);
@@ -37,7 +37,7 @@ TEST(PageSlotsTest, ANewSlotIsEmptyInAllThreeLists) {
 TEST(PageSlotsTest, ANumberOutsideTheSlotsIsSubscriptOutOfRange) {
   PageSlots slots;
   EXPECT_EQ(ErrorOf([&] { slots.Record(1); }), ErrorNumber::SubscriptOutOfRange);
-  slots.Grow();
+  slots.AddSlot();
   for (const int number : {-1, 0, 2}) {
     EXPECT_EQ(ErrorOf([&] { slots.Record(number); }), ErrorNumber::SubscriptOutOfRange) << number;
     EXPECT_EQ(ErrorOf([&] { slots.Page(number); }), ErrorNumber::SubscriptOutOfRange) << number;
@@ -48,8 +48,8 @@ TEST(PageSlotsTest, ANumberOutsideTheSlotsIsSubscriptOutOfRange) {
 
 TEST(PageSlotsTest, MoreSlotsThanA16BitNumberCountsOverflow) {
   PageSlots slots;
-  for (int made = 0; made < std::numeric_limits<std::int16_t>::max(); ++made) slots.Grow();
-  EXPECT_EQ(ErrorOf([&] { slots.Grow(); }), ErrorNumber::Overflow);
+  for (int made = 0; made < std::numeric_limits<std::int16_t>::max(); ++made) slots.AddSlot();
+  EXPECT_EQ(ErrorOf([&] { slots.AddSlot(); }), ErrorNumber::Overflow);
   EXPECT_EQ(slots.PageCount(), std::numeric_limits<std::int16_t>::max());
 }
 

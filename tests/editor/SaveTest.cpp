@@ -177,7 +177,7 @@ TEST_F(SaveTest, AFileThatCannotBeReadBackReturnsItsErrorNumber) {
 class SaveCommandTest : public SaveTest {
  protected:
   modWorkFlow::SaveEnd Command(int number, modWorkFlow::SaveKind kind) {
-    return modWorkFlow::SaveAndTell(context, Page(number), kind);
+    return modWorkFlow::SaveAndReport(context, Page(number), kind);
   }
   modWorkFlow::SaveEnd Plain(int number) { return Command(number, modWorkFlow::SaveKind::Save); }
 };

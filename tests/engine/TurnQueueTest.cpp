@@ -43,7 +43,7 @@ class Turns : public ::testing::Test {
   /// A key as the view's input offers it: held back, or on its way to the page.
   void Press(const char *text) {
     const QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QString::fromUtf8(text));
-    if (queue_->HoldBack(key)) return;
+    if (queue_->Defer(key)) return;
     page_.arrived << key.text();
     queue_->NoteInput();
   }

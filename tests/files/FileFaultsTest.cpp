@@ -142,7 +142,7 @@ TEST_F(FileFaults, AProcessThatEndsWhileItWritesInPlaceLeavesTheOldContentAmongT
 
 TEST_F(FileFaults, ReplacedVersionsArePrivateAndSayWhereTheyComeFrom) {
   ReplacedFiles replaced;
-  const QString kept = replaced.Keep("\\site\\my page.htm", "the content");
+  const QString kept = replaced.Store("\\site\\my page.htm", "the content");
   EXPECT_EQ(Content(QFileInfo(kept).fileName()), "the content");
   const QByteArray origin = Content(QFileInfo(kept).fileName() + ".from");
   EXPECT_TRUE(origin.startsWith("/site/my page.htm\n2")) << origin.toStdString();
@@ -155,7 +155,7 @@ TEST_F(FileFaults, ReplacedVersionsArePrivateAndSayWhereTheyComeFrom) {
 TEST_F(FileFaults, OnlyTheNewestReplacedVersionsAreKept) {
   ReplacedFiles replaced;
   for (int i = 0; i < ReplacedFiles::MostVersions + 3; ++i)
-    replaced.Keep("\\site\\a.htm", QByteArray::number(i));
+    replaced.Store("\\site\\a.htm", QByteArray::number(i));
   const QStringList kept = Kept();
   ASSERT_EQ(kept.size(), ReplacedFiles::MostVersions);
   EXPECT_EQ(Content(kept[0]), "3");
@@ -166,7 +166,7 @@ TEST_F(FileFaults, TwoProcessesKeepTheirVersionsSideBySide) {
   constexpr int each = 30;
   const auto keep = [](char who) {
     ReplacedFiles replaced;
-    for (int i = 0; i < each; ++i) replaced.Keep("\\site\\a.htm", who + QByteArray::number(i));
+    for (int i = 0; i < each; ++i) replaced.Store("\\site\\a.htm", who + QByteArray::number(i));
   };
   const pid_t child = fork();
   if (child == 0) {
@@ -189,7 +189,7 @@ TEST_F(FileFaults, APageOnAnotherFileSystemIsKeptAndReplaced) {
   const QString second = other.filePath("second.htm");
   files_.ReplaceAll(ToLogic(page), Old);
   ASSERT_EQ(link(QFile::encodeName(page).constData(), QFile::encodeName(second).constData()), 0);
-  EXPECT_EQ(Content(QFileInfo(ReplacedFiles().Keep(ToLogic(page), Old)).fileName()), Old);
+  EXPECT_EQ(Content(QFileInfo(ReplacedFiles().Store(ToLogic(page), Old)).fileName()), Old);
   files_.ReplaceAll(ToLogic(page), New);
   EXPECT_EQ(files_.ReadAll(ToLogic(second)), New);
 }

@@ -12,16 +12,16 @@ namespace velor {
 namespace {
 
 TEST_F(JournalFilesTest, AStateFolderThatCannotBeMadeIsToldBeforeAnythingIsWritten) {
-  EXPECT_EQ(JournalFiles().Hindrance(), QString());
+  EXPECT_EQ(JournalFiles().ReasonUnavailable(), QString());
   EXPECT_TRUE(QDir(StateFolder() + "/recovery").isEmpty());
   qputenv("XDG_STATE_HOME", "/proc/no-such-folder");
-  EXPECT_NE(JournalFiles().Hindrance(), QString());
+  EXPECT_NE(JournalFiles().ReasonUnavailable(), QString());
 }
 
 TEST_F(JournalFilesTest, AStateFolderThatIsAFileIsToldToo) {
   QFile file(folder_.filePath("velor-web-creator"));
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  EXPECT_NE(JournalFiles().Hindrance(), QString());
+  EXPECT_NE(JournalFiles().ReasonUnavailable(), QString());
   EXPECT_TRUE(JournalFiles().Abandoned().empty());
 }
 
@@ -29,7 +29,7 @@ TEST_F(JournalFilesTest, AFullDiskIsToldBeforeAnythingIsWritten) {
   FaultyCalls calls;
   JournalFiles journals(calls);
   calls.Fail(FaultyCalls::Call::Write, ENOSPC);
-  EXPECT_TRUE(journals.Hindrance().startsWith(Description(61)));
+  EXPECT_TRUE(journals.ReasonUnavailable().startsWith(Description(61)));
   EXPECT_TRUE(QDir(StateFolder() + "/recovery").isEmpty());
 }
 
@@ -37,7 +37,7 @@ TEST_F(JournalFilesTest, AnotherUsersFolderIsNotUsed) {
   if (geteuid() != 0) return;  // nobody else can make one
   ASSERT_TRUE(QDir().mkpath(StateFolder() + "/recovery"));
   ASSERT_EQ(chown(QFile::encodeName(StateFolder() + "/recovery").constData(), 65534, 65534), 0);
-  EXPECT_NE(JournalFiles().Hindrance(), QString());
+  EXPECT_NE(JournalFiles().ReasonUnavailable(), QString());
 }
 
 /// What lies in a run's folder in a journal's place.

@@ -15,7 +15,7 @@ namespace velor {
 /// Journals in memory.
 class FakeJournals : public Journals {
  public:
-  QString Hindrance() override { return hindrance; }
+  QString ReasonUnavailable() override { return hindrance; }
   std::unique_ptr<Journal> Begin() override;
   std::vector<AbandonedPage> Abandoned() override;
   JournalReading Read(const QString &id) override;
@@ -48,8 +48,8 @@ class FakeJournals : public Journals {
 /// Replaced versions in memory: "path: content".
 class FakeReplacedVersions : public ReplacedVersions {
  public:
-  QString Keep(const QString &path, const QByteArray &content) override {
-    if (failure) throw RuntimeError::Of(*failure, QStringLiteral("Keep"), path);
+  QString Store(const QString &path, const QByteArray &content) override {
+    if (failure) throw RuntimeError::Of(*failure, QStringLiteral("Store"), path);
     kept << path + QStringLiteral(": ") + QString::fromUtf8(content);
     return QStringLiteral("/kept/%1").arg(kept.size());
   }

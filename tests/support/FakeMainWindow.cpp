@@ -161,8 +161,8 @@ void FakeMainWindow::PopUpContextMenu(QPoint screenPosition) {
                   {QString::number(screenPosition.x()), QString::number(screenPosition.y())}));
 }
 
-void FakeMainWindow::TakeDroppedFiles(const QStringList &paths, frmMain *) {
-  Note(log_, Call("TakeDroppedFiles", {paths.join(QLatin1Char(';'))}));
+void FakeMainWindow::OpenDroppedFiles(const QStringList &paths, frmMain *) {
+  Note(log_, Call("OpenDroppedFiles", {paths.join(QLatin1Char(';'))}));
 }
 
 }  // namespace velor

@@ -75,7 +75,7 @@ class FakeMainWindow final : public ChildWindows,
   void Refresh() override;
 
   void PopUpContextMenu(QPoint screenPosition) override;
-  void TakeDroppedFiles(const QStringList &paths, frmMain *page) override;
+  void OpenDroppedFiles(const QStringList &paths, frmMain *page) override;
   void ResetElementInspection() override;
 
   /// The form in which pages get it.

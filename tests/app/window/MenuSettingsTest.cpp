@@ -24,7 +24,7 @@ class RecordingPainter final : public MenuPainter {
   void SetHighlightColor(std::int32_t color) override { Color(u"highlight", color); }
   void SetHighlightTextColor(std::int32_t color) override { Color(u"highlight text", color); }
   void SetImageList(const ImageList &) override {}
-  void TakeOver(QWidget &) override {}
+  void PaintMenusOf(QWidget &) override {}
   void SetItemPicture(const QString &, const QString &) override {}
 
  private:

@@ -63,7 +63,7 @@ TEST_F(PageWindowsTest, AClickOnATabBringsItsPageToTheFront) {
 
 TEST_F(PageWindowsTest, ATabOfAnEmptySlotMakesItsWindow) {
   NewPage();
-  window.Context().pages.Grow();
+  window.Context().pages.AddSlot();
   Parts().tabs.Add(QStringLiteral("key2"), 1);
   ClickTab(1);
   ASSERT_FALSE(window.Context().pages.Page(2).isNull());

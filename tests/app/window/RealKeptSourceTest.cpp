@@ -94,7 +94,7 @@ TEST_F(RealKeptSource, FilesThatAreNoPagesAreNotOpenedAndSaidToBeWhatTheyAre) {
     EXPECT_TRUE(window.statusBar()->currentMessage().contains(QString::fromLatin1(file.words)))
         << window.statusBar()->currentMessage().toStdString();
     window.statusBar()->clearMessage();
-    window.Router().TakeDroppedFiles({Logic(PageFile)}, nullptr);
+    window.Router().OpenDroppedFiles({Logic(PageFile)}, nullptr);
     EXPECT_TRUE(window.statusBar()->currentMessage().contains(QString::fromLatin1(file.words)));
     EXPECT_EQ(Tabs().count(), 0);
     EXPECT_EQ(Bytes(PageFile), file.bytes);

@@ -169,7 +169,7 @@ TEST_F(RealPageFiles, EverySaveOfADroppedPageGoesToItsOwnFile) {
   const QString other = QStringLiteral("other.htm");
   Open(other, Plain);
   Write(PageFile, Plain);
-  window.Router().TakeDroppedFiles({Logic(PageFile)}, nullptr);
+  window.Router().OpenDroppedFiles({Logic(PageFile)}, nullptr);
   frmMain &page = *window.Context().pages.Page(2);
   ASSERT_TRUE(WaitFor([&] { return page.PendingAction.isEmpty(); }));
   PutCaret(page, QStringLiteral("p"));

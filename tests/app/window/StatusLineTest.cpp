@@ -64,7 +64,7 @@ TEST(StatusLineTest, NoticesOnOtherPagesGoWhenAPageComesAndThoseOfTheProgramStay
   StatusLine bar(nullptr);
   bar.ReportOn(0, QStringLiteral("program"));
   bar.ReportOn(1, QStringLiteral("page"));
-  bar.PageCame(2);
+  bar.PageActivated(2);
   EXPECT_EQ(bar.currentMessage(), QStringLiteral("program"));
   EXPECT_FALSE(bar.HasNotice()) << "none about the page in front";
 }

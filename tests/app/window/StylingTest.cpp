@@ -81,8 +81,8 @@ class NotingMenuPainter final : public MenuPainter {
   void SetHighlightColor(std::int32_t) override {}
   void SetHighlightTextColor(std::int32_t) override {}
   void SetImageList(const ImageList &) override { Note(log_, QStringLiteral("SetImageList")); }
-  void TakeOver(QWidget &window) override {
-    Note(log_, QStringLiteral("TakeOver(%1)").arg(window.objectName()));
+  void PaintMenusOf(QWidget &window) override {
+    Note(log_, QStringLiteral("PaintMenusOf(%1)").arg(window.objectName()));
   }
   void SetItemPicture(const QString &, const QString &) override {}
 
@@ -100,7 +100,7 @@ TEST(MainWindowStyling, FlattensComboBoxesThenThinsEdgesThenGivesTheMenusTheirPi
   EXPECT_EQ(calls,
             (CallLog{QStringLiteral("FlatComboSweep(MfrmProgram)"),
                      QStringLiteral("ThinEdgeSweep(MfrmProgram)"), QStringLiteral("SetImageList"),
-                     QStringLiteral("TakeOver(MfrmProgram)")}));
+                     QStringLiteral("PaintMenusOf(MfrmProgram)")}));
 }
 
 TEST_F(StylingTest, TheElementDialogHasThinEdgesAndFlatComboBoxes) {

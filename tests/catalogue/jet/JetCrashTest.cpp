@@ -59,9 +59,9 @@ class KillingStorage : public JetStorage {
     Step();
     real_->Sync();
   }
-  void KeepModified(std::optional<qint64> nanoseconds) override {
+  void PinModificationTime(std::optional<qint64> nanoseconds) override {
     Step();
-    real_->KeepModified(nanoseconds);
+    real_->PinModificationTime(nanoseconds);
   }
   void Backup() override {
     Step();

@@ -40,7 +40,9 @@ class InterruptedStorage final : public JetStorage {
   }
   void Truncate(qint64 bytes) override { real_->Truncate(bytes); }
   void Sync() override { real_->Sync(); }
-  void KeepModified(std::optional<qint64> time) override { real_->KeepModified(time); }
+  void PinModificationTime(std::optional<qint64> time) override {
+    real_->PinModificationTime(time);
+  }
   void Backup() override { real_->Backup(); }
   JournalState FindJournal() override { return real_->FindJournal(); }
   qint64 JournalModified() override { return real_->JournalModified(); }

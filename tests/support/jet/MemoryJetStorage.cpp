@@ -26,7 +26,7 @@ void MemoryJetStorage::Truncate(qint64 bytes) {
   Touch();
 }
 
-void MemoryJetStorage::KeepModified(std::optional<qint64> nanoseconds) {
+void MemoryJetStorage::PinModificationTime(std::optional<qint64> nanoseconds) {
   kept_ = nanoseconds;
   if (!kept_) ++memory_.modified;
 }

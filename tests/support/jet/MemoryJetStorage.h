@@ -34,7 +34,7 @@ class MemoryJetStorage : public JetStorage {
   void WritePage(jet::PageNumber number, const jet::Page &page) override;
   void Truncate(qint64 bytes) override;
   void Sync() override {}
-  void KeepModified(std::optional<qint64> nanoseconds) override;
+  void PinModificationTime(std::optional<qint64> nanoseconds) override;
   void Backup() override { memory_.backup = memory_.file; }
 
   JournalState FindJournal() override {

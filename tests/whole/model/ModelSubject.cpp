@@ -248,7 +248,7 @@ class Subject {
   void Drop(const QJsonArray &paths) {
     QStringList logic;
     for (const QJsonValue &path : paths) logic.append(ToLogic(path.toString()));
-    window_.Router().TakeDroppedFiles(logic, ActivePage());
+    window_.Router().OpenDroppedFiles(logic, ActivePage());
   }
   /// At the start of the page's first paragraph.
   void Type(frmMain &page, const QString &word) {
