@@ -31,7 +31,8 @@ const written = (...names) => Object.fromEntries(names.map((name) => [name, 'wri
 
 // What the build joins; the others are scripts by themselves.
 const modules = [
-  'engine/bridge/**/*.js', 'tests/engine/bridge/inside.js', 'tools/editing-suite/commands.js'];
+  'engine/bridge/**/*.js', 'tests/engine/bridge/inside.js', 'tools/editing-suite/commands.js',
+  'tools/page-check/edits.js'];
 
 export default [
   scripts(modules, 'module',

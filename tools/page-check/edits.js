@@ -1,156 +1,156 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // The edits of a page check, each at the place with a number (from 0). An edit answers false where
-// the page has no such place.
-(() => {
-  'use strict';
-  const word = /[\p{L}\p{N}]{2,}/u;
-  const closed = 'script, style, title, textarea, select, option, svg, math, iframe, noframes, ' +
-    'noembed, xmp, plaintext, template, object, button';
+// the page has no such place. A module: the build joins it with the bridge's names of commands.
+import { Command } from '../../engine/bridge/talk/vocabulary.js';
 
-  const texts = () => {
-    const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
-    const found = [];
-    while (walker.nextNode()) {
-      const text = /** @type {Text} */ (walker.currentNode);
-      if (word.test(text.data) && !text.parentElement.closest(closed)) found.push(text);
+const word = /[\p{L}\p{N}]{2,}/u;
+const closed = 'script, style, title, textarea, select, option, svg, math, iframe, noframes, ' +
+  'noembed, xmp, plaintext, template, object, button';
+
+const texts = () => {
+  const walker = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
+  const found = [];
+  while (walker.nextNode()) {
+    const text = /** @type {Text} */ (walker.currentNode);
+    if (word.test(text.data) && !text.parentElement.closest(closed)) found.push(text);
+  }
+  return found;
+};
+const elements = (selector) => [...document.body.querySelectorAll(selector)]
+  .filter((element) => !element.closest('svg, math, template'));
+const paragraphs = () => elements('p, li, h1, h2, h3, h4, td, dd, blockquote, div')
+  .filter((element) => word.test(element.textContent) && !element.querySelector('p, table, div'));
+
+const select = (node, start, end = start) => {
+  const range = document.createRange();
+  range.setStart(node, start);
+  range.setEnd(node, end);
+  getSelection().removeAllRanges();
+  getSelection().addRange(range);
+};
+const firstWord = (text) => {
+  const { index, 0: { length } } = word.exec(text.data);
+  return { start: index, end: index + length };
+};
+const inParagraph = (paragraph) => {
+  const text = texts().find((each) => paragraph.contains(each));
+  if (text) select(text, firstWord(text).start);
+  return Boolean(text);
+};
+
+const inline = 'a, abbr, b, big, code, em, font, i, img, s, small, span, strong, sub, sup, tt, u';
+// The words of a text with their ends as offsets.
+const wordEnds = (text) => [...text.data.matchAll(/[\p{L}\p{N}]{2,}/gu)]
+  .map(({ index, 0: { length } }) => index + length);
+const isInline = (node) => node?.nodeType === Node.ELEMENT_NODE && node.matches(inline);
+const isLastIn = (cell, text) => cell && !texts().some((each) => cell.contains(each) &&
+  text.compareDocumentPosition(each) & Node.DOCUMENT_POSITION_FOLLOWING);
+
+// Where a person may put the caret, by what makes such a place hard to save: each a list of
+// [text, offset].
+const kindsOfPlace = {
+  wordEnd: (text) => wordEnds(text).slice(0, 1),
+  lineEnd: (text) => [...text.data.matchAll(/[^\s](?=[ \t]*\n)/g)].map(({ index }) => index + 1),
+  indented: (text) => [...text.data.matchAll(/\n[ \t]+[\p{L}\p{N}]{2,}/gu)]
+    .map(({ index, 0: { length } }) => index + length),
+  textEnd: (text) => {
+    const end = text.data.trimEnd().length;
+    return text.nextSibling === null || isInline(text.nextSibling) ? [end] : [];
+  },
+  behindInline: (text) => (isInline(text.previousSibling) && /^\S/.test(text.data) ? [0] : []),
+  cellEnd: (text) => (isLastIn(text.parentElement.closest('td, th'), text)
+    ? [text.data.trimEnd().length] : []),
+};
+
+// Numbers below `count`, each once, so that any first few of them lie evenly.
+const evenly = (count) => {
+  const bits = Math.max(1, Math.ceil(Math.log2(count)));
+  const reversed = (number) => {
+    let result = 0;
+    for (let bit = 0; bit < bits; ++bit) result = result * 2 + ((number >> bit) & 1);
+    return result;
+  };
+  return Array.from({ length: 2 ** bits }, (_, number) => reversed(number))
+    .filter((number) => number < count);
+};
+
+// All caret places: the kinds take turns, the places of a kind lie evenly over the page.
+const caretPlaces = () => {
+  const shown = texts().filter((text) => text.parentElement.getClientRects().length > 0);
+  const lists = Object.values(kindsOfPlace).map((offsets) => {
+    const all = shown.flatMap((text) => offsets(text).map((offset) => [text, offset]));
+    return evenly(all.length).map((number) => all[number]);
+  });
+  const places = [];
+  for (let turn = 0; lists.some((list) => turn < list.length); ++turn) {
+    for (const list of lists) {
+      if (turn < list.length) places.push(list[turn]);
     }
-    return found;
-  };
-  const elements = (selector) => [...document.body.querySelectorAll(selector)]
-    .filter((element) => !element.closest('svg, math, template'));
-  const paragraphs = () => elements('p, li, h1, h2, h3, h4, td, dd, blockquote, div')
-    .filter((element) => word.test(element.textContent) && !element.querySelector('p, table, div'));
+  }
+  return places;
+};
+// The keys come from the program, as a person's do.
+const atCaret = [caretPlaces, ([text, offset]) => {
+  select(text, offset);
+  return true;
+}];
 
-  const select = (node, start, end = start) => {
-    const range = document.createRange();
-    range.setStart(node, start);
-    range.setEnd(node, end);
-    getSelection().removeAllRanges();
-    getSelection().addRange(range);
-  };
-  const firstWord = (text) => {
-    const { index, 0: { length } } = word.exec(text.data);
-    return { start: index, end: index + length };
-  };
-  const inParagraph = (paragraph) => {
-    const text = texts().find((each) => paragraph.contains(each));
-    if (text) select(text, firstWord(text).start);
-    return Boolean(text);
-  };
-
-  const inline = 'a, abbr, b, big, code, em, font, i, img, s, small, span, strong, sub, sup, tt, u';
-  // The words of a text with their ends as offsets.
-  const wordEnds = (text) => [...text.data.matchAll(/[\p{L}\p{N}]{2,}/gu)]
-    .map(({ index, 0: { length } }) => index + length);
-  const isInline = (node) => node?.nodeType === Node.ELEMENT_NODE && node.matches(inline);
-  const isLastIn = (cell, text) => cell && !texts().some((each) => cell.contains(each) &&
-    text.compareDocumentPosition(each) & Node.DOCUMENT_POSITION_FOLLOWING);
-
-  // Where a person may put the caret, by what makes such a place hard to save: each a list of
-  // [text, offset].
-  const kindsOfPlace = {
-    wordEnd: (text) => wordEnds(text).slice(0, 1),
-    lineEnd: (text) => [...text.data.matchAll(/[^\s](?=[ \t]*\n)/g)].map(({ index }) => index + 1),
-    indented: (text) => [...text.data.matchAll(/\n[ \t]+[\p{L}\p{N}]{2,}/gu)]
-      .map(({ index, 0: { length } }) => index + length),
-    textEnd: (text) => {
-      const end = text.data.trimEnd().length;
-      return text.nextSibling === null || isInline(text.nextSibling) ? [end] : [];
-    },
-    behindInline: (text) => (isInline(text.previousSibling) && /^\S/.test(text.data) ? [0] : []),
-    cellEnd: (text) => (isLastIn(text.parentElement.closest('td, th'), text)
-      ? [text.data.trimEnd().length] : []),
-  };
-
-  // Numbers below `count`, each once, so that any first few of them lie evenly.
-  const evenly = (count) => {
-    const bits = Math.max(1, Math.ceil(Math.log2(count)));
-    const reversed = (number) => {
-      let result = 0;
-      for (let bit = 0; bit < bits; ++bit) result = result * 2 + ((number >> bit) & 1);
-      return result;
-    };
-    return Array.from({ length: 2 ** bits }, (_, number) => reversed(number))
-      .filter((number) => number < count);
-  };
-
-  // All caret places: the kinds take turns, the places of a kind lie evenly over the page.
-  const caretPlaces = () => {
-    const shown = texts().filter((text) => text.parentElement.getClientRects().length > 0);
-    const lists = Object.values(kindsOfPlace).map((offsets) => {
-      const all = shown.flatMap((text) => offsets(text).map((offset) => [text, offset]));
-      return evenly(all.length).map((number) => all[number]);
-    });
-    const places = [];
-    for (let turn = 0; lists.some((list) => turn < list.length); ++turn) {
-      for (const list of lists) {
-        if (turn < list.length) places.push(list[turn]);
-      }
-    }
-    return places;
-  };
-  // The keys come from the program, as a person's do.
-  const atCaret = [caretPlaces, ([text, offset]) => {
-    select(text, offset);
+const edits = {
+  'type': atCaret,
+  'enter': atCaret,
+  'backspace': atCaret,
+  'delete': atCaret,
+  'paste': atCaret,
+  'delete-word': [texts, (text) => {
+    const { start, end } = firstWord(text);
+    select(text, start, end);
     return true;
-  }];
+  }],
+  'insert-word': [texts, (text) => {
+    select(text, firstWord(text).end);
+    return document.execCommand('insertText', false, ' inserted');
+  }],
+  'bold': [texts, (text) => {
+    const { start, end } = firstWord(text);
+    select(text, start, end);
+    return velor.exec(Command.Bold);
+  }],
+  'image': [paragraphs, (paragraph) => {
+    // Between two cells no picture can stand.
+    const { parentNode } = paragraph;
+    if (paragraph.matches('td')) select(paragraph, 0);
+    else select(parentNode, [...parentNode.childNodes].indexOf(paragraph));
+    velor.pasteHTML('<img src="new.gif" alt="new">');
+    return true;
+  }],
+  'delete-paragraph': [paragraphs, (paragraph) => {
+    paragraph.remove();
+    return true;
+  }],
+  'table-row': [() => elements('tr'), (row) => {
+    const fresh = row.cloneNode(false);
+    fresh.removeAttribute('id');
+    for (const cell of row.cells) fresh.insertCell().textContent = `cell ${cell.cellIndex}`;
+    row.after(fresh);
+    return true;
+  }],
+  'split': [texts, (text) => {
+    select(text, firstWord(text).end);
+    return document.execCommand('insertParagraph');
+  }],
+  'center': [paragraphs,
+    (paragraph) => inParagraph(paragraph) && velor.exec(Command.JustifyCenter)],
+  'attribute': [() => elements('p, a, img, td, div, table, h1, h2, h3, li, span, font'),
+    (element) => {
+      element.setAttribute('title', 'a "new" title');
+      return true;
+    }],
+};
 
-  const edits = {
-    'type': atCaret,
-    'enter': atCaret,
-    'backspace': atCaret,
-    'delete': atCaret,
-    'paste': atCaret,
-    'delete-word': [texts, (text) => {
-      const { start, end } = firstWord(text);
-      select(text, start, end);
-      return true;
-    }],
-    'insert-word': [texts, (text) => {
-      select(text, firstWord(text).end);
-      return document.execCommand('insertText', false, ' inserted');
-    }],
-    'bold': [texts, (text) => {
-      const { start, end } = firstWord(text);
-      select(text, start, end);
-      return velor.exec(5000);
-    }],
-    'image': [paragraphs, (paragraph) => {
-      // Between two cells no picture can stand.
-      const { parentNode } = paragraph;
-      if (paragraph.matches('td')) select(paragraph, 0);
-      else select(parentNode, [...parentNode.childNodes].indexOf(paragraph));
-      velor.pasteHTML('<img src="new.gif" alt="new">');
-      return true;
-    }],
-    'delete-paragraph': [paragraphs, (paragraph) => {
-      paragraph.remove();
-      return true;
-    }],
-    'table-row': [() => elements('tr'), (row) => {
-      const fresh = row.cloneNode(false);
-      fresh.removeAttribute('id');
-      for (const cell of row.cells) fresh.insertCell().textContent = `cell ${cell.cellIndex}`;
-      row.after(fresh);
-      return true;
-    }],
-    'split': [texts, (text) => {
-      select(text, firstWord(text).end);
-      return document.execCommand('insertParagraph');
-    }],
-    'center': [paragraphs, (paragraph) => inParagraph(paragraph) && velor.exec(5024)],
-    'attribute': [() => elements('p, a, img, td, div, table, h1, h2, h3, li, span, font'),
-      (element) => {
-        element.setAttribute('title', 'a "new" title');
-        return true;
-      }],
-  };
-
-  globalThis.velorPageCheck = (kind, number) => {
-    if (document.body?.tagName !== 'BODY') return false;
-    const [places, edit] = edits[kind];
-    const place = places()[number];
-    return place !== undefined && edit(place) !== false;
-  };
-})();
+globalThis.velorPageCheck = (kind, number) => {
+  if (document.body?.tagName !== 'BODY') return false;
+  const [places, edit] = edits[kind];
+  const place = places()[number];
+  return place !== undefined && edit(place) !== false;
+};
