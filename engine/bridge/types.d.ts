@@ -55,6 +55,12 @@ interface SourcePlace { name: string; ordinal: number; offset: number }
 
 /** A direction in the document, by the property that leads there; page/dom.js has both. */
 type Side = 'previousSibling' | 'nextSibling';
+/** An end of a range or of a paragraph. */
+type Edge = 'start' | 'end';
+/** An end of a node's content, by the property that leads there. */
+type EdgeChild = 'firstChild' | 'lastChild';
+/** A test of a node. */
+type Test = (node: AnyNode) => boolean;
 
 /** A character of a text. */
 interface Character { node: Text; index: number; object?: undefined }
@@ -134,17 +140,19 @@ interface CommandRow {
 }
 
 /**
- * What formats/formats.js says of one character format. A *value* is true or false for bold, italic
- * and underline, else a text: a font's name, a size ('14' for points,
- * '15 px'), '#RRGGBB'.
+ * The value of a character format: true or false for bold, italic and underline, else a text: a
+ * font's name, a size ('14' for points, '15 px'), '#RRGGBB'.
  */
+type FormatValue = string | boolean;
+
+/** What formats/formats.js says of one character format. */
 interface FormatEntry {
   /**
    * The value that text in an element is shown with, by the engine's computed styles. `known`: a
    * map that the caller gives to all calls of one pass over an unchanged page; results are kept
    * there.
    */
-  read(element: HTMLElement, known?: Map<any, any>): any;
+  read(element: HTMLElement, known?: Map<Node, unknown>): FormatValue;
 
   // Where the page can have the format.
 
@@ -160,14 +168,14 @@ interface FormatEntry {
   // How it is written to the page.
 
   /** A value as FONT's attribute has it; the value itself if left out. */
-  inAttribute?(value: any): any;
+  inAttribute?(value: FormatValue): FormatValue | number;
   /** A value as the inline style has it; the value itself if left out. */
-  inStyle?(value: any): string;
+  inStyle?(value: FormatValue): string;
   /**
    * A new element to put around text, by the page's dialect; null where no element around the text
    * can give it the value. If left out: FONT with the attribute, or SPAN with the style.
    */
-  write?(value: any): HTMLElement | null;
+  write?(value: FormatValue): HTMLElement | null;
   /**
    * The same for text within an element of the tag that `write` makes: another B would not help.
    */
@@ -187,18 +195,18 @@ interface FormatEntry {
    * The value of a text that the program gives; '' for one that is none. The text itself if left
    * out.
    */
-  parse?(value: string): any;
+  parse?(value: string): FormatValue;
 }
 
 /** A character format: its entry with what is left out there, and what follows from it. */
 interface Format extends FormatEntry {
-  inAttribute(value: any): any;
-  write(value: any): HTMLElement | null;
-  parse(value: string): any;
+  inAttribute(value: FormatValue): FormatValue | number;
+  write(value: FormatValue): HTMLElement | null;
+  parse(value: string): FormatValue;
   /** True for two values that are the same. */
-  same(one: any, other: any): boolean;
+  same(one: FormatValue, other: FormatValue): boolean;
   /** True for an element that gives the format to text in it, by its tag, attribute or style. */
-  carries(element: any): boolean;
+  carries(element: AnyNode): boolean;
   /** A new empty element that gives the same format as the one given does, and nothing else. */
   shell(element: HTMLElement): HTMLElement;
   /** Takes the format off an element, which goes where it was nothing else. */
@@ -207,6 +215,8 @@ interface Format extends FormatEntry {
 
 /** A position in the viewport, in its pixels. */
 interface Position { x: number; y: number }
+/** The same as mouse events have it. */
+interface Pointer { clientX: number; clientY: number }
 
 /** A box in the viewport, in its pixels. */
 interface Box {
@@ -217,6 +227,9 @@ interface Box {
   width?: number;
   height?: number;
 }
+
+/** A picture that is drawn over the page (a CSS image), with its box in the viewport. */
+interface Layer extends Position { image: string; width: number; height: number; repeat?: string }
 
 /**
  * A change of an object's size and position, in its own pixels: by how much its left upper corner
@@ -268,4 +281,10 @@ declare var velor: object;
 // What Chromium has and the checker's library does not know.
 interface CSSStyleDeclaration { zoom: string }
 interface CSSStyleSheet { replaceSync(text: string): void }
+// What only some kinds of rules have.
+interface CSSRule {
+  styleSheet?: CSSStyleSheet;
+  cssRules?: CSSRuleList;
+  style?: CSSStyleDeclaration;
+}
 interface Array<T> { findLastIndex(fits: (each: T) => boolean): number }

@@ -30,7 +30,7 @@ unchecked_scripts() {
 }
 
 failed=0
-projects=(engine/bridge engine/bridge/page tests/engine/bridge tools)
+projects=(engine/bridge tests/engine/bridge tools)
 for project in "${projects[@]}"; do tsc -p "$project" || failed=1; done
 [ -z "$(unchecked_scripts)" ] || failed=1
 install_eslint

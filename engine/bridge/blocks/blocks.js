@@ -11,7 +11,8 @@ import { become, changeUnits, readUnits, unitsIn } from '../page/units.js';
 /**
  * The block formats, in the order in which lists show them: the published name, the tag of the
  * block and, for an item's format, the tag of the list around it.
- * @type {{ name: string, element: string, list?: string }[]}
+ * @typedef {{ name: string, element: string, list?: string }} BlockFormat
+ * @type {BlockFormat[]}
  */
 export const formats = [
   { name: 'Normal', element: 'P' },
@@ -31,13 +32,16 @@ export const formats = [
   { name: 'Definition', element: 'DD', list: 'DL' },
   { name: 'Paragraph', element: 'P' },
 ];
+/** @param {string} name */
 const byName = (name) => formats.find((each) => each.name.toLowerCase() === name.toLowerCase());
 
 // The name of the format that an element gives; null or undefined for none.
+/** @param {AnyNode} element */
 function nameAt(element) {
   const { tagName, parentNode } = element;
   if (/^(LISTING|PLAINTEXT|XMP)$/.test(tagName)) return 'Formatted';
   if (tagName === 'P') return null;
+  /** @param {BlockFormat} each */
   const fits = (each) => each.element === tagName &&
     (tagName !== 'LI' || each.list === parentNode.tagName);
   return formats.find(fits)?.name;
@@ -58,6 +62,11 @@ export function read(unit) {
   return 'Normal';
 }
 
+/** @type {(anchor: Anchor) => anchor is TextAnchor} */
+const isInText = (anchor) => 'node' in anchor;
+/** @param {SavedSelection} [saved] */
+const textAnchorsOf = (saved) => (saved ? [saved.anchor, saved.focus].filter(isInText) : []);
+
 /**
  * Makes breaks of the line ends in an element that is no preformatted one any more: line ends show
  * in such text only.
@@ -65,6 +74,7 @@ export function read(unit) {
  * @param {SavedSelection} [saved] its anchors move along
  */
 export function breakLines(element, saved) {
+  /** @param {Text} text */
   const goesOn = (text) => {
     if (text.length) return true;
     let at = dom.nextSkippingChildren(text);
@@ -73,8 +83,7 @@ export function breakLines(element, saved) {
     }
     return Boolean(at) && element.contains(at);
   };
-  /** @type {any[]} */
-  const anchors = saved ? [saved.anchor, saved.focus] : [];
+  const anchors = textAnchorsOf(saved);
   for (let text of dom.textsUnder(element)) {
     for (let at = text.data.indexOf('\n'); at >= 0; at = text.data.indexOf('\n')) {
       const rest = text.splitText(at);
@@ -93,14 +102,22 @@ export function breakLines(element, saved) {
 
 // Leaves of white space what was seen of it, in an element that becomes preformatted: there all of
 // it shows. The anchors of `saved` move along.
+/**
+ * @param {Element} element
+ * @param {SavedSelection} saved
+ */
 function collapseBlanks(element, saved) {
-  const anchors = saved ? [saved.anchor, saved.focus] : [];
+  const anchors = textAnchorsOf(saved);
   const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
   while (walker.nextNode()) {
     const text = /** @type {Text} */ (walker.currentNode);
     if (!dom.ancestor(text, dom.isAtom)) collapseText(text, anchors);
   }
 }
+/**
+ * @param {Text} text
+ * @param {TextAnchor[]} anchors
+ */
 function collapseText(text, anchors) {
   for (let at = text.length - 1; at >= 0; at--) {
     if (!isBlank({ node: text, index: at })) continue;
@@ -114,6 +131,11 @@ function collapseText(text, anchors) {
 }
 
 // Gives one paragraph the block of a format; answers that block, null where nothing is to be done.
+/**
+ * @param {Unit} unit
+ * @param {BlockFormat} format
+ * @param {SavedSelection} saved
+ */
 function becomeParagraph(unit, { name, element: tag }, saved) {
   const { block, container } = unit;
   if (block?.tagName === tag) return block;
@@ -132,6 +154,10 @@ function becomeParagraph(unit, { name, element: tag }, saved) {
 
 // Joins blocks that are neighbours into one, as lines of it (a preformatted text, an address).
 // `lineEnd` makes what goes between two lines.
+/**
+ * @param {AnyNode[]} blocks
+ * @param {() => ChildNode} lineEnd
+ */
 function joinLines(blocks, lineEnd) {
   for (const [index, block] of blocks.entries()) {
     const above = blocks[index - 1];
@@ -150,6 +176,10 @@ const lineEnds = new Map(/** @type {[tag: string, make: () => ChildNode][]} */ (
 
 // Makes a heading, address or preformatted text a plain paragraph, or bare text of its item where
 // it is all of that: an item is no heading.
+/**
+ * @param {Unit} unit
+ * @param {SavedSelection} saved
+ */
 function becomePlain({ block }, saved) {
   if (!block || !dom.isParagraph(block) || /^(P|DT)$/.test(block.tagName)) return;
   const preformatted = dom.isPreformatted(block);
@@ -170,7 +200,10 @@ export const takesFormat = ({ object }) =>
 
 // Makes items of the selected paragraphs. Those of definition lists in other lists, and the other
 // way round, leave theirs one level at a time.
-/** @param {{ name: string, element: string, list?: string }} format */
+/**
+ * @param {BlockFormat} format
+ * @param {SavedSelection} saved
+ */
 function makeList({ name, list, element }, saved) {
   for (let level = 0; level < 50; level++) {
     selection.restore(saved);
@@ -191,6 +224,11 @@ export function apply(name) {
   const saved = selection.save();
   changeUnits(saved, (units) => applyTo(units, format, saved));
 }
+/**
+ * @param {Unit[]} found
+ * @param {BlockFormat} format
+ * @param {SavedSelection} saved
+ */
 function applyTo(found, format, saved) {
   const units = lists.wrapStrayText(found, saved).filter(takesFormat);
   if (!units.length) return;

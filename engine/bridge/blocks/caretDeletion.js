@@ -4,6 +4,7 @@
 // which is joined to its neighbour, and beside a picture, an island and the like.
 import { deleteToLine } from './deletion.js';
 import { cellOf, isAtEdge, isEmptyParagraph, sameUnit, unitAt } from './extent.js';
+import { isItem, itemOf } from './items.js';
 import { dropBlock, dropEmptyBlocks, join } from './joining.js';
 import * as lists from './lists.js';
 import * as blanks from '../page/blanks.js';
@@ -13,6 +14,7 @@ import * as selection from '../page/selection.js';
 import { unitsIn } from '../page/units.js';
 
 // True for an element without content that takes no room on the screen.
+/** @param {AnyNode} node */
 const isNothing = (node) => dom.isElement(node) && !dom.hasContent(node) &&
   node.getBoundingClientRect().height * node.getBoundingClientRect().width === 0;
 // Drops what is nothing between two paragraphs, less what may be a link's target.
@@ -29,7 +31,11 @@ function dropNothings(first, second) {
   }
 }
 
-/** The nearest shown leaf before or after a node; null at the edge of its cell. */
+/**
+ * The nearest shown leaf before or after a node; null at the edge of its cell.
+ * @param {AnyNode} node
+ * @param {Side} side
+ */
 export function leafBeside(node, side) {
   const cell = cellOf(node);
   for (let at = node; at && at !== cell; at = at.parentNode) {
@@ -43,28 +49,46 @@ export function leafBeside(node, side) {
   return null;
 }
 // The outermost leaf that shows something, on one side of a node; a table is one thing.
+/**
+ * @param {AnyNode} node
+ * @param {EdgeChild} child
+ * @param {Side} side
+ * @returns {AnyNode}
+ */
 function shownEdge(node, child, side) {
   const isWhole = node.tagName === 'TABLE' || dom.isAtom(node);
   const inner = isWhole ? null : dom.shownFrom(node[child], side);
   return inner ? shownEdge(inner, child, side) : node;
 }
 
-/** The paragraph that a leaf is in. */
+/**
+ * The paragraph that a leaf is in.
+ * @param {AnyNode} leaf
+ */
 export const unitOfLeaf = (leaf) =>
   (dom.isText(leaf) || dom.isBlock(leaf)
     ? unitAt(leaf, 0) : unitAt(leaf.parentNode, selection.indexOf(leaf)));
 
 // Most carets stand beside a character: no edge is there, however long the paragraph.
+/**
+ * @param {PlainRange} caret
+ * @param {Edge} side
+ */
 const isWithinText = ({ startContainer: node, startOffset: offset, collapsed }, side) =>
   collapsed && dom.isText(node) &&
   (side === 'start' ? node.data.slice(0, offset) : node.data.slice(offset)).trim() !== '';
 
 // The picture, island or other object beside a caret; null for none.
+/**
+ * @param {PlainRange} caret
+ * @param {Edge} side
+ */
 function objectBeside({ startContainer, startOffset }, side) {
   const found = beside(
     startContainer, startOffset, side === 'start' ? 'previousSibling' : 'nextSibling');
   return found?.object ?? null;
 }
+/** @param {Element} object */
 function deleteObject(object) {
   const range = document.createRange();
   range.selectNode(object);
@@ -74,7 +98,7 @@ function deleteObject(object) {
 /**
  * What a deletion at a caret does where that is not left to the engine; null where it is.
  * @param {Range} range the caret
- * @param {'start' | 'end'} side 'start' for Backspace, 'end' for Delete
+ * @param {Edge} side 'start' for Backspace, 'end' for Delete
  * @returns {(() => void) | null}
  */
 export function deletionAtCaret(range, side) {
@@ -87,6 +111,10 @@ export function deletionAtCaret(range, side) {
 }
 
 // The same at the edge of a paragraph.
+/**
+ * @param {Unit} unit
+ * @param {Edge} side
+ */
 function deletionAtEdge(unit, side) {
   const back = side === 'start';
   if (back && startsItem(unit)) return () => lists.outdentItemOf(unit);
@@ -104,7 +132,7 @@ function deletionAtEdge(unit, side) {
  * @param {Unit} unit
  */
 function startsItem(unit) {
-  const item = lists.itemOf(unit);
+  const item = itemOf(unit);
   if (!item) return false;
   const first = [...item.childNodes].find(dom.isShown);
   return !first || first === unit.nodes[0] || first === unit.block || item === unit.block;
@@ -112,14 +140,22 @@ function startsItem(unit) {
 
 // The break that is an empty line of bare text, where the run begins or ends with one. An item's
 // or a cell's only line is that item or cell.
+/**
+ * @param {Unit} unit
+ * @param {Edge} side
+ */
 function emptyLine({ block, nodes, container }, side) {
   const [edge, inner] = side === 'start' ? nodes : [nodes.at(-1), nodes.at(-2)];
-  if (block || lists.isItem(container) || !dom.isBreak(edge)) return null;
+  if (block || isItem(container) || !dom.isBreak(edge)) return null;
   if (!dom.neighbour(edge, 'previousSibling') && !dom.neighbour(edge, 'nextSibling')) return null;
   return side === 'start' || !inner || dom.isBreak(inner) ? edge : null;
 }
 
 // Deletes the white space at the two edges that are about to meet, where it would show as a blank.
+/**
+ * @param {Unit} first
+ * @param {Unit} second
+ */
 function trimEdges(first, second) {
   blanks.trimEdges(first.nodes.length ? dom.lastLeaf(first.nodes.at(-1)) : null,
     second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null);
@@ -133,6 +169,7 @@ function trimEdges(first, second) {
  */
 function joinAtCaret(first, second) {
   dropNothings(first, second);
+  /** @type {AnyNode} */
   const above = emptyLine(first, 'end') ?? (isEmptyParagraph(first) ? first.block : null);
   const below = emptyLine(second, 'start') ?? (isEmptyParagraph(second) ? second.block : null);
   // Bare text has the emptied paragraph for its own.

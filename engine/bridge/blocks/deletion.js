@@ -65,11 +65,19 @@ function thingIn(range) {
   return dom.isIsland(leaves[0]) ? leaves[0] : null;
 }
 // A text at an end of the range of which nothing is selected.
+/**
+ * @param {AnyNode} leaf
+ * @param {Range} range
+ */
 const isUntouched = (leaf, range) =>
   (leaf === range.startContainer && dom.isText(leaf) && range.startOffset === leaf.length) ||
   (leaf === range.endContainer && range.endOffset === 0);
 
 // `rest` becomes the range where the thing was.
+/**
+ * @param {AnyNode} thing
+ * @param {Range} rest
+ */
 function deleteThing(thing, rest) {
   rest.setStartBefore(thing);
   rest.setEndAfter(thing);
@@ -81,6 +89,10 @@ function deleteThing(thing, rest) {
 }
 
 // What began before a table or a rule joins nothing: the caret is where the rest begins.
+/**
+ * @param {Range} rest
+ * @param {Unit} unit
+ */
 function setToStart(rest, unit) {
   const [node] = unit.nodes.filter((each) => each.isConnected);
   if (!node && !unit.container.isConnected) return;
@@ -89,6 +101,10 @@ function setToStart(rest, unit) {
 }
 
 // The break that a point is right behind, the start of its line; null for none.
+/**
+ * @param {AnyNode} node
+ * @param {number} offset
+ */
 function breakBefore(node, offset) {
   const before = dom.isText(node)
     ? offset === 0 && node.previousSibling : node.childNodes[offset - 1];
@@ -168,6 +184,7 @@ export function deleteToLine(range) {
   if (!node) return;
   const next = dom.shownFrom(node.childNodes[offset], 'nextSibling');
   const previous = dom.shownFrom(node.childNodes[offset - 1], 'previousSibling');
+  /** @param {AnyNode} block */
   const enters = (block) =>
     dom.isElement(block) && !dom.isAtom(block) && block.tagName !== 'TABLE';
   if (enters(next)) selection.setCaret(...selection.pointOf(selection.startOf(next)));

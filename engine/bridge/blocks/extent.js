@@ -33,7 +33,10 @@ export const sameUnit = (one, other) =>
   one === other || Boolean(one && other && one.container === other.container &&
     one.nodes[0] === other.nodes[0]);
 
-/** The table cell around a node, else the body: nothing is joined across their edges. */
+/**
+ * The table cell around a node, else the body: nothing is joined across their edges.
+ * @param {AnyNode} node
+ */
 export const cellOf = (node) => dom.ancestor(node, dom.isCell) || document.body;
 
 /**
@@ -56,6 +59,7 @@ export function narrowed(range) {
     endOffset === body.childNodes.length;
   if (all || selection.control(range)) return range;
   const result = range.cloneRange();
+  /** @param {AnyNode} node */
   const enters = (node) => dom.isElement(node) && dom.isBlock(node) && !dom.isAtom(node) &&
     node.tagName !== 'TABLE' && node.hasChildNodes();
   const first = () => result.startContainer.childNodes[result.startOffset];
@@ -121,7 +125,7 @@ function showsAnything(range) {
  * True when nothing shows between a range and the start or end of the paragraph that it is in.
  * @param {PlainRange} range
  * @param {Unit} unit
- * @param {'start' | 'end'} side
+ * @param {Edge} side
  */
 export function isAtEdge(range, unit, side) {
   const [first, last] = [unit.nodes[0], unit.nodes.at(-1)];

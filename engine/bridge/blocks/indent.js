@@ -2,19 +2,24 @@
 // @ts-check
 // Indenting and outdenting. A paragraph is indented by a BLOCKQUOTE around it, an item by moving it
 // into a list in the item before it.
+import { groupsOf, itemOf } from './items.js';
 import * as lists from './lists.js';
 import * as dom from '../page/dom.js';
 import { enclose, partsOf } from '../page/units.js';
 import { holdOpen } from '../page/lines.js';
 
+/** @param {AnyNode} node */
 const isQuote = (node) => dom.isElement(node) && node.tagName === 'BLOCKQUOTE';
+/** @param {Unit} unit */
 const inList = (unit) => {
-  const item = lists.itemOf(unit);
+  const item = itemOf(unit);
   return item?.tagName === 'LI' ? item : null;
 };
 
+/** @param {AnyNode} node */
 const quoteAround = (node) =>
   dom.ancestor(node, isQuote, (at) => dom.isCell(at) || at.tagName === 'LI');
+/** @param {Unit} unit */
 const quoteOf = (unit) => quoteAround(unit.home);
 // The quote around the list whose first item this is; null for any other item. Indenting a first
 // item has put that quote there, since such an item has none before it.
@@ -26,15 +31,21 @@ const quoteOfList = (group) => {
 };
 
 // True where two quotes meet with lines without a block of their own, which would become one line.
+/**
+ * @param {Element} one
+ * @param {Element} other
+ */
 const runsOn = (one, other) => {
   const edges = [[...one.childNodes].reverse(), [...other.childNodes]]
     .map((nodes) => nodes.find(dom.isShown));
   return edges.every((node) => node && !dom.isBlock(node));
 };
 
+/** @param {AnyNode[]} parts */
 const enquote = (parts) => dom.wrap(parts, dom.create('BLOCKQUOTE'));
 
 // Joins a new quote with the quotes beside it that have no attributes.
+/** @param {AnyNode} quote */
 function joinQuotes(quote) {
   const before = dom.neighbour(quote, 'previousSibling');
   if (isQuote(before) && !before.attributes.length && !runsOn(before, quote)) {
@@ -54,9 +65,10 @@ function joinQuotes(quote) {
 export function indent(units) {
   const made = [];
   const loose = units.filter((unit) => !inList(unit));
-  for (const group of lists.groupsOf(units.filter(inList))) {
+  for (const group of groupsOf(units.filter(inList))) {
     if (!lists.nest(group)) made.push(enquote([group[0].parentNode]));
   }
+  /** @type {AnyNode[]} */
   let run = [];
   const flush = () => {
     if (run.length) made.push(enquote(run));
@@ -85,6 +97,10 @@ export function indent(units) {
 }
 
 // The child of an element that a node lies in.
+/**
+ * @param {AnyNode} element
+ * @param {AnyNode} node
+ */
 function childOf(element, node) {
   while (node.parentNode !== element) node = node.parentNode;
   return node;
@@ -92,6 +108,10 @@ function childOf(element, node) {
 
 // Takes parts out of their quote, to where it stands; what is before and behind them stays in a
 // quote.
+/**
+ * @param {AnyNode} quote
+ * @param {AnyNode[]} parts
+ */
 function unquote(quote, parts) {
   const first = childOf(quote, parts[0]);
   const behind = dom.neighbour(childOf(quote, parts.at(-1)), 'nextSibling');
@@ -103,7 +123,9 @@ function unquote(quote, parts) {
 }
 // Makes paragraphs of a quote's first and last line without a block, where another such line stands
 // beside the quote: without the quote they would be one.
+/** @param {AnyNode} quote */
 function wrapEdgeLines(quote) {
+  /** @param {AnyNode} node */
   const isLine = (node) => Boolean(node) && !dom.isBlock(node) && !dom.isBreak(node);
   /** @type {[edge: 'firstChild' | 'lastChild', outer: Side, inner: Side][]} */
   const ends = [['firstChild', 'previousSibling', 'nextSibling'],
@@ -122,12 +144,12 @@ function wrapEdgeLines(quote) {
  * @param {Unit[]} units
  */
 export function outdent(units) {
-  for (const group of lists.groupsOf(units)) {
+  for (const group of groupsOf(units)) {
     const quote = quoteOfList(group);
     if (quote) unquote(quote, [group[0].parentNode]);
     else lists.outdent(group);
   }
-  for (const parts of quotedRuns(units.filter((each) => !lists.itemOf(each)))) {
+  for (const parts of quotedRuns(units.filter((each) => !itemOf(each)))) {
     // Asked for now: the run before may have cut the quote in two.
     const quote = quoteAround(parts[0]);
     if (quote === parts[0]) holdOpen(dom.rename(quote, 'P'));
@@ -135,6 +157,7 @@ export function outdent(units) {
   }
 }
 // The runs of nodes that leave their quote together: the paragraphs that are neighbours in it.
+/** @param {Unit[]} units */
 function quotedRuns(units) {
   const runs = [];
   let last = null;
@@ -159,5 +182,5 @@ function quotedRuns(units) {
  * True for a paragraph that is in a list or in a quote.
  * @param {Unit} unit
  */
-export const canOutdent = (unit) => Boolean(lists.itemOf(unit) || quoteOf(unit));
+export const canOutdent = (unit) => Boolean(itemOf(unit) || quoteOf(unit));
 

@@ -3,13 +3,16 @@
 // Joining: the content of a paragraph goes to the end of the one before it and takes on that one's
 // looks; the blocks that this leaves empty go. The engine would keep the looks by styled spans.
 import { breakLines } from './blocks.js';
-import * as lists from './lists.js';
+import { isContinuation, itemOf } from './items.js';
 import * as dom from '../page/dom.js';
 import { holdOpen } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { dropLine } from '../page/sourceLines.js';
 
-/** Drops a block that is empty, and then the lists and quotes that held nothing else. */
+/**
+ * Drops a block that is empty, and then the lists and quotes that held nothing else.
+ * @param {AnyNode} block
+ */
 export function dropEmptyBlocks(block) {
   while (dom.isElement(block) && !dom.isCell(block) && !dom.hasContent(block)) {
     const parent = block.parentNode;
@@ -21,10 +24,12 @@ export function dropEmptyBlocks(block) {
 /**
  * Drops a block, or the break that is an empty line. Lines of bare text that it kept apart stay
  * apart; lists of a kind become one.
+ * @param {AnyNode} block
  */
 export function dropBlock(block) {
   const before = dom.neighbour(block, 'previousSibling');
   const after = dom.neighbour(block, 'nextSibling');
+  /** @param {AnyNode} node */
   const isLine = (node) => node && !dom.isBlock(node) && !dom.isBreak(node);
   if (dom.isBlock(block) && isLine(before) && isLine(after)) {
     block.replaceWith(dom.create('BR'));
@@ -32,7 +37,7 @@ export function dropBlock(block) {
     dropLine(block);
     block.remove();
   }
-  if (dom.isList(before) && lists.isContinuation(before, after)) dom.absorb(before, after);
+  if (dom.isList(before) && isContinuation(before, after)) dom.absorb(before, after);
 }
 
 // The nodes less the break at their end, which goes, unless it is the one that `line` is behind.
@@ -59,6 +64,10 @@ function asText(nodes) {
 }
 
 // The lists that are all that is left of an item go along into the other one.
+/**
+ * @param {AnyNode} home
+ * @param {AnyNode} item
+ */
 function moveSublists(home, item) {
   const rest = [...home.childNodes].filter(dom.isShown);
   const onlyLists = rest.length > 0 && rest.every(dom.isList);
@@ -86,7 +95,7 @@ export function join(first, second, mark = null, line = null) {
   if (last ?? mark) (last ?? mark).after(...moved);
   else if (first.container.firstChild) first.container.prepend(...moved);
   else first.container.append(...moved);
-  moveSublists(home, lists.itemOf(first));
+  moveSublists(home, itemOf(first));
   dropEmptyBlocks(home);
   holdOpen(first.container);
   return between;

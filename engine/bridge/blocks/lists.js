@@ -1,61 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // Lists: paragraphs become items, a list becomes one of another kind, items go a level deeper or
-// higher, items become paragraphs again. A *group* is a run of items that are neighbours in one
-// list; what is done to it is done to all of them at once. `outer` is the tag of a list (OL, UL,
+// higher, items become paragraphs again. What is done to a group (items.js) is done to all of its
+// items at once. `outer` is the tag of a list (OL, UL,
 // DIR, MENU, DL), `inner` the tag of its items (LI, DT, DD).
+import {
+  groupNeighbours, groupsOf, isContinuation, isItem, isListOf, itemOf, itemsIn, itemsOf,
+} from './items.js';
 import { moveBlankAbove } from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import { holdOpen, dropEmptyInline } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { dropInnerLines } from '../page/sourceLines.js';
-import { enclose, itemAround, unitsIn } from '../page/units.js';
-
-const isListOf = (node) => dom.isElement(node) && (dom.isList(node) || node.tagName === 'DL');
-/** True for LI, DT or DD that is directly in a list. */
-export const isItem = (node) =>
-  dom.isElement(node) && /^(LI|DT|DD)$/.test(node.tagName) && isListOf(node.parentNode);
-/**
- * The item that a paragraph is in; null for none.
- * @param {Unit} unit
- */
-export const itemOf = (unit) => itemAround(unit, isItem);
-
-const itemsIn = (list) => [...list.children].filter(isItem);
-
-const itemsOf = (units) => new Set(units.map(itemOf).filter(Boolean));
-
-// The groups that items in document order make.
-function groupNeighbours(items) {
-  const groups = new Map();  // by their last items
-  for (const item of items) {
-    const before = dom.neighbour(item, 'previousSibling');
-    const group = groups.get(before) ?? [];
-    groups.delete(before);
-    group.push(item);
-    groups.set(item, group);
-  }
-  return [...groups.values()];
-}
-
-/**
- * The groups of the items that the paragraphs are in, less the items that lie in another one of
- * them: those go along with it.
- * @param {Unit[]} units
- * @returns {AnyNode[][]}
- */
-export function groupsOf(units) {
-  const items = itemsOf(units);
-  const within = (item) => {
-    for (let at = item.parentNode; at; at = at.parentNode) if (items.has(at)) return true;
-    return false;
-  };
-  return groupNeighbours([...items].filter((item) => !within(item)));
-}
+import { enclose, unitsIn } from '../page/units.js';
 
 // Old pages have lists directly in lists. Moves such a list into the item before it, or into an
 // item of its own where there is none; the same for the lists around it.
+/** @param {AnyNode} list */
 function moveIntoItem(list) {
   while (dom.isElement(list?.parentNode) && dom.isList(list) && dom.isList(list.parentNode)) {
     const before = dom.neighbour(list, 'previousSibling');
@@ -66,6 +28,7 @@ function moveIntoItem(list) {
 }
 
 // Cuts a list in up to three, so that the group is all that one of them holds; answers that one.
+/** @param {AnyNode[]} group */
 function cutOutList(group) {
   let list = group[0].parentNode;
   const behind = dom.neighbour(group.at(-1), 'nextSibling');
@@ -74,12 +37,8 @@ function cutOutList(group) {
   return list;
 }
 
-/** True where the second of two neighbouring lists can be joined to the first one. */
-export const isContinuation = (first, second) =>
-  dom.isElement(first) && dom.isElement(second) && first.tagName === second.tagName &&
-  (dom.sameAttributes(first, second) || !second.attributes.length);
-
 // Joins a list with the lists beside it, where they are alike; answers the list that is left.
+/** @param {AnyNode} list */
 function joinNeighbours(list) {
   const before = dom.neighbour(list, 'previousSibling');
   const after = dom.neighbour(list, 'nextSibling');
@@ -92,6 +51,7 @@ function joinNeighbours(list) {
 }
 
 // Moves an item's `align` to a new division around its content: an item has none.
+/** @param {Element} item */
 function moveAlignInside(item) {
   const side = item.getAttribute('align');
   if (!side) return;
@@ -103,20 +63,31 @@ function moveAlignInside(item) {
 }
 
 // A box outside the flow of the text stays where it is; its text becomes the item.
+/** @param {Unit} unit */
 const isBox = ({ block, nodes }) =>
   nodes.length > 0 && block?.tagName === 'DIV' && dom.isObject(block);
 
 // Makes an item of one paragraph, not in any list yet; answers the item.
+/**
+ * @param {Unit} unit
+ * @param {string} inner
+ */
 function makeItem(unit, inner) {
   const block = isBox(unit) ? null : unit.block;
-  if (block && (block.tagName === 'P' || block.tagName === 'DIV')) {
-    const item = dom.rename(block, inner);
-    moveAlignInside(item);
-    return item;
+  return block ? makeItemOf(block, inner) : enclose(unit, dom.create(inner));
+}
+// The same of a block.
+/**
+ * @param {Element} block
+ * @param {string} inner
+ */
+function makeItemOf(block, inner) {
+  if (block.tagName !== 'P' && block.tagName !== 'DIV') {
+    return dom.wrap([block], dom.create(inner));
   }
-  const item = dom.create(inner);
-  if (block) return dom.wrap([block], item);
-  return enclose(unit, item);
+  const item = dom.rename(block, inner);
+  moveAlignInside(item);
+  return item;
 }
 
 /**
@@ -128,18 +99,21 @@ function makeItem(unit, inner) {
  */
 export function makeItems(units, outer, inner) {
   const definition = outer === 'DL';
+  /** @param {AnyNode[]} group */
   const fits = (group) => group[0].parentNode.tagName === 'DL' === definition;
   const loose = groupsOf(units).filter((group) => !fits(group)).flatMap(takeOutOfList);
   for (const group of groupNeighbours(itemsOf(units)).filter(fits)) {
-    if (definition) group.forEach((item) => dom.rename(item, inner));
+    if (definition) for (const item of group) dom.rename(item, inner);
     else changeListKind(group, outer);
   }
   // A term holds no list.
+  /** @param {AnyNode} block */
   const asItem = (block) =>
-    makeItem({ block, nodes: [] }, definition && isListOf(block) ? 'DD' : inner);
+    makeItemOf(block, definition && isListOf(block) ? 'DD' : inner);
   const fresh = units.filter((unit) => !itemOf(unit) && !loose.includes(unit.block) &&
     (unit.block ?? unit.container).isConnected);
   const items = [...loose.map(asItem), ...fresh.map((unit) => makeItem(unit, inner))];
+  /** @param {AnyNode} item */
   const isInList = (item) => isListOf(item.parentNode);
   wrapInLists(items.filter((item) => !isInList(item)).sort(inOrder), outer);
   // What stood in a list without being an item of it.
@@ -147,15 +121,27 @@ export function makeItems(units, outer, inner) {
     .forEach((group) => changeListKind(group, outer));
 }
 // Cuts the group's list out and makes it a list of that kind.
+/**
+ * @param {AnyNode[]} group
+ * @param {string} outer
+ */
 function changeListKind(group, outer) {
   if (group[0].parentNode.tagName === outer) return;
   moveIntoItem(group[0].parentNode);
   joinNeighbours(dom.rename(cutOutList(group), outer));
 }
+/**
+ * @param {Node} one
+ * @param {Node} other
+ */
 const inOrder = (one, other) =>
   (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1);
 
 // Puts items that stand in no list into new ones: neighbours into one list.
+/**
+ * @param {AnyNode[]} items
+ * @param {string} outer
+ */
 function wrapInLists(items, outer) {
   let list = null;
   let last = null;
@@ -173,9 +159,11 @@ function wrapInLists(items, outer) {
 }
 
 // A division that is a line of an item.
+/** @param {AnyNode} node */
 const isLine = (node) => dom.isPlainDivision(node) && ![...node.children].some(dom.isBlock);
 
 // Makes an item into paragraphs, in the place where it stands; answers those.
+/** @param {AnyNode} item */
 function toParagraphs(item) {
   const shown = [...item.childNodes].filter(dom.isShown);
   const [only] = shown;
@@ -188,6 +176,7 @@ function toParagraphs(item) {
   for (const name of ['value', 'type']) item.removeAttribute(name);
   if (!shown.some(dom.isBlock)) return [dom.rename(item, 'P')];
   const blocks = [];
+  /** @type {AnyNode[]} */
   let run = [];
   const flush = () => {
     while (run.length && !dom.isShown(run.at(-1))) run.pop();
@@ -208,6 +197,7 @@ function toParagraphs(item) {
 }
 
 // Makes the items of a group into paragraphs where their list stands; answers the paragraphs.
+/** @param {AnyNode[]} group */
 function takeOutOfList(group) {
   const list = cutOutList(group);
   const paragraphs = group.flatMap(toParagraphs);
@@ -216,16 +206,24 @@ function takeOutOfList(group) {
   return paragraphs;
 }
 
-// Two ways for the items that followed a group which leaves its list (`tail`): they become a list
-// in the group's last item, or stay as deep as they are, in a new item behind it. Both answer the
-// item that the tail is in.
+/**
+ * Where the items go that followed a group which leaves its list (`tail`). `last`: the group's last
+ * item. Answers the item that the tail is in then.
+ * @typedef {(last: Element, list: Element, tail: Node[]) => Element} PutTail
+ */
+
+// They become a list in the group's last item.
+/** @type {PutTail} */
 function putTailIntoLast(last, list, tail) {
   const isWhole = itemsIn(list).every((item) => tail.includes(item));
+  /** @type {AnyNode} */
   const own = [...last.childNodes].filter(dom.isShown).at(-1);
   if (isWhole && own?.tagName !== list.tagName) last.append(list);
   else sublistAtEnd(last, list).append(...tail);
   return last;
 }
+// They stay as deep as they are, in a new item behind it.
+/** @type {PutTail} */
 function putTailIntoNewItem(last, list, tail) {
   const rest = dom.twin(list);
   rest.append(...tail);
@@ -236,6 +234,10 @@ function putTailIntoNewItem(last, list, tail) {
 }
 
 // Moves a group of a nested list one level out. `putTail` is one of the two functions above.
+/**
+ * @param {AnyNode[]} group
+ * @param {PutTail} putTail
+ */
 function moveOneLevelOut(group, putTail) {
   const list = group[0].parentNode;
   const outer = list.parentNode;
@@ -255,8 +257,13 @@ function moveOneLevelOut(group, putTail) {
 
 // Nodes that are to stand behind the content of an item, their first line in a division where it
 // would run into the item's text else.
+/**
+ * @param {AnyNode} item
+ * @param {AnyNode[]} nodes
+ */
 function ownLine(item, nodes) {
   const ends = [...item.childNodes].reverse().find(dom.isShown);
+  /** @param {AnyNode} node */
   const bare = (node) => !dom.isBlock(node);
   if (!ends || !bare(ends) || !bare(nodes.find(dom.isShown))) return nodes;
   const stop = nodes.findIndex(dom.isBlock);
@@ -265,6 +272,10 @@ function ownLine(item, nodes) {
 }
 
 // The list of a kind (that of `like`) at an item's end, made where there is none.
+/**
+ * @param {AnyNode} item
+ * @param {Element} like
+ */
 function sublistAtEnd(item, like) {
   const shown = [...item.childNodes].filter(dom.isShown).at(-1);
   if (shown?.tagName === like.tagName) return shown;
@@ -273,6 +284,7 @@ function sublistAtEnd(item, like) {
   return list;
 }
 
+/** @param {AnyNode} item */
 const isNested = (item) => {
   const outer = item.parentNode.parentNode;
   return outer.tagName === 'LI' || dom.isList(outer);
@@ -296,12 +308,13 @@ export function nest(group) {
 
 // True for an item that is kept though it has no text: it may hold an icon, a link or a link's
 // target.
+/** @param {Element} item */
 const holdsNamed = (item) => item.querySelector('[id], [name], [href], [class]') !== null;
 
 /**
  * Takes a group one level out: to the list around its list, or out of all lists as paragraphs.
  * @param {AnyNode[]} group
- * @param {(last: Element, list: Element, tail: Node[]) => Element} [putTail] where the items go
+ * @param {PutTail} [putTail] where the items go
  *   that followed the group in its list
  */
 export function outdent(group, putTail = putTailIntoLast) {
@@ -367,14 +380,3 @@ export function wrapStrayText(units, saved) {
   selection.restore(saved);
   return unitsIn(selection.range());
 }
-
-/**
- * The tag of the list that a paragraph is an item of; null for none, and for a definition list.
- * @param {Unit} unit
- * @returns {string | null}
- */
-export const listTagOf = (unit) => {
-  const item = itemAround(unit);
-  return item && dom.isList(item.parentNode) ? item.parentNode.tagName : null;
-};
-

@@ -21,6 +21,10 @@ const fills = new Set(['insertText', 'insertFromPaste', 'insertReplacementText']
 
 // True where bare text has to become a paragraph before the input: it is about to be split, or it
 // is the first text of an empty page. A block with an id is not split: the paragraph is made in it.
+/**
+ * @param {Unit} unit
+ * @param {{ inputType: string }} input
+ */
 function needsParagraph(unit, { inputType }) {
   if (!unit || !dom.isBare(unit.container)) return false;
   const empty = () => unit.container === document.body && dom.isHollow(document.body);
@@ -29,6 +33,7 @@ function needsParagraph(unit, { inputType }) {
   return !unit.block || unit.block.id !== '';
 }
 // Puts a paragraph around bare text, or an empty one where there is no text; the caret stays.
+/** @param {Unit} unit */
 function makeParagraph(unit) {
   const saved = selection.save();
   const paragraph = enclose(unit, dom.create('P'));
@@ -51,7 +56,12 @@ export function makeLine([node, offset]) {
 // A *holder* is the no-break space that is all a paragraph or cell holds: pages have it there so
 // that an empty one is seen. Answers the one at the caret; null for none, and for one that was
 // typed.
+/** @param {Text} text */
 const isHolder = (text) => /^[ \t\n]*\u00a0[ \t\n]*$/.test(text.data);
+/**
+ * @param {Unit} unit
+ * @param {PlainRange} caret
+ */
 function holderOf(unit, { startContainer }) {
   if (dom.isText(startContainer) && !isHolder(startContainer)) return null;
   if (unit?.nodes.length !== 1) return null;
@@ -76,16 +86,22 @@ export function dropHolder() {
 }
 
 // True where all of the page is selected: what is typed over it has no looks from before.
+/** @param {PlainRange} range */
 const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
   startContainer === document.body && endContainer === document.body && startOffset === 0 &&
   endOffset === document.body.childNodes.length;
 
 // The character formats that inline elements around a text give it: pairs of name and value.
+/**
+ * @param {Text} text
+ * @returns {[name: string, value: FormatValue][]}
+ */
 function looksOf(text) {
+  /** @type {AnyNode[]} */
   const around = [];
   for (let at = text.parentNode; !dom.isBlock(at); at = at.parentNode) around.push(at);
   return Object.entries(formats).filter(([, format]) => around.some((at) => format.carries(at)))
-    .map(([name, format]) => [name, format.read(text.parentNode)]);
+    .map(([name, format]) => [name, format.read(text.parentElement)]);
 }
 
 /**
@@ -137,17 +153,22 @@ export function prepareCaret(event) {
   if (holder) document.getSelection().setBaseAndExtent(holder, 0, holder, holder.length);
 }
 
+/** @param {AnyNode} node */
 const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
 
 // The point behind text that was typed over a part of a link. What is typed there next belongs to
 // the link too; the engine would put it behind the link.
 /** @type {TextAnchor | null} */
 let linkEnd = null;
+/** @param {PlainRange} caret */
 const isInLink = ({ collapsed, startContainer, startOffset }) =>
   collapsed && linkEnd?.node === startContainer && linkEnd.offset === startOffset;
 
 // The start of the first selected text; null where something else is selected before it.
-/** @returns {TextAnchor | null} */
+/**
+ * @param {Range} range
+ * @returns {TextAnchor | null}
+ */
 function firstSelectedText(range) {
   const [node] = selection.textsIn(range);
   if (!node || selection.control(range) || isAll(range)) return null;
@@ -158,6 +179,7 @@ function firstSelectedText(range) {
 
 // The caret as a point in a text, where it is in a link that holds blocks; null elsewhere. The
 // engine would type behind such a link, and cut it to pieces for that.
+/** @param {PlainRange} caret */
 function inLinkOfBlocks({ startContainer, startOffset }) {
   if (!dom.isText(startContainer) || !dom.blockOf(startContainer).closest('a[href]')) return null;
   return { node: startContainer, offset: startOffset };

@@ -12,6 +12,10 @@ const attributes = [
 // Attributes that hold addresses among other things.
 const mixed = ['srcset', 'style', 'usemap'];
 const locals = [scheme, 'file:'];
+/**
+ * @param {string[]} names
+ * @param {string[]} marks
+ */
 const selectorOf = (names, marks) =>
   names.flatMap((name) => marks.map((mark) => `[${name}*="${mark}"]`)).join();
 const addresses = new RegExp(`(?:${scheme}|file:)[^\\s"'()<>,]*`, 'g');
@@ -20,6 +24,7 @@ const addresses = new RegExp(`(?:${scheme}|file:)[^\\s"'()<>,]*`, 'g');
 const isShownFromFile = () => new URL(document.baseURI).protocol === scheme;
 
 // An address as it is written in this page.
+/** @param {string} address */
 function relative(address) {
   const target = new URL(address);
   const base = new URL(document.baseURI);
@@ -70,6 +75,7 @@ export function makeFull(root) {
   }
 }
 // An attribute's value as a full address; null for what is none.
+/** @param {string} value */
 function resolved(value) {
   try {
     return new URL(value, document.baseURI);
@@ -79,6 +85,7 @@ function resolved(value) {
 }
 
 // After what the engine itself has put in.
+/** @param {InputEvent} event */
 function onInput({ inputType }) {
   if (inputType === 'insertFromPaste' || inputType === 'insertFromDrop') {
     makeRelative(document, [scheme]);

@@ -5,6 +5,7 @@
 // of what is known, so that nothing unknown comes in. Functions here answer lists of new nodes.
 import * as dom from '../page/dom.js';
 
+/** @param {string} names */
 const set = (names) => new Set(names.split(' '));
 const dropped = set(
   'APPLET AUDIO BASE BUTTON CANVAS COL COLGROUP EMBED FRAME FRAMESET HEAD IFRAME INPUT LINK ' +
@@ -14,6 +15,7 @@ const structure = set(
   'TH THEAD TR UL');
 const emphasis = set(
   'ABBR B BIG CITE CODE DEL DFN EM I INS KBD MARK Q S SAMP SMALL STRIKE STRONG SUB SUP TT U VAR');
+/** @type {Record<string, string[]>} */
 const attributes = {
   A: ['href', 'name', 'title', 'target'],
   IMG: ['src', 'alt', 'title', 'width', 'height', 'border'],
@@ -34,28 +36,39 @@ const styled = [
   ['SUB', ({ verticalAlign }) => verticalAlign === 'sub'],
 ];
 // True for an element that its own style makes none: some programs put such a B around everything.
+/** @param {HTMLElement} element */
 const isUndone = ({ tagName, style }) =>
   (/^(B|STRONG)$/.test(tagName) && /^(normal|400)$/.test(style.fontWeight)) ||
   (/^(I|EM)$/.test(tagName) && style.fontStyle === 'normal');
 
+/** @param {AnyNode} node */
 const isBlock = (node) => dom.isElement(node) && dom.isBlock(node);
+/**
+ * @param {AnyNode[]} nodes
+ * @returns {boolean}
+ */
 const hasText = (nodes) => nodes.some((node) => {
   if (dom.isText(node)) return /[^ \n]/.test(node.data);
   return empties.has(node.tagName) || hasText([...node.childNodes]);
 });
 
 // The nodes of a line less the breaks at its ends, which are there as a gap or to hold it open.
+/** @param {AnyNode[]} nodes */
 function withoutGaps(nodes) {
+  /** @param {AnyNode} node */
   const isGap = (node) => dom.isBreak(node) || (dom.isText(node) && !hasText([node]));
   const shown = nodes.filter((node) => !isGap(node));
   const [first, last] = [nodes.indexOf(shown[0]), nodes.indexOf(shown.at(-1))];
+  /** @param {AnyNode[]} part */
   const breaks = (part) => part.some(dom.isBreak);
   return shown.length ? nodes.slice(breaks(nodes.slice(0, first)) ? first : 0,
     breaks(nodes.slice(last)) ? last + 1 : nodes.length) : [];
 }
 // Runs of inline nodes between blocks become paragraphs; those that show nothing go.
+/** @param {AnyNode[]} nodes */
 function paragraphs(nodes) {
   const result = [];
+  /** @type {AnyNode[]} */
   let run = [];
   const flush = () => {
     const shown = withoutGaps(run);
@@ -73,6 +86,10 @@ function paragraphs(nodes) {
   flush();
   return result;
 }
+/**
+ * @param {string} tag
+ * @param {AnyNode[]} nodes
+ */
 function elementAround(tag, nodes) {
   const element = dom.create(tag);
   element.append(...nodes);
@@ -80,11 +97,19 @@ function elementAround(tag, nodes) {
 }
 
 // False for an address that runs a script, or that means something in the other program only.
+/**
+ * @param {string} name
+ * @param {string} value
+ */
 function isSafeAddress(name, value) {
   const address = value.trim().replace(/[\u0000-\u0020]/g, '');
   if (name === 'href') return !/^(javascript|vbscript|data):/i.test(address);
   return name !== 'src' || !/^(javascript|cid|blob|about):|msohtml/i.test(address);
 }
+/**
+ * @param {Element} from
+ * @param {Element} to
+ */
 function copyAttributes(from, to) {
   // Programs say "from left to right" of everything.
   if (from.getAttribute('dir')?.toLowerCase() === 'rtl') to.setAttribute('dir', 'rtl');
@@ -97,6 +122,11 @@ function copyAttributes(from, to) {
 }
 
 // Wraps nodes by `make`, which is given a line's nodes: within each line where there are blocks.
+/**
+ * @param {AnyNode[]} nodes
+ * @param {(line: AnyNode[]) => Node} make
+ * @returns {AnyNode[]}
+ */
 function wrapLines(nodes, make) {
   if (!hasText(nodes)) return nodes;
   if (!nodes.some(isBlock)) return [make(nodes)];
@@ -109,6 +139,11 @@ function wrapLines(nodes, make) {
 }
 
 // The content with the emphasis that an element's style has.
+/**
+ * @param {AnyNode[]} nodes
+ * @param {HTMLElement} element
+ * @param {Set<string>} inside
+ */
 function emphasised(nodes, element, inside) {
   if (!nodes.length || !element.hasAttribute('style')) return nodes;
   const names = styled.filter(([, says]) => says(element.style)).map(([tag]) => tag)
@@ -117,6 +152,10 @@ function emphasised(nodes, element, inside) {
 }
 
 // The nodes in an element of emphasis; headings are bold without one.
+/**
+ * @param {AnyNode[]} nodes
+ * @param {string} tag
+ */
 function inEmphasis(nodes, tag) {
   const bold = /^(B|STRONG)$/.test(tag);
   return nodes.some(isBlock)
@@ -127,8 +166,14 @@ function inEmphasis(nodes, tag) {
 }
 
 // Tags that mean the same for `inside`.
+/** @type {Record<string, string>} */
 const same = { STRONG: 'B', EM: 'I', INS: 'U' };
 // What one node becomes. `inside`: the tags around it.
+/**
+ * @param {AnyNode} node
+ * @param {Set<string>} inside
+ * @returns {AnyNode[]}
+ */
 function clean(node, inside) {
   if (dom.isText(node)) return [cleanText(node, inside)].filter(({ length }) => length);
   if (!dom.isElement(node) || dropped.has(node.tagName)) return [];
@@ -145,20 +190,29 @@ function clean(node, inside) {
   if (structure.has(tag)) return structured(node, content);
   return dom.isBlock(node) ? paragraphs(content) : content;
 }
+/**
+ * @param {Text} text
+ * @param {Set<string>} inside
+ */
 function cleanText({ data }, inside) {
   if (inside.has('PRE')) return document.createTextNode(data);
   return document.createTextNode(data.replace(/[ \t\r\n\u00a0]+/g, ' '));
 }
+/** @param {Element} node */
 function copyOfEmpty(node) {
   const copy = copyAttributes(node, dom.create(node.tagName));
   return node.tagName === 'IMG' && !copy.hasAttribute('src') ? [] : [copy];
 }
+/**
+ * @param {Element} node
+ * @param {AnyNode[]} content
+ */
 function link(node, content) {
   const copy = copyAttributes(node, dom.create('A'));
   if (!copy.hasAttribute('href') && !copy.hasAttribute('name')) return content;
   if (content.some(isBlock)) {
     return wrapLines(content, (line) => {
-      const part = copy.cloneNode(false);
+      const part = /** @type {Element} */ (copy.cloneNode(false));
       copy.removeAttribute('name');
       part.append(...line);
       return part;
@@ -169,6 +223,10 @@ function link(node, content) {
 }
 
 // What an element of the structure becomes, given what its content became.
+/**
+ * @param {Element} node
+ * @param {AnyNode[]} content
+ */
 function structured(node, content) {
   const tag = node.tagName;
   if (/^(UL|OL|DL)$/.test(tag)) return list(node, content);
@@ -193,6 +251,7 @@ function structured(node, content) {
 }
 // The content of an item or cell; a paragraph that is all of it, but for lists behind, is
 // unwrapped.
+/** @param {AnyNode[]} content */
 function unwrapSingle(content) {
   const shown = content.filter((node) => !dom.isText(node) || hasText([node]));
   if (shown[0]?.tagName === 'P' && shown.slice(1).every(dom.isList)) {
@@ -200,6 +259,7 @@ function unwrapSingle(content) {
   }
   return shown;
 }
+/** @param {AnyNode[]} nodes */
 function trim(nodes) {
   const result = [...nodes];
   if (dom.isText(result[0])) result[0].data = result[0].data.replace(/^ /, '');
@@ -208,11 +268,15 @@ function trim(nodes) {
   return result.filter((node) => !dom.isText(node) || node.length);
 }
 // What a list becomes: one with items only; a list directly in it goes into the item before.
+/**
+ * @param {Element} node
+ * @param {AnyNode[]} content
+ */
 function list(node, content) {
   const copy = copyAttributes(node, dom.create(node.tagName));
   for (const each of content) {
     if (/^(LI|DT|DD)$/.test(each.tagName ?? '')) copy.append(each);
-    else if (copy.lastChild && dom.isList(each)) copy.lastChild.append(each);
+    else if (copy.lastChild && dom.isList(each)) copy.lastElementChild.append(each);
     else if (hasText([each])) copy.append(elementAround('LI', [each]));
   }
   return copy.firstChild ? [copy] : [];
@@ -220,6 +284,7 @@ function list(node, content) {
 
 // Office documents write list items as paragraphs, with the bullet or number as text. Takes that
 // out, and answers which list (`name`) the paragraph belongs to and its level in it, 0 for no item.
+/** @param {Element} paragraph */
 function readItem(paragraph) {
   const style = paragraph.getAttribute('style') ?? '';
   const [, name, level = '0'] = /mso-list:\s*(\S+)[^;"]*level(\d)/.exec(style) ?? [];
@@ -233,6 +298,11 @@ function readItem(paragraph) {
 
 // Opens lists until there is one of the item's level. `lists` are the open ones, the outermost
 // first.
+/**
+ * @param {AnyNode[]} lists
+ * @param {{ level: number, tag: string, start: number }} item
+ * @param {Element} paragraph
+ */
 function openLists(lists, { level, tag, start }, paragraph) {
   while (lists.length < level) {
     const made = paragraph.ownerDocument.createElement(tag);
@@ -244,7 +314,9 @@ function openLists(lists, { level, tag, start }, paragraph) {
 }
 
 // Makes lists of such paragraphs.
+/** @param {HTMLElement} root */
 function makeLists(root) {
+  /** @type {AnyNode[]} */
   let lists = [];
   let last = null;  // the outermost list
   let of = '';
@@ -268,6 +340,7 @@ function makeLists(root) {
 
 // What is between the comments that a program has put around its fragment, with the table or list
 // that it is a part of; all of the markup where there are none.
+/** @param {string} html */
 function partOf(html) {
   const { body } = new DOMParser().parseFromString(html, 'text/html');
   const comments = document.createNodeIterator(body, NodeFilter.SHOW_COMMENT);
@@ -275,7 +348,7 @@ function partOf(html) {
   const marks = {};
   for (let node = comments.nextNode(); node; node = comments.nextNode()) {
     const [, name] = /^\s*(Start|End)Fragment\s*$/.exec(node.nodeValue) ?? [];
-    if (name) marks[name] ??= node;
+    if (name) marks[/** @type {'Start' | 'End'} */ (name)] ??= node;
   }
   if (!marks.Start || !marks.End) return body;
   const range = document.createRange();
@@ -295,14 +368,16 @@ function partOf(html) {
 }
 
 // Makes PRE of source code, which comes as a division with kept blanks for each line.
+/** @param {HTMLElement} root */
 function makePreformatted(root) {
+  /** @param {AnyNode} element */
   const isCode = ({ style }) => /^pre/.test(style.whiteSpace) &&
     /mono|courier|consolas|menlo/i.test(style.fontFamily);
   for (const code of [...root.querySelectorAll('div[style*="white-space"]')].filter(isCode)) {
     const pre = root.ownerDocument.createElement('PRE');
     code.before(pre);
     for (const node of [...code.childNodes]) {
-      const line = node.tagName === 'DIV';
+      const line = node.nodeName === 'DIV';
       pre.append(...(line ? node.childNodes : [node]), ...(line ? ['\n'] : []));
     }
     code.remove();

@@ -18,11 +18,14 @@ import { schedulePush } from '../talk/pace.js';
 // ends lie within a paragraph.
 const generator = '<meta name="generator" content="Velor Web Creator"';
 const origin = new RegExp(`${generator} data-ends="(closed|open|line) (closed|open|line)">`);
+/** @param {import('./openEnds.js').OpenEnds} ends */
 const originOf = ({ start, end }) => `${generator} data-ends="${start} ${end}">`;
 
 // True for an element that has to be around a part of the page for it to mean the same elsewhere.
+/** @param {AnyNode} node */
 const isContext = (node) => dom.isInline(node) || dom.isList(node) ||
   /^(DL|TABLE|TBODY|THEAD|TFOOT|TR|PRE)$/.test(node.tagName);
+/** @param {Range} range */
 function contextOf(range) {
   const elements = [];
   let at = range.commonAncestorContainer;
@@ -32,16 +35,18 @@ function contextOf(range) {
 }
 
 // A copy of a range's content, with such elements around it.
+/** @param {Range} range */
 function partOf(range) {
   const content = range.cloneContents();
   for (const element of contextOf(range)) {
-    const shell = element.cloneNode(false);
+    const shell = /** @type {Element} */ (element.cloneNode(false));
     shell.append(content);
     content.append(shell);
   }
   return content;
 }
 // The markup of a range for the clipboard.
+/** @param {Range} range */
 function copiedMarkup(range) {
   const holder = dom.create('DIV');
   holder.append(partOf(range));
@@ -54,15 +59,21 @@ function copiedMarkup(range) {
 }
 
 // True in a field of a form, where the engine copies and pastes its text.
+/** @param {AnyNode} node */
 const isInField = (node) => dom.isElement(node) && node.closest('input, textarea, select');
 
 // Puts a range on the clipboard, or into what is dragged.
+/**
+ * @param {DataTransfer} data
+ * @param {Range} range
+ */
 function putInto(data, range) {
   data.setData('text/html', originOf(openEndsOf(range)) + copiedMarkup(range));
   data.setData('text/plain', document.getSelection().toString());
 }
 
 // Answers what was copied; null for nothing.
+/** @param {ClipboardEvent} event */
 function copy(event) {
   const range = selection.range();
   if (!range || range.collapsed || isInField(event.target)) return null;
@@ -71,6 +82,7 @@ function copy(event) {
   return range;
 }
 
+/** @param {ClipboardEvent} event */
 function cut(event) {
   const range = copy(event);
   if (!range) return;
@@ -81,13 +93,20 @@ function cut(event) {
 // Makes no-break spaces of blanks that a page would not show: of all but the last of a run, and in
 // `keepBlanks` of one that a line begins with. The first line joins text that is there: a blank
 // before it is shown.
+/** @param {string} line */
 const keepRuns = (line) => line.replace(/\t/g, '    ').replace(/ (?= )/g, '\u00a0');
+/** @param {string} line */
 const keepBlanks = (line) => keepRuns(line).replace(/^ /, '\u00a0');
 
 // Plain text as markup: a paragraph for what stands between empty lines, with breaks in it; in a
 // list for each line (fitIntoList makes items of them).
+/**
+ * @param {string} text
+ * @param {boolean} inList
+ */
 function markupOfText(text, inList) {
   const fragment = document.createDocumentFragment();
+  /** @param {string} block */
   const broken = (block) => block.split('\n').flatMap((line, index) =>
     (index ? [dom.create('BR'), keepBlanks(line)] : [keepRuns(line)]));
   const ends = inList ? /\n+/ : /\n(?:[ \t]*\n)+/;
@@ -103,6 +122,10 @@ function markupOfText(text, inList) {
   }
   return fragment;
 }
+/**
+ * @param {string} text
+ * @param {Range} range
+ */
 function textFragment(text, range) {
   const pre = dom.ancestor(
     range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName));
@@ -113,6 +136,7 @@ function textFragment(text, range) {
 }
 
 // An address that is dropped as one, not as a text.
+/** @param {DataTransfer} data */
 function linkOf(data) {
   const address = data.getData('text/uri-list').split(/[\r\n]+/)
     .find((line) => /^(https?|ftp|mailto):/i.test(line));
@@ -125,6 +149,10 @@ function linkOf(data) {
 }
 
 // What the clipboard or a drop has, as markup for this page.
+/**
+ * @param {DataTransfer} data
+ * @param {Range} range
+ */
 function fragmentOf(data, range) {
   const html = data.getData('text/html');
   if (!html.trim()) return linkOf(data) ?? textFragment(data.getData('text/plain'), range);
@@ -137,7 +165,12 @@ function fragmentOf(data, range) {
 
 // Unwraps a paragraph that is all that comes in: its text joins the paragraph at the caret, since
 // programs put a P around a single word too. On an empty page it stays.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {PlainRange} caret
+ */
 function unwrapSingle(fragment, { startContainer }) {
+  /** @type {AnyNode[]} */
   const shown = [...fragment.childNodes].filter(dom.isShown);
   const [only] = shown;
   if (shown.length !== 1 || only.tagName !== 'P' || only.attributes.length) return;
@@ -145,13 +178,19 @@ function unwrapSingle(fragment, { startContainer }) {
 }
 
 // The list item that a range begins in; null for none.
+/** @param {PlainRange} range */
 function itemAt({ startContainer, startOffset }) {
   const start = dom.isList(startContainer) && startContainer.childNodes[startOffset];
   return dom.ancestor(start || startContainer, (node) => node.tagName === 'LI', dom.isCell);
 }
 // In a list paragraphs and the items of one list become items of that list.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {Range} range
+ */
 function fitIntoList(fragment, range) {
   if (!itemAt(range)) return;
+  /** @type {AnyNode[]} */
   const shown = [...fragment.childNodes].filter(dom.isShown);
   if (shown.length === 1 && /^(OL|UL)$/.test(shown[0].tagName)) dom.unwrap(shown[0]);
   else if (shown.every((node) => node.tagName === 'P')) {
@@ -160,16 +199,19 @@ function fitIntoList(fragment, range) {
 }
 
 // Drops ids that the page has: none may be in it twice.
+/** @param {DocumentFragment} fragment */
 function dropKnownIds(fragment) {
   for (const element of fragment.querySelectorAll('[id]')) {
     if (document.getElementById(element.id)) element.removeAttribute('id');
   }
 }
 
+/** @param {ClipboardEvent} event */
 function paste(event) {
   if (!dom.isEditable() || isInField(event.target)) return;
   event.preventDefault();
   const { clipboardData } = event;
+  /** @param {string} type */
   const says = (type) => clipboardData.getData(type).trim() !== '';
   // A file manager gives the names of files as text too.
   const files = /^file:/im.test(clipboardData.getData('text/uri-list'));
@@ -178,18 +220,29 @@ function paste(event) {
   else host()?.pictureWanted();
 }
 
-/** @returns {any} the open ends */
+/**
+ * @param {DataTransfer} data
+ * @returns {any} the open ends
+ */
 function openEndsIn(data) {
   const [, start, end] = origin.exec(data.getData('text/html')) ?? [];
   return start ? { start, end } : closed;
 }
 
 // Makes the fragment one that goes with what is around the range.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {Range} range
+ */
 function fit(fragment, range) {
   unwrapSingle(fragment, range);
   fitIntoList(fragment, range);
 }
 // Puts what the clipboard or a drop has in at the selection, as one step of the history.
+/**
+ * @param {DataTransfer} data
+ * @param {string} kind
+ */
 function insert(data, kind) {
   const range = selection.range();
   if (!range) return;
@@ -204,12 +257,15 @@ function insert(data, kind) {
 }
 
 // The range that is being dragged out of this page; null for what comes from elsewhere.
+/** @type {Range | null} */
 let dragged = null;
 
 // The selection is dragged, or a picture that is not in it.
+/** @param {DragEvent} event */
 function startDrag(event) {
   const range = selection.range()?.cloneRange();
-  const { target } = event;
+  /** @type {AnyNode} */
+  const target = event.target;
   dragged = range && !range.collapsed && range.intersectsNode(target) ? range : null;
   if (!dragged && target.tagName === 'IMG' && dom.isEditable()) {
     dragged = document.createRange();
@@ -224,6 +280,10 @@ const endDrag = () => { dragged = null; };
 
 // Moves (with Ctrl copies) a range to where it is dropped, as one step; the engine would take two
 // and double ids.
+/**
+ * @param {Range} range
+ * @param {DragEvent} event
+ */
 function move(range, event) {
   const target = document.caretRangeFromPoint(event.clientX, event.clientY);
   const isAway = target && document.body.contains(target.startContainer) &&
@@ -247,6 +307,7 @@ function move(range, event) {
   });
   schedulePush();
 }
+/** @param {DragEvent} event */
 function drop(event) {
   if (!dom.isEditable()) return;
   event.preventDefault();

@@ -24,7 +24,7 @@ export const closed = { start: 'closed', end: 'closed' };
  * Whether something of a paragraph stands before or behind a point in it.
  * @param {Node} node
  * @param {number} offset
- * @param {'start' | 'end'} side
+ * @param {Edge} side
  */
 export function isWithin(node, offset, side) {
   const unit = unitAt(node, offset);
@@ -37,7 +37,13 @@ export function isWithin(node, offset, side) {
   return !isAtEdge(caretAt(node, offset), unit, side);
 }
 
-/** @returns {End} */
+/**
+ * @param {Node} node
+ * @param {number} offset
+ * @param {Edge} side
+ * @param {Edge} other
+ * @returns {End}
+ */
 function endAt(node, offset, side, other) {
   if (!isWithin(node, offset, side)) return 'closed';
   return isWithin(node, offset, other) ? 'open' : 'line';
@@ -57,15 +63,27 @@ export function openEndsOf(range) {
   };
 }
 
+/** @param {ParentNode} node */
 const holdsBlock = (node) => [...node.querySelectorAll('*')].some(dom.isBlock);
 
 // The outermost node on one side that says something: layout between blocks does not, white space
 // in a paragraph does.
+/**
+ * @param {AnyNode} node
+ * @param {EdgeChild} child
+ * @param {Side} side
+ */
 const edgeIn = (node, child, side) =>
   (holdsBlock(node) ? dom.shownFrom(node[child], side) : node[child]);
 
 // Of a paragraph that only a line end was taken from there are but tags.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {EdgeChild} child
+ * @param {Side} side
+ */
 function dropEmptyEdge(fragment, child, side) {
+  /** @type {ParentNode} */
   let holder = fragment;
   let at = edgeIn(holder, child, side);
   while (dom.isElement(at) && !dom.isAtom(at)) {
@@ -81,6 +99,11 @@ function dropEmptyEdge(fragment, child, side) {
 
 // The leaf at one end of the fragment. White space alone would be taken for layout: a no-break
 // space keeps its place until the paragraphs are joined.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {EdgeChild} child
+ * @param {Side} side
+ */
 function leafAt(fragment, child, side) {
   let at = edgeIn(fragment, child, side);
   while (dom.isElement(at) && !dom.isAtom(at) && at.tagName !== 'TABLE' && at.firstChild) {
@@ -91,6 +114,10 @@ function leafAt(fragment, child, side) {
   return { node: at, blank };
 }
 
+/**
+ * @param {Unit} unit
+ * @param {Side} side
+ */
 const edgeOf = ({ block, nodes, container }, side) =>
   block || (side === 'previousSibling' ? nodes[0] : nodes.at(-1)) || container;
 
@@ -120,10 +147,16 @@ export function joinsFor(fragment, open, node, offset) {
   };
 }
 
+/** @param {AnyNode} leaf */
 const isOne = (leaf) => dom.isBlock(leaf) && (dom.isAtom(leaf) || leaf.tagName === 'TABLE');
 
 // Joins two paragraphs that were one before that was cut in two. A break at the first one's end was
 // before the caret: it holds no empty line open.
+/**
+ * @param {Unit} first
+ * @param {Unit} second
+ * @param {ChildNode | null} blank
+ */
 function joinHalves(first, second, blank) {
   const between = join(first, second, null, first.nodes.at(-1) ?? null);
   if (blank) second.nodes[0].before(blank);
@@ -132,6 +165,10 @@ function joinHalves(first, second, blank) {
 
 // Joins the paragraph that a leaf begins or ends with the one on that side of it. Text that was put
 // in beside text is in its paragraph already.
+/**
+ * @param {AnyNode} leaf
+ * @param {Side} side
+ */
 function joinWith(leaf, side) {
   const back = side === 'previousSibling';
   const unit = leaf?.isConnected && !isOne(leaf) ? unitOfLeaf(leaf) : null;
@@ -149,4 +186,5 @@ function joinWith(leaf, side) {
 }
 
 // White space at the edge of a paragraph was a blank between words before that was cut in two.
+/** @param {AnyNode} node */
 const blankOf = (node) => (dom.isText(node) && /^[ \t\n]+$/.test(node.data) ? node : null);

@@ -14,6 +14,7 @@ import { holdOpen, dropEmptyInline } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { resolveAll, splitText } from '../page/standIns.js';
 
+/** @param {string} html */
 function parse(html) {
   const template = document.createElement('template');
   template.innerHTML = html;
@@ -21,6 +22,10 @@ function parse(html) {
 }
 
 // The element that must be cut for blocks to come in at a node; null where none needs to.
+/**
+ * @param {AnyNode} node
+ * @param {boolean} items
+ */
 function cutAt(node, items) {
   let top = null;
   for (let at = node; at && !dom.isCell(at); at = at.parentNode) {
@@ -32,6 +37,11 @@ function cutAt(node, items) {
 }
 
 // Cuts an element in two at a point in it; answers both halves.
+/**
+ * @param {AnyNode} node
+ * @param {number} offset
+ * @param {AnyNode} top
+ */
 function cutInTwo(node, offset, top) {
   if (dom.isText(node)) {
     node = offset === 0 ? node : splitText(node, offset);
@@ -44,6 +54,10 @@ function cutInTwo(node, offset, top) {
 }
 
 // An empty block gives its name to the one that comes in its place.
+/**
+ * @param {AnyNode} block
+ * @param {AnyNode} next
+ */
 function giveName(block, next) {
   if (!block.id || !dom.isElement(next) || !dom.isBlock(next) || next.id) return;
   const { id } = block;
@@ -52,6 +66,7 @@ function giveName(block, next) {
   next.id = id;
 }
 // The comments in a block, in document order.
+/** @param {Node} block */
 function commentsIn(block) {
   const walker = document.createTreeWalker(block, NodeFilter.SHOW_COMMENT);
   const comments = [];
@@ -60,6 +75,10 @@ function commentsIn(block) {
 }
 // Drops a half that nothing is left in; tells whether it did. Comments, and the
 // server code that stands as such, stay.
+/**
+ * @param {AnyNode} half
+ * @param {AnyNode} [next]
+ */
 function dropIfHollow(half, next = null) {
   if (dom.isHollow(half) && ![...half.querySelectorAll('*')].some(dom.isAtom)) {
     giveName(half, next);
@@ -71,20 +90,32 @@ function dropIfHollow(half, next = null) {
 
 // Makes the fragment one that may stand in a list: items, those of lists in it too; anything else
 // goes into an item.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {Element} list
+ */
 function makeItems(fragment, list) {
   const definitions = list.tagName === 'DL';
   const tag = definitions ? 'DD' : 'LI';
+  /** @param {AnyNode} node */
   const fits = (node) => (definitions ? /^(DT|DD)$/.test(node.tagName) : node.tagName === 'LI');
+  /** @param {AnyNode} node */
   const isSame = (node) => (definitions ? node.tagName === 'DL' : dom.isList(node));
   for (const node of [...fragment.childNodes]) {
     if (isSame(node)) dom.unwrap(node);
-    else if (/^(P|LI)$/.test(node.tagName) && !fits(node)) dom.rename(node, tag);
+    else if (/^(P|LI)$/.test(node.nodeName) && !fits(node)) dom.rename(node, tag);
     else if (dom.isShown(node) && !fits(node)) dom.wrap([node], dom.create(tag));
   }
 }
+/** @param {AnyNode} node */
 const isListOf = (node) => dom.isList(node) || node.tagName === 'DL';
 
 // Puts a fragment with blocks in at a point.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {AnyNode} node
+ * @param {number} offset
+ */
 function putBlocks(fragment, node, offset) {
   const tops = [...fragment.children];
   const items = tops.length > 0 && tops.every(({ tagName }) => tagName === 'LI');
@@ -109,6 +140,10 @@ function putBlocks(fragment, node, offset) {
 
 // Puts the caret behind blocks that were put in: to the start of what follows, else to the end of
 // the last one.
+/**
+ * @param {AnyNode} last
+ * @param {AnyNode} following
+ */
 function setCaretBehindBlocks(last, following) {
   const text = following && dom.firstLeaf(following);
   if (text) {
@@ -125,12 +160,18 @@ function setCaretBehindBlocks(last, following) {
   else setCaretBehind(leaf);
 }
 
+/** @param {AnyNode} node */
 function setCaretBehind(node) {
   const index = [...node.parentNode.childNodes].indexOf(node);
   selection.setCaret(node.parentNode, index + 1);
 }
 
 // Puts a fragment in at a point, as it is.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {AnyNode} node
+ * @param {number} offset
+ */
 function insertAt(fragment, node, offset) {
   if (dom.isText(node)) {
     const second = offset === 0 ? node : splitText(node, offset);
@@ -143,15 +184,22 @@ function insertAt(fragment, node, offset) {
 }
 
 // The break that holds an empty block open.
+/** @param {AnyNode} node */
 function holderAt(node) {
   const block = dom.blockOf(node);
   return dom.isHollow(block) ? block.querySelector('br') : null;
 }
 
 // Takes emphasis out of the fragment that the text around it has already: no B comes into a B.
+/** @type {Record<string, string>} */
 const likes = { STRONG: 'B', EM: 'I', STRIKE: 'S' };
 const emphasis = 'b, strong, i, em, u, s, strike, code, sub, sup';
+/** @param {Element} element */
 const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
+/**
+ * @param {DocumentFragment} fragment
+ * @param {AnyNode} node
+ */
 function dropDoubleEmphasis(fragment, node) {
   const around = new Set();
   for (let at = node; !dom.isBlock(at); at = at.parentNode) around.add(kindOf(at));
@@ -159,9 +207,15 @@ function dropDoubleEmphasis(fragment, node) {
     if (!element.attributes.length && around.has(kindOf(element))) dom.unwrap(element);
   }
 }
+/** @param {AnyNode} node */
 const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
 
 // Puts a fragment without blocks in at a point.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {AnyNode} node
+ * @param {number} offset
+ */
 function putInline(fragment, node, offset) {
   const holder = holderAt(node);
   dropDoubleEmphasis(fragment, node);
@@ -182,9 +236,11 @@ function putInline(fragment, node, offset) {
   else setCaretBehind(last);
 }
 
+/** @param {ParentNode} fragment */
 const holdsBlock = (fragment) => [...fragment.querySelectorAll('*')].some(dom.isBlock);
 
 // Drops ids that the page has: none may be in it twice.
+/** @param {DocumentFragment} fragment */
 function dropTakenIds(fragment) {
   for (const element of fragment.querySelectorAll('[id]')) {
     if (document.getElementById(element.id)) element.removeAttribute('id');
@@ -192,6 +248,10 @@ function dropTakenIds(fragment) {
 }
 
 // Deletes what the fragment replaces, and the ids in the fragment that the page still has then.
+/**
+ * @param {Range} range
+ * @param {DocumentFragment} fragment
+ */
 function makeRoom(range, fragment) {
   const object = selection.control(range);
   const gone = object && fragment.firstChild && objects.replaceByLine(object);
@@ -219,6 +279,11 @@ export const put = (fragment, open = closed) => {
   blanks.watched({ inputType: 'insertText' });
 };
 
+/**
+ * @param {DocumentFragment} fragment
+ * @param {import('./openEnds.js').OpenEnds} open
+ * @param {Range} range
+ */
 function putJoined(fragment, open, range) {
   const ends = holdsBlock(fragment) ? open : closed;
   const join = joinsFor(fragment, ends, range.startContainer, range.startOffset);
@@ -227,11 +292,16 @@ function putJoined(fragment, open, range) {
 }
 
 // Puts a fragment in at the caret.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {PlainRange} caret
+ */
 function putAt(fragment, { startContainer, startOffset }) {
   if (dom.rawAt(startContainer)) {
     const parts = holdsBlock(fragment) ? [...fragment.childNodes] : [fragment];
     fragment.replaceChildren(parts.map((part) => part.textContent).join('\n'));
   }
+  /** @type {AnyNode} */
   const home = dom.isText(startContainer) ? startContainer.parentNode : startContainer;
   if (isListOf(home)) makeItems(fragment, home);
   if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
@@ -239,14 +309,24 @@ function putAt(fragment, { startContainer, startOffset }) {
 }
 
 // The lists and tables that parts of such stand in.
+/** @type {Record<string, string>} */
 const homes = {
   LI: 'UL', DT: 'DL', DD: 'DL', TR: 'TABLE', TBODY: 'TABLE', TFOOT: 'TABLE', THEAD: 'TABLE',
 };
+/** @param {AnyNode} node */
 const takesItems = (node) => node.tagName === 'LI' || dom.isList(node);
+/**
+ * @param {AnyNode} node
+ * @param {string} home
+ */
 const isIn = (node, home) =>
   dom.ancestor(node, home === 'UL' ? takesItems : isListOf, dom.isCell) !== null;
 // Puts items and rows that come without their list or table into a new one, unless the place that
 // they go to (`node`) is in one; cells and options become what they hold.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {Node} node
+ */
 function wrapParts(fragment, node) {
   for (const part of [...fragment.children]) {
     if (/^(CAPTION|COL|COLGROUP|OPTGROUP|OPTION|TD|TH)$/.test(part.tagName)) {
@@ -257,6 +337,7 @@ function wrapParts(fragment, node) {
     if (!home || part.parentNode !== fragment) continue;
     if (home !== 'TABLE' && isIn(node, home)) continue;
     const parts = [];
+    /** @param {AnyNode} at */
     const belongs = (at) => homes[at.tagName] === home || !dom.isShown(at);
     /** @type {any} */
     let at = part;
@@ -285,6 +366,7 @@ export const pasteHTML = (html) => history.step('pasteHTML', () => {
 });
 
 // Puts the caret into a new table's first cell, where that is empty.
+/** @param {HTMLTableElement} table */
 function enterTable(table) {
   const cell = table.rows[0]?.cells[0];
   const isEmpty = cell && cell.textContent.trim() === '' && !cell.querySelector('*:not(br)');

@@ -8,12 +8,16 @@ import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import { enclose, unitsIn } from '../page/units.js';
 
+/** @typedef {'left' | 'center' | 'right'} AlignSide */
+
 const objects = new Set(['HR', 'TABLE']);
 // The block that has a paragraph's alignment; null where one has to be made.
+/** @param {Unit} unit */
 const bearer = ({ block }) =>
   block && (/^(P|DIV|H[1-6]|ADDRESS|HR|TABLE)$/.test(block.tagName) || dom.isPreformatted(block))
     ? block : null;
 
+/** @param {Element} element */
 function sideOf(element) {
   const { textAlign, direction } = getComputedStyle(element);
   const side = textAlign.replace('-webkit-', '');
@@ -23,10 +27,13 @@ function sideOf(element) {
 }
 
 // A table or rule is aligned by its margins: these are `auto` for each side.
+/** @type {Record<AlignSide, string[]>} */
 const margins = { left: [], center: ['margin-left', 'margin-right'], right: ['margin-left'] };
+/** @param {AnyNode} object */
 function placeOf(object) {
   const written = object.getAttribute('align');
   if (written) return written.toLowerCase();
+  /** @param {string} side */
   const isAuto = (side) => object.style.getPropertyValue(`margin-${side}`) === 'auto';
   if (!isAuto('left')) return 'left';
   return isAuto('right') ? 'center' : 'right';
@@ -43,10 +50,16 @@ export function read(unit) {
 }
 
 // Where the page has an alignment of its own it stays: in the attribute or in the style.
+/** @param {HTMLElement} element */
 const spellingOf = (element) => {
   if (element.hasAttribute('align')) return 'attribute';
   return element.style.textAlign ? 'style' : null;
 };
+/**
+ * @param {HTMLElement} element
+ * @param {AlignSide} side
+ * @param {'attribute' | 'style' | null} spelling
+ */
 function write(element, side, spelling) {
   const styled = dom.writesStyles();
   if (spelling === 'attribute' || (!spelling && !styled)) element.setAttribute('align', side);
@@ -56,6 +69,7 @@ function write(element, side, spelling) {
 
 // Takes the alignment off an element. The attribute stays, without a value, which aligns nothing:
 // so one that is written next is in its place among the others.
+/** @param {HTMLElement} element */
 function clear(element) {
   history.attributesOf(element);
   if (element.hasAttribute('align')) element.setAttribute('align', '');
@@ -67,6 +81,10 @@ function clear(element) {
 }
 
 // Aligns an element; false where it has the side without anything written there.
+/**
+ * @param {HTMLElement} element
+ * @param {AlignSide} side
+ */
 function change(element, side) {
   const spelling = spellingOf(element);
   clear(element);
@@ -78,8 +96,13 @@ function change(element, side) {
 
 // Aligns one paragraph. Bare text in the body becomes a P for that, in a cell or an item a DIV: a P
 // would have margins there.
+/**
+ * @param {Unit} unit
+ * @param {AlignSide} side
+ */
 function apply(unit, side) {
   if (read(unit) === side) return;
+  /** @type {AnyNode} */
   let element = bearer(unit);
   if (element) {
     if (!change(element, side)) unwrapBareDivision(element);
@@ -90,7 +113,9 @@ function apply(unit, side) {
   write(element, side, null);
 }
 
+/** @param {Unit} unit */
 const keyOf = ({ block, nodes, container }) => block ?? nodes[0] ?? container;
+/** @param {HTMLElement} element */
 const within = (element) => {
   const range = document.createRange();
   range.selectNodeContents(element);
@@ -99,10 +124,15 @@ const within = (element) => {
 
 // The elements around the units that align these and nothing else: they are changed, so that no
 // second alignment comes inside them.
+/**
+ * @param {Unit[]} units
+ * @param {AlignSide} side
+ */
 function carriersOf(units, side) {
   const chosen = new Set(units.map(keyOf));
   const judged = new Map();
   for (const unit of units) {
+    /** @param {AnyNode} node */
     const isCarrier = (node) => /^(DIV|BLOCKQUOTE|TD|TH)$/.test(node.tagName) &&
       spellingOf(node) !== null;
     const at = dom.ancestor(unit.block?.parentNode ?? unit.container, isCarrier);
@@ -115,7 +145,7 @@ function carriersOf(units, side) {
 /**
  * Aligns paragraphs, tables and rules.
  * @param {Unit[]} units
- * @param {'left' | 'center' | 'right'} side
+ * @param {AlignSide} side
  */
 export function applyAll(units, side) {
   for (const carrier of carriersOf(units, side)) change(carrier, side);
@@ -124,6 +154,7 @@ export function applyAll(units, side) {
 
 // Unwraps a division that is all of an item or cell and has no attributes left: it was there for
 // the alignment.
+/** @param {AnyNode} element */
 function unwrapBareDivision(element) {
   const item = element.parentNode;
   const carried = element.tagName === 'DIV' && !element.attributes.length &&

@@ -12,12 +12,17 @@ export const declarations = (element) =>
 /**
  * A test of a declaration: whether it is one of this property.
  * @param {string} property
+ * @returns {(declaration: string) => boolean}
  */
 export const isOf = (property) => (declaration) =>
   declaration.slice(0, declaration.indexOf(':')).trim().toLowerCase() === property;
 
 
 // Writes the declarations that are left, and the last semicolon where the style has it.
+/**
+ * @param {Element} element
+ * @param {string[]} all
+ */
 function write(element, all) {
   const end = /;\s*$/.test(element.getAttribute('style') ?? '') ? ';' : '';
   const left = all.filter((each) => each.trim());
@@ -26,12 +31,17 @@ function write(element, all) {
 }
 
 // The words of these properties in the shorthand `font`, which stands for less without them.
+/** @type {Record<string, RegExp>} */
 const fontWords = {
   'font-weight': /(:|\s)(bold|bolder|lighter|[1-9]00)(?=\s)/i,
   'font-style': /(:|\s)(italic|oblique)(?=\s)/i,
 };
 // A declaration without one of several properties that it sets, as the engine spells what is left;
 // nothing where that says nothing.
+/**
+ * @param {string} declaration
+ * @param {string} property
+ */
 function withoutPart(declaration, property) {
   const scratch = document.createElement('span');
   scratch.setAttribute('style', declaration);
@@ -43,6 +53,10 @@ function withoutPart(declaration, property) {
   const [space] = /^\s*/.exec(declaration);
   return space + scratch.style.cssText.replace(/;$/, '');
 }
+/**
+ * @param {Element} element
+ * @param {string} property
+ */
 function takeFromShorthand(element, property) {
   const all = declarations(element);
   const word = fontWords[property];

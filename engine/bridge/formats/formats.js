@@ -9,24 +9,36 @@ import { create, isBlock, isHeading, isInline } from '../page/dom.js';
 import * as history from '../page/history.js';
 import { declarations, isOf, putDeclaration, takeDeclaration } from './declarations.js';
 
+/** @param {Element} element */
 const style = (element) => getComputedStyle(element);
 
-// A computed colour: `light` is red, green and blue (0 to 255), `cover` its alpha (0 to 1).
+/**
+ * A computed colour: `light` is red, green and blue (0 to 255), `cover` its alpha (0 to 1).
+ * @typedef {{ light: number[], cover: number }} Colour
+ */
+/** @param {string} colour */
 function colourOf(colour) {
   const [red, green, blue, cover = 1] = colour.match(/[\d.]+/g).map(Number);
   return { light: [red, green, blue], cover };
 }
 // The light that is seen where a colour lies on another.
+/**
+ * @param {number[]} below
+ * @param {Colour} colour
+ */
 const laidOn = (below, { light, cover }) =>
   light.map((part, index) => part * cover + below[index] * (1 - cover));
+/** @param {number[]} light */
 const hex = (light) => '#' +
   light.map((part) => Math.round(part).toString(16).padStart(2, '0').toUpperCase()).join('');
 
 // CSS pixels are 96 an inch, points 72.
+/** @param {number} pixels */
 const points = (pixels) => (pixels * 72) / 96;
 // The points of FONT's sizes 1 to 7.
 const sizePoints = [8, 10, 12, 14, 18, 24, 36];
 // FONT's size (1 to 7) that comes nearest to a size as `sizeText` writes it.
+/** @param {string} text */
 function sizeNumber(text) {
   const number = parseFloat(text);
   const wanted = text.endsWith('px') ? points(number) : number;
@@ -38,14 +50,18 @@ function sizeNumber(text) {
 }
 
 // The element and those around it, outwards.
+/** @param {AnyNode} element */
 const ancestors = function* (element) {
   for (let at = element; at && at !== document; at = at.parentNode) yield at;
 };
 
 // A heading, a table's header cell, a link and inserted text have their look by nature: that alone
 // is no format, so that bold in a heading and underline in a link can be told apart and toggled.
+/** @param {HTMLElement} element */
 const boldByNature = (element) => isHeading(element) || element.tagName === 'TH';
+/** @param {HTMLElement} element */
 const isBoldType = (element) => Number(style(element).fontWeight) >= 600;
+/** @param {HTMLElement} element */
 function bold(element) {
   for (const at of ancestors(element)) {
     if (!isBoldType(at)) return false;
@@ -57,6 +73,12 @@ function bold(element) {
 // A function that reads a value from the nearest element outwards for which `readAt` answers
 // something else than undefined; `otherwise` where none does. Results are kept in `known` for all
 // elements on the way: many texts have ancestors in common.
+/**
+ * @template T
+ * @param {(at: AnyNode) => T | undefined} readAt
+ * @param {T} otherwise
+ * @returns {(element: Element, known?: Map<Node, T>) => T}
+ */
 const readOutwards = (readAt, otherwise) => (element, known = new Map()) => {
   const passed = [];
   let answer = undefined;
@@ -79,6 +101,10 @@ const underline = readOutwards((at) => {
 }, false);
 // The light that is seen behind text in an element: the backgrounds of the elements around it, as
 // far as the inner ones let the outer ones through.
+/**
+ * @param {Element} element
+ * @param {Map<Node, number[]>} [known]
+ */
 function lightBehind(element, known = new Map()) {
   const layers = [];
   let light = [255, 255, 255];
@@ -98,12 +124,17 @@ function lightBehind(element, known = new Map()) {
   return light;
 }
 // The light of text in an element.
+/**
+ * @param {Element} element
+ * @param {Map<Node, number[]>} [known]
+ */
 function textColour(element, known) {
   const own = colourOf(style(element).color);
   return own.cover === 1 ? own.light : laidOn(lightBehind(element, known), own);
 }
 
 // The size that FONT's attribute comes to (1 to 7) as the engine reads it; 0 for none.
+/** @param {Element} font */
 function fontNumber(font) {
   const [, sign, digits] = /^\s*([+-]?)(\d+)/.exec(font.getAttribute('size') ?? '') ?? [];
   if (!digits) return 0;
@@ -119,6 +150,7 @@ const isInPixels = readOutwards((at) => {
 }, false);
 // The computed size in an element: one of the seven sizes as a bare number of points; any other
 // with its unit: the one that the page says, else that in which it is a whole number.
+/** @param {HTMLElement} element */
 function sizeText(element) {
   const pixels = parseFloat(style(element).fontSize);
   const size = points(pixels);
@@ -131,6 +163,7 @@ function sizeText(element) {
 
 // The size of text in an element. In a FONT it is that of its attribute: what the engine shows that
 // with differs by typeface.
+/** @param {HTMLElement} element */
 function fontSize(element) {
   for (const at of ancestors(element)) {
     if (dom.isBlock(at) || (at.tagName === 'FONT' && at.style.fontSize)) break;
@@ -142,6 +175,7 @@ function fontSize(element) {
 }
 
 // True for a block that holds no other ones: its style is its text's alone.
+/** @param {HTMLElement} element */
 const holdsText = (element) => ![...element.children].some(isBlock);
 
 /**
@@ -151,17 +185,22 @@ const holdsText = (element) => ![...element.children].some(isBlock);
  */
 function defineFormat(entry) {
   const tags = new Set(entry.tags);
+  /** @param {FormatValue} value */
   const spelled = (value) => value;
   const { property, attribute, part, inAttribute = spelled, inStyle = spelled } = entry;
   // The property's value in an element's inline style, '' for none.
+  /** @param {HTMLElement} element */
   const written = ({ style: own }) =>
     (part ? own?.textDecorationLine : own?.getPropertyValue(property)) ?? '';
+  /** @param {HTMLElement} element */
   const isStyled = (element) =>
     (part ? written(element).split(' ').includes(part) : written(element) !== '');
   // True for an element that gives the format by its tag, or by FONT's attribute.
+  /** @param {HTMLElement} element */
   const isMarkup = (element) => tags.has(element.tagName) ||
     (element.tagName === 'FONT' && element.hasAttribute(attribute));
   // Takes the format out of an inline style; other words of the same declaration stay.
+  /** @param {HTMLElement} element */
   function unstyle(element) {
     const shared = part && written(element) !== part &&
       declarations(element).find((each) => /^\s*text-decoration(-line)?\s*:/i.test(each));
@@ -210,9 +249,14 @@ function defineFormat(entry) {
 }
 
 // Makes a SPAN with a style.
+/**
+ * @param {string} property
+ * @returns {(value: FormatValue) => HTMLElement}
+ */
 const css = (property) => (value) => create('SPAN', { style: `${property}: ${value}` });
 
 // A list of fonts as CSS has it: names of several words in quotes.
+/** @param {string} names */
 const fontFamily = (names) => names.split(',')
   .map((name) => name.replace(/['"\\;]/g, '').trim())
   .map((name) => (/^[a-z][a-z0-9-]*$/i.test(name) ? name : `'${name}'`)).join(', ');
@@ -248,14 +292,15 @@ export const formats = {
     parse: (value) => String(sizePoints[sizeNumber(value) - 1]),
     tags: ['BIG', 'SMALL'], attribute: 'size', inAttribute: sizeNumber,
     property: 'font-size',
-    inStyle: (value) => (/\d$/.test(value) ? `${value}pt` : value.replace(' ', '')),
+    inStyle: (/** @type {string} */ value) =>
+      (/\d$/.test(value) ? `${value}pt` : value.replace(' ', '')),
   }),
   foreColor: defineFormat({
-    read: (element, known) => hex(textColour(element, known)),
+    read: (element, known) => hex(textColour(element, /** @type {Map<Node, number[]>} */ (known))),
     tags: [], attribute: 'color', property: 'color', insideLinks: true,
   }),
   backColor: defineFormat({
-    read: (element, known) => hex(lightBehind(element, known)),
+    read: (element, known) => hex(lightBehind(element, /** @type {Map<Node, number[]>} */ (known))),
     tags: [], property: 'background-color',
   }),
 };

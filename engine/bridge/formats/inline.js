@@ -5,11 +5,13 @@
 // wrapped in as few elements as possible. `chosen` is the set of texts that are formatted, `reads`
 // tells whether an element gives the wanted look.
 import { formats } from './formats.js';
+import { joinTexts, mergeWith } from './merging.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
 
 // Cuts the texts at the ends of the range in two, so that all that is selected is whole texts;
 // answers those.
+/** @param {Range} range */
 function splitTextsAtEnds(range) {
   const { startContainer, startOffset, endContainer, endOffset } = range;
   const texts = selection.textsIn(range);
@@ -20,6 +22,10 @@ function splitTextsAtEnds(range) {
   return texts;
 }
 
+/**
+ * @param {AnyNode} node
+ * @returns {Generator<Text>}
+ */
 const textsUnder = function* (node) {
   if (dom.isText(node)) {
     if (!dom.isIgnorable(node)) yield node;
@@ -29,6 +35,10 @@ const textsUnder = function* (node) {
 };
 
 // How much of a node's text is in the set: 'all', 'some' or 'none' of it; 'empty' without text.
+/**
+ * @param {AnyNode} node
+ * @param {Set<Text>} chosen
+ */
 function coverage(node, chosen) {
   let inside = false;
   let outside = false;
@@ -42,8 +52,15 @@ function coverage(node, chosen) {
 }
 
 // Gives the format that `carrier` loses back to the part of its content that is not chosen.
+/**
+ * @param {Format} format
+ * @param {HTMLElement} carrier
+ * @param {Set<Text>} chosen
+ */
 function pushDown(format, carrier, chosen) {
+  /** @param {AnyNode} parent */
   const give = (parent) => {
+    /** @type {AnyNode[]} */
     let group = [];
     const flush = () => {
       while (group.length && coverage(group.at(-1), chosen) === 'empty') group.pop();
@@ -66,6 +83,10 @@ function pushDown(format, carrier, chosen) {
   give(carrier);
   format.strip(carrier);
 }
+/**
+ * @param {AnyNode} node
+ * @returns {boolean}
+ */
 const holdsBlock = (node) =>
   dom.isInline(node) && !dom.isAtom(node) &&
   [...node.children].some((child) => dom.isBlock(child) || holdsBlock(child));
@@ -74,11 +95,20 @@ const holdsBlock = (node) =>
 // first: what holds nothing but them, and what stands before an ancestor with the wanted look.
 // Another one stays around the new format, as a person would write it; so does what is in a cell
 // or table with the look that holds other text too, where an element inside can give another look.
+/** @param {Element} element */
 const isPartOfTable = ({ tagName }) => /^(TABLE|TBODY|TD|TFOOT|TH|THEAD|TR)$/.test(tagName);
+/**
+ * @param {Format} format
+ * @param {Text[]} texts
+ * @param {Set<Text>} chosen
+ * @param {Test} reads
+ * @param {FormatValue} value
+ */
 function carriersOf(format, texts, chosen, reads, value) {
   const carriers = new Set();
   const whole = remembered((carrier) => coverage(carrier, chosen) === 'all');
   const canBeInside = format.write(value) !== null;
+  /** @param {AnyNode} carrier */
   const stays = (carrier) => canBeInside && isPartOfTable(carrier) && !whole(carrier);
   for (const text of texts) {
     const chain = [];
@@ -92,6 +122,11 @@ function carriersOf(format, texts, chosen, reads, value) {
   return carriers;
 }
 // The same function, which asks `judge` once only for each node.
+/**
+ * @template T
+ * @param {(node: AnyNode) => T} judge
+ * @returns {(node: AnyNode) => T}
+ */
 function remembered(judge) {
   const known = new Map();
   return (node) => {
@@ -102,9 +137,16 @@ function remembered(judge) {
 
 // The outermost inline node around a text that holds chosen texts only; `covers` keeps what is
 // known.
+/**
+ * @param {Text} text
+ * @param {Set<Text>} chosen
+ * @param {Format} format
+ * @param {Map<Node, boolean>} covers
+ */
 function highest(text, chosen, format, covers) {
+  /** @type {Node} */
   let node = text;
-  for (let parent = node.parentNode; dom.isInline(parent); parent = parent.parentNode) {
+  for (let parent = text.parentElement; dom.isInline(parent); parent = parent.parentElement) {
     if (format.insideLinks && parent.tagName === 'A') break;
     if (!covers.has(parent)) {
       const holdsLink = format.insideLinks && parent.querySelector('a[href]');
@@ -116,10 +158,13 @@ function highest(text, chosen, format, covers) {
   return node;
 }
 
+/** @type {Set<Text>} */
 const nothing = new Set();
 
 // Runs of neighbouring nodes; breaks and objects between two of them go along.
+/** @param {Iterable<AnyNode>} tops */
 function runsOf(tops) {
+  /** @type {AnyNode[][]} */
   const runs = [];
   for (const top of tops) {
     const run = runs.at(-1);
@@ -138,6 +183,10 @@ function runsOf(tops) {
 
 // The first element that fits, of those that hold all of a run each, from outside inwards; null for
 // none.
+/**
+ * @param {AnyNode[]} run
+ * @param {Test} fits
+ */
 function within(run, fits) {
   let only = run.length === 1 ? run[0] : null;
   while (dom.isInline(only) && !dom.isAtom(only) && !(only.tagName === 'A') && !fits(only)) {
@@ -147,6 +196,10 @@ function within(run, fits) {
 }
 
 // Joins a FONT with the FONT that is all it holds; answers the one that is left.
+/**
+ * @param {AnyNode} font
+ * @returns {AnyNode}
+ */
 function joinFonts(font) {
   const [inner] = font.childNodes;
   const isBare = font.childNodes.length === 1 && inner.tagName === 'FONT' &&
@@ -159,6 +212,11 @@ function joinFonts(font) {
 
 // The element to put around a run. Where the run is in one of that tag already, which the page's
 // rules have taken the look off, another one would not help.
+/**
+ * @param {Format} format
+ * @param {FormatValue} value
+ * @param {AnyNode[]} run
+ */
 function wrapperFor(format, value, run) {
   const element = format.write(value);
   const inLike = format.inLike && element.tagName !== 'SPAN' &&
@@ -167,13 +225,18 @@ function wrapperFor(format, value, run) {
 }
 
 // Gives a run the format, by an element that is there or a new one; answers that, null for none.
+/**
+ * @param {Format} format
+ * @param {AnyNode[]} run
+ * @param {FormatValue} value
+ */
 function putOnRun(format, run, value) {
   const wrapper = wrapperFor(format, value, run);
   if (!wrapper) return null;
   // A FONT that is there is used in any dialect.
   const font = format.attribute && within(run, ({ tagName }) => tagName === 'FONT');
   if (font) {
-    font.setAttribute(format.attribute, format.inAttribute(value));
+    font.setAttribute(format.attribute, String(format.inAttribute(value)));
     return joinFonts(font);
   }
   const span = wrapper.tagName === 'SPAN' && within(run, ({ tagName }) => tagName === 'SPAN');
@@ -192,85 +255,14 @@ function putOnRun(format, run, value) {
   return wrapper;
 }
 
-const mergeable = new Set(['B', 'EM', 'FONT', 'I', 'SPAN', 'STRONG', 'U', 'BIG', 'SMALL']);
-// True when both look the same: by the same markup, or each by markup of the format alone.
-function alike(format, element, other) {
-  if (!dom.isElement(other)) return false;
-  const bare = (each) => format.carries(each) && !dom.isBlock(each) &&
-    format.shell(each).tagName === each.tagName && dom.sameLooks(format.shell(each), each);
-  const isSame = () => format.same(format.read(element), format.read(other));
-  const isNamesake = other.tagName === element.tagName && mergeable.has(element.tagName) &&
-    !element.id;
-  if (isNamesake && dom.sameLooks(element, other)) return true;
-  if (bare(element) && bare(other)) return isSame();
-  if (!isNamesake) return false;
-  // The format itself may be spelled otherwise.
-  const rest = (each) => {
-    const copy = each.cloneNode(false);
-    if (format.attribute) copy.removeAttribute(format.attribute);
-    copy.style.removeProperty(format.property);
-    if (!copy.style.length) copy.removeAttribute('style');
-    return copy;
-  };
-  return format.carries(element) && format.carries(other) && isSame() &&
-    dom.sameLooks(rest(element), rest(other));
-}
-
-// True for an element that may as well stand inside one of the format: it looks the same.
-function canGoInside(format, outer) {
-  if (format.carries(outer)) return false;
-  if (/^(B|EM|I|STRONG)$/.test(outer.tagName)) return !outer.attributes.length;
-  return /^(FONT|SPAN)$/.test(outer.tagName) && !outer.id &&
-    /^font-(weight|style)$/.test(format.property);
-}
-// Turns a neighbour inside out where all of it has the format within such elements: the format is
-// outside then. Answers the neighbour as it is afterwards.
-function turnedInsideOut(format, element, neighbour) {
-  for (let at = neighbour; dom.isElement(at) && canGoInside(format, at); at = at.firstChild) {
-    const inner = at.firstChild;
-    if (at.childNodes.length !== 1) break;
-    if (!alike(format, element, inner)) continue;
-    inner.replaceWith(...inner.childNodes);
-    return dom.wrap([neighbour], inner);
-  }
-  return neighbour;
-}
-
-// Joins the element with its neighbour where both are alike, into the older one of the two; answers
-// the one that is left.
-function mergeWith(format, element, side, isNew) {
-  if (!dom.isElement(element[side])) return element;
-  const other = turnedInsideOut(format, element, element[side]);
-  if (!alike(format, element, other)) return element;
-  const [stays, gone] = isNew ? [other, element] : [element, other];
-  const before = (side === 'previousSibling') === isNew;
-  if (before) stays.append(...gone.childNodes);
-  else stays.prepend(...gone.childNodes);
-  gone.remove();
-  return stays;
-}
-
-/**
- * Joins each of the texts with the texts right beside it; the anchors stay at their characters.
- * @param {Iterable<Node>} nodes
- * @param {any[]} anchors
- */
-export function joinTexts(nodes, anchors) {
-  for (const node of nodes) {
-    if (!dom.isText(node) || !node.parentNode) continue;
-    let first = node;
-    while (dom.isText(first.previousSibling)) first = first.previousSibling;
-    for (let next = first.nextSibling; dom.isText(next); next = first.nextSibling) {
-      for (const anchor of anchors.filter(({ node: at }) => at === next)) {
-        Object.assign(anchor, { node: first, offset: first.length + anchor.offset });
-      }
-      first.appendData(next.data);
-      next.remove();
-    }
-  }
-}
-
 // The parents of the texts that give a look which the text has without them too.
+/**
+ * @param {Format} entry
+ * @param {Text[]} texts
+ * @param {Set<Text>} chosen
+ * @param {Test} reads
+ * @returns {AnyNode[]}
+ */
 function needless(entry, texts, chosen, reads) {
   const whole = remembered((element) => coverage(element, chosen) === 'all');
   const parents = new Set(texts.map((text) => text.parentNode));
@@ -280,6 +272,11 @@ function needless(entry, texts, chosen, reads) {
 
 // The page's own rules may give text in one of the new elements another look: such text is
 // formatted by itself, and the element given up. Answers the elements that are left.
+/**
+ * @param {Format} entry
+ * @param {AnyNode[]} elements
+ * @param {FormatValue} value
+ */
 function formatAgainstRules(entry, elements, value) {
   const reads = remembered((element) => entry.read(element));
   const stubborn = elements.map((element) => new Set([...textsUnder(element)]
@@ -295,6 +292,11 @@ function formatAgainstRules(entry, elements, value) {
 
 // The elements of the format around the texts that have no effect: all of the text in them lacks
 // the look and gets an element inside.
+/**
+ * @param {Format} entry
+ * @param {Text[]} texts
+ * @param {Set<Text>} chosen
+ */
 function withoutEffect(entry, texts, chosen) {
   const around = new Set();
   for (const text of texts) {
@@ -309,9 +311,15 @@ function withoutEffect(entry, texts, chosen) {
 // Puts a format on texts; answers the nodes whose neighbours may have become texts to join. Each
 // pass reads first and writes then, since the engine computes styles anew for what is read after a
 // change.
+/**
+ * @param {string} name
+ * @param {FormatValue} value
+ * @param {Text[]} texts
+ */
 function putOn(name, value, texts) {
   const entry = formats[name];
   const touched = new Set();
+  /** @param {Node} node */
   const around = (node) => {
     for (const near of [node.previousSibling, node, node.nextSibling]) {
       if (near) touched.add(near);
@@ -319,6 +327,7 @@ function putOn(name, value, texts) {
   };
   texts.forEach(around);
   const all = new Set(texts);
+  /** @param {AnyNode} element */
   const reads = (element) => entry.same(entry.read(element), value);
   for (const carrier of carriersOf(entry, texts, all, remembered(reads), value)) {
     pushDown(entry, carrier, all);
@@ -341,6 +350,11 @@ function putOn(name, value, texts) {
 }
 
 // True where all of the range has the format's value.
+/**
+ * @param {string} name
+ * @param {FormatValue} value
+ * @param {Range} range
+ */
 function isThere(name, value, range) {
   const { read, same } = formats[name];
   const elements = new Set(selection.textsIn(range).map((text) => text.parentElement));
@@ -349,6 +363,10 @@ function isThere(name, value, range) {
 
 // The selection's two ends as anchors: at its outermost texts, or beside the picture, island or
 // break that it begins or ends with.
+/**
+ * @param {Text[]} texts
+ * @param {Range} range
+ */
 function anchorsOf(texts, range) {
   const last = texts.at(-1);
   const outermost = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
@@ -357,7 +375,12 @@ function anchorsOf(texts, range) {
     (leaf !== startContainer || startOffset < leaf.length) &&
     (leaf !== endContainer || endOffset > 0));
   if (!leaves.length) return outermost;
+  /** @param {AnyNode} leaf */
   const isThing = (leaf) => dom.isAtom(leaf) || dom.isBreak(leaf);
+  /**
+   * @param {AnyNode} leaf
+   * @param {number} side
+   */
   const beside = (leaf, side) => isThing(leaf) && { beside: leaf, side };
   const [first, end] = [leaves[0], leaves.at(-1)];
   const from = { node: first, offset: first === startContainer ? startOffset : 0 };
@@ -371,7 +394,7 @@ function anchorsOf(texts, range) {
 /**
  * Puts a format on the text of a range and selects that again, in the direction it was selected in.
  * @param {string} name
- * @param {any} value
+ * @param {FormatValue} value
  * @param {Range} range the selected one
  */
 export function apply(name, value, range) {

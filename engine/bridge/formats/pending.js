@@ -5,8 +5,10 @@
 import * as inline from './inline.js';
 import * as selection from '../page/selection.js';
 
-const chosen = new Map();  // their values by their names
-let chosenAt = null;       // the selection that they wait at
+/** @type {Map<string, FormatValue>} their values by their names */
+const chosen = new Map();
+/** @type {SelectionPoints | null} the selection that they wait at */
+let chosenAt = null;
 
 /** @param {string} name */
 export const has = (name) => chosen.has(name);
@@ -15,7 +17,7 @@ export const get = (name) => chosen.get(name);
 /**
  * Has text that is typed at the caret next get a format.
  * @param {string} name
- * @param {any} value
+ * @param {FormatValue} value
  */
 export function set(name, value) {
   chosen.set(name, value);

@@ -4,9 +4,10 @@
 // leaves behind is put in order.
 import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
 import { spansUnits } from '../blocks/extent.js';
+import { itemOf } from '../blocks/items.js';
 import * as lists from '../blocks/lists.js';
 import * as typing from '../blocks/typing.js';
-import * as inline from '../formats/inline.js';
+import { joinTexts } from '../formats/merging.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
@@ -15,9 +16,14 @@ import { openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { gapAt, unitsIn } from '../page/units.js';
 
+/** @param {PlainRange} range */
 const preAt = (range) => dom.ancestor(range.startContainer, dom.isPreformatted);
 
 // The text of a preformatted block on both sides of the caret.
+/**
+ * @param {Element} pre
+ * @param {PlainRange} caret
+ */
 function sidesOf(pre, { startContainer, startOffset }) {
   const above = document.createRange();
   above.setStart(pre, 0);
@@ -42,9 +48,10 @@ function breakLine() {
   const end = document.createTextNode(below === '' ? '\n\n' : '\n');
   range.insertNode(end);
   const caret = { node: end, offset: 1 };
-  inline.joinTexts([end], [caret]);
+  joinTexts([end], [caret]);
   selection.setCaret(caret.node, caret.offset);
 }
+/** @param {Element} pre */
 function leavePre(pre) {
   const last = dom.lastLeaf(pre);
   if (dom.isText(last)) last.data = last.data.replace(/\n{1,2}$/, '');
@@ -52,6 +59,7 @@ function leavePre(pre) {
 }
 
 // What is done by the engine after all, with an eye on the blanks beside it as at typing.
+/** @param {string} inputType */
 function byEngine(inputType) {
   blanks.watch();
   document.execCommand(inputType);
@@ -60,6 +68,7 @@ function byEngine(inputType) {
 }
 
 // The lines of an address are one address; Enter on its empty last line leaves it.
+/** @param {AnyNode} address */
 function breakAddress(address) {
   const { startContainer, startOffset } = selection.range();
   const at = dom.isText(startContainer) ? null : startContainer.childNodes[startOffset];
@@ -88,8 +97,9 @@ function replaceSelection() {
 
 // In an item: an empty one is left. With other blocks in the item the engine would put the new one
 // among those.
+/** @param {Unit} unit */
 function enterInItem(unit) {
-  const item = lists.itemOf(unit);
+  const item = itemOf(unit);
   if (!item) return null;
   const isAlone = unit.block && [...item.childNodes].filter(dom.isShown).length === 1;
   const isEmpty = dom.isHollow(item) || (isAlone && dom.isHollow(unit.block));
@@ -102,6 +112,7 @@ function enterInItem(unit) {
   return goesOn ? () => lists.splitItem(item) : null;
 }
 
+/** @param {Range} range */
 function enterInLine(range) {
   const gap = gapAt(range);
   if (gap) return () => typing.makeLine(gap);
@@ -137,6 +148,7 @@ function dropDoubledId() {
 }
 
 // A new paragraph that is empty is outside of the link that the one before it ended with.
+/** @param {AnyNode} block */
 function leaveLink(block) {
   const link = dom.lastLeaf(block).parentNode.closest('a[href]');
   if (!link || !block.contains(link)) return;
@@ -146,6 +158,7 @@ function leaveLink(block) {
 }
 
 // A definition follows a term, and a term a definition.
+/** @param {AnyNode} block */
 function alternate(block) {
   const item = block.closest('DT, DD');
   const others = item && [...item.childNodes].some((node) => node !== block && dom.isShown(node));

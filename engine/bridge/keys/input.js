@@ -24,6 +24,7 @@ const partialDeletions = new Set(['deleteByDrag', 'deleteCompositionText']);
 const backward = /^delete.*Backward$/;
 
 // The kind of step that input makes: input of the same kind may be one step.
+/** @param {{ inputType: string }} event */
 function kindOf({ inputType }) {
   if (typingInputs.has(inputType)) return 'typing';
   if (inputType === 'deleteByDrag' || inputType === 'insertFromDrop') return 'drag';
@@ -33,6 +34,10 @@ function kindOf({ inputType }) {
 
 // True where input may join the step before it. Typing is undone word by word: the first letter
 // behind a blank begins a new step.
+/**
+ * @param {InputEvent} event
+ * @param {string} kind
+ */
 function joinsLastStep({ inputType, data }, kind) {
   if (kind === 'drag') return true;
   if (kind !== 'typing') return kind === 'delete';
@@ -43,6 +48,7 @@ function joinsLastStep({ inputType, data }, kind) {
 }
 
 // What the bridge does in place of a deletion of the engine's; null where the engine does it well.
+/** @param {InputEvent} event */
 function ownDeletion({ inputType }) {
   const isWhole = inputType.startsWith('delete') && !partialDeletions.has(inputType);
   if (!isWhole || isComposing()) return null;
@@ -54,6 +60,7 @@ function ownDeletion({ inputType }) {
 }
 
 // Carries input out where that is not left to the engine; false where it is.
+/** @param {InputEvent} event */
 function takeOver(event) {
   if (isCommand(event)) {
     exec(commandOfInput(event));
@@ -69,6 +76,7 @@ function takeOver(event) {
 }
 
 // inputType of the last beforeinput. Chromium's `input` reports insertText for Enter after typing.
+/** @type {string | null} */
 let announced = null;
 // Whether the last beforeinput belonged to a composition that had begun before.
 let composedBefore = false;

@@ -14,6 +14,7 @@ import { isBesideIsland, typeBesideIsland } from './islands.js';
 import { commandOfKey } from './shortcuts.js';
 import { pressTab } from './tab.js';
 
+/** @param {KeyboardEvent} event */
 function keyDown(event) {
   if (!isEditable() || event.isComposing) return;
   const { key, ctrlKey, altKey, metaKey, shiftKey } = event;

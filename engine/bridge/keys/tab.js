@@ -2,7 +2,7 @@
 // @ts-check
 // Tab: in a table it goes from cell to cell, in a list it moves the item one level in or out;
 // elsewhere it does nothing.
-import * as lists from '../blocks/lists.js';
+import { listTagOf } from '../blocks/items.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
@@ -15,6 +15,7 @@ function cellAtCaret() {
   return range && dom.ancestor(range.startContainer, (node) => /^(TD|TH)$/.test(node.tagName));
 }
 
+/** @param {Element} cell */
 function enterCell(cell) {
   const leaf = dom.firstLeaf(cell);
   if (dom.isText(leaf) || leaf === cell) selection.setCaret(leaf, 0);
@@ -22,6 +23,7 @@ function enterCell(cell) {
 }
 
 // Adds an empty row like the given one behind it; answers its first cell.
+/** @param {HTMLTableRowElement} row */
 function addRow(row) {
   const added = dom.twin(row);
   for (const cell of row.cells) {
@@ -35,6 +37,10 @@ function addRow(row) {
 }
 
 // The cell before (-1) or behind (1) a cell; undefined at the table's ends.
+/**
+ * @param {AnyNode} cell
+ * @param {number} step
+ */
 function cellBeside(cell, step) {
   const row = cell.parentNode;
   const { rows } = cell.closest('TABLE');
@@ -53,7 +59,7 @@ export function pressTab(backwards) {
   const cell = cellAtCaret();
   if (!cell) {
     const [unit] = unitsIn(selection.range());
-    if (unit && lists.listTagOf(unit)) exec(backwards ? Command.Outdent : Command.Indent);
+    if (unit && listTagOf(unit)) exec(backwards ? Command.Outdent : Command.Indent);
     return;
   }
   const next = cellBeside(cell, backwards ? -1 : 1);

@@ -17,6 +17,10 @@ export function zoomOf(element) {
   return zoom;
 }
 
+/**
+ * @param {{ left: number, top: number, width: number, height: number }} box
+ * @param {number} zoom
+ */
 const scaled = ({ left, top, width, height }, zoom) => ({
   left: left * zoom, top: top * zoom, right: (left + width) * zoom, bottom: (top + height) * zoom,
   width: width * zoom, height: height * zoom,
@@ -46,6 +50,10 @@ export function firstBoxOf(node) {
 export function scaleOf(element) {
   const zoom = zoomOf(element);
   const box = boxOf(element);
+  /**
+   * @param {number} shown
+   * @param {number} own
+   */
   const along = (shown, own) =>
     (own && Math.abs(shown - own * zoom) > zoom ? shown / own : zoom);
   return { x: along(box.width, element.offsetWidth), y: along(box.height, element.offsetHeight) };
@@ -54,7 +62,7 @@ export function scaleOf(element) {
 /**
  * True where a mouse event is in a box.
  * @param {Box} box
- * @param {{ clientX: number, clientY: number }} event
+ * @param {Pointer} event
  */
 export const holds = ({ left, top, right, bottom }, { clientX: x, clientY: y }) =>
   x >= left && x < right && y >= top && y < bottom;

@@ -5,6 +5,10 @@
 import * as glyphs from './glyphs.js';
 import { adoptSheet } from './overlay.js';
 
+/**
+ * @param {string} selector
+ * @param {string} text
+ */
 const glyph = (selector, text) =>
   `body ${selector}::before { content: "${text}"; font: 10px sans-serif; color: #3465a4; ` +
   'background: #eef2f8; border: 1px solid #9db4d3; padding: 0 2px; margin-right: 2px; }';
@@ -19,7 +23,10 @@ sheet.replaceSync([
   'body form, body div, body blockquote { outline: 1px dashed #c4cedd; }',
 ].join('\n'));
 
-/** Shows or hides the details: this sheet and the signs of glyphs.js. */
+/**
+ * Shows or hides the details: this sheet and the signs of glyphs.js.
+ * @param {boolean} on
+ */
 export const setDetails = (on) => {
   adoptSheet(sheet, on);
   glyphs.show(on);

@@ -9,6 +9,7 @@ import * as overlay from './overlay.js';
 import { adoptSheet } from './overlay.js';
 
 const colour = '#1a5fb4';
+/** @param {string} paint */
 const solid = (paint) => `linear-gradient(${paint}, ${paint})`;
 const handle = 7;    // pixels: the side of a handle
 const reach = 2;     // pixels around a handle where a press is on it too
@@ -22,28 +23,45 @@ const grips = new Map([
 
 // The frame's box in the viewport: around an object that shows nothing, around the sign for it.
 // null where that is not seen either.
+/** @param {Element} object */
 function frameOf(object) {
   const own = boxes.boxOf(object);
   const seen = own.width || own.height ? own : glyphs.boxOf(object);
   if (!seen) return null;
   const { left, top, right, bottom } = seen;
+  /** @param {number} size */
   const more = (size) => Math.max(0, least - size) / 2;
   const [x, y] = [more(right - left), more(bottom - top)];
   return { left: Math.round(left - x), top: Math.round(top - y),
     right: Math.round(right + x), bottom: Math.round(bottom + y) };
 }
 // The pixels of the frame's line that the handles have in their middle.
-/** @returns {[grip: string, x: number, y: number][]} */
+/**
+ * @param {Box} box
+ * @returns {[grip: string, x: number, y: number][]}
+ */
 const handleCentres = ({ left, top, right, bottom }) =>
   [...grips].map(([name, [x, y]]) =>
     [name, Math.round(left + x * (right - left - 1)), Math.round(top + y * (bottom - top - 1))]);
 
+/**
+ * @param {string} paint
+ * @param {number} size
+ * @returns {(handle: [grip: string, x: number, y: number]) => Layer}
+ */
 const square = (paint, size) => ([, x, y]) => ({ image: solid(paint), x: x - (size - 1) / 2,
   y: y - (size - 1) / 2, width: size, height: size });
 
+/** @param {Box} frame */
 function frameLayers(frame) {
   const { left, top, right, bottom } = frame;
   const centres = handleCentres(frame);
+  /**
+   * @param {number} x
+   * @param {number} y
+   * @param {number} width
+   * @param {number} height
+   */
   const line = (x, y, width, height) => ({ image: solid(colour), x, y, width, height });
   return [
     ...centres.map(square('#ffffff', handle - 2)), ...centres.map(square(colour, handle)),
@@ -51,7 +69,12 @@ function frameLayers(frame) {
     line(left, top, 1, bottom - top), line(right - 1, top, 1, bottom - top),
   ];
 }
+/**
+ * @param {{ origin: Position, scale: Position }} grid
+ * @returns {Layer[]}
+ */
 function gridLayers({ origin: { x, y }, scale }) {
+  /** @param {string} way */
   const line = (way) =>
     `linear-gradient(${way}, rgba(26, 95, 180, 0.25) 1px, transparent 1px)`;
   const size = {
@@ -63,7 +86,7 @@ function gridLayers({ origin: { x, y }, scale }) {
  * What a press at a mouse event takes hold of: a handle of the selected object ('nw' ... 'se'),
  * 'move' for the inside of a movable one, '' for nothing.
  * @param {any} object the selected one
- * @param {{ clientX: number, clientY: number }} event
+ * @param {Pointer} event
  */
 export const gripAt = (object, { clientX, clientY }) => {
   const box = boxes.boxOf(object);
@@ -106,8 +129,10 @@ export const setDragging = (state) => {
 const most = 4000;
 const tintless = new CSSStyleSheet();
 let untinted = '';
+/** @type {Animation | null} */
 let repaint = null;
 // An animation that stands still and shows nothing.
+/** @param {Element} object */
 function stillAnimation(object) {
   const shadow = '0 0 transparent';
   const animation =
@@ -116,9 +141,10 @@ function stillAnimation(object) {
   return animation;
 }
 // Takes the tint off an object, and gives the one before it back; null for no object.
+/** @param {Element | null} object */
 function clearTint(object) {
-  const tags = object
-    ? new Set([object, ...object.querySelectorAll('*')].map(({ localName }) => localName)) : [];
+  const tags = new Set(object
+    ? [object, ...object.querySelectorAll('*')].map(({ localName }) => localName) : []);
   const known = [...tags].filter((tag) => /^[a-z][a-z0-9]*$/.test(tag));
   const count = known.reduce((sum, tag) => sum + document.getElementsByTagName(tag).length, 0);
   const selectors = count > most ? '' : known.map((tag) => `${tag}::selection`).join();
@@ -133,8 +159,10 @@ function clearTint(object) {
 }
 
 const watched = new ResizeObserver(() => overlay.scheduleRedraw());
+/** @type {Element | null} */
 let subject = null;
 // Has the frame drawn anew when the object's size changes.
+/** @param {Element | null} object */
 function watch(object) {
   if (object === subject) return;
   clearTint(object);

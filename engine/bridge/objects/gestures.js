@@ -15,12 +15,27 @@ const slack = 3;  // pixels before a press becomes a drag
 const least = 1;  // pixels of width and height
 const stride = 16;  // pixels that the page scrolls in a frame while the pointer is outside
 
-let gesture = null;  // the press or drag that goes on
+/**
+ * A press or a drag. `preview`: what shows the change so far. `last`: the pointer's last event.
+ * `again`: the object was selected before. `scrolls`: a step of scrolling is under way.
+ * @typedef {{ object: HTMLElement, grip: string, again: boolean, from: Position,
+ *   before: ReturnType<typeof objects.measure>, change: Resizing | null,
+ *   preview: Animation | null, last?: Pointer & { shiftKey: boolean }, scrolls?: boolean }} Gesture
+ */
+
+/** @type {Gesture | null} the one that goes on */
+let gesture = null;
 let taken = false;   // the press has selected an object: the click behind it does nothing
 
+/** @param {number} pixels */
 const toGrid = (pixels) => Math.round(pixels / gridStep) * gridStep;
 
 // The change that a box comes to which is moved so far.
+/**
+ * @param {Gesture} gesture
+ * @param {number} dx
+ * @param {number} dy
+ */
 function moveChange({ before }, dx, dy) {
   if (!snaps()) return { dx, dy };
   return { dx: toGrid(before.left + dx) - before.left, dy: toGrid(before.top + dy) - before.top };
@@ -28,6 +43,12 @@ function moveChange({ before }, dx, dy) {
 
 // The change that an object comes to of which the handle `grip` is moved so far. A corner keeps the
 // ratio of the sides, unless `free`.
+/**
+ * @param {Gesture} gesture
+ * @param {number} dx
+ * @param {number} dy
+ * @param {boolean} free
+ */
 function sizeChange({ before, grip }, dx, dy, free) {
   const horizontal = /[ew]/.test(grip);
   const vertical = /[ns]/.test(grip);
@@ -41,9 +62,18 @@ function sizeChange({ before, grip }, dx, dy, free) {
     width = Math.max(1, before.width * scale);
     height = Math.max(1, before.height * scale);
   }
+  /** @type {Resizing} */
   const change = {};
   // Where the page gives one side of a picture only, the engine computes the other by its ratio.
+  /**
+   * @param {boolean} auto
+   * @param {boolean} other
+   */
   const byShape = (auto, other) => before.keepsShape && keepsRatio && auto && !other;
+  /**
+   * @param {boolean} auto
+   * @param {boolean} side
+   */
   const changes = (auto, side) => side || (before.keepsShape && auto);
   if (changes(before.autoWidth, horizontal) && !byShape(before.autoWidth, before.autoHeight)) {
     change.width = horizontal ? width : before.width;
@@ -57,11 +87,12 @@ function sizeChange({ before, grip }, dx, dy, free) {
 }
 
 // Shows what the gesture would change.
+/** @param {Gesture} shown */
 function show({ object, before, change }) {
   const frames = Object.fromEntries(Object.entries(objects.changedProperties(before, change))
     .map(([property, pixels]) => [property, [`${pixels}px`, `${pixels}px`]]));
   if (gesture.preview) {
-    gesture.preview.effect.setKeyframes(frames);
+    /** @type {KeyframeEffect} */ (gesture.preview.effect).setKeyframes(frames);
   } else {
     gesture.preview = object.animate(frames, { duration: 1, fill: 'both' });
     gesture.preview.pause();
@@ -72,11 +103,16 @@ function show({ object, before, change }) {
 
 // The position of a mouse event, counted from where the elements around the object begin: scrolling
 // them does not change it.
+/**
+ * @param {Element} object
+ * @param {Pointer} event
+ */
 function positionFor(object, { clientX, clientY }) {
   const { x, y } = boxes.scrolled(object);
   return { x: clientX + x, y: clientY + y };
 }
 
+/** @param {Pointer & { shiftKey: boolean }} event */
 function drag({ clientX, clientY, shiftKey }) {
   const { object, grip, from, before: { scale } } = gesture;
   gesture.last = { clientX, clientY, shiftKey };
@@ -93,6 +129,10 @@ function drag({ clientX, clientY, shiftKey }) {
 function scrollAlong() {
   if (gesture.scrolls) return;
   const { clientX: x, clientY: y } = gesture.last;
+  /**
+   * @param {number} at
+   * @param {number} size
+   */
   const towards = (at, size) => (at >= size ? stride : 0) - (at < 0 ? stride : 0);
   const [right, down] = [towards(x, innerWidth), towards(y, innerHeight)];
   if (!right && !down) return;
@@ -117,13 +157,16 @@ function end() {
 }
 const cancel = () => { if (gesture) end(); };
 
+/** @param {MouseEvent} event */
 function release(event) {
   if (!gesture) return;
   const { object, change, before, grip } = gesture;
   const shown = objects.measure(object);
   // An object does not become smaller than what it holds, nor larger than its page lets it: what is
   // seen is what is written.
-  for (const side of ['width', 'height']) {
+  /** @type {('width' | 'height')[]} */
+  const sizes = ['width', 'height'];
+  for (const side of sizes) {
     if (change && side in change) change[side] = shown[side];
   }
   const same = ['width', 'height', 'left', 'top', 'right', 'bottom']
@@ -137,6 +180,12 @@ function release(event) {
   }
 }
 
+/**
+ * @param {HTMLElement} object
+ * @param {string} grip
+ * @param {boolean} again
+ * @param {MouseEvent} event
+ */
 function begin(object, grip, again, event) {
   gesture = { object, grip, again, from: positionFor(object, event), change: null, preview: null,
     before: objects.measure(object) };
@@ -144,8 +193,10 @@ function begin(object, grip, again, event) {
 
 // True for a picture in the text: the engine begins a drag of it to another place; a click selects
 // it.
+/** @param {Element} object */
 const dragsByEngine = (object) => object.tagName === 'IMG' && !objects.isMovable(object);
 
+/** @param {MouseEvent} event */
 function press(event) {
   cancel();
   taken = false;
@@ -169,6 +220,7 @@ function press(event) {
   else if (objects.isMovable(object)) begin(object, 'move', false, event);
 }
 
+/** @param {MouseEvent} event */
 function move(event) {
   if (gesture && !(event.buttons & 1)) cancel();
   if (gesture) {
@@ -179,6 +231,7 @@ function move(event) {
   pointAt((selected && gripAt(selected, event)) ?? '');
 }
 
+/** @param {MouseEvent} event */
 function click(event) {
   const object = taken ? null : objects.objectAt(event);
   if (object) selection.selectNode(object);
@@ -186,6 +239,7 @@ function click(event) {
 }
 
 // The engine puts the caret elsewhere where the cell that is clicked holds nothing.
+/** @param {AnyNode} target */
 function enterCell(target) {
   const cell = target.closest?.('TD, TH');
   const { anchorNode } = document.getSelection();
@@ -200,6 +254,10 @@ const steps = new Map([
 ]);
 
 // The position of the next line of the grid in a direction: -1, 1, or 0 for where it is.
+/**
+ * @param {number} pixels
+ * @param {number} direction
+ */
 function nextLine(pixels, direction) {
   if (!direction) return pixels;
   const lines = pixels / gridStep;
@@ -208,6 +266,11 @@ function nextLine(pixels, direction) {
 
 // Moves an object by a key: by a pixel, or to the next line of the grid unless `fine`. Moves in a
 // row are one step of the history.
+/**
+ * @param {HTMLElement} object
+ * @param {[x: number, y: number]} step
+ * @param {boolean} fine
+ */
 function nudge(object, [x, y], fine) {
   const before = objects.measure(object);
   const { left, top } = before;
@@ -219,6 +282,10 @@ function nudge(object, [x, y], fine) {
 }
 
 // The object that comes next on one side of the caret, within its cell; null where text comes next.
+/**
+ * @param {PlainRange} caret
+ * @param {boolean} forward
+ */
 function objectBeside({ startContainer: node, startOffset: offset }, forward) {
   const side = forward ? 'nextSibling' : 'previousSibling';
   if (dom.isText(node) && (forward ? offset < node.length : offset > 0)) return null;
@@ -235,6 +302,10 @@ function objectBeside({ startContainer: node, startOffset: offset }, forward) {
 }
 
 // Selects the object that comes next in an arrow key's direction; false where none does.
+/**
+ * @param {Range} range
+ * @param {string} key
+ */
 function extendOver(range, key) {
   const { direction } = getComputedStyle(selection.element());
   const forwards = ['ArrowDown', direction === 'ltr' ? 'ArrowRight' : 'ArrowLeft'];
@@ -248,6 +319,7 @@ function extendOver(range, key) {
   return true;
 }
 
+/** @param {KeyboardEvent} event */
 function keyDown(event) {
   const { key, altKey, metaKey } = event;
   if (gesture && !/^(Shift|Control|Alt)$/.test(key)) {
@@ -260,6 +332,7 @@ function keyDown(event) {
   if (steps.has(key)) arrow(event);
 }
 
+/** @param {KeyboardEvent} event */
 function arrow(event) {
   const { key, ctrlKey, shiftKey } = event;
   const range = selection.range();
@@ -275,6 +348,10 @@ function arrow(event) {
 /** Begins to listen on a document that was loaded. */
 export const listenToGestures = () => {
   gesture = null;
+  /**
+   * @param {string} name
+   * @param {EventListener} handler
+   */
   const listen = (name, handler) => document.addEventListener(name, handler, true);
   listen('mousedown', press);
   listen('mousemove', move);

@@ -11,20 +11,37 @@ const most = 4000;  // nodes looked at for one drawing
 const height = 12;  // pixels
 const overlap = 3;  // pixels of a badge that lie on its line
 
+/**
+ * The picture of a sign, and one that is drawn for a node.
+ * @typedef {{ image: string, width: number, height: number }} Sign
+ * @typedef {Layer & { node: Node }} Glyph
+ */
+
+/**
+ * @param {number} width
+ * @param {string} content
+ */
 const picture = (width, content) => {
   const svg = `<svg xmlns="http://www.w3.org/2000/svg" width="${width}" height="${height}">` +
     `${content}</svg>`;
   return { image: `url("data:image/svg+xml,${encodeURIComponent(svg)}")`, width, height };
 };
+/**
+ * @param {number} width
+ * @param {string} text
+ */
 const mark = (width, text) => picture(width,
   `<rect x="0.5" y="0.5" width="${width - 1}" height="${height - 1}" rx="1.5" fill="#fdf6d8"` +
   ' stroke="#b58900"/><text x="50%" y="9" font-family="sans-serif" font-size="9"' +
   ` text-anchor="middle" fill="#7a5c00">${text}</text>`);
+/** @param {string} path */
 const arrow = (path) => picture(12, `<path d="${path}" fill="none" stroke="#3465a4"/>`);
+/** @type {Record<string, Sign>} */
 const breaks = {
   ltr: arrow('M10 2v5H3M5.5 4.5L3 7l2.5 2.5'), rtl: arrow('M2 2v5H9M6.5 4.5L9 7l-2.5 2.5'),
 };
 const badges = new Map();
+/** @param {string} text */
 function badge(text) {
   const short = text.replace(/[^\w:.-]/g, '').slice(0, 12);
   if (!badges.has(short)) badges.set(short, mark(Math.ceil(6 + 5.7 * short.length), short));
@@ -35,6 +52,10 @@ const comment = mark(16, '!--');
 const silent = /^(BASE|LINK|MAP|META|NOSCRIPT|SCRIPT|STYLE|TEMPLATE|TITLE)$/;
 const boxless = /^(APPLET|EMBED|OBJECT|VIDEO|AUDIO)$/;
 // The picture that stands for a node; null for one that needs none.
+/**
+ * @param {AnyNode} node
+ * @returns {Sign | null}
+ */
 function signOf(node) {
   if (node.nodeType === Node.COMMENT_NODE) return comment;
   if (!dom.isElement(node)) return null;
@@ -49,10 +70,17 @@ function signOf(node) {
 
 // The position of a node's sign: at the node's own start, else where the next node starts, else
 // where the one before it ends, else in its parent.
+/**
+ * @param {AnyNode} node
+ * @param {Sign} sign
+ */
 function positionOf(node, { width }) {
   const isLtr = getComputedStyle(node.parentElement).direction === 'ltr';
+  /** @param {Box} box */
   const startOf = ({ left, right, top }) => ({ x: isLtr ? left : right - width, y: top });
+  /** @param {Box} box */
   const endOf = ({ left, right, top }) => ({ x: isLtr ? right : left - width, y: top });
+  /** @param {AnyNode} at */
   const boxed = (at) => at && boxes.firstBoxOf(at);
   const own = dom.isElement(node) && boxed(node);
   if (own?.width) return startOf(own);
@@ -62,12 +90,19 @@ function positionOf(node, { width }) {
   return before ? endOf(before) : startOf(boxes.boxOf(node.parentElement));
 }
 // A sign with its position, above the others; null for a break that is not seen.
+/**
+ * @param {AnyNode} node
+ * @param {Sign} sign
+ * @param {Glyph[]} others
+ * @returns {Glyph | null}
+ */
 function layerOf(node, sign, others) {
   if (!dom.isBreak(node)) {
     // Above the line that it stands before, so that the text can be read; beside another one.
     const position = positionOf(node, sign);
     const y = Math.max(-scrollY, position.y + overlap - height);
     let { x } = position;
+    /** @param {Glyph} other */
     const inTheWay = (other) => Math.abs(other.y - y) < height && other.x < x + sign.width &&
       x < other.x + other.width;
     for (let other = others.find(inTheWay); other; other = others.find(inTheWay)) {
@@ -85,9 +120,14 @@ function layerOf(node, sign, others) {
 function inSight() {
   const { clientWidth, clientHeight } = document.documentElement;
   const columns = [2, clientWidth / 2, clientWidth - 2];
+  /** @param {number} y */
   const nodesAt = (y) => columns.map((x) => document.caretRangeFromPoint(x, y))
     .filter(Boolean).map(({ startContainer, startOffset }) =>
       startContainer.childNodes[startOffset] ?? startContainer);
+  /**
+   * @param {Node} one
+   * @param {Node} other
+   */
   const precedes = (one, other) =>
     (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1);
   return {
@@ -98,6 +138,7 @@ function inSight() {
 
 // The signs of the nodes in sight.
 function layers() {
+  /** @type {Glyph[]} */
   const signs = [];
   const walker = document.createTreeWalker(
     document.body, NodeFilter.SHOW_ELEMENT | NodeFilter.SHOW_COMMENT | NodeFilter.SHOW_TEXT);
@@ -118,6 +159,7 @@ function layers() {
 }
 
 let shown = false;
+/** @type {Glyph[]} */
 let found = [];
 function redraw() {
   found = shown && dom.isEditable() ? layers() : [];
@@ -129,6 +171,7 @@ function redraw() {
   overlay.draw('details', { left: 0, top: 0, right, bottom }, found);
 }
 
+/** @param {Layer} layer */
 const boxOfLayer = ({ x, y, width }) =>
   ({ left: x, top: y, right: x + width, bottom: y + height, width, height });
 /**
@@ -140,11 +183,17 @@ export function show(on) {
   overlay.scheduleRedraw();
 }
 
-/** The node whose sign is at a mouse event; null where none is seen there. */
+/**
+ * The node whose sign is at a mouse event; null where none is seen there.
+ * @param {Pointer} event
+ */
 export const nodeAt = (event) =>
   found.find((layer) => boxes.holds(boxOfLayer(layer), event))?.node ?? null;
 
-/** The box of a node's sign in the viewport; null where none is seen. */
+/**
+ * The box of a node's sign in the viewport; null where none is seen.
+ * @param {Node} node
+ */
 export function boxOf(node) {
   const layer = found.find((each) => each.node === node);
   return layer ? boxOfLayer(layer) : null;

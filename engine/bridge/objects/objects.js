@@ -14,15 +14,25 @@ import * as selection from '../page/selection.js';
 /** The selected object; null where text or nothing is selected. */
 export const selected = () => selection.control(selection.range());
 
-/** True for an object that can be moved: one with a position of its own, outside the flow. */
+/**
+ * True for an object that can be moved: one with a position of its own, outside the flow.
+ * @param {AnyNode} node
+ */
 export const isMovable = (node) => dom.isElement(node) && node !== document.body &&
   /^(absolute|fixed)$/.test(getComputedStyle(node).position);
-/** True for a movable object that text is typed in. */
+/**
+ * True for a movable object that text is typed in.
+ * @param {AnyNode} node
+ */
 export const isBox = (node) => isMovable(node) && !dom.isAtom(node);
 
 const edge = 2;      // pixels within a box's border that still count as its border
 const outerEdge = 4; // and around a table, whose border may have no width at all
 // True where a mouse event is on an object's border.
+/**
+ * @param {Element} node
+ * @param {Pointer} event
+ */
 function isAtEdge(node, { clientX: x, clientY: y }) {
   const { left, top, right, bottom } = boxes.boxOf(node);
   const distance = Math.min(x - left, right - x, y - top, bottom - y);
@@ -31,14 +41,24 @@ function isAtEdge(node, { clientX: x, clientY: y }) {
 }
 
 // The box that the person has entered: clicks in it place the caret.
+/** @type {Node | null} */
 let entered = null;
+/** @param {Node} node */
 const isEntered = (node) => node === entered && node.contains(document.getSelection().anchorNode);
 
 // True for a node in a cell or the caption of the table: a click there is not one on the table.
+/**
+ * @param {Element} node
+ * @param {Element} table
+ */
 const isInCell = (node, table) => table.contains(node.closest('CAPTION, TD, TH'));
 
 // The object among a node and the elements around it that a click selects; null where it places the
 // caret.
+/**
+ * @param {AnyNode} node
+ * @param {Pointer} pointer
+ */
 function clickedAmong(node, pointer) {
   for (let at = node; at && at !== document.body; at = at.parentElement) {
     if (at.tagName === 'TABLE' || isMovable(at)) {
@@ -81,7 +101,11 @@ export function objectAt(event) {
   return null;
 }
 
-/** Enters a box: puts the caret where it was clicked, else at its start. */
+/**
+ * Enters a box: puts the caret where it was clicked, else at its start.
+ * @param {Element} box
+ * @param {Pointer} event
+ */
 export function enter(box, { clientX, clientY }) {
   const clicked = document.caretRangeFromPoint(clientX, clientY);
   const inside = clicked && box.contains(clicked.startContainer);
@@ -90,6 +114,7 @@ export function enter(box, { clientX, clientY }) {
   else selection.setCaret(box, 0);
 }
 // True for a block that has paragraphs in it, not text right away.
+/** @param {AnyNode} node */
 const holdsParagraphs = (node) => dom.isBlock(node) && !dom.isParagraph(node) &&
   !/^(CAPTION|DD|LI|TD|TH)$/.test(node.tagName);
 
@@ -151,6 +176,7 @@ export function noteTyped() {
   entered = dom.ancestor(document.getSelection().anchorNode, isBox);
 }
 
+/** @param {string} text */
 const number = (text) => parseFloat(text) || 0;
 
 /**
@@ -163,13 +189,16 @@ const number = (text) => parseFloat(text) || 0;
 export function measure(object) {
   const style = getComputedStyle(object);
   const given = object.computedStyleMap();
+  /** @param {string} property */
   const isAuto = (property) => String(given.get(property)) === 'auto';
+  /** @param {...string} names */
   const sum = (...names) =>
     (style.boxSizing === 'border-box' ? 0
       : names.reduce((all, each) => all + number(style.getPropertyValue(each)), 0));
   const rect = boxes.boxOf(object);
   const scale = boxes.scaleOf(object);
-  const sides = ['left', 'top', 'right', 'bottom'].map((side) => [side, number(style[side])]);
+  const sides = ['left', 'top', 'right', 'bottom']
+    .map((side) => [side, number(style.getPropertyValue(side))]);
   return {
     scale, width: rect.width / scale.x, height: rect.height / scale.y, movable: isMovable(object),
     ...Object.fromEntries(sides),
@@ -215,12 +244,22 @@ const withAttributes = new Set(['APPLET', 'CANVAS', 'EMBED', 'HR', 'IFRAME', 'IM
   'OBJECT', 'TABLE', 'VIDEO', 'svg']);
 
 // A size in the unit of the old one, which has grown by the factor `growth`; else `pixels`, a text.
+/**
+ * @param {string} old
+ * @param {string} pixels
+ * @param {number} growth
+ */
 function spelledLike(old, pixels, growth) {
   const [, value, unit] = /^\s*(-?[\d.]+)([a-z]+|%)\s*$/i.exec(old) ?? [];
   if (unit === '%') return `${Math.max(1, Math.round(Number(value) * growth))}%`;
   return lengthIn(unit, value, growth) ?? pixels;
 }
 // A length in the unit it had; null where that is pixels, or the growth is not known.
+/**
+ * @param {string} unit
+ * @param {string} value
+ * @param {number} growth
+ */
 function lengthIn(unit, value, growth) {
   if (!unit || /^px$/i.test(unit) || !Number(value) || !Number.isFinite(growth)) return null;
   return `${Math.round(Number(value) * growth * 100) / 100}${unit}`;
@@ -228,6 +267,12 @@ function lengthIn(unit, value, growth) {
 
 // Writes a size to where the page has it: the style, the attribute, or both. Where it has neither,
 // to the attribute, if the object's element has such a one, else to the style.
+/**
+ * @param {HTMLElement} object
+ * @param {string} property
+ * @param {number} pixels
+ * @param {number} growth
+ */
 function writeSize(object, property, pixels, growth) {
   const rule = object.tagName === 'HR' && property === 'height';
   const attribute = rule ? 'size' : property;
@@ -261,6 +306,12 @@ export function writeChange(object, before, change) {
     }
   }
 }
+/**
+ * @param {HTMLElement} object
+ * @param {string} side
+ * @param {number} pixels
+ * @param {number} before
+ */
 function writePlace(object, side, pixels, before) {
   const old = object.style.getPropertyValue(side);
   const [, value, unit] = /^(-?[\d.]+)([a-z]+|%)$/i.exec(old) ?? [];

@@ -7,6 +7,7 @@
 import * as boxes from './boxes.js';
 import { isEditable } from '../page/dom.js';
 
+/** @param {string} rules */
 const sheetOf = (rules) => {
   const sheet = new CSSStyleSheet();
   sheet.replaceSync(rules);
@@ -27,8 +28,10 @@ const sheet = sheetOf('head::before {} head::after {}');
 const [details, frame] = [...sheet.cssRules]
   .map((rule) => (/** @type {CSSStyleRule} */ (rule)).style);
 const styles = { details, frame };
+/** @type {Record<string, string>} */
 const drawn = {};
 
+/** @param {number} number */
 const px = (number) => `${Math.round(number * 100) / 100}px`;
 
 /**
@@ -56,6 +59,7 @@ function origin() {
 
 // A box of the viewport as part of the page. It ends where the page does, or it would make the
 // page longer.
+/** @param {Box} box */
 function onPage({ left, top, right, bottom }) {
   const { x, y } = origin();
   const { scrollWidth, scrollHeight } = document.scrollingElement ?? document.documentElement;
@@ -66,7 +70,12 @@ function onPage({ left, top, right, bottom }) {
 const onView = { position: 'fixed', left: '0', top: '0', width: '100%', height: '100%' };
 
 // A layer is an image with its place in the viewport; the first lies on top.
+/**
+ * @param {Layer[]} layers
+ * @param {{ left: number, top: number }} area
+ */
 function background(layers, { left, top }) {
+  /** @param {(layer: Layer) => string} read */
   const each = (read) => layers.map(read).join();
   return {
     'background-image': each(({ image }) => image),
@@ -82,7 +91,7 @@ function background(layers, { left, top }) {
  * @param {'details' | 'frame'} name
  * @param {Box | 'view'} area a box of the viewport, which scrolls with the page; 'view' for all of
  *   the viewport
- * @param {any[]} layers images with their boxes, the upper ones first
+ * @param {Layer[]} layers the upper ones first
  * @param {object} [more] further declarations
  */
 export function draw(name, area, layers, more = {}) {
@@ -106,7 +115,8 @@ export function clear(name) {
   styles[name].cssText = '';
 }
 
-const redraws = [];  // what is called to draw anew
+/** @type {(() => void)[]} what is called to draw anew */
+const redraws = [];
 let waiting = false;
 /** Has everything drawn anew with the next animation frame: the page looks otherwise now. */
 export function scheduleRedraw() {

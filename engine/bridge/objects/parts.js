@@ -17,6 +17,7 @@ let changes = 0;
 const numbers = new Map();  // of the files to be shown anew, by keyOf their addresses
 
 // What tells one file from another, as the program writes it.
+/** @param {string} address */
 function keyOf(address) {
   const { protocol, pathname } = new URL(address);
   try {
@@ -27,6 +28,10 @@ function keyOf(address) {
 }
 
 // The address to show a file anew by; null where it has not changed.
+/**
+ * @param {string} link
+ * @param {string} [base]
+ */
 function anew(link, base = document.baseURI) {
   if (!link || !numbers.size) return null;
   try {
@@ -41,11 +46,17 @@ function anew(link, base = document.baseURI) {
   }
 }
 
+/** @param {string} text */
 const quoted = (text) =>
   `"${text.replace(/["\\\n\r\f]/g, (sign) => `\\${sign.codePointAt(0).toString(16)} `)}"`;
 
 // [property, value, priority] of what a style shows otherwise now.
+/**
+ * @param {CSSStyleDeclaration} style
+ * @param {string} base
+ */
 function renewed(style, base) {
+  /** @type {[property: string, value: string, priority: string][]} */
   const found = [];
   for (const name of showing) {
     const value = style.getPropertyValue(name);
@@ -58,6 +69,10 @@ function renewed(style, base) {
   return found;
 }
 
+/**
+ * @param {CSSRuleList} rules
+ * @param {string} base
+ */
 function renewRules(rules, base) {
   for (const rule of rules) {
     if (rule.styleSheet) renewSheet(rule.styleSheet);
@@ -70,6 +85,10 @@ const patience = 10000;  // milliseconds
 
 // What the engine reads for a rule that was put in later it applies with the sheet's next change.
 // Timers do not run in pages without scripts.
+/**
+ * @param {CSSStyleSheet} sheet
+ * @param {number} [end]
+ */
 function applyWhenRead(sheet, end = performance.now() + patience) {
   if (sheet.cssRules[0]?.styleSheet) {
     sheet.insertRule('velor-none {}', sheet.cssRules.length);
@@ -79,6 +98,7 @@ function applyWhenRead(sheet, end = performance.now() + patience) {
   }
 }
 
+/** @param {CSSStyleSheet} sheet */
 function renewSheet(sheet) {
   try {
     const address = sheet.href && anew(sheet.href);
@@ -132,8 +152,9 @@ function renewAll() {
 }
 
 // A sheet that comes later, with another document for one, comes as it was read first.
+/** @param {Event} event */
 function arrived({ target }) {
-  if (numbers.size && target.sheet) renewSheets();
+  if (numbers.size && /** @type {AnyNode} */ (target).sheet) renewSheets();
 }
 
 /**

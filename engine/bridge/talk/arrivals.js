@@ -5,6 +5,7 @@
 // others, and is told here when that release has come.
 import { host } from './host.js';
 
+/** @param {KeyboardEvent} event */
 function tellArrival(event) {
   if (event.key !== 'F24') return;
   event.stopImmediatePropagation();

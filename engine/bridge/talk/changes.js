@@ -23,15 +23,22 @@ let revision = 1 + Math.floor(Math.random() * 1e9);
 let largestPiece = 20000;  // UTF-16 units
 /** @type {TextEdit[][]} the steps that led to the last texts */
 let steps = [];
+/** @type {MutationObserver | null} */
 let observer = null;
-const touched = new Set();  // nodes that changed since the last text
+/** @type {Set<Node>} nodes that changed since the last text */
+const touched = new Set();
 /** @type {Resolution[]} the stand-ins that the last text has blanks for */
 let blanks = [];
-// The branches by their elements: {open, close, children, lengths}, where `open` and `close` are
-// the lengths of the tags and `lengths` those of the children.
+/**
+ * A branch: `open` and `close` are the lengths of its tags, `lengths` those of its children.
+ * @typedef {{ open: number, close: number, children: Node[], lengths: number[] }} Branch
+ */
+/** @type {Map<Node, Branch>} the branches by their elements */
 const branches = new Map();
 
+/** @param {MutationRecord[]} records */
 const note = (records) => { for (const { target } of records) touched.add(target); };
+/** @param {number[]} lengths */
 const sum = (lengths) => lengths.reduce((all, length) => all + length, 0);
 
 // The nodes whose text is another one than the engine's `outerHTML`, with all elements around them.
@@ -43,10 +50,18 @@ function nodesWithOwnText() {
 }
 
 // True for a node of that length whose children are to be pieces.
+/**
+ * @param {AnyNode} node
+ * @param {number} length
+ */
 const isBranch = (node, length) => length > largestPiece && node.childElementCount > 1 &&
   !node.matches(undivided);
 
 // The length of a node's text; makes it a branch where it is long. `special` are nodesWithOwnText.
+/**
+ * @param {AnyNode} node
+ * @param {Set<Node>} special
+ */
 function lengthOf(node, special) {
   const isText = node.nodeType === Node.TEXT_NODE;
   if (isText && !special.has(node) && !/[&<>\u00a0]/.test(node.data)) return node.length;
@@ -57,12 +72,17 @@ function lengthOf(node, special) {
 }
 
 // An element's start tag, and the length of its end tag.
+/** @param {Element} element */
 function tagsOf(element) {
-  const text = element.cloneNode(false).outerHTML;
+  const text = /** @type {Element} */ (element.cloneNode(false)).outerHTML;
   const open = text.lastIndexOf('</');
   return { open: text.slice(0, open), close: text.length - open };
 }
 
+/**
+ * @param {Element} element
+ * @param {Set<Node>} special
+ */
 function makeBranch(element, special) {
   const { open, close } = tagsOf(element);
   const children = [...element.childNodes];
@@ -70,6 +90,7 @@ function makeBranch(element, special) {
   branches.set(element, { open: open.length, close, children, lengths });
 }
 
+/** @param {Node} node */
 function dropBranch(node) {
   const branch = branches.get(node);
   if (!branch) return;
@@ -103,10 +124,17 @@ function tellWhole() {
   return { revision, html: serialize() };
 }
 
-// What of the text has changed; null where the whole is to be told. `pieces`: to be serialized
-// anew. `lists`: branches that have got other children. `ways`: both and all branches around them.
+/**
+ * What of the text has changed. `pieces`: to be serialized anew. `lists`: branches that have got
+ * other children. `ways`: both and all branches around them.
+ * @typedef {{ pieces: Set<Node>, lists: Set<Node>, ways: Set<Node> }} Touched
+ */
+
+// The same since the last text; null where the whole is to be told.
+/** @returns {Touched | null} */
 function touchedPieces() {
   if (touched.has(document) || !branches.size) return null;
+  /** @type {Touched} */
   const found = { pieces: new Set(), lists: new Set(), ways: new Set() };
   for (const node of touched) {
     if (!node.isConnected) continue;
@@ -124,6 +152,7 @@ function touchedPieces() {
 }
 
 // A node's text; makes it a branch where that is long.
+/** @param {AnyNode} node */
 function serializePiece(node) {
   const text = serializeNode(node);
   if (isBranch(node, text.length)) makeBranch(node, nodesWithOwnText());
@@ -131,6 +160,10 @@ function serializePiece(node) {
 }
 
 // What of a branch's children was exchanged: those from `head` to `end`, for the nodes `come`.
+/**
+ * @param {Node[]} children
+ * @param {Node[]} fresh
+ */
 function difference(children, fresh) {
   let head = 0;
   let end = children.length;
@@ -144,6 +177,14 @@ function difference(children, fresh) {
 }
 
 // Adds the edits for a node whose text is `length` long at `offset`; answers its new length.
+/**
+ * @param {AnyNode} node
+ * @param {number} length
+ * @param {number} offset
+ * @param {Touched} found
+ * @param {TextEdit[]} edits
+ * @returns {number}
+ */
 function addEdits(node, length, offset, found, edits) {
   if (found.pieces.has(node)) {
     const text = serializePiece(node);
@@ -153,6 +194,10 @@ function addEdits(node, length, offset, found, edits) {
   const branch = branches.get(node);
   const { children, lengths } = branch;
   let at = offset + branch.open;
+  /**
+   * @param {number} from
+   * @param {number} to
+   */
   const keep = (from, to) => {
     for (let index = from; index < to; index += 1) {
       const before = lengths[index];
@@ -194,11 +239,16 @@ function editsSinceLast() {
     if (node === root) break;
     offset += serializeNode(node).length + 1;
   }
+  /** @type {TextEdit[]} */
   const edits = [];
   addEdits(root, 0, offset, found, edits);
   return edits;
 }
 
+/**
+ * @param {Resolution[]} one
+ * @param {Resolution[]} other
+ */
 const sameBlanks = (one, other) => one.length === other.length && one.every(
   ({ node, index, text }, number) => node === other[number].node &&
     index === other[number].index && text === other[number].text);

@@ -5,6 +5,7 @@
 import * as blocks from '../blocks/blocks.js';
 import { deletionAtCaret } from '../blocks/caretDeletion.js';
 import * as indent from '../blocks/indent.js';
+import { listTagOf } from '../blocks/items.js';
 import * as lists from '../blocks/lists.js';
 import { deleteKeepingLooks } from '../blocks/typing.js';
 import * as align from '../formats/align.js';
@@ -24,6 +25,11 @@ import { Command, Status } from './vocabulary.js';
 // The next two stop reading as soon as the answer is known: a selection may be all of a long page.
 
 // Latched where all of the subjects fit, Ninched where some do, else Enabled.
+/**
+ * @template T
+ * @param {Iterable<T>} subjects
+ * @param {(subject: T) => unknown} fits
+ */
 function statusOfAll(subjects, fits) {
   let some = false;
   let all = true;
@@ -35,6 +41,12 @@ function statusOfAll(subjects, fits) {
   return some ? Status.Latched : Status.Enabled;
 }
 // The value that all of the subjects have, or an empty text.
+/**
+ * @template T, V
+ * @param {Iterable<T>} subjects
+ * @param {(subject: T) => V} read
+ * @param {(one: V, other: V) => boolean} [same]
+ */
 function commonValue(subjects, read, same = (one, other) => one === other) {
   let first = null;
   for (const subject of subjects) {
@@ -51,7 +63,9 @@ function commonValue(subjects, read, same = (one, other) => one === other) {
  */
 export const readView = () => {
   const range = selection.range();
+  /** @type {<T>(read: () => T) => () => T} */
   const once = (read) => {
+    /** @type {ReturnType<typeof read>} */
     let known;
     return () => (known ??= read());
   };
@@ -67,9 +81,15 @@ export const readView = () => {
 };
 
 // The elements to read a character format at: those of the selected texts, or the caret's.
+/** @param {View} view */
 const subjects = ({ range, elements }) =>
   (elements().length ? elements() : [selection.caretElement(range)]);
 // A function that reads a format at an element; a format that is pending at the caret counts.
+/**
+ * @param {string} name
+ * @param {View} view
+ * @returns {(element: HTMLElement) => FormatValue}
+ */
 function reader(name, view) {
   if (pending.has(name) && !view.elements().length) return () => pending.get(name);
   const known = new Map();
@@ -77,6 +97,11 @@ function reader(name, view) {
 }
 
 // Puts a format on the selected text, or has it pending at the caret.
+/**
+ * @param {string} name
+ * @param {FormatValue} value
+ * @param {View} view
+ */
 function putFormat(name, value, { range, object, elements }) {
   if (!elements().length) {
     pending.set(name, value);
@@ -87,10 +112,19 @@ function putFormat(name, value, { range, object, elements }) {
 }
 
 // False where there is no text to format: a picture is selected, or the text takes no markup.
+/** @param {View} view */
 const takesFormats = ({ object, range, elements }) => elements().length > 0 ||
   (!object && dom.rawAt(range.startContainer) === null);
+/**
+ * @param {(view: View) => number} status
+ * @returns {(view: View) => number}
+ */
 const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Status.Disabled);
 // A run() that changes all paragraphs of the selection; status() may have read some of them only.
+/**
+ * @param {(units: Unit[], value: string) => void} change
+ * @returns {(value: string) => void}
+ */
 const onUnits = (change) => (value) => {
   const saved = selection.save();
   changeUnits(saved, (units) => change(lists.wrapStrayText(readUnits(units), saved), value));
@@ -98,12 +132,20 @@ const onUnits = (change) => (value) => {
 
 // The kinds of rows.
 
+/**
+ * @param {string} name
+ * @returns {CommandRow}
+ */
 const toggle = (name) => ({
   status: whereText((view) => statusOfAll(subjects(view), reader(name, view))),
   run: (value, view) =>
     putFormat(name, statusOfAll(subjects(view), reader(name, view)) !== Status.Latched, view),
 });
 
+/**
+ * @param {string} name
+ * @returns {CommandRow}
+ */
 const character = (name) => ({
   status: whereText(() => Status.Enabled),
   run(value, view) {
@@ -112,13 +154,22 @@ const character = (name) => ({
   },
 });
 
+/**
+ * @param {'left' | 'center' | 'right'} side
+ * @returns {CommandRow}
+ */
 const justify = (side) => ({
   status: (view) => statusOfAll(view.units(), (unit) => align.read(unit) === side),
   run: onUnits((units) => align.applyAll(units, side)),
 });
 
+/**
+ * @param {string} tag
+ * @returns {CommandRow}
+ */
 const list = (tag) => {
-  const status = (view) => statusOfAll(view.units(), (unit) => lists.listTagOf(unit) === tag);
+  /** @param {View} view */
+  const status = (view) => statusOfAll(view.units(), (unit) => listTagOf(unit) === tag);
   return {
     status: (view) => (view.units().length ? status(view) : Status.Disabled),
     run(value, view) {
@@ -128,12 +179,22 @@ const list = (tag) => {
   };
 };
 
+/**
+ * @param {(view: View) => string} value
+ * @returns {CommandRow}
+ */
 const query = (value) => ({ status: () => Status.Enabled, value });
+/** @param {string} name */
 const reading = (name) => query((view) =>
-  commonValue(subjects(view), reader(name, view), formats[name].same));
+  String(commonValue(subjects(view), reader(name, view), formats[name].same)));
 
 // The program has the engine itself carry these out; they have a status only.
+/**
+ * @param {(view: View) => number} status
+ * @returns {CommandRow}
+ */
 const byEngine = (status) => ({ status });
+/** @param {View} view */
 const selected = (view) => (view.range.collapsed ? Status.Disabled : Status.Enabled);
 const always = () => Status.Enabled;
 

@@ -3,6 +3,7 @@
 // Tells the program where the pointer is.
 import { host } from './host.js';
 
+/** @type {Position | null} */
 let position = null;
 let waiting = false;
 
@@ -11,8 +12,10 @@ function tell() {
   host()?.pushMouse(Math.round(position.x), Math.round(position.y));
 }
 
+/** @param {Pointer} event */
 const at = ({ clientX, clientY }) => ({ x: clientX, y: clientY });
 
+/** @param {MouseEvent} event */
 function moved(event) {
   position = at(event);
   if (waiting) return;
@@ -20,6 +23,7 @@ function moved(event) {
   requestAnimationFrame(tell);
 }
 
+/** @param {MouseEvent} event */
 function pressed(event) {
   position = at(event);
   tell();

@@ -20,7 +20,8 @@ let dirty = true;         // the content changed since the last push
 let mirrorWaits = false;  // until there is idle time
 let changedFirst = 0;     // when, since the mirror was written
 let changedLast = 0;
-let pushedPoints = null;  // the selection at the last push
+/** @type {SelectionPoints | null} the selection at the last push */
+let pushedPoints = null;
 
 const whenIdle = () => requestIdleCallback(writeMirrorAfterPause, { timeout: mirrorPause });
 
@@ -34,6 +35,7 @@ function scheduleMirror() {
     whenIdle();
   }
 }
+/** @param {IdleDeadline} deadline */
 function writeMirrorAfterPause(deadline) {
   if (!mirrorWaits) return;
   const now = performance.now();
@@ -42,6 +44,7 @@ function writeMirrorAfterPause(deadline) {
   else writeMirror(!deadline.didTimeout);
 }
 // `idle`: there was time left, so that all changes are on the screen.
+/** @param {boolean} idle */
 function writeMirror(idle) {
   mirrorWaits = false;
   host().pushMirror(JSON.stringify({ idle, ...changes() }));

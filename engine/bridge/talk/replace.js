@@ -21,10 +21,12 @@ export const shownGeneration = () => generations.get(document.documentElement) ?
 const policy = 'meta[http-equiv="content-security-policy" i]';
 
 // True for a document that can take this one's place without a load.
+/** @param {Document} fresh */
 const exchangeable = (fresh) =>
   isEditable() && fresh.body?.tagName === 'BODY' && fresh.compatMode === document.compatMode &&
   ![document, fresh].some((page) => page.querySelector(policy));
 
+/** @param {Document} fresh */
 function exchange(fresh) {
   const { start, end } = selectionPaths();
   const { scrollX, scrollY } = globalThis;

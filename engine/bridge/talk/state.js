@@ -21,6 +21,7 @@ function element() {
   return { tag: found.tagName.toUpperCase(), attributes };
 }
 
+/** @param {View} view */
 function kind({ range, object }) {
   if (object) return 'Control';
   return !range || range.collapsed ? 'None' : 'Text';
@@ -32,6 +33,7 @@ function kind({ range, object }) {
  */
 export const state = () => {
   const view = readView();
+  /** @type {Record<number, number>} */
   const commands = {};
   for (const number of table.keys()) commands[number] = statusOf(number, view);
   const read = Object.entries(values).map(([name, number]) => [name, queryValue(number, view)]);
