@@ -114,7 +114,7 @@
     place: (selector) => document.querySelector(selector).getBoundingClientRect(),
     keysUp: () => keysUp,
     composed: () => composed,
-    // A drop of what another program lets go of.
+    // Drops data of another program.
     drop(data, clientX, clientY) {
       const dataTransfer = new DataTransfer();
       dataTransfer.setData('text/html', data);
@@ -147,7 +147,7 @@
         new ClipboardEvent('cut', { clipboardData, bubbles: true, cancelable: true }));
       return clipboardData.getData('text/html');
     },
-    // The document's text as a program has it that is told of the changes.
+    // The document's text as a program has it that applies the changes it gets.
     told() {
       const { revision, html, steps } = velor.changes(following.revision);
       let text = html ?? following.text;
@@ -163,16 +163,16 @@
       following = { revision, text, tellings: following.tellings + (html ? 0 : 1) };
       return text;
     },
-    // Begins to follow; every element that has two others in it is a branch.
+    // Begins to apply changes; every element with two elements in it is a branch.
     follow() {
       inside.dividePiecesOver(1);
       this.told();
       following.tellings = 0;
       return this.told();
     },
-    // How often the changes alone were told since.
+    // How often changes came since, in place of the whole text.
     tellings: () => following.tellings,
-    // What no command may leave behind.
+    // Faults in the document that no command may leave.
     faults() {
       const faults = [];
       const ids = [...document.querySelectorAll('[id]')].map((element) => element.id);

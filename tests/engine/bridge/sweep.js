@@ -24,18 +24,18 @@
   ];
 
   const look = () => ({ html: velor.serialize(), selected: markup.read() });
-  // Carried out a second time, the first of these are taken back and the others change nothing.
+  // A second call takes back the first of these; a second call of the others changes nothing.
   const toggles = new Set([Command.Bold, Command.Italic, Command.Underline]);
-  // What a page's dialect makes a difference for.
+  // Commands whose markup depends on the page's dialect.
   const written = new Set([
     Command.JustifyCenter, Command.JustifyLeft, Command.JustifyRight, Command.SetBackColor,
     Command.SetFontName, Command.SetFontSize, Command.SetForeColor,
   ]);
   const settled = new Set([...written, Command.SetBlockFormat]);
-  // Enabled only where they do something.
+  // Commands that must change something wherever they are enabled.
   const honest = new Set([Command.Indent, Command.Outdent]);
 
-  // Runs that were joined come back apart in the spelling that they were joined in.
+  // A run that was joined with its neighbour has the neighbour's tag: both tags count as one.
   const spelled = { STRONG: 'B', EM: 'I' };
   function formatsOf(text) {
     const names = [];

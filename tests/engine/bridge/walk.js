@@ -19,7 +19,7 @@
   const blockNames = ['Normal', 'Heading 1', 'Heading 3', 'Formatted', 'Address', 'Numbered List',
     'Bulleted List', 'Directory List', 'Definition Term', 'Definition', 'Paragraph'];
 
-  // Commands that change looks and structure, never the words.
+  // Commands that change formats and structure; the words must stay.
   const formats = [
     ...[...switches, ...alignments, Command.OrderList, Command.UnorderList, Command.Indent,
       Command.Outdent].map((number) => () => [number]),
@@ -39,14 +39,14 @@
     .map((text) => text.replace(/[\s\u00a0]+/g, ' ').trim()).filter(Boolean);
 
   const look = () => ({ html: velor.serialize(), selected: markup.read() });
-  // Blanks at a line's edge are kept otherwise while the caret is there.
+  // Without blanks: one at a line's edge is a no-break space while the caret is beside it.
   const unblanked = (text) => text.replace(/&nbsp;|\s/g, '');
   const same = (one, other) =>
     one.html === other.html && unblanked(one.selected) === unblanked(other.selected);
 
-  // How often the source's lines end.
+  // The number of line ends in the source.
   const lineEnds = (html) => html.split('\n').length;
-  // What a look never takes away: marks of changes, links, names and classes, with their words.
+  // What a format command must keep: marks of changes, links, names and classes, with their words.
   const marks = () => [...document.body.querySelectorAll('ins, del, a[href], [id]')]
     .map((element) => ({ words: wordsOf(element.textContent),
       sign: `${element.id || element.tagName} ${element.getAttribute('href') ?? ''}` }));
@@ -167,7 +167,7 @@
 
   function newFaults() {
     const faults = markup.faults().split(', ').filter(Boolean);
-    // Old pages have no other means for these.
+    // Pages of the old dialect write these as styles too: they have no elements for them.
     const allowed = /^background-color|^font-weight|^font-style/;
     /** @type {NodeListOf<HTMLElement>} */
     const elements = document.querySelectorAll('body [style]');
@@ -234,7 +234,7 @@
       ? [] : ['a key changed the page'];
   }
 
-  // Of a toggle: what was said is what is done, and done twice it is as before.
+  // A toggle does what its state promised, and a second call restores the document.
   function toggleJudged() {
     const [verb, number] = step.action;
     if (verb !== 'exec') return [];
@@ -257,7 +257,7 @@
     return faults;
   }
 
-  // Twice the same is once.
+  // A second call of these changes nothing.
   const settled = new Set([...alignments, ...values, Command.SetBlockFormat]);
   function repeated(now) {
     const [verb, number, value] = step.action;
@@ -374,7 +374,7 @@
       const { before, action } = step;
       return [faults.join(', '), before.selected, told(action), now.selected].join('\n  ');
     },
-    // All the way back to the loaded page and on to the end.
+    // Undoes everything, which must give the loaded page, and redoes everything.
     wayBack() {
       const end = look();
       const on = [];
@@ -394,7 +394,7 @@
       }
       return look().html === end.html ? '' : `redo ends at ${look().selected}`;
     },
-    // So many cuts, each pasted back in the next step; the first fault.
+    // Does that many cuts, each pasted back in the next step; answers the first fault.
     cutAndPaste(count) {
       for (let left = count; left > 0; left--) {
         select();
@@ -405,7 +405,7 @@
       }
       return '';
     },
-    // So many steps without keys; the first fault.
+    // Does that many steps without keys; answers the first fault.
     rush(count) {
       for (let left = count; left > 0; left--) {
         this.next();

@@ -65,7 +65,7 @@
       const { text } = work;
       getSelection().setBaseAndExtent(text, 0, text, Math.min(4, text.length));
     },
-    // Done when no frame of the bridge waits any more.
+    // Sets `rested` when no animation frame of the bridge is pending.
     rest() {
       work.rested = false;
       requestAnimationFrame(() => requestAnimationFrame(() => { work.rested = true; }));
