@@ -62,7 +62,7 @@ int main(int argc, char **argv) {
         mainWindow = std::make_unique<MfrmProgram>(real.parts, values);
         QObject::connect(mainWindow.get(), &MfrmProgram::Unloading, &application,
                          [&] { boundary.ProgramEnds(); });
-        // Not quit(), which would ask every window once more.
+        // exit(), not quit(): quit() asks every window again whether it may close.
         QObject::connect(mainWindow.get(), &MfrmProgram::Unloaded, &application,
                          [] { QCoreApplication::exit(); });
         mainWindow->Load();

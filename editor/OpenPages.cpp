@@ -20,7 +20,7 @@ namespace {
 
 /// The title in the template of new pages; no file name is made from it.
 const QString TitleOfNewPages = QStringLiteral("Untitled New Page");
-/// Maximum length of a proposed name in UTF-16 units.
+/// Maximum length of a proposed name in UTF-16 code units.
 constexpr qsizetype LongestName = 60;
 
 QString WithoutReferences(QStringView text) {

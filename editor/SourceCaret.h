@@ -7,7 +7,7 @@ namespace velor {
 
 class SourceControl;
 
-/// Line and column of a source control's caret, from 0, columns in UTF-16 units.
+/// Line and column of a source control's caret, from 0, columns in UTF-16 code units.
 struct SourceCaret {
   int line = 0;
   int column = 0;

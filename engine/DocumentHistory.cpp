@@ -8,7 +8,8 @@ namespace velor {
 
 namespace {
 
-/// What documents kept for undo may hold together, in UTF-16 units; the nearest is always kept.
+/// What documents kept for undo may hold together, in UTF-16 code units; the nearest is always
+/// kept.
 constexpr qsizetype MostKept = 32'000'000;
 
 qsizetype WeightOf(const FaithfulPage &page) {

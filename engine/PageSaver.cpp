@@ -14,7 +14,7 @@ namespace {
 
 const QString LongCheck =
     QStringLiteral("The page takes long to save. Press Escape to have it written anew as a whole.");
-/// UTF-16 units. Composing a larger page ahead would delay the next key.
+/// UTF-16 code units. Composing a larger page ahead would delay the next key.
 constexpr qsizetype LargestAhead = 2'000'000;
 
 QString WrittenAnew(const QString &reason) {

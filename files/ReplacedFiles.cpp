@@ -23,7 +23,7 @@ QString Origin(const QString &kept) {
 
 /// The end of a name, short enough that time and suffix fit before and behind it.
 QString ShortName(const QString &nativePath) {
-  constexpr qsizetype Most = 60;  // UTF-16 units, of up to three bytes each
+  constexpr qsizetype Most = 60;  // UTF-16 code units, of up to three bytes each
   return QFileInfo(nativePath).fileName().right(Most);
 }
 

@@ -12,10 +12,10 @@ namespace velor {
 namespace {
 
 bool NeedsNoQuotes(QChar c) {
-  const char16_t unit = c.unicode();
-  return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z') ||
-         (unit >= u'0' && unit <= u'9') || unit == u'-' || unit == u'.' || unit == u'_' ||
-         unit == u':';
+  const char16_t codeUnit = c.unicode();
+  return (codeUnit >= u'a' && codeUnit <= u'z') || (codeUnit >= u'A' && codeUnit <= u'Z') ||
+         (codeUnit >= u'0' && codeUnit <= u'9') || codeUnit == u'-' || codeUnit == u'.' ||
+         codeUnit == u'_' || codeUnit == u':';
 }
 
 QString AttributeText(const QString &value) {

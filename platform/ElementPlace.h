@@ -9,7 +9,7 @@ namespace velor {
 
 /// A place in the text of an element. The element is given by its name (lower case) and its number,
 /// from 0, among the elements of that name in document order; the place by its offset in the
-/// element's text, in UTF-16 units, a line break counting as one.
+/// element's text, in UTF-16 code units, a line break counting as one.
 struct ElementPlace {
   QString name;
   int ordinal = 0;

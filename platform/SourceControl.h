@@ -52,7 +52,7 @@ class SourceControl {
   /// and for those that a View refuses.
   virtual void Edit(EditingCommand command) = 0;
 
-  /// Zero-based line and column of the caret, columns in UTF-16 units.
+  /// Zero-based line and column of the caret, columns in UTF-16 code units.
   virtual int CaretLine() const = 0;
   virtual int CaretColumn() const = 0;
   virtual int LineLength(int line) const = 0;

@@ -8,7 +8,7 @@ namespace velor {
 
 namespace {
 
-/// Units compared at once: texts of many megabytes differ in few places.
+/// Code units compared at once: texts of many megabytes differ in few places.
 constexpr qsizetype Block = 2048;
 
 bool IsSame(QStringView one, qsizetype oneAt, QStringView other, qsizetype otherAt) {

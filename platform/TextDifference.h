@@ -5,8 +5,8 @@
 
 namespace velor {
 
-/// The difference of two texts as one replacement: `removed` units at `start` of the first text
-/// became `inserted` units of the second. UTF-16 units; surrogate pairs are never split.
+/// Two texts' difference as one replacement: `removed` UTF-16 code units at `start` of the first
+/// became `inserted` ones of the second; surrogate pairs are never split.
 struct TextDifference {
   qsizetype start = 0;
   qsizetype removed = 0;

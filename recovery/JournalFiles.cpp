@@ -159,8 +159,9 @@ class JournalFile : public Journal {
            page.page.original == last_.page.original;
   }
   qsizetype WholeSize() const {
-    const qsizetype units = last_.page.document.size() + last_.source.value_or(QString()).size();
-    return last_.page.original.size() + units * qsizetype{sizeof(QChar)};
+    const qsizetype codeUnits =
+        last_.page.document.size() + last_.source.value_or(QString()).size();
+    return last_.page.original.size() + codeUnits * qsizetype{sizeof(QChar)};
   }
 
   /// Syncs the folder and the one above, so that both names survive a crash of the machine.

@@ -13,7 +13,8 @@ namespace velor {
 
 namespace {
 
-/// QApplication keeps a reference to the count for as long as it lives.
+/// argc for QApplication, which keeps a reference to it: static, so that it outlives the
+/// application.
 int &OnlyTheName() {
   static int count = 1;
   return count;
@@ -52,7 +53,8 @@ void EventBoundary::Run(const std::function<void()> &action) {
 
 void EventBoundary::Report(const std::exception &error) {
   WriteToStandardError(error.what());
-  // An error that comes while a box is open (a timer's, say) must not pile up boxes.
+  // A message box runs an event loop. An error raised in it (by a timer, for example) shows no
+  // second box.
   if (showsBox_ || qEnvironmentVariableIsSet("VELOR_NO_ERROR_BOX")) return;
   const QScopedValueRollback<bool> showing(showsBox_, true);
   Message message;

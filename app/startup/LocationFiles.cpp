@@ -29,7 +29,7 @@ QStringView UpTo(QStringView text, QStringView ends) {
 
 void WriteLocation(Files &files, const QString &file, const QString &location) {
   const QByteArray content = (u'"' + ForPeople(location) + QStringLiteral("\"\r\n")).toUtf8();
-  // A start on a full disk, or from a program folder that is read-only, has nothing to write then.
+  // No write without a change: the program also starts from a full disk or a read-only folder.
   if (files.FileExists(file) && files.ReadAll(file) == content) return;
   files.ReplaceAll(file, content);
 }

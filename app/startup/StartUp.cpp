@@ -12,8 +12,8 @@ namespace velor {
 
 namespace {
 
-// Beside the program. Joined as they stand, so that a program folder that is a root gives a doubled
-// separator, which every file operation takes.
+// Appended to the program folder. For a root folder that gives two separators, which every file
+// operation accepts.
 constexpr auto DatabaseName = u"\\eThumbs.mdb";
 constexpr auto ImageFolderName = u"\\eImages";
 constexpr auto DatabaseLocationName = u"\\SiteConfig.ini";
@@ -32,7 +32,8 @@ QString Text(const char16_t *text) {
   return QString::fromUtf16(text);
 }
 
-/// The steps that ask where a path leads nowhere, in their order.
+/// The steps of the start that look for a file or folder and ask for it where it is missing, in
+/// their order.
 class StartUpSteps {
  public:
   StartUpSteps(Platform &platform, ProgramValues &values, StartUpWindows &windows)
@@ -124,7 +125,7 @@ class StartUpSteps {
     return files_.FileExists(path, NameOrigin::Program);
   }
 
-  /// Folders are looked for by name alone: a file of that name counts too.
+  /// Tests the name only: a file with a folder's name counts as that folder.
   bool NameExists(const QString &path, NameOrigin origin) const {
     return files_.FolderExists(path, origin) || files_.FileExists(path, origin);
   }

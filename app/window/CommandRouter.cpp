@@ -144,13 +144,13 @@ void CommandRouter::NewPage() {
 void CommandRouter::OpenPage() {
   QAction &item = host_.MenuItem({CommandId::OpenPage});
   item.setEnabled(false);
-  // After a refusal the item deliberately stays disabled.
+  // Without room the menu item stays disabled, on purpose.
   if (!HasRoom(context_)) return;
   try {
     FileDialog &dialog = context_.mainWindow.fileDialog;
     dialog.Flags = FileDialog::FileMustExist;
     dialog.Filter = QStringLiteral("HTML Files *.htm,*.html|*.htm;*.html");
-    // A cancelled dialog names no file, and nothing needs saying.
+    // A cancelled dialog returns no file and needs no message.
     if (const QString path = dialog.ShowOpen(); !path.isEmpty()) OpenFile(path);
   } catch (const RuntimeError &) {
   }
@@ -185,7 +185,8 @@ void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
   const QPointer<frmMain> page = context_.pages.Page(front->PageNumber());
   QString done = QStringLiteral("Saved %1");
   if (front->View() == FrontView::SourceEditor) {
-    // What is seen is what is saved: the source goes into the page first. Undo there takes it back.
+    // Typed source is applied to the page first, so that the file gets what is on the screen. Undo
+    // in the page takes it back.
     frmCodeEditor *editor = context_.pages.CodeEditor(front->PageNumber());
     if (editor->UnappliedText()) {
       if (!editor->Apply()) return;
@@ -193,7 +194,8 @@ void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
     }
   }
   if (page.isNull()) return;
-  // What the save has to tell outweighs that it went well.
+  // Without earlier notices. Where the save itself reports something, "Saved" does not replace
+  // that.
   context_.mainWindow.status.Report({});
   const auto end = modWorkFlow::SaveAndReport(context_, *page, kind);
   if (page.isNull()) return;
@@ -281,7 +283,7 @@ QStringList CommandRouter::OpenFiles(const QStringList &paths, int line) {
   bool isRefused = false;
   for (const QString &path : paths) {
     if (ShowPageOfFile(context_, path)) continue;
-    // Said once, however many there are.
+    // One report for all files that were refused.
     isRefused = isRefused || !HasRoom(context_);
     const QString refusal =
         isRefused
@@ -315,7 +317,7 @@ void CommandRouter::OpenDroppedFiles(const QStringList &paths, frmMain *page) {
   for (const QString &path : paths) {
     if (HasEnding(path, PageEndings)) {
       if (isOpening_ || ShowPageOfFile(context_, path)) continue;
-      // Said once, however many there are.
+      // One report for all files that were refused.
       isRefused = isRefused || !HasRoom(context_);
       if (!isRefused) OpenFile(path);
     } else if (!alive.isNull() && HasEnding(path, PictureEndings)) {

@@ -50,9 +50,9 @@ QWidget *PickerRow(std::initializer_list<ColorPicker *> pickers, QWidget *parent
   return row;
 }
 
-/// The colour pickers on a toolbar. Where the toolbar is too narrow for them, others that choose
-/// for them stand in the menu of what did not fit; a toolbar keeps an action's default widget out
-/// of that menu, so they are none.
+/// The colour pickers on a toolbar. In the overflow menu of a toolbar that is too narrow there are
+/// second pickers, which pass their choice to the first. A toolbar shows no default widget
+/// (setDefaultWidget) in that menu, so each place creates its own.
 class ColorsAction final : public QWidgetAction {
  public:
   ColorsAction(ColorPicker &fore, ColorPicker &back, QObject *parent)
@@ -91,7 +91,8 @@ FormattingBar::FormattingBar(QWidget *parent)
       blockFormat_(Named(new ChoiceBox(this), "cobFormat", tr("Block Format"))),
       fontSize_(Named(new ChoiceBox(this), "cobSize", tr("Font Size"))),
       fontName_(Named(new FontPicker(this), "Font1", tr("Font"))) {
-  // The keyboard is in the picker's text box, which is heard by a name of its own.
+  // The text box in the picker has the focus: assistive technology reads its name, not the
+  // picker's.
   fontName_->lineEdit()->setAccessibleName(fontName_->accessibleName());
   blockFormat_->setFixedWidth(FormatWidth);
   fontName_->setFixedWidth(FontWidth);
@@ -104,7 +105,7 @@ FormattingBar::FormattingBar(QWidget *parent)
     row->addWidget(box);
   }
   QToolBar *buttonBar = BuildButtons();
-  // One row for the eye: the colours close it.
+  // The colours are the last part of the button bar.
   AddColors(*buttonBar);
   row->addWidget(buttonBar, 1);
   setTabOrder(blockFormat_, fontName_);

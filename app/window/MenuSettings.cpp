@@ -22,7 +22,7 @@ void LoadBackground(const QString &name, const MenuPictures &pictures, MenuPaint
   try {
     painter.SetBackground(pictures.file(name));
   } catch (const RuntimeError &) {
-    // The background stays as it was.
+    // A picture that cannot be read leaves the background as it was.
   }
 }
 

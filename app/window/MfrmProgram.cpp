@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The main window's parts, how it loads, and how it goes.
+// MfrmProgram: how the window is built, loaded and closed.
 #include "app/window/MfrmProgram.h"
 
 #include "app/window/CommandPalette.h"
@@ -51,12 +51,11 @@ namespace {
 
 constexpr int ChooserWidth = 240;
 constexpr int ChooserButtonWidth = 26;
-/// Two tabs and the chooser need more.
+/// Pixels. Two tabs and the page chooser need more than this.
 constexpr int NarrowRow = 700;
 
-/// The row of the page tabs, of the backdrop's colour so that the tab in front belongs to what lies
-/// below it.
-/// In a narrow window the page chooser becomes a button before the tabs give way.
+/// The row with the page tabs and the page chooser, in the colour of the page area below it. In a
+/// narrow window the chooser becomes a button, so that the tabs keep their room.
 class TabRow final : public QWidget {
  public:
   TabRow(QComboBox &chooser, QWidget *parent) : QWidget(parent), chooser_(chooser) {}
@@ -73,17 +72,18 @@ class TabRow final : public QWidget {
 };
 
 constexpr QSize FirstSize(1180, 800);
-/// Room for the frame that the desktop puts around the window; known only once it is there.
+/// Pixels for the frame that the desktop draws around the window. Its real size is known only when
+/// the window is shown.
 constexpr QSize FrameRoom(16, 48);
 
-/// The program's one array of flat painters lives in them.
+/// These sweeps own the program's one array of flat painters.
 std::unique_ptr<StylingSweeps> SweepsOn(WindowSystem *windows) {
   if (!windows) return nullptr;
   return std::make_unique<ReportingSweeps>(std::make_unique<FlatSweeps>(*windows));
 }
 
-/// A person's request to close every window of the program that asks before it closes: each is
-/// marked first, so that none of them asks. What fails on the way no longer matters.
+/// Closes every window of the program. Each window that would ask is marked first, so that it does
+/// not. Errors are ignored: the program ends.
 void UnloadProgramWindows() {
   QList<QPointer<QWidget>> windows;
   for (QWidget *widget : QApplication::allWidgets()) {
@@ -151,7 +151,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
 }
 
 MfrmProgram::~MfrmProgram() {
-  // The page windows use what the members hold; they go before them.
+  // Page windows use the members of this object, so they are deleted first.
   disconnect(area_, nullptr, this, nullptr);
   delete area_;
 }
@@ -206,7 +206,7 @@ QWidget *MfrmProgram::BuildTabRow() {
 
 void MfrmProgram::Load() {
   RunLoadSteps(*this, platform_.runtime);
-  // From the event loop: when start-up has said all it has to say.
+  // From the event loop, so after the messages of the start.
   QTimer::singleShot(0, recovery_, [this] {
     projects_->ReportCatalogueDefect();
     recovery_->Offer();
@@ -246,8 +246,8 @@ void MfrmProgram::PrepareControlsAndMenus() {
   try {
     DressMenus();
   } catch (const RuntimeError &error) {
-    // A preference that cannot be read does not keep the program from starting: it is reported from
-    // the event loop, when the window is there.
+    // The program starts without a preference that cannot be read. The error is reported from the
+    // event loop, when the window is shown.
     QTimer::singleShot(0, this, [error] { throw error; });
   }
 }
@@ -306,7 +306,7 @@ void MfrmProgram::ShowFront() {
 }
 
 void MfrmProgram::closeEvent(QCloseEvent *event) {
-  // Waiting for a page lets another request to close in.
+  // While this waits for a page, the person may close the window a second time.
   if (isClosing_) return event->ignore();
   const QScopedValueRollback<bool> closing(isClosing_, true);
   if (!KeepPagesAtExit(context_)) return event->ignore();

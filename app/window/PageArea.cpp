@@ -33,12 +33,14 @@ PageArea::PageArea(Additions additions, QWidget *parent) : QMdiArea(parent), add
   setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   connect(this, &QMdiArea::subWindowActivated, this, &PageArea::NoticeFront);
-  // The keys of child windows where people come from; Ctrl+W and Ctrl+Tab are the area's own.
+  // Ctrl+F4 and Ctrl+F6, which Windows has for child windows. QMdiArea itself has Ctrl+W and
+  // Ctrl+Tab.
   const auto onKey = [this](const QKeySequence &key, void (QMdiArea::*act)()) {
     connect(new QShortcut(key, this), &QShortcut::activated, this, act);
   };
   const QKeySequence close(Qt::CTRL | Qt::Key_F4);
-  // Where the platform closes by it the frames have it, and two shortcuts of one key do nothing.
+  // On platforms with this standard shortcut the frames have it already, and two shortcuts for one
+  // key disable each other.
   if (!QKeySequence::keyBindings(QKeySequence::Close).contains(close))
     onKey(close, &QMdiArea::closeActiveSubWindow);
   onKey(Qt::CTRL | Qt::Key_F6, &QMdiArea::activateNextSubWindow);
@@ -46,7 +48,7 @@ PageArea::PageArea(Additions additions, QWidget *parent) : QMdiArea(parent), add
 }
 
 PageArea::~PageArea() {
-  // The frames that go with it are no news.
+  // Frames that are deleted with the area report no activation.
   disconnect(this, &QMdiArea::subWindowActivated, this, nullptr);
 }
 
@@ -76,7 +78,7 @@ void PageArea::Activate(QWidget *window) {
   }
   QWidget *tabs = qobject_cast<QTabBar *>(QApplication::focusWidget());
   const QScopedValueRollback keeping(keepsKeyboard_, tabs != nullptr);
-  // The frame takes the keyboard for its window whoever has it.
+  // Activating a frame moves the focus into it, wherever the focus was.
   setActiveSubWindow(frame);
   (tabs != nullptr ? tabs : window)->setFocus();
 }
@@ -95,7 +97,8 @@ void PageArea::Release(QWidget *window) {
   ActivateInPlaceOf(frame);
   frame->hide();
   frame->setWidget(nullptr);
-  // The window deletes itself in its own time, but never later than the main window.
+  // The window deletes itself later (deleteLater); as a child it is deleted with the area at the
+  // latest.
   window->setParent(this);
   removeSubWindow(frame);
   frame->deleteLater();
@@ -134,8 +137,8 @@ void PageArea::FocusFrontWindow() {
 }
 
 bool PageArea::eventFilter(QObject *watched, QEvent *event) {
-  // The frame takes over the title of its window first. The area watches its frames as well, whose
-  // titles are its own work.
+  // Queued: the frame copies the window's title first. Frames are filtered too, and are left out:
+  // their titles are set here.
   if (event->type() == QEvent::WindowTitleChange &&
       qobject_cast<QMdiSubWindow *>(watched) == nullptr)
     QMetaObject::invokeMethod(this, &PageArea::NameFrames, Qt::QueuedConnection);

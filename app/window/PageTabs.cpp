@@ -19,7 +19,7 @@
 namespace velor {
 namespace {
 
-/// The strip's image list, from 1.
+/// Images of the tabs by number, from 1.
 constexpr std::array<const char *, 1> Images{"page"};
 
 constexpr int TabHeight = 34;
@@ -28,12 +28,12 @@ constexpr int WidestTab = 220;
 constexpr int WidestTabWithNote = 440;
 constexpr int NarrowestTab = 72;
 constexpr int MarkHeight = 2;
-/// The dot on the picture of a page with unsaved changes.
+/// Pixels: the dot on the picture of a page with unsaved changes.
 constexpr int ChangeMark = 9;
-/// The padlock on the picture of a page that cannot be saved: its body.
+/// Pixels: the body of the padlock on the picture of a page that cannot be saved.
 constexpr QSize Padlock(8, 6);
 
-/// What a tab's state puts on its picture.
+/// Draws the marks of a tab's state on its picture.
 void PaintMarks(QPainter &painter, const QPalette &palette, const TabState &state,
                 const QRect &picture) {
   painter.save();
@@ -72,7 +72,8 @@ PageTabs::PageTabs(QWidget *parent) : QTabBar(parent) {
   setElideMode(Qt::ElideMiddle);
   setIconSize(QSize(MenuIconSize, MenuIconSize));
   connect(this, &QTabBar::currentChanged, this, &PageTabs::Choose);
-  // A click on the tab in front changes nothing there, but its page may lie behind another window.
+  // A click on the current tab emits no currentChanged, but the page's window may be behind another
+  // one.
   connect(this, &QTabBar::tabBarClicked, this, [this](int index) {
     if (index == currentIndex()) Choose(index);
   });
@@ -91,8 +92,8 @@ void PageTabs::Add(const QString &key, int image) {
 
 void PageTabs::SetCaption(const QString &key, const QString &caption) {
   const int index = IndexOf(key);
-  // The caption is measured: it is there before the text, which makes the strip lay itself out. "&"
-  // is a letter of a file name here, no mnemonic.
+  // Set before setTabText, which lays the tabs out by the caption's width. "&" is doubled: in a
+  // file name it marks no mnemonic.
   tabs_[static_cast<std::size_t>(index)].caption = caption;
   Describe(index);
   setTabText(index, QString(caption).replace(u'&', QStringLiteral("&&")));
@@ -105,7 +106,7 @@ void PageTabs::SetState(const QString &key, const TabState &state) {
   known = state;
   Describe(index);
   if (isAsWide) return update(tabRect(index));
-  // Makes the strip lay itself out.
+  // Has the tabs laid out again.
   setTabText(index, tabText(index));
 }
 

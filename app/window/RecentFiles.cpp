@@ -12,7 +12,7 @@
 namespace velor {
 namespace {
 
-/// As many as have a digit for a key.
+/// The digits 1 to 9 are their mnemonics.
 constexpr int MostListed = 9;
 
 }  // namespace

@@ -15,7 +15,7 @@ StatusLine::StatusLine(QWidget *parent, NoticeTimes times)
   tag_->setObjectName(QStringLiteral("Sta_1"));
   tag_->setTextFormat(Qt::PlainText);
   tag_->setIndent(BarMargin);
-  // A long path gives way to the window, not the other way round.
+  // A long path is cut off; it does not widen the window.
   tag_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   addWidget(tag_, 1);
   textForm_->setObjectName(QStringLiteral("Sta_2"));

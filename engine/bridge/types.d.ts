@@ -252,7 +252,7 @@ interface State {
   element: { tag: string; attributes: [name: string, value: string][] };
 }
 
-/** What differs in a text: `fresh` in place of `length` UTF-16 units from `offset`. */
+/** What differs in a text: `fresh` in place of `length` UTF-16 code units from `offset`. */
 type TextEdit = [offset: number, length: number, fresh: string];
 /** The text of number `revision`: whole, or the steps that lead to it. */
 interface Telling { revision: number; html?: string; steps?: TextEdit[][] }

@@ -20,8 +20,8 @@ bool HasStates(const PageEncoding &encoding) {
   return encoding.charset == u"iso-2022-jp";
 }
 
-bool IsLineBreak(QChar unit) {
-  return unit == u'\n' || unit == u'\r';
+bool IsLineBreak(QChar codeUnit) {
+  return codeUnit == u'\n' || codeUnit == u'\r';
 }
 
 /// Whether a reference at that place of the text stands for its character: in text and in an
@@ -81,9 +81,9 @@ PageToWrite StillReadAsBefore(PageToWrite page, const PageEncoding &encoding) {
   for (const HtmlToken &token : TokenizeHtml(page.text)) {
     if (!token.IsText() && token.kind != HtmlTokenKind::StartTag) continue;
     for (qsizetype at = token.offset; at < token.End(); ++at) {
-      const char16_t unit = page.text[at].unicode();
-      if (unit < 0x80) continue;
-      const QString reference = QStringLiteral("&#%1;").arg(unit);
+      const char16_t codeUnit = page.text[at].unicode();
+      if (codeUnit < 0x80) continue;
+      const QString reference = QStringLiteral("&#%1;").arg(codeUnit);
       // One byte a character.
       page.bytes.replace(at, 1, reference.toLatin1());
       page.text.replace(at, 1, reference);
@@ -174,8 +174,8 @@ class Splicer {
   }
 
  private:
-  qsizetype Byte(qsizetype unit) const {
-    return unit < text_.size() ? places_[static_cast<std::size_t>(unit)] : bytes_.size();
+  qsizetype Byte(qsizetype codeUnit) const {
+    return codeUnit < text_.size() ? places_[static_cast<std::size_t>(codeUnit)] : bytes_.size();
   }
   std::pair<qsizetype, qsizetype> Edges(const TextPatch &patch) const {
     qsizetype start = patch.start;
@@ -188,13 +188,13 @@ class Splicer {
     }
     return {start, end};
   }
-  bool IsCut(qsizetype unit) const {
-    if (unit <= 0 || unit >= text_.size()) return true;
-    return Byte(unit) != Byte(unit - 1) && !text_[unit].isLowSurrogate();
+  bool IsCut(qsizetype codeUnit) const {
+    if (codeUnit <= 0 || codeUnit >= text_.size()) return true;
+    return Byte(codeUnit) != Byte(codeUnit - 1) && !text_[codeUnit].isLowSurrogate();
   }
   /// Whether the charset is in its initial state behind the bytes before an offset of the text.
-  bool IsPlain(qsizetype unit) const {
-    const QByteArrayView before = bytes_.first(Byte(unit));
+  bool IsPlain(qsizetype codeUnit) const {
+    const QByteArrayView before = bytes_.first(Byte(codeUnit));
     const qsizetype escape = before.lastIndexOf('\x1b');
     return escape < 0 || before.sliced(escape).startsWith(QByteArrayView("\x1b(B"));
   }

@@ -9,7 +9,7 @@
 
 namespace velor {
 
-/// A stretch of a text and what takes its place; offsets in UTF-16 units.
+/// A stretch of a text and what takes its place; offsets in UTF-16 code units.
 struct TextPatch {
   qsizetype start = 0;
   qsizetype end = 0;

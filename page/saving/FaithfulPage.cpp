@@ -18,7 +18,7 @@ namespace {
 /// Bounds the tries for one save, so that nobody waits long. One try is always made.
 struct Effort {
   qsizetype tries;
-  qsizetype parsed;  ///< UTF-16 units that all tries may parse together
+  qsizetype parsed;  ///< UTF-16 code units that all tries may parse together
 
   qsizetype For(const QString &text) const {
     return std::clamp(parsed / std::max<qsizetype>(text.size(), 1), qsizetype{1}, tries);
@@ -125,7 +125,7 @@ QString WithoutImpliedFrame(const QString &serialisation) {
   return content;
 }
 
-/// UTF-16 units of a page's code that a message quotes.
+/// UTF-16 code units of a page's code that a message quotes.
 constexpr qsizetype LongestQuote = 60;
 
 const QString NoSmallerChange =

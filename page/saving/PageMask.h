@@ -20,7 +20,7 @@ namespace velor {
 /// altogether: a parser moves them before these tags, between the page's text and whatever is added
 /// at its end.
 ///
-/// Offsets count UTF-16 units. "Masked" is the text that the engine is given, or one of its
+/// Offsets count UTF-16 code units. "Masked" is the text that the engine is given, or one of its
 /// serialisations.
 class PageMask {
  public:

@@ -23,8 +23,9 @@ constexpr std::uint32_t HeadElements[] = {
     elements::Script,      NameKeyOf(u"style"), NameKeyOf(u"noscript"), NameKeyOf(u"template"),
     NameKeyOf(u"noframes")};
 
-bool IsSpace(QChar unit) {
-  return unit == u' ' || unit == u'\n' || unit == u'\t' || unit == u'\r' || unit == u'\f';
+bool IsSpace(QChar codeUnit) {
+  return codeUnit == u' ' || codeUnit == u'\n' || codeUnit == u'\t' || codeUnit == u'\r' ||
+         codeUnit == u'\f';
 }
 
 /// The offset behind the next `close`; the text's end where there is none.
@@ -208,17 +209,17 @@ void PageMasker::ReadAttributes(QStringView name) {
   tag.nameEnd = at_;
   while (at_ < source_.size()) {
     if (HideInTag(tag)) continue;
-    const QChar unit = source_[at_++];
+    const QChar codeUnit = source_[at_++];
     if (!tag.quote.isNull()) {
-      if (unit == tag.quote) tag = {tag.nameEnd, QChar(), false};
-    } else if (unit == u'>') {
+      if (codeUnit == tag.quote) tag = {tag.nameEnd, QChar(), false};
+    } else if (codeUnit == u'>') {
       return;
-    } else if (unit == u'=') {
+    } else if (codeUnit == u'=') {
       tag.isValue = true;
       while (IsSpaceAt(at_)) ++at_;
       if (at_ < source_.size() && (source_[at_] == u'"' || source_[at_] == u'\''))
         tag.quote = source_[at_++];
-    } else if (IsSpace(unit)) {
+    } else if (IsSpace(codeUnit)) {
       tag.isValue = false;
       if (isTemplate) HideShadowRoot();
     }
@@ -247,8 +248,9 @@ qsizetype PageMasker::EndOfSignInTag(const TagState &tag) {
   const QStringView sign = source_.sliced(at_, end - at_);
   if (!tag.quote.isNull()) return sign.contains(tag.quote) ? end : at_;
   if (!tag.isValue) return end;
-  const bool endsValue = std::any_of(sign.begin(), sign.end(),
-                                     [](QChar unit) { return IsSpace(unit) || unit == u'>'; });
+  const bool endsValue = std::any_of(sign.begin(), sign.end(), [](QChar codeUnit) {
+    return IsSpace(codeUnit) || codeUnit == u'>';
+  });
   return endsValue ? end : at_;
 }
 

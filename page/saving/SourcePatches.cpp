@@ -65,7 +65,7 @@ std::vector<TextCharacter> CharactersWithNuls(QStringView text) {
 
 /// How much two texts share at both ends, counted by characters as a parser reads them.
 struct SharedEnds {
-  qsizetype oldFront = 0;  ///< units, as are all of these
+  qsizetype oldFront = 0;  ///< code units, as are all of these
   qsizetype newFront = 0;
   qsizetype oldBack = 0;  ///< where the shared end begins
   qsizetype newBack = 0;

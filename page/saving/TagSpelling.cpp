@@ -20,16 +20,16 @@ bool NeedsNoQuotes(QStringView value) {
   static constexpr QStringView Breaking = u" \t\r\n\f\"'=<>`";
   return !value.isEmpty() && !value.endsWith(u'/') &&
          std::none_of(value.begin(), value.end(),
-                      [](QChar unit) { return Breaking.contains(unit); });
+                      [](QChar codeUnit) { return Breaking.contains(codeUnit); });
 }
 
 bool HasLetter(QStringView name) {
-  return std::any_of(name.begin(), name.end(), [](QChar unit) { return unit.isLetter(); });
+  return std::any_of(name.begin(), name.end(), [](QChar codeUnit) { return codeUnit.isLetter(); });
 }
 
 TagSpelling::Case CaseOf(QStringView name) {
   const bool hasLower =
-      std::any_of(name.begin(), name.end(), [](QChar unit) { return unit.isLower(); });
+      std::any_of(name.begin(), name.end(), [](QChar codeUnit) { return codeUnit.isLower(); });
   return hasLower ? TagSpelling::Case::Lower : TagSpelling::Case::Upper;
 }
 

@@ -15,10 +15,10 @@ constexpr std::size_t MostElements = 8;
 /// The longest name of a character reference has this many letters.
 constexpr qsizetype LongestReference = 32;
 
-/// The source of one character of the document: its bytes, and its UTF-16 units in the text.
+/// The source of one character of the document: its bytes, and its UTF-16 code units in the text.
 struct Piece {
   qsizetype bytes;
-  int units;
+  int codeUnits;
 };
 
 bool IsReferenceLetter(char letter) {
@@ -44,23 +44,23 @@ Piece PieceAt(QByteArrayView text) {
   return lead < 0xF0 ? Piece{3, 1} : Piece{4, 2};
 }
 
-int UnitsOf(QByteArrayView text) {
-  int units = 0;
+int CodeUnitsOf(QByteArrayView text) {
+  int codeUnits = 0;
   while (!text.isEmpty()) {
     const Piece piece = PieceAt(text);
-    units += piece.units;
+    codeUnits += piece.codeUnits;
     text = text.sliced(std::min(piece.bytes, text.size()));
   }
-  return units;
+  return codeUnits;
 }
 
-/// The bytes that `units` UTF-16 units take, at most the whole text; `units` is reduced by the
-/// units passed.
-qsizetype Advance(QByteArrayView text, int &units) {
+/// The bytes that `codeUnits` UTF-16 code units take, at most the whole text; `codeUnits` is
+/// reduced by the code units passed.
+qsizetype Advance(QByteArrayView text, int &codeUnits) {
   qsizetype at = 0;
-  while (units > 0 && at < text.size()) {
+  while (codeUnits > 0 && at < text.size()) {
     const Piece piece = PieceAt(text.sliced(at));
-    units -= piece.units;
+    codeUnits -= piece.codeUnits;
     at = std::min(at + piece.bytes, text.size());
   }
   return at;
@@ -94,7 +94,7 @@ std::optional<qsizetype> FindInBytes(QByteArrayView source, const ElementPlace &
 struct OpenElement {
   QByteArray name;
   int ordinal;
-  int unitsBefore;
+  int codeUnitsBefore;
 };
 
 }  // namespace
@@ -113,16 +113,16 @@ ElementPlaces PlacesAt(const QString &source, qsizetype position) {
   const qsizetype place = QStringView(source).first(position).toUtf8().size();
   std::map<QByteArray, int> counts;
   std::vector<OpenElement> open;
-  int units = 0;
+  int codeUnits = 0;
   qsizetype text = 0;
   VisitTags(bytes, [&](const SourceTag &tag) {
     if (tag.begin >= place) return false;
-    units += UnitsOf(QByteArrayView(bytes).sliced(text, tag.begin - text));
+    codeUnits += CodeUnitsOf(QByteArrayView(bytes).sliced(text, tag.begin - text));
     text = tag.end;
     if (tag.kind == SourceTag::Kind::Start) {
       const int ordinal = counts[tag.name]++;
       const bool standsInside = !IsVoidElement(tag.name) || place < tag.end;
-      if (standsInside) open.push_back({tag.name, ordinal, units});
+      if (standsInside) open.push_back({tag.name, ordinal, codeUnits});
     } else if (tag.kind == SourceTag::Kind::End && place >= tag.end) {
       const auto start = std::find_if(open.rbegin(), open.rend(), [&](const OpenElement &element) {
         return element.name == tag.name;
@@ -131,12 +131,12 @@ ElementPlaces PlacesAt(const QString &source, qsizetype position) {
     }
     return true;
   });
-  if (place > text) units += UnitsOf(QByteArrayView(bytes).sliced(text, place - text));
+  if (place > text) codeUnits += CodeUnitsOf(QByteArrayView(bytes).sliced(text, place - text));
   ElementPlaces places;
   for (auto element = open.rbegin(); element != open.rend() && places.size() < MostElements;
        ++element) {
     places.push_back(
-        {QString::fromUtf8(element->name), element->ordinal, units - element->unitsBefore});
+        {QString::fromUtf8(element->name), element->ordinal, codeUnits - element->codeUnitsBefore});
   }
   return places;
 }

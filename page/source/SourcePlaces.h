@@ -7,7 +7,7 @@
 
 #include <optional>
 
-// From places in a document to offsets in its source (UTF-16 units) and back.
+// From places in a document to offsets in its source (UTF-16 code units) and back.
 namespace velor {
 
 /// The offset in the source of the first of the places whose element has a tag there; nothing where

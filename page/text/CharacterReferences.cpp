@@ -49,13 +49,13 @@ const NameTable &Names() {
   return table;
 }
 
-bool IsAsciiAlphanumeric(QChar unit) {
-  const char16_t code = unit.unicode();
+bool IsAsciiAlphanumeric(QChar codeUnit) {
+  const char16_t code = codeUnit.unicode();
   return (code >= u'0' && code <= u'9') || ((code | 0x20) >= u'a' && (code | 0x20) <= u'z');
 }
 
-int DigitOf(QChar unit, int base) {
-  const char16_t code = unit.unicode();
+int DigitOf(QChar codeUnit, int base) {
+  const char16_t code = codeUnit.unicode();
   if (code >= u'0' && code <= u'9') return code - u'0';
   const int letter = code | 0x20;
   return base == 16 && letter >= u'a' && letter <= u'f' ? letter - u'a' + 10 : -1;

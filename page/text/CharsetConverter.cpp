@@ -66,7 +66,7 @@ QString CharsetConverter::Decode(QByteArrayView bytes, std::vector<std::int32_t>
 QString CharsetConverter::DecodeUnicode(QByteArrayView bytes, std::vector<std::int32_t> *offsets) {
   ucnv_resetToUnicode(unicode_);
   QString text;
-  // Few sequences give more UTF-16 units than they have bytes.
+  // Few sequences give more UTF-16 code units than they have bytes.
   text.resize(bytes.size() + 16);
   const char *source = bytes.data();
   const char *const sourceEnd = source + bytes.size();
@@ -83,7 +83,7 @@ QString CharsetConverter::DecodeUnicode(QByteArrayView bytes, std::vector<std::i
     const qsizetype filled = target - start;
     // Each turn counts its places from its own first byte.
     if (places != nullptr && done > 0)
-      for (qsizetype unit = 0; unit < filled - used; ++unit) places[unit] += done;
+      for (qsizetype codeUnit = 0; codeUnit < filled - used; ++codeUnit) places[codeUnit] += done;
     used = filled;
     if (status != U_BUFFER_OVERFLOW_ERROR) break;
     text.resize(text.size() * 2);
@@ -115,9 +115,9 @@ qsizetype CharsetConverter::FirstReference(QStringView text) {
   if (unicode_ != nullptr) return -1;
   for (qsizetype at = 0; at < text.size();) {
     const qsizetype start = at;
-    const QChar unit = text[at];
+    const QChar codeUnit = text[at];
     const char32_t character = NextCharacter(text, at);
-    const bool isBroken = character == Replacement && unit != QChar(Replacement);
+    const bool isBroken = character == Replacement && codeUnit != QChar(Replacement);
     if (isBroken || !Writes(character)) return start;
   }
   return -1;
@@ -136,9 +136,9 @@ QByteArray CharsetConverter::Encode(const QString &text) {
   };
   const QStringView view = text;
   for (qsizetype at = 0; at < view.size();) {
-    const QChar unit = view[at];
+    const QChar codeUnit = view[at];
     const char32_t character = NextCharacter(view, at);
-    const bool isBroken = character == Replacement && unit != QChar(Replacement);
+    const bool isBroken = character == Replacement && codeUnit != QChar(Replacement);
     if (isBroken || !Writes(character)) {
       shift(false);
       bytes += "&#" + QByteArray::number(static_cast<uint>(character)) + ';';

@@ -25,13 +25,13 @@ class CharsetConverter {
 
   /// Invalid bytes become U+FFFD. Never raises.
   QString Decode(QByteArrayView bytes);
-  /// Decode that also fills `offsets`: for each UTF-16 unit the offset of its character's first
-  /// byte.
+  /// Decode that also fills `offsets`: for each UTF-16 code unit the offset of its character's
+  /// first byte.
   QString Decode(QByteArrayView bytes, std::vector<std::int32_t> &offsets);
 
   /// A character that would not decode to itself is written as a decimal reference (&#26085;).
   QByteArray Encode(const QString &text);
-  /// Where in the text (UTF-16 units) the first character stands that would be written as a
+  /// Where in the text (UTF-16 code units) the first character stands that would be written as a
   /// reference; -1 for none.
   qsizetype FirstReference(QStringView text);
 

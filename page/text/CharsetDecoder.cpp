@@ -16,7 +16,7 @@ constexpr bool IsIn(unsigned char byte, int first, int last) {
   return byte >= first && byte <= last;
 }
 
-/// Collects the decoded text and its offsets; no form gives more units than it has bytes.
+/// Collects the decoded text and its offsets; no form gives more code units than it has bytes.
 class Sink {
  public:
   Sink(qsizetype bytes, std::vector<std::int32_t> *offsets)
@@ -26,10 +26,10 @@ class Sink {
 
   void Put(char32_t character, qsizetype place) {
     if (character > 0xFFFF) {
-      Unit(QChar::highSurrogate(character), place);
-      Unit(QChar::lowSurrogate(character), place);
+      CodeUnit(QChar::highSurrogate(character), place);
+      CodeUnit(QChar::lowSurrogate(character), place);
     } else {
-      Unit(static_cast<char16_t>(character), place);
+      CodeUnit(static_cast<char16_t>(character), place);
     }
   }
   QString Text() {
@@ -40,11 +40,11 @@ class Sink {
   }
 
  private:
-  void Unit(char16_t unit, qsizetype place) {
+  void CodeUnit(char16_t codeUnit, qsizetype place) {
     if (offsets_ != nullptr)
       (*offsets_)[static_cast<std::size_t>(next_ - text_.constData())] =
           static_cast<std::int32_t>(place);
-    *next_++ = QChar(unit);
+    *next_++ = QChar(codeUnit);
   }
 
   QString text_;

@@ -207,22 +207,23 @@ class Table {
 
   /// The one character that the bytes stand for; 0 where they do not.
   char32_t Character(QByteArrayView bytes) const {
-    char16_t units[8];
+    char16_t codeUnits[8];
     UErrorCode status = U_ZERO_ERROR;
     const auto length = static_cast<std::int32_t>(bytes.size());
-    const std::int32_t count = ucnv_toUChars(converter_, units, 8, bytes.data(), length, &status);
-    if (U_FAILURE(status) || units[0] == 0xFFFD) return 0;
-    if (count == 2 && QChar::isHighSurrogate(units[0]))
-      return QChar::surrogateToUcs4(units[0], units[1]);
-    return count == 1 ? units[0] : 0;
+    const std::int32_t count =
+        ucnv_toUChars(converter_, codeUnits, 8, bytes.data(), length, &status);
+    if (U_FAILURE(status) || codeUnits[0] == 0xFFFD) return 0;
+    if (count == 2 && QChar::isHighSurrogate(codeUnits[0]))
+      return QChar::surrogateToUcs4(codeUnits[0], codeUnits[1]);
+    return count == 1 ? codeUnits[0] : 0;
   }
   QByteArray Bytes(char32_t character) const {
     char bytes[8];
     UErrorCode status = U_ZERO_ERROR;
-    const auto units = QChar::fromUcs4(character);
+    const auto codeUnits = QChar::fromUcs4(character);
     const std::int32_t count =
-        ucnv_fromUChars(converter_, bytes, 8, QStringView(units).utf16(),
-                        static_cast<std::int32_t>(QStringView(units).size()), &status);
+        ucnv_fromUChars(converter_, bytes, 8, QStringView(codeUnits).utf16(),
+                        static_cast<std::int32_t>(QStringView(codeUnits).size()), &status);
     return U_FAILURE(status) ? QByteArray() : QByteArray(bytes, count);
   }
 

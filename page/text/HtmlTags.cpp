@@ -7,8 +7,9 @@ namespace velor {
 
 namespace {
 
-bool IsSpace(QChar unit) {
-  return unit == u' ' || unit == u'\n' || unit == u'\t' || unit == u'\r' || unit == u'\f';
+bool IsSpace(QChar codeUnit) {
+  return codeUnit == u' ' || codeUnit == u'\n' || codeUnit == u'\t' || codeUnit == u'\r' ||
+         codeUnit == u'\f';
 }
 
 std::int32_t Place(qsizetype place) {
@@ -80,8 +81,8 @@ QString HtmlAttributeValue(QStringView slice) {
   QString value;
   value.reserve(slice.size());
   for (qsizetype at = 0; at < slice.size(); ++at) {
-    const QChar unit = slice[at];
-    if (unit == u'&') {
+    const QChar codeUnit = slice[at];
+    if (codeUnit == u'&') {
       const auto reference = ReadReference(slice, at, ReferencePlace::AttributeValue);
       if (reference.length > 0) {
         value += QChar::fromUcs4(reference.first);
@@ -90,11 +91,11 @@ QString HtmlAttributeValue(QStringView slice) {
         continue;
       }
     }
-    if (unit == u'\r') {
+    if (codeUnit == u'\r') {
       value += u'\n';
       if (at + 1 < slice.size() && slice[at + 1] == u'\n') ++at;
     } else {
-      value += unit == QChar(0) ? QChar(QChar::ReplacementCharacter) : unit;
+      value += codeUnit == QChar(0) ? QChar(QChar::ReplacementCharacter) : codeUnit;
     }
   }
   return value;

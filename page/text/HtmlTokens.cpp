@@ -25,12 +25,12 @@ class Key {
     value_ ^= value_ >> 29;
   }
   void AddLower(QStringView text) {
-    for (const QChar unit : text) Add(Lower(unit.unicode()));
+    for (const QChar codeUnit : text) Add(Lower(codeUnit.unicode()));
   }
   std::uint64_t Value() const { return value_; }
 
-  static char16_t Lower(char16_t unit) {
-    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit | 0x20) : unit;
+  static char16_t Lower(char16_t codeUnit) {
+    return codeUnit >= u'A' && codeUnit <= u'Z' ? static_cast<char16_t>(codeUnit | 0x20) : codeUnit;
   }
 
  private:
@@ -38,8 +38,8 @@ class Key {
   std::uint64_t value_;
 };
 
-bool IsLetter(QChar unit) {
-  const int code = unit.unicode() | 0x20;
+bool IsLetter(QChar codeUnit) {
+  const int code = codeUnit.unicode() | 0x20;
   return code >= u'a' && code <= u'z';
 }
 
@@ -165,12 +165,12 @@ class Tokenizer {
   void Comment(qsizetype data, qsizetype dataEnd, qsizetype end) {
     Key key(static_cast<std::uint64_t>(HtmlTokenKind::Comment));
     for (qsizetype at = data; at < dataEnd; ++at) {
-      char16_t unit = html_[at].unicode();
-      if (unit == u'\r') {
+      char16_t codeUnit = html_[at].unicode();
+      if (codeUnit == u'\r') {
         if (at + 1 < dataEnd && html_[at + 1] == u'\n') ++at;
-        unit = u'\n';
+        codeUnit = u'\n';
       }
-      key.Add(unit == 0 ? char16_t{QChar::ReplacementCharacter} : unit);
+      key.Add(codeUnit == 0 ? char16_t{QChar::ReplacementCharacter} : codeUnit);
     }
     Push(HtmlTokenKind::Comment, end, key.Value());
   }
@@ -211,7 +211,8 @@ class Tokenizer {
       const QStringView value = attribute.ValueIn(html);
       const bool isPlain = !value.contains(u'&') && !value.contains(u'\r');
       const QString resolved = isPlain ? QString() : HtmlAttributeValue(value);
-      for (const QChar unit : isPlain ? value : QStringView(resolved)) key.Add(unit.unicode());
+      for (const QChar codeUnit : isPlain ? value : QStringView(resolved))
+        key.Add(codeUnit.unicode());
     }
     return key.Value();
   }
@@ -286,8 +287,8 @@ class Tokenizer {
       Key key(static_cast<std::uint64_t>(HtmlTokenKind::Raw));
       for (; lineEnd < end && ClassOf(html_[lineEnd].unicode()) != TextClass::LineBreak;
            ++lineEnd) {
-        const char16_t unit = html_[lineEnd].unicode();
-        key.Add(unit == 0 ? char16_t{QChar::ReplacementCharacter} : unit);
+        const char16_t codeUnit = html_[lineEnd].unicode();
+        key.Add(codeUnit == 0 ? char16_t{QChar::ReplacementCharacter} : codeUnit);
       }
       if (lineEnd > at_) {
         const bool isStrong = lineEnd - at_ > 2;
@@ -362,7 +363,7 @@ class Tokenizer {
 std::uint32_t HtmlNameKey(QStringView name) {
   if (name.compare(u"image", Qt::CaseInsensitive) == 0) return NameKeyOf(u"img");
   std::uint32_t key = 2166136261U;
-  for (const QChar unit : name) key = (key ^ Key::Lower(unit.unicode())) * 16777619U;
+  for (const QChar codeUnit : name) key = (key ^ Key::Lower(codeUnit.unicode())) * 16777619U;
   return key | 1U;
 }
 

@@ -26,7 +26,7 @@ struct HtmlToken {
   std::uint64_t key = 0;
   /// HtmlNameKey of a tag's name; 0 for everything else.
   std::uint32_t name = 0;
-  std::int32_t offset = 0;  ///< UTF-16 units
+  std::int32_t offset = 0;  ///< UTF-16 code units
   std::int32_t length = 0;
   HtmlTokenKind kind = HtmlTokenKind::Word;
   /// A tag, or a word of three or more characters: distinctive enough to align texts by.

@@ -10,17 +10,17 @@ namespace velor {
 
 namespace {
 
-/// UTF-16 units; what goes on for longer is no sign.
+/// UTF-16 code units; what goes on for longer is no sign.
 constexpr qsizetype LongestSign = 2048;
 constexpr int MostUnclosed = 1000;
 
-bool IsLetter(QChar unit) {
-  const int code = unit.unicode() | 0x20;
+bool IsLetter(QChar codeUnit) {
+  const int code = codeUnit.unicode() | 0x20;
   return code >= u'a' && code <= u'z';
 }
 
-bool IsNamePart(QChar unit) {
-  return IsLetter(unit) || unit.isDigit() || unit == u'_' || unit == u'-';
+bool IsNamePart(QChar codeUnit) {
+  return IsLetter(codeUnit) || codeUnit.isDigit() || codeUnit == u'_' || codeUnit == u'-';
 }
 
 class SignReader {
@@ -152,18 +152,18 @@ class SignReader {
   /// nothing closes it.
   qsizetype BehindClose(qsizetype at, QChar close) {
     for (; at < text_.size(); ++at) {
-      const QChar unit = text_[at];
-      if (unit == close) return at + 1;
+      const QChar codeUnit = text_[at];
+      if (codeUnit == close) return at + 1;
       QChar inner;
-      if (unit == u'"' || unit == u'\'') {
-        const qsizetype end = text_.indexOf(unit, at + 1);
+      if (codeUnit == u'"' || codeUnit == u'\'') {
+        const qsizetype end = text_.indexOf(codeUnit, at + 1);
         if (end < 0) return Unclosed();
         at = end;
-      } else if (unit == u'(') {
+      } else if (codeUnit == u'(') {
         inner = u')';
-      } else if (unit == u'{') {
+      } else if (codeUnit == u'{') {
         inner = u'}';
-      } else if (unit == u'[') {
+      } else if (codeUnit == u'[') {
         inner = u']';
       }
       if (inner.isNull()) continue;

@@ -8,17 +8,17 @@
 namespace velor {
 
 TextCharacter CharacterAt(QStringView text, qsizetype at) {
-  const QChar unit = text[at];
-  if (unit == u'&') {
+  const QChar codeUnit = text[at];
+  if (codeUnit == u'&') {
     const CharacterReference reference = ReadReference(text, at, ReferencePlace::Text);
     if (reference.length > 0) return {reference.first, reference.second, reference.length};
-  } else if (unit == u'\r') {
+  } else if (codeUnit == u'\r') {
     const bool isPair = at + 1 < text.size() && text[at + 1] == u'\n';
     return {u'\n', 0, isPair ? 2 : 1};
-  } else if (unit.isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) {
-    return {QChar::surrogateToUcs4(unit, text[at + 1]), 0, 2};
+  } else if (codeUnit.isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate()) {
+    return {QChar::surrogateToUcs4(codeUnit, text[at + 1]), 0, 2};
   }
-  return {unit.unicode(), 0, 1};
+  return {codeUnit.unicode(), 0, 1};
 }
 
 std::vector<TextCharacter> CharactersOf(QStringView text) {

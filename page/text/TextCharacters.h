@@ -12,7 +12,7 @@ namespace velor {
 struct TextCharacter {
   char32_t first = 0;
   char32_t second = 0;   ///< 0 for none
-  qsizetype length = 1;  ///< as written, UTF-16 units
+  qsizetype length = 1;  ///< as written, UTF-16 code units
 
   bool Means(const TextCharacter &other) const {
     return first == other.first && second == other.second;

@@ -19,8 +19,9 @@ namespace {
 const QByteArray pageBytes("<html><head></head><body><p>kept</p></body></html>");
 const QByteArray editedBytes("<html><head></head><body><p><b>new</b>kept</p></body></html>");
 
-/// The real files while something stands in their way; the engine works unhindered, since a page
-/// is read before it is shown and composed before it is written.
+/// The real files, with an obstacle (another user, a size limit) in place during each call. The
+/// engine is not affected: pages are read before they are shown, and composed before they are
+/// written.
 template <typename Hindrance>
 class HinderedFiles : public QtFiles {
  public:

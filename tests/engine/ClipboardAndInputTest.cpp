@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What comes into the page by the clipboard, by the program and by input methods, and what is
-// copied.
+// Pasting, copying, markup inserted by the program, and input methods.
 #include "tests/engine/EditingFixture.h"
 
 #include <QApplication>

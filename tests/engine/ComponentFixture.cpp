@@ -39,7 +39,8 @@ auto *const environment = new EngineEnvironment;
 }  // namespace
 
 bool WaitFor(const std::function<bool()> &condition) {
-  // A real event loop: the browser engine does little in single turns with pauses between them.
+  // Runs a real event loop: with single calls of processEvents the browser engine hardly makes
+  // progress.
   if (condition()) return true;
   QEventLoop loop;
   bool met = false;

@@ -23,7 +23,7 @@ bool WaitFor(const std::function<bool()> &condition);
 /// The value of an expression in the bridge's world of a page, or in the page's own.
 QVariant Evaluate(QWebEnginePage &page, const QString &expression, quint32 world = 1);
 
-/// Writes down what it is told; a test may act from inside a notice.
+/// Records the notices that it gets; a test may act from inside one.
 class RecordingListener : public EditingListener {
  public:
   void DocumentComplete() override { Note(++completions, onComplete); }

@@ -7,7 +7,7 @@
 
 namespace velor {
 
-/// A server of this machine that counts who comes.
+/// A server on this machine that counts connections.
 class CountingServer {
  public:
   CountingServer() {

@@ -10,7 +10,7 @@
 
 namespace velor {
 
-/// An editing component that is typed into and commanded, with an empty clipboard.
+/// An editing component for keys and commands, with an empty clipboard.
 class Editing : public WebEditorTest {
  protected:
   Editing() { QApplication::clipboard()->clear(); }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A person's keys and buttons, the program's commands, and what comes back of them.
+// Keys, mouse buttons and commands, and the states and notices that follow.
 #include "tests/engine/EditingFixture.h"
 
 #include <QAction>

@@ -86,8 +86,8 @@ TEST_F(EngineDecoding, KnowsTheSameLabels) {
   for (const QString &label : labels) {
     const QString ours = CharsetForLabel(label);
     EXPECT_FALSE(ours.isEmpty()) << label.toStdString();
-    // Such as an engine has no decoder for, and two that the standard has come to know, or to know
-    // differently, since Debian's was made.
+    // Labels without a decoder in the engine, and two that the standard added or changed after
+    // Debian's engine was built.
     if (ours == u"replacement" || ours == u"iso-8859-16") continue;
     if (label == u"koi8-ru" || label == u"big5-hkscs") continue;
     EXPECT_EQ(ours,

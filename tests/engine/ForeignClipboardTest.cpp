@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What other programs put on the clipboard: several forms of one thing, files, much of it, and
-// addresses that nobody is to be asked for.
+// Clipboard content of other programs: several formats of one thing, files, large content, and
+// addresses that must not be fetched.
 #include "tests/engine/EditingFixture.h"
 
 #include <QApplication>
@@ -55,13 +55,13 @@ TEST_F(ForeignClipboard, TextIsTakenBeforeAPicture) {
 TEST_F(ForeignClipboard, MarkupInSixteenBitUnitsIsUnderstood) {
   LoadWithCaret("<p>One</p>", QStringLiteral("p"));
   const QString html = QStringLiteral("<b>zw\u00f6lf</b>");
-  QByteArray units = QByteArray::fromHex("fffe");
-  for (const QChar unit : html) {
-    units += static_cast<char>(unit.unicode() & 0xff);
-    units += static_cast<char>(unit.unicode() >> 8);
+  QByteArray codeUnits = QByteArray::fromHex("fffe");
+  for (const QChar codeUnit : html) {
+    codeUnits += static_cast<char>(codeUnit.unicode() & 0xff);
+    codeUnits += static_cast<char>(codeUnit.unicode() >> 8);
   }
   auto *data = new QMimeData;
-  data->setData(QStringLiteral("text/html"), units);
+  data->setData(QStringLiteral("text/html"), codeUnits);
   Offer(data);
   Exec(EditingCommand::Paste);
   EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>One<b>zw\u00f6lf</b></p>"))) << Seen().constData();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Pages that a parser takes apart, edited and saved in the real component.
+// Pages whose markup a parser rearranges, edited and saved in the real component.
 #include "tests/engine/ComponentFixture.h"
 #include "tests/engine/NastyPages.h"
 #include "tools/page-check/PageCheck.h"
@@ -12,7 +12,7 @@ bool AsksForAll() {
   return qEnvironmentVariableIntValue("VELOR_ALL_PAGES") != 0;
 }
 
-/// An edit whose page used to cost bytes that the edit does not need.
+/// An edit for which a save once wrote more bytes than the edit needs.
 struct CostlyEdit {
   const char *name;
   QByteArray page;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Pages made to do harm by their size and shape: the window goes on living, and who has waited long
-// enough stops it. What they would run or fetch is in IsolationTest.
+// Pages whose size or structure overloads the engine: the window keeps answering, and Escape stops
+// the wait. Scripts and requests are in IsolationTest.
 #include "tests/engine/ComponentFixture.h"
 #include "tests/support/Checks.h"
 
@@ -80,7 +80,7 @@ TEST_P(HostileShapes, NeverHoldTheWindowUpWithoutAWayToStop) {
   if (WasTold()) {
     EXPECT_EQ(listener_.reports.back(), QString()) << "what is over is no longer said";
   }
-  // And then the window takes another page.
+  // Afterwards the window loads another page.
   beat_.stop();
   editor_->LoadDocument(Write(QStringLiteral("next.htm"), "<p>next</p>"));
   EXPECT_TRUE(DocumentHolds(QStringLiteral("<p>next</p>")));
@@ -157,7 +157,7 @@ INSTANTIATE_TEST_SUITE_P(
               [] { return QByteArray("<script><!--<script>").repeated(500'000); }}),
     [](const auto &shape) { return std::string(shape.param.name); });
 
-/// A page whose process is busy for ever from some moment on.
+/// A page whose process stops answering at some moment.
 class Hanging : public Hostile {
  protected:
   Hanging() {

@@ -17,7 +17,7 @@ namespace {
 
 class Isolation : public WebEditorTest {
  protected:
-  /// Thirty frames of the page: whatever was going to happen has had its turn.
+  /// Waits for thirty animation frames of the page, so that scripts and requests had time to start.
   void Settle() {
     Evaluate(
         QStringLiteral("globalThis.turns = 0; (function turn() { ++turns;"

@@ -22,7 +22,7 @@ class ObjectsOfThePage : public WebEditorTest {
   ObjectsOfThePage() {
     editor_->LoadDocument(Write(QStringLiteral("page.htm"), page));
     Show();
-    // The pointer meets what is painted.
+    // A hit test finds what has been painted, so this waits for a frame.
     Evaluate(
         QStringLiteral("globalThis.painted = false; requestAnimationFrame(() =>"
                        "requestAnimationFrame(() => { painted = true; }))"));

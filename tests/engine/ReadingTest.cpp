@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The document can be read, with an answer at once, from wherever the program happens to be.
+// The document can be read at any moment, also inside a notice or another wait, and the answer
+// comes at once.
 #include "platform/EditingCommands.h"
 #include "tests/engine/ComponentFixture.h"
 
@@ -21,7 +22,7 @@ class Reading : public WebEditorTest {
  protected:
   void SetUp() override { LoadWithCaret("<p>One</p>", QStringLiteral("p")); }
 
-  /// A reading that comes well before the component would give up waiting.
+  /// Reads the document; the answer must come well before the component's time limit.
   void ExpectRead() {
     QElapsedTimer waited;
     waited.start();

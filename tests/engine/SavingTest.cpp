@@ -23,9 +23,9 @@ bool AsksForAll() {
 
 QByteArray Utf16(const QString &text) {
   QByteArray bytes("\xFF\xFE");
-  for (const QChar unit : text) {
-    bytes += static_cast<char>(unit.unicode() & 0xFF);
-    bytes += static_cast<char>(unit.unicode() >> 8);
+  for (const QChar codeUnit : text) {
+    bytes += static_cast<char>(codeUnit.unicode() & 0xFF);
+    bytes += static_cast<char>(codeUnit.unicode() >> 8);
   }
   return bytes;
 }
@@ -33,7 +33,7 @@ QByteArray Utf16(const QString &text) {
 struct Hazard {
   const char *name;
   QByteArray page;
-  /// So many of the kinds of edit may need more than the edit.
+  /// How many kinds of edit may write more than the edit.
   int outside = 1;
 };
 
@@ -150,7 +150,7 @@ QByteArray RandomPage(std::mt19937 &random) {
   return page;
 }
 
-/// Counts how pages came out of a check.
+/// Counts the results of page checks.
 class Tally {
  public:
   void Add(const QJsonObject &result) {
@@ -387,7 +387,8 @@ TEST_F(Saving, AValueIsChangedInTheQuotesThatItHad) {
 }
 
 TEST_F(Saving, TheReasonToWriteAPageAnewIsKnownBeforeItIsSaved) {
-  // The last byte begins a character of two bytes, and would take the next letter for its second.
+  // The last byte is the first of a two-byte character: a letter written behind it would become its
+  // second byte.
   const QByteArray file = "<meta charset=big5>\r\n<p id=x>one \xA4";
   const QString path = Write(QStringLiteral("page.htm"), file);
   editor_->LoadDocument(path);

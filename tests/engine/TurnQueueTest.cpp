@@ -12,7 +12,7 @@ namespace velor {
 
 namespace {
 
-/// A page that notes what reaches it, and answers when the test says so.
+/// Records what is sent to the page; the test decides when the page answers.
 class NotedPage final : public PageWays {
  public:
   bool IsOpen() const override { return isOpen; }
@@ -40,7 +40,7 @@ class NotedPage final : public PageWays {
 
 class Turns : public ::testing::Test {
  protected:
-  /// A key as the view's input offers it: held back, or on its way to the page.
+  /// A key press as EditorInput passes it on: deferred, or sent to the page.
   void Press(const char *text) {
     const QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QString::fromUtf8(text));
     if (queue_->Defer(key)) return;

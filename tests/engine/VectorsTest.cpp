@@ -121,7 +121,7 @@ class Vectors : public Editing {
     return "<html><head><title>stays</title>" + All(headVectors, server_.Address()) +
            "</head><body><p>text</p>" + All(bodyVectors, server_.Address()) + "</body></html>";
   }
-  /// Thirty frames of the page: whatever was going to happen has had its turn.
+  /// Waits for thirty animation frames of the page, so that scripts and requests had time to start.
   void Settle() {
     Evaluate(
         QStringLiteral("globalThis.turns = 0; (function turn() { ++turns;"
@@ -199,7 +199,7 @@ TEST_F(Vectors, DoNothingInARestoredPage) {
   ExpectNothingHappened();
 }
 
-/// What a person may do to a page that is a link elsewhere everywhere.
+/// Clicks and keys on a page that is one link to another page.
 class Following : public Vectors {
  protected:
   void Load(const QByteArray &body) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The guarded wait and the notices that keep out of its way.
+// The guarded wait, and notices that are delivered only when no wait runs.
 #include "engine/GuardedWait.h"
 #include "engine/NoticeQueue.h"
 
@@ -132,7 +132,7 @@ class NoticesWaiting : public GuardedWaiting {
   void Post(Notice kind, const QString &text) {
     notices_.Post(kind, [this, text] { told_.push_back(text); });
   }
-  /// Turns of an ordinary loop, in which notices may leave.
+  /// Runs an ordinary event loop, in which notices may be delivered.
   void Turn() {
     QEventLoop loop;
     QTimer::singleShot(20, &loop, &QEventLoop::quit);

@@ -10,7 +10,7 @@ namespace {
 
 using Call = FaultyCalls::Call;
 
-/// Every single call of every way to replace a file, failing in every way that disks fail.
+/// Fails each call of each way to replace a file, with each error that disks give.
 class EveryCall : public FileFaults {
  protected:
   enum class Way { OldFile, NewFile, ThroughALink, InPlace };
@@ -46,8 +46,9 @@ class EveryCall : public FileFaults {
   /// The call that a failure was put in place of.
   Call FailedCall(int number) const { return calls_.order[static_cast<std::size_t>(number - 1)]; }
 
-  /// What a save may go on without: the room taken ahead, where the system cannot take it, and
-  /// tidying up. Where a new file cannot be given what the old one has, it is written in place.
+  /// Whether a save succeeds although this call fails: allocating blocks ahead where the file
+  /// system cannot, and cleaning up. Where a new file cannot get the old one's owner, mode or
+  /// attributes, the old file is written in place.
   static bool CanDoWithout(Call call, int errnoValue) {
     switch (call) {
       case Call::Reserve:
@@ -92,7 +93,7 @@ TEST_F(EveryCall, ThatFailsOnceLeavesTheOldFileAndIsAnErrorOrIsMadeGood) {
           EXPECT_TRUE(CanDoWithout(FailedCall(number), error));
           continue;
         }
-        // After the rename there is but the folder left to be synced.
+        // After the rename only the sync of the folder remains.
         const bool isAfterRename =
             calls_.order.back() == Call::Sync && way != Way::InPlace &&
             std::count(calls_.order.begin(), calls_.order.end(), Call::Rename) == 1 &&
@@ -161,7 +162,7 @@ TEST_F(EveryCall, ContentGoesToTheDiskBeforeTheNameAndTheNameBeforeTheFolder) {
   EXPECT_EQ(order(Way::OldFile), renamed);
   EXPECT_EQ(order(Way::NewFile), renamed);
   EXPECT_EQ(order(Way::ThroughALink), renamed);
-  // Where it comes from, and the old content, are on the disk before a byte of the file changes.
+  // The old content and its path are synced before a byte of the file changes.
   std::vector<Call> inPlace;
   for (int i = 0; i < 2; ++i) inPlace.insert(inPlace.end(), renamed.begin(), renamed.end());
   inPlace.insert(inPlace.end(), {Call::Write, Call::Truncate, Call::Sync, Call::Close});

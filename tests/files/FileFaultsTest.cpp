@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whatever the disk does while a file is replaced, its old or its new content is there, whole, and
-// a failure is an error.
+// A file is replaced on a disk that fails: afterwards it has its whole old or its whole new
+// content, and a failure raises an error.
 #include "files/ReplacedFiles.h"
 #include "tests/files/FileFaultsFixture.h"
 

@@ -16,7 +16,7 @@ namespace {
 constexpr int Limit = 10'000;  // milliseconds on a busy machine
 constexpr int Quiet = 500;     // in which nothing may be told
 
-/// Files a.htm and b.htm, and whoever changes them.
+/// A folder with a.htm and b.htm, and the ways in which other programs change them.
 struct RealWorld {
   QString Path(const char *name) const {
     return ToLogic(folder.filePath(QString::fromLatin1(name)));

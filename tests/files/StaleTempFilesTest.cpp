@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What killed processes left beside pages goes, and nobody else's file does.
+// Temporary files that killed processes left beside pages are removed, and no other file is.
 #include "tests/files/FileFaultsFixture.h"
 
 #include <QDateTime>

@@ -37,7 +37,7 @@ TEST(TextDifference, IsNoLongerThanTheChange) {
 }
 
 TEST(TextDifference, NeverCutsACharacterInTwo) {
-  // The two differ in their second unit, and the next two in their first.
+  // The two differ in their second code unit, and the next two in their first.
   EXPECT_EQ(TextDifference::Between(u"a\U0001F600b", u"a\U0001F601b").start, 1);
   EXPECT_EQ(TextDifference::Between(u"a\U0001F600b", u"a\U0001F601b").removed, 2);
   EXPECT_EQ(TextDifference::Between(u"a\U0001F600b", u"a\U0001FA00b").inserted, 2);

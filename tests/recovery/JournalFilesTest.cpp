@@ -152,7 +152,7 @@ TEST_F(JournalFilesTest, OfThousandsOfEndedRunsTheNewestAreOfferedAtOnce) {
   JournalFiles journals;
   const std::clock_t before = std::clock();
   auto pages = journals.Abandoned();
-  // A person does not feel this; ten thousand files opened and read take a second and more.
+  // Processor time that nobody notices; opening and reading ten thousand files takes over a second.
   EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 4);
   ASSERT_EQ(pages.size(), JournalFiles::MostOffered);
   EXPECT_EQ(pages[0].defect, QString());

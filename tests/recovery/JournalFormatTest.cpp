@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What is in a journal can be read after whatever happened to its end.
+// A journal whose end is cut off or damaged is read up to there.
 #include "recovery/JournalFormat.h"
 #include "tests/support/Checks.h"
 

@@ -12,9 +12,9 @@
 
 namespace velor {
 
-/// The person in front of the next modal window of a type: `act` runs once it is on the screen,
-/// from within its event loop. A window that has not come after ten seconds, or by the time the
-/// object goes out of scope, fails the test; windows that are in the way then are closed.
+/// Acts on the next modal window of a type: `act` runs when it is shown, from inside its event
+/// loop. The test fails where none is shown within ten seconds or before this object is destroyed;
+/// other modal windows are closed then.
 template <typename Window>
 class OnDialog {
  public:

@@ -6,7 +6,7 @@
 
 namespace velor {
 
-/// Sweeps of a window that has more controls than there are painters.
+/// Sweeps that fail as they do for a window with more controls than there are painters.
 class FailingSweeps final : public StylingSweeps {
  public:
   void FlatSweep(QWidget &) override { Fail(); }

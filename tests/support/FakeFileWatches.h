@@ -10,7 +10,8 @@
 
 namespace velor {
 
-/// Watches that tell what the test says has changed, from the event loop as the real ones do.
+/// Watches that report the changes which the test announces, from the event loop as the real ones
+/// do.
 class FakeFileWatches final : public FileWatches {
  public:
   std::unique_ptr<FileWatch> Begin(Listener listener) override {
@@ -19,7 +20,7 @@ class FakeFileWatches final : public FileWatches {
     return watch;
   }
 
-  /// Tells every watch of the file; a burst once.
+  /// Reports a change to every watch of the file; several changes in a row are one report.
   void Change(const QString &path) {
     for (Watch *watch : *watches_)
       if (watch->files.contains(path)) watch->changed.insert(path);

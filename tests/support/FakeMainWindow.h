@@ -78,7 +78,7 @@ class FakeMainWindow final : public ChildWindows,
   void OpenDroppedFiles(const QStringList &paths, frmMain *page) override;
   void ResetElementInspection() override;
 
-  /// The form in which pages get it.
+  /// As EditorContext has it.
   operator MainWindow() { return {*this, *this, *this, *this, *this, *this, dialog_}; }
 
  private:

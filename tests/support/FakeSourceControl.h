@@ -33,7 +33,7 @@ class FakeSourceControl final : public SourceControl {
   std::function<void()> textListener;
   int markedLine = -1;
   LineWrap wrap = LineWrap::Off;
-  /// The column that the caret is said to stand in, where it is not where the text has it.
+  /// Reported as the caret's column in place of the real one.
   std::optional<int> strayColumn;
 
   QWidget *Widget() override { return widget_; }

@@ -8,7 +8,7 @@
 
 namespace velor {
 
-/// Sweeps that only note which window asked for which.
+/// Sweeps that only record their calls.
 class FakeStylingSweeps final : public StylingSweeps {
  public:
   explicit FakeStylingSweeps(CallLog *log) : log_(log) {}

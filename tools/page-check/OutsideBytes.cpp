@@ -112,7 +112,7 @@ qsizetype ImpliedTags(const QString &come, const TokenText &source, const TokenT
   const TokenAlignment alignment =
       AlignTokens(source.tokens, before.tokens, InStep::WithSerialisation);
   const TokenAlignment toNow = AlignTokens(before.tokens, now.tokens, InStep::WithEdit);
-  QMultiHash<std::uint64_t, std::int32_t> implied;  // units by keys
+  QMultiHash<std::uint64_t, std::int32_t> implied;  // their lengths in code units, by keys
   for (std::size_t at = 0; at < before.tokens.size(); ++at) {
     const HtmlToken &token = before.tokens[at];
     if (alignment.fromOther[at] >= 0 || !token.IsTag()) continue;
@@ -122,14 +122,14 @@ qsizetype ImpliedTags(const QString &come, const TokenText &source, const TokenT
     if (changed >= 0 && now.At(changed).key != token.key)
       implied.insert(now.At(changed).key, token.length);
   }
-  qsizetype units = 0;
+  qsizetype codeUnits = 0;
   for (const HtmlToken &token : TokenizeHtml(come)) {
     const auto found = token.IsTag() ? implied.find(token.key) : implied.end();
     if (found == implied.end()) continue;
-    units += *found;
+    codeUnits += *found;
     implied.erase(found);
   }
-  return units;
+  return codeUnits;
 }
 
 /// Tags that are written as the page's others are may close themselves, which the document's do

@@ -7,7 +7,7 @@ import { AttributeChange, ChildChange, TextChange } from './recordedChanges.js';
 import { points, samePoints, select } from './selection.js';
 
 const mostSteps = 1000;
-// In UTF-16 units of kept text, nodes counted with what they weigh about; some 64 MB.
+// In UTF-16 code units of kept text, nodes counted with what they weigh about; some 64 MB.
 const mostWeight = 32e6;
 
 /** @type {MutationObserver | null} */

@@ -4,7 +4,7 @@
 // the live nodes.
 import * as dom from './dom.js';
 
-// What a node weighs beside its text, in UTF-16 units.
+// What a node weighs beside its text, in UTF-16 code units.
 const nodeWeight = 100;
 
 // A long page has very many changes in a step, so they are kept small: classes, not closures.

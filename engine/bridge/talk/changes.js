@@ -20,7 +20,7 @@ const mostPieces = 500;  // where more have changed, the whole text costs less
 // The number of the text that was told last. It begins at random, so that a number of the document
 // before this one is not taken for one of this document's.
 let revision = 1 + Math.floor(Math.random() * 1e9);
-let largestPiece = 20000;  // UTF-16 units
+let largestPiece = 20000;  // UTF-16 code units
 /** @type {TextEdit[][]} the steps that led to the last texts */
 let steps = [];
 /** @type {MutationObserver | null} */

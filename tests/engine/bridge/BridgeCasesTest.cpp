@@ -22,7 +22,7 @@ class BridgeCases : public ::testing::TestWithParam<BridgeCase> {
   static void TearDownTestSuite() { page_.reset(); }
 
   static QString Text(const QString &expression) { return page_->Evaluate(expression).toString(); }
-  /// Takes everything back; returns how many steps that were.
+  /// Undoes all steps; returns their number.
   static int UndoAll() {
     int steps = 0;
     for (; page_->Evaluate(QStringLiteral("inside.history.canUndo()")).toBool(); ++steps) {

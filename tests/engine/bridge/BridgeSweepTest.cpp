@@ -115,7 +115,7 @@ TEST(BridgeVocabulary, EveryBlockFormatComesBackAsItWasChosen) {
   page.Load(QStringLiteral("<p>one|</p>"));
   for (const QString &name : BlockFormatNames()) {
     page.Evaluate(QStringLiteral("velor.exec(5043, '%1')").arg(name));
-    // A paragraph is named after the first of its two names.
+    // The format P has two names; a query answers the first.
     const QString expected = name == QStringLiteral("Paragraph") ? QStringLiteral("Normal") : name;
     EXPECT_EQ(page.Evaluate(QStringLiteral("velor.state().blockFormat")).toString().toStdString(),
               expected.toStdString());

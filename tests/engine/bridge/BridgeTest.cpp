@@ -17,7 +17,7 @@
 namespace velor {
 namespace {
 
-/// The program's end of the bridge: stores what it is given.
+/// The program's side of the channel: stores what the bridge pushes.
 class Host : public QObject {
   Q_OBJECT
 
@@ -41,7 +41,7 @@ class Bridge : public ::testing::Test {
   bool Comes(const QString &condition) {
     return QTest::qWaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
   }
-  /// In place of a channel: an array that the pushes go to.
+  /// Replaces the channel by an array that collects the pushes.
   void CollectPushes() {
     Evaluate(
         QStringLiteral("globalThis.pushed = []; globalThis.mirrors = []; globalThis.mouse = [];"

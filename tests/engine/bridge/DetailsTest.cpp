@@ -31,7 +31,7 @@ class Details : public ::testing::Test {
     return Text(QStringLiteral("getComputedStyle(document.querySelector('%1'), '::before').content")
                     .arg(selector));
   }
-  /// Whether that many signs come to be drawn over the page.
+  /// Waits until that many signs are drawn over the page; false at the time limit.
   bool SignsCome(int count) {
     return Comes(QStringLiteral("getComputedStyle(document.head, '::before')"
                                 ".backgroundImage.split('data:image').length === %1")

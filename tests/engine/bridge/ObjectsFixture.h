@@ -75,7 +75,7 @@ class Objects : public ::testing::Test {
   QString loaded_;
 };
 
-/// A box with a place of its own.
+/// An absolutely positioned box.
 inline const auto *const box =
     "<p>one</p><div style=\"position: absolute; left: 210px; top: 120px; width: 150px; height: "
     "60px\">text</div>";

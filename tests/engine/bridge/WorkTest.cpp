@@ -54,7 +54,7 @@ class Work : public ::testing::TestWithParam<Shape> {
     Rest();
     return Evaluate(QStringLiteral("work.count()")).toDouble();
   }
-  /// What each of the deeds comes to on a page of so many parts, in turn.
+  /// The count of each action, in their order, on a page of that many parts.
   std::vector<double> CountsOn(int parts, const std::vector<std::function<void()>> &deeds) {
     Load(parts);
     std::vector<double> counts;

@@ -60,7 +60,8 @@ class WebBrowserTest : public ::testing::Test, protected BrowserListener {
   bool StatusBecomes(const QString &text) {
     return QTest::qWaitFor([&] { return !statuses.isEmpty() && statuses.last() == text; }, 20000);
   }
-  /// As a person does, so that the engine takes it for one's wish.
+  /// A real mouse click: the engine treats it as the person's own action, which a script's click()
+  /// is not.
   void Click(const QString &selector) {
     EnginePage()->runJavaScript(
         QStringLiteral("(() => { const box = document.querySelector('%1').getBoundingClientRect();"

@@ -51,7 +51,7 @@ void CheckTokens(const QString &text) {
 }
 
 QString WithoutBlanks(QString text) {
-  return text.removeIf([](QChar unit) { return unit.isSpace(); });
+  return text.removeIf([](QChar codeUnit) { return codeUnit.isSpace(); });
 }
 
 /// Takes bytes as text of some charset, whatever they declare, and writes it with an addition.

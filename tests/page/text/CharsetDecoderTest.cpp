@@ -69,10 +69,10 @@ TEST_P(Readings, TellWhereEachCharacterBegins) {
   const QString text = converter.Decode(reading.bytes, offsets);
   ASSERT_EQ(static_cast<qsizetype>(offsets.size()), text.size());
   EXPECT_TRUE(std::is_sorted(offsets.begin(), offsets.end()));
-  for (qsizetype unit = 0; unit < text.size(); ++unit) {
-    const char byte = reading.bytes[offsets[static_cast<std::size_t>(unit)]];
-    if (text[unit].unicode() >= 0x80) continue;
-    EXPECT_EQ(text[unit], QLatin1Char(byte));
+  for (qsizetype codeUnit = 0; codeUnit < text.size(); ++codeUnit) {
+    const char byte = reading.bytes[offsets[static_cast<std::size_t>(codeUnit)]];
+    if (text[codeUnit].unicode() >= 0x80) continue;
+    EXPECT_EQ(text[codeUnit], QLatin1Char(byte));
   }
 }
 
@@ -152,16 +152,16 @@ TEST(Written, IsWhatEveryReaderOfTheCharsetKnows) {
 /// Every character of the BMP, in every charset: what is written is read as the same.
 TEST(Written, ReadsBack) {
   QString all;
-  for (int unit = 0x20; unit < 0xFFFE; ++unit)
-    if (!QChar(unit).isSurrogate()) all += QChar(unit);
+  for (int codeUnit = 0x20; codeUnit < 0xFFFE; ++codeUnit)
+    if (!QChar(codeUnit).isSurrogate()) all += QChar(codeUnit);
   for (const char *charset :
        {"ibm866", "iso-8859-2", "iso-8859-16", "koi8-u", "macintosh", "windows-874", "windows-1252",
         "windows-1253", "windows-1255", "big5", "gbk", "gb18030", "euc-jp", "euc-kr", "shift_jis",
         "iso-2022-jp", "utf-8", "utf-16le"}) {
     CharsetConverter converter{QString::fromLatin1(charset)};
     QString writable;
-    for (const QChar unit : all)
-      if (converter.FirstReference(QStringView(&unit, 1)) < 0) writable += unit;
+    for (const QChar codeUnit : all)
+      if (converter.FirstReference(QStringView(&codeUnit, 1)) < 0) writable += codeUnit;
     EXPECT_TRUE(converter.Decode(converter.Encode(writable)) == writable) << charset;
   }
 }

@@ -99,9 +99,9 @@ enum class Order { Little, Big };
 
 QByteArray TwoBytesEach(const QString &text, Order order) {
   QByteArray bytes;
-  for (const QChar unit : text) {
-    const char low = static_cast<char>(unit.unicode() & 0xFF);
-    const char high = static_cast<char>(unit.unicode() >> 8);
+  for (const QChar codeUnit : text) {
+    const char low = static_cast<char>(codeUnit.unicode() & 0xFF);
+    const char high = static_cast<char>(codeUnit.unicode() >> 8);
     bytes += order == Order::Little ? low : high;
     bytes += order == Order::Little ? high : low;
   }

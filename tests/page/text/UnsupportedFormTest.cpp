@@ -14,9 +14,9 @@ constexpr const char16_t *const Page = u"<html>\r\n<p>one caf\u00e9 \u65e5</p></
 enum class Order { Little, Big };
 QByteArray InFourBytes(Order order, const QByteArray &mark = {}) {
   QByteArray bytes = mark;
-  for (const QChar unit : QStringView(Page)) {
-    const char low = static_cast<char>(unit.unicode() & 0xFF);
-    const char high = static_cast<char>(unit.unicode() >> 8);
+  for (const QChar codeUnit : QStringView(Page)) {
+    const char low = static_cast<char>(codeUnit.unicode() & 0xFF);
+    const char high = static_cast<char>(codeUnit.unicode() >> 8);
     const char little[] = {low, high, 0, 0};
     const char big[] = {0, 0, high, low};
     bytes.append(order == Order::Little ? little : big, 4);

@@ -24,7 +24,7 @@ class RecoveryBars : public WindowFixture {
  protected:
   RecoveryBars() {
     platform.journals = &journals;
-    // The window looks for itself once, and finds nothing yet.
+    // The window's own look for journals, from the event loop, happens before there is one.
     QTest::qWait(0);
   }
 

@@ -23,7 +23,7 @@ using Reading = std::map<QString, std::vector<QStringList>>;
 
 Reading WhatWasMeant(const FixtureFile &file);
 
-/// By the program's own reader, which may be in the middle of a transaction.
+/// The rows as the program's own reader sees them, inside a transaction too.
 Reading ReadByUs(JetFile &file, const FixtureFile &shape);
 
 /// An empty string when all agree; else the first cell on which one does not, and who.

@@ -27,7 +27,7 @@ class JetTrial {
   explicit JetTrial(FixtureFile meant) : meant_(std::move(meant)) {}
 
   const FixtureFile &Meant() const { return meant_; }
-  /// What is meant from now on, after an update that was taken back.
+  /// Sets the expected content, after an update that was rolled back.
   void SetMeant(FixtureFile meant) { meant_ = std::move(meant); }
 
   /// Changes the cell in the file and in what is meant; nothing: null. Raises as UpdateRow does,

@@ -14,9 +14,9 @@ class OthersLockFile {
   ~OthersLockFile() { Release(); }
   Q_DISABLE_COPY_MOVE(OthersLockFile)
 
-  /// Machine and user, one pair after another, of all who ever opened the database.
+  /// Writes pairs of machine and user name, for everyone who ever opened the database.
   void WriteSlots(const QList<QByteArray> &names) const;
-  /// Says that the user of that slot, from 0, has the database open.
+  /// Locks the byte of that slot (from 0): its user has the database open.
   void Hold(int slot);
   void Release();
 
