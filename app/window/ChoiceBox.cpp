@@ -41,8 +41,10 @@ ChoiceBox::ChoiceBox(QWidget *parent) : QComboBox(parent) {
   setSizeAdjustPolicy(QComboBox::AdjustToContents);
   view()->installEventFilter(this);
   connect(this, &QComboBox::activated, this, [this](int index) {
-    text_ = itemText(index);
-    Q_EMIT Clicked(text_);
+    const QString chosen = itemText(index);
+    // The page may refuse it: shown is what the page says afterwards.
+    ShowText(text_);
+    Q_EMIT Clicked(chosen);
     Q_EMIT Done();
   });
 }

@@ -21,7 +21,8 @@ class ChoiceBox final : public QComboBox {
   void hidePopup() override;
 
  Q_SIGNALS:
-  /// The person chose an entry, be it the one already shown.
+  /// The person chose an entry, be it the one already shown. The box goes on showing what it
+  /// showed.
   void Clicked(const QString &text);
   /// The person chose an entry or pressed Escape: the focus can go back to the page.
   void Done();

@@ -62,6 +62,8 @@ function commonValue(subjects, read, same = (one, other) => one === other) {
  * @returns {View}
  */
 export const readView = () => {
+  // The engine tells later that the selection has moved.
+  pending.clearIfMoved();
   const range = selection.range();
   /** @type {<T>(read: () => T) => () => T} */
   const once = (read) => {

@@ -67,6 +67,13 @@ TEST_F(FormattingBarTest, TheCurrentBlockFormatIsNotSent) {
   EXPECT_EQ(Commands().join(u' ').toStdString(), "ExecCommand(5011)");
 }
 
+TEST_F(FormattingBarTest, AChoiceThatThePageRefusesIsNotShown) {
+  Parts().formats.ShowBlockFormat(QStringLiteral("Normal"));
+  Pick(Find<ChoiceBox>("cobFormat"), QStringLiteral("Heading 1"));
+  EXPECT_EQ(Find<ChoiceBox>("cobFormat")->Text(), QStringLiteral("Normal"));
+  EXPECT_EQ(Find<ChoiceBox>("cobFormat")->currentText(), QStringLiteral("Normal"));
+}
+
 TEST_F(FormattingBarTest, ADifferentSizeIsSent) {
   PageAnswers(EditingCommand::GetFontSize, QStringLiteral("12"));
   Pick(Find<ChoiceBox>("cobSize"), QStringLiteral("24"));

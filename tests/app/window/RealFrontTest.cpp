@@ -135,6 +135,18 @@ TEST_F(RealFront, CharsetAndLineEndsAreThoseOfThePageThatCameToTheFront) {
   EXPECT_EQ(TextForm(), young.DHTML1().TextForm());
 }
 
+TEST_F(RealFront, AFormatChosenForTheNextWordsIsOffWhereUndoTakesTheCaretAway) {
+  frmMain &page = Open(QStringLiteral("a.htm"), Plain);
+  Key(page, Qt::Key_End, Qt::ControlModifier);
+  Type(page, QStringLiteral("x"));
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("Onex")); })) << Seen(page);
+  Button("tbrEdit_bold").click();
+  ASSERT_TRUE(WaitFor([this] { return Button("tbrEdit_bold").isChecked(); }));
+  Choose("mnuUndo");
+  ASSERT_TRUE(WaitFor([&] { return !Holds(page, QStringLiteral("Onex")); })) << Seen(page);
+  EXPECT_TRUE(WaitFor([this] { return !Button("tbrEdit_bold").isChecked(); }));
+}
+
 TEST_F(RealFront, ASizeThatIsNoneOfTheSevenIsShownWithItsUnit) {
   frmMain &page =
       Open(QStringLiteral("a.htm"), "<html><body><p style='font-size: 15pt'>One</p></body></html>");
