@@ -65,6 +65,14 @@ void FitFirstFolder(QFileDialog &dialog) {
                            });
 }
 
+/// The folder of a file, or the nearest one above it that is there: a name in a folder that is
+/// missing leaves the person near by.
+QDir NearestFolder(const QFileInfo &file) {
+  QString folder = file.absolutePath();
+  while (!QFileInfo::exists(folder)) folder = QFileInfo(folder).absolutePath();
+  return QDir(folder);
+}
+
 }  // namespace
 
 QStringList NameFilters(const QString &filter) {
@@ -111,8 +119,8 @@ QString QtFileDialog::Show(Purpose purpose) {
   dialog.setNameFilters(NameFilters(Filter));
   if (isSave) dialog.setDefaultSuffix(DefaultSuffix(Filter));
   const QFileInfo held(ToNative(FileName));
-  if (!FileName.isEmpty() && held.dir().exists()) {
-    dialog.setDirectory(held.dir());
+  if (!FileName.isEmpty() && held.isAbsolute()) {
+    dialog.setDirectory(NearestFolder(held));
     dialog.selectFile(held.fileName());
   } else {
     dialog.setDirectory(QDir::homePath());

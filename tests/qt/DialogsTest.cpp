@@ -259,6 +259,17 @@ TEST_F(FileDialogs, CancellingIsAnErrorWhenThatIsAskedFor) {
   EXPECT_EQ(ErrorOf([this] { dialog_.ShowSave(); }), ErrorNumber::DialogCancelled);
 }
 
+TEST_F(FileDialogs, ANameInAMissingFolderLeavesThePersonInTheNearestOne) {
+  dialog_.FileName = Logic(QStringLiteral("missing/deeper/new.htm"));
+  OnDialog<QFileDialog> person([this](QFileDialog &box) {
+    EXPECT_EQ(box.directory().absolutePath(), QDir(folder_.path()).absolutePath());
+    EXPECT_EQ(box.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->text(),
+              QStringLiteral("new.htm"));
+    box.reject();
+  });
+  dialog_.ShowSave();
+}
+
 TEST_F(FileDialogs, TheNextShowingStartsAtTheFileItHolds) {
   MakeFile(QStringLiteral("held.htm"));
   dialog_.FileName = Logic(QStringLiteral("held.htm"));
