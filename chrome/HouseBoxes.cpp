@@ -15,7 +15,7 @@ namespace {
 /// Pixels that the flat painter's frames take on every side of a combo box and of a button.
 constexpr int ComboRings = 2;
 constexpr int ButtonRings = 3;
-/// Height of the line below the text of a flat combo box that has the focus.
+/// Height of the line below the text of a flat control that has the focus.
 constexpr int FocusLine = 2;
 
 bool HasThinEdge(const QWidget *widget) {
@@ -52,14 +52,22 @@ bool ShowsFocus(const QStyleOption *option) {
   return (option->state & QStyle::State_Enabled) && (option->state & QStyle::State_HasFocus);
 }
 
-/// Background of a control with a flat painter; with the focus it has a frame inside the painter's.
-void DrawFlatField(const QStyleOption *option, QPainter *painter, const QColor &field, int rings,
+/// Background of a text box with a flat painter, with its frame where it has the focus.
+void DrawFlatField(const QStyleOption *option, QPainter *painter, const QColor &field,
                    const QColor &innerEdge) {
   painter->fillRect(option->rect, field);
   if (!innerEdge.isValid()) return;
   painter->setPen(innerEdge);
   painter->setBrush(Qt::NoBrush);
-  painter->drawRect(option->rect.adjusted(rings, rings, -rings - 1, -rings - 1));
+  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+}
+
+/// The line below the text of a flat button.
+void DrawFocusLine(const QStyleOption *option, QPainter *painter) {
+  const QRect inside = option->rect.adjusted(ButtonRings, ButtonRings, -ButtonRings, -ButtonRings);
+  painter->fillRect(
+      QRect(inside.left(), inside.bottom() + 1 - FocusLine, inside.width(), FocusLine),
+      option->palette.highlight());
 }
 
 void DrawComboArrow(const QStyleOptionComplex *option, QPainter *painter, const QRect &place) {
@@ -115,7 +123,7 @@ void DrawHairlineFrame(const QStyleOption *option, QPainter *painter) {
 
 void DrawEntryBox(const QStyleOption *option, QPainter *painter, const QWidget *widget) {
   if (IsFlat(widget)) {
-    DrawFlatField(option, painter, EntryField(option), 0,
+    DrawFlatField(option, painter, EntryField(option),
                   ShowsFocus(option) ? option->palette.color(QPalette::Highlight) : QColor());
     return;
   }
@@ -135,9 +143,9 @@ void DrawPushButton(const QStyleOption *option, QPainter *painter, const QWidget
     field = HoverField(option->palette);
   }
   if (IsFlat(widget)) {
-    QColor inner = ShowsFocus(&box) ? BoxEdge(option->palette) : QColor();
-    if (ShowsFocus(option)) inner = option->palette.color(QPalette::Highlight);
-    DrawFlatField(option, painter, field, ButtonRings, inner);
+    // A frame inside the painter's rings would look like a button in the button.
+    painter->fillRect(option->rect, field);
+    if (ShowsFocus(option)) DrawFocusLine(option, painter);
     return;
   }
   DrawBox(&box, painter, widget, field);

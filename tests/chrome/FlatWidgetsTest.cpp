@@ -147,12 +147,20 @@ TEST_F(FlatButtonTest, RisesUnderThePointerAndSinksUnderItsPress) {
   ASSERT_TRUE(Becomes(place.topLeft(), Face));
 }
 
-TEST_F(FlatButtonTest, ShowsTheKeyboardsPlaceInsideItsRings) {
-  const QPoint inner = button.geometry().topLeft() + QPoint(3, 3);
-  const QImage without = Shown();
+TEST_F(FlatButtonTest, ShowsTheKeyboardsPlaceBelowItsText) {
   button.setFocus();
-  ASSERT_TRUE(Becomes(inner, QApplication::palette().color(QPalette::Highlight).rgb()));
-  EXPECT_NE(without.pixel(inner), Shown().pixel(inner));
+  const QPoint line = button.geometry().bottomLeft() + QPoint(20, -3);
+  EXPECT_TRUE(Becomes(line, QApplication::palette().color(QPalette::Highlight).rgb()));
+}
+
+TEST_F(FlatButtonTest, IsOneFieldInsideItsRingsThoughItIsTheDefault) {
+  button.setDefault(true);
+  QCoreApplication::processEvents();
+  const QImage shown = Shown();
+  const QPoint corner = button.geometry().topLeft();
+  for (const int inside : {3, 4, 6})
+    EXPECT_EQ(shown.pixel(corner + QPoint(inside, inside)), shown.pixel(corner + QPoint(8, 8)))
+        << inside;
 }
 
 TEST_F(FlatButtonTest, KeepsALineOfOneCrispPixelAtTwiceTheResolution) {
