@@ -16,7 +16,10 @@
 
 namespace velor {
 
-RealWindow::RealWindow() {
+RealWindow::RealWindow(Dialogs *person)
+    : platform{files,    runtime,    person == nullptr ? dialogs : *person,
+               registry, components, nullptr,
+               nullptr,  nullptr,    &copies} {
   // As on a large screen, whatever the one here is.
   window.resize(1180, 800);
   window.Load();

@@ -78,7 +78,8 @@ class ScratchProgramFolder {
 /// is answered by the test. Pages and program share one scratch folder.
 class RealWindow : public ::testing::Test {
  protected:
-  RealWindow();
+  /// `person` answers in place of `dialogs`.
+  explicit RealWindow(Dialogs *person = nullptr);
   ~RealWindow() override;
 
   template <typename Widget>
@@ -121,8 +122,7 @@ class RealWindow : public ::testing::Test {
   QtRegistry registry;
   AnsweredComponents components{files, runtime.ProgramFolder()};
   TemporaryCopyFiles copies;
-  Platform platform{files,   runtime, dialogs, registry, components,
-                    nullptr, nullptr, nullptr, &copies};
+  Platform platform;
   ProgramValues values;
   MfrmProgram window{platform, values};
 
