@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -150,6 +151,17 @@ TEST(SampleMaker, SaysWhichFileItCouldNotWrite) {
   ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
   EXPECT_EQ(ErrorOf([&] { MakeSample(inTheWay.fileName() + QStringLiteral("/below")); }),
             ErrorNumber::PathFileAccess);
+}
+
+TEST(SampleMaker, MakesNoFolderOfAnOption) {
+  const QTemporaryDir folder;
+  QProcess maker;
+  maker.setWorkingDirectory(folder.path());
+  maker.start(QStringLiteral(VELOR_SAMPLE_MAKER), {QStringLiteral("--help")});
+  ASSERT_TRUE(maker.waitForFinished());
+  EXPECT_EQ(maker.exitCode(), 2);
+  EXPECT_TRUE(maker.readAllStandardError().startsWith("usage:"));
+  EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }
 
 }  // namespace

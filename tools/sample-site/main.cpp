@@ -11,7 +11,8 @@
 int main(int argc, char **argv) {
   const QCoreApplication application(argc, argv);
   const QStringList arguments = QCoreApplication::arguments();
-  if (arguments.size() != 2) {
+  // An option that is asked for in vain would become a folder.
+  if (arguments.size() != 2 || arguments[1].startsWith(u'-')) {
     std::fputs("usage: velor-sample-site DIR\n", stderr);
     return 2;
   }
