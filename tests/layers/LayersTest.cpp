@@ -187,7 +187,7 @@ std::string CodeOf(const std::string &text) {
 /// Whether the text runs an event loop of its own: what a person does next may then arrive in the
 /// middle of what is being done.
 bool RunsAnEventLoop(const std::string &text) {
-  static const std::regex loop(R"((->|\.|::)exec\(|\bQEventLoop\s+\w+\s*[;({]|processEvents\()");
+  static const std::regex loop(R"(\bexec\(|\bQEventLoop\s+\w+\s*[;({]|processEvents\()");
   return std::regex_search(CodeOf(text), loop);
 }
 
@@ -265,6 +265,7 @@ TEST(Layers, AnEventLoopIsFoundInEveryForm) {
   EXPECT_TRUE(RunsAnEventLoop("dialog.exec();"));
   EXPECT_TRUE(RunsAnEventLoop("menu->exec(QCursor::pos());"));
   EXPECT_TRUE(RunsAnEventLoop("QMenu::exec(actions, place);"));
+  EXPECT_TRUE(RunsAnEventLoop("return exec(1);"));
   EXPECT_TRUE(RunsAnEventLoop("QEventLoop loop;"));
   EXPECT_TRUE(RunsAnEventLoop("QCoreApplication::processEvents(QEventLoop::AllEvents, 5);"));
   EXPECT_FALSE(RunsAnEventLoop("Run(\"velor.exec(5000)\");"));
