@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/PageAccess.h"
 
+#include <QByteArray>
 #include <QtGlobal>
 
 namespace velor {
