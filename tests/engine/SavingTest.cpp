@@ -202,28 +202,6 @@ TEST_F(ManyPages, AsPeopleWriteThemAreSavedWithNothingButTheEdit) {
   EXPECT_GE(tally_.clean * 1000, tally_.edits * 985) << tally_.clean << " of " << tally_.edits;
 }
 
-TEST_F(ManyPages, AsPeopleWriteThemLoseNothingToATypedWordAndGetNothingElse) {
-  const QString word = QStringLiteral("Zebra");
-  int edits = 0;
-  int exact = 0;
-  const std::uint32_t count = AsksForAll() ? 480 : 24;
-  for (std::uint32_t number = 0; number < count; ++number) {
-    Write(QStringLiteral("page.htm"), PeoplesPage(number));
-    const QJsonObject result =
-        check_.Run(Native(QStringLiteral("page.htm")), QStringLiteral("type=") + word,
-                   static_cast<int>(number % 11));
-    if (!result[QStringLiteral("edited")].toBool()) continue;
-    ++edits;
-    EXPECT_TRUE(result[QStringLiteral("document_equal")].toBool()) << number;
-    exact += result[QStringLiteral("bytes_lost")].toInt() == 0 &&
-                     result[QStringLiteral("bytes_added")].toInt() == word.size()
-                 ? 1
-                 : 0;
-  }
-  EXPECT_GT(edits, static_cast<int>(count / 2));
-  EXPECT_GE(exact * 1000, edits * 995) << exact << " of " << edits;
-}
-
 TEST_F(ManyPages, OfThisFolderAreSavedWithNothingButTheEdit) {
   const QDir pages(QStringLiteral(VELOR_OWN_PAGES));
   const QStringList names = pages.entryList({QStringLiteral("*.htm*")}, QDir::Files);

@@ -8,6 +8,7 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "tools/page-check/OutsideBytes.h"
+#include "tools/page-check/WordDeletion.h"
 
 #include <QClipboard>
 #include <QElapsedTimer>
@@ -53,16 +54,18 @@ class PageCheck::Desk {
     window_.activateWindow();
   }
 
-  bool Edit(const QString &words, int place) {
+  /// The text that was selected for the edit; nullopt where the page has no such place.
+  std::optional<QString> Edit(const QString &words, int place) {
     const QString kind = words.section(u'=', 0, 0);
-    if (!EditByScript(kind, place)) return false;
+    const std::optional<QString> selected = EditByScript(kind, place);
+    if (!selected) return selected;
     if (kind == u"type")
       Type(words.contains(u'=') ? words.section(u'=', 1) : QStringLiteral("inserted"));
     else if (kind == u"paste")
       Paste();
     else if (const auto key = KeyOf(kind))
       Press(*key, {});
-    return true;
+    return selected;
   }
 
  private:
@@ -88,17 +91,18 @@ class PageCheck::Desk {
     editor.ExecCommand(EditingCommand::Paste, ExecOption::Default, {});
   }
 
-  bool EditByScript(const QString &kind, int place) {
+  std::optional<QString> EditByScript(const QString &kind, int place) {
     QWebEnginePage &page = *editor.Widget()->findChild<QWebEngineView *>()->page();
-    const auto answer = std::make_shared<std::optional<bool>>();
+    const auto answer = std::make_shared<std::optional<QVariant>>();
     page.runJavaScript(QStringLiteral("%1\n;velorPageCheck(%2,%3)")
                            .arg(EditScript(), ScriptValue(kind))
                            .arg(place),
-                       BridgeWorld, [answer](const QVariant &value) { *answer = value.toBool(); });
+                       BridgeWorld, [answer](const QVariant &value) { *answer = value; });
     GuardedWait(engine_.Guard()).Until(page, std::chrono::minutes(1), [&] {
       return answer->has_value();
     });
-    return answer->value_or(false);
+    if (!answer->has_value() || (*answer)->typeId() != QMetaType::QString) return std::nullopt;
+    return (*answer)->toString();
   }
 
   EditingEngine &engine_;
@@ -192,7 +196,7 @@ void PageCheck::Measure(const QString &file, const QString &kind, int place, QJs
   EditedPage page;
   page.file = Bytes(file);
   page.before = editor.DocumentHTML();
-  const bool isEdited = !kind.isEmpty() && desk_->Edit(kind, place);
+  const std::optional<QString> selected = kind.isEmpty() ? std::nullopt : desk_->Edit(kind, place);
   page.now = editor.DocumentHTML();
 
   QElapsedTimer timer;
@@ -207,7 +211,13 @@ void PageCheck::Measure(const QString &file, const QString &kind, int place, QJs
       saved == page.now || saved == Parsed(page.now.toUtf8().prepend("\xEF\xBB\xBF"));
   const ByteDifference difference = CountByteDifference(page.file, page.saved);
   const BytesBeyondEdit beyond = CountBytesBeyondEdit(page);
-  result[QStringLiteral("edited")] = isEdited;
+  result[QStringLiteral("edited")] = selected.has_value();
+  if (selected && kind == u"delete-word") {
+    const WordDeletion deletion = JudgeWordDeletion(page.file, page.saved, *selected);
+    result[QStringLiteral("word")] = *selected;
+    result[QStringLiteral("with_word")] = deletion.with.join(u' ');
+    result[QStringLiteral("beyond_word")] = static_cast<int>(deletion.beyond);
+  }
   result[QStringLiteral("identical")] = page.saved == page.file;
   result[QStringLiteral("bytes_lost")] = static_cast<int>(difference.lost);
   result[QStringLiteral("bytes_added")] = static_cast<int>(difference.added);

@@ -32,7 +32,8 @@ class PageCheck {
   /// `file`, `edited` (false where the page has no such place), `identical`, `bytes_lost` and
   /// `bytes_added` (see ByteDifference), `bytes_outside`, `bytes_implied` (see BytesBeyondEdit),
   /// `rung`, `document_equal` and `ms` (the time that saving took); ErrorField() as well when the
-  /// file cannot be opened, edited or saved.
+  /// file cannot be opened, edited or saved. That of delete-word has `word`, `with_word` and
+  /// `beyond_word` too (see WordDeletion).
   QJsonObject Run(const QString &file, const QString &kind, int place);
   /// What the last check saved.
   QByteArray Saved() const;

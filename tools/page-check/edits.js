@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// The edits of a page check, each at the place with a number (from 0). An edit answers false where
-// the page has no such place. A module: the build joins it with the bridge's names of commands.
+// The edits of a page check, each at the place with a number (from 0). The answer is the text
+// that is selected then, null where the page has no such place. A module: the build joins it with
+// the bridge's names of commands.
 import { Command } from '../../engine/bridge/talk/vocabulary.js';
 
-const word = /[\p{L}\p{N}]{2,}/u;
+const word = /[\p{L}\p{M}\p{N}]{2,}/u;
 const closed = 'script, style, title, textarea, select, option, svg, math, iframe, noframes, ' +
   'noembed, xmp, plaintext, template, object, button';
 
@@ -41,7 +42,7 @@ const inParagraph = (paragraph) => {
 
 const inline = 'a, abbr, b, big, code, em, font, i, img, s, small, span, strong, sub, sup, tt, u';
 // The words of a text with their ends as offsets.
-const wordEnds = (text) => [...text.data.matchAll(/[\p{L}\p{N}]{2,}/gu)]
+const wordEnds = (text) => [...text.data.matchAll(/[\p{L}\p{M}\p{N}]{2,}/gu)]
   .map(({ index, 0: { length } }) => index + length);
 const isInline = (node) => node?.nodeType === Node.ELEMENT_NODE && node.matches(inline);
 const isLastIn = (cell, text) => cell && !texts().some((each) => cell.contains(each) &&
@@ -52,7 +53,7 @@ const isLastIn = (cell, text) => cell && !texts().some((each) => cell.contains(e
 const kindsOfPlace = {
   wordEnd: (text) => wordEnds(text).slice(0, 1),
   lineEnd: (text) => [...text.data.matchAll(/[^\s](?=[ \t]*\n)/g)].map(({ index }) => index + 1),
-  indented: (text) => [...text.data.matchAll(/\n[ \t]+[\p{L}\p{N}]{2,}/gu)]
+  indented: (text) => [...text.data.matchAll(/\n[ \t]+[\p{L}\p{M}\p{N}]{2,}/gu)]
     .map(({ index, 0: { length } }) => index + length),
   textEnd: (text) => {
     const end = text.data.trimEnd().length;
@@ -90,6 +91,13 @@ const caretPlaces = () => {
   }
   return places;
 };
+// The words that are shown, each [text, start, end]; the first few lie evenly over the page.
+const wordPlaces = () => {
+  const shown = texts().filter((text) => text.parentElement.getClientRects().length > 0);
+  const all = shown.flatMap((text) => [...text.data.matchAll(/[\p{L}\p{M}\p{N}]{2,}/gu)]
+    .map(({ index, 0: { length } }) => [text, index, index + length]));
+  return evenly(all.length).map((number) => all[number]);
+};
 // The keys come from the program, as a person's do.
 const atCaret = [caretPlaces, ([text, offset]) => {
   select(text, offset);
@@ -102,8 +110,7 @@ const edits = {
   'backspace': atCaret,
   'delete': atCaret,
   'paste': atCaret,
-  'delete-word': [texts, (text) => {
-    const { start, end } = firstWord(text);
+  'delete-word': [wordPlaces, ([text, start, end]) => {
     select(text, start, end);
     return true;
   }],
@@ -149,8 +156,9 @@ const edits = {
 };
 
 globalThis.velorPageCheck = (kind, number) => {
-  if (document.body?.tagName !== 'BODY') return false;
+  if (document.body?.tagName !== 'BODY') return null;
   const [places, edit] = edits[kind];
   const place = places()[number];
-  return place !== undefined && edit(place) !== false;
+  if (place === undefined || edit(place) === false) return null;
+  return getSelection().rangeCount ? getSelection().getRangeAt(0).toString() : '';
 };
