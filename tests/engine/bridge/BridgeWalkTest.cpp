@@ -32,7 +32,7 @@ struct Dialect {
 
 class BridgeWalk : public ::testing::TestWithParam<Dialect> {
  protected:
-  BridgeWalk() : scripts_(Script("pages.js") + Script("walk.js")) {}
+  BridgeWalk() : scripts_(Script("pages.js") + Script("source.js") + Script("walk.js")) {}
 
   QString Text(const QString &expression) { return page_.Evaluate(expression).toString(); }
   void Begin(int seed, bool withKeys) {

@@ -6,5 +6,6 @@ declare var pages: any;
 declare var sweep: any;
 declare var sweptChanges: string[];
 declare var sweptKinds: string[];
+declare var source: any;
 declare var walk: any;
 declare var work: any;

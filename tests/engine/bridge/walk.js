@@ -44,32 +44,30 @@
   const same = (one, other) =>
     one.html === other.html && unblanked(one.selected) === unblanked(other.selected);
 
-  // The number of line ends in the source.
-  const lineEnds = (html) => html.split('\n').length;
-  // What a format command must keep: marks of changes, links, names and classes, with their words.
-  const marks = () => [...document.body.querySelectorAll('ins, del, a[href], [id]')]
-    .map((element) => ({ words: wordsOf(element.textContent),
-      sign: `${element.id || element.tagName} ${element.getAttribute('href') ?? ''}` }));
-  function marksJudged() {
-    if (step.action[0] !== 'exec' || step.action[1] === Command.Delete) return [];
-    const now = marks();
-    const wordsUnder = (list, sign) =>
-      list.filter((mark) => mark.sign === sign).map(({ words }) => words).join('');
-    const lost = step.marks.find(({ sign }) => !/^[a-z]/.test(sign) &&
-      !wordsUnder(now, sign).includes(wordsUnder(step.marks, sign)));
-    return lost ? [`${lost.sign} is lost`] : [];
-  }
-  // Typing and characters' formats leave every line end of the source.
-  const ofCharacters = [...switches, ...values];
-  function lineEndsJudged() {
-    const [verb, number] = step.action;
-    const keeps = verb === 'type' ? step.collapsed
-      : verb === 'exec' && ofCharacters.includes(number);
-    const gone = keeps && lineEnds(look().html) < lineEnds(step.before.html);
-    return gone ? ['a line end of the source is lost'] : [];
+  // White space and marks away from where the step was. A command that deletes nothing leaves them
+  // everywhere but at the selection's ends.
+  const isTravel = ([verb, value]) => verb === 'travel' || /Ctrl\+[ZY]/.test(value);
+  function sourceJudged() {
+    const { parts: { before, behind, rest }, action: [verb, value], source: was } = step;
+    return isTravel(step.action) ? [] : source.faults(was, {
+      before: before.length, behind: behind.length, rest: rest.length,
+      near: /^Ctrl\+(Backspace|Del)$/.test(value) ? 12 : 1,
+      deletes: verb !== 'exec' || value === Command.Delete });
   }
 
-  // The words before, in and behind the selection.
+  // The block that the selection ends in; where no words follow in it, the one of the next words,
+  // which a deletion may join to it.
+  function lastBlock({ endContainer, endOffset }) {
+    const block = inside.dom.blockOf(endContainer);
+    if (wordsOf(endContainer.data?.slice(endOffset) ?? '')) return block;
+    const behind = document.createRange();
+    behind.selectNodeContents(document.body);
+    behind.setStart(endContainer, endOffset);
+    const [next] = inside.selection.textsIn(behind)
+      .filter((text) => text !== endContainer && wordsOf(text.data));
+    return !next || block.contains(next) ? block : inside.dom.blockOf(next);
+  }
+  // The words before, in and behind the selection, and `rest`, those up to the end of that block.
   function parts() {
     const range = inside.selection.range();
     if (!range) return null;
@@ -83,6 +81,10 @@
       before: part((other) => other.setEnd(range.startContainer, range.startOffset)),
       inside: wordsOf(range.toString()),
       behind: part((other) => other.setStart(range.endContainer, range.endOffset)),
+      rest: part((other) => {
+        other.setEnd(lastBlock(range), lastBlock(range).childNodes.length);
+        other.setStart(range.endContainer, range.endOffset);
+      }),
     };
   }
   const objects = () => document.querySelectorAll('img, hr, table, [contenteditable]').length;
@@ -349,8 +351,8 @@
       else action = ['key', oneOf(keys)];
       const [verb, first, second] = action;
       step = {
-        before, action, marks: marks(), parts: parts(), lines: shownLines(), count: objects(),
-        collapsed: inside.selection.range()?.collapsed,
+        before, action, source: source.look(), parts: parts(), lines: shownLines(),
+        count: objects(),
         table: inside.selection.control(inside.selection.range())?.tagName === 'TABLE',
         status: verb === 'exec' ? inside.statusOf(first) : 0,
       };
@@ -364,9 +366,8 @@
     judge() {
       inside.history.settle();
       const now = look();
-      const inOrder = step.parts ? wordsJudged() : [];
-      const faults = [...newFaults(), ...inOrder, ...lineEndsJudged(), ...marksJudged(),
-        ...toggleJudged(), ...travelled(now)];
+      const inOrder = step.parts ? [...wordsJudged(), ...sourceJudged()] : [];
+      const faults = [...newFaults(), ...inOrder, ...toggleJudged(), ...travelled(now)];
       trail.push(step.before, now);
       faults.push(...repeated(now));
       trail.push(look());
