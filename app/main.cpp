@@ -3,6 +3,7 @@
 #include "app/startup/EndingSignals.h"
 #include "app/startup/EventBoundary.h"
 #include "app/startup/RealStartUpWindows.h"
+#include "app/window/Additions.h"
 #include "app/window/MfrmProgram.h"
 #include "chrome/Palette.h"
 #include "editor/PagesAtExit.h"
@@ -54,6 +55,7 @@ int main(int argc, char **argv) {
   EventBoundary boundary(real.dialogs, real.runtime);
   application.SetBoundary(&boundary);
   real.copies.RemoveAbandoned();
+  real.components.SetWholeSigns(KeepsTemplateSignsWhole(real.registry));
   ProgramValues values;
   std::unique_ptr<MfrmProgram> mainWindow;
   RealStartUpWindows windows(

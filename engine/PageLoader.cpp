@@ -127,9 +127,12 @@ void PageLoader::BeginLoad(Purpose purpose) {
   const DocumentHistory &history = document_.History();
   const DocumentMirror &mirror = document_.Mirror();
   QString text = history.Current()->TextToLoad();
-  QString start = QStringLiteral("velor.start({showDetails:%1,snapToGrid:%2,earlier:%3,later:%4});")
-                      .arg(ScriptValue(options_.showDetails), ScriptValue(options_.snapToGrid),
-                           ScriptValue(history.HasEarlier()), ScriptValue(history.HasLater()));
+  QString start =
+      QStringLiteral(
+          "velor.start({showDetails:%1,snapToGrid:%2,wholeSigns:%3,earlier:%4,later:%5});")
+          .arg(ScriptValue(options_.showDetails), ScriptValue(options_.snapToGrid),
+               ScriptValue(options_.wholeSigns), ScriptValue(history.HasEarlier()),
+               ScriptValue(history.HasLater()));
   if (purpose == Purpose::Restore || purpose == Purpose::Step) {
     // An unedited document is loaded from its original: the engine may parse its own serialisation
     // to another document.

@@ -13,6 +13,7 @@ struct PageMemory;
 struct ViewOptions {
   bool showDetails = false;
   bool snapToGrid = false;
+  bool wholeSigns = true;  ///< template signs in text are deleted as a whole and never broken
 };
 
 /// Loads a page into a LiveDocument, and loads it again when its process has ended. A load drops

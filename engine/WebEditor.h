@@ -59,6 +59,8 @@ class WebEditor : public EditingComponent {
   void SetShowDetails(bool on) override;
   bool SnapToGrid() const override;
   void SetSnapToGrid(bool on) override;
+  /// Whether template signs in text are kept whole, from the next load on. True at first.
+  void SetWholeSigns(bool on) { options_.wholeSigns = on; }
 
   /// What SaveDocument writes, and how much of the page that takes. `this` may be gone afterwards.
   SavedPage Compose() { return saver_.Compose(); }

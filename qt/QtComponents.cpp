@@ -17,7 +17,9 @@ QtComponents::QtComponents(Files &files, QString programFolder)
 QtComponents::~QtComponents() = default;
 
 std::unique_ptr<EditingComponent> QtComponents::CreateEditingComponent(QWidget *parent) {
-  return std::make_unique<WebEditor>(engine_, files_, programFolder_, parent);
+  auto editor = std::make_unique<WebEditor>(engine_, files_, programFolder_, parent);
+  editor->SetWholeSigns(wholeSigns_);
+  return editor;
 }
 
 std::unique_ptr<SourceControl> QtComponents::CreateSourceControl(QWidget *parent,

@@ -15,6 +15,10 @@ class QtComponents final : public Components {
   QtComponents(Files &files, QString programFolder);
   ~QtComponents() override;
 
+  /// Whether the editing components that are made from now on keep template signs whole
+  /// (WebEditor).
+  void SetWholeSigns(bool on) { wholeSigns_ = on; }
+
   std::unique_ptr<EditingComponent> CreateEditingComponent(QWidget *parent) override;
   std::unique_ptr<SourceControl> CreateSourceControl(QWidget *parent, SourceAccess access) override;
   std::unique_ptr<Browser> CreateBrowser(QWidget *parent) override;
@@ -24,6 +28,7 @@ class QtComponents final : public Components {
  private:
   Files &files_;
   QString programFolder_;
+  bool wholeSigns_ = true;
   EditingEngine engine_;
 };
 

@@ -6,10 +6,26 @@
 
 namespace velor {
 
+namespace {
+
+/// "False" in any letter case turns such a preference off, "True" on; else the default counts.
+bool IsChosen(const Registry &registry, const QString &name, const QString &defaultValue) {
+  const QString chosen = LowerCase(modSettingManager::GetOption(registry, name, defaultValue));
+  return LowerCase(defaultValue) == QStringLiteral("true") ? chosen != QStringLiteral("false")
+                                                           : chosen == QStringLiteral("true");
+}
+
+}  // namespace
+
 Additions ReadAdditions(const Registry &registry) {
-  const QString publishedOnly = modSettingManager::GetOption(
-      registry, QStringLiteral("PublishedOnly"), QStringLiteral("False"));
-  return LowerCase(publishedOnly) == QStringLiteral("true") ? Additions::Off : Additions::On;
+  return IsChosen(registry, QStringLiteral("PublishedOnly"), QStringLiteral("False"))
+             ? Additions::Off
+             : Additions::On;
+}
+
+bool KeepsTemplateSignsWhole(const Registry &registry) {
+  return ReadAdditions(registry) == Additions::On &&
+         IsChosen(registry, QStringLiteral("WholeTemplateSigns"), QStringLiteral("True"));
 }
 
 }  // namespace velor

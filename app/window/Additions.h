@@ -16,4 +16,8 @@ enum class Reach { Published, Beyond };
 /// The preference PublishedOnly: "True" turns every addition off. Read at start.
 Additions ReadAdditions(const Registry &registry);
 
+/// Whether template signs in a page's text are deleted as a whole and never broken: the preference
+/// WholeTemplateSigns ("True" or "False"), while additions are on. Read at start.
+bool KeepsTemplateSignsWhole(const Registry &registry);
+
 }  // namespace velor

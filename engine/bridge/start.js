@@ -12,6 +12,7 @@ import * as overlay from './objects/overlay.js';
 import { isEditable } from './page/dom.js';
 import * as history from './page/history.js';
 import * as selection from './page/selection.js';
+import { setWholeSigns } from './page/signs.js';
 import './page/sourceLines.js';
 import { forgetStandIns } from './page/standIns.js';
 import { connect, host } from './talk/host.js';
@@ -30,11 +31,11 @@ function wantBeyond(way) {
 /**
  * Begins the work on a document; to be called after each load. `earlier` and `later` tell whether
  * the program keeps documents that undo and redo come to beyond the page's history.
- * @param {{ showDetails?: boolean, snapToGrid?: boolean, earlier?: boolean, later?: boolean }}
- *   options
+ * @param {{ showDetails?: boolean, snapToGrid?: boolean, wholeSigns?: boolean,
+ *   earlier?: boolean, later?: boolean }} options
  */
 export function start({
-  showDetails = false, snapToGrid = false, earlier = false, later = false,
+  showDetails = false, snapToGrid = false, wholeSigns = true, earlier = false, later = false,
 } = {}) {
   connect(schedulePush);
   document.designMode = 'on';
@@ -55,5 +56,6 @@ export function start({
   listenToGestures();
   setDetails(showDetails);
   setSnap(snapToGrid);
+  setWholeSigns(wholeSigns);
   contentChanged();
 }

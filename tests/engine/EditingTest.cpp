@@ -18,6 +18,30 @@ TEST_F(Editing, TypedTextIsInTheDocument) {
   EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>One two</p>"))) << Seen().constData();
 }
 
+TEST_F(Editing, ATemplateSignIsDeletedWholeAndNeverTypedInto) {
+  LoadWithCaret("<p>One <i>{{ two }}</i></p>", QStringLiteral("i"));
+  Key(Qt::Key_Left);
+  TypeText(QStringLiteral("x"));
+  EXPECT_TRUE(WaitFor([&] { return DocumentHolds(QStringLiteral("{{ two }}x")); }))
+      << Seen().constData();
+  Key(Qt::Key_Backspace);
+  Key(Qt::Key_Backspace);
+  EXPECT_TRUE(WaitFor([&] { return !DocumentHolds(QStringLiteral("two")); })) << Seen().constData();
+  EXPECT_FALSE(DocumentHolds(QStringLiteral("{")));
+}
+
+TEST_F(Editing, ATemplateSignIsTextWhereTheSettingSaysSo) {
+  editor_->SetWholeSigns(false);
+  LoadWithCaret("<p>One <i>{{ two }}</i></p>", QStringLiteral("i"));
+  Key(Qt::Key_Left);
+  TypeText(QStringLiteral("x"));
+  EXPECT_TRUE(WaitFor([&] { return DocumentHolds(QStringLiteral("{{ two }x}")); }))
+      << Seen().constData();
+  Key(Qt::Key_Backspace);
+  EXPECT_TRUE(WaitFor([&] { return DocumentHolds(QStringLiteral("{{ two }}")); }))
+      << Seen().constData();
+}
+
 TEST_F(Editing, EnterMakesAParagraphAndShiftEnterALineBreak) {
   LoadWithCaret("<p>One</p>", QStringLiteral("p"));
   Key(Qt::Key_Return);

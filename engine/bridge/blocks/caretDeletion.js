@@ -11,6 +11,7 @@ import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import { beside } from '../page/beside.js';
 import * as selection from '../page/selection.js';
+import { wholeSigns } from '../page/signs.js';
 import { unitsIn } from '../page/units.js';
 
 // True for an element without content that takes no room on the screen.
@@ -99,9 +100,12 @@ function deleteObject(object) {
  * What a deletion at a caret does where that is not left to the engine; null where it is.
  * @param {Range} range the caret
  * @param {Edge} side 'start' for Backspace, 'end' for Delete
+ * @param {PlainRange | null} target what the engine would delete
  * @returns {(() => void) | null}
  */
-export function deletionAtCaret(range, side) {
+export function deletionAtCaret(range, side, target) {
+  const signs = wholeSigns(target);
+  if (signs) return () => deleteToLine(signs);
   if (isWithinText(range, side)) return null;
   const unit = unitsIn(range)[0];
   if (!unit || !range.collapsed) return null;

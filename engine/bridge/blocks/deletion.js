@@ -9,6 +9,7 @@ import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import { dropEmptyInline, holdOpen, lineElement } from '../page/lines.js';
 import * as selection from '../page/selection.js';
+import { takeInSigns } from '../page/signs.js';
 import { gapAt } from '../page/units.js';
 
 // Across table cells only contents go; the cells stay.
@@ -155,8 +156,9 @@ export function deleteRange(range) {
   const inner = narrowed(range);
   // Moves along with what changes around it.
   const rest = inner.cloneRange();
+  if (!thing) takeInSigns(rest);
   if (thing) deleteThing(thing, rest);
-  else if (spansUnits(range)) deleteAcross(inner, rest);
+  else if (spansUnits(range)) deleteAcross(rest.cloneRange(), rest);
   else deleteInParagraph(rest);
   return rest;
 }

@@ -13,6 +13,7 @@ import * as dom from '../page/dom.js';
 import { keepsBlanks } from '../page/beside.js';
 import { holdOpen, openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
+import { takeInSigns } from '../page/signs.js';
 import { addTyped, noBreak, resolveAll } from '../page/standIns.js';
 import { enclose, gapAt, unitsIn } from '../page/units.js';
 
@@ -208,6 +209,7 @@ export function typeOver(data) {
   if (!data || !selection.range()) return false;
   narrowSelection(selection.range());
   const range = selection.range();
+  takeInSigns(range);
   const start = isInLink(range) ? linkEnd : firstSelectedText(range) ?? inLinkOfBlocks(range);
   if (!start) return false;
   const { node } = start;

@@ -11,6 +11,7 @@ import { put } from './paste.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
+import { outsideSigns, takeInSigns } from '../page/signs.js';
 import { host } from '../talk/host.js';
 import { schedulePush } from '../talk/pace.js';
 
@@ -84,6 +85,8 @@ function copy(event) {
 
 /** @param {ClipboardEvent} event */
 function cut(event) {
+  const selected = selection.range();
+  if (selected && !isInField(event.target)) takeInSigns(selected);
   const range = copy(event);
   if (!range) return;
   history.step('deleteByCut', () => deleteKeepingLooks(range));
@@ -290,9 +293,12 @@ function move(range, event) {
     !range.isPointInRange(target.startContainer, target.startOffset);
   if (!isAway) return;
   history.step('drag', () => {
+    if (!event.ctrlKey) takeInSigns(range);
     const fragment = partOf(range);
     // Texts and elements there may be joined to others; this stays where it is in them.
     const mark = document.createComment('');
+    target.setStart(target.startContainer,
+      outsideSigns(target.startContainer, target.startOffset));
     target.insertNode(mark);
     if (!event.ctrlKey) deleteToPoint(range);
     const { parentNode } = mark;

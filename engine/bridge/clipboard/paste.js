@@ -12,6 +12,7 @@ import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import { holdOpen, dropEmptyInline } from '../page/lines.js';
 import * as selection from '../page/selection.js';
+import { leaveSign } from '../page/signs.js';
 import { resolveAll, splitText } from '../page/standIns.js';
 
 /** @param {string} html */
@@ -266,6 +267,7 @@ function makeRoom(range, fragment) {
  * @param {import('./openEnds.js').OpenEnds} [open]
  */
 export const put = (fragment, open = closed) => {
+  leaveSign();
   const replaces = !selection.range().collapsed;
   if (replaces) resolveAll();
   wrapParts(fragment, selection.range().startContainer);

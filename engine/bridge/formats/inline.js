@@ -8,6 +8,7 @@ import { formats } from './formats.js';
 import { joinTexts, mergeWith } from './merging.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
+import { takeInSigns } from '../page/signs.js';
 
 // Cuts the texts at the ends of the range in two, so that all that is selected is whole texts;
 // answers those.
@@ -398,6 +399,7 @@ function anchorsOf(texts, range) {
  * @param {Range} range the selected one
  */
 export function apply(name, value, range) {
+  takeInSigns(range);
   if (isThere(name, value, range)) return;
   const backward = document.getSelection().focusNode === range.startContainer &&
     document.getSelection().focusOffset === range.startOffset && !range.collapsed;

@@ -10,6 +10,7 @@ import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
+import * as signs from '../page/signs.js';
 import { isWorking, work } from '../page/working.js';
 import { exec } from '../talk/commands.js';
 import { schedulePush } from '../talk/pace.js';
@@ -49,13 +50,14 @@ function joinsLastStep({ inputType, data }, kind) {
 
 // What the bridge does in place of a deletion of the engine's; null where the engine does it well.
 /** @param {InputEvent} event */
-function ownDeletion({ inputType }) {
+function ownDeletion(event) {
+  const { inputType } = event;
   const isWhole = inputType.startsWith('delete') && !partialDeletions.has(inputType);
   if (!isWhole || isComposing()) return null;
   const range = selection.range();
   if (!range) return null;
   return range.collapsed
-    ? deletionAtCaret(range, backward.test(inputType) ? 'start' : 'end')
+    ? deletionAtCaret(range, backward.test(inputType) ? 'start' : 'end', event.getTargetRanges()[0])
     : () => typing.deleteKeepingLooks(range);
 }
 
@@ -89,6 +91,7 @@ export function beforeInput(event) {
   if (isWorking() || !dom.isEditable()) return;
   const { inputType } = event;
   announced = inputType;
+  if (inputType.startsWith('insert') && !isComposing()) work(signs.leaveSign);
   if (takeOver(event)) {
     event.preventDefault();
     return;
@@ -123,6 +126,7 @@ export function input(event) {
   if (inputType === 'insertParagraph') work(tidySplit);
   if (inputType === 'insertText') work(() => pending.applyToTyped(data));
   typing.noteTyped();
+  signs.noteTyped();
   work(() => blanks.watched({ inputType, data }));
   pending.moveToCaret();
   history.arrive();

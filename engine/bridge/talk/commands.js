@@ -215,13 +215,14 @@ export const commands = new Map([
         deleteKeepingLooks(range);
         return;
       }
-      const join = deletionAtCaret(range, 'end');
-      if (join) {
-        join();
+      const target = selection.ahead();
+      const own = deletionAtCaret(range, 'end', target);
+      if (own) {
+        own();
         return;
       }
       const input = { inputType: 'deleteContentForward' };
-      blanks.watch(input.inputType, selection.ahead());
+      blanks.watch(input.inputType, target);
       document.execCommand('forwardDelete');
       blanks.engineDone(input);
       blanks.watched(input);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/modSettingManager.h"
+#include "app/window/Additions.h"
 #include "app/window/PageTabs.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
@@ -191,6 +193,20 @@ TEST_F(PublishedOnly, CommandsGoToTheActiveDocumentAloneAndMenusFollowTheOpenPag
   for (const char *on : {"mnuCut", "mnuInsert", "mnuTable"})
     EXPECT_TRUE(Item(on)->isEnabled()) << on;
   EXPECT_EQ(window.windowTitle(), QStringLiteral("Velor Web Creator - [Untitled 1]"));
+}
+
+TEST(WholeTemplateSigns, AreAPreferenceThatIsOnUnlessTurnedOff) {
+  FakeRegistry registry;
+  const auto set = [&](const char *name, const char *value) {
+    modSettingManager::SetOption(registry, QString::fromLatin1(name), QString::fromLatin1(value));
+  };
+  EXPECT_TRUE(KeepsTemplateSignsWhole(registry));
+  set("WholeTemplateSigns", "false");
+  EXPECT_FALSE(KeepsTemplateSignsWhole(registry));
+  set("WholeTemplateSigns", "nonsense");
+  EXPECT_TRUE(KeepsTemplateSignsWhole(registry));
+  set("PublishedOnly", "True");
+  EXPECT_FALSE(KeepsTemplateSignsWhole(registry));
 }
 
 TEST_F(CommandRouterTest, ASaveThatWentWellIsSaidWithThePath) {
