@@ -5,6 +5,7 @@
 // where blocks come in.
 import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
 import { dropHolder } from '../blocks/typing.js';
+import { joinToNeighbours } from '../formats/merging.js';
 import { closed, joinsFor } from './openEnds.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
@@ -124,7 +125,7 @@ function putBlocks(fragment, node, offset) {
   if (top?.tagName === 'DT') makeItems(fragment, top.parentNode);
   const last = fragment.lastChild;
   if (!top) {
-    const holder = holderAt(node);
+    const holder = holderAt(node, offset);
     insertAt(fragment, node, offset);
     holder?.remove();
     setCaretBehindBlocks(last, null);
@@ -184,11 +185,18 @@ function insertAt(fragment, node, offset) {
   }
 }
 
-// The break that holds an empty block open.
-/** @param {AnyNode} node */
-function holderAt(node) {
+// The break that holds an empty block, or an item's line above its list, open.
+/**
+ * @param {AnyNode} node
+ * @param {number} offset
+ */
+function holderAt(node, offset) {
   const block = dom.blockOf(node);
-  return dom.isHollow(block) ? block.querySelector('br') : null;
+  if (dom.isHollow(block)) return block.querySelector('br');
+  let at = dom.isText(node) ? node : node.childNodes[offset];
+  while (at && dom.isBlank(at)) at = at.nextSibling;
+  const next = dom.isBreak(at) ? dom.neighbour(at, 'nextSibling') : null;
+  return dom.isList(next) ? at : null;
 }
 
 // Takes emphasis out of the fragment that the text around it has already: no B comes into a B.
@@ -218,9 +226,9 @@ const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.hre
  * @param {number} offset
  */
 function putInline(fragment, node, offset) {
-  const holder = holderAt(node);
+  const holder = holderAt(node, offset);
   dropDoubleEmphasis(fragment, node);
-  const last = fragment.lastChild;
+  const { firstChild: first, lastChild: last } = fragment;
   const link = fragment.querySelector('a[href]') && linkAt(node);
   if (link) {
     // No link stands in another one.
@@ -235,6 +243,7 @@ function putInline(fragment, node, offset) {
   holdOpen(dom.blockOf(node));
   if (dom.isText(last)) selection.setCaret(last, last.length);
   else setCaretBehind(last);
+  joinToNeighbours(first, last);
 }
 
 /** @param {ParentNode} fragment */

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Joins what has come to stand side by side when a format was put on text: elements that look the
-// same, and texts.
+// Joins what has come to stand side by side when a format was put on text or markup was put in:
+// elements that look the same, and texts.
 import * as dom from '../page/dom.js';
+import * as selection from '../page/selection.js';
 
 const mergeable = new Set(['B', 'EM', 'FONT', 'I', 'SPAN', 'STRONG', 'U', 'BIG', 'SMALL']);
 // True when both look the same: by the same markup, or each by markup of the format alone.
@@ -102,4 +103,48 @@ export function joinTexts(nodes, anchors) {
       next.remove();
     }
   }
+}
+
+// Two inline elements that are the same become one: a part of one was cut out and comes back.
+/** @param {AnyNode} node */
+const isOpenInline = (node) => dom.isInline(node) && !dom.isAtom(node) && !dom.isBreak(node);
+/**
+ * @param {AnyNode} left
+ * @param {AnyNode} right
+ */
+const areAlike = (left, right) => isOpenInline(left) && isOpenInline(right) &&
+  left.tagName === right.tagName && dom.sameAttributes(left, right);
+/**
+ * @param {AnyNode} left
+ * @param {AnyNode} right
+ */
+function joinAlike(left, right) {
+  while (areAlike(left, right)) {
+    const inner = [left.lastChild, right.firstChild];
+    dom.absorb(left, right);
+    [left, right] = inner;
+  }
+}
+/**
+ * @param {AnyNode} node
+ * @param {Side} side
+ */
+const besideNode = (node, side) => {
+  let at = node[side];
+  while (dom.isText(at) && !at.length) at = at[side];
+  return at;
+};
+/**
+ * Joins the ends of what was put in, from `first` to `last`, to elements beside it that are the
+ * same; the caret stays where it is.
+ * @param {AnyNode} first
+ * @param {AnyNode} last
+ */
+export function joinToNeighbours(first, last) {
+  const [before, after] = [besideNode(first, 'previousSibling'), besideNode(last, 'nextSibling')];
+  if (!areAlike(before, first) && !areAlike(last, after)) return;
+  const caret = selection.save();
+  joinAlike(last, after);
+  joinAlike(before, first);
+  selection.restore(caret);
 }
