@@ -3,7 +3,9 @@
 // Backspace and Delete at a caret where the engine would do it badly: at the edge of a paragraph,
 // which is joined to its neighbour, and beside a picture, an island and the like.
 import { deleteToLine } from './deletion.js';
-import { cellOf, isAtEdge, isEmptyParagraph, sameUnit, unitAt } from './extent.js';
+import {
+  caretAt, cellOf, isAtEdge, isEmptyParagraph, sameUnit, showsAnything, spansUnits, unitAt,
+} from './extent.js';
 import { isItem, itemOf } from './items.js';
 import { dropBlock, dropEmptyBlocks, join } from './joining.js';
 import * as lists from './lists.js';
@@ -112,6 +114,19 @@ export function deletionAtCaret(range, side, target) {
   const object = objectBeside(range, side);
   if (object) return () => deleteObject(object);
   return isAtEdge(range, unit, side) ? deletionAtEdge(unit, side) : null;
+}
+
+/**
+ * What a deletion does where a paragraph's start is all that is selected, with no paragraph before
+ * it in the selection; null elsewhere.
+ * @param {Range} range the selected one
+ */
+export function deletionOfEdge(range) {
+  if (spansUnits(range) || selection.control(range) || showsAnything(range)) return null;
+  const { endContainer, endOffset } = range;
+  const unit = unitAt(endContainer, endOffset);
+  const caret = caretAt(endContainer, endOffset);
+  return unit && isAtEdge(caret, unit, 'start') ? deletionAtEdge(unit, 'start') : null;
 }
 
 // The same at the edge of a paragraph.

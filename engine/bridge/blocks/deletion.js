@@ -50,6 +50,15 @@ function deleteInParagraph(range) {
   dropEmptyInline(startContainer);
   dropEmptyInline(endContainer);
   holdOpen(block);
+  holdItemOpen(block);
+}
+
+// An item whose own line is left empty before the list in it has that line still.
+/** @param {AnyNode} item */
+function holdItemOpen(item) {
+  const first = item.tagName === 'LI' && item.isConnected
+    ? dom.shownFrom(item.firstChild, 'nextSibling') : null;
+  if (dom.isList(first)) first.before(dom.create('BR'));
 }
 
 // The one object or closed island that is all that is selected; null for anything else.

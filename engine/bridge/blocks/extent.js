@@ -109,7 +109,7 @@ export function spansUnits(range) {
 // True when something in the range shows. White space does not: the range ends at the edge of a
 // paragraph.
 /** @param {PlainRange} range */
-function showsAnything(range) {
+export function showsAnything(range) {
   const { startContainer, startOffset, endContainer, endOffset } = range;
   for (const leaf of selection.leavesIn(range)) {
     if (!dom.isShown(leaf)) continue;

@@ -3,6 +3,7 @@
 // Typing. The engine puts typed text in; what is done here is what it needs before it can (a line,
 // a paragraph, an empty selection), and all of it where text is typed over selected text or in a
 // link.
+import { deletionOfEdge } from './caretDeletion.js';
 import { deleteRange, deleteToLine, deleteToPoint } from './deletion.js';
 import { narrowSelection } from './extent.js';
 import { formats } from '../formats/formats.js';
@@ -112,6 +113,11 @@ function looksOf(text) {
  * @param {Range} range the selected one
  */
 export function deleteKeepingLooks(range) {
+  const joins = deletionOfEdge(range);
+  if (joins) {
+    joins();
+    return;
+  }
   const [text] = isAll(range) || selection.control(range) ? [] : selection.textsIn(range);
   const looks = text ? looksOf(text) : [];
   const block = text && dom.blockOf(text);
@@ -209,11 +215,11 @@ export function typeOver(data) {
   if (!data || !selection.range()) return false;
   narrowSelection(selection.range());
   const range = selection.range();
+  if (!range.collapsed) resolveAll();
   takeInSigns(range);
   const start = isInLink(range) ? linkEnd : firstSelectedText(range) ?? inLinkOfBlocks(range);
   if (!start) return false;
   const { node } = start;
-  if (!range.collapsed) resolveAll();
   blanks.watch();
   const end = insertAt(data, start);
   if (!range.collapsed) {
@@ -227,8 +233,16 @@ export function typeOver(data) {
 
 /**
  * Notes that the text at the caret was typed in: a no-break space that is all of it is no holder.
+ * The break that held an item's line open above its list goes; the engine leaves it.
+ * @param {string | null} data
  */
-export function noteTyped() {
+export function noteTyped(data) {
   const { anchorNode } = selection.points();
-  if (anchorNode) blanks.noteTyped(anchorNode);
+  if (!anchorNode) return;
+  blanks.noteTyped(anchorNode);
+  const begins = data && dom.isText(anchorNode) && anchorNode.data.trim() === data;
+  const holder = begins ? dom.neighbour(anchorNode, 'nextSibling') : null;
+  const item = anchorNode.parentElement;
+  if (dom.isBreak(holder) && item.tagName === 'LI' &&
+      dom.isList(dom.neighbour(holder, 'nextSibling'))) holder.remove();
 }

@@ -125,7 +125,7 @@ export function input(event) {
   work(() => blanks.engineDone({ inputType: begins ? 'insertText' : inputType, data }));
   if (inputType === 'insertParagraph') work(tidySplit);
   if (inputType === 'insertText') work(() => pending.applyToTyped(data));
-  typing.noteTyped();
+  work(() => typing.noteTyped(data));
   signs.noteTyped();
   work(() => blanks.watched({ inputType, data }));
   pending.moveToCaret();

@@ -62,11 +62,23 @@ export const keepsBlanks = (text) =>
   /^(pre|break)/.test(getComputedStyle(text.parentNode).whiteSpace);
 
 /**
+ * True where nothing but blanks is left in the line, from a character on.
+ * @param {Neighbour | null} character
+ * @param {Side} side
+ */
+function hasNoMore(character, side) {
+  const step = side === 'nextSibling' ? 1 : 0;
+  let at = character;
+  while (isBlank(at)) at = beside(at.node, at.index + step, side);
+  return at === null;
+}
+/**
  * True where nothing but blanks follows in the line.
  * @param {Neighbour | null} character
  */
-export function endsLine(character) {
-  let at = character;
-  while (isBlank(at)) at = beside(at.node, at.index + 1, 'nextSibling');
-  return at === null;
-}
+export const endsLine = (character) => hasNoMore(character, 'nextSibling');
+/**
+ * True where nothing but blanks stands before it in the line.
+ * @param {Neighbour | null} character
+ */
+export const beginsLine = (character) => hasNoMore(character, 'previousSibling');

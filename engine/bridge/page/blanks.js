@@ -14,7 +14,7 @@
 // space that the engine rewrote (whitespace.js); watch() was told for that what the engine would
 // do. watched() makes stand-ins of what was written for blanks, and resolves those that the caret
 // has left. watch() while watching begins anew: what was announced before did not happen.
-import { beside, charAt, edge, isBlank, keepsBlanks } from './beside.js';
+import { beginsLine, beside, charAt, edge, endsLine, isBlank, keepsBlanks } from './beside.js';
 import * as dom from './dom.js';
 import { dropEmptyInline } from './lines.js';
 import * as selection from './selection.js';
@@ -43,15 +43,21 @@ function atCaret(side) {
   return anchorNode ? beside(anchorNode, anchorOffset, side) : null;
 }
 
+function isBeforeBreak() {
+  const { anchorNode, anchorOffset } = selection.points();
+  return dom.isElement(anchorNode) && dom.isBreak(anchorNode.childNodes[anchorOffset]);
+}
+
 // A deletion has ended at the caret: a stand-in takes the place of a blank that HTML would not show
 // there, so that what is typed next stands beside it. A line end of the source stays where a blank
 // can be taken instead.
 function replaceUnseenBlank() {
   const { anchorNode } = selection.points();
-  // In an empty line the source's white space is layout.
-  if (!anchorNode || dom.isHollow(dom.blockOf(anchorNode))) return;
+  if (!anchorNode) return;
   const left = atCaret('previousSibling');
   const right = atCaret('nextSibling');
+  // In an empty line the source's white space is layout.
+  if (beginsLine(left) && (isBeforeBreak() || endsLine(right))) return;
   /**
    * @param {Neighbour} blank
    * @param {Side} across
