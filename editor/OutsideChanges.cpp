@@ -20,6 +20,7 @@
 #include <QPainter>
 #include <QPushButton>
 
+#include <algorithm>
 #include <chrono>
 
 namespace velor {
@@ -81,6 +82,7 @@ void OutsideChanges::WatchParts(const QStringList &paths) {
 void OutsideChanges::WatchFile(const QString &path) {
   if (!watch_) return;
   hide();
+  versions_.clear();
   if (path == path_) return;
   path_ = path;
   isThere_ = true;
@@ -111,10 +113,43 @@ void OutsideChanges::CheckFile() {
           "%1 was changed by another program and is loaded again; Undo brings back what was here"));
     }
   } catch (const RuntimeError &error) {
-    return context_.mainWindow.status.ReportOn(
-        page_.Number(), QStringLiteral("%1 was changed by another program and cannot be read: %2")
-                            .arg(Name(), error.Description()));
+    return ReportUnreadable(error);
   }
+  ShowBar();
+}
+
+void OutsideChanges::DocumentChanged() {
+  const QByteArray original = page_.DHTML1().Memory().original;
+  // A shared text is the same one: nothing is compared at each key.
+  if (original.constData() == original_.constData()) return;
+  original_ = original;
+  const FileTrace trace = FileTrace::Of(path_, original);
+  const auto version =
+      std::find_if(versions_.begin(), versions_.end(),
+                   [&](const KnownVersion &known) { return known.original == trace; });
+  FileTrace &known = context_.pages.Trace(page_.Number());
+  if (version == versions_.end() || version->file == known) return;
+  // A save keeps the version that the page does not come from any more.
+  known = version->file;
+  try {
+    // The file is not loaded here: that would take back what was just undone.
+    if (FileTrace::Of(path_, context_.platform.files.ReadAll(path_)) == known)
+      hide();
+    else
+      ShowBar();
+  } catch (const RuntimeError &) {
+    // The watch reports a file that has gone.
+  }
+}
+
+void OutsideChanges::RememberTrace() {
+  original_ = page_.DHTML1().Memory().original;
+  const FileTrace original = FileTrace::Of(path_, original_);
+  std::erase_if(versions_, [&](const KnownVersion &known) { return known.original == original; });
+  versions_.push_back({original, context_.pages.Trace(page_.Number())});
+}
+
+void OutsideChanges::ShowBar() {
   text_->setText(QStringLiteral("%1 was changed by another program, and has unsaved changes here.")
                      .arg(Name()));
   show();
@@ -160,9 +195,11 @@ void OutsideChanges::LoadFile() {
         ErrorNumber::TypeMismatch, QStringLiteral("OutsideChanges"),
         QStringLiteral("it is %1 now. The page stays as it is here").arg(InWords(*form)));
   const FileTrace trace = FileTrace::Of(path_, content);
+  RememberTrace();
   component.LoadDocument(path_);
   if (alive == nullptr) return;
   context_.pages.Trace(number) = trace;
+  RememberTrace();
   component.ShowPlace(caret);
   const QString html = component.DocumentHTML();
   if (alive == nullptr) return;
@@ -180,7 +217,11 @@ void OutsideChanges::StoreOwnText() {
 
 void OutsideChanges::TakeTheirs() {
   StoreOwnText();
-  LoadFile();
+  try {
+    LoadFile();
+  } catch (const RuntimeError &error) {
+    return ReportUnreadable(error);
+  }
   hide();
   Report(QStringLiteral("%1 is loaded again; Undo brings back what was here"));
 }
@@ -196,6 +237,12 @@ void OutsideChanges::Compare() {
   auto *compare =
       new VersionCompare(Name(), page_.DHTML1().TextToSave(), DecodePage(there).text, window());
   compare->show();
+}
+
+void OutsideChanges::ReportUnreadable(const RuntimeError &error) const {
+  context_.mainWindow.status.ReportOn(
+      page_.Number(), QStringLiteral("%1 was changed by another program and cannot be read: %2")
+                          .arg(Name(), error.Description()));
 }
 
 void OutsideChanges::Report(const QString &message) const {

@@ -2,25 +2,28 @@
 #pragma once
 
 #include "editor/EditorContext.h"
+#include "editor/FileTrace.h"
 #include "platform/FileWatch.h"
 
 #include <QFrame>
 #include <QTimer>
 
 #include <memory>
+#include <vector>
 
 class QLabel;
 
 namespace velor {
 
+class RuntimeError;
 class frmMain;
 
 /// Watches a page's file for changes by other programs, and is the bar that asks about them. A page
 /// without unsaved changes is loaded again at its place, as one step of its undo history. For a
 /// page with unsaved changes the bar is shown. It offers to keep the page's text (a save then keeps
 /// the other version), to load the file (the page's text goes to the replaced versions, and Undo
-/// brings it back), or to compare both. Removal, return and permissions are reported in the status
-/// bar.
+/// brings it back), or to compare both. After Undo over such a load the file is another version
+/// again, and the bar comes back. Removal, return and permissions are reported in the status bar.
 class OutsideChanges final : public QFrame {
   Q_OBJECT
 
@@ -34,6 +37,9 @@ class OutsideChanges final : public QFrame {
   /// Watches the files that the page shows, in place of those before: one that changes is shown
   /// anew.
   void WatchParts(const QStringList &paths);
+  /// To be called when the document has changed: Undo and Redo may have led over a load of the
+  /// file.
+  void DocumentChanged();
 
  protected:
   void paintEvent(QPaintEvent *event) override;
@@ -41,6 +47,9 @@ class OutsideChanges final : public QFrame {
  private:
   /// Compares the file with what the page knows of it.
   void CheckFile();
+  void ShowBar();
+  /// Remembers which version of the file the page knows while it has its present original.
+  void RememberTrace();
   void ReportRemoval();
   void ReportPermissions();
   bool HasUnsavedWork();
@@ -50,8 +59,14 @@ class OutsideChanges final : public QFrame {
   void TakeTheirs();
   void KeepMine();
   void Compare();
+  void ReportUnreadable(const RuntimeError &error) const;
   void Report(const QString &message) const;
   QString Name() const;
+
+  struct KnownVersion {
+    FileTrace original;  ///< of the bytes that the page came from
+    FileTrace file;      ///< of the file's content that the page knew then
+  };
 
   EditorContext &context_;
   frmMain &page_;
@@ -60,6 +75,8 @@ class OutsideChanges final : public QFrame {
   QString path_;
   bool isThere_ = true;
   bool isReadOnly_ = false;
+  std::vector<KnownVersion> versions_;  ///< before and after each load since the last save
+  QByteArray original_;                 ///< of the page, as last seen
   QTimer retry_;
   QLabel *text_ = nullptr;
 };

@@ -259,6 +259,7 @@ void frmMain::DisplayChanged() {
 
 void frmMain::MemoryChanged() {
   journal_.DocumentChanged();
+  outside_->DocumentChanged();
   ShowTab();
   const bool isReadOnly = context_.pages.Record(number_).ReadOnly != False16;
   if (!isReadOnly || isReadOnlyTold_ || !journal_.HasChanges()) return;

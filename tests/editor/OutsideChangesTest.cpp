@@ -99,6 +99,29 @@ TEST_F(OutsideChangesTest, TheirsIsLoadedAndMineIsKept) {
   EXPECT_TRUE(IsSaid(QStringLiteral("Undo brings back what was here")));
 }
 
+TEST_F(OutsideChangesTest, AfterUndoOverTakeTheirsItAsksAgainAndASaveKeepsTheirs) {
+  MeetAtTheBar();
+  Press("cmdTakeTheirs");
+  Page(1).DHTML1().ExecCommand(EditingCommand::Undo);
+  EXPECT_EQ(Document(), Mine);
+  EXPECT_FALSE(Page(1).Outside().isHidden());
+  EXPECT_TRUE(Page(1).Journal().HasChanges());
+  replaced.kept.clear();
+  modWorkFlow::SavePage(context, Page(1), dialog, Record(1), false);
+  EXPECT_EQ(Content(IndexFile), Mine.toUtf8());
+  EXPECT_EQ(replaced.kept, QStringList(IndexFile + QStringLiteral(": ") + Theirs));
+  EXPECT_TRUE(Page(1).Outside().isHidden());
+}
+
+TEST_F(OutsideChangesTest, TheirsThatIsNoPageIsNotTakenAndTheBarStays) {
+  MeetAtTheBar();
+  files.AddFile(IndexFile, QByteArray("\x89PNG\r\n\x1a\n", 8));
+  Press("cmdTakeTheirs");
+  EXPECT_TRUE(IsSaid(QStringLiteral("cannot be read: it is a binary file")));
+  EXPECT_EQ(Document(), Mine);
+  EXPECT_FALSE(Page(1).Outside().isHidden());
+}
+
 TEST_F(OutsideChangesTest, BothAreShownSideBySide) {
   MeetAtTheBar();
   Press("cmdCompare");

@@ -59,7 +59,12 @@ void FakeEditingComponent::TypeText(const QString &text) {
   ChangeDisplay();
 }
 
+void FakeEditingComponent::KeepForUndo() {
+  earlier_.push_back({original_, current_});
+}
+
 void FakeEditingComponent::Edit(const QString &html) {
+  KeepForUndo();
   current_ = html;
   if (listener_ != nullptr) listener_->MemoryChanged();
 }
@@ -168,6 +173,12 @@ QVariant FakeEditingComponent::ExecCommand(EditingCommand command, ExecOption op
     call += QStringLiteral(", option %1").arg(static_cast<int>(option));
   if (value.isValid()) call += QStringLiteral(", %1").arg(value.toString());
   Log(call + u')');
+  if (command == EditingCommand::Undo && !earlier_.empty()) {
+    original_ = std::move(earlier_.back().original);
+    current_ = std::move(earlier_.back().document);
+    earlier_.pop_back();
+    if (listener_ != nullptr) listener_->MemoryChanged();
+  }
   const auto answer = values.find(command);
   return answer != values.end() ? answer->second : QVariant(QString());
 }
@@ -221,6 +232,10 @@ void FakeEditingComponent::Log(const QString &call) const {
 }
 
 void FakeEditingComponent::Take(PageOriginal original) {
+  const bool hasDocument = !original_.baseline.isEmpty();
+  const QString document = WithLineEnds(original.page.text, LineEnds::Lf);
+  // The file's document in the place of the same one leaves no step.
+  if (hasDocument && document != current_) KeepForUndo();
   original_ = std::move(original);
   current_ = WithLineEnds(original_.page.text, LineEnds::Lf);
   original_.baseline = current_;

@@ -103,6 +103,12 @@ class FakeEditingComponent final : public EditingComponent,
 
   void Log(const QString &call) const;
   void Take(PageOriginal original);
+  /// What Undo brings back.
+  struct State {
+    PageOriginal original;
+    QString document;
+  };
+  void KeepForUndo();
 
   Files &files_;
   mutable std::vector<QString> ownLog_;
@@ -112,6 +118,7 @@ class FakeEditingComponent final : public EditingComponent,
   PageOriginal original_;
   QString base_;
   QString current_;  ///< LF line breaks, like an engine's serialisation
+  std::vector<State> earlier_;
   QTimer completion_;
   bool showDetails_ = false;
   bool snapToGrid_ = false;

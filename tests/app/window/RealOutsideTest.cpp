@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Another program changes the file of an open page, in the whole window on the real engine and
 // disk.
+#include "app/window/PageTabs.h"
 #include "editor/OutsideChanges.h"
 #include "editor/PageSlots.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmMain.h"
 #include "files/QtFileWatches.h"
 #include "files/ReplacedFiles.h"
+#include "files/StateFolder.h"
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
 
@@ -36,6 +38,17 @@ class RealOutside : public RealWindow {
   }
   bool IsSaid(const QString &words) const {
     return WaitFor([&] { return window.statusBar()->currentMessage().contains(words); });
+  }
+
+  bool IsMarkedUnsaved() {
+    return Tabs().count() > 0 && Tabs().tabToolTip(0).contains(QStringLiteral("Unsaved changes"));
+  }
+  /// What the file held that a save replaced last.
+  QByteArray NewestReplaced() const {
+    const QDir kept(StateFolder() + QStringLiteral("/replaced"));
+    const QStringList names = kept.entryList({QStringLiteral("*.htm")}, QDir::Files, QDir::Name);
+    QFile file(names.isEmpty() ? QString() : kept.filePath(names.back()));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
 
  private:
@@ -83,6 +96,40 @@ TEST_F(RealOutside, APageWithChangesKeepsThemUntilTheirsIsTaken) {
   EXPECT_FALSE(page.Outside().isVisible());
   Choose("mnuUndo");
   EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("oXne")); })) << Seen(page);
+}
+
+TEST_F(RealOutside, UndoOverTakeTheirsIsAnUnsavedPageAgainAndTheFileIsAskedAboutAgain) {
+  // The second page cannot be exchanged in place: it is loaded anew.
+  for (const QByteArray &head :
+       {QByteArray(),
+        QByteArray("<meta http-equiv=Content-Security-Policy content=\"img-src *\">")}) {
+    const QByteArray theirs = head + "<p>theirs</p>";
+    frmMain &page = Open(PageFile, head + "<p>one</p>");
+    PutCaret(page, QStringLiteral("p"));
+    Type(page, QStringLiteral("X"));
+    ReplaceOutside(theirs);
+    ASSERT_TRUE(WaitFor([&] { return page.Outside().isVisible(); }));
+    page.Outside().findChild<QPushButton *>(QStringLiteral("cmdTakeTheirs"))->click();
+    ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("theirs")); }));
+    EXPECT_FALSE(IsMarkedUnsaved());
+    Choose("mnuUndo");
+    EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("oXne")); })) << Seen(page);
+    EXPECT_TRUE(WaitFor([&] { return IsMarkedUnsaved(); }));
+    EXPECT_TRUE(WaitFor([&] { return page.Outside().isVisible(); }));
+    Choose("mnuRedo");
+    EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("theirs")); })) << Seen(page);
+    EXPECT_TRUE(WaitFor([&] { return !page.Outside().isVisible(); }));
+    EXPECT_TRUE(WaitFor([&] { return !IsMarkedUnsaved(); }));
+    Choose("mnuUndo");
+    ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("oXne")); })) << Seen(page);
+    ASSERT_TRUE(WaitFor([&] { return page.Outside().isVisible(); }));
+    dialogs.ExpectMessage(
+        QStringLiteral("You have made changes to this document. Do you want to save it?"),
+        MessageAnswer::Yes);
+    EXPECT_TRUE(page.close());
+    EXPECT_EQ(Bytes(PageFile).toStdString(), (head + "<p>oXne</p>").toStdString());
+    EXPECT_EQ(NewestReplaced().toStdString(), theirs.toStdString());
+  }
 }
 
 TEST_F(RealOutside, AStyleSheetAndPicturesThatChangeAreShownAnewAndNothingElseChanges) {
