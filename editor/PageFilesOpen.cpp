@@ -33,14 +33,14 @@ void RequireFile(EditorContext &context, const QString &path, const QString &ope
 }
 
 /// A file that is no page in any charset that pages may have is never shown in design view, from
-/// where a save would destroy it.
-void RequirePage(const QByteArray &bytes, const QString &path, const QString &operation) {
+/// where a save would destroy it. `subject` is the file in the sentence that says so: "it" where
+/// the caller names the file.
+void RequirePage(const QByteArray &bytes, const QString &subject, const QString &operation) {
   const auto form = UnsupportedFormOf(bytes);
   if (!form) return;
   throw RuntimeError(
       ErrorNumber::TypeMismatch, operation,
-      QStringLiteral("%1 is %2. It is not opened as a page, and the file stays as it is.")
-          .arg(ForPeople(path), InWords(*form)));
+      QStringLiteral("%1 is %2. The file stays as it is").arg(subject, InWords(*form)));
 }
 
 /// Sets the baseline of the page made last, if its load has not reported yet, before the next slot
@@ -236,7 +236,7 @@ void NewPage(EditorContext &context) {
 std::int16_t OpenPage(EditorContext &context, const QString &path) {
   const QString operation = QStringLiteral("OpenPage");
   RequireFile(context, path, operation);
-  RequirePage(context.platform.files.ReadAll(path), path, operation);
+  RequirePage(context.platform.files.ReadAll(path), QStringLiteral("it"), operation);
   bool readOnly = false;
   frmMain &window = MakePage(context);
   FillPage(window, [&] {
@@ -256,13 +256,13 @@ void OpenProjectPage(EditorContext &context, const QString &path) {
   const QString file = ToLogic(FindIgnoringCase(path));
   const QString operation = QStringLiteral("OpenProjectPage");
   RequireFile(context, file, operation);
-  RequirePage(context.platform.files.ReadAll(file), file, operation);
+  RequirePage(context.platform.files.ReadAll(file), ForPeople(file), operation);
   frmMain &window = MakePage(context);
   FillPage(window, [&] { OpenWritable(context, window, file, False16); });
 }
 
 bool RestorePage(EditorContext &context, const JournalledPage &kept) {
-  RequirePage(kept.page.original, kept.path, QStringLiteral("RestorePage"));
+  RequirePage(kept.page.original, QStringLiteral("it"), QStringLiteral("RestorePage"));
   frmMain &window = MakePage(context);
   bool isKeptAgain = false;
   FillPage(window, [&] {

@@ -279,14 +279,7 @@ void RecoveryBar::RestoreAll() {
   const auto room = static_cast<std::size_t>(Room());
   const std::size_t count = std::min(room, readable.size());
   // The newest find room; their tabs come in the order in which they were changed.
-  for (std::size_t next = count; next-- > 0;) {
-    try {
-      Restore(readable[next]);
-    } catch (const RuntimeError &error) {
-      context_.mainWindow.status.Report(QStringLiteral("%1 could not be restored: %2")
-                                            .arg(NameOf(readable[next].page), error.Description()));
-    }
-  }
+  for (std::size_t next = count; next-- > 0;) Restore(readable[next]);
   if (count == readable.size()) return;
   context_.mainWindow.status.Report(
       QStringLiteral("%1 more stay here: %2 pages are open, which is the most")
@@ -295,9 +288,14 @@ void RecoveryBar::RestoreAll() {
 }
 
 void RecoveryBar::Restore(const Offered &offered) {
-  // Only what another journal holds may go.
-  if (modWorkFlow::RestorePage(context_, Read(offered.page))) return Discard(offered);
-  unkept_[offered.page.id] = context_.pages.Page(context_.pages.PageCount());
+  try {
+    // Only what another journal holds may go.
+    if (modWorkFlow::RestorePage(context_, Read(offered.page))) return Discard(offered);
+    unkept_[offered.page.id] = context_.pages.Page(context_.pages.PageCount());
+  } catch (const RuntimeError &error) {
+    context_.mainWindow.status.Report(QStringLiteral("%1 could not be restored: %2")
+                                          .arg(NameOf(offered.page), error.Description()));
+  }
 }
 
 void RecoveryBar::Show(const AbandonedPage &abandoned) {
