@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMimeDatabase>
+#include <QRegularExpression>
 #include <QUuid>
 #include <QWebEngineUrlRequestJob>
 #include <QWebEngineUrlScheme>
@@ -32,6 +33,15 @@ QString Canonical(const QString &path) {
 
 bool IsBelow(const QString &path, const QString &folder) {
   return path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+}
+
+/// The style sheet with the full "file:" addresses of its rules as addresses of its own site. All
+/// charsets of style sheets but UTF-16 have ASCII in its place.
+QByteArray WithSiteAddresses(const QByteArray &sheet) {
+  static const QRegularExpression beforePath(
+      QStringLiteral("(url\\(\\s*[\"']?|@import\\s+[\"'])file://(?:localhost)?(?=/)"),
+      QRegularExpression::CaseInsensitiveOption);
+  return QString::fromLatin1(sheet).replace(beforePath, QStringLiteral("\\1")).toLatin1();
 }
 
 bool HasHiddenPart(QStringView belowSite) {
@@ -119,8 +129,13 @@ void SiteScheme::requestStarted(QWebEngineUrlRequestJob *job) {
   if (!path.isEmpty() && FileOf(address) != sites_.value(address.host()).page)
     Q_EMIT PartServed(path);
   auto *file = new QFile(path, job);
-  if (!file->fileName().isEmpty() && file->open(QIODevice::ReadOnly))
-    return job->reply(QMimeDatabase().mimeTypeForFile(file->fileName()).name().toLatin1(), file);
+  if (!file->fileName().isEmpty() && file->open(QIODevice::ReadOnly)) {
+    const QByteArray type = QMimeDatabase().mimeTypeForFile(file->fileName()).name().toLatin1();
+    if (type != "text/css") return job->reply(type, file);
+    auto *sheet = new QBuffer(job);
+    sheet->setData(WithSiteAddresses(file->readAll()));
+    return job->reply(type, sheet);
+  }
   if (IsInside(address)) return job->fail(QWebEngineUrlRequestJob::UrlNotFound);
   Q_EMIT Refused(FileOf(address));
   job->fail(QWebEngineUrlRequestJob::RequestDenied);

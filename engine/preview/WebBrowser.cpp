@@ -68,6 +68,11 @@ const QString FileLinks = QStringLiteral(R"(
       element.setAttribute(name, own(element.getAttribute(name)));
     }
   }
+  for (const sheet of document.querySelectorAll('style')) {
+    const rules = sheet.textContent.replace(/(url\(\s*["']?|@import\s+["'])(file:\/\/[^\s"'()]*)/gi,
+      (all, before, link) => before + own(link));
+    if (rules !== sheet.textContent) sheet.textContent = rules;
+  }
   for (const name of ['style', 'srcset']) {
     for (const element of document.querySelectorAll(`[${name}*="file:" i]`)) {
       element.setAttribute(name, inText(element.getAttribute(name)));

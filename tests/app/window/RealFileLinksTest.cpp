@@ -63,6 +63,30 @@ TEST_F(RealFileLinks, WhatLiesInTheSiteShowsInThePreviewByItsFullAddress) {
   EXPECT_TRUE(Becomes(preview, "document.title", "other"));
 }
 
+TEST_F(RealFileLinks, WhatRulesOfStyleSheetsNameByFullAddressesShowsInThePreview) {
+  Write(QStringLiteral("a.svg"), Picture);
+  Write(QStringLiteral("more.css"), "p { text-indent: 7px }");
+  const QByteArray site = "file://" + folder.FilePath({}).toUtf8() + '/';
+  Write(QStringLiteral("rules.css"), "/* \xE9 */ @import url(" + site +
+                                         "more.css);\ndiv { background: url( '" + site +
+                                         "a.svg') }\nb::after { content: \"file:///b\" }");
+  frmMain &page = Open(QStringLiteral("page.htm"),
+                       "<link rel=stylesheet href=rules.css><style>h1 { background: URL(\"" + site +
+                           "a.svg\") }</style><h1>head</h1><div>two</div><p>one</p><b>bold</b>");
+  QWidget &preview = Preview(page);
+  EXPECT_TRUE(Becomes(preview,
+                      "document.querySelector('p') ? getComputedStyle("
+                      "document.querySelector('p')).textIndent : ''",
+                      "7px"));
+  EXPECT_TRUE(Becomes(preview,
+                      "String(['h1', 'div'].map((name) => getComputedStyle("
+                      "document.querySelector(name)).backgroundImage).every((value) => "
+                      "value.startsWith('url(\"velor-site:') && value.endsWith('a.svg\")')))",
+                      "true"));
+  EXPECT_TRUE(Becomes(preview, "getComputedStyle(document.querySelector('b'), '::after').content",
+                      "\"file:///b\""));
+}
+
 TEST_F(RealFileLinks, InAnotherFolderListsOfPicturesAndStylesLeadWhereTheyLed) {
   Write(QStringLiteral("a.svg"), Picture);
   QDir().mkpath(folder.FilePath(QStringLiteral("sub")));
