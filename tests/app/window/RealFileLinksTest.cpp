@@ -87,6 +87,33 @@ TEST_F(RealFileLinks, WhatRulesOfStyleSheetsNameByFullAddressesShowsInThePreview
                       "\"file:///b\""));
 }
 
+TEST_F(RealFileLinks, ASaveAsThatFailsAfterLinksWereAdaptedLeavesPageLinksAndUndoAsBefore) {
+  Write(QStringLiteral("a.svg"), Picture);
+  const QByteArray source = "<p>one</p><img src=a.svg>";
+  frmMain &page = Open(QStringLiteral("page.htm"), source);
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("X"));
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("oXne")); }));
+  dialogs.ExpectChoice(
+      QStringLiteral("From the new folder 0 links and 1 pictures of this page would lead nowhere."),
+      QStringLiteral("Adapt"));
+  dialogs.ExpectMessage(QStringLiteral("File saving error: 76"));
+  SharedDialog().ExpectSave(Logic(QStringLiteral("none/page.htm")));
+  Choose("mnuSaveAs");
+  EXPECT_TRUE(Holds(page, QStringLiteral("<p>oXne</p><img src=\"a.svg\">"))) << Seen(page);
+  EXPECT_TRUE(Becomes(page, PictureWidth, "23"));
+  EXPECT_EQ(page.GetPageRecord().Path, Logic(QStringLiteral("page.htm")));
+  EXPECT_TRUE(page.Journal().HasChanges());
+  Choose("mnuUndo");
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("<p>one</p>")); })) << Seen(page);
+  EXPECT_TRUE(Holds(page, QStringLiteral("<img src=\"a.svg\">"))) << Seen(page);
+  Choose("mnuRedo");
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("<p>oXne</p>")); })) << Seen(page);
+  EXPECT_TRUE(Becomes(page, PictureWidth, "23"));
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")), "<p>oXne</p><img src=a.svg>");
+}
+
 TEST_F(RealFileLinks, InAnotherFolderListsOfPicturesAndStylesLeadWhereTheyLed) {
   Write(QStringLiteral("a.svg"), Picture);
   QDir().mkpath(folder.FilePath(QStringLiteral("sub")));
