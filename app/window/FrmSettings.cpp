@@ -41,6 +41,7 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
   AddMenuStyle(menus);
   for (const ColorSetting &setting : ColorSettings) AddColor(menus, setting);
   QFormLayout *program = AddFrame(window, QStringLiteral("From the next start on"));
+  AddTruth(program, "WholeTemplateSigns", "True", QStringLiteral("&Keep template signs whole"));
   QCheckBox *publishedOnly =
       AddTruth(program, "PublishedOnly", "False",
                QStringLiteral("&Published behaviour only, without the menu Tools"));

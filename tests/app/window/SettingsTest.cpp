@@ -39,9 +39,10 @@ class SettingsTest : public WindowFixture {
   }
 };
 
-constexpr const char *Names[] = {"ShowDetails",  "SnapToGrid",     "showtoolbox",  "WrapSource",
-                                 "MenuStyle",    "MenuBackground", "mnuFore",      "mnuBorder",
-                                 "mnuHighlight", "mnuHighFore",    "PublishedOnly"};
+constexpr const char *Names[] = {"ShowDetails", "SnapToGrid",         "showtoolbox",
+                                 "WrapSource",  "MenuStyle",          "MenuBackground",
+                                 "mnuFore",     "mnuBorder",          "mnuHighlight",
+                                 "mnuHighFore", "WholeTemplateSigns", "PublishedOnly"};
 
 TEST_F(SettingsTest, ShowsEachPreferenceByItsDefaultAndStoresNothingThatWasNotChanged) {
   Use("cmdOK", [](QWidget &settings) {
@@ -49,6 +50,7 @@ TEST_F(SettingsTest, ShowsEachPreferenceByItsDefaultAndStoresNothingThatWasNotCh
     EXPECT_TRUE(In<QCheckBox>(settings, "SnapToGrid").isChecked());
     EXPECT_TRUE(In<QCheckBox>(settings, "showtoolbox").isChecked());
     EXPECT_TRUE(In<QCheckBox>(settings, "WrapSource").isChecked());
+    EXPECT_TRUE(In<QCheckBox>(settings, "WholeTemplateSigns").isChecked());
     EXPECT_FALSE(In<QCheckBox>(settings, "PublishedOnly").isChecked());
     EXPECT_EQ(In<QComboBox>(settings, "MenuStyle").currentText(), QStringLiteral("Clear XP Style"));
     EXPECT_FALSE(In<QLineEdit>(settings, "MenuBackground").isEnabled());
@@ -61,11 +63,13 @@ TEST_F(SettingsTest, ShowsEachPreferenceByItsDefaultAndStoresNothingThatWasNotCh
 TEST_F(SettingsTest, StoresWhatWasChangedAsText) {
   Use("cmdOK", [](QWidget &settings) {
     In<QCheckBox>(settings, "ShowDetails").click();
+    In<QCheckBox>(settings, "WholeTemplateSigns").click();
     In<QCheckBox>(settings, "PublishedOnly").click();
     In<QComboBox>(settings, "MenuStyle").setCurrentIndex(1);
     In<ColorPicker>(settings, "mnuFore").SetColor(255);
   });
   EXPECT_EQ(Stored("ShowDetails"), QStringLiteral("True"));
+  EXPECT_EQ(Stored("WholeTemplateSigns"), QStringLiteral("False"));
   EXPECT_EQ(Stored("PublishedOnly"), QStringLiteral("True"));
   EXPECT_EQ(Stored("MenuStyle"), QStringLiteral("1"));
   EXPECT_EQ(Stored("mnuFore"), QStringLiteral("255"));
