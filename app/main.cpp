@@ -50,6 +50,8 @@ int main(int argc, char **argv) {
     return 0;
   }
   StyleApplication(application);
+  // By this name the desktop knows whose windows they are.
+  QGuiApplication::setDesktopFileName(QStringLiteral("com.velor.WebCreator"));
   const auto driveMapError = UseDriveMapFile(DriveMapFile());
   RealPlatform real(argc, argv);
   EventBoundary boundary(real.dialogs, real.runtime);
