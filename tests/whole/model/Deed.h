@@ -17,6 +17,7 @@ struct Deed {
     Drop,    ///< two or three files at once
     Switch,  ///< to another page's tab
     Type,    ///< a word at the page's start
+    Undo,
     Save,
     SaveAs,
     ViewHtml,
@@ -31,7 +32,8 @@ struct Deed {
     DiskHasRoom,
     MakeReadOnly,
     MakeWritable,
-    ChangeOutside,  ///< another program writes a file that no page shows
+    ChangeOutside,  ///< another program writes a file, one of an open page too
+    TakeTheirs,     ///< the file's version in the place of a page with changes
     Exit,
     Kill,
   };

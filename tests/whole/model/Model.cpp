@@ -73,6 +73,12 @@ bool IsWritable(const QString &path) {
   return (QFile::permissions(path) & QFile::WriteOwner) != 0;
 }
 
+/// A save applies the source in front first.
+bool MayApply(Kind kind) {
+  return kind == Kind::Apply || kind == Kind::CloseSource || kind == Kind::Save ||
+         kind == Kind::SaveAs;
+}
+
 bool MayTouchAFile(Kind kind) {
   return kind == Kind::Save || kind == Kind::SaveAs || kind == Kind::Close;
 }
@@ -153,7 +159,8 @@ QJsonObject Model::InJson(const Deed &deed) {
       {Kind::Apply, "apply"},      {Kind::CloseSource, "closesource"},
       {Kind::Close, "close"},      {Kind::DiskFull, "full"},
       {Kind::DiskHasRoom, "room"}, {Kind::Exit, "exit"},
-      {Kind::Kill, "room"}};
+      {Kind::Kill, "room"},        {Kind::Undo, "undo"},
+      {Kind::TakeTheirs, "theirs"}};
   constexpr std::array answers = {"yes", "no", "cancel"};
   QJsonObject sent{{QStringLiteral("do"), QString::fromLatin1(names.value(deed.kind))},
                    {QStringLiteral("answer"),
@@ -188,13 +195,7 @@ QString Model::Act(const Deed &deed) {
                                           : QFile::ReadOwner);
       return {};
     case Kind::ChangeOutside:
-      if (!IsOpen(chosen) && IsWritable(chosen)) {
-        QFile file(chosen);
-        if (file.open(QIODevice::Append)) file.write("<!-- by another program -->");
-        file.close();
-        files_ = Disk();
-      }
-      return {};
+      return IsWritable(chosen) ? ChangeOutside(deed, chosen) : QString();
     default:
       break;
   }
@@ -214,10 +215,55 @@ QString Model::Act(const Deed &deed) {
   return Check(deed, sent, *seen);
 }
 
+QString Model::ChangeOutside(const Deed &deed, const QString &path) {
+  QFile file(path);
+  if (file.open(QIODevice::Append)) file.write("<!-- by another program -->");
+  file.close();
+  files_[path] = Disk().value(path);
+  const QJsonObject sent{{QStringLiteral("do"), QStringLiteral("changed")},
+                         {QStringLiteral("path"), path}};
+  const auto seen = life_->Do(sent);
+  if (!seen) return QStringLiteral("the program has ended");
+  for (Page &page : pages_) {
+    if (page.path != path) continue;
+    page.isAskedAbout = page.IsChanged() || !page.typed.isEmpty();
+    if (!page.isAskedAbout) Load(page, files_[path]);
+  }
+  return Check(deed, sent, *seen);
+}
+
+void Model::Load(Page &page, const Content &content) {
+  page.earlier.push_back(page.shown);
+  page.undone += page.shown.words - content.words;
+  page.shown = content;
+  page.saved = content.words;
+  page.savedRest = content.rest;
+  page.isSourceStale = true;
+  page.isAskedAbout = page.isUnsaved = page.mayAsk = false;
+}
+
+void Model::Undo(Page &page) {
+  if (page.earlier.empty()) return;
+  const Content before = page.earlier.back();
+  page.earlier.pop_back();
+  page.undone += page.shown.words - before.words;
+  page.shown.words = before.words;
+  // A page that has had no file has no bytes yet.
+  if (before.rest.isEmpty() || before.rest == page.shown.rest) return;
+  page.shown.rest = before.rest;
+  page.isSourceStale = true;
+}
+
+void Model::Keep(const Page &page) {
+  kept_ += page.shown.words - page.saved;
+  kept_ += page.typed;
+  if (!keptRests_.contains(page.path, page.shown.rest))
+    keptRests_.insert(page.path, page.shown.rest);
+}
+
 QString Model::StartAnew() {
   for (const Page &page : std::as_const(pages_)) {
-    if (page.IsChanged()) kept_ += page.shown.words - page.saved;
-    kept_ += page.typed;
+    if (page.IsChanged() || !page.typed.isEmpty()) Keep(page);
   }
   pages_.clear();
   active_ = 0;
@@ -244,6 +290,7 @@ QString Model::StartAnew() {
   if (isAllBack && !missing.isEmpty())
     return Sentence("lost since the run before: ", Listed(missing));
   kept_ = missing;
+  if (isAllBack) keptRests_.clear();
   const QJsonObject nothing;
   return CheckFiles({Kind::Design}, nothing);
 }
@@ -257,10 +304,16 @@ QString Model::TakeRestored(const QJsonObject &seen, Words &missing) {
     page.path = told[QStringLiteral("path")].toString();
     page.shown.words = WordsIn(told[QStringLiteral("text")].toString());
     page.source = WordsIn(told[QStringLiteral("source")].toString());
+    page.hasSource = told.contains(QStringLiteral("source"));
     page.typed = page.source - page.shown.words;
+    page.isUnsaved = true;
     if (files_.contains(page.path)) {
       page.saved = files_[page.path].words;
-      page.shown.rest = files_[page.path].rest;
+      page.savedRest = files_[page.path].rest;
+      // The bytes that it came from: its file may have changed since. Where pages of two lives of
+      // that file are offered, it is one of theirs.
+      const QByteArrayList rests = keptRests_.values(page.path);
+      page.shown.rest = rests.size() == 1 ? rests.front() : QByteArray();
       page.readOnly = !IsWritable(page.path);
     }
     missing -= page.shown.words + page.typed;
@@ -278,9 +331,19 @@ QString Model::Check(const Deed &deed, const QJsonObject &sent, const QJsonObjec
   for (const QJsonValue &message : seen[QStringLiteral("messages")].toArray())
     if (message.toString().startsWith(QStringLiteral("File saving error")) && !mayFail)
       return message.toString();
+  const int number = active_;
+  const Content before = active != nullptr ? active->shown : Content();
   const QString wrong = CheckFiles(deed, sent);
   if (!wrong.isEmpty()) return wrong;
-  return CheckPages(deed, sent, seen);
+  const QString wrongPage = CheckPages(deed, sent, seen);
+  const auto page = pages_.find(number);
+  if (page == pages_.end()) return wrongPage;
+  const bool isStep = deed.kind == Kind::Type || MayApply(deed.kind) || deed.kind == Kind::Close;
+  // A first save gives a page bytes and leaves it as it is.
+  const bool isOther = page->shown.words != before.words ||
+                       (!before.rest.isEmpty() && page->shown.rest != before.rest);
+  if (isStep && isOther) page->earlier.push_back(before);
+  return wrongPage;
 }
 
 QString Model::CheckFiles(const Deed &deed, const QJsonObject &sent) {
@@ -291,6 +354,7 @@ QString Model::CheckFiles(const Deed &deed, const QJsonObject &sent) {
     if (!active->path.isEmpty() && deed.kind != Kind::SaveAs) targets.append(active->path);
   }
   const QMap<QString, Content> disk = Disk();
+  if (!targets.isEmpty() && isFull_) active->mayAsk = true;
   for (auto [path, content] : files_.asKeyValueRange()) {
     if (!disk.contains(path)) return Sentence(Name(path), " is gone");
     if (disk[path] != content && !targets.contains(path))
@@ -304,10 +368,13 @@ QString Model::CheckFiles(const Deed &deed, const QJsonObject &sent) {
       const bool isSource = !active->typed.isEmpty() && content.words == active->source;
       if (content.words != active->shown.words && content.words != all && !isSource)
         return Sentence(Name(path), " was saved without some words");
-      if (!active->shown.rest.isEmpty() && content.rest != active->shown.rest)
+      const bool isStale = active->isSourceStale && !active->typed.isEmpty();
+      if (!isStale && !active->shown.rest.isEmpty() && content.rest != active->shown.rest)
         return Sentence(Name(path), " was saved with other bytes: ", content.rest.toStdString(),
                         " in place of ", active->shown.rest.toStdString());
       active->shown = content;
+      active->savedRest = content.rest;
+      active->isAskedAbout = active->isUnsaved = active->mayAsk = false;
       active->typed -= content.words;
       active->saved = content.words;
       active->path = path;
@@ -339,7 +406,7 @@ QString Model::CheckPages(const Deed &deed, const QJsonObject &sent, const QJson
     const QString wrong = CheckGone(deed, page, seen);
     if (!wrong.isEmpty()) return wrong;
   }
-  for (auto [number, page] : told.asKeyValueRange()) {
+  for (auto [number, page] : std::as_const(told).asKeyValueRange()) {
     const Words words = WordsIn(page[QStringLiteral("text")].toString());
     const QString path = page[QStringLiteral("path")].toString();
     if (page[QStringLiteral("active")].toBool()) active_ = number;
@@ -349,28 +416,50 @@ QString Model::CheckPages(const Deed &deed, const QJsonObject &sent, const QJson
       if (!path.isEmpty() && IsOpen(path)) return Sentence(Name(path), " is open twice");
       const Content file = files_.value(path);
       if (words != file.words) return Sentence(Name(path), " is shown with other words");
-      pages_.insert(number, {path, file, file.words, {}, {}, !path.isEmpty() && !IsWritable(path)});
+      Page opened;
+      opened.path = path;
+      opened.shown = file;
+      opened.saved = file.words;
+      opened.savedRest = file.rest;
+      opened.readOnly = !path.isEmpty() && !IsWritable(path);
+      pages_.insert(number, opened);
       continue;
     }
     Page &known = pages_[number];
     if (deed.kind == Kind::Type && number == wasActive)
       known.shown.words.insert(sent[QStringLiteral("text")].toString());
+    if (deed.kind == Kind::Undo && number == wasActive) {
+      if (known.isHistoryKnown)
+        Undo(known);
+      else
+        known.shown = {{}, words};
+    }
+    const bool isTaken = deed.kind == Kind::TakeTheirs && !seen.contains(QStringLiteral("error"));
+    if (isTaken && number == wasActive && known.isAskedAbout) Load(known, files_.value(known.path));
     // What is applied takes the page's place, words that the source has not got included.
-    const bool mayApply = deed.kind == Kind::Apply || deed.kind == Kind::CloseSource;
+    const bool mayApply = MayApply(deed.kind);
     if (mayApply && number == wasActive && words == known.source) known.shown.words = words;
     // Source that was applied, by its button or on the way to a save or an end of the editor.
     if (number == wasActive && words == known.shown.words + known.typed) {
       known.shown.words = words;
       known.typed.clear();
     }
+    const bool mayBeStale = known.hasSource && known.isSourceStale &&
+                            (!MayTouchAFile(deed.kind) || !known.typed.isEmpty());
+    if (mayApply && number == wasActive && mayBeStale && words == known.source) {
+      known.shown.rest = known.savedRest = {};
+      known.isHistoryKnown = false;
+    }
+    if (deed.kind == Kind::EditHtml && number == wasActive) known.isSourceStale = false;
     if (words != known.shown.words)
       return Sentence("page ", std::to_string(number), " shows ", Listed(words), " in place of ",
                       Listed(known.shown.words));
-    const Words typed = WordsIn(page[QStringLiteral("source")].toString()) - words;
+    const Words typed = WordsIn(page[QStringLiteral("source")].toString()) - words - known.undone;
     const bool mayGo = deed.kind == Kind::EditHtml || deed.kind == Kind::CloseSource;
     if (!mayGo && !typed.contains(known.typed))
       return Sentence("typed source is gone: ", Listed(known.typed - typed));
     known.typed = typed;
+    known.hasSource = page.contains(QStringLiteral("source"));
     known.source = WordsIn(page[QStringLiteral("source")].toString());
     if (path != known.path)
       return Sentence("page ", std::to_string(number), " says it is ", Name(path), ", it is ",
@@ -387,13 +476,13 @@ QString Model::CheckPages(const Deed &deed, const QJsonObject &sent, const QJson
 QString Model::CheckGone(const Deed &deed, const Page &page, const QJsonObject &seen) {
   const bool wasAsked = !seen[QStringLiteral("messages")].toArray().isEmpty();
   if (!page.IsChanged()) {
-    return wasAsked && page.saved == page.shown.words && deed.answer == Deed::Answer::No
+    return wasAsked && !page.mayAsk && deed.answer == Deed::Answer::No
                ? QStringLiteral("a page without changes asked before it closed")
                : QString();
   }
   if (wasAsked && deed.answer == Deed::Answer::No) return {};
   // Whatever was not asked for, or could not be saved, comes back at the next start.
-  kept_ += page.shown.words - page.saved;
+  Keep(page);
   return {};
 }
 

@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <vector>
 
 namespace velor {
 
@@ -46,12 +47,21 @@ class Model {
   struct Page {
     QString path;  ///< native; empty while it has no file
     Content shown;
-    Words saved;   ///< the words that its file had when it was loaded or last saved
-    Words typed;   ///< in its source editor and not applied
-    Words source;  ///< all in its source editor
+    Words saved;             ///< the words that its file had when it was loaded or last saved
+    Words typed;             ///< in its source editor and not applied
+    Words source;            ///< all in its source editor
+    bool hasSource = false;  ///< its source editor is open
+    Words undone;            ///< taken from it by Undo or by what another program wrote
     bool readOnly = false;
+    QByteArray savedRest;          ///< of its file when it was loaded or last saved
+    std::vector<Content> earlier;  ///< what each Undo brings back, the last first
+    bool isSourceStale = false;  ///< its source editor was filled before the page got another rest
+    bool isHistoryKnown = true;  ///< such a source was not applied
+    bool isAskedAbout = false;   ///< its file was changed while it had changes
+    bool isUnsaved = false;      ///< restored and not saved since, whatever it holds
+    bool mayAsk = false;         ///< a save failed: what it holds then counts as saved at closing
 
-    bool IsChanged() const { return shown.words != saved; }
+    bool IsChanged() const { return isUnsaved || shown.words != saved || shown.rest != savedRest; }
   };
 
   QString Path(const QString &name) const { return folder_.filePath(name); }
@@ -60,6 +70,12 @@ class Model {
 
   QJsonObject InJson(const Deed &deed);
   QString Act(const Deed &deed);
+  /// Another program writes to a file.
+  QString ChangeOutside(const Deed &deed, const QString &path);
+  static void Undo(Page &page);
+  static void Load(Page &page, const Content &content);
+  /// The page is gone, and what it holds must be offered at the next start.
+  void Keep(const Page &page);
   QString StartAnew();
   /// Compares what is seen, and takes over what the deed may have changed.
   QString Check(const Deed &deed, const QJsonObject &sent, const QJsonObject &seen);
@@ -79,6 +95,7 @@ class Model {
   QMap<int, Page> pages_;         ///< by number
   int active_ = 0;
   Words kept_;  ///< of pages that are gone and must be offered at the next start
+  QMultiMap<QString, QByteArray> keptRests_;  ///< of these pages, by path
   bool isFull_ = false;
   int words_ = 0;
 };

@@ -4,6 +4,7 @@
 // `paths`, `text`, `answer` and `page` say more. Each is answered by one line, an object that tells
 // what a person would see then (Tell). The program is meant to be killed between two lines.
 #include "app/window/MfrmProgram.h"
+#include "editor/OutsideChanges.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
@@ -21,6 +22,7 @@
 #include "recovery/JournalFiles.h"
 #include "tests/support/FakeBrowser.h"
 #include "tests/support/FakeEditingComponent.h"
+#include "tests/support/FakeFileWatches.h"
 #include "tests/support/FakeSourceControl.h"
 #include "tests/support/FaultyCalls.h"
 
@@ -85,7 +87,7 @@ class AnsweringFileDialog final : public FileDialog {
   const QString &chosen_;
 };
 
-enum class Engine { Fake, Real };
+enum class Engine { StandIn, Real };
 
 class ModelComponents final : public Components {
  public:
@@ -150,7 +152,11 @@ class Subject {
     if (what == QStringLiteral("room")) calls_.Fail(FaultyCalls::Call::Write, ENOSPC, 1 << 30);
     if (what == QStringLiteral("restore")) RestoreFirst();
     if (what == QStringLiteral("exit")) window_.close();
+    if (what == QStringLiteral("changed")) watches_.Change(ToLogic(path));
     if (page == nullptr) return;
+    if (what == QStringLiteral("undo")) Undo(*page);
+    if (what == QStringLiteral("theirs") && !page->Outside().isHidden())
+      page->Outside().findChild<QPushButton *>(QStringLiteral("cmdTakeTheirs"))->click();
     if (what == QStringLiteral("type")) Type(*page, text);
     if (what == QStringLiteral("view")) page->ChangeMode(2);
     if (what == QStringLiteral("design")) page->ChangeMode(1);
@@ -252,7 +258,7 @@ class Subject {
   }
   /// At the start of the page's first paragraph.
   void Type(frmMain &page, const QString &word) {
-    if (engine_ == Engine::Fake) {
+    if (engine_ == Engine::StandIn) {
       auto &component = static_cast<FakeEditingComponent &>(page.DHTML1());
       QString text = component.Memory().document;
       const qsizetype body = text.indexOf(QStringLiteral("<p"), 0, Qt::CaseInsensitive);
@@ -267,6 +273,13 @@ class Subject {
     QTest::keyClick(input, Qt::Key_Home, Qt::ControlModifier);
     QTest::keyClicks(input, word);
     (void)QTest::qWaitFor([&] { return page.DHTML1().Memory().document.contains(word); }, Patience);
+  }
+  /// In design view: a shown source takes nothing back.
+  void Undo(frmMain &page) {
+    page.ChangeMode(1);
+    Choose("mnuUndo");
+    // Reading waits for the command.
+    (void)page.DHTML1().DocumentHTML();
   }
   void TypeSource(frmMain &page, const QString &word) {
     frmCodeEditor *editor = Editor(page);
@@ -306,8 +319,9 @@ class Subject {
   ModelComponents components_;
   JournalFiles journals_{calls_};
   ReplacedFiles replaced_{calls_};
-  Platform platform_{files_,      runtime_, dialogs_,   registry_,
-                     components_, nullptr,  &journals_, &replaced_};
+  FakeFileWatches watches_;
+  Platform platform_{files_,  runtime_,   dialogs_,   registry_, components_,
+                     nullptr, &journals_, &replaced_, nullptr,   &watches_};
   ProgramValues values_;
   MfrmProgram window_{platform_, values_};
 };
@@ -325,7 +339,7 @@ int main(int argc, char **argv) {
   RegisterSchemes();
   QApplication application(argc, argv);
   const bool isReal = QApplication::arguments().value(1) == QStringLiteral("real");
-  Subject subject(isReal ? Engine::Real : Engine::Fake);
+  Subject subject(isReal ? Engine::Real : Engine::StandIn);
   subject.Settle();
   Answer(subject.Tell());
   for (std::string line; !subject.HasEnded() && std::getline(std::cin, line);) {

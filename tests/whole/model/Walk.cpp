@@ -23,6 +23,7 @@ constexpr std::array Habits = {
     Habit{Kind::Drop, "Drop", 5},
     Habit{Kind::Switch, "Switch", 12},
     Habit{Kind::Type, "Type", 24},
+    Habit{Kind::Undo, "Undo", 7},
     Habit{Kind::Save, "Save", 16},
     Habit{Kind::SaveAs, "SaveAs", 4},
     Habit{Kind::ViewHtml, "ViewHtml", 3},
@@ -37,7 +38,8 @@ constexpr std::array Habits = {
     Habit{Kind::DiskHasRoom, "DiskHasRoom", 3},
     Habit{Kind::MakeReadOnly, "MakeReadOnly", 1},
     Habit{Kind::MakeWritable, "MakeWritable", 1},
-    Habit{Kind::ChangeOutside, "ChangeOutside", 1},
+    Habit{Kind::ChangeOutside, "ChangeOutside", 4},
+    Habit{Kind::TakeTheirs, "TakeTheirs", 2},
     Habit{Kind::Exit, "Exit", 1},
     Habit{Kind::Kill, "Kill", 1},
 };
