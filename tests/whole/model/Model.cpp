@@ -206,6 +206,8 @@ QString Model::Act(const Deed &deed) {
   if (!seen) {
     if (deed.kind != Kind::Exit) return QStringLiteral("the program has ended");
     if (!life_->EndedWell()) return QStringLiteral("the exit failed");
+    // Asked where nothing could be kept, the person let it end all the same.
+    if (isFull_ && deed.answer == Deed::Answer::Yes) pages_.clear();
     return StartAnew();
   }
   if (deed.kind == Kind::Kill) {
