@@ -244,6 +244,15 @@ void Model::Load(Page &page, const Content &content) {
   page.isAskedAbout = page.isUnsaved = page.mayAsk = false;
 }
 
+void Model::Type(Page &page, const QString &word) const {
+  page.shown.words.insert(word);
+  // What stands in a new page for its first word goes with it. The fake engine types beside it.
+  QByteArray rest = page.shown.rest;
+  if (engine_ == QStringLiteral("real")) rest.replace("<P>&nbsp;</P>", "<P></P>");
+  if (rest != page.shown.rest) page.isSourceStale = true;
+  page.shown.rest = rest;
+}
+
 void Model::Undo(Page &page) {
   if (page.earlier.empty()) return;
   const Content before = page.earlier.back();
@@ -429,7 +438,7 @@ QString Model::CheckPages(const Deed &deed, const QJsonObject &sent, const QJson
     }
     Page &known = pages_[number];
     if (deed.kind == Kind::Type && number == wasActive)
-      known.shown.words.insert(sent[QStringLiteral("text")].toString());
+      Type(known, sent[QStringLiteral("text")].toString());
     if (deed.kind == Kind::Undo && number == wasActive) {
       if (known.isHistoryKnown)
         Undo(known);

@@ -72,6 +72,7 @@ class Model {
   QString Act(const Deed &deed);
   /// Another program writes to a file.
   QString ChangeOutside(const Deed &deed, const QString &path);
+  void Type(Page &page, const QString &word) const;
   static void Undo(Page &page);
   static void Load(Page &page, const Content &content);
   /// The page is gone, and what it holds must be offered at the next start.
