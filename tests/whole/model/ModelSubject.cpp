@@ -11,6 +11,7 @@
 #include "engine/PageScheme.h"
 #include "files/QtFiles.h"
 #include "files/ReplacedFiles.h"
+#include "files/TemporaryCopyFiles.h"
 #include "platform/Dialogs.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
@@ -127,6 +128,7 @@ class Subject {
   explicit Subject(Engine engine)
       : engine_(engine), components_(files_, runtime_.ProgramFolder(), engine) {
     QObject::connect(&window_, &MfrmProgram::Unloaded, [this] { hasEnded_ = true; });
+    copies_.RemoveAbandoned();
     window_.Load();
   }
 
@@ -319,9 +321,10 @@ class Subject {
   ModelComponents components_;
   JournalFiles journals_{calls_};
   ReplacedFiles replaced_{calls_};
+  TemporaryCopyFiles copies_{calls_};
   FakeFileWatches watches_;
   Platform platform_{files_,  runtime_,   dialogs_,   registry_, components_,
-                     nullptr, &journals_, &replaced_, nullptr,   &watches_};
+                     nullptr, &journals_, &replaced_, &copies_,  &watches_};
   ProgramValues values_;
   MfrmProgram window_{platform_, values_};
 };
