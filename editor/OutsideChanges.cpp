@@ -30,7 +30,7 @@ namespace {
 using namespace std::chrono_literals;
 
 /// While the engine is waited for, or the page is being made, the file is looked at later.
-constexpr std::chrono::milliseconds retryDelay = 100ms;
+constexpr std::chrono::milliseconds RetryDelay = 100ms;
 
 }  // namespace
 
@@ -94,7 +94,7 @@ void OutsideChanges::WatchFile(const QString &path) {
 void OutsideChanges::CheckFile() {
   if (page_.Tag == QStringLiteral("kill")) return;
   if (page_.Ready != QStringLiteral("True") || page_.DHTML1().IsWaiting())
-    return retry_.start(retryDelay);
+    return retry_.start(RetryDelay);
   if (!context_.platform.files.FileExists(path_)) return ReportRemoval();
   isThere_ = true;
   try {

@@ -300,7 +300,7 @@ TEST_F(JetCatalogue, KnowsTheTypesOfItsColumns) {
   Make({{table}});
   Open();
   const auto records = connection_->CreateRecordset();
-  records->Open(U("Select * from \"Odd \"\"name\"\"\""), *connection_, CursorType::Static,
+  records->Open(U(R"(Select * from "Odd ""name""")"), *connection_, CursorType::Static,
                 LockType::ReadOnly, -1);
   for (int i = 0; i < static_cast<int>(std::size(types)); ++i) {
     EXPECT_EQ(records->TypeAt(i), types[i].expected) << i;

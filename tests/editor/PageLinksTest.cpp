@@ -14,8 +14,8 @@ class PageLinks : public ::testing::Test {
  protected:
   PageLinks() {
     for (const char *file :
-         {"\\site\\picture1.png", "\\site\\sub\\a b.png", "\\site\\sub\\find.htm",
-          "\\site\\sub\\pics\\c.png", "\\site\\news\\index.htm", "\\site\\sub\\style.css"})
+         {"\\site\\picture1.png", R"(\site\sub\a b.png)", R"(\site\sub\find.htm)",
+          R"(\site\sub\pics\c.png)", R"(\site\news\index.htm)", R"(\site\sub\style.css)"})
       files_.AddFile(QString::fromLatin1(file), file);
   }
 

@@ -160,7 +160,7 @@ TEST_F(PreviewTest, ThePanelsKeepTheirPlacesWhateverTheySay) {
   Open(IndexFile);
   Page(1).ChangeMode(4);
   context.preview->resize(400, 300);
-  QLabel *progress = context.preview->findChild<QLabel *>(QStringLiteral("Sta_2"));
+  auto *progress = context.preview->findChild<QLabel *>(QStringLiteral("Sta_2"));
   PreviewBrowser().listener->ProgressChanged(0, 100);
   QCoreApplication::sendPostedEvents();
   const QRect before = progress->geometry();

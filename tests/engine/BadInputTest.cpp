@@ -16,8 +16,8 @@ namespace velor {
 
 namespace {
 
-const QByteArray pageBytes("<html><head></head><body><p>kept</p></body></html>");
-const QByteArray editedBytes("<html><head></head><body><p><b>new</b>kept</p></body></html>");
+const QByteArray OriginalBytes("<html><head></head><body><p>kept</p></body></html>");
+const QByteArray EditedBytes("<html><head></head><body><p><b>new</b>kept</p></body></html>");
 
 /// The real files, with an obstacle (another user, a size limit) in place during each call. The
 /// engine is not affected: pages are read before they are shown, and composed before they are
@@ -54,7 +54,7 @@ class BadInput : public WebEditorTest {
     editor->LoadDocument(path);
     return editor;
   }
-  QString WritePage(const QByteArray &content = pageBytes) const {
+  QString WritePage(const QByteArray &content = OriginalBytes) const {
     return Write(QStringLiteral("page.htm"), content);
   }
   QByteArray PageBytes() const { return Bytes(QStringLiteral("page.htm")); }
@@ -99,10 +99,10 @@ TEST_P(UnreadableFiles, AreAnErrorThatLeavesThePage) {
         name.section(QRegularExpression(QStringLiteral("[/\\\\]")), -1)))
         << error.what();
   }
-  EXPECT_EQ(editor_->DocumentHTML().toUtf8(), pageBytes);
+  EXPECT_EQ(editor_->DocumentHTML().toUtf8(), OriginalBytes);
   Edit(*editor_);
   editor_->SaveDocument(page);
-  EXPECT_EQ(PageBytes(), editedBytes);
+  EXPECT_EQ(PageBytes(), EditedBytes);
   EXPECT_EQ(listener_.completions, 1);
 }
 
@@ -126,12 +126,12 @@ TEST_F(BadInput, AFileThatTheUserMayNotReadIsAnError) {
   const QString secret = Write(QStringLiteral("secret.htm"), "<p>secret</p>");
   SetMode(QStringLiteral("secret.htm"), 0000);
   EXPECT_EQ(ErrorOf([&] { editor->LoadDocument(secret); }), ErrorNumber::PathFileAccess);
-  EXPECT_EQ(editor->DocumentHTML().toUtf8(), pageBytes);
+  EXPECT_EQ(editor->DocumentHTML().toUtf8(), OriginalBytes);
 }
 
 TEST_F(BadInput, AFullDiskLeavesTheFileWholeAndThePageToBeSavedElsewhere) {
   const QByteArray filling(5000, 'x');
-  const QByteArray old = QByteArray(pageBytes).replace("kept", filling);
+  const QByteArray old = QByteArray(OriginalBytes).replace("kept", filling);
   const QString page = WritePage(old);
   HinderedFiles<FileSizeLimit> files;
   const auto editor = EditorOn(files, page);
@@ -142,11 +142,11 @@ TEST_F(BadInput, AFullDiskLeavesTheFileWholeAndThePageToBeSavedElsewhere) {
   EXPECT_EQ(PageBytes(), old);
   EXPECT_EQ(Names(), QStringList(QStringLiteral("page.htm")));
   files_.ReplaceAll(page, editor->TextToSave().toUtf8());
-  EXPECT_EQ(PageBytes(), QByteArray(editedBytes).replace("kept", filling));
+  EXPECT_EQ(PageBytes(), QByteArray(EditedBytes).replace("kept", filling));
 }
 
 TEST_F(BadInput, AFullDiskLeavesAFileWithASecondNameWhole) {
-  const QByteArray old = QByteArray(pageBytes).replace("kept", QByteArray(5000, 'x'));
+  const QByteArray old = QByteArray(OriginalBytes).replace("kept", QByteArray(5000, 'x'));
   const QString page = WritePage(old);
   ASSERT_EQ(link(QFile::encodeName(Native(QStringLiteral("page.htm"))).constData(),
                  QFile::encodeName(Native(QStringLiteral("second.htm"))).constData()),
@@ -168,9 +168,9 @@ TEST_F(BadInput, AReadOnlyFolderTakesNoNewPageButThePagesInIt) {
   Edit(*editor);
   EXPECT_EQ(ErrorOf([&] { editor->SaveDocument(Logic(QStringLiteral("new.htm"))); }),
             ErrorNumber::PathFileAccess);
-  EXPECT_EQ(PageBytes(), pageBytes);
+  EXPECT_EQ(PageBytes(), OriginalBytes);
   editor->SaveDocument(page);
-  EXPECT_EQ(PageBytes(), editedBytes);
+  EXPECT_EQ(PageBytes(), EditedBytes);
   EXPECT_EQ(Names(), QStringList(QStringLiteral("page.htm")));
 }
 
@@ -180,7 +180,7 @@ TEST_F(BadInput, AReadOnlyFileIsShownAndNotReplaced) {
   editor_->LoadDocument(page);
   Edit(*editor_);
   EXPECT_EQ(ErrorOf([&] { editor_->SaveDocument(page); }), ErrorNumber::PathFileAccess);
-  EXPECT_EQ(PageBytes(), pageBytes);
+  EXPECT_EQ(PageBytes(), OriginalBytes);
   EXPECT_TRUE(DocumentHolds(QStringLiteral("<b>new</b>")));
 }
 
@@ -190,29 +190,29 @@ TEST_F(BadInput, OfTwoWindowsOnOneFileTheLastToSaveHasItWhole) {
   const auto second = EditorOn(files_, page);
   Edit(*editor_);
   editor_->SaveDocument(page);
-  EXPECT_EQ(second->DocumentHTML().toUtf8(), pageBytes);
-  EXPECT_EQ(PageBytes(), editedBytes);
+  EXPECT_EQ(second->DocumentHTML().toUtf8(), OriginalBytes);
+  EXPECT_EQ(PageBytes(), EditedBytes);
   second->SaveDocument(page);
-  EXPECT_EQ(PageBytes(), pageBytes);
-  EXPECT_EQ(editor_->DocumentHTML().toUtf8(), editedBytes);
+  EXPECT_EQ(PageBytes(), OriginalBytes);
+  EXPECT_EQ(editor_->DocumentHTML().toUtf8(), EditedBytes);
 }
 
 TEST_F(BadInput, AFileThatIsDeletedUnderThePageIsSavedAnew) {
   const QString page = WritePage();
   editor_->LoadDocument(page);
   files_.Delete(page);
-  EXPECT_EQ(editor_->DocumentHTML().toUtf8(), pageBytes);
+  EXPECT_EQ(editor_->DocumentHTML().toUtf8(), OriginalBytes);
   editor_->SaveDocument(page);
-  EXPECT_EQ(PageBytes(), pageBytes);
+  EXPECT_EQ(PageBytes(), OriginalBytes);
 }
 
 TEST_F(BadInput, AFolderThatIsDeletedUnderThePageIsAnErrorWhenSaving) {
   ASSERT_TRUE(QDir(folder_.path()).mkdir(QStringLiteral("site.old")));
-  const QString page = Write(QStringLiteral("site.old/page.htm"), pageBytes);
+  const QString page = Write(QStringLiteral("site.old/page.htm"), OriginalBytes);
   editor_->LoadDocument(page);
   ASSERT_TRUE(QDir(Native(QStringLiteral("site.old"))).removeRecursively());
   EXPECT_EQ(ErrorOf([&] { editor_->SaveDocument(page); }), ErrorNumber::PathNotFound);
-  EXPECT_EQ(editor_->DocumentHTML().toUtf8(), pageBytes);
+  EXPECT_EQ(editor_->DocumentHTML().toUtf8(), OriginalBytes);
 }
 
 TEST_F(BadInput, AnEditedPageOfAnUnknownCharsetKeepsItsOtherBytes) {

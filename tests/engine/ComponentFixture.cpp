@@ -33,8 +33,8 @@ class EngineEnvironment : public ::testing::Environment {
   std::unique_ptr<EditingEngine> engine_;
 };
 
-auto *const environment = new EngineEnvironment;
-[[maybe_unused]] const auto *const registered = ::testing::AddGlobalTestEnvironment(environment);
+auto *const Environment = new EngineEnvironment;
+[[maybe_unused]] const auto *const Registered = ::testing::AddGlobalTestEnvironment(Environment);
 
 }  // namespace
 
@@ -119,7 +119,7 @@ void WebEditorTest::LoadWithCaret(const QByteArray &html, const QString &selecto
 }
 
 EditingEngine &WebEditorTest::Engine() {
-  return environment->Engine();
+  return Environment->Engine();
 }
 
 void WebEditorTest::TypeText(const QString &text) const {

@@ -14,7 +14,7 @@ namespace velor {
 namespace {
 
 /// A page that an engine's serialisation leaves as it is.
-const QString plainPage = QStringLiteral(
+const QString PlainPage = QStringLiteral(
     "<html><head><title>A page</title></head><body><p>First</p><p>Second</p></body></html>");
 
 enum class Kind { Fake, Web };
@@ -38,8 +38,8 @@ class EditingContract : public WebEditorTest, public ::testing::WithParamInterfa
 };
 
 TEST_P(EditingContract, AnswersTheDocumentThatWasSet) {
-  Component().SetDocumentHTML(plainPage);
-  EXPECT_EQ(Component().DocumentHTML(), plainPage);
+  Component().SetDocumentHTML(PlainPage);
+  EXPECT_EQ(Component().DocumentHTML(), PlainPage);
 }
 
 TEST_P(EditingContract, AnswersTheDocumentOfALoadedFileWithLineFeeds) {
@@ -51,7 +51,7 @@ TEST_P(EditingContract, AnswersTheDocumentOfALoadedFileWithLineFeeds) {
 }
 
 TEST_P(EditingContract, TellsOfCompletionAfterTheCallHasReturned) {
-  Component().SetDocumentHTML(plainPage);
+  Component().SetDocumentHTML(PlainPage);
   EXPECT_EQ(listener_.completions, 0);
   ASSERT_TRUE(Completed());
   EXPECT_EQ(listener_.completions, 1);
@@ -60,13 +60,13 @@ TEST_P(EditingContract, TellsOfCompletionAfterTheCallHasReturned) {
 TEST_P(EditingContract, TheDocumentCanBeReadInTheCompletionNotice) {
   QString read;
   listener_.onComplete = [&] { read = Component().DocumentHTML(); };
-  Component().SetDocumentHTML(plainPage);
+  Component().SetDocumentHTML(PlainPage);
   ASSERT_TRUE(Completed());
-  EXPECT_EQ(read, plainPage);
+  EXPECT_EQ(read, PlainPage);
 }
 
 TEST_P(EditingContract, ASecondDocumentMayBeSetBeforeTheFirstIsComplete) {
-  Component().SetDocumentHTML(plainPage);
+  Component().SetDocumentHTML(PlainPage);
   Component().LoadDocument(
       Write(QStringLiteral("b.htm"), "<html><head></head><body><p>Other</p></body></html>"));
   ASSERT_TRUE(Completed());
@@ -103,7 +103,7 @@ TEST_P(EditingContract, SavesAnEditedPageInItsOwnLineEnds) {
 
 TEST_P(EditingContract, SavesABig5PageInBig5) {
   const QByteArray head(
-      "<html><head><meta http-equiv=\"Content-Type\" content=\"text/html; charset=big5\"></head>");
+      R"(<html><head><meta http-equiv="Content-Type" content="text/html; charset=big5"></head>)");
   Component().LoadDocument(
       Write(QStringLiteral("a.htm"), head + "<body><p>\xa4\xa4\xa4\xe5</p></body></html>"));
   EXPECT_EQ(Component().Charset(), QStringLiteral("big5"));
@@ -119,12 +119,12 @@ TEST_P(EditingContract, ADocumentThatWasSetHasTheCharsetItDeclares) {
   Component().SetDocumentHTML(
       QStringLiteral("<html><head><meta charset=\"shift_jis\"></head><body></body></html>"));
   EXPECT_EQ(Component().Charset(), QStringLiteral("shift_jis"));
-  Component().SetDocumentHTML(plainPage);
+  Component().SetDocumentHTML(PlainPage);
   EXPECT_EQ(Component().Charset(), QStringLiteral("utf-8"));
 }
 
 TEST_P(EditingContract, AMissingFileIsRaisedAndLeavesThePage) {
-  Component().SetDocumentHTML(plainPage);
+  Component().SetDocumentHTML(PlainPage);
   ASSERT_TRUE(Completed());
   try {
     Component().LoadDocument(Logic(QStringLiteral("missing.htm")));
@@ -132,11 +132,11 @@ TEST_P(EditingContract, AMissingFileIsRaisedAndLeavesThePage) {
   } catch (const RuntimeError &error) {
     EXPECT_EQ(error.Number(), ErrorNumber::FileNotFound);
   }
-  EXPECT_EQ(Component().DocumentHTML(), plainPage);
+  EXPECT_EQ(Component().DocumentHTML(), PlainPage);
 }
 
 TEST_P(EditingContract, AFileThatCannotBeWrittenIsRaised) {
-  Component().SetDocumentHTML(plainPage);
+  Component().SetDocumentHTML(PlainPage);
   try {
     Component().SaveDocument(Logic(QStringLiteral("no folder")) + QStringLiteral("\\a.htm"));
     FAIL() << "nothing was raised";
@@ -146,7 +146,7 @@ TEST_P(EditingContract, AFileThatCannotBeWrittenIsRaised) {
 }
 
 TEST_P(EditingContract, PastedMarkupIsInTheDocumentAtOnce) {
-  Component().SetDocumentHTML(plainPage);
+  Component().SetDocumentHTML(PlainPage);
   Component().Document().Selection().CreateRange()->PasteHTML(
       QStringLiteral("<img src=\"pictures/a.gif\" border=\"0\">"));
   EXPECT_TRUE(Component().DocumentHTML().contains(
@@ -158,12 +158,12 @@ TEST_P(EditingContract, ShowDetailsAndSnapToGridAreKeptAcrossDocuments) {
   EXPECT_FALSE(Component().SnapToGrid());
   Component().SetShowDetails(true);
   Component().SetSnapToGrid(true);
-  Component().SetDocumentHTML(plainPage);
+  Component().SetDocumentHTML(PlainPage);
   EXPECT_TRUE(Component().ShowDetails());
   EXPECT_TRUE(Component().SnapToGrid());
   Component().SetShowDetails(false);
   EXPECT_FALSE(Component().ShowDetails());
-  EXPECT_EQ(Component().DocumentHTML(), plainPage);
+  EXPECT_EQ(Component().DocumentHTML(), PlainPage);
 }
 
 TEST_P(EditingContract, TheToolTipIsTheWidgets) {
@@ -179,14 +179,14 @@ TEST_P(EditingContract, TheComponentMayGoBeforeItsWidgetsParentAndAfterIt) {
     return std::make_unique<WebEditor>(Engine(), files_, Logic(QString()), parent.get());
   };
   auto first = make();
-  first->SetDocumentHTML(plainPage);
+  first->SetDocumentHTML(PlainPage);
   auto second = make();
-  second->SetDocumentHTML(plainPage);
+  second->SetDocumentHTML(PlainPage);
   first.reset();
   EXPECT_EQ(parent->findChildren<QWidget *>(Qt::FindDirectChildrenOnly).size(), 1);
   parent.reset();
   EXPECT_EQ(second->Widget(), nullptr);
-  EXPECT_EQ(second->DocumentHTML(), plainPage);
+  EXPECT_EQ(second->DocumentHTML(), PlainPage);
   second->SetToolTip(QStringLiteral("nowhere"));
   second->SetFocus();
 }

@@ -99,8 +99,9 @@ TEST_F(HardPages, ChangeNothingOutsideTheElementAroundTheEdit) {
       "<DIV><P>one <FONT COLOR=red><I>two <P>three</I> four<P>five</FONT></DIV>",
       "<DIV><FORM><TABLE><FORM><TR><TD>one</FORM><TR><TD>two</TABLE></FORM>three</DIV>",
       "<DIV><UL><LI>one<LI><P>two<B>three<LI>four</B></UL></P>five<DL><DT>six<DD>seven</DL></DIV>",
-      "<DIV>one<BUTTON>two<BUTTON>three</BUTTON><SELECT><P><OPTION>four</SELECT><NOBR>five<NOBR>six"
-      "</NOBR></NOBR></DIV>",
+      ("<DIV>one<BUTTON>two<BUTTON>three</BUTTON><SELECT><P><OPTION>four</"
+       "SELECT><NOBR>five<NOBR>six"
+       "</NOBR></NOBR></DIV>"),
   };
   int number = 0;
   int whole = 0;  // saves that wrote more than the edit

@@ -12,7 +12,7 @@ namespace {
 using namespace std::string_view_literals;
 using Piece = std::string_view;
 
-constexpr Piece beginnings[] = {
+constexpr Piece Beginnings[] = {
     "",
     "<!DOCTYPE html>\n",
     "<html>\n<head><title>t &amp t</title></head>\n<body bgcolor=white>\n",
@@ -25,12 +25,12 @@ constexpr Piece beginnings[] = {
     "text first <head><base target=x></head>",
 };
 
-constexpr Piece formatting[] = {
+constexpr Piece Formatting[] = {
     "<b>",     "</b>",   "<i>",        "</i>",         "<font color=red>",
     "</font>", "<a>",    "<a href=#>", "</a>",         "<nobr>",
     "</nobr>", "<code>", "</code>",    "<u id=\"u\">", "<EM class=x>"};
 
-constexpr Piece blocks[] = {"<p>",       "</p>",         "<P ALIGN=center>",
+constexpr Piece Blocks[] = {"<p>",       "</p>",         "<P ALIGN=center>",
                             "<div>",     "</div>",       "<h1>",
                             "</h2>",     "<ul>",         "<li>",
                             "</ul>",     "<dl>",         "<dt>",
@@ -41,13 +41,13 @@ constexpr Piece blocks[] = {"<p>",       "</p>",         "<P ALIGN=center>",
                             "</br>",     "<br>",         "<button>",
                             "</button>", "<marquee>",    "<fieldset>"};
 
-constexpr Piece tables[] = {"<table>",    "<table border>", "</table>", "<tr>",
+constexpr Piece Tables[] = {"<table>",    "<table border>", "</table>", "<tr>",
                             "<tr>",       "<td>",           "<td>",     "</td>",
                             "</tr>",      "<tbody>",        "</tbody>", "<caption>",
                             "<colgroup>", "<col>",          "<th>",     "<input type=hidden>",
                             "<thead>",    "</caption>"};
 
-constexpr Piece foreign[] = {"<svg>",
+constexpr Piece Foreign[] = {"<svg>",
                              "<svg viewBox='0 0 9 9'><path d='M0 0'/>",
                              "</svg>",
                              "<math><mi>x</mi>",
@@ -60,7 +60,7 @@ constexpr Piece foreign[] = {"<svg>",
                              "<desc>",
                              "<g/>"};
 
-constexpr Piece closed[] = {"<template><p>in</template>",
+constexpr Piece Closed[] = {"<template><p>in</template>",
                             "<template>",
                             "</template>",
                             "<select><option>one<option selected>two</select>",
@@ -79,11 +79,11 @@ constexpr Piece closed[] = {"<template><p>in</template>",
                             "<image src=a.gif>",
                             "<isindex>"};
 
-constexpr Piece frames[] = {"<frameset rows='*'>",    "<frame src=a>", "</frameset>",
+constexpr Piece Frames[] = {"<frameset rows='*'>",    "<frame src=a>", "</frameset>",
                             "<noframes>x</noframes>", "</body>",       "</html>",
                             "<body text=red>",        "<head>"};
 
-constexpr Piece marks[] = {"<!-- c -->",
+constexpr Piece Marks[] = {"<!-- c -->",
                            "<!-->",
                            "<!--->",
                            "<!-- -- > --!>",
@@ -100,7 +100,7 @@ constexpr Piece marks[] = {"<!-- c -->",
                            "<div title=\"a\r\nb\tc\">",
                            "<a href='x?a=b&copy=c&amp;d'>"};
 
-constexpr Piece text[] = {"one two ",
+constexpr Piece Text[] = {"one two ",
                           "three ",
                           "some words, ",
                           "&eacute;",
@@ -119,7 +119,7 @@ constexpr Piece text[] = {"one two ",
                           "\xFF\xFE ",
                           "\x81 "};
 
-constexpr Piece blanks[] = {"\n", "\r\n", "\r", " ", "\t ", "\f", "\0"sv, "\n\n", "\v", "\x1A"};
+constexpr Piece Blanks[] = {"\n", "\r\n", "\r", " ", "\t ", "\f", "\0"sv, "\n\n", "\v", "\x1A"};
 
 class Generator {
  public:
@@ -127,7 +127,7 @@ class Generator {
 
   QByteArray Page() {
     QByteArray page;
-    Add(page, beginnings);
+    Add(page, Beginnings);
     for (std::size_t parts = 10 + Pick(50); parts > 0; --parts) AddPart(page);
     // Now and then the page is cut off anywhere, or nothing ends any more.
     if (Pick(6) == 0)
@@ -149,26 +149,26 @@ class Generator {
     switch (Pick(16)) {
       case 0:
       case 1:
-        return Add(page, formatting);
+        return Add(page, Formatting);
       case 2:
       case 3:
-        return Add(page, blocks);
+        return Add(page, Blocks);
       case 4:
       case 5:
-        return Add(page, tables);
+        return Add(page, Tables);
       case 6:
-        return Add(page, foreign);
+        return Add(page, Foreign);
       case 7:
-        return Add(page, closed);
+        return Add(page, Closed);
       case 8:
-        return Add(page, marks);
+        return Add(page, Marks);
       case 9:
-        return Pick(4) == 0 ? Add(page, frames) : Add(page, blanks);
+        return Pick(4) == 0 ? Add(page, Frames) : Add(page, Blanks);
       case 10:
       case 11:
-        return Add(page, blanks);
+        return Add(page, Blanks);
       default:
-        return Add(page, text);
+        return Add(page, Text);
     }
   }
 

@@ -11,7 +11,7 @@ namespace velor {
 
 namespace {
 
-const QByteArray page =
+const QByteArray PageSource =
     "<!DOCTYPE html>\r\n<html><head><title>x</title><style>body { margin: 0 }</style></head>\r\n"
     "<body>\r\n<p>One<br>two</p><!-- c -->\r\n"
     "<div style=\"position:absolute; left:210px; top:120px; width:150px; height:60px\">box</div>"
@@ -20,7 +20,7 @@ const QByteArray page =
 class ObjectsOfThePage : public WebEditorTest {
  protected:
   ObjectsOfThePage() {
-    editor_->LoadDocument(Write(QStringLiteral("page.htm"), page));
+    editor_->LoadDocument(Write(QStringLiteral("page.htm"), PageSource));
     Show();
     // A hit test finds what has been painted, so this waits for a frame.
     Evaluate(
@@ -64,7 +64,7 @@ TEST_F(ObjectsOfThePage, HandlesAndGlyphsAreNeverInTheDocument) {
         .toBool();
   }));
   EXPECT_EQ(editor_->DocumentHTML(), document);
-  EXPECT_EQ(Saved(), page);
+  EXPECT_EQ(Saved(), PageSource);
 }
 
 TEST_F(ObjectsOfThePage, ADragIsOneUndoStepAndChangesOnlyTheElementsStyleInTheFile) {
@@ -77,11 +77,11 @@ TEST_F(ObjectsOfThePage, ADragIsOneUndoStepAndChangesOnlyTheElementsStyleInTheFi
         .Attribute(QStringLiteral("style"))
         .contains(QStringLiteral("left: 250px"));
   }));
-  QByteArray moved = page;
+  QByteArray moved = PageSource;
   moved.replace("left:210px; top:120px", "left: 250px; top: 150px");
   EXPECT_EQ(Saved(), moved);
   Exec(EditingCommand::Undo);
-  EXPECT_EQ(Saved(), page);
+  EXPECT_EQ(Saved(), PageSource);
   EXPECT_TRUE(WaitFor(
       [this] { return editor_->QueryStatus(EditingCommand::Undo) == CommandStatus::Disabled; }));
 }
@@ -105,7 +105,7 @@ TEST_F(ObjectsOfThePage, CommandsOnTextApplyToTheTextOfABoxAndCuttingItIsOn) {
   Exec(EditingCommand::Delete);
   EXPECT_FALSE(DocumentHolds(QStringLiteral("<div")));
   Exec(EditingCommand::Undo);
-  EXPECT_EQ(Saved(), page);
+  EXPECT_EQ(Saved(), PageSource);
 }
 
 }  // namespace

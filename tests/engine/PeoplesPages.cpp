@@ -13,14 +13,14 @@ namespace velor {
 namespace {
 
 enum class Style { Capitals, Frameless, Xhtml, LayoutTables, Modern, Server };
-constexpr std::uint32_t styleCount = 6;
+constexpr std::uint32_t StyleCount = 6;
 
 struct Writing {
   const char *charset;
   const char *words;
 };
 
-constexpr Writing writings[] = {
+constexpr Writing Writings[] = {
     {"utf-8", "page welcome caf\u00e9 na\u00efve news home price \u20ac contact summer the of"},
     {"windows-1252", "caf\u00e9 garden \u201cquoted\u201d M\u00fcnchen se\u00f1or the and of by"},
     {"iso-8859-1", "\u00e9t\u00e9 for\u00eat the gar\u00e7on list of things ma\u00f1ana we sell"},
@@ -43,8 +43,8 @@ class Author {
  public:
   explicit Author(std::uint32_t number)
       : random_(number * 2654435761U + 1),
-        style_(static_cast<Style>(number % styleCount)),
-        writing_(writings[Below(static_cast<std::uint32_t>(std::size(writings)))]),
+        style_(static_cast<Style>(number % StyleCount)),
+        writing_(Writings[Below(static_cast<std::uint32_t>(std::size(Writings)))]),
         words_(QString::fromUtf8(writing_.words).split(u' ')) {}
 
   QByteArray Page() {
@@ -96,7 +96,7 @@ class Author {
   }
 
   void Inline() {
-    static constexpr const char *references[] = {"&nbsp;",          "&copy; 2001",   "&amp;",
+    static constexpr const char *References[] = {"&nbsp;",          "&copy; 2001",   "&amp;",
                                                  "&eacute;t&#233;", "&quot;x&quot;", "&lt;b&gt;",
                                                  "&mdash;"};
     switch (Below(14)) {
@@ -126,7 +126,7 @@ class Author {
       case 7:
       case 8:
         return Write(QString::fromUtf8(
-            references[Below(static_cast<std::uint32_t>(std::size(references)))]));
+            References[Below(static_cast<std::uint32_t>(std::size(References)))]));
       case 9:
         if (style_ != Style::Server) return Write(Words(4));
         return Write(Chance(50) ? "<%= rs(\"name\") %>" : "<?php echo $name; ?>");
@@ -241,11 +241,12 @@ class Author {
   }
 
   void Head() {
-    static constexpr const char *doctypes[] = {
+    static constexpr const char *Doctypes[] = {
         "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 3.2 Final//EN\">",
         "",
-        "<?xml version=\"1.0\"?>\n<!DOCTYPE html PUBLIC \"-//W3C//DTD XHTML 1.0 Transitional//EN\" "
-        "\"http://www.w3.org/TR/xhtml1/DTD/xhtml1-transitional.dtd\">",
+        ("<?xml version=\"1.0\"?>\n<!DOCTYPE html PUBLIC \"-//W3C//DTD XHTML 1.0 "
+         "Transitional//EN\" "
+         "\"http://www.w3.org/TR/xhtml1/DTD/xhtml1-transitional.dtd\">"),
         "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\">",
         "<!doctype html>",
         "<%@ Language=VBScript %>"};
@@ -254,7 +255,7 @@ class Author {
             ? QString()
             : Tag(QStringLiteral("meta"), QStringLiteral("charset"),
                   QString::fromLatin1(writing_.charset));
-    Write(doctypes[static_cast<std::size_t>(style_)]);
+    Write(Doctypes[static_cast<std::size_t>(style_)]);
     if (style_ == Style::Frameless) {
       Write(meta);
       return Write("<title>" + Words(2) + "</title>");

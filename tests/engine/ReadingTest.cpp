@@ -16,7 +16,7 @@ namespace velor {
 
 namespace {
 
-constexpr int rounds = 60;
+constexpr int Rounds = 60;
 
 class Reading : public WebEditorTest {
  protected:
@@ -38,7 +38,7 @@ TEST_F(Reading, FromEveryNotice) {
   for (auto *notice :
        {&listener_.onDisplayChange, &listener_.onComplete, &listener_.onMenu, &listener_.onMouse})
     *notice = [this] { ExpectRead(); };
-  for (int round = 0; round < rounds; ++round) {
+  for (int round = 0; round < Rounds; ++round) {
     const int before = readings_;
     TypeText(QStringLiteral("x"));
     QTest::mouseMove(Input(), {20 + round, 30});
@@ -52,7 +52,7 @@ TEST_F(Reading, FromEveryNotice) {
 }
 
 TEST_F(Reading, FromTimersAndPostedCalls) {
-  for (int round = 0; round < rounds; ++round) {
+  for (int round = 0; round < Rounds; ++round) {
     const int before = readings_;
     TypeText(QStringLiteral("x"));
     QTimer::singleShot(0, window_.get(), [this] { ExpectRead(); });
@@ -76,13 +76,13 @@ TEST_F(Reading, FromAKeyOnItsWayToThePage) {
     std::function<void()> read_;
   } filter([this] { ExpectRead(); });
   Input()->installEventFilter(&filter);
-  for (int round = 0; round < rounds; ++round) TypeText(QStringLiteral("x"));
-  EXPECT_EQ(readings_, rounds);
+  for (int round = 0; round < Rounds; ++round) TypeText(QStringLiteral("x"));
+  EXPECT_EQ(readings_, Rounds);
   Input()->removeEventFilter(&filter);
 }
 
 TEST_F(Reading, FromWithinANestedEventLoop) {
-  for (int round = 0; round < rounds; ++round) {
+  for (int round = 0; round < Rounds; ++round) {
     QEventLoop loop;
     QTimer::singleShot(1, &loop, [&] {
       ExpectRead();
@@ -91,11 +91,11 @@ TEST_F(Reading, FromWithinANestedEventLoop) {
     TypeText(QStringLiteral("x"));
     loop.exec();
   }
-  EXPECT_EQ(readings_, rounds);
+  EXPECT_EQ(readings_, Rounds);
 }
 
 TEST_F(Reading, FromWithinAnotherReading) {
-  for (int round = 0; round < rounds; ++round) {
+  for (int round = 0; round < Rounds; ++round) {
     const int before = readings_;
     QTimer::singleShot(0, window_.get(), [this] { ExpectRead(); });
     ExpectRead();
@@ -107,7 +107,7 @@ TEST_F(Reading, NoNoticeComesWhileADocumentIsRead) {
   bool reading = false;
   int inside = 0;
   listener_.onDisplayChange = [&] { inside += reading ? 1 : 0; };
-  for (int round = 0; round < rounds; ++round) {
+  for (int round = 0; round < Rounds; ++round) {
     editor_->ExecCommand(EditingCommand::SelectAll, ExecOption::Default, {});
     editor_->ExecCommand(EditingCommand::Bold, ExecOption::Default, {});
     reading = true;

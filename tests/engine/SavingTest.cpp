@@ -138,7 +138,7 @@ INSTANTIATE_TEST_SUITE_P(Hazards, HazardPages, ::testing::ValuesIn(Hazards()));
 
 /// A page put together at random from whatever makes pages hard.
 QByteArray RandomPage(std::mt19937 &random) {
-  static constexpr const char *pieces[] = {
+  static constexpr const char *Pieces[] = {
       "<p>",      "<P CLASS=x>", "</p>",    "word ",       "two words ", "<b>",     "</b>",
       "<i>",      "</i>",        "\r\n",    "&eacute;",    "&nbsp;",     "<table>", "<tr>",
       "<td>",     "</table>",    "<ul>",    "<li>",        "</ul>",      "<div>",   "</div>",
@@ -146,7 +146,7 @@ QByteArray RandomPage(std::mt19937 &random) {
       "</h2>",    "<img src=a>", "<pre>\n", "</pre>",      "&copy ",     "<% c %>", "caf\xC3\xA9 ",
       "<center>", "</center>",   "<form>",  "<input a=b>", "</form>",    "</body>", "<hr>"};
   QByteArray page = "<html>\n<body>\n";
-  for (int part = 0; part < 60; ++part) page += pieces[random() % std::size(pieces)];
+  for (int part = 0; part < 60; ++part) page += Pieces[random() % std::size(Pieces)];
   return page;
 }
 
@@ -187,7 +187,7 @@ TEST_F(ManyPages, OfTagsInAnyOrderAreSavedAsTheDocumentsTheyBecame) {
   std::mt19937 random(11);
   for (int round = AsksForAll() ? 200 : 12; round > 0 && !HasFailure(); --round) {
     const QByteArray page = RandomPage(random);
-    const std::uint32_t kind = static_cast<std::uint32_t>(random());
+    const auto kind = static_cast<std::uint32_t>(random());
     Check(page, Kind(kind), static_cast<int>(random() % 4));
   }
   EXPECT_GT(tally_.edits, 4);

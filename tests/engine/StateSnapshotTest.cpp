@@ -8,7 +8,7 @@ namespace velor {
 
 namespace {
 
-const QString whole = QStringLiteral(R"({
+const QString Whole = QStringLiteral(R"({
   "version": 12, "dirty": true,
   "commands": {"5000": 7, "5023": 3, "5048": 11, "5025": 1, "5024": 0, "5026": 99},
   "fontName": "Arial", "fontSize": "12", "foreColor": "#112233", "backColor": "#FFFFFF",
@@ -17,7 +17,7 @@ const QString whole = QStringLiteral(R"({
 })");
 
 TEST(StateSnapshot, HoldsEveryFieldOfAPushedState) {
-  const auto state = StateSnapshot::FromJson(whole);
+  const auto state = StateSnapshot::FromJson(Whole);
   ASSERT_TRUE(state.has_value());
   EXPECT_EQ(state->version, 12);
   EXPECT_TRUE(state->dirty);
@@ -29,7 +29,7 @@ TEST(StateSnapshot, HoldsEveryFieldOfAPushedState) {
 }
 
 TEST(StateSnapshot, AnswersTheStatusOfACommand) {
-  const auto state = StateSnapshot::FromJson(whole);
+  const auto state = StateSnapshot::FromJson(Whole);
   EXPECT_EQ(state->StatusOf(EditingCommand::Bold), CommandStatus::Latched);
   EXPECT_EQ(state->StatusOf(EditingCommand::Italic), CommandStatus::Enabled);
   EXPECT_EQ(state->StatusOf(EditingCommand::Underline), CommandStatus::Ninched);
@@ -38,14 +38,14 @@ TEST(StateSnapshot, AnswersTheStatusOfACommand) {
 }
 
 TEST(StateSnapshot, AnUnpublishedOrMissingStatusIsNotSupported) {
-  const auto state = StateSnapshot::FromJson(whole);
+  const auto state = StateSnapshot::FromJson(Whole);
   EXPECT_EQ(state->StatusOf(EditingCommand::JustifyRight), CommandStatus::NotSupported);
   EXPECT_EQ(state->StatusOf(static_cast<EditingCommand>(4711)), CommandStatus::NotSupported);
   EXPECT_EQ(StateSnapshot{}.StatusOf(EditingCommand::Bold), CommandStatus::NotSupported);
 }
 
 TEST(StateSnapshot, AnswersTheValuesOfTheFiveQueryCommandsOnly) {
-  const auto state = StateSnapshot::FromJson(whole);
+  const auto state = StateSnapshot::FromJson(Whole);
   EXPECT_EQ(state->ValueOf(EditingCommand::GetFontName), QStringLiteral("Arial"));
   EXPECT_EQ(state->ValueOf(EditingCommand::GetFontSize), QStringLiteral("12"));
   EXPECT_EQ(state->ValueOf(EditingCommand::GetForeColor), QStringLiteral("#112233"));

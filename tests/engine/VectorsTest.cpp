@@ -13,12 +13,12 @@ namespace velor {
 namespace {
 
 /// `%` stands for what a script would do, `@` for a server.
-constexpr const char *headVectors[] = {
+constexpr const char *HeadVectors[] = {
     "<script>%</script>",
     "<script src='@/a.js'></script><script src='@/b.js' async></script>",
     "<script type=module>%</script><script type=module src='@/c.mjs'></script>",
     "<script type=module>import '@/d.mjs'; new Worker('@/w.js'); %</script>",
-    "<script type=importmap>{\"imports\": {\"x\": \"@/x.mjs\"}}</script>",
+    R"(<script type=importmap>{"imports": {"x": "@/x.mjs"}}</script>)",
     "<script type=module>import 'x'</script>",
     "<script type=speculationrules>{\"prefetch\": [{\"source\": \"list\", \"urls\": [\"@/s\"]}],"
     "\"prerender\": [{\"source\": \"list\", \"urls\": [\"@/t\"]}]}</script>",
@@ -52,7 +52,7 @@ constexpr const char *headVectors[] = {
     "content=on>",
 };
 
-constexpr const char *bodyVectors[] = {
+constexpr const char *BodyVectors[] = {
     "<img src='@/a.gif' onload='%' onerror='%' lowsrc='@/b.gif' longdesc='@/c'>",
     "<img src=x onerror='%'><img srcset='@/d.gif 1x, @/e.gif 2x' src='@/f.gif' loading=eager>",
     "<picture><source srcset='@/g.webp'><img src='@/h.gif'></picture>",
@@ -99,7 +99,7 @@ template <std::size_t Count>
 QByteArray All(const char *const (&vectors)[Count], const QByteArray &server) {
   QByteArray markup;
   int number = 0;
-  for (const QByteArray vector : vectors) {
+  for (const char *const vector : vectors) {
     const QByteArray ran = "documentElement.setAttribute(`ran`, " + QByteArray::number(++number) +
                            "); new Image().src = `@/ran`";
     markup += QByteArray(vector).replace("document.%", ran).replace("%", "document." + ran);
@@ -118,8 +118,8 @@ class Vectors : public Editing {
   }
 
   QByteArray WholePage() const {
-    return "<html><head><title>stays</title>" + All(headVectors, server_.Address()) +
-           "</head><body><p>text</p>" + All(bodyVectors, server_.Address()) + "</body></html>";
+    return "<html><head><title>stays</title>" + All(HeadVectors, server_.Address()) +
+           "</head><body><p>text</p>" + All(BodyVectors, server_.Address()) + "</body></html>";
   }
   /// Waits for thirty animation frames of the page, so that scripts and requests had time to start.
   void Settle() {
@@ -160,9 +160,9 @@ TEST_F(Vectors, DoNothingInAPageThatIsOpened) {
 TEST_F(Vectors, DoNothingWhenTheyArePasted) {
   LoadWithCaret("<html><body><p>a</p></body></html>", QStringLiteral("p"));
   editor_->Document().Selection().CreateRange()->PasteHTML(
-      QString::fromLatin1(All(headVectors, server_.Address())));
+      QString::fromLatin1(All(HeadVectors, server_.Address())));
   editor_->Document().Selection().CreateRange()->PasteHTML(
-      QString::fromLatin1(All(bodyVectors, server_.Address())));
+      QString::fromLatin1(All(BodyVectors, server_.Address())));
   ASSERT_TRUE(DocumentHolds(QStringLiteral("/c.webm")));
   ExpectNothingHappened();
   Exec(EditingCommand::Undo);

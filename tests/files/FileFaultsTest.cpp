@@ -163,10 +163,10 @@ TEST_F(FileFaults, OnlyTheNewestReplacedVersionsAreKept) {
 }
 
 TEST_F(FileFaults, TwoProcessesKeepTheirVersionsSideBySide) {
-  constexpr int each = 30;
+  constexpr int Each = 30;
   const auto keep = [](char who) {
     ReplacedFiles replaced;
-    for (int i = 0; i < each; ++i) replaced.Store("\\site\\a.htm", who + QByteArray::number(i));
+    for (int i = 0; i < Each; ++i) replaced.Store("\\site\\a.htm", who + QByteArray::number(i));
   };
   const pid_t child = fork();
   if (child == 0) {
@@ -178,7 +178,7 @@ TEST_F(FileFaults, TwoProcessesKeepTheirVersionsSideBySide) {
   waitpid(child, &status, 0);
   QStringList contents;
   for (const QString &kept : Kept()) contents << QString::fromUtf8(Content(kept));
-  EXPECT_EQ(contents.size(), 2 * each);
+  EXPECT_EQ(contents.size(), 2 * Each);
   EXPECT_EQ(contents.removeDuplicates(), 0);
 }
 

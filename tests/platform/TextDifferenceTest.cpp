@@ -22,7 +22,8 @@ TEST(TextDifference, OneStretchLeadsFromAnyTextToAnyOther) {
     QString after = before;
     for (int change = 0; change < 2; ++change)
       after.replace(static_cast<qsizetype>(random() % (before.size() + 1U)),
-                    static_cast<qsizetype>(random() % 3), QStringLiteral("xyz").left(random() % 4));
+                    static_cast<qsizetype>(random() % 3),
+                    QStringLiteral("xyz").left(static_cast<qsizetype>(random() % 4)));
     ASSERT_EQ(Applied(before, after), after);
   }
 }

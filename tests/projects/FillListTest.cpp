@@ -52,8 +52,9 @@ TEST(RowTable, RefusesWhatLiesOutside) {
   RowTable table(1);
   table.AppendRow();
   const std::pair<int, int> outside[] = {{0, 0}, {2, 0}, {1, -1}, {1, 2}};
-  for (const auto &[row, column] : outside) {
-    EXPECT_EQ(ErrorOf([&] { table.At(row, column); }), ErrorNumber::SubscriptOutOfRange);
+  for (const auto &place : outside) {
+    EXPECT_EQ(ErrorOf([&] { table.At(place.first, place.second); }),
+              ErrorNumber::SubscriptOutOfRange);
   }
 }
 

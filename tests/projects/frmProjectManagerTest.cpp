@@ -82,7 +82,7 @@ class ProjectManagerTest : public testing::Test {
     pages.rows = {{31, U("About")}, {30, U("Home")}};
     database.results[ChooserPages12] = pages;
     database.results[ListedPages12] = pages;
-    files.AddFile(U("\\sites\\twelve\\INDEX.HTM"), "<HTML>");
+    files.AddFile(U(R"(\sites\twelve\INDEX.HTM)"), "<HTML>");
     log.clear();
   }
 
@@ -351,7 +351,7 @@ TEST_F(ProjectManagerTest, OpensByDoubleClickAndByEnter) {
 }
 
 TEST_F(ProjectManagerTest, AsksForTheFolderOfASiteThatHasMovedAndStopsAtNo) {
-  files.Delete(U("\\sites\\twelve\\INDEX.HTM"));
+  files.Delete(U(R"(\sites\twelve\INDEX.HTM)"));
   Open();
   dialogs.ExpectMessage(Question, MessageAnswer::No);
   Click();
@@ -364,7 +364,7 @@ TEST_F(ProjectManagerTest, AsksForTheFolderOfASiteThatHasMovedAndStopsAtNo) {
 }
 
 TEST_F(ProjectManagerTest, StopsWhenTheFolderPickerIsCancelled) {
-  files.Delete(U("\\sites\\twelve\\INDEX.HTM"));
+  files.Delete(U(R"(\sites\twelve\INDEX.HTM)"));
   Open();
   dialogs.ExpectMessage(Question, MessageAnswer::Yes);
   Click();
@@ -378,7 +378,7 @@ class ForeignCatalogueTest : public ProjectManagerTest {
  protected:
   ForeignCatalogueTest() {
     database.results[Project12].rows[0][2] = U("C:\\Sites\\Shop");
-    host.pickedFolder = U("\\home\\win\\Sites\\Shop");
+    host.pickedFolder = U(R"(\home\win\Sites\Shop)");
     Open();
     dialogs.ExpectMessage(Question, MessageAnswer::Yes);
   }
@@ -417,7 +417,7 @@ TEST_F(ForeignCatalogueTest, NoWritesTheFolderAsItIs) {
 
 TEST_F(ForeignCatalogueTest, ANamedDriveIsWhatIsWritten) {
   host.namedDrives = U("C: /home/win");
-  host.pickedFolder = U("\\home\\win\\Sites\\Moved");
+  host.pickedFolder = U(R"(\home\win\Sites\Moved)");
   dialogs.ExpectMessage(
       U("This catalogue comes from another computer, where the site lies in C:\\Sites\\Shop. That "
         "computer no longer finds the site if /home/win/Sites/Moved is written into the "
@@ -430,7 +430,7 @@ TEST_F(ForeignCatalogueTest, ANamedDriveIsWhatIsWritten) {
 
 TEST_F(ForeignCatalogueTest, WhereTheNamedDriveHasTheSiteNothingIsWritten) {
   host.namedDrives = U("C: /home/win");
-  host.onNameDrives = [this] { files.AddFile(U("C:\\Sites\\Shop\\Index.htm"), "<HTML>"); };
+  host.onNameDrives = [this] { files.AddFile(U(R"(C:\Sites\Shop\Index.htm)"), "<HTML>"); };
   ExpectWarning(MessageAnswer::Yes);
   Click();
   EXPECT_FALSE(IsWritten(U("C:\\Sites\\Shop")));
@@ -438,7 +438,7 @@ TEST_F(ForeignCatalogueTest, WhereTheNamedDriveHasTheSiteNothingIsWritten) {
 }
 
 TEST_F(ProjectManagerTest, WritesThePickedFolderIntoTheThreeTablesAsItIs) {
-  files.Delete(U("\\sites\\twelve\\INDEX.HTM"));
+  files.Delete(U(R"(\sites\twelve\INDEX.HTM)"));
   host.pickedFolder = U("\\new\\Bob's Site");
   Open();
   dialogs.ExpectMessage(Question, MessageAnswer::Yes);
@@ -456,7 +456,7 @@ TEST_F(ProjectManagerTest, WritesThePickedFolderIntoTheThreeTablesAsItIs) {
 
 TEST_F(ProjectManagerTest, StopsAtTheStatementThatFails) {
   const QString second = U("Update Page set TPath = '\\new' where ProjectId = '12'");
-  files.Delete(U("\\sites\\twelve\\INDEX.HTM"));
+  files.Delete(U(R"(\sites\twelve\INDEX.HTM)"));
   host.pickedFolder = U("\\new");
   database.failures.emplace(second, RuntimeError::Of(ErrorNumber::DiskFull, U("test")));
   Open();

@@ -104,7 +104,8 @@ TEST(QsciSourceControlTest, LineNumbersStandGreyOnPaperInLightAndDark) {
   source.SetColor(26, 0xFFFFFF);
   source.SetColor(27, 0x808080);
   const auto color = [&](unsigned int message) {
-    const long value = EditorOf(source)->SendScintilla(message, QsciScintilla::STYLE_LINENUMBER);
+    const auto value =
+        static_cast<int>(EditorOf(source)->SendScintilla(message, QsciScintilla::STYLE_LINENUMBER));
     return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
   };
   const QColor darkPaper(0x1e, 0x20, 0x23);

@@ -138,16 +138,16 @@ TEST_F(JournalFilesTest, AFolderOfARunThatEndedBeforeItsLockGoes) {
 }
 
 TEST_F(JournalFilesTest, OfThousandsOfEndedRunsTheNewestAreOfferedAtOnce) {
-  constexpr int runs = 10'000;
+  constexpr int Runs = 10'000;
   const QString root = StateFolder() + "/recovery/";
   const QByteArray journal = JournalHead() + JournalRecord(Page(QString(20'000, u'x')));
   ASSERT_TRUE(QDir().mkpath(root));
-  for (int run = 1; run <= runs; ++run) {
-    const QString folder = root + QStringLiteral("%1-%2").arg(runs - run).arg(run);
+  for (int run = 1; run <= Runs; ++run) {
+    const QString folder = root + QStringLiteral("%1-%2").arg(Runs - run).arg(run);
     ASSERT_TRUE(QDir().mkdir(folder));
     QFile file(folder + "/1.page");
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(run > runs - 300 ? journal : QByteArray());
+    file.write(run > Runs - 300 ? journal : QByteArray());
   }
   JournalFiles journals;
   const std::clock_t before = std::clock();
@@ -157,7 +157,7 @@ TEST_F(JournalFilesTest, OfThousandsOfEndedRunsTheNewestAreOfferedAtOnce) {
   ASSERT_EQ(pages.size(), JournalFiles::MostOffered);
   EXPECT_EQ(pages[0].defect, QString());
   const auto isNewest = [](const AbandonedPage &page) {
-    return QFileInfo(QFileInfo(page.id).path()).fileName().section(u'-', 1).toInt() > runs - 200;
+    return QFileInfo(QFileInfo(page.id).path()).fileName().section(u'-', 1).toInt() > Runs - 200;
   };
   EXPECT_TRUE(std::all_of(pages.begin(), pages.end(), isNewest));
   for (const AbandonedPage &page : pages) journals.Discard(page.id);

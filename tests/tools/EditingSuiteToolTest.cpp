@@ -40,13 +40,13 @@ class SuiteTool : public ::testing::Test {
   QString errors_;
 };
 
-const QByteArray bold =
+const QByteArray Bold =
     "var browserTests = [['<p>[one]</p>', [['bold', '']], '<p><b>one</b></p>', [true],"
     " {bold: [false, false, '', false, true, '']}],"
     "['<p>[one]</p>', [['strikethrough', '']], '<p><s>one</s></p>', [true], {}]]";
 
 TEST_F(SuiteTool, PrintsALineForEachFileAndOneForAll) {
-  Write(QStringLiteral("bold.js"), bold);
+  Write(QStringLiteral("bold.js"), Bold);
   Write(QStringLiteral("empty.js"), "");
   Write(QStringLiteral("README"), "no data");
   EXPECT_EQ(Run({folder_.path()}), 0);
@@ -60,7 +60,7 @@ TEST_F(SuiteTool, PrintsALineForEachFileAndOneForAll) {
 
 TEST_F(SuiteTool, GoesOnBehindAFileThatIsNoScriptAndSaysSo) {
   Write(QStringLiteral("a.js"), "var browserTests = [[");
-  Write(QStringLiteral("bold.js"), bold);
+  Write(QStringLiteral("bold.js"), Bold);
   EXPECT_EQ(Run({folder_.path()}), 1);
   EXPECT_TRUE(errors_.contains(QStringLiteral("a.js")));
   EXPECT_EQ(Line(QStringLiteral("bold.js")).value(1), QStringLiteral("1"));

@@ -58,7 +58,7 @@ TEST(BytesBeyondEdit, AreNoneWhereALineBreakInAnAttributeGoes) {
 TEST(BytesBeyondEdit, TellTheTagThatTheEditGaveAttributes) {
   const BytesBeyondEdit beyond =
       Count("<div><h1><a id=a>one</h1><p>two</div>",
-            "<div><h1><a id=a>one</a></h1><a id=\"a\" title=\"new\"><p>two</div>",
+            R"(<div><h1><a id=a>one</a></h1><a id="a" title="new"><p>two</div>)",
             QStringLiteral("<div><h1><a id=\"a\">one</a></h1><a id=\"a\"></a><p><a id=\"a\">two</a>"
                            "</p></div>"),
             QStringLiteral("<div><h1><a id=\"a\">one</a></h1><a id=\"a\" title=\"new\"></a><p>"

@@ -113,10 +113,17 @@ def check(checks, words, paths, folder):
     messages = []
     for path in paths:
         stand_in_for_moc(path, folder)
-    for together in units(words, paths, folder):
+    waiting = list(units(words, paths, folder))
+    while waiting:
+        together = waiting.pop()
         ended = clang_tidy(checks, words, together, folder)
         said = ended.stdout.strip()
-        if said:
+        wrong = set(ERROR.findall(said)) if len(together) > 1 else set()
+        if wrong:  # the quick look sees no error behind another one
+            alone = [path for path in together if path in wrong] or together
+            rest = [path for path in together if path not in alone]
+            waiting += [[path] for path in alone] + ([rest] if rest else [])
+        elif said:
             messages += re.split(r"\n(?=/)", said)
         elif ended.returncode != 0:
             messages.append(ended.stderr)

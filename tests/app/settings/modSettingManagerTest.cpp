@@ -91,7 +91,9 @@ TEST_F(Settings, TruthValuesAreWordsInAnyLetterCaseOrNumbersBlanksAroundThemOrNo
   const std::pair<const char *, bool> values[] = {
       {"True", true}, {"TRUE ", true}, {" true", true},  {"1", true},       {"-1", true},
       {" 2 ", true},  {"0.5", true},   {"False", false}, {" FALSE", false}, {"0", false}};
-  for (const auto &[text, expected] : values) {
+  for (const auto &value : values) {
+    const char *const text = value.first;
+    const bool expected = value.second;
     SetOption(registry_, "ShowDetails", text);
     EXPECT_EQ(TruthOption(registry_, "ShowDetails", expected ? "False" : "True",
                           [&](const RuntimeError &) { ADD_FAILURE() << text; }),

@@ -91,8 +91,8 @@ TEST_F(Program, ActsUponNoArgumentTheToolkitsIncluded) {
     settings.close();
     return holds;
   };
-  constexpr int longEnough = 3000;
-  EXPECT_FALSE(QTest::qWaitFor(isOpened, longEnough));
+  constexpr int LongEnough = 3000;
+  EXPECT_FALSE(QTest::qWaitFor(isOpened, LongEnough));
 }
 
 TEST_F(Program, ADamagedCatalogueEndsItWithAReportAndStaysAsItIs) {

@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(Both, PublishedMenus, ::testing::Values(Additions::On, 
 
 TEST_P(PublishedMenus, TheMenuBarHoldsExactlyThisTreeAndToolsBetweenWindowAndHelp) {
   QList<QAction *> menus = window.menuBar()->actions();
-  QAction *tools = window.findChild<QAction *>(QStringLiteral("mnuTools"));
+  auto *tools = window.findChild<QAction *>(QStringLiteral("mnuTools"));
   EXPECT_EQ(tools != nullptr, GetParam() == Additions::On);
   if (tools != nullptr) {
     const qsizetype place = menus.indexOf(tools);
@@ -145,7 +145,7 @@ TEST_F(MenusTest, TheRecordMenuIsAPopupOfItsOwn) {
 
 TEST_F(MenusTest, TheContextMenuPopsUpWhereItIsAskedFor) {
   Parts().requests.PopUpContextMenu(QPoint(60, 70));
-  QMenu *menu = Find<QMenu>("mnuExt");
+  auto *menu = Find<QMenu>("mnuExt");
   EXPECT_TRUE(menu->isVisible());
   EXPECT_EQ(menu->pos(), QPoint(60, 70));
   menu->close();

@@ -194,22 +194,22 @@ class ChooserTest : public OpeningTest {
         .rows = {{7, QStringLiteral("\\site\\"), QStringLiteral("a.htm")}}};
     database.results[QStringLiteral("Select * from Page where PageId = 8")] = {
         .columns = {{.name = QStringLiteral("PageId"), .type = ColumnType::Integer}}, .rows = {}};
-    chooser().AddPage(QStringLiteral("Home"), 7);
-    chooser().AddPage(QStringLiteral("Gone"), 8);
+    Chooser().AddPage(QStringLiteral("Home"), 7);
+    Chooser().AddPage(QStringLiteral("Gone"), 8);
     log.clear();
   }
 
-  PageChooser &chooser() { return *Find<PageChooser>("CmbPages"); }
+  PageChooser &Chooser() { return *Find<PageChooser>("CmbPages"); }
 
   void ChoosePage(int index) {
-    chooser().setCurrentIndex(index);
-    Q_EMIT chooser().activated(index);
+    Chooser().setCurrentIndex(index);
+    Q_EMIT Chooser().activated(index);
   }
 };
 
 TEST_F(ChooserTest, FillingItOpensNothing) {
-  EXPECT_TRUE(chooser().isEnabled());
-  EXPECT_EQ(chooser().currentIndex(), -1);
+  EXPECT_TRUE(Chooser().isEnabled());
+  EXPECT_EQ(Chooser().currentIndex(), -1);
   EXPECT_TRUE(database.statements.empty());
 }
 
@@ -253,9 +253,9 @@ TEST_F(ChooserTest, WithFivePagesItRefusesAndWorksAgainAfterAClose) {
 }
 
 TEST_F(ChooserTest, AnEmptiedChooserIsDimmed) {
-  chooser().RemovePages();
-  EXPECT_EQ(chooser().count(), 0);
-  EXPECT_FALSE(chooser().isEnabled());
+  Chooser().RemovePages();
+  EXPECT_EQ(Chooser().count(), 0);
+  EXPECT_FALSE(Chooser().isEnabled());
 }
 
 }  // namespace

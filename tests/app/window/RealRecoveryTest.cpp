@@ -78,10 +78,10 @@ class RealRecovery : public RealWindow {
 };
 
 TEST_F(RealRecovery, TheJournalGoesToTheDiskBetweenTheKeysOfWhoeverTypesOn) {
-  constexpr int keys = 100;
-  constexpr int pace = 50;  // milliseconds between two keys
+  constexpr int Keys = 100;
+  constexpr int Pace = 50;  // milliseconds between two keys
   // From one sync to the next: about a second, and the wait for an idle moment on a busy machine.
-  constexpr qint64 longest = 4000;
+  constexpr qint64 Longest = 4000;
   frmMain &page = Open(QStringLiteral("page.htm"), "<p>one</p>");
   PutCaret(page, QStringLiteral("p"));
   QElapsedTimer clock;
@@ -92,9 +92,9 @@ TEST_F(RealRecovery, TheJournalGoesToTheDiskBetweenTheKeysOfWhoeverTypesOn) {
     if (!page.DHTML1().IsIdle()) ++late;
   };
   clock.start();
-  for (int key = 1; key <= keys; ++key) {
+  for (int key = 1; key <= Keys; ++key) {
     Type(page, QStringLiteral("x"));
-    (void)QTest::qWaitFor([&] { return clock.elapsed() >= key * pace; });
+    (void)QTest::qWaitFor([&] { return clock.elapsed() >= key * Pace; });
   }
   const qint64 end = clock.elapsed();
   calls_.onSync = {};
@@ -102,7 +102,7 @@ TEST_F(RealRecovery, TheJournalGoesToTheDiskBetweenTheKeysOfWhoeverTypesOn) {
   qint64 before = 0;
   syncs.push_back(end);
   for (const qint64 sync : syncs) {
-    EXPECT_LE(sync - before, longest);
+    EXPECT_LE(sync - before, Longest);
     before = sync;
   }
 }

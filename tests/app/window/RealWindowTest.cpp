@@ -217,8 +217,10 @@ TEST_F(RealEditing, EachEditButtonChangesThePageAndIsUndone) {
 TEST_F(RealEditing, AlignLeftAndOutdentTakeBackWhatIsThere) {
   frmMain &page = Open(PageFile, Plain);
   const QString before = page.DHTML1().DocumentHTML();
-  for (const auto &[there, back] : {std::pair("tbrEdit_indent", "tbrEdit_outdent"),
-                                    std::pair("tbrEdit_right", "tbrEdit_left")}) {
+  for (const auto &pair : {std::pair("tbrEdit_indent", "tbrEdit_outdent"),
+                           std::pair("tbrEdit_right", "tbrEdit_left")}) {
+    const char *const there = pair.first;
+    const char *const back = pair.second;
     Button(there).click();
     ASSERT_NE(page.DHTML1().DocumentHTML(), before) << there;
     ASSERT_TRUE(WaitFor([&] { return Button(back).isEnabled(); })) << back;

@@ -68,11 +68,11 @@ TEST_F(ToolbarsTest, TheWindowOwnsItsPartsByName) {
     EXPECT_NE(window.findChild<QWidget *>(QString::fromLatin1(name)), nullptr) << name;
   }
   EXPECT_NE(window.findChild<QObject *>(QStringLiteral("PM")), nullptr);
-  QWidget *bands = Find<QWidget>("CoolBar");
+  auto *bands = Find<QWidget>("CoolBar");
   for (const char *name : {"tbrGeneral", "tbrEdit"}) {
     EXPECT_TRUE(bands->isAncestorOf(Find<QWidget>(name))) << name;
   }
-  QWidget *row = Find<QWidget>("picFileTab");
+  auto *row = Find<QWidget>("picFileTab");
   for (const char *name : {"FileTab", "FileTab2", "CmbPages"}) {
     EXPECT_TRUE(row->isAncestorOf(Find<QWidget>(name))) << name;
   }

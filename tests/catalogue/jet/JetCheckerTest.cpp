@@ -106,7 +106,7 @@ TEST_P(JetCheckerFault, IsFound) {
       << Joined(complaints);
 }
 
-const Fault faults[] = {
+const Fault Faults[] = {
     {"PartialPage", [](QByteArray &file) { file.chop(100); }, "no whole number of pages"},
     {"WrongFreeCount",
      [](QByteArray &file) {
@@ -183,7 +183,7 @@ const Fault faults[] = {
      "a long value of"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Every, JetCheckerFault, testing::ValuesIn(faults),
+INSTANTIATE_TEST_SUITE_P(Every, JetCheckerFault, testing::ValuesIn(Faults),
                          [](const auto &fault) { return std::string(fault.param.name); });
 
 }  // namespace

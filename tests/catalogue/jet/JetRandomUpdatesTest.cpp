@@ -30,10 +30,10 @@ int UpdatesPerFile() {
 }
 
 /// Cells that may be changed: table and column.
-constexpr CellPlace columns[] = {{0, 0, 2}, {0, 0, 5}, {1, 0, 3}, {1, 0, 4},
+constexpr CellPlace Columns[] = {{0, 0, 2}, {0, 0, 5}, {1, 0, 3}, {1, 0, 4},
                                  {1, 0, 5}, {1, 0, 6}, {2, 0, 1}};
 /// And one that may not: it is in an index.
-constexpr CellPlace indexed = {1, 0, 2};
+constexpr CellPlace Indexed = {1, 0, 2};
 
 FixtureFile FileOf(quint32 seed) {
   CatalogueShape shape;
@@ -61,7 +61,7 @@ class JetRandomUpdates : public testing::TestWithParam<quint32> {
 
   void UpdateSome(int most) {
     for (int count = 1 + Random(most); count > 0; --count) {
-      CellPlace place = columns[Random(std::size(columns))];
+      CellPlace place = Columns[Random(std::size(Columns))];
       const FixtureTable &table = trial_.Meant().tables[place.table];
       place.row = Random(static_cast<int>(table.rows.size()));
       const bool memo = table.columns[place.column].type == CellType::Memo;
@@ -95,7 +95,7 @@ class JetRandomUpdates : public testing::TestWithParam<quint32> {
 
   void ExpectRefusal() {
     const QByteArray before = memory_.file;
-    EXPECT_THROW(trial_.Update(*file_, indexed, QStringLiteral("x")), RuntimeError);
+    EXPECT_THROW(trial_.Update(*file_, Indexed, QStringLiteral("x")), RuntimeError);
     EXPECT_EQ(memory_.file, before);
   }
 

@@ -218,7 +218,7 @@ TEST_P(JetUpdate, KeepsACopyOfTheFileAsItWas) {
 }
 
 constexpr auto Inline = MapForm::BitmapWhereItReaches;
-const FileForm forms[] = {
+const FileForm Forms[] = {
     {"Plain", FolderType::Text, false, 0, Inline, 0},
     {"Worn", FolderType::Text, true, 0, Inline, 0},
     {"MemoFolders", FolderType::Memo, true, 0, Inline, 200},
@@ -226,7 +226,7 @@ const FileForm forms[] = {
     {"Encoded", FolderType::Text, true, 0xA1B2C3D4, MapForm::BitmapPages, 600},
 };
 
-INSTANTIATE_TEST_SUITE_P(Of, JetUpdate, testing::ValuesIn(forms),
+INSTANTIATE_TEST_SUITE_P(Of, JetUpdate, testing::ValuesIn(Forms),
                          [](const auto &form) { return std::string(form.param.name); });
 
 TEST(JetReaders, AgreeOnWideRowsAndOddCharacters) {

@@ -19,7 +19,7 @@
 namespace velor {
 namespace {
 
-constexpr int patience = 20000;  // milliseconds; only a hung engine takes that long
+constexpr int Patience = 20000;  // milliseconds; only a hung engine takes that long
 
 QString TextOf(const QString &path) {
   QFile file(path);
@@ -75,7 +75,7 @@ void BridgePage::AddChannelScript() {
 void BridgePage::Load(const QString &html) {
   QSignalSpy loaded(view_.page(), &QWebEnginePage::loadFinished);
   view_.setHtml(html, QUrl(QStringLiteral("file:///")));
-  ASSERT_TRUE(loaded.wait(patience));
+  ASSERT_TRUE(loaded.wait(Patience));
   Evaluate(QStringLiteral("markup.select(); markup.countKeys(); velor.start()"));
 }
 
@@ -93,7 +93,7 @@ QVariant BridgePage::Evaluate(const QString &expression) {
                                 wait->answered = true;
                                 wait->loop.quit();
                               });
-  QTimer::singleShot(patience, &wait->loop, &QEventLoop::quit);
+  QTimer::singleShot(Patience, &wait->loop, &QEventLoop::quit);
   wait->loop.exec();
   EXPECT_TRUE(wait->answered) << qPrintable(expression.left(200));
   return wait->answer;
@@ -102,7 +102,7 @@ QVariant BridgePage::Evaluate(const QString &expression) {
 void BridgePage::AwaitKeys(int count) {
   EXPECT_TRUE(QTest::qWaitFor(
       [this, count] { return Evaluate(QStringLiteral("markup.keysUp()")).toInt() >= count; },
-      patience))
+      Patience))
       << "the page never saw the keys";
 }
 
@@ -155,7 +155,7 @@ void BridgePage::Send(QInputMethodEvent &event) {
   QCoreApplication::sendEvent(view_.focusProxy(), &event);
   EXPECT_TRUE(QTest::qWaitFor(
       [this, before] { return Evaluate(QStringLiteral("markup.composed()")).toInt() > before; },
-      patience))
+      Patience))
       << "the page never saw the composition";
 }
 

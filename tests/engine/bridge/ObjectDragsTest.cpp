@@ -8,7 +8,7 @@ namespace {
 class ObjectDrags : public Objects {};
 
 TEST_F(ObjectDrags, ThePointerLooksLikeTheGripThatItIsOver) {
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('div'))"));
   const auto looks = [this](QPoint place, const QString &cursor) {
     page_.Move(place);
@@ -25,7 +25,7 @@ TEST_F(ObjectDrags, ThePointerLooksLikeTheGripThatItIsOver) {
 }
 
 TEST_F(ObjectDrags, ABoxIsMovedByDraggingInOneStep) {
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   Drag({250, 150}, {287, 133});
   ASSERT_TRUE(BecomesBody(QStringLiteral(
       "<p>one</p><div style=\"position: absolute; left: 247px; top: 103px; width: 150px; height: "
@@ -36,7 +36,7 @@ TEST_F(ObjectDrags, ABoxIsMovedByDraggingInOneStep) {
 }
 
 TEST_F(ObjectDrags, AMovedBoxKeepsToTheGridWhenItSnaps) {
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   Evaluate(QStringLiteral("velor.setSnap(true)"));
   Drag({250, 150}, {283, 190});
   ASSERT_TRUE(Comes(QStringLiteral("document.querySelector('div').style.left === '250px'")))
@@ -46,7 +46,7 @@ TEST_F(ObjectDrags, AMovedBoxKeepsToTheGridWhenItSnaps) {
 }
 
 TEST_F(ObjectDrags, ADragShowsItselfAndItsGridBeforeThePageChanges) {
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   Evaluate(QStringLiteral("velor.setSnap(true)"));
   page_.Button(QEvent::MouseButtonPress, {250, 150});
   page_.Move({290, 190}, Qt::LeftButton);
@@ -61,7 +61,7 @@ TEST_F(ObjectDrags, ADragShowsItselfAndItsGridBeforeThePageChanges) {
 }
 
 TEST_F(ObjectDrags, EscapeCancelsADrag) {
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   page_.Button(QEvent::MouseButtonPress, {250, 150});
   page_.Move({290, 190}, Qt::LeftButton);
   ASSERT_TRUE(
@@ -89,7 +89,7 @@ TEST_F(ObjectDrags, ABoxThatHangsOnTheFarSidesIsMovedThere) {
 }
 
 TEST_F(ObjectDrags, ArrowKeysMoveABoxByAPixelAndAllOfThemAreOneStep) {
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   page_.Click({250, 150});
   ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));
   page_.Press(QKeySequence(Qt::Key_Right));
@@ -102,7 +102,7 @@ TEST_F(ObjectDrags, ArrowKeysMoveABoxByAPixelAndAllOfThemAreOneStep) {
 }
 
 TEST_F(ObjectDrags, ArrowKeysMoveABoxToTheNextLineOfTheGridWhenItSnaps) {
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   Evaluate(QStringLiteral("velor.setSnap(true)"));
   page_.Click({250, 150});
   ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));

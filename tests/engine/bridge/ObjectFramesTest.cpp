@@ -8,8 +8,8 @@
 namespace velor {
 namespace {
 
-constexpr QRgb pictureColour = 0xff00ff00;
-constexpr QRgb frameColour = 0xff1a5fb4;
+constexpr QRgb PictureColour = 0xff00ff00;
+constexpr QRgb FrameColour = 0xff1a5fb4;
 
 QRect BoundsOf(const QImage &image, QRgb colour) {
   QRect bounds;
@@ -54,9 +54,9 @@ TEST_P(ObjectFramesInOddPages, LieAroundWhatIsSeen) {
       QStringLiteral("<!DOCTYPE html><html><head>%1</head><body>%2<img width=\"80\" "
                      "height=\"50\" alt=\"\" style=\"background: #00ff00\">%3</body></html>")
           .arg(QString::fromLatin1(head), QString::fromLatin1(before), QString::fromLatin1(after)));
-  const QRect picture = Seen(pictureColour);
+  const QRect picture = Seen(PictureColour);
   Select(QStringLiteral("img"));
-  const QRect frame = Seen(frameColour);
+  const QRect frame = Seen(FrameColour);
   const QRect wanted = picture.adjusted(-3, -3, 3, 3);
   EXPECT_LE(qAbs(frame.left() - wanted.left()), 1) << frame.left() << ' ' << wanted.left();
   EXPECT_LE(qAbs(frame.top() - wanted.top()), 1) << frame.top() << ' ' << wanted.top();

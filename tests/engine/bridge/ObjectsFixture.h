@@ -76,7 +76,7 @@ class Objects : public ::testing::Test {
 };
 
 /// An absolutely positioned box.
-inline const auto *const box =
+inline const auto *const Box =
     "<p>one</p><div style=\"position: absolute; left: 210px; top: 120px; width: 150px; height: "
     "60px\">text</div>";
 

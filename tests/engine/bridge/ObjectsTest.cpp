@@ -124,7 +124,7 @@ TEST_F(Objects, ATableIsSelectedAtItsBorderAndNotInItsCells) {
 }
 
 TEST_F(Objects, AFirstClickSelectsABoxAndASecondOneEntersIt) {
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   page_.Click({220, 130});
   ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));
   page_.Click({220, 130});
@@ -169,7 +169,7 @@ TEST_F(Objects, AreDeletedAsWholes) {
   page_.Press(QKeySequence(Qt::SHIFT | Qt::Key_Right));
   page_.Press(QKeySequence(Qt::Key_Delete));
   EXPECT_EQ(Body(), QStringLiteral("<p>one</p><p>two</p>"));
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   page_.Click({250, 150});
   ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));
   page_.Press(QKeySequence(Qt::Key_Backspace));
@@ -180,7 +180,7 @@ TEST_F(Objects, AreDeletedAsWholes) {
 
 TEST_F(Objects, AreCutAndCopiedAsWholes) {
   QGuiApplication::clipboard()->clear();
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   page_.Click({250, 150});
   ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));
   page_.Engine().triggerAction(QWebEnginePage::Cut);
@@ -314,7 +314,7 @@ TEST_F(Objects, EnterBeginsAParagraphBehindATableAndARule) {
 }
 
 TEST_F(Objects, EnterGoesIntoABoxAndEscapeOutOfItAndBehindIt) {
-  Load(QString::fromLatin1(box));
+  Load(QString::fromLatin1(Box));
   Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('div'))"));
   page_.Press(QKeySequence(Qt::Key_Return));
   page_.Type(QStringLiteral("!"));

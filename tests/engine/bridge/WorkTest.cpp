@@ -12,9 +12,9 @@
 namespace velor {
 namespace {
 
-constexpr int fewParts = 20;
-constexpr int manyParts = 2000;
-constexpr int patience = 20000;  // milliseconds
+constexpr int FewParts = 20;
+constexpr int ManyParts = 2000;
+constexpr int Patience = 20000;  // milliseconds
 
 /// A page of so many equal parts, by what they are.
 struct Shape {
@@ -46,7 +46,7 @@ class Work : public ::testing::TestWithParam<Shape> {
   void Rest() {
     Evaluate(QStringLiteral("work.rest()"));
     ASSERT_TRUE(QTest::qWaitFor([this] { return Evaluate(QStringLiteral("work.rested")).toBool(); },
-                                patience));
+                                Patience));
   }
   double CountOf(const std::function<void()> &deed) {
     Evaluate(QStringLiteral("work.reset()"));
@@ -58,12 +58,13 @@ class Work : public ::testing::TestWithParam<Shape> {
   std::vector<double> CountsOn(int parts, const std::vector<std::function<void()>> &deeds) {
     Load(parts);
     std::vector<double> counts;
+    counts.reserve(deeds.size());
     for (const auto &deed : deeds) counts.push_back(CountOf(deed));
     return counts;
   }
   void ExpectNoGrowth(const std::vector<std::function<void()>> &deeds) {
-    const std::vector<double> few = CountsOn(fewParts, deeds);
-    const std::vector<double> many = CountsOn(manyParts, deeds);
+    const std::vector<double> few = CountsOn(FewParts, deeds);
+    const std::vector<double> many = CountsOn(ManyParts, deeds);
     for (size_t i = 0; i < deeds.size(); ++i) {
       EXPECT_GT(few[i], 0) << "deed " << i;
       EXPECT_LT(many[i], few[i] * 1.5 + 50) << "deed " << i << ", " << few[i] << " before";
@@ -93,9 +94,9 @@ TEST_P(Work, OfAMoveOfTheCaretDoesNotGrowWithThePage) {
 
 TEST_P(Work, OfReadingTheStateOfEverythingSelectedIsBounded) {
   const auto selectAll = [this] { Evaluate(QStringLiteral("velor.exec(5035)")); };
-  Load(manyParts);
+  Load(ManyParts);
   const double many = CountOf(selectAll);
-  Load(2 * manyParts);
+  Load(2 * ManyParts);
   EXPECT_LT(CountOf(selectAll), many * 1.3);
 }
 
@@ -113,7 +114,7 @@ TEST_P(Work, OfACharacterFormatOnAWordDoesNotGrowWithThePage) {
                   undo});
 }
 
-const Shape shapes[] = {
+const Shape Shapes[] = {
     {"Paragraphs", {}, QStringLiteral("<p>Some <b>bold</b> words in a paragraph.</p>\n"), {}},
     {"OneParagraphOfRuns", QStringLiteral("<p>"), QStringLiteral("words <b>bold words</b> "),
      QStringLiteral("</p>")},
@@ -128,7 +129,7 @@ const Shape shapes[] = {
      QStringLiteral("</font></center>")},
 };
 
-INSTANTIATE_TEST_SUITE_P(Of, Work, ::testing::ValuesIn(shapes),
+INSTANTIATE_TEST_SUITE_P(Of, Work, ::testing::ValuesIn(Shapes),
                          [](const auto &instance) { return std::string(instance.param.name); });
 
 }  // namespace

@@ -56,11 +56,11 @@ QString WithoutBlanks(QString text) {
 
 /// Takes bytes as text of some charset, whatever they declare, and writes it with an addition.
 void CheckCharset(char choice, const QByteArray &bytes) {
-  static constexpr const char *charsets[] = {
+  static constexpr const char *Charsets[] = {
       "utf-8", "utf-16le", "utf-16be", "windows-1252", "iso-8859-16", "koi8-u",     "big5",
       "gbk",   "gb18030",  "euc-jp",   "euc-kr",       "shift_jis",   "iso-2022-jp"};
-  const std::size_t number = static_cast<unsigned char>(choice) % std::size(charsets);
-  const QString charset = QString::fromLatin1(charsets[number]);
+  const std::size_t number = static_cast<unsigned char>(choice) % std::size(Charsets);
+  const QString charset = QString::fromLatin1(Charsets[number]);
   CharsetConverter converter(charset);
   std::vector<std::int32_t> places;
   const QString text = converter.Decode(bytes, places);

@@ -23,7 +23,7 @@ std::vector<QByteArray> Seeds(const QString &folder) {
 }
 
 QByteArray Changed(const std::vector<QByteArray> &seeds, std::mt19937 &random) {
-  static constexpr const char *pieces[] = {
+  static constexpr const char *Pieces[] = {
       "<",    ">",        "\"",           "'",      "&",       "&#x",
       "\r",   "\n",       "\x1f",         "<p>",    "</p>",    "<!--",
       "-->",  "<%",       "%>",           "<?php",  "?>",      "<script>",
@@ -35,7 +35,7 @@ QByteArray Changed(const std::vector<QByteArray> &seeds, std::mt19937 &random) {
     const auto at = static_cast<qsizetype>(pick(static_cast<std::size_t>(data.size()) + 1));
     switch (pick(4)) {
       case 0:
-        data.insert(at, pieces[pick(std::size(pieces))]);
+        data.insert(at, Pieces[pick(std::size(Pieces))]);
         break;
       case 1:
         data.remove(at, static_cast<qsizetype>(pick(12)));

@@ -19,18 +19,18 @@ TEST(Ladder, GivesAnUneditedPageBackWithoutAskingTheEngine) {
   EXPECT_TRUE(verifier.tried.isEmpty());
 }
 
-const QByteArray rows = "<p>one<p>two<table><TR><TD>a</TD></table>";
-const QString rowsBefore = QStringLiteral(
+const QByteArray Rows = "<p>one<p>two<table><TR><TD>a</TD></table>";
+const QString RowsBefore = QStringLiteral(
     "<html><head></head><body><p>one</p><p>two</p><table><tbody><tr><td>a</td></tr></tbody>"
     "</table></body></html>");
-const QString rowsNow = QStringLiteral(
+const QString RowsNow = QStringLiteral(
     "<html><head></head><body><p>one</p><img><p>two</p><table><tbody><tr><td>a</td></tr></tbody>"
     "</table></body></html>");
 
 TEST(Ladder, WritesImpliedTagsWhereTheEditAloneReadsDifferently) {
-  ScriptedVerifier verifier(rowsNow,
+  ScriptedVerifier verifier(RowsNow,
                             [](const QString &text) { return text.contains(u"</p><img>"); });
-  const SavedPage saved = Save(rows, rowsBefore, rowsNow, verifier);
+  const SavedPage saved = Save(Rows, RowsBefore, RowsNow, verifier);
   EXPECT_EQ(saved.page.bytes, "<p>one</p><img><p>two<table><TR><TD>a</TD></table>");
   EXPECT_EQ(saved.rung, SaveRung::ImpliedTags);
   EXPECT_EQ(verifier.tried.front(),
@@ -68,8 +68,8 @@ TEST(Ladder, GivesAnElementItsImpliedTagsBeforeThePage) {
 
 TEST(Ladder, WritesAnEditThatNoMarkupHoldsWhereAParserPutsIt) {
   const QString parsed =
-      QString(rowsBefore).replace(QStringLiteral("<table>"), QStringLiteral("<img><table>"));
-  QString now = rowsBefore;
+      QString(RowsBefore).replace(QStringLiteral("<table>"), QStringLiteral("<img><table>"));
+  QString now = RowsBefore;
   now.replace(QStringLiteral("<tr><td>"), QStringLiteral("<tr><img><td>"));
   class Verifier : public PageVerifier {
    public:
@@ -82,8 +82,8 @@ TEST(Ladder, WritesAnEditThatNoMarkupHoldsWhereAParserPutsIt) {
     QString now_;
     QString parsed_;
   } verifier(now, parsed);
-  const SavedPage saved = Save(rows, rowsBefore, now, verifier);
-  EXPECT_EQ(saved.page.bytes, QByteArray(rows).replace("<table>", "<img><table>"));
+  const SavedPage saved = Save(Rows, RowsBefore, now, verifier);
+  EXPECT_EQ(saved.page.bytes, QByteArray(Rows).replace("<table>", "<img><table>"));
   EXPECT_EQ(saved.rung, SaveRung::Edits);
 }
 
@@ -113,20 +113,20 @@ TEST(Ladder, LeavesOutEachTagThatTheDocumentCanDoWithout) {
 }
 
 TEST(Ladder, WritesEverythingWhereNothingElseGivesTheDocument) {
-  ScriptedVerifier verifier(rowsNow, [](const QString &) { return false; });
-  const SavedPage saved = Save("<html>" + rows, rowsBefore, rowsNow, verifier);
-  EXPECT_EQ(saved.page.text, rowsNow);
+  ScriptedVerifier verifier(RowsNow, [](const QString &) { return false; });
+  const SavedPage saved = Save("<html>" + Rows, RowsBefore, RowsNow, verifier);
+  EXPECT_EQ(saved.page.text, RowsNow);
   EXPECT_EQ(saved.rung, SaveRung::Everything);
 }
 
 TEST(Ladder, TriesLessOnALargePageThanOnASmallOne) {
-  ScriptedVerifier small(rowsNow, [](const QString &) { return false; });
-  Save(rows, rowsBefore, rowsNow, small);
+  ScriptedVerifier small(RowsNow, [](const QString &) { return false; });
+  Save(Rows, RowsBefore, RowsNow, small);
   const QByteArray much = QByteArray("word ").repeated(4'000'000);
-  const QString wordsBefore = QString(rowsBefore).replace("one", QString::fromLatin1(much));
-  const QString wordsNow = QString(rowsNow).replace("one", QString::fromLatin1(much));
+  const QString wordsBefore = QString(RowsBefore).replace("one", QString::fromLatin1(much));
+  const QString wordsNow = QString(RowsNow).replace("one", QString::fromLatin1(much));
   ScriptedVerifier large(wordsNow, [](const QString &) { return false; });
-  Save(QByteArray(rows).replace("one", much), wordsBefore, wordsNow, large);
+  Save(QByteArray(Rows).replace("one", much), wordsBefore, wordsNow, large);
   EXPECT_GT(small.tried.size(), 2);
   EXPECT_LE(large.tried.size(), 2);
   EXPECT_GT(large.tried.size(), 0);
@@ -134,35 +134,35 @@ TEST(Ladder, TriesLessOnALargePageThanOnASmallOne) {
 
 TEST(Ladder, WritesEverythingWhereTheEngineIsSilent) {
   SilentVerifier verifier;
-  EXPECT_EQ(Save(rows, rowsBefore, rowsNow, verifier).rung, SaveRung::Everything);
+  EXPECT_EQ(Save(Rows, RowsBefore, RowsNow, verifier).rung, SaveRung::Everything);
 }
 
 TEST(Ladder, SaysWhyAPageIsWrittenAnew) {
   SilentVerifier silent;
-  EXPECT_TRUE(Save(rows, rowsBefore, rowsNow, silent).reason.contains(u"did not answer"));
-  ScriptedVerifier refusing(rowsNow, [](const QString &) { return false; });
-  EXPECT_TRUE(Save(rows, rowsBefore, rowsNow, refusing).reason.contains(u"no smaller change"));
-  ScriptedVerifier willing(rowsNow);
-  EXPECT_EQ(Save(rows, rowsBefore, rowsNow, willing).reason, QString());
+  EXPECT_TRUE(Save(Rows, RowsBefore, RowsNow, silent).reason.contains(u"did not answer"));
+  ScriptedVerifier refusing(RowsNow, [](const QString &) { return false; });
+  EXPECT_TRUE(Save(Rows, RowsBefore, RowsNow, refusing).reason.contains(u"no smaller change"));
+  ScriptedVerifier willing(RowsNow);
+  EXPECT_EQ(Save(Rows, RowsBefore, RowsNow, willing).reason, QString());
   FaithfulPage fresh;
-  EXPECT_EQ(fresh.Compose(rowsNow, willing).reason, QString());
+  EXPECT_EQ(fresh.Compose(RowsNow, willing).reason, QString());
 }
 
 TEST(Ladder, AsksAgainAfterTheEngineWasSilent) {
-  FaithfulPage page(Original(rows));
-  page.SetBaseline(rowsBefore);
+  FaithfulPage page(Original(Rows));
+  page.SetBaseline(RowsBefore);
   SilentVerifier silent;
-  page.Precompute(rowsNow, silent);
-  ScriptedVerifier verifier(rowsNow);
-  EXPECT_EQ(page.Compose(rowsNow, verifier).rung, SaveRung::Edits);
+  page.Precompute(RowsNow, silent);
+  ScriptedVerifier verifier(RowsNow);
+  EXPECT_EQ(page.Compose(RowsNow, verifier).rung, SaveRung::Edits);
 }
 
 TEST(Ladder, AsksNothingTwiceForOneDocument) {
-  FaithfulPage page(Original(rows));
-  page.SetBaseline(rowsBefore);
-  ScriptedVerifier verifier(rowsNow);
-  page.Compose(rowsNow, verifier);
-  page.Compose(rowsNow, verifier);
+  FaithfulPage page(Original(Rows));
+  page.SetBaseline(RowsBefore);
+  ScriptedVerifier verifier(RowsNow);
+  page.Compose(RowsNow, verifier);
+  page.Compose(RowsNow, verifier);
   EXPECT_EQ(verifier.tried.size(), 1);
 }
 

@@ -114,7 +114,7 @@ TEST(MaskedPages, KeepTemplateSignsWhereTextMayNotStand) {
         "<table><#list a as b><tr><td>c</td></tr></#list></table>",
         "{% extends \"a\" %}<!doctype html><html>{% b %}<head>{{c}}</head>{% d %}<body>e",
         "<body>a</body>{% b %}</html>{% c %}", "<p {% if a %}class=b{% endif %} data-{{c}}=d>e",
-        "<a href=\"{% url \"a\" %}\" {{b}}{{c}} title={{ d }}>e</a>"}) {
+        R"(<a href="{% url "a" %}" {{b}}{{c}} title={{ d }}>e</a>)"}) {
     FaithfulPage page(Original(file));
     EXPECT_FALSE(page.TextToLoad().contains(u"{%")) << file;
     EXPECT_FALSE(page.TextToLoad().contains(u"{{")) << file;
@@ -126,7 +126,7 @@ TEST(MaskedPages, KeepTemplateSignsWhereTextMayNotStand) {
 TEST(MaskedPages, LeaveTemplateSignsInTextToBeEdited) {
   for (const char *file :
        {"<p>{{a}} and {% b %} cost $5 ${c}", "<table><tr><td>{{a}}</td></tr></table>{{b}}",
-        "{% a %}<p>b", "<a href=\"{{a}}\" title='{% b \"c\" %}' id={{d}}>e",
+        "{% a %}<p>b", R"(<a href="{{a}}" title='{% b "c" %}' id={{d}}>e)",
         "<title>{{a}}</title><script>{{b}}</script>", "<html><body>{{a}}<head>{{b}}</head>"})
     EXPECT_EQ(FaithfulPage(Original(file)).TextToLoad(), QLatin1String(file));
 }

@@ -33,7 +33,7 @@ TEST_P(SavedEdits, ChangeNothingElse) {
   EXPECT_EQ(saved.page.text, DecodePage(edit.saved).text);
 }
 
-const char16_t *const plain =
+const char16_t *const Plain =
     u"<html><head></head><body><p>one two three</p><p>four</p>\n</body></html>";
 
 INSTANTIATE_TEST_SUITE_P(
@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
              u"<html><head></head><body><p>caf\u00e9 \u00e9t\u00e9 \u00a9</p></body></html>",
              u"<html><head></head><body><p>caf\u00e9 \u00e9t\u00e9s \u00a9</p></body></html>",
              "<p>caf&eacute; &#233;t&eacute;s &copy</p>"},
-        Edit{"bold", "<p>one two three</p><p>four</p>", plain,
+        Edit{"bold", "<p>one two three</p><p>four</p>", Plain,
              u"<html><head></head><body><p>one <b>two</b> three</p><p>four</p>\n</body></html>",
              "<p>one <b>two</b> three</p><p>four</p>"},
         Edit{"a paragraph taken away", "<P>one two three</P>\n<P>four</P>\n<P>five</P>",

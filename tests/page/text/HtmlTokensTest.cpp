@@ -152,7 +152,7 @@ class RandomMarkup {
  public:
   QString Text(int parts) {
     QString html;
-    for (int part = 0; part < parts; ++part) html += QStringView(pieces[Below(std::size(pieces))]);
+    for (int part = 0; part < parts; ++part) html += QStringView(Pieces[Below(std::size(Pieces))]);
     return html;
   }
   /// The text with one stretch exchanged.
@@ -163,7 +163,7 @@ class RandomMarkup {
   }
 
  private:
-  static constexpr char16_t pieces[][12] = {
+  static constexpr char16_t Pieces[][12] = {
       u"<",        u">",      u"a",      u" ",   u"&",    u"&amp;",     u"\r",
       u"\n",       u"<p ",    u"=\"",    u"'",   u"<!--", u"-->",       u"</",
       u"/",        u"<svg>",  u"</svg>", u"<b>", u"</b>", u"<pre>",     u"<script>",

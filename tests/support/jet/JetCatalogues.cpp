@@ -51,7 +51,8 @@ FixtureTable Projects(const CatalogueShape &shape, std::mt19937 &random) {
                  Days{37800 + static_cast<double>(random() % 86400) / 86400 + i},
                  Cell(),
                  i * 0.125};
-    if (i % 2 == 0) row.cells[5] = QString(random() % 9000, QChar(u'a' + i % 26));
+    if (i % 2 == 0)
+      row.cells[5] = QString(static_cast<qsizetype>(random() % 9000), QChar(u'a' + i % 26));
     table.rows.push_back(row);
   }
   return table;
@@ -150,7 +151,7 @@ QString RandomText(std::mt19937 &random, int longest) {
   const auto length = static_cast<qsizetype>(random() % static_cast<unsigned>(longest + 1));
   QString text;
   while (text.size() < length) {
-    const QString &piece = pieces[random() % pieces.size()];
+    const QString &piece = pieces[static_cast<qsizetype>(random()) % pieces.size()];
     if (plain && piece.size() == 1 && piece.front().unicode() > 255) continue;
     if (plain && piece.front().isHighSurrogate()) continue;
     text += piece;

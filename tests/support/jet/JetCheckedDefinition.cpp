@@ -50,7 +50,7 @@ class Reader {
 
 CheckedColumn ReadColumn(const QByteArray &bytes) {
   CheckedColumn column;
-  column.type = bytes[0];
+  column.type = static_cast<uchar>(bytes[0]);
   column.number = Get16(bytes, 5);
   column.variableIndex = Get16(bytes, 7);
   column.variable = (bytes[15] & 1) == 0;

@@ -110,13 +110,13 @@ void WriteDefinition(JetPageSet &pages, quint32 page, const FixtureTable &table,
   bytes.append(8, '\0');
   Put32(bytes, 0, static_cast<quint32>(bytes.size()));
 
-  constexpr qsizetype perPage = JetPageSize - PageHeader;
-  for (qsizetype start = 0; start < bytes.size(); start += perPage) {
-    const QByteArray part = bytes.mid(start, perPage);
-    const bool more = start + perPage < bytes.size();
+  constexpr qsizetype PerPage = JetPageSize - PageHeader;
+  for (qsizetype start = 0; start < bytes.size(); start += PerPage) {
+    const QByteArray part = bytes.mid(start, PerPage);
+    const bool more = start + PerPage < bytes.size();
     const quint32 next = more ? pages.Append() : 0;
     Put16(pages.At(page), 0, 0x0102);
-    Put16(pages.At(page), 2, static_cast<quint32>(perPage - part.size()));
+    Put16(pages.At(page), 2, static_cast<quint32>(PerPage - part.size()));
     Put32(pages.At(page), 4, next);
     pages.At(page).replace(PageHeader, part.size(), part);
     page = next;

@@ -77,7 +77,8 @@ QByteArray IndexKey(const Cell &cell) {
   return key;
 }
 
-WrittenIndex WriteIndex(JetPageSet &pages, quint32 definition, std::vector<IndexEntry> entries) {
+WrittenIndex WriteIndex(JetPageSet &pages, quint32 definition,
+                        const std::vector<IndexEntry> &entries) {
   std::vector<StoredEntry> level;
   for (const IndexEntry &entry : entries) level.push_back({EntryBytes(entry), 0});
   std::sort(level.begin(), level.end(), [](const StoredEntry &left, const StoredEntry &right) {

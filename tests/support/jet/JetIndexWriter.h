@@ -19,6 +19,7 @@ struct WrittenIndex {
   quint32 first = 0;
   std::set<quint32> owned;
 };
-WrittenIndex WriteIndex(JetPageSet &pages, quint32 definition, std::vector<IndexEntry> entries);
+WrittenIndex WriteIndex(JetPageSet &pages, quint32 definition,
+                        const std::vector<IndexEntry> &entries);
 
 }  // namespace velor::fixture

@@ -104,8 +104,8 @@ QString AsMdbtoolsSees(QString cell) {
 
 /// The first cell in which two rows differ, from a little before the first differing character.
 QString Difference(const QStringList &meant, const QStringList &seen) {
-  constexpr qsizetype before = 10;
-  constexpr qsizetype shown = 40;
+  constexpr qsizetype Before = 10;
+  constexpr qsizetype Shown = 40;
   for (qsizetype i = 0; i < std::max(meant.size(), seen.size()); ++i) {
     const QString expected = meant.value(i);
     const QString got = seen.value(i);
@@ -113,12 +113,12 @@ QString Difference(const QStringList &meant, const QStringList &seen) {
     const qsizetype at =
         std::mismatch(expected.begin(), expected.end(), got.begin(), got.end()).first -
         expected.begin();
-    const qsizetype from = std::max<qsizetype>(at - before, 0);
+    const qsizetype from = std::max<qsizetype>(at - Before, 0);
     return QStringLiteral(": row %1, column %2, character %3: meant ...%4, seen ...%5")
         .arg(meant.value(0))
         .arg(i)
         .arg(at)
-        .arg(expected.mid(from, shown), got.mid(from, shown));
+        .arg(expected.mid(from, Shown), got.mid(from, Shown));
   }
   return {};
 }
@@ -129,8 +129,8 @@ Reading Sorted(Reading reading) {
 }
 
 Reading AsMdbtoolsSees(Reading reading) {
-  for (auto &[name, rows] : reading)
-    for (QStringList &row : rows)
+  for (auto &table : reading)
+    for (QStringList &row : table.second)
       for (QString &cell : row) cell = AsMdbtoolsSees(cell);
   return Sorted(reading);
 }

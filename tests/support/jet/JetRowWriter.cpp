@@ -139,12 +139,12 @@ QByteArray JetRowWriter::MemoBytes(int column, const QString &text) {
     address = AddMemoRow(memos_[column], bytes);
   } else {
     // From the last part to the first, since each begins with the address of the next.
-    constexpr qsizetype part = LongestMemoRow - 4;
-    for (qsizetype start = (std::max<qsizetype>(bytes.size(), 1) - 1) / part * part; start >= 0;
-         start -= part) {
+    constexpr qsizetype Part = LongestMemoRow - 4;
+    for (qsizetype start = (std::max<qsizetype>(bytes.size(), 1) - 1) / Part * Part; start >= 0;
+         start -= Part) {
       QByteArray row;
       Add32(row, address);
-      address = AddMemoRow(memos_[column], row + bytes.mid(start, part));
+      address = AddMemoRow(memos_[column], row + bytes.mid(start, Part));
     }
   }
   QByteArray header;

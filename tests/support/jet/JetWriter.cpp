@@ -149,13 +149,13 @@ FixtureTable CatalogueOf(const std::vector<FixtureTable> &tables,
 /// Page 1 has to know which pages are in use. What lies beyond a map's reach counts as free, so the
 /// map holds the pages up to the end of what it can say: with bits for those not in use.
 void WriteGlobalMap(JetPageSet &pages, quint32 address) {
-  constexpr quint32 bitmapReach = 512;
-  constexpr quint32 bitmapPageReach = 32736;
-  const bool inlineMap = pages.Count() <= bitmapReach;
+  constexpr quint32 BitmapReach = 512;
+  constexpr quint32 BitmapPageReach = 32736;
+  const bool inlineMap = pages.Count() <= BitmapReach;
   std::set<quint32> free;
   // A bitmap page is a page in use itself; 17 of them at most reach further than any fixture.
-  const quint32 used = pages.Count() + (inlineMap ? 0 : pages.Count() / bitmapPageReach + 1);
-  const quint32 reach = inlineMap ? bitmapReach : (used / bitmapPageReach + 1) * bitmapPageReach;
+  const quint32 used = pages.Count() + (inlineMap ? 0 : pages.Count() / BitmapPageReach + 1);
+  const quint32 reach = inlineMap ? BitmapReach : (used / BitmapPageReach + 1) * BitmapPageReach;
   for (quint32 page = used; page < reach; ++page) free.insert(page);
   QByteArray map(69, '\0');
   if (inlineMap) {

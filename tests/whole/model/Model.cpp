@@ -161,13 +161,13 @@ QJsonObject Model::InJson(const Deed &deed) {
       {Kind::DiskHasRoom, "room"}, {Kind::Exit, "exit"},
       {Kind::Kill, "room"},        {Kind::Undo, "undo"},
       {Kind::TakeTheirs, "theirs"}};
-  constexpr std::array answers = {"yes", "no", "cancel"};
+  constexpr std::array Answers = {"yes", "no", "cancel"};
   QJsonObject sent{{QStringLiteral("do"), QString::fromLatin1(names.value(deed.kind))},
                    {QStringLiteral("answer"),
-                    QString::fromLatin1(answers.at(static_cast<std::size_t>(deed.answer)))},
+                    QString::fromLatin1(Answers.at(static_cast<std::size_t>(deed.answer)))},
                    {QStringLiteral("page"), deed.choice}};
   const QStringList files = PeoplesFiles();
-  const QString chosen = files.at(deed.choice % files.size());
+  const QString &chosen = files.at(deed.choice % files.size());
   if (deed.kind == Kind::Open) sent.insert(QStringLiteral("path"), chosen);
   if (deed.kind == Kind::Drop) {
     QJsonArray paths;
@@ -185,7 +185,7 @@ QJsonObject Model::InJson(const Deed &deed) {
 
 QString Model::Act(const Deed &deed) {
   const QStringList files = PeoplesFiles();
-  const QString chosen = files.at(deed.choice % files.size());
+  const QString &chosen = files.at(deed.choice % files.size());
   switch (deed.kind) {
     case Kind::MakeReadOnly:
     case Kind::MakeWritable:

@@ -68,11 +68,11 @@ Deed RandomDeed(QRandomGenerator &random) {
 }  // namespace
 
 QString InWords(const Deed &deed) {
-  constexpr std::array answers = {"yes", "no", "cancel"};
+  constexpr std::array Answers = {"yes", "no", "cancel"};
   return QStringLiteral("%1 %2 %3")
       .arg(QString::fromLatin1(HabitOf(deed.kind).name))
       .arg(deed.choice)
-      .arg(QString::fromLatin1(answers.at(static_cast<std::size_t>(deed.answer))));
+      .arg(QString::fromLatin1(Answers.at(static_cast<std::size_t>(deed.answer))));
 }
 
 QString InWords(const std::vector<Deed> &walk) {
