@@ -126,7 +126,7 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
       {"mnuFindCommand", "txtWords lstCommands"},
       {"mnuSettings",
        "ShowDetails SnapToGrid showtoolbox WrapSource MenuStyle mnuFore mnuBorder mnuHighlight "
-       "mnuHighFore PublishedOnly cmdOK cmdCancel"},
+       "mnuHighFore WholeTemplateSigns PublishedOnly cmdOK cmdCancel"},
       {"mnuDrives", "lstDrives cobLetter cmdAdd OK Cancel"},
       {"mnuTBLnew",
        "Text1 Text2 Combo1 combo2 combo3 combo4 Command1 Command2 qt_tabwidget_tabbar"},
