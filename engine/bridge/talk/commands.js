@@ -62,8 +62,6 @@ function commonValue(subjects, read, same = (one, other) => one === other) {
  * @returns {View}
  */
 export const readView = () => {
-  // The engine tells later that the selection has moved.
-  pending.clearIfMoved();
   const range = selection.range();
   /** @type {<T>(read: () => T) => () => T} */
   const once = (read) => {
@@ -300,8 +298,11 @@ export const exec = (number, value = '') => {
   if (statusOf(number, view) === Status.Disabled) return false;
   if (command.value) return queryValue(number, view);
   work(() => {
-    if (command.travel) command.travel();
-    else if (command.run) {
+    if (command.travel) {
+      command.travel();
+      // The engine tells later that the selection has moved.
+      pending.clearIfMoved();
+    } else if (command.run) {
       history.step(number, () => {
         if (!view.range.collapsed) resolveAll();
         command.run(String(value), view);

@@ -9,10 +9,10 @@
 namespace velor {
 namespace {
 
-const auto *const picture = "<p>one<img width=\"100\" height=\"50\" alt=\"\">two</p>";
+const auto *const PictureMarkup = R"(<p>one<img width="100" height="50" alt="">two</p>)";
 
 TEST_F(Objects, AClickSelectsAPictureAndDrawsEightHandlesWithoutTouchingThePage) {
-  Load(QString::fromLatin1(picture));
+  Load(QString::fromLatin1(PictureMarkup));
   Evaluate(
       QStringLiteral("globalThis.records = 0;"
                      "new MutationObserver((all) => { records += all.length; })"
@@ -28,7 +28,7 @@ TEST_F(Objects, AClickSelectsAPictureAndDrawsEightHandlesWithoutTouchingThePage)
 }
 
 TEST_F(Objects, TheFrameGoesWhenTextIsSelected) {
-  Load(QString::fromLatin1(picture));
+  Load(QString::fromLatin1(PictureMarkup));
   page_.Click({80, 40});
   ASSERT_TRUE(FrameComesAround(QStringLiteral("img")));
   Evaluate(QStringLiteral("getSelection().collapse(document.querySelector('p').firstChild, 1)"));

@@ -80,6 +80,7 @@ QByteArray IndexKey(const Cell &cell) {
 WrittenIndex WriteIndex(JetPageSet &pages, quint32 definition,
                         const std::vector<IndexEntry> &entries) {
   std::vector<StoredEntry> level;
+  level.reserve(entries.size());
   for (const IndexEntry &entry : entries) level.push_back({EntryBytes(entry), 0});
   std::sort(level.begin(), level.end(), [](const StoredEntry &left, const StoredEntry &right) {
     return std::lexicographical_compare(

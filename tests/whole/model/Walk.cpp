@@ -83,6 +83,7 @@ QString InWords(const std::vector<Deed> &walk) {
 
 std::vector<Deed> RandomWalk(QRandomGenerator &random, int length) {
   std::vector<Deed> walk;
+  walk.reserve(static_cast<std::size_t>(length));
   for (int i = 0; i < length; ++i) walk.push_back(RandomDeed(random));
   return walk;
 }
