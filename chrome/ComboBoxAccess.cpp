@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/ComboBoxAccess.h"
 
+#include "chrome/WidgetAccess.h"
+
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QComboBox>
@@ -62,16 +64,10 @@ class ComboBoxAccess final : public QAccessibleWidget {
   QComboBox &Box() const { return *static_cast<QComboBox *>(widget()); }
 };
 
-QAccessibleInterface *Access(const QString &className, QObject *object) {
-  auto *box = qobject_cast<QComboBox *>(object);
-  if (!box || className != QComboBox::staticMetaObject.className()) return nullptr;
-  return new ComboBoxAccess(*box);
-}
-
 }  // namespace
 
 void AnnounceComboBoxLabels() {
-  QAccessible::installFactory(Access);
+  InstallAccess<QComboBox, ComboBoxAccess>();
 }
 
 }  // namespace velor

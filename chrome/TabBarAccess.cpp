@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/TabBarAccess.h"
 
+#include "chrome/WidgetAccess.h"
+
 #include <QAccessibleWidget>
 #include <QHash>
 #include <QTabBar>
@@ -112,16 +114,10 @@ class TabBarAccess final : public QAccessibleWidget {
   mutable QHash<int, QAccessible::Id> tabs_;
 };
 
-QAccessibleInterface *Access(const QString &className, QObject *object) {
-  auto *bar = qobject_cast<QTabBar *>(object);
-  if (!bar || className != QTabBar::staticMetaObject.className()) return nullptr;
-  return new TabBarAccess(*bar);
-}
-
 }  // namespace
 
 void AnnounceTabStates() {
-  QAccessible::installFactory(Access);
+  InstallAccess<QTabBar, TabBarAccess>();
 }
 
 }  // namespace velor

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/RunningProgram.h"
 
+#include "files/FileDescriptor.h"
+#include "files/StateFolder.h"
+#include "platform/RuntimeError.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -15,7 +19,6 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 #include <utility>
 
 namespace velor {
@@ -50,22 +53,12 @@ OpeningRequest RequestOf(const QByteArray &line) {
 
 /// Two programs that start at once claim one after the other. The kernel opens the lock of one that
 /// is killed.
-class StartLock {
- public:
-  explicit StartLock(const QString &socket)
-      : file_(open(QFile::encodeName(socket + QStringLiteral(".lock")).constData(),
-                   O_CREAT | O_RDWR | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR)) {
-    if (file_ >= 0) flock(file_, LOCK_EX);
-  }
-  ~StartLock() {
-    if (file_ >= 0) close(file_);
-  }
-  StartLock(const StartLock &) = delete;
-  StartLock &operator=(const StartLock &) = delete;
-
- private:
-  const int file_;
-};
+FileDescriptor LockStarts(const QString &socket) {
+  FileDescriptor file(open(QFile::encodeName(socket + QStringLiteral(".lock")).constData(),
+                           O_CREAT | O_RDWR | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
+  if (file.IsOpen()) flock(file.Number(), LOCK_EX);
+  return file;
+}
 
 }  // namespace
 
@@ -74,11 +67,12 @@ QString SocketOfProgram(const QString &programFolder) {
       QCryptographicHash::hash(programFolder.toUtf8(), QCryptographicHash::Sha256);
   QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
   if (folder.isEmpty() || !QDir(folder).exists()) {
-    folder = qEnvironmentVariable("XDG_STATE_HOME");
-    if (folder.isEmpty()) folder = QDir::homePath() + QStringLiteral("/.local/state");
-    folder += QStringLiteral("/velor-web-creator");
-    QDir().mkpath(folder);
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    folder = StateFolder();
+    try {
+      MakePrivateFolder(folder);
+    } catch (const RuntimeError &) {
+      // No socket can be made there.
+    }
   }
   return QStringLiteral("%1/velor-web-creator-%2").arg(folder, name.left(8).toHex());
 }
@@ -102,7 +96,7 @@ RunningProgram::~RunningProgram() = default;
 
 bool RunningProgram::Claim() {
   const QString socket = SocketOfProgram(programFolder_);
-  const StartLock lock(socket);
+  const FileDescriptor lock = LockStarts(socket);
   QLocalSocket other;
   other.connectToServer(socket);
   if (other.waitForConnected(ConnectLimit)) return false;

@@ -313,18 +313,15 @@ void CommandRouter::ShowSourceLine(frmMain &page, int line) {
 
 void CommandRouter::OpenDroppedFiles(const QStringList &paths, frmMain *page) {
   const QPointer<frmMain> alive = page;
-  bool isRefused = false;
+  QStringList pages;
   for (const QString &path : paths) {
     if (HasEnding(path, PageEndings)) {
-      if (isOpening_ || ShowPageOfFile(context_, path)) continue;
-      // One report for all files that were refused.
-      isRefused = isRefused || !HasRoom(context_);
-      if (!isRefused) OpenFile(path);
+      pages += path;
     } else if (!alive.isNull() && HasEnding(path, PictureEndings)) {
       insert_.PictureFile(*alive, path);
     }
   }
-  UpdateDialogFileName();
+  if (!isOpening_) OpenFiles(pages, 0);
 }
 
 void CommandRouter::ActivatePage(int number) {

@@ -2,6 +2,7 @@
 #include "app/window/PageAreaAccess.h"
 
 #include "app/window/PageArea.h"
+#include "chrome/WidgetAccess.h"
 
 #include <QAccessibleWidget>
 
@@ -33,16 +34,10 @@ class PageAreaAccess final : public QAccessibleWidget {
   }
 };
 
-QAccessibleInterface *Access(const QString &className, QObject *object) {
-  auto *area = qobject_cast<PageArea *>(object);
-  if (!area || className != PageArea::staticMetaObject.className()) return nullptr;
-  return new PageAreaAccess(*area);
-}
-
 }  // namespace
 
 void AnnounceSeenPages() {
-  QAccessible::installFactory(Access);
+  InstallAccess<PageArea, PageAreaAccess>();
 }
 
 }  // namespace velor

@@ -136,12 +136,4 @@ if __name__ == "__main__":
     out_folder = os.path.abspath(sys.argv[1])
     shutil.rmtree(out_folder, ignore_errors=True)
     os.makedirs(out_folder)
-    first = FirstDay(out_folder)
-    try:
-        day(first)
-    except Exception:
-        if first.program is not None:
-            first.program.shot("failure")
-        raise
-    finally:
-        first.end()
+    FirstDay(out_folder).carry_out([day])

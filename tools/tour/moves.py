@@ -83,6 +83,18 @@ class Tour:
         self.program.press(button)
         self.program.wait_gone(text, "label")
 
+    def carry_out(self, scenarios):
+        """Runs them one after the other, and ends. What fails is photographed."""
+        try:
+            for scenario in scenarios:
+                scenario(self)
+        except Exception:
+            if self.program is not None:
+                self.program.shot("failure")
+            raise
+        finally:
+            self.end()
+
     def end(self):
         """Whatever state the tour is in."""
         if self.program is not None:

@@ -36,22 +36,9 @@ SCENARIOS = (
 )
 
 
-def run(run_folder, out):
-    tour = Tour(run_folder, out)
-    try:
-        for scenario in SCENARIOS:
-            scenario(tour)
-    except Exception:
-        if tour.program is not None:
-            tour.program.shot("failure")
-        raise
-    finally:
-        tour.end()
-
-
 if __name__ == "__main__":
     run_folder, out_folder = (os.path.abspath(argument) for argument in sys.argv[1:3])
     shutil.rmtree(out_folder, ignore_errors=True)
     os.makedirs(out_folder)
-    run(run_folder, out_folder)
+    Tour(run_folder, out_folder).carry_out(SCENARIOS)
     print(f"tour: done; screenshots and the saved page lie in {out_folder}")
