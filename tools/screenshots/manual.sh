@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Makes the pictures of the manual out of screenshots.sh's light ones at 100 %. Needs ImageMagick.
+# Usage: manual.sh [SCREENSHOTS_FOLDER]
+set -euo pipefail
+top=$(cd "$(dirname "$0")/../.." && pwd)
+shots=${1:-$top/build/screenshots}
+
+# The picture's name, the screenshot's, what is cut out of it, and the width that it gets.
+while read -r name shot part width; do
+  found=$(compgen -G "$shots/light-100-$shot.png" | head -n 1)
+  [ -n "$found" ] || { echo "manual.sh: there is no $shot in $shots" >&2; exit 1; }
+  convert "$found" -crop "$part" +repage -resize "$width" -strip +dither -colors 96 \
+    -define png:compression-level=9 "$top/docs/manual/$name.png"
+done <<'PICTURES'
+window       main-*-five-pages         1280x790+0+0    768x
+recovery     recovery-*-bar            1280x270+0+0    768x
+details      objects-*-details         760x480+0+160   760x
+grid         objects-*-box-on-grid     800x340+0+206   760x
+table        main-*-table-dialog       362x418+459+207 362x
+image        main-*-image-dialog       598x590+341+122 562x
+link         main-*-link-dialog        598x590+341+122 562x
+view-html    main-*-view-html          760x300+0+112   760x
+edit-html    main-*-edit-html-find-bar 1280x820+0+0    768x
+projects     main-*-project-manager    860x523+210+157 700x
+settings     main-*-settings           500x712+391+60  500x
+find-command main-*-find-command       422x404+429+213 422x
+PICTURES
