@@ -12,19 +12,18 @@
 namespace velor {
 namespace {
 
-const QString Setting = QStringLiteral("WrapSource");
+constexpr const Preference &WrapSource = PreferenceOf("WrapSource");
 
 }  // namespace
 
 LineWrap ChosenLineWrap(const Registry &registry) {
-  const QString chosen = modSettingManager::GetOption(registry, Setting, QStringLiteral("True"));
-  return LowerCase(chosen) == QStringLiteral("false") ? LineWrap::Off : LineWrap::On;
+  return modSettingManager::IsOn(registry, WrapSource) ? LineWrap::On : LineWrap::Off;
 }
 
 void TurnLineWrap(EditorContext &context) {
   Registry &registry = context.platform.registry;
   const bool isOn = ChosenLineWrap(registry) == LineWrap::On;
-  modSettingManager::SetOption(registry, Setting, BoolText(!isOn));
+  modSettingManager::SetOption(registry, WrapSource.Name(), BoolText(!isOn));
   ShowLineWrap(context);
 }
 

@@ -8,8 +8,7 @@ namespace velor {
 class Registry;
 struct EditorContext;
 
-/// The preference WrapSource (default "True"): whether source views and source editors wrap long
-/// lines.
+/// The preference WrapSource: whether source views and source editors wrap long lines.
 LineWrap ChosenLineWrap(const Registry &registry);
 /// Shows every source view and source editor that is open by that preference.
 void ShowLineWrap(EditorContext &context);

@@ -53,17 +53,20 @@ constexpr int SnapPosition = 7;
 
 constexpr int QuickIconSize = 16;
 
+constexpr const Preference &ShowDetails = PreferenceOf("ShowDetails");
+constexpr const Preference &SnapToGrid = PreferenceOf("SnapToGrid");
+
 /// Colour slots of the source view: margin background and line numbers grey on white.
 constexpr std::int32_t Grey = 0x808080;
 constexpr std::int32_t White = 0xFFFFFF;
 
 /// Reads a preference that is a truth value. An unusable text is reported once a run, by a message
 /// from the event loop.
-bool TruthOption(EditorContext &context, const QString &name, const QString &defaultValue) {
+bool TruthOption(EditorContext &context, const Preference &preference) {
   return modSettingManager::TruthOption(
-      context.platform.registry, name, defaultValue, [&](const RuntimeError &fault) {
-        if (context.toldSettings.contains(name)) return;
-        context.toldSettings << name;
+      context.platform.registry, preference, [&](const RuntimeError &fault) {
+        if (context.toldSettings.contains(preference.Name())) return;
+        context.toldSettings << preference.Name();
         QTimer::singleShot(0, [&dialogs = context.platform.dialogs, text = fault.Description()] {
           dialogs.ShowMessage({.text = text, .icon = MessageIcon::Critical});
         });
@@ -101,11 +104,9 @@ frmMain::frmMain(EditorContext &context, int number)
   layout->addWidget(outside_);
   setFocusProxy(component_->Widget());
 
-  component_->SetShowDetails(
-      TruthOption(context_, QStringLiteral("ShowDetails"), QStringLiteral("False")));
+  component_->SetShowDetails(TruthOption(context_, ShowDetails));
   QuickButton(u"detail")->ShowChecked(component_->ShowDetails());
-  component_->SetSnapToGrid(
-      TruthOption(context_, QStringLiteral("SnapToGrid"), QStringLiteral("True")));
+  component_->SetSnapToGrid(TruthOption(context_, SnapToGrid));
   QuickButton(u"snap")->ShowChecked(component_->SnapToGrid());
   QuickButton(u"design")->ShowChecked(true);
   source_->SetColor(1, Grey);
@@ -163,14 +164,14 @@ void frmMain::QuickButtonClicked(int position) {
 
 void frmMain::ToggleShowDetails() {
   component_->SetShowDetails(!component_->ShowDetails());
-  modSettingManager::SetOption(context_.platform.registry, QStringLiteral("ShowDetails"),
+  modSettingManager::SetOption(context_.platform.registry, ShowDetails.Name(),
                                BoolText(component_->ShowDetails()));
   QuickButton(u"detail")->ShowChecked(component_->ShowDetails());
 }
 
 void frmMain::ToggleSnapToGrid() {
   component_->SetSnapToGrid(!component_->SnapToGrid());
-  modSettingManager::SetOption(context_.platform.registry, QStringLiteral("SnapToGrid"),
+  modSettingManager::SetOption(context_.platform.registry, SnapToGrid.Name(),
                                BoolText(component_->SnapToGrid()));
   QuickButton(u"snap")->ShowChecked(component_->SnapToGrid());
 }
@@ -203,7 +204,7 @@ void frmMain::OnActivated() {
   } catch (const RuntimeError &) {
     // The window outlives its tab for a moment while it closes, and its tab may not be there yet.
   }
-  if (TruthOption(context_, QStringLiteral("showtoolbox"), QStringLiteral("True"))) {
+  if (TruthOption(context_, PreferenceOf("showtoolbox"))) {
     context_.mainWindow.requests.ResetElementInspection();
   }
 }

@@ -20,13 +20,13 @@ QString Product() {
 }
 
 template <typename Value>
-Value Converted(const Registry &registry, const QString &valueName, const QString &defaultValue,
+Value Converted(const Registry &registry, const Preference &preference,
                 Value (*convert)(QStringView), const FaultListener &tell) {
   try {
-    return convert(GetOption(registry, valueName, defaultValue));
+    return convert(GetOption(registry, preference));
   } catch (const RuntimeError &error) {
-    tell(FaultOf(registry, valueName, defaultValue, error));
-    return convert(defaultValue);
+    tell(FaultOf(registry, preference, error));
+    return convert(preference.Default());
   }
 }
 
@@ -55,32 +55,43 @@ QString GetOption(const Registry &registry, const QString &valueName, const QStr
                        defaultValue);
 }
 
+QString GetOption(const Registry &registry, const Preference &preference) {
+  return GetOption(registry, preference.Name(), preference.Default());
+}
+
 QString OptionsPlace(const Registry &registry) {
   return registry.Location(KeyPath(Product(), QString::fromUtf16(OptionSection)));
 }
 
-bool TruthOption(const Registry &registry, const QString &valueName, const QString &defaultValue,
+bool TruthOption(const Registry &registry, const Preference &preference,
                  const FaultListener &tell) {
-  return Converted<bool>(registry, valueName, defaultValue, &CBool, tell);
+  return Converted<bool>(registry, preference, &CBool, tell);
 }
 
-std::int16_t IntegerOption(const Registry &registry, const QString &valueName,
-                           const QString &defaultValue, const FaultListener &tell) {
-  return Converted<std::int16_t>(registry, valueName, defaultValue, &CInt, tell);
+std::int16_t IntegerOption(const Registry &registry, const Preference &preference,
+                           const FaultListener &tell) {
+  return Converted<std::int16_t>(registry, preference, &CInt, tell);
 }
 
-std::int32_t LongOption(const Registry &registry, const QString &valueName,
-                        const QString &defaultValue, const FaultListener &tell) {
-  return Converted<std::int32_t>(registry, valueName, defaultValue, &CLng, tell);
+std::int32_t LongOption(const Registry &registry, const Preference &preference,
+                        const FaultListener &tell) {
+  return Converted<std::int32_t>(registry, preference, &CLng, tell);
 }
 
-RuntimeError FaultOf(const Registry &registry, const QString &valueName,
-                     const QString &defaultValue, const RuntimeError &cause) {
+bool IsOn(const Registry &registry, const Preference &preference) {
+  const QString on = LowerCase(BoolText(true));
+  const QString off = LowerCase(BoolText(false));
+  const QString chosen = LowerCase(GetOption(registry, preference));
+  return chosen == on || chosen == off ? chosen == on : CBool(preference.Default());
+}
+
+RuntimeError FaultOf(const Registry &registry, const Preference &preference,
+                     const RuntimeError &cause) {
   return RuntimeError::Of(
       cause.Number(), cause.Source(),
       QStringLiteral("the setting %1 in %2 is \"%3\"; \"%4\" counts until it is mended")
-          .arg(valueName, OptionsPlace(registry), GetOption(registry, valueName, defaultValue),
-               defaultValue));
+          .arg(preference.Name(), OptionsPlace(registry), GetOption(registry, preference),
+               preference.Default()));
 }
 
 void AddToHistory(Registry &registry, const QString &path) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/settings/Preferences.h"
 #include "platform/Registry.h"
 #include "platform/RuntimeError.h"
 
@@ -33,6 +34,7 @@ QString GetRegSetting(const Registry &registry, const QString &applicationName,
 /// Stores and reads a preference as text. The functions below also convert what they read.
 void SetOption(Registry &registry, const QString &valueName, const QString &value);
 QString GetOption(const Registry &registry, const QString &valueName, const QString &defaultValue);
+QString GetOption(const Registry &registry, const Preference &preference);
 
 /// Where people find the stored preferences: a file, or the name of the store.
 QString OptionsPlace(const Registry &registry);
@@ -43,16 +45,19 @@ using FaultListener = std::function<void(const RuntimeError &)>;
 
 // Read a preference and convert it (CBool, CInt, CLng). Where that fails they call `tell` and
 // return the default's value.
-bool TruthOption(const Registry &registry, const QString &valueName, const QString &defaultValue,
-                 const FaultListener &tell);
-std::int16_t IntegerOption(const Registry &registry, const QString &valueName,
-                           const QString &defaultValue, const FaultListener &tell);
-std::int32_t LongOption(const Registry &registry, const QString &valueName,
-                        const QString &defaultValue, const FaultListener &tell);
+bool TruthOption(const Registry &registry, const Preference &preference, const FaultListener &tell);
+std::int16_t IntegerOption(const Registry &registry, const Preference &preference,
+                           const FaultListener &tell);
+std::int32_t LongOption(const Registry &registry, const Preference &preference,
+                        const FaultListener &tell);
+
+/// Reads a preference that is "True" or "False" in any letter case; for every other text the
+/// default counts, and nothing is told.
+bool IsOn(const Registry &registry, const Preference &preference);
 
 /// The error for a preference whose stored text is unusable, with the number of `cause`.
-RuntimeError FaultOf(const Registry &registry, const QString &valueName,
-                     const QString &defaultValue, const RuntimeError &cause);
+RuntimeError FaultOf(const Registry &registry, const Preference &preference,
+                     const RuntimeError &cause);
 
 /// Writes an opened file to the next slot of the ring, also when another slot has it already; slot
 /// 1 follows slot 100. `path` in logic form; it is stored in the form for people (ForPeople).

@@ -31,19 +31,20 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
   QVBoxLayout *window = MakePage(this);
 
   QFormLayout *pages = AddFrame(window, QStringLiteral("Pages that are opened from now on"));
-  AddTruth(pages, "ShowDetails", "False", QStringLiteral("Show &details"));
-  AddTruth(pages, "SnapToGrid", "True", QStringLiteral("&Snap to grid"));
-  AddTruth(pages, "showtoolbox", "True",
+  AddTruth(pages, PreferenceOf("ShowDetails"), QStringLiteral("Show &details"));
+  AddTruth(pages, PreferenceOf("SnapToGrid"), QStringLiteral("&Snap to grid"));
+  AddTruth(pages, PreferenceOf("showtoolbox"),
            QStringLiteral("&Forget the inspected element when another page comes to the front"));
   QFormLayout *source = AddFrame(window, QStringLiteral("Source"));
-  AddTruth(source, "WrapSource", "True", QStringLiteral("&Wrap long lines"));
+  AddTruth(source, PreferenceOf("WrapSource"), QStringLiteral("&Wrap long lines"));
   QFormLayout *menus = AddFrame(window, QStringLiteral("Menus"));
   AddMenuStyle(menus);
   for (const ColorSetting &setting : ColorSettings) AddColor(menus, setting);
   QFormLayout *program = AddFrame(window, QStringLiteral("From the next start on"));
-  AddTruth(program, "WholeTemplateSigns", "True", QStringLiteral("&Keep template signs whole"));
+  AddTruth(program, PreferenceOf("WholeTemplateSigns"),
+           QStringLiteral("&Keep template signs whole"));
   QCheckBox *publishedOnly =
-      AddTruth(program, "PublishedOnly", "False",
+      AddTruth(program, PreferenceOf("PublishedOnly"),
                QStringLiteral("&Published behaviour only, without the menu Tools"));
   publishedOnly->setToolTip(QStringLiteral("PublishedOnly=False in %1 brings the menu back.")
                                 .arg(Settings::OptionsPlace(registry)));
@@ -71,46 +72,46 @@ void FrmSettings::Tell(const RuntimeError &fault) {
   isFaulty_ = true;
 }
 
-QCheckBox *FrmSettings::AddTruth(QFormLayout *form, const char *name, const char *defaultValue,
+QCheckBox *FrmSettings::AddTruth(QFormLayout *form, const Preference &preference,
                                  const QString &caption) {
-  const QString setting = QString::fromLatin1(name);
-  QCheckBox *box = AddCheckBox(form, setting, caption);
-  box->setChecked(Settings::TruthOption(registry_, setting, QString::fromLatin1(defaultValue),
+  QCheckBox *box = AddCheckBox(form, preference.Name(), caption);
+  box->setChecked(Settings::TruthOption(registry_, preference,
                                         [this](const RuntimeError &fault) { Tell(fault); }));
-  AddRow(setting, [box] { return BoolText(box->isChecked()); });
+  AddRow(preference.Name(), [box] { return BoolText(box->isChecked()); });
   return box;
 }
 
 void FrmSettings::AddMenuStyle(QFormLayout *form) {
-  style_ = AddComboBox(form, QStringLiteral("MenuStyle"), QStringLiteral("Style:"),
+  constexpr const Preference &menuStyle = PreferenceOf("MenuStyle");
+  constexpr const Preference &menuBackground = PreferenceOf("MenuBackground");
+  style_ = AddComboBox(form, menuStyle.Name(), QStringLiteral("Style:"),
                        {QStringLiteral("Picture file")});
   for (const MenuRow &row : MenuTable())
     if (row.command.id == CommandId::MenuStyle) style_->addItem(QString::fromLatin1(row.caption));
   const int last = style_->count() - 1;
-  const QString setting = QStringLiteral("MenuStyle");
-  int style = Settings::IntegerOption(registry_, setting, QStringLiteral("2"),
+  int style = Settings::IntegerOption(registry_, menuStyle,
                                       [this](const RuntimeError &fault) { Tell(fault); });
   if (style < 0 || style > last) {
-    Tell(Settings::FaultOf(registry_, setting, QStringLiteral("2"),
-                           RuntimeError::Of(ErrorNumber::IndexOutOfBounds, setting)));
-    style = 2;
+    Tell(Settings::FaultOf(registry_, menuStyle,
+                           RuntimeError::Of(ErrorNumber::IndexOutOfBounds, menuStyle.Name())));
+    style = CInt(menuStyle.Default());
   }
   style_->setCurrentIndex(style);
-  AddRow(setting, [this] { return QString::number(style_->currentIndex()); });
+  AddRow(menuStyle.Name(), [this] { return QString::number(style_->currentIndex()); });
 
-  background_ = AddTextBox(form, QStringLiteral("MenuBackground"), QStringLiteral("Picture file:"));
-  background_->setText(Settings::GetOption(registry_, QStringLiteral("MenuBackground"), QString()));
-  AddRow(QStringLiteral("MenuBackground"), [this] { return background_->text(); });
+  background_ = AddTextBox(form, menuBackground.Name(), QStringLiteral("Picture file:"));
+  background_->setText(Settings::GetOption(registry_, menuBackground));
+  AddRow(menuBackground.Name(), [this] { return background_->text(); });
   const auto followStyle = [this] { background_->setEnabled(style_->currentIndex() == 0); };
   connect(style_, &QComboBox::currentIndexChanged, this, followStyle);
   followStyle();
 }
 
 void FrmSettings::AddColor(QFormLayout *form, const ColorSetting &setting) {
-  const QString name = QString::fromLatin1(setting.name);
+  const QString name = setting.preference.Name();
   auto *picker = new ColorPicker(QStringLiteral("backcolor"), this);
   AddControl(form, name, QString::fromLatin1(setting.label), picker);
-  picker->SetColor(Settings::LongOption(registry_, name, QString::fromLatin1(setting.defaultValue),
+  picker->SetColor(Settings::LongOption(registry_, setting.preference,
                                         [this](const RuntimeError &fault) { Tell(fault); }));
   AddRow(name, [picker] { return QString::number(picker->Color()); });
 }

@@ -42,8 +42,7 @@ class FrmSettings final : public QDialog {
     std::optional<QString> before;
   };
 
-  QCheckBox *AddTruth(QFormLayout *form, const char *name, const char *defaultValue,
-                      const QString &caption);
+  QCheckBox *AddTruth(QFormLayout *form, const Preference &preference, const QString &caption);
   void AddMenuStyle(QFormLayout *form);
   void AddColor(QFormLayout *form, const ColorSetting &setting);
   void AddRow(const QString &name, const std::function<QString()> &text);

@@ -15,8 +15,7 @@
 namespace velor {
 namespace {
 
-constexpr const char16_t *StyleSetting = u"MenuStyle";
-constexpr const char16_t *BackgroundSetting = u"MenuBackground";
+constexpr const Preference &MenuStyle = PreferenceOf("MenuStyle");
 
 void LoadBackground(const QString &name, const MenuPictures &pictures, MenuPainter &painter) {
   try {
@@ -35,10 +34,10 @@ QPixmap Loaded(const QString &file, ErrorNumber failure) {
 }  // namespace
 
 const std::array<ColorSetting, 4> ColorSettings{{
-    {"mnuFore", "0", "Text:", &MenuPainter::SetTextColor},
-    {"mnuBorder", "8388608", "Border:", &MenuPainter::SetBorderColor},
-    {"mnuHighlight", "16761024", "Chosen item:", &MenuPainter::SetHighlightColor},
-    {"mnuHighFore", "0", "Text of the chosen item:", &MenuPainter::SetHighlightTextColor},
+    {PreferenceOf("mnuFore"), "Text:", &MenuPainter::SetTextColor},
+    {PreferenceOf("mnuBorder"), "Border:", &MenuPainter::SetBorderColor},
+    {PreferenceOf("mnuHighlight"), "Chosen item:", &MenuPainter::SetHighlightColor},
+    {PreferenceOf("mnuHighFore"), "Text of the chosen item:", &MenuPainter::SetHighlightTextColor},
 }};
 
 MenuPictures ProgramMenuPictures() {
@@ -61,26 +60,21 @@ void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPa
     if (!first) first = fault;
     faults << fault.Description();
   };
-  const QString styleSetting = QString::fromUtf16(StyleSetting);
-  const QString defaultStyle = QStringLiteral("2");
-  int style = modSettingManager::IntegerOption(registry, styleSetting, defaultStyle, tell);
+  int style = modSettingManager::IntegerOption(registry, MenuStyle, tell);
   if (style != 0) {
     try {
       painter.SetBackground(pictures.numbered(style));
     } catch (const RuntimeError &error) {
-      tell(modSettingManager::FaultOf(registry, styleSetting, defaultStyle, error));
-      style = CInt(defaultStyle);
+      tell(modSettingManager::FaultOf(registry, MenuStyle, error));
+      style = CInt(MenuStyle.Default());
       painter.SetBackground(pictures.numbered(style));
     }
   } else {
-    LoadBackground(
-        modSettingManager::GetOption(registry, QString::fromUtf16(BackgroundSetting), QString()),
-        pictures, painter);
+    LoadBackground(modSettingManager::GetOption(registry, PreferenceOf("MenuBackground")), pictures,
+                   painter);
   }
   for (const ColorSetting &setting : ColorSettings) {
-    (painter.*
-     setting.set)(modSettingManager::LongOption(registry, QString::fromLatin1(setting.name),
-                                                QString::fromLatin1(setting.defaultValue), tell));
+    (painter.*setting.set)(modSettingManager::LongOption(registry, setting.preference, tell));
   }
   showStyle(style);
   if (first) throw RuntimeError(first->Number(), first->Source(), faults.join(u'\n'));
@@ -88,7 +82,7 @@ void PrepareMenus(const Registry &registry, const MenuPictures &pictures, MenuPa
 
 void ChooseMenuStyle(int index, Registry &registry, const MenuPictures &pictures,
                      MenuPainter &painter) {
-  modSettingManager::SetOption(registry, QString::fromUtf16(StyleSetting), QString::number(index));
+  modSettingManager::SetOption(registry, MenuStyle.Name(), QString::number(index));
   painter.SetBackground(pictures.numbered(index));
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/settings/Preferences.h"
+
 #include <QPixmap>
 #include <QString>
 
@@ -25,8 +27,7 @@ struct MenuPictures {
 
 /// A preference that is a colour of the menus.
 struct ColorSetting {
-  const char *name;
-  const char *defaultValue;
+  const Preference &preference;
   const char *label;
   void (MenuPainter::*set)(std::int32_t color);
 };

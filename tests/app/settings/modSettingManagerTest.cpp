@@ -7,11 +7,34 @@
 
 #include <QSettings>
 
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
+
 namespace velor::modSettingManager {
 namespace {
 
 const auto OptionKey = QStringLiteral(R"(Software\Company\VelorCDMaker\option)");
 const auto HistoryKey = QStringLiteral(R"(Software\Company\VelorCDMaker\history)");
+
+Preference TruthByDefault(std::string_view name, std::string_view defaultValue) {
+  return {name, Preference::Kind::Truth, defaultValue, Preference::Effect::AtOnce, {}};
+}
+
+/// The text of every file of a folder of the tree, by the file's path in it.
+std::map<std::string, std::string> SourcesIn(const std::string &folder) {
+  std::map<std::string, std::string> sources;
+  const std::filesystem::path root = VELOR_SOURCE_DIR;
+  for (const auto &entry : std::filesystem::recursive_directory_iterator(root / folder)) {
+    std::ifstream file(entry.path());
+    std::stringstream text;
+    text << file.rdbuf();
+    sources[std::filesystem::relative(entry.path(), root).generic_string()] = text.str();
+  }
+  return sources;
+}
 
 class Settings : public testing::Test {
  protected:
@@ -78,8 +101,8 @@ TEST_F(Settings, ATextThatCannotBeConvertedIsToldAndTheDefaultCounts) {
   EXPECT_EQ(GetOption(registry_, "SnapToGrid", "True"), "yes");
   std::vector<RuntimeError> told;
   const auto tell = [&](const RuntimeError &fault) { told.push_back(fault); };
-  EXPECT_TRUE(TruthOption(registry_, "SnapToGrid", "True", tell));
-  EXPECT_FALSE(TruthOption(registry_, "SnapToGrid", "False", tell));
+  EXPECT_TRUE(TruthOption(registry_, TruthByDefault("SnapToGrid", "True"), tell));
+  EXPECT_FALSE(TruthOption(registry_, TruthByDefault("SnapToGrid", "False"), tell));
   ASSERT_EQ(told.size(), 2);
   EXPECT_EQ(told[0].Number(), ErrorNumber::TypeMismatch);
   EXPECT_EQ(told[0].Description(),
@@ -95,10 +118,59 @@ TEST_F(Settings, TruthValuesAreWordsInAnyLetterCaseOrNumbersBlanksAroundThemOrNo
     const char *const text = value.first;
     const bool expected = value.second;
     SetOption(registry_, "ShowDetails", text);
-    EXPECT_EQ(TruthOption(registry_, "ShowDetails", expected ? "False" : "True",
+    EXPECT_EQ(TruthOption(registry_, TruthByDefault("ShowDetails", expected ? "False" : "True"),
                           [&](const RuntimeError &) { ADD_FAILURE() << text; }),
               expected)
         << text;
+  }
+}
+
+TEST_F(Settings, OfTwoWordsAreOnOrOffInAnyLetterCaseAndElseTheDefaultCounts) {
+  for (const bool byDefault : {true, false}) {
+    const Preference preference = TruthByDefault("WrapSource", byDefault ? "True" : "False");
+    const auto isOn = [&](const char *text) {
+      SetOption(registry_, "WrapSource", text);
+      return IsOn(registry_, preference);
+    };
+    EXPECT_TRUE(isOn("true"));
+    EXPECT_FALSE(isOn("FALSE"));
+    for (const char *text : {"", "yes", "0"}) EXPECT_EQ(isOn(text), byDefault) << text;
+  }
+}
+
+TEST(PreferenceTable, HasEachNameOnceWithADefaultOfItsKind) {
+  std::set<std::string_view> names;
+  for (const Preference &preference : PreferenceTable) {
+    EXPECT_TRUE(names.insert(preference.name).second) << preference.name;
+    const QString value = preference.Default();
+    switch (preference.kind) {
+      case Preference::Kind::Truth:
+        EXPECT_EQ(BoolText(CBool(value)), value) << preference.name;
+        break;
+      case Preference::Kind::Integer:
+        EXPECT_EQ(QString::number(CInt(value)), value) << preference.name;
+        break;
+      case Preference::Kind::Color:
+        EXPECT_EQ(QString::number(CLng(value)), value) << preference.name;
+        break;
+      case Preference::Kind::File:
+        break;
+    }
+  }
+}
+
+TEST(PreferenceTable, NamesTheOneReaderOfEach) {
+  std::map<std::string, std::string> sources = SourcesIn("app");
+  sources.merge(SourcesIn("editor"));
+  sources.erase("app/window/FrmSettings.cpp");  // shows and writes them
+  sources.erase("app/settings/Preferences.h");
+  for (const Preference &preference : PreferenceTable) {
+    const std::string name = "\"" + std::string(preference.name) + "\"";
+    for (const auto &[path, text] : sources) {
+      const bool reads = text.find("PreferenceOf(" + name + ")") != std::string::npos;
+      EXPECT_EQ(reads, path == preference.readBy) << path << " and " << name;
+      EXPECT_EQ(text.find("Literal(" + name + ")"), std::string::npos) << path << " and " << name;
+    }
   }
 }
 

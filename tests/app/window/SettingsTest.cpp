@@ -2,6 +2,7 @@
 #include "app/settings/modSettingManager.h"
 #include "chrome/ColorPicker.h"
 #include "editor/frmMain.h"
+#include "platform/Conversions.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeRegistry.h"
 #include "tests/support/FakeSourceControl.h"
@@ -39,11 +40,6 @@ class SettingsTest : public WindowFixture {
   }
 };
 
-constexpr const char *Names[] = {"ShowDetails", "SnapToGrid",         "showtoolbox",
-                                 "WrapSource",  "MenuStyle",          "MenuBackground",
-                                 "mnuFore",     "mnuBorder",          "mnuHighlight",
-                                 "mnuHighFore", "WholeTemplateSigns", "PublishedOnly"};
-
 TEST_F(SettingsTest, ShowsEachPreferenceByItsDefaultAndStoresNothingThatWasNotChanged) {
   Use("cmdOK", [](QWidget &settings) {
     EXPECT_FALSE(In<QCheckBox>(settings, "ShowDetails").isChecked());
@@ -57,7 +53,25 @@ TEST_F(SettingsTest, ShowsEachPreferenceByItsDefaultAndStoresNothingThatWasNotCh
     EXPECT_EQ(In<ColorPicker>(settings, "mnuBorder").Color(), 8388608);
     EXPECT_EQ(In<ColorPicker>(settings, "mnuHighlight").Color(), 16761024);
   });
-  for (const char *name : Names) EXPECT_EQ(Stored(name), QStringLiteral("(none)")) << name;
+  for (const Preference &preference : PreferenceTable)
+    EXPECT_EQ(Stored(preference.name.data()), QStringLiteral("(none)")) << preference.name;
+}
+
+TEST_F(SettingsTest, HasAControlForEachRowOfTheTableThatShowsItsDefault) {
+  Use("cmdCancel", [](QWidget &settings) {
+    for (const Preference &preference : PreferenceTable) {
+      auto *control = settings.findChild<QWidget *>(preference.Name());
+      ASSERT_NE(control, nullptr) << preference.name;
+      QString shown;
+      if (auto *box = qobject_cast<QCheckBox *>(control)) shown = BoolText(box->isChecked());
+      if (auto *list = qobject_cast<QComboBox *>(control))
+        shown = QString::number(list->currentIndex());
+      if (auto *picker = qobject_cast<ColorPicker *>(control))
+        shown = QString::number(picker->Color());
+      if (auto *line = qobject_cast<QLineEdit *>(control)) shown = line->text();
+      EXPECT_EQ(shown, preference.Default()) << preference.name;
+    }
+  });
 }
 
 TEST_F(SettingsTest, StoresWhatWasChangedAsText) {
