@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/FakeEditingComponent.h"
 
+#include "platform/Paths.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
 #include <QRegularExpression>
+#include <QUrl>
 
 #include <utility>
 
@@ -179,8 +185,19 @@ QVariant FakeEditingComponent::ExecCommand(EditingCommand command, ExecOption op
     earlier_.pop_back();
     if (listener_ != nullptr) listener_->MemoryChanged();
   }
+  if (command == EditingCommand::Paste) ReportCopiedFiles();
   const auto answer = values.find(command);
   return answer != values.end() ? answer->second : QVariant(QString());
+}
+
+void FakeEditingComponent::ReportCopiedFiles() {
+  QStringList paths;
+  if (const QMimeData *copied = QGuiApplication::clipboard()->mimeData())
+    for (const QUrl &url : copied->urls()) paths += ToLogic(url.toLocalFile());
+  if (paths.isEmpty()) return;
+  QTimer::singleShot(0, Widget(), [this, paths] {
+    if (listener_ != nullptr) listener_->FilesDropped(paths);
+  });
 }
 
 CommandStatus FakeEditingComponent::QueryStatus(EditingCommand command) const {

@@ -109,6 +109,8 @@ class FakeEditingComponent final : public EditingComponent,
     QString document;
   };
   void KeepForUndo();
+  /// Files copied in a file manager are pasted as dropped ones.
+  void ReportCopiedFiles();
 
   Files &files_;
   mutable std::vector<QString> ownLog_;

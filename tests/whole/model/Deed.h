@@ -14,9 +14,10 @@ struct Deed {
   enum class Kind {
     New,
     Open,
-    Drop,    ///< two or three files at once
-    Switch,  ///< to another page's tab
-    Type,    ///< a word at the page's start
+    Drop,        ///< two or three files at once
+    PasteFiles,  ///< as many, copied in a file manager
+    Switch,      ///< to another page's tab
+    Type,        ///< a word at the page's start
     Undo,
     Save,
     SaveAs,
@@ -42,6 +43,16 @@ struct Deed {
   Kind kind = Kind::New;
   int choice = 0;
   Answer answer = Answer::Cancel;  ///< to every question that it leads to
+
+  bool OpensSeveral() const { return kind == Kind::Drop || kind == Kind::PasteFiles; }
+  bool MayTouchAFile() const {
+    return kind == Kind::Save || kind == Kind::SaveAs || kind == Kind::Close;
+  }
+  /// A save applies the source in front first.
+  bool MayApply() const {
+    return kind == Kind::Apply || kind == Kind::CloseSource || kind == Kind::Save ||
+           kind == Kind::SaveAs;
+  }
 };
 
 /// A line for people, "Save 3 yes".

@@ -18,8 +18,6 @@ namespace {
 
 using Kind = Deed::Kind;
 
-constexpr int MostPages = 5;
-
 /// Pages of several forms, and files whose names the temporary copies' rule gives.
 const std::array<std::pair<const char *, QByteArray>, 8> FirstFiles = {{
     {"site/a.htm", "<html><head></head><body><p>alpha</p></body></html>\n"},
@@ -40,6 +38,8 @@ const QRegularExpression &Word() {
   return word;
 }
 
+}  // namespace
+
 Words WordsIn(const QString &text) {
   Words words;
   for (auto match = Word().globalMatch(text); match.hasNext();)
@@ -47,43 +47,11 @@ Words WordsIn(const QString &text) {
   return words;
 }
 
-std::string Listed(const Words &words) {
+QString Listed(const Words &words) {
   QStringList list(words.begin(), words.end());
   list.sort();
-  return list.join(QStringLiteral(", ")).toStdString();
+  return list.join(QStringLiteral(", "));
 }
-
-template <typename... Parts>
-QString Sentence(const Parts &...parts) {
-  std::string text;
-  ((text += parts), ...);
-  return QString::fromStdString(text);
-}
-
-std::string Name(const QString &path) {
-  return path.section(u'/', -2).toStdString();
-}
-
-/// The name of a temporary copy beside its page.
-QString CopyOf(QString path) {
-  return path.replace(u'.', QStringLiteral("TMP."));
-}
-
-bool IsWritable(const QString &path) {
-  return (QFile::permissions(path) & QFile::WriteOwner) != 0;
-}
-
-/// A save applies the source in front first.
-bool MayApply(Kind kind) {
-  return kind == Kind::Apply || kind == Kind::CloseSource || kind == Kind::Save ||
-         kind == Kind::SaveAs;
-}
-
-bool MayTouchAFile(Kind kind) {
-  return kind == Kind::Save || kind == Kind::SaveAs || kind == Kind::Close;
-}
-
-}  // namespace
 
 Content ContentOf(const QByteArray &bytes) {
   const QString text = QString::fromLatin1(bytes);
@@ -135,6 +103,10 @@ Model::Page *Model::Active() {
   return found == pages_.end() ? nullptr : &*found;
 }
 
+bool Model::IsWritable(const QString &path) {
+  return (QFile::permissions(path) & QFile::WriteOwner) != 0;
+}
+
 bool Model::IsOpen(const QString &path) const {
   for (const Page &page : pages_)
     if (page.path == path) return true;
@@ -150,17 +122,17 @@ QStringList Model::PeoplesFiles() const {
 
 QJsonObject Model::InJson(const Deed &deed) {
   static const QMap<Kind, const char *> names = {
-      {Kind::New, "new"},          {Kind::Open, "open"},
-      {Kind::Drop, "drop"},        {Kind::Switch, "switch"},
-      {Kind::Type, "type"},        {Kind::Save, "save"},
-      {Kind::SaveAs, "saveas"},    {Kind::ViewHtml, "view"},
-      {Kind::Design, "design"},    {Kind::Preview, "preview"},
-      {Kind::EditHtml, "edit"},    {Kind::TypeSource, "source"},
-      {Kind::Apply, "apply"},      {Kind::CloseSource, "closesource"},
-      {Kind::Close, "close"},      {Kind::DiskFull, "full"},
-      {Kind::DiskHasRoom, "room"}, {Kind::Exit, "exit"},
-      {Kind::Kill, "room"},        {Kind::Undo, "undo"},
-      {Kind::TakeTheirs, "theirs"}};
+      {Kind::New, "new"},           {Kind::Open, "open"},
+      {Kind::Drop, "drop"},         {Kind::Switch, "switch"},
+      {Kind::Type, "type"},         {Kind::Save, "save"},
+      {Kind::SaveAs, "saveas"},     {Kind::ViewHtml, "view"},
+      {Kind::Design, "design"},     {Kind::Preview, "preview"},
+      {Kind::EditHtml, "edit"},     {Kind::TypeSource, "source"},
+      {Kind::Apply, "apply"},       {Kind::CloseSource, "closesource"},
+      {Kind::Close, "close"},       {Kind::DiskFull, "full"},
+      {Kind::DiskHasRoom, "room"},  {Kind::Exit, "exit"},
+      {Kind::Kill, "room"},         {Kind::Undo, "undo"},
+      {Kind::TakeTheirs, "theirs"}, {Kind::PasteFiles, "paste"}};
   constexpr std::array Answers = {"yes", "no", "cancel"};
   QJsonObject sent{{QStringLiteral("do"), QString::fromLatin1(names.value(deed.kind))},
                    {QStringLiteral("answer"),
@@ -169,14 +141,14 @@ QJsonObject Model::InJson(const Deed &deed) {
   const QStringList files = PeoplesFiles();
   const QString &chosen = files.at(deed.choice % files.size());
   if (deed.kind == Kind::Open) sent.insert(QStringLiteral("path"), chosen);
-  if (deed.kind == Kind::Drop) {
+  if (deed.OpensSeveral()) {
     QJsonArray paths;
     for (int i = 0; i < 2 + deed.choice % 2; ++i)
       paths.append(files.at((deed.choice + i) % files.size()));
     sent.insert(QStringLiteral("paths"), paths);
   }
   // One name in four is not given: the dialog is cancelled.
-  if (MayTouchAFile(deed.kind) && deed.choice % 4 != 0)
+  if (deed.MayTouchAFile() && deed.choice % 4 != 0)
     sent.insert(QStringLiteral("path"), Path(QStringLiteral("site/own%1.htm").arg(++words_)));
   if (deed.kind == Kind::Type || deed.kind == Kind::TypeSource)
     sent.insert(QStringLiteral("text"), QStringLiteral("w%1w").arg(++words_));
@@ -299,7 +271,7 @@ QString Model::StartAnew() {
   }
   const bool isAllBack = (*seen)[QStringLiteral("offers")].toInt() == 0;
   if (isAllBack && !missing.isEmpty())
-    return Sentence("lost since the run before: ", Listed(missing));
+    return QStringLiteral("lost since the run before: ") + Listed(missing);
   kept_ = missing;
   if (isAllBack) keptRests_.clear();
   const QJsonObject nothing;
@@ -331,169 +303,6 @@ QString Model::TakeRestored(const QJsonObject &seen, Words &missing) {
     pages_.insert(number, page);
     if (told[QStringLiteral("active")].toBool()) active_ = number;
   }
-  return {};
-}
-
-QString Model::Check(const Deed &deed, const QJsonObject &sent, const QJsonObject &seen) {
-  const QString error = seen[QStringLiteral("error")].toString();
-  if (!error.isEmpty() && !isFull_) return QStringLiteral("an error: ") + error;
-  const Page *active = Active();
-  const bool mayFail = isFull_ || (active != nullptr && active->readOnly);
-  for (const QJsonValue &message : seen[QStringLiteral("messages")].toArray())
-    if (message.toString().startsWith(QStringLiteral("File saving error")) && !mayFail)
-      return message.toString();
-  const int number = active_;
-  const Content before = active != nullptr ? active->shown : Content();
-  const QString wrong = CheckFiles(deed, sent);
-  if (!wrong.isEmpty()) return wrong;
-  const QString wrongPage = CheckPages(deed, sent, seen);
-  const auto page = pages_.find(number);
-  if (page == pages_.end()) return wrongPage;
-  const bool isStep = deed.kind == Kind::Type || MayApply(deed.kind) || deed.kind == Kind::Close;
-  // A first save gives a page bytes and leaves it as it is.
-  const bool isOther = page->shown.words != before.words ||
-                       (!before.rest.isEmpty() && page->shown.rest != before.rest);
-  if (isStep && isOther) page->earlier.push_back(before);
-  return wrongPage;
-}
-
-QString Model::CheckFiles(const Deed &deed, const QJsonObject &sent) {
-  Page *active = Active();
-  QStringList targets;
-  if (active != nullptr && MayTouchAFile(deed.kind)) {
-    targets.append(sent[QStringLiteral("path")].toString());
-    if (!active->path.isEmpty() && deed.kind != Kind::SaveAs) targets.append(active->path);
-  }
-  const QMap<QString, Content> disk = Disk();
-  if (!targets.isEmpty() && isFull_) active->mayAsk = true;
-  for (auto [path, content] : files_.asKeyValueRange()) {
-    if (!disk.contains(path)) return Sentence(Name(path), " is gone");
-    if (disk[path] != content && !targets.contains(path))
-      return Sentence(Name(path), " has other bytes");
-  }
-  for (auto [path, content] : disk.asKeyValueRange()) {
-    if (files_.contains(path) && files_[path] == content) continue;
-    if (targets.contains(path)) {
-      const Words all = active->shown.words + active->typed;
-      // Source in front is applied first, and takes the page's place as it does by its button.
-      const bool isSource = !active->typed.isEmpty() && content.words == active->source;
-      if (content.words != active->shown.words && content.words != all && !isSource)
-        return Sentence(Name(path), " was saved without some words");
-      const bool isStale = active->isSourceStale && !active->typed.isEmpty();
-      if (!isStale && !active->shown.rest.isEmpty() && content.rest != active->shown.rest)
-        return Sentence(Name(path), " was saved with other bytes: ", content.rest.toStdString(),
-                        " in place of ", active->shown.rest.toStdString());
-      active->shown = content;
-      active->savedRest = content.rest;
-      active->isAskedAbout = active->isUnsaved = active->mayAsk = false;
-      active->typed -= content.words;
-      active->saved = content.words;
-      active->path = path;
-      active->readOnly = false;
-      files_.insert(path, content);
-      continue;
-    }
-    bool isCopy = false;
-    for (const Page &page : std::as_const(pages_)) isCopy = isCopy || CopyOf(page.path) == path;
-    if (!isCopy) return Sentence(Name(path), " was left behind");
-  }
-  return {};
-}
-
-QString Model::CheckPages(const Deed &deed, const QJsonObject &sent, const QJsonObject &seen) {
-  const QJsonArray all = seen[QStringLiteral("pages")].toArray();
-  if (all.size() > MostPages) return QStringLiteral("more pages than there may be");
-  if (seen[QStringLiteral("tabs")].toInt() != all.size())
-    return QStringLiteral("other tabs than pages");
-  QMap<int, QJsonObject> told;
-  for (const QJsonValue &value : all)
-    told.insert(value.toObject()[QStringLiteral("number")].toInt(), value.toObject());
-  const int wasActive = active_;
-  for (const int number : pages_.keys()) {
-    if (told.contains(number)) continue;
-    const Page page = pages_.take(number);
-    if (deed.kind != Kind::Close || number != wasActive)
-      return Sentence("the page of ", Name(page.path), " is gone");
-    const QString wrong = CheckGone(deed, page, seen);
-    if (!wrong.isEmpty()) return wrong;
-  }
-  for (auto [number, page] : std::as_const(told).asKeyValueRange()) {
-    const Words words = WordsIn(page[QStringLiteral("text")].toString());
-    const QString path = page[QStringLiteral("path")].toString();
-    if (page[QStringLiteral("active")].toBool()) active_ = number;
-    if (!pages_.contains(number)) {
-      if (deed.kind != Kind::New && deed.kind != Kind::Open && deed.kind != Kind::Drop)
-        return QStringLiteral("a page came from nowhere");
-      if (!path.isEmpty() && IsOpen(path)) return Sentence(Name(path), " is open twice");
-      const Content file = files_.value(path);
-      if (words != file.words) return Sentence(Name(path), " is shown with other words");
-      Page opened;
-      opened.path = path;
-      opened.shown = file;
-      opened.saved = file.words;
-      opened.savedRest = file.rest;
-      opened.readOnly = !path.isEmpty() && !IsWritable(path);
-      pages_.insert(number, opened);
-      continue;
-    }
-    Page &known = pages_[number];
-    if (deed.kind == Kind::Type && number == wasActive)
-      Type(known, sent[QStringLiteral("text")].toString());
-    if (deed.kind == Kind::Undo && number == wasActive) {
-      if (known.isHistoryKnown)
-        Undo(known);
-      else
-        known.shown = {{}, words};
-    }
-    const bool isTaken = deed.kind == Kind::TakeTheirs && !seen.contains(QStringLiteral("error"));
-    if (isTaken && number == wasActive && known.isAskedAbout) Load(known, files_.value(known.path));
-    // What is applied takes the page's place, words that the source has not got included.
-    const bool mayApply = MayApply(deed.kind);
-    if (mayApply && number == wasActive && words == known.source) known.shown.words = words;
-    // Source that was applied, by its button or on the way to a save or an end of the editor.
-    if (number == wasActive && words == known.shown.words + known.typed) {
-      known.shown.words = words;
-      known.typed.clear();
-    }
-    const bool mayBeStale = known.hasSource && known.isSourceStale &&
-                            (!MayTouchAFile(deed.kind) || !known.typed.isEmpty());
-    if (mayApply && number == wasActive && mayBeStale && words == known.source) {
-      known.shown.rest = known.savedRest = {};
-      known.isHistoryKnown = false;
-    }
-    if (deed.kind == Kind::EditHtml && number == wasActive) known.isSourceStale = false;
-    if (words != known.shown.words)
-      return Sentence("page ", std::to_string(number), " shows ", Listed(words), " in place of ",
-                      Listed(known.shown.words));
-    const Words typed = WordsIn(page[QStringLiteral("source")].toString()) - words - known.undone;
-    const bool mayGo = deed.kind == Kind::EditHtml || deed.kind == Kind::CloseSource;
-    if (!mayGo && !typed.contains(known.typed))
-      return Sentence("typed source is gone: ", Listed(known.typed - typed));
-    known.typed = typed;
-    known.hasSource = page.contains(QStringLiteral("source"));
-    known.source = WordsIn(page[QStringLiteral("source")].toString());
-    if (path != known.path)
-      return Sentence("page ", std::to_string(number), " says it is ", Name(path), ", it is ",
-                      Name(known.path));
-    const bool isNamed = MayTouchAFile(deed.kind) && number == wasActive && !path.isEmpty();
-    if (isNamed && !page[QStringLiteral("tab")].toString().contains(path.section(u'/', -1)))
-      return Sentence("the tab of ", Name(path), " says ",
-                      page[QStringLiteral("tab")].toString().toStdString());
-  }
-  if (told.isEmpty()) active_ = 0;
-  return {};
-}
-
-QString Model::CheckGone(const Deed &deed, const Page &page, const QJsonObject &seen) {
-  const bool wasAsked = !seen[QStringLiteral("messages")].toArray().isEmpty();
-  if (!page.IsChanged()) {
-    return wasAsked && !page.mayAsk && deed.answer == Deed::Answer::No
-               ? QStringLiteral("a page without changes asked before it closed")
-               : QString();
-  }
-  if (wasAsked && deed.answer == Deed::Answer::No) return {};
-  // Whatever was not asked for, or could not be saved, comes back at the next start.
-  Keep(page);
   return {};
 }
 

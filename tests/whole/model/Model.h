@@ -27,6 +27,9 @@ struct Content {
 };
 
 Content ContentOf(const QByteArray &bytes);
+Words WordsIn(const QString &text);
+/// For people, in order.
+QString Listed(const Words &words);
 
 /// What each file and page must hold, whatever a person does: a file is what was saved to it from
 /// the page that it belongs to, a page is its file and the words typed since, and no word is gone
@@ -64,6 +67,9 @@ class Model {
     bool IsChanged() const { return isUnsaved || shown.words != saved || shown.rest != savedRest; }
   };
 
+  static constexpr int MostPages = 5;
+
+  static bool IsWritable(const QString &path);
   QString Path(const QString &name) const { return folder_.filePath(name); }
   void Write(const QString &path, const QByteArray &bytes);
   QMap<QString, Content> Disk() const;

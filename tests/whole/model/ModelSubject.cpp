@@ -29,14 +29,17 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMimeData>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 #include <cerrno>
 #include <cstdio>
@@ -160,6 +163,7 @@ class Subject {
     if (what == QStringLiteral("theirs") && !page->Outside().isHidden())
       page->Outside().findChild<QPushButton *>(QStringLiteral("cmdTakeTheirs"))->click();
     if (what == QStringLiteral("type")) Type(*page, text);
+    if (what == QStringLiteral("paste")) PasteFiles(*page, deed[QStringLiteral("paths")].toArray());
     if (what == QStringLiteral("view")) page->ChangeMode(2);
     if (what == QStringLiteral("design")) page->ChangeMode(1);
     if (what == QStringLiteral("preview")) page->ChangeMode(4);
@@ -281,6 +285,17 @@ class Subject {
     page.ChangeMode(1);
     Choose("mnuUndo");
     // Reading waits for the command.
+    (void)page.DHTML1().DocumentHTML();
+  }
+  /// In design view: a shown source takes them as text.
+  void PasteFiles(frmMain &page, const QJsonArray &paths) {
+    page.ChangeMode(1);
+    QList<QUrl> urls;
+    for (const QJsonValue &path : paths) urls.append(QUrl::fromLocalFile(path.toString()));
+    auto *copied = new QMimeData;
+    copied->setUrls(urls);
+    QApplication::clipboard()->setMimeData(copied);
+    Choose("mnuPaste");
     (void)page.DHTML1().DocumentHTML();
   }
   void TypeSource(frmMain &page, const QString &word) {

@@ -20,7 +20,8 @@ struct Habit {
 constexpr std::array Habits = {
     Habit{Kind::New, "New", 5},
     Habit{Kind::Open, "Open", 12},
-    Habit{Kind::Drop, "Drop", 5},
+    Habit{Kind::Drop, "Drop", 4},
+    Habit{Kind::PasteFiles, "PasteFiles", 2},
     Habit{Kind::Switch, "Switch", 12},
     Habit{Kind::Type, "Type", 24},
     Habit{Kind::Undo, "Undo", 7},
