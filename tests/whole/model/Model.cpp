@@ -207,7 +207,7 @@ QString Model::ChangeOutside(const Deed &deed, const QString &path) {
 }
 
 void Model::Load(Page &page, const Content &content) {
-  page.earlier.push_back(page.shown);
+  page.earlier.push_back({page.shown, true});
   page.undone += page.shown.words - content.words;
   page.shown = content;
   page.saved = content.words;
@@ -227,8 +227,10 @@ void Model::Type(Page &page, const QString &word) const {
 
 void Model::Undo(Page &page) {
   if (page.earlier.empty()) return;
-  const Content before = page.earlier.back();
+  const auto [before, isLoad] = page.earlier.back();
   page.earlier.pop_back();
+  // What it came from is not what lies on the disk.
+  if (isLoad) page.isAskedAbout = true;
   page.undone += page.shown.words - before.words;
   page.shown.words = before.words;
   // A page that has had no file has no bytes yet.

@@ -47,6 +47,10 @@ class Model {
   QString Carry(const Deed &deed);
 
  private:
+  struct Step {
+    Content before;
+    bool isLoad = false;  ///< another program's version came
+  };
   struct Page {
     QString path;  ///< native; empty while it has no file
     Content shown;
@@ -56,8 +60,8 @@ class Model {
     bool hasSource = false;  ///< its source editor is open
     Words undone;            ///< taken from it by Undo or by what another program wrote
     bool readOnly = false;
-    QByteArray savedRest;          ///< of its file when it was loaded or last saved
-    std::vector<Content> earlier;  ///< what each Undo brings back, the last first
+    QByteArray savedRest;        ///< of its file when it was loaded or last saved
+    std::vector<Step> earlier;   ///< what each Undo brings back, the last first
     bool isSourceStale = false;  ///< its source editor was filled before the page got another rest
     bool isHistoryKnown = true;  ///< such a source was not applied
     bool isAskedAbout = false;   ///< its file was changed while it had changes

@@ -50,7 +50,7 @@ QString Model::Check(const Deed &deed, const QJsonObject &sent, const QJsonObjec
   // A first save gives a page bytes and leaves it as it is.
   const bool isOther = page->shown.words != before.words ||
                        (!before.rest.isEmpty() && page->shown.rest != before.rest);
-  if (isStep && isOther) page->earlier.push_back(before);
+  if (isStep && isOther) page->earlier.push_back({before});
   return wrongPage;
 }
 

@@ -41,6 +41,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <iostream>
@@ -296,7 +297,13 @@ class Subject {
     copied->setUrls(urls);
     QApplication::clipboard()->setMimeData(copied);
     Choose("mnuPaste");
-    (void)page.DHTML1().DocumentHTML();
+    const auto isOpen = [this](const QJsonValue &path) {
+      return !EachPage(
+          [&](frmMain &p) { return ToNative(p.GetPageRecord().Path) != path.toString(); });
+    };
+    (void)QTest::qWaitFor(
+        [&] { return !dialogs_.messages.isEmpty() || std::ranges::all_of(paths, isOpen); },
+        Patience);
   }
   void TypeSource(frmMain &page, const QString &word) {
     frmCodeEditor *editor = Editor(page);
