@@ -100,18 +100,20 @@ void FontPicker::Initialise() {
 
 void FontPicker::SetFontName(const QString &name) {
   const QSignalBlocker silence(this);
-  shown_ = name;
   const int index = findText(name, Qt::MatchFixedString);
-  setCurrentIndex(index);
   // An installed font is shown as the list spells it: pages give names in any letter case.
-  setEditText(index < 0 ? name : itemText(index));
+  shown_ = index < 0 ? name : itemText(index);
+  setCurrentIndex(index);
+  setEditText(shown_);
   lineEdit()->setCursorPosition(0);
 }
 
 void FontPicker::Choose(const QString &name) {
-  // Enter on a listed name arrives twice, from the list and from the line.
+  // Enter on a listed name arrives twice, from the list and from the line, which then shows
+  // `shown_`.
   if (name.isEmpty() || name == shown_) return;
-  SetFontName(name);
+  // The page may refuse it: shown is what the page says afterwards.
+  SetFontName(shown_);
   Q_EMIT FontChosen(name);
 }
 

@@ -23,7 +23,8 @@ class FontPicker final : public QComboBox {
   void hidePopup() override;
 
  Q_SIGNALS:
-  /// The person chose a name from the list, or typed one and pressed Enter.
+  /// The person chose a name from the list, or typed one and pressed Enter. The box goes on showing
+  /// what it showed.
   void FontChosen(const QString &name);
   /// The person chose a name or pressed Escape: the focus can go back to the page.
   void Done();

@@ -168,6 +168,24 @@ TEST_F(FontPickerTest, TellsAListedNameOnce) {
   EXPECT_EQ(chosen[0][0].toString(), QStringLiteral("Beta"));
 }
 
+TEST_F(FontPickerTest, TellsAListedNameInOtherLettersOnceAsItIsTyped) {
+  picker.SetFontName(QStringLiteral("alpha"));
+  picker.lineEdit()->setText(QStringLiteral("beta"));
+  QTest::keyClick(picker.lineEdit(), Qt::Key_Return);
+  ASSERT_EQ(chosen.count(), 1);
+  EXPECT_EQ(chosen[0][0].toString(), QStringLiteral("beta"));
+}
+
+TEST_F(FontPickerTest, GoesOnShowingWhatItShowedUntilItIsToldTheChoice) {
+  picker.SetFontName(QStringLiteral("Alpha"));
+  for (const char *name : {"Beta", "Some Face"}) {
+    picker.lineEdit()->setText(QString::fromLatin1(name));
+    QTest::keyClick(picker.lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(picker.FontName(), QStringLiteral("Alpha")) << name;
+  }
+  EXPECT_EQ(chosen.count(), 2);
+}
+
 TEST_F(FontPickerTest, ANameTypedButNotEnteredIsForgotten) {
   picker.SetFontName(QStringLiteral("Alpha"));
   picker.lineEdit()->setText(QStringLiteral("Some"));

@@ -74,6 +74,14 @@ TEST_F(FormattingBarTest, AChoiceThatThePageRefusesIsNotShown) {
   EXPECT_EQ(Find<ChoiceBox>("cobFormat")->currentText(), QStringLiteral("Normal"));
 }
 
+TEST_F(FormattingBarTest, AFontThatThePageRefusesIsNotShown) {
+  Parts().formats.ShowFontName(QStringLiteral("Serif"));
+  auto *font = Find<FontPicker>("Font1");
+  font->lineEdit()->setText(QStringLiteral("Some Face"));
+  QTest::keyClick(font->lineEdit(), Qt::Key_Return);
+  EXPECT_EQ(font->FontName(), QStringLiteral("Serif"));
+}
+
 TEST_F(FormattingBarTest, ADifferentSizeIsSent) {
   PageAnswers(EditingCommand::GetFontSize, QStringLiteral("12"));
   Pick(Find<ChoiceBox>("cobSize"), QStringLiteral("24"));
