@@ -10,6 +10,7 @@
 #include "app/window/PageArea.h"
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
+#include "app/window/PaneWalk.h"
 #include "app/window/ProjectDesk.h"
 #include "app/window/RecentFiles.h"
 #include "app/window/StatusLine.h"
@@ -148,6 +149,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
   setStatusBar(statusLine_);
   PrepareTools();
   new WindowList(*menus_.menus.value(QStringLiteral("mnuWindow")), *area_, this);
+  new PaneWalk(*this, *area_);
 }
 
 MfrmProgram::~MfrmProgram() {

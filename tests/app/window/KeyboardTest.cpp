@@ -3,6 +3,8 @@
 #include "app/window/GeneralToolbar.h"
 #include "app/window/MenuTable.h"
 #include "editor/EditCommands.h"
+#include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeDialogs.h"
@@ -32,6 +34,20 @@ QStringList WalkByTab(QWidget &start, const std::function<bool(const QWidget &)>
     met.append(NameOf(*now));
   }
   ADD_FAILURE() << "Tab never ends";
+  return met;
+}
+
+/// What F6 meets from where the keyboard is until it is back there.
+QStringList WalkByF6(Qt::KeyboardModifiers modifiers) {
+  constexpr int Enough = 20;
+  const QWidget *start = QApplication::focusWidget();
+  QStringList met;
+  for (const QWidget *now = start; met.size() < Enough; now = QApplication::focusWidget()) {
+    if (now == start && !met.isEmpty()) return met;
+    met.append(NameOf(*now));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, modifiers);
+  }
+  ADD_FAILURE() << "F6 never comes back: " << met.join(u' ').toStdString();
   return met;
 }
 
@@ -111,6 +127,34 @@ TEST_F(KeyboardTest, TabMeetsEveryButtonAndBoxOfTheMainWindowInTheOrderOfTheEye)
   start.setFocus(Qt::TabFocusReason);
   QStringList met = WalkByTab(start, [&](const QWidget &now) { return page.isAncestorOf(&now); });
   EXPECT_EQ(met, expected) << met.join(u' ').toStdString();
+}
+
+TEST_F(KeyboardTest, F6LeadsRoundTheBarsAndWhatIsInFrontAndShiftF6Back) {
+  frmMain &page = NewPage();
+  Find<QWidget>("CmbPages")->setEnabled(true);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  page.setFocus();
+  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(),
+            "DHTML1 tbrGeneral_new cobFormat FileTab CmbPages Design");
+  EXPECT_EQ(WalkByF6(Qt::ShiftModifier).join(u' ').toStdString(),
+            "DHTML1 Design CmbPages FileTab cobFormat tbrGeneral_new");
+}
+
+TEST_F(KeyboardTest, F6LeadsFromTheSourceToApplyAndToTheFindBar) {
+  NewPage().ChangeMode(3);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QWidget *source = window.Context().pages.CodeEditor(1)->Code().Widget();
+  source->setFocus();
+  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(), "Code tbrGeneral_new FileTab cmdApply");
+  QTest::keyClick(source, Qt::Key_F, Qt::ControlModifier);
+  source->setFocus();
+  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(), "Code tbrGeneral_new FileTab cmdApply txtFind");
+}
+
+TEST_F(KeyboardTest, F6LeadsToTheBarsWithoutAPage) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QTest::keyClick(&window, Qt::Key_F6);
+  EXPECT_EQ(QApplication::focusWidget(), Find<QWidget>("tbrGeneral_new"));
 }
 
 struct DialogWalk {

@@ -129,10 +129,30 @@ const RealFocus::Row Rows[] = {
     {"the tab in front is clicked", [](RealFocus &t) { t.ClickTab(1); }, Place::SecondPage},
     {"a window is chosen in the Window menu", [](RealFocus &t) { t.ChooseWindow(1); },
      Place::FirstPage},
-    {"Ctrl+Tab is pressed",
-     [](RealFocus &t) { t.Find<PageArea>("PageArea")->activateNextSubWindow(); }, Place::FirstPage},
+    {"Ctrl+Tab is pressed", [](RealFocus &) { RealFocus::Press(Qt::Key_Tab, Qt::ControlModifier); },
+     Place::FirstPage},
+    {"Ctrl+Tab is pressed in a source editor",
+     [](RealFocus &t) {
+       t.second->ChangeMode(3);
+       RealFocus::Press(Qt::Key_Tab, Qt::ControlModifier);
+     },
+     Place::SecondPage},
     {"Ctrl+F6 is pressed", [](RealFocus &) { RealFocus::Press(Qt::Key_F6, Qt::ControlModifier); },
      Place::FirstPage},
+    {"F6 leads out of the page and Shift+F6 back",
+     [](RealFocus &) {
+       RealFocus::Press(Qt::Key_F6);
+       RealFocus::Press(Qt::Key_F6, Qt::ShiftModifier);
+     },
+     Place::SecondPage},
+    {"F6 leads round the window",
+     [](RealFocus &) {
+       const QWidget *page = QApplication::focusWidget();
+       do {
+         RealFocus::Press(Qt::Key_F6);
+       } while (QApplication::focusWidget() != page);
+     },
+     Place::SecondPage},
     {"opening a file is cancelled",
      [](RealFocus &t) {
        t.SharedDialog().ExpectCancelledOpen();
