@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "insert/PictureLoading.h"
 
+#include "insert/OldPictures.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 
 #include <algorithm>
@@ -35,6 +37,13 @@ QSize Turned(QSize size, const QImageReader &reader) {
                                                                            : size;
 }
 
+/// A picture of a format that no plugin of Qt reads; null where it is none.
+QImage OldPicture(const QString &native) {
+  QFile file(native);
+  if (!file.open(QIODevice::ReadOnly) || file.size() > LargestDecode) return {};
+  return ReadOldPicture(file.readAll(), QFileInfo(native).suffix().toLower());
+}
+
 }  // namespace
 
 qreal PreviewRatio(QSize picture, QSize bounds, qreal screenRatio) {
@@ -57,12 +66,13 @@ LoadedPicture LoadPicture(const QString &path, QSize bounds) {
     reader.setScaledSize(FittedSize(stored, Turned(bounds, reader)));
   }
   QImage image = reader.read();
+  if (stored.isValid() && !image.isNull()) return {Turned(stored, reader), image};
+  if (image.isNull()) image = OldPicture(native);
   if (image.isNull()) {
     throw RuntimeError(
         ErrorNumber::InvalidProcedureCall, source,
         QStringLiteral("%1 cannot be loaded as a picture: %2").arg(native, reader.errorString()));
   }
-  if (stored.isValid()) return {Turned(stored, reader), image};
   const QSize size = image.size();
   return {size,
           image.scaled(FittedSize(size, bounds), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)};

@@ -88,6 +88,18 @@ TEST_F(PictureLoadingTest, LoadsTga) {
   EXPECT_EQ(picture.preview.pixelColor(2, 1), QColor(Qt::red));
 }
 
+TEST_F(PictureLoadingTest, LoadsWhatQtHasNoReaderFor) {
+  // Without a footer, with run lengths.
+  QFile file(folder.filePath(QStringLiteral("old.TGA")));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(QByteArray::fromHex("00000a000000000000000000030002001820850000ff"));
+  file.close();
+  const LoadedPicture picture = LoadPicture(Path(QStringLiteral("old.TGA")), {2, 2});
+  EXPECT_EQ(picture.pixels, QSize(3, 2));
+  EXPECT_EQ(picture.preview.size(), QSize(2, 1));
+  EXPECT_EQ(picture.preview.pixelColor(1, 0), QColor(Qt::red));
+}
+
 TEST(PreviewRatio, ShowsASmallPictureAsPagesDoAndALargeOneWithAllPixels) {
   EXPECT_EQ(PreviewRatio({40, 30}, Bounds, 1), 1);
   EXPECT_EQ(PreviewRatio({40, 30}, Bounds, 2), 1);
