@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/startup/DesktopService.h"
-#include "app/startup/EndingSignals.h"
 #include "app/startup/EventBoundary.h"
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/Additions.h"
@@ -13,6 +11,8 @@
 #include "platform/DriveMap.h"
 #include "platform/Paths.h"
 #include "qt/ProgramFolder.h"
+#include "qt/DesktopService.h"
+#include "qt/EndingSignals.h"
 #include "qt/RealPlatform.h"
 #include "qt/RunningProgram.h"
 
@@ -23,7 +23,8 @@ namespace {
 
 /// What was asked of this program from outside is done by its main window.
 QStringList OpenInWindow(MfrmProgram &window, const OpeningRequest &request) {
-  window.ComeToFront(request.activationToken);
+  UseActivationToken(request.activationToken);
+  window.ComeToFront();
   QStringList paths;
   for (const QString &file : request.files) paths += ToLogic(file);
   return window.Router().OpenFiles(paths, request.line);
@@ -46,7 +47,7 @@ int main(int argc, char **argv) {
   const QString programFolder = PrepareProgramFolder(QCoreApplication::applicationDirPath());
   RunningProgram running(programFolder);
   if (!running.Claim()) {
-    AskRunningProgram(programFolder, {{}, 0, qEnvironmentVariable("XDG_ACTIVATION_TOKEN")});
+    AskRunningProgram(programFolder, {{}, 0, OwnActivationToken()});
     return 0;
   }
   StyleApplication(application);

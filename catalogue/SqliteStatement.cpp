@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/SqliteStatement.h"
 
-#include "catalogue/LockHolder.h"
+#include "files/LockHolder.h"
 
 #include <QByteArrayView>
 

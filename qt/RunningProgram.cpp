@@ -27,6 +27,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// The toolkit reads it when a window is activated.
+constexpr auto TokenVariable = "XDG_ACTIVATION_TOKEN";
+
 constexpr int ConnectLimit = 2000;  // milliseconds
 constexpr auto BusyPause = 100ms;
 
@@ -61,6 +64,14 @@ FileDescriptor LockStarts(const QString &socket) {
 }
 
 }  // namespace
+
+QString OwnActivationToken() {
+  return qEnvironmentVariable(TokenVariable);
+}
+
+void UseActivationToken(const QString &token) {
+  if (!token.isEmpty()) qputenv(TokenVariable, token.toUtf8());
+}
 
 QString SocketOfProgram(const QString &programFolder) {
   const QByteArray name =

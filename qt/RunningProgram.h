@@ -26,6 +26,12 @@ struct OpeningRequest {
   QString activationToken;
 };
 
+/// The token that this program was started with; empty where the desktop gave none.
+QString OwnActivationToken();
+
+/// Lets the window that is activated next take the keyboard.
+void UseActivationToken(const QString &token);
+
 /// The local socket by which the program of a program folder (native form) is reached. It lies in
 /// `$XDG_RUNTIME_DIR`, or where there is none in the program's folder of `$XDG_STATE_HOME`, which
 /// only the person can read.

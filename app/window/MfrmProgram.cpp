@@ -215,9 +215,7 @@ void MfrmProgram::Load() {
   });
 }
 
-void MfrmProgram::ComeToFront(const QString &activationToken) {
-  // The toolkit reads it when a window is activated.
-  if (!activationToken.isEmpty()) qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+void MfrmProgram::ComeToFront() {
   setWindowState(windowState() & ~Qt::WindowMinimized);
   raise();
   activateWindow();

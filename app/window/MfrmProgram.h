@@ -48,8 +48,8 @@ class MfrmProgram final : public QMainWindow,
   /// Prepares the window in the order of LoadSteps and shows it.
   void Load();
 
-  /// Takes the keyboard; `activationToken` is the desktop's leave to do so, and may be empty.
-  void ComeToFront(const QString &activationToken);
+  /// Takes the keyboard, where the desktop lets it.
+  void ComeToFront();
 
   CommandRouter &Router() { return router_; }
   EditorContext &Context() { return context_; }

@@ -27,7 +27,7 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"files", {"platform"}},
       {"recovery", {"files", "platform"}},
       {"catalogue/jet", {"platform"}},
-      {"catalogue", {"catalogue/jet", "platform"}},
+      {"catalogue", {"catalogue/jet", "files", "platform"}},
       {"engine", {"page/saving", "page/text", "platform"}},
       {"qt", {"engine", "page/source", "page/text", "catalogue", "files", "recovery", "platform"}},
       {"app/settings", {"platform"}},
@@ -207,6 +207,43 @@ const std::set<std::string> &GuardedPlaces() {
   return places;
 }
 
+/// Whether the text names headers, calls, places or variables that only the system has which the
+/// program runs on.
+bool NamesTheSystem(const std::string &text) {
+  static const std::regex comment(R"(//[^\n]*)");
+  static const std::regex header(
+      R"(#include <((unistd|fcntl|dirent|poll|pwd|grp|signal|dlfcn)\.h|csignal|(sys|linux|X11|xcb)/|QDBus))");
+  static const std::regex call(
+      R"((^|[^.>\w])(kill|fork|flock|fcntl|ioctl|getpid|geteuid|eventfd|mmap)\()");
+  static const std::regex name(R"("/(proc|sys|dev|etc|usr)/|\bXDG_\w|\bQ_OS_\w|\b__linux__)");
+  const std::string code = std::regex_replace(text, comment, "");
+  return std::regex_search(code, header) || std::regex_search(code, call) ||
+         std::regex_search(code, name);
+}
+
+/// The folders and files that may name the system, each for a reason. A port to another system
+/// begins here.
+const std::vector<std::string> &PlacesThatKnowTheSystem() {
+  static const std::vector<std::string> places = {
+      "files/",                             // system calls on files
+      "qt/",                                // desktop, signals, local sockets, the person's folders
+      "recovery/JournalFiles.cpp",          // locks the folder of a run, refuses others' journals
+      "catalogue/CatalogueFile.cpp",        // reads a file's header as the system's errors have it
+      "catalogue/jet/PosixJetStorage.cpp",  // locks ranges of a file as the other program does
+      "catalogue/jet/JetLockFile.cpp",      // asks for such locks
+      "engine/EditorPage.cpp",              // ends a page's process that no longer answers
+      "tools/",                             // programs that developers and packages run
+      "bench/",                             // measures processes
+  };
+  return places;
+}
+
+bool MayKnowTheSystem(const std::string &path) {
+  const auto &places = PlacesThatKnowTheSystem();
+  return std::any_of(places.begin(), places.end(),
+                     [&](const std::string &place) { return path.rfind(place, 0) == 0; });
+}
+
 TEST(Layers, NoIncludeRunsAgainstTheArrows) {
   const std::vector<Include> all = AllIncludes();
   ASSERT_GT(all.size(), 100u) << "the walk over the sources found next to nothing";
@@ -259,6 +296,35 @@ TEST(Layers, OnlyTheGuardedPlacesRunAnEventLoop) {
   for (const SourceFile &file : AllSources())
     if (RunsAnEventLoop(file.text)) places.insert(file.path);
   EXPECT_EQ(places, GuardedPlaces());
+}
+
+TEST(Layers, OnlyTheNamedPlacesKnowTheSystem) {
+  for (const SourceFile &source : AllSources())
+    if (!MayKnowTheSystem(source.path)) {
+      EXPECT_FALSE(NamesTheSystem(source.text)) << source.path;
+    }
+}
+
+TEST(Layers, EveryPlaceThatMayKnowTheSystemDoes) {
+  for (const std::string &place : PlacesThatKnowTheSystem()) {
+    const auto &sources = AllSources();
+    EXPECT_TRUE(std::any_of(sources.begin(), sources.end(), [&](const SourceFile &source) {
+      return source.path.rfind(place, 0) == 0 && NamesTheSystem(source.text);
+    })) << place;
+  }
+}
+
+TEST(Layers, TheSystemIsFoundByHeaderCallPlaceAndVariable) {
+  EXPECT_TRUE(NamesTheSystem("#include <unistd.h>\n"));
+  EXPECT_TRUE(NamesTheSystem("#include <sys/stat.h>\n"));
+  EXPECT_TRUE(NamesTheSystem("#include <QDBusConnection>\n"));
+  EXPECT_TRUE(NamesTheSystem("  ::kill(process, 9);\n"));
+  EXPECT_TRUE(NamesTheSystem("  const int other = getpid();\n"));
+  EXPECT_TRUE(NamesTheSystem("ReadAll(\"/proc/locks\");"));
+  EXPECT_TRUE(NamesTheSystem("qEnvironmentVariable(\"XDG_DATA_HOME\")"));
+  EXPECT_FALSE(NamesTheSystem("  process.kill();\n  program->kill();\n"));
+  EXPECT_FALSE(NamesTheSystem("// Not in $XDG_DATA_HOME: see fcntl(2).\n"));
+  EXPECT_FALSE(NamesTheSystem("#include <QFile>\n#include <cerrno>\n"));
 }
 
 TEST(Layers, AnEventLoopIsFoundInEveryForm) {

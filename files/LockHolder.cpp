@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "catalogue/LockHolder.h"
+#include "files/LockHolder.h"
 
 #include <QFile>
 #include <QStringList>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/startup/DesktopService.h"
+#include "qt/DesktopService.h"
 
 #include <QDBusConnection>
 #include <QTimer>
