@@ -2,6 +2,7 @@
 #include "qt/QtDialogs.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDialog>
 #include <QEvent>
 #include <QEventLoop>
@@ -13,12 +14,17 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QThread>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 
 namespace velor {
 
 namespace {
+
+using namespace std::chrono_literals;
 
 struct ButtonSet {
   QMessageBox::StandardButtons buttons;
@@ -54,7 +60,7 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
   return QMessageBox::NoIcon;
 }
 
-MessageAnswer AnswerOf(int button) {
+MessageAnswer AnswerOf(QMessageBox::StandardButton button) {
   switch (button) {
     case QMessageBox::Yes:
       return MessageAnswer::Yes;
@@ -84,6 +90,9 @@ class HideWatcher final : public QObject {
   QEventLoop &loop_;
 };
 
+constexpr auto UnwindPause = 10ms;
+constexpr auto UnwindLimit = 2s;
+
 /// Room for the buttons and the picture that desktops put beside a title, and for a title font
 /// that is larger than ours.
 constexpr int TitleButtons = 170;
@@ -105,6 +114,15 @@ void PutOverParent(QWidget &window) {
   place.moveBottom(std::min(place.bottom(), screen.bottom()));
   place.moveTopLeft({std::max(place.left(), screen.left()), std::max(place.top(), screen.top())});
   window.move(place.topLeft());
+}
+
+void CloseDialogsUntil(QDeadlineTimer limit, const std::function<void()> &end) {
+  QWidget *dialog = QApplication::activeModalWidget();
+  if (dialog != nullptr) dialog->close();
+  const bool isFree = dialog == nullptr && QThread::currentThread()->loopLevel() <= 1;
+  if (isFree || limit.hasExpired()) return end();
+  // The dialog's event loop ends first, and the code behind it goes on.
+  QTimer::singleShot(UnwindPause, qApp, [limit, end] { CloseDialogsUntil(limit, end); });
 }
 
 void SetWords(QMessageBox &box, const Message &message) {
@@ -136,7 +154,9 @@ MessageAnswer QtDialogs::ShowMessage(const Message &message) {
     box.raise();
     box.activateWindow();
   }
-  return AnswerOf(box.exec());
+  box.exec();
+  return AnswerOf(box.clickedButton() == nullptr ? set.escape
+                                                 : box.standardButton(box.clickedButton()));
 }
 
 int QtDialogs::Choose(const Message &message, const QStringList &captions) {
@@ -150,7 +170,8 @@ int QtDialogs::Choose(const Message &message, const QStringList &captions) {
   box.setDefaultButton(qobject_cast<QPushButton *>(buttons.constFirst()));
   box.setEscapeButton(buttons.constLast());
   box.exec();
-  return static_cast<int>(buttons.indexOf(box.clickedButton()));
+  const auto pressed = static_cast<int>(buttons.indexOf(box.clickedButton()));
+  return pressed < 0 ? static_cast<int>(buttons.size()) - 1 : pressed;
 }
 
 QString QtDialogs::AskText(const QString &prompt, const QString &title,
@@ -174,6 +195,10 @@ void QtDialogs::RunModal(QWidget &dialog) {
   dialog.activateWindow();
   // A window that hid itself while it was being shown has ended already.
   if (dialog.isVisible()) loop.exec(QEventLoop::DialogExec);
+}
+
+void CloseDialogsThen(const std::function<void()> &end) {
+  CloseDialogsUntil(QDeadlineTimer(UnwindLimit), end);
 }
 
 }  // namespace velor

@@ -83,4 +83,10 @@ bool Application::notify(QObject *receiver, QEvent *event) {
   }
 }
 
+bool Application::event(QEvent *event) {
+  if (event->type() != QEvent::Quit || !quit_) return QApplication::event(event);
+  quit_();
+  return true;
+}
+
 }  // namespace velor

@@ -5,6 +5,7 @@
 
 #include <exception>
 #include <functional>
+#include <utility>
 
 namespace velor {
 
@@ -51,10 +52,18 @@ class Application final : public QApplication {
   /// Without a boundary an error in an event is not caught.
   void SetBoundary(EventBoundary *boundary) { boundary_ = boundary; }
 
+  /// What is done where the desktop asks the program to quit. The toolkit's own way would close
+  /// every window by itself, and each could ask.
+  void SetQuit(std::function<void()> quit) { quit_ = std::move(quit); }
+
   bool notify(QObject *receiver, QEvent *event) override;
+
+ protected:
+  bool event(QEvent *event) override;
 
  private:
   EventBoundary *boundary_ = nullptr;
+  std::function<void()> quit_;
 };
 
 }  // namespace velor

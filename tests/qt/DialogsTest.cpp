@@ -6,6 +6,7 @@
 #include "tests/support/Checks.h"
 #include "tests/support/DialogDriver.h"
 
+#include <QCloseEvent>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
@@ -19,9 +20,12 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace velor {
 namespace {
@@ -81,6 +85,37 @@ TEST(MessageBox, EscapeAnswersCancelElseNoElseOk) {
     OnDialog<QMessageBox> person([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); });
     EXPECT_EQ(dialogs.ShowMessage(Question(answer.first)), answer.second);
   }
+}
+
+/// Runs the program's event loop until exit(): like the program, not until its last window closes.
+void RunProgram() {
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  QCoreApplication::exec();
+}
+
+/// Runs `ask` in the program's event loop, which ends while the question waits.
+void EndBehind(const std::function<void()> &ask) {
+  QTimer::singleShot(0, ask);
+  QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+  RunProgram();
+}
+
+TEST(MessageBox, AnswersAsEscapeDoesWhereTheProgramEndsBehindIt) {
+  QtDialogs dialogs;
+  const std::pair<MessageButtons, MessageAnswer> answers[] = {
+      {MessageButtons::YesNoCancel, MessageAnswer::Cancel},
+      {MessageButtons::YesNo, MessageAnswer::No},
+      {MessageButtons::Ok, MessageAnswer::Ok}};
+  for (const auto &[buttons, expected] : answers) {
+    std::optional<MessageAnswer> answer;
+    EndBehind([&, kind = buttons] { answer = dialogs.ShowMessage(Question(kind)); });
+    EXPECT_EQ(answer, expected);
+  }
+  std::optional<int> choice;
+  const QStringList captions = {QStringLiteral("One"), QStringLiteral("Two"),
+                                QStringLiteral("Neither")};
+  EndBehind([&] { choice = dialogs.Choose(Question(MessageButtons::Ok), captions); });
+  EXPECT_EQ(choice, 2);
 }
 
 TEST(MessageBox, CarriesEachIcon) {
@@ -198,6 +233,63 @@ TEST(ModalWindow, ReturnsWhenTheWindowIsDestroyed) {
   OnDialog<QDialog> person([](QDialog &shown) { delete &shown; });
   dialogs.RunModal(*window);
   EXPECT_TRUE(watched.isNull());
+}
+
+/// Runs `work` in the program's event loop; it calls `ask` right before the system asks for the
+/// end. Gives what happened, in its order.
+QStringList OrderOfTheEnd(
+    const std::function<void(QStringList &order, const std::function<void()> &ask)> &work) {
+  QStringList order;
+  const auto ask = [&] {
+    QTimer::singleShot(0, [&] {
+      CloseDialogsThen([&] {
+        order << QStringLiteral("end");
+        QCoreApplication::exit();
+      });
+    });
+  };
+  QTimer::singleShot(0, [&] {
+    work(order, ask);
+    order << QStringLiteral("returned");
+  });
+  RunProgram();
+  return order;
+}
+
+TEST(TheEndOfTheProgram, ComesWhenTheCodeBehindTheDialogsHasReturned) {
+  QtDialogs dialogs;
+  const QStringList order = OrderOfTheEnd([&](QStringList &answers, const auto &ask) {
+    QDialog below;
+    QTimer::singleShot(0, &below, [&] {
+      ask();
+      const auto answer = dialogs.ShowMessage(Question(MessageButtons::YesNoCancel));
+      answers << (answer == MessageAnswer::Cancel ? QStringLiteral("cancelled")
+                                                  : QStringLiteral("answered"));
+    });
+    dialogs.RunModal(below);
+    answers << QStringLiteral("closed");
+    dialogs.ShowMessage(Question(MessageButtons::Ok));
+    answers << QStringLiteral("read");
+  });
+  EXPECT_EQ(order, QStringLiteral("cancelled closed read returned end").split(u' '));
+}
+
+TEST(TheEndOfTheProgram, ComesWithoutADialogToo) {
+  const auto order = OrderOfTheEnd([](QStringList &, const auto &ask) { ask(); });
+  EXPECT_EQ(order, QStringLiteral("returned end").split(u' '));
+}
+
+TEST(TheEndOfTheProgram, ComesAlthoughADialogStaysOpen) {
+  struct Stubborn final : QDialog {
+    void closeEvent(QCloseEvent *event) override { event->ignore(); }
+  };
+  QtDialogs dialogs;
+  const QStringList order = OrderOfTheEnd([&](QStringList &, const auto &ask) {
+    Stubborn dialog;
+    ask();
+    dialogs.RunModal(dialog);
+  });
+  EXPECT_EQ(order, QStringLiteral("end returned").split(u' '));
 }
 
 TEST(NameFilters, AreMadeOfDescriptionsAndPatternsInBothLetterCases) {

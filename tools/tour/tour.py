@@ -32,6 +32,7 @@ SCENARIOS = (
     hours.text_moves_between_pages,
     hours.patience_is_lost,
     projects.a_project_that_moved_is_found_again_and_edited,
+    start_and_exit.the_systems_end_closes_dialogs,
     start_and_exit.exit_ends_everything,
 )
 

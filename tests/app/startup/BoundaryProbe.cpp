@@ -4,6 +4,7 @@
 #include "app/startup/EventBoundary.h"
 #include "chrome/ReportingSweeps.h"
 #include "platform/RuntimeError.h"
+#include "qt/EndingSignals.h"
 #include "qt/QtDialogs.h"
 #include "qt/QtRuntime.h"
 #include "tests/support/FailingSweeps.h"
@@ -12,6 +13,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -51,6 +53,20 @@ int main(int argc, char **argv) {
                 static_cast<int>(QCoreApplication::arguments().size()));
     return 0;
   }
+  const auto end = [] {
+    std::puts("the end");
+    QCoreApplication::exit();
+  };
+  const EndingSignals signals([&] { CloseDialogsThen(end); });
+  if (scene == "terminated") {
+    QTimer::singleShot(0, &application, [&dialogs] {
+      QTimer::singleShot(0, [] { std::raise(SIGTERM); });
+      dialogs.ShowMessage({.text = QStringLiteral("wait")});
+      std::puts("the message is closed");
+    });
+    return Application::exec();
+  }
+  if (scene == "quit") application.SetQuit(end);
   QTimer::singleShot(0, &application, [&scene] {
     if (scene == "event") Raise(ErrorNumber::SubscriptOutOfRange, QStringLiteral("Pages"));
     if (scene == "write") {

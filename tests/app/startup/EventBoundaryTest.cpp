@@ -181,6 +181,18 @@ TEST(RunningProgram, EndsAtOnceWithoutRunningAnythingElse) {
   EXPECT_EQ(probe.output, "before the end\n");
 }
 
+TEST(RunningProgram, ASignalToEndClosesTheOpenMessageFirst) {
+  const Probe probe = RunProbe(QStringLiteral("terminated"));
+  EXPECT_EQ(probe.status, 0);
+  EXPECT_EQ(probe.output, "the message is closed\nthe end\n");
+}
+
+TEST(RunningProgram, TheDesktopsQuitIsItsOwnEnd) {
+  const Probe probe = RunProbe(QStringLiteral("quit"));
+  EXPECT_EQ(probe.status, 0);
+  EXPECT_EQ(probe.output, "next event\nthe end\n");
+}
+
 TEST(RunningProgram, CapturesItsArgumentsAndActsUponNone) {
   const Probe probe = RunProbe(QStringLiteral("arguments"));
   EXPECT_EQ(probe.status, 0);

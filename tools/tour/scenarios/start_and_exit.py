@@ -3,7 +3,7 @@
 import os
 
 from desktop import file_text
-from moves import check, step
+from moves import DIALOG, check, step
 
 
 def first_start_asks_nothing(tour):
@@ -16,6 +16,20 @@ def first_start_asks_nothing(tour):
     check(site == f'"{tour.folder}"\r\n', f"SiteConfig.ini holds {site!r}")
     images = file_text(os.path.join(tour.folder, "SiteImgConfig.ini"))
     check(images == f'"{tour.folder}/eImages"\r\n', f"SiteImgConfig.ini holds {images!r}")
+
+
+def the_systems_end_closes_dialogs(tour):
+    step("a request to end closes an open dialog and keeps what was typed")
+    tour.program.type("kept ")
+    tour.tab("Home.htm*")
+    tour.program.key("F12")
+    tour.program.wait(None, DIALOG)
+    tour.program.process.terminate()
+    status = tour.program.wait_end()
+    check(status == 0, f"the program ended with status {status}")
+    tour.start()
+    tour.program.press("Restore all pages")
+    tour.tab("Home.htm*")
 
 
 def exit_ends_everything(tour):
