@@ -34,6 +34,7 @@ void Act(MfrmProgram &window, const QString &action) {
   if (window.Router().IsBusy()) return;
   if (action == QStringLiteral("new-page")) window.Router().Run({CommandId::NewPage});
   if (action == QStringLiteral("project-manager")) window.Router().Run({CommandId::ProjectManager});
+  if (action == QStringLiteral("recent-files")) window.ShowRecentFiles();
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class DesktopService final : public QObject {
 
  public:
   /// `open` opens files or brings the program to the front; `act` carries out an action of the
-  /// desktop file: "new-page" or "project-manager".
+  /// desktop file: "new-page", "recent-files" or "project-manager".
   DesktopService(std::function<void(const OpeningRequest &)> open,
                  std::function<void(const QString &)> act);
 

@@ -30,18 +30,19 @@ QString SpokenCaption(QString caption) {
   return caption;
 }
 
-CommandPalette::CommandPalette(const QList<NamedCommand> &commands, QWidget *parent)
+CommandPalette::CommandPalette(const PaletteWords &words, const QList<NamedCommand> &commands,
+                               QWidget *parent)
     : QDialog(parent), words_(new QLineEdit(this)), list_(new QListWidget(this)) {
   setObjectName(QStringLiteral("CommandPalette"));
-  setWindowTitle(tr("Find Command"));
+  setWindowTitle(words.title);
   std::copy_if(commands.begin(), commands.end(), std::back_inserter(commands_),
                [](const NamedCommand &command) { return command.item->isEnabled(); });
   words_->setObjectName(QStringLiteral("txtWords"));
-  words_->setAccessibleName(tr("Words of the command"));
-  words_->setPlaceholderText(tr("Words of the command"));
+  words_->setAccessibleName(words.prompt);
+  words_->setPlaceholderText(words.prompt);
   words_->installEventFilter(this);
   list_->setObjectName(QStringLiteral("lstCommands"));
-  list_->setAccessibleName(tr("Commands"));
+  list_->setAccessibleName(words.list);
   auto *column = new QVBoxLayout(this);
   column->addWidget(words_);
   column->addWidget(list_, 1);

@@ -20,13 +20,20 @@ struct NamedCommand {
   QString words = {};
 };
 
+/// What a palette says it is for.
+struct PaletteWords {
+  QString title;
+  QString prompt;  ///< of the box for the words
+  QString list;    ///< the list's name for assistive technology
+};
+
 /// Finds a command by some words of its name or by other words for it. Commands that cannot be used
 /// now are not listed.
 class CommandPalette final : public QDialog {
   Q_OBJECT
 
  public:
-  CommandPalette(const QList<NamedCommand> &commands, QWidget *parent);
+  CommandPalette(const PaletteWords &words, const QList<NamedCommand> &commands, QWidget *parent);
 
   /// The item that the person chose; null for none. It is run when the window has closed, so that
   /// it acts on what is in front.

@@ -174,7 +174,7 @@ void MfrmProgram::BuildLayout() {
 void MfrmProgram::PrepareTools() {
   QMenu *tools = menus_.menus.value(QStringLiteral("mnuTools"));
   if (tools == nullptr) return;
-  new RecentFiles(
+  recent_ = new RecentFiles(
       *menus_.menus.value(QStringLiteral("mnuRecent")), platform_.registry,
       [this](const QString &path) { router_.OpenRecentFile(path); }, this);
   QAction &wrap = MenuItem({CommandId::WrapSource});
@@ -357,8 +357,21 @@ void MfrmProgram::ShowCommandPalette() {
   }
   for (ToolBarAction *button : bandBar_->Formatting().Buttons())
     commands.append({button->toolTip(), button, {}});
+  RunPalette({tr("Find Command"), tr("Words of the command"), tr("Commands")}, commands);
+}
+
+void MfrmProgram::ShowRecentFiles() {
+  const QMenu *menu = menus_.menus.value(QStringLiteral("mnuRecent"));
+  if (menu == nullptr) return;
+  recent_->Refill();
+  QList<NamedCommand> files;
+  for (QAction *file : menu->actions()) files.append({file->toolTip(), file, {}});
+  RunPalette({tr("Recent Files"), tr("Words of the file's path"), tr("Files")}, files);
+}
+
+void MfrmProgram::RunPalette(const PaletteWords &words, const QList<NamedCommand> &commands) {
   const QPointer<MfrmProgram> alive = this;
-  CommandPalette palette(commands, this);
+  CommandPalette palette(words, commands, this);
   platform_.dialogs.RunModal(palette);
   if (!alive.isNull() && palette.Chosen() != nullptr) palette.Chosen()->trigger();
 }

@@ -24,10 +24,13 @@ class PageArea;
 class PageChooser;
 class PageTabs;
 class ProjectDesk;
+class RecentFiles;
 class RecoveryBar;
 class StatusLine;
 class StyleMenuPainter;
 class StylingSweeps;
+struct NamedCommand;
+struct PaletteWords;
 struct ProgramValues;
 
 /// The main window: menus, the band bar `CoolBar` with its two toolbars and the formatting boxes,
@@ -50,6 +53,10 @@ class MfrmProgram final : public QMainWindow,
 
   /// Takes the keyboard, where the desktop lets it.
   void ComeToFront();
+
+  /// Lets a person choose one of the files of Tools > Recent Files. Without that menu nothing
+  /// happens.
+  void ShowRecentFiles();
 
   CommandRouter &Router() { return router_; }
   EditorContext &Context() { return context_; }
@@ -101,6 +108,8 @@ class MfrmProgram final : public QMainWindow,
   void MarkMenuStyle(int index);
   /// The menu Tools, where it is there: the files opened last, and what is chosen there.
   void PrepareTools();
+  /// Runs the item that a person chooses.
+  void RunPalette(const PaletteWords &words, const QList<NamedCommand> &commands);
 
   Platform &platform_;
   const Additions additions_;
@@ -125,6 +134,8 @@ class MfrmProgram final : public QMainWindow,
   RecoveryBar *recovery_;
   std::unique_ptr<ProjectDesk> projects_;
   std::unique_ptr<EditingComponent> formatNames_;
+  /// Null without the menu Tools.
+  RecentFiles *recent_ = nullptr;
   bool isClosing_ = false;
   /// The element under the caret that the tool box shows; empty for none.
   QString inspectedElement_;

@@ -12,8 +12,9 @@
 namespace velor {
 namespace {
 
-/// The digits 1 to 9 are their mnemonics.
-constexpr int MostListed = 9;
+constexpr int MostListed = 15;
+/// The digits 1 to 9 are mnemonics.
+constexpr int MostMnemonics = 9;
 
 }  // namespace
 
@@ -27,9 +28,13 @@ void RecentFiles::Refill() {
   menu_.clear();
   const QStringList paths = modSettingManager::History(registry_).mid(0, MostListed);
   for (const QString &path : paths) {
-    const QString caption = ForPeople(path).replace(u'&', QStringLiteral("&&"));
-    menu_.addAction(QStringLiteral("&%1 %2").arg(menu_.actions().size() + 1).arg(caption), this,
-                    [this, path] { open_(path); });
+    const qsizetype number = menu_.actions().size() + 1;
+    const QString mark = number > MostMnemonics ? QString() : QStringLiteral("&");
+    const QString name = ForPeople(path);
+    const QString caption = QString(name).replace(u'&', QStringLiteral("&&"));
+    QAction *item = menu_.addAction(QStringLiteral("%1%2 %3").arg(mark).arg(number).arg(caption),
+                                    this, [this, path] { open_(path); });
+    item->setToolTip(name);
   }
   if (paths.isEmpty()) menu_.addAction(tr("No file was opened yet"))->setEnabled(false);
 }

@@ -12,7 +12,8 @@ namespace velor {
 
 class Registry;
 
-/// Lists the recently opened files in a menu whenever it is opened, the latest first.
+/// Lists the recently opened files in a menu whenever it is opened, the latest first. An item's
+/// tool tip is the file's path.
 class RecentFiles final : public QObject {
   Q_OBJECT
 
@@ -21,9 +22,10 @@ class RecentFiles final : public QObject {
   RecentFiles(QMenu &menu, const Registry &registry, std::function<void(const QString &path)> open,
               QObject *parent);
 
- private:
+  /// Lists them now.
   void Refill();
 
+ private:
   QMenu &menu_;
   const Registry &registry_;
   std::function<void(const QString &path)> open_;

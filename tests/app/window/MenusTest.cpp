@@ -225,6 +225,37 @@ TEST_F(MenusTest, TheRecentFilesAreListedLatestFirstAndOpen) {
   EXPECT_EQ(Tabs().tabToolTip(0), QStringLiteral("/site/b.htm"));
 }
 
+TEST_F(MenusTest, TheDesktopsActionFindsARecentFileByWordsOfItsPath) {
+  for (const char *name : {"a&b.htm", "c d.htm"}) {
+    const QString path = QStringLiteral("\\site\\") + QString::fromLatin1(name);
+    WriteFile(path);
+    modSettingManager::AddToHistory(registry, path);
+  }
+  dialogs.ExpectModal([](QWidget &palette) {
+    EXPECT_EQ(palette.windowTitle(), QStringLiteral("Recent Files"));
+    auto &list = *palette.findChild<QListWidget *>(QStringLiteral("lstCommands"));
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(list.item(0)->text(), QStringLiteral("/site/c d.htm"));
+    EXPECT_EQ(list.item(1)->text(), QStringLiteral("/site/a&b.htm"));
+    auto *words = palette.findChild<QLineEdit *>(QStringLiteral("txtWords"));
+    QTest::keyClicks(words, QStringLiteral("a&"));
+    QTest::keyClick(words, Qt::Key_Return);
+  });
+  window.ShowRecentFiles();
+  ASSERT_EQ(Tabs().count(), 1);
+  EXPECT_EQ(Tabs().tabToolTip(0), QStringLiteral("/site/a&b.htm"));
+}
+
+TEST_F(MenusTest, FifteenRecentFilesAreListedTheFirstNineWithADigit) {
+  for (int number = 1; number <= 20; ++number)
+    modSettingManager::AddToHistory(registry, QStringLiteral("\\site\\%1.htm").arg(number));
+  QMenu &recent = *Find<QMenu>("mnuRecent");
+  Q_EMIT recent.aboutToShow();
+  ASSERT_EQ(recent.actions().size(), 15);
+  EXPECT_EQ(recent.actions().at(8)->text(), QStringLiteral("&9 /site/12.htm"));
+  EXPECT_EQ(recent.actions().at(9)->text(), QStringLiteral("10 /site/11.htm"));
+}
+
 TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
   EXPECT_EQ(Tree(Find<QMenu>("mnuTools")->actions()).toStdString(),
             R"tree(mnuFindCommand "Find Command... (&F)" Ctrl+Shift+P
