@@ -5,14 +5,15 @@
 #include "app/window/MfrmProgram.h"
 #include "chrome/Palette.h"
 #include "editor/PagesAtExit.h"
+#include "engine/EngineInUse.h"
 #include "engine/PageAccess.h"
 #include "engine/PageScheme.h"
 #include "engine/Sandbox.h"
 #include "platform/DriveMap.h"
 #include "platform/Paths.h"
-#include "qt/ProgramFolder.h"
 #include "qt/DesktopService.h"
 #include "qt/EndingSignals.h"
+#include "qt/ProgramFolder.h"
 #include "qt/RealPlatform.h"
 #include "qt/RunningProgram.h"
 
@@ -33,8 +34,8 @@ QStringList OpenInWindow(MfrmProgram &window, const OpeningRequest &request) {
 void Act(MfrmProgram &window, const QString &action) {
   if (window.Router().IsBusy()) return;
   if (action == QStringLiteral("new-page")) window.Router().Run({CommandId::NewPage});
-  if (action == QStringLiteral("project-manager")) window.Router().Run({CommandId::ProjectManager});
   if (action == QStringLiteral("recent-files")) window.ShowRecentFiles();
+  if (action == QStringLiteral("project-manager")) window.Router().Run({CommandId::ProjectManager});
 }
 
 }  // namespace
@@ -71,6 +72,7 @@ int main(int argc, char **argv) {
         // exit(), not quit(): quit() asks every window again whether it may close.
         QObject::connect(mainWindow.get(), &MfrmProgram::Unloaded, &application,
                          [] { QCoreApplication::exit(); });
+        mainWindow->SetEngine(EngineInUse());
         mainWindow->Load();
         if (IsSandboxOff())
           mainWindow->Context().mainWindow.status.Report(QStringLiteral(

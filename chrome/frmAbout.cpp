@@ -5,6 +5,7 @@
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
 #include "platform/Dialogs.h"
+#include "platform/EngineVersion.h"
 #include "platform/Runtime.h"
 
 #include <QAccessibleWidget>
@@ -14,6 +15,7 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -31,6 +33,7 @@ constexpr int FirstRidge = 135;
 constexpr int Ridges = 5;
 constexpr int RidgeDistance = 2;
 constexpr int Margin = 24;
+constexpr int TextWidth = Width - 2 * Margin;
 
 /// Milliseconds between two passes: a little over StepSeconds, so that every pass takes a step.
 constexpr int PassPeriod = 52;
@@ -48,6 +51,30 @@ QLabel *NewQuietLabel(const char *name, const QString &text) {
   QLabel *label = NewLabel(name, text);
   label->setForegroundRole(QPalette::PlaceholderText);
   return label;
+}
+
+/// A label of several lines: the box has one width, and room for all of them.
+QLabel *Wrapped(QLabel *label) {
+  label->setWordWrap(true);
+  label->setFixedSize(TextWidth, label->heightForWidth(TextWidth));
+  return label;
+}
+
+/// What is said of the browser engine, in rows of their own; nothing where it is not known.
+void AddEngineWords(QGridLayout &grid, const EngineVersion &engine) {
+  if (engine.chromium.isEmpty()) return;
+  QString words = frmAbout::tr("Browser engine: Chromium %1").arg(engine.chromium);
+  const QDate released = ReleaseOfChromium(engine.securityFixes);
+  if (released.isValid())
+    words += u'\n' + frmAbout::tr("Security fixes up to Chromium %1 (about %2)")
+                         .arg(engine.securityFixes,
+                              QLocale().toString(released, QStringLiteral("MMMM yyyy")));
+  grid.addWidget(Wrapped(NewQuietLabel("lblEngine", words)), grid.rowCount(), 0, 1, 3);
+  if (!IsOutdated(engine, QDate::currentDate())) return;
+  const QString meaning = frmAbout::tr(
+      "These fixes are older than 18 months: preview only pages that you trust. A newer release of "
+      "your system brings a newer engine.");
+  grid.addWidget(Wrapped(NewLabel("lblEngineAge", meaning)), grid.rowCount(), 0, 1, 3);
 }
 
 /// A link as a control: Tab reaches it and it shows the focus; a click, Enter or Space follows it.
@@ -146,7 +173,8 @@ class frmAbout::Pattern final : public QWidget {
   const AboutAnimation &animation_;
 };
 
-frmAbout::frmAbout(Runtime &runtime, QWidget *parent) : QDialog(parent), runtime_(runtime) {
+frmAbout::frmAbout(Runtime &runtime, const EngineVersion &engine, QWidget *parent)
+    : QDialog(parent), runtime_(runtime) {
   setObjectName(QStringLiteral("frmAbout"));
   setWindowTitle(tr("About us..."));
   auto *inert = new QTimer(this);
@@ -157,7 +185,7 @@ frmAbout::frmAbout(Runtime &runtime, QWidget *parent) : QDialog(parent), runtime
   column->setSpacing(0);
   column->addWidget(BuildHead());
   column->addSpacing(Ridges * RidgeDistance + 2);
-  column->addWidget(BuildFoot());
+  column->addWidget(BuildFoot(engine));
   column->setSizeConstraint(QLayout::SetFixedSize);
   findChild<QPushButton *>()->setFocus();
 }
@@ -184,7 +212,7 @@ QWidget *frmAbout::BuildHead() {
   grid->addWidget(product, 1, 1);
   grid->addWidget(NewQuietLabel("Label1", QStringLiteral("Example Software")), 2, 1);
   grid->addWidget(NewQuietLabel("lblVersion",
-                                QStringLiteral("%1 %2\nQt WebEngine %3")
+                                QStringLiteral("%1 %2\nQt %3")
                                     .arg(QString::fromUtf16(ApplicationTitle),
                                          QLatin1String(ProgramVersion), QLatin1String(qVersion()))),
                   3, 1);
@@ -194,7 +222,7 @@ QWidget *frmAbout::BuildHead() {
   return head;
 }
 
-QWidget *frmAbout::BuildFoot() {
+QWidget *frmAbout::BuildFoot(const EngineVersion &engine) {
   auto *foot = new QWidget;
   QAccessible::installFactory(AccessOfMailLink);
   auto *mail = new MailLink;
@@ -212,7 +240,8 @@ QWidget *frmAbout::BuildFoot() {
   grid->addWidget(NewLabel("Label5", QStringLiteral("Exampletown")), 1, 0, 1, 2);
   grid->addWidget(NewLabel("Label4", QStringLiteral("E-mail :")), 2, 0);
   grid->addWidget(mail, 2, 1, Qt::AlignLeft);
-  grid->addWidget(close, 2, 2);
+  AddEngineWords(*grid, engine);
+  grid->addWidget(close, grid->rowCount() - 1, 2, Qt::AlignBottom);
   return foot;
 }
 

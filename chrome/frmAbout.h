@@ -9,15 +9,16 @@
 namespace velor {
 
 class Runtime;
+struct EngineVersion;
 
-/// The About box: product, maker, a mail link, a band of ridges and a small animated pattern
-/// (AboutAnimation) that runs while the box is the active window.
+/// The About box: product, maker, versions, a mail link, a band of ridges and a small animated
+/// pattern (AboutAnimation) that runs while the box is the active window.
 class frmAbout final : public QDialog {
   Q_OBJECT
 
  public:
   /// `runtime` outlives the box.
-  explicit frmAbout(Runtime &runtime, QWidget *parent = nullptr);
+  frmAbout(Runtime &runtime, const EngineVersion &engine, QWidget *parent = nullptr);
 
  protected:
   void paintEvent(QPaintEvent *event) override;
@@ -29,7 +30,7 @@ class frmAbout final : public QDialog {
   class Pattern;
 
   QWidget *BuildHead();
-  QWidget *BuildFoot();
+  QWidget *BuildFoot(const EngineVersion &engine);
   /// Takes the animation's next step if it is due.
   void Play();
   /// Opens the desktop's mail program for a mailto: link; a failure is ignored.

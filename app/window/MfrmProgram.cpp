@@ -343,7 +343,7 @@ void MfrmProgram::ShowProjectManager() {
 }
 
 void MfrmProgram::ShowAbout() {
-  frmAbout about(platform_.runtime, this);
+  frmAbout about(platform_.runtime, engine_, this);
   platform_.dialogs.RunModal(about);
 }
 

@@ -9,6 +9,7 @@
 #include "editor/EditorContext.h"
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
+#include "platform/EngineVersion.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -50,6 +51,9 @@ class MfrmProgram final : public QMainWindow,
 
   /// Prepares the window in the order of LoadSteps and shows it.
   void Load();
+
+  /// What the About box tells of the browser engine.
+  void SetEngine(const EngineVersion &engine) { engine_ = engine; }
 
   /// Takes the keyboard, where the desktop lets it.
   void ComeToFront();
@@ -136,6 +140,7 @@ class MfrmProgram final : public QMainWindow,
   std::unique_ptr<EditingComponent> formatNames_;
   /// Null without the menu Tools.
   RecentFiles *recent_ = nullptr;
+  EngineVersion engine_;
   bool isClosing_ = false;
   /// The element under the caret that the tool box shows; empty for none.
   QString inspectedElement_;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/frmAbout.h"
+#include "platform/EngineVersion.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FakeRuntime.h"
 #include "tests/support/Forms.h"
@@ -10,7 +11,9 @@
 #include <QTest>
 #include <QTimer>
 
+#include <cstdlib>
 #include <ctime>
+#include <utility>
 
 namespace velor {
 namespace {
@@ -83,7 +86,7 @@ class frmAboutTest : public ::testing::Test {
 
   CallLog log;
   FakeRuntime runtime{&log};
-  frmAbout about{runtime};
+  frmAbout about{runtime, {QStringLiteral("102.0.5005.177"), QStringLiteral("108.0.5359.98")}};
 };
 
 TEST_F(frmAboutTest, NamesProductMakerAndAddress) {
@@ -102,10 +105,53 @@ TEST_F(frmAboutTest, NamesProductMakerAndAddress) {
 TEST_F(frmAboutTest, NamesProgramVersionAndEngine) {
   ShowActive();
   auto *version = Control<QLabel>(about, QStringLiteral("lblVersion"));
-  EXPECT_EQ(version->text(), QStringLiteral("Velor Web Creator " VELOR_VERSION "\nQt WebEngine ") +
-                                 QLatin1String(qVersion()));
+  EXPECT_EQ(version->text(),
+            QStringLiteral("Velor Web Creator " VELOR_VERSION "\nQt ") + QLatin1String(qVersion()));
   EXPECT_GE(version->width(), version->sizeHint().width());
   EXPECT_GE(version->height(), version->sizeHint().height());
+}
+
+TEST_F(frmAboutTest, TellsTheAgeOfTheEnginesSecurityFixesAndWhatItMeans) {
+  ShowActive();
+  EXPECT_EQ(Control<QLabel>(about, QStringLiteral("lblEngine"))->text(),
+            QStringLiteral("Browser engine: Chromium 102.0.5005.177\n"
+                           "Security fixes up to Chromium 108.0.5359.98 (about December 2022)"));
+  EXPECT_EQ(
+      Control<QLabel>(about, QStringLiteral("lblEngineAge"))->text(),
+      QStringLiteral("These fixes are older than 18 months: preview only pages that you trust. A "
+                     "newer release of your system brings a newer engine."));
+  EXPECT_EQ(about.width(), 420);
+  for (const char *name : {"lblEngine", "lblEngineAge"}) {
+    auto *label = Control<QLabel>(about, QString::fromLatin1(name));
+    EXPECT_GE(label->width(), label->minimumSizeHint().width()) << name;
+    EXPECT_GE(label->height(), label->heightForWidth(label->width())) << name;
+  }
+}
+
+TEST_F(frmAboutTest, SaysNothingOfAnEngineThatIsNewOrNotKnown) {
+  const frmAbout recent(runtime, {QStringLiteral("9999.0"), QStringLiteral("9999.1")});
+  EXPECT_NE(recent.findChild<QLabel *>(QStringLiteral("lblEngine")), nullptr);
+  EXPECT_EQ(recent.findChild<QLabel *>(QStringLiteral("lblEngineAge")), nullptr);
+  const frmAbout unknown(runtime, {});
+  EXPECT_EQ(unknown.findChild<QLabel *>(QStringLiteral("lblEngine")), nullptr);
+}
+
+TEST(EngineVersion, ReleasesAreToldToLessThanAMonth) {
+  const std::pair<const char *, QDate> releases[] = {{"94.0.4606.54", {2021, 9, 21}},
+                                                     {"108.0.5359.71", {2022, 11, 29}},
+                                                     {"120.0.6099.62", {2023, 12, 5}},
+                                                     {"142.0.7444.59", {2025, 10, 28}}};
+  for (const auto &[version, day] : releases)
+    EXPECT_LE(std::abs(ReleaseOfChromium(QString::fromLatin1(version)).daysTo(day)), 28) << version;
+  for (const char *version : {"", "engine", "93.0.4577.63"})
+    EXPECT_FALSE(ReleaseOfChromium(QString::fromLatin1(version)).isValid()) << version;
+}
+
+TEST(EngineVersion, IsOutdatedEighteenMonthsAfterItsFixesCameOut) {
+  const EngineVersion engine = {QStringLiteral("90.0"), QStringLiteral("94.0.4606.54")};
+  EXPECT_FALSE(IsOutdated(engine, {2023, 3, 21}));
+  EXPECT_TRUE(IsOutdated(engine, {2023, 3, 22}));
+  EXPECT_FALSE(IsOutdated({QStringLiteral("90.0"), {}}, {2030, 1, 1}));
 }
 
 TEST_F(frmAboutTest, HasFiveRidgesOfALightAndADarkLine) {
@@ -171,7 +217,7 @@ TEST_F(frmAboutTest, TakesLessThanTwoHundredthsOfAProcessor) {
 }
 
 TEST_F(frmAboutTest, EndsAtOnceWhenItIsClosedInTheMiddle) {
-  auto *closing = new frmAbout(runtime);
+  auto *closing = new frmAbout(runtime, {});
   closing->show();
   closing->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(closing));
