@@ -82,26 +82,26 @@ QCheckBox *FrmSettings::AddTruth(QFormLayout *form, const Preference &preference
 }
 
 void FrmSettings::AddMenuStyle(QFormLayout *form) {
-  constexpr const Preference &menuStyle = PreferenceOf("MenuStyle");
-  constexpr const Preference &menuBackground = PreferenceOf("MenuBackground");
-  style_ = AddComboBox(form, menuStyle.Name(), QStringLiteral("Style:"),
+  constexpr const Preference &MenuStyle = PreferenceOf("MenuStyle");
+  constexpr const Preference &MenuBackground = PreferenceOf("MenuBackground");
+  style_ = AddComboBox(form, MenuStyle.Name(), QStringLiteral("Style:"),
                        {QStringLiteral("Picture file")});
   for (const MenuRow &row : MenuTable())
     if (row.command.id == CommandId::MenuStyle) style_->addItem(QString::fromLatin1(row.caption));
   const int last = style_->count() - 1;
-  int style = Settings::IntegerOption(registry_, menuStyle,
+  int style = Settings::IntegerOption(registry_, MenuStyle,
                                       [this](const RuntimeError &fault) { Tell(fault); });
   if (style < 0 || style > last) {
-    Tell(Settings::FaultOf(registry_, menuStyle,
-                           RuntimeError::Of(ErrorNumber::IndexOutOfBounds, menuStyle.Name())));
-    style = CInt(menuStyle.Default());
+    Tell(Settings::FaultOf(registry_, MenuStyle,
+                           RuntimeError::Of(ErrorNumber::IndexOutOfBounds, MenuStyle.Name())));
+    style = CInt(MenuStyle.Default());
   }
   style_->setCurrentIndex(style);
-  AddRow(menuStyle.Name(), [this] { return QString::number(style_->currentIndex()); });
+  AddRow(MenuStyle.Name(), [this] { return QString::number(style_->currentIndex()); });
 
-  background_ = AddTextBox(form, menuBackground.Name(), QStringLiteral("Picture file:"));
-  background_->setText(Settings::GetOption(registry_, menuBackground));
-  AddRow(menuBackground.Name(), [this] { return background_->text(); });
+  background_ = AddTextBox(form, MenuBackground.Name(), QStringLiteral("Picture file:"));
+  background_->setText(Settings::GetOption(registry_, MenuBackground));
+  AddRow(MenuBackground.Name(), [this] { return background_->text(); });
   const auto followStyle = [this] { background_->setEnabled(style_->currentIndex() == 0); };
   connect(style_, &QComboBox::currentIndexChanged, this, followStyle);
   followStyle();
