@@ -83,5 +83,4 @@ own charset and with its own line ends; of an edited one every byte outside
 the edit stays. What was not saved is offered again after an exit or a crash.
 
 Web-site projects come from the catalogue of the companion program Vitrine.")
-set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://velor.example/web-creator")
 include(CPack)
