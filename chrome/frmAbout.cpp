@@ -66,7 +66,7 @@ void AddEngineWords(QGridLayout &grid, const EngineVersion &engine) {
   QString words = frmAbout::tr("Browser engine: Chromium %1").arg(engine.chromium);
   const QDate released = ReleaseOfChromium(engine.securityFixes);
   if (released.isValid())
-    words += u'\n' + frmAbout::tr("Security fixes up to Chromium %1 (about %2)")
+    words += u'\n' + frmAbout::tr("Security fixes up to %1 (about %2)")
                          .arg(engine.securityFixes,
                               QLocale().toString(released, QStringLiteral("MMMM yyyy")));
   grid.addWidget(Wrapped(NewQuietLabel("lblEngine", words)), grid.rowCount(), 0, 1, 3);
@@ -241,7 +241,8 @@ QWidget *frmAbout::BuildFoot(const EngineVersion &engine) {
   grid->addWidget(NewLabel("Label4", QStringLiteral("E-mail :")), 2, 0);
   grid->addWidget(mail, 2, 1, Qt::AlignLeft);
   AddEngineWords(*grid, engine);
-  grid->addWidget(close, grid->rowCount() - 1, 2, Qt::AlignBottom);
+  // Beside the last line of the address, or below the words that take the whole width.
+  grid->addWidget(close, engine.chromium.isEmpty() ? 2 : grid->rowCount(), 2);
   return foot;
 }
 
