@@ -12,6 +12,13 @@ const blockNames = new Map(/** @type {[tag: string, name: string][]} */ ([
   ...[1, 2, 3, 4, 5, 6].map((level) => [`h${level}`, `Heading ${level}`]),
 ]));
 const known = (value) => (value === undefined ? null : value);
+// The one of the seven sizes that is nearest to a size as the program shows it ("9 px", "14.4 pt",
+// "12"): the suite asks for that one. 96 pixels are 72 points.
+const nearestSize = (shown) => {
+  const points = parseFloat(shown) * (shown.endsWith('px') ? 72 / 96 : 1);
+  const distance = (size) => Math.abs(Number(size) - points);
+  return sizePoints.reduce((best, each) => (distance(each) < distance(best) ? each : best));
+};
 
 // `value(text)`: a row's value in the program's vocabulary, null for one that it does not have.
 // `run(value, name)`: carries the command out.
@@ -21,9 +28,9 @@ const status = (number) => () => {
   const shown = velor.state().commands[number];
   return { indeterm: shown === Status.Ninched, state: shown === Status.Latched };
 };
-const reading = (number) => () => {
+const reading = (number, inSuite = (value) => value) => () => {
   const value = velor.exec(number);
-  return { indeterm: value === '', value };
+  return { indeterm: value === '', value: value && inSuite(value) };
 };
 const number = (command, more = {}) =>
   ({ value: () => '', run: (value) => velor.exec(command, value), ...more });
@@ -63,7 +70,7 @@ suite.commands = new Map(Object.entries({
   }),
   fontsize: number(Command.SetFontSize, {
     value: (text) => (/^[1-7]$/.test(text) ? sizePoints[text - 1] : null),
-    answers: reading(Command.GetFontSize),
+    answers: reading(Command.GetFontSize, nearestSize),
     means: (value) => sizePoints[value - 1] ?? value,
   }),
   formatblock: number(Command.SetBlockFormat, {
