@@ -9,12 +9,14 @@ import {
 import { isItem, itemOf } from './items.js';
 import { dropBlock, dropEmptyBlocks, join } from './joining.js';
 import * as lists from './lists.js';
+import { joinAlike } from '../formats/merging.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import { beside } from '../page/beside.js';
 import * as selection from '../page/selection.js';
 import { wholeSigns } from '../page/signs.js';
 import { unitsIn } from '../page/units.js';
+import { partedWords } from '../page/whitespace.js';
 
 // True for an element without content that takes no room on the screen.
 /** @param {AnyNode} node */
@@ -180,6 +182,16 @@ function trimEdges(first, second) {
     second.nodes.length ? dom.firstLeaf(second.nodes[0]) : null);
 }
 
+// A paragraph with the blank at its end that was typed there, or that parted words before Enter
+// did: it shows once more text follows.
+/** @param {Unit} unit */
+function withBlank(unit) {
+  const { block, container, home, object, nodes } = unit;
+  const blank = /** @type {AnyNode} */ (nodes.at(-1)?.nextSibling);
+  const isSeen = dom.isBlank(blank) && (blanks.wasTypedIn(blank) || partedWords(blank));
+  return isSeen ? { block, container, home, object, nodes: [...nodes, blank] } : unit;
+}
+
 // Joins two paragraphs and puts the caret between them. Where one of the two is an empty line it
 // goes, and the other stays as it is.
 /**
@@ -188,6 +200,7 @@ function trimEdges(first, second) {
  */
 function joinAtCaret(first, second) {
   dropNothings(first, second);
+  first = withBlank(first);
   /** @type {AnyNode} */
   const above = emptyLine(first, 'end') ?? (isEmptyParagraph(first) ? first.block : null);
   const below = emptyLine(second, 'start') ?? (isEmptyParagraph(second) ? second.block : null);
@@ -197,7 +210,11 @@ function joinAtCaret(first, second) {
   if (takesIn) above.replaceChildren();
   if (!emptied) {
     trimEdges(first, second);
-    selection.setCaret(...selection.pointOf(join(first, second)));
+    const [left, right] = [first.nodes.at(-1), second.nodes[0]];
+    const caret = join(first, second);
+    // What Enter cut in two is one again.
+    if (left && left.nextSibling === right) joinAlike(left, right);
+    selection.setCaret(...selection.pointOf(caret));
     return;
   }
   const { parentNode } = emptied;

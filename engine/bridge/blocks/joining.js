@@ -7,7 +7,7 @@ import { isContinuation, itemOf } from './items.js';
 import * as dom from '../page/dom.js';
 import { holdOpen } from '../page/lines.js';
 import * as selection from '../page/selection.js';
-import { dropLine } from '../page/sourceLines.js';
+import { dropLine, joinLists } from '../page/sourceLines.js';
 
 /**
  * Drops a block that is empty, and then the lists and quotes that held nothing else.
@@ -37,7 +37,7 @@ export function dropBlock(block) {
     dropLine(block);
     block.remove();
   }
-  if (dom.isList(before) && isContinuation(before, after)) dom.absorb(before, after);
+  if (dom.isList(before) && isContinuation(before, after)) joinLists(before, after);
 }
 
 // The nodes less the break at their end, which goes, unless it is the one that `line` is behind.

@@ -12,7 +12,9 @@ import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import { holdOpen, dropEmptyInline } from '../page/lines.js';
 import * as selection from '../page/selection.js';
-import { dropInnerLines } from '../page/sourceLines.js';
+import {
+  dropInnerLines, joinLists, moveBehind, moveToEnd, removeList, setCutList,
+} from '../page/sourceLines.js';
 import { enclose, unitsIn } from '../page/units.js';
 
 // Old pages have lists directly in lists. Moves such a list into the item before it, or into an
@@ -32,8 +34,12 @@ function moveIntoItem(list) {
 function cutOutList(group) {
   let list = group[0].parentNode;
   const behind = dom.neighbour(group.at(-1), 'nextSibling');
-  if (behind) dom.splitBefore(behind, list);
-  if (dom.neighbour(group[0], 'previousSibling')) list = dom.splitBefore(group[0], list);
+  if (behind) setCutList(list, dom.splitBefore(behind, list));
+  if (dom.neighbour(group[0], 'previousSibling')) {
+    const first = list;
+    list = dom.splitBefore(group[0], first);
+    setCutList(first, list);
+  }
   return list;
 }
 
@@ -43,10 +49,10 @@ function joinNeighbours(list) {
   const before = dom.neighbour(list, 'previousSibling');
   const after = dom.neighbour(list, 'nextSibling');
   if (isContinuation(before, list)) {
-    dom.absorb(before, list);
+    joinLists(before, list);
     list = before;
   }
-  if (isContinuation(list, after)) dom.absorb(list, after);
+  if (isContinuation(list, after)) joinLists(list, after);
   return list;
 }
 
@@ -248,10 +254,10 @@ function moveOneLevelOut(group, putTail) {
   if (outer.tagName === 'LI') {
     for (let at = list.nextSibling; at; at = at.nextSibling) behind.push(at);
   }
-  (outer.tagName === 'LI' ? outer : list).after(...group);
+  moveBehind(outer.tagName === 'LI' ? outer : list, group);
   const end = tail.some(dom.isShown) ? putTail(last, list, tail) : last;
   if (behind.some(dom.isShown)) end.append(...ownLine(end, behind));
-  if (!itemsIn(list).length) list.remove();
+  if (!itemsIn(list).length) removeList(list);
   if (outer.tagName === 'LI' && !dom.hasContent(outer) && !holdsNamed(outer)) outer.remove();
 }
 
@@ -302,7 +308,7 @@ export function nest(group) {
   if (dom.isList(beside)) moveIntoItem(beside);
   const before = dom.neighbour(group[0], 'previousSibling');
   if (!isItem(before)) return false;
-  sublistAtEnd(before, group[0].parentNode).append(...group);
+  moveToEnd(sublistAtEnd(before, group[0].parentNode), group);
   return true;
 }
 

@@ -113,12 +113,14 @@ const isOpenInline = (node) => dom.isInline(node) && !dom.isAtom(node) && !dom.i
  * @param {AnyNode} right
  */
 const areAlike = (left, right) => isOpenInline(left) && isOpenInline(right) &&
-  left.tagName === right.tagName && dom.sameAttributes(left, right);
+  left.tagName === right.tagName &&
+  (dom.sameAttributes(left, right) || dom.sameAttributes(dom.twin(left), right));
 /**
+ * Joins two neighbours that are the same inline element, and what meets in them then.
  * @param {AnyNode} left
  * @param {AnyNode} right
  */
-function joinAlike(left, right) {
+export function joinAlike(left, right) {
   while (areAlike(left, right)) {
     const inner = [left.lastChild, right.firstChild];
     dom.absorb(left, right);

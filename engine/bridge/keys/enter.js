@@ -15,6 +15,7 @@ import * as history from '../page/history.js';
 import { openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { gapAt, unitsIn } from '../page/units.js';
+import { moveGapAbove } from '../page/whitespace.js';
 
 /** @param {PlainRange} range */
 const preAt = (range) => dom.ancestor(range.startContainer, dom.isPreformatted);
@@ -137,13 +138,21 @@ export function ownEnter() {
   return range.collapsed ? enterInLine(range) : replaceSelection;
 }
 
-// A split paragraph leaves its id with the first half only.
-function dropDoubledId() {
-  const element = selection.element();
-  for (let at = element; at && at !== document.body; at = at.parentElement) {
-    if (!at.id || document.getElementById(at.id) === at) continue;
+// A split paragraph leaves its id with the first half only, and so does a link in it its name.
+function dropDoubledNames() {
+  /**
+   * @param {AnyNode} at
+   * @param {string} name
+   */
+  const drop = (at, name) => {
     history.attributesOf(at);
-    at.removeAttribute('id');
+    at.removeAttribute(name);
+  };
+  for (let at = selection.element(); at && at !== document.body; at = at.parentElement) {
+    if (at.id && document.getElementById(at.id) !== at) drop(at, 'id');
+    const isDoubled = at.tagName === 'A' && at.name && [...document.getElementsByName(at.name)]
+      .some((other) => other.tagName === 'A' && other !== at);
+    if (isDoubled) drop(at, 'name');
   }
 }
 
@@ -175,7 +184,7 @@ function alternate(block) {
  * not needed where text stands before it.
  */
 export function tidySplit() {
-  dropDoubledId();
+  dropDoubledNames();
   const split = dom.blockOf(selection.points().anchorNode);
   if (dom.isHollow(split)) {
     leaveLink(split);
@@ -187,4 +196,5 @@ export function tidySplit() {
   const last = dom.lastLeaf(first);
   const before = last.previousSibling;
   if (dom.isBreak(last) && before && !dom.isBreak(before)) last.remove();
+  moveGapAbove(first, block);
 }

@@ -241,7 +241,7 @@ export function watched({ inputType, data }) {
  * @param {AnyNode} next
  */
 export function trimEdges(last, next) {
-  if (dom.isText(last) && !keepsBlanks(last)) {
+  if (dom.isText(last) && !keepsBlanks(last) && !whitespace.partedWords(last)) {
     const unseen = wasTypedIn(last) ? /[ \t\n]{2,}$|\n$/ : /[ \t\n]+$/;
     const [layout = ''] = unseen.exec(last.data) ?? [];
     last.deleteData(last.length - layout.length, layout.length);

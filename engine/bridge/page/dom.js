@@ -233,12 +233,13 @@ export function absorb(element, next) {
 }
 
 /**
- * The element again, empty; an id stays with the first of the two.
+ * The element again, empty; an id, and a link's name, stays with the first of the two.
  * @param {AnyNode} element
  */
 export function twin(element) {
   const copy = element.cloneNode(false);
   copy.removeAttribute('id');
+  if (copy.tagName === 'A') copy.removeAttribute('name');
   return copy;
 }
 

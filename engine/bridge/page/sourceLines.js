@@ -3,13 +3,17 @@
 // The lines of the source. A block that was made begins on a line of its own where its neighbours
 // do, with their indentation; what stood there before stays where it is. In a page without line
 // ends between its blocks there are none beside new ones either.
+import { keepsBlanks } from './beside.js';
 import * as dom from './dom.js';
 import * as history from './history.js';
+import { shiftStandIns, splitText } from './standIns.js';
 
 /** @param {AnyNode} node */
 const holdsItems = (node) => dom.isElement(node) &&
   /^(DIR|DL|MENU|OL|TABLE|TBODY|TFOOT|THEAD|UL)$/.test(node.tagName);
 
+/** @param {AnyNode} node */
+const beginsLine = (node) => dom.isBlank(node) && node.data.includes('\n');
 // The line end and the indentation before a node; null where it does not begin a line. A parser
 // takes the ones before a table's first row out of the rows' group.
 /**
@@ -27,9 +31,15 @@ function lineOf(node) {
  */
 const lineBefore = (node, line) => node.before(document.createTextNode(line));
 
+// The line end and indentation of a list's end tag; null where it stands behind the last item.
+/** @param {AnyNode} list */
+const endLineOf = (list) =>
+  (beginsLine(list.lastChild) ? /\n[ \t]*$/.exec(list.lastChild.data)[0] : null);
+
 // The line that a new block's neighbours tell it to have; null where they stand in a row.
 /** @param {AnyNode} node */
 function lineFor(node) {
+  if (dom.isList(node) && node.parentNode.tagName === 'LI') return lineOfSublist(node.parentNode);
   for (const side of dom.sides) {
     const other = dom.neighbour(node, side);
     if (other && !dom.isBlock(other)) return null;
@@ -38,6 +48,14 @@ function lineFor(node) {
   }
   return null;
 }
+/** @param {AnyNode} list */
+const lineOfItems = (list) => [...list.children].map(lineOf).find(Boolean) ?? null;
+// A list in an item stands one step further in than that.
+/** @param {AnyNode} item */
+function lineOfSublist(item) {
+  const line = lineOf(item);
+  return line && line + stepOf(item, line);
+}
 
 // A step of indentation, as the block stands to what it lies in.
 /**
@@ -45,7 +63,8 @@ function lineFor(node) {
  * @param {string} line
  */
 function stepOf(block, line) {
-  const outer = lineOf(block.parentNode);
+  const { parentNode } = block;
+  const outer = lineOf(parentNode) ?? (holdsItems(parentNode) ? endLineOf(parentNode) : null);
   return outer && line.startsWith(outer) ? line.slice(outer.length) : '';
 }
 
@@ -73,20 +92,29 @@ function setCells(row) {
   if (dom.isBlank(like.lastChild)) row.append(like.lastChild.data);
 }
 
-/** @param {AnyNode} block */
-function set(block) {
+// A list that was made in an item on a line of its own: the item's end is on one too.
+/** @param {AnyNode} list */
+function setEndOfItem({ parentNode, nextSibling }) {
+  if (parentNode.tagName === 'LI' && !nextSibling) parentNode.append(lineOf(parentNode) ?? '');
+}
+
+/**
+ * @param {AnyNode} block
+ * @param {boolean} isInPlace it stands where something of the page stood
+ */
+function set(block, isInPlace) {
   const own = lineOf(block);
-  const line = own ?? lineFor(block);
+  const line = own ?? lineFor(block) ?? (holdsItems(block) ? lineOfItems(block) : null);
   if (!line || block.parentNode.closest('PRE, LISTING, XMP')) return;
-  if (!own) lineBefore(block, line);
+  // What was the first thing in its container on no line of its own gets none.
+  const isFirst = isInPlace && !block.previousSibling && !holdsItems(block.parentNode);
+  if (!own && !isFirst) lineBefore(block, line);
   // What it came in before had that line.
   if (own && dom.isBlock(block.nextSibling)) lineBefore(block.nextSibling, line);
   if (holdsItems(block)) setItems(block, line);
   if (block.tagName === 'TR') setCells(block);
+  if (!own && dom.isList(block)) setEndOfItem(block);
 }
-
-/** @param {AnyNode} node */
-const beginsLine = (node) => dom.isBlank(node) && node.data.includes('\n');
 
 /**
  * A block goes, or what holds others and leaves them where it stood: the lines that were its own go
@@ -99,15 +127,88 @@ export function dropLine(block) {
 }
 /** @param {AnyNode} holder */
 export function dropInnerLines(holder) {
-  const { firstChild, lastChild, previousSibling, nextSibling } = holder;
-  if (beginsLine(firstChild) && beginsLine(previousSibling)) firstChild.remove();
-  if (beginsLine(lastChild) && (!nextSibling || beginsLine(nextSibling))) lastChild.remove();
+  const line = endLineOf(holder);
+  const { firstChild, lastChild } = holder;
+  for (const edge of new Set([firstChild, lastChild])) if (beginsLine(edge)) edge.remove();
+  // What is left stands where the holder stood.
+  if (line) for (const node of [...holder.childNodes].filter(beginsLine)) node.data = line;
 }
 
-// The blocks among what the changes put in that were not in the page before them.
-/** @param {{ added?: AnyNode[], removed?: AnyNode[] }[]} changes */
+/**
+ * A list was cut in two: where it is set out over lines both parts are.
+ * @param {AnyNode} first
+ * @param {AnyNode} second
+ */
+export function setCutList(first, second) {
+  const line = endLineOf(second);
+  if (!line || !beginsLine(first.lastChild)) return;
+  second.prepend(first.lastChild);
+  first.append(line);
+  first.after(line);
+}
+
+/**
+ * Joins a list with the one behind it. Of the lines between their items one is left.
+ * @param {AnyNode} first
+ * @param {AnyNode} second
+ */
+export function joinLists(first, second) {
+  const end = first.lastChild;
+  const lines = [end];
+  for (let at = first.nextSibling; at !== second; at = at.nextSibling) lines.push(at);
+  lines.push(second.firstChild);
+  const line = lines.filter(beginsLine).at(-1);
+  const own = lineOf(first.lastElementChild);
+  if (line && line !== second.firstChild && own) line.data = own;
+  for (const each of lines) if (beginsLine(each) && each !== line) each.remove();
+  dom.absorb(first, second);
+  if (beginsLine(end) && end !== line && !beginsLine(first.lastChild)) first.append(end);
+}
+
+/**
+ * Moves items to the end of another list, each on a line as the ones that are there.
+ * @param {AnyNode} list
+ * @param {AnyNode[]} items
+ */
+export function moveToEnd(list, items) {
+  const line = list.lastElementChild && lineOf(list.lastElementChild);
+  const end = beginsLine(list.lastChild) ? list.lastChild : null;
+  for (const item of items) {
+    dropLine(item);
+    list.insertBefore(item, end);
+    if (line) lineBefore(item, line);
+  }
+}
+/**
+ * Moves items behind another one, each on a line as that one.
+ * @param {AnyNode} item
+ * @param {AnyNode[]} items
+ */
+export function moveBehind(item, items) {
+  const line = lineOf(item);
+  items.forEach(dropLine);
+  item.after(...items);
+  if (line) for (const each of items) lineBefore(each, line);
+}
+/**
+ * Removes a list with the lines that it had in its item.
+ * @param {AnyNode} list
+ */
+export function removeList(list) {
+  const { previousSibling, nextSibling } = list;
+  const isLast = beginsLine(nextSibling) && !nextSibling.nextSibling;
+  if (beginsLine(previousSibling)) previousSibling.remove();
+  if (isLast) nextSibling.remove();
+  list.remove();
+}
+
+// The blocks among what the changes put in that were not in the page before them, and those of them
+// that stand where something of the page stood, and those that were put around what stood there.
+/** @param {{ target?: AnyNode, added?: AnyNode[], removed?: AnyNode[] }[]} changes */
 function made(changes) {
   const known = new Map();
+  const replaced = new Set();
+  const takenFrom = new Map();
   /**
    * @param {AnyNode} node
    * @param {boolean} isNew
@@ -115,12 +216,60 @@ function made(changes) {
   const note = (node, isNew) => {
     if (dom.isElement(node) && !known.has(node)) known.set(node, isNew);
   };
-  for (const { added = [], removed = [] } of changes) {
-    removed.forEach((node) => note(node, false));
-    added.forEach((node) => note(node, true));
+  for (const { target, added = [], removed = [] } of changes) {
+    for (const node of removed) {
+      note(node, false);
+      if (!takenFrom.has(node)) takenFrom.set(node, target);
+    }
+    for (const node of added) {
+      note(node, true);
+      if (removed.some(dom.isElement)) replaced.add(node);
+    }
   }
-  return [...known].filter(([node, isNew]) => isNew && node.isConnected && dom.isBlock(node))
-    .map(([node]) => node);
+  const blocks = new Set([...known].filter(([node, isNew]) =>
+    isNew && node.isConnected && dom.isBlock(node)).map(([node]) => node));
+  const inPlace = new Set([...blocks].filter((block) => replaced.has(block) ||
+    [...block.childNodes].some((child) => takenFrom.get(child) === block.parentNode)));
+  /**
+   * @param {AnyNode} block
+   * @param {AnyNode[]} [nodes]
+   */
+  const isAround = (block, nodes = []) =>
+    nodes.some((node) => !dom.isBlock(node) && takenFrom.get(node)?.contains(block));
+  const around = new Set(changes
+    .filter(({ target, added }) => blocks.has(target) && isAround(target, added))
+    .map(({ target }) => target));
+  return { blocks, inPlace, around };
 }
 
-history.completeStepsBy((changes) => made(changes).forEach(set));
+// Bare text became a block. The line that it began on is the block's own, and the end of its last
+// line stays behind the block, or behind the last of those that it was cut into.
+/**
+ * @param {AnyNode} block
+ * @param {Set<AnyNode>} blocks those that were made
+ */
+function leaveLines(block, blocks) {
+  const first = dom.firstLeaf(block);
+  if (!dom.isText(first) || keepsBlanks(first)) return;
+  let top = block;
+  while (blocks.has(top.parentNode) && top.parentNode.firstChild === top) top = top.parentNode;
+  const [lead = ''] = /^[ \t\n]*\n[ \t]*(?=[^ \t\n])/.exec(first.data) ?? [];
+  if (lead) {
+    const old = first.data;
+    lineBefore(top, lead);
+    first.deleteData(0, lead.length);
+    shiftStandIns(new Map([[first, old]]));
+  }
+  let last = top;
+  for (let at = top; blocks.has(at); at = at.nextSibling) last = at;
+  const isEmpty = last !== top && dom.isHollow(last);
+  const end = dom.lastLeaf(isEmpty ? last.previousSibling : last);
+  if (!dom.isText(end) || !/[^ \t\n][ \t]*\n[ \t\n]*$/.test(end.data)) return;
+  last.after(splitText(end, end.data.replace(/[ \t\n]+$/, '').length));
+}
+
+history.completeStepsBy((changes) => {
+  const { blocks, inPlace, around } = made(changes);
+  for (const block of around) leaveLines(block, blocks);
+  for (const block of blocks) set(block, inPlace.has(block));
+});

@@ -67,6 +67,31 @@ function textsAt({ startContainer, startOffset, endContainer, endOffset }) {
 const standing = ({ parentNode, previousSibling, nextSibling }) =>
   ({ parentNode, previousSibling, nextSibling });
 
+// Texts that stand before a cut of Enter's, with the white space that is their end since.
+const cutBehind = new WeakMap();
+/**
+ * True where the white space at a text's end parted words before Enter parted them.
+ * @param {AnyNode} text
+ */
+export const partedWords = (text) => cutBehind.has(text) && tail(text.data) === cutBehind.get(text);
+
+/**
+ * A line was cut between two blocks: the white space that would begin the second ends the first.
+ * @param {AnyNode} above
+ * @param {AnyNode} below
+ */
+export function moveGapAbove(above, below) {
+  const first = beside(below, 0, 'nextSibling');
+  const last = beside(above, above.childNodes.length, 'previousSibling');
+  if (!isBlank(first) || keepsBlanks(first.node) || !last || isBlank(last)) return;
+  const gap = lead(first.node.data);
+  first.node.deleteData(0, gap.length);
+  if (!first.node.length) first.node.remove();
+  const end = document.createTextNode(gap);
+  above.append(end);
+  cutBehind.set(end, gap);
+}
+
 /**
  * What is known before a change at the range. `target`, a static range, is what it will delete.
  * @param {PlainRange} range
@@ -214,6 +239,26 @@ function afterBreak(noted) {
   return { texts, caret: { node: second, offset: 0 } };
 }
 
+// A paragraph was cut where a line of the source ends: that line end stays behind the first part.
+/** @param {Noted} noted */
+function afterSplit({ texts: old, start }) {
+  const data = old.get(/** @type {Text} */ (start.node));
+  if (data === undefined) return null;
+  const above = data.slice(0, start.offset);
+  const below = data.slice(start.offset);
+  const gap = tail(above) + lead(below);
+  const { anchorNode, anchorOffset } = selection.points();
+  const second = beside(anchorNode, anchorOffset, 'nextSibling')?.node;
+  const block = anchorNode && dom.neighbour(dom.blockOf(anchorNode), 'previousSibling');
+  const first = dom.isElement(block) ? dom.lastLeaf(block) : null;
+  if (!gap.includes('\n') || !second || !dom.isText(first) || first === second) return null;
+  if (lead(below) === below || !wordsOf(above) !== !wordsOf(first.data)) return null;
+  const texts = new Map([[first, above.slice(0, above.length - tail(above).length) + gap],
+    [second, below.slice(lead(below).length)]]);
+  cutBehind.set(first, gap);
+  return { texts, caret: { node: second, offset: 0 } };
+}
+
 /**
  * @param {Noted} noted
  * @param {{ inputType: string, data?: string | null }} input
@@ -222,6 +267,7 @@ function planned(noted, input) {
   const { inputType } = input;
   if (inputType === 'insertText') return input.data ? afterTyping(noted, input) : null;
   if (inputType === 'insertLineBreak') return afterBreak(noted);
+  if (inputType === 'insertParagraph') return afterSplit(noted);
   return inputType.startsWith('delete') ? afterDeletion(noted) : null;
 }
 
