@@ -6,13 +6,13 @@ import { deleteToLine } from './deletion.js';
 import {
   caretAt, cellOf, isAtEdge, isEmptyParagraph, sameUnit, showsAnything, spansUnits, unitAt,
 } from './extent.js';
-import { isItem, itemOf } from './items.js';
+import { isItem, isListOf, itemOf } from './items.js';
 import { dropBlock, dropEmptyBlocks, join } from './joining.js';
 import * as lists from './lists.js';
 import { joinAlike } from '../formats/merging.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
-import { beside } from '../page/beside.js';
+import { beside, isBlank } from '../page/beside.js';
 import * as selection from '../page/selection.js';
 import { wholeSigns } from '../page/signs.js';
 import { unitsIn } from '../page/units.js';
@@ -83,15 +83,29 @@ const isWithinText = ({ startContainer: node, startOffset: offset, collapsed }, 
   collapsed && dom.isText(node) &&
   (side === 'start' ? node.data.slice(0, offset) : node.data.slice(offset)).trim() !== '';
 
-// The picture, island or other object beside a caret; null for none.
+// What is beside a caret; `isPast` where something that nobody sees (a hidden field) lies between.
 /**
  * @param {PlainRange} caret
  * @param {Edge} side
  */
-function objectBeside({ startContainer, startOffset }, side) {
-  const found = beside(
-    startContainer, startOffset, side === 'start' ? 'previousSibling' : 'nextSibling');
-  return found?.object ?? null;
+function seenBeside({ startContainer, startOffset }, side) {
+  const [way, step] = side === 'start'
+    ? /** @type {const} */ (['previousSibling', 0]) : /** @type {const} */ (['nextSibling', 1]);
+  let found = beside(startContainer, startOffset, way);
+  for (let isPast = false; ; isPast = true) {
+    let at = found;
+    while (isBlank(at)) at = beside(at.node, at.index + step, way);
+    if (!at?.object || at.object.getClientRects().length) return { found, isPast };
+    found = beside(at.object.parentNode, selection.indexOf(at.object) + step, way);
+  }
+}
+/** @param {Neighbour} character */
+function deleteCharacter({ node, index }) {
+  const range = document.createRange();
+  const isPair = /[\udc00-\udfff]/.test(node.data[index]);
+  range.setStart(node, isPair ? index - 1 : index);
+  range.setEnd(node, /[\ud800-\udbff]/.test(node.data[index]) ? index + 2 : index + 1);
+  deleteToLine(range);
 }
 /** @param {Element} object */
 function deleteObject(object) {
@@ -113,9 +127,10 @@ export function deletionAtCaret(range, side, target) {
   if (isWithinText(range, side)) return null;
   const unit = unitsIn(range)[0];
   if (!unit || !range.collapsed) return null;
-  const object = objectBeside(range, side);
-  if (object) return () => deleteObject(object);
-  return isAtEdge(range, unit, side) ? deletionAtEdge(unit, side) : null;
+  const { found, isPast } = seenBeside(range, side);
+  if (found?.object) return () => deleteObject(found.object);
+  if (isPast && found) return () => deleteCharacter(found);
+  return isPast || isAtEdge(range, unit, side) ? deletionAtEdge(unit, side) : null;
 }
 
 /**
@@ -131,6 +146,14 @@ export function deletionOfEdge(range) {
   return unit && isAtEdge(caret, unit, 'start') ? deletionAtEdge(unit, 'start') : null;
 }
 
+// A rule or a closed block goes, and a list that held nothing else.
+/** @param {AnyNode} atom */
+function deleteAtom(atom) {
+  const { parentNode } = atom;
+  atom.remove();
+  if (isListOf(parentNode)) dropEmptyBlocks(parentNode);
+}
+
 // The same at the edge of a paragraph.
 /**
  * @param {Unit} unit
@@ -142,7 +165,7 @@ function deletionAtEdge(unit, side) {
   const edge = unit.block || (back ? unit.nodes[0] : unit.nodes.at(-1)) || unit.container;
   const leaf = leafBeside(edge, back ? 'previousSibling' : 'nextSibling');
   if (!leaf || leaf.tagName === 'TABLE') return () => {};
-  if (dom.isBlock(leaf) && dom.isAtom(leaf)) return () => leaf.remove();
+  if (dom.isBlock(leaf) && dom.isAtom(leaf)) return () => deleteAtom(leaf);
   const other = unitOfLeaf(leaf);
   if (!other || sameUnit(unit, other)) return null;
   return back ? () => joinAtCaret(other, unit) : () => joinAtCaret(unit, other);

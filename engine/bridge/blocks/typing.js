@@ -93,7 +93,8 @@ const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
   startContainer === document.body && endContainer === document.body && startOffset === 0 &&
   endOffset === document.body.childNodes.length;
 
-// The character formats that inline elements around a text give it: pairs of name and value.
+// The character formats that inline elements around a text give it, the innermost first: pairs of
+// name and value.
 /**
  * @param {Text} text
  * @returns {[name: string, value: FormatValue][]}
@@ -102,8 +103,27 @@ function looksOf(text) {
   /** @type {AnyNode[]} */
   const around = [];
   for (let at = text.parentNode; !dom.isBlock(at); at = at.parentNode) around.push(at);
-  return Object.entries(formats).filter(([, format]) => around.some((at) => format.carries(at)))
+  /** @param {Format} format */
+  const depth = (format) => around.findIndex((at) => format.carries(at));
+  return Object.entries(formats).filter(([, format]) => depth(format) >= 0)
+    .sort(([, one], [, other]) => depth(one) - depth(other))
     .map(([name, format]) => [name, format.read(text.parentElement)]);
+}
+
+/**
+ * The first text that is selected, less where that is an object or all of the page.
+ * @param {Range} range
+ * @returns {Text | undefined}
+ */
+const firstText = (range) =>
+  (isAll(range) || selection.control(range) ? undefined : selection.textsIn(range)[0]);
+/** @param {[name: string, value: FormatValue][]} looks */
+function waitAtCaret(looks) {
+  const element = selection.caretElement(selection.range());
+  for (const [name, value] of looks) {
+    const { read, same } = formats[name];
+    if (!same(read(element), value)) pending.set(name, value);
+  }
 }
 
 /**
@@ -118,17 +138,26 @@ export function deleteKeepingLooks(range) {
     joins();
     return;
   }
-  const [text] = isAll(range) || selection.control(range) ? [] : selection.textsIn(range);
+  const text = firstText(range);
   const looks = text ? looksOf(text) : [];
   const block = text && dom.blockOf(text);
   deleteToLine(range);
   const caret = selection.range();
-  if (!caret || dom.blockOf(caret.startContainer) !== block) return;
-  const element = selection.caretElement(caret);
-  for (const [name, value] of looks) {
-    const { read, same } = formats[name];
-    if (!same(read(element), value)) pending.set(name, value);
-  }
+  if (caret && dom.blockOf(caret.startContainer) === block) waitAtCaret(looks);
+}
+
+/**
+ * Deletes what is selected, and has Enter done by `split`; the formats of the first deleted text
+ * wait in the new line for what is typed there.
+ * @param {Range} range the selected one
+ * @param {() => void} split
+ */
+export function splitKeepingLooks(range, split) {
+  const text = firstText(range);
+  const looks = text ? looksOf(text) : [];
+  deleteToPoint(range);
+  split();
+  if (selection.range()) waitAtCaret(looks);
 }
 
 /**

@@ -2,7 +2,7 @@
 // @ts-check
 // Enter. The engine splits paragraphs and items; what it would do badly is done here, and what it
 // leaves behind is put in order.
-import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
+import { deleteToLine } from '../blocks/deletion.js';
 import { spansUnits } from '../blocks/extent.js';
 import { itemOf } from '../blocks/items.js';
 import * as lists from '../blocks/lists.js';
@@ -85,15 +85,16 @@ function breakAddress(address) {
 
 // Over selected text Enter first deletes that.
 function replaceSelection() {
-  deleteToPoint(selection.range());
-  const own = ownEnter();
-  if (own) {
-    own();
-    return;
-  }
-  typing.prepareCaret({ inputType: 'insertParagraph' });
-  byEngine('insertParagraph');
-  tidySplit();
+  typing.splitKeepingLooks(selection.range(), () => {
+    const own = ownEnter();
+    if (own) {
+      own();
+      return;
+    }
+    typing.prepareCaret({ inputType: 'insertParagraph' });
+    byEngine('insertParagraph');
+    tidySplit();
+  });
 }
 
 // In an item: an empty one is left. With other blocks in the item the engine would put the new one

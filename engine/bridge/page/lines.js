@@ -15,9 +15,14 @@ export function holdOpen(block) {
   }
 }
 
+// True for an inline element that the page's rules make a line: one in a flex or grid box too.
+/** @param {AnyNode} node */
+const isLineElement = (node) => dom.isInline(node) &&
+  /^(block|flex|grid|list-item)$/.test(getComputedStyle(node).display);
+
 /**
  * Drops a text that a deletion has left empty, and the inline elements around it that hold nothing
- * else.
+ * else; one that is a line of its own stays as an empty one.
  * @param {AnyNode} node
  */
 export function dropEmptyInline(node) {
@@ -26,6 +31,10 @@ export function dropEmptyInline(node) {
     : dom.isInline(at) && !dom.isAtom(at) && !dom.isBreak(at) &&
       [...at.childNodes].every((child) => dom.isText(child) && !child.length));
   while (node.isConnected && emptied(node)) {
+    if (isLineElement(node)) {
+      node.replaceChildren(dom.create('BR'));
+      return;
+    }
     const { parentNode } = node;
     node.remove();
     node = parentNode;
@@ -47,5 +56,4 @@ export function openParagraph(put) {
  * The inline element around a node that a page's rules make a line; null for none.
  * @param {AnyNode} node
  */
-export const lineElement = (node) => dom.ancestor(node, (at) => dom.isInline(at) &&
-  /^(block|flex|grid|list-item)$/.test(getComputedStyle(at).display), dom.isBlock);
+export const lineElement = (node) => dom.ancestor(node, isLineElement, dom.isBlock);
