@@ -23,15 +23,16 @@ function parse(html) {
   return document.importNode(template.content, true);
 }
 
-// The element that must be cut for blocks to come in at a node; null where none needs to.
+// The element that must be cut for blocks to come in at a node; null where none needs to. `items`
+// are the tags of the items that all of the blocks are.
 /**
  * @param {AnyNode} node
- * @param {boolean} items
+ * @param {string[]} [items]
  */
 function cutAt(node, items) {
   let top = null;
   for (let at = node; at && !dom.isCell(at); at = at.parentNode) {
-    if (items && at.tagName === 'LI') return at;
+    if (items?.includes(at.tagName)) return at;
     if (dom.isInline(at) || dom.isParagraph(at)) top = at;
     else if (!dom.isText(at) && !items) break;
   }
@@ -112,6 +113,9 @@ function makeItems(fragment, list) {
 /** @param {AnyNode} node */
 const isListOf = (node) => dom.isList(node) || node.tagName === 'DL';
 
+// The items that stand beside one another.
+const itemTags = [['LI'], ['DT', 'DD']];
+
 // Puts a fragment with blocks in at a point.
 /**
  * @param {DocumentFragment} fragment
@@ -120,14 +124,14 @@ const isListOf = (node) => dom.isList(node) || node.tagName === 'DL';
  */
 function putBlocks(fragment, node, offset) {
   const tops = [...fragment.children];
-  const items = tops.length > 0 && tops.every(({ tagName }) => tagName === 'LI');
-  const top = cutAt(node, items);
+  const items = itemTags.find((tags) => tops.every(({ tagName }) => tags.includes(tagName)));
+  const top = cutAt(node, tops.length ? items : undefined);
   if (top?.tagName === 'DT') makeItems(fragment, top.parentNode);
   const last = fragment.lastChild;
   if (!top) {
     const holder = holderAt(node, offset);
     insertAt(fragment, node, offset);
-    holder?.remove();
+    dropHolderBreak(holder);
     setCaretBehindBlocks(last, null);
     return;
   }
@@ -199,6 +203,14 @@ function holderAt(node, offset) {
   return dom.isList(next) ? at : null;
 }
 
+/** @param {AnyNode} holder */
+function dropHolderBreak(holder) {
+  if (!holder) return;
+  const { parentNode } = holder;
+  holder.remove();
+  if (!dom.isBlock(parentNode)) dropEmptyInline(parentNode);
+}
+
 // Takes emphasis out of the fragment that the text around it has already: no B comes into a B.
 /** @type {Record<string, string>} */
 const likes = { STRONG: 'B', EM: 'I', STRIKE: 'S' };
@@ -239,7 +251,7 @@ function putInline(fragment, node, offset) {
   } else {
     insertAt(fragment, node, offset);
   }
-  holder?.remove();
+  dropHolderBreak(holder);
   holdOpen(dom.blockOf(node));
   if (dom.isText(last)) selection.setCaret(last, last.length);
   else setCaretBehind(last);
@@ -330,8 +342,9 @@ const takesItems = (node) => node.tagName === 'LI' || dom.isList(node);
  * @param {AnyNode} node
  * @param {string} home
  */
-const isIn = (node, home) =>
-  dom.ancestor(node, home === 'UL' ? takesItems : isListOf, dom.isCell) !== null;
+const isIn = (node, home) => (home === 'UL'
+  ? dom.ancestor(node, takesItems, dom.isCell) !== null
+  : dom.ancestor(node, isListOf, dom.isCell)?.tagName === home);
 // Puts items and rows that come without their list or table into a new one, unless the place that
 // they go to (`node`) is in one; cells and options become what they hold.
 /**
