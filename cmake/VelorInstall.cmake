@@ -55,6 +55,8 @@ velor_compressed("${made}/changelog" changelog "${CMAKE_INSTALL_DATADIR}/doc/vel
 foreach(program ${programs})
   velor_compressed("${packaging}/man/${program}.1" ${program}.1 "${CMAKE_INSTALL_MANDIR}/man1")
 endforeach()
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/manual/"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/velor-web-creator/html")
 install(FILES "${packaging}/lintian-overrides" DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides"
   RENAME velor-web-creator)
 install(FILES "${packaging}/copyright" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/velor-web-creator")

@@ -20,6 +20,10 @@ rm -rf build/package
 cpack --config build/release/CPackConfig.cmake -G DEB -B build/package >/dev/null
 package=$(echo build/package/*.deb)
 
+for part in bin/velor-web-creator share/doc/velor-web-creator/html/index.html; do
+  dpkg-deb --contents "$package" | grep " ./usr/$part$" >/dev/null
+done
+
 desktop-file-validate packaging/*.desktop
 appstreamcli validate --no-net build/release/packaging/*.metainfo.xml
 for page in packaging/man/*.1; do mandoc -Tlint -Wwarning "$page"; done

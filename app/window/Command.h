@@ -26,6 +26,7 @@ enum class CommandId {
   InsertTable,
   Preview,
   About,
+  Help,
   FindCommand,
   WrapSource,
   Drives,

@@ -108,6 +108,9 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::About:
       host_.ShowAbout();
       break;
+    case CommandId::Help:
+      host_.ShowHelp();
+      break;
     case CommandId::FindCommand:
       host_.ShowCommandPalette();
       break;

@@ -34,6 +34,8 @@ class CommandHost {
   virtual void ChooseMenuStyle(int index) = 0;
   virtual void ShowProjectManager() = 0;
   virtual void ShowAbout() = 0;
+  /// Shows the manual at the place for what has the keyboard.
+  virtual void ShowHelp() = 0;
   virtual void ShowCommandPalette() = 0;
   virtual void ShowDrives() = 0;
   virtual void ShowSettings() = 0;

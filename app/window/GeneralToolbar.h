@@ -46,7 +46,7 @@ inline constexpr std::array<GeneralButton, 17> GeneralButtons{{
     PageButton("table", "Table", {CommandId::InsertTable}),
     PageButton("image", "Image", {CommandId::InsertImage}),
     PageButton("anchor", "Anchor"),
-    {"help", "Help"},
+    {"help", "Help", {CommandId::Help}, Guard::None, Needs::Nothing, Reach::Beyond},
     {"about", "About", {CommandId::About}},
 }};
 

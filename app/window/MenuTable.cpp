@@ -103,7 +103,7 @@ constexpr MenuRow Rows[] = {
 
     Menu("mnuHelp_Top", "Help (&H)"),
     Found("version program", Item("mnuAbout", "About", "mnuHelp_Top", {CommandId::About}, "about")),
-    Item("mnuhelp", "Help", "mnuHelp_Top", {}, "help"),
+    Found("manual guide", Beyond(Item("mnuhelp", "Help", "mnuHelp_Top", {CommandId::Help}, "help"))),
 
     Popup("mnuExt"),
     Item("extCut", "Cut", "mnuExt", {}, "cut"),

@@ -2,6 +2,7 @@
 // MfrmProgram: how the window is built, loaded and closed.
 #include "app/window/MfrmProgram.h"
 
+#include "app/help/Help.h"
 #include "app/window/CommandPalette.h"
 #include "app/window/CoolBar.h"
 #include "app/window/DialogInsertCommands.h"
@@ -148,6 +149,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
   BuildLayout();
   setStatusBar(statusLine_);
   PrepareTools();
+  PrepareHelp();
   new WindowList(*menus_.menus.value(QStringLiteral("mnuWindow")), *area_, this);
   new PaneWalk(*this, *area_);
 }
@@ -182,6 +184,13 @@ void MfrmProgram::PrepareTools() {
   // Source editors have the same choice in their own menus.
   connect(tools, &QMenu::aboutToShow, this,
           [this, &wrap] { wrap.setChecked(ChosenLineWrap(platform_.registry) == LineWrap::On); });
+}
+
+void MfrmProgram::PrepareHelp() {
+  if (additions_ == Additions::Off) return;
+  help_ = std::make_unique<Help>(ManualFolder(QCoreApplication::applicationDirPath()));
+  connect(help_.get(), &Help::Missing, statusLine_,
+          [this] { statusLine_->Report(QStringLiteral("The manual is not installed")); });
 }
 
 QWidget *MfrmProgram::BuildTabRow() {
@@ -345,6 +354,12 @@ void MfrmProgram::ShowProjectManager() {
 void MfrmProgram::ShowAbout() {
   frmAbout about(platform_.runtime, engine_, this);
   platform_.dialogs.RunModal(about);
+}
+
+void MfrmProgram::ShowHelp() {
+  const QWidget *from = QApplication::focusWidget();
+  if (from == nullptr || from->window() != this) from = area_->Current();
+  help_->ShowFor(from == nullptr ? this : from);
 }
 
 void MfrmProgram::ShowCommandPalette() {

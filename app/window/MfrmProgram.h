@@ -20,6 +20,7 @@ namespace velor {
 
 class CoolBar;
 class EditingComponent;
+class Help;
 class InsertCommands;
 class PageArea;
 class PageChooser;
@@ -88,6 +89,7 @@ class MfrmProgram final : public QMainWindow,
   void ChooseMenuStyle(int index) override;
   void ShowProjectManager() override;
   void ShowAbout() override;
+  void ShowHelp() override;
   void ShowCommandPalette() override;
   void ShowDrives() override;
   void ShowSettings() override;
@@ -114,6 +116,8 @@ class MfrmProgram final : public QMainWindow,
   void PrepareTools();
   /// Runs the item that a person chooses.
   void RunPalette(const PaletteWords &words, const QList<NamedCommand> &commands);
+  /// The manual, where additions are on.
+  void PrepareHelp();
 
   Platform &platform_;
   const Additions additions_;
@@ -141,6 +145,7 @@ class MfrmProgram final : public QMainWindow,
   /// Null without the menu Tools.
   RecentFiles *recent_ = nullptr;
   EngineVersion engine_;
+  std::unique_ptr<Help> help_;  ///< null without additions
   bool isClosing_ = false;
   /// The element under the caret that the tool box shows; empty for none.
   QString inspectedElement_;

@@ -4,7 +4,7 @@
 palette and scale.
 
 Usage: screenshots.py RUN_FOLDER OUT_FOLDER light|dark SCALE_PERCENT [SESSION...]
-Sessions are recovery, start, main and objects; without any, all of them.
+Sessions are recovery, start, main, manual and objects; without any, all of them.
 """
 import os
 import shutil
@@ -248,6 +248,19 @@ def narrow(photos):
     photos.popup(lambda: program.click(*edge), "narrow-formats")
 
 
+def manual(photos):
+    """The manual's window with a chapter and with words that were looked for."""
+    program = photos.program
+    program.key("F1")
+    program.wait("Velor Web Creator Manual", "dialog")
+    photos.shot("window")
+    program.key("ctrl+f")
+    program.type("picture size")
+    program.wait("Places found", "list")
+    program.key("Return")
+    photos.shot("search")
+
+
 def home(scratch):
     """A home folder that somebody might have."""
     folder = os.path.join(scratch, "home")
@@ -328,6 +341,7 @@ def main(run_folder, out, palette, scale, *wanted):
         "recovery": recovery,
         "start": lambda: session("start", ("eImages",), start_up),
         "main": lambda: session("main", (), main_window, dialogs, modes, narrow),
+        "manual": lambda: session("manual", (), manual),
         "objects": lambda: session("objects", (), objects),
     }
     for name in wanted or sessions:

@@ -156,9 +156,9 @@ TEST_P(PublishedMenus, ItemsWithoutAnActionDoNothing) {
   const QPixmap before = window.grab();
   log.clear();
   for (const char *item :
-       {"mnuWindowCascade", "mnuWindowTileHorizontal", "mnuWindowTileVertical", "mnuhelp",
-        "mnuDetail", "mnuView_CusMenu", "cusDel", "extCut", "extDelete", "extPagePro", "extAbs",
-        "extDetail", "extSnap", "extInCol", "extFront", "extGetTag"}) {
+       {"mnuWindowCascade", "mnuWindowTileHorizontal", "mnuWindowTileVertical", "mnuDetail",
+        "mnuView_CusMenu", "cusDel", "extCut", "extDelete", "extPagePro", "extAbs", "extDetail",
+        "extSnap", "extInCol", "extFront", "extGetTag"}) {
     ASSERT_TRUE(Item(item)->isEnabled()) << item;
     Choose(item);
   }
