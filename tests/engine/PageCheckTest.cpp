@@ -119,6 +119,25 @@ TEST_F(PageCheckProgram, PressesKeysAndPastes) {
   EXPECT_GT(lines_[0][QStringLiteral("bytes_added")].toInt(), 0);
 }
 
+TEST_F(PageCheckProgram, LeavesThePagesOfTheManualAsTheyAreExceptForWhatIsTyped) {
+  const QDir manual(QStringLiteral(VELOR_MANUAL));
+  QStringList pages;
+  for (const QString &name : manual.entryList({QStringLiteral("*.html")}))
+    pages << manual.filePath(name);
+  ASSERT_GE(pages.size(), 25);
+  EXPECT_EQ(Run(pages), 0);
+  for (const QJsonObject &line : lines_)
+    EXPECT_TRUE(line[QStringLiteral("identical")].toBool()) << output_.constData();
+  EXPECT_EQ(
+      Run(QStringList{QStringLiteral("--edit=type=zebra"), QStringLiteral("--nth=7")} + pages), 0);
+  for (const QJsonObject &line : lines_) {
+    const QByteArray name = line[QStringLiteral("file")].toString().toUtf8();
+    EXPECT_EQ(line[QStringLiteral("bytes_lost")].toInt(), 0) << name.constData();
+    EXPECT_EQ(line[QStringLiteral("bytes_added")].toInt(), 5) << name.constData();
+    EXPECT_TRUE(line[QStringLiteral("document_equal")].toBool()) << name.constData();
+  }
+}
+
 TEST_F(PageCheckProgram, RefusesWhatMeansNothing) {
   const QString page = Write(QStringLiteral("page.htm"), "<P>one two");
   for (const QStringList &arguments : {QStringList{},
