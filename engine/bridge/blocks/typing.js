@@ -107,7 +107,7 @@ function looksOf(text) {
   const depth = (format) => around.findIndex((at) => format.carries(at));
   return Object.entries(formats).filter(([, format]) => depth(format) >= 0)
     .sort(([, one], [, other]) => depth(one) - depth(other))
-    .map(([name, format]) => [name, format.read(text.parentElement)]);
+    .map(([name, format]) => [name, format.read(around[depth(format)])]);
 }
 
 /**
