@@ -5,7 +5,7 @@
 import { breakLines } from './blocks.js';
 import { isContinuation, itemOf } from './items.js';
 import * as dom from '../page/dom.js';
-import { holdOpen } from '../page/lines.js';
+import { holdOpen, plainText } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { dropLine, joinLists } from '../page/sourceLines.js';
 
@@ -57,8 +57,7 @@ const dropTrailingBreak = (nodes, line) => {
 // What the nodes show, as one text that is not in the document yet: for where no markup may stand.
 /** @param {ChildNode[]} nodes */
 function asText(nodes) {
-  const text = document.createTextNode(
-    nodes.map((node) => (dom.isBreak(node) ? '\n' : node.textContent)).join(''));
+  const text = document.createTextNode(nodes.map(plainText).join(''));
   nodes.forEach((node) => node.remove());
   return text.length ? [text] : [];
 }

@@ -11,7 +11,7 @@ import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
-import { holdOpen, dropEmptyInline } from '../page/lines.js';
+import { dropEmptyInline, holdOpen, plainText } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { leaveSign } from '../page/signs.js';
 import { resolveAll, splitText } from '../page/standIns.js';
@@ -308,11 +308,21 @@ export const put = (fragment, open = closed) => {
  * @param {Range} range
  */
 function putJoined(fragment, open, range) {
-  const ends = holdsBlock(fragment) ? open : closed;
+  const isJoined = holdsBlock(fragment) && !dom.rawAt(range.startContainer);
+  const ends = isJoined ? open : closed;
   const join = joinsFor(fragment, ends, range.startContainer, range.startOffset);
   putAt(fragment, range);
   join();
 }
+
+// What its blocks hold, each as a line, for text as it stands.
+/**
+ * @param {AnyNode} node
+ * @returns {string[]}
+ */
+const linesOf = (node) => (node.firstChild && holdsBlock(node)
+  ? [...node.childNodes].filter((child) => !dom.isBlank(child)).flatMap(linesOf)
+  : [plainText(node)]);
 
 // Puts a fragment in at the caret.
 /**
@@ -321,8 +331,7 @@ function putJoined(fragment, open, range) {
  */
 function putAt(fragment, { startContainer, startOffset }) {
   if (dom.rawAt(startContainer)) {
-    const parts = holdsBlock(fragment) ? [...fragment.childNodes] : [fragment];
-    fragment.replaceChildren(parts.map((part) => part.textContent).join('\n'));
+    fragment.replaceChildren(linesOf(fragment).join('\n'));
   }
   /** @type {AnyNode} */
   const home = dom.isText(startContainer) ? startContainer.parentNode : startContainer;

@@ -53,6 +53,18 @@ export function openParagraph(put) {
 }
 
 /**
+ * What a node shows as text, its breaks as line ends: for where no markup may stand.
+ * @param {AnyNode} node
+ * @returns {string}
+ */
+export function plainText(node) {
+  if (dom.isBreak(node)) return '\n';
+  if (dom.isText(node)) return node.data;
+  const isUnseen = node.nodeType !== Node.DOCUMENT_FRAGMENT_NODE && dom.isNeutral(node);
+  return isUnseen ? '' : [...node.childNodes].map(plainText).join('');
+}
+
+/**
  * The inline element around a node that a page's rules make a line; null for none.
  * @param {AnyNode} node
  */
