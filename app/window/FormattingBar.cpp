@@ -33,13 +33,6 @@ Box *Named(Box *box, const char *name, const QString &label) {
   return box;
 }
 
-/// Shows `htmlColor` in `picker` unless it shows that colour already.
-void ShowColor(ColorPicker &picker, const QString &htmlColor) {
-  picker.setEnabled(true);
-  const std::int32_t color = modColor::HtmlToColor(htmlColor);
-  if (picker.Color() != color) picker.SetColor(color);
-}
-
 /// A row of colour pickers, side by side.
 QWidget *PickerRow(std::initializer_list<ColorPicker *> pickers, QWidget *parent) {
   auto *row = new QWidget(parent);
@@ -74,7 +67,6 @@ class ColorsAction final : public QWidgetAction {
     stand->setEnabled(picker.isEnabled());
     connect(stand, &ColorPicker::ColorChosen, &picker, [&picker, &menu](std::int32_t color) {
       menu.close();
-      picker.SetColor(color);
       Q_EMIT picker.ColorChosen(color);
     });
     return stand;
@@ -117,8 +109,14 @@ FormattingBar::FormattingBar(QWidget *parent)
   connect(blockFormat_, &ChoiceBox::Done, this, &FormattingBar::Done);
   connect(fontSize_, &ChoiceBox::Done, this, &FormattingBar::Done);
   connect(fontName_, &FontPicker::Done, this, &FormattingBar::Done);
-  connect(textColor_, &ColorPicker::ColorChosen, this, &FormattingBar::ForeColorChanged);
-  connect(backColor_, &ColorPicker::ColorChosen, this, &FormattingBar::BackColorChanged);
+  connect(textColor_.picker, &ColorPicker::ColorChosen, this, [this](std::int32_t color) {
+    ShowAgain(textColor_);
+    Q_EMIT ForeColorChanged(color);
+  });
+  connect(backColor_.picker, &ColorPicker::ColorChosen, this, [this](std::int32_t color) {
+    ShowAgain(backColor_);
+    Q_EMIT BackColorChanged(color);
+  });
 }
 
 QToolBar *FormattingBar::BuildButtons() {
@@ -134,12 +132,23 @@ QToolBar *FormattingBar::BuildButtons() {
 }
 
 void FormattingBar::AddColors(QToolBar &bar) {
-  textColor_ =
+  textColor_.picker =
       Named(new ColorPicker(QStringLiteral("forecolor"), this), "cpFore", tr("Text Color"));
-  backColor_ =
-      Named(new ColorPicker(QStringLiteral("backcolor"), this), "cpBack", tr("Background Color"));
-  backColor_->SetColor(PaperWhite);
-  bar.addAction(new ColorsAction(*textColor_, *backColor_, &bar));
+  backColor_ = {
+      Named(new ColorPicker(QStringLiteral("backcolor"), this), "cpBack", tr("Background Color")),
+      PaperWhite};
+  ShowAgain(backColor_);
+  bar.addAction(new ColorsAction(*textColor_.picker, *backColor_.picker, &bar));
+}
+
+void FormattingBar::ShowAgain(const ColorBox &box) {
+  box.picker->SetColor(box.shown);
+}
+
+void FormattingBar::ShowColor(ColorBox &box, const QString &htmlColor) {
+  box.picker->setEnabled(true);
+  box.shown = modColor::HtmlToColor(htmlColor);
+  if (box.picker->Color() != box.shown) ShowAgain(box);
 }
 
 void FormattingBar::InitialiseFonts() {
@@ -183,11 +192,11 @@ void FormattingBar::ShowFontSize(const QString &points) {
 }
 
 void FormattingBar::ShowForeColor(const QString &htmlColor) {
-  ShowColor(*textColor_, htmlColor);
+  ShowColor(textColor_, htmlColor);
 }
 
 void FormattingBar::ShowBackColor(const QString &htmlColor) {
-  ShowColor(*backColor_, htmlColor);
+  ShowColor(backColor_, htmlColor);
 }
 
 void FormattingBar::ShowNothing() {
@@ -198,8 +207,8 @@ void FormattingBar::ShowNothing() {
   ShowFontName({});
   ShowBlockFormat({});
   ShowFontSize({});
-  for (QWidget *box :
-       std::initializer_list<QWidget *>{blockFormat_, fontName_, fontSize_, textColor_, backColor_})
+  for (QWidget *box : std::initializer_list<QWidget *>{blockFormat_, fontName_, fontSize_,
+                                                       textColor_.picker, backColor_.picker})
     box->setEnabled(false);
 }
 

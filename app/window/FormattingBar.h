@@ -62,8 +62,17 @@ class FormattingBar final : public QWidget, public FormatDisplay {
   ChoiceBox *blockFormat_;
   ChoiceBox *fontSize_;
   FontPicker *fontName_;
-  ColorPicker *textColor_;
-  ColorPicker *backColor_;
+  /// A colour picker, and what the page's colour was said to be.
+  struct ColorBox {
+    ColorPicker *picker;
+    std::int32_t shown;
+  };
+  /// Shows the page's colour again: it may refuse the one that was chosen.
+  static void ShowAgain(const ColorBox &box);
+  static void ShowColor(ColorBox &box, const QString &htmlColor);
+
+  ColorBox textColor_{};
+  ColorBox backColor_{};
   /// In the order of EditCommands.
   std::array<ToolBarAction *, EditCommands.size()> buttons_{};
 };

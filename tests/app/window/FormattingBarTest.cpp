@@ -120,6 +120,15 @@ TEST_F(FormattingBarTest, AColourIsSentWithoutAskingAndTheKeyboardGoesBackToTheP
             CallLog({QStringLiteral("ExecCommand(5042, #0000FF)"), QStringLiteral("SetFocus()")}));
 }
 
+TEST_F(FormattingBarTest, AColourThatThePageRefusesIsNotShown) {
+  Parts().formats.ShowForeColor(QStringLiteral("#0000ff"));
+  Parts().formats.ShowBackColor(QStringLiteral("#ffffff"));
+  PickColor("cpFore", QColor(255, 128, 0));
+  EXPECT_EQ(Find<ColorPicker>("cpFore")->Color(), 0xFF0000);
+  PickColor("cpBack", QColor(0, 0, 255));
+  EXPECT_EQ(Find<ColorPicker>("cpBack")->Color(), 0xFFFFFF);
+}
+
 TEST_F(FormattingBarTest, WithoutADocumentAChoiceDoesNothing) {
   page.close();
   log.clear();
