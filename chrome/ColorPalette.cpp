@@ -166,8 +166,7 @@ void ColorPalette::SetRecent(const std::vector<QColor> &colors) {
   recentArea_->setVisible(!colors.empty());
 }
 
-void ColorPalette::DropDownFrom(const QWidget &anchor, const QColor &current) {
-  adjustSize();
+QPoint ColorPalette::PlaceBelow(const QWidget &anchor) const {
   const QRect screen = anchor.screen()->availableGeometry();
   QPoint place = anchor.mapToGlobal(QPoint(0, anchor.height() + 2));
   if (place.y() + height() > screen.bottom()) {
@@ -175,8 +174,15 @@ void ColorPalette::DropDownFrom(const QWidget &anchor, const QColor &current) {
   }
   place.setX(
       std::clamp(place.x(), screen.left(), std::max(screen.left(), screen.right() - width())));
-  move(place);
+  return place;
+}
+
+void ColorPalette::DropDownFrom(const QWidget &anchor, const QColor &current) {
+  adjustSize();
+  move(PlaceBelow(anchor));
   show();
+  // The first showing gives its parts their style, and with it their size.
+  move(PlaceBelow(anchor));
   const auto field = std::find_if(fields_.begin(), fields_.end(), [&](const QToolButton *button) {
     return static_cast<const ColorField *>(button)->Color() == current;
   });

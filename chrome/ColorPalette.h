@@ -47,6 +47,8 @@ class ColorPalette final : public QFrame {
   void keyPressEvent(QKeyEvent *event) override;
 
  private:
+  /// Above it where there is no room below.
+  QPoint PlaceBelow(const QWidget &anchor) const;
   QToolButton *AddField(QGridLayout *grid, int index, const QString &name, const QColor &color);
 
   std::vector<QToolButton *> fields_;
