@@ -3,14 +3,17 @@
 
 #include "platform/Dialogs.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QPushButton>
 #include <QScreen>
+#include <QTest>
 
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <random>
+#include <string>
 
 namespace velor {
 
@@ -54,10 +57,16 @@ class PersonAtRandom final : public Dialogs {
     return {};
   }
   void RunModal(QWidget &window) override {
+    window.show();
+    window.activateWindow();
+    const std::string name = window.objectName().toStdString();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window)) << name;
     const QSize least = window.minimumSizeHint();
     const QSize screen = window.screen()->availableSize();
     EXPECT_TRUE(least.width() <= screen.width() && least.height() <= screen.height())
-        << window.objectName().toStdString() << " is larger than the screen";
+        << name << " is larger than the screen";
+    const auto hasKeyboard = [&window] { return window.isAncestorOf(QApplication::focusWidget()); };
+    EXPECT_TRUE(QTest::qWaitFor(hasKeyboard)) << "the keyboard is not in " << name;
     auto *dialog = qobject_cast<QDialog *>(&window);
     if (dialog == nullptr) {
       window.close();
