@@ -4,10 +4,11 @@
 palette and scale.
 
 Usage: screenshots.py RUN_FOLDER OUT_FOLDER light|dark SCALE_PERCENT [SESSION...]
-Sessions are recovery, start, main, manual and objects; without any, all of them.
+Sessions are recovery, start, main, manual, objects and projects; without any, all of them.
 """
 import os
 import shutil
+import subprocess
 import sys
 import tempfile
 
@@ -227,7 +228,10 @@ def modes(photos):
     program.type("page")
     photos.shot("edit-html-find-bar")
     middle = int(500 * photos.factor)
-    program.key("Escape")
+    program.key("Escape", "ctrl+End")
+    program.type("<!-- not applied yet -->")
+    photos.shot("edit-html-unapplied")
+    program.key("ctrl+z")
     photos.popup(lambda: program.click(middle, middle, 3), "source-context-menu", "Down")
     program.key("ctrl+F4")
     program.press("Preview", within=page)
@@ -269,6 +273,39 @@ def home(scratch):
     return folder
 
 
+MANY_PAGES = 40
+
+
+def projects(photos):
+    """A project with many pages, its page chooser, and the picker for one whose folder is gone."""
+    program = photos.program
+
+    def manager(*keys):
+        photos.click("Project Manager")
+        program.wait("Open", "push button")
+        program.key(*keys, "Return")
+
+    manager("Home")
+    program.wait("Home.htm", "page tab")
+    photos.away()
+    photos.popup(lambda: photos.click("Project pages", "combo box"), "page-chooser", "Down", "Down")
+    manager("End")
+    program.wait("Web path not found please provide the path", "label")
+    photos.shot("moved-site")
+    program.key("alt+y")
+    program.wait("Path", "text", program.wait("Select Folder", "dialog|frame|window"))
+    photos.shot("project-folder-picker")
+    photos.close("project-folder-picker")
+
+
+def add_pages(run_folder, folder):
+    """Gives the project that the list begins with as many pages as a large site has."""
+    statements = [f"Insert into Page (PageId, ProjectId, PageName, TPath, Path) values ({100 + number}, 2, "
+                  f"'Page {number} of many', '', '')" for number in range(1, MANY_PAGES + 1)]
+    subprocess.run([os.path.join(run_folder, "velor-catalogue"),
+                    os.path.join(folder, "eThumbs.mdb"), *statements], check=True, stdout=subprocess.DEVNULL)
+
+
 def start_up(photos):
     """The question and the folder picker of a start without an image folder."""
     photos.shot("question")
@@ -287,6 +324,8 @@ def main(run_folder, out, palette, scale, *wanted):
         folder = os.path.join(scratch, "program")
         shutil.copytree(run_folder, folder, ignore=shutil.ignore_patterns(
             "velor-*", "*.ini", "Temp*.htm", *left_out))
+        if projects in scenes:
+            add_pages(run_folder, folder)
         program = Program(os.path.join(run_folder, "velor-web-creator"), folder, scratch, out,
                           {"VELOR_PALETTE": palette, "QT_SCALE_FACTOR": str(factor), "HOME": home(scratch)})
         photos = Photographer(program, f"{palette}-{scale}-{name}", factor)
@@ -343,6 +382,7 @@ def main(run_folder, out, palette, scale, *wanted):
         "main": lambda: session("main", (), main_window, dialogs, modes, narrow),
         "manual": lambda: session("manual", (), manual),
         "objects": lambda: session("objects", (), objects),
+        "projects": lambda: session("projects", (), projects),
     }
     for name in wanted or sessions:
         sessions[name]()
