@@ -11,6 +11,7 @@ constexpr HelpTopic Topics[] = {
     {"picOutside", nullptr, "outside.html#both"},
     {"frmMain", "Code1", "source.html#view"},
     {"frmMain", nullptr, "design.html"},
+    {"picFind", nullptr, "source.html#find"},
     {"frmCodeEditor", nullptr, "source.html#editor"},
     {"frmBrowser", nullptr, "preview.html"},
     // Parts of the main window.
@@ -26,6 +27,7 @@ constexpr HelpTopic Topics[] = {
     // Dialogs.
     {"frmInsertElement", "SSTab2", "pictures.html#insert"},
     {"frmInsertElement", "txtHref", "links.html#hyperlink"},
+    {"frmInsertElement", "SSTab3", "links.html#video"},
     {"frmInsertElement", nullptr, "links.html#target"},
     {"frmDialog_Table", nullptr, "tables.html#insert"},
     {"frmProjectManager", nullptr, "projects.html#manager"},

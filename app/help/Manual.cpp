@@ -7,6 +7,7 @@
 #include <QTextDocumentFragment>
 
 #include <algorithm>
+#include <map>
 
 namespace velor {
 namespace {
@@ -32,6 +33,23 @@ bool HasWord(const QString &text, const QString &beginning) {
 bool HasWords(const QString &text, const QStringList &words) {
   return std::all_of(words.begin(), words.end(),
                      [&](const QString &word) { return HasWord(text, word); });
+}
+
+bool HasAny(const QString &text, const QStringList &words) {
+  return std::any_of(words.begin(), words.end(),
+                     [&](const QString &word) { return HasWord(text, word); });
+}
+
+constexpr int NotFound = -1;
+
+/// How near a part is to the words, from 0. The chapter's title helps with some of them: alone it
+/// would bring every part of the chapter.
+int RankOf(const ManualPart &part, const QStringList &words) {
+  const QString own = part.title + u' ' + part.text;
+  if (HasWords(part.title, words)) return 0;
+  if (HasWords(part.chapter + u' ' + part.title, words) && HasAny(part.title, words)) return 1;
+  if (HasWords(own, words)) return 2;
+  return HasWords(part.chapter + u' ' + own, words) && HasAny(own, words) ? 3 : NotFound;
 }
 
 /// The pages that the first one leads to, itself in front, each once.
@@ -78,16 +96,14 @@ void Manual::ReadPage(const QString &name) {
 
 QList<ManualPart> Manual::Find(const QString &text) const {
   const QStringList words = WordsOf(text);
-  QList<ManualPart> found;
-  if (words.isEmpty()) return found;
-  std::copy_if(parts_.begin(), parts_.end(), std::back_inserter(found),
-               [&](const ManualPart &part) {
-                 return HasWords(part.chapter + u' ' + part.title + u' ' + part.text, words);
-               });
-  std::stable_partition(found.begin(), found.end(), [&](const ManualPart &part) {
-    return HasWords(part.chapter + u' ' + part.title, words);
-  });
-  return found;
+  std::multimap<int, ManualPart> found;
+  for (const ManualPart &part : parts_) {
+    const int rank = words.isEmpty() ? NotFound : RankOf(part, words);
+    if (rank != NotFound) found.emplace(rank, part);
+  }
+  QList<ManualPart> inOrder;
+  for (const auto &[rank, part] : found) inOrder << part;
+  return inOrder;
 }
 
 QString ManualFolder(const QString &programFolder) {

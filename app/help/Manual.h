@@ -28,8 +28,8 @@ class Manual {
   bool IsEmpty() const { return parts_.isEmpty(); }
   /// In reading order: that of the links on the first page, index.html.
   const QList<ManualPart> &Parts() const { return parts_; }
-  /// The parts that have words which begin with each of these words, letter case ignored. Those
-  /// that have them in the titles of the chapter and of the part come first. No words find nothing.
+  /// The parts that have words which begin with each of these words, letter case ignored, the
+  /// nearest first: those that have them in their titles. No words find nothing.
   QList<ManualPart> Find(const QString &words) const;
 
  private:

@@ -140,6 +140,11 @@ TEST_F(ManualTest, WordsAreFoundByTheirBeginningsAndTitlesComeFirst) {
   const QList<ManualPart> found = manual.Find(QStringLiteral("LINE en"));
   ASSERT_FALSE(found.isEmpty());
   EXPECT_EQ(found.constFirst().Place(), QStringLiteral("files.html#line-ends"));
+  const QList<ManualPart> ofChapter = manual.Find(QStringLiteral("pictures size"));
+  ASSERT_FALSE(ofChapter.isEmpty());
+  EXPECT_EQ(ofChapter.constFirst().Place(), QStringLiteral("pictures.html#size"));
+  for (const ManualPart &part : manual.Find(QStringLiteral("grid")))
+    EXPECT_TRUE((part.title + part.text).contains(QStringLiteral("grid"), Qt::CaseInsensitive));
   EXPECT_FALSE(manual.Find(QStringLiteral("drives.conf")).isEmpty());
   EXPECT_TRUE(manual.Find(QStringLiteral("ettings.xyz")).isEmpty());
   EXPECT_TRUE(manual.Find(QStringLiteral("  ")).isEmpty());
