@@ -43,6 +43,10 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     Q_EMIT PictureWanted();
   }
+  void linkWanted(const QString &address) {
+    const EngineCallback callback(guard_);
+    Q_EMIT LinkWanted(address);
+  }
   void earlierWanted() {
     const EngineCallback callback(guard_);
     Q_EMIT EarlierWanted();
@@ -60,6 +64,7 @@ class BridgeHost : public QObject {
   /// The probe of a TurnQueue has arrived in the page.
   void InputArrived();
   void PictureWanted();
+  void LinkWanted(const QString &address);
   void EarlierWanted();
   void LaterWanted();
 

@@ -88,6 +88,8 @@ class EngineView : public QObject, private PageWays {
   void PartAsked(const QString &name, const QString &file);
   /// Paste was asked for where the clipboard has no text.
   void PictureWanted();
+  /// A link is to be followed; its address as written in the page.
+  void LinkWanted(const QString &address);
   /// Undo was asked for at the beginning of the page's own history; redo at its end.
   void EarlierWanted();
   void LaterWanted();

@@ -21,6 +21,7 @@ enum class Notice {
   Memory,
   Parts,
   Picture,
+  Link,
   Pointer,
   Menu,
   Drop,

@@ -74,6 +74,7 @@ std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
   state.blockFormat = object[u"blockFormat"].toString();
   state.selection = SelectionOfName(object[u"selection"].toString());
   state.element = ElementOf(object[u"element"].toObject());
+  state.link = ElementOf(object[u"link"].toObject());
   return state;
 }
 

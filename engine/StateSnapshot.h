@@ -27,6 +27,7 @@ struct StateSnapshot {
   QString blockFormat;
   SelectionType selection = SelectionType::None;
   HtmlElement element;
+  HtmlElement link;
 
   /// Nothing for a text that is no JSON of a state.
   static std::optional<StateSnapshot> FromJson(const QString &json);

@@ -6,6 +6,8 @@
 #include "engine/NoticeQueue.h"
 #include "platform/PasteLimit.h"
 
+#include <QVariantList>
+
 namespace velor {
 
 namespace {
@@ -32,6 +34,25 @@ class WebTextRange : public TextRange {
   bool collapsed_ = false;
 };
 
+/// The attributes as the bridge takes them.
+QString InScript(const HtmlAttributes &attributes) {
+  QVariantList pairs;
+  for (const auto &[name, value] : attributes) pairs << QVariant(QVariantList{name, value});
+  return ScriptValue(pairs);
+}
+
+QString InScript(HtmlDocument::ParagraphSide side) {
+  switch (side) {
+    case HtmlDocument::ParagraphSide::Left:
+      return QStringLiteral("'left'");
+    case HtmlDocument::ParagraphSide::Center:
+      return QStringLiteral("'center'");
+    case HtmlDocument::ParagraphSide::AsItIs:
+      break;
+  }
+  return QStringLiteral("''");
+}
+
 }  // namespace
 
 SelectionType WebDocument::Type() const {
@@ -40,6 +61,24 @@ SelectionType WebDocument::Type() const {
 
 std::unique_ptr<TextRange> WebDocument::CreateRange() {
   return std::make_unique<WebTextRange>(document_, notices_);
+}
+
+HtmlElement WebDocument::Link() const {
+  return document_.Snapshot().link;
+}
+
+void WebDocument::SetLink(const HtmlAttributes &attributes, const QString &text) {
+  document_.Run(
+      QStringLiteral("velor.setLink(%1,%2)").arg(InScript(attributes), ScriptValue(text)));
+}
+
+void WebDocument::SetBookmark(const QString &name) {
+  document_.Run(QStringLiteral("velor.setBookmark(%1)").arg(ScriptValue(name)));
+}
+
+void WebDocument::ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) {
+  document_.Run(
+      QStringLiteral("velor.changeObject(%1,%2)").arg(InScript(attributes), InScript(side)));
 }
 
 HtmlElement WebDocument::ControlElement() const {

@@ -16,6 +16,10 @@ class WebDocument : public HtmlDocument, private DocumentSelection {
       : document_(document), notices_(notices) {}
 
   DocumentSelection &Selection() override { return *this; }
+  HtmlElement Link() const override;
+  void SetLink(const HtmlAttributes &attributes, const QString &text) override;
+  void SetBookmark(const QString &name) override;
+  void ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) override;
 
  private:
   SelectionType Type() const override;

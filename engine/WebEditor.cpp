@@ -92,6 +92,10 @@ void WebEditor::ConnectView(EngineView &view) {
                    [=, this] { post(Notice::Died, [this] { loader_.ReloadAfterCrash(); }); });
   QObject::connect(&view, &EngineView::PictureWanted,
                    [=, this] { post(Notice::Picture, [this] { PastePicture(); }); });
+  QObject::connect(&view, &EngineView::LinkWanted, [this](const QString &address) {
+    notices_.PostToListener(
+        Notice::Link, [address](EditingListener &listener) { listener.LinkFollowed(address); });
+  });
   QObject::connect(&view, &EngineView::PartAsked,
                    [this](const QString &name, const QString &file) { PartAsked(name, file); });
   QObject::connect(&view, &EngineView::EarlierWanted, [=, this] {

@@ -48,6 +48,8 @@ class EditingListener {
   /// The page shows these files beside its own, style sheets and pictures, paths in logic form;
   /// told whenever there is another. A file need not exist.
   virtual void PartsShown(const QStringList &) {}
+  /// A link was clicked with Ctrl; its address as written in the page.
+  virtual void LinkFollowed(const QString & /*address*/) {}
   /// Files were dropped on the page or pasted, paths in logic form. The component has put the caret
   /// where they were dropped and does nothing else with them.
   virtual void FilesDropped(const QStringList &) {}

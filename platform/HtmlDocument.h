@@ -9,12 +9,14 @@
 
 namespace velor {
 
+/// Names and values of attributes, in source order; names in lower case.
+using HtmlAttributes = std::vector<std::pair<QString, QString>>;
+
 /// A copy of an element: name and attributes at the time of the call that returned it.
 struct HtmlElement {
   /// Upper case, as the document object model reports HTML elements; empty for no element.
   QString tagName;
-  /// In source order; names in lower case.
-  std::vector<std::pair<QString, QString>> attributes;
+  HtmlAttributes attributes;
 
   bool IsNull() const { return tagName.isEmpty(); }
   /// The attribute's text as written in the page; empty when absent.
@@ -52,6 +54,20 @@ class HtmlDocument {
  public:
   virtual ~HtmlDocument() = default;
   virtual DocumentSelection &Selection() = 0;
+  /// The link that the selected object, the first selected text or the caret is in; null for none.
+  virtual HtmlElement Link() const { return {}; }
+
+  // Each is one undo step. An empty value takes the attribute off what is there.
+
+  /// Makes, changes or (without "href") takes off the link of the selection, of the word at the
+  /// caret or of the selected picture. Where there is nothing of these, `text` is put in as a link.
+  virtual void SetLink(const HtmlAttributes & /*attributes*/, const QString & /*text*/) {}
+  /// Names the place of the selection, for links to lead to. Does nothing where the page has the
+  /// name.
+  virtual void SetBookmark(const QString & /*name*/) {}
+  enum class ParagraphSide { AsItIs, Left, Center };
+  /// Changes attributes of the selected object, and aligns its paragraph.
+  virtual void ChangeObject(const HtmlAttributes & /*attributes*/, ParagraphSide /*side*/) {}
 };
 
 }  // namespace velor

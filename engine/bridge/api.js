@@ -2,6 +2,7 @@
 // @ts-check
 // The names that the program evaluates, on the global object `velor` of the bridge's world. Nothing
 // else of the bridge is global. docs/bridge.md says what each does.
+import { changeObject, setBookmark, setLink } from './clipboard/dialogs.js';
 import { pasteHTML } from './clipboard/paste.js';
 import { setDetails } from './objects/details.js';
 import { setSnap } from './objects/grid.js';
@@ -24,6 +25,9 @@ globalThis.velor = {
   exec,
   state,
   pasteHTML,
+  setLink,
+  setBookmark,
+  changeObject,
   caretAt: setCaretAtPixel,
   serialize,
   replaceDocument,

@@ -237,6 +237,9 @@ interface Layer extends Position { image: string; width: number; height: number;
  */
 interface Resizing { dx?: number; dy?: number; width?: number; height?: number }
 
+/** An element as the program is told of it; no tag for none. */
+interface ToldElement { tag: string; attributes: [name: string, value: string][] }
+
 /** What pushState tells, as JSON. */
 interface State {
   version: number;
@@ -249,7 +252,8 @@ interface State {
   backColor: string;
   blockFormat: string;
   selection: 'None' | 'Text' | 'Control';
-  element: { tag: string; attributes: [name: string, value: string][] };
+  element: ToldElement;
+  link: ToldElement;
 }
 
 /** What differs in a text: `fresh` in place of `length` UTF-16 code units from `offset`. */
@@ -264,6 +268,7 @@ interface Host {
   pushMouse(x: number, y: number): void;
   inputArrived(): void;
   pictureWanted(): void;
+  linkWanted(address: string): void;
   earlierWanted(): void;
   laterWanted(): void;
 }

@@ -175,7 +175,10 @@ void WebBrowser::SetSite(const QString &folder) {
 }
 
 void WebBrowser::Navigate(const QUrl &url) {
-  page_->load(url.isLocalFile() ? scheme_.AddressOf(url.toLocalFile(), site_) : url);
+  if (!url.isLocalFile()) return page_->load(url);
+  QUrl address = scheme_.AddressOf(url.toLocalFile(), site_);
+  address.setFragment(url.fragment(QUrl::FullyEncoded), QUrl::StrictMode);
+  page_->load(address);
 }
 
 void WebBrowser::NavigateToText(const QString &html, const QUrl &baseUrl) {

@@ -25,6 +25,12 @@ PageToWrite PageToSave(const PageOriginal &original, const QString &current) {
   return {std::move(text), std::move(bytes)};
 }
 
+QString InWords(const HtmlAttributes &attributes) {
+  QStringList words;
+  for (const auto &[name, value] : attributes) words << name + u'=' + value;
+  return words.join(u' ');
+}
+
 }  // namespace
 
 /// The fake's selection as a range.
@@ -230,6 +236,18 @@ void FakeEditingComponent::SetSnapToGrid(bool on) {
 
 DocumentSelection &FakeEditingComponent::Selection() {
   return *this;
+}
+
+void FakeEditingComponent::SetLink(const HtmlAttributes &attributes, const QString &text) {
+  Log(QStringLiteral("SetLink(%1, %2)").arg(InWords(attributes), text));
+}
+
+void FakeEditingComponent::SetBookmark(const QString &name) {
+  Log(QStringLiteral("SetBookmark(%1)").arg(name));
+}
+
+void FakeEditingComponent::ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) {
+  Log(QStringLiteral("ChangeObject(%1, %2)").arg(InWords(attributes)).arg(static_cast<int>(side)));
 }
 
 SelectionType FakeEditingComponent::Type() const {

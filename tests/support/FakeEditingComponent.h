@@ -36,6 +36,7 @@ class FakeEditingComponent final : public EditingComponent,
   QStringList blockFormats = BlockFormatNames();
   SelectionType selectionType = SelectionType::None;
   HtmlElement element;  ///< under the caret, or the selected object
+  HtmlElement link;     ///< that the selection is in
   /// The stretch of the document's text that is selected; after loading the start of the body.
   qsizetype selectionStart = 0;
   qsizetype selectionEnd = 0;
@@ -92,7 +93,11 @@ class FakeEditingComponent final : public EditingComponent,
   bool SnapToGrid() const override;
   void SetSnapToGrid(bool on) override;
 
-  // HtmlDocument and DocumentSelection
+  // HtmlDocument and DocumentSelection. Links and attributes are noted only.
+  HtmlElement Link() const override { return link; }
+  void SetLink(const HtmlAttributes &attributes, const QString &text) override;
+  void SetBookmark(const QString &name) override;
+  void ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) override;
   DocumentSelection &Selection() override;
   SelectionType Type() const override;
   std::unique_ptr<TextRange> CreateRange() override;

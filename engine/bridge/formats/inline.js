@@ -313,12 +313,11 @@ function withoutEffect(entry, texts, chosen) {
 // pass reads first and writes then, since the engine computes styles anew for what is read after a
 // change.
 /**
- * @param {string} name
+ * @param {Format} entry
  * @param {FormatValue} value
  * @param {Text[]} texts
  */
-function putOn(name, value, texts) {
-  const entry = formats[name];
+function putOn(entry, value, texts) {
   const touched = new Set();
   /** @param {Node} node */
   const around = (node) => {
@@ -352,12 +351,11 @@ function putOn(name, value, texts) {
 
 // True where all of the range has the format's value.
 /**
- * @param {string} name
+ * @param {Format} entry
  * @param {FormatValue} value
  * @param {Range} range
  */
-function isThere(name, value, range) {
-  const { read, same } = formats[name];
+function isThere({ read, same }, value, range) {
   const elements = new Set(selection.textsIn(range).map((text) => text.parentElement));
   return [...elements].every((element) => same(read(element), value));
 }
@@ -393,20 +391,28 @@ function anchorsOf(texts, range) {
 }
 
 /**
- * Puts a format on the text of a range and selects that again, in the direction it was selected in.
+ * Puts a format of the table on the text of a range; see applyFormat.
  * @param {string} name
+ * @param {FormatValue} value
+ * @param {Range} range
+ */
+export function apply(name, value, range) { applyFormat(formats[name], value, range); }
+
+/**
+ * Puts a format on the text of a range and selects that again, in the direction it was selected in.
+ * @param {Format} entry
  * @param {FormatValue} value
  * @param {Range} range the selected one
  */
-export function apply(name, value, range) {
+export function applyFormat(entry, value, range) {
   takeInSigns(range);
-  if (isThere(name, value, range)) return;
+  if (isThere(entry, value, range)) return;
   const backward = document.getSelection().focusNode === range.startContainer &&
     document.getSelection().focusOffset === range.startOffset && !range.collapsed;
   const texts = splitTextsAtEnds(range);
   if (!texts.length) return;
   const anchors = anchorsOf(texts, range);
-  joinTexts(putOn(name, value, texts), anchors);
+  joinTexts(putOn(entry, value, texts), anchors);
   const [anchor, focus] = backward ? anchors.reverse() : anchors;
   selection.restore({ anchor, focus });
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// Tells the program where the pointer is.
+// Tells the program where the pointer is, and which link is to be followed.
 import { host } from './host.js';
 
 /** @type {Position | null} */
@@ -29,8 +29,17 @@ function pressed(event) {
   tell();
 }
 
+// Ctrl and a click follow a link, as in other editors; a click alone places the caret.
+/** @param {MouseEvent} event */
+function clicked({ ctrlKey, button, target }) {
+  if (!ctrlKey || button !== 0 || !(target instanceof Element)) return;
+  const link = target.closest('a[href], area[href]');
+  if (link) host()?.linkWanted(link.getAttribute('href'));
+}
+
 /** Begins to listen on a document that was loaded. */
 export const listenToPointer = () => {
   document.addEventListener('mousemove', moved, true);
   document.addEventListener('mousedown', pressed, true);
+  document.addEventListener('click', clicked, true);
 };

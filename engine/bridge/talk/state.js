@@ -2,6 +2,7 @@
 // @ts-check
 // What the program shows of the selection: the status of every command, the values of five queries,
 // the kind of selection and the element at its start.
+import { linkOf } from '../formats/links.js';
 import * as selection from '../page/selection.js';
 import { commands as table, queryValue, readView, statusOf } from './commands.js';
 import { Command } from './vocabulary.js';
@@ -14,8 +15,8 @@ const values = {
   blockFormat: Command.GetBlockFormat,
 };
 
-function element() {
-  const found = selection.element();
+/** @param {Element | null} found */
+function told(found) {
   if (!found) return { tag: '', attributes: [] };
   const attributes = [...found.attributes].map(({ name, value }) => [name, value]);
   return { tag: found.tagName.toUpperCase(), attributes };
@@ -37,5 +38,6 @@ export const state = () => {
   const commands = {};
   for (const number of table.keys()) commands[number] = statusOf(number, view);
   const read = Object.entries(values).map(([name, number]) => [name, queryValue(number, view)]);
-  return { commands, ...Object.fromEntries(read), selection: kind(view), element: element() };
+  return { commands, ...Object.fromEntries(read), selection: kind(view),
+    element: told(selection.element()), link: told(linkOf(view)) };
 };

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -37,6 +38,17 @@ QStringList LinesOf(const QString &path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return {};
   return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+}
+
+/// The words "name=value" of a step as pairs for the page, without the one named `left`.
+QString PairsOf(const QString &words, const QString &left = {}) {
+  QStringList pairs;
+  for (const QString &word : words.split(u' ')) {
+    const QString name = word.section(u'=', 0, 0);
+    if (name == left) continue;
+    pairs << QStringLiteral("[%1,%2]").arg(ScriptText(name), ScriptText(word.section(u'=', 1)));
+  }
+  return u'[' + pairs.join(u',') + u']';
 }
 
 }  // namespace
@@ -126,6 +138,14 @@ void Perform(BridgePage &page, const QString &step) {
     page.Commit(value);
   } else if (verb == QStringLiteral("pasteHTML")) {
     page.Evaluate(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptText(value)));
+  } else if (verb == QStringLiteral("link")) {
+    page.Evaluate(QStringLiteral("velor.setLink(%1, 'text')").arg(PairsOf(value)));
+  } else if (verb == QStringLiteral("bookmark")) {
+    page.Evaluate(QStringLiteral("velor.setBookmark(%1)").arg(ScriptText(value)));
+  } else if (verb == QStringLiteral("object")) {
+    const QString side = value.section(QStringLiteral("side="), 1);
+    page.Evaluate(QStringLiteral("velor.changeObject(%1, %2)")
+                      .arg(PairsOf(value, QStringLiteral("side")), ScriptText(side)));
   } else if (verb == QStringLiteral("pasteForeign") || verb == QStringLiteral("pasteText")) {
     const QString type = verb == QStringLiteral("pasteText") ? QStringLiteral("text/plain")
                                                              : QStringLiteral("text/html");
@@ -152,6 +172,9 @@ QString ActualState(BridgePage &page, const QString &expected) {
     if (CommandNumbers().count(key) == 1) {
       const QString number = QString::number(CommandNumbers().at(key));
       value = QString::number(state["commands"].toObject()[number].toInt());
+    } else if (key == QStringLiteral("link")) {
+      for (const QJsonValue &attribute : state["link"].toObject()["attributes"].toArray())
+        if (attribute[0].toString() == QStringLiteral("href")) value = attribute[1].toString();
     } else if (key == QStringLiteral("element")) {
       value = state["element"].toObject()["tag"].toString();
     } else {
