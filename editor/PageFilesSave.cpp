@@ -15,6 +15,7 @@
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/ReplacedVersions.h"
+#include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
 #include "platform/TemporaryCopies.h"
 
@@ -154,36 +155,61 @@ LinkChoice AskAboutLinks(EditorContext &context, const std::vector<BrokenLink> &
   return answer == captions.size() - 1 ? LinkChoice::Leave : LinkChoice::TakePictures;
 }
 
+/// What was done to a page's links before it is written to its new place.
+struct LinkChanges {
+  std::optional<QString> before = {};  ///< the page's text, where that changed
+  QString from = {};                   ///< the file that its links resolved against
+  QString notice = {};                 ///< for the status bar once the page is written
+};
+
 /// Adapts the relative links of a page that goes to another folder, as the person chooses, as one
-/// undo step, and shows it from there. Returns the text before, where the document changed.
-std::optional<QString> AdaptLinks(EditorContext &context, frmMain &window, const QString &from,
-                                  const QString &to) {
-  if (from.isEmpty() || modGeneral::FolderOfPath(from) == modGeneral::FolderOfPath(to))
-    return std::nullopt;
+/// undo step, and shows it from there.
+LinkChanges AdaptLinks(EditorContext &context, frmMain &window, const QString &from,
+                       const QString &to) {
+  if (modGeneral::FolderOfPath(from) == modGeneral::FolderOfPath(to)) return {};
   Files &files = context.platform.files;
   const QString html = window.DHTML1().TextToSave();
   std::vector<BrokenLink> links = BrokenLinks(html, from, to, files);
-  if (links.empty()) return std::nullopt;
+  if (links.empty()) return {};
   const LinkChoice choice = AskAboutLinks(context, links);
-  if (choice == LinkChoice::Leave) return std::nullopt;
+  if (choice == LinkChoice::Leave) return {};
   if (choice == LinkChoice::TakePictures) CopyPictures(links, to, files);
   window.DHTML1().LoadText(WithAdapted(html, links), to);
-  return html;
+  return {html, from};
+}
+
+/// Makes the links relative that the program wrote in full into a page without a path, as one undo
+/// step, and shows the page from `to`.
+LinkChanges MakeFullLinksRelative(EditorContext &context, frmMain &window, const QString &to) {
+  const auto &addresses = context.pages.FullAddresses(window.Number());
+  if (addresses.empty()) return {};
+  const QString html = window.DHTML1().TextToSave();
+  const std::vector<BrokenLink> links = FullLinks(html, to, addresses);
+  if (links.empty()) return {};
+  window.DHTML1().LoadText(WithAdapted(html, links), to);
+  // A page without a path is shown from the program folder.
+  return {html, context.platform.runtime.ProgramFolder() + u'\\',
+          QStringLiteral("Saved %1. %2 links in it lead to files by their way from the page now")
+              .arg(ForPeople(to))
+              .arg(links.size())};
 }
 
 void WriteToNewFolder(EditorContext &context, frmMain &window, const QString &from,
                       const QString &to) {
-  const auto before = AdaptLinks(context, window, from, to);
+  const LinkChanges changes = from.isEmpty() ? MakeFullLinksRelative(context, window, to)
+                                             : AdaptLinks(context, window, from, to);
   try {
     WriteFile(window, to);
   } catch (const RuntimeError &) {
     // The page stays in its folder: its links are set back, and resolve against it again.
-    if (before) {
+    if (changes.before) {
       window.DHTML1().ExecCommand(EditingCommand::Undo);
-      window.DHTML1().LoadText(*before, from);
+      window.DHTML1().LoadText(*changes.before, changes.from);
     }
     throw;
   }
+  if (!changes.notice.isEmpty() && !context.mainWindow.status.HasNotice())
+    context.mainWindow.status.Report(changes.notice);
 }
 
 void SaveUnderNewName(frmMain &window, FileDialog &dialog, PageRecord &record) {

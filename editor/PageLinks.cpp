@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/PageLinks.h"
 
+#include "editor/PageSlots.h"
 #include "editor/modGeneral.h"
 #include "page/text/HtmlTokens.h"
 #include "platform/Files.h"
@@ -202,6 +203,33 @@ std::vector<BrokenLink> BrokenLinks(const QString &html, const QString &from, co
     }
   }
   return search.links;
+}
+
+std::vector<BrokenLink> FullLinks(const QString &html, const QString &to,
+                                  const std::vector<PageFullAddress> &addresses) {
+  std::vector<BrokenLink> links;
+  for (const HtmlToken &token : TokenizeHtml(html)) {
+    if (token.kind != HtmlTokenKind::StartTag) continue;
+    const HtmlTagParts tag = ReadHtmlTag(html, token.offset);
+    for (const HtmlAttributeSlice &attribute : tag.attributes) {
+      if (!IsOneOf(LinkAttributes, attribute.NameIn(html))) continue;
+      if (IsOneOf(std::array{u"base"}, QStringView(html).sliced(tag.name, tag.nameLength)))
+        return {};
+      const QStringView slice = attribute.ValueIn(html);
+      const auto known = std::find_if(
+          addresses.begin(), addresses.end(),
+          [value = HtmlAttributeValue(slice)](const auto &one) { return one.address == value; });
+      if (known == addresses.end()) continue;
+      QString adapted = known->fromPage(to);
+      adapted.replace(u'&', QStringLiteral("&amp;"));
+      links.push_back({.offset = slice.data() - html.constData(),
+                       .length = slice.size(),
+                       .isPicture = false,
+                       .target = {},
+                       .adapted = adapted});
+    }
+  }
+  return links;
 }
 
 QString WithAdapted(const QString &html, const std::vector<BrokenLink> &links) {

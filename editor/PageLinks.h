@@ -6,10 +6,12 @@
 
 #include <vector>
 
-/// Repair of the relative links of a page that is saved into another folder. Paths in logic form.
+/// Repair of the links of a page that is saved into another folder, or for the first time. Paths in
+/// logic form.
 namespace velor {
 
 class Files;
+struct PageFullAddress;
 
 /// A link that leads to an existing file from the page's old folder and not from the new one.
 struct BrokenLink {
@@ -25,6 +27,11 @@ struct BrokenLink {
 /// source order. None where the page has a BASE element, or stays in its folder.
 std::vector<BrokenLink> BrokenLinks(const QString &html, const QString &from, const QString &to,
                                     const Files &files);
+
+/// The links in `html` whose address is one of `addresses`, adapted to the page `to`; `target` is
+/// empty. None where the page has a BASE element.
+std::vector<BrokenLink> FullLinks(const QString &html, const QString &to,
+                                  const std::vector<PageFullAddress> &addresses);
 
 /// `html` with the address of each of these links replaced by its adapted one.
 QString WithAdapted(const QString &html, const std::vector<BrokenLink> &links);

@@ -35,6 +35,7 @@ std::int16_t PageSlots::AddSlot() {
   traces_.emplace_back();
   displacedSources_.emplace_back();
   sites_.emplace_back();
+  fullAddresses_.emplace_back();
   ++pageCount_;
   codeEditors_.emplace_back();
   ++codeEditorCount_;
@@ -59,6 +60,10 @@ std::optional<QString> &PageSlots::DisplacedSource(int number) {
 
 QString &PageSlots::Site(int number) {
   return sites_[Index(number, pageCount_)];
+}
+
+std::vector<PageFullAddress> &PageSlots::FullAddresses(int number) {
+  return fullAddresses_[Index(number, pageCount_)];
 }
 
 QPointer<frmMain> &PageSlots::Page(int number) {

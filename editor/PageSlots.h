@@ -7,6 +7,7 @@
 #include <QPointer>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -17,6 +18,13 @@ class frmMain;
 
 /// The key of a page's tab: "key" followed by the page number.
 QString PageKey(int number);
+
+/// The address of a file that the program put into a page without a path, in full.
+struct PageFullAddress {
+  QString address;
+  /// The address of the same file from a page at that path.
+  std::function<QString(const QString &pagePath)> fromPage;
+};
 
 /// The page slots of one run of the program. Slots are numbered from 1, only ever added, never
 /// renumbered and never used twice: a page number names one page for as long as the program runs.
@@ -38,6 +46,8 @@ class PageSlots {
   std::optional<QString> &DisplacedSource(int number);
   /// The folder of the project that the page was opened from, in logic form; empty for none.
   QString &Site(int number);
+  /// Those in the page, and maybe others that it does not have any more.
+  std::vector<PageFullAddress> &FullAddresses(int number);
   /// Empty before the window is made and after it is gone.
   QPointer<frmMain> &Page(int number);
   QPointer<frmCodeEditor> &CodeEditor(int number);
@@ -49,6 +59,7 @@ class PageSlots {
   std::vector<FileTrace> traces_;
   std::vector<std::optional<QString>> displacedSources_;
   std::vector<QString> sites_;
+  std::vector<std::vector<PageFullAddress>> fullAddresses_;
   std::int16_t pageCount_ = 0;
   /// The upper bound of codeEditors_; grows in step with pageCount_.
   std::int16_t codeEditorCount_ = 0;
