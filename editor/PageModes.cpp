@@ -9,6 +9,7 @@
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
+#include "platform/LinkUrl.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/Runtime.h"
@@ -139,21 +140,52 @@ void frmMain::ReopenEditor(const QString &source) {
   modWorkFlow::SourceEditor(context_, number_).Fill(source, {});
 }
 
-void frmMain::Preview() {
+void frmMain::FollowLink(const QString &address) {
+  const PageRecord record = GetPageRecord();
+  if (address.isEmpty()) {
+    context_.mainWindow.status.Report(tr("There is no link at the caret"));
+    return;
+  }
+  if (address.startsWith(u'#')) return Preview(address.sliced(1));
+  const QUrl link = UrlOfLink(address);
+  if (record.Path.isEmpty() && link.isRelative()) {
+    context_.mainWindow.status.Report(tr("The link leads nowhere before the page is saved"));
+    return;
+  }
+  const QUrl own = ToUrl(record.Path);
+  const QUrl wanted = link.isRelative() ? own.resolved(link) : link;
+  if (wanted.matches(own, QUrl::RemoveFragment)) return Preview(wanted.fragment());
+  const bool isShown = wanted.isLocalFile() || wanted.scheme().startsWith(u"http");
+  if (!isShown) {
+    context_.mainWindow.status.Report(tr("%1 is for another program").arg(address));
+    return;
+  }
+  frmBrowser &preview = PreviewWindow(context_);
+  preview.SetPage(number_);
+  preview.WebBrowser().SetSite(FindIgnoringCase(context_.pages.Site(number_)));
+  context_.mainWindow.windows.Show(&preview);
+  preview.WebBrowser().Navigate(UrlOfMappedDrive(wanted).value_or(wanted));
+}
+
+void frmMain::Preview(const QString &fragment) {
+  const auto at = [&fragment](QUrl url) {
+    url.setFragment(fragment.isEmpty() ? QString() : fragment);
+    return url;
+  };
   const PageRecord record = GetPageRecord();
   frmBrowser &preview = PreviewWindow(context_);
   preview.SetPage(number_);
   preview.WebBrowser().SetSite(FindIgnoringCase(context_.pages.Site(number_)));
   if (record.ReadOnly != False16) {
     context_.mainWindow.windows.Show(&preview);
-    preview.WebBrowser().Navigate(ToUrl(record.Path));
+    preview.WebBrowser().Navigate(at(ToUrl(record.Path)));
     return;
   }
   const QString text = CreatorHTML();
   const bool written = RenewTemporaryCopy(text, modWorkFlow::CopyEnd::LineBreak);
   context_.mainWindow.windows.Show(&preview);
   if (written) {
-    preview.WebBrowser().Navigate(ToUrl(record.TempPath));
+    preview.WebBrowser().Navigate(at(ToUrl(record.TempPath)));
   } else {
     preview.WebBrowser().NavigateToText(text, BaseOf(record, context_.platform.runtime));
   }

@@ -86,6 +86,9 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void Edit(EditingCommand command) override;
   void OnActivated() override;
 
+  /// Shows in the preview what a link of this page with that address leads to.
+  void FollowLink(const QString &address);
+
   /// Updates the page's tab: the path of its file, and whether the page has unsaved changes.
   void ShowTab();
   /// Reads the page's HTML again, where the source view shows it.
@@ -112,6 +115,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void ComponentReported(const QString &message) override;
   void PartsShown(const QStringList &paths) override;
   void FilesDropped(const QStringList &paths) override;
+  void LinkFollowed(const QString &address) override { FollowLink(address); }
 
   void BuildToolBar();
   /// A button of the mode toolbar by its key; null for an unknown one.
@@ -127,7 +131,8 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void ShowState();
   bool IsInFront() const;
   void EditHtml();
-  void Preview();
+  /// Shows the page in the preview, at the place of that name where it is not empty.
+  void Preview(const QString &fragment = {});
   /// Writes the text to the page's temporary copy; false where that fails or there is no place for
   /// one.
   bool RenewTemporaryCopy(const QString &text, modWorkFlow::CopyEnd end);

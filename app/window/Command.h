@@ -24,6 +24,7 @@ enum class CommandId {
   InsertTarget,
   InsertVideo,
   InsertTable,
+  FollowLink,
   Preview,
   About,
   Help,

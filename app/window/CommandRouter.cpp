@@ -102,6 +102,10 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::InsertTable:
       Insert(&InsertCommands::Table);
       break;
+    case CommandId::FollowLink:
+      if (frmMain *page = ActiveDocument())
+        page->FollowLink(page->DHTML1().Document().Link().Attribute(QStringLiteral("href")));
+      break;
     case CommandId::Preview:
       Preview();
       break;
@@ -226,7 +230,11 @@ void CommandRouter::Edit(EditingCommand command) {
 }
 
 void CommandRouter::Insert(void (InsertCommands::*insertion)(frmMain &)) {
-  if (frmMain *page = ActiveDocument()) (insert_.*insertion)(*page);
+  if (frmMain *page = ActiveDocument()) {
+    (insert_.*insertion)(*page);
+  } else if (additions_ == Additions::On) {
+    context_.mainWindow.status.Report(QStringLiteral("There is no page to put something into"));
+  }
 }
 
 void CommandRouter::SetValue(EditingCommand query, EditingCommand set, const QString &value) {
