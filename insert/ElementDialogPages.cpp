@@ -33,8 +33,8 @@ const QStringList TargetFrames = {QStringLiteral("None"), QStringLiteral("_self"
                                   QStringLiteral("_parent")};
 
 /// A titled list with a button that belongs to it.
-void AddBookmarkList(QFormLayout *form, const QString &name, const QString &label,
-                     const QString &refreshName) {
+QListWidget *AddBookmarkList(QFormLayout *form, const QString &name, const QString &label,
+                             const QString &refreshName) {
   auto *list = new QListWidget;
   Name(*list, name, label);
   auto *title = new QLabel(label);
@@ -42,6 +42,7 @@ void AddBookmarkList(QFormLayout *form, const QString &name, const QString &labe
   form->addRow(title);
   form->addRow(list);
   AddButton(form, MakeButton(refreshName, QStringLiteral("&Refresh")));
+  return list;
 }
 
 /// A page with two tabs, "General" and "Appearance", which the callers fill.
@@ -159,25 +160,30 @@ QWidget *frmInsertElement::BuildHyperlinkPage() {
   for (QPushButton *button : {browse, mail}) button->setAccessibleName(button->toolTip());
 
   QFormLayout *link = AddForm(rows);
-  linkTarget_ =
+  link_.address =
       AddTextBox(link, QStringLiteral("txtHref"), QStringLiteral("Anchor Element Href:"), browse);
-  AddComboBox(link, QStringLiteral("cobATarget"), QStringLiteral("Target Frame:"), TargetFrames);
+  link_.frame = AddComboBox(link, QStringLiteral("cobATarget"), QStringLiteral("Target Frame:"),
+                            TargetFrames);
+  if (scope_ == DialogScope::Extended)
+    link_.title = AddTextBox(link, QStringLiteral("txtATitle"), QStringLiteral("&Title:"));
   QFormLayout *special = AddFrame(rows, QStringLiteral("Special Links:"));
   AddButton(special, mail);
-  AddBookmarkList(special, QStringLiteral("lstABookMark"),
-                  QStringLiteral("Link to a Bookmark (Target):"), QStringLiteral("cmdRefreshA"));
-  firstBoxes_[1] = linkTarget_;
+  link_.bookmarks = AddBookmarkList(special, QStringLiteral("lstABookMark"),
+                                    QStringLiteral("Link to a Bookmark (Target):"),
+                                    QStringLiteral("cmdRefreshA"));
+  firstBoxes_[1] = link_.address;
   return page;
 }
 
 QWidget *frmInsertElement::BuildTargetPage() {
   auto *page = new QWidget;
   QFormLayout *form = AddForm(MakePage(page));
-  firstBoxes_[2] =
+  bookmarkName_ =
       AddTextBox(form, QStringLiteral("txtBookmarkName"), QStringLiteral("Bookmark Name: "));
-  AddBookmarkList(form, QStringLiteral("lstOtherBookmark"),
-                  QStringLiteral("Other bookmarks in this page:"),
-                  QStringLiteral("cmdRefreshOther"));
+  otherBookmarks_ = AddBookmarkList(form, QStringLiteral("lstOtherBookmark"),
+                                    QStringLiteral("Other bookmarks in this page:"),
+                                    QStringLiteral("cmdRefreshOther"));
+  firstBoxes_[2] = bookmarkName_;
   return page;
 }
 
@@ -185,24 +191,33 @@ QWidget *frmInsertElement::BuildVideoPage() {
   const HalvedPage page(QStringLiteral("SSTab3"), QStringLiteral("Video"));
 
   QFormLayout *source = AddForm(page.general);
-  firstBoxes_[3] =
+  video_.source =
       AddTextBox(source, QStringLiteral("txtVidSource"), QStringLiteral("Video Source:"),
                  MakeButton(QStringLiteral("Command1"), QStringLiteral("&Browse...")));
-  AddCheckBox(source, QStringLiteral("chkShowControl"),
-              QStringLiteral("&Show controls in Browser"));
+  if (scope_ == DialogScope::Extended) {
+    QPushButton *browse =
+        MakeButton(QStringLiteral("cmdBrowsePoster"), QStringLiteral("Bro&wse..."));
+    browse->setAccessibleName(QStringLiteral("Browse for a poster"));
+    video_.poster =
+        AddTextBox(source, QStringLiteral("txtVidPoster"), QStringLiteral("&Poster:"), browse);
+  }
+  video_.controls = AddCheckBox(source, QStringLiteral("chkShowControl"),
+                                QStringLiteral("&Show controls in Browser"));
   QFormLayout *repeat = AddFrame(page.general, QStringLiteral("Repeat"));
-  videoLoops_ = AddNumberBox(repeat, QStringLiteral("txtVidLoop"), QStringLiteral("&Loop:"),
-                             QStringLiteral("1"));
-  videoLoopsForever_ = AddCheckBox(repeat, QStringLiteral("chkForever"), QStringLiteral("Forever"));
+  video_.loops = AddNumberBox(repeat, QStringLiteral("txtVidLoop"), QStringLiteral("&Loop:"),
+                              QStringLiteral("1"));
+  video_.forever = AddCheckBox(repeat, QStringLiteral("chkForever"), QStringLiteral("Forever"));
   AddNumberBox(repeat, QStringLiteral("txtVidLoopDelay"), QStringLiteral("Loop &delay:"),
                QStringLiteral("0"), QStringLiteral("Milliseconds"));
   QFormLayout *start = AddFrame(page.general, QStringLiteral("Start"));
-  AddCheckBox(start, QStringLiteral("chkVidOnOpen"), QStringLiteral("On file open"));
+  video_.onOpen =
+      AddCheckBox(start, QStringLiteral("chkVidOnOpen"), QStringLiteral("On file open"));
   AddCheckBox(start, QStringLiteral("chkVidMouseOver"), QStringLiteral("On mouse over"));
   AddCheckBox(AddForm(page.general), QStringLiteral("chkMouseOver"),
               QStringLiteral("Start on &Mouse Over"));
   page.general->addStretch();
 
+  firstBoxes_[3] = video_.source;
   videoLook_ = AddAppearance(page.appearance, QStringLiteral("VID"), QStringLiteral("1"));
   return page.whole;
 }

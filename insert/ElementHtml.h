@@ -51,9 +51,9 @@ struct ImageValues {
   QString horizontalSpacing;
   QString verticalSpacing;
   SizeSource sizeSource = SizeSource::Picture;
-  QString height;
-  QString width;
-  PictureSize picture;
+  QString height = {};
+  QString width = {};
+  PictureSize picture = {};
 };
 
 /// The IMG tag of a picture; the empty text where `source` is empty. An attribute whose text is not

@@ -3,15 +3,58 @@
 
 #include "platform/Conversions.h"
 #include "platform/Dialogs.h"
+#include "platform/LinkUrl.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
+#include <QDir>
+#include <QRegularExpression>
+#include <QUrl>
+
 #include <algorithm>
+#include <string>
 
 namespace velor {
 namespace {
 
+const QString FileScheme = QStringLiteral("file:///");
+
 QString WithSlashes(QString path) {
   return path.replace(u'\\', u'/');
+}
+
+/// A backslash within a native name, in logic form.
+constexpr char32_t NativeBackslash = 0xF05C;
+
+bool IsHexDigit(char32_t c) {
+  return (c >= U'0' && c <= U'9') || (c >= U'a' && c <= U'f') || (c >= U'A' && c <= U'F');
+}
+
+/// Whether the character at that place of a path would be read as something else in a link.
+bool NeedsEncoding(const std::u32string &path, std::size_t at) {
+  const char32_t c = path[at];
+  if (c == U'%')
+    return at + 2 < path.size() && IsHexDigit(path[at + 1]) && IsHexDigit(path[at + 2]);
+  // Blanks at the ends are no part of a link.
+  if (c == U' ') return at == 0 || at == path.size() - 1;
+  return c == U'#' || c == U'?' || c == U'"' || c == NativeBackslash ||
+         QChar::category(c) == QChar::Other_Control || QChar::isNonCharacter(c);
+}
+
+QString Encoded(char32_t c) {
+  const char32_t native = c == NativeBackslash ? U'\\' : c;
+  QString encoded;
+  for (const char byte : QString::fromUcs4(&native, 1).toUtf8())
+    encoded += u'%' + QString::fromLatin1(QByteArray(1, byte).toHex().toUpper());
+  return encoded;
+}
+
+QString WithEncoded(const QString &text) {
+  const std::u32string path = text.toStdU32String();
+  QString encoded;
+  for (std::size_t at = 0; at < path.size(); ++at)
+    encoded += NeedsEncoding(path, at) ? Encoded(path[at]) : QString::fromUcs4(&path[at], 1);
+  return encoded;
 }
 
 }  // namespace
@@ -52,7 +95,27 @@ QString MakeRelativeLink(const QString &pagePath, const QString &targetPath) {
 }
 
 QString MakeAbsoluteLink(const QString &path) {
-  return QStringLiteral("file:///") + WithSlashes(path);
+  return FileScheme + WithSlashes(path);
+}
+
+QString LinkToFile(const QString &pagePath, const QString &targetPath) {
+  const QString absolute = MakeAbsoluteLink(targetPath);
+  const QString link = pagePath.isEmpty() ? absolute : MakeRelativeLink(pagePath, targetPath);
+  if (link == absolute) return FileScheme + WithEncoded(absolute.sliced(FileScheme.size()));
+  static const QRegularExpression scheme(QStringLiteral("^([a-z][a-z0-9+.-]*):"),
+                                         QRegularExpression::CaseInsensitiveOption);
+  return WithEncoded(link).replace(scheme, QStringLiteral("\\1%3A"));
+}
+
+QString FileOfLink(const QString &pagePath, const QString &link) {
+  if (link.isEmpty()) return {};
+  QUrl url = UrlOfLink(link);
+  if (url.isRelative()) {
+    if (pagePath.isEmpty()) return {};
+    url = ToUrl(pagePath).resolved(url);
+  }
+  if (const auto mapped = UrlOfMappedDrive(url)) url = *mapped;
+  return url.isLocalFile() ? ToLogic(QDir::cleanPath(url.toLocalFile())) : QString();
 }
 
 QString BrowseForFile(FileDialog &dialog, const QString &filter) {

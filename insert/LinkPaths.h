@@ -21,6 +21,17 @@ QString MakeRelativeLink(const QString &pagePath, const QString &targetPath);
 /// "file:///" followed by the path with every "\" as "/".
 QString MakeAbsoluteLink(const QString &path);
 
+/// The link to a file as it is put into an address box: MakeRelativeLink, or MakeAbsoluteLink where
+/// `pagePath` is empty, with exactly those characters percent-encoded that would lead it elsewhere:
+/// "#", "?", a "%" before two hexadecimal digits, double quotes, control characters, what Unicode
+/// calls no character, backslashes within native names, a blank at either end, and the colon of
+/// what reads as a scheme.
+QString LinkToFile(const QString &pagePath, const QString &targetPath);
+
+/// The file that a link leads to from the page at `pagePath` (empty for a page without a path), in
+/// logic form; the empty text where it leads to no file of this computer.
+QString FileOfLink(const QString &pagePath, const QString &link);
+
 /// Asks for an existing file. `filter` holds pairs of description and patterns separated by "|",
 /// patterns separated by ";". Returns the full path; the empty text when cancelled and when the
 /// dialog fails.

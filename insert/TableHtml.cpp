@@ -32,16 +32,20 @@ QString Attribute(const QString &name, const QString &value) {
 QString TableHtml(const TableValues &values) {
   const int rows = Count(values.rows);
   const int columns = Count(values.columns);
-  const QString row = QStringLiteral("   <TR>\r\n") +
-                      QStringLiteral("      <TD></TD>\r\n").repeated(columns) +
-                      QStringLiteral("   </TR>\r\n");
+  const auto rowOf = [columns](const QString &cell) {
+    return QStringLiteral("   <TR>\r\n") + cell.repeated(columns) + QStringLiteral("   </TR>\r\n");
+  };
+  const bool hasHeadings = values.firstRow == FirstRow::Headings && rows > 0;
   QString html = QStringLiteral("<Table");
   html += Attribute(QStringLiteral("align"), values.align);
   html += Attribute(QStringLiteral("cellspacing"), values.cellSpacing);
   html += Attribute(QStringLiteral("cellpadding"), values.cellPadding);
   html += Attribute(QStringLiteral("border"), values.border);
   html += QStringLiteral(" width=75%>\r\n");
-  if (rows <= MostRows(columns)) html += row.repeated(rows);
+  if (rows <= MostRows(columns)) {
+    if (hasHeadings) html += rowOf(QStringLiteral("      <TH scope=\"col\"></TH>\r\n"));
+    html += rowOf(QStringLiteral("      <TD></TD>\r\n")).repeated(hasHeadings ? rows - 1 : rows);
+  }
   return html + QStringLiteral("</Table>\r\n");
 }
 

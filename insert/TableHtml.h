@@ -5,6 +5,9 @@
 
 namespace velor {
 
+/// Whether the cells of a table's first row are headings of its columns.
+enum class FirstRow { Cells, Headings };
+
 /// What the person entered for a table, as typed.
 struct TableValues {
   QString align;
@@ -13,6 +16,7 @@ struct TableValues {
   QString border;
   QString rows;
   QString columns;
+  FirstRow firstRow = FirstRow::Cells;
 };
 
 /// The text of an empty table, lines ended by CR LF. Values are written as typed, without escaping;

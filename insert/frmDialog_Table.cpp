@@ -5,6 +5,7 @@
 #include "insert/TableHtml.h"
 #include "insert/TextBox.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -45,7 +46,8 @@ class AlignmentBox : public QComboBox {
 
 }  // namespace
 
-frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent) : QDialog(parent), html_(html) {
+frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent, DialogScope scope)
+    : QDialog(parent), html_(html) {
   setObjectName(QStringLiteral("frmDialog_Table"));
   setWindowTitle(QStringLiteral("Table Editor"));
   setModal(true);
@@ -60,7 +62,8 @@ frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent) : QDialog(paren
   rows_ =
       FormParts::AddNumberBox(form, QStringLiteral("Text2"), QStringLiteral("# Of Rows:"), three);
   alignment_ = new AlignmentBox;
-  alignment_->setEditText(QStringLiteral("Left"));
+  const bool isExtended = scope == DialogScope::Extended;
+  alignment_->setEditText(isExtended ? QString() : QStringLiteral("Left"));
   FormParts::AddControl(form, QStringLiteral("Combo1"), QStringLiteral("Align:"), alignment_);
   alignment_->lineEdit()->setAccessibleName(alignment_->accessibleName());
   border_ = FormParts::AddNumberBox(form, QStringLiteral("combo2"), QStringLiteral("Border:"), one);
@@ -68,6 +71,12 @@ frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent) : QDialog(paren
       FormParts::AddNumberBox(form, QStringLiteral("combo3"), QStringLiteral("Cell Spacing:"), one);
   cellPadding_ =
       FormParts::AddNumberBox(form, QStringLiteral("combo4"), QStringLiteral("Cell Padding:"), one);
+
+  if (isExtended) {
+    alignment_->lineEdit()->setPlaceholderText(tr("None"));
+    headings_ = FormParts::AddCheckBox(form, QStringLiteral("chkHeadings"),
+                                       tr("&Headings in the first row"));
+  }
 
   auto *tabs = new QTabWidget;
   FormParts::Name(*tabs, QStringLiteral("TabStrip1"), QStringLiteral("Table Setup:"));
@@ -95,7 +104,10 @@ void frmDialog_Table::Insert() {
                            .cellPadding = cellPadding_->text(),
                            .border = border_->text(),
                            .rows = rows_->text(),
-                           .columns = columns_->text()};
+                           .columns = columns_->text(),
+                           .firstRow = headings_ != nullptr && headings_->isChecked()
+                                           ? FirstRow::Headings
+                                           : FirstRow::Cells};
   if (const QString why = TableRefusal(values); !why.isEmpty())
     return FormParts::Refuse(*refusal_, why, *rows_);
   html_ = TableHtml(values);

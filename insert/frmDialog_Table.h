@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "insert/DialogScope.h"
+
 #include <QDialog>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 
@@ -13,13 +16,14 @@ class TextBox;
 /// The table dialog. Insert leaves the table's HTML in `html` (ProgramValues::HTMLString) and
 /// closes; a table that no page takes is refused in words, and the dialog stays. Cancel closes and
 /// leaves that text as it was. Made for one showing, modal, and released
-/// after it.
+/// after it. Extended: a check box for a row of headings, and no alignment unless one is chosen.
 class frmDialog_Table : public QDialog {
   Q_OBJECT
 
  public:
   /// `html` outlives the dialog.
-  explicit frmDialog_Table(QString &html, QWidget *parent = nullptr);
+  explicit frmDialog_Table(QString &html, QWidget *parent = nullptr,
+                           DialogScope scope = DialogScope::Published);
 
  private:
   void Insert();
@@ -31,6 +35,8 @@ class frmDialog_Table : public QDialog {
   TextBox *border_ = nullptr;
   TextBox *cellSpacing_ = nullptr;
   TextBox *cellPadding_ = nullptr;
+  /// An addition; null without.
+  QCheckBox *headings_ = nullptr;
   QLabel *refusal_ = nullptr;
 };
 

@@ -34,8 +34,12 @@ const QStringList ElementModes = {QStringLiteral("image"), QStringLiteral("hyper
 }  // namespace
 
 frmInsertElement::frmInsertElement(Runtime &runtime, Dialogs &dialogs, Components &components,
-                                   StylingSweeps *sweeps, QWidget *parent)
-    : QDialog(parent), runtime_(runtime), dialogs_(dialogs), components_(components) {
+                                   StylingSweeps *sweeps, QWidget *parent, DialogScope scope)
+    : QDialog(parent),
+      runtime_(runtime),
+      dialogs_(dialogs),
+      components_(components),
+      scope_(scope) {
   Build();
   Connect();
   if (sweeps) {
@@ -48,7 +52,10 @@ frmInsertElement::frmInsertElement(Runtime &runtime, Dialogs &dialogs, Component
   pages_->setTabEnabled(3, false);
 }
 
-frmInsertElement::~frmInsertElement() = default;
+frmInsertElement::~frmInsertElement() {
+  // It loses the keyboard while it is deleted, which ends its editing.
+  link_.address->disconnect(this);
+}
 
 void frmInsertElement::Connect() {
   const auto onClick = [this](const char16_t *name, auto action) {
@@ -65,7 +72,8 @@ void frmInsertElement::Connect() {
     connect(look.sizeFromBoxes, &QCheckBox::clicked, look.height, &QWidget::setEnabled);
     connect(look.sizeFromBoxes, &QCheckBox::clicked, look.width, &QWidget::setEnabled);
   }
-  connect(videoLoopsForever_, &QCheckBox::clicked, videoLoops_, &QWidget::setDisabled);
+  if (scope_ == DialogScope::Extended) return ConnectAdditions();
+  connect(video_.forever, &QCheckBox::clicked, video_.loops, &QWidget::setDisabled);
 }
 
 void frmInsertElement::PrepareInsert(const QString &elementMode, HtmlDocument &document,
@@ -76,6 +84,8 @@ void frmInsertElement::PrepareInsert(const QString &elementMode, HtmlDocument &d
   TheDOM = &document;
   InsertMode = QStringLiteral("true");
   ElementMode = elementMode;
+  FullAddresses.clear();
+  if (scope_ == DialogScope::Extended) ResetFields();
 
   const int page = static_cast<int>(ElementModes.indexOf(elementMode));
   pages_->setTabEnabled(page, true);
@@ -135,12 +145,7 @@ ImageValues frmInsertElement::Values() const {
 }
 
 void frmInsertElement::InsertAndClose() {
-  if (OnEmptyAddress == EmptyAddress::Refused && FirstBox()->text().isEmpty()) {
-    if (auto *halves = pages_->currentWidget()->findChild<QTabWidget *>())
-      halves->setCurrentIndex(0);
-    const QString label = FirstBox()->accessibleName().remove(u':').trimmed();
-    return FormParts::Refuse(*refusal_, QStringLiteral("%1 is empty.").arg(label), *FirstBox());
-  }
+  if (scope_ == DialogScope::Extended) return ChangePage();
   if (InsertMode == u"true" && ElementMode == u"image") {
     std::int32_t image = 1;
     const QString failure =
@@ -157,6 +162,7 @@ QString frmInsertElement::Browse(const QString &filter) {
 
 void frmInsertElement::BrowseForImage() {
   const QString file = Browse(ImageFiles);
+  if (KeepsAddress(imageSource_, file)) return;
   try {
     ShowPicture(file);
     FillWithLink(imageSource_, file);
@@ -175,15 +181,24 @@ void frmInsertElement::ShowThatItCannotBeShown(const QString &file) {
 
 void frmInsertElement::BrowseForLinkTarget() {
   const QString file = Browse(AllFiles);
+  if (KeepsAddress(link_.address, file)) return;
   try {
-    FillWithLink(linkTarget_, file);
+    FillWithLink(link_.address, file);
   } catch (const RuntimeError &error) {
     Q_EMIT Reported(error.Description());
   }
 }
 
+bool frmInsertElement::KeepsAddress(const TextBox *box, const QString &file) const {
+  return scope_ == DialogScope::Extended && file.isEmpty() && !box->text().isEmpty();
+}
+
 void frmInsertElement::FillWithLink(TextBox *box, const QString &file) {
-  if (SavedMode == u"true") {
+  if (scope_ == DialogScope::Extended) {
+    const bool hasPath = SavedMode == u"true";
+    box->setText(LinkToFile(hasPath ? FilePath : QString(), file));
+    if (!hasPath && !file.isEmpty()) FullAddresses.push_back({box->text(), file});
+  } else if (SavedMode == u"true") {
     box->setText(MakeRelativeLink(FilePath, file));
   } else if (SavedMode == u"false") {
     box->setText(MakeAbsoluteLink(file));
@@ -193,6 +208,13 @@ void frmInsertElement::FillWithLink(TextBox *box, const QString &file) {
 void frmInsertElement::ShowPicture(const QString &file) {
   const QSize bounds = preview_->contentsRect().size();
   const LoadedPicture picture = LoadPicture(file, bounds * devicePixelRatioF());
+  pixels_ = picture.pixels;
+  // The true size is offered first.
+  if (scope_ == DialogScope::Extended && !imageLook_.sizeFromBoxes->isChecked() &&
+      !pixels_.isEmpty()) {
+    imageLook_.height->setText(QString::number(pixels_.height()));
+    imageLook_.width->setText(QString::number(pixels_.width()));
+  }
   picture_ = PictureSize::OfPixels(picture.pixels.height(), picture.pixels.width());
   if (picture.pixels.isEmpty()) {
     preview_->clear();
@@ -214,7 +236,7 @@ void frmInsertElement::AskForMailAddress() {
   const QString answer =
       dialogs_.AskText(QStringLiteral("Please enter the E-mail Address."),
                        QStringLiteral("Link to a E-mail Address"), ExampleAddress);
-  if (!answer.isEmpty()) linkTarget_->setText(QStringLiteral("mailto:") + answer);
+  if (!answer.isEmpty()) link_.address->setText(QStringLiteral("mailto:") + answer);
 }
 
 }  // namespace velor

@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "insert/DialogScope.h"
+#include "insert/ElementDialogParts.h"
 #include "insert/ElementHtml.h"
 #include "platform/HtmlDocument.h"
 
 #include <QDialog>
+#include <QSize>
+#include <QTimer>
 
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
-class QCheckBox;
-class QComboBox;
 class QLabel;
 class QTabWidget;
 
@@ -23,29 +26,13 @@ class FileDialog;
 class Runtime;
 class SourceControl;
 class StylingSweeps;
-class TextBox;
-
-/// The boxes of a page's half "Appearance", the same for pictures and videos.
-struct AppearanceBoxes {
-  QComboBox *alignment = nullptr;
-  TextBox *border = nullptr;
-  TextBox *horizontalSpacing = nullptr;
-  TextBox *verticalSpacing = nullptr;
-  QCheckBox *sizeFromBoxes = nullptr;
-  TextBox *height = nullptr;
-  TextBox *width = nullptr;
-};
-
-/// What OK does while the first box of the page, the element's address or name, is empty: nothing
-/// goes into the document in either case. Published is that the dialog goes and the selected
-/// content with it; Refused says so in the dialog, which stays.
-enum class EmptyAddress { Taken, Refused };
-
-/// The element dialog: pages for a picture, a hyperlink, a bookmark and a video. Only a picture
-/// reaches the document; OK on the other pages, and in edit mode, changes nothing.
+/// The element dialog: pages for a picture, a hyperlink, a bookmark and a video. One instance
+/// serves the whole run: OK, Cancel and the close box hide it. Shown modally by the caller.
 ///
-/// One instance serves the whole run: OK, Cancel and the close box hide it, so that every field is
-/// found as it was left. Shown modally by the caller.
+/// Published: only a picture reaches the document; OK on the other pages, and in edit mode, changes
+/// nothing; every field is found as it was left. Extended: each opening begins anew, filled with
+/// what is selected; OK makes, changes or removes that, and says why where it cannot; links lead to
+/// files whatever these are called.
 class frmInsertElement : public QDialog {
   Q_OBJECT
 
@@ -53,7 +40,8 @@ class frmInsertElement : public QDialog {
   /// `runtime`, `dialogs` and `components` outlive the dialog; `components` makes the file dialog
   /// of its browse buttons. Without `sweeps` the controls keep the palette's own look.
   frmInsertElement(Runtime &runtime, Dialogs &dialogs, Components &components,
-                   StylingSweeps *sweeps, QWidget *parent = nullptr);
+                   StylingSweeps *sweeps, QWidget *parent = nullptr,
+                   DialogScope scope = DialogScope::Published);
   ~frmInsertElement() override;
 
   // Set before the dialog is shown; PrepareInsert sets all that an insertion needs.
@@ -72,12 +60,16 @@ class frmInsertElement : public QDialog {
   QString FilePath;
   /// Whether the result goes into TheDOM rather than TheCode.
   bool IsCreator = false;
-  EmptyAddress OnEmptyAddress = EmptyAddress::Taken;
+  /// What Browse has written since the last PrepareInsert.
+  std::vector<FullAddress> FullAddresses;
 
   /// Prepares the next showing: sets the fields above for inserting an element of that mode into
   /// `document`, and makes its page the current and only available one. `savedPath` is the file of
   /// the edited page in logic form, empty while it has none.
   void PrepareInsert(const QString &elementMode, HtmlDocument &document, const QString &savedPath);
+
+  /// Fills the fields with what is selected in the page; Extended only, after PrepareInsert.
+  void FillFrom(const EditedPage &page);
 
   /// For 1 returns the picture's HTML. For 2, 3 and 4 puts a new element into inHyperlink, inTarget
   /// or inVideo. Returns the empty text for all numbers but 1.
@@ -106,16 +98,40 @@ class frmInsertElement : public QDialog {
   void AskForMailAddress();
   /// Fills `box` with the link from the page to the file.
   void FillWithLink(TextBox *box, const QString &file);
+  /// Whether a cancelled Browse leaves the box as it is.
+  bool KeepsAddress(const TextBox *box, const QString &file) const;
   QString Browse(const QString &filter);
   void ShowPicture(const QString &file);
   void ShowThatItCannotBeShown(const QString &file);
   ImageValues Values() const;
 
+  // Additions (ElementDialogAdditions.cpp).
+  void ConnectAdditions();
+  void ResetFields();
+  void FillLook(const AppearanceBoxes &look, const ImageValues &values);
+  void FillPicture();
+  /// The values as they are to be in the page: the size is that of the boxes or the picture's own.
+  ImageValues TrueValues() const;
+  VideoValues Video() const;
+  /// Browse for another box than the picture's and the link's.
+  void BrowseInto(TextBox *box, const QString &filter);
+  /// Loads the picture that the source box names, where that is a file.
+  void ShowTypedPicture();
+  void ShowBookmarks();
+  void TakeBookmark();
+  /// Why OK does not close the dialog; empty where it does.
+  QString Refusal() const;
+  void ChangePage();
+  void ChangePicture(const ImageValues &values);
+  void SetLink();
+
   Runtime &runtime_;
   Dialogs &dialogs_;
   Components &components_;
+  const DialogScope scope_;
   std::unique_ptr<FileDialog> fileDialog_;
   PictureSize picture_;
+  QSize pixels_;  ///< of the loaded picture; empty for none
 
   QTabWidget *pages_ = nullptr;
   QLabel *refusal_ = nullptr;
@@ -129,11 +145,17 @@ class frmInsertElement : public QDialog {
   QLabel *previewCaption_ = nullptr;
   AppearanceBoxes imageLook_;
 
-  TextBox *linkTarget_ = nullptr;
+  HyperlinkPage link_;
+  TextBox *bookmarkName_ = nullptr;
+  QListWidget *otherBookmarks_ = nullptr;
 
-  TextBox *videoLoops_ = nullptr;
-  QCheckBox *videoLoopsForever_ = nullptr;
+  VideoPage video_;
   AppearanceBoxes videoLook_;
+
+  EditedPage page_;
+  /// The selected picture's values as the dialog shows them.
+  ImageValues shown_;
+  QTimer typedPicture_;
 };
 
 }  // namespace velor

@@ -1,27 +1,73 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/DialogInsertCommands.h"
 
+#include "editor/Bookmarks.h"
 #include "editor/MainWindow.h"
+#include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "insert/ElementHtml.h"
 #include "insert/LinkPaths.h"
 #include "insert/frmDialog_Table.h"
 #include "insert/frmInsertElement.h"
 #include "platform/Dialogs.h"
+#include "platform/Platform.h"
 
 namespace velor {
+namespace {
+
+/// The path that the page's links are relative to; empty where it has none. A page of a project has
+/// its path before it has been saved under a name.
+QString PathForLinks(const frmMain &page, Additions additions) {
+  const PageRecord record = page.GetPageRecord();
+  return record.HasFile != False16 || additions == Additions::On ? record.Path : QString();
+}
+
+void NoteFullAddress(frmMain &page, const QString &address, const QString &target) {
+  page.Context()
+      .pages.FullAddresses(page.Number())
+      .push_back(
+          {address, [target](const QString &pagePath) { return LinkToFile(pagePath, target); }});
+}
+
+EditedPage WhatIsEdited(frmMain &page, const QString &path) {
+  EditingComponent &component = page.DHTML1();
+  DocumentSelection &selection = component.Document().Selection();
+  EditedPage edited;
+  edited.dialect = DialectOf(component.Memory().document);
+  edited.link = component.Document().Link();
+  if (const HtmlElement object = selection.ControlElement(); object.tagName == u"IMG")
+    edited.picture = object;
+  edited.isCentered =
+      component.QueryStatus(EditingCommand::JustifyCenter) == CommandStatus::Latched;
+  edited.bookmarks = [alive = QPointer<frmMain>(&page), path](const QString &address) {
+    if (alive.isNull()) return QStringList();
+    if (address.isEmpty()) return BookmarksIn(alive->DHTML1().DocumentHTML());
+    return BookmarksInFile(FileOfLink(path, address), alive->Context().platform.files);
+  };
+  return edited;
+}
+
+}  // namespace
 
 void DialogInsertCommands::Element(const QString &mode, frmMain &page) {
   if (dialog_.isNull()) {
-    dialog_ = new frmInsertElement(runtime_, dialogs_, components_, sweeps_, page.window());
+    dialog_ =
+        new frmInsertElement(runtime_, dialogs_, components_, sweeps_, page.window(), Scope());
     QObject::connect(dialog_, &frmInsertElement::Reported, dialog_,
                      [this](const QString &message) { status_.Report(message); });
-    if (additions_ == Additions::On) dialog_->OnEmptyAddress = EmptyAddress::Refused;
   }
-  const PageRecord record = page.GetPageRecord();
-  dialog_->PrepareInsert(mode, page.DHTML1().Document(),
-                         record.HasFile != False16 ? record.Path : QString());
+  const QPointer<frmMain> alive = &page;
+  const QString path = PathForLinks(page, additions_);
+  dialog_->PrepareInsert(mode, page.DHTML1().Document(), path);
+  if (additions_ == Additions::On) dialog_->FillFrom(WhatIsEdited(page, path));
   dialogs_.RunModal(*dialog_);
+  if (alive.isNull() || dialog_.isNull()) return;
+  for (const FullAddress &link : dialog_->FullAddresses)
+    NoteFullAddress(page, link.address, link.target);
+}
+
+DialogScope DialogInsertCommands::Scope() const {
+  return additions_ == Additions::On ? DialogScope::Extended : DialogScope::Published;
 }
 
 void DialogInsertCommands::Image(frmMain &page) {
@@ -42,18 +88,18 @@ void DialogInsertCommands::Video(frmMain &page) {
 
 void DialogInsertCommands::Table(frmMain &page) {
   const QPointer<frmMain> alive = &page;
-  frmDialog_Table dialog(html_, page.window());
+  frmDialog_Table dialog(html_, page.window(), Scope());
   dialogs_.RunModal(dialog);
   if (alive.isNull()) return;
   page.DHTML1().Document().Selection().CreateRange()->PasteHTML(html_);
 }
 
 void DialogInsertCommands::PictureFile(frmMain &page, const QString &path) {
-  const PageRecord record = page.GetPageRecord();
+  const QString pagePath = PathForLinks(page, additions_);
+  const QString link = LinkToFile(pagePath, path);
+  if (pagePath.isEmpty()) NoteFullAddress(page, link, path);
   HtmlElement picture = CreateScratchElement(QStringLiteral("IMG"));
-  picture.attributes.emplace_back(QStringLiteral("src"), record.HasFile != False16
-                                                             ? MakeRelativeLink(record.Path, path)
-                                                             : MakeAbsoluteLink(path));
+  picture.attributes.emplace_back(QStringLiteral("src"), link);
   page.DHTML1().Document().Selection().CreateRange()->PasteHTML(OuterHTML(picture));
 }
 

@@ -3,6 +3,7 @@
 
 #include "app/window/Additions.h"
 #include "app/window/InsertCommands.h"
+#include "insert/DialogScope.h"
 
 #include <QPointer>
 #include <QString>
@@ -43,6 +44,7 @@ class DialogInsertCommands final : public InsertCommands {
 
  private:
   void Element(const QString &mode, frmMain &page);
+  DialogScope Scope() const;
 
   Runtime &runtime_;
   Dialogs &dialogs_;

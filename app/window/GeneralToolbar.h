@@ -45,7 +45,7 @@ inline constexpr std::array<GeneralButton, 17> GeneralButtons{{
     PageButton("preview", "Preview", {CommandId::Preview}),
     PageButton("table", "Table", {CommandId::InsertTable}),
     PageButton("image", "Image", {CommandId::InsertImage}),
-    PageButton("anchor", "Anchor"),
+    {"anchor", "Anchor", {CommandId::InsertTarget}, Guard::None, Needs::Page, Reach::Beyond},
     {"help", "Help", {CommandId::Help}, Guard::None, Needs::Nothing, Reach::Beyond},
     {"about", "About", {CommandId::About}},
 }};

@@ -55,7 +55,8 @@ inline const QStringList Kinds = {QStringLiteral("image"), QStringLiteral("hyper
 
 class ElementDialogTest : public testing::Test {
  protected:
-  ElementDialogTest() {
+  explicit ElementDialogTest(DialogScope scope = DialogScope::Published)
+      : dialog(runtime, dialogs, components, &sweeps, nullptr, scope) {
     component.SetDocumentHTML(U("<HTML><BODY>one two</BODY></HTML>"));
     component.selectionStart = component.DocumentHTML().indexOf(U("two"));
     component.selectionEnd = component.selectionStart + 3;
@@ -109,7 +110,13 @@ class ElementDialogTest : public testing::Test {
   FileDialogSource components;
   FakeStylingSweeps sweeps{&log};
   FakeEditingComponent component{files, nullptr};
-  frmInsertElement dialog{runtime, dialogs, components, &sweeps};
+  frmInsertElement dialog;
+};
+
+/// The dialog with what goes beyond the published behaviour.
+class ExtendedElementDialogTest : public ElementDialogTest {
+ protected:
+  ExtendedElementDialogTest() : ElementDialogTest(DialogScope::Extended) {}
 };
 
 }  // namespace velor

@@ -3,10 +3,13 @@
 #include "platform/Paths.h"
 #include "tests/support/Checks.h"
 #include "tests/support/FakeFileDialog.h"
+#include "tests/support/UnusualNames.h"
 
 #include <QUrl>
 
+#include <algorithm>
 #include <random>
+#include <string>
 
 namespace velor {
 namespace {
@@ -28,6 +31,14 @@ class RelativeLink : public testing::TestWithParam<LinkCase> {};
 TEST_P(RelativeLink, IsWhatPagesHave) {
   const LinkCase &row = GetParam();
   EXPECT_EQ(MakeRelativeLink(QString::fromUtf8(row.page), QString::fromUtf8(row.target)),
+            QString::fromUtf8(row.link));
+}
+
+class LinkToAFile : public testing::TestWithParam<LinkCase> {};
+
+TEST_P(LinkToAFile, IsWhatBrowsePutsIntoTheBox) {
+  const LinkCase &row = GetParam();
+  EXPECT_EQ(LinkToFile(QString::fromUtf8(row.page), QString::fromUtf8(row.target)),
             QString::fromUtf8(row.link));
 }
 
@@ -101,6 +112,50 @@ TEST(MakeAbsoluteLink, TurnsEveryBackslash) {
   EXPECT_EQ(MakeAbsoluteLink(QStringLiteral("D:\\pics\\a b.gif")),
             QStringLiteral("file:///D:/pics/a b.gif"));
   EXPECT_EQ(MakeAbsoluteLink({}), QStringLiteral("file:///"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    AsItIsPutIntoABox, LinkToAFile,
+    testing::Values(
+        // As MakeRelativeLink and MakeAbsoluteLink have it.
+        LinkCase{"\\s\\i.htm", "\\s\\a b'&%<>|;=+@,!$()[]{}^`~.gif",
+                 "a b'&%<>|;=+@,!$()[]{}^`~.gif"},
+        LinkCase{"\\s\\i.htm", "\\s\\圖片\\猫 50%.gif", "圖片/猫 50%.gif"},
+        LinkCase{"\\s\\i.htm", "", "file:///"}, LinkCase{"", "", "file:///"},
+        LinkCase{"C:\\s\\i.htm", "D:\\pics\\a b.gif", "file:///D:/pics/a b.gif"},
+        LinkCase{"", "\\tmp\\a b.gif", "file:////tmp/a b.gif"},
+        LinkCase{"\\s\\i.htm", "\\s\\a:b\\c:d.gif", "a%3Ab/c:d.gif"},
+        // With what would lead elsewhere encoded.
+        LinkCase{"\\s\\i.htm", "\\s\\img\\pic #1.png", "img/pic %231.png"},
+        LinkCase{"\\s\\i.htm", "\\s\\what?.png", "what%3F.png"},
+        LinkCase{"\\s\\i.htm", "\\s\\50%25 off.png", "50%2525 off.png"},
+        LinkCase{"\\s\\i.htm", "\\s\\5%2 %e %%aF.png", "5%2 %e %%25aF.png"},
+        LinkCase{"\\s\\i.htm", "\\s\\\"a\"\t\n\x7f.png", "%22a%22%09%0A%7F.png"},
+        LinkCase{"\\s\\i.htm", "\\s\\\xc2\x85.png", "%C2%85.png"},
+        LinkCase{"\\s\\i.htm",
+                 "\\s\\a\xef\x81\x9c"
+                 "b.png",
+                 "a%5Cb.png"},
+        LinkCase{"\\s\\i.htm", "\\s\\ a .png ", "%20a .png%20"},
+        LinkCase{"C:\\s\\i.htm", "D:\\p#\\a?.gif", "file:///D:/p%23/a%3F.gif"},
+        LinkCase{"", "\\tmp\\#.gif", "file:////tmp/%23.gif"}));
+
+TEST(LinkToFile, ResolvedAgainstThePageLeadsToTheFile) {
+  UnusualNames names(20240301);
+  for (int i = 0; i < 5000; ++i) {
+    const QString page = names.Path({});
+    const QString target = names.Path({});
+    const QString link = LinkToFile(page, target);
+    // QUrl does not take these.
+    const std::u32string characters = (page + target).toStdU32String();
+    if (std::any_of(characters.begin(), characters.end(),
+                    [](char32_t c) { return QChar::isNonCharacter(c); }))
+      continue;
+    // On the others QUrl and the engine agree:
+    // RealInsert.LinksToFilesOfUnusualNamesLeadTheEngineToThem.
+    ASSERT_EQ(FileOfLink(page, link), target)
+        << page.toStdString() << " " << target.toStdString() << " " << link.toStdString();
+  }
 }
 
 TEST(BrowseForFile, AsksForAnExistingFile) {

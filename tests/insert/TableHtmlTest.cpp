@@ -49,6 +49,25 @@ TEST(TableHtml, WritesTheDefaultTable) {
                            "</Table>\r\n"));
 }
 
+TEST(TableHtml, WritesHeadingsIntoTheFirstRow) {
+  TableValues values = Defaults();
+  values.rows = QStringLiteral("2");
+  values.columns = QStringLiteral("1");
+  values.align.clear();
+  values.firstRow = FirstRow::Headings;
+  EXPECT_EQ(TableHtml(values),
+            QStringLiteral("<Table cellspacing=\"1\" cellpadding=\"1\" border=\"1\" width=75%>\r\n"
+                           "   <TR>\r\n"
+                           "      <TH scope=\"col\"></TH>\r\n"
+                           "   </TR>\r\n"
+                           "   <TR>\r\n"
+                           "      <TD></TD>\r\n"
+                           "   </TR>\r\n"
+                           "</Table>\r\n"));
+  values.rows = QStringLiteral("0");
+  EXPECT_FALSE(TableHtml(values).contains(QStringLiteral("<TR>")));
+}
+
 TEST(TableHtml, LeavesOutTheAttributeOfEachEmptyField) {
   TableValues values = Defaults();
   values.cellSpacing.clear();

@@ -219,32 +219,6 @@ TEST_F(ElementDialogTest, RemovesTheSelectionWithoutASource) {
   EXPECT_TRUE(component.DocumentHTML().contains(U("one </B")));
 }
 
-TEST_F(ElementDialogTest, SaysThatTheAddressIsEmptyAndStaysWhereThatIsWanted) {
-  dialog.OnEmptyAddress = EmptyAddress::Refused;
-  const QString before = component.DocumentHTML();
-  const auto *refusal = Get<QLabel>("lblRefusal");
-  const struct {
-    const char *kind, *box, *words;
-  } pages[] = {{"image", "txtImgSource", "Image Source is empty."},
-               {"hyperlink", "txtHref", "Anchor Element Href is empty."},
-               {"target", "txtBookmarkName", "Bookmark Name is empty."},
-               {"video", "txtVidSource", "Video Source is empty."}};
-  for (const auto &page : pages) {
-    Show(page.kind);
-    EXPECT_FALSE(refusal->isVisible());
-    for (const char *halves : {"SSTab2", "SSTab3"}) Get<QTabWidget>(halves)->setCurrentIndex(1);
-    Click("cmdOK");
-    ASSERT_TRUE(dialog.isVisible()) << page.kind;
-    EXPECT_EQ(refusal->text(), U(page.words));
-    EXPECT_TRUE(refusal->isVisible());
-    EXPECT_EQ(dialog.focusWidget(), Get<QLineEdit>(page.box));
-    QTest::keyClicks(Get<QLineEdit>(page.box), U("x"));
-    EXPECT_FALSE(refusal->isVisible());
-    EXPECT_EQ(component.DocumentHTML(), before);
-    Click("cmdCancel");
-  }
-}
-
 TEST_F(ElementDialogTest, LeavesThePageAloneForEverythingElse) {
   const QString before = component.DocumentHTML();
   for (const QString &mode : Kinds) {

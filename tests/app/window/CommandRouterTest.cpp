@@ -4,6 +4,7 @@
 #include "app/window/PageTabs.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
+#include "insert/frmInsertElement.h"
 #include "tests/app/window/WindowFixture.h"
 
 #include <QStatusBar>
@@ -95,11 +96,14 @@ TEST_F(CommandRouterTest, WithoutADocumentNothingIsSent) {
   EXPECT_TRUE(log.empty());
 }
 
-TEST_F(CommandRouterTest, TheAnchorButtonDoesNothing) {
+TEST_F(CommandRouterTest, TheAnchorButtonOpensTheTargetPage) {
   NewPage();
-  log.clear();
+  dialogs.ExpectModal([](QWidget &dialog) {
+    auto *element = dynamic_cast<frmInsertElement *>(&dialog);
+    ASSERT_NE(element, nullptr);
+    EXPECT_EQ(element->ElementMode, QStringLiteral("target"));
+  });
   Click("tbrGeneral_anchor");
-  EXPECT_TRUE(log.empty());
 }
 
 TEST_F(CommandRouterTest, TheFileButtonsDoNothingWhileTheirItemsAreDisabled) {
@@ -192,6 +196,13 @@ TEST_F(PublishedOnly, CommandsGoToTheActiveDocumentAloneAndMenusFollowTheOpenPag
   for (const char *on : {"mnuCut", "mnuInsert", "mnuTable"})
     EXPECT_TRUE(Item(on)->isEnabled()) << on;
   EXPECT_EQ(window.windowTitle(), QStringLiteral("Velor Web Creator - [Untitled 1]"));
+}
+
+TEST_F(PublishedOnly, TheAnchorButtonDoesNothing) {
+  NewPage();
+  log.clear();
+  Click("tbrGeneral_anchor");
+  EXPECT_TRUE(log.empty());
 }
 
 TEST(WholeTemplateSigns, AreAPreferenceThatIsOnUnlessTurnedOff) {

@@ -173,13 +173,18 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
        "mnuHighFore WholeTemplateSigns PublishedOnly cmdOK cmdCancel"},
       {"mnuDrives", "lstDrives cobLetter cmdAdd OK Cancel"},
       {"mnuTBLnew",
-       "Text1 Text2 Combo1 combo2 combo3 combo4 Command1 Command2 qt_tabwidget_tabbar"},
+       "Text1 Text2 Combo1 combo2 combo3 combo4 chkHeadings Command1 Command2 qt_tabwidget_tabbar"},
       {"mnuISTimage",
        "txtImgSource cmdBrowseIMG txtLowRes cmdBrowseLowRes txtAlt cmdOK cmdCancel "
        "qt_tabwidget_tabbar qt_tabwidget_tabbar"},
       {"mnuISTlink",
-       "txtHref cmdABrowse cobATarget cmdAEmail lstABookMark cmdRefreshA cmdOK cmdCancel "
+       "txtHref cmdABrowse cobATarget txtATitle cmdAEmail lstABookMark cmdRefreshA cmdOK cmdCancel "
        "qt_tabwidget_tabbar"},
+      {"mnuBookmark",
+       "txtBookmarkName lstOtherBookmark cmdRefreshOther cmdOK cmdCancel qt_tabwidget_tabbar"},
+      {"mnuVideo",
+       "txtVidSource Command1 txtVidPoster cmdBrowsePoster chkShowControl chkForever chkVidOnOpen "
+       "cmdOK cmdCancel qt_tabwidget_tabbar qt_tabwidget_tabbar"},
   };
   for (const DialogWalk &walk : walks) {
     dialogs.ExpectModal([&](QWidget &dialog) {

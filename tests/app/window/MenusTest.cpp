@@ -261,6 +261,11 @@ TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
             R"tree(mnuFindCommand "Find Command... (&F)" Ctrl+Shift+P
 mnuRecent "Recent Files (&R)"
 mnu6 "-"
+mnuLink "Link... (&L)" Ctrl+K
+mnuFollowLink "Follow Link (&K)"
+mnuBookmark "Insert Target... (&T)"
+mnuVideo "Insert Video... (&V)"
+mnu7 "-"
 mnuWrapSource "Wrap Source Lines (&W)"
 mnuDrives "Drives... (&D)"
 mnuSettings "Settings... (&S)"

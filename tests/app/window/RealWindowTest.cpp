@@ -408,18 +408,5 @@ TEST_F(RealEditing, AnInsertedTableIsInThePageAtTheCaret) {
   EXPECT_EQ(page.DHTML1().DocumentHTML().count(QStringLiteral("<table")), 2) << Seen(page);
 }
 
-TEST_F(RealEditing, TheHyperlinkDialogLeavesThePageAsItIs) {
-  frmMain &page = Open(PageFile, Plain);
-  const QString before = page.DHTML1().DocumentHTML();
-  dialogs.ExpectModal([](QWidget &dialog) {
-    dialog.show();
-    dialog.findChild<QLineEdit *>(QStringLiteral("txtHref"))->setText(QStringLiteral("b.htm"));
-    dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
-    EXPECT_FALSE(dialog.isVisible());
-  });
-  Choose("mnuISTlink");
-  EXPECT_EQ(page.DHTML1().DocumentHTML(), before);
-}
-
 }  // namespace
 }  // namespace velor

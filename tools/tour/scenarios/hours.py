@@ -33,8 +33,8 @@ ARTICLE = b"""<html>
 <body>
 <h1>Roses</h1>
 <p>They grow in every garden.</p>
-<p><img src="roses.png" alt="" lowsrc="" border="0" hspace="0" vspace="0" height="141" width="211"></p>
-<table align="Left" cellspacing="1" cellpadding="1" border="1" width="75%">
+<p><img src="roses.png" height="160" width="240"></p>
+<table cellspacing="1" cellpadding="1" border="1" width="75%">
    <tbody><tr>
       <td>Name</td>
       <td>Colour</td>
