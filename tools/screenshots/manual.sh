@@ -17,12 +17,12 @@ window       main-*-five-pages         1280x790+0+0    768x
 recovery     recovery-*-bar            1280x270+0+0    768x
 details      objects-*-details         760x480+0+160   760x
 grid         objects-*-box-on-grid     800x340+0+206   760x
-table        main-*-table-dialog       362x418+459+207 362x
-image        main-*-image-dialog       598x590+341+122 562x
-link         main-*-link-dialog        598x590+341+122 562x
+table        main-*-table-dialog       362x446+459+193 362x
+image        main-*-image-dialog       598x616+341+108 562x
+link         main-*-link-dialog        598x616+341+108 562x
 view-html    main-*-view-html          760x300+0+112   760x
 edit-html    main-*-edit-html-find-bar 1280x820+0+0    768x
-projects     main-*-project-manager    860x523+210+157 700x
-settings     main-*-settings           500x712+391+60  500x
+projects     main-*-project-manager    860x527+210+153 700x
+settings     main-*-settings           500x716+391+56  500x
 find-command main-*-find-command       422x404+429+213 422x
 PICTURES
