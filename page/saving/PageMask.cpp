@@ -80,4 +80,21 @@ qsizetype PageMask::ToSource(qsizetype masked, Edge edge) const {
   return piece->source + piece->sourceLength + offset - piece->masked - piece->maskedLength;
 }
 
+std::optional<MaskSpan> MaskAround(QStringView masked, qsizetype at, QStringView stem) {
+  constexpr QStringView Open = u"<!--";
+  constexpr QStringView Close = u"-->";
+  if (stem.isEmpty()) return std::nullopt;
+  const qsizetype found = masked.lastIndexOf(stem, std::min(at + Open.size(), masked.size()));
+  if (found < 0) return std::nullopt;
+  MaskSpan mask{found, found + stem.size()};
+  while (mask.end < masked.size() && masked[mask.end].isDigit()) ++mask.end;
+  if (mask.end < masked.size()) ++mask.end;  // the word's last letter
+  if (masked.first(mask.start).endsWith(Open) && masked.sliced(mask.end).startsWith(Close)) {
+    mask.start -= Open.size();
+    mask.end += Close.size();
+  }
+  if (mask.start < at && at < mask.end) return mask;
+  return std::nullopt;
+}
+
 }  // namespace velor

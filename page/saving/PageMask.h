@@ -76,4 +76,13 @@ class PageMask {
   std::vector<Piece> pieces_;
 };
 
+/// Where a mask stands in a masked text.
+struct MaskSpan {
+  qsizetype start = 0;
+  qsizetype end = 0;
+};
+/// The mask that a cut at `at` would go through; nullopt where it goes through none. `stem`:
+/// PageMask::Stem.
+std::optional<MaskSpan> MaskAround(QStringView masked, qsizetype at, QStringView stem);
+
 }  // namespace velor

@@ -164,6 +164,16 @@ void PageMasker::ReadMarkup() {
   }
 }
 
+bool PageMasker::IsControlSignAt(qsizetype at) {
+  const QStringView rest = source_.sliced(at);
+  for (const QStringView open :
+       {QStringView(u"{%"), QStringView(u"{#"), QStringView(u"{{#"), QStringView(u"{{^"),
+        QStringView(u"{{/"), QStringView(u"[#"), QStringView(u"#if")}) {
+    if (rest.startsWith(open) && signs_.EndOf(at, SignPlace::InTag) > at) return true;
+  }
+  return false;
+}
+
 void PageMasker::ReadTag() {
   const qsizetype start = at_;
   const std::size_t firstPiece = mask_.pieces_.size();
@@ -171,7 +181,7 @@ void PageMasker::ReadTag() {
   const qsizetype nameStart = isEndTag ? start + 2 : start + 1;
   qsizetype nameEnd = nameStart;
   while (nameEnd < source_.size() && !IsSpace(source_[nameEnd]) && source_[nameEnd] != u'>' &&
-         source_[nameEnd] != u'/' && source_[nameEnd] != u'<')
+         source_[nameEnd] != u'/' && source_[nameEnd] != u'<' && !IsControlSignAt(nameEnd))
     ++nameEnd;
   const QStringView name = source_.sliced(nameStart, nameEnd - nameStart);
   at_ = nameEnd;

@@ -64,6 +64,8 @@ class PageMasker {
   void ReadMarkup();
   /// Reads a tag with the code in it, and the raw text behind it.
   void ReadTag();
+  /// Whether a sign begins there that can be no part of a tag's name: `<tr{% if x %} class=a>`.
+  bool IsControlSignAt(qsizetype at);
   /// Updates the places (before the body, in a table, behind the end) for a tag.
   void AccountForTag(QStringView name, bool isEndTag);
   /// Reads up to the tag's end.

@@ -3,6 +3,7 @@
 
 #include "page/saving/EnclosingElements.h"
 #include "page/saving/MovedTokens.h"
+#include "page/saving/PageMask.h"
 #include "page/saving/TagPatches.h"
 #include "page/saving/TagSpelling.h"
 #include "page/text/TextCharacters.h"
@@ -349,6 +350,11 @@ void SourcePatches::Replace(qsizetype start, qsizetype end, const QString &text,
   while (back < shorter - front && old[old.size() - 1 - back] == fresh[fresh.size() - 1 - back])
     ++back;
   if (back > 0 && old[old.size() - back].isLowSurrogate()) --back;
+  for (const QStringView side : {old, fresh}) {
+    if (const auto mask = MaskAround(side, front, form_.maskStem)) front = mask->start;
+    if (const auto mask = MaskAround(side, side.size() - back, form_.maskStem))
+      back = side.size() - mask->end;
+  }
   if (front + back == old.size() && old.size() == fresh.size()) return;
   fresh = fresh.sliced(front, fresh.size() - front - back);
   out.push_back({start + front, end - back, fresh.toString()});

@@ -111,6 +111,7 @@ TEST(MaskedPages, TakeNoOtherPagesMasksForTheirOwn) {
 TEST(MaskedPages, KeepTemplateSignsWhereTextMayNotStand) {
   for (const char *file :
        {"<table>{{#each a}}<tr>{% for b %}<td>c</td>{% endfor %}</tr>{{/each}}</table>",
+        "<table><tr{% if a %} class=b{% endif %}><td{{#c}} data-d{{/c}}>e</td></tr></table>",
         "<table><#list a as b><tr><td>c</td></tr></#list></table>",
         "{% extends \"a\" %}<!doctype html><html>{% b %}<head>{{c}}</head>{% d %}<body>e",
         "<body>a</body>{% b %}</html>{% c %}", "<p {% if a %}class=b{% endif %} data-{{c}}=d>e",
@@ -126,7 +127,7 @@ TEST(MaskedPages, KeepTemplateSignsWhereTextMayNotStand) {
 TEST(MaskedPages, LeaveTemplateSignsInTextToBeEdited) {
   for (const char *file :
        {"<p>{{a}} and {% b %} cost $5 ${c}", "<table><tr><td>{{a}}</td></tr></table>{{b}}",
-        "{% a %}<p>b", R"(<a href="{{a}}" title='{% b "c" %}' id={{d}}>e)",
+        "{% a %}<p>b", "<h{{a}}>b</h{{a}}>", R"(<a href="{{a}}" title='{% b "c" %}' id={{d}}>e)",
         "<title>{{a}}</title><script>{{b}}</script>", "<html><body>{{a}}<head>{{b}}</head>"})
     EXPECT_EQ(FaithfulPage(Original(file)).TextToLoad(), QLatin1String(file));
 }
@@ -145,6 +146,23 @@ TEST(MaskedPages, RefuseToWriteAnewWhatTheDocumentHasNoPlaceFor) {
     EXPECT_EQ(error.Number(), ErrorNumber::InvalidProcedureCall);
     EXPECT_TRUE(error.Description().contains(u"<% b %>")) << qPrintable(error.Description());
   }
+}
+
+TEST(MaskedPages, AreWrittenWithEachPieceOfCodeWhole) {
+  const QByteArray file = "<h2>a</h2>\n<% b %>\n<p>c <% d %> e</p>\n";
+  FaithfulPage page(Original(file));
+  const QStringList parts = page.TextToLoad().split(QStringLiteral("<!--"));
+  ASSERT_EQ(parts.size(), 3);
+  const auto mask = [&](qsizetype number) {
+    return QStringLiteral("<!--") + parts[number].section(QStringLiteral("-->"), 0, 0) +
+           QStringLiteral("-->");
+  };
+  const QString frame = QStringLiteral("<html><head></head><body>%1</body></html>");
+  page.SetBaseline(frame.arg(page.TextToLoad()));
+  const QString now = frame.arg(QStringLiteral("<h2>ac ") + mask(2) + QStringLiteral(" e</h2>\n") +
+                                mask(1) + QStringLiteral("\n"));
+  ScriptedVerifier verifier(now);
+  EXPECT_EQ(page.Compose(now, verifier).page.bytes, "<h2>ac <% d %> e</h2>\n<% b %>\n");
 }
 
 TEST(MaskedPages, NeverTakeTextOfATableForThatOfItsCells) {
