@@ -35,10 +35,24 @@ export function dropBlock(block) {
     block.replaceWith(dom.create('BR'));
   } else {
     dropLine(block);
-    block.remove();
+    block.replaceWith(...commentsIn(block));
   }
   if (dom.isList(before) && isContinuation(before, after)) joinLists(before, after);
 }
+
+/** @param {AnyNode} node */
+const isComment = (node) => node.nodeType === Node.COMMENT_NODE;
+// A paragraph's nodes with the comments at its edges: server code stands as such.
+/** @param {Unit} unit */
+function withComments({ block, nodes }) {
+  if (!block) return nodes;
+  const own = new Set(nodes);
+  return [...block.childNodes].filter((node) => own.has(node) || isComment(node));
+}
+// The comments in a node, in document order.
+/** @type {(node: AnyNode) => ChildNode[]} */
+const commentsIn = (node) =>
+  [...node.childNodes].flatMap((child) => (isComment(child) ? [child] : commentsIn(child)));
 
 // The nodes less the break at their end, which goes, unless it is the one that `line` is behind.
 /**
@@ -87,8 +101,10 @@ export function join(first, second, mark = null, line = null) {
   const home = second.container;
   const leavesPre = dom.isPreformatted(second.block) && !dom.isPreformatted(first.container);
   if (leavesPre) breakLines(home);
-  const all = leavesPre ? [...home.childNodes] : second.nodes.filter((node) => node.isConnected);
-  const moved = dom.rawAt(first.container) ? asText(all) : all;
+  const isRaw = dom.rawAt(first.container);
+  const all = leavesPre ? [...home.childNodes]
+    : (isRaw ? second.nodes : withComments(second)).filter((node) => node.isConnected);
+  const moved = isRaw ? asText(all) : all;
   const last = left.at(-1);
   const between = last ? selection.endOf(last) : selection.startOf(moved[0] ?? first.container);
   if (last ?? mark) (last ?? mark).after(...moved);
