@@ -90,7 +90,7 @@ int main(int argc, char **argv) {
   DesktopService desktop([&](const OpeningRequest &request) { running.Take(request); },
                          [&](const QString &action) { Act(*mainWindow, action); });
   if (programFolder == InstalledProgramFolder()) desktop.Register();
-  const auto end = [&] { CloseDialogsThen([&] { mainWindow->close(); }); };
+  const auto end = [&] { mainWindow->CloseWhenIdle(); };
   const EndingSignals signals(end);
   application.SetQuit(end);
   // The session ends: whatever becomes of the other programs, nothing may be lost here.

@@ -11,6 +11,7 @@
 #include "editor/modWorkFlow.h"
 #include "page/text/UnsupportedForm.h"
 #include "platform/Dialogs.h"
+#include "platform/EditingComponent.h"
 #include "platform/Files.h"
 #include "platform/Journal.h"
 #include "platform/Paths.h"
@@ -60,16 +61,35 @@ frmMain &MakePage(EditorContext &context) {
   return window;
 }
 
+/// A page that was closed may be deleted already, or is deleted later.
+bool IsOpen(const QPointer<frmMain> &window) {
+  return !window.isNull() && window->Context().pages.Page(window->Number()) == window;
+}
+
 /// Runs the steps that fill a new page. Where they fail, window, source editor and tab are removed
 /// again (the slot stays used), and the error is rethrown.
 template <typename Steps>
 void FillPage(frmMain &window, Steps steps) {
+  const QPointer<frmMain> alive = &window;
   try {
     steps();
   } catch (...) {
-    window.MarkKill();
-    window.close();
+    if (IsOpen(alive)) {
+      window.MarkKill();
+      window.close();
+    }
     throw;
+  }
+}
+
+/// Lets the page do what it waits for. Raises RuntimeError where its window was closed meanwhile.
+template <typename Wait>
+void WaitForPage(frmMain &window, Wait wait) {
+  const QPointer<frmMain> alive = &window;
+  wait(window.DHTML1());
+  if (!IsOpen(alive)) {
+    throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("PageFiles"),
+                           QStringLiteral("the page was closed while it was loaded"));
   }
 }
 
@@ -77,7 +97,7 @@ void FillPage(frmMain &window, Steps steps) {
 void Load(frmMain &window, const QString &path) {
   // Before it is loaded: a file that changes in between then counts as changed.
   TraceFile(window, path);
-  window.DHTML1().LoadDocument(path);
+  WaitForPage(window, [&](EditingComponent &page) { page.LoadDocument(path); });
   window.setWindowTitle(modGeneral::FileNameOfPath(path));
   window.PendingAction = QStringLiteral("gethtml");
   window.CheckAcc();
@@ -268,7 +288,7 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
   FillPage(window, [&] {
     const int number = window.Number();
     window.Tag = QString::number(number);
-    window.DHTML1().Restore(kept.page);
+    WaitForPage(window, [&](EditingComponent &page) { page.Restore(kept.page); });
     const PageRecord record = RecordOfRestored(context, number, kept);
     context.pages.Record(number) = record;
     context.pages.Trace(number) = FileTrace::Of(kept.path, kept.page.original);

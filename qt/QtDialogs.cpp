@@ -2,7 +2,6 @@
 #include "qt/QtDialogs.h"
 
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QDialog>
 #include <QEvent>
 #include <QEventLoop>
@@ -14,17 +13,12 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
-#include <QThread>
-#include <QTimer>
 
 #include <algorithm>
-#include <chrono>
 
 namespace velor {
 
 namespace {
-
-using namespace std::chrono_literals;
 
 struct ButtonSet {
   QMessageBox::StandardButtons buttons;
@@ -90,9 +84,6 @@ class HideWatcher final : public QObject {
   QEventLoop &loop_;
 };
 
-constexpr auto UnwindPause = 10ms;
-constexpr auto UnwindLimit = 2s;
-
 /// Room for the buttons and the picture that desktops put beside a title, and for a title font
 /// that is larger than ours.
 constexpr int TitleButtons = 170;
@@ -114,15 +105,6 @@ void PutOverParent(QWidget &window) {
   place.moveBottom(std::min(place.bottom(), screen.bottom()));
   place.moveTopLeft({std::max(place.left(), screen.left()), std::max(place.top(), screen.top())});
   window.move(place.topLeft());
-}
-
-void CloseDialogsUntil(QDeadlineTimer limit, const std::function<void()> &end) {
-  QWidget *dialog = QApplication::activeModalWidget();
-  if (dialog != nullptr) dialog->close();
-  const bool isFree = dialog == nullptr && QThread::currentThread()->loopLevel() <= 1;
-  if (isFree || limit.hasExpired()) return end();
-  // The dialog's event loop ends first, and the code behind it goes on.
-  QTimer::singleShot(UnwindPause, qApp, [limit, end] { CloseDialogsUntil(limit, end); });
 }
 
 void SetWords(QMessageBox &box, const Message &message) {
@@ -195,10 +177,6 @@ void QtDialogs::RunModal(QWidget &dialog) {
   dialog.activateWindow();
   // A window that hid itself while it was being shown has ended already.
   if (dialog.isVisible()) loop.exec(QEventLoop::DialogExec);
-}
-
-void CloseDialogsThen(const std::function<void()> &end) {
-  CloseDialogsUntil(QDeadlineTimer(UnwindLimit), end);
 }
 
 }  // namespace velor

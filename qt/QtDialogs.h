@@ -3,8 +3,6 @@
 
 #include "platform/Dialogs.h"
 
-#include <functional>
-
 namespace velor {
 
 /// Message boxes, questions and modal windows, over the active window of the program. Where the
@@ -17,10 +15,5 @@ class QtDialogs final : public Dialogs {
                   const QString &defaultAnswer) override;
   void RunModal(QWidget &dialog) override;
 };
-
-/// Closes the open dialogs as Escape does, the front one first, and calls `end` when the code that
-/// showed them has returned: a save that waits behind a dialog ends whole. Calls it after two
-/// seconds, too, if a dialog stays open or a page is waited for.
-void CloseDialogsThen(const std::function<void()> &end);
 
 }  // namespace velor

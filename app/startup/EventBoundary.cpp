@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/startup/EventBoundary.h"
 
+#include "app/window/Unwinding.h"
 #include "platform/Dialogs.h"
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
@@ -74,6 +75,7 @@ Application::Application(char **arguments) : QApplication(OnlyTheName(), argumen
 }
 
 bool Application::notify(QObject *receiver, QEvent *event) {
+  const EventDelivery delivery;
   try {
     return QApplication::notify(receiver, event);
   } catch (const std::exception &error) {

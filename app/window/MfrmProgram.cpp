@@ -15,6 +15,7 @@
 #include "app/window/ProjectDesk.h"
 #include "app/window/RecentFiles.h"
 #include "app/window/StatusLine.h"
+#include "app/window/Unwinding.h"
 #include "app/window/WindowStyling.h"
 #include "chrome/FlatSweeps.h"
 #include "chrome/Icons.h"
@@ -314,10 +315,25 @@ void MfrmProgram::ShowFront() {
   statusLine_->ShowTextForm({});
 }
 
+void MfrmProgram::CloseWhenIdle() {
+  if (closing_ != Closing::No) return;
+  closing_ = Closing::Awaited;
+  UnwindThen([alive = QPointer(this)] {
+    if (alive.isNull()) return;
+    alive->closing_ = Closing::Due;
+    alive->close();
+    alive->closing_ = Closing::No;
+  });
+}
+
 void MfrmProgram::closeEvent(QCloseEvent *event) {
   // While this waits for a page, the person may close the window a second time.
-  if (isClosing_) return event->ignore();
-  const QScopedValueRollback<bool> closing(isClosing_, true);
+  if (closing_ == Closing::Awaited || closing_ == Closing::UnderWay) return event->ignore();
+  if (closing_ == Closing::No && IsCodeWaiting()) {
+    event->ignore();
+    return CloseWhenIdle();
+  }
+  const QScopedValueRollback closing(closing_, Closing::UnderWay);
   if (!KeepPagesAtExit(context_)) return event->ignore();
   Q_EMIT Unloading();
   UnloadProgramWindows();

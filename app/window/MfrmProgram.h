@@ -53,6 +53,10 @@ class MfrmProgram final : public QMainWindow,
   /// Prepares the window in the order of LoadSteps and shows it.
   void Load();
 
+  /// Closes the window from the program's own event loop, when all dialogs are closed, as Escape
+  /// does it, and no page is waited for. close() comes to the same.
+  void CloseWhenIdle();
+
   /// What the About box tells of the browser engine.
   void SetEngine(const EngineVersion &engine) { engine_ = engine; }
 
@@ -146,7 +150,9 @@ class MfrmProgram final : public QMainWindow,
   RecentFiles *recent_ = nullptr;
   EngineVersion engine_;
   std::unique_ptr<Help> help_;  ///< null without additions
-  bool isClosing_ = false;
+  /// How far the window is on its way to be closed.
+  enum class Closing { No, Awaited, Due, UnderWay };
+  Closing closing_ = Closing::No;
   /// The element under the caret that the tool box shows; empty for none.
   QString inspectedElement_;
 };

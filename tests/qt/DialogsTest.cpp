@@ -235,63 +235,6 @@ TEST(ModalWindow, ReturnsWhenTheWindowIsDestroyed) {
   EXPECT_TRUE(watched.isNull());
 }
 
-/// Runs `work` in the program's event loop; it calls `ask` right before the system asks for the
-/// end. Gives what happened, in its order.
-QStringList OrderOfTheEnd(
-    const std::function<void(QStringList &order, const std::function<void()> &ask)> &work) {
-  QStringList order;
-  const auto ask = [&] {
-    QTimer::singleShot(0, [&] {
-      CloseDialogsThen([&] {
-        order << QStringLiteral("end");
-        QCoreApplication::exit();
-      });
-    });
-  };
-  QTimer::singleShot(0, [&] {
-    work(order, ask);
-    order << QStringLiteral("returned");
-  });
-  RunProgram();
-  return order;
-}
-
-TEST(TheEndOfTheProgram, ComesWhenTheCodeBehindTheDialogsHasReturned) {
-  QtDialogs dialogs;
-  const QStringList order = OrderOfTheEnd([&](QStringList &answers, const auto &ask) {
-    QDialog below;
-    QTimer::singleShot(0, &below, [&] {
-      ask();
-      const auto answer = dialogs.ShowMessage(Question(MessageButtons::YesNoCancel));
-      answers << (answer == MessageAnswer::Cancel ? QStringLiteral("cancelled")
-                                                  : QStringLiteral("answered"));
-    });
-    dialogs.RunModal(below);
-    answers << QStringLiteral("closed");
-    dialogs.ShowMessage(Question(MessageButtons::Ok));
-    answers << QStringLiteral("read");
-  });
-  EXPECT_EQ(order, QStringLiteral("cancelled closed read returned end").split(u' '));
-}
-
-TEST(TheEndOfTheProgram, ComesWithoutADialogToo) {
-  const auto order = OrderOfTheEnd([](QStringList &, const auto &ask) { ask(); });
-  EXPECT_EQ(order, QStringLiteral("returned end").split(u' '));
-}
-
-TEST(TheEndOfTheProgram, ComesAlthoughADialogStaysOpen) {
-  struct Stubborn final : QDialog {
-    void closeEvent(QCloseEvent *event) override { event->ignore(); }
-  };
-  QtDialogs dialogs;
-  const QStringList order = OrderOfTheEnd([&](QStringList &, const auto &ask) {
-    Stubborn dialog;
-    ask();
-    dialogs.RunModal(dialog);
-  });
-  EXPECT_EQ(order, QStringLiteral("end returned").split(u' '));
-}
-
 TEST(NameFilters, AreMadeOfDescriptionsAndPatternsInBothLetterCases) {
   EXPECT_EQ(NameFilters(QStringLiteral("Database(*.mdb;)|*.mdb")),
             QStringList{QStringLiteral("Database(*.mdb;) (*.mdb *.MDB)")});

@@ -136,9 +136,16 @@ void FakeEditingComponent::SetDocumentHTML(const QString &html) {
   Take({EncodePage(html, encoding), {html, encoding}, {}});
 }
 
+bool FakeEditingComponent::OutlivesTheWait() {
+  const QPointer<QWidget> alive = Widget();
+  if (const auto act = std::exchange(whileLoading, {})) act();
+  return !alive.isNull();
+}
+
 void FakeEditingComponent::LoadDocument(const QString &path) {
   Log(QStringLiteral("LoadDocument(%1)").arg(path));
   if (const auto failure = std::exchange(nextLoadFailure, std::nullopt)) throw *failure;
+  if (!OutlivesTheWait()) return;
   const QByteArray bytes = files_.ReadAll(path);
   base_ = path;
   Take({bytes, DecodePage(bytes), {}});
@@ -169,6 +176,7 @@ PageMemory FakeEditingComponent::Memory() const {
 void FakeEditingComponent::Restore(const PageMemory &memory) {
   Log(QStringLiteral("Restore(%1)").arg(memory.base));
   if (const auto failure = std::exchange(nextLoadFailure, std::nullopt)) throw *failure;
+  if (!OutlivesTheWait()) return;
   Take({memory.original, DecodePage(memory.original), {}});
   base_ = memory.base;
   current_ = memory.document;

@@ -43,6 +43,8 @@ class FakeEditingComponent final : public EditingComponent,
   ElementPlaces caretPlaces;
   bool isIdle = false;
   QString reasonToWriteAnew;
+  /// Called once while LoadDocument or Restore waits; may close the page.
+  std::function<void()> whileLoading;
   std::optional<RuntimeError> nextLoadFailure;  ///< raised once by LoadDocument and LoadText
   std::optional<RuntimeError> nextSaveFailure;  ///< raised once by SaveDocument
 
@@ -104,6 +106,7 @@ class FakeEditingComponent final : public EditingComponent,
   HtmlElement ControlElement() const override;
 
  private:
+  bool OutlivesTheWait();
   friend class FakeTextRange;
 
   void Log(const QString &call) const;

@@ -57,7 +57,7 @@ int main(int argc, char **argv) {
     std::puts("the end");
     QCoreApplication::exit();
   };
-  const EndingSignals signals([&] { CloseDialogsThen(end); });
+  const EndingSignals signals(end);
   if (scene == "terminated") {
     QTimer::singleShot(0, &application, [&dialogs] {
       QTimer::singleShot(0, [] { std::raise(SIGTERM); });

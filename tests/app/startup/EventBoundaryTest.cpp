@@ -181,10 +181,10 @@ TEST(RunningProgram, EndsAtOnceWithoutRunningAnythingElse) {
   EXPECT_EQ(probe.output, "before the end\n");
 }
 
-TEST(RunningProgram, ASignalToEndClosesTheOpenMessageFirst) {
+TEST(RunningProgram, ASignalToEndComesThroughBehindAnOpenMessage) {
   const Probe probe = RunProbe(QStringLiteral("terminated"));
   EXPECT_EQ(probe.status, 0);
-  EXPECT_EQ(probe.output, "the message is closed\nthe end\n");
+  EXPECT_EQ(probe.output, "the end\nthe message is closed\n");
 }
 
 TEST(RunningProgram, TheDesktopsQuitIsItsOwnEnd) {

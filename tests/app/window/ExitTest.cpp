@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/Unwinding.h"
 #include "editor/PageSlots.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
@@ -6,7 +7,15 @@
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeJournals.h"
 
+#include <QCloseEvent>
+#include <QDialog>
+#include <QEventLoop>
+#include <QMessageBox>
 #include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
 
 namespace velor {
 namespace {
@@ -87,6 +96,108 @@ TEST_F(ExitTest, TemporaryCopiesAreStillDeleted) {
   ASSERT_TRUE(files.FileExists(copy));
   window.close();
   EXPECT_FALSE(files.FileExists(copy));
+}
+
+/// Runs `work` in an event loop as the program's own; it calls `ask` right before the end is asked
+/// for. Gives what happened, in its order.
+QStringList OrderOfTheEnd(
+    const std::function<void(QStringList &order, const std::function<void()> &ask)> &work) {
+  constexpr int MostTurns = 20;
+  QStringList order;
+  QEventLoop program;
+  const auto ask = [&] {
+    QTimer::singleShot(0, &program, [&] {
+      UnwindThen(
+          [&] {
+            order << QStringLiteral("end");
+            program.quit();
+          },
+          MostTurns);
+    });
+  };
+  QTimer::singleShot(0, &program, [&] {
+    work(order, ask);
+    order << QStringLiteral("returned");
+  });
+  program.exec();
+  return order;
+}
+
+TEST(Unwinding, ComesToItsEndWhenTheCodeBehindTheDialogsHasReturned) {
+  const QStringList order = OrderOfTheEnd([](QStringList &answers, const auto &ask) {
+    QDialog below;
+    QTimer::singleShot(0, &below, [&] {
+      ask();
+      const int answer = QMessageBox(QMessageBox::Question, {}, QStringLiteral("Save it?"),
+                                     QMessageBox::Save | QMessageBox::Cancel)
+                             .exec();
+      answers << (answer == QMessageBox::Cancel ? QStringLiteral("cancelled")
+                                                : QStringLiteral("answered"));
+    });
+    below.exec();
+    answers << QStringLiteral("closed");
+    QMessageBox(QMessageBox::Information, {}, QStringLiteral("Closed."), QMessageBox::Ok).exec();
+    answers << QStringLiteral("read");
+  });
+  EXPECT_EQ(order, QStringLiteral("cancelled closed read returned end").split(u' '));
+}
+
+TEST(Unwinding, LetsAWaitComeToItsEnd) {
+  const QStringList order = OrderOfTheEnd([](QStringList &, const auto &ask) {
+    QEventLoop wait;
+    ask();
+    QTimer::singleShot(50, &wait, &QEventLoop::quit);
+    wait.exec(QEventLoop::ExcludeUserInputEvents);
+  });
+  EXPECT_EQ(order, QStringLiteral("returned end").split(u' '));
+}
+
+TEST(Unwinding, NeedsNoDialog) {
+  const auto order = OrderOfTheEnd([](QStringList &, const auto &ask) { ask(); });
+  EXPECT_EQ(order, QStringLiteral("returned end").split(u' '));
+}
+
+TEST(Unwinding, EndsAlthoughADialogStaysOpen) {
+  struct Stubborn final : QDialog {
+    void closeEvent(QCloseEvent *event) override { event->ignore(); }
+  };
+  const QStringList order = OrderOfTheEnd([](QStringList &, const auto &ask) {
+    Stubborn dialog;
+    ask();
+    QTimer::singleShot(1000, &dialog, &QDialog::accept);
+    dialog.exec();
+  });
+  EXPECT_EQ(order, QStringLiteral("end returned").split(u' '));
+}
+
+TEST_F(ExitTest, AWindowThatIsClosedInTheMiddleOfAnotherEventClosesAfterIt) {
+  {
+    const EventDelivery outer;
+    const EventDelivery inner;
+    EXPECT_FALSE(window.close());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(unloaded.count(), 0);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([&] { return unloaded.count() == 1; }));
+}
+
+TEST_F(ExitTest, AWindowThatIsClosedWhileItWaitsForAPageClosesAfterwards) {
+  QEventLoop program;
+  QTimer::singleShot(0, &program, [&] {
+    QEventLoop wait;
+    QTimer::singleShot(0, &wait, [&] {
+      EXPECT_FALSE(window.close());
+      EXPECT_FALSE(window.close()) << "once more";
+      EXPECT_EQ(unloaded.count(), 0);
+      wait.quit();
+    });
+    wait.exec();
+    EXPECT_EQ(unloaded.count(), 0);
+    EXPECT_TRUE(window.isVisible());
+  });
+  QObject::connect(&window, &MfrmProgram::Unloaded, &program, &QEventLoop::quit);
+  program.exec();
+  EXPECT_EQ(unloaded.count(), 1);
 }
 
 /// A window of the program that fails while it closes.
