@@ -165,7 +165,7 @@ TEST(PreferenceTable, NamesTheOneReaderOfEach) {
   sources.erase("app/window/FrmSettings.cpp");  // shows and writes them
   sources.erase("app/settings/Preferences.h");
   for (const Preference &preference : PreferenceTable) {
-    const std::string name = "\"" + std::string(preference.name) + "\"";
+    const std::string name = '"' + std::string(preference.name) + '"';
     for (const auto &[path, text] : sources) {
       const bool reads = text.find("PreferenceOf(" + name + ")") != std::string::npos;
       EXPECT_EQ(reads, path == preference.readBy) << path << " and " << name;
