@@ -281,7 +281,7 @@ TEST_F(RealInsert, ALinkIsMadeChangedAndTakenOffInOneStepEach) {
   SelectText(page, "p", 4, 7);
   FillDialog("mnuISTlink", {{"txtHref", "other.htm#end"}, {"txtATitle", "A \"hint\""}});
   const QByteArray linked = QByteArray(Plain).replace(
-      "two", "<a href=\"other.htm#end\" title=\"A &quot;hint&quot;\">two</a>");
+      "two", R"(<a href="other.htm#end" title="A &quot;hint&quot;">two</a>)");
   ExpectSaved(page, linked);
   ASSERT_TRUE(KnowsLink(page, "other.htm#end"));
   FillDialog("mnuISTlink", {{"txtHref", "b.htm"}, {"txtATitle", ""}});
@@ -407,9 +407,9 @@ TEST_F(RealInsert, AVideoGoesIntoAnHtml5Page) {
   Evaluate(EngineOf(page),
            QStringLiteral("getSelection().collapse(document.querySelector('p').firstChild, 3)"));
   FillDialog("mnuVideo", {{"txtVidSource", "film 1.mp4"}, {"txtVidPoster", "film.jpg"}});
-  ExpectSaved(
-      page, QByteArray(source).replace(
-                "One", "One<video src=\"film 1.mp4\" poster=\"film.jpg\" controls=\"\"></video>"));
+  ExpectSaved(page,
+              QByteArray(source).replace(
+                  "One", R"(One<video src="film 1.mp4" poster="film.jpg" controls=""></video>)"));
   Choose("mnuUndo");
   ExpectSaved(page, source);
 }
