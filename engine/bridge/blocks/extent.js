@@ -132,6 +132,12 @@ export function isAtEdge(range, unit, side) {
   if (!first) return true;
   const { indexOf } = selection;
   const { startContainer, startOffset, endContainer, endOffset } = range;
+  // Beside a comment at the edge.
+  const paragraph = document.createRange();
+  paragraph.setStartBefore(first);
+  paragraph.setEndAfter(last);
+  const beyond = paragraph.comparePoint(startContainer, startOffset);
+  if (beyond === (side === 'start' ? -1 : 1)) return true;
   const rest = { startContainer, startOffset, endContainer, endOffset };
   if (side === 'start') {
     Object.assign(rest, { startContainer: first.parentNode, startOffset: indexOf(first) });
