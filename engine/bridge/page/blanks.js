@@ -106,14 +106,17 @@ export function watch(inputType = '', target = null) {
   const isOwn = (character) => charAt(character) === noBreak && !isStandIn(character);
   /** @param {Neighbour | null} character */
   const isGap = (character) => isBlank(character) || charAt(character) === noBreak;
+  // Without a selection these are the characters on the other side of the caret.
+  const behindLeft = beside(range.startContainer, range.startOffset, 'nextSibling');
+  const beforeRight = beside(range.endContainer, range.endOffset, 'previousSibling');
   noted = {
     ...found,
     // A no-break space of the page's own on that side.
     ownLeft: isOwn(left),
     ownRight: isOwn(right),
     // The one on the left stands before a blank, and the one on the right begins a line or run.
-    parts: isOwn(left) && isGap(right),
-    begins: isOwn(right) && (!left || isGap(left)),
+    parts: isOwn(left) && isGap(behindLeft),
+    begins: isOwn(right) && (!beforeRight || isGap(beforeRight)),
   };
 }
 
