@@ -12,7 +12,7 @@ import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
-import { openParagraph } from '../page/lines.js';
+import { dropEmptyInline, openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { gapAt, unitsIn } from '../page/units.js';
 import { moveGapAbove } from '../page/whitespace.js';
@@ -180,6 +180,23 @@ function alternate(block) {
   selection.restore(saved);
 }
 
+// The engine cuts a formatted text in two even where nothing but a blank that it takes away stands
+// behind the caret: the second half is empty then.
+/**
+ * @param {Element} first
+ * @param {Element} block
+ */
+function dropEmptyHalf(first, block) {
+  const half = dom.firstLeaf(block);
+  if (!dom.isElement(half) || dom.isAtom(half)) return;
+  for (let at = dom.lastLeaf(first).parentNode; at !== first; at = at.parentNode) {
+    if (at.cloneNode(false).isEqualNode(half)) {
+      dropEmptyInline(half);
+      return;
+    }
+  }
+}
+
 /**
  * Puts in order what the engine left where it split a paragraph. The break that held a line open is
  * not needed where text stands before it.
@@ -198,4 +215,5 @@ export function tidySplit() {
   const before = last.previousSibling;
   if (dom.isBreak(last) && before && !dom.isBreak(before)) last.remove();
   moveGapAbove(first, block);
+  dropEmptyHalf(first, block);
 }
