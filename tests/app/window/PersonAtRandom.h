@@ -73,7 +73,9 @@ class PersonAtRandom final : public Dialogs {
       return;
     }
     // The table dialog's first values make a table; the others' make nothing.
-    auto *insert = dialog->findChild<QPushButton *>(QStringLiteral("Command1"));
+    auto *insert = name == "frmDialog_Table"
+                       ? dialog->findChild<QPushButton *>(QStringLiteral("Command1"))
+                       : nullptr;
     if (insert != nullptr && chance.Once(2))
       insert->click();
     else
