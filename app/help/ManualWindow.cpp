@@ -24,8 +24,9 @@ namespace {
 
 /// Wide enough for the manual's pictures.
 constexpr QSize FirstSize(1120, 740);
-/// Pixels for the frame that the desktop draws around the window.
-constexpr QSize FrameRoom(16, 48);
+/// Pixels for the frame that the desktop draws around the window: half of them above and at the
+/// left.
+constexpr QSize FrameRoom(16, 64);
 constexpr int ListWidth = 270;
 constexpr int PlaceRole = Qt::UserRole;
 
@@ -87,7 +88,10 @@ ManualWindow::ManualWindow(const Manual &manual)
           &QTextBrowser::backward);
   connect(new QShortcut(QKeySequence::Forward, this), &QShortcut::activated, page_,
           &QTextBrowser::forward);
-  resize(FirstSize.boundedTo(screen()->availableSize() - FrameRoom));
+  // The toolkit would leave no room for the frame.
+  const QRect free = screen()->availableGeometry();
+  resize(FirstSize.boundedTo(free.size() - FrameRoom));
+  move(free.center() - rect().center());
 }
 
 void ManualWindow::BuildLayout() {

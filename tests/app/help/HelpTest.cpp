@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -156,6 +157,14 @@ TEST_F(HelpTest, BackLeadsToThePlaceBefore) {
   EXPECT_EQ(PlaceOnShow(), "window.html");
   In<QAction>(manual, "help").trigger();
   EXPECT_EQ(PlaceOnShow(), "index.html");
+}
+
+TEST_F(HelpTest, TheManualLeavesRoomForItsFrameOnTheScreen) {
+  constexpr int Title = 31;  // pixels
+  QTest::keyClick(&window, Qt::Key_F1);
+  const QRect free = Manual().screen()->availableGeometry();
+  EXPECT_GE(Manual().geometry().top(), free.top() + Title);
+  EXPECT_TRUE(free.contains(Manual().geometry()));
 }
 
 TEST_F(HelpTest, WhereNoManualIsThatIsTold) {
