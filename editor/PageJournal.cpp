@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 /// Longer than the time between two keys of somebody who types without a pause.
 constexpr std::chrono::milliseconds Pause = 150ms;
 /// With the component's own delay the journal is less than two seconds behind.
-constexpr std::chrono::milliseconds LongestDelay = 600ms;
+constexpr std::chrono::milliseconds LongestDelay = 300ms;
 /// After a pause this long no key press is pending.
 constexpr std::chrono::milliseconds Idle = 500ms;
 /// A journal that waits longer than this for the disk is synced at the next pause between keys,

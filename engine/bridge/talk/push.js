@@ -13,7 +13,7 @@ import { state } from './state.js';
 // Milliseconds. The mirror is written in idle time when no change came for the pause; during steady
 // work when the lag is over, so that little is lost if the page's process ends.
 const mirrorPause = 200;
-const mirrorLag = 700;
+const mirrorLag = 500;
 
 let version = 0;          // counts pushes
 let dirty = true;         // the content changed since the last push
