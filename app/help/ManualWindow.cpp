@@ -3,6 +3,7 @@
 
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
+#include "chrome/ScreenRoom.h"
 #include "chrome/ToolBarButtons.h"
 
 #include <QDir>
@@ -23,10 +24,7 @@ namespace velor {
 namespace {
 
 /// Wide enough for the manual's pictures.
-constexpr QSize FirstSize(1120, 740);
-/// Pixels for the frame that the desktop draws around the window: half of them above and at the
-/// left.
-constexpr QSize FrameRoom(16, 64);
+constexpr QSize FirstSize(1120, 720);
 constexpr int ListWidth = 270;
 constexpr int PlaceRole = Qt::UserRole;
 
@@ -88,10 +86,9 @@ ManualWindow::ManualWindow(const Manual &manual)
           &QTextBrowser::backward);
   connect(new QShortcut(QKeySequence::Forward, this), &QShortcut::activated, page_,
           &QTextBrowser::forward);
+  resize(FirstSizeOf(*this, FirstSize));
   // The toolkit would leave no room for the frame.
-  const QRect free = screen()->availableGeometry();
-  resize(FirstSize.boundedTo(free.size() - FrameRoom));
-  move(free.center() - rect().center());
+  move(screen()->availableGeometry().center() - rect().center());
 }
 
 void ManualWindow::BuildLayout() {

@@ -22,6 +22,7 @@
 #include "chrome/Palette.h"
 #include "chrome/ProgramWindow.h"
 #include "chrome/ReportingSweeps.h"
+#include "chrome/ScreenRoom.h"
 #include "chrome/ToolBarButtons.h"
 #include "chrome/frmAbout.h"
 #include "editor/PagesAtExit.h"
@@ -75,9 +76,6 @@ class TabRow final : public QWidget {
 };
 
 constexpr QSize FirstSize(1180, 800);
-/// Pixels for the frame that the desktop draws around the window. Its real size is known only when
-/// the window is shown.
-constexpr QSize FrameRoom(16, 48);
 
 /// These sweeps own the program's one array of flat painters.
 std::unique_ptr<StylingSweeps> SweepsOn(WindowSystem *windows) {
@@ -144,7 +142,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
   setObjectName(QStringLiteral("MfrmProgram"));
   setWindowTitle(QString::fromUtf16(ApplicationTitle));
   setWindowIcon(ProgramIcon());
-  resize(FirstSize.boundedTo(screen()->availableSize() - FrameRoom));
+  resize(FirstSizeOf(*this, FirstSize));
   menuPainter_->setObjectName(QStringLiteral("PM"));
   sourceEditing_->setObjectName(QStringLiteral("mnuEditHTML"));
   BuildLayout();
