@@ -11,7 +11,9 @@ import { shownGeneration } from './replace.js';
 import { state } from './state.js';
 
 // Milliseconds. The mirror is written in idle time when no change came for the pause; during steady
-// work when the lag is over, so that little is lost if the page's process ends.
+// work when the lag is over, so that little is lost if the page's process ends. Keys that come
+// faster than they are shown leave no idle time, nor time for anything that the program asks: the
+// mirror goes with the state then.
 const mirrorPause = 200;
 const mirrorLag = 500;
 
@@ -33,6 +35,8 @@ function scheduleMirror() {
     changedFirst = changedLast;
     mirrorWaits = true;
     whenIdle();
+  } else if (changedLast - changedFirst >= mirrorLag) {
+    writeMirror(false);
   }
 }
 /** @param {IdleDeadline} deadline */

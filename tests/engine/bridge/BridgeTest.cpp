@@ -101,6 +101,22 @@ TEST_F(Bridge, TellsOfALargeDocumentWhatChangedAlone) {
   EXPECT_LT(Evaluate(QStringLiteral("mirrors.at(-1).length")).toInt(), 200);
 }
 
+TEST_F(Bridge, TellsOfChangesThatLeaveNoIdleTime) {
+  Load(QStringLiteral("<p>one|</p>"));
+  CollectPushes();
+  ASSERT_TRUE(Comes(QStringLiteral("mirrors.length === 1")));
+  // One task, which nothing else comes between; a key every 20 ms.
+  Evaluate(
+      QStringLiteral("(async () => { mirrors.length = 0; const now = () => performance.now();"
+                     "  for (const end = now() + 800; now() < end;) {"
+                     "    document.execCommand('insertText', false, 'x'); await null;"
+                     "    for (const next = now() + 20; now() < next;);"
+                     "  }"
+                     "  globalThis.told = mirrors.length; })()"));
+  ASSERT_TRUE(Comes(QStringLiteral("globalThis.told !== undefined")));
+  EXPECT_EQ(Evaluate(QStringLiteral("told")).toInt(), 1);
+}
+
 TEST_F(Bridge, TellsOfTheSameChangesAgainWhereTheyWereNotHeard) {
   Load(QStringLiteral("<p>one|</p><p>two</p>"));
   Evaluate(QStringLiteral("const first = velor.changes().revision; velor.changes()"));
