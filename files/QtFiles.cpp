@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/QtFiles.h"
 
-#include "files/FileDescriptor.h"
+#include "files/FileBytes.h"
 #include "files/FileReplacement.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -115,6 +115,24 @@ QByteArray QtFiles::ReadAll(const QString &path, NameOrigin origin) const {
 
 void QtFiles::ReplaceAll(const QString &path, const QByteArray &content) {
   ReplaceFile(Usable(path, QStringLiteral("ReplaceAll")), content, calls_);
+}
+
+bool QtFiles::CreateNew(const QString &path, const QByteArray &content) {
+  constexpr mode_t AsTheUserAsks = 0666;
+  const QString source = QStringLiteral("CreateNew");
+  const QString native = Usable(path, source);
+  const QByteArray name = QFile::encodeName(native);
+  FileDescriptor file = OpenFile(calls_, name, O_WRONLY | O_CREAT | O_EXCL, AsTheUserAsks);
+  if (!file.IsOpen()) {
+    if (errno == EEXIST) return false;
+    throw Failure(errno, source, native);
+  }
+  const bool isWritten = WriteBytes(calls_, file.Number(), content) &&
+                         SyncFile(calls_, file.Number()) && CloseFile(calls_, std::move(file));
+  if (isWritten) return true;
+  const int error = errno;
+  calls_.Unlink(name.constData());
+  throw Failure(error, source, native);
 }
 
 void QtFiles::Delete(const QString &path) {

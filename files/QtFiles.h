@@ -20,6 +20,7 @@ class QtFiles : public Files {
   QDateTime ChangeTime(const QString &path) const override;
   QByteArray ReadAll(const QString &path, NameOrigin origin = NameOrigin::Chosen) const override;
   void ReplaceAll(const QString &path, const QByteArray &content) override;
+  bool CreateNew(const QString &path, const QByteArray &content) override;
   void Delete(const QString &path) override;
 
  private:

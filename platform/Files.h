@@ -51,6 +51,11 @@ class Files {
   /// read-only file is refused (75), also for the superuser; a full disk is 61.
   virtual void ReplaceAll(const QString &path, const QByteArray &content) = 0;
 
+  /// Creates a file with that content. False, with nothing changed, where anything of that name is
+  /// there, be it a link that leads nowhere; no link is followed. Raises RuntimeError where it
+  /// cannot be written; nothing of that name is there then.
+  virtual bool CreateNew(const QString &path, const QByteArray &content) = 0;
+
   /// Deletes a file; raises 53 when there is none.
   virtual void Delete(const QString &path) = 0;
 };

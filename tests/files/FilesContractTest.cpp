@@ -212,6 +212,16 @@ TEST_P(FilesContract, RaisesForTheAttributeOfAMissingFile) {
   EXPECT_EQ(ErrorOf([&] { Subject().IsReadOnly(Path("missing.htm")); }), ErrorNumber::FileNotFound);
 }
 
+TEST_P(FilesContract, CreatesAFileOnlyWhereNothingIs) {
+  EXPECT_TRUE(Subject().CreateNew(Path("a.png"), "first"));
+  EXPECT_FALSE(Subject().CreateNew(Path("a.png"), "second"));
+  EXPECT_EQ(Subject().ReadAll(Path("a.png")), "first");
+  World().AddFolder(Path("b.png"));
+  EXPECT_FALSE(Subject().CreateNew(Path("b.png"), "x"));
+  EXPECT_EQ(ErrorOf([&] { Subject().CreateNew(Path(R"(none\a.png)"), "x"); }),
+            ErrorNumber::PathNotFound);
+}
+
 TEST_P(FilesContract, DeletesFilesOnly) {
   World().AddFile(Path("a.htm"), "x");
   World().AddFolder(Path("images"));

@@ -25,6 +25,7 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"page/saving", {"page/text", "platform"}},
       {"page/source", {"page/text", "platform"}},
       {"files", {"platform"}},
+      {"pictures", {"page/text", "platform"}},
       {"recovery", {"files", "platform"}},
       {"catalogue/jet", {"platform"}},
       {"catalogue", {"catalogue/jet", "files", "platform"}},
@@ -34,7 +35,7 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"chrome", {"platform"}},
       {"insert", {"chrome", "platform"}},
       {"projects", {"chrome", "platform", "app/settings"}},
-      {"editor", {"chrome", "page/source", "page/text", "platform", "app/settings"}},
+      {"editor", {"chrome", "pictures", "page/source", "page/text", "platform", "app/settings"}},
       {"recovery/offers", {"editor", "chrome", "page/saving", "page/text", "platform"}},
       {"app",
        {"editor", "insert", "projects", "chrome", "recovery/offers", "qt", "engine", "platform",
@@ -50,9 +51,9 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
 
 /// Layers whose logic must not know any toolkit: QtWidgets, WebEngine, QScintilla or SQLite.
 const std::set<std::string> &ToolkitFreeLayers() {
-  static const std::set<std::string> layers = {"platform",      "page/text", "page/saving",
-                                               "page/source",   "files",     "recovery",
-                                               "catalogue/jet", "catalogue", "app/settings"};
+  static const std::set<std::string> layers = {
+      "platform", "page/text", "page/saving",   "page/source", "files",
+      "pictures", "recovery",  "catalogue/jet", "catalogue",   "app/settings"};
   return layers;
 }
 
@@ -66,8 +67,8 @@ std::string LayerOf(const std::string &path) {
 
 const std::vector<std::string> &SourceFolders() {
   static const std::vector<std::string> folders = {
-      "app",    "editor",    "insert",   "projects", "chrome", "platform", "page",
-      "engine", "catalogue", "recovery", "files",    "qt",     "bench",    "tools"};
+      "app",       "editor",   "insert", "projects", "chrome", "platform", "page", "engine",
+      "catalogue", "recovery", "files",  "pictures", "qt",     "bench",    "tools"};
   return folders;
 }
 

@@ -123,6 +123,12 @@ void FakeFiles::ReplaceAll(const QString &path, const QByteArray &content) {
   files_[path] = content;
 }
 
+bool FakeFiles::CreateNew(const QString &path, const QByteArray &content) {
+  if (files_.contains(path) || folders_.contains(path)) return false;
+  ReplaceAll(path, content);
+  return true;
+}
+
 void FakeFiles::Delete(const QString &path) {
   const QString operation = QStringLiteral("Delete");
   calls_ += operation + u' ' + path;

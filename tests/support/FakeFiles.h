@@ -21,7 +21,7 @@ class FakeFiles : public Files {
   void AddFile(const QString &path, const QByteArray &content);
   void MakeReadOnly(const QString &path);
   void MakeFolderUnwritable(const QString &folder);
-  /// The next ReplaceAll raises this and changes nothing.
+  /// The next ReplaceAll or CreateNew raises this and changes nothing.
   void FailNextWrite(ErrorNumber number) { nextWriteFailure_ = number; }
 
   /// The time of every file's last change.
@@ -42,6 +42,7 @@ class FakeFiles : public Files {
   QDateTime ChangeTime(const QString &path) const override;
   QByteArray ReadAll(const QString &path, NameOrigin origin = NameOrigin::Chosen) const override;
   void ReplaceAll(const QString &path, const QByteArray &content) override;
+  bool CreateNew(const QString &path, const QByteArray &content) override;
   void Delete(const QString &path) override;
 
  private:

@@ -57,6 +57,9 @@ class LoggedFiles final : public Files {
     log_.push_back(QStringLiteral("ReplaceAll(%1, %2)").arg(path, QString::fromUtf8(content)));
     world.ReplaceAll(Single(path), content);
   }
+  bool CreateNew(const QString &path, const QByteArray &content) override {
+    return world.CreateNew(Single(path), content);
+  }
   void Delete(const QString &path) override { world.Delete(Single(path)); }
 
  private:
