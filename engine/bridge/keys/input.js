@@ -17,6 +17,7 @@ import { schedulePush } from '../talk/pace.js';
 import { selectionMoved } from '../talk/push.js';
 import { continuesComposition, isComposing } from './composition.js';
 import { ownEnter, tidySplit } from './enter.js';
+import { takeAwaited } from './islands.js';
 import { commandOfInput, isCommand } from './shortcuts.js';
 
 const typingInputs = new Set(['insertText', 'insertCompositionText', 'deleteCompositionText']);
@@ -42,7 +43,7 @@ function kindOf({ inputType }) {
 function joinsLastStep({ inputType, data }, kind) {
   if (kind === 'drag') return true;
   if (kind !== 'typing') return kind === 'delete';
-  if (inputType !== 'insertText') return true;
+  if (takeAwaited() || inputType !== 'insertText') return true;
   const { anchorNode, anchorOffset } = selection.points();
   const before = dom.isText(anchorNode) ? anchorNode.data[anchorOffset - 1] : '';
   return !(/^\S/.test(data ?? '') && /\s/.test(before ?? ''));

@@ -31,6 +31,15 @@ export function isBesideIsland(range) {
     [node.childNodes[offset - 1], node.childNodes[offset]].some(dom.isIsland);
 }
 
+// Whether the step at hand has the deletion that the next character belongs to.
+let awaitsCharacter = false;
+/** Tells that once: the character joins the step, whatever it stands behind. */
+export function takeAwaited() {
+  const awaited = awaitsCharacter;
+  awaitsCharacter = false;
+  return awaited;
+}
+
 /**
  * Handles a key there. Delete and Backspace delete what is selected. Enter and a character do too,
  * and make a line with the caret in it; the character is typed by the engine then.
@@ -54,5 +63,6 @@ export function typeBesideIsland(event) {
     if (gap) typing.makeLine(gap);
   });
   history.arrive();
+  awaitsCharacter = true;
   schedulePush();
 }
