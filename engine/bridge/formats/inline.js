@@ -9,6 +9,7 @@ import { joinTexts, mergeWith } from './merging.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
 import { takeInSigns } from '../page/signs.js';
+import { splitText } from '../page/standIns.js';
 
 // Cuts the texts at the ends of the range in two, so that all that is selected is whole texts;
 // answers those.
@@ -18,8 +19,8 @@ function splitTextsAtEnds(range) {
   const texts = selection.textsIn(range);
   if (!texts.length) return texts;
   const last = texts.at(-1);
-  if (last === endContainer && endOffset < last.length) last.splitText(endOffset);
-  if (texts[0] === startContainer && startOffset > 0) texts[0] = texts[0].splitText(startOffset);
+  if (last === endContainer && endOffset < last.length) splitText(last, endOffset);
+  if (texts[0] === startContainer && startOffset > 0) texts[0] = splitText(texts[0], startOffset);
   return texts;
 }
 

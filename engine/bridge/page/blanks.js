@@ -25,7 +25,8 @@ import * as whitespace from './whitespace.js';
 
 // What watch() has found; null at rest.
 /**
- * @type {(Noted & { ownLeft: boolean, ownRight: boolean, parts: boolean, begins: boolean }) | null}
+ * @type {(Noted & { ownLeft: boolean, ownRight: boolean, parts: boolean, begins: boolean,
+ *   isFollowed: boolean }) | null}
  */
 let noted = null;
 
@@ -117,6 +118,8 @@ export function watch(inputType = '', target = null) {
     // The one on the left stands before a blank, and the one on the right begins a line or run.
     parts: isOwn(left) && isGap(behindLeft),
     begins: isOwn(right) && (!beforeRight || isGap(beforeRight)),
+    // The stand-ins have moved along with the change.
+    isFollowed: false,
   };
 }
 
@@ -125,7 +128,17 @@ export function watch(inputType = '', target = null) {
  * @param {{ inputType: string, data?: string | null }} input
  */
 export function engineDone(input) {
-  if (noted) whitespace.putBack({ ...noted, isStandIn }, input);
+  if (!noted) return;
+  whitespace.putBack({ ...noted, isStandIn }, input);
+  followTexts(input.inputType);
+}
+
+// Once a change, and before typed text is cut out of its node for another look.
+/** @param {string} inputType */
+function followTexts(inputType) {
+  if (noted.isFollowed || !/^(insertText|insertCompositionText|delete.*)$/.test(inputType)) return;
+  noted.isFollowed = true;
+  shiftStandIns(noted.texts);
 }
 
 // Where text was written in a node just now, from and to. In a text that was not at the caret
@@ -226,9 +239,8 @@ export function watched({ inputType, data }) {
     noted = null;
     return;
   }
-  if (inputType === 'insertCompositionText') shiftStandIns(noted.texts);
+  followTexts(inputType);
   if (inputType === 'insertText' || inputType.startsWith('delete')) {
-    shiftStandIns(noted.texts);
     if (inputType !== 'insertText') replaceUnseenBlank();
     addWritten(inputType, data);
     addNeedless(inputType, data);
