@@ -1,15 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // Cleans markup of other programs (office documents, mail, browsers): its structure, links,
-// pictures, tables and emphasis stay, its private markup and its looks do not. A new tree is built
-// of what is known, so that nothing unknown comes in. Functions here answer lists of new nodes.
+// pictures, tables, emphasis, colours of words and alignment stay, its private markup and its other
+// looks do not. A new tree is built of what is known, in the page's dialect, so that nothing
+// unknown comes in. Functions here answer lists of new nodes.
+import {
+  elementAround, empties, hasText, isBlock, joined, paragraphs, trim, withoutGaps, wrapLines,
+} from './foreignLines.js';
+import { makePreformatted, partOf } from './foreignParts.js';
+import { setCellLooks, setRowLooks, setTableLooks } from './foreignTables.js';
+import * as looks from './looks.js';
+import { makeLists } from './officeLists.js';
 import * as dom from '../page/dom.js';
 
 /** @param {string} names */
 const set = (names) => new Set(names.split(' '));
 const dropped = set(
-  'APPLET AUDIO BASE BUTTON CANVAS COL COLGROUP EMBED FRAME FRAMESET HEAD IFRAME INPUT LINK ' +
-  'META NOSCRIPT OBJECT SCRIPT SELECT STYLE svg TEMPLATE TEXTAREA TITLE VIDEO XML');
+  'APPLET AUDIO BASE BUTTON CANVAS COL COLGROUP COMMENT EMBED FRAME FRAMESET HEAD IFRAME INPUT ' +
+  'LINK META NOSCRIPT OBJECT SCRIPT SELECT STYLE svg TEMPLATE TEXTAREA TITLE VIDEO XML');
 const structure = set(
   'ADDRESS BLOCKQUOTE CAPTION DD DL DT H1 H2 H3 H4 H5 H6 HR LI OL P PRE TABLE TBODY TD TFOOT ' +
   'TH THEAD TR UL');
@@ -17,84 +25,17 @@ const emphasis = set(
   'ABBR B BIG CITE CODE DEL DFN EM I INS KBD MARK Q S SAMP SMALL STRIKE STRONG SUB SUP TT U VAR');
 /** @type {Record<string, string[]>} */
 const attributes = {
-  A: ['href', 'name', 'title', 'target'],
-  IMG: ['src', 'alt', 'title', 'width', 'height', 'border'],
-  TABLE: ['border', 'cellpadding', 'cellspacing', 'width'], OL: ['start', 'type'], UL: ['type'],
-  TD: ['colspan', 'rowspan', 'align', 'valign'], TH: ['colspan', 'rowspan', 'align', 'valign'],
+  A: ['href', 'name', 'title'], ABBR: ['title'], IMG: ['src', 'alt', 'title', 'width', 'height'],
+  OL: ['start', 'type'], UL: ['type'],
 };
-// Elements without content.
-const empties = set('BR HR IMG');
+// Tags that HTML5 pages have others for; an empty one is left out.
+/** @type {Record<string, string>} */
+const modern = { BIG: '', STRIKE: 'S', TT: 'CODE' };
 
-// The tags for what is emphasis in a style.
-/** @type {[tag: string, says: (style: CSSStyleDeclaration) => boolean][]} */
-const styled = [
-  ['B', ({ fontWeight }) => /bold/.test(fontWeight) || Number(fontWeight) >= 600],
-  ['I', ({ fontStyle }) => /italic|oblique/.test(fontStyle)],
-  ['U', (style) => /underline/.test(style.textDecoration + style.textDecorationLine)],
-  ['S', (style) => /line-through/.test(style.textDecoration + style.textDecorationLine)],
-  ['SUP', ({ verticalAlign }) => verticalAlign === 'super'],
-  ['SUB', ({ verticalAlign }) => verticalAlign === 'sub'],
-];
-// True for an element that its own style makes none: some programs put such a B around everything.
-/** @param {HTMLElement} element */
-const isUndone = ({ tagName, style }) =>
-  (/^(B|STRONG)$/.test(tagName) && /^(normal|400)$/.test(style.fontWeight)) ||
-  (/^(I|EM)$/.test(tagName) && style.fontStyle === 'normal');
-
-/** @param {AnyNode} node */
-const isBlock = (node) => dom.isElement(node) && dom.isBlock(node);
-/**
- * @param {AnyNode[]} nodes
- * @returns {boolean}
- */
-const hasText = (nodes) => nodes.some((node) => {
-  if (dom.isText(node)) return /[^ \n]/.test(node.data);
-  return empties.has(node.tagName) || hasText([...node.childNodes]);
-});
-
-// The nodes of a line less the breaks at its ends, which are there as a gap or to hold it open.
-/** @param {AnyNode[]} nodes */
-function withoutGaps(nodes) {
-  /** @param {AnyNode} node */
-  const isGap = (node) => dom.isBreak(node) || (dom.isText(node) && !hasText([node]));
-  const shown = nodes.filter((node) => !isGap(node));
-  const [first, last] = [nodes.indexOf(shown[0]), nodes.indexOf(shown.at(-1))];
-  /** @param {AnyNode[]} part */
-  const breaks = (part) => part.some(dom.isBreak);
-  return shown.length ? nodes.slice(breaks(nodes.slice(0, first)) ? first : 0,
-    breaks(nodes.slice(last)) ? last + 1 : nodes.length) : [];
-}
-// Runs of inline nodes between blocks become paragraphs; those that show nothing go.
-/** @param {AnyNode[]} nodes */
-function paragraphs(nodes) {
-  const result = [];
-  /** @type {AnyNode[]} */
-  let run = [];
-  const flush = () => {
-    const shown = withoutGaps(run);
-    if (hasText(shown)) result.push(elementAround('P', shown));
-    run = [];
-  };
-  for (const node of nodes) {
-    if (isBlock(node)) {
-      flush();
-      result.push(node);
-    } else {
-      run.push(node);
-    }
-  }
-  flush();
-  return result;
-}
-/**
- * @param {string} tag
- * @param {AnyNode[]} nodes
- */
-function elementAround(tag, nodes) {
-  const element = dom.create(tag);
-  element.append(...nodes);
-  return element;
-}
+// Their own colours count in nothing of these.
+const uncoloured = set('A CODE KBD PRE SAMP TT');
+// What `Inside` knows of.
+const counted = new Set([...emphasis, ...uncoloured]);
 
 // False for an address that runs a script, or that means something in the other program only.
 /**
@@ -103,7 +44,7 @@ function elementAround(tag, nodes) {
  */
 function isSafeAddress(name, value) {
   const address = value.trim().replace(/[\u0000-\u0020]/g, '');
-  if (name === 'href') return !/^(javascript|vbscript|data):/i.test(address);
+  if (name === 'href') return !/^(javascript|vbscript|data):|^(file:.*)?#_/i.test(address);
   return name !== 'src' || !/^(javascript|cid|blob|about):|msohtml/i.test(address);
 }
 /**
@@ -116,39 +57,31 @@ function copyAttributes(from, to) {
   for (const name of attributes[from.tagName] ?? []) {
     const value = from.getAttribute(name);
     const own = name === 'name' && value?.startsWith('_');
-    if (value !== null && !own && isSafeAddress(name, value)) to.setAttribute(name, value);
+    const written = name === 'name' && dom.writesStyles() ? 'id' : name;
+    const says = value !== null && (value !== '' || name === 'alt');
+    if (says && !own && isSafeAddress(name, value)) to.setAttribute(written, value);
   }
   return to;
 }
 
-// Wraps nodes by `make`, which is given a line's nodes: within each line where there are blocks.
-/**
- * @param {AnyNode[]} nodes
- * @param {(line: AnyNode[]) => Node} make
- * @returns {AnyNode[]}
- */
-function wrapLines(nodes, make) {
-  if (!hasText(nodes)) return nodes;
-  if (!nodes.some(isBlock)) return [make(nodes)];
-  return nodes.flatMap((node) => {
-    if (!isBlock(node) || empties.has(node.tagName)) return wrapLines([node], make);
-    const lines = wrapLines([...node.childNodes], make);
-    node.append(...lines);
-    return [node];
-  });
-}
-
-// The content with the emphasis that an element's style has.
+// The content with the emphasis and the colours that an element's style has.
 /**
  * @param {AnyNode[]} nodes
  * @param {HTMLElement} element
- * @param {Set<string>} inside
+ * @param {Inside} inside
+ * @param {looks.Colours} colours
  */
-function emphasised(nodes, element, inside) {
-  if (!nodes.length || !element.hasAttribute('style')) return nodes;
-  const names = styled.filter(([, says]) => says(element.style)).map(([tag]) => tag)
-    .filter((tag) => !inside.has(tag) && !(tag === 'U' && inside.has('A')));
-  return names.reduce((content, tag) => inEmphasis(content, tag), nodes);
+function withLooks(nodes, element, { tags }, colours) {
+  const coloured = looks.elementsFor(colours).reduceRight((content, shell) =>
+    wrapLines(content, (line) => {
+      const part = shell.cloneNode(false);
+      for (const node of line) part.appendChild(node);
+      return part;
+    }), nodes);
+  if (!nodes.length || !element.hasAttribute('style')) return coloured;
+  return looks.emphasisOf(element)
+    .filter((tag) => !tags.has(tag) && !(tag === 'U' && tags.has('A')))
+    .reduce((content, tag) => inEmphasis(content, tag), coloured);
 }
 
 // The nodes in an element of emphasis; headings are bold without one.
@@ -157,51 +90,107 @@ function emphasised(nodes, element, inside) {
  * @param {string} tag
  */
 function inEmphasis(nodes, tag) {
+  const written = (dom.writesStyles() ? modern[tag] : null) ?? tag;
+  if (!written) return nodes;
   const bold = /^(B|STRONG)$/.test(tag);
   return nodes.some(isBlock)
     ? nodes.flatMap((node) =>
       (bold && isBlock(node) && /^(H[1-6]|TH)$/.test(node.tagName)
-        ? [node] : wrapLines([node], (content) => elementAround(tag, content))))
-    : wrapLines(nodes, (content) => elementAround(tag, content));
+        ? [node] : wrapLines([node], (content) => elementAround(written, content))))
+    : wrapLines(nodes, (content) => elementAround(written, content));
 }
 
-// Tags that mean the same for `inside`.
+// Tags that mean the same within one another.
 /** @type {Record<string, string>} */
-const same = { STRONG: 'B', EM: 'I', INS: 'U' };
-// What one node becomes. `inside`: the tags around it.
+const same = { STRONG: 'B', EM: 'I', INS: 'U', STRIKE: 'S' };
+
+/**
+ * What is known of what is around a node: the tags of emphasis and the like, the colours of its
+ * words, the side of its lines.
+ * @typedef {{ tags: Set<string>, colours: looks.Colours, side: string }} Inside
+ */
+/** @type {Inside} */
+const outermost = { tags: new Set(), colours: { colour: '', behind: '' }, side: '' };
+/**
+ * An element whose content is being cleaned.
+ * @typedef {{ node: HTMLElement, outer: Inside, inside: Inside, colours: looks.Colours,
+ *   content: AnyNode[], next: ChildNode | null }} Frame
+ */
+
+const isCellTag = /^(TD|TH)$/;
+/**
+ * @param {HTMLElement} node
+ * @param {Inside} outer
+ * @returns {Frame}
+ */
+function frameOf(node, outer) {
+  const tag = node.tagName;
+  const added = isPlain(node, outer) ? [] : [same[tag] ?? tag].filter((kind) => counted.has(kind));
+  if (/^(H[1-6]|TH)$/.test(tag)) added.push('B');
+  const keepsColours = (tag === 'FONT' || node.hasAttribute('style')) &&
+    ![...uncoloured].some((kind) => outer.tags.has(kind)) && !uncoloured.has(tag);
+  const colours = keepsColours ? looks.coloursOf(node, outer.colours) : outermost.colours;
+  const side = isBlock(node) ? looks.sideOf(node) : '';
+  let inside = outer;
+  if (added.length) inside = { ...inside, tags: new Set([...inside.tags, ...added]) };
+  if (colours.colour || colours.behind) {
+    const { colour, behind } = outer.colours;
+    inside = {
+      ...inside,
+      colours: { colour: colours.colour || colour, behind: colours.behind || behind },
+    };
+  }
+  if (isCellTag.test(tag)) inside = { ...inside, side: '' };
+  else if (side) inside = { ...inside, side };
+  return { node, outer, inside, colours, content: [], next: node.firstChild };
+}
+// True for an element of emphasis that adds none.
+/**
+ * @param {HTMLElement} node
+ * @param {Inside} outer
+ */
+const isPlain = (node, { tags }) => looks.isUndone(node) ||
+  (emphasis.has(node.tagName) && tags.has(same[node.tagName] ?? node.tagName));
+
+// What a node becomes that is not gone through; null for an element whose content is.
 /**
  * @param {AnyNode} node
- * @param {Set<string>} inside
- * @returns {AnyNode[]}
+ * @param {Inside} inside
+ * @returns {AnyNode[] | null}
  */
-function clean(node, inside) {
-  if (dom.isText(node)) return [cleanText(node, inside)].filter(({ length }) => length);
-  if (!dom.isElement(node) || dropped.has(node.tagName)) return [];
+function leafOf(node, { tags }) {
+  if (dom.isText(node)) {
+    const text = tags.has('PRE') ? node.data : node.data.replace(/[ \t\r\n\u00a0]+/g, ' ');
+    return text ? [document.createTextNode(text)] : [];
+  }
+  if (!dom.isElement(node) || dropped.has(node.tagName) || looks.isHidden(node)) return [];
+  return empties.has(node.tagName) ? copyOfEmpty(node) : null;
+}
+// What an element becomes whose content is cleaned.
+/** @param {Frame} frame */
+function made(frame) {
+  const { node, outer, inside, colours } = frame;
+  const content = withLooks(frame.content, node, inside, colours);
   const tag = node.tagName;
-  const kind = same[tag] ?? tag;
-  const plain = isUndone(node) || (inside.has(kind) && emphasis.has(tag));
-  const within = new Set([...inside, ...(plain ? [] : [kind])]);
-  if (/^(H[1-6]|TH)$/.test(tag)) within.add('B');
-  if (empties.has(tag)) return copyOfEmpty(node);
-  const all = [...node.childNodes].flatMap((child) => clean(child, within));
-  const content = emphasised(all, node, within);
   if (tag === 'A') return link(node, content);
-  if (emphasis.has(tag) && !plain) return inEmphasis(content, tag);
-  if (structure.has(tag)) return structured(node, content);
-  return dom.isBlock(node) ? paragraphs(content) : content;
+  if (emphasis.has(tag) && !isPlain(node, outer)) return inEmphasis(content, tag);
+  if (structure.has(tag)) return structured(frame, content);
+  return dom.isBlock(node) ? paragraphs(content, inside.side) : content;
 }
-/**
- * @param {Text} text
- * @param {Set<string>} inside
- */
-function cleanText({ data }, inside) {
-  if (inside.has('PRE')) return document.createTextNode(data);
-  return document.createTextNode(data.replace(/[ \t\r\n\u00a0]+/g, ' '));
-}
-/** @param {Element} node */
+
+// Alternatives of pictures that are characters.
+const isEmoji = /^(?:\p{Extended_Pictographic}|\p{Emoji_Modifier}|\u200d|\ufe0f)+$/u;
+/** @param {HTMLElement} node */
 function copyOfEmpty(node) {
   const copy = copyAttributes(node, dom.create(node.tagName));
-  return node.tagName === 'IMG' && !copy.hasAttribute('src') ? [] : [copy];
+  if (node.tagName !== 'IMG') return [copy];
+  const alternative = node.getAttribute('alt')?.trim() ?? '';
+  const stand = () => (alternative ? [document.createTextNode(alternative)] : []);
+  if (isEmoji.test(alternative)) return stand();
+  // Mails count their readers by pictures of one pixel.
+  const sides = ['width', 'height'].map((name) => node.getAttribute(name));
+  if (sides.every((side) => side !== null && Number(side) <= 1)) return [];
+  return copy.hasAttribute('src') ? [copy] : stand();
 }
 /**
  * @param {Element} node
@@ -209,11 +198,13 @@ function copyOfEmpty(node) {
  */
 function link(node, content) {
   const copy = copyAttributes(node, dom.create('A'));
-  if (!copy.hasAttribute('href') && !copy.hasAttribute('name')) return content;
+  const isNamed = copy.hasAttribute('name') || copy.id !== '';
+  if (!isNamed && (!copy.hasAttribute('href') || !hasText(content))) return content;
   if (content.some(isBlock)) {
     return wrapLines(content, (line) => {
       const part = /** @type {Element} */ (copy.cloneNode(false));
       copy.removeAttribute('name');
+      copy.removeAttribute('id');
       part.append(...line);
       return part;
     });
@@ -224,48 +215,85 @@ function link(node, content) {
 
 // What an element of the structure becomes, given what its content became.
 /**
+ * @param {Frame} frame
+ * @param {AnyNode[]} content
+ */
+function structured({ node, outer, inside }, content) {
+  const tag = node.tagName;
+  if (/^(UL|OL|DL)$/.test(tag)) return list(node, content);
+  if (/^(TABLE|TBODY|THEAD|TFOOT|TR)$/.test(tag)) return partOfTable(node, content, outer.side);
+  const blocks = content.some(isBlock);
+  if (isCellTag.test(tag)) return [cell(/** @type {HTMLTableCellElement} */ (node), content)];
+  if (/^(LI|DD|CAPTION)$/.test(tag)) return [item(node, content)];
+  if (tag === 'BLOCKQUOTE') {
+    return hasText(content) ? [elementAround(tag, paragraphs(content, inside.side))] : [];
+  }
+  // A paragraph or heading around blocks is none; an empty one is a gap.
+  if (blocks) return paragraphs(content, inside.side);
+  const line = tag === 'PRE' ? content : trim(withoutGaps(content));
+  if (!hasText(line)) return [];
+  const copy = copyAttributes(node, elementAround(tag, line));
+  // A colour of all of a heading is its page's look.
+  if (dom.isHeading(copy) && line.length === 1 && /^(FONT|SPAN)$/.test(line[0].tagName)) {
+    dom.unwrap(line[0]);
+  }
+  if (inside.side && inside.side !== 'left' && tag !== 'PRE') looks.setSide(copy, inside.side);
+  return [copy];
+}
+/**
  * @param {Element} node
  * @param {AnyNode[]} content
  */
-function structured(node, content) {
-  const tag = node.tagName;
-  if (/^(UL|OL|DL)$/.test(tag)) return list(node, content);
-  if (/^(TABLE|TBODY|THEAD|TFOOT|TR)$/.test(tag)) {
-    const parts = content.filter(isBlock);
-    const copy = copyAttributes(node, elementAround(tag, parts));
-    return parts.length ? [copy] : [];
-  }
+function item(node, content) {
   const blocks = content.some(isBlock);
-  if (/^(LI|TD|TH|DD|CAPTION)$/.test(tag)) {
-    const inner = blocks ? unwrapSingle(content) : content;
-    const lines = tag === 'LI' && !blocks ? withoutGaps(inner) : inner;
-    return [copyAttributes(node, elementAround(tag, trim(lines)))];
+  const inner = blocks ? unwrapSingle(content) : content;
+  const lines = node.tagName === 'LI' && !blocks ? withoutGaps(inner) : inner;
+  return copyAttributes(node, elementAround(node.tagName, trim(lines)));
+}
+/**
+ * @param {AnyNode} node
+ * @param {AnyNode[]} content
+ * @param {string} side
+ */
+function partOfTable(node, content, side) {
+  const parts = content.filter(isBlock);
+  if (!parts.length) return [];
+  /** @type {AnyNode} */
+  const copy = copyAttributes(node, elementAround(node.tagName, parts));
+  if (node.tagName === 'TR') setRowLooks(node, copy);
+  if (node.tagName === 'TABLE') setTableLooks(node, copy, side);
+  return [copy];
+}
+// A cell takes the side of the paragraph that is all of it.
+/**
+ * @param {HTMLTableCellElement} node
+ * @param {AnyNode[]} content
+ */
+function cell(node, content) {
+  const shown = content.filter((each) => !dom.isText(each) || hasText([each]));
+  const [only] = shown;
+  const side = shown.length === 1 && only.tagName === 'P' ? looks.sideOf(only) : '';
+  if (side) {
+    only.removeAttribute('align');
+    only.removeAttribute('style');
   }
-  if (tag === 'BLOCKQUOTE') {
-    return blocks || hasText(content) ? [elementAround(tag, paragraphs(content))] : [];
-  }
-  // A paragraph or heading around blocks is none; an empty one is a gap.
-  if (blocks) return paragraphs(content);
-  const line = tag === 'PRE' ? content : trim(withoutGaps(content));
-  return hasText(line) ? [copyAttributes(node, elementAround(tag, line))] : [];
+  const inner = content.some(isBlock) ? unwrapSingle(content) : content;
+  /** @type {AnyNode} */
+  const copy = copyAttributes(node, elementAround(node.tagName, trim(inner)));
+  setCellLooks(node, copy);
+  if (side) looks.setSide(copy, side);
+  return copy;
 }
 // The content of an item or cell; a paragraph that is all of it, but for lists behind, is
-// unwrapped.
+// unwrapped, unless it has an alignment of its own.
 /** @param {AnyNode[]} content */
 function unwrapSingle(content) {
   const shown = content.filter((node) => !dom.isText(node) || hasText([node]));
-  if (shown[0]?.tagName === 'P' && shown.slice(1).every(dom.isList)) {
+  const isBare = shown[0]?.tagName === 'P' && !shown[0].attributes.length;
+  if (isBare && shown.slice(1).every(dom.isList)) {
     return [...shown[0].childNodes, ...shown.slice(1)];
   }
   return shown;
-}
-/** @param {AnyNode[]} nodes */
-function trim(nodes) {
-  const result = [...nodes];
-  if (dom.isText(result[0])) result[0].data = result[0].data.replace(/^ /, '');
-  const last = result.at(-1);
-  if (dom.isText(last)) last.data = last.data.replace(/ $/, '');
-  return result.filter((node) => !dom.isText(node) || node.length);
 }
 // What a list becomes: one with items only; a list directly in it goes into the item before.
 /**
@@ -282,111 +310,49 @@ function list(node, content) {
   return copy.firstChild ? [copy] : [];
 }
 
-// Office documents write list items as paragraphs, with the bullet or number as text. Takes that
-// out, and answers which list (`name`) the paragraph belongs to and its level in it, 0 for no item.
-/** @param {Element} paragraph */
-function readItem(paragraph) {
-  const style = paragraph.getAttribute('style') ?? '';
-  const [, name, level = '0'] = /mso-list:\s*(\S+)[^;"]*level(\d)/.exec(style) ?? [];
-  if (!Number(level)) return { name, level: 0, tag: '', start: 0 };
-  const sign = [...paragraph.querySelectorAll('span')]
-    .find((span) => /mso-list:\s*ignore/i.test(span.getAttribute('style') ?? ''));
-  const [, number] = /^\s*\(?([0-9a-z]{1,4})[.)]/i.exec(sign?.textContent ?? '') ?? [];
-  sign?.remove();
-  return { name, level: Number(level), tag: number ? 'OL' : 'UL', start: Number(number) };
-}
-
-// Opens lists until there is one of the item's level. `lists` are the open ones, the outermost
-// first.
+// How many nodes are cleaned between two looks at the clock.
+const nodesAtOnce = 200;
 /**
- * @param {AnyNode[]} lists
- * @param {{ level: number, tag: string, start: number }} item
- * @param {Element} paragraph
+ * Cleans another program's markup bit by bit: tells again and again which part of the work is done,
+ * and answers at the end what is ready to be put in.
+ * @param {string} html
+ * @returns {Generator<number, DocumentFragment, void>}
  */
-function openLists(lists, { level, tag, start }, paragraph) {
-  while (lists.length < level) {
-    const made = paragraph.ownerDocument.createElement(tag);
-    if (lists.length === level - 1 && start > 1) made.setAttribute('start', String(start));
-    if (lists.length) (lists.at(-1).lastChild ?? lists.at(-1)).append(made);
-    else paragraph.before(made);
-    lists.push(made);
-  }
-}
-
-// Makes lists of such paragraphs.
-/** @param {HTMLElement} root */
-function makeLists(root) {
-  /** @type {AnyNode[]} */
-  let lists = [];
-  let last = null;  // the outermost list
-  let of = '';
-  for (const paragraph of [...root.querySelectorAll('p, h1, h2, h3, h4, h5, h6')]) {
-    const found = readItem(paragraph);
-    if (!found.level) continue;
-    const { name, level, tag } = found;
-    const isBeside = last && paragraph.previousElementSibling === last;
-    if (!isBeside || (level === 1 && name !== of)) lists = [];
-    of = name;
-    lists.length = Math.min(lists.length, level);
-    if (lists[level - 1]?.tagName !== tag) lists.length = Math.min(lists.length, level - 1);
-    const item = root.ownerDocument.createElement('LI');
-    item.append(...paragraph.childNodes);
-    openLists(lists, found, paragraph);
-    lists.at(-1).append(item);
-    last = lists[0];
-    paragraph.remove();
-  }
-}
-
-// What is between the comments that a program has put around its fragment, with the table or list
-// that it is a part of; all of the markup where there are none.
-/** @param {string} html */
-function partOf(html) {
-  const { body } = new DOMParser().parseFromString(html, 'text/html');
-  const comments = document.createNodeIterator(body, NodeFilter.SHOW_COMMENT);
-  /** @type {{ Start?: Node, End?: Node }} */
-  const marks = {};
-  for (let node = comments.nextNode(); node; node = comments.nextNode()) {
-    const [, name] = /^\s*(Start|End)Fragment\s*$/.exec(node.nodeValue) ?? [];
-    if (name) marks[/** @type {'Start' | 'End'} */ (name)] ??= node;
-  }
-  if (!marks.Start || !marks.End) return body;
-  const range = document.createRange();
-  range.setStartAfter(marks.Start);
-  range.setEndBefore(marks.End);
-  /** @type {Node} */
-  let part = range.collapsed ? body : range.cloneContents();
-  let at = range.commonAncestorContainer;
-  for (; /^(TABLE|TBODY|THEAD|TFOOT|TR|OL|UL|PRE)$/.test(at.nodeName); at = at.parentNode) {
-    const shell = at.cloneNode(false);
-    shell.appendChild(part);
-    part = shell;
-  }
-  const holder = body.ownerDocument.createElement('DIV');
-  holder.append(part);
-  return holder;
-}
-
-// Makes PRE of source code, which comes as a division with kept blanks for each line.
-/** @param {HTMLElement} root */
-function makePreformatted(root) {
-  /** @param {AnyNode} element */
-  const isCode = ({ style }) => /^pre/.test(style.whiteSpace) &&
-    /mono|courier|consolas|menlo/i.test(style.fontFamily);
-  for (const code of [...root.querySelectorAll('div[style*="white-space"]')].filter(isCode)) {
-    const pre = root.ownerDocument.createElement('PRE');
-    code.before(pre);
-    for (const node of [...code.childNodes]) {
-      const line = node.nodeName === 'DIV';
-      pre.append(...(line ? node.childNodes : [node]), ...(line ? ['\n'] : []));
+export function* cleaning(html) {
+  const from = new DOMParser().parseFromString(html, 'text/html');
+  yield 0;
+  looks.applyClassRules(from);
+  const body = partOf(from);
+  makePreformatted(body);
+  makeLists(body);
+  yield 0;
+  // Elements and about as many texts.
+  const all = 2 * body.getElementsByTagName('*').length + 1;
+  const frames = [frameOf(body, outermost)];
+  for (let done = 1; frames.length; done++) {
+    if (done % nodesAtOnce === 0) yield Math.min(done / all, 1);
+    const frame = frames.at(-1);
+    const node = frame.next;
+    if (!node) {
+      frames.pop();
+      if (!frames.length) return fragmentOf(frame.content);
+      for (const each of made(frame)) frames.at(-1).content.push(each);
+      continue;
     }
-    code.remove();
+    frame.next = node.nextSibling;
+    const leaf = leafOf(node, frame.inside);
+    if (leaf) frame.content.push(...leaf);
+    else frames.push(frameOf(/** @type {HTMLElement} */ (node), frame.inside));
   }
-  for (const gap of root.querySelectorAll('pre br')) gap.replaceWith('\n');
-  for (const pre of root.querySelectorAll('pre')) {
-    const last = pre.lastChild;
-    if (dom.isText(last)) last.data = last.data.replace(/\n$/, '');
-  }
+  return document.createDocumentFragment();
+}
+/** @param {AnyNode[]} content */
+function fragmentOf(content) {
+  const fragment = document.createDocumentFragment();
+  const isLine = !content.some(isBlock);
+  for (const node of isLine ? joined(content) : paragraphs(content)) fragment.append(node);
+  fragment.normalize();
+  return fragment;
 }
 
 /**
@@ -394,13 +360,10 @@ function makePreformatted(root) {
  * @param {string} html
  * @returns {DocumentFragment}
  */
-export const cleaned = (html) => {
-  const body = partOf(html);
-  makePreformatted(body);
-  makeLists(body);
-  const content = [...body.childNodes].flatMap((node) => clean(node, new Set()));
-  const fragment = document.createDocumentFragment();
-  fragment.append(...(content.some(isBlock) ? paragraphs(content) : content));
-  fragment.normalize();
-  return fragment;
-};
+export function cleaned(html) {
+  const work = cleaning(html);
+  for (;;) {
+    const { done, value } = work.next();
+    if (done) return /** @type {DocumentFragment} */ (value);
+  }
+}

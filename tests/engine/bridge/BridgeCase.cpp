@@ -40,6 +40,13 @@ QStringList LinesOf(const QString &path) {
   return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
 }
 
+/// What another program has put on the clipboard.
+QString ClipboardFile(const QString &name) {
+  QFile file(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/clipboard/") + name);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
+  return QString::fromUtf8(file.readAll());
+}
+
 /// The words "name=value" of a step as pairs for the page, without the one named `left`.
 QString PairsOf(const QString &words, const QString &left = {}) {
   QStringList pairs;
@@ -150,6 +157,12 @@ void Perform(BridgePage &page, const QString &step) {
     const QString type = verb == QStringLiteral("pasteText") ? QStringLiteral("text/plain")
                                                              : QStringLiteral("text/html");
     page.Evaluate(QStringLiteral("markup.paste(%1, %2)").arg(ScriptText(type), ScriptText(value)));
+  } else if (verb == QStringLiteral("pasteFile")) {
+    page.Evaluate(
+        QStringLiteral("markup.paste(%1, %2)")
+            .arg(ScriptText(value.endsWith(QStringLiteral(".html")) ? QStringLiteral("text/html")
+                                                                    : QStringLiteral("text/plain")),
+                 ScriptText(ClipboardFile(value))));
   } else if (verb == QStringLiteral("cutAndPaste")) {
     page.Evaluate(QStringLiteral("markup.paste('text/html', markup.cut())"));
   } else if (CommandNumbers().count(verb) == 1) {
