@@ -16,6 +16,8 @@ if(no_checkout)
 endif()
 execute_process(COMMAND date -R -d "${released}" OUTPUT_VARIABLE VELOR_RELEASE_TIME OUTPUT_STRIP_TRAILING_WHITESPACE)
 string(SUBSTRING "${released}" 0 10 VELOR_RELEASE_DATE)
+# Where the manual's pictures lie for software centres.
+set(VELOR_PICTURES_ADDRESS "https://velor.example/manual" CACHE STRING "Address of the folder with docs/manual/*.png")
 configure_file("${packaging}/${application}.metainfo.xml.in" "${made}/${application}.metainfo.xml" @ONLY)
 
 configure_file("${packaging}/${application}.service.in" "${made}/${application}.service" @ONLY)
