@@ -96,7 +96,7 @@ int main(int argc, char **argv) {
   // The session ends: whatever becomes of the other programs, nothing may be lost here.
   QObject::connect(&application, &QGuiApplication::commitDataRequest, mainWindow.get(),
                    [&](QSessionManager &manager) {
-                     if (!KeepPagesAtExit(mainWindow->Context())) manager.cancel();
+                     if (!KeepPagesAtSessionEnd(mainWindow->Context())) manager.cancel();
                    });
   return Application::exec();
 }

@@ -41,6 +41,12 @@ bool EndsAllTheSame(Dialogs &dialogs, const QStringList &captions) {
   return dialogs.ShowMessage(question) == MessageAnswer::Yes;
 }
 
+void GoOn(const QList<QPointer<frmMain>> &pages) {
+  for (const QPointer<frmMain> &page : pages) {
+    if (page) page->Journal().CancelExit();
+  }
+}
+
 }  // namespace
 
 bool KeepPagesAtExit(EditorContext &context) {
@@ -51,10 +57,14 @@ bool KeepPagesAtExit(EditorContext &context) {
     if (page && !page->Journal().KeepAtExit()) lost << page->windowTitle();
   }
   if (lost.isEmpty() || EndsAllTheSame(context.platform.dialogs, lost)) return true;
-  for (const QPointer<frmMain> &page : open) {
-    if (page) page->Journal().CancelExit();
-  }
+  GoOn(open);
   return false;
+}
+
+bool KeepPagesAtSessionEnd(EditorContext &context) {
+  const bool mayEnd = KeepPagesAtExit(context);
+  GoOn(OpenPages(context));
+  return mayEnd;
 }
 
 }  // namespace velor

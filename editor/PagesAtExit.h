@@ -10,4 +10,8 @@ namespace velor {
 /// otherwise asks nothing. False when the program is to go on.
 bool KeepPagesAtExit(EditorContext &context);
 
+/// The same where the desktop's session is about to end: somebody may call that off, so changes are
+/// followed on until the program itself ends.
+bool KeepPagesAtSessionEnd(EditorContext &context);
+
 }  // namespace velor

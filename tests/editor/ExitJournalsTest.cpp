@@ -62,6 +62,21 @@ TEST_F(ExitJournals, WhereAPageCannotBeKeptExitAsksAndNoGoesOn) {
   EXPECT_EQ(journals.Written()[0].end, RunEnd::Unforeseen);
 }
 
+TEST_F(ExitJournals, WhatIsTypedAfterASessionEndWasCalledOffIsKeptToo) {
+  Open(IndexFile);
+  Component(1).Edit(Changed);
+  EXPECT_TRUE(KeepPagesAtSessionEnd(context));
+  EXPECT_TRUE(IsWritten(Changed));
+  const QString later = QStringLiteral("<p>and on</p>");
+  Change(1, later);
+  EXPECT_TRUE(IsWritten(later));
+  EXPECT_EQ(journals.Written()[0].end, RunEnd::Unforeseen);
+  Component(1).Edit(Changed);
+  EXPECT_TRUE(Exit());
+  EXPECT_TRUE(IsWritten(Changed));
+  EXPECT_EQ(journals.Written()[0].end, RunEnd::Exit);
+}
+
 TEST_F(ExitJournals, YesEndsTheProgramWithoutTheChanges) {
   Open(IndexFile);
   journals.writeFailure = ErrorNumber::DiskFull;
