@@ -126,6 +126,12 @@ def day(tour):
     tour.program.wait("Web Site Project Manager", "dialog|frame|window")
     tour.program.shot("project-manager")
     tour.program.key("Escape")
+    tour.program.wait_gone("Web Site Project Manager", "dialog|frame|window")
+    ask_as_desktop("ActivateAction", GLib.Variant("(sava{sv})", ("recent-files", [], {})))
+    tour.program.wait("Recent Files", "dialog")
+    tour.program.shot("recent-files")
+    tour.program.key("Escape")
+    tour.program.wait_gone("Recent Files", "dialog")
 
     step("exit leaves nothing running")
     tour.program.open_popup(lambda: tour.program.key("alt+f"))
