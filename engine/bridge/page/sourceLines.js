@@ -235,7 +235,8 @@ function made(changes) {
    * @param {AnyNode[]} [nodes]
    */
   const isAround = (block, nodes = []) =>
-    nodes.some((node) => !dom.isBlock(node) && takenFrom.get(node)?.contains(block));
+    nodes.some((node) => !dom.isBlock(node) && !dom.isBlank(node) &&
+      takenFrom.get(node)?.contains(block));
   const around = new Set(changes
     .filter(({ target, added }) => blocks.has(target) && isAround(target, added))
     .map(({ target }) => target));
