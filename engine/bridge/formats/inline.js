@@ -372,16 +372,16 @@ function anchorsOf(texts, range) {
   const outermost = [{ node: texts[0], offset: 0 }, { node: last, offset: last.length }];
   const { startContainer, startOffset, endContainer, endOffset } = range;
   const leaves = [...selection.leavesIn(range)].filter((leaf) => dom.isShown(leaf) &&
+    !(dom.isText(leaf) && selection.showsNothing(leaf, range)) &&
     (leaf !== startContainer || startOffset < leaf.length) &&
     (leaf !== endContainer || endOffset > 0));
   if (!leaves.length) return outermost;
-  /** @param {AnyNode} leaf */
-  const isThing = (leaf) => dom.isAtom(leaf) || dom.isBreak(leaf);
   /**
    * @param {AnyNode} leaf
    * @param {number} side
    */
-  const beside = (leaf, side) => isThing(leaf) && { beside: leaf, side };
+  const beside = (leaf, side) =>
+    (dom.isAtom(leaf) || dom.isBreak(leaf)) && { beside: leaf, side };
   const [first, end] = [leaves[0], leaves.at(-1)];
   const from = { node: first, offset: first === startContainer ? startOffset : 0 };
   const to = { node: end, offset: end === endContainer ? endOffset : end.length };

@@ -133,12 +133,12 @@ export function* leavesIn(selected) {
   }
 }
 
-// True where nothing but the white space at a line's edge is selected of a text.
 /**
+ * True where nothing but the white space at a line's edge is selected of a text.
  * @param {Text} text
  * @param {PlainRange} range
  */
-function showsNothing(text, { startContainer, startOffset, endContainer, endOffset }) {
+export function showsNothing(text, { startContainer, startOffset, endContainer, endOffset }) {
   const from = text === startContainer ? startOffset : 0;
   const to = text === endContainer ? endOffset : text.length;
   const isAll = from === 0 && to === text.length;
@@ -181,6 +181,20 @@ export function indexOf(node) {
   return counter.startOffset;
 }
 
+// The last node of a line right before a point, where a block follows: a caret is in that line.
+/**
+ * @param {AnyNode} node
+ * @param {number} offset
+ */
+function lineBefore(node, offset) {
+  if (isText(node) && !dom.isIgnorable(node)) return null;
+  const [before, after] = isText(node) ? [node.previousSibling, node.nextSibling]
+    : [node.childNodes[offset - 1], node.childNodes[offset]];
+  const last = dom.shownFrom(before, 'previousSibling');
+  return last && !dom.isBlock(last) && dom.isBlock(dom.shownFrom(after, 'nextSibling'))
+    ? last : null;
+}
+
 // The anchor at a point. `inward` says which side a point between two nodes clings to: 'after',
 // 'before', or 'line' for a caret.
 /**
@@ -190,14 +204,11 @@ export function indexOf(node) {
  * @returns {Anchor}
  */
 function anchorAt(node, offset, inward) {
+  const last = inward === 'line' ? lineBefore(node, offset) : null;
+  if (last) return anchorAt(last.parentNode, indexOf(last) + 1, 'before');
   if (isText(node)) return { node, offset };
   const after = node.childNodes[offset];
   const before = node.childNodes[offset - 1];
-  // A caret at the end of a line before a block clings to the line.
-  const last = inward === 'line' ? dom.shownFrom(before, 'previousSibling') : null;
-  if (last && !dom.isBlock(last) && dom.isBlock(dom.shownFrom(after, 'nextSibling'))) {
-    return anchorAt(node, indexOf(last) + 1, 'before');
-  }
   const child = after && (inward !== 'before' || !before) ? after : before;
   if (!child) return { inside: node };
   const leaf = child === after ? firstLeaf(after) : lastLeaf(before);
