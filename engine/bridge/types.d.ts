@@ -72,7 +72,7 @@ interface Noted {
   texts: Map<Text, string>;         // those that the change may reach, as they were
   left: Neighbour | null;           // what was beside the caret
   right: Neighbour | null;
-  alone: Map<Text, Siblings>;       // where those stood that hold white space only
+  stood: Map<Text, Siblings>;       // where they stood
   start: { node: AnyNode; offset: number };
   target: PlainRange | null;        // what the engine was about to delete in texts
   isStandIn?(character: Neighbour | null): boolean;
@@ -81,7 +81,13 @@ interface Noted {
 interface Siblings { parentNode: AnyNode; previousSibling: AnyNode; nextSibling: AnyNode }
 
 /** A no-break space that stands for a blank; see page/standIns.js. */
-interface StandIn { node: Text; index: number; typed: boolean; was: string; across: Side | null }
+interface StandIn {
+  node: Text;
+  index: number;
+  typed: boolean;
+  was: string;
+  across: Side | 'none' | null;
+}
 /** A stand-in, and the text that the page has in its place. */
 interface Resolution { node: Text; index: number; text: string }
 

@@ -10,6 +10,7 @@ import * as dom from '../page/dom.js';
 import { dropEmptyInline, holdOpen, lineElement } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { takeInSigns } from '../page/signs.js';
+import { splitText } from '../page/standIns.js';
 import { gapAt } from '../page/units.js';
 
 // Across table cells only contents go; the cells stay.
@@ -18,7 +19,7 @@ function deleteLeaves(range) {
   const { startContainer, startOffset, endContainer, endOffset } = range;
   const blocks = new Set();
   for (const leaf of [...selection.leavesIn(range)]) {
-    if (!dom.isShown(leaf)) continue;
+    if (!dom.isShown(leaf) || dom.isCell(leaf)) continue;
     const { parentNode } = leaf;
     blocks.add(dom.blockOf(parentNode));
     const from = leaf === startContainer ? startOffset : 0;
@@ -50,15 +51,31 @@ function deleteInParagraph(range) {
   dropEmptyInline(startContainer);
   dropEmptyInline(endContainer);
   holdOpen(block);
-  holdItemOpen(block);
+  holdItemOpen(block, range);
 }
 
-// An item whose own line is left empty before the list in it has that line still.
-/** @param {AnyNode} item */
-function holdItemOpen(item) {
+// An item whose own line is left empty before the list in it has that line still, where the range
+// has been.
+/**
+ * @param {AnyNode} item
+ * @param {Range} range
+ */
+function holdItemOpen(item, range) {
   const first = item.tagName === 'LI' && item.isConnected
     ? dom.shownFrom(item.firstChild, 'nextSibling') : null;
-  if (dom.isList(first)) first.before(dom.create('BR'));
+  if (!dom.isList(first)) return;
+  const line = dom.create('BR');
+  const { startContainer, startOffset } = range;
+  /** @type {AnyNode} */
+  let next = first;
+  if (startContainer === item) next = item.childNodes[startOffset];
+  else if (dom.isText(startContainer) && startContainer.parentNode === item) {
+    if (startOffset === 0) next = startContainer;
+    else if (startOffset < startContainer.length) next = splitText(startContainer, startOffset);
+  }
+  item.insertBefore(line, next);
+  range.setStartBefore(line);
+  range.collapse(true);
 }
 
 // The one object or closed island that is all that is selected; null for anything else.
@@ -96,6 +113,7 @@ function deleteThing(thing, rest) {
   thing.remove();
   dropEmptyInline(parentNode);
   holdOpen(block);
+  holdItemOpen(block, rest);
 }
 
 // What began before a table or a rule joins nothing: the caret is where the rest begins.
@@ -121,6 +139,22 @@ function breakBefore(node, offset) {
   return dom.isBreak(before) ? before : null;
 }
 
+// Comments at the edges of the range leave it: nobody sees server code there.
+/** @param {Range} range */
+function leaveEdgeComments(range) {
+  const { startContainer, startOffset, endContainer, endOffset } = range;
+  if (dom.isText(startContainer) && startOffset === startContainer.length) {
+    const { nextSibling } = startContainer;
+    for (let at = nextSibling; dom.isComment(at); at = at.nextSibling) range.setStartAfter(at);
+  }
+  if (dom.isText(endContainer) && endOffset === 0) {
+    const { previousSibling } = endContainer;
+    for (let at = previousSibling; dom.isComment(at); at = at.previousSibling) {
+      range.setEndBefore(at);
+    }
+  }
+}
+
 // Deletes from one paragraph into another and joins what is left of the two. `rest` becomes the
 // range where the caret will be.
 /**
@@ -143,6 +177,7 @@ function deleteAcross(range, rest) {
   const mark = document.createTextNode('');
   if (first.nodes.length) first.nodes[0].before(mark);
   else first.container.prepend(mark);
+  leaveEdgeComments(range);
   range.deleteContents();
   dropEmptyInline(startContainer);
   dropEmptyInline(endContainer);

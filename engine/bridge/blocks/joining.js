@@ -40,19 +40,17 @@ export function dropBlock(block) {
   if (dom.isList(before) && isContinuation(before, after)) joinLists(before, after);
 }
 
-/** @param {AnyNode} node */
-const isComment = (node) => node.nodeType === Node.COMMENT_NODE;
 // A paragraph's nodes with the comments at its edges: server code stands as such.
 /** @param {Unit} unit */
 function withComments({ block, nodes }) {
   if (!block) return nodes;
   const own = new Set(nodes);
-  return [...block.childNodes].filter((node) => own.has(node) || isComment(node));
+  return [...block.childNodes].filter((node) => own.has(node) || dom.isComment(node));
 }
 // The comments in a node, in document order.
 /** @type {(node: AnyNode) => ChildNode[]} */
 const commentsIn = (node) =>
-  [...node.childNodes].flatMap((child) => (isComment(child) ? [child] : commentsIn(child)));
+  [...node.childNodes].flatMap((child) => (dom.isComment(child) ? [child] : commentsIn(child)));
 
 // The nodes less the break at their end, which goes, unless it is the one that `line` is behind.
 /**
@@ -76,7 +74,17 @@ function asText(nodes) {
   return text.length ? [text] : [];
 }
 
-// The lists that are all that is left of an item go along into the other one.
+// The last of the comments right behind a node, else the node: what joins a paragraph goes behind
+// server code.
+/** @param {ChildNode} node */
+function endWithComments(node) {
+  let end = node;
+  while (dom.isComment(end.nextSibling)) end = end.nextSibling;
+  return end;
+}
+
+// The lists that are all that is left of an item go along into the other one, before the list of
+// its own that the item stood in.
 /**
  * @param {AnyNode} home
  * @param {AnyNode} item
@@ -84,7 +92,11 @@ function asText(nodes) {
 function moveSublists(home, item) {
   const rest = [...home.childNodes].filter(dom.isShown);
   const onlyLists = rest.length > 0 && rest.every(dom.isList);
-  if (home.tagName === 'LI' && item && !home.contains(item) && onlyLists) item.append(...rest);
+  if (home.tagName !== 'LI' || !item || home.contains(item) || !onlyLists) return;
+  const own = [...item.children].find((child) => child.contains(home));
+  if (!own) item.append(...rest);
+  else own.before(...rest);
+  if (own && isContinuation(rest.at(-1), own)) joinLists(rest.at(-1), own);
 }
 
 /**
@@ -107,7 +119,8 @@ export function join(first, second, mark = null, line = null) {
   const moved = isRaw ? asText(all) : all;
   const last = left.at(-1);
   const between = last ? selection.endOf(last) : selection.startOf(moved[0] ?? first.container);
-  if (last ?? mark) (last ?? mark).after(...moved);
+  if (last) endWithComments(last).after(...moved);
+  else if (mark) mark.after(...moved);
   else if (first.container.firstChild) first.container.prepend(...moved);
   else first.container.append(...moved);
   moveSublists(home, itemOf(first));

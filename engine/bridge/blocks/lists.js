@@ -7,10 +7,8 @@
 import {
   groupNeighbours, groupsOf, isContinuation, isItem, isListOf, itemOf, itemsIn, itemsOf,
 } from './items.js';
-import { moveBlankAbove } from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
-import { holdOpen, dropEmptyInline } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import {
   dropInnerLines, joinLists, moveBehind, moveToEnd, removeList, setCutList,
@@ -337,25 +335,6 @@ export function outdentItemOf(unit) {
   const saved = selection.save();
   groupsOf([unit]).forEach((group) => outdent(group));
   selection.restore(saved);
-}
-
-/**
- * Cuts an item in two at the caret, which is at the start of the second one then. For an item whose
- * text stands in a block with more behind it: the engine would move the text past that.
- * @param {AnyNode} item
- */
-export function splitItem(item) {
-  const mark = document.createTextNode('');
-  selection.range().insertNode(mark);
-  dom.splitBefore(mark, item);
-  const below = dom.blockOf(mark);
-  const above = below === item.nextSibling ? item : item.lastChild;
-  dropEmptyInline(dom.lastLeaf(above));
-  dropEmptyInline(mark);
-  moveBlankAbove(above, below);
-  holdOpen(above);
-  holdOpen(below);
-  selection.setCaret(...selection.pointOf(selection.startOf(below)));
 }
 
 /**

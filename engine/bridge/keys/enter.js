@@ -9,10 +9,11 @@ import * as lists from '../blocks/lists.js';
 import * as typing from '../blocks/typing.js';
 import { joinTexts } from '../formats/merging.js';
 import * as objects from '../objects/objects.js';
+import { beside, isBlank } from '../page/beside.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
-import { dropEmptyInline, openParagraph } from '../page/lines.js';
+import { dropEmptyInline, holdOpen, openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { gapAt, unitsIn } from '../page/units.js';
 import { moveGapAbove } from '../page/whitespace.js';
@@ -97,6 +98,22 @@ function replaceSelection() {
   });
 }
 
+// Cuts a block in two at the caret, which is at the start of the second one then.
+/** @param {AnyNode} block */
+function splitBlock(block) {
+  const mark = document.createTextNode('');
+  selection.range().insertNode(mark);
+  dom.splitBefore(mark, block);
+  const below = dom.blockOf(mark);
+  const above = below === block.nextSibling ? block : block.lastChild;
+  dropEmptyInline(dom.lastLeaf(above));
+  dropEmptyInline(mark);
+  moveGapAbove(above, below);
+  holdOpen(above);
+  holdOpen(below);
+  selection.setCaret(...selection.pointOf(selection.startOf(below)));
+}
+
 // In an item: an empty one is left. With other blocks in the item the engine would put the new one
 // among those.
 /** @param {Unit} unit */
@@ -111,7 +128,40 @@ function enterInItem(unit) {
     ? /^(P|DIV)$/.test(unit.block.tagName) && unit.block.parentNode === item &&
       dom.neighbour(unit.block, 'nextSibling')
     : unit.container === item && others.some((child) => !dom.isList(child));
-  return goesOn ? () => lists.splitItem(item) : null;
+  return goesOn ? () => splitBlock(item) : null;
+}
+
+// True where a comment (server code stands as such) is between the characters beside the caret. The
+// engine would move the caret and white space past it.
+/** @param {PlainRange} caret */
+function isBesideComment({ startContainer, startOffset }) {
+  const left = characterOn('previousSibling', startContainer, startOffset);
+  const right = characterOn('nextSibling', startContainer, startOffset);
+  if (!left || !right) return false;
+  const between = document.createRange();
+  if (left.node) between.setStart(left.node, left.index + 1);
+  else between.setStartAfter(left.object);
+  if (right.node) between.setEnd(right.node, right.index);
+  else between.setEndBefore(right.object);
+  const found = document.createTreeWalker(between.cloneContents(), NodeFilter.SHOW_COMMENT);
+  return found.nextNode() !== null;
+}
+// The nearest character on one side that is no blank, in the same line; null for none.
+/**
+ * @param {Side} side
+ * @param {Node} node
+ * @param {number} offset
+ */
+function characterOn(side, node, offset) {
+  const step = side === 'nextSibling' ? 1 : 0;
+  let at = beside(node, offset, side);
+  while (isBlank(at)) at = beside(at.node, at.index + step, side);
+  return at;
+}
+function splitBesideComment() {
+  typing.prepareCaret({ inputType: 'insertParagraph' });
+  const [unit] = unitsIn(selection.range());
+  splitBlock(unit.block ?? unit.container);
 }
 
 /** @param {Range} range */
@@ -125,7 +175,7 @@ function enterInLine(range) {
   if (unit.block?.tagName === 'ADDRESS' && !dom.isHollow(unit.block)) {
     return () => breakAddress(unit.block);
   }
-  return enterInItem(unit);
+  return enterInItem(unit) ?? (isBesideComment(range) ? splitBesideComment : null);
 }
 
 /** What Enter does here where the engine would do it badly, else null. */

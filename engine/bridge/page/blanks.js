@@ -16,7 +16,6 @@
 // has left. watch() while watching begins anew: what was announced before did not happen.
 import { beginsLine, beside, charAt, edge, endsLine, isBlank, keepsBlanks } from './beside.js';
 import * as dom from './dom.js';
-import { dropEmptyInline } from './lines.js';
 import * as selection from './selection.js';
 import {
   addLeft, addTyped, isStandIn, noBreak, replaceCharacter, resolveAwayFromCaret, shiftStandIns,
@@ -59,6 +58,8 @@ function replaceUnseenBlank() {
   const right = atCaret('nextSibling');
   // In an empty line the source's white space is layout.
   if (beginsLine(left) && (isBeforeBreak() || endsLine(right))) return;
+  const isLaidOut =
+    dom.sides.every((side) => whitespace.gapFrom(atCaret(side), side).includes('\n'));
   /**
    * @param {Neighbour} blank
    * @param {Side} across
@@ -67,7 +68,7 @@ function replaceUnseenBlank() {
     if (keepsBlanks(blank.node)) return;
     const was = charAt(blank);
     replaceCharacter(blank, noBreak);
-    addLeft(blank, was, across);
+    addLeft(blank, was, isLaidOut ? 'none' : across);
   };
   const takesLeft = isBlank(right) && charAt(left) === ' ' && charAt(right) !== ' ';
   if (isBlank(left) && (!right || takesLeft)) {
@@ -75,20 +76,6 @@ function replaceUnseenBlank() {
   } else if (isBlank(right) && (!left || isBlank(left))) {
     replace(right, 'previousSibling');
   }
-}
-
-/**
- * A line was cut between two blocks: the blank that would begin the second ends the first.
- * @param {Element} above
- * @param {Element} below
- */
-export function moveBlankAbove(above, below) {
-  const first = beside(below, 0, 'nextSibling');
-  if (!isBlank(first)) return;
-  first.node.deleteData(first.index, 1);
-  dropEmptyInline(first.node);
-  const last = beside(above, above.childNodes.length, 'previousSibling');
-  if (last?.node && !isBlank(last)) last.node.insertData(last.index + 1, ' ');
 }
 
 /**
@@ -195,8 +182,8 @@ function addNeedless(inputType, data) {
     const { head, tail } = dom.commonEnds(old, node.data);
     const gone = old.slice(head, old.length - tail);
     if (!gone || !node.isConnected) continue;
-    if (/^[ \u00a0]/.test(gone)) addIf(beside(node, head, 'previousSibling'));
-    if (/[ \u00a0]$/.test(gone)) addIf(beside(node, head, 'nextSibling'));
+    if (/^[ \t\r\n\u00a0]/.test(gone)) addIf(beside(node, head, 'previousSibling'));
+    if (/[ \t\r\n\u00a0]$/.test(gone)) addIf(beside(node, head, 'nextSibling'));
   }
 }
 
@@ -251,11 +238,14 @@ export function watched({ inputType, data }) {
 
 /**
  * The last text of a paragraph and the first of the one that joins it: white space that showed
- * nothing there would be a blank between them. A blank alone was seen where it was typed.
+ * nothing there would be a blank between them. A blank alone was seen where it was typed, and it
+ * may be seen beside server code.
  * @param {AnyNode} last
  * @param {AnyNode} next
  */
 export function trimEdges(last, next) {
+  if (dom.isComment(last?.nextSibling)) last = null;
+  if (dom.isComment(next?.previousSibling)) next = null;
   if (dom.isText(last) && !keepsBlanks(last) && !whitespace.partedWords(last)) {
     const unseen = wasTypedIn(last) ? /[ \t\n]{2,}$|\n$/ : /[ \t\n]+$/;
     const [layout = ''] = unseen.exec(last.data) ?? [];

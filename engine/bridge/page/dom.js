@@ -41,6 +41,11 @@ export const sides = ['previousSibling', 'nextSibling'];
 export const isElement = (node) => node?.nodeType === Node.ELEMENT_NODE;
 /** @type {(node: any) => node is Text} */
 export const isText = (node) => node?.nodeType === Node.TEXT_NODE;
+/**
+ * A comment; server code stands as such.
+ * @type {(node: any) => node is Comment}
+ */
+export const isComment = (node) => node?.nodeType === Node.COMMENT_NODE;
 /** @type {(names: Set<string>) => (node: AnyNode) => boolean} */
 const named = (names) => (node) => isElement(node) && names.has(node.tagName);
 export const isBlock = named(blocks);

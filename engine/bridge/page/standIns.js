@@ -47,7 +47,8 @@ export const addTyped = ({ node, index }) =>
  * A no-break space that a change has left in the place of a blank becomes a stand-in.
  * @param {Neighbour} character
  * @param {string} was the character of the page that it stands for
- * @param {Side | null} across it is resolved into nothing where the one on this side is a blank
+ * @param {Side | 'none' | null} across it is resolved into nothing where the one on this side is a
+ *   blank; 'none': it is always resolved into `was`
  */
 export const addLeft = ({ node, index }, was = ' ', across = null) =>
   add({ node, index, typed: false, was, across });
@@ -134,6 +135,7 @@ function resolutions(among) {
     if (!node.isConnected || node.data[index] !== noBreak) return null;
     const left = beside(node, index, 'previousSibling');
     const right = nextBehind(node, index);
+    if (across === 'none') return was;
     if (across === 'previousSibling') return !left || isBlank(left) ? '' : was;
     if (across === 'nextSibling') return right && isGap(right) ? '' : was;
     if (!left) return typed ? null : '';

@@ -6,6 +6,7 @@
 // the source is written back after it.
 import * as dom from './dom.js';
 import { beside, endsLine, isBlank, keepsBlanks } from './beside.js';
+import { dropEmptyInline } from './lines.js';
 import * as selection from './selection.js';
 
 const noBreak = '\u00a0';
@@ -30,6 +31,17 @@ function haveSameWords(one, other) {
   /** @param {string} text */
   const middle = (text) => wordsOf(text.slice(head, text.length - end));
   return middle(one) === middle(other);
+}
+
+/**
+ * The white space that a character is the first of, in its own text.
+ * @param {Neighbour | null} character
+ * @param {Side} side where the rest of it is
+ */
+export function gapFrom(character, side) {
+  if (!character?.node) return '';
+  const { node: { data }, index } = character;
+  return side === 'nextSibling' ? lead(data.slice(index)) : tail(data.slice(0, index + 1));
 }
 
 // The texts from a character on, the first that holds more than white space the last.
@@ -59,7 +71,7 @@ function textsAt({ startContainer, startOffset, endContainer, endOffset }) {
   return { left, right, texts: new Map(nodes.map((node) => [node, node.data])) };
 }
 
-// Where the removed white space stood: the engine drops texts that hold nothing else.
+// Where a text stood: the engine drops those that it leaves without words.
 /**
  * @param {Siblings} node
  * @returns {Siblings}
@@ -84,12 +96,19 @@ export function moveGapAbove(above, below) {
   const first = beside(below, 0, 'nextSibling');
   const last = beside(above, above.childNodes.length, 'previousSibling');
   if (!isBlank(first) || keepsBlanks(first.node) || !last || isBlank(last)) return;
+  // Behind server code a blank may be between words.
+  if (dom.firstLeaf(below) !== first.node) return;
   const gap = lead(first.node.data);
+  const isInCutInline = last.node && first.node.parentNode !== below;
   first.node.deleteData(0, gap.length);
-  if (!first.node.length) first.node.remove();
-  const end = document.createTextNode(gap);
-  above.append(end);
-  cutBehind.set(end, gap);
+  dropEmptyInline(first.node);
+  if (isInCutInline) {
+    last.node.insertData(last.index + 1, gap);
+    cutBehind.set(last.node, gap);
+  } else {
+    above.append(gap);
+    cutBehind.set(above.lastChild, gap);
+  }
 }
 
 /**
@@ -106,9 +125,8 @@ export function note(range, inputType, target) {
     for (const text of selection.textsIn(block)) texts.set(text, text.data);
   }
   const { startContainer, startOffset } = range;
-  const blank = [...texts.keys()].filter(dom.isBlank);
-  const alone = new Map(blank.map((node) => [node, standing(node)]));
-  return { texts, left, right, alone, start: { node: startContainer, offset: startOffset },
+  const stood = new Map([...texts.keys()].map((node) => [node, standing(node)]));
+  return { texts, left, right, stood, start: { node: startContainer, offset: startOffset },
     target: dom.isText(target?.startContainer) && dom.isText(target.endContainer) ? target : null };
 }
 
@@ -271,7 +289,7 @@ function planned(noted, input) {
   return inputType.startsWith('delete') ? afterDeletion(noted) : null;
 }
 
-// A text of white space only that the engine has taken out of the page.
+// A text that is white space now and that the engine has taken out of the page.
 /**
  * @param {AnyNode} node
  * @param {Siblings} stood
@@ -282,8 +300,11 @@ function reinsert(node, { parentNode, previousSibling, nextSibling }, isLeft) {
   /** @param {AnyNode} sibling */
   const isThere = (sibling) => sibling?.parentNode === parentNode;
   if (isLeft) {
-    if (isThere(previousSibling)) previousSibling.after(node);
-    else if (!previousSibling) parentNode.prepend(node);
+    if (previousSibling && !isThere(previousSibling)) return;
+    const next = previousSibling ? previousSibling.nextSibling : parentNode.firstChild;
+    // The break that holds the line open, which is empty now.
+    if (dom.isBreak(next) && next !== nextSibling) next.after(node);
+    else parentNode.insertBefore(node, next);
   } else if (isThere(nextSibling)) {
     nextSibling.before(node);
   } else if (!nextSibling) {
@@ -307,6 +328,26 @@ function write(node, text) {
   return true;
 }
 
+// Nothing but white space is left of a line that a break holds open: it stays on the sides of the
+// break that it had of the caret.
+/**
+ * @param {{ node: AnyNode, offset: number }} caret
+ * @param {AnyNode} line
+ */
+function setToEmptiedLine({ node, offset }, line) {
+  if (offset > 0 && offset < node.length) line.after(node.splitText(offset));
+  if (offset > 0) line.before(node);
+  selection.setCaret(line.parentNode, selection.indexOf(line));
+}
+
+// True where white space is left of a text, which is the source's: all of it was, or it has a line
+// end.
+/**
+ * @param {string} was
+ * @param {string} text
+ */
+const isLayout = (was, text) => text.includes('\n') || (text !== '' && !wordsOf(was));
+
 /**
  * The engine has done what was noted for: its white space becomes the source's again. Nothing is
  * written where the texts are not what was expected but for their blanks.
@@ -322,13 +363,16 @@ export function putBack(noted, input) {
   if (!texts.every(fits)) return;
   let changed = false;
   for (const [node, text] of texts) {
-    const stood = noted.alone.get(node);
-    if (!node.isConnected && stood && text) {
+    const stood = noted.stood.get(node);
+    if (!node.isConnected && stood && isLayout(noted.texts.get(node), text)) {
       reinsert(node, stood, node === noted.left?.node);
       changed = true;
     }
     if (node.isConnected && write(node, text)) changed = true;
   }
   const { caret } = plan;
-  if (changed && caret?.node.isConnected) selection.setCaret(caret.node, caret.offset);
+  if (!changed || !caret?.node.isConnected) return;
+  const line = dom.isBlank(caret.node) ? caret.node.previousSibling : null;
+  if (dom.isBreak(line)) setToEmptiedLine(caret, line);
+  else selection.setCaret(caret.node, caret.offset);
 }
