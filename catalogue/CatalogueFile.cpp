@@ -2,6 +2,7 @@
 #include "catalogue/CatalogueFile.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -52,7 +53,7 @@ QByteArray ReadHeader(const QString &nativePath) {
 [[noreturn]] void Refuse(const QString &nativePath, const QString &objection) {
   throw RuntimeError::Of(
       ErrorNumber::DeviceIoError, Source(),
-      QStringLiteral("The catalogue %1 cannot be opened: %2").arg(nativePath, objection));
+      Words::tr("The catalogue %1 cannot be opened: %2").arg(nativePath, objection));
 }
 
 }  // namespace
@@ -63,15 +64,14 @@ CatalogueKind KindOfCatalogue(const QString &nativePath) {
   }
   const QByteArray header = ReadHeader(nativePath);
   if (header.isEmpty()) {
-    Refuse(nativePath, QStringLiteral("it is empty; put a copy of the catalogue in its place"));
+    Refuse(nativePath, Words::tr("it is empty; put a copy of the catalogue in its place"));
   }
   for (const Format &format : Formats()) {
     if (header.mid(format.start, format.mark.size()) == format.mark) return format.kind;
   }
-  Refuse(
-      nativePath,
-      QStringLiteral("it is no database; a catalogue is a Jet 4 file of the catalogue program, or "
-                     "an SQLite file"));
+  Refuse(nativePath,
+         Words::tr("it is no database; a catalogue is a Jet 4 file of the catalogue program, or "
+                   "an SQLite file"));
 }
 
 }  // namespace velor

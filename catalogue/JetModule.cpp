@@ -5,6 +5,7 @@
 #include "catalogue/TextCollation.h"
 #include "catalogue/jet/JetFile.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <exception>
 #include <memory>
@@ -295,7 +296,7 @@ int Update(sqlite3_vtab *base, int count, sqlite3_value **values, sqlite3_int64 
                             sqlite3_value_int64(values[0]) == sqlite3_value_int64(values[1]);
     if (!changesRow) {
       throw RuntimeError::Of(ErrorNumber::PathFileAccess, QStringLiteral("Jet"),
-                             QStringLiteral("rows of %1 can be neither added nor deleted in %2")
+                             Words::tr("rows of %1 can be neither added nor deleted in %2")
                                  .arg(table.definition->name, table.file->Path()));
     }
     QList<JetAssignment> assignments;

@@ -8,6 +8,7 @@
 #include "catalogue/jet/JetFile.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QFile>
 
@@ -67,7 +68,7 @@ SqliteConnection::~SqliteConnection() = default;
 void SqliteConnection::Open(const QString &connectionText, const QString &, const QString &, int) {
   if (database_) {
     throw RuntimeError::Of(ErrorNumber::InvalidProcedureCall, Source(),
-                           QStringLiteral("the connection is open already"));
+                           Words::tr("the connection is open already"));
   }
   const QString file = FindIgnoringCase(DataSource(connectionText));
   if (KindOfCatalogue(file) == CatalogueKind::Sqlite) {
@@ -105,7 +106,7 @@ QString SqliteConnection::Defect() {
   jet_->Refresh();
   const QString damage = jet_->Damage();
   if (damage.isEmpty()) return {};
-  return QStringLiteral(
+  return Words::tr(
              "The catalogue %1 is not whole: %2. What is left of it is shown, and nothing can be "
              "changed in it; put a whole copy in its place")
       .arg(jet_->Path(), damage);
@@ -114,7 +115,7 @@ QString SqliteConnection::Defect() {
 sqlite3 *SqliteConnection::BeginStatement() {
   if (!database_) {
     throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("Database"),
-                           QStringLiteral("the connection is not open"));
+                           Words::tr("the connection is not open"));
   }
   if (jet_) jet_->Refresh();
   return database_.get();

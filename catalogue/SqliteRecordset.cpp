@@ -4,6 +4,7 @@
 #include "catalogue/SqliteConnection.h"
 #include "catalogue/SqliteStatement.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 #include <optional>
@@ -72,7 +73,7 @@ ColumnType TypeOfValue(int storageClass) {
 void SqliteRecordset::Open(const QString &statement, DatabaseConnection &connection, CursorType,
                            LockType, int) {
   if (state_ == ObjectState::Open) {
-    Fail(ErrorNumber::InvalidProcedureCall, QStringLiteral("the recordset is open already"));
+    Fail(ErrorNumber::InvalidProcedureCall, Words::tr("the recordset is open already"));
   }
   auto *sqlite = dynamic_cast<SqliteConnection *>(&connection);
   if (sqlite == nullptr) Fail(ErrorNumber::InvalidProcedureCall, statement);
@@ -150,17 +151,17 @@ ColumnType SqliteRecordset::TypeAt(int columnIndex) const {
 
 void SqliteRecordset::CheckOpen() const {
   if (state_ != ObjectState::Open) {
-    Fail(ErrorNumber::ObjectNotSet, QStringLiteral("the recordset is not open"));
+    Fail(ErrorNumber::ObjectNotSet, Words::tr("the recordset is not open"));
   }
 }
 
 void SqliteRecordset::CheckRow() const {
-  if (EndOfFile()) Fail(ErrorNumber::InputPastEnd, QStringLiteral("past the last row"));
+  if (EndOfFile()) Fail(ErrorNumber::InputPastEnd, Words::tr("past the last row"));
 }
 
 const SqliteRecordset::Column &SqliteRecordset::ColumnAt(int columnIndex) const {
   if (columnIndex < 0 || static_cast<std::size_t>(columnIndex) >= columns_.size()) {
-    Fail(ErrorNumber::SubscriptOutOfRange, QStringLiteral("no such column"));
+    Fail(ErrorNumber::SubscriptOutOfRange, Words::tr("no such column"));
   }
   return columns_[static_cast<std::size_t>(columnIndex)];
 }

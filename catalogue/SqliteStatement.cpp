@@ -2,6 +2,7 @@
 #include "catalogue/SqliteStatement.h"
 
 #include "files/LockHolder.h"
+#include "platform/Words.h"
 
 #include <QByteArrayView>
 
@@ -47,11 +48,11 @@ RuntimeError DatabaseError(sqlite3 *database, const QString &source, const QStri
   if (!file.isEmpty()) {
     const QString holder = LockHolder(file);
     text = number != ErrorNumber::PermissionDenied
-               ? QStringLiteral("the catalogue %1: %2").arg(file, cause)
-               : QStringLiteral(
+               ? Words::tr("the catalogue %1: %2").arg(file, cause)
+               : Words::tr(
                      "the catalogue %1 is locked by %2; close it there, or wait until it has "
                      "written, and try again")
-                     .arg(file, holder.isEmpty() ? QStringLiteral("another program") : holder);
+                     .arg(file, holder.isEmpty() ? Words::tr("another program") : holder);
   }
   if (subject != file) text += QStringLiteral("\n\n%1").arg(subject);
   return RuntimeError::Of(number, source, text);
@@ -70,7 +71,7 @@ SqliteStatement::SqliteStatement(sqlite3 *database, const QString &text, const Q
   const bool isOne = statement != nullptr && QByteArrayView(rest).trimmed().isEmpty();
   if (!isOne) {
     throw RuntimeError::Of(ErrorNumber::InvalidProcedureCall, source_,
-                           QStringLiteral("not one statement: %1").arg(subject_));
+                           Words::tr("not one statement: %1").arg(subject_));
   }
 }
 

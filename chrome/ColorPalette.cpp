@@ -2,6 +2,7 @@
 #include "chrome/ColorPalette.h"
 
 #include "chrome/Palette.h"
+#include "platform/Words.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -57,46 +58,46 @@ class ColorField final : public QToolButton {
 
 const std::vector<NamedColor> &PaletteColors() {
   static const std::vector<NamedColor> colors = {
-      {"Black", 0x000000},
-      {"Brown", 0x993300},
-      {"Olive green", 0x333300},
-      {"Dark green", 0x003300},
-      {"Dark teal", 0x003366},
-      {"Dark blue", 0x000080},
-      {"Indigo", 0x333399},
-      {"Grey 80%", 0x333333},
-      {"Dark red", 0x800000},
-      {"Orange", 0xFF6600},
-      {"Dark yellow", 0x808000},
-      {"Green", 0x008000},
-      {"Teal", 0x008080},
-      {"Blue", 0x0000FF},
-      {"Blue grey", 0x666699},
-      {"Grey 50%", 0x808080},
-      {"Red", 0xFF0000},
-      {"Light orange", 0xFF9900},
-      {"Lime", 0x99CC00},
-      {"Sea green", 0x339966},
-      {"Aqua", 0x33CCCC},
-      {"Light blue", 0x3366FF},
-      {"Violet", 0x800080},
-      {"Grey 40%", 0x969696},
-      {"Pink", 0xFF00FF},
-      {"Gold", 0xFFCC00},
-      {"Yellow", 0xFFFF00},
-      {"Bright green", 0x00FF00},
-      {"Turquoise", 0x00FFFF},
-      {"Sky blue", 0x00CCFF},
-      {"Plum", 0x993366},
-      {"Grey 25%", 0xC0C0C0},
-      {"Rose", 0xFF99CC},
-      {"Tan", 0xFFCC99},
-      {"Light yellow", 0xFFFF99},
-      {"Light green", 0xCCFFCC},
-      {"Light turquoise", 0xCCFFFF},
-      {"Pale blue", 0x99CCFF},
-      {"Lavender", 0xCC99FF},
-      {"White", 0xFFFFFF},
+      {QT_TRANSLATE_NOOP("velor::Words", "Black"), 0x000000},
+      {QT_TRANSLATE_NOOP("velor::Words", "Brown"), 0x993300},
+      {QT_TRANSLATE_NOOP("velor::Words", "Olive green"), 0x333300},
+      {QT_TRANSLATE_NOOP("velor::Words", "Dark green"), 0x003300},
+      {QT_TRANSLATE_NOOP("velor::Words", "Dark teal"), 0x003366},
+      {QT_TRANSLATE_NOOP("velor::Words", "Dark blue"), 0x000080},
+      {QT_TRANSLATE_NOOP("velor::Words", "Indigo"), 0x333399},
+      {QT_TRANSLATE_NOOP("velor::Words", "Grey 80%"), 0x333333},
+      {QT_TRANSLATE_NOOP("velor::Words", "Dark red"), 0x800000},
+      {QT_TRANSLATE_NOOP("velor::Words", "Orange"), 0xFF6600},
+      {QT_TRANSLATE_NOOP("velor::Words", "Dark yellow"), 0x808000},
+      {QT_TRANSLATE_NOOP("velor::Words", "Green"), 0x008000},
+      {QT_TRANSLATE_NOOP("velor::Words", "Teal"), 0x008080},
+      {QT_TRANSLATE_NOOP("velor::Words", "Blue"), 0x0000FF},
+      {QT_TRANSLATE_NOOP("velor::Words", "Blue grey"), 0x666699},
+      {QT_TRANSLATE_NOOP("velor::Words", "Grey 50%"), 0x808080},
+      {QT_TRANSLATE_NOOP("velor::Words", "Red"), 0xFF0000},
+      {QT_TRANSLATE_NOOP("velor::Words", "Light orange"), 0xFF9900},
+      {QT_TRANSLATE_NOOP("velor::Words", "Lime"), 0x99CC00},
+      {QT_TRANSLATE_NOOP("velor::Words", "Sea green"), 0x339966},
+      {QT_TRANSLATE_NOOP("velor::Words", "Aqua"), 0x33CCCC},
+      {QT_TRANSLATE_NOOP("velor::Words", "Light blue"), 0x3366FF},
+      {QT_TRANSLATE_NOOP("velor::Words", "Violet"), 0x800080},
+      {QT_TRANSLATE_NOOP("velor::Words", "Grey 40%"), 0x969696},
+      {QT_TRANSLATE_NOOP("velor::Words", "Pink"), 0xFF00FF},
+      {QT_TRANSLATE_NOOP("velor::Words", "Gold"), 0xFFCC00},
+      {QT_TRANSLATE_NOOP("velor::Words", "Yellow"), 0xFFFF00},
+      {QT_TRANSLATE_NOOP("velor::Words", "Bright green"), 0x00FF00},
+      {QT_TRANSLATE_NOOP("velor::Words", "Turquoise"), 0x00FFFF},
+      {QT_TRANSLATE_NOOP("velor::Words", "Sky blue"), 0x00CCFF},
+      {QT_TRANSLATE_NOOP("velor::Words", "Plum"), 0x993366},
+      {QT_TRANSLATE_NOOP("velor::Words", "Grey 25%"), 0xC0C0C0},
+      {QT_TRANSLATE_NOOP("velor::Words", "Rose"), 0xFF99CC},
+      {QT_TRANSLATE_NOOP("velor::Words", "Tan"), 0xFFCC99},
+      {QT_TRANSLATE_NOOP("velor::Words", "Light yellow"), 0xFFFF99},
+      {QT_TRANSLATE_NOOP("velor::Words", "Light green"), 0xCCFFCC},
+      {QT_TRANSLATE_NOOP("velor::Words", "Light turquoise"), 0xCCFFFF},
+      {QT_TRANSLATE_NOOP("velor::Words", "Pale blue"), 0x99CCFF},
+      {QT_TRANSLATE_NOOP("velor::Words", "Lavender"), 0xCC99FF},
+      {QT_TRANSLATE_NOOP("velor::Words", "White"), 0xFFFFFF},
   };
   return colors;
 }
@@ -113,7 +114,7 @@ ColorPalette::ColorPalette(QWidget *parent) : QFrame(parent, Qt::Popup) {
   grid->setSpacing(2);
   for (const NamedColor &color : PaletteColors()) {
     const int index = static_cast<int>(fields_.size());
-    fields_.push_back(AddField(grid, index, tr(color.name), QColor(color.rgb)));
+    fields_.push_back(AddField(grid, index, Words::tr(color.name), QColor(color.rgb)));
   }
   column->addLayout(grid);
 

@@ -5,6 +5,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Paths.h"
 #include "platform/PlainTip.h"
+#include "platform/Words.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -20,32 +21,32 @@ namespace velor {
 FrmDrives::FrmDrives(Dialogs &dialogs, const QString &file, QWidget *parent)
     : QDialog(parent), dialogs_(dialogs), file_(file), map_(ReadDriveMapFile(file)) {
   setObjectName(QStringLiteral("FrmDrives"));
-  setWindowTitle(QStringLiteral("Drives of Other Computers"));
+  setWindowTitle(Words::tr("Drives of Other Computers"));
   BuildLayout();
   Fill();
 }
 
 void FrmDrives::BuildLayout() {
   auto *text = new QLabel(
-      QStringLiteral("Catalogues and pages from other computers name drives. Each drive listed "
-                     "here stands for a folder of this computer. A drive that is removed stays in "
-                     "use until the program ends."));
+      Words::tr("Catalogues and pages from other computers name drives. Each drive listed "
+                "here stands for a folder of this computer. A drive that is removed stays in "
+                "use until the program ends."));
   text->setWordWrap(true);
   list_ = new QTreeWidget;
   list_->setObjectName(QStringLiteral("lstDrives"));
-  list_->setAccessibleName(QStringLiteral("Drives"));
-  list_->setHeaderLabels({QStringLiteral("Drive"), QStringLiteral("Folder")});
+  list_->setAccessibleName(Words::tr("Drives"));
+  list_->setHeaderLabels({Words::tr("Drive"), Words::tr("Folder")});
   list_->setRootIsDecorated(false);
   list_->header()->setStretchLastSection(true);
   letter_ = new QComboBox;
   letter_->setObjectName(QStringLiteral("cobLetter"));
-  letter_->setAccessibleName(QStringLiteral("Drive to add"));
+  letter_->setAccessibleName(Words::tr("Drive to add"));
   for (char16_t letter = u'A'; letter <= u'Z'; ++letter)
     letter_->addItem(QString(QChar(letter)) + u':');
   letter_->setCurrentText(QStringLiteral("C:"));
-  auto *add = new QPushButton(QStringLiteral("Add..."));
+  auto *add = new QPushButton(Words::tr("Add..."));
   add->setObjectName(QStringLiteral("cmdAdd"));
-  remove_ = new QPushButton(QStringLiteral("Remove"));
+  remove_ = new QPushButton(Words::tr("Remove"));
   remove_->setObjectName(QStringLiteral("cmdRemove"));
   auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
 

@@ -3,6 +3,7 @@
 
 #include "platform/Paths.h"
 #include "platform/PlainTip.h"
+#include "platform/Words.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -114,15 +115,15 @@ FrmFld::FrmFld(PickedFolders results, QWidget *parent)
       drives_(new QComboBox),
       folders_(new QTreeWidget),
       path_(new QLineEdit),
-      hidden_(new QCheckBox(QStringLiteral("Show hidden folders"))),
+      hidden_(new QCheckBox(Words::tr("Show hidden folders"))),
       selected_(new PathLine) {
   setObjectName(QStringLiteral("FrmFld"));
-  setWindowTitle(QStringLiteral("Select Folder"));
+  setWindowTitle(Words::tr("Select Folder"));
 
   drives_->setObjectName(QStringLiteral("Drive1"));
-  drives_->setAccessibleName(QStringLiteral("Drive"));
+  drives_->setAccessibleName(Words::tr("Drive"));
   folders_->setObjectName(QStringLiteral("Dir1"));
-  folders_->setAccessibleName(QStringLiteral("Folder"));
+  folders_->setAccessibleName(Words::tr("Folder"));
   folders_->setHeaderHidden(true);
   folders_->setUniformRowHeights(true);
   // As wide as the widest row, so that deep folders can be scrolled to.
@@ -130,27 +131,27 @@ FrmFld::FrmFld(PickedFolders results, QWidget *parent)
   folders_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   folders_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   path_->setObjectName(QStringLiteral("txtPath"));
-  path_->setAccessibleName(QStringLiteral("Path"));
-  path_->setPlaceholderText(QStringLiteral("Type or paste a path"));
+  path_->setAccessibleName(Words::tr("Path"));
+  path_->setPlaceholderText(Words::tr("Type or paste a path"));
   hidden_->setObjectName(QStringLiteral("chkHidden"));
   selected_->setObjectName(QStringLiteral("lblSelected"));
-  selected_->setAccessibleName(QStringLiteral("Selected folder"));
+  selected_->setAccessibleName(Words::tr("Selected folder"));
   selected_->setTextFormat(Qt::PlainText);
 
   auto *buttons = new QDialogButtonBox;
-  ok_ = buttons->addButton(QStringLiteral("Ok"), QDialogButtonBox::AcceptRole);
+  ok_ = buttons->addButton(Words::tr("Ok"), QDialogButtonBox::AcceptRole);
   ok_->setObjectName(QStringLiteral("SSCommand1"));
   ok_->setAccessibleName(ok_->text());
   ok_->setDefault(true);
-  auto *cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+  auto *cancel = buttons->addButton(Words::tr("Cancel"), QDialogButtonBox::RejectRole);
   cancel->setObjectName(QStringLiteral("SSCommand2"));
   cancel->setAccessibleName(cancel->text());
 
-  auto *driveLabel = new QLabel(QStringLiteral("Drive"));
+  auto *driveLabel = new QLabel(Words::tr("Drive"));
   driveLabel->setBuddy(drives_);
-  auto *folderLabel = new QLabel(QStringLiteral("Folder"));
+  auto *folderLabel = new QLabel(Words::tr("Folder"));
   folderLabel->setBuddy(folders_);
-  auto *pathLabel = new QLabel(QStringLiteral("Path"));
+  auto *pathLabel = new QLabel(Words::tr("Path"));
   pathLabel->setBuddy(path_);
 
   auto *layout = new QVBoxLayout(this);

@@ -7,6 +7,7 @@
 #include "platform/Dialogs.h"
 #include "platform/EngineVersion.h"
 #include "platform/Runtime.h"
+#include "platform/Words.h"
 
 #include <QAccessibleWidget>
 #include <QDialogButtonBox>
@@ -238,7 +239,7 @@ QWidget *frmAbout::BuildFoot(const EngineVersion &engine) {
   grid->setColumnStretch(1, 1);
   grid->addWidget(NewLabel("Label3", QStringLiteral("1 Example Street")), 0, 0, 1, 2);
   grid->addWidget(NewLabel("Label5", QStringLiteral("Exampletown")), 1, 0, 1, 2);
-  grid->addWidget(NewLabel("Label4", QStringLiteral("E-mail :")), 2, 0);
+  grid->addWidget(NewLabel("Label4", Words::tr("E-mail :")), 2, 0);
   grid->addWidget(mail, 2, 1, Qt::AlignLeft);
   AddEngineWords(*grid, engine);
   // Beside the last line of the address, or below the words that take the whole width.

@@ -2,6 +2,7 @@
 #include "engine/LiveDocument.h"
 
 #include "engine/NoticeQueue.h"
+#include "platform/Words.h"
 
 #include <utility>
 
@@ -15,7 +16,8 @@ constexpr std::chrono::milliseconds ReadLimit = 2min;
 constexpr std::chrono::milliseconds ReadPatience = 1s;
 /// The second attempt asks for the whole text, where the changes do not follow on from the mirror.
 constexpr int ReadAttempts = 2;
-const QString LongRead = QStringLiteral(
+constexpr auto LongRead = QT_TRANSLATE_NOOP(
+    "velor::Words",
     "The page does not answer. Press Escape to stop it and go on with its text as last seen.");
 
 QString MirrorCall(const DocumentMirror &mirror) {
@@ -81,7 +83,7 @@ std::optional<QString> LiveDocument::AskForText() {
   const Lifetime::Watch page = WatchPage();
   view_->AwaitInput();
   if (page.IsOver()) return std::nullopt;
-  const Patience patience = StoppableWith(LongRead);
+  const Patience patience = StoppableWith(Words::tr(LongRead));
   for (int attempt = 1; attempt <= ReadAttempts; ++attempt) {
     const auto answer = view_->Ask(MirrorCall(mirror_), ReadLimit, &patience);
     if (!answer || page.IsOver()) return std::nullopt;

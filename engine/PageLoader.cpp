@@ -6,6 +6,7 @@
 #include "platform/PageMemory.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <memory>
 #include <utility>
@@ -20,8 +21,8 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds LoadLimit = 2min;
 /// After this the person may stop it.
 constexpr std::chrono::milliseconds LoadPatience = 1500ms;
-const QString LongLoad =
-    QStringLiteral("The page takes long to show. Press Escape to stop loading it.");
+constexpr auto LongLoad = QT_TRANSLATE_NOOP(
+    "velor::Words", "The page takes long to show. Press Escape to stop loading it.");
 /// A page whose process ends while it loads is tried once more.
 constexpr int LoadAttempts = 2;
 
@@ -97,7 +98,7 @@ PageLoader::Outcome PageLoader::LoadAndWait(Purpose purpose) {
     bool isTold = false;
     const Patience patience{LoadPatience, [&] {
                               isTold = true;
-                              notices_.ReportNow(LongLoad);
+                              notices_.ReportNow(Words::tr(LongLoad));
                             }};
     const WaitEnd end = view->Wait(
         LoadLimit,
@@ -148,12 +149,12 @@ void PageLoader::FinishLoad() {
   if (purpose == Purpose::None) return;
   if (document_.View()->CurrentPhase() != EngineView::Phase::Ready) {
     notices_.Report(
-        QStringLiteral("The page could not be displayed. Its text is kept: save the page and "
-                       "open it again."));
+        Words::tr("The page could not be displayed. Its text is kept: save the page and "
+                  "open it again."));
     return;
   }
   if (purpose == Purpose::Restore) {
-    notices_.Report(QStringLiteral("The page's display has been restored."));
+    notices_.Report(Words::tr("The page's display has been restored."));
     return;
   }
   if (purpose == Purpose::Step) return;
@@ -162,8 +163,8 @@ void PageLoader::FinishLoad() {
   document_.History().Current()->SetBaseline(mirror.Html());
   if (IsFrameset(mirror.Html()))
     notices_.Report(
-        QStringLiteral("The page is a frameset, which has no text to edit here: use Edit HTML to "
-                       "change it."));
+        Words::tr("The page is a frameset, which has no text to edit here: use Edit HTML to "
+                  "change it."));
   if (purpose == Purpose::Document) notices_.PostDocumentComplete();
 }
 
@@ -187,11 +188,11 @@ void PageLoader::ReloadAfterCrash() {
   if (document_.View()->CurrentPhase() != EngineView::Phase::Dead) return;
   if (!crashes_.CountCrash()) {
     notices_.Report(
-        QStringLiteral("The page's display keeps stopping. Its text is kept: save the page and "
-                       "open it again."));
+        Words::tr("The page's display keeps stopping. Its text is kept: save the page and "
+                  "open it again."));
     return;
   }
-  notices_.Report(QStringLiteral("The page's display stopped and is being restored."));
+  notices_.Report(Words::tr("The page's display stopped and is being restored."));
   BeginLoad(document_.History().Current()->Baseline().isEmpty() ? Purpose::Document
                                                                 : Purpose::Restore);
 }

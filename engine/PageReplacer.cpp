@@ -6,6 +6,7 @@
 #include "engine/NoticeQueue.h"
 #include "engine/PageLoader.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <memory>
 #include <utility>
@@ -17,7 +18,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds ReplaceLimit = 1min;
-const QString LongReplacement = QStringLiteral(
+constexpr auto LongReplacement = QT_TRANSLATE_NOOP(
+    "velor::Words",
     "The page takes long to show. Press Escape to stop it; the page is as before then.");
 /// Bytes. Preparing a larger page would block the window for seconds.
 constexpr qsizetype LargestPage = 32'000'000;
@@ -83,7 +85,7 @@ PageReplacer::Outcome PageReplacer::ReplaceInPlace(const DocumentHistory::Origin
   // A page closed or loaded anew meanwhile is no failure of this call.
   if (page.IsOver()) return Outcome::Done;
   const int generation = document_.History().NewGeneration();
-  const Patience patience = document_.StoppableWith(LongReplacement);
+  const Patience patience = document_.StoppableWith(Words::tr(LongReplacement));
   const auto answer = view->Ask(QStringLiteral("velor.replaceDocument(%1,%2)")
                                     .arg(ScriptValue(original->TextToLoad()))
                                     .arg(generation),

@@ -5,6 +5,7 @@
 #include "engine/PageLoader.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <utility>
 
@@ -12,16 +13,16 @@ namespace velor {
 
 namespace {
 
-const QString LongCheck =
-    QStringLiteral("The page takes long to save. Press Escape to have it written anew as a whole.");
+constexpr auto LongCheck = QT_TRANSLATE_NOOP(
+    "velor::Words",
+    "The page takes long to save. Press Escape to have it written anew as a whole.");
 /// UTF-16 code units. Composing a larger page ahead would delay the next key.
 constexpr qsizetype LargestAhead = 2'000'000;
 
 QString WrittenAnew(const QString &reason) {
-  const QString sentence = QStringLiteral(
+  const QString sentence = Words::tr(
       "The page's source could not be kept as it was written: the whole page is written anew");
-  return sentence +
-         (reason.isEmpty() ? QStringLiteral(".") : QStringLiteral(", since %1.").arg(reason));
+  return sentence + (reason.isEmpty() ? QStringLiteral(".") : Words::tr(", since %1.").arg(reason));
 }
 
 }  // namespace
@@ -33,7 +34,7 @@ PageSaver::PageSaver(LiveDocument &document, PageLoader &loader, NoticeQueue &no
 SavedPage PageSaver::Compose() {
   loader_.LoadBlankIfEmpty();
   const QString nativePath = document_.NativePath();
-  EngineVerifier::Stoppable verifier(verifier_, document_.StoppableWith(LongCheck));
+  EngineVerifier::Stoppable verifier(verifier_, document_.StoppableWith(Words::tr(LongCheck)));
   const LiveDocument::Reading reading = document_.Read();
   // A file without what was typed last would be worse than none.
   if (reading.isUnanswered)

@@ -5,6 +5,7 @@
 #include "engine/LiveDocument.h"
 #include "engine/NoticeQueue.h"
 #include "platform/PasteLimit.h"
+#include "platform/Words.h"
 
 #include <QVariantList>
 
@@ -21,7 +22,7 @@ class WebTextRange : public TextRange {
   HtmlElement ParentElement() const override { return document_.Snapshot().element; }
   void PasteHTML(const QString &html) override {
     if (html.count(u'<') > MostPastedTags) {
-      notices_.Report(QStringLiteral("That is too large to be put into a page."));
+      notices_.Report(Words::tr("That is too large to be put into a page."));
       return;
     }
     if (collapsed_) document_.Run(QStringLiteral("getSelection().collapseToStart()"));

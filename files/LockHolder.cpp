@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/LockHolder.h"
 
+#include "platform/Words.h"
+
 #include <QFile>
 #include <QStringList>
 
@@ -33,7 +35,7 @@ QString LockHolder(const QString &nativePath) {
     if (fields[Process].toLongLong() <= 0 || fields[Process].toLongLong() == getpid()) continue;
     const QString name =
         ReadSystemFile(QStringLiteral("/proc/%1/comm").arg(fields[Process])).trimmed();
-    if (!name.isEmpty()) return QStringLiteral("%1 (process %2)").arg(name, fields[Process]);
+    if (!name.isEmpty()) return Words::tr("%1 (process %2)").arg(name, fields[Process]);
   }
   return {};
 }

@@ -2,6 +2,7 @@
 #include "platform/DriveMap.h"
 
 #include "platform/Paths.h"
+#include "platform/Words.h"
 
 #include <QDir>
 #include <QFile>
@@ -49,16 +50,16 @@ DriveMap DriveMap::Parse(const QString &text, const QString &name) {
     if (entry.isEmpty() || entry.startsWith(u'#')) continue;
     const auto fail = [&](const QString &cause) {
       throw RuntimeError::Of(ErrorNumber::TypeMismatch, Source(),
-                             QStringLiteral("%1, line %2: %3").arg(name).arg(number).arg(cause));
+                             Words::tr("%1, line %2: %3").arg(name).arg(number).arg(cause));
     };
     const QRegularExpressionMatch match = form.match(entry);
     if (!match.hasMatch()) {
-      fail(QStringLiteral("\"%1\" does not map a drive; write lines like \"C: /home/me/windows\"")
+      fail(Words::tr("\"%1\" does not map a drive; write lines like \"C: /home/me/windows\"")
                .arg(entry));
     }
     const QChar letter = match.captured(1).at(0).toUpper();
     if (map.Find(letter) != nullptr) {
-      fail(QStringLiteral("drive %1: has a folder already").arg(letter));
+      fail(Words::tr("drive %1: has a folder already").arg(letter));
     }
     const QString folder = QDir::cleanPath(match.captured(2));
     map.drives_.append({letter, folder == u"/" ? QString() : folder});

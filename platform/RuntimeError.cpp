@@ -2,6 +2,7 @@
 #include "platform/RuntimeError.h"
 
 #include "platform/Paths.h"
+#include "platform/Words.h"
 
 #include <cerrno>
 #include <system_error>
@@ -17,25 +18,29 @@ struct Sentence {
 };
 
 constexpr Sentence Sentences[] = {
-    {ErrorNumber::InvalidProcedureCall, "Invalid procedure call or argument"},
-    {ErrorNumber::Overflow, "Overflow"},
-    {ErrorNumber::SubscriptOutOfRange, "Subscript out of range"},
-    {ErrorNumber::TypeMismatch, "Type mismatch"},
-    {ErrorNumber::OutOfStringSpace, "Out of string space"},
-    {ErrorNumber::FileNotFound, "File not found"},
-    {ErrorNumber::DeviceIoError, "Device I/O error"},
-    {ErrorNumber::DiskFull, "Disk full"},
-    {ErrorNumber::InputPastEnd, "Input past end of file"},
-    {ErrorNumber::PermissionDenied, "Permission denied"},
-    {ErrorNumber::PathFileAccess, "Path/File access error"},
-    {ErrorNumber::PathNotFound, "Path not found"},
-    {ErrorNumber::ObjectNotSet, "Object variable or With block variable not set"},
-    {ErrorNumber::DialogCancelled, "Cancel was selected"},
-    {ErrorNumber::IndexOutOfBounds, "Index out of bounds"},
-    {ErrorNumber::ElementNotFound, "Element not found"},
+    {ErrorNumber::InvalidProcedureCall,
+     QT_TRANSLATE_NOOP("velor::Words", "Invalid procedure call or argument")},
+    {ErrorNumber::Overflow, QT_TRANSLATE_NOOP("velor::Words", "Overflow")},
+    {ErrorNumber::SubscriptOutOfRange, QT_TRANSLATE_NOOP("velor::Words", "Subscript out of range")},
+    {ErrorNumber::TypeMismatch, QT_TRANSLATE_NOOP("velor::Words", "Type mismatch")},
+    {ErrorNumber::OutOfStringSpace, QT_TRANSLATE_NOOP("velor::Words", "Out of string space")},
+    {ErrorNumber::FileNotFound, QT_TRANSLATE_NOOP("velor::Words", "File not found")},
+    {ErrorNumber::DeviceIoError, QT_TRANSLATE_NOOP("velor::Words", "Device I/O error")},
+    {ErrorNumber::DiskFull, QT_TRANSLATE_NOOP("velor::Words", "Disk full")},
+    {ErrorNumber::InputPastEnd, QT_TRANSLATE_NOOP("velor::Words", "Input past end of file")},
+    {ErrorNumber::PermissionDenied, QT_TRANSLATE_NOOP("velor::Words", "Permission denied")},
+    {ErrorNumber::PathFileAccess, QT_TRANSLATE_NOOP("velor::Words", "Path/File access error")},
+    {ErrorNumber::PathNotFound, QT_TRANSLATE_NOOP("velor::Words", "Path not found")},
+    {ErrorNumber::ObjectNotSet,
+     QT_TRANSLATE_NOOP("velor::Words", "Object variable or With block variable not set")},
+    {ErrorNumber::DialogCancelled, QT_TRANSLATE_NOOP("velor::Words", "Cancel was selected")},
+    {ErrorNumber::IndexOutOfBounds, QT_TRANSLATE_NOOP("velor::Words", "Index out of bounds")},
+    {ErrorNumber::ElementNotFound, QT_TRANSLATE_NOOP("velor::Words", "Element not found")},
     {ErrorNumber::InvalidControl,
-     "Incorrect control type passed to 'Attach' parameter - must be a control with a hWnd "
-     "property."},
+     QT_TRANSLATE_NOOP(
+         "velor::Words",
+         "Incorrect control type passed to 'Attach' parameter - must be a control with a hWnd "
+         "property.")},
 };
 
 /// The number for an errno; PathFileAccess (75) for one that is not listed.
@@ -89,9 +94,9 @@ RuntimeError RuntimeError::FromErrno(int errnoValue, const QString &source, cons
 
 QString Description(int number) {
   for (const Sentence &sentence : Sentences) {
-    if (static_cast<int>(sentence.number) == number) return QString::fromLatin1(sentence.text);
+    if (static_cast<int>(sentence.number) == number) return Words::tr(sentence.text);
   }
-  return QStringLiteral("Application-defined or object-defined error");
+  return Words::tr("Application-defined or object-defined error");
 }
 
 }  // namespace velor

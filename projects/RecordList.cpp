@@ -2,6 +2,7 @@
 #include "projects/RecordList.h"
 
 #include "platform/PlainTip.h"
+#include "platform/Words.h"
 #include "projects/RowTable.h"
 #include "projects/Values.h"
 
@@ -38,7 +39,7 @@ class RowTableModel : public QAbstractTableModel {
   QVariant data(const QModelIndex &index, int role) const override {
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
     const QString text = TextOf(Value(index.row(), index.column()));
-    if (text.isEmpty() && index.column() == nameColumn_) return QStringLiteral("(no name)");
+    if (text.isEmpty() && index.column() == nameColumn_) return Words::tr("(no name)");
     // A text that a narrow column cuts off is shown whole as a tool tip.
     return role == Qt::ToolTipRole ? PlainTip(text) : text;
   }

@@ -8,6 +8,7 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 #include "projects/FillList.h"
 #include "projects/ProjectHost.h"
 #include "projects/RecordList.h"
@@ -68,7 +69,7 @@ void frmProjectManager::Build() {
   };
 
   setObjectName(QStringLiteral("frmProjectManager"));
-  setWindowTitle(QStringLiteral("Web Site Project Manager"));
+  setWindowTitle(Words::tr("Web Site Project Manager"));
   setModal(true);
   tabs_ = new QTabWidget;
   tabs_->setObjectName(QStringLiteral("SSTab1"));
@@ -76,7 +77,7 @@ void frmProjectManager::Build() {
   layout->addWidget(tabs_);
   note_ = new QLabel;
   note_->setObjectName(QStringLiteral("lblNote"));
-  note_->setAccessibleName(QStringLiteral("Note"));
+  note_->setAccessibleName(Words::tr("Note"));
   note_->setTextFormat(Qt::PlainText);
   note_->setWordWrap(true);
   note_->hide();
@@ -84,14 +85,14 @@ void frmProjectManager::Build() {
 
   auto *projectsPage = new QWidget;
   QVBoxLayout *projects = column(projectsPage);
-  auto *caption = new QLabel(QStringLiteral("Select the Project and open it."));
+  auto *caption = new QLabel(Words::tr("Select the Project and open it."));
   caption->setObjectName(QStringLiteral("Label1"));
   projectList_ = new RecordList(
       {QStringLiteral("ProjectId"), QStringLiteral("ProjectName"), QStringLiteral("DateModified")},
       1);
   projectList_->setObjectName(QStringLiteral("LsHistory"));
   projectList_->setAccessibleName(caption->text());
-  openButton_ = new QPushButton(QStringLiteral("Open"));
+  openButton_ = new QPushButton(Words::tr("Open"));
   openButton_->setObjectName(QStringLiteral("cmdOpen"));
   openButton_->setAccessibleName(openButton_->text());
   openButton_->setDefault(true);
@@ -103,14 +104,13 @@ void frmProjectManager::Build() {
   auto *pagesPage = new QWidget;
   pageList_ = new RecordList({QStringLiteral("PageId"), QStringLiteral("PageName")}, 1);
   pageList_->setObjectName(QStringLiteral("LstPages"));
-  pageList_->setAccessibleName(QStringLiteral("Web Pages"));
+  pageList_->setAccessibleName(Words::tr("Web Pages"));
   column(pagesPage)->addWidget(pageList_);
 
-  tabs_->addTab(projectsPage, QStringLiteral("Project Manager"));
-  tabs_->addTab(pagesPage, QStringLiteral("Web Pages"));
-  for (const char16_t *unused : {u"Images", u"Reports", u"Tab 4"}) {
-    tabs_->addTab(new QWidget, QString::fromUtf16(unused));
-  }
+  tabs_->addTab(projectsPage, Words::tr("Project Manager"));
+  tabs_->addTab(pagesPage, Words::tr("Web Pages"));
+  for (const QString &unused : {Words::tr("Images"), Words::tr("Reports"), Words::tr("Tab 4")})
+    tabs_->addTab(new QWidget, unused);
   resize(ComfortableSize);
   projectList_->setFocus();
 }
@@ -190,7 +190,7 @@ QString frmProjectManager::FolderToWrite(const QString &folder, const QString &s
   while (IsOnUnknownDrive(stored) && !IsDrivePath(chosen)) {
     const QString drive = stored.left(1).toUpper();
     const MessageAnswer answer = dialogs_.ShowMessage(
-        {.text = QStringLiteral(
+        {.text = Words::tr(
                      "This catalogue comes from another computer, where the site lies in %1. That "
                      "computer no longer finds the site if %2 is written into the catalogue.\n\n"
                      "Yes: name the folder here that stands for drive %3:. No: write %2 all the "
@@ -210,7 +210,7 @@ QString frmProjectManager::FolderToWrite(const QString &folder, const QString &s
 
 bool frmProjectManager::RepairFolders(const QVariant &projectId, const QString &stored) {
   const MessageAnswer answer =
-      dialogs_.ShowMessage({.text = QStringLiteral("Web path not found please provide the path"),
+      dialogs_.ShowMessage({.text = Words::tr("Web path not found please provide the path"),
                             .buttons = MessageButtons::YesNo});
   if (answer != MessageAnswer::Yes) return false;
   const QString picked = host_.PickProjectFolder(stored);

@@ -4,6 +4,7 @@
 #include "files/FileBytes.h"
 #include "files/StateFolder.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 #include "recovery/JournalFormat.h"
 
 #include <QDir>
@@ -68,7 +69,7 @@ QStringList RunsIn(const QString &root) {
 
 RuntimeError Defect(const QString &path, const QString &why) {
   return RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("Journal"),
-                      QStringLiteral("%1 cannot be read: %2").arg(path, why));
+                      Words::tr("%1 cannot be read: %2").arg(path, why));
 }
 
 /// Opens a journal for reading. Raises RuntimeError where it cannot be opened, is no plain file, is
@@ -80,14 +81,15 @@ FileDescriptor OpenJournal(const QString &path) {
   if (!file.IsOpen() && errno != ELOOP)
     throw RuntimeError::FromErrno(errno, QStringLiteral("Journal"), path);
   if (!file.IsOpen() || fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
-    throw Defect(path, QStringLiteral("it is not a file."));
-  if (status.st_uid != geteuid()) throw Defect(path, QStringLiteral("it is another user's."));
-  if (status.st_size > LargestJournal) throw Defect(path, QStringLiteral("it is too large."));
+    throw Defect(path, Words::tr("it is not a file."));
+  if (status.st_uid != geteuid()) throw Defect(path, Words::tr("it is another user's."));
+  if (status.st_size > LargestJournal) throw Defect(path, Words::tr("it is too large."));
   return file;
 }
 
-const QString DamagedBeginning =
-    QStringLiteral("its beginning is damaged, or another version of the program wrote it.");
+QString DamagedBeginning() {
+  return Words::tr("its beginning is damaged, or another version of the program wrote it.");
+}
 
 AbandonedPage Summary(const QString &path) {
   AbandonedPage page;
@@ -96,7 +98,7 @@ AbandonedPage Summary(const QString &path) {
     QFile reader;
     reader.open(file.Number(), QIODevice::ReadOnly);
     const auto summary = SummariseJournal(reader);
-    if (!summary) throw Defect(path, DamagedBeginning);
+    if (!summary) throw Defect(path, DamagedBeginning());
     page = *summary;
   } catch (const RuntimeError &error) {
     page.defect = error.Description();
@@ -297,7 +299,7 @@ JournalReading JournalFiles::Read(const QString &id) {
   QFile reader;
   reader.open(file.Number(), QIODevice::ReadOnly);
   auto reading = ReadJournal(reader.readAll());
-  if (!reading) throw Defect(id, DamagedBeginning);
+  if (!reading) throw Defect(id, DamagedBeginning());
   return *std::move(reading);
 }
 

@@ -5,6 +5,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QScopedValueRollback>
 
@@ -29,7 +30,7 @@ void WriteToStandardError(const char *text) {
 QString BoxText(const std::exception &error) {
   const auto *known = dynamic_cast<const RuntimeError *>(&error);
   if (known == nullptr) return QString::fromLocal8Bit(error.what());
-  return QStringLiteral("%1\n\nRun-time error %2 in %3.")
+  return Words::tr("%1\n\nRun-time error %2 in %3.")
       .arg(known->Description(), QString::number(known->Code()), known->Source());
 }
 
@@ -60,7 +61,7 @@ void EventBoundary::Report(const std::exception &error) {
   const QScopedValueRollback<bool> showing(showsBox_, true);
   Message message;
   message.text = BoxText(error);
-  if (phase_ == Phase::StartUp) message.text += QStringLiteral("\n\nThe program has to end.");
+  if (phase_ == Phase::StartUp) message.text += Words::tr("\n\nThe program has to end.");
   message.icon = MessageIcon::Critical;
   try {
     dialogs_.ShowMessage(message);

@@ -7,6 +7,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Runtime.h"
+#include "platform/Words.h"
 
 namespace velor {
 
@@ -19,12 +20,13 @@ constexpr auto ImageFolderName = u"\\eImages";
 constexpr auto DatabaseLocationName = u"\\SiteConfig.ini";
 constexpr auto ImageLocationName = u"\\SiteImgConfig.ini";
 
-constexpr auto LocatedDatabaseMissing =
-    u"The Database Path of Vitrine not found. Please provide the Path";
-constexpr auto NoDatabase = u"The Database Path of Vitrine not Found. Please provide the path";
-constexpr auto NoImageFolder = u"The Path of Image Folder is not found.Please provide the path";
+constexpr auto LocatedDatabaseMissing = QT_TRANSLATE_NOOP(
+    "velor::Words", "The Database Path of Vitrine not found. Please provide the Path");
+constexpr auto NoDatabase = QT_TRANSLATE_NOOP(
+    "velor::Words", "The Database Path of Vitrine not Found. Please provide the path");
+constexpr auto NoImageFolder = QT_TRANSLATE_NOOP(
+    "velor::Words", "The Path of Image Folder is not found.Please provide the path");
 
-constexpr auto DatabaseFilter = u"Database(*.mdb;)|*.mdb";
 constexpr auto ConnectionPrefix =
     u"Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=";
 
@@ -92,10 +94,10 @@ class StartUpSteps {
  private:
   /// Leaves the folder of the chosen file in DatabasePath. The file's own name is dropped: the
   /// database always has its one name, and whether that is there shows when it is opened.
-  void RequestDatabase(const char16_t *message, const QString &locationFile, FileDialog &dialog) {
+  void RequestDatabase(const char *message, const QString &locationFile, FileDialog &dialog) {
     AskOrEnd(message);
     dialog.CancelError = false;
-    dialog.Filter = Text(DatabaseFilter);
+    dialog.Filter = Words::tr("Database(*.mdb;)|*.mdb");
     const QString chosen = dialog.ShowOpen();
     if (chosen.isEmpty()) platform_.runtime.EndProgram();
     values_.DatabasePath = chosen;
@@ -111,10 +113,10 @@ class StartUpSteps {
     WriteLocation(files_, locationFile, values_.ImageFolderPath);
   }
 
-  void AskOrEnd(const char16_t *text) {
+  void AskOrEnd(const char *text) {
     Message message;
-    message.text = Text(text);
-    message.title = QStringLiteral("Path not Found");
+    message.text = Words::tr(text);
+    message.title = Words::tr("Path not Found");
     message.buttons = MessageButtons::YesNo;
     if (platform_.dialogs.ShowMessage(message) != MessageAnswer::Yes) {
       platform_.runtime.EndProgram();

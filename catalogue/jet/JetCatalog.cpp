@@ -5,6 +5,7 @@
 #include "catalogue/jet/JetDefinition.h"
 #include "catalogue/jet/JetTableRows.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <set>
 
@@ -29,8 +30,7 @@ std::vector<JetTable> ReadJetTables(JetPager &pager, const QString &path) {
   if (id < 0 || name < 0 || type < 0 || flags < 0) {
     throw RuntimeError::Of(
         ErrorNumber::DeviceIoError, QStringLiteral("Database.Open"),
-        QStringLiteral("The catalogue %1 cannot be opened: its list of tables is damaged")
-            .arg(path));
+        Words::tr("The catalogue %1 cannot be opened: its list of tables is damaged").arg(path));
   }
 
   std::vector<JetTable> tables;
@@ -46,7 +46,7 @@ std::vector<JetTable> ReadJetTables(JetPager &pager, const QString &path) {
     if (auto table = ReadJetDefinition(pager, page, tableName)) {
       tables.push_back(*std::move(table));
     } else {
-      pager.NoteDamage(QStringLiteral("the definition of the table %1 is damaged").arg(tableName));
+      pager.NoteDamage(Words::tr("the definition of the table %1 is damaged").arg(tableName));
     }
   }
   return tables;

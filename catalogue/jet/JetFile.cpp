@@ -7,6 +7,7 @@
 #include "catalogue/jet/JetPager.h"
 #include "catalogue/jet/JetTableRows.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 #include <utility>
@@ -59,7 +60,7 @@ std::vector<JetTable> JetFile::Parts::Load() {
   checked = false;
   pager.SetKey(ReadJetHeader(*storage));
   if (stamp.bytes % jet::PageBytes != 0) {
-    pager.NoteDamage(QStringLiteral("its last page is incomplete"));
+    pager.NoteDamage(Words::tr("its last page is incomplete"));
   }
   return ReadJetTables(pager, storage->Path());
 }
@@ -71,7 +72,7 @@ void JetFile::Parts::Replace(std::vector<JetTable> loaded) {
     });
     if (now == loaded.end()) {
       RaiseExecute(ErrorNumber::DeviceIoError,
-                   QStringLiteral("another program has changed the tables of %1; open it again")
+                   Words::tr("another program has changed the tables of %1; open it again")
                        .arg(storage->Path()));
     }
     *table = *now;
@@ -82,16 +83,16 @@ void JetFile::Parts::CheckNobodyElse() {
   const QString holder = storage->LockedBy();
   if (holder.isEmpty()) return;
   RaiseExecute(ErrorNumber::PermissionDenied,
-               QStringLiteral("the catalogue %1 is open in another program and cannot be changed "
-                              "until that is closed: %2")
+               Words::tr("the catalogue %1 is open in another program and cannot be changed "
+                         "until that is closed: %2")
                    .arg(storage->Path(), holder));
 }
 
 void JetFile::Parts::CheckWritable() {
   if (access.mode == JetAccessMode::ReadOnly) {
-    RaiseExecute(ErrorNumber::PathFileAccess,
-                 QStringLiteral("the catalogue %1 cannot be changed: %2")
-                     .arg(storage->Path(), access.reason));
+    RaiseExecute(
+        ErrorNumber::PathFileAccess,
+        Words::tr("the catalogue %1 cannot be changed: %2").arg(storage->Path(), access.reason));
   }
   CheckNobodyElse();
 }
@@ -100,7 +101,7 @@ void JetFile::Parts::WriteChanges() {
   CheckNobodyElse();
   if (storage->Stamp() != pager.Stamp()) {
     RaiseExecute(ErrorNumber::PermissionDenied,
-                 QStringLiteral("another program has changed %1 meanwhile").arg(storage->Path()));
+                 Words::tr("another program has changed %1 meanwhile").arg(storage->Path()));
   }
   if (!backedUp) storage->Backup();
   backedUp = true;

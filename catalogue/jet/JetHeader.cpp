@@ -4,6 +4,7 @@
 #include "catalogue/jet/JetBytes.h"
 #include "catalogue/jet/JetCipher.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <cmath>
 #include <cstring>
@@ -25,19 +26,19 @@ bool IsNamed(const jet::Page &page, const char *name) {
 /// What the file is and what to do, for people; empty for a Jet 4 file.
 QString Objection(const jet::Page &page) {
   if (IsNamed(page, AceName)) {
-    return QStringLiteral(
+    return Words::tr(
         "it is in the ACE format (.accdb, Access 2007 or later), which cannot be opened; save it "
         "in the format of Access 2002-2003 (.mdb) with the program that made it");
   }
-  if (!IsNamed(page, JetName)) return QStringLiteral("it is no database");
+  if (!IsNamed(page, JetName)) return Words::tr("it is no database");
   const unsigned char version = page[jet::Version];
   if (version == Jet3) {
-    return QStringLiteral(
+    return Words::tr(
         "it is in the Jet 3 format (Access 95 or 97), which cannot be opened; convert it to the "
         "format of Access 2000 or 2002-2003 (Jet 4)");
   }
   if (version != Jet4) {
-    return QStringLiteral(
+    return Words::tr(
                "it is in version %1 of the Jet format, and only Jet 4 can be opened; convert it to "
                "the format of Access 2000 or 2002-2003")
         .arg(version);
@@ -59,7 +60,7 @@ bool HasPassword(const jet::Page &page) {
 [[noreturn]] void Refuse(JetStorage &storage, const QString &objection) {
   throw RuntimeError::Of(
       ErrorNumber::DeviceIoError, QStringLiteral("Database.Open"),
-      QStringLiteral("The catalogue %1 cannot be opened: %2").arg(storage.Path(), objection));
+      Words::tr("The catalogue %1 cannot be opened: %2").arg(storage.Path(), objection));
 }
 
 }  // namespace
@@ -72,8 +73,8 @@ quint32 ReadJetHeader(JetStorage &storage) {
            std::span(page).subspan(jet::HeaderEncodedStart,
                                    jet::HeaderEncodedEnd - jet::HeaderEncodedStart));
   if (HasPassword(page)) {
-    Refuse(storage, QStringLiteral("it is protected by a password; remove the password with the "
-                                   "program that set it"));
+    Refuse(storage, Words::tr("it is protected by a password; remove the password with the "
+                              "program that set it"));
   }
   return jet::Get<quint32>(page.data() + jet::PageKey);
 }

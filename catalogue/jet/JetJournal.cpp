@@ -3,6 +3,7 @@
 
 #include "catalogue/jet/JetBytes.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <array>
 #include <cstring>
@@ -194,11 +195,11 @@ void CheckCanPutBack(JetStorage &storage) {
   if (objection.isEmpty()) {
     const QString holder = storage.LockedBy();
     if (holder.isEmpty()) return;
-    objection = QStringLiteral("it is open in another program: %1").arg(holder);
+    objection = Words::tr("it is open in another program: %1").arg(holder);
   }
   throw RuntimeError::Of(
       ErrorNumber::PermissionDenied, QStringLiteral("Database"),
-      QStringLiteral("a change of %1 was interrupted and has to be undone first, but %2")
+      Words::tr("a change of %1 was interrupted and has to be undone first, but %2")
           .arg(storage.Path(), objection));
 }
 
@@ -256,9 +257,8 @@ QString RecoverJetFile(JetStorage &storage) {
     case JetStorage::JournalState::None:
       return {};
     case JetStorage::JournalState::InUse:
-      throw RuntimeError::Of(
-          ErrorNumber::PermissionDenied, QStringLiteral("Database"),
-          QStringLiteral("another program is just writing %1").arg(storage.Path()));
+      throw RuntimeError::Of(ErrorNumber::PermissionDenied, QStringLiteral("Database"),
+                             Words::tr("another program is just writing %1").arg(storage.Path()));
     case JetStorage::JournalState::Leftover:
       break;
   }
@@ -269,21 +269,20 @@ QString RecoverJetFile(JetStorage &storage) {
   }
   const auto journal = ReadJournal(BytesOf(content));
   if (!journal) {
-    return QStringLiteral(
+    return Words::tr(
                "The journal beside %1 is damaged. The file is left as it is; the journal "
                "is kept as %2.")
         .arg(storage.Path(), storage.SetJournalAside());
   }
   if (!IsUnchangedSince(storage, *journal)) {
-    return QStringLiteral(
+    return Words::tr(
                "A change of %1 was interrupted, and another program has written the file "
                "since. It is left as it is; what it held before is kept in %2.")
         .arg(storage.Path(), storage.SetJournalAside());
   }
   CheckCanPutBack(storage);
   PutBack(storage, *journal);
-  return QStringLiteral(
-             "A change of %1 was interrupted; the file has been put back as it was before.")
+  return Words::tr("A change of %1 was interrupted; the file has been put back as it was before.")
       .arg(storage.Path());
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/jet/JetLockFile.h"
 
+#include "platform/Words.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -38,7 +40,7 @@ QString HolderAt(const QByteArray &slots, qsizetype slot) {
   const QString machine = NameAt(slots, slot * SlotBytes);
   const QString user = NameAt(slots, slot * SlotBytes + NameBytes);
   if (machine.isEmpty()) return user;
-  return user.isEmpty() ? machine : QStringLiteral("%1 on %2").arg(user, machine);
+  return user.isEmpty() ? machine : Words::tr("%1 on %2").arg(user, machine);
 }
 
 /// The first lock of somebody else at or after `start`; l_type is F_UNLCK when there is none.
@@ -65,7 +67,7 @@ QString JetLockHolders(const QString &databasePath) {
   // A lock on the whole file would have to be a writer's, so that it is asked for by one.
   if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) &&
       !file.open(QIODevice::ReadOnly)) {
-    return QStringLiteral("another program (its lock file %1 cannot be read)").arg(path);
+    return Words::tr("another program (its lock file %1 cannot be read)").arg(path);
   }
   const QByteArray slots = file.read(MaximumSlots * SlotBytes);
   QStringList holders;
@@ -81,7 +83,7 @@ QString JetLockHolders(const QString &databasePath) {
   holders.removeAll(QString());
   holders.removeDuplicates();
   if (!locked) return {};
-  return holders.isEmpty() ? QStringLiteral("another program") : holders.join(QStringLiteral(", "));
+  return holders.isEmpty() ? Words::tr("another program") : holders.join(QStringLiteral(", "));
 }
 
 }  // namespace velor

@@ -3,6 +3,7 @@
 
 #include "catalogue/jet/JetDataPage.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <cstring>
 #include <vector>
@@ -80,7 +81,7 @@ void FreeJetLongValue(JetPager &pager, JetBytes field) {
   const auto pieces = field.size() < jet::LongValueHead ? std::nullopt : FindPieces(pager, field);
   if (!pieces) {
     throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("Database.Execute"),
-                           QStringLiteral("the value that would be replaced is damaged"));
+                           Words::tr("the value that would be replaced is damaged"));
   }
   for (const JetFoundRow &piece : *pieces) {
     ReplaceJetRow(pager.Modify(piece.place.page), piece.place.slot, 0, {});

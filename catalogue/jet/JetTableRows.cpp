@@ -3,6 +3,7 @@
 
 #include "catalogue/jet/JetCursor.h"
 #include "catalogue/jet/JetUsageMap.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 #include <iterator>
@@ -27,7 +28,7 @@ void CheckColumns(JetPager &pager, const JetTable &table) {
         (!isVariable || variable.insert(column.variableIndex).second)) {
       continue;
     }
-    pager.NoteDamage(QStringLiteral("the column %1 of the table %2 shares its place with another")
+    pager.NoteDamage(Words::tr("the column %1 of the table %2 shares its place with another")
                          .arg(column.name, table.name));
   }
 }
@@ -39,18 +40,18 @@ void CheckFreeMaps(JetPager &pager, const JetTable &table,
   const JetPages free = JetUsageMap(pager, table.freeMap, JetBit::Clear).Pages();
   if (free.soundness == JetSoundness::Damaged ||
       !std::includes(owned.begin(), owned.end(), free.numbers.begin(), free.numbers.end())) {
-    pager.NoteDamage(QStringLiteral("the map of the pages with room of the table %1 is damaged")
-                         .arg(table.name));
+    pager.NoteDamage(
+        Words::tr("the map of the pages with room of the table %1 is damaged").arg(table.name));
   }
   const JetPages unused = JetUsageMap(pager, {jet::GlobalMapPage, 0}, JetBit::Set).Pages();
   if (unused.soundness == JetSoundness::Damaged) {
-    pager.NoteDamage(QStringLiteral("the map of the free pages is damaged"));
+    pager.NoteDamage(Words::tr("the map of the free pages is damaged"));
   }
   std::vector<jet::PageNumber> both;
   std::set_intersection(owned.begin(), owned.end(), unused.numbers.begin(), unused.numbers.end(),
                         std::back_inserter(both));
   if (!both.empty()) {
-    pager.NoteDamage(QStringLiteral("page %1 of the table %2 is marked as free")
+    pager.NoteDamage(Words::tr("page %1 of the table %2 is marked as free")
                          .arg(QString::number(both.front()), table.name));
   }
 }
@@ -75,7 +76,7 @@ void CheckMovedRows(JetPager &pager, const JetTable &table,
   }
   if (!twice && pointedAt == moved) return;
   pager.NoteDamage(
-      QStringLiteral("rows of the table %1 that have moved are lost or doubled").arg(table.name));
+      Words::tr("rows of the table %1 that have moved are lost or doubled").arg(table.name));
 }
 
 }  // namespace
@@ -83,8 +84,7 @@ void CheckMovedRows(JetPager &pager, const JetTable &table,
 std::vector<jet::PageNumber> JetTablePages(JetPager &pager, const JetTable &table) {
   JetPages pages = JetUsageMap(pager, table.ownedMap, JetBit::Clear).Pages();
   if (pages.soundness == JetSoundness::Damaged) {
-    pager.NoteDamage(
-        QStringLiteral("the map of the pages of the table %1 is damaged").arg(table.name));
+    pager.NoteDamage(Words::tr("the map of the pages of the table %1 is damaged").arg(table.name));
   }
   return std::move(pages.numbers);
 }
@@ -93,13 +93,13 @@ std::shared_ptr<const jet::Page> ReadJetTablePage(JetPager &pager, const JetTabl
                                                   jet::PageNumber number) {
   auto page = pager.Read(number);
   if (page && !BelongsTo(*page, table)) {
-    pager.NoteDamage(QStringLiteral("page %1 is no data page of the table %2, as it should be")
+    pager.NoteDamage(Words::tr("page %1 is no data page of the table %2, as it should be")
                          .arg(QString::number(number), table.name));
     return nullptr;
   }
   if (page && !JetSlots(*page).AreSound()) {
-    pager.NoteDamage(QStringLiteral("page %1 of the table %2 is damaged")
-                         .arg(QString::number(number), table.name));
+    pager.NoteDamage(
+        Words::tr("page %1 of the table %2 is damaged").arg(QString::number(number), table.name));
     return nullptr;
   }
   return page;
@@ -113,7 +113,7 @@ JetFoundRow FollowJetPointer(JetPager &pager, const JetTable &table, JetBytes ho
 }
 
 void NoteDamagedRow(JetPager &pager, const JetTable &table, const JetPlace &home) {
-  pager.NoteDamage(QStringLiteral("row %1 on page %2 of the table %3 is damaged")
+  pager.NoteDamage(Words::tr("row %1 on page %2 of the table %3 is damaged")
                        .arg(QString::number(home.slot), QString::number(home.page), table.name));
 }
 
@@ -128,7 +128,7 @@ void CheckJetTable(JetPager &pager, const JetTable &table) {
     if (!cursor.IsWhole()) NoteDamagedRow(pager, table, HomeOf(cursor.RowId()));
   }
   if (rows == table.storedRows) return;
-  pager.NoteDamage(QStringLiteral("the table %1 should have %2 rows, but %3 are there")
+  pager.NoteDamage(Words::tr("the table %1 should have %2 rows, but %3 are there")
                        .arg(table.name, QString::number(table.storedRows), QString::number(rows)));
 }
 

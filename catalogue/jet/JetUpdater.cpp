@@ -8,6 +8,7 @@
 #include "catalogue/jet/JetText.h"
 #include "catalogue/jet/JetUsageMap.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <array>
 #include <optional>
@@ -22,7 +23,7 @@ namespace {
 
 [[noreturn]] void Refuse(const JetTable &table, const JetColumn &column, const QString &why) {
   Raise(ErrorNumber::InvalidProcedureCall,
-        QStringLiteral("the column %1 of the table %2 cannot be set: %3")
+        Words::tr("the column %1 of the table %2 cannot be set: %3")
             .arg(column.name, table.name, why));
 }
 
@@ -33,13 +34,13 @@ JetBytes BytesOf(const QByteArray &bytes) {
 
 void CheckColumn(const JetTable &table, const JetColumn &column) {
   if (column.type != JetType::Text && column.type != JetType::Memo) {
-    Refuse(table, column, QStringLiteral("only text can be changed"));
+    Refuse(table, column, Words::tr("only text can be changed"));
   }
   if (column.storage == JetStorageKind::Fixed) {
-    Refuse(table, column, QStringLiteral("it is of fixed length"));
+    Refuse(table, column, Words::tr("it is of fixed length"));
   }
   if (column.indexed == JetIndexed::Yes) {
-    Refuse(table, column, QStringLiteral("it is in an index"));
+    Refuse(table, column, Words::tr("it is in an index"));
   }
 }
 
@@ -49,18 +50,18 @@ std::optional<QByteArray> StoredValue(const JetTable &table, const JetColumn &co
   const QString text = value.toString();
   if (column.type == JetType::Text && text.size() * 2 > column.length) {
     Refuse(table, column,
-           QStringLiteral("the text has %1 characters, and %2 are the most")
+           Words::tr("the text has %1 characters, and %2 are the most")
                .arg(QString::number(text.size()), QString::number(column.length / 2)));
   }
   const auto content = EncodeJetText(text, column.compression);
   if (!content) {
-    Refuse(table, column, QStringLiteral("the text holds a character that cannot be stored"));
+    Refuse(table, column, Words::tr("the text holds a character that cannot be stored"));
   }
   if (column.type == JetType::Text) return content;
   if (content->size() > jet::LongValueInlineMaximum) {
     Refuse(
         table, column,
-        QStringLiteral("the text takes %1 bytes, and %2 are the most that are changed here")
+        Words::tr("the text takes %1 bytes, and %2 are the most that are changed here")
             .arg(QString::number(content->size()), QString::number(jet::LongValueInlineMaximum)));
   }
   return InlineJetLongValue(*content);
@@ -85,14 +86,14 @@ void JetUpdater::Update(const JetTable &table, JetRowId row,
   const auto page = ReadJetTablePage(pager_, table, home.page);
   if (!page || home.slot >= JetSlots(*page).Count() || !JetSlots(*page).IsHome(home.slot)) {
     Raise(ErrorNumber::InvalidProcedureCall,
-          QStringLiteral("the row of the table %1 is no longer there").arg(table.name));
+          Words::tr("the row of the table %1 is no longer there").arg(table.name));
   }
   JetFoundRow current = FindJetRow(pager_, home);
   if (current.flags & jet::SlotPointer) current = FollowJetPointer(pager_, table, current.bytes);
   if (!JetRow::Parse(table, current.bytes)) {
     NoteDamagedRow(pager_, table, home);
     Raise(ErrorNumber::DeviceIoError,
-          QStringLiteral("the row of the table %1 is damaged").arg(table.name));
+          Words::tr("the row of the table %1 is damaged").arg(table.name));
   }
 
   QByteArray changed(reinterpret_cast<const char *>(current.bytes.data()),
@@ -112,7 +113,7 @@ void JetUpdater::Update(const JetTable &table, JetRowId row,
   }
   if (changed.size() > jet::MaximumRowBytes) {
     Raise(ErrorNumber::InvalidProcedureCall,
-          QStringLiteral("a row of the table %1 would become too long").arg(table.name));
+          Words::tr("a row of the table %1 would become too long").arg(table.name));
   }
 
   for (const QByteArray &value : replacedLongValues) FreeJetLongValue(pager_, BytesOf(value));

@@ -2,6 +2,7 @@
 #include "catalogue/jet/JetUsageMap.h"
 
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 
@@ -13,7 +14,7 @@ constexpr std::size_t PageNumberBytes = sizeof(quint32);
 
 [[noreturn]] void RaiseDamaged() {
   throw RuntimeError::Of(ErrorNumber::DeviceIoError, QStringLiteral("Database.Execute"),
-                         QStringLiteral("a map of the database's pages is damaged"));
+                         Words::tr("a map of the database's pages is damaged"));
 }
 
 bool IsMapPage(const jet::Page &page) {

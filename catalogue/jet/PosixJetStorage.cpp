@@ -2,6 +2,7 @@
 #include "catalogue/jet/JetLockFile.h"
 #include "catalogue/jet/JetStorage.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -121,13 +122,13 @@ class PosixJetStorage final : public JetStorage {
 
   QString WriteObjection() override {
     if (!(StatOf(reader_, path_).st_mode & AnyWrite)) {
-      return QStringLiteral("it is marked as read-only");
+      return Words::tr("it is marked as read-only");
     }
     if (access(Encoded(path_).constData(), W_OK) != 0) {
-      return QStringLiteral("it cannot be written (%1)").arg(qt_error_string(errno));
+      return Words::tr("it cannot be written (%1)").arg(qt_error_string(errno));
     }
     if (access(Encoded(Folder()).constData(), W_OK) != 0) {
-      return QStringLiteral(
+      return Words::tr(
                  "its folder cannot be written, where its safety copy would be kept "
                  "(%1)")
           .arg(qt_error_string(errno));
@@ -231,7 +232,7 @@ class PosixJetStorage final : public JetStorage {
     SyncFolder();
     if (StatOf(journal_, journalPath_).st_nlink == 0) {
       throw RuntimeError::Of(ErrorNumber::PermissionDenied, Source(),
-                             QStringLiteral("another program removed %1").arg(journalPath_));
+                             Words::tr("another program removed %1").arg(journalPath_));
     }
   }
 

@@ -5,6 +5,7 @@
 #include "page/saving/PageMask.h"
 #include "page/text/CharsetConverter.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QHash>
 
@@ -65,8 +66,8 @@ void RequireReferencesFit(const QString &text, const std::vector<TextPatch> &pat
     const QString character = rest.first(rest[0].isHighSurrogate() ? 2 : 1).toString();
     throw RuntimeError(
         ErrorNumber::InvalidProcedureCall, QStringLiteral("SaveDocument"),
-        QStringLiteral("The character \"%1\" cannot be written in the page's charset %2 inside a "
-                       "script, style sheet, comment, name or server code.")
+        Words::tr("The character \"%1\" cannot be written in the page's charset %2 inside a "
+                  "script, style sheet, comment, name or server code.")
             .arg(character, charset));
   }
 }

@@ -6,6 +6,7 @@
 #include "page/text/HtmlElements.h"
 #include "page/text/TextPlaces.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -128,11 +129,15 @@ QString WithoutImpliedFrame(const QString &serialisation) {
 /// UTF-16 code units of a page's code that a message quotes.
 constexpr qsizetype LongestQuote = 60;
 
-const QString NoSmallerChange =
-    QStringLiteral("no smaller change of its source gives the page as it is shown now");
-const QString NoAnswer =
-    QStringLiteral("the check whether a smaller change is enough did not answer");
-const QString NoText = QStringLiteral("bytes that are no text in %1 stand beside what was changed");
+QString NoSmallerChange() {
+  return Words::tr("no smaller change of its source gives the page as it is shown now");
+}
+QString NoAnswer() {
+  return Words::tr("the check whether a smaller change is enough did not answer");
+}
+QString NoText() {
+  return Words::tr("bytes that are no text in %1 stand beside what was changed");
+}
 
 }  // namespace
 
@@ -177,8 +182,8 @@ struct FaithfulPage::Plan {
   std::vector<PatchStep> steps;
   SourcePatches patcher;
   std::optional<SavedPage> result;
-  QString reason = NoSmallerChange;  ///< why there is no result
-  bool isExhausted = false;          ///< no try that is left would give one
+  QString reason = NoSmallerChange();  ///< why there is no result
+  bool isExhausted = false;            ///< no try that is left would give one
 };
 
 FaithfulPage::FaithfulPage(PageOriginal original)
@@ -234,7 +239,7 @@ SavedPage FaithfulPage::Compose(const QString &current, PageVerifier &verifier) 
   const std::shared_ptr<Plan> plan = plan_;
   if (!plan->result && !plan->isExhausted) {
     plan->result = TryRungs(*plan, verifier, Tries::All);
-    plan->isExhausted = !plan->result && plan->reason != NoAnswer;
+    plan->isExhausted = !plan->result && plan->reason != NoAnswer();
   }
   return plan->result ? *plan->result : WriteEverything(current, plan->reason);
 }
@@ -260,7 +265,7 @@ std::optional<SavedPage> FaithfulPage::TryRungs(Plan &plan, PageVerifier &verifi
     if (!patches) return std::nullopt;
     const auto document = verifier.SerialisationLike(Patched(mask_.MaskedText(), *patches), wanted);
     if (!document) {
-      plan.reason = NoAnswer;
+      plan.reason = NoAnswer();
       return std::nullopt;
     }
     const bool isWanted = IsSameDocument(*document, wanted);
@@ -326,7 +331,7 @@ SavedPage FaithfulPage::Splice(const std::vector<TextPatch> &patches, SaveRung r
   SavedPage saved{SpliceBytes(original_, own), rung, {}};
   if (saved.page.extent == WrittenExtent::WholePage) {
     saved.rung = SaveRung::Everything;
-    saved.reason = NoText.arg(original_.page.encoding.charset);
+    saved.reason = NoText().arg(original_.page.encoding.charset);
   }
   return saved;
 }
@@ -341,9 +346,9 @@ SavedPage FaithfulPage::WriteEverything(const QString &current, const QString &r
     if (const auto lost = mask_.Dropped(original_.baseline, current))
       throw RuntimeError(
           ErrorNumber::InvalidProcedureCall, QStringLiteral("SaveDocument"),
-          QStringLiteral("The page would have to be written anew, since %1, and that would lose "
-                         "\"%2\", which has no place in the page as it is shown. Change the page's "
-                         "source instead.")
+          Words::tr("The page would have to be written anew, since %1, and that would lose "
+                    "\"%2\", which has no place in the page as it is shown. Change the page's "
+                    "source instead.")
               .arg(reason, lost->left(LongestQuote)));
   }
   const PageEncoding &encoding = original_.page.encoding;

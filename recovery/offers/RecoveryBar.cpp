@@ -17,6 +17,7 @@
 #include "platform/PlainTip.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -41,25 +42,24 @@ constexpr int MostRowsInSight = 4;
 constexpr auto NoteName = u"lblRecoveryNote";
 
 QString NameOf(const AbandonedPage &page) {
-  if (!page.defect.isEmpty()) return QStringLiteral("A page that cannot be read");
+  if (!page.defect.isEmpty()) return Words::tr("A page that cannot be read");
   return page.path.isEmpty() ? page.caption : modGeneral::FileNameOfPath(page.path);
 }
 
 QString NoteOn(const AbandonedPage &page, const Files &files) {
   QStringList parts;
-  parts << QStringLiteral("changed %1")
-               .arg(page.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
-  if (page.end == RunEnd::Exit) parts << QStringLiteral("kept at exit");
+  parts << Words::tr("changed %1").arg(page.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+  if (page.end == RunEnd::Exit) parts << Words::tr("kept at exit");
   if (!page.defect.isEmpty()) {
     parts << page.defect;
   } else if (page.path.isEmpty()) {
-    parts << QStringLiteral("never saved");
+    parts << Words::tr("never saved");
   } else if (!files.FileExists(page.path)) {
-    parts << QStringLiteral("the file is gone");
+    parts << Words::tr("the file is gone");
   } else if (files.ChangeTime(page.path) > page.time) {
-    parts << QStringLiteral("the file on disk is newer");
+    parts << Words::tr("the file on disk is newer");
   }
-  if (page.hasSource) parts << QStringLiteral("HTML source not applied");
+  if (page.hasSource) parts << Words::tr("HTML source not applied");
   if (!page.path.isEmpty()) parts << ForPeople(page.path);
   return parts.join(QStringLiteral("  ·  "));
 }
@@ -68,10 +68,10 @@ QString CaptionOf(const std::vector<AbandonedPage> &pages) {
   const bool isExit = std::all_of(pages.begin(), pages.end(), [](const AbandonedPage &page) {
     return page.end == RunEnd::Exit;
   });
-  return isExit ? QStringLiteral(
+  return isExit ? Words::tr(
                       "These pages were kept at exit with their unsaved changes (Alt+G leads to "
                       "them):")
-                : QStringLiteral(
+                : Words::tr(
                       "These pages were not saved when the program ended (Alt+G leads to them):");
 }
 
@@ -103,7 +103,7 @@ QPushButton *FirstButtonOf(const QVBoxLayout &rows, int place) {
 RecoveryBar::RecoveryBar(EditorContext &context, QWidget *parent)
     : QFrame(parent), context_(context) {
   setObjectName(QStringLiteral("picRecovery"));
-  setAccessibleName(QStringLiteral("Recovered pages"));
+  setAccessibleName(Words::tr("Recovered pages"));
 
   // A shortcut of the bar, not a label's letter: that would press the button at once.
   connect(new QShortcut(Qt::ALT | Qt::Key_G, this), &QShortcut::activated, this,
@@ -138,13 +138,13 @@ void RecoveryBar::BuildCaption(QVBoxLayout &column) {
   caption_->setObjectName(QStringLiteral("lblRecovery"));
   caption_->setTextFormat(Qt::PlainText);
   line->addWidget(caption_, 1);
-  QPushButton *restore = AddButton(*line, "cmdRestoreAll", QStringLiteral("Restore All"),
-                                   QStringLiteral("Restore all pages"),
-                                   QStringLiteral("Open all pages with their unsaved changes"));
+  QPushButton *restore =
+      AddButton(*line, "cmdRestoreAll", Words::tr("Restore All"), Words::tr("Restore all pages"),
+                Words::tr("Open all pages with their unsaved changes"));
   connect(restore, &QPushButton::clicked, this, &RecoveryBar::RestoreAll);
-  QPushButton *discard = AddButton(
-      *line, "cmdDiscardAll", QStringLiteral("Discard All"), QStringLiteral("Discard all pages"),
-      QStringLiteral("Give the unsaved changes of all pages up, after a question"));
+  QPushButton *discard =
+      AddButton(*line, "cmdDiscardAll", Words::tr("Discard All"), Words::tr("Discard all pages"),
+                Words::tr("Give the unsaved changes of all pages up, after a question"));
   connect(discard, &QPushButton::clicked, this, &RecoveryBar::DiscardAll);
   column.addLayout(line);
 }
@@ -154,7 +154,7 @@ void RecoveryBar::Offer() {
   const QString reason = context_.platform.journals->ReasonUnavailable();
   if (!reason.isEmpty()) {
     context_.mainWindow.status.Report(
-        QStringLiteral("Recovery is off, unsaved changes cannot be kept: %1").arg(reason));
+        Words::tr("Recovery is off, unsaved changes cannot be kept: %1").arg(reason));
   }
   Fill();
 }
@@ -206,14 +206,14 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
   const auto add = [&](const char *objectName, const QString &verb, const QString &tooltip) {
     return AddButton(*line, objectName, verb, verb + u' ' + name, tooltip);
   };
-  QPushButton *restore = add("cmdRestore", QStringLiteral("Restore"),
-                             QStringLiteral("Open the page with its unsaved changes"));
+  QPushButton *restore =
+      add("cmdRestore", Words::tr("Restore"), Words::tr("Open the page with its unsaved changes"));
   connect(restore, &QPushButton::clicked, this, [=, this] { RestoreOne(offered); });
   QPushButton *show =
-      add("cmdShow", QStringLiteral("Show"), QStringLiteral("Look at the page in the preview"));
+      add("cmdShow", Words::tr("Show"), Words::tr("Look at the page in the preview"));
   connect(show, &QPushButton::clicked, this, [=, this] { Show(abandoned); });
   QPushButton *discard =
-      add("cmdDiscard", QStringLiteral("Discard"), QStringLiteral("Give the unsaved changes up"));
+      add("cmdDiscard", Words::tr("Discard"), Words::tr("Give the unsaved changes up"));
   connect(discard, &QPushButton::clicked, this, [=, this] { Discard(offered); });
   for (QPushButton *button : {restore, show, discard}) {
     button->setEnabled(abandoned.defect.isEmpty() || button == discard);
@@ -230,7 +230,7 @@ JournalledPage RecoveryBar::Read(const AbandonedPage &abandoned) {
   JournalReading reading = context_.platform.journals->Read(abandoned.id);
   if (reading.endIsMissing) {
     context_.mainWindow.status.Report(
-        QStringLiteral("The journal of %1 is damaged: its last changes are missing")
+        Words::tr("The journal of %1 is damaged: its last changes are missing")
             .arg(NameOf(abandoned)));
   }
   return std::move(reading.page);
@@ -254,9 +254,9 @@ void RecoveryBar::ShowOpenPage(const Offered &offered, frmMain &page) {
   const bool isRestored = restored != unkept_.end() && restored->second == &page;
   if (isRestored && page.Journal().Flush()) return Discard(offered);
   context_.mainWindow.status.Report(
-      (isRestored ? QStringLiteral("%1 is restored already, and stays here until its changes can "
-                                   "be kept for a recovery")
-                  : QStringLiteral("%1 is open already. Close it, then restore what was kept"))
+      (isRestored ? Words::tr("%1 is restored already, and stays here until its changes can "
+                              "be kept for a recovery")
+                  : Words::tr("%1 is open already. Close it, then restore what was kept"))
           .arg(NameOf(offered.page)));
 }
 
@@ -264,8 +264,8 @@ void RecoveryBar::RestoreOne(const Offered &offered) {
   if (frmMain *page = OpenPageOf(offered)) return ShowOpenPage(offered, *page);
   if (Room() > 0) return Restore(offered);
   context_.mainWindow.status.Report(
-      QStringLiteral("%1 stays here: %2 pages are open, which is the most. Close one, then restore "
-                     "it")
+      Words::tr("%1 stays here: %2 pages are open, which is the most. Close one, then restore "
+                "it")
           .arg(NameOf(offered.page))
           .arg(MostPages));
 }
@@ -282,7 +282,7 @@ void RecoveryBar::RestoreAll() {
   for (std::size_t next = count; next-- > 0;) Restore(readable[next]);
   if (count == readable.size()) return;
   context_.mainWindow.status.Report(
-      QStringLiteral("%1 more stay here: %2 pages are open, which is the most")
+      Words::tr("%1 more stay here: %2 pages are open, which is the most")
           .arg(readable.size() - count)
           .arg(MostPages));
 }
@@ -293,8 +293,8 @@ void RecoveryBar::Restore(const Offered &offered) {
     if (modWorkFlow::RestorePage(context_, Read(offered.page))) return Discard(offered);
     unkept_[offered.page.id] = context_.pages.Page(context_.pages.PageCount());
   } catch (const RuntimeError &error) {
-    context_.mainWindow.status.Report(QStringLiteral("%1 could not be restored: %2")
-                                          .arg(NameOf(offered.page), error.Description()));
+    context_.mainWindow.status.Report(
+        Words::tr("%1 could not be restored: %2").arg(NameOf(offered.page), error.Description()));
   }
 }
 
@@ -317,7 +317,7 @@ void RecoveryBar::Discard(const Offered &offered) {
 
 void RecoveryBar::DiscardAll() {
   Message question;
-  question.text = QStringLiteral(
+  question.text = Words::tr(
                       "Discard the unsaved changes of all pages listed here (%1)? They cannot be "
                       "brought back.")
                       .arg(offered_.size());
