@@ -9,6 +9,7 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
+#include "platform/Words.h"
 
 #include <QDir>
 
@@ -73,7 +74,7 @@ bool HasRoom(EditorContext &context) {
   // A page can have lost its tab, so both are counted.
   if (std::max(context.mainWindow.tabs.Count(), OpenPageCount(context)) < MostPages) return true;
   Message refusal;
-  refusal.text = QStringLiteral(
+  refusal.text = Words::tr(
       "Too many Pages are opened. Please close one or two File(s), and then try to open it.");
   refusal.icon = MessageIcon::Critical;
   context.platform.dialogs.ShowMessage(refusal);
@@ -95,7 +96,7 @@ bool ShowPageOfFile(EditorContext &context, const QString &path) {
   if (page == nullptr) return false;
   context.mainWindow.windows.Activate(page);
   context.mainWindow.status.Report(
-      QStringLiteral("%1 is open already").arg(ForPeople(page->GetPageRecord().Path)));
+      Words::tr("%1 is open already").arg(ForPeople(page->GetPageRecord().Path)));
   return true;
 }
 

@@ -14,6 +14,7 @@
 #include "platform/Platform.h"
 #include "platform/ReplacedVersions.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -37,7 +38,7 @@ constexpr std::chrono::milliseconds RetryDelay = 100ms;
 OutsideChanges::OutsideChanges(EditorContext &context, frmMain &page)
     : QFrame(&page), context_(context), page_(page) {
   setObjectName(QStringLiteral("picOutside"));
-  setAccessibleName(QStringLiteral("Changed file"));
+  setAccessibleName(Words::tr("Changed file"));
   auto *line = new QHBoxLayout(this);
   line->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
   line->setSpacing(BarMargin);
@@ -56,14 +57,14 @@ OutsideChanges::OutsideChanges(EditorContext &context, frmMain &page)
     connect(button, &QPushButton::clicked, this, action);
     line->addWidget(button);
   };
-  add("cmdKeepMine", QStringLiteral("Keep Mine"),
-      QStringLiteral("Go on with the page as it is here; saving it keeps the other version"),
+  add("cmdKeepMine", Words::tr("Keep Mine"),
+      Words::tr("Go on with the page as it is here; saving it keeps the other version"),
       &OutsideChanges::KeepMine);
-  add("cmdTakeTheirs", QStringLiteral("Take Theirs"),
-      QStringLiteral("Load the file again; Undo brings the page back as it is here"),
+  add("cmdTakeTheirs", Words::tr("Take Theirs"),
+      Words::tr("Load the file again; Undo brings the page back as it is here"),
       &OutsideChanges::TakeTheirs);
-  add("cmdCompare", QStringLiteral("Compare"),
-      QStringLiteral("Show both side by side as source, with the differences marked"),
+  add("cmdCompare", Words::tr("Compare"),
+      Words::tr("Show both side by side as source, with the differences marked"),
       &OutsideChanges::Compare);
   hide();
 
@@ -109,7 +110,7 @@ void OutsideChanges::CheckFile() {
     if (!hasUnsavedWork) {
       LoadFile();
       if (alive == nullptr) return;
-      return Report(QStringLiteral(
+      return Report(Words::tr(
           "%1 was changed by another program and is loaded again; Undo brings back what was here"));
     }
   } catch (const RuntimeError &error) {
@@ -150,15 +151,15 @@ void OutsideChanges::RememberTrace() {
 }
 
 void OutsideChanges::ShowBar() {
-  text_->setText(QStringLiteral("%1 was changed by another program, and has unsaved changes here.")
-                     .arg(Name()));
+  text_->setText(
+      Words::tr("%1 was changed by another program, and has unsaved changes here.").arg(Name()));
   show();
 }
 
 void OutsideChanges::ReportRemoval() {
   if (!isThere_) return;
   isThere_ = false;
-  Report(QStringLiteral(
+  Report(Words::tr(
       "%1 is no longer there: it was removed, renamed, or its disk has gone. The page stays open, "
       "and saving it writes the file anew"));
 }
@@ -167,8 +168,8 @@ void OutsideChanges::ReportPermissions() {
   const bool isReadOnly = context_.platform.files.IsReadOnly(path_);
   if (isReadOnly == isReadOnly_) return;
   isReadOnly_ = isReadOnly;
-  Report(isReadOnly ? QStringLiteral("%1 is read-only now: Save As keeps your changes")
-                    : QStringLiteral("%1 can be written now"));
+  Report(isReadOnly ? Words::tr("%1 is read-only now: Save As keeps your changes")
+                    : Words::tr("%1 can be written now"));
 }
 
 bool OutsideChanges::HasUnsavedWork() {
@@ -191,9 +192,8 @@ void OutsideChanges::LoadFile() {
   // could not be loaded still holds its old text.
   const QByteArray content = context_.platform.files.ReadAll(path_);
   if (const auto form = UnsupportedFormOf(content))
-    throw RuntimeError(
-        ErrorNumber::TypeMismatch, QStringLiteral("OutsideChanges"),
-        QStringLiteral("it is %1 now. The page stays as it is here").arg(InWords(*form)));
+    throw RuntimeError(ErrorNumber::TypeMismatch, QStringLiteral("OutsideChanges"),
+                       Words::tr("it is %1 now. The page stays as it is here").arg(InWords(*form)));
   const FileTrace trace = FileTrace::Of(path_, content);
   RememberTrace();
   component.LoadDocument(path_);
@@ -223,13 +223,13 @@ void OutsideChanges::TakeTheirs() {
     return ReportUnreadable(error);
   }
   hide();
-  Report(QStringLiteral("%1 is loaded again; Undo brings back what was here"));
+  Report(Words::tr("%1 is loaded again; Undo brings back what was here"));
 }
 
 void OutsideChanges::KeepMine() {
   // The trace stays: a save keeps the file's version before it replaces it.
   hide();
-  Report(QStringLiteral("Saving %1 keeps the other version among the replaced ones"));
+  Report(Words::tr("Saving %1 keeps the other version among the replaced ones"));
 }
 
 void OutsideChanges::Compare() {
@@ -241,7 +241,7 @@ void OutsideChanges::Compare() {
 
 void OutsideChanges::ReportUnreadable(const RuntimeError &error) const {
   context_.mainWindow.status.ReportOn(
-      page_.Number(), QStringLiteral("%1 was changed by another program and cannot be read: %2")
+      page_.Number(), Words::tr("%1 was changed by another program and cannot be read: %2")
                           .arg(Name(), error.Description()));
 }
 

@@ -19,6 +19,7 @@
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
 #include "platform/TemporaryCopies.h"
+#include "platform/Words.h"
 
 namespace velor::modWorkFlow {
 
@@ -39,9 +40,8 @@ void RequireFile(EditorContext &context, const QString &path, const QString &ope
 void RequirePage(const QByteArray &bytes, const QString &subject, const QString &operation) {
   const auto form = UnsupportedFormOf(bytes);
   if (!form) return;
-  throw RuntimeError(
-      ErrorNumber::TypeMismatch, operation,
-      QStringLiteral("%1 is %2. The file stays as it is").arg(subject, InWords(*form)));
+  throw RuntimeError(ErrorNumber::TypeMismatch, operation,
+                     Words::tr("%1 is %2. The file stays as it is").arg(subject, InWords(*form)));
 }
 
 /// Sets the baseline of the page made last, if its load has not reported yet, before the next slot
@@ -89,7 +89,7 @@ void WaitForPage(frmMain &window, Wait wait) {
   wait(window.DHTML1());
   if (!IsOpen(alive)) {
     throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("PageFiles"),
-                           QStringLiteral("the page was closed while it was loaded"));
+                           Words::tr("the page was closed while it was loaded"));
   }
 }
 
@@ -151,7 +151,7 @@ void OpenReadOnly(EditorContext &context, frmMain &window, const QString &path) 
 PageRecord RecordOfRestored(EditorContext &context, int number, const JournalledPage &kept) {
   if (kept.path.isEmpty()) {
     PageRecord record;
-    record.Caption = QStringLiteral("Untitled %1").arg(number);
+    record.Caption = Words::tr("Untitled %1").arg(number);
     record.TempPath = TemporaryCopyOfNewPage(context, number);
     return record;
   }
@@ -233,7 +233,7 @@ void NewPage(EditorContext &context) {
   frmMain &window = MakePage(context);
   FillPage(window, [&] {
     const int number = window.Number();
-    const QString caption = QStringLiteral("Untitled %1").arg(number);
+    const QString caption = Words::tr("Untitled %1").arg(number);
     context.mainWindow.windows.Show(&window);
     window.Tag = QString::number(number);
     window.DHTML1().SetDocumentHTML(NewPageTemplate());

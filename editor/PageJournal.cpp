@@ -6,6 +6,7 @@
 #include "editor/frmCodeEditor.h"
 #include "platform/EditingComponent.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 #include <chrono>
@@ -197,7 +198,7 @@ bool PageJournal::RunOrReport(Step step) {
     return true;
   } catch (const RuntimeError &error) {
     if (!failureTold_) {
-      status_.Report(QStringLiteral("The changes of %1 could not be kept for a recovery: %2")
+      status_.Report(Words::tr("The changes of %1 could not be kept for a recovery: %2")
                          .arg(pages_.Record(number_).Caption, error.Description()));
     }
     failureTold_ = true;

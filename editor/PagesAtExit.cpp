@@ -7,6 +7,7 @@
 #include "platform/EditingComponent.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 namespace velor {
 
@@ -32,7 +33,7 @@ QList<QPointer<frmMain>> OpenPages(EditorContext &context) {
 bool EndsAllTheSame(Dialogs &dialogs, const QStringList &captions) {
   Message question;
   question.text =
-      QStringLiteral(
+      Words::tr(
           "The unsaved changes of %1 cannot be kept for the next start. They are lost if the "
           "program ends now.\n\nEnd the program all the same?")
           .arg(captions.join(QStringLiteral(", ")));

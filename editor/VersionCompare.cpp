@@ -2,6 +2,7 @@
 #include "editor/VersionCompare.h"
 
 #include "chrome/Palette.h"
+#include "platform/Words.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -94,7 +95,7 @@ VersionCompare::VersionCompare(const QString &name, const QString &mine, const Q
     : QDialog(parent) {
   setObjectName(QStringLiteral("frmCompare"));
   setAttribute(Qt::WA_DeleteOnClose);
-  setWindowTitle(QStringLiteral("%1: here and on the disk").arg(name));
+  setWindowTitle(Words::tr("%1: here and on the disk").arg(name));
   auto *columns = new QHBoxLayout(this);
   const auto add = [&](const char *objectName, const QString &title, const QStringList &lines) {
     auto *view = new QPlainTextEdit(lines.join(u'\n'));
@@ -113,8 +114,8 @@ VersionCompare::VersionCompare(const QString &name, const QString &mine, const Q
   };
   const QStringList left = LinesOf(mine);
   const QStringList right = LinesOf(theirs);
-  QPlainTextEdit *here = add("txtMine", QStringLiteral("Here, not saved"), left);
-  QPlainTextEdit *there = add("txtTheirs", QStringLiteral("On the disk"), right);
+  QPlainTextEdit *here = add("txtMine", Words::tr("Here, not saved"), left);
+  QPlainTextEdit *there = add("txtTheirs", Words::tr("On the disk"), right);
   const LineDifferences differences = LineDifferences::Between(left, right);
   Mark(*here, differences.left);
   Mark(*there, differences.right);

@@ -6,6 +6,7 @@
 #include "chrome/ToolBarButtons.h"
 #include "editor/MainWindow.h"
 #include "platform/Platform.h"
+#include "platform/Words.h"
 
 #include <QCloseEvent>
 #include <QFontMetrics>
@@ -69,12 +70,12 @@ frmBrowser::frmBrowser(EditorContext &context)
     : context_(context), browser_(context.platform.components.CreateBrowser(this)) {
   setObjectName(QStringLiteral("frmBrowser"));
   setAttribute(Qt::WA_DeleteOnClose);
-  setWindowTitle(QStringLiteral("Preview"));
+  setWindowTitle(Words::tr("Preview"));
   setWindowIcon(IconFor(QStringLiteral("preview")));
 
   BuildToolBar();
   browser_->Widget()->setObjectName(QStringLiteral("brwWebBrowser"));
-  browser_->Widget()->setAccessibleName(QStringLiteral("Preview"));
+  browser_->Widget()->setAccessibleName(Words::tr("Preview"));
 
   BuildStatusBar();
   setFocusProxy(browser_->Widget());
@@ -93,7 +94,7 @@ frmBrowser::~frmBrowser() {
 void frmBrowser::BuildToolBar() {
   toolBar_ = new QToolBar(this);
   toolBar_->setObjectName(QStringLiteral("tbToolBar"));
-  toolBar_->setAccessibleName(QStringLiteral("Navigation"));
+  toolBar_->setAccessibleName(Words::tr("Navigation"));
   toolBar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   toolBar_->setIconSize(QSize(BrowserIconSize, BrowserIconSize));
   toolBar_->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);

@@ -4,6 +4,7 @@
 #include "insert/OldPictures.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -71,7 +72,7 @@ LoadedPicture LoadPicture(const QString &path, QSize bounds) {
   if (image.isNull()) {
     throw RuntimeError(
         ErrorNumber::InvalidProcedureCall, source,
-        QStringLiteral("%1 cannot be loaded as a picture: %2").arg(native, reader.errorString()));
+        Words::tr("%1 cannot be loaded as a picture: %2").arg(native, reader.errorString()));
   }
   const QSize size = image.size();
   return {size,

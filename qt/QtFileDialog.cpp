@@ -3,6 +3,7 @@
 
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QApplication>
 #include <QDir>
@@ -109,7 +110,7 @@ QString QtFileDialog::ShowSave() {
 QString QtFileDialog::Show(Purpose purpose) {
   const bool isSave = purpose == Purpose::Save;
   QFileDialog dialog(QApplication::activeWindow(),
-                     isSave ? QStringLiteral("Save As") : QStringLiteral("Open"));
+                     isSave ? Words::tr("Save As") : Words::tr("Open"));
   dialog.setObjectName(QStringLiteral("CommonDialog1"));
   dialog.setAcceptMode(isSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   const bool mustExist = !isSave && (Flags & FileMustExist) != 0;
