@@ -3,6 +3,8 @@
 // The names that the program evaluates, on the global object `velor` of the bridge's world. Nothing
 // else of the bridge is global. docs/bridge.md says what each does.
 import { changeObject, setBookmark, setLink } from './clipboard/dialogs.js';
+import { pasteAs } from './clipboard/clipboard.js';
+import { isPasting } from './clipboard/longPaste.js';
 import { pasteHTML } from './clipboard/paste.js';
 import { setDetails } from './objects/details.js';
 import { setSnap } from './objects/grid.js';
@@ -20,14 +22,23 @@ import { moveTo, replaceDocument } from './talk/replace.js';
 import { state } from './talk/state.js';
 import { parsed } from './talk/verify.js';
 
+// What changes the page waits for nobody, but does nothing while a long paste goes on.
+/**
+ * @template {any[]} T
+ * @param {(...values: T) => any} change
+ */
+const unlessPasting = (change) => (/** @type {T} */ ...values) =>
+  (isPasting() ? false : change(...values));
+
 globalThis.velor = {
   start,
-  exec,
+  exec: unlessPasting(exec),
   state,
-  pasteHTML,
-  setLink,
-  setBookmark,
-  changeObject,
+  pasteHTML: unlessPasting(pasteHTML),
+  pasteAs: unlessPasting(pasteAs),
+  setLink: unlessPasting(setLink),
+  setBookmark: unlessPasting(setBookmark),
+  changeObject: unlessPasting(changeObject),
   caretAt: setCaretAtPixel,
   serialize,
   replaceDocument,

@@ -274,6 +274,8 @@ interface Host {
   pushMouse(x: number, y: number): void;
   inputArrived(): void;
   pictureWanted(): void;
+  pasting(percent: number): void;
+  pasteStopped(): void;
   linkWanted(address: string): void;
   earlierWanted(): void;
   laterWanted(): void;

@@ -20,6 +20,16 @@ const selectorOf = (names, marks) =>
   names.flatMap((name) => marks.map((mark) => `[${name}*="${mark}"]`)).join();
 const addresses = new RegExp(`(?:${scheme}|file:)[^\\s"'()<>,]*`, 'g');
 
+/**
+ * False for an address that runs a script, or that means something in the other program only.
+ * @param {string} name
+ * @param {string} value
+ */
+export function isSafeAddress(name, value) {
+  const address = value.trim().replace(/[\u0000-\u0020]/g, '');
+  if (name === 'href') return !/^(javascript|vbscript|data):|^(file:.*)?#_/i.test(address);
+  return name !== 'src' || !/^(javascript|cid|blob|about):|msohtml/i.test(address);
+}
 // True for a page that the program shows from a file.
 const isShownFromFile = () => new URL(document.baseURI).protocol === scheme;
 

@@ -4,6 +4,7 @@
 // pictures, tables, emphasis, colours of words and alignment stay, its private markup and its other
 // looks do not. A new tree is built of what is known, in the page's dialect, so that nothing
 // unknown comes in. Functions here answer lists of new nodes.
+import { isSafeAddress } from './addresses.js';
 import {
   elementAround, empties, hasText, isBlock, joined, paragraphs, trim, withoutGaps, wrapLines,
 } from './foreignLines.js';
@@ -37,16 +38,6 @@ const uncoloured = set('A CODE KBD PRE SAMP TT');
 // What `Inside` knows of.
 const counted = new Set([...emphasis, ...uncoloured]);
 
-// False for an address that runs a script, or that means something in the other program only.
-/**
- * @param {string} name
- * @param {string} value
- */
-function isSafeAddress(name, value) {
-  const address = value.trim().replace(/[\u0000-\u0020]/g, '');
-  if (name === 'href') return !/^(javascript|vbscript|data):|^(file:.*)?#_/i.test(address);
-  return name !== 'src' || !/^(javascript|cid|blob|about):|msohtml/i.test(address);
-}
 /**
  * @param {Element} from
  * @param {Element} to

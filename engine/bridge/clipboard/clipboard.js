@@ -5,9 +5,12 @@
 import { deleteToPoint } from '../blocks/deletion.js';
 import { deleteKeepingLooks } from '../blocks/typing.js';
 import * as addresses from './addresses.js';
-import { cleaned } from './clean.js';
+import { cleaned, cleaning } from './clean.js';
+import { doSlowly, isLong } from './longPaste.js';
+import { asMarkdown } from './markdown.js';
 import { closed, openEndsOf } from './openEnds.js';
-import { put } from './paste.js';
+import { linesOf, put } from './paste.js';
+import { asItStands, asTable, withListsAndLinks } from './plainText.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
@@ -93,73 +96,50 @@ function cut(event) {
   schedulePush();
 }
 
-// Makes no-break spaces of blanks that a page would not show: of all but the last of a run, and in
-// `keepBlanks` of one that a line begins with. The first line joins text that is there: a blank
-// before it is shown.
-/** @param {string} line */
-const keepRuns = (line) => line.replace(/\t/g, '    ').replace(/ (?= )/g, '\u00a0');
-/** @param {string} line */
-const keepBlanks = (line) => keepRuns(line).replace(/^ /, '\u00a0');
-
-// Plain text as markup: a paragraph for what stands between empty lines, with breaks in it; in a
-// list for each line (fitIntoList makes items of them).
+// How plain text becomes markup.
+/** @type {Record<string, (text: string, inList: boolean) => DocumentFragment>} */
+const forms = {
+  '': withListsAndLinks, text: asItStands, table: asTable, markdown: asMarkdown,
+};
 /**
  * @param {string} text
- * @param {boolean} inList
+ * @param {PlainRange} range
+ * @param {string} form
  */
-function markupOfText(text, inList) {
-  const fragment = document.createDocumentFragment();
-  /** @param {string} block */
-  const broken = (block) => block.split('\n').flatMap((line, index) =>
-    (index ? [dom.create('BR'), keepBlanks(line)] : [keepRuns(line)]));
-  const ends = inList ? /\n+/ : /\n(?:[ \t]*\n)+/;
-  const blocks = text.replace(/\r\n?/g, '\n').replace(/^\n+|\n+$/g, '').split(ends);
-  if (blocks.length < 2) {
-    fragment.append(...broken(blocks[0]));
-    return fragment;
-  }
-  for (const block of blocks) {
-    const paragraph = dom.create('P');
-    paragraph.append(...broken(block));
-    fragment.append(paragraph);
-  }
-  return fragment;
-}
-/**
- * @param {string} text
- * @param {Range} range
- */
-function textFragment(text, range) {
+function textFragment(text, range, form) {
   const pre = dom.ancestor(
     range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName));
-  if (!pre) return markupOfText(text, Boolean(itemAt(range)));
+  if (!pre) return forms[form](text, Boolean(itemAt(range)));
   const fragment = document.createDocumentFragment();
   fragment.append(text.replace(/\r\n?/g, '\n'));
   return fragment;
 }
 
-// An address that is dropped as one, not as a text.
+/**
+ * What the clipboard or a drop has; its data can be read during the event only.
+ * @typedef {{ html: string, text: string, addresses: string }} Content
+ */
 /** @param {DataTransfer} data */
-function linkOf(data) {
-  const address = data.getData('text/uri-list').split(/[\r\n]+/)
-    .find((line) => /^(https?|ftp|mailto):/i.test(line));
+const contentOf = (data) => ({
+  html: data.getData('text/html'), text: data.getData('text/plain'),
+  addresses: data.getData('text/uri-list'),
+});
+
+// An address that is dropped as one, not as a text.
+/** @param {Content} content */
+function linkOf({ addresses: list, text }) {
+  const address = list.split(/[\r\n]+/).find((line) => /^(https?|ftp|mailto):/i.test(line));
   if (!address) return null;
   const link = dom.create('A', { href: address });
-  link.append(data.getData('text/plain').trim() || address);
+  link.append(text.trim() || address);
   const fragment = document.createDocumentFragment();
   fragment.append(link);
   return fragment;
 }
 
-// What the clipboard or a drop has, as markup for this page.
-/**
- * @param {DataTransfer} data
- * @param {Range} range
- */
-function fragmentOf(data, range) {
-  const html = data.getData('text/html');
-  if (!html.trim()) return linkOf(data) ?? textFragment(data.getData('text/plain'), range);
-  if (!origin.test(html)) return cleaned(html);
+// What this program has copied.
+/** @param {string} html */
+function ownFragment(html) {
   const own = document.createElement('template');
   own.innerHTML = html.replace(origin, '');
   for (const element of own.content.querySelectorAll('meta[charset]')) element.remove();
@@ -209,26 +189,51 @@ function dropKnownIds(fragment) {
   }
 }
 
+// The form that the next paste takes its text in; empty for a paste of whatever is there.
+let wanted = '';
+/**
+ * Pastes the clipboard's text as `form` says: 'text' as it stands, 'table' with tabs between cells,
+ * 'markdown'.
+ * @param {string} form
+ */
+export function pasteAs(form) {
+  wanted = form;
+  try {
+    document.execCommand('paste');
+  } finally {
+    wanted = '';
+  }
+}
+
+// Ctrl+Shift+V, where the program does not take that key: the engine would paste the text too, but
+// as any other text.
+/** @param {KeyboardEvent} event */
+function pressPasteText(event) {
+  const { key, ctrlKey, altKey, metaKey, shiftKey } = event;
+  if (!ctrlKey || !shiftKey || altKey || metaKey || key.toLowerCase() !== 'v') return;
+  if (!dom.isEditable() || isInField(event.target)) return;
+  event.preventDefault();
+  pasteAs('text');
+}
+
 /** @param {ClipboardEvent} event */
 function paste(event) {
   if (!dom.isEditable() || isInField(event.target)) return;
   event.preventDefault();
-  const { clipboardData } = event;
-  /** @param {string} type */
-  const says = (type) => clipboardData.getData(type).trim() !== '';
+  const content = contentOf(event.clipboardData);
   // A file manager gives the names of files as text too.
-  const files = /^file:/im.test(clipboardData.getData('text/uri-list'));
-  const text = says('text/plain') && !files;
-  if (says('text/html') || text) insert(clipboardData, 'insertFromPaste');
+  const files = /^file:/im.test(content.addresses);
+  const text = content.text.trim() !== '' && !files;
+  if (content.html.trim() || text) insert(content, 'insertFromPaste', wanted);
   else host()?.pictureWanted();
 }
 
 /**
- * @param {DataTransfer} data
+ * @param {string} html
  * @returns {any} the open ends
  */
-function openEndsIn(data) {
-  const [, start, end] = origin.exec(data.getData('text/html')) ?? [];
+function openEndsIn(html) {
+  const [, start, end] = origin.exec(html) ?? [];
   return start ? { start, end } : closed;
 }
 
@@ -241,22 +246,42 @@ function fit(fragment, range) {
   unwrapSingle(fragment, range);
   fitIntoList(fragment, range);
 }
-// Puts what the clipboard or a drop has in at the selection, as one step of the history.
+// Puts a fragment in at the selection, as one step of the history.
 /**
- * @param {DataTransfer} data
+ * @param {DocumentFragment} fragment
  * @param {string} kind
+ * @param {import('./openEnds.js').OpenEnds} [open]
  */
-function insert(data, kind) {
+function putIn(fragment, kind, open = closed) {
   const range = selection.range();
   if (!range) return;
-  const fragment = fragmentOf(data, range);
-  const open = openEndsIn(data);
   fit(fragment, range);
   dropKnownIds(fragment);
   addresses.makeRelative(fragment);
   if (!fragment.hasChildNodes()) return;
   history.step(kind, () => put(fragment, open));
   schedulePush();
+}
+// Puts what the clipboard or a drop has in.
+/**
+ * @param {Content} content
+ * @param {string} kind
+ * @param {string} [form] what becomes of its text where that is to be taken
+ */
+export function insert(content, kind, form = '') {
+  const range = selection.range();
+  if (!range) return;
+  const { html, text } = content;
+  if (form || !html.trim()) {
+    const said = text || (html.trim() ? linesOf(cleaned(html)).join('\n') : '');
+    putIn((form ? null : linkOf(content)) ?? textFragment(said, range, form), kind);
+  } else if (origin.test(html)) {
+    putIn(ownFragment(html), kind, openEndsIn(html));
+  } else if (isLong(html)) {
+    doSlowly(cleaning(html), (fragment) => putIn(fragment, kind));
+  } else {
+    putIn(cleaned(html), kind);
+  }
 }
 
 // The range that is being dragged out of this page; null for what comes from elsewhere.
@@ -322,7 +347,7 @@ function drop(event) {
     return;
   }
   selection.setCaretAtPixel(event.clientX, event.clientY);
-  insert(event.dataTransfer, 'insertFromDrop');
+  insert(contentOf(event.dataTransfer), 'insertFromDrop');
 }
 
 /** Begins to listen on a document that was loaded. */
@@ -333,4 +358,5 @@ export const listenToClipboard = () => {
   document.addEventListener('copy', copy, true);
   document.addEventListener('cut', cut, true);
   document.addEventListener('paste', paste, true);
+  document.addEventListener('keydown', pressPasteText, true);
 };

@@ -315,12 +315,12 @@ function putJoined(fragment, open, range) {
   join();
 }
 
-// What its blocks hold, each as a line, for text as it stands.
 /**
+ * What a node's blocks hold, each as a line.
  * @param {AnyNode} node
  * @returns {string[]}
  */
-const linesOf = (node) => (node.firstChild && holdsBlock(node)
+export const linesOf = (node) => (node.firstChild && holdsBlock(node)
   ? [...node.childNodes].filter((child) => !dom.isBlank(child)).flatMap(linesOf)
   : [plainText(node)]);
 

@@ -3,6 +3,7 @@
 // The bridge as the program has it, and what only its tests look at.
 import '../../../engine/bridge/api.js';
 import { formats as blockFormats } from '../../../engine/bridge/blocks/blocks.js';
+import { insert } from '../../../engine/bridge/clipboard/clipboard.js';
 import { isWithin } from '../../../engine/bridge/clipboard/openEnds.js';
 import * as extent from '../../../engine/bridge/blocks/extent.js';
 import * as dom from '../../../engine/bridge/page/dom.js';
@@ -16,6 +17,7 @@ import { commands, statusOf } from '../../../engine/bridge/talk/commands.js';
 import { Command, Status } from '../../../engine/bridge/talk/vocabulary.js';
 
 globalThis.inside = {
-  beside, blockFormats, commands, dividePiecesOver, dom, extent, glyphs, history, isWithin,
+  beside, blockFormats, commands, dividePiecesOver, dom, extent, glyphs, history, insert,
+  isWithin,
   selection, standIns, statusOf, Command, Status,
 };
