@@ -43,6 +43,14 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     Q_EMIT PictureWanted();
   }
+  void pasting(int percent) {
+    const EngineCallback callback(guard_);
+    Q_EMIT Pasting(percent);
+  }
+  void pasteStopped() {
+    const EngineCallback callback(guard_);
+    Q_EMIT PasteStopped();
+  }
   void linkWanted(const QString &address) {
     const EngineCallback callback(guard_);
     Q_EMIT LinkWanted(address);
@@ -64,6 +72,8 @@ class BridgeHost : public QObject {
   /// The probe of a TurnQueue has arrived in the page.
   void InputArrived();
   void PictureWanted();
+  void Pasting(int percent);
+  void PasteStopped();
   void LinkWanted(const QString &address);
   void EarlierWanted();
   void LaterWanted();

@@ -88,6 +88,10 @@ class EngineView : public QObject, private PageWays {
   void PartAsked(const QString &name, const QString &file);
   /// Paste was asked for where the clipboard has no text.
   void PictureWanted();
+  /// A long paste goes on: how much of it is done; 100 when it has ended.
+  void Pasting(int percent);
+  /// A long paste was stopped before it changed anything.
+  void PasteStopped();
   /// A link is to be followed; its address as written in the page.
   void LinkWanted(const QString &address);
   /// Undo was asked for at the beginning of the page's own history; redo at its end.

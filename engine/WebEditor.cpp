@@ -92,6 +92,13 @@ void WebEditor::ConnectView(EngineView &view) {
                    [=, this] { post(Notice::Died, [this] { loader_.ReloadAfterCrash(); }); });
   QObject::connect(&view, &EngineView::PictureWanted,
                    [=, this] { post(Notice::Picture, [this] { PastePicture(); }); });
+  QObject::connect(&view, &EngineView::Pasting, [this](int percent) {
+    notices_.Report(percent < 100 ? QStringLiteral("Pasting, %1 %. Escape stops it.").arg(percent)
+                                  : QString());
+  });
+  QObject::connect(&view, &EngineView::PasteStopped, [this] {
+    notices_.Report(QStringLiteral("The paste was stopped. Nothing has changed."));
+  });
   QObject::connect(&view, &EngineView::LinkWanted, [this](const QString &address) {
     notices_.PostToListener(
         Notice::Link, [address](EditingListener &listener) { listener.LinkFollowed(address); });
@@ -258,7 +265,9 @@ bool WebEditor::HasByteOrderMark() const {
 
 QVariant WebEditor::ExecCommand(EditingCommand command, ExecOption, const QVariant &value) {
   if (const auto answer = document_.Snapshot().ValueOf(command)) return *answer;
-  if (const QString name = ClipboardCommand(command); !name.isEmpty()) {
+  if (command == EditingCommand::Paste && value.isValid()) {
+    document_.Run(QStringLiteral("velor.pasteAs(%1)").arg(ScriptValue(value.toString())));
+  } else if (const QString name = ClipboardCommand(command); !name.isEmpty()) {
     document_.Run(QStringLiteral("document.execCommand(%1)").arg(ScriptValue(name)));
   } else if (value.isValid()) {
     document_.Run(QStringLiteral("velor.exec(%1,%2)")

@@ -87,6 +87,64 @@ TEST_F(ForeignClipboard, TextOnlyTakesTheLooksOfWhereItGoes) {
   EXPECT_TRUE(BecomesDocument(QStringLiteral("<p><b>Onethe text</b></p>"))) << Seen().constData();
 }
 
+TEST_F(ForeignClipboard, TextOnlyIsNoListAndHasNoLinks) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  QApplication::clipboard()->setText(QStringLiteral(": a\n- b\n- http://c.example/"));
+  Key(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>One: a<br>- b<br>- http://c.example/</p>")))
+      << Seen().constData();
+}
+
+TEST_F(ForeignClipboard, TextIsPastedAsATableAndAsMarkdownInOneStepEach) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  QApplication::clipboard()->setText(QStringLiteral("a\tb\nc\td"));
+  Exec(EditingCommand::Paste, QStringLiteral("table"));
+  EXPECT_TRUE(BecomesDocument(QStringLiteral(
+      "<p>One</p><table border=\"1\"><tbody><tr><td>a</td><td>b</td></tr><tr><td>c</td><td>d</td>"
+      "</tr></tbody></table>")))
+      << Seen().constData();
+  Exec(EditingCommand::Undo);
+  EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>One</p>"))) << Seen().constData();
+  QApplication::clipboard()->setText(QStringLiteral("# Two\n\nand *three*"));
+  Exec(EditingCommand::Paste, QStringLiteral("markdown"));
+  EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>One</p><h1>Two</h1><p>and <em>three</em></p>")))
+      << Seen().constData();
+  Exec(EditingCommand::Undo);
+  EXPECT_TRUE(BecomesDocument(QStringLiteral("<p>One</p>"))) << Seen().constData();
+}
+
+TEST_F(ForeignClipboard, EscapeStopsALongPasteAndThePageIsAsItWas) {
+  const QByteArray page = "<P>One\n<P id=x>Two";
+  LoadWithCaret(page, QStringLiteral("p"));
+  const QString line = QStringLiteral("<p class=MsoNormal>words and <b>more</b><o:p></o:p></p>\n");
+  OfferHtml(line.repeated(4'000'000 / static_cast<int>(line.size())));
+  Exec(EditingCommand::Paste);
+  ASSERT_TRUE(WaitFor([&] {
+    return !listener_.reports.empty() && listener_.reports.back().contains(u"Escape stops it");
+  }));
+  TypeText(QStringLiteral("not now"));
+  Key(Qt::Key_Escape);
+  ASSERT_TRUE(WaitFor([&] { return listener_.reports.back().contains(u"was stopped"); }));
+  EXPECT_EQ(Evaluate(QStringLiteral("document.querySelectorAll('p').length")).toInt(), 2);
+  EXPECT_EQ(editor_->TextToSave().toUtf8(), page);
+  EXPECT_EQ(Status(EditingCommand::Undo), CommandStatus::Disabled);
+  TypeText(QStringLiteral("!"));
+  EXPECT_TRUE(WaitFor([&] { return DocumentHolds(QStringLiteral("One!")); })) << Seen().constData();
+}
+
+TEST_F(ForeignClipboard, ALongPasteThatIsNotStoppedIsOneStep) {
+  LoadWithCaret("<p>One</p>", QStringLiteral("p"));
+  const QString line = QStringLiteral("<p class=MsoNormal>words and <b>more</b><o:p></o:p></p>\n");
+  const int count = 400'000 / static_cast<int>(line.size());
+  OfferHtml(line.repeated(count));
+  Exec(EditingCommand::Paste);
+  const QString paragraphs = QStringLiteral("document.querySelectorAll('p').length");
+  ASSERT_TRUE(WaitFor([&] { return Evaluate(paragraphs).toInt() == count + 1; }));
+  EXPECT_TRUE(WaitFor([&] { return listener_.reports.back().isEmpty(); }));
+  Exec(EditingCommand::Undo);
+  EXPECT_EQ(Evaluate(paragraphs).toInt(), 1);
+}
+
 TEST_F(ForeignClipboard, NothingIsFetchedForIt) {
   QTcpServer server;
   ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
