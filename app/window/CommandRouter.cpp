@@ -106,6 +106,15 @@ void CommandRouter::Run(const Command &command) {
       if (frmMain *page = ActiveDocument())
         page->FollowLink(page->DHTML1().Document().Link().Attribute(QStringLiteral("href")));
       break;
+    case CommandId::PasteText:
+      PasteAs(QStringLiteral("text"));
+      break;
+    case CommandId::PasteTable:
+      PasteAs(QStringLiteral("table"));
+      break;
+    case CommandId::PasteMarkdown:
+      PasteAs(QStringLiteral("markdown"));
+      break;
     case CommandId::Preview:
       Preview();
       break;
@@ -227,6 +236,16 @@ void CommandRouter::Edit(EditingCommand command) {
   } else if (frmMain *page = ActiveDocument()) {
     page->DHTML1().ExecCommand(command);
   }
+}
+
+void CommandRouter::PasteAs(const QString &form) {
+  const FrontWindow *front = host_.Front();
+  if (front != nullptr && front->View() == FrontView::SourceEditor)
+    return Edit(EditingCommand::Paste);
+  if (frmMain *page = ActiveDocument(); page != nullptr && front->View() == FrontView::Design)
+    page->DHTML1().ExecCommand(EditingCommand::Paste, ExecOption::Default, form);
+  else
+    context_.mainWindow.status.Report(QStringLiteral("There is no page to put something into"));
 }
 
 void CommandRouter::Insert(void (InsertCommands::*insertion)(frmMain &)) {

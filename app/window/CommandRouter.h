@@ -95,6 +95,9 @@ class CommandRouter {
   /// The page window in front; null when the window in front is another one, or there is none.
   frmMain *ActiveDocument();
   void Edit(EditingCommand command);
+  /// Pastes the clipboard's text into the page in front: "text", "table" or "markdown"; see
+  /// docs/bridge.md, pasteAs. In a source editor all of them paste the text.
+  void PasteAs(const QString &form);
   void Insert(void (InsertCommands::*insertion)(frmMain &));
   void SetValue(EditingCommand query, EditingCommand set, const QString &value);
   void SetColor(EditingCommand set, std::int32_t color);

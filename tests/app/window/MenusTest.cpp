@@ -265,6 +265,9 @@ mnuLink "Link... (&L)" Ctrl+K
 mnuFollowLink "Follow Link (&K)"
 mnuBookmark "Insert Target... (&T)"
 mnuVideo "Insert Video... (&V)"
+mnuPasteText "Paste as Text (&X)" Ctrl+Shift+V
+mnuPasteTable "Paste as Table (&B)"
+mnuPasteMarkdown "Paste as Markdown (&M)"
 mnu7 "-"
 mnuWrapSource "Wrap Source Lines (&W)"
 mnuDrives "Drives... (&D)"
