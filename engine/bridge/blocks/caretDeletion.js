@@ -2,7 +2,7 @@
 // @ts-check
 // Backspace and Delete at a caret where the engine would do it badly: at the edge of a paragraph,
 // which is joined to its neighbour, and beside a picture, an island and the like.
-import { deleteToLine } from './deletion.js';
+import { deleteAroundComments, deleteToLine } from './deletion.js';
 import {
   caretAt, cellOf, isAtEdge, isEmptyParagraph, sameUnit, showsAnything, spansUnits, unitAt,
 } from './extent.js';
@@ -12,7 +12,7 @@ import * as lists from './lists.js';
 import { joinAlike } from '../formats/merging.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
-import { beside, isBlank } from '../page/beside.js';
+import { beside, isBlank, isCommentBeside } from '../page/beside.js';
 import * as selection from '../page/selection.js';
 import { wholeSigns } from '../page/signs.js';
 import { unitsIn } from '../page/units.js';
@@ -114,6 +114,27 @@ function deleteObject(object) {
   deleteToLine(range);
 }
 
+// What the engine would delete of one paragraph, where a comment is in it or beside it: the engine
+// would take that too. Null for anything else.
+/**
+ * @param {Range} caret
+ * @param {PlainRange | null} target
+ */
+function aroundComments(caret, target) {
+  if (!target) return null;
+  if (dom.blockOf(target.startContainer) !== dom.blockOf(target.endContainer)) return null;
+  const range = document.createRange();
+  range.setStart(target.startContainer, target.startOffset);
+  range.setEnd(target.endContainer, target.endOffset);
+  const { startContainer, startOffset } = caret;
+  const side = range.comparePoint(startContainer, startOffset);
+  if (side < 0) range.setStart(startContainer, startOffset);
+  if (side > 0) range.setEnd(startContainer, startOffset);
+  const isBeside = isCommentBeside(range.startContainer, range.startOffset, 'previousSibling') ||
+    isCommentBeside(range.endContainer, range.endOffset, 'nextSibling');
+  return isBeside || dom.holdsComment(range) ? range : null;
+}
+
 /**
  * What a deletion at a caret does where that is not left to the engine; null where it is.
  * @param {Range} range the caret
@@ -124,6 +145,8 @@ function deleteObject(object) {
 export function deletionAtCaret(range, side, target) {
   const signs = wholeSigns(target);
   if (signs) return () => deleteToLine(signs);
+  const commented = aroundComments(range, target);
+  if (commented) return () => deleteAroundComments(commented);
   if (isWithinText(range, side)) return null;
   const unit = unitsIn(range)[0];
   if (!unit || !range.collapsed) return null;

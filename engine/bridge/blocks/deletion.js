@@ -5,6 +5,7 @@
 // element, a line of the source) is *dropped*.
 import { cellOf, narrowed, spansUnits, unitAt } from './extent.js';
 import { dropEmptyBlocks, join } from './joining.js';
+import { keepsBlanks } from '../page/beside.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import { dropEmptyInline, holdOpen, lineElement } from '../page/lines.js';
@@ -12,6 +13,7 @@ import * as selection from '../page/selection.js';
 import { takeInSigns } from '../page/signs.js';
 import { splitText } from '../page/standIns.js';
 import { gapAt } from '../page/units.js';
+import { gapFrom } from '../page/whitespace.js';
 
 // Across table cells only contents go; the cells stay.
 /** @param {Range} range */
@@ -216,6 +218,25 @@ export function deleteToPoint(range) {
   blanks.watch();
   const { startContainer, startOffset } = deleteRange(range);
   selection.setCaret(startContainer, startOffset);
+  blanks.watched({ inputType: 'delete' });
+}
+
+/**
+ * Deletes what is in a range within one paragraph, less the comments in it: at a caret nobody means
+ * server code, which is not seen. White space goes as the one blank that it shows.
+ * @param {Range} range
+ */
+export function deleteAroundComments(range) {
+  const { endContainer, endOffset } = range;
+  if (!range.toString().trim() && dom.isText(endContainer) && !keepsBlanks(endContainer)) {
+    const rest = { node: endContainer, index: endOffset };
+    range.setEnd(endContainer, endOffset + gapFrom(rest, 'nextSibling').length);
+  }
+  blanks.watch();
+  const block = dom.blockOf(range.startContainer);
+  deleteLeaves(range);
+  holdItemOpen(block, range);
+  selection.setCaret(range.startContainer, range.startOffset);
   blanks.watched({ inputType: 'delete' });
 }
 

@@ -9,7 +9,7 @@ import * as lists from '../blocks/lists.js';
 import * as typing from '../blocks/typing.js';
 import { joinTexts } from '../formats/merging.js';
 import * as objects from '../objects/objects.js';
-import { beside, isBlank } from '../page/beside.js';
+import { beside, isBlank, isCommentBeside } from '../page/beside.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -131,21 +131,12 @@ function enterInItem(unit) {
   return goesOn ? () => splitBlock(item) : null;
 }
 
-// True where a comment (server code stands as such) is between the characters beside the caret. The
-// engine would move the caret and white space past it.
+// True where a comment (server code stands as such) is at the caret, within a line. The engine
+// would move the caret and white space past it.
 /** @param {PlainRange} caret */
-function isBesideComment({ startContainer, startOffset }) {
-  const left = characterOn('previousSibling', startContainer, startOffset);
-  const right = characterOn('nextSibling', startContainer, startOffset);
-  if (!left || !right) return false;
-  const between = document.createRange();
-  if (left.node) between.setStart(left.node, left.index + 1);
-  else between.setStartAfter(left.object);
-  if (right.node) between.setEnd(right.node, right.index);
-  else between.setEndBefore(right.object);
-  const found = document.createTreeWalker(between.cloneContents(), NodeFilter.SHOW_COMMENT);
-  return found.nextNode() !== null;
-}
+const isBesideComment = ({ startContainer, startOffset }) =>
+  dom.sides.some((side) => isCommentBeside(startContainer, startOffset, side)) &&
+  dom.sides.every((side) => characterOn(side, startContainer, startOffset));
 // The nearest character on one side that is no blank, in the same line; null for none.
 /**
  * @param {Side} side
@@ -176,6 +167,27 @@ function enterInLine(range) {
     return () => breakAddress(unit.block);
   }
   return enterInItem(unit) ?? (isBesideComment(range) ? splitBesideComment : null);
+}
+
+/** What Shift+Enter does here where the engine would do it badly, else null. */
+export function ownBreak() {
+  const range = selection.range();
+  const isOwn = range?.collapsed && !preAt(range) && isBesideComment(range);
+  return isOwn ? () => breakBesideComment(range) : null;
+}
+/** @param {Range} caret */
+function breakBesideComment(caret) {
+  const line = dom.create('BR');
+  caret.insertNode(line);
+  // White space that would begin the second line ends the first.
+  const below = /** @type {AnyNode} */ (line.nextSibling);
+  const gap = dom.isText(below) ? /^[ \t\n]*/.exec(below.data)[0] : '';
+  if (gap) {
+    line.before(gap);
+    below.deleteData(0, gap.length);
+  }
+  if (dom.isText(below)) dropEmptyInline(below);
+  selection.setCaret(line.parentNode, selection.indexOf(line) + 1);
 }
 
 /** What Enter does here where the engine would do it badly, else null. */

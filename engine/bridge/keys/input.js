@@ -16,7 +16,7 @@ import { exec } from '../talk/commands.js';
 import { schedulePush } from '../talk/pace.js';
 import { selectionMoved } from '../talk/push.js';
 import { continuesComposition, isComposing } from './composition.js';
-import { ownEnter, tidySplit } from './enter.js';
+import { ownBreak, ownEnter, tidySplit } from './enter.js';
 import { takeAwaited } from './islands.js';
 import { commandOfInput, isCommand } from './shortcuts.js';
 
@@ -62,6 +62,12 @@ function ownDeletion(event) {
     : () => typing.deleteKeepingLooks(range);
 }
 
+/** @param {string} inputType */
+function ownLine(inputType) {
+  if (inputType === 'insertParagraph') return ownEnter();
+  return inputType === 'insertLineBreak' ? ownBreak() : null;
+}
+
 // Carries input out where that is not left to the engine; false where it is.
 /** @param {InputEvent} event */
 function takeOver(event) {
@@ -71,7 +77,7 @@ function takeOver(event) {
   }
   const { inputType } = event;
   const deletes = ownDeletion(event);
-  const deed = deletes ?? (inputType === 'insertParagraph' ? ownEnter() : null);
+  const deed = deletes ?? ownLine(inputType);
   if (!deed) return false;
   history.step(deletes ? 'delete' : inputType, () => work(deed));
   schedulePush();

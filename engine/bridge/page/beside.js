@@ -82,3 +82,39 @@ export const endsLine = (character) => hasNoMore(character, 'nextSibling');
  * @param {Neighbour | null} character
  */
 export const beginsLine = (character) => hasNoMore(character, 'previousSibling');
+
+/**
+ * True where nothing but blanks is between a point and a comment on that side of it, in its block.
+ * @param {AnyNode} node
+ * @param {number} offset
+ * @param {Side} side
+ */
+export function isCommentBeside(node, offset, side) {
+  const isAhead = side === 'nextSibling';
+  const walker = document.createTreeWalker(dom.blockOf(node));
+  const step = () => /** @type {AnyNode} */ (isAhead ? walker.nextNode() : walker.previousNode());
+  if (dom.isText(node)) {
+    if ((isAhead ? node.data.slice(offset) : node.data.slice(0, offset)).trim()) return false;
+    walker.currentNode = node;
+  } else {
+    // A step from this one comes to what is beside the point.
+    const child = node.childNodes[isAhead ? offset - 1 : offset];
+    walker.currentNode = child ? edgeLeaf(child, isAhead) : node;
+    if (!child && (isAhead ? offset > 0 : node.firstChild)) return false;
+  }
+  for (let at = step(); at; at = step()) {
+    if (dom.isComment(at)) return true;
+    const isOpen = dom.isInline(at) && !dom.isAtom(at) && !dom.isBreak(at);
+    if (!isOpen && !dom.isBlank(at)) return false;
+  }
+  return false;
+}
+/**
+ * @param {AnyNode} node
+ * @param {boolean} isAhead
+ */
+function edgeLeaf(node, isAhead) {
+  let at = node;
+  while (isAhead && at.lastChild) at = at.lastChild;
+  return at;
+}

@@ -14,7 +14,9 @@
 // space that the engine rewrote (whitespace.js); watch() was told for that what the engine would
 // do. watched() makes stand-ins of what was written for blanks, and resolves those that the caret
 // has left. watch() while watching begins anew: what was announced before did not happen.
-import { beginsLine, beside, charAt, edge, endsLine, isBlank, keepsBlanks } from './beside.js';
+import {
+  beginsLine, beside, charAt, edge, endsLine, isBlank, isCommentBeside, keepsBlanks,
+} from './beside.js';
 import * as dom from './dom.js';
 import * as selection from './selection.js';
 import {
@@ -52,14 +54,19 @@ function isBeforeBreak() {
 // there, so that what is typed next stands beside it. A line end of the source stays where a blank
 // can be taken instead.
 function replaceUnseenBlank() {
-  const { anchorNode } = selection.points();
+  const { anchorNode, anchorOffset } = selection.points();
   if (!anchorNode) return;
+  // Beside server code a blank may be between words.
+  if (dom.sides.some((side) => isCommentBeside(anchorNode, anchorOffset, side))) return;
   const left = atCaret('previousSibling');
   const right = atCaret('nextSibling');
   // In an empty line the source's white space is layout.
   if (beginsLine(left) && (isBeforeBreak() || endsLine(right))) return;
-  const isLaidOut =
-    dom.sides.every((side) => whitespace.gapFrom(atCaret(side), side).includes('\n'));
+  // A line of the source that has lost its only word, or its first one.
+  /** @param {Neighbour | null} character @param {Side} side */
+  const hasLineEnd = (character, side) => whitespace.gapFrom(character, side).includes('\n');
+  const isLaidOut = hasLineEnd(right, 'nextSibling') &&
+    (!left || hasLineEnd(left, 'previousSibling'));
   /**
    * @param {Neighbour} blank
    * @param {Side} across

@@ -46,6 +46,12 @@ export const isText = (node) => node?.nodeType === Node.TEXT_NODE;
  * @type {(node: any) => node is Comment}
  */
 export const isComment = (node) => node?.nodeType === Node.COMMENT_NODE;
+/**
+ * True where a comment is in the range.
+ * @param {Range} range
+ */
+export const holdsComment = (range) => range.startContainer !== range.endContainer &&
+  document.createTreeWalker(range.cloneContents(), NodeFilter.SHOW_COMMENT).nextNode() !== null;
 /** @type {(names: Set<string>) => (node: AnyNode) => boolean} */
 const named = (names) => (node) => isElement(node) && names.has(node.tagName);
 export const isBlock = named(blocks);
