@@ -18,6 +18,7 @@ constexpr Entry Table[] = {
     {"key", KeyFigures},
     {"bridge", BridgeFigures},
     {"commands", CommandFigures},
+    {"find", FindFigures},
     {"toolbar", ToolbarFigure},
     {"read", ReadingFigures},
     {"save", SavingFigures},

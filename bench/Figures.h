@@ -19,6 +19,9 @@ void SavingAfterAnEditFigures();
 // Figures about what the bridge does in the page (BridgeFigures.cpp).
 void BridgeFigures();
 void CommandFigures();
+
+/// What a key in the find bar costs (FindFigures.cpp).
+void FindFigures();
 /// A key and the toolbar of the whole program (ToolbarFigures.cpp).
 void ToolbarFigure();
 /// What keeping a page for a recovery costs (JournalFigures.cpp).

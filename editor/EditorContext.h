@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "editor/FindMemory.h"
 #include "editor/MainWindow.h"
 
 #include <QPointer>
@@ -23,6 +24,7 @@ struct EditorContext {
   QPointer<frmBrowser> preview;
   /// Names of preferences whose unusable value was reported already.
   QStringList toldSettings = {};
+  FindMemory find = {};
 };
 
 }  // namespace velor

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // frmMain: its four modes, and the page as text.
 #include "chrome/ToolBarButtons.h"
+#include "editor/FindBar.h"
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
 #include "editor/SourceCaret.h"
@@ -68,9 +69,9 @@ void frmMain::RefreshSourceView() {
   if (View() != FrontView::SourceView) return;
   source_->SetLineWrap(ChosenLineWrap(context_.platform.registry));
   try {
-    const ElementPlaces places = component_->CaretPlaces();
+    const ElementStretch places = component_->SelectedPlaces();
     source_->SetText(CreatorHTML());
-    ShowPlaceIn(*source_, places);
+    ShowStretchIn(*source_, places);
     shownCaret_ = CaretOf(*source_);
   } catch (const RuntimeError &error) {
     context_.mainWindow.status.Report(
@@ -81,6 +82,10 @@ void frmMain::RefreshSourceView() {
 void frmMain::ShowMode() {
   QuickButton(u"design")->ShowChecked(View() == FrontView::Design);
   QuickButton(u"viewcode")->ShowChecked(View() == FrontView::SourceView);
+  if (View() == FrontView::Design)
+    findBar_->SetTarget(component_->Search());
+  else
+    findBar_->SetTarget(sourceSearch_);
   if (!IsInFront()) return;
   context_.mainWindow.commands.Refresh();
   ShowState();
@@ -104,7 +109,7 @@ void frmMain::Edit(EditingCommand command) {
 
 void frmMain::ReturnCaretFromSource() {
   const bool moved = View() == FrontView::SourceView && CaretOf(*source_) != shownCaret_;
-  if (moved) component_->ShowPlace(CaretPlacesOf(*source_));
+  if (moved) component_->ShowStretch(SelectedPlacesOf(*source_));
 }
 
 void frmMain::EditHtml() {
@@ -123,7 +128,7 @@ void frmMain::ShowEditor() {
   frmCodeEditor &editor = modWorkFlow::SourceEditor(context_, number_);
   const std::optional<QString> typed = editor.UnappliedText();
   editor.AppliedText = CreatorHTML();
-  const ElementPlaces places = component_->CaretPlaces();
+  const ElementStretch places = component_->SelectedPlaces();
   const QString source = CreatorHTML();
   if (typed) {
     editor.Refill(source, places, *typed);

@@ -34,35 +34,31 @@ SourceCaret CaretAt(const QString &text, qsizetype position) {
   return {line, static_cast<int>(position - start)};
 }
 
-qsizetype PositionOf(const QString &text, const SourceCaret &caret) {
-  qsizetype at = 0;
-  for (int line = 0; line < caret.line && at < text.size();) {
-    const qsizetype behind = BehindBreak(text, at);
-    if (behind != at) ++line;
-    at = std::max(behind, at + 1);
-  }
-  return std::min(at + caret.column, text.size());
-}
-
 }  // namespace
 
 SourceCaret CaretOf(const SourceControl &source) {
   return {source.CaretLine(), source.CaretColumn()};
 }
 
-void ShowPlaceIn(SourceControl &source, const ElementPlaces &places) {
-  if (places.empty()) return;
+void ShowStretchIn(SourceControl &source, const ElementStretch &stretch) {
+  if (stretch.start.empty()) return;
   const QString text = source.Text();
-  const auto position = FindPlace(text, places);
-  if (!position) return;
-  const SourceCaret caret = CaretAt(text, *position);
+  const auto start = FindPlace(text, stretch.start);
+  if (!start) return;
+  const SourceCaret caret = CaretAt(text, *start);
   source.SetCaret(caret.line, caret.column);
   source.CenterCaret();
+  if (stretch.end.empty()) return;
+  const auto end = FindPlace(text, stretch.end);
+  if (end && *end > *start) source.Select({*start, *end});
 }
 
-ElementPlaces CaretPlacesOf(const SourceControl &source) {
+ElementStretch SelectedPlacesOf(const SourceControl &source) {
   const QString text = source.Text();
-  return PlacesAt(text, PositionOf(text, CaretOf(source)));
+  const TextStretch selected = source.Selection();
+  ElementStretch stretch{PlacesAt(text, selected.start)};
+  if (selected.end > selected.start) stretch.end = PlacesAt(text, selected.end);
+  return stretch;
 }
 
 }  // namespace velor

@@ -17,11 +17,13 @@ struct SourceCaret {
 
 SourceCaret CaretOf(const SourceControl &source);
 
-/// Puts the caret to the first of the places that the source has, and scrolls it to the middle of
-/// the view. Does nothing where the source has none of them.
-void ShowPlaceIn(SourceControl &source, const ElementPlaces &places);
+/// Puts the caret to the first of the places of the start that the source has, selects to that of
+/// the end where there is one, and scrolls it to the middle of the view. Does nothing where the
+/// source has no start.
+void ShowStretchIn(SourceControl &source, const ElementStretch &stretch);
 
-/// The place of the caret, relative to the elements around it in the source.
-ElementPlaces CaretPlacesOf(const SourceControl &source);
+/// The places of the selection's ends, or of the caret, relative to the elements around them in the
+/// source.
+ElementStretch SelectedPlacesOf(const SourceControl &source);
 
 }  // namespace velor

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // frmCodeEditor: its controls and their layout.
+#include "app/settings/modSettingManager.h"
 #include "chrome/HouseStyle.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
-#include "editor/SourceFindBar.h"
+#include "editor/FindBar.h"
 #include "editor/SourceWrap.h"
 #include "editor/frmCodeEditor.h"
 #include "platform/Platform.h"
@@ -155,7 +156,8 @@ QWidget *frmCodeEditor::BuildMain() {
   code_->Widget()->setAccessibleName(QStringLiteral("HTML source"));
   auto *sourceArea = new QWidget;
   sourceArea->setObjectName(QStringLiteral("picMain"));
-  auto *findBar = new SourceFindBar(*code_, sourceArea);
+  auto *findBar = new FindBar(context_.find, sourceArea);
+  findBar->SetTarget(search_);
   QVBoxLayout *layout = Stack(sourceArea);
   layout->addWidget(code_->Widget(), 1);
   layout->addWidget(findBar);
@@ -167,10 +169,9 @@ QWidget *frmCodeEditor::BuildMain() {
   };
   onKey(Qt::CTRL | Qt::Key_Return, [this] { Apply(); });
   onKey(Qt::CTRL | Qt::Key_Enter, [this] { Apply(); });
-  onKey(Qt::CTRL | Qt::Key_F, [=] { findBar->Open(SourceFindBar::Purpose::Find); });
-  onKey(Qt::CTRL | Qt::Key_H, [=] { findBar->Open(SourceFindBar::Purpose::Replace); });
-  onKey(Qt::Key_F3, [=] { findBar->FindOn(SearchDirection::Forward); });
-  onKey(Qt::SHIFT | Qt::Key_F3, [=] { findBar->FindOn(SearchDirection::Backward); });
+  // Elsewhere they are those of the Tools menu.
+  if (modSettingManager::IsOn(context_.platform.registry, PreferenceOf("PublishedOnly")))
+    AddFindKeys(*findBar, *this);
   code_->Widget()->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(code_->Widget(), &QWidget::customContextMenuRequested, this, &frmCodeEditor::PopUpMenu);
   return sourceArea;

@@ -48,7 +48,8 @@ QString NameOf(LineEnds lineEnds) {
 frmCodeEditor::frmCodeEditor(EditorContext &context, int number)
     : context_(context),
       number_(number),
-      code_(context.platform.components.CreateSourceControl(this, SourceAccess::Edit)) {
+      code_(context.platform.components.CreateSourceControl(this, SourceAccess::Edit)),
+      search_(*code_, SourceAccess::Edit) {
   setObjectName(QStringLiteral("frmCodeEditor"));
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowIcon(IconFor(QStringLiteral("editcode")));
@@ -75,12 +76,12 @@ void frmCodeEditor::UpdateJournal() {
   page->ShowTab();
 }
 
-void frmCodeEditor::Fill(const QString &source, const ElementPlaces &caret) {
+void frmCodeEditor::Fill(const QString &source, const ElementStretch &caret) {
   code_->SetText(source);
   SourceReplaced(caret);
 }
 
-void frmCodeEditor::Refill(const QString &source, const ElementPlaces &caret,
+void frmCodeEditor::Refill(const QString &source, const ElementStretch &caret,
                            const QString &typed) {
   context_.pages.DisplacedSource(number_) = typed;
   code_->ReplaceText(source);
@@ -90,9 +91,9 @@ void frmCodeEditor::Refill(const QString &source, const ElementPlaces &caret,
                      "comes back with Undo (Ctrl+Z)"));
 }
 
-void frmCodeEditor::SourceReplaced(const ElementPlaces &caret) {
+void frmCodeEditor::SourceReplaced(const ElementStretch &caret) {
   lineEnds_->setText(NameOf(DeclaredEncoding(code_->Text()).lineEnds));
-  ShowPlaceIn(*code_, caret);
+  ShowStretchIn(*code_, caret);
   filledCaret_ = CaretOf(*code_);
   SelectionChanged();
 }
@@ -160,7 +161,7 @@ std::int16_t frmCodeEditor::ApplyCode() {
 void frmCodeEditor::ReturnCaret() {
   frmMain *page = context_.pages.Page(number_);
   if (page == nullptr || CaretOf(*code_) == filledCaret_) return;
-  page->DHTML1().ShowPlace(CaretPlacesOf(*code_));
+  page->DHTML1().ShowStretch(SelectedPlacesOf(*code_));
 }
 
 frmCodeEditor::CloseDecision frmCodeEditor::AskBeforeClosing() {

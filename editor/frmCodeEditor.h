@@ -5,6 +5,7 @@
 #include "editor/EditorContext.h"
 #include "editor/FrontWindow.h"
 #include "editor/SourceCaret.h"
+#include "editor/SourceSearch.h"
 #include "platform/SourceControl.h"
 
 #include <QString>
@@ -40,11 +41,11 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   /// Source not yet applied to the page; nullopt when the editor is closed or its text unchanged.
   std::optional<QString> UnappliedText() const;
 
-  /// Sets the source, with an empty undo history, and puts the caret to that place.
-  void Fill(const QString &source, const ElementPlaces &caret);
+  /// Sets the source, with an empty undo history, and puts caret or selection to that place.
+  void Fill(const QString &source, const ElementStretch &caret);
   /// Replaces `typed`, which was not applied, by the page's source. Undo brings `typed` back, and
   /// the page's journal keeps it until a source is applied or given up.
-  void Refill(const QString &source, const ElementPlaces &caret, const QString &typed);
+  void Refill(const QString &source, const ElementStretch &caret, const QString &typed);
 
   /// Writes the source and a line break to the page's temporary copy, in the page's charset unless
   /// it declares another, and loads the page from what the copy holds, less that line break. 0 on
@@ -74,7 +75,7 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   enum class CloseDecision { Close, Keep };
 
   /// To be called after the control got another source.
-  void SourceReplaced(const ElementPlaces &caret);
+  void SourceReplaced(const ElementStretch &caret);
 
   // Layout (SourceEditorLayout.cpp)
   void BuildLayout();
@@ -94,6 +95,7 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   EditorContext &context_;
   const int number_;
   std::unique_ptr<SourceControl> code_;
+  SourceSearch search_;
   SourceCaret filledCaret_;  ///< the caret as Fill or Refill left it
   QLabel *place_ = nullptr;
   QLabel *lineEnds_ = nullptr;

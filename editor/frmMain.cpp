@@ -6,6 +6,7 @@
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
+#include "editor/FindBar.h"
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/OutsideChanges.h"
@@ -80,6 +81,7 @@ frmMain::frmMain(EditorContext &context, int number)
       number_(number),
       component_(context.platform.components.CreateEditingComponent(this)),
       source_(context.platform.components.CreateSourceControl(this, SourceAccess::View)),
+      sourceSearch_(*source_, SourceAccess::View),
       journal_(context.platform.journals, context.pages, context.mainWindow.status, *component_,
                number) {
   setObjectName(QStringLiteral("frmMain"));
@@ -100,6 +102,9 @@ frmMain::frmMain(EditorContext &context, int number)
   views_->addWidget(component_->Widget());
   views_->addWidget(source_->Widget());
   layout->addLayout(views_, 1);
+  findBar_ = new FindBar(context_.find, this);
+  findBar_->SetTarget(component_->Search());
+  layout->addWidget(findBar_);
   outside_ = new OutsideChanges(context_, *this);
   layout->addWidget(outside_);
   setFocusProxy(component_->Widget());
@@ -261,6 +266,7 @@ void frmMain::DisplayChanged() {
 void frmMain::MemoryChanged() {
   journal_.DocumentChanged();
   outside_->DocumentChanged();
+  if (View() == FrontView::Design) findBar_->TextChanged();
   ShowTab();
   const bool isReadOnly = context_.pages.Record(number_).ReadOnly != False16;
   if (!isReadOnly || isReadOnlyTold_ || !journal_.HasChanges()) return;

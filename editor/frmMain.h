@@ -7,6 +7,7 @@
 #include "editor/PageJournal.h"
 #include "editor/PageRecord.h"
 #include "editor/SourceCaret.h"
+#include "editor/SourceSearch.h"
 #include "editor/modWorkFlow.h"
 #include "platform/EditingCommands.h"
 #include "platform/EditingComponent.h"
@@ -22,6 +23,7 @@ class QToolBar;
 
 namespace velor {
 
+class FindBar;
 class OutsideChanges;
 class ToolBarAction;
 
@@ -143,11 +145,13 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   const int number_;
   std::unique_ptr<EditingComponent> component_;
   std::unique_ptr<SourceControl> source_;
+  SourceSearch sourceSearch_;
   PageJournal journal_;
   bool isReadOnlyTold_ = false;
   SourceCaret shownCaret_;  ///< the source view's caret as ViewHtml left it
   QToolBar *modeBar_ = nullptr;
   QStackedLayout *views_ = nullptr;
+  FindBar *findBar_ = nullptr;
   OutsideChanges *outside_ = nullptr;
 };
 

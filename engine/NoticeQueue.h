@@ -18,6 +18,7 @@ enum class Notice {
   LoadEnded,
   Complete,
   Display,
+  Search,
   Memory,
   Parts,
   Picture,

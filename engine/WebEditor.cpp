@@ -69,6 +69,7 @@ WebEditor::WebEditor(EditingEngine &engine, Files &files, const QString &program
               [this] { QTimer::singleShot(1, &notices_, [this] { loader_.LoadBlankIfEmpty(); }); }),
           [this](EngineView &view) { ConnectView(view); }),
       documentObject_(document_, notices_),
+      search_(document_, notices_),
       loader_(document_, notices_, options_, programFolder),
       replacer_(document_, loader_, notices_, engine.Verifier()),
       saver_(document_, loader_, notices_, files, engine.Verifier()) {

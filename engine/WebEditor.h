@@ -7,6 +7,7 @@
 #include "engine/PageReplacer.h"
 #include "engine/PageSaver.h"
 #include "engine/WebDocument.h"
+#include "engine/WebSearch.h"
 #include "platform/EditingComponent.h"
 
 #include <map>
@@ -51,9 +52,12 @@ class WebEditor : public EditingComponent {
   void ReloadPart(const QString &path) override;
   ElementPlaces CaretPlaces() override;
   void ShowPlace(const ElementPlaces &places) override;
+  ElementStretch SelectedPlaces() override;
+  void ShowStretch(const ElementStretch &stretch) override;
   QVariant ExecCommand(EditingCommand command, ExecOption option, const QVariant &value) override;
   CommandStatus QueryStatus(EditingCommand command) const override;
   QStringList BlockFormats() const override;
+  TextSearch &Search() override { return search_; }
   HtmlDocument &Document() override;
   bool ShowDetails() const override;
   void SetShowDetails(bool on) override;
@@ -74,6 +78,8 @@ class WebEditor : public EditingComponent {
   void PartAsked(const QString &name, const QString &file);
   /// Tells the listener of files that were dropped or pasted.
   void ReportFiles(const QStringList &nativePaths);
+  /// The places that a call of the bridge answers.
+  ElementPlaces AskForPlaces(const QString &call);
   const PageEncoding &Encoding() const;
 
   const EngineGuard &guard_;
@@ -86,6 +92,7 @@ class WebEditor : public EditingComponent {
   NoticeQueue notices_;                     ///< outlives the parts, which post to it
   LiveDocument document_;
   WebDocument documentObject_;
+  WebSearch search_;
   PageLoader loader_;
   PageReplacer replacer_;
   PageSaver saver_;

@@ -18,12 +18,19 @@ const QString Name = QStringLiteral("name");
 const QString Ordinal = QStringLiteral("ordinal");
 const QString Offset = QStringLiteral("offset");
 
+QString InScript(const ElementPlaces &places) {
+  QVariantList list;
+  for (const ElementPlace &place : places)
+    list << QVariantMap{{Name, place.name}, {Ordinal, place.ordinal}, {Offset, place.offset}};
+  return ScriptValue(list);
+}
+
 }  // namespace
 
-ElementPlaces WebEditor::CaretPlaces() {
+ElementPlaces WebEditor::AskForPlaces(const QString &call) {
   ElementPlaces places;
   if (document_.View() == nullptr) return places;
-  const auto answer = document_.View()->Ask(QStringLiteral("velor.caretPlaces()"), PlaceLimit);
+  const auto answer = document_.View()->Ask(call, PlaceLimit);
   if (!answer) return places;
   for (const QVariant &each : answer->toList()) {
     const QVariantMap place = each.toMap();
@@ -32,11 +39,24 @@ ElementPlaces WebEditor::CaretPlaces() {
   return places;
 }
 
+ElementPlaces WebEditor::CaretPlaces() {
+  return AskForPlaces(QStringLiteral("velor.caretPlaces()"));
+}
+
 void WebEditor::ShowPlace(const ElementPlaces &places) {
-  QVariantList list;
-  for (const ElementPlace &place : places)
-    list << QVariantMap{{Name, place.name}, {Ordinal, place.ordinal}, {Offset, place.offset}};
-  document_.Run(QStringLiteral("velor.showPlace(%1)").arg(ScriptValue(list)));
+  ShowStretch({places});
+}
+
+ElementStretch WebEditor::SelectedPlaces() {
+  const Lifetime::Watch life = document_.WatchEditor();
+  ElementStretch stretch{CaretPlaces()};
+  if (!life.IsOver()) stretch.end = AskForPlaces(QStringLiteral("velor.endPlaces()"));
+  return stretch;
+}
+
+void WebEditor::ShowStretch(const ElementStretch &stretch) {
+  document_.Run(
+      QStringLiteral("velor.showPlace(%1,%2)").arg(InScript(stretch.start), InScript(stretch.end)));
 }
 
 }  // namespace velor

@@ -15,6 +15,8 @@ class QWidget;
 
 namespace velor {
 
+class TextSearch;
+
 /// Answers of QueryStatus, with their published numbers.
 enum class CommandStatus : int {
   NotSupported = 0,
@@ -132,6 +134,15 @@ class EditingComponent {
   virtual ElementPlaces CaretPlaces() = 0;
   /// Puts the caret to the first of these places that the document has, and scrolls it into view.
   virtual void ShowPlace(const ElementPlaces &places) = 0;
+
+  /// The places of both ends of the selection; empty where CaretPlaces is.
+  virtual ElementStretch SelectedPlaces() = 0;
+  /// Selects from one place to the other, or as ShowPlace where there is no end.
+  virtual void ShowStretch(const ElementStretch &stretch) = 0;
+
+  /// Finds and replaces in the page's text. Comments, scripts and server code are no text. Valid as
+  /// long as the component.
+  virtual TextSearch &Search() = 0;
 
   /// Carries out a command (EditingCommands.h) or, for a query command, returns its value: font
   /// name, block format name and size as text, colours as "#RRGGBB"; the empty text where the

@@ -22,4 +22,12 @@ struct ElementPlace {
 /// parsed document can have elements that its source has not, and the other way round.
 using ElementPlaces = std::vector<ElementPlace>;
 
+/// The two ends of a selection.
+struct ElementStretch {
+  ElementPlaces start;
+  ElementPlaces end = {};  ///< empty for a caret
+
+  bool operator==(const ElementStretch &) const = default;
+};
+
 }  // namespace velor

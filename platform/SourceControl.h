@@ -2,11 +2,13 @@
 #pragma once
 
 #include "platform/EditingCommands.h"
+#include "platform/TextStretch.h"
 
 #include <QString>
 
 #include <cstdint>
 #include <functional>
+#include <vector>
 
 class QWidget;
 
@@ -15,13 +17,6 @@ namespace velor {
 /// What a source control is for: Edit changes the source; what is typed in a View is lost, for it
 /// shows a copy.
 enum class SourceAccess { View, Edit };
-
-enum class SearchDirection {
-  Here,  ///< forward from the selection's start: a match stays selected while its text is typed
-  Forward,
-  Backward,
-};
-enum class LetterCase { Ignored, Matched };
 
 /// Whether lines that are longer than the control is wide are wrapped.
 enum class LineWrap { Off, On };
@@ -70,12 +65,14 @@ class SourceControl {
   virtual int MarkedLine() const = 0;
   virtual void SetMarkedLine(int line) = 0;
 
-  /// Searches for `text`, going on at the other end of the source; selects the match and scrolls it
-  /// into view. False, and the selection stays, without a match and for the empty text.
-  virtual bool Find(const QString &text, SearchDirection direction, LetterCase letterCase) = 0;
-  /// Replaces every occurrence as one undo step; returns their number.
-  virtual int ReplaceAll(const QString &text, const QString &replacement,
-                         LetterCase letterCase) = 0;
+  /// The selected stretch of Text; empty at the caret.
+  virtual TextStretch Selection() const = 0;
+  /// Selects a stretch of Text and scrolls it into view, out of a fold too.
+  virtual void Select(const TextStretch &stretch) = 0;
+  /// Replaces stretches, in the order of the text, as one undo step. A View stays as it is.
+  virtual void ReplaceParts(const std::vector<TextReplacement> &parts) = 0;
+  /// Marks stretches, in the order of the text, in place of those marked before.
+  virtual void MarkStretches(const std::vector<TextStretch> &stretches) = 0;
 };
 
 }  // namespace velor

@@ -45,8 +45,10 @@ class QsciSourceControl final : public QObject, public SourceControl {
   void SetTextListener(std::function<void()> listener) override;
   int MarkedLine() const override;
   void SetMarkedLine(int line) override;
-  bool Find(const QString &text, SearchDirection direction, LetterCase letterCase) override;
-  int ReplaceAll(const QString &text, const QString &replacement, LetterCase letterCase) override;
+  TextStretch Selection() const override;
+  void Select(const TextStretch &stretch) override;
+  void ReplaceParts(const std::vector<TextReplacement> &parts) override;
+  void MarkStretches(const std::vector<TextStretch> &stretches) override;
 
   bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -55,9 +57,6 @@ class QsciSourceControl final : public QObject, public SourceControl {
   /// Positions in bytes: of a line's first character, and behind its last one, before the line end.
   long LineStart(int line) const;
   long LineEnd(int line) const;
-  /// Searches for `text` between two positions, backward where `to` is before `from`. True where it
-  /// was found; the control's target is set to it then.
-  bool FindBetween(const QByteArray &text, long from, long to);
   /// Sets the colours of text, margins and marks from the palette.
   void ApplyPalette();
   /// Sets the colours that the owner chose, by `colors_`, over the palette's.

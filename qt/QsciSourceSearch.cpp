@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Finding and replacing in the source control.
+// Stretches of the source: selected, replaced, marked.
 #include "qt/QsciSourceControl.h"
 
 #include <Qsci/qsciscintilla.h>
@@ -8,61 +8,84 @@ namespace velor {
 
 namespace {
 
-int SearchFlags(LetterCase letterCase) {
-  return letterCase == LetterCase::Matched ? QsciScintilla::SCFIND_MATCHCASE : 0;
-}
+constexpr int MatchIndicator = QsciScintilla::INDIC_CONTAINER + 2;
+constexpr int MatchAlpha = 90;
+
+/// Counts bytes of UTF-8 for offsets in UTF-16 code units, which are asked for in rising order.
+class BytePositions {
+ public:
+  explicit BytePositions(const QString &text) : text_(text) {}
+
+  long Of(qsizetype offset) {
+    for (; at_ < offset && at_ < text_.size(); ++at_) {
+      const QChar unit = text_[at_];
+      if (unit.isLowSurrogate())
+        bytes_ += 1;  // the fourth of a pair
+      else
+        bytes_ += unit.unicode() < 0x80 ? 1 : unit.unicode() < 0x800 ? 2 : 3;
+    }
+    return bytes_;
+  }
+
+ private:
+  const QString &text_;
+  qsizetype at_ = 0;
+  long bytes_ = 0;
+};
 
 }  // namespace
 
-bool QsciSourceControl::FindBetween(const QByteArray &text, long from, long to) {
-  Send(QsciScintilla::SCI_SETTARGETSTART, from);
-  Send(QsciScintilla::SCI_SETTARGETEND, to);
-  return editor_->SendScintilla(QsciScintilla::SCI_SEARCHINTARGET,
-                                static_cast<unsigned long>(text.size()), text.constData()) >= 0;
+TextStretch QsciSourceControl::Selection() const {
+  const auto offset = [this](unsigned int edge) {
+    return qsizetype(Send(QsciScintilla::SCI_COUNTCODEUNITS, 0, Send(edge)));
+  };
+  return {offset(QsciScintilla::SCI_GETSELECTIONSTART), offset(QsciScintilla::SCI_GETSELECTIONEND)};
 }
 
-bool QsciSourceControl::Find(const QString &text, SearchDirection direction,
-                             LetterCase letterCase) {
-  const QByteArray bytes = text.toUtf8();
-  if (bytes.isEmpty()) return false;
-  Send(QsciScintilla::SCI_SETSEARCHFLAGS, SearchFlags(letterCase));
-  const long start = Send(QsciScintilla::SCI_GETSELECTIONSTART);
-  const long end = Send(QsciScintilla::SCI_GETSELECTIONEND);
-  const long length = Send(QsciScintilla::SCI_GETLENGTH);
-  bool found = false;
-  switch (direction) {
-    case SearchDirection::Here:
-      found = FindBetween(bytes, start, length) || FindBetween(bytes, 0, length);
-      break;
-    case SearchDirection::Forward:
-      found = FindBetween(bytes, end, length) || FindBetween(bytes, 0, length);
-      break;
-    case SearchDirection::Backward:
-      found = FindBetween(bytes, start, 0) || FindBetween(bytes, length, 0);
-      break;
-  }
-  if (!found) return false;
-  const long from = Send(QsciScintilla::SCI_GETTARGETSTART);
-  Send(QsciScintilla::SCI_ENSUREVISIBLE, Send(QsciScintilla::SCI_LINEFROMPOSITION, from));
-  Send(QsciScintilla::SCI_SETSEL, from, Send(QsciScintilla::SCI_GETTARGETEND));
-  return true;
+void QsciSourceControl::Select(const TextStretch &stretch) {
+  const QString text = Text();
+  BytePositions positions(text);
+  const long start = positions.Of(stretch.start);
+  const long end = positions.Of(stretch.end);
+  Send(QsciScintilla::SCI_ENSUREVISIBLE, Send(QsciScintilla::SCI_LINEFROMPOSITION, start));
+  Send(QsciScintilla::SCI_SETSEL, start, end);
 }
 
-int QsciSourceControl::ReplaceAll(const QString &text, const QString &replacement,
-                                  LetterCase letterCase) {
-  const QByteArray bytes = text.toUtf8();
-  const QByteArray other = replacement.toUtf8();
-  if (bytes.isEmpty() || editor_->isReadOnly()) return 0;
-  Send(QsciScintilla::SCI_SETSEARCHFLAGS, SearchFlags(letterCase));
-  int count = 0;
+void QsciSourceControl::ReplaceParts(const std::vector<TextReplacement> &parts) {
+  if (editor_->isReadOnly()) return;
+  const QString text = Text();
+  BytePositions positions(text);
+  // By how much the parts before have moved the text.
+  long moved = 0;
   editor_->beginUndoAction();
-  for (long from = 0; FindBetween(bytes, from, Send(QsciScintilla::SCI_GETLENGTH)); ++count) {
+  for (const TextReplacement &part : parts) {
+    const QByteArray bytes = part.text.toUtf8();
+    const long start = positions.Of(part.place.start);
+    const long end = positions.Of(part.place.end);
+    Send(QsciScintilla::SCI_SETTARGETRANGE, start + moved, end + moved);
     editor_->SendScintilla(QsciScintilla::SCI_REPLACETARGET,
-                           static_cast<unsigned long>(other.size()), other.constData());
-    from = Send(QsciScintilla::SCI_GETTARGETEND);
+                           static_cast<unsigned long>(bytes.size()), bytes.constData());
+    moved += static_cast<long>(bytes.size()) - (end - start);
   }
   editor_->endUndoAction();
-  return count;
+}
+
+void QsciSourceControl::MarkStretches(const std::vector<TextStretch> &stretches) {
+  const auto number = static_cast<unsigned long>(MatchIndicator);
+  editor_->SendScintilla(QsciScintilla::SCI_SETINDICATORCURRENT, number);
+  Send(QsciScintilla::SCI_INDICATORCLEARRANGE, 0, Send(QsciScintilla::SCI_GETLENGTH));
+  if (stretches.empty()) return;
+  editor_->SendScintilla(QsciScintilla::SCI_INDICSETSTYLE, number,
+                         long(QsciScintilla::INDIC_STRAIGHTBOX));
+  editor_->SendScintilla(QsciScintilla::SCI_INDICSETFORE, number, QColor(255, 176, 0));
+  editor_->SendScintilla(QsciScintilla::SCI_INDICSETALPHA, number, long(MatchAlpha));
+  editor_->SendScintilla(QsciScintilla::SCI_INDICSETUNDER, number, long(1));
+  const QString text = Text();
+  BytePositions positions(text);
+  for (const TextStretch &stretch : stretches) {
+    const long start = positions.Of(stretch.start);
+    Send(QsciScintilla::SCI_INDICATORFILLRANGE, start, positions.Of(stretch.end) - start);
+  }
 }
 
 }  // namespace velor

@@ -11,7 +11,7 @@ constexpr HelpTopic Topics[] = {
     {"picOutside", nullptr, "outside.html#both"},
     {"frmMain", "Code1", "source.html#view"},
     {"frmMain", nullptr, "design.html"},
-    {"picFind", nullptr, "source.html#find"},
+    {"picFind", nullptr, "design.html#find"},
     {"frmCodeEditor", nullptr, "source.html#editor"},
     {"frmBrowser", nullptr, "preview.html"},
     // Parts of the main window.

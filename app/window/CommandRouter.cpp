@@ -4,6 +4,7 @@
 #include "app/window/GeneralToolbar.h"
 #include "app/window/InsertCommands.h"
 #include "editor/EditorContext.h"
+#include "editor/FindBar.h"
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
@@ -127,6 +128,12 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::FindCommand:
       host_.ShowCommandPalette();
       break;
+    case CommandId::Find:
+    case CommandId::Replace:
+    case CommandId::FindNext:
+    case CommandId::FindPrevious:
+      FindInFront(command.id);
+      break;
     case CommandId::WrapSource:
       TurnLineWrap(context_);
       break;
@@ -246,6 +253,25 @@ void CommandRouter::PasteAs(const QString &form) {
     page->DHTML1().ExecCommand(EditingCommand::Paste, ExecOption::Default, form);
   else
     context_.mainWindow.status.Report(QStringLiteral("There is no page to put something into"));
+}
+
+void CommandRouter::FindInFront(CommandId step) {
+  const auto *front = dynamic_cast<QWidget *>(host_.Front());
+  auto *bar = front == nullptr ? nullptr : front->findChild<FindBar *>();
+  if (bar == nullptr) {
+    context_.mainWindow.status.Report(QStringLiteral("There is no text to search"));
+    return;
+  }
+  switch (step) {
+    case CommandId::FindNext:
+      return bar->FindOn(SearchDirection::Forward);
+    case CommandId::FindPrevious:
+      return bar->FindOn(SearchDirection::Backward);
+    case CommandId::Replace:
+      return bar->Open(FindBar::Purpose::Replace);
+    default:
+      return bar->Open(FindBar::Purpose::Find);
+  }
 }
 
 void CommandRouter::Insert(void (InsertCommands::*insertion)(frmMain &)) {

@@ -3,8 +3,8 @@
 
 #include "app/window/FormattingBar.h"
 #include "app/window/PageArea.h"
+#include "editor/FindBar.h"
 #include "editor/OutsideChanges.h"
-#include "editor/SourceFindBar.h"
 #include "recovery/offers/RecoveryBar.h"
 
 #include <QApplication>
@@ -21,7 +21,7 @@ bool IsBar(const QObject *widget) {
          qobject_cast<const FormattingBar *>(widget) != nullptr ||
          qobject_cast<const RecoveryBar *>(widget) != nullptr ||
          qobject_cast<const OutsideChanges *>(widget) != nullptr ||
-         qobject_cast<const SourceFindBar *>(widget) != nullptr;
+         qobject_cast<const FindBar *>(widget) != nullptr;
 }
 
 /// The outermost bar that a control is in, or else the control itself.

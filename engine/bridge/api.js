@@ -6,6 +6,7 @@ import { changeObject, setBookmark, setLink } from './clipboard/dialogs.js';
 import { pasteAs } from './clipboard/clipboard.js';
 import { isPasting } from './clipboard/longPaste.js';
 import { pasteHTML } from './clipboard/paste.js';
+import { endFind, find, replaceAll, replaceFound, selectedLine } from './find/find.js';
 import { setDetails } from './objects/details.js';
 import { setSnap } from './objects/grid.js';
 import { showAnew } from './objects/parts.js';
@@ -17,7 +18,7 @@ import './talk/arrivals.js';
 import { changes, mirror } from './talk/changes.js';
 import { exec } from './talk/commands.js';
 import { host, setHost } from './talk/host.js';
-import { caretPlaces, showPlace } from './page/places.js';
+import { caretPlaces, endPlaces, showPlace } from './page/places.js';
 import { moveTo, replaceDocument } from './talk/replace.js';
 import { state } from './talk/state.js';
 import { parsed } from './talk/verify.js';
@@ -43,6 +44,7 @@ globalThis.velor = {
   serialize,
   replaceDocument,
   caretPlaces,
+  endPlaces,
   showPlace,
   setDetails,
   setSnap,
@@ -52,6 +54,11 @@ globalThis.velor = {
   parsed,
   restore: restorePaths,
   moveTo,
+  find,
+  replaceFound,
+  replaceAll,
+  endFind,
+  selectedLine,
   get host() { return host(); },
   set host(slots) { setHost(slots); },
 };

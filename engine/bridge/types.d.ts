@@ -262,6 +262,26 @@ interface State {
   link: ToldElement;
 }
 
+/** A line of the page's text; see find/pageText.js. */
+interface TextLine { text: string; pieces: TextPiece[] }
+/** Where a stretch of a line, from `at` on, is in a text. It ends where the next piece begins. */
+interface TextPiece { node: Text; at: number; offset: number }
+/** What is searched for, as the program gives it. */
+interface SearchQuery {
+  words: string;
+  matchCase?: boolean;
+  wholeWords?: boolean;
+  ignoreAccents?: boolean;
+  expression?: boolean;
+  inSelection?: boolean;
+}
+type SearchWay = 'here' | 'next' | 'previous' | 'stay';
+/** What was found; `current` counts from 1, 0 for none. */
+interface SearchAnswer { count: number; current: number; invalid: boolean; replaced?: number }
+/** A stretch of a text that a search has found; `groups` are those of an expression. */
+interface TextMatch { start: number; end: number; groups: string[] }
+interface PageMatch extends TextMatch { line: TextLine }
+
 /** What differs in a text: `fresh` in place of `length` UTF-16 code units from `offset`. */
 type TextEdit = [offset: number, length: number, fresh: string];
 /** The text of number `revision`: whole, or the steps that lead to it. */

@@ -25,10 +25,11 @@ const std::map<std::string, Names> &AllowedImports() {
       {"formats", {"page"}},
       {"objects", {"page", "formats"}},
       {"blocks", {"page", "formats", "objects"}},
+      {"find", {"page", "objects"}},
       {"talk", {"page", "formats", "objects", "blocks"}},
       {"clipboard", {"page", "formats", "objects", "blocks", "talk"}},
       {"keys", {"page", "formats", "objects", "blocks", "talk"}},
-      {"", {"page", "formats", "objects", "blocks", "talk", "clipboard", "keys"}},
+      {"", {"page", "formats", "objects", "blocks", "find", "talk", "clipboard", "keys"}},
   };
   return table;
 }

@@ -195,8 +195,22 @@ TEST_F(QsciEditing, ElementsFold) {
   }));
   Editor().foldLine(0);
   EXPECT_EQ(Send(QsciScintilla::SCI_GETLINEVISIBLE, 1), 0);
-  source_.Find(QStringLiteral("a</p>"), SearchDirection::Forward, LetterCase::Matched);
+  source_.Select({10, 11});
   EXPECT_NE(Send(QsciScintilla::SCI_GETLINEVISIBLE, 1), 0) << "what is found is seen";
+}
+
+TEST_F(QsciEditing, StretchesAreMarkedInPlaceOfThoseBefore) {
+  source_.SetText(QStringLiteral("\u00e4 one two"));
+  const auto isMarked = [&](long position) {
+    return Send(QsciScintilla::SCI_INDICATORVALUEAT, QsciScintilla::INDIC_CONTAINER + 2,
+                position) != 0;
+  };
+  source_.MarkStretches({{2, 5}});
+  EXPECT_TRUE(isMarked(3));
+  EXPECT_FALSE(isMarked(7));
+  source_.MarkStretches({{6, 9}});
+  EXPECT_FALSE(isMarked(3));
+  EXPECT_TRUE(isMarked(7));
 }
 
 TEST_F(QsciEditing, WhatIsNeverClosedDoesNotFold) {

@@ -63,11 +63,9 @@ TEST_P(SourceControlContract, EveryChangeOfTheTextIsToldAndNothingElse) {
   EXPECT_TRUE(tells([&] { source->SetText(QStringLiteral("one two")); }));
   EXPECT_FALSE(tells([&] { source->SetCaret(0, 2); }));
   EXPECT_TRUE(tells([&] { source->ReplaceSelection(QStringLiteral("x")); }));
-  const auto replace = [&](const char *what) {
-    source->ReplaceAll(QString::fromLatin1(what), QStringLiteral("three"), LetterCase::Matched);
-  };
-  EXPECT_TRUE(tells([&] { replace("two"); }));
-  EXPECT_FALSE(tells([&] { replace("nowhere"); }));
+  EXPECT_TRUE(tells([&] { source->ReplaceParts({{{0, 1}, QStringLiteral("three")}}); }));
+  EXPECT_FALSE(tells([&] { source->ReplaceParts({}); }));
+  EXPECT_FALSE(tells([&] { source->MarkStretches({{0, 1}}); }));
 }
 
 TEST_P(SourceControlContract, TheCaretStartsAtTheBeginningAndGoesWhereItIsPut) {
@@ -119,41 +117,28 @@ TEST_P(SourceControlContract, TextIsInsertedAtTheCaret) {
   EXPECT_TRUE(source->SelectedText().isEmpty());
 }
 
-TEST_P(SourceControlContract, FindingGoesAroundBothWays) {
+TEST_P(SourceControlContract, AStretchIsSelectedByItsPlaceInTheText) {
   const auto source = Make();
-  source->SetText(QStringLiteral("\u00e4 one\r\ntwo One"));
-  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Forward, LetterCase::Ignored));
+  source->SetText(QStringLiteral("\u00e4 \U0001F600 one\r\ntwo"));
+  source->Select({5, 8});
   EXPECT_EQ(source->SelectedText(), QStringLiteral("one"));
-  ASSERT_TRUE(source->Find(QStringLiteral("on"), SearchDirection::Here, LetterCase::Ignored));
-  EXPECT_EQ(source->SelectedText(), QStringLiteral("on"));
-  EXPECT_EQ(source->CaretLine(), 0);
-  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Forward, LetterCase::Ignored));
+  EXPECT_EQ(source->Selection(), (TextStretch{5, 8}));
+  source->Select({10, 10});
   EXPECT_EQ(source->CaretLine(), 1);
-  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Forward, LetterCase::Matched));
-  EXPECT_EQ(source->CaretLine(), 0);
-  ASSERT_TRUE(source->Find(QStringLiteral("one"), SearchDirection::Backward, LetterCase::Ignored));
-  EXPECT_EQ(source->SelectedText(), QStringLiteral("One"));
+  EXPECT_EQ(source->Selection(), (TextStretch{10, 10}));
 }
 
-TEST_P(SourceControlContract, WhatIsNowhereIsNotFoundAndTheSelectionStays) {
+TEST_P(SourceControlContract, PartsAreReplacedButNotInAView) {
+  const std::vector<TextReplacement> parts{{{0, 1}, QStringLiteral("xyz")},
+                                           {{5, 6}, QStringLiteral("\u00e4")}};
   const auto source = Make();
-  source->SetText(QStringLiteral("one two"));
-  ASSERT_TRUE(source->Find(QStringLiteral("two"), SearchDirection::Forward, LetterCase::Ignored));
-  EXPECT_FALSE(source->Find(QStringLiteral("x"), SearchDirection::Forward, LetterCase::Ignored));
-  EXPECT_FALSE(source->Find(QString(), SearchDirection::Forward, LetterCase::Ignored));
-  EXPECT_EQ(source->SelectedText(), QStringLiteral("two"));
-}
-
-TEST_P(SourceControlContract, EveryOccurrenceIsReplaced) {
-  const auto source = Make();
-  source->SetText(QStringLiteral("a A\r\n\u00e4a"));
-  EXPECT_EQ(source->ReplaceAll(QStringLiteral("a"), QStringLiteral("aa"), LetterCase::Matched), 2);
-  EXPECT_EQ(source->Text(), QStringLiteral("aa A\r\n\u00e4aa"));
-  EXPECT_EQ(source->ReplaceAll(QString(), QStringLiteral("x"), LetterCase::Matched), 0);
+  source->SetText(QStringLiteral("a \u00e4\r\nb"));
+  source->ReplaceParts(parts);
+  EXPECT_EQ(source->Text(), QStringLiteral("xyz \u00e4\r\n\u00e4"));
   const auto view = Make(SourceAccess::View);
-  view->SetText(QStringLiteral("a"));
-  EXPECT_EQ(view->ReplaceAll(QStringLiteral("a"), QStringLiteral("b"), LetterCase::Matched), 0);
-  EXPECT_EQ(view->Text(), QStringLiteral("a"));
+  view->SetText(QStringLiteral("a \u00e4\r\nb"));
+  view->ReplaceParts(parts);
+  EXPECT_EQ(view->Text(), QStringLiteral("a \u00e4\r\nb"));
 }
 
 TEST_P(SourceControlContract, ALineIsMarkedWhereItIsSaid) {

@@ -6,6 +6,7 @@
 #include "platform/EditingComponent.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
+#include "tests/support/FakeTextSearch.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -41,10 +42,12 @@ class FakeEditingComponent final : public EditingComponent,
   qsizetype selectionStart = 0;
   qsizetype selectionEnd = 0;
   ElementPlaces caretPlaces;
+  ElementPlaces endPlaces;  ///< of the selection's end; empty for a caret
   bool isIdle = false;
   QString reasonToWriteAnew;
   /// Called once while LoadDocument or Restore waits; may close the page.
   std::function<void()> whileLoading;
+  FakeTextSearch search;
   std::optional<RuntimeError> nextLoadFailure;  ///< raised once by LoadDocument and LoadText
   std::optional<RuntimeError> nextSaveFailure;  ///< raised once by SaveDocument
 
@@ -85,10 +88,16 @@ class FakeEditingComponent final : public EditingComponent,
   QString TextForm() const override { return InWords(original_.page.encoding); }
   bool HasByteOrderMark() const override { return original_.page.encoding.byteOrderMark; }
   ElementPlaces CaretPlaces() override { return caretPlaces; }
-  void ShowPlace(const ElementPlaces &places) override { caretPlaces = places; }
+  void ShowPlace(const ElementPlaces &places) override { ShowStretch({places}); }
+  ElementStretch SelectedPlaces() override { return {caretPlaces, endPlaces}; }
+  void ShowStretch(const ElementStretch &stretch) override {
+    caretPlaces = stretch.start;
+    endPlaces = stretch.end;
+  }
   QVariant ExecCommand(EditingCommand command, ExecOption option, const QVariant &value) override;
   CommandStatus QueryStatus(EditingCommand command) const override;
   QStringList BlockFormats() const override { return blockFormats; }
+  TextSearch &Search() override { return search; }
   HtmlDocument &Document() override;
   bool ShowDetails() const override;
   void SetShowDetails(bool on) override;

@@ -82,34 +82,17 @@ void FakeSourceControl::SetCaret(int line, int column) {
   if (selectionListener) selectionListener();
 }
 
-bool FakeSourceControl::Find(const QString &wanted, SearchDirection direction,
-                             LetterCase letterCase) {
-  const auto rule = letterCase == LetterCase::Matched ? Qt::CaseSensitive : Qt::CaseInsensitive;
-  if (wanted.isEmpty()) return false;
-  qsizetype found = -1;
-  if (direction == SearchDirection::Backward) {
-    if (selectionStart > 0) found = text.lastIndexOf(wanted, selectionStart - 1, rule);
-    if (found < 0) found = text.lastIndexOf(wanted, -1, rule);
-  } else {
-    const bool stays = direction == SearchDirection::Here;
-    found = text.indexOf(wanted, stays ? selectionStart : selectionEnd, rule);
-    if (found < 0) found = text.indexOf(wanted, 0, rule);
-  }
-  if (found < 0) return false;
-  selectionStart = found;
-  selectionEnd = found + wanted.size();
+void FakeSourceControl::Select(const TextStretch &stretch) {
+  selectionStart = stretch.start;
+  selectionEnd = stretch.end;
   if (selectionListener) selectionListener();
-  return true;
 }
 
-int FakeSourceControl::ReplaceAll(const QString &wanted, const QString &replacement,
-                                  LetterCase letterCase) {
-  if (access == SourceAccess::View || wanted.isEmpty()) return 0;
-  const auto rule = letterCase == LetterCase::Matched ? Qt::CaseSensitive : Qt::CaseInsensitive;
-  const auto count = static_cast<int>(text.count(wanted, rule));
-  text.replace(wanted, replacement, rule);
-  if (count > 0) TextChanged();
-  return count;
+void FakeSourceControl::ReplaceParts(const std::vector<TextReplacement> &parts) {
+  if (access == SourceAccess::View || parts.empty()) return;
+  for (auto part = parts.rbegin(); part != parts.rend(); ++part)
+    text.replace(part->place.start, part->place.end - part->place.start, part->text);
+  TextChanged();
 }
 
 }  // namespace velor

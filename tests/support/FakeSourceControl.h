@@ -32,6 +32,7 @@ class FakeSourceControl final : public SourceControl {
   std::function<void()> selectionListener;
   std::function<void()> textListener;
   int markedLine = -1;
+  std::vector<TextStretch> marked;
   LineWrap wrap = LineWrap::Off;
   /// Reported as the caret's column in place of the real one.
   std::optional<int> strayColumn;
@@ -59,8 +60,10 @@ class FakeSourceControl final : public SourceControl {
   }
   int MarkedLine() const override { return markedLine; }
   void SetMarkedLine(int line) override { markedLine = line; }
-  bool Find(const QString &wanted, SearchDirection direction, LetterCase letterCase) override;
-  int ReplaceAll(const QString &wanted, const QString &replacement, LetterCase letterCase) override;
+  TextStretch Selection() const override { return {selectionStart, selectionEnd}; }
+  void Select(const TextStretch &stretch) override;
+  void ReplaceParts(const std::vector<TextReplacement> &parts) override;
+  void MarkStretches(const std::vector<TextStretch> &stretches) override { marked = stretches; }
 
  private:
   void TextChanged() const {

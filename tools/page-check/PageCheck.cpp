@@ -57,7 +57,7 @@ class PageCheck::Desk {
   /// The text that was selected for the edit; nullopt where the page has no such place.
   std::optional<QString> Edit(const QString &words, int place) {
     const QString kind = words.section(u'=', 0, 0);
-    const std::optional<QString> selected = EditByScript(kind, place);
+    const std::optional<QString> selected = EditByScript(kind, place, words.section(u'=', 1));
     if (!selected) return selected;
     if (kind == u"type")
       Type(words.contains(u'=') ? words.section(u'=', 1) : QStringLiteral("inserted"));
@@ -91,12 +91,13 @@ class PageCheck::Desk {
     editor.ExecCommand(EditingCommand::Paste, ExecOption::Default, {});
   }
 
-  std::optional<QString> EditByScript(const QString &kind, int place) {
+  std::optional<QString> EditByScript(const QString &kind, int place, const QString &argument) {
     QWebEnginePage &page = *editor.Widget()->findChild<QWebEngineView *>()->page();
     const auto answer = std::make_shared<std::optional<QVariant>>();
-    page.runJavaScript(QStringLiteral("%1\n;velorPageCheck(%2,%3)")
+    page.runJavaScript(QStringLiteral("%1\n;velorPageCheck(%2,%3,%4)")
                            .arg(EditScript(), ScriptValue(kind))
-                           .arg(place),
+                           .arg(place)
+                           .arg(ScriptValue(argument)),
                        BridgeWorld, [answer](const QVariant &value) { *answer = value; });
     GuardedWait(engine_.Guard()).Until(page, std::chrono::minutes(1), [&] {
       return answer->has_value();
@@ -137,7 +138,8 @@ const QStringList &PageCheck::ScriptKinds() {
   static const QStringList kinds = {
       QStringLiteral("insert-word"),      QStringLiteral("bold"),      QStringLiteral("image"),
       QStringLiteral("delete-paragraph"), QStringLiteral("table-row"), QStringLiteral("split"),
-      QStringLiteral("center"),           QStringLiteral("attribute")};
+      QStringLiteral("center"),           QStringLiteral("attribute"), QStringLiteral("replace"),
+      QStringLiteral("replace-all")};
   return kinds;
 }
 
@@ -149,8 +151,10 @@ const QStringList &PageCheck::KeyKinds() {
 }
 
 bool PageCheck::IsKind(const QString &words) {
+  static const QStringList withWords = {QStringLiteral("type"), QStringLiteral("replace"),
+                                        QStringLiteral("replace-all")};
   return ScriptKinds().contains(words) || KeyKinds().contains(words) ||
-         words.startsWith(QStringLiteral("type="));
+         (words.contains(u'=') && withWords.contains(words.section(u'=', 0, 0)));
 }
 
 PageCheck::PageCheck(EditingEngine &engine)

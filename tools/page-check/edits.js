@@ -104,7 +104,17 @@ const atCaret = [caretPlaces, ([text, offset]) => {
   return true;
 }];
 
+// Replaces the word at a place by another one, or "A,B": the first A from there on by B.
+const replaceBy = (replace) => [wordPlaces, ([text, start, end], argument) => {
+  select(text, start, end);
+  const [words, other] = argument ? argument.split(',') : [text.data.slice(start, end), 'replaced'];
+  const query = { words, matchCase: true };
+  return velor.find(query, 'here').count > 0 && replace(query, other);
+}];
+
 const edits = {
+  'replace': replaceBy((query, other) => velor.replaceFound(query, other)),
+  'replace-all': replaceBy((query, other) => velor.replaceAll(query, other)),
   'type': atCaret,
   'enter': atCaret,
   'backspace': atCaret,
@@ -155,10 +165,10 @@ const edits = {
     }],
 };
 
-globalThis.velorPageCheck = (kind, number) => {
+globalThis.velorPageCheck = (kind, number, argument) => {
   if (document.body?.tagName !== 'BODY') return null;
   const [places, edit] = edits[kind];
   const place = places()[number];
-  if (place === undefined || edit(place) === false) return null;
+  if (place === undefined || edit(place, argument) === false) return null;
   return getSelection().rangeCount ? getSelection().getRangeAt(0).toString() : '';
 };

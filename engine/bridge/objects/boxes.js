@@ -43,6 +43,37 @@ export function firstBoxOf(node) {
 }
 
 /**
+ * The boxes of a range in the viewport, a line each.
+ * @param {Range} range
+ * @param {Element} element around its start
+ * @returns {{ left: number, top: number, width: number, height: number }[]}
+ */
+export function boxesOf(range, element) {
+  const zoom = zoomOf(element);
+  return [...range.getClientRects()].map((rect) => scaled(rect, zoom));
+}
+
+/** The first and the last node in sight, by what is at the viewport's upper and lower edge. */
+export function nodesInSight() {
+  const { clientWidth, clientHeight } = document.documentElement;
+  const columns = [2, clientWidth / 2, clientWidth - 2];
+  /** @param {number} y */
+  const nodesAt = (y) => columns.map((x) => document.caretRangeFromPoint(x, y))
+    .filter(Boolean).map(({ startContainer, startOffset }) =>
+      startContainer.childNodes[startOffset] ?? startContainer);
+  /**
+   * @param {Node} one
+   * @param {Node} other
+   */
+  const precedes = (one, other) =>
+    (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1);
+  return {
+    first: nodesAt(1).sort(precedes)[0] ?? document.body,
+    last: nodesAt(clientHeight - 1).sort(precedes).at(-1) ?? null,
+  };
+}
+
+/**
  * How many pixels of the viewport one pixel of an element's own sizes is, across and down: its zoom
  * times the scale (`transform`) of the elements around it.
  * @param {HTMLElement} element

@@ -116,33 +116,13 @@ function layerOf(node, sign, others) {
   return { ...sign, node, x, y: box.top + (box.height - height) / 2 };
 }
 
-// The first and the last node in sight, by what is at the viewport's upper and lower edge.
-function inSight() {
-  const { clientWidth, clientHeight } = document.documentElement;
-  const columns = [2, clientWidth / 2, clientWidth - 2];
-  /** @param {number} y */
-  const nodesAt = (y) => columns.map((x) => document.caretRangeFromPoint(x, y))
-    .filter(Boolean).map(({ startContainer, startOffset }) =>
-      startContainer.childNodes[startOffset] ?? startContainer);
-  /**
-   * @param {Node} one
-   * @param {Node} other
-   */
-  const precedes = (one, other) =>
-    (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1);
-  return {
-    first: nodesAt(1).sort(precedes)[0] ?? document.body,
-    last: nodesAt(clientHeight - 1).sort(precedes).at(-1) ?? null,
-  };
-}
-
 // The signs of the nodes in sight.
 function layers() {
   /** @type {Glyph[]} */
   const signs = [];
   const walker = document.createTreeWalker(
     document.body, NodeFilter.SHOW_ELEMENT | NodeFilter.SHOW_COMMENT | NodeFilter.SHOW_TEXT);
-  const { first, last } = inSight();
+  const { first, last } = boxes.nodesInSight();
   walker.currentNode = first;
   // What stands just before the first text in sight belongs to it.
   for (let back = 0; back < 5 && walker.previousNode(); back++);
@@ -163,12 +143,7 @@ let shown = false;
 let found = [];
 function redraw() {
   found = shown && dom.isEditable() ? layers() : [];
-  if (!found.length) {
-    overlay.clear('details');
-    return;
-  }
-  const { clientWidth: right, clientHeight: bottom } = document.documentElement;
-  overlay.draw('details', { left: 0, top: 0, right, bottom }, found);
+  overlay.drawInView('glyphs', found);
 }
 
 /** @param {Layer} layer */

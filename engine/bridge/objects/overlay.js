@@ -115,6 +115,22 @@ export function clear(name) {
   styles[name].cssText = '';
 }
 
+/** @type {Map<string, Layer[]>} what is drawn below 'frame', by who draws it */
+const inView = new Map();
+/**
+ * Draws on all of the viewport, below 'frame', in place of what the same one has drawn before; to
+ * be called while everything is drawn anew (addRedraw). The first to draw lies on top.
+ * @param {'glyphs' | 'marks'} who
+ * @param {Layer[]} layers the upper ones first
+ */
+export const drawInView = (who, layers) => inView.set(who, layers);
+function drawDetails() {
+  const layers = [...inView.values()].flat();
+  const { clientWidth: right, clientHeight: bottom } = document.documentElement;
+  if (layers.length) draw('details', { left: 0, top: 0, right, bottom }, layers);
+  else clear('details');
+}
+
 /** @type {(() => void)[]} what is called to draw anew */
 const redraws = [];
 let waiting = false;
@@ -125,6 +141,7 @@ export function scheduleRedraw() {
   requestAnimationFrame(() => {
     waiting = false;
     redraws.forEach((redraw) => redraw());
+    drawDetails();
   });
 }
 const sizes = new ResizeObserver(scheduleRedraw);

@@ -261,6 +261,11 @@ TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
             R"tree(mnuFindCommand "Find Command... (&F)" Ctrl+Shift+P
 mnuRecent "Recent Files (&R)"
 mnu6 "-"
+mnuFind "Find... (&N)" Ctrl+F
+mnuReplace "Replace... (&P)" Ctrl+H
+mnuFindNext "Find Next (&G)" F3
+mnuFindPrevious "Find Previous (&U)" Shift+F3
+mnu8 "-"
 mnuLink "Link... (&L)" Ctrl+K
 mnuFollowLink "Follow Link (&K)"
 mnuBookmark "Insert Target... (&T)"

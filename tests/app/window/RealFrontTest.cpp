@@ -182,8 +182,8 @@ TEST_F(RealFront, WithTheSourceEditorInFrontTheEditCommandsActOnTheSource) {
 TEST_F(RealFront, SavingWithTheSourceEditorInFrontAppliesTheSourceAndSavesThePage) {
   frmMain &page = Open(QStringLiteral("a.htm"), Plain);
   page.ChangeMode(3);
-  ASSERT_TRUE(EditorOf(page).Code().Find(QStringLiteral("One"), SearchDirection::Forward,
-                                         LetterCase::Matched));
+  const qsizetype word = EditorOf(page).Code().Text().indexOf(QStringLiteral("One"));
+  EditorOf(page).Code().Select({word, word + 3});
   EditorOf(page).Code().ReplaceSelection(QStringLiteral("Two"));
   Choose("mnuSave");
   EXPECT_TRUE(Bytes(QStringLiteral("a.htm")).contains("<p>Two</p>"));

@@ -172,7 +172,8 @@ TEST_F(RealRecovery, ASourceThatWasNotAppliedIsInItsEditorAgainAndIsAppliedFaith
   page.ChangeMode(3);
   frmCodeEditor *editor = window.Context().pages.CodeEditor(page.Number());
   SourceControl &code = editor->Code();
-  ASSERT_TRUE(code.Find(QStringLiteral("one"), SearchDirection::Here, LetterCase::Matched));
+  const qsizetype word = code.Text().indexOf(QStringLiteral("one"));
+  code.Select({word, word + 3});
   QTest::keyClicks(code.Widget(), QStringLiteral("typed"));
   ASSERT_TRUE(WaitFor([] { return !JournalsThere().isEmpty(); }));
   JournalledPage kept = Left(page, QStringLiteral("one"));

@@ -58,6 +58,16 @@ QString PairsOf(const QString &words, const QString &left = {}) {
   return u'[' + pairs.join(u',') + u']';
 }
 
+/// The query of a step: its words, behind options in brackets ("[matchCase wholeWords] words").
+QString SearchOf(const QString &value) {
+  static const QRegularExpression form(QStringLiteral("^(?:\\[([\\w ]+)\\] )?(.*)$"));
+  const QRegularExpressionMatch match = form.match(value);
+  QString query = QStringLiteral("{ words: %1").arg(ScriptText(match.captured(2)));
+  for (const QString &option : match.captured(1).split(u' ', Qt::SkipEmptyParts))
+    query += QStringLiteral(", %1: true").arg(option);
+  return query + QStringLiteral(" }");
+}
+
 }  // namespace
 
 QString ScriptText(const QString &text) {
@@ -153,6 +163,16 @@ void Perform(BridgePage &page, const QString &step) {
     const QString side = value.section(QStringLiteral("side="), 1);
     page.Evaluate(QStringLiteral("velor.changeObject(%1, %2)")
                       .arg(PairsOf(value, QStringLiteral("side")), ScriptText(side)));
+  } else if (verb == QStringLiteral("find") || verb == QStringLiteral("findNext") ||
+             verb == QStringLiteral("findPrevious")) {
+    const QString way =
+        verb == QStringLiteral("find") ? QStringLiteral("here") : verb.mid(4).toLower();
+    page.Evaluate(QStringLiteral("velor.find(%1, '%2')").arg(SearchOf(value), way));
+  } else if (verb == QStringLiteral("replace") || verb == QStringLiteral("replaceAll")) {
+    const QString name = verb == QStringLiteral("replace") ? QStringLiteral("replaceFound") : verb;
+    page.Evaluate(QStringLiteral("velor.%1(%2, %3)")
+                      .arg(name, SearchOf(value.section(QStringLiteral(" => "), 0, 0)),
+                           ScriptText(value.section(QStringLiteral(" => "), 1))));
   } else if (verb == QStringLiteral("pasteForeign") || verb == QStringLiteral("pasteText")) {
     const QString type = verb == QStringLiteral("pasteText") ? QStringLiteral("text/plain")
                                                              : QStringLiteral("text/html");
