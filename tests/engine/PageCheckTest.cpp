@@ -138,6 +138,15 @@ TEST_F(PageCheckProgram, LeavesThePagesOfTheManualAsTheyAreExceptForWhatIsTyped)
   }
 }
 
+TEST_F(PageCheckProgram, FindsAFragmentEqualThatHasLostItsFirstWord) {
+  EXPECT_EQ(Run({QStringLiteral("--edit"), QStringLiteral("delete-word"),
+                 Write(QStringLiteral("part.inc"), "Copyright <%= year %> by <b>us</b>.\n")}),
+            0);
+  ASSERT_EQ(lines_.size(), 1u);
+  EXPECT_TRUE(Has(0, "document_equal")) << output_.constData();
+  EXPECT_EQ(lines_[0][QLatin1String("bytes_lost")].toInt(), 9) << output_.constData();
+}
+
 TEST_F(PageCheckProgram, RefusesWhatMeansNothing) {
   const QString page = Write(QStringLiteral("page.htm"), "<P>one two");
   for (const QStringList &arguments : {QStringList{},

@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 #include <QWebEnginePage>
 #include <QWebEngineView>
@@ -33,6 +34,19 @@ namespace {
 QByteArray Bytes(const QString &file) {
   QFile opened(file);
   return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
+}
+
+const QRegularExpression &FrameTags() {
+  static const QRegularExpression tags(QStringLiteral("</?(html|head|body)\\b[^>]*>"),
+                                       QRegularExpression::CaseInsensitiveOption);
+  return tags;
+}
+bool HasFrameTags(const QByteArray &file) {
+  return DecodePage(file).text.contains(FrameTags());
+}
+/// A parser drops white space before the first word of a text without these tags.
+QString WithoutFrameTags(QString document) {
+  return document.remove(FrameTags());
 }
 
 QString EditScript() {
@@ -167,6 +181,10 @@ QString PageCheck::Parsed(const QByteArray &bytes) {
   return desk_->editor.DocumentHTML();
 }
 
+QString PageCheck::ParsedAgain(const QString &document) {
+  return Parsed(document.toUtf8().prepend("\xEF\xBB\xBF"));
+}
+
 QString PageCheck::Target() const {
   return scratch_.filePath(QStringLiteral("saved.htm"));
 }
@@ -212,7 +230,8 @@ void PageCheck::Measure(const QString &file, const QString &kind, int place, QJs
 
   const QString saved = Parsed(page.saved);
   const bool isEqual =
-      saved == page.now || saved == Parsed(page.now.toUtf8().prepend("\xEF\xBB\xBF"));
+      saved == page.now || saved == ParsedAgain(page.now) ||
+      (!HasFrameTags(page.file) && saved == ParsedAgain(WithoutFrameTags(page.now)));
   const ByteDifference difference = CountByteDifference(page.file, page.saved);
   const BytesBeyondEdit beyond = CountBytesBeyondEdit(page);
   result[QStringLiteral("edited")] = selected.has_value();

@@ -47,6 +47,8 @@ class PageCheck {
   QString Target() const;
   /// The document of a text, loaded on its own.
   QString Parsed(const QByteArray &bytes);
+  /// What a parse makes of a document's HTML.
+  QString ParsedAgain(const QString &document);
 
   QTemporaryDir scratch_;
   std::unique_ptr<Desk> desk_;
