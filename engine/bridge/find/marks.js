@@ -8,8 +8,8 @@ import * as overlay from '../objects/overlay.js';
 const most = 1500;  // matches marked at a time
 /** @param {string} colour */
 const paint = (colour) => `linear-gradient(${colour}, ${colour})`;
-const ofMatches = paint('rgba(255, 196, 0, 0.4)');
-const ofCurrent = paint('rgba(255, 120, 0, 0.5)');
+const ofMatches = paint('rgba(255, 196, 0, 0.35)');
+const ofCurrent = paint('rgba(255, 120, 0, 0.35)');
 
 /** @type {PageMatch[]} */
 let matches = [];
