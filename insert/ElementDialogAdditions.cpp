@@ -72,6 +72,11 @@ void frmInsertElement::ConnectAdditions() {
   connect(link_.bookmarks, &QListWidget::itemSelectionChanged, this,
           &frmInsertElement::TakeBookmark);
 
+  // Both Browse buttons of the image page have the letter B, and Alt+B would press neither.
+  auto *lowResolution = findChild<QPushButton *>(QStringLiteral("cmdBrowseLowRes"));
+  lowResolution->setShortcut(Qt::ALT | Qt::Key_W);
+  lowResolution->setToolTip(QStringLiteral("Browse for a picture of low resolution (Alt+W)"));
+
   // These need a script, which pages made here have not.
   for (const char *name : {"txtVidLoop", "txtVidLoopDelay", "chkVidMouseOver", "chkMouseOver"}) {
     auto *control = findChild<QWidget *>(QLatin1String(name));

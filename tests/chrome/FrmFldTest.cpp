@@ -3,6 +3,7 @@
 #include "platform/Paths.h"
 #include "platform/ProgramValues.h"
 #include "tests/support/Checks.h"
+#include "tests/support/KeyboardWalk.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -49,6 +50,30 @@ TEST_F(FolderPicker, HasItsCaptionsAndNames) {
   EXPECT_EQ(Drive1().accessibleName(), QStringLiteral("Drive"));
   EXPECT_EQ(Dir1().accessibleName(), QStringLiteral("Folder"));
   EXPECT_FALSE(picker_.ForProject);
+}
+
+TEST_F(FolderPicker, TabMeetsEveryControlAndEachHasAnAltKeyOfItsOwn) {
+  picker_.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&picker_));
+  EXPECT_EQ(QApplication::focusWidget(), &Dir1());
+  EXPECT_EQ(WalkBothWays(Dir1()).toStdString(),
+            "Dir1 chkHidden txtPath SSCommand1 SSCommand2 Drive1");
+  EXPECT_EQ(SharedAltKeys(picker_).toStdString(), "");
+}
+
+TEST_F(FolderPicker, ArrowsGoIntoFoldersAndBackOut) {
+  picker_.SelectFolder(folder_.path());
+  const auto press = [&](Qt::Key key) { QTest::keyClick(&Dir1(), key); };
+  press(Qt::Key_Right);
+  press(Qt::Key_Right);
+  EXPECT_EQ(picker_.SelectedFolder(), Native(QStringLiteral("Other")));
+  press(Qt::Key_Down);
+  EXPECT_EQ(picker_.SelectedFolder(), Native(QStringLiteral("Sites")));
+  press(Qt::Key_Right);
+  press(Qt::Key_Right);
+  EXPECT_EQ(picker_.SelectedFolder(), Native(QStringLiteral("Sites/Bob's Site")));
+  press(Qt::Key_Left);
+  EXPECT_EQ(picker_.SelectedFolder(), Native(QStringLiteral("Sites")));
 }
 
 TEST_F(FolderPicker, OffersTheRootAndTheHomeFolderAndStartsAtHome) {

@@ -6,6 +6,7 @@
 #include "tests/editor/EditorWorld.h"
 #include "tests/support/FakeFileWatches.h"
 #include "tests/support/FakeJournals.h"
+#include "tests/support/KeyboardWalk.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -71,6 +72,20 @@ TEST_F(OutsideChangesTest, APageWithChangesAsksInABarAndTouchesNothing) {
       QStringLiteral("index.htm was changed by another program, and has unsaved changes here."));
   EXPECT_EQ(Document(), Mine);
   EXPECT_EQ(Content(IndexFile), Theirs.toUtf8());
+}
+
+TEST_F(OutsideChangesTest, TabMeetsEveryButtonOfTheBar) {
+  MeetAtTheBar();
+  Page(1).window()->show();
+  Page(1).activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(Page(1).window()));
+  OutsideChanges &bar = Page(1).Outside();
+  QWidget &start = *bar.findChild<QPushButton *>(QStringLiteral("cmdKeepMine"));
+  start.setFocus();
+  const auto isOut = [&](const QWidget &now) { return !bar.isAncestorOf(&now); };
+  EXPECT_EQ(WalkByKey(Qt::Key_Tab, start, isOut).join(u' ').toStdString(),
+            "cmdKeepMine cmdTakeTheirs cmdCompare");
+  EXPECT_EQ(SharedAltKeys(Page(1)).toStdString(), "");
 }
 
 TEST_F(OutsideChangesTest, SourceThatWasNotAppliedCountsAsAChange) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/modWorkFlow.h"
 #include "tests/editor/EditorWorld.h"
+#include "tests/support/KeyboardWalk.h"
 
 #include <QAction>
 #include <QLabel>
@@ -191,6 +192,22 @@ TEST(ProgressPercentTest, IsThePercentModuloAHundredAndZeroWhereItCannotBeComput
   EXPECT_EQ(ProgressPercent(21474836, 42949672), 50);
   EXPECT_EQ(ProgressPercent(21474837, 42949672), 0) << "a hundred times that leaves 32 bits";
   EXPECT_EQ(ProgressPercent(std::numeric_limits<std::int32_t>::min(), 1), 0);
+}
+
+TEST_F(PreviewTest, TabMeetsEveryButtonOfTheBar) {
+  Open(IndexFile);
+  Page(1).ChangeMode(4);
+  context.preview->show();
+  context.preview->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(context.preview->window()));
+  auto &bar = *context.preview->findChild<QToolBar *>(QStringLiteral("tbToolBar"));
+  QList<QWidget *> buttons;
+  for (QAction *each : bar.actions()) buttons.append(bar.widgetForAction(each));
+  buttons.constFirst()->setFocus();
+  const auto isOut = [&](const QWidget &now) { return !bar.isAncestorOf(&now); };
+  EXPECT_EQ(WalkByKey(Qt::Key_Tab, *buttons.constFirst(), isOut).join(u' ').toStdString(),
+            "Back Forward Refresh Stop");
+  EXPECT_EQ(SharedAltKeys(*context.preview).toStdString(), "");
 }
 
 }  // namespace velor

@@ -5,6 +5,7 @@
 #include "qt/QtFileDialog.h"
 #include "tests/support/Checks.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/KeyboardWalk.h"
 
 #include <QCloseEvent>
 #include <QDialog>
@@ -73,6 +74,38 @@ TEST(MessageBox, AnswersTheButtonThatWasPressed) {
         [&answer](QMessageBox &box) { box.button(answer.first)->click(); });
     EXPECT_EQ(dialogs.ShowMessage(Question(MessageButtons::YesNoCancel)), answer.second);
   }
+}
+
+TEST(MessageBox, TabAndArrowsMeetEveryButtonOfAQuestion) {
+  QtDialogs dialogs;
+  OnDialog<QMessageBox> person([](QMessageBox &box) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+    auto *yes = box.button(QMessageBox::Yes);
+    EXPECT_EQ(QApplication::focusWidget(), yes);
+    EXPECT_EQ(WalkBothWays(*yes).toStdString(), "Yes No Cancel");
+    EXPECT_EQ(WalkByKey(Qt::Key_Right, *yes).join(u' ').toStdString(), "Yes No Cancel");
+    EXPECT_EQ(SharedAltKeys(box).toStdString(), "");
+    QTest::keyClick(yes, Qt::Key_Left);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  });
+  EXPECT_EQ(dialogs.ShowMessage(Question(MessageButtons::YesNoCancel)), MessageAnswer::Cancel);
+}
+
+TEST(TextPrompt, TabMeetsTheBoxAndBothButtons) {
+  QtDialogs dialogs;
+  OnDialog<QInputDialog> person([](QInputDialog &box) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+    auto *line = box.findChild<QLineEdit *>();
+    EXPECT_EQ(QApplication::focusWidget(), line);
+    line->setObjectName(QStringLiteral("line"));
+    EXPECT_EQ(WalkBothWays(*line).toStdString(), "line OK Cancel");
+    EXPECT_EQ(SharedAltKeys(box).toStdString(), "");
+    QTest::keyClicks(line, QStringLiteral("a@b.example"));
+    QTest::keyClick(line, Qt::Key_Return);
+  });
+  EXPECT_EQ(
+      dialogs.AskText(QStringLiteral("Enter the address"), QStringLiteral("Link to"), QString()),
+      QStringLiteral("a@b.example"));
 }
 
 TEST(MessageBox, EscapeAnswersCancelElseNoElseOk) {

@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Screenshots of every window of the program, idle and with the pointer on a control, for one
-palette and scale.
+palette and scale, on the whole screen.
 
-Usage: screenshots.py RUN_FOLDER OUT_FOLDER light|dark SCALE_PERCENT [SESSION...]
-Sessions are recovery, start, main, manual, objects and projects; without any, all of them.
+Usage: screenshots.py RUN_FOLDER OUT_FOLDER light|dark|contrast SCALE_PERCENT [SESSION...]
+Sessions are recovery, start, main, manual, objects, names and projects; without any, all of them.
 """
 import os
 import shutil
@@ -13,7 +13,46 @@ import sys
 import tempfile
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tour"))
-from desktop import Atspi, Program, TourError, wait_for  # noqa: E402
+from desktop import Atspi, Program, TourError, run, wait_for  # noqa: E402
+
+
+def screen():
+    """The size of the virtual desktop."""
+    return [int(length) for length in run("xdotool", "getdisplaygeometry").split()]
+
+
+# The colours of a desktop for people who need high contrast, as the desktop's file has them.
+CONTRAST = "".join(f"[Colors:{part}]\nBackgroundNormal=0,0,0\nBackgroundAlternate=0,0,0\n"
+                   "ForegroundNormal=255,255,255\nForegroundInactive=255,255,255\n"
+                   "ForegroundLink=255,255,0\nForegroundVisited=255,255,0\n\n"
+                   for part in ("Window", "View", "Button", "Tooltip"))
+CONTRAST += "[Colors:Selection]\nBackgroundNormal=0,255,255\nForegroundNormal=0,0,0\n"
+
+
+def palette_settings(palette, scratch):
+    """The environment in which the program has the palette; a desktop's own is found in its file."""
+    if palette != "contrast":
+        return {"VELOR_PALETTE": palette}
+    with open(os.path.join(scratch, "kdeglobals"), "w", encoding="utf-8") as colours:
+        colours.write(CONTRAST)
+    return {"XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": "5"}
+
+
+# Installed fonts under names that Chinese, Japanese and Arabic ones have.
+FONT_NAMES = {"DejaVu Sans Mono": "\u5b8b\u4f53\u7e41\u9ad4\u660e\u671d", "C059": "\u6e38\u30b4\u30b7\u30c3\u30af",
+              "DejaVu Serif": "\u0627\u0644\u062e\u0637 \u0627\u0644\u0639\u0631\u0628\u064a Naskh"}
+
+
+def font_settings(scratch):
+    """The environment in which fonts have the names of FONT_NAMES."""
+    rules = "".join(f'<match target="scan"><test name="family"><string>{name}</string></test>'
+                    f'<edit name="family" mode="assign"><string>{other}</string></edit></match>'
+                    for name, other in FONT_NAMES.items())
+    path = os.path.join(scratch, "fonts.conf")
+    with open(path, "w", encoding="utf-8") as settings:
+        settings.write(f"<fontconfig><dir>/usr/share/fonts</dir><cachedir>{scratch}/font-cache</cachedir>"
+                       f"<include>/etc/fonts/conf.d</include>{rules}</fontconfig>")
+    return {"FONTCONFIG_FILE": path}
 
 
 class Photographer:
@@ -51,7 +90,8 @@ class Photographer:
         self.program.button(1)
 
     def away(self):
-        self.program.move(int(1270 * self.factor), int(810 * self.factor))
+        width, height = screen()
+        self.program.move(int(width - 10 * self.factor), int(height - 10 * self.factor))
 
     def dialog(self, opener, what, hovered):
         """Opens a dialog, shows it idle and hovered, and closes it by Escape."""
@@ -245,11 +285,43 @@ def narrow(photos):
     """The narrowest window: what does not fit stands in the bars' overflow menus."""
     program = photos.program
     program.press("Design", within=program.wait("Untitled 5", "frame"))
-    program.size_window(int(480 * photos.factor), int(820 * photos.factor))
+    program.size_window(int(480 * photos.factor), screen()[1])
     photos.away()
     photos.shot("narrow")
     edge = int(470 * photos.factor), int(85 * photos.factor)
     photos.popup(lambda: program.click(*edge), "narrow-formats")
+
+
+NAMES = """<!DOCTYPE html>
+<html lang="ar" dir="rtl"><head><meta charset="utf-8"><title>\u0635\u0641\u062d\u0629</title></head><body>
+<h2>\u0645\u0631\u062d\u0628\u0627 Web \u0628\u0643\u0645</h2>
+<p><font face="%s">\u0647\u0630\u0647 \u0635\u0641\u062d\u0629 123 \u0639\u0631\u0628\u064a\u0629.</font></p></body></html>
+"""
+
+
+def names(photos):
+    """Fonts, pages and folders whose names are Chinese, Japanese and Arabic."""
+    program = photos.program
+    folder = os.path.join(program.folder, "\u0645\u0648\u0642\u0639\u064a \u6211\u7684\u7f51\u7ad9")
+    os.makedirs(folder)
+    pages = []
+    for name, font in zip(("\u0635\u0641\u062d\u0629 \u0639\u0631\u0628\u064a\u0629 1.htm", "\u9996\u9875 index.htm"),
+                          ("\u0627\u0644\u062e\u0637 \u0627\u0644\u0639\u0631\u0628\u064a Naskh", "\u5b8b\u4f53\u7e41\u9ad4\u660e\u671d")):
+        pages.append(os.path.join(folder, name))
+        with open(pages[-1], "w", encoding="utf-8") as page:
+            page.write(NAMES % font)
+    for path in pages:
+        subprocess.run([photos.program.executable, path], env=program.environment, check=True, timeout=30)
+        program.wait(os.path.basename(path), "page tab")
+        program.key("ctrl+End")
+        photos.away()
+        photos.shot("page")
+    photos.popup(lambda: photos.list_of("Font"), "font-list", "Home")
+    photos.popup(lambda: program.key("alt+t"), "recent-files", "Up", "Up")
+    program.key("ctrl+o")
+    program.wait("Cancel")
+    photos.shot("file-dialog")
+    photos.close("file-dialog")
 
 
 def manual(photos):
@@ -327,11 +399,12 @@ def main(run_folder, out, palette, scale, *wanted):
         if projects in scenes:
             add_pages(run_folder, folder)
         program = Program(os.path.join(run_folder, "velor-web-creator"), folder, scratch, out,
-                          {"VELOR_PALETTE": palette, "QT_SCALE_FACTOR": str(factor), "HOME": home(scratch)})
+                          {"QT_SCALE_FACTOR": str(factor), "HOME": home(scratch),
+                           **palette_settings(palette, scratch), **(font_settings(scratch) if names in scenes else {})})
         photos = Photographer(program, f"{palette}-{scale}-{name}", factor)
         try:
             if start_up not in scenes:
-                program.size_window(int(1280 * factor), int(820 * factor))
+                program.size_window(*screen())
             for scene in scenes:
                 scene(photos)
         except TourError:
@@ -350,7 +423,7 @@ def main(run_folder, out, palette, scale, *wanted):
 
         def start():
             return Program(os.path.join(run_folder, "velor-web-creator"), folder, scratch, out,
-                           {"VELOR_PALETTE": palette, "QT_SCALE_FACTOR": str(factor)})
+                           {"QT_SCALE_FACTOR": str(factor), **palette_settings(palette, scratch)})
 
         def journals():
             return [name for _, _, names in os.walk(os.path.join(scratch, "velor-web-creator"))
@@ -365,7 +438,7 @@ def main(run_folder, out, palette, scale, *wanted):
                 wait_for(lambda: len(journals()) == number, "the journal")
             program.kill()
             program = start()
-            program.size_window(int(1280 * factor), int(820 * factor))
+            program.size_window(*screen())
             photos = Photographer(program, f"{palette}-{scale}-recovery", factor)
             program.wait("Restore Untitled 1", "push button|button")
             photos.shot("bar")
@@ -382,6 +455,7 @@ def main(run_folder, out, palette, scale, *wanted):
         "main": lambda: session("main", (), main_window, dialogs, modes, narrow),
         "manual": lambda: session("manual", (), manual),
         "objects": lambda: session("objects", (), objects),
+        "names": lambda: session("names", (), names),
         "projects": lambda: session("projects", (), projects),
     }
     for name in wanted or sessions:

@@ -64,6 +64,7 @@ class Program:
             env["QTWEBENGINE_DISABLE_SANDBOX"] = "1"
         env.update(environment or {})
         self.environment = env
+        self.executable = executable
         self.scale = float(env.get("QT_SCALE_FACTOR", "1"))
         self.log = open(os.path.join(shots, "program.log"), "a", encoding="utf-8")
         self.process = subprocess.Popen([executable], env=env, stdout=self.log, stderr=self.log)

@@ -8,34 +8,13 @@
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeDialogs.h"
+#include "tests/support/KeyboardWalk.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QMenu>
-#include <QTest>
+#include <QTabWidget>
 
 namespace velor {
 namespace {
-
-QString NameOf(const QWidget &control) {
-  const auto *button = qobject_cast<const QAbstractButton *>(&control);
-  const bool isNamed = button == nullptr || !control.objectName().isEmpty();
-  return isNamed ? control.objectName() : button->text().remove(u'&');
-}
-
-/// What Tab meets from where the keyboard is, until it is back there or where `isEnd` says.
-QStringList WalkByTab(QWidget &start, const std::function<bool(const QWidget &)> &isEnd) {
-  constexpr int Enough = 100;
-  QStringList met{NameOf(start)};
-  for (int step = 0; step < Enough; ++step) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    const QWidget *now = QApplication::focusWidget();
-    if (now == nullptr || now == &start || isEnd(*now)) return met;
-    met.append(NameOf(*now));
-  }
-  ADD_FAILURE() << "Tab never ends";
-  return met;
-}
 
 /// What F6 meets from where the keyboard is until it is back there.
 QStringList WalkByF6(Qt::KeyboardModifiers modifiers) {
@@ -125,7 +104,8 @@ TEST_F(KeyboardTest, TabMeetsEveryButtonAndBoxOfTheMainWindowInTheOrderOfTheEye)
 
   QWidget &start = *Find<QWidget>(expected.constFirst().toLatin1().constData());
   start.setFocus(Qt::TabFocusReason);
-  QStringList met = WalkByTab(start, [&](const QWidget &now) { return page.isAncestorOf(&now); });
+  const QStringList met =
+      WalkByKey(Qt::Key_Tab, start, [&](const QWidget &now) { return page.isAncestorOf(&now); });
   EXPECT_EQ(met, expected) << met.join(u' ').toStdString();
 }
 
@@ -192,12 +172,54 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
       dialog.activateWindow();
       ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog)) << walk.item;
       ASSERT_NE(QApplication::focusWidget(), nullptr) << walk.item;
-      const QStringList met =
-          WalkByTab(*QApplication::focusWidget(), [](const QWidget &) { return false; });
-      EXPECT_EQ(met.join(u' ').toStdString(), walk.controls) << walk.item;
+      EXPECT_EQ(WalkBothWays(*QApplication::focusWidget()).toStdString(), walk.controls)
+          << walk.item;
       dialog.close();
     });
     Choose(walk.item);
+  }
+}
+
+TEST_F(KeyboardTest, NoTwoControlsInSightOfAWindowShareAnAltKey) {
+  values.DbConnection = database.CreateConnection();
+  values.DbConnection->Open({}, {}, {}, -1);
+  database.results[QStringLiteral("Select * from Project where Created = true")] = {};
+  frmMain &page = NewPage();
+  EXPECT_EQ(SharedAltKeys(window).toStdString(), "");
+  const char *const items[] = {"mnuAbout",  "mnuFindCommand",    "mnuSettings", "mnuDrives",
+                               "mnuTBLnew", "mnuISTimage",       "mnuISTlink",  "mnuBookmark",
+                               "mnuVideo",  "mnuView_ProjectMan"};
+  for (const char *item : items) {
+    dialogs.ExpectModal([item](QWidget &dialog) {
+      dialog.show();
+      EXPECT_EQ(SharedAltKeys(dialog).toStdString(), "") << item;
+      for (QTabWidget *book : dialog.findChildren<QTabWidget *>()) {
+        for (int index = 0; index < book->count(); ++index) {
+          book->setCurrentIndex(index);
+          EXPECT_EQ(SharedAltKeys(dialog).toStdString(), "")
+              << item << ", " << book->tabText(index).toStdString();
+        }
+      }
+      dialog.close();
+    });
+    Choose(item);
+  }
+  page.ChangeMode(3);
+  QTest::keyClick(window.Context().pages.CodeEditor(1)->Code().Widget(), Qt::Key_H,
+                  Qt::ControlModifier);
+  EXPECT_EQ(SharedAltKeys(window).toStdString(), "");
+}
+
+TEST_F(KeyboardTest, NoItemThatWasAddedToAMenuHasTheLetterOfAnother) {
+  for (const MenuRow &added : MenuTable()) {
+    const QKeySequence letter = QKeySequence::mnemonic(QString::fromUtf8(added.caption));
+    if (added.reach == Reach::Published || letter.isEmpty() || added.parent == nullptr) continue;
+    for (const MenuRow &row : MenuTable()) {
+      if (&row == &added || row.parent == nullptr || std::string_view(row.parent) != added.parent)
+        continue;
+      EXPECT_NE(QKeySequence::mnemonic(QString::fromUtf8(row.caption)), letter)
+          << added.parent << ": " << row.caption << ", " << added.caption;
+    }
   }
 }
 

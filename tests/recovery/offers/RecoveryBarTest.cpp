@@ -7,6 +7,7 @@
 #include "recovery/offers/RecoveryBar.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeJournals.h"
+#include "tests/support/KeyboardWalk.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -247,6 +248,7 @@ TEST_F(RecoveryKeys, TabGoesThroughEveryButtonOfEveryPage) {
   }
   Press(Qt::Key_G, Qt::AltModifier);
   EXPECT_EQ(Focus(), "Restore Untitled 3");
+  EXPECT_EQ(SharedAltKeys(window).toStdString(), "");
 }
 
 TEST_F(RecoveryKeys, ArrowsGoAlongTheRowAndFromPageToPage) {
