@@ -28,6 +28,8 @@ void DrawToolField(const QStyleOption *option, QPainter *painter) {
   } else if (enabled && (option->state & QStyle::State_MouseOver)) {
     FillRounded(painter, option->rect, HoverField(option->palette));
   }
+  // Who needs high contrast does not tell the fields apart.
+  if (down && enabled && IsHighContrast(option->palette)) DrawHairlineFrame(option, painter);
 }
 
 void DrawToolLabel(const QStyleOptionToolButton *button, QPainter *painter, const QStyle *style) {

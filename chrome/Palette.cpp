@@ -69,6 +69,28 @@ double Luminance(const QColor &color) {
          0.0722 * linear(color.blueF());
 }
 
+/// A desktop's high-contrast palette with the roles that its theme leaves to chance: what is
+/// switched off, hints and lines are seen on the background.
+QPalette WithVisibleParts(QPalette palette) {
+  const QColor window = palette.color(QPalette::Active, QPalette::Window);
+  const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+  const auto between = [&](qreal share) { return Mix(window, text, share); };
+  for (const auto role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+    palette.setColor(QPalette::Disabled, role, between(0.55));
+  }
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, between(0.3));
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, text);
+  palette.setColor(QPalette::PlaceholderText, between(0.75));
+  const bool isDark = ShadeOf(palette) == Shade::Dark;
+  palette.setColor(QPalette::Light, isDark ? between(0.7) : window);
+  palette.setColor(QPalette::Midlight, between(0.3));
+  palette.setColor(QPalette::Mid, between(0.6));
+  palette.setColor(QPalette::Dark, between(isDark ? 0.15 : 0.7));
+  palette.setColor(QPalette::Shadow, between(isDark ? 0 : 0.9));
+  return palette;
+}
+
 }  // namespace
 
 Shade ChosenShade() {
@@ -123,7 +145,7 @@ bool IsHighContrast(const QPalette &palette) {
 void StyleApplication(QApplication &application) {
   const QPalette desktops = QGuiApplication::palette();
   const bool keeps = !qEnvironmentVariableIsSet("VELOR_PALETTE") && IsHighContrast(desktops);
-  const QPalette palette = keeps ? desktops : PaletteFor(ChosenShade());
+  const QPalette palette = keeps ? WithVisibleParts(desktops) : PaletteFor(ChosenShade());
   QApplication::setStyle(new HouseStyle);
   QApplication::setPalette(palette);
   AnnounceComboBoxLabels();
@@ -137,7 +159,8 @@ QColor Hairline(const QPalette &palette) {
 }
 
 QColor BoxEdge(const QPalette &palette) {
-  return Mix(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.22);
+  return Mix(palette.color(QPalette::Window), palette.color(QPalette::WindowText),
+             IsHighContrast(palette) ? 0.75 : 0.22);
 }
 
 QColor QuietText(const QPalette &palette) {

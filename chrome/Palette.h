@@ -23,7 +23,8 @@ bool IsHighContrast(const QPalette &palette);
 
 /// Sets style, palette and icon of the application, and how its combo boxes report to assistive
 /// technology (AnnounceComboBoxLabels). Called once, before the first window. A desktop's
-/// high-contrast palette stays, unless $VELOR_PALETTE is set.
+/// high-contrast palette stays, unless $VELOR_PALETTE is set; what is switched off, hints and lines
+/// get colours that are seen on its background.
 void StyleApplication(QApplication &application);
 
 /// The thin line between neighbouring areas.

@@ -62,6 +62,32 @@ TEST(HighContrast, OfTheDesktopStaysWhenTheProgramIsDressed) {
   QApplication::setPalette(before);
 }
 
+TEST(HighContrast, OfTheDesktopShowsWhatIsSwitchedOffHintsAndEdges) {
+  const QPalette before = QApplication::palette();
+  for (const auto &[text, field] : {std::pair{Qt::white, Qt::black}, {Qt::black, Qt::white}}) {
+    // As themes make it that know a few colours only: the others are darker fields.
+    QPalette high(field, field);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      high.setColor(role, text);
+      high.setColor(QPalette::Disabled, role, field);
+    }
+    high.setColor(QPalette::Base, field);
+    QApplication::setPalette(high);
+    StyleApplication(*qApp);
+    const QPalette palette = QApplication::palette();
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      EXPECT_EQ(palette.color(role), QColor(text));
+      EXPECT_GE(Contrast(palette.color(QPalette::Disabled, role), field), 3);
+    }
+    EXPECT_GE(Contrast(QuietText(palette), field), HighLegibleContrast);
+    EXPECT_GE(Contrast(BoxEdge(palette), field), HighLegibleContrast);
+    EXPECT_GE(Contrast(Hairline(palette), field), 3);
+    EXPECT_GE(Contrast(QuietText(palette), Backdrop(palette)), HighLegibleContrast);
+  }
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setPalette(before);
+}
+
 TEST(Contrast, IsTwentyOneBetweenBlackAndWhite) {
   EXPECT_NEAR(Contrast(Qt::black, Qt::white), 21, 0.01);
   EXPECT_NEAR(Contrast(Qt::white, Qt::black), 21, 0.01);
