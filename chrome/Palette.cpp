@@ -82,6 +82,9 @@ QPalette WithVisibleParts(QPalette palette) {
   palette.setColor(QPalette::Disabled, QPalette::Highlight, between(0.3));
   palette.setColor(QPalette::Disabled, QPalette::HighlightedText, text);
   palette.setColor(QPalette::PlaceholderText, between(0.75));
+  // Buttons and boxes are seen by it.
+  if (Contrast(palette.color(QPalette::Button), window) < 1.3)
+    palette.setColor(QPalette::Button, between(0.25));
   const bool isDark = ShadeOf(palette) == Shade::Dark;
   palette.setColor(QPalette::Light, isDark ? between(0.7) : window);
   palette.setColor(QPalette::Midlight, between(0.3));

@@ -81,6 +81,8 @@ TEST(HighContrast, OfTheDesktopShowsWhatIsSwitchedOffHintsAndEdges) {
     }
     EXPECT_GE(Contrast(QuietText(palette), field), HighLegibleContrast);
     EXPECT_GE(Contrast(BoxEdge(palette), field), HighLegibleContrast);
+    EXPECT_GE(Contrast(palette.color(QPalette::Button), field), 1.3);
+    EXPECT_GE(Contrast(text, palette.color(QPalette::Button)), HighLegibleContrast);
     EXPECT_GE(Contrast(Hairline(palette), field), 3);
     EXPECT_GE(Contrast(QuietText(palette), Backdrop(palette)), HighLegibleContrast);
   }

@@ -311,7 +311,8 @@ def names(photos):
         with open(pages[-1], "w", encoding="utf-8") as page:
             page.write(NAMES % font)
     for path in pages:
-        subprocess.run([photos.program.executable, path], env=program.environment, check=True, timeout=30)
+        subprocess.run([os.path.join(os.path.dirname(program.executable), "velor-open"), path],
+                       env=program.environment, check=True, timeout=30)
         program.wait(os.path.basename(path), "page tab")
         program.key("ctrl+End")
         photos.away()
