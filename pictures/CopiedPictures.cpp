@@ -7,6 +7,7 @@
 
 #include <QCryptographicHash>
 
+#include <algorithm>
 #include <utility>
 
 namespace velor {
@@ -44,6 +45,15 @@ void CopiedPictures::Add(const SitePicture &picture) {
                        .digest = DigestOf(files_.ReadAll(picture.path))});
 }
 
+bool CopiedPictures::AwaitsAny() const {
+  return std::any_of(pictures_.begin(), pictures_.end(),
+                     [](const Picture &picture) { return !picture.wasSeen; });
+}
+
+void CopiedPictures::ExpectAll() {
+  for (Picture &picture : pictures_) picture.wasSeen = true;
+}
+
 void CopiedPictures::Follow(const QString &html) {
   for (Picture &picture : pictures_) {
     const bool isUsed = HasAddress(html, picture.address);
@@ -66,6 +76,12 @@ void CopiedPictures::MarkSaved(const QString &html) {
 void CopiedPictures::RemoveUnsaved() {
   for (Picture &picture : pictures_) Remove(picture);
   pictures_.clear();
+}
+
+void CopiedPictures::RemoveUnseen() {
+  for (Picture &picture : pictures_)
+    if (!picture.wasSeen) Remove(picture);
+  std::erase_if(pictures_, [](const Picture &picture) { return !picture.wasSeen; });
 }
 
 void CopiedPictures::Remove(Picture &picture) {

@@ -29,15 +29,19 @@ class CopiedPictures {
   /// Follows this file from the first text on that holds its address. Does nothing for one that is
   /// not new.
   void Add(const SitePicture &picture);
+  /// Whether there is one whose address no text had yet.
+  bool AwaitsAny() const;
+  /// Counts every address as seen: the next text tells which pictures there are.
+  void ExpectAll();
   /// The page's text is this now.
   void Follow(const QString &html);
   /// The page was saved with this text: the pictures in it belong to the site from now on.
   void MarkSaved(const QString &html);
   /// The page closes without being saved.
   void RemoveUnsaved();
+  /// Removes the files that never came into the page's text.
+  void RemoveUnseen();
   bool IsEmpty() const { return pictures_.empty(); }
-  /// Another name for files that were moved: those of the page from now on.
-  void Forget() { pictures_.clear(); }
 
  private:
   struct Picture {

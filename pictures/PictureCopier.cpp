@@ -31,21 +31,20 @@ QString SameContent(const Files &files, const QString &folder, const PreparedPic
   return {};
 }
 
-/// The size of a picture file in pixels, upright; empty where no plugin reads it.
-QSize SizeOf(const QString &path) {
+}  // namespace
+
+QSize SizeOfPicture(const QString &path) {
   QImageReader reader(ToNative(path));
   const bool isSideways = reader.transformation() & QImageIOHandler::TransformationRotate90;
   return isSideways ? reader.size().transposed() : reader.size();
 }
-
-}  // namespace
 
 PictureCopier::PictureCopier(Files &files, PageSite site, QString html, PictureChoices choices)
     : files_(files), site_(std::move(site)), html_(std::move(html)), choices_(choices) {}
 
 SitePicture PictureCopier::TakeFile(const QString &path) {
   if (LiesInSite(site_, path))
-    return {.path = path, .address = PictureAddress(site_.page, path), .size = SizeOf(path)};
+    return {.path = path, .address = PictureAddress(site_.page, path), .size = SizeOfPicture(path)};
   const QString name = NameOf(path);
   const QString suffix = name.sliced(name.lastIndexOf(u'.') + 1);
   const PreparedPicture picture = PreparePicture(files_.ReadAll(path), suffix, choices_);

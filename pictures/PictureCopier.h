@@ -19,6 +19,9 @@ struct SitePicture {
   bool isNew = false;
 };
 
+/// The size of a picture file in pixels, upright; empty where no plugin reads it.
+QSize SizeOfPicture(const QString &path);
+
 /// Puts pictures into the site of a page, in the folder where its pictures lie (PictureFolder). No
 /// file is ever written over and no link is followed: a name that is taken gets a number. The same
 /// content twice is one file. Raises RuntimeError where a picture cannot be read or written; no new

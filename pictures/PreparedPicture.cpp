@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/PreparedPicture.h"
 
+#include "pictures/CodedPicture.h"
 #include "pictures/PictureData.h"
-#include "platform/RuntimeError.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -17,37 +17,8 @@ namespace velor {
 
 namespace {
 
-/// Of pictures that are coded in a lossy format.
-constexpr int PhotoQuality = 90;
 /// Of a photo that is turned, which was coded once already.
 constexpr int TurnedQuality = 95;
-/// Megabytes that a decoded picture may take: 100 megapixels and some.
-constexpr int LargestDecode = 600;
-
-/// Raises the toolkit's limit for decoded pictures within a scope.
-class LargePictures {
- public:
-  LargePictures() { QImageReader::setAllocationLimit(std::max(before_, LargestDecode)); }
-  ~LargePictures() { QImageReader::setAllocationLimit(before_); }
-  LargePictures(const LargePictures &) = delete;
-  LargePictures &operator=(const LargePictures &) = delete;
-
- private:
-  const int before_ = QImageReader::allocationLimit();
-};
-
-QByteArray Coded(const QImage &image, const char *format, int quality) {
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  QImageWriter writer(&buffer, format);
-  writer.setQuality(quality);
-  if (!writer.write(image)) {
-    throw RuntimeError(ErrorNumber::InvalidProcedureCall, QStringLiteral("PreparePicture"),
-                       QStringLiteral("the picture cannot be coded: %1").arg(writer.errorString()));
-  }
-  return bytes;
-}
 
 /// Formats that every browser shows, by the names of the plugins, with the ending of their files.
 QString BrowserEnding(const QByteArray &format) {
@@ -64,19 +35,8 @@ bool HasScripts(const QByteArray &svg) {
   return QString::fromUtf8(svg).contains(script);
 }
 
-QImage ReadUpright(QImageReader &reader, const QByteArray &file) {
-  const LargePictures raised;
-  reader.setAutoTransform(true);
-  QImage image = reader.read();
-  if (image.isNull()) {
-    throw RuntimeError(ErrorNumber::InvalidProcedureCall, QStringLiteral("PreparePicture"),
-                       file.isEmpty() ? QStringLiteral("the file is empty") : reader.errorString());
-  }
-  return image;
-}
-
-PreparedPicture TurnedPhoto(QImageReader &reader, const QByteArray &file) {
-  const QImage image = ReadUpright(reader, file);
+PreparedPicture TurnedPhoto(const QByteArray &file) {
+  const QImage image = UprightPicture(file);
   return {WithoutPictureData(Coded(image, "jpeg", TurnedQuality)),
           QStringLiteral("jpg"),
           image.size(),
@@ -128,7 +88,7 @@ PreparedPicture PreparePicture(const QByteArray &file, const QString &suffix,
   // Browsers read some kinds that no plugin here reads.
   if (format.isEmpty() && suffix.toLower() == u"avif") ending = QStringLiteral("avif");
   if (ending.isEmpty()) {
-    const QImage image = ReadUpright(reader, file);
+    const QImage image = UprightPicture(file);
     PreparedPicture picture = PreparePicture(image, choices);
     picture.notice = QStringLiteral("It was a %1 file, which browsers do not show, and is %2 now.")
                          .arg(QString::fromLatin1(format).toUpper(), picture.ending.toUpper());
@@ -141,7 +101,7 @@ PreparedPicture PreparePicture(const QByteArray &file, const QString &suffix,
   if (format == "svg" && HasScripts(file))
     picture.notice = QStringLiteral("It holds scripts, which browsers do not run in a picture.");
   if (choices.details == PictureDetails::Keep) return picture;
-  if (format == "jpeg" && isTurned) return TurnedPhoto(reader, file);
+  if (format == "jpeg" && isTurned) return TurnedPhoto(file);
   picture.bytes = WithoutPictureData(file);
   return picture;
 }

@@ -46,6 +46,14 @@ TEST_F(CopiedPicturesTest, UndoTakesTheFileAwayAndRedoBringsItBack) {
   EXPECT_TRUE(IsThere());
 }
 
+TEST_F(CopiedPicturesTest, APictureThatWasUndoneBeforeItWasSeenGoesOnceItIsExpected) {
+  EXPECT_TRUE(pictures.AwaitsAny());
+  pictures.ExpectAll();
+  EXPECT_FALSE(pictures.AwaitsAny());
+  pictures.Follow(Without);
+  EXPECT_FALSE(files.Content(Path));
+}
+
 TEST_F(CopiedPicturesTest, AStyleAndAListNameAPictureToo) {
   pictures.Follow(With);
   pictures.Follow(QStringLiteral("<p style=\"background: url(rose.png)\">"));
