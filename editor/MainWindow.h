@@ -124,6 +124,8 @@ class PageRequests {
   /// Files were dropped, paths in logic form: pages are opened, pictures go into `page` at its
   /// caret where there is one.
   virtual void OpenDroppedFiles(const QStringList &paths, frmMain *page) = 0;
+  /// The selected picture of `page` was double clicked.
+  virtual void ShowPictureProperties(frmMain & /*page*/) {}
   /// Clears the element tool box's record of the element under the caret.
   virtual void ResetElementInspection() = 0;
 };

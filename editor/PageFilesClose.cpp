@@ -2,6 +2,7 @@
 // modWorkFlow: pages are closed.
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
+#include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
@@ -74,6 +75,7 @@ CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window) {
                                                                              : CloseDecision::Keep;
     case MessageAnswer::No:
       window.Journal().Discard();
+      window.Pictures().RemoveUnsaved();
       return CloseDecision::Close;
     default:
       return CloseDecision::Keep;

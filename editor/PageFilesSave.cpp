@@ -4,6 +4,7 @@
 #include "editor/OpenPages.h"
 #include "editor/OutsideChanges.h"
 #include "editor/PageLinks.h"
+#include "editor/PagePictures.h"
 #include "editor/PageRecord.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
@@ -128,6 +129,7 @@ std::optional<RuntimeError> SavePlain(EditorContext &context, frmMain &window,
     window.Journal().MarkSaveFailed();
   } else {
     window.Journal().MarkSaved();
+    window.Pictures().MarkSaved();
   }
   return failure;
 }
@@ -184,6 +186,7 @@ LinkChanges MakeFullLinksRelative(EditorContext &context, frmMain &window, const
   const auto &addresses = context.pages.FullAddresses(window.Number());
   if (addresses.empty()) return {};
   const QString html = window.DHTML1().TextToSave();
+  window.Pictures().MoveInto(to, html);
   const std::vector<BrokenLink> links = FullLinks(html, to, addresses);
   if (links.empty()) return {};
   window.DHTML1().LoadText(WithAdapted(html, links), to);
@@ -201,6 +204,7 @@ void WriteToNewFolder(EditorContext &context, frmMain &window, const QString &fr
   try {
     WriteFile(window, to);
   } catch (const RuntimeError &) {
+    window.Pictures().MoveBack();
     // The page stays in its folder: its links are set back, and resolve against it again.
     if (changes.before) {
       window.DHTML1().ExecCommand(EditingCommand::Undo);
@@ -224,6 +228,7 @@ void SaveUnderNewName(frmMain &window, FileDialog &dialog, PageRecord &record) {
   window.DHTML1().LoadDocument(file);
   window.WasWrittenAnew = false;
   window.Journal().MarkSaved();
+  window.Pictures().MarkSaved();
   // The page may have been read-only before.
   window.CheckAcc();
 }

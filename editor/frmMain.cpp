@@ -10,6 +10,7 @@
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/OutsideChanges.h"
+#include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/modWorkFlow.h"
@@ -107,6 +108,8 @@ frmMain::frmMain(EditorContext &context, int number)
   layout->addWidget(findBar_);
   outside_ = new OutsideChanges(context_, *this);
   layout->addWidget(outside_);
+  pictures_ = std::make_unique<PagePictures>(context_, *this);
+  layout->addWidget(&pictures_->Bar());
   setFocusProxy(component_->Widget());
 
   component_->SetShowDetails(TruthOption(context_, ShowDetails));
@@ -267,6 +270,7 @@ void frmMain::MemoryChanged() {
   journal_.DocumentChanged();
   outside_->DocumentChanged();
   if (View() == FrontView::Design) findBar_->TextChanged();
+  pictures_->Follow();
   ShowTab();
   const bool isReadOnly = context_.pages.Record(number_).ReadOnly != False16;
   if (!isReadOnly || isReadOnlyTold_ || !journal_.HasChanges()) return;
@@ -290,6 +294,14 @@ void frmMain::ComponentReported(const QString &message) {
 
 void frmMain::PartsShown(const QStringList &paths) {
   outside_->WatchParts(paths);
+}
+
+bool frmMain::PicturePasted(const QImage &image) {
+  return pictures_->PutIn(image);
+}
+
+void frmMain::PictureOpened() {
+  context_.mainWindow.requests.ShowPictureProperties(*this);
 }
 
 void frmMain::FilesDropped(const QStringList &paths) {

@@ -25,6 +25,7 @@ namespace velor {
 
 class FindBar;
 class OutsideChanges;
+class PagePictures;
 class ToolBarAction;
 
 /// The document window: one page, in design view (`DHTML1`) or source view (`Code1`) lying in the
@@ -53,6 +54,8 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   EditorContext &Context() { return context_; }
   PageJournal &Journal() { return journal_; }
   OutsideChanges &Outside() { return *outside_; }
+  /// Whoever puts a picture into the page asks this for its address.
+  PagePictures &Pictures() { return *pictures_; }
 
   /// 1 design, 2 view HTML, 3 edit HTML, 4 preview; anything else does nothing.
   void ChangeMode(std::int32_t mode);
@@ -117,6 +120,8 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void ComponentReported(const QString &message) override;
   void PartsShown(const QStringList &paths) override;
   void FilesDropped(const QStringList &paths) override;
+  bool PicturePasted(const QImage &image) override;
+  void PictureOpened() override;
   void LinkFollowed(const QString &address) override { FollowLink(address); }
 
   void BuildToolBar();
@@ -153,6 +158,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   QStackedLayout *views_ = nullptr;
   FindBar *findBar_ = nullptr;
   OutsideChanges *outside_ = nullptr;
+  std::unique_ptr<PagePictures> pictures_;
 };
 
 }  // namespace velor

@@ -55,6 +55,10 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     Q_EMIT LinkWanted(address);
   }
+  void pictureOpened() {
+    const EngineCallback callback(guard_);
+    Q_EMIT PictureOpened();
+  }
   void earlierWanted() {
     const EngineCallback callback(guard_);
     Q_EMIT EarlierWanted();
@@ -75,6 +79,7 @@ class BridgeHost : public QObject {
   void Pasting(int percent);
   void PasteStopped();
   void LinkWanted(const QString &address);
+  void PictureOpened();
   void EarlierWanted();
   void LaterWanted();
 

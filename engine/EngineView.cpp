@@ -72,6 +72,7 @@ void EngineView::ConnectHost() {
   connect(&host_, &BridgeHost::Pasting, this, &EngineView::Pasting);
   connect(&host_, &BridgeHost::PasteStopped, this, whenReady(&EngineView::PasteStopped));
   connect(&host_, &BridgeHost::LinkWanted, this, whenReady(&EngineView::LinkWanted));
+  connect(&host_, &BridgeHost::PictureOpened, this, whenReady(&EngineView::PictureOpened));
   connect(&host_, &BridgeHost::EarlierWanted, this, whenReady(&EngineView::EarlierWanted));
   connect(&host_, &BridgeHost::LaterWanted, this, whenReady(&EngineView::LaterWanted));
   connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);

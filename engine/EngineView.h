@@ -94,6 +94,8 @@ class EngineView : public QObject, private PageWays {
   void PasteStopped();
   /// A link is to be followed; its address as written in the page.
   void LinkWanted(const QString &address);
+  /// A picture was clicked twice.
+  void PictureOpened();
   /// Undo was asked for at the beginning of the page's own history; redo at its end.
   void EarlierWanted();
   void LaterWanted();

@@ -22,6 +22,7 @@ enum class Notice {
   Memory,
   Parts,
   Picture,
+  PictureOpened,
   Link,
   Pointer,
   Menu,

@@ -2,11 +2,9 @@
 #include "engine/PastedPicture.h"
 
 #include <QBuffer>
-#include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QImage>
 
 namespace velor {
@@ -38,9 +36,7 @@ QString WriteBeside(const QString &pagePath, const QByteArray &bytes) {
 
 }  // namespace
 
-QString PastedPicture(const QString &nativePagePath) {
-  const QImage image = QGuiApplication::clipboard()->image();
-  if (image.isNull()) return {};
+QString PastedPicture(const QImage &image, const QString &nativePagePath) {
   const QByteArray bytes = PngOf(image);
   QString address = WriteBeside(nativePagePath, bytes);
   if (address.isEmpty())

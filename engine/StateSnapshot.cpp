@@ -40,6 +40,10 @@ HtmlElement ElementOf(const QJsonObject &object) {
   return element;
 }
 
+QSize SizeOf(const QJsonValue &pair) {
+  return {pair[0].toInt(), pair[1].toInt()};
+}
+
 struct ValueField {
   EditingCommand command;
   QString StateSnapshot::*field;
@@ -75,6 +79,9 @@ std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
   state.selection = SelectionOfName(object[u"selection"].toString());
   state.element = ElementOf(object[u"element"].toObject());
   state.link = ElementOf(object[u"link"].toObject());
+  const QJsonObject picture = object[u"picture"].toObject();
+  state.picturePixels = SizeOf(picture[u"pixels"]);
+  state.pictureShown = SizeOf(picture[u"shown"]);
   return state;
 }
 

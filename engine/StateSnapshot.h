@@ -28,6 +28,8 @@ struct StateSnapshot {
   SelectionType selection = SelectionType::None;
   HtmlElement element;
   HtmlElement link;
+  QSize picturePixels;  ///< of a selected picture's file
+  QSize pictureShown;   ///< of a selected picture, in CSS pixels; empty for none
 
   /// Nothing for a text that is no JSON of a state.
   static std::optional<StateSnapshot> FromJson(const QString &json);

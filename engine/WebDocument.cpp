@@ -82,6 +82,24 @@ void WebDocument::ChangeObject(const HtmlAttributes &attributes, ParagraphSide s
       QStringLiteral("velor.changeObject(%1,%2)").arg(InScript(attributes), InScript(side)));
 }
 
+void WebDocument::ChangePicture(const QString &address, const HtmlAttributes &attributes) {
+  QVariantList pairs;
+  for (const auto &[name, value] : attributes)
+    pairs << QVariant(QVariantList{name, value.isNull() ? QVariant() : QVariant(value)});
+  document_.Run(
+      QStringLiteral("velor.changePicture(%1,%2)").arg(ScriptValue(address), ScriptValue(pairs)));
+}
+
+void WebDocument::RemovePicture(const QString &address) {
+  document_.Run(QStringLiteral("velor.removePicture(%1)").arg(ScriptValue(address)));
+}
+
+ShownPicture WebDocument::SelectedPicture() const {
+  const StateSnapshot &state = document_.Snapshot();
+  if (state.pictureShown.isEmpty()) return {};
+  return {state.element.Attribute(QStringLiteral("src")), state.picturePixels, state.pictureShown};
+}
+
 HtmlElement WebDocument::ControlElement() const {
   return Type() == SelectionType::Control ? document_.Snapshot().element : HtmlElement{};
 }

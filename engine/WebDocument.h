@@ -20,6 +20,9 @@ class WebDocument : public HtmlDocument, private DocumentSelection {
   void SetLink(const HtmlAttributes &attributes, const QString &text) override;
   void SetBookmark(const QString &name) override;
   void ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) override;
+  void ChangePicture(const QString &address, const HtmlAttributes &attributes) override;
+  void RemovePicture(const QString &address) override;
+  ShownPicture SelectedPicture() const override;
 
  private:
   SelectionType Type() const override;

@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QImage>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -104,6 +105,10 @@ void WebEditor::ConnectView(EngineView &view) {
     notices_.PostToListener(
         Notice::Link, [address](EditingListener &listener) { listener.LinkFollowed(address); });
   });
+  QObject::connect(&view, &EngineView::PictureOpened, [this] {
+    notices_.PostToListener(Notice::PictureOpened,
+                            [](EditingListener &listener) { listener.PictureOpened(); });
+  });
   QObject::connect(&view, &EngineView::PartAsked,
                    [this](const QString &name, const QString &file) { PartAsked(name, file); });
   QObject::connect(&view, &EngineView::EarlierWanted, [=, this] {
@@ -143,7 +148,12 @@ void WebEditor::StateArrived(const StateSnapshot &state) {
 void WebEditor::PastePicture() {
   const QStringList files = LocalFiles(QGuiApplication::clipboard()->mimeData());
   if (!files.isEmpty()) return ReportFiles(files);
-  const QString markup = PastedPicture(document_.NativePath());
+  const QImage image = QGuiApplication::clipboard()->image();
+  if (image.isNull()) return;
+  bool isTaken = false;
+  notices_.NotifyNow([&](EditingListener &listener) { isTaken = listener.PicturePasted(image); });
+  if (isTaken) return;
+  const QString markup = PastedPicture(image, document_.NativePath());
   if (!markup.isEmpty())
     document_.Run(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptValue(markup)));
 }

@@ -224,7 +224,12 @@ void frmInsertElement::ChangePage() {
   QString html;
   if (ElementMode == u"image") {
     if (typedPicture_.isActive()) ShowTypedPicture();
-    const ImageValues values = TrueValues();
+    ImageValues values = TrueValues();
+    const bool isOther = page_.picture.IsNull() || values.source != shown_.source;
+    if (isOther && page_.pictureAddress) {
+      const QString own = page_.pictureAddress(values.source);
+      if (!own.isEmpty()) values.source = own;
+    }
     if (page_.picture.IsNull()) {
       html = PictureHtml(values, page_.dialect);
     } else {

@@ -66,6 +66,8 @@ struct EditedPage {
   /// The names of places in the page that an address leads to; the empty address is the page
   /// itself.
   std::function<QStringList(const QString &address)> bookmarks = {};
+  /// The address of a picture once its file is part of the site; empty where it stays as it is.
+  std::function<QString(const QString &address)> pictureAddress = {};
 };
 
 }  // namespace velor

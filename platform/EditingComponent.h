@@ -11,6 +11,7 @@
 #include <QStringList>
 #include <QVariant>
 
+class QImage;
 class QWidget;
 
 namespace velor {
@@ -55,6 +56,11 @@ class EditingListener {
   /// Files were dropped on the page or pasted, paths in logic form. The component has put the caret
   /// where they were dropped and does nothing else with them.
   virtual void FilesDropped(const QStringList &) {}
+  /// A picture that is in no file was pasted. The listener puts it into the page and answers true;
+  /// otherwise the component does.
+  virtual bool PicturePasted(const QImage & /*image*/) { return false; }
+  /// A picture was double clicked, and is selected.
+  virtual void PictureOpened() {}
 };
 
 /// The surface on which a page is edited as it looks. Page scripts never run in it, nothing

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QSize>
 #include <QString>
 
 #include <memory>
@@ -49,6 +50,13 @@ class DocumentSelection {
   virtual HtmlElement ControlElement() const = 0;
 };
 
+/// A picture as the page shows it.
+struct ShownPicture {
+  QString address;  ///< as written in the page
+  QSize pixels;     ///< of the file; empty where it is not shown
+  QSize shown;      ///< in CSS pixels
+};
+
 /// The document of an editing component.
 class HtmlDocument {
  public:
@@ -68,6 +76,14 @@ class HtmlDocument {
   enum class ParagraphSide { AsItIs, Left, Center };
   /// Changes attributes of the selected object, and aligns its paragraph.
   virtual void ChangeObject(const HtmlAttributes & /*attributes*/, ParagraphSide /*side*/) {}
+  /// Changes attributes of the picture with this address that was put in last, wherever the
+  /// selection is. Here an empty value stays as such; a null text takes the attribute off.
+  virtual void ChangePicture(const QString & /*address*/, const HtmlAttributes & /*attributes*/) {}
+  /// Takes that picture out.
+  virtual void RemovePicture(const QString & /*address*/) {}
+
+  /// The picture of a Control selection; without an address where it is none.
+  virtual ShownPicture SelectedPicture() const { return {}; }
 };
 
 }  // namespace velor

@@ -3,6 +3,7 @@
 
 #include "editor/Bookmarks.h"
 #include "editor/MainWindow.h"
+#include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "insert/ElementHtml.h"
@@ -43,6 +44,10 @@ EditedPage WhatIsEdited(frmMain &page, const QString &path) {
     if (alive.isNull()) return QStringList();
     if (address.isEmpty()) return BookmarksIn(alive->DHTML1().DocumentHTML());
     return BookmarksInFile(FileOfLink(path, address), alive->Context().platform.files);
+  };
+  edited.pictureAddress = [alive = QPointer<frmMain>(&page), path](const QString &address) {
+    const QString file = alive.isNull() ? QString() : FileOfLink(path, address);
+    return file.isEmpty() ? QString() : alive->Pictures().TakeChosenFile(file).address;
   };
   return edited;
 }
@@ -95,11 +100,19 @@ void DialogInsertCommands::Table(frmMain &page) {
 }
 
 void DialogInsertCommands::PictureFile(frmMain &page, const QString &path) {
-  const QString pagePath = PathForLinks(page, additions_);
-  const QString link = LinkToFile(pagePath, path);
-  if (pagePath.isEmpty()) NoteFullAddress(page, link, path);
   HtmlElement picture = CreateScratchElement(QStringLiteral("IMG"));
-  picture.attributes.emplace_back(QStringLiteral("src"), link);
+  if (additions_ == Additions::On) {
+    const PagePictures::InPage taken = page.Pictures().TakeFile(path);
+    picture.attributes.emplace_back(QStringLiteral("src"), taken.address);
+    if (!taken.size.isEmpty()) {
+      picture.attributes.emplace_back(QStringLiteral("width"), QString::number(taken.size.width()));
+      picture.attributes.emplace_back(QStringLiteral("height"),
+                                      QString::number(taken.size.height()));
+    }
+  } else {
+    picture.attributes.emplace_back(QStringLiteral("src"),
+                                    LinkToFile(PathForLinks(page, additions_), path));
+  }
   page.DHTML1().Document().Selection().CreateRange()->PasteHTML(OuterHTML(picture));
 }
 

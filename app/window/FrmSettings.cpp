@@ -29,18 +29,29 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
   setWindowTitle(QStringLiteral("Settings"));
   setModal(true);
   QVBoxLayout *window = MakePage(this);
+  // In two columns, so that the window fits on a small screen.
+  auto *columns = new QHBoxLayout;
+  auto *left = new QVBoxLayout;
+  auto *right = new QVBoxLayout;
+  for (QVBoxLayout *column : {left, right}) columns->addLayout(column);
+  window->addLayout(columns);
 
-  QFormLayout *pages = AddFrame(window, QStringLiteral("Pages that are opened from now on"));
+  QFormLayout *pages = AddFrame(left, QStringLiteral("Pages that are opened from now on"));
   AddTruth(pages, PreferenceOf("ShowDetails"), QStringLiteral("Show &details"));
   AddTruth(pages, PreferenceOf("SnapToGrid"), QStringLiteral("&Snap to grid"));
   AddTruth(pages, PreferenceOf("showtoolbox"),
            QStringLiteral("&Forget the inspected element when another page comes to the front"));
-  QFormLayout *source = AddFrame(window, QStringLiteral("Source"));
+  QFormLayout *source = AddFrame(left, QStringLiteral("Source"));
   AddTruth(source, PreferenceOf("WrapSource"), QStringLiteral("&Wrap long lines"));
-  QFormLayout *menus = AddFrame(window, QStringLiteral("Menus"));
+  QFormLayout *images = AddFrame(left, QStringLiteral("Pictures from outside the site"));
+  AddTruth(images, PreferenceOf("CopyPictures"), QStringLiteral("&Copy them into the site"));
+  AddTruth(images, PreferenceOf("KeepPictureData"),
+           QStringLiteral("Keep place, &time and camera in copies"));
+  AddTruth(images, PreferenceOf("PhotosAsWebP"), QStringLiteral("Write pasted photos as We&bP"));
+  QFormLayout *menus = AddFrame(right, QStringLiteral("Menus"));
   AddMenuStyle(menus);
   for (const ColorSetting &setting : ColorSettings) AddColor(menus, setting);
-  QFormLayout *program = AddFrame(window, QStringLiteral("From the next start on"));
+  QFormLayout *program = AddFrame(right, QStringLiteral("From the next start on"));
   AddTruth(program, PreferenceOf("WholeTemplateSigns"),
            QStringLiteral("&Keep template signs whole"));
   QCheckBox *publishedOnly =
@@ -48,6 +59,8 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
                QStringLiteral("&Published behaviour only, without the menu Tools"));
   publishedOnly->setToolTip(QStringLiteral("PublishedOnly=False in %1 brings the menu back.")
                                 .arg(Settings::OptionsPlace(registry)));
+
+  for (QVBoxLayout *column : {left, right}) column->addStretch();
 
   refusal_ = AddRefusal(window, {background_});
   if (!faults_.isEmpty()) {

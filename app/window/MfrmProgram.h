@@ -85,6 +85,7 @@ class MfrmProgram final : public QMainWindow,
   // PageRequests
   void PopUpContextMenu(QPoint screenPosition) override;
   void OpenDroppedFiles(const QStringList &paths, frmMain *page) override;
+  void ShowPictureProperties(frmMain &page) override;
   void ResetElementInspection() override;
 
   // CommandHost

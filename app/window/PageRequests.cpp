@@ -21,6 +21,10 @@ void MfrmProgram::OpenDroppedFiles(const QStringList &paths, frmMain *page) {
   router_.OpenDroppedFiles(paths, page);
 }
 
+void MfrmProgram::ShowPictureProperties(frmMain &) {
+  if (additions_ == Additions::On) router_.Run({CommandId::InsertImage});
+}
+
 void MfrmProgram::ResetElementInspection() {
   inspectedElement_.clear();
 }

@@ -5,6 +5,7 @@
 #include "app/window/PageArea.h"
 #include "editor/FindBar.h"
 #include "editor/OutsideChanges.h"
+#include "editor/PictureBar.h"
 #include "recovery/offers/RecoveryBar.h"
 
 #include <QApplication>
@@ -21,6 +22,7 @@ bool IsBar(const QObject *widget) {
          qobject_cast<const FormattingBar *>(widget) != nullptr ||
          qobject_cast<const RecoveryBar *>(widget) != nullptr ||
          qobject_cast<const OutsideChanges *>(widget) != nullptr ||
+         qobject_cast<const PictureBar *>(widget) != nullptr ||
          qobject_cast<const FindBar *>(widget) != nullptr;
 }
 

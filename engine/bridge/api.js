@@ -7,6 +7,7 @@ import { pasteAs } from './clipboard/clipboard.js';
 import { isPasting } from './clipboard/longPaste.js';
 import { pasteHTML } from './clipboard/paste.js';
 import { endFind, find, replaceAll, replaceFound, selectedLine } from './find/find.js';
+import { changePicture, removePicture } from './clipboard/pictures.js';
 import { setDetails } from './objects/details.js';
 import { setSnap } from './objects/grid.js';
 import { showAnew } from './objects/parts.js';
@@ -40,6 +41,8 @@ globalThis.velor = {
   setLink: unlessPasting(setLink),
   setBookmark: unlessPasting(setBookmark),
   changeObject: unlessPasting(changeObject),
+  changePicture: unlessPasting(changePicture),
+  removePicture: unlessPasting(removePicture),
   caretAt: setCaretAtPixel,
   serialize,
   replaceDocument,

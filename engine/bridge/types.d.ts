@@ -260,6 +260,7 @@ interface State {
   selection: 'None' | 'Text' | 'Control';
   element: ToldElement;
   link: ToldElement;
+  picture: { pixels: [number, number], shown: [number, number] } | null;
 }
 
 /** A line of the page's text; see find/pageText.js. */
@@ -297,6 +298,7 @@ interface Host {
   pasting(percent: number): void;
   pasteStopped(): void;
   linkWanted(address: string): void;
+  pictureOpened(): void;
   earlierWanted(): void;
   laterWanted(): void;
 }

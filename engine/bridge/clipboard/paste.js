@@ -7,6 +7,7 @@ import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
 import { dropHolder } from '../blocks/typing.js';
 import { joinToNeighbours } from '../formats/merging.js';
 import { closed, joinsFor } from './openEnds.js';
+import { noteArrival } from './pictures.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
@@ -394,6 +395,7 @@ export const pasteHTML = (html) => history.step('pasteHTML', () => {
   /** @type {any[]} */
   const [only, ...others] = [...fragment.childNodes]
     .filter((node) => dom.isShown(node) && !dom.isBlank(node));
+  noteArrival(fragment);
   put(fragment);
   if (only?.tagName === 'TABLE' && !others.length) enterTable(only);
 });

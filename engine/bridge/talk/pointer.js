@@ -37,9 +37,15 @@ function clicked({ ctrlKey, button, target }) {
   if (link) host()?.linkWanted(link.getAttribute('href'));
 }
 
+/** @param {MouseEvent} event */
+function clickedTwice({ button, target }) {
+  if (button === 0 && target instanceof HTMLImageElement) host()?.pictureOpened();
+}
+
 /** Begins to listen on a document that was loaded. */
 export const listenToPointer = () => {
   document.addEventListener('mousemove', moved, true);
   document.addEventListener('mousedown', pressed, true);
   document.addEventListener('click', clicked, true);
+  document.addEventListener('dblclick', clickedTwice, true);
 };

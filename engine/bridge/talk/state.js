@@ -28,6 +28,14 @@ function kind({ range, object }) {
   return !range || range.collapsed ? 'None' : 'Text';
 }
 
+// A selected picture: what its file has and what the page shows of it, in pixels.
+/** @param {AnyNode} object */
+function pictureTold(object) {
+  if (object?.tagName !== 'IMG') return null;
+  const { naturalWidth, naturalHeight, width, height } = object;
+  return { pixels: [naturalWidth, naturalHeight], shown: [width, height] };
+}
+
 /**
  * The state of the selection now; push.js adds the rest of it.
  * @returns {Omit<State, 'version' | 'dirty' | 'generation'>}
@@ -39,5 +47,6 @@ export const state = () => {
   for (const number of table.keys()) commands[number] = statusOf(number, view);
   const read = Object.entries(values).map(([name, number]) => [name, queryValue(number, view)]);
   return { commands, ...Object.fromEntries(read), selection: kind(view),
-    element: told(selection.element()), link: told(linkOf(view)) };
+    element: told(selection.element()), link: told(linkOf(view)),
+    picture: pictureTold(view.object) };
 };

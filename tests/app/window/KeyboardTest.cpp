@@ -149,7 +149,8 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
       {"mnuAbout", "Close lblMail_To"},
       {"mnuFindCommand", "txtWords lstCommands"},
       {"mnuSettings",
-       "ShowDetails SnapToGrid showtoolbox WrapSource MenuStyle mnuFore mnuBorder mnuHighlight "
+       "ShowDetails SnapToGrid showtoolbox WrapSource CopyPictures KeepPictureData PhotosAsWebP "
+       "MenuStyle mnuFore mnuBorder mnuHighlight "
        "mnuHighFore WholeTemplateSigns PublishedOnly cmdOK cmdCancel"},
       {"mnuDrives", "lstDrives cobLetter cmdAdd OK Cancel"},
       {"mnuTBLnew",

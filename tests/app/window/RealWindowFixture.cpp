@@ -8,9 +8,10 @@
 #include "platform/Paths.h"
 #include "tests/engine/ComponentFixture.h"
 
-#include <QCoreApplication>
-#include <QEvent>
+#include <QApplication>
+#include <QDropEvent>
 #include <QFile>
+#include <QMimeData>
 #include <QTest>
 #include <QWebEngineView>
 
@@ -101,6 +102,22 @@ void RealWindow::Select(frmMain &page, const QString &selector) {
   Evaluate(EngineOf(page),
            QStringLiteral("getSelection().selectAllChildren(document.querySelector(%1))")
                .arg(ScriptValue(selector)));
+}
+
+QWidget &RealWindow::ViewOf(frmMain &page) {
+  return *page.DHTML1().Widget()->findChild<QWebEngineView *>();
+}
+
+void RealWindow::DropFiles(QWidget &target, const QStringList &nativePaths, QPoint place) {
+  QMimeData data;
+  QList<QUrl> urls;
+  for (const QString &path : nativePaths) urls += QUrl::fromLocalFile(path);
+  data.setUrls(urls);
+  QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&target, &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&target, &drop);
 }
 
 bool RealWindow::Holds(frmMain &page, const QString &text) {

@@ -112,6 +112,10 @@ class RealWindow : public ::testing::Test {
   /// Puts the caret after the first character of the first element that the selector finds.
   static void PutCaret(frmMain &page, const QString &selector);
   static void Select(frmMain &page, const QString &selector);
+  /// The widget that files are dropped on.
+  static QWidget &ViewOf(frmMain &page);
+  /// Drops files on a widget, as a file manager does.
+  static void DropFiles(QWidget &target, const QStringList &nativePaths, QPoint place);
   static bool Holds(frmMain &page, const QString &text);
   static std::string Seen(frmMain &page);
 

@@ -53,27 +53,10 @@ class RealEditing : public RealWindow {
   QString StatusText() { return Find<QLabel>("Sta_1")->text(); }
 };
 
-/// Drops files on a widget, as a file manager does.
-void DropFiles(QWidget &target, const QStringList &nativePaths, QPoint place) {
-  QMimeData data;
-  QList<QUrl> urls;
-  for (const QString &path : nativePaths) urls += QUrl::fromLocalFile(path);
-  data.setUrls(urls);
-  QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(&target, &enter);
-  EXPECT_TRUE(enter.isAccepted());
-  QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(&target, &drop);
-}
-
-QWidget &ViewOf(frmMain &page) {
-  return *page.DHTML1().Widget()->findChild<QWebEngineView *>();
-}
-
 TEST_F(RealEditing, APictureDroppedOnASavedPageBecomesAnImageWithARelativeLink) {
   frmMain &page = Open(PageFile, "<html><head></head><body><p>One</p><p>Two</p></body></html>");
   DropFiles(ViewOf(page), {folder.FilePath(QStringLiteral("img/a b.gif"))}, {790, 12});
-  EXPECT_TRUE(BecomesDocument(page, QStringLiteral("<p>One<img src=\"img/a b.gif\"></p>")))
+  EXPECT_TRUE(BecomesDocument(page, QStringLiteral("<p>One<img src=\"img/a%20b.gif\"></p>")))
       << Seen(page);
   Choose("mnuUndo");
   EXPECT_TRUE(BecomesDocument(page, QStringLiteral("<p>One</p>"))) << Seen(page);

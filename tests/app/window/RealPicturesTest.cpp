@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A person at the whole window: pictures from elsewhere become part of the site.
+#include "app/settings/modSettingManager.h"
+#include "editor/PictureBar.h"
+#include "editor/frmMain.h"
+#include "platform/Paths.h"
+#include "tests/app/window/RealWindowFixture.h"
+#include "tests/engine/ComponentFixture.h"
+#include "tests/pictures/PictureFiles.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QDir>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+
+namespace velor {
+namespace {
+
+const QByteArray Source =
+    "<!DOCTYPE html>\r\n<title>x</title>\r\n<body style=\"margin: 0\">\r\n"
+    "<p id=\"p\" style=\"margin: 0\">One</p>\r\n";
+const QString PageFile = QStringLiteral("site/page.htm");
+const QPoint Place(500, 8);
+
+class RealPictures : public RealWindow {
+ protected:
+  RealPictures() {
+    QDir().mkpath(folder.FilePath(QStringLiteral("site")));
+    WriteOutside("My Rose.PNG", CodedAs("PNG", PlainPicture(60, 40)));
+  }
+  QString Outside(const char *name) const { return outside_.filePath(QString::fromLatin1(name)); }
+  void WriteOutside(const char *name, const QByteArray &content) const {
+    QFile file(Outside(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+  }
+  QByteArray BytesOutside(const char *name) const {
+    QFile file(Outside(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
+  QStringList Site() const {
+    return QDir(folder.FilePath(QStringLiteral("site"))).entryList(QDir::Files, QDir::Name);
+  }
+  static QStringList Names(std::initializer_list<const char *> names) {
+    QStringList list;
+    for (const char *name : names) list << QString::fromLatin1(name);
+    return list;
+  }
+  bool Becomes(frmMain &page, const char *markup) {
+    return WaitFor([&] { return Holds(page, QString::fromLatin1(markup)); });
+  }
+  bool SiteBecomes(std::initializer_list<const char *> names) {
+    return WaitFor([&] { return Site() == Names(names); });
+  }
+  template <typename Control>
+  Control &InBar(frmMain &page, const char *name) {
+    return *page.findChild<PictureBar *>()->findChild<Control *>(QString::fromLatin1(name));
+  }
+  frmMain &OpenSource() {
+    frmMain &page = Open(PageFile, Source);
+    PutCaret(page, QStringLiteral("p"));
+    return page;
+  }
+  void Paste(frmMain &page, const QImage &image) {
+    QGuiApplication::clipboard()->setImage(image);
+    page.DHTML1().SetFocus();
+    Choose("mnuPaste");
+  }
+
+ private:
+  QTemporaryDir outside_;
+};
+
+TEST_F(RealPictures, ADroppedPictureFromOutsideIsCopiedAndTheKeyboardStaysInThePage) {
+  frmMain &page = OpenSource();
+  DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
+  EXPECT_TRUE(Becomes(page, "<img src=\"my-rose.png\" width=\"60\" height=\"40\">")) << Seen(page);
+  EXPECT_EQ(Bytes(QStringLiteral("site/my-rose.png")), BytesOutside("My Rose.PNG"));
+  EXPECT_TRUE(WaitFor([&] { return page.findChild<PictureBar *>()->isVisible(); }));
+  EXPECT_EQ(InBar<QLabel>(page, "lblPicture").text(),
+            QStringLiteral("My Rose.PNG was copied into the site: my-rose.png."));
+  EXPECT_TRUE(dialogs.messages.empty());
+  Type(page, QStringLiteral("xy"));
+  EXPECT_TRUE(Becomes(page, "height=\"40\">xy")) << Seen(page);
+}
+
+TEST_F(RealPictures, UndoTakesTheFileAwayRedoBringsItBackAndASaveKeepsIt) {
+  frmMain &page = OpenSource();
+  DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
+  ASSERT_TRUE(Becomes(page, "my-rose.png"));
+  ASSERT_TRUE(SiteBecomes({"my-rose.png", "page.htm"}));
+  Choose("mnuUndo");
+  EXPECT_TRUE(SiteBecomes({"page.htm"}));
+  Choose("mnuRedo");
+  EXPECT_TRUE(SiteBecomes({"my-rose.png", "page.htm"}));
+  Choose("mnuSave");
+  const QByteArray tag = "One<img src=\"my-rose.png\" width=\"60\" height=\"40\">";
+  EXPECT_EQ(Bytes(PageFile).toStdString(), QByteArray(Source).replace("One", tag).toStdString());
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Site(), Names({"my-rose.png", "page.htm"}));
+}
+
+TEST_F(RealPictures, ClosingWithoutSavingLeavesNoFileInTheSite) {
+  frmMain &page = OpenSource();
+  DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
+  ASSERT_TRUE(Becomes(page, "my-rose.png"));
+  dialogs.ExpectMessage(
+      QStringLiteral("You have made changes to this document. Do you want to save it?"),
+      MessageAnswer::No);
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Site(), Names({"page.htm"}));
+  EXPECT_EQ(Bytes(PageFile), Source);
+}
+
+TEST_F(RealPictures, LinkedWhereItLiesItIsNoFileOfTheSiteAndThatIsRemembered) {
+  frmMain &page = OpenSource();
+  DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
+  ASSERT_TRUE(WaitFor([&] { return page.findChild<PictureBar *>()->isVisible(); }));
+  InBar<QPushButton>(page, "cmdLinkPicture").click();
+  EXPECT_TRUE(Becomes(page, "/My%20Rose.PNG\" width=\"60\"")) << Seen(page);
+  EXPECT_TRUE(SiteBecomes({"page.htm"}));
+  EXPECT_EQ(modSettingManager::GetOption(registry, PreferenceOf("CopyPictures")),
+            QStringLiteral("False"));
+  ASSERT_TRUE(WaitFor([&] { return InBar<QPushButton>(page, "cmdCopyPicture").isVisible(); }));
+  InBar<QPushButton>(page, "cmdCopyPicture").click();
+  EXPECT_TRUE(Becomes(page, "<img src=\"my-rose.png\"")) << Seen(page);
+  EXPECT_TRUE(SiteBecomes({"my-rose.png", "page.htm"}));
+  InBar<QPushButton>(page, "cmdUndoPicture").click();
+  EXPECT_TRUE(SiteBecomes({"page.htm"}));
+  EXPECT_FALSE(Holds(page, QStringLiteral("<img")));
+}
+
+TEST_F(RealPictures, TheBoxGivesThePictureItsTextAndADecorativeOneAnEmptyOne) {
+  frmMain &page = OpenSource();
+  DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
+  ASSERT_TRUE(Becomes(page, "height=\"40\">")) << Seen(page);
+  ASSERT_TRUE(WaitFor([&] { return page.findChild<PictureBar *>()->isVisible(); }));
+  Type(page, QStringLiteral("typed "));
+  auto &text = InBar<QLineEdit>(page, "txtPictureAlt");
+  text.setText(QStringLiteral("A \"red\" rose"));
+  QTest::keyClick(&text, Qt::Key_Return);
+  EXPECT_TRUE(Becomes(page, "height=\"40\" alt=\"A &quot;red&quot; rose\">typed ")) << Seen(page);
+  InBar<QCheckBox>(page, "chkPictureDecorative").click();
+  EXPECT_TRUE(Becomes(page, "height=\"40\" alt=\"\">typed ")) << Seen(page);
+  Choose("mnuUndo");
+  EXPECT_TRUE(Becomes(page, "alt=\"A &quot;red&quot; rose\">")) << Seen(page);
+}
+
+TEST_F(RealPictures, AScreenshotIsPastedAsPngUnderThePagesName) {
+  frmMain &page = OpenSource();
+  Paste(page, RedAndBlue(30, 20));
+  EXPECT_TRUE(Becomes(page, "<img src=\"page-1.png\" width=\"30\" height=\"20\">")) << Seen(page);
+  EXPECT_EQ(QImage(folder.FilePath(QStringLiteral("site/page-1.png")))
+                .convertToFormat(QImage::Format_RGB32),
+            RedAndBlue(30, 20));
+}
+
+TEST_F(RealPictures, ANewPagesPicturesMoveIntoTheSiteAtItsFirstSave) {
+  frmMain &page = NewPage();
+  Paste(page, RedAndBlue(30, 20));
+  ASSERT_TRUE(Becomes(page, "<img src=\"file:///")) << Seen(page);
+  EXPECT_FALSE(Holds(page, QStringLiteral("data:")));
+  DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, {20, 20});
+  ASSERT_TRUE(Becomes(page, "/My%20Rose.PNG")) << Seen(page);
+  const auto besideCopies = [this] {
+    return QDir(folder.FilePath({})).entryList({QStringLiteral("*.png")});
+  };
+  EXPECT_EQ(besideCopies().size(), 1);
+  SharedDialog().ExpectSave(Logic(QStringLiteral("site/garden.htm")));
+  Choose("mnuSave");
+  EXPECT_TRUE(SiteBecomes({"garden-1.png", "garden.htm", "my-rose.png"}));
+  const QByteArray saved = Bytes(QStringLiteral("site/garden.htm"));
+  EXPECT_TRUE(saved.contains("<IMG src=garden-1.png ")) << saved.constData();
+  EXPECT_TRUE(saved.contains("<IMG src=my-rose.png ")) << saved.constData();
+  EXPECT_FALSE(saved.contains("file:"));
+  EXPECT_TRUE(WaitFor([&] { return besideCopies().isEmpty(); }));
+}
+
+TEST_F(RealPictures, APictureChosenInTheDialogIsCopiedInTheSameStep) {
+  frmMain &page = OpenSource();
+  dialogs.ExpectModal([&](QWidget &dialog) {
+    dialog.show();
+    const QString link = QStringLiteral("file://") + Outside("My Rose.PNG");
+    dialog.findChild<QLineEdit *>(QStringLiteral("txtImgSource"))->setText(link);
+    dialog.findChild<QLineEdit *>(QStringLiteral("txtAlt"))->setText(QStringLiteral("rose"));
+    dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+  });
+  Choose("mnuISTimage");
+  EXPECT_TRUE(Becomes(page, "<img src=\"my-rose.png\" alt=\"rose\"")) << Seen(page);
+  EXPECT_EQ(Site(), Names({"my-rose.png", "page.htm"}));
+  Choose("mnuUndo");
+  EXPECT_TRUE(SiteBecomes({"page.htm"}));
+}
+
+TEST_F(RealPictures, WhatIsNoPictureIsLinkedAndAFullFolderIsTold) {
+  WriteOutside("no.png", "text");
+  frmMain &page = OpenSource();
+  DropFiles(ViewOf(page), {Outside("no.png")}, Place);
+  EXPECT_TRUE(Becomes(page, "/no.png\">")) << Seen(page);
+  EXPECT_EQ(Site(), Names({"page.htm"}));
+}
+
+TEST_F(RealPictures, ADoubleClickedPictureShowsItsProperties) {
+  Write(QStringLiteral("site/a.png"), CodedAs("PNG", PlainPicture(60, 40)));
+  frmMain &page = Open(PageFile, "<!DOCTYPE html><body style='margin: 0'><img src=a.png alt=old>");
+  ASSERT_TRUE(WaitFor([&] {
+    return Evaluate(EngineOf(page), QStringLiteral("document.images[0].naturalWidth")) == 60;
+  }));
+  bool isShown = false;
+  dialogs.ExpectModal([&](QWidget &dialog) {
+    dialog.show();
+    isShown = true;
+    EXPECT_EQ(dialog.findChild<QLineEdit *>(QStringLiteral("txtAlt"))->text(),
+              QStringLiteral("old"));
+    dialog.findChild<QPushButton *>(QStringLiteral("cmdCancel"))->click();
+  });
+  QTest::mouseClick(InputOf(page), Qt::LeftButton, {}, {30, 20});
+  ASSERT_TRUE(WaitFor(
+      [&] { return page.DHTML1().Document().Selection().Type() == SelectionType::Control; }));
+  // The engine takes a press on a selected picture for the beginning of a drag, which it waits for.
+  Evaluate(EngineOf(page), QStringLiteral("document.images[0].dispatchEvent("
+                                          "new MouseEvent('dblclick', { bubbles: true }))"));
+  EXPECT_TRUE(WaitFor([&] { return isShown; }));
+}
+
+}  // namespace
+}  // namespace velor
