@@ -82,6 +82,24 @@ function gridLayers({ origin: { x, y }, scale }) {
   return ['to right', 'to bottom'].map((way) => ({ image: line(way), x, y, ...size }));
 }
 
+const sign = { height: 18, letter: 7.5, gap: 6 };  // pixels; of the sign that tells a size
+// The size of an object that is being dragged, as a sign below its frame: what is behind the text,
+// and the text with its place.
+/**
+ * @param {Box} frame
+ * @param {{ width: number, height: number }} size
+ */
+function sizeSign({ left, bottom }, { width, height }) {
+  const text = `${Math.round(width)} × ${Math.round(height)}`;
+  const x = Math.max(0, left);
+  const y = Math.min(bottom + sign.gap, innerHeight - sign.height);
+  const back = { image: solid(colour), x, y, width: (text.length + 1) * sign.letter,
+    height: sign.height };
+  return { back, style: { content: `"${text}"`, 'box-sizing': 'border-box',
+    padding: `${y}px 0 0 ${x + sign.letter / 2}px`, color: '#ffffff',
+    font: `12px/${sign.height}px monospace` } };
+}
+
 /**
  * What a press at a mouse event takes hold of: a handle of the selected object ('nw' ... 'se'),
  * 'move' for the inside of a movable one, '' for nothing.
@@ -110,13 +128,14 @@ export const pointAt = (grip) => {
   redraw();
 };
 
-// While an object is being dragged: its measures if the grid is shown.
-/** @type {{ grid: any } | null} */
+// While an object is being dragged: its measures if the grid is shown, and if its size is.
+/** @typedef {{ grid: any, size: { width: number, height: number } | null }} Dragging */
+/** @type {Dragging | null} */
 let dragging = null;
 /**
  * Draws the frame as that of an object which is being dragged, with the grid where `grid` has its
- * measures; null ends that.
- * @param {{ grid: any } | null} state
+ * measures, and with its size where `size` has it; null ends that.
+ * @param {Dragging | null} state
  */
 export const setDragging = (state) => {
   dragging = state;
@@ -185,8 +204,10 @@ function redraw() {
     right: frame.right + around, bottom: frame.bottom + around };
   const cursor = pointing === 'move' ? 'move' : `${pointing}-resize`;
   const grid = dragging?.grid ? gridLayers(dragging.grid) : [];
-  overlay.draw('frame', dragging ? 'view' : area, [...frameLayers(frame), ...grid],
-    pointing ? { 'pointer-events': 'auto', cursor } : {});
+  const told = dragging?.size ? sizeSign(frame, dragging.size) : null;
+  overlay.draw('frame', dragging ? 'view' : area,
+    [...(told ? [told.back] : []), ...frameLayers(frame), ...grid],
+    { ...(pointing ? { 'pointer-events': 'auto', cursor } : {}), ...told?.style });
 }
 
 overlay.addRedraw(redraw);

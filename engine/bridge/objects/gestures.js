@@ -41,20 +41,31 @@ function moveChange({ before }, dx, dy) {
   return { dx: toGrid(before.left + dx) - before.left, dy: toGrid(before.top + dy) - before.top };
 }
 
+// How far a handle goes outwards that is moved by so much; 0 across its way.
+/**
+ * @param {string} grip
+ * @param {string} ways the handles' letters, towards the start and towards the end
+ * @param {number} by
+ */
+const outward = (grip, [back, on], by) =>
+  (Number(grip.includes(on)) - Number(grip.includes(back))) * by;
+
 // The change that an object comes to of which the handle `grip` is moved so far. A corner keeps the
-// ratio of the sides, unless `free`.
+// ratio of the sides, unless Shift is held; a side keeps it while Shift is held.
 /**
  * @param {Gesture} gesture
  * @param {number} dx
  * @param {number} dy
- * @param {boolean} free
+ * @param {boolean} shift
  */
-function sizeChange({ before, grip }, dx, dy, free) {
+function sizeChange({ before, grip }, dx, dy, shift) {
   const horizontal = /[ew]/.test(grip);
   const vertical = /[ns]/.test(grip);
-  let width = Math.max(least, before.width + (grip.includes('w') ? -dx : dx));
-  let height = Math.max(least, before.height + (grip.includes('n') ? -dy : dy));
-  const keepsRatio = horizontal && vertical && !free;
+  let width = Math.max(least, before.width + outward(grip, 'we', dx));
+  let height = Math.max(least, before.height + outward(grip, 'ns', dy));
+  // At a corner without Shift, at a side with it.
+  const keepsRatio = (horizontal && vertical) !== shift;
+  const [wide, high] = [horizontal || keepsRatio, vertical || keepsRatio];
   if (keepsRatio) {
     // The side that has changed more gives the scale.
     const scale = [width / before.width, height / before.height]
@@ -75,11 +86,11 @@ function sizeChange({ before, grip }, dx, dy, free) {
    * @param {boolean} side
    */
   const changes = (auto, side) => side || (before.keepsShape && auto);
-  if (changes(before.autoWidth, horizontal) && !byShape(before.autoWidth, before.autoHeight)) {
-    change.width = horizontal ? width : before.width;
+  if (changes(before.autoWidth, wide) && !byShape(before.autoWidth, before.autoHeight)) {
+    change.width = wide ? width : before.width;
   }
-  if (changes(before.autoHeight, vertical) && !byShape(before.autoHeight, before.autoWidth)) {
-    change.height = vertical ? height : before.height;
+  if (changes(before.autoHeight, high) && !byShape(before.autoHeight, before.autoWidth)) {
+    change.height = high ? height : before.height;
   }
   if (grip.includes('w')) change.dx = before.width - width;
   if (grip.includes('n')) change.dy = before.height - height;
@@ -97,8 +108,9 @@ function show({ object, before, change }) {
     gesture.preview = object.animate(frames, { duration: 1, fill: 'both' });
     gesture.preview.pause();
   }
-  setDragging({
-    grid: gesture.grip === 'move' && snaps() ? objects.measure(object) : null });
+  const measures = objects.measure(object);
+  const moves = gesture.grip === 'move';
+  setDragging({ grid: moves && snaps() ? measures : null, size: moves ? null : measures });
 }
 
 // The position of a mouse event, counted from where the elements around the object begin: scrolling

@@ -139,6 +139,27 @@ TEST_F(ObjectDrags, ASideHandleChangesOneSideOnly) {
       << qPrintable(Body());
 }
 
+TEST_F(ObjectDrags, ASideKeepsTheRatioOfThePictureWhileShiftIsHeld) {
+  Load(QStringLiteral("<img style=\"display: block\" width=\"100\" height=\"50\" alt=\"\">"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
+  Drag({100, 25}, {200, 30}, Qt::ShiftModifier);
+  EXPECT_TRUE(BecomesBody(
+      QStringLiteral("<img style=\"display: block\" width=\"200\" height=\"100\" alt=\"\">")))
+      << qPrintable(Body());
+}
+
+TEST_F(ObjectDrags, TheSizeIsShownWhileAHandleIsDragged) {
+  Load(QStringLiteral("<img style=\"display: block\" width=\"100\" height=\"50\" alt=\"\">"));
+  Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));
+  const QString sign = QStringLiteral("getComputedStyle(document.head, '::after').content");
+  page_.Move({100, 50});
+  page_.Button(QEvent::MouseButtonPress, {100, 50});
+  page_.Move({200, 60}, Qt::LeftButton);
+  EXPECT_TRUE(Comes(sign + QStringLiteral(" === '\"200 × 100\"'"))) << qPrintable(Text(sign));
+  page_.Button(QEvent::MouseButtonRelease, {200, 60});
+  EXPECT_TRUE(Comes(sign + QStringLiteral(" === '\"\"'"))) << qPrintable(Text(sign));
+}
+
 TEST_F(ObjectDrags, SizesAreWrittenAsThePageHasThem) {
   // A style and an attribute, a percentage, and neither.
   Load(QStringLiteral(
