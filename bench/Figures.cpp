@@ -24,6 +24,7 @@ constexpr Entry Table[] = {
     {"save", SavingFigures},
     {"save-after-edit", SavingAfterAnEditFigures},
     {"journal", JournalFigures},
+    {"pictures", PictureFigures},
     {"preview", PreviewFigures},
     {"source", SourceFillFigures},
     {"apply", ApplyFigures},

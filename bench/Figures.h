@@ -27,6 +27,8 @@ void ToolbarFigure();
 /// What keeping a page for a recovery costs (JournalFigures.cpp).
 void JournalFigures();
 
+/// A large picture made smaller (PictureFigures.cpp).
+void PictureFigures();
 /// The preview's first and later showings of a page (PreviewFigures.cpp).
 void PreviewFigures();
 // Figures about the source editor (SourceFigures.cpp).

@@ -44,6 +44,8 @@ class PagePictures final {
   /// Puts a picture from the clipboard in at the caret; false where the additions are off.
   bool PutIn(const QImage &image);
 
+  /// Has a file that was made for the page follow its text.
+  void Own(const SitePicture &picture) { copied_.Add(picture); }
   /// The page's text has changed: files follow Undo and Redo.
   void Follow();
   /// The page is in its file.

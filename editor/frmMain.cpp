@@ -12,6 +12,7 @@
 #include "editor/OutsideChanges.h"
 #include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
+#include "editor/PictureFitting.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Dialogs.h"
@@ -110,6 +111,8 @@ frmMain::frmMain(EditorContext &context, int number)
   layout->addWidget(outside_);
   pictures_ = std::make_unique<PagePictures>(context_, *this);
   layout->addWidget(&pictures_->Bar());
+  fitting_ = new PictureFitting(context_, *this);
+  layout->addWidget(fitting_);
   setFocusProxy(component_->Widget());
 
   component_->SetShowDetails(TruthOption(context_, ShowDetails));
@@ -263,6 +266,7 @@ void frmMain::DocumentComplete() {
 }
 
 void frmMain::DisplayChanged() {
+  fitting_->SelectionChanged();
   if (Ready == QStringLiteral("True") && IsInFront()) ShowState();
 }
 

@@ -26,6 +26,7 @@ namespace velor {
 class FindBar;
 class OutsideChanges;
 class PagePictures;
+class PictureFitting;
 class ToolBarAction;
 
 /// The document window: one page, in design view (`DHTML1`) or source view (`Code1`) lying in the
@@ -159,6 +160,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   FindBar *findBar_ = nullptr;
   OutsideChanges *outside_ = nullptr;
   std::unique_ptr<PagePictures> pictures_;
+  PictureFitting *fitting_ = nullptr;
 };
 
 }  // namespace velor

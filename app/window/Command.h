@@ -25,6 +25,7 @@ enum class CommandId {
   InsertVideo,
   InsertTable,
   FollowLink,
+  TakePicturesOut,
   PasteText,
   PasteTable,
   PasteMarkdown,

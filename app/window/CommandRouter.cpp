@@ -4,6 +4,7 @@
 #include "app/window/GeneralToolbar.h"
 #include "app/window/InsertCommands.h"
 #include "editor/EditorContext.h"
+#include "editor/EmbeddedPictures.h"
 #include "editor/FindBar.h"
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
@@ -102,6 +103,9 @@ void CommandRouter::Run(const Command &command) {
       break;
     case CommandId::InsertTable:
       Insert(&InsertCommands::Table);
+      break;
+    case CommandId::TakePicturesOut:
+      if (frmMain *page = ActiveDocument()) TakePicturesOut(*page);
       break;
     case CommandId::FollowLink:
       if (frmMain *page = ActiveDocument())

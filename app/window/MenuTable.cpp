@@ -109,6 +109,7 @@ constexpr MenuRow Rows[] = {
     Found("plain unformatted only", Beyond(Item("mnuPasteText", "Paste as Text (&X)", "mnuTools", {CommandId::PasteText}, nullptr, "Ctrl+Shift+V"))),
     Found("tabs columns spreadsheet", Beyond(Item("mnuPasteTable", "Paste as Table (&B)", "mnuTools", {CommandId::PasteTable}))),
     Found("notes plain md", Beyond(Item("mnuPasteMarkdown", "Paste as Markdown (&M)", "mnuTools", {CommandId::PasteMarkdown}))),
+    Found("data base64 images", Beyond(Item("mnuTakePicturesOut", "Take Embedded Pictures Out into Files (&E)", "mnuTools", {CommandId::TakePicturesOut}))),
     Separator("mnu7", "mnuTools"),
     Found("html long break", Beyond(Item("mnuWrapSource", "Wrap Source Lines (&W)", "mnuTools", {CommandId::WrapSource}))),
     Found("letter folder map windows", Beyond(Item("mnuDrives", "Drives... (&D)", "mnuTools", {CommandId::Drives}))),

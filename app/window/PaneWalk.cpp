@@ -6,6 +6,7 @@
 #include "editor/FindBar.h"
 #include "editor/OutsideChanges.h"
 #include "editor/PictureBar.h"
+#include "editor/PictureFitting.h"
 #include "recovery/offers/RecoveryBar.h"
 
 #include <QApplication>
@@ -23,6 +24,7 @@ bool IsBar(const QObject *widget) {
          qobject_cast<const RecoveryBar *>(widget) != nullptr ||
          qobject_cast<const OutsideChanges *>(widget) != nullptr ||
          qobject_cast<const PictureBar *>(widget) != nullptr ||
+         qobject_cast<const PictureFitting *>(widget) != nullptr ||
          qobject_cast<const FindBar *>(widget) != nullptr;
 }
 

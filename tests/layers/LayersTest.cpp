@@ -43,8 +43,8 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"tools", {"qt", "engine", "page/saving", "page/text", "catalogue", "files", "platform"}},
       {"tests/support", {}},
       {"bench",
-       {"app", "editor", "projects", "chrome", "qt", "engine", "page/text", "catalogue", "files",
-        "recovery", "platform", "tests/support"}},
+       {"app", "editor", "projects", "chrome", "qt", "engine", "page/text", "pictures", "catalogue",
+        "files", "recovery", "platform", "tests/support"}},
   };
   return table;
 }

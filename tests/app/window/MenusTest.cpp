@@ -273,6 +273,7 @@ mnuVideo "Insert Video... (&V)"
 mnuPasteText "Paste as Text (&X)" Ctrl+Shift+V
 mnuPasteTable "Paste as Table (&B)"
 mnuPasteMarkdown "Paste as Markdown (&M)"
+mnuTakePicturesOut "Take Embedded Pictures Out into Files (&E)"
 mnu7 "-"
 mnuWrapSource "Wrap Source Lines (&W)"
 mnuDrives "Drives... (&D)"
@@ -342,7 +343,8 @@ TEST_F(MenusTest, ACommandIsFoundByOtherWordsForItBehindThoseNamedSo) {
     Choose("mnuFindCommand");
     return entries;
   };
-  EXPECT_EQ(found("pict"), QStringList(QStringLiteral("Image")));
+  EXPECT_EQ(found("pict"), QStringList({QStringLiteral("Take Embedded Pictures Out into Files"),
+                                        QStringLiteral("Image")}));
   const QStringList pages = found("page");
   EXPECT_TRUE(pages.contains(QStringLiteral("New Document (Ctrl+N)")))
       << pages.join(u'|').toStdString();

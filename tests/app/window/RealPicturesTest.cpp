@@ -208,6 +208,58 @@ TEST_F(RealPictures, WhatIsNoPictureIsLinkedAndAFullFolderIsTold) {
   EXPECT_EQ(Site(), Names({"page.htm"}));
 }
 
+TEST_F(RealPictures, EmbeddedPicturesBecomeFilesInOneStep) {
+  const QByteArray png = CodedAs("PNG", RedAndBlue(30, 20));
+  const QByteArray source = QByteArray(Source).replace(
+      "One", "One<img class=x src=\"data:image/png;base64," + png.toBase64() +
+                 "\"><IMG SRC='data:image/svg+xml,%3Csvg xmlns=\"http://www.w3.org/2000/svg\" "
+                 "width=\"9\" height=\"9\"/%3E'><img src='data:image/png;base64,?'>");
+  frmMain &page = Open(PageFile, source);
+  Choose("mnuTakePicturesOut");
+  EXPECT_TRUE(SiteBecomes({"page-1.png", "page-1.svg", "page.htm"}));
+  EXPECT_EQ(Bytes(QStringLiteral("site/page-1.png")), png);
+  EXPECT_TRUE(Becomes(page, "<img class=\"x\" src=\"page-1.png\"><img src=\"page-1.svg\">"))
+      << Seen(page);
+  Choose("mnuUndo");
+  EXPECT_TRUE(Becomes(page, "base64,iVBOR")) << Seen(page);
+  EXPECT_TRUE(SiteBecomes({"page.htm"}));
+  Choose("mnuRedo");
+  EXPECT_TRUE(SiteBecomes({"page-1.png", "page-1.svg", "page.htm"}));
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(PageFile), QByteArray(Source).replace("One",
+                                                        "One<img class=x src=\"page-1.png\"><IMG "
+                                                        "SRC='page-1.svg'><img "
+                                                        "src='data:image/png;base64,?'>"));
+}
+
+TEST_F(RealPictures, AFileMuchLargerThanShownIsFittedAndTheOriginalKept) {
+  const QByteArray large = CodedAs("PNG", RedAndBlue(400, 200));
+  Write(QStringLiteral("site/a.png"), large);
+  frmMain &page = Open(PageFile, "<!DOCTYPE html><p>x<img src=a.png width=60 height=30></p>");
+  const auto select = [&] {
+    Evaluate(EngineOf(page), QStringLiteral("{ const p = document.querySelector('p');"
+                                            "getSelection().setBaseAndExtent(p, 1, p, 2) }"));
+  };
+  ASSERT_TRUE(WaitFor([&] {
+    return Evaluate(EngineOf(page), QStringLiteral("document.images[0].naturalWidth")) == 400;
+  }));
+  select();
+  auto &bar = *page.findChild<QWidget *>(QStringLiteral("picFitting"));
+  ASSERT_TRUE(WaitFor([&] { return bar.isVisible(); }));
+  EXPECT_EQ(bar.findChild<QLabel *>(QStringLiteral("lblFitting"))->text(),
+            QStringLiteral("a.png has 400 × 200 pixels and is shown at 60 × 30."));
+  bar.findChild<QPushButton *>(QStringLiteral("cmdFit"))->click();
+  EXPECT_EQ(QImage(folder.FilePath(QStringLiteral("site/a.png"))).size(), QSize(60, 30));
+  EXPECT_EQ(Bytes(QStringLiteral("site/a-original.png")), large);
+  bar.findChild<QPushButton *>(QStringLiteral("cmdUndoFitting"))->click();
+  EXPECT_EQ(Bytes(QStringLiteral("site/a.png")), large);
+  EXPECT_EQ(Site(), Names({"a.png", "page.htm"}));
+  bar.findChild<QPushButton *>(QStringLiteral("cmdFitTwice"))->click();
+  EXPECT_TRUE(Becomes(page, "height=\"30\" srcset=\"a-2x.png 2x\">")) << Seen(page);
+  EXPECT_EQ(QImage(folder.FilePath(QStringLiteral("site/a.png"))).size(), QSize(60, 30));
+  EXPECT_EQ(QImage(folder.FilePath(QStringLiteral("site/a-2x.png"))).size(), QSize(120, 60));
+}
+
 TEST_F(RealPictures, ADoubleClickedPictureShowsItsProperties) {
   Write(QStringLiteral("site/a.png"), CodedAs("PNG", PlainPicture(60, 40)));
   frmMain &page = Open(PageFile, "<!DOCTYPE html><body style='margin: 0'><img src=a.png alt=old>");
