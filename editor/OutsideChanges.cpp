@@ -83,8 +83,8 @@ void OutsideChanges::WatchParts(const QStringList &paths) {
 void OutsideChanges::WatchFile(const QString &path) {
   if (!watch_) return;
   hide();
-  versions_.clear();
   if (path == path_) return;
+  ForgetVersions();
   path_ = path;
   isThere_ = true;
   isReadOnly_ =

@@ -34,6 +34,9 @@ class OutsideChanges final : public QFrame {
   /// Watches this file (logic form) from now on, instead of the one before. PageSlots::Trace has
   /// the content that the page knows.
   void WatchFile(const QString &path);
+  /// The file has a new content of the page's own: versions that Undo leads to are no longer
+  /// compared with it.
+  void ForgetVersions() { versions_.clear(); }
   /// Watches the files that the page shows, in place of those before: one that changes is shown
   /// anew.
   void WatchParts(const QStringList &paths);

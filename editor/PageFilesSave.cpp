@@ -311,7 +311,11 @@ void TraceFile(frmMain &window, const QString &path) {
   const Platform &platform = window.Context().platform;
   window.Outside().WatchFile(path);
   if (platform.replaced == nullptr) return;
-  window.Context().pages.Trace(window.Number()) = FileTrace::Of(path, platform.files.ReadAll(path));
+  FileTrace &known = window.Context().pages.Trace(window.Number());
+  const FileTrace trace = FileTrace::Of(path, platform.files.ReadAll(path));
+  // After a save that changed nothing, Undo over a load still leads to another version.
+  if (trace != known) window.Outside().ForgetVersions();
+  known = trace;
 }
 
 std::int32_t SavePage(EditorContext &context, frmMain &window, FileDialog &dialog,

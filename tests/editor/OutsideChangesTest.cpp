@@ -128,6 +128,20 @@ TEST_F(OutsideChangesTest, AfterUndoOverTakeTheirsItAsksAgainAndASaveKeepsTheirs
   EXPECT_TRUE(Page(1).Outside().isHidden());
 }
 
+TEST_F(OutsideChangesTest, AfterASaveThatChangedNothingUndoOverALoadAsksToo) {
+  const QString before = Document();
+  WriteOutside();
+  ASSERT_TRUE(IsSaid(QStringLiteral("is loaded again")));
+  modWorkFlow::SavePage(context, Page(1), dialog, Record(1), false);
+  ASSERT_EQ(Content(IndexFile), Theirs.toUtf8());
+  Page(1).DHTML1().ExecCommand(EditingCommand::Undo);
+  ASSERT_EQ(Document(), before);
+  EXPECT_FALSE(Page(1).Outside().isHidden());
+  replaced.kept.clear();
+  modWorkFlow::SavePage(context, Page(1), dialog, Record(1), false);
+  EXPECT_EQ(replaced.kept, QStringList(IndexFile + QStringLiteral(": ") + Theirs));
+}
+
 TEST_F(OutsideChangesTest, TheirsThatIsNoPageIsNotTakenAndTheBarStays) {
   MeetAtTheBar();
   files.AddFile(IndexFile, QByteArray("\x89PNG\r\n\x1a\n", 8));
