@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
 #include <utility>
 
 namespace velor {
@@ -46,6 +47,14 @@ bool IsNamedElsewhere(EditorContext &context, int number, const QString &path) {
       return true;
   }
   return false;
+}
+
+/// The file that a data: address holds; nothing for another address.
+std::optional<QByteArray> ContentOfAddress(const QString &address) {
+  if (!address.startsWith(u"data:", Qt::CaseInsensitive)) return {};
+  const QString form = address.section(u',', 0, 0);
+  const QByteArray content = QByteArray::fromPercentEncoding(address.section(u',', 1).toUtf8());
+  return form.endsWith(u";base64", Qt::CaseInsensitive) ? QByteArray::fromBase64(content) : content;
 }
 
 QString PictureTag(const PagePictures::InPage &picture) {
@@ -170,6 +179,22 @@ void PagePictures::NoteHomeless(const QString &address, const QString &path, Pla
   context_.pages.FullAddresses(page_.Number()).push_back({address, [now](const QString &page) {
                                                             return PictureAddress(page, *now);
                                                           }});
+}
+
+void PagePictures::TakePasted(const QStringList &addresses) {
+  if (!IsOn()) return;
+  for (const QString &address : addresses) {
+    InPage picture;
+    if (const auto content = ContentOfAddress(address)) {
+      picture = TakeBytes(*content);
+    } else {
+      const QString path = FileOfAddress(context_.pages.Record(page_.Number()).Path, address);
+      if (path.isEmpty() || !context_.platform.files.FileExists(path)) continue;
+      picture = TakeFile(path);
+    }
+    if (picture.address.isEmpty() || picture.address == address) continue;
+    page_.DHTML1().Document().ChangePicture(address, {{QStringLiteral("src"), picture.address}});
+  }
 }
 
 void PagePictures::Announce(const Arrival &arrival) {

@@ -6,6 +6,7 @@
 
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -43,6 +44,9 @@ class PagePictures final {
   InPage TakeBytes(const QByteArray &content);
   /// Puts a picture from the clipboard in at the caret; false where the additions are off.
   bool PutIn(const QImage &image);
+  /// The pictures with these addresses came with another program's markup: their files are brought
+  /// into the site, and the addresses changed. A file that is not there stays linked.
+  void TakePasted(const QStringList &addresses);
 
   /// Has a file that was made for the page follow its text.
   void Own(const SitePicture &picture) { copied_.Add(picture); }

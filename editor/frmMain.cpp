@@ -304,6 +304,10 @@ bool frmMain::PicturePasted(const QImage &image) {
   return pictures_->PutIn(image);
 }
 
+void frmMain::PicturesPasted(const QStringList &addresses) {
+  pictures_->TakePasted(addresses);
+}
+
 void frmMain::PictureOpened() {
   context_.mainWindow.requests.ShowPictureProperties(*this);
 }

@@ -122,6 +122,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void PartsShown(const QStringList &paths) override;
   void FilesDropped(const QStringList &paths) override;
   bool PicturePasted(const QImage &image) override;
+  void PicturesPasted(const QStringList &addresses) override;
   void PictureOpened() override;
   void LinkFollowed(const QString &address) override { FollowLink(address); }
 

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QObject>
 #include <QPoint>
+#include <QStringList>
 #include <QVariantMap>
 
 namespace velor {
@@ -43,6 +44,11 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     Q_EMIT PictureWanted();
   }
+  void picturesPasted(const QString &json) {
+    const EngineCallback callback(guard_);
+    const QJsonObject told = QJsonDocument::fromJson(json.toUtf8()).object();
+    Q_EMIT PicturesPasted(told[u"addresses"].toVariant().toStringList(), told[u"remote"].toInt());
+  }
   void pasting(int percent) {
     const EngineCallback callback(guard_);
     Q_EMIT Pasting(percent);
@@ -76,6 +82,7 @@ class BridgeHost : public QObject {
   /// The probe of a TurnQueue has arrived in the page.
   void InputArrived();
   void PictureWanted();
+  void PicturesPasted(const QStringList &addresses, int remote);
   void Pasting(int percent);
   void PasteStopped();
   void LinkWanted(const QString &address);

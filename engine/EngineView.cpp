@@ -69,6 +69,7 @@ void EngineView::ConnectHost() {
   connect(&host_, &BridgeHost::StateArrived, this, whenReady(&EngineView::StateArrived));
   connect(&host_, &BridgeHost::MirrorArrived, this, whenReady(&EngineView::MirrorArrived));
   connect(&host_, &BridgeHost::PictureWanted, this, whenReady(&EngineView::PictureWanted));
+  connect(&host_, &BridgeHost::PicturesPasted, this, whenReady(&EngineView::PicturesPasted));
   connect(&host_, &BridgeHost::Pasting, this, &EngineView::Pasting);
   connect(&host_, &BridgeHost::PasteStopped, this, whenReady(&EngineView::PasteStopped));
   connect(&host_, &BridgeHost::LinkWanted, this, whenReady(&EngineView::LinkWanted));

@@ -88,6 +88,9 @@ class EngineView : public QObject, private PageWays {
   void PartAsked(const QString &name, const QString &file);
   /// Paste was asked for where the clipboard has no text.
   void PictureWanted();
+  /// Another program's markup was pasted with pictures: the addresses, as written in the page, of
+  /// those that come from files or hold their file themselves; how many lie on other computers.
+  void PicturesPasted(const QStringList &addresses, int remote);
   /// A long paste goes on: how much of it is done; 100 when it has ended.
   void Pasting(int percent);
   /// A long paste was stopped before it changed anything.

@@ -23,6 +23,7 @@ enum class Notice {
   Parts,
   Picture,
   PictureOpened,
+  PicturesPasted,
   Link,
   Pointer,
   Menu,

@@ -94,6 +94,16 @@ void WebEditor::ConnectView(EngineView &view) {
                    [=, this] { post(Notice::Died, [this] { loader_.ReloadAfterCrash(); }); });
   QObject::connect(&view, &EngineView::PictureWanted,
                    [=, this] { post(Notice::Picture, [this] { PastePicture(); }); });
+  QObject::connect(
+      &view, &EngineView::PicturesPasted, [this](const QStringList &addresses, int remote) {
+        if (remote > 0)
+          notices_.Report(remote == 1 ? QStringLiteral("One picture stays on the web.")
+                                      : QStringLiteral("%1 pictures stay on the web.").arg(remote));
+        if (addresses.isEmpty()) return;
+        notices_.PostToListener(Notice::PicturesPasted, [addresses](EditingListener &listener) {
+          listener.PicturesPasted(addresses);
+        });
+      });
   QObject::connect(&view, &EngineView::Pasting, [this](int percent) {
     notices_.Report(percent < 100 ? QStringLiteral("Pasting, %1 %. Escape stops it.").arg(percent)
                                   : QString());

@@ -59,6 +59,9 @@ class EditingListener {
   /// A picture that is in no file was pasted. The listener puts it into the page and answers true;
   /// otherwise the component does.
   virtual bool PicturePasted(const QImage & /*image*/) { return false; }
+  /// Another program's markup was pasted with pictures that come from files or hold their file
+  /// themselves (data:). Their addresses as written in the page.
+  virtual void PicturesPasted(const QStringList & /*addresses*/) {}
   /// A picture was double clicked, and is selected.
   virtual void PictureOpened() {}
 };

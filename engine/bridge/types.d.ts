@@ -295,6 +295,7 @@ interface Host {
   pushMouse(x: number, y: number): void;
   inputArrived(): void;
   pictureWanted(): void;
+  picturesPasted(json: string): void;
   pasting(percent: number): void;
   pasteStopped(): void;
   linkWanted(address: string): void;

@@ -10,6 +10,7 @@ import { doSlowly, isLong } from './longPaste.js';
 import { asMarkdown } from './markdown.js';
 import { closed, openEndsOf } from './openEnds.js';
 import { linesOf, put } from './paste.js';
+import { picturesFrom, tellOfPictures } from './pictures.js';
 import { asItStands, asTable, withListsAndLinks } from './plainText.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -262,6 +263,16 @@ function putIn(fragment, kind, open = closed) {
   history.step(kind, () => put(fragment, open));
   schedulePush();
 }
+// Puts in what another program's markup has become, and has its pictures brought into the site.
+/**
+ * @param {DocumentFragment} fragment
+ * @param {string} kind
+ */
+function putCleaned(fragment, kind) {
+  const pictures = picturesFrom(fragment);
+  putIn(fragment, kind);
+  tellOfPictures(pictures);
+}
 // Puts what the clipboard or a drop has in.
 /**
  * @param {Content} content
@@ -278,9 +289,9 @@ export function insert(content, kind, form = '') {
   } else if (origin.test(html)) {
     putIn(ownFragment(html), kind, openEndsIn(html));
   } else if (isLong(html)) {
-    doSlowly(cleaning(html), (fragment) => putIn(fragment, kind));
+    doSlowly(cleaning(html), (fragment) => putCleaned(fragment, kind));
   } else {
-    putIn(cleaned(html), kind);
+    putCleaned(cleaned(html), kind);
   }
 }
 

@@ -6,6 +6,8 @@ import { deleteToLine } from '../blocks/deletion.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
+import { host } from '../talk/host.js';
+import { schedulePush } from '../talk/pace.js';
 
 // In order. They stay the same elements over Undo and Redo.
 /** @type {HTMLImageElement[]} */
@@ -31,14 +33,44 @@ function pictureOf(address) {
   return all.length === 1 ? all[0] : null;
 }
 
+// Those of another program's markup whose files the program is asked to bring into the site, and
+// the step that they came with: their new addresses belong to that step.
+/** @type {Set<HTMLImageElement>} */
+let awaited = new Set();
+/** @type {Step | null} */
+let pasteStep = null;
+
 /**
- * Changes attributes of the picture with that address that was put in last; null takes one off.
- * @param {string} address
- * @param {[name: string, value: string | null][]} attributes
+ * The pictures of another program's markup that come from files, or hold their file themselves, and
+ * how many lie on other computers.
+ * @param {DocumentFragment} fragment
  */
-export const changePicture = (address, attributes) => history.step('changePicture', () => {
-  const picture = dom.isEditable() ? pictureOf(address) : null;
-  if (!picture) return;
+export function picturesFrom(fragment) {
+  const all = [...fragment.querySelectorAll('img')];
+  /** @param {RegExp} form */
+  const having = (form) => all.filter((picture) => form.test(picture.getAttribute('src') ?? ''));
+  return { own: having(/^(file|data):/i), remote: having(/^(https?:)?\/\//i).length };
+}
+/**
+ * Tells the program of such pictures, once they are in the page.
+ * @param {ReturnType<typeof picturesFrom>} pictures
+ */
+export function tellOfPictures({ own, remote }) {
+  const there = own.filter((picture) => picture.isConnected);
+  if (!there.length && !remote) return;
+  arrived.push(...there);
+  awaited = new Set(there);
+  pasteStep = history.lastStep();
+  const addresses = there.map((picture) => picture.getAttribute('src'));
+  host()?.picturesPasted(JSON.stringify({ addresses: [...new Set(addresses)], remote }));
+}
+
+/** @typedef {[name: string, value: string | null][]} Attributes */
+/**
+ * @param {HTMLImageElement} picture
+ * @param {Attributes} attributes
+ */
+function setAttributes(picture, attributes) {
   for (const [name, value] of attributes) {
     if (value !== null) {
       picture.setAttribute(name, value);
@@ -47,7 +79,25 @@ export const changePicture = (address, attributes) => history.step('changePictur
       picture.removeAttribute(name);
     }
   }
-});
+}
+/**
+ * Changes attributes of the picture with that address that was put in last; null takes one off. All
+ * that came with one paste and have it are changed for the first time in the step of the paste.
+ * @param {string} address
+ * @param {Attributes} attributes
+ */
+export function changePicture(address, attributes) {
+  if (!dom.isEditable()) return;
+  const all = [...awaited].filter((each) => each.getAttribute('src') === address);
+  if (all.length && pasteStep && history.lastStep() === pasteStep) {
+    all.forEach((each) => awaited.delete(each));
+    history.amend(() => all.forEach((each) => setAttributes(each, attributes)));
+    schedulePush();
+    return;
+  }
+  const picture = pictureOf(address);
+  if (picture) history.step('changePicture', () => setAttributes(picture, attributes));
+}
 
 /**
  * Takes out the picture with that address that was put in last.

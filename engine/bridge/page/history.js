@@ -136,6 +136,9 @@ function close() {
   forgetOldest();
 }
 
+/** The step that was done last; null for none. */
+export const lastStep = () => open ?? undoable.at(-1) ?? null;
+
 export const settle = () => { if (observer) absorb(observer.takeRecords()); };
 export const finish = () => { settle(); close(); };
 

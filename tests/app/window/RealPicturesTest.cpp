@@ -108,6 +108,31 @@ TEST_F(RealPictures, UndoTakesTheFileAwayRedoBringsItBackAndASaveKeepsIt) {
   EXPECT_EQ(Site(), Names({"my-rose.png", "page.htm"}));
 }
 
+TEST_F(RealPictures, PicturesInPastedMarkupComeIntoTheSiteInTheStepOfThePaste) {
+  frmMain &page = OpenSource();
+  const QByteArray held = CodedAs("PNG", PlainPicture(30, 20)).toBase64();
+  auto *data = new QMimeData;
+  data->setHtml(
+      QStringLiteral("<p>two <img src=\"%1\" width=60 height=40> <img src=\"data:image/png;"
+                     "base64,%2\"> <img src=\"http://example.com/c.png\"></p><p>three</p>")
+          .arg(QUrl::fromLocalFile(Outside("My Rose.PNG")).toString(QUrl::FullyEncoded),
+               QString::fromLatin1(held)));
+  QGuiApplication::clipboard()->setMimeData(data);
+  page.DHTML1().SetFocus();
+  Choose("mnuPaste");
+  EXPECT_TRUE(Becomes(page,
+                      "<p>two <img src=\"my-rose.png\" width=\"60\" height=\"40\"> <img src=\""
+                      "page-1.png\"> <img src=\"http://example.com/c.png\"></p>"))
+      << Seen(page);
+  EXPECT_TRUE(SiteBecomes({"my-rose.png", "page-1.png", "page.htm"}));
+  EXPECT_EQ(Bytes(QStringLiteral("site/my-rose.png")), BytesOutside("My Rose.PNG"));
+  Choose("mnuUndo");
+  EXPECT_TRUE(SiteBecomes({"page.htm"}));
+  EXPECT_TRUE(WaitFor([&] { return !Holds(page, QStringLiteral("<img")); })) << Seen(page);
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(PageFile).toStdString(), Source.toStdString());
+}
+
 TEST_F(RealPictures, ClosingWithoutSavingLeavesNoFileInTheSite) {
   frmMain &page = OpenSource();
   DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
