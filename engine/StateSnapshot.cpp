@@ -75,6 +75,8 @@ std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
   state.selection = SelectionOfName(object[u"selection"].toString());
   state.element = ElementOf(object[u"element"].toObject());
   state.link = ElementOf(object[u"link"].toObject());
+  const QJsonArray path = object[u"path"].toArray();
+  for (const QJsonValue &element : path) state.path << element.toString();
   return state;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/EditingComponent.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <map>
 #include <optional>
@@ -28,6 +29,7 @@ struct StateSnapshot {
   SelectionType selection = SelectionType::None;
   HtmlElement element;
   HtmlElement link;
+  QStringList path;  ///< HtmlDocument::Path
 
   /// Nothing for a text that is no JSON of a state.
   static std::optional<StateSnapshot> FromJson(const QString &json);

@@ -8,8 +8,8 @@ namespace velor {
 class LiveDocument;
 class NoticeQueue;
 
-/// The document object of a WebEditor: answers from the state that the page pushed last, without
-/// asking the page.
+/// The document object of a WebEditor: answers from the state that the page pushed last; only
+/// properties are asked of the page.
 class WebDocument : public HtmlDocument, private DocumentSelection {
  public:
   WebDocument(LiveDocument &document, NoticeQueue &notices)
@@ -20,6 +20,10 @@ class WebDocument : public HtmlDocument, private DocumentSelection {
   void SetLink(const HtmlAttributes &attributes, const QString &text) override;
   void SetBookmark(const QString &name) override;
   void ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) override;
+  void SetProperties(PropertySubject subject, const PropertyValues &changed) override;
+  PropertyValues Properties(PropertySubject subject) override;
+  QStringList Path() const override;
+  void ActOnPath(int index, PathDeed deed) override;
 
  private:
   SelectionType Type() const override;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QMap>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <utility>
@@ -49,6 +51,12 @@ class DocumentSelection {
   virtual HtmlElement ControlElement() const = 0;
 };
 
+/// What a properties dialog is about: the page, or what is selected or around the caret.
+enum class PropertySubject { Page, Image, Table, Cell, Link, Fonts };
+
+/// Values of properties by their names in the bridge (docs/bridge.md).
+using PropertyValues = QMap<QString, QString>;
+
 /// The document of an editing component.
 class HtmlDocument {
  public:
@@ -68,6 +76,23 @@ class HtmlDocument {
   enum class ParagraphSide { AsItIs, Left, Center };
   /// Changes attributes of the selected object, and aligns its paragraph.
   virtual void ChangeObject(const HtmlAttributes & /*attributes*/, ParagraphSide /*side*/) {}
+  /// Changes the properties given; the others stay. Does nothing where the subject is not there.
+  virtual void SetProperties(PropertySubject, const PropertyValues & /*changed*/) {}
+
+  /// The properties of the subject; empty where it is not there, or the page does not answer. Waits
+  /// for the engine.
+  virtual PropertyValues Properties(PropertySubject) { return {}; }
+
+  /// The elements around the start of the selection from the body inwards, a selected object last,
+  /// each by name, id and classes: "body", "p.intro", "img#logo".
+  virtual QStringList Path() const { return {}; }
+  enum class PathDeed {
+    Select,     ///< selects what the element holds, an object as a whole
+    RemoveTag,  ///< its content stays
+    Delete,
+  };
+  /// Does that to an element of Path, by its index there.
+  virtual void ActOnPath(int /*index*/, PathDeed) {}
 };
 
 }  // namespace velor

@@ -45,6 +45,14 @@ bool HasEnding(const QString &path, const QStringList &endings) {
   });
 }
 
+/// Insert Row and Insert Column put theirs on the other side while Shift is held.
+EditingCommand WithShift(EditingCommand command) {
+  if (!QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier)) return command;
+  if (command == EditingCommand::InsertRowBelow) return EditingCommand::InsertRowAbove;
+  if (command == EditingCommand::InsertColumnRight) return EditingCommand::InsertColumnLeft;
+  return command;
+}
+
 }  // namespace
 
 CommandRouter::CommandRouter(EditorContext &context,
@@ -80,7 +88,7 @@ void CommandRouter::Run(const Command &command) {
       host_.CloseProgram();
       break;
     case CommandId::Editing:
-      Edit(std::get<EditingCommand>(command.argument));
+      Edit(WithShift(std::get<EditingCommand>(command.argument)));
       break;
     case CommandId::MenuStyle:
       host_.ChooseMenuStyle(std::get<int>(command.argument));
@@ -115,6 +123,19 @@ void CommandRouter::Run(const Command &command) {
       break;
     case CommandId::PasteMarkdown:
       PasteAs(QStringLiteral("markdown"));
+      break;
+    case CommandId::ShowDetail:
+      if (frmMain *page = ActiveDocument()) page->ToggleShowDetails();
+      break;
+    case CommandId::SnapToGrid:
+      if (frmMain *page = ActiveDocument()) page->ToggleSnapToGrid();
+      break;
+    case CommandId::Arrange:
+      host_.ArrangeWindows(std::get<int>(command.argument));
+      break;
+    case CommandId::Properties:
+    case CommandId::InsertMarkup:
+    case CommandId::ShowPath:
       break;
     case CommandId::Preview:
       Preview();

@@ -13,6 +13,7 @@ import { showAnew } from './objects/parts.js';
 import { restorePaths } from './page/paths.js';
 import { setCaretAtPixel } from './page/selection.js';
 import { serialize } from './page/serialize.js';
+import { properties, setProperties } from './properties/properties.js';
 import { start } from './start.js';
 import './talk/arrivals.js';
 import { changes, mirror } from './talk/changes.js';
@@ -20,6 +21,7 @@ import { exec } from './talk/commands.js';
 import { host, setHost } from './talk/host.js';
 import { caretPlaces, endPlaces, showPlace } from './page/places.js';
 import { moveTo, replaceDocument } from './talk/replace.js';
+import { actOnPath } from './talk/path.js';
 import { state } from './talk/state.js';
 import { parsed } from './talk/verify.js';
 
@@ -40,6 +42,9 @@ globalThis.velor = {
   setLink: unlessPasting(setLink),
   setBookmark: unlessPasting(setBookmark),
   changeObject: unlessPasting(changeObject),
+  properties,
+  setProperties: unlessPasting(setProperties),
+  actOnPath: unlessPasting(actOnPath),
   caretAt: setCaretAtPixel,
   serialize,
   replaceDocument,

@@ -131,6 +131,7 @@ interface View {
   object: Element | null;
   elements(): Element[];
   units(): Unit[];
+  chosen(): import('./tables/chosen.js').Chosen | null;
 }
 
 /**
@@ -260,6 +261,7 @@ interface State {
   selection: 'None' | 'Text' | 'Control';
   element: ToldElement;
   link: ToldElement;
+  path: string[];
 }
 
 /** A line of the page's text; see find/pageText.js. */
@@ -320,4 +322,7 @@ interface CSSRule {
   cssRules?: CSSRuleList;
   style?: CSSStyleDeclaration;
 }
-interface Array<T> { findLastIndex(fits: (each: T) => boolean): number }
+interface Array<T> {
+  findLastIndex(fits: (each: T) => boolean): number;
+  findLast(fits: (each: T) => boolean): T | undefined;
+}

@@ -5,6 +5,7 @@
 import { linkOf } from '../formats/links.js';
 import * as selection from '../page/selection.js';
 import { commands as table, queryValue, readView, statusOf } from './commands.js';
+import { pathTold } from './path.js';
 import { Command } from './vocabulary.js';
 
 const values = {
@@ -39,5 +40,5 @@ export const state = () => {
   for (const number of table.keys()) commands[number] = statusOf(number, view);
   const read = Object.entries(values).map(([name, number]) => [name, queryValue(number, view)]);
   return { commands, ...Object.fromEntries(read), selection: kind(view),
-    element: told(selection.element()), link: told(linkOf(view)) };
+    element: told(selection.element()), link: told(linkOf(view)), path: pathTold() };
 };

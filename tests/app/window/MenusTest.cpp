@@ -151,7 +151,12 @@ TEST_F(MenusTest, TheContextMenuPopsUpWhereItIsAskedFor) {
   menu->close();
 }
 
-TEST_P(PublishedMenus, ItemsWithoutAnActionDoNothing) {
+class WithoutAdditions : public WindowFixture {
+ protected:
+  WithoutAdditions() : WindowFixture(Additions::Off) {}
+};
+
+TEST_F(WithoutAdditions, ItemsWithoutAPublishedActionDoNothing) {
   NewPage();
   const QPixmap before = window.grab();
   log.clear();
@@ -164,6 +169,80 @@ TEST_P(PublishedMenus, ItemsWithoutAnActionDoNothing) {
   }
   EXPECT_TRUE(log.empty());
   EXPECT_EQ(before.toImage(), window.grab().toImage());
+}
+
+TEST_F(MenusTest, TheContextMenuActsOnThePageInFrontAsTheEditMenuDoes) {
+  NewPage();
+  Parts().requests.PopUpContextMenu(QPoint(60, 70));
+  log.clear();
+  for (const char *item :
+       {"extCut", "extCopy", "extPaste", "extDelete", "extAll", "extInRow", "extInCol", "extMerge",
+        "extSplit", "extAbs", "extFront", "extBelowText"})
+    Choose(item);
+  EXPECT_EQ(Commands().join(u' ').toStdString(),
+            "ExecCommand(5003) ExecCommand(5002) ExecCommand(5032) ExecCommand(5004) "
+            "ExecCommand(5035) ExecCommand(6001) ExecCommand(6003) ExecCommand(6008) "
+            "ExecCommand(6009) ExecCommand(6020) ExecCommand(6021) ExecCommand(6026)");
+  Find<QMenu>("mnuExt")->close();
+}
+
+TEST_F(MenusTest, TheContextMenusItemsAreEnabledByWhatIsSelected) {
+  FakeEditingComponent &component = Component(NewPage());
+  const auto isEnabled = [&](const char *name) {
+    Parts().requests.PopUpContextMenu(QPoint(60, 70));
+    Find<QMenu>("mnuExt")->close();
+    return Item(name)->isEnabled();
+  };
+  for (const auto &[item, command] : {std::pair{"extCut", EditingCommand::Cut},
+                                      {"extInRow", EditingCommand::InsertRowBelow},
+                                      {"extMerge", EditingCommand::MergeCells},
+                                      {"extAbs", EditingCommand::AbsolutePosition},
+                                      {"mnuMoveRowUp", EditingCommand::MoveRowUp}}) {
+    EXPECT_TRUE(isEnabled(item)) << item;
+    component.statuses[command] = CommandStatus::Disabled;
+    EXPECT_FALSE(isEnabled(item)) << item;
+  }
+}
+
+TEST_F(MenusTest, DetailsGridAndPositionAreMarkedWhereTheyAreOn) {
+  frmMain &page = NewPage();
+  const auto isMarked = [&](const char *name) {
+    Parts().requests.PopUpContextMenu(QPoint(60, 70));
+    Find<QMenu>("mnuExt")->close();
+    return Item(name)->isChecked();
+  };
+  EXPECT_FALSE(isMarked("extDetail"));
+  Choose("extDetail");
+  EXPECT_TRUE(isMarked("extDetail"));
+  EXPECT_TRUE(isMarked("mnuDetail"));
+  EXPECT_TRUE(page.DHTML1().ShowDetails());
+  Choose("mnuDetail");
+  EXPECT_FALSE(isMarked("extDetail"));
+  EXPECT_FALSE(page.DHTML1().ShowDetails());
+  EXPECT_TRUE(isMarked("extSnap"));
+  Choose("extSnap");
+  EXPECT_FALSE(isMarked("extSnap"));
+  EXPECT_FALSE(page.DHTML1().SnapToGrid());
+  EXPECT_FALSE(isMarked("extAbs"));
+  Component(page).statuses[EditingCommand::AbsolutePosition] = CommandStatus::Latched;
+  EXPECT_TRUE(isMarked("extAbs"));
+}
+
+TEST_F(MenusTest, TheOpenWindowsAreArrangedWithoutOneOverTheOther) {
+  frmMain &first = NewPage();
+  frmMain &second = NewPage();
+  const auto place = [](frmMain &page) { return page.parentWidget()->geometry(); };
+  Choose("mnuWindowTileVertical");
+  EXPECT_FALSE(place(first).intersects(place(second)));
+  EXPECT_EQ(place(first).top(), place(second).top());
+  EXPECT_EQ(place(first).height(), place(second).height());
+  Choose("mnuWindowTileHorizontal");
+  EXPECT_FALSE(place(first).intersects(place(second)));
+  EXPECT_EQ(place(first).left(), place(second).left());
+  EXPECT_EQ(place(first).width(), place(second).width());
+  Choose("mnuWindowCascade");
+  EXPECT_NE(place(first).topLeft(), place(second).topLeft());
+  EXPECT_EQ(Parts().windows.Current(), &second);
 }
 
 TEST_F(MenusTest, ItemsHaveThePicturesOfTheirVerbs) {
@@ -257,6 +336,7 @@ TEST_F(MenusTest, FifteenRecentFilesAreListedTheFirstNineWithADigit) {
 }
 
 TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
+  Q_EMIT Find<QMenu>("mnuTableMore")->aboutToShow();
   EXPECT_EQ(Tree(Find<QMenu>("mnuTools")->actions()).toStdString(),
             R"tree(mnuFindCommand "Find Command... (&F)" Ctrl+Shift+P
 mnuRecent "Recent Files (&R)"
@@ -273,6 +353,29 @@ mnuVideo "Insert Video... (&V)"
 mnuPasteText "Paste as Text (&X)" Ctrl+Shift+V
 mnuPasteTable "Paste as Table (&B)"
 mnuPasteMarkdown "Paste as Markdown (&M)"
+mnuTableMore "Table (&A)"
+  mnuRowAbove "Insert Row &Above" disabled
+  mnuRowBelow "Insert Row &Below" disabled
+  mnuColumnLeft "Insert Column &Left" disabled
+  mnuColumnRight "Insert Column &Right" disabled
+  mnu20 "-"
+  mnuDeleteRow "&Delete Row" disabled
+  mnuDeleteColumn "Delete &Column" disabled
+  mnuDeleteTable "Delete &Table" disabled
+  mnu21 "-"
+  mnuMergeCells "&Merge Cells" disabled
+  mnuSplitCell "&Split Cell" disabled
+  mnu22 "-"
+  mnuSelectCell "Select C&ell" disabled
+  mnuSelectRow "Select R&ow" disabled
+  mnuSelectColumn "Select Col&umn" disabled
+  mnuSelectTable "Select Ta&ble" disabled
+  mnu23 "-"
+  mnuMoveRowUp "Move Row Up" disabled
+  mnuMoveRowDown "Move Row Do&wn" disabled
+  mnuMoveColumnLeft "Move Column Left" disabled
+  mnuMoveColumnRight "Move Column Right" disabled
+  mnuDistribute "Equal Column W&idths" disabled
 mnu7 "-"
 mnuWrapSource "Wrap Source Lines (&W)"
 mnuDrives "Drives... (&D)"

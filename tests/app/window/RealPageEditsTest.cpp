@@ -5,6 +5,7 @@
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
 
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QWebEnginePage>
@@ -114,6 +115,31 @@ TEST_F(RealPageEdits, AClickInACellPutsTheCaretThereAndTheEdgeSelectsTheTable) {
   EXPECT_TRUE(WaitFor([&] { return !TableIsSelected(page); }));
   Key(page, Qt::Key_Escape);
   EXPECT_TRUE(WaitFor([&] { return TableIsSelected(page); }));
+}
+
+TEST_F(RealPageEdits, TheMenuKeyOpensTheMenuWhoseRowAndColumnGoIntoTheFileAlone) {
+  frmMain &page = Open(File,
+                       "<HTML><BODY bgcolor=white>\r\n<TABLE border=1>\r\n"
+                       "<TR><TD>one</TD><TD>two</TD></TR>\r\n</TABLE>\r\n</BODY></HTML>\r\n");
+  PutCaret(page, QStringLiteral("td"));
+  ASSERT_TRUE(WaitFor([&] {
+    return page.DHTML1().QueryStatus(EditingCommand::InsertRowBelow) == CommandStatus::Enabled;
+  }));
+  QMenu &menu = *Find<QMenu>("mnuExt");
+  Key(page, Qt::Key_Menu);
+  ASSERT_TRUE(WaitFor([&] { return menu.isVisible(); }));
+  EXPECT_TRUE(Find<QAction>("extInRow")->isEnabled());
+  EXPECT_FALSE(Find<QAction>("extMerge")->isEnabled());
+  menu.close();
+  Choose("extInRow");
+  Choose("extInCol");
+  ASSERT_TRUE(WaitFor([&] { return page.DHTML1().DocumentHTML().count(u"<td>") == 6; }))
+      << Seen(page);
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(File).toStdString(),
+            "<HTML><BODY bgcolor=white>\r\n<TABLE border=1>\r\n"
+            "<TR><TD>one</TD><TD><BR></TD><TD>two</TD></TR>\r\n"
+            "<TR><TD><BR></TD><TD><BR></TD><TD><BR></TD></TR>\r\n</TABLE>\r\n</BODY></HTML>\r\n");
 }
 
 TEST_F(RealPageEdits, WhatIsTypedWithATableSelectedGoesBehindIt) {
