@@ -19,6 +19,7 @@
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
+#include "properties/frmProperties.h"
 
 #include <QAction>
 #include <QApplication>
@@ -51,6 +52,19 @@ EditingCommand WithShift(EditingCommand command) {
   if (command == EditingCommand::InsertRowBelow) return EditingCommand::InsertRowAbove;
   if (command == EditingCommand::InsertColumnRight) return EditingCommand::InsertColumnLeft;
   return command;
+}
+
+/// Shows the properties of what is selected in the page, and writes what is changed there.
+void ShowProperties(frmMain &page, PropertySubject subject) {
+  const QPointer<frmMain> alive = &page;
+  const PropertyValues values = page.DHTML1().Document().Properties(subject);
+  if (alive.isNull() || values.isEmpty()) return;
+  frmProperties dialog(SheetOf(subject), values, page.window());
+  QObject::connect(&dialog, &frmProperties::Changed, alive,
+                   [alive, subject](const PropertyValues &changed) {
+                     alive->DHTML1().Document().SetProperties(subject, changed);
+                   });
+  page.Context().platform.dialogs.RunModal(dialog);
 }
 
 }  // namespace
@@ -134,6 +148,9 @@ void CommandRouter::Run(const Command &command) {
       host_.ArrangeWindows(std::get<int>(command.argument));
       break;
     case CommandId::Properties:
+      if (frmMain *page = ActiveDocument())
+        ShowProperties(*page, static_cast<PropertySubject>(std::get<int>(command.argument)));
+      break;
     case CommandId::InsertMarkup:
     case CommandId::ShowPath:
       break;

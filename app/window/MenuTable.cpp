@@ -2,6 +2,7 @@
 #include "app/window/MenuTable.h"
 
 #include "platform/EditingCommands.h"
+#include "platform/HtmlDocument.h"
 
 namespace velor {
 namespace {
@@ -12,6 +13,10 @@ constexpr Command Editing(EditingCommand command) {
 
 constexpr Command Arranging(Arrangement arrangement) {
   return {CommandId::Arrange, static_cast<int>(arrangement)};
+}
+
+constexpr Command PropertiesOf(PropertySubject subject) {
+  return {CommandId::Properties, static_cast<int>(subject)};
 }
 
 constexpr MenuRow Menu(const char *name, const char *caption, const char *parent = nullptr) {
@@ -129,7 +134,7 @@ constexpr MenuRow Rows[] = {
     Found("mark", Beyond(Item("mnuSelectCell", "Select C&ell", "mnuTableMore", Editing(EditingCommand::SelectCell)))),
     Found("mark", Beyond(Item("mnuSelectRow", "Select R&ow", "mnuTableMore", Editing(EditingCommand::SelectRow)))),
     Found("mark", Beyond(Item("mnuSelectColumn", "Select Col&umn", "mnuTableMore", Editing(EditingCommand::SelectColumn)))),
-    Found("mark", Beyond(Item("mnuSelectTable", "Select Ta&ble", "mnuTableMore", Editing(EditingCommand::SelectTable)))),
+    Found("mark", Beyond(Item("mnuSelectTable", "Select Table", "mnuTableMore", Editing(EditingCommand::SelectTable)))),
     Separator("mnu23", "mnuTableMore"),
     Beyond(Item("mnuMoveRowUp", "Move Row Up", "mnuTableMore", Editing(EditingCommand::MoveRowUp))),
     Beyond(Item("mnuMoveRowDown", "Move Row Do&wn", "mnuTableMore", Editing(EditingCommand::MoveRowDown))),
@@ -153,12 +158,12 @@ constexpr MenuRow Rows[] = {
     Beyond(Item("extAll", "Select All", "mnuExt", Editing(EditingCommand::SelectAll))),
     Separator("ext1", "mnuExt"),
     Menu("extProperties", "Properties...", "mnuExt"),
-    Item("extPagePro", "Page Properties", "extProperties"),
-    Item("extImagePro", "Image Properties", "extProperties"),
-    Item("extTablePro", "Table Properties", "extProperties"),
-    Item("extTDPro", "Table Cell Properties", "extProperties"),
-    Item("extAPro", "Hyperlink Properties", "extProperties"),
-    Item("extFontsPro", "Fonts Properties", "extProperties"),
+    Found("title language description", Beyond(Item("extPagePro", "Page Properties", "extProperties", PropertiesOf(PropertySubject::Page)))),
+    Found("picture alternative", Beyond(Item("extImagePro", "Image Properties", "extProperties", PropertiesOf(PropertySubject::Image)))),
+    Found("caption border", Beyond(Item("extTablePro", "Table Properties", "extProperties", PropertiesOf(PropertySubject::Table)))),
+    Found("cell width colour", Beyond(Item("extTDPro", "Table Cell Properties", "extProperties", PropertiesOf(PropertySubject::Cell)))),
+    Found("link", Beyond(Item("extAPro", "Hyperlink Properties", "extProperties", PropertiesOf(PropertySubject::Link)))),
+    Found("size colour", Beyond(Item("extFontsPro", "Fonts Properties", "extProperties", PropertiesOf(PropertySubject::Fonts)))),
     Separator("ext2", "mnuExt"),
     Beyond(Item("extAbs", "Absolute Position", "mnuExt", Editing(EditingCommand::AbsolutePosition))),
     Beyond(Item("extDetail", "Show Detail", "mnuExt", {CommandId::ShowDetail}, "detail")),

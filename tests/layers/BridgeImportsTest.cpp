@@ -32,7 +32,7 @@ const std::map<std::string, Names> &AllowedImports() {
       {"clipboard", {"page", "formats", "objects", "blocks", "talk"}},
       {"keys", {"page", "formats", "tables", "objects", "blocks", "talk"}},
       {"",
-       {"page", "formats", "tables", "objects", "blocks", "talk", "properties", "clipboard",
+       {"page", "formats", "tables", "objects", "blocks", "find", "talk", "properties", "clipboard",
         "keys"}},
   };
   return table;

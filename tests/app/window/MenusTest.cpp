@@ -5,9 +5,13 @@
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeSourceControl.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QTest>
 
 namespace velor {
@@ -245,6 +249,82 @@ TEST_F(MenusTest, TheOpenWindowsAreArrangedWithoutOneOverTheOther) {
   EXPECT_EQ(Parts().windows.Current(), &second);
 }
 
+class PropertyDialogs : public WindowFixture {
+ protected:
+  static QWidget &Control(QWidget &dialog, const char *name) {
+    auto *found = dialog.findChild<QWidget *>(QStringLiteral("prp_") + QLatin1String(name));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  static void Press(QWidget &dialog, const char *button) {
+    dialog.findChild<QPushButton *>(QLatin1String(button))->click();
+  }
+  QStringList Written() const {
+    QStringList calls;
+    for (const QString &call : log)
+      if (call.startsWith(QStringLiteral("SetProperties"))) calls << call;
+    return calls;
+  }
+};
+
+TEST_F(PropertyDialogs, WriteWhatThePersonChangedAndNothingElse) {
+  FakeEditingComponent &component = Component(NewPage());
+  component.properties[PropertySubject::Cell] = {
+      {"rows", "2"}, {"heading", ""}, {"width", "40"}, {"align", "justify"}, {"class", "a"}};
+  dialogs.ExpectModal([](QWidget &dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Table Cell Properties"));
+    EXPECT_EQ(static_cast<QLabel &>(Control(dialog, "rows")).text(), QStringLiteral("2"));
+    EXPECT_EQ(static_cast<QComboBox &>(Control(dialog, "align")).currentText(),
+              QStringLiteral("justify"));
+    // The page has no value by that name.
+    EXPECT_EQ(dialog.findChild<QWidget *>(QStringLiteral("prp_height")), nullptr);
+    static_cast<QLineEdit &>(Control(dialog, "width")).setText(QStringLiteral("50%"));
+    static_cast<QCheckBox &>(Control(dialog, "heading")).setChecked(true);
+    Press(dialog, "cmdApply");
+    static_cast<QLineEdit &>(Control(dialog, "class")).clear();
+    Press(dialog, "cmdOK");
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  Choose("extTDPro");
+  EXPECT_EQ(Written(), QStringList({QStringLiteral("SetProperties(3, heading=true width=50%)"),
+                                    QStringLiteral("SetProperties(3, class=)")}));
+}
+
+TEST_F(PropertyDialogs, RefuseWhatIsNoLengthOrColour) {
+  FakeEditingComponent &component = Component(NewPage());
+  component.properties[PropertySubject::Table] = {{"width", ""}, {"background", ""}};
+  dialogs.ExpectModal([](QWidget &dialog) {
+    auto &line = *dialog.findChild<QLabel *>(QStringLiteral("lblRefusal"));
+    for (const auto &[name, bad, good] :
+         {std::tuple{"width", "wide", "120"}, {"background", "#12", "#112233"}}) {
+      auto &box = static_cast<QLineEdit &>(Control(dialog, name));
+      box.setText(QLatin1String(bad));
+      Press(dialog, "cmdOK");
+      EXPECT_FALSE(line.isHidden()) << name;
+      EXPECT_TRUE(line.text().contains(QLatin1String(bad))) << name;
+      box.setText(QLatin1String(good));
+    }
+    Press(dialog, "cmdOK");
+  });
+  Choose("extTablePro");
+  EXPECT_EQ(Written(),
+            QStringList(QStringLiteral("SetProperties(2, background=#112233 width=120)")));
+}
+
+TEST_F(PropertyDialogs, CancelledOrUnchangedWriteNothing) {
+  FakeEditingComponent &component = Component(NewPage());
+  component.properties[PropertySubject::Page] = {{"title", "old"}};
+  for (const char *button : {"cmdOK", "cmdCancel"}) {
+    dialogs.ExpectModal([button](QWidget &dialog) {
+      if (QLatin1String(button) == QLatin1String("cmdCancel"))
+        static_cast<QLineEdit &>(Control(dialog, "title")).setText(QStringLiteral("new"));
+      Press(dialog, button);
+    });
+    Choose("extPagePro");
+  }
+  EXPECT_TRUE(Written().isEmpty());
+}
+
 TEST_F(MenusTest, ItemsHaveThePicturesOfTheirVerbs) {
   EXPECT_FALSE(Item("mnuNew")->icon().isNull());
   EXPECT_FALSE(Item("mnuTBLnew")->icon().isNull());
@@ -369,7 +449,7 @@ mnuTableMore "Table (&A)"
   mnuSelectCell "Select C&ell" disabled
   mnuSelectRow "Select R&ow" disabled
   mnuSelectColumn "Select Col&umn" disabled
-  mnuSelectTable "Select Ta&ble" disabled
+  mnuSelectTable "Select Table" disabled
   mnu23 "-"
   mnuMoveRowUp "Move Row Up" disabled
   mnuMoveRowDown "Move Row Do&wn" disabled

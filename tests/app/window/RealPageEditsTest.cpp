@@ -5,6 +5,7 @@
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
 
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
@@ -140,6 +141,37 @@ TEST_F(RealPageEdits, TheMenuKeyOpensTheMenuWhoseRowAndColumnGoIntoTheFileAlone)
             "<HTML><BODY bgcolor=white>\r\n<TABLE border=1>\r\n"
             "<TR><TD>one</TD><TD><BR></TD><TD>two</TD></TR>\r\n"
             "<TR><TD><BR></TD><TD><BR></TD><TD><BR></TD></TR>\r\n</TABLE>\r\n</BODY></HTML>\r\n");
+}
+
+TEST_F(RealPageEdits, PropertiesGoIntoTheFileAndNothingElseDoes) {
+  frmMain &page = Open(File,
+                       "<HTML><HEAD>\r\n<TITLE>old</TITLE>\r\n</HEAD><BODY bgcolor=white>\r\n"
+                       "<TABLE border=1>\r\n<TR><TD>one</TD></TR>\r\n</TABLE>\r\n"
+                       "<P>two <A HREF=x.htm>three</A></P>\r\n</BODY></HTML>\r\n");
+  const auto change = [&](const char *item, const char *field, const char *value) {
+    dialogs.ExpectModal([=](QWidget &dialog) {
+      auto *box = dialog.findChild<QLineEdit *>(QStringLiteral("prp_") + QLatin1String(field));
+      ASSERT_NE(box, nullptr) << field;
+      box->selectAll();
+      QTest::keyClicks(box, QLatin1String(value));
+      dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+    });
+    Choose(item);
+  };
+  PutCaret(page, QStringLiteral("td"));
+  change("extPagePro", "title", "new");
+  change("extTDPro", "width", "50%");
+  change("extTablePro", "caption", "Prices");
+  PutCaret(page, QStringLiteral("a"));
+  change("extAPro", "href", "y.htm");
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("y.htm")); })) << Seen(page);
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(File).toStdString(),
+            "<HTML><HEAD>\r\n<TITLE>new</TITLE>\r\n</HEAD><BODY bgcolor=white>\r\n"
+            "<TABLE border=1>\r\n<CAPTION>Prices</CAPTION>\r\n<TR><TD width=50%>one</TD></TR>\r\n"
+            "</TABLE>\r\n<P>two <A HREF=y.htm>three</A></P>\r\n</BODY></HTML>\r\n");
+  for (int step = 0; step < 4; ++step) Choose("mnuUndo");
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("x.htm")); })) << Seen(page);
 }
 
 TEST_F(RealPageEdits, WhatIsTypedWithATableSelectedGoesBehindIt) {
