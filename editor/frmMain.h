@@ -92,6 +92,10 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void Edit(EditingCommand command) override;
   void OnActivated() override;
 
+  /// Turn the view's details, or its grid, on or off, and keep the choice.
+  void ToggleShowDetails();
+  void ToggleSnapToGrid();
+
   /// Shows in the preview what a link of this page with that address leads to.
   void FollowLink(const QString &address);
 
@@ -130,8 +134,6 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   /// A button of the mode toolbar by its key; null for an unknown one.
   ToolBarAction *QuickButton(QStringView key) const;
   void QuickButtonClicked(int position);
-  void ToggleShowDetails();
-  void ToggleSnapToGrid();
   void ShowDesign();
   void ViewHtml();
   /// Checks the mode's button and, if the window is in front, updates the bars to the view.

@@ -82,6 +82,8 @@ std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
   const QJsonObject picture = object[u"picture"].toObject();
   state.picturePixels = SizeOf(picture[u"pixels"]);
   state.pictureShown = SizeOf(picture[u"shown"]);
+  const QJsonArray path = object[u"path"].toArray();
+  for (const QJsonValue &element : path) state.path << element.toString();
   return state;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/EditingComponent.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <map>
 #include <optional>
@@ -30,6 +31,7 @@ struct StateSnapshot {
   HtmlElement link;
   QSize picturePixels;  ///< of a selected picture's file
   QSize pictureShown;   ///< of a selected picture, in CSS pixels; empty for none
+  QStringList path;     ///< HtmlDocument::Path
 
   /// Nothing for a text that is no JSON of a state.
   static std::optional<StateSnapshot> FromJson(const QString &json);

@@ -54,6 +54,41 @@ QString InScript(HtmlDocument::ParagraphSide side) {
   return QStringLiteral("''");
 }
 
+using namespace std::chrono_literals;
+
+/// Asking for properties delays their dialog no longer than this.
+constexpr std::chrono::milliseconds PropertiesLimit = 2s;
+
+QString InScript(PropertySubject subject) {
+  switch (subject) {
+    case PropertySubject::Page:
+      return QStringLiteral("'page'");
+    case PropertySubject::Image:
+      return QStringLiteral("'image'");
+    case PropertySubject::Table:
+      return QStringLiteral("'table'");
+    case PropertySubject::Cell:
+      return QStringLiteral("'cell'");
+    case PropertySubject::Link:
+      return QStringLiteral("'link'");
+    case PropertySubject::Fonts:
+      break;
+  }
+  return QStringLiteral("'fonts'");
+}
+
+QString InScript(HtmlDocument::PathDeed deed) {
+  switch (deed) {
+    case HtmlDocument::PathDeed::Select:
+      return QStringLiteral("'select'");
+    case HtmlDocument::PathDeed::RemoveTag:
+      return QStringLiteral("'removeTag'");
+    case HtmlDocument::PathDeed::Delete:
+      break;
+  }
+  return QStringLiteral("'delete'");
+}
+
 }  // namespace
 
 SelectionType WebDocument::Type() const {
@@ -98,6 +133,34 @@ ShownPicture WebDocument::SelectedPicture() const {
   const StateSnapshot &state = document_.Snapshot();
   if (state.pictureShown.isEmpty()) return {};
   return {state.element.Attribute(QStringLiteral("src")), state.picturePixels, state.pictureShown};
+}
+
+void WebDocument::SetProperties(PropertySubject subject, const PropertyValues &changed) {
+  QVariantMap values;
+  for (auto value = changed.begin(); value != changed.end(); ++value)
+    values.insert(value.key(), value.value());
+  document_.Run(
+      QStringLiteral("velor.setProperties(%1,%2)").arg(InScript(subject), ScriptValue(values)));
+}
+
+PropertyValues WebDocument::Properties(PropertySubject subject) {
+  PropertyValues values;
+  if (document_.View() == nullptr) return values;
+  const auto answer = document_.View()->Ask(
+      QStringLiteral("velor.properties(%1)").arg(InScript(subject)), PropertiesLimit);
+  if (!answer) return values;
+  const QVariantMap told = answer->toMap();
+  for (auto value = told.begin(); value != told.end(); ++value)
+    values.insert(value.key(), value.value().toString());
+  return values;
+}
+
+QStringList WebDocument::Path() const {
+  return document_.Snapshot().path;
+}
+
+void WebDocument::ActOnPath(int index, PathDeed deed) {
+  document_.Run(QStringLiteral("velor.actOnPath(%1,%2)").arg(index).arg(InScript(deed)));
 }
 
 HtmlElement WebDocument::ControlElement() const {

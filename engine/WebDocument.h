@@ -8,8 +8,8 @@ namespace velor {
 class LiveDocument;
 class NoticeQueue;
 
-/// The document object of a WebEditor: answers from the state that the page pushed last, without
-/// asking the page.
+/// The document object of a WebEditor: answers from the state that the page pushed last; only
+/// properties are asked of the page.
 class WebDocument : public HtmlDocument, private DocumentSelection {
  public:
   WebDocument(LiveDocument &document, NoticeQueue &notices)
@@ -23,6 +23,10 @@ class WebDocument : public HtmlDocument, private DocumentSelection {
   void ChangePicture(const QString &address, const HtmlAttributes &attributes) override;
   void RemovePicture(const QString &address) override;
   ShownPicture SelectedPicture() const override;
+  void SetProperties(PropertySubject subject, const PropertyValues &changed) override;
+  PropertyValues Properties(PropertySubject subject) override;
+  QStringList Path() const override;
+  void ActOnPath(int index, PathDeed deed) override;
 
  private:
   SelectionType Type() const override;

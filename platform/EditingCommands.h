@@ -7,8 +7,8 @@
 
 namespace velor {
 
-/// The editing commands' published numbers (DECMD values of the DHTML Editing Component's SDK).
-/// Frozen: never renumbered.
+/// The editing commands by their numbers. Those from 5000 are published (DECMD values of the DHTML
+/// Editing Component's SDK). All are frozen: never renumbered.
 enum class EditingCommand : int {
   Bold = 5000,
   Copy = 5002,
@@ -37,10 +37,41 @@ enum class EditingCommand : int {
   Underline = 5048,
   Undo = 5049,
   UnorderList = 5051,
+
+  // Additions, with numbers of our own: they apply in the design view only.
+  InsertRowBelow = 6001,
+  InsertRowAbove = 6002,
+  InsertColumnRight = 6003,
+  InsertColumnLeft = 6004,
+  DeleteRow = 6005,
+  DeleteColumn = 6006,
+  DeleteTable = 6007,
+  MergeCells = 6008,
+  SplitCell = 6009,
+  SelectCell = 6010,
+  SelectRow = 6011,
+  SelectColumn = 6012,
+  SelectTable = 6013,
+  MoveRowUp = 6014,
+  MoveRowDown = 6015,
+  MoveColumnLeft = 6016,
+  MoveColumnRight = 6017,
+  DistributeColumns = 6018,
+  AbsolutePosition = 6020,
+  BringToFront = 6021,
+  BringForward = 6022,
+  BringAboveText = 6023,
+  SendToBack = 6024,
+  SendBackward = 6025,
+  SendBelowText = 6026,
 };
 
 constexpr int Number(EditingCommand command) {
   return static_cast<int>(command);
+}
+
+constexpr bool IsAddition(EditingCommand command) {
+  return Number(command) > 6000;
 }
 
 /// One block format: the name people choose and the element that carries it.

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QMap>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <utility>
@@ -57,6 +59,12 @@ struct ShownPicture {
   QSize shown;      ///< in CSS pixels
 };
 
+/// What a properties dialog is about: the page, or what is selected or around the caret.
+enum class PropertySubject { Page, Image, Table, Cell, Link, Fonts };
+
+/// Values of properties by their names in the bridge (docs/bridge.md).
+using PropertyValues = QMap<QString, QString>;
+
 /// The document of an editing component.
 class HtmlDocument {
  public:
@@ -84,6 +92,24 @@ class HtmlDocument {
 
   /// The picture of a Control selection; without an address where it is none.
   virtual ShownPicture SelectedPicture() const { return {}; }
+
+  /// Changes the properties given; the others stay. Does nothing where the subject is not there.
+  virtual void SetProperties(PropertySubject, const PropertyValues & /*changed*/) {}
+
+  /// The properties of the subject; empty where it is not there, or the page does not answer. Waits
+  /// for the engine.
+  virtual PropertyValues Properties(PropertySubject) { return {}; }
+
+  /// The elements around the start of the selection from the body inwards, a selected object last,
+  /// each by name, id and classes: "body", "p.intro", "img#logo".
+  virtual QStringList Path() const { return {}; }
+  enum class PathDeed {
+    Select,     ///< selects what the element holds, an object as a whole
+    RemoveTag,  ///< its content stays
+    Delete,
+  };
+  /// Does that to an element of Path, by its index there.
+  virtual void ActOnPath(int /*index*/, PathDeed) {}
 };
 
 }  // namespace velor

@@ -30,6 +30,7 @@ constexpr HelpTopic Topics[] = {
     {"frmInsertElement", "SSTab3", "links.html#video"},
     {"frmInsertElement", nullptr, "links.html#target"},
     {"frmDialog_Table", nullptr, "tables.html#insert"},
+    {"frmProperties", nullptr, "details.html#properties"},
     {"frmProjectManager", nullptr, "projects.html#manager"},
     {"FrmFld", nullptr, "repair.html#picker"},
     {"FrmDrives", nullptr, "drives.html#window"},

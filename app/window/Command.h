@@ -8,6 +8,10 @@
 
 namespace velor {
 
+/// How the open windows are laid out: each over the next with its title seen, one above the other,
+/// or side by side.
+enum class Arrangement { Cascade, Horizontal, Vertical };
+
 /// What a menu item or toolbar button does. None: nothing.
 enum class CommandId {
   None,
@@ -29,6 +33,12 @@ enum class CommandId {
   PasteText,
   PasteTable,
   PasteMarkdown,
+  ShowDetail,
+  SnapToGrid,
+  Arrange,     ///< argument: the Arrangement, an int
+  Properties,  ///< argument: the PropertySubject, an int
+  InsertMarkup,
+  ShowPath,
   Preview,
   About,
   Help,

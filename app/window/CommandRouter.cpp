@@ -20,6 +20,7 @@
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
+#include "properties/frmProperties.h"
 
 #include <QAction>
 #include <QApplication>
@@ -44,6 +45,27 @@ bool HasEnding(const QString &path, const QStringList &endings) {
   return std::any_of(endings.begin(), endings.end(), [&path](const QString &ending) {
     return path.endsWith(ending, Qt::CaseInsensitive);
   });
+}
+
+/// Insert Row and Insert Column put theirs on the other side while Shift is held.
+EditingCommand WithShift(EditingCommand command) {
+  if (!QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier)) return command;
+  if (command == EditingCommand::InsertRowBelow) return EditingCommand::InsertRowAbove;
+  if (command == EditingCommand::InsertColumnRight) return EditingCommand::InsertColumnLeft;
+  return command;
+}
+
+/// Shows the properties of what is selected in the page, and writes what is changed there.
+void ShowProperties(frmMain &page, PropertySubject subject) {
+  const QPointer<frmMain> alive = &page;
+  const PropertyValues values = page.DHTML1().Document().Properties(subject);
+  if (alive.isNull() || values.isEmpty()) return;
+  frmProperties dialog(SheetOf(subject), values, page.window());
+  QObject::connect(&dialog, &frmProperties::Changed, alive,
+                   [alive, subject](const PropertyValues &changed) {
+                     alive->DHTML1().Document().SetProperties(subject, changed);
+                   });
+  page.Context().platform.dialogs.RunModal(dialog);
 }
 
 }  // namespace
@@ -81,7 +103,7 @@ void CommandRouter::Run(const Command &command) {
       host_.CloseProgram();
       break;
     case CommandId::Editing:
-      Edit(std::get<EditingCommand>(command.argument));
+      Edit(WithShift(std::get<EditingCommand>(command.argument)));
       break;
     case CommandId::MenuStyle:
       host_.ChooseMenuStyle(std::get<int>(command.argument));
@@ -119,6 +141,22 @@ void CommandRouter::Run(const Command &command) {
       break;
     case CommandId::PasteMarkdown:
       PasteAs(QStringLiteral("markdown"));
+      break;
+    case CommandId::ShowDetail:
+      if (frmMain *page = ActiveDocument()) page->ToggleShowDetails();
+      break;
+    case CommandId::SnapToGrid:
+      if (frmMain *page = ActiveDocument()) page->ToggleSnapToGrid();
+      break;
+    case CommandId::Arrange:
+      host_.ArrangeWindows(std::get<int>(command.argument));
+      break;
+    case CommandId::Properties:
+      if (frmMain *page = ActiveDocument())
+        ShowProperties(*page, static_cast<PropertySubject>(std::get<int>(command.argument)));
+      break;
+    case CommandId::InsertMarkup:
+    case CommandId::ShowPath:
       break;
     case CommandId::Preview:
       Preview();

@@ -32,6 +32,8 @@ class CommandHost {
   /// The menu item that runs this command.
   virtual QAction &MenuItem(const Command &command) = 0;
   virtual void ChooseMenuStyle(int index) = 0;
+  /// `arrangement` is an Arrangement.
+  virtual void ArrangeWindows(int arrangement) = 0;
   virtual void ShowProjectManager() = 0;
   virtual void ShowAbout() = 0;
   /// Shows the manual at the place for what has the keyboard.

@@ -19,6 +19,9 @@ bool ReadsOnly(const Command &command) {
 }  // namespace
 
 bool ActsOn(const Command &command, FrontView front) {
+  if (const auto *editing = std::get_if<EditingCommand>(&command.argument);
+      editing != nullptr && IsAddition(*editing))
+    return front == FrontView::Design;
   switch (front) {
     case FrontView::Nothing:
       return false;
@@ -51,8 +54,9 @@ void CommandState::SetPageCommandsEnabled(bool enabled) {
     menu.menuAction()->setEnabled(hasUse);
   }
   for (const MenuRow &row : MenuTable()) {
-    if (row.command.id == CommandId::Editing)
-      menus_.items.at(row.command)->setEnabled(!enabled || isUsable(row.command));
+    const auto item = menus_.items.find(row.command);
+    if (row.command.id == CommandId::Editing && item != menus_.items.end())
+      item->second->setEnabled(!enabled || isUsable(row.command));
   }
   bars_.SetPageButtonsEnabled(isUsable);
 }

@@ -56,6 +56,7 @@ Menus BuildMenus(QMainWindow &window, Additions additions,
     if (!isOff)
       QObject::connect(item, &QAction::triggered, &window, [run, &row] { run(row.command); });
     built.menus.value(QString::fromLatin1(row.parent))->addAction(item);
+    built.named.insert(name, item);
     if (row.command.id != CommandId::None) built.items.emplace(row.command, item);
   }
   return built;

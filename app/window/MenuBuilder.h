@@ -20,8 +20,10 @@ namespace velor {
 struct Menus {
   /// Menus and pop-up menus by object name.
   QHash<QString, QMenu *> menus;
-  /// Items by the command that they run.
+  /// Items by the command that they run; the first of the table where several do.
   std::map<Command, QAction *> items;
+  /// Items by object name.
+  QHash<QString, QAction *> named;
 };
 
 /// Creates all menus of the table in `window`. A chosen item calls `run` with its command. Names of

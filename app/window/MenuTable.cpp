@@ -2,12 +2,21 @@
 #include "app/window/MenuTable.h"
 
 #include "platform/EditingCommands.h"
+#include "platform/HtmlDocument.h"
 
 namespace velor {
 namespace {
 
 constexpr Command Editing(EditingCommand command) {
   return {CommandId::Editing, command};
+}
+
+constexpr Command Arranging(Arrangement arrangement) {
+  return {CommandId::Arrange, static_cast<int>(arrangement)};
+}
+
+constexpr Command PropertiesOf(PropertySubject subject) {
+  return {CommandId::Properties, static_cast<int>(subject)};
 }
 
 constexpr MenuRow Menu(const char *name, const char *caption, const char *parent = nullptr) {
@@ -79,7 +88,7 @@ constexpr MenuRow Rows[] = {
     StyleItem(1, "Sky Blue"),
     StyleItem(2, "Clear XP Style"),
     Found("site web pages catalogue", Item("mnuView_ProjectMan", "Project Manager", "mnuView_Top", {CommandId::ProjectManager}, "startman")),
-    Item("mnuDetail", "Show Detail (&D)", "mnuView_Top", {}, "detail"),
+    Beyond(Item("mnuDetail", "Show Detail (&D)", "mnuView_Top", {CommandId::ShowDetail}, "detail")),
 
     Menu("mnuInsert", "Insert (&I)"),
     Found("picture photo graphic", Item("mnuISTimage", "Image", "mnuInsert", {CommandId::InsertImage}, "image")),
@@ -89,9 +98,9 @@ constexpr MenuRow Rows[] = {
     Found("grid rows columns cells", Item("mnuTBLnew", "Insert Table", "mnuTable", {CommandId::InsertTable}, "table")),
 
     Menu("mnuWindow", "Window (&W)"),
-    Item("mnuWindowCascade", "Cascade (&C)", "mnuWindow"),
-    Item("mnuWindowTileHorizontal", "Horizontal (&H)", "mnuWindow"),
-    Item("mnuWindowTileVertical", "Vertical (&V)", "mnuWindow"),
+    Beyond(Item("mnuWindowCascade", "Cascade (&C)", "mnuWindow", Arranging(Arrangement::Cascade))),
+    Found("above stacked tile", Beyond(Item("mnuWindowTileHorizontal", "Horizontal (&H)", "mnuWindow", Arranging(Arrangement::Horizontal)))),
+    Found("beside side tile", Beyond(Item("mnuWindowTileVertical", "Vertical (&V)", "mnuWindow", Arranging(Arrangement::Vertical)))),
 
     Beyond(Menu("mnuTools", "Tools (&T)")),
     Beyond(Item("mnuFindCommand", "Find Command... (&F)", "mnuTools", {CommandId::FindCommand}, nullptr, "Ctrl+Shift+P")),
@@ -110,6 +119,29 @@ constexpr MenuRow Rows[] = {
     Found("tabs columns spreadsheet", Beyond(Item("mnuPasteTable", "Paste as Table (&B)", "mnuTools", {CommandId::PasteTable}))),
     Found("notes plain md", Beyond(Item("mnuPasteMarkdown", "Paste as Markdown (&M)", "mnuTools", {CommandId::PasteMarkdown}))),
     Found("data base64 images", Beyond(Item("mnuTakePicturesOut", "Take Embedded Pictures Out into Files (&E)", "mnuTools", {CommandId::TakePicturesOut}))),
+    Beyond(Menu("mnuTableMore", "Table (&A)", "mnuTools")),
+    Found("line", Beyond(Item("mnuRowAbove", "Insert Row &Above", "mnuTableMore", Editing(EditingCommand::InsertRowAbove)))),
+    Found("line", Beyond(Item("mnuRowBelow", "Insert Row &Below", "mnuTableMore", Editing(EditingCommand::InsertRowBelow)))),
+    Beyond(Item("mnuColumnLeft", "Insert Column &Left", "mnuTableMore", Editing(EditingCommand::InsertColumnLeft))),
+    Found("Colume", Beyond(Item("mnuColumnRight", "Insert Column &Right", "mnuTableMore", Editing(EditingCommand::InsertColumnRight)))),
+    Separator("mnu20", "mnuTableMore"),
+    Found("remove", Beyond(Item("mnuDeleteRow", "&Delete Row", "mnuTableMore", Editing(EditingCommand::DeleteRow)))),
+    Found("remove", Beyond(Item("mnuDeleteColumn", "Delete &Column", "mnuTableMore", Editing(EditingCommand::DeleteColumn)))),
+    Found("remove", Beyond(Item("mnuDeleteTable", "Delete &Table", "mnuTableMore", Editing(EditingCommand::DeleteTable)))),
+    Separator("mnu21", "mnuTableMore"),
+    Found("join", Beyond(Item("mnuMergeCells", "&Merge Cells", "mnuTableMore", Editing(EditingCommand::MergeCells)))),
+    Found("divide", Beyond(Item("mnuSplitCell", "&Split Cell", "mnuTableMore", Editing(EditingCommand::SplitCell)))),
+    Separator("mnu22", "mnuTableMore"),
+    Found("mark", Beyond(Item("mnuSelectCell", "Select C&ell", "mnuTableMore", Editing(EditingCommand::SelectCell)))),
+    Found("mark", Beyond(Item("mnuSelectRow", "Select R&ow", "mnuTableMore", Editing(EditingCommand::SelectRow)))),
+    Found("mark", Beyond(Item("mnuSelectColumn", "Select Col&umn", "mnuTableMore", Editing(EditingCommand::SelectColumn)))),
+    Found("mark", Beyond(Item("mnuSelectTable", "Select Table", "mnuTableMore", Editing(EditingCommand::SelectTable)))),
+    Separator("mnu23", "mnuTableMore"),
+    Beyond(Item("mnuMoveRowUp", "Move Row Up", "mnuTableMore", Editing(EditingCommand::MoveRowUp))),
+    Beyond(Item("mnuMoveRowDown", "Move Row Do&wn", "mnuTableMore", Editing(EditingCommand::MoveRowDown))),
+    Beyond(Item("mnuMoveColumnLeft", "Move Column Left", "mnuTableMore", Editing(EditingCommand::MoveColumnLeft))),
+    Beyond(Item("mnuMoveColumnRight", "Move Column Right", "mnuTableMore", Editing(EditingCommand::MoveColumnRight))),
+    Found("distribute", Beyond(Item("mnuDistribute", "Equal Column W&idths", "mnuTableMore", Editing(EditingCommand::DistributeColumns)))),
     Separator("mnu7", "mnuTools"),
     Found("html long break", Beyond(Item("mnuWrapSource", "Wrap Source Lines (&W)", "mnuTools", {CommandId::WrapSource}))),
     Found("letter folder map windows", Beyond(Item("mnuDrives", "Drives... (&D)", "mnuTools", {CommandId::Drives}))),
@@ -120,36 +152,36 @@ constexpr MenuRow Rows[] = {
     Found("manual guide", Beyond(Item("mnuhelp", "Help", "mnuHelp_Top", {CommandId::Help}, "help"))),
 
     Popup("mnuExt"),
-    Item("extCut", "Cut", "mnuExt", {}, "cut"),
-    Item("extCopy", "Copy", "mnuExt", {}, "copy"),
-    Item("extPaste", "Paste", "mnuExt", {}, "paste"),
-    Item("extDelete", "Delete", "mnuExt", {}, "delete"),
-    Item("extAll", "Select All", "mnuExt"),
+    Beyond(Item("extCut", "Cut", "mnuExt", Editing(EditingCommand::Cut), "cut")),
+    Beyond(Item("extCopy", "Copy", "mnuExt", Editing(EditingCommand::Copy), "copy")),
+    Beyond(Item("extPaste", "Paste", "mnuExt", Editing(EditingCommand::Paste), "paste")),
+    Beyond(Item("extDelete", "Delete", "mnuExt", Editing(EditingCommand::Delete), "delete")),
+    Beyond(Item("extAll", "Select All", "mnuExt", Editing(EditingCommand::SelectAll))),
     Separator("ext1", "mnuExt"),
     Menu("extProperties", "Properties...", "mnuExt"),
-    Item("extPagePro", "Page Properties", "extProperties"),
-    Item("extImagePro", "Image Properties", "extProperties"),
-    Item("extTablePro", "Table Properties", "extProperties"),
-    Item("extTDPro", "Table Cell Properties", "extProperties"),
-    Item("extAPro", "Hyperlink Properties", "extProperties"),
-    Item("extFontsPro", "Fonts Properties", "extProperties"),
+    Found("title language description", Beyond(Item("extPagePro", "Page Properties", "extProperties", PropertiesOf(PropertySubject::Page)))),
+    Found("picture alternative", Beyond(Item("extImagePro", "Image Properties", "extProperties", PropertiesOf(PropertySubject::Image)))),
+    Found("caption border", Beyond(Item("extTablePro", "Table Properties", "extProperties", PropertiesOf(PropertySubject::Table)))),
+    Found("cell width colour", Beyond(Item("extTDPro", "Table Cell Properties", "extProperties", PropertiesOf(PropertySubject::Cell)))),
+    Found("link", Beyond(Item("extAPro", "Hyperlink Properties", "extProperties", PropertiesOf(PropertySubject::Link)))),
+    Found("size colour", Beyond(Item("extFontsPro", "Fonts Properties", "extProperties", PropertiesOf(PropertySubject::Fonts)))),
     Separator("ext2", "mnuExt"),
-    Item("extAbs", "Absolute Position", "mnuExt"),
-    Item("extDetail", "Show Detail", "mnuExt", {}, "detail"),
-    Item("extSnap", "Snap to Grid", "mnuExt", {}, "snap"),
+    Beyond(Item("extAbs", "Absolute Position", "mnuExt", Editing(EditingCommand::AbsolutePosition))),
+    Beyond(Item("extDetail", "Show Detail", "mnuExt", {CommandId::ShowDetail}, "detail")),
+    Beyond(Item("extSnap", "Snap to Grid", "mnuExt", {CommandId::SnapToGrid}, "snap")),
     Item("extInHTML", "Insert Custom HTML", "mnuExt", {}, "viewcode"),
     Menu("extTableGeneral", "Table...", "mnuExt"),
-    Item("extInCol", "Insert Colume", "extTableGeneral"),
-    Item("extInRow", "Insert Row", "extTableGeneral"),
-    Item("extMerge", "Merge Cells", "extTableGeneral"),
-    Item("extSplit", "Split Cell", "extTableGeneral"),
+    Beyond(Item("extInCol", "Insert Colume", "extTableGeneral", Editing(EditingCommand::InsertColumnRight))),
+    Beyond(Item("extInRow", "Insert Row", "extTableGeneral", Editing(EditingCommand::InsertRowBelow))),
+    Beyond(Item("extMerge", "Merge Cells", "extTableGeneral", Editing(EditingCommand::MergeCells))),
+    Beyond(Item("extSplit", "Split Cell", "extTableGeneral", Editing(EditingCommand::SplitCell))),
     Menu("extAbsGeneral", "Absolute object...", "mnuExt"),
-    Item("extFront", "Bring to Front", "extAbsGeneral"),
-    Item("extForeward", "Bring Foreward", "extAbsGeneral"),
-    Item("extAboveText", "Bring above text", "extAbsGeneral"),
-    Item("extBack", "Send to Back", "extAbsGeneral"),
-    Item("extBackward", "Send Backward", "extAbsGeneral"),
-    Item("extBelowText", "Send below text", "extAbsGeneral"),
+    Beyond(Item("extFront", "Bring to Front", "extAbsGeneral", Editing(EditingCommand::BringToFront))),
+    Beyond(Item("extForeward", "Bring Foreward", "extAbsGeneral", Editing(EditingCommand::BringForward))),
+    Beyond(Item("extAboveText", "Bring above text", "extAbsGeneral", Editing(EditingCommand::BringAboveText))),
+    Beyond(Item("extBack", "Send to Back", "extAbsGeneral", Editing(EditingCommand::SendToBack))),
+    Beyond(Item("extBackward", "Send Backward", "extAbsGeneral", Editing(EditingCommand::SendBackward))),
+    Beyond(Item("extBelowText", "Send below text", "extAbsGeneral", Editing(EditingCommand::SendBelowText))),
     Item("extGetTag", "Get Element TagName", "mnuExt"),
 
     Popup("mnuCustom"),

@@ -115,6 +115,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
       statusLine_(new StatusLine(this)),
       sourceEditing_(new QAction(this)),
       commands_(menus_, *bandBar_, *area_, *pageTabs_, *sourceEditing_, additions_),
+      selectionItems_(menus_, *area_, additions_),
       fileDialog_(platform.components.CreateFileDialog()),
       context_{platform,
                {.windows = *area_,
@@ -361,6 +362,10 @@ void MfrmProgram::MarkMenuStyle(int index) {
   }
 }
 
+void MfrmProgram::ArrangeWindows(int arrangement) {
+  area_->Arrange(static_cast<Arrangement>(arrangement));
+}
+
 void MfrmProgram::ShowProjectManager() {
   projects_->ShowProjectManager(*this);
 }
@@ -377,10 +382,15 @@ void MfrmProgram::ShowHelp() {
 }
 
 void MfrmProgram::ShowCommandPalette() {
+  selectionItems_.Refresh();
   QList<NamedCommand> commands;
   for (const MenuRow &row : MenuTable()) {
     const bool isOwn = row.command.id == CommandId::FindCommand;
     if (row.kind != MenuKind::Item || row.command.id == CommandId::None || isOwn) continue;
+    // What the context menu shares with another menu is listed once, by the name there.
+    const bool isShared = MenuItem(row.command).objectName() != QLatin1String(row.name) &&
+                          QLatin1String(row.name).startsWith(QLatin1String("ext"));
+    if (isShared) continue;
     commands.append({SpokenCaption(QString::fromLatin1(row.caption)), &MenuItem(row.command),
                      QString::fromLatin1(row.words)});
   }

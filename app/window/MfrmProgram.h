@@ -6,6 +6,7 @@
 #include "app/window/LoadOrder.h"
 #include "app/window/MenuBuilder.h"
 #include "app/window/MenuSettings.h"
+#include "app/window/SelectionItems.h"
 #include "editor/EditorContext.h"
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
@@ -92,6 +93,7 @@ class MfrmProgram final : public QMainWindow,
   FrontWindow *Front() override;
   QAction &MenuItem(const Command &command) override;
   void ChooseMenuStyle(int index) override;
+  void ArrangeWindows(int arrangement) override;
   void ShowProjectManager() override;
   void ShowAbout() override;
   void ShowHelp() override;
@@ -135,6 +137,7 @@ class MfrmProgram final : public QMainWindow,
   StatusLine *statusLine_;
   QAction *sourceEditing_;
   CommandState commands_;
+  SelectionItems selectionItems_;
   std::unique_ptr<FileDialog> fileDialog_;
   EditorContext context_;
   /// Null where controls are not styled.

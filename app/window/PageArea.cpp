@@ -173,6 +173,34 @@ QList<QWidget *> PageArea::OpenWindows() const {
   return windows;
 }
 
+void PageArea::Arrange(Arrangement arrangement) {
+  QWidget *front = Current();
+  const QList<QWidget *> windows = OpenWindows();
+  for (QWidget *window : windows) FrameOf(window)->showNormal();
+  if (arrangement == Arrangement::Cascade) {
+    cascadeSubWindows();
+  } else {
+    const QRect room = viewport()->rect();
+    const bool isSideBySide = arrangement == Arrangement::Vertical;
+    const auto count = std::max<qsizetype>(1, windows.size());
+    const auto part = [count](int length, qsizetype index) {
+      return static_cast<int>(length * index / count);
+    };
+    for (qsizetype index = 0; index < windows.size(); ++index) {
+      QRect place = room;
+      if (isSideBySide) {
+        place.setLeft(part(room.width(), index));
+        place.setRight(part(room.width(), index + 1) - 1);
+      } else {
+        place.setTop(part(room.height(), index));
+        place.setBottom(part(room.height(), index + 1) - 1);
+      }
+      FrameOf(windows[index])->setGeometry(place);
+    }
+  }
+  if (front != nullptr) Activate(front);
+}
+
 void PageArea::paintEvent(QPaintEvent *) {
   QPainter painter(viewport());
   painter.fillRect(viewport()->rect(), Backdrop(palette()));

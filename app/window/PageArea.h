@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/window/Additions.h"
+#include "app/window/Command.h"
 #include "editor/MainWindow.h"
 
 #include <QList>
@@ -41,6 +42,10 @@ class PageArea final : public QMdiArea, public ChildWindows {
   /// The name of an open window in titles and in the Window menu: FrontWindow::ShownName, with the
   /// path where two windows have the same.
   QString NameOf(const QWidget *window) const;
+
+  /// Lays the open windows out side by side, each in a frame of its own. One that comes to the
+  /// front by being opened fills the area again.
+  void Arrange(Arrangement arrangement);
 
   /// Moves the focus into the window in front.
   void FocusFrontWindow();

@@ -14,6 +14,7 @@
 namespace velor {
 
 void MfrmProgram::PopUpContextMenu(QPoint screenPosition) {
+  selectionItems_.Refresh();
   menus_.menus.value(QStringLiteral("mnuExt"))->popup(screenPosition);
 }
 

@@ -14,6 +14,7 @@ import { showAnew } from './objects/parts.js';
 import { restorePaths } from './page/paths.js';
 import { setCaretAtPixel } from './page/selection.js';
 import { serialize } from './page/serialize.js';
+import { properties, setProperties } from './properties/properties.js';
 import { start } from './start.js';
 import './talk/arrivals.js';
 import { changes, mirror } from './talk/changes.js';
@@ -21,6 +22,7 @@ import { exec } from './talk/commands.js';
 import { host, setHost } from './talk/host.js';
 import { caretPlaces, endPlaces, showPlace } from './page/places.js';
 import { moveTo, replaceDocument } from './talk/replace.js';
+import { actOnPath } from './talk/path.js';
 import { state } from './talk/state.js';
 import { parsed } from './talk/verify.js';
 
@@ -43,6 +45,9 @@ globalThis.velor = {
   changeObject: unlessPasting(changeObject),
   changePicture: unlessPasting(changePicture),
   removePicture: unlessPasting(removePicture),
+  properties,
+  setProperties: unlessPasting(setProperties),
+  actOnPath: unlessPasting(actOnPath),
   caretAt: setCaretAtPixel,
   serialize,
   replaceDocument,

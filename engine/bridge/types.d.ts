@@ -131,6 +131,7 @@ interface View {
   object: Element | null;
   elements(): Element[];
   units(): Unit[];
+  chosen(): import('./tables/chosen.js').Chosen | null;
 }
 
 /**
@@ -261,6 +262,7 @@ interface State {
   element: ToldElement;
   link: ToldElement;
   picture: { pixels: [number, number], shown: [number, number] } | null;
+  path: string[];
 }
 
 /** A line of the page's text; see find/pageText.js. */
@@ -323,4 +325,7 @@ interface CSSRule {
   cssRules?: CSSRuleList;
   style?: CSSStyleDeclaration;
 }
-interface Array<T> { findLastIndex(fits: (each: T) => boolean): number }
+interface Array<T> {
+  findLastIndex(fits: (each: T) => boolean): number;
+  findLast(fits: (each: T) => boolean): T | undefined;
+}

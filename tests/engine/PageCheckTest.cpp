@@ -147,6 +147,22 @@ TEST_F(PageCheckProgram, FindsAFragmentEqualThatHasLostItsFirstWord) {
   EXPECT_EQ(lines_[0][QLatin1String("bytes_lost")].toInt(), 9) << output_.constData();
 }
 
+TEST_F(PageCheckProgram, ChangesTablesAndPropertiesWithNoByteOutside) {
+  const QString page =
+      Write(QStringLiteral("page.htm"),
+            "<HTML><HEAD>\r\n<TITLE>old</TITLE>\r\n</HEAD><BODY bgcolor=white>\r\n"
+            "<TABLE border=1 >\r\n  <TR><TD rowspan=2>one<TD>two\r\n  <TR><TD>three\r\n"
+            "  <TR><TD>four<TD>five\r\n</TABLE>\r\n<P>six <A HREF=x.htm>seven</A>\r\n");
+  for (const char *kind : {"row", "column", "merge", "class", "page-title", "link"}) {
+    EXPECT_EQ(Run({QStringLiteral("--edit"), QLatin1String(kind), page}), 0);
+    ASSERT_EQ(lines_.size(), 1U);
+    EXPECT_TRUE(Has(0, "edited")) << kind;
+    EXPECT_FALSE(Has(0, "identical")) << kind;
+    EXPECT_TRUE(Has(0, "document_equal")) << kind;
+    EXPECT_EQ(lines_[0][QStringLiteral("bytes_outside")].toInt(), 0) << output_.constData();
+  }
+}
+
 TEST_F(PageCheckProgram, RefusesWhatMeansNothing) {
   const QString page = Write(QStringLiteral("page.htm"), "<P>one two");
   for (const QStringList &arguments : {QStringList{},

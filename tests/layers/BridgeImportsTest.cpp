@@ -23,13 +23,17 @@ const std::map<std::string, Names> &AllowedImports() {
   static const std::map<std::string, Names> table = {
       {"page", {}},
       {"formats", {"page"}},
-      {"objects", {"page", "formats"}},
-      {"blocks", {"page", "formats", "objects"}},
+      {"tables", {"page", "formats"}},
+      {"objects", {"page", "formats", "tables"}},
+      {"blocks", {"page", "formats", "tables", "objects"}},
       {"find", {"page", "objects"}},
-      {"talk", {"page", "formats", "objects", "blocks"}},
+      {"talk", {"page", "formats", "tables", "objects", "blocks"}},
+      {"properties", {"page", "formats", "tables", "talk"}},
       {"clipboard", {"page", "formats", "objects", "blocks", "talk"}},
-      {"keys", {"page", "formats", "objects", "blocks", "talk"}},
-      {"", {"page", "formats", "objects", "blocks", "find", "talk", "clipboard", "keys"}},
+      {"keys", {"page", "formats", "tables", "objects", "blocks", "talk"}},
+      {"",
+       {"page", "formats", "tables", "objects", "blocks", "find", "talk", "properties", "clipboard",
+        "keys"}},
   };
   return table;
 }

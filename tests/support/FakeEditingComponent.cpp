@@ -254,6 +254,17 @@ void FakeEditingComponent::SetBookmark(const QString &name) {
   Log(QStringLiteral("SetBookmark(%1)").arg(name));
 }
 
+void FakeEditingComponent::SetProperties(PropertySubject subject, const PropertyValues &changed) {
+  QStringList words;
+  for (auto value = changed.begin(); value != changed.end(); ++value)
+    words << value.key() + u'=' + value.value();
+  Log(QStringLiteral("SetProperties(%1, %2)").arg(static_cast<int>(subject)).arg(words.join(u' ')));
+}
+
+void FakeEditingComponent::ActOnPath(int index, PathDeed deed) {
+  Log(QStringLiteral("ActOnPath(%1, %2)").arg(index).arg(static_cast<int>(deed)));
+}
+
 void FakeEditingComponent::ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) {
   Log(QStringLiteral("ChangeObject(%1, %2)").arg(InWords(attributes)).arg(static_cast<int>(side)));
 }

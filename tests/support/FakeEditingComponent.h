@@ -38,6 +38,8 @@ class FakeEditingComponent final : public EditingComponent,
   SelectionType selectionType = SelectionType::None;
   HtmlElement element;  ///< under the caret, or the selected object
   HtmlElement link;     ///< that the selection is in
+  QStringList elementPath;
+  std::map<PropertySubject, PropertyValues> properties;
   /// The stretch of the document's text that is selected; after loading the start of the body.
   qsizetype selectionStart = 0;
   qsizetype selectionEnd = 0;
@@ -109,6 +111,10 @@ class FakeEditingComponent final : public EditingComponent,
   void SetLink(const HtmlAttributes &attributes, const QString &text) override;
   void SetBookmark(const QString &name) override;
   void ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) override;
+  void SetProperties(PropertySubject subject, const PropertyValues &changed) override;
+  PropertyValues Properties(PropertySubject subject) override { return properties[subject]; }
+  QStringList Path() const override { return elementPath; }
+  void ActOnPath(int index, PathDeed deed) override;
   DocumentSelection &Selection() override;
   SelectionType Type() const override;
   std::unique_ptr<TextRange> CreateRange() override;

@@ -152,7 +152,9 @@ const QStringList &PageCheck::ScriptKinds() {
   static const QStringList kinds = {
       QStringLiteral("insert-word"),      QStringLiteral("bold"),      QStringLiteral("image"),
       QStringLiteral("delete-paragraph"), QStringLiteral("table-row"), QStringLiteral("split"),
-      QStringLiteral("center"),           QStringLiteral("attribute"), QStringLiteral("replace"),
+      QStringLiteral("center"),           QStringLiteral("attribute"), QStringLiteral("row"),
+      QStringLiteral("column"),           QStringLiteral("merge"),     QStringLiteral("class"),
+      QStringLiteral("page-title"),       QStringLiteral("link"),      QStringLiteral("replace"),
       QStringLiteral("replace-all")};
   return kinds;
 }

@@ -112,6 +112,12 @@ const replaceBy = (replace) => [wordPlaces, ([text, start, end], argument) => {
   return velor.find(query, 'here').count > 0 && replace(query, other);
 }];
 
+// A command with the caret in a cell.
+const onCell = (command) => (cell) => {
+  select(cell, 0);
+  return velor.exec(command);
+};
+
 const edits = {
   'replace': replaceBy((query, other) => velor.replaceFound(query, other)),
   'replace-all': replaceBy((query, other) => velor.replaceAll(query, other)),
@@ -150,6 +156,27 @@ const edits = {
     fresh.removeAttribute('id');
     for (const cell of row.cells) fresh.insertCell().textContent = `cell ${cell.cellIndex}`;
     row.after(fresh);
+    return true;
+  }],
+  'row': [() => elements('td, th'), onCell(Command.InsertRowBelow)],
+  'column': [() => elements('td, th'), onCell(Command.InsertColumnRight)],
+  'merge': [() => elements('td + td, td + th, th + td, th + th'), (cell) => {
+    select(cell.previousElementSibling, 0);
+    getSelection().extend(cell, cell.childNodes.length);
+    return velor.exec(Command.MergeCells);
+  }],
+  'class': [() => elements('td, th'), (cell) => {
+    select(cell, 0);
+    velor.setProperties('cell', { class: 'new' });
+    return true;
+  }],
+  'page-title': [() => [document.body], () => {
+    velor.setProperties('page', { title: 'new title' });
+    return true;
+  }],
+  'link': [() => elements('a[href]').filter((link) => link.firstChild), (link) => {
+    select(link.firstChild, 0);
+    velor.setProperties('link', { title: 'new' });
     return true;
   }],
   'split': [texts, (text) => {

@@ -6,6 +6,8 @@ import { listTagOf } from '../blocks/items.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
+import { enterCell } from '../tables/deeds.js';
+import { appendRow } from '../tables/rows.js';
 import { unitsIn } from '../page/units.js';
 import { exec } from '../talk/commands.js';
 import { Command } from '../talk/vocabulary.js';
@@ -13,27 +15,6 @@ import { Command } from '../talk/vocabulary.js';
 function cellAtCaret() {
   const range = selection.range();
   return range && dom.ancestor(range.startContainer, (node) => /^(TD|TH)$/.test(node.tagName));
-}
-
-/** @param {Element} cell */
-function enterCell(cell) {
-  const leaf = dom.firstLeaf(cell);
-  if (dom.isText(leaf) || leaf === cell) selection.setCaret(leaf, 0);
-  else selection.setCaret(leaf.parentNode, selection.indexOf(leaf));
-}
-
-// Adds an empty row like the given one behind it; answers its first cell.
-/** @param {HTMLTableRowElement} row */
-function addRow(row) {
-  const added = dom.twin(row);
-  for (const cell of row.cells) {
-    const copy = dom.twin(cell);
-    copy.removeAttribute('rowspan');
-    copy.append(dom.create('BR'));
-    added.append(copy);
-  }
-  row.after(added);
-  return added.cells[0];
 }
 
 // The cell before (-1) or behind (1) a cell; undefined at the table's ends.
@@ -64,5 +45,5 @@ export function pressTab(backwards) {
   }
   const next = cellBeside(cell, backwards ? -1 : 1);
   if (next) enterCell(next);
-  else if (!backwards) history.step('addRow', () => enterCell(addRow(cell.parentNode)));
+  else if (!backwards) history.step('addRow', () => enterCell(appendRow(cell.closest('TABLE'))[0]));
 }

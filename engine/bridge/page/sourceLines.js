@@ -123,7 +123,9 @@ function set(block, isInPlace) {
  */
 export function dropLine(block) {
   const { previousSibling: before, nextSibling: after } = block;
-  if (beginsLine(before) && beginsLine(after)) before.remove();
+  if (!beginsLine(after)) return;
+  if (beginsLine(before)) before.remove();
+  else if (!before && lineOf(block)) after.remove();
 }
 /** @param {AnyNode} holder */
 export function dropInnerLines(holder) {

@@ -12,12 +12,17 @@ import * as align from '../formats/align.js';
 import { formats } from '../formats/formats.js';
 import * as inline from '../formats/inline.js';
 import * as pending from '../formats/pending.js';
+import * as layers from '../objects/layers.js';
+import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
+import { dropLine } from '../page/sourceLines.js';
 import { resolveAll } from '../page/standIns.js';
 import { changeUnits, readUnits, unitsIn } from '../page/units.js';
+import { chosenIn } from '../tables/chosen.js';
+import * as tables from '../tables/deeds.js';
 import { isWorking, work } from '../page/working.js';
 import { schedulePush } from './pace.js';
 import { Command, Status } from './vocabulary.js';
@@ -77,6 +82,7 @@ export const readView = () => {
       return [...new Set(texts.map((text) => text.parentElement))];
     }),
     units: once(() => unitsIn(range, selection.leafLimit)),
+    chosen: once(() => chosenIn(range)),
   };
 };
 
@@ -198,8 +204,38 @@ const byEngine = (status) => ({ status });
 const selected = (view) => (view.range.collapsed ? Status.Disabled : Status.Enabled);
 const always = () => Status.Enabled;
 
+/** @param {View} view */
+const inTable = ({ chosen }) => (chosen() ? Status.Enabled : Status.Disabled);
+// In a cell, or with all of a table selected.
+/** @param {View} view */
+const inCell = ({ chosen, object }) =>
+  (chosen()?.first || object?.tagName === 'TABLE' ? Status.Enabled : Status.Disabled);
 /**
- * The commands by their published numbers.
+ * @param {() => void} deed
+ * @returns {CommandRow}
+ */
+const onCells = (deed) => ({ status: inCell, run: () => deed() });
+/** @param {Element} element */
+function deleteWhole(element) {
+  dropLine(element);
+  selection.selectNode(element);
+  deleteKeepingLooks(selection.range());
+}
+
+/**
+ * @param {import('../objects/layers.js').Order} order
+ * @returns {CommandRow}
+ */
+const ordering = (order) => ({
+  status(view) {
+    const object = layers.subjectOf(view);
+    return object && objects.isMovable(object) ? Status.Enabled : Status.Disabled;
+  },
+  run: layers.placed(order),
+});
+
+/**
+ * The commands by their numbers.
  * @type {Map<number, CommandRow>}
  */
 export const commands = new Map([
@@ -267,6 +303,50 @@ export const commands = new Map([
     travel: () => history.undo(),
   }],
   [Command.UnorderList, list('UL')],
+  [Command.InsertRowBelow, onCells(tables.rowInserted('behind'))],
+  [Command.InsertRowAbove, onCells(tables.rowInserted('before'))],
+  [Command.InsertColumnRight, onCells(tables.columnInserted('behind'))],
+  [Command.InsertColumnLeft, onCells(tables.columnInserted('before'))],
+  [Command.DeleteRow, onCells(tables.rowsDeleted(deleteWhole))],
+  [Command.DeleteColumn, onCells(tables.columnsDeleted(deleteWhole))],
+  [Command.DeleteTable, {
+    status: inTable,
+    run: (value, view) => deleteWhole(view.chosen().table),
+  }],
+  [Command.MergeCells, {
+    status: ({ chosen }) => (tables.areSeveral(chosen()) ? Status.Enabled : Status.Disabled),
+    run: () => tables.cellsMerged(),
+  }],
+  [Command.SplitCell, {
+    status: ({ chosen }) => (chosen()?.first ? Status.Enabled : Status.Disabled),
+    run: () => tables.cellSplit(),
+  }],
+  [Command.SelectCell, { status: inCell, travel: tables.select('cell') }],
+  [Command.SelectRow, { status: inCell, travel: tables.select('row') }],
+  [Command.SelectColumn, { status: inCell, travel: tables.select('column') }],
+  [Command.SelectTable, { status: inTable, travel: tables.selectTable }],
+  [Command.MoveRowUp, onCells(tables.rowsMoved(-1))],
+  [Command.MoveRowDown, onCells(tables.rowsMoved(1))],
+  [Command.MoveColumnLeft, onCells(tables.columnsMoved(-1))],
+  [Command.MoveColumnRight, onCells(tables.columnsMoved(1))],
+  [Command.DistributeColumns, onCells(tables.columnsDistributed)],
+  [Command.AbsolutePosition, {
+    status(view) {
+      const object = layers.subjectOf(view);
+      if (!object) return Status.Disabled;
+      return objects.isMovable(object) ? Status.Latched : Status.Enabled;
+    },
+    run(value, view) {
+      layers.toggleAbsolute(layers.subjectOf(view));
+      if (view.object) selection.selectNode(view.object);
+    },
+  }],
+  [Command.BringToFront, ordering('front')],
+  [Command.BringForward, ordering('forward')],
+  [Command.BringAboveText, ordering('aboveText')],
+  [Command.SendToBack, ordering('back')],
+  [Command.SendBackward, ordering('backward')],
+  [Command.SendBelowText, ordering('belowText')],
 ]);
 
 /**

@@ -5,6 +5,7 @@
 import { linkOf } from '../formats/links.js';
 import * as selection from '../page/selection.js';
 import { commands as table, queryValue, readView, statusOf } from './commands.js';
+import { pathTold } from './path.js';
 import { Command } from './vocabulary.js';
 
 const values = {
@@ -48,5 +49,5 @@ export const state = () => {
   const read = Object.entries(values).map(([name, number]) => [name, queryValue(number, view)]);
   return { commands, ...Object.fromEntries(read), selection: kind(view),
     element: told(selection.element()), link: told(linkOf(view)),
-    picture: pictureTold(view.object) };
+    picture: pictureTold(view.object), path: pathTold() };
 };

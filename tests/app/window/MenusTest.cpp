@@ -5,9 +5,13 @@
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeSourceControl.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QTest>
 
 namespace velor {
@@ -151,7 +155,12 @@ TEST_F(MenusTest, TheContextMenuPopsUpWhereItIsAskedFor) {
   menu->close();
 }
 
-TEST_P(PublishedMenus, ItemsWithoutAnActionDoNothing) {
+class WithoutAdditions : public WindowFixture {
+ protected:
+  WithoutAdditions() : WindowFixture(Additions::Off) {}
+};
+
+TEST_F(WithoutAdditions, ItemsWithoutAPublishedActionDoNothing) {
   NewPage();
   const QPixmap before = window.grab();
   log.clear();
@@ -164,6 +173,156 @@ TEST_P(PublishedMenus, ItemsWithoutAnActionDoNothing) {
   }
   EXPECT_TRUE(log.empty());
   EXPECT_EQ(before.toImage(), window.grab().toImage());
+}
+
+TEST_F(MenusTest, TheContextMenuActsOnThePageInFrontAsTheEditMenuDoes) {
+  NewPage();
+  Parts().requests.PopUpContextMenu(QPoint(60, 70));
+  log.clear();
+  for (const char *item :
+       {"extCut", "extCopy", "extPaste", "extDelete", "extAll", "extInRow", "extInCol", "extMerge",
+        "extSplit", "extAbs", "extFront", "extBelowText"})
+    Choose(item);
+  EXPECT_EQ(Commands().join(u' ').toStdString(),
+            "ExecCommand(5003) ExecCommand(5002) ExecCommand(5032) ExecCommand(5004) "
+            "ExecCommand(5035) ExecCommand(6001) ExecCommand(6003) ExecCommand(6008) "
+            "ExecCommand(6009) ExecCommand(6020) ExecCommand(6021) ExecCommand(6026)");
+  Find<QMenu>("mnuExt")->close();
+}
+
+TEST_F(MenusTest, TheContextMenusItemsAreEnabledByWhatIsSelected) {
+  FakeEditingComponent &component = Component(NewPage());
+  const auto isEnabled = [&](const char *name) {
+    Parts().requests.PopUpContextMenu(QPoint(60, 70));
+    Find<QMenu>("mnuExt")->close();
+    return Item(name)->isEnabled();
+  };
+  for (const auto &[item, command] : {std::pair{"extCut", EditingCommand::Cut},
+                                      {"extInRow", EditingCommand::InsertRowBelow},
+                                      {"extMerge", EditingCommand::MergeCells},
+                                      {"extAbs", EditingCommand::AbsolutePosition},
+                                      {"mnuMoveRowUp", EditingCommand::MoveRowUp}}) {
+    EXPECT_TRUE(isEnabled(item)) << item;
+    component.statuses[command] = CommandStatus::Disabled;
+    EXPECT_FALSE(isEnabled(item)) << item;
+  }
+}
+
+TEST_F(MenusTest, DetailsGridAndPositionAreMarkedWhereTheyAreOn) {
+  frmMain &page = NewPage();
+  const auto isMarked = [&](const char *name) {
+    Parts().requests.PopUpContextMenu(QPoint(60, 70));
+    Find<QMenu>("mnuExt")->close();
+    return Item(name)->isChecked();
+  };
+  EXPECT_FALSE(isMarked("extDetail"));
+  Choose("extDetail");
+  EXPECT_TRUE(isMarked("extDetail"));
+  EXPECT_TRUE(isMarked("mnuDetail"));
+  EXPECT_TRUE(page.DHTML1().ShowDetails());
+  Choose("mnuDetail");
+  EXPECT_FALSE(isMarked("extDetail"));
+  EXPECT_FALSE(page.DHTML1().ShowDetails());
+  EXPECT_TRUE(isMarked("extSnap"));
+  Choose("extSnap");
+  EXPECT_FALSE(isMarked("extSnap"));
+  EXPECT_FALSE(page.DHTML1().SnapToGrid());
+  EXPECT_FALSE(isMarked("extAbs"));
+  Component(page).statuses[EditingCommand::AbsolutePosition] = CommandStatus::Latched;
+  EXPECT_TRUE(isMarked("extAbs"));
+}
+
+TEST_F(MenusTest, TheOpenWindowsAreArrangedWithoutOneOverTheOther) {
+  frmMain &first = NewPage();
+  frmMain &second = NewPage();
+  const auto place = [](frmMain &page) { return page.parentWidget()->geometry(); };
+  Choose("mnuWindowTileVertical");
+  EXPECT_FALSE(place(first).intersects(place(second)));
+  EXPECT_EQ(place(first).top(), place(second).top());
+  EXPECT_EQ(place(first).height(), place(second).height());
+  Choose("mnuWindowTileHorizontal");
+  EXPECT_FALSE(place(first).intersects(place(second)));
+  EXPECT_EQ(place(first).left(), place(second).left());
+  EXPECT_EQ(place(first).width(), place(second).width());
+  Choose("mnuWindowCascade");
+  EXPECT_NE(place(first).topLeft(), place(second).topLeft());
+  EXPECT_EQ(Parts().windows.Current(), &second);
+}
+
+class PropertyDialogs : public WindowFixture {
+ protected:
+  static QWidget &Control(QWidget &dialog, const char *name) {
+    auto *found = dialog.findChild<QWidget *>(QStringLiteral("prp_") + QLatin1String(name));
+    EXPECT_NE(found, nullptr) << name;
+    return *found;
+  }
+  static void Press(QWidget &dialog, const char *button) {
+    dialog.findChild<QPushButton *>(QLatin1String(button))->click();
+  }
+  QStringList Written() const {
+    QStringList calls;
+    for (const QString &call : log)
+      if (call.startsWith(QStringLiteral("SetProperties"))) calls << call;
+    return calls;
+  }
+};
+
+TEST_F(PropertyDialogs, WriteWhatThePersonChangedAndNothingElse) {
+  FakeEditingComponent &component = Component(NewPage());
+  component.properties[PropertySubject::Cell] = {
+      {"rows", "2"}, {"heading", ""}, {"width", "40"}, {"align", "justify"}, {"class", "a"}};
+  dialogs.ExpectModal([](QWidget &dialog) {
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Table Cell Properties"));
+    EXPECT_EQ(static_cast<QLabel &>(Control(dialog, "rows")).text(), QStringLiteral("2"));
+    EXPECT_EQ(static_cast<QComboBox &>(Control(dialog, "align")).currentText(),
+              QStringLiteral("justify"));
+    // The page has no value by that name.
+    EXPECT_EQ(dialog.findChild<QWidget *>(QStringLiteral("prp_height")), nullptr);
+    static_cast<QLineEdit &>(Control(dialog, "width")).setText(QStringLiteral("50%"));
+    static_cast<QCheckBox &>(Control(dialog, "heading")).setChecked(true);
+    Press(dialog, "cmdApply");
+    static_cast<QLineEdit &>(Control(dialog, "class")).clear();
+    Press(dialog, "cmdOK");
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  Choose("extTDPro");
+  EXPECT_EQ(Written(), QStringList({QStringLiteral("SetProperties(3, heading=true width=50%)"),
+                                    QStringLiteral("SetProperties(3, class=)")}));
+}
+
+TEST_F(PropertyDialogs, RefuseWhatIsNoLengthOrColour) {
+  FakeEditingComponent &component = Component(NewPage());
+  component.properties[PropertySubject::Table] = {{"width", ""}, {"background", ""}};
+  dialogs.ExpectModal([](QWidget &dialog) {
+    auto &line = *dialog.findChild<QLabel *>(QStringLiteral("lblRefusal"));
+    for (const auto &[name, bad, good] :
+         {std::tuple{"width", "wide", "120"}, {"background", "#12", "#112233"}}) {
+      auto &box = static_cast<QLineEdit &>(Control(dialog, name));
+      box.setText(QLatin1String(bad));
+      Press(dialog, "cmdOK");
+      EXPECT_FALSE(line.isHidden()) << name;
+      EXPECT_TRUE(line.text().contains(QLatin1String(bad))) << name;
+      box.setText(QLatin1String(good));
+    }
+    Press(dialog, "cmdOK");
+  });
+  Choose("extTablePro");
+  EXPECT_EQ(Written(),
+            QStringList(QStringLiteral("SetProperties(2, background=#112233 width=120)")));
+}
+
+TEST_F(PropertyDialogs, CancelledOrUnchangedWriteNothing) {
+  FakeEditingComponent &component = Component(NewPage());
+  component.properties[PropertySubject::Page] = {{"title", "old"}};
+  for (const char *button : {"cmdOK", "cmdCancel"}) {
+    dialogs.ExpectModal([button](QWidget &dialog) {
+      if (QLatin1String(button) == QLatin1String("cmdCancel"))
+        static_cast<QLineEdit &>(Control(dialog, "title")).setText(QStringLiteral("new"));
+      Press(dialog, button);
+    });
+    Choose("extPagePro");
+  }
+  EXPECT_TRUE(Written().isEmpty());
 }
 
 TEST_F(MenusTest, ItemsHaveThePicturesOfTheirVerbs) {
@@ -257,6 +416,7 @@ TEST_F(MenusTest, FifteenRecentFilesAreListedTheFirstNineWithADigit) {
 }
 
 TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
+  Q_EMIT Find<QMenu>("mnuTableMore")->aboutToShow();
   EXPECT_EQ(Tree(Find<QMenu>("mnuTools")->actions()).toStdString(),
             R"tree(mnuFindCommand "Find Command... (&F)" Ctrl+Shift+P
 mnuRecent "Recent Files (&R)"
@@ -274,6 +434,29 @@ mnuPasteText "Paste as Text (&X)" Ctrl+Shift+V
 mnuPasteTable "Paste as Table (&B)"
 mnuPasteMarkdown "Paste as Markdown (&M)"
 mnuTakePicturesOut "Take Embedded Pictures Out into Files (&E)"
+mnuTableMore "Table (&A)"
+  mnuRowAbove "Insert Row &Above" disabled
+  mnuRowBelow "Insert Row &Below" disabled
+  mnuColumnLeft "Insert Column &Left" disabled
+  mnuColumnRight "Insert Column &Right" disabled
+  mnu20 "-"
+  mnuDeleteRow "&Delete Row" disabled
+  mnuDeleteColumn "Delete &Column" disabled
+  mnuDeleteTable "Delete &Table" disabled
+  mnu21 "-"
+  mnuMergeCells "&Merge Cells" disabled
+  mnuSplitCell "&Split Cell" disabled
+  mnu22 "-"
+  mnuSelectCell "Select C&ell" disabled
+  mnuSelectRow "Select R&ow" disabled
+  mnuSelectColumn "Select Col&umn" disabled
+  mnuSelectTable "Select Table" disabled
+  mnu23 "-"
+  mnuMoveRowUp "Move Row Up" disabled
+  mnuMoveRowDown "Move Row Do&wn" disabled
+  mnuMoveColumnLeft "Move Column Left" disabled
+  mnuMoveColumnRight "Move Column Right" disabled
+  mnuDistribute "Equal Column W&idths" disabled
 mnu7 "-"
 mnuWrapSource "Wrap Source Lines (&W)"
 mnuDrives "Drives... (&D)"

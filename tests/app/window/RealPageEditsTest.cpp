@@ -5,6 +5,8 @@
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
 
+#include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QWebEnginePage>
@@ -114,6 +116,62 @@ TEST_F(RealPageEdits, AClickInACellPutsTheCaretThereAndTheEdgeSelectsTheTable) {
   EXPECT_TRUE(WaitFor([&] { return !TableIsSelected(page); }));
   Key(page, Qt::Key_Escape);
   EXPECT_TRUE(WaitFor([&] { return TableIsSelected(page); }));
+}
+
+TEST_F(RealPageEdits, TheMenuKeyOpensTheMenuWhoseRowAndColumnGoIntoTheFileAlone) {
+  frmMain &page = Open(File,
+                       "<HTML><BODY bgcolor=white>\r\n<TABLE border=1>\r\n"
+                       "<TR><TD>one</TD><TD>two</TD></TR>\r\n</TABLE>\r\n</BODY></HTML>\r\n");
+  PutCaret(page, QStringLiteral("td"));
+  ASSERT_TRUE(WaitFor([&] {
+    return page.DHTML1().QueryStatus(EditingCommand::InsertRowBelow) == CommandStatus::Enabled;
+  }));
+  QMenu &menu = *Find<QMenu>("mnuExt");
+  Key(page, Qt::Key_Menu);
+  ASSERT_TRUE(WaitFor([&] { return menu.isVisible(); }));
+  EXPECT_TRUE(Find<QAction>("extInRow")->isEnabled());
+  EXPECT_FALSE(Find<QAction>("extMerge")->isEnabled());
+  menu.close();
+  Choose("extInRow");
+  Choose("extInCol");
+  ASSERT_TRUE(WaitFor([&] { return page.DHTML1().DocumentHTML().count(u"<td>") == 6; }))
+      << Seen(page);
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(File).toStdString(),
+            "<HTML><BODY bgcolor=white>\r\n<TABLE border=1>\r\n"
+            "<TR><TD>one</TD><TD><BR></TD><TD>two</TD></TR>\r\n"
+            "<TR><TD><BR></TD><TD><BR></TD><TD><BR></TD></TR>\r\n</TABLE>\r\n</BODY></HTML>\r\n");
+}
+
+TEST_F(RealPageEdits, PropertiesGoIntoTheFileAndNothingElseDoes) {
+  frmMain &page = Open(File,
+                       "<HTML><HEAD>\r\n<TITLE>old</TITLE>\r\n</HEAD><BODY bgcolor=white>\r\n"
+                       "<TABLE border=1>\r\n<TR><TD>one</TD></TR>\r\n</TABLE>\r\n"
+                       "<P>two <A HREF=x.htm>three</A></P>\r\n</BODY></HTML>\r\n");
+  const auto change = [&](const char *item, const char *field, const char *value) {
+    dialogs.ExpectModal([=](QWidget &dialog) {
+      auto *box = dialog.findChild<QLineEdit *>(QStringLiteral("prp_") + QLatin1String(field));
+      ASSERT_NE(box, nullptr) << field;
+      box->selectAll();
+      QTest::keyClicks(box, QLatin1String(value));
+      dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+    });
+    Choose(item);
+  };
+  PutCaret(page, QStringLiteral("td"));
+  change("extPagePro", "title", "new");
+  change("extTDPro", "width", "50%");
+  change("extTablePro", "caption", "Prices");
+  PutCaret(page, QStringLiteral("a"));
+  change("extAPro", "href", "y.htm");
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("y.htm")); })) << Seen(page);
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(File).toStdString(),
+            "<HTML><HEAD>\r\n<TITLE>new</TITLE>\r\n</HEAD><BODY bgcolor=white>\r\n"
+            "<TABLE border=1>\r\n<CAPTION>Prices</CAPTION>\r\n<TR><TD width=50%>one</TD></TR>\r\n"
+            "</TABLE>\r\n<P>two <A HREF=y.htm>three</A></P>\r\n</BODY></HTML>\r\n");
+  for (int step = 0; step < 4; ++step) Choose("mnuUndo");
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("x.htm")); })) << Seen(page);
 }
 
 TEST_F(RealPageEdits, WhatIsTypedWithATableSelectedGoesBehindIt) {

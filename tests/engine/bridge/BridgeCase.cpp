@@ -18,11 +18,18 @@ namespace {
 
 const std::map<QString, int> &CommandNumbers() {
   static const std::map<QString, int> numbers = {
-      {"bold", 5000},    {"copy", 5002},   {"cut", 5003},  {"delete", 5004}, {"indent", 5018},
-      {"italic", 5023},  {"center", 5024}, {"left", 5025}, {"right", 5026},  {"number", 5030},
-      {"outdent", 5031}, {"paste", 5032},  {"redo", 5033}, {"all", 5035},    {"back", 5042},
-      {"format", 5043},  {"font", 5044},   {"size", 5045}, {"color", 5046},  {"underline", 5048},
-      {"undo", 5049},    {"bullet", 5051},
+      {"bold", 5000},        {"copy", 5002},         {"cut", 5003},         {"delete", 5004},
+      {"indent", 5018},      {"italic", 5023},       {"center", 5024},      {"left", 5025},
+      {"right", 5026},       {"number", 5030},       {"outdent", 5031},     {"paste", 5032},
+      {"redo", 5033},        {"all", 5035},          {"back", 5042},        {"format", 5043},
+      {"font", 5044},        {"size", 5045},         {"color", 5046},       {"underline", 5048},
+      {"undo", 5049},        {"bullet", 5051},       {"rowBelow", 6001},    {"rowAbove", 6002},
+      {"columnRight", 6003}, {"columnLeft", 6004},   {"deleteRow", 6005},   {"deleteColumn", 6006},
+      {"deleteTable", 6007}, {"merge", 6008},        {"split", 6009},       {"selectCell", 6010},
+      {"selectRow", 6011},   {"selectColumn", 6012}, {"selectTable", 6013}, {"rowUp", 6014},
+      {"rowDown", 6015},     {"columnBack", 6016},   {"columnOn", 6017},    {"distribute", 6018},
+      {"absolute", 6020},    {"front", 6021},        {"forward", 6022},     {"above", 6023},
+      {"toBack", 6024},      {"backward", 6025},     {"below", 6026},
   };
   return numbers;
 }
@@ -157,6 +164,12 @@ void Perform(BridgePage &page, const QString &step) {
     page.Evaluate(QStringLiteral("velor.pasteHTML(%1)").arg(ScriptText(value)));
   } else if (verb == QStringLiteral("link")) {
     page.Evaluate(QStringLiteral("velor.setLink(%1, 'text')").arg(PairsOf(value)));
+  } else if (verb == QStringLiteral("properties")) {
+    page.Evaluate(QStringLiteral("velor.setProperties(%1, Object.fromEntries(%2))")
+                      .arg(ScriptText(value.section(u' ', 0, 0)), PairsOf(value.section(u' ', 1))));
+  } else if (verb == QStringLiteral("path")) {
+    page.Evaluate(QStringLiteral("velor.actOnPath(%1, %2)")
+                      .arg(value.section(u' ', 0, 0), ScriptText(value.section(u' ', 1))));
   } else if (verb == QStringLiteral("bookmark")) {
     page.Evaluate(QStringLiteral("velor.setBookmark(%1)").arg(ScriptText(value)));
   } else if (verb == QStringLiteral("object")) {

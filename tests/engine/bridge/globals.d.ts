@@ -7,5 +7,6 @@ declare var sweep: any;
 declare var sweptChanges: string[];
 declare var sweptKinds: string[];
 declare var source: any;
+declare var tryTables: any;
 declare var walk: any;
 declare var work: any;

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
+// Kinds of fields of the properties dialogs: how each is read from an element, and how a new value
+// is written where the page has it, else in the page's dialect. A value is a text; the empty one
+// takes what says it off.
+import { declarations, isOf, putDeclaration, takeDeclaration } from '../formats/declarations.js';
+import { setAttributes } from '../formats/links.js';
+import * as dom from '../page/dom.js';
+
+/**
+ * `write` answers the element that then stands for the one given, where that is another one.
+ * @typedef {{ read(element: AnyNode): string,
+ *   write?(element: AnyNode, value: string): AnyNode | void }} Field
+ */
+
+/**
+ * An attribute that has no style in its place.
+ * @param {string} name
+ * @returns {Field}
+ */
+export const attribute = (name) => ({
+  read: (element) => element.getAttribute(name) ?? '',
+  write: (element, value) => setAttributes(element, [[name, value]]),
+});
+
+// What an inline style says of a property, as the page writes it.
+/**
+ * @param {Element} element
+ * @param {string} property
+ */
+const said = (element, property) => {
+  const found = declarations(element).findLast(isOf(property));
+  return found ? found.slice(found.indexOf(':') + 1).replace(/!important/i, '').trim() : '';
+};
+
+/**
+ * What an attribute says in old pages and an inline style in others.
+ * @param {string} name
+ * @param {string} property
+ * @param {{ inStyle?(value: string): string, fromStyle?(value: string): string }} [spelling]
+ * @returns {Field}
+ */
+export const look = (name, property, spelling = {}) => ({
+  read(element) {
+    const styled = said(element, property);
+    return styled ? spelling.fromStyle?.(styled) ?? styled : element.getAttribute(name) ?? '';
+  },
+  write(element, value) {
+    const isStyled = said(element, property) !== '';
+    if (!value) {
+      setAttributes(element, [[name, '']]);
+      if (isStyled) takeDeclaration(element, property);
+      return;
+    }
+    const isSaid = element.hasAttribute(name);
+    if (isStyled || (!isSaid && dom.writesStyles())) {
+      putDeclaration(element, property, spelling.inStyle?.(value) ?? value);
+    }
+    if (isSaid || (!isStyled && !dom.writesStyles())) setAttributes(element, [[name, value]]);
+  },
+});
+
+/**
+ * A width or height: a number of pixels, or a length with its unit.
+ * @param {string} name
+ */
+export const length = (name) => look(name, name, {
+  inStyle: (value) => (/^\d+(\.\d+)?$/.test(value) ? `${value}px` : value),
+  fromStyle: (value) => value.replace(/^(\d+(\.\d+)?)px$/i, '$1'),
+});
+
+/**
+ * A style that no attribute stands for.
+ * @param {string} property
+ * @returns {Field}
+ */
+export const style = (property) => ({
+  read: (element) => said(element, property),
+  write(element, value) {
+    if (value) putDeclaration(element, property, value);
+    else takeDeclaration(element, property);
+  },
+});
+
+/**
+ * What is only told.
+ * @param {(element: AnyNode) => unknown} read
+ * @returns {Field}
+ */
+export const told = (read) => ({ read: (element) => String(read(element)) });

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
+// What the properties dialogs read and change. A value that the subject's elements have not in
+// common is the empty text.
+import { subjectOf } from './subjects.js';
+import * as dom from '../page/dom.js';
+import * as history from '../page/history.js';
+import * as selection from '../page/selection.js';
+import { resolveAll } from '../page/standIns.js';
+import { work } from '../page/working.js';
+import { readView } from '../talk/commands.js';
+import { schedulePush } from '../talk/pace.js';
+
+/**
+ * The properties of a subject ('page', 'image', 'table', 'cell', 'link', 'fonts') by their names;
+ * none where it is not there.
+ * @param {string} name
+ * @returns {Record<string, string>}
+ */
+export function properties(name) {
+  if (!dom.isEditable()) return {};
+  const { find, fields } = subjectOf(name);
+  const elements = find(readView());
+  if (!elements.length) return {};
+  return Object.fromEntries(Object.entries(fields).map(([field, { read }]) => {
+    const values = new Set(elements.map((element) => read(element)));
+    return [field, values.size === 1 ? [...values][0] : ''];
+  }));
+}
+
+/**
+ * Changes properties of a subject, as one step of the history; those that are not given stay.
+ * @param {string} name
+ * @param {Record<string, string>} changed
+ */
+export function setProperties(name, changed) {
+  if (!dom.isEditable()) return;
+  work(() => history.step('properties', () => {
+    const view = readView();
+    const { find, fields } = subjectOf(name);
+    let elements = find(view);
+    if (!elements.length) return;
+    if (!view.range?.collapsed) resolveAll();
+    const saved = selection.save();
+    for (const [field, value] of Object.entries(changed)) {
+      const { write } = fields[field] ?? {};
+      if (write) elements = elements.map((element) => write(element, value) ?? element);
+    }
+    if (name !== 'fonts') selection.restore(saved);
+  }));
+  schedulePush();
+}

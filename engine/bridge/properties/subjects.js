@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
+// What each properties dialog is about, and its fields.
+import { attribute, length, look, style, told } from './fields.js';
+import { formats } from '../formats/formats.js';
+import { apply as applyFormat } from '../formats/inline.js';
+import { linkOf, setAttributes } from '../formats/links.js';
+import * as align from '../formats/align.js';
+import * as pending from '../formats/pending.js';
+import * as dom from '../page/dom.js';
+import * as selection from '../page/selection.js';
+import { unitsIn } from '../page/units.js';
+import { rectangleChosen } from '../tables/chosen.js';
+import { gridOf, placesIn } from '../tables/grid.js';
+import { takeAttribute } from '../tables/making.js';
+import { Command } from '../talk/vocabulary.js';
+import { queryValue, statusOf } from '../talk/commands.js';
+
+/**
+ * `find` answers the elements that the dialog is about, none where it does not apply.
+ * @typedef {import('./fields.js').Field} Field
+ * @typedef {{ find(view: View): AnyNode[], fields: Record<string, Field> }} Subject
+ */
+
+const common = { id: attribute('id'), class: attribute('class'), title: attribute('title') };
+const background = look('bgcolor', 'background-color');
+
+// The alignment of a table, a unit of its own.
+/** @type {Field} */
+const tableAlign = {
+  read(table) {
+    const unit = { object: table, home: table, block: table, container: table.parentNode,
+      nodes: [table] };
+    const isSaid = table.hasAttribute('align') || table.style.marginLeft === 'auto';
+    return isSaid ? align.read(unit) : '';
+  },
+  write(table, value) {
+    selection.selectNode(table);
+    align.applyAll(unitsIn(selection.range()),
+      /** @type {align.AlignSide} */ (value || 'left'));
+  },
+};
+
+/** @type {Field} */
+const caption = {
+  read: (table) => table.caption?.textContent ?? '',
+  write(table, value) {
+    const { caption: old } = table;
+    if (!value) old?.remove();
+    else if (old) old.textContent = value;
+    else {
+      const made = dom.create('CAPTION');
+      made.append(value);
+      table.prepend(made);
+    }
+  },
+};
+
+// Whether all cells of a table's first row, or first column, are headings.
+/**
+ * @param {'row' | 'column'} part
+ * @returns {Field}
+ */
+const headings = (part) => {
+  /** @param {AnyNode} table */
+  const cellsOf = (table) => {
+    const grid = gridOf(table);
+    const { width, height } = grid;
+    if (!height) return [];
+    return placesIn(grid, part === 'row' ? { top: 0, left: 0, bottom: 0, right: width - 1 }
+      : { top: 0, left: 0, bottom: height - 1, right: 0 }).map(({ cell }) => cell);
+  };
+  const scope = part === 'row' ? 'col' : 'row';
+  return {
+    read(table) {
+      const cells = cellsOf(table);
+      return cells.length && cells.every(({ tagName }) => tagName === 'TH') ? 'true' : '';
+    },
+    write(table, value) {
+      for (const cell of cellsOf(table)) {
+        const made = dom.rename(cell, value ? 'TH' : 'TD');
+        if (value) made.setAttribute('scope', scope);
+        else takeAttribute(made, 'scope');
+      }
+    },
+  };
+};
+
+/** @type {Field} */
+const isHeading = {
+  read: (cell) => (cell.tagName === 'TH' ? 'true' : ''),
+  write: (cell, value) => dom.rename(cell, value ? 'TH' : 'TD'),
+};
+/** @type {Field} */
+const noWrap = {
+  read: (cell) => (cell.hasAttribute('nowrap') || cell.style.whiteSpace === 'nowrap' ? 'true' : ''),
+  write(cell, value) {
+    if (value && dom.writesStyles()) style('white-space').write(cell, 'nowrap');
+    else if (value) cell.setAttribute('nowrap', '');
+    else {
+      takeAttribute(cell, 'nowrap');
+      if (cell.style.whiteSpace) style('white-space').write(cell, '');
+    }
+  },
+};
+
+// A picture that only adorns has an empty description, which is not the same as none.
+/** @type {Field} */
+const decorative = {
+  read: (image) => (image.getAttribute('alt') === '' ? 'true' : ''),
+  write(image, value) {
+    if (value) image.setAttribute('alt', '');
+    else if (image.getAttribute('alt') === '') takeAttribute(image, 'alt');
+  },
+};
+
+// A META element of the head, by its name.
+/**
+ * @param {string} name
+ * @returns {Field}
+ */
+const meta = (name) => {
+  const find = () => [...document.head?.querySelectorAll('meta[name]') ?? []]
+    .find((each) => each.getAttribute('name').toLowerCase() === name);
+  return {
+    read: () => find()?.getAttribute('content') ?? '',
+    write(body, value) {
+      const found = find();
+      if (!value) found?.remove();
+      else if (found) found.setAttribute('content', value);
+      else {
+        const last = [...document.head.children].findLast(({ tagName }) =>
+          /^(META|TITLE)$/.test(tagName));
+        const made = dom.create('META', { name, content: value });
+        if (last) putOnLine(made, last);
+        else document.head.append(made);
+      }
+    },
+  };
+};
+// Behind an element of the head, on a line of its own where that is on one.
+/**
+ * @param {Element} made
+ * @param {Element} behind
+ */
+function putOnLine(made, behind) {
+  const before = behind.previousSibling;
+  const [line] = (dom.isText(before) && /\n[ \t]*$/.exec(before.data)) || [''];
+  behind.after(line, made);
+}
+/** @type {Field} */
+const title = {
+  read: () => document.title,
+  write(body, value) {
+    const found = document.head.querySelector('title');
+    if (found) {
+      found.textContent = value;
+    } else if (value) {
+      const made = dom.create('TITLE');
+      made.append(value);
+      document.head.append(made);
+    }
+  },
+};
+/**
+ * An attribute of the root element.
+ * @param {string} name
+ * @returns {Field}
+ */
+const ofRoot = (name) => ({
+  read: () => document.documentElement.getAttribute(name) ?? '',
+  write: (body, value) => setAttributes(document.documentElement, [[name, value]]),
+});
+
+/**
+ * A character format of the selected text, or at the caret.
+ * @param {string} name
+ * @param {number} command
+ * @returns {Field}
+ */
+const format = (name, command) => ({
+  read: () => queryValue(command),
+  write(element, value) {
+    const wanted = formats[name].parse(value);
+    if (wanted !== '') putFormat(name, wanted);
+  },
+});
+/**
+ * @param {string} name
+ * @param {number} command
+ * @returns {Field}
+ */
+const toggled = (name, command) => ({
+  read: () => ({ 3: '', 7: 'true', 11: 'mixed' })[statusOf(command)] ?? '',
+  write: (element, value) => putFormat(name, value === 'true'),
+});
+/**
+ * @param {string} name
+ * @param {FormatValue} value
+ */
+function putFormat(name, value) {
+  const range = selection.range();
+  if (selection.textsIn(range, 1).length) applyFormat(name, value, range);
+  else pending.set(name, value);
+}
+
+/** @param {string} name */
+const inBody = (name) => (dom.writesStyles() ? {} : { [name]: attribute(name) });
+/** @returns {Record<string, Field>} */
+const pageFields = () => ({
+  title, language: ofRoot('lang'), direction: ofRoot('dir'), viewport: meta('viewport'),
+  description: meta('description'), author: meta('author'),
+  text: look('text', 'color'), background, picture: attribute('background'),
+  ...inBody('link'), ...inBody('vlink'), ...inBody('alink'),
+  charset: told(() => document.characterSet), mode: told(() => document.compatMode),
+  dialect: told(() => (dom.writesStyles() ? 'html5' : 'old')),
+});
+
+/** @type {Record<string, Subject>} */
+const subjects = {
+  image: {
+    find: ({ object }) => (object?.tagName === 'IMG' ? [object] : []),
+    fields: { src: attribute('src'), alt: attribute('alt'), decorative, width: length('width'),
+      height: length('height'), border: attribute('border'), loading: attribute('loading'),
+      ...common },
+  },
+  table: {
+    find: ({ chosen }) => [chosen()?.table].filter(Boolean),
+    fields: {
+      rows: told((table) => gridOf(table).height), columns: told((table) => gridOf(table).width),
+      caption, headRow: headings('row'), headColumn: headings('column'), width: length('width'),
+      align: tableAlign, border: attribute('border'), cellpadding: attribute('cellpadding'),
+      cellspacing: attribute('cellspacing'), background, ...common,
+    },
+  },
+  cell: {
+    find({ chosen, range }) {
+      const found = chosen() && rectangleChosen(chosen(), range);
+      return found ? placesIn(found.grid, found.rectangle).map(({ cell }) => cell) : [];
+    },
+    fields: {
+      rows: told((cell) => cell.rowSpan), columns: told((cell) => cell.colSpan),
+      heading: isHeading, width: length('width'), height: length('height'),
+      align: look('align', 'text-align'), valign: look('valign', 'vertical-align'), noWrap,
+      background, color: style('color'), ...common,
+    },
+  },
+  link: {
+    find: (view) => [linkOf(view)].filter(Boolean),
+    fields: { href: attribute('href'), target: attribute('target'), rel: attribute('rel'),
+      name: attribute('name'), ...common },
+  },
+  fonts: {
+    find: ({ range }) => (range ? [document.body] : []),
+    fields: {
+      fontName: format('fontName', Command.GetFontName),
+      fontSize: format('fontSize', Command.GetFontSize),
+      color: format('foreColor', Command.GetForeColor),
+      background: format('backColor', Command.GetBackColor),
+      bold: toggled('bold', Command.Bold), italic: toggled('italic', Command.Italic),
+      underline: toggled('underline', Command.Underline),
+    },
+  },
+};
+
+/**
+ * @param {string} name
+ * @returns {Subject | undefined}
+ */
+export const subjectOf = (name) => (name === 'page'
+  ? { find: () => [document.body], fields: pageFields() } : subjects[name]);

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "properties/frmProperties.h"
+
+#include "insert/FormParts.h"
+#include "insert/TextBox.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace velor {
+namespace {
+
+constexpr int ComfortableWidth = 420;
+
+QString NameOf(const PropertyField &field) {
+  return QStringLiteral("prp_") + QLatin1String(field.name);
+}
+
+}  // namespace
+
+frmProperties::frmProperties(const PropertySheet &sheet, const PropertyValues &values,
+                             QWidget *parent)
+    : QDialog(parent), known_(values) {
+  setObjectName(QStringLiteral("frmProperties"));
+  setWindowTitle(QLatin1String(sheet.title));
+  setModal(true);
+  QVBoxLayout *window = FormParts::MakePage(this);
+  QFormLayout *form = FormParts::AddForm(window);
+  for (const PropertyField &field : sheet.fields) {
+    if (values.contains(QLatin1String(field.name)))
+      AddRow(field, values.value(QLatin1String(field.name)), form);
+  }
+  refusal_ = FormParts::AddRefusal(window, {});
+  QPushButton *ok = FormParts::MakeButton(QStringLiteral("cmdOK"), QStringLiteral("OK"));
+  QPushButton *apply = FormParts::MakeButton(QStringLiteral("cmdApply"), QStringLiteral("A&pply"));
+  QPushButton *cancel =
+      FormParts::MakeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"));
+  connect(ok, &QPushButton::clicked, this, [this] {
+    if (Apply()) accept();
+  });
+  connect(apply, &QPushButton::clicked, this, &frmProperties::Apply);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  FormParts::AddButtonRow(window, {ok, apply, cancel});
+  setMinimumWidth(ComfortableWidth);
+}
+
+void frmProperties::AddRow(const PropertyField &field, const QString &value, QFormLayout *form) {
+  const QString name = NameOf(field);
+  const QString label = QLatin1String(field.label);
+  Row row{.field = &field};
+  QWidget *control = nullptr;
+  switch (field.kind) {
+    case FieldKind::Text:
+    case FieldKind::Length:
+    case FieldKind::Color:
+      control = row.text = FormParts::AddTextBox(form, name, label);
+      row.text->setText(value);
+      row.text->setPlaceholderText(QLatin1String(field.help));
+      connect(row.text, &QLineEdit::textEdited, this, [this] { refusal_->hide(); });
+      break;
+    case FieldKind::Choice: {
+      control = row.choice = FormParts::AddComboBox(form, name, label, {});
+      for (const QString &choice : QString::fromLatin1(field.choices).split(u'|'))
+        row.choice->addItem(choice.section(u'=', 1), choice.section(u'=', 0, 0));
+      if (row.choice->findData(value) < 0) row.choice->addItem(value, value);
+      row.choice->setCurrentIndex(row.choice->findData(value));
+      break;
+    }
+    case FieldKind::Truth:
+      control = row.truth = FormParts::AddCheckBox(form, name, label);
+      if (value == u"mixed")
+        row.truth->setCheckState(Qt::PartiallyChecked);
+      else
+        row.truth->setChecked(value == u"true");
+      break;
+    case FieldKind::Told: {
+      auto *text = new QLabel(value);
+      text->setTextFormat(Qt::PlainText);
+      FormParts::AddControl(form, name, label, text);
+      return;
+    }
+  }
+  control->setToolTip(QLatin1String(field.help));
+  control->setAccessibleDescription(QLatin1String(field.help));
+  rows_.push_back(row);
+}
+
+QString frmProperties::ValueOf(const Row &row) {
+  if (row.text != nullptr) return row.text->text().trimmed();
+  if (row.choice != nullptr) return row.choice->currentData().toString();
+  if (row.truth->checkState() == Qt::PartiallyChecked) return QStringLiteral("mixed");
+  return row.truth->isChecked() ? QStringLiteral("true") : QString();
+}
+
+bool frmProperties::Apply() {
+  PropertyValues changed;
+  for (const Row &row : rows_) {
+    const QString value = ValueOf(row);
+    const QString name = QLatin1String(row.field->name);
+    if (value == known_.value(name)) continue;
+    if (const QString why = PropertyRefusal(*row.field, value); !why.isEmpty()) {
+      FormParts::Refuse(*refusal_, why, *row.text);
+      return false;
+    }
+    changed.insert(name, value);
+  }
+  for (auto value = changed.begin(); value != changed.end(); ++value)
+    known_.insert(value.key(), value.value());
+  if (!changed.isEmpty()) Q_EMIT Changed(changed);
+  return true;
+}
+
+}  // namespace velor

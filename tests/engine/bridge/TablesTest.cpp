@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The grid of tables: what holds for every table after every change of its rows, columns and cells.
+#include "tests/engine/bridge/BridgePage.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace velor {
+namespace {
+
+TEST(Tables, NoChangeOfTenThousandLeavesAHoleAnOverlapOrAnotherWord) {
+  QFile script(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/tables.js"));
+  ASSERT_TRUE(script.open(QIODevice::ReadOnly));
+  BridgePage page;
+  page.Load(QStringLiteral("<!DOCTYPE html><p>one|</p>"));
+  page.Evaluate(QString::fromUtf8(script.readAll()));
+  const QVariantMap tried = page.Evaluate(QStringLiteral("tryTables(10000)")).toMap();
+  EXPECT_EQ(tried[QStringLiteral("fault")].toString().toStdString(), "");
+  const QVariantMap done = tried[QStringLiteral("done")].toMap();
+  const QStringList kinds = tried[QStringLiteral("kinds")].toStringList();
+  EXPECT_EQ(kinds.size(), 14);
+  for (const QString &kind : kinds) EXPECT_GT(done[kind].toInt(), 300) << kind.toStdString();
+}
+
+}  // namespace
+}  // namespace velor
