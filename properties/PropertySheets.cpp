@@ -33,7 +33,7 @@ constexpr PropertyField Told(const char *name, const char *label) {
 }
 constexpr PropertyField Class = {"class", "C&lass:", FieldKind::Text, "",
                                  "Names of rules of the page's style sheets, parted by blanks"};
-constexpr PropertyField Id = {"id", "I&d:", FieldKind::Text, "",
+constexpr PropertyField Id = {"id", "&Id:", FieldKind::Text, "",
                               "A name of its own, for links and style sheets"};
 
 constexpr PropertyField PageFields[] = {
@@ -48,15 +48,15 @@ constexpr PropertyField PageFields[] = {
     Color("background", "&Background:"),
     {"picture", "Background &picture:"},
     Color("link", "Lin&k colour:"),
-    Color("vlink", "Visited lin&k colour:"),
-    Color("alink", "Active lin&k colour:"),
+    Color("vlink", "Visited link col&our:"),
+    Color("alink", "Active link colo&ur:"),
     Told("charset", "Charset:"),
     Told("mode", "Rendering:"),
 };
 constexpr PropertyField ImageFields[] = {
     {"src", "&Address:"},
     {"alt", "&Description:", FieldKind::Text, "", "Read out, and shown where the picture is not"},
-    Truth("decorative", "It onl&y adorns", "Nothing is read out for it"),
+    Truth("decorative", "It only ador&ns", "Nothing is read out for it"),
     Length("width", "&Width:"),
     Length("height", "&Height:"),
     Length("border", "&Border:"),

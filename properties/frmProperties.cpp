@@ -36,7 +36,7 @@ frmProperties::frmProperties(const PropertySheet &sheet, const PropertyValues &v
   }
   refusal_ = FormParts::AddRefusal(window, {});
   QPushButton *ok = FormParts::MakeButton(QStringLiteral("cmdOK"), QStringLiteral("OK"));
-  QPushButton *apply = FormParts::MakeButton(QStringLiteral("cmdApply"), QStringLiteral("A&pply"));
+  QPushButton *apply = FormParts::MakeButton(QStringLiteral("cmdApply"), QStringLiteral("Appl&y"));
   QPushButton *cancel =
       FormParts::MakeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"));
   connect(ok, &QPushButton::clicked, this, [this] {

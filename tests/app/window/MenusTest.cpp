@@ -2,8 +2,10 @@
 #include "app/settings/modSettingManager.h"
 #include "app/window/PageTabs.h"
 #include "editor/frmMain.h"
+#include "properties/frmProperties.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeSourceControl.h"
+#include "tests/support/KeyboardWalk.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -309,6 +311,17 @@ TEST_F(PropertyDialogs, RefuseWhatIsNoLengthOrColour) {
   Choose("extTablePro");
   EXPECT_EQ(Written(),
             QStringList(QStringLiteral("SetProperties(2, background=#112233 width=120)")));
+}
+
+TEST_F(PropertyDialogs, NoTwoFieldsOfOneShareAnAltKey) {
+  using enum PropertySubject;
+  for (const PropertySubject subject : {Page, Image, Table, Cell, Link, Fonts}) {
+    const PropertySheet &sheet = SheetOf(subject);
+    PropertyValues values;
+    for (const PropertyField &field : sheet.fields) values[QLatin1String(field.name)] = QString();
+    const frmProperties dialog(sheet, values, nullptr);
+    EXPECT_EQ(SharedAltKeys(dialog).toStdString(), "") << sheet.title;
+  }
 }
 
 TEST_F(PropertyDialogs, CancelledOrUnchangedWriteNothing) {
