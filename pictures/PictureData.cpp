@@ -86,7 +86,7 @@ std::optional<QByteArray> WebPWithout(const QByteArray &file) {
   constexpr char DataFlags = 0x08 | 0x04;  // EXIF, XMP
   QByteArray kept = file.left(Header);
   for (qsizetype at = Header; at + 8 <= file.size();) {
-    const quint32 length = qFromLittleEndian<quint32>(file.constData() + at + 4);
+    const auto length = qFromLittleEndian<quint32>(file.constData() + at + 4);
     const qsizetype end = at + 8 + length + length % 2;
     if (end > file.size()) return std::nullopt;
     const QByteArray name = file.mid(at, 4);

@@ -54,7 +54,7 @@ DriveMap DriveMap::Parse(const QString &text, const QString &name) {
     };
     const QRegularExpressionMatch match = form.match(entry);
     if (!match.hasMatch()) {
-      fail(Words::tr("\"%1\" does not map a drive; write lines like \"C: /home/me/windows\"")
+      fail(Words::tr(R"("%1" does not map a drive; write lines like "C: /home/me/windows")")
                .arg(entry));
     }
     const QChar letter = match.captured(1).at(0).toUpper();

@@ -90,7 +90,7 @@ RuntimeError FaultOf(const Registry &registry, const Preference &preference,
                      const RuntimeError &cause) {
   return RuntimeError::Of(
       cause.Number(), cause.Source(),
-      Words::tr("the setting %1 in %2 is \"%3\"; \"%4\" counts until it is mended")
+      Words::tr(R"(the setting %1 in %2 is "%3"; "%4" counts until it is mended)")
           .arg(preference.Name(), OptionsPlace(registry), GetOption(registry, preference),
                preference.Default()));
 }

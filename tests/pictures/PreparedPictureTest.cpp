@@ -65,7 +65,7 @@ TEST(PreparedPicture, AGifAndADrawingStayAsTheyAreAndScriptsAreTold) {
   EXPECT_EQ(PreparePicture(gif, {}, {}).bytes, gif);
   EXPECT_EQ(PreparePicture(gif, {}, {}).ending, QStringLiteral("gif"));
   const QByteArray drawing =
-      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"30\" height=\"20\"><g/></svg>";
+      R"(<svg xmlns="http://www.w3.org/2000/svg" width="30" height="20"><g/></svg>)";
   const PreparedPicture plain = PreparePicture(drawing, QStringLiteral("svg"), {});
   EXPECT_EQ(plain.bytes, drawing);
   EXPECT_EQ(plain.size, QSize(30, 20));

@@ -102,7 +102,7 @@ TEST_F(RealPictures, UndoTakesTheFileAwayRedoBringsItBackAndASaveKeepsIt) {
   Choose("mnuRedo");
   EXPECT_TRUE(SiteBecomes({"my-rose.png", "page.htm"}));
   Choose("mnuSave");
-  const QByteArray tag = "One<img src=\"my-rose.png\" width=\"60\" height=\"40\">";
+  const QByteArray tag = R"(One<img src="my-rose.png" width="60" height="40">)";
   EXPECT_EQ(Bytes(PageFile).toStdString(), QByteArray(Source).replace("One", tag).toStdString());
   EXPECT_TRUE(page.close());
   EXPECT_EQ(Site(), Names({"my-rose.png", "page.htm"}));

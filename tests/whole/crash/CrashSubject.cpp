@@ -65,8 +65,9 @@ class Subject {
     Page().ChangeMode(3);
     SourceControl &code = window_.Context().pages.CodeEditor(1)->Code();
     input_ = code.Widget();
-    code.Find(QStringLiteral("<p>-"), SearchDirection::Here, LetterCase::Matched);
-    QTest::keyClick(input_, Qt::Key_Right);
+    const QString start = QStringLiteral("<p>-");
+    const qsizetype place = code.Text().indexOf(start) + start.size();
+    code.Select({place, place});
   }
 
   /// Between two keys as a person leaves it: mostly little, now and then a pause.

@@ -308,9 +308,10 @@ class Subject {
   void TypeSource(frmMain &page, const QString &word) {
     frmCodeEditor *editor = Editor(page);
     if (editor == nullptr) return;
-    if (!editor->Code().Find(QStringLiteral("</p>"), SearchDirection::Here, LetterCase::Matched))
-      return;
-    editor->Code().ReplaceSelection(word + QStringLiteral("</p>"));
+    const qsizetype place = editor->Code().Text().indexOf(QStringLiteral("</p>"));
+    if (place < 0) return;
+    editor->Code().Select({place, place});
+    editor->Code().ReplaceSelection(word);
   }
   void Apply(frmMain &page) {
     if (frmCodeEditor *editor = Editor(page))
