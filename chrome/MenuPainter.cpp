@@ -246,6 +246,7 @@ class StyleMenuPainter::Style final : public QProxyStyle {
     if (!item->icon.isNull()) {
       const QRect place(item->rect.left() + ItemSpace,
                         item->rect.center().y() - MenuIconSize / 2 + 1, MenuIconSize, MenuIconSize);
+      if (item->checked) DrawMark(painter, place, text);
       DrawIcon(painter, item->icon, place, enabled ? QIcon::Normal : QIcon::Disabled, text,
                item->palette);
     } else if (item->checked) {
@@ -253,6 +254,18 @@ class StyleMenuPainter::Style final : public QProxyStyle {
     }
     DrawShortcutAndText(painter, item, text, proxy());
     if (item->menuItemType == QStyleOptionMenuItem::SubMenu) DrawArrow(painter, item->rect, text);
+  }
+
+  /// An item with a picture is marked by a frame around that.
+  static void DrawMark(QPainter *painter, const QRect &picture, const QColor &text) {
+    constexpr int Room = 3;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(text);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(QRectF(picture).adjusted(-Room, -Room, Room, Room), Rounding,
+                             Rounding);
+    painter->restore();
   }
 
   MenuLook look_;

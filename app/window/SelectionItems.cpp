@@ -15,11 +15,13 @@
 namespace velor {
 namespace {
 
+/// All items of the context menu are, those without an action too: they never apply.
 bool IsOne(const MenuRow &row) {
-  if (row.kind != MenuKind::Item || row.reach != Reach::Beyond) return false;
+  if (row.kind != MenuKind::Item) return false;
+  if (QLatin1String(row.name).startsWith(QLatin1String("ext"))) return true;
   const auto *editing = std::get_if<EditingCommand>(&row.command.argument);
-  return QLatin1String(row.name).startsWith(QLatin1String("ext")) ||
-         row.command.id == CommandId::ShowDetail || (editing != nullptr && IsAddition(*editing));
+  return row.reach == Reach::Beyond &&
+         (row.command.id == CommandId::ShowDetail || (editing != nullptr && IsAddition(*editing)));
 }
 
 bool Applies(EditingComponent &page, EditingCommand command) {

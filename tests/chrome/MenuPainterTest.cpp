@@ -191,6 +191,19 @@ TEST_F(MenuPainterTest, AnItemWithoutAPictureKeepsItsPlainLook) {
   EXPECT_NE(before.copy(itemPlace), after.copy(itemPlace));
 }
 
+TEST_F(MenuPainterTest, ASwitchThatIsOnIsMarkedBesideItsPictureToo) {
+  for (QAction *action : {item, plain}) {
+    action->setCheckable(true);
+    for (const QIcon &picture : {QIcon(), IconFor(QStringLiteral("open"))}) {
+      action->setIcon(picture);
+      action->setChecked(false);
+      const QImage off = Shown(Shade::Light);
+      action->setChecked(true);
+      EXPECT_NE(off, Shown(Shade::Light)) << action->objectName().toStdString();
+    }
+  }
+}
+
 TEST_F(MenuPainterTest, TheSweepLooksPicturesUpByTheNameInLowerCase) {
   ImageList images;
   images.insert(QStringLiteral("mnuopen"), IconFor(QStringLiteral("open")));

@@ -210,6 +210,13 @@ TEST_F(MenusTest, TheContextMenusItemsAreEnabledByWhatIsSelected) {
   }
 }
 
+TEST_F(MenusTest, AnItemOfTheContextMenuWithoutAnActionIsOff) {
+  NewPage();
+  Parts().requests.PopUpContextMenu(QPoint(60, 70));
+  Find<QMenu>("mnuExt")->close();
+  for (const char *item : {"extInHTML", "extGetTag"}) EXPECT_FALSE(Item(item)->isEnabled()) << item;
+}
+
 TEST_F(MenusTest, DetailsGridAndPositionAreMarkedWhereTheyAreOn) {
   frmMain &page = NewPage();
   const auto isMarked = [&](const char *name) {
@@ -317,9 +324,9 @@ TEST_F(PropertyDialogs, NoTwoFieldsOfOneShareAnAltKey) {
   using enum PropertySubject;
   for (const PropertySubject subject : {Page, Image, Table, Cell, Link, Fonts}) {
     const PropertySheet &sheet = SheetOf(subject);
-    PropertyValues values;
-    for (const PropertyField &field : sheet.fields) values[QLatin1String(field.name)] = QString();
-    const frmProperties dialog(sheet, values, nullptr);
+    PropertyValues empty;
+    for (const PropertyField &field : sheet.fields) empty[QLatin1String(field.name)] = QString();
+    const frmProperties dialog(sheet, empty, nullptr);
     EXPECT_EQ(SharedAltKeys(dialog).toStdString(), "") << sheet.title;
   }
 }
