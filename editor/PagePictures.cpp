@@ -97,7 +97,7 @@ QWidget &PagePictures::Bar() {
 }
 
 bool PagePictures::IsOn() const {
-  return !modSettingManager::IsOn(context_.platform.registry, PreferenceOf("PublishedOnly"));
+  return modSettingManager::HasAdditions(context_.platform.registry);
 }
 
 bool PagePictures::HasPath() const {

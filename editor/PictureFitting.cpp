@@ -103,9 +103,7 @@ void PictureFitting::SelectionChanged() {
   picture_ = picture;
   before_.reset();
   hide();
-  const bool isOff =
-      modSettingManager::IsOn(context_.platform.registry, PreferenceOf("PublishedOnly"));
-  if (isOff || !IsMuchLarger()) return;
+  if (!modSettingManager::HasAdditions(context_.platform.registry) || !IsMuchLarger()) return;
   try {
     file_ = FileOfSelection();
   } catch (const RuntimeError &) {

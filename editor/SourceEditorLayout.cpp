@@ -170,8 +170,7 @@ QWidget *frmCodeEditor::BuildMain() {
   onKey(Qt::CTRL | Qt::Key_Return, [this] { Apply(); });
   onKey(Qt::CTRL | Qt::Key_Enter, [this] { Apply(); });
   // Elsewhere they are those of the Tools menu.
-  if (modSettingManager::IsOn(context_.platform.registry, PreferenceOf("PublishedOnly")))
-    AddFindKeys(*findBar, *this);
+  if (!modSettingManager::HasAdditions(context_.platform.registry)) AddFindKeys(*findBar, *this);
   code_->Widget()->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(code_->Widget(), &QWidget::customContextMenuRequested, this, &frmCodeEditor::PopUpMenu);
   return sourceArea;

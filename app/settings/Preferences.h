@@ -48,7 +48,7 @@ inline constexpr auto PreferenceTable = [] {
       {"mnuHighlight",       Color,   "16761024", AtOnce,    "app/window/MenuSettings.cpp"},
       {"mnuHighFore",        Color,   "0",        AtOnce,    "app/window/MenuSettings.cpp"},
       {"WholeTemplateSigns", Truth,   "True",     NextStart, "app/window/Additions.cpp"},
-      {"PublishedOnly",      Truth,   "False",    NextStart, "app/window/Additions.cpp"},
+      {"PublishedOnly",      Truth,   "False",    NextStart, "app/settings/modSettingManager.cpp"},
   });
   // clang-format on
 }();

@@ -86,6 +86,10 @@ bool IsOn(const Registry &registry, const Preference &preference) {
   return chosen == on || chosen == off ? chosen == on : CBool(preference.Default());
 }
 
+bool HasAdditions(const Registry &registry) {
+  return !IsOn(registry, PreferenceOf("PublishedOnly"));
+}
+
 RuntimeError FaultOf(const Registry &registry, const Preference &preference,
                      const RuntimeError &cause) {
   return RuntimeError::Of(

@@ -55,6 +55,10 @@ std::int32_t LongOption(const Registry &registry, const Preference &preference,
 /// default counts, and nothing is told.
 bool IsOn(const Registry &registry, const Preference &preference);
 
+/// Whether the program goes beyond the published behaviour: the preference "PublishedOnly" is not
+/// on.
+bool HasAdditions(const Registry &registry);
+
 /// The error for a preference whose stored text is unusable, with the number of `cause`.
 RuntimeError FaultOf(const Registry &registry, const Preference &preference,
                      const RuntimeError &cause);

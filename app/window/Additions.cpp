@@ -6,8 +6,7 @@
 namespace velor {
 
 Additions ReadAdditions(const Registry &registry) {
-  return modSettingManager::IsOn(registry, PreferenceOf("PublishedOnly")) ? Additions::Off
-                                                                          : Additions::On;
+  return modSettingManager::HasAdditions(registry) ? Additions::On : Additions::Off;
 }
 
 bool KeepsTemplateSignsWhole(const Registry &registry) {
