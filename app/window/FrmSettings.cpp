@@ -40,7 +40,7 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
   AddTruth(pages, PreferenceOf("ShowDetails"), QStringLiteral("Show &details"));
   AddTruth(pages, PreferenceOf("SnapToGrid"), QStringLiteral("&Snap to grid"));
   AddTruth(pages, PreferenceOf("showtoolbox"),
-           QStringLiteral("&Forget the inspected element when another page comes to the front"));
+           QStringLiteral("&Forget the inspected element with its page"));
   QFormLayout *source = AddFrame(left, QStringLiteral("Source"));
   AddTruth(source, PreferenceOf("WrapSource"), QStringLiteral("&Wrap long lines"));
   QFormLayout *images = AddFrame(left, QStringLiteral("Pictures from outside the site"));
@@ -54,9 +54,8 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
   QFormLayout *program = AddFrame(right, QStringLiteral("From the next start on"));
   AddTruth(program, PreferenceOf("WholeTemplateSigns"),
            QStringLiteral("&Keep template signs whole"));
-  QCheckBox *publishedOnly =
-      AddTruth(program, PreferenceOf("PublishedOnly"),
-               QStringLiteral("&Published behaviour only, without the menu Tools"));
+  QCheckBox *publishedOnly = AddTruth(program, PreferenceOf("PublishedOnly"),
+                                      QStringLiteral("&Published behaviour only (no menu Tools)"));
   publishedOnly->setToolTip(QStringLiteral("PublishedOnly=False in %1 brings the menu back.")
                                 .arg(Settings::OptionsPlace(registry)));
 
