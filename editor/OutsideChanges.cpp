@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/OutsideChanges.h"
 
-#include "chrome/Palette.h"
 #include "editor/PageSlots.h"
 #include "editor/VersionCompare.h"
 #include "editor/frmCodeEditor.h"
@@ -16,9 +15,6 @@
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 
 #include <algorithm>
@@ -36,26 +32,12 @@ constexpr std::chrono::milliseconds RetryDelay = 100ms;
 }  // namespace
 
 OutsideChanges::OutsideChanges(EditorContext &context, frmMain &page)
-    : QFrame(&page), context_(context), page_(page) {
-  setObjectName(QStringLiteral("picOutside"));
-  setAccessibleName(Words::tr("Changed file"));
-  auto *line = new QHBoxLayout(this);
-  line->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
-  line->setSpacing(BarMargin);
-  text_ = new QLabel;
-  text_->setObjectName(QStringLiteral("lblOutside"));
-  text_->setTextFormat(Qt::PlainText);
-  text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  line->addWidget(text_, 1);
+    : NoticeBar("picOutside", "lblOutside", Words::tr("Changed file"), &page),
+      context_(context),
+      page_(page) {
   const auto add = [&](const char *name, const QString &caption, const QString &tip,
                        void (OutsideChanges::*action)()) {
-    auto *button = new QPushButton(caption);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setAccessibleName(caption);
-    button->setToolTip(tip);
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, action);
-    line->addWidget(button);
+    connect(&AddButton(name, caption, tip), &QPushButton::clicked, this, action);
   };
   add("cmdKeepMine", Words::tr("Keep Mine"),
       Words::tr("Go on with the page as it is here; saving it keeps the other version"),
@@ -66,7 +48,6 @@ OutsideChanges::OutsideChanges(EditorContext &context, frmMain &page)
   add("cmdCompare", Words::tr("Compare"),
       Words::tr("Show both side by side as source, with the differences marked"),
       &OutsideChanges::Compare);
-  hide();
 
   retry_.setSingleShot(true);
   connect(&retry_, &QTimer::timeout, this, &OutsideChanges::CheckFile);
@@ -151,9 +132,7 @@ void OutsideChanges::RememberTrace() {
 }
 
 void OutsideChanges::ShowBar() {
-  text_->setText(
-      Words::tr("%1 was changed by another program, and has unsaved changes here.").arg(Name()));
-  show();
+  Tell(Words::tr("%1 was changed by another program, and has unsaved changes here.").arg(Name()));
 }
 
 void OutsideChanges::ReportRemoval() {
@@ -251,13 +230,6 @@ void OutsideChanges::Report(const QString &message) const {
 
 QString OutsideChanges::Name() const {
   return modGeneral::FileNameOfPath(path_);
-}
-
-void OutsideChanges::paintEvent(QPaintEvent *) {
-  QPainter painter(this);
-  painter.fillRect(rect(), HoverField(palette()));
-  painter.setPen(Hairline(palette()));
-  painter.drawLine(rect().topLeft(), rect().topRight());
 }
 
 }  // namespace velor

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "chrome/NoticeBar.h"
 #include "editor/EditorContext.h"
 #include "editor/FileTrace.h"
 #include "platform/FileWatch.h"
 
-#include <QFrame>
 #include <QTimer>
 
 #include <memory>
 #include <vector>
-
-class QLabel;
 
 namespace velor {
 
@@ -24,7 +22,7 @@ class frmMain;
 /// the other version), to load the file (the page's text goes to the replaced versions, and Undo
 /// brings it back), or to compare both. After Undo over such a load the file is another version
 /// again, and the bar comes back. Removal, return and permissions are reported in the status bar.
-class OutsideChanges final : public QFrame {
+class OutsideChanges final : public NoticeBar {
   Q_OBJECT
 
  public:
@@ -43,9 +41,6 @@ class OutsideChanges final : public QFrame {
   /// To be called when the document has changed: Undo and Redo may have led over a load of the
   /// file.
   void DocumentChanged();
-
- protected:
-  void paintEvent(QPaintEvent *event) override;
 
  private:
   /// Compares the file with what the page knows of it.
@@ -81,7 +76,6 @@ class OutsideChanges final : public QFrame {
   std::vector<KnownVersion> versions_;  ///< before and after each load since the last save
   QByteArray original_;                 ///< of the page, as last seen
   QTimer retry_;
-  QLabel *text_ = nullptr;
 };
 
 }  // namespace velor

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/PictureBar.h"
 
-#include "chrome/Palette.h"
-
 #include <QCheckBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QSignalBlocker>
 
@@ -20,17 +15,8 @@ constexpr int TextBoxWidth = 200;
 
 }  // namespace
 
-PictureBar::PictureBar(QWidget *parent) : QFrame(parent) {
-  setObjectName(QStringLiteral("picPicture"));
-  setAccessibleName(QStringLiteral("Picture put in"));
-  auto *line = new QHBoxLayout(this);
-  line->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
-  line->setSpacing(BarMargin);
-  message_ = new QLabel;
-  message_->setObjectName(QStringLiteral("lblPicture"));
-  message_->setTextFormat(Qt::PlainText);
-  message_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  line->addWidget(message_, 1);
+PictureBar::PictureBar(QWidget *parent)
+    : NoticeBar("picPicture", "lblPicture", QStringLiteral("Picture put in"), parent) {
   text_ = new QLineEdit;
   text_->setObjectName(QStringLiteral("txtPictureAlt"));
   text_->setAccessibleName(QStringLiteral("Alternative Text"));
@@ -38,25 +24,18 @@ PictureBar::PictureBar(QWidget *parent) : QFrame(parent) {
   text_->setToolTip(QStringLiteral("Alternative text: what is read where the picture is not seen"));
   text_->setMinimumWidth(TextBoxWidth);
   connect(text_, &QLineEdit::editingFinished, this, &PictureBar::GiveText);
-  line->addWidget(text_);
+  Add(*text_);
   decorative_ = new QCheckBox(QStringLiteral("Decorative"));
   decorative_->setObjectName(QStringLiteral("chkPictureDecorative"));
   decorative_->setToolTip(QStringLiteral("It says nothing: its alternative text is empty"));
   decorative_->setFocusPolicy(Qt::TabFocus);
   connect(decorative_, &QCheckBox::toggled, text_, &QWidget::setDisabled);
   connect(decorative_, &QCheckBox::toggled, this, &PictureBar::GiveText);
-  line->addWidget(decorative_);
+  Add(*decorative_);
   const auto add = [&](const char *name, const QString &caption, const QString &tip, auto signal) {
-    auto *button = new QPushButton(caption);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setAccessibleName(caption);
-    button->setToolTip(tip);
-    button->setAutoDefault(false);
-    // A click leaves the keyboard in the page.
-    button->setFocusPolicy(Qt::TabFocus);
-    connect(button, &QPushButton::clicked, this, signal);
-    line->addWidget(button);
-    return button;
+    QPushButton &button = AddButton(name, caption, tip);
+    connect(&button, &QPushButton::clicked, this, signal);
+    return &button;
   };
   copy_ =
       add("cmdCopyPicture", QStringLiteral("Copy"),
@@ -68,12 +47,9 @@ PictureBar::PictureBar(QWidget *parent) : QFrame(parent) {
       &PictureBar::UndoChosen);
   add("cmdClosePicture", QStringLiteral("Close"), QStringLiteral("Put this bar away"),
       &PictureBar::hide);
-  hide();
 }
 
 void PictureBar::ShowArrival(const QString &text, Offer offer, Asks asks) {
-  message_->setText(text);
-  message_->setToolTip(text);
   copy_->setVisible(offer == Offer::Copy);
   link_->setVisible(offer == Offer::Link);
   for (QWidget *box : {static_cast<QWidget *>(text_), static_cast<QWidget *>(decorative_)})
@@ -84,7 +60,7 @@ void PictureBar::ShowArrival(const QString &text, Offer offer, Asks asks) {
   text_->setEnabled(true);
   decorative_->setChecked(false);
   given_ = QString();
-  show();
+  Tell(text);
 }
 
 void PictureBar::GiveText() {
@@ -103,13 +79,6 @@ void PictureBar::keyPressEvent(QKeyEvent *event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (event->key() == Qt::Key_Escape) hide();
   if (isEnter || event->key() == Qt::Key_Escape) Q_EMIT Left();
-}
-
-void PictureBar::paintEvent(QPaintEvent *) {
-  QPainter painter(this);
-  painter.fillRect(rect(), HoverField(palette()));
-  painter.setPen(Hairline(palette()));
-  painter.drawLine(rect().topLeft(), rect().topRight());
 }
 
 }  // namespace velor

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QFrame>
+#include "chrome/NoticeBar.h"
+
 #include <QString>
 
 class QCheckBox;
-class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -14,7 +14,7 @@ namespace velor {
 /// The bar under a page that tells of pictures that were put in: whether they were copied into the
 /// site, with the other choice as a button, and a box for the alternative text. It never takes the
 /// keyboard by itself. Enter and Escape in the box give it back.
-class PictureBar final : public QFrame {
+class PictureBar final : public NoticeBar {
   Q_OBJECT
 
  public:
@@ -38,13 +38,11 @@ class PictureBar final : public QFrame {
   void Left();
 
  protected:
-  void paintEvent(QPaintEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
 
  private:
   void GiveText();
 
-  QLabel *message_ = nullptr;
   QLineEdit *text_ = nullptr;
   QCheckBox *decorative_ = nullptr;
   QPushButton *copy_ = nullptr;

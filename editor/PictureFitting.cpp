@@ -2,7 +2,6 @@
 #include "editor/PictureFitting.h"
 
 #include "app/settings/modSettingManager.h"
-#include "chrome/Palette.h"
 #include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
@@ -12,9 +11,6 @@
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 
 namespace velor {
@@ -43,28 +39,13 @@ QString CreateBeside(Files &files, const QString &path, const QString &tail,
 }  // namespace
 
 PictureFitting::PictureFitting(EditorContext &context, frmMain &page)
-    : QFrame(&page), context_(context), page_(page) {
-  setObjectName(QStringLiteral("picFitting"));
-  setAccessibleName(QStringLiteral("Picture larger than shown"));
-  auto *line = new QHBoxLayout(this);
-  line->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
-  line->setSpacing(BarMargin);
-  text_ = new QLabel;
-  text_->setObjectName(QStringLiteral("lblFitting"));
-  text_->setTextFormat(Qt::PlainText);
-  text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  line->addWidget(text_, 1);
+    : NoticeBar("picFitting", "lblFitting", QStringLiteral("Picture larger than shown"), &page),
+      context_(context),
+      page_(page) {
   const auto add = [&](const char *name, const QString &caption, const QString &tip, auto action) {
-    auto *button = new QPushButton(caption);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setAccessibleName(caption);
-    button->setToolTip(tip);
-    button->setAutoDefault(false);
-    // A click leaves the keyboard in the page.
-    button->setFocusPolicy(Qt::TabFocus);
-    connect(button, &QPushButton::clicked, this, action);
-    line->addWidget(button);
-    return button;
+    QPushButton &button = AddButton(name, caption, tip);
+    connect(&button, &QPushButton::clicked, this, action);
+    return &button;
   };
   add("cmdFit", QStringLiteral("Fit File to Size"),
       QStringLiteral("Make the file as large as the picture is shown; the original is kept"),
@@ -78,7 +59,6 @@ PictureFitting::PictureFitting(EditorContext &context, frmMain &page)
       [this] { Rewrite([](const QByteArray &file) { return Turned(file, Turn::Right); }); });
   undo_ = add("cmdUndoFitting", QStringLiteral("Undo"),
               QStringLiteral("Put the file back as it was"), &PictureFitting::UndoChange);
-  hide();
 }
 
 bool PictureFitting::IsMuchLarger() const {
@@ -185,17 +165,8 @@ void PictureFitting::UndoChange() {
 }
 
 void PictureFitting::ShowText(const QString &text) {
-  text_->setText(text);
-  text_->setToolTip(text);
   undo_->setVisible(before_.has_value());
-  show();
-}
-
-void PictureFitting::paintEvent(QPaintEvent *) {
-  QPainter painter(this);
-  painter.fillRect(rect(), HoverField(palette()));
-  painter.setPen(Hairline(palette()));
-  painter.drawLine(rect().topLeft(), rect().topRight());
+  Tell(text);
 }
 
 }  // namespace velor

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "chrome/NoticeBar.h"
 #include "editor/EditorContext.h"
 #include "platform/HtmlDocument.h"
 
 #include <QByteArray>
-#include <QFrame>
 #include <QString>
 
 #include <functional>
 #include <optional>
 
-class QLabel;
 class QPushButton;
 
 namespace velor {
@@ -23,7 +22,7 @@ class frmMain;
 /// (in pages with the HTML5 doctype both), and turns the picture. The file's content is kept beside
 /// it as "name-original"; Undo in the bar puts it back. Files outside the page's site are left
 /// alone.
-class PictureFitting final : public QFrame {
+class PictureFitting final : public NoticeBar {
   Q_OBJECT
 
  public:
@@ -32,9 +31,6 @@ class PictureFitting final : public QFrame {
 
   /// The selection, or what is selected, may have changed.
   void SelectionChanged();
-
- protected:
-  void paintEvent(QPaintEvent *event) override;
 
  private:
   /// A file as it was before it was changed here.
@@ -60,7 +56,6 @@ class PictureFitting final : public QFrame {
   ShownPicture picture_;
   QString file_;
   std::optional<Before> before_;
-  QLabel *text_ = nullptr;
   QPushButton *undo_ = nullptr;
 };
 

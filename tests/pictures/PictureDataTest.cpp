@@ -44,7 +44,7 @@ TEST(PictureData, APngLosesItsTextsAndKeepsItsColours) {
 
 TEST(PictureData, AWebPLosesItsDetails) {
   const QByteArray simple = CodedAs("WEBP", PlainPicture(16, 16));
-  if (simple.isEmpty()) GTEST_SKIP() << "no plugin writes WebP";
+  ASSERT_FALSE(simple.isEmpty()) << "the toolkit's picture plugins are not installed";
   const auto chunk = [](const char *name, const QByteArray &content) {
     const auto length = qToLittleEndian(static_cast<quint32>(content.size()));
     return QByteArray(name, 4) + QByteArray(reinterpret_cast<const char *>(&length), 4) + content +

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "chrome/NoticeBar.h"
+
+#include "chrome/Palette.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+
+namespace velor {
+
+NoticeBar::NoticeBar(const char *name, const char *textName, const QString &accessibleName,
+                     QWidget *parent)
+    : QFrame(parent), line_(new QHBoxLayout(this)), text_(new QLabel) {
+  setObjectName(QString::fromLatin1(name));
+  setAccessibleName(accessibleName);
+  line_->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
+  line_->setSpacing(BarMargin);
+  text_->setObjectName(QString::fromLatin1(textName));
+  text_->setTextFormat(Qt::PlainText);
+  text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  line_->addWidget(text_, 1);
+  hide();
+}
+
+void NoticeBar::Tell(const QString &text) {
+  text_->setText(text);
+  text_->setToolTip(text);
+  show();
+}
+
+void NoticeBar::Add(QWidget &control) {
+  line_->addWidget(&control);
+}
+
+QPushButton &NoticeBar::AddButton(const char *name, const QString &caption, const QString &tip) {
+  auto *button = new QPushButton(caption);
+  button->setObjectName(QString::fromLatin1(name));
+  button->setAccessibleName(caption);
+  button->setToolTip(tip);
+  button->setAutoDefault(false);
+  button->setFocusPolicy(Qt::TabFocus);
+  Add(*button);
+  return *button;
+}
+
+void NoticeBar::paintEvent(QPaintEvent *) {
+  QPainter painter(this);
+  painter.fillRect(rect(), HoverField(palette()));
+  painter.setPen(Hairline(palette()));
+  painter.drawLine(rect().topLeft(), rect().topRight());
+}
+
+}  // namespace velor

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QFrame>
+#include <QString>
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace velor {
+
+/// A bar under a page that says something in one line and has controls beside it. The line gives
+/// way first where there is little room; its tip has it whole. Hidden until it tells.
+class NoticeBar : public QFrame {
+  Q_OBJECT
+
+ public:
+  /// `name` and `textName` are the object names of the bar and of its line.
+  NoticeBar(const char *name, const char *textName, const QString &accessibleName, QWidget *parent);
+
+ protected:
+  /// Shows the bar with this text, which is plain.
+  void Tell(const QString &text);
+  /// Adds a control behind the last one.
+  void Add(QWidget &control);
+  /// Adds a button. A click on it leaves the keyboard in the page.
+  QPushButton &AddButton(const char *name, const QString &caption, const QString &tip);
+
+  void paintEvent(QPaintEvent *event) override;
+
+ private:
+  QHBoxLayout *line_;
+  QLabel *text_;
+};
+
+}  // namespace velor
