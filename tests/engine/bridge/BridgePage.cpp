@@ -27,9 +27,16 @@ QString TextOf(const QString &path) {
   return QString::fromUtf8(file.readAll());
 }
 
+}  // namespace
+
+QString TestScript(const char *name) {
+  return TextOf(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/") + QLatin1String(name));
+}
+
+namespace {
+
 QString JoinedScripts() {
-  return TextOf(QStringLiteral(VELOR_BRIDGE_TEST_BUNDLE)) +
-         TextOf(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/markup.js"));
+  return TextOf(QStringLiteral(VELOR_BRIDGE_TEST_BUNDLE)) + TestScript("markup.js");
 }
 
 QWebEngineScript Script(const QString &source) {

@@ -11,6 +11,9 @@
 
 namespace velor {
 
+/// A script of these tests, by its file's name.
+QString TestScript(const char *name);
+
 /// A bare view of the engine with the bridge scripts in the isolated world: page scripts off, no
 /// channel, no component. Calls return when the page has done what was asked.
 class BridgePage {

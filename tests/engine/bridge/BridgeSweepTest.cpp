@@ -5,7 +5,6 @@
 #include "tests/engine/bridge/BridgeCase.h"
 #include "tests/engine/bridge/BridgePage.h"
 
-#include <QFile>
 #include <QHash>
 #include <QSet>
 
@@ -43,9 +42,7 @@ std::vector<Page> Pages() {
 TEST_P(BridgeSweep, EveryCommandKeepsTheRulesOnEveryPageAndEveryKindOfSelection) {
   // The engine follows every range until it is collected: a document for some pages each.
   constexpr int PagesADocument = 10;
-  QFile script(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/sweep.js"));
-  ASSERT_TRUE(script.open(QIODevice::ReadOnly));
-  const QString sweep = QString::fromUtf8(script.readAll());
+  const QString sweep = TestScript("sweep.js");
   BridgePage page;
   int done = 0;
   QSet<QString> cells;

@@ -4,20 +4,12 @@
 #include "tests/engine/bridge/BridgeCase.h"
 #include "tests/engine/bridge/BridgePage.h"
 
-#include <QFile>
-
 #include <gtest/gtest.h>
 
 namespace velor {
 namespace {
 
 constexpr int StepsAPage = 25;
-
-QString Script(const char *name) {
-  QFile file(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/") + QLatin1String(name));
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-  return QString::fromUtf8(file.readAll());
-}
 
 int Number(const char *variable, int otherwise) {
   bool isNumber = false;
@@ -32,7 +24,8 @@ struct Dialect {
 
 class BridgeWalk : public ::testing::TestWithParam<Dialect> {
  protected:
-  BridgeWalk() : scripts_(Script("pages.js") + Script("source.js") + Script("walk.js")) {}
+  BridgeWalk()
+      : scripts_(TestScript("pages.js") + TestScript("source.js") + TestScript("walk.js")) {}
 
   QString Text(const QString &expression) { return page_.Evaluate(expression).toString(); }
   void Begin(int seed, bool withKeys) {

@@ -2,19 +2,15 @@
 // The grid of tables: what holds for every table after every change of its rows, columns and cells.
 #include "tests/engine/bridge/BridgePage.h"
 
-#include <QFile>
-
 #include <gtest/gtest.h>
 
 namespace velor {
 namespace {
 
 TEST(Tables, NoChangeOfTenThousandLeavesAHoleAnOverlapOrAnotherWord) {
-  QFile script(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/tables.js"));
-  ASSERT_TRUE(script.open(QIODevice::ReadOnly));
   BridgePage page;
   page.Load(QStringLiteral("<!DOCTYPE html><p>one|</p>"));
-  page.Evaluate(QString::fromUtf8(script.readAll()));
+  page.Evaluate(TestScript("pages.js") + TestScript("tables.js"));
   const QVariantMap tried = page.Evaluate(QStringLiteral("tryTables(10000)")).toMap();
   EXPECT_EQ(tried[QStringLiteral("fault")].toString().toStdString(), "");
   const QVariantMap done = tried[QStringLiteral("done")].toMap();

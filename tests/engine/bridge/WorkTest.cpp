@@ -3,7 +3,6 @@
 // long the page is, nor the list, the table or the paragraph that the caret is in.
 #include "tests/engine/bridge/BridgePage.h"
 
-#include <QFile>
 #include <QTest>
 
 #include <functional>
@@ -37,9 +36,7 @@ class Work : public ::testing::TestWithParam<Shape> {
   QVariant Evaluate(const QString &expression) { return page_.Evaluate(expression); }
   void Load(int parts) {
     page_.Load(PageOf(GetParam(), parts));
-    QFile counters(QStringLiteral(VELOR_BRIDGE_TEST_FOLDER "/work.js"));
-    ASSERT_TRUE(counters.open(QIODevice::ReadOnly));
-    Evaluate(QString::fromUtf8(counters.readAll()));
+    Evaluate(TestScript("work.js"));
     Evaluate(QStringLiteral("work.begin(); work.place()"));
     Rest();
   }

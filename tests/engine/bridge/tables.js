@@ -6,16 +6,7 @@
   'use strict';
 
   const { tables } = inside;
-  let state = 1;
-  const random = () => {
-    state = (state + 0x6D2B79F5) | 0;
-    let mixed = Math.imul(state ^ (state >>> 15), 1 | state);
-    mixed = (mixed + Math.imul(mixed ^ (mixed >>> 7), 61 | mixed)) ^ mixed;
-    return ((mixed ^ (mixed >>> 14)) >>> 0) / 4294967296;
-  };
-  const below = (count) => Math.floor(random() * count);
-  const chance = (share) => random() < share;
-  const oneOf = (list) => list[below(list.length)];
+  const { below, chance, oneOf } = pages;
 
   let words = 0;
   // The rows of a section as markup, its slots filled with cells of random spans.
