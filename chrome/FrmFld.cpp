@@ -50,7 +50,7 @@ bool HoldsPersonalFiles(const QStorageInfo &volume) {
 std::vector<Drive> Drives() {
   const QString home = QDir::homePath();
   std::vector<Drive> drives = {{QDir::rootPath(), QDir::rootPath()}};
-  if (home != QDir::rootPath()) drives.push_back({QStringLiteral("%1 (home)").arg(home), home});
+  if (home != QDir::rootPath()) drives.push_back({Words::tr("%1 (home)").arg(home), home});
   for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
     const QString path = volume.rootPath();
     const bool known = std::any_of(drives.begin(), drives.end(),

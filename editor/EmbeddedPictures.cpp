@@ -7,6 +7,7 @@
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "page/text/HtmlTokens.h"
+#include "platform/Words.h"
 
 #include <QUrl>
 
@@ -72,14 +73,16 @@ void TakePicturesOut(frmMain &page) {
   StatusDisplay &status = page.Context().mainWindow.status;
   if (links.empty()) {
     if (!status.HasNotice())
-      status.ReportOn(page.Number(), QStringLiteral("No picture stands in this page's text"));
+      status.ReportOn(page.Number(), Words::tr("No picture stands in this page's text"));
     return;
   }
   const PageRecord record = page.GetPageRecord();
   page.DHTML1().LoadText(WithAdapted(html, links),
                          record.Path.isEmpty() ? record.TempPath : record.Path);
-  status.ReportOn(page.Number(),
-                  QStringLiteral("%1 pictures of this page are files now").arg(links.size()));
+  status.ReportOn(page.Number(), links.size() == 1
+                                     ? Words::tr("One picture of this page is a file now")
+                                     : Words::tr("%n pictures of this page are files now", nullptr,
+                                                 static_cast<int>(links.size())));
 }
 
 }  // namespace velor

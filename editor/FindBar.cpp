@@ -2,6 +2,7 @@
 #include "editor/FindBar.h"
 
 #include "chrome/Palette.h"
+#include "platform/Words.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -31,7 +32,7 @@ QLineEdit *AddBox(QHBoxLayout &row, const char *name, const QString &label) {
   box->setObjectName(QString::fromLatin1(name));
   box->setAccessibleName(label);
   box->setPlaceholderText(label);
-  box->setToolTip(QStringLiteral("Up and Down bring earlier words"));
+  box->setToolTip(Words::tr("Up and Down bring earlier words"));
   box->setMaximumWidth(BoxWidth);
   box->setClearButtonEnabled(true);
   row.addWidget(box, 1);
@@ -79,19 +80,19 @@ void Remember(QStringList &used, const QString &words) {
 }
 
 QString InWords(const SearchResult &result, const QString &words) {
-  if (result.isInvalid) return QStringLiteral("Not a regular expression");
-  if (result.replaced) return QStringLiteral("%1 replaced").arg(*result.replaced);
+  if (result.isInvalid) return Words::tr("Not a regular expression");
+  if (result.replaced) return Words::tr("%n replaced", nullptr, *result.replaced);
   if (words.isEmpty()) return {};
-  if (result.count == 0) return QStringLiteral("Not found");
-  if (result.current == 0) return QStringLiteral("%1 found").arg(result.count);
-  return QStringLiteral("%1 of %2").arg(result.current).arg(result.count);
+  if (result.count == 0) return Words::tr("Not found");
+  if (result.current == 0) return Words::tr("%n found", nullptr, result.count);
+  return Words::tr("%1 of %2").arg(result.current).arg(result.count);
 }
 
 }  // namespace
 
 FindBar::FindBar(FindMemory &memory, QWidget *parent) : QWidget(parent), memory_(memory) {
   setObjectName(QStringLiteral("picFind"));
-  setAccessibleName(QStringLiteral("Find and Replace"));
+  setAccessibleName(Words::tr("Find and Replace"));
   setAutoFillBackground(true);
   Build();
   hide();
@@ -99,28 +100,27 @@ FindBar::FindBar(FindMemory &memory, QWidget *parent) : QWidget(parent), memory_
 
 void FindBar::Build() {
   QHBoxLayout *finding = MakeRow();
-  findText_ = AddBox(*finding, "txtFind", QStringLiteral("Find"));
+  findText_ = AddBox(*finding, "txtFind", Words::tr("Find"));
   connect(findText_, &QLineEdit::textEdited, this, [this] { Find(SearchDirection::Here); });
-  connect(AddButton(*finding, "cmdPrevious", QStringLiteral("Previous"),
-                    QStringLiteral("Find Previous (Shift+F3)")),
+  connect(AddButton(*finding, "cmdPrevious", Words::tr("Previous"),
+                    Words::tr("Find Previous (Shift+F3)")),
           &QPushButton::clicked, this, [this] { Find(SearchDirection::Backward); });
-  connect(AddButton(*finding, "cmdNext", QStringLiteral("Next"), QStringLiteral("Find Next (F3)")),
+  connect(AddButton(*finding, "cmdNext", Words::tr("Next"), Words::tr("Find Next (F3)")),
           &QPushButton::clicked, this, [this] { Find(SearchDirection::Forward); });
   BuildOptions(*finding);
   result_ = new QLabel;
   result_->setObjectName(QStringLiteral("lblResult"));
   finding->addWidget(result_, 1);
-  connect(AddButton(*finding, "cmdCloseFind", QStringLiteral("Close"),
-                    QStringLiteral("Close (Escape)")),
+  connect(AddButton(*finding, "cmdCloseFind", Words::tr("Close"), Words::tr("Close (Escape)")),
           &QPushButton::clicked, this, &FindBar::CloseBar);
 
   QHBoxLayout *replacing = MakeRow();
-  replacement_ = AddBox(*replacing, "txtReplace", QStringLiteral("Replace with"));
-  connect(AddButton(*replacing, "cmdReplace", QStringLiteral("Replace"),
-                    QStringLiteral("Replace this one and find the next")),
+  replacement_ = AddBox(*replacing, "txtReplace", Words::tr("Replace with"));
+  connect(AddButton(*replacing, "cmdReplace", Words::tr("Replace"),
+                    Words::tr("Replace this one and find the next")),
           &QPushButton::clicked, this, &FindBar::ReplaceFound);
-  connect(AddButton(*replacing, "cmdReplaceAll", QStringLiteral("Replace All"),
-                    QStringLiteral("Replace every one as one step of Undo")),
+  connect(AddButton(*replacing, "cmdReplaceAll", Words::tr("Replace All"),
+                    Words::tr("Replace every one as one step of Undo")),
           &QPushButton::clicked, this, &FindBar::ReplaceEverywhere);
   replacing->addStretch(1);
   replacing_ = new QWidget;
@@ -137,19 +137,19 @@ void FindBar::Build() {
 }
 
 void FindBar::BuildOptions(QHBoxLayout &row) {
-  matchCase_ = AddCheck(row, "chkCase", QStringLiteral("Match Case"));
-  wholeWords_ = AddCheck(row, "chkWords", QStringLiteral("Whole Words"));
+  matchCase_ = AddCheck(row, "chkCase", Words::tr("Match Case"));
+  wholeWords_ = AddCheck(row, "chkWords", Words::tr("Whole Words"));
   auto *more = new QToolButton;
   more->setObjectName(QStringLiteral("cmdFindOptions"));
-  more->setText(QStringLiteral("More"));
-  more->setAccessibleName(QStringLiteral("More options"));
-  more->setToolTip(QStringLiteral("More options for finding"));
+  more->setText(Words::tr("More"));
+  more->setAccessibleName(Words::tr("More options"));
+  more->setToolTip(Words::tr("More options for finding"));
   more->setFocusPolicy(Qt::TabFocus);
   more->setPopupMode(QToolButton::InstantPopup);
   auto *menu = new QMenu(more);
-  ignoreAccents_ = AddOption(*menu, "optAccents", QStringLiteral("Ignore &Accents"));
-  expression_ = AddOption(*menu, "optExpression", QStringLiteral("Regular &Expression"));
-  inSelection_ = AddOption(*menu, "optSelection", QStringLiteral("In the &Selection Only"));
+  ignoreAccents_ = AddOption(*menu, "optAccents", Words::tr("Ignore &Accents"));
+  expression_ = AddOption(*menu, "optExpression", Words::tr("Regular &Expression"));
+  inSelection_ = AddOption(*menu, "optSelection", Words::tr("In the &Selection Only"));
   more->setMenu(menu);
   row.addWidget(more);
   for (QCheckBox *check : {matchCase_, wholeWords_})

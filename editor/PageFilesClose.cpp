@@ -13,6 +13,7 @@
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
 #include "platform/TemporaryCopies.h"
+#include "platform/Words.h"
 
 namespace velor::modWorkFlow {
 
@@ -54,8 +55,8 @@ CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window) {
   const PageRecord record = window.GetPageRecord();
   if (record.EditorOpen != False16) {
     Message refusal;
-    refusal.text = QStringLiteral("Please close the Code Editor first.");
-    refusal.title = QStringLiteral("Closing...");
+    refusal.text = Words::tr("Please close the Code Editor first.");
+    refusal.title = Words::tr("Closing...");
     refusal.icon = MessageIcon::Information;
     refusal.foreground = true;
     context.platform.dialogs.ShowMessage(refusal);
@@ -65,8 +66,8 @@ CloseDecision AskBeforeClosing(EditorContext &context, frmMain &window) {
   const bool isChanged = HasUnsavedChanges(record.SavedHTML, window.DHTML1().DocumentHTML());
   if (!isChanged && window.Journal().IsSafe()) return CloseDecision::Close;
   Message question;
-  question.text = QStringLiteral("You have made changes to this document. Do you want to save it?");
-  question.title = QStringLiteral("Closing doucment...");
+  question.text = Words::tr("You have made changes to this document. Do you want to save it?");
+  question.title = Words::tr("Closing doucment...");
   question.buttons = MessageButtons::YesNoCancel;
   question.icon = MessageIcon::Question;
   switch (context.platform.dialogs.ShowMessage(question)) {

@@ -145,7 +145,7 @@ void OpenReadOnly(EditorContext &context, frmMain &window, const QString &path) 
   record.TempPath.clear();
   context.pages.Record(number) = record;
   Load(window, path);
-  Present(context, window, record.Caption + QStringLiteral(" (Read-Only)"));
+  Present(context, window, record.Caption + Words::tr(" (Read-Only)"));
 }
 
 PageRecord RecordOfRestored(EditorContext &context, int number, const JournalledPage &kept) {
@@ -297,7 +297,7 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
     window.CheckAcc();
     const bool isReadOnly = record.ReadOnly != False16;
     Present(context, window,
-            isReadOnly ? record.Caption + QStringLiteral(" (Read-Only)") : record.Caption);
+            isReadOnly ? record.Caption + Words::tr(" (Read-Only)") : record.Caption);
     window.Journal().MarkUnsaved();
     if (kept.source) window.ReopenEditor(*kept.source);
     isKeptAgain = window.Journal().Flush();

@@ -19,6 +19,7 @@
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
 #include "platform/TemporaryCopies.h"
+#include "platform/Words.h"
 
 #include <QPointer>
 
@@ -57,7 +58,7 @@ std::optional<RuntimeError> RunAndReport(EditorContext &context, const QString &
     return std::nullopt;
   } catch (const RuntimeError &error) {
     context.mainWindow.status.Report(
-        QStringLiteral("%1 could not be saved: %2").arg(ForPeople(path), error.Description()));
+        Words::tr("%1 could not be saved: %2").arg(ForPeople(path), error.Description()));
     return error;
   }
 }
@@ -86,8 +87,8 @@ void StoreVersion(EditorContext &context, const frmMain &window, const QString &
   if (isOwn && (writing == Writing::Edits || window.WasWrittenAnew)) return;
   const QString kept = replaced->Store(path, there);
   const QString notice =
-      isOwn ? QStringLiteral("%1 was written anew. What it held is kept as %2")
-            : QStringLiteral("%1 held another version. It was replaced and is kept as %2");
+      isOwn ? Words::tr("%1 was written anew. What it held is kept as %2")
+            : Words::tr("%1 held another version. It was replaced and is kept as %2");
   context.mainWindow.status.Report(notice.arg(ForPeople(path), kept));
 }
 
@@ -113,7 +114,7 @@ void WriteFile(frmMain &window, const QString &path) {
   }
   if (!hasGone) return;
   context.mainWindow.status.Report(
-      QStringLiteral("%1 was no longer there. It was written anew").arg(ForPeople(path)));
+      Words::tr("%1 was no longer there. It was written anew").arg(ForPeople(path)));
 }
 
 /// Writes to the record's own file. Path and temporary copy are then set by the dialog's FileName,
@@ -136,22 +137,29 @@ std::optional<RuntimeError> SavePlain(EditorContext &context, frmMain &window,
 
 enum class LinkChoice { Adapt, TakePictures, Leave };
 
+/// How many links and pictures there are, as words of a sentence.
+QString Counted(int links, int pictures) {
+  const QString ofLinks =
+      links == 1 ? Words::tr("one link") : Words::tr("%n links", nullptr, links);
+  const QString ofPictures =
+      pictures == 1 ? Words::tr("one picture") : Words::tr("%n pictures", nullptr, pictures);
+  if (pictures == 0) return ofLinks;
+  return links == 0 ? ofPictures : Words::tr("%1 and %2").arg(ofLinks, ofPictures);
+}
+
 LinkChoice AskAboutLinks(EditorContext &context, const std::vector<BrokenLink> &links) {
   const auto pictures = std::count_if(links.begin(), links.end(),
                                       [](const BrokenLink &link) { return link.isPicture; });
   const auto others = static_cast<std::ptrdiff_t>(links.size()) - pictures;
   Message question;
-  question.text =
-      QStringLiteral(
-          "From the new folder %1 links and %2 pictures of this page would lead nowhere.")
-          .arg(others)
-          .arg(pictures);
-  question.details = QStringLiteral(
+  question.text = Words::tr("From the new folder %1 of this page would lead nowhere.")
+                      .arg(Counted(static_cast<int>(others), static_cast<int>(pictures)));
+  question.details = Words::tr(
       "Adapted, they lead to the files where these are now. Taken along, the pictures are copied "
       "beside the page, and the links are adapted.");
   question.icon = MessageIcon::Question;
-  QStringList captions = {QStringLiteral("Adapt"), QStringLiteral("Leave")};
-  if (pictures > 0) captions.insert(1, QStringLiteral("Take Pictures Along"));
+  QStringList captions = {Words::tr("Adapt"), Words::tr("Leave")};
+  if (pictures > 0) captions.insert(1, Words::tr("Take Pictures Along"));
   const int answer = context.platform.dialogs.Choose(question, captions);
   if (answer == 0) return LinkChoice::Adapt;
   return answer == captions.size() - 1 ? LinkChoice::Leave : LinkChoice::TakePictures;
@@ -191,10 +199,13 @@ LinkChanges MakeFullLinksRelative(EditorContext &context, frmMain &window, const
   if (links.empty()) return {};
   window.DHTML1().LoadText(WithAdapted(html, links), to);
   // A page without a path is shown from the program folder.
-  return {html, context.platform.runtime.ProgramFolder() + u'\\',
-          QStringLiteral("Saved %1. %2 links in it lead to files by their way from the page now")
-              .arg(ForPeople(to))
-              .arg(links.size())};
+  return {
+      html, context.platform.runtime.ProgramFolder() + u'\\',
+      (links.size() == 1
+           ? Words::tr("Saved %1. One link in it leads to its file by its way from the page now")
+           : Words::tr("Saved %1. %n links in it lead to files by their way from the page now",
+                       nullptr, static_cast<int>(links.size())))
+          .arg(ForPeople(to))};
 }
 
 void WriteToNewFolder(EditorContext &context, frmMain &window, const QString &from,
@@ -241,7 +252,7 @@ std::optional<SaveFailure> Save(EditorContext &context, frmMain &window, FileDia
     return SaveFailure{*failure, SaveFailure::By::StatusBar};
   }
   try {
-    dialog.Filter = QStringLiteral("HTML File *.htm|*.htm");
+    dialog.Filter = Words::tr("HTML File *.htm|*.htm");
     dialog.Flags = FileDialog::OverwritePrompt;
     if (dialog.ShowSave().isEmpty())
       throw RuntimeError::Of(ErrorNumber::DialogCancelled, QStringLiteral("SavePage"));
@@ -254,7 +265,7 @@ std::optional<SaveFailure> Save(EditorContext &context, frmMain &window, FileDia
 
 void ShowFailure(EditorContext &context, const RuntimeError &error) {
   Message failure;
-  failure.text = QStringLiteral("File saving error: %1").arg(error.Code());
+  failure.text = Words::tr("File saving error: %1").arg(error.Code());
   failure.details = error.Description();
   failure.icon = MessageIcon::Critical;
   context.platform.dialogs.ShowMessage(failure);
@@ -269,9 +280,8 @@ bool IsWriteProtected(const EditorContext &context, const PageRecord &record) {
 /// Asks whether a page whose file cannot be written is to be saved under another name.
 bool WantsAnotherName(EditorContext &context, const PageRecord &record) {
   Message question;
-  question.text =
-      QStringLiteral("%1 is read-only. Do you want to save your changes under another name?")
-          .arg(modGeneral::FileNameOfPath(record.Path));
+  question.text = Words::tr("%1 is read-only. Do you want to save your changes under another name?")
+                      .arg(modGeneral::FileNameOfPath(record.Path));
   question.details = ForPeople(record.Path);
   question.buttons = MessageButtons::YesNo;
   question.icon = MessageIcon::Question;
@@ -286,16 +296,16 @@ AnewChoice AskBeforeWritingAnew(EditorContext &context, frmMain &window, const P
   const QString reason = ReasonToWriteAnew(window);
   if (reason.isEmpty()) return AnewChoice::Save;
   Message question;
-  question.text = QStringLiteral("The source of %1 cannot be kept as it was written, since %2.")
+  question.text = Words::tr("The source of %1 cannot be kept as it was written, since %2.")
                       .arg(modGeneral::FileNameOfPath(record.Path), reason);
-  question.details = QStringLiteral(
+  question.details = Words::tr(
                          "Saved anew, the whole file is written as the page is shown now. What it "
                          "holds is kept among the replaced versions.\n%1")
                          .arg(ForPeople(record.Path));
   question.icon = MessageIcon::Question;
   switch (context.platform.dialogs.Choose(
-      question, {QStringLiteral("Save Anew"), QStringLiteral("Save Under Another Name"),
-                 QStringLiteral("Cancel")})) {
+      question,
+      {Words::tr("Save Anew"), Words::tr("Save Under Another Name"), Words::tr("Cancel")})) {
     case 0:
       return AnewChoice::Save;
     case 1:

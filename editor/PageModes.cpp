@@ -15,6 +15,7 @@
 #include "platform/Platform.h"
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QStackedLayout>
 
@@ -75,7 +76,7 @@ void frmMain::RefreshSourceView() {
     shownCaret_ = CaretOf(*source_);
   } catch (const RuntimeError &error) {
     context_.mainWindow.status.Report(
-        QStringLiteral("The page's HTML could not be read: %1").arg(error.Description()));
+        Words::tr("The page's HTML could not be read: %1").arg(error.Description()));
   }
 }
 

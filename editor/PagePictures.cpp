@@ -10,6 +10,7 @@
 #include "platform/Files.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QImage>
 #include <QPointer>
@@ -128,8 +129,7 @@ PagePictures::InPage PagePictures::Have(const QString &source, Asks asks, Take t
     Announce({source, copy, picture.address, picture.notice, asks});
     return {picture.address, picture.size};
   } catch (const RuntimeError &error) {
-    Report(
-        QStringLiteral("The picture could not be put into the site: %1").arg(error.Description()));
+    Report(Words::tr("The picture could not be put into the site: %1").arg(error.Description()));
     return {};
   }
 }
@@ -241,17 +241,16 @@ void PagePictures::ShowBar() {
       modGeneral::FileNameOfPath(first.source.isEmpty() ? first.path : first.source);
   QString text;
   if (arrivals_.size() > 1) {
-    const QString what = offer == Offer::Link ? QStringLiteral("%1 pictures are in the site now.")
-                         : offer == Offer::Copy
-                             ? QStringLiteral("%1 pictures lie outside the site.")
-                             : QStringLiteral("%1 pictures were put in.");
-    text = what.arg(arrivals_.size());
+    const int count = static_cast<int>(arrivals_.size());
+    text = offer == Offer::Link   ? Words::tr("%n pictures are in the site now.", nullptr, count)
+           : offer == Offer::Copy ? Words::tr("%n pictures lie outside the site.", nullptr, count)
+                                  : Words::tr("%n pictures were put in.", nullptr, count);
   } else if (offer == Offer::Link) {
-    text = QStringLiteral("%1 was copied into the site: %2.").arg(file, first.address);
+    text = Words::tr("%1 was copied into the site: %2.").arg(file, first.address);
   } else if (offer == Offer::Copy) {
-    text = QStringLiteral("%1 lies outside the site.").arg(file);
+    text = Words::tr("%1 lies outside the site.").arg(file);
   } else {
-    text = QStringLiteral("%1 was put in.").arg(file);
+    text = Words::tr("%1 was put in.").arg(file);
   }
   if (arrivals_.size() == 1 && !first.notice.isEmpty()) text += u' ' + first.notice;
   const bool asks = arrivals_.size() == 1 && first.asks == Asks::ForText;
@@ -310,8 +309,7 @@ void PagePictures::MoveInto(const QString &to, const QString &html) {
       *picture.now = moved.path;
       copied_.Add(moved);
     } catch (const RuntimeError &error) {
-      Report(
-          QStringLiteral("A picture could not be put into the site: %1").arg(error.Description()));
+      Report(Words::tr("A picture could not be put into the site: %1").arg(error.Description()));
     }
   }
 }

@@ -4,6 +4,7 @@
 #include "editor/MainWindow.h"
 #include "editor/frmMain.h"
 #include "platform/Conversions.h"
+#include "platform/Words.h"
 
 namespace velor {
 
@@ -59,8 +60,7 @@ void frmMain::DynaLink() {
   const HtmlElement element = GetActiveElement();
   context_.mainWindow.status.ShowTag(element.tagName);
   if (LowerCase(element.tagName) == QStringLiteral("a")) {
-    component_->SetToolTip(QStringLiteral("Link to : ") +
-                           element.Attribute(QStringLiteral("href")));
+    component_->SetToolTip(Words::tr("Link to : ") + element.Attribute(QStringLiteral("href")));
   } else {
     component_->SetToolTip(QString());
   }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/PictureBar.h"
 
+#include "platform/Words.h"
+
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -16,18 +18,18 @@ constexpr int TextBoxWidth = 200;
 }  // namespace
 
 PictureBar::PictureBar(QWidget *parent)
-    : NoticeBar("picPicture", "lblPicture", QStringLiteral("Picture put in"), parent) {
+    : NoticeBar("picPicture", "lblPicture", Words::tr("Picture put in"), parent) {
   text_ = new QLineEdit;
   text_->setObjectName(QStringLiteral("txtPictureAlt"));
-  text_->setAccessibleName(QStringLiteral("Alternative Text"));
-  text_->setPlaceholderText(QStringLiteral("What does it show?"));
-  text_->setToolTip(QStringLiteral("Alternative text: what is read where the picture is not seen"));
+  text_->setAccessibleName(Words::tr("Alternative Text"));
+  text_->setPlaceholderText(Words::tr("What does it show?"));
+  text_->setToolTip(Words::tr("Alternative text: what is read where the picture is not seen"));
   text_->setMinimumWidth(TextBoxWidth);
   connect(text_, &QLineEdit::editingFinished, this, &PictureBar::GiveText);
   Add(*text_);
-  decorative_ = new QCheckBox(QStringLiteral("Decorative"));
+  decorative_ = new QCheckBox(Words::tr("Decorative"));
   decorative_->setObjectName(QStringLiteral("chkPictureDecorative"));
-  decorative_->setToolTip(QStringLiteral("It says nothing: its alternative text is empty"));
+  decorative_->setToolTip(Words::tr("It says nothing: its alternative text is empty"));
   decorative_->setFocusPolicy(Qt::TabFocus);
   connect(decorative_, &QCheckBox::toggled, text_, &QWidget::setDisabled);
   connect(decorative_, &QCheckBox::toggled, this, &PictureBar::GiveText);
@@ -37,16 +39,14 @@ PictureBar::PictureBar(QWidget *parent)
     connect(&button, &QPushButton::clicked, this, signal);
     return &button;
   };
-  copy_ =
-      add("cmdCopyPicture", QStringLiteral("Copy"),
-          QStringLiteral("Copy it into the site, now and from now on"), &PictureBar::CopyChosen);
-  link_ = add("cmdLinkPicture", QStringLiteral("Link Where It Lies"),
-              QStringLiteral("Name the file where it lies, now and from now on"),
-              &PictureBar::LinkChosen);
-  add("cmdUndoPicture", QStringLiteral("Undo"), QStringLiteral("Take it out of the page again"),
+  copy_ = add("cmdCopyPicture", Words::tr("Copy"),
+              Words::tr("Copy it into the site, now and from now on"), &PictureBar::CopyChosen);
+  link_ =
+      add("cmdLinkPicture", Words::tr("Link Where It Lies"),
+          Words::tr("Name the file where it lies, now and from now on"), &PictureBar::LinkChosen);
+  add("cmdUndoPicture", Words::tr("Undo"), Words::tr("Take it out of the page again"),
       &PictureBar::UndoChosen);
-  add("cmdClosePicture", QStringLiteral("Close"), QStringLiteral("Put this bar away"),
-      &PictureBar::hide);
+  add("cmdClosePicture", Words::tr("Close"), Words::tr("Put this bar away"), &PictureBar::hide);
 }
 
 void PictureBar::ShowArrival(const QString &text, Offer offer, Asks asks) {

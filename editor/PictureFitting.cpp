@@ -10,6 +10,7 @@
 #include "platform/Files.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QPushButton>
 
@@ -39,7 +40,7 @@ QString CreateBeside(Files &files, const QString &path, const QString &tail,
 }  // namespace
 
 PictureFitting::PictureFitting(EditorContext &context, frmMain &page)
-    : NoticeBar("picFitting", "lblFitting", QStringLiteral("Picture larger than shown"), &page),
+    : NoticeBar("picFitting", "lblFitting", Words::tr("Picture larger than shown"), &page),
       context_(context),
       page_(page) {
   const auto add = [&](const char *name, const QString &caption, const QString &tip, auto action) {
@@ -47,18 +48,17 @@ PictureFitting::PictureFitting(EditorContext &context, frmMain &page)
     connect(&button, &QPushButton::clicked, this, action);
     return &button;
   };
-  add("cmdFit", QStringLiteral("Fit File to Size"),
-      QStringLiteral("Make the file as large as the picture is shown; the original is kept"),
+  add("cmdFit", Words::tr("Fit File to Size"),
+      Words::tr("Make the file as large as the picture is shown; the original is kept"),
       &PictureFitting::Fit);
-  add("cmdFitTwice", QStringLiteral("Fit for Dense Screens"),
-      QStringLiteral("Make the file twice as large as the picture is shown"),
-      &PictureFitting::FitTwice);
-  add("cmdTurnLeft", QStringLiteral("Turn Left"), QStringLiteral("Turn the file's picture left"),
+  add("cmdFitTwice", Words::tr("Fit for Dense Screens"),
+      Words::tr("Make the file twice as large as the picture is shown"), &PictureFitting::FitTwice);
+  add("cmdTurnLeft", Words::tr("Turn Left"), Words::tr("Turn the file's picture left"),
       [this] { Rewrite([](const QByteArray &file) { return Turned(file, Turn::Left); }); });
-  add("cmdTurnRight", QStringLiteral("Turn Right"), QStringLiteral("Turn the file's picture right"),
+  add("cmdTurnRight", Words::tr("Turn Right"), Words::tr("Turn the file's picture right"),
       [this] { Rewrite([](const QByteArray &file) { return Turned(file, Turn::Right); }); });
-  undo_ = add("cmdUndoFitting", QStringLiteral("Undo"),
-              QStringLiteral("Put the file back as it was"), &PictureFitting::UndoChange);
+  undo_ = add("cmdUndoFitting", Words::tr("Undo"), Words::tr("Put the file back as it was"),
+              &PictureFitting::UndoChange);
 }
 
 bool PictureFitting::IsMuchLarger() const {
@@ -90,7 +90,7 @@ void PictureFitting::SelectionChanged() {
     return;  // it cannot be read, and is not shown either
   }
   if (file_.isEmpty()) return;
-  ShowText(QStringLiteral("%1 has %2 × %3 pixels and is shown at %4 × %5.")
+  ShowText(Words::tr("%1 has %2 × %3 pixels and is shown at %4 × %5.")
                .arg(modGeneral::FileNameOfPath(file_))
                .arg(picture.pixels.width())
                .arg(picture.pixels.height())
@@ -117,7 +117,7 @@ void PictureFitting::Rewrite(const std::function<QByteArray(const QByteArray &)>
     files.ReplaceAll(file_, changed);
     ReportChange();
   } catch (const RuntimeError &error) {
-    ShowText(QStringLiteral("The file stays as it is: %1").arg(error.Description()));
+    ShowText(Words::tr("The file stays as it is: %1").arg(error.Description()));
   }
 }
 
@@ -145,7 +145,7 @@ void PictureFitting::FitTwice() {
 
 void PictureFitting::ReportChange() {
   ShowText(
-      QStringLiteral("%1 is changed. It is kept as it was as %2.")
+      Words::tr("%1 is changed. It is kept as it was as %2.")
           .arg(modGeneral::FileNameOfPath(file_), modGeneral::FileNameOfPath(before_->original)));
 }
 
@@ -158,9 +158,9 @@ void PictureFitting::UndoChange() {
       page_.DHTML1().Document().ChangePicture(before_->address,
                                               {{QStringLiteral("srcset"), QString()}});
     before_.reset();
-    ShowText(QStringLiteral("%1 is as it was.").arg(modGeneral::FileNameOfPath(file_)));
+    ShowText(Words::tr("%1 is as it was.").arg(modGeneral::FileNameOfPath(file_)));
   } catch (const RuntimeError &error) {
-    ShowText(QStringLiteral("The file stays as it is: %1").arg(error.Description()));
+    ShowText(Words::tr("The file stays as it is: %1").arg(error.Description()));
   }
 }
 

@@ -9,6 +9,7 @@
 #include "editor/SourceWrap.h"
 #include "editor/frmCodeEditor.h"
 #include "platform/Platform.h"
+#include "platform/Words.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -29,53 +30,54 @@ namespace {
 
 struct ToolRow {
   QStringView key;  ///< also the key of its image
-  QStringView caption;
+  const char *caption;
   /// The key with which the source control does it; empty where it has none.
   QStringView keys;
 };
 
 /// In the order of the image list.
 constexpr std::array<ToolRow, 12> Tools{{
-    {u"copy", u"Copy", u"Ctrl+C"},
-    {u"cut", u"Cut", u"Ctrl+X"},
-    {u"find next", u"Find Next", u"F3"},
-    {u"find", u"Find", u"Ctrl+F"},
-    {u"goto line number", u"Go to Line Number", u""},
-    {u"indent", u"Indent", u"Tab"},
-    {u"mark all found", u"Mark All Found", u""},
-    {u"outdent", u"Outdent", u"Shift+Tab"},
-    {u"paste", u"Paste", u"Ctrl+V"},
-    {u"redo", u"Redo", u"Ctrl+Y"},
-    {u"replace", u"Replace", u"Ctrl+H"},
-    {u"undo", u"Undo", u"Ctrl+Z"},
+    {u"copy", Words::Mark("Copy"), u"Ctrl+C"},
+    {u"cut", Words::Mark("Cut"), u"Ctrl+X"},
+    {u"find next", Words::Mark("Find Next"), u"F3"},
+    {u"find", Words::Mark("Find"), u"Ctrl+F"},
+    {u"goto line number", Words::Mark("Go to Line Number"), u""},
+    {u"indent", Words::Mark("Indent"), u"Tab"},
+    {u"mark all found", Words::Mark("Mark All Found"), u""},
+    {u"outdent", Words::Mark("Outdent"), u"Shift+Tab"},
+    {u"paste", Words::Mark("Paste"), u"Ctrl+V"},
+    {u"redo", Words::Mark("Redo"), u"Ctrl+Y"},
+    {u"replace", Words::Mark("Replace"), u"Ctrl+H"},
+    {u"undo", Words::Mark("Undo"), u"Ctrl+Z"},
 }};
-constexpr std::array<QStringView, 7> Tabs{u"Standard", u"Forms",  u"Fonts",  u"Lists",
-                                          u"Scripts",  u"Frames", u"Advance"};
+constexpr std::array<const char *, 7> Tabs{
+    Words::Mark("Standard"), Words::Mark("Forms"),  Words::Mark("Fonts"),  Words::Mark("Lists"),
+    Words::Mark("Scripts"),  Words::Mark("Frames"), Words::Mark("Advance")};
 
 /// The source's own context menu; a row without a caption is a separator.
 struct MenuEntry {
-  QStringView caption;
+  const char *caption = nullptr;
   EditingCommand command = EditingCommand::Undo;
   QStringView picture = {};
 };
 constexpr std::array<MenuEntry, 9> MenuEntries{{
-    {u"&Undo", EditingCommand::Undo, u"undo"},
-    {u"&Redo", EditingCommand::Redo, u"redo"},
+    {Words::Mark("&Undo"), EditingCommand::Undo, u"undo"},
+    {Words::Mark("&Redo"), EditingCommand::Redo, u"redo"},
     {},
-    {u"Cu&t", EditingCommand::Cut, u"cut"},
-    {u"&Copy", EditingCommand::Copy, u"copy"},
-    {u"&Paste", EditingCommand::Paste, u"paste"},
-    {u"&Delete", EditingCommand::Delete, u"delete"},
+    {Words::Mark("Cu&t"), EditingCommand::Cut, u"cut"},
+    {Words::Mark("&Copy"), EditingCommand::Copy, u"copy"},
+    {Words::Mark("&Paste"), EditingCommand::Paste, u"paste"},
+    {Words::Mark("&Delete"), EditingCommand::Delete, u"delete"},
     {},
-    {u"Select &All", EditingCommand::SelectAll},
+    {Words::Mark("Select &All"), EditingCommand::SelectAll},
 }};
 
 /// The side panel is empty, so it has no width.
 constexpr int ToolsWidth = 0;
 
 QString Tooltip(const ToolRow &row) {
-  if (row.keys.isEmpty()) return row.caption.toString();
-  return QStringLiteral("%1: %2 in the source").arg(row.caption, row.keys);
+  if (row.keys.isEmpty()) return Words::tr(row.caption);
+  return Words::tr("%1: %2 in the source").arg(Words::tr(row.caption), row.keys);
 }
 
 QVBoxLayout *Stack(QWidget *parent) {
@@ -108,30 +110,30 @@ void frmCodeEditor::BuildLayout() {
 QWidget *frmCodeEditor::BuildTop() {
   auto *toolBar = new QToolBar;
   toolBar->setObjectName(QStringLiteral("tbrGeneral"));
-  toolBar->setAccessibleName(QStringLiteral("Source Tools"));
+  toolBar->setAccessibleName(Words::tr("Source Tools"));
   toolBar->setProperty(HouseStyle::OnBand, true);
   toolBar->setIconSize(QSize(ToolIconSize, ToolIconSize));
   for (const ToolRow &row : Tools) {
-    ToolBarAction *button = AddToolBarButton(*toolBar, row.key.toString(), row.caption.toString(),
+    ToolBarAction *button = AddToolBarButton(*toolBar, row.key.toString(), Words::tr(row.caption),
                                              Tooltip(row), ButtonKind::Click);
     // Tab skips buttons that do nothing.
     toolBar->widgetForAction(button)->setFocusPolicy(Qt::NoFocus);
   }
 
-  auto *applyButton = new QPushButton(QStringLiteral("Apply to Document"));
+  auto *applyButton = new QPushButton(Words::tr("Apply to Document"));
   applyButton->setObjectName(QStringLiteral("cmdApply"));
   applyButton->setAccessibleName(applyButton->text());
-  applyButton->setToolTip(QStringLiteral("Write the source back into the page (Ctrl+Return)"));
+  applyButton->setToolTip(Words::tr("Write the source back into the page (Ctrl+Return)"));
   connect(applyButton, &QPushButton::clicked, this, &frmCodeEditor::Apply);
 
   auto *elementGroups = new QTabBar;
   elementGroups->setObjectName(QStringLiteral("tabCode"));
-  elementGroups->setAccessibleName(QStringLiteral("Element Groups"));
+  elementGroups->setAccessibleName(Words::tr("Element Groups"));
   elementGroups->setDocumentMode(true);
   elementGroups->setDrawBase(false);
   elementGroups->setExpanding(false);
   elementGroups->setFocusPolicy(Qt::NoFocus);
-  for (const QStringView tab : Tabs) elementGroups->addTab(tab.toString());
+  for (const char *tab : Tabs) elementGroups->addTab(Words::tr(tab));
 
   auto *bandBar = new QFrame;
   bandBar->setObjectName(QStringLiteral("CoolBar"));
@@ -153,7 +155,7 @@ QWidget *frmCodeEditor::BuildTop() {
 
 QWidget *frmCodeEditor::BuildMain() {
   code_->Widget()->setObjectName(QStringLiteral("Code"));
-  code_->Widget()->setAccessibleName(QStringLiteral("HTML source"));
+  code_->Widget()->setAccessibleName(Words::tr("HTML source"));
   auto *sourceArea = new QWidget;
   sourceArea->setObjectName(QStringLiteral("picMain"));
   auto *findBar = new FindBar(context_.find, sourceArea);
@@ -180,18 +182,18 @@ void frmCodeEditor::PopUpMenu(QPoint place) {
   auto *menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   for (const MenuEntry &entry : MenuEntries) {
-    if (entry.caption.isEmpty()) {
+    if (entry.caption == nullptr) {
       menu->addSeparator();
       continue;
     }
-    QAction *item = menu->addAction(entry.caption.toString(), this,
+    QAction *item = menu->addAction(Words::tr(entry.caption), this,
                                     [this, command = entry.command] { Edit(command); });
     if (!entry.picture.isEmpty()) item->setIcon(IconFor(entry.picture.toString()));
   }
   menu->addSeparator();
-  QAction *apply = menu->addAction(QStringLiteral("Apply to Document"), this, [this] { Apply(); });
+  QAction *apply = menu->addAction(Words::tr("Apply to Document"), this, [this] { Apply(); });
   apply->setShortcut(Qt::CTRL | Qt::Key_Return);
-  QAction *wrap = menu->addAction(QStringLiteral("&Wrap Lines"));
+  QAction *wrap = menu->addAction(Words::tr("&Wrap Lines"));
   wrap->setCheckable(true);
   wrap->setChecked(ChosenLineWrap(context_.platform.registry) == LineWrap::On);
   connect(wrap, &QAction::triggered, this, [this] { TurnLineWrap(context_); });
@@ -206,7 +208,7 @@ QWidget *frmCodeEditor::BuildStatus() {
   place_->setObjectName(QStringLiteral("lblPlace"));
   lineEnds_ = new QLabel;
   lineEnds_->setObjectName(QStringLiteral("lblLineEnds"));
-  lineEnds_->setToolTip(QStringLiteral("How the lines of the source end"));
+  lineEnds_->setToolTip(Words::tr("How the lines of the source end"));
   for (QLabel *label : {place_, lineEnds_}) {
     label->setContentsMargins(BarMargin, 0, BarMargin, 0);
     statusBar->addPermanentWidget(label);

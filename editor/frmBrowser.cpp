@@ -23,16 +23,16 @@ namespace {
 
 /// A button's key is its caption and names its image.
 struct BrowserButton {
-  QStringView key;
-  QStringView tooltip;
+  const char *key;
+  const char *tooltip;
   void (Browser::*action)();
 };
 
 constexpr std::array<BrowserButton, 4> BrowserButtons{{
-    {u"Back", u"Back to the page before", &Browser::GoBack},
-    {u"Forward", u"Forward again", &Browser::GoForward},
-    {u"Refresh", u"Load the page again", &Browser::Refresh},
-    {u"Stop", u"Stop loading", &Browser::Stop},
+    {Words::Mark("Back"), Words::Mark("Back to the page before"), &Browser::GoBack},
+    {Words::Mark("Forward"), Words::Mark("Forward again"), &Browser::GoForward},
+    {Words::Mark("Refresh"), Words::Mark("Load the page again"), &Browser::Refresh},
+    {Words::Mark("Stop"), Words::Mark("Stop loading"), &Browser::Stop},
 }};
 
 constexpr int BrowserIconSize = 16;
@@ -99,9 +99,9 @@ void frmBrowser::BuildToolBar() {
   toolBar_->setIconSize(QSize(BrowserIconSize, BrowserIconSize));
   toolBar_->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);
   for (const BrowserButton &row : BrowserButtons) {
-    const QString key = row.key.toString();
-    ToolBarAction *button =
-        AddToolBarButton(*toolBar_, key, key, row.tooltip.toString(), ButtonKind::Click);
+    const QString key = QLatin1String(row.key);
+    ToolBarAction *button = AddToolBarButton(*toolBar_, key, Words::tr(row.key),
+                                             Words::tr(row.tooltip), ButtonKind::Click);
     button->setObjectName(key);
     connect(button, &ToolBarAction::Chosen, this, [this, key] { ButtonClicked(key); });
   }
@@ -152,7 +152,7 @@ void frmBrowser::PlaceParts() {
 
 void frmBrowser::ButtonClicked(const QString &key) {
   for (const BrowserButton &row : BrowserButtons) {
-    if (row.key == key) (browser_.get()->*row.action)();
+    if (key == QLatin1String(row.key)) (browser_.get()->*row.action)();
   }
 }
 

@@ -13,6 +13,7 @@
 #include "platform/Platform.h"
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QCloseEvent>
 #include <QLabel>
@@ -87,8 +88,8 @@ void frmCodeEditor::Refill(const QString &source, const ElementStretch &caret,
   code_->ReplaceText(source);
   SourceReplaced(caret);
   context_.mainWindow.status.Report(
-      QStringLiteral("The page's source is shown again. The source that was typed and not applied "
-                     "comes back with Undo (Ctrl+Z)"));
+      Words::tr("The page's source is shown again. The source that was typed and not applied "
+                "comes back with Undo (Ctrl+Z)"));
 }
 
 void frmCodeEditor::SourceReplaced(const ElementStretch &caret) {
@@ -101,7 +102,7 @@ void frmCodeEditor::SourceReplaced(const ElementStretch &caret) {
 void frmCodeEditor::SelectionChanged() {
   const SourceCaret caret = CaretOf(*code_);
   code_->SetMarkedLine(caret.line);
-  place_->setText(QStringLiteral("Line %1, Column %2").arg(caret.line + 1).arg(caret.column + 1));
+  place_->setText(Words::tr("Line %1, Column %2").arg(caret.line + 1).arg(caret.column + 1));
   const int length = code_->LineLength(caret.line);
   if (caret.column > length && code_->SelectedText().isEmpty()) code_->SetCaret(caret.line, length);
 }
@@ -117,14 +118,14 @@ bool frmCodeEditor::Apply() {
   if (result == 0) return true;
   Message failure;
   failure.text = Description(result);
-  failure.title = QStringLiteral("Error Number: %1").arg(result);
+  failure.title = Words::tr("Error Number: %1").arg(result);
   failure.icon = MessageIcon::Critical;
   dialogs.ShowMessage(failure);
   return false;
 }
 
 QString frmCodeEditor::ShownName() const {
-  return QStringLiteral("%1, HTML source").arg(PageName(context_, number_));
+  return Words::tr("%1, HTML source").arg(PageName(context_, number_));
 }
 
 void frmCodeEditor::Edit(EditingCommand command) {
@@ -171,7 +172,7 @@ frmCodeEditor::CloseDecision frmCodeEditor::AskBeforeClosing() {
     return CloseDecision::Close;
   }
   Message question;
-  question.text = QStringLiteral("Do you want to apply the changes on this Document?");
+  question.text = Words::tr("Do you want to apply the changes on this Document?");
   question.buttons = MessageButtons::YesNoCancel;
   question.icon = MessageIcon::Question;
   switch (context_.platform.dialogs.ShowMessage(question)) {

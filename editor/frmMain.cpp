@@ -18,6 +18,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -36,20 +37,20 @@ namespace {
 
 struct QuickButtonRow {
   QStringView key;  ///< also the key of its image
-  QStringView caption;
-  QStringView tooltip;
+  const char *caption = nullptr;
+  const char *tooltip = nullptr;
   ButtonKind kind = ButtonKind::Click;
 };
 
 /// The mode toolbar; positions count from 1, the separator included.
 constexpr std::array<QuickButtonRow, 7> QuickButtons{{
-    {u"design", u"Design", u"Design Mode", ButtonKind::Toggle},
-    {u"viewcode", u"View HTML", u"View HTML", ButtonKind::Toggle},
-    {u"editcode", u"Edit HTML", u"Edit HTML", ButtonKind::Click},
-    {u"preview", u"Preview", u"Preview", ButtonKind::Click},
+    {u"design", Words::Mark("Design"), Words::Mark("Design Mode"), ButtonKind::Toggle},
+    {u"viewcode", Words::Mark("View HTML"), Words::Mark("View HTML"), ButtonKind::Toggle},
+    {u"editcode", Words::Mark("Edit HTML"), Words::Mark("Edit HTML"), ButtonKind::Click},
+    {u"preview", Words::Mark("Preview"), Words::Mark("Preview"), ButtonKind::Click},
     {},  // separator
-    {u"detail", u"Show Detail", u"Show Detail", ButtonKind::Toggle},
-    {u"snap", u"Snap to Grid", u"Snap to Grid", ButtonKind::Toggle},
+    {u"detail", Words::Mark("Show Detail"), Words::Mark("Show Detail"), ButtonKind::Toggle},
+    {u"snap", Words::Mark("Snap to Grid"), Words::Mark("Snap to Grid"), ButtonKind::Toggle},
 }};
 constexpr int DetailPosition = 6;
 constexpr int SnapPosition = 7;
@@ -92,9 +93,9 @@ frmMain::frmMain(EditorContext &context, int number)
 
   BuildToolBar();
   component_->Widget()->setObjectName(QStringLiteral("DHTML1"));
-  component_->Widget()->setAccessibleName(QStringLiteral("Page"));
+  component_->Widget()->setAccessibleName(Words::tr("Page"));
   source_->Widget()->setObjectName(QStringLiteral("Code1"));
-  source_->Widget()->setAccessibleName(QStringLiteral("HTML source"));
+  source_->Widget()->setAccessibleName(Words::tr("HTML source"));
 
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -134,7 +135,7 @@ frmMain::~frmMain() {
 void frmMain::BuildToolBar() {
   modeBar_ = new QToolBar(this);
   modeBar_->setObjectName(QStringLiteral("tbrQuick"));
-  modeBar_->setAccessibleName(QStringLiteral("Modes"));
+  modeBar_->setAccessibleName(Words::tr("Modes"));
   modeBar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   modeBar_->setIconSize(QSize(QuickIconSize, QuickIconSize));
   modeBar_->setContentsMargins(BarMargin, BarSpacing, BarMargin, BarSpacing);
@@ -145,8 +146,8 @@ void frmMain::BuildToolBar() {
       modeBar_->addSeparator();
       continue;
     }
-    ToolBarAction *button = AddToolBarButton(*modeBar_, row.key.toString(), row.caption.toString(),
-                                             row.tooltip.toString(), row.kind);
+    ToolBarAction *button = AddToolBarButton(*modeBar_, row.key.toString(), Words::tr(row.caption),
+                                             Words::tr(row.tooltip), row.kind);
     button->setObjectName(row.key.toString());
     connect(button, &ToolBarAction::Chosen, this,
             [this, position] { QuickButtonClicked(position); });
@@ -224,9 +225,8 @@ void frmMain::ShowTab() {
   const frmCodeEditor *editor = context_.pages.CodeEditor(number_);
   const bool hasSource = editor != nullptr && editor->UnappliedText().has_value();
   const bool isReadOnly = context_.pages.Record(number_).ReadOnly != False16;
-  const QString note = isReadOnly && journal_.HasChanges()
-                           ? QStringLiteral("Save As keeps your changes")
-                           : QString();
+  const QString note =
+      isReadOnly && journal_.HasChanges() ? Words::tr("Save As keeps your changes") : QString();
   try {
     context_.mainWindow.tabs.SetState(PageKey(number_),
                                       {.path = FilePath(),
@@ -280,7 +280,7 @@ void frmMain::MemoryChanged() {
   if (!isReadOnly || isReadOnlyTold_ || !journal_.HasChanges()) return;
   isReadOnlyTold_ = true;
   context_.mainWindow.status.ReportOn(
-      number_, QStringLiteral("This file is read-only: Save As keeps your changes"));
+      number_, Words::tr("This file is read-only: Save As keeps your changes"));
 }
 
 void frmMain::ContextMenuRequested(QPoint screenPosition) {

@@ -10,15 +10,15 @@ namespace velor {
 
 namespace {
 
+constexpr auto LongRead = Words::Mark(
+    "The page does not answer. Press Escape to stop it and go on with its text as last seen.");
+
 using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds ReadLimit = 2min;
 constexpr std::chrono::milliseconds ReadPatience = 1s;
 /// The second attempt asks for the whole text, where the changes do not follow on from the mirror.
 constexpr int ReadAttempts = 2;
-constexpr auto LongRead = QT_TRANSLATE_NOOP(
-    "velor::Words",
-    "The page does not answer. Press Escape to stop it and go on with its text as last seen.");
 
 QString MirrorCall(const DocumentMirror &mirror) {
   return QStringLiteral("velor.mirror(%1)").arg(mirror.Revision());

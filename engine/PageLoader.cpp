@@ -15,14 +15,15 @@ namespace velor {
 
 namespace {
 
+constexpr auto LongLoad =
+    Words::Mark("The page takes long to show. Press Escape to stop loading it.");
+
 using namespace std::chrono_literals;
 
 /// Two minutes hold the largest page that a person would wait for.
 constexpr std::chrono::milliseconds LoadLimit = 2min;
 /// After this the person may stop it.
 constexpr std::chrono::milliseconds LoadPatience = 1500ms;
-constexpr auto LongLoad = QT_TRANSLATE_NOOP(
-    "velor::Words", "The page takes long to show. Press Escape to stop loading it.");
 /// A page whose process ends while it loads is tried once more.
 constexpr int LoadAttempts = 2;
 

@@ -15,12 +15,12 @@ namespace velor {
 
 namespace {
 
+constexpr auto LongReplacement = Words::Mark(
+    "The page takes long to show. Press Escape to stop it; the page is as before then.");
+
 using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds ReplaceLimit = 1min;
-constexpr auto LongReplacement = QT_TRANSLATE_NOOP(
-    "velor::Words",
-    "The page takes long to show. Press Escape to stop it; the page is as before then.");
 /// Bytes. Preparing a larger page would block the window for seconds.
 constexpr qsizetype LargestPage = 32'000'000;
 

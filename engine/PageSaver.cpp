@@ -13,9 +13,8 @@ namespace velor {
 
 namespace {
 
-constexpr auto LongCheck = QT_TRANSLATE_NOOP(
-    "velor::Words",
-    "The page takes long to save. Press Escape to have it written anew as a whole.");
+constexpr auto LongCheck =
+    Words::Mark("The page takes long to save. Press Escape to have it written anew as a whole.");
 /// UTF-16 code units. Composing a larger page ahead would delay the next key.
 constexpr qsizetype LargestAhead = 2'000'000;
 

@@ -8,6 +8,7 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/PlainTip.h"
+#include "platform/Words.h"
 
 #include <QClipboard>
 #include <QEvent>
@@ -97,19 +98,19 @@ void WebEditor::ConnectView(EngineView &view) {
   QObject::connect(
       &view, &EngineView::PicturesPasted, [this](const QStringList &addresses, int remote) {
         if (remote > 0)
-          notices_.Report(remote == 1 ? QStringLiteral("One picture stays on the web.")
-                                      : QStringLiteral("%1 pictures stay on the web.").arg(remote));
+          notices_.Report(remote == 1 ? Words::tr("One picture stays on the web.")
+                                      : Words::tr("%n pictures stay on the web.", nullptr, remote));
         if (addresses.isEmpty()) return;
         notices_.PostToListener(Notice::PicturesPasted, [addresses](EditingListener &listener) {
           listener.PicturesPasted(addresses);
         });
       });
   QObject::connect(&view, &EngineView::Pasting, [this](int percent) {
-    notices_.Report(percent < 100 ? QStringLiteral("Pasting, %1 %. Escape stops it.").arg(percent)
+    notices_.Report(percent < 100 ? Words::tr("Pasting, %1 %. Escape stops it.").arg(percent)
                                   : QString());
   });
   QObject::connect(&view, &EngineView::PasteStopped, [this] {
-    notices_.Report(QStringLiteral("The paste was stopped. Nothing has changed."));
+    notices_.Report(Words::tr("The paste was stopped. Nothing has changed."));
   });
   QObject::connect(&view, &EngineView::LinkWanted, [this](const QString &address) {
     notices_.PostToListener(

@@ -5,6 +5,7 @@
 #include "insert/TextBox.h"
 #include "insert/frmInsertElement.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -27,9 +28,9 @@ const QString Frame = QStringLiteral("target");
 const QString Title = QStringLiteral("title");
 const QString NoFrame = QStringLiteral("None");
 const QString Mail = QStringLiteral("mailto:");
-const QString VideoFiles = QStringLiteral(
+constexpr auto VideoFiles = Words::Mark(
     "Video Files (*.mp4, *.webm, *.ogv)|*.mp4;*.m4v;*.webm;*.ogv;*.mov|All Files *.*|*.*");
-const QString PictureFiles = QStringLiteral(
+constexpr auto PictureFiles = Words::Mark(
     "Image Files (*.jpg, *.png, *.gif, *.webp, *.svg)|*.jpg;*.jpeg;*.png;*.gif;*.webp;*.svg|"
     "All Files *.*|*.*");
 
@@ -61,9 +62,10 @@ void frmInsertElement::ConnectAdditions() {
     connect(findChild<QPushButton *>(QString::fromUtf16(name)), &QPushButton::clicked, this,
             action);
   };
-  onClick(u"cmdBrowseLowRes", [this] { BrowseInto(lowResolutionSource_, PictureFiles); });
-  onClick(u"Command1", [this] { BrowseInto(video_.source, VideoFiles); });
-  onClick(u"cmdBrowsePoster", [this] { BrowseInto(video_.poster, PictureFiles); });
+  onClick(u"cmdBrowseLowRes",
+          [this] { BrowseInto(lowResolutionSource_, Words::tr(PictureFiles)); });
+  onClick(u"Command1", [this] { BrowseInto(video_.source, Words::tr(VideoFiles)); });
+  onClick(u"cmdBrowsePoster", [this] { BrowseInto(video_.poster, Words::tr(PictureFiles)); });
   onClick(u"cmdRefreshA", &frmInsertElement::ShowBookmarks);
   onClick(u"cmdRefreshOther", &frmInsertElement::ShowBookmarks);
   onClick(u"cmdABrowse", &frmInsertElement::ShowBookmarks);
@@ -75,7 +77,7 @@ void frmInsertElement::ConnectAdditions() {
   // Both Browse buttons of the image page have the letter B, and Alt+B would press neither.
   auto *lowResolution = findChild<QPushButton *>(QStringLiteral("cmdBrowseLowRes"));
   lowResolution->setShortcut(Qt::ALT | Qt::Key_W);
-  lowResolution->setToolTip(QStringLiteral("Browse for a picture of low resolution (Alt+W)"));
+  lowResolution->setToolTip(Words::tr("Browse for a picture of low resolution (Alt+W)"));
 
   // These need a script, which pages made here have not.
   for (const char *name : {"txtVidLoop", "txtVidLoopDelay", "chkVidMouseOver", "chkMouseOver"}) {
@@ -103,7 +105,7 @@ void frmInsertElement::ResetFields() {
 
 void frmInsertElement::FillLook(const AppearanceBoxes &look, const ImageValues &values) {
   look.alignment->setCurrentIndex(
-      std::max(0, look.alignment->findText(values.alignment, Qt::MatchFixedString)));
+      std::max(0, look.alignment->findData(values.alignment, Qt::UserRole, Qt::MatchFixedString)));
   look.border->setText(values.border);
   look.horizontalSpacing->setText(values.horizontalSpacing);
   look.verticalSpacing->setText(values.verticalSpacing);
@@ -125,8 +127,8 @@ void frmInsertElement::FillFrom(const EditedPage &page) {
   link_.address->setText(page.link.Attribute(Address));
   link_.title->setText(page.link.Attribute(Title));
   const QString frame = page.link.Attribute(Frame);
-  if (!frame.isEmpty() && link_.frame->findText(frame) < 0) link_.frame->addItem(frame);
-  link_.frame->setCurrentIndex(std::max(0, link_.frame->findText(frame)));
+  if (!frame.isEmpty() && link_.frame->findData(frame) < 0) link_.frame->addItem(frame, frame);
+  link_.frame->setCurrentIndex(std::max(0, link_.frame->findData(frame)));
   if (!page.picture.IsNull()) FillPicture();
   if (ElementMode == u"hyperlink" || ElementMode == u"target") ShowBookmarks();
 }
@@ -162,7 +164,7 @@ VideoValues frmInsertElement::Video() const {
           .hasControls = video_.controls->isChecked(),
           .isLooped = video_.forever->isChecked(),
           .startsItself = video_.onOpen->isChecked(),
-          .alignment = videoLook_.alignment->currentText(),
+          .alignment = videoLook_.alignment->currentData().toString(),
           .border = videoLook_.border->text(),
           .horizontalSpacing = videoLook_.horizontalSpacing->text(),
           .verticalSpacing = videoLook_.verticalSpacing->text(),
@@ -263,7 +265,7 @@ void frmInsertElement::ChangePicture(const ImageValues &values) {
 
 void frmInsertElement::SetLink() {
   const QString address = link_.address->text().trimmed();
-  const QString frame = link_.frame->currentText();
+  const QString frame = link_.frame->currentData().toString();
   const HtmlAttributes attributes = {{Address, address},
                                      {Frame, frame == NoFrame ? QString() : frame},
                                      {Title, link_.title->text()}};

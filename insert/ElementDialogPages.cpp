@@ -3,6 +3,7 @@
 #include "insert/FormParts.h"
 #include "insert/TextBox.h"
 #include "insert/frmInsertElement.h"
+#include "platform/Words.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -22,15 +23,13 @@ constexpr QSize PreviewBounds(320, 180);
 constexpr int ComfortableWidth = 600;
 
 /// "Botton" is the published spelling and is written to pages like that.
-const QStringList Alignments = {
-    QStringLiteral("Default"),   QStringLiteral("Left"),     QStringLiteral("Right"),
-    QStringLiteral("Top"),       QStringLiteral("Texttop"),  QStringLiteral("Middle"),
-    QStringLiteral("Absmiddle"), QStringLiteral("Baseline"), QStringLiteral("Botton"),
-    QStringLiteral("Absbottom"), QStringLiteral("Center")};
+constexpr const char *Alignments[] = {
+    Words::Mark("Default"),   Words::Mark("Left"),     Words::Mark("Right"),
+    Words::Mark("Top"),       Words::Mark("Texttop"),  Words::Mark("Middle"),
+    Words::Mark("Absmiddle"), Words::Mark("Baseline"), Words::Mark("Botton"),
+    Words::Mark("Absbottom"), Words::Mark("Center")};
 
-const QStringList TargetFrames = {QStringLiteral("None"), QStringLiteral("_self"),
-                                  QStringLiteral("_top"), QStringLiteral("_blank"),
-                                  QStringLiteral("_parent")};
+constexpr const char *TargetFrames[] = {Words::Mark("None"), "_self", "_top", "_blank", "_parent"};
 
 /// A titled list with a button that belongs to it.
 QListWidget *AddBookmarkList(QFormLayout *form, const QString &name, const QString &label,
@@ -41,7 +40,7 @@ QListWidget *AddBookmarkList(QFormLayout *form, const QString &name, const QStri
   title->setBuddy(list);
   form->addRow(title);
   form->addRow(list);
-  AddButton(form, MakeButton(refreshName, QStringLiteral("&Refresh")));
+  AddButton(form, MakeButton(refreshName, Words::tr("&Refresh")));
   return list;
 }
 
@@ -59,8 +58,8 @@ struct HalvedPage {
     auto *appearancePage = new QWidget;
     general = MakePage(generalPage);
     appearance = MakePage(appearancePage);
-    tabs->addTab(generalPage, QStringLiteral("General"));
-    tabs->addTab(appearancePage, QStringLiteral("Appearance"));
+    tabs->addTab(generalPage, Words::tr("General"));
+    tabs->addTab(appearancePage, Words::tr("Appearance"));
   }
 };
 
@@ -74,20 +73,18 @@ AppearanceBoxes AddAppearance(QVBoxLayout *half, const QString &kind, const QStr
     return QLatin1String(before) + kind + QLatin1String(behind);
   };
   AppearanceBoxes boxes;
-  QFormLayout *layout = AddFrame(half, QStringLiteral("Layout"));
-  boxes.alignment =
-      AddComboBox(layout, name("cob", "Align"), QStringLiteral("Alignment:"), Alignments);
+  QFormLayout *layout = AddFrame(half, Words::tr("Layout"));
+  boxes.alignment = AddComboBox(layout, name("cob", "Align"), Words::tr("Alignment:"), Alignments);
   boxes.border =
-      AddNumberBox(layout, name("txt", "Border"), QStringLiteral("Border thickness:"), border);
+      AddNumberBox(layout, name("txt", "Border"), Words::tr("Border thickness:"), border);
   boxes.horizontalSpacing =
-      AddNumberBox(layout, name("txt", "HSpac"), QStringLiteral("Horizontal Spacing:"), Zero);
+      AddNumberBox(layout, name("txt", "HSpac"), Words::tr("Horizontal Spacing:"), Zero);
   boxes.verticalSpacing =
-      AddNumberBox(layout, name("txt", "Vspac"), QStringLiteral("Vertical Spacing:"), Zero);
-  QFormLayout *size = AddFrame(half, QStringLiteral("Size"));
-  boxes.sizeFromBoxes =
-      AddCheckBox(size, name("chk", "Size"), QStringLiteral("Use &Specific Size"));
-  boxes.height = AddNumberBox(size, name("txt", "Height"), QStringLiteral("Height:"), pixels);
-  boxes.width = AddNumberBox(size, name("txt", "Width"), QStringLiteral("Width:"), pixels);
+      AddNumberBox(layout, name("txt", "Vspac"), Words::tr("Vertical Spacing:"), Zero);
+  QFormLayout *size = AddFrame(half, Words::tr("Size"));
+  boxes.sizeFromBoxes = AddCheckBox(size, name("chk", "Size"), Words::tr("Use &Specific Size"));
+  boxes.height = AddNumberBox(size, name("txt", "Height"), Words::tr("Height:"), pixels);
+  boxes.width = AddNumberBox(size, name("txt", "Width"), Words::tr("Width:"), pixels);
   half->addStretch();
   for (TextBox *box : {boxes.height, boxes.width}) box->RepairNumberTo(pixels);
   return boxes;
@@ -97,38 +94,38 @@ AppearanceBoxes AddAppearance(QVBoxLayout *half, const QString &kind, const QStr
 
 void frmInsertElement::Build() {
   setObjectName(QStringLiteral("frmInsertElement"));
-  setWindowTitle(QStringLiteral("Element Information..."));
+  setWindowTitle(Words::tr("Element Information..."));
   setModal(true);
 
   pages_ = new QTabWidget;
-  Name(*pages_, QStringLiteral("SSTab1"), QStringLiteral("Element"));
+  Name(*pages_, QStringLiteral("SSTab1"), Words::tr("Element"));
   QVBoxLayout *window = MakePage(this);
   window->addWidget(pages_, 1);
-  pages_->addTab(BuildImagePage(), QStringLiteral("Image"));
-  pages_->addTab(BuildHyperlinkPage(), QStringLiteral("Hyperlink"));
-  pages_->addTab(BuildTargetPage(), QStringLiteral("Target"));
-  pages_->addTab(BuildVideoPage(), QStringLiteral("Video"));
+  pages_->addTab(BuildImagePage(), Words::tr("Image"));
+  pages_->addTab(BuildHyperlinkPage(), Words::tr("Hyperlink"));
+  pages_->addTab(BuildTargetPage(), Words::tr("Target"));
+  pages_->addTab(BuildVideoPage(), Words::tr("Video"));
   for (int i = 0; i < pages_->count(); ++i) AlignLabels(pages_->widget(i));
   setMinimumWidth(ComfortableWidth);
   refusal_ = AddRefusal(window, {firstBoxes_[0], firstBoxes_[1], firstBoxes_[2], firstBoxes_[3]});
-  AddButtonRow(window, {MakeButton(QStringLiteral("cmdOK"), QStringLiteral("OK")),
-                        MakeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"))});
+  AddButtonRow(window, {MakeButton(QStringLiteral("cmdOK"), Words::tr("OK")),
+                        MakeButton(QStringLiteral("cmdCancel"), Words::tr("Cancel"))});
 }
 
 QWidget *frmInsertElement::BuildImagePage() {
-  const HalvedPage page(QStringLiteral("SSTab2"), QStringLiteral("Image"));
+  const HalvedPage page(QStringLiteral("SSTab2"), Words::tr("Image"));
 
-  imageSource_ = AddTextBox(
-      AddForm(page.general), QStringLiteral("txtImgSource"), QStringLiteral("Image Source:"),
-      MakeButton(QStringLiteral("cmdBrowseIMG"), QStringLiteral("&Browse...")));
-  QFormLayout *alternative = AddFrame(page.general, QStringLiteral("Alternative"));
+  imageSource_ =
+      AddTextBox(AddForm(page.general), QStringLiteral("txtImgSource"), Words::tr("Image Source:"),
+                 MakeButton(QStringLiteral("cmdBrowseIMG"), Words::tr("&Browse...")));
+  QFormLayout *alternative = AddFrame(page.general, Words::tr("Alternative"));
   lowResolutionSource_ =
-      AddTextBox(alternative, QStringLiteral("txtLowRes"), QStringLiteral("Low Resolution:"),
-                 MakeButton(QStringLiteral("cmdBrowseLowRes"), QStringLiteral("&Browse...")));
+      AddTextBox(alternative, QStringLiteral("txtLowRes"), Words::tr("Low Resolution:"),
+                 MakeButton(QStringLiteral("cmdBrowseLowRes"), Words::tr("&Browse...")));
   alternativeText_ =
-      AddTextBox(alternative, QStringLiteral("txtAlt"), QStringLiteral("Alternative Text:"));
+      AddTextBox(alternative, QStringLiteral("txtAlt"), Words::tr("Alternative Text:"));
   preview_ = new QLabel;
-  Name(*preview_, QStringLiteral("picPreview"), QStringLiteral("Preview"));
+  Name(*preview_, QStringLiteral("picPreview"), Words::tr("Preview"));
   preview_->setFrameShape(QFrame::StyledPanel);
   preview_->setAlignment(Qt::AlignCenter);
   preview_->setTextFormat(Qt::PlainText);
@@ -153,24 +150,24 @@ QWidget *frmInsertElement::BuildImagePage() {
 QWidget *frmInsertElement::BuildHyperlinkPage() {
   auto *page = new QWidget;
   QVBoxLayout *rows = MakePage(page);
-  QPushButton *browse = MakeButton(QStringLiteral("cmdABrowse"), QStringLiteral("&Browse..."));
-  browse->setToolTip(QStringLiteral("Browse from your computer and Link to a file"));
-  QPushButton *mail = MakeButton(QStringLiteral("cmdAEmail"), QStringLiteral("&E-mail..."));
-  mail->setToolTip(QStringLiteral("Link to a E-mail Address"));
+  QPushButton *browse = MakeButton(QStringLiteral("cmdABrowse"), Words::tr("&Browse..."));
+  browse->setToolTip(Words::tr("Browse from your computer and Link to a file"));
+  QPushButton *mail = MakeButton(QStringLiteral("cmdAEmail"), Words::tr("&E-mail..."));
+  mail->setToolTip(Words::tr("Link to a E-mail Address"));
   for (QPushButton *button : {browse, mail}) button->setAccessibleName(button->toolTip());
 
   QFormLayout *link = AddForm(rows);
   link_.address =
-      AddTextBox(link, QStringLiteral("txtHref"), QStringLiteral("Anchor Element Href:"), browse);
-  link_.frame = AddComboBox(link, QStringLiteral("cobATarget"), QStringLiteral("Target Frame:"),
-                            TargetFrames);
+      AddTextBox(link, QStringLiteral("txtHref"), Words::tr("Anchor Element Href:"), browse);
+  link_.frame =
+      AddComboBox(link, QStringLiteral("cobATarget"), Words::tr("Target Frame:"), TargetFrames);
   if (scope_ == DialogScope::Extended)
-    link_.title = AddTextBox(link, QStringLiteral("txtATitle"), QStringLiteral("&Title:"));
-  QFormLayout *special = AddFrame(rows, QStringLiteral("Special Links:"));
+    link_.title = AddTextBox(link, QStringLiteral("txtATitle"), Words::tr("&Title:"));
+  QFormLayout *special = AddFrame(rows, Words::tr("Special Links:"));
   AddButton(special, mail);
-  link_.bookmarks = AddBookmarkList(special, QStringLiteral("lstABookMark"),
-                                    QStringLiteral("Link to a Bookmark (Target):"),
-                                    QStringLiteral("cmdRefreshA"));
+  link_.bookmarks =
+      AddBookmarkList(special, QStringLiteral("lstABookMark"),
+                      Words::tr("Link to a Bookmark (Target):"), QStringLiteral("cmdRefreshA"));
   firstBoxes_[1] = link_.address;
   return page;
 }
@@ -178,43 +175,39 @@ QWidget *frmInsertElement::BuildHyperlinkPage() {
 QWidget *frmInsertElement::BuildTargetPage() {
   auto *page = new QWidget;
   QFormLayout *form = AddForm(MakePage(page));
-  bookmarkName_ =
-      AddTextBox(form, QStringLiteral("txtBookmarkName"), QStringLiteral("Bookmark Name: "));
+  bookmarkName_ = AddTextBox(form, QStringLiteral("txtBookmarkName"), Words::tr("Bookmark Name: "));
   otherBookmarks_ = AddBookmarkList(form, QStringLiteral("lstOtherBookmark"),
-                                    QStringLiteral("Other bookmarks in this page:"),
+                                    Words::tr("Other bookmarks in this page:"),
                                     QStringLiteral("cmdRefreshOther"));
   firstBoxes_[2] = bookmarkName_;
   return page;
 }
 
 QWidget *frmInsertElement::BuildVideoPage() {
-  const HalvedPage page(QStringLiteral("SSTab3"), QStringLiteral("Video"));
+  const HalvedPage page(QStringLiteral("SSTab3"), Words::tr("Video"));
 
   QFormLayout *source = AddForm(page.general);
-  video_.source =
-      AddTextBox(source, QStringLiteral("txtVidSource"), QStringLiteral("Video Source:"),
-                 MakeButton(QStringLiteral("Command1"), QStringLiteral("&Browse...")));
+  video_.source = AddTextBox(source, QStringLiteral("txtVidSource"), Words::tr("Video Source:"),
+                             MakeButton(QStringLiteral("Command1"), Words::tr("&Browse...")));
   if (scope_ == DialogScope::Extended) {
-    QPushButton *browse =
-        MakeButton(QStringLiteral("cmdBrowsePoster"), QStringLiteral("Bro&wse..."));
-    browse->setAccessibleName(QStringLiteral("Browse for a poster"));
+    QPushButton *browse = MakeButton(QStringLiteral("cmdBrowsePoster"), Words::tr("Bro&wse..."));
+    browse->setAccessibleName(Words::tr("Browse for a poster"));
     video_.poster =
-        AddTextBox(source, QStringLiteral("txtVidPoster"), QStringLiteral("&Poster:"), browse);
+        AddTextBox(source, QStringLiteral("txtVidPoster"), Words::tr("&Poster:"), browse);
   }
-  video_.controls = AddCheckBox(source, QStringLiteral("chkShowControl"),
-                                QStringLiteral("&Show controls in Browser"));
-  QFormLayout *repeat = AddFrame(page.general, QStringLiteral("Repeat"));
-  video_.loops = AddNumberBox(repeat, QStringLiteral("txtVidLoop"), QStringLiteral("&Loop:"),
-                              QStringLiteral("1"));
-  video_.forever = AddCheckBox(repeat, QStringLiteral("chkForever"), QStringLiteral("Forever"));
-  AddNumberBox(repeat, QStringLiteral("txtVidLoopDelay"), QStringLiteral("Loop &delay:"),
-               QStringLiteral("0"), QStringLiteral("Milliseconds"));
-  QFormLayout *start = AddFrame(page.general, QStringLiteral("Start"));
-  video_.onOpen =
-      AddCheckBox(start, QStringLiteral("chkVidOnOpen"), QStringLiteral("On file open"));
-  AddCheckBox(start, QStringLiteral("chkVidMouseOver"), QStringLiteral("On mouse over"));
+  video_.controls =
+      AddCheckBox(source, QStringLiteral("chkShowControl"), Words::tr("&Show controls in Browser"));
+  QFormLayout *repeat = AddFrame(page.general, Words::tr("Repeat"));
+  video_.loops =
+      AddNumberBox(repeat, QStringLiteral("txtVidLoop"), Words::tr("&Loop:"), QStringLiteral("1"));
+  video_.forever = AddCheckBox(repeat, QStringLiteral("chkForever"), Words::tr("Forever"));
+  AddNumberBox(repeat, QStringLiteral("txtVidLoopDelay"), Words::tr("Loop &delay:"),
+               QStringLiteral("0"), Words::tr("Milliseconds"));
+  QFormLayout *start = AddFrame(page.general, Words::tr("Start"));
+  video_.onOpen = AddCheckBox(start, QStringLiteral("chkVidOnOpen"), Words::tr("On file open"));
+  AddCheckBox(start, QStringLiteral("chkVidMouseOver"), Words::tr("On mouse over"));
   AddCheckBox(AddForm(page.general), QStringLiteral("chkMouseOver"),
-              QStringLiteral("Start on &Mouse Over"));
+              Words::tr("Start on &Mouse Over"));
   page.general->addStretch();
 
   firstBoxes_[3] = video_.source;

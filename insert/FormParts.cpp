@@ -2,6 +2,7 @@
 #include "insert/FormParts.h"
 
 #include "insert/TextBox.h"
+#include "platform/Words.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -104,9 +105,9 @@ void AddControl(QFormLayout *form, const QString &name, const QString &label, QW
 }
 
 QComboBox *AddComboBox(QFormLayout *form, const QString &name, const QString &label,
-                       const QStringList &items) {
+                       std::span<const char *const> values) {
   auto *box = new QComboBox;
-  box->addItems(items);
+  for (const char *value : values) box->addItem(Words::tr(value), QLatin1String(value));
   AddControl(form, name, label, box);
   return box;
 }

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 #include <initializer_list>
+#include <span>
 
 class QCheckBox;
 class QComboBox;
@@ -40,8 +40,9 @@ TextBox *AddNumberBox(QFormLayout *form, const QString &name, const QString &lab
                       const QString &value, const QString &unit = {});
 /// Appends any other control, as wide as its row.
 void AddControl(QFormLayout *form, const QString &name, const QString &label, QWidget *control);
+/// `values` go into pages or settings: each is shown translated and stands in the item's data.
 QComboBox *AddComboBox(QFormLayout *form, const QString &name, const QString &label,
-                       const QStringList &items);
+                       std::span<const char *const> values);
 QCheckBox *AddCheckBox(QFormLayout *form, const QString &name, const QString &caption);
 /// Makes a button that Enter presses only where it was made the dialog's default.
 QPushButton *MakeButton(const QString &name, const QString &caption);

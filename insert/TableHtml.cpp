@@ -4,6 +4,7 @@
 #include "platform/Conversions.h"
 #include "platform/PasteLimit.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 
@@ -53,7 +54,7 @@ QString TableRefusal(const TableValues &values) {
   const int columns = Count(values.columns);
   const int most = MostRows(columns);
   if (Count(values.rows) <= most) return {};
-  return QStringLiteral("The table is too large: with %1 columns a page takes %2 rows at most.")
+  return Words::tr("The table is too large: with %1 columns a page takes %2 rows at most.")
       .arg(columns)
       .arg(most);
 }

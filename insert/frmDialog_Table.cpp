@@ -4,6 +4,7 @@
 #include "insert/FormParts.h"
 #include "insert/TableHtml.h"
 #include "insert/TextBox.h"
+#include "platform/Words.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -49,7 +50,7 @@ class AlignmentBox : public QComboBox {
 frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent, DialogScope scope)
     : QDialog(parent), html_(html) {
   setObjectName(QStringLiteral("frmDialog_Table"));
-  setWindowTitle(QStringLiteral("Table Editor"));
+  setWindowTitle(Words::tr("Table Editor"));
   setModal(true);
 
   auto *page = new QWidget;
@@ -57,20 +58,19 @@ frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent, DialogScope sco
   QFormLayout *form = FormParts::AddForm(rows);
   const QString one = QStringLiteral("1");
   const QString three = QStringLiteral("3");
-  columns_ = FormParts::AddNumberBox(form, QStringLiteral("Text1"), QStringLiteral("# Of Columns:"),
-                                     three);
-  rows_ =
-      FormParts::AddNumberBox(form, QStringLiteral("Text2"), QStringLiteral("# Of Rows:"), three);
+  columns_ =
+      FormParts::AddNumberBox(form, QStringLiteral("Text1"), Words::tr("# Of Columns:"), three);
+  rows_ = FormParts::AddNumberBox(form, QStringLiteral("Text2"), Words::tr("# Of Rows:"), three);
   alignment_ = new AlignmentBox;
   const bool isExtended = scope == DialogScope::Extended;
   alignment_->setEditText(isExtended ? QString() : QStringLiteral("Left"));
-  FormParts::AddControl(form, QStringLiteral("Combo1"), QStringLiteral("Align:"), alignment_);
+  FormParts::AddControl(form, QStringLiteral("Combo1"), Words::tr("Align:"), alignment_);
   alignment_->lineEdit()->setAccessibleName(alignment_->accessibleName());
-  border_ = FormParts::AddNumberBox(form, QStringLiteral("combo2"), QStringLiteral("Border:"), one);
+  border_ = FormParts::AddNumberBox(form, QStringLiteral("combo2"), Words::tr("Border:"), one);
   cellSpacing_ =
-      FormParts::AddNumberBox(form, QStringLiteral("combo3"), QStringLiteral("Cell Spacing:"), one);
+      FormParts::AddNumberBox(form, QStringLiteral("combo3"), Words::tr("Cell Spacing:"), one);
   cellPadding_ =
-      FormParts::AddNumberBox(form, QStringLiteral("combo4"), QStringLiteral("Cell Padding:"), one);
+      FormParts::AddNumberBox(form, QStringLiteral("combo4"), Words::tr("Cell Padding:"), one);
 
   if (isExtended) {
     alignment_->lineEdit()->setPlaceholderText(tr("None"));
@@ -79,18 +79,18 @@ frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent, DialogScope sco
   }
 
   auto *tabs = new QTabWidget;
-  FormParts::Name(*tabs, QStringLiteral("TabStrip1"), QStringLiteral("Table Setup:"));
-  tabs->addTab(page, QStringLiteral("Table"));
+  FormParts::Name(*tabs, QStringLiteral("TabStrip1"), Words::tr("Table Setup:"));
+  tabs->addTab(page, Words::tr("Table"));
 
   QPushButton *insertButton =
-      FormParts::MakeButton(QStringLiteral("Command1"), QStringLiteral("Insert"));
+      FormParts::MakeButton(QStringLiteral("Command1"), Words::tr("Insert"));
   QPushButton *cancelButton =
-      FormParts::MakeButton(QStringLiteral("Command2"), QStringLiteral("Cancel"));
+      FormParts::MakeButton(QStringLiteral("Command2"), Words::tr("Cancel"));
   connect(insertButton, &QPushButton::clicked, this, &frmDialog_Table::Insert);
   connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);
 
   QVBoxLayout *window = FormParts::MakePage(this);
-  window->addWidget(new QLabel(QStringLiteral("Table Setup:")));
+  window->addWidget(new QLabel(Words::tr("Table Setup:")));
   window->addWidget(tabs, 1);
   refusal_ = FormParts::AddRefusal(window, {columns_, rows_});
   FormParts::AddButtonRow(window, {insertButton, cancelButton});

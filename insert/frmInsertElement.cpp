@@ -10,6 +10,7 @@
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,10 +22,10 @@
 namespace velor {
 namespace {
 
-const QString ImageFiles = QStringLiteral(
+constexpr auto ImageFiles = Words::Mark(
     "All Image Files (*.jpg, *.gif, *.bmp, *.png, *.tif, *.wmf, *.tga)|"
     "*.jpg;*.jpeg;*.gif;*.bmp;*.png;*.tif;*.tiff;*.wmf;*.tga;*.ras;*.pcd;*.pcx;*.eps");
-const QString AllFiles = QStringLiteral("All Files *.*|*.*");
+constexpr auto AllFiles = Words::Mark("All Files *.*|*.*");
 const QString ExampleAddress = QStringLiteral("someone@example.com");
 
 /// The element modes in the order of their pages.
@@ -134,7 +135,7 @@ ImageValues frmInsertElement::Values() const {
       .source = imageSource_->text(),
       .alternativeText = alternativeText_->text(),
       .lowResolutionSource = lowResolutionSource_->text(),
-      .alignment = imageLook_.alignment->currentText(),
+      .alignment = imageLook_.alignment->currentData().toString(),
       .border = imageLook_.border->text(),
       .horizontalSpacing = imageLook_.horizontalSpacing->text(),
       .verticalSpacing = imageLook_.verticalSpacing->text(),
@@ -161,7 +162,7 @@ QString frmInsertElement::Browse(const QString &filter) {
 }
 
 void frmInsertElement::BrowseForImage() {
-  const QString file = Browse(ImageFiles);
+  const QString file = Browse(Words::tr(ImageFiles));
   if (KeepsAddress(imageSource_, file)) return;
   try {
     ShowPicture(file);
@@ -176,11 +177,11 @@ void frmInsertElement::ShowThatItCannotBeShown(const QString &file) {
   // The size of the picture that the box Image Source still names stays.
   previewCaption_->clear();
   const QString name = QFileInfo(ToNative(file)).fileName();
-  preview_->setText(QStringLiteral("%1 cannot be shown as a picture.").arg(name));
+  preview_->setText(Words::tr("%1 cannot be shown as a picture.").arg(name));
 }
 
 void frmInsertElement::BrowseForLinkTarget() {
-  const QString file = Browse(AllFiles);
+  const QString file = Browse(Words::tr(AllFiles));
   if (KeepsAddress(link_.address, file)) return;
   try {
     FillWithLink(link_.address, file);
@@ -222,7 +223,7 @@ void frmInsertElement::ShowPicture(const QString &file) {
     return;
   }
   if (picture.preview.isNull()) {
-    preview_->setText(QStringLiteral("Too large for a preview"));
+    preview_->setText(Words::tr("Too large for a preview"));
   } else {
     QPixmap pixmap = QPixmap::fromImage(picture.preview);
     pixmap.setDevicePixelRatio(PreviewRatio(pixmap.size(), bounds, devicePixelRatioF()));
@@ -233,9 +234,8 @@ void frmInsertElement::ShowPicture(const QString &file) {
 }
 
 void frmInsertElement::AskForMailAddress() {
-  const QString answer =
-      dialogs_.AskText(QStringLiteral("Please enter the E-mail Address."),
-                       QStringLiteral("Link to a E-mail Address"), ExampleAddress);
+  const QString answer = dialogs_.AskText(Words::tr("Please enter the E-mail Address."),
+                                          Words::tr("Link to a E-mail Address"), ExampleAddress);
   if (!answer.isEmpty()) link_.address->setText(QStringLiteral("mailto:") + answer);
 }
 

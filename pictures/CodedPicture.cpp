@@ -3,6 +3,7 @@
 
 #include "pictures/Resample.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -49,7 +50,7 @@ QByteArray Changed(const QByteArray &file, Change change) {
   const QImage image = format.isEmpty() ? QImage() : change(UprightPicture(file));
   if (image.isNull()) {
     throw RuntimeError(ErrorNumber::InvalidProcedureCall, QStringLiteral("ChangePicture"),
-                       QStringLiteral("this kind of picture cannot be changed"));
+                       Words::tr("this kind of picture cannot be changed"));
   }
   return Coded(image, format.constData(), format == "png" ? -1 : PhotoQuality);
 }
@@ -66,7 +67,7 @@ QImage UprightPicture(const QByteArray &file) {
   QImage image = reader.read();
   if (image.isNull()) {
     throw RuntimeError(ErrorNumber::InvalidProcedureCall, QStringLiteral("UprightPicture"),
-                       file.isEmpty() ? QStringLiteral("the file is empty") : reader.errorString());
+                       file.isEmpty() ? Words::tr("the file is empty") : reader.errorString());
   }
   return image;
 }
@@ -79,7 +80,7 @@ QByteArray Coded(const QImage &image, const char *format, int quality) {
   writer.setQuality(quality);
   if (!writer.write(image)) {
     throw RuntimeError(ErrorNumber::InvalidProcedureCall, QStringLiteral("Coded"),
-                       QStringLiteral("the picture cannot be coded: %1").arg(writer.errorString()));
+                       Words::tr("the picture cannot be coded: %1").arg(writer.errorString()));
   }
   return bytes;
 }

@@ -3,6 +3,7 @@
 
 #include "pictures/CodedPicture.h"
 #include "pictures/PictureData.h"
+#include "platform/Words.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -90,7 +91,7 @@ PreparedPicture PreparePicture(const QByteArray &file, const QString &suffix,
   if (ending.isEmpty()) {
     const QImage image = UprightPicture(file);
     PreparedPicture picture = PreparePicture(image, choices);
-    picture.notice = QStringLiteral("It was a %1 file, which browsers do not show, and is %2 now.")
+    picture.notice = Words::tr("It was a %1 file, which browsers do not show, and is %2 now.")
                          .arg(QString::fromLatin1(format).toUpper(), picture.ending.toUpper());
     return picture;
   }
@@ -99,7 +100,7 @@ PreparedPicture PreparePicture(const QByteArray &file, const QString &suffix,
   const QSize stored = reader.size();
   PreparedPicture picture{file, ending, isSideways ? stored.transposed() : stored, {}};
   if (format == "svg" && HasScripts(file))
-    picture.notice = QStringLiteral("It holds scripts, which browsers do not run in a picture.");
+    picture.notice = Words::tr("It holds scripts, which browsers do not run in a picture.");
   if (choices.details == PictureDetails::Keep) return picture;
   if (format == "jpeg" && isTurned) return TurnedPhoto(file);
   picture.bytes = WithoutPictureData(file);

@@ -18,27 +18,24 @@ struct Sentence {
 };
 
 constexpr Sentence Sentences[] = {
-    {ErrorNumber::InvalidProcedureCall,
-     QT_TRANSLATE_NOOP("velor::Words", "Invalid procedure call or argument")},
-    {ErrorNumber::Overflow, QT_TRANSLATE_NOOP("velor::Words", "Overflow")},
-    {ErrorNumber::SubscriptOutOfRange, QT_TRANSLATE_NOOP("velor::Words", "Subscript out of range")},
-    {ErrorNumber::TypeMismatch, QT_TRANSLATE_NOOP("velor::Words", "Type mismatch")},
-    {ErrorNumber::OutOfStringSpace, QT_TRANSLATE_NOOP("velor::Words", "Out of string space")},
-    {ErrorNumber::FileNotFound, QT_TRANSLATE_NOOP("velor::Words", "File not found")},
-    {ErrorNumber::DeviceIoError, QT_TRANSLATE_NOOP("velor::Words", "Device I/O error")},
-    {ErrorNumber::DiskFull, QT_TRANSLATE_NOOP("velor::Words", "Disk full")},
-    {ErrorNumber::InputPastEnd, QT_TRANSLATE_NOOP("velor::Words", "Input past end of file")},
-    {ErrorNumber::PermissionDenied, QT_TRANSLATE_NOOP("velor::Words", "Permission denied")},
-    {ErrorNumber::PathFileAccess, QT_TRANSLATE_NOOP("velor::Words", "Path/File access error")},
-    {ErrorNumber::PathNotFound, QT_TRANSLATE_NOOP("velor::Words", "Path not found")},
-    {ErrorNumber::ObjectNotSet,
-     QT_TRANSLATE_NOOP("velor::Words", "Object variable or With block variable not set")},
-    {ErrorNumber::DialogCancelled, QT_TRANSLATE_NOOP("velor::Words", "Cancel was selected")},
-    {ErrorNumber::IndexOutOfBounds, QT_TRANSLATE_NOOP("velor::Words", "Index out of bounds")},
-    {ErrorNumber::ElementNotFound, QT_TRANSLATE_NOOP("velor::Words", "Element not found")},
+    {ErrorNumber::InvalidProcedureCall, Words::Mark("Invalid procedure call or argument")},
+    {ErrorNumber::Overflow, Words::Mark("Overflow")},
+    {ErrorNumber::SubscriptOutOfRange, Words::Mark("Subscript out of range")},
+    {ErrorNumber::TypeMismatch, Words::Mark("Type mismatch")},
+    {ErrorNumber::OutOfStringSpace, Words::Mark("Out of string space")},
+    {ErrorNumber::FileNotFound, Words::Mark("File not found")},
+    {ErrorNumber::DeviceIoError, Words::Mark("Device I/O error")},
+    {ErrorNumber::DiskFull, Words::Mark("Disk full")},
+    {ErrorNumber::InputPastEnd, Words::Mark("Input past end of file")},
+    {ErrorNumber::PermissionDenied, Words::Mark("Permission denied")},
+    {ErrorNumber::PathFileAccess, Words::Mark("Path/File access error")},
+    {ErrorNumber::PathNotFound, Words::Mark("Path not found")},
+    {ErrorNumber::ObjectNotSet, Words::Mark("Object variable or With block variable not set")},
+    {ErrorNumber::DialogCancelled, Words::Mark("Cancel was selected")},
+    {ErrorNumber::IndexOutOfBounds, Words::Mark("Index out of bounds")},
+    {ErrorNumber::ElementNotFound, Words::Mark("Element not found")},
     {ErrorNumber::InvalidControl,
-     QT_TRANSLATE_NOOP(
-         "velor::Words",
+     Words::Mark(
          "Incorrect control type passed to 'Attach' parameter - must be a control with a hWnd "
          "property.")},
 };
@@ -75,7 +72,7 @@ ErrorNumber NumberForErrno(int errnoValue) {
 
 RuntimeError::RuntimeError(ErrorNumber number, QString source, QString description)
     : number_(number), source_(std::move(source)), description_(std::move(description)) {
-  const QString line = QStringLiteral("Error %1 in %2: %3")
+  const QString line = Words::tr("Error %1 in %2: %3")
                            .arg(QString::number(static_cast<int>(number_)), source_, description_);
   what_ = line.simplified().toStdString();
 }

@@ -88,8 +88,7 @@ void frmProjectManager::Build() {
   auto *caption = new QLabel(Words::tr("Select the Project and open it."));
   caption->setObjectName(QStringLiteral("Label1"));
   projectList_ = new RecordList(
-      {QStringLiteral("ProjectId"), QStringLiteral("ProjectName"), QStringLiteral("DateModified")},
-      1);
+      {Words::tr("ProjectId"), Words::tr("ProjectName"), Words::tr("DateModified")}, 1);
   projectList_->setObjectName(QStringLiteral("LsHistory"));
   projectList_->setAccessibleName(caption->text());
   openButton_ = new QPushButton(Words::tr("Open"));
@@ -102,7 +101,7 @@ void frmProjectManager::Build() {
   projects->addWidget(openButton_, 0, Qt::AlignRight);
 
   auto *pagesPage = new QWidget;
-  pageList_ = new RecordList({QStringLiteral("PageId"), QStringLiteral("PageName")}, 1);
+  pageList_ = new RecordList({Words::tr("PageId"), Words::tr("PageName")}, 1);
   pageList_->setObjectName(QStringLiteral("LstPages"));
   pageList_->setAccessibleName(Words::tr("Web Pages"));
   column(pagesPage)->addWidget(pageList_);

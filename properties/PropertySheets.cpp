@@ -9,116 +9,167 @@
 namespace velor {
 namespace {
 
-constexpr char Sides[] = "=As it is|left=Left|center=Center|right=Right";
-constexpr char Heights[] = "=As it is|top=Top|middle=Middle|bottom=Bottom|baseline=Baseline";
-constexpr char Windows[] =
-    "=The same|_blank=A new one|_top=All of the window|_parent=The frame above";
-constexpr char Directions[] = "=As it is|ltr=Left to right|rtl=Right to left";
-constexpr char Loading[] = "=At once|lazy=When it comes into sight";
+constexpr PropertyChoice Sides[] = {
+    {"", Words::Mark("As it is")},
+    {"left", Words::Mark("Left")},
+    {"center", Words::Mark("Center")},
+    {"right", Words::Mark("Right")},
+};
+constexpr PropertyChoice Heights[] = {
+    {"", Words::Mark("As it is")},         {"top", Words::Mark("Top")},
+    {"middle", Words::Mark("Middle")},     {"bottom", Words::Mark("Bottom")},
+    {"baseline", Words::Mark("Baseline")},
+};
+constexpr PropertyChoice Windows[] = {
+    {"", Words::Mark("The same")},
+    {"_blank", Words::Mark("A new one")},
+    {"_top", Words::Mark("All of the window")},
+    {"_parent", Words::Mark("The frame above")},
+};
+constexpr PropertyChoice Directions[] = {
+    {"", Words::Mark("As it is")},
+    {"ltr", Words::Mark("Left to right")},
+    {"rtl", Words::Mark("Right to left")},
+};
+constexpr PropertyChoice Loading[] = {
+    {"", Words::Mark("At once")},
+    {"lazy", Words::Mark("When it comes into sight")},
+};
 
 constexpr PropertyField Length(const char *name, const char *label) {
-  return {name, label, FieldKind::Length, "", "Pixels, or a number with % or another unit"};
+  return {name,
+          label,
+          FieldKind::Length,
+          {},
+          Words::Mark("Pixels, or a number with % or another unit")};
 }
 constexpr PropertyField Color(const char *name, const char *label) {
-  return {name, label, FieldKind::Color, "", "#RRGGBB, or a colour's name"};
+  return {name, label, FieldKind::Color, {}, Words::Mark("#RRGGBB, or a colour's name")};
 }
 constexpr PropertyField Truth(const char *name, const char *label, const char *help = "") {
-  return {name, label, FieldKind::Truth, "", help};
+  return {name, label, FieldKind::Truth, {}, help};
 }
-constexpr PropertyField Choice(const char *name, const char *label, const char *choices) {
+constexpr PropertyField Choice(const char *name, const char *label,
+                               std::span<const PropertyChoice> choices) {
   return {name, label, FieldKind::Choice, choices};
 }
 constexpr PropertyField Told(const char *name, const char *label) {
   return {name, label, FieldKind::Told};
 }
-constexpr PropertyField Class = {"class", "C&lass:", FieldKind::Text, "",
-                                 "Names of rules of the page's style sheets, parted by blanks"};
-constexpr PropertyField Id = {"id", "&Id:", FieldKind::Text, "",
-                              "A name of its own, for links and style sheets"};
+constexpr PropertyField Class = {
+    "class",
+    Words::Mark("C&lass:"),
+    FieldKind::Text,
+    {},
+    Words::Mark("Names of rules of the page's style sheets, parted by blanks")};
+constexpr PropertyField Id = {"id",
+                              Words::Mark("&Id:"),
+                              FieldKind::Text,
+                              {},
+                              Words::Mark("A name of its own, for links and style sheets")};
 
 constexpr PropertyField PageFields[] = {
-    {"title", "&Title:"},
-    {"language", "&Language:", FieldKind::Text, "", "Such as en, de or zh-Hant"},
-    Choice("direction", "Direct&ion:", Directions),
-    {"description", "D&escription:"},
-    {"author", "&Author:"},
-    {"viewport", "&Viewport:", FieldKind::Text, "",
-     "How phones show it: width=device-width, initial-scale=1"},
-    Color("text", "Te&xt colour:"),
-    Color("background", "&Background:"),
-    {"picture", "Background &picture:"},
-    Color("link", "Lin&k colour:"),
-    Color("vlink", "Visited link col&our:"),
-    Color("alink", "Active link colo&ur:"),
-    Told("charset", "Charset:"),
-    Told("mode", "Rendering:"),
+    {"title", Words::Mark("&Title:")},
+    {"language",
+     Words::Mark("&Language:"),
+     FieldKind::Text,
+     {},
+     Words::Mark("Such as en, de or zh-Hant")},
+    Choice("direction", Words::Mark("Direct&ion:"), Directions),
+    {"description", Words::Mark("D&escription:")},
+    {"author", Words::Mark("&Author:")},
+    {"viewport",
+     Words::Mark("&Viewport:"),
+     FieldKind::Text,
+     {},
+     Words::Mark("How phones show it: width=device-width, initial-scale=1")},
+    Color("text", Words::Mark("Te&xt colour:")),
+    Color("background", Words::Mark("&Background:")),
+    {"picture", Words::Mark("Background &picture:")},
+    Color("link", Words::Mark("Lin&k colour:")),
+    Color("vlink", Words::Mark("Visited link col&our:")),
+    Color("alink", Words::Mark("Active link colo&ur:")),
+    Told("charset", Words::Mark("Charset:")),
+    Told("mode", Words::Mark("Rendering:")),
 };
 constexpr PropertyField ImageFields[] = {
-    {"src", "&Address:"},
-    {"alt", "&Description:", FieldKind::Text, "", "Read out, and shown where the picture is not"},
-    Truth("decorative", "It only ador&ns", "Nothing is read out for it"),
-    Length("width", "&Width:"),
-    Length("height", "&Height:"),
-    Length("border", "&Border:"),
-    Choice("loading", "L&oading:", Loading),
-    {"title", "&Title:"},
+    {"src", Words::Mark("&Address:")},
+    {"alt",
+     Words::Mark("&Description:"),
+     FieldKind::Text,
+     {},
+     Words::Mark("Read out, and shown where the picture is not")},
+    Truth("decorative", Words::Mark("It only ador&ns"), Words::Mark("Nothing is read out for it")),
+    Length("width", Words::Mark("&Width:")),
+    Length("height", Words::Mark("&Height:")),
+    Length("border", Words::Mark("&Border:")),
+    Choice("loading", Words::Mark("L&oading:"), Loading),
+    {"title", Words::Mark("&Title:")},
     Class,
     Id,
 };
 constexpr PropertyField TableFields[] = {
-    Told("rows", "Rows:"),
-    Told("columns", "Columns:"),
-    {"caption", "C&aption:"},
-    Truth("headRow", "&Headings in the first row"),
-    Truth("headColumn", "Headings in the &first column"),
-    Length("width", "&Width:"),
-    Choice("align", "Ali&gn:", Sides),
-    Length("border", "&Border:"),
-    Length("cellpadding", "Cell &padding:"),
-    Length("cellspacing", "Cell &spacing:"),
-    Color("background", "Bac&kground:"),
+    Told("rows", Words::Mark("Rows:")),
+    Told("columns", Words::Mark("Columns:")),
+    {"caption", Words::Mark("C&aption:")},
+    Truth("headRow", Words::Mark("&Headings in the first row")),
+    Truth("headColumn", Words::Mark("Headings in the &first column")),
+    Length("width", Words::Mark("&Width:")),
+    Choice("align", Words::Mark("Ali&gn:"), Sides),
+    Length("border", Words::Mark("&Border:")),
+    Length("cellpadding", Words::Mark("Cell &padding:")),
+    Length("cellspacing", Words::Mark("Cell &spacing:")),
+    Color("background", Words::Mark("Bac&kground:")),
     Class,
     Id,
 };
 constexpr PropertyField CellFields[] = {
-    Told("rows", "Rows that it takes:"),
-    Told("columns", "Columns that it takes:"),
-    Truth("heading", "&Heading"),
-    Length("width", "&Width:"),
-    Length("height", "H&eight:"),
-    Choice("align", "Ali&gn:", Sides),
-    Choice("valign", "&Vertically:", Heights),
-    Truth("noWrap", "&No line breaks"),
-    Color("background", "Bac&kground:"),
-    Color("color", "Te&xt colour:"),
+    Told("rows", Words::Mark("Rows that it takes:")),
+    Told("columns", Words::Mark("Columns that it takes:")),
+    Truth("heading", Words::Mark("&Heading")),
+    Length("width", Words::Mark("&Width:")),
+    Length("height", Words::Mark("H&eight:")),
+    Choice("align", Words::Mark("Ali&gn:"), Sides),
+    Choice("valign", Words::Mark("&Vertically:"), Heights),
+    Truth("noWrap", Words::Mark("&No line breaks")),
+    Color("background", Words::Mark("Bac&kground:")),
+    Color("color", Words::Mark("Te&xt colour:")),
     Class,
     Id,
 };
 constexpr PropertyField LinkFields[] = {
-    {"href", "&Address:"},
-    {"title", "&Title:"},
-    Choice("target", "&Window:", Windows),
-    {"rel", "&Relation:", FieldKind::Text, "", "Such as nofollow or noopener"},
+    {"href", Words::Mark("&Address:")},
+    {"title", Words::Mark("&Title:")},
+    Choice("target", Words::Mark("&Window:"), Windows),
+    {"rel",
+     Words::Mark("&Relation:"),
+     FieldKind::Text,
+     {},
+     Words::Mark("Such as nofollow or noopener")},
     Class,
     Id,
 };
 constexpr PropertyField FontsFields[] = {
-    {"fontName", "&Font:"},
-    {"fontSize", "&Size:", FieldKind::Text, "", "Points, or a number with px"},
-    Color("color", "&Colour:"),
-    Color("background", "Bac&kground:"),
-    Truth("bold", "&Bold"),
-    Truth("italic", "&Italic"),
-    Truth("underline", "&Underline"),
+    {"fontName", Words::Mark("&Font:")},
+    {"fontSize",
+     Words::Mark("&Size:"),
+     FieldKind::Text,
+     {},
+     Words::Mark("Points, or a number with px")},
+    Color("color", Words::Mark("&Colour:")),
+    Color("background", Words::Mark("Bac&kground:")),
+    Truth("bold", Words::Mark("&Bold")),
+    Truth("italic", Words::Mark("&Italic")),
+    Truth("underline", Words::Mark("&Underline")),
 };
 
 constexpr PropertySheet Sheets[] = {
-    {PropertySubject::Page, "Page Properties", PageFields},
-    {PropertySubject::Image, "Image Properties", ImageFields},
-    {PropertySubject::Table, "Table Properties", TableFields},
-    {PropertySubject::Cell, "Table Cell Properties", CellFields},
-    {PropertySubject::Link, "Hyperlink Properties", LinkFields},
-    {PropertySubject::Fonts, "Fonts Properties", FontsFields},
+    {PropertySubject::Page, Words::Mark("Page Properties"), PageFields},
+    {PropertySubject::Image, Words::Mark("Image Properties"), ImageFields},
+    {PropertySubject::Table, Words::Mark("Table Properties"), TableFields},
+    {PropertySubject::Cell, Words::Mark("Table Cell Properties"), CellFields},
+    {PropertySubject::Link, Words::Mark("Hyperlink Properties"), LinkFields},
+    {PropertySubject::Fonts, Words::Mark("Fonts Properties"), FontsFields},
 };
 
 }  // namespace

@@ -17,13 +17,17 @@ enum class FieldKind {
   Told,    ///< shown only
 };
 
+struct PropertyChoice {
+  const char *value;
+  const char *caption;
+};
+
 /// One field of a properties dialog.
 struct PropertyField {
   const char *name;   ///< of the value, in the bridge (engine/bridge/properties/subjects.js)
   const char *label;  ///< with its mnemonic
   FieldKind kind = FieldKind::Text;
-  /// Of a Choice: "value=Caption" for each, parted by "|".
-  const char *choices = "";
+  std::span<const PropertyChoice> choices = {};
   const char *help = "";
 };
 

@@ -3,6 +3,7 @@
 
 #include "insert/FormParts.h"
 #include "insert/TextBox.h"
+#include "platform/Words.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -26,7 +27,7 @@ frmProperties::frmProperties(const PropertySheet &sheet, const PropertyValues &v
                              QWidget *parent)
     : QDialog(parent), known_(values) {
   setObjectName(QStringLiteral("frmProperties"));
-  setWindowTitle(QLatin1String(sheet.title));
+  setWindowTitle(Words::tr(sheet.title));
   setModal(true);
   QVBoxLayout *window = FormParts::MakePage(this);
   QFormLayout *form = FormParts::AddForm(window);
@@ -35,10 +36,9 @@ frmProperties::frmProperties(const PropertySheet &sheet, const PropertyValues &v
       AddRow(field, values.value(QLatin1String(field.name)), form);
   }
   refusal_ = FormParts::AddRefusal(window, {});
-  QPushButton *ok = FormParts::MakeButton(QStringLiteral("cmdOK"), QStringLiteral("OK"));
-  QPushButton *apply = FormParts::MakeButton(QStringLiteral("cmdApply"), QStringLiteral("Appl&y"));
-  QPushButton *cancel =
-      FormParts::MakeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"));
+  QPushButton *ok = FormParts::MakeButton(QStringLiteral("cmdOK"), Words::tr("OK"));
+  QPushButton *apply = FormParts::MakeButton(QStringLiteral("cmdApply"), Words::tr("Appl&y"));
+  QPushButton *cancel = FormParts::MakeButton(QStringLiteral("cmdCancel"), Words::tr("Cancel"));
   connect(ok, &QPushButton::clicked, this, [this] {
     if (Apply()) accept();
   });
@@ -50,7 +50,7 @@ frmProperties::frmProperties(const PropertySheet &sheet, const PropertyValues &v
 
 void frmProperties::AddRow(const PropertyField &field, const QString &value, QFormLayout *form) {
   const QString name = NameOf(field);
-  const QString label = QLatin1String(field.label);
+  const QString label = Words::tr(field.label);
   Row row{.field = &field};
   QWidget *control = nullptr;
   switch (field.kind) {
@@ -59,13 +59,13 @@ void frmProperties::AddRow(const PropertyField &field, const QString &value, QFo
     case FieldKind::Color:
       control = row.text = FormParts::AddTextBox(form, name, label);
       row.text->setText(value);
-      row.text->setPlaceholderText(QLatin1String(field.help));
+      row.text->setPlaceholderText(Words::tr(field.help));
       connect(row.text, &QLineEdit::textEdited, this, [this] { refusal_->hide(); });
       break;
     case FieldKind::Choice: {
       control = row.choice = FormParts::AddComboBox(form, name, label, {});
-      for (const QString &choice : QString::fromLatin1(field.choices).split(u'|'))
-        row.choice->addItem(choice.section(u'=', 1), choice.section(u'=', 0, 0));
+      for (const PropertyChoice &choice : field.choices)
+        row.choice->addItem(Words::tr(choice.caption), QLatin1String(choice.value));
       if (row.choice->findData(value) < 0) row.choice->addItem(value, value);
       row.choice->setCurrentIndex(row.choice->findData(value));
       break;
@@ -84,8 +84,8 @@ void frmProperties::AddRow(const PropertyField &field, const QString &value, QFo
       return;
     }
   }
-  control->setToolTip(QLatin1String(field.help));
-  control->setAccessibleDescription(QLatin1String(field.help));
+  control->setToolTip(Words::tr(field.help));
+  control->setAccessibleDescription(Words::tr(field.help));
   rows_.push_back(row);
 }
 

@@ -20,12 +20,12 @@ constexpr auto ImageFolderName = u"\\eImages";
 constexpr auto DatabaseLocationName = u"\\SiteConfig.ini";
 constexpr auto ImageLocationName = u"\\SiteImgConfig.ini";
 
-constexpr auto LocatedDatabaseMissing = QT_TRANSLATE_NOOP(
-    "velor::Words", "The Database Path of Vitrine not found. Please provide the Path");
-constexpr auto NoDatabase = QT_TRANSLATE_NOOP(
-    "velor::Words", "The Database Path of Vitrine not Found. Please provide the path");
-constexpr auto NoImageFolder = QT_TRANSLATE_NOOP(
-    "velor::Words", "The Path of Image Folder is not found.Please provide the path");
+constexpr auto LocatedDatabaseMissing =
+    Words::Mark("The Database Path of Vitrine not found. Please provide the Path");
+constexpr auto NoDatabase =
+    Words::Mark("The Database Path of Vitrine not Found. Please provide the path");
+constexpr auto NoImageFolder =
+    Words::Mark("The Path of Image Folder is not found.Please provide the path");
 
 constexpr auto ConnectionPrefix =
     u"Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=";

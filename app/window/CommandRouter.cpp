@@ -20,6 +20,7 @@
 #include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 #include "properties/frmProperties.h"
 
 #include <QAction>
@@ -214,7 +215,7 @@ void CommandRouter::OpenPage() {
   try {
     FileDialog &dialog = context_.mainWindow.fileDialog;
     dialog.Flags = FileDialog::FileMustExist;
-    dialog.Filter = QStringLiteral("HTML Files *.htm,*.html|*.htm;*.html");
+    dialog.Filter = Words::tr("HTML Files *.htm,*.html|*.htm;*.html");
     // A cancelled dialog returns no file and needs no message.
     if (const QString path = dialog.ShowOpen(); !path.isEmpty()) OpenFile(path);
   } catch (const RuntimeError &) {
@@ -229,7 +230,7 @@ QString CommandRouter::OpenFile(const QString &path) {
     if (!ShowPageOfFile(context_, path)) modWorkFlow::OpenPage(context_, path);
   } catch (const RuntimeError &error) {
     const QString refusal =
-        QStringLiteral("%1 could not be opened: %2").arg(ForPeople(path), error.Description());
+        Words::tr("%1 could not be opened: %2").arg(ForPeople(path), error.Description());
     context_.mainWindow.status.Report(refusal);
     return refusal;
   }
@@ -244,18 +245,18 @@ void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
   const FrontWindow *front = host_.Front();
   if (additions_ == Additions::Off && ActiveDocument() == nullptr) return;
   if (front == nullptr || front->PageNumber() == 0) {
-    context_.mainWindow.status.Report(QStringLiteral("There is no page to save"));
+    context_.mainWindow.status.Report(Words::tr("There is no page to save"));
     return;
   }
   const QPointer<frmMain> page = context_.pages.Page(front->PageNumber());
-  QString done = QStringLiteral("Saved %1");
+  QString done = Words::tr("Saved %1");
   if (front->View() == FrontView::SourceEditor) {
     // Typed source is applied to the page first, so that the file gets what is on the screen. Undo
     // in the page takes it back.
     frmCodeEditor *editor = context_.pages.CodeEditor(front->PageNumber());
     if (editor->UnappliedText()) {
       if (!editor->Apply()) return;
-      done = QStringLiteral("The source was applied to the page. Saved %1");
+      done = Words::tr("The source was applied to the page. Saved %1");
     }
   }
   if (page.isNull()) return;
@@ -294,14 +295,14 @@ void CommandRouter::PasteAs(const QString &form) {
   if (frmMain *page = ActiveDocument(); page != nullptr && front->View() == FrontView::Design)
     page->DHTML1().ExecCommand(EditingCommand::Paste, ExecOption::Default, form);
   else
-    context_.mainWindow.status.Report(QStringLiteral("There is no page to put something into"));
+    context_.mainWindow.status.Report(Words::tr("There is no page to put something into"));
 }
 
 void CommandRouter::FindInFront(CommandId step) {
   const auto *front = dynamic_cast<QWidget *>(host_.Front());
   auto *bar = front == nullptr ? nullptr : front->findChild<FindBar *>();
   if (bar == nullptr) {
-    context_.mainWindow.status.Report(QStringLiteral("There is no text to search"));
+    context_.mainWindow.status.Report(Words::tr("There is no text to search"));
     return;
   }
   switch (step) {
@@ -320,7 +321,7 @@ void CommandRouter::Insert(void (InsertCommands::*insertion)(frmMain &)) {
   if (frmMain *page = ActiveDocument()) {
     (insert_.*insertion)(*page);
   } else if (additions_ == Additions::On) {
-    context_.mainWindow.status.Report(QStringLiteral("There is no page to put something into"));
+    context_.mainWindow.status.Report(Words::tr("There is no page to put something into"));
   }
 }
 
@@ -385,7 +386,7 @@ QStringList CommandRouter::OpenFiles(const QStringList &paths, int line) {
     isRefused = isRefused || !HasRoom(context_);
     const QString refusal =
         isRefused
-            ? QStringLiteral("%1 could not be opened: too many pages are open").arg(ForPeople(path))
+            ? Words::tr("%1 could not be opened: too many pages are open").arg(ForPeople(path))
             : OpenFile(path);
     if (!refusal.isEmpty()) notOpened += refusal;
   }

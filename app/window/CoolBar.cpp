@@ -4,6 +4,7 @@
 #include "app/window/BandToolBar.h"
 #include "app/window/FormattingBar.h"
 #include "chrome/Palette.h"
+#include "platform/Words.h"
 
 #include <QPainter>
 #include <QToolBar>
@@ -25,8 +26,8 @@ QToolBar *CoolBar::BuildGeneral() {
   QToolBar *bar = NewBandToolBar("tbrGeneral", tr("General"), this);
   for (std::size_t index = 0; index < GeneralButtons.size(); ++index) {
     const GeneralButton &row = GeneralButtons[index];
-    general_[index] = AddBandButton(*bar, QString::fromLatin1(row.key),
-                                    QString::fromLatin1(row.tooltip), ButtonKind::Click);
+    general_[index] = AddBandButton(*bar, QString::fromLatin1(row.key), Words::tr(row.tooltip),
+                                    ButtonKind::Click);
     connect(general_[index], &ToolBarAction::Chosen, this,
             [this, &row] { Q_EMIT GeneralClicked(row); });
   }

@@ -8,6 +8,7 @@
 #include "chrome/Palette.h"
 #include "insert/modColor.h"
 #include "platform/EditingCommands.h"
+#include "platform/Words.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -76,6 +77,11 @@ class ColorsAction final : public QWidgetAction {
   ColorPicker &back_;
 };
 
+/// The name of a block format as the person reads it.
+QString Translated(const QString &format) {
+  return format.isEmpty() ? QString() : Words::tr(format.toUtf8().constData());
+}
+
 }  // namespace
 
 FormattingBar::FormattingBar(QWidget *parent)
@@ -103,7 +109,9 @@ FormattingBar::FormattingBar(QWidget *parent)
   setTabOrder(blockFormat_, fontName_);
   setTabOrder(fontName_, fontSize_);
 
-  connect(blockFormat_, &ChoiceBox::Clicked, this, &FormattingBar::BlockFormatClicked);
+  connect(blockFormat_, &ChoiceBox::Clicked, this, [this](const QString &text) {
+    Q_EMIT BlockFormatClicked(blockFormat_->itemData(blockFormat_->findText(text)).toString());
+  });
   connect(fontSize_, &ChoiceBox::Clicked, this, &FormattingBar::FontSizeClicked);
   connect(fontName_, &FontPicker::FontChosen, this, &FormattingBar::FontNameChanged);
   connect(blockFormat_, &ChoiceBox::Done, this, &FormattingBar::Done);
@@ -124,7 +132,7 @@ QToolBar *FormattingBar::BuildButtons() {
   for (std::size_t index = 0; index < EditCommands.size(); ++index) {
     const EditCommand &row = EditCommands[index];
     buttons_[index] =
-        AddBandButton(*bar, row.key.toString(), row.tooltip.toString(), ButtonKind::Toggle);
+        AddBandButton(*bar, row.key.toString(), Words::tr(row.tooltip), ButtonKind::Toggle);
     connect(buttons_[index], &ToolBarAction::Chosen, this,
             [this, &row] { Q_EMIT CommandClicked(row.command); });
   }
@@ -156,7 +164,7 @@ void FormattingBar::InitialiseFonts() {
 }
 
 void FormattingBar::FillBlockFormats(const QStringList &names) {
-  blockFormat_->addItems(names);
+  for (const QString &name : names) blockFormat_->addItem(Translated(name), name);
   blockFormat_->ShowText(QString());
 }
 
@@ -183,7 +191,8 @@ void FormattingBar::ShowFontName(const QString &name) {
 
 void FormattingBar::ShowBlockFormat(const QString &name) {
   blockFormat_->setEnabled(true);
-  if (blockFormat_->Text() != name) blockFormat_->ShowText(name);
+  const QString text = Translated(name);
+  if (blockFormat_->Text() != text) blockFormat_->ShowText(text);
 }
 
 void FormattingBar::ShowFontSize(const QString &points) {

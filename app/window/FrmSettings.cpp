@@ -8,6 +8,7 @@
 #include "insert/TextBox.h"
 #include "platform/Conversions.h"
 #include "platform/Registry.h"
+#include "platform/Words.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -23,10 +24,13 @@ namespace velor {
 using namespace FormParts;
 namespace Settings = modSettingManager;
 
+/// The menu style that is none of the menu's.
+constexpr const char *PictureFileStyle[] = {Words::Mark("Picture file")};
+
 FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidget *parent)
     : QDialog(parent), registry_(registry), pictures_(pictures) {
   setObjectName(QStringLiteral("FrmSettings"));
-  setWindowTitle(QStringLiteral("Settings"));
+  setWindowTitle(Words::tr("Settings"));
   setModal(true);
   QVBoxLayout *window = MakePage(this);
   // In two columns, so that the window fits on a small screen.
@@ -36,27 +40,26 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
   for (QVBoxLayout *column : {left, right}) columns->addLayout(column);
   window->addLayout(columns);
 
-  QFormLayout *pages = AddFrame(left, QStringLiteral("Pages that are opened from now on"));
-  AddTruth(pages, PreferenceOf("ShowDetails"), QStringLiteral("Show &details"));
-  AddTruth(pages, PreferenceOf("SnapToGrid"), QStringLiteral("&Snap to grid"));
+  QFormLayout *pages = AddFrame(left, Words::tr("Pages that are opened from now on"));
+  AddTruth(pages, PreferenceOf("ShowDetails"), Words::tr("Show &details"));
+  AddTruth(pages, PreferenceOf("SnapToGrid"), Words::tr("&Snap to grid"));
   AddTruth(pages, PreferenceOf("showtoolbox"),
-           QStringLiteral("&Forget the inspected element with its page"));
-  QFormLayout *source = AddFrame(left, QStringLiteral("Source"));
-  AddTruth(source, PreferenceOf("WrapSource"), QStringLiteral("&Wrap long lines"));
-  QFormLayout *images = AddFrame(left, QStringLiteral("Pictures from outside the site"));
-  AddTruth(images, PreferenceOf("CopyPictures"), QStringLiteral("&Copy them into the site"));
+           Words::tr("&Forget the inspected element with its page"));
+  QFormLayout *source = AddFrame(left, Words::tr("Source"));
+  AddTruth(source, PreferenceOf("WrapSource"), Words::tr("&Wrap long lines"));
+  QFormLayout *images = AddFrame(left, Words::tr("Pictures from outside the site"));
+  AddTruth(images, PreferenceOf("CopyPictures"), Words::tr("&Copy them into the site"));
   AddTruth(images, PreferenceOf("KeepPictureData"),
-           QStringLiteral("Keep place, &time and camera in copies"));
-  AddTruth(images, PreferenceOf("PhotosAsWebP"), QStringLiteral("Write pasted photos as We&bP"));
-  QFormLayout *menus = AddFrame(right, QStringLiteral("Menus"));
+           Words::tr("Keep place, &time and camera in copies"));
+  AddTruth(images, PreferenceOf("PhotosAsWebP"), Words::tr("Write pasted photos as We&bP"));
+  QFormLayout *menus = AddFrame(right, Words::tr("Menus"));
   AddMenuStyle(menus);
   for (const ColorSetting &setting : ColorSettings) AddColor(menus, setting);
-  QFormLayout *program = AddFrame(right, QStringLiteral("From the next start on"));
-  AddTruth(program, PreferenceOf("WholeTemplateSigns"),
-           QStringLiteral("&Keep template signs whole"));
+  QFormLayout *program = AddFrame(right, Words::tr("From the next start on"));
+  AddTruth(program, PreferenceOf("WholeTemplateSigns"), Words::tr("&Keep template signs whole"));
   QCheckBox *publishedOnly = AddTruth(program, PreferenceOf("PublishedOnly"),
-                                      QStringLiteral("&Published behaviour only (no menu Tools)"));
-  publishedOnly->setToolTip(QStringLiteral("PublishedOnly=False in %1 brings the menu back.")
+                                      Words::tr("&Published behaviour only (no menu Tools)"));
+  publishedOnly->setToolTip(Words::tr("PublishedOnly=False in %1 brings the menu back.")
                                 .arg(Settings::OptionsPlace(registry)));
 
   for (QVBoxLayout *column : {left, right}) column->addStretch();
@@ -66,8 +69,8 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
     refusal_->setText(faults_.join(u'\n'));
     refusal_->show();
   }
-  QPushButton *ok = MakeButton(QStringLiteral("cmdOK"), QStringLiteral("OK"));
-  QPushButton *cancel = MakeButton(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"));
+  QPushButton *ok = MakeButton(QStringLiteral("cmdOK"), Words::tr("OK"));
+  QPushButton *cancel = MakeButton(QStringLiteral("cmdCancel"), Words::tr("Cancel"));
   connect(ok, &QPushButton::clicked, this, &FrmSettings::accept);
   connect(cancel, &QPushButton::clicked, this, &FrmSettings::reject);
   AddButtonRow(window, {ok, cancel});
@@ -96,10 +99,9 @@ QCheckBox *FrmSettings::AddTruth(QFormLayout *form, const Preference &preference
 void FrmSettings::AddMenuStyle(QFormLayout *form) {
   constexpr const Preference &MenuStyle = PreferenceOf("MenuStyle");
   constexpr const Preference &MenuBackground = PreferenceOf("MenuBackground");
-  style_ = AddComboBox(form, MenuStyle.Name(), QStringLiteral("Style:"),
-                       {QStringLiteral("Picture file")});
+  style_ = AddComboBox(form, MenuStyle.Name(), Words::tr("Style:"), PictureFileStyle);
   for (const MenuRow &row : MenuTable())
-    if (row.command.id == CommandId::MenuStyle) style_->addItem(QString::fromLatin1(row.caption));
+    if (row.command.id == CommandId::MenuStyle) style_->addItem(Words::tr(row.caption));
   const int last = style_->count() - 1;
   int style = Settings::IntegerOption(registry_, MenuStyle,
                                       [this](const RuntimeError &fault) { Tell(fault); });
@@ -111,7 +113,7 @@ void FrmSettings::AddMenuStyle(QFormLayout *form) {
   style_->setCurrentIndex(style);
   AddRow(MenuStyle.Name(), [this] { return QString::number(style_->currentIndex()); });
 
-  background_ = AddTextBox(form, MenuBackground.Name(), QStringLiteral("Picture file:"));
+  background_ = AddTextBox(form, MenuBackground.Name(), Words::tr("Picture file:"));
   background_->setText(Settings::GetOption(registry_, MenuBackground));
   AddRow(MenuBackground.Name(), [this] { return background_->text(); });
   const auto followStyle = [this] { background_->setEnabled(style_->currentIndex() == 0); };
@@ -122,7 +124,7 @@ void FrmSettings::AddMenuStyle(QFormLayout *form) {
 void FrmSettings::AddColor(QFormLayout *form, const ColorSetting &setting) {
   const QString name = setting.preference.Name();
   auto *picker = new ColorPicker(QStringLiteral("backcolor"), this);
-  AddControl(form, name, QString::fromLatin1(setting.label), picker);
+  AddControl(form, name, Words::tr(setting.label), picker);
   picker->SetColor(Settings::LongOption(registry_, setting.preference,
                                         [this](const RuntimeError &fault) { Tell(fault); }));
   AddRow(name, [picker] { return QString::number(picker->Color()); });
@@ -133,8 +135,7 @@ void FrmSettings::accept() {
     try {
       pictures_.file(background_->text());
     } catch (const RuntimeError &) {
-      return Refuse(*refusal_, QStringLiteral("That file cannot be shown as a picture."),
-                    *background_);
+      return Refuse(*refusal_, Words::tr("That file cannot be shown as a picture."), *background_);
     }
   }
   for (const Row &row : rows_)

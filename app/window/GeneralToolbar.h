@@ -4,6 +4,7 @@
 #include "app/window/Additions.h"
 #include "app/window/Command.h"
 #include "platform/EditingCommands.h"
+#include "platform/Words.h"
 
 #include <array>
 
@@ -31,23 +32,28 @@ constexpr GeneralButton PageButton(const char *key, const char *tooltip, Command
 
 /// The seventeen buttons in toolbar order.
 inline constexpr std::array<GeneralButton, 17> GeneralButtons{{
-    {"new", "New", {CommandId::NewPage}, Guard::MenuItem},
-    {"open", "Open", {CommandId::OpenPage}, Guard::MenuItem},
-    {"save", "Save", {CommandId::SavePage}, Guard::MenuItem},
-    {"saveas", "Save As", {CommandId::SavePageAs}, Guard::MenuItem},
-    {"startman", "Project Manager", {CommandId::ProjectManager}},
-    PageButton("cut", "Cut", {CommandId::Editing, EditingCommand::Cut}),
-    PageButton("copy", "Copy", {CommandId::Editing, EditingCommand::Copy}),
-    PageButton("paste", "Paste", {CommandId::Editing, EditingCommand::Paste}),
-    PageButton("delete", "Delete", {CommandId::Editing, EditingCommand::Delete}),
-    PageButton("undo", "Undo", {CommandId::Editing, EditingCommand::Undo}),
-    PageButton("redo", "Redo", {CommandId::Editing, EditingCommand::Redo}),
-    PageButton("preview", "Preview", {CommandId::Preview}),
-    PageButton("table", "Table", {CommandId::InsertTable}),
-    PageButton("image", "Image", {CommandId::InsertImage}),
-    {"anchor", "Anchor", {CommandId::InsertTarget}, Guard::None, Needs::Page, Reach::Beyond},
-    {"help", "Help", {CommandId::Help}, Guard::None, Needs::Nothing, Reach::Beyond},
-    {"about", "About", {CommandId::About}},
+    {"new", Words::Mark("New"), {CommandId::NewPage}, Guard::MenuItem},
+    {"open", Words::Mark("Open"), {CommandId::OpenPage}, Guard::MenuItem},
+    {"save", Words::Mark("Save"), {CommandId::SavePage}, Guard::MenuItem},
+    {"saveas", Words::Mark("Save As"), {CommandId::SavePageAs}, Guard::MenuItem},
+    {"startman", Words::Mark("Project Manager"), {CommandId::ProjectManager}},
+    PageButton("cut", Words::Mark("Cut"), {CommandId::Editing, EditingCommand::Cut}),
+    PageButton("copy", Words::Mark("Copy"), {CommandId::Editing, EditingCommand::Copy}),
+    PageButton("paste", Words::Mark("Paste"), {CommandId::Editing, EditingCommand::Paste}),
+    PageButton("delete", Words::Mark("Delete"), {CommandId::Editing, EditingCommand::Delete}),
+    PageButton("undo", Words::Mark("Undo"), {CommandId::Editing, EditingCommand::Undo}),
+    PageButton("redo", Words::Mark("Redo"), {CommandId::Editing, EditingCommand::Redo}),
+    PageButton("preview", Words::Mark("Preview"), {CommandId::Preview}),
+    PageButton("table", Words::Mark("Table"), {CommandId::InsertTable}),
+    PageButton("image", Words::Mark("Image"), {CommandId::InsertImage}),
+    {"anchor",
+     Words::Mark("Anchor"),
+     {CommandId::InsertTarget},
+     Guard::None,
+     Needs::Page,
+     Reach::Beyond},
+    {"help", Words::Mark("Help"), {CommandId::Help}, Guard::None, Needs::Nothing, Reach::Beyond},
+    {"about", Words::Mark("About"), {CommandId::About}},
 }};
 
 }  // namespace velor

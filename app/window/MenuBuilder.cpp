@@ -2,6 +2,7 @@
 #include "app/window/MenuBuilder.h"
 
 #include "chrome/Icons.h"
+#include "platform/Words.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -12,7 +13,7 @@ namespace velor {
 namespace {
 
 QMenu *NewMenu(QMainWindow &window, const MenuRow &row, const Menus &built) {
-  const QString caption = QString::fromLatin1(row.caption);
+  const QString caption = Words::tr(row.caption);
   QMenu *menu = nullptr;
   if (row.kind == MenuKind::Popup) {
     menu = new QMenu(&window);
@@ -28,7 +29,7 @@ QMenu *NewMenu(QMainWindow &window, const MenuRow &row, const Menus &built) {
 }
 
 QAction *NewItem(QMainWindow &window, const MenuRow &row) {
-  auto *item = new QAction(QString::fromLatin1(row.caption), &window);
+  auto *item = new QAction(Words::tr(row.caption), &window);
   item->setObjectName(QString::fromLatin1(row.name));
   if (row.index != 0) item->setProperty("index", row.index);
   if (row.shortcut) {

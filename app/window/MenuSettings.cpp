@@ -7,6 +7,7 @@
 #include "platform/Paths.h"
 #include "platform/Registry.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 #include <QStringList>
 
@@ -34,10 +35,11 @@ QPixmap Loaded(const QString &file, ErrorNumber failure) {
 }  // namespace
 
 const std::array<ColorSetting, 4> ColorSettings{{
-    {PreferenceOf("mnuFore"), "Text:", &MenuPainter::SetTextColor},
-    {PreferenceOf("mnuBorder"), "Border:", &MenuPainter::SetBorderColor},
-    {PreferenceOf("mnuHighlight"), "Chosen item:", &MenuPainter::SetHighlightColor},
-    {PreferenceOf("mnuHighFore"), "Text of the chosen item:", &MenuPainter::SetHighlightTextColor},
+    {PreferenceOf("mnuFore"), Words::Mark("Text:"), &MenuPainter::SetTextColor},
+    {PreferenceOf("mnuBorder"), Words::Mark("Border:"), &MenuPainter::SetBorderColor},
+    {PreferenceOf("mnuHighlight"), Words::Mark("Chosen item:"), &MenuPainter::SetHighlightColor},
+    {PreferenceOf("mnuHighFore"), Words::Mark("Text of the chosen item:"),
+     &MenuPainter::SetHighlightTextColor},
 }};
 
 MenuPictures ProgramMenuPictures() {

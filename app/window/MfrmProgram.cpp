@@ -34,6 +34,7 @@
 #include "platform/Platform.h"
 #include "platform/ProgramValues.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 #include "recovery/offers/RecoveryBar.h"
 
 #include <QAbstractItemView>
@@ -190,7 +191,7 @@ void MfrmProgram::PrepareHelp() {
   if (additions_ == Additions::Off) return;
   help_ = std::make_unique<Help>(ManualFolder(QCoreApplication::applicationDirPath()));
   connect(help_.get(), &Help::Missing, statusLine_,
-          [this] { statusLine_->Report(QStringLiteral("The manual is not installed")); });
+          [this] { statusLine_->Report(Words::tr("The manual is not installed")); });
 }
 
 QWidget *MfrmProgram::BuildTabRow() {
@@ -391,8 +392,8 @@ void MfrmProgram::ShowCommandPalette() {
     const bool isShared = MenuItem(row.command).objectName() != QLatin1String(row.name) &&
                           QLatin1String(row.name).startsWith(QLatin1String("ext"));
     if (isShared) continue;
-    commands.append({SpokenCaption(QString::fromLatin1(row.caption)), &MenuItem(row.command),
-                     QString::fromLatin1(row.words)});
+    commands.append(
+        {SpokenCaption(Words::tr(row.caption)), &MenuItem(row.command), Words::tr(row.words)});
   }
   for (ToolBarAction *button : bandBar_->Formatting().Buttons())
     commands.append({button->toolTip(), button, {}});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/PageChooser.h"
 
+#include "platform/Words.h"
+
 #include <QSignalBlocker>
 
 namespace velor {
@@ -21,7 +23,7 @@ void PageChooser::RemovePages() {
 
 void PageChooser::AddPage(const QString &name, std::int32_t pageId) {
   const QSignalBlocker silence(this);
-  addItem(name.isEmpty() ? QStringLiteral("(no name)") : name, pageId);
+  addItem(name.isEmpty() ? Words::tr("(no name)") : name, pageId);
   // Nothing is chosen until the person chooses.
   if (count() == 1) setCurrentIndex(-1);
   setEnabled(true);

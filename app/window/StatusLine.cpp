@@ -2,6 +2,7 @@
 #include "app/window/StatusLine.h"
 
 #include "chrome/Palette.h"
+#include "platform/Words.h"
 
 #include <QLabel>
 
@@ -19,7 +20,7 @@ StatusLine::StatusLine(QWidget *parent, NoticeTimes times)
   tag_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   addWidget(tag_, 1);
   textForm_->setObjectName(QStringLiteral("Sta_2"));
-  textForm_->setAccessibleName(QStringLiteral("Charset and line ends"));
+  textForm_->setAccessibleName(Words::tr("Charset and line ends"));
   textForm_->setTextFormat(Qt::PlainText);
   textForm_->setContentsMargins(0, 0, BarMargin, 0);
   addPermanentWidget(textForm_);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "page/text/UnsupportedForm.h"
 
+#include "platform/Words.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -131,7 +133,7 @@ std::optional<UnsupportedForm> UnsupportedFormOf(QByteArrayView bytes) {
 }
 
 QString InWords(UnsupportedForm form) {
-  const QString noCharset = QStringLiteral("%1, which is none of the charsets that pages may have");
+  const QString noCharset = Words::tr("%1, which is none of the charsets that pages may have");
   switch (form) {
     case UnsupportedForm::Utf32:
       return noCharset.arg(QStringLiteral("UTF-32"));
@@ -140,7 +142,7 @@ QString InWords(UnsupportedForm form) {
     case UnsupportedForm::Ebcdic:
       return noCharset.arg(QStringLiteral("EBCDIC"));
     case UnsupportedForm::Binary:
-      return QStringLiteral("a binary file, which is no text");
+      return Words::tr("a binary file, which is no text");
   }
   return {};
 }

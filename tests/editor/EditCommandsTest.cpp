@@ -25,7 +25,7 @@ TEST(EditCommandsTest, TheTenKeysStandInToolbarOrderWithTheirPublishedNumbers) {
   ASSERT_EQ(EditCommands.size(), published.size());
   for (std::size_t row = 0; row < published.size(); ++row) {
     EXPECT_EQ(EditCommands[row].key.toString(), published[row].key.toString());
-    EXPECT_EQ(EditCommands[row].tooltip.toString(), published[row].tooltip.toString());
+    EXPECT_EQ(QString::fromLatin1(EditCommands[row].tooltip), published[row].tooltip.toString());
     EXPECT_EQ(Number(EditCommands[row].command), published[row].number);
   }
 }

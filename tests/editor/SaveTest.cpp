@@ -238,8 +238,8 @@ TEST_F(SaveCommandTest, APlainSaveThatFailsWithNoJournalToHoldThePageIsTold) {
 }
 
 TEST_F(SaveCommandTest, IntoAnotherFolderLinksAreAdaptedTakenAlongOrLeft) {
-  const QString question =
-      QStringLiteral("From the new folder 1 links and 1 pictures of this page would lead nowhere.");
+  const QString question = QStringLiteral(
+      "From the new folder one link and one picture of this page would lead nowhere.");
   const QByteArray page = "<a href=other.htm>x</a><img src=a.png>";
   files.AddFile(OtherFile, "other");
   files.AddFile(QStringLiteral("\\site\\a.png"), "picture");

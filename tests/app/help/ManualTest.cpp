@@ -125,7 +125,7 @@ TEST_F(ManualTest, ItNamesEveryCommandAndButton) {
     if (row.command.id != CommandId::None) names << SpokenCaption(QString::fromLatin1(row.caption));
   }
   for (const GeneralButton &button : GeneralButtons) names << QString::fromLatin1(button.tooltip);
-  for (const EditCommand &button : EditCommands) names << button.tooltip.toString();
+  for (const EditCommand &button : EditCommands) names << QString::fromLatin1(button.tooltip);
   for (const QString &name : names) EXPECT_TRUE(all.contains(name)) << name.toStdString();
 }
 

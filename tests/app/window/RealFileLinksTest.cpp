@@ -95,7 +95,7 @@ TEST_F(RealFileLinks, ASaveAsThatFailsAfterLinksWereAdaptedLeavesPageLinksAndUnd
   Type(page, QStringLiteral("X"));
   ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("oXne")); }));
   dialogs.ExpectChoice(
-      QStringLiteral("From the new folder 0 links and 1 pictures of this page would lead nowhere."),
+      QStringLiteral("From the new folder one picture of this page would lead nowhere."),
       QStringLiteral("Adapt"));
   dialogs.ExpectMessage(QStringLiteral("File saving error: 76"));
   SharedDialog().ExpectSave(Logic(QStringLiteral("none/page.htm")));
@@ -122,7 +122,7 @@ TEST_F(RealFileLinks, InAnotherFolderListsOfPicturesAndStylesLeadWhereTheyLed) {
       "<IMG srcset='a.svg 1x' SRC=a.svg>\n<p style='background: url(a.svg)'>one\n";
   frmMain &page = Open(QStringLiteral("page.htm"), source);
   dialogs.ExpectChoice(
-      QStringLiteral("From the new folder 0 links and 4 pictures of this page would lead nowhere."),
+      QStringLiteral("From the new folder 4 pictures of this page would lead nowhere."),
       QStringLiteral("Adapt"));
   SharedDialog().ExpectSave(Logic(QStringLiteral("sub/page.htm")));
   Choose("mnuSaveAs");

@@ -234,9 +234,10 @@ TEST_F(RealInsert, FullAddressesInANewPageBecomeRelativeAtItsFirstSaveAs) {
   const QByteArray saved = Bytes(QStringLiteral("sub/new.htm"));
   EXPECT_TRUE(saved.contains("src=\"../img/a b.png\"")) << saved.constData();
   EXPECT_TRUE(saved.contains("file:///elsewhere/x.htm")) << saved.constData();
-  EXPECT_EQ(window.statusBar()->currentMessage(),
-            QStringLiteral("Saved %1. 1 links in it lead to files by their way from the page now")
-                .arg(folder.FilePath(QStringLiteral("sub/new.htm"))));
+  EXPECT_EQ(
+      window.statusBar()->currentMessage(),
+      QStringLiteral("Saved %1. One link in it leads to its file by its way from the page now")
+          .arg(folder.FilePath(QStringLiteral("sub/new.htm"))));
   const auto isShown = [&] {
     return Evaluate(EngineOf(page),
                     QStringLiteral("document.images[0] && document.images[0].naturalWidth")) == 60;
