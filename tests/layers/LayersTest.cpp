@@ -26,11 +26,14 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"page/source", {"page/text", "platform"}},
       {"files", {"platform"}},
       {"pictures", {"page/text", "platform"}},
+      {"spelling", {"platform"}},
       {"recovery", {"files", "platform"}},
       {"catalogue/jet", {"platform"}},
       {"catalogue", {"catalogue/jet", "files", "platform"}},
       {"engine", {"page/saving", "page/text", "platform"}},
-      {"qt", {"engine", "page/source", "page/text", "catalogue", "files", "recovery", "platform"}},
+      {"qt",
+       {"engine", "page/source", "page/text", "catalogue", "files", "recovery", "spelling",
+        "platform"}},
       {"app/settings", {"platform"}},
       {"chrome", {"platform"}},
       {"insert", {"chrome", "platform"}},
@@ -53,8 +56,8 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
 /// Layers whose logic must not know any toolkit: QtWidgets, WebEngine, QScintilla or SQLite.
 const std::set<std::string> &ToolkitFreeLayers() {
   static const std::set<std::string> layers = {
-      "platform", "page/text", "page/saving",   "page/source", "files",
-      "pictures", "recovery",  "catalogue/jet", "catalogue",   "app/settings"};
+      "platform", "page/text", "page/saving",   "page/source", "files",       "pictures",
+      "spelling", "recovery",  "catalogue/jet", "catalogue",   "app/settings"};
   return layers;
 }
 
@@ -68,8 +71,8 @@ std::string LayerOf(const std::string &path) {
 
 const std::vector<std::string> &SourceFolders() {
   static const std::vector<std::string> folders = {
-      "app",       "editor",   "insert", "projects", "chrome", "platform", "page", "engine",
-      "catalogue", "recovery", "files",  "pictures", "qt",     "bench",    "tools"};
+      "app",       "editor",   "insert", "projects", "chrome", "platform", "page",  "engine",
+      "catalogue", "recovery", "files",  "pictures", "qt",     "bench",    "tools", "spelling"};
   return folders;
 }
 
@@ -99,9 +102,9 @@ std::string Objection(const Include &include) {
   if (ToolkitFreeLayers().count(from) && std::regex_search(include.target, toolkit))
     return include.file + " includes the toolkit: " + include.target;
   static const std::regex engine(
-      R"(^(QtWebEngine\w*|QWebEngine\w*|Qsci|sqlite3\.h|unicode)(/|$|\.))");
-  static const std::set<std::string> engineUsers = {"engine", "qt",    "page/text", "catalogue",
-                                                    "app",    "tools", "bench"};
+      R"(^(QtWebEngine\w*|QWebEngine\w*|Qsci|sqlite3\.h|unicode|hunspell)(/|$|\.))");
+  static const std::set<std::string> engineUsers = {"engine",   "qt",  "page/text", "catalogue",
+                                                    "spelling", "app", "tools",     "bench"};
   if (!engineUsers.count(from) && std::regex_search(include.target, engine))
     return include.file + " includes an engine past its interface: " + include.target;
   if (!include.quoted) return {};
