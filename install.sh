@@ -17,7 +17,7 @@ packages=(
 )
 test_packages=(
   xvfb xauth xdotool openbox at-spi2-core python3-gi gir1.2-atspi-2.0 dbus dbus-x11 imagemagick
-  mdbtools
+  mdbtools poppler-utils
 )
 lint_packages=(clang-format clang-tidy shellcheck python3 git node-typescript)
 package_packages=(appstream desktop-file-utils dpkg-dev file lintian mandoc strace)

@@ -7,6 +7,7 @@
 
 namespace velor {
 
+class PagePrinting;
 struct EditorContext;
 
 /// What a child window shows.
@@ -34,6 +35,8 @@ class FrontWindow {
   virtual void Edit(EditingCommand command) = 0;
   /// To be called when it has come to the front: updates the bars of the main window.
   virtual void OnActivated() = 0;
+  /// Puts what it shows on paper; null where it shows nothing any more.
+  virtual PagePrinting *Printing() = 0;
 };
 
 /// The name of a slot's page: the title of its window, or the record's caption where that is gone.

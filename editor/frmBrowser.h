@@ -67,6 +67,7 @@ class frmBrowser : public QWidget,
   /// Does nothing: the preview is not edited.
   void Edit(EditingCommand) override {}
   void OnActivated() override;
+  PagePrinting *Printing() override { return &browser_->Printing(); }
 
   void MarkKill() override;
 

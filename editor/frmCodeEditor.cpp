@@ -193,6 +193,11 @@ frmCodeEditor::CloseDecision frmCodeEditor::AskBeforeClosing() {
   return CloseDecision::Keep;
 }
 
+PagePrinting *frmCodeEditor::Printing() {
+  frmMain *page = context_.pages.Page(number_);
+  return page == nullptr ? nullptr : &page->DHTML1().Printing();
+}
+
 void frmCodeEditor::MarkKill() {
   Tag = QStringLiteral("kill");
   PendingAction = QStringLiteral("kill");

@@ -65,6 +65,8 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   QString FilePath() const override { return PagePath(context_, number_); }
   void Edit(EditingCommand command) override;
   void OnActivated() override;
+  /// The page, without source that is not applied to it.
+  PagePrinting *Printing() override;
 
   void MarkKill() override;
 

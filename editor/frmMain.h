@@ -91,6 +91,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   QString FilePath() const override { return PagePath(context_, number_); }
   void Edit(EditingCommand command) override;
   void OnActivated() override;
+  PagePrinting *Printing() override { return &component_->Printing(); }
 
   /// Turn the view's details, or its grid, on or off, and keep the choice.
   void ToggleShowDetails();

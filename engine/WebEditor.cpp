@@ -74,7 +74,8 @@ WebEditor::WebEditor(EditingEngine &engine, Files &files, const QString &program
       search_(document_, notices_),
       loader_(document_, notices_, options_, programFolder),
       replacer_(document_, loader_, notices_, engine.Verifier()),
-      saver_(document_, loader_, notices_, files, engine.Verifier()) {
+      saver_(document_, loader_, notices_, files, engine.Verifier()),
+      printing_(engine, document_) {
   QObject::connect(&document_.Mirror(), &DocumentMirror::Paused, [this] { saver_.ComposeAhead(); });
 }
 

@@ -7,6 +7,7 @@
 #include "engine/PageReplacer.h"
 #include "engine/PageSaver.h"
 #include "engine/WebDocument.h"
+#include "engine/WebPrinting.h"
 #include "engine/WebSearch.h"
 #include "platform/EditingComponent.h"
 
@@ -58,6 +59,7 @@ class WebEditor : public EditingComponent {
   CommandStatus QueryStatus(EditingCommand command) const override;
   QStringList BlockFormats() const override;
   TextSearch &Search() override { return search_; }
+  PagePrinting &Printing() override { return printing_; }
   HtmlDocument &Document() override;
   bool ShowDetails() const override;
   void SetShowDetails(bool on) override;
@@ -96,6 +98,7 @@ class WebEditor : public EditingComponent {
   PageLoader loader_;
   PageReplacer replacer_;
   PageSaver saver_;
+  WebPrinting printing_;
 };
 
 }  // namespace velor

@@ -9,6 +9,8 @@ class QWidget;
 
 namespace velor {
 
+class PagePrinting;
+
 /// Receives what a browser reports.
 class BrowserListener {
  public:
@@ -45,6 +47,8 @@ class Browser {
   virtual void GoForward() = 0;
   virtual void Refresh() = 0;
   virtual void Stop() = 0;
+  /// Puts what is shown on paper. Valid as long as the browser.
+  virtual PagePrinting &Printing() = 0;
 };
 
 }  // namespace velor

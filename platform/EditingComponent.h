@@ -16,6 +16,7 @@ class QWidget;
 
 namespace velor {
 
+class PagePrinting;
 class TextSearch;
 
 /// Answers of QueryStatus, with their published numbers.
@@ -152,6 +153,8 @@ class EditingComponent {
   /// Finds and replaces in the page's text. Comments, scripts and server code are no text. Valid as
   /// long as the component.
   virtual TextSearch &Search() = 0;
+  /// Puts the page on paper. Valid as long as the component.
+  virtual PagePrinting &Printing() = 0;
 
   /// Carries out a command (EditingCommands.h) or, for a query command, returns its value: font
   /// name, block format name and size as text, colours as "#RRGGBB"; the empty text where the

@@ -12,6 +12,7 @@ constexpr HelpTopic Topics[] = {
     {"frmMain", "Code1", "source.html#view"},
     {"frmMain", nullptr, "design.html"},
     {"picFind", nullptr, "design.html#find"},
+    {"picPdf", nullptr, "printing.html#export"},
     {"frmCodeEditor", nullptr, "source.html#editor"},
     {"frmBrowser", nullptr, "preview.html"},
     // Parts of the main window.

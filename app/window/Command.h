@@ -19,6 +19,7 @@ enum class CommandId {
   OpenPage,
   SavePage,
   SavePageAs,
+  ExportPdf,
   CloseProgram,
   Editing,    ///< argument: the EditingCommand
   MenuStyle,  ///< argument: number of the menu picture, an int

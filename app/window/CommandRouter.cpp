@@ -100,6 +100,9 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::SavePageAs:
       SavePage(modWorkFlow::SaveKind::SaveAs);
       break;
+    case CommandId::ExportPdf:
+      ExportPdf();
+      break;
     case CommandId::CloseProgram:
       host_.CloseProgram();
       break;
@@ -268,6 +271,21 @@ void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
   page->ShowTab();
   if (end == modWorkFlow::SaveEnd::Safe && !context_.mainWindow.status.HasNotice())
     context_.mainWindow.status.Report(done.arg(page->FilePath()));
+}
+
+void CommandRouter::ExportPdf() {
+  FrontWindow *front = host_.Front();
+  if (front == nullptr) {
+    context_.mainWindow.status.Report(Words::tr("There is no page to export"));
+  } else if (ApplySource(*front)) {
+    host_.ExportPdf(*front);
+  }
+}
+
+bool CommandRouter::ApplySource(const FrontWindow &front) {
+  if (front.View() != FrontView::SourceEditor) return true;
+  frmCodeEditor *editor = context_.pages.CodeEditor(front.PageNumber());
+  return !editor->UnappliedText() || editor->Apply();
 }
 
 void CommandRouter::Preview() {

@@ -41,6 +41,8 @@ class CommandHost {
   virtual void ShowCommandPalette() = 0;
   virtual void ShowDrives() = 0;
   virtual void ShowSettings() = 0;
+  /// Asks for a file and writes what that window shows into it as a PDF.
+  virtual void ExportPdf(FrontWindow &front) = 0;
   virtual void CloseProgram() = 0;
 };
 
@@ -93,6 +95,10 @@ class CommandRouter {
   /// SetDialogFileName for the page that is active now.
   void UpdateDialogFileName();
   void SavePage(modWorkFlow::SaveKind kind);
+  void ExportPdf();
+  /// Applies source that was typed into the window, if it is a source editor, to its page. False
+  /// where that cannot be done.
+  bool ApplySource(const FrontWindow &front);
   void Preview();
   /// The page window in front; null when the window in front is another one, or there is none.
   frmMain *ActiveDocument();

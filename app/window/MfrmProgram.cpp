@@ -26,6 +26,7 @@
 #include "chrome/ToolBarButtons.h"
 #include "chrome/frmAbout.h"
 #include "editor/PagesAtExit.h"
+#include "editor/PdfExport.h"
 #include "editor/SourceWrap.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmMain.h"
@@ -137,6 +138,7 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
       menuPainter_(new StyleMenuPainter(this)),
       pageChooser_(new PageChooser(this)),
       recovery_(new RecoveryBar(context_, this)),
+      pdfExport_(new PdfExport(context_, this)),
       projects_(std::make_unique<ProjectDesk>(
           context_, values.DbConnection,
           PickedFolders{values.ImageFolderPath, values.ProjectFolderResult}, *pageChooser_,
@@ -171,6 +173,7 @@ void MfrmProgram::BuildLayout() {
   column->addWidget(BuildTabRow());
   column->addWidget(recovery_);
   column->addWidget(area_, 1);
+  column->addWidget(pdfExport_);
   setCentralWidget(center);
 }
 
@@ -427,6 +430,10 @@ void MfrmProgram::ShowSettings() {
   if (alive.isNull() || settings.result() != QDialog::Accepted) return;
   ShowLineWrap(context_);
   DressMenus();
+}
+
+void MfrmProgram::ExportPdf(FrontWindow &front) {
+  pdfExport_->Begin(front);
 }
 
 void MfrmProgram::CloseProgram() {

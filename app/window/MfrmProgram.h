@@ -26,6 +26,7 @@ class InsertCommands;
 class PageArea;
 class PageChooser;
 class PageTabs;
+class PdfExport;
 class ProjectDesk;
 class RecentFiles;
 class RecoveryBar;
@@ -100,6 +101,7 @@ class MfrmProgram final : public QMainWindow,
   void ShowCommandPalette() override;
   void ShowDrives() override;
   void ShowSettings() override;
+  void ExportPdf(FrontWindow &front) override;
   void CloseProgram() override;
 
   // LoadSteps
@@ -148,6 +150,7 @@ class MfrmProgram final : public QMainWindow,
   StyleMenuPainter *menuPainter_;
   PageChooser *pageChooser_;
   RecoveryBar *recovery_;
+  PdfExport *pdfExport_;
   std::unique_ptr<ProjectDesk> projects_;
   std::unique_ptr<EditingComponent> formatNames_;
   /// Null without the menu Tools.

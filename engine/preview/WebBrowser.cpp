@@ -2,6 +2,7 @@
 #include "engine/preview/WebBrowser.h"
 
 #include "engine/FileDrops.h"
+#include "engine/PdfPrint.h"
 #include "engine/preview/BrowserPage.h"
 #include "platform/Paths.h"
 
@@ -14,6 +15,8 @@
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 #include <QWebEngineView>
+
+#include <utility>
 
 namespace velor {
 
@@ -154,6 +157,7 @@ WebBrowser::WebBrowser(QWidget *parent)
 }
 
 WebBrowser::~WebBrowser() {
+  print_.reset();
   // Requests that are still on their way are told to nobody.
   scheme_.disconnect(this);
   if (!page_.isNull()) page_->disconnect(this);
@@ -200,6 +204,21 @@ void WebBrowser::Refresh() {
 void WebBrowser::Stop() {
   isStopping_ = true;
   page_->triggerAction(QWebEnginePage::Stop);
+}
+
+void WebBrowser::MakePdf(const PaperForm &form, Made made) {
+  made_ = std::move(made);
+  print_ = std::make_unique<PdfPrint>(*page_, form);
+  connect(print_.get(), &PdfPrint::Ended, this, [this](const QByteArray &pdf) {
+    // The sender: it lives until it has returned.
+    print_.release()->deleteLater();
+    std::exchange(made_, {})(pdf);
+  });
+}
+
+void WebBrowser::StopPdf() {
+  print_.reset();
+  made_ = {};
 }
 
 void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo &loading) {

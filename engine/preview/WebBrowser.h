@@ -3,6 +3,7 @@
 
 #include "engine/preview/SiteScheme.h"
 #include "platform/Browser.h"
+#include "platform/PagePrinting.h"
 
 #include <QObject>
 #include <QPointer>
@@ -19,13 +20,14 @@ class QWebEngineView;
 namespace velor {
 
 class BrowserPage;
+class PdfPrint;
 
 /// The preview browser on Qt WebEngine. Files are shown as parts of their site (SiteScheme), and
 /// nothing else of this machine is. Page scripts run, in the engine's sandbox; what a page leaves
 /// behind (cookies, cache, storage) goes with the browser, downloads are refused, and what
 /// would open a window opens here instead. A hidden preview makes no sound. The status text is the
 /// address under the pointer, else how the load stands.
-class WebBrowser final : public QObject, public Browser {
+class WebBrowser final : public QObject, public Browser, private PagePrinting {
   Q_OBJECT
 
  public:
@@ -41,8 +43,13 @@ class WebBrowser final : public QObject, public Browser {
   void GoForward() override;
   void Refresh() override;
   void Stop() override;
+  PagePrinting &Printing() override { return *this; }
 
  private:
+  // PagePrinting
+  void MakePdf(const PaperForm &form, Made made) override;
+  void StopPdf() override;
+
   void LoadingChanged(const QWebEngineLoadingInfo &loading);
   /// Makes a text the state of the load, and shows it.
   void ShowLoadState(const QString &state);
@@ -65,7 +72,9 @@ class WebBrowser final : public QObject, public Browser {
   bool isStopping_ = false;  ///< Stop was called during the load under way
   QStringList parts_;        ///< of the page, in logic form
   QTimer tellingParts_;
-  QStringList refused_;  ///< parts of the page that lie outside of its site
+  std::unique_ptr<PdfPrint> print_;  ///< under way
+  Made made_;                        ///< of print_
+  QStringList refused_;              ///< parts of the page that lie outside of its site
 };
 
 }  // namespace velor

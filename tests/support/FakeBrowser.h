@@ -3,6 +3,7 @@
 
 #include "platform/Browser.h"
 #include "tests/support/CallLog.h"
+#include "tests/support/FakePagePrinting.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -20,6 +21,7 @@ class FakeBrowser final : public Browser {
   QString site;
   QString html;  ///< of NavigateToText
   BrowserListener *listener = nullptr;
+  FakePagePrinting printing;
 
   QWidget *Widget() override { return widget_; }
   void SetListener(BrowserListener *newListener) override { listener = newListener; }
@@ -37,6 +39,7 @@ class FakeBrowser final : public Browser {
   void GoForward() override { Note(log_, QStringLiteral("Browser.GoForward()")); }
   void Refresh() override { Note(log_, QStringLiteral("Browser.Refresh()")); }
   void Stop() override { Note(log_, QStringLiteral("Browser.Stop()")); }
+  PagePrinting &Printing() override { return printing; }
 
  private:
   CallLog *log_;

@@ -6,6 +6,7 @@
 #include "platform/EditingComponent.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
+#include "tests/support/FakePagePrinting.h"
 #include "tests/support/FakeTextSearch.h"
 
 #include <QPointer>
@@ -50,6 +51,7 @@ class FakeEditingComponent final : public EditingComponent,
   /// Called once while LoadDocument or Restore waits; may close the page.
   std::function<void()> whileLoading;
   FakeTextSearch search;
+  FakePagePrinting printing;
   std::optional<RuntimeError> nextLoadFailure;  ///< raised once by LoadDocument and LoadText
   std::optional<RuntimeError> nextSaveFailure;  ///< raised once by SaveDocument
 
@@ -100,6 +102,7 @@ class FakeEditingComponent final : public EditingComponent,
   CommandStatus QueryStatus(EditingCommand command) const override;
   QStringList BlockFormats() const override { return blockFormats; }
   TextSearch &Search() override { return search; }
+  PagePrinting &Printing() override { return printing; }
   HtmlDocument &Document() override;
   bool ShowDetails() const override;
   void SetShowDetails(bool on) override;

@@ -440,6 +440,7 @@ TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
   EXPECT_EQ(Tree(Find<QMenu>("mnuTools")->actions()).toStdString(),
             R"tree(mnuFindCommand "Find Command... (&F)" Ctrl+Shift+P
 mnuRecent "Recent Files (&R)"
+mnuExportPdf "Export as PDF... (&O)"
 mnu6 "-"
 mnuFind "Find... (&N)" Ctrl+F
 mnuReplace "Replace... (&P)" Ctrl+H

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Pages on paper, read by an independent reader of PDF files (pdftotext).
+#include "editor/frmBrowser.h"
+#include "editor/frmMain.h"
+#include "tests/app/window/RealWindowFixture.h"
+#include "tests/engine/ComponentFixture.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStatusBar>
+#include <QTest>
+#include <QWebEnginePage>
+
+namespace velor {
+namespace {
+
+const QByteArray Page =
+    "<!DOCTYPE html>\n<html><head><title>T</title><link rel=stylesheet href=\"paper.css\"></head>\n"
+    "<body><p>First</p><p class=screen>Not on paper</p><!-- note -->\n"
+    "<p><a href=\"other page.htm\">Other</a> <a href=\"#end\">Down</a></p>\n"
+    "<img src=\"dot.png\" loading=lazy><p class=far id=end>Last</p>\n"
+    "<script>document.body.append('Made by script')</script></body></html>\n";
+const QByteArray Sheet =
+    "@page { size: 100mm 100mm; margin: 25.4mm }\n@media print { .screen { display: none } }\n"
+    "body { margin: 0 } .far { page-break-before: always }\n";
+
+class RealPrint : public RealWindow {
+ protected:
+  /// The page with a sheet and a picture beside it, opened.
+  frmMain &OpenPage() {
+    Write(QStringLiteral("paper.css"), Sheet);
+    QImage dot(8, 8, QImage::Format_RGB32);
+    dot.fill(Qt::red);
+    dot.save(folder.FilePath(QStringLiteral("dot.png")));
+    return Open(QStringLiteral("page.htm"), Page);
+  }
+  void BeginExport() {
+    components.onFileDialog = [this](FakeFileDialog &person) {
+      EXPECT_EQ(person.FileName, QString());
+      person.ExpectSave(Logic(QStringLiteral("page.pdf")));
+    };
+    Choose("mnuExportPdf");
+  }
+  /// Exports what is in front and waits for the file.
+  void Export() {
+    BeginExport();
+    ASSERT_TRUE(WaitFor([this] { return Exists(QStringLiteral("page.pdf")); }));
+  }
+  QString Read(const char *program, const QStringList &arguments) const {
+    QProcess reader;
+    reader.start(QString::fromLatin1(program), arguments);
+    EXPECT_TRUE(reader.waitForFinished()) << program << " is not installed";
+    return QString::fromUtf8(reader.readAllStandardOutput());
+  }
+  /// The values of an attribute, in whole points.
+  static QList<int> Numbers(const QString &text, const char *attribute) {
+    QList<int> numbers;
+    const QRegularExpression pattern(QString::fromLatin1(attribute) +
+                                     QStringLiteral("=\"([^\"]+)"));
+    for (const auto &match : pattern.globalMatch(text))
+      numbers << qRound(match.captured(1).toDouble());
+    return numbers;
+  }
+  /// The words of the exported pages.
+  QStringList Words() const {
+    return Read("pdftotext", {folder.FilePath(QStringLiteral("page.pdf")), QStringLiteral("-")})
+        .split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+  }
+};
+
+TEST_F(RealPrint, UnsavedEditsAreOnPaperAndTheRulesForPaperAreObeyed) {
+  frmMain &page = OpenPage();
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("new"));
+  Export();
+  EXPECT_EQ(Words(), QStringList({"Fnewirst", "Other", "Down", "Last"}));
+  const QString file = folder.FilePath(QStringLiteral("page.pdf"));
+  const QString places = Read("pdftotext", {QStringLiteral("-bbox"), file, QStringLiteral("-")});
+  EXPECT_EQ(Numbers(places, "<page width"), QList<int>({283, 283})) << places.toStdString();
+  EXPECT_EQ(Numbers(places, "<word xMin"), QList<int>({72, 72, 111, 72})) << places.toStdString();
+  EXPECT_TRUE(
+      Read("pdfimages", {QStringLiteral("-list"), file}).contains(QStringLiteral(" image ")));
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")), Page);
+}
+
+TEST_F(RealPrint, LinksLeadToFilesByTheirFullAddressesAndWithinThePdf) {
+  OpenPage();
+  Export();
+  const QByteArray pdf = Bytes(QStringLiteral("page.pdf"));
+  const QByteArray other =
+      QUrl::fromLocalFile(folder.FilePath(QStringLiteral("other page.htm"))).toEncoded();
+  EXPECT_TRUE(pdf.contains("/URI (" + other + ")"));
+  EXPECT_FALSE(pdf.contains("velor-page"));
+  EXPECT_TRUE(pdf.contains("/Dest /end"));
+}
+
+TEST_F(RealPrint, ThePreviewIsPrintedAsItsScriptsMadeIt) {
+  frmMain &page = OpenPage();
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("new"));
+  page.ChangeMode(4);
+  QWebEnginePage &preview = EngineOf(*window.Context().preview);
+  ASSERT_TRUE(WaitFor([&] {
+    return Evaluate(preview, QStringLiteral("document.body.innerText.includes('by script')"))
+        .toBool();
+  }));
+  Export();
+  EXPECT_EQ(Words(), QStringList({"Fnewirst", "Other", "Down", "Last", "Made", "by", "script"}));
+  EXPECT_FALSE(Bytes(QStringLiteral("page.pdf")).contains("velor-site"));
+  BeginExport();
+  QTest::keyClick(window.Context().preview->focusProxy()->focusProxy(), Qt::Key_Escape);
+  EXPECT_EQ(Find<QStatusBar>("Sta")->currentMessage(),
+            QStringLiteral("The PDF was stopped. No file was written"));
+}
+
+TEST_F(RealPrint, EscapeInThePageLeavesTheOldFileAndTheNextExportGoesWell) {
+  frmMain &page = OpenPage();
+  Write(QStringLiteral("page.pdf"), "old");
+  BeginExport();
+  Key(page, Qt::Key_Escape);
+  EXPECT_EQ(Find<QStatusBar>("Sta")->currentMessage(),
+            QStringLiteral("The PDF was stopped. No file was written"));
+  Type(page, QStringLiteral("still "));
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("still ")); }));
+  EXPECT_EQ(Bytes(QStringLiteral("page.pdf")), QByteArray("old"));
+  BeginExport();
+  EXPECT_TRUE(WaitFor([&] { return Bytes(QStringLiteral("page.pdf")) != QByteArray("old"); }));
+  EXPECT_TRUE(Words().contains(QStringLiteral("Last")));
+}
+
+}  // namespace
+}  // namespace velor
