@@ -3,6 +3,7 @@
 
 #include "catalogue/jet/JetFormat.h"
 
+#include <QByteArray>
 #include <QtEndian>
 
 #include <bit>
@@ -12,6 +13,15 @@
 namespace velor {
 
 using JetBytes = std::span<const unsigned char>;
+
+inline JetBytes BytesOf(const QByteArray &bytes) {
+  return {reinterpret_cast<const unsigned char *>(bytes.constData()),
+          static_cast<std::size_t>(bytes.size())};
+}
+
+inline void Append(QByteArray &to, JetBytes bytes) {
+  to.append(reinterpret_cast<const char *>(bytes.data()), static_cast<qsizetype>(bytes.size()));
+}
 
 }  // namespace velor
 

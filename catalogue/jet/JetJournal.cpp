@@ -121,11 +121,6 @@ Record ReadRecord(JetBytes part) {
   return record;
 }
 
-JetBytes BytesOf(const QByteArray &content) {
-  return {reinterpret_cast<const unsigned char *>(content.constData()),
-          static_cast<std::size_t>(content.size())};
-}
-
 std::optional<Head> ReadHead(JetBytes bytes) {
   if (bytes.size() < HeadBytes || !HasChecksum(bytes.first(HeadBytes)) ||
       std::memcmp(bytes.data(), JournalMark.data(), JournalMark.size()) != 0) {

@@ -52,11 +52,6 @@ std::optional<std::vector<JetFoundRow>> FindPieces(JetPager &pager, JetBytes fie
   return pieces;
 }
 
-void Append(QByteArray &content, JetBytes bytes) {
-  content.append(reinterpret_cast<const char *>(bytes.data()),
-                 static_cast<qsizetype>(bytes.size()));
-}
-
 }  // namespace
 
 std::optional<QByteArray> ReadJetLongValue(JetPager &pager, JetBytes field) {

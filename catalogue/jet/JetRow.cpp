@@ -13,15 +13,6 @@ std::size_t MaskBytes(int columns) {
   return static_cast<std::size_t>(columns + 7) / 8;
 }
 
-JetBytes BytesOf(const QByteArray &bytes) {
-  return {reinterpret_cast<const unsigned char *>(bytes.constData()),
-          static_cast<std::size_t>(bytes.size())};
-}
-
-void Append(QByteArray &row, JetBytes bytes) {
-  row.append(reinterpret_cast<const char *>(bytes.data()), static_cast<qsizetype>(bytes.size()));
-}
-
 void AppendNumber(QByteArray &row, qsizetype number) {
   unsigned char bytes[Number];
   jet::Put(bytes, static_cast<quint16>(number));

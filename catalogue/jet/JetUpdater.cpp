@@ -27,11 +27,6 @@ namespace {
             .arg(column.name, table.name, why));
 }
 
-JetBytes BytesOf(const QByteArray &bytes) {
-  return {reinterpret_cast<const unsigned char *>(bytes.constData()),
-          static_cast<std::size_t>(bytes.size())};
-}
-
 void CheckColumn(const JetTable &table, const JetColumn &column) {
   if (column.type != JetType::Text && column.type != JetType::Memo) {
     Refuse(table, column, Words::tr("only text can be changed"));

@@ -9,10 +9,6 @@ namespace {
 
 using Number = std::int32_t;
 
-std::size_t Index(Number number) {
-  return static_cast<std::size_t>(number);
-}
-
 /// The tokens of a text that have no counterpart, and their numbers in that text.
 struct Unmatched {
   std::vector<Number> numbers;

@@ -15,10 +15,6 @@ namespace velor {
 
 namespace {
 
-std::size_t Index(std::int32_t number) {
-  return static_cast<std::size_t>(number);
-}
-
 bool IsBlank(const HtmlToken &token) {
   return token.kind == HtmlTokenKind::Blank || token.kind == HtmlTokenKind::LineBreak;
 }

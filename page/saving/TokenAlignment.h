@@ -8,6 +8,11 @@
 
 namespace velor {
 
+/// A token's number as the place in a list.
+inline std::size_t Index(std::int32_t number) {
+  return static_cast<std::size_t>(number);
+}
+
 /// Which tokens of two texts are the same: for each token of one its number in the other, -1 for
 /// none. Counterparts come in the same order on both sides. Two tags of one name with different
 /// attributes may be counterparts as well; their keys differ then.

@@ -14,7 +14,7 @@ namespace velor {
 
 namespace {
 
-constexpr char32_t Replacement = 0xFFFD;
+constexpr char32_t NoCharacter = 0xFFFD;
 
 /// What the numbers 128 to 159 stand for: characters of windows-1252, as old programs meant them.
 constexpr char32_t OldNumbers[] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
@@ -64,7 +64,7 @@ int DigitOf(QChar codeUnit, int base) {
 char32_t CharacterOfNumber(char32_t number) {
   if (number >= 0x80 && number < 0x80 + std::size(OldNumbers)) return OldNumbers[number - 0x80];
   const bool isSurrogate = number >= 0xD800 && number <= 0xDFFF;
-  return number == 0 || number > QChar::LastValidCodePoint || isSurrogate ? Replacement : number;
+  return number == 0 || number > QChar::LastValidCodePoint || isSurrogate ? NoCharacter : number;
 }
 
 CharacterReference ReadNumber(QStringView text, qsizetype at) {

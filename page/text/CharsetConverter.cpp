@@ -13,8 +13,6 @@ namespace velor {
 
 namespace {
 
-constexpr char16_t Replacement = 0xFFFD;
-
 /// One U+FFFD for each illegal sequence.
 void WriteReplacement(const void *, UConverterToUnicodeArgs *arguments, const char *, int32_t,
                       UConverterCallbackReason reason, UErrorCode *status) {

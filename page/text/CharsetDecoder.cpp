@@ -5,7 +5,6 @@ namespace velor {
 
 namespace {
 
-constexpr char16_t Replacement = 0xFFFD;
 constexpr char Escape = '\x1b';
 constexpr qsizetype EscapeLength = 3;
 

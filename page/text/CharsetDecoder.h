@@ -11,6 +11,9 @@
 
 namespace velor {
 
+/// What an invalid sequence of bytes becomes.
+inline constexpr char16_t Replacement = 0xFFFD;
+
 /// Decodes bytes of any form but Unicode as the decoders of the Encoding Standard do. Invalid bytes
 /// become U+FFFD, one for each sequence that the standard counts as one error. Except in escape
 /// sequences of ISO-2022-JP no ASCII byte is part of such a sequence, so that no broken character

@@ -8,9 +8,6 @@
 namespace velor {
 namespace {
 
-constexpr WindowHandle Control = 20;
-constexpr WindowHandle ParentWindow = 10;
-
 class FlatFramesTest : public ::testing::Test {
  protected:
   FlatFramesTest() {

@@ -7,6 +7,10 @@
 
 namespace velor {
 
+/// The control whose frame is painted, and the window that it stands in.
+inline constexpr WindowHandle Control = 20;
+inline constexpr WindowHandle ParentWindow = 10;
+
 /// The calls that frames are made of, as RecordingWindowSystem writes them down.
 
 inline QStringList PenCalls(std::uint32_t color, const QStringList &lines) {

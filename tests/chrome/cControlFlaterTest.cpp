@@ -11,9 +11,7 @@
 namespace velor {
 namespace {
 
-constexpr WindowHandle Control = 20;
 constexpr WindowHandle Edit = 21;
-constexpr WindowHandle ParentWindow = 10;
 const QList<std::int32_t> ControlMessages = {15, 7, 8, 512, 513, 514, 275, 10};
 const QList<std::int32_t> EditMessages = {7, 8, 512};
 

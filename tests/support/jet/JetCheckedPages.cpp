@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/jet/JetCheckedPages.h"
 
+#include "tests/support/jet/JetPageSet.h"
+
 namespace velor::fixture {
 
 namespace {
 
 constexpr int SlotsAt = 14;
-constexpr quint32 BitmapPageReach = 32736;
 constexpr quint32 GlobalMap = 1 << 8;  // row 0 of page 1
 
 RowState StateOf(quint16 slot) {

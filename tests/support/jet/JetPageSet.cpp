@@ -8,8 +8,6 @@ namespace velor::fixture {
 namespace {
 
 constexpr int UsageMapLength = 69;
-constexpr quint32 BitmapReach = 512;        // pages that the 64 bytes of an inline bitmap cover
-constexpr quint32 BitmapPageReach = 32736;  // pages that a bitmap page covers
 constexpr int SlotsAt = 14;
 
 }  // namespace

@@ -13,6 +13,8 @@ inline constexpr quint16 MovedAway = 0x4000;          ///< a home slot that hold
 inline constexpr quint16 MovedHere = 0x8000;          ///< the moved row itself
 inline constexpr quint16 DeletedRow = 0xC000;         ///< both: nothing
 inline constexpr quint32 MemoPageOwner = 0x4C41564C;  ///< "LVAL" in a memo page's owner field
+inline constexpr quint32 BitmapReach = 512;           ///< pages that an inline bitmap covers
+inline constexpr quint32 BitmapPageReach = 32736;     ///< pages that a bitmap page covers
 
 /// The pages of a file in the making.
 class JetPageSet {

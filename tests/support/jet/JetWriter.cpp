@@ -149,8 +149,6 @@ FixtureTable CatalogueOf(const std::vector<FixtureTable> &tables,
 /// Page 1 has to know which pages are in use. What lies beyond a map's reach counts as free, so the
 /// map holds the pages up to the end of what it can say: with bits for those not in use.
 void WriteGlobalMap(JetPageSet &pages, quint32 address) {
-  constexpr quint32 BitmapReach = 512;
-  constexpr quint32 BitmapPageReach = 32736;
   const bool inlineMap = pages.Count() <= BitmapReach;
   std::set<quint32> free;
   // A bitmap page is a page in use itself; 17 of them at most reach further than any fixture.
