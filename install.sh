@@ -8,12 +8,12 @@ cd "$(dirname "$0")"
 
 packages=(
   g++ cmake ninja-build pkg-config esbuild
-  qt6-base-dev qt6-webengine-dev qt6-webchannel-dev qt6-svg-dev libqscintilla2-qt6-dev
+  qt6-base-dev qt6-l10n-tools qt6-webengine-dev qt6-webchannel-dev qt6-svg-dev libqscintilla2-qt6-dev
   libgl-dev libicu-dev libsqlite3-dev libhunspell-dev
   # Every test is built with the program.
   libgtest-dev libgmock-dev
   # What the program looks up when it runs.
-  qt6-qpa-plugins qt6-image-formats-plugins fonts-dejavu-core hunspell-en-us
+  qt6-qpa-plugins qt6-image-formats-plugins qt6-translations-l10n fonts-dejavu-core hunspell-en-us
 )
 test_packages=(
   xvfb xauth xdotool openbox at-spi2-core python3-gi gir1.2-atspi-2.0 dbus dbus-x11 imagemagick

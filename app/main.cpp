@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/Languages.h"
 #include "app/startup/EventBoundary.h"
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/Additions.h"
@@ -11,6 +12,7 @@
 #include "engine/Sandbox.h"
 #include "platform/DriveMap.h"
 #include "platform/Paths.h"
+#include "platform/Words.h"
 #include "qt/DesktopService.h"
 #include "qt/EndingSignals.h"
 #include "qt/ProgramFolder.h"
@@ -55,6 +57,8 @@ int main(int argc, char **argv) {
   StyleApplication(application);
   // By this name the desktop knows whose windows they are.
   QGuiApplication::setDesktopFileName(QStringLiteral("com.velor.WebCreator"));
+  QtRegistry registry;
+  UseLanguage(registry);
   const auto driveMapError = UseDriveMapFile(DriveMapFile());
   RealPlatform real(argc, argv);
   EventBoundary boundary(real.dialogs, real.runtime);
@@ -75,8 +79,8 @@ int main(int argc, char **argv) {
         mainWindow->SetEngine(EngineInUse());
         mainWindow->Load();
         if (IsSandboxOff())
-          mainWindow->Context().mainWindow.status.Report(QStringLiteral(
-              "The browser engine's sandbox is off: preview only pages that you trust."));
+          mainWindow->Context().mainWindow.status.Report(
+              Words::tr("The browser engine's sandbox is off: preview only pages that you trust."));
       });
   boundary.Run([&] {
     if (driveMapError) throw *driveMapError;

@@ -79,7 +79,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION web)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # What the program looks up when it runs, which no library names.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-image-formats-plugins, qt6-wayland, fonts-dejavu-core, hunspell-en-us | hunspell-dictionary, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland, fonts-dejavu-core, hunspell-en-us | hunspell-dictionary, xdg-utils")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "editor for web pages that people keep as files")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Pages are written as they look, beside a view and an editor of their HTML and
 a preview. A page that was not edited is saved byte by byte as it was, in its

@@ -282,7 +282,7 @@ void OpenProjectPage(EditorContext &context, const QString &path) {
 }
 
 bool RestorePage(EditorContext &context, const JournalledPage &kept) {
-  RequirePage(kept.page.original, QStringLiteral("it"), QStringLiteral("RestorePage"));
+  RequirePage(kept.page.original, Words::tr("it"), QStringLiteral("RestorePage"));
   frmMain &window = MakePage(context);
   bool isKeptAgain = false;
   FillPage(window, [&] {

@@ -4,7 +4,6 @@
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "platform/RuntimeError.h"
-#include "platform/Words.h"
 
 #include <limits>
 
@@ -16,7 +15,7 @@ namespace {
 std::size_t Index(int number, std::int16_t bound) {
   if (number < 1 || number > bound) {
     throw RuntimeError::Of(ErrorNumber::SubscriptOutOfRange, QStringLiteral("PageSlots"),
-                           Words::tr("page %1").arg(number));
+                           QStringLiteral("page %1").arg(number));
   }
   return static_cast<std::size_t>(number - 1);
 }

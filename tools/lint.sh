@@ -83,9 +83,14 @@ subjects() {
   [ -z "$wrong" ] || { echo "$wrong"; echo "A subject is \"area: gain\", at most 72 characters."; return 1; }
 }
 
+translations() {
+  tools/lint/translations.py
+}
+
 check format
 check shell
 check scripts
+check translations
 check subjects
 [ "$depth" = quick ] || check tidy
 if [ ${#failed[@]} -gt 0 ]; then

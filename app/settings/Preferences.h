@@ -11,7 +11,7 @@ namespace velor {
 /// A preference as the store has it: a text in the section "option".
 struct Preference {
   /// Colours are numbers with blue in the high byte of three and red in the low one.
-  enum class Kind { Truth, Integer, Color, File };
+  enum class Kind { Truth, Integer, Color, File, Name };
   /// From when on a change counts.
   enum class Effect { AtOnce, NextPage, NextStart };
 
@@ -48,6 +48,7 @@ inline constexpr auto PreferenceTable = [] {
       {"mnuHighlight",       Color,   "16761024", AtOnce,    "app/window/MenuSettings.cpp"},
       {"mnuHighFore",        Color,   "0",        AtOnce,    "app/window/MenuSettings.cpp"},
       {"WholeTemplateSigns", Truth,   "True",     NextStart, "app/window/Additions.cpp"},
+      {"Language",           Name,    "",         NextStart, "app/settings/Languages.cpp"},
       {"PublishedOnly",      Truth,   "False",    NextStart, "app/settings/modSettingManager.cpp"},
   });
   // clang-format on

@@ -27,7 +27,7 @@ QString SpokenCaption(QString caption) {
   static const QRegularExpression key(QStringLiteral("\\s*\\(&.\\)$"));
   caption.remove(key).remove(u'&');
   if (caption.endsWith(QStringLiteral("..."))) caption.chop(3);
-  return caption;
+  return caption.trimmed();
 }
 
 CommandPalette::CommandPalette(const PaletteWords &words, const QList<NamedCommand> &commands,

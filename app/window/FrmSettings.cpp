@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/FrmSettings.h"
 
+#include "app/settings/Languages.h"
 #include "app/settings/modSettingManager.h"
 #include "app/window/MenuTable.h"
 #include "chrome/ColorPicker.h"
@@ -56,6 +57,7 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
   AddMenuStyle(menus);
   for (const ColorSetting &setting : ColorSettings) AddColor(menus, setting);
   QFormLayout *program = AddFrame(right, Words::tr("From the next start on"));
+  AddLanguage(program);
   AddTruth(program, PreferenceOf("WholeTemplateSigns"), Words::tr("&Keep template signs whole"));
   QCheckBox *publishedOnly = AddTruth(program, PreferenceOf("PublishedOnly"),
                                       Words::tr("&Published behaviour only (no menu Tools)"));
@@ -119,6 +121,17 @@ void FrmSettings::AddMenuStyle(QFormLayout *form) {
   const auto followStyle = [this] { background_->setEnabled(style_->currentIndex() == 0); };
   connect(style_, &QComboBox::currentIndexChanged, this, followStyle);
   followStyle();
+}
+
+void FrmSettings::AddLanguage(QFormLayout *form) {
+  constexpr const Preference &Spoken = PreferenceOf("Language");
+  QComboBox *box = AddComboBox(form, Spoken.Name(), Words::tr("&Language:"), {});
+  box->addItem(Words::tr("As the desktop"), QString());
+  for (const Language &language : Languages)
+    box->addItem(QString::fromUtf16(language.name), QLatin1String(language.code));
+  const QString stored = Settings::GetOption(registry_, Spoken);
+  box->setCurrentIndex(std::max(0, box->findData(stored)));
+  AddRow(Spoken.Name(), [box] { return box->currentData().toString(); });
 }
 
 void FrmSettings::AddColor(QFormLayout *form, const ColorSetting &setting) {

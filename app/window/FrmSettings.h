@@ -44,6 +44,7 @@ class FrmSettings final : public QDialog {
 
   QCheckBox *AddTruth(QFormLayout *form, const Preference &preference, const QString &caption);
   void AddMenuStyle(QFormLayout *form);
+  void AddLanguage(QFormLayout *form);
   void AddColor(QFormLayout *form, const ColorSetting &setting);
   void AddRow(const QString &name, const std::function<QString()> &text);
   /// Keeps the words for a preference that is no such value.

@@ -154,6 +154,7 @@ TEST(PreferenceTable, HasEachNameOnceWithADefaultOfItsKind) {
         EXPECT_EQ(QString::number(CLng(value)), value) << preference.name;
         break;
       case Preference::Kind::File:
+      case Preference::Kind::Name:
         break;
     }
   }

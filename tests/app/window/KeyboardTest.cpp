@@ -151,7 +151,7 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
       {"mnuSettings",
        "ShowDetails SnapToGrid showtoolbox WrapSource CopyPictures KeepPictureData PhotosAsWebP "
        "MenuStyle mnuFore mnuBorder mnuHighlight "
-       "mnuHighFore WholeTemplateSigns PublishedOnly cmdOK cmdCancel"},
+       "mnuHighFore Language WholeTemplateSigns PublishedOnly cmdOK cmdCancel"},
       {"mnuDrives", "lstDrives cobLetter cmdAdd OK Cancel"},
       {"mnuTBLnew",
        "Text1 Text2 Combo1 combo2 combo3 combo4 chkHeadings Command1 Command2 qt_tabwidget_tabbar"},

@@ -65,7 +65,8 @@ TEST_F(SettingsTest, HasAControlForEachRowOfTheTableThatShowsItsDefault) {
       QString shown;
       if (auto *box = qobject_cast<QCheckBox *>(control)) shown = BoolText(box->isChecked());
       if (auto *list = qobject_cast<QComboBox *>(control))
-        shown = QString::number(list->currentIndex());
+        shown = preference.kind == Preference::Kind::Name ? list->currentData().toString()
+                                                          : QString::number(list->currentIndex());
       if (auto *picker = qobject_cast<ColorPicker *>(control))
         shown = QString::number(picker->Color());
       if (auto *line = qobject_cast<QLineEdit *>(control)) shown = line->text();
