@@ -128,7 +128,19 @@ function enterInItem(unit) {
     ? /^(P|DIV)$/.test(unit.block.tagName) && unit.block.parentNode === item &&
       dom.neighbour(unit.block, 'nextSibling')
     : unit.container === item && others.some((child) => !dom.isList(child));
-  return goesOn ? () => splitBlock(item) : null;
+  return goesOn || goesOnInside(unit, item) ? () => splitBlock(item) : null;
+}
+// True for a paragraph that lies deeper in an item (in a division), with more behind it there.
+/**
+ * @param {Unit} unit
+ * @param {Element} item
+ */
+function goesOnInside({ block, container, nodes }, item) {
+  if (item === (block ? block.parentNode : container) || item === block) return false;
+  for (let at = block ?? nodes.at(-1) ?? container; at !== item; at = at.parentElement) {
+    if (dom.neighbour(at, 'nextSibling')) return true;
+  }
+  return false;
 }
 
 // True where a comment (server code stands as such) is at the caret, within a line. The engine
@@ -149,7 +161,12 @@ function characterOn(side, node, offset) {
   while (isBlank(at)) at = beside(at.node, at.index + step, side);
   return at;
 }
-function splitBesideComment() {
+// Before an island the engine would make a line of its own with the looks before it, as FONT.
+/** @param {PlainRange} caret */
+const isBeforeIsland = ({ startContainer, startOffset }) =>
+  dom.isIsland(beside(startContainer, startOffset, 'nextSibling')?.object) &&
+  beside(startContainer, startOffset, 'previousSibling') !== null;
+function splitHere() {
   typing.prepareCaret({ inputType: 'insertParagraph' });
   const [unit] = unitsIn(selection.range());
   splitBlock(unit.block ?? unit.container);
@@ -166,7 +183,8 @@ function enterInLine(range) {
   if (unit.block?.tagName === 'ADDRESS' && !dom.isHollow(unit.block)) {
     return () => breakAddress(unit.block);
   }
-  return enterInItem(unit) ?? (isBesideComment(range) ? splitBesideComment : null);
+  const isOwn = isBesideComment(range) || isBeforeIsland(range);
+  return enterInItem(unit) ?? (isOwn ? splitHere : null);
 }
 
 /** What Shift+Enter does here where the engine would do it badly, else null. */
@@ -259,6 +277,14 @@ function dropEmptyHalf(first, block) {
   }
 }
 
+// What stands before the second half of a split: with a division in an item the item was cut too.
+/** @param {AnyNode} block */
+function halfBefore(block) {
+  let at = block;
+  while (!dom.neighbour(at, 'previousSibling') && !dom.isCell(at.parentNode)) at = at.parentNode;
+  return dom.neighbour(at, 'previousSibling');
+}
+
 /**
  * Puts in order what the engine left where it split a paragraph. The break that held a line open is
  * not needed where text stands before it.
@@ -271,11 +297,11 @@ export function tidySplit() {
     alternate(split);
   }
   const block = dom.successor(split);
-  const first = dom.neighbour(block, 'previousSibling');
+  const first = halfBefore(block);
   if (!dom.isElement(first) || !dom.isBlock(first) || dom.isHollow(first)) return;
   const last = dom.lastLeaf(first);
   const before = last.previousSibling;
   if (dom.isBreak(last) && before && !dom.isBreak(before)) last.remove();
-  moveGapAbove(first, block);
+  moveGapAbove(dom.blockOf(dom.lastLeaf(first)), block);
   dropEmptyHalf(first, block);
 }
