@@ -11,7 +11,7 @@ import * as pending from '../formats/pending.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
-import { keepsBlanks } from '../page/beside.js';
+import { beginsLine, beside, keepsBlanks } from '../page/beside.js';
 import { holdOpen, openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { takeInSigns } from '../page/signs.js';
@@ -146,6 +146,37 @@ export function deleteKeepingLooks(range) {
   if (caret && dom.blockOf(caret.startContainer) === block) waitAtCaret(looks);
 }
 
+// A text that the engine is about to delete, and its looks: where these go with it the engine would
+// write them again as FONT, in any page.
+/** @type {{ text: Text, looks: [name: string, value: FormatValue][] } | null} */
+let deleted = null;
+
+/**
+ * Notes what the engine is about to delete.
+ * @param {StaticRange | undefined} target
+ */
+export function noteDeletion(target) {
+  deleted = null;
+  if (!target) return;
+  const { startContainer, startOffset, endContainer, endOffset } = target;
+  const text = dom.isText(startContainer) && startOffset < startContainer.length
+    ? startContainer : endContainer;
+  const isWhole = dom.isText(text) && !dom.isBlock(text.parentNode) &&
+    (text !== startContainer || startOffset === 0) &&
+    (text !== endContainer || endOffset === text.length);
+  if (isWhole) deleted = { text, looks: looksOf(text) };
+}
+
+/** The engine has deleted: the formats of a text that is gone wait at the caret. */
+export function keepLooksOfDeleted() {
+  const gone = deleted;
+  deleted = null;
+  if (!gone || gone.text.isConnected || !selection.range()?.collapsed) return;
+  // The engine forgets the looks that it keeps.
+  selection.select(selection.points());
+  waitAtCaret(gone.looks);
+}
+
 /**
  * Deletes what is selected, and has Enter done by `split`; the formats of the first deleted text
  * wait in the new line for what is typed there.
@@ -262,16 +293,21 @@ export function typeOver(data) {
 
 /**
  * Notes that the text at the caret was typed in: a no-break space that is all of it is no holder.
- * The break that held an item's line open above its list goes; the engine leaves it.
+ * The break that held a line open above a block goes; the engine leaves it.
  * @param {string | null} data
  */
 export function noteTyped(data) {
   const { anchorNode } = selection.points();
   if (!anchorNode) return;
   blanks.noteTyped(anchorNode);
-  const begins = data && dom.isText(anchorNode) && anchorNode.data.trim() === data;
-  const holder = begins ? dom.neighbour(anchorNode, 'nextSibling') : null;
-  const item = anchorNode.parentElement;
-  if (dom.isBreak(holder) && item.tagName === 'LI' &&
-      dom.isList(dom.neighbour(holder, 'nextSibling'))) holder.remove();
+  const begins = data && dom.isText(anchorNode) && anchorNode.data.trim() === data &&
+    beginsLine(beside(anchorNode, 0, 'previousSibling'));
+  if (!begins) return;
+  /** @type {AnyNode} */
+  let line = anchorNode;
+  while (dom.isInline(line.parentNode) && !dom.neighbour(line, 'nextSibling')) {
+    line = line.parentNode;
+  }
+  const holder = dom.neighbour(line, 'nextSibling');
+  if (dom.isBreak(holder) && dom.isBlock(dom.neighbour(holder, 'nextSibling'))) holder.remove();
 }

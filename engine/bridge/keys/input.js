@@ -112,9 +112,11 @@ export function beforeInput(event) {
   history.expect(kind, joinsLastStep(event, kind));
   if (inputType === 'insertText' && work(() => typing.typeOver(event.data))) {
     event.preventDefault();
-    input(event);
+    announced = null;
+    finish(inputType, event.data);
     return;
   }
+  if (inputType.startsWith('delete')) typing.noteDeletion(event.getTargetRanges()[0]);
   if (inputType.startsWith('insert') && kind !== 'drag') work(() => typing.prepareCaret(event));
   work(() => blanks.watch(inputType, event.getTargetRanges()[0]));
 }
@@ -130,7 +132,16 @@ export function input(event) {
   announced = null;
   const begins = isComposing() && !composedBefore;
   work(() => blanks.engineDone({ inputType: begins ? 'insertText' : inputType, data }));
+  finish(inputType, data);
+}
+
+/**
+ * @param {string} inputType
+ * @param {string | null} data
+ */
+function finish(inputType, data) {
   if (inputType === 'insertParagraph') work(tidySplit);
+  if (inputType.startsWith('delete')) work(typing.keepLooksOfDeleted);
   if (inputType === 'insertText') work(() => pending.applyToTyped(data));
   work(() => typing.noteTyped(data));
   signs.noteTyped();

@@ -18,6 +18,7 @@ import {
   beginsLine, beside, charAt, edge, endsLine, isBlank, isCommentBeside, keepsBlanks,
 } from './beside.js';
 import * as dom from './dom.js';
+import { dropEmptyInline } from './lines.js';
 import * as selection from './selection.js';
 import {
   addLeft, addTyped, isStandIn, noBreak, replaceCharacter, resolveAwayFromCaret, shiftStandIns,
@@ -124,6 +125,9 @@ export function watch(inputType = '', target = null) {
 export function engineDone(input) {
   if (!noted) return;
   whitespace.putBack({ ...noted, isStandIn }, input);
+  for (const [text, { parentNode }] of noted.stood) {
+    if (!text.isConnected) dropEmptyInline(parentNode);
+  }
   followTexts(input.inputType);
 }
 
@@ -260,5 +264,9 @@ export function trimEdges(last, next) {
   }
   if (dom.isText(next) && !keepsBlanks(next)) {
     next.deleteData(0, /^[ \t\n]*/.exec(next.data)[0].length);
+    // A blank that was typed at the line's start is one between words.
+    if (last && wasTypedIn(next) && /^\u00a0[^ \t\n\u00a0]/.test(next.data)) {
+      next.replaceData(0, 1, ' ');
+    }
   }
 }
