@@ -5,6 +5,7 @@
 import * as lists from './lists.js';
 import { beside, isBlank } from '../page/beside.js';
 import * as dom from '../page/dom.js';
+import { dropEmptyInline } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { become, changeUnits, readUnits, unitsIn } from '../page/units.js';
 
@@ -108,17 +109,16 @@ export function breakLines(element, saved) {
  */
 function collapseBlanks(element, saved) {
   const anchors = textAnchorsOf(saved);
-  const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
-  while (walker.nextNode()) {
-    const text = /** @type {Text} */ (walker.currentNode);
+  for (const text of dom.textsUnder(element)) {
     if (!dom.ancestor(text, dom.isAtom)) collapseText(text, anchors);
   }
 }
 /**
+ * The same of a text.
  * @param {Text} text
- * @param {TextAnchor[]} anchors
+ * @param {TextAnchor[]} [anchors]
  */
-function collapseText(text, anchors) {
+export function collapseText(text, anchors = []) {
   for (let at = text.length - 1; at >= 0; at--) {
     if (!isBlank({ node: text, index: at })) continue;
     const before = beside(text, at, 'previousSibling');
@@ -128,6 +128,7 @@ function collapseText(text, anchors) {
     const moved = shows ? [] : anchors.filter(({ node, offset }) => node === text && offset > at);
     for (const anchor of moved) anchor.offset -= 1;
   }
+  if (!anchors.some(({ node }) => node === text)) dropEmptyInline(text);
 }
 
 // Gives one paragraph the block of a format; answers that block, null where nothing is to be done.

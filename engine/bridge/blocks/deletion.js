@@ -3,7 +3,7 @@
 // Deleting what is selected. Two words are kept apart here and in the modules beside this one: what
 // a person asks for is *deleted*; what that leaves empty or needless (a block, a break, an inline
 // element, a line of the source) is *dropped*.
-import { cellOf, narrowed, spansUnits, unitAt } from './extent.js';
+import { cellOf, narrowed, showsAnything, spansUnits, unitAt } from './extent.js';
 import { dropEmptyBlocks, join } from './joining.js';
 import { keepsBlanks } from '../page/beside.js';
 import * as blanks from '../page/blanks.js';
@@ -44,6 +44,10 @@ function deleteInParagraph(range) {
   const { startContainer, startOffset, endContainer } = range;
   const [first, second] = [lineElement(startContainer), lineElement(endContainer)];
   range.deleteContents();
+  if (!block.contains(range.startContainer)) {
+    range.setStart(startContainer, startOffset);
+    range.collapse(true);
+  }
   if (first && second && first !== second && !first.contains(second) && !second.contains(first)) {
     first.append(...second.childNodes);
     second.remove();
@@ -65,9 +69,9 @@ function deleteInParagraph(range) {
 function holdItemOpen(item, range) {
   const first = item.tagName === 'LI' && item.isConnected
     ? dom.shownFrom(item.firstChild, 'nextSibling') : null;
-  if (!dom.isList(first)) return;
-  const line = dom.create('BR');
   const { startContainer, startOffset } = range;
+  if (!dom.isList(first) || range.comparePoint(item, selection.indexOf(first)) < 0) return;
+  const line = dom.create('BR');
   /** @type {AnyNode} */
   let next = first;
   if (startContainer === item) next = item.childNodes[startOffset];
@@ -206,7 +210,30 @@ export function deleteRange(range) {
   if (thing) deleteThing(thing, rest);
   else if (spansUnits(range)) deleteAcross(rest.cloneRange(), rest);
   else deleteInParagraph(rest);
+  if (!thing) holdLastLine(rest);
   return rest;
+}
+
+// The last line of a paragraph that is empty behind a break needs one of its own to be a line.
+/** @param {Range} rest */
+function holdLastLine(rest) {
+  const { startContainer: node, startOffset: offset } = rest;
+  const before = dom.isText(node) ? offset === 0 && node.previousSibling
+    : node.childNodes[offset - 1];
+  if (!before || !dom.isBreak(dom.lastLeaf(before))) return;
+  const block = dom.blockOf(node);
+  const behind = document.createRange();
+  behind.setStart(node, offset);
+  behind.setEndAfter(block);
+  for (const leaf of selection.leavesIn(behind)) {
+    if (!dom.isShown(leaf)) continue;
+    if (dom.blockOf(leaf) === block) return;
+    break;
+  }
+  const line = dom.create('BR');
+  rest.insertNode(line);
+  rest.setStartBefore(line);
+  rest.collapse(true);
 }
 
 /**
@@ -215,6 +242,10 @@ export function deleteRange(range) {
  * @param {Range} range
  */
 export function deleteToPoint(range) {
+  if (cellOf(range.startContainer) !== cellOf(range.endContainer) && !showsAnything(range)) {
+    selection.setCaret(range.startContainer, range.startOffset);
+    return;
+  }
   blanks.watch();
   const { startContainer, startOffset } = deleteRange(range);
   selection.setCaret(startContainer, startOffset);
@@ -240,15 +271,32 @@ export function deleteAroundComments(range) {
   blanks.watched({ inputType: 'delete' });
 }
 
+// True where nothing but text of one block is in the range. A line of that stays as an empty one.
+/** @param {Range} range */
+function isBareLine(range) {
+  if (selection.control(range)) return false;
+  const block = dom.blockOf(range.commonAncestorContainer);
+  const leaves = [...selection.leavesIn(range)].filter(dom.isShown);
+  return leaves.some(dom.isText) &&
+    leaves.every((leaf) => !dom.isBlock(leaf) && dom.blockOf(leaf) === block);
+}
+
 /**
  * Deletes what is in the range and puts the caret into a line: the one that is left or, where none
  * is, the one behind or before it.
  * @param {Range} range
  */
 export function deleteToLine(range) {
+  const isLine = isBareLine(range);
   deleteToPoint(range);
   const [node, offset] = gapAt(selection.range()) ?? [];
   if (!node) return;
+  if (isLine) {
+    const line = dom.create('BR');
+    node.insertBefore(line, node.childNodes[offset] ?? null);
+    selection.setCaret(node, offset);
+    return;
+  }
   const next = dom.shownFrom(node.childNodes[offset], 'nextSibling');
   const previous = dom.shownFrom(node.childNodes[offset - 1], 'previousSibling');
   /** @param {AnyNode} block */

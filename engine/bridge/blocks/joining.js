@@ -2,8 +2,9 @@
 // @ts-check
 // Joining: the content of a paragraph goes to the end of the one before it and takes on that one's
 // looks; the blocks that this leaves empty go. The engine would keep the looks by styled spans.
-import { breakLines } from './blocks.js';
+import { breakLines, collapseText } from './blocks.js';
 import { isContinuation, itemOf } from './items.js';
+import { keepsBlanks } from '../page/beside.js';
 import * as dom from '../page/dom.js';
 import { holdOpen, plainText } from '../page/lines.js';
 import * as selection from '../page/selection.js';
@@ -66,6 +67,20 @@ const dropTrailingBreak = (nodes, line) => {
   return nodes;
 };
 
+// Leaves of white space what is seen of it in a paragraph whose nodes go where all of it shows.
+/**
+ * @param {ChildNode[]} nodes
+ * @param {boolean} follow they will follow other text, so that a blank at their start is seen
+ */
+function writeAsShown(nodes, follow) {
+  const texts = nodes.filter((node) => node.isConnected)
+    .flatMap((node) => (dom.isText(node) ? [node] : dom.textsUnder(node)))
+    .filter((text) => !keepsBlanks(text));
+  const isParted = follow && /^[ \t\n]/.test(texts[0]?.data ?? '');
+  for (const text of texts) collapseText(text);
+  if (isParted) texts.find((text) => text.isConnected)?.insertData(0, ' ');
+}
+
 // What the nodes show, as one text that is not in the document yet: for where no markup may stand.
 /** @param {ChildNode[]} nodes */
 function asText(nodes) {
@@ -113,6 +128,9 @@ export function join(first, second, mark = null, line = null) {
   const home = second.container;
   const leavesPre = dom.isPreformatted(second.block) && !dom.isPreformatted(first.container);
   if (leavesPre) breakLines(home);
+  if (dom.isPreformatted(first.container) && !dom.isPreformatted(second.block)) {
+    writeAsShown(second.nodes, left.length > 0);
+  }
   const isRaw = dom.rawAt(first.container);
   const all = leavesPre ? [...home.childNodes]
     : (isRaw ? second.nodes : withComments(second)).filter((node) => node.isConnected);

@@ -7,6 +7,7 @@ import { leafBeside, unitOfLeaf } from '../blocks/caretDeletion.js';
 import { caretAt, isAtEdge, narrowed, sameUnit, unitAt } from '../blocks/extent.js';
 import { join } from '../blocks/joining.js';
 import * as dom from '../page/dom.js';
+import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
 import { noBreak } from '../page/standIns.js';
 
@@ -73,14 +74,17 @@ const holdsBlock = (node) => [...node.querySelectorAll('*')].some(dom.isBlock);
  * @param {EdgeChild} child
  * @param {Side} side
  */
-const edgeIn = (node, child, side) =>
-  (holdsBlock(node) ? dom.shownFrom(node[child], side) : node[child]);
+function edgeIn(node, child, side) {
+  const shown = dom.shownFrom(node[child], side);
+  return holdsBlock(node) && dom.isBlock(shown) ? shown : node[child];
+}
 
-// Of a paragraph that only a line end was taken from there are but tags.
+// Of a paragraph that only a line end was taken from there are but tags. Answers that one.
 /**
  * @param {DocumentFragment} fragment
  * @param {EdgeChild} child
  * @param {Side} side
+ * @returns {AnyNode}
  */
 function dropEmptyEdge(fragment, child, side) {
   /** @type {ParentNode} */
@@ -91,10 +95,26 @@ function dropEmptyEdge(fragment, child, side) {
       holder = at;
     } else {
       at.remove();
-      if (dom.isBlock(at)) return;
+      if (dom.isBlock(at)) return at;
     }
     at = edgeIn(holder, child, side);
   }
+  return null;
+}
+
+// The half of a paragraph that was cut in two at the caret is the paragraph again that it had been
+// before its line end was deleted.
+/** @param {AnyNode} was */
+function becomeAgain(was) {
+  const { startContainer, startOffset } = selection.range();
+  const half = unitAt(startContainer, startOffset)?.block;
+  if (!half || [...was.querySelectorAll('*')].some(dom.isBlock)) return;
+  /** @param {Element} block */
+  const isPlain = (block) => dom.isParagraph(block) && !dom.isPreformatted(block);
+  if (half.tagName !== was.tagName && !(isPlain(half) && isPlain(was))) return;
+  was.replaceChildren(...half.childNodes);
+  half.replaceWith(was);
+  selection.setCaret(...selection.pointOf(selection.startOf(was)));
 }
 
 // The leaf at one end of the fragment. White space alone would be taken for layout: a no-break
@@ -131,16 +151,19 @@ const edgeOf = ({ block, nodes, container }, side) =>
  */
 export function joinsFor(fragment, open, node, offset) {
   if (open.start === 'line') dropEmptyEdge(fragment, 'firstChild', 'nextSibling');
-  if (open.end === 'line') dropEmptyEdge(fragment, 'lastChild', 'previousSibling');
+  const gone = open.end === 'line'
+    ? dropEmptyEdge(fragment, 'lastChild', 'previousSibling') : null;
   // The line that began or ended there is a paragraph's.
   if (open !== closed && fragment.firstChild && !holdsBlock(fragment)) {
     dom.wrap([...fragment.childNodes], dom.create('P'));
   }
   const joinsStart = open.start === 'open' && isWithin(node, offset, 'start');
-  const joinsEnd = open.end === 'open' && isWithin(node, offset, 'end');
+  const isFollowed = isWithin(node, offset, 'end');
+  const joinsEnd = open.end === 'open' && isFollowed;
   const first = joinsStart ? leafAt(fragment, 'firstChild', 'nextSibling') : null;
   const last = joinsEnd ? leafAt(fragment, 'lastChild', 'previousSibling') : null;
   return () => {
+    if (gone && joinsStart && isFollowed) becomeAgain(gone);
     if (first) joinWith(first.node, 'previousSibling');
     if (last) joinWith(last.node, 'nextSibling');
     for (const leaf of [first, last]) if (leaf?.blank) leaf.node.data = leaf.blank;
@@ -150,6 +173,19 @@ export function joinsFor(fragment, open, node, offset) {
 /** @param {AnyNode} leaf */
 const isOne = (leaf) => dom.isBlock(leaf) && (dom.isAtom(leaf) || leaf.tagName === 'TABLE');
 
+/**
+ * A block that goes gives its name to the one that comes in its place.
+ * @param {AnyNode} block
+ * @param {AnyNode} next
+ */
+export function giveName(block, next) {
+  if (!block?.id || !dom.isElement(next) || !dom.isBlock(next) || next.id) return;
+  const { id } = block;
+  history.attributesOf(block);
+  block.removeAttribute('id');
+  next.id = id;
+}
+
 // Joins two paragraphs that were one before that was cut in two. A break at the first one's end was
 // before the caret: it holds no empty line open.
 /**
@@ -158,6 +194,7 @@ const isOne = (leaf) => dom.isBlock(leaf) && (dom.isAtom(leaf) || leaf.tagName =
  * @param {ChildNode | null} blank
  */
 function joinHalves(first, second, blank) {
+  giveName(second.block, first.block);
   const between = join(first, second, null, first.nodes.at(-1) ?? null);
   if (blank) second.nodes[0].before(blank);
   return between;

@@ -6,7 +6,7 @@
 import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
 import { dropHolder } from '../blocks/typing.js';
 import { joinToNeighbours } from '../formats/merging.js';
-import { closed, joinsFor } from './openEnds.js';
+import { closed, giveName, joinsFor } from './openEnds.js';
 import { noteArrival } from './pictures.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
@@ -57,18 +57,6 @@ function cutInTwo(node, offset, top) {
   return [top, dom.splitBefore(node, top)];
 }
 
-// An empty block gives its name to the one that comes in its place.
-/**
- * @param {AnyNode} block
- * @param {AnyNode} next
- */
-function giveName(block, next) {
-  if (!block.id || !dom.isElement(next) || !dom.isBlock(next) || next.id) return;
-  const { id } = block;
-  history.attributesOf(block);
-  block.removeAttribute('id');
-  next.id = id;
-}
 // The comments in a block, in document order.
 /** @param {Node} block */
 function commentsIn(block) {
@@ -137,7 +125,7 @@ function putBlocks(fragment, node, offset) {
     return;
   }
   const [before, after] = cutInTwo(node, offset, top);
-  const first = dom.shownFrom(fragment.firstChild, 'nextSibling');
+  const first = [...fragment.childNodes].find((child) => !dom.isBlank(child));
   before.after(fragment);
   dropEmptyInline(dom.lastLeaf(before));
   dropEmptyInline(dom.firstLeaf(after));
@@ -190,7 +178,7 @@ function insertAt(fragment, node, offset) {
   }
 }
 
-// The break that holds an empty block, or an item's line above its list, open.
+// The break that holds an empty block, an empty last line or an item's line above its list open.
 /**
  * @param {AnyNode} node
  * @param {number} offset
@@ -200,8 +188,13 @@ function holderAt(node, offset) {
   if (dom.isHollow(block)) return block.querySelector('br');
   let at = dom.isText(node) ? node : node.childNodes[offset];
   while (at && dom.isBlank(at)) at = at.nextSibling;
-  const next = dom.isBreak(at) ? dom.neighbour(at, 'nextSibling') : null;
-  return dom.isList(next) ? at : null;
+  if (!dom.isBreak(at)) return null;
+  const [before, next] = dom.sides.map((side) => dom.neighbour(at, side));
+  /** @param {AnyNode} sibling */
+  const isEdge = (sibling) => !sibling || dom.isBlock(sibling);
+  const isLast = dom.isBlock(at.parentNode) && isEdge(next);
+  const isEmpty = isEdge(before) || dom.isBreak(before);
+  return (isLast && isEmpty) || dom.isList(next) ? at : null;
 }
 
 /** @param {AnyNode} holder */
