@@ -133,7 +133,7 @@ function carriersOf(units, side) {
   const judged = new Map();
   for (const unit of units) {
     /** @param {AnyNode} node */
-    const isCarrier = (node) => /^(DIV|BLOCKQUOTE|TD|TH)$/.test(node.tagName) &&
+    const isCarrier = (node) => /^(BLOCKQUOTE|DD|DIV|DT|LI|TD|TH)$/.test(node.tagName) &&
       spellingOf(node) !== null;
     const at = dom.ancestor(unit.block?.parentNode ?? unit.container, isCarrier);
     if (!at || judged.has(at) || read(unit) === side) continue;

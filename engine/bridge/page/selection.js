@@ -195,6 +195,15 @@ function lineBefore(node, offset) {
     ? last : null;
 }
 
+// The leaf at one end of a node, less the source's white space there: that goes when blocks do.
+/** @type {(node: AnyNode, child: EdgeChild) => AnyNode} */
+function shownEdge(node, child) {
+  const side = child === 'firstChild' ? 'nextSibling' : 'previousSibling';
+  const inner = isOpen(node) ? dom.shownFrom(node[child], side) : null;
+  if (inner) return shownEdge(inner, child);
+  return child === 'firstChild' ? firstLeaf(node) : lastLeaf(node);
+}
+
 // The anchor at a point. `inward` says which side a point between two nodes clings to: 'after',
 // 'before', or 'line' for a caret.
 /**
@@ -211,7 +220,7 @@ function anchorAt(node, offset, inward) {
   const before = node.childNodes[offset - 1];
   const child = after && (inward !== 'before' || !before) ? after : before;
   if (!child) return { inside: node };
-  const leaf = child === after ? firstLeaf(after) : lastLeaf(before);
+  const leaf = child === after ? shownEdge(after, 'firstChild') : shownEdge(before, 'lastChild');
   if (isText(leaf)) return { node: leaf, offset: child === after ? 0 : leaf.length };
   return isOpen(leaf) ? { inside: leaf } : { beside: leaf, side: child === after ? 0 : 1 };
 }

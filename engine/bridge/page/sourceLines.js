@@ -6,6 +6,7 @@
 import { keepsBlanks } from './beside.js';
 import * as dom from './dom.js';
 import * as history from './history.js';
+import * as selection from './selection.js';
 import { shiftStandIns, splitText } from './standIns.js';
 
 /** @param {AnyNode} node */
@@ -268,7 +269,11 @@ function leaveLines(block, blocks) {
   const isEmpty = last !== top && dom.isHollow(last);
   const end = dom.lastLeaf(isEmpty ? last.previousSibling : last);
   if (!dom.isText(end) || !/[^ \t\n][ \t]*\n[ \t\n]*$/.test(end.data)) return;
-  last.after(splitText(end, end.data.replace(/[ \t\n]+$/, '').length));
+  const points = selection.points();
+  const length = end.data.replace(/[ \t\n]+$/, '').length;
+  last.after(splitText(end, length));
+  // Who had selected from that line end on has selected from the end of the line on.
+  if (points.anchorNode === end || points.focusNode === end) selection.select(points);
 }
 
 history.completeStepsBy((changes) => {

@@ -60,7 +60,7 @@
     // The faults of a step that found the look `was`, with so many characters before and behind its
     // selection, and in the rest of the block that it ends in. What is within `near` characters of
     // the selection may be its own; that block's end goes where it joins another.
-    faults(was, { before, behind, rest, near, deletes }) {
+    faults(was, { before, behind, rest, near, deletes, joinsRaw }) {
       const now = source.look();
       const faults = [];
       const [count, after] = [was.chars.length, now.chars.length];
@@ -79,8 +79,10 @@
       kept(count - behind + 1 + near, count, after - count);
       const wordsUnder = (sign) =>
         now.marks.filter((mark) => mark.sign === sign).map(({ words }) => words).join('');
+      // What joins text without markup is such text too.
+      const end = count - behind + (joinsRaw ? rest : 0);
       for (const { sign, words, from, to } of was.marks) {
-        const isAway = to < before - near || from > count - behind + near;
+        const isAway = to < before - near || from > end + near;
         // No command but a deletion takes the mark of a change or a link from its words.
         const stays = words && (isAway || (!deletes && /^[A-Z]/.test(sign)));
         if (stays && !wordsUnder(sign).includes(words)) faults.push(`${sign} is lost`);

@@ -52,7 +52,7 @@
     return isTravel(step.action) ? [] : source.faults(was, {
       before: before.length, behind: behind.length, rest: rest.length,
       near: /^Ctrl\+(Backspace|Del)$/.test(value) ? 12 : 1,
-      deletes: verb !== 'exec' || value === Command.Delete });
+      deletes: verb !== 'exec' || value === Command.Delete, joinsRaw: step.raw });
   }
 
   // The block that the selection ends in; where no words follow in it, the one of the next words,
@@ -87,6 +87,7 @@
       }),
     };
   }
+  const control = () => inside.selection.control(inside.selection.range());
   const objects = () => document.querySelectorAll('img, hr, table, [contenteditable]').length;
 
   // Places where a person can put the caret.
@@ -198,8 +199,8 @@
     if (verb === 'exec') {
       if (value === Command.Delete) {
         const atCaret = !old.inside && (all.length - words.length <= 1 || objects() < count);
-        return words === old.before + old.behind || atCaret
-          ? [] : ['a deletion took other words'];
+        const isWanted = words === old.before + old.behind || atCaret;
+        return isWanted ? [] : ['a deletion took other words'];
       }
       const faults = [];
       if (words !== all) faults.push('words are lost or moved');
@@ -215,8 +216,8 @@
     }
     if (verb === 'type') {
       if (step.table && words.length === all.length + wordsOf(value).length) return [];
-      const expected = old.before + wordsOf(value) + old.behind;
-      return words === expected ? [] : ['typing took or moved words'];
+      return words === old.before + wordsOf(value) + old.behind
+        ? [] : ['typing took or moved words'];
     }
     if (verb !== 'key') return [];
     if (/Return$/.test(value)) {
@@ -244,16 +245,17 @@
     const faults = [];
     if (step.status === Status.Disabled && changed) faults.push('disabled and done');
     const isIndent = [Command.Indent, Command.Outdent].includes(number);
-    if (isIndent && step.status !== Status.Disabled && !changed) {
-      faults.push('enabled and nothing done');
-    }
+    const isEnabled = step.status !== Status.Disabled;
+    if (isIndent && isEnabled && !changed) faults.push('enabled and nothing done');
     const toggles = [...switches, Command.OrderList, Command.UnorderList];
     if (changed && toggles.includes(number)) {
       const now = inside.statusOf(number);
       const expected = step.status === Status.Latched ? Status.Enabled : Status.Latched;
       if (now !== expected) faults.push(`status ${step.status} became ${now}`);
     }
-    if (changed && alignments.includes(number) && inside.statusOf(number) !== Status.Latched) {
+    // What lay between two ends may be one object then.
+    const judges = changed && control() === step.control && alignments.includes(number);
+    if (judges && inside.statusOf(number) !== Status.Latched) {
       faults.push(`aligned, and the status is ${inside.statusOf(number)}`);
     }
     return faults;
@@ -284,8 +286,6 @@
     if (!same(on, now)) faults.push(`redo gives ${on.selected}`);
     return faults;
   }
-
-  const told = (action) => action.join(' ');
 
   // What a cut and a paste of it in the same place must leave: the words in their order, a blank
   // between two words where there was one, the lines, and what marks them.
@@ -352,14 +352,15 @@
       const [verb, first, second] = action;
       step = {
         before, action, source: source.look(), parts: parts(), lines: shownLines(),
-        count: objects(),
-        table: inside.selection.control(inside.selection.range())?.tagName === 'TABLE',
+        count: objects(), control: control(),
+        raw: inside.dom.rawAt(inside.selection.range().startContainer) !== null,
+        table: control()?.tagName === 'TABLE',
         status: verb === 'exec' ? inside.statusOf(first) : 0,
       };
       if (verb === 'exec' || verb === 'travel') velor.exec(first, second);
       else if (verb === 'pasteHTML') velor.pasteHTML(first);
       else if (verb === 'paste') markup.paste('text/html', first);
-      else return told(action);
+      else return action.join(' ');
       return '';
     },
     // What is wrong after the step, in words; nothing when all is well.
@@ -373,7 +374,7 @@
       trail.push(look());
       if (!faults.length) return '';
       const { before, action } = step;
-      return [faults.join(', '), before.selected, told(action), now.selected].join('\n  ');
+      return [faults.join(', '), before.selected, action.join(' '), now.selected].join('\n  ');
     },
     // Undoes everything, which must give the loaded page, and redoes everything.
     wayBack() {
