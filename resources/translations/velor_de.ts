@@ -3283,7 +3283,7 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
     </message>
     <message>
         <source>Export as PDF... (&amp;O)</source>
-        <translation>Als PDF e&amp;xportieren ...</translation>
+        <translation>Als &amp;PDF exportieren ...</translation>
     </message>
     <message>
         <source>Export as PDF</source>
