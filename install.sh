@@ -8,7 +8,8 @@ cd "$(dirname "$0")"
 
 packages=(
   g++ cmake ninja-build pkg-config esbuild
-  qt6-base-dev qt6-l10n-tools qt6-webengine-dev qt6-webchannel-dev qt6-svg-dev libqscintilla2-qt6-dev
+  qt6-base-dev qt6-l10n-tools qt6-pdf-dev qt6-webengine-dev qt6-webchannel-dev qt6-svg-dev
+  libqscintilla2-qt6-dev
   libgl-dev libicu-dev libsqlite3-dev libhunspell-dev
   # Every test is built with the program.
   libgtest-dev libgmock-dev

@@ -16,6 +16,7 @@
 #include "qt/DesktopService.h"
 #include "qt/EndingSignals.h"
 #include "qt/ProgramFolder.h"
+#include "qt/QtPrinters.h"
 #include "qt/RealPlatform.h"
 #include "qt/RunningProgram.h"
 
@@ -65,6 +66,7 @@ int main(int argc, char **argv) {
   application.SetBoundary(&boundary);
   real.copies.RemoveAbandoned();
   real.components.SetWholeSigns(KeepsTemplateSignsWhole(real.registry));
+  QtPrinters printers(real.dialogs);
   ProgramValues values;
   std::unique_ptr<MfrmProgram> mainWindow;
   RealStartUpWindows windows(
@@ -77,6 +79,7 @@ int main(int argc, char **argv) {
         QObject::connect(mainWindow.get(), &MfrmProgram::Unloaded, &application,
                          [] { QCoreApplication::exit(); });
         mainWindow->SetEngine(EngineInUse());
+        mainWindow->SetPrinters(printers);
         mainWindow->Load();
         if (IsSandboxOff())
           mainWindow->Context().mainWindow.status.Report(

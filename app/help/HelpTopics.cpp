@@ -35,6 +35,7 @@ constexpr HelpTopic Topics[] = {
     {"frmProjectManager", nullptr, "projects.html#manager"},
     {"FrmFld", nullptr, "repair.html#picker"},
     {"FrmDrives", nullptr, "drives.html#window"},
+    {"FrmPrint", nullptr, "printing.html#print"},
     {"FrmSettings", nullptr, "settings.html#list"},
     {"CommandPalette", nullptr, "commands.html#palette"},
     {"frmCompare", nullptr, "outside.html#both"},

@@ -19,6 +19,7 @@ enum class CommandId {
   OpenPage,
   SavePage,
   SavePageAs,
+  Print,
   ExportPdf,
   CloseProgram,
   Editing,    ///< argument: the EditingCommand

@@ -100,8 +100,11 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::SavePageAs:
       SavePage(modWorkFlow::SaveKind::SaveAs);
       break;
+    case CommandId::Print:
+      PutOnPaper(&CommandHost::Print);
+      break;
     case CommandId::ExportPdf:
-      ExportPdf();
+      PutOnPaper(&CommandHost::ExportPdf);
       break;
     case CommandId::CloseProgram:
       host_.CloseProgram();
@@ -273,12 +276,12 @@ void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
     context_.mainWindow.status.Report(done.arg(page->FilePath()));
 }
 
-void CommandRouter::ExportPdf() {
+void CommandRouter::PutOnPaper(void (CommandHost::*way)(FrontWindow &)) {
   FrontWindow *front = host_.Front();
   if (front == nullptr) {
-    context_.mainWindow.status.Report(Words::tr("There is no page to export"));
+    context_.mainWindow.status.Report(Words::tr("There is no page to print"));
   } else if (ApplySource(*front)) {
-    host_.ExportPdf(*front);
+    (host_.*way)(*front);
   }
 }
 

@@ -43,6 +43,8 @@ class CommandHost {
   virtual void ShowSettings() = 0;
   /// Asks for a file and writes what that window shows into it as a PDF.
   virtual void ExportPdf(FrontWindow &front) = 0;
+  /// Shows what that window shows as it goes on paper, and prints it.
+  virtual void Print(FrontWindow &front) = 0;
   virtual void CloseProgram() = 0;
 };
 
@@ -95,7 +97,8 @@ class CommandRouter {
   /// SetDialogFileName for the page that is active now.
   void UpdateDialogFileName();
   void SavePage(modWorkFlow::SaveKind kind);
-  void ExportPdf();
+  /// Puts what the window in front shows on paper in that way.
+  void PutOnPaper(void (CommandHost::*way)(FrontWindow &));
   /// Applies source that was typed into the window, if it is a source editor, to its page. False
   /// where that cannot be done.
   bool ApplySource(const FrontWindow &front);

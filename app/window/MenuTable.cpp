@@ -106,6 +106,7 @@ constexpr MenuRow Rows[] = {
     Beyond(Menu("mnuTools", Words::Mark("Tools (&T)"))),
     Beyond(Item("mnuFindCommand", Words::Mark("Find Command... (&F)"), "mnuTools", {CommandId::FindCommand}, nullptr, "Ctrl+Shift+P")),
     Beyond(Menu("mnuRecent", Words::Mark("Recent Files (&R)"), "mnuTools")),
+    Found(Words::Mark("paper printer"), Beyond(Item("mnuPrint", Words::Mark("Print... (&I)"), "mnuTools", {CommandId::Print}, nullptr, "Ctrl+P"))),
     Found(Words::Mark("print paper save"), Beyond(Item("mnuExportPdf", Words::Mark("Export as PDF... (&O)"), "mnuTools", {CommandId::ExportPdf}))),
     Separator("mnu6", "mnuTools"),
     Found(Words::Mark("search words text look"), Beyond(Item("mnuFind", Words::Mark("Find... (&N)"), "mnuTools", {CommandId::Find}, nullptr, "Ctrl+F"))),

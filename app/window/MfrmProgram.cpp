@@ -436,6 +436,13 @@ void MfrmProgram::ExportPdf(FrontWindow &front) {
   pdfExport_->Begin(front);
 }
 
+void MfrmProgram::Print(FrontWindow &front) {
+  PagePrinting *printing = front.Printing();
+  if (printing == nullptr) return;
+  FrmPrint dialog(*printing, printers_, {front.ShownName(), front.FilePath()}, printChoices_, this);
+  platform_.dialogs.RunModal(dialog);
+}
+
 void MfrmProgram::CloseProgram() {
   close();
 }

@@ -3,6 +3,7 @@
 
 #include "app/window/CommandRouter.h"
 #include "app/window/CommandState.h"
+#include "app/window/FrmPrint.h"
 #include "app/window/LoadOrder.h"
 #include "app/window/MenuBuilder.h"
 #include "app/window/MenuSettings.h"
@@ -62,6 +63,9 @@ class MfrmProgram final : public QMainWindow,
   /// What the About box tells of the browser engine.
   void SetEngine(const EngineVersion &engine) { engine_ = engine; }
 
+  /// Where pages are printed; it outlives the window. Without this call they are only shown.
+  void SetPrinters(Printers &printers) { printers_ = &printers; }
+
   /// Takes the keyboard, where the desktop lets it.
   void ComeToFront();
 
@@ -102,6 +106,7 @@ class MfrmProgram final : public QMainWindow,
   void ShowDrives() override;
   void ShowSettings() override;
   void ExportPdf(FrontWindow &front) override;
+  void Print(FrontWindow &front) override;
   void CloseProgram() override;
 
   // LoadSteps
@@ -156,6 +161,8 @@ class MfrmProgram final : public QMainWindow,
   /// Null without the menu Tools.
   RecentFiles *recent_ = nullptr;
   EngineVersion engine_;
+  Printers *printers_ = nullptr;
+  PrintChoices printChoices_;   ///< of this run
   std::unique_ptr<Help> help_;  ///< null without additions
   /// How far the window is on its way to be closed.
   enum class Closing { No, Awaited, Due, UnderWay };

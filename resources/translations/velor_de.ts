@@ -3274,10 +3274,6 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <translation>die Datei</translation>
     </message>
     <message>
-        <source>There is no page to export</source>
-        <translation>Es gibt keine Seite zum Exportieren</translation>
-    </message>
-    <message>
         <source>print paper save</source>
         <translation>drucken papier speichern</translation>
     </message>
@@ -3324,6 +3320,97 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
     <message>
         <source>The page could not be printed. No file was written.</source>
         <translation>Die Seite konnte nicht gedruckt werden. Es wurde keine Datei geschrieben.</translation>
+    </message>
+    <message>
+        <source>There is no page to print</source>
+        <translation>Es gibt keine Seite zum Drucken</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Drucken ...</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Blätter</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>&amp;Direction:</source>
+        <translation>&amp;Richtung:</translation>
+    </message>
+    <message>
+        <source>&amp;Margins:</source>
+        <translation>R&amp;änder:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>&amp;Maßstab:</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>&amp;Backgrounds</source>
+        <translation>&amp;Hintergründe</translation>
+    </message>
+    <message>
+        <source>&amp;Header and footer</source>
+        <translation>&amp;Kopf- und Fußzeile</translation>
+    </message>
+    <message>
+        <source>The pages are being made</source>
+        <translation>Die Blätter werden erstellt</translation>
+    </message>
+    <message>
+        <source>The page could not be printed.</source>
+        <translation>Die Seite konnte nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>One page</source>
+        <translation>Ein Blatt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n Blatt</numerusform>
+            <numerusform>%n Blätter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Printing page %1. Escape stops it</source>
+        <translation>Blatt %1 wird gedruckt. Esc bricht es ab</translation>
+    </message>
+    <message>
+        <source>The printer did not take the page.</source>
+        <translation>Der Drucker hat das Blatt nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>paper printer</source>
+        <translation>papier drucker</translation>
+    </message>
+    <message>
+        <source>Print... (&amp;I)</source>
+        <translation>Dru&amp;cken ...</translation>
     </message>
 </context>
 <context>

@@ -3264,10 +3264,6 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <translation>它</translation>
     </message>
     <message>
-        <source>There is no page to export</source>
-        <translation>沒有可匯出的網頁</translation>
-    </message>
-    <message>
         <source>print paper save</source>
         <translation>列印 紙張 儲存</translation>
     </message>
@@ -3314,6 +3310,96 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
     <message>
         <source>The page could not be printed. No file was written.</source>
         <translation>無法列印網頁。未寫入檔案。</translation>
+    </message>
+    <message>
+        <source>There is no page to print</source>
+        <translation>沒有可列印的頁面</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>直向</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>橫向</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>列印</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>列印...</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>頁面</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>紙張(&amp;P):</translation>
+    </message>
+    <message>
+        <source>&amp;Direction:</source>
+        <translation>方向(&amp;D):</translation>
+    </message>
+    <message>
+        <source>&amp;Margins:</source>
+        <translation>邊界(&amp;M):</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>&amp;Scale:</source>
+        <translation>縮放(&amp;S):</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>&amp;Backgrounds</source>
+        <translation>背景(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Header and footer</source>
+        <translation>頁首與頁尾(&amp;H)</translation>
+    </message>
+    <message>
+        <source>The pages are being made</source>
+        <translation>正在製作頁面</translation>
+    </message>
+    <message>
+        <source>The page could not be printed.</source>
+        <translation>無法列印此頁面。</translation>
+    </message>
+    <message>
+        <source>One page</source>
+        <translation>一頁</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n 頁</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Printing page %1. Escape stops it</source>
+        <translation>正在列印第 %1 頁。按 Esc 停止</translation>
+    </message>
+    <message>
+        <source>The printer did not take the page.</source>
+        <translation>印表機未接受此頁。</translation>
+    </message>
+    <message>
+        <source>paper printer</source>
+        <translation>紙張 印表機</translation>
+    </message>
+    <message>
+        <source>Print... (&amp;I)</source>
+        <translation>列印...(&amp;I)</translation>
     </message>
 </context>
 <context>

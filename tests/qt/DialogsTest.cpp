@@ -3,6 +3,7 @@
 #include "platform/Paths.h"
 #include "qt/QtDialogs.h"
 #include "qt/QtFileDialog.h"
+#include "qt/QtPrinters.h"
 #include "tests/support/Checks.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/KeyboardWalk.h"
@@ -17,7 +18,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPointer>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -403,6 +407,44 @@ TEST_F(FileDialogs, SaveTakesATakenNameUnaskedOtherwise) {
   OnDialog<QFileDialog> person(
       [this](QFileDialog &box) { Choose(box, Native(QStringLiteral("taken.htm"))); });
   EXPECT_EQ(dialog_.ShowSave(), Logic(QStringLiteral("taken.htm")));
+}
+
+TEST(PrintDialogs, PrintToFileWritesThePagesThatAreWanted) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("sheets.pdf"));
+  QtDialogs dialogs;
+  QtPrinters printers(dialogs);
+  QWidget parent;
+  OnDialog<QPrintDialog> person([&](QPrintDialog &box) {
+    EXPECT_EQ(box.printer()->docName(), QStringLiteral("page.htm"));
+    box.findChild<QLineEdit *>(QStringLiteral("filename"))->setText(file);
+    box.accept();
+  });
+  auto printer = printers.Choose({QStringLiteral("page.htm"), QSizeF(842, 595), 2}, parent);
+  ASSERT_NE(printer, nullptr);
+  EXPECT_EQ(printer->Pages(), QList<int>({0, 1}));
+  for (const int page : printer->Pages()) {
+    EXPECT_TRUE(
+        printer->PrintPage(QSizeF(842, 595), [page](QPainter &painter, const QRectF &place) {
+          // As wide as the paper, which lies across.
+          EXPECT_NEAR(place.width() / place.height(), 842.0 / 595, 0.01) << page;
+          painter.fillRect(place, Qt::red);
+        }));
+  }
+  printer.reset();
+  QFile written(file);
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  const QByteArray pdf = written.readAll();
+  EXPECT_TRUE(pdf.startsWith("%PDF"));
+  EXPECT_TRUE(pdf.contains("/Count 2"));
+}
+
+TEST(PrintDialogs, ACancelledOneGivesNoPrinter) {
+  QtDialogs dialogs;
+  QtPrinters printers(dialogs);
+  QWidget parent;
+  OnDialog<QPrintDialog> person([](QPrintDialog &box) { box.reject(); });
+  EXPECT_EQ(printers.Choose({QStringLiteral("a"), QSizeF(595, 842), 1}, parent), nullptr);
 }
 
 }  // namespace

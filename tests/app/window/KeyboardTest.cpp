@@ -152,6 +152,9 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
        "ShowDetails SnapToGrid showtoolbox WrapSource CopyPictures KeepPictureData PhotosAsWebP "
        "MenuStyle mnuFore mnuBorder mnuHighlight "
        "mnuHighFore Language WholeTemplateSigns PublishedOnly cmdOK cmdCancel"},
+      {"mnuPrint",
+       "cobPaper cobOrientation txtMargins txtScale chkBackgrounds chkEdgeLines cmdClose "
+       "PaperView"},
       {"mnuDrives", "lstDrives cobLetter cmdAdd OK Cancel"},
       {"mnuTBLnew",
        "Text1 Text2 Combo1 combo2 combo3 combo4 chkHeadings Command1 Command2 qt_tabwidget_tabbar"},
@@ -187,9 +190,9 @@ TEST_F(KeyboardTest, NoTwoControlsInSightOfAWindowShareAnAltKey) {
   database.results[QStringLiteral("Select * from Project where Created = true")] = {};
   frmMain &page = NewPage();
   EXPECT_EQ(SharedAltKeys(window).toStdString(), "");
-  const char *const items[] = {"mnuAbout",  "mnuFindCommand",    "mnuSettings", "mnuDrives",
-                               "mnuTBLnew", "mnuISTimage",       "mnuISTlink",  "mnuBookmark",
-                               "mnuVideo",  "mnuView_ProjectMan"};
+  const char *const items[] = {"mnuAbout",    "mnuPrint",  "mnuFindCommand",    "mnuSettings",
+                               "mnuDrives",   "mnuTBLnew", "mnuISTimage",       "mnuISTlink",
+                               "mnuBookmark", "mnuVideo",  "mnuView_ProjectMan"};
   for (const char *item : items) {
     dialogs.ExpectModal([item](QWidget &dialog) {
       dialog.show();

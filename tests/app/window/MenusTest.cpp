@@ -440,6 +440,7 @@ TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
   EXPECT_EQ(Tree(Find<QMenu>("mnuTools")->actions()).toStdString(),
             R"tree(mnuFindCommand "Find Command... (&F)" Ctrl+Shift+P
 mnuRecent "Recent Files (&R)"
+mnuPrint "Print... (&I)" Ctrl+P
 mnuExportPdf "Export as PDF... (&O)"
 mnu6 "-"
 mnuFind "Find... (&N)" Ctrl+F

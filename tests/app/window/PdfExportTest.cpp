@@ -119,7 +119,7 @@ TEST_F(PdfExportTest, SourceThatWasTypedIsAppliedFirst) {
 
 TEST_F(PdfExportTest, WithoutAWindowThereIsNothingToExport) {
   Choose("mnuExportPdf");
-  EXPECT_EQ(Status(), QStringLiteral("There is no page to export"));
+  EXPECT_EQ(Status(), QStringLiteral("There is no page to print"));
 }
 
 TEST(PublishedOnlyPdf, HasNoExport) {

@@ -4,9 +4,11 @@
 #include "editor/frmMain.h"
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
+#include "tests/support/FakePrinters.h"
 
 #include <QImage>
 #include <QProcess>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QStatusBar>
 #include <QTest>
@@ -112,6 +114,28 @@ TEST_F(RealPrint, ThePreviewIsPrintedAsItsScriptsMadeIt) {
   QTest::keyClick(window.Context().preview->focusProxy()->focusProxy(), Qt::Key_Escape);
   EXPECT_EQ(Find<QStatusBar>("Sta")->currentMessage(),
             QStringLiteral("The PDF was stopped. No file was written"));
+}
+
+TEST_F(RealPrint, CtrlPShowsThePagesAndPrintsThem) {
+  FakePrinters printers;
+  window.SetPrinters(printers);
+  frmMain &page = OpenPage();
+  dialogs.ExpectModal([](QWidget &dialog) {
+    dialog.show();
+    auto *print = dialog.findChild<QPushButton *>(QStringLiteral("cmdPrint"));
+    ASSERT_TRUE(WaitFor([&] { return print->isEnabled(); }));
+    print->click();
+    EXPECT_TRUE(WaitFor([&] { return dialog.isHidden(); }));
+  });
+  Key(page, Qt::Key_P, Qt::ControlModifier);
+  ASSERT_TRUE(WaitFor([&] { return printers.ended == 1; }));
+  ASSERT_EQ(printers.sheets.size(), 2U);
+  EXPECT_EQ(printers.sheets[0].size(), QSize(283, 283));
+  bool hasPicture = false;
+  for (int y = 0; y < 283; ++y)
+    for (int x = 0; x < 283; ++x)
+      hasPicture = hasPicture || printers.sheets[0].pixel(x, y) == qRgb(255, 0, 0);
+  EXPECT_TRUE(hasPicture);
 }
 
 TEST_F(RealPrint, EscapeInThePageLeavesTheOldFileAndTheNextExportGoesWell) {
