@@ -68,6 +68,31 @@ qsizetype PageMasker::EndOfServerCode(qsizetype at) const {
   return isCode ? After(source_, u"?>", at + 2) : at;
 }
 
+qsizetype PageMasker::EndOfServerTag() const {
+  qsizetype at = at_ + (source_.sliced(at_).startsWith(u"</") ? 2 : 1);
+  const qsizetype nameStart = at;
+  while (at < source_.size() && (source_[at].isLetterOrNumber() || source_[at] == u'-')) ++at;
+  const bool isServerTag = at > nameStart && at + 1 < source_.size() && source_[at] == u':' &&
+                           IsLetterAt(nameStart) && IsLetterAt(at + 1);
+  if (!isServerTag) return at_;
+  QChar quote;
+  for (; at < source_.size(); ++at) {
+    if (const qsizetype end = EndOfServerCode(at); end > at) {
+      at = end - 1;
+      continue;
+    }
+    const QChar codeUnit = source_[at];
+    if (!quote.isNull()) {
+      if (codeUnit == quote) quote = QChar();
+    } else if (codeUnit == u'"' || codeUnit == u'\'') {
+      quote = codeUnit;
+    } else if (codeUnit == u'>') {
+      return at + 1;
+    }
+  }
+  return at_;
+}
+
 qsizetype PageMasker::EndOfComment() const {
   if (source_.sliced(at_ + 4).startsWith(u">")) return at_ + 5;
   if (source_.sliced(at_ + 4).startsWith(u"->")) return at_ + 6;
@@ -151,6 +176,8 @@ void PageMasker::ReadMarkup() {
   const QChar next = at_ + 1 < source_.size() ? source_[at_ + 1] : QChar();
   if (source_.sliced(at_).startsWith(u"<!--")) {
     at_ = EndOfComment();
+  } else if (const qsizetype tagEnd = EndOfServerTag(); tagEnd > at_ && IsNoPlaceForText()) {
+    Hide(tagEnd, PageMask::Kind::Content);
   } else if (IsLetterAt(at_ + 1) || (next == u'/' && IsLetterAt(at_ + 2))) {
     ReadTag();
   } else if (next == u'!' || next == u'/' || next == u'?') {

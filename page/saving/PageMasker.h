@@ -30,6 +30,9 @@ class PageMasker {
 
   /// The offset behind the server code that begins at `at`; `at` itself where none does.
   qsizetype EndOfServerCode(qsizetype at) const;
+  /// The offset behind the tag of a server's library (`<c:forEach ...>`, `</s:if>`) that begins at
+  /// `at_`; `at_` itself where none does.
+  qsizetype EndOfServerTag() const;
   /// The offset behind the comment that begins at `at_`.
   qsizetype EndOfComment() const;
   bool IsSpaceAt(qsizetype at) const;

@@ -124,6 +124,25 @@ TEST(MaskedPages, KeepTemplateSignsWhereTextMayNotStand) {
   }
 }
 
+TEST(MaskedPages, KeepServerTagsWhereElementsMayNotStand) {
+  for (const char *file :
+       {"<table><c:forEach items=\"${a}\" var='b'><tr><td>c</td></tr></c:forEach></table>",
+        "<table><tr><s:if test=\"a > b\"><td>c</td></s:if><s:else><td>d</td></s:else></tr></table>",
+        "<table><c:if test=\"<%= a > b %>\"><tr><td>c</td></tr></c:if></table>",
+        "<jsp:useBean id=\"a\"/>\n<html><body>b</body></html><jsp:include page=\"c\"/>"}) {
+    FaithfulPage page(Original(file));
+    EXPECT_FALSE(page.TextToLoad().contains(u':')) << file;
+    EXPECT_EQ(page.Unmasked(page.TextToLoad()), QString::fromUtf8(file));
+  }
+}
+
+TEST(MaskedPages, LeaveServerTagsInTextToTheDocument) {
+  for (const char *file :
+       {"<p><c:out value=\"a\"/> b</p>", "<table><tr><td><o:p>a</o:p></td></tr></table>",
+        "<c:set var=\"a\"/><p>b</p>", "<table><tr><td>a</td></tr><c:if test=\"b"})
+    EXPECT_EQ(FaithfulPage(Original(file)).TextToLoad(), QLatin1String(file));
+}
+
 TEST(MaskedPages, LeaveTemplateSignsInTextToBeEdited) {
   for (const char *file :
        {"<p>{{a}} and {% b %} cost $5 ${c}", "<table><tr><td>{{a}}</td></tr></table>{{b}}",
