@@ -37,7 +37,8 @@ function dropNothings(first, second) {
 }
 
 /**
- * The nearest shown leaf before or after a node; null at the edge of its cell.
+ * The nearest shown leaf before or after a node, past boxes with a place of their own; null at the
+ * edge of its cell or box.
  * @param {AnyNode} node
  * @param {Side} side
  */
@@ -45,7 +46,7 @@ export function leafBeside(node, side) {
   const cell = cellOf(node);
   for (let at = node; at && at !== cell; at = at.parentNode) {
     let near = dom.neighbour(at, side);
-    while (isNothing(near)) near = dom.neighbour(near, side);
+    while (isNothing(near) || dom.isOutOfFlow(near)) near = dom.neighbour(near, side);
     if (!near) continue;
     if (near.tagName === 'TABLE') return near;
     return side === 'previousSibling' ? shownEdge(near, 'lastChild', 'previousSibling')

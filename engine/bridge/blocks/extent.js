@@ -33,11 +33,14 @@ export const sameUnit = (one, other) =>
   one === other || Boolean(one && other && one.container === other.container &&
     one.nodes[0] === other.nodes[0]);
 
+/** @param {AnyNode} node */
+const isApart = (node) => dom.isCell(node) || dom.isOutOfFlow(node);
 /**
- * The table cell around a node, else the body: nothing is joined across their edges.
+ * The table cell, or the box with a place of its own, around a node, else the body: nothing is
+ * joined across their edges.
  * @param {AnyNode} node
  */
-export const cellOf = (node) => dom.ancestor(node, dom.isCell) || document.body;
+export const cellOf = (node) => dom.ancestor(node, isApart) || document.body;
 
 /**
  * True for a paragraph that is nothing but an empty line.

@@ -78,6 +78,12 @@ export function isObject(node) {
   const { position, display } = getComputedStyle(node);
   return position !== 'static' && !/^(inline|table-.*|contents|none)$/.test(display);
 }
+/**
+ * A box with a place of its own, outside of the flow of the text.
+ * @param {AnyNode} node
+ */
+export const isOutOfFlow = (node) => isElement(node) && isBlock(node) &&
+  /^(absolute|fixed)$/.test(getComputedStyle(node).position);
 /** @param {AnyNode} node */
 export const isBreak = (node) => isElement(node) && node.tagName === 'BR';
 /** @param {AnyNode} node */
