@@ -99,7 +99,7 @@ function endWithComments(node) {
 }
 
 // The lists that are all that is left of an item go along into the other one, before the list of
-// its own that the item stood in.
+// its own that the item stood in; so do the source's lines before and behind them.
 /**
  * @param {AnyNode} home
  * @param {AnyNode} item
@@ -109,8 +109,11 @@ function moveSublists(home, item) {
   const onlyLists = rest.length > 0 && rest.every(dom.isList);
   if (home.tagName !== 'LI' || !item || home.contains(item) || !onlyLists) return;
   const own = [...item.children].find((child) => child.contains(home));
-  if (!own) item.append(...rest);
-  else own.before(...rest);
+  const end = [...item.childNodes].reverse().find(dom.isShown);
+  const line = dom.isBlank(rest[0].previousSibling) ? rest[0].previousSibling : rest[0];
+  const moved = [...home.childNodes].slice(selection.indexOf(line));
+  if (own) own.before(...moved);
+  else end.after(...moved);
   if (own && isContinuation(rest.at(-1), own)) joinLists(rest.at(-1), own);
 }
 

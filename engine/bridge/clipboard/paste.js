@@ -316,7 +316,8 @@ function putJoined(fragment, open, range) {
  */
 export const linesOf = (node) => (node.firstChild && holdsBlock(node)
   ? [...node.childNodes].filter((child) => !dom.isBlank(child)).flatMap(linesOf)
-  : [plainText(node)]);
+  : [dom.isBlock(node) && !dom.isPreformatted(node) ? plainText(node).replace(/^ | $/g, '')
+    : plainText(node)]);
 
 // Puts a fragment in at the caret.
 /**

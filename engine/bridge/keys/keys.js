@@ -24,7 +24,9 @@ function keyDown(event) {
     pressTab(shiftKey);
     return;
   }
-  if (isPlain && isBesideIsland(selection.range())) {
+  // The engine's word deletions are no other where something is selected.
+  const deletes = ctrlKey && /^(Backspace|Delete)$/.test(key) && !getSelection().isCollapsed;
+  if ((isPlain || deletes) && isBesideIsland(selection.range())) {
     typeBesideIsland(event);
     return;
   }

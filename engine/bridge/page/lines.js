@@ -52,6 +52,8 @@ export function openParagraph(put) {
   selection.setCaret(paragraph, 0);
 }
 
+/** @param {Text} text */
+const keepsLines = (text) => text.parentElement?.closest('PRE, LISTING, XMP, PLAINTEXT, TEXTAREA');
 /**
  * What a node shows as text, its breaks as line ends: for where no markup may stand.
  * @param {AnyNode} node
@@ -59,7 +61,7 @@ export function openParagraph(put) {
  */
 export function plainText(node) {
   if (dom.isBreak(node)) return '\n';
-  if (dom.isText(node)) return node.data;
+  if (dom.isText(node)) return keepsLines(node) ? node.data : node.data.replace(/[ \t\r\n]+/g, ' ');
   const isUnseen = node.nodeType !== Node.DOCUMENT_FRAGMENT_NODE && dom.isNeutral(node);
   return isUnseen ? '' : [...node.childNodes].map(plainText).join('');
 }
