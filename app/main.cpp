@@ -67,6 +67,7 @@ int main(int argc, char **argv) {
   real.copies.RemoveAbandoned();
   real.components.SetWholeSigns(KeepsTemplateSignsWhole(real.registry));
   QtPrinters printers(real.dialogs);
+  real.ownLanguage = OwnLanguage(real.registry);
   ProgramValues values;
   std::unique_ptr<MfrmProgram> mainWindow;
   RealStartUpWindows windows(

@@ -12,7 +12,9 @@
 #include "editor/OutsideChanges.h"
 #include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
+#include "editor/PageWords.h"
 #include "editor/PictureFitting.h"
+#include "editor/SpellingBar.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/modWorkFlow.h"
 #include "platform/Dialogs.h"
@@ -114,6 +116,8 @@ frmMain::frmMain(EditorContext &context, int number)
   layout->addWidget(&pictures_->Bar());
   fitting_ = new PictureFitting(context_, *this);
   layout->addWidget(fitting_);
+  spellingBar_ = new SpellingBar(*this);
+  layout->addWidget(spellingBar_);
   setFocusProxy(component_->Widget());
 
   component_->SetShowDetails(TruthOption(context_, ShowDetails));
@@ -254,6 +258,7 @@ void frmMain::closeEvent(QCloseEvent *event) {
 }
 
 void frmMain::DocumentComplete() {
+  UseSpelling(*this);
   if (IsInFront()) ShowState();
   journal_.DocumentChanged();
   if (PendingAction != QStringLiteral("gethtml")) return;

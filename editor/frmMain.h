@@ -27,6 +27,7 @@ class FindBar;
 class OutsideChanges;
 class PagePictures;
 class PictureFitting;
+class SpellingBar;
 class ToolBarAction;
 
 /// The document window: one page, in design view (`DHTML1`) or source view (`Code1`) lying in the
@@ -55,6 +56,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   EditorContext &Context() { return context_; }
   PageJournal &Journal() { return journal_; }
   OutsideChanges &Outside() { return *outside_; }
+  SpellingBar &Spelling() { return *spellingBar_; }
   /// Whoever puts a picture into the page asks this for its address.
   PagePictures &Pictures() { return *pictures_; }
 
@@ -165,6 +167,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   OutsideChanges *outside_ = nullptr;
   std::unique_ptr<PagePictures> pictures_;
   PictureFitting *fitting_ = nullptr;
+  SpellingBar *spellingBar_ = nullptr;
 };
 
 }  // namespace velor

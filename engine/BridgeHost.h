@@ -73,6 +73,10 @@ class BridgeHost : public QObject {
     const EngineCallback callback(guard_);
     Q_EMIT LaterWanted();
   }
+  void spellingWanted(const QString &json) {
+    const EngineCallback callback(guard_);
+    Q_EMIT SpellingWanted(json);
+  }
   // NOLINTEND(readability-identifier-naming)
 
  Q_SIGNALS:
@@ -89,6 +93,7 @@ class BridgeHost : public QObject {
   void PictureOpened();
   void EarlierWanted();
   void LaterWanted();
+  void SpellingWanted(const QString &json);
 
  private:
   EngineGuard &guard_;

@@ -76,6 +76,7 @@ void EngineView::ConnectHost() {
   connect(&host_, &BridgeHost::PictureOpened, this, whenReady(&EngineView::PictureOpened));
   connect(&host_, &BridgeHost::EarlierWanted, this, whenReady(&EngineView::EarlierWanted));
   connect(&host_, &BridgeHost::LaterWanted, this, whenReady(&EngineView::LaterWanted));
+  connect(&host_, &BridgeHost::SpellingWanted, this, whenReady(&EngineView::SpellingWanted));
   connect(&host_, &BridgeHost::PointerMoved, this, &EngineView::PointerMoved);
   connect(&engine_.Scheme(), &PageScheme::PartAsked, this,
           [this](const QString &page, const QString &name, const QString &file) {

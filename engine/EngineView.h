@@ -102,6 +102,8 @@ class EngineView : public QObject, private PageWays {
   /// Undo was asked for at the beginning of the page's own history; redo at its end.
   void EarlierWanted();
   void LaterWanted();
+  /// Lines of the page are to be judged (WebSpelling).
+  void SpellingWanted(const QString &json);
   /// The pointer moved or pressed, in CSS pixels of the viewport.
   void PointerMoved(QPoint clientPosition);
   /// A context menu was asked for, in pixels of the screen.

@@ -29,6 +29,7 @@ enum class Notice {
   Menu,
   Drop,
   Report,
+  Spelling,
   StepOverLoad,
   Died
 };

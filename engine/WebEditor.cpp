@@ -72,6 +72,7 @@ WebEditor::WebEditor(EditingEngine &engine, Files &files, const QString &program
           [this](EngineView &view) { ConnectView(view); }),
       documentObject_(document_, notices_),
       search_(document_, notices_),
+      spelling_(document_, notices_, options_),
       loader_(document_, notices_, options_, programFolder),
       replacer_(document_, loader_, notices_, engine.Verifier()),
       saver_(document_, loader_, notices_, files, engine.Verifier()),
@@ -128,6 +129,9 @@ void WebEditor::ConnectView(EngineView &view) {
   });
   QObject::connect(&view, &EngineView::LaterWanted, [=, this] {
     post(Notice::StepOverLoad, [this] { replacer_.StepOverLoad(Direction::Later); });
+  });
+  QObject::connect(&view, &EngineView::SpellingWanted, [=, this](const QString &json) {
+    post(Notice::Spelling, [this, json] { spelling_.AnswerPage(json); });
   });
   QObject::connect(&view, &EngineView::PointerMoved, [this](QPoint position) {
     notices_.PostToListener(Notice::Pointer, [position](EditingListener &listener) {

@@ -9,6 +9,7 @@
 #include "engine/WebDocument.h"
 #include "engine/WebPrinting.h"
 #include "engine/WebSearch.h"
+#include "engine/WebSpelling.h"
 #include "platform/EditingComponent.h"
 
 #include <map>
@@ -60,6 +61,7 @@ class WebEditor : public EditingComponent {
   QStringList BlockFormats() const override;
   TextSearch &Search() override { return search_; }
   PagePrinting &Printing() override { return printing_; }
+  PageSpelling *SpellCheck() override { return &spelling_; }
   HtmlDocument &Document() override;
   bool ShowDetails() const override;
   void SetShowDetails(bool on) override;
@@ -95,6 +97,7 @@ class WebEditor : public EditingComponent {
   LiveDocument document_;
   WebDocument documentObject_;
   WebSearch search_;
+  WebSpelling spelling_;
   PageLoader loader_;
   PageReplacer replacer_;
   PageSaver saver_;

@@ -17,6 +17,7 @@ class QWidget;
 namespace velor {
 
 class PagePrinting;
+class PageSpelling;
 class TextSearch;
 
 /// Answers of QueryStatus, with their published numbers.
@@ -155,6 +156,8 @@ class EditingComponent {
   virtual TextSearch &Search() = 0;
   /// Puts the page on paper. Valid as long as the component.
   virtual PagePrinting &Printing() = 0;
+  /// The spelling of the page's words; null where there is none. Valid as long as the component.
+  virtual PageSpelling *SpellCheck() { return nullptr; }
 
   /// Carries out a command (EditingCommands.h) or, for a query command, returns its value: font
   /// name, block format name and size as text, colours as "#RRGGBB"; the empty text where the

@@ -20,6 +20,7 @@ class Journals;
 class Registry;
 class ReplacedVersions;
 class Runtime;
+class Spelling;
 class TemporaryCopies;
 class WindowSystem;
 
@@ -54,6 +55,8 @@ struct Platform {
   TemporaryCopies *copies = nullptr;
   /// Null where files are not watched for changes by others.
   FileWatches *watches = nullptr;
+  /// Null where no spelling is checked.
+  Spelling *spelling = nullptr;
 };
 
 }  // namespace velor

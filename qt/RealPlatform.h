@@ -11,7 +11,9 @@
 #include "qt/QtRegistry.h"
 #include "qt/QtRuntime.h"
 #include "qt/QtWindowSystem.h"
+#include "qt/SystemSpelling.h"
 #include "recovery/JournalFiles.h"
+#include "spelling/HunspellSpelling.h"
 
 namespace velor {
 
@@ -29,8 +31,11 @@ struct RealPlatform {
   ReplacedFiles replaced;
   TemporaryCopyFiles copies;
   QtFileWatches watches;
-  Platform parts{files,    runtime,   dialogs,   registry, components,
-                 &windows, &journals, &replaced, &copies,  &watches};
+  /// Of pages that name none.
+  QString ownLanguage = QStringLiteral("en");
+  HunspellSpelling spelling{files, SystemSpelling(), [this] { return ownLanguage; }};
+  Platform parts{files,     runtime,   dialogs, registry, components, &windows,
+                 &journals, &replaced, &copies, &watches, &spelling};
 };
 
 }  // namespace velor

@@ -11,6 +11,7 @@ constexpr HelpTopic Topics[] = {
     {"picOutside", nullptr, "outside.html#both"},
     {"frmMain", "Code1", "source.html#view"},
     {"frmMain", nullptr, "design.html"},
+    {"picSpelling", nullptr, "spelling.html#walk"},
     {"picFind", nullptr, "design.html#find"},
     {"picPdf", nullptr, "printing.html#export"},
     {"frmCodeEditor", nullptr, "source.html#editor"},

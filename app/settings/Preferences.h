@@ -38,6 +38,7 @@ inline constexpr auto PreferenceTable = [] {
       {"SnapToGrid",         Truth,   "True",     NextPage,  "editor/frmMain.cpp"},
       {"showtoolbox",        Truth,   "True",     AtOnce,    "editor/frmMain.cpp"},
       {"WrapSource",         Truth,   "True",     AtOnce,    "editor/SourceWrap.cpp"},
+      {"CheckSpelling",      Truth,   "True",     AtOnce,    "editor/PageWords.cpp"},
       {"CopyPictures",       Truth,   "True",     AtOnce,    "editor/PagePictures.cpp"},
       {"PhotosAsWebP",       Truth,   "False",    AtOnce,    "editor/PagePictures.cpp"},
       {"KeepPictureData",    Truth,   "False",    AtOnce,    "editor/PagePictures.cpp"},
@@ -49,6 +50,7 @@ inline constexpr auto PreferenceTable = [] {
       {"mnuHighFore",        Color,   "0",        AtOnce,    "app/window/MenuSettings.cpp"},
       {"WholeTemplateSigns", Truth,   "True",     NextStart, "app/window/Additions.cpp"},
       {"Language",           Name,    "",         NextStart, "app/settings/Languages.cpp"},
+      {"SpellingLanguage",   Name,    "",         NextStart, "app/window/Additions.cpp"},
       {"PublishedOnly",      Truth,   "False",    NextStart, "app/settings/modSettingManager.cpp"},
   });
   // clang-format on

@@ -3,6 +3,8 @@
 
 #include "app/settings/modSettingManager.h"
 
+#include <QLocale>
+
 namespace velor {
 
 Additions ReadAdditions(const Registry &registry) {
@@ -12,6 +14,14 @@ Additions ReadAdditions(const Registry &registry) {
 bool KeepsTemplateSignsWhole(const Registry &registry) {
   return ReadAdditions(registry) == Additions::On &&
          modSettingManager::IsOn(registry, PreferenceOf("WholeTemplateSigns"));
+}
+
+QString OwnLanguage(const Registry &registry) {
+  const QString chosen =
+      modSettingManager::GetOption(registry, PreferenceOf("SpellingLanguage")).trimmed();
+  if (!chosen.isEmpty()) return chosen;
+  const QLocale system = QLocale::system();
+  return system.language() == QLocale::C ? QStringLiteral("en") : system.name();
 }
 
 }  // namespace velor

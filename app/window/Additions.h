@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+
 namespace velor {
 
 class Registry;
@@ -19,5 +21,9 @@ Additions ReadAdditions(const Registry &registry);
 /// Whether template signs in a page's text are deleted as a whole and never broken: the preference
 /// WholeTemplateSigns ("True" or "False"), while additions are on. Read at start.
 bool KeepsTemplateSignsWhole(const Registry &registry);
+
+/// The language of pages that name none, as a tag: the preference SpellingLanguage, else the
+/// system's, else English. Read at start.
+QString OwnLanguage(const Registry &registry);
 
 }  // namespace velor

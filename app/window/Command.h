@@ -49,6 +49,8 @@ enum class CommandId {
   Replace,
   FindNext,
   FindPrevious,
+  Spelling,
+  WordAtCaret,
   WrapSource,
   Drives,
   Settings,

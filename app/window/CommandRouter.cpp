@@ -9,7 +9,9 @@
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
+#include "editor/PageWords.h"
 #include "editor/SourceWrap.h"
+#include "editor/SpellingBar.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
@@ -182,6 +184,12 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::FindNext:
     case CommandId::FindPrevious:
       FindInFront(command.id);
+      break;
+    case CommandId::Spelling:
+      if (frmMain *page = ActiveDocument()) page->Spelling().GoOn();
+      break;
+    case CommandId::WordAtCaret:
+      if (frmMain *page = ActiveDocument()) ShowWordMenu(*page);
       break;
     case CommandId::WrapSource:
       TurnLineWrap(context_);

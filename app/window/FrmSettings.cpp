@@ -46,6 +46,7 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
   AddTruth(pages, PreferenceOf("SnapToGrid"), Words::tr("&Snap to grid"));
   AddTruth(pages, PreferenceOf("showtoolbox"),
            Words::tr("&Forget the inspected element with its page"));
+  AddTruth(pages, PreferenceOf("CheckSpelling"), Words::tr("Waves under &unknown words"));
   QFormLayout *source = AddFrame(left, Words::tr("Source"));
   AddTruth(source, PreferenceOf("WrapSource"), Words::tr("&Wrap long lines"));
   QFormLayout *images = AddFrame(left, Words::tr("Pictures from outside the site"));
@@ -59,6 +60,9 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
   QFormLayout *program = AddFrame(right, Words::tr("From the next start on"));
   AddLanguage(program);
   AddTruth(program, PreferenceOf("WholeTemplateSigns"), Words::tr("&Keep template signs whole"));
+  AddText(program, PreferenceOf("SpellingLanguage"),
+          Words::tr("Language of pages that name &none:"),
+          Words::tr("A tag such as en-GB or de; empty for the system's language"));
   QCheckBox *publishedOnly = AddTruth(program, PreferenceOf("PublishedOnly"),
                                       Words::tr("&Published behaviour only (no menu Tools)"));
   publishedOnly->setToolTip(Words::tr("PublishedOnly=False in %1 brings the menu back.")
@@ -96,6 +100,14 @@ QCheckBox *FrmSettings::AddTruth(QFormLayout *form, const Preference &preference
                                         [this](const RuntimeError &fault) { Tell(fault); }));
   AddRow(preference.Name(), [box] { return BoolText(box->isChecked()); });
   return box;
+}
+
+void FrmSettings::AddText(QFormLayout *form, const Preference &preference, const QString &caption,
+                          const QString &tip) {
+  TextBox *box = AddTextBox(form, preference.Name(), caption);
+  box->setToolTip(tip);
+  box->setText(Settings::GetOption(registry_, preference));
+  AddRow(preference.Name(), [box] { return box->text(); });
 }
 
 void FrmSettings::AddMenuStyle(QFormLayout *form) {

@@ -43,6 +43,8 @@ class FrmSettings final : public QDialog {
   };
 
   QCheckBox *AddTruth(QFormLayout *form, const Preference &preference, const QString &caption);
+  void AddText(QFormLayout *form, const Preference &preference, const QString &caption,
+               const QString &tip);
   void AddMenuStyle(QFormLayout *form);
   void AddLanguage(QFormLayout *form);
   void AddColor(QFormLayout *form, const ColorSetting &setting);

@@ -25,6 +25,7 @@
 #include "chrome/ScreenRoom.h"
 #include "chrome/ToolBarButtons.h"
 #include "chrome/frmAbout.h"
+#include "editor/PageWords.h"
 #include "editor/PagesAtExit.h"
 #include "editor/PdfExport.h"
 #include "editor/SourceWrap.h"
@@ -429,6 +430,7 @@ void MfrmProgram::ShowSettings() {
   platform_.dialogs.RunModal(settings);
   if (alive.isNull() || settings.result() != QDialog::Accepted) return;
   ShowLineWrap(context_);
+  UseSpelling(context_);
   DressMenus();
 }
 

@@ -167,6 +167,8 @@ class MfrmProgram final : public QMainWindow,
   /// How far the window is on its way to be closed.
   enum class Closing { No, Awaited, Due, UnderWay };
   Closing closing_ = Closing::No;
+  /// At the head of the context menu, while the word there is unknown.
+  QList<QAction *> wordActions_;
   /// The element under the caret that the tool box shows; empty for none.
   QString inspectedElement_;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the page windows, and files dropped on the window, ask of the main window.
 #include "app/window/MfrmProgram.h"
+#include "editor/PageWords.h"
+#include "editor/frmMain.h"
 #include "platform/Dialogs.h"
 #include "platform/EditingComponent.h"
 #include "platform/Paths.h"
@@ -14,8 +16,23 @@
 namespace velor {
 
 void MfrmProgram::PopUpContextMenu(QPoint screenPosition) {
+  const QPointer<MfrmProgram> alive = this;
+  QMenu &menu = *menus_.menus.value(QStringLiteral("mnuExt"));
+  qDeleteAll(wordActions_);
+  wordActions_.clear();
+  auto *page = dynamic_cast<frmMain *>(Front());
+  if (page != nullptr && additions_ == Additions::On) {
+    wordActions_ = WordActions(*page, *this);
+    if (alive.isNull()) return;
+  }
+  if (!wordActions_.isEmpty()) {
+    auto *line = new QAction(this);
+    line->setSeparator(true);
+    wordActions_ << line;
+    menu.insertActions(menu.actions().constFirst(), wordActions_);
+  }
   selectionItems_.Refresh();
-  menus_.menus.value(QStringLiteral("mnuExt"))->popup(screenPosition);
+  menu.popup(screenPosition);
 }
 
 void MfrmProgram::OpenDroppedFiles(const QStringList &paths, frmMain *page) {

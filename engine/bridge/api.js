@@ -15,6 +15,8 @@ import { restorePaths } from './page/paths.js';
 import { setCaretAtPixel } from './page/selection.js';
 import { serialize } from './page/serialize.js';
 import { properties, setProperties } from './properties/properties.js';
+import { checkAgain, setSpelling, spelled } from './spelling/waves.js';
+import { correctWord, selectWord, spelledText } from './spelling/words.js';
 import { start } from './start.js';
 import './talk/arrivals.js';
 import { changes, mirror } from './talk/changes.js';
@@ -67,6 +69,12 @@ globalThis.velor = {
   replaceAll,
   endFind,
   selectedLine,
+  setSpelling,
+  spelled,
+  checkAgain,
+  spelledText,
+  selectWord,
+  correctWord: unlessPasting(correctWord),
   get host() { return host(); },
   set host(slots) { setHost(slots); },
 };

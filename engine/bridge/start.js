@@ -15,6 +15,7 @@ import * as selection from './page/selection.js';
 import { setWholeSigns } from './page/signs.js';
 import './page/sourceLines.js';
 import { forgetStandIns } from './page/standIns.js';
+import { setSpelling } from './spelling/waves.js';
 import { connect, host } from './talk/host.js';
 import { schedulePush } from './talk/pace.js';
 import { listenToPointer } from './talk/pointer.js';
@@ -32,10 +33,11 @@ function wantBeyond(way) {
  * Begins the work on a document; to be called after each load. `earlier` and `later` tell whether
  * the program keeps documents that undo and redo come to beyond the page's history.
  * @param {{ showDetails?: boolean, snapToGrid?: boolean, wholeSigns?: boolean,
- *   earlier?: boolean, later?: boolean }} options
+ *   spelling?: boolean, earlier?: boolean, later?: boolean }} options
  */
 export function start({
-  showDetails = false, snapToGrid = false, wholeSigns = true, earlier = false, later = false,
+  showDetails = false, snapToGrid = false, wholeSigns = true, spelling = false,
+  earlier = false, later = false,
 } = {}) {
   connect(schedulePush);
   document.designMode = 'on';
@@ -57,5 +59,6 @@ export function start({
   setDetails(showDetails);
   setSnap(snapToGrid);
   setWholeSigns(wholeSigns);
+  setSpelling(spelling);
   contentChanged();
 }

@@ -284,6 +284,17 @@ interface SearchAnswer { count: number; current: number; invalid: boolean; repla
 /** A stretch of a text that a search has found; `groups` are those of an expression. */
 interface TextMatch { start: number; end: number; groups: string[] }
 interface PageMatch extends TextMatch { line: TextLine }
+/** A stretch of a line. */
+interface LineStretch { line: TextLine; start: number; end: number }
+
+/** A line as its spelling is judged; see spelling/spelledLines.js. */
+interface SpelledLine {
+  line: TextLine;
+  /** The line's text; what is no text of the page's language has U+FFFC in place of each unit. */
+  text: string;
+  /** From an index on the text is in a language; '' where the page does not say. */
+  runs: [start: number, language: string][];
+}
 
 /** What differs in a text: `fresh` in place of `length` UTF-16 code units from `offset`. */
 type TextEdit = [offset: number, length: number, fresh: string];
@@ -304,6 +315,7 @@ interface Host {
   pictureOpened(): void;
   earlierWanted(): void;
   laterWanted(): void;
+  spellingWanted(json: string): void;
 }
 
 declare class QWebChannel {

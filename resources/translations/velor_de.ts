@@ -3412,6 +3412,133 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>Print... (&amp;I)</source>
         <translation>Dru&amp;cken ...</translation>
     </message>
+    <message>
+        <source>Waves under &amp;unknown words</source>
+        <translation>Wellen unter unbekannten Wörtern</translation>
+    </message>
+    <message>
+        <source>Language of pages that name &amp;none:</source>
+        <translation>Sprache von Seiten ohne Angabe:</translation>
+    </message>
+    <message>
+        <source>A tag such as en-GB or de; empty for the system&apos;s language</source>
+        <translation>Ein Kürzel wie en-GB oder de; leer für die Sprache des Systems</translation>
+    </message>
+    <message>
+        <source>spell dictionary words check language</source>
+        <translation>Rechtschreibung Wörterbuch Wörter prüfen Sprache</translation>
+    </message>
+    <message>
+        <source>Spelling... (&amp;Y)</source>
+        <translation>Rechtschreibung... (&amp;Y)</translation>
+    </message>
+    <message>
+        <source>spell suggestions word</source>
+        <translation>Rechtschreibung Vorschläge Wort</translation>
+    </message>
+    <message>
+        <source>Correct Word (&amp;J)</source>
+        <translation>Wort korrigieren (&amp;J)</translation>
+    </message>
+    <message>
+        <source>The word could not be added: %1</source>
+        <translation>Das Wort konnte nicht aufgenommen werden: %1</translation>
+    </message>
+    <message>
+        <source>No Suggestions</source>
+        <translation>Keine Vorschläge</translation>
+    </message>
+    <message>
+        <source>Add &quot;%1&quot; to My Words</source>
+        <translation>„%1“ zu meinen Wörtern</translation>
+    </message>
+    <message>
+        <source>Add &quot;%1&quot; to the Words of the Site</source>
+        <translation>„%1“ zu den Wörtern der Website</translation>
+    </message>
+    <message>
+        <source>Ignore &quot;%1&quot;</source>
+        <translation>„%1“ übergehen</translation>
+    </message>
+    <message>
+        <source>There is no unknown word at the caret</source>
+        <translation>An der Einfügemarke ist kein unbekanntes Wort</translation>
+    </message>
+    <message>
+        <source>Spelling</source>
+        <translation>Rechtschreibung</translation>
+    </message>
+    <message>
+        <source>Change to</source>
+        <translation>Ändern in</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Change this word and go on (Enter)</source>
+        <translation>Dieses Wort ändern und weitergehen (Eingabe)</translation>
+    </message>
+    <message>
+        <source>Change All</source>
+        <translation>Alle ändern</translation>
+    </message>
+    <message>
+        <source>Change this word everywhere in the page, as one step of Undo</source>
+        <translation>Dieses Wort überall in der Seite ändern, als ein Schritt von Rückgängig</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Übergehen</translation>
+    </message>
+    <message>
+        <source>Take this word for known until the program ends</source>
+        <translation>Dieses Wort bis zum Ende des Programms als bekannt nehmen</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aufnehmen</translation>
+    </message>
+    <message>
+        <source>Add this word to my words</source>
+        <translation>Dieses Wort in meine Wörter aufnehmen</translation>
+    </message>
+    <message>
+        <source>Add to Site</source>
+        <translation>Zur Website</translation>
+    </message>
+    <message>
+        <source>Add this word to the words of the site</source>
+        <translation>Dieses Wort in die Wörter der Website aufnehmen</translation>
+    </message>
+    <message>
+        <source>Leave this word and go on (F7)</source>
+        <translation>Dieses Wort lassen und weitergehen (F7)</translation>
+    </message>
+    <message>
+        <source>Spelling is checked in design view</source>
+        <translation>Die Rechtschreibung wird in der Entwurfsansicht geprüft</translation>
+    </message>
+    <message>
+        <source>There is no unknown word in this page</source>
+        <translation>In dieser Seite ist kein unbekanntes Wort</translation>
+    </message>
+    <message>
+        <source>Unknown word: %1</source>
+        <translation>Unbekanntes Wort: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n word(s) changed</source>
+        <translation>
+            <numerusform>%n Wort geändert</numerusform>
+            <numerusform>%n Wörter geändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The spelling of a language of this page is not checked: the package %1 is not installed.</source>
+        <translation>Die Rechtschreibung einer Sprache dieser Seite wird nicht geprüft: Das Paket %1 ist nicht installiert.</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

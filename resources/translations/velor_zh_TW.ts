@@ -3401,6 +3401,132 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>Print... (&amp;I)</source>
         <translation>列印...(&amp;I)</translation>
     </message>
+    <message>
+        <source>Waves under &amp;unknown words</source>
+        <translation>未知字詞加波浪線(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Language of pages that name &amp;none:</source>
+        <translation>未註明語言之網頁的語言(&amp;N):</translation>
+    </message>
+    <message>
+        <source>A tag such as en-GB or de; empty for the system&apos;s language</source>
+        <translation>如 en-GB 或 de 的標記；留空則用系統語言</translation>
+    </message>
+    <message>
+        <source>spell dictionary words check language</source>
+        <translation>拼字 字典 字詞 檢查 語言</translation>
+    </message>
+    <message>
+        <source>Spelling... (&amp;Y)</source>
+        <translation>拼字檢查... (&amp;Y)</translation>
+    </message>
+    <message>
+        <source>spell suggestions word</source>
+        <translation>拼字 建議 字詞</translation>
+    </message>
+    <message>
+        <source>Correct Word (&amp;J)</source>
+        <translation>更正字詞 (&amp;J)</translation>
+    </message>
+    <message>
+        <source>The word could not be added: %1</source>
+        <translation>無法加入此字詞：%1</translation>
+    </message>
+    <message>
+        <source>No Suggestions</source>
+        <translation>沒有建議</translation>
+    </message>
+    <message>
+        <source>Add &quot;%1&quot; to My Words</source>
+        <translation>將「%1」加入我的字詞</translation>
+    </message>
+    <message>
+        <source>Add &quot;%1&quot; to the Words of the Site</source>
+        <translation>將「%1」加入網站的字詞</translation>
+    </message>
+    <message>
+        <source>Ignore &quot;%1&quot;</source>
+        <translation>略過「%1」</translation>
+    </message>
+    <message>
+        <source>There is no unknown word at the caret</source>
+        <translation>插入點沒有未知字詞</translation>
+    </message>
+    <message>
+        <source>Spelling</source>
+        <translation>拼字檢查</translation>
+    </message>
+    <message>
+        <source>Change to</source>
+        <translation>改為</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>變更</translation>
+    </message>
+    <message>
+        <source>Change this word and go on (Enter)</source>
+        <translation>變更此字詞並繼續 (Enter)</translation>
+    </message>
+    <message>
+        <source>Change All</source>
+        <translation>全部變更</translation>
+    </message>
+    <message>
+        <source>Change this word everywhere in the page, as one step of Undo</source>
+        <translation>在整個網頁變更此字詞，為一個復原步驟</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>略過</translation>
+    </message>
+    <message>
+        <source>Take this word for known until the program ends</source>
+        <translation>在程式結束前視此字詞為已知</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>加入</translation>
+    </message>
+    <message>
+        <source>Add this word to my words</source>
+        <translation>將此字詞加入我的字詞</translation>
+    </message>
+    <message>
+        <source>Add to Site</source>
+        <translation>加入網站</translation>
+    </message>
+    <message>
+        <source>Add this word to the words of the site</source>
+        <translation>將此字詞加入網站的字詞</translation>
+    </message>
+    <message>
+        <source>Leave this word and go on (F7)</source>
+        <translation>保留此字詞並繼續 (F7)</translation>
+    </message>
+    <message>
+        <source>Spelling is checked in design view</source>
+        <translation>拼字檢查用於設計檢視</translation>
+    </message>
+    <message>
+        <source>There is no unknown word in this page</source>
+        <translation>此網頁沒有未知字詞</translation>
+    </message>
+    <message>
+        <source>Unknown word: %1</source>
+        <translation>未知字詞：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n word(s) changed</source>
+        <translation>
+            <numerusform>已變更 %n 個字詞</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The spelling of a language of this page is not checked: the package %1 is not installed.</source>
+        <translation>此網頁有一種語言未檢查拼字：未安裝套件 %1。</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -28,12 +28,13 @@ const std::map<std::string, Names> &AllowedImports() {
       {"blocks", {"page", "formats", "tables", "objects"}},
       {"find", {"page", "objects"}},
       {"talk", {"page", "formats", "tables", "objects", "blocks"}},
+      {"spelling", {"page", "objects", "find", "talk"}},
       {"properties", {"page", "formats", "tables", "talk"}},
       {"clipboard", {"page", "formats", "objects", "blocks", "talk"}},
       {"keys", {"page", "formats", "tables", "objects", "blocks", "talk"}},
       {"",
-       {"page", "formats", "tables", "objects", "blocks", "find", "talk", "properties", "clipboard",
-        "keys"}},
+       {"page", "formats", "tables", "objects", "blocks", "find", "talk", "spelling", "properties",
+        "clipboard", "keys"}},
   };
   return table;
 }

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // Finding and replacing in the page's text. A search is kept until it ends or the document changes.
+import { put, putAndFollow } from './exchange.js';
 import { expressionOf, matchesIn, replacementFor } from './matcher.js';
 import { mark } from './marks.js';
 import { pointBefore, pointBehind, readLines } from './pageText.js';
-import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
-import { dropEmptyInline, holdOpen } from '../page/lines.js';
 import { showSelection } from '../page/places.js';
 import * as selection from '../page/selection.js';
 import { outsideSigns } from '../page/signs.js';
@@ -167,37 +166,6 @@ export function find(query, way) {
   return { count: matches.length, current: index + 1, invalid: false };
 }
 
-// Puts a text in a match's place, into the text of its first character, so that it has the looks of
-// that. What stands among its texts, comments say, stays.
-/**
- * @param {PageMatch} match
- * @param {string} text
- */
-function put(match, text) {
-  const [start, end] = [startOf(match), endOf(match)];
-  const nodes = [...new Set(match.line.pieces.map(({ node }) => node))];
-  const touched = nodes.slice(nodes.indexOf(start.node), nodes.indexOf(end.node) + 1);
-  const block = dom.blockOf(start.node);
-  for (const node of touched) {
-    const from = node === start.node ? start.offset : 0;
-    const to = node === end.node ? end.offset : node.length;
-    node.replaceData(from, to - from, node === start.node ? text : '');
-  }
-  touched.filter((node) => !node.length).forEach(dropEmptyInline);
-  holdOpen(block);
-}
-
-// Puts a text in the selected match's place, and the caret behind it.
-/**
- * @param {PageMatch} match
- * @param {string} text
- */
-function replaceSelected(match, text) {
-  const { node, offset } = startOf(match);
-  put(match, text);
-  if (node.isConnected) selection.setCaret(node, offset + text.length);
-}
-
 /**
  * Replaces the selected match as one step of the history, and selects the next one.
  * @param {SearchQuery} query
@@ -209,7 +177,7 @@ export function replaceFound(query, replacement) {
       resolveAll();
       refresh(query);
       const match = matches[selectedMatch()];
-      if (match) replaceSelected(match, replacementFor(match, replacement, query));
+      if (match) putAndFollow(match, replacementFor(match, replacement, query));
     });
   }
   return find(query, 'next');

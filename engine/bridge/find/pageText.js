@@ -5,6 +5,10 @@
 import { keepsBlanks } from '../page/beside.js';
 import * as dom from '../page/dom.js';
 
+// Of what is read for the part in sight.
+const mostSteps = 500;      // nodes passed on the way back to a line's start
+const longestLine = 20000;  // UTF-16 code units
+
 /** @param {Element} element */
 const displayOf = (element) => getComputedStyle(element).display;
 
@@ -35,33 +39,72 @@ function append(line, node) {
   }
 }
 
+// True for what ends the line before it and begins another one behind it.
+/** @param {AnyNode} node */
+const isOwnLine = (node) => dom.isElement(node) && (dom.isBlock(node) || dom.isBreak(node) ||
+  dom.isAtom(node) || !/^(inline|contents)$/.test(displayOf(node)));
+
+// Where the line begins that a node is in; sooner where that would be far to look for.
+/** @param {AnyNode} node */
+function lineStart(node) {
+  let at = node;
+  for (let steps = 0; at !== document.body && steps < mostSteps; steps++) {
+    const before = at.previousSibling;
+    if (before ? isOwnLine(before) : isOwnLine(at.parentNode)) return at;
+    at = before ?? at.parentNode;
+  }
+  return at === document.body ? at.firstChild : at;
+}
+
 /**
  * The lines of the page's text in document order. A line ends with its block, at a break and at an
  * object. What is not shown, and what is in an object, is in none.
+ * @param {{ first: AnyNode, last: AnyNode }} [sight] reads the lines with these nodes and those
+ *   between them only; no longer lines than `longestLine`
  * @returns {TextLine[]}
  */
-export function readLines() {
+export function readLines(sight) {
   /** @type {TextLine[]} */
   const lines = [];
   /** @type {TextLine} */
   let line = { text: '', pieces: [] };
+  const isTooLong = () => sight && line.text.length > longestLine;
   const endLine = () => {
-    if (line.text.trim()) lines.push(line);
+    if (line.text.trim() && !isTooLong()) lines.push(line);
     line = { text: '', pieces: [] };
   };
+  // Answers whether what is in the node is to be read.
   /** @param {AnyNode} node */
-  const read = (node) => {
-    if (dom.isText(node)) append(line, node);
-    if (!dom.isElement(node) || dom.isNeutral(node)) return;
-    const display = displayOf(node);
-    if (display === 'none') return;
-    const isOwnLine = dom.isBlock(node) || dom.isBreak(node) || dom.isAtom(node) ||
-      !/^(inline|contents)$/.test(display);
-    if (isOwnLine) endLine();
-    if (!dom.isAtom(node)) node.childNodes.forEach(read);
-    if (isOwnLine) endLine();
+  const enter = (node) => {
+    if (dom.isText(node) && !(sight && node.length > longestLine)) append(line, node);
+    if (!dom.isElement(node) || dom.isNeutral(node) || displayOf(node) === 'none') return false;
+    if (isOwnLine(node)) endLine();
+    return !dom.isAtom(node);
   };
-  if (dom.isEditable()) read(document.body);
+  /** @param {AnyNode} node */
+  const leave = (node) => {
+    if (dom.isElement(node) && !dom.isNeutral(node) && isOwnLine(node)) endLine();
+  };
+  /** @param {AnyNode} node */
+  const isBehind = (node) => sight?.last?.compareDocumentPosition(node) ===
+    Node.DOCUMENT_POSITION_FOLLOWING;
+
+  if (!dom.isEditable()) return lines;
+  let node = sight && sight.first !== document.body ? lineStart(sight.first)
+    : document.body.firstChild;
+  while (node && !(isBehind(node) && (!line.text || isTooLong()))) {
+    if (enter(node) && node.firstChild) {
+      node = node.firstChild;
+      continue;
+    }
+    leave(node);
+    while (!node.nextSibling && node.parentNode !== document.body) {
+      node = node.parentNode;
+      leave(node);
+    }
+    node = node.nextSibling;
+  }
+  endLine();
   return lines;
 }
 

@@ -38,6 +38,17 @@ let areWhole = true;
  */
 export function setWholeSigns(on) { areWhole = on; }
 
+/**
+ * The signs in a text.
+ * @param {string} text
+ * @returns {{ start: number, end: number }[]}
+ */
+export function signsIn(text) {
+  if (!/[{<]/.test(text)) return [];
+  return [...text.matchAll(forms)].map(({ index: start, 0: { length } }) =>
+    ({ start, end: start + length }));
+}
+
 // The sign that a point is within, as offsets; null for none. Its edges are outside of it.
 /**
  * @param {AnyNode} node

@@ -149,9 +149,10 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
       {"mnuAbout", "Close lblMail_To"},
       {"mnuFindCommand", "txtWords lstCommands"},
       {"mnuSettings",
-       "ShowDetails SnapToGrid showtoolbox WrapSource CopyPictures KeepPictureData PhotosAsWebP "
+       "ShowDetails SnapToGrid showtoolbox CheckSpelling WrapSource CopyPictures KeepPictureData "
+       "PhotosAsWebP "
        "MenuStyle mnuFore mnuBorder mnuHighlight "
-       "mnuHighFore Language WholeTemplateSigns PublishedOnly cmdOK cmdCancel"},
+       "mnuHighFore Language WholeTemplateSigns SpellingLanguage PublishedOnly cmdOK cmdCancel"},
       {"mnuPrint",
        "cobPaper cobOrientation txtMargins txtScale chkBackgrounds chkEdgeLines cmdClose "
        "PaperView"},

@@ -448,6 +448,9 @@ mnuReplace "Replace... (&P)" Ctrl+H
 mnuFindNext "Find Next (&G)" F3
 mnuFindPrevious "Find Previous (&U)" Shift+F3
 mnu8 "-"
+mnuSpelling "Spelling... (&Y)" F7
+mnuWordAtCaret "Correct Word (&J)" Ctrl+.
+mnu9 "-"
 mnuLink "Link... (&L)" Ctrl+K
 mnuFollowLink "Follow Link (&K)"
 mnuBookmark "Insert Target... (&T)"

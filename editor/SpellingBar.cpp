@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/SpellingBar.h"
+
+#include "editor/PageWords.h"
+#include "editor/frmMain.h"
+#include "platform/Platform.h"
+#include "platform/Words.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+
+namespace velor {
+
+namespace {
+
+constexpr int BoxWidth = 220;
+
+}  // namespace
+
+SpellingBar::SpellingBar(frmMain &page)
+    : NoticeBar("picSpelling", "lblUnknownWord", Words::tr("Spelling"), &page), page_(page) {
+  other_ = new QComboBox;
+  other_->setObjectName(QStringLiteral("cobSuggestions"));
+  other_->setAccessibleName(Words::tr("Change to"));
+  other_->setEditable(true);
+  other_->setInsertPolicy(QComboBox::NoInsert);
+  other_->setMinimumWidth(BoxWidth);
+  Add(*other_);
+  const auto add = [this](const char *name, const QString &caption, const QString &tip,
+                          const auto &act) {
+    QPushButton &button = AddButton(name, caption, tip);
+    connect(&button, &QPushButton::clicked, this, act);
+    return &button;
+  };
+  add("cmdChange", Words::tr("Change"), Words::tr("Change this word and go on (Enter)"),
+      &SpellingBar::Change);
+  add("cmdChangeAll", Words::tr("Change All"),
+      Words::tr("Change this word everywhere in the page, as one step of Undo"),
+      &SpellingBar::ChangeAll);
+  add("cmdIgnore", Words::tr("Ignore"),
+      Words::tr("Take this word for known until the program ends"), &SpellingBar::Ignore);
+  add("cmdAddWord", Words::tr("Add"), Words::tr("Add this word to my words"),
+      [this] { AddTo(WordHome::Person); });
+  addToSite_ =
+      add("cmdAddToSite", Words::tr("Add to Site"),
+          Words::tr("Add this word to the words of the site"), [this] { AddTo(WordHome::Site); });
+  add("cmdNextWord", Words::tr("Next"), Words::tr("Leave this word and go on (F7)"),
+      &SpellingBar::GoOn);
+  add("cmdCloseSpelling", Words::tr("Close"), Words::tr("Close (Escape)"), &SpellingBar::CloseBar);
+}
+
+void SpellingBar::GoOn() {
+  PageSpelling *spelling = SpellingOf(page_);
+  if (spelling == nullptr || page_.View() != FrontView::Design) {
+    page_.Context().mainWindow.status.Report(Words::tr("Spelling is checked in design view"));
+    return;
+  }
+  const QPointer<SpellingBar> alive(this);
+  const auto found = spelling->SelectNext();
+  if (alive.isNull()) return;
+  if (found) return Show(*found);
+  page_.Context().mainWindow.status.Report(Words::tr("There is no unknown word in this page"));
+  if (!isHidden()) CloseBar();
+}
+
+void SpellingBar::Show(const UnknownWord &found) {
+  shown_ = found;
+  Tell(Words::tr("Unknown word: %1").arg(found.word));
+  other_->clear();
+  other_->addItems(page_.Context().platform.spelling->Suggestions(found.word, found.language));
+  if (other_->count() == 0) other_->setEditText(found.word);
+  addToSite_->setVisible(!SiteWordList(page_).isEmpty());
+  other_->setFocus();
+  other_->lineEdit()->selectAll();
+}
+
+void SpellingBar::Change() {
+  const QPointer<SpellingBar> alive(this);
+  SpellingOf(page_)->Correct(other_->currentText());
+  if (!alive.isNull()) GoOn();
+}
+
+void SpellingBar::ChangeAll() {
+  if (!shown_) return;
+  const QPointer<SpellingBar> alive(this);
+  const int count = SpellingOf(page_)->CorrectAll(shown_->word, other_->currentText());
+  if (alive.isNull()) return;
+  page_.Context().mainWindow.status.Report(Words::tr("%n word(s) changed", "", count));
+  GoOn();
+}
+
+void SpellingBar::Ignore() {
+  if (!shown_) return;
+  IgnoreWord(page_, shown_->word);
+  GoOn();
+}
+
+void SpellingBar::AddTo(WordHome home) {
+  if (!shown_) return;
+  AddWord(page_, shown_->word, home);
+  GoOn();
+}
+
+void SpellingBar::CloseBar() {
+  shown_.reset();
+  // First: see FindBar::CloseBar.
+  page_.DHTML1().SetFocus();
+  hide();
+}
+
+void SpellingBar::keyPressEvent(QKeyEvent *event) {
+  switch (event->key()) {
+    case Qt::Key_Escape:
+      return CloseBar();
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return Change();
+    default:
+      NoticeBar::keyPressEvent(event);
+  }
+}
+
+}  // namespace velor

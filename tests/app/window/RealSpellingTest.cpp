@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The spelling of a page, by keys: waves, the word at the caret, the walk through the page.
+#include "app/settings/modSettingManager.h"
+#include "editor/SpellingBar.h"
+#include "editor/frmMain.h"
+#include "platform/Paths.h"
+#include "spelling/HunspellSpelling.h"
+#include "tests/app/window/RealWindowFixture.h"
+#include "tests/engine/ComponentFixture.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+#include <QWebEnginePage>
+
+namespace velor {
+namespace {
+
+const QByteArray Words =
+    "<HTML lang=en><BODY>\r\n<p id=a>the hose in\r\n  the gardn\r\n<P align=left>ho<B>s</B>e"
+    "<!-- hose --> <CODE>xyzzy</CODE>\r\n<p lang=de>Haus hose\r\n</BODY></HTML>\r\n";
+
+class RealSpelling : public RealWindow {
+ protected:
+  RealSpelling() {
+    Write(QStringLiteral("en_US.aff"), "SET UTF-8\nTRY esianrtolcdugmphbyfvkwz'\n");
+    Write(QStringLiteral("en_US.dic"), "5\nhouse\ngarden\nthe\nin\nand\n");
+    Write(QStringLiteral("de_DE.aff"), "SET UTF-8\n");
+    Write(QStringLiteral("de_DE.dic"), "2\nHaus\nHose\n");
+    spelling = std::make_unique<HunspellSpelling>(
+        files, SpellingPlaces{{folder.FilePath(QString())}, Logic(QStringLiteral("words.txt"))},
+        [] { return QStringLiteral("en"); });
+    platform.spelling = spelling.get();
+  }
+  static int Waves(frmMain &page) {
+    return Evaluate(EngineOf(page), QStringLiteral("getComputedStyle(document.head, '::before')"
+                                                   ".backgroundImage.split('data:image').length"))
+               .toInt() -
+           1;
+  }
+  static bool WavesCome(frmMain &page, int count) {
+    return WaitFor([&] { return Waves(page) == count; });
+  }
+  /// Walks through the page by F7 until the bar tells of the word.
+  bool GoesTo(frmMain &page, const char *word) {
+    auto *text = page.Spelling().findChild<QLabel *>(QStringLiteral("lblUnknownWord"));
+    return WaitFor([&] {
+      return page.Spelling().isVisible() &&
+             text->text() == QStringLiteral("Unknown word: ") + QString::fromLatin1(word);
+    });
+  }
+  static void Press(frmMain &page, const char *button) {
+    page.Spelling().findChild<QPushButton *>(QString::fromLatin1(button))->click();
+  }
+  static QComboBox &Other(frmMain &page) {
+    return *page.Spelling().findChild<QComboBox *>(QStringLiteral("cobSuggestions"));
+  }
+  static QStringList Captions(const QList<QAction *> &actions) {
+    QStringList captions;
+    for (const QAction *action : actions) captions << action->text();
+    return captions;
+  }
+  std::string Saved() {
+    Choose("mnuSave");
+    return Bytes(QStringLiteral("words.htm")).toStdString();
+  }
+
+  std::unique_ptr<HunspellSpelling> spelling;
+};
+
+TEST_F(RealSpelling, UnknownWordsHaveWavesAndTheFileStaysAsItIs) {
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  EXPECT_TRUE(WaitFor([&] { return Waves(page) >= 6; }))
+      << "hose, gardn, ho-s-e, and hose, which is no German noun";
+  EXPECT_EQ(Saved(), Words.toStdString());
+}
+
+TEST_F(RealSpelling, WithoutThePreferenceThereAreNoWaves) {
+  modSettingManager::SetOption(registry, QStringLiteral("CheckSpelling"), QStringLiteral("False"));
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  Key(page, Qt::Key_F7);
+  EXPECT_TRUE(GoesTo(page, "hose")) << "the walk is there all the same";
+  EXPECT_TRUE(WavesCome(page, 0));
+  modSettingManager::SetOption(registry, QStringLiteral("CheckSpelling"), QStringLiteral("True"));
+}
+
+TEST_F(RealSpelling, F7WalksThroughThePageAndChangesItsBytesOnly) {
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  Key(page, Qt::Key_F7);
+  ASSERT_TRUE(GoesTo(page, "hose"));
+  EXPECT_TRUE(WaitFor([&] { return Other(page).lineEdit()->hasFocus(); }));
+  EXPECT_GE(Other(page).findText(QStringLiteral("house")), 0);
+  Other(page).setEditText(QStringLiteral("house"));
+  QTest::keyClick(&Other(page), Qt::Key_Return);
+  ASSERT_TRUE(GoesTo(page, "gardn"));
+  Press(page, "cmdIgnore");
+  ASSERT_TRUE(GoesTo(page, "hose"));
+  Other(page).setEditText(QStringLiteral("house"));
+  Press(page, "cmdChangeAll");
+  ASSERT_TRUE(GoesTo(page, "house")) << "which is no German word";
+  Press(page, "cmdIgnore");
+  EXPECT_TRUE(WaitFor([&] { return !page.Spelling().isVisible(); })) << "none is left";
+  EXPECT_EQ(Saved(),
+            "<HTML lang=en><BODY>\r\n<p id=a>the house in\r\n  the gardn\r\n<P align=left>house"
+            "<!-- hose --> <CODE>xyzzy</CODE>\r\n<p lang=de>Haus house\r\n</BODY></HTML>\r\n");
+  Choose("mnuUndo");
+  Choose("mnuUndo");
+  ASSERT_TRUE(WaitFor([&] { return !Holds(page, QStringLiteral("house")); }));
+  EXPECT_EQ(Saved(), Words.toStdString());
+}
+
+TEST_F(RealSpelling, EscapeLeavesTheKeyboardOnTheWord) {
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  Key(page, Qt::Key_F7);
+  ASSERT_TRUE(GoesTo(page, "hose"));
+  QTest::keyClick(&Other(page), Qt::Key_Escape);
+  EXPECT_FALSE(page.Spelling().isVisible());
+  ASSERT_EQ(QApplication::focusWidget(), InputOf(page));
+  Type(page, QStringLiteral("and"));
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("the and in")); })) << Seen(page);
+}
+
+TEST_F(RealSpelling, TheMenuAtTheWordCorrectsIt) {
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  Evaluate(EngineOf(page), QStringLiteral("getSelection().collapse(a.firstChild, 6)"));
+  Key(page, Qt::Key_Period, Qt::ControlModifier);
+  QMenu *menu = nullptr;
+  ASSERT_TRUE(WaitFor([&] {
+    return (menu = page.findChild<QMenu *>(QStringLiteral("mnuWord"))) != nullptr &&
+           menu->isVisible();
+  }));
+  const QStringList captions = Captions(menu->actions());
+  ASSERT_TRUE(captions.contains(QStringLiteral("house"))) << captions.join(u'|').toStdString();
+  EXPECT_TRUE(captions.contains(QStringLiteral("Ignore \"hose\"")));
+  menu->actions()[captions.indexOf(QStringLiteral("house"))]->trigger();
+  menu->close();
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("the house in")); }));
+  EXPECT_EQ(Saved(), QByteArray(Words).replace("the hose", "the house").toStdString());
+}
+
+TEST_F(RealSpelling, TheContextMenuBeginsWithTheWordOnlyWhereThatIsUnknown) {
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  auto *menu = Find<QMenu>("mnuExt");
+  const QStringList published = Captions(menu->actions());
+  Evaluate(EngineOf(page), QStringLiteral("getSelection().collapse(a.firstChild, 6)"));
+  Parts().requests.PopUpContextMenu(QPoint(10, 10));
+  const QStringList captions = Captions(menu->actions());
+  EXPECT_EQ(captions.mid(captions.size() - published.size()), published);
+  EXPECT_TRUE(captions.contains(QStringLiteral("Add \"hose\" to My Words")));
+  menu->close();
+  Evaluate(EngineOf(page), QStringLiteral("getSelection().collapse(a.firstChild, 1)"));
+  Parts().requests.PopUpContextMenu(QPoint(10, 10));
+  EXPECT_EQ(Captions(menu->actions()), published);
+  menu->close();
+}
+
+TEST_F(RealSpelling, ARightClickOnAWordIsAboutThatWord) {
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  const QRect word = [&] {
+    const QVariantList box =
+        Evaluate(EngineOf(page),
+                 QStringLiteral("(() => { const r = document.createRange();"
+                                "r.setStart(a.firstChild, 4); r.setEnd(a.firstChild, 8);"
+                                "const {x, y, width, height} = r.getBoundingClientRect();"
+                                "return [x, y, width, height]; })()"))
+            .toList();
+    return QRect(box[0].toInt(), box[1].toInt(), box[2].toInt(), box[3].toInt());
+  }();
+  auto *menu = Find<QMenu>("mnuExt");
+  QTest::mouseClick(InputOf(page), Qt::RightButton, Qt::NoModifier, word.center());
+  ASSERT_TRUE(WaitFor([&] { return menu->isVisible(); }));
+  EXPECT_TRUE(Captions(menu->actions()).contains(QStringLiteral("Ignore \"hose\"")));
+  menu->close();
+}
+
+TEST_F(RealSpelling, AnAddedWordIsInThePersonsFileAndItsWavesGo) {
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  ASSERT_TRUE(WaitFor([&] { return Waves(page) >= 6; }));
+  Key(page, Qt::Key_F7);
+  ASSERT_TRUE(GoesTo(page, "hose"));
+  Press(page, "cmdAddWord");
+  ASSERT_TRUE(GoesTo(page, "gardn"));
+  EXPECT_TRUE(WavesCome(page, 1));
+  EXPECT_EQ(Bytes(QStringLiteral("words.txt")).toStdString(), "hose\n");
+}
+
+}  // namespace
+}  // namespace velor
