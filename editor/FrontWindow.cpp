@@ -24,6 +24,7 @@ void ShowPageWithoutFormats(const EditorContext &context, int number) {
   const MainWindow &mainWindow = context.mainWindow;
   mainWindow.formats.ShowNothing();
   mainWindow.status.ShowTag({});
+  mainWindow.status.ShowPath({});
   frmMain *page = number == 0 ? nullptr : context.pages.Page(number);
   mainWindow.status.ShowTextForm(page == nullptr ? QString() : page->DHTML1().TextForm());
   if (page == nullptr) return;

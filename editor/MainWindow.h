@@ -91,6 +91,8 @@ class StatusDisplay {
   virtual ~StatusDisplay() = default;
   /// The tag of the element under the caret.
   virtual void ShowTag(const QString &tag) = 0;
+  /// The elements around the caret (HtmlDocument::Path); empty where no page is edited.
+  virtual void ShowPath(const QStringList & /*path*/) {}
   /// Encoding and line ends of the page (EditingComponent::TextForm); empty without a page.
   virtual void ShowTextForm(const QString &words) = 0;
   /// Shows a notice about what is in front, in place of the tag, for ten seconds or until another

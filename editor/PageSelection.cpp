@@ -35,6 +35,7 @@ void frmMain::ShowState() {
   if (View() == FrontView::SourceView || Ready != QStringLiteral("True")) {
     context_.mainWindow.formats.ShowNothing();
     context_.mainWindow.status.ShowTag({});
+    context_.mainWindow.status.ShowPath({});
   } else {
     RefreshMfrm();
     DynaLink();
@@ -59,6 +60,7 @@ void frmMain::RefreshMfrm() {
 void frmMain::DynaLink() {
   const HtmlElement element = GetActiveElement();
   context_.mainWindow.status.ShowTag(element.tagName);
+  context_.mainWindow.status.ShowPath(component_->Document().Path());
   if (LowerCase(element.tagName) == QStringLiteral("a")) {
     component_->SetToolTip(Words::tr("Link to : ") + element.Attribute(QStringLiteral("href")));
   } else {

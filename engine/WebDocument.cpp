@@ -56,8 +56,8 @@ QString InScript(HtmlDocument::ParagraphSide side) {
 
 using namespace std::chrono_literals;
 
-/// Asking for properties delays their dialog no longer than this.
-constexpr std::chrono::milliseconds PropertiesLimit = 2s;
+/// Asking the page delays a dialog or a menu no longer than this.
+constexpr std::chrono::milliseconds AskingLimit = 2s;
 
 QString InScript(PropertySubject subject) {
   switch (subject) {
@@ -72,9 +72,11 @@ QString InScript(PropertySubject subject) {
     case PropertySubject::Link:
       return QStringLiteral("'link'");
     case PropertySubject::Fonts:
+      return QStringLiteral("'fonts'");
+    case PropertySubject::Element:
       break;
   }
-  return QStringLiteral("'fonts'");
+  return QStringLiteral("'element'");
 }
 
 QString InScript(HtmlDocument::PathDeed deed) {
@@ -135,21 +137,25 @@ ShownPicture WebDocument::SelectedPicture() const {
   return {state.element.Attribute(QStringLiteral("src")), state.picturePixels, state.pictureShown};
 }
 
-void WebDocument::SetProperties(PropertySubject subject, const PropertyValues &changed) {
+void WebDocument::SetProperties(PropertyOwner owner, const PropertyValues &changed) {
   QVariantMap values;
   for (auto value = changed.begin(); value != changed.end(); ++value)
     values.insert(value.key(), value.value());
   document_.Run(
-      QStringLiteral("velor.setProperties(%1,%2)").arg(InScript(subject), ScriptValue(values)));
+      QStringLiteral("velor.setProperties(%1,%2,%3)")
+          .arg(InScript(owner.subject), ScriptValue(values), QString::number(owner.index)));
 }
 
-PropertyValues WebDocument::Properties(PropertySubject subject) {
+QVariantMap WebDocument::Ask(const QString &expression) {
+  if (document_.View() == nullptr) return {};
+  const auto answer = document_.View()->Ask(expression, AskingLimit);
+  return answer ? answer->toMap() : QVariantMap();
+}
+
+PropertyValues WebDocument::Properties(PropertyOwner owner) {
   PropertyValues values;
-  if (document_.View() == nullptr) return values;
-  const auto answer = document_.View()->Ask(
-      QStringLiteral("velor.properties(%1)").arg(InScript(subject)), PropertiesLimit);
-  if (!answer) return values;
-  const QVariantMap told = answer->toMap();
+  const QVariantMap told =
+      Ask(QStringLiteral("velor.properties(%1,%2)").arg(InScript(owner.subject)).arg(owner.index));
   for (auto value = told.begin(); value != told.end(); ++value)
     values.insert(value.key(), value.value().toString());
   return values;
@@ -161,6 +167,21 @@ QStringList WebDocument::Path() const {
 
 void WebDocument::ActOnPath(int index, PathDeed deed) {
   document_.Run(QStringLiteral("velor.actOnPath(%1,%2)").arg(index).arg(InScript(deed)));
+}
+
+PathChoices WebDocument::ChoicesOnPath(int index) {
+  const QVariantMap told = Ask(QStringLiteral("velor.choicesOnPath(%1)").arg(index));
+  PathChoices choices{.tagCanGo = told[QStringLiteral("removable")].toBool(), .classes = {}};
+  for (const QVariant &pair : told[QStringLiteral("classes")].toList())
+    choices.classes.emplace_back(pair.toList().value(0).toString(),
+                                 pair.toList().value(1).toBool());
+  return choices;
+}
+
+void WebDocument::SetClassOnPath(int index, const QString &name, bool on) {
+  document_.Run(QStringLiteral("velor.setClassOnPath(%1,%2,%3)")
+                    .arg(QString::number(index), ScriptValue(name),
+                         on ? QStringLiteral("true") : QStringLiteral("false")));
 }
 
 HtmlElement WebDocument::ControlElement() const {

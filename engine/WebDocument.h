@@ -9,7 +9,7 @@ class LiveDocument;
 class NoticeQueue;
 
 /// The document object of a WebEditor: answers from the state that the page pushed last; only
-/// properties are asked of the page.
+/// properties, and what can be done to an element of the path, are asked of the page.
 class WebDocument : public HtmlDocument, private DocumentSelection {
  public:
   WebDocument(LiveDocument &document, NoticeQueue &notices)
@@ -23,12 +23,16 @@ class WebDocument : public HtmlDocument, private DocumentSelection {
   void ChangePicture(const QString &address, const HtmlAttributes &attributes) override;
   void RemovePicture(const QString &address) override;
   ShownPicture SelectedPicture() const override;
-  void SetProperties(PropertySubject subject, const PropertyValues &changed) override;
-  PropertyValues Properties(PropertySubject subject) override;
+  void SetProperties(PropertyOwner owner, const PropertyValues &changed) override;
+  PropertyValues Properties(PropertyOwner owner) override;
   QStringList Path() const override;
   void ActOnPath(int index, PathDeed deed) override;
+  PathChoices ChoicesOnPath(int index) override;
+  void SetClassOnPath(int index, const QString &name, bool on) override;
 
  private:
+  /// The value of an expression; nothing where the page does not answer in time.
+  QVariantMap Ask(const QString &expression);
   SelectionType Type() const override;
   std::unique_ptr<TextRange> CreateRange() override;
   HtmlElement ControlElement() const override;

@@ -59,11 +59,23 @@ struct ShownPicture {
   QSize shown;      ///< in CSS pixels
 };
 
-/// What a properties dialog is about: the page, or what is selected or around the caret.
-enum class PropertySubject { Page, Image, Table, Cell, Link, Fonts };
+/// What a properties dialog is about: the page, what is selected or around the caret, or an element
+/// of the path.
+enum class PropertySubject { Page, Image, Table, Cell, Link, Fonts, Element };
+struct PropertyOwner {
+  PropertySubject subject = PropertySubject::Page;
+  int index = 0;  ///< of an Element: its place in HtmlDocument::Path
+};
 
 /// Values of properties by their names in the bridge (docs/bridge.md).
 using PropertyValues = QMap<QString, QString>;
+
+/// What can be done to an element of the path.
+struct PathChoices {
+  bool tagCanGo = false;
+  /// The classes that the page's style sheets define for it, and whether it has each.
+  std::vector<std::pair<QString, bool>> classes;
+};
 
 /// The document of an editing component.
 class HtmlDocument {
@@ -94,11 +106,11 @@ class HtmlDocument {
   virtual ShownPicture SelectedPicture() const { return {}; }
 
   /// Changes the properties given; the others stay. Does nothing where the subject is not there.
-  virtual void SetProperties(PropertySubject, const PropertyValues & /*changed*/) {}
+  virtual void SetProperties(PropertyOwner, const PropertyValues & /*changed*/) {}
 
   /// The properties of the subject; empty where it is not there, or the page does not answer. Waits
   /// for the engine.
-  virtual PropertyValues Properties(PropertySubject) { return {}; }
+  virtual PropertyValues Properties(PropertyOwner) { return {}; }
 
   /// The elements around the start of the selection from the body inwards, a selected object last,
   /// each by name, id and classes: "body", "p.intro", "img#logo".
@@ -110,6 +122,12 @@ class HtmlDocument {
   };
   /// Does that to an element of Path, by its index there.
   virtual void ActOnPath(int /*index*/, PathDeed) {}
+  /// What can be done to an element of Path; nothing where the page does not answer. Waits for the
+  /// engine.
+  virtual PathChoices ChoicesOnPath(int /*index*/) { return {}; }
+  /// Gives a class to an element of Path, and to those of its name that are selected with it, or
+  /// takes it off them.
+  virtual void SetClassOnPath(int /*index*/, const QString & /*name*/, bool /*on*/) {}
 };
 
 }  // namespace velor

@@ -163,6 +163,21 @@ constexpr PropertyField FontsFields[] = {
     Truth("underline", Words::Mark("&Underline")),
 };
 
+constexpr PropertyField ElementFields[] = {
+    Told("tag", Words::Mark("Tag:")),
+    Told("path", Words::Mark("Path:")),
+    Class,
+    Id,
+    {"title", Words::Mark("&Title:")},
+    {"language", Words::Mark("Lan&guage:")},
+    Choice("direction", Words::Mark("&Direction:"), Directions),
+    {"style",
+     Words::Mark("&Style:"),
+     FieldKind::Text,
+     {},
+     Words::Mark("Declarations for this element alone: color: navy")},
+};
+
 constexpr PropertySheet Sheets[] = {
     {PropertySubject::Page, Words::Mark("Page Properties"), PageFields},
     {PropertySubject::Image, Words::Mark("Image Properties"), ImageFields},
@@ -170,6 +185,7 @@ constexpr PropertySheet Sheets[] = {
     {PropertySubject::Cell, Words::Mark("Table Cell Properties"), CellFields},
     {PropertySubject::Link, Words::Mark("Hyperlink Properties"), LinkFields},
     {PropertySubject::Fonts, Words::Mark("Fonts Properties"), FontsFields},
+    {PropertySubject::Element, Words::Mark("Element Properties"), ElementFields},
 };
 
 }  // namespace

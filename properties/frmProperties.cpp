@@ -80,6 +80,7 @@ void frmProperties::AddRow(const PropertyField &field, const QString &value, QFo
     case FieldKind::Told: {
       auto *text = new QLabel(value);
       text->setTextFormat(Qt::PlainText);
+      text->setWordWrap(true);
       FormParts::AddControl(form, name, label, text);
       return;
     }

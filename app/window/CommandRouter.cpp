@@ -3,6 +3,7 @@
 
 #include "app/window/GeneralToolbar.h"
 #include "app/window/InsertCommands.h"
+#include "app/window/PropertyDialogs.h"
 #include "editor/EditorContext.h"
 #include "editor/EmbeddedPictures.h"
 #include "editor/FindBar.h"
@@ -23,7 +24,6 @@
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
-#include "properties/frmProperties.h"
 
 #include <QAction>
 #include <QApplication>
@@ -56,19 +56,6 @@ EditingCommand WithShift(EditingCommand command) {
   if (command == EditingCommand::InsertRowBelow) return EditingCommand::InsertRowAbove;
   if (command == EditingCommand::InsertColumnRight) return EditingCommand::InsertColumnLeft;
   return command;
-}
-
-/// Shows the properties of what is selected in the page, and writes what is changed there.
-void ShowProperties(frmMain &page, PropertySubject subject) {
-  const QPointer<frmMain> alive = &page;
-  const PropertyValues values = page.DHTML1().Document().Properties(subject);
-  if (alive.isNull() || values.isEmpty()) return;
-  frmProperties dialog(SheetOf(subject), values, page.window());
-  QObject::connect(&dialog, &frmProperties::Changed, alive,
-                   [alive, subject](const PropertyValues &changed) {
-                     alive->DHTML1().Document().SetProperties(subject, changed);
-                   });
-  page.Context().platform.dialogs.RunModal(dialog);
 }
 
 }  // namespace
@@ -162,10 +149,12 @@ void CommandRouter::Run(const Command &command) {
       break;
     case CommandId::Properties:
       if (frmMain *page = ActiveDocument())
-        ShowProperties(*page, static_cast<PropertySubject>(std::get<int>(command.argument)));
+        ShowProperties(*page, {static_cast<PropertySubject>(std::get<int>(command.argument))});
+      break;
+    case CommandId::ShowPath:
+      if (frmMain *page = ActiveDocument()) ShowCaretElement(*page);
       break;
     case CommandId::InsertMarkup:
-    case CommandId::ShowPath:
       break;
     case CommandId::Preview:
       Preview();

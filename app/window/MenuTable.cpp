@@ -188,7 +188,7 @@ constexpr MenuRow Rows[] = {
     Beyond(Item("extBack", Words::Mark("Send to Back"), "extAbsGeneral", Editing(EditingCommand::SendToBack))),
     Beyond(Item("extBackward", Words::Mark("Send Backward"), "extAbsGeneral", Editing(EditingCommand::SendBackward))),
     Beyond(Item("extBelowText", Words::Mark("Send below text"), "extAbsGeneral", Editing(EditingCommand::SendBelowText))),
-    Item("extGetTag", Words::Mark("Get Element TagName"), "mnuExt"),
+    Found(Words::Mark("path class id"), Beyond(Item("extGetTag", Words::Mark("Get Element TagName"), "mnuExt", {CommandId::ShowPath}))),
 
     Popup("mnuCustom"),
     Item("cusDel", Words::Mark("Delete Record"), "mnuCustom"),

@@ -12,6 +12,7 @@
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
 #include "app/window/PaneWalk.h"
+#include "app/window/PathCommands.h"
 #include "app/window/ProjectDesk.h"
 #include "app/window/RecentFiles.h"
 #include "app/window/StatusLine.h"
@@ -156,6 +157,8 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
   PrepareHelp();
   new WindowList(*menus_.menus.value(QStringLiteral("mnuWindow")), *area_, this);
   new PaneWalk(*this, *area_);
+  if (additions_ == Additions::On)
+    new PathCommands(statusLine_->AddPath(), *area_, platform_.dialogs, this);
 }
 
 MfrmProgram::~MfrmProgram() {
@@ -316,6 +319,7 @@ void MfrmProgram::ShowFront() {
   }
   bandBar_->Formatting().ShowNothing();
   statusLine_->ShowTag({});
+  statusLine_->ShowPath({});
   statusLine_->ShowTextForm({});
 }
 

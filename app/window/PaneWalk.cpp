@@ -3,6 +3,7 @@
 
 #include "app/window/FormattingBar.h"
 #include "app/window/PageArea.h"
+#include "app/window/PathBar.h"
 #include "editor/FindBar.h"
 #include "editor/OutsideChanges.h"
 #include "editor/PictureBar.h"
@@ -21,6 +22,7 @@ namespace {
 bool IsBar(const QObject *widget) {
   return qobject_cast<const QToolBar *>(widget) != nullptr ||
          qobject_cast<const FormattingBar *>(widget) != nullptr ||
+         qobject_cast<const PathBar *>(widget) != nullptr ||
          qobject_cast<const RecoveryBar *>(widget) != nullptr ||
          qobject_cast<const OutsideChanges *>(widget) != nullptr ||
          qobject_cast<const PictureBar *>(widget) != nullptr ||

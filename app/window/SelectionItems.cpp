@@ -43,6 +43,8 @@ bool Applies(EditingComponent &page, PropertySubject subject) {
       return !page.Document().Link().IsNull();
     case PropertySubject::Fonts:
       return Applies(page, EditingCommand::SetFontName);
+    case PropertySubject::Element:
+      return !page.Document().Path().isEmpty();
   }
   return false;
 }
@@ -52,6 +54,7 @@ bool Applies(EditingComponent &page, const Command &command) {
     return Applies(page, *editing);
   if (command.id == CommandId::Properties)
     return Applies(page, static_cast<PropertySubject>(std::get<int>(command.argument)));
+  if (command.id == CommandId::ShowPath) return Applies(page, PropertySubject::Element);
   return command.id != CommandId::None;
 }
 

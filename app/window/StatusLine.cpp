@@ -1,16 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/StatusLine.h"
 
+#include "app/window/PathBar.h"
 #include "chrome/Palette.h"
 #include "platform/Words.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 
 #include <algorithm>
 
 namespace velor {
 StatusLine::StatusLine(QWidget *parent, NoticeTimes times)
-    : QStatusBar(parent), tag_(new QLabel(this)), textForm_(new QLabel(this)), times_(times) {
+    : QStatusBar(parent),
+      left_(new QWidget(this)),
+      line_(new QHBoxLayout(left_)),
+      tag_(new QLabel(left_)),
+      textForm_(new QLabel(this)),
+      times_(times) {
   setObjectName(QStringLiteral("Sta"));
   setSizeGripEnabled(false);
   tag_->setObjectName(QStringLiteral("Sta_1"));
@@ -18,7 +25,10 @@ StatusLine::StatusLine(QWidget *parent, NoticeTimes times)
   tag_->setIndent(BarMargin);
   // A long path is cut off; it does not widen the window.
   tag_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  addWidget(tag_, 1);
+  line_->setContentsMargins(0, 0, 0, 0);
+  line_->setSpacing(BarSpacing);
+  line_->addWidget(tag_, 1);
+  addWidget(left_, 1);
   textForm_->setObjectName(QStringLiteral("Sta_2"));
   textForm_->setAccessibleName(Words::tr("Charset and line ends"));
   textForm_->setTextFormat(Qt::PlainText);
@@ -41,8 +51,27 @@ void StatusLine::ShowPlace(const QString &path) {
   ShowTagOrPlace();
 }
 
+PathBar &StatusLine::AddPath() {
+  path_ = new PathBar(left_);
+  line_->addWidget(path_, 1);
+  ShowTagOrPlace();
+  return *path_;
+}
+
+void StatusLine::ShowPath(const QStringList &path) {
+  if (path_ == nullptr) return;
+  path_->ShowPath(path);
+  ShowTagOrPlace();
+}
+
 void StatusLine::ShowTagOrPlace() {
-  const int room = tag_->width() - 2 * BarMargin;
+  if (path_ != nullptr) {
+    const bool hasPath = place_.isEmpty() && !path_->Path().isEmpty();
+    path_->setVisible(hasPath);
+    tag_->setSizePolicy(hasPath ? QSizePolicy::Fixed : QSizePolicy::Ignored,
+                        QSizePolicy::Preferred);
+  }
+  const int room = left_->width() - 2 * BarMargin;
   tag_->setText(place_.isEmpty() ? tagName_
                                  : tag_->fontMetrics().elidedText(place_, Qt::ElideMiddle, room));
 }

@@ -9,9 +9,12 @@
 #include <chrono>
 #include <vector>
 
+class QHBoxLayout;
 class QLabel;
 
 namespace velor {
+
+class PathBar;
 
 struct NoticeTimes {
   std::chrono::milliseconds shown{10'000};
@@ -19,9 +22,9 @@ struct NoticeTimes {
   std::chrono::milliseconds read{5'000};
 };
 
-/// The status bar `Sta`: the tag under the caret at the left, charset and line ends of the page at
-/// the right. The newest notice is shown at once; one whose place it took before anybody could read
-/// it comes back afterwards.
+/// The status bar `Sta`: the tag under the caret at the left, beside it the path of elements where
+/// that was added, charset and line ends of the page at the right. The newest notice is shown at
+/// once; one whose place it took before anybody could read it comes back afterwards.
 class StatusLine final : public QStatusBar, public StatusDisplay {
   Q_OBJECT
 
@@ -29,10 +32,13 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   explicit StatusLine(QWidget *parent, NoticeTimes times = {});
 
   void ShowTag(const QString &tag) override;
+  void ShowPath(const QStringList &path) override;
   void ShowTextForm(const QString &words) override;
   void Report(const QString &message) override;
   void ReportOn(int page, const QString &message) override;
   bool HasNotice() const override;
+  /// Adds the path of elements, which ShowPath fills from then on. To be called once.
+  PathBar &AddPath();
   /// Shows the path of the file that the pointer is on, in place of the tag; empty: the tag again.
   void ShowPlace(const QString &path);
   /// To be called with the slot of the page that has come to the front, 0 for none: removes the
@@ -51,7 +57,10 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   void Show();
   void ShowTagOrPlace();
 
+  QWidget *left_;  ///< tag and path, which a notice covers
+  QHBoxLayout *line_;
   QLabel *tag_;
+  PathBar *path_ = nullptr;
   QLabel *textForm_;
   QString tagName_;
   QString place_;

@@ -24,7 +24,7 @@ import { exec } from './talk/commands.js';
 import { host, setHost } from './talk/host.js';
 import { caretPlaces, endPlaces, showPlace } from './page/places.js';
 import { moveTo, replaceDocument } from './talk/replace.js';
-import { actOnPath } from './talk/path.js';
+import { actOnPath, choicesOnPath, setClassOnPath } from './talk/path.js';
 import { state } from './talk/state.js';
 import { parsed } from './talk/verify.js';
 
@@ -50,6 +50,8 @@ globalThis.velor = {
   properties,
   setProperties: unlessPasting(setProperties),
   actOnPath: unlessPasting(actOnPath),
+  choicesOnPath,
+  setClassOnPath: unlessPasting(setClassOnPath),
   caretAt: setCaretAtPixel,
   serialize,
   replaceDocument,

@@ -333,6 +333,7 @@ interface CSSStyleDeclaration { zoom: string }
 interface CSSStyleSheet { replaceSync(text: string): void }
 // What only some kinds of rules have.
 interface CSSRule {
+  selectorText?: string;
   styleSheet?: CSSStyleSheet;
   cssRules?: CSSRuleList;
   style?: CSSStyleDeclaration;

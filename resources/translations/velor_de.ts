@@ -3539,6 +3539,74 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>The spelling of a language of this page is not checked: the package %1 is not installed.</source>
         <translation>Die Rechtschreibung einer Sprache dieser Seite wird nicht geprüft: Das Paket %1 ist nicht installiert.</translation>
     </message>
+    <message>
+        <source>path class id</source>
+        <translation>pfad klasse id</translation>
+    </message>
+    <message>
+        <source>Path of elements</source>
+        <translation>Elementpfad</translation>
+    </message>
+    <message>
+        <source>Outer elements</source>
+        <translation>Äußere Elemente</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>&amp;Markieren</translation>
+    </message>
+    <message>
+        <source>&amp;Properties...</source>
+        <translation>&amp;Eigenschaften ...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Tag, Keep Content</source>
+        <translation>&amp;Tag entfernen, Inhalt behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Classes</source>
+        <translation>&amp;Klassen</translation>
+    </message>
+    <message>
+        <source>The style sheets have none for it</source>
+        <translation>Die Stylesheets haben dafür keine</translation>
+    </message>
+    <message>
+        <source>&amp;More...</source>
+        <translation>&amp;Weitere ...</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>Klassen</translation>
+    </message>
+    <message>
+        <source>Part of the class&apos;s name</source>
+        <translation>Teil des Klassennamens</translation>
+    </message>
+    <message>
+        <source>Tag:</source>
+        <translation>Tag:</translation>
+    </message>
+    <message>
+        <source>Path:</source>
+        <translation>Pfad:</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage:</source>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>&amp;Style:</source>
+        <translation>Sti&amp;l:</translation>
+    </message>
+    <message>
+        <source>Declarations for this element alone: color: navy</source>
+        <translation>Deklarationen nur für dieses Element: color: navy</translation>
+    </message>
+    <message>
+        <source>Element Properties</source>
+        <translation>Elementeigenschaften</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

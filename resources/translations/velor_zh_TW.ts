@@ -3527,6 +3527,74 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>The spelling of a language of this page is not checked: the package %1 is not installed.</source>
         <translation>此網頁有一種語言未檢查拼字：未安裝套件 %1。</translation>
     </message>
+    <message>
+        <source>path class id</source>
+        <translation>路徑 類別 識別碼</translation>
+    </message>
+    <message>
+        <source>Path of elements</source>
+        <translation>元素路徑</translation>
+    </message>
+    <message>
+        <source>Outer elements</source>
+        <translation>外層元素</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>選取(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Properties...</source>
+        <translation>屬性(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Tag, Keep Content</source>
+        <translation>移除標籤，保留內容(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Classes</source>
+        <translation>類別(&amp;C)</translation>
+    </message>
+    <message>
+        <source>The style sheets have none for it</source>
+        <translation>樣式表中沒有適用的類別</translation>
+    </message>
+    <message>
+        <source>&amp;More...</source>
+        <translation>更多(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>類別</translation>
+    </message>
+    <message>
+        <source>Part of the class&apos;s name</source>
+        <translation>類別名稱的一部分</translation>
+    </message>
+    <message>
+        <source>Tag:</source>
+        <translation>標籤：</translation>
+    </message>
+    <message>
+        <source>Path:</source>
+        <translation>路徑：</translation>
+    </message>
+    <message>
+        <source>Lan&amp;guage:</source>
+        <translation>語言(&amp;G):</translation>
+    </message>
+    <message>
+        <source>&amp;Style:</source>
+        <translation>樣式(&amp;S):</translation>
+    </message>
+    <message>
+        <source>Declarations for this element alone: color: navy</source>
+        <translation>僅用於此元素的宣告：color: navy</translation>
+    </message>
+    <message>
+        <source>Element Properties</source>
+        <translation>元素屬性</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

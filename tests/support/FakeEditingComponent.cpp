@@ -254,15 +254,23 @@ void FakeEditingComponent::SetBookmark(const QString &name) {
   Log(QStringLiteral("SetBookmark(%1)").arg(name));
 }
 
-void FakeEditingComponent::SetProperties(PropertySubject subject, const PropertyValues &changed) {
+void FakeEditingComponent::SetProperties(PropertyOwner owner, const PropertyValues &changed) {
   QStringList words;
   for (auto value = changed.begin(); value != changed.end(); ++value)
     words << value.key() + u'=' + value.value();
-  Log(QStringLiteral("SetProperties(%1, %2)").arg(static_cast<int>(subject)).arg(words.join(u' ')));
+  const QString subject = QString::number(static_cast<int>(owner.subject));
+  const bool isInPath = owner.subject == PropertySubject::Element;
+  Log(QStringLiteral("SetProperties(%1, %2)")
+          .arg(isInPath ? subject + u':' + QString::number(owner.index) : subject,
+               words.join(u' ')));
 }
 
 void FakeEditingComponent::ActOnPath(int index, PathDeed deed) {
   Log(QStringLiteral("ActOnPath(%1, %2)").arg(index).arg(static_cast<int>(deed)));
+}
+
+void FakeEditingComponent::SetClassOnPath(int index, const QString &name, bool on) {
+  Log(QStringLiteral("SetClassOnPath(%1, %2, %3)").arg(index).arg(name).arg(on));
 }
 
 void FakeEditingComponent::ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) {

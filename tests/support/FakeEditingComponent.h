@@ -40,6 +40,7 @@ class FakeEditingComponent final : public EditingComponent,
   HtmlElement element;  ///< under the caret, or the selected object
   HtmlElement link;     ///< that the selection is in
   QStringList elementPath;
+  PathChoices pathChoices;  ///< of every element of the path
   std::map<PropertySubject, PropertyValues> properties;
   /// The stretch of the document's text that is selected; after loading the start of the body.
   qsizetype selectionStart = 0;
@@ -114,10 +115,12 @@ class FakeEditingComponent final : public EditingComponent,
   void SetLink(const HtmlAttributes &attributes, const QString &text) override;
   void SetBookmark(const QString &name) override;
   void ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) override;
-  void SetProperties(PropertySubject subject, const PropertyValues &changed) override;
-  PropertyValues Properties(PropertySubject subject) override { return properties[subject]; }
+  void SetProperties(PropertyOwner owner, const PropertyValues &changed) override;
+  PropertyValues Properties(PropertyOwner owner) override { return properties[owner.subject]; }
   QStringList Path() const override { return elementPath; }
   void ActOnPath(int index, PathDeed deed) override;
+  PathChoices ChoicesOnPath(int) override { return pathChoices; }
+  void SetClassOnPath(int index, const QString &name, bool on) override;
   DocumentSelection &Selection() override;
   SelectionType Type() const override;
   std::unique_ptr<TextRange> CreateRange() override;

@@ -12,15 +12,16 @@ import { readView } from '../talk/commands.js';
 import { schedulePush } from '../talk/pace.js';
 
 /**
- * The properties of a subject ('page', 'image', 'table', 'cell', 'link', 'fonts') by their names;
- * none where it is not there.
+ * The properties of a subject ('page', 'image', 'table', 'cell', 'link', 'fonts', 'element') by
+ * their names; none where it is not there. `index` is that of the element in the path.
  * @param {string} name
+ * @param {number} [index]
  * @returns {Record<string, string>}
  */
-export function properties(name) {
+export function properties(name, index) {
   if (!dom.isEditable()) return {};
   const { find, fields } = subjectOf(name);
-  const elements = find(readView());
+  const elements = find(readView(), index);
   if (!elements.length) return {};
   return Object.fromEntries(Object.entries(fields).map(([field, { read }]) => {
     const values = new Set(elements.map((element) => read(element)));
@@ -32,13 +33,14 @@ export function properties(name) {
  * Changes properties of a subject, as one step of the history; those that are not given stay.
  * @param {string} name
  * @param {Record<string, string>} changed
+ * @param {number} [index]
  */
-export function setProperties(name, changed) {
+export function setProperties(name, changed, index) {
   if (!dom.isEditable()) return;
   work(() => history.step('properties', () => {
     const view = readView();
     const { find, fields } = subjectOf(name);
-    let elements = find(view);
+    let elements = find(view, index);
     if (!elements.length) return;
     if (!view.range?.collapsed) resolveAll();
     const saved = selection.save();

@@ -3,14 +3,16 @@
 // The path of elements: those around the selection's start from the body inwards, a selected object
 // last, as the program shows them, and what it does to one of them.
 import { deleteKeepingLooks } from '../blocks/typing.js';
+import { setAttributes } from '../formats/links.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
 import { work } from '../page/working.js';
+import { classesFor } from './classes.js';
 import { schedulePush } from './pace.js';
 
 /** @returns {HTMLElement[]} */
-function path() {
+export function path() {
   const found = [];
   const root = document.documentElement;
   for (let at = selection.element(); at && at !== root; at = at.parentElement) found.push(at);
@@ -73,5 +75,56 @@ export function actOnPath(index, deed) {
   if (deed === 'select') select(element);
   else if (deed === 'delete') work(() => history.step('deleteElement', () => deleteAll(element)));
   else if (!isPart(element)) work(() => history.step('removeTag', () => removeTag(element)));
+  schedulePush();
+}
+
+/**
+ * What can be done to the element of the path with that index: whether its tag can be taken off,
+ * and the classes that the style sheets define for it, with whether it has each.
+ * @param {number} index
+ * @returns {{ removable: boolean, classes: [name: string, has: boolean][] }}
+ */
+export function choicesOnPath(index) {
+  const element = path()[index];
+  if (!element || !dom.isEditable()) return { removable: false, classes: [] };
+  const { classList } = element;
+  return {
+    removable: !isPart(element),
+    classes: classesFor(element).map((name) => [name, classList.contains(name)]),
+  };
+}
+
+// The element, and those of its name beside it that the selection reaches into.
+/** @param {Element} element */
+function alike(element) {
+  const found = new Set([element]);
+  const selected = selection.range();
+  if (!selected || selected.collapsed) return found;
+  const { startContainer, startOffset, endContainer, endOffset } = selected;
+  for (const leaf of selection.leavesIn(selected)) {
+    if (leaf === endContainer && endOffset === 0) continue;
+    if (leaf === startContainer && startOffset === leaf.length) continue;
+    const other = (dom.isText(leaf) ? leaf.parentElement : leaf).closest(element.localName);
+    if (other && !other.contains(element) && !element.contains(other)) found.add(other);
+  }
+  return found;
+}
+
+/**
+ * Gives a class to the element of the path with that index and to those of its name that are
+ * selected with it, or takes it off them; one step of the history.
+ * @param {number} index
+ * @param {string} name
+ * @param {boolean} on
+ */
+export function setClassOnPath(index, name, on) {
+  const element = path()[index];
+  if (!element || !dom.isEditable()) return;
+  work(() => history.step('setClass', () => {
+    for (const each of alike(element)) {
+      const others = [...each.classList].filter((one) => one !== name);
+      setAttributes(each, [['class', [...others, ...(on ? [name] : [])].join(' ')]]);
+    }
+  }));
   schedulePush();
 }

@@ -121,7 +121,8 @@ class WindowIn : private Spoken<Translator>, public WindowFixture {
   void LookAtProperties(const Look &look) {
     for (const PropertySubject subject :
          {PropertySubject::Page, PropertySubject::Image, PropertySubject::Table,
-          PropertySubject::Cell, PropertySubject::Link, PropertySubject::Fonts}) {
+          PropertySubject::Cell, PropertySubject::Link, PropertySubject::Fonts,
+          PropertySubject::Element}) {
       const PropertySheet &sheet = SheetOf(subject);
       PropertyValues none;
       for (const PropertyField &field : sheet.fields) none.insert(QLatin1String(field.name), {});

@@ -322,7 +322,7 @@ TEST_F(PropertyDialogs, RefuseWhatIsNoLengthOrColour) {
 
 TEST_F(PropertyDialogs, NoTwoFieldsOfOneShareAnAltKey) {
   using enum PropertySubject;
-  for (const PropertySubject subject : {Page, Image, Table, Cell, Link, Fonts}) {
+  for (const PropertySubject subject : {Page, Image, Table, Cell, Link, Fonts, Element}) {
     const PropertySheet &sheet = SheetOf(subject);
     PropertyValues empty;
     for (const PropertyField &field : sheet.fields) empty[QLatin1String(field.name)] = QString();

@@ -5,6 +5,8 @@
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -172,6 +174,48 @@ TEST_F(RealPageEdits, PropertiesGoIntoTheFileAndNothingElseDoes) {
             "</TABLE>\r\n<P>two <A HREF=y.htm>three</A></P>\r\n</BODY></HTML>\r\n");
   for (int step = 0; step < 4; ++step) Choose("mnuUndo");
   ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("x.htm")); })) << Seen(page);
+}
+
+TEST_F(RealPageEdits, TheElementsPathTakesATagOffAndGivesAClassOfTheLinkedStyleSheet) {
+  Write(QStringLiteral("a.css"), "p.note { color: green } .wide, td.num { width: 9em }");
+  frmMain &page = Open(File,
+                       "<html><head><link rel=stylesheet href=a.css></head><body>\n"
+                       "<P ALIGN=center>one <B>two</B></P>\n<P>three</P>\n</body></html>\n");
+  const auto chooseByKeys = [&](int steps, const QList<Qt::Key> &keys) {
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    page.DHTML1().SetFocus();
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    QTest::keyClick(InputOf(page), Qt::Key_F6, Qt::ShiftModifier);
+    auto *bar = Find<QWidget>("pathBar");
+    for (int pane = 0; pane < 9 && !bar->isAncestorOf(QApplication::focusWidget()); ++pane)
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
+    for (int step = 0; step < steps; ++step)
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
+    QWidget *element = QApplication::focusWidget();
+    ASSERT_TRUE(bar->isAncestorOf(element));
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, QPoint(),
+                              element->mapToGlobal(QPoint()));
+    QApplication::sendEvent(element, &request);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    for (const Qt::Key key : keys) QTest::keyClick(QApplication::activePopupWidget(), key);
+  };
+  PutCaret(page, QStringLiteral("b"));
+  ASSERT_TRUE(WaitFor([&] { return page.DHTML1().Document().Path().size() == 3; }));
+  chooseByKeys(0, {Qt::Key_R});
+  ASSERT_TRUE(WaitFor([&] { return !Holds(page, QStringLiteral("<b>")); })) << Seen(page);
+  Key(page, Qt::Key_A, Qt::ControlModifier);
+  ASSERT_TRUE(WaitFor([&] { return page.DHTML1().Document().Path().size() == 1; }));
+  Evaluate(EngineOf(page), QStringLiteral("{ const [p, q] = document.querySelectorAll('p');"
+                                          "getSelection().setBaseAndExtent(p.firstChild, 1, "
+                                          "q.firstChild, 2) }"));
+  ASSERT_TRUE(WaitFor([&] { return page.DHTML1().Document().Path().size() == 2; }));
+  chooseByKeys(0, {Qt::Key_C, Qt::Key_Return});
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("class=\"note\"")); })) << Seen(page);
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(File).toStdString(),
+            "<html><head><link rel=stylesheet href=a.css></head><body>\n"
+            "<P ALIGN=center CLASS=note>one two</P>\n<P CLASS=note>three</P>\n</body></html>\n");
 }
 
 TEST_F(RealPageEdits, WhatIsTypedWithATableSelectedGoesBehindIt) {

@@ -73,6 +73,22 @@ TEST_F(Bridge, MakesTextBoldThatThePagesRulesMadeLightWithoutABoldElementInItsLi
   EXPECT_EQ(Evaluate(QStringLiteral("inside.statusOf(5000)")).toInt(), 7);
 }
 
+TEST_F(Bridge, TellsTheClassesThatStyleSheetsDefineForAnElementInItsPlace) {
+  Load(
+      QStringLiteral("<style>.any, p.intro:hover { color: red } td.cell, .menu li.now { top: 0 }"
+                     "@media print { :is(h1, h2).head, p.paper::before { top: 0 } }"
+                     ".box > p:not(.no)[title=\".x\"].titled, .box p.a.b { top: 0 }"
+                     ".\\31 st, .off p.far { top: 0 } p { } .box { }</style>"
+                     "<div class=\"box\"><p class=\"any x\" title=\".x\">a <b>b|</b></p></div>"));
+  EXPECT_EQ(Text(QStringLiteral("JSON.stringify(velor.choicesOnPath(2))")).toStdString(),
+            "{\"removable\":true,\"classes\":[[\"1st\",false],[\"a\",false],"
+            "[\"any\",true],[\"b\",false],[\"box\",false],[\"intro\",false],"
+            "[\"paper\",false],[\"titled\",false]]}");
+  EXPECT_EQ(Text(QStringLiteral("JSON.stringify(velor.choicesOnPath(0))")).toStdString(),
+            "{\"removable\":false,"
+            "\"classes\":[[\"1st\",false],[\"any\",false],[\"box\",false]]}");
+}
+
 TEST_F(Bridge, PushesAfterAMoveOfTheSelectionWithoutTheMarkup) {
   Load(QStringLiteral("<p>one|</p><h1>two</h1>"));
   CollectPushes();

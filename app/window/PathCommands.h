@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+
+class QMenu;
+
+namespace velor {
+
+class Dialogs;
+
+class PageArea;
+class PathBar;
+class frmMain;
+struct PathChoices;
+
+/// What a person does with the path of elements to the page in front: a click selects an element,
+/// its menu has what can be done to it.
+class PathCommands final : public QObject {
+  Q_OBJECT
+
+ public:
+  /// All outlive it.
+  PathCommands(PathBar &bar, PageArea &area, Dialogs &dialogs, QObject *parent);
+
+ private:
+  /// The page in front, where it is seen as it looks; else null.
+  frmMain *Page() const;
+  void Select(int index);
+  void ShowMenu(int index, QPoint place);
+  void AddClasses(QMenu &menu, frmMain &page, const PathChoices &choices, int index);
+  void LetChooseClass(frmMain &page, const PathChoices &choices, int index);
+  void ShowProperties(int index);
+
+  PathBar &bar_;
+  PageArea &area_;
+  Dialogs &dialogs_;
+};
+
+}  // namespace velor

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
+// The classes that the page's style sheets define for an element.
+
+// What an element is in at times, or what is drawn at it.
+const passing =
+  /^(::|:(active|after|before|first-l(etter|ine)|focus|hover|link|target|visited))/;
+
+// One part of a selector: attribute, pseudo-class or -element, class, comma, combinator; else a
+// stretch of a name.
+const parts = new RegExp([
+  String.raw`\[(?:"(?:[^"\\]|\\.)*"|[^\]"])*\]`,
+  String.raw`::?[\w-]+(?:\((?:[^()]|\((?:[^()]|\([^()]*\))*\))*\))?`,
+  String.raw`\.(?<name>(?:\\[0-9a-f]{1,6}\s?|\\.|[\w\u0080-\uffff-])+)`,
+  String.raw`(?<comma>\s*,\s*)`,
+  String.raw`(?<combinator>\s*[>+~]\s*|\s+)`,
+  String.raw`(?:\\.|[^.:[\s,>+~])+`,
+].join('|'), 'giu');
+
+/** @param {string} name as a selector has it */
+const unescaped = (name) => name.replace(/\\(?:([0-9a-f]{1,6})\s?|(.))/gi,
+  (whole, code, sign) => (code ? String.fromCodePoint(parseInt(code, 16)) : sign));
+
+/**
+ * What each selector of a list says of the element that it is about: the classes that it asks for,
+ * and the selector of the elements that only lack these. What an element is in at times
+ * does not count.
+ * @param {string} list
+ * @returns {{ names: string[], others: string }[]}
+ */
+function read(list) {
+  /** @type {{ names: string[], others: string }[]} */
+  const found = [];
+  /** @type {string[]} */
+  let names = [];
+  let around = '';
+  let own = '';
+  let classes = '';
+  const end = () => {
+    found.push({ names, others: around + (own || '*') });
+    [names, around, own, classes] = [[], '', '', ''];
+  };
+  for (const { 0: part, groups } of list.matchAll(parts)) {
+    if (groups.comma) end();
+    else if (groups.combinator) {
+      around += (own + classes || '*') + part;
+      [names, own, classes] = [[], '', ''];
+    } else if (groups.name) {
+      names.push(unescaped(groups.name));
+      classes += part;
+    } else if (!passing.test(part)) own += part;
+  }
+  end();
+  return found;
+}
+
+/**
+ * @param {CSSRuleList} rules
+ * @returns {Generator<string>}
+ */
+function* selectorsIn(rules) {
+  for (const rule of rules) {
+    if (rule.selectorText) yield rule.selectorText;
+    else if (rule.styleSheet) yield* selectorsOf(rule.styleSheet);
+    else if (rule.cssRules) yield* selectorsIn(rule.cssRules);
+  }
+}
+
+/**
+ * @param {CSSStyleSheet} sheet
+ * @returns {Generator<string>}
+ */
+function* selectorsOf(sheet) {
+  let rules = null;
+  try {
+    rules = sheet.cssRules;
+  } catch {
+    // A sheet of another origin shows its rules to nobody.
+  }
+  if (rules) yield* selectorsIn(rules);
+}
+
+/**
+ * The classes that the style sheets define for an element of this kind in this place, sorted.
+ * @param {Element} element
+ */
+export function classesFor(element) {
+  const lists = [...document.styleSheets].flatMap((sheet) => [...selectorsOf(sheet)]);
+  /** @type {Set<string>} */
+  const found = new Set();
+  for (const { names, others } of lists.filter((list) => list.includes('.')).flatMap(read)) {
+    const isNew = names.some((name) => !found.has(name));
+    if (isNew && element.matches(others)) names.forEach((name) => found.add(name));
+  }
+  return [...found].sort();
+}
