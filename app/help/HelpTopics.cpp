@@ -32,6 +32,7 @@ constexpr HelpTopic Topics[] = {
     {"frmInsertElement", "SSTab3", "links.html#video"},
     {"frmInsertElement", nullptr, "links.html#target"},
     {"frmDialog_Table", nullptr, "tables.html#insert"},
+    {"MarkupDialog", nullptr, "clipboard.html#markup"},
     {"frmProperties", nullptr, "details.html#properties"},
     {"frmProjectManager", nullptr, "projects.html#manager"},
     {"FrmFld", nullptr, "repair.html#picker"},

@@ -155,6 +155,7 @@ void CommandRouter::Run(const Command &command) {
       if (frmMain *page = ActiveDocument()) ShowCaretElement(*page);
       break;
     case CommandId::InsertMarkup:
+      Insert(&InsertCommands::Markup);
       break;
     case CommandId::Preview:
       Preview();

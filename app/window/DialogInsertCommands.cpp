@@ -8,6 +8,7 @@
 #include "editor/frmMain.h"
 #include "insert/ElementHtml.h"
 #include "insert/LinkPaths.h"
+#include "insert/MarkupDialog.h"
 #include "insert/frmDialog_Table.h"
 #include "insert/frmInsertElement.h"
 #include "platform/Dialogs.h"
@@ -97,6 +98,16 @@ void DialogInsertCommands::Table(frmMain &page) {
   dialogs_.RunModal(dialog);
   if (alive.isNull()) return;
   page.DHTML1().Document().Selection().CreateRange()->PasteHTML(html_);
+}
+
+void DialogInsertCommands::Markup(frmMain &page) {
+  const QPointer<frmMain> alive = &page;
+  MarkupDialog dialog(
+      components_, SurroundingsIn(page.DHTML1().Memory().document, PathForLinks(page, additions_)),
+      page.window());
+  dialogs_.RunModal(dialog);
+  if (alive.isNull() || dialog.result() != QDialog::Accepted) return;
+  page.DHTML1().Document().Selection().CreateRange()->PasteHTML(dialog.Markup());
 }
 
 void DialogInsertCommands::PictureFile(frmMain &page, const QString &path) {

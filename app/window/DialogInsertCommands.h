@@ -40,6 +40,7 @@ class DialogInsertCommands final : public InsertCommands {
   void Video(frmMain &page) override;
   /// Pastes `html` at the selection once the dialog has closed, cancelled or not.
   void Table(frmMain &page) override;
+  void Markup(frmMain &page) override;
   void PictureFile(frmMain &page, const QString &path) override;
 
  private:

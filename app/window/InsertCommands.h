@@ -16,6 +16,8 @@ class InsertCommands {
   virtual void Target(frmMain &page) = 0;
   virtual void Video(frmMain &page) = 0;
   virtual void Table(frmMain &page) = 0;
+  /// Puts in markup as the person writes it.
+  virtual void Markup(frmMain &page) = 0;
   /// Inserts the picture file without a dialog, with the link that the dialog would make. `path` in
   /// logic form.
   virtual void PictureFile(frmMain &page, const QString &path) = 0;

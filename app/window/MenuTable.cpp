@@ -175,7 +175,7 @@ constexpr MenuRow Rows[] = {
     Beyond(Item("extAbs", Words::Mark("Absolute Position"), "mnuExt", Editing(EditingCommand::AbsolutePosition))),
     Beyond(Item("extDetail", Words::Mark("Show Detail"), "mnuExt", {CommandId::ShowDetail}, "detail")),
     Beyond(Item("extSnap", Words::Mark("Snap to Grid"), "mnuExt", {CommandId::SnapToGrid}, "snap")),
-    Item("extInHTML", Words::Mark("Insert Custom HTML"), "mnuExt", {}, "viewcode"),
+    Found(Words::Mark("markup source code"), Beyond(Item("extInHTML", Words::Mark("Insert Custom HTML"), "mnuExt", {CommandId::InsertMarkup}, "viewcode"))),
     Menu("extTableGeneral", Words::Mark("Table..."), "mnuExt"),
     Beyond(Item("extInCol", Words::Mark("Insert Colume"), "extTableGeneral", Editing(EditingCommand::InsertColumnRight))),
     Beyond(Item("extInRow", Words::Mark("Insert Row"), "extTableGeneral", Editing(EditingCommand::InsertRowBelow))),

@@ -54,6 +54,7 @@ bool Applies(EditingComponent &page, const Command &command) {
     return Applies(page, *editing);
   if (command.id == CommandId::Properties)
     return Applies(page, static_cast<PropertySubject>(std::get<int>(command.argument)));
+  if (command.id == CommandId::InsertMarkup) return Applies(page, EditingCommand::Paste);
   if (command.id == CommandId::ShowPath) return Applies(page, PropertySubject::Element);
   return command.id != CommandId::None;
 }

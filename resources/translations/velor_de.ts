@@ -3607,6 +3607,18 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>Element Properties</source>
         <translation>Elementeigenschaften</translation>
     </message>
+    <message>
+        <source>markup source code</source>
+        <translation>markup quelltext code</translation>
+    </message>
+    <message>
+        <source>&amp;HTML:</source>
+        <translation>&amp;HTML:</translation>
+    </message>
+    <message>
+        <source>How it will look:</source>
+        <translation>So wird es aussehen:</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

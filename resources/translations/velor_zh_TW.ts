@@ -3595,6 +3595,18 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>Element Properties</source>
         <translation>元素屬性</translation>
     </message>
+    <message>
+        <source>markup source code</source>
+        <translation>標記 原始碼 程式碼</translation>
+    </message>
+    <message>
+        <source>&amp;HTML:</source>
+        <translation>&amp;HTML：</translation>
+    </message>
+    <message>
+        <source>How it will look:</source>
+        <translation>預覽結果：</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -19,6 +19,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <algorithm>
+
 namespace velor {
 namespace {
 
@@ -49,6 +51,47 @@ TEST_F(InsertTest, ACatalogueThatIsNotWholeIsSaidInTheStatusBarAtTheStart) {
   second.Load();
   EXPECT_TRUE(
       QTest::qWaitFor([&] { return second.statusBar()->currentMessage() == database.defect; }));
+}
+
+TEST_F(InsertTest, CustomHtmlIsShownBeforeItIsPutInAsItStands) {
+  frmMain &page = NewPage();
+  FakeEditingComponent &component = Component(page);
+  component.SetDocumentHTML(
+      QStringLiteral("<!DOCTYPE html><html><head><style>b { color: red }</style></head>"
+                     "<body class=\"a>b\"><p>one</p></body></html>"));
+  component.CompleteDocument();
+  const auto markup = QStringLiteral("<p>two <b>three</b>\n");
+  dialogs.ExpectModal([&](QWidget &dialog) {
+    dialog.show();
+    FakeSourceControl &source = *components.sourceControls.back();
+    auto *ok = dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"));
+    EXPECT_FALSE(ok->isEnabled());
+    source.SetText(markup);
+    EXPECT_TRUE(ok->isEnabled());
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      return components.editingComponents.back()->DocumentHTML() ==
+             QStringLiteral(
+                 "<!DOCTYPE html><html><head><style>b { color: red }</style></head>"
+                 "<body class=\"a>b\">") +
+                 markup;
+    }));
+    log.clear();
+    QTest::keyClick(source.Widget(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  Choose("extInHTML");
+  const QString call = QStringLiteral("PasteHTML(") + markup + u')';
+  EXPECT_EQ(std::count(log.begin(), log.end(), call), 1);
+
+  dialogs.ExpectModal([&](QWidget &dialog) {
+    dialog.show();
+    components.sourceControls.back()->SetText(markup);
+    log.clear();
+    QTest::keyClick(components.sourceControls.back()->Widget(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  Choose("extInHTML");
+  EXPECT_EQ(std::count(log.begin(), log.end(), call), 0);
 }
 
 TEST_F(InsertTest, ImageAndHyperlinkOpenTheElementDialogOnTheirPage) {

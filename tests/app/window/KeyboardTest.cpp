@@ -167,6 +167,7 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
        "qt_tabwidget_tabbar"},
       {"mnuBookmark",
        "txtBookmarkName lstOtherBookmark cmdRefreshOther cmdOK cmdCancel qt_tabwidget_tabbar"},
+      {"extInHTML", "Code cmdCancel"},
       {"mnuVideo",
        "txtVidSource Command1 txtVidPoster cmdBrowsePoster chkShowControl chkForever chkVidOnOpen "
        "cmdOK cmdCancel qt_tabwidget_tabbar qt_tabwidget_tabbar"},
@@ -191,9 +192,9 @@ TEST_F(KeyboardTest, NoTwoControlsInSightOfAWindowShareAnAltKey) {
   database.results[QStringLiteral("Select * from Project where Created = true")] = {};
   frmMain &page = NewPage();
   EXPECT_EQ(SharedAltKeys(window).toStdString(), "");
-  const char *const items[] = {"mnuAbout",    "mnuPrint",  "mnuFindCommand",    "mnuSettings",
-                               "mnuDrives",   "mnuTBLnew", "mnuISTimage",       "mnuISTlink",
-                               "mnuBookmark", "mnuVideo",  "mnuView_ProjectMan"};
+  const char *const items[] = {"mnuAbout",    "mnuPrint",  "mnuFindCommand",     "mnuSettings",
+                               "mnuDrives",   "mnuTBLnew", "mnuISTimage",        "mnuISTlink",
+                               "mnuBookmark", "mnuVideo",  "mnuView_ProjectMan", "extInHTML"};
   for (const char *item : items) {
     dialogs.ExpectModal([item](QWidget &dialog) {
       dialog.show();

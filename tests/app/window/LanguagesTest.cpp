@@ -98,9 +98,9 @@ class WindowIn : private Spoken<Translator>, public WindowFixture {
 
  private:
   void LookAtDialogs(const Look &look) {
-    const char *const items[] = {"mnuAbout",    "mnuPrint",  "mnuFindCommand",    "mnuSettings",
-                                 "mnuDrives",   "mnuTBLnew", "mnuISTimage",       "mnuISTlink",
-                                 "mnuBookmark", "mnuVideo",  "mnuView_ProjectMan"};
+    const char *const items[] = {"mnuAbout",    "mnuPrint",  "mnuFindCommand",     "mnuSettings",
+                                 "mnuDrives",   "mnuTBLnew", "mnuISTimage",        "mnuISTlink",
+                                 "mnuBookmark", "mnuVideo",  "mnuView_ProjectMan", "extInHTML"};
     for (const char *item : items) {
       dialogs.ExpectModal([&](QWidget &dialog) {
         dialog.show();

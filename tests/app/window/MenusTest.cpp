@@ -210,11 +210,20 @@ TEST_F(MenusTest, TheContextMenusItemsAreEnabledByWhatIsSelected) {
   }
 }
 
-TEST_F(MenusTest, AnItemOfTheContextMenuWithoutAnActionIsOff) {
-  NewPage();
-  Parts().requests.PopUpContextMenu(QPoint(60, 70));
-  Find<QMenu>("mnuExt")->close();
-  for (const char *item : {"extInHTML", "extGetTag"}) EXPECT_FALSE(Item(item)->isEnabled()) << item;
+TEST_F(MenusTest, MarkupAndTheCaretsElementAreOffWhereThereIsNoPlaceForThem) {
+  frmMain &page = NewPage();
+  const auto isEnabled = [&](const char *name) {
+    Parts().requests.PopUpContextMenu(QPoint(60, 70));
+    Find<QMenu>("mnuExt")->close();
+    return Item(name)->isEnabled();
+  };
+  EXPECT_TRUE(isEnabled("extInHTML"));
+  EXPECT_FALSE(isEnabled("extGetTag")) << "no element is at the caret";
+  Component(page).elementPath = {"body"};
+  EXPECT_TRUE(isEnabled("extGetTag"));
+  page.ChangeMode(2);
+  EXPECT_FALSE(isEnabled("extInHTML"));
+  EXPECT_FALSE(isEnabled("extGetTag"));
 }
 
 TEST_F(MenusTest, DetailsGridAndPositionAreMarkedWhereTheyAreOn) {

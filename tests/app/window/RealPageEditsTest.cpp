@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QWebEnginePage>
+#include <QWebEngineView>
 
 namespace velor {
 namespace {
@@ -216,6 +217,40 @@ TEST_F(RealPageEdits, TheElementsPathTakesATagOffAndGivesAClassOfTheLinkedStyleS
   EXPECT_EQ(Bytes(File).toStdString(),
             "<html><head><link rel=stylesheet href=a.css></head><body>\n"
             "<P ALIGN=center CLASS=note>one two</P>\n<P CLASS=note>three</P>\n</body></html>\n");
+}
+
+TEST_F(RealPageEdits, CustomHtmlIsSeenInThePagesLooksAndGoesIntoTheFileAsOneStep) {
+  Write(QStringLiteral("a.css"), "i { color: rgb(1, 2, 3) }");
+  frmMain &page = Open(File,
+                       "<html><head><link rel=stylesheet href=a.css></head><body>\n"
+                       "<p>one two</p>\n</body></html>\n");
+  PutCaret(page, QStringLiteral("p"));
+  Key(page, Qt::Key_End);
+  dialogs.ExpectModal([&](QWidget &dialog) {
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    auto *source = dialog.findChild<QWidget *>(QStringLiteral("Code"));
+    QTest::keyClicks(source, QStringLiteral(" <I CLASS=x>three</I>"));
+    auto *preview = dialog.findChild<QWidget *>(QStringLiteral("Preview"));
+    EXPECT_TRUE(WaitFor([&] {
+      const auto *view = preview->findChild<QWebEngineView *>();
+      return view != nullptr &&
+             Evaluate(*view->page(), QStringLiteral("{ const i = document.querySelector('i');"
+                                                    "i ? getComputedStyle(i).color : '' }"))
+                     .toString() == QStringLiteral("rgb(1, 2, 3)");
+    }));
+    EXPECT_TRUE(source->hasFocus()) << "the keyboard stays in the source";
+    QTest::keyClick(source, Qt::Key_Return, Qt::ControlModifier);
+  });
+  Choose("extInHTML");
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("three")); })) << Seen(page);
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(File).toStdString(),
+            "<html><head><link rel=stylesheet href=a.css></head><body>\n"
+            "<p>one two <i class=x>three</i></p>\n</body></html>\n");
+  Choose("mnuUndo");
+  ASSERT_TRUE(WaitFor([&] { return !Holds(page, QStringLiteral("three")); })) << Seen(page);
 }
 
 TEST_F(RealPageEdits, WhatIsTypedWithATableSelectedGoesBehindIt) {
