@@ -277,6 +277,18 @@ function dropEmptyHalf(first, block) {
   }
 }
 
+// In an empty line the engine writes looks of the line before as FONT, whatever the page.
+/** @param {Element} first */
+function dropFonts(first) {
+  if (!dom.writesStyles() || dom.lastLeaf(first).parentNode.closest('font')) return;
+  for (let font = selection.element()?.closest('font'); font && !font.textContent.trim();
+    font = selection.element().closest('font')) {
+    const saved = selection.save();
+    dom.unwrap(font);
+    selection.restore(saved);
+  }
+}
+
 // What stands before the second half of a split: with a division in an item the item was cut too.
 /** @param {AnyNode} block */
 function halfBefore(block) {
@@ -304,4 +316,5 @@ export function tidySplit() {
   if (dom.isBreak(last) && before && !dom.isBreak(before)) last.remove();
   moveGapAbove(dom.blockOf(dom.lastLeaf(first)), block);
   dropEmptyHalf(first, block);
+  dropFonts(first);
 }

@@ -52,8 +52,10 @@ export function openParagraph(put) {
   selection.setCaret(paragraph, 0);
 }
 
+// Text that stands in no element was copied from such as well.
 /** @param {Text} text */
-const keepsLines = (text) => text.parentElement?.closest('PRE, LISTING, XMP, PLAINTEXT, TEXTAREA');
+const keepsLines = (text) => !text.parentElement ||
+  text.parentElement.closest('PRE, LISTING, XMP, PLAINTEXT, TEXTAREA') !== null;
 /**
  * What a node shows as text, its breaks as line ends: for where no markup may stand.
  * @param {AnyNode} node
