@@ -220,7 +220,8 @@ function holdLastLine(rest) {
   const { startContainer: node, startOffset: offset } = rest;
   const before = dom.isText(node) ? offset === 0 && node.previousSibling
     : node.childNodes[offset - 1];
-  if (!before || !dom.isBreak(dom.lastLeaf(before))) return;
+  const last = before && dom.lastLeaf(before);
+  if (!dom.isBreak(last) || lineElement(last) !== lineElement(node)) return;
   const block = dom.blockOf(node);
   const behind = document.createRange();
   behind.setStart(node, offset);

@@ -293,8 +293,8 @@ function dropFonts(first) {
 /** @param {AnyNode} block */
 function halfBefore(block) {
   let at = block;
-  while (!dom.neighbour(at, 'previousSibling') && !dom.isCell(at.parentNode)) at = at.parentNode;
-  return dom.neighbour(at, 'previousSibling');
+  while (!dom.isCell(at) && !dom.neighbour(at, 'previousSibling')) at = at.parentNode;
+  return dom.isCell(at) ? null : dom.neighbour(at, 'previousSibling');
 }
 
 /**
