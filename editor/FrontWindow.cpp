@@ -6,6 +6,7 @@
 #include "editor/frmMain.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/Words.h"
 
 namespace velor {
 
@@ -18,6 +19,13 @@ QString PageName(const EditorContext &context, int number) {
 QString PagePath(const EditorContext &context, int number) {
   const QString path = number == 0 ? QString() : context.pages.Record(number).Path;
   return path.isEmpty() ? path : ForPeople(path);
+}
+
+QString TextFormAndZoom(const QString &textForm, double zoom) {
+  const int percent = qRound(zoom * 100);
+  if (percent == 100) return textForm;
+  const QString words = Words::tr("%1 %").arg(percent);
+  return textForm.isEmpty() ? words : textForm + QStringLiteral(", ") + words;
 }
 
 void ShowPageWithoutFormats(const EditorContext &context, int number) {

@@ -37,6 +37,9 @@ class FrontWindow {
   virtual void OnActivated() = 0;
   /// Puts what it shows on paper; null where it shows nothing any more.
   virtual PagePrinting *Printing() = 0;
+  /// How large the page is shown, 1 for its own size. Sources have none of it.
+  virtual double Zoom() const { return 1; }
+  virtual void SetZoom(double /*factor*/) {}
 };
 
 /// The name of a slot's page: the title of its window, or the record's caption where that is gone.
@@ -44,6 +47,10 @@ QString PageName(const EditorContext &context, int number);
 
 /// The file of a slot's page in the form for people (ForPeople); empty where it has none.
 QString PagePath(const EditorContext &context, int number);
+
+/// What the status bar shows of a page: charset, line ends, and how large it is shown unless that
+/// is its own size.
+QString TextFormAndZoom(const QString &textForm, double zoom);
 
 /// Updates the bars for a page whose source or preview is in front: selects its tab, shows charset
 /// and line ends, and disables formatting.

@@ -41,7 +41,14 @@ void frmMain::ShowState() {
     DynaLink();
   }
   // Undo past an applied source brings back what the bytes were before.
-  context_.mainWindow.status.ShowTextForm(component_->TextForm());
+  context_.mainWindow.status.ShowTextForm(
+      TextFormAndZoom(component_->TextForm(), View() == FrontView::Design ? Zoom() : 1));
+}
+
+void frmMain::SetZoom(double factor) {
+  if (View() != FrontView::Design) return;
+  component_->SetZoom(factor);
+  if (IsInFront()) ShowState();
 }
 
 void frmMain::RefreshMfrm() {

@@ -5,6 +5,8 @@
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
 #include "editor/MainWindow.h"
+#include "editor/PageSlots.h"
+#include "editor/frmMain.h"
 #include "platform/Platform.h"
 #include "platform/Words.h"
 
@@ -163,6 +165,14 @@ QString frmBrowser::ShownName() const {
 
 void frmBrowser::OnActivated() {
   ShowPageWithoutFormats(context_, page_);
+  frmMain *page = page_ == 0 ? nullptr : context_.pages.Page(page_);
+  const QString form = page == nullptr ? QString() : page->DHTML1().TextForm();
+  context_.mainWindow.status.ShowTextForm(TextFormAndZoom(form, Zoom()));
+}
+
+void frmBrowser::SetZoom(double factor) {
+  browser_->SetZoom(factor);
+  OnActivated();
 }
 
 void frmBrowser::MarkKill() {

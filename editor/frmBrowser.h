@@ -68,6 +68,8 @@ class frmBrowser : public QWidget,
   void Edit(EditingCommand) override {}
   void OnActivated() override;
   PagePrinting *Printing() override { return &browser_->Printing(); }
+  double Zoom() const override { return browser_->Zoom(); }
+  void SetZoom(double factor) override;
 
   void MarkKill() override;
 

@@ -94,6 +94,8 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void Edit(EditingCommand command) override;
   void OnActivated() override;
   PagePrinting *Printing() override { return &component_->Printing(); }
+  double Zoom() const override { return component_->Zoom(); }
+  void SetZoom(double factor) override;
 
   /// Turn the view's details, or its grid, on or off, and keep the choice.
   void ToggleShowDetails();

@@ -95,7 +95,7 @@ bool EditorInput::eventFilter(QObject *watched, QEvent *event) {
       Q_EMIT InputComing();
       return false;
     case QEvent::Wheel:
-      // The engine would zoom, for every page at once.
+      // The engine would zoom, and the window would not know of it.
       return static_cast<QWheelEvent *>(event)->modifiers().testFlag(Qt::ControlModifier);
     default:
       return false;

@@ -90,7 +90,10 @@ void EngineView::ConnectInput() {
     turns_.NoteInput();
     Q_EMIT InputComing();
   });
-  connect(input_, &EditorInput::FilesDropped, this, &EngineView::FilesDropped);
+  connect(input_, &EditorInput::FilesDropped, this,
+          [this](const QStringList &nativePaths, QPoint position) {
+            Q_EMIT FilesDropped(nativePaths, position / page_->zoomFactor());
+          });
   connect(view_, &QWebEngineView::customContextMenuRequested, this, [this](QPoint position) {
     const EngineCallback callback(engine_.Guard());
     Q_EMIT MenuWanted(view_->mapToGlobal(position));
@@ -221,6 +224,10 @@ void EngineView::AwaitInput() {
 WaitEnd EngineView::Wait(std::chrono::milliseconds limit, const std::function<bool()> &done,
                          const Patience *patience) {
   return GuardedWait(engine_.Guard()).Until(*this, limit, done, patience);
+}
+
+void EngineView::SetZoom(double factor) {
+  if (page_ != nullptr) page_->setZoomFactor(factor);
 }
 
 void EngineView::SetFocus() {

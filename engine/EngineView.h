@@ -73,6 +73,8 @@ class EngineView : public QObject, private PageWays {
                const Patience *patience = nullptr);
 
   void SetFocus();
+  /// Shows the page of now larger or smaller; the next one is shown in its own size.
+  void SetZoom(double factor);
 
  Q_SIGNALS:
   /// The phase is Ready or Failed now.

@@ -91,6 +91,8 @@ void WebEditor::ConnectView(EngineView &view) {
     typing_.NoteReport(told[QStringLiteral("idle")].toBool());
     document_.ApplyChanges(told);
   });
+  // The engine keeps the factor by the page's host, which is another one for each load.
+  QObject::connect(&view, &EngineView::LoadEnded, [this, &view] { view.SetZoom(zoom_); });
   QObject::connect(&view, &EngineView::LoadEnded,
                    [=, this] { post(Notice::LoadEnded, [this] { loader_.FinishLoad(); }); });
   QObject::connect(&view, &EngineView::Died,
@@ -214,6 +216,11 @@ void WebEditor::SetFocus() {
     document_.View()->SetFocus();
   else if (document_.Frame() != nullptr)
     document_.Frame()->setFocus();
+}
+
+void WebEditor::SetZoom(double factor) {
+  zoom_ = factor;
+  if (EngineView *view = document_.View()) view->SetZoom(factor);
 }
 
 void WebEditor::SetToolTip(const QString &text) {

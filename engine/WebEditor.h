@@ -62,6 +62,8 @@ class WebEditor : public EditingComponent {
   TextSearch &Search() override { return search_; }
   PagePrinting &Printing() override { return printing_; }
   PageSpelling *SpellCheck() override { return &spelling_; }
+  double Zoom() const override { return zoom_; }
+  void SetZoom(double factor) override;
   HtmlDocument &Document() override;
   bool ShowDetails() const override;
   void SetShowDetails(bool on) override;
@@ -89,6 +91,7 @@ class WebEditor : public EditingComponent {
   const EngineGuard &guard_;
   Files &files_;
   ViewOptions options_;
+  double zoom_ = 1;
   TypingWatch typing_;
   /// The files that the page shows, by logic path, with their names in the bridge.
   std::map<QString, QStringList> parts_;

@@ -49,6 +49,11 @@ class Browser {
   virtual void Stop() = 0;
   /// Puts what is shown on paper. Valid as long as the browser.
   virtual PagePrinting &Printing() = 0;
+
+  /// How large the page is shown, 1 for its own size, from 0.25 to 5. It stays over loads and is
+  /// not part of the page.
+  virtual double Zoom() const = 0;
+  virtual void SetZoom(double factor) = 0;
 };
 
 }  // namespace velor

@@ -159,6 +159,11 @@ class EditingComponent {
   /// The spelling of the page's words; null where there is none. Valid as long as the component.
   virtual PageSpelling *SpellCheck() { return nullptr; }
 
+  /// How large the page is shown, 1 for its own size, from 0.25 to 5. It stays over loads and is
+  /// not part of the page.
+  virtual double Zoom() const = 0;
+  virtual void SetZoom(double factor) = 0;
+
   /// Carries out a command (EditingCommands.h) or, for a query command, returns its value: font
   /// name, block format name and size as text, colours as "#RRGGBB"; the empty text where the
   /// selection is mixed. A command that does not apply does nothing.

@@ -54,6 +54,9 @@ enum class CommandId {
   WrapSource,
   Drives,
   Settings,
+  ZoomIn,
+  ZoomOut,
+  ZoomReset,
 };
 
 struct Command {

@@ -3,6 +3,7 @@
 
 #include "app/window/GeneralToolbar.h"
 #include "app/window/InsertCommands.h"
+#include "app/window/PageZoom.h"
 #include "app/window/PropertyDialogs.h"
 #include "editor/EditorContext.h"
 #include "editor/EmbeddedPictures.h"
@@ -187,6 +188,15 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::Drives:
       host_.ShowDrives();
       break;
+    case CommandId::ZoomIn:
+      Zoom(1);
+      break;
+    case CommandId::ZoomOut:
+      Zoom(-1);
+      break;
+    case CommandId::ZoomReset:
+      Zoom(0);
+      break;
     case CommandId::Settings:
       host_.ShowSettings();
       break;
@@ -281,6 +291,10 @@ void CommandRouter::PutOnPaper(void (CommandHost::*way)(FrontWindow &)) {
   } else if (ApplySource(*front)) {
     (host_.*way)(*front);
   }
+}
+
+void CommandRouter::Zoom(int steps) {
+  if (FrontWindow *front = host_.Front()) front->SetZoom(NextZoom(front->Zoom(), steps));
 }
 
 bool CommandRouter::ApplySource(const FrontWindow &front) {

@@ -99,6 +99,8 @@ class CommandRouter {
   void SavePage(modWorkFlow::SaveKind kind);
   /// Puts what the window in front shows on paper in that way.
   void PutOnPaper(void (CommandHost::*way)(FrontWindow &));
+  /// Shows what is in front larger or smaller, or in its own size (NextZoom).
+  void Zoom(int steps);
   /// Applies source that was typed into the window, if it is a source editor, to its page. False
   /// where that cannot be done.
   bool ApplySource(const FrontWindow &front);

@@ -11,6 +11,7 @@
 #include "app/window/PageArea.h"
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
+#include "app/window/PageZoom.h"
 #include "app/window/PaneWalk.h"
 #include "app/window/PathCommands.h"
 #include "app/window/ProjectDesk.h"
@@ -187,6 +188,11 @@ void MfrmProgram::PrepareTools() {
   recent_ = new RecentFiles(
       *menus_.menus.value(QStringLiteral("mnuRecent")), platform_.registry,
       [this](const QString &path) { router_.OpenRecentFile(path); }, this);
+  new PageZoom(
+      *area_, [this](const Command &command) { router_.Run(command); }, this);
+  // The key of "+" without Shift, where that is the one of "=".
+  QAction &zoomIn = MenuItem({CommandId::ZoomIn});
+  zoomIn.setShortcuts({zoomIn.shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
   QAction &wrap = MenuItem({CommandId::WrapSource});
   wrap.setCheckable(true);
   // Source editors have the same choice in their own menus.

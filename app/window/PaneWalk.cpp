@@ -4,10 +4,8 @@
 #include "app/window/FormattingBar.h"
 #include "app/window/PageArea.h"
 #include "app/window/PathBar.h"
+#include "chrome/NoticeBar.h"
 #include "editor/FindBar.h"
-#include "editor/OutsideChanges.h"
-#include "editor/PictureBar.h"
-#include "editor/PictureFitting.h"
 #include "recovery/offers/RecoveryBar.h"
 
 #include <QApplication>
@@ -24,9 +22,7 @@ bool IsBar(const QObject *widget) {
          qobject_cast<const FormattingBar *>(widget) != nullptr ||
          qobject_cast<const PathBar *>(widget) != nullptr ||
          qobject_cast<const RecoveryBar *>(widget) != nullptr ||
-         qobject_cast<const OutsideChanges *>(widget) != nullptr ||
-         qobject_cast<const PictureBar *>(widget) != nullptr ||
-         qobject_cast<const PictureFitting *>(widget) != nullptr ||
+         qobject_cast<const NoticeBar *>(widget) != nullptr ||
          qobject_cast<const FindBar *>(widget) != nullptr;
 }
 

@@ -206,6 +206,11 @@ void WebBrowser::Stop() {
   page_->triggerAction(QWebEnginePage::Stop);
 }
 
+void WebBrowser::SetZoom(double factor) {
+  zoom_ = factor;
+  page_->setZoomFactor(factor);
+}
+
 void WebBrowser::MakePdf(const PaperForm &form, Made made) {
   made_ = std::move(made);
   print_ = std::make_unique<PdfPrint>(*page_, form);
@@ -222,6 +227,8 @@ void WebBrowser::StopPdf() {
 }
 
 void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo &loading) {
+  // The engine keeps the factor by the page's host, which may be another one now.
+  if (loading.status() != QWebEngineLoadingInfo::LoadStartedStatus) page_->setZoomFactor(zoom_);
   switch (loading.status()) {
     case QWebEngineLoadingInfo::LoadStartedStatus:
       isStopping_ = false;

@@ -44,6 +44,8 @@ class WebBrowser final : public QObject, public Browser, private PagePrinting {
   void Refresh() override;
   void Stop() override;
   PagePrinting &Printing() override { return *this; }
+  double Zoom() const override { return zoom_; }
+  void SetZoom(double factor) override;
 
  private:
   // PagePrinting
@@ -65,6 +67,7 @@ class WebBrowser final : public QObject, public Browser, private PagePrinting {
   QPointer<QWebEngineView> view_;
   QPointer<BrowserPage> page_;
   BrowserListener *listener_ = nullptr;
+  double zoom_ = 1;
   QString site_;             ///< native folder; empty for the folder of each page
   QString state_;            ///< of the last load, in words
   bool isOpening_ = false;   ///< `state_` says that a page is being opened

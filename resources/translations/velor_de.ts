@@ -3619,6 +3619,38 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>How it will look:</source>
         <translation>So wird es aussehen:</translation>
     </message>
+    <message>
+        <source>Zoom (&amp;Z)</source>
+        <translation>&amp;Größe der Anzeige</translation>
+    </message>
+    <message>
+        <source>larger bigger magnify</source>
+        <translation>größer vergrößern zoom</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>smaller</source>
+        <translation>kleiner zoom</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>100 normal reset</source>
+        <translation>100 normal zoom</translation>
+    </message>
+    <message>
+        <source>Own &amp;Size</source>
+        <translation>&amp;Eigene Größe</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -3607,6 +3607,38 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>How it will look:</source>
         <translation>預覽結果：</translation>
     </message>
+    <message>
+        <source>Zoom (&amp;Z)</source>
+        <translation>顯示比例(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>larger bigger magnify</source>
+        <translation>放大 變大</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>smaller</source>
+        <translation>縮小 變小</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>縮小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>100 normal reset</source>
+        <translation>100 正常 原始</translation>
+    </message>
+    <message>
+        <source>Own &amp;Size</source>
+        <translation>原始大小(&amp;S)</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -22,6 +22,7 @@ class FakeBrowser final : public Browser {
   QString html;  ///< of NavigateToText
   BrowserListener *listener = nullptr;
   FakePagePrinting printing;
+  double zoom = 1;
 
   QWidget *Widget() override { return widget_; }
   void SetListener(BrowserListener *newListener) override { listener = newListener; }
@@ -40,6 +41,8 @@ class FakeBrowser final : public Browser {
   void Refresh() override { Note(log_, QStringLiteral("Browser.Refresh()")); }
   void Stop() override { Note(log_, QStringLiteral("Browser.Stop()")); }
   PagePrinting &Printing() override { return printing; }
+  double Zoom() const override { return zoom; }
+  void SetZoom(double factor) override { zoom = factor; }
 
  private:
   CallLog *log_;

@@ -53,6 +53,7 @@ class FakeEditingComponent final : public EditingComponent,
   std::function<void()> whileLoading;
   FakeTextSearch search;
   FakePagePrinting printing;
+  double zoom = 1;
   std::optional<RuntimeError> nextLoadFailure;  ///< raised once by LoadDocument and LoadText
   std::optional<RuntimeError> nextSaveFailure;  ///< raised once by SaveDocument
 
@@ -104,6 +105,8 @@ class FakeEditingComponent final : public EditingComponent,
   QStringList BlockFormats() const override { return blockFormats; }
   TextSearch &Search() override { return search; }
   PagePrinting &Printing() override { return printing; }
+  double Zoom() const override { return zoom; }
+  void SetZoom(double factor) override { zoom = factor; }
   HtmlDocument &Document() override;
   bool ShowDetails() const override;
   void SetShowDetails(bool on) override;

@@ -452,6 +452,11 @@ mnuRecent "Recent Files (&R)"
 mnuPrint "Print... (&I)" Ctrl+P
 mnuExportPdf "Export as PDF... (&O)"
 mnu6 "-"
+mnuZoom "Zoom (&Z)"
+  mnuZoomIn "Zoom &In" Ctrl++
+  mnuZoomOut "Zoom &Out" Ctrl+-
+  mnuZoomReset "Own &Size" Ctrl+0
+mnu10 "-"
 mnuFind "Find... (&N)" Ctrl+F
 mnuReplace "Replace... (&P)" Ctrl+H
 mnuFindNext "Find Next (&G)" F3

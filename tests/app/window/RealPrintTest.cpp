@@ -138,6 +138,36 @@ TEST_F(RealPrint, CtrlPShowsThePagesAndPrintsThem) {
   EXPECT_TRUE(hasPicture);
 }
 
+TEST_F(RealPrint, ZoomIsEachWindowsOwnStaysOverLoadsAndIsNotInThePage) {
+  const auto zoom = [](QWidget &shown, double factor) {
+    return WaitFor([&] {
+      return qAbs(Evaluate(EngineOf(shown), QStringLiteral("devicePixelRatio")).toDouble() -
+                  factor * shown.devicePixelRatioF()) < 0.01;
+    });
+  };
+  frmMain &page = OpenPage();
+  frmMain &other = Open(QStringLiteral("other.htm"), Page);
+  Key(other, Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_TRUE(zoom(other, 1.1));
+  EXPECT_TRUE(zoom(page, 1));
+  other.DHTML1().LoadDocument(Logic(QStringLiteral("page.htm")));
+  EXPECT_TRUE(zoom(other, 1.1));
+  other.ChangeMode(4);
+  frmBrowser &preview = *window.Context().preview;
+  EXPECT_TRUE(zoom(preview, 1));
+  Choose("mnuZoomOut");
+  EXPECT_TRUE(zoom(preview, 0.9));
+  Parts().windows.Activate(&other);
+  other.ChangeMode(4);
+  EXPECT_TRUE(WaitFor([&] { return !EngineOf(preview).isLoading(); }));
+  EXPECT_TRUE(zoom(preview, 0.9));
+  Parts().windows.Activate(&page);
+  Key(page, Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_TRUE(zoom(page, 0.9));
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(QStringLiteral("page.htm")), Page);
+}
+
 TEST_F(RealPrint, EscapeInThePageLeavesTheOldFileAndTheNextExportGoesWell) {
   frmMain &page = OpenPage();
   Write(QStringLiteral("page.pdf"), "old");
