@@ -3,6 +3,7 @@
 
 #include "chrome/Palette.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -22,6 +23,14 @@ NoticeBar::NoticeBar(const char *name, const char *textName, const QString &acce
   text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   line_->addWidget(text_, 1);
   hide();
+}
+
+void NoticeBar::setVisible(bool visible) {
+  // First: a control that is hidden with the keyboard in it would pass that on as Tab does, and a
+  // page that the keyboard comes to by Tab moves its caret to the start.
+  if (!visible && isAncestorOf(QApplication::focusWidget()))
+    parentWidget()->setFocus(Qt::OtherFocusReason);
+  QFrame::setVisible(visible);
 }
 
 void NoticeBar::Tell(const QString &text) {

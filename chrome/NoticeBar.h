@@ -19,6 +19,9 @@ class NoticeBar : public QFrame {
   /// `name` and `textName` are the object names of the bar and of its line.
   NoticeBar(const char *name, const char *textName, const QString &accessibleName, QWidget *parent);
 
+  /// A bar that goes with the keyboard in it gives that back to the window that it stands in.
+  void setVisible(bool visible) override;
+
  protected:
   /// Shows the bar with this text, which is plain.
   void Tell(const QString &text);

@@ -15,6 +15,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QPointer>
 #include <QPushButton>
@@ -116,6 +117,9 @@ void PdfExport::End() {
   disconnect(closing_);
   printing_ = nullptr;
   escape_->setEnabled(false);
+  QWidget *front = context_.mainWindow.windows.Current();
+  if (front != nullptr && isAncestorOf(QApplication::focusWidget()))
+    front->setFocus(Qt::OtherFocusReason);
   hide();
 }
 

@@ -332,11 +332,16 @@ void RecoveryBar::RemoveRow(QWidget *row) {
   const int place = rows_->indexOf(row);
   offered_.erase(offered_.begin() + place);
   rows_->removeWidget(row);
+  if (hadFocus) {
+    // Before the row is hidden, which would pass the keyboard on as Tab does.
+    QWidget *next = rows_->isEmpty() ? context_.mainWindow.windows.Current()
+                                     : FirstButtonOf(*rows_, std::min(place, rows_->count() - 1));
+    if (next != nullptr) next->setFocus();
+  }
   row->hide();
   row->deleteLater();
   if (rows_->isEmpty()) return Fill();
   FitRows();
-  if (hadFocus) FirstButtonOf(*rows_, std::min(place, rows_->count() - 1))->setFocus();
 }
 
 bool RecoveryBar::MoveFocus(QPushButton *from, int key) {
@@ -385,6 +390,9 @@ bool RecoveryBar::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void RecoveryBar::FitRows() {
+  QWidget *front = context_.mainWindow.windows.Current();
+  if (rows_->isEmpty() && front != nullptr && isAncestorOf(QApplication::focusWidget()))
+    front->setFocus();
   setVisible(!rows_->isEmpty());
   if (rows_->isEmpty()) return;
   const int row = rows_->itemAt(0)->sizeHint().height();

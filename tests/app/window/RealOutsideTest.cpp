@@ -16,6 +16,7 @@
 #include <QFile>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTest>
 
 namespace velor {
 namespace {
@@ -96,6 +97,24 @@ TEST_F(RealOutside, APageWithChangesKeepsThemUntilTheirsIsTaken) {
   EXPECT_FALSE(page.Outside().isVisible());
   Choose("mnuUndo");
   EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("oXne")); })) << Seen(page);
+}
+
+TEST_F(RealOutside, ABarThatIsLeftByKeyPutsTheKeyboardBackWhereTheCaretWas) {
+  frmMain &page = Open(PageFile, "<p>one</p><p>two</p>");
+  PutCaret(page, QStringLiteral("p + p"));
+  Type(page, QStringLiteral("X"));
+  ReplaceOutside("<p>theirs</p>");
+  ASSERT_TRUE(WaitFor([&] { return page.Outside().isVisible(); }));
+  auto *keep = page.Outside().findChild<QPushButton *>(QStringLiteral("cmdKeepMine"));
+  ASSERT_NE(keep, nullptr);
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  keep->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(keep, Qt::Key_Space);
+  EXPECT_FALSE(page.Outside().isVisible());
+  EXPECT_TRUE(page.isAncestorOf(QApplication::focusWidget()));
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Y"));
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("tXYwo")); })) << Seen(page);
 }
 
 TEST_F(RealOutside, UndoOverTakeTheirsIsAnUnsavedPageAgainAndTheFileIsAskedAboutAgain) {

@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -244,6 +245,34 @@ TEST_F(RealRecovery, ThePageInTheKeyboardsFocusIsLeftForTheOfferByAltG) {
   EXPECT_TRUE(WaitFor([&] { return window.Context().pages.PageCount() == 2; }));
   EXPECT_TRUE(Holds(LastOpened(), QStringLiteral("back")));
   EXPECT_FALSE(Holds(page, QStringLiteral("o ne")));
+}
+
+TEST_F(RealRecovery, AnOfferThatIsTurnedDownByKeyLeavesTheCaretWhereItWas) {
+  for (const char *button : {"cmdDiscard", "cmdDiscardAll"}) {
+    JournalledPage abandoned;
+    abandoned.caption = QStringLiteral("Untitled 7");
+    abandoned.page = {"<p>", QStringLiteral("/"), QStringLiteral("<html><body><p>back</p></body>")};
+    abandoned.time = QDateTime::currentDateTime();
+    JournalFiles().Begin()->Write(abandoned);
+    frmMain &page = Open(QString::fromLatin1(button) + QStringLiteral(".htm"), "<p>one</p>");
+    auto *bar = Find<RecoveryBar>("picRecovery");
+    bar->Offer();
+    PutCaret(page, QStringLiteral("p"));
+    ASSERT_TRUE(WaitFor([&] { return InputOf(page)->hasFocus(); }));
+    auto *discard = bar->findChild<QPushButton *>(QString::fromLatin1(button));
+    discard->setFocus(Qt::TabFocusReason);
+    if (discard->objectName() == u"cmdDiscardAll") {
+      dialogs.ExpectMessage(
+          QStringLiteral("Discard the unsaved changes of all pages listed here (1)? They cannot be "
+                         "brought back."),
+          MessageAnswer::Yes);
+    }
+    QTest::keyClick(discard, Qt::Key_Space);
+    EXPECT_TRUE(WaitFor([&] { return !bar->isVisible(); })) << button;
+    EXPECT_TRUE(InputOf(page)->hasFocus()) << button;
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("X"));
+    EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("oXne")); })) << Seen(page);
+  }
 }
 
 }  // namespace
