@@ -26,6 +26,7 @@ constexpr Entry Table[] = {
     {"journal", JournalFigures},
     {"pictures", PictureFigures},
     {"preview", PreviewFigures},
+    {"print", PrintFigures},
     {"source", SourceFillFigures},
     {"apply", ApplyFigures},
     {"memory", MemoryFigure},

@@ -31,6 +31,8 @@ void JournalFigures();
 void PictureFigures();
 /// The preview's first and later showings of a page (PreviewFigures.cpp).
 void PreviewFigures();
+/// A PDF of many sheets (PrintFigures.cpp).
+void PrintFigures();
 // Figures about the source editor (SourceFigures.cpp).
 void SourceFillFigures();
 void ApplyFigures();
