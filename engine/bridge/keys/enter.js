@@ -3,7 +3,7 @@
 // Enter. The engine splits paragraphs and items; what it would do badly is done here, and what it
 // leaves behind is put in order.
 import { deleteToLine } from '../blocks/deletion.js';
-import { spansUnits } from '../blocks/extent.js';
+import { isAtEdge, spansUnits } from '../blocks/extent.js';
 import { itemOf } from '../blocks/items.js';
 import * as lists from '../blocks/lists.js';
 import * as typing from '../blocks/typing.js';
@@ -127,9 +127,14 @@ function enterInItem(unit) {
   const goesOn = unit.block
     ? /^(P|DIV)$/.test(unit.block.tagName) && unit.block.parentNode === item &&
       dom.neighbour(unit.block, 'nextSibling')
-    : unit.container === item && others.some((child) => !dom.isList(child));
+    : unit.container === item && others.some((child) => !dom.isList(child) || isWithinLine(unit));
   return goesOn || goesOnInside(unit, item) ? () => splitBlock(item) : null;
 }
+// True where the caret has something of its paragraph on both sides. Before a list in an item the
+// engine would drop the source's lines.
+/** @param {Unit} unit */
+const isWithinLine = (unit) => (/** @type {Edge[]} */ (['start', 'end']))
+  .every((side) => !isAtEdge(selection.range(), unit, side));
 // True for a paragraph that lies deeper in an item (in a division), with more behind it there.
 /**
  * @param {Unit} unit
