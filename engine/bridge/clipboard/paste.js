@@ -309,6 +309,15 @@ function putJoined(fragment, open, range) {
   join();
 }
 
+// What a paragraph shows. At its edges the source's line ends are layout; a blank parted words.
+/** @param {AnyNode} node */
+function lineOf(node) {
+  const text = plainText(node);
+  const from = /^[ \t]*\n/.test(node.textContent) && text.startsWith(' ') ? 1 : 0;
+  const isLayout = /\n[ \t]*$/.test(node.textContent) && text.endsWith(' ');
+  return text.slice(from, isLayout ? -1 : undefined);
+}
+
 /**
  * What a node's blocks hold, each as a line.
  * @param {AnyNode} node
@@ -316,8 +325,7 @@ function putJoined(fragment, open, range) {
  */
 export const linesOf = (node) => (node.firstChild && holdsBlock(node)
   ? [...node.childNodes].filter((child) => !dom.isBlank(child)).flatMap(linesOf)
-  : [dom.isBlock(node) && !dom.isPreformatted(node) ? plainText(node).replace(/^ | $/g, '')
-    : plainText(node)]);
+  : [dom.isBlock(node) && !dom.isPreformatted(node) ? lineOf(node) : plainText(node)]);
 
 // Puts a fragment in at the caret.
 /**
