@@ -114,14 +114,15 @@ void PathBar::Place() {
 }
 
 void PathBar::LetChooseOuter() {
+  delete outerMenu_;
   auto *menu = new QMenu(this);
+  outerMenu_ = menu;
   menu->setObjectName(QStringLiteral("mnuOuterElements"));
   for (int index = 0; index < first_; ++index) {
     QString caption = path_[index].simplified();
     QAction *item = menu->addAction(caption.replace(u'&', QStringLiteral("&&")));
     connect(item, &QAction::triggered, this, [this, index] { Q_EMIT Chosen(index); });
   }
-  connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
   menu->popup(outer_->mapToGlobal(QPoint()) - QPoint(0, menu->sizeHint().height()));
 }
 

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
 #include <vector>
 
+class QMenu;
 class QToolButton;
 
 namespace velor {
@@ -52,6 +54,7 @@ class PathBar final : public QWidget {
   std::vector<QToolButton *> InSight() const;
 
   QStringList path_;
+  QPointer<QMenu> outerMenu_;           ///< the one shown last
   QToolButton *outer_;                  ///< lists the elements without room
   std::vector<QToolButton *> buttons_;  ///< as many as the longest path had
   int first_ = 0;                       ///< the first element with a button in sight

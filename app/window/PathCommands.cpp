@@ -81,7 +81,10 @@ void PathCommands::ShowMenu(int index, QPoint place) {
   if (alive.isNull() || page.isNull()) return;
 
   using Deed = HtmlDocument::PathDeed;
+  // The last one may have opened a window from within its own event: it stays until the next.
+  delete menu_;
   auto *menu = new QMenu(&bar_);
+  menu_ = menu;
   menu->setObjectName(QStringLiteral("mnuPath"));
   const auto add = [&](const char *name, const QString &caption, const auto &run) {
     QAction *item = menu->addAction(caption);
@@ -102,7 +105,6 @@ void PathCommands::ShowMenu(int index, QPoint place) {
   add("pathRemoveTag", Words::tr("&Remove Tag, Keep Content"), act(Deed::RemoveTag))
       ->setEnabled(choices.tagCanGo);
   add("pathDelete", Words::tr("&Delete"), act(Deed::Delete));
-  connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
   menu->popup(place);
 }
 

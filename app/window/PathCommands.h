@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QPointer>
 
 class QMenu;
 
@@ -36,6 +37,7 @@ class PathCommands final : public QObject {
   PathBar &bar_;
   PageArea &area_;
   Dialogs &dialogs_;
+  QPointer<QMenu> menu_;  ///< the one shown last
 };
 
 }  // namespace velor

@@ -55,10 +55,7 @@ class PathBarTest : public WindowFixture {
   }
   /// The menu of an element, asked for by the menu key.
   QMenu &MenuOf(const char *button) {
-    if (auto *old = bar.findChild<QMenu *>(QStringLiteral("mnuPath"))) {
-      old->close();
-      QCoreApplication::sendPostedEvents(old, QEvent::DeferredDelete);
-    }
+    if (auto *old = bar.findChild<QMenu *>(QStringLiteral("mnuPath"))) old->close();
     auto &element = *Find<QToolButton>(button);
     QContextMenuEvent request(QContextMenuEvent::Keyboard, QPoint(), QPoint());
     QApplication::sendEvent(&element, &request);
@@ -174,13 +171,16 @@ TEST_F(PathBarTest, PropertiesAreThoseOfTheElementsKind) {
   component.properties[PropertySubject::Cell] = {{"width", "40"}};
   component.properties[PropertySubject::Element] = {{"tag", "p"}, {"class", "intro"}};
   const auto change = [this](const char *button, const char *title, const char *field) {
-    dialogs.ExpectModal([=](QWidget &dialog) {
+    dialogs.ExpectModal([=, this](QWidget &dialog) {
       EXPECT_EQ(dialog.windowTitle().toStdString(), title);
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      EXPECT_NE(bar.findChild<QMenu *>(QStringLiteral("mnuPath")), nullptr)
+          << "its event is still under way";
       dialog.findChild<QLineEdit *>(QStringLiteral("prp_") + QLatin1String(field))
           ->setText(QStringLiteral("7"));
       dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
     });
-    ItemOf(MenuOf(button), "pathProperties")->trigger();
+    QTest::keyClick(&MenuOf(button), Qt::Key_P);
   };
   change("path_3", "Table Cell Properties", "width");
   change("path_4", "Element Properties", "class");
