@@ -73,8 +73,7 @@ QFormLayout *AddFrame(QVBoxLayout *page, const QString &title) {
   return form;
 }
 
-TextBox *AddTextBox(QFormLayout *form, const QString &name, const QString &label,
-                    QPushButton *beside) {
+TextBox *AddTextBox(QFormLayout *form, const QString &name, const QString &label, QWidget *beside) {
   auto *box = new TextBox;
   Name(*box, name, label);
   auto *row = new QHBoxLayout;

@@ -32,9 +32,9 @@ QFormLayout *AddForm(QVBoxLayout *page);
 /// Appends a form within a frame that has this title.
 QFormLayout *AddFrame(QVBoxLayout *page, const QString &title);
 
-/// Appends a text box as wide as its row, with the button `beside` at its right where given.
+/// Appends a text box as wide as its row, with the control `beside` at its right where given.
 TextBox *AddTextBox(QFormLayout *form, const QString &name, const QString &label,
-                    QPushButton *beside = nullptr);
+                    QWidget *beside = nullptr);
 /// Appends a narrow text box for a number, with `unit` at its right.
 TextBox *AddNumberBox(QFormLayout *form, const QString &name, const QString &label,
                       const QString &value, const QString &unit = {});

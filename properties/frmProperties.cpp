@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "properties/frmProperties.h"
 
+#include "chrome/ColorPicker.h"
+#include "chrome/ColorValue.h"
 #include "insert/FormParts.h"
 #include "insert/TextBox.h"
 #include "platform/Words.h"
@@ -48,6 +50,28 @@ frmProperties::frmProperties(const PropertySheet &sheet, const PropertyValues &v
   setMinimumWidth(ComfortableWidth);
 }
 
+ColorPicker *frmProperties::MakePicker(const QString &name, QString label) {
+  auto *picker = new ColorPicker(QStringLiteral("backcolor"), this);
+  picker->setObjectName(name + QStringLiteral("_picker"));
+  label = label.remove(u'&').remove(u':');
+  picker->setAccessibleName(Words::tr("Choose: %1").arg(label));
+  picker->setToolTip(picker->accessibleName());
+  return picker;
+}
+
+void frmProperties::Connect(TextBox &box, const QString &name) {
+  auto *picker = findChild<ColorPicker *>(name + QStringLiteral("_picker"));
+  const auto show = [picker](const QString &text) {
+    if (QColor::isValidColor(text)) picker->SetColor(ToColorValue(QColor(text)));
+  };
+  show(box.text());
+  connect(&box, &QLineEdit::textChanged, picker, show);
+  connect(picker, &ColorPicker::ColorChosen, &box, [this, &box](std::int32_t color) {
+    refusal_->hide();
+    box.setText(FromColorValue(color).name().toUpper());
+  });
+}
+
 void frmProperties::AddRow(const PropertyField &field, const QString &value, QFormLayout *form) {
   const QString name = NameOf(field);
   const QString label = Words::tr(field.label);
@@ -57,8 +81,10 @@ void frmProperties::AddRow(const PropertyField &field, const QString &value, QFo
     case FieldKind::Text:
     case FieldKind::Length:
     case FieldKind::Color:
-      control = row.text = FormParts::AddTextBox(form, name, label);
+      control = row.text = FormParts::AddTextBox(
+          form, name, label, field.kind == FieldKind::Color ? MakePicker(name, label) : nullptr);
       row.text->setText(value);
+      if (field.kind == FieldKind::Color) Connect(*row.text, name);
       row.text->setPlaceholderText(Words::tr(field.help));
       connect(row.text, &QLineEdit::textEdited, this, [this] { refusal_->hide(); });
       break;

@@ -14,6 +14,7 @@ class QLabel;
 
 namespace velor {
 
+class ColorPicker;
 class TextBox;
 
 /// The one frame of all properties dialogs: a sheet's fields with their values, OK, Apply, Cancel.
@@ -38,6 +39,9 @@ class frmProperties final : public QDialog {
   };
 
   void AddRow(const PropertyField &field, const QString &value, QFormLayout *form);
+  /// The palette beside a colour's box. Before the row is there, with which Connect connects it.
+  ColorPicker *MakePicker(const QString &name, QString label);
+  void Connect(TextBox &box, const QString &name);
   static QString ValueOf(const Row &row);
   /// False where a field refuses its text.
   bool Apply();

@@ -3651,6 +3651,10 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>Choose: %1</source>
+        <translation>Auswählen: %1</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -3639,6 +3639,10 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>%1 %</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>Choose: %1</source>
+        <translation>選擇：%1</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -37,7 +37,7 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"app/settings", {"platform"}},
       {"chrome", {"platform"}},
       {"insert", {"chrome", "platform"}},
-      {"properties", {"insert", "platform"}},
+      {"properties", {"insert", "chrome", "platform"}},
       {"projects", {"chrome", "platform", "app/settings"}},
       {"editor", {"chrome", "pictures", "page/source", "page/text", "platform", "app/settings"}},
       {"recovery/offers", {"editor", "chrome", "page/saving", "page/text", "platform"}},

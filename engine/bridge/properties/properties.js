@@ -11,6 +11,10 @@ import { work } from '../page/working.js';
 import { readView } from '../talk/commands.js';
 import { schedulePush } from '../talk/pace.js';
 
+// What a dialog has changed since it asked for its properties: the step, and the values.
+/** @type {{ step: Step | null, name: string, changed: Record<string, string> } | null} */
+let applied = null;
+
 /**
  * The properties of a subject ('page', 'image', 'table', 'cell', 'link', 'fonts', 'element') by
  * their names; none where it is not there. `index` is that of the element in the path.
@@ -19,6 +23,7 @@ import { schedulePush } from '../talk/pace.js';
  * @returns {Record<string, string>}
  */
 export function properties(name, index) {
+  applied = null;
   if (!dom.isEditable()) return {};
   const { find, fields } = subjectOf(name);
   const elements = find(readView(), index);
@@ -30,25 +35,41 @@ export function properties(name, index) {
 }
 
 /**
- * Changes properties of a subject, as one step of the history; those that are not given stay.
+ * @param {string} name
+ * @param {Record<string, string>} changed
+ * @param {number} index
+ */
+function write(name, changed, index) {
+  const view = readView();
+  const { find, fields } = subjectOf(name);
+  let elements = find(view, index);
+  if (!elements.length) return;
+  if (!view.range?.collapsed) resolveAll();
+  const saved = selection.save();
+  for (const [field, value] of Object.entries(changed)) {
+    const { write: put } = fields[field] ?? {};
+    if (put) elements = elements.map((element) => put(element, value) ?? element);
+  }
+  if (name !== 'fonts') selection.restore(saved);
+}
+
+/**
+ * Changes properties of a subject, as one step of the history; those that are not given stay. What
+ * a dialog changes more than once is one step too.
  * @param {string} name
  * @param {Record<string, string>} changed
  * @param {number} [index]
  */
 export function setProperties(name, changed, index) {
   if (!dom.isEditable()) return;
-  work(() => history.step('properties', () => {
-    const view = readView();
-    const { find, fields } = subjectOf(name);
-    let elements = find(view, index);
-    if (!elements.length) return;
-    if (!view.range?.collapsed) resolveAll();
-    const saved = selection.save();
-    for (const [field, value] of Object.entries(changed)) {
-      const { write } = fields[field] ?? {};
-      if (write) elements = elements.map((element) => write(element, value) ?? element);
+  work(() => {
+    let wanted = changed;
+    if (applied?.name === name && applied.step === history.lastStep()) {
+      history.undo();
+      wanted = { ...applied.changed, ...changed };
     }
-    if (name !== 'fonts') selection.restore(saved);
-  }));
+    const isChanged = history.step('properties', () => write(name, wanted, index));
+    applied = isChanged ? { step: history.lastStep(), name, changed: wanted } : null;
+  });
   schedulePush();
 }

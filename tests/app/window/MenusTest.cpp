@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings/modSettingManager.h"
 #include "app/window/PageTabs.h"
+#include "chrome/ColorPicker.h"
 #include "editor/frmMain.h"
 #include "properties/frmProperties.h"
 #include "tests/app/window/WindowFixture.h"
@@ -327,6 +328,25 @@ TEST_F(PropertyDialogs, RefuseWhatIsNoLengthOrColour) {
   Choose("extTablePro");
   EXPECT_EQ(Written(),
             QStringList(QStringLiteral("SetProperties(2, background=#112233 width=120)")));
+}
+
+TEST_F(PropertyDialogs, AColourIsChosenFromThePaletteBesideItsBox) {
+  FakeEditingComponent &component = Component(NewPage());
+  component.properties[PropertySubject::Table] = {{"width", ""}, {"background", "#112233"}};
+  dialogs.ExpectModal([](QWidget &dialog) {
+    auto *picker = dialog.findChild<ColorPicker *>(QStringLiteral("prp_background_picker"));
+    ASSERT_NE(picker, nullptr);
+    EXPECT_EQ(picker->Color(), 0x332211);
+    EXPECT_EQ(picker->accessibleName(), QStringLiteral("Choose: Background"));
+    auto &box = static_cast<QLineEdit &>(Control(dialog, "background"));
+    box.setText(QStringLiteral("red"));
+    EXPECT_EQ(picker->Color(), 0x0000FF);
+    Q_EMIT picker->ColorChosen(0x00C08040);
+    EXPECT_EQ(box.text(), QStringLiteral("#4080C0"));
+    Press(dialog, "cmdOK");
+  });
+  Choose("extTablePro");
+  EXPECT_EQ(Written(), QStringList(QStringLiteral("SetProperties(2, background=#4080C0)")));
 }
 
 TEST_F(PropertyDialogs, NoTwoFieldsOfOneShareAnAltKey) {
