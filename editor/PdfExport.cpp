@@ -117,9 +117,11 @@ void PdfExport::End() {
   disconnect(closing_);
   printing_ = nullptr;
   escape_->setEnabled(false);
-  QWidget *front = context_.mainWindow.windows.Current();
-  if (front != nullptr && isAncestorOf(QApplication::focusWidget()))
-    front->setFocus(Qt::OtherFocusReason);
+  // Asked for only then: at the end of the program the windows go with their area.
+  if (isAncestorOf(QApplication::focusWidget())) {
+    if (QWidget *front = context_.mainWindow.windows.Current())
+      front->setFocus(Qt::OtherFocusReason);
+  }
   hide();
 }
 
