@@ -182,28 +182,21 @@ TEST_F(RealPageEdits, TheElementsPathTakesATagOffAndGivesAClassOfTheLinkedStyleS
   frmMain &page = Open(File,
                        "<html><head><link rel=stylesheet href=a.css></head><body>\n"
                        "<P ALIGN=center>one <B>two</B></P>\n<P>three</P>\n</body></html>\n");
-  const auto chooseByKeys = [&](int steps, const QList<Qt::Key> &keys) {
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    page.DHTML1().SetFocus();
-    ASSERT_NE(QApplication::focusWidget(), nullptr);
-    QTest::keyClick(InputOf(page), Qt::Key_F6, Qt::ShiftModifier);
-    auto *bar = Find<QWidget>("pathBar");
-    for (int pane = 0; pane < 9 && !bar->isAncestorOf(QApplication::focusWidget()); ++pane)
-      QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
-    for (int step = 0; step < steps; ++step)
-      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
-    QWidget *element = QApplication::focusWidget();
-    ASSERT_TRUE(bar->isAncestorOf(element));
-    QContextMenuEvent request(QContextMenuEvent::Keyboard, QPoint(),
-                              element->mapToGlobal(QPoint()));
-    QApplication::sendEvent(element, &request);
+  const auto choose = [](QWidget &element, const QList<Qt::Key> &keys) {
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, QPoint(), element.mapToGlobal(QPoint()));
+    QApplication::sendEvent(&element, &request);
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     for (const Qt::Key key : keys) QTest::keyClick(QApplication::activePopupWidget(), key);
   };
   PutCaret(page, QStringLiteral("b"));
   ASSERT_TRUE(WaitFor([&] { return page.DHTML1().Document().Path().size() == 3; }));
-  chooseByKeys(0, {Qt::Key_R});
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  auto *bar = Find<QWidget>("pathBar");
+  for (int pane = 0; pane < 9 && !bar->isAncestorOf(QApplication::focusWidget()); ++pane)
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
+  ASSERT_TRUE(bar->isAncestorOf(QApplication::focusWidget()));
+  choose(*QApplication::focusWidget(), {Qt::Key_R});
   ASSERT_TRUE(WaitFor([&] { return !Holds(page, QStringLiteral("<b>")); })) << Seen(page);
   Key(page, Qt::Key_A, Qt::ControlModifier);
   ASSERT_TRUE(WaitFor([&] { return page.DHTML1().Document().Path().size() == 1; }));
@@ -211,7 +204,7 @@ TEST_F(RealPageEdits, TheElementsPathTakesATagOffAndGivesAClassOfTheLinkedStyleS
                                           "getSelection().setBaseAndExtent(p.firstChild, 1, "
                                           "q.firstChild, 2) }"));
   ASSERT_TRUE(WaitFor([&] { return page.DHTML1().Document().Path().size() == 2; }));
-  chooseByKeys(0, {Qt::Key_C, Qt::Key_Return});
+  choose(*Find<QWidget>("path_1"), {Qt::Key_C, Qt::Key_Return});
   ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("class=\"note\"")); })) << Seen(page);
   Choose("mnuSave");
   EXPECT_EQ(Bytes(File).toStdString(),
