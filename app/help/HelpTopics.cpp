@@ -38,6 +38,7 @@ constexpr HelpTopic Topics[] = {
     {"FrmFld", nullptr, "repair.html#picker"},
     {"FrmDrives", nullptr, "drives.html#window"},
     {"FrmPrint", nullptr, "printing.html#print"},
+    {"FrmSiteSpelling", nullptr, "spelling.html#pages"},
     {"FrmSettings", nullptr, "settings.html#list"},
     {"CommandPalette", nullptr, "commands.html#palette"},
     {"frmCompare", nullptr, "outside.html#both"},

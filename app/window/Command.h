@@ -51,6 +51,7 @@ enum class CommandId {
   FindPrevious,
   Spelling,
   WordAtCaret,
+  SpellingOfPages,
   WrapSource,
   Drives,
   Settings,

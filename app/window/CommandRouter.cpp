@@ -12,6 +12,7 @@
 #include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
 #include "editor/PageWords.h"
+#include "editor/SiteSpelling.h"
 #include "editor/SourceWrap.h"
 #include "editor/SpellingBar.h"
 #include "editor/frmBrowser.h"
@@ -57,6 +58,17 @@ EditingCommand WithShift(EditingCommand command) {
   if (command == EditingCommand::InsertRowBelow) return EditingCommand::InsertRowAbove;
   if (command == EditingCommand::InsertColumnRight) return EditingCommand::InsertColumnLeft;
   return command;
+}
+
+/// Lists the unknown words of all open pages.
+void ShowSiteSpelling(EditorContext &context) {
+  std::vector<SiteWord> words = UnknownWordsOfPages(context);
+  if (words.empty()) {
+    context.mainWindow.status.Report(Words::tr("There is no unknown word in the open pages"));
+    return;
+  }
+  FrmSiteSpelling window(context, std::move(words), QApplication::activeWindow());
+  context.platform.dialogs.RunModal(window);
 }
 
 }  // namespace
@@ -178,6 +190,9 @@ void CommandRouter::Run(const Command &command) {
       break;
     case CommandId::Spelling:
       if (frmMain *page = ActiveDocument()) page->Spelling().GoOn();
+      break;
+    case CommandId::SpellingOfPages:
+      ShowSiteSpelling(context_);
       break;
     case CommandId::WordAtCaret:
       if (frmMain *page = ActiveDocument()) ShowWordMenu(*page);

@@ -121,6 +121,7 @@ constexpr MenuRow Rows[] = {
     Separator("mnu8", "mnuTools"),
     Found(Words::Mark("spell dictionary words check language"), Beyond(Item("mnuSpelling", Words::Mark("Spelling... (&Y)"), "mnuTools", {CommandId::Spelling}, nullptr, "F7"))),
     Found(Words::Mark("spell suggestions word"), Beyond(Item("mnuWordAtCaret", Words::Mark("Correct Word (&J)"), "mnuTools", {CommandId::WordAtCaret}, nullptr, "Ctrl+."))),
+    Found(Words::Mark("site dictionary words check"), Beyond(Item("mnuSpellingOfPages", Words::Mark("Spelling of All Pages... (&H)"), "mnuTools", {CommandId::SpellingOfPages}))),
     Separator("mnu9", "mnuTools"),
     Found(Words::Mark("hyperlink address url"), Beyond(Item("mnuLink", Words::Mark("Link... (&L)"), "mnuTools", {CommandId::InsertHyperlink}, nullptr, "Ctrl+K"))),
     Found(Words::Mark("open go preview"), Beyond(Item("mnuFollowLink", Words::Mark("Follow Link (&K)"), "mnuTools", {CommandId::FollowLink}))),

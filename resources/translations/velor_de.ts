@@ -3655,6 +3655,54 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>Choose: %1</source>
         <translation>Auswählen: %1</translation>
     </message>
+    <message>
+        <source>There is no unknown word in the open pages</source>
+        <translation>In den offenen Seiten ist kein unbekanntes Wort</translation>
+    </message>
+    <message>
+        <source>site dictionary words check</source>
+        <translation>Website Wörterbuch Wörter prüfen</translation>
+    </message>
+    <message>
+        <source>Spelling of All Pages... (&amp;H)</source>
+        <translation>Rechtschreibung aller Seiten... (&amp;H)</translation>
+    </message>
+    <message>
+        <source>Unknown Words of All Open Pages</source>
+        <translation>Unbekannte Wörter aller offenen Seiten</translation>
+    </message>
+    <message>
+        <source>Unknown words</source>
+        <translation>Unbekannte Wörter</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Wort</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>Change &amp;to:</source>
+        <translation>Ändern &amp;in:</translation>
+    </message>
+    <message>
+        <source>Change &amp;Everywhere</source>
+        <translation>Überall än&amp;dern</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore</source>
+        <translation>Ü&amp;bergehen</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Aufnehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -3643,6 +3643,54 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>Choose: %1</source>
         <translation>選擇：%1</translation>
     </message>
+    <message>
+        <source>There is no unknown word in the open pages</source>
+        <translation>開啟的網頁沒有未知字詞</translation>
+    </message>
+    <message>
+        <source>site dictionary words check</source>
+        <translation>網站 字典 字詞 檢查</translation>
+    </message>
+    <message>
+        <source>Spelling of All Pages... (&amp;H)</source>
+        <translation>所有網頁的拼字檢查... (&amp;H)</translation>
+    </message>
+    <message>
+        <source>Unknown Words of All Open Pages</source>
+        <translation>所有開啟網頁的未知字詞</translation>
+    </message>
+    <message>
+        <source>Unknown words</source>
+        <translation>未知字詞</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>字詞</translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation>次數</translation>
+    </message>
+    <message>
+        <source>Change &amp;to:</source>
+        <translation>改為(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Change &amp;Everywhere</source>
+        <translation>全部變更(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore</source>
+        <translation>略過(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>加入(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>關閉(&amp;C)</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -484,6 +484,7 @@ mnuFindPrevious "Find Previous (&U)" Shift+F3
 mnu8 "-"
 mnuSpelling "Spelling... (&Y)" F7
 mnuWordAtCaret "Correct Word (&J)" Ctrl+.
+mnuSpellingOfPages "Spelling of All Pages... (&H)"
 mnu9 "-"
 mnuLink "Link... (&L)" Ctrl+K
 mnuFollowLink "Follow Link (&K)"

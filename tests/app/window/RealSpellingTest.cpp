@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QTreeWidget>
 #include <QWebEnginePage>
 
 namespace velor {
@@ -186,6 +187,31 @@ TEST_F(RealSpelling, AnAddedWordIsInThePersonsFileAndItsWavesGo) {
   ASSERT_TRUE(GoesTo(page, "gardn"));
   EXPECT_TRUE(WavesCome(page, 1));
   EXPECT_EQ(Bytes(QStringLiteral("words.txt")).toStdString(), "hose\n");
+}
+
+TEST_F(RealSpelling, AllOpenPagesAreCheckedAndCorrectedTogether) {
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  frmMain &other = Open(QStringLiteral("other.htm"), "<p>gardn and gardn\n");
+  dialogs.ExpectModal([](QWidget &list) {
+    list.show();
+    auto &words = *list.findChild<QTreeWidget *>(QStringLiteral("lstWords"));
+    QStringList rows;
+    for (int row = 0; row < words.topLevelItemCount(); ++row) {
+      const QTreeWidgetItem &item = *words.topLevelItem(row);
+      rows << item.text(0) + u' ' + item.text(1);
+    }
+    EXPECT_EQ(rows, (QStringList{"gardn 3", "hose 3"})) << rows.join(u'|').toStdString();
+    list.findChild<QComboBox *>(QStringLiteral("cobChangeTo"))
+        ->setEditText(QStringLiteral("garden"));
+    list.findChild<QPushButton *>(QStringLiteral("cmdChangeEverywhere"))->click();
+    EXPECT_EQ(words.topLevelItemCount(), 1);
+    list.findChild<QPushButton *>(QStringLiteral("cmdClose"))->click();
+  });
+  Choose("mnuSpellingOfPages");
+  EXPECT_TRUE(WaitFor([&other] { return Holds(other, QStringLiteral("garden and garden")); }));
+  EXPECT_TRUE(WaitFor([&page] { return !Holds(page, QStringLiteral("gardn")); })) << Seen(page);
+  EXPECT_EQ(Bytes(QStringLiteral("words.htm")).toStdString(), Words.toStdString())
+      << "it is changed, not saved";
 }
 
 }  // namespace

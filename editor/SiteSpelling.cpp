@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/SiteSpelling.h"
+
+#include "editor/PageSlots.h"
+#include "editor/PageWords.h"
+#include "editor/frmMain.h"
+#include "platform/Platform.h"
+#include "platform/Words.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <map>
+#include <utility>
+
+namespace velor {
+
+namespace {
+
+enum Column { WordColumn, CountColumn, PagesColumn };
+
+/// Calls `deed` with each open page that has a spelling; it may wait for the page.
+template <typename Deed>
+void ForEachPage(EditorContext &context, Deed deed) {
+  for (int number = 1; number <= context.pages.PageCount(); ++number) {
+    frmMain *page = context.pages.Page(number);
+    if (page != nullptr && SpellingOf(*page) != nullptr) deed(*page);
+  }
+}
+
+}  // namespace
+
+std::vector<SiteWord> UnknownWordsOfPages(EditorContext &context) {
+  std::map<QString, SiteWord> found;
+  ForEachPage(context, [&](frmMain &page) {
+    const QString name = page.ShownName();
+    for (const UnknownWord &each : SpellingOf(page)->All()) {
+      SiteWord &word = found[each.word];
+      if (word.count == 0) word.word = each;
+      ++word.count;
+      if (!word.pages.contains(name)) word.pages << name;
+    }
+  });
+  std::vector<SiteWord> words;
+  words.reserve(found.size());
+  for (auto &[key, word] : found) words.push_back(std::move(word));
+  return words;
+}
+
+int CorrectInPages(EditorContext &context, const QString &word, const QString &other) {
+  int count = 0;
+  ForEachPage(context, [&](frmMain &page) { count += SpellingOf(page)->CorrectAll(word, other); });
+  return count;
+}
+
+FrmSiteSpelling::FrmSiteSpelling(EditorContext &context, std::vector<SiteWord> words,
+                                 QWidget *parent)
+    : QDialog(parent), context_(context), words_(std::move(words)) {
+  setObjectName(QStringLiteral("FrmSiteSpelling"));
+  setWindowTitle(Words::tr("Unknown Words of All Open Pages"));
+  setModal(true);
+  Build();
+  Fill();
+}
+
+void FrmSiteSpelling::Build() {
+  auto *rows = new QVBoxLayout(this);
+  list_ = new QTreeWidget;
+  list_->setObjectName(QStringLiteral("lstWords"));
+  list_->setAccessibleName(Words::tr("Unknown words"));
+  list_->setHeaderLabels({Words::tr("Word"), Words::tr("Times"), Words::tr("Pages")});
+  list_->setRootIsDecorated(false);
+  list_->setUniformRowHeights(true);
+  list_->setMinimumSize(440, 240);
+  rows->addWidget(list_, 1);
+  connect(list_, &QTreeWidget::currentItemChanged, this, &FrmSiteSpelling::ShowSuggestions);
+
+  auto *changing = new QHBoxLayout;
+  auto *label = new QLabel(Words::tr("Change &to:"));
+  other_ = new QComboBox;
+  other_->setObjectName(QStringLiteral("cobChangeTo"));
+  other_->setAccessibleName(Words::tr("Change to"));
+  other_->setEditable(true);
+  other_->setInsertPolicy(QComboBox::NoInsert);
+  label->setBuddy(other_);
+  changing->addWidget(label);
+  changing->addWidget(other_, 1);
+  rows->addLayout(changing);
+
+  auto *buttons = new QHBoxLayout;
+  result_ = new QLabel;
+  result_->setObjectName(QStringLiteral("lblResult"));
+  buttons->addWidget(result_, 1);
+  const auto add = [&](const char *name, const QString &caption, const auto &act) {
+    auto *button = new QPushButton(caption);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, act);
+    buttons->addWidget(button);
+    return button;
+  };
+  add("cmdChangeEverywhere", Words::tr("Change &Everywhere"), &FrmSiteSpelling::ChangeEverywhere)
+      ->setDefault(true);
+  add("cmdIgnore", Words::tr("&Ignore"),
+      [this] { TakeForKnown([](frmMain &page, const QString &word) { IgnoreWord(page, word); }); });
+  add("cmdAddWord", Words::tr("&Add"), [this] {
+    TakeForKnown([](frmMain &page, const QString &word) { AddWord(page, word, WordHome::Person); });
+  });
+  add("cmdClose", Words::tr("&Close"), &QDialog::accept);
+  rows->addLayout(buttons);
+}
+
+void FrmSiteSpelling::Fill() {
+  for (const SiteWord &each : words_) {
+    auto *row = new QTreeWidgetItem(list_);
+    row->setText(WordColumn, each.word.word);
+    row->setText(CountColumn, QString::number(each.count));
+    row->setText(PagesColumn, each.pages.join(QStringLiteral(", ")));
+    row->setToolTip(PagesColumn, row->text(PagesColumn));
+  }
+  list_->resizeColumnToContents(WordColumn);
+  list_->resizeColumnToContents(CountColumn);
+  list_->setCurrentItem(list_->topLevelItem(0));
+}
+
+const SiteWord *FrmSiteSpelling::Chosen() const {
+  const int row = list_->indexOfTopLevelItem(list_->currentItem());
+  return row < 0 ? nullptr : &words_[static_cast<std::size_t>(row)];
+}
+
+void FrmSiteSpelling::ShowSuggestions() {
+  other_->clear();
+  const SiteWord *chosen = Chosen();
+  if (chosen == nullptr) return;
+  const auto &[word, language] = chosen->word;
+  other_->addItems(context_.platform.spelling->Suggestions(word, language));
+  if (other_->count() == 0) other_->setEditText(word);
+}
+
+void FrmSiteSpelling::ChangeEverywhere() {
+  const SiteWord *chosen = Chosen();
+  if (chosen == nullptr) return;
+  const QPointer<FrmSiteSpelling> alive(this);
+  const int count = CorrectInPages(context_, chosen->word.word, other_->currentText());
+  if (alive.isNull()) return;
+  result_->setText(Words::tr("%n word(s) changed", "", count));
+  Drop();
+}
+
+template <typename Deed>
+void FrmSiteSpelling::TakeForKnown(Deed deed) {
+  const SiteWord *chosen = Chosen();
+  if (chosen == nullptr) return;
+  // Every page has the person's words.
+  frmMain *any = nullptr;
+  ForEachPage(context_, [&any](frmMain &page) { any = &page; });
+  if (any != nullptr) deed(*any, chosen->word.word);
+  result_->clear();
+  Drop();
+}
+
+void FrmSiteSpelling::Drop() {
+  const int row = list_->indexOfTopLevelItem(list_->currentItem());
+  // The list first: it chooses another row, whose word is found by the number that it had.
+  delete list_->takeTopLevelItem(row);
+  words_.erase(words_.begin() + row);
+}
+
+}  // namespace velor
