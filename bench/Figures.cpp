@@ -19,6 +19,7 @@ constexpr Entry Table[] = {
     {"bridge", BridgeFigures},
     {"commands", CommandFigures},
     {"find", FindFigures},
+    {"spelling", SpellingFigures},
     {"toolbar", ToolbarFigure},
     {"read", ReadingFigures},
     {"save", SavingFigures},

@@ -22,6 +22,8 @@ void CommandFigures();
 
 /// What a key in the find bar costs (FindFigures.cpp).
 void FindFigures();
+/// What the waves under unknown words cost a key (SpellingFigures.cpp).
+void SpellingFigures();
 /// A key and the toolbar of the whole program (ToolbarFigures.cpp).
 void ToolbarFigure();
 /// What keeping a page for a recovery costs (JournalFigures.cpp).

@@ -48,7 +48,7 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"tests/support", {}},
       {"bench",
        {"app", "editor", "projects", "chrome", "qt", "engine", "page/text", "pictures", "catalogue",
-        "files", "recovery", "platform", "tests/support"}},
+        "files", "recovery", "spelling", "platform", "tests/support"}},
   };
   return table;
 }
