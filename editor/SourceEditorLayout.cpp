@@ -8,6 +8,7 @@
 #include "editor/FindBar.h"
 #include "editor/SourceWrap.h"
 #include "editor/frmCodeEditor.h"
+#include "platform/Dialogs.h"
 #include "platform/Platform.h"
 #include "platform/Words.h"
 
@@ -15,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>
@@ -22,6 +24,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace velor {
@@ -33,22 +36,23 @@ struct ToolRow {
   const char *caption;
   /// The key with which the source control does it; empty where it has none.
   QStringView keys;
+  SourceTool tool;
 };
 
 /// In the order of the image list.
 constexpr std::array<ToolRow, 12> Tools{{
-    {u"copy", Words::Mark("Copy"), u"Ctrl+C"},
-    {u"cut", Words::Mark("Cut"), u"Ctrl+X"},
-    {u"find next", Words::Mark("Find Next"), u"F3"},
-    {u"find", Words::Mark("Find"), u"Ctrl+F"},
-    {u"goto line number", Words::Mark("Go to Line Number"), u""},
-    {u"indent", Words::Mark("Indent"), u"Tab"},
-    {u"mark all found", Words::Mark("Mark All Found"), u""},
-    {u"outdent", Words::Mark("Outdent"), u"Shift+Tab"},
-    {u"paste", Words::Mark("Paste"), u"Ctrl+V"},
-    {u"redo", Words::Mark("Redo"), u"Ctrl+Y"},
-    {u"replace", Words::Mark("Replace"), u"Ctrl+H"},
-    {u"undo", Words::Mark("Undo"), u"Ctrl+Z"},
+    {u"copy", Words::Mark("Copy"), u"Ctrl+C", SourceTool::Copy},
+    {u"cut", Words::Mark("Cut"), u"Ctrl+X", SourceTool::Cut},
+    {u"find next", Words::Mark("Find Next"), u"F3", SourceTool::FindNext},
+    {u"find", Words::Mark("Find"), u"Ctrl+F", SourceTool::Find},
+    {u"goto line number", Words::Mark("Go to Line Number"), u"", SourceTool::GoToLine},
+    {u"indent", Words::Mark("Indent"), u"Tab", SourceTool::Indent},
+    {u"mark all found", Words::Mark("Mark All Found"), u"", SourceTool::MarkAll},
+    {u"outdent", Words::Mark("Outdent"), u"Shift+Tab", SourceTool::Outdent},
+    {u"paste", Words::Mark("Paste"), u"Ctrl+V", SourceTool::Paste},
+    {u"redo", Words::Mark("Redo"), u"Ctrl+Y", SourceTool::Redo},
+    {u"replace", Words::Mark("Replace"), u"Ctrl+H", SourceTool::Replace},
+    {u"undo", Words::Mark("Undo"), u"Ctrl+Z", SourceTool::Undo},
 }};
 constexpr std::array<const char *, 7> Tabs{
     Words::Mark("Standard"), Words::Mark("Forms"),  Words::Mark("Fonts"),  Words::Mark("Lists"),
@@ -108,6 +112,7 @@ void frmCodeEditor::BuildLayout() {
 }
 
 QWidget *frmCodeEditor::BuildTop() {
+  const bool hasAdditions = modSettingManager::HasAdditions(context_.platform.registry);
   auto *toolBar = new QToolBar;
   toolBar->setObjectName(QStringLiteral("tbrGeneral"));
   toolBar->setAccessibleName(Words::tr("Source Tools"));
@@ -116,8 +121,13 @@ QWidget *frmCodeEditor::BuildTop() {
   for (const ToolRow &row : Tools) {
     ToolBarAction *button = AddToolBarButton(*toolBar, row.key.toString(), Words::tr(row.caption),
                                              Tooltip(row), ButtonKind::Click);
-    // Tab skips buttons that do nothing.
-    toolBar->widgetForAction(button)->setFocusPolicy(Qt::NoFocus);
+    button->setObjectName(row.key.toString());
+    if (hasAdditions) {
+      connect(button, &ToolBarAction::Chosen, this, [this, tool = row.tool] { Use(tool); });
+    } else {
+      // Tab skips buttons that do nothing.
+      toolBar->widgetForAction(button)->setFocusPolicy(Qt::NoFocus);
+    }
   }
 
   auto *applyButton = new QPushButton(Words::tr("Apply to Document"));
@@ -134,6 +144,8 @@ QWidget *frmCodeEditor::BuildTop() {
   elementGroups->setExpanding(false);
   elementGroups->setFocusPolicy(Qt::NoFocus);
   for (const char *tab : Tabs) elementGroups->addTab(Words::tr(tab));
+  // They are empty.
+  elementGroups->setEnabled(!hasAdditions);
 
   auto *bandBar = new QFrame;
   bandBar->setObjectName(QStringLiteral("CoolBar"));
@@ -158,11 +170,11 @@ QWidget *frmCodeEditor::BuildMain() {
   code_->Widget()->setAccessibleName(Words::tr("HTML source"));
   auto *sourceArea = new QWidget;
   sourceArea->setObjectName(QStringLiteral("picMain"));
-  auto *findBar = new FindBar(context_.find, sourceArea);
-  findBar->SetTarget(search_);
+  findBar_ = new FindBar(context_.find, sourceArea);
+  findBar_->SetTarget(search_);
   QVBoxLayout *layout = Stack(sourceArea);
   layout->addWidget(code_->Widget(), 1);
-  layout->addWidget(findBar);
+  layout->addWidget(findBar_);
 
   const auto onKey = [this](const QKeySequence &key, const std::function<void()> &act) {
     auto *shortcut = new QShortcut(key, this);
@@ -172,10 +184,52 @@ QWidget *frmCodeEditor::BuildMain() {
   onKey(Qt::CTRL | Qt::Key_Return, [this] { Apply(); });
   onKey(Qt::CTRL | Qt::Key_Enter, [this] { Apply(); });
   // Elsewhere they are those of the Tools menu.
-  if (!modSettingManager::HasAdditions(context_.platform.registry)) AddFindKeys(*findBar, *this);
+  if (!modSettingManager::HasAdditions(context_.platform.registry)) AddFindKeys(*findBar_, *this);
   code_->Widget()->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(code_->Widget(), &QWidget::customContextMenuRequested, this, &frmCodeEditor::PopUpMenu);
   return sourceArea;
+}
+
+void frmCodeEditor::Use(SourceTool tool) {
+  switch (tool) {
+    case SourceTool::Copy:
+      return code_->Edit(EditingCommand::Copy);
+    case SourceTool::Cut:
+      return code_->Edit(EditingCommand::Cut);
+    case SourceTool::Paste:
+      return code_->Edit(EditingCommand::Paste);
+    case SourceTool::Undo:
+      return code_->Edit(EditingCommand::Undo);
+    case SourceTool::Redo:
+      return code_->Edit(EditingCommand::Redo);
+    case SourceTool::Indent:
+      return code_->Edit(EditingCommand::Indent);
+    case SourceTool::Outdent:
+      return code_->Edit(EditingCommand::Outdent);
+    case SourceTool::FindNext:
+      return findBar_->FindOn(SearchDirection::Forward);
+    case SourceTool::Find:
+    case SourceTool::MarkAll:  // the open bar marks what it finds
+      return findBar_->Open(FindBar::Purpose::Find);
+    case SourceTool::Replace:
+      return findBar_->Open(FindBar::Purpose::Replace);
+    case SourceTool::GoToLine:
+      return GoToLine();
+  }
+}
+
+void frmCodeEditor::GoToLine() {
+  const QPointer<frmCodeEditor> alive(this);
+  const QString answer = context_.platform.dialogs.AskText(
+      Words::tr("Line:"), Words::tr("Go to Line Number"), QString::number(code_->CaretLine() + 1));
+  if (alive.isNull()) return;
+  bool isNumber = false;
+  const int line = answer.trimmed().toInt(&isNumber);
+  if (isNumber) {
+    code_->SetCaret(std::clamp(line, 1, static_cast<int>(code_->Text().count(u'\n')) + 1) - 1, 0);
+    code_->CenterCaret();
+  }
+  code_->SetFocus();
 }
 
 void frmCodeEditor::PopUpMenu(QPoint place) {

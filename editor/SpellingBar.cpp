@@ -88,7 +88,8 @@ void SpellingBar::ChangeAll() {
   const QPointer<SpellingBar> alive(this);
   const int count = SpellingOf(page_)->CorrectAll(shown_->word, other_->currentText());
   if (alive.isNull()) return;
-  page_.Context().mainWindow.status.Report(Words::tr("%n word(s) changed", "", count));
+  page_.Context().mainWindow.status.Report(
+      count == 1 ? Words::tr("One word changed") : Words::tr("%n words changed", nullptr, count));
   GoOn();
 }
 

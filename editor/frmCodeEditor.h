@@ -19,10 +19,28 @@ class QLabel;
 
 namespace velor {
 
+class FindBar;
+
+/// The buttons over the source.
+enum class SourceTool {
+  Copy,
+  Cut,
+  FindNext,
+  Find,
+  GoToLine,
+  Indent,
+  MarkAll,
+  Outdent,
+  Paste,
+  Redo,
+  Replace,
+  Undo,
+};
+
 /// The source editor of one page: its HTML as text, written back into the page by "Apply to
-/// Document". While it is open (the page record's EditorOpen) the page cannot be closed. The
-/// buttons of `tbrGeneral` and the tabs of `tabCode` do nothing; the source control's own keys are
-/// the editing commands.
+/// Document". While it is open (the page record's EditorOpen) the page cannot be closed. By
+/// the published behaviour the buttons of `tbrGeneral` and the tabs of `tabCode` do nothing; as an
+/// addition the buttons do what they say.
 class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   Q_OBJECT
 
@@ -85,6 +103,10 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   QWidget *BuildMain();
   QWidget *BuildStatus();
 
+  /// What a button of `tbrGeneral` does.
+  void Use(SourceTool tool);
+  /// Asks for a line's number and puts the caret there.
+  void GoToLine();
   void PopUpMenu(QPoint place);
   CloseDecision AskBeforeClosing();
   /// Keeps the caret within its line and shows its line and column.
@@ -98,6 +120,7 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   const int number_;
   std::unique_ptr<SourceControl> code_;
   SourceSearch search_;
+  FindBar *findBar_ = nullptr;
   SourceCaret filledCaret_;  ///< the caret as Fill or Refill left it
   QLabel *place_ = nullptr;
   QLabel *lineEnds_ = nullptr;

@@ -157,7 +157,11 @@ void frmInsertElement::InsertAndClose() {
 }
 
 QString frmInsertElement::Browse(const QString &filter) {
-  if (!fileDialog_) fileDialog_ = components_.CreateFileDialog();
+  if (!fileDialog_) {
+    fileDialog_ = components_.CreateFileDialog();
+    // Where the page lies; later on where the person was last.
+    if (scope_ == DialogScope::Extended && SavedMode == u"true") fileDialog_->FileName = FilePath;
+  }
   return BrowseForFile(*fileDialog_, filter);
 }
 

@@ -208,6 +208,12 @@ void QsciSourceControl::Edit(EditingCommand command) {
     case EditingCommand::SelectAll:
       editor_->selectAll();
       break;
+    case EditingCommand::Indent:
+      Send(QsciScintilla::SCI_TAB);
+      break;
+    case EditingCommand::Outdent:
+      Send(QsciScintilla::SCI_BACKTAB);
+      break;
     default:
       break;
   }

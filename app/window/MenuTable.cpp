@@ -84,7 +84,7 @@ constexpr MenuRow Rows[] = {
     Menu("mnuView_Top", Words::Mark("View (&V)")),
     Menu("mnuView_menustyle", Words::Mark("Menu Style (&M)"), "mnuView_Top"),
     Menu("mnuView_MenuOption", Words::Mark("Menu Option... (&O)"), "mnuView_menustyle"),
-    Item("mnuView_CusMenu", Words::Mark("Customize... (&C)"), "mnuView_MenuOption"),
+    Beyond(Item("mnuView_CusMenu", Words::Mark("Customize... (&C)"), "mnuView_MenuOption", {CommandId::Settings})),
     Separator("mnu5", "mnuView_menustyle"),
     StyleItem(1, Words::Mark("Sky Blue")),
     StyleItem(2, Words::Mark("Clear XP Style")),

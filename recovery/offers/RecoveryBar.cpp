@@ -390,9 +390,10 @@ bool RecoveryBar::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void RecoveryBar::FitRows() {
-  QWidget *front = context_.mainWindow.windows.Current();
-  if (rows_->isEmpty() && front != nullptr && isAncestorOf(QApplication::focusWidget()))
-    front->setFocus();
+  if (rows_->isEmpty() && isAncestorOf(QApplication::focusWidget())) {
+    QWidget *front = context_.mainWindow.windows.Current();
+    if (front != nullptr) front->setFocus();
+  }
   setVisible(!rows_->isEmpty());
   if (rows_->isEmpty()) return;
   const int row = rows_->itemAt(0)->sizeHint().height();

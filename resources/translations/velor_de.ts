@@ -3703,6 +3703,21 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
     </message>
+    <message>
+        <source>Line:</source>
+        <translation>Zeile:</translation>
+    </message>
+    <message>
+        <source>One word changed</source>
+        <translation>Ein Wort geändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n words changed</source>
+        <translation>
+            <numerusform>%n Wort geändert</numerusform>
+            <numerusform>%n Wörter geändert</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -3691,6 +3691,20 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>&amp;Close</source>
         <translation>關閉(&amp;C)</translation>
     </message>
+    <message>
+        <source>Line:</source>
+        <translation>行號:</translation>
+    </message>
+    <message>
+        <source>One word changed</source>
+        <translation>已變更 1 個字</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n words changed</source>
+        <translation>
+            <numerusform>已變更 %n 個字</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

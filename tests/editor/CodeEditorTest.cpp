@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/settings/modSettingManager.h"
 #include "tests/editor/EditorWorld.h"
 
 #include <QAction>
@@ -266,7 +267,39 @@ TEST_F(CodeEditorTest, TheToolbarHasItsTwelveImagesAndTheTabsTheirSevenNames) {
             (QStringList{"Standard", "Forms", "Fonts", "Lists", "Scripts", "Frames", "Advance"}));
 }
 
-TEST_F(CodeEditorTest, ItsButtonsAndTabsDoNothing) {
+TEST_F(CodeEditorTest, ItsButtonsDoWhatTheySayAndItsEmptyTabsAreOff) {
+  frmCodeEditor &editor = Edit();
+  Code(1).text = QStringLiteral("one\ntwo\nthree");
+  const auto press = [&](const char *button) {
+    editor.findChild<QAction *>(QString::fromLatin1(button))->trigger();
+  };
+  const std::pair<const char *, EditingCommand> commands[] = {
+      {"copy", EditingCommand::Copy},      {"cut", EditingCommand::Cut},
+      {"paste", EditingCommand::Paste},    {"undo", EditingCommand::Undo},
+      {"redo", EditingCommand::Redo},      {"indent", EditingCommand::Indent},
+      {"outdent", EditingCommand::Outdent}};
+  for (const auto &[button, command] : commands) {
+    log.clear();
+    press(button);
+    EXPECT_EQ(log, CallLog({QStringLiteral("Source.Edit(%1)").arg(Number(command))})) << button;
+  }
+  dialogs.ExpectQuestion(QStringLiteral("Line:"), QStringLiteral("2"));
+  press("goto line number");
+  EXPECT_EQ(Code(1).CaretLine(), 1);
+  dialogs.ExpectQuestion(QStringLiteral("Line:"), QStringLiteral("99"));
+  press("goto line number");
+  EXPECT_EQ(Code(1).CaretLine(), 2);
+  for (const char *button : {"find", "replace", "mark all found", "find next"}) {
+    auto *bar = editor.findChild<QWidget *>(QStringLiteral("picFind"));
+    bar->hide();
+    press(button);
+    EXPECT_TRUE(bar->isVisibleTo(&editor)) << button;
+  }
+  EXPECT_FALSE(editor.findChild<QTabBar *>(QStringLiteral("tabCode"))->isEnabled());
+}
+
+TEST_F(CodeEditorTest, ByThePublishedBehaviourItsButtonsAndTabsDoNothing) {
+  modSettingManager::SetOption(registry, QStringLiteral("PublishedOnly"), QStringLiteral("True"));
   frmCodeEditor &editor = Edit();
   Code(1).text = QStringLiteral("one two");
   Code(1).selectionEnd = 3;

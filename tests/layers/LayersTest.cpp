@@ -71,8 +71,9 @@ std::string LayerOf(const std::string &path) {
 
 const std::vector<std::string> &SourceFolders() {
   static const std::vector<std::string> folders = {
-      "app",       "editor",   "insert", "projects", "chrome", "platform", "page",  "engine",
-      "catalogue", "recovery", "files",  "pictures", "qt",     "bench",    "tools", "spelling"};
+      "app",  "editor", "insert",    "projects", "chrome",    "platform",
+      "page", "engine", "catalogue", "recovery", "files",     "pictures",
+      "qt",   "bench",  "tools",     "spelling", "properties"};
   return folders;
 }
 

@@ -49,7 +49,7 @@ class FirstDay(Tour):
         self.executable = os.path.join(self.scratch, "watched")
         with open(self.executable, "w", encoding="utf-8") as script:
             # Under -D the program, not strace, has the process that is started.
-            script.write(f'#!/bin/sh\nexec strace -D -f --seccomp-bpf -qq -e trace=network -o "{self.sockets}" "{INSTALLED}"\n')
+            script.write(f'#!/bin/sh\nexec strace -D -f --seccomp-bpf -qq -e trace=network -A -o "{self.sockets}" "{INSTALLED}"\n')
         os.chmod(self.executable, 0o755)
         self.program = None
 

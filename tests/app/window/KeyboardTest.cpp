@@ -125,10 +125,10 @@ TEST_F(KeyboardTest, F6LeadsFromTheSourceToApplyAndToTheFindBar) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   QWidget *source = window.Context().pages.CodeEditor(1)->Code().Widget();
   source->setFocus();
-  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(), "Code tbrGeneral_new FileTab cmdApply");
+  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(), "Code tbrGeneral_new FileTab Copy cmdApply");
   QTest::keyClick(source, Qt::Key_F, Qt::ControlModifier);
   source->setFocus();
-  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(), "Code tbrGeneral_new FileTab cmdApply txtFind");
+  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(), "Code tbrGeneral_new FileTab Copy cmdApply txtFind");
 }
 
 TEST_F(KeyboardTest, F6LeadsToTheBarsWithoutAPage) {
