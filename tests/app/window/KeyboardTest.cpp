@@ -128,7 +128,8 @@ TEST_F(KeyboardTest, F6LeadsFromTheSourceToApplyAndToTheFindBar) {
   EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(), "Code tbrGeneral_new FileTab Copy cmdApply");
   QTest::keyClick(source, Qt::Key_F, Qt::ControlModifier);
   source->setFocus();
-  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(), "Code tbrGeneral_new FileTab Copy cmdApply txtFind");
+  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(),
+            "Code tbrGeneral_new FileTab Copy cmdApply txtFind");
 }
 
 TEST_F(KeyboardTest, F6LeadsToTheBarsWithoutAPage) {
