@@ -123,11 +123,13 @@ TEST_F(SelectionTest, ALinkWithoutATargetShowsTheWordsAlone) {
 
 TEST_F(SelectionTest, TheActiveElementIsTheCaretsOrTheSelectedObject) {
   New();
-  Component(1).element = Element("IMG");
-  for (const SelectionType type :
-       {SelectionType::None, SelectionType::Text, SelectionType::Control}) {
+  Component(1).element = Element("P");
+  Component(1).object = Element("IMG");
+  const std::pair<SelectionType, const char *> rows[] = {
+      {SelectionType::None, "P"}, {SelectionType::Text, "P"}, {SelectionType::Control, "IMG"}};
+  for (const auto &[type, tag] : rows) {
     Component(1).selectionType = type;
-    EXPECT_EQ(Page(1).GetActiveElement().tagName, QStringLiteral("IMG"));
+    EXPECT_EQ(Page(1).GetActiveElement().tagName, QString::fromLatin1(tag));
   }
 }
 

@@ -286,7 +286,8 @@ std::unique_ptr<TextRange> FakeEditingComponent::CreateRange() {
 }
 
 HtmlElement FakeEditingComponent::ControlElement() const {
-  return selectionType == SelectionType::Control ? element : HtmlElement{};
+  if (selectionType != SelectionType::Control) return {};
+  return object.IsNull() ? element : object;
 }
 
 void FakeEditingComponent::Log(const QString &call) const {

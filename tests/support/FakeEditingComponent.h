@@ -37,7 +37,8 @@ class FakeEditingComponent final : public EditingComponent,
   std::map<EditingCommand, QVariant> values;         ///< of query commands; empty text where absent
   QStringList blockFormats = BlockFormatNames();
   SelectionType selectionType = SelectionType::None;
-  HtmlElement element;  ///< under the caret, or the selected object
+  HtmlElement element;  ///< at the caret, and the selected object where `object` is null
+  HtmlElement object;   ///< selected
   HtmlElement link;     ///< that the selection is in
   QStringList elementPath;
   PathChoices pathChoices;  ///< of every element of the path
