@@ -7,13 +7,14 @@ Usage: installed.py OUT_FOLDER
 import os
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
 
 from gi.repository import Gio, GLib
 
-from desktop import Program, file_text, wait_for
+from desktop import Program, file_text, run, wait_for
 from moves import Tour, check, step
 
 
@@ -101,8 +102,11 @@ def day(tour):
     tour.program.shot("source-line")
 
     step("a second start brings the program to the front and ends")
+    run("xdotool", "windowminimize", tour.program.window_id)
+    wait_for(lambda: tour.program.window_id not in tour.program.visible_windows(), "the window to be minimised")
     check(subprocess.run([INSTALLED], env=tour.program.environment, timeout=60, check=False).returncode == 0,
           "the second start failed")
+    wait_for(lambda: run("xdotool", "getactivewindow").strip() == tour.program.window_id, "the window to come to the front")
 
     step("the sixth page says once that there are too many")
     late = velor_open_begun(tour, names[3:], pages)
@@ -110,9 +114,9 @@ def day(tour):
     sentences = late.communicate(timeout=60)[1]
     check(late.returncode == 1 and names[4] in sentences and names[3] not in sentences, f"it said {sentences!r}")
 
-    step("the system's wish to end keeps what was typed")
+    step("the end of the terminal keeps what was typed")
     tour.program.type("kept ")
-    tour.program.process.terminate()
+    tour.program.process.send_signal(signal.SIGHUP)
     status = tour.program.wait_end()
     check(status == 0, f"the program ended with status {status}")
     tour.start()
@@ -138,6 +142,12 @@ def day(tour):
     tour.program.key("x")
     status = tour.program.wait_end()
     check(status == 0, f"the program ended with status {status}")
+    step("velor-open starts the program where none runs")
+    check(velor_open(tour, [names[2]], pages) == (0, ""), "no program was started")
+    window = wait_for(lambda: tour.program.visible_windows(), "the window of the program")[0]
+    started = int(run("xdotool", "getwindowpid", window))
+    os.kill(started, signal.SIGTERM)
+    wait_for(lambda: not os.path.exists(f"/proc/{started}"), "the program to end")
     step("nothing was sent to another machine")
     calls = file_text(tour.sockets).splitlines()
     check(any("AF_UNIX" in call for call in calls), "no socket was watched")
