@@ -57,7 +57,9 @@ void PaneWalk::Go(Direction direction) {
   // The area itself has the focus while no window is open.
   const qsizetype from = now == stops.end() ? -1 : now - stops.begin();
   const qsizetype step = direction == Direction::Forward ? 1 : stops.size() - 1;
-  stops[from < 0 ? 0 : (from + step) % stops.size()]->setFocus(Qt::TabFocusReason);
+  QWidget *next = stops[from < 0 ? 0 : (from + step) % stops.size()];
+  // A page that the keyboard comes to by Tab would move its caret to the start.
+  next->setFocus(area_.isAncestorOf(next) ? Qt::OtherFocusReason : Qt::TabFocusReason);
 }
 
 QList<QWidget *> PaneWalk::Stops() const {

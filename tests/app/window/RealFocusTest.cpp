@@ -92,21 +92,6 @@ class RealFocus : public RealWindow {
                       box.view()->visualRect(entry).center());
   }
 
-  /// Chooses an item that shows a dialog, and leaves that by Escape.
-  void LeaveDialog(const char *item) {
-    dialogs.ExpectModal([](QWidget &dialog) {
-      dialog.show();
-      dialog.activateWindow();
-      ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-      ASSERT_TRUE(dialog.isAncestorOf(QApplication::focusWidget()));
-      Press(Qt::Key_Escape);
-      EXPECT_FALSE(dialog.isVisible());
-    });
-    Choose(item);
-    // As the desktop does when a dialog has closed.
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  }
   static QString WordsOf(frmMain &page) {
     return Evaluate(EngineOf(page), QStringLiteral("document.body.textContent")).toString();
   }
@@ -185,15 +170,6 @@ const RealFocus::Row Rows[] = {
      },
      Place::SecondPage},
     {"a new page is made and closed", [](RealFocus &t) { t.NewPage().close(); }, Place::SecondPage},
-    {"the image dialog is left", [](RealFocus &t) { t.LeaveDialog("mnuISTimage"); },
-     Place::SecondPage},
-    {"the hyperlink dialog is left", [](RealFocus &t) { t.LeaveDialog("mnuISTlink"); },
-     Place::SecondPage},
-    {"the table dialog is left", [](RealFocus &t) { t.LeaveDialog("mnuTBLnew"); },
-     Place::SecondPage},
-    {"the settings are left", [](RealFocus &t) { t.LeaveDialog("mnuSettings"); },
-     Place::SecondPage},
-    {"About is left", [](RealFocus &t) { t.LeaveDialog("mnuAbout"); }, Place::SecondPage},
     {"View HTML is left for the design view",
      [](RealFocus &t) {
        t.second->ChangeMode(2);
