@@ -229,14 +229,14 @@ frmCodeEditor &SourceEditor(EditorContext &context, int number) {
   return *editor;
 }
 
-void NewPage(EditorContext &context) {
+void NewPage(EditorContext &context, const QString &text) {
   frmMain &window = MakePage(context);
   FillPage(window, [&] {
     const int number = window.Number();
     const QString caption = Words::tr("Untitled %1").arg(number);
     context.mainWindow.windows.Show(&window);
     window.Tag = QString::number(number);
-    window.DHTML1().SetDocumentHTML(NewPageTemplate());
+    window.DHTML1().SetDocumentHTML(text);
     window.PendingAction = QStringLiteral("gethtml");
     window.setWindowTitle(caption);
 

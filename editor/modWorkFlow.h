@@ -43,8 +43,8 @@ enum class CopyEnd { Nothing, LineBreak };
 /// RuntimeError where the writing fails.
 bool WriteTemporaryCopy(const EditorContext &context, int number, const QString &text, CopyEnd end);
 
-/// Makes a page from the template in a new slot with a tab.
-void NewPage(EditorContext &context);
+/// Makes a page with this text in a new slot with a tab.
+void NewPage(EditorContext &context, const QString &text = NewPageTemplate());
 
 /// Opens a page file in a new slot and records it in the history. Returns 1 when the file is
 /// read-only, else 0. Raises FileNotFound (53) for a missing file, and TypeMismatch (13)

@@ -50,6 +50,7 @@ inline constexpr auto PreferenceTable = [] {
       {"mnuHighFore",        Color,   "0",        AtOnce,    "app/window/MenuSettings.cpp"},
       {"WholeTemplateSigns", Truth,   "True",     NextStart, "app/window/Additions.cpp"},
       {"Language",           Name,    "",         NextStart, "app/settings/Languages.cpp"},
+      {"NewPageTemplate",    File,    "",         AtOnce,    "editor/PageTemplates.cpp"},
       {"SpellingLanguage",   Name,    "",         NextStart, "app/window/Additions.cpp"},
       {"PublishedOnly",      Truth,   "False",    NextStart, "app/settings/modSettingManager.cpp"},
   });

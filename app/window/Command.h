@@ -16,6 +16,8 @@ enum class Arrangement { Cascade, Horizontal, Vertical };
 enum class CommandId {
   None,
   NewPage,
+  NewFromTemplate,
+  SaveAsTemplate,
   OpenPage,
   SavePage,
   SavePageAs,
@@ -40,6 +42,7 @@ enum class CommandId {
   Arrange,     ///< argument: the Arrangement, an int
   Properties,  ///< argument: the PropertySubject, an int
   InsertMarkup,
+  InsertCharacter,
   ShowPath,
   Preview,
   About,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/CommandRouter.h"
 
+#include "app/window/FrmNewPage.h"
 #include "app/window/GeneralToolbar.h"
 #include "app/window/InsertCommands.h"
 #include "app/window/PageZoom.h"
@@ -11,6 +12,7 @@
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/PageSlots.h"
+#include "editor/PageTemplates.h"
 #include "editor/PageWords.h"
 #include "editor/SiteSpelling.h"
 #include "editor/SourceWrap.h"
@@ -93,6 +95,12 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::NewPage:
       NewPage();
       break;
+    case CommandId::NewFromTemplate:
+      NewFromTemplate();
+      break;
+    case CommandId::SaveAsTemplate:
+      if (frmMain *page = ActiveDocument()) SaveAsTemplate(*page);
+      break;
     case CommandId::OpenPage:
       OpenPage();
       break;
@@ -167,6 +175,9 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::ShowPath:
       if (frmMain *page = ActiveDocument()) ShowCaretElement(*page);
       break;
+    case CommandId::InsertCharacter:
+      Insert(&InsertCommands::Character);
+      break;
     case CommandId::InsertMarkup:
       Insert(&InsertCommands::Markup);
       break;
@@ -228,12 +239,27 @@ void CommandRouter::NewPage() {
   QAction &item = host_.MenuItem({CommandId::NewPage});
   item.setEnabled(false);
   try {
-    if (HasRoom(context_)) modWorkFlow::NewPage(context_);
+    if (HasRoom(context_)) modWorkFlow::NewPage(context_, TextOfNewPage(context_));
   } catch (...) {
     item.setEnabled(true);
     throw;
   }
   item.setEnabled(true);
+}
+
+void CommandRouter::NewFromTemplate() {
+  if (!HasRoom(context_)) return;
+  FrmNewPage dialog(OwnTemplates(context_), QApplication::activeWindow());
+  context_.platform.dialogs.RunModal(dialog);
+  if (dialog.result() != QDialog::Accepted) return;
+  const QString path = dialog.TemplatePath();
+  try {
+    modWorkFlow::NewPage(
+        context_, path.isEmpty() ? ModernPage(dialog.Beginning()) : TextOfPageFile(context_, path));
+  } catch (const RuntimeError &error) {
+    context_.mainWindow.status.Report(
+        Words::tr("%1 could not be opened: %2").arg(ForPeople(path), error.Description()));
+  }
 }
 
 void CommandRouter::OpenPage() {

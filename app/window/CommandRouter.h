@@ -88,6 +88,7 @@ class CommandRouter {
 
  private:
   void NewPage();
+  void NewFromTemplate();
   void OpenPage();
   /// Opens the file, or activates the page that has it. A failure is reported in the status bar;
   /// returns that sentence, or the empty text.

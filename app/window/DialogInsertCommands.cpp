@@ -6,6 +6,7 @@
 #include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
+#include "insert/CharacterDialog.h"
 #include "insert/ElementHtml.h"
 #include "insert/LinkPaths.h"
 #include "insert/MarkupDialog.h"
@@ -108,6 +109,14 @@ void DialogInsertCommands::Markup(frmMain &page) {
   dialogs_.RunModal(dialog);
   if (alive.isNull() || dialog.result() != QDialog::Accepted) return;
   page.DHTML1().Document().Selection().CreateRange()->PasteHTML(dialog.Markup());
+}
+
+void DialogInsertCommands::Character(frmMain &page) {
+  const QPointer<frmMain> alive = &page;
+  CharacterDialog dialog(recentCharacters_, page.window());
+  dialogs_.RunModal(dialog);
+  if (alive.isNull() || dialog.result() != QDialog::Accepted) return;
+  page.DHTML1().Document().Selection().CreateRange()->PasteHTML(dialog.Character().toHtmlEscaped());
 }
 
 void DialogInsertCommands::PictureFile(frmMain &page, const QString &path) {

@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QString>
 
+#include <vector>
+
 namespace velor {
 
 class Components;
@@ -41,6 +43,7 @@ class DialogInsertCommands final : public InsertCommands {
   /// Pastes `html` at the selection once the dialog has closed, cancelled or not.
   void Table(frmMain &page) override;
   void Markup(frmMain &page) override;
+  void Character(frmMain &page) override;
   void PictureFile(frmMain &page, const QString &path) override;
 
  private:
@@ -55,6 +58,7 @@ class DialogInsertCommands final : public InsertCommands {
   StylingSweeps *sweeps_;
   Additions additions_;
   QPointer<frmInsertElement> dialog_;
+  std::vector<char32_t> recentCharacters_;  ///< the last one first
 };
 
 }  // namespace velor

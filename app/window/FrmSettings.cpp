@@ -47,6 +47,8 @@ FrmSettings::FrmSettings(Registry &registry, const MenuPictures &pictures, QWidg
   AddTruth(pages, PreferenceOf("showtoolbox"),
            Words::tr("&Forget the inspected element with its page"));
   AddTruth(pages, PreferenceOf("CheckSpelling"), Words::tr("Waves under &unknown words"));
+  AddText(pages, PreferenceOf("NewPageTemplate"), Words::tr("Template of new pa&ges:"),
+          Words::tr("A page file; empty for the usual new page"));
   QFormLayout *source = AddFrame(left, Words::tr("Source"));
   AddTruth(source, PreferenceOf("WrapSource"), Words::tr("&Wrap long lines"));
   QFormLayout *images = AddFrame(left, Words::tr("Pictures from outside the site"));

@@ -18,6 +18,8 @@ class InsertCommands {
   virtual void Table(frmMain &page) = 0;
   /// Puts in markup as the person writes it.
   virtual void Markup(frmMain &page) = 0;
+  /// Puts in a character that the person chooses.
+  virtual void Character(frmMain &page) = 0;
   /// Inserts the picture file without a dialog, with the link that the dialog would make. `path` in
   /// logic form.
   virtual void PictureFile(frmMain &page, const QString &path) = 0;

@@ -3718,6 +3718,114 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
             <numerusform>%n Wörter geändert</numerusform>
         </translation>
     </message>
+    <message>
+        <source>symbol sign special unicode letter</source>
+        <translation>symbol sonderzeichen unicode buchstabe</translation>
+    </message>
+    <message>
+        <source>Insert Character...</source>
+        <translation>Zeichen einfügen ...</translation>
+    </message>
+    <message>
+        <source>Insert Character</source>
+        <translation>Zeichen einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Name or code:</source>
+        <translation>&amp;Name oder Code:</translation>
+    </message>
+    <message>
+        <source>em dash, 2014, or the character itself</source>
+        <translation>em dash, 2014 oder das Zeichen selbst</translation>
+    </message>
+    <message>
+        <source>&amp;Block:</source>
+        <translation>&amp;Block:</translation>
+    </message>
+    <message>
+        <source>Chosen before</source>
+        <translation>Zuvor gewählt</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>No character is called that.</source>
+        <translation>Kein Zeichen heißt so.</translation>
+    </message>
+    <message>
+        <source>New from Template</source>
+        <translation>Neu aus Vorlage</translation>
+    </message>
+    <message>
+        <source>&amp;Template:</source>
+        <translation>&amp;Vorlage:</translation>
+    </message>
+    <message>
+        <source>HTML5 page</source>
+        <translation>HTML5-Seite</translation>
+    </message>
+    <message>
+        <source>T&amp;itle:</source>
+        <translation>T&amp;itel:</translation>
+    </message>
+    <message>
+        <source>Fits the &amp;width of phones (viewport)</source>
+        <translation>An die &amp;Breite von Telefonen angepasst (viewport)</translation>
+    </message>
+    <message>
+        <source>Template of new pa&amp;ges:</source>
+        <translation>Vorla&amp;ge neuer Seiten:</translation>
+    </message>
+    <message>
+        <source>A page file; empty for the usual new page</source>
+        <translation>Eine Seitendatei; leer für die übliche neue Seite</translation>
+    </message>
+    <message>
+        <source>page create html5</source>
+        <translation>seite erstellen html5 vorlage</translation>
+    </message>
+    <message>
+        <source>New from Template...</source>
+        <translation>Neu aus Vorlage ...</translation>
+    </message>
+    <message>
+        <source>keep page</source>
+        <translation>seite behalten vorlage</translation>
+    </message>
+    <message>
+        <source>Save as Template...</source>
+        <translation>Als Vorlage speichern ...</translation>
+    </message>
+    <message>
+        <source>There is a template %1 already. Replace it?</source>
+        <translation>Es gibt schon eine Vorlage %1. Soll sie ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>The template for new pages cannot be read: %1</source>
+        <translation>Die Vorlage für neue Seiten kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Name of the template:</source>
+        <translation>Name der Vorlage:</translation>
+    </message>
+    <message>
+        <source>Save as Template</source>
+        <translation>Als Vorlage speichern</translation>
+    </message>
+    <message>
+        <source>The name of a template has no slash and does not begin with a dot</source>
+        <translation>Der Name einer Vorlage hat keinen Schrägstrich und beginnt nicht mit einem Punkt</translation>
+    </message>
+    <message>
+        <source>The template could not be saved: %1</source>
+        <translation>Die Vorlage konnte nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The page is the template %1 now</source>
+        <translation>Die Seite ist jetzt die Vorlage %1</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

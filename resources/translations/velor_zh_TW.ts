@@ -3705,6 +3705,114 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
             <numerusform>已變更 %n 個字</numerusform>
         </translation>
     </message>
+    <message>
+        <source>symbol sign special unicode letter</source>
+        <translation>符號 特殊 字元 萬國碼</translation>
+    </message>
+    <message>
+        <source>Insert Character...</source>
+        <translation>插入字元...</translation>
+    </message>
+    <message>
+        <source>Insert Character</source>
+        <translation>插入字元</translation>
+    </message>
+    <message>
+        <source>&amp;Name or code:</source>
+        <translation>名稱或碼位(&amp;N):</translation>
+    </message>
+    <message>
+        <source>em dash, 2014, or the character itself</source>
+        <translation>em dash、2014 或字元本身</translation>
+    </message>
+    <message>
+        <source>&amp;Block:</source>
+        <translation>區塊(&amp;B):</translation>
+    </message>
+    <message>
+        <source>Chosen before</source>
+        <translation>先前選取的</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>字元</translation>
+    </message>
+    <message>
+        <source>No character is called that.</source>
+        <translation>沒有這個名稱的字元。</translation>
+    </message>
+    <message>
+        <source>New from Template</source>
+        <translation>從範本新增</translation>
+    </message>
+    <message>
+        <source>&amp;Template:</source>
+        <translation>範本(&amp;T):</translation>
+    </message>
+    <message>
+        <source>HTML5 page</source>
+        <translation>HTML5 網頁</translation>
+    </message>
+    <message>
+        <source>T&amp;itle:</source>
+        <translation>標題(&amp;I):</translation>
+    </message>
+    <message>
+        <source>Fits the &amp;width of phones (viewport)</source>
+        <translation>配合手機寬度(&amp;W)（viewport）</translation>
+    </message>
+    <message>
+        <source>Template of new pa&amp;ges:</source>
+        <translation>新網頁的範本(&amp;G):</translation>
+    </message>
+    <message>
+        <source>A page file; empty for the usual new page</source>
+        <translation>網頁檔案；留空則為一般的新網頁</translation>
+    </message>
+    <message>
+        <source>page create html5</source>
+        <translation>網頁 建立 html5 範本</translation>
+    </message>
+    <message>
+        <source>New from Template...</source>
+        <translation>從範本新增...</translation>
+    </message>
+    <message>
+        <source>keep page</source>
+        <translation>保留 網頁 範本</translation>
+    </message>
+    <message>
+        <source>Save as Template...</source>
+        <translation>儲存為範本...</translation>
+    </message>
+    <message>
+        <source>There is a template %1 already. Replace it?</source>
+        <translation>已有範本 %1。要取代嗎？</translation>
+    </message>
+    <message>
+        <source>The template for new pages cannot be read: %1</source>
+        <translation>無法讀取新網頁的範本：%1</translation>
+    </message>
+    <message>
+        <source>Name of the template:</source>
+        <translation>範本名稱:</translation>
+    </message>
+    <message>
+        <source>Save as Template</source>
+        <translation>儲存為範本</translation>
+    </message>
+    <message>
+        <source>The name of a template has no slash and does not begin with a dot</source>
+        <translation>範本名稱不可有斜線，也不可以句點開頭</translation>
+    </message>
+    <message>
+        <source>The template could not be saved: %1</source>
+        <translation>無法儲存範本：%1</translation>
+    </message>
+    <message>
+        <source>The page is the template %1 now</source>
+        <translation>網頁現在是範本 %1</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -104,8 +104,8 @@ std::string Objection(const Include &include) {
     return include.file + " includes the toolkit: " + include.target;
   static const std::regex engine(
       R"(^(QtWebEngine\w*|QWebEngine\w*|Qsci|sqlite3\.h|unicode|hunspell)(/|$|\.))");
-  static const std::set<std::string> engineUsers = {"engine",   "qt",  "page/text", "catalogue",
-                                                    "spelling", "app", "tools",     "bench"};
+  static const std::set<std::string> engineUsers = {
+      "engine", "qt", "page/text", "catalogue", "spelling", "insert", "app", "tools", "bench"};
   if (!engineUsers.count(from) && std::regex_search(include.target, engine))
     return include.file + " includes an engine past its interface: " + include.target;
   if (!include.quoted) return {};

@@ -150,10 +150,13 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
       {"mnuAbout", "Close lblMail_To"},
       {"mnuFindCommand", "txtWords lstCommands"},
       {"mnuSettings",
-       "ShowDetails SnapToGrid showtoolbox CheckSpelling WrapSource CopyPictures KeepPictureData "
+       "ShowDetails SnapToGrid showtoolbox CheckSpelling NewPageTemplate WrapSource CopyPictures "
+       "KeepPictureData "
        "PhotosAsWebP "
        "MenuStyle mnuFore mnuBorder mnuHighlight "
        "mnuHighFore Language WholeTemplateSigns SpellingLanguage PublishedOnly cmdOK cmdCancel"},
+      {"mnuNewFromTemplate", "txtTitle txtLanguage chkPhones cmdOK cmdCancel cobTemplate"},
+      {"mnuCharacter", "txtWords cobBlock lstCharacters cmdOK cmdCancel"},
       {"mnuPrint",
        "cobPaper cobOrientation txtMargins txtScale chkBackgrounds chkEdgeLines cmdClose "
        "PaperView"},
@@ -193,9 +196,10 @@ TEST_F(KeyboardTest, NoTwoControlsInSightOfAWindowShareAnAltKey) {
   database.results[QStringLiteral("Select * from Project where Created = true")] = {};
   frmMain &page = NewPage();
   EXPECT_EQ(SharedAltKeys(window).toStdString(), "");
-  const char *const items[] = {"mnuAbout",    "mnuPrint",  "mnuFindCommand",     "mnuSettings",
-                               "mnuDrives",   "mnuTBLnew", "mnuISTimage",        "mnuISTlink",
-                               "mnuBookmark", "mnuVideo",  "mnuView_ProjectMan", "extInHTML"};
+  const char *const items[] = {"mnuNewFromTemplate", "mnuCharacter", "mnuAbout",    "mnuPrint",
+                               "mnuFindCommand",     "mnuSettings",  "mnuDrives",   "mnuTBLnew",
+                               "mnuISTimage",        "mnuISTlink",   "mnuBookmark", "mnuVideo",
+                               "mnuView_ProjectMan", "extInHTML"};
   for (const char *item : items) {
     dialogs.ExpectModal([item](QWidget &dialog) {
       dialog.show();

@@ -246,6 +246,31 @@ TEST_F(RealPageEdits, CustomHtmlIsSeenInThePagesLooksAndGoesIntoTheFileAsOneStep
   ASSERT_TRUE(WaitFor([&] { return !Holds(page, QStringLiteral("three")); })) << Seen(page);
 }
 
+TEST_F(RealPageEdits, AChosenCharacterIsItselfWhereTheCharsetHasItElseAReference) {
+  frmMain &page = Open(File,
+                       "<html><head><meta http-equiv=Content-Type "
+                       "content=\"text/html; charset=iso-8859-1\"></head><body>\n"
+                       "<p>one</p>\n</body></html>\n");
+  PutCaret(page, QStringLiteral("p"));
+  for (const char *name : {"e acute small", "snowman", "less-than sign"}) {
+    dialogs.ExpectModal([name](QWidget &dialog) {
+      dialog.show();
+      auto *words = dialog.findChild<QWidget *>(QStringLiteral("txtWords"));
+      QTest::keyClicks(words, QString::fromLatin1(name));
+      QTest::keyClick(words, Qt::Key_Return);
+    });
+    Choose("mnuCharacter");
+  }
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("&lt;ne")); })) << Seen(page);
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(File).toStdString(),
+            "<html><head><meta http-equiv=Content-Type "
+            "content=\"text/html; charset=iso-8859-1\"></head><body>\n"
+            "<p>o\xE9&#9731;&lt;ne</p>\n</body></html>\n");
+  Choose("mnuUndo");
+  EXPECT_TRUE(WaitFor([&] { return !Holds(page, QStringLiteral("&lt;")); })) << Seen(page);
+}
+
 TEST_F(RealPageEdits, WhatIsTypedWithATableSelectedGoesBehindIt) {
   frmMain &page = PageWithTable();
   Type(page, QStringLiteral("c"));

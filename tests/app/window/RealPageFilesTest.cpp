@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A person at the whole window: pages saved, previewed and closed, and what then lies on the disk.
+#include "app/settings/modSettingManager.h"
 #include "app/window/PageTabs.h"
 #include "editor/PageSlots.h"
 #include "editor/frmBrowser.h"
@@ -11,10 +12,13 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QSignalSpy>
+#include <QTest>
 #include <QWebEnginePage>
 
 #include <unistd.h>
@@ -91,6 +95,56 @@ TEST_F(RealPageFiles, AnUntouchedNewPageIsTheTemplateToTheByte) {
   SharedDialog().ExpectSave(Logic(QStringLiteral("new.htm")));
   Choose("mnuSave");
   EXPECT_EQ(Bytes(QStringLiteral("new.htm")), modWorkFlow::NewPageTemplate().toLatin1());
+}
+
+TEST_F(RealPageFiles, APageFromTheTemplateIsWrittenAsItBeganAndBecomesATemplateItself) {
+  dialogs.ExpectModal([](QWidget &dialog) {
+    dialog.show();
+    dialog.findChild<QLineEdit *>(QStringLiteral("txtLanguage"))->setText(QStringLiteral("de"));
+    QTest::keyClicks(dialog.findChild<QWidget *>(QStringLiteral("txtTitle")),
+                     QStringLiteral("Prices & more"));
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  Choose("mnuNewFromTemplate");
+  frmMain &page = LastPage();
+  Type(page, QStringLiteral("Words"));
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("Words")); })) << Seen(page);
+  SharedDialog().ExpectSave(Logic(QStringLiteral("new.html")));
+  Choose("mnuSave");
+  const QByteArray written =
+      "<!DOCTYPE html>\n<html lang=\"de\">\n<head>\n<meta charset=\"utf-8\">\n"
+      "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+      "<title>Prices &amp; more</title>\n</head>\n<body>\n<p>Words</p>\n</body>\n</html>\n";
+  EXPECT_EQ(Bytes(QStringLiteral("new.html")).toStdString(), written.toStdString());
+
+  dialogs.ExpectQuestion(QStringLiteral("Name of the template:"), QStringLiteral("mine"));
+  Choose("mnuSaveAsTemplate");
+  EXPECT_EQ(Bytes(QStringLiteral("templates/mine.html")).toStdString(), written.toStdString());
+  // A second one of the name only if the person wants it.
+  Type(page, QStringLiteral("X"));
+  dialogs.ExpectQuestion(QStringLiteral("Name of the template:"), QStringLiteral("mine"));
+  dialogs.ExpectMessage(QStringLiteral("There is a template mine already. Replace it?"),
+                        MessageAnswer::No);
+  Choose("mnuSaveAsTemplate");
+  EXPECT_EQ(Bytes(QStringLiteral("templates/mine.html")).toStdString(), written.toStdString());
+
+  dialogs.ExpectModal([](QWidget &dialog) {
+    auto *templates = dialog.findChild<QComboBox *>(QStringLiteral("cobTemplate"));
+    templates->setCurrentText(QStringLiteral("mine"));
+    EXPECT_FALSE(dialog.findChild<QWidget *>(QStringLiteral("txtTitle"))->isEnabled());
+    QMetaObject::invokeMethod(&dialog, "accept");
+  });
+  Choose("mnuNewFromTemplate");
+  SharedDialog().ExpectSave(Logic(QStringLiteral("second.html")));
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(QStringLiteral("second.html")).toStdString(), written.toStdString());
+
+  modSettingManager::SetOption(registry, QStringLiteral("NewPageTemplate"),
+                               folder.FilePath(QStringLiteral("templates/mine.html")));
+  NewPage();
+  SharedDialog().ExpectSave(Logic(QStringLiteral("third.html")));
+  Choose("mnuSave");
+  EXPECT_EQ(Bytes(QStringLiteral("third.html")).toStdString(), written.toStdString());
 }
 
 TEST_F(RealPageFiles, ANewNameLeavesTheOldFileAlone) {

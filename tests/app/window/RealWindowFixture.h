@@ -103,6 +103,8 @@ class RealWindow : public ::testing::Test {
   /// Opens a file of the folder through the File menu, written first where `content` is given.
   frmMain &Open(const QString &name, const QByteArray &content = {});
   frmMain &NewPage();
+  /// The page that was made last.
+  frmMain &LastPage();
 
   static QWebEnginePage &EngineOf(QWidget &shown);
   /// The widget that takes a page's input.
@@ -129,9 +131,6 @@ class RealWindow : public ::testing::Test {
   Platform platform;
   ProgramValues values;
   MfrmProgram window{platform, values};
-
- private:
-  frmMain &LastPage();
 };
 
 }  // namespace velor
