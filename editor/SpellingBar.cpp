@@ -27,6 +27,8 @@ SpellingBar::SpellingBar(frmMain &page)
   other_->setAccessibleName(Words::tr("Change to"));
   other_->setEditable(true);
   other_->setInsertPolicy(QComboBox::NoInsert);
+  // A completer takes Enter for itself while the suggestion is selected.
+  other_->setCompleter(nullptr);
   other_->setMinimumWidth(BoxWidth);
   Add(*other_);
   const auto add = [this](const char *name, const QString &caption, const QString &tip,
