@@ -41,8 +41,12 @@ std::optional<QStringList> Ask(const velor::OpeningRequest &request) {
   const QString beside = QCoreApplication::applicationDirPath();
   const QString programFolder = velor::PrepareProgramFolder(beside);
   if (auto answer = velor::AskRunningProgram(programFolder, request)) return answer;
-  if (!QProcess::startDetached(QDir(beside).filePath(QStringLiteral("velor-web-creator")), {}))
-    return std::nullopt;
+  QProcess program;
+  program.setProgram(QDir(beside).filePath(QStringLiteral("velor-web-creator")));
+  // Whoever reads what this tool says does not wait for the program's end.
+  program.setStandardOutputFile(QProcess::nullDevice());
+  program.setStandardErrorFile(QProcess::nullDevice());
+  if (!program.startDetached()) return std::nullopt;
   for (const QDeadlineTimer limit(StartLimit); !limit.hasExpired();
        std::this_thread::sleep_for(StartPause))
     if (auto answer = velor::AskRunningProgram(programFolder, request)) return answer;
