@@ -23,6 +23,6 @@ link         main-*-link-dialog        598x616+341+108 562x
 view-html    main-*-view-html          760x300+0+112   760x
 edit-html    main-*-edit-html-find-bar 1280x820+0+0    768x
 projects     main-*-project-manager    860x527+210+153 700x
-settings     main-*-settings           500x716+391+56  500x
+settings     main-*-settings           816x580+233+126 760x
 find-command main-*-find-command       422x404+429+213 422x
 PICTURES
