@@ -1,21 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/modSettingManager.h"
-#include "app/window/PageTabs.h"
-#include "chrome/ColorPicker.h"
 #include "editor/frmMain.h"
-#include "properties/frmProperties.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeSourceControl.h"
-#include "tests/support/KeyboardWalk.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMenuBar>
-#include <QPushButton>
-#include <QTest>
 
 namespace velor {
 namespace {
@@ -144,326 +132,6 @@ extGetTag "Get Element TagName"
 )tree");
 }
 
-TEST_F(MenusTest, TheRecordMenuIsAPopupOfItsOwn) {
-  EXPECT_EQ(Tree(Find<QMenu>("mnuCustom")->actions()).toStdString(), "cusDel \"Delete Record\"\n");
-  EXPECT_FALSE(Find<QMenu>("mnuCustom")->isVisible());
-  EXPECT_FALSE(Find<QMenu>("mnuExt")->isVisible());
-}
-
-TEST_F(MenusTest, TheContextMenuPopsUpWhereItIsAskedFor) {
-  Parts().requests.PopUpContextMenu(QPoint(60, 70));
-  auto *menu = Find<QMenu>("mnuExt");
-  EXPECT_TRUE(menu->isVisible());
-  EXPECT_EQ(menu->pos(), QPoint(60, 70));
-  menu->close();
-}
-
-class WithoutAdditions : public WindowFixture {
- protected:
-  WithoutAdditions() : WindowFixture(Additions::Off) {}
-};
-
-TEST_F(WithoutAdditions, ItemsWithoutAPublishedActionDoNothing) {
-  NewPage();
-  const QPixmap before = window.grab();
-  log.clear();
-  for (const char *item :
-       {"mnuWindowCascade", "mnuWindowTileHorizontal", "mnuWindowTileVertical", "mnuDetail",
-        "mnuView_CusMenu", "cusDel", "extCut", "extDelete", "extPagePro", "extAbs", "extDetail",
-        "extSnap", "extInCol", "extFront", "extGetTag"}) {
-    ASSERT_TRUE(Item(item)->isEnabled()) << item;
-    Choose(item);
-  }
-  EXPECT_TRUE(log.empty());
-  EXPECT_EQ(before.toImage(), window.grab().toImage());
-}
-
-TEST_F(MenusTest, TheContextMenuActsOnThePageInFrontAsTheEditMenuDoes) {
-  NewPage();
-  Parts().requests.PopUpContextMenu(QPoint(60, 70));
-  log.clear();
-  for (const char *item :
-       {"extCut", "extCopy", "extPaste", "extDelete", "extAll", "extInRow", "extInCol", "extMerge",
-        "extSplit", "extAbs", "extFront", "extBelowText"})
-    Choose(item);
-  EXPECT_EQ(Commands().join(u' ').toStdString(),
-            "ExecCommand(5003) ExecCommand(5002) ExecCommand(5032) ExecCommand(5004) "
-            "ExecCommand(5035) ExecCommand(6001) ExecCommand(6003) ExecCommand(6008) "
-            "ExecCommand(6009) ExecCommand(6020) ExecCommand(6021) ExecCommand(6026)");
-  Find<QMenu>("mnuExt")->close();
-}
-
-TEST_F(MenusTest, TheContextMenusItemsAreEnabledByWhatIsSelected) {
-  FakeEditingComponent &component = Component(NewPage());
-  const auto isEnabled = [&](const char *name) {
-    Parts().requests.PopUpContextMenu(QPoint(60, 70));
-    Find<QMenu>("mnuExt")->close();
-    return Item(name)->isEnabled();
-  };
-  for (const auto &[item, command] : {std::pair{"extCut", EditingCommand::Cut},
-                                      {"extInRow", EditingCommand::InsertRowBelow},
-                                      {"extMerge", EditingCommand::MergeCells},
-                                      {"extAbs", EditingCommand::AbsolutePosition},
-                                      {"mnuMoveRowUp", EditingCommand::MoveRowUp}}) {
-    EXPECT_TRUE(isEnabled(item)) << item;
-    component.statuses[command] = CommandStatus::Disabled;
-    EXPECT_FALSE(isEnabled(item)) << item;
-  }
-}
-
-TEST_F(MenusTest, MarkupAndTheCaretsElementAreOffWhereThereIsNoPlaceForThem) {
-  frmMain &page = NewPage();
-  const auto isEnabled = [&](const char *name) {
-    Parts().requests.PopUpContextMenu(QPoint(60, 70));
-    Find<QMenu>("mnuExt")->close();
-    return Item(name)->isEnabled();
-  };
-  EXPECT_TRUE(isEnabled("extInHTML"));
-  EXPECT_FALSE(isEnabled("extGetTag")) << "no element is at the caret";
-  Component(page).elementPath = {"body"};
-  EXPECT_TRUE(isEnabled("extGetTag"));
-  page.ChangeMode(2);
-  EXPECT_FALSE(isEnabled("extInHTML"));
-  EXPECT_FALSE(isEnabled("extGetTag"));
-}
-
-TEST_F(MenusTest, DetailsGridAndPositionAreMarkedWhereTheyAreOn) {
-  frmMain &page = NewPage();
-  const auto isMarked = [&](const char *name) {
-    Parts().requests.PopUpContextMenu(QPoint(60, 70));
-    Find<QMenu>("mnuExt")->close();
-    return Item(name)->isChecked();
-  };
-  EXPECT_FALSE(isMarked("extDetail"));
-  Choose("extDetail");
-  EXPECT_TRUE(isMarked("extDetail"));
-  EXPECT_TRUE(isMarked("mnuDetail"));
-  EXPECT_TRUE(page.DHTML1().ShowDetails());
-  Choose("mnuDetail");
-  EXPECT_FALSE(isMarked("extDetail"));
-  EXPECT_FALSE(page.DHTML1().ShowDetails());
-  EXPECT_TRUE(isMarked("extSnap"));
-  Choose("extSnap");
-  EXPECT_FALSE(isMarked("extSnap"));
-  EXPECT_FALSE(page.DHTML1().SnapToGrid());
-  EXPECT_FALSE(isMarked("extAbs"));
-  Component(page).statuses[EditingCommand::AbsolutePosition] = CommandStatus::Latched;
-  EXPECT_TRUE(isMarked("extAbs"));
-}
-
-TEST_F(MenusTest, TheOpenWindowsAreArrangedWithoutOneOverTheOther) {
-  frmMain &first = NewPage();
-  frmMain &second = NewPage();
-  const auto place = [](frmMain &page) { return page.parentWidget()->geometry(); };
-  Choose("mnuWindowTileVertical");
-  EXPECT_FALSE(place(first).intersects(place(second)));
-  EXPECT_EQ(place(first).top(), place(second).top());
-  EXPECT_EQ(place(first).height(), place(second).height());
-  Choose("mnuWindowTileHorizontal");
-  EXPECT_FALSE(place(first).intersects(place(second)));
-  EXPECT_EQ(place(first).left(), place(second).left());
-  EXPECT_EQ(place(first).width(), place(second).width());
-  Choose("mnuWindowCascade");
-  EXPECT_NE(place(first).topLeft(), place(second).topLeft());
-  EXPECT_EQ(Parts().windows.Current(), &second);
-}
-
-class PropertyDialogs : public WindowFixture {
- protected:
-  static QWidget &Control(QWidget &dialog, const char *name) {
-    auto *found = dialog.findChild<QWidget *>(QStringLiteral("prp_") + QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
-  }
-  static void Press(QWidget &dialog, const char *button) {
-    dialog.findChild<QPushButton *>(QLatin1String(button))->click();
-  }
-  QStringList Written() const {
-    QStringList calls;
-    for (const QString &call : log)
-      if (call.startsWith(QStringLiteral("SetProperties"))) calls << call;
-    return calls;
-  }
-};
-
-TEST_F(PropertyDialogs, WriteWhatThePersonChangedAndNothingElse) {
-  FakeEditingComponent &component = Component(NewPage());
-  component.properties[PropertySubject::Cell] = {
-      {"rows", "2"}, {"heading", ""}, {"width", "40"}, {"align", "justify"}, {"class", "a"}};
-  dialogs.ExpectModal([](QWidget &dialog) {
-    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Table Cell Properties"));
-    EXPECT_EQ(static_cast<QLabel &>(Control(dialog, "rows")).text(), QStringLiteral("2"));
-    EXPECT_EQ(static_cast<QComboBox &>(Control(dialog, "align")).currentText(),
-              QStringLiteral("justify"));
-    // The page has no value by that name.
-    EXPECT_EQ(dialog.findChild<QWidget *>(QStringLiteral("prp_height")), nullptr);
-    static_cast<QLineEdit &>(Control(dialog, "width")).setText(QStringLiteral("50%"));
-    static_cast<QCheckBox &>(Control(dialog, "heading")).setChecked(true);
-    Press(dialog, "cmdApply");
-    static_cast<QLineEdit &>(Control(dialog, "class")).clear();
-    Press(dialog, "cmdOK");
-    EXPECT_FALSE(dialog.isVisible());
-  });
-  Choose("extTDPro");
-  EXPECT_EQ(Written(), QStringList({QStringLiteral("SetProperties(3, heading=true width=50%)"),
-                                    QStringLiteral("SetProperties(3, class=)")}));
-}
-
-TEST_F(PropertyDialogs, RefuseWhatIsNoLengthOrColour) {
-  FakeEditingComponent &component = Component(NewPage());
-  component.properties[PropertySubject::Table] = {{"width", ""}, {"background", ""}};
-  dialogs.ExpectModal([](QWidget &dialog) {
-    auto &line = *dialog.findChild<QLabel *>(QStringLiteral("lblRefusal"));
-    for (const auto &[name, bad, good] :
-         {std::tuple{"width", "wide", "120"}, {"background", "#12", "#112233"}}) {
-      auto &box = static_cast<QLineEdit &>(Control(dialog, name));
-      box.setText(QLatin1String(bad));
-      Press(dialog, "cmdOK");
-      EXPECT_FALSE(line.isHidden()) << name;
-      EXPECT_TRUE(line.text().contains(QLatin1String(bad))) << name;
-      box.setText(QLatin1String(good));
-    }
-    Press(dialog, "cmdOK");
-  });
-  Choose("extTablePro");
-  EXPECT_EQ(Written(),
-            QStringList(QStringLiteral("SetProperties(2, background=#112233 width=120)")));
-}
-
-TEST_F(PropertyDialogs, AColourIsChosenFromThePaletteBesideItsBox) {
-  FakeEditingComponent &component = Component(NewPage());
-  component.properties[PropertySubject::Table] = {{"width", ""}, {"background", "#112233"}};
-  dialogs.ExpectModal([](QWidget &dialog) {
-    auto *picker = dialog.findChild<ColorPicker *>(QStringLiteral("prp_background_picker"));
-    ASSERT_NE(picker, nullptr);
-    EXPECT_EQ(picker->Color(), 0x332211);
-    EXPECT_EQ(picker->accessibleName(), QStringLiteral("Choose: Background"));
-    auto &box = static_cast<QLineEdit &>(Control(dialog, "background"));
-    box.setText(QStringLiteral("red"));
-    EXPECT_EQ(picker->Color(), 0x0000FF);
-    Q_EMIT picker->ColorChosen(0x00C08040);
-    EXPECT_EQ(box.text(), QStringLiteral("#4080C0"));
-    Press(dialog, "cmdOK");
-  });
-  Choose("extTablePro");
-  EXPECT_EQ(Written(), QStringList(QStringLiteral("SetProperties(2, background=#4080C0)")));
-}
-
-TEST_F(PropertyDialogs, NoTwoFieldsOfOneShareAnAltKey) {
-  using enum PropertySubject;
-  for (const PropertySubject subject : {Page, Image, Table, Cell, Link, Fonts, Element}) {
-    const PropertySheet &sheet = SheetOf(subject);
-    PropertyValues empty;
-    for (const PropertyField &field : sheet.fields) empty[QLatin1String(field.name)] = QString();
-    const frmProperties dialog(sheet, empty, nullptr);
-    EXPECT_EQ(SharedAltKeys(dialog).toStdString(), "") << sheet.title;
-  }
-}
-
-TEST_F(PropertyDialogs, CancelledOrUnchangedWriteNothing) {
-  FakeEditingComponent &component = Component(NewPage());
-  component.properties[PropertySubject::Page] = {{"title", "old"}};
-  for (const char *button : {"cmdOK", "cmdCancel"}) {
-    dialogs.ExpectModal([button](QWidget &dialog) {
-      if (QLatin1String(button) == QLatin1String("cmdCancel"))
-        static_cast<QLineEdit &>(Control(dialog, "title")).setText(QStringLiteral("new"));
-      Press(dialog, button);
-    });
-    Choose("extPagePro");
-  }
-  EXPECT_TRUE(Written().isEmpty());
-}
-
-TEST_F(MenusTest, ItemsHaveThePicturesOfTheirVerbs) {
-  EXPECT_FALSE(Item("mnuNew")->icon().isNull());
-  EXPECT_FALSE(Item("mnuTBLnew")->icon().isNull());
-  EXPECT_FALSE(Item("extCut")->icon().isNull());
-  EXPECT_TRUE(Item("mnuExit")->icon().isNull());
-}
-
-QStringList ListedWindows(QMenu &menu) {
-  Q_EMIT menu.aboutToShow();
-  QStringList listed;
-  for (const QAction *entry : menu.actions().mid(3)) {
-    const QString mark = entry->isChecked() ? QStringLiteral("*") : QString();
-    listed.append(entry->isSeparator() ? QStringLiteral("-") : entry->text() + mark);
-  }
-  return listed;
-}
-
-TEST_F(MenusTest, TheWindowMenuListsTheOpenDocuments) {
-  QMenu &menu = *Find<QMenu>("mnuWindow");
-  EXPECT_EQ(ListedWindows(menu), QStringList());
-  NewPage();
-  NewPage();
-  EXPECT_EQ(ListedWindows(menu), QStringList({QStringLiteral("-"), QStringLiteral("&1 Untitled 1"),
-                                              QStringLiteral("&2 Untitled 2*")}));
-}
-
-TEST_F(MenusTest, AListedDocumentComesToTheFront) {
-  frmMain &first = NewPage();
-  NewPage();
-  QMenu &menu = *Find<QMenu>("mnuWindow");
-  ListedWindows(menu);
-  menu.actions().at(4)->trigger();
-  EXPECT_EQ(ListedWindows(menu).at(1), QStringLiteral("&1 Untitled 1*"));
-  EXPECT_EQ(Parts().windows.Current(), &first);
-}
-
-TEST_F(MenusTest, TheRecentFilesAreListedLatestFirstAndOpen) {
-  QMenu &recent = *Find<QMenu>("mnuRecent");
-  const auto listed = [&recent] {
-    Q_EMIT recent.aboutToShow();
-    QStringList captions;
-    for (const QAction *entry : recent.actions()) captions.append(entry->text());
-    return captions;
-  };
-  EXPECT_EQ(listed(), QStringList(QStringLiteral("No file was opened yet")));
-  EXPECT_FALSE(recent.actions().at(0)->isEnabled());
-  for (const char *name : {"a.htm", "b.htm", "a.htm"}) {
-    const QString path = QStringLiteral("\\site\\") + QString::fromLatin1(name);
-    WriteFile(path);
-    modSettingManager::AddToHistory(registry, path);
-  }
-  EXPECT_EQ(listed(),
-            QStringList({QStringLiteral("&1 /site/a.htm"), QStringLiteral("&2 /site/b.htm")}));
-  recent.actions().at(1)->trigger();
-  ASSERT_EQ(Tabs().count(), 1);
-  EXPECT_EQ(Tabs().tabText(0), QStringLiteral("b.htm"));
-  EXPECT_EQ(Tabs().tabToolTip(0), QStringLiteral("/site/b.htm"));
-}
-
-TEST_F(MenusTest, TheDesktopsActionFindsARecentFileByWordsOfItsPath) {
-  for (const char *name : {"a&b.htm", "c d.htm"}) {
-    const QString path = QStringLiteral("\\site\\") + QString::fromLatin1(name);
-    WriteFile(path);
-    modSettingManager::AddToHistory(registry, path);
-  }
-  dialogs.ExpectModal([](QWidget &palette) {
-    EXPECT_EQ(palette.windowTitle(), QStringLiteral("Recent Files"));
-    auto &list = *palette.findChild<QListWidget *>(QStringLiteral("lstCommands"));
-    ASSERT_EQ(list.count(), 2);
-    EXPECT_EQ(list.item(0)->text(), QStringLiteral("/site/c d.htm"));
-    EXPECT_EQ(list.item(1)->text(), QStringLiteral("/site/a&b.htm"));
-    auto *words = palette.findChild<QLineEdit *>(QStringLiteral("txtWords"));
-    QTest::keyClicks(words, QStringLiteral("a&"));
-    QTest::keyClick(words, Qt::Key_Return);
-  });
-  window.ShowRecentFiles();
-  ASSERT_EQ(Tabs().count(), 1);
-  EXPECT_EQ(Tabs().tabToolTip(0), QStringLiteral("/site/a&b.htm"));
-}
-
-TEST_F(MenusTest, FifteenRecentFilesAreListedTheFirstNineWithADigit) {
-  for (int number = 1; number <= 20; ++number)
-    modSettingManager::AddToHistory(registry, QStringLiteral("\\site\\%1.htm").arg(number));
-  QMenu &recent = *Find<QMenu>("mnuRecent");
-  Q_EMIT recent.aboutToShow();
-  ASSERT_EQ(recent.actions().size(), 15);
-  EXPECT_EQ(recent.actions().at(8)->text(), QStringLiteral("&9 /site/12.htm"));
-  EXPECT_EQ(recent.actions().at(9)->text(), QStringLiteral("10 /site/11.htm"));
-}
-
 TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
   Q_EMIT Find<QMenu>("mnuTableMore")->aboutToShow();
   EXPECT_EQ(Tree(Find<QMenu>("mnuTools")->actions()).toStdString(),
@@ -527,6 +195,39 @@ mnuSettings "Settings... (&S)"
 )tree");
 }
 
+TEST_F(MenusTest, TheRecordMenuIsAPopupOfItsOwn) {
+  EXPECT_EQ(Tree(Find<QMenu>("mnuCustom")->actions()).toStdString(), "cusDel \"Delete Record\"\n");
+  EXPECT_FALSE(Find<QMenu>("mnuCustom")->isVisible());
+  EXPECT_FALSE(Find<QMenu>("mnuExt")->isVisible());
+}
+
+class WithoutAdditions : public WindowFixture {
+ protected:
+  WithoutAdditions() : WindowFixture(Additions::Off) {}
+};
+
+TEST_F(WithoutAdditions, ItemsWithoutAPublishedActionDoNothing) {
+  NewPage();
+  const QPixmap before = window.grab();
+  log.clear();
+  for (const char *item :
+       {"mnuWindowCascade", "mnuWindowTileHorizontal", "mnuWindowTileVertical", "mnuDetail",
+        "mnuView_CusMenu", "cusDel", "extCut", "extDelete", "extPagePro", "extAbs", "extDetail",
+        "extSnap", "extInCol", "extFront", "extGetTag"}) {
+    ASSERT_TRUE(Item(item)->isEnabled()) << item;
+    Choose(item);
+  }
+  EXPECT_TRUE(log.empty());
+  EXPECT_EQ(before.toImage(), window.grab().toImage());
+}
+
+TEST_F(MenusTest, ItemsHaveThePicturesOfTheirVerbs) {
+  EXPECT_FALSE(Item("mnuNew")->icon().isNull());
+  EXPECT_FALSE(Item("mnuTBLnew")->icon().isNull());
+  EXPECT_FALSE(Item("extCut")->icon().isNull());
+  EXPECT_TRUE(Item("mnuExit")->icon().isNull());
+}
+
 TEST_F(MenusTest, SourceLinesWrapAsChosenInToolsAtOnceAndInLaterPages) {
   frmMain &page = NewPage();
   page.ChangeMode(2);
@@ -549,52 +250,6 @@ TEST_F(MenusTest, SourceLinesWrapAsChosenInToolsAtOnceAndInLaterPages) {
   Choose("mnuWrapSource");
   EXPECT_TRUE(isMarked());
   EXPECT_EQ(wrapOf(page), LineWrap::On);
-}
-
-TEST_F(MenusTest, ACommandIsFoundByWordsAndRunOnWhatIsInFront) {
-  const auto type = [](QWidget &palette, const QString &words) {
-    auto *line = palette.findChild<QLineEdit *>(QStringLiteral("txtWords"));
-    line->setText(words);
-    QTest::keyClick(line, Qt::Key_Return);
-  };
-  dialogs.ExpectModal([](QWidget &palette) {
-    const auto *list = palette.findChild<QListWidget *>(QStringLiteral("lstCommands"));
-    EXPECT_EQ(list->item(0)->text(), QStringLiteral("New Document (Ctrl+N)"));
-    EXPECT_TRUE(list->findItems(QStringLiteral("Bold"), Qt::MatchExactly).isEmpty());
-    palette.close();
-  });
-  Choose("mnuFindCommand");
-  NewPage();
-  log.clear();
-  dialogs.ExpectModal([&](QWidget &palette) { type(palette, QStringLiteral("all SEL")); });
-  Choose("mnuFindCommand");
-  EXPECT_EQ(Commands(), QStringList(QStringLiteral("ExecCommand(5035)")));
-  log.clear();
-  dialogs.ExpectModal([&](QWidget &palette) { type(palette, QStringLiteral("no such thing")); });
-  Choose("mnuFindCommand");
-  EXPECT_TRUE(Commands().isEmpty());
-}
-
-TEST_F(MenusTest, ACommandIsFoundByOtherWordsForItBehindThoseNamedSo) {
-  NewPage();
-  const auto found = [this](const char *words) {
-    QStringList entries;
-    dialogs.ExpectModal([&](QWidget &palette) {
-      palette.findChild<QLineEdit *>(QStringLiteral("txtWords"))
-          ->setText(QString::fromLatin1(words));
-      const auto *list = palette.findChild<QListWidget *>(QStringLiteral("lstCommands"));
-      for (int row = 0; row < list->count(); ++row) entries.append(list->item(row)->text());
-      palette.close();
-    });
-    Choose("mnuFindCommand");
-    return entries;
-  };
-  EXPECT_EQ(found("pict"), QStringList({QStringLiteral("Take Embedded Pictures Out into Files"),
-                                        QStringLiteral("Image")}));
-  const QStringList pages = found("page");
-  EXPECT_TRUE(pages.contains(QStringLiteral("New Document (Ctrl+N)")))
-      << pages.join(u'|').toStdString();
-  EXPECT_EQ(found("tab").constFirst(), QStringLiteral("Insert Table"));
 }
 
 TEST_F(MenusTest, ToolsShowsTheDrives) {
