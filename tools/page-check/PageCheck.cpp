@@ -155,7 +155,7 @@ const QStringList &PageCheck::ScriptKinds() {
       QStringLiteral("center"),           QStringLiteral("attribute"), QStringLiteral("row"),
       QStringLiteral("column"),           QStringLiteral("merge"),     QStringLiteral("class"),
       QStringLiteral("page-title"),       QStringLiteral("link"),      QStringLiteral("replace"),
-      QStringLiteral("replace-all")};
+      QStringLiteral("replace-all"),      QStringLiteral("correct")};
   return kinds;
 }
 
@@ -168,7 +168,7 @@ const QStringList &PageCheck::KeyKinds() {
 
 bool PageCheck::IsKind(const QString &words) {
   static const QStringList withWords = {QStringLiteral("type"), QStringLiteral("replace"),
-                                        QStringLiteral("replace-all")};
+                                        QStringLiteral("replace-all"), QStringLiteral("correct")};
   return ScriptKinds().contains(words) || KeyKinds().contains(words) ||
          (words.contains(u'=') && withWords.contains(words.section(u'=', 0, 0)));
 }

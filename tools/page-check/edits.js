@@ -112,6 +112,21 @@ const replaceBy = (replace) => [wordPlaces, ([text, start, end], argument) => {
   return velor.find(query, 'here').count > 0 && replace(query, other);
 }];
 
+// Corrects the word at a place to another one, or "A,B": the first A from there on to B.
+const correct = [wordPlaces, ([text, start, end], argument) => {
+  select(text, start, end);
+  const { lines, from: [first, index], to: [last, behind] } = velor.spelledText();
+  const [wrong, right] = argument ? argument.split(',') : [text.data.slice(start, end), 'right'];
+  if (!argument) {
+    return first === last && velor.correctWord([[first, index, behind]], wrong, right) > 0;
+  }
+  for (let line = first; line < lines.length; ++line) {
+    const at = lines[line][0].indexOf(wrong, line === first ? index : 0);
+    if (at >= 0) return velor.correctWord([[line, at, at + wrong.length]], wrong, right) > 0;
+  }
+  return false;
+}];
+
 // A command with the caret in a cell.
 const onCell = (command) => (cell) => {
   select(cell, 0);
@@ -121,6 +136,7 @@ const onCell = (command) => (cell) => {
 const edits = {
   'replace': replaceBy((query, other) => velor.replaceFound(query, other)),
   'replace-all': replaceBy((query, other) => velor.replaceAll(query, other)),
+  correct,
   'type': atCaret,
   'enter': atCaret,
   'backspace': atCaret,
