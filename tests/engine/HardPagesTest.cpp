@@ -123,6 +123,35 @@ TEST_F(HardPages, ChangeNothingOutsideTheElementAroundTheEdit) {
   EXPECT_GT(whole, 0);
 }
 
+/// An exchange of words, and what the saved page is then.
+struct Exchange {
+  const char *name;
+  QString kind;
+  QByteArray saved;
+};
+
+TEST_F(HardPages, HaveWordsExchangedWithoutAnyOtherByte) {
+  const QByteArray behind =
+      "\r\n<!-- words --><?words?>\r\n<P Title='words'>other words<%words%> <em>words</em>";
+  const QByteArray page = "<p>First wo<b>rd</b>s &amp; words &copy 2001<br/>" + behind;
+  const Exchange exchanges[] = {
+      {"the first match, which lies across elements", QStringLiteral("replace=words,signs"),
+       "<p>First signs &amp; words &copy 2001<br/>" + behind},
+      {"a correction there", QStringLiteral("correct=words,signs"),
+       "<p>First signs &amp; words &copy 2001<br/>" + behind},
+      {"every match", QStringLiteral("replace-all=words,signs"),
+       "<p>First signs &amp; signs &copy 2001<br/>"
+       "\r\n<!-- words --><?words?>\r\n<P Title='words'>other signs<%words%> <em>signs</em>"},
+  };
+  for (const Exchange &exchange : exchanges) {
+    SCOPED_TRACE(exchange.name);
+    const QJsonObject result = Check(page, exchange.kind, 0);
+    EXPECT_TRUE(result[QStringLiteral("edited")].toBool());
+    EXPECT_EQ(result[QStringLiteral("bytes_outside")].toInt(), 0);
+    EXPECT_EQ(check_.Saved().toStdString(), exchange.saved.toStdString());
+  }
+}
+
 TEST_F(HardPages, OfNastyMarkupAreSavedAsTheDocumentsTheyBecame) {
   const std::uint32_t count = AsksForAll() ? 600 : 16;
   int edits = 0;
