@@ -44,6 +44,7 @@ constexpr HelpTopic Topics[] = {
     {"FrmPrint", nullptr, "printing.html#print"},
     {"FrmSiteSpelling", nullptr, "spelling.html#pages"},
     {"FrmSettings", nullptr, "settings.html#list"},
+    {"FrmShortcuts", nullptr, "commands.html#shortcuts"},
     {"CommandPalette", nullptr, "commands.html#palette"},
     {"frmCompare", nullptr, "outside.html#both"},
     {"frmAbout", nullptr, "window.html#about"},

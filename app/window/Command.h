@@ -57,6 +57,7 @@ enum class CommandId {
   SpellingOfPages,
   WrapSource,
   Drives,
+  Shortcuts,
   Settings,
   ZoomIn,
   ZoomOut,

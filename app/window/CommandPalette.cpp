@@ -23,6 +23,11 @@ bool HoldsAll(const QString &name, const QStringList &words) {
 
 }  // namespace
 
+QString NameWithKey(const NamedCommand &command) {
+  const QString key = command.item->shortcut().toString(QKeySequence::NativeText);
+  return key.isEmpty() ? command.name : QStringLiteral("%1 (%2)").arg(command.name, key);
+}
+
 QString SpokenCaption(QString caption) {
   static const QRegularExpression key(QStringLiteral("\\s*\\(&.\\)$"));
   caption.remove(key).remove(u'&');
@@ -62,9 +67,7 @@ void CommandPalette::Filter() {
     const NamedCommand &command = commands_.at(index);
     const bool isNamed = HoldsAll(command.name, words);
     if (!isNamed && !HoldsAll(command.name + u' ' + command.words, words)) continue;
-    const QString keys = command.item->shortcut().toString(QKeySequence::NativeText);
-    auto *entry = new QListWidgetItem(
-        keys.isEmpty() ? command.name : QStringLiteral("%1 (%2)").arg(command.name, keys));
+    auto *entry = new QListWidgetItem(NameWithKey(command));
     entry->setData(Qt::UserRole, index);
     list_->insertItem(isNamed ? named++ : list_->count(), entry);
   }

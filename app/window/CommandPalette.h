@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/window/Command.h"
+
 #include <QDialog>
 #include <QList>
 #include <QPointer>
@@ -18,7 +20,13 @@ struct NamedCommand {
   QAction *item;
   /// Further words by which it is found.
   QString words = {};
+  /// Its name in the tables; empty for what is no command.
+  QString id = {};
+  Command command = {};
 };
+
+/// The name with the item's key behind it, where it has one.
+QString NameWithKey(const NamedCommand &command);
 
 /// What a palette says it is for.
 struct PaletteWords {

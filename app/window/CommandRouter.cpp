@@ -223,6 +223,9 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::ZoomReset:
       Zoom(0);
       break;
+    case CommandId::Shortcuts:
+      host_.ShowShortcuts();
+      break;
     case CommandId::Settings:
       host_.ShowSettings();
       break;

@@ -40,6 +40,7 @@ class CommandHost {
   virtual void ShowHelp() = 0;
   virtual void ShowCommandPalette() = 0;
   virtual void ShowDrives() = 0;
+  virtual void ShowShortcuts() = 0;
   virtual void ShowSettings() = 0;
   /// Asks for a file and writes what that window shows into it as a PDF.
   virtual void ExportPdf(FrontWindow &front) = 0;

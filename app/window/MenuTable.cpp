@@ -160,6 +160,7 @@ constexpr MenuRow Rows[] = {
     Separator("mnu7", "mnuTools"),
     Found(Words::Mark("html long break"), Beyond(Item("mnuWrapSource", Words::Mark("Wrap Source Lines (&W)"), "mnuTools", {CommandId::WrapSource}))),
     Found(Words::Mark("letter folder map windows"), Beyond(Item("mnuDrives", Words::Mark("Drives... (&D)"), "mnuTools", {CommandId::Drives}))),
+    Found(Words::Mark("keys keyboard hotkeys"), Beyond(Item("mnuShortcuts", Words::Mark("Shortcuts..."), "mnuTools", {CommandId::Shortcuts}))),
     Found(Words::Mark("options preferences colours"), Beyond(Item("mnuSettings", Words::Mark("Settings... (&S)"), "mnuTools", {CommandId::Settings}))),
 
     Menu("mnuHelp_Top", Words::Mark("Help (&H)")),

@@ -3,11 +3,13 @@
 #include "app/window/MfrmProgram.h"
 
 #include "app/help/Help.h"
+#include "app/window/CommandList.h"
 #include "app/window/CommandPalette.h"
 #include "app/window/CoolBar.h"
 #include "app/window/DialogInsertCommands.h"
 #include "app/window/FormattingBar.h"
 #include "app/window/FrmSettings.h"
+#include "app/window/FrmShortcuts.h"
 #include "app/window/PageArea.h"
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
@@ -16,6 +18,7 @@
 #include "app/window/PathCommands.h"
 #include "app/window/ProjectDesk.h"
 #include "app/window/RecentFiles.h"
+#include "app/window/Shortcuts.h"
 #include "app/window/StatusLine.h"
 #include "app/window/Unwinding.h"
 #include "app/window/WindowStyling.h"
@@ -198,6 +201,8 @@ void MfrmProgram::PrepareTools() {
   // Source editors have the same choice in their own menus.
   connect(tools, &QMenu::aboutToShow, this,
           [this, &wrap] { wrap.setChecked(ChosenLineWrap(platform_.registry) == LineWrap::On); });
+  shortcuts_ = new Shortcuts(*this, platform_.registry, CommandsOf(menus_, bandBar_->Formatting()),
+                             [this] { selectionItems_.Refresh(); });
 }
 
 void MfrmProgram::PrepareHelp() {
@@ -398,19 +403,9 @@ void MfrmProgram::ShowHelp() {
 
 void MfrmProgram::ShowCommandPalette() {
   selectionItems_.Refresh();
-  QList<NamedCommand> commands;
-  for (const MenuRow &row : MenuTable()) {
-    const bool isOwn = row.command.id == CommandId::FindCommand;
-    if (row.kind != MenuKind::Item || row.command.id == CommandId::None || isOwn) continue;
-    // What the context menu shares with another menu is listed once, by the name there.
-    const bool isShared = MenuItem(row.command).objectName() != QLatin1String(row.name) &&
-                          QLatin1String(row.name).startsWith(QLatin1String("ext"));
-    if (isShared) continue;
-    commands.append(
-        {SpokenCaption(Words::tr(row.caption)), &MenuItem(row.command), Words::tr(row.words)});
-  }
-  for (ToolBarAction *button : bandBar_->Formatting().Buttons())
-    commands.append({button->toolTip(), button, {}});
+  QList<NamedCommand> commands = CommandsOf(menus_, bandBar_->Formatting());
+  commands.removeIf(
+      [](const NamedCommand &each) { return each.command.id == CommandId::FindCommand; });
   RunPalette({tr("Find Command"), tr("Words of the command"), tr("Commands")}, commands);
 }
 
@@ -432,6 +427,13 @@ void MfrmProgram::RunPalette(const PaletteWords &words, const QList<NamedCommand
 
 void MfrmProgram::ShowDrives() {
   projects_->ShowDrives(*this);
+}
+
+void MfrmProgram::ShowShortcuts() {
+  const QPointer<MfrmProgram> alive = this;
+  FrmShortcuts window(*shortcuts_, this);
+  platform_.dialogs.RunModal(window);
+  if (!alive.isNull() && window.result() == QDialog::Accepted) shortcuts_->Use(window.Keys());
 }
 
 void MfrmProgram::ShowSettings() {

@@ -31,6 +31,7 @@ class PdfExport;
 class ProjectDesk;
 class RecentFiles;
 class RecoveryBar;
+class Shortcuts;
 class StatusLine;
 class StyleMenuPainter;
 class StylingSweeps;
@@ -104,6 +105,7 @@ class MfrmProgram final : public QMainWindow,
   void ShowHelp() override;
   void ShowCommandPalette() override;
   void ShowDrives() override;
+  void ShowShortcuts() override;
   void ShowSettings() override;
   void ExportPdf(FrontWindow &front) override;
   void Print(FrontWindow &front) override;
@@ -158,8 +160,9 @@ class MfrmProgram final : public QMainWindow,
   PdfExport *pdfExport_;
   std::unique_ptr<ProjectDesk> projects_;
   std::unique_ptr<EditingComponent> formatNames_;
-  /// Null without the menu Tools.
+  // Null without the menu Tools.
   RecentFiles *recent_ = nullptr;
+  Shortcuts *shortcuts_ = nullptr;
   EngineVersion engine_;
   Printers *printers_ = nullptr;
   PrintChoices printChoices_;   ///< of this run

@@ -3826,6 +3826,78 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>The page is the template %1 now</source>
         <translation>Die Seite ist jetzt die Vorlage %1</translation>
     </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Words of the command</source>
+        <translation>Wörter des Befehls</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation>&amp;Taste:</translation>
+    </message>
+    <message>
+        <source>Press a key; Delete takes it away</source>
+        <translation>Taste drücken; Entf nimmt sie weg</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All</source>
+        <translation>&amp;Alle zurücksetzen</translation>
+    </message>
+    <message>
+        <source>%1 has this key too</source>
+        <translation>%1 hat diese Taste auch</translation>
+    </message>
+    <message>
+        <source>goes before %1 in the page</source>
+        <translation>geht in der Seite vor %1</translation>
+    </message>
+    <message>
+        <source>in the page %1</source>
+        <translation>in der Seite %1</translation>
+    </message>
+    <message>
+        <source>keys keyboard hotkeys</source>
+        <translation>Tasten Tastatur Kürzel Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Shortcuts...</source>
+        <translation>Tastenkürzel...</translation>
+    </message>
+    <message>
+        <source>That is no key.</source>
+        <translation>Das ist keine Taste.</translation>
+    </message>
+    <message>
+        <source>%1 types, moves or deletes.</source>
+        <translation>%1 schreibt, bewegt oder löscht.</translation>
+    </message>
+    <message>
+        <source>%1 is a key of the window.</source>
+        <translation>%1 ist eine Taste des Fensters.</translation>
+    </message>
+    <message>
+        <source>%1 opens the menu %2.</source>
+        <translation>%1 öffnet das Menü %2.</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

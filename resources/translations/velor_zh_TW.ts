@@ -3813,6 +3813,78 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>The page is the template %1 now</source>
         <translation>網頁現在是範本 %1</translation>
     </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>快速鍵</translation>
+    </message>
+    <message>
+        <source>Words of the command</source>
+        <translation>命令的字詞</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>按鍵</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation>按鍵(&amp;K):</translation>
+    </message>
+    <message>
+        <source>Press a key; Delete takes it away</source>
+        <translation>請按一個按鍵；Delete 可移除</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>重設(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All</source>
+        <translation>全部重設(&amp;A)</translation>
+    </message>
+    <message>
+        <source>%1 has this key too</source>
+        <translation>%1 也使用此按鍵</translation>
+    </message>
+    <message>
+        <source>goes before %1 in the page</source>
+        <translation>在頁面中優先於%1</translation>
+    </message>
+    <message>
+        <source>in the page %1</source>
+        <translation>在頁面中為 %1</translation>
+    </message>
+    <message>
+        <source>keys keyboard hotkeys</source>
+        <translation>按鍵 鍵盤 快速鍵</translation>
+    </message>
+    <message>
+        <source>Shortcuts...</source>
+        <translation>快速鍵...</translation>
+    </message>
+    <message>
+        <source>That is no key.</source>
+        <translation>這不是按鍵。</translation>
+    </message>
+    <message>
+        <source>%1 types, moves or deletes.</source>
+        <translation>%1 用於輸入、移動或刪除。</translation>
+    </message>
+    <message>
+        <source>%1 is a key of the window.</source>
+        <translation>%1 是視窗的按鍵。</translation>
+    </message>
+    <message>
+        <source>%1 opens the menu %2.</source>
+        <translation>%1 會開啟功能表「%2」。</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

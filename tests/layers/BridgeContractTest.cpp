@@ -80,6 +80,28 @@ TEST(BridgeContract, EveryCommandHasOneRowInTheTable) {
   EXPECT_THAT(rows, ContainerEq(Matches(Vocabulary("Command"), name)));
 }
 
+TEST(BridgeContract, ThePageAnswersTheKeysThatTheProgramKnowsOf) {
+  static const std::regex answered(R"(\['(?:shift\+)?\w', Command\.\w+\])");
+  static const std::regex parts(R"(\['(shift\+)?(\w)', Command\.(\w+)\])");
+  const std::string script =
+      Between(TextOf("engine/bridge/keys/shortcuts.js"), "const byKey = new Map([", "]);");
+  Names inScript;
+  for (std::sregex_iterator at(script.begin(), script.end(), answered), end; at != end; ++at) {
+    std::smatch part;
+    const std::string row = at->str();
+    ASSERT_TRUE(std::regex_match(row, part, parts));
+    inScript.insert(std::string("Ctrl+") + (part[1].matched ? "Shift+" : "") +
+                    static_cast<char>(std::toupper(part[2].str()[0])) + " " + part[3].str());
+  }
+  static const std::regex known(R"r(\{"([^"]+", EditingCommand::\w+)\})r");
+  Names inProgram;
+  for (std::string row :
+       Matches(Between(TextOf("engine/PageKeys.h"), "BridgeKeys{{", "}};"), known))
+    inProgram.insert(row.replace(row.find('"'), std::string("\", EditingCommand::").size(), " "));
+  EXPECT_THAT(inScript, SizeIs(7));
+  EXPECT_THAT(inProgram, ContainerEq(inScript));
+}
+
 TEST(BridgeContract, NoScriptWritesACommandAsANumber) {
   static const std::regex number(R"(\b([56]0\d\d)\b)");
   std::string scripts = AllOf("engine/bridge", {".js"});

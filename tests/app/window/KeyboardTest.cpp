@@ -160,6 +160,7 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
       {"mnuPrint",
        "cobPaper cobOrientation txtMargins txtScale chkBackgrounds chkEdgeLines cmdClose "
        "PaperView"},
+      {"mnuShortcuts", "txtWords lstCommands txtKey cmdResetAll cmdOK cmdCancel"},
       {"mnuDrives", "lstDrives cobLetter cmdAdd OK Cancel"},
       {"mnuTBLnew",
        "Text1 Text2 Combo1 combo2 combo3 combo4 chkHeadings Command1 Command2 qt_tabwidget_tabbar"},
@@ -199,7 +200,7 @@ TEST_F(KeyboardTest, NoTwoControlsInSightOfAWindowShareAnAltKey) {
   const char *const items[] = {"mnuNewFromTemplate", "mnuCharacter", "mnuAbout",    "mnuPrint",
                                "mnuFindCommand",     "mnuSettings",  "mnuDrives",   "mnuTBLnew",
                                "mnuISTimage",        "mnuISTlink",   "mnuBookmark", "mnuVideo",
-                               "mnuView_ProjectMan", "extInHTML"};
+                               "mnuView_ProjectMan", "extInHTML",  "mnuShortcuts"};
   for (const char *item : items) {
     dialogs.ExpectModal([item](QWidget &dialog) {
       dialog.show();

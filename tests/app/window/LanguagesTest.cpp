@@ -101,7 +101,7 @@ class WindowIn : private Spoken<Translator>, public WindowFixture {
     const char *const items[] = {"mnuNewFromTemplate", "mnuCharacter", "mnuAbout",    "mnuPrint",
                                  "mnuFindCommand",     "mnuSettings",  "mnuDrives",   "mnuTBLnew",
                                  "mnuISTimage",        "mnuISTlink",   "mnuBookmark", "mnuVideo",
-                                 "mnuView_ProjectMan", "extInHTML"};
+                                 "mnuView_ProjectMan", "extInHTML",    "mnuShortcuts"};
     for (const char *item : items) {
       dialogs.ExpectModal([&](QWidget &dialog) {
         dialog.show();

@@ -191,6 +191,7 @@ mnuTableMore "Table (&A)"
 mnu7 "-"
 mnuWrapSource "Wrap Source Lines (&W)"
 mnuDrives "Drives... (&D)"
+mnuShortcuts "Shortcuts..."
 mnuSettings "Settings... (&S)"
 )tree");
 }

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/CommandList.h"
+
+#include "app/window/FormattingBar.h"
+#include "app/window/MenuBuilder.h"
+#include "chrome/ToolBarButtons.h"
+#include "platform/Words.h"
+
+namespace velor {
+
+QList<NamedCommand> CommandsOf(const Menus &menus, const FormattingBar &formatting) {
+  QList<NamedCommand> commands;
+  for (const MenuRow &row : MenuTable()) {
+    if (row.kind != MenuKind::Item || row.command.id == CommandId::None) continue;
+    const QString name = QString::fromLatin1(row.name);
+    QAction *first = menus.items.at(row.command);
+    if (first->objectName() != name && name.startsWith(u"ext")) continue;
+    // Items of one name have commands of their own.
+    QAction *item = row.index == 0 ? menus.named.value(name) : first;
+    const QString id = row.index == 0 ? name : name + QString::number(row.index);
+    commands.append(
+        {SpokenCaption(Words::tr(row.caption)), item, Words::tr(row.words), id, row.command});
+  }
+  for (std::size_t index = 0; index < EditCommands.size(); ++index) {
+    const EditCommand &row = EditCommands.at(index);
+    ToolBarAction *button = formatting.Buttons()[index];
+    commands.append({Words::tr(row.tooltip),
+                     button,
+                     {},
+                     button->objectName(),
+                     {CommandId::Editing, row.command}});
+  }
+  return commands;
+}
+
+}  // namespace velor
