@@ -28,7 +28,7 @@ import * as whitespace from './whitespace.js';
 // What watch() has found; null at rest.
 /**
  * @type {(Noted & { ownLeft: boolean, ownRight: boolean, parts: boolean, begins: boolean,
- *   isFollowed: boolean }) | null}
+ *   isRange: boolean, isFollowed: boolean }) | null}
  */
 let noted = null;
 
@@ -113,6 +113,7 @@ export function watch(inputType = '', target = null) {
     // The one on the left stands before a blank, and the one on the right begins a line or run.
     parts: isOwn(left) && isGap(behindLeft),
     begins: isOwn(right) && (!beforeRight || isGap(beforeRight)),
+    isRange: !range.collapsed,
     // The stand-ins have moved along with the change.
     isFollowed: false,
   };
@@ -174,6 +175,18 @@ function addWritten(inputType, data) {
   }
 }
 
+/** @param {Neighbour | null} character */
+function addIf(character) {
+  if (charAt(character) === noBreak) addLeft(character);
+}
+// The same where a deletion has joined a line with one that a blank was typed at the start of, and
+// where what was selected began with the blank.
+function addJoined() {
+  const behind = noted.begins || !noted.right ? atCaret('nextSibling') : null;
+  if (behind?.node && wasTypedIn(behind.node) && atCaret('previousSibling')) addIf(behind);
+  if (noted.parts && noted.isRange) addIf(noted.left);
+}
+
 // A no-break space that stood beside a blank, or first in its line, stands between words now: it
 // is needed no more.
 /**
@@ -181,14 +194,11 @@ function addWritten(inputType, data) {
  * @param {string} data
  */
 function addNeedless(inputType, data) {
-  /** @param {Neighbour | null} character */
-  const addIf = (character) => {
-    if (charAt(character) === noBreak) addLeft(character);
-  };
   if (inputType === 'insertText' && data?.trim() !== '') {
     if (noted.parts) addIf(noted.left);
     if (noted.begins) addIf(atCaret('nextSibling'));
   }
+  if (inputType.startsWith('delete')) addJoined();
   for (const [node, old] of noted.texts) {
     const { head, tail } = dom.commonEnds(old, node.data);
     const gone = old.slice(head, old.length - tail);
@@ -264,9 +274,13 @@ export function trimEdges(last, next) {
   }
   if (dom.isText(next) && !keepsBlanks(next)) {
     next.deleteData(0, /^[ \t\n]*/.exec(next.data)[0].length);
-    // A blank that was typed at the line's start is one between words.
-    if (last && wasTypedIn(next) && /^\u00a0[^ \t\n\u00a0]/.test(next.data)) {
-      next.replaceData(0, 1, ' ');
-    }
+    if (last && wasTypedIn(next)) writeTypedStart(next);
   }
+}
+// A blank that was typed at the line's start is one between words.
+/** @param {Text} text */
+function writeTypedStart(text) {
+  const behind = beside(text, 1, 'nextSibling');
+  const isAlone = text.data.startsWith(noBreak) && charAt(behind) !== noBreak && !isBlank(behind);
+  if (isAlone) text.replaceData(0, 1, ' ');
 }
