@@ -183,6 +183,16 @@ export function expect(kind, joins) {
   begin(kind);
 }
 
+// Answers where points are after changes of the texts that they are in.
+/** @param {RestPoints} points */
+function following({ anchorNode, anchorOffset, focusNode, focusOffset }) {
+  const [anchor, focus] = [document.createRange(), document.createRange()];
+  if (anchorNode) anchor.setStart(anchorNode, anchorOffset);
+  if (focusNode) focus.setStart(focusNode, focusOffset);
+  return () => ({ anchorNode, anchorOffset: anchor.startOffset, focusNode,
+    focusOffset: focus.startOffset });
+}
+
 /**
  * A change that belongs to what was done last, and ends it.
  * @param {() => void} change
@@ -193,12 +203,12 @@ export function amend(change) {
   if (!last) return;
   if (!open) Object.assign(last, { seen: new Map(), names: new Map() });
   open = last;
-  const { after } = last;
+  const after = following(last.after);
   const sealed = last.changes.length;
   const wasClosed = undoable.at(-1) === last;
   change();
   observer.takeRecords().forEach(add);
-  last.after = { ...after, along: along.current() };
+  last.after = { ...after(), along: along.current() };
   if (wasClosed) {
     last.weight += seal(last.changes.slice(sealed));
     open = null;
