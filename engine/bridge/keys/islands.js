@@ -4,6 +4,7 @@
 // selection begins or ends with an island that is a block, or where there is one in place of a
 // line.
 import { deleteToPoint } from '../blocks/deletion.js';
+import { unitAt } from '../blocks/extent.js';
 import * as typing from '../blocks/typing.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -29,6 +30,26 @@ export function isBesideIsland(range) {
   const [node, offset] = gapAt(range) ?? [];
   return Boolean(node) &&
     [node.childNodes[offset - 1], node.childNodes[offset]].some(dom.isIsland);
+}
+
+/**
+ * End, where the engine would go on into a closed block behind the line: the caret stays behind the
+ * line. False elsewhere.
+ * @param {boolean} isExtended whether the selection's other end stays
+ */
+export function endBeforeIsland(isExtended) {
+  const was = selection.points();
+  const selected = /** @type {any} */ (getSelection());
+  if (!selection.range()) return false;
+  selected.modify(isExtended ? 'extend' : 'move', 'forward', 'lineboundary');
+  const isIn = dom.ancestor(selected.focusNode, dom.isIsland) !== null;
+  selection.select(was);
+  const last = isIn && unitAt(was.focusNode, was.focusOffset)?.nodes.at(-1);
+  if (!last) return false;
+  const [focusNode, focusOffset] = selection.pointOf(selection.endOf(last));
+  const caret = { anchorNode: focusNode, anchorOffset: focusOffset, focusNode, focusOffset };
+  selection.select(isExtended ? { ...was, focusNode, focusOffset } : caret);
+  return true;
 }
 
 // Whether the step at hand has the deletion that the next character belongs to.

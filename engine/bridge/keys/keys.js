@@ -10,18 +10,27 @@ import { exec } from '../talk/commands.js';
 import { selectionMoved } from '../talk/push.js';
 import { endComposition } from './composition.js';
 import { beforeInput, input } from './input.js';
-import { isBesideIsland, typeBesideIsland } from './islands.js';
+import { endBeforeIsland, isBesideIsland, typeBesideIsland } from './islands.js';
 import { commandOfKey } from './shortcuts.js';
 import { pressTab } from './tab.js';
+
+// What Tab and End do here in the engine's place; false where they do not.
+/**
+ * @param {string} key
+ * @param {boolean} shiftKey
+ */
+function takesOver(key, shiftKey) {
+  if (key === 'Tab') pressTab(shiftKey);
+  return key === 'Tab' || (key === 'End' && endBeforeIsland(shiftKey));
+}
 
 /** @param {KeyboardEvent} event */
 function keyDown(event) {
   if (!isEditable() || event.isComposing) return;
   const { key, ctrlKey, altKey, metaKey, shiftKey } = event;
   const isPlain = !ctrlKey && !altKey && !metaKey;
-  if (isPlain && key === 'Tab') {
+  if (isPlain && takesOver(key, shiftKey)) {
     event.preventDefault();
-    pressTab(shiftKey);
     return;
   }
   // The engine's word deletions are no other where something is selected.
