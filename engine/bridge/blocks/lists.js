@@ -204,8 +204,8 @@ function toParagraphs(item) {
 /** @param {AnyNode[]} group */
 function takeOutOfList(group) {
   const list = cutOutList(group);
-  const paragraphs = group.flatMap(toParagraphs);
   dropInnerLines(list);
+  const paragraphs = group.flatMap(toParagraphs);
   dom.unwrap(list);
   return paragraphs;
 }

@@ -128,13 +128,32 @@ export function dropLine(block) {
   if (beginsLine(before)) before.remove();
   else if (!before && lineOf(block)) after.remove();
 }
-/** @param {AnyNode} holder */
-export function dropInnerLines(holder) {
-  const line = endLineOf(holder);
-  const { firstChild, lastChild } = holder;
+/**
+ * What the items of a list hold is about to stand where the list stands: the lines of the list and
+ * of its items go.
+ * @param {AnyNode} list
+ */
+export function dropInnerLines(list) {
+  const line = endLineOf(list);
+  for (const item of list.children) dropItemLines(item);
+  const { firstChild, lastChild } = list;
   for (const edge of new Set([firstChild, lastChild])) if (beginsLine(edge)) edge.remove();
-  // What is left stands where the holder stood.
-  if (line) for (const node of [...holder.childNodes].filter(beginsLine)) node.data = line;
+  if (line) for (const node of [...list.childNodes].filter(beginsLine)) node.data = line;
+}
+// Blocks in an item stay on the lines that they have there, where the item has one too.
+/** @param {AnyNode} item */
+function dropItemLines(item) {
+  if (![...item.children].some(dom.isBlock)) return;
+  const { firstChild, lastChild, parentNode: list } = item;
+  const [isFirst, isLast] = dom.sides.map((side) => !dom.neighbour(item, side));
+  if (beginsLine(lastChild) && (isLast || beginsLine(item.nextSibling))) lastChild.remove();
+  if (!beginsLine(firstChild) || !dom.isBlock(dom.neighbour(firstChild, 'nextSibling'))) return;
+  const lines = [item.previousSibling, isFirst ? list.previousSibling : null].filter(beginsLine);
+  for (const line of lines) {
+    line.data = line.data.replace(/\n[ \t]*$/, '');
+    if (!line.length) line.remove();
+  }
+  if (isFirst && !lines.length) firstChild.remove();
 }
 
 /**
