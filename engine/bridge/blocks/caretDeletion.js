@@ -185,7 +185,9 @@ function deleteAtom(atom) {
  */
 function deletionAtEdge(unit, side) {
   const back = side === 'start';
-  if (back && startsItem(unit)) return () => lists.outdentItemOf(unit);
+  if (back && startsItem(unit) && !holdsListBehindItem(unit)) {
+    return () => lists.outdentItemOf(unit);
+  }
   const edge = unit.block || (back ? unit.nodes[0] : unit.nodes.at(-1)) || unit.container;
   const leaf = leafBeside(edge, back ? 'previousSibling' : 'nextSibling');
   if (!leaf || leaf.tagName === 'TABLE') return () => {};
@@ -204,6 +206,16 @@ function startsItem(unit) {
   if (!item) return false;
   const first = [...item.childNodes].find(dom.isShown);
   return !first || first === unit.nodes[0] || first === unit.block || item === unit.block;
+}
+
+// True in an item with a list in it, behind an item without one. It joins that item: the list in it
+// would go a level up otherwise.
+/** @param {Unit} unit */
+function holdsListBehindItem(unit) {
+  const item = itemOf(unit);
+  const before = dom.neighbour(item, 'previousSibling');
+  return isItem(before) && [...item.children].some(isListOf) &&
+    ![...before.children].some(isListOf);
 }
 
 // The break that is an empty line of bare text, where the run begins or ends with one. An item's

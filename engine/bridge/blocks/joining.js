@@ -81,6 +81,17 @@ function writeAsShown(nodes, follow) {
   if (isParted) texts.find((text) => text.isConnected)?.insertData(0, ' ');
 }
 
+// A break alone that holds an empty line open shows nothing behind text: it goes.
+/**
+ * @param {ChildNode[]} nodes
+ * @param {ChildNode | undefined} last what they are to stand behind
+ */
+function dropHeldLine(nodes, last) {
+  if (last && !dom.isBreak(last) && nodes.length === 1 && dom.isBreak(nodes[0])) {
+    nodes.pop().remove();
+  }
+}
+
 // What the nodes show, as one text that is not in the document yet: for where no markup may stand.
 /** @param {ChildNode[]} nodes */
 function asText(nodes) {
@@ -137,8 +148,9 @@ export function join(first, second, mark = null, line = null) {
   const isRaw = dom.rawAt(first.container);
   const all = leavesPre ? [...home.childNodes]
     : (isRaw ? second.nodes : withComments(second)).filter((node) => node.isConnected);
-  const moved = isRaw ? asText(all) : all;
   const last = left.at(-1);
+  dropHeldLine(all, last);
+  const moved = isRaw ? asText(all) : all;
   const between = last ? selection.endOf(last) : selection.startOf(moved[0] ?? first.container);
   if (last) endWithComments(last).after(...moved);
   else if (mark) mark.after(...moved);

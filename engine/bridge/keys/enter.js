@@ -108,6 +108,8 @@ function splitBlock(block) {
   const above = below === block.nextSibling ? block : block.lastChild;
   dropEmptyInline(dom.lastLeaf(above));
   dropEmptyInline(mark);
+  const [first] = [...below.childNodes].filter(dom.isShown);
+  if (below.tagName === 'LI' && dom.isList(first)) below.prepend(dom.create('BR'));
   moveGapAbove(above, below);
   holdOpen(above);
   holdOpen(below);
@@ -127,14 +129,13 @@ function enterInItem(unit) {
   const goesOn = unit.block
     ? /^(P|DIV)$/.test(unit.block.tagName) && unit.block.parentNode === item &&
       dom.neighbour(unit.block, 'nextSibling')
-    : unit.container === item && others.some((child) => !dom.isList(child) || isWithinLine(unit));
+    : unit.container === item && others.some((child) => !dom.isList(child) || isBehindText(unit));
   return goesOn || goesOnInside(unit, item) ? () => splitBlock(item) : null;
 }
-// True where the caret has something of its paragraph on both sides. Before a list in an item the
+// True where the caret has something of its paragraph before it. Before a list in an item the
 // engine would drop the source's lines.
 /** @param {Unit} unit */
-const isWithinLine = (unit) => (/** @type {Edge[]} */ (['start', 'end']))
-  .every((side) => !isAtEdge(selection.range(), unit, side));
+const isBehindText = (unit) => !isAtEdge(selection.range(), unit, 'start');
 // True for a paragraph that lies deeper in an item (in a division), with more behind it there.
 /**
  * @param {Unit} unit
