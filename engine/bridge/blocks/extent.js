@@ -49,6 +49,23 @@ export const cellOf = (node) => dom.ancestor(node, isApart) || document.body;
 export const isEmptyParagraph = (unit) => Boolean(unit.block) && dom.isHollow(unit.block);
 
 /**
+ * A range that shows something in one table cell only, and begins or ends outside of that, less
+ * what is outside.
+ * @param {Range} range
+ */
+export function withinCell(range) {
+  const { startContainer, endContainer } = range;
+  if (selection.control(range) || cellOf(startContainer) === cellOf(endContainer)) return range;
+  const leaves = [...selection.leavesIn(range)].filter(dom.isShown);
+  const [cell, ...others] = new Set(leaves.map(cellOf));
+  if (!cell || others.length) return range;
+  const part = range.cloneRange();
+  if (!cell.contains(startContainer)) part.setStart(cell, 0);
+  if (!cell.contains(endContainer)) part.setEnd(cell, cell.childNodes.length);
+  return part;
+}
+
+/**
  * The same range with its ends in the blocks that it takes in, so that what stands behind a block
  * that is selected as a whole stays out of it. A range over all of the page, or over one object, is
  * answered as it is.
@@ -61,7 +78,7 @@ export function narrowed(range) {
   const all = startContainer === body && endContainer === body && startOffset === 0 &&
     endOffset === body.childNodes.length;
   if (all || selection.control(range)) return range;
-  const result = range.cloneRange();
+  const result = withinCell(range).cloneRange();
   /** @param {AnyNode} node */
   const enters = (node) => dom.isElement(node) && dom.isBlock(node) && !dom.isAtom(node) &&
     node.tagName !== 'TABLE' && node.hasChildNodes();

@@ -3,6 +3,7 @@
 // Copying, cutting, pasting and dragging. What is copied has full addresses, so that it is of use
 // elsewhere; what comes in is built anew (clean.js) unless it was copied in this program.
 import { deleteToPoint } from '../blocks/deletion.js';
+import { showsAnything, spansUnits, withinCell } from '../blocks/extent.js';
 import { deleteKeepingLooks } from '../blocks/typing.js';
 import * as addresses from './addresses.js';
 import { cleaned, cleaning } from './clean.js';
@@ -30,11 +31,28 @@ const originOf = ({ start, end }) => `${generator} data-ends="${start} ${end}">`
 /** @param {AnyNode} node */
 const isContext = (node) => dom.isInline(node) || dom.isList(node) ||
   /^(DL|TABLE|TBODY|THEAD|TFOOT|TR|PRE)$/.test(node.tagName);
+// True for an item whose paragraphs are all in the range: it is copied as an item.
+/**
+ * @param {Node} item
+ * @param {Range} range
+ */
+function isAllOfItem(item, range) {
+  if (item.nodeName !== 'LI' || !spansUnits(range)) return false;
+  const { startContainer, startOffset, endContainer, endOffset } = range;
+  const [before, behind] = [document.createRange(), document.createRange()];
+  before.setStart(item, 0);
+  before.setEnd(startContainer, startOffset);
+  behind.setStart(endContainer, endOffset);
+  behind.setEnd(item, item.childNodes.length);
+  return !showsAnything(before) && !showsAnything(behind);
+}
 /** @param {Range} range */
 function contextOf(range) {
   const elements = [];
   let at = range.commonAncestorContainer;
   if (dom.isText(at)) at = at.parentNode;
+  if (isAllOfItem(at, range)) elements.push(at);
+  if (elements.length) at = at.parentNode;
   for (; isContext(at); at = at.parentNode) elements.push(at);
   return elements;
 }
@@ -73,7 +91,8 @@ const isInField = (node) => dom.isElement(node) && node.closest('input, textarea
  * @param {Range} range
  */
 function putInto(data, range) {
-  data.setData('text/html', originOf(openEndsOf(range)) + copiedMarkup(range));
+  const part = withinCell(range);
+  data.setData('text/html', originOf(openEndsOf(part)) + copiedMarkup(part));
   data.setData('text/plain', document.getSelection().toString());
 }
 
@@ -182,14 +201,6 @@ function fitIntoList(fragment, range) {
   }
 }
 
-// Drops ids that the page has: none may be in it twice.
-/** @param {DocumentFragment} fragment */
-function dropKnownIds(fragment) {
-  for (const element of fragment.querySelectorAll('[id]')) {
-    if (document.getElementById(element.id)) element.removeAttribute('id');
-  }
-}
-
 // The form that the next paste takes its text in; empty for a paste of whatever is there.
 let wanted = '';
 /**
@@ -257,7 +268,6 @@ function putIn(fragment, kind, open = closed) {
   const range = selection.range();
   if (!range) return;
   fit(fragment, range);
-  dropKnownIds(fragment);
   addresses.makeRelative(fragment);
   if (!fragment.hasChildNodes()) return;
   history.step(kind, () => put(fragment, open));

@@ -3,9 +3,11 @@
 // Open ends: a part of the page that begins or ends within a paragraph. Where such a part comes in,
 // its first paragraph joins the one before the caret, and the one behind the caret joins its last:
 // what was cut comes back as it was.
+import { breakLines } from '../blocks/blocks.js';
 import { leafBeside, unitOfLeaf } from '../blocks/caretDeletion.js';
 import { caretAt, isAtEdge, narrowed, sameUnit, unitAt } from '../blocks/extent.js';
 import { join } from '../blocks/joining.js';
+import { joinAlike } from '../formats/merging.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
@@ -102,18 +104,43 @@ function dropEmptyEdge(fragment, child, side) {
   return null;
 }
 
-// The half of a paragraph that was cut in two at the caret is the paragraph again that it had been
-// before its line end was deleted.
-/** @param {AnyNode} was */
-function becomeAgain(was) {
-  const { startContainer, startOffset } = selection.range();
-  const half = unitAt(startContainer, startOffset)?.block;
-  if (!half || [...was.querySelectorAll('*')].some(dom.isBlock)) return;
-  /** @param {Element} block */
-  const isPlain = (block) => dom.isParagraph(block) && !dom.isPreformatted(block);
-  if (half.tagName !== was.tagName && !(isPlain(half) && isPlain(was))) return;
+// The text behind what was put in is the paragraph again that it had been before its line end was
+// deleted.
+/**
+ * @param {AnyNode} was
+ * @param {AnyNode} end the last node that was put in
+ */
+function becomeAgain(was, end) {
+  const leaf = end && leafBeside(end, 'nextSibling');
+  const unit = leaf ? unitOfLeaf(leaf) : null;
+  if (!unit || [...was.querySelectorAll('*')].some(dom.isBlock)) return;
+  const half = unit.block;
+  if (!half) {
+    becomeOfBare(was, unit);
+    return;
+  }
+  const isSame = half.tagName === was.tagName;
+  const isPlain = dom.isParagraph(was) && !dom.isPreformatted(was);
+  if (!isSame && !(isPlain && dom.isParagraph(half))) return;
+  if (!isSame && dom.isPreformatted(half)) breakLines(half);
   was.replaceChildren(...half.childNodes);
   half.replaceWith(was);
+  selection.setCaret(...selection.pointOf(selection.startOf(was)));
+}
+
+// The same of bare text in a division, behind which the paragraph stood.
+/**
+ * @param {AnyNode} was
+ * @param {Unit} unit
+ */
+function becomeOfBare(was, { container, nodes }) {
+  if (container.tagName !== 'DIV' || !nodes.length || !dom.isParagraph(was)) return;
+  const behind = nodes.at(-1).nextSibling;
+  const isLast = !dom.shownFrom(behind, 'nextSibling');
+  const before = nodes[0].previousSibling;
+  was.replaceChildren(...nodes);
+  if (isLast) container.after(...(dom.isBlank(before) ? [before] : []), was);
+  else container.insertBefore(was, behind);
   selection.setCaret(...selection.pointOf(selection.startOf(was)));
 }
 
@@ -162,8 +189,9 @@ export function joinsFor(fragment, open, node, offset) {
   const joinsEnd = open.end === 'open' && isFollowed;
   const first = joinsStart ? leafAt(fragment, 'firstChild', 'nextSibling') : null;
   const last = joinsEnd ? leafAt(fragment, 'lastChild', 'previousSibling') : null;
+  const end = fragment.lastChild;
   return () => {
-    if (gone && joinsStart && isFollowed) becomeAgain(gone);
+    if (gone && joinsStart && isFollowed) becomeAgain(gone, end);
     if (first) joinWith(first.node, 'previousSibling');
     if (last) joinWith(last.node, 'nextSibling');
     for (const leaf of [first, last]) if (leaf?.blank) leaf.node.data = leaf.blank;
@@ -195,8 +223,10 @@ export function giveName(block, next) {
  */
 function joinHalves(first, second, blank) {
   giveName(second.block, first.block);
-  const between = join(first, second, null, first.nodes.at(-1) ?? null);
-  if (blank) second.nodes[0].before(blank);
+  const [left, right] = [first.nodes.at(-1), second.nodes[0]];
+  const between = join(first, second, null, left ?? null);
+  if (blank) right.before(blank);
+  if (left && left.nextSibling === right) joinAlike(left, right);
   return between;
 }
 

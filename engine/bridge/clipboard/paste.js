@@ -81,7 +81,7 @@ function dropIfHollow(half, next = null) {
 }
 
 // Makes the fragment one that may stand in a list: items, those of lists in it too; anything else
-// goes into an item.
+// goes into an item, a line of text with the list behind it into one.
 /**
  * @param {DocumentFragment} fragment
  * @param {Element} list
@@ -93,10 +93,16 @@ function makeItems(fragment, list) {
   const fits = (node) => (definitions ? /^(DT|DD)$/.test(node.tagName) : node.tagName === 'LI');
   /** @param {AnyNode} node */
   const isSame = (node) => (definitions ? node.tagName === 'DL' : dom.isList(node));
+  /** @type {AnyNode} */
+  let line = null;
   for (const node of [...fragment.childNodes]) {
-    if (isSame(node)) dom.unwrap(node);
+    const isInLine = dom.isShown(node) && !dom.isBlock(node);
+    if (line && (isInLine || isSame(node))) line.append(node);
+    else if (isSame(node)) dom.unwrap(node);
     else if (/^(P|LI)$/.test(node.nodeName) && !fits(node)) dom.rename(node, tag);
+    else if (isInLine) line = dom.wrap([node], dom.create(tag));
     else if (dom.isShown(node) && !fits(node)) dom.wrap([node], dom.create(tag));
+    if (dom.isBlock(node)) line = null;
   }
 }
 /** @param {AnyNode} node */

@@ -209,6 +209,8 @@ void Perform(BridgePage &page, const QString &step) {
                  ScriptText(ClipboardFile(value))));
   } else if (verb == QStringLiteral("cutAndPaste")) {
     page.Evaluate(QStringLiteral("markup.paste('text/html', markup.cut())"));
+  } else if (verb == QStringLiteral("copyAndPaste")) {
+    page.Evaluate(QStringLiteral("markup.paste('text/html', markup.copy())"));
   } else if (CommandNumbers().count(verb) == 1) {
     page.Evaluate(
         QStringLiteral("velor.exec(%1, %2)").arg(CommandNumbers().at(verb)).arg(ScriptText(value)));

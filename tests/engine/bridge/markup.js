@@ -87,6 +87,14 @@
     return copy;
   };
 
+  /** @param {string} type */
+  function takenUp(type) {
+    const clipboardData = new DataTransfer();
+    document.body.dispatchEvent(
+      new ClipboardEvent(type, { clipboardData, bubbles: true, cancelable: true }));
+    return clipboardData.getData('text/html');
+  }
+
   let following = { revision: 0, text: '', tellings: 0 };
   let keysUp = 0;
   let composed = 0;
@@ -140,13 +148,9 @@
       document.body.dispatchEvent(
         new ClipboardEvent('paste', { clipboardData, bubbles: true, cancelable: true }));
     },
-    // A cut; answers what it has put on the clipboard.
-    cut() {
-      const clipboardData = new DataTransfer();
-      document.body.dispatchEvent(
-        new ClipboardEvent('cut', { clipboardData, bubbles: true, cancelable: true }));
-      return clipboardData.getData('text/html');
-    },
+    // A cut and a copy; each answers what it has put on the clipboard.
+    cut: () => takenUp('cut'),
+    copy: () => takenUp('copy'),
     // The document's text as a program has it that applies the changes it gets.
     told() {
       const { revision, html, steps } = velor.changes(following.revision);
