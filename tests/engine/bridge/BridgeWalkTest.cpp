@@ -25,7 +25,8 @@ struct Dialect {
 class BridgeWalk : public ::testing::TestWithParam<Dialect> {
  protected:
   BridgeWalk()
-      : scripts_(TestScript("pages.js") + TestScript("source.js") + TestScript("walk.js")) {}
+      : scripts_(TestScript("pages.js") + TestScript("source.js") + TestScript("walk.js") +
+                 TestScript("moves.js")) {}
 
   QString Text(const QString &expression) { return page_.Evaluate(expression).toString(); }
   void Begin(int seed, bool withKeys) {
@@ -67,10 +68,10 @@ TEST_P(BridgeWalk, EveryCommandKeepsTheWordsTheRulesAndTheWayBack) {
   }
 }
 
-TEST_P(BridgeWalk, WhatWasCutComesBackWithItsWordsBlanksAndLines) {
+TEST_P(BridgeWalk, WhatWasCutOrDeletedComesBackWithItsWordsBlanksAndLines) {
   for (int seed = FirstSeed(); seed < FirstSeed() + Pages(60); ++seed) {
     Begin(seed, false);
-    const QString fault = Text(QStringLiteral("walk.cutAndPaste(%1)").arg(StepsAPage));
+    const QString fault = Text(QStringLiteral("moves.run(%1)").arg(StepsAPage));
     EXPECT_EQ(fault.toStdString(), "") << "seed " << seed;
   }
 }

@@ -2,6 +2,7 @@
 // What the scripts of these tests find on the global object: each other, and what of the bridge is
 // looked at. For the type checker only.
 declare var markup: any;
+declare var moves: any;
 declare var pages: any;
 declare var sweep: any;
 declare var sweptChanges: string[];

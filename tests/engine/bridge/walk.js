@@ -147,6 +147,7 @@
 
   let trail = [];
   let step = null;
+  let done = [];  // the steps, as told
   let withKeys = true;
 
   // A no-break space between two words.
@@ -287,50 +288,13 @@
     return faults;
   }
 
-  // What a cut and a paste of it in the same place must leave: the words in their order, a blank
-  // between two words where there was one, the lines, and what marks them.
-  const shown = () => document.body.innerText.replace(/[\s\u00a0]+/g, ' ').trim();
-  const names = () => [...document.body.querySelectorAll('[id], [class], a[href]')]
-    .map((element) => `${element.id}.${element.className} ${element.getAttribute('href') ?? ''}`)
-    .filter((name, index, all) => all.indexOf(name) === index).sort().join(', ');
-  // In one paragraph, or from within one to another of the same list, cell or division: a paragraph
-  // that is deleted as a whole leaves an empty line, and what follows it is not joined.
-  const isOnePlace = ({ startContainer, startOffset, endContainer, endOffset }) => {
-    const from = inside.extent.unitAt(startContainer, startOffset)?.home;
-    const to = inside.extent.unitAt(endContainer, endOffset)?.home;
-    const isBare = (node) => node === document.body || inside.dom.isCell(node);
-    if (!from || !to || isBare(from) || isBare(to)) return false;
-    return from === to || (from.parentNode === to.parentNode &&
-      inside.isWithin(startContainer, startOffset, 'start'));
-  };
-  function cutAndPasted() {
-    const before = { ...look(), shown: shown(), lines: shownLines(), names: names() };
-    const given = markup.cut();
-    if (!given) return '';
-    inside.history.settle();
-    const cut = look();
-    if (cut.html === before.html) return '';
-    // Text as it stands takes no markup.
-    const isRaw = inside.dom.rawAt(getSelection().anchorNode) !== null;
-    markup.paste('text/html', given);
-    inside.history.settle();
-    const now = look();
-    const faults = [];
-    if (shown() !== before.shown) faults.push('words or blanks are other ones');
-    if (shownLines().join('\n') !== before.lines.join('\n')) faults.push('lines are other ones');
-    if (!isRaw && names() !== before.names) faults.push(`names were ${before.names}: ${names()}`);
-    velor.exec(undo);
-    velor.exec(undo);
-    if (!same(look(), before)) faults.push('undo does not lead back');
-    if (!faults.length) return '';
-    return [faults, before.selected, cut.selected, now.selected].join('\n  ');
-  }
-
   globalThis.walk = {
+    look, same, select, shownLines,
     begin(keysToo) {
       withKeys = keysToo;
       trail = [look()];
       step = null;
+      done = [];
     },
     body: () => velor.serialize(),
     // Chooses a selection and a step and carries that out, or answers the key that is to be
@@ -357,6 +321,7 @@
         table: control()?.tagName === 'TABLE',
         status: verb === 'exec' ? inside.statusOf(first) : 0,
       };
+      done.push(`${before.selected}\n  ${action.join(' ')}`);
       if (verb === 'exec' || verb === 'travel') velor.exec(first, second);
       else if (verb === 'pasteHTML') velor.pasteHTML(first);
       else if (verb === 'paste') markup.paste('text/html', first);
@@ -374,7 +339,8 @@
       trail.push(look());
       if (!faults.length) return '';
       const { before, action } = step;
-      return [faults.join(', '), before.selected, action.join(' '), now.selected].join('\n  ');
+      return [faults.join(', '), ...done.slice(-4, -1), before.selected, action.join(' '),
+        now.selected].join('\n  ');
     },
     // Undoes everything, which must give the loaded page, and redoes everything.
     wayBack() {
@@ -395,17 +361,6 @@
         if (look().html !== wanted.html) return `redo comes to ${look().selected}`;
       }
       return look().html === end.html ? '' : `redo ends at ${look().selected}`;
-    },
-    // Does that many cuts, each pasted back in the next step; answers the first fault.
-    cutAndPaste(count) {
-      for (let left = count; left > 0; left--) {
-        select();
-        const range = inside.selection.range();
-        if (!range || !range.toString().trim() || !isOnePlace(range)) continue;
-        const fault = cutAndPasted();
-        if (fault) return fault;
-      }
-      return '';
     },
     // Does that many steps without keys; answers the first fault.
     rush(count) {
