@@ -66,6 +66,7 @@ int main(int argc, char **argv) {
   application.SetBoundary(&boundary);
   real.copies.RemoveAbandoned();
   real.components.SetWholeSigns(KeepsTemplateSignsWhole(real.registry));
+  real.components.SetAdditions(HasAdditions(real.registry));
   QtPrinters printers(real.dialogs);
   real.ownLanguage = OwnLanguage(real.registry);
   ProgramValues values;

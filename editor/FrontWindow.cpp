@@ -33,6 +33,7 @@ void ShowPageWithoutFormats(const EditorContext &context, int number) {
   mainWindow.formats.ShowNothing();
   mainWindow.status.ShowTag({});
   mainWindow.status.ShowPath({});
+  mainWindow.status.ShowMeasures({});
   frmMain *page = number == 0 ? nullptr : context.pages.Page(number);
   mainWindow.status.ShowTextForm(page == nullptr ? QString() : page->DHTML1().TextForm());
   if (page == nullptr) return;

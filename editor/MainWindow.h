@@ -93,6 +93,8 @@ class StatusDisplay {
   virtual void ShowTag(const QString &tag) = 0;
   /// The elements around the caret (HtmlDocument::Path); empty where no page is edited.
   virtual void ShowPath(const QStringList & /*path*/) {}
+  /// Where the selected object or cells are, in words; empty for none.
+  virtual void ShowMeasures(const QString & /*words*/) {}
   /// Encoding and line ends of the page (EditingComponent::TextForm); empty without a page.
   virtual void ShowTextForm(const QString &words) = 0;
   /// Shows a notice about what is in front, in place of the tag, for ten seconds or until another

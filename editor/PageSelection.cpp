@@ -7,6 +7,22 @@
 #include "platform/Words.h"
 
 namespace velor {
+namespace {
+
+/// Where the selected cells or the object out of the flow are, as the status bar tells it.
+QString MeasuresOf(const HtmlDocument &document) {
+  if (const QRect cells = document.SelectedCells(); !cells.isNull())
+    return Words::tr("Rows %1-%2, columns %3-%4")
+        .arg(QString::number(cells.top() + 1), QString::number(cells.bottom() + 1),
+             QString::number(cells.left() + 1), QString::number(cells.right() + 1));
+  const QRect place = document.ObjectPlace();
+  if (place.isNull()) return {};
+  return Words::tr("Left %1, top %2, size %3 × %4")
+      .arg(QString::number(place.left()), QString::number(place.top()),
+           QString::number(place.width()), QString::number(place.height()));
+}
+
+}  // namespace
 
 void frmMain::EditBarCheck(EditingCommand button, EditingCommand command) {
   FormatDisplay &formats = context_.mainWindow.formats;
@@ -36,6 +52,7 @@ void frmMain::ShowState() {
     context_.mainWindow.formats.ShowNothing();
     context_.mainWindow.status.ShowTag({});
     context_.mainWindow.status.ShowPath({});
+    context_.mainWindow.status.ShowMeasures({});
   } else {
     RefreshMfrm();
     DynaLink();
@@ -68,6 +85,7 @@ void frmMain::DynaLink() {
   const HtmlElement element = GetActiveElement();
   context_.mainWindow.status.ShowTag(element.tagName);
   context_.mainWindow.status.ShowPath(component_->Document().Path());
+  context_.mainWindow.status.ShowMeasures(MeasuresOf(component_->Document()));
   if (LowerCase(element.tagName) == QStringLiteral("a")) {
     component_->SetToolTip(Words::tr("Link to : ") + element.Attribute(QStringLiteral("href")));
   } else {

@@ -131,11 +131,12 @@ void PageLoader::BeginLoad(Purpose purpose) {
   QString text = history.Current()->TextToLoad();
   QString start =
       QStringLiteral(
-          "velor.start({showDetails:%1,snapToGrid:%2,wholeSigns:%3,spelling:%4,earlier:%5,"
-          "later:%6});")
+          "velor.start({showDetails:%1,snapToGrid:%2,wholeSigns:%3,spelling:%4,additions:%5,"
+          "earlier:%6,later:%7});")
           .arg(ScriptValue(options_.showDetails), ScriptValue(options_.snapToGrid),
                ScriptValue(options_.wholeSigns), ScriptValue(options_.spelling),
-               ScriptValue(history.HasEarlier()), ScriptValue(history.HasLater()));
+               ScriptValue(options_.additions), ScriptValue(history.HasEarlier()),
+               ScriptValue(history.HasLater()));
   if (purpose == Purpose::Restore || purpose == Purpose::Step) {
     // An unedited document is loaded from its original: the engine may parse its own serialisation
     // to another document.

@@ -15,6 +15,7 @@ struct ViewOptions {
   bool snapToGrid = false;
   bool wholeSigns = true;  ///< template signs in text are deleted as a whole and never broken
   bool spelling = false;   ///< unknown words have waves
+  bool additions = true;   ///< what goes beyond the published behaviour
 };
 
 /// Loads a page into a LiveDocument, and loads it again when its process has ended. A load drops

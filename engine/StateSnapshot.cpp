@@ -84,6 +84,16 @@ std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
   state.pictureShown = SizeOf(picture[u"shown"]);
   const QJsonArray path = object[u"path"].toArray();
   for (const QJsonValue &element : path) state.path << element.toString();
+  const QJsonArray elements = object[u"pathNumbers"].toArray();
+  for (const QJsonValue &element : elements) state.pathElements << element.toInt();
+  const QJsonArray place = object[u"place"].toArray();
+  if (place.size() == 4)
+    state.place = {QPoint(place[0].toInt(), place[1].toInt()),
+                   QSize(place[2].toInt(), place[3].toInt())};
+  const QJsonArray cells = object[u"cells"].toArray();
+  if (cells.size() == 4)
+    state.cells = {QPoint(cells[0].toInt(), cells[1].toInt()),
+                   QPoint(cells[2].toInt(), cells[3].toInt())};
   return state;
 }
 

@@ -3,6 +3,8 @@
 
 #include "platform/EditingComponent.h"
 
+#include <QList>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -29,9 +31,12 @@ struct StateSnapshot {
   SelectionType selection = SelectionType::None;
   HtmlElement element;
   HtmlElement link;
-  QSize picturePixels;  ///< of a selected picture's file
-  QSize pictureShown;   ///< of a selected picture, in CSS pixels; empty for none
-  QStringList path;     ///< HtmlDocument::Path
+  QSize picturePixels;      ///< of a selected picture's file
+  QSize pictureShown;       ///< of a selected picture, in CSS pixels; empty for none
+  QStringList path;         ///< HtmlDocument::Path
+  QList<int> pathElements;  ///< HtmlDocument::PathElement, by the index in `path`
+  QRect place;              ///< HtmlDocument::ObjectPlace
+  QRect cells;              ///< HtmlDocument::SelectedCells
 
   /// Nothing for a text that is no JSON of a state.
   static std::optional<StateSnapshot> FromJson(const QString &json);

@@ -143,7 +143,7 @@ void WebDocument::SetProperties(PropertyOwner owner, const PropertyValues &chang
     values.insert(value.key(), value.value());
   document_.Run(
       QStringLiteral("velor.setProperties(%1,%2,%3)")
-          .arg(InScript(owner.subject), ScriptValue(values), QString::number(owner.index)));
+          .arg(InScript(owner.subject), ScriptValue(values), QString::number(owner.element)));
 }
 
 QVariantMap WebDocument::Ask(const QString &expression) {
@@ -154,8 +154,8 @@ QVariantMap WebDocument::Ask(const QString &expression) {
 
 PropertyValues WebDocument::Properties(PropertyOwner owner) {
   PropertyValues values;
-  const QVariantMap told =
-      Ask(QStringLiteral("velor.properties(%1,%2)").arg(InScript(owner.subject)).arg(owner.index));
+  const QVariantMap told = Ask(
+      QStringLiteral("velor.properties(%1,%2)").arg(InScript(owner.subject)).arg(owner.element));
   for (auto value = told.begin(); value != told.end(); ++value)
     values.insert(value.key(), value.value().toString());
   return values;
@@ -165,12 +165,16 @@ QStringList WebDocument::Path() const {
   return document_.Snapshot().path;
 }
 
-void WebDocument::ActOnPath(int index, PathDeed deed) {
-  document_.Run(QStringLiteral("velor.actOnPath(%1,%2)").arg(index).arg(InScript(deed)));
+int WebDocument::PathElement(int index) const {
+  return document_.Snapshot().pathElements.value(index);
 }
 
-PathChoices WebDocument::ChoicesOnPath(int index) {
-  const QVariantMap told = Ask(QStringLiteral("velor.choicesOnPath(%1)").arg(index));
+void WebDocument::ActOnPath(int element, PathDeed deed) {
+  document_.Run(QStringLiteral("velor.actOnPath(%1,%2)").arg(element).arg(InScript(deed)));
+}
+
+PathChoices WebDocument::ChoicesOnPath(int element) {
+  const QVariantMap told = Ask(QStringLiteral("velor.choicesOnPath(%1)").arg(element));
   PathChoices choices{.tagCanGo = told[QStringLiteral("removable")].toBool(), .classes = {}};
   for (const QVariant &pair : told[QStringLiteral("classes")].toList())
     choices.classes.emplace_back(pair.toList().value(0).toString(),
@@ -178,10 +182,18 @@ PathChoices WebDocument::ChoicesOnPath(int index) {
   return choices;
 }
 
-void WebDocument::SetClassOnPath(int index, const QString &name, bool on) {
+void WebDocument::SetClassOnPath(int element, const QString &name, bool on) {
   document_.Run(QStringLiteral("velor.setClassOnPath(%1,%2,%3)")
-                    .arg(QString::number(index), ScriptValue(name),
+                    .arg(QString::number(element), ScriptValue(name),
                          on ? QStringLiteral("true") : QStringLiteral("false")));
+}
+
+QRect WebDocument::ObjectPlace() const {
+  return document_.Snapshot().place;
+}
+
+QRect WebDocument::SelectedCells() const {
+  return document_.Snapshot().cells;
 }
 
 HtmlElement WebDocument::ControlElement() const {

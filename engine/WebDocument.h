@@ -26,9 +26,12 @@ class WebDocument : public HtmlDocument, private DocumentSelection {
   void SetProperties(PropertyOwner owner, const PropertyValues &changed) override;
   PropertyValues Properties(PropertyOwner owner) override;
   QStringList Path() const override;
-  void ActOnPath(int index, PathDeed deed) override;
-  PathChoices ChoicesOnPath(int index) override;
-  void SetClassOnPath(int index, const QString &name, bool on) override;
+  int PathElement(int index) const override;
+  void ActOnPath(int element, PathDeed deed) override;
+  PathChoices ChoicesOnPath(int element) override;
+  void SetClassOnPath(int element, const QString &name, bool on) override;
+  QRect ObjectPlace() const override;
+  QRect SelectedCells() const override;
 
  private:
   /// The value of an expression; nothing where the page does not answer in time.

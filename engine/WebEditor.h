@@ -71,6 +71,9 @@ class WebEditor : public EditingComponent {
   void SetSnapToGrid(bool on) override;
   /// Whether template signs in text are kept whole, from the next load on. True at first.
   void SetWholeSigns(bool on) { options_.wholeSigns = on; }
+  /// Whether pages have what goes beyond the published behaviour, from the next load on. True at
+  /// first.
+  void SetAdditions(bool on) { options_.additions = on; }
 
   /// What SaveDocument writes, and how much of the page that takes. `this` may be gone afterwards.
   SavedPage Compose() { return saver_.Compose(); }

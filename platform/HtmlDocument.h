@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMap>
+#include <QRect>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -64,7 +65,7 @@ struct ShownPicture {
 enum class PropertySubject { Page, Image, Table, Cell, Link, Fonts, Element };
 struct PropertyOwner {
   PropertySubject subject = PropertySubject::Page;
-  int index = 0;  ///< of an Element: its place in HtmlDocument::Path
+  int element = 0;  ///< of an Element: HtmlDocument::PathElement
 };
 
 /// Values of properties by their names in the bridge (docs/bridge.md).
@@ -120,14 +121,25 @@ class HtmlDocument {
     RemoveTag,  ///< its content stays
     Delete,
   };
-  /// Does that to an element of Path, by its index there.
-  virtual void ActOnPath(int /*index*/, PathDeed) {}
-  /// What can be done to an element of Path; nothing where the page does not answer. Waits for the
-  /// engine.
-  virtual PathChoices ChoicesOnPath(int /*index*/) { return {}; }
-  /// Gives a class to an element of Path, and to those of its name that are selected with it, or
-  /// takes it off them.
-  virtual void SetClassOnPath(int /*index*/, const QString & /*name*/, bool /*on*/) {}
+  /// The number of the element with this index in Path; 0 where there is none. It stays the
+  /// element's own when the selection moves or the page changes.
+  virtual int PathElement(int index) const { return index; }
+
+  // Each does nothing where the element with that number has gone from the page.
+
+  /// Does that to an element.
+  virtual void ActOnPath(int /*element*/, PathDeed) {}
+  /// What can be done to an element; nothing where the page does not answer. Waits for the engine.
+  virtual PathChoices ChoicesOnPath(int /*element*/) { return {}; }
+  /// Gives a class to an element, and to those of its name that are selected with it, or takes it
+  /// off them.
+  virtual void SetClassOnPath(int /*element*/, const QString & /*name*/, bool /*on*/) {}
+
+  /// Where the selected object, or the box around the caret, is out of the flow, and its size, in
+  /// its own pixels; null for none.
+  virtual QRect ObjectPlace() const { return {}; }
+  /// The columns (x) and rows (y) of the cells that are selected as such; null for none.
+  virtual QRect SelectedCells() const { return {}; }
 };
 
 }  // namespace velor

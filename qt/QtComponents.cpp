@@ -19,6 +19,7 @@ QtComponents::~QtComponents() = default;
 std::unique_ptr<EditingComponent> QtComponents::CreateEditingComponent(QWidget *parent) {
   auto editor = std::make_unique<WebEditor>(engine_, files_, programFolder_, parent);
   editor->SetWholeSigns(wholeSigns_);
+  editor->SetAdditions(additions_);
   return editor;
 }
 

@@ -18,6 +18,8 @@ class QtComponents final : public Components {
   /// Whether the editing components that are made from now on keep template signs whole
   /// (WebEditor).
   void SetWholeSigns(bool on) { wholeSigns_ = on; }
+  /// The same of what goes beyond the published behaviour.
+  void SetAdditions(bool on) { additions_ = on; }
 
   std::unique_ptr<EditingComponent> CreateEditingComponent(QWidget *parent) override;
   std::unique_ptr<SourceControl> CreateSourceControl(QWidget *parent, SourceAccess access) override;
@@ -29,6 +31,7 @@ class QtComponents final : public Components {
   Files &files_;
   QString programFolder_;
   bool wholeSigns_ = true;
+  bool additions_ = true;
   EditingEngine engine_;
 };
 

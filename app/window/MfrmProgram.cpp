@@ -331,6 +331,7 @@ void MfrmProgram::ShowFront() {
   bandBar_->Formatting().ShowNothing();
   statusLine_->ShowTag({});
   statusLine_->ShowPath({});
+  statusLine_->ShowMeasures({});
   statusLine_->ShowTextForm({});
 }
 

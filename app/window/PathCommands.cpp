@@ -42,12 +42,12 @@ QString WithoutMnemonic(QString text) {
 }
 
 /// Makes an item that gives the class to the element or takes it off.
-QAction *ClassItem(frmMain &page, int index, const QString &name, bool has, QObject *parent) {
+QAction *ClassItem(frmMain &page, int element, const QString &name, bool has, QObject *parent) {
   auto *item = new QAction(WithoutMnemonic(name), parent);
   item->setCheckable(true);
   item->setChecked(has);
-  QObject::connect(item, &QAction::triggered, &page, [&page, index, name](bool on) {
-    page.DHTML1().Document().SetClassOnPath(index, name, on);
+  QObject::connect(item, &QAction::triggered, &page, [&page, element, name](bool on) {
+    page.DHTML1().Document().SetClassOnPath(element, name, on);
   });
   return item;
 }
@@ -56,7 +56,7 @@ QAction *ClassItem(frmMain &page, int index, const QString &name, bool has, QObj
 
 PathCommands::PathCommands(PathBar &bar, PageArea &area, Dialogs &dialogs, QObject *parent)
     : QObject(parent), bar_(bar), area_(area), dialogs_(dialogs) {
-  connect(&bar_, &PathBar::Chosen, this, &PathCommands::Select);
+  connect(&bar_, &PathBar::Chosen, this, &PathCommands::Choose);
   connect(&bar_, &PathBar::MenuWanted, this, &PathCommands::ShowMenu);
   connect(&bar_, &PathBar::Done, &area_, &PageArea::FocusFrontWindow);
 }
@@ -66,10 +66,14 @@ frmMain *PathCommands::Page() const {
   return page != nullptr && page->View() == FrontView::Design ? page : nullptr;
 }
 
-void PathCommands::Select(int index) {
+void PathCommands::Choose(int index) {
+  if (frmMain *page = Page()) Select(page->DHTML1().Document().PathElement(index));
+}
+
+void PathCommands::Select(int element) {
   frmMain *page = Page();
   if (page == nullptr) return;
-  page->DHTML1().Document().ActOnPath(index, HtmlDocument::PathDeed::Select);
+  page->DHTML1().Document().ActOnPath(element, HtmlDocument::PathDeed::Select);
   area_.FocusFrontWindow();
 }
 
@@ -77,7 +81,10 @@ void PathCommands::ShowMenu(int index, QPoint place) {
   const QPointer<frmMain> page = Page();
   if (page.isNull()) return;
   const QPointer<PathCommands> alive = this;
-  const PathChoices choices = page->DHTML1().Document().ChoicesOnPath(index);
+  // The page may change while the menu is open.
+  const int element = page->DHTML1().Document().PathElement(index);
+  const QString shown = bar_.Path().value(index);
+  const PathChoices choices = page->DHTML1().Document().ChoicesOnPath(element);
   if (alive.isNull() || page.isNull()) return;
 
   using Deed = HtmlDocument::PathDeed;
@@ -92,15 +99,16 @@ void PathCommands::ShowMenu(int index, QPoint place) {
     connect(item, &QAction::triggered, this, run);
     return item;
   };
-  const auto act = [this, index](Deed deed) {
-    return [this, index, deed] {
-      if (frmMain *front = Page()) front->DHTML1().Document().ActOnPath(index, deed);
+  const auto act = [this, element](Deed deed) {
+    return [this, element, deed] {
+      if (frmMain *front = Page()) front->DHTML1().Document().ActOnPath(element, deed);
       area_.FocusFrontWindow();
     };
   };
-  add("pathSelect", Words::tr("&Select"), [this, index] { Select(index); });
-  add("pathProperties", Words::tr("&Properties..."), [this, index] { ShowProperties(index); });
-  AddClasses(*menu, *page, choices, index);
+  add("pathSelect", Words::tr("&Select"), [this, element] { Select(element); });
+  add("pathProperties", Words::tr("&Properties..."),
+      [this, element, shown] { ShowProperties(element, shown); });
+  AddClasses(*menu, *page, choices, element);
   menu->addSeparator();
   add("pathRemoveTag", Words::tr("&Remove Tag, Keep Content"), act(Deed::RemoveTag))
       ->setEnabled(choices.tagCanGo);
@@ -108,7 +116,7 @@ void PathCommands::ShowMenu(int index, QPoint place) {
   menu->popup(place);
 }
 
-void PathCommands::AddClasses(QMenu &menu, frmMain &page, const PathChoices &choices, int index) {
+void PathCommands::AddClasses(QMenu &menu, frmMain &page, const PathChoices &choices, int element) {
   QMenu *classes = menu.addMenu(Words::tr("&Classes"));
   classes->setObjectName(QStringLiteral("mnuPathClasses"));
   if (choices.classes.empty()) {
@@ -118,22 +126,22 @@ void PathCommands::AddClasses(QMenu &menu, frmMain &page, const PathChoices &cho
   std::size_t listed = 0;
   for (const auto &[name, has] : choices.classes) {
     if (has || listed < MostClassesInMenu)
-      classes->addAction(ClassItem(page, index, name, has, classes));
+      classes->addAction(ClassItem(page, element, name, has, classes));
     ++listed;
   }
   if (listed <= MostClassesInMenu) return;
   classes->addSeparator();
   QAction *more = classes->addAction(Words::tr("&More..."));
-  connect(more, &QAction::triggered, this, [this, alive = QPointer(&page), choices, index] {
-    if (!alive.isNull()) LetChooseClass(*alive, choices, index);
+  connect(more, &QAction::triggered, this, [this, alive = QPointer(&page), choices, element] {
+    if (!alive.isNull()) LetChooseClass(*alive, choices, element);
   });
 }
 
-void PathCommands::LetChooseClass(frmMain &page, const PathChoices &choices, int index) {
+void PathCommands::LetChooseClass(frmMain &page, const PathChoices &choices, int element) {
   QObject items;
   QList<NamedCommand> commands;
   for (const auto &[name, has] : choices.classes)
-    commands.append({name, ClassItem(page, index, name, has, &items)});
+    commands.append({name, ClassItem(page, element, name, has, &items)});
   CommandPalette palette(
       {Words::tr("Classes"), Words::tr("Part of the class's name"), Words::tr("Classes")}, commands,
       page.window());
@@ -141,17 +149,17 @@ void PathCommands::LetChooseClass(frmMain &page, const PathChoices &choices, int
   if (palette.Chosen() != nullptr) palette.Chosen()->trigger();
 }
 
-void PathCommands::ShowProperties(int index) {
+void PathCommands::ShowProperties(int element, const QString &name) {
   const QPointer<frmMain> page = Page();
   if (page.isNull()) return;
-  const PropertySubject subject = SubjectOf(bar_.Path().value(index));
+  const PropertySubject subject = SubjectOf(name);
   if (subject != PropertySubject::Element) {
     // These dialogs are about what is selected.
     if (subject != PropertySubject::Page)
-      page->DHTML1().Document().ActOnPath(index, HtmlDocument::PathDeed::Select);
+      page->DHTML1().Document().ActOnPath(element, HtmlDocument::PathDeed::Select);
     if (velor::ShowProperties(*page, {subject}) || page.isNull()) return;
   }
-  velor::ShowProperties(*page, {PropertySubject::Element, index});
+  velor::ShowProperties(*page, {PropertySubject::Element, element});
 }
 
 }  // namespace velor

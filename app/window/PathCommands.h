@@ -28,11 +28,14 @@ class PathCommands final : public QObject {
  private:
   /// The page in front, where it is seen as it looks; else null.
   frmMain *Page() const;
-  void Select(int index);
+  /// An element of the path was clicked.
+  void Choose(int index);
+  // `element` is HtmlDocument::PathElement.
+  void Select(int element);
   void ShowMenu(int index, QPoint place);
-  void AddClasses(QMenu &menu, frmMain &page, const PathChoices &choices, int index);
-  void LetChooseClass(frmMain &page, const PathChoices &choices, int index);
-  void ShowProperties(int index);
+  void AddClasses(QMenu &menu, frmMain &page, const PathChoices &choices, int element);
+  void LetChooseClass(frmMain &page, const PathChoices &choices, int element);
+  void ShowProperties(int element, const QString &name);
 
   PathBar &bar_;
   PageArea &area_;

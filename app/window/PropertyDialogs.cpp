@@ -25,8 +25,9 @@ bool ShowProperties(frmMain &page, PropertyOwner owner) {
 }
 
 void ShowCaretElement(frmMain &page) {
-  const auto count = static_cast<int>(page.DHTML1().Document().Path().size());
-  if (count > 0) ShowProperties(page, {PropertySubject::Element, count - 1});
+  const HtmlDocument &document = page.DHTML1().Document();
+  const auto count = static_cast<int>(document.Path().size());
+  if (count > 0) ShowProperties(page, {PropertySubject::Element, document.PathElement(count - 1)});
 }
 
 }  // namespace velor

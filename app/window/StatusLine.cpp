@@ -16,6 +16,7 @@ StatusLine::StatusLine(QWidget *parent, NoticeTimes times)
       left_(new QWidget(this)),
       line_(new QHBoxLayout(left_)),
       tag_(new QLabel(left_)),
+      measures_(new QLabel(this)),
       textForm_(new QLabel(this)),
       times_(times) {
   setObjectName(QStringLiteral("Sta"));
@@ -29,6 +30,12 @@ StatusLine::StatusLine(QWidget *parent, NoticeTimes times)
   line_->setSpacing(BarSpacing);
   line_->addWidget(tag_, 1);
   addWidget(left_, 1);
+  measures_->setObjectName(QStringLiteral("measures"));
+  measures_->setAccessibleName(Words::tr("Place of what is selected"));
+  measures_->setTextFormat(Qt::PlainText);
+  measures_->setContentsMargins(0, 0, BarMargin, 0);
+  measures_->hide();
+  addPermanentWidget(measures_);
   textForm_->setObjectName(QStringLiteral("Sta_2"));
   textForm_->setAccessibleName(Words::tr("Charset and line ends"));
   textForm_->setTextFormat(Qt::PlainText);
@@ -74,6 +81,12 @@ void StatusLine::ShowTagOrPlace() {
   const int room = left_->width() - 2 * BarMargin;
   tag_->setText(place_.isEmpty() ? tagName_
                                  : tag_->fontMetrics().elidedText(place_, Qt::ElideMiddle, room));
+}
+
+void StatusLine::ShowMeasures(const QString &words) {
+  // An empty label would keep its margin.
+  measures_->setText(words);
+  measures_->setVisible(!words.isEmpty());
 }
 
 void StatusLine::ShowTextForm(const QString &words) {

@@ -23,8 +23,9 @@ struct NoticeTimes {
 };
 
 /// The status bar `Sta`: the tag under the caret at the left, beside it the path of elements where
-/// that was added, charset and line ends of the page at the right. The newest notice is shown at
-/// once; one whose place it took before anybody could read it comes back afterwards.
+/// that was added, at the right the place of what is selected, and charset and line ends of the
+/// page. The newest notice is shown at once; one whose place it took before anybody could read it
+/// comes back afterwards.
 class StatusLine final : public QStatusBar, public StatusDisplay {
   Q_OBJECT
 
@@ -33,6 +34,7 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
 
   void ShowTag(const QString &tag) override;
   void ShowPath(const QStringList &path) override;
+  void ShowMeasures(const QString &words) override;
   void ShowTextForm(const QString &words) override;
   void Report(const QString &message) override;
   void ReportOn(int page, const QString &message) override;
@@ -61,6 +63,7 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   QHBoxLayout *line_;
   QLabel *tag_;
   PathBar *path_ = nullptr;
+  QLabel *measures_;
   QLabel *textForm_;
   QString tagName_;
   QString place_;

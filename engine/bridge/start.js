@@ -6,9 +6,13 @@ import { listenToClipboard } from './clipboard/clipboard.js';
 import * as pending from './formats/pending.js';
 import { listenToKeys } from './keys/keys.js';
 import { setDetails } from './objects/details.js';
+import { listenToCells } from './objects/cellGestures.js';
+import './objects/cells.js';
+import { listenToEdges } from './objects/edges.js';
 import { listenToGestures } from './objects/gestures.js';
 import { setSnap } from './objects/grid.js';
 import * as overlay from './objects/overlay.js';
+import { setAdditions } from './page/additions.js';
 import { isEditable } from './page/dom.js';
 import * as history from './page/history.js';
 import * as selection from './page/selection.js';
@@ -31,15 +35,17 @@ function wantBeyond(way) {
 
 /**
  * Begins the work on a document; to be called after each load. `earlier` and `later` tell whether
- * the program keeps documents that undo and redo come to beyond the page's history.
+ * the program keeps documents that undo and redo come to beyond the page's history, `additions`
+ * whether what goes beyond the published behaviour is on.
  * @param {{ showDetails?: boolean, snapToGrid?: boolean, wholeSigns?: boolean,
- *   spelling?: boolean, earlier?: boolean, later?: boolean }} options
+ *   spelling?: boolean, additions?: boolean, earlier?: boolean, later?: boolean }} options
  */
 export function start({
   showDetails = false, snapToGrid = false, wholeSigns = true, spelling = false,
-  earlier = false, later = false,
+  additions = true, earlier = false, later = false,
 } = {}) {
   connect(schedulePush);
+  setAdditions(additions);
   document.designMode = 'on';
   document.execCommand('styleWithCSS', false, 'false');
   document.execCommand('defaultParagraphSeparator', false, 'p');
@@ -55,6 +61,8 @@ export function start({
   listenToClipboard();
   listenToPointer();
   overlay.start();
+  listenToEdges();
+  listenToCells();
   listenToGestures();
   setDetails(showDetails);
   setSnap(snapToGrid);

@@ -13,9 +13,11 @@ type Point = [node: Node, offset: number];
 
 /**
  * A point that survives the wrapping, unwrapping and renaming of elements around it: it clings to a
- * text, to one side of an object (0 before it, 1 behind it), or to an element without content.
+ * text, to one side of an object (0 before it, 1 behind it), to an element without content, or to
+ * the start (0) or end (1) of a cell that is selected as such.
  */
-type Anchor = TextAnchor | { beside: ChildNode; side: number } | { inside: Element };
+type Anchor = TextAnchor | { beside: ChildNode; side: number } | { inside: Element } |
+  { cell: Node; side: number };
 interface TextAnchor { node: Text; offset: number }
 
 /** The selection as anchors; null where nothing is selected. */
@@ -262,7 +264,10 @@ interface State {
   element: ToldElement;
   link: ToldElement;
   picture: { pixels: [number, number], shown: [number, number] } | null;
+  cells: number[];
+  place: number[];
   path: string[];
+  pathNumbers: number[];
 }
 
 /** A line of the page's text; see find/pageText.js. */

@@ -3898,6 +3898,18 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>%1 opens the menu %2.</source>
         <translation>%1 öffnet das Menü %2.</translation>
     </message>
+    <message>
+        <source>Place of what is selected</source>
+        <translation>Stelle der Auswahl</translation>
+    </message>
+    <message>
+        <source>Rows %1-%2, columns %3-%4</source>
+        <translation>Zeilen %1-%2, Spalten %3-%4</translation>
+    </message>
+    <message>
+        <source>Left %1, top %2, size %3 × %4</source>
+        <translation>Links %1, oben %2, Größe %3 × %4</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -3885,6 +3885,18 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>%1 opens the menu %2.</source>
         <translation>%1 會開啟功能表「%2」。</translation>
     </message>
+    <message>
+        <source>Place of what is selected</source>
+        <translation>選取項目的位置</translation>
+    </message>
+    <message>
+        <source>Rows %1-%2, columns %3-%4</source>
+        <translation>第 %1-%2 列，第 %3-%4 欄</translation>
+    </message>
+    <message>
+        <source>Left %1, top %2, size %3 × %4</source>
+        <translation>左 %1，上 %2，大小 %3 × %4</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -30,7 +30,7 @@ const std::map<std::string, Names> &AllowedImports() {
       {"talk", {"page", "formats", "tables", "objects", "blocks"}},
       {"spelling", {"page", "objects", "find", "talk"}},
       {"properties", {"page", "formats", "tables", "talk"}},
-      {"clipboard", {"page", "formats", "objects", "blocks", "talk"}},
+      {"clipboard", {"page", "formats", "tables", "objects", "blocks", "talk"}},
       {"keys", {"page", "formats", "tables", "objects", "blocks", "talk"}},
       {"",
        {"page", "formats", "tables", "objects", "blocks", "find", "talk", "spelling", "properties",

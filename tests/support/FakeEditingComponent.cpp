@@ -261,7 +261,7 @@ void FakeEditingComponent::SetProperties(PropertyOwner owner, const PropertyValu
   const QString subject = QString::number(static_cast<int>(owner.subject));
   const bool isInPath = owner.subject == PropertySubject::Element;
   Log(QStringLiteral("SetProperties(%1, %2)")
-          .arg(isInPath ? subject + u':' + QString::number(owner.index) : subject,
+          .arg(isInPath ? subject + u':' + QString::number(owner.element) : subject,
                words.join(u' ')));
 }
 

@@ -42,6 +42,9 @@ class FakeEditingComponent final : public EditingComponent,
   HtmlElement link;     ///< that the selection is in
   QStringList elementPath;
   PathChoices pathChoices;  ///< of every element of the path
+  QList<int> pathElements;  ///< their numbers; without any each one's is its index
+  QRect objectPlace;
+  QRect selectedCells;
   std::map<PropertySubject, PropertyValues> properties;
   /// The stretch of the document's text that is selected; after loading the start of the body.
   qsizetype selectionStart = 0;
@@ -124,6 +127,9 @@ class FakeEditingComponent final : public EditingComponent,
   QStringList Path() const override { return elementPath; }
   void ActOnPath(int index, PathDeed deed) override;
   PathChoices ChoicesOnPath(int) override { return pathChoices; }
+  int PathElement(int index) const override { return pathElements.value(index, index); }
+  QRect ObjectPlace() const override { return objectPlace; }
+  QRect SelectedCells() const override { return selectedCells; }
   void SetClassOnPath(int index, const QString &name, bool on) override;
   DocumentSelection &Selection() override;
   SelectionType Type() const override;

@@ -13,15 +13,21 @@ import * as selection from '../page/selection.js';
 import { takeInSigns } from '../page/signs.js';
 import { splitText } from '../page/standIns.js';
 import { gapAt } from '../page/units.js';
+import { enterCell } from '../tables/deeds.js';
+import { isEmpty } from '../tables/making.js';
 import { gapFrom } from '../page/whitespace.js';
 
-// Across table cells only contents go; the cells stay.
+// A row in which no cell begins, or a column.
+/** @param {AnyNode} node */
+const isTablePart = (node) => /^(COL|COLGROUP|TBODY|TFOOT|THEAD|TR)$/.test(node.nodeName);
+
+// Across table cells only contents go; the cells, rows and columns stay.
 /** @param {Range} range */
 function deleteLeaves(range) {
   const { startContainer, startOffset, endContainer, endOffset } = range;
   const blocks = new Set();
   for (const leaf of [...selection.leavesIn(range)]) {
-    if (!dom.isShown(leaf) || dom.isCell(leaf)) continue;
+    if (!dom.isShown(leaf) || dom.isCell(leaf) || isTablePart(leaf)) continue;
     const { parentNode } = leaf;
     blocks.add(dom.blockOf(parentNode));
     const from = leaf === startContainer ? startOffset : 0;
@@ -239,10 +245,24 @@ function holdLastLine(rest) {
 
 /**
  * Deletes what is in the range and puts the caret at the point that is left, even where no line is:
- * for a caller that makes a line there (gapAt).
+ * for a caller that makes a line there (gapAt). Cells that are selected stay; the caret is in the
+ * first of them.
  * @param {Range} range
  */
 export function deleteToPoint(range) {
+  const cells = selection.cellsIn(range);
+  if (!cells) deletePart(range);
+  else for (const cell of cells.reverse()) emptyCell(cell);
+}
+/** @param {Element} cell */
+function emptyCell(cell) {
+  const range = document.createRange();
+  range.selectNodeContents(cell);
+  if (isEmpty(cell)) enterCell(cell);
+  else deletePart(range);
+}
+/** @param {Range} range */
+function deletePart(range) {
   if (cellOf(range.startContainer) !== cellOf(range.endContainer) && !showsAnything(range)) {
     selection.setCaret(range.startContainer, range.startOffset);
     return;

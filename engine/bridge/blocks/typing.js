@@ -133,7 +133,7 @@ function waitAtCaret(looks) {
  * @param {Range} range the selected one
  */
 export function deleteKeepingLooks(range) {
-  const joins = deletionOfEdge(range);
+  const joins = selection.cellsIn(range) ? null : deletionOfEdge(range);
   if (joins) {
     joins();
     return;
@@ -144,6 +144,16 @@ export function deleteKeepingLooks(range) {
   deleteToLine(range);
   const caret = selection.range();
   if (caret && dom.blockOf(caret.startContainer) === block) waitAtCaret(looks);
+}
+
+/**
+ * Deletes what is selected, as Delete does. Cells stay selected.
+ * @param {Range} range the selected one
+ */
+export function deleteSelected(range) {
+  const cells = selection.saveCells(range);
+  deleteKeepingLooks(range);
+  selection.restore(cells);
 }
 
 // A text that the engine is about to delete, and its looks: where these go with it the engine would
@@ -273,6 +283,10 @@ function insertAt(data, { node, offset }) {
  */
 export function typeOver(data) {
   if (!data || !selection.range()) return false;
+  if (selection.cellsIn(selection.range())) {
+    deleteKeepingLooks(selection.range());
+    return false;
+  }
   narrowSelection(selection.range());
   const range = selection.range();
   if (!range.collapsed) resolveAll();

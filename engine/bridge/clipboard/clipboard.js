@@ -4,8 +4,9 @@
 // elsewhere; what comes in is built anew (clean.js) unless it was copied in this program.
 import { deleteToPoint } from '../blocks/deletion.js';
 import { showsAnything, spansUnits, withinCell } from '../blocks/extent.js';
-import { deleteKeepingLooks } from '../blocks/typing.js';
+import { deleteSelected } from '../blocks/typing.js';
 import * as addresses from './addresses.js';
+import { copiedCells, fillingOf, takesTable } from './cells.js';
 import { cleaned, cleaning } from './clean.js';
 import { doSlowly, isLong } from './longPaste.js';
 import { asMarkdown } from './markdown.js';
@@ -21,11 +22,13 @@ import { host } from '../talk/host.js';
 import { schedulePush } from '../talk/pace.js';
 
 // Says in copied markup that it comes from this program and needs no cleaning, and which of its
-// ends lie within a paragraph.
+// ends lie within a paragraph, or that it is of cells that were selected as such.
 const generator = '<meta name="generator" content="Velor Web Creator"';
-const origin = new RegExp(`${generator} data-ends="(closed|open|line) (closed|open|line)">`);
+const origin =
+  new RegExp(`${generator} data-ends="(closed|open|line) (closed|open|line)"( data-cells)?>`);
 /** @param {import('./openEnds.js').OpenEnds} ends */
 const originOf = ({ start, end }) => `${generator} data-ends="${start} ${end}">`;
+const originOfCells = `${generator} data-ends="closed closed" data-cells>`;
 
 // True for an element that has to be around a part of the page for it to mean the same elsewhere.
 /** @param {AnyNode} node */
@@ -68,11 +71,11 @@ function partOf(range) {
   }
   return content;
 }
-// The markup of a range for the clipboard.
-/** @param {Range} range */
-function copiedMarkup(range) {
+// The markup of a part of the page for the clipboard.
+/** @param {Node} part */
+function copiedMarkup(part) {
   const holder = dom.create('DIV');
-  holder.append(partOf(range));
+  holder.append(part);
   addresses.makeFull(holder);
   // A parser drops the first line end of these.
   for (const { firstChild } of holder.querySelectorAll('pre, listing')) {
@@ -91,8 +94,14 @@ const isInField = (node) => dom.isElement(node) && node.closest('input, textarea
  * @param {Range} range
  */
 function putInto(data, range) {
+  const cells = copiedCells(range);
+  if (cells) {
+    data.setData('text/html', originOfCells + copiedMarkup(cells.table));
+    data.setData('text/plain', cells.text);
+    return;
+  }
   const part = withinCell(range);
-  data.setData('text/html', originOf(openEndsOf(part)) + copiedMarkup(part));
+  data.setData('text/html', originOf(openEndsOf(part)) + copiedMarkup(partOf(part)));
   data.setData('text/plain', document.getSelection().toString());
 }
 
@@ -112,7 +121,7 @@ function cut(event) {
   if (selected && !isInField(event.target)) takeInSigns(selected);
   const range = copy(event);
   if (!range) return;
-  history.step('deleteByCut', () => deleteKeepingLooks(range));
+  history.step('deleteByCut', () => deleteSelected(range));
   schedulePush();
 }
 
@@ -245,8 +254,8 @@ function paste(event) {
  * @returns {any} the open ends
  */
 function openEndsIn(html) {
-  const [, start, end] = origin.exec(html) ?? [];
-  return start ? { start, end } : closed;
+  const [, start, end, cells] = origin.exec(html) ?? [];
+  return start ? { start, end, isCells: Boolean(cells) } : closed;
 }
 
 // Makes the fragment one that goes with what is around the range.
@@ -262,15 +271,16 @@ function fit(fragment, range) {
 /**
  * @param {DocumentFragment} fragment
  * @param {string} kind
- * @param {import('./openEnds.js').OpenEnds} [open]
+ * @param {import('./openEnds.js').OpenEnds & { isCells?: boolean }} [open]
  */
 function putIn(fragment, kind, open = closed) {
   const range = selection.range();
   if (!range) return;
-  fit(fragment, range);
+  const fill = fillingOf(fragment, range, open.isCells);
+  if (!fill) fit(fragment, range);
   addresses.makeRelative(fragment);
   if (!fragment.hasChildNodes()) return;
-  history.step(kind, () => put(fragment, open));
+  history.step(kind, fill ?? (() => put(fragment, open)));
   schedulePush();
 }
 // Puts in what another program's markup has become, and has its pictures brought into the site.
@@ -293,7 +303,9 @@ export function insert(content, kind, form = '') {
   const range = selection.range();
   if (!range) return;
   const { html, text } = content;
-  if (form || !html.trim()) {
+  if (!html.trim() && takesTable(range, text)) {
+    putIn(asTable(text), kind);
+  } else if (form || !html.trim()) {
     const said = text || (html.trim() ? linesOf(cleaned(html)).join('\n') : '');
     putIn((form ? null : linkOf(content)) ?? textFragment(said, range, form), kind);
   } else if (origin.test(html)) {
@@ -315,6 +327,11 @@ function startDrag(event) {
   const range = selection.range()?.cloneRange();
   /** @type {AnyNode} */
   const target = event.target;
+  // Cells are not dragged: their rows would stay without them.
+  if (range && !range.collapsed && selection.cellsIn(range)) {
+    event.preventDefault();
+    return;
+  }
   dragged = range && !range.collapsed && range.intersectsNode(target) ? range : null;
   if (!dragged && target.tagName === 'IMG' && dom.isEditable()) {
     dragged = document.createRange();

@@ -412,9 +412,9 @@ export function applyFormat(entry, value, range) {
     document.getSelection().focusOffset === range.startOffset && !range.collapsed;
   const texts = splitTextsAtEnds(range);
   if (!texts.length) return;
+  const cells = selection.saveCells(range);
   const anchors = anchorsOf(texts, range);
   joinTexts(putOn(entry, value, texts), anchors);
-  const [anchor, focus] = backward ? anchors.reverse() : anchors;
-  selection.restore({ anchor, focus });
+  if (backward) anchors.reverse();
+  selection.restore(cells ?? { anchor: anchors[0], focus: anchors[1] });
 }
-

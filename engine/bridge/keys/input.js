@@ -59,7 +59,7 @@ function ownDeletion(event) {
   if (!range) return null;
   return range.collapsed
     ? deletionAtCaret(range, backward.test(inputType) ? 'start' : 'end', event.getTargetRanges()[0])
-    : () => typing.deleteKeepingLooks(range);
+    : () => typing.deleteSelected(range);
 }
 
 /** @param {string} inputType */

@@ -6,9 +6,10 @@ import * as glyphs from './glyphs.js';
 import { gridStep } from './grid.js';
 import * as objects from './objects.js';
 import * as overlay from './overlay.js';
-import { adoptSheet } from './overlay.js';
+import { clearTint } from './tint.js';
 
 const colour = '#1a5fb4';
+const guideColour = '#c64600';
 /** @param {string} paint */
 const solid = (paint) => `linear-gradient(${paint}, ${paint})`;
 const handle = 7;    // pixels: the side of a handle
@@ -83,14 +84,12 @@ function gridLayers({ origin: { x, y }, scale }) {
 }
 
 const sign = { height: 18, letter: 7.5, gap: 6 };  // pixels; of the sign that tells a size
-// The size of an object that is being dragged, as a sign below its frame: what is behind the text,
-// and the text with its place.
+// A text as a sign below a box: what is behind the text, and the text with its place.
 /**
- * @param {Box} frame
- * @param {{ width: number, height: number }} size
+ * @param {{ left: number, bottom: number }} box
+ * @param {string} text
  */
-function sizeSign({ left, bottom }, { width, height }) {
-  const text = `${Math.round(width)} × ${Math.round(height)}`;
+function signBelow({ left, bottom }, text) {
   const x = Math.max(0, left);
   const y = Math.min(bottom + sign.gap, innerHeight - sign.height);
   const back = { image: solid(colour), x, y, width: (text.length + 1) * sign.letter,
@@ -128,8 +127,45 @@ export const pointAt = (grip) => {
   redraw();
 };
 
-// While an object is being dragged: its measures if the grid is shown, and if its size is.
-/** @typedef {{ grid: any, size: { width: number, height: number } | null }} Dragging */
+/** @param {{ width: number, height: number }} size */
+const sizeText = ({ width, height }) => `${Math.round(width)} × ${Math.round(height)}`;
+
+// The edge between two columns that is being dragged, with what is told of their widths.
+/** @type {{ x: number, top: number, bottom: number, text: string } | null} */
+let edge = null;
+/**
+ * Draws an edge between columns as it is dragged; null ends that.
+ * @param {{ x: number, top: number, bottom: number, text: string } | null} dragged
+ */
+export const setEdge = (dragged) => {
+  edge = dragged;
+  redraw();
+};
+function drawEdge() {
+  const { x, top, bottom, text } = edge;
+  const { back, style } = signBelow({ left: x, bottom }, text);
+  const line = { image: solid(colour), x: Math.round(x), y: top, width: 1, height: bottom - top };
+  overlay.draw('frame', 'view', [back, line], style);
+}
+
+// Lines over all of the viewport.
+/**
+ * @param {import('./guides.js').Lines} lines
+ * @returns {Layer[]}
+ */
+const guideLayers = ({ x, y }) => [
+  ...x.map((at) => ({ image: solid(guideColour), x: Math.round(at), y: 0, width: 1,
+    height: innerHeight })),
+  ...y.map((at) => ({ image: solid(guideColour), x: 0, y: Math.round(at), width: innerWidth,
+    height: 1 })),
+];
+
+// While an object is being dragged: its measures if the grid is shown, and if its size is; the
+// lines that it is in line with.
+/**
+ * @typedef {{ grid: any, size: { width: number, height: number } | null,
+ *   guides: import('./guides.js').Lines }} Dragging
+ */
 /** @type {Dragging | null} */
 let dragging = null;
 /**
@@ -142,41 +178,6 @@ export const setDragging = (state) => {
   redraw();
 };
 
-// A selected object has its frame: it is not tinted like selected text too. The rule against the
-// tint names the tags in the object, since the engine computes the style of every element with a
-// tag of the rule anew. Where the page has more such elements than this, the tint stays.
-const most = 4000;
-const tintless = new CSSStyleSheet();
-let untinted = '';
-/** @type {Animation | null} */
-let repaint = null;
-// An animation that stands still and shows nothing.
-/** @param {Element} object */
-function stillAnimation(object) {
-  const shadow = '0 0 transparent';
-  const animation =
-    object.animate({ textShadow: [shadow, shadow] }, { duration: 1, fill: 'both' });
-  animation.pause();
-  return animation;
-}
-// Takes the tint off an object, and gives the one before it back; null for no object.
-/** @param {Element | null} object */
-function clearTint(object) {
-  const tags = new Set(object
-    ? [object, ...object.querySelectorAll('*')].map(({ localName }) => localName) : []);
-  const known = [...tags].filter((tag) => /^[a-z][a-z0-9]*$/.test(tag));
-  const count = known.reduce((sum, tag) => sum + document.getElementsByTagName(tag).length, 0);
-  const selectors = count > most ? '' : known.map((tag) => `${tag}::selection`).join();
-  // The engine does not paint anew for such a rule, but does for a shadow, even if none is seen.
-  repaint?.cancel();
-  repaint = selectors ? stillAnimation(object) : null;
-  if (selectors === untinted) return;
-  untinted = selectors;
-  adoptSheet(tintless, selectors !== '');
-  tintless.replaceSync(
-    selectors && `${selectors} { background: transparent !important; color: inherit !important }`);
-}
-
 const watched = new ResizeObserver(() => overlay.scheduleRedraw());
 /** @type {Element | null} */
 let subject = null;
@@ -184,7 +185,7 @@ let subject = null;
 /** @param {Element | null} object */
 function watch(object) {
   if (object === subject) return;
-  clearTint(object);
+  clearTint('frame', object);
   watched.disconnect();
   subject = object;
   if (object) watched.observe(object);
@@ -196,7 +197,8 @@ function redraw() {
   const frame = object && frameOf(object);
   if (!frame) {
     pointing = '';
-    overlay.clear('frame');
+    if (edge) drawEdge();
+    else overlay.clear('frame');
     return;
   }
   const around = Math.ceil(handle / 2);
@@ -204,9 +206,10 @@ function redraw() {
     right: frame.right + around, bottom: frame.bottom + around };
   const cursor = pointing === 'move' ? 'move' : `${pointing}-resize`;
   const grid = dragging?.grid ? gridLayers(dragging.grid) : [];
-  const told = dragging?.size ? sizeSign(frame, dragging.size) : null;
+  const told = dragging?.size ? signBelow(frame, sizeText(dragging.size)) : null;
+  const guides = dragging ? guideLayers(dragging.guides) : [];
   overlay.draw('frame', dragging ? 'view' : area,
-    [...(told ? [told.back] : []), ...frameLayers(frame), ...grid],
+    [...(told ? [told.back] : []), ...guides, ...frameLayers(frame), ...grid],
     { ...(pointing ? { 'pointer-events': 'auto', cursor } : {}), ...told?.style });
 }
 

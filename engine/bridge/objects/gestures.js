@@ -4,22 +4,27 @@
 // drag goes on it is shown by an animation that stands still, which changes no node. Its end writes
 // to the document, as one step of the history.
 import * as boxes from './boxes.js';
+import { extendCells, leaveCells } from './cellGestures.js';
 import { gripAt, pointAt, setDragging } from './frame.js';
 import { gridStep, snaps } from './grid.js';
+import { drawnBy, guidesInSight, linesBeside } from './guides.js';
 import * as objects from './objects.js';
+import { hasAdditions } from '../page/additions.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
 
 const slack = 3;  // pixels before a press becomes a drag
 const least = 1;  // pixels of width and height
+const tableEdge = 4;  // pixels beside a table's right edge where a press is on that
 const stride = 16;  // pixels that the page scrolls in a frame while the pointer is outside
 
 /**
  * A press or a drag. `preview`: what shows the change so far. `last`: the pointer's last event.
  * `again`: the object was selected before. `scrolls`: a step of scrolling is under way.
  * @typedef {{ object: HTMLElement, grip: string, again: boolean, from: Position,
- *   before: ReturnType<typeof objects.measure>, change: Resizing | null,
+ *   before: ReturnType<typeof objects.measure>, change: Resizing | null, box: Box,
+ *   lines: import('./guides.js').Lines | null, scroll: Position,
  *   preview: Animation | null, last?: Pointer & { shiftKey: boolean }, scrolls?: boolean }} Gesture
  */
 
@@ -30,15 +35,32 @@ let taken = false;   // the press has selected an object: the click behind it do
 /** @param {number} pixels */
 const toGrid = (pixels) => Math.round(pixels / gridStep) * gridStep;
 
-// The change that a box comes to which is moved so far.
+// The gesture's object's box, moved so far in its own pixels.
 /**
  * @param {Gesture} gesture
  * @param {number} dx
  * @param {number} dy
  */
-function moveChange({ before }, dx, dy) {
+function boxAt({ box: { left, top, right, bottom }, before: { scale } }, dx, dy) {
+  const [x, y] = [dx * scale.x, dy * scale.y];
+  return { left: left + x, top: top + y, right: right + x, bottom: bottom + y };
+}
+
+// The change that a box comes to which is moved so far: to a guide, else to the grid.
+/**
+ * @param {Gesture} moved
+ * @param {number} dx
+ * @param {number} dy
+ */
+function moveChange(moved, dx, dy) {
+  const { before } = moved;
+  moved.lines ??= linesBeside(moved.object);
   if (!snaps()) return { dx, dy };
-  return { dx: toGrid(before.left + dx) - before.left, dy: toGrid(before.top + dy) - before.top };
+  const by = drawnBy(boxAt(moved, dx, dy), moved.lines);
+  return {
+    dx: by.x === null ? toGrid(before.left + dx) - before.left : dx + by.x / before.scale.x,
+    dy: by.y === null ? toGrid(before.top + dy) - before.top : dy + by.y / before.scale.y,
+  };
 }
 
 // How far a handle goes outwards that is moved by so much; 0 across its way.
@@ -110,7 +132,8 @@ function show({ object, before, change }) {
   }
   const measures = objects.measure(object);
   const moves = gesture.grip === 'move';
-  setDragging({ grid: moves && snaps() ? measures : null, size: moves ? null : measures });
+  setDragging({ grid: moves && snaps() ? measures : null, size: moves ? null : measures,
+    guides: guidesInSight(object, gesture.lines, gesture.scroll) });
 }
 
 // The position of a mouse event, counted from where the elements around the object begin: scrolling
@@ -200,7 +223,8 @@ function release(event) {
  */
 function begin(object, grip, again, event) {
   gesture = { object, grip, again, from: positionFor(object, event), change: null, preview: null,
-    before: objects.measure(object) };
+    before: objects.measure(object), box: boxes.boxOf(object), lines: null,
+    scroll: boxes.scrolled(object) };
 }
 
 // True for a picture in the text: the engine begins a drag of it to another place; a click selects
@@ -212,7 +236,7 @@ const dragsByEngine = (object) => object.tagName === 'IMG' && !objects.isMovable
 function press(event) {
   cancel();
   taken = false;
-  if (!dom.isEditable()) return;
+  if (!dom.isEditable() || event.defaultPrevented) return;
   const selected = objects.selected();
   if (event.button === 1) {
     // The engine is about to paste: beside what is selected, never in its place.
@@ -230,7 +254,16 @@ function press(event) {
   if (event.button !== 0) return;
   if (grip) begin(object, grip, true, event);
   else if (objects.isMovable(object)) begin(object, 'move', false, event);
+  else if (isAtWidth(object, event)) begin(object, 'e', false, event);
 }
+
+// True at the right edge of a table, which is dragged without a click that selects it.
+/**
+ * @param {Element} object
+ * @param {Pointer} pointer
+ */
+const isAtWidth = (object, { clientX }) => object.tagName === 'TABLE' && hasAdditions() &&
+  Math.abs(clientX - boxes.boxOf(object).right) <= tableEdge;
 
 /** @param {MouseEvent} event */
 function move(event) {
@@ -276,7 +309,7 @@ function nextLine(pixels, direction) {
   return (direction > 0 ? Math.floor(lines) + 1 : Math.ceil(lines) - 1) * gridStep;
 }
 
-// Moves an object by a key: by a pixel, or to the next line of the grid unless `fine`. Moves in a
+// Moves an object by a key: to the next line of the grid, or by a pixel where `fine`. Moves in a
 // row are one step of the history.
 /**
  * @param {HTMLElement} object
@@ -286,7 +319,7 @@ function nextLine(pixels, direction) {
 function nudge(object, [x, y], fine) {
   const before = objects.measure(object);
   const { left, top } = before;
-  const change = snaps() && !fine
+  const change = !fine
     ? { dx: nextLine(left, x) - left, dy: nextLine(top, y) - top } : { dx: x, dy: y };
   history.expect('nudge', true);
   objects.writeChange(object, before, change);
@@ -340,7 +373,7 @@ function keyDown(event) {
     return;
   }
   if (!dom.isEditable() || event.isComposing || altKey || metaKey) return;
-  if (key === 'Escape') objects.stepOut(objects.selected());
+  if (key === 'Escape' && !leaveCells()) objects.stepOut(objects.selected());
   if (steps.has(key)) arrow(event);
 }
 
@@ -350,10 +383,12 @@ function arrow(event) {
   const range = selection.range();
   const object = selection.control(range);
   if (shiftKey) {
-    if (!ctrlKey && range?.collapsed && extendOver(range, key)) event.preventDefault();
+    const isTaken = () => (range?.collapsed && extendOver(range, key)) || extendCells(key);
+    if (!ctrlKey && isTaken()) event.preventDefault();
   } else if (object && objects.isMovable(object)) {
     event.preventDefault();
-    nudge(object, steps.get(key), ctrlKey);
+    // Ctrl does what the arrow alone does not.
+    nudge(object, steps.get(key), snaps() ? ctrlKey : !ctrlKey || !hasAdditions());
   }
 }
 

@@ -45,12 +45,18 @@ export function toggleAbsolute(object) {
 /** @param {Element} object */
 const levelOf = (object) => parseInt(getComputedStyle(object).zIndex, 10) || 0;
 
+/**
+ * The other objects out of the flow that neither hold this one nor lie in it.
+ * @param {HTMLElement} object
+ */
+export const movablesBeside = (object) => [...document.body.querySelectorAll('*')]
+  .filter((each) => each !== object && objects.isMovable(each) && !each.contains(object) &&
+    !object.contains(each));
+
 // The levels of the other objects, with whether each lies before this one in the page.
 /** @param {HTMLElement} object */
 function othersOf(object) {
-  return [...document.body.querySelectorAll('*')]
-    .filter((each) => each !== object && objects.isMovable(each) && !each.contains(object) &&
-      !object.contains(each))
+  return movablesBeside(object)
     .map((each) => ({
       level: levelOf(each),
       isBefore: Boolean(each.compareDocumentPosition(object) & Node.DOCUMENT_POSITION_FOLLOWING),

@@ -269,11 +269,11 @@ function lengthIn(unit, value, growth) {
 // to the attribute, if the object's element has such a one, else to the style.
 /**
  * @param {HTMLElement} object
- * @param {string} property
+ * @param {'width' | 'height'} property
  * @param {number} pixels
- * @param {number} growth
+ * @param {number} growth the factor by which it has grown
  */
-function writeSize(object, property, pixels, growth) {
+export function writeSize(object, property, pixels, growth) {
   const rule = object.tagName === 'HR' && property === 'height';
   const attribute = rule ? 'size' : property;
   const styled = object.style.getPropertyValue(property);

@@ -120,7 +120,7 @@ const inView = new Map();
 /**
  * Draws on all of the viewport, below 'frame', in place of what the same one has drawn before; to
  * be called while everything is drawn anew (addRedraw). The first to draw lies on top.
- * @param {'glyphs' | 'marks' | 'waves'} who
+ * @param {'cells' | 'glyphs' | 'marks' | 'waves'} who
  * @param {Layer[]} layers the upper ones first
  */
 export const drawInView = (who, layers) => inView.set(who, layers);

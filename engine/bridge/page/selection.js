@@ -65,6 +65,20 @@ export function control(selected) {
   return only && dom.isObject(only) ? only : null;
 }
 
+/** @type {(range: PlainRange) => HTMLTableCellElement[] | null} */
+let readCells = () => null;
+/**
+ * Has a function answer what cellsIn does.
+ * @param {(range: PlainRange) => HTMLTableCellElement[] | null} read
+ */
+export const readCellsBy = (read) => { readCells = read; };
+/**
+ * The cells that a range selects as such, in the page's order: a rectangle of a table. null for a
+ * range of text.
+ * @param {PlainRange} selected
+ */
+export const cellsIn = (selected) => readCells(selected);
+
 /** @param {AnyNode} node */
 export function selectNode(node) {
   const index = indexOf(node);
@@ -125,10 +139,24 @@ function bounds({ startContainer, startOffset, endContainer, endOffset }) {
  * @param {PlainRange | null} selected
  */
 export function* leavesIn(selected) {
+  const cells = cellsIn(selected);
+  if (cells) {
+    for (const cell of cells) {
+      yield* leavesFrom(cell.firstChild ?? cell, dom.nextSkippingChildren(cell));
+    }
+    return;
+  }
   const { first, stop } = bounds(selected);
   // A range that starts inside an object has all of that object.
   const object = first && dom.ancestor(first.parentNode, isAtom);
-  for (let node = object ?? first; node && node !== stop; node = nextNode(node)) {
+  yield* leavesFrom(object ?? first, stop);
+}
+/**
+ * @param {AnyNode} first
+ * @param {AnyNode} stop the first node behind them
+ */
+function* leavesFrom(first, stop) {
+  for (let node = first; node && node !== stop; node = nextNode(node)) {
     if (!isNeutral(node) && (isAtom(node) || !node.firstChild)) yield node;
   }
 }
@@ -231,6 +259,10 @@ function anchorAt(node, offset, inward) {
  */
 export function pointOf(anchor) {
   if ('node' in anchor) return [anchor.node, Math.min(anchor.offset, anchor.node.length)];
+  if ('cell' in anchor) {
+    const cell = dom.successor(anchor.cell);
+    return [cell, anchor.side ? cell.childNodes.length : 0];
+  }
   if ('beside' in anchor) {
     const object = dom.successor(anchor.beside);
     return [object.parentNode, indexOf(object) + anchor.side];
@@ -276,6 +308,10 @@ export function save() {
     const side = forward ? 0 : 1;
     return { anchor: { beside: object, side }, focus: { beside: object, side: 1 - side } };
   }
+  if (cellsIn(selected)) {
+    const side = forward ? 0 : 1;
+    return { anchor: { cell: anchorNode, side }, focus: { cell: focusNode, side: 1 - side } };
+  }
   if (selected.collapsed) {
     const caret = anchorAt(focusNode, focusOffset, 'line');
     return { anchor: caret, focus: { ...caret } };
@@ -285,6 +321,12 @@ export function save() {
     focus: anchorAt(focusNode, focusOffset, forward ? 'before' : 'after'),
   };
 }
+
+/**
+ * The same where the selected range is one of cells; null for one of text.
+ * @param {PlainRange} selected
+ */
+export const saveCells = (selected) => (cellsIn(selected) ? save() : null);
 
 /** @param {SavedSelection} saved */
 export function restore(saved) {

@@ -193,6 +193,12 @@ function runFollower() {
   };
 }
 
+/**
+ * @param {PlainRange} range
+ * @param {AnyNode} leaf
+ */
+const endsAtStart = ({ endContainer, endOffset }, leaf) => leaf === endContainer && endOffset === 0;
+
 // `most` is the number of leaves that are looked at.
 /**
  * @param {PlainRange | null} range
@@ -208,12 +214,13 @@ export function unitsIn(range, most = Infinity) {
   if (range.collapsed) return caretUnits(range);
   const units = [];
   const run = runFollower();
+  const cells = selection.cellsIn(range);
   let rest = most;
   for (const leaf of selection.leavesIn(range)) {
     if (rest-- <= 0) break;
     if (!dom.isShown(leaf)) continue;
     // A selection that ends at the very start of a paragraph does not mean that paragraph.
-    const untouched = units.length && leaf === range.endContainer && range.endOffset === 0;
+    const untouched = units.length && !cells && endsAtStart(range, leaf);
     if (untouched || run.takes(leaf)) continue;
     const found = unitOf(leaf);
     if (!found) continue;

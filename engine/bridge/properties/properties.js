@@ -17,16 +17,16 @@ let applied = null;
 
 /**
  * The properties of a subject ('page', 'image', 'table', 'cell', 'link', 'fonts', 'element') by
- * their names; none where it is not there. `index` is that of the element in the path.
+ * their names; none where it is not there. `number` is that of the element of a path.
  * @param {string} name
- * @param {number} [index]
+ * @param {number} [number]
  * @returns {Record<string, string>}
  */
-export function properties(name, index) {
+export function properties(name, number) {
   applied = null;
   if (!dom.isEditable()) return {};
   const { find, fields } = subjectOf(name);
-  const elements = find(readView(), index);
+  const elements = find(readView(), number);
   if (!elements.length) return {};
   return Object.fromEntries(Object.entries(fields).map(([field, { read }]) => {
     const values = new Set(elements.map((element) => read(element)));
@@ -37,12 +37,12 @@ export function properties(name, index) {
 /**
  * @param {string} name
  * @param {Record<string, string>} changed
- * @param {number} index
+ * @param {number} number
  */
-function write(name, changed, index) {
+function write(name, changed, number) {
   const view = readView();
   const { find, fields } = subjectOf(name);
-  let elements = find(view, index);
+  let elements = find(view, number);
   if (!elements.length) return;
   if (!view.range?.collapsed) resolveAll();
   const saved = selection.save();
@@ -58,9 +58,9 @@ function write(name, changed, index) {
  * a dialog changes more than once is one step too.
  * @param {string} name
  * @param {Record<string, string>} changed
- * @param {number} [index]
+ * @param {number} [number]
  */
-export function setProperties(name, changed, index) {
+export function setProperties(name, changed, number) {
   if (!dom.isEditable()) return;
   work(() => {
     let wanted = changed;
@@ -68,7 +68,7 @@ export function setProperties(name, changed, index) {
       history.undo();
       wanted = { ...applied.changed, ...changed };
     }
-    const isChanged = history.step('properties', () => write(name, wanted, index));
+    const isChanged = history.step('properties', () => write(name, wanted, number));
     applied = isChanged ? { step: history.lastStep(), name, changed: wanted } : null;
   });
   schedulePush();

@@ -13,15 +13,15 @@ import { unitsIn } from '../page/units.js';
 import { rectangleChosen } from '../tables/chosen.js';
 import { gridOf, placesIn } from '../tables/grid.js';
 import { takeAttribute } from '../tables/making.js';
-import { path, pathTold } from '../talk/path.js';
+import { elementOf, namesTo } from '../talk/path.js';
 import { Command } from '../talk/vocabulary.js';
 import { queryValue, statusOf } from '../talk/commands.js';
 
 /**
- * `find` answers the elements that the dialog is about, none where it does not apply; `index` is
- * that of an element in the path.
+ * `find` answers the elements that the dialog is about, none where it does not apply; `number`
+ * is that of an element of a path.
  * @typedef {import('./fields.js').Field} Field
- * @typedef {{ find(view: View, index: number): AnyNode[], fields: Record<string, Field> }} Subject
+ * @typedef {{ find(view: View, number: number): AnyNode[], fields: Record<string, Field> }} Subject
  */
 
 const common = { id: attribute('id'), class: attribute('class'), title: attribute('title') };
@@ -253,10 +253,10 @@ const subjects = {
       name: attribute('name'), ...common },
   },
   element: {
-    find: (view, index) => [path()[index]].filter(Boolean),
+    find: (view, number) => [elementOf(number)].filter(Boolean),
     fields: {
       tag: told((element) => element.tagName.toLowerCase()),
-      path: told((element) => pathTold().slice(0, path().indexOf(element) + 1).join(' › ')),
+      path: told((element) => namesTo(element).join(' › ')),
       ...common,
       language: attribute('lang'), direction: attribute('dir'), style: attribute('style'),
     },

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // Which table and which of its cells a selection means: the cell at the caret; from one cell to
-// another one all of the rectangle between; all of a table that is selected as a whole.
-import { cellIn, gridOf, placeOf, rectangleOf, wholeOf } from './grid.js';
+// another one all of the rectangle between; all of a table that is selected as a whole. A range
+// from the very start of a cell to the very end of one selects *cells*: formats, deletions and the
+// clipboard mean the rectangle then too, not the text in between.
+import { cellIn, gridOf, placeOf, placesIn, rectangleOf, wholeOf } from './grid.js';
+import { hasAdditions } from '../page/additions.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
 
@@ -98,3 +101,37 @@ export function rectangleChosen({ table, first, last }, range) {
   }
   return selection.control(range) === table ? { grid, rectangle: wholeOf(grid) } : null;
 }
+
+/** @param {AnyNode} node */
+const isCell = (node) => dom.isElement(node) && /^(TD|TH)$/.test(node.tagName);
+/**
+ * The rectangle of cells that a range selects as such; null for a range of text.
+ * @param {PlainRange} range
+ */
+export function cellsSelected({ startContainer, startOffset, endContainer, endOffset }) {
+  if (startOffset !== 0 || !isCell(startContainer) || !isCell(endContainer)) return null;
+  if (!hasAdditions() || endOffset !== endContainer.childNodes.length) return null;
+  const [first, last] = /** @type {HTMLTableCellElement[]} */ ([startContainer, endContainer]);
+  const table = first.closest('TABLE');
+  const isOne = first === last;
+  if (table !== last.closest('TABLE') || (isOne && !endOffset)) return null;
+  const grid = gridOf(/** @type {HTMLTableElement} */ (table));
+  return { grid, rectangle: rectangleOf(grid, [placeOf(grid, first), placeOf(grid, last)]) };
+}
+
+/**
+ * Selects the cells of the rectangle from one cell to another one.
+ * @param {Element} from
+ * @param {Element} to where the selection goes on from
+ */
+export function selectCells(from, to) {
+  const isBack = Boolean(from.compareDocumentPosition(to) & Node.DOCUMENT_POSITION_PRECEDING);
+  const [start, end] = isBack ? [from.childNodes.length, 0] : [0, to.childNodes.length];
+  document.getSelection().setBaseAndExtent(from, start, to, end);
+}
+
+selection.readCellsBy((range) => {
+  const found = cellsSelected(range);
+  const isObject = found && range.startContainer === range.endContainer && selection.control(range);
+  return found && !isObject ? placesIn(found.grid, found.rectangle).map(({ cell }) => cell) : null;
+});

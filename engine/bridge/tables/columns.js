@@ -169,6 +169,25 @@ export function putWidth(element, width) {
   else element.setAttribute('width', width.replace(/px$/, ''));
 }
 
+/** @param {HTMLElement} element */
+const saysWidth = (element) => element.style.width !== '' || element.hasAttribute('width');
+/**
+ * The elements that say a column's width, or are to say it: its COL, else its cells that do, else
+ * the first one of them. None where all of its cells reach over other columns too.
+ * @param {Grid} grid
+ * @param {number} at
+ * @returns {HTMLElement[]}
+ */
+export function widthBearers({ table, places }, at) {
+  const cells = places.filter(({ column, width }) => column === at && width === 1)
+    .map(({ cell }) => cell);
+  const said = cells.filter(saysWidth);
+  const col = bearers(table).find(({ element, column, width }) =>
+    column === at && width === 1 && element.tagName === 'COL')?.element;
+  if (col && (saysWidth(col) || !said.length)) return [col, ...said];
+  return said.length ? said : cells.slice(0, 1);
+}
+
 /**
  * Gives all columns the same width: to the COL elements where the table has them, else to the cells
  * of its first row.

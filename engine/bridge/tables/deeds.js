@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // What the commands on tables do with the cells that are chosen, and where the caret is then.
-import { chosenIn, rectangleChosen } from './chosen.js';
+import { chosenIn, rectangleChosen, selectCells } from './chosen.js';
 import { deleteColumns, distributeColumns, insertColumn, moveColumns } from './columns.js';
 import { gridOf, placesIn } from './grid.js';
 import { canMerge, mergeCells, splitCell } from './merging.js';
@@ -120,8 +120,7 @@ export const select = (part) => onCells((grid, chosen) => {
   if (part === 'row') Object.assign(rectangle, { left: 0, right: grid.width - 1 });
   if (part === 'column') Object.assign(rectangle, { top: 0, bottom: grid.height - 1 });
   const places = placesIn(grid, rectangle);
-  const [first, last] = [places[0].cell, places.at(-1).cell];
-  document.getSelection().setBaseAndExtent(first, 0, last, last.childNodes.length);
+  selectCells(places[0].cell, places.at(-1).cell);
 });
 export function selectTable() {
   const chosen = chosenIn(selection.range());

@@ -7,7 +7,7 @@ import { deletionAtCaret } from '../blocks/caretDeletion.js';
 import * as indent from '../blocks/indent.js';
 import { listTagOf } from '../blocks/items.js';
 import * as lists from '../blocks/lists.js';
-import { deleteKeepingLooks } from '../blocks/typing.js';
+import { deleteKeepingLooks, deleteSelected } from '../blocks/typing.js';
 import * as align from '../formats/align.js';
 import { formats } from '../formats/formats.js';
 import * as inline from '../formats/inline.js';
@@ -246,7 +246,7 @@ export const commands = new Map([
     status: always,
     run(value, { range }) {
       if (!range.collapsed) {
-        deleteKeepingLooks(range);
+        deleteSelected(range);
         return;
       }
       const target = selection.ahead();

@@ -19,10 +19,54 @@ export function path() {
   return /** @type {HTMLElement[]} */ (found.reverse());
 }
 
-/** The elements of the path by name, id and classes: "body", "p.intro", "img#logo". */
-export const pathTold = () => path().map((element) =>
-  element.tagName.toLowerCase() + (element.id && `#${element.id}`) +
-  [...element.classList].map((name) => `.${name}`).join(''));
+/**
+ * An element by name, id and classes: "p.intro", "img#logo".
+ * @param {Element} element
+ */
+const nameOf = (element) => element.tagName.toLowerCase() + (element.id && `#${element.id}`) +
+  [...element.classList].map((name) => `.${name}`).join('');
+/** The elements of the path as nameOf has them. */
+export const pathTold = () => path().map(nameOf);
+/**
+ * The names of an element and those around it, from the body inwards.
+ * @param {Element} element
+ */
+export function namesTo(element) {
+  const names = [];
+  for (let at = element; at !== document.documentElement; at = at.parentElement) {
+    names.unshift(nameOf(at));
+  }
+  return names;
+}
+
+// Elements of paths have numbers, by which the program names them: the page may have changed, and
+// the selection moved, between the telling of a path and a choice in it. A document that is loaded
+// later has other ones: it begins with the milliseconds at its load.
+let last = Math.floor(performance.timeOrigin) % 2e9;
+/** @type {WeakMap<Element, number>} */
+const numbers = new WeakMap();
+/** @type {Map<number, WeakRef<HTMLElement>>} */
+const numbered = new Map();
+const most = 2000;
+/** The numbers of the path's elements. */
+export const pathNumbers = () => path().map((element) => {
+  const known = numbers.get(element);
+  if (known && numbered.has(known)) return known;
+  last += 1;
+  numbers.set(element, last);
+  numbered.set(last, new WeakRef(element));
+  // Nobody chooses in a path of long ago.
+  if (numbered.size > most) numbered.delete(numbered.keys().next().value);
+  return last;
+});
+/**
+ * The element of a path with that number; null where it has gone from the page.
+ * @param {number} number
+ */
+export function elementOf(number) {
+  const element = numbered.get(number)?.deref();
+  return element && document.body.contains(element) && dom.isEditable() ? element : null;
+}
 
 // Parts that what is around them cannot do without.
 /** @param {Element} element */
@@ -64,14 +108,14 @@ function deleteAll(element) {
 }
 
 /**
- * Does something to the element of the path with that index: 'select', 'removeTag' or 'delete'. The
+ * Does something to the element of a path with that number: 'select', 'removeTag' or 'delete'. The
  * last two are one step of the history.
- * @param {number} index
+ * @param {number} number
  * @param {'select' | 'removeTag' | 'delete'} deed
  */
-export function actOnPath(index, deed) {
-  const element = path()[index];
-  if (!element || !dom.isEditable()) return;
+export function actOnPath(number, deed) {
+  const element = elementOf(number);
+  if (!element) return;
   if (deed === 'select') select(element);
   else if (deed === 'delete') work(() => history.step('deleteElement', () => deleteAll(element)));
   else if (!isPart(element)) work(() => history.step('removeTag', () => removeTag(element)));
@@ -79,14 +123,14 @@ export function actOnPath(index, deed) {
 }
 
 /**
- * What can be done to the element of the path with that index: whether its tag can be taken off,
+ * What can be done to the element of a path with that number: whether its tag can be taken off,
  * and the classes that the style sheets define for it, with whether it has each.
- * @param {number} index
+ * @param {number} number
  * @returns {{ removable: boolean, classes: [name: string, has: boolean][] }}
  */
-export function choicesOnPath(index) {
-  const element = path()[index];
-  if (!element || !dom.isEditable()) return { removable: false, classes: [] };
+export function choicesOnPath(number) {
+  const element = elementOf(number);
+  if (!element) return { removable: false, classes: [] };
   const { classList } = element;
   return {
     removable: !isPart(element),
@@ -99,7 +143,7 @@ export function choicesOnPath(index) {
 function alike(element) {
   const found = new Set([element]);
   const selected = selection.range();
-  if (!selected || selected.collapsed) return found;
+  if (!selected || selected.collapsed || !selected.intersectsNode(element)) return found;
   const { startContainer, startOffset, endContainer, endOffset } = selected;
   for (const leaf of selection.leavesIn(selected)) {
     if (leaf === endContainer && endOffset === 0) continue;
@@ -111,15 +155,15 @@ function alike(element) {
 }
 
 /**
- * Gives a class to the element of the path with that index and to those of its name that are
+ * Gives a class to the element of a path with that number and to those of its name that are
  * selected with it, or takes it off them; one step of the history.
- * @param {number} index
+ * @param {number} number
  * @param {string} name
  * @param {boolean} on
  */
-export function setClassOnPath(index, name, on) {
-  const element = path()[index];
-  if (!element || !dom.isEditable()) return;
+export function setClassOnPath(number, name, on) {
+  const element = elementOf(number);
+  if (!element) return;
   work(() => history.step('setClass', () => {
     for (const each of alike(element)) {
       const others = [...each.classList].filter((one) => one !== name);

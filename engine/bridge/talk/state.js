@@ -3,9 +3,13 @@
 // What the program shows of the selection: the status of every command, the values of five queries,
 // the kind of selection and the element at its start.
 import { linkOf } from '../formats/links.js';
+import { subjectOf } from '../objects/layers.js';
+import * as objects from '../objects/objects.js';
+import { hasAdditions } from '../page/additions.js';
 import * as selection from '../page/selection.js';
+import { cellsSelected } from '../tables/chosen.js';
 import { commands as table, queryValue, readView, statusOf } from './commands.js';
-import { pathTold } from './path.js';
+import { pathNumbers, pathTold } from './path.js';
 import { Command } from './vocabulary.js';
 
 const values = {
@@ -37,6 +41,23 @@ function pictureTold(object) {
   return { pixels: [naturalWidth, naturalHeight], shown: [width, height] };
 }
 
+// The rectangle of the cells that are selected as such: its first column and row, and its last.
+/** @param {View} view */
+function cellsTold({ range }) {
+  if (!range || range.collapsed || !selection.cellsIn(range)) return [];
+  const { top, left, bottom, right } = cellsSelected(range).rectangle;
+  return [left, top, right, bottom];
+}
+
+// Where an object out of the flow is, and how large, in its pixels.
+/** @param {View} view */
+function placeTold(view) {
+  const object = subjectOf(view);
+  if (!object || !hasAdditions() || !objects.isMovable(object)) return [];
+  const { left, top, width, height } = objects.measure(object);
+  return [left, top, width, height].map(Math.round);
+}
+
 /**
  * The state of the selection now; push.js adds the rest of it.
  * @returns {Omit<State, 'version' | 'dirty' | 'generation'>}
@@ -49,5 +70,6 @@ export const state = () => {
   const read = Object.entries(values).map(([name, number]) => [name, queryValue(number, view)]);
   return { commands, ...Object.fromEntries(read), selection: kind(view),
     element: told(selection.element()), link: told(linkOf(view)),
-    picture: pictureTold(view.object), path: pathTold() };
+    picture: pictureTold(view.object), cells: cellsTold(view),
+    place: placeTold(view), path: pathTold(), pathNumbers: pathNumbers() };
 };

@@ -104,6 +104,32 @@ TEST_F(PathBarTest, ANarrowWindowListsTheOuterElementsBehindAButton) {
   EXPECT_EQ(PathCalls(), QStringList("ActOnPath(0, 0)"));
 }
 
+TEST_F(PathBarTest, AnOpenMenuKeepsItsElementWhenAnotherPathIsShown) {
+  component.pathElements = {7, 8, 9, 10, 11, 12};
+  QMenu &menu = MenuOf("path_4");
+  component.elementPath = QStringList({"body", "ul", "li", "p", "i"});
+  component.pathElements = {7, 20, 21, 22, 23};
+  component.ChangeDisplay();
+  ItemOf(menu, "pathDelete")->trigger();
+  EXPECT_EQ(PathCalls(), QStringList("ActOnPath(11, 2)"));
+}
+
+TEST_F(PathBarTest, TheStatusBarTellsTheSelectedCellsAndTheObjectsPlace) {
+  auto *measures = Find<QLabel>("measures");
+  EXPECT_FALSE(measures->isVisible());
+  component.selectedCells = QRect(QPoint(1, 0), QPoint(2, 4));
+  component.ChangeDisplay();
+  EXPECT_EQ(measures->text(), QStringLiteral("Rows 1-5, columns 2-3"));
+  EXPECT_TRUE(measures->isVisible());
+  component.selectedCells = {};
+  component.objectPlace = QRect(210, 120, 150, 60);
+  component.ChangeDisplay();
+  EXPECT_EQ(measures->text(), QStringLiteral("Left 210, top 120, size 150 × 60"));
+  component.objectPlace = {};
+  component.ChangeDisplay();
+  EXPECT_FALSE(measures->isVisible());
+}
+
 TEST_F(PathBarTest, AClickSelectsTheElementAndLeavesTheKeyboardInThePage) {
   const QWidget *before = QApplication::focusWidget();
   QTest::mouseClick(Find<QToolButton>("path_1"), Qt::LeftButton);

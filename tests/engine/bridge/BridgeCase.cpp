@@ -168,14 +168,15 @@ void Perform(BridgePage &page, const QString &step) {
     page.Evaluate(QStringLiteral("velor.setProperties(%1, Object.fromEntries(%2))")
                       .arg(ScriptText(value.section(u' ', 0, 0)), PairsOf(value.section(u' ', 1))));
   } else if (verb == QStringLiteral("path")) {
-    page.Evaluate(QStringLiteral("velor.actOnPath(%1, %2)")
+    page.Evaluate(QStringLiteral("velor.actOnPath(velor.state().pathNumbers[%1], %2)")
                       .arg(value.section(u' ', 0, 0), ScriptText(value.section(u' ', 1))));
   } else if (verb == QStringLiteral("class")) {
-    page.Evaluate(QStringLiteral("velor.setClassOnPath(%1, %2, %3)")
+    page.Evaluate(QStringLiteral("velor.setClassOnPath(velor.state().pathNumbers[%1], %2, %3)")
                       .arg(value.section(u' ', 0, 0), ScriptText(value.section(u' ', 1, 1)),
                            value.section(u' ', 2)));
   } else if (verb == QStringLiteral("element")) {
-    page.Evaluate(QStringLiteral("velor.setProperties('element', Object.fromEntries(%2), %1)")
+    page.Evaluate(QStringLiteral("velor.setProperties('element', Object.fromEntries(%2), "
+                                 "velor.state().pathNumbers[%1])")
                       .arg(value.section(u' ', 0, 0), PairsOf(value.section(u' ', 1))));
   } else if (verb == QStringLiteral("bookmark")) {
     page.Evaluate(QStringLiteral("velor.setBookmark(%1)").arg(ScriptText(value)));

@@ -80,13 +80,34 @@ TEST_F(Bridge, TellsTheClassesThatStyleSheetsDefineForAnElementInItsPlace) {
                      ".box > p:not(.no)[title=\".x\"].titled, .box p.a.b { top: 0 }"
                      ".\\31 st, .off p.far { top: 0 } p { } .box { }</style>"
                      "<div class=\"box\"><p class=\"any x\" title=\".x\">a <b>b|</b></p></div>"));
-  EXPECT_EQ(Text(QStringLiteral("JSON.stringify(velor.choicesOnPath(2))")).toStdString(),
-            "{\"removable\":true,\"classes\":[[\"1st\",false],[\"a\",false],"
-            "[\"any\",true],[\"b\",false],[\"box\",false],[\"intro\",false],"
-            "[\"paper\",false],[\"titled\",false]]}");
-  EXPECT_EQ(Text(QStringLiteral("JSON.stringify(velor.choicesOnPath(0))")).toStdString(),
-            "{\"removable\":false,"
-            "\"classes\":[[\"1st\",false],[\"any\",false],[\"box\",false]]}");
+  EXPECT_EQ(
+      Text(QStringLiteral("JSON.stringify(velor.choicesOnPath(velor.state().pathNumbers[2]))"))
+          .toStdString(),
+      "{\"removable\":true,\"classes\":[[\"1st\",false],[\"a\",false],"
+      "[\"any\",true],[\"b\",false],[\"box\",false],[\"intro\",false],"
+      "[\"paper\",false],[\"titled\",false]]}");
+  EXPECT_EQ(
+      Text(QStringLiteral("JSON.stringify(velor.choicesOnPath(velor.state().pathNumbers[0]))"))
+          .toStdString(),
+      "{\"removable\":false,"
+      "\"classes\":[[\"1st\",false],[\"any\",false],[\"box\",false]]}");
+}
+
+TEST_F(Bridge, AnElementOfAPathIsTheSameOneAfterAMoveAndRefusedWhenItHasGone) {
+  Load(QStringLiteral("<p class=\"one\">a|</p><p class=\"two\">b</p>"));
+  Evaluate(
+      QStringLiteral("globalThis.number = velor.state().pathNumbers[1];"
+                     "getSelection().collapse(document.querySelector('.two').firstChild, 1)"));
+  Evaluate(QStringLiteral("velor.setClassOnPath(number, 'x', true)"));
+  EXPECT_EQ(Text(QStringLiteral("document.querySelector('.x').textContent")), QStringLiteral("a"));
+  EXPECT_EQ(Text(QStringLiteral("velor.properties('element', number).path")),
+            QStringLiteral("body › p.one.x"));
+  Evaluate(
+      QStringLiteral("document.querySelector('.one').remove();"
+                     "velor.actOnPath(number, 'delete')"));
+  EXPECT_EQ(Text(QStringLiteral("document.body.textContent")), QStringLiteral("b"));
+  EXPECT_EQ(Text(QStringLiteral("JSON.stringify(velor.properties('element', number))")),
+            QStringLiteral("{}"));
 }
 
 TEST_F(Bridge, PushesAfterAMoveOfTheSelectionWithoutTheMarkup) {

@@ -118,6 +118,59 @@ TEST_F(ObjectDrags, ArrowKeysMoveABoxToTheNextLineOfTheGridWhenItSnaps) {
   EXPECT_EQ(Text(left), QStringLiteral("299px"));
 }
 
+TEST_F(ObjectDrags, ControlAndAnArrowKeyMoveABoxToTheNextLineOfTheGridWhenItDoesNotSnap) {
+  Load(QString::fromLatin1(Box));
+  page_.Click({250, 150});
+  ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));
+  const QString left = QStringLiteral("document.querySelector('div').style.left");
+  page_.Press(QKeySequence(Qt::CTRL | Qt::Key_Right));
+  EXPECT_EQ(Text(left), QStringLiteral("250px"));
+  Evaluate(QStringLiteral("velor.start({ additions: false })"));
+  page_.Press(QKeySequence(Qt::CTRL | Qt::Key_Right));
+  EXPECT_EQ(Text(left), QStringLiteral("251px"));
+}
+
+const auto *const TwoBoxes =
+    "<div style=\"position: absolute; left: 13px; top: 17px; width: 90px; height: 40px\">a</div>"
+    "<div style=\"position: absolute; left: 210px; top: 120px; width: 50px; height: 60px\">b</div>";
+const auto *const LinesAcross =
+    "getComputedStyle(document.head, '::after').backgroundSize.split(', ')"
+    ".filter((size) => size.startsWith('1px 600px') || size === '1px ' + innerHeight + "
+    "'px').length";
+
+TEST_F(ObjectDrags, ABoxInLineWithAnotherOneHasAGuide) {
+  Load(QString::fromLatin1(TwoBoxes));
+  page_.Button(QEvent::MouseButtonPress, {230, 150});
+  page_.Move({130, 150}, Qt::LeftButton);
+  EXPECT_TRUE(
+      Comes(QStringLiteral("document.querySelectorAll('div')[1].getBoundingClientRect().left"
+                           " === 110")));
+  EXPECT_EQ(Evaluate(QString::fromLatin1(LinesAcross)).toInt(), 0);
+  // The right edges of both are at 103 pixels.
+  page_.Move({73, 150}, Qt::LeftButton);
+  EXPECT_TRUE(Comes(QString::fromLatin1(LinesAcross) + QStringLiteral(" === 1")));
+  EXPECT_EQ(Body(), loaded_);
+  page_.Button(QEvent::MouseButtonRelease, {73, 150});
+  EXPECT_TRUE(Comes(QStringLiteral("document.querySelectorAll('div')[1].style.left === '53px'")));
+}
+
+TEST_F(ObjectDrags, ASnappingBoxIsDrawnToTheGuidesNearItAndElseToTheGrid) {
+  Load(QString::fromLatin1(TwoBoxes));
+  Evaluate(QStringLiteral("velor.setSnap(true)"));
+  Drag({230, 150}, {37, 239});
+  const QString place = QStringLiteral(
+      "(({ left, top }) => left + ' ' + top)(document.querySelectorAll('div')[1].style)");
+  EXPECT_TRUE(Comes(place + QStringLiteral(" === '13px 200px'"))) << qPrintable(Text(place));
+}
+
+TEST_F(ObjectDrags, TheStateTellsThePlaceOfABox) {
+  Load(QString::fromLatin1(Box));
+  EXPECT_EQ(Text(QStringLiteral("String(velor.state().place)")), QString());
+  page_.Click({250, 150});
+  ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));
+  EXPECT_EQ(Text(QStringLiteral("String(velor.state().place)")), QStringLiteral("210,120,150,60"));
+}
+
 TEST_F(ObjectDrags, ACornerKeepsTheRatioOfThePictureUnlessShiftIsHeld) {
   Load(QStringLiteral("<img style=\"display: block\" width=\"100\" height=\"50\" alt=\"\">"));
   Evaluate(QStringLiteral("inside.selection.selectNode(document.querySelector('img'))"));

@@ -12,7 +12,9 @@ import * as history from '../../../engine/bridge/page/history.js';
 import * as beside from '../../../engine/bridge/page/beside.js';
 import * as selection from '../../../engine/bridge/page/selection.js';
 import * as standIns from '../../../engine/bridge/page/standIns.js';
+import * as chosen from '../../../engine/bridge/tables/chosen.js';
 import * as columns from '../../../engine/bridge/tables/columns.js';
+import * as filling from '../../../engine/bridge/tables/filling.js';
 import * as grid from '../../../engine/bridge/tables/grid.js';
 import * as merging from '../../../engine/bridge/tables/merging.js';
 import * as rows from '../../../engine/bridge/tables/rows.js';
@@ -22,6 +24,7 @@ import { Command, Status } from '../../../engine/bridge/talk/vocabulary.js';
 
 globalThis.inside = {
   beside, blockFormats, commands, dividePiecesOver, dom, extent, glyphs, history, insert,
-  isWithin, selection, standIns, statusOf, tables: { ...grid, ...rows, ...columns, ...merging },
+  isWithin, selection, standIns, statusOf, 
+  tables: { ...chosen, ...filling, ...grid, ...rows, ...columns, ...merging },
   Command, Status,
 };

@@ -76,11 +76,29 @@
     return cols && cols !== width ? `${cols} COL of ${width} columns` : '';
   }
 
+  globalThis.tables = { faultOf, markup: () => tableAtRandom().outerHTML };
+
   const textOf = (table) => [...table.querySelectorAll('td, th')]
     .map((cell) => cell.textContent).join('').replace(/w/g, ' w').trim();
   const sorted = (text) => text.split(' ').sort().join(' ');
 
-  // Each change with whether the words stay as they are (1), stay in another order (0), or go (-1).
+  // What was put into a table last: its words, and the rectangle that they went to.
+  let filled = { words: [], area: { top: 0, left: 0, bottom: 0, right: 0 } };
+  function fill(grid, rectangle) {
+    const source = tables.gridOf(tableAtRandom());
+    const { top, left } = rectangle;
+    filled = {
+      words: textOf(source.table).split(' ').filter(Boolean),
+      area: source.places.length === 1 ? rectangle
+        : { top, left, bottom: top + source.height - 1, right: left + source.width - 1 },
+    };
+    tables.fillCells(grid, rectangle, source);
+  }
+  const isFilled = ({ row, column }) => row >= filled.area.top && row <= filled.area.bottom &&
+    column >= filled.area.left && column <= filled.area.right;
+
+  // Each change with whether the words stay as they are (1), stay in another order (0), go (-1), or
+  // some go and others come (2).
   const changes = {
     rowBehind: [1, (grid, { bottom }) => tables.insertRow(grid, bottom, 'behind')],
     rowBefore: [1, (grid, { top }) => tables.insertRow(grid, top, 'before')],
@@ -108,6 +126,7 @@
     rowDown: [0, (grid, rectangle) => tables.moveRows(grid, rectangle, 1)],
     columnLeft: [0, (grid, rectangle) => tables.moveColumns(grid, rectangle, -1)],
     columnRight: [0, (grid, rectangle) => tables.moveColumns(grid, rectangle, 1)],
+    fill: [2, fill],
     distribute: [1, (grid) => tables.distributeColumns(grid)],
   };
   const done = new Map();
@@ -119,14 +138,22 @@
     const before = table.outerHTML;
     const text = textOf(table);
     const chosen = tables.placesIn(grid, rectangle).map(({ cell }) => cell);
-    const outside = [...table.querySelectorAll('td, th')].filter((cell) => !chosen.includes(cell))
-      .map((cell) => [cell, cell.innerHTML]);
+    const all = grid.places.map((place) => ({ ...place, content: place.cell.innerHTML }));
     change(grid, rectangle);
+    const outside = all.filter((place) =>
+      !(keeps === 2 ? isFilled(place) : chosen.includes(place.cell)))
+      .map(({ cell, content }) => /** @type {const} */ ([cell, content]));
     if (table.outerHTML !== before) done.set(name, (done.get(name) ?? 0) + 1);
     const now = textOf(table);
     const faults = [faultOf(table)];
     if (keeps === 1 && now !== text) faults.push('words are other ones');
     if (keeps === 0 && sorted(now) !== sorted(text)) faults.push('words are gone or added');
+    if (keeps === 2 && !filled.words.every((word) => now.split(' ').includes(word))) {
+      faults.push('a word that was put in is not there');
+    }
+    if (keeps === 2 && outside.some(([cell]) => !table.contains(cell))) {
+      faults.push('a cell outside is gone');
+    }
     const isWithin = ({ cell, row, column, height, width }) => cell.isConnected ||
       (name === 'deleteRows' && row >= rectangle.top && row + height - 1 <= rectangle.bottom) ||
       (name === 'deleteColumns' && column >= rectangle.left &&
