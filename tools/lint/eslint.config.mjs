@@ -41,7 +41,8 @@ export default [
     ...scripts(['tests/engine/bridge/*.js', 'tools/**/*.js'], 'script',
       {
         ...globals.browser,
-        ...written('inside', 'markup', 'pages', 'source', 'sweep', 'velor', 'walk', 'work'),
+        ...written('inside', 'markup', 'pages', 'source', 'sweep', 'tables', 'velor', 'walk',
+          'work'),
       }),
     ignores: modules,
   },

@@ -261,10 +261,8 @@ function putInline(fragment, node, offset) {
 /** @param {ParentNode} fragment */
 const holdsBlock = (fragment) => [...fragment.querySelectorAll('*')].some(dom.isBlock);
 
-/**
- * Drops ids that the page has: none may be in it twice.
- * @param {DocumentFragment} fragment
- */
+// Drops ids that the page has: none may be in it twice.
+/** @param {DocumentFragment} fragment */
 export function dropTakenIds(fragment) {
   for (const element of fragment.querySelectorAll('[id]')) {
     if (document.getElementById(element.id)) element.removeAttribute('id');

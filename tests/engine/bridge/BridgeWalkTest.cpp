@@ -26,7 +26,7 @@ class BridgeWalk : public ::testing::TestWithParam<Dialect> {
  protected:
   BridgeWalk()
       : scripts_(TestScript("pages.js") + TestScript("source.js") + TestScript("walk.js") +
-                 TestScript("moves.js")) {}
+                 TestScript("moves.js") + TestScript("tables.js") + TestScript("deeds.js")) {}
 
   QString Text(const QString &expression) { return page_.Evaluate(expression).toString(); }
   void Begin(int seed, bool withKeys) {
@@ -72,6 +72,17 @@ TEST_P(BridgeWalk, WhatWasCutOrDeletedComesBackWithItsWordsBlanksAndLines) {
   for (int seed = FirstSeed(); seed < FirstSeed() + Pages(60); ++seed) {
     Begin(seed, false);
     const QString fault = Text(QStringLiteral("moves.run(%1)").arg(StepsAPage));
+    EXPECT_EQ(fault.toStdString(), "") << "seed " << seed;
+  }
+}
+
+TEST_P(BridgeWalk, TablesPositionsPathAndPropertiesKeepTheWordsTheGridsAndTheWayBack) {
+  for (int seed = FirstSeed(); seed < FirstSeed() + Pages(30); ++seed) {
+    Begin(seed, false);
+    page_.Evaluate(
+        QStringLiteral("document.body.insertAdjacentHTML('beforeend', tables.markup());"
+                       "velor.start()"));
+    const QString fault = Text(QStringLiteral("deeds.rush(%1)").arg(StepsAPage));
     EXPECT_EQ(fault.toStdString(), "") << "seed " << seed;
   }
 }
