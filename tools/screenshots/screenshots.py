@@ -168,16 +168,27 @@ src="data:image/svg+xml,%3Csvg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 1
 """
 
 
+CELLS = """<!DOCTYPE html>
+<html><head><title>Cells</title></head><body style="margin: 20px">
+<table border="1" cellpadding="8" style="border-collapse: collapse">
+<tr><th width="150">Fruit</th><th width="150">Boxes</th><th width="150">Price</th></tr>
+<tr><td>Apples</td><td>12</td><td>3.50</td></tr>
+<tr><td>Pears</td><td>7</td><td>4.20</td></tr>
+<tr><td>Plums</td><td>21</td><td>2.90</td></tr></table>
+</body></html>
+"""
+
+
 def objects(photos):
-    """A read-only page, selected objects with their handles, a box on its way over the grid, the
-    details."""
+    """A read-only page, selected objects with their handles, a box on its way over the grid with
+    its guides, the details, selected cells, an edge between columns on its way."""
     program = photos.program
     photos.dialog(lambda: program.key("ctrl+o"), "file-dialog", ("Cancel",))
 
-    def open_page(name, mode, caption):
+    def open_page(name, mode, caption, markup=OBJECTS):
         path = os.path.join(program.folder, name)
         with open(path, "w", encoding="utf-8") as page:
-            page.write(OBJECTS)
+            page.write(markup)
         os.chmod(path, mode)
         program.key("ctrl+o")
         dialog = program.wait(None, "dialog|file chooser")
@@ -211,7 +222,8 @@ def objects(photos):
     program.hold(*at(700, 60))
     program.move(*at(660, 90))
     program.move(*at(640, 110))
-    edge = at(550.5, 75)
+    # The guides draw it to the right edge of the text and to the picture's middle.
+    edge = at(540.5, 75)
     wait_for(lambda: program.colour(*edge) != program.colour(*at(560, 75)), "the box on the grid")
     photos.shot("box-on-grid")
     program.release()
@@ -220,6 +232,22 @@ def objects(photos):
     photos.away()
     wait_for(lambda: program.colour(*at(40.5, 167)) != program.colour(*at(900, 400)), "the details")
     photos.shot("details")
+    program.press("Show Detail", within=program.wait("objects.htm", "frame"))
+    open_page("cells.htm", 0o644, "cells.htm", CELLS)
+    plain = program.colour(*at(150, 85))
+    program.hold(*at(60, 75))
+    program.move(*at(200, 90))
+    program.move(*at(260, 120))
+    program.release()
+    wait_for(lambda: program.colour(*at(150, 85)) != plain, "the selected cells")
+    photos.shot("cells")
+    program.click(*at(60, 75))
+    program.hold(*at(188, 75))
+    program.move(*at(210, 75))
+    program.move(*at(230, 75))
+    photos.shot("column-edge")
+    program.release()
+    program.key("ctrl+z")
 
 
 def dialogs(photos):
