@@ -6,6 +6,7 @@
 #include "chrome/cControlFlater.h"
 #include "qt/QtWindowSystem.h"
 #include "tests/support/Checks.h"
+#include "tests/support/Waiting.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -69,7 +70,7 @@ class FlatWidgetsTest : public ::testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     window.activateWindow();
     window.setFocus();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return window.hasFocus(); }));
+    ASSERT_TRUE(WaitFor([this] { return window.hasFocus(); }));
     QCoreApplication::processEvents();
   }
 
@@ -83,7 +84,7 @@ class FlatWidgetsTest : public ::testing::Test {
 
   /// Waits until a pixel of the window, on the screen too, has the colour.
   bool Becomes(QPoint at, QRgb color) {
-    return QTest::qWaitFor([&] { return Shown().pixel(at) == color; });
+    return WaitFor([&] { return Shown().pixel(at) == color; });
   }
 
   static void Hover(QWidget &widget) {

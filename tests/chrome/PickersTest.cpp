@@ -2,6 +2,7 @@
 #include "chrome/ColorPalette.h"
 #include "chrome/ColorPicker.h"
 #include "chrome/FontPicker.h"
+#include "tests/support/Waiting.h"
 
 #include <QColorDialog>
 #include <QLineEdit>
@@ -78,7 +79,7 @@ TEST_F(ColorPickerTest, AColourSetByTheProgramTellsNobody) {
 TEST_F(ColorPickerTest, TheKeyboardWalksThePaletteAndChooses) {
   picker.SetColor(0);
   picker.click();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return picker.Panel().focusWidget() != nullptr; }));
+  ASSERT_TRUE(WaitFor([&] { return picker.Panel().focusWidget() != nullptr; }));
   QTest::keyClick(&picker.Panel(), Qt::Key_Down);   // from black to dark red
   QTest::keyClick(&picker.Panel(), Qt::Key_Right);  // orange
   QTest::keyClick(&picker.Panel(), Qt::Key_Return);
@@ -98,7 +99,7 @@ TEST_F(ColorPickerTest, KeepsTheLastEightColoursTheLatestFirst) {
     Field(picker, QString::fromLatin1(PaletteColors()[i].name))->click();
   }
   Field(picker, QStringLiteral("Dark teal"))->click();  // chosen before: moves to the front
-  ASSERT_TRUE(QTest::qWaitFor([&] { return FieldNames(picker).size() == 48; }));
+  ASSERT_TRUE(WaitFor([&] { return FieldNames(picker).size() == 48; }));
   const QStringList recent = FieldNames(picker).mid(40);
   EXPECT_EQ(recent.front(), QStringLiteral("#003366"));
   EXPECT_EQ(recent.at(1), QStringLiteral("#FF6600"));

@@ -4,6 +4,7 @@
 #include "tests/support/Checks.h"
 #include "tests/support/FakeRuntime.h"
 #include "tests/support/Forms.h"
+#include "tests/support/Waiting.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -82,7 +83,7 @@ class frmAboutTest : public ::testing::Test {
   }
 
   bool Draws(int squares) {
-    return QTest::qWaitFor([&] { return DrawnSquares() == squares; });
+    return WaitFor([&] { return DrawnSquares() == squares; });
   }
 
   CallLog log;
@@ -198,7 +199,7 @@ TEST_F(frmAboutTest, StepsWithTheClockAlone) {
   int waited = 0;
   QObject::connect(&passes, &QTimer::timeout, [&] { ++waited; });
   passes.start(52);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return waited >= 3; }));
+  ASSERT_TRUE(WaitFor([&] { return waited >= 3; }));
   EXPECT_EQ(DrawnSquares(), 1);
 }
 
@@ -213,7 +214,7 @@ TEST_F(frmAboutTest, TakesLessThanTwoHundredthsOfAProcessor) {
   });
   seconds.start(52);
   const std::clock_t before = std::clock();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return steps >= 40; }));
+  ASSERT_TRUE(WaitFor([&] { return steps >= 40; }));
   const double used = static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
   EXPECT_LT(used / (40 * 0.052), 0.02);
 }
@@ -233,7 +234,7 @@ TEST_F(frmAboutTest, EndsAtOnceWhenItIsClosedInTheMiddle) {
     ++waited;
   });
   passes.start(52);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return waited >= 3; }));
+  ASSERT_TRUE(WaitFor([&] { return waited >= 3; }));
   EXPECT_EQ(pattern->grab().toImage(), last);
   delete closing;
 }

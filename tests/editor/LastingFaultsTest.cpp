@@ -4,9 +4,9 @@
 #include "editor/OutsideChanges.h"
 #include "editor/PagesAtExit.h"
 #include "tests/editor/Sitting.h"
+#include "tests/support/Waiting.h"
 
 #include <QPushButton>
-#include <QTest>
 
 #include <functional>
 #include <memory>
@@ -117,7 +117,7 @@ TEST_F(LastingFaults, AFileTakenInThePlaceOfAChangedPageComesOnlyWhenThePagesTex
     Write(page_, Theirs);
     run->watches.Change(ToLogic(page_));
     OutsideChanges &bar = run->Page().Outside();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.isVisibleTo(&run->Page()); }));
+    ASSERT_TRUE(WaitFor([&] { return bar.isVisibleTo(&run->Page()); }));
     failAt();
     try {
       bar.findChild<QPushButton *>(QStringLiteral("cmdTakeTheirs"))->click();

@@ -2,10 +2,10 @@
 #include "app/settings/modSettingManager.h"
 #include "editor/modWorkFlow.h"
 #include "tests/editor/EditorWorld.h"
+#include "tests/support/Waiting.h"
 
 #include <QAction>
 #include <QStackedLayout>
-#include <QTest>
 #include <QToolBar>
 
 namespace velor {
@@ -232,8 +232,8 @@ TEST_F(ModesTest, ATruthValueThatIsNoneIsToldOnceARunWithItsSettingAndFile) {
   EXPECT_TRUE(Component(1).SnapToGrid());
   EXPECT_TRUE(Component(1).ShowDetails());
   New();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !dialogs.messages.empty(); }));
-  EXPECT_FALSE(QTest::qWaitFor([&] { return dialogs.messages.size() > 1; }, 50));
+  EXPECT_TRUE(WaitFor([&] { return !dialogs.messages.empty(); }));
+  EXPECT_FALSE(WaitFor([&] { return dialogs.messages.size() > 1; }, 50));
   EXPECT_EQ(dialogs.messages[0].icon, MessageIcon::Critical);
 }
 

@@ -7,6 +7,7 @@
 #include "tests/support/FakeFileWatches.h"
 #include "tests/support/FakeJournals.h"
 #include "tests/support/KeyboardWalk.h"
+#include "tests/support/Waiting.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -36,13 +37,13 @@ class OutsideChangesTest : public EditorWorld {
   void MeetAtTheBar() {
     Component(1).Edit(Mine);
     WriteOutside();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !Page(1).Outside().isHidden(); }));
+    ASSERT_TRUE(WaitFor([&] { return !Page(1).Outside().isHidden(); }));
   }
   void Press(const char *button) {
     Page(1).Outside().findChild<QPushButton *>(QString::fromLatin1(button))->click();
   }
   bool IsSaid(const QString &words) {
-    return QTest::qWaitFor(
+    return WaitFor(
         [&] { return !mainWindow.reports.isEmpty() && mainWindow.reports.back().contains(words); });
   }
   QString Document() { return Component(1).Memory().document; }
@@ -92,7 +93,7 @@ TEST_F(OutsideChangesTest, SourceThatWasNotAppliedCountsAsAChange) {
   Page(1).ChangeMode(3);
   Code(1).SetText(QStringLiteral("<p>typed</p>"));
   WriteOutside();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !Page(1).Outside().isHidden(); }));
+  EXPECT_TRUE(WaitFor([&] { return !Page(1).Outside().isHidden(); }));
   EXPECT_EQ(Code(1).Text(), QStringLiteral("<p>typed</p>"));
 }
 

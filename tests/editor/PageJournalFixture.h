@@ -5,8 +5,7 @@
 #include "editor/modWorkFlow.h"
 #include "tests/editor/EditorWorld.h"
 #include "tests/support/FakeJournals.h"
-
-#include <QTest>
+#include "tests/support/Waiting.h"
 
 namespace velor {
 
@@ -27,7 +26,7 @@ class PageJournals : public EditorWorld {
     return !written.empty() && written.back().page.document == document;
   }
   bool ComesToBeWritten(const QString &document) const {
-    return QTest::qWaitFor([&] { return IsWritten(document); }, LongestDelay);
+    return WaitFor([&] { return IsWritten(document); }, LongestDelay);
   }
   void Change(int number, const QString &document = Changed) {
     Component(number).Edit(document);

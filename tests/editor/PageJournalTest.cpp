@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // When a page's changes are journalled, and when the journal goes.
 #include "tests/editor/PageJournalFixture.h"
+#include "tests/support/Waiting.h"
 
 namespace velor {
 namespace {
@@ -10,7 +11,7 @@ TEST_F(PageJournals, AnUnchangedPageHasNone) {
   New();
   Component(1).ChangeDisplay();
   Component(1).Edit(Component(1).Memory().document);
-  EXPECT_FALSE(QTest::qWaitFor([&] { return !IsEmpty(); }, LongestDelay));
+  EXPECT_FALSE(WaitFor([&] { return !IsEmpty(); }, LongestDelay));
 }
 
 TEST_F(PageJournals, AChangeIsWrittenWithThePageItBelongsTo) {
@@ -36,7 +37,7 @@ TEST_F(PageJournals, WhoeverTypesOnWithoutAPauseIsWrittenInTime) {
   QElapsedTimer typing;
   typing.start();
   int keys = 0;
-  ASSERT_TRUE(QTest::qWaitFor(
+  ASSERT_TRUE(WaitFor(
       [&] {
         Component(1).Edit(QStringLiteral("<p>%1</p>").arg(++keys));
         return !IsEmpty();
@@ -49,7 +50,7 @@ TEST_F(PageJournals, ItGoesToTheDiskInAPause) {
   Open(IndexFile);
   Component(1).isIdle = true;
   Change(1);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return journals.compactings > 0; }, LongestDelay));
+  EXPECT_TRUE(WaitFor([&] { return journals.compactings > 0; }, LongestDelay));
 }
 
 TEST_F(PageJournals, ItGoesToTheDiskBetweenKeysWhereNobodyPauses) {
@@ -58,7 +59,7 @@ TEST_F(PageJournals, ItGoesToTheDiskBetweenKeysWhereNobodyPauses) {
   int keys = 0;
   QElapsedTimer typing;
   typing.start();
-  EXPECT_TRUE(QTest::qWaitFor(
+  EXPECT_TRUE(WaitFor(
       [&] {
         Component(1).Edit(QStringLiteral("<p>%1</p>").arg(++keys));
         return journals.syncs > 1;
@@ -71,7 +72,7 @@ TEST_F(PageJournals, ItGoesToTheDiskBetweenKeysWhereNobodyPauses) {
 TEST_F(PageJournals, ItDoesNotGoToTheDiskWhileAKeyIsOnItsWay) {
   Open(IndexFile);
   int keys = 0;
-  EXPECT_FALSE(QTest::qWaitFor(
+  EXPECT_FALSE(WaitFor(
       [&] {
         Component(1).Edit(QStringLiteral("<p>%1</p>").arg(++keys));
         return journals.syncs + journals.compactings > 0;
@@ -84,8 +85,8 @@ TEST_F(PageJournals, WhatIsOnTheDiskIsNotBroughtThereAgain) {
   Open(IndexFile);
   Component(1).isIdle = true;
   Change(1);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return journals.compactings > 0; }, LongestDelay));
-  EXPECT_FALSE(QTest::qWaitFor(
+  ASSERT_TRUE(WaitFor([&] { return journals.compactings > 0; }, LongestDelay));
+  EXPECT_FALSE(WaitFor(
       [&] {
         Component(1).Edit(Changed);
         return journals.syncs > 0;
@@ -97,7 +98,7 @@ TEST_F(PageJournals, AChangeTakenBackEndsIt) {
   Open(IndexFile);
   Change(1);
   Component(1).Edit(QStringLiteral("<p>a</p>"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return IsEmpty(); }, LongestDelay));
+  EXPECT_TRUE(WaitFor([&] { return IsEmpty(); }, LongestDelay));
 }
 
 TEST_F(PageJournals, ASaveEndsItAndTheNextChangeBeginsAnother) {
@@ -221,11 +222,11 @@ TEST_F(PageJournals, AJournalThatCannotBeWrittenIsToldOnce) {
   Open(IndexFile);
   journals.writeFailure = ErrorNumber::DiskFull;
   Component(1).Edit(Changed);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !mainWindow.reports.isEmpty(); }, LongestDelay));
+  ASSERT_TRUE(WaitFor([&] { return !mainWindow.reports.isEmpty(); }, LongestDelay));
   EXPECT_TRUE(mainWindow.reports[0].startsWith(
       QStringLiteral("The changes of index.htm could not be kept for a recovery: ")));
   Component(1).Edit(QStringLiteral("<p>more</p>"));
-  EXPECT_FALSE(QTest::qWaitFor([&] { return mainWindow.reports.size() > 1; }, LongestDelay));
+  EXPECT_FALSE(WaitFor([&] { return mainWindow.reports.size() > 1; }, LongestDelay));
   journals.writeFailure.reset();
   Change(1, QStringLiteral("<p>room again</p>"));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Source that was typed and not applied is journalled with its page.
 #include "tests/editor/PageJournalFixture.h"
+#include "tests/support/Waiting.h"
 
 namespace velor {
 namespace {
@@ -20,7 +21,7 @@ class SourceJournals : public PageJournals {
     return written.empty() ? std::nullopt : written.back().source;
   }
   bool SourceComesToBeWritten(const std::optional<QString> &source) {
-    return QTest::qWaitFor([&] { return WrittenSource() == source; }, LongestDelay);
+    return WaitFor([&] { return WrittenSource() == source; }, LongestDelay);
   }
   void AnswerEditor(MessageAnswer answer) {
     dialogs.ExpectMessage(QStringLiteral("Do you want to apply the changes on this Document?"),
@@ -30,7 +31,7 @@ class SourceJournals : public PageJournals {
 
 TEST_F(SourceJournals, ASourceThatWasOnlyLookedAtHasNone) {
   Edit();
-  EXPECT_FALSE(QTest::qWaitFor([&] { return !IsEmpty(); }, LongestDelay));
+  EXPECT_FALSE(WaitFor([&] { return !IsEmpty(); }, LongestDelay));
 }
 
 TEST_F(SourceJournals, WhatIsTypedIntoTheSourceIsWrittenWithItsPage) {
@@ -48,7 +49,7 @@ TEST_F(SourceJournals, ASourceBroughtBackToThePagesEndsIt) {
   TypeInSource(Typed);
   ASSERT_TRUE(SourceComesToBeWritten(Typed));
   TypeInSource(QStringLiteral("<p>a</p>"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return IsEmpty(); }, LongestDelay));
+  EXPECT_TRUE(WaitFor([&] { return IsEmpty(); }, LongestDelay));
 }
 
 TEST_F(SourceJournals, AnAppliedSourceIsThePagesChange) {
@@ -102,7 +103,7 @@ TEST_F(SourceJournals, AnExitKeepsTheSourceThatWasNotApplied) {
   Page(1).close();
   EXPECT_EQ(WrittenSource(), Typed);
   EXPECT_EQ(journals.Written().back().end, RunEnd::Exit);
-  EXPECT_FALSE(QTest::qWaitFor([&] { return WrittenSource() != Typed; }, LongestDelay));
+  EXPECT_FALSE(WaitFor([&] { return WrittenSource() != Typed; }, LongestDelay));
 }
 
 TEST_F(SourceJournals, ASourceThatThePagesOwnTookThePlaceOfStaysUntilOneIsAppliedOrGivenUp) {

@@ -4,10 +4,8 @@
 #include "engine/BridgeScript.h"
 #include "platform/Paths.h"
 
-#include <QEventLoop>
 #include <QFile>
 #include <QTest>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEngineView>
 
@@ -37,24 +35,6 @@ auto *const Environment = new EngineEnvironment;
 [[maybe_unused]] const auto *const Registered = ::testing::AddGlobalTestEnvironment(Environment);
 
 }  // namespace
-
-bool WaitFor(const std::function<bool()> &condition) {
-  // Runs a real event loop: with single calls of processEvents the browser engine hardly makes
-  // progress.
-  if (condition()) return true;
-  QEventLoop loop;
-  bool met = false;
-  QTimer look;
-  QObject::connect(&look, &QTimer::timeout, &loop, [&] {
-    if (met || !condition()) return;
-    met = true;
-    loop.quit();
-  });
-  QTimer::singleShot(10'000, &loop, &QEventLoop::quit);
-  look.start(2);
-  loop.exec();
-  return met;
-}
 
 QVariant Evaluate(QWebEnginePage &page, const QString &expression, quint32 world) {
   const auto answer = std::make_shared<std::optional<QVariant>>();

@@ -5,6 +5,7 @@
 #include "engine/WebEditor.h"
 #include "files/QtFiles.h"
 #include "platform/EditingComponent.h"
+#include "tests/support/Waiting.h"
 
 #include <QTemporaryDir>
 #include <QWebEnginePage>
@@ -16,9 +17,6 @@
 #include <vector>
 
 namespace velor {
-
-/// Lets events pass until the condition holds; false after ten seconds.
-bool WaitFor(const std::function<bool()> &condition);
 
 /// The value of an expression in the bridge's world of a page, or in the page's own.
 QVariant Evaluate(QWebEnginePage &page, const QString &expression, quint32 world = 1);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/TurnQueue.h"
+#include "tests/support/Waiting.h"
 
 #include <QKeyEvent>
 #include <QStringList>
-#include <QTest>
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -49,7 +49,7 @@ class Turns : public ::testing::Test {
   }
   void Command(const char *expression) { queue_->Run(QString::fromUtf8(expression), {}); }
   bool ArrivedBecomes(const std::string &text) {
-    return QTest::qWaitFor([&] { return page_.Arrived() == text; });
+    return WaitFor([&] { return page_.Arrived() == text; });
   }
 
   NotedPage page_;
@@ -137,7 +137,7 @@ TEST_F(Turns, InputThatClosesThePageEndsTheQueueWithoutHarm) {
   Press("b");
   page_.onInput = [&] { queue_.reset(); };
   page_.AnswerFirst();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return queue_ == nullptr; }));
+  EXPECT_TRUE(WaitFor([&] { return queue_ == nullptr; }));
   EXPECT_EQ(page_.Arrived(), "bold a");
 }
 

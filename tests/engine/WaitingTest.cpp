@@ -2,6 +2,7 @@
 // The guarded wait, and notices that are delivered only when no wait runs.
 #include "engine/GuardedWait.h"
 #include "engine/NoticeQueue.h"
+#include "tests/support/Waiting.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -86,7 +87,7 @@ TEST_F(GuardedWaiting, GivesInputBackWhereItIsToBeKept) {
                 *subject_, 10s, [&] { return told && ++looks > 3; }, &patience),
             WaitEnd::Done);
   EXPECT_EQ(box.text(), QString());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return box.text() == QStringLiteral("typed"); }));
+  EXPECT_TRUE(WaitFor([&] { return box.text() == QStringLiteral("typed"); }));
 }
 
 TEST_F(GuardedWaiting, TellsNobodyWhenItIsShort) {

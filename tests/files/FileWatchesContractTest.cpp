@@ -3,10 +3,10 @@
 #include "files/QtFileWatches.h"
 #include "platform/Paths.h"
 #include "tests/support/FakeFileWatches.h"
+#include "tests/support/Waiting.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -49,7 +49,7 @@ class FileWatchesContract : public ::testing::Test {
     EXPECT_FALSE(IsTold(Quiet)) << "what was before is not told";
   }
   bool IsTold(int limit = Limit) {
-    return QTest::qWaitFor([&] { return !told.isEmpty(); }, limit);
+    return WaitFor([&] { return !told.isEmpty(); }, limit);
   }
 
   World world;
@@ -71,7 +71,7 @@ TYPED_TEST(FileWatchesContract, AChangeIsToldFromTheEventLoopByThePathThatWasGiv
 TYPED_TEST(FileWatchesContract, ABurstIsToldOnce) {
   for (int i = 0; i < 20; ++i) this->world.Change("a.htm");
   EXPECT_TRUE(this->IsTold());
-  (void)QTest::qWaitFor([&] { return this->told.size() > 1; }, Quiet);
+  (void)WaitFor([&] { return this->told.size() > 1; }, Quiet);
   EXPECT_EQ(this->told.size(), 1);
 }
 
@@ -108,7 +108,7 @@ TYPED_TEST(FileWatchesContract, AListenerMayEndItsWatch) {
   this->world.Change("a.htm");
   EXPECT_TRUE(this->IsTold());
   this->world.Change("a.htm");
-  (void)QTest::qWaitFor([&] { return this->told.size() > 1; }, Quiet);
+  (void)WaitFor([&] { return this->told.size() > 1; }, Quiet);
   EXPECT_EQ(this->told.size(), 1);
 }
 

@@ -2,10 +2,10 @@
 // Files watched on a real disk.
 #include "files/QtFileWatches.h"
 #include "platform/Paths.h"
+#include "tests/support/Waiting.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -32,7 +32,7 @@ class FileWatchesTest : public ::testing::Test {
     file.write(content);
   }
   void ExpectTold() {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !told_.isEmpty(); }, Limit));
+    EXPECT_TRUE(WaitFor([&] { return !told_.isEmpty(); }, Limit));
     EXPECT_EQ(told_, QStringList(Path()));
     told_.clear();
   }
@@ -80,7 +80,7 @@ TEST_F(FileWatchesTest, ABurstIsToldOnceAndOtherFilesAreNot) {
 TEST_F(FileWatchesTest, AWatchThatHasEndedTellsNothing) {
   Write("two");
   watch_.reset();
-  EXPECT_FALSE(QTest::qWaitFor([&] { return !told_.isEmpty(); }, 500));
+  EXPECT_FALSE(WaitFor([&] { return !told_.isEmpty(); }, 500));
 }
 
 }  // namespace

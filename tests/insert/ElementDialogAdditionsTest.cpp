@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the element dialog does beyond the published behaviour.
 #include "tests/insert/ElementDialogFixture.h"
+#include "tests/support/Waiting.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -130,9 +131,9 @@ TEST_F(ExtendedElementDialogTest, LoadsThePreviewOfATypedAddressAfterAPause) {
   QTest::keyClicks(Get<QLineEdit>("txtImgSource"), U("a %231.png"));
   const auto *size = Get<QLabel>("lblPreviewSize");
   EXPECT_EQ(size->text(), QString());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return size->text() == U("30 × 20 pixels"); }));
+  EXPECT_TRUE(WaitFor([&] { return size->text() == U("30 × 20 pixels"); }));
   QTest::keyClicks(Get<QLineEdit>("txtImgSource"), U("x"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return size->text().isEmpty(); }));
+  EXPECT_TRUE(WaitFor([&] { return size->text().isEmpty(); }));
   EXPECT_EQ(Get<QLabel>("picPreview")->text(), U("a #1.pngx cannot be shown as a picture."));
 }
 

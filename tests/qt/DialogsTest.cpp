@@ -7,6 +7,7 @@
 #include "tests/support/Checks.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/KeyboardWalk.h"
+#include "tests/support/Waiting.h"
 
 #include <QCloseEvent>
 #include <QDialog>
@@ -396,7 +397,7 @@ TEST_F(FileDialogs, TheFirstFoldersColumnsAreReadable) {
       }
       return header.length() <= list->viewport()->width();
     };
-    EXPECT_TRUE(QTest::qWaitFor(isReadable));
+    EXPECT_TRUE(WaitFor(isReadable));
     box.reject();
   });
   dialog_.ShowOpen();

@@ -4,6 +4,7 @@
 #include "qt/SourceColors.h"
 #include "qt/SourceMarks.h"
 #include "tests/support/Checks.h"
+#include "tests/support/Waiting.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -145,7 +146,7 @@ class QsciEditing : public ::testing::Test {
     return told;
   }
   bool Becomes(int indicator, const QByteArray &wanted) {
-    return QTest::qWaitFor([&] { return Indicated(indicator) == wanted; });
+    return WaitFor([&] { return Indicated(indicator) == wanted; });
   }
 
   QWidget host_;
@@ -158,14 +159,14 @@ TEST_F(QsciEditing, TheSourceHasTheColoursOfItsRoles) {
   const auto role = [&](int position) {
     return static_cast<SourceRole>(Send(QsciScintilla::SCI_GETSTYLEAT, position));
   };
-  EXPECT_TRUE(QTest::qWaitFor([&] { return role(50) == SourceRole::Comment; }));
+  EXPECT_TRUE(WaitFor([&] { return role(50) == SourceRole::Comment; }));
   EXPECT_EQ(role(1), SourceRole::Tag);
   EXPECT_EQ(role(3), SourceRole::Text);
   EXPECT_EQ(role(19), SourceRole::Attribute);
   source_.SetCaret(1, 3);
   source_.ReplaceSelection(QStringLiteral(">"));
   (void)Editor().grab();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return role(51) == SourceRole::Text; }))
+  EXPECT_TRUE(WaitFor([&] { return role(51) == SourceRole::Text; }))
       << "what is typed changes the lines below";
 }
 
@@ -173,7 +174,7 @@ TEST_F(QsciEditing, ScriptsWithinScriptsAreShown) {
   source_.SetText(QStringLiteral(
       "<script src=a><script><!-- b\n<![CDATA[</script><%@language=python%><script><!"));
   (void)Editor().grab();
-  EXPECT_TRUE(QTest::qWaitFor(
+  EXPECT_TRUE(WaitFor(
       [&] { return Send(QsciScintilla::SCI_GETENDSTYLED) == Send(QsciScintilla::SCI_GETLENGTH); }));
 }
 
@@ -190,7 +191,7 @@ TEST_F(QsciEditing, TheTagAtTheCaretAndItsPartnerAreMarked) {
 
 TEST_F(QsciEditing, ElementsFold) {
   source_.SetText(QStringLiteral("<div>\r\n<p>a</p>\r\n</div>\r\n<p>b</p>"));
-  EXPECT_TRUE(QTest::qWaitFor([&] {
+  EXPECT_TRUE(WaitFor([&] {
     return (Send(QsciScintilla::SCI_GETFOLDLEVEL, 0) & QsciScintilla::SC_FOLDLEVELHEADERFLAG) != 0;
   }));
   Editor().foldLine(0);
@@ -218,7 +219,7 @@ TEST_F(QsciEditing, WhatIsNeverClosedDoesNotFold) {
   const auto level = [&](int line) {
     return Send(QsciScintilla::SCI_GETFOLDLEVEL, line) - QsciScintilla::SC_FOLDLEVELBASE;
   };
-  EXPECT_TRUE(QTest::qWaitFor([&] { return level(2) == QsciScintilla::SC_FOLDLEVELHEADERFLAG; }));
+  EXPECT_TRUE(WaitFor([&] { return level(2) == QsciScintilla::SC_FOLDLEVELHEADERFLAG; }));
   EXPECT_EQ(level(0), QsciScintilla::SC_FOLDLEVELHEADERFLAG);
   EXPECT_EQ(level(1), 1);
   EXPECT_EQ(level(3), 1);
@@ -274,11 +275,11 @@ TEST_F(QsciEditing, TheSelectionsMovesAreTold) {
   source_.SetSelectionListener([&] { ++moves; });
   source_.SetText(QStringLiteral("one two"));
   source_.SetCaret(0, 4);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return moves > 0; }));
+  EXPECT_TRUE(WaitFor([&] { return moves > 0; }));
   int column = 0;
   source_.SetSelectionListener([&] { column = source_.CaretColumn(); });
   QTest::keyClicks(&Editor(), QStringLiteral("xy"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return column == 6; }));
+  EXPECT_TRUE(WaitFor([&] { return column == 6; }));
 }
 
 TEST_F(QsciEditing, AMegabyteInOneLineIsShownAndTypedInto) {
@@ -299,7 +300,7 @@ TEST_F(QsciEditing, TenMegabytesAreThereWithoutBeingStyledWhole) {
   Editor().grab();
   EXPECT_LT(Send(QsciScintilla::SCI_GETENDSTYLED), text.size() / 2);
   EXPECT_EQ(source_.Text(), text);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Send(QsciScintilla::SCI_GETENDSTYLED) > 0; }));
+  EXPECT_TRUE(WaitFor([&] { return Send(QsciScintilla::SCI_GETENDSTYLED) > 0; }));
 }
 
 TEST(QsciSourceControlTest, TheLineNumberMarginGrowsWithTheText) {

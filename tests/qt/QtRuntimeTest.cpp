@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/QtRuntime.h"
 #include "tests/support/Checks.h"
+#include "tests/support/Waiting.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTime>
 
 namespace velor {
@@ -32,7 +32,7 @@ TEST_F(QtRuntimeTest, OpensThroughTheDesktopsOpenerInTheGivenFolder) {
   runtime.ShellExecute(QStringLiteral("Open"), QStringLiteral("mailto:info@example.com"),
                        folder.path());
   QFile opened(folder.filePath(QStringLiteral("opened")));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return opened.exists(); }));
+  ASSERT_TRUE(WaitFor([&] { return opened.exists(); }));
   ASSERT_TRUE(opened.open(QIODevice::ReadOnly));
   EXPECT_EQ(opened.readAll(), "mailto:info@example.com " + folder.path().toLocal8Bit() + "\n");
 }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/RunningProgram.h"
+#include "tests/support/Waiting.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <future>
 #include <gmock/gmock.h>
@@ -30,7 +30,7 @@ class Running : public ::testing::Test {
   static std::optional<QStringList> Ask(const OpeningRequest &request) {
     auto answer =
         std::async(std::launch::async, [&] { return AskRunningProgram(Folder, request); });
-    const bool isAnswered = QTest::qWaitFor(
+    const bool isAnswered = WaitFor(
         [&] { return answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready; },
         10000);
     EXPECT_TRUE(isAnswered);
@@ -141,7 +141,7 @@ TEST_F(Running, FilesWaitWhileADialogIsOpenAndComingToTheFrontDoesNot) {
     return AskRunningProgram(Folder, {{QStringLiteral("/a.htm")}, 0, {}});
   });
   EXPECT_TRUE(Ask({}));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return asked_.size() == 2; }));
+  EXPECT_TRUE(WaitFor([&] { return asked_.size() == 2; }));
   EXPECT_TRUE(files.get());
   EXPECT_THAT(asked_[0].files, IsEmpty());
 }
@@ -159,7 +159,7 @@ TEST_F(Running, NonsenseOpensNothing) {
   socket.connectToServer(SocketOfProgram(Folder));
   ASSERT_TRUE(socket.waitForConnected());
   socket.write("[1, 2\n");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return socket.canReadLine(); }));
+  EXPECT_TRUE(WaitFor([&] { return socket.canReadLine(); }));
   ASSERT_EQ(asked_.size(), 1);
   EXPECT_THAT(asked_[0].files, IsEmpty());
 }

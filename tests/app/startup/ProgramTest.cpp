@@ -2,6 +2,7 @@
 // The real executable in a program folder of its own: what it leaves on disk, and how it ends.
 #include "platform/DriveMap.h"
 #include "tests/support/Checks.h"
+#include "tests/support/Waiting.h"
 #include "tools/sample-site/SampleMaker.h"
 
 #include <QDir>
@@ -10,7 +11,6 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -60,8 +60,8 @@ class Program : public ::testing::Test {
   void ExpectStarted() {
     const QByteArray expected =
         '"' + QFile::encodeName(Native(QStringLiteral("eImages"))) + "\"\r\n";
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return Bytes(QStringLiteral("SiteImgConfig.ini")) == expected; }, Limit))
+    EXPECT_TRUE(
+        WaitFor([&] { return Bytes(QStringLiteral("SiteImgConfig.ini")) == expected; }, Limit))
         << process_.readAllStandardError().constData();
     EXPECT_EQ(process_.state(), QProcess::Running);
   }
@@ -92,7 +92,7 @@ TEST_F(Program, ActsUponNoArgumentTheToolkitsIncluded) {
     return holds;
   };
   constexpr int LongEnough = 3000;
-  EXPECT_FALSE(QTest::qWaitFor(isOpened, LongEnough));
+  EXPECT_FALSE(WaitFor(isOpened, LongEnough));
 }
 
 TEST_F(Program, ADamagedCatalogueEndsItWithAReportAndStaysAsItIs) {

@@ -6,13 +6,13 @@
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeJournals.h"
+#include "tests/support/Waiting.h"
 
 #include <QCloseEvent>
 #include <QDialog>
 #include <QEventLoop>
 #include <QMessageBox>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 
 #include <functional>
@@ -178,7 +178,7 @@ TEST_F(ExitTest, AWindowThatIsClosedInTheMiddleOfAnotherEventClosesAfterIt) {
     QCoreApplication::processEvents();
     EXPECT_EQ(unloaded.count(), 0);
   }
-  EXPECT_TRUE(QTest::qWaitFor([&] { return unloaded.count() == 1; }));
+  EXPECT_TRUE(WaitFor([&] { return unloaded.count() == 1; }));
 }
 
 TEST_F(ExitTest, AWindowThatIsClosedWhileItWaitsForAPageClosesAfterwards) {

@@ -7,6 +7,7 @@
 #include "editor/frmMain.h"
 #include "platform/EditingCommands.h"
 #include "tests/app/window/WindowFixture.h"
+#include "tests/support/Waiting.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -195,7 +196,7 @@ TEST_F(FormattingBarTest, AColourBoxIsComparedAsAColourBeforeItIsWritten) {
   }
   EXPECT_EQ(counter.paints, 0);
   Parts().formats.ShowBackColor(QStringLiteral("#fffffe"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > 0; }));
+  EXPECT_TRUE(WaitFor([&] { return counter.paints > 0; }));
 }
 
 }  // namespace

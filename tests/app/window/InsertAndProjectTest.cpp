@@ -10,6 +10,7 @@
 #include "projects/frmProjectManager.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/Checks.h"
+#include "tests/support/Waiting.h"
 
 #include <QAbstractItemView>
 #include <QLineEdit>
@@ -49,8 +50,7 @@ TEST_F(InsertTest, ACatalogueThatIsNotWholeIsSaidInTheStatusBarAtTheStart) {
   values.DbConnection = database.CreateConnection();
   MfrmProgram second(platform, values);
   second.Load();
-  EXPECT_TRUE(
-      QTest::qWaitFor([&] { return second.statusBar()->currentMessage() == database.defect; }));
+  EXPECT_TRUE(WaitFor([&] { return second.statusBar()->currentMessage() == database.defect; }));
 }
 
 TEST_F(InsertTest, CustomHtmlIsShownBeforeItIsPutInAsItStands) {
@@ -68,7 +68,7 @@ TEST_F(InsertTest, CustomHtmlIsShownBeforeItIsPutInAsItStands) {
     EXPECT_FALSE(ok->isEnabled());
     source.SetText(markup);
     EXPECT_TRUE(ok->isEnabled());
-    EXPECT_TRUE(QTest::qWaitFor([&] {
+    EXPECT_TRUE(WaitFor([&] {
       return components.editingComponents.back()->DocumentHTML() ==
              QStringLiteral(
                  "<!DOCTYPE html><html><head><style>b { color: red }</style></head>"

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Dialogs.h"
+#include "tests/support/Waiting.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -66,7 +67,7 @@ class PersonAtRandom final : public Dialogs {
     EXPECT_TRUE(least.width() <= screen.width() && least.height() <= screen.height())
         << name << " is larger than the screen";
     const auto hasKeyboard = [&window] { return window.isAncestorOf(QApplication::focusWidget()); };
-    EXPECT_TRUE(QTest::qWaitFor(hasKeyboard)) << "the keyboard is not in " << name;
+    EXPECT_TRUE(WaitFor(hasKeyboard)) << "the keyboard is not in " << name;
     auto *dialog = qobject_cast<QDialog *>(&window);
     if (dialog == nullptr) {
       window.close();

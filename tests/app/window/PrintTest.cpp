@@ -2,6 +2,7 @@
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakePrinters.h"
+#include "tests/support/Waiting.h"
 
 #include <QBuffer>
 #include <QCheckBox>
@@ -10,7 +11,6 @@
 #include <QPdfWriter>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTest>
 
 namespace velor {
 namespace {
@@ -72,7 +72,7 @@ TEST_F(PrintTest, ThePagesGoToThePrinterThatIsChosen) {
   UsePages(3, [this](QWidget &dialog) {
     EXPECT_EQ(State(dialog), QStringLiteral("3 pages"));
     Press(dialog, "cmdPrint");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isHidden(); }));
+    EXPECT_TRUE(WaitFor([&] { return dialog.isHidden(); }));
   });
   ASSERT_EQ(printers.tasks.size(), 1U);
   EXPECT_EQ(printers.tasks[0].name, QStringLiteral("Untitled 1"));
@@ -87,7 +87,7 @@ TEST_F(PrintTest, OnlyThePagesThatAreWantedArePrinted) {
   printers.pages = {1};
   UsePages(3, [this](QWidget &dialog) {
     Press(dialog, "cmdPrint");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isHidden(); }));
+    EXPECT_TRUE(WaitFor([&] { return dialog.isHidden(); }));
   });
   EXPECT_EQ(printers.sheets.size(), 1U);
 }
@@ -95,12 +95,12 @@ TEST_F(PrintTest, OnlyThePagesThatAreWantedArePrinted) {
 TEST_F(PrintTest, HeaderAndFooterAreAtTheEdgesUnlessTheyAreTurnedOff) {
   const auto print = [this](QWidget &dialog) {
     Press(dialog, "cmdPrint");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isHidden(); }));
+    EXPECT_TRUE(WaitFor([&] { return dialog.isHidden(); }));
   };
   UsePages(1, print);
   UsePages(1, [&](QWidget &dialog) {
     In<QCheckBox>(dialog, "chkEdgeLines").click();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return Printing().IsUnderWay(); }));
+    EXPECT_TRUE(WaitFor([this] { return Printing().IsUnderWay(); }));
     Printing().Answer(Pdf(1));
     print(dialog);
   });
@@ -118,7 +118,7 @@ TEST_F(PrintTest, ChoicesMakeThePagesAnewAndAreThoseOfTheNextTime) {
     In<QSpinBox>(dialog, "txtMargins").setValue(30);
     In<QSpinBox>(dialog, "txtScale").setValue(150);
     In<QCheckBox>(dialog, "chkBackgrounds").click();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return Printing().IsUnderWay(); }));
+    EXPECT_TRUE(WaitFor([this] { return Printing().IsUnderWay(); }));
     EXPECT_FALSE(In<QPushButton>(dialog, "cmdPrint").isEnabled());
   });
   ASSERT_EQ(Printing().forms.size(), 2U);
@@ -138,7 +138,7 @@ TEST_F(PrintTest, ClosingWhileItPrintsGivesTheTaskUp) {
   UsePages(3, [this](QWidget &dialog) {
     printers.onPage = [&dialog] { QTimer::singleShot(0, &dialog, &QWidget::close); };
     Press(dialog, "cmdPrint");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isHidden(); }));
+    EXPECT_TRUE(WaitFor([&] { return dialog.isHidden(); }));
   });
   EXPECT_LT(printers.sheets.size(), 3U);
   EXPECT_EQ(printers.aborted, 1);

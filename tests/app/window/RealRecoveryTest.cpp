@@ -10,6 +10,7 @@
 #include "recovery/offers/RecoveryBar.h"
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
+#include "tests/support/Waiting.h"
 
 #include <QApplication>
 #include <QDir>
@@ -95,7 +96,7 @@ TEST_F(RealRecovery, TheJournalGoesToTheDiskBetweenTheKeysOfWhoeverTypesOn) {
   clock.start();
   for (int key = 1; key <= Keys; ++key) {
     Type(page, QStringLiteral("x"));
-    (void)QTest::qWaitFor([&] { return clock.elapsed() >= key * Pace; });
+    (void)WaitFor([&] { return clock.elapsed() >= key * Pace; });
   }
   const qint64 end = clock.elapsed();
   calls_.onSync = {};

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/StatusLine.h"
+#include "tests/support/Waiting.h"
 
 #include <QAccessible>
-#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 
 bool Shows(const StatusLine &bar, const char *text) {
-  return QTest::qWaitFor([&] { return bar.currentMessage() == QString::fromLatin1(text); }, 10'000);
+  return WaitFor([&] { return bar.currentMessage() == QString::fromLatin1(text); }, 10'000);
 }
 
 TEST(StatusLineTest, NoticesThatComeAtOnceAreAllSeenTheNewestFirst) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/engine/bridge/BridgePage.h"
 
+#include "tests/support/Waiting.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFile>
@@ -107,7 +109,7 @@ QVariant BridgePage::Evaluate(const QString &expression) {
 }
 
 void BridgePage::AwaitKeys(int count) {
-  EXPECT_TRUE(QTest::qWaitFor(
+  EXPECT_TRUE(WaitFor(
       [this, count] { return Evaluate(QStringLiteral("markup.keysUp()")).toInt() >= count; },
       Patience))
       << "the page never saw the keys";
@@ -160,7 +162,7 @@ void BridgePage::Send(QInputMethodEvent &event) {
   const int before = Evaluate(QStringLiteral("markup.composed()")).toInt();
   view_.focusProxy()->setFocus();
   QCoreApplication::sendEvent(view_.focusProxy(), &event);
-  EXPECT_TRUE(QTest::qWaitFor(
+  EXPECT_TRUE(WaitFor(
       [this, before] { return Evaluate(QStringLiteral("markup.composed()")).toInt() > before; },
       Patience))
       << "the page never saw the composition";

@@ -2,12 +2,12 @@
 // What the golden cases cannot show: messages, the pointer, the clipboard, whole-document calls.
 #include "tests/engine/bridge/BridgeCase.h"
 #include "tests/engine/bridge/BridgePage.h"
+#include "tests/support/Waiting.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTest>
 #include <QWebChannel>
 #include <QWebEnginePage>
 #include <QWebEngineScript>
@@ -39,7 +39,7 @@ class Bridge : public ::testing::Test {
   QVariant Evaluate(const QString &expression) { return page_.Evaluate(expression); }
   QString Text(const QString &expression) { return Evaluate(expression).toString(); }
   bool Comes(const QString &condition) {
-    return QTest::qWaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
+    return WaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
   }
   /// Replaces the channel by an array that collects the pushes.
   void CollectPushes() {
@@ -199,13 +199,12 @@ TEST_F(Bridge, TalksToTheProgramThroughTheChannel) {
   page_.Engine().setWebChannel(&channel, QWebEngineScript::ApplicationWorld);
   page_.AddChannelScript();
   Load(QStringLiteral("<p><b>one|</b></p>"));
-  EXPECT_TRUE(QTest::qWaitFor([&host] {
+  EXPECT_TRUE(WaitFor([&host] {
     return host.state[QStringLiteral("element")][QStringLiteral("tag")] == QStringLiteral("B");
   }));
-  EXPECT_TRUE(
-      QTest::qWaitFor([&host] { return host.mirror.contains(QStringLiteral("<b>one</b>")); }));
+  EXPECT_TRUE(WaitFor([&host] { return host.mirror.contains(QStringLiteral("<b>one</b>")); }));
   page_.Click({30, 40});
-  EXPECT_TRUE(QTest::qWaitFor([&host] { return host.mouse == QPoint(30, 40); }));
+  EXPECT_TRUE(WaitFor([&host] { return host.mouse == QPoint(30, 40); }));
 }
 
 TEST_F(Bridge, ReportsWhereThePointerPresses) {
@@ -245,7 +244,7 @@ TEST_F(Bridge, CutsOverParagraphsInOneStepAndFillsTheClipboard) {
   EXPECT_EQ(Text(QStringLiteral(
                 "document.querySelectorAll('body *').length + document.body.firstChild.tagName")),
             QStringLiteral("1H1"));
-  EXPECT_TRUE(QTest::qWaitFor(
+  EXPECT_TRUE(WaitFor(
       [] { return QGuiApplication::clipboard()->text().contains(QStringLiteral("three")); }));
   Evaluate(QStringLiteral("velor.exec(5049)"));
   EXPECT_EQ(Text(QStringLiteral("markup.read()")),

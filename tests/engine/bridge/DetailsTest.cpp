@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Show details: a glyph for each thing that a page does not show, and the page left as it is.
 #include "tests/engine/bridge/BridgePage.h"
-
-#include <QTest>
+#include "tests/support/Waiting.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +24,7 @@ class Details : public ::testing::Test {
   QVariant Evaluate(const QString &expression) { return page_.Evaluate(expression); }
   QString Text(const QString &expression) { return Evaluate(expression).toString(); }
   bool Comes(const QString &condition) {
-    return QTest::qWaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
+    return WaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
   }
   QString Glyph(const QString &selector) {
     return Text(QStringLiteral("getComputedStyle(document.querySelector('%1'), '::before').content")

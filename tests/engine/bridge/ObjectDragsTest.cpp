@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Objects sized by their handles, and moved by the pointer and the arrow keys.
 #include "tests/engine/bridge/ObjectsFixture.h"
+#include "tests/support/Waiting.h"
 
 namespace velor {
 namespace {
@@ -57,7 +58,7 @@ TEST_F(ObjectDrags, ADragShowsItselfAndItsGridBeforeThePageChanges) {
                   .contains(QStringLiteral("50px 50px")));
   EXPECT_EQ(Body(), loaded_);
   page_.Button(QEvent::MouseButtonRelease, {290, 190});
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Body() != loaded_; }, 5000));
+  EXPECT_TRUE(WaitFor([&] { return Body() != loaded_; }, 5000));
 }
 
 TEST_F(ObjectDrags, EscapeCancelsADrag) {
@@ -221,7 +222,7 @@ TEST_F(ObjectDrags, SizesAreWrittenAsThePageHasThem) {
   const auto size = [this](const QPoint &from, const QPoint &by) {
     Evaluate(QStringLiteral("inside.selection.selectNode(document.body.firstElementChild)"));
     Drag(from, from + by);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Body() != loaded_; }, 5000));
+    ASSERT_TRUE(WaitFor([&] { return Body() != loaded_; }, 5000));
   };
   size({400, 50}, {100, 0});
   EXPECT_TRUE(Body().startsWith(
@@ -283,7 +284,7 @@ TEST_F(ObjectDrags, LengthsKeepTheirUnits) {
   page_.Click({100, 70});
   ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));
   Drag({100, 70}, {132, 100});
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Body() != loaded_; }, 5000));
+  ASSERT_TRUE(WaitFor([&] { return Body() != loaded_; }, 5000));
   Drag({272, 115}, {304, 115});
   EXPECT_TRUE(BecomesBody(
       QStringLiteral("<div style=\"position: absolute; left: 7em; top: 15%; width: 12em; height: "
@@ -321,7 +322,7 @@ TEST_F(ObjectDrags, ThePageScrollsWhileThePointerIsOutsideTheWindow) {
   ASSERT_TRUE(Comes(QStringLiteral("scrollY > 100")));
   page_.Move({100, 325}, Qt::LeftButton);
   page_.Button(QEvent::MouseButtonRelease, {100, 325});
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Body() != loaded_; }, 5000));
+  ASSERT_TRUE(WaitFor([&] { return Body() != loaded_; }, 5000));
   EXPECT_EQ(Evaluate(QStringLiteral("parseFloat(document.querySelectorAll('div')[1].style.top) - "
                                     "scrollY"))
                 .toInt(),

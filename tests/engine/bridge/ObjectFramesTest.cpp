@@ -2,6 +2,7 @@
 // Where the frame of a selected object is seen, in the pixels of the view, whatever the page does
 // to the places of its boxes; and what of the page is seen beside it.
 #include "tests/engine/bridge/ObjectsFixture.h"
+#include "tests/support/Waiting.h"
 
 #include <QImage>
 
@@ -24,7 +25,7 @@ class ObjectFrames : public Objects {
   /// The box around everything of that colour in the view, once there is something.
   QRect Seen(QRgb colour) {
     QRect bounds;
-    EXPECT_TRUE(QTest::qWaitFor(
+    EXPECT_TRUE(WaitFor(
         [&] {
           bounds = BoundsOf(page_.Picture(), colour);
           return !bounds.isEmpty();
@@ -134,14 +135,14 @@ TEST_F(ObjectFrames, AreAllThatTellsASelectedTableFromOthers) {
   const QRect word(place[0].toInt(), place[1].toInt(), place[2].toInt(), place[3].toInt());
   const auto shown = [&] { return page_.Picture().copy(word); };
   Evaluate(QStringLiteral("getSelection().collapse(document.body, 0)"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !BoundsOf(shown(), 0xff000000).isEmpty(); }));
+  ASSERT_TRUE(WaitFor([&] { return !BoundsOf(shown(), 0xff000000).isEmpty(); }));
   const QImage plain = shown();
   Evaluate(QStringLiteral("getSelection().selectAllChildren(document.querySelector('b'))"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return shown() != plain; }));
+  ASSERT_TRUE(WaitFor([&] { return shown() != plain; }));
   Select(QStringLiteral("table"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == plain; }));
+  EXPECT_TRUE(WaitFor([&] { return shown() == plain; }));
   Evaluate(QStringLiteral("getSelection().selectAllChildren(document.querySelector('b'))"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return shown() != plain; }));
+  EXPECT_TRUE(WaitFor([&] { return shown() != plain; }));
 }
 
 TEST_F(ObjectFrames, KeepTheTintOfSelectedTextWhereAllOfALongPageWouldBeStyledAnew) {

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "tests/engine/bridge/BridgePage.h"
-
-#include <QTest>
+#include "tests/support/Waiting.h"
 
 #include <gtest/gtest.h>
 
@@ -21,11 +20,11 @@ class Objects : public ::testing::Test {
   QVariant Evaluate(const QString &expression) { return page_.Evaluate(expression); }
   QString Text(const QString &expression) { return Evaluate(expression).toString(); }
   bool Comes(const QString &condition) {
-    return QTest::qWaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
+    return WaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
   }
   QString Body() { return Text(QStringLiteral("document.body.innerHTML")); }
   bool BecomesBody(const QString &body) {
-    return QTest::qWaitFor([&] { return Body() == body; }, 5000);
+    return WaitFor([&] { return Body() == body; }, 5000);
   }
   /// The tag of the selected object; empty for text.
   QString Selected() {
@@ -34,7 +33,7 @@ class Objects : public ::testing::Test {
                        "  selection === 'Control' ? element.tag : '' }"));
   }
   bool BecomesSelected(const QString &tag) {
-    return QTest::qWaitFor([&] { return Selected() == tag; }, 5000);
+    return WaitFor([&] { return Selected() == tag; }, 5000);
   }
   int Steps() {
     return Evaluate(QStringLiteral("{ let n = 0; while (inside.history.canUndo()) {"

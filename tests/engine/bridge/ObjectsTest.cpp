@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Objects under the pointer and the keys: selected, framed, copied and deleted as wholes.
 #include "tests/engine/bridge/ObjectsFixture.h"
+#include "tests/support/Waiting.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -87,7 +88,7 @@ TEST_P(EveryObject, IsSizedByItsCorner) {
   // A small object's handles stand apart from it.
   const QPoint apart(qMax(0, 24 - width) / 2, qMax(0, 24 - height) / 2);
   Drag(corner + apart, corner + apart + QPoint(40, 30), Qt::ShiftModifier);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Body() != loaded_; }, 5000));
+  ASSERT_TRUE(WaitFor([&] { return Body() != loaded_; }, 5000));
   EXPECT_EQ(Evaluate(rect.arg(QStringLiteral("width"))).toInt(), width + 40) << qPrintable(Body());
   EXPECT_EQ(Evaluate(rect.arg(QStringLiteral("height"))).toInt(), height + 30)
       << qPrintable(Body());
@@ -185,7 +186,7 @@ TEST_F(Objects, AreCutAndCopiedAsWholes) {
   ASSERT_TRUE(BecomesSelected(QStringLiteral("DIV")));
   page_.Engine().triggerAction(QWebEnginePage::Cut);
   ASSERT_TRUE(BecomesBody(QStringLiteral("<p>one</p>"))) << qPrintable(Body());
-  EXPECT_TRUE(QTest::qWaitFor([] {
+  EXPECT_TRUE(WaitFor([] {
     const QMimeData *data = QGuiApplication::clipboard()->mimeData();
     return data != nullptr && data->html().contains(QStringLiteral(
                                   "left: 210px; top: 120px; width: 150px; height: 60px\">text"

@@ -2,8 +2,7 @@
 // The waves under unknown words, and what is done to these words. The program's part is played by a
 // dictionary in the page: a word with two q in a row is unknown.
 #include "tests/engine/bridge/BridgePage.h"
-
-#include <QTest>
+#include "tests/support/Waiting.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +30,7 @@ class Waves : public ::testing::Test {
   QVariant Evaluate(const QString &expression) { return page_.Evaluate(expression); }
   QString Text(const QString &expression) { return Evaluate(expression).toString(); }
   bool Comes(const QString &condition) {
-    return QTest::qWaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
+    return WaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
   }
   /// Waits until that many waves are drawn.
   bool WavesCome(int count) {

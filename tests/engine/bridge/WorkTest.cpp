@@ -2,8 +2,7 @@
 // How much the bridge has to do for a key, a move of the caret and a command does not depend on how
 // long the page is, nor the list, the table or the paragraph that the caret is in.
 #include "tests/engine/bridge/BridgePage.h"
-
-#include <QTest>
+#include "tests/support/Waiting.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -42,8 +41,8 @@ class Work : public ::testing::TestWithParam<Shape> {
   }
   void Rest() {
     Evaluate(QStringLiteral("work.rest()"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return Evaluate(QStringLiteral("work.rested")).toBool(); },
-                                Patience));
+    ASSERT_TRUE(
+        WaitFor([this] { return Evaluate(QStringLiteral("work.rested")).toBool(); }, Patience));
   }
   double CountOf(const std::function<void()> &deed) {
     Evaluate(QStringLiteral("work.reset()"));

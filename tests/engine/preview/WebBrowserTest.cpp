@@ -4,6 +4,7 @@
 #include "engine/preview/SiteScheme.h"
 #include "engine/preview/WebBrowser.h"
 #include "tests/support/Checks.h"
+#include "tests/support/Waiting.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -54,11 +55,11 @@ class WebBrowserTest : public ::testing::Test, protected BrowserListener {
   }
   QWebEnginePage *EnginePage() { return qobject_cast<QWebEngineView *>(browser.Widget())->page(); }
   bool TitleBecomes(const QString &title) {
-    return QTest::qWaitFor([&] { return EnginePage()->title() == title; }, 20000);
+    return WaitFor([&] { return EnginePage()->title() == title; }, 20000);
   }
 
   bool StatusBecomes(const QString &text) {
-    return QTest::qWaitFor([&] { return !statuses.isEmpty() && statuses.last() == text; }, 20000);
+    return WaitFor([&] { return !statuses.isEmpty() && statuses.last() == text; }, 20000);
   }
   /// A real mouse click: the engine treats it as the person's own action, which a script's click()
   /// is not.
@@ -89,7 +90,7 @@ class WebBrowserTest : public ::testing::Test, protected BrowserListener {
 TEST_F(WebBrowserTest, PageScriptsRunAndProgressEndsAtItsMaximum) {
   browser.Navigate(Put(QStringLiteral("a b#c%.htm"), "<script>document.title='ran'</script>"));
   EXPECT_TRUE(TitleBecomes(QStringLiteral("ran")));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return done; }, 20000));
+  EXPECT_TRUE(WaitFor([&] { return done; }, 20000));
 }
 
 TEST_F(WebBrowserTest, BackForwardAndRefreshMoveInTheHistory) {
@@ -169,7 +170,7 @@ TEST_F(WebBrowserTest, StopEndsALoadThatDoesNotEnd) {
   QTcpServer server;
   ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
   browser.Navigate(QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(server.serverPort())));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return server.hasPendingConnections(); }, 20000));
+  ASSERT_TRUE(WaitFor([&] { return server.hasPendingConnections(); }, 20000));
   browser.Stop();
   EXPECT_TRUE(StatusBecomes(QStringLiteral("Stopped"))) << statuses.join(u'|').toStdString();
 }
@@ -222,7 +223,7 @@ TEST_F(WebBrowserTest, ALinkWithinATextStaysInIt) {
   ASSERT_TRUE(TitleBecomes(QStringLiteral("text")));
   const QUrl copy = EnginePage()->url();
   EnginePage()->runJavaScript(QStringLiteral("document.querySelector('a').click()"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return EnginePage()->url().hasFragment(); }, 20000));
+  ASSERT_TRUE(WaitFor([&] { return EnginePage()->url().hasFragment(); }, 20000));
   EXPECT_EQ(EnginePage()->url().adjusted(QUrl::RemoveFragment), copy);
   EXPECT_TRUE(
       Answers(QStringLiteral("scrollY > 100 ? 'there' : scrollY"), QStringLiteral("there")));
@@ -271,7 +272,7 @@ TEST_F(WebBrowserTest, NothingIsRememberedAndDownloadsAreRefused) {
                        "<title>page</title><a id=d download=got.txt href='data:text/plain,x'>d"));
   ASSERT_TRUE(TitleBecomes(QStringLiteral("page")));
   EnginePage()->runJavaScript(QStringLiteral("document.getElementById('d').click()"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !asked.isEmpty(); }, 20000));
+  ASSERT_TRUE(WaitFor([&] { return !asked.isEmpty(); }, 20000));
   EXPECT_TRUE(statuses.last().startsWith(QStringLiteral("The preview downloads nothing")));
   EXPECT_FALSE(QDir(folder.path()).exists(QStringLiteral("got.txt")));
 }
@@ -473,8 +474,8 @@ TEST_F(WebBrowserTest, NoScriptReadsAFileOutsideOfItsSiteNorOfAnotherSite) {
                                            .arg(list)
                                            .toUtf8());
   browser.Navigate(QUrl::fromLocalFile(folder.filePath(QStringLiteral("site/page.htm"))));
-  ASSERT_TRUE(QTest::qWaitFor(
-      [&] { return EnginePage()->title().startsWith(QStringLiteral("read:")); }, 90000))
+  ASSERT_TRUE(
+      WaitFor([&] { return EnginePage()->title().startsWith(QStringLiteral("read:")); }, 90000))
       << EnginePage()->title().toStdString();
   EXPECT_EQ(EnginePage()->title(), QStringLiteral("read:"));
 }
@@ -485,7 +486,7 @@ TEST_F(WebBrowserTest, APageOnDiskMayUseWhatIsOnTheWeb) {
   browser.Navigate(Put(
       QStringLiteral("page.htm"),
       QStringLiteral("<img src='http://127.0.0.1:%1/p.png'>").arg(server.serverPort()).toUtf8()));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return server.hasPendingConnections(); }, 20000));
+  EXPECT_TRUE(WaitFor([&] { return server.hasPendingConnections(); }, 20000));
 }
 
 }  // namespace velor

@@ -8,6 +8,7 @@
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeJournals.h"
 #include "tests/support/KeyboardWalk.h"
+#include "tests/support/Waiting.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -70,7 +71,7 @@ TEST_F(RecoveryBars, ComesByItselfAfterStartUpAboveThePageArea) {
   second.Load();
   auto *bar = second.findChild<RecoveryBar *>();
   EXPECT_FALSE(bar->isVisible());
-  ASSERT_TRUE(QTest::qWaitFor([bar] { return bar->isVisible(); }));
+  ASSERT_TRUE(WaitFor([bar] { return bar->isVisible(); }));
   EXPECT_EQ(
       bar->mapTo(&second, QPoint(0, bar->height())).y(),
       second.findChild<QWidget *>(QStringLiteral("picFileTab"))->mapTo(&second, QPoint(0, 0)).y() +
@@ -274,7 +275,7 @@ TEST_F(RecoveryKeys, SpaceAndEnterPress) {
   // The focus goes on to the page that came after it.
   EXPECT_EQ(Focus(), "Restore Untitled 1");
   Press(Qt::Key_Return);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return Left().size() == 1; }));
+  EXPECT_TRUE(WaitFor([this] { return Left().size() == 1; }));
   EXPECT_EQ(Slots().PageCount(), 1);
   EXPECT_EQ(Component(*Slots().Page(1)).DocumentHTML(),
             QStringLiteral("<p>unsaved Untitled 1</p>"));
@@ -287,7 +288,7 @@ TEST_F(RecoveryBars, WithALongListTheButtonInFocusIsInSight) {
   window.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   auto *rows = Find<QWidget>("picRecoveryRows");
-  ASSERT_TRUE(QTest::qWaitFor([rows] { return rows->height() >= rows->sizeHint().height(); }));
+  ASSERT_TRUE(WaitFor([rows] { return rows->height() >= rows->sizeHint().height(); }));
   QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
   const auto isInSight = [this] {
     auto *scroller = Bar().findChild<QScrollArea *>();
@@ -298,7 +299,7 @@ TEST_F(RecoveryBars, WithALongListTheButtonInFocusIsInSight) {
   for (const Qt::Key key : {Qt::Key_End, Qt::Key_Home, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down,
                             Qt::Key_Down, Qt::Key_Down}) {
     QTest::keyClick(QApplication::focusWidget(), key);
-    EXPECT_TRUE(QTest::qWaitFor(isInSight)) << key;
+    EXPECT_TRUE(WaitFor(isInSight)) << key;
   }
   EXPECT_EQ(QApplication::focusWidget()->accessibleName(), QStringLiteral("Restore Untitled 195"));
 }
@@ -421,7 +422,7 @@ TEST_F(RecoveryBars, LongNamesAndPathsLeaveTheButtonsInSight) {
   const auto isInSight = [&] {
     return Bar().rect().contains(QRect(last->mapTo(&Bar(), QPoint(0, 0)), last->size()));
   };
-  EXPECT_TRUE(QTest::qWaitFor(isInSight));
+  EXPECT_TRUE(WaitFor(isInSight));
 }
 
 TEST_F(RecoveryBars, ManyPagesLeaveRoomForTheOthers) {

@@ -28,6 +28,7 @@
 #include "qt/QtRuntime.h"
 #include "recovery/JournalFiles.h"
 #include "tests/support/FaultyCalls.h"
+#include "tests/support/Waiting.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -55,7 +56,7 @@ class Subject {
   bool Open(const QString &file) {
     window_.Context().mainWindow.fileDialog.FileName = ToLogic(file);
     modWorkFlow::OpenPage(window_.Context(), ToLogic(file));
-    if (!QTest::qWaitFor([this] { return Page().PendingAction.isEmpty(); }, Patience)) return false;
+    if (!WaitFor([this] { return Page().PendingAction.isEmpty(); }, Patience)) return false;
     GoToTheEnd();
     Tell(QStringLiteral("ready"));
     return true;
@@ -92,7 +93,7 @@ class Subject {
     if (!TypesAlphabet()) return;
     // It goes to the disk in the pause that follows.
     const auto isOnDisk = [this] { return !calls_.order.empty() && calls_.order.back() == Sync; };
-    if (QTest::qWaitFor(isOnDisk, Patience)) Tell(QStringLiteral("done"));
+    if (WaitFor(isOnDisk, Patience)) Tell(QStringLiteral("done"));
   }
 
   void Restore(int step) {
@@ -117,7 +118,7 @@ class Subject {
   static constexpr auto Sync = FaultyCalls::Call::Sync;
 
   bool IsOffered() {
-    return QTest::qWaitFor([this] { return Find("cmdRestore") != nullptr; }, Patience);
+    return WaitFor([this] { return Find("cmdRestore") != nullptr; }, Patience);
   }
   QPushButton *Find(const char *button) {
     return window_.findChild<QPushButton *>(QString::fromLatin1(button));
@@ -142,8 +143,7 @@ class Subject {
   [[nodiscard]] bool TypesAlphabet() {
     for (int i = 0; i < Letters; ++i) TypeLetter();
     const QString all = QStringLiteral("abcdefghijklmnopqrstuvwxyz");
-    return QTest::qWaitFor([&] { return Page().DHTML1().Memory().document.contains(all); },
-                           Patience);
+    return WaitFor([&] { return Page().DHTML1().Memory().document.contains(all); }, Patience);
   }
 
   FaultyCalls calls_;

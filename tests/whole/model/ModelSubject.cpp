@@ -26,6 +26,7 @@
 #include "tests/support/FakeFileWatches.h"
 #include "tests/support/FakeSourceControl.h"
 #include "tests/support/FaultyCalls.h"
+#include "tests/support/Waiting.h"
 
 #include <QAction>
 #include <QApplication>
@@ -180,11 +181,10 @@ class Subject {
     // What was put off until the event loop runs comes before this.
     bool hasComeRound = false;
     QTimer::singleShot(0, [&] { hasComeRound = true; });
-    (void)QTest::qWaitFor([&] { return hasComeRound; }, Patience);
+    (void)WaitFor([&] { return hasComeRound; }, Patience);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    (void)QTest::qWaitFor(
-        [this] { return EachPage([](frmMain &p) { return p.PendingAction.isEmpty(); }); },
-        Patience);
+    (void)WaitFor([this] { return EachPage([](frmMain &p) { return p.PendingAction.isEmpty(); }); },
+                  Patience);
     EachPage([](frmMain &p) {
       p.Journal().Flush();
       return true;
@@ -279,7 +279,7 @@ class Subject {
       if (child->focusProxy() != nullptr) input = child->focusProxy();
     QTest::keyClick(input, Qt::Key_Home, Qt::ControlModifier);
     QTest::keyClicks(input, word);
-    (void)QTest::qWaitFor([&] { return page.DHTML1().Memory().document.contains(word); }, Patience);
+    (void)WaitFor([&] { return page.DHTML1().Memory().document.contains(word); }, Patience);
   }
   /// In design view: a shown source takes nothing back.
   void Undo(frmMain &page) {
@@ -301,7 +301,7 @@ class Subject {
       return !EachPage(
           [&](frmMain &p) { return ToNative(p.GetPageRecord().Path) != path.toString(); });
     };
-    (void)QTest::qWaitFor(
+    (void)WaitFor(
         [&] { return !dialogs_.messages.isEmpty() || std::ranges::all_of(paths, isOpen); },
         Patience);
   }
