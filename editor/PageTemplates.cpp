@@ -7,7 +7,6 @@
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
-#include "page/text/PageEncoding.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -64,17 +63,13 @@ QString ModernPage(const PageBeginning &beginning) {
       .arg(language, viewport, beginning.title.toHtmlEscaped());
 }
 
-QString TextOfPageFile(const EditorContext &context, const QString &path) {
-  return DecodePage(context.platform.files.ReadAll(path)).text;
-}
-
 QString TextOfNewPage(const EditorContext &context) {
   namespace Settings = modSettingManager;
   const Registry &registry = context.platform.registry;
   const QString file = Settings::GetOption(registry, PreferenceOf("NewPageTemplate"));
   if (file.isEmpty() || !Settings::HasAdditions(registry)) return modWorkFlow::NewPageTemplate();
   try {
-    return TextOfPageFile(context, FromPeople(file));
+    return modGeneral::ReadWholeFile(context.platform.files, FromPeople(file));
   } catch (const RuntimeError &error) {
     context.mainWindow.status.Report(
         Words::tr("The template for new pages cannot be read: %1").arg(error.Description()));

@@ -30,10 +30,6 @@ struct PageBeginning {
 /// The text of an HTML5 page in UTF-8.
 QString ModernPage(const PageBeginning &beginning);
 
-/// The text of a page file, decoded as an opened page is. Raises RuntimeError where it cannot be
-/// read.
-QString TextOfPageFile(const EditorContext &context, const QString &path);
-
 /// The text that New Document begins with: that of the file which the preference NewPageTemplate
 /// names, or the published one. A file that cannot be read is told in the status bar.
 QString TextOfNewPage(const EditorContext &context);

@@ -20,6 +20,7 @@
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
+#include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "insert/modColor.h"
 #include "platform/Database.h"
@@ -257,8 +258,9 @@ void CommandRouter::NewFromTemplate() {
   if (dialog.result() != QDialog::Accepted) return;
   const QString path = dialog.TemplatePath();
   try {
-    modWorkFlow::NewPage(
-        context_, path.isEmpty() ? ModernPage(dialog.Beginning()) : TextOfPageFile(context_, path));
+    modWorkFlow::NewPage(context_, path.isEmpty()
+                                       ? ModernPage(dialog.Beginning())
+                                       : modGeneral::ReadWholeFile(context_.platform.files, path));
   } catch (const RuntimeError &error) {
     context_.mainWindow.status.Report(
         Words::tr("%1 could not be opened: %2").arg(ForPeople(path), error.Description()));

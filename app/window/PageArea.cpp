@@ -2,6 +2,7 @@
 #include "app/window/PageArea.h"
 
 #include "app/window/PageAreaAccess.h"
+#include "chrome/Captions.h"
 #include "chrome/Palette.h"
 #include "editor/FrontWindow.h"
 
@@ -230,8 +231,8 @@ void WindowList::Refill() {
   if (windows.isEmpty()) return;
   entries_.append(menu_.addSeparator());
   for (QWidget *window : windows) {
-    const QString caption = area_.NameOf(window).replace(u'&', QStringLiteral("&&"));
-    QAction *entry = menu_.addAction(QStringLiteral("&%1 %2").arg(entries_.size()).arg(caption));
+    QAction *entry = menu_.addAction(
+        QStringLiteral("&%1 %2").arg(entries_.size()).arg(AsCaption(area_.NameOf(window))));
     entry->setCheckable(true);
     entry->setChecked(window == area_.Current());
     connect(entry, &QAction::triggered, window, [this, window] { area_.Activate(window); });

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/PageTabs.h"
 
+#include "chrome/Captions.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
 #include "platform/Conversions.h"
@@ -92,11 +93,10 @@ void PageTabs::Add(const QString &key, int image) {
 
 void PageTabs::SetCaption(const QString &key, const QString &caption) {
   const int index = IndexOf(key);
-  // Set before setTabText, which lays the tabs out by the caption's width. "&" is doubled: in a
-  // file name it marks no mnemonic.
+  // Set before setTabText, which lays the tabs out by the caption's width.
   tabs_[static_cast<std::size_t>(index)].caption = caption;
   Describe(index);
-  setTabText(index, QString(caption).replace(u'&', QStringLiteral("&&")));
+  setTabText(index, AsCaption(caption));
 }
 
 void PageTabs::SetState(const QString &key, const TabState &state) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/PathBar.h"
 
+#include "chrome/Captions.h"
 #include "chrome/Palette.h"
 #include "platform/PlainTip.h"
 #include "platform/Words.h"
@@ -26,9 +27,7 @@ constexpr int LongestName = 180;
 
 /// A name as a button shows it: on one line, with no mnemonic.
 QString Caption(const QToolButton &button, const QString &name) {
-  const QString shown =
-      button.fontMetrics().elidedText(name.simplified(), Qt::ElideRight, LongestName);
-  return QString(shown).replace(u'&', QStringLiteral("&&"));
+  return AsCaption(button.fontMetrics().elidedText(name.simplified(), Qt::ElideRight, LongestName));
 }
 
 }  // namespace
@@ -119,8 +118,7 @@ void PathBar::LetChooseOuter() {
   outerMenu_ = menu;
   menu->setObjectName(QStringLiteral("mnuOuterElements"));
   for (int index = 0; index < first_; ++index) {
-    QString caption = path_[index].simplified();
-    QAction *item = menu->addAction(caption.replace(u'&', QStringLiteral("&&")));
+    QAction *item = menu->addAction(AsCaption(path_[index].simplified()));
     connect(item, &QAction::triggered, this, [this, index] { Q_EMIT Chosen(index); });
   }
   menu->popup(outer_->mapToGlobal(QPoint()) - QPoint(0, menu->sizeHint().height()));

@@ -5,6 +5,7 @@
 #include "app/window/PageArea.h"
 #include "app/window/PathBar.h"
 #include "app/window/PropertyDialogs.h"
+#include "chrome/Captions.h"
 #include "editor/frmMain.h"
 #include "platform/Dialogs.h"
 #include "platform/Words.h"
@@ -37,13 +38,9 @@ PropertySubject SubjectOf(const QString &name) {
   return found == subjects.end() ? PropertySubject::Element : found->second;
 }
 
-QString WithoutMnemonic(QString text) {
-  return text.replace(u'&', QStringLiteral("&&"));
-}
-
 /// Makes an item that gives the class to the element or takes it off.
 QAction *ClassItem(frmMain &page, int element, const QString &name, bool has, QObject *parent) {
-  auto *item = new QAction(WithoutMnemonic(name), parent);
+  auto *item = new QAction(AsCaption(name), parent);
   item->setCheckable(true);
   item->setChecked(has);
   QObject::connect(item, &QAction::triggered, &page, [&page, element, name](bool on) {

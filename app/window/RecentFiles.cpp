@@ -2,6 +2,7 @@
 #include "app/window/RecentFiles.h"
 
 #include "app/settings/modSettingManager.h"
+#include "chrome/Captions.h"
 #include "platform/Paths.h"
 
 #include <QAction>
@@ -31,9 +32,9 @@ void RecentFiles::Refill() {
     const qsizetype number = menu_.actions().size() + 1;
     const QString mark = number > MostMnemonics ? QString() : QStringLiteral("&");
     const QString name = ForPeople(path);
-    const QString caption = QString(name).replace(u'&', QStringLiteral("&&"));
-    QAction *item = menu_.addAction(QStringLiteral("%1%2 %3").arg(mark).arg(number).arg(caption),
-                                    this, [this, path] { open_(path); });
+    QAction *item =
+        menu_.addAction(QStringLiteral("%1%2 %3").arg(mark).arg(number).arg(AsCaption(name)), this,
+                        [this, path] { open_(path); });
     item->setToolTip(name);
   }
   if (paths.isEmpty()) menu_.addAction(tr("No file was opened yet"))->setEnabled(false);
