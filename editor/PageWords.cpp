@@ -2,6 +2,7 @@
 #include "editor/PageWords.h"
 
 #include "app/settings/modSettingManager.h"
+#include "chrome/Captions.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "platform/PageSpelling.h"
@@ -22,19 +23,14 @@ constexpr const Preference &CheckSpelling = PreferenceOf("CheckSpelling");
 constexpr qsizetype MostSuggestions = 6;
 
 void CheckAgain(EditorContext &context) {
-  for (int number = 1; number <= context.pages.PageCount(); ++number) {
-    frmMain *page = context.pages.Page(number);
-    PageSpelling *spelling = page == nullptr ? nullptr : SpellingOf(*page);
-    if (spelling != nullptr) spelling->CheckAgain();
-  }
+  ForEachSpelling(context, [](frmMain &, PageSpelling &spelling) { spelling.CheckAgain(); });
 }
 
 /// An action that finds its page open.
 template <typename Deed>
 QAction *NewAction(const char *name, const QString &caption, frmMain &page, QObject &owner,
                    Deed deed) {
-  // What is put in is no mnemonic.
-  auto *action = new QAction(QString(caption).replace(u'&', QStringLiteral("&&")), &owner);
+  auto *action = new QAction(AsCaption(caption), &owner);
   action->setObjectName(QString::fromLatin1(name));
   const QPointer<frmMain> alive = &page;
   QObject::connect(action, &QAction::triggered, &owner, [alive, deed] {
@@ -65,6 +61,15 @@ QString SiteWordList(frmMain &page) {
   return folder.isEmpty() ? QString() : folder + QStringLiteral("-words.txt");
 }
 
+void ForEachSpelling(EditorContext &context,
+                     const std::function<void(frmMain &, PageSpelling &)> &deed) {
+  for (int number = 1; number <= context.pages.PageCount(); ++number) {
+    frmMain *page = context.pages.Page(number);
+    PageSpelling *spelling = page == nullptr ? nullptr : SpellingOf(*page);
+    if (spelling != nullptr) deed(*page, *spelling);
+  }
+}
+
 void UseSpelling(frmMain &page) {
   PageSpelling *spelling = SpellingOf(page);
   if (spelling == nullptr) return;
@@ -74,8 +79,7 @@ void UseSpelling(frmMain &page) {
 }
 
 void UseSpelling(EditorContext &context) {
-  for (int number = 1; number <= context.pages.PageCount(); ++number)
-    if (frmMain *page = context.pages.Page(number)) UseSpelling(*page);
+  ForEachSpelling(context, [](frmMain &page, PageSpelling &) { UseSpelling(page); });
 }
 
 void IgnoreWord(frmMain &page, const QString &word) {
@@ -93,6 +97,10 @@ void AddWord(frmMain &page, const QString &word, WordHome home) {
     return;
   }
   CheckAgain(context);
+}
+
+QString WordsChanged(int count) {
+  return count == 1 ? Words::tr("One word changed") : Words::tr("%n words changed", nullptr, count);
 }
 
 QList<QAction *> WordActions(frmMain &page, QObject &owner) {

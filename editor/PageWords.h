@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 class QAction;
 class QObject;
 
@@ -23,6 +25,10 @@ PageSpelling *SpellingOf(frmMain &page);
 /// Empty for a page of no project.
 QString SiteWordList(frmMain &page);
 
+/// Calls `deed` with each open page whose spelling is checked; it may wait for the page.
+void ForEachSpelling(EditorContext &context,
+                     const std::function<void(frmMain &, PageSpelling &)> &deed);
+
 /// Has the words of a page judged, with waves under unknown ones where the preference CheckSpelling
 /// says so. To be called for each page that was loaded.
 void UseSpelling(frmMain &page);
@@ -33,6 +39,9 @@ void UseSpelling(EditorContext &context);
 /// list that cannot be written is told of in the status bar.
 void IgnoreWord(frmMain &page, const QString &word);
 void AddWord(frmMain &page, const QString &word, WordHome home);
+
+/// What the person is told after words were changed.
+QString WordsChanged(int count);
 
 /// What can be done to the unknown word at the page's caret: suggestions, adding, ignoring. Waits
 /// for the page. Empty where no such word is there. They belong to `owner`; the page may be closed

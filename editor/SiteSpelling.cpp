@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/SiteSpelling.h"
 
-#include "editor/PageSlots.h"
 #include "editor/PageWords.h"
+#include "editor/SuggestionBox.h"
 #include "editor/frmMain.h"
 #include "platform/Platform.h"
 #include "platform/Words.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -25,22 +24,13 @@ namespace {
 
 enum Column { WordColumn, CountColumn, PagesColumn };
 
-/// Calls `deed` with each open page that has a spelling; it may wait for the page.
-template <typename Deed>
-void ForEachPage(EditorContext &context, Deed deed) {
-  for (int number = 1; number <= context.pages.PageCount(); ++number) {
-    frmMain *page = context.pages.Page(number);
-    if (page != nullptr && SpellingOf(*page) != nullptr) deed(*page);
-  }
-}
-
 }  // namespace
 
 std::vector<SiteWord> UnknownWordsOfPages(EditorContext &context) {
   std::map<QString, SiteWord> found;
-  ForEachPage(context, [&](frmMain &page) {
+  ForEachSpelling(context, [&](frmMain &page, PageSpelling &spelling) {
     const QString name = page.ShownName();
-    for (const UnknownWord &each : SpellingOf(page)->All()) {
+    for (const UnknownWord &each : spelling.All()) {
       SiteWord &word = found[each.word];
       if (word.count == 0) word.word = each;
       ++word.count;
@@ -55,7 +45,9 @@ std::vector<SiteWord> UnknownWordsOfPages(EditorContext &context) {
 
 int CorrectInPages(EditorContext &context, const QString &word, const QString &other) {
   int count = 0;
-  ForEachPage(context, [&](frmMain &page) { count += SpellingOf(page)->CorrectAll(word, other); });
+  ForEachSpelling(context, [&](frmMain &, PageSpelling &spelling) {
+    count += spelling.CorrectAll(word, other);
+  });
   return count;
 }
 
@@ -83,11 +75,7 @@ void FrmSiteSpelling::Build() {
 
   auto *changing = new QHBoxLayout;
   auto *label = new QLabel(Words::tr("Change &to:"));
-  other_ = new QComboBox;
-  other_->setObjectName(QStringLiteral("cobChangeTo"));
-  other_->setAccessibleName(Words::tr("Change to"));
-  other_->setEditable(true);
-  other_->setInsertPolicy(QComboBox::NoInsert);
+  other_ = new SuggestionBox("cobChangeTo");
   label->setBuddy(other_);
   changing->addWidget(label);
   changing->addWidget(other_, 1);
@@ -136,11 +124,7 @@ const SiteWord *FrmSiteSpelling::Chosen() const {
 
 void FrmSiteSpelling::ShowSuggestions() {
   other_->clear();
-  const SiteWord *chosen = Chosen();
-  if (chosen == nullptr) return;
-  const auto &[word, language] = chosen->word;
-  other_->addItems(context_.platform.spelling->Suggestions(word, language));
-  if (other_->count() == 0) other_->setEditText(word);
+  if (const SiteWord *chosen = Chosen()) other_->Offer(chosen->word, *context_.platform.spelling);
 }
 
 void FrmSiteSpelling::ChangeEverywhere() {
@@ -149,7 +133,7 @@ void FrmSiteSpelling::ChangeEverywhere() {
   const QPointer<FrmSiteSpelling> alive(this);
   const int count = CorrectInPages(context_, chosen->word.word, other_->currentText());
   if (alive.isNull()) return;
-  result_->setText(Words::tr("%n word(s) changed", "", count));
+  result_->setText(WordsChanged(count));
   Drop();
 }
 
@@ -159,7 +143,7 @@ void FrmSiteSpelling::TakeForKnown(Deed deed) {
   if (chosen == nullptr) return;
   // Every page has the person's words.
   frmMain *any = nullptr;
-  ForEachPage(context_, [&any](frmMain &page) { any = &page; });
+  ForEachSpelling(context_, [&any](frmMain &page, PageSpelling &) { any = &page; });
   if (any != nullptr) deed(*any, chosen->word.word);
   result_->clear();
   Drop();

@@ -8,12 +8,12 @@
 
 #include <vector>
 
-class QComboBox;
 class QLabel;
 class QTreeWidget;
 
 namespace velor {
 
+class SuggestionBox;
 class frmMain;
 struct EditorContext;
 
@@ -56,7 +56,7 @@ class FrmSiteSpelling final : public QDialog {
   EditorContext &context_;
   std::vector<SiteWord> words_;
   QTreeWidget *list_ = nullptr;
-  QComboBox *other_ = nullptr;
+  SuggestionBox *other_ = nullptr;
   QLabel *result_ = nullptr;
 };
 

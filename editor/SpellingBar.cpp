@@ -2,11 +2,11 @@
 #include "editor/SpellingBar.h"
 
 #include "editor/PageWords.h"
+#include "editor/SuggestionBox.h"
 #include "editor/frmMain.h"
 #include "platform/Platform.h"
 #include "platform/Words.h"
 
-#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
@@ -22,13 +22,7 @@ constexpr int BoxWidth = 220;
 
 SpellingBar::SpellingBar(frmMain &page)
     : NoticeBar("picSpelling", "lblUnknownWord", Words::tr("Spelling"), &page), page_(page) {
-  other_ = new QComboBox;
-  other_->setObjectName(QStringLiteral("cobSuggestions"));
-  other_->setAccessibleName(Words::tr("Change to"));
-  other_->setEditable(true);
-  other_->setInsertPolicy(QComboBox::NoInsert);
-  // A completer takes Enter for itself while the suggestion is selected.
-  other_->setCompleter(nullptr);
+  other_ = new SuggestionBox("cobSuggestions");
   other_->setMinimumWidth(BoxWidth);
   Add(*other_);
   const auto add = [this](const char *name, const QString &caption, const QString &tip,
@@ -71,9 +65,7 @@ void SpellingBar::GoOn() {
 void SpellingBar::Show(const UnknownWord &found) {
   shown_ = found;
   Tell(Words::tr("Unknown word: %1").arg(found.word));
-  other_->clear();
-  other_->addItems(page_.Context().platform.spelling->Suggestions(found.word, found.language));
-  if (other_->count() == 0) other_->setEditText(found.word);
+  other_->Offer(found, *page_.Context().platform.spelling);
   addToSite_->setVisible(!SiteWordList(page_).isEmpty());
   other_->setFocus();
   other_->lineEdit()->selectAll();
@@ -90,8 +82,7 @@ void SpellingBar::ChangeAll() {
   const QPointer<SpellingBar> alive(this);
   const int count = SpellingOf(page_)->CorrectAll(shown_->word, other_->currentText());
   if (alive.isNull()) return;
-  page_.Context().mainWindow.status.Report(
-      count == 1 ? Words::tr("One word changed") : Words::tr("%n words changed", nullptr, count));
+  page_.Context().mainWindow.status.Report(WordsChanged(count));
   GoOn();
 }
 

@@ -7,10 +7,9 @@
 
 #include <optional>
 
-class QComboBox;
-
 namespace velor {
 
+class SuggestionBox;
 class frmMain;
 
 /// The bar under a page that walks through its unknown words, from the selection on. The word is
@@ -40,7 +39,7 @@ class SpellingBar final : public NoticeBar {
 
   frmMain &page_;
   std::optional<UnknownWord> shown_;
-  QComboBox *other_ = nullptr;
+  SuggestionBox *other_ = nullptr;
   QWidget *addToSite_ = nullptr;
 };
 

@@ -3528,13 +3528,6 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>Unknown word: %1</source>
         <translation>Unbekanntes Wort: %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n word(s) changed</source>
-        <translation>
-            <numerusform>%n Wort geändert</numerusform>
-            <numerusform>%n Wörter geändert</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The spelling of a language of this page is not checked: the package %1 is not installed.</source>
         <translation>Die Rechtschreibung einer Sprache dieser Seite wird nicht geprüft: Das Paket %1 ist nicht installiert.</translation>

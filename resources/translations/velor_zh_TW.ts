@@ -3517,12 +3517,6 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>Unknown word: %1</source>
         <translation>未知字詞：%1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n word(s) changed</source>
-        <translation>
-            <numerusform>已變更 %n 個字詞</numerusform>
-        </translation>
-    </message>
     <message>
         <source>The spelling of a language of this page is not checked: the package %1 is not installed.</source>
         <translation>此網頁有一種語言未檢查拼字：未安裝套件 %1。</translation>
