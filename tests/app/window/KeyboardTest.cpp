@@ -200,7 +200,7 @@ TEST_F(KeyboardTest, NoTwoControlsInSightOfAWindowShareAnAltKey) {
   const char *const items[] = {"mnuNewFromTemplate", "mnuCharacter", "mnuAbout",    "mnuPrint",
                                "mnuFindCommand",     "mnuSettings",  "mnuDrives",   "mnuTBLnew",
                                "mnuISTimage",        "mnuISTlink",   "mnuBookmark", "mnuVideo",
-                               "mnuView_ProjectMan", "extInHTML",  "mnuShortcuts"};
+                               "mnuView_ProjectMan", "extInHTML",    "mnuShortcuts"};
   for (const char *item : items) {
     dialogs.ExpectModal([item](QWidget &dialog) {
       dialog.show();
