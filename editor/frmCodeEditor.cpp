@@ -8,6 +8,7 @@
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
+#include "page/text/PageEncoding.h"
 #include "platform/Conversions.h"
 #include "platform/Dialogs.h"
 #include "platform/Platform.h"
@@ -122,6 +123,14 @@ bool frmCodeEditor::Apply() {
   failure.icon = MessageIcon::Critical;
   dialogs.ShowMessage(failure);
   return false;
+}
+
+void frmCodeEditor::InsertCharacter(const QString &character) {
+  const QByteArray bytes = EncodePage(
+      character, EncodingInPlaceOf(modWorkFlow::EncodingOf(context_, number_), code_->Text()));
+  const bool isReference = bytes.startsWith("&#");
+  code_->ReplaceSelection(isReference ? QString::fromLatin1(bytes) : character.toHtmlEscaped());
+  code_->SetFocus();
 }
 
 QString frmCodeEditor::ShownName() const {

@@ -76,6 +76,10 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   /// the focus afterwards, its caret where it was. Returns whether the page has the source now.
   bool Apply();
 
+  /// Puts a character in the place of the selection: as itself where the source's charset has it,
+  /// else as a reference, as what stands for markup.
+  void InsertCharacter(const QString &character);
+
   // FrontWindow
   FrontView View() const override { return FrontView::SourceEditor; }
   int PageNumber() const override { return number_; }

@@ -19,6 +19,7 @@ enum class Notice {
   Complete,
   Display,
   Search,
+  Counts,
   Memory,
   Parts,
   Picture,

@@ -22,6 +22,18 @@ namespace velor {
 
 namespace {
 
+TextCount CountFrom(const QVariantMap &told) {
+  return {told[QStringLiteral("words")].toInt(), told[QStringLiteral("characters")].toInt()};
+}
+
+/// What `velor.counts` answers.
+TextCounts CountsFrom(const QVariantMap &told) {
+  TextCounts counts{.page = CountFrom(told[QStringLiteral("page")].toMap()), .selection = {}};
+  const QVariant selection = told[QStringLiteral("selection")];
+  if (!selection.isNull()) counts.selection = CountFrom(selection.toMap());
+  return counts;
+}
+
 /// The widget that is laid out; the view is put into it when the first document is loaded.
 class EditorFrame : public QWidget {
  public:
@@ -216,6 +228,14 @@ void WebEditor::SetFocus() {
     document_.View()->SetFocus();
   else if (document_.Frame() != nullptr)
     document_.Frame()->setFocus();
+}
+
+void WebEditor::CountText(const TextCounted &counted) {
+  if (document_.View() == nullptr) return;
+  document_.View()->Run(QStringLiteral("velor.counts()"), [this, counted](const QVariant &answer) {
+    notices_.Post(Notice::Counts,
+                  [counted, counts = CountsFrom(answer.toMap())] { counted(counts); });
+  });
 }
 
 void WebEditor::SetZoom(double factor) {

@@ -62,6 +62,7 @@ class WebEditor : public EditingComponent {
   TextSearch &Search() override { return search_; }
   PagePrinting &Printing() override { return printing_; }
   PageSpelling *SpellCheck() override { return &spelling_; }
+  void CountText(const TextCounted &counted) override;
   double Zoom() const override { return zoom_; }
   void SetZoom(double factor) override;
   HtmlDocument &Document() override;

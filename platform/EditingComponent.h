@@ -5,6 +5,7 @@
 #include "platform/ElementPlace.h"
 #include "platform/HtmlDocument.h"
 #include "platform/PageMemory.h"
+#include "platform/TextCounts.h"
 
 #include <QPoint>
 #include <QString>
@@ -158,6 +159,9 @@ class EditingComponent {
   virtual PagePrinting &Printing() = 0;
   /// The spelling of the page's words; null where there is none. Valid as long as the component.
   virtual PageSpelling *SpellCheck() { return nullptr; }
+  /// Counts the words of the page; `counted` is called once, from the event loop, or never where
+  /// the page does not answer.
+  virtual void CountText(const TextCounted &counted) = 0;
 
   /// How large the page is shown, 1 for its own size, from 0.25 to 5. It stays over loads and is
   /// not part of the page.

@@ -177,7 +177,10 @@ void CommandRouter::Run(const Command &command) {
       if (frmMain *page = ActiveDocument()) ShowCaretElement(*page);
       break;
     case CommandId::InsertCharacter:
-      Insert(&InsertCommands::Character);
+      if (auto *editor = dynamic_cast<frmCodeEditor *>(host_.Front()))
+        insert_.Character(*editor);
+      else
+        Insert(&InsertCommands::Character);
       break;
     case CommandId::InsertMarkup:
       Insert(&InsertCommands::Markup);

@@ -5,6 +5,7 @@
 #include "editor/MainWindow.h"
 #include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "insert/CharacterDialog.h"
 #include "insert/ElementHtml.h"
@@ -117,6 +118,14 @@ void DialogInsertCommands::Character(frmMain &page) {
   dialogs_.RunModal(dialog);
   if (alive.isNull() || dialog.result() != QDialog::Accepted) return;
   page.DHTML1().Document().Selection().CreateRange()->PasteHTML(dialog.Character().toHtmlEscaped());
+}
+
+void DialogInsertCommands::Character(frmCodeEditor &editor) {
+  const QPointer<frmCodeEditor> alive = &editor;
+  CharacterDialog dialog(recentCharacters_, editor.window());
+  dialogs_.RunModal(dialog);
+  if (!alive.isNull() && dialog.result() == QDialog::Accepted)
+    editor.InsertCharacter(dialog.Character());
 }
 
 void DialogInsertCommands::PictureFile(frmMain &page, const QString &path) {

@@ -44,6 +44,7 @@ class DialogInsertCommands final : public InsertCommands {
   void Table(frmMain &page) override;
   void Markup(frmMain &page) override;
   void Character(frmMain &page) override;
+  void Character(frmCodeEditor &editor) override;
   void PictureFile(frmMain &page, const QString &path) override;
 
  private:

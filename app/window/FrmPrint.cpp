@@ -32,19 +32,7 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds RemakePause = 250ms;
 /// Dots a point on paper: 300 an inch.
 constexpr qreal PrintDensity = 300.0 / 72;
-constexpr int Percent = 100;
-
-struct Paper {
-  const char *name;
-  QPageSize::PageSizeId size;
-};
-
-constexpr std::array<Paper, 5> Papers{{{"A4", QPageSize::A4},
-                                       {"A3", QPageSize::A3},
-                                       {"A5", QPageSize::A5},
-                                       {"Letter", QPageSize::Letter},
-                                       {"Legal", QPageSize::Legal}}};
-constexpr const char *Orientations[] = {Words::Mark("Upright"), Words::Mark("Across")};
+constexpr qreal Percent = 100;
 
 QSpinBox *AddNumber(QFormLayout &form, const char *name, const QString &label, int most,
                     const QString &unit) {
@@ -54,6 +42,8 @@ QSpinBox *AddNumber(QFormLayout &form, const char *name, const QString &label, i
   AddControl(&form, QString::fromLatin1(name), label, box);
   return box;
 }
+
+constexpr const char *Orientations[] = {Words::Mark("Upright"), Words::Mark("Across")};
 
 }  // namespace
 
@@ -99,9 +89,9 @@ void FrmPrint::BuildChoices(QFormLayout &form) {
   paper_ = AddComboBox(&form, QStringLiteral("cobPaper"), Words::tr("&Paper:"), names);
   orientation_ =
       AddComboBox(&form, QStringLiteral("cobOrientation"), Words::tr("&Direction:"), Orientations);
-  margins_ = AddNumber(form, "txtMargins", Words::tr("&Margins:"), 50, Words::tr(" mm"));
-  scale_ = AddNumber(form, "txtScale", Words::tr("&Scale:"), 400, Words::tr(" %"));
-  scale_->setMinimum(20);
+  margins_ = AddNumber(form, "txtMargins", Words::tr("&Margins:"), WidestMargin, Words::tr(" mm"));
+  scale_ = AddNumber(form, "txtScale", Words::tr("&Scale:"), MostScale, Words::tr(" %"));
+  scale_->setMinimum(LeastScale);
   backgrounds_ = AddCheckBox(&form, QStringLiteral("chkBackgrounds"), Words::tr("&Backgrounds"));
   edgeLines_ = AddCheckBox(&form, QStringLiteral("chkEdgeLines"), Words::tr("&Header and footer"));
 
@@ -111,8 +101,8 @@ void FrmPrint::BuildChoices(QFormLayout &form) {
       paper_->setCurrentIndex(static_cast<int>(index));
   }
   orientation_->setCurrentIndex(chosen.layout.orientation() == QPageLayout::Landscape ? 1 : 0);
-  margins_->setValue(qRound(chosen.layout.margins(QPageLayout::Millimeter).top()));
-  scale_->setValue(qRound(chosen.scale * Percent));
+  margins_->setValue(MarginOf(chosen));
+  scale_->setValue(PercentOf(chosen));
   backgrounds_->setChecked(chosen.backgrounds == PaperForm::Backgrounds::Printed);
   edgeLines_->setChecked(choices_.hasEdgeLines);
 
@@ -125,12 +115,11 @@ void FrmPrint::BuildChoices(QFormLayout &form) {
 
 void FrmPrint::MakePages() {
   PaperForm &form = choices_.form;
-  const qreal margin = margins_->value();
-  form.layout = QPageLayout(
-      QPageSize(Papers.at(static_cast<std::size_t>(paper_->currentIndex())).size),
-      orientation_->currentIndex() == 1 ? QPageLayout::Landscape : QPageLayout::Portrait,
-      QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
-  form.scale = static_cast<qreal>(scale_->value()) / Percent;
+  form.layout =
+      LayoutOf(Papers.at(static_cast<std::size_t>(paper_->currentIndex())).size,
+               orientation_->currentIndex() == 1 ? QPageLayout::Landscape : QPageLayout::Portrait,
+               margins_->value());
+  form.scale = scale_->value() / Percent;
   form.backgrounds =
       backgrounds_->isChecked() ? PaperForm::Backgrounds::Printed : PaperForm::Backgrounds::LeftOut;
   choices_.hasEdgeLines = edgeLines_->isChecked();

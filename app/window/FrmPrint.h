@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/window/PaperPages.h"
-#include "platform/PagePrinting.h"
+#include "app/window/PrintChoices.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -21,12 +21,6 @@ namespace velor {
 class PaperPrinter;
 class PaperView;
 class Printers;
-
-/// What a person chose when a page was last printed.
-struct PrintChoices {
-  PaperForm form;
-  bool hasEdgeLines = true;
-};
 
 /// What is printed, for the header and the footer.
 struct PrintedPage {

@@ -5,6 +5,7 @@
 
 namespace velor {
 
+class frmCodeEditor;
 class frmMain;
 
 /// The commands that insert an element at the caret of a page. All but PictureFile show a dialog.
@@ -20,6 +21,8 @@ class InsertCommands {
   virtual void Markup(frmMain &page) = 0;
   /// Puts in a character that the person chooses.
   virtual void Character(frmMain &page) = 0;
+  /// The same in a source editor.
+  virtual void Character(frmCodeEditor &editor) = 0;
   /// Inserts the picture file without a dialog, with the link that the dialog would make. `path` in
   /// logic form.
   virtual void PictureFile(frmMain &page, const QString &path) = 0;

@@ -6,8 +6,10 @@
 #include "app/window/CommandList.h"
 #include "app/window/CommandPalette.h"
 #include "app/window/CoolBar.h"
+#include "app/window/CountMenu.h"
 #include "app/window/DialogInsertCommands.h"
 #include "app/window/FormattingBar.h"
+#include "app/window/FrmPrint.h"
 #include "app/window/FrmSettings.h"
 #include "app/window/FrmShortcuts.h"
 #include "app/window/PageArea.h"
@@ -161,8 +163,10 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
   PrepareHelp();
   new WindowList(*menus_.menus.value(QStringLiteral("mnuWindow")), *area_, this);
   new PaneWalk(*this, *area_);
-  if (additions_ == Additions::On)
+  if (additions_ == Additions::On) {
     new PathCommands(statusLine_->AddPath(), *area_, platform_.dialogs, this);
+    new CountMenu(*statusLine_, *area_, context_, this);
+  }
 }
 
 MfrmProgram::~MfrmProgram() {
@@ -454,8 +458,11 @@ void MfrmProgram::ExportPdf(FrontWindow &front) {
 void MfrmProgram::Print(FrontWindow &front) {
   PagePrinting *printing = front.Printing();
   if (printing == nullptr) return;
-  FrmPrint dialog(*printing, printers_, {front.ShownName(), front.FilePath()}, printChoices_, this);
+  Registry &registry = platform_.registry;
+  PrintChoices choices = ReadPrintChoices(registry);
+  FrmPrint dialog(*printing, printers_, {front.ShownName(), front.FilePath()}, choices, this);
   platform_.dialogs.RunModal(dialog);
+  StorePrintChoices(registry, choices);
 }
 
 void MfrmProgram::CloseProgram() {

@@ -3,7 +3,6 @@
 
 #include "app/window/CommandRouter.h"
 #include "app/window/CommandState.h"
-#include "app/window/FrmPrint.h"
 #include "app/window/LoadOrder.h"
 #include "app/window/MenuBuilder.h"
 #include "app/window/MenuSettings.h"
@@ -28,6 +27,7 @@ class PageArea;
 class PageChooser;
 class PageTabs;
 class PdfExport;
+class Printers;
 class ProjectDesk;
 class RecentFiles;
 class RecoveryBar;
@@ -165,7 +165,6 @@ class MfrmProgram final : public QMainWindow,
   Shortcuts *shortcuts_ = nullptr;
   EngineVersion engine_;
   Printers *printers_ = nullptr;
-  PrintChoices printChoices_;   ///< of this run
   std::unique_ptr<Help> help_;  ///< null without additions
   /// How far the window is on its way to be closed.
   enum class Closing { No, Awaited, Due, UnderWay };

@@ -5,8 +5,10 @@
 #include "chrome/Palette.h"
 #include "platform/Words.h"
 
+#include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -63,6 +65,25 @@ PathBar &StatusLine::AddPath() {
   line_->addWidget(path_, 1);
   ShowTagOrPlace();
   return *path_;
+}
+
+void StatusLine::AddMenuButton(const QString &caption, const QString &name) {
+  menuButton_ = new QToolButton(this);
+  menuButton_->setObjectName(QStringLiteral("cmdStatusMenu"));
+  menuButton_->setText(caption);
+  menuButton_->setAccessibleName(name);
+  menuButton_->setToolTip(name);
+  menuButton_->setAutoRaise(true);
+  menuButton_->setFocusPolicy(Qt::TabFocus);
+  connect(menuButton_, &QToolButton::clicked, this,
+          [this] { Q_EMIT MenuWanted(menuButton_->mapToGlobal(QPoint())); });
+  addPermanentWidget(menuButton_);
+}
+
+void StatusLine::contextMenuEvent(QContextMenuEvent *event) {
+  if (menuButton_ == nullptr) return QStatusBar::contextMenuEvent(event);
+  const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+  Q_EMIT MenuWanted(isByKey ? menuButton_->mapToGlobal(QPoint()) : event->globalPos());
 }
 
 void StatusLine::ShowPath(const QStringList &path) {

@@ -11,6 +11,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QToolButton;
 
 namespace velor {
 
@@ -39,6 +40,9 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   void Report(const QString &message) override;
   void ReportOn(int page, const QString &message) override;
   bool HasNotice() const override;
+  /// Adds a button that asks for the status bar's menu, as the menu key and the right mouse button
+  /// do from then on. To be called once.
+  void AddMenuButton(const QString &caption, const QString &name);
   /// Adds the path of elements, which ShowPath fills from then on. To be called once.
   PathBar &AddPath();
   /// Shows the path of the file that the pointer is on, in place of the tag; empty: the tag again.
@@ -46,6 +50,13 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   /// To be called with the slot of the page that has come to the front, 0 for none: removes the
   /// notices about other pages.
   void PageActivated(int page);
+
+ Q_SIGNALS:
+  /// The menu is asked for, to stand over a place of the screen.
+  void MenuWanted(QPoint screenPosition);
+
+ protected:
+  void contextMenuEvent(QContextMenuEvent *event) override;
 
  private:
   struct Notice {
@@ -65,6 +76,7 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   PathBar *path_ = nullptr;
   QLabel *measures_;
   QLabel *textForm_;
+  QToolButton *menuButton_ = nullptr;
   QString tagName_;
   QString place_;
   const NoticeTimes times_;

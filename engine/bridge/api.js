@@ -6,6 +6,7 @@ import { changeObject, setBookmark, setLink } from './clipboard/dialogs.js';
 import { pasteAs } from './clipboard/clipboard.js';
 import { isPasting } from './clipboard/longPaste.js';
 import { pasteHTML } from './clipboard/paste.js';
+import { counts } from './find/counts.js';
 import { endFind, find, replaceAll, replaceFound, selectedLine } from './find/find.js';
 import { changePicture, removePicture } from './clipboard/pictures.js';
 import { setDetails } from './objects/details.js';
@@ -71,6 +72,7 @@ globalThis.velor = {
   replaceAll,
   endFind,
   selectedLine,
+  counts,
   setSpelling,
   spelled,
   checkAgain,

@@ -292,6 +292,9 @@ interface PageMatch extends TextMatch { line: TextLine }
 /** A stretch of a line. */
 interface LineStretch { line: TextLine; start: number; end: number }
 
+/** How much text there is. */
+interface TextCount { words: number; characters: number }
+
 /** A line as its spelling is judged; see spelling/spelledLines.js. */
 interface SpelledLine {
   line: TextLine;

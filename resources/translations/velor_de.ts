@@ -3903,6 +3903,34 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>Left %1, top %2, size %3 × %4</source>
         <translation>Links %1, oben %2, Größe %3 × %4</translation>
     </message>
+    <message>
+        <source>Words...</source>
+        <translation>Wörter...</translation>
+    </message>
+    <message>
+        <source>Words and characters</source>
+        <translation>Wörter und Zeichen</translation>
+    </message>
+    <message>
+        <source>There is no page whose words could be counted</source>
+        <translation>Es gibt keine Seite, deren Wörter gezählt werden könnten</translation>
+    </message>
+    <message>
+        <source>Words in the page: %1</source>
+        <translation>Wörter in der Seite: %1</translation>
+    </message>
+    <message>
+        <source>Characters in the page: %1</source>
+        <translation>Zeichen in der Seite: %1</translation>
+    </message>
+    <message>
+        <source>Words in the selection: %1</source>
+        <translation>Wörter in der Auswahl: %1</translation>
+    </message>
+    <message>
+        <source>Characters in the selection: %1</source>
+        <translation>Zeichen in der Auswahl: %1</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

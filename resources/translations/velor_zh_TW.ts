@@ -3891,6 +3891,34 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>Left %1, top %2, size %3 × %4</source>
         <translation>左 %1，上 %2，大小 %3 × %4</translation>
     </message>
+    <message>
+        <source>Words...</source>
+        <translation>字數...</translation>
+    </message>
+    <message>
+        <source>Words and characters</source>
+        <translation>字數與字元數</translation>
+    </message>
+    <message>
+        <source>There is no page whose words could be counted</source>
+        <translation>沒有可計算字數的頁面</translation>
+    </message>
+    <message>
+        <source>Words in the page: %1</source>
+        <translation>頁面字數：%1</translation>
+    </message>
+    <message>
+        <source>Characters in the page: %1</source>
+        <translation>頁面字元數：%1</translation>
+    </message>
+    <message>
+        <source>Words in the selection: %1</source>
+        <translation>選取範圍字數：%1</translation>
+    </message>
+    <message>
+        <source>Characters in the selection: %1</source>
+        <translation>選取範圍字元數：%1</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

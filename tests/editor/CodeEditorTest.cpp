@@ -43,6 +43,22 @@ TEST_F(CodeEditorTest, ApplyingWritesTheCopyAndLoadsThePageWithoutItsLastLineBre
   EXPECT_EQ(Content(IndexFile), "<p>a</p>");
 }
 
+TEST_F(CodeEditorTest, AChosenCharacterIsItselfWhereTheSourcesCharsetHasItElseAReference) {
+  frmCodeEditor &editor = Edit();
+  const auto insert = [&](const QString &source) {
+    Code(1).text = source;
+    Code(1).selectionStart = 0;
+    Code(1).selectionEnd = 3;
+    for (const char16_t character : u"\u00E9\u2603<&")
+      if (character != 0) editor.InsertCharacter(QChar(character));
+    return Code(1).text;
+  };
+  EXPECT_EQ(insert(QStringLiteral("one<p>")), QStringLiteral("\u00E9\u2603&lt;&amp;<p>"));
+  const QString latin = QStringLiteral("<meta charset=iso-8859-1>");
+  EXPECT_EQ(insert(QStringLiteral("one") + latin),
+            QStringLiteral("\u00E9&#9731;&lt;&amp;") + latin);
+}
+
 TEST_F(CodeEditorTest, AppliedChangesAreUnsavedChangesOfThePage) {
   frmCodeEditor &editor = Edit();
   Code(1).text = QStringLiteral("<p>edited</p>");

@@ -57,6 +57,7 @@ class FakeEditingComponent final : public EditingComponent,
   std::function<void()> whileLoading;
   FakeTextSearch search;
   FakePagePrinting printing;
+  TextCounts counts;
   double zoom = 1;
   std::optional<RuntimeError> nextLoadFailure;  ///< raised once by LoadDocument and LoadText
   std::optional<RuntimeError> nextSaveFailure;  ///< raised once by SaveDocument
@@ -109,6 +110,7 @@ class FakeEditingComponent final : public EditingComponent,
   QStringList BlockFormats() const override { return blockFormats; }
   TextSearch &Search() override { return search; }
   PagePrinting &Printing() override { return printing; }
+  void CountText(const TextCounted &counted) override { counted(counts); }
   double Zoom() const override { return zoom; }
   void SetZoom(double factor) override { zoom = factor; }
   HtmlDocument &Document() override;

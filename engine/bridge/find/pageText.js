@@ -144,3 +144,29 @@ export function pointBehind(line, index) {
   const { node, offset } = pointBefore(line, index);
   return { node, offset: offset + 1 };
 }
+
+/**
+ * The place of a point in lines: a line's number and an index in it, those of the first character
+ * at the point or behind it.
+ * @param {TextLine[]} lines
+ * @param {AnyNode} node
+ * @param {number} offset
+ * @returns {[line: number, index: number]}
+ */
+export function placeIn(lines, node, offset) {
+  const point = document.createRange();
+  point.setStart(node, offset);
+  point.collapse(true);
+  for (let line = 0; line < lines.length; line += 1) {
+    const { text, pieces } = lines[line];
+    for (let index = 0; index < pieces.length; index += 1) {
+      const { node: piece, at, offset: from } = pieces[index];
+      const end = pieces[index + 1]?.at ?? text.length;
+      if (piece === node && offset <= from + end - at) {
+        return [line, at + Math.max(0, offset - from)];
+      }
+      if (piece !== node && point.comparePoint(piece, 0) > 0) return [line, at];
+    }
+  }
+  return [lines.length, 0];
+}

@@ -3,11 +3,14 @@
 #include "app/window/Additions.h"
 #include "app/window/PageTabs.h"
 #include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "insert/frmInsertElement.h"
 #include "tests/app/window/WindowFixture.h"
+#include "tests/support/FakeSourceControl.h"
 
 #include <QStatusBar>
+#include <QTest>
 
 namespace velor {
 namespace {
@@ -234,6 +237,24 @@ TEST_F(CommandRouterTest, ASaveThatFailedIsNotSaidToHaveGoneWell) {
   Choose("mnuSave");
   EXPECT_FALSE(Find<QStatusBar>("Sta")->currentMessage().startsWith(QStringLiteral("Saved")))
       << Find<QStatusBar>("Sta")->currentMessage().toStdString();
+}
+
+TEST_F(CommandRouterTest, ACharacterThatIsChosenInASourceEditorGoesIntoTheSource) {
+  frmMain &page = NewPage();
+  page.ChangeMode(3);
+  auto &source = static_cast<FakeSourceControl &>(window.Context().pages.CodeEditor(1)->Code());
+  source.text = QStringLiteral("<p>");
+  source.selectionStart = source.selectionEnd = 3;
+  log.clear();
+  dialogs.ExpectModal([](QWidget &dialog) {
+    dialog.show();
+    auto *words = dialog.findChild<QWidget *>(QStringLiteral("txtWords"));
+    QTest::keyClicks(words, QStringLiteral("snowman"));
+    QTest::keyClick(words, Qt::Key_Return);
+  });
+  Choose("mnuCharacter");
+  EXPECT_EQ(source.text, QStringLiteral("<p>&#9731;"));
+  EXPECT_TRUE(Commands().isEmpty());
 }
 
 }  // namespace

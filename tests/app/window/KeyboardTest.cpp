@@ -99,7 +99,7 @@ TEST_F(KeyboardTest, TabMeetsEveryButtonAndBoxOfTheMainWindowInTheOrderOfTheEye)
   for (const char *box : {"cobFormat", "Font1", "cobSize"}) expect(QString::fromLatin1(box));
   for (const EditCommand &row : EditCommands)
     expect(QStringLiteral("tbrEdit_") + row.key.toString());
-  for (const char *box : {"cpFore", "cpBack", "FileTab", "CmbPages"})
+  for (const char *box : {"cpFore", "cpBack", "FileTab", "CmbPages", "cmdStatusMenu"})
     expect(QString::fromLatin1(box));
 
   QWidget &start = *Find<QWidget>(expected.constFirst().toLatin1().constData());
@@ -115,9 +115,9 @@ TEST_F(KeyboardTest, F6LeadsRoundTheBarsAndWhatIsInFrontAndShiftF6Back) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   page.setFocus();
   EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(),
-            "DHTML1 tbrGeneral_new cobFormat FileTab CmbPages Design");
+            "DHTML1 tbrGeneral_new cobFormat FileTab CmbPages cmdStatusMenu Design");
   EXPECT_EQ(WalkByF6(Qt::ShiftModifier).join(u' ').toStdString(),
-            "DHTML1 Design CmbPages FileTab cobFormat tbrGeneral_new");
+            "DHTML1 Design cmdStatusMenu CmbPages FileTab cobFormat tbrGeneral_new");
 }
 
 TEST_F(KeyboardTest, F6LeadsFromTheSourceToApplyAndToTheFindBar) {
@@ -125,11 +125,12 @@ TEST_F(KeyboardTest, F6LeadsFromTheSourceToApplyAndToTheFindBar) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   QWidget *source = window.Context().pages.CodeEditor(1)->Code().Widget();
   source->setFocus();
-  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(), "Code tbrGeneral_new FileTab Copy cmdApply");
+  EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(),
+            "Code tbrGeneral_new FileTab cmdStatusMenu Copy cmdApply");
   QTest::keyClick(source, Qt::Key_F, Qt::ControlModifier);
   source->setFocus();
   EXPECT_EQ(WalkByF6({}).join(u' ').toStdString(),
-            "Code tbrGeneral_new FileTab Copy cmdApply txtFind");
+            "Code tbrGeneral_new FileTab cmdStatusMenu Copy cmdApply txtFind");
 }
 
 TEST_F(KeyboardTest, F6LeadsToTheBarsWithoutAPage) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/PrintChoices.h"
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakePrinters.h"
@@ -111,7 +112,7 @@ TEST_F(PrintTest, HeaderAndFooterAreAtTheEdgesUnlessTheyAreTurnedOff) {
   }
 }
 
-TEST_F(PrintTest, ChoicesMakeThePagesAnewAndAreThoseOfTheNextTime) {
+TEST_F(PrintTest, ChoicesMakeThePagesAnewAndAreKeptWithThePreferences) {
   UsePages(1, [this](QWidget &dialog) {
     In<QComboBox>(dialog, "cobPaper").setCurrentText(QStringLiteral("Letter"));
     In<QComboBox>(dialog, "cobOrientation").setCurrentIndex(1);
@@ -132,6 +133,30 @@ TEST_F(PrintTest, ChoicesMakeThePagesAnewAndAreThoseOfTheNextTime) {
   EXPECT_EQ(form.layout.margins(QPageLayout::Millimeter), QMarginsF(30, 30, 30, 30));
   EXPECT_DOUBLE_EQ(form.scale, 1.5);
   EXPECT_EQ(form.backgrounds, PaperForm::Backgrounds::LeftOut);
+  const PrintChoices stored = ReadPrintChoices(registry);
+  EXPECT_EQ(stored.form.layout, form.layout);
+  EXPECT_DOUBLE_EQ(stored.form.scale, 1.5);
+  EXPECT_EQ(stored.form.backgrounds, PaperForm::Backgrounds::LeftOut);
+  EXPECT_TRUE(stored.hasEdgeLines);
+  EXPECT_EQ(registry.Writes().size(), 5) << "what was not changed is not stored";
+}
+
+TEST_F(PrintTest, StoredChoicesThatMeanNothingAreReadAsTheDefaults) {
+  const auto store = [this](const char *name, const char *text) {
+    registry.SetText(QStringLiteral("Software\\Company\\VelorCDMaker\\print"),
+                     QString::fromLatin1(name), QString::fromLatin1(text));
+  };
+  store("Paper", "B9");
+  store("Direction", "Askew");
+  store("Margins", "-3");
+  store("Scale", "100000");
+  store("Backgrounds", "perhaps");
+  const PrintChoices read = ReadPrintChoices(registry);
+  const PrintChoices usual;
+  EXPECT_EQ(read.form.layout, usual.form.layout);
+  EXPECT_DOUBLE_EQ(read.form.scale, 1);
+  EXPECT_EQ(read.form.backgrounds, PaperForm::Backgrounds::Printed);
+  EXPECT_TRUE(read.hasEdgeLines);
 }
 
 TEST_F(PrintTest, ClosingWhileItPrintsGivesTheTaskUp) {

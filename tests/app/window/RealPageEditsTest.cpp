@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QTreeWidget>
 #include <QWebEnginePage>
 #include <QWebEngineView>
 
@@ -269,6 +270,37 @@ TEST_F(RealPageEdits, AChosenCharacterIsItselfWhereTheCharsetHasItElseAReference
             "<p>o\xE9&#9731;&lt;ne</p>\n</body></html>\n");
   Choose("mnuUndo");
   EXPECT_TRUE(WaitFor([&] { return !Holds(page, QStringLiteral("&lt;")); })) << Seen(page);
+}
+
+TEST_F(RealPageEdits, AKeyOfThePersonsGoesBeforeThePagesOwnAndWordsAreCounted) {
+  frmMain &page = Open(File, "<html><body>\n<p>one two</p><!-- note -->\n</body></html>\n");
+  dialogs.ExpectModal([](QWidget &shown) {
+    shown.show();
+    auto &list = *shown.findChild<QTreeWidget *>(QStringLiteral("lstCommands"));
+    auto *box = shown.findChild<QWidget *>(QStringLiteral("txtKey"));
+    const auto press = [&](const char *name, Qt::Key key) {
+      list.setCurrentItem(list.findItems(QString::fromLatin1(name), Qt::MatchExactly).value(0));
+      QTest::keyClick(box, key, Qt::ControlModifier);
+    };
+    press("Align Center", Qt::Key_B);
+    press("Bold", Qt::Key_J);
+    shown.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+  });
+  Choose("mnuShortcuts");
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  Select(page, QStringLiteral("p"));
+  ASSERT_TRUE(WaitFor([this] { return Find<QAction>("tbrEdit_center")->isEnabled(); }));
+  Key(page, Qt::Key_B, Qt::ControlModifier);
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("center")); })) << Seen(page);
+  Key(page, Qt::Key_J, Qt::ControlModifier);
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("<b>")); })) << Seen(page);
+  EXPECT_TRUE(Holds(page, QStringLiteral("center"))) << Seen(page);
+  std::optional<TextCounts> counts;
+  page.DHTML1().CountText([&](const TextCounts &counted) { counts = counted; });
+  ASSERT_TRUE(WaitFor([&] { return counts.has_value(); }));
+  EXPECT_EQ(counts->page, (TextCount{2, 7}));
+  EXPECT_EQ(counts->selection, (TextCount{2, 7}));
 }
 
 TEST_F(RealPageEdits, WhatIsTypedWithATableSelectedGoesBehindIt) {

@@ -122,6 +122,7 @@ TEST_F(ShortcutsTest, AKeyRunsACommandWhoseMenuWasNeverOpened) {
   Use("cmdOK", [](QWidget &shown) {
     Press(shown, "Insert Row Below", Qt::Key_F8);
     Press(shown, "Bring to Front", Qt::Key_F9);
+    Press(shown, "Align Center", Qt::Key_B, Qt::ControlModifier);
   });
   for (const EditingCommand command :
        {EditingCommand::InsertRowBelow, EditingCommand::BringToFront})
@@ -129,7 +130,9 @@ TEST_F(ShortcutsTest, AKeyRunsACommandWhoseMenuWasNeverOpened) {
   log.clear();
   QTest::keyClick(Component(page).Widget(), Qt::Key_F8);
   QTest::keyClick(Component(page).Widget(), Qt::Key_F9);
-  EXPECT_EQ(Commands().join(u' ').toStdString(), "ExecCommand(6001) ExecCommand(6021)");
+  QTest::keyClick(Component(page).Widget(), Qt::Key_B, Qt::ControlModifier);
+  EXPECT_EQ(Commands().join(u' ').toStdString(),
+            "ExecCommand(6001) ExecCommand(6021) ExecCommand(5024)");
 }
 
 TEST_F(ShortcutsTest, ConflictsAreToldBeforeOk) {
