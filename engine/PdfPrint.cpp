@@ -25,12 +25,13 @@ constexpr std::chrono::milliseconds PartsLimit = 10s;
 constexpr std::chrono::milliseconds PartsPause = 30ms;
 
 /// Answers whether all parts of the page are there, and the margins of its `@page` rules in points:
-/// top, right, bottom, left, null where none is given. `scale` enlarges what is printed.
-const QString PaperScript = QStringLiteral(R"(((scale) => {
+/// top, right, bottom, left, null where none is given. `scale` enlarges what is printed, `top` is
+/// the upper margin where the page gives none. A wider one of the first sheet becomes a space at
+/// the page's start.
+const QString PaperScript = QStringLiteral(R"(((scale, top) => {
   // A page that is never on a screen would wait for these for ever.
   for (const image of document.querySelectorAll('img[loading=lazy]')) image.loading = 'eager';
   globalThis.velorPaper ??= new CSSStyleSheet();
-  velorPaper.replaceSync(scale === 1 ? '' : `@media print { html { zoom: ${scale} } }`);
   if (!document.adoptedStyleSheets.includes(velorPaper)) {
     document.adoptedStyleSheets = [...document.adoptedStyleSheets, velorPaper];
   }
@@ -48,12 +49,15 @@ const QString PaperScript = QStringLiteral(R"(((scale) => {
     [...media].some((query) => /^(only +)?(print|all)\b|^\(/.test(query));
   const sides = ['margin-top', 'margin-right', 'margin-bottom', 'margin-left'];
   const margins = [null, null, null, null];
+  let first = null;  // upper margin of the first sheet
   const read = (rules) => {
     for (const rule of rules) {
       if (rule instanceof CSSPageRule && rule.selectorText === '') {
         sides.forEach((side, at) => {
           margins[at] = inPoints(rule.style.getPropertyValue(side)) ?? margins[at];
         });
+      } else if (rule instanceof CSSPageRule && rule.selectorText === ':first') {
+        first = inPoints(rule.style.getPropertyValue('margin-top')) ?? first;
       } else if (rule instanceof CSSImportRule && isForPaper(rule.media)) {
         readSheet(rule.styleSheet);
       } else if (rule instanceof CSSMediaRule && isForPaper(rule.media)) {
@@ -70,6 +74,11 @@ const QString PaperScript = QStringLiteral(R"(((scale) => {
     }
   };
   [...document.styleSheets].forEach(readSheet);
+  const extra = Math.max(0, (first ?? 0) - (margins[0] ?? top)) / scale;
+  const padding = getComputedStyle(document.documentElement).paddingTop;
+  velorPaper.replaceSync((scale === 1 ? '' : `@media print { html { zoom: ${scale} } }`) +
+    (extra === 0 ? '' :
+      `@media print { html { padding-top: calc(${padding} + ${extra}pt) !important } }`));
   return { isReady, margins };
 }))");
 
@@ -102,8 +111,9 @@ void PdfPrint::End(const QByteArray &pdf) {
 }
 
 void PdfPrint::AwaitParts() {
-  page_.runJavaScript(QStringLiteral("%1(%2)").arg(PaperScript).arg(form_.scale), BridgeWorld,
-                      [alive = QPointer(this)](const QVariant &answer) {
+  const qreal top = form_.layout.margins(QPageLayout::Point).top();
+  page_.runJavaScript(QStringLiteral("%1(%2,%3)").arg(PaperScript).arg(form_.scale).arg(top),
+                      BridgeWorld, [alive = QPointer(this)](const QVariant &answer) {
                         if (alive.isNull()) return;
                         const QVariantMap paper = answer.toMap();
                         const bool isReady = paper.value(QStringLiteral("isReady")).toBool();

@@ -13,7 +13,7 @@ namespace velor {
 
 /// Prints a page of the engine into a PDF. Begins when pictures and fonts of the page have come, or
 /// have not for ten seconds. The engine obeys the paper size of the page's `@page` rules, but not
-/// their margins: these are taken over here.
+/// their margins: these are taken over here. Of `@page :first` a wider upper margin is.
 class PdfPrint : public QObject {
   Q_OBJECT
 

@@ -6,13 +6,18 @@
 #include "tests/engine/ComponentFixture.h"
 #include "tests/support/FakePrinters.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <QWebEnginePage>
+
+#include <algorithm>
+#include <chrono>
 
 namespace velor {
 namespace {
@@ -84,6 +89,20 @@ TEST_F(RealPrint, UnsavedEditsAreOnPaperAndTheRulesForPaperAreObeyed) {
   EXPECT_TRUE(
       Read("pdfimages", {QStringLiteral("-list"), file}).contains(QStringLiteral(" image ")));
   EXPECT_EQ(Bytes(QStringLiteral("page.htm")), Page);
+}
+
+TEST_F(RealPrint, TheFirstSheetHasTheWiderUpperMarginThatThePageGivesIt) {
+  Open(QStringLiteral("page.htm"),
+       "<!DOCTYPE html>\n<html><head><style>@page { size: 100mm 100mm; margin: 1in }\n"
+       "@page :first { margin-top: 2in } p { margin: 0 } body { margin: 0 }</style></head>\n"
+       "<body><p>First<p style=\"page-break-before: always\">Second</body></html>\n");
+  Export();
+  const QString places = Read(
+      "pdftotext",
+      {QStringLiteral("-bbox"), folder.FilePath(QStringLiteral("page.pdf")), QStringLiteral("-")});
+  const QList<int> tops = Numbers(places, "yMin");
+  ASSERT_EQ(tops.size(), 2) << places.toStdString();
+  EXPECT_NEAR(tops[0] - tops[1], 72, 1) << places.toStdString();
 }
 
 TEST_F(RealPrint, LinksLeadToFilesByTheirFullAddressesAndWithinThePdf) {
@@ -181,6 +200,39 @@ TEST_F(RealPrint, EscapeInThePageLeavesTheOldFileAndTheNextExportGoesWell) {
   BeginExport();
   EXPECT_TRUE(WaitFor([&] { return Bytes(QStringLiteral("page.pdf")) != QByteArray("old"); }));
   EXPECT_TRUE(Words().contains(QStringLiteral("Last")));
+}
+
+TEST_F(RealPrint, AHundredSheetsLeaveTheWindowToThePersonAndCanBeStopped) {
+  QByteArray sheets = "<!DOCTYPE html>\n<html><body>\n";
+  for (int sheet = 0; sheet < 100; ++sheet)
+    sheets += "<p style=\"height: 20cm; break-after: page\">A sheet of many.</p>\n";
+  frmMain &page = Open(QStringLiteral("page.htm"), sheets);
+  Write(QStringLiteral("page.pdf"), "old");
+  // How long the window answered nobody.
+  std::chrono::milliseconds longest{0};
+  QElapsedTimer sinceTurn;
+  sinceTurn.start();
+  QTimer turns;
+  QObject::connect(&turns, &QTimer::timeout, &turns, [&] {
+    longest = std::max(longest, std::chrono::milliseconds(sinceTurn.restart()));
+  });
+  turns.start(std::chrono::milliseconds(5));
+  BeginExport();
+  PutCaret(page, QStringLiteral("p"));
+  Type(page, QStringLiteral("still"));
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("still")); })) << Seen(page);
+  EXPECT_TRUE(WaitFor([&] { return Bytes(QStringLiteral("page.pdf")) != QByteArray("old"); }));
+  EXPECT_LT(longest, std::chrono::seconds(2));
+  const QString file = folder.FilePath(QStringLiteral("page.pdf"));
+  EXPECT_TRUE(Read("pdfinfo", {file}).contains(QRegularExpression(QStringLiteral("Pages: +100"))));
+
+  Write(QStringLiteral("page.pdf"), "old");
+  BeginExport();
+  Find<QPushButton>("cmdStopPdf")->click();
+  EXPECT_FALSE(Find<QWidget>("picPdf")->isVisible());
+  Type(page, QStringLiteral("there"));
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("stillthere")); })) << Seen(page);
+  EXPECT_EQ(Bytes(QStringLiteral("page.pdf")), QByteArray("old"));
 }
 
 }  // namespace
