@@ -87,11 +87,13 @@ void WebSpelling::AnswerPage(const QString &json) {
             .arg(package));
 }
 
-std::optional<WebSpelling::PageText> WebSpelling::ReadPage() {
+std::optional<WebSpelling::PageText> WebSpelling::ReadPage(Extent extent) {
   current_.reset();
   if (document_.View() == nullptr || spelling_ == nullptr) return {};
   const Lifetime::Watch page = document_.WatchPage();
-  const auto answer = document_.View()->Ask(QStringLiteral("velor.spelledText()"), ReadLimit);
+  const QString part = extent == Extent::Page ? QStringLiteral("page") : QStringLiteral("line");
+  const auto answer = document_.View()->Ask(
+      QStringLiteral("velor.spelledText(%1)").arg(ScriptValue(part)), ReadLimit);
   if (!answer || page.IsOver()) return {};
   const QVariantMap told = answer->toMap();
   const auto point = [&told](const char *name) {
@@ -115,7 +117,7 @@ std::vector<WebSpelling::Place> WebSpelling::PlacesIn(const SpelledLine &line, i
 }
 
 std::optional<UnknownWord> WebSpelling::AtCaret() {
-  const auto text = ReadPage();
+  const auto text = ReadPage(Extent::LineOfSelection);
   if (!text) return {};
   const auto &[start, end] = std::pair(text->selectionStart, text->selectionEnd);
   if (start.line != end.line || start.line >= static_cast<int>(text->lines.size())) return {};

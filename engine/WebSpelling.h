@@ -51,7 +51,9 @@ class WebSpelling final : public PageSpelling {
   };
 
   void TurnWaves();
-  std::optional<PageText> ReadPage();
+  /// How much of the page is read: of a large one all of it takes long.
+  enum class Extent { Page, LineOfSelection };
+  std::optional<PageText> ReadPage(Extent extent = Extent::Page);
   std::vector<TextStretch> Judge(const SpelledLine &line);
   std::vector<Place> PlacesIn(const SpelledLine &line, int number);
   bool Select(const Place &place);

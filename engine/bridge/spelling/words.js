@@ -4,7 +4,7 @@
 // selected or exchanged that it has found there.
 import { spelledLines } from './spelledLines.js';
 import { put, putAndFollow } from '../find/exchange.js';
-import { pointBefore, pointBehind } from '../find/pageText.js';
+import { placeIn, pointBefore, pointBehind } from '../find/pageText.js';
 import * as history from '../page/history.js';
 import { showSelection } from '../page/places.js';
 import * as selection from '../page/selection.js';
@@ -13,40 +13,26 @@ import { resolveAll } from '../page/standIns.js';
 /** @type {SpelledLine[]} as they were told last */
 let told = [];
 
-// The place of a point in the lines: that of the first character at it or behind it.
-/**
- * @param {AnyNode} node
- * @param {number} offset
- */
-function placeOf(node, offset) {
-  const point = document.createRange();
-  point.setStart(node, offset);
-  point.collapse(true);
-  for (let line = 0; line < told.length; line += 1) {
-    const { text, pieces } = told[line].line;
-    for (let index = 0; index < pieces.length; index += 1) {
-      const { node: piece, at, offset: from } = pieces[index];
-      const end = pieces[index + 1]?.at ?? text.length;
-      if (piece === node && offset <= from + end - at) {
-        return [line, at + Math.max(0, offset - from)];
-      }
-      if (piece !== node && point.comparePoint(piece, 0) > 0) return [line, at];
-    }
-  }
-  return [told.length, 0];
-}
+// Reads the lines again that were told last.
+let read = spelledLines;
 
 /**
  * The page's lines, as texts with the languages of their parts, and where the selection begins and
- * ends there: a line's number and an index in it.
+ * ends there: a line's number and an index in it. Of a large page it takes long.
+ * @param {'page' | 'line'} [extent] `line`: only the line that the selection begins in
  */
-export function spelledText() {
+export function spelledText(extent) {
   history.settle();
-  told = spelledLines();
   const selected = selection.range();
-  const from = selected ? placeOf(selected.startContainer, selected.startOffset) : [0, 0];
+  const start = extent === 'line' ? selected?.startContainer : null;
+  read = start
+    ? () => (start.isConnected ? spelledLines({ first: start, last: start }) : [])
+    : spelledLines;
+  told = read();
+  const lines = told.map(({ line }) => line);
+  const from = selected ? placeIn(lines, selected.startContainer, selected.startOffset) : [0, 0];
   const to = selected && !selected.collapsed
-    ? placeOf(selected.endContainer, selected.endOffset) : from;
+    ? placeIn(lines, selected.endContainer, selected.endOffset) : from;
   return { lines: told.map(({ text, runs }) => [text, runs]), from, to };
 }
 
@@ -96,7 +82,7 @@ export function correctWord(places, word, other) {
   if (!places.some((place) => stretchOf(place, word))) return count;
   history.step('correct', () => {
     resolveAll();
-    told = spelledLines();
+    told = read();
     // From the end on: what is exchanged moves nothing before it.
     for (const place of [...places].reverse()) {
       const found = stretchOf(place, word);

@@ -103,6 +103,21 @@ TEST_F(Waves, OnlyWhatIsInSightIsAskedFor) {
   EXPECT_TRUE(WavesCome(1));
 }
 
+TEST_F(Waves, AWordAtTheCaretIsCorrectedByItsOwnLineAlone) {
+  Load(QStringLiteral("<p>line of many</p>").repeated(500) +
+       QStringLiteral("<p id=x>a <b>tqqo</b>") +
+       QStringLiteral("<p>line of many</p>").repeated(500));
+  Evaluate(
+      QStringLiteral("getSelection().collapse(x.querySelector('b').firstChild, 2);"
+                     "globalThis.told = velor.spelledText('line')"));
+  EXPECT_EQ(Text(QStringLiteral("JSON.stringify(told)")),
+            QStringLiteral("{\"lines\":[[\"a tqqo\",[]]],\"from\":[0,4],\"to\":[0,4]}"));
+  EXPECT_EQ(Evaluate(QStringLiteral("velor.correctWord([[0, 2, 6]], 'tqqo', 'two')")).toInt(), 1);
+  EXPECT_EQ(Text(QStringLiteral("x.innerHTML")), QStringLiteral("a <b>two</b>"));
+  Evaluate(QStringLiteral("velor.spelledText('line'); x.remove()"));
+  EXPECT_EQ(Evaluate(QStringLiteral("velor.correctWord([[0, 2, 5]], 'two', 'to')")).toInt(), 0);
+}
+
 TEST_F(Waves, AVeryLongLineIsLeftOut) {
   Load(QStringLiteral("<p>") + QStringLiteral("many words qq ").repeated(5000) +
        QStringLiteral("</p>"));
