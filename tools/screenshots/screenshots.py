@@ -284,6 +284,36 @@ def dialogs(photos):
     photos.dialog(lambda: program.key("ctrl+o"), "message-box", ("OK",))
 
 
+def words(photos):
+    """The windows and bars for words and paper, by the keys and the list of commands."""
+    program = photos.program
+
+    def command(name):
+        def run():
+            program.key("ctrl+shift+p")
+            program.wait("Words of the command", "text")
+            program.type(name)
+            program.key("Return")
+        return run
+
+    program.key("ctrl+n")
+    program.wait("Untitled 1", "page tab")
+    program.type("A page with a wrod in it that nobody knows")
+    program.key("ctrl+h")
+    program.type("a")
+    photos.shot("find-bar")
+    program.key("Escape")
+    program.key("F7")
+    program.wait("Change to", "combo box")
+    photos.shot("spelling-bar")
+    program.key("Escape")
+    photos.popup(lambda: photos.click("Words and characters"), "word-counts", "Down")
+    photos.dialog(command("Shortcuts"), "shortcuts", ("Reset All", "push button"))
+    photos.dialog(command("Insert Character"), "character", ("Cancel",))
+    photos.dialog(command("New from Template"), "new-page", ("Cancel",))
+    photos.dialog(lambda: program.key("ctrl+p"), "print", ("Close", "push button"))
+
+
 def modes(photos):
     program = photos.program
     page = program.wait("Untitled 5", "frame")
@@ -483,6 +513,7 @@ def main(run_folder, out, palette, scale, *wanted):
         "start": lambda: session("start", ("eImages",), start_up),
         "main": lambda: session("main", (), main_window, dialogs, modes, narrow),
         "manual": lambda: session("manual", (), manual),
+        "words": lambda: session("words", (), words),
         "objects": lambda: session("objects", (), objects),
         "names": lambda: session("names", (), names),
         "projects": lambda: session("projects", (), projects),
