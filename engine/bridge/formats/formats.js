@@ -204,7 +204,7 @@ function defineFormat(entry) {
   function unstyle(element) {
     const shared = part && written(element) !== part &&
       declarations(element).find((each) => /^\s*text-decoration(-line)?\s*:/i.test(each));
-    if (!shared && /^(DEL|S|STRIKE)$/.test(element.tagName)) {
+    if (!shared && part && /^(DEL|S|STRIKE)$/.test(element.tagName)) {
       return putDeclaration(element, property, 'none');
     }
     if (!shared) return takeDeclaration(element, property);
