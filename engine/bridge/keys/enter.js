@@ -136,13 +136,15 @@ function enterInItem(unit) {
 // engine would drop the source's lines.
 /** @param {Unit} unit */
 const isBehindText = (unit) => !isAtEdge(selection.range(), unit, 'start');
-// True for a paragraph that lies deeper in an item (in a division), with more behind it there.
+// True for a paragraph that lies deeper in an item (in a division), with more behind it there, and
+// for bare text beside other blocks of such a division: the engine would write looks of its own.
 /**
  * @param {Unit} unit
  * @param {Element} item
  */
 function goesOnInside({ block, container, nodes }, item) {
   if (item === (block ? block.parentNode : container) || item === block) return false;
+  if (!block && container.tagName === 'DIV') return true;
   for (let at = block ?? nodes.at(-1) ?? container; at !== item; at = at.parentElement) {
     if (dom.neighbour(at, 'nextSibling')) return true;
   }
