@@ -11,7 +11,7 @@ import * as pending from '../formats/pending.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
-import { beginsLine, beside, keepsBlanks } from '../page/beside.js';
+import { beginsLine, beside, endsLine, keepsBlanks } from '../page/beside.js';
 import { holdOpen, openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { takeInSigns } from '../page/signs.js';
@@ -262,6 +262,18 @@ function inLinkOfBlocks({ startContainer, startOffset }) {
   return { node: startContainer, offset: startOffset };
 }
 
+// The end of a link's words, where the caret is behind them and nothing but the source's white
+// space follows in the link and in the line. The engine would type behind the link, and that white
+// space would be seen.
+/** @param {PlainRange} caret */
+function beforeEndOfLink({ collapsed, startContainer: node, startOffset }) {
+  if (!collapsed || !dom.isText(node) || !linkAt(node) || keepsBlanks(node)) return null;
+  const offset = node.data.replace(/[ \t\r\n]+$/, '').length;
+  const isAtEnd = offset < node.length && startOffset >= offset &&
+    endsLine(beside(node, offset, 'nextSibling'));
+  return isAtEnd ? { node, offset } : null;
+}
+
 // Puts typed text into a text; answers the offset behind it.
 /**
  * @param {string} data
@@ -291,7 +303,8 @@ export function typeOver(data) {
   const range = selection.range();
   if (!range.collapsed) resolveAll();
   takeInSigns(range);
-  const start = isInLink(range) ? linkEnd : firstSelectedText(range) ?? inLinkOfBlocks(range);
+  const start = isInLink(range) ? linkEnd
+    : firstSelectedText(range) ?? inLinkOfBlocks(range) ?? beforeEndOfLink(range);
   if (!start) return false;
   const { node } = start;
   blanks.watch();
