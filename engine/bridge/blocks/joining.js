@@ -157,7 +157,8 @@ export function join(first, second, mark = null, line = null) {
   else if (first.container.firstChild) first.container.prepend(...moved);
   else first.container.append(...moved);
   moveSublists(home, itemOf(first));
-  dropEmptyBlocks(home);
+  // Before what is around it is looked at: a list of which all is deleted has one empty item.
   holdOpen(first.container);
+  dropEmptyBlocks(home);
   return between;
 }

@@ -9,6 +9,7 @@ import {
 } from './items.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
+import { holdOpen } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import {
   dropInnerLines, joinLists, moveBehind, moveToEnd, removeList, setCutList,
@@ -178,7 +179,11 @@ function toParagraphs(item) {
   }
   history.attributesOf(item);
   for (const name of ['value', 'type']) item.removeAttribute(name);
-  if (!shown.some(dom.isBlock)) return [dom.rename(item, 'P')];
+  if (!shown.some(dom.isBlock)) {
+    const paragraph = dom.rename(item, 'P');
+    holdOpen(paragraph);
+    return [paragraph];
+  }
   const blocks = [];
   /** @type {AnyNode[]} */
   let run = [];
