@@ -3,7 +3,7 @@
 // Enter. The engine splits paragraphs and items; what it would do badly is done here, and what it
 // leaves behind is put in order.
 import { deleteToLine } from '../blocks/deletion.js';
-import { isAtEdge, spansUnits } from '../blocks/extent.js';
+import { spansUnits } from '../blocks/extent.js';
 import { itemOf } from '../blocks/items.js';
 import * as lists from '../blocks/lists.js';
 import * as typing from '../blocks/typing.js';
@@ -117,7 +117,7 @@ function splitBlock(block) {
 }
 
 // In an item: an empty one is left. With other blocks in the item the engine would put the new one
-// among those.
+// among those, or drop the source's lines before a list.
 /** @param {Unit} unit */
 function enterInItem(unit) {
   const item = itemOf(unit);
@@ -129,13 +129,9 @@ function enterInItem(unit) {
   const goesOn = unit.block
     ? /^(P|DIV)$/.test(unit.block.tagName) && unit.block.parentNode === item &&
       dom.neighbour(unit.block, 'nextSibling')
-    : unit.container === item && others.some((child) => !dom.isList(child) || isBehindText(unit));
+    : unit.container === item && others.length > 0;
   return goesOn || goesOnInside(unit, item) ? () => splitBlock(item) : null;
 }
-// True where the caret has something of its paragraph before it. Before a list in an item the
-// engine would drop the source's lines.
-/** @param {Unit} unit */
-const isBehindText = (unit) => !isAtEdge(selection.range(), unit, 'start');
 // True for a paragraph that lies deeper in an item (in a division), with more behind it there, and
 // for bare text beside other blocks of such a division: the engine would write looks of its own.
 /**
