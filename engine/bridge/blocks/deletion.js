@@ -199,6 +199,7 @@ function deleteAcross(range, rest) {
   holdOpen(first.container);
   if (!begins) setToStart(rest, second);
   else if (!first.container.contains(rest.startContainer)) rest.setStart(first.container, 0);
+  if (begins && first.container.isConnected) holdItemOpen(first.container, rest);
 }
 
 /**

@@ -124,7 +124,8 @@ function moveSublists(home, item) {
   const line = dom.isBlank(rest[0].previousSibling) ? rest[0].previousSibling : rest[0];
   const moved = [...home.childNodes].slice(selection.indexOf(line));
   if (own) own.before(...moved);
-  else end.after(...moved);
+  else if (end) end.after(...moved);
+  else item.append(...moved);
   if (own && isContinuation(rest.at(-1), own)) joinLists(rest.at(-1), own);
 }
 
