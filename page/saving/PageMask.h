@@ -9,7 +9,8 @@
 namespace velor {
 
 /// Hides from the engine what it would move, drop or run:
-/// - server code (`<% %>`, `<?php ?>`, and `<!--#include-->` inside tags);
+/// - server code (`<% %>`, `<?php ?>`, and `<!--#include-->` inside tags), and tags of a server's
+///   library that would end the tag or value that they stand in;
 /// - template signs (TemplateSigns.h) among attributes and where text may not stand: between parts
 ///   of a table, before the body, behind the page's end;
 /// - NOSCRIPT elements (with scripts off a parser reads their content as markup, which ends a

@@ -23,6 +23,9 @@ constexpr std::uint32_t HeadElements[] = {
     elements::Script,      NameKeyOf(u"style"), NameKeyOf(u"noscript"), NameKeyOf(u"template"),
     NameKeyOf(u"noframes")};
 
+/// UTF-16 code units; what goes on for longer inside a tag is no server tag.
+constexpr qsizetype LongestInnerTag = 2048;
+
 bool IsSpace(QChar codeUnit) {
   return codeUnit == u' ' || codeUnit == u'\n' || codeUnit == u'\t' || codeUnit == u'\r' ||
          codeUnit == u'\f';
@@ -91,6 +94,28 @@ qsizetype PageMasker::EndOfServerTag() const {
     }
   }
   return at_;
+}
+
+qsizetype PageMasker::EndOfInnerServerTag(qsizetype at) const {
+  static const QRegularExpression tag(QStringLiteral(
+      R"(^</?[A-Za-z][\w-]*:[A-Za-z][\w.-]*(?:\s+[\w:.-]+\s*=\s*(?:"[^"]*"|'[^']*'))*\s*/?>)"));
+  if (source_[at] != u'<') return at;
+  const QStringView rest = source_.sliced(at, std::min(LongestInnerTag, source_.size() - at));
+  const QStringView found = rest.first(std::max<qsizetype>(0, tag.match(rest).capturedLength()));
+  // A name alone may be what an unclosed tag holds.
+  const bool isWhole = found.startsWith(u"</") || found.endsWith(u"/>") || found.contains(u'=');
+  return isWhole ? at + found.size() : at;
+}
+
+bool PageMasker::IsQuoteAhead(qsizetype at, QChar quote) const {
+  const qsizetype most = std::min(at + LongestInnerTag, source_.size());
+  for (; at < most && source_[at] != quote; ++at) {
+    if (source_[at] != u'<') continue;
+    const qsizetype end = std::max(EndOfServerCode(at), EndOfInnerServerTag(at));
+    if (end == at) return false;
+    at = end - 1;
+  }
+  return at < most;
 }
 
 qsizetype PageMasker::EndOfComment() const {
@@ -281,9 +306,13 @@ bool PageMasker::HideInTag(const TagState &tag) {
 }
 
 qsizetype PageMasker::EndOfSignInTag(const TagState &tag) {
-  const qsizetype end = signs_.EndOf(at_, SignPlace::InTag);
+  const qsizetype signEnd = signs_.EndOf(at_, SignPlace::InTag);
+  const qsizetype end = std::max(signEnd, EndOfInnerServerTag(at_));
   const QStringView sign = source_.sliced(at_, end - at_);
-  if (!tag.quote.isNull()) return sign.contains(tag.quote) ? end : at_;
+  if (!tag.quote.isNull()) {
+    const bool isOne = sign.contains(tag.quote) && (end == signEnd || IsQuoteAhead(end, tag.quote));
+    return isOne ? end : at_;
+  }
   if (!tag.isValue) return end;
   const bool endsValue = std::any_of(sign.begin(), sign.end(), [](QChar codeUnit) {
     return IsSpace(codeUnit) || codeUnit == u'>';

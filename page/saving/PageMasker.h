@@ -33,6 +33,10 @@ class PageMasker {
   /// The offset behind the tag of a server's library (`<c:forEach ...>`, `</s:if>`) that begins at
   /// `at_`; `at_` itself where none does.
   qsizetype EndOfServerTag() const;
+  /// The same inside another tag, where only a whole server tag is one.
+  qsizetype EndOfInnerServerTag(qsizetype at) const;
+  /// Whether a value in that quote ends as values do: the quote comes before any other tag.
+  bool IsQuoteAhead(qsizetype at, QChar quote) const;
   /// The offset behind the comment that begins at `at_`.
   qsizetype EndOfComment() const;
   bool IsSpaceAt(qsizetype at) const;

@@ -136,6 +136,26 @@ TEST(MaskedPages, KeepServerTagsWhereElementsMayNotStand) {
   }
 }
 
+TEST(MaskedPages, KeepServerTagsThatWouldEndATagOrItsValue) {
+  for (const char *file :
+       {R"(<a href="<c:url value="/x"/>">b</a>)",
+        R"(<a href="<c:url value="/x"/>?i=<c:out value="y"/>">b</a>)",
+        R"(<option <c:if test="${a > b}">selected</c:if>>c</option>)",
+        R"(<a href=<c:url value='/x y'/> id=d>b</a>)", R"(<p class='a <s:x n='o'/>'>b</p>)"}) {
+    FaithfulPage page(Original(file));
+    EXPECT_FALSE(page.TextToLoad().contains(u"<c:")) << file;
+    EXPECT_FALSE(page.TextToLoad().contains(u"<s:")) << file;
+    EXPECT_EQ(page.Unmasked(page.TextToLoad()).remove(u' '), QString::fromUtf8(file).remove(u' '));
+  }
+}
+
+TEST(MaskedPages, LeaveServerTagsThatAreNoneToTheirAttribute) {
+  for (const char *file :
+       {R"(<a href="<c:url value='/x'/>">b</a>)", R"(<a title="a <b:c">d</a> "e">)",
+        R"(<a title="a<b:c d="e">f <b>g</b> "h")", R"(<a title=a<b:c>d</a>)"})
+    EXPECT_EQ(FaithfulPage(Original(file)).TextToLoad(), QLatin1String(file));
+}
+
 TEST(MaskedPages, LeaveServerTagsInTextToTheDocument) {
   for (const char *file :
        {"<p><c:out value=\"a\"/> b</p>", "<table><tr><td><o:p>a</o:p></td></tr></table>",
