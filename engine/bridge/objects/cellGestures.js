@@ -52,6 +52,7 @@ let pressed = null;
 /** @param {MouseEvent} event */
 function press(event) {
   pressed = null;
+  endsDrag = false;
   const { target, button, shiftKey, clientX, clientY } = event;
   if (event.defaultPrevented || !dom.isEditable() || !hasAdditions()) return;
   const cell = target instanceof Element ? cellAround(target) : null;
@@ -99,7 +100,18 @@ function move(event) {
   document.getSelection().setBaseAndExtent(
     ...pressed.anchor, caret.startContainer, caret.startOffset);
 }
-const release = () => { pressed = null; };
+// A press in one cell that ends in another one makes a click on what is around both, which is none
+// on the table.
+let endsDrag = false;
+function release() {
+  endsDrag = pressed?.selects ?? false;
+  pressed = null;
+}
+/** @param {MouseEvent} event */
+function click(event) {
+  if (endsDrag) event.stopImmediatePropagation();
+  endsDrag = false;
+}
 
 /** @type {Map<string, [x: number, y: number]>} */
 const ways = new Map([
@@ -172,4 +184,5 @@ export function listenToCells() {
   document.addEventListener('mousedown', press, true);
   document.addEventListener('mousemove', move, true);
   document.addEventListener('mouseup', release, true);
+  document.addEventListener('click', click, true);
 }
