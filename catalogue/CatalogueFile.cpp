@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/CatalogueFile.h"
 
+#include "files/FileBytes.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
 
 #include <QByteArray>
-#include <QFile>
-#include <QFileInfo>
-
-#include <cerrno>
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace velor {
 
@@ -38,18 +33,6 @@ QString Source() {
   return QStringLiteral("Database.Open");
 }
 
-QByteArray ReadHeader(const QString &nativePath) {
-  const int descriptor = open(QFile::encodeName(nativePath).constData(), O_RDONLY | O_CLOEXEC);
-  if (descriptor < 0) throw RuntimeError::FromErrno(errno, Source(), nativePath);
-  QByteArray header(HeaderBytes, '\0');
-  const ssize_t count = read(descriptor, header.data(), static_cast<std::size_t>(header.size()));
-  const int cause = errno;
-  close(descriptor);
-  if (count < 0) throw RuntimeError::FromErrno(cause, Source(), nativePath);
-  header.truncate(count);
-  return header;
-}
-
 [[noreturn]] void Refuse(const QString &nativePath, const QString &objection) {
   throw RuntimeError::Of(
       ErrorNumber::DeviceIoError, Source(),
@@ -59,10 +42,7 @@ QByteArray ReadHeader(const QString &nativePath) {
 }  // namespace
 
 CatalogueKind KindOfCatalogue(const QString &nativePath) {
-  if (QFileInfo(nativePath).isDir()) {
-    throw RuntimeError::FromErrno(EISDIR, Source(), nativePath);
-  }
-  const QByteArray header = ReadHeader(nativePath);
+  const QByteArray header = ReadBeginning(nativePath, HeaderBytes, Source());
   if (header.isEmpty()) {
     Refuse(nativePath, Words::tr("it is empty; put a copy of the catalogue in its place"));
   }

@@ -6,6 +6,7 @@
 #include "catalogue/SqliteRecordset.h"
 #include "catalogue/SqliteStatement.h"
 #include "catalogue/jet/JetFile.h"
+#include "files/PosixJetStorage.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
@@ -75,7 +76,7 @@ void SqliteConnection::Open(const QString &connectionText, const QString &, cons
     database_ = OpenDatabase(file, OpenFlags(file));
     return;
   }
-  auto jet = JetFile::Open(file);
+  auto jet = JetFile::Open(OpenJetStorage(file));
   auto database = OpenDatabase(QStringLiteral(":memory:"), SQLITE_OPEN_READWRITE);
   AttachJetFile(database.get(), *jet);
   jet_ = std::move(jet);

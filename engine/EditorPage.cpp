@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/EditorPage.h"
 
-#include <QLoggingCategory>
+#include "files/Processes.h"
 
-#include <csignal>
+#include <QLoggingCategory>
 
 namespace velor {
 
@@ -51,8 +51,7 @@ void EditorPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level,
 }
 
 void EndRenderer(const QWebEnginePage &page) {
-  if (const qint64 process = page.renderProcessPid(); process > 0)
-    ::kill(static_cast<pid_t>(process), SIGKILL);
+  EndProcess(page.renderProcessPid());
 }
 
 }  // namespace velor

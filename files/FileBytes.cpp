@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/FileBytes.h"
 
+#include "platform/RuntimeError.h"
+
+#include <QFile>
 #include <QList>
 
 #include <optional>
@@ -31,6 +34,17 @@ std::optional<QByteArray> AttributeOf(int file, const char *name) {
 FileDescriptor OpenFile(FileCalls &calls, const QByteArray &name, int flags, mode_t mode) {
   return FileDescriptor(
       Uninterrupted([&] { return calls.Open(name.constData(), flags | O_CLOEXEC, mode); }));
+}
+
+QByteArray ReadBeginning(const QString &path, qsizetype count, const QString &source) {
+  const FileDescriptor file = OpenFile(FileCalls::OfTheSystem(), QFile::encodeName(path), O_RDONLY);
+  QByteArray beginning(count, '\0');
+  const ssize_t got = !file.IsOpen() ? -1 : Uninterrupted([&] {
+    return read(file.Number(), beginning.data(), static_cast<size_t>(count));
+  });
+  if (got < 0) throw RuntimeError::FromErrno(errno, source, path);
+  beginning.truncate(got);
+  return beginning;
 }
 
 bool CloseFile(FileCalls &calls, FileDescriptor file) {

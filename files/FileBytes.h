@@ -5,6 +5,7 @@
 #include "files/FileDescriptor.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <cerrno>
 
@@ -20,6 +21,10 @@ auto Uninterrupted(Call call) {
 
 /// Opens a file, with O_CLOEXEC among its flags. Not open, with errno set, where that failed.
 FileDescriptor OpenFile(FileCalls &calls, const QByteArray &name, int flags, mode_t mode = 0);
+
+/// The first bytes of a native file, at most `count`. Raises RuntimeError with that source where it
+/// cannot be read, or is a folder.
+QByteArray ReadBeginning(const QString &path, qsizetype count, const QString &source);
 
 /// False with errno set where the file system reports a failed write; the file is closed all the
 /// same.

@@ -2,6 +2,7 @@
 #include "files/TemporaryCopyFiles.h"
 
 #include "files/FileBytes.h"
+#include "files/OwnFiles.h"
 #include "files/StateFolder.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -14,7 +15,6 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <optional>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -103,15 +103,6 @@ QString ListFolder() {
   return StateFolder() + QStringLiteral("/copies");
 }
 
-/// Opens a list and takes its lock; not open where another process has it, or where it has gone.
-FileDescriptor OpenLocked(const QString &name, int flags) {
-  FileDescriptor file(open(QFile::encodeName(name).constData(),
-                           flags | O_RDWR | O_APPEND | O_CLOEXEC | O_NOFOLLOW, OwnerOnly));
-  if (!file.IsOpen() || flock(file.Number(), LOCK_EX | LOCK_NB) != 0) return FileDescriptor();
-  const auto status = StatusOf(file.Number());
-  return status && status->st_nlink > 0 ? std::move(file) : FileDescriptor();
-}
-
 }  // namespace
 
 TemporaryCopyFiles::~TemporaryCopyFiles() {
@@ -190,7 +181,7 @@ void TemporaryCopyFiles::RemoveAbandoned() {
        QDir(ListFolder()).entryList({QStringLiteral("*.list")}, QDir::Files)) {
     const QString path = ListFolder() + u'/' + name;
     if (path == listName_) continue;
-    const FileDescriptor list = OpenLocked(path, 0);
+    const FileDescriptor list = OpenLocked(path, LockCreation::Never);
     QFile reader;
     if (!list.IsOpen() || !reader.open(list.Number(), QIODevice::ReadOnly)) continue;
     for (const auto &[copy, mark] : ReadList(reader.readAll())) {
@@ -219,7 +210,7 @@ void TemporaryCopyFiles::OpenList() {
   }
   const qint64 now = QDateTime::currentMSecsSinceEpoch();
   listName_ = QStringLiteral("%1/%2-%3.list").arg(ListFolder()).arg(getpid()).arg(now);
-  list_ = OpenLocked(listName_, O_CREAT | O_EXCL);
+  list_ = OpenLocked(listName_, LockCreation::New);
 }
 
 }  // namespace velor

@@ -2,11 +2,13 @@
 #include "recovery/JournalFiles.h"
 
 #include "files/FileBytes.h"
+#include "files/OwnFiles.h"
 #include "files/StateFolder.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
 #include "recovery/JournalFormat.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -14,9 +16,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <functional>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -24,11 +23,10 @@ namespace velor {
 
 namespace {
 
-constexpr mode_t OwnerOnly = S_IRUSR | S_IWUSR;
 /// Bytes that a journal may be longer than twice its page before Compact writes it anew.
 constexpr qsizetype MostSlack = 256 * 1024;
 /// Bytes. No page is so large that its journal is that long.
-constexpr off_t LargestJournal = 512 * 1024 * 1024;
+constexpr qint64 LargestJournal = 512 * 1024 * 1024;
 /// Bytes that a journal needs at least.
 constexpr qsizetype RoomAtLeast = 4096;
 /// Folders that Abandoned looks into, empty ones included: a limit for the time of a start.
@@ -47,12 +45,7 @@ QStringList JournalsIn(const QString &folder) {
 
 /// Locks a run's folder; not open where another process has the lock, or the folder is gone.
 FileDescriptor TakeLock(const QString &folder) {
-  const QByteArray name = QFile::encodeName(folder + u'/' + LockName);
-  FileDescriptor lock(open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, OwnerOnly));
-  struct stat status {};
-  const bool isOurs = lock.IsOpen() && flock(lock.Number(), LOCK_EX | LOCK_NB) == 0 &&
-                      fstat(lock.Number(), &status) == 0 && status.st_nlink > 0;
-  return isOurs ? std::move(lock) : FileDescriptor();
+  return OpenLocked(folder + u'/' + LockName, LockCreation::IfMissing);
 }
 
 /// The folders of runs, the newest first.
@@ -75,16 +68,19 @@ RuntimeError Defect(const QString &path, const QString &why) {
 /// Opens a journal for reading. Raises RuntimeError where it cannot be opened, is no plain file, is
 /// another user's or too large.
 FileDescriptor OpenJournal(const QString &path) {
-  FileDescriptor file(
-      open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-  struct stat status {};
-  if (!file.IsOpen() && errno != ELOOP)
-    throw RuntimeError::FromErrno(errno, QStringLiteral("Journal"), path);
-  if (!file.IsOpen() || fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
-    throw Defect(path, Words::tr("it is not a file."));
-  if (status.st_uid != geteuid()) throw Defect(path, Words::tr("it is another user's."));
-  if (status.st_size > LargestJournal) throw Defect(path, Words::tr("it is too large."));
-  return file;
+  OwnFile journal = OpenOwnFile(path);
+  switch (journal.defect) {
+    case OwnFileDefect::Unreadable:
+      throw RuntimeError::FromErrno(journal.error, QStringLiteral("Journal"), path);
+    case OwnFileDefect::NoPlainFile:
+      throw Defect(path, Words::tr("it is not a file."));
+    case OwnFileDefect::OtherUsers:
+      throw Defect(path, Words::tr("it is another user's."));
+    case OwnFileDefect::None:
+      break;
+  }
+  if (journal.bytes > LargestJournal) throw Defect(path, Words::tr("it is too large."));
+  return std::move(journal.file);
 }
 
 QString DamagedBeginning() {
@@ -193,10 +189,9 @@ class JournalFile : public Journal {
   /// or the new one.
   void WriteWhole(const JournalledPage &page, Durability durability) {
     const QByteArray content = JournalHead() + JournalRecord(page);
-    const QByteArray fresh =
-        QFile::encodeName(QStringLiteral("%1/%2.tmp").arg(QFileInfo(path_).path()).arg(number_));
-    FileDescriptor file =
-        OpenFile(calls_, fresh, O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_NOFOLLOW, OwnerOnly);
+    const QString freshPath = QStringLiteral("%1/%2.tmp").arg(QFileInfo(path_).path()).arg(number_);
+    const QByteArray fresh = QFile::encodeName(freshPath);
+    FileDescriptor file = CreateOwnFile(calls_, freshPath);
     if (!file.IsOpen()) throw Failure();
     const bool isThere =
         WriteBytes(calls_, file.Number(), content) &&
@@ -237,9 +232,9 @@ QString JournalFiles::OwnFolder() {
   // tried then.
   for (int attempt = 0; own_.isEmpty() || !QFile::exists(own_); ++attempt) {
     constexpr int MostAttempts = 10;
-    const QString folder =
-        QStringLiteral("%1/%2-%3")
-            .arg(root_, QString::number(getpid()), QString::number(startTime + attempt));
+    const QString folder = QStringLiteral("%1/%2-%3")
+                               .arg(root_, QString::number(QCoreApplication::applicationPid()),
+                                    QString::number(startTime + attempt));
     MakePrivateFolder(root_);
     MakePrivateFolder(folder);
     FileDescriptor lock = TakeLock(folder);
@@ -318,7 +313,7 @@ void JournalFiles::RemoveIfEmpty(const QString &folder) {
   for (const QString &name : QDir(folder).entryList({Fragments}, QDir::Files | QDir::Hidden))
     remove(name);
   remove(LockName);
-  rmdir(QFile::encodeName(folder).constData());
+  QDir().rmdir(folder);
   locks_.erase(folder);
   if (folder == own_) own_.clear();
 }

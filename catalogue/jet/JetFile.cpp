@@ -124,10 +124,6 @@ JetFile::JetFile(std::unique_ptr<JetStorage> storage)
 
 JetFile::~JetFile() = default;
 
-std::unique_ptr<JetFile> JetFile::Open(const QString &nativePath) {
-  return Open(OpenJetStorage(nativePath));
-}
-
 std::unique_ptr<JetFile> JetFile::Open(std::unique_ptr<JetStorage> storage) {
   return std::unique_ptr<JetFile>(new JetFile(std::move(storage)));
 }

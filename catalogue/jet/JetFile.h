@@ -35,7 +35,6 @@ class JetFile {
  public:
   /// Raises RuntimeError that says what the file is, if it is no Jet 4 file that can be read here:
   /// an older or newer format, one with a password, no database.
-  static std::unique_ptr<JetFile> Open(const QString &nativePath);
   static std::unique_ptr<JetFile> Open(std::unique_ptr<JetStorage> storage);
   ~JetFile();
 

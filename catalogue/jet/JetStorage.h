@@ -6,7 +6,6 @@
 #include <QByteArray>
 #include <QString>
 
-#include <memory>
 #include <optional>
 
 namespace velor {
@@ -16,14 +15,15 @@ struct JetStamp {
   qint64 bytes = 0;
   /// Modification time, nanoseconds since 1970.
   qint64 modified = 0;
-  quint64 inode = 0;
+  /// Tells the file from another one that takes its name.
+  quint64 identity = 0;
 
   bool operator==(const JetStamp &) const = default;
 };
 
 /// The database file, read and written by pages, and the journal and lock file beside it. All
 /// access goes through this class, so that a test can fail or stop at any single write. Failures
-/// raise RuntimeError with the file's name.
+/// raise RuntimeError with the file's name. The real one is files/PosixJetStorage.h.
 ///
 /// A commit is CreateJournal, AppendJournal ..., SyncJournal, PinModificationTime(time), WritePage
 /// ..., Sync, RemoveJournal, PinModificationTime(nothing).
@@ -68,9 +68,5 @@ class JetStorage {
   /// Renames a leftover journal; returns its new name.
   virtual QString SetJournalAside() = 0;
 };
-
-/// The storage on the real file. Raises when the file is missing or cannot be read. The file is
-/// opened for writing at the first write.
-std::unique_ptr<JetStorage> OpenJetStorage(const QString &nativePath);
 
 }  // namespace velor

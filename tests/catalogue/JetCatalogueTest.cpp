@@ -3,6 +3,7 @@
 #include "catalogue/SqliteConnection.h"
 #include "catalogue/jet/JetFile.h"
 #include "catalogue/jet/JetFormat.h"
+#include "files/PosixJetStorage.h"
 #include "platform/Paths.h"
 #include "tests/support/CatalogueFiles.h"
 #include "tests/support/Checks.h"
@@ -146,7 +147,7 @@ TEST_F(JetCatalogue, WhoseCopyBrokeOffSaysSoIsReadOnAndIsNotChanged) {
 TEST_F(JetCatalogue, WithARowMissingSaysHowManyThereShouldBe) {
   QByteArray bytes = Bytes();
   {
-    const auto file = JetFile::Open(File());
+    const auto file = JetFile::Open(OpenJetStorage(File()));
     const JetTable &page = *file->FindTable(U("Page"));
     char *rows = bytes.data() + qsizetype{page.definitionPage} * jet::PageBytes + 16;
     ++rows[0];

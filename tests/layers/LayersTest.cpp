@@ -2,6 +2,7 @@
 // The direction of includes is data: AllowedIncludes(), and nothing else, says who may include
 // whom.
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -11,6 +12,7 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -24,13 +26,13 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"page/text", {"platform"}},
       {"page/saving", {"page/text", "platform"}},
       {"page/source", {"page/text", "platform"}},
-      {"files", {"platform"}},
+      {"files", {"catalogue/jet", "platform"}},
       {"pictures", {"page/text", "platform"}},
       {"spelling", {"platform"}},
       {"recovery", {"files", "platform"}},
       {"catalogue/jet", {"platform"}},
       {"catalogue", {"catalogue/jet", "files", "platform"}},
-      {"engine", {"page/saving", "page/text", "platform"}},
+      {"engine", {"files", "page/saving", "page/text", "platform"}},
       {"qt",
        {"engine", "page/source", "page/text", "catalogue", "files", "recovery", "spelling",
         "platform"}},
@@ -194,6 +196,8 @@ std::string CodeOf(const std::string &text) {
 /// middle of what is being done.
 bool RunsAnEventLoop(const std::string &text) {
   static const std::regex loop(R"(\bexec\(|\bQEventLoop\s+\w+\s*[;({]|processEvents\()");
+  const auto has = [&](const char *word) { return text.find(word) != std::string::npos; };
+  if (!has("exec(") && !has("QEventLoop") && !has("processEvents(")) return false;
   return std::regex_search(CodeOf(text), loop);
 }
 
@@ -213,33 +217,52 @@ const std::set<std::string> &GuardedPlaces() {
   return places;
 }
 
-/// Whether the text names headers, calls, places or variables that only the system has which the
-/// program runs on.
-bool NamesTheSystem(const std::string &text) {
-  static const std::regex comment(R"(//[^\n]*)");
-  static const std::regex header(
-      R"(#include <((unistd|fcntl|dirent|poll|pwd|grp|signal|dlfcn)\.h|csignal|(sys|linux|X11|xcb)/|QDBus))");
-  static const std::regex call(
-      R"((^|[^.>\w])(kill|fork|flock|fcntl|ioctl|getpid|geteuid|eventfd|mmap)\()");
-  static const std::regex name(R"("/(proc|sys|dev|etc|usr)/|\bXDG_\w|\bQ_OS_\w|\b__linux__)");
-  const std::string code = std::regex_replace(text, comment, "");
-  return std::regex_search(code, header) || std::regex_search(code, call) ||
-         std::regex_search(code, name);
+/// Whether a word of the code is a type, constant, variable or call that only the system has which
+/// the program runs on. `before` and `behind` are the characters around it.
+bool IsOfTheSystem(std::string_view word, char before, char behind) {
+  static const std::set<std::string_view> names = {"mode_t",  "off_t",   "pid_t",  "uid_t",
+                                                   "ssize_t", "SIGKILL", "SIGHUP", "SIGTERM",
+                                                   "SIGINT",  "linux",   "Linux",  "__linux__"};
+  static const std::set<std::string_view> calls = {
+      "kill", "fork",  "flock",   "fcntl", "ioctl", "getpid", "geteuid", "eventfd",
+      "mmap", "fsync", "symlink", "lstat", "fstat", "pread",  "pwrite"};
+  constexpr std::string_view Beginnings[] = {"XDG_", "Q_OS_", "O_", "S_I", "F_OFD_"};
+  const bool isCall = behind == '(' && before != '.' && before != '>';
+  return names.count(word) || (isCall && calls.count(word)) ||
+         word.find("_LINUX_") != std::string_view::npos ||
+         std::any_of(std::begin(Beginnings), std::end(Beginnings),
+                     [word](std::string_view beginning) { return word.starts_with(beginning); });
 }
 
-/// The folders and files that may name the system, each for a reason. A port to another system
-/// begins here.
+/// Whether the text names headers, folders, types, calls or variables that only the system has.
+bool NamesTheSystem(const std::string &text) {
+  static const std::regex header(
+      R"(<((unistd|fcntl|dirent|poll|pwd|grp|signal|dlfcn)\.h|csignal|(sys|linux|X11|xcb)/|QDBus))");
+  static const std::regex folder(R"("/(proc|sys|dev|etc|usr)/)");
+  const auto isInWord = [](char sign) { return std::isalnum(sign) || sign == '_'; };
+  std::istringstream lines(text);
+  for (std::string line; std::getline(lines, line);) {
+    line = ' ' + line.substr(0, line.find("//")) + ' ';
+    if (line.starts_with(" #include")) {
+      if (std::regex_search(line, header)) return true;
+      continue;
+    }
+    if (line.find("\"/") != std::string::npos && std::regex_search(line, folder)) return true;
+    for (auto end = line.begin(), begin = end; end != line.end();) {
+      begin = std::find_if(end, line.end(), isInWord);
+      end = std::find_if_not(begin, line.end(), isInWord);
+      if (begin != end && IsOfTheSystem({begin, end}, *(begin - 1), *end)) return true;
+    }
+  }
+  return false;
+}
+
+/// The folders that may name the system. A port to another system begins here.
 const std::vector<std::string> &PlacesThatKnowTheSystem() {
   static const std::vector<std::string> places = {
-      "files/",                             // system calls on files
-      "qt/",                                // desktop, signals, local sockets, the person's folders
-      "recovery/JournalFiles.cpp",          // locks the folder of a run, refuses others' journals
-      "catalogue/CatalogueFile.cpp",        // reads a file's header as the system's errors have it
-      "catalogue/jet/PosixJetStorage.cpp",  // locks ranges of a file as the other program does
-      "catalogue/jet/JetLockFile.cpp",      // asks for such locks
-      "engine/EditorPage.cpp",              // ends a page's process that no longer answers
-      "tools/",                             // programs that developers and packages run
-      "bench/",                             // measures processes
+      "files/",  // system calls on files and processes
+      "qt/",     // desktop, signals, local sockets, the person's folders
+      "bench/",  // no part of the program: measures processes
   };
   return places;
 }
@@ -328,8 +351,12 @@ TEST(Layers, TheSystemIsFoundByHeaderCallPlaceAndVariable) {
   EXPECT_TRUE(NamesTheSystem("  const int other = getpid();\n"));
   EXPECT_TRUE(NamesTheSystem("ReadAll(\"/proc/locks\");"));
   EXPECT_TRUE(NamesTheSystem("qEnvironmentVariable(\"XDG_DATA_HOME\")"));
+  EXPECT_TRUE(NamesTheSystem("file = Open(name, O_RDONLY);"));
+  EXPECT_TRUE(NamesTheSystem("constexpr mode_t OwnerOnly = 0600;"));
+  EXPECT_TRUE(NamesTheSystem("end(process, SIGKILL);"));
+  EXPECT_TRUE(NamesTheSystem("qputenv(\"ENGINE_LINUX_SWITCH\", on);"));
   EXPECT_FALSE(NamesTheSystem("  process.kill();\n  program->kill();\n"));
-  EXPECT_FALSE(NamesTheSystem("// Not in $XDG_DATA_HOME: see fcntl(2).\n"));
+  EXPECT_FALSE(NamesTheSystem("// Not in $XDG_DATA_HOME on Linux: see fcntl(2).\n"));
   EXPECT_FALSE(NamesTheSystem("#include <QFile>\n#include <cerrno>\n"));
 }
 

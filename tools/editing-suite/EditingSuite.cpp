@@ -2,6 +2,7 @@
 #include "tools/editing-suite/EditingSuite.h"
 
 #include "engine/BridgeScript.h"
+#include "files/Processes.h"
 #include "platform/RuntimeError.h"
 
 #include <QEventLoop>
@@ -14,7 +15,6 @@
 #include <QWebEnginePage>
 #include <QWebEngineSettings>
 
-#include <csignal>
 #include <memory>
 
 // A static library's resources must be asked for by name, from outside of every namespace.
@@ -179,8 +179,7 @@ std::optional<QJsonValue> EditingSuite::Evaluate(const QString &expression) {
 
 // An endless script ends in no other way. The view tells of it as of any other end.
 void EditingSuite::EndProcess() const {
-  if (const qint64 process = view_.page()->renderProcessPid(); process > 0)
-    ::kill(static_cast<pid_t>(process), SIGKILL);
+  velor::EndProcess(view_.page()->renderProcessPid());
 }
 
 }  // namespace velor

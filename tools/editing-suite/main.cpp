@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // velor-editing-suite: runs data files of the browsers' common suite of editing tests.
+#include "files/Processes.h"
 #include "platform/RuntimeError.h"
 #include "tools/editing-suite/EditingSuite.h"
 
@@ -9,7 +10,6 @@
 #include <QFileInfo>
 
 #include <cstdio>
-#include <unistd.h>
 
 namespace {
 
@@ -63,7 +63,7 @@ QStringList FilesOf(const QStringList &arguments) {
 /// The suite needs no screen, and as root the engine runs without its sandbox only.
 void PrepareEnvironment() {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  if (geteuid() == 0 && !qEnvironmentVariableIsSet("QTWEBENGINE_DISABLE_SANDBOX"))
+  if (velor::IsSuperuser() && !qEnvironmentVariableIsSet("QTWEBENGINE_DISABLE_SANDBOX"))
     qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 }
 

@@ -77,7 +77,7 @@ int main(int argc, char **argv) {
   bool isNumber = true;
   velor::OpeningRequest request = {{},
                                    parser.isSet(line) ? parser.value(line).toInt(&isNumber) : 0,
-                                   qEnvironmentVariable("XDG_ACTIVATION_TOKEN")};
+                                   velor::OwnActivationToken()};
   if (!isParsed || !isNumber || request.line < 0) {
     Say(isParsed ? QStringLiteral("--line takes a number") : parser.errorText());
     return WrongArguments;

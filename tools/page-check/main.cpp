@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // velor-page-check [--edit KIND] [--nth N] [--keep DIR] FILES...: one line of JSON a page.
 #include "engine/PageScheme.h"
+#include "files/Processes.h"
 #include "tools/page-check/PageCheck.h"
 
 #include <QApplication>
@@ -11,7 +12,6 @@
 
 #include <cstdio>
 #include <exception>
-#include <unistd.h>
 
 namespace {
 
@@ -56,7 +56,7 @@ void PrepareEngine() {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   if (!qEnvironmentVariableIsSet("QTWEBENGINE_CHROMIUM_FLAGS"))
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--renderer-process-limit=1");
-  if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+  if (velor::IsSuperuser()) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 }
 
 int Usage(const QString &fault) {

@@ -4,6 +4,7 @@
 #include "catalogue/jet/JetFile.h"
 #include "catalogue/jet/JetTableRows.h"
 #include "catalogue/jet/JetUsageMap.h"
+#include "files/PosixJetStorage.h"
 #include "tests/support/Checks.h"
 #include "tests/support/jet/JetCatalogues.h"
 #include "tests/support/jet/JetWriter.h"
@@ -82,7 +83,7 @@ class JetAccessTest : public testing::Test {
     return rows;
   }
   int ExpectReadOnlyAsItIs(const char *words) {
-    const auto file = JetFile::Open(path_);
+    const auto file = JetFile::Open(OpenJetStorage(path_));
     EXPECT_EQ(file->Access().mode, JetAccessMode::ReadOnly);
     EXPECT_TRUE(file->Access().reason.contains(QString::fromLatin1(words)))
         << file->Access().reason.toStdString();
@@ -95,7 +96,7 @@ class JetAccessTest : public testing::Test {
 
   /// The pages of a table, and the places of its maps, in the file as it is.
   JetTable TableOf(const char *name) const {
-    return *JetFile::Open(path_)->FindTable(QString::fromLatin1(name));
+    return *JetFile::Open(OpenJetStorage(path_))->FindTable(QString::fromLatin1(name));
   }
   std::vector<jet::PageNumber> PagesOf(const char *name) const {
     const auto storage = OpenJetStorage(path_);
@@ -110,7 +111,7 @@ class JetAccessTest : public testing::Test {
 };
 
 TEST_F(JetAccessTest, OfASoundFileIsToReadAndWrite) {
-  const auto file = JetFile::Open(path_);
+  const auto file = JetFile::Open(OpenJetStorage(path_));
   EXPECT_EQ(file->TableNames(), (QStringList{QStringLiteral("Project"), QStringLiteral("Page"),
                                              QStringLiteral("CustomCD")}));
   EXPECT_EQ(file->Access().mode, JetAccessMode::ReadWrite);
@@ -122,10 +123,10 @@ TEST_F(JetAccessTest, OfASoundFileIsToReadAndWrite) {
 
 TEST_F(JetAccessTest, OfAnEncodedFileIsToReadAndWrite) {
   Write(Catalogue(0x12345678));
-  auto file = JetFile::Open(path_);
+  auto file = JetFile::Open(OpenJetStorage(path_));
   EXPECT_EQ(CountRows(*file, "Page"), 120);
   SetFirst(*file, "Project", "Path", QStringLiteral("C:\\new"));
-  file = JetFile::Open(path_);
+  file = JetFile::Open(OpenJetStorage(path_));
   EXPECT_EQ(First(*file, "Project", "Path"), "C:\\new");
   EXPECT_FALSE(Content().contains("C:\\new")) << "the page was written without its code";
 }
@@ -139,7 +140,7 @@ TEST_F(JetAccessTest, IsReadOnlyAndTheRestReadWhenTheFilesEndIsMissing) {
   const std::vector<jet::PageNumber> pages = PagesOf("Page");
   ASSERT_GT(pages.size(), 2u);
   Write(content_.left(qsizetype{pages.back()} * jet::PageBytes));
-  const auto file = JetFile::Open(path_);
+  const auto file = JetFile::Open(OpenJetStorage(path_));
   EXPECT_EQ(file->Access().mode, JetAccessMode::ReadOnly);
   EXPECT_GT(CountRows(*file, "Page"), 0);
   EXPECT_LT(CountRows(*file, "Page"), 120);
@@ -225,13 +226,13 @@ TEST_F(JetAccessTest, OfAFileWithoutAListOfTablesIsNone) {
   QByteArray broken = content_;
   broken[2 * jet::PageBytes] = 9;
   Write(broken);
-  EXPECT_EQ(ErrorOf([this] { JetFile::Open(path_); }), ErrorNumber::DeviceIoError);
+  EXPECT_EQ(ErrorOf([this] { JetFile::Open(OpenJetStorage(path_)); }), ErrorNumber::DeviceIoError);
 }
 
 TEST_F(JetAccessTest, WaitsForTheProgramThatHasTheFileOpen) {
   OthersLockFile locks(folder_.filePath(QStringLiteral("eThumbs.ldb")));
   locks.WriteSlots({"OFFICE", "Eva"});
-  const auto file = JetFile::Open(path_);
+  const auto file = JetFile::Open(OpenJetStorage(path_));
   file->Begin();
   SetFirst(*file, "Project", "Path", QStringLiteral("left behind locks do not count"));
 
@@ -252,7 +253,7 @@ TEST_F(JetAccessTest, WaitsForTheProgramThatHasTheFileOpen) {
 }
 
 TEST_F(JetAccessTest, RefusesValuesAndColumnsThatItCannotChange) {
-  const auto file = JetFile::Open(path_);
+  const auto file = JetFile::Open(OpenJetStorage(path_));
   const auto numberFor = [&](const char *table, const char *column, const QVariant &value) {
     return ErrorOf([&] { SetFirst(*file, table, column, value); });
   };
@@ -268,7 +269,7 @@ TEST_F(JetAccessTest, RefusesValuesAndColumnsThatItCannotChange) {
 }
 
 TEST_F(JetAccessTest, TellsTheEmptyTextFromNull) {
-  const auto file = JetFile::Open(path_);
+  const auto file = JetFile::Open(OpenJetStorage(path_));
   const JetTable &table = *file->FindTable(QStringLiteral("Project"));
   const int path = table.ColumnIndex(QStringLiteral("Path"));
   for (const QVariant &value : {QVariant(QString()), QVariant()}) {
@@ -281,26 +282,26 @@ TEST_F(JetAccessTest, TellsTheEmptyTextFromNull) {
 }
 
 TEST_F(JetAccessTest, SeesWhatAnotherProgramHasWrittenFromTheNextStatementOn) {
-  const auto file = JetFile::Open(path_);
+  const auto file = JetFile::Open(OpenJetStorage(path_));
   const QString before = First(*file, "Project", "Path");
-  SetFirst(*JetFile::Open(path_), "Project", "Path", QStringLiteral("by another"));
+  SetFirst(*JetFile::Open(OpenJetStorage(path_)), "Project", "Path", QStringLiteral("by another"));
   EXPECT_EQ(First(*file, "Project", "Path"), before);
   file->Refresh();
   EXPECT_EQ(First(*file, "Project", "Path"), "by another");
 }
 
 TEST_F(JetAccessTest, DoesNotOverwriteWhatAnotherProgramHasWrittenMeanwhile) {
-  const auto file = JetFile::Open(path_);
+  const auto file = JetFile::Open(OpenJetStorage(path_));
   file->Begin();
   SetFirst(*file, "Project", "Path", QStringLiteral("ours"));
-  SetFirst(*JetFile::Open(path_), "Project", "Path", QStringLiteral("theirs"));
+  SetFirst(*JetFile::Open(OpenJetStorage(path_)), "Project", "Path", QStringLiteral("theirs"));
   EXPECT_EQ(ErrorOf([&] { file->Commit(); }), ErrorNumber::PermissionDenied);
   file->Refresh();
   EXPECT_EQ(First(*file, "Project", "Path"), "theirs");
 }
 
 TEST_F(JetAccessTest, EndsWhenAnotherProgramHasChangedTheTables) {
-  const auto file = JetFile::Open(path_);
+  const auto file = JetFile::Open(OpenJetStorage(path_));
   const QByteArray old = content_;
   Write(WriteJetFile(OddTablesFixture()));
   EXPECT_NE(ErrorOf([&] { file->Refresh(); }), ErrorNumber::None);
@@ -311,7 +312,7 @@ TEST_F(JetAccessTest, EndsWhenAnotherProgramHasChangedTheTables) {
 }
 
 TEST_F(JetAccessTest, KeepsNestedSavepointsApart) {
-  const auto file = JetFile::Open(path_);
+  const auto file = JetFile::Open(OpenJetStorage(path_));
   const auto set = [&](const char *value) {
     SetFirst(*file, "Project", "Path", QString::fromLatin1(value));
   };
@@ -331,11 +332,11 @@ TEST_F(JetAccessTest, KeepsNestedSavepointsApart) {
   EXPECT_EQ(First(*file, "Project", "Path"), "a");
   file->Release(0);
   file->Commit();
-  EXPECT_EQ(First(*JetFile::Open(path_), "Project", "Path"), "a");
+  EXPECT_EQ(First(*JetFile::Open(OpenJetStorage(path_)), "Project", "Path"), "a");
 }
 
 TEST_F(JetAccessTest, ShowsARunningScanTheRowsAsTheyWere) {
-  const auto file = JetFile::Open(path_);
+  const auto file = JetFile::Open(OpenJetStorage(path_));
   const JetTable &table = *file->FindTable(QStringLiteral("Page"));
   const int path = table.ColumnIndex(QStringLiteral("TPath"));
   file->Begin();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A process that is killed at any step of the three-statement repair leaves a file that, opened
 // again, holds what it held before the statement or after it, whole.
+#include "files/PosixJetStorage.h"
 #include "tests/support/jet/JetCatalogues.h"
 #include "tests/support/jet/JetChecker.h"
 #include "tests/support/jet/JetReaders.h"
@@ -143,7 +144,7 @@ class JetCrash : public testing::TestWithParam<Cut> {
     // What is meant after none, one, two and all of the statements.
     JetTrial trial(fixture_);
     Reset();
-    const std::unique_ptr<JetFile> file = JetFile::Open(path_);
+    const std::unique_ptr<JetFile> file = JetFile::Open(OpenJetStorage(path_));
     stages_.push_back(WhatWasMeant(trial.Meant()));
     for (int statement = 0; statement < Statements; ++statement) {
       RunStatement(trial, *file, statement);
@@ -180,7 +181,7 @@ class JetCrash : public testing::TestWithParam<Cut> {
 
   /// How many statements have been done, by what the file holds; -1 for anything in between.
   int StageOfFile() {
-    const std::unique_ptr<JetFile> file = JetFile::Open(path_);
+    const std::unique_ptr<JetFile> file = JetFile::Open(OpenJetStorage(path_));
     EXPECT_EQ(file->Access().reason.toStdString(), "");
     const Reading now = ReadByUs(*file, fixture_);
     const auto stage = std::find(stages_.begin(), stages_.end(), now);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue/jet/JetJournal.h"
-#include "catalogue/jet/JetLockFile.h"
+#include "files/JetLockFile.h"
+#include "files/PosixJetStorage.h"
 #include "tests/support/Checks.h"
 #include "tests/support/jet/OthersLockFile.h"
 

@@ -3,6 +3,7 @@
 #include "catalogue/jet/JetHeader.h"
 #include "catalogue/jet/JetLongValue.h"
 #include "catalogue/jet/JetUsageMap.h"
+#include "files/PosixJetStorage.h"
 #include "tests/support/Checks.h"
 
 #include <QFile>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // After every kind of update three independent readers agree with what was meant, cell by cell, and
 // the file's structure is sound.
+#include "files/PosixJetStorage.h"
 #include "platform/RuntimeError.h"
 #include "tests/support/jet/JetCatalogues.h"
 #include "tests/support/jet/JetChecker.h"
@@ -64,7 +65,7 @@ class JetUpdate : public testing::TestWithParam<FileForm> {
     WriteToDisk(path_, meant);
     trial_ = std::make_unique<JetTrial>(std::move(meant));
     Check("as written");
-    file_ = JetFile::Open(path_);
+    file_ = JetFile::Open(OpenJetStorage(path_));
     ASSERT_EQ(file_->Access().reason.toStdString(), "");
   }
 
@@ -247,7 +248,7 @@ TEST(JetReaders, AgreeOnAFileThatOutgrewItsUsageMaps) {
   JetTrial trial(CatalogueFixture(shape));
   WriteToDisk(path, trial.Meant());
   const auto sizeBefore = QFileInfo(path).size();
-  const std::unique_ptr<JetFile> file = JetFile::Open(path);
+  const std::unique_ptr<JetFile> file = JetFile::Open(OpenJetStorage(path));
   file->Begin();
   for (int row = 0; row < shape.pages; ++row)
     trial.Update(*file, {PageTable, row, PageTitle}, QString(255, QChar(0x4E2D)));

@@ -2,6 +2,7 @@
 #include "tests/support/jet/JetReaders.h"
 
 #include "catalogue/jet/JetFile.h"
+#include "files/PosixJetStorage.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -191,8 +192,8 @@ bool JetReaders::HasMdbReader() {
 
 QString JetReaders::DisagreementOn(const QString &path, const FixtureFile &meant) {
   const Reading expected = WhatWasMeant(meant);
-  const QString ours =
-      Disagreement(expected, ReadByUs(*JetFile::Open(path), meant), QStringLiteral("our reader"));
+  const QString ours = Disagreement(expected, ReadByUs(*JetFile::Open(OpenJetStorage(path)), meant),
+                                    QStringLiteral("our reader"));
   if (!ours.isEmpty()) return ours;
 
   Reading byMdbtools;

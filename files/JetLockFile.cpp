@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "catalogue/jet/JetLockFile.h"
+#include "files/JetLockFile.h"
 
 #include "platform/Words.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "engine/PageAccess.h"
+#include "qt/PageAccess.h"
 
 #include <QByteArray>
 #include <QtGlobal>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "catalogue/jet/JetLockFile.h"
-#include "catalogue/jet/JetStorage.h"
+#include "files/PosixJetStorage.h"
+
+#include "files/FileDescriptor.h"
+#include "files/JetLockFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
 
@@ -34,33 +36,13 @@ QByteArray Encoded(const QString &path) {
   return QFile::encodeName(path);
 }
 
-class Descriptor {
- public:
-  Descriptor() = default;
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(Descriptor &&other) noexcept : number_(std::exchange(other.number_, -1)) {}
-  Descriptor &operator=(Descriptor &&other) noexcept {
-    std::swap(number_, other.number_);
-    return *this;
-  }
-  ~Descriptor() {
-    if (number_ >= 0) close(number_);
-  }
-
-  bool IsOpen() const { return number_ >= 0; }
-  int Number() const { return number_; }
-
- private:
-  int number_ = -1;
-};
-
-Descriptor OpenFile(const QString &path, int flags, mode_t mode = 0) {
-  Descriptor file(open(Encoded(path).constData(), flags | O_CLOEXEC, mode));
+FileDescriptor OpenFile(const QString &path, int flags, mode_t mode = 0) {
+  FileDescriptor file(open(Encoded(path).constData(), flags | O_CLOEXEC, mode));
   if (!file.IsOpen()) RaiseErrno(path);
   return file;
 }
 
-struct stat StatOf(const Descriptor &file, const QString &path) {
+struct stat StatOf(const FileDescriptor &file, const QString &path) {
   struct stat status = {};
   if (fstat(file.Number(), &status) != 0) RaiseErrno(path);
   return status;
@@ -70,7 +52,8 @@ qint64 ModifiedOf(const struct stat &status) {
   return status.st_mtim.tv_sec * NanosecondsPerSecond + status.st_mtim.tv_nsec;
 }
 
-void WriteAll(const Descriptor &file, const char *bytes, std::size_t count, const QString &path) {
+void WriteAll(const FileDescriptor &file, const char *bytes, std::size_t count,
+              const QString &path) {
   while (count > 0) {
     const ssize_t written = write(file.Number(), bytes, count);
     if (written < 0 && errno == EINTR) continue;
@@ -81,7 +64,7 @@ void WriteAll(const Descriptor &file, const char *bytes, std::size_t count, cons
 }
 
 /// Reads until `count` bytes are there or the file ends; returns how many are.
-std::size_t ReadAll(const Descriptor &file, char *bytes, std::size_t count, off_t from,
+std::size_t ReadAll(const FileDescriptor &file, char *bytes, std::size_t count, off_t from,
                     const QString &path) {
   std::size_t total = 0;
   while (total < count) {
@@ -95,7 +78,7 @@ std::size_t ReadAll(const Descriptor &file, char *bytes, std::size_t count, off_
   return total;
 }
 
-void SyncDescriptor(const Descriptor &file, const QString &path) {
+void SyncDescriptor(const FileDescriptor &file, const QString &path) {
   if (fsync(file.Number()) != 0) RaiseErrno(path);
 }
 
@@ -115,7 +98,7 @@ class PosixJetStorage final : public JetStorage {
     if (status.st_ino != StatOf(reader_, path_).st_ino) {
       // Another file has taken the name.
       reader_ = OpenFile(path_, O_RDONLY);
-      writer_ = Descriptor();
+      writer_ = FileDescriptor();
     }
     return {status.st_size, ModifiedOf(status), status.st_ino};
   }
@@ -191,10 +174,10 @@ class PosixJetStorage final : public JetStorage {
   }
 
   JournalState FindJournal() override {
-    journal_ = Descriptor();
-    Descriptor found(open(Encoded(journalPath_).constData(), O_RDWR | O_CLOEXEC));
+    journal_ = FileDescriptor();
+    FileDescriptor found(open(Encoded(journalPath_).constData(), O_RDWR | O_CLOEXEC));
     if (!found.IsOpen() && errno != ENOENT) {
-      found = Descriptor(open(Encoded(journalPath_).constData(), O_RDONLY | O_CLOEXEC));
+      found = FileDescriptor(open(Encoded(journalPath_).constData(), O_RDONLY | O_CLOEXEC));
     }
     if (!found.IsOpen()) {
       if (errno == ENOENT) return JournalState::None;
@@ -238,7 +221,7 @@ class PosixJetStorage final : public JetStorage {
 
   void RemoveJournal() override {
     if (unlink(Encoded(journalPath_).constData()) != 0) RaiseErrno(journalPath_);
-    journal_ = Descriptor();
+    journal_ = FileDescriptor();
     SyncFolder();
   }
 
@@ -250,7 +233,7 @@ class PosixJetStorage final : public JetStorage {
     if (rename(Encoded(journalPath_).constData(), Encoded(target).constData()) != 0) {
       RaiseErrno(journalPath_);
     }
-    journal_ = Descriptor();
+    journal_ = FileDescriptor();
     return target;
   }
 
@@ -263,7 +246,7 @@ class PosixJetStorage final : public JetStorage {
 
   void SyncFolder() { SyncDescriptor(OpenFile(Folder(), O_RDONLY | O_DIRECTORY), Folder()); }
 
-  static void Touch(const Descriptor &file, const QString &path) {
+  static void Touch(const FileDescriptor &file, const QString &path) {
     if (futimens(file.Number(), nullptr) != 0) RaiseErrno(path);
   }
 
@@ -276,7 +259,7 @@ class PosixJetStorage final : public JetStorage {
 
   void CopyTo(const QString &target) {
     const mode_t mode = StatOf(reader_, path_).st_mode & PermissionBits;
-    const Descriptor copy =
+    const FileDescriptor copy =
         OpenFile(target, O_WRONLY | O_CREAT | O_TRUNC, mode | S_IRUSR | S_IWUSR);
     QByteArray block(256 * jet::PageBytes, Qt::Uninitialized);
     for (off_t at = 0;;) {
@@ -291,11 +274,11 @@ class PosixJetStorage final : public JetStorage {
 
   QString path_;
   QString journalPath_;
-  Descriptor reader_;
+  FileDescriptor reader_;
   /// Opened at the first write.
-  Descriptor writer_;
+  FileDescriptor writer_;
   /// Locked as long as it is open.
-  Descriptor journal_;
+  FileDescriptor journal_;
   std::optional<qint64> kept_;
 };
 
