@@ -86,13 +86,15 @@ void DrawComboArrow(const QStyleOptionComplex *option, QPainter *painter, const 
 /// A combo box with a flat painter; its button is as wide as the painter frames it.
 void DrawFlatCombo(const QStyleOptionComplex *option, QPainter *painter, int buttonWidth) {
   const QRect inside = option->rect.adjusted(ComboRings, ComboRings, -ComboRings, -ComboRings);
-  QRect button = inside;
-  button.setLeft(inside.right() + 1 - buttonWidth);
+  const auto mirrored = [option](const QRect &place) {
+    return QStyle::visualRect(option->direction, option->rect, place);
+  };
+  const QRect button = mirrored(inside.adjusted(inside.width() - buttonWidth, 0, 0, 0));
   painter->fillRect(option->rect, EntryField(option));
   painter->fillRect(button, option->palette.button());
   if (ShowsFocus(option)) {
-    painter->fillRect(QRect(inside.left(), inside.bottom() + 1 - FocusLine,
-                            inside.width() - buttonWidth, FocusLine),
+    painter->fillRect(mirrored(QRect(inside.left(), inside.bottom() + 1 - FocusLine,
+                                     inside.width() - buttonWidth, FocusLine)),
                       option->palette.highlight());
   }
   DrawComboArrow(option, painter, button);

@@ -27,7 +27,7 @@ void DrawEntryBox(const QStyleOption *option, QPainter *painter, const QWidget *
 /// Background and edge of a button, without its caption.
 void DrawPushButton(const QStyleOption *option, QPainter *painter, const QWidget *widget);
 /// A combo box without its text. The arrow is drawn in `arrow`; in a flat box it is drawn in a
-/// button `flatButtonWidth` wide at the right, which the flat painter frames.
+/// button `flatButtonWidth` wide at its end, which the flat painter frames.
 void DrawComboBox(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget,
                   const QRect &arrow, int flatButtonWidth);
 

@@ -50,14 +50,27 @@ QPixmap Tinted(const QPixmap &picture, const QColor &field) {
   return result;
 }
 
+/// A place in an item, given for a menu from left to right.
+QRect PlaceIn(const QStyleOptionMenuItem *item, const QRect &place) {
+  return QStyle::visualRect(item->direction, item->rect, place);
+}
+
+/// The square of an item's picture or tick.
+QRect PlaceOfMark(const QStyleOptionMenuItem *item) {
+  return PlaceIn(
+      item, QRect(item->rect.left() + ItemSpace, item->rect.center().y() - MenuIconSize / 2 + 1,
+                  MenuIconSize, MenuIconSize));
+}
+
 void DrawShortcutAndText(QPainter *painter, const QStyleOptionMenuItem *item, const QColor &color,
                          const QStyle *style) {
   painter->setPen(color);
   painter->setFont(item->font);
-  const QRect line = item->rect.adjusted(IconColumn, 0, -ArrowColumn, 0);
+  const QRect line = PlaceIn(item, item->rect.adjusted(IconColumn, 0, -ArrowColumn, 0));
   const qsizetype tab = item->text.indexOf(u'\t');
   int flags = Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine;
   if (!style->styleHint(QStyle::SH_UnderlineShortcut, item)) flags |= Qt::TextHideMnemonic;
+  // The painter takes left for the side where lines begin.
   painter->drawText(line, flags | Qt::AlignLeft, item->text.left(tab));
   if (tab >= 0) {
     painter->setOpacity(0.75);
@@ -81,15 +94,21 @@ void DrawIcon(QPainter *painter, const QIcon &icon, const QRect &place, QIcon::M
   painter->drawPixmap(place, picture);
 }
 
-void DrawArrow(QPainter *painter, const QRect &item, const QColor &color) {
-  const QPointF middle(item.right() - ArrowColumn / 2.0, item.center().y() + 0.5);
+/// The arrow of an item that opens another menu; it points to where that comes up.
+void DrawArrow(QPainter *painter, const QStyleOptionMenuItem *item, const QColor &color) {
+  const bool isMirrored = item->direction == Qt::RightToLeft;
+  const QPointF middle(
+      isMirrored ? item->rect.left() + ArrowColumn / 2.0 : item->rect.right() - ArrowColumn / 2.0,
+      item->rect.center().y() + 0.5);
+  const int tip = isMirrored ? -2 : 2;
   painter->setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter->drawPolyline(
-      QPolygonF{{middle + QPointF(-2, -4), middle + QPointF(2, 0), middle + QPointF(-2, 4)}});
+      QPolygonF{{middle + QPointF(-tip, -4), middle + QPointF(tip, 0), middle + QPointF(-tip, 4)}});
 }
 
-void DrawCheck(QPainter *painter, const QRect &item, const QColor &color) {
-  const QPointF middle(item.left() + ItemSpace + MenuIconSize / 2.0, item.center().y() + 0.5);
+void DrawCheck(QPainter *painter, const QStyleOptionMenuItem *item, const QColor &color) {
+  const QPointF middle(PlaceOfMark(item).left() + MenuIconSize / 2.0,
+                       item->rect.center().y() + 0.5);
   painter->setPen(QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter->drawPolyline(
       QPolygonF{{middle + QPointF(-4, 0), middle + QPointF(-1, 3), middle + QPointF(5, -4)}});
@@ -229,8 +248,8 @@ class StyleMenuPainter::Style final : public QProxyStyle {
     if (item->menuItemType == QStyleOptionMenuItem::Separator) {
       QColor line = shown.text;
       line.setAlphaF(0.18F);
-      painter->fillRect(QRect(item->rect.left() + IconColumn, item->rect.center().y(),
-                              item->rect.width() - IconColumn - ItemSpace, 1),
+      painter->fillRect(PlaceIn(item, QRect(item->rect.left() + IconColumn, item->rect.center().y(),
+                                            item->rect.width() - IconColumn - ItemSpace, 1)),
                         line);
       return;
     }
@@ -244,16 +263,15 @@ class StyleMenuPainter::Style final : public QProxyStyle {
     QColor text = selected ? shown.highlightText : shown.text;
     if (!enabled) text.setAlphaF(0.45F);
     if (!item->icon.isNull()) {
-      const QRect place(item->rect.left() + ItemSpace,
-                        item->rect.center().y() - MenuIconSize / 2 + 1, MenuIconSize, MenuIconSize);
+      const QRect place = PlaceOfMark(item);
       if (item->checked) DrawMark(painter, place, text);
       DrawIcon(painter, item->icon, place, enabled ? QIcon::Normal : QIcon::Disabled, text,
                item->palette);
     } else if (item->checked) {
-      DrawCheck(painter, item->rect, text);
+      DrawCheck(painter, item, text);
     }
     DrawShortcutAndText(painter, item, text, proxy());
-    if (item->menuItemType == QStyleOptionMenuItem::SubMenu) DrawArrow(painter, item->rect, text);
+    if (item->menuItemType == QStyleOptionMenuItem::SubMenu) DrawArrow(painter, item, text);
   }
 
   /// An item with a picture is marked by a frame around that.

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyle>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -212,6 +213,10 @@ void QtWindowSystem::DeleteDeviceContext(DeviceContext context) {
   DrawingContexts::Drawing drawing = contexts_.End(context);
   QWidget *surface = Find(drawing.surface);
   if (!surface) return;
+  // What a painter draws on its own control, and what the style draws below it, are mirrored alike.
+  if (surface->isRightToLeft() && drawing.surface == author_.window)
+    for (Stroke &stroke : drawing.strokes)
+      stroke.pixels = QStyle::visualRect(Qt::RightToLeft, surface->rect(), stroke.pixels);
   const QRegion changed =
       ink_.Replace({author_.handler, drawing.surface, author_.window, std::move(drawing.strokes)});
   if (!changed.isEmpty() && painting_ != drawing.surface) surface->update(changed);

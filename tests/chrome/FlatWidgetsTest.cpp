@@ -251,6 +251,20 @@ TEST_F(FlatComboTest, ShowsTheKeyboardsPlaceBelowItsText) {
   EXPECT_TRUE(Becomes(line, QApplication::palette().color(QPalette::Highlight).rgb()));
 }
 
+TEST_F(FlatComboTest, FromRightToLeftItIsTheMirrorsPicture) {
+  combo.setCurrentIndex(-1);
+  const QImage before = Shown().copy(combo.geometry());
+  combo.setLayoutDirection(Qt::RightToLeft);
+  ASSERT_TRUE(Becomes(combo.geometry().topLeft() + QPoint(3, 2), Light));
+  EXPECT_EQ(Shown().copy(combo.geometry()), before.mirrored(true, false));
+  Hover(combo);
+  ASSERT_TRUE(Becomes(combo.geometry().topLeft() + QPoint(3, 2), Light));
+  ASSERT_TRUE(Becomes(combo.geometry().topRight(), Shadow));
+  combo.setFocus();
+  EXPECT_TRUE(Becomes(combo.geometry().bottomRight() + QPoint(-20, -3),
+                      QApplication::palette().color(QPalette::Highlight).rgb()));
+}
+
 class FlatEdgeTest : public FlatWidgetsTest {
  protected:
   FlatEdgeTest() {

@@ -213,6 +213,38 @@ TEST_F(MenuPainterTest, TheSweepLooksPicturesUpByTheNameInLowerCase) {
   EXPECT_TRUE(plain->icon().isNull());
 }
 
+TEST_F(MenuPainterTest, FromRightToLeftMarksAndArrowsChangeSides) {
+  painter.SetBackground(Filled(Qt::white));
+  for (QAction *action : {item, plain}) {
+    action->setText(QString());
+    action->setCheckable(true);
+    action->setChecked(true);
+  }
+  item->setIcon(Filled(Qt::red));
+  menu->setMinimumWidth(200);
+  const QAction *opener = menu->addMenu(QString())->menuAction();
+  for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    menu->setLayoutDirection(direction);
+    const QImage shown = Shown(Shade::Light);
+    const auto hasInk = [&](const QAction *action, Qt::Alignment side) {
+      QRect part = menu->actionGeometry(const_cast<QAction *>(action));
+      const int half = part.width() / 2;
+      if (side == Qt::AlignLeft) part.setRight(part.left() + half - 1);
+      if (side == Qt::AlignRight) part.setLeft(part.right() - half + 1);
+      QImage blank(part.size(), shown.format());
+      blank.fill(Qt::white);
+      return shown.copy(part) != blank;
+    };
+    const bool isMirrored = direction == Qt::RightToLeft;
+    for (const QAction *marked : {item, plain}) {
+      EXPECT_EQ(hasInk(marked, Qt::AlignLeft), !isMirrored);
+      EXPECT_EQ(hasInk(marked, Qt::AlignRight), isMirrored);
+    }
+    EXPECT_EQ(hasInk(opener, Qt::AlignLeft), isMirrored);
+    EXPECT_EQ(hasInk(opener, Qt::AlignRight), !isMirrored);
+  }
+}
+
 TEST_F(MenuPainterTest, LeavesRoomForShortcuts) {
   painter.PaintMenusOf(window);
   const int before = menu->sizeHint().width();
