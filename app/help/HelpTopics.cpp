@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/help/HelpTopics.h"
 
+#include "platform/Words.h"
+
 #include <QWidget>
 
 namespace velor {
@@ -50,13 +52,16 @@ constexpr HelpTopic Topics[] = {
     {"frmAbout", nullptr, "window.html#about"},
     {"CommonDialog1", nullptr, "files.html"},
     {"ManualWindow", nullptr, "index.html#using"},
-    {"QInputDialog", nullptr, "links.html#hyperlink"},
+    {"QInputDialog", nullptr, "source.html#menu", Words::Mark("Go to Line Number")},
+    {"QInputDialog", nullptr, "pages.html#templates", Words::Mark("Save as Template")},
+    {"QInputDialog", nullptr, "links.html#hyperlink", Words::Mark("Link to a E-mail Address")},
     {"QMessageBox", nullptr, "messages.html"},
 };
 
 bool Fits(const HelpTopic &topic, const QWidget &widget) {
   if (widget.objectName() != QLatin1String(topic.widget) && !widget.inherits(topic.widget))
     return false;
+  if (topic.title != nullptr && widget.windowTitle() != Words::tr(topic.title)) return false;
   if (topic.visible == nullptr) return true;
   const auto *part = widget.findChild<QWidget *>(QString::fromLatin1(topic.visible));
   return part != nullptr && part->isVisible();

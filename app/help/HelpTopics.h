@@ -14,6 +14,9 @@ struct HelpTopic {
   const char *widget;   ///< object name, or class name of a window of the toolkit
   const char *visible;  ///< object name of something in it that must be seen; null for nothing
   const char *place;    ///< "page.html" or "page.html#anchor"
+  /// Title that the window must have (Words::Mark); null for any. The toolkit's windows for a
+  /// question differ in nothing else.
+  const char *title = nullptr;
 };
 
 /// The first row that fits counts.

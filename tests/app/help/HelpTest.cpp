@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
@@ -16,6 +17,9 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBrowser>
+
+#include <algorithm>
+#include <functional>
 
 namespace velor {
 namespace {
@@ -105,6 +109,38 @@ TEST_F(HelpTest, F1InADialogLeadsToWhatIsAboutIt) {
   message.show();
   QTest::keyClick(&message, Qt::Key_F1);
   EXPECT_EQ(PlaceOnShow(), "messages.html");
+}
+
+TEST_F(HelpTest, F1InAQuestionLeadsToWhatAsksIt) {
+  frmMain &page = NewPage();
+  const auto expect = [&](const char *prompt) {
+    dialogs.ExpectQuestion(QString::fromLatin1(prompt), {});
+  };
+  const auto placeOfQuestion = [&](const std::function<void()> &ask) {
+    log.clear();
+    ask();
+    // "AskText(prompt, title, answer)"
+    const auto asked = std::find_if(log.begin(), log.end(), [](const QString &call) {
+      return call.startsWith(QStringLiteral("AskText("));
+    });
+    QInputDialog question(&window);
+    question.setWindowTitle(asked->section(QStringLiteral(", "), 1, 1));
+    question.show();
+    QTest::keyClick(&question, Qt::Key_F1);
+    return PlaceOnShow();
+  };
+  expect("Name of the template:");
+  EXPECT_EQ(placeOfQuestion([&] { Choose("mnuSaveAsTemplate"); }), "pages.html#templates");
+  dialogs.ExpectModal([&](QWidget &dialog) {
+    dialog.show();
+    expect("Please enter the E-mail Address.");
+    In<QPushButton>(dialog, "cmdAEmail").click();
+    dialog.close();
+  });
+  EXPECT_EQ(placeOfQuestion([&] { Choose("mnuISTlink"); }), "links.html#hyperlink");
+  page.ChangeMode(3);
+  expect("Line:");
+  EXPECT_EQ(placeOfQuestion([&] { Choose("goto line number"); }), "source.html#menu");
 }
 
 TEST_F(HelpTest, TheManualTakesKeysWhileADialogIsOpen) {
