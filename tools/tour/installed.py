@@ -4,6 +4,7 @@
 
 Usage: installed.py OUT_FOLDER
 """
+import glob
 import os
 import re
 import shutil
@@ -16,9 +17,11 @@ from gi.repository import Gio, GLib
 
 from desktop import Program, file_text, run, wait_for
 from moves import Tour, check, step
+from session import SessionManager
 
 
 INSTALLED = "/usr/bin/velor-web-creator"
+KEPT_AT_EXIT = 6  # kind of a journal's record
 
 
 def velor_open_begun(tour, arguments, folder):
@@ -33,10 +36,26 @@ def velor_open(tour, arguments, folder):
     return running.returncode, said
 
 
-def ask_as_desktop(method, parameters):
+def ask_on_bus(name, place, interface, method, parameters):
     bus = Gio.bus_get_sync(Gio.BusType.SESSION)
-    bus.call_sync("com.velor.WebCreator", "/com/velor/WebCreator", "org.freedesktop.Application", method, parameters,
-                  None, Gio.DBusCallFlags.NONE, -1, None)
+    bus.call_sync(name, place, interface, method, parameters, None, Gio.DBusCallFlags.NONE, -1, None)
+
+
+def ask_as_desktop(method, parameters):
+    ask_on_bus("com.velor.WebCreator", "/com/velor/WebCreator", "org.freedesktop.Application", method, parameters)
+
+
+def titles(tour):
+    return [subprocess.run(["xdotool", "getwindowname", window], capture_output=True, text=True, check=False).stdout
+            for window in tour.program.visible_windows()]
+
+
+def end_started(tour):
+    """Ends the program that another one started, and waits for that."""
+    window = wait_for(tour.program.visible_windows, "the window of the program")[0]
+    started = int(run("xdotool", "getwindowpid", window))
+    os.kill(started, signal.SIGTERM)
+    wait_for(lambda: not os.path.exists(f"/proc/{started}"), "the program to end")
 
 
 class FirstDay(Tour):
@@ -52,10 +71,22 @@ class FirstDay(Tour):
             # Under -D the program, not strace, has the process that is started.
             script.write(f'#!/bin/sh\nexec strace -D -f --seccomp-bpf -qq -e trace=network -A -o "{self.sockets}" "{INSTALLED}"\n')
         os.chmod(self.executable, 0o755)
+        self.session = SessionManager(self.scratch)
         self.program = None
 
+    def journal_records(self):
+        """The kinds of the records in the journals of unsaved pages; recovery/JournalFormat.cpp has their form."""
+        kinds = []
+        for path in glob.glob(os.path.join(self.scratch, ".local/state/velor-web-creator/recovery/*/*.page")):
+            with open(path, "rb") as file:
+                records = file.read().split(b"\n", 1)[1]
+            while len(records) > 16:
+                kinds.append(records[16])
+                records = records[16 + int.from_bytes(records[:8], sys.byteorder):]
+        return kinds
+
     def start(self):
-        home = {"HOME": self.scratch, "VELOR_PROGRAM_FOLDER": "", "XDG_CONFIG_HOME": "", "XDG_DATA_HOME": "",
+        home = {"HOME": self.scratch, "SESSION_MANAGER": self.session.address, "VELOR_PROGRAM_FOLDER": "", "XDG_CONFIG_HOME": "", "XDG_DATA_HOME": "",
                 "XDG_CACHE_HOME": "", "XDG_STATE_HOME": ""}
         self.program = Program(self.executable, self.scratch, self.scratch, self.out, home)
         self.program.size_window(1280, 860)
@@ -114,8 +145,14 @@ def day(tour):
     sentences = late.communicate(timeout=60)[1]
     check(late.returncode == 1 and names[4] in sentences and names[3] not in sentences, f"it said {sentences!r}")
 
-    step("the end of the terminal keeps what was typed")
+    step("the end of the session keeps what was typed, and may be called off")
     tour.program.type("kept ")
+    wait_for(tour.journal_records, "the journal of what was typed")
+    check(KEPT_AT_EXIT not in tour.journal_records(), "the page was kept too early")
+    tour.session.ask_to_save()
+    check(KEPT_AT_EXIT in tour.journal_records(), "the program kept nothing at the session's end")
+    tour.session.call_off()
+    step("the end of the terminal keeps what was typed")
     tour.program.process.send_signal(signal.SIGHUP)
     status = tour.program.wait_end()
     check(status == 0, f"the program ended with status {status}")
@@ -144,10 +181,14 @@ def day(tour):
     check(status == 0, f"the program ended with status {status}")
     step("velor-open starts the program where none runs")
     check(velor_open(tour, [names[2]], pages) == (0, ""), "no program was started")
-    window = wait_for(lambda: tour.program.visible_windows(), "the window of the program")[0]
-    started = int(run("xdotool", "getwindowpid", window))
-    os.kill(started, signal.SIGTERM)
-    wait_for(lambda: not os.path.exists(f"/proc/{started}"), "the program to end")
+    end_started(tour)
+    step("the desktop starts the program where none runs, and it opens the page")
+    ask_on_bus("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "UpdateActivationEnvironment",
+               GLib.Variant("(a{ss})", (tour.program.environment,)))
+    page = GLib.filename_to_uri(os.path.join(pages, names[0]))
+    ask_as_desktop("Open", GLib.Variant("(asa{sv})", ([page], {})))
+    wait_for(lambda: any(names[0] in title for title in titles(tour)), "the page's window")
+    end_started(tour)
     step("nothing was sent to another machine")
     calls = file_text(tour.sockets).splitlines()
     check(any("AF_UNIX" in call for call in calls), "no socket was watched")
