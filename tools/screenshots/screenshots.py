@@ -4,7 +4,7 @@
 palette and scale, on the whole screen.
 
 Usage: screenshots.py RUN_FOLDER OUT_FOLDER light|dark|contrast SCALE_PERCENT [SESSION...]
-Sessions are recovery, start, main, manual, objects, names and projects; without any, all of them.
+Sessions are recovery, start, main, manual, objects, names, projects and readme; without any, all of them.
 """
 import os
 import shutil
@@ -179,6 +179,29 @@ CELLS = """<!DOCTYPE html>
 """
 
 
+def open_file(program, path, caption):
+    program.key("ctrl+o")
+    dialog = program.wait(None, "dialog|file chooser")
+    wait_for(lambda: program.has_state(program.wait(role="text", within=dialog),
+                                       Atspi.StateType.FOCUSED), "the name box's focus")
+    program.key("ctrl+a")
+    program.type(path)
+    program.key("Return")
+    program.wait(caption, "page tab")
+
+
+def readme(photos):
+    """Three pages of the sample, one with bold words: the picture of the project's first page."""
+    program = photos.program
+    for name in ("Garden/Files/Roses.htm", "OldTown/Files/Market.htm", "Lighthouse/Files/Home.htm"):
+        open_file(program, os.path.join(program.folder, "Sites", name), os.path.basename(name))
+    program.key("ctrl+Home", "Down", "Down", *["ctrl+Right"] * 8, "Right", *["ctrl+shift+Right"] * 2)
+    program.press("Bold")
+    program.wait("B")
+    photos.away()
+    photos.shot("lighthouse")
+
+
 def objects(photos):
     """A read-only page, selected objects with their handles, a box on its way over the grid with
     its guides, the details, selected cells, an edge between columns on its way."""
@@ -190,14 +213,7 @@ def objects(photos):
         with open(path, "w", encoding="utf-8") as page:
             page.write(markup)
         os.chmod(path, mode)
-        program.key("ctrl+o")
-        dialog = program.wait(None, "dialog|file chooser")
-        wait_for(lambda: program.has_state(program.wait(role="text", within=dialog),
-                                           Atspi.StateType.FOCUSED), "the name box's focus")
-        program.key("ctrl+a")
-        program.type(path)
-        program.key("Return")
-        program.wait(caption, "page tab")
+        open_file(program, path, caption)
 
     open_page("locked.htm", 0o444, "locked.htm (Read-Only)")
     photos.shot("read-only")
@@ -517,6 +533,7 @@ def main(run_folder, out, palette, scale, *wanted):
         "objects": lambda: session("objects", (), objects),
         "names": lambda: session("names", (), names),
         "projects": lambda: session("projects", (), projects),
+        "readme": lambda: session("readme", (), readme),
     }
     for name in wanted or sessions:
         sessions[name]()
