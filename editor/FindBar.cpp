@@ -13,7 +13,6 @@
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -304,18 +303,6 @@ void FindBar::keyPressEvent(QKeyEvent *event) {
     default:
       QWidget::keyPressEvent(event);
   }
-}
-
-void AddFindKeys(FindBar &bar, QWidget &window) {
-  const auto onKey = [&window](const QKeySequence &key, const std::function<void()> &act) {
-    auto *shortcut = new QShortcut(key, &window);
-    shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, &window, act);
-  };
-  onKey(Qt::CTRL | Qt::Key_F, [&bar] { bar.Open(FindBar::Purpose::Find); });
-  onKey(Qt::CTRL | Qt::Key_H, [&bar] { bar.Open(FindBar::Purpose::Replace); });
-  onKey(Qt::Key_F3, [&bar] { bar.FindOn(SearchDirection::Forward); });
-  onKey(Qt::SHIFT | Qt::Key_F3, [&bar] { bar.FindOn(SearchDirection::Backward); });
 }
 
 }  // namespace velor

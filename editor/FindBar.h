@@ -74,8 +74,4 @@ class FindBar : public QWidget {
   QLabel *result_ = nullptr;
 };
 
-/// Ctrl+F, Ctrl+H, F3 and Shift+F3 in a window reach its find bar; for a program whose menus have
-/// no such keys.
-void AddFindKeys(FindBar &bar, QWidget &window);
-
 }  // namespace velor

@@ -133,7 +133,8 @@ QWidget *frmCodeEditor::BuildTop() {
   auto *applyButton = new QPushButton(Words::tr("Apply to Document"));
   applyButton->setObjectName(QStringLiteral("cmdApply"));
   applyButton->setAccessibleName(applyButton->text());
-  applyButton->setToolTip(Words::tr("Write the source back into the page (Ctrl+Return)"));
+  if (hasAdditions)
+    applyButton->setToolTip(Words::tr("Write the source back into the page (Ctrl+Return)"));
   connect(applyButton, &QPushButton::clicked, this, &frmCodeEditor::Apply);
 
   auto *elementGroups = new QTabBar;
@@ -181,10 +182,12 @@ QWidget *frmCodeEditor::BuildMain() {
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, this, act);
   };
+  if (!modSettingManager::HasAdditions(context_.platform.registry)) {
+    code_->Widget()->setContextMenuPolicy(Qt::PreventContextMenu);
+    return sourceArea;
+  }
   onKey(Qt::CTRL | Qt::Key_Return, [this] { Apply(); });
   onKey(Qt::CTRL | Qt::Key_Enter, [this] { Apply(); });
-  // Elsewhere they are those of the Tools menu.
-  if (!modSettingManager::HasAdditions(context_.platform.registry)) AddFindKeys(*findBar_, *this);
   code_->Widget()->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(code_->Widget(), &QWidget::customContextMenuRequested, this, &frmCodeEditor::PopUpMenu);
   return sourceArea;

@@ -3,8 +3,11 @@
 #include "tests/editor/EditorWorld.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabBar>
 #include <QToolBar>
 
@@ -327,6 +330,52 @@ TEST_F(CodeEditorTest, ByThePublishedBehaviourItsButtonsAndTabsDoNothing) {
   EXPECT_EQ(Code(1).SelectedText(), QStringLiteral("one"));
   EXPECT_FALSE(editor.findChild<QWidget *>(QStringLiteral("picFind"))->isVisibleTo(&editor));
   EXPECT_TRUE(log.empty());
+}
+
+TEST_F(CodeEditorTest, ByThePublishedBehaviourItHasNeitherKeysNorAMenuOfOurs) {
+  modSettingManager::SetOption(registry, QStringLiteral("PublishedOnly"), QStringLiteral("True"));
+  frmCodeEditor &editor = Edit();
+  Code(1).text = QStringLiteral("<p>typed</p>");
+  EXPECT_TRUE(editor.findChildren<QShortcut *>().empty());
+  const QList<QMenu *> before = editor.findChildren<QMenu *>();
+  Q_EMIT Code(1).Widget()->customContextMenuRequested({});
+  EXPECT_EQ(editor.findChildren<QMenu *>(), before);
+  EXPECT_EQ(Code(1).Widget()->contextMenuPolicy(), Qt::PreventContextMenu);
+  EXPECT_EQ(editor.findChild<QPushButton *>(QStringLiteral("cmdApply"))->toolTip(), QString());
+}
+
+TEST_F(CodeEditorTest, TheSourcesMenuActsOnTheSourceAppliesItAndTurnsWrappingOnAndOff) {
+  frmCodeEditor &editor = Edit();
+  Code(1).text = QStringLiteral("<p>typed</p>");
+  const auto open = [&]() -> QMenu & {
+    Q_EMIT Code(1).Widget()->customContextMenuRequested({});
+    return *editor.findChildren<QMenu *>().constLast();
+  };
+  const auto choose = [&](const char *caption) {
+    QMenu &menu = open();
+    for (QAction *item : menu.actions())
+      if (item->text() == QString::fromLatin1(caption)) item->trigger();
+    menu.close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  };
+  QStringList captions;
+  QMenu &menu = open();
+  for (const QAction *item : menu.actions()) captions << item->text();
+  EXPECT_EQ(captions.join(u'|').toStdString(),
+            "&Undo|&Redo||Cu&t|&Copy|&Paste|&Delete||Select &All||Apply to Document|&Wrap Lines");
+  menu.close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  choose("Select &All");
+  EXPECT_EQ(Code(1).SelectedText(), QStringLiteral("<p>typed</p>"));
+  EXPECT_TRUE(editor.UnappliedText().has_value());
+  choose("Apply to Document");
+  EXPECT_FALSE(editor.UnappliedText().has_value());
+  EXPECT_EQ(Code(1).wrap, LineWrap::On);
+  choose("&Wrap Lines");
+  EXPECT_EQ(Code(1).wrap, LineWrap::Off);
+  QMenu &after = open();
+  EXPECT_FALSE(after.actions().constLast()->isChecked());
+  after.close();
 }
 
 TEST_F(CodeEditorTest, TheMarkedLineIsTheFirstAtLoadAndThenTheCarets) {

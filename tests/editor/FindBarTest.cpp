@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/modSettingManager.h"
 #include "editor/FindBar.h"
 #include "tests/editor/EditorWorld.h"
 
@@ -14,11 +13,7 @@ namespace velor {
 
 class FindBarTest : public EditorWorld {
  protected:
-  // The keys are the source editor's own where the menus have none.
-  FindBarTest() {
-    modSettingManager::SetOption(registry, QStringLiteral("PublishedOnly"), QStringLiteral("True"));
-  }
-  void OpenBar(Qt::Key key) {
+  void OpenBar(FindBar::Purpose purpose) {
     Open(QStringLiteral("\\site\\index.htm"));
     Page(1).ChangeMode(3);
     frmCodeEditor &editor = *pages.CodeEditor(1);
@@ -27,8 +22,9 @@ class FindBarTest : public EditorWorld {
     editor.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
     Code(1).Widget()->setFocus();
-    QTest::keyClick(Code(1).Widget(), key, Qt::ControlModifier);
+    Bar().Open(purpose);
   }
+  FindBar &Bar() { return *pages.CodeEditor(1)->findChild<FindBar *>(); }
   template <typename Widget>
   Widget &Part(const char *name) {
     return *pages.CodeEditor(1)->findChild<Widget *>(QString::fromLatin1(name));
@@ -38,8 +34,8 @@ class FindBarTest : public EditorWorld {
   qsizetype Selected() { return Code(1).selectionStart; }
 };
 
-TEST_F(FindBarTest, CtrlFFindsAsItIsTypedAndEnterGoesOnAround) {
-  OpenBar(Qt::Key_F);
+TEST_F(FindBarTest, FindsAsItIsTypedAndEnterGoesOnAround) {
+  OpenBar(FindBar::Purpose::Find);
   ASSERT_TRUE(Shown("picFind"));
   EXPECT_FALSE(Shown("txtReplace"));
   EXPECT_EQ(Part<QLineEdit>("txtFind").accessibleName(), QStringLiteral("Find"));
@@ -54,7 +50,7 @@ TEST_F(FindBarTest, CtrlFFindsAsItIsTypedAndEnterGoesOnAround) {
 }
 
 TEST_F(FindBarTest, TheMatchesAreCountedAndMarked) {
-  OpenBar(Qt::Key_F);
+  OpenBar(FindBar::Purpose::Find);
   QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("two"));
   EXPECT_EQ(Part<QLabel>("lblResult").text(), QStringLiteral("1 of 2"));
   EXPECT_EQ(Code(1).marked, (std::vector<TextStretch>{{4, 7}, {12, 15}}));
@@ -65,17 +61,17 @@ TEST_F(FindBarTest, TheMatchesAreCountedAndMarked) {
 }
 
 TEST_F(FindBarTest, TheSelectionIsWhatIsFoundFirst) {
-  OpenBar(Qt::Key_F);
+  OpenBar(FindBar::Purpose::Find);
   QTest::keyClick(&Part<QLineEdit>("txtFind"), Qt::Key_Escape);
   Code(1).Select({4, 7});
-  QTest::keyClick(Code(1).Widget(), Qt::Key_F, Qt::ControlModifier);
+  Bar().Open(FindBar::Purpose::Find);
   EXPECT_EQ(Part<QLineEdit>("txtFind").text(), QStringLiteral("two"));
   EXPECT_EQ(Part<QLineEdit>("txtFind").selectedText(), QStringLiteral("two"));
   EXPECT_EQ(Part<QLabel>("lblResult").text(), QStringLiteral("1 of 2"));
 }
 
 TEST_F(FindBarTest, UpBringsEarlierWords) {
-  OpenBar(Qt::Key_F);
+  OpenBar(FindBar::Purpose::Find);
   auto &words = Part<QLineEdit>("txtFind");
   for (const char *each : {"one", "two"}) {
     words.selectAll();
@@ -89,14 +85,14 @@ TEST_F(FindBarTest, UpBringsEarlierWords) {
 }
 
 TEST_F(FindBarTest, ABadExpressionIsTold) {
-  OpenBar(Qt::Key_F);
+  OpenBar(FindBar::Purpose::Find);
   QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("(one"));
   Part<QAction>("optExpression").setChecked(true);
   EXPECT_EQ(Part<QLabel>("lblResult").text(), QStringLiteral("Not a regular expression"));
 }
 
 TEST_F(FindBarTest, OnlyTheSelectionIsSearchedWhereThatIsWanted) {
-  OpenBar(Qt::Key_H);
+  OpenBar(FindBar::Purpose::Replace);
   QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("two"));
   Code(1).Select({8, 15});
   Part<QAction>("optSelection").setChecked(true);
@@ -115,7 +111,7 @@ TEST_F(FindBarTest, WordsAndOptionsAreThoseOfThePage) {
   pages.CodeEditor(1)->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(pages.CodeEditor(1)));
   Code(1).Widget()->setFocus();
-  QTest::keyClick(Code(1).Widget(), Qt::Key_F3);
+  Bar().FindOn(SearchDirection::Forward);
   EXPECT_EQ(Selected(), 8);
 }
 
@@ -169,14 +165,14 @@ TEST_F(PageFindBarTest, AnEditCountsTheMatchesAgain) {
 }
 
 TEST_F(FindBarTest, LetterCaseCountsWhereItIsWanted) {
-  OpenBar(Qt::Key_F);
+  OpenBar(FindBar::Purpose::Find);
   QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("One"));
   Part<QCheckBox>("chkCase").setChecked(true);
   EXPECT_EQ(Selected(), 8);
 }
 
 TEST_F(FindBarTest, WhatIsNowhereIsToldAndEscapeGoesBackToTheSource) {
-  OpenBar(Qt::Key_F);
+  OpenBar(FindBar::Purpose::Find);
   QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("three"));
   EXPECT_EQ(Part<QLabel>("lblResult").text(), QStringLiteral("Not found"));
   log.clear();
@@ -185,26 +181,26 @@ TEST_F(FindBarTest, WhatIsNowhereIsToldAndEscapeGoesBackToTheSource) {
   EXPECT_EQ(log, Calls({"Source.SetFocus()"}));
 }
 
-TEST_F(FindBarTest, F3GoesOnAndShiftF3Back) {
-  OpenBar(Qt::Key_F);
+TEST_F(FindBarTest, FindNextGoesOnAndFindPreviousBack) {
+  OpenBar(FindBar::Purpose::Find);
   QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("two"));
   QTest::keyClick(&Part<QLineEdit>("txtFind"), Qt::Key_Escape);
-  QTest::keyClick(Code(1).Widget(), Qt::Key_F3);
+  Bar().FindOn(SearchDirection::Forward);
   EXPECT_EQ(Selected(), 12);
-  QTest::keyClick(Code(1).Widget(), Qt::Key_F3, Qt::ShiftModifier);
+  Bar().FindOn(SearchDirection::Backward);
   EXPECT_EQ(Selected(), 4);
 }
 
 TEST_F(FindBarTest, TabGoesFromTheWordsToTheirReplacement) {
-  OpenBar(Qt::Key_H);
+  OpenBar(FindBar::Purpose::Replace);
   QTest::keyClick(&Part<QLineEdit>("txtFind"), Qt::Key_Tab);
   EXPECT_TRUE(Part<QLineEdit>("txtReplace").hasFocus());
   QTest::keyClick(&Part<QLineEdit>("txtReplace"), Qt::Key_Tab);
   EXPECT_TRUE(Part<QPushButton>("cmdPrevious").hasFocus());
 }
 
-TEST_F(FindBarTest, CtrlHReplacesOneByOneOrAll) {
-  OpenBar(Qt::Key_H);
+TEST_F(FindBarTest, ReplacesOneByOneOrAll) {
+  OpenBar(FindBar::Purpose::Replace);
   ASSERT_TRUE(Shown("txtReplace"));
   QTest::keyClicks(&Part<QLineEdit>("txtFind"), QStringLiteral("two"));
   QTest::keyClicks(&Part<QLineEdit>("txtReplace"), QStringLiteral("2"));
