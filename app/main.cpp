@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/settings/Languages.h"
+#include "app/settings/modSettingManager.h"
 #include "app/startup/EventBoundary.h"
 #include "app/startup/RealStartUpWindows.h"
 #include "app/window/Additions.h"
@@ -66,7 +67,7 @@ int main(int argc, char **argv) {
   application.SetBoundary(&boundary);
   real.copies.RemoveAbandoned();
   real.components.SetWholeSigns(KeepsTemplateSignsWhole(real.registry));
-  real.components.SetAdditions(HasAdditions(real.registry));
+  real.components.SetAdditions(modSettingManager::HasAdditions(real.registry));
   QtPrinters printers(real.dialogs);
   real.ownLanguage = OwnLanguage(real.registry);
   ProgramValues values;
