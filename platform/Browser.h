@@ -54,6 +54,12 @@ class Browser {
   /// not part of the page.
   virtual double Zoom() const = 0;
   virtual void SetZoom(double factor) = 0;
+
+  /// What a page is shown on. A phone has touch in the mouse's place, a sharper screen, the name of
+  /// a phone's browser, and lays a page out as its viewport declaration says.
+  enum class Device { Desktop, Phone };
+  /// Shows pages as that device does from now on, the one on show too.
+  virtual void ShowAs(Device device) = 0;
 };
 
 }  // namespace velor

@@ -4,6 +4,7 @@
 #include "engine/FileDrops.h"
 #include "engine/PdfPrint.h"
 #include "engine/preview/BrowserPage.h"
+#include "engine/preview/PhoneEmulation.h"
 #include "platform/Paths.h"
 
 #include <QAction>
@@ -158,6 +159,7 @@ WebBrowser::WebBrowser(QWidget *parent)
 
 WebBrowser::~WebBrowser() {
   print_.reset();
+  phone_.reset();
   // Requests that are still on their way are told to nobody.
   scheme_.disconnect(this);
   if (!page_.isNull()) page_->disconnect(this);
@@ -209,6 +211,21 @@ void WebBrowser::Stop() {
 void WebBrowser::SetZoom(double factor) {
   zoom_ = factor;
   page_->setZoomFactor(factor);
+}
+
+void WebBrowser::ShowAs(Device device) {
+  const bool isPhone = device == Device::Phone;
+  if (isPhone == (phone_ != nullptr)) return;
+  // Without an address there is nothing to show anew.
+  const auto showAnew = [this] {
+    if (!page_->url().isEmpty()) Refresh();
+  };
+  if (!isPhone) {
+    phone_.reset();
+    return showAnew();
+  }
+  phone_ = std::make_unique<PhoneEmulation>(*page_);
+  connect(phone_.get(), &PhoneEmulation::Ready, this, showAnew);
 }
 
 void WebBrowser::MakePdf(const PaperForm &form, Made made) {

@@ -21,6 +21,7 @@ namespace velor {
 
 class BrowserPage;
 class PdfPrint;
+class PhoneEmulation;
 
 /// The preview browser on Qt WebEngine. Files are shown as parts of their site (SiteScheme), and
 /// nothing else of this machine is. Page scripts run, in the engine's sandbox; what a page leaves
@@ -46,6 +47,7 @@ class WebBrowser final : public QObject, public Browser, private PagePrinting {
   PagePrinting &Printing() override { return *this; }
   double Zoom() const override { return zoom_; }
   void SetZoom(double factor) override;
+  void ShowAs(Device device) override;
 
  private:
   // PagePrinting
@@ -66,6 +68,7 @@ class WebBrowser final : public QObject, public Browser, private PagePrinting {
   std::unique_ptr<QWebEngineProfile> profile_;
   QPointer<QWebEngineView> view_;
   QPointer<BrowserPage> page_;
+  std::unique_ptr<PhoneEmulation> phone_;  ///< null for a desktop
   BrowserListener *listener_ = nullptr;
   double zoom_ = 1;
   QString site_;             ///< native folder; empty for the folder of each page

@@ -23,6 +23,7 @@ class FakeBrowser final : public Browser {
   BrowserListener *listener = nullptr;
   FakePagePrinting printing;
   double zoom = 1;
+  Device device = Device::Desktop;
 
   QWidget *Widget() override { return widget_; }
   void SetListener(BrowserListener *newListener) override { listener = newListener; }
@@ -43,6 +44,7 @@ class FakeBrowser final : public Browser {
   PagePrinting &Printing() override { return printing; }
   double Zoom() const override { return zoom; }
   void SetZoom(double factor) override { zoom = factor; }
+  void ShowAs(Device newDevice) override { device = newDevice; }
 
  private:
   CallLog *log_;
