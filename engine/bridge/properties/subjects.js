@@ -9,6 +9,7 @@ import * as align from '../formats/align.js';
 import * as pending from '../formats/pending.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
+import { breakpoints } from '../page/sheets.js';
 import { unitsIn } from '../page/units.js';
 import { rectangleChosen } from '../tables/chosen.js';
 import { gridOf, placesIn } from '../tables/grid.js';
@@ -216,6 +217,7 @@ const pageFields = () => ({
   ...inBody('link'), ...inBody('vlink'), ...inBody('alink'),
   charset: told(() => document.characterSet), mode: told(() => document.compatMode),
   dialect: told(() => (dom.writesStyles() ? 'html5' : 'old')),
+  breakpoints: told(() => breakpoints().join(' ')),
 });
 
 /** @type {Record<string, Subject>} */

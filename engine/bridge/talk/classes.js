@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // The classes that the page's style sheets define for an element.
+import { allRules } from '../page/sheets.js';
 
 // What an element is in at times, or what is drawn at it.
 const passing =
@@ -55,37 +56,11 @@ function read(list) {
 }
 
 /**
- * @param {CSSRuleList} rules
- * @returns {Generator<string>}
- */
-function* selectorsIn(rules) {
-  for (const rule of rules) {
-    if (rule.selectorText) yield rule.selectorText;
-    else if (rule.styleSheet) yield* selectorsOf(rule.styleSheet);
-    else if (rule.cssRules) yield* selectorsIn(rule.cssRules);
-  }
-}
-
-/**
- * @param {CSSStyleSheet} sheet
- * @returns {Generator<string>}
- */
-function* selectorsOf(sheet) {
-  let rules = null;
-  try {
-    rules = sheet.cssRules;
-  } catch {
-    // A sheet of another origin shows its rules to nobody.
-  }
-  if (rules) yield* selectorsIn(rules);
-}
-
-/**
  * The classes that the style sheets define for an element of this kind in this place, sorted.
  * @param {Element} element
  */
 export function classesFor(element) {
-  const lists = [...document.styleSheets].flatMap((sheet) => [...selectorsOf(sheet)]);
+  const lists = [...allRules()].map(({ selectorText }) => selectorText ?? '');
   /** @type {Set<string>} */
   const found = new Set();
   for (const { names, others } of lists.filter((list) => list.includes('.')).flatMap(read)) {
