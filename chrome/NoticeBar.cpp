@@ -8,14 +8,18 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace velor {
 
 NoticeBar::NoticeBar(const char *name, const char *textName, const QString &accessibleName,
                      QWidget *parent)
-    : QFrame(parent), line_(new QHBoxLayout(this)), text_(new QLabel) {
+    : QFrame(parent), rows_(new QVBoxLayout(this)), line_(new QHBoxLayout), text_(new QLabel) {
   setObjectName(QString::fromLatin1(name));
   setAccessibleName(accessibleName);
+  rows_->setContentsMargins(0, 0, 0, 0);
+  rows_->setSpacing(0);
+  rows_->addLayout(line_);
   line_->setContentsMargins(2 * BarMargin, BarMargin, 2 * BarMargin, BarMargin);
   line_->setSpacing(BarMargin);
   text_->setObjectName(QString::fromLatin1(textName));
@@ -41,6 +45,10 @@ void NoticeBar::Tell(const QString &text) {
 
 void NoticeBar::Add(QWidget &control) {
   line_->addWidget(&control);
+}
+
+void NoticeBar::AddBelow(QWidget &part) {
+  rows_->addWidget(&part);
 }
 
 QPushButton &NoticeBar::AddButton(const char *name, const QString &caption, const QString &tip) {

@@ -7,6 +7,7 @@
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QVBoxLayout;
 
 namespace velor {
 
@@ -27,12 +28,15 @@ class NoticeBar : public QFrame {
   void Tell(const QString &text);
   /// Adds a control behind the last one.
   void Add(QWidget &control);
+  /// Adds a part below the line, as wide as the bar.
+  void AddBelow(QWidget &part);
   /// Adds a button. A click on it leaves the keyboard in the page.
   QPushButton &AddButton(const char *name, const QString &caption, const QString &tip);
 
   void paintEvent(QPaintEvent *event) override;
 
  private:
+  QVBoxLayout *rows_;
   QHBoxLayout *line_;
   QLabel *text_;
 };

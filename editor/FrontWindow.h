@@ -40,6 +40,9 @@ class FrontWindow {
   /// How large the page is shown, 1 for its own size. Sources have none of it.
   virtual double Zoom() const { return 1; }
   virtual void SetZoom(double /*factor*/) {}
+  /// Opens the bar with the widths of the page, or closes it. False where there are none: sources
+  /// have no width.
+  virtual bool ToggleWidths() { return false; }
 };
 
 /// The name of a slot's page: the title of its window, or the record's caption where that is gone.

@@ -3,7 +3,9 @@
 #include "chrome/ToolBarButtons.h"
 #include "editor/FindBar.h"
 #include "editor/MainWindow.h"
+#include "editor/PageFrame.h"
 #include "editor/PageSlots.h"
+#include "editor/PageWidths.h"
 #include "editor/SourceCaret.h"
 #include "editor/SourceWrap.h"
 #include "editor/frmBrowser.h"
@@ -52,7 +54,7 @@ void frmMain::ChangeMode(std::int32_t mode) {
 
 void frmMain::ShowDesign() {
   ReturnCaretFromSource();
-  views_->setCurrentWidget(component_->Widget());
+  views_->setCurrentWidget(&widths_->Frame());
   setFocusProxy(component_->Widget());
   component_->SetFocus();
   ShowMode();
@@ -87,6 +89,7 @@ void frmMain::ShowMode() {
     findBar_->SetTarget(component_->Search());
   else
     findBar_->SetTarget(sourceSearch_);
+  widths_->ShowBar();
   if (!IsInFront()) return;
   context_.mainWindow.commands.Refresh();
   ShowState();

@@ -2,6 +2,8 @@
 // frmMain: what the main window shows of the selection (buttons, boxes, tag, a link's target).
 #include "editor/EditCommands.h"
 #include "editor/MainWindow.h"
+#include "editor/PageFrame.h"
+#include "editor/PageWidths.h"
 #include "editor/frmMain.h"
 #include "platform/Conversions.h"
 #include "platform/Words.h"
@@ -62,10 +64,20 @@ void frmMain::ShowState() {
       TextFormAndZoom(component_->TextForm(), View() == FrontView::Design ? Zoom() : 1));
 }
 
+double frmMain::Zoom() const {
+  return widths_->Frame().Zoom();
+}
+
 void frmMain::SetZoom(double factor) {
   if (View() != FrontView::Design) return;
-  component_->SetZoom(factor);
+  widths_->Frame().SetZoom(factor);
   if (IsInFront()) ShowState();
+}
+
+bool frmMain::ToggleWidths() {
+  if (View() != FrontView::Design) return false;
+  widths_->Toggle();
+  return true;
 }
 
 void frmMain::RefreshMfrm() {

@@ -5,7 +5,9 @@
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
 #include "editor/MainWindow.h"
+#include "editor/PageFrame.h"
 #include "editor/PageSlots.h"
+#include "editor/PageWidths.h"
 #include "editor/frmMain.h"
 #include "platform/Platform.h"
 #include "platform/Words.h"
@@ -79,6 +81,10 @@ frmBrowser::frmBrowser(EditorContext &context)
   browser_->Widget()->setObjectName(QStringLiteral("brwWebBrowser"));
   browser_->Widget()->setAccessibleName(Words::tr("Preview"));
 
+  widths_ = new PageWidths(
+      context, *this, *browser_->Widget(), [this](double factor) { browser_->SetZoom(factor); },
+      [this](Browser::Device device) { browser_->ShowAs(device); });
+
   BuildStatusBar();
   setFocusProxy(browser_->Widget());
 
@@ -145,10 +151,13 @@ bool frmBrowser::event(QEvent *event) {
 void frmBrowser::PlaceParts() {
   const int toolBarHeight = toolBar_->sizeHint().height();
   const int statusBarHeight = statusBar_->sizeHint().height();
+  WidthsBar &widths = widths_->Bar();
+  const int widthsHeight = widths.isHidden() ? 0 : widths.sizeHint().height();
   toolBar_->setGeometry(0, 0, width(), toolBarHeight);
+  widths.setGeometry(0, toolBarHeight, width(), widthsHeight);
   statusBar_->setGeometry(0, height() - statusBarHeight, width(), statusBarHeight);
-  if (const auto place = BrowserPlace(size(), toolBarHeight, statusBarHeight)) {
-    browser_->Widget()->setGeometry(*place);
+  if (const auto place = BrowserPlace(size(), toolBarHeight + widthsHeight, statusBarHeight)) {
+    widths_->Frame().setGeometry(*place);
   }
 }
 
@@ -165,14 +174,28 @@ QString frmBrowser::ShownName() const {
 
 void frmBrowser::OnActivated() {
   ShowPageWithoutFormats(context_, page_);
+  ShowTextForm();
+  widths_->Follow();
+}
+
+void frmBrowser::ShowTextForm() {
   frmMain *page = page_ == 0 ? nullptr : context_.pages.Page(page_);
   const QString form = page == nullptr ? QString() : page->DHTML1().TextForm();
   context_.mainWindow.status.ShowTextForm(TextFormAndZoom(form, Zoom()));
 }
 
 void frmBrowser::SetZoom(double factor) {
-  browser_->SetZoom(factor);
-  OnActivated();
+  widths_->Frame().SetZoom(factor);
+  ShowTextForm();
+}
+
+double frmBrowser::Zoom() const {
+  return widths_->Frame().Zoom();
+}
+
+bool frmBrowser::ToggleWidths() {
+  widths_->Toggle();
+  return true;
 }
 
 void frmBrowser::MarkKill() {

@@ -29,6 +29,7 @@ int ProgressPercent(std::int32_t progress, std::int32_t maximum);
 /// where the window is too low for the bars; the browser keeps its place then.
 std::optional<QRect> BrowserPlace(QSize inner, int toolBarHeight, int statusBarHeight);
 
+class PageWidths;
 class frmBrowser;
 
 /// The one preview window (EditorContext::preview); created as a child of the main window when
@@ -68,8 +69,9 @@ class frmBrowser : public QWidget,
   void Edit(EditingCommand) override {}
   void OnActivated() override;
   PagePrinting *Printing() override { return &browser_->Printing(); }
-  double Zoom() const override { return browser_->Zoom(); }
+  double Zoom() const override;
   void SetZoom(double factor) override;
+  bool ToggleWidths() override;
 
   void MarkKill() override;
 
@@ -89,10 +91,13 @@ class frmBrowser : public QWidget,
   void BuildToolBar();
   void BuildStatusBar();
   void PlaceParts();
+  /// What the status bar shows of the page.
+  void ShowTextForm();
 
   EditorContext &context_;
   std::unique_ptr<Browser> browser_;
   int page_ = 0;
+  PageWidths *widths_ = nullptr;
   std::unique_ptr<FileWatch> parts_;  ///< of the page's files; null where files are not watched
   QToolBar *toolBar_ = nullptr;
   QStatusBar *statusBar_ = nullptr;

@@ -10,8 +10,10 @@
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/OutsideChanges.h"
+#include "editor/PageFrame.h"
 #include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
+#include "editor/PageWidths.h"
 #include "editor/PageWords.h"
 #include "editor/PictureFitting.h"
 #include "editor/SpellingBar.h"
@@ -103,8 +105,11 @@ frmMain::frmMain(EditorContext &context, int number)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(modeBar_);
+  widths_ = new PageWidths(context_, *this, *component_->Widget(),
+                           [this](double factor) { component_->SetZoom(factor); });
+  layout->addWidget(&widths_->Bar());
   views_ = new QStackedLayout;
-  views_->addWidget(component_->Widget());
+  views_->addWidget(&widths_->Frame());
   views_->addWidget(source_->Widget());
   layout->addLayout(views_, 1);
   findBar_ = new FindBar(context_.find, this);
@@ -223,6 +228,7 @@ void frmMain::OnActivated() {
   if (TruthOption(context_, PreferenceOf("showtoolbox"))) {
     context_.mainWindow.requests.ResetElementInspection();
   }
+  widths_->Follow();
 }
 
 void frmMain::ShowTab() {
@@ -260,6 +266,8 @@ void frmMain::closeEvent(QCloseEvent *event) {
 
 void frmMain::DocumentComplete() {
   UseSpelling(*this);
+  // Waits for the page, which may be closed meanwhile.
+  QTimer::singleShot(0, widths_, &PageWidths::Follow);
   if (IsInFront()) ShowState();
   journal_.DocumentChanged();
   if (PendingAction != QStringLiteral("gethtml")) return;
@@ -273,6 +281,7 @@ void frmMain::DocumentComplete() {
 
 void frmMain::DisplayChanged() {
   fitting_->SelectionChanged();
+  widths_->Frame().ShowCaret();
   if (Ready == QStringLiteral("True") && IsInFront()) ShowState();
 }
 
@@ -283,10 +292,12 @@ void frmMain::MemoryChanged() {
   pictures_->Follow();
   ShowTab();
   const bool isReadOnly = context_.pages.Record(number_).ReadOnly != False16;
-  if (!isReadOnly || isReadOnlyTold_ || !journal_.HasChanges()) return;
-  isReadOnlyTold_ = true;
-  context_.mainWindow.status.ReportOn(
-      number_, Words::tr("This file is read-only: Save As keeps your changes"));
+  if (isReadOnly && !isReadOnlyTold_ && journal_.HasChanges()) {
+    isReadOnlyTold_ = true;
+    context_.mainWindow.status.ReportOn(
+        number_, Words::tr("This file is read-only: Save As keeps your changes"));
+  }
+  widths_->DocumentChanged();
 }
 
 void frmMain::ContextMenuRequested(QPoint screenPosition) {

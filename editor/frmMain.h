@@ -26,6 +26,7 @@ namespace velor {
 class FindBar;
 class OutsideChanges;
 class PagePictures;
+class PageWidths;
 class PictureFitting;
 class SpellingBar;
 class ToolBarAction;
@@ -94,8 +95,9 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void Edit(EditingCommand command) override;
   void OnActivated() override;
   PagePrinting *Printing() override { return &component_->Printing(); }
-  double Zoom() const override { return component_->Zoom(); }
+  double Zoom() const override;
   void SetZoom(double factor) override;
+  bool ToggleWidths() override;
 
   /// Turn the view's details, or its grid, on or off, and keep the choice.
   void ToggleShowDetails();
@@ -165,6 +167,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   SourceCaret shownCaret_;  ///< the source view's caret as ViewHtml left it
   QToolBar *modeBar_ = nullptr;
   QStackedLayout *views_ = nullptr;
+  PageWidths *widths_ = nullptr;
   FindBar *findBar_ = nullptr;
   OutsideChanges *outside_ = nullptr;
   std::unique_ptr<PagePictures> pictures_;

@@ -12,6 +12,7 @@ constexpr HelpTopic Topics[] = {
     // Windows of pages.
     {"picOutside", nullptr, "outside.html#both"},
     {"frmMain", "Code1", "source.html#view"},
+    {"picWidths", nullptr, "widths.html#bar"},
     {"frmMain", nullptr, "design.html"},
     {"picPicture", nullptr, "pictures.html#site"},
     {"picFitting", nullptr, "pictures.html#fit"},

@@ -62,6 +62,7 @@ enum class CommandId {
   ZoomIn,
   ZoomOut,
   ZoomReset,
+  PageWidths,
 };
 
 struct Command {

@@ -227,6 +227,9 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::ZoomReset:
       Zoom(0);
       break;
+    case CommandId::PageWidths:
+      ToggleWidths();
+      break;
     case CommandId::Shortcuts:
       host_.ShowShortcuts();
       break;
@@ -344,6 +347,12 @@ void CommandRouter::PutOnPaper(void (CommandHost::*way)(FrontWindow &)) {
 
 void CommandRouter::Zoom(int steps) {
   if (FrontWindow *front = host_.Front()) front->SetZoom(NextZoom(front->Zoom(), steps));
+}
+
+void CommandRouter::ToggleWidths() {
+  FrontWindow *front = host_.Front();
+  if (front == nullptr || !front->ToggleWidths())
+    context_.mainWindow.status.Report(Words::tr("Pages in design view and previews have a width"));
 }
 
 bool CommandRouter::ApplySource(const FrontWindow &front) {

@@ -103,6 +103,8 @@ class CommandRouter {
   void PutOnPaper(void (CommandHost::*way)(FrontWindow &));
   /// Shows what is in front larger or smaller, or in its own size (NextZoom).
   void Zoom(int steps);
+  /// Opens or closes the bar with the widths of what is in front.
+  void ToggleWidths();
   /// Applies source that was typed into the window, if it is a source editor, to its page. False
   /// where that cannot be done.
   bool ApplySource(const FrontWindow &front);

@@ -115,6 +115,7 @@ constexpr MenuRow Rows[] = {
     Found(Words::Mark("larger bigger magnify"), Beyond(Item("mnuZoomIn", Words::Mark("Zoom &In"), "mnuZoom", {CommandId::ZoomIn}, nullptr, "Ctrl++"))),
     Found(Words::Mark("smaller"), Beyond(Item("mnuZoomOut", Words::Mark("Zoom &Out"), "mnuZoom", {CommandId::ZoomOut}, nullptr, "Ctrl+-"))),
     Found(Words::Mark("100 normal reset"), Beyond(Item("mnuZoomReset", Words::Mark("Own &Size"), "mnuZoom", {CommandId::ZoomReset}, nullptr, "Ctrl+0"))),
+    Found(Words::Mark("phone tablet mobile responsive media small"), Beyond(Item("mnuWidths", Words::Mark("Page Widths"), "mnuTools", {CommandId::PageWidths}, nullptr, "Ctrl+Shift+M"))),
     Separator("mnu10", "mnuTools"),
     Found(Words::Mark("search words text look"), Beyond(Item("mnuFind", Words::Mark("Find... (&N)"), "mnuTools", {CommandId::Find}, nullptr, "Ctrl+F"))),
     Found(Words::Mark("exchange change words text"), Beyond(Item("mnuReplace", Words::Mark("Replace... (&P)"), "mnuTools", {CommandId::Replace}, nullptr, "Ctrl+H"))),

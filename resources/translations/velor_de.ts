@@ -3931,6 +3931,76 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>Characters in the selection: %1</source>
         <translation>Zeichen in der Auswahl: %1</translation>
     </message>
+    <message>
+        <source>Pages in design view and previews have a width</source>
+        <translation>Seiten in der Entwurfsansicht und Vorschauen haben eine Breite</translation>
+    </message>
+    <message>
+        <source>phone tablet mobile responsive media small</source>
+        <translation>telefon handy tablet mobil responsiv schmal</translation>
+    </message>
+    <message>
+        <source>Page Widths</source>
+        <translation>Seitenbreiten</translation>
+    </message>
+    <message>
+        <source>Drag to change the page&apos;s width</source>
+        <translation>Ziehen ändert die Breite der Seite</translation>
+    </message>
+    <message>
+        <source>Widths at which the page changes: %1</source>
+        <translation>Breiten, bei denen sich die Seite ändert: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show at %n pixels</source>
+        <translation>
+            <numerusform>Mit %n Pixel Breite zeigen</numerusform>
+            <numerusform>Mit %n Pixeln Breite zeigen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Add Viewport</source>
+        <translation>Viewport einfügen</translation>
+    </message>
+    <message>
+        <source>Tells phones to lay the page out at their own width. Undo takes it back</source>
+        <translation>Telefone ordnen die Seite dann in ihrer eigenen Breite an. Rückgängig nimmt es zurück</translation>
+    </message>
+    <message>
+        <source>Close, and show pages as wide as the window</source>
+        <translation>Schließen und Seiten so breit wie das Fenster zeigen</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>Ganz</translation>
+    </message>
+    <message>
+        <source>As wide as the window</source>
+        <translation>So breit wie das Fenster</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixels wide</source>
+        <translation>
+            <numerusform>%n Pixel breit</numerusform>
+            <numerusform>%n Pixel breit</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Page width in pixels</source>
+        <translation>Seitenbreite in Pixeln</translation>
+    </message>
+    <message>
+        <source>As a Phone</source>
+        <translation>Als Telefon</translation>
+    </message>
+    <message>
+        <source>Show the preview as a phone does: touch, sharpness, name of the browser</source>
+        <translation>Zeigt die Vorschau wie ein Telefon: Berührung, Schärfe, Name des Browsers</translation>
+    </message>
+    <message>
+        <source>Phones show this page small: it has no viewport declaration</source>
+        <translation>Telefone zeigen diese Seite verkleinert: Ihr fehlt die Viewport-Angabe</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

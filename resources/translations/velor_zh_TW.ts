@@ -3919,6 +3919,74 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>Characters in the selection: %1</source>
         <translation>選取範圍字元數：%1</translation>
     </message>
+    <message>
+        <source>Pages in design view and previews have a width</source>
+        <translation>設計檢視中的網頁和預覽才有寬度</translation>
+    </message>
+    <message>
+        <source>phone tablet mobile responsive media small</source>
+        <translation>手機 平板 行動 響應式 窄</translation>
+    </message>
+    <message>
+        <source>Page Widths</source>
+        <translation>頁面寬度</translation>
+    </message>
+    <message>
+        <source>Drag to change the page&apos;s width</source>
+        <translation>拖曳以變更頁面寬度</translation>
+    </message>
+    <message>
+        <source>Widths at which the page changes: %1</source>
+        <translation>頁面改變時的寬度：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show at %n pixels</source>
+        <translation>
+            <numerusform>以 %n 像素寬顯示</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Add Viewport</source>
+        <translation>加入 viewport</translation>
+    </message>
+    <message>
+        <source>Tells phones to lay the page out at their own width. Undo takes it back</source>
+        <translation>讓手機以自己的寬度排版頁面。可以復原</translation>
+    </message>
+    <message>
+        <source>Close, and show pages as wide as the window</source>
+        <translation>關閉，並以視窗寬度顯示網頁</translation>
+    </message>
+    <message>
+        <source>Full</source>
+        <translation>全寬</translation>
+    </message>
+    <message>
+        <source>As wide as the window</source>
+        <translation>與視窗同寬</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pixels wide</source>
+        <translation>
+            <numerusform>寬 %n 像素</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Page width in pixels</source>
+        <translation>頁面寬度（像素）</translation>
+    </message>
+    <message>
+        <source>As a Phone</source>
+        <translation>模擬手機</translation>
+    </message>
+    <message>
+        <source>Show the preview as a phone does: touch, sharpness, name of the browser</source>
+        <translation>像手機一樣顯示預覽：觸控、解析度、瀏覽器名稱</translation>
+    </message>
+    <message>
+        <source>Phones show this page small: it has no viewport declaration</source>
+        <translation>手機會縮小顯示這個網頁：它沒有 viewport 宣告</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -23,7 +23,7 @@ class ModesTest : public EditorWorld {
     return Page(number).findChild<QToolBar *>(QStringLiteral("tbrQuick"));
   }
   QAction *Button(int number, int position) { return Quick(number)->actions().at(position - 1); }
-  bool InFront(QWidget *widget) { return widget->isVisibleTo(widget->parentWidget()); }
+  bool InFront(QWidget *widget) { return widget->isVisibleTo(&Page(1)); }
   QString Option(const QString &name) {
     return modSettingManager::GetOption(registry, name, QStringLiteral("absent"));
   }
@@ -63,7 +63,9 @@ TEST_F(ModesTest, DesignAndSourceViewLieInTheSamePlaceUnderTheToolbar) {
   EXPECT_NE(Page(1).findChild<QWidget *>(QStringLiteral("DHTML1")), nullptr);
   EXPECT_NE(Page(1).findChild<QWidget *>(QStringLiteral("Code1")), nullptr);
   Page(1).ChangeMode(2);
-  EXPECT_EQ(Component(1).Widget()->geometry(), SourceView(1).Widget()->geometry());
+  const auto *frame = Page(1).findChild<QWidget *>(QStringLiteral("picPage"));
+  EXPECT_TRUE(frame->isAncestorOf(Component(1).Widget()));
+  EXPECT_EQ(frame->geometry(), SourceView(1).Widget()->geometry());
   EXPECT_GE(SourceView(1).Widget()->geometry().top(), Quick(1)->geometry().bottom());
 }
 

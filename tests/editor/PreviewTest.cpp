@@ -142,19 +142,22 @@ TEST_F(PreviewTest, TheBrowserFillsTheWindowBetweenTheBars) {
   frmBrowser &window = *context.preview;
   const auto *bar = window.findChild<QToolBar *>(QStringLiteral("tbToolBar"));
   const auto *status = window.findChild<QStatusBar *>(QStringLiteral("Sta"));
+  const auto place = [&] {
+    const QWidget &shown = *PreviewBrowser().Widget();
+    return QRect(shown.mapTo(&window, QPoint()), shown.size());
+  };
   for (const QSize size : {QSize(700, 500), QSize(300, 900)}) {
     window.resize(size);
     EXPECT_GT(bar->height(), 0);
     EXPECT_GT(status->height(), 0);
-    EXPECT_EQ(
-        PreviewBrowser().Widget()->geometry(),
-        QRect(0, bar->height(), size.width(), size.height() - bar->height() - status->height()));
+    EXPECT_EQ(place(), QRect(0, bar->height(), size.width(),
+                             size.height() - bar->height() - status->height()));
     EXPECT_EQ(bar->geometry().topLeft(), QPoint(0, 0));
     EXPECT_EQ(status->geometry().bottom(), size.height() - 1);
   }
-  const QRect before = PreviewBrowser().Widget()->geometry();
+  const QRect before = place();
   window.resize(300, bar->height() + status->height() - 1);
-  EXPECT_EQ(PreviewBrowser().Widget()->geometry(), before);
+  EXPECT_EQ(place(), before);
 }
 
 TEST_F(PreviewTest, ThePanelsKeepTheirPlacesWhateverTheySay) {

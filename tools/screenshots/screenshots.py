@@ -125,6 +125,16 @@ class Photographer:
         wait_for(closed, f"{what} to close")
 
 
+def page_widths(photos):
+    """What is in front, as wide as a phone."""
+    program = photos.program
+    program.key("ctrl+shift+m")
+    photos.click("412 pixels wide")
+    photos.away()
+    photos.shot("page-widths")
+    program.key("ctrl+shift+m")
+
+
 def main_window(photos):
     program = photos.program
     photos.shot("no-page")
@@ -140,6 +150,7 @@ def main_window(photos):
     photos.shot("five-pages")
     photos.hover("Bold")
     photos.shot("five-pages-button-hovered")
+    page_widths(photos)
     middle = int(500 * photos.factor)
     photos.popup(lambda: program.click(middle, middle, 3), "context-menu", "Down", "Down")
     photos.popup(lambda: program.key("alt+f"), "file-menu", "Down")
@@ -350,6 +361,7 @@ def modes(photos):
     program.key("ctrl+F4")
     program.press("Preview", within=page)
     photos.shot("preview")
+    page_widths(photos)
     photos.popup(lambda: program.click(middle, middle, 3), "preview-context-menu", "Down")
     program.key("ctrl+F4")
     photos.dialog(lambda: program.key("ctrl+F4"), "close-prompt", ("Yes", "push button"))

@@ -146,6 +146,7 @@ mnuZoom "Zoom (&Z)"
   mnuZoomIn "Zoom &In" Ctrl++
   mnuZoomOut "Zoom &Out" Ctrl+-
   mnuZoomReset "Own &Size" Ctrl+0
+mnuWidths "Page Widths" Ctrl+Shift+M
 mnu10 "-"
 mnuFind "Find... (&N)" Ctrl+F
 mnuReplace "Replace... (&P)" Ctrl+H
