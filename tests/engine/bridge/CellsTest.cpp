@@ -2,6 +2,8 @@
 // Rectangles of cells: selected by the pointer and by keys, shown, and what is done to all of them.
 #include "tests/engine/bridge/ObjectsFixture.h"
 
+#include <QTest>
+
 namespace velor {
 namespace {
 
