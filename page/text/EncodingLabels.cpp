@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "page/text/CharsetRange.h"
 #include "page/text/PageEncoding.h"
 
 #include <QByteArray>
@@ -85,6 +86,15 @@ QHash<QString, QString> CharsetsByLabel() {
 }
 
 }  // namespace
+
+QStringList AllCharsets() {
+  QStringList charsets;
+  for (const Labels &row : AllLabels) charsets << QString::fromLatin1(row.charset);
+  // No page can be written in these.
+  for (const char *other : {"replacement", "x-user-defined"})
+    charsets.removeAll(QLatin1String(other));
+  return charsets;
+}
 
 QString CharsetForLabel(const QString &label) {
   static const QHash<QString, QString> charsets = CharsetsByLabel();

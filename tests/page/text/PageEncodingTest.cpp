@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "page/saving/CharsetChange.h"
+#include "page/text/CharsetRange.h"
 #include "page/text/PageEncoding.h"
 #include "tests/support/Checks.h"
 
@@ -280,6 +282,90 @@ TEST(CharsetForLabel, KnowsTheStandardsLabels) {
   EXPECT_EQ(CharsetForLabel(u"\u212Aoi8-r"_qs), "");
   EXPECT_EQ(CharsetForLabel("utf-7"), "");
   EXPECT_EQ(CharsetForLabel(""), "");
+}
+
+/// The text, changed for a charset and read again from its bytes.
+QString Converted(const char *text, const char *charset) {
+  const DecodedPage page = InCharset(QString::fromUtf8(text), QLatin1String(charset));
+  const DecodedPage again = DecodePage(EncodePage(page.text, page.encoding));
+  EXPECT_EQ(again.encoding.charset, QLatin1String(charset)) << text;
+  EXPECT_EQ(again.text, page.text);
+  return again.text;
+}
+
+TEST(CharsetChange, APageIsReadInEachCharsetThatItIsConvertedTo) {
+  const QStringList charsets = AllCharsets();
+  EXPECT_EQ(charsets.size(), 38);
+  EXPECT_EQ(charsets.front(), "utf-8");
+  const QString page = u"<html><head>\r\n<title>t</title></head><body>\r\nText"_s;
+  for (const QString &charset : charsets) {
+    QString text = page;
+    // There and on to each of the three forms of Unicode.
+    for (const QString &next : {charset, u"utf-16le"_s, charset, u"utf-8"_s, u"utf-16be"_s}) {
+      const DecodedPage changed = InCharset(text, next);
+      const DecodedPage again = DecodePage(EncodePage(changed.text, changed.encoding));
+      EXPECT_EQ(again.encoding, changed.encoding) << qPrintable(charset);
+      EXPECT_EQ(again.text, changed.text) << qPrintable(charset);
+      EXPECT_NE(changed.text, text);
+      text = changed.text;
+    }
+  }
+}
+
+TEST(CharsetChange, TheDeclarationIsChangedWhereItStands) {
+  for (const auto &[before, after] : {
+           std::pair{"<meta charset=utf-8><p>", "<meta charset=big5><p>"},
+           {"<META CHARSET='UTF-8' id=a>", "<META CHARSET='big5' id=a>"},
+           {"<!-- <meta charset=utf-8> --><meta http-equiv=content-type content='text/html; "
+            "charset=utf-8'>",
+            "<!-- <meta charset=utf-8> --><meta http-equiv=content-type content='text/html; "
+            "charset=big5'>"},
+           {"<?xml version=\"1.0\" encoding=\"utf-8\"?><html><head><meta charset=\"utf-8\"/>",
+            "<?xml version=\"1.0\" encoding=\"big5\"?><html><head><meta charset=\"big5\"/>"},
+           {"<title><meta charset=utf-8></title><meta content='charset=x'>",
+            "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=big5\"><title><meta "
+            "charset=utf-8></title><meta content='charset=x'>"},
+       })
+    EXPECT_EQ(Converted(before, "big5").toStdString(), after);
+}
+
+TEST(CharsetChange, ADeclarationIsPutInWhereNoneIs) {
+  const char *const pragma =
+      "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=big5\"";
+  for (const auto &[before, after] : {
+           std::pair{QByteArray("<!DOCTYPE html>\n<html>\n<head>\n  <title>t</title>"),
+                     QByteArray("<!DOCTYPE html>\n<html>\n<head>\n  <meta charset=\"big5\">\n  "
+                                "<title>t</title>")},
+           {"<html>\r\n<body>", QByteArray("<html>\r\n") + pragma + ">\r\n<body>"},
+           {"<html xmlns='x'><head/>", QByteArray("<html xmlns='x'><head/>") + pragma + " />"},
+           {"<p>a\nb", QByteArray(pragma) + ">\n<p>a\nb"},
+           {"a <b>c</b>", QByteArray(pragma) + ">a <b>c</b>"},
+           {"<!-- note -->\n<p>a", QByteArray("<!-- note -->\n") + pragma + ">\n<p>a"},
+           {"<?php if ($a->b) echo 'x>y'; ?>\n<p>a  \n",
+            QByteArray("<?php if ($a->b) echo 'x>y'; ?>\n") + pragma + ">\n<p>a  \n"},
+       })
+    EXPECT_EQ(Converted(before.constData(), "big5").toStdString(), after.toStdString());
+}
+
+TEST(CharsetChange, ADeclarationThatServerCodeMakesStays) {
+  const QString text = u"<head><meta charset=\"<?= $c ?>\"><p>a"_s;
+  EXPECT_EQ(InCharset(text, u"big5"_s).text, text);
+}
+
+TEST(CharsetChange, APageThatIsDeclaredAlreadyIsAnotherTextAllTheSame) {
+  EXPECT_EQ(Converted("<meta charset=utf-8>", "utf-8").toStdString(), "<meta charset=UTF-8>");
+}
+
+TEST(CharsetChange, TellsWhatACharsetLacksInTheOrderOfThePage) {
+  const QString text = u"a\u00E9b\n\u4E2D\U0001F600\u00E9"_s;
+  EXPECT_TRUE(CharactersMissing(text, u"utf-8"_s).empty());
+  const auto missing = CharactersMissing(text, u"big5"_s);
+  ASSERT_EQ(missing.size(), 2U);
+  EXPECT_EQ(missing[0].character, u"\u00E9"_s);
+  EXPECT_EQ(missing[0].count, 2);
+  EXPECT_EQ(missing[0].line, 1);
+  EXPECT_EQ(missing[1].character, u"\U0001F600"_s);
+  EXPECT_EQ(missing[1].line, 2);
 }
 
 }  // namespace
