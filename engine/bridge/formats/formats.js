@@ -93,12 +93,19 @@ const readOutwards = (readAt, otherwise) => (element, known = new Map()) => {
   for (const at of passed) known.set(at, answer);
   return answer;
 };
-const underline = readOutwards((at) => {
-  const byNature = /^(A|INS)$/.test(at.tagName) && !at.style.textDecorationLine;
+// A line that an element draws through or under its text; deleted text is struck by nature.
+/**
+ * @param {string} line
+ * @param {RegExp} nature
+ */
+const lineBy = (line, nature) => readOutwards((at) => {
+  const byNature = nature.test(at.tagName) && !at.style.textDecorationLine;
   const { textDecorationLine, display } = style(at);
-  if (!byNature && textDecorationLine.includes('underline')) return true;
+  if (!byNature && textDecorationLine.includes(line)) return true;
   return /^(inline-block|inline-table)$/.test(display) ? false : undefined;
 }, false);
+const underline = lineBy('underline', /^(A|INS)$/);
+const struck = lineBy('line-through', /^DEL$/);
 // The light that is seen behind text in an element: the backgrounds of the elements around it, as
 // far as the inner ones let the outer ones through.
 /**
@@ -261,6 +268,14 @@ const fontFamily = (names) => names.split(',')
   .map((name) => name.replace(/['"\\;]/g, '').trim())
   .map((name) => (/^[a-z][a-z0-9-]*$/i.test(name) ? name : `'${name}'`)).join(', ');
 
+// A format that its element alone gives: text in it has it, whatever its looks are.
+/** @param {string} tag */
+const tagged = (tag) => defineFormat({
+  read: (element) => element.closest(tag) !== null,
+  tags: [tag], property: '',
+  write: (on) => (on ? create(tag) : null),
+});
+
 /**
  * The character formats by the name that the other modules have for them.
  * @type {Record<string, Format>}
@@ -283,6 +298,14 @@ export const formats = {
     // An underline that an element around draws cannot be taken off from inside.
     write: (on) => (on ? create('U') : null),
   }),
+  strike: defineFormat({
+    read: struck, tags: ['S', 'STRIKE'], property: 'text-decoration', part: 'line-through',
+    acrossBlocks: true,
+    write: (on) => (on ? create('S') : null),
+  }),
+  sub: tagged('SUB'),
+  sup: tagged('SUP'),
+  code: tagged('CODE'),
   fontName: defineFormat({
     read: (element) => style(element).fontFamily.split(',')[0].trim().replace(/^["']|["']$/g, ''),
     tags: [], attribute: 'face', property: 'font-family', inStyle: fontFamily,

@@ -60,14 +60,76 @@ export const look = (name, property, spelling = {}) => ({
   },
 });
 
+const inPixels = (/** @type {string} */ value) =>
+  (/^\d+(\.\d+)?$/.test(value) ? `${value}px` : value);
+const withoutPixels = (/** @type {string} */ value) => value.replace(/^(\d+(\.\d+)?)px$/i, '$1');
+
 /**
  * A width or height: a number of pixels, or a length with its unit.
  * @param {string} name
  */
-export const length = (name) => look(name, name, {
-  inStyle: (value) => (/^\d+(\.\d+)?$/.test(value) ? `${value}px` : value),
-  fromStyle: (value) => value.replace(/^(\d+(\.\d+)?)px$/i, '$1'),
+export const length = (name) =>
+  look(name, name, { inStyle: inPixels, fromStyle: withoutPixels });
+
+/** A picture's border: the width of a line around it. */
+export const border = look('border', 'border', {
+  inStyle: (value) => (value === '0' ? value : `${inPixels(value)} solid`),
+  fromStyle: (value) => withoutPixels(value.replace(/ solid$/i, '')),
 });
+
+/**
+ * The room beside a picture, the same on two sides.
+ * @param {string} name
+ * @param {string[]} sides the properties
+ * @returns {Field}
+ */
+export const spacing = (name, sides) => ({
+  read(image) {
+    const styled = image.style.getPropertyValue(sides[0]);
+    return styled ? withoutPixels(styled) : image.getAttribute(name) ?? '';
+  },
+  write(image, value) {
+    const isStyled = sides.some((side) => image.style.getPropertyValue(side));
+    const inAttribute = image.hasAttribute(name) || (!isStyled && !dom.writesStyles());
+    if (inAttribute) setAttributes(image, [[name, value]]);
+    if (inAttribute && !isStyled) return;
+    for (const side of sides) {
+      if (value) putDeclaration(image, side, inPixels(value));
+      else takeDeclaration(image, side);
+    }
+  },
+});
+
+// Where a picture stands in its line or beside the text: the attribute's words and the styles that
+// mean the same.
+/** @type {Record<string, [property: string, value: string]>} */
+const placements = {
+  left: ['float', 'left'], right: ['float', 'right'], top: ['vertical-align', 'top'],
+  texttop: ['vertical-align', 'text-top'], middle: ['vertical-align', 'middle'],
+  bottom: ['vertical-align', 'baseline'], absbottom: ['vertical-align', 'bottom'],
+};
+/** @type {Field} */
+export const places = {
+  read(image) {
+    const styled = Object.keys(placements).find((word) => {
+      const [property, value] = placements[word];
+      return said(image, property).toLowerCase() === value;
+    });
+    return styled ?? (image.getAttribute('align') ?? '').toLowerCase();
+  },
+  write(image, value) {
+    const properties = ['float', 'vertical-align'].filter((property) => said(image, property));
+    const inAttribute = image.hasAttribute('align') ||
+      (!properties.length && !dom.writesStyles());
+    for (const property of properties) {
+      if (property !== placements[value]?.[0]) takeDeclaration(image, property);
+    }
+    if (inAttribute) setAttributes(image, [['align', value]]);
+    if (placements[value] && !(inAttribute && !properties.length)) {
+      putDeclaration(image, ...placements[value]);
+    }
+  },
+};
 
 /**
  * A style that no attribute stands for.

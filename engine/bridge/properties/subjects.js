@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // What each properties dialog is about, and its fields.
-import { attribute, length, look, style, told } from './fields.js';
+import { attribute, border, length, look, places, spacing, style, told } from './fields.js';
+import { icon, meta, ruled, sheets, title } from './head.js';
 import { formats } from '../formats/formats.js';
 import { apply as applyFormat } from '../formats/inline.js';
-import { linkOf, setAttributes } from '../formats/links.js';
+import { linkObject, linkOf, setAttributes, takeOff } from '../formats/links.js';
 import * as align from '../formats/align.js';
 import * as pending from '../formats/pending.js';
 import * as dom from '../page/dom.js';
@@ -16,7 +17,7 @@ import { gridOf, placesIn } from '../tables/grid.js';
 import { takeAttribute } from '../tables/making.js';
 import { elementOf, namesTo } from '../talk/path.js';
 import { Command } from '../talk/vocabulary.js';
-import { queryValue, statusOf } from '../talk/commands.js';
+import { formatStatus, queryValue } from '../talk/commands.js';
 
 /**
  * `find` answers the elements that the dialog is about, none where it does not apply; `number`
@@ -27,6 +28,10 @@ import { queryValue, statusOf } from '../talk/commands.js';
 
 const common = { id: attribute('id'), class: attribute('class'), title: attribute('title') };
 const background = look('bgcolor', 'background-color');
+const picture = look('background', 'background-image', {
+  inStyle: (value) => `url('${value.replace(/'/g, '%27').replace(/\\/g, '%5C')}')`,
+  fromStyle: (value) => value.replace(/^url\(\s*(["']?)(.*?)\1\s*\)$/i, '$2'),
+});
 
 // The alignment of a table, a unit of its own.
 /** @type {Field} */
@@ -117,54 +122,6 @@ const decorative = {
   },
 };
 
-// A META element of the head, by its name.
-/**
- * @param {string} name
- * @returns {Field}
- */
-const meta = (name) => {
-  const find = () => [...document.head?.querySelectorAll('meta[name]') ?? []]
-    .find((each) => each.getAttribute('name').toLowerCase() === name);
-  return {
-    read: () => find()?.getAttribute('content') ?? '',
-    write(body, value) {
-      const found = find();
-      if (!value) found?.remove();
-      else if (found) found.setAttribute('content', value);
-      else {
-        const last = [...document.head.children].findLast(({ tagName }) =>
-          /^(META|TITLE)$/.test(tagName));
-        const made = dom.create('META', { name, content: value });
-        if (last) putOnLine(made, last);
-        else document.head.append(made);
-      }
-    },
-  };
-};
-// Behind an element of the head, on a line of its own where that is on one.
-/**
- * @param {Element} made
- * @param {Element} behind
- */
-function putOnLine(made, behind) {
-  const before = behind.previousSibling;
-  const [line] = (dom.isText(before) && /\n[ \t]*$/.exec(before.data)) || [''];
-  behind.after(line, made);
-}
-/** @type {Field} */
-const title = {
-  read: () => document.title,
-  write(body, value) {
-    const found = document.head.querySelector('title');
-    if (found) {
-      found.textContent = value;
-    } else if (value) {
-      const made = dom.create('TITLE');
-      made.append(value);
-      document.head.append(made);
-    }
-  },
-};
 /**
  * An attribute of the root element.
  * @param {string} name
@@ -190,12 +147,15 @@ const format = (name, command) => ({
 });
 /**
  * @param {string} name
- * @param {number} command
+ * @param {string} [other] a format that the text cannot have along with it
  * @returns {Field}
  */
-const toggled = (name, command) => ({
-  read: () => ({ 3: '', 7: 'true', 11: 'mixed' })[statusOf(command)] ?? '',
-  write: (element, value) => putFormat(name, value === 'true'),
+const toggled = (name, other) => ({
+  read: () => ({ 3: '', 7: 'true', 11: 'mixed' })[formatStatus(name)] ?? '',
+  write(element, value) {
+    if (value && other) putFormat(other, false);
+    putFormat(name, value === 'true');
+  },
 });
 /**
  * @param {string} name
@@ -207,25 +167,53 @@ function putFormat(name, value) {
   else pending.set(name, value);
 }
 
-/** @param {string} name */
-const inBody = (name) => (dom.writesStyles() ? {} : { [name]: attribute(name) });
-/** @returns {Record<string, Field>} */
-const pageFields = () => ({
-  title, language: ofRoot('lang'), direction: ofRoot('dir'), viewport: meta('viewport'),
-  description: meta('description'), author: meta('author'),
-  text: look('text', 'color'), background, picture: attribute('background'),
-  ...inBody('link'), ...inBody('vlink'), ...inBody('alink'),
-  charset: told(() => document.characterSet), mode: told(() => document.compatMode),
-  dialect: told(() => (dom.writesStyles() ? 'html5' : 'old')),
-  breakpoints: told(() => breakpoints().join(' ')),
-});
+// How the engine shows the page, and why.
+function mode() {
+  if (document.compatMode === 'CSS1Compat') return 'standards';
+  return document.doctype ? 'quirks' : 'no doctype';
+}
+
+// The link around a picture; the words beside it in the same link stay one when it goes.
+/** @type {Field} */
+const linkAround = {
+  read: (image) => image.closest('a[href]')?.getAttribute('href') ?? '',
+  write(image, value) {
+    const link = image.closest('a[href]');
+    if (link && value) setAttributes(link, [['href', value]]);
+    else if (link) takeOff(link);
+    else if (value) linkObject(image, [['href', value]]);
+  },
+};
+// Without an address a link is none.
+/** @type {Field} */
+const address = {
+  read: (link) => link.getAttribute('href'),
+  write(link, value) {
+    if (value) setAttributes(link, [['href', value]]);
+    else takeOff(link);
+  },
+};
 
 /** @type {Record<string, Subject>} */
 const subjects = {
+  page: {
+    find: () => [document.body],
+    fields: {
+      title, language: ofRoot('lang'), direction: ofRoot('dir'), viewport: meta('viewport'),
+      description: meta('description'), author: meta('author'), icon, sheets,
+      text: look('text', 'color'), background, picture,
+      link: ruled('link', 'a:link'), vlink: ruled('vlink', 'a:visited'),
+      alink: ruled('alink', 'a:active'),
+      charset: told(() => document.characterSet), mode: told(mode),
+      breakpoints: told(() => breakpoints().join(' ')),
+    },
+  },
   image: {
     find: ({ object }) => (object?.tagName === 'IMG' ? [object] : []),
-    fields: { src: attribute('src'), alt: attribute('alt'), decorative, width: length('width'),
-      height: length('height'), border: attribute('border'), loading: attribute('loading'),
+    fields: { src: attribute('src'), lowsrc: attribute('lowsrc'), alt: attribute('alt'), decorative,
+      link: linkAround, width: length('width'), height: length('height'), border,
+      align: places, hspace: spacing('hspace', ['margin-left', 'margin-right']),
+      vspace: spacing('vspace', ['margin-top', 'margin-bottom']), loading: attribute('loading'),
       ...common },
   },
   table: {
@@ -234,7 +222,8 @@ const subjects = {
       rows: told((table) => gridOf(table).height), columns: told((table) => gridOf(table).width),
       caption, headRow: headings('row'), headColumn: headings('column'), width: length('width'),
       align: tableAlign, border: attribute('border'), cellpadding: attribute('cellpadding'),
-      cellspacing: attribute('cellspacing'), background, ...common,
+      cellspacing: attribute('cellspacing'), background,
+      bordercolor: look('bordercolor', 'border-color'), ...common,
     },
   },
   cell: {
@@ -251,8 +240,8 @@ const subjects = {
   },
   link: {
     find: (view) => [linkOf(view)].filter(Boolean),
-    fields: { href: attribute('href'), target: attribute('target'), rel: attribute('rel'),
-      name: attribute('name'), ...common },
+    fields: { target: attribute('target'), rel: attribute('rel'), name: attribute('name'),
+      ...common, href: address },
   },
   element: {
     find: (view, number) => [elementOf(number)].filter(Boolean),
@@ -270,8 +259,9 @@ const subjects = {
       fontSize: format('fontSize', Command.GetFontSize),
       color: format('foreColor', Command.GetForeColor),
       background: format('backColor', Command.GetBackColor),
-      bold: toggled('bold', Command.Bold), italic: toggled('italic', Command.Italic),
-      underline: toggled('underline', Command.Underline),
+      bold: toggled('bold'), italic: toggled('italic'), underline: toggled('underline'),
+      strike: toggled('strike'), sub: toggled('sub', 'sup'), sup: toggled('sup', 'sub'),
+      code: toggled('code'),
     },
   },
 };
@@ -280,5 +270,4 @@ const subjects = {
  * @param {string} name
  * @returns {Subject | undefined}
  */
-export const subjectOf = (name) => (name === 'page'
-  ? { find: () => [document.body], fields: pageFields() } : subjects[name]);
+export const subjectOf = (name) => subjects[name];

@@ -365,6 +365,15 @@ export const queryValue = (number, view = readView()) =>
   (view.range ? commands.get(number).value(view) : '');
 
 /**
+ * The status of a character format that is on or off; Disabled without a selection.
+ * @param {string} name
+ */
+export function formatStatus(name) {
+  const view = readView();
+  return view.range ? toggle(name).status(view) : Status.Disabled;
+}
+
+/**
  * Carries out a command as one step of the history.
  * @param {number} number
  * @param {string} [value]
