@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/FontPicker.h"
 
+#include "chrome/FontFamilies.h"
+
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QFocusEvent>
@@ -11,7 +13,6 @@
 #include <QListView>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QStringList>
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
 
@@ -55,19 +56,6 @@ class FamilyDelegate final : public QStyledItemDelegate {
   mutable QHash<QString, QFont> faces_;
 };
 
-/// The installed families as pages name them: without the maker that tells files of one family
-/// apart ("Some Face [maker]").
-QStringList Families() {
-  QStringList families;
-  for (QString family : QFontDatabase::families()) {
-    if (QFontDatabase::isPrivateFamily(family)) continue;
-    if (family.endsWith(u']')) family.truncate(family.lastIndexOf(QStringLiteral(" [")));
-    families.append(family);
-  }
-  families.removeDuplicates();
-  return families;
-}
-
 }  // namespace
 
 FontPicker::FontPicker(QWidget *parent) : QComboBox(parent) {
@@ -94,7 +82,7 @@ void FontPicker::Initialise() {
   const QSignalBlocker silence(this);
   const QString name = shown_;
   clear();
-  addItems(Families());
+  addItems(InstalledFamilies());
   SetFontName(name);
 }
 

@@ -54,6 +54,9 @@ QString InScript(HtmlDocument::ParagraphSide side) {
   return QStringLiteral("''");
 }
 
+/// The property that the bytes have, not the document.
+const QString Charset = QStringLiteral("charset");
+
 using namespace std::chrono_literals;
 
 /// Asking the page delays a dialog or a menu no longer than this.
@@ -141,9 +144,13 @@ void WebDocument::SetProperties(PropertyOwner owner, const PropertyValues &chang
   QVariantMap values;
   for (auto value = changed.begin(); value != changed.end(); ++value)
     values.insert(value.key(), value.value());
-  document_.Run(
-      QStringLiteral("velor.setProperties(%1,%2,%3)")
-          .arg(InScript(owner.subject), ScriptValue(values), QString::number(owner.element)));
+  const QString charset =
+      owner.subject == PropertySubject::Page ? values.take(Charset).toString() : QString();
+  if (!values.isEmpty())
+    document_.Run(
+        QStringLiteral("velor.setProperties(%1,%2,%3)")
+            .arg(InScript(owner.subject), ScriptValue(values), QString::number(owner.element)));
+  if (!charset.isEmpty()) convert_(charset);
 }
 
 QVariantMap WebDocument::Ask(const QString &expression) {
@@ -158,6 +165,9 @@ PropertyValues WebDocument::Properties(PropertyOwner owner) {
       QStringLiteral("velor.properties(%1,%2)").arg(InScript(owner.subject)).arg(owner.element));
   for (auto value = told.begin(); value != told.end(); ++value)
     values.insert(value.key(), value.value().toString());
+  // The page is shown from its text; its bytes are known here.
+  if (values.contains(Charset))
+    values[Charset] = document_.History().Current()->Original().page.encoding.charset;
   return values;
 }
 

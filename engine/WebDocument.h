@@ -3,6 +3,9 @@
 
 #include "platform/HtmlDocument.h"
 
+#include <functional>
+#include <utility>
+
 namespace velor {
 
 class LiveDocument;
@@ -12,8 +15,10 @@ class NoticeQueue;
 /// properties, and what can be done to an element of the path, are asked of the page.
 class WebDocument : public HtmlDocument, private DocumentSelection {
  public:
-  WebDocument(LiveDocument &document, NoticeQueue &notices)
-      : document_(document), notices_(notices) {}
+  /// `convert` writes the page in another charset, by its WHATWG name.
+  WebDocument(LiveDocument &document, NoticeQueue &notices,
+              std::function<void(const QString &charset)> convert)
+      : document_(document), notices_(notices), convert_(std::move(convert)) {}
 
   DocumentSelection &Selection() override { return *this; }
   HtmlElement Link() const override;
@@ -42,6 +47,7 @@ class WebDocument : public HtmlDocument, private DocumentSelection {
 
   LiveDocument &document_;
   NoticeQueue &notices_;
+  std::function<void(const QString &)> convert_;
 };
 
 }  // namespace velor

@@ -4,10 +4,12 @@
 #include "engine/BridgeScript.h"
 #include "engine/FileDrops.h"
 #include "engine/PastedPicture.h"
+#include "page/saving/CharsetChange.h"
 #include "platform/EditingCommands.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/PlainTip.h"
+#include "platform/RuntimeError.h"
 #include "platform/Words.h"
 
 #include <QClipboard>
@@ -82,7 +84,7 @@ WebEditor::WebEditor(EditingEngine &engine, Files &files, const QString &program
               parent,
               [this] { QTimer::singleShot(1, &notices_, [this] { loader_.LoadBlankIfEmpty(); }); }),
           [this](EngineView &view) { ConnectView(view); }),
-      documentObject_(document_, notices_),
+      documentObject_(document_, notices_, [this](const QString &charset) { ConvertTo(charset); }),
       search_(document_, notices_),
       spelling_(document_, notices_, options_),
       loader_(document_, notices_, options_, programFolder),
@@ -260,6 +262,21 @@ void WebEditor::LoadText(const QString &html, const QString &path) {
   replacer_.ReplaceText(
       BytesForText(original, html, EncodingInPlaceOf(original.page.encoding, html)),
       ToNative(path));
+}
+
+void WebEditor::ConvertTo(const QString &charset) {
+  if (charset == Charset()) return;
+  const Lifetime::Watch life = document_.WatchEditor();
+  const SavedPage now = Compose();
+  if (life.IsOver()) return;
+  const DecodedPage page = InCharset(now.page.text, charset);
+  const QByteArray bytes = WriteWhole(page.text, page.encoding).bytes;
+  if (DecodePage(bytes).encoding.charset != charset)
+    throw RuntimeError(ErrorNumber::InvalidProcedureCall, QStringLiteral("SetProperties"),
+                       Words::tr("The page would not be read as %1: its declaration is made by "
+                                 "server code, or stands too far behind its start.")
+                           .arg(charset));
+  replacer_.ReplaceText(bytes, document_.NativePath());
 }
 
 void WebEditor::DeliverCompletion() {

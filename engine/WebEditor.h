@@ -81,6 +81,10 @@ class WebEditor : public EditingComponent {
 
  private:
   void ConnectView(EngineView &view);
+  /// Writes the page as it is now in another charset; undo brings the old bytes back. Raises
+  /// RuntimeError where the page does not answer, and for a character that cannot be written there
+  /// as a reference either. `this` may be gone afterwards.
+  void ConvertTo(const QString &charset);
   void StateArrived(const StateSnapshot &state);
   /// The picture or the files on the clipboard go into the page.
   void PastePicture();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // frmInsertElement: what it does beyond the published behaviour.
+#include "insert/FileFilters.h"
 #include "insert/FormParts.h"
 #include "insert/LinkPaths.h"
 #include "insert/TextBox.h"
@@ -30,9 +31,6 @@ const QString NoFrame = QStringLiteral("None");
 const QString Mail = QStringLiteral("mailto:");
 constexpr auto VideoFiles = Words::Mark(
     "Video Files (*.mp4, *.webm, *.ogv)|*.mp4;*.m4v;*.webm;*.ogv;*.mov|All Files *.*|*.*");
-constexpr auto PictureFiles = Words::Mark(
-    "Image Files (*.jpg, *.png, *.gif, *.webp, *.svg)|*.jpg;*.jpeg;*.png;*.gif;*.webp;*.svg|"
-    "All Files *.*|*.*");
 
 /// What Browse puts into an empty box when it is cancelled; it leads nowhere.
 const QString EmptyFileAddress = QStringLiteral("file:///");
@@ -63,9 +61,10 @@ void frmInsertElement::ConnectAdditions() {
             action);
   };
   onClick(u"cmdBrowseLowRes",
-          [this] { BrowseInto(lowResolutionSource_, Words::tr(PictureFiles)); });
+          [this] { BrowseInto(lowResolutionSource_, Words::tr(FileFilters::Pictures)); });
   onClick(u"Command1", [this] { BrowseInto(video_.source, Words::tr(VideoFiles)); });
-  onClick(u"cmdBrowsePoster", [this] { BrowseInto(video_.poster, Words::tr(PictureFiles)); });
+  onClick(u"cmdBrowsePoster",
+          [this] { BrowseInto(video_.poster, Words::tr(FileFilters::Pictures)); });
   onClick(u"cmdRefreshA", &frmInsertElement::ShowBookmarks);
   onClick(u"cmdRefreshOther", &frmInsertElement::ShowBookmarks);
   onClick(u"cmdABrowse", &frmInsertElement::ShowBookmarks);

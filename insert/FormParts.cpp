@@ -37,7 +37,7 @@ void AddRow(QFormLayout *form, const QString &label, Row *row, QWidget *control)
   auto *labelWidget = new QLabel(label);
   labelWidget->setBuddy(control);
   // Forms align labels to the top of the row; a label as high as the box is centred beside it.
-  labelWidget->setMinimumHeight(control->sizeHint().height());
+  labelWidget->setMinimumHeight(std::min(control->sizeHint().height(), control->maximumHeight()));
   form->addRow(labelWidget, row);
 }
 
@@ -75,12 +75,7 @@ QFormLayout *AddFrame(QVBoxLayout *page, const QString &title) {
 
 TextBox *AddTextBox(QFormLayout *form, const QString &name, const QString &label, QWidget *beside) {
   auto *box = new TextBox;
-  Name(*box, name, label);
-  auto *row = new QHBoxLayout;
-  row->setSpacing(Spacing);
-  row->addWidget(box);
-  if (beside) row->addWidget(beside);
-  AddRow(form, label, row, box);
+  AddControl(form, name, label, box, beside);
   return box;
 }
 
@@ -98,9 +93,15 @@ TextBox *AddNumberBox(QFormLayout *form, const QString &name, const QString &lab
   return box;
 }
 
-void AddControl(QFormLayout *form, const QString &name, const QString &label, QWidget *control) {
+void AddControl(QFormLayout *form, const QString &name, const QString &label, QWidget *control,
+                QWidget *beside) {
   Name(*control, name, label);
-  AddRow(form, label, control, control);
+  if (beside == nullptr) return AddRow(form, label, control, control);
+  auto *row = new QHBoxLayout;
+  row->setSpacing(Spacing);
+  row->addWidget(control, 1);
+  row->addWidget(beside);
+  AddRow(form, label, row, control);
 }
 
 QComboBox *AddComboBox(QFormLayout *form, const QString &name, const QString &label,

@@ -38,8 +38,9 @@ TextBox *AddTextBox(QFormLayout *form, const QString &name, const QString &label
 /// Appends a narrow text box for a number, with `unit` at its right.
 TextBox *AddNumberBox(QFormLayout *form, const QString &name, const QString &label,
                       const QString &value, const QString &unit = {});
-/// Appends any other control, as wide as its row.
-void AddControl(QFormLayout *form, const QString &name, const QString &label, QWidget *control);
+/// Appends any other control, likewise.
+void AddControl(QFormLayout *form, const QString &name, const QString &label, QWidget *control,
+                QWidget *beside = nullptr);
 /// `values` go into pages or settings: each is shown translated and stands in the item's data.
 QComboBox *AddComboBox(QFormLayout *form, const QString &name, const QString &label,
                        std::span<const char *const> values);

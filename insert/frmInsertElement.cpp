@@ -2,6 +2,7 @@
 #include "insert/frmInsertElement.h"
 
 #include "chrome/StylingSweeps.h"
+#include "insert/FileFilters.h"
 #include "insert/FormParts.h"
 #include "insert/LinkPaths.h"
 #include "insert/PictureLoading.h"
@@ -25,7 +26,6 @@ namespace {
 constexpr auto ImageFiles = Words::Mark(
     "All Image Files (*.jpg, *.gif, *.bmp, *.png, *.tif, *.wmf, *.tga)|"
     "*.jpg;*.jpeg;*.gif;*.bmp;*.png;*.tif;*.tiff;*.wmf;*.tga;*.ras;*.pcd;*.pcx;*.eps");
-constexpr auto AllFiles = Words::Mark("All Files *.*|*.*");
 const QString ExampleAddress = QStringLiteral("someone@example.com");
 
 /// The element modes in the order of their pages.
@@ -185,7 +185,7 @@ void frmInsertElement::ShowThatItCannotBeShown(const QString &file) {
 }
 
 void frmInsertElement::BrowseForLinkTarget() {
-  const QString file = Browse(Words::tr(AllFiles));
+  const QString file = Browse(Words::tr(FileFilters::All));
   if (KeepsAddress(link_.address, file)) return;
   try {
     FillWithLink(link_.address, file);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "properties/PropertySheets.h"
 
+#include "insert/FileFilters.h"
 #include "platform/Words.h"
 
 #include <QColor>
@@ -19,6 +20,21 @@ constexpr PropertyChoice Heights[] = {
     {"", Words::Mark("As it is")},         {"top", Words::Mark("Top")},
     {"middle", Words::Mark("Middle")},     {"bottom", Words::Mark("Bottom")},
     {"baseline", Words::Mark("Baseline")},
+};
+constexpr PropertyChoice Placements[] = {
+    {"", Words::Mark("As it is")},
+    {"left", Words::Mark("Left")},
+    {"right", Words::Mark("Right")},
+    {"top", Words::Mark("Top")},
+    {"texttop", Words::Mark("Top of the text")},
+    {"middle", Words::Mark("Middle")},
+    {"bottom", Words::Mark("Baseline")},
+    {"absbottom", Words::Mark("Bottom")},
+};
+constexpr PropertyChoice Modes[] = {
+    {"standards", Words::Mark("By the standards")},
+    {"no doctype", Words::Mark("As old browsers did (quirks mode): the page has no doctype")},
+    {"quirks", Words::Mark("As old browsers did (quirks mode): its doctype is an old one")},
 };
 constexpr PropertyChoice Windows[] = {
     {"", Words::Mark("The same")},
@@ -53,8 +69,15 @@ constexpr PropertyField Choice(const char *name, const char *label,
                                std::span<const PropertyChoice> choices) {
   return {name, label, FieldKind::Choice, choices};
 }
-constexpr PropertyField Told(const char *name, const char *label) {
-  return {name, label, FieldKind::Told};
+constexpr PropertyField Told(const char *name, const char *label,
+                             std::span<const PropertyChoice> words = {}) {
+  return {name, label, FieldKind::Told, words};
+}
+constexpr PropertyField Address(const char *name, const char *label, const char *filter) {
+  return {name, label, FieldKind::Address, {}, "", filter};
+}
+constexpr PropertyField Part(const char *label) {
+  return {"", label, FieldKind::Part};
 }
 constexpr PropertyField Class = {
     "class",
@@ -69,6 +92,7 @@ constexpr PropertyField Id = {"id",
                               Words::Mark("A name of its own, for links and style sheets")};
 
 constexpr PropertyField PageFields[] = {
+    Part(Words::Mark("General")),
     {"title", Words::Mark("&Title:")},
     {"language",
      Words::Mark("&Language:"),
@@ -83,28 +107,48 @@ constexpr PropertyField PageFields[] = {
      FieldKind::Text,
      {},
      Words::Mark("How phones show it: width=device-width, initial-scale=1")},
+    {"icon",
+     Words::Mark("Ico&n:"),
+     FieldKind::Address,
+     {},
+     Words::Mark("A small picture for the page's tab in browsers"),
+     FileFilters::Icons},
+    {"charset", Words::Mark("&Charset:"), FieldKind::Charset},
+    Told("mode", Words::Mark("Rendering:"), Modes),
+    Part(Words::Mark("Appearance")),
     Color("text", Words::Mark("Te&xt colour:")),
     Color("background", Words::Mark("&Background:")),
-    {"picture", Words::Mark("Background &picture:")},
+    Address("picture", Words::Mark("Background &picture:"), FileFilters::Pictures),
     Color("link", Words::Mark("Lin&k colour:")),
     Color("vlink", Words::Mark("Visited link col&our:")),
     Color("alink", Words::Mark("Active link colo&ur:")),
-    Told("charset", Words::Mark("Charset:")),
-    Told("mode", Words::Mark("Rendering:")),
+    {"sheets",
+     Words::Mark("&Style sheets:"),
+     FieldKind::Addresses,
+     {},
+     Words::Mark("One address a line, in the order in which they apply"),
+     FileFilters::StyleSheets},
 };
 constexpr PropertyField ImageFields[] = {
-    {"src", Words::Mark("&Address:")},
+    Part(Words::Mark("General")),
+    Address("src", Words::Mark("&Address:"), FileFilters::Pictures),
+    Address("lowsrc", Words::Mark("Low Resolution:"), FileFilters::Pictures),
     {"alt",
      Words::Mark("&Description:"),
      FieldKind::Text,
      {},
      Words::Mark("Read out, and shown where the picture is not")},
     Truth("decorative", Words::Mark("It only ador&ns"), Words::Mark("Nothing is read out for it")),
+    Address("link", Words::Mark("Lin&k:"), FileFilters::Pages),
+    {"title", Words::Mark("&Title:")},
+    Choice("loading", Words::Mark("L&oading:"), Loading),
+    Part(Words::Mark("Appearance")),
     Length("width", Words::Mark("&Width:")),
     Length("height", Words::Mark("&Height:")),
     Length("border", Words::Mark("&Border:")),
-    Choice("loading", Words::Mark("L&oading:"), Loading),
-    {"title", Words::Mark("&Title:")},
+    Choice("align", Words::Mark("Ali&gn:"), Placements),
+    Length("hspace", Words::Mark("Room at the &sides:")),
+    Length("vspace", Words::Mark("Room abo&ve and below:")),
     Class,
     Id,
 };
@@ -120,6 +164,7 @@ constexpr PropertyField TableFields[] = {
     Length("cellpadding", Words::Mark("Cell &padding:")),
     Length("cellspacing", Words::Mark("Cell &spacing:")),
     Color("background", Words::Mark("Bac&kground:")),
+    Color("bordercolor", Words::Mark("B&order colour:")),
     Class,
     Id,
 };
@@ -138,7 +183,7 @@ constexpr PropertyField CellFields[] = {
     Id,
 };
 constexpr PropertyField LinkFields[] = {
-    {"href", Words::Mark("&Address:")},
+    Address("href", Words::Mark("&Address:"), FileFilters::Pages),
     {"title", Words::Mark("&Title:")},
     Choice("target", Words::Mark("&Window:"), Windows),
     {"rel",
@@ -150,10 +195,10 @@ constexpr PropertyField LinkFields[] = {
     Id,
 };
 constexpr PropertyField FontsFields[] = {
-    {"fontName", Words::Mark("&Font:")},
+    {"fontName", Words::Mark("&Font:"), FieldKind::Font},
     {"fontSize",
      Words::Mark("&Size:"),
-     FieldKind::Text,
+     FieldKind::Size,
      {},
      Words::Mark("Points, or a number with px")},
     Color("color", Words::Mark("&Colour:")),
@@ -161,6 +206,10 @@ constexpr PropertyField FontsFields[] = {
     Truth("bold", Words::Mark("&Bold")),
     Truth("italic", Words::Mark("&Italic")),
     Truth("underline", Words::Mark("&Underline")),
+    Truth("strike", Words::Mark("S&trikethrough")),
+    Truth("sub", Words::Mark("Subscri&pt")),
+    Truth("sup", Words::Mark("Supe&rscript")),
+    Truth("code", Words::Mark("Co&de")),
 };
 
 constexpr PropertyField ElementFields[] = {
@@ -183,7 +232,8 @@ constexpr PropertySheet Sheets[] = {
     {PropertySubject::Image, Words::Mark("Image Properties"), ImageFields},
     {PropertySubject::Table, Words::Mark("Table Properties"), TableFields},
     {PropertySubject::Cell, Words::Mark("Table Cell Properties"), CellFields},
-    {PropertySubject::Link, Words::Mark("Hyperlink Properties"), LinkFields},
+    {PropertySubject::Link, Words::Mark("Hyperlink Properties"), LinkFields, "href",
+     Words::Mark("Re&move Link")},
     {PropertySubject::Fonts, Words::Mark("Fonts Properties"), FontsFields},
     {PropertySubject::Element, Words::Mark("Element Properties"), ElementFields},
 };

@@ -10,11 +10,17 @@ namespace velor {
 /// What a field of a properties dialog takes.
 enum class FieldKind {
   Text,
-  Length,  ///< pixels, or a number with a unit or "%"
-  Color,   ///< "#RRGGBB" or a colour's name
-  Choice,  ///< one of `choices`; a value that is none of them stays as it is
-  Truth,   ///< "true" or empty
-  Told,    ///< shown only
+  Length,     ///< pixels, or a number with a unit or "%"
+  Color,      ///< "#RRGGBB" or a colour's name
+  Choice,     ///< one of `choices`; a value that is none of them stays as it is
+  Truth,      ///< "true" or empty
+  Address,    ///< of a file, that can be looked for, or of a place
+  Addresses,  ///< of files, one a line
+  Charset,    ///< one of those that the host names
+  Font,       ///< the name of a family
+  Size,       ///< of letters
+  Told,       ///< shown only, in the words of `choices` where they have the value
+  Part,       ///< no field: those behind it are on a tab of this name
 };
 
 struct PropertyChoice {
@@ -29,6 +35,8 @@ struct PropertyField {
   FieldKind kind = FieldKind::Text;
   std::span<const PropertyChoice> choices = {};
   const char *help = "";
+  /// Of the files that an address leads to.
+  const char *filter = "";
 };
 
 /// A properties dialog: its title and its fields from top to bottom.
@@ -36,6 +44,9 @@ struct PropertySheet {
   PropertySubject subject;
   const char *title;
   std::span<const PropertyField> fields;
+  /// A button that takes the whole thing off, by emptying a field of this name; none without.
+  const char *remover = nullptr;
+  const char *removal = "";
 };
 
 const PropertySheet &SheetOf(PropertySubject subject);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/DialogInsertCommands.h"
 
-#include "editor/Bookmarks.h"
+#include "app/window/LinksOfPage.h"
 #include "editor/MainWindow.h"
 #include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
@@ -19,20 +19,6 @@
 namespace velor {
 namespace {
 
-/// The path that the page's links are relative to; empty where it has none. A page of a project has
-/// its path before it has been saved under a name.
-QString PathForLinks(const frmMain &page, Additions additions) {
-  const PageRecord record = page.GetPageRecord();
-  return record.HasFile != False16 || additions == Additions::On ? record.Path : QString();
-}
-
-void NoteFullAddress(frmMain &page, const QString &address, const QString &target) {
-  page.Context()
-      .pages.FullAddresses(page.Number())
-      .push_back(
-          {address, [target](const QString &pagePath) { return LinkToFile(pagePath, target); }});
-}
-
 EditedPage WhatIsEdited(frmMain &page, const QString &path) {
   EditingComponent &component = page.DHTML1();
   DocumentSelection &selection = component.Document().Selection();
@@ -44,13 +30,10 @@ EditedPage WhatIsEdited(frmMain &page, const QString &path) {
   edited.isCentered =
       component.QueryStatus(EditingCommand::JustifyCenter) == CommandStatus::Latched;
   edited.bookmarks = [alive = QPointer<frmMain>(&page), path](const QString &address) {
-    if (alive.isNull()) return QStringList();
-    if (address.isEmpty()) return BookmarksIn(alive->DHTML1().DocumentHTML());
-    return BookmarksInFile(FileOfLink(path, address), alive->Context().platform.files);
+    return alive.isNull() ? QStringList() : PlacesOf(*alive, path, address);
   };
   edited.pictureAddress = [alive = QPointer<frmMain>(&page), path](const QString &address) {
-    const QString file = alive.isNull() ? QString() : FileOfLink(path, address);
-    return file.isEmpty() ? QString() : alive->Pictures().TakeChosenFile(file).address;
+    return alive.isNull() ? QString() : OwnPictureAddress(*alive, path, address);
   };
   return edited;
 }

@@ -2974,10 +2974,6 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <translation>Farbe a&amp;ktiver Links:</translation>
     </message>
     <message>
-        <source>Charset:</source>
-        <translation>Zeichensatz:</translation>
-    </message>
-    <message>
         <source>Rendering:</source>
         <translation>Darstellungsmodus:</translation>
     </message>
@@ -4000,6 +3996,144 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
     <message>
         <source>Phones show this page small: it has no viewport declaration</source>
         <translation>Telefone zeigen diese Seite verkleinert: Ihr fehlt die Viewport-Angabe</translation>
+    </message>
+    <message>
+        <source>The page keeps its charset %1.</source>
+        <translation>Die Seite behält ihren Zeichensatz %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiteres</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The charset %1 lacks these characters of the page. They become references such as &amp;#8364;, which browsers show as before.</source>
+        <translation>Dem Zeichensatz %1 fehlen diese Zeichen der Seite. Sie werden zu Verweisen wie &amp;#8364;, die Browser wie bisher anzeigen.</translation>
+    </message>
+    <message>
+        <source>Convert the Page</source>
+        <translation>Seite umwandeln</translation>
+    </message>
+    <message>
+        <source>Some bytes of the page are no text in its charset %1 and would be lost. Mend them first: they show as question marks in black diamonds.</source>
+        <translation>Einige Bytes der Seite sind in ihrem Zeichensatz %1 kein Text und gingen verloren. Beheben Sie das zuerst: Sie erscheinen als Fragezeichen in schwarzen Rauten.</translation>
+    </message>
+    <message>
+        <source>%1 (line %2)</source>
+        <translation>%1 (Zeile %2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n times, first in line %2)</source>
+        <translation>
+            <numerusform>%1 (%n-mal, zuerst in Zeile %2)</numerusform>
+            <numerusform>%1 (%n-mal, zuerst in Zeile %2)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The page would not be read as %1: its declaration is made by server code, or stands too far behind its start.</source>
+        <translation>Die Seite würde nicht als %1 gelesen: Servercode erzeugt ihre Angabe, oder sie steht zu weit hinter dem Anfang.</translation>
+    </message>
+    <message>
+        <source>Web Pages (*.htm, *.html)|*.htm;*.html;*.xhtml;*.shtml;*.php|All Files *.*|*.*</source>
+        <translation>Webseiten (*.htm, *.html)|*.htm;*.html;*.xhtml;*.shtml;*.php|Alle Dateien *.*|*.*</translation>
+    </message>
+    <message>
+        <source>Style Sheets (*.css)|*.css|All Files *.*|*.*</source>
+        <translation>Stylesheets (*.css)|*.css|Alle Dateien *.*|*.*</translation>
+    </message>
+    <message>
+        <source>Icons (*.ico, *.png, *.svg)|*.ico;*.png;*.svg;*.gif|All Files *.*|*.*</source>
+        <translation>Symbole (*.ico, *.png, *.svg)|*.ico;*.png;*.svg;*.gif|Alle Dateien *.*|*.*</translation>
+    </message>
+    <message>
+        <source>Sample</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>Sample text 123</source>
+        <translation>Mustertext 123</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen ...</translation>
+    </message>
+    <message>
+        <source>Browse: %1</source>
+        <translation>Durchsuchen: %1</translation>
+    </message>
+    <message>
+        <source>Top of the text</source>
+        <translation>Oberkante des Textes</translation>
+    </message>
+    <message>
+        <source>By the standards</source>
+        <translation>Nach den Standards</translation>
+    </message>
+    <message>
+        <source>As old browsers did (quirks mode): the page has no doctype</source>
+        <translation>Wie alte Browser (Quirks-Modus): Die Seite hat keinen Doctype</translation>
+    </message>
+    <message>
+        <source>As old browsers did (quirks mode): its doctype is an old one</source>
+        <translation>Wie alte Browser (Quirks-Modus): Ihr Doctype ist ein alter</translation>
+    </message>
+    <message>
+        <source>Ico&amp;n:</source>
+        <translation>S&amp;ymbol:</translation>
+    </message>
+    <message>
+        <source>A small picture for the page&apos;s tab in browsers</source>
+        <translation>Ein kleines Bild für das Register der Seite in Browsern</translation>
+    </message>
+    <message>
+        <source>&amp;Charset:</source>
+        <translation>&amp;Zeichensatz:</translation>
+    </message>
+    <message>
+        <source>&amp;Style sheets:</source>
+        <translation>&amp;Stylesheets:</translation>
+    </message>
+    <message>
+        <source>One address a line, in the order in which they apply</source>
+        <translation>Eine Adresse je Zeile, in der Reihenfolge ihrer Geltung</translation>
+    </message>
+    <message>
+        <source>Lin&amp;k:</source>
+        <translation>Verk&amp;nüpfung:</translation>
+    </message>
+    <message>
+        <source>Room at the &amp;sides:</source>
+        <translation>Abstand &amp;seitlich:</translation>
+    </message>
+    <message>
+        <source>Room abo&amp;ve and below:</source>
+        <translation>Abstand &amp;oben und unten:</translation>
+    </message>
+    <message>
+        <source>B&amp;order colour:</source>
+        <translation>Rahmen&amp;farbe:</translation>
+    </message>
+    <message>
+        <source>S&amp;trikethrough</source>
+        <translation>&amp;Durchgestrichen</translation>
+    </message>
+    <message>
+        <source>Subscri&amp;pt</source>
+        <translation>&amp;Tiefgestellt</translation>
+    </message>
+    <message>
+        <source>Supe&amp;rscript</source>
+        <translation>&amp;Hochgestellt</translation>
+    </message>
+    <message>
+        <source>Co&amp;de</source>
+        <translation>&amp;Code</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Link</source>
+        <translation>&amp;Link entfernen</translation>
     </message>
 </context>
 <context>

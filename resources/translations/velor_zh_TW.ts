@@ -2964,10 +2964,6 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <translation>使用中連結顏色(&amp;U):</translation>
     </message>
     <message>
-        <source>Charset:</source>
-        <translation>字元集:</translation>
-    </message>
-    <message>
         <source>Rendering:</source>
         <translation>呈現模式:</translation>
     </message>
@@ -3986,6 +3982,142 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
     <message>
         <source>Phones show this page small: it has no viewport declaration</source>
         <translation>手機會縮小顯示這個網頁：它沒有 viewport 宣告</translation>
+    </message>
+    <message>
+        <source>The page keeps its charset %1.</source>
+        <translation>網頁保留其字元集 %1。</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>還有 %n 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The charset %1 lacks these characters of the page. They become references such as &amp;#8364;, which browsers show as before.</source>
+        <translation>字元集 %1 缺少網頁中的這些字元。它們會變成像 &amp;#8364; 這樣的參照,瀏覽器的顯示不變。</translation>
+    </message>
+    <message>
+        <source>Convert the Page</source>
+        <translation>轉換網頁</translation>
+    </message>
+    <message>
+        <source>Some bytes of the page are no text in its charset %1 and would be lost. Mend them first: they show as question marks in black diamonds.</source>
+        <translation>網頁中有些位元組在其字元集 %1 中不是文字,將會遺失。請先修正:它們顯示為黑色菱形中的問號。</translation>
+    </message>
+    <message>
+        <source>%1 (line %2)</source>
+        <translation>%1(第 %2 行)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n times, first in line %2)</source>
+        <translation>
+            <numerusform>%1(%n 次,首次在第 %2 行)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The page would not be read as %1: its declaration is made by server code, or stands too far behind its start.</source>
+        <translation>網頁不會以 %1 讀取:其宣告由伺服器程式碼產生,或離開頭太遠。</translation>
+    </message>
+    <message>
+        <source>Web Pages (*.htm, *.html)|*.htm;*.html;*.xhtml;*.shtml;*.php|All Files *.*|*.*</source>
+        <translation>網頁 (*.htm, *.html)|*.htm;*.html;*.xhtml;*.shtml;*.php|所有檔案 *.*|*.*</translation>
+    </message>
+    <message>
+        <source>Style Sheets (*.css)|*.css|All Files *.*|*.*</source>
+        <translation>樣式表 (*.css)|*.css|所有檔案 *.*|*.*</translation>
+    </message>
+    <message>
+        <source>Icons (*.ico, *.png, *.svg)|*.ico;*.png;*.svg;*.gif|All Files *.*|*.*</source>
+        <translation>圖示 (*.ico, *.png, *.svg)|*.ico;*.png;*.svg;*.gif|所有檔案 *.*|*.*</translation>
+    </message>
+    <message>
+        <source>Sample</source>
+        <translation>範例</translation>
+    </message>
+    <message>
+        <source>Sample text 123</source>
+        <translation>範例文字 123</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>瀏覽...</translation>
+    </message>
+    <message>
+        <source>Browse: %1</source>
+        <translation>瀏覽:%1</translation>
+    </message>
+    <message>
+        <source>Top of the text</source>
+        <translation>文字頂端</translation>
+    </message>
+    <message>
+        <source>By the standards</source>
+        <translation>依照標準</translation>
+    </message>
+    <message>
+        <source>As old browsers did (quirks mode): the page has no doctype</source>
+        <translation>如舊瀏覽器(怪異模式):網頁沒有 doctype</translation>
+    </message>
+    <message>
+        <source>As old browsers did (quirks mode): its doctype is an old one</source>
+        <translation>如舊瀏覽器(怪異模式):其 doctype 是舊式的</translation>
+    </message>
+    <message>
+        <source>Ico&amp;n:</source>
+        <translation>圖示(&amp;N):</translation>
+    </message>
+    <message>
+        <source>A small picture for the page&apos;s tab in browsers</source>
+        <translation>瀏覽器分頁上顯示的小圖片</translation>
+    </message>
+    <message>
+        <source>&amp;Charset:</source>
+        <translation>字元集(&amp;C):</translation>
+    </message>
+    <message>
+        <source>&amp;Style sheets:</source>
+        <translation>樣式表(&amp;S):</translation>
+    </message>
+    <message>
+        <source>One address a line, in the order in which they apply</source>
+        <translation>每行一個位址,依套用順序</translation>
+    </message>
+    <message>
+        <source>Lin&amp;k:</source>
+        <translation>連結(&amp;K):</translation>
+    </message>
+    <message>
+        <source>Room at the &amp;sides:</source>
+        <translation>左右間距(&amp;S):</translation>
+    </message>
+    <message>
+        <source>Room abo&amp;ve and below:</source>
+        <translation>上下間距(&amp;V):</translation>
+    </message>
+    <message>
+        <source>B&amp;order colour:</source>
+        <translation>框線顏色(&amp;O):</translation>
+    </message>
+    <message>
+        <source>S&amp;trikethrough</source>
+        <translation>刪除線(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Subscri&amp;pt</source>
+        <translation>下標(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Supe&amp;rscript</source>
+        <translation>上標(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Co&amp;de</source>
+        <translation>程式碼(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Link</source>
+        <translation>移除連結(&amp;M)</translation>
     </message>
 </context>
 <context>

@@ -116,6 +116,15 @@ class Photographer:
         """Whether the main window is all that is on the screen."""
         return len(self.program.visible_windows()) <= self.windows
 
+    def command(self, name):
+        """Runs a command that has no key."""
+        def run_command():
+            self.program.key("ctrl+shift+p")
+            self.program.wait("Commands", "list")
+            self.program.type(name)
+            self.program.key("Return")
+        return run_command
+
     def close(self, what):
         def closed():
             if self.is_alone():
@@ -242,8 +251,12 @@ def objects(photos):
 
     select(100, 60, "IMG")
     photos.shot("picture")
+    photos.dialog(photos.command("Image Properties"), "image-properties", ("Loading:", "combo box"))
+    select(100, 60, "IMG")
     select(241, 40, "TABLE")
     photos.shot("table")
+    photos.dialog(photos.command("Table Properties"), "table-properties", ("Align:", "combo box"))
+    select(241, 40, "TABLE")
     select(700, 60, "DIV")
     photos.shot("box")
     program.hold(*at(700, 60))
@@ -304,6 +317,10 @@ def dialogs(photos):
     photos.dialog(refused(lambda: photos.click("Table"), "9", "9", "Tab", *"9999", "Return"),
                   "table-dialog-refused", ("Cancel",))
     photos.dialog(lambda: program.key("ctrl+shift+p"), "find-command", ("Commands", "list"))
+    photos.dialog(photos.command("Page Properties"), "page-properties", ("Direction:", "combo box"))
+    photos.dialog(lambda: photos.command("Page Properties")() or photos.click("Appearance", "page tab"),
+                  "page-properties-appearance", ("Browse: Background picture",))
+    photos.dialog(photos.command("Fonts Properties"), "fonts-properties", ("Code", "check box"))
     photos.dialog(item("alt+t", "d"), "drives", ("Cancel",))
     photos.dialog(item("alt+t", "s"), "settings", ("Cancel",))
     photos.dialog(lambda: photos.click("Project Manager"), "project-manager", ("Open", "push button"))

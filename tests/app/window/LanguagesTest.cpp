@@ -130,6 +130,10 @@ class WindowIn : private Spoken<Translator>, public WindowFixture {
       frmProperties dialog(sheet, none, nullptr);
       dialog.show();
       look(dialog, sheet.title);
+      if (auto *parts = dialog.findChild<QTabWidget *>()) {
+        parts->setCurrentIndex(1);
+        look(dialog, sheet.title);
+      }
     }
   }
 };
@@ -184,10 +188,10 @@ bool IsTheSameInEveryLanguage(const Text &one) {
 }
 
 /// The table dialog's alignments are typed into the page as they are read; characters have the
-/// names that Unicode gives them.
+/// names that Unicode gives them, and fonts their own.
 bool HasANameOfItsOwn(const Text &one) {
   return one.place.endsWith(u" Combo1") || one.place.endsWith(u" cobBlock") ||
-         one.place.endsWith(u" lblName");
+         one.place.endsWith(u" lblName") || one.place.endsWith(u" prp_fontName_list");
 }
 
 /// A control in sight that is narrower than its words.

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "chrome/ColorPicker.h"
+#include "editor/PageSlots.h"
+#include "editor/frmMain.h"
 #include "properties/frmProperties.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/KeyboardWalk.h"
@@ -8,7 +10,9 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabWidget>
 
 namespace velor {
 namespace {
@@ -100,8 +104,12 @@ TEST_F(PropertyDialogs, NoTwoFieldsOfOneShareAnAltKey) {
     const PropertySheet &sheet = SheetOf(subject);
     PropertyValues empty;
     for (const PropertyField &field : sheet.fields) empty[QLatin1String(field.name)] = QString();
-    const frmProperties dialog(sheet, empty, nullptr);
-    EXPECT_EQ(SharedAltKeys(dialog).toStdString(), "") << sheet.title;
+    frmProperties dialog(sheet, empty, nullptr);
+    auto *parts = dialog.findChild<QTabWidget *>();
+    for (int part = 0; part < (parts == nullptr ? 1 : parts->count()); ++part) {
+      if (parts != nullptr) parts->setCurrentIndex(part);
+      EXPECT_EQ(SharedAltKeys(dialog).toStdString(), "") << sheet.title << part;
+    }
   }
 }
 
@@ -117,6 +125,131 @@ TEST_F(PropertyDialogs, CancelledOrUnchangedWriteNothing) {
     Choose("extPagePro");
   }
   EXPECT_TRUE(Written().isEmpty());
+}
+
+TEST_F(PropertyDialogs, BrowseFillsInTheLinkFromThePageToTheFile) {
+  WriteFile(QStringLiteral("\\site\\page.htm"));
+  SharedDialog().ExpectOpen(QStringLiteral("\\site\\page.htm"));
+  Choose("mnuOpen");
+  FakeEditingComponent &component = Component(*window.Context().pages.Page(1));
+  component.properties[PropertySubject::Page] = {{"picture", ""}, {"sheets", "a.css"}};
+  components.onFileDialog = [](FakeFileDialog &person) {
+    person.ExpectOpen(QStringLiteral("\\site\\img\\a#1.png"));
+    person.ExpectOpen(QStringLiteral("\\site\\b.css"));
+    person.ExpectOpen({});
+  };
+  dialogs.ExpectModal([](QWidget &dialog) {
+    Press(dialog, "prp_picture_browse");
+    EXPECT_EQ(static_cast<QLineEdit &>(Control(dialog, "picture")).text(),
+              QStringLiteral("img/a%231.png"));
+    Press(dialog, "prp_sheets_browse");
+    Press(dialog, "prp_sheets_browse");
+    EXPECT_EQ(static_cast<QPlainTextEdit &>(Control(dialog, "sheets")).toPlainText(),
+              QStringLiteral("a.css\nb.css"));
+    Press(dialog, "cmdOK");
+  });
+  Choose("extPagePro");
+  EXPECT_EQ(
+      Written(),
+      QStringList(QStringLiteral("SetProperties(0, picture=img/a%231.png sheets=a.css\nb.css)")));
+}
+
+TEST_F(PropertyDialogs, ALinkIsOfferedThePlacesOfThePageAndOfThePageLinkedTo) {
+  WriteFile(QStringLiteral("\\site\\page.htm"));
+  SharedDialog().ExpectOpen(QStringLiteral("\\site\\page.htm"));
+  Choose("mnuOpen");
+  files.ReplaceAll(QStringLiteral("\\site\\x.htm"), "<p id=there>");
+  FakeEditingComponent &component = Component(*window.Context().pages.Page(1));
+  component.SetDocumentHTML(QStringLiteral("<p id=here>"));
+  component.properties[PropertySubject::Link] = {{"href", "x.htm"}, {"title", "t"}};
+  dialogs.ExpectModal([](QWidget &dialog) {
+    auto *list = dialog.findChild<QComboBox *>(QStringLiteral("prp_href_list"));
+    ASSERT_NE(list, nullptr);
+    QStringList offers;
+    for (int index = 0; index < list->count(); ++index) offers << list->itemText(index);
+    EXPECT_EQ(offers.join(u' ').toStdString(), "x.htm#there #here");
+    EXPECT_EQ(list->currentText(), QStringLiteral("x.htm"));
+    list->setCurrentIndex(0);
+    Press(dialog, "cmdApply");
+    Press(dialog, "cmdRemove");
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  Choose("extAPro");
+  EXPECT_EQ(Written(), QStringList({QStringLiteral("SetProperties(4, href=x.htm#there)"),
+                                    QStringLiteral("SetProperties(4, href=)")}));
+}
+
+TEST_F(PropertyDialogs, TheCharactersThatACharsetLacksAreListedFirst) {
+  FakeEditingComponent &component = Component(NewPage());
+  component.SetDocumentHTML(QStringLiteral("<p>\u00E9\n\u4E2D\u4E2D"));
+  component.properties[PropertySubject::Page] = {{"charset", "utf-8"}, {"title", "t"}};
+  const QString question = QStringLiteral(
+      "The charset koi8-r lacks these characters of the page. They become references such as "
+      "&#8364;, which browsers show as before.");
+  dialogs.ExpectModal([](QWidget &dialog) {
+    auto &box = static_cast<QComboBox &>(Control(dialog, "charset"));
+    EXPECT_GT(box.count(), 30);
+    box.setCurrentIndex(box.findData(QStringLiteral("koi8-r")));
+    auto &line = *dialog.findChild<QLabel *>(QStringLiteral("lblRefusal"));
+    Press(dialog, "cmdOK");
+    EXPECT_FALSE(line.isHidden());
+    EXPECT_EQ(line.text(), QStringLiteral("The page keeps its charset utf-8."));
+    Press(dialog, "cmdOK");
+  });
+  dialogs.ExpectChoice(question, QStringLiteral("Cancel"));
+  dialogs.ExpectChoice(question, QStringLiteral("Convert the Page"));
+  Choose("extPagePro");
+  EXPECT_EQ(dialogs.messages.back().details.toStdString(),
+            QStringLiteral("\u00E9 (line 1)\n\u4E2D (2 times, first in line 2)").toStdString());
+  EXPECT_EQ(Written(), QStringList(QStringLiteral("SetProperties(0, charset=koi8-r)")));
+}
+
+TEST_F(PropertyDialogs, QuirksModeIsToldWithItsReason) {
+  FakeEditingComponent &component = Component(NewPage());
+  component.properties[PropertySubject::Page] = {{"mode", "no doctype"}};
+  dialogs.ExpectModal([](QWidget &dialog) {
+    EXPECT_EQ(static_cast<QLabel &>(Control(dialog, "mode")).text(),
+              QStringLiteral("As old browsers did (quirks mode): the page has no doctype"));
+  });
+  Choose("extPagePro");
+}
+
+TEST_F(PropertyDialogs, TheSampleShowsWhatTheFontsDialogSays) {
+  FakeEditingComponent &component = Component(NewPage());
+  component.properties[PropertySubject::Fonts] = {
+      {"fontName", "Arial"}, {"fontSize", "12"}, {"color", ""}, {"strike", ""}};
+  dialogs.ExpectModal([](QWidget &dialog) {
+    auto &sample = *dialog.findChild<QLabel *>(QStringLiteral("lblSample"));
+    EXPECT_TRUE(sample.text().contains(QStringLiteral("'Arial';font-size: 12pt")));
+    static_cast<QLineEdit &>(Control(dialog, "fontSize")).setText(QStringLiteral("20px"));
+    static_cast<QLineEdit &>(Control(dialog, "color")).setText(QStringLiteral("navy"));
+    static_cast<QCheckBox &>(Control(dialog, "strike")).setChecked(true);
+    for (const char *part : {"font-size: 15pt", "#000080", "<s>"})
+      EXPECT_TRUE(sample.text().contains(QLatin1String(part))) << sample.text().toStdString();
+    EXPECT_GE(dialog.findChild<QComboBox *>(QStringLiteral("prp_fontName_list"))
+                  ->findText(QStringLiteral("sans-serif")),
+              0);
+  });
+  Choose("extFontsPro");
+}
+
+TEST_F(PropertyDialogs, HintsAreReadableInFull) {
+  PropertyValues empty;
+  const PropertySheet &sheet = SheetOf(PropertySubject::Page);
+  for (const PropertyField &field : sheet.fields) empty[QLatin1String(field.name)] = QString();
+  frmProperties dialog(sheet, empty, nullptr);
+  dialog.show();
+  auto &parts = *dialog.findChild<QTabWidget *>();
+  for (int part = 0; part < parts.count(); ++part) {
+    parts.setCurrentIndex(part);
+    QApplication::processEvents();
+    for (const auto *box : parts.currentWidget()->findChildren<QLineEdit *>()) {
+      EXPECT_GT(box->width(), box->fontMetrics().horizontalAdvance(box->placeholderText()))
+          << box->objectName().toStdString();
+      EXPECT_LE(box->mapTo(&parts, box->rect().bottomRight()).x(), parts.width())
+          << box->objectName().toStdString();
+    }
+  }
 }
 
 }  // namespace

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace velor {
+
+/// The other page files that a page's links may lead to, at most a few hundred: those below the
+/// folder of its project; without a project those in the page's own folder. Paths in logic form; an
+/// empty one is none.
+QStringList PagesAround(const QString &pagePath, const QString &site);
+
+}  // namespace velor
