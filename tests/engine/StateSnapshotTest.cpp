@@ -13,6 +13,8 @@ const QString Whole = QStringLiteral(R"({
   "commands": {"5000": 7, "5023": 3, "5048": 11, "5025": 1, "5024": 0, "5026": 99},
   "fontName": "Arial", "fontSize": "12", "foreColor": "#112233", "backColor": "#FFFFFF",
   "blockFormat": "Heading 1", "selection": "Control",
+  "path": ["body", "a"], "pathNumbers": [7, 9], "cells": [1, 0, 2, 4],
+  "place": [210, -5, 150, 60],
   "element": {"tag": "A", "attributes": [["href", "x.htm"], ["title", "a \"b\" <c>"]]}
 })");
 
@@ -23,6 +25,9 @@ TEST(StateSnapshot, HoldsEveryFieldOfAPushedState) {
   EXPECT_TRUE(state->dirty);
   EXPECT_EQ(state->selection, SelectionType::Control);
   EXPECT_EQ(state->element.tagName, QStringLiteral("A"));
+  EXPECT_EQ(state->pathElements, QList<int>({7, 9}));
+  EXPECT_EQ(state->cells, QRect(QPoint(1, 0), QPoint(2, 4)));
+  EXPECT_EQ(state->place, QRect(210, -5, 150, 60));
   ASSERT_EQ(state->element.attributes.size(), 2U);
   EXPECT_EQ(state->element.attributes[0].first, QStringLiteral("href"));
   EXPECT_EQ(state->element.Attribute(QStringLiteral("title")), QStringLiteral("a \"b\" <c>"));

@@ -53,9 +53,11 @@ const fontSize = 16;
 export function breakpoints() {
   const conditions = [...document.styleSheets, ...allRules()]
     .map(({ media }) => media?.mediaText ?? '');
-  const widths = conditions.flatMap((text) => [...text.matchAll(queried)].map((/** @type {string[]} */ match) => {
-    const [number, unit] = match.slice(1).filter(Boolean);
+  /** @param {string[]} match */
+  const widthOf = ([, ...groups]) => {
+    const [number, unit] = groups.filter(Boolean);
     return Math.round(Number(number) * (unit === 'px' ? 1 : fontSize));
-  }));
+  };
+  const widths = conditions.flatMap((text) => [...text.matchAll(queried)].map(widthOf));
   return [...new Set(widths)].filter((width) => width > 0).sort((one, other) => one - other);
 }

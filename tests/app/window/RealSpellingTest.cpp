@@ -203,11 +203,11 @@ TEST_F(RealSpelling, AllOpenPagesAreCheckedAndCorrectedTogether) {
       rows << item.text(0) + u' ' + item.text(1);
     }
     EXPECT_EQ(rows, (QStringList{"gardn 3", "hose 3"})) << rows.join(u'|').toStdString();
-    auto &other = *list.findChild<QComboBox *>(QStringLiteral("cobChangeTo"));
+    auto &box = *list.findChild<QComboBox *>(QStringLiteral("cobChangeTo"));
     // As the arrow keys leave it: the suggestion is selected.
-    other.setCurrentIndex(other.findText(QStringLiteral("garden")));
-    other.lineEdit()->selectAll();
-    QTest::keyClick(&other, Qt::Key_Return);
+    box.setCurrentIndex(box.findText(QStringLiteral("garden")));
+    box.lineEdit()->selectAll();
+    QTest::keyClick(&box, Qt::Key_Return);
     EXPECT_EQ(words.topLevelItemCount(), 1);
     list.findChild<QPushButton *>(QStringLiteral("cmdClose"))->click();
   });

@@ -77,6 +77,7 @@ TEST_P(BridgeWalk, WhatWasCutOrDeletedComesBackWithItsWordsBlanksAndLines) {
 }
 
 TEST_P(BridgeWalk, TablesPositionsPathAndPropertiesKeepTheWordsTheGridsAndTheWayBack) {
+  int changes = 0;
   for (int seed = FirstSeed(); seed < FirstSeed() + Pages(30); ++seed) {
     Begin(seed, false);
     page_.Evaluate(
@@ -84,7 +85,9 @@ TEST_P(BridgeWalk, TablesPositionsPathAndPropertiesKeepTheWordsTheGridsAndTheWay
                        "velor.start()"));
     const QString fault = Text(QStringLiteral("deeds.rush(%1)").arg(StepsAPage));
     EXPECT_EQ(fault.toStdString(), "") << "seed " << seed;
+    changes += page_.Evaluate(QStringLiteral("Object.keys(deeds.done()).length")).toInt();
   }
+  EXPECT_GT(changes, 2 * Pages(30));
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialects, BridgeWalk,

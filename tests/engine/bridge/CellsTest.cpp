@@ -78,6 +78,17 @@ TEST_F(Cells, ADragFromOneCellToAnotherSelectsTheRectangleBetween) {
   EXPECT_EQ(Body(), loaded_);
 }
 
+TEST_F(Cells, ADragFromTheHeadIntoTheBodySelectsCellsAndNotTheTable) {
+  LoadTable(
+      QStringLiteral("</tbody><thead><tr><th>a</th><th>b</th></tr></thead><tbody>"
+                     "<tr><td>c</td><td>d</td></tr>"));
+  Drag(At(0, 0), At(1, 1));
+  EXPECT_TRUE(BecomesChosen(QStringLiteral("a,b,c,d"))) << qPrintable(Chosen());
+  page_.Type(QStringLiteral(""));
+  EXPECT_EQ(Selected(), QString());
+  EXPECT_EQ(Chosen(), QStringLiteral("a,b,c,d"));
+}
+
 TEST_F(Cells, ADragThatComesBackSelectsTextAgain) {
   LoadTable();
   page_.Button(QEvent::MouseButtonPress, At(0, 0));
