@@ -69,11 +69,12 @@ endfunction()
 # A GoogleTest program that runs under Qt's offscreen platform with scratch settings folders
 # (tests/support/TestMain.cpp sees to both). One program is one CTest case. SERIAL is for those that
 # start the engine or the program itself: they have the machine to themselves, all others run side by
-# side. Tests that do not link the real parts have the label "plain", and the target velor-plain-tests
-# builds them.
+# side. BESIDE is a pattern of those of its tests that have no limit of time: they are a CTest case of
+# their own, which runs beside others. Programs that do not link the real parts have the label
+# "plain", and the target velor-plain-tests builds them.
 add_custom_target(velor-plain-tests)
 function(velor_test name)
-  cmake_parse_arguments(ARG "SERIAL" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "SERIAL" "BESIDE;TIMEOUT" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE velor_flags velor_test_main ${ARG_LINKS} GTest::gtest GTest::gmock)
   velor_use_headers(${name} tests)
@@ -81,11 +82,18 @@ function(velor_test name)
   if(ARG_TIMEOUT)
     set(timeout ${ARG_TIMEOUT})
   endif()
-  add_test(NAME ${name} COMMAND ${name})
+  set(cases ${name})
+  if(ARG_BESIDE)
+    add_test(NAME ${name} COMMAND ${name} "--gtest_filter=-${ARG_BESIDE}")
+    add_test(NAME ${name}_beside COMMAND ${name} "--gtest_filter=${ARG_BESIDE}")
+    list(APPEND cases ${name}_beside)
+  else()
+    add_test(NAME ${name} COMMAND ${name})
+  endif()
   if(VELOR_SANITIZE)
     math(EXPR timeout "4 * ${timeout}")
   endif()
-  set_tests_properties(${name} PROPERTIES TIMEOUT ${timeout}
+  set_tests_properties(${cases} PROPERTIES TIMEOUT ${timeout}
       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;VELOR_NO_ERROR_BOX=1")
   if(ARG_SERIAL)
     set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)
