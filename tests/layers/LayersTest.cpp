@@ -239,10 +239,13 @@ bool NamesTheSystem(const std::string &text) {
   static const std::regex header(
       R"(<((unistd|fcntl|dirent|poll|pwd|grp|signal|dlfcn)\.h|csignal|(sys|linux|X11|xcb)/|QDBus))");
   static const std::regex folder(R"("/(proc|sys|dev|etc|usr)/)");
+  // What the browsers of phones call themselves, wherever this program runs.
+  static const std::regex phone(R"(Linux(; Android| armv))");
   const auto isInWord = [](char sign) { return std::isalnum(sign) || sign == '_'; };
   std::istringstream lines(text);
   for (std::string line; std::getline(lines, line);) {
     line = ' ' + line.substr(0, line.find("//")) + ' ';
+    if (line.find("Linux") != std::string::npos) line = std::regex_replace(line, phone, "");
     if (line.starts_with(" #include")) {
       if (std::regex_search(line, header)) return true;
       continue;
@@ -358,6 +361,8 @@ TEST(Layers, TheSystemIsFoundByHeaderCallPlaceAndVariable) {
   EXPECT_FALSE(NamesTheSystem("  process.kill();\n  program->kill();\n"));
   EXPECT_FALSE(NamesTheSystem("// Not in $XDG_DATA_HOME on Linux: see fcntl(2).\n"));
   EXPECT_FALSE(NamesTheSystem("#include <QFile>\n#include <cerrno>\n"));
+  EXPECT_TRUE(NamesTheSystem("\"Mozilla/5.0 (Linux; x86_64)\""));
+  EXPECT_FALSE(NamesTheSystem("\"Mozilla/5.0 (Linux; Android 10; K)\""));
 }
 
 TEST(Layers, AnEventLoopIsFoundInEveryForm) {

@@ -320,8 +320,8 @@ TEST(CharsetChange, TheDeclarationIsChangedWhereItStands) {
             "charset=utf-8'>",
             "<!-- <meta charset=utf-8> --><meta http-equiv=content-type content='text/html; "
             "charset=big5'>"},
-           {"<?xml version=\"1.0\" encoding=\"utf-8\"?><html><head><meta charset=\"utf-8\"/>",
-            "<?xml version=\"1.0\" encoding=\"big5\"?><html><head><meta charset=\"big5\"/>"},
+           {R"(<?xml version="1.0" encoding="utf-8"?><html><head><meta charset="utf-8"/>)",
+            R"(<?xml version="1.0" encoding="big5"?><html><head><meta charset="big5"/>)"},
            {"<title><meta charset=utf-8></title><meta content='charset=x'>",
             "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=big5\"><title><meta "
             "charset=utf-8></title><meta content='charset=x'>"},
@@ -330,8 +330,7 @@ TEST(CharsetChange, TheDeclarationIsChangedWhereItStands) {
 }
 
 TEST(CharsetChange, ADeclarationIsPutInWhereNoneIs) {
-  const char *const pragma =
-      "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=big5\"";
+  const char *const pragma = R"(<meta http-equiv="Content-Type" content="text/html; charset=big5")";
   for (const auto &[before, after] : {
            std::pair{QByteArray("<!DOCTYPE html>\n<html>\n<head>\n  <title>t</title>"),
                      QByteArray("<!DOCTYPE html>\n<html>\n<head>\n  <meta charset=\"big5\">\n  "
