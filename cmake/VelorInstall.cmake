@@ -20,10 +20,15 @@ string(SUBSTRING "${released}" 0 10 VELOR_RELEASE_DATE)
 set(VELOR_PICTURES_ADDRESS "https://velor.example/manual" CACHE STRING "Address of the folder with docs/manual/*.png")
 configure_file("${packaging}/${application}.metainfo.xml.in" "${made}/${application}.metainfo.xml" @ONLY)
 
-configure_file("${packaging}/${application}.service.in" "${made}/${application}.service" @ONLY)
 set(programs velor-web-creator velor-open velor-catalogue velor-page-check velor-sample-site)
 
 install(TARGETS ${programs})
+# The bus wants the program's whole path, and the prefix of a package or of "cmake --install --prefix"
+# is known when it is installed.
+install(CODE "
+  set(bin \"${CMAKE_INSTALL_BINDIR}\")
+  cmake_path(ABSOLUTE_PATH bin BASE_DIRECTORY \"\${CMAKE_INSTALL_PREFIX}\")
+  configure_file(\"${packaging}/${application}.service.in\" \"${made}/${application}.service\" @ONLY)")
 install(FILES "${made}/${application}.service" DESTINATION "${CMAKE_INSTALL_DATADIR}/dbus-1/services")
 install(FILES "${packaging}/${application}.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
 install(FILES "${made}/${application}.metainfo.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
@@ -72,7 +77,9 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME velor-web-creator)
 set(CPACK_PACKAGE_VENDOR Velor)
 set(CPACK_PACKAGE_CONTACT "The Velor Web Creator developers <developers@velor.example>")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+# Installed as into /usr, below a folder of its own: see the bus's file above.
+set(CPACK_SET_DESTDIR ON)
+set(CPACK_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION web)
