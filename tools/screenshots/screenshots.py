@@ -90,8 +90,9 @@ class Photographer:
         self.program.button(1)
 
     def away(self):
+        """Moves the pointer over the page, above the status bar's button."""
         width, height = screen()
-        self.program.move(int(width - 10 * self.factor), int(height - 10 * self.factor))
+        self.program.move(int(width - 10 * self.factor), int(height - 60 * self.factor))
 
     def dialog(self, opener, what, hovered):
         """Opens a dialog, shows it idle and hovered, and closes it by Escape."""
@@ -256,7 +257,6 @@ def objects(photos):
     select(241, 40, "TABLE")
     photos.shot("table")
     photos.dialog(photos.command("Table Properties"), "table-properties", ("Align:", "combo box"))
-    select(241, 40, "TABLE")
     select(700, 60, "DIV")
     photos.shot("box")
     program.hold(*at(700, 60))
