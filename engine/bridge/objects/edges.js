@@ -36,8 +36,9 @@ tablePointer.replaceSync('html, body { cursor: e-resize !important }');
  */
 function cellNear(x, y) {
   for (const dx of [0, -reach, reach]) {
-    const cell = document.elementFromPoint(x + dx, y)?.closest('TD, TH');
-    if (cell) return /** @type {HTMLTableCellElement} */ (cell);
+    // In the gap between cells that is the table, which may lie in a cell itself.
+    const found = document.elementFromPoint(x + dx, y)?.closest('TABLE, TD, TH');
+    if (found && found.tagName !== 'TABLE') return /** @type {HTMLTableCellElement} */ (found);
   }
   return null;
 }
@@ -74,8 +75,11 @@ function edgeAt(event) {
   const isEnd = isRight === (getComputedStyle(table).direction === 'ltr');
   const behind = isEnd ? column + width : column;
   const isOuter = behind >= grid.width;
-  const wanted = isOuter && isRight ? table : null;
-  return behind > 0 && objects.objectAt(event) === wanted ? { grid, behind, isOuter } : null;
+  if (behind === 0) return null;
+  const found = objects.objectAt(event);
+  const isGap = found === table && !objects.isMovable(table);
+  const isFree = isOuter ? found === (isRight ? table : null) : found === null || isGap;
+  return isFree ? { grid, behind, isOuter } : null;
 }
 
 /**

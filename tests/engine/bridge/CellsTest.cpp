@@ -307,6 +307,16 @@ TEST_F(Edges, ADraggedEdgeMovesTheWidthFromOneColumnToTheNext) {
                      "<td style=\"width: 70px\">b</td><td style=\"width: 100px\">c</td></tr>"));
 }
 
+TEST_F(Edges, TheGapBetweenCellsIsAnEdgeOfATableInATableToo) {
+  const QString before = QStringLiteral(
+      "<table><tbody><tr><td><table cellspacing=\"4\" style=\"border-collapse: separate\"><tbody>"
+      "<tr><td style=\"width: %1px\">a</td><td style=\"width: %2px\">b</td>"
+      "<td style=\"width: 100px\">c</td></tr></tbody></table></td></tr>");
+  LoadColumns(before.arg(100).arg(100));
+  Drag({106, 24}, {136, 24});
+  ExpectTable(before.arg(130).arg(70));
+}
+
 TEST_F(Edges, WidthsAreWrittenWhereThePageHasThemAndInItsUnits) {
   LoadColumns(
       QStringLiteral("<table width=\"400\"><colgroup><col width=\"25%\"><col width=\"50%\"><col>"
