@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/PosixJetStorage.h"
 
+#include "files/FileBytes.h"
 #include "files/FileDescriptor.h"
 #include "files/JetLockFile.h"
 #include "platform/RuntimeError.h"
@@ -37,7 +38,7 @@ QByteArray Encoded(const QString &path) {
 }
 
 FileDescriptor OpenFile(const QString &path, int flags, mode_t mode = 0) {
-  FileDescriptor file(open(Encoded(path).constData(), flags | O_CLOEXEC, mode));
+  FileDescriptor file = OpenFile(FileCalls::OfTheSystem(), Encoded(path), flags, mode);
   if (!file.IsOpen()) RaiseErrno(path);
   return file;
 }
@@ -52,15 +53,8 @@ qint64 ModifiedOf(const struct stat &status) {
   return status.st_mtim.tv_sec * NanosecondsPerSecond + status.st_mtim.tv_nsec;
 }
 
-void WriteAll(const FileDescriptor &file, const char *bytes, std::size_t count,
-              const QString &path) {
-  while (count > 0) {
-    const ssize_t written = write(file.Number(), bytes, count);
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) RaiseErrno(path);
-    bytes += written;
-    count -= static_cast<std::size_t>(written);
-  }
+void WriteAll(const FileDescriptor &file, const QByteArray &bytes, const QString &path) {
+  if (!WriteBytes(FileCalls::OfTheSystem(), file.Number(), bytes)) RaiseErrno(path);
 }
 
 /// Reads until `count` bytes are there or the file ends; returns how many are.
@@ -175,9 +169,9 @@ class PosixJetStorage final : public JetStorage {
 
   JournalState FindJournal() override {
     journal_ = FileDescriptor();
-    FileDescriptor found(open(Encoded(journalPath_).constData(), O_RDWR | O_CLOEXEC));
+    FileDescriptor found = OpenFile(FileCalls::OfTheSystem(), Encoded(journalPath_), O_RDWR);
     if (!found.IsOpen() && errno != ENOENT) {
-      found = FileDescriptor(open(Encoded(journalPath_).constData(), O_RDONLY | O_CLOEXEC));
+      found = OpenFile(FileCalls::OfTheSystem(), Encoded(journalPath_), O_RDONLY);
     }
     if (!found.IsOpen()) {
       if (errno == ENOENT) return JournalState::None;
@@ -206,9 +200,7 @@ class PosixJetStorage final : public JetStorage {
     if (flock(journal_.Number(), LOCK_EX | LOCK_NB) != 0) RaiseErrno(journalPath_);
   }
 
-  void AppendJournal(const QByteArray &bytes) override {
-    WriteAll(journal_, bytes.constData(), static_cast<std::size_t>(bytes.size()), journalPath_);
-  }
+  void AppendJournal(const QByteArray &bytes) override { WriteAll(journal_, bytes, journalPath_); }
 
   void SyncJournal() override {
     SyncDescriptor(journal_, journalPath_);
@@ -266,7 +258,7 @@ class PosixJetStorage final : public JetStorage {
       const std::size_t got =
           ReadAll(reader_, block.data(), static_cast<std::size_t>(block.size()), at, path_);
       if (got == 0) break;
-      WriteAll(copy, block.constData(), got, target);
+      WriteAll(copy, block.first(static_cast<qsizetype>(got)), target);
       at += static_cast<off_t>(got);
     }
     SyncDescriptor(copy, target);
