@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the golden cases cannot show: messages, the pointer, the clipboard, whole-document calls.
 #include "tests/engine/bridge/BridgeCase.h"
-#include "tests/engine/bridge/BridgePage.h"
+#include "tests/engine/bridge/BridgeFixture.h"
 #include "tests/support/Waiting.h"
 
 #include <QClipboard>
@@ -33,14 +33,9 @@ class Host : public QObject {
   QPoint mouse;
 };
 
-class Bridge : public ::testing::Test {
+class Bridge : public BridgeFixture {
  protected:
   void Load(const QString &html) { page_.Load(html); }
-  QVariant Evaluate(const QString &expression) { return page_.Evaluate(expression); }
-  QString Text(const QString &expression) { return Evaluate(expression).toString(); }
-  bool Comes(const QString &condition) {
-    return WaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
-  }
   /// Replaces the channel by an array that collects the pushes.
   void CollectPushes() {
     Evaluate(
@@ -51,8 +46,6 @@ class Bridge : public ::testing::Test {
                        "velor.start({})"));
     ASSERT_TRUE(Comes(QStringLiteral("pushed.length > 0")));
   }
-
-  BridgePage page_;
 };
 
 TEST_F(Bridge, PushesItsFirstStateAfterTheStart) {

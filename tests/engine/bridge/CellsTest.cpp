@@ -2,8 +2,6 @@
 // Rectangles of cells: selected by the pointer and by keys, shown, and what is done to all of them.
 #include "tests/engine/bridge/ObjectsFixture.h"
 
-#include <QTest>
-
 namespace velor {
 namespace {
 
@@ -28,7 +26,7 @@ class Cells : public Objects {
                        ".map((cell) => cell.textContent).join()"));
   }
   bool BecomesChosen(const QString &cells) {
-    return QTest::qWaitFor([&] { return Chosen() == cells; }, 5000);
+    return WaitFor([&] { return Chosen() == cells; }, 5000);
   }
   /// Selects from one cell to another, by their texts.
   void Choose(const QString &from, const QString &to) {
@@ -177,8 +175,7 @@ TEST_F(Cells, DeleteClearsTheCellsAndLeavesThem) {
   Drag(At(0, 0), At(1, 1));
   ASSERT_TRUE(BecomesChosen(QStringLiteral("a,b,d,e")));
   page_.Press(QKeySequence(Qt::Key_Delete));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Table() == ",,c; ,,f; g,h,i"; }, 5000))
-      << qPrintable(Table());
+  EXPECT_TRUE(WaitFor([&] { return Table() == ",,c; ,,f; g,h,i"; }, 5000)) << qPrintable(Table());
   EXPECT_EQ(Text(QStringLiteral("JSON.stringify(velor.state().cells)")),
             QStringLiteral("[0,0,1,1]"));
   EXPECT_EQ(Steps(), 1);
@@ -285,8 +282,7 @@ class Edges : public Cells {
     loaded_ = Body();
   }
   void ExpectTable(const QString &start) {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Body().startsWith(start); }, 5000))
-        << qPrintable(Body());
+    EXPECT_TRUE(WaitFor([&] { return Body().startsWith(start); }, 5000)) << qPrintable(Body());
     EXPECT_EQ(Steps(), 1);
     Undo();
     EXPECT_EQ(Body(), loaded_);

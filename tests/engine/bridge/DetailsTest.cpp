@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Show details: a glyph for each thing that a page does not show, and the page left as it is.
-#include "tests/engine/bridge/BridgePage.h"
-#include "tests/support/Waiting.h"
+#include "tests/engine/bridge/BridgeFixture.h"
 
 #include <gtest/gtest.h>
 
 namespace velor {
 namespace {
 
-class Details : public ::testing::Test {
+class Details : public BridgeFixture {
  protected:
   void Load(const QString &body) {
     page_.Load(QStringLiteral("<!DOCTYPE html><html><head><style>body { margin: 0 }</style></head>"
@@ -20,11 +19,6 @@ class Details : public ::testing::Test {
                        "new MutationObserver((all) => { records += all.length; })"
                        ".observe(document, {subtree: true, childList: true, attributes: true,"
                        "                    characterData: true})"));
-  }
-  QVariant Evaluate(const QString &expression) { return page_.Evaluate(expression); }
-  QString Text(const QString &expression) { return Evaluate(expression).toString(); }
-  bool Comes(const QString &condition) {
-    return WaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
   }
   QString Glyph(const QString &selector) {
     return Text(QStringLiteral("getComputedStyle(document.querySelector('%1'), '::before').content")
@@ -42,7 +36,6 @@ class Details : public ::testing::Test {
     EXPECT_FALSE(Evaluate(QStringLiteral("inside.history.canUndo()")).toBool());
   }
 
-  BridgePage page_;
   QString text_;
 };
 

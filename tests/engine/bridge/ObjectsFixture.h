@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "tests/engine/bridge/BridgePage.h"
+#include "tests/engine/bridge/BridgeFixture.h"
 #include "tests/support/Waiting.h"
 
 #include <gtest/gtest.h>
@@ -9,18 +9,13 @@
 namespace velor {
 
 /// A page with objects in a bare view, its body at the viewport's corner.
-class Objects : public ::testing::Test {
+class Objects : public BridgeFixture {
  protected:
   void Load(const QString &body) {
     page_.Load(QStringLiteral("<!DOCTYPE html><html><head><style>body { margin: 0 }</style></head>"
                               "<body>") +
                body + QStringLiteral("</body></html>"));
     loaded_ = Body();
-  }
-  QVariant Evaluate(const QString &expression) { return page_.Evaluate(expression); }
-  QString Text(const QString &expression) { return Evaluate(expression).toString(); }
-  bool Comes(const QString &condition) {
-    return WaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
   }
   QString Body() { return Text(QStringLiteral("document.body.innerHTML")); }
   bool BecomesBody(const QString &body) {
@@ -70,7 +65,6 @@ class Objects : public ::testing::Test {
                      .arg(selector));
   }
 
-  BridgePage page_;
   QString loaded_;
 };
 

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The waves under unknown words, and what is done to these words. The program's part is played by a
 // dictionary in the page: a word with two q in a row is unknown.
-#include "tests/engine/bridge/BridgePage.h"
-#include "tests/support/Waiting.h"
+#include "tests/engine/bridge/BridgeFixture.h"
 
 #include <gtest/gtest.h>
 
 namespace velor {
 namespace {
 
-class Waves : public ::testing::Test {
+class Waves : public BridgeFixture {
  protected:
   void Load(const QString &body, const QString &head = {}) {
     page_.Load(QStringLiteral("<!DOCTYPE html><html><head>%1</head><body>%2</body></html>")
@@ -27,11 +26,6 @@ class Waves : public ::testing::Test {
                        "  }};"
                        "velor.setSpelling(true)"));
   }
-  QVariant Evaluate(const QString &expression) { return page_.Evaluate(expression); }
-  QString Text(const QString &expression) { return Evaluate(expression).toString(); }
-  bool Comes(const QString &condition) {
-    return WaitFor([this, &condition] { return Evaluate(condition).toBool(); }, 5000);
-  }
   /// Waits until that many waves are drawn.
   bool WavesCome(int count) {
     return Comes(QStringLiteral("getComputedStyle(document.head, '::before')"
@@ -40,7 +34,6 @@ class Waves : public ::testing::Test {
   }
   QString Asked() { return Text(QStringLiteral("JSON.stringify(asked)")); }
 
-  BridgePage page_;
   QString text_;
 };
 
