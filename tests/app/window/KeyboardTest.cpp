@@ -6,6 +6,7 @@
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
+#include "tests/app/window/DialogItems.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeDialogs.h"
 #include "tests/support/KeyboardWalk.h"
@@ -198,11 +199,7 @@ TEST_F(KeyboardTest, NoTwoControlsInSightOfAWindowShareAnAltKey) {
   database.results[QStringLiteral("Select * from Project where Created = true")] = {};
   frmMain &page = NewPage();
   EXPECT_EQ(SharedAltKeys(window).toStdString(), "");
-  const char *const items[] = {"mnuNewFromTemplate", "mnuCharacter", "mnuAbout",    "mnuPrint",
-                               "mnuFindCommand",     "mnuSettings",  "mnuDrives",   "mnuTBLnew",
-                               "mnuISTimage",        "mnuISTlink",   "mnuBookmark", "mnuVideo",
-                               "mnuView_ProjectMan", "extInHTML",    "mnuShortcuts"};
-  for (const char *item : items) {
+  for (const char *item : DialogItems) {
     dialogs.ExpectModal([item](QWidget &dialog) {
       dialog.show();
       EXPECT_EQ(SharedAltKeys(dialog).toStdString(), "") << item;

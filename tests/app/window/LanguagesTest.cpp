@@ -10,6 +10,7 @@
 #include "platform/Words.h"
 #include "properties/PropertySheets.h"
 #include "properties/frmProperties.h"
+#include "tests/app/window/DialogItems.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/KeyboardWalk.h"
 
@@ -98,11 +99,7 @@ class WindowIn : private Spoken<Translator>, public WindowFixture {
 
  private:
   void LookAtDialogs(const Look &look) {
-    const char *const items[] = {"mnuNewFromTemplate", "mnuCharacter", "mnuAbout",    "mnuPrint",
-                                 "mnuFindCommand",     "mnuSettings",  "mnuDrives",   "mnuTBLnew",
-                                 "mnuISTimage",        "mnuISTlink",   "mnuBookmark", "mnuVideo",
-                                 "mnuView_ProjectMan", "extInHTML",    "mnuShortcuts"};
-    for (const char *item : items) {
+    for (const char *item : DialogItems) {
       dialogs.ExpectModal([&](QWidget &dialog) {
         dialog.show();
         look(dialog, item);
