@@ -6,8 +6,9 @@
 namespace velor {
 
 /// A text as a caption that shows just it: a single "&" would mark the next letter as its key.
-inline QString AsCaption(QString text) {
-  return text.replace(u'&', QStringLiteral("&&"));
-}
+QString AsCaption(QString text);
+
+/// A caption as it is read: without the letter for its key and the dots.
+QString SpokenCaption(QString caption);
 
 }  // namespace velor

@@ -113,9 +113,8 @@ void PageWidths::ChooseDevice(Browser::Device device) {
 
 void PageWidths::Keep() const {
   if (const QString site = Site(); !site.isEmpty())
-    modSettingManager::SaveRegSetting(context_.platform.registry,
-                                      QString::fromUtf16(modSettingManager::ApplicationName),
-                                      Section, site, InStore(frame_->ChosenWidth(), device_));
+    modSettingManager::SaveText(context_.platform.registry, Section, site,
+                                InStore(frame_->ChosenWidth(), device_));
 }
 
 void PageWidths::ShowDevice() {
@@ -135,9 +134,7 @@ void PageWidths::Follow() {
   if (before.isEmpty() && !site_.isEmpty() && frame_->ChosenWidth())
     return Choose(frame_->ChosenWidth());
   if (!site_.isEmpty()) {
-    const QString kept = modSettingManager::GetRegSetting(
-        context_.platform.registry, QString::fromUtf16(modSettingManager::ApplicationName), Section,
-        site_, {});
+    const QString kept = modSettingManager::StoredText(context_.platform.registry, Section, site_);
     device_ = kept.endsWith(OnPhone) ? Browser::Device::Phone : Browser::Device::Desktop;
     frame_->ShowAt(WidthFrom(kept));
   }

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // frmProperties: the controls of its fields.
+#include "chrome/Captions.h"
 #include "chrome/ColorPicker.h"
 #include "chrome/ColorValue.h"
 #include "chrome/FontFamilies.h"
 #include "insert/FormParts.h"
 #include "insert/TextBox.h"
+#include "platform/EditingCommands.h"
 #include "platform/Words.h"
 #include "properties/PropertyHost.h"
 #include "properties/frmProperties.h"
@@ -16,7 +18,6 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -32,10 +33,11 @@ constexpr int ShownLines = 3;
 const QStringList GenericFamilies = {QStringLiteral("serif"), QStringLiteral("sans-serif"),
                                      QStringLiteral("monospace"), QStringLiteral("cursive"),
                                      QStringLiteral("fantasy")};
-/// Points: the seven sizes that every page can have.
-const QStringList Sizes = {QStringLiteral("8"),  QStringLiteral("10"), QStringLiteral("12"),
-                           QStringLiteral("14"), QStringLiteral("18"), QStringLiteral("24"),
-                           QStringLiteral("36")};
+QStringList Sizes() {
+  QStringList sizes;
+  for (const int points : FontSizePoints) sizes << QString::number(points);
+  return sizes;
+}
 
 QString NameOf(const PropertyField &field) {
   return QStringLiteral("prp_") + QLatin1String(field.name);
@@ -55,9 +57,8 @@ void ShowHint(QLineEdit &box, const PropertyField &field) {
   box.setMinimumWidth(box.fontMetrics().horizontalAdvance(box.placeholderText()) + BoxEdges);
 }
 
-QString WithoutSigns(QString label) {
-  static const QRegularExpression letterBehind(QStringLiteral("\\(&\\w\\)"));
-  return label.remove(letterBehind).remove(u'&').remove(u':');
+QString SpokenLabel(QString label) {
+  return SpokenCaption(label.remove(u':'));
 }
 
 }  // namespace
@@ -77,7 +78,7 @@ void frmProperties::AddRow(const PropertyField &field, const QString &value) {
       Offer(*AddListBox(row, value, nullptr), GenericFamilies + InstalledFamilies());
       break;
     case FieldKind::Size:
-      Offer(*AddListBox(row, value, nullptr), Sizes);
+      Offer(*AddListBox(row, value, nullptr), Sizes());
       break;
     case FieldKind::Addresses:
       AddLines(row, value);
@@ -161,7 +162,7 @@ void frmProperties::AddAddressBox(Row &row, const QString &value) {
 QPushButton *frmProperties::MakeBrowse(const PropertyField &field) {
   QPushButton *browse =
       FormParts::MakeButton(NameOf(field) + QStringLiteral("_browse"), Words::tr("Browse..."));
-  browse->setAccessibleName(Words::tr("Browse: %1").arg(WithoutSigns(Words::tr(field.label))));
+  browse->setAccessibleName(Words::tr("Browse: %1").arg(SpokenLabel(Words::tr(field.label))));
   return browse;
 }
 
@@ -220,11 +221,10 @@ void frmProperties::AddTold(const PropertyField &field, const QString &value) {
   FormParts::AddControl(Form(), NameOf(field), Words::tr(field.label), text);
 }
 
-ColorPicker *frmProperties::MakePicker(const QString &name, QString label) {
+ColorPicker *frmProperties::MakePicker(const QString &name, const QString &label) {
   auto *picker = new ColorPicker(QStringLiteral("backcolor"), this);
   picker->setObjectName(name + QStringLiteral("_picker"));
-  label = label.remove(u'&').remove(u':');
-  picker->setAccessibleName(Words::tr("Choose: %1").arg(label));
+  picker->setAccessibleName(Words::tr("Choose: %1").arg(SpokenLabel(label)));
   picker->setToolTip(picker->accessibleName());
   return picker;
 }

@@ -64,7 +64,7 @@ class frmProperties final : public QDialog {
   void AddTruth(Row &row, const QString &value);
   void AddTold(const PropertyField &field, const QString &value);
   /// The palette beside a colour's box. Before the box is there, with which Connect connects it.
-  ColorPicker *MakePicker(const QString &name, QString label);
+  ColorPicker *MakePicker(const QString &name, const QString &label);
   void Connect(TextBox &box, const QString &name);
   QPushButton *MakeBrowse(const PropertyField &field);
 

@@ -47,6 +47,15 @@ QString GetRegSetting(const Registry &registry, const QString &applicationName,
   return text.isEmpty() ? defaultValue : text;
 }
 
+void SaveText(Registry &registry, const QString &section, const QString &valueName,
+              const QString &value) {
+  SaveRegSetting(registry, Product(), section, valueName, value);
+}
+
+QString StoredText(const Registry &registry, const QString &section, const QString &valueName) {
+  return GetRegSetting(registry, Product(), section, valueName, {});
+}
+
 void SetOption(Registry &registry, const QString &valueName, const QString &value) {
   SaveRegSetting(registry, Product(), QString::fromUtf16(OptionSection), valueName, value);
 }

@@ -31,6 +31,12 @@ QString GetRegSetting(const Registry &registry, const QString &applicationName,
                       const QString &section, const QString &valueName,
                       const QString &defaultValue);
 
+/// The same in a section of this program's that holds no preferences; empty where nothing is
+/// stored.
+void SaveText(Registry &registry, const QString &section, const QString &valueName,
+              const QString &value);
+QString StoredText(const Registry &registry, const QString &section, const QString &valueName);
+
 /// Stores and reads a preference as text. The functions below also convert what they read.
 void SetOption(Registry &registry, const QString &valueName, const QString &value);
 QString GetOption(const Registry &registry, const QString &valueName, const QString &defaultValue);

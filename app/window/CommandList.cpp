@@ -3,6 +3,7 @@
 
 #include "app/window/FormattingBar.h"
 #include "app/window/MenuBuilder.h"
+#include "chrome/Captions.h"
 #include "chrome/ToolBarButtons.h"
 #include "platform/Words.h"
 

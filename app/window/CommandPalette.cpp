@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QRegularExpression>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -15,24 +14,17 @@ namespace {
 
 constexpr QSize FirstSize(420, 380);
 
-bool HoldsAll(const QString &name, const QStringList &words) {
-  return std::all_of(words.begin(), words.end(), [&name](const QString &word) {
-    return name.contains(word, Qt::CaseInsensitive);
+}  // namespace
+
+bool HoldsAll(const QString &text, const QStringList &words) {
+  return std::all_of(words.begin(), words.end(), [&text](const QString &word) {
+    return text.contains(word, Qt::CaseInsensitive);
   });
 }
-
-}  // namespace
 
 QString NameWithKey(const NamedCommand &command) {
   const QString key = command.item->shortcut().toString(QKeySequence::NativeText);
   return key.isEmpty() ? command.name : QStringLiteral("%1 (%2)").arg(command.name, key);
-}
-
-QString SpokenCaption(QString caption) {
-  static const QRegularExpression key(QStringLiteral("\\s*\\(&.\\)$"));
-  caption.remove(key).remove(u'&');
-  if (caption.endsWith(QStringLiteral("..."))) caption.chop(3);
-  return caption.trimmed();
 }
 
 CommandPalette::CommandPalette(const PaletteWords &words, const QList<NamedCommand> &commands,

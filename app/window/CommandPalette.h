@@ -25,6 +25,9 @@ struct NamedCommand {
   Command command = {};
 };
 
+/// Whether each of the words that a person looks for stands in the text.
+bool HoldsAll(const QString &text, const QStringList &words);
+
 /// The name with the item's key behind it, where it has one.
 QString NameWithKey(const NamedCommand &command);
 
@@ -61,8 +64,5 @@ class CommandPalette final : public QDialog {
   QListWidget *list_;
   QPointer<QAction> chosen_;
 };
-
-/// A caption as it is read: without the letter for its key and the dots.
-QString SpokenCaption(QString caption);
 
 }  // namespace velor

@@ -12,8 +12,6 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace velor {
 
 using namespace FormParts;
@@ -142,9 +140,7 @@ void FrmShortcuts::Filter(const QString &words) {
         QStringList{row->text(NameColumn), row->text(KeyColumn),
                     shortcuts_.Commands()[static_cast<std::size_t>(index)].command.words}
             .join(u' ');
-    const bool hasAll = std::all_of(wanted.begin(), wanted.end(), [&](const QString &word) {
-      return text.contains(word, Qt::CaseInsensitive);
-    });
+    const bool hasAll = HoldsAll(text, wanted);
     row->setHidden(!hasAll);
     if (hasAll && first == nullptr) first = row;
   }

@@ -14,10 +14,10 @@ namespace {
 
 constexpr int Percent = 100;
 
+const QString Section = QStringLiteral("print");
+
 QString Stored(const Registry &registry, const QString &name) {
-  return modSettingManager::GetRegSetting(registry,
-                                          QString::fromUtf16(modSettingManager::ApplicationName),
-                                          QStringLiteral("print"), name, {});
+  return modSettingManager::StoredText(registry, Section, name);
 }
 
 /// The choices as texts, by the names that they are stored under.
@@ -81,10 +81,7 @@ PrintChoices ReadPrintChoices(const Registry &registry) {
 void StorePrintChoices(Registry &registry, const PrintChoices &choices) {
   const std::map<QString, QString> before = TextsOf(ReadPrintChoices(registry));
   for (const auto &[name, text] : TextsOf(choices)) {
-    if (text != before.at(name))
-      modSettingManager::SaveRegSetting(registry,
-                                        QString::fromUtf16(modSettingManager::ApplicationName),
-                                        QStringLiteral("print"), name, text);
+    if (text != before.at(name)) modSettingManager::SaveText(registry, Section, name, text);
   }
 }
 

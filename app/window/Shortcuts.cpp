@@ -2,6 +2,7 @@
 #include "app/window/Shortcuts.h"
 
 #include "app/settings/modSettingManager.h"
+#include "chrome/Captions.h"
 #include "chrome/ToolBarButtons.h"
 #include "engine/PageKeys.h"
 #include "platform/Words.h"
@@ -98,9 +99,8 @@ void Shortcuts::Read() {
   QSet<QString> taken;
   std::vector<KeyedCommand *> others;
   for (KeyedCommand &each : commands_) {
-    const QString stored = modSettingManager::GetRegSetting(
-        registry_, QString::fromUtf16(modSettingManager::ApplicationName),
-        QString::fromUtf16(Section), each.command.id, {});
+    const QString stored =
+        modSettingManager::StoredText(registry_, QString::fromUtf16(Section), each.command.id);
     const QKeySequence key = KeyFrom(stored);
     const bool isKey = !stored.isEmpty() && Objection(key).isEmpty() && !taken.contains(stored);
     if (stored == QString::fromUtf16(NoKey)) {
@@ -137,9 +137,7 @@ void Shortcuts::Use(const std::vector<QKeySequence> &keys) {
     const QString text = isStandard           ? QString()
                          : each.key.isEmpty() ? QString::fromUtf16(NoKey)
                                               : each.key.toString(QKeySequence::PortableText);
-    modSettingManager::SaveRegSetting(registry_,
-                                      QString::fromUtf16(modSettingManager::ApplicationName),
-                                      QString::fromUtf16(Section), each.command.id, text);
+    modSettingManager::SaveText(registry_, QString::fromUtf16(Section), each.command.id, text);
   }
   Apply();
 }

@@ -7,6 +7,7 @@
 #include "app/window/CommandPalette.h"
 #include "app/window/GeneralToolbar.h"
 #include "app/window/MenuTable.h"
+#include "chrome/Captions.h"
 #include "editor/EditCommands.h"
 
 #include <QCoreApplication>
