@@ -15,7 +15,8 @@ QList<NamedCommand> CommandsOf(const Menus &menus, const FormattingBar &formatti
     if (row.kind != MenuKind::Item || row.command.id == CommandId::None) continue;
     const QString name = QString::fromLatin1(row.name);
     QAction *first = menus.items.at(row.command);
-    if (first->objectName() != name && name.startsWith(u"ext")) continue;
+    const bool isRepeated = name.startsWith(u"ext") || first->text() == Words::tr(row.caption);
+    if (first->objectName() != name && isRepeated) continue;
     // Items of one name have commands of their own.
     QAction *item = row.index == 0 ? menus.named.value(name) : first;
     const QString id = row.index == 0 ? name : name + QString::number(row.index);

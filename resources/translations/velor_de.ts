@@ -3712,10 +3712,6 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <translation>symbol sonderzeichen unicode buchstabe</translation>
     </message>
     <message>
-        <source>Insert Character...</source>
-        <translation>Zeichen einfügen ...</translation>
-    </message>
-    <message>
         <source>Insert Character</source>
         <translation>Zeichen einfügen</translation>
     </message>
@@ -3776,16 +3772,8 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <translation>seite erstellen html5 vorlage</translation>
     </message>
     <message>
-        <source>New from Template...</source>
-        <translation>Neu aus Vorlage ...</translation>
-    </message>
-    <message>
         <source>keep page</source>
         <translation>seite behalten vorlage</translation>
-    </message>
-    <message>
-        <source>Save as Template...</source>
-        <translation>Als Vorlage speichern ...</translation>
     </message>
     <message>
         <source>There is a template %1 already. Replace it?</source>
@@ -3866,10 +3854,6 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
     <message>
         <source>keys keyboard hotkeys</source>
         <translation>Tasten Tastatur Kürzel Tastenkürzel</translation>
-    </message>
-    <message>
-        <source>Shortcuts...</source>
-        <translation>Tastenkürzel...</translation>
     </message>
     <message>
         <source>That is no key.</source>
@@ -4134,6 +4118,38 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
     <message>
         <source>Re&amp;move Link</source>
         <translation>&amp;Link entfernen</translation>
+    </message>
+    <message>
+        <source>New from Template... (&amp;T)</source>
+        <translation>Neu aus &amp;Vorlage ...</translation>
+    </message>
+    <message>
+        <source>Save as Template... (&amp;M)</source>
+        <translation>&amp;Als Vorlage speichern ...</translation>
+    </message>
+    <message>
+        <source>Page Widths (&amp;X)</source>
+        <translation>Seitenbreiten</translation>
+    </message>
+    <message>
+        <source>Site (&amp;H)</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>Insert More (&amp;V)</source>
+        <translation>&amp;Mehr einfügen</translation>
+    </message>
+    <message>
+        <source>Insert Character... (&amp;C)</source>
+        <translation>&amp;Zeichen einfügen ...</translation>
+    </message>
+    <message>
+        <source>Paste As (&amp;B)</source>
+        <translation>Ein&amp;fügen als</translation>
+    </message>
+    <message>
+        <source>Shortcuts... (&amp;D)</source>
+        <translation>Tastenkürzel...</translation>
     </message>
 </context>
 <context>

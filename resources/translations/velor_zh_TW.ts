@@ -3700,10 +3700,6 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <translation>符號 特殊 字元 萬國碼</translation>
     </message>
     <message>
-        <source>Insert Character...</source>
-        <translation>插入字元...</translation>
-    </message>
-    <message>
         <source>Insert Character</source>
         <translation>插入字元</translation>
     </message>
@@ -3764,16 +3760,8 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <translation>網頁 建立 html5 範本</translation>
     </message>
     <message>
-        <source>New from Template...</source>
-        <translation>從範本新增...</translation>
-    </message>
-    <message>
         <source>keep page</source>
         <translation>保留 網頁 範本</translation>
-    </message>
-    <message>
-        <source>Save as Template...</source>
-        <translation>儲存為範本...</translation>
     </message>
     <message>
         <source>There is a template %1 already. Replace it?</source>
@@ -3854,10 +3842,6 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
     <message>
         <source>keys keyboard hotkeys</source>
         <translation>按鍵 鍵盤 快速鍵</translation>
-    </message>
-    <message>
-        <source>Shortcuts...</source>
-        <translation>快速鍵...</translation>
     </message>
     <message>
         <source>That is no key.</source>
@@ -4118,6 +4102,38 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
     <message>
         <source>Re&amp;move Link</source>
         <translation>移除連結(&amp;M)</translation>
+    </message>
+    <message>
+        <source>New from Template... (&amp;T)</source>
+        <translation>從範本新增...(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Save as Template... (&amp;M)</source>
+        <translation>儲存為範本...(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Page Widths (&amp;X)</source>
+        <translation>頁面寬度(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Site (&amp;H)</source>
+        <translation>網站(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Insert More (&amp;V)</source>
+        <translation>插入其他(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Insert Character... (&amp;C)</source>
+        <translation>插入字元...(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Paste As (&amp;B)</source>
+        <translation>貼上為(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Shortcuts... (&amp;D)</source>
+        <translation>快速鍵...(&amp;D)</translation>
     </message>
 </context>
 <context>

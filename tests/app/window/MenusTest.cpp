@@ -137,8 +137,8 @@ TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
   EXPECT_EQ(Tree(Find<QMenu>("mnuTools")->actions()).toStdString(),
             R"tree(mnuFindCommand "Find Command... (&F)" Ctrl+Shift+P
 mnuRecent "Recent Files (&R)"
-mnuNewFromTemplate "New from Template..."
-mnuSaveAsTemplate "Save as Template..."
+mnuNewFromTemplate "New from Template... (&T)"
+mnuSaveAsTemplate "Save as Template... (&M)"
 mnuPrint "Print... (&I)" Ctrl+P
 mnuExportPdf "Export as PDF... (&O)"
 mnu6 "-"
@@ -146,7 +146,7 @@ mnuZoom "Zoom (&Z)"
   mnuZoomIn "Zoom &In" Ctrl++
   mnuZoomOut "Zoom &Out" Ctrl+-
   mnuZoomReset "Own &Size" Ctrl+0
-mnuWidths "Page Widths" Ctrl+Shift+M
+mnuWidths "Page Widths (&X)" Ctrl+Shift+M
 mnu10 "-"
 mnuFind "Find... (&N)" Ctrl+F
 mnuReplace "Replace... (&P)" Ctrl+H
@@ -155,16 +155,21 @@ mnuFindPrevious "Find Previous (&U)" Shift+F3
 mnu8 "-"
 mnuSpelling "Spelling... (&Y)" F7
 mnuWordAtCaret "Correct Word (&J)" Ctrl+.
-mnuSpellingOfPages "Spelling of All Pages... (&H)"
+mnuSite "Site (&H)"
+  mnuSiteProjects "Project Manager"
+  mnuSpellingOfPages "Spelling of All Pages... (&H)"
+  mnuDrives "Drives... (&D)"
 mnu9 "-"
 mnuLink "Link... (&L)" Ctrl+K
 mnuFollowLink "Follow Link (&K)"
-mnuBookmark "Insert Target... (&T)"
-mnuVideo "Insert Video... (&V)"
-mnuCharacter "Insert Character..."
-mnuPasteText "Paste as Text (&X)" Ctrl+Shift+V
-mnuPasteTable "Paste as Table (&B)"
-mnuPasteMarkdown "Paste as Markdown (&M)"
+mnuInsertMore "Insert More (&V)"
+  mnuBookmark "Insert Target... (&T)"
+  mnuVideo "Insert Video... (&V)"
+  mnuCharacter "Insert Character... (&C)"
+mnuPasteAs "Paste As (&B)"
+  mnuPasteText "Paste as Text (&X)" Ctrl+Shift+V
+  mnuPasteTable "Paste as Table (&B)"
+  mnuPasteMarkdown "Paste as Markdown (&M)"
 mnuTakePicturesOut "Take Embedded Pictures Out into Files (&E)"
 mnuTableMore "Table (&A)"
   mnuRowAbove "Insert Row &Above" disabled
@@ -191,8 +196,7 @@ mnuTableMore "Table (&A)"
   mnuDistribute "Equal Column W&idths" disabled
 mnu7 "-"
 mnuWrapSource "Wrap Source Lines (&W)"
-mnuDrives "Drives... (&D)"
-mnuShortcuts "Shortcuts..."
+mnuShortcuts "Shortcuts... (&D)"
 mnuSettings "Settings... (&S)"
 )tree");
 }
