@@ -8,8 +8,11 @@
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
+#include "tests/app/window/DialogItems.h"
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
+#include "tests/support/FakeDatabase.h"
+#include "tests/support/Waiting.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -17,6 +20,9 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+
+#include <iterator>
+#include <vector>
 
 namespace velor {
 namespace {
@@ -259,6 +265,64 @@ TEST_F(RealFocus, KeysGoToWhatIsInFrontAfterEveryRowOfTheTable) {
         break;
     }
     CloseAll();
+  }
+}
+
+class RealDialogs : public RealFocus {
+ protected:
+  RealDialogs() {
+    catalogue_.results[QStringLiteral("Select * from Project where Created = true")] = {};
+    values.DbConnection = catalogue_.CreateConnection();
+    values.DbConnection->Open({}, {}, {}, -1);
+    OpenBoth();
+  }
+
+  /// Opens the item's dialog, leaves it by Escape and types a letter.
+  void LeaveDialogAndType(const char *item) {
+    dialogs.ExpectModal([](QWidget &dialog) {
+      dialog.show();
+      dialog.activateWindow();
+      const std::string name = dialog.objectName().toStdString();
+      EXPECT_TRUE(WaitFor([&] { return dialog.isAncestorOf(QApplication::focusWidget()); }))
+          << "the keyboard is not in " << name;
+      Press(Qt::Key_Escape);
+      EXPECT_FALSE(dialog.isVisible()) << "Escape does not leave " << name;
+    });
+    Choose(item);
+    // A desktop gives the keyboard to the window below; the one without a screen gives it to none.
+    EXPECT_TRUE(WaitFor([this] {
+      if (QApplication::activeWindow() != &window) window.activateWindow();
+      return QApplication::activeWindow() == &window;
+    }));
+    Press(Qt::Key_Q);
+  }
+
+ private:
+  FakeDatabase catalogue_;
+};
+
+TEST_F(RealDialogs, TheKeysAreInThePageAfterEachOneIsLeft) {
+  QString word = QStringLiteral("two");
+  std::vector<const char *> items(std::begin(DialogItems), std::end(DialogItems));
+  items.insert(items.end(), {"extPagePro", "extFontsPro"});
+  for (const char *item : items) {
+    SCOPED_TRACE(item);
+    LeaveDialogAndType(item);
+    word.insert(1, u'q');
+    PutCaret(*second, QStringLiteral("p"));
+    EXPECT_TRUE(WaitFor([&] { return WordsOf(*second) == word; })) << Seen(*second);
+  }
+}
+
+TEST_F(RealDialogs, TheKeysAreInTheSourceAfterEachOneThatItHasIsLeft) {
+  second->ChangeMode(3);
+  QString text = QStringLiteral("two");
+  for (const char *item : {"mnuCharacter", "mnuAbout", "mnuFindCommand", "mnuSettings", "mnuDrives",
+                           "mnuView_ProjectMan", "mnuShortcuts"}) {
+    SCOPED_TRACE(item);
+    LeaveDialogAndType(item);
+    text.insert(1, u'q');
+    EXPECT_TRUE(Editor().Code().Text().contains(text)) << Editor().Code().Text().toStdString();
   }
 }
 
