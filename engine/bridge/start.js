@@ -5,6 +5,7 @@
 import { listenToClipboard } from './clipboard/clipboard.js';
 import * as pending from './formats/pending.js';
 import { listenToKeys } from './keys/keys.js';
+import { keepCaretHeight } from './objects/caretHeight.js';
 import { setDetails } from './objects/details.js';
 import { listenToCells } from './objects/cellGestures.js';
 import './objects/cells.js';
@@ -61,6 +62,7 @@ export function start({
   listenToClipboard();
   listenToPointer();
   overlay.start();
+  keepCaretHeight();
   listenToEdges();
   listenToCells();
   listenToGestures();

@@ -14,6 +14,9 @@
 #include <QTest>
 #include <QWebEnginePage>
 
+#include <cmath>
+#include <functional>
+
 namespace velor {
 namespace {
 
@@ -38,6 +41,27 @@ class RealWidths : public RealWindow {
     const QString asked =
         QStringLiteral("innerWidth === %1 && matchMedia('(width: %1px)').matches").arg(width);
     return WaitFor([&] { return Evaluate(EngineOf(shown), asked).toBool(); });
+  }
+  /// Pixels of the screen between the view's upper edge and the caret; -1 where the caret's line is
+  /// not all in sight.
+  static double CaretHeight(frmMain &page) {
+    return Evaluate(EngineOf(page), QStringLiteral("{ const box = getSelection().getRangeAt(0)"
+                                                   ".getBoundingClientRect();"
+                                                   "box.top >= 0 && box.bottom <= innerHeight"
+                                                   " ? box.top * devicePixelRatio : -1 }"))
+        .toDouble();
+  }
+  /// Whether the page has another width than before and the caret is where it was in the view.
+  void ExpectCaretStays(frmMain &page, const std::function<void()> &change) {
+    const QString layout = QStringLiteral("innerWidth + ' ' + devicePixelRatio");
+    const QVariant before = Evaluate(EngineOf(page), layout);
+    const double height = CaretHeight(page);
+    ASSERT_GT(height, 0);
+    change();
+    EXPECT_TRUE(WaitFor([&] { return Evaluate(EngineOf(page), layout) != before; }));
+    // A line that was broken anew can begin anywhere in the old one.
+    EXPECT_TRUE(WaitFor([&] { return std::abs(CaretHeight(page) - height) < 3; }))
+        << CaretHeight(page) << " instead of " << height;
   }
   template <typename Widget>
   static Widget &In(QWidget &shown, const char *name) {
@@ -90,6 +114,34 @@ TEST_F(RealWidths, AViewportIsAddedOnALineOfItsOwnAsOneStepAndNothingElseChanges
   EXPECT_TRUE(WaitFor([&] { return add.isVisible(); }));
   Choose("mnuSave");
   EXPECT_EQ(Bytes(QStringLiteral("page.htm")), Page);
+}
+
+TEST_F(RealWidths, TheCaretStaysAtItsHeightWhenLinesBreakAnew) {
+  const QByteArray lines = QByteArray("long lines that break anew at another width ").repeated(40);
+  frmMain &page =
+      Open(QStringLiteral("long.htm"), "<p>" + QByteArray(lines + "</p>\n<p>").repeated(20) +
+                                           "<b id=here>one</b> " +
+                                           QByteArray(lines + "</p>\n<p>").repeated(20) + "</p>");
+  Choose("mnuWidths");
+  PutCaret(page, QStringLiteral("#here"));
+  Evaluate(EngineOf(page),
+           QStringLiteral("document.querySelector('#here').scrollIntoView({ block: 'center' })"));
+  ExpectCaretStays(page, [&] { In<QToolButton>(page, "cmdWidth360").click(); });
+  ExpectCaretStays(page, [&] { In<QToolButton>(page, "cmdWidth768").click(); });
+  auto &grip = In<QWidget>(page, "picWidthGrip");
+  QTest::mousePress(&grip, Qt::LeftButton, {}, QPoint(2, 2));
+  for (const int step : {-50, -100, -150})
+    ExpectCaretStays(page, [&] {
+      QMouseEvent move(QEvent::MouseMove, QPointF(2, 2), grip.mapToGlobal(QPointF(2 + step, 2)),
+                       Qt::NoButton, Qt::LeftButton, {});
+      QApplication::sendEvent(&grip, &move);
+    });
+  QTest::mouseRelease(&grip, Qt::LeftButton);
+  ExpectCaretStays(page, [&] { page.SetZoom(1.5); });
+  ExpectCaretStays(page, [&] { page.SetZoom(0.67); });
+  ExpectCaretStays(page, [&] { In<QToolButton>(page, "cmdWidth0").click(); });
+  ExpectCaretStays(page, [&] { page.SetZoom(1.25); });
+  ExpectCaretStays(page, [&] { Choose("mnuWidths"); });
 }
 
 TEST_F(RealWidths, APageThatIsWiderThanTheWindowScrollsSidewaysToTheCaret) {
