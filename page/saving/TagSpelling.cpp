@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
+#include <string_view>
 
 namespace velor {
 
@@ -21,6 +23,19 @@ bool NeedsNoQuotes(QStringView value) {
   return !value.isEmpty() && !value.endsWith(u'/') &&
          std::none_of(value.begin(), value.end(),
                       [](QChar codeUnit) { return Breaking.contains(codeUnit); });
+}
+
+/// Whether an attribute says all by being there, as authors write it.
+bool NeedsNoValue(QStringView name) {
+  static constexpr std::u16string_view Names[] = {
+      u"allowfullscreen", u"async",       u"autofocus", u"autoplay", u"checked",
+      u"compact",         u"controls",    u"default",   u"defer",    u"disabled",
+      u"hidden",          u"ismap",       u"loop",      u"multiple", u"muted",
+      u"noshade",         u"nowrap",      u"open",      u"readonly", u"required",
+      u"reversed",        u"playsinline", u"selected"};
+  return std::any_of(std::begin(Names), std::end(Names), [&](std::u16string_view each) {
+    return name == QStringView(each.data(), static_cast<qsizetype>(each.size()));
+  });
 }
 
 bool HasLetter(QStringView name) {
@@ -124,11 +139,14 @@ QString QuotedValue(QStringView value, char16_t quote, QStringView maskStem) {
 
 QString SpelledAttribute(QStringView name, QStringView value, const TagSpelling &spelling,
                          QStringView maskStem) {
+  const QString written = u' ' + InCase(name, spelling.attributeNames, maskStem);
+  // A page whose tags end in slashes is XML, where an attribute has a value.
+  const bool isXml = spelling.voidEnd == TagSpelling::VoidEnd::Slash;
+  if (value.isEmpty() && !isXml && NeedsNoValue(name)) return written;
   const char16_t quote = NeedsNoQuotes(value)    ? spelling.bareQuote
                          : value.contains(u'\'') ? u'"'
                                                  : spelling.quote;
-  return u' ' + InCase(name, spelling.attributeNames, maskStem) + u'=' +
-         QuotedValue(value, quote, maskStem);
+  return written + u'=' + QuotedValue(value, quote, maskStem);
 }
 
 QString Spelled(QStringView tag, const TagSpelling &spelling, QStringView maskStem) {

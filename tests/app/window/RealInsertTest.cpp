@@ -410,7 +410,7 @@ TEST_F(RealInsert, AVideoGoesIntoAnHtml5Page) {
   FillDialog("mnuVideo", {{"txtVidSource", "film 1.mp4"}, {"txtVidPoster", "film.jpg"}});
   ExpectSaved(page,
               QByteArray(source).replace(
-                  "One", R"(One<video src="film 1.mp4" poster="film.jpg" controls=""></video>)"));
+                  "One", R"(One<video src="film 1.mp4" poster="film.jpg" controls></video>)"));
   Choose("mnuUndo");
   ExpectSaved(page, source);
 }

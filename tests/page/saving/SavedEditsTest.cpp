@@ -46,6 +46,15 @@ INSTANTIATE_TEST_SUITE_P(
             u"<html><head></head><body><p class=\"a\">one new two three</p><p>four\n</p></body>"
             u"</html>",
             "<P Class=a>one new two three<p>four\r\n"},
+        Edit{"an attribute that needs no value", "<p><TD WIDTH=3>x</TD></p>",
+             u"<html><head></head><body><p><td width=\"3\">x</td></p></body></html>",
+             u"<html><head></head><body><p><td width=\"3\" nowrap=\"\" "
+             u"alt=\"\">x</td></p></body></html>",
+             "<p><TD WIDTH=3 NOWRAP ALT=\"\">x</TD></p>"},
+        Edit{"an attribute that needs a value as an XML page has it", "<p>a<br />x</p>",
+             u"<html><head></head><body><p>a<br>x</p></body></html>",
+             u"<html><head></head><body><p hidden=\"\">a<br>x</p></body></html>",
+             "<p hidden=\"\">a<br />x</p>"},
         Edit{"a word between references", "<p>caf&eacute; &#233;t&eacute; &copy</p>",
              u"<html><head></head><body><p>caf\u00e9 \u00e9t\u00e9 \u00a9</p></body></html>",
              u"<html><head></head><body><p>caf\u00e9 \u00e9t\u00e9s \u00a9</p></body></html>",
