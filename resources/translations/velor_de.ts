@@ -4151,6 +4151,10 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>Shortcuts... (&amp;D)</source>
         <translation>Tastenkürzel...</translation>
     </message>
+    <message>
+        <source>Templates (&amp;T)</source>
+        <translation>&amp;Vorlagen</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

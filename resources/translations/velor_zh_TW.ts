@@ -4135,6 +4135,10 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>Shortcuts... (&amp;D)</source>
         <translation>快速鍵...(&amp;D)</translation>
     </message>
+    <message>
+        <source>Templates (&amp;T)</source>
+        <translation>範本(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

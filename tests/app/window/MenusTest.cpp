@@ -137,8 +137,9 @@ TEST_F(MenusTest, ToolsHoldsWhatThePublishedMenusHaveNoPlaceFor) {
   EXPECT_EQ(Tree(Find<QMenu>("mnuTools")->actions()).toStdString(),
             R"tree(mnuFindCommand "Find Command... (&F)" Ctrl+Shift+P
 mnuRecent "Recent Files (&R)"
-mnuNewFromTemplate "New from Template... (&T)"
-mnuSaveAsTemplate "Save as Template... (&M)"
+mnuTemplates "Templates (&T)"
+  mnuNewFromTemplate "New from Template... (&T)"
+  mnuSaveAsTemplate "Save as Template... (&M)"
 mnuPrint "Print... (&I)" Ctrl+P
 mnuExportPdf "Export as PDF... (&O)"
 mnu6 "-"
@@ -158,6 +159,7 @@ mnuWordAtCaret "Correct Word (&J)" Ctrl+.
 mnuSite "Site (&H)"
   mnuSiteProjects "Project Manager"
   mnuSpellingOfPages "Spelling of All Pages... (&H)"
+  mnuTakePicturesOut "Take Embedded Pictures Out into Files (&E)"
   mnuDrives "Drives... (&D)"
 mnu9 "-"
 mnuLink "Link... (&L)" Ctrl+K
@@ -170,7 +172,6 @@ mnuPasteAs "Paste As (&B)"
   mnuPasteText "Paste as Text (&X)" Ctrl+Shift+V
   mnuPasteTable "Paste as Table (&B)"
   mnuPasteMarkdown "Paste as Markdown (&M)"
-mnuTakePicturesOut "Take Embedded Pictures Out into Files (&E)"
 mnuTableMore "Table (&A)"
   mnuRowAbove "Insert Row &Above" disabled
   mnuRowBelow "Insert Row &Below" disabled
