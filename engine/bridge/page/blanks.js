@@ -129,15 +129,28 @@ export function engineDone(input) {
   for (const [text, { parentNode }] of noted.stood) {
     if (!text.isConnected) dropEmptyInline(parentNode);
   }
-  followTexts(input.inputType);
+  followTexts(input);
 }
 
 // Once a change, and before typed text is cut out of its node for another look.
-/** @param {string} inputType */
-function followTexts(inputType) {
+/** @param {{ inputType: string, data?: string | null }} input */
+function followTexts({ inputType, data }) {
   if (noted.isFollowed || !/^(insertText|insertCompositionText|delete.*)$/.test(inputType)) return;
   noted.isFollowed = true;
-  shiftStandIns(noted.texts);
+  shiftStandIns(noted.texts, (node, old) => keptEnds(node, old, data));
+}
+
+// How much of a noted text is as it was. Of characters that are alike in a row the one before the
+// caret is the one that was typed.
+/**
+ * @param {AnyNode} node
+ * @param {string} old
+ * @param {string} data
+ */
+function keptEnds(node, old, data) {
+  const { anchorNode, anchorOffset } = selection.points();
+  const most = data && node === anchorNode ? Math.max(0, anchorOffset - data.length) : Infinity;
+  return dom.commonEnds(old, node.data, most);
 }
 
 // Where text was written in a node just now, from and to. In a text that was not at the caret
@@ -152,7 +165,7 @@ function writtenIn(node, data) {
     const from = Math.max(0, anchorOffset - (data?.length ?? 0));
     return node === anchorNode ? [from, anchorOffset] : [0, 0];
   }
-  const { head, tail } = dom.commonEnds(noted.texts.get(node), node.data);
+  const { head, tail } = keptEnds(node, noted.texts.get(node), data);
   return [head, node.length - tail];
 }
 
@@ -247,7 +260,7 @@ export function watched({ inputType, data }) {
     noted = null;
     return;
   }
-  followTexts(inputType);
+  followTexts({ inputType, data });
   if (inputType === 'insertText' || inputType.startsWith('delete')) {
     if (inputType !== 'insertText') replaceUnseenBlank();
     addWritten(inputType, data);

@@ -364,10 +364,12 @@ function agreed(most, agree) {
  * How much of a text is the same at its head and, behind that, at its tail.
  * @param {string} old
  * @param {string} now
+ * @param {number} mostHead where it is known that the change does not begin behind this offset
  */
-export function commonEnds(old, now) {
+export function commonEnds(old, now, mostHead = Infinity) {
   const shorter = Math.min(old.length, now.length);
-  const head = agreed(shorter, (from, to) => old.slice(from, to) === now.slice(from, to));
+  const head = agreed(Math.min(shorter, mostHead),
+    (from, to) => old.slice(from, to) === now.slice(from, to));
   /**
    * @param {AnyNode} text
    * @param {number} from

@@ -53,16 +53,19 @@ export const addTyped = ({ node, index }) =>
 export const addLeft = ({ node, index }, was = ' ', across = null) =>
   add({ node, index, typed: false, was, across });
 
+/** @type {(node: Text, old: string) => { head: number, tail: number }} */
+const commonEnds = (node, old) => dom.commonEnds(old, node.data);
 /**
  * Stand-ins move along with what was written or deleted before them; those that were deleted go.
  * @param {Map<Text, string>} texts what the changed texts were before
+ * @param {typeof commonEnds} keptEnds how much of such a text is as it was
  */
-export function shiftStandIns(texts) {
+export function shiftStandIns(texts, keptEnds = commonEnds) {
   standIns = standIns.flatMap((standIn) => {
     const { node, index } = standIn;
     const old = texts.get(node);
     if (old === undefined || old === node.data) return [standIn];
-    const { head, tail } = dom.commonEnds(old, node.data);
+    const { head, tail } = keptEnds(node, old);
     if (index < head) return [standIn];
     const moved = { ...standIn, index: index + node.length - old.length };
     return moved.index >= node.length - tail ? [moved] : [];
