@@ -75,14 +75,26 @@ const textAnchorsOf = (saved) => (saved ? [saved.anchor, saved.focus].filter(isI
  * @param {SavedSelection} [saved] its anchors move along
  */
 export function breakLines(element, saved) {
+  // What is shown behind a text, in the element; null where nothing is.
   /** @param {Text} text */
-  const goesOn = (text) => {
-    if (text.length) return true;
+  const shownBehind = (text) => {
     let at = dom.nextSkippingChildren(text);
     while (at && element.contains(at) && !(dom.isText(at) ? at.length : dom.hasContent(at))) {
       at = dom.nextSkippingChildren(at);
     }
-    return Boolean(at) && element.contains(at);
+    return element.contains(at) ? at : null;
+  };
+  /** @param {Text} text */
+  const dropEmpty = (text) => {
+    if (text.length) return;
+    const next = shownBehind(text);
+    text.remove();
+    if (!saved) return;
+    for (const end of /** @type {const} */ (['anchor', 'focus'])) {
+      const anchor = saved[end];
+      if (!isInText(anchor) || anchor.node !== text) continue;
+      saved[end] = next ? selection.startOf(next) : selection.endOf(element);
+    }
   };
   const anchors = textAnchorsOf(saved);
   for (let text of dom.textsUnder(element)) {
@@ -93,11 +105,13 @@ export function breakLines(element, saved) {
       for (const anchor of moved) {
         Object.assign(anchor, { node: rest, offset: anchor.offset - at - 1 });
       }
-      if (goesOn(rest)) text.after(dom.create('BR'));
-      if (!text.length) text.remove();
+      // The last line end shows nothing, unless its line is empty.
+      const isEmptyLine = at === 0 && beside(text, 0, 'previousSibling') === null;
+      if (rest.length || shownBehind(rest) || isEmptyLine) text.after(dom.create('BR'));
+      dropEmpty(text);
       text = rest;
     }
-    if (!text.length) text.remove();
+    dropEmpty(text);
   }
 }
 
