@@ -48,7 +48,9 @@
       else inside.selection.setCaret(from, 0);
       return;
     }
-    const all = [...document.body.querySelectorAll('*')].filter((each) => !each.closest('head'));
+    // No person's selection is among a table's columns.
+    const all = [...document.body.querySelectorAll('*')]
+      .filter((each) => !each.closest('head, colgroup'));
     const element = all.length ? oneOf(all) : document.body;
     if (kind === 3) inside.selection.selectNode(element);
     else if (kind === 4) document.getSelection().selectAllChildren(element);
@@ -63,6 +65,7 @@
   const done = new Map();
   const number = () => oneOf(velor.state().pathNumbers);
   let copied = '';
+  let ids = 1;
   // A step: its name, whether words may come or go, and what it does.
   function chosen() {
     const kind = below(12);
@@ -90,7 +93,9 @@
     }
     if (kind < 11) {
       const subject = oneOf(Object.keys(values));
-      const [element, pair] = [number(), oneOf(values[subject])];
+      const [element, [key, value]] = [number(), oneOf(values[subject])];
+      // Two elements with one id are a person's own doing.
+      const pair = [key, key === 'id' ? `n${ids++}` : value];
       return { name: `${subject} ${pair.join('=')}`, keeps: true, run() {
         velor.properties(subject, element);
         velor.setProperties(subject, Object.fromEntries([pair]), element);
