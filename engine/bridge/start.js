@@ -65,7 +65,7 @@ export function start({
   keepCaretHeight();
   listenToEdges();
   listenToCells();
-  listenToGestures();
+  listenToGestures(schedulePush);
   setDetails(showDetails);
   setSnap(snapToGrid);
   setWholeSigns(wholeSigns);

@@ -86,6 +86,31 @@ TEST_F(ObjectsOfThePage, ADragIsOneUndoStepAndChangesOnlyTheElementsStyleInTheFi
       [this] { return editor_->QueryStatus(EditingCommand::Undo) == CommandStatus::Disabled; }));
 }
 
+TEST_F(ObjectsOfThePage, WhereABoxIsAndHowLargeIsToldWhileItIsDragged) {
+  const auto isToldAt = [this](const QRect &place) {
+    return WaitFor([&] { return editor_->Document().ObjectPlace() == place; });
+  };
+  const auto move = [this](QPoint to) {
+    Send(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+  };
+  const QRect loaded(210, 120, 150, 60);
+  editor_->SetSnapToGrid(true);
+  Send(QEvent::MouseButtonPress, {250, 150}, Qt::LeftButton, Qt::LeftButton);
+  ASSERT_TRUE(isToldAt(loaded));
+  for (const auto &[to, place] : {std::pair{QPoint(283, 190), QRect(250, 150, 150, 60)},
+                                  {QPoint(330, 190), QRect(300, 150, 150, 60)}}) {
+    move(to);
+    EXPECT_TRUE(isToldAt(place)) << place.x();
+  }
+  QTest::keyClick(Input(), Qt::Key_Escape);
+  EXPECT_TRUE(isToldAt(loaded)) << "the drag was given up";
+  Send(QEvent::MouseButtonPress, {360, 180}, Qt::LeftButton, Qt::LeftButton);
+  move({380, 180});
+  move({390, 180});
+  EXPECT_TRUE(WaitFor([&] { return editor_->Document().ObjectPlace().width() == 180; }));
+  EXPECT_EQ(Saved(), PageSource);
+}
+
 TEST_F(ObjectsOfThePage, TheRightButtonSelectsAnObjectAndAsksForTheMenu) {
   Send(QEvent::MouseButtonPress, {250, 150}, Qt::RightButton, Qt::RightButton);
   Send(QEvent::MouseButtonRelease, {250, 150}, Qt::RightButton, Qt::NoButton);

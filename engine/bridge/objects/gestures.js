@@ -31,6 +31,7 @@ const stride = 16;  // pixels that the page scrolls in a frame while the pointer
 /** @type {Gesture | null} the one that goes on */
 let gesture = null;
 let taken = false;   // the press has selected an object: the click behind it does nothing
+let tellShown = () => {};  // is called when an object is shown elsewhere, or in another size
 
 /** @param {number} pixels */
 const toGrid = (pixels) => Math.round(pixels / gridStep) * gridStep;
@@ -134,6 +135,7 @@ function show({ object, before, change }) {
   const moves = gesture.grip === 'move';
   setDragging({ grid: moves && snaps() ? measures : null, size: moves ? null : measures,
     guides: guidesInSight(object, gesture.lines, gesture.scroll) });
+  tellShown();
 }
 
 // The position of a mouse event, counted from where the elements around the object begin: scrolling
@@ -188,6 +190,7 @@ function end() {
   gesture = null;
   ended.preview?.cancel();
   setDragging(null);
+  tellShown();
   return ended;
 }
 const cancel = () => { if (gesture) end(); };
@@ -392,9 +395,13 @@ function arrow(event) {
   }
 }
 
-/** Begins to listen on a document that was loaded. */
-export const listenToGestures = () => {
+/**
+ * Begins to listen on a document that was loaded.
+ * @param {() => void} whenShown is called when a drag shows an object elsewhere, or in another size
+ */
+export const listenToGestures = (whenShown) => {
   gesture = null;
+  tellShown = whenShown;
   /**
    * @param {string} name
    * @param {EventListener} handler
