@@ -2,11 +2,14 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMap>
 #include <QMenu>
+#include <QRadioButton>
+#include <QSet>
 #include <QTabBar>
 #include <QTest>
 
@@ -44,6 +47,35 @@ inline QString WalkBothWays(QWidget &start) {
   std::reverse(back.begin() + 1, back.end());
   EXPECT_EQ(back.join(u' ').toStdString(), met.join(u' ').toStdString()) << "by Shift+Tab";
   return met.join(u' ');
+}
+
+/// What no assistive technology could name or Tab does not meet, of the usable controls in sight of
+/// the window or bar that has the keyboard; empty where all is well.
+inline QString OutOfReach(const QWidget &window) {
+  QSet<const QWidget *> met;
+  QWidget *start = QApplication::focusWidget();
+  if (start == nullptr) return QStringLiteral("no keyboard");
+  WalkByKey(Qt::Key_Tab, *start, [&](const QWidget &now) {
+    met.insert(&now);
+    return !window.isAncestorOf(&now);
+  });
+  met.insert(start);
+  QStringList missed;
+  for (QWidget *control : window.findChildren<QWidget *>()) {
+    const auto *radio = qobject_cast<const QRadioButton *>(control);
+    const bool isStop = (control->focusPolicy() & Qt::TabFocus) != 0 &&
+                        control->focusProxy() == nullptr &&
+                        (radio == nullptr || radio->isChecked());
+    if (!isStop || control->window() != window.window() || !control->isVisible() ||
+        !control->isEnabled())
+      continue;
+    const QString name =
+        QLatin1String(control->metaObject()->className()) + u' ' + NameOf(*control);
+    if (!met.contains(control)) missed.append(name + QStringLiteral(" is not met"));
+    if (QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name).isEmpty())
+      missed.append(name + QStringLiteral(" has no name"));
+  }
+  return missed.join(u"; ");
 }
 
 /// The Alt keys that more than one usable control in sight has, with the captions of those; empty

@@ -1,18 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every window is usable without a mouse: walks by Tab and arrows, compared with the tables.
+#include "app/help/ManualWindow.h"
 #include "app/window/GeneralToolbar.h"
 #include "app/window/MenuTable.h"
+#include "chrome/NoticeBar.h"
 #include "editor/EditCommands.h"
+#include "editor/FindBar.h"
 #include "editor/PageSlots.h"
+#include "editor/VersionCompare.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
+#include "properties/frmProperties.h"
 #include "tests/app/window/DialogItems.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeDialogs.h"
 #include "tests/support/KeyboardWalk.h"
 
 #include <QMenu>
+#include <QPushButton>
 #include <QTabWidget>
+
+#include <algorithm>
 
 namespace velor {
 namespace {
@@ -190,6 +198,77 @@ TEST_F(KeyboardTest, TabMeetsEveryControlOfEveryDialog) {
       dialog.close();
     });
     Choose(walk.item);
+  }
+}
+
+/// Whatever the tabs of the window show.
+void ExpectAllWithinReach(QWidget &shown, const std::string &what) {
+  shown.show();
+  shown.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&shown)) << what;
+  EXPECT_EQ(OutOfReach(shown).toStdString(), "") << what;
+  for (QTabWidget *book : shown.findChildren<QTabWidget *>()) {
+    for (int index = 0; index < book->count(); ++index) {
+      if (!book->isTabEnabled(index)) continue;
+      book->setCurrentIndex(index);
+      book->tabBar()->setFocus();
+      EXPECT_EQ(OutOfReach(shown).toStdString(), "")
+          << what << ", " << book->tabText(index).toStdString();
+    }
+  }
+}
+
+TEST_F(KeyboardTest, EveryUsableControlOfEveryWindowIsMetByTabAndHasAName) {
+  values.DbConnection = database.CreateConnection();
+  values.DbConnection->Open({}, {}, {}, -1);
+  database.results[QStringLiteral("Select * from Project where Created = true")] = {};
+  NewPage();
+  for (const char *item : DialogItems) {
+    dialogs.ExpectModal([item](QWidget &dialog) {
+      ExpectAllWithinReach(dialog, item);
+      dialog.close();
+    });
+    Choose(item);
+  }
+  using enum PropertySubject;
+  for (const PropertySubject subject : {Page, Image, Table, Cell, Link, Fonts, Element}) {
+    const PropertySheet &sheet = SheetOf(subject);
+    PropertyValues empty;
+    for (const PropertyField &field : sheet.fields) empty[QLatin1String(field.name)] = QString();
+    frmProperties dialog(sheet, empty, nullptr);
+    ExpectAllWithinReach(dialog, sheet.title);
+  }
+  VersionCompare compare(QStringLiteral("a.htm"), QStringLiteral("mine"), QStringLiteral("theirs"),
+                         nullptr);
+  ExpectAllWithinReach(compare, "compare");
+  const Manual manual(ManualFolder(QCoreApplication::applicationDirPath()));
+  ManualWindow help(manual);
+  ExpectAllWithinReach(help, "manual");
+}
+
+TEST_F(KeyboardTest, EveryUsableControlOfEveryBarUnderAPageIsMetByTabAndHasAName) {
+  frmMain &page = NewPage();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QList<QWidget *> bars{page.findChild<FindBar *>()};
+  for (NoticeBar *bar : window.findChildren<NoticeBar *>()) bars.append(bar);
+  ASSERT_GE(bars.size(), 6);
+  for (QWidget *bar : bars) {
+    const std::string name = bar->objectName().toStdString();
+    SCOPED_TRACE(name);
+    bar->show();
+    const QList<QPushButton *> buttons = bar->findChildren<QPushButton *>();
+    const auto first = std::find_if(buttons.begin(), buttons.end(), [](const QPushButton *each) {
+      return each->isVisible() && each->isEnabled();
+    });
+    ASSERT_NE(first, buttons.end()) << name;
+    // Back to the first control of the bar.
+    (*first)->setFocus();
+    while (bar->isAncestorOf(QApplication::focusWidget()))
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    ASSERT_TRUE(bar->isAncestorOf(QApplication::focusWidget())) << name;
+    EXPECT_EQ(OutOfReach(*bar).toStdString(), "") << name;
+    bar->hide();
   }
 }
 
