@@ -143,6 +143,11 @@ void PageWidths::Follow() {
   ReadFacts();
 }
 
+void PageWidths::PageShown(const ShownPage &shown) {
+  shown_ = shown;
+  ReadFacts();
+}
+
 void PageWidths::DocumentChanged() {
   // The properties window takes what it changes for one step as long as nobody else asks for them.
   if (bar_->isHidden() || Page() == nullptr || QApplication::activeModalWidget() != nullptr) return;
@@ -157,7 +162,12 @@ void PageWidths::ReadFacts() {
   WidthFacts facts;
   if (frmMain *page = Page())
     facts = FactsFrom(page->DHTML1().Document().Properties({PropertySubject::Page}));
-  if (!alive.isNull()) bar_->ShowFacts(facts);
+  if (alive.isNull()) return;
+  if (shown_) {
+    facts.breakpoints = shown_->breakpoints;
+    facts.lacksViewport &= shown_->isGiven;
+  }
+  bar_->ShowFacts(facts);
 }
 
 void PageWidths::AddViewport() {

@@ -3,6 +3,7 @@
 
 #include "editor/EditorContext.h"
 #include "editor/WidthsBar.h"
+#include "platform/Browser.h"
 
 #include <QObject>
 #include <QString>
@@ -41,6 +42,8 @@ class PageWidths final : public QObject {
   void Follow();
   /// To be called when the window shows the page in another view: sources have no width.
   void ShowBar();
+  /// To be called when a browser shows that page, the one of this window or another.
+  void PageShown(const ShownPage &shown);
   /// To be called when the page's text has changed.
   void DocumentChanged();
 
@@ -65,8 +68,9 @@ class PageWidths final : public QObject {
   WidthsBar *bar_;
   std::function<void(Browser::Device)> showAs_;
   Browser::Device device_ = Browser::Device::Desktop;
-  QString site_;  ///< whose width is shown
-  QString head_;  ///< of the page, as it was when the facts were read
+  QString site_;                    ///< whose width is shown
+  std::optional<ShownPage> shown_;  ///< by the browser; none of a page that is edited
+  QString head_;                    ///< of the page, as it was when the facts were read
 };
 
 }  // namespace velor

@@ -16,6 +16,7 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 
 #include <array>
@@ -220,6 +221,11 @@ void frmBrowser::StatusTextChanged(const QString &text) {
 
 void frmBrowser::PartsShown(const QStringList &paths) {
   if (parts_) parts_->SetFiles(paths);
+}
+
+void frmBrowser::PageShown(const ShownPage &shown) {
+  // Waits for the edited page, which cannot answer inside a notice of the engine.
+  QTimer::singleShot(0, widths_, [this, shown] { widths_->PageShown(shown); });
 }
 
 void frmBrowser::ProgressChanged(int progress, int maximum) {

@@ -87,6 +87,7 @@ class frmBrowser : public QWidget,
   void StatusTextChanged(const QString &text) override;
   void ProgressChanged(int progress, int maximum) override;
   void PartsShown(const QStringList &paths) override;
+  void PageShown(const ShownPage &shown) override;
 
   void BuildToolBar();
   void BuildStatusBar();

@@ -29,6 +29,11 @@ QString BridgeScript() {
                            Resource(QStringLiteral(":/bridge/bridge.js")) + "\n;\n");
 }
 
+QString ShownPageScript() {
+  InitialiseBridgeResources();
+  return QString::fromUtf8(Resource(QStringLiteral(":/bridge/shown.js")) + "\n;\n");
+}
+
 QString ScriptValue(const QVariant &value) {
   // JSON is a subset of the script language; the array's brackets come off again.
   const QJsonArray array{QJsonValue::fromVariant(value)};

@@ -15,6 +15,9 @@ inline constexpr QWebEngineScript::ScriptWorldId BridgeWorld = QWebEngineScript:
 /// that out after a page's process has ended.
 QString BridgeScript();
 
+/// The part of the bridge that a page in the preview is given, in the same world.
+QString ShownPageScript();
+
 /// A JavaScript literal for a value: a text, Boolean, number, list or map.
 QString ScriptValue(const QVariant &value);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -10,6 +11,14 @@ class QWidget;
 namespace velor {
 
 class PagePrinting;
+
+/// What a browser tells of a page that it has loaded.
+struct ShownPage {
+  /// The browser was told to show it; false for a page that a link or a script led to.
+  bool isGiven = true;
+  /// The widths at which its style sheets change, in CSS pixels, the smallest first.
+  QList<int> breakpoints;
+};
 
 /// Receives what a browser reports.
 class BrowserListener {
@@ -21,6 +30,8 @@ class BrowserListener {
   /// The page shows these files of its site beside its own, style sheets and pictures, paths in
   /// logic form; told whenever there is another.
   virtual void PartsShown(const QStringList &) {}
+  /// A page has been loaded.
+  virtual void PageShown(const ShownPage &) {}
   /// Progress of a load as two 32-bit numbers; it is complete when both are equal.
   virtual void ProgressChanged(int progress, int maximum) = 0;
 };

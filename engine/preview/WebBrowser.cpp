@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/preview/WebBrowser.h"
 
+#include "engine/BridgeScript.h"
 #include "engine/FileDrops.h"
 #include "engine/PdfPrint.h"
 #include "engine/preview/BrowserPage.h"
@@ -181,14 +182,19 @@ void WebBrowser::SetSite(const QString &folder) {
 }
 
 void WebBrowser::Navigate(const QUrl &url) {
-  if (!url.isLocalFile()) return page_->load(url);
+  if (!url.isLocalFile()) return Load(url);
   QUrl address = scheme_.AddressOf(url.toLocalFile(), site_);
   address.setFragment(url.fragment(QUrl::FullyEncoded), QUrl::StrictMode);
-  page_->load(address);
+  Load(address);
 }
 
 void WebBrowser::NavigateToText(const QString &html, const QUrl &baseUrl) {
-  page_->load(scheme_.Offer(baseUrl.toLocalFile(), site_, html));
+  Load(scheme_.Offer(baseUrl.toLocalFile(), site_, html));
+}
+
+void WebBrowser::Load(const QUrl &address) {
+  given_ = address.adjusted(QUrl::RemoveFragment);
+  page_->load(address);
 }
 
 void WebBrowser::GoBack() {
@@ -268,11 +274,24 @@ void WebBrowser::LoadingChanged(const QWebEngineLoadingInfo &loading) {
     case QWebEngineLoadingInfo::LoadSucceededStatus:
       ShowLoadState(tr("Done"));
       if (!refused_.isEmpty()) ReportRefused();
+      TellShown();
       break;
     case QWebEngineLoadingInfo::LoadFailedStatus:
       ShowLoadState(tr("%1 could not be opened").arg(Named(loading.url())));
       break;
   }
+}
+
+void WebBrowser::TellShown() {
+  const bool isGiven = page_->url().adjusted(QUrl::RemoveFragment) == given_;
+  const auto tell = [alive = QPointer(this), isGiven](const QVariant &widths) {
+    if (alive.isNull() || alive->listener_ == nullptr) return;
+    ShownPage shown{isGiven, {}};
+    for (const QVariant &width : widths.toList()) shown.breakpoints << width.toInt();
+    alive->listener_->PageShown(shown);
+  };
+  page_->runJavaScript(ShownPageScript() + QStringLiteral("velor.breakpoints()"), BridgeWorld,
+                       tell);
 }
 
 void WebBrowser::ReportRefused() {

@@ -59,6 +59,9 @@ class WebBrowser final : public QObject, public Browser, private PagePrinting {
   void ShowLoadState(const QString &state);
   /// Shows a text in the status bar, over the state of the load.
   void ShowInStatusBar(const QString &text);
+  void Load(const QUrl &address);
+  /// Tells what page was loaded.
+  void TellShown();
   /// Tells which parts of the page were not shown.
   void ReportRefused();
   /// Opens an address in the program that the desktop has for it (mailto: and the like).
@@ -71,6 +74,7 @@ class WebBrowser final : public QObject, public Browser, private PagePrinting {
   std::unique_ptr<PhoneEmulation> phone_;  ///< null for a desktop
   BrowserListener *listener_ = nullptr;
   double zoom_ = 1;
+  QUrl given_;               ///< the page that was navigated to last, without a fragment
   QString site_;             ///< native folder; empty for the folder of each page
   QString state_;            ///< of the last load, in words
   bool isOpening_ = false;   ///< `state_` says that a page is being opened

@@ -114,7 +114,7 @@ TEST(BridgeImports, AnUpwardImportAndACircleAreObjectedTo) {
 TEST(BridgeImports, EveryModuleIsInTheBundle) {
   const Imports imports = AllImports();
   Names reached;
-  std::vector<std::string> left = {"api.js"};
+  std::vector<std::string> left = {"api.js", "shown.js"};
   while (!left.empty()) {
     const std::string module = left.back();
     left.pop_back();

@@ -168,6 +168,36 @@ TEST_F(RealWidths, ThePreviewHasTheWidthOfItsPage) {
   EXPECT_EQ(Bytes(QStringLiteral("page.htm")), Page);
 }
 
+TEST_F(RealWidths, ThePreviewsRulerIsThatOfThePageThatALinkLedTo) {
+  Write(QStringLiteral("other.htm"),
+        "<!DOCTYPE html><style>@media (min-width: 700px) { p { margin: 0 } }</style><p>two</p>");
+  Write(QStringLiteral("page.htm"),
+        QByteArray(Page).replace(">one<", "><A HREF=other.htm>one two three</A><"));
+  Write(QStringLiteral("wide.css"), Sheet);
+  frmMain &page = Open(QStringLiteral("page.htm"));
+  Choose("mnuWidths");
+  page.ChangeMode(4);
+  frmBrowser &preview = *window.Context().preview;
+  const auto hasRuler = [&](const char *widths) {
+    return In<QWidget>(preview, "picRuler").accessibleName().endsWith(QLatin1String(widths));
+  };
+  const auto &add = In<QPushButton>(preview, "cmdAddViewport");
+  EXPECT_TRUE(WaitFor([&] { return hasRuler(": 600, 601, 768, 900, 1023"); }));
+  EXPECT_TRUE(add.isVisible());
+  // By a key: what a script leads away from is not gone back to.
+  const QString link = QStringLiteral("document.querySelector('a')");
+  ASSERT_TRUE(WaitFor([&] {
+    return Evaluate(EngineOf(preview), link + QStringLiteral("?.matches(':any-link')")).toBool();
+  }));
+  Evaluate(EngineOf(preview), link + QStringLiteral(".focus()"));
+  QTest::keyClick(preview.focusProxy()->focusProxy(), Qt::Key_Return);
+  EXPECT_TRUE(WaitFor([&] { return hasRuler(": 700"); }));
+  EXPECT_FALSE(add.isVisible()) << "it would be put into another page";
+  window.Context().preview->ButtonClicked(QStringLiteral("Back"));
+  EXPECT_TRUE(WaitFor([&] { return hasRuler(": 600, 601, 768, 900, 1023"); }));
+  EXPECT_TRUE(add.isVisible());
+}
+
 TEST_F(RealWidths, APreviewAsAPhoneHasAPhonesScreenTouchAndNameAndTheEditedPageHasNot) {
   Write(
       QStringLiteral("phone.htm"),
