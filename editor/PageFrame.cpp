@@ -144,6 +144,10 @@ bool PageFrame::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void PageFrame::DragGrip(QEvent &event) {
+  if (event.type() == QEvent::MouseButtonRelease) {
+    if (ShownWidth() != widthBefore_) Q_EMIT Dropped();
+    return;
+  }
   if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseMove) return;
   const auto &mouse = static_cast<QMouseEvent &>(event);
   if (!mouse.buttons().testFlag(Qt::LeftButton)) return;

@@ -54,8 +54,10 @@ class PageFrame final : public QScrollArea {
   QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
-  /// A person has dragged the page to that width.
+  /// A person is dragging the page to that width.
   void Dragged(int width);
+  /// The drag has ended, and the page has another width than before it.
+  void Dropped();
   /// The page's width or place in the frame may be another one.
   void Placed();
 

@@ -67,7 +67,8 @@ PageWidths::PageWidths(EditorContext &context, QWidget &window, QWidget &view,
       frame_(new PageFrame(view, std::move(applyZoom), &window)),
       bar_(new WidthsBar(*frame_, &window)),
       showAs_(std::move(showAs)) {
-  connect(frame_, &PageFrame::Dragged, this, &PageWidths::Choose);
+  connect(frame_, &PageFrame::Dragged, frame_, &PageFrame::ShowAt);
+  connect(frame_, &PageFrame::Dropped, this, &PageWidths::Keep);
   connect(bar_, &WidthsBar::WidthChosen, this, &PageWidths::Choose);
   connect(bar_, &WidthsBar::CloseWanted, this, [this] { Choose(std::nullopt); });
   connect(bar_, &WidthsBar::DeviceChosen, this, &PageWidths::ChooseDevice);
