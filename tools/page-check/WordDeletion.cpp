@@ -18,6 +18,7 @@ struct Change {
   QString before;  ///< what stands before the stretch
   QString gone;
   QString come;
+  QString on;  ///< the saved text from there on
 };
 
 /// The one stretch in which two texts differ, in whole tokens of the first.
@@ -34,7 +35,8 @@ Change ChangeOf(const QString &file, const QString &saved) {
     if (token.offset < end && token.End() > end) back = file.size() - token.End();
   }
   return {file.left(front), file.sliced(front, file.size() - back - front),
-          saved.sliced(front, std::max<qsizetype>(0, saved.size() - back - front))};
+          saved.sliced(front, std::max<qsizetype>(0, saved.size() - back - front)),
+          saved.sliced(front)};
 }
 
 bool IsBlank(const HtmlToken &token) {
@@ -90,6 +92,19 @@ std::vector<HtmlToken> TokensLess(const QString &text, const std::vector<HtmlTok
   return rest;
 }
 
+/// True where the end tag of an element that went closes an earlier one of its name now: the first
+/// A of `<a><a>word</a>`, which has no other.
+bool LeavesItsEndTag(const Change &change, std::uint32_t name) {
+  qsizetype opened = 0;
+  for (const HtmlToken &token : TokenizeHtml(change.before)) {
+    if (token.name == name) opened += token.kind == HtmlTokenKind::StartTag ? 1 : -1;
+  }
+  const std::vector<HtmlToken> rest = TokenizeHtml(change.on);
+  const auto next = std::find_if_not(rest.begin(), rest.end(), IsBlank);
+  return opened > 0 && next != rest.end() && next->name == name &&
+         next->kind == HtmlTokenKind::EndTag;
+}
+
 qsizetype BlanksIn(const QString &text) {
   qsizetype units = 0;
   for (const HtmlToken &token : TokenizeHtml(text)) units += IsBlank(token) ? token.length : 0;
@@ -127,8 +142,13 @@ WordDeletion JudgeWordDeletion(const QByteArray &file, const QByteArray &saved,
       result.beyond += token.length;
     }
   }
-  for (const QList<qsizetype> &lengths : open)
-    result.beyond += std::accumulate(lengths.begin(), lengths.end(), qsizetype{0});
+  for (auto each = open.constBegin(); each != open.constEnd(); ++each) {
+    const QList<qsizetype> &lengths = each.value();
+    if (lengths.size() == 1 && LeavesItsEndTag(change, each.key()))
+      result.with << QStringLiteral("element");
+    else
+      result.beyond += std::accumulate(lengths.begin(), lengths.end(), qsizetype{0});
+  }
   for (const HtmlToken &token : wanted) result.beyond += token.length;
 
   const qsizetype blanks = BlanksIn(change.gone) - BlanksIn(change.come);
