@@ -7,7 +7,7 @@ import { cellsSelected, chosenIn, rectangleChosen, selectCells } from '../tables
 import { fillCells } from '../tables/filling.js';
 import { gridOf } from '../tables/grid.js';
 import { takeWidth } from '../tables/making.js';
-import { dropTakenIds, linesOf } from './paste.js';
+import { linesOf } from './paste.js';
 
 /**
  * @typedef {import('../tables/grid.js').Grid} Grid
@@ -101,7 +101,6 @@ export function fillingOf(fragment, range, isCells) {
   const source = found ? gridOf(table) : null;
   if (!source?.places.length) return null;
   return () => {
-    dropTakenIds(fragment);
     const [first, last] = fillCells(found.grid, found.rectangle, source);
     selectCells(first, last);
   };

@@ -261,14 +261,6 @@ function putInline(fragment, node, offset) {
 /** @param {ParentNode} fragment */
 const holdsBlock = (fragment) => [...fragment.querySelectorAll('*')].some(dom.isBlock);
 
-// Drops ids that the page has: none may be in it twice.
-/** @param {DocumentFragment} fragment */
-export function dropTakenIds(fragment) {
-  for (const element of fragment.querySelectorAll('[id]')) {
-    if (document.getElementById(element.id)) element.removeAttribute('id');
-  }
-}
-
 // Deletes what the fragment replaces, and the ids in the fragment that the page still has then.
 /**
  * @param {Range} range
@@ -279,7 +271,7 @@ function makeRoom(range, fragment) {
   const gone = object && fragment.firstChild && objects.replaceByLine(object);
   if (!gone && !range.collapsed && !fragment.firstChild) deleteToLine(range);
   else if (!gone && !range.collapsed) deleteToPoint(range);
-  dropTakenIds(fragment);
+  dom.dropTakenIds(fragment);
 }
 
 /**

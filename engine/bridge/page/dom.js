@@ -379,3 +379,13 @@ export function commonEnds(old, now, mostHead = Infinity) {
   const tail = agreed(shorter - head, (from, to) => end(old, from, to) === end(now, from, to));
   return { head, tail };
 }
+
+/**
+ * Drops ids that the page has: none may be in it twice.
+ * @param {DocumentFragment} fragment
+ */
+export function dropTakenIds(fragment) {
+  for (const element of fragment.querySelectorAll('[id]')) {
+    if (document.getElementById(element.id)) element.removeAttribute('id');
+  }
+}

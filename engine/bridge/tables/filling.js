@@ -53,12 +53,19 @@ function fillHoles(table, { top, bottom, right }) {
 }
 
 /**
+ * Puts a copy of a cell's content into an empty one.
  * @param {Element} cell
  * @param {Element} from
  */
 function takeContent(cell, from) {
-  if (isEmpty(from)) cell.replaceChildren(dom.create('BR'));
-  else cell.replaceChildren(...[...from.childNodes].map((node) => node.cloneNode(true)));
+  if (isEmpty(from)) {
+    cell.append(dom.create('BR'));
+    return;
+  }
+  const copy = document.createDocumentFragment();
+  copy.append(...[...from.childNodes].map((node) => node.cloneNode(true)));
+  dom.dropTakenIds(copy);
+  cell.append(copy);
 }
 
 /**
@@ -73,6 +80,7 @@ export function fillCells(grid, rectangle, source) {
   const { table } = grid;
   if (source.places.length === 1) {
     const cells = placesIn(grid, rectangle).map(({ cell }) => cell);
+    for (const cell of cells) cell.replaceChildren();
     for (const cell of cells) takeContent(cell, source.places[0].cell);
     return [cells[0], cells.at(-1)];
   }
@@ -84,6 +92,10 @@ export function fillCells(grid, rectangle, source) {
     if (height * width > 1) splitCell(gridOf(table), cell);
   }
   const now = gridOf(table);
+  // What goes has its ids no more.
+  for (const { row, column } of source.places) {
+    now.slots[top + row][left + column].cell.replaceChildren();
+  }
   for (const place of source.places) putIn(now, place, top + place.row, left + place.column);
   const ends = [now.slots[top][left].cell, lastIn(now, area)];
   // A row in which no cell begins any more shows nothing.
