@@ -163,7 +163,7 @@ let deleted = null;
 
 /**
  * Notes what the engine is about to delete.
- * @param {StaticRange | undefined} target
+ * @param {StaticRange | PlainRange | null | undefined} target
  */
 export function noteDeletion(target) {
   deleted = null;
@@ -188,16 +188,19 @@ export function keepLooksOfDeleted() {
 }
 
 /**
- * Deletes what is selected, and has Enter done by `split`; the formats of the first deleted text
- * wait in the new line for what is typed there.
+ * Deletes what is selected, and has Enter done by `split`; the formats of the first deleted text,
+ * else of the one before the caret, wait in the new line for what is typed there.
  * @param {Range} range the selected one
  * @param {() => void} split
  */
 export function splitKeepingLooks(range, split) {
-  const text = firstText(range);
+  const { collapsed, startContainer, startOffset } = range;
+  const text = collapsed
+    ? beside(startContainer, startOffset, 'previousSibling')?.node : firstText(range);
   const looks = text ? looksOf(text) : [];
-  deleteToPoint(range);
+  if (!collapsed) deleteToPoint(range);
   split();
+  pending.clear();
   if (selection.range()) waitAtCaret(looks);
 }
 

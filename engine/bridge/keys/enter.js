@@ -2,6 +2,7 @@
 // @ts-check
 // Enter. The engine splits paragraphs and items; what it would do badly is done here, and what it
 // leaves behind is put in order.
+import { leafBeside } from '../blocks/caretDeletion.js';
 import { deleteToLine } from '../blocks/deletion.js';
 import { spansUnits } from '../blocks/extent.js';
 import { itemOf } from '../blocks/items.js';
@@ -116,14 +117,21 @@ function splitBlock(block) {
   selection.setCaret(...selection.pointOf(selection.startOf(below)));
 }
 
+// True for a paragraph that is all of an item.
+/**
+ * @param {Element} item
+ * @param {Unit} unit
+ */
+const isAllOf = (item, { block }) =>
+  Boolean(block) && [...item.childNodes].filter(dom.isShown).every((node) => node === block);
+
 // In an item: an empty one is left. With other blocks in the item the engine would put the new one
 // among those, or drop the source's lines before a list.
 /** @param {Unit} unit */
 function enterInItem(unit) {
   const item = itemOf(unit);
   if (!item) return null;
-  const isAlone = unit.block && [...item.childNodes].filter(dom.isShown).length === 1;
-  const isEmpty = dom.isHollow(item) || (isAlone && dom.isHollow(unit.block));
+  const isEmpty = dom.isHollow(item) || (isAllOf(item, unit) && dom.isHollow(unit.block));
   if (isEmpty) return () => lists.outdentItemOf(unit);
   const others = [...item.children].filter((child) => child !== unit.block && dom.isBlock(child));
   const goesOn = unit.block
@@ -170,10 +178,31 @@ function characterOn(side, node, offset) {
 const isBeforeIsland = ({ startContainer, startOffset }) =>
   dom.isIsland(beside(startContainer, startOffset, 'nextSibling')?.object) &&
   beside(startContainer, startOffset, 'previousSibling') !== null;
+// Before a break within a formatted line it would do the same, and take what follows to pieces.
+// Answers the last character before such a break.
+/** @param {PlainRange} caret */
+function endOfFormattedLine({ startContainer, startOffset }) {
+  const isInText = dom.isText(startContainer);
+  if (isInText && startContainer.data.slice(startOffset).trim()) return null;
+  const before = isInText ? startContainer : startContainer.childNodes[startOffset - 1];
+  const next = before ? leafBeside(before, 'nextSibling') : dom.firstLeaf(startContainer);
+  const last = characterOn('previousSibling', startContainer, startOffset);
+  const block = dom.blockOf(startContainer);
+  const isInLine = last?.node && dom.isBreak(next) && block.contains(next) &&
+    dom.lastLeaf(block) !== next;
+  const isFormatted = isInLine && (last.node.parentNode !== block || next.parentNode !== block);
+  return isFormatted ? last : null;
+}
+/** @param {Neighbour} last */
+function splitBehind({ node, index }) {
+  selection.setCaret(node, index + 1);
+  splitHere();
+}
 function splitHere() {
   typing.prepareCaret({ inputType: 'insertParagraph' });
   const [unit] = unitsIn(selection.range());
-  splitBlock(unit.block ?? unit.container);
+  const item = itemOf(unit);
+  splitBlock(item && isAllOf(item, unit) ? item : unit.block ?? unit.container);
 }
 
 /** @param {Range} range */
@@ -187,8 +216,11 @@ function enterInLine(range) {
   if (unit.block?.tagName === 'ADDRESS' && !dom.isHollow(unit.block)) {
     return () => breakAddress(unit.block);
   }
-  const isOwn = isBesideComment(range) || isBeforeIsland(range);
-  return enterInItem(unit) ?? (isOwn ? splitHere : null);
+  const own = enterInItem(unit);
+  if (own) return own;
+  if (isBesideComment(range) || isBeforeIsland(range)) return splitHere;
+  const last = endOfFormattedLine(range);
+  return last && (() => typing.splitKeepingLooks(range, () => splitBehind(last)));
 }
 
 /** What Shift+Enter does here where the engine would do it badly, else null. */
