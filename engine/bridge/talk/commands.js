@@ -7,7 +7,9 @@ import { deletionAtCaret } from '../blocks/caretDeletion.js';
 import * as indent from '../blocks/indent.js';
 import { listTagOf } from '../blocks/items.js';
 import * as lists from '../blocks/lists.js';
-import { deleteKeepingLooks, deleteSelected } from '../blocks/typing.js';
+import {
+  deleteKeepingLooks, deleteSelected, keepLooksOfDeleted, noteDeletion,
+} from '../blocks/typing.js';
 import * as align from '../formats/align.js';
 import { formats } from '../formats/formats.js';
 import * as inline from '../formats/inline.js';
@@ -256,10 +258,13 @@ export const commands = new Map([
         return;
       }
       const input = { inputType: 'deleteContentForward' };
+      noteDeletion(target);
       blanks.watch(input.inputType, target);
       document.execCommand('forwardDelete');
       blanks.engineDone(input);
+      keepLooksOfDeleted();
       blanks.watched(input);
+      pending.moveToCaret();
     },
   }],
   [Command.GetBackColor, reading('backColor')],
