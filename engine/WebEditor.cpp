@@ -276,6 +276,7 @@ void WebEditor::ConvertTo(const QString &charset) {
                        Words::tr("The page would not be read as %1: its declaration is made by "
                                  "server code, or stands too far behind its start.")
                            .arg(charset));
+  document_.Run(QStringLiteral("velor.takeBackProperties()"));
   replacer_.ReplaceText(bytes, document_.NativePath());
 }
 

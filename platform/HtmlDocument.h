@@ -106,7 +106,10 @@ class HtmlDocument {
   /// The picture of a Control selection; without an address where it is none.
   virtual ShownPicture SelectedPicture() const { return {}; }
 
-  /// Changes the properties given; the others stay. Does nothing where the subject is not there.
+  /// Changes the properties given; the others stay. Does nothing where the subject is not there. A
+  /// page's charset converts the page: that waits for the engine, and raises RuntimeError where the
+  /// page does not answer or cannot be written or read in that charset; the other properties are
+  /// changed then.
   virtual void SetProperties(PropertyOwner, const PropertyValues & /*changed*/) {}
 
   /// The properties of the subject; empty where it is not there, or the page does not answer. Waits

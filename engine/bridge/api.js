@@ -15,7 +15,7 @@ import { showAnew } from './objects/parts.js';
 import { restorePaths } from './page/paths.js';
 import { setCaretAtPixel } from './page/selection.js';
 import { serialize } from './page/serialize.js';
-import { properties, setProperties } from './properties/properties.js';
+import { properties, setProperties, takeBackProperties } from './properties/properties.js';
 import { checkAgain, setSpelling, spelled } from './spelling/waves.js';
 import { correctWord, selectWord, spelledText } from './spelling/words.js';
 import { start } from './start.js';
@@ -50,6 +50,7 @@ globalThis.velor = {
   removePicture: unlessPasting(removePicture),
   properties,
   setProperties: unlessPasting(setProperties),
+  takeBackProperties,
   actOnPath: unlessPasting(actOnPath),
   choicesOnPath,
   setClassOnPath: unlessPasting(setClassOnPath),

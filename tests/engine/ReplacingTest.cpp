@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A document loaded in another's place is a step that undo takes back.
 #include "platform/EditingCommands.h"
-#include "platform/RuntimeError.h"
 #include "tests/engine/ComponentFixture.h"
 
 #include <QDir>
@@ -167,56 +166,6 @@ TEST_F(Replacing, AfterTakingItBackEditingGoesOnInTheOldCharset) {
   editor_->Document().Selection().CreateRange()->PasteHTML(QStringLiteral("<b>x</b>"));
   EXPECT_TRUE(Saved().contains("\xa4\xa4"));
   EXPECT_TRUE(Saved().contains("<b>x</b>"));
-}
-
-TEST_F(Replacing, AnotherCharsetConvertsDeclarationAndBytesInOneStepAndUndoBringsThemBack) {
-  const PropertyOwner owner{PropertySubject::Page};
-  const QString charset = QStringLiteral("charset");
-  const QByteArray before =
-      "<html><head>\n<META CHARSET=utf-8>\n</head><P>\xe4\xb8\xad &eacute;</P>\n";
-  LoadPage(before);
-  EXPECT_EQ(editor_->Document().Properties(owner)[charset], QStringLiteral("utf-8"));
-  for (const auto &[name, text] : {std::pair{"big5", "\xa4\xa4"},
-                                   {"shift_jis", "\x92\x86"},
-                                   {"gbk", "\xd6\xd0"},
-                                   {"iso-2022-jp", "\x1b$BCf\x1b(B"},
-                                   {"windows-1251", "&#20013;"}}) {
-    SCOPED_TRACE(name);
-    editor_->Document().SetProperties(owner, {{charset, QLatin1String(name)}});
-    QByteArray wanted = before;
-    wanted.replace("=utf-8", QByteArray("=") + name).replace("\xe4\xb8\xad", text);
-    EXPECT_EQ(Saved(), wanted);
-    EXPECT_EQ(editor_->Document().Properties(owner)[charset], QLatin1String(name));
-    Undo();
-    EXPECT_EQ(Saved(), before);
-  }
-  editor_->Document().SetProperties(owner, {{charset, QStringLiteral("utf-16be")}});
-  EXPECT_TRUE(Saved().startsWith(QByteArray("\xFE\xFF\0<", 4)));
-  EXPECT_TRUE(editor_->HasByteOrderMark());
-  Undo();
-  EXPECT_EQ(Saved(), before);
-}
-
-TEST_F(Replacing, WhatWasTypedComesAlongIntoTheOtherCharset) {
-  LoadWithCaret("<meta charset=big5>\r\n<p>\xa4\xa4</p>", QStringLiteral("p"));
-  TypeText(QStringLiteral("x"));
-  editor_->Document().SetProperties({PropertySubject::Page},
-                                    {{QStringLiteral("charset"), QStringLiteral("utf-8")},
-                                     {QStringLiteral("language"), QStringLiteral("zh")}});
-  const QByteArray saved = Saved();
-  EXPECT_TRUE(saved.contains("<meta charset=utf-8>\r\n<p>\xe4\xb8\xadx</p>"))
-      << saved.toStdString();
-  EXPECT_TRUE(saved.contains("lang=")) << saved.toStdString();
-}
-
-TEST_F(Replacing, APageWhoseScriptsNoCharsetHoldsStaysInItsOwn) {
-  const QByteArray before = "<meta charset=utf-8><script>'\xe4\xb8\xad'</script><p>a</p>";
-  LoadPage(before);
-  EXPECT_THROW(
-      editor_->Document().SetProperties(
-          {PropertySubject::Page}, {{QStringLiteral("charset"), QStringLiteral("windows-1252")}}),
-      RuntimeError);
-  EXPECT_EQ(Saved(), before);
 }
 
 TEST_F(Replacing, TheSameDocumentAgainLeavesNoStep) {

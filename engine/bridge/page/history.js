@@ -136,6 +136,19 @@ function close() {
   forgetOldest();
 }
 
+/**
+ * Makes the last step part of the one before it, where that is `earlier`.
+ * @param {Step} earlier
+ */
+export function join(earlier) {
+  finish();
+  if (undoable.at(-2) !== earlier) return;
+  const { changes, weight, after } = undoable.pop();
+  earlier.changes = [...earlier.changes, ...changes];
+  earlier.weight += weight;
+  earlier.after = after;
+}
+
 /** The step that was done last; null for none. */
 export const lastStep = () => open ?? undoable.at(-1) ?? null;
 

@@ -14,6 +14,17 @@ import { schedulePush } from '../talk/pace.js';
 // What a dialog has changed since it asked for its properties: the step, and the values.
 /** @type {{ step: Step | null, name: string, changed: Record<string, string> } | null} */
 let applied = null;
+// The last step before the page was converted since then, by another document in its place.
+/** @type {{ last: Step | null } | null} */
+let converted = null;
+
+// The step that the dialog has made; null where there is none, or another one came behind it.
+function ownStep() {
+  const last = history.lastStep();
+  const isOwn = converted ? last !== converted.last && last?.kind === 'replace'
+    : last === applied?.step;
+  return isOwn ? last : null;
+}
 
 /**
  * The properties of a subject ('page', 'image', 'table', 'cell', 'link', 'fonts', 'element') by
@@ -24,6 +35,7 @@ let applied = null;
  */
 export function properties(name, number) {
   applied = null;
+  converted = null;
   if (!dom.isEditable()) return {};
   const { find, fields } = subjectOf(name);
   const elements = find(readView(), number);
@@ -63,13 +75,24 @@ function write(name, changed, number) {
 export function setProperties(name, changed, number) {
   if (!dom.isEditable()) return;
   work(() => {
+    const own = ownStep();
     let wanted = changed;
-    if (applied?.name === name && applied.step === history.lastStep()) {
+    if (own && !converted && applied.name === name) {
       history.undo();
       wanted = { ...applied.changed, ...changed };
     }
     const isChanged = history.step('properties', () => write(name, wanted, number));
-    applied = isChanged ? { step: history.lastStep(), name, changed: wanted } : null;
+    if (own && converted) history.join(own);
+    else applied = isChanged ? { step: history.lastStep(), name, changed: wanted } : null;
   });
   schedulePush();
+}
+
+/**
+ * Takes back what a dialog has changed, for a conversion of the page that has it too: that is one
+ * step along with what the dialog changes then.
+ */
+export function takeBackProperties() {
+  if (ownStep()) work(history.undo);
+  converted = { last: history.lastStep() };
 }
