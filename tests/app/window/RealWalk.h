@@ -7,6 +7,7 @@
 #include "app/window/MenuTable.h"
 #include "app/window/PageArea.h"
 #include "app/window/PageTabs.h"
+#include "app/window/PathBar.h"
 #include "chrome/ColorPalette.h"
 #include "chrome/ColorPicker.h"
 #include "chrome/FontPicker.h"
@@ -25,6 +26,7 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QScreen>
 #include <QTest>
 
@@ -203,9 +205,59 @@ class RealWalk : private WithPerson, public RealWindow {
     EXPECT_TRUE(Pages().Page(front->PageNumber())->FilePath().endsWith(name));
   }
   void OpenADialog() {
-    constexpr const char *Items[] = {"mnuView_ProjectMan", "mnuAbout", "mnuSettings",
-                                     "mnuFindCommand", "mnuDrives"};
-    Choose(Items[Upto(5)]);
+    constexpr const char *Items[] = {"mnuView_ProjectMan", "mnuAbout",       "mnuSettings",
+                                     "mnuShortcuts",       "mnuFindCommand", "mnuDrives"};
+    Choose(Items[Upto(static_cast<int>(std::size(Items)))]);
+  }
+  /// Some item of the page's menu, its menus' too, or none.
+  void ChooseInPagesMenu() {
+    if (View() != FrontView::Design) return;
+    auto *menu = Find<QMenu>("mnuExt");
+    QTest::keyClick(InputOf(*FrontPage()), Qt::Key_Menu);
+    ASSERT_TRUE(WaitFor([&] { return menu->isVisible(); })) << "the menu key opens no menu";
+    EXPECT_TRUE(menu->screen()->availableGeometry().contains(menu->frameGeometry()))
+        << "the menu is beyond the screen";
+    for (int step = Upto(18); step > 0; --step) QTest::keyClick(menu, Qt::Key_Down);
+    const QAction *item = menu->activeAction();
+    if (item != nullptr && item->menu() != nullptr && item->isEnabled()) {
+      QMenu *inner = item->menu();
+      QTest::keyClick(menu, Qt::Key_Right);
+      for (int step = Upto(6); step > 0; --step) QTest::keyClick(inner, Qt::Key_Down);
+      QTest::keyClick(inner, Qt::Key_Return);
+    } else if (item != nullptr && Upto(4) != 0) {
+      QTest::keyClick(menu, Qt::Key_Return);
+    }
+    for (QMenu *each : menu->findChildren<QMenu *>()) each->close();
+    menu->close();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(WaitFor([this] { return IsActive(); }));
+    WaitForKeyboardInPage();
+  }
+  void ChooseInTableMenu() {
+    auto *menu = Find<QMenu>("mnuTableMore");
+    Q_EMIT menu->aboutToShow();
+    QAction *item = menu->actions().at(Upto(static_cast<int>(menu->actions().size())));
+    if (item->isEnabled()) item->trigger();
+  }
+  /// An element of the path in the status bar.
+  void ClickInPath() {
+    QList<QToolButton *> elements = Find<PathBar>("pathBar")->findChildren<QToolButton *>();
+    erase_if(elements, [](const QToolButton *each) { return !each->isVisible() || each->menu(); });
+    if (elements.isEmpty()) return;
+    QTest::mouseClick(elements.at(Upto(static_cast<int>(elements.size()))), Qt::LeftButton);
+  }
+  /// Looks for a letter in what is in front and leaves the bar.
+  void FindALetter() {
+    if (View() != FrontView::Design && View() != FrontView::SourceEditor) return;
+    Choose("mnuFind");
+    Press(Qt::Key_E);
+    Press(Qt::Key_Escape);
+    if (View() == FrontView::Design) WaitForKeyboardInPage();
+  }
+  /// The page as narrow as a phone's, or as it was.
+  void ChangeWidth() {
+    if (View() == FrontView::Design) Choose("mnuWidths");
+    if (View() == FrontView::Design) WaitForKeyboardInPage();
   }
   /// Out of what is in front and back.
   void LeaveByF6() {
