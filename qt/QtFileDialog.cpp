@@ -11,6 +11,8 @@
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTreeView>
@@ -74,6 +76,46 @@ QDir NearestFolder(const QFileInfo &file) {
   return QDir(folder);
 }
 
+/// QFileDialog takes quotation marks for those around several names. Here one within a name is part
+/// of it; a name in quotation marks is still the name between them.
+class OneFileDialog final : public QFileDialog {
+ public:
+  using QFileDialog::QFileDialog;
+
+  /// The file chosen; empty for none.
+  QString Chosen() const { return named_.isEmpty() ? selectedFiles().value(0) : named_; }
+
+ protected:
+  void accept() override {
+    const auto *box = findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    const QString name = box == nullptr ? QString() : box->text();
+    if (!name.contains(u'"')) return QFileDialog::accept();
+    QFileInfo file(directory(), name);
+    if (acceptMode() == AcceptOpen) {
+      if (!file.isFile()) return QFileDialog::accept();
+    } else {
+      const bool isQuoted = name.startsWith(u'"') && name.endsWith(u'"');
+      if (isQuoted || file.isDir()) return QFileDialog::accept();
+      if (file.suffix().isEmpty() && !defaultSuffix().isEmpty())
+        file.setFile(file.filePath() + u'.' + defaultSuffix());
+      if (!testOption(DontConfirmOverwrite) && file.exists() && !MayReplace(file.fileName()))
+        return;
+    }
+    named_ = file.filePath();
+    done(Accepted);
+  }
+
+ private:
+  bool MayReplace(const QString &name) {
+    const QString question = Words::tr("%1 already exists.\nDo you want to replace it?");
+    return QMessageBox::warning(this, windowTitle(), question.arg(name),
+                                QMessageBox::Yes | QMessageBox::No,
+                                QMessageBox::No) == QMessageBox::Yes;
+  }
+
+  QString named_;
+};
+
 }  // namespace
 
 QStringList NameFilters(const QString &filter) {
@@ -109,8 +151,8 @@ QString QtFileDialog::ShowSave() {
 
 QString QtFileDialog::Show(Purpose purpose) {
   const bool isSave = purpose == Purpose::Save;
-  QFileDialog dialog(QApplication::activeWindow(),
-                     isSave ? Words::tr("Save As") : Words::tr("Open"));
+  OneFileDialog dialog(QApplication::activeWindow(),
+                       isSave ? Words::tr("Save As") : Words::tr("Open"));
   dialog.setObjectName(QStringLiteral("CommonDialog1"));
   dialog.setAcceptMode(isSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   const bool mustExist = !isSave && (Flags & FileMustExist) != 0;
@@ -128,13 +170,13 @@ QString QtFileDialog::Show(Purpose purpose) {
   }
   FitFirstFolder(dialog);
 
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+  if (dialog.exec() != QDialog::Accepted || dialog.Chosen().isEmpty()) {
     if (CancelError) {
       throw RuntimeError::Of(ErrorNumber::DialogCancelled, QStringLiteral("FileDialog"));
     }
     return {};
   }
-  FileName = ToLogic(QDir::cleanPath(dialog.selectedFiles().constFirst()));
+  FileName = ToLogic(QDir::cleanPath(dialog.Chosen()));
   return FileName;
 }
 

@@ -4155,6 +4155,12 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <source>Templates (&amp;T)</source>
         <translation>&amp;Vorlagen</translation>
     </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 ist bereits vorhanden.
+Soll die Datei ersetzt werden?</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

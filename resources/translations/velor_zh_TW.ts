@@ -4139,6 +4139,12 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <source>Templates (&amp;T)</source>
         <translation>範本(&amp;T)</translation>
     </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 已經存在。
+要取代它嗎？</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

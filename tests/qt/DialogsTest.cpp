@@ -319,6 +319,26 @@ TEST_F(FileDialogs, OpenGivesTheChosenFileInLogicFormAndRemembersIt) {
   EXPECT_EQ(dialog_.FileName, Logic(QStringLiteral("page #1.htm")));
 }
 
+TEST_F(FileDialogs, QuotationMarksWithinANameArePartOfItAndThoseAroundItAreNot) {
+  const QString marked = QStringLiteral("a \"b\" c.htm");
+  MakeFile(marked);
+  MakeFile(QStringLiteral("plain.htm"));
+  const auto answered = [this](const QString &name, QString (QtFileDialog::*show)()) {
+    OnDialog<QFileDialog> person([&](QFileDialog &box) {
+      box.setDirectory(folder_.path());
+      Choose(box, name);
+      // A name that leads nowhere leaves the dialog as it is.
+      if (box.isVisible()) box.reject();
+    });
+    return (dialog_.*show)();
+  };
+  EXPECT_EQ(answered(marked, &QtFileDialog::ShowOpen), Logic(marked));
+  EXPECT_EQ(answered(QStringLiteral("\"plain.htm\""), &QtFileDialog::ShowOpen),
+            Logic(QStringLiteral("plain.htm")));
+  EXPECT_EQ(answered(QStringLiteral("say \"no\""), &QtFileDialog::ShowSave),
+            Logic(QStringLiteral("say \"no\".htm")));
+}
+
 TEST_F(FileDialogs, ACancelledShowingGivesTheEmptyNameAndKeepsTheOneItHeld) {
   dialog_.FileName = Logic(QStringLiteral("held.htm"));
   OnDialog<QFileDialog> person([](QFileDialog &box) { box.reject(); });
@@ -373,14 +393,19 @@ TEST_F(FileDialogs, SaveAddsTheFiltersSuffixToANameWithoutOne) {
 }
 
 TEST_F(FileDialogs, SaveAsksBeforeATakenNameWhenItIsToldTo) {
-  MakeFile(QStringLiteral("taken.htm"));
   dialog_.Flags = FileDialog::OverwritePrompt;
-  OnDialog<QFileDialog> person([this](QFileDialog &box) {
-    OnDialog<QMessageBox> yes(
-        [](QMessageBox &question) { question.button(QMessageBox::Yes)->click(); });
-    Choose(box, Native(QStringLiteral("taken.htm")));
-  });
-  EXPECT_EQ(dialog_.ShowSave(), Logic(QStringLiteral("taken.htm")));
+  for (const QString &name : {QStringLiteral("taken.htm"), QStringLiteral("a \"b\".htm")}) {
+    MakeFile(name);
+    OnDialog<QFileDialog> person([&](QFileDialog &box) {
+      OnDialog<QMessageBox> yes([&](QMessageBox &question) {
+        EXPECT_EQ(question.text(),
+                  name + QStringLiteral(" already exists.\nDo you want to replace it?"));
+        question.button(QMessageBox::Yes)->click();
+      });
+      Choose(box, Native(name));
+    });
+    EXPECT_EQ(dialog_.ShowSave(), Logic(name));
+  }
 }
 
 TEST_F(FileDialogs, TheFirstFoldersColumnsAreReadable) {
