@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a person does in a page by keys, mouse, menus and dialogs, with the file that comes of it.
 #include "editor/frmMain.h"
+#include "editor/modWorkFlow.h"
 #include "platform/EditingComponent.h"
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
@@ -77,6 +80,24 @@ TEST_F(RealPageEdits, AFirstWordThatIsCutAndPastedBackKeepsItsBlank) {
     page.MarkKill();
     page.close();
   }
+}
+
+TEST_F(RealPageEdits, OfficeTextPastedIntoANewPageTakesThePlaceOfItsEmptyParagraph) {
+  frmMain &page = NewPage();
+  auto *data = new QMimeData;
+  data->setHtml(
+      QStringLiteral("<html xmlns:o=\"urn:schemas-microsoft-com:office:office\"><body>"
+                     "<!--StartFragment--><h2>Our history</h2><p class=MsoNormal>Since 1923"
+                     "<o:p></o:p></p><!--EndFragment--></body></html>"));
+  QApplication::clipboard()->setMimeData(data);
+  Key(page, Qt::Key_V, Qt::ControlModifier);
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("Since 1923")); })) << Seen(page);
+  SharedDialog().ExpectSave(Logic(File));
+  Choose("mnuSave");
+  QString wanted = modWorkFlow::NewPageTemplate();
+  wanted.replace(QStringLiteral("<P>&nbsp;</P>"),
+                 QStringLiteral("<H2>Our history</H2>\r\n<P>Since 1923</P>"));
+  EXPECT_EQ(Bytes(File).toStdString(), wanted.toStdString());
 }
 
 TEST_F(RealPageEdits, ATableThatWasPutInIsFilledByTabAndGrowsByARow) {

@@ -16,6 +16,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -293,7 +294,7 @@ TEST_F(RealPageFiles, APageWhoseTemporaryCopyHasNoPlaceIsPreviewedWithItsOwnFold
   Write(QStringLiteral("example.com/after.css"), "p::after { content: ' styled' }");
   frmMain &page = Open(QStringLiteral("example.com/page.htm"),
                        "<html><head><link rel=stylesheet href=after.css></head><body><p>One</p>"
-                       "</body></html>");
+                       "<a href=#end>down</a><p id=end>End</p></body></html>");
   PutCaret(page, QStringLiteral("p"));
   Type(page, QStringLiteral("x"));
   page.ChangeMode(4);
@@ -303,6 +304,19 @@ TEST_F(RealPageFiles, APageWhoseTemporaryCopyHasNoPlaceIsPreviewedWithItsOwnFold
                     QStringLiteral("getComputedStyle(document.querySelector('p'), '::after')"
                                    ".content")) == QStringLiteral("\" styled\"");
   }));
+  // A link within the page leads there, and stops nothing.
+  frmBrowser &preview = *window.Context().preview;
+  const auto *status = preview.findChild<QLabel *>(QStringLiteral("Sta_1"));
+  QStringList told;
+  Evaluate(EngineOf(preview), QStringLiteral("document.querySelector('a').click()"));
+  EXPECT_TRUE(WaitFor([&] {
+    told.append(status->text());
+    return Evaluate(EngineOf(preview), QStringLiteral("location.hash")) == QStringLiteral("#end");
+  }));
+  QCoreApplication::processEvents();
+  told.append(status->text());
+  EXPECT_FALSE(told.contains(QStringLiteral("Stopped")));
+  EXPECT_TRUE(PreviewShows(QStringLiteral("Oxne")));
   EXPECT_EQ(QDir(folder.FilePath(QStringLiteral("example.com"))).entryList(QDir::Files),
             QStringList({QStringLiteral("after.css"), QStringLiteral("page.htm")}));
 }
