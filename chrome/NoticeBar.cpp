@@ -51,6 +51,29 @@ void NoticeBar::AddBelow(QWidget &part) {
   rows_->addWidget(&part);
 }
 
+void NoticeBar::FoldUnder(QWidget &control) {
+  folding_ = &control;
+}
+
+void NoticeBar::Fold() {
+  const bool isBelow = rows_->indexOf(folding_) >= 0;
+  int wanted = text_->sizeHint().width() + line_->minimumSize().width();
+  if (isBelow) wanted += folding_->minimumSizeHint().width() + line_->spacing();
+  const bool hasRoom = wanted <= width();
+  if (hasRoom != isBelow) return;
+  folding_->setContentsMargins(0, 0, 0, hasRoom ? 0 : BarMargin);
+  // A layout takes its widgets out of the one before.
+  if (hasRoom) return line_->insertWidget(place_, folding_);
+  place_ = line_->indexOf(folding_);
+  rows_->insertWidget(1, folding_, 0, Qt::AlignHCenter);
+}
+
+bool NoticeBar::event(QEvent *event) {
+  const bool isNew = event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize;
+  if (isNew && folding_ != nullptr) Fold();
+  return QFrame::event(event);
+}
+
 QPushButton &NoticeBar::AddButton(const char *name, const QString &caption, const QString &tip) {
   auto *button = new QPushButton(caption);
   button->setObjectName(QString::fromLatin1(name));

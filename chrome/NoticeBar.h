@@ -30,15 +30,23 @@ class NoticeBar : public QFrame {
   void Add(QWidget &control);
   /// Adds a part below the line, as wide as the bar.
   void AddBelow(QWidget &part);
+  /// Puts a control of the line into a row of its own below it, where the line's text and all
+  /// controls are wider than the bar.
+  void FoldUnder(QWidget &control);
   /// Adds a button. A click on it leaves the keyboard in the page.
   QPushButton &AddButton(const char *name, const QString &caption, const QString &tip);
 
+  bool event(QEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 
  private:
+  void Fold();
+
   QVBoxLayout *rows_;
   QHBoxLayout *line_;
   QLabel *text_;
+  QWidget *folding_ = nullptr;  ///< what has a row of its own at times
+  int place_ = 0;               ///< its place in the line
 };
 
 }  // namespace velor

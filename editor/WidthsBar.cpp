@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/WidthsBar.h"
 
+#include "chrome/Palette.h"
 #include "editor/PageFrame.h"
 #include "editor/WidthRuler.h"
 #include "platform/Words.h"
 
 #include <QApplication>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -42,6 +44,10 @@ WidthsBar::WidthsBar(PageFrame &frame, QWidget *parent)
 }
 
 void WidthsBar::AddWidths() {
+  auto *choices = new QWidget;
+  auto *row = new QHBoxLayout(choices);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(BarMargin);
   for (const int width : UsualWidths) {
     auto *button = new QToolButton;
     const bool isFull = width == PageFrame::Full;
@@ -60,7 +66,7 @@ void WidthsBar::AddWidths() {
       ShowFrame();
     });
     widths_.push_back(button);
-    Add(*button);
+    row->addWidget(button);
   }
   other_ = new QSpinBox;
   other_->setObjectName(QStringLiteral("numWidth"));
@@ -70,7 +76,9 @@ void WidthsBar::AddWidths() {
   // "1024" is one choice, not four.
   other_->setKeyboardTracking(false);
   connect(other_, &QSpinBox::valueChanged, this, &WidthsBar::WidthChosen);
-  Add(*other_);
+  row->addWidget(other_);
+  Add(*choices);
+  FoldUnder(*choices);
 }
 
 void WidthsBar::AddPhone() {

@@ -7,6 +7,8 @@
 #include "chrome/ColorPicker.h"
 #include "chrome/FontPicker.h"
 #include "editor/EditCommands.h"
+#include "editor/frmBrowser.h"
+#include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeRegistry.h"
 
@@ -89,6 +91,33 @@ TEST_F(NarrowWindow, ThePageChooserIsAButtonAndATabIsReadable) {
   window.resize(1180, 600);
   QCoreApplication::processEvents();
   EXPECT_GE(Find<PageChooser>("CmbPages")->width(), 200);
+}
+
+TEST_F(NarrowWindow, TheWidthsBarCutsNoControlAndIsOneRowAgainWhereThereIsRoom) {
+  frmMain &page = NewPage();
+  Component(page).properties[PropertySubject::Page] = {
+      {QStringLiteral("dialect"), QStringLiteral("html5")}};
+  page.ChangeMode(4);
+  Choose("mnuWidths");
+  QWidget &preview = *window.Context().preview;
+  const auto &bar = *preview.findChild<QWidget *>(QStringLiteral("picWidths"));
+  const auto part = [&](const char *name) {
+    return bar.findChild<QWidget *>(QString::fromLatin1(name));
+  };
+  const auto middle = [&](const char *name) {
+    return part(name)->mapTo(&bar, part(name)->rect().center()).y();
+  };
+  QCoreApplication::processEvents();
+  for (const char *name :
+       {"cmdAddViewport", "cmdWidth0", "cmdWidth1280", "numWidth", "cmdPhone", "cmdCloseWidths"}) {
+    EXPECT_TRUE(IsSeen(part(name))) << name;
+    EXPECT_GE(part(name)->width(), part(name)->minimumSizeHint().width()) << name;
+  }
+  EXPECT_GT(part("lblWidth")->width(), 100);
+  window.resize(1600, 600);
+  QCoreApplication::processEvents();
+  EXPECT_NEAR(middle("cmdWidth0"), middle("cmdCloseWidths"), 1);
+  EXPECT_GE(part("lblWidth")->width(), part("lblWidth")->sizeHint().width());
 }
 
 }  // namespace
