@@ -7,6 +7,7 @@ import { insertColumn } from './columns.js';
 import { cellLike, isEmpty, setSpan, takeOut } from './making.js';
 import { splitCell } from './merging.js';
 import { deleteRows, insertRow } from './rows.js';
+import { keepsBlanks } from '../page/beside.js';
 import * as dom from '../page/dom.js';
 
 /**
@@ -52,6 +53,15 @@ function fillHoles(table, { top, bottom, right }) {
   }
 }
 
+// Takes out what a cell holds. The source's line end before the next tag stays.
+/** @param {HTMLTableCellElement} cell */
+function empty(cell) {
+  const last = cell.lastChild;
+  const isLine = dom.isText(last) && !keepsBlanks(last);
+  const [line = ''] = (isLine && /[ \t]*\n[ \t\n]*$/.exec(last.data)) || [];
+  cell.replaceChildren(...[line].filter(Boolean));
+}
+
 /**
  * Puts a copy of a cell's content into an empty one.
  * @param {Element} cell
@@ -59,13 +69,13 @@ function fillHoles(table, { top, bottom, right }) {
  */
 function takeContent(cell, from) {
   if (isEmpty(from)) {
-    cell.append(dom.create('BR'));
+    cell.prepend(dom.create('BR'));
     return;
   }
   const copy = document.createDocumentFragment();
   copy.append(...[...from.childNodes].map((node) => node.cloneNode(true)));
   dom.dropTakenIds(copy);
-  cell.append(copy);
+  cell.prepend(copy);
 }
 
 /**
@@ -80,7 +90,7 @@ export function fillCells(grid, rectangle, source) {
   const { table } = grid;
   if (source.places.length === 1) {
     const cells = placesIn(grid, rectangle).map(({ cell }) => cell);
-    for (const cell of cells) cell.replaceChildren();
+    cells.forEach(empty);
     for (const cell of cells) takeContent(cell, source.places[0].cell);
     return [cells[0], cells.at(-1)];
   }
@@ -94,7 +104,7 @@ export function fillCells(grid, rectangle, source) {
   const now = gridOf(table);
   // What goes has its ids no more.
   for (const { row, column } of source.places) {
-    now.slots[top + row][left + column].cell.replaceChildren();
+    empty(now.slots[top + row][left + column].cell);
   }
   for (const place of source.places) putIn(now, place, top + place.row, left + place.column);
   const ends = [now.slots[top][left].cell, lastIn(now, area)];

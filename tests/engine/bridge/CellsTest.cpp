@@ -257,6 +257,15 @@ TEST_F(Cells, ASpreadsheetsCellsFillTheSelectedOnes) {
   EXPECT_EQ(Steps(), 2);
 }
 
+TEST_F(Cells, FilledCellsKeepTheLineEndsOfTheSource) {
+  LoadTable(QStringLiteral("<tr><td>a<td>b\n  <tr><td>d<td><b>e</b>\n\n  <tr><td>g<td>h\n"));
+  Choose(QStringLiteral("a"), QStringLiteral("b\\n  "));
+  Evaluate(
+      QStringLiteral("inside.insert({ html: '', text: '1\\t2\\n3\\t4\\n5\\t', addresses: '' }, "
+                     "'insertFromPaste')"));
+  EXPECT_EQ(Table(), QStringLiteral("1,2\n  ; 3,4\n\n  ; 5,\n"));
+}
+
 TEST_F(Cells, WithoutTheAdditionsARangeOverCellsIsOneOfText) {
   LoadTable();
   Evaluate(QStringLiteral("velor.start({ additions: false })"));
