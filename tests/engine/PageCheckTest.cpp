@@ -153,7 +153,8 @@ TEST_F(PageCheckProgram, ChangesTablesAndPropertiesWithNoByteOutside) {
             "<HTML><HEAD>\r\n<TITLE>old</TITLE>\r\n</HEAD><BODY bgcolor=white>\r\n"
             "<TABLE border=1 >\r\n  <TR><TD rowspan=2>one<TD>two\r\n  <TR><TD>three\r\n"
             "  <TR><TD>four<TD>five\r\n</TABLE>\r\n<P>six <A HREF=x.htm>seven</A>\r\n");
-  for (const char *kind : {"row", "column", "merge", "class", "page-title", "link"}) {
+  for (const char *kind :
+       {"row", "column", "merge", "paste-cells", "class", "page-title", "link"}) {
     EXPECT_EQ(Run({QStringLiteral("--edit"), QLatin1String(kind), page}), 0);
     ASSERT_EQ(lines_.size(), 1U);
     EXPECT_TRUE(Has(0, "edited")) << kind;
@@ -174,7 +175,9 @@ TEST_F(PageCheckProgram, RefusesWhatMeansNothing) {
     EXPECT_TRUE(output_.isEmpty());
   }
   EXPECT_EQ(Run({QStringLiteral("--help")}), 0);
-  EXPECT_TRUE(output_.contains("document_equal"));
+  for (const char *word :
+       {"document_equal", "row", "column", "merge", "paste-cells", "class", "page-title", "link"})
+    EXPECT_TRUE(output_.contains(word)) << word;
 }
 
 }  // namespace

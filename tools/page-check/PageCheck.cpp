@@ -76,7 +76,9 @@ class PageCheck::Desk {
     if (kind == u"type")
       Type(words.contains(u'=') ? words.section(u'=', 1) : QStringLiteral("inserted"));
     else if (kind == u"paste")
-      Paste();
+      Paste(QStringLiteral("pasted"));
+    else if (kind == u"paste-cells")
+      Paste(QStringLiteral("one\ttwo\nthree\tfour"));
     else if (const auto key = KeyOf(kind))
       Press(*key, {});
     return selected;
@@ -100,8 +102,8 @@ class PageCheck::Desk {
   void Type(const QString &text) {
     for (const QChar sign : text) Press(static_cast<Qt::Key>(sign.toUpper().unicode()), sign);
   }
-  void Paste() {
-    QGuiApplication::clipboard()->setText(QStringLiteral("pasted"));
+  void Paste(const QString &text) {
+    QGuiApplication::clipboard()->setText(text);
     editor.ExecCommand(EditingCommand::Paste, ExecOption::Default, {});
   }
 
@@ -160,9 +162,10 @@ const QStringList &PageCheck::ScriptKinds() {
 }
 
 const QStringList &PageCheck::KeyKinds() {
-  static const QStringList kinds = {QStringLiteral("type"),      QStringLiteral("enter"),
-                                    QStringLiteral("backspace"), QStringLiteral("delete"),
-                                    QStringLiteral("paste"),     QStringLiteral("delete-word")};
+  static const QStringList kinds = {QStringLiteral("type"),       QStringLiteral("enter"),
+                                    QStringLiteral("backspace"),  QStringLiteral("delete"),
+                                    QStringLiteral("paste"),      QStringLiteral("paste-cells"),
+                                    QStringLiteral("delete-word")};
   return kinds;
 }
 

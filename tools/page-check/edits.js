@@ -127,6 +127,13 @@ const correct = [wordPlaces, ([text, start, end], argument) => {
   return false;
 }];
 
+// Two cells beside each other, selected as such.
+const pairs = () => elements('td + td, td + th, th + td, th + th');
+const selectPair = (cell) => {
+  select(cell.previousElementSibling, 0);
+  getSelection().extend(cell, cell.childNodes.length);
+  return true;
+};
 // A command with the caret in a cell.
 const onCell = (command) => (cell) => {
   select(cell, 0);
@@ -176,11 +183,8 @@ const edits = {
   }],
   'row': [() => elements('td, th'), onCell(Command.InsertRowBelow)],
   'column': [() => elements('td, th'), onCell(Command.InsertColumnRight)],
-  'merge': [() => elements('td + td, td + th, th + td, th + th'), (cell) => {
-    select(cell.previousElementSibling, 0);
-    getSelection().extend(cell, cell.childNodes.length);
-    return velor.exec(Command.MergeCells);
-  }],
+  'merge': [pairs, (cell) => selectPair(cell) && velor.exec(Command.MergeCells)],
+  'paste-cells': [pairs, selectPair],
   'class': [() => elements('td, th'), (cell) => {
     select(cell, 0);
     velor.setProperties('cell', { class: 'new' });

@@ -38,16 +38,13 @@ const char *const Description =
     "  ms              milliseconds that saving took\n"
     "  error           only of a file that could not be opened, edited or saved; nothing else of "
     "that line counts\n"
-    "The edits type, enter, backspace, delete, delete-word and paste are keys and commands as a "
-    "person gives "
-    "them "
-    "(type=WORD types that word; delete-word selects a word and deletes it; replace=A,B finds the "
-    "first A from a word on and "
-    "replaces it, replace-all=A,B all of them; correct=A,B corrects the first A from a word on). "
-    "The others' places "
-    "are where a person may put the caret: at ends of "
-    "words, lines, texts and cells, behind inline elements and in indented text in turn, each kind "
-    "evenly over the page.\n"
+    "The edits type, enter, backspace, delete, delete-word, paste and paste-cells are keys and "
+    "commands as a person gives them (type=WORD types that word; delete-word selects a word and "
+    "deletes it; paste-cells pastes two rows of a spreadsheet into two selected cells; "
+    "replace=A,B finds the first A from a word on and replaces it, replace-all=A,B all of them; "
+    "correct=A,B corrects the first A from a word on). The others' places are where a person may "
+    "put the caret: at ends of words, lines, texts and cells, behind inline elements and in "
+    "indented text in turn, each kind evenly over the page.\n"
     "Exit status: 0; 1 when a file has an error; 2 for arguments that mean nothing.";
 
 /// Nobody looks at the pages, each comes in the place of the one before, and Chromium's sandbox
