@@ -19,6 +19,8 @@ contrast  100  1280x820   .
 light     200  2560x1640  .
 dark      200  2560x1640  .
 light     150  1920x1230  .          main objects projects
+dark      150  1920x1230  .          main objects projects
+contrast  200  2560x1640  .          main objects projects
 light     100  1280x720   1280x720   recovery start main projects
 dark      200  3840x2160  3840x2160  main objects
 SCREENS
