@@ -4,6 +4,7 @@
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
 #include "editor/OutsideChanges.h"
+#include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
@@ -293,6 +294,7 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
     context.pages.Record(number) = record;
     context.pages.Trace(number) = FileTrace::Of(kept.path, kept.page.original);
     if (!kept.path.isEmpty()) window.Outside().WatchFile(kept.path);
+    window.Pictures().Restore(kept.pictures);
     window.setWindowTitle(record.Caption);
     window.CheckAcc();
     const bool isReadOnly = record.ReadOnly != False16;

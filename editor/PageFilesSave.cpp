@@ -129,8 +129,8 @@ std::optional<RuntimeError> SavePlain(EditorContext &context, frmMain &window,
   if (failure) {
     window.Journal().MarkSaveFailed();
   } else {
-    window.Journal().MarkSaved();
     window.Pictures().MarkSaved();
+    window.Journal().MarkSaved();
   }
   return failure;
 }
@@ -238,8 +238,8 @@ void SaveUnderNewName(frmMain &window, FileDialog &dialog, PageRecord &record) {
   window.UpdateTabCaption();
   window.DHTML1().LoadDocument(file);
   window.WasWrittenAnew = false;
-  window.Journal().MarkSaved();
   window.Pictures().MarkSaved();
+  window.Journal().MarkSaved();
   // The page may have been read-only before.
   window.CheckAcc();
 }

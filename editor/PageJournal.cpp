@@ -2,8 +2,10 @@
 #include "editor/PageJournal.h"
 
 #include "editor/MainWindow.h"
+#include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
 #include "editor/frmCodeEditor.h"
+#include "editor/frmMain.h"
 #include "platform/EditingComponent.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
@@ -148,6 +150,7 @@ JournalledPage PageJournal::Page(RunEnd end) const {
   const PageRecord &record = pages_.Record(number_);
   const bool hasFile = record.HasFile != False16;
   const frmCodeEditor *editor = pages_.CodeEditor(number_);
+  frmMain *window = pages_.Page(number_);
   const auto typed = editor == nullptr ? std::nullopt : editor->UnappliedText();
   return {record.Path,
           record.Caption,
@@ -155,7 +158,8 @@ JournalledPage PageJournal::Page(RunEnd end) const {
           component_.Memory(),
           QDateTime::currentDateTime(),
           typed ? typed : pages_.DisplacedSource(number_),
-          end};
+          end,
+          window == nullptr ? QList<JournalledPicture>() : window->Pictures().Unsaved()};
 }
 
 bool PageJournal::Write(RunEnd end) {
@@ -177,7 +181,8 @@ bool PageJournal::Write(RunEnd end) {
 
 bool PageJournal::IsWritten(const JournalledPage &page) const {
   return page.path == written_.path && page.saving == written_.saving &&
-         page.page == written_.page && page.source == written_.source && page.end == written_.end;
+         page.page == written_.page && page.source == written_.source &&
+         page.pictures == written_.pictures && page.end == written_.end;
 }
 
 void PageJournal::CompactWhenIdle() {

@@ -7,6 +7,7 @@
 #include "editor/PictureBar.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
+#include "page/text/PageEncoding.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
@@ -319,8 +320,42 @@ void PagePictures::MoveBack() {
   copied_.RemoveUnseen();
 }
 
+QList<JournalledPicture> PagePictures::Unsaved() const {
+  QList<JournalledPicture> unsaved = copied_.There();
+  if (HasPath()) return unsaved;
+  for (const Homeless &picture : homeless_) {
+    const bool isKnown = std::any_of(unsaved.begin(), unsaved.end(),
+                                     [&](const auto &known) { return known.path == picture.path; });
+    if (!isKnown) unsaved.push_back({picture.path, picture.address});
+  }
+  return unsaved;
+}
+
+void PagePictures::Restore(const QList<JournalledPicture> &unsaved) {
+  copied_.Adopt(unsaved);
+  if (HasPath()) return;
+  for (const JournalledPicture &picture : unsaved)
+    NoteHomeless(picture.address, picture.path,
+                 picture.digest.isEmpty() ? Place::WhereItLies : Place::BesideTheCopy);
+}
+
 void PagePictures::Report(const QString &message) const {
   context_.mainWindow.status.ReportOn(page_.Number(), message);
+}
+
+void RemoveUnsavedPictures(EditorContext &context, const JournalledPage &kept) {
+  const Files &files = context.platform.files;
+  QString saved;
+  if (!kept.pictures.isEmpty() && files.FileExists(kept.path))
+    saved = DecodePage(files.ReadAll(kept.path)).text;
+  const auto isUsed = [&](const QString &path) {
+    constexpr int NoPage = 0;
+    return saved.contains(modGeneral::FileNameOfPath(path)) ||
+           IsNamedElsewhere(context, NoPage, path);
+  };
+  CopiedPictures copied(context.platform.files, context.platform.replaced, isUsed);
+  copied.Adopt(kept.pictures);
+  copied.RemoveUnsaved();
 }
 
 }  // namespace velor

@@ -3,6 +3,7 @@
 
 #include "editor/EditorContext.h"
 #include "pictures/CopiedPictures.h"
+#include "platform/Journal.h"
 
 #include <QSize>
 #include <QString>
@@ -61,6 +62,9 @@ class PagePictures final {
   void MoveInto(const QString &to, const QString &html);
   /// The first save has failed: the pictures are where they were.
   void MoveBack();
+  /// What a journal has to hold of the pictures, and what the page that is restored from it has.
+  QList<JournalledPicture> Unsaved() const;
+  void Restore(const QList<JournalledPicture> &unsaved);
 
  private:
   enum class Asks { ForText, Nothing };
@@ -111,5 +115,9 @@ class PagePictures final {
   bool isGathering_ = false;  ///< what arrives together is told together
   std::vector<Homeless> homeless_;
 };
+
+/// Removes the files that were made for a page whose changes are given up unseen: those that the
+/// page's file does not name, and no open page.
+void RemoveUnsavedPictures(EditorContext &context, const JournalledPage &kept);
 
 }  // namespace velor

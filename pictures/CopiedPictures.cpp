@@ -45,6 +45,23 @@ void CopiedPictures::Add(const SitePicture &picture) {
                        .digest = DigestOf(files_.ReadAll(picture.path))});
 }
 
+void CopiedPictures::Adopt(const QList<JournalledPicture> &pictures) {
+  for (const JournalledPicture &picture : pictures) {
+    if (picture.digest.isEmpty()) continue;
+    pictures_.push_back({.path = picture.path,
+                         .address = picture.address,
+                         .digest = picture.digest,
+                         .wasSeen = true});
+  }
+}
+
+QList<JournalledPicture> CopiedPictures::There() const {
+  QList<JournalledPicture> there;
+  for (const Picture &picture : pictures_)
+    if (picture.isThere) there.push_back({picture.path, picture.address, picture.digest});
+  return there;
+}
+
 bool CopiedPictures::AwaitsAny() const {
   return std::any_of(pictures_.begin(), pictures_.end(),
                      [](const Picture &picture) { return !picture.wasSeen; });

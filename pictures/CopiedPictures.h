@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pictures/PictureCopier.h"
+#include "platform/Journal.h"
 
 #include <QByteArray>
 #include <QString>
@@ -29,6 +30,10 @@ class CopiedPictures {
   /// Follows this file from the first text on that holds its address. Does nothing for one that is
   /// not new.
   void Add(const SitePicture &picture);
+  /// The same for files that another run made, with the digests that There told then.
+  void Adopt(const QList<JournalledPicture> &pictures);
+  /// The files that are there and follow the page.
+  QList<JournalledPicture> There() const;
   /// Whether there is one whose address no text had yet.
   bool AwaitsAny() const;
   /// Counts every address as seen: the next text tells which pictures there are.

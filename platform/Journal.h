@@ -3,7 +3,10 @@
 
 #include "platform/PageMemory.h"
 
+#include <QByteArray>
 #include <QDateTime>
+#include <QList>
+#include <QString>
 
 #include <memory>
 #include <optional>
@@ -19,6 +22,16 @@ enum class RunEnd {
   Exit,
 };
 
+/// A picture that was put into a page and is not in its saved text.
+struct JournalledPicture {
+  QString path;     ///< logic form
+  QString address;  ///< in the page
+  /// SHA-256 of the file as the program made it; empty for a file that it did not make.
+  QByteArray digest = {};
+
+  bool operator==(const JournalledPicture &) const = default;
+};
+
 /// A page with unsaved changes, as a journal stores it.
 struct JournalledPage {
   /// The page's file in logic form; empty for one that was never saved.
@@ -32,6 +45,7 @@ struct JournalledPage {
   /// The text of the page's source editor, where it was not applied to the document.
   std::optional<QString> source = std::nullopt;
   RunEnd end = RunEnd::Unforeseen;
+  QList<JournalledPicture> pictures = {};
 };
 
 /// The journal of one page. Its content survives a crash of the process once Write returns, and of

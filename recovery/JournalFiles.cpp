@@ -116,6 +116,7 @@ class JournalFile : public Journal {
     } else if (IsSamePage(page)) {
       Append(JournalChange(last_.page.document, page.page.document, page.time) +
              JournalSourceChange(last_.source, page.source, page.time) +
+             JournalPictures(last_.pictures, page.pictures, page.time) +
              JournalEnd(page.end, page.time));
     } else {
       Append(JournalRecord(page));

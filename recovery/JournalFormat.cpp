@@ -11,6 +11,14 @@
 
 namespace velor {
 
+// Found by QDataStream through the type's namespace.
+static QDataStream &operator<<(QDataStream &stream, const JournalledPicture &picture) {
+  return stream << picture.path << picture.address << picture.digest;
+}
+static QDataStream &operator>>(QDataStream &stream, JournalledPicture &picture) {
+  return stream >> picture.path >> picture.address >> picture.digest;
+}
+
 namespace {
 
 enum class Kind : quint8 {
@@ -20,6 +28,7 @@ enum class Kind : quint8 {
   SourceGone = 4,
   PageWithSource = 5,
   KeptAtExit = 6,
+  Pictures = 7,
 };
 
 constexpr qsizetype LengthSize = sizeof(quint64);
@@ -115,6 +124,11 @@ bool Apply(const QByteArray &payload, std::optional<JournalledPage> &page) {
     page->source = source;
   } else if (kind == Kind::SourceGone && page) {
     page->source.reset();
+  } else if (kind == Kind::Pictures && page) {
+    QList<JournalledPicture> pictures;
+    stream >> pictures;
+    if (stream.status() != QDataStream::Ok) return false;
+    page->pictures = pictures;
   } else if (kind != Kind::KeptAtExit || !page) {
     return false;
   }
@@ -136,7 +150,7 @@ QByteArray JournalRecord(const JournalledPage &page) {
                   page.page.document, source...);
   };
   return (page.source ? record(Kind::PageWithSource, *page.source) : record(Kind::Page)) +
-         JournalEnd(page.end, page.time);
+         JournalPictures({}, page.pictures, page.time) + JournalEnd(page.end, page.time);
 }
 
 QByteArray JournalEnd(RunEnd end, const QDateTime &time) {
@@ -153,6 +167,12 @@ QByteArray JournalSourceChange(const std::optional<QString> &before,
   if (before == after) return {};
   if (!after) return Record(Kind::SourceGone, qint64{time.toMSecsSinceEpoch()});
   return ChangeRecord(Kind::SourceChange, before.value_or(QString()), *after, time);
+}
+
+QByteArray JournalPictures(const QList<JournalledPicture> &before,
+                           const QList<JournalledPicture> &after, const QDateTime &time) {
+  if (before == after) return {};
+  return Record(Kind::Pictures, qint64{time.toMSecsSinceEpoch()}, after);
 }
 
 std::optional<JournalReading> ReadJournal(const QByteArray &journal) {
@@ -195,7 +215,7 @@ std::optional<AbandonedPage> SummariseJournal(QIODevice &journal) {
     if (stream.status() != QDataStream::Ok) return summary;
     read.time = QDateTime::fromMSecsSinceEpoch(time);
     read.end = EndOf(kind);
-    if (kind != Kind::Change && kind != Kind::KeptAtExit)
+    if (kind != Kind::Change && kind != Kind::KeptAtExit && kind != Kind::Pictures)
       read.hasSource = kind == Kind::SourceChange || kind == Kind::PageWithSource;
     summary = read;
     if (!journal.seek(next)) return summary;

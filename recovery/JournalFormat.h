@@ -26,6 +26,10 @@ QByteArray JournalChange(const QString &before, const QString &after, const QDat
 QByteArray JournalSourceChange(const std::optional<QString> &before,
                                const std::optional<QString> &after, const QDateTime &time);
 
+/// A record of the pictures that are not in the saved page; empty where the two are equal.
+QByteArray JournalPictures(const QList<JournalledPicture> &before,
+                           const QList<JournalledPicture> &after, const QDateTime &time);
+
 /// A record that the run ended by an exit; empty for RunEnd::Unforeseen, which has no record.
 QByteArray JournalEnd(RunEnd end, const QDateTime &time);
 

@@ -5,6 +5,7 @@
 #include "chrome/Palette.h"
 #include "editor/MainWindow.h"
 #include "editor/OpenPages.h"
+#include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmMain.h"
@@ -214,7 +215,7 @@ void RecoveryBar::AddRow(const AbandonedPage &abandoned) {
   connect(show, &QPushButton::clicked, this, [=, this] { Show(abandoned); });
   QPushButton *discard =
       add("cmdDiscard", Words::tr("Discard"), Words::tr("Give the unsaved changes up"));
-  connect(discard, &QPushButton::clicked, this, [=, this] { Discard(offered); });
+  connect(discard, &QPushButton::clicked, this, [=, this] { GiveUp(offered); });
   for (QPushButton *button : {restore, show, discard}) {
     button->setEnabled(abandoned.defect.isEmpty() || button == discard);
     button->installEventFilter(this);
@@ -310,6 +311,17 @@ void RecoveryBar::Show(const AbandonedPage &abandoned) {
       QUrl::fromLocalFile(memory.base));
 }
 
+void RecoveryBar::GiveUp(const Offered &offered) {
+  JournalledPage kept;
+  try {
+    kept = context_.platform.journals->Read(offered.page.id).page;
+  } catch (const RuntimeError &) {
+    // Of what cannot be read no files are known.
+  }
+  Discard(offered);
+  RemoveUnsavedPictures(context_, kept);
+}
+
 void RecoveryBar::Discard(const Offered &offered) {
   context_.platform.journals->Discard(offered.page.id);
   RemoveRow(offered.row);
@@ -324,7 +336,7 @@ void RecoveryBar::DiscardAll() {
   question.buttons = MessageButtons::YesNo;
   question.icon = MessageIcon::Question;
   if (context_.platform.dialogs.ShowMessage(question) != MessageAnswer::Yes) return;
-  for (const Offered &offered : std::vector(offered_)) Discard(offered);
+  for (const Offered &offered : std::vector(offered_)) GiveUp(offered);
 }
 
 void RecoveryBar::RemoveRow(QWidget *row) {

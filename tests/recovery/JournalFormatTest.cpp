@@ -107,6 +107,24 @@ AbandonedPage SummaryOf(QByteArray journal) {
   return SummariseJournal(buffer).value_or(AbandonedPage());
 }
 
+TEST(JournalFormat, PicturesThatAreNotInTheSavedPageComeBackAndGo) {
+  JournalledPage page = Page(QStringLiteral("<p>a</p>"));
+  page.pictures = {{QStringLiteral("\\site\\rose.png"), QStringLiteral("rose.png"), "digest"},
+                   {QStringLiteral("\\far.png"), QStringLiteral("file:///far.png")}};
+  page.source = QStringLiteral("source");
+  QByteArray journal = JournalHead() + JournalRecord(page);
+  EXPECT_EQ(ReadJournal(journal)->page.pictures, page.pictures);
+  EXPECT_TRUE(SummaryOf(journal).hasSource);
+  journal += JournalPictures(page.pictures, page.pictures, {});
+  journal += JournalPictures(page.pictures, {page.pictures.front()}, {});
+  EXPECT_EQ(ReadJournal(journal)->page.pictures, QList{page.pictures.front()});
+  journal += JournalPictures({page.pictures.front()}, {}, {});
+  const auto back = ReadJournal(journal);
+  EXPECT_TRUE(back->page.pictures.isEmpty());
+  EXPECT_EQ(back->page.source, page.source);
+  EXPECT_FALSE(back->endIsMissing);
+}
+
 TEST(JournalFormat, ASummarySaysWhatTheWholeSays) {
   JournalledPage page = Page(QString(100'000, u'x'));
   QByteArray journal = JournalHead() + JournalRecord(page);

@@ -10,11 +10,14 @@
 #include "recovery/offers/RecoveryBar.h"
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
+#include "tests/pictures/PictureFiles.h"
 #include "tests/support/Waiting.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -42,6 +45,8 @@ class RealRecovery : public RealWindow {
   RealRecovery() {
     qputenv("XDG_STATE_HOME", state_.path().toLocal8Bit());
     platform.journals = &journals_.emplace(calls_);
+    for (const char *place : {"site", "far"})
+      QDir(folder.FilePath({})).mkdir(QString::fromLatin1(place));
   }
   ~RealRecovery() override { qputenv("XDG_STATE_HOME", stateHome_); }
 
@@ -66,6 +71,32 @@ class RealRecovery : public RealWindow {
     for (const QString &run : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
       found += QDir(root.filePath(run)).entryList({QStringLiteral("*.page")});
     return found;
+  }
+
+  /// The page's window goes, and the next look for journals finds its own as a crash leaves it.
+  void Crash(frmMain &page) {
+    EXPECT_TRUE(page.Journal().Flush());
+    const QString root = StateFolder() + QStringLiteral("/recovery/");
+    const QString run = QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot).constFirst();
+    const QString journal = QDir(root + run).entryList({QStringLiteral("*.page")}).constFirst();
+    QDir(root).mkdir(QStringLiteral("1-1"));
+    QFile(root + run + u'/' + journal).copy(root + QStringLiteral("1-1/1.page"));
+    page.MarkKill();
+    page.close();
+  }
+  void Answer(const char *button) {
+    auto *bar = Find<RecoveryBar>("picRecovery");
+    bar->Offer();
+    bar->findChild<QPushButton *>(QString::fromLatin1(button))->click();
+  }
+  bool PastePicture(frmMain &page, const char *address) {
+    QGuiApplication::clipboard()->setImage(RedAndBlue(30, 20));
+    page.DHTML1().SetFocus();
+    Choose("mnuPaste");
+    return WaitFor([&] { return Holds(page, QString::fromLatin1(address)); });
+  }
+  QStringList PicturesIn(const char *place) const {
+    return QDir(folder.FilePath(QString::fromLatin1(place))).entryList({QStringLiteral("*.png")});
   }
 
   /// The run's locks go, as at its process's end; its windows must have gone before.
@@ -228,6 +259,58 @@ TEST_F(RealRecovery, AnExitWithNothingUnsavedLeavesNothingBehind) {
   Choose("mnuExit");
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_EQ(JournalsThere(), QStringList());
+}
+
+TEST_F(RealRecovery, ANewPagesPicturesMoveIntoTheSiteAtTheFirstSaveAfterACrash) {
+  Write(QStringLiteral("far/rose.png"), CodedAs("PNG", PlainPicture(60, 40)));
+  frmMain &page = NewPage();
+  ASSERT_TRUE(PastePicture(page, "src=\"file:///"));
+  DropFiles(ViewOf(page), {folder.FilePath(QStringLiteral("far/rose.png"))}, {20, 20});
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("far/rose.png")); }));
+  Crash(page);
+  ASSERT_EQ(PicturesIn("").size(), 1);
+  Answer("cmdRestore");
+  ASSERT_TRUE(Holds(LastOpened(), QStringLiteral("file:///")));
+  SharedDialog().ExpectSave(Logic(QStringLiteral("site/garden.htm")));
+  Choose("mnuSave");
+  const QByteArray saved = Bytes(QStringLiteral("site/garden.htm"));
+  EXPECT_TRUE(saved.contains("garden-1.png")) << saved.constData();
+  EXPECT_FALSE(saved.contains("file:")) << saved.constData();
+  EXPECT_EQ(PicturesIn("site"),
+            QStringList({QStringLiteral("garden-1.png"), QStringLiteral("rose.png")}));
+  EXPECT_TRUE(WaitFor([&] { return PicturesIn("").isEmpty(); }));
+}
+
+TEST_F(RealRecovery, ARestoredPageThatIsNotSavedLeavesNoPictureInTheSite) {
+  frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
+  ASSERT_TRUE(PastePicture(page, "page-1.png"));
+  Crash(page);
+  Answer("cmdRestore");
+  ASSERT_TRUE(Holds(LastOpened(), QStringLiteral("page-1.png")));
+  EXPECT_EQ(PicturesIn("site").size(), 1);
+  dialogs.ExpectMessage(
+      QStringLiteral("You have made changes to this document. Do you want to save it?"),
+      MessageAnswer::No);
+  EXPECT_TRUE(LastOpened().close());
+  EXPECT_EQ(PicturesIn("site"), QStringList());
+}
+
+TEST_F(RealRecovery, AnOfferThatIsTurnedDownTakesThePicturesOfItsPageAway) {
+  frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
+  ASSERT_TRUE(PastePicture(page, "page-1.png"));
+  Crash(page);
+  Answer("cmdDiscard");
+  EXPECT_EQ(PicturesIn("site"), QStringList());
+  EXPECT_EQ(Bytes(QStringLiteral("site/page.htm")), "<!DOCTYPE html><p>one</p>");
+}
+
+TEST_F(RealRecovery, AnOfferThatIsTurnedDownLeavesPicturesThatTheSavedPageNames) {
+  frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
+  ASSERT_TRUE(PastePicture(page, "page-1.png"));
+  Crash(page);
+  Write(QStringLiteral("site/page.htm"), "<!DOCTYPE html><img src=page-1.png>");
+  Answer("cmdDiscard");
+  EXPECT_EQ(PicturesIn("site").size(), 1);
 }
 
 TEST_F(RealRecovery, ThePageInTheKeyboardsFocusIsLeftForTheOfferByAltG) {
