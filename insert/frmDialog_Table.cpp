@@ -47,8 +47,10 @@ class AlignmentBox : public QComboBox {
 
 }  // namespace
 
-frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent, DialogScope scope)
-    : QDialog(parent), html_(html) {
+frmDialog_Table::frmDialog_Table(QString &html, QWidget *parent, DialogScope scope, Dialect dialect)
+    : QDialog(parent),
+      html_(html),
+      dialect_(scope == DialogScope::Extended ? dialect : Dialect::Attributes) {
   setObjectName(QStringLiteral("frmDialog_Table"));
   setWindowTitle(Words::tr("Table Editor"));
   setModal(true);
@@ -107,7 +109,8 @@ void frmDialog_Table::Insert() {
                            .columns = columns_->text(),
                            .firstRow = headings_ != nullptr && headings_->isChecked()
                                            ? FirstRow::Headings
-                                           : FirstRow::Cells};
+                                           : FirstRow::Cells,
+                           .dialect = dialect_};
   if (const QString why = TableRefusal(values); !why.isEmpty())
     return FormParts::Refuse(*refusal_, why, *rows_);
   html_ = TableHtml(values);

@@ -79,7 +79,7 @@ void DialogInsertCommands::Video(frmMain &page) {
 
 void DialogInsertCommands::Table(frmMain &page) {
   const QPointer<frmMain> alive = &page;
-  frmDialog_Table dialog(html_, page.window(), Scope());
+  frmDialog_Table dialog(html_, page.window(), Scope(), DialectOf(page.DHTML1().Memory().document));
   dialogs_.RunModal(dialog);
   if (alive.isNull()) return;
   page.DHTML1().Document().Selection().CreateRange()->PasteHTML(html_);

@@ -68,6 +68,47 @@ TEST(TableHtml, WritesHeadingsIntoTheFirstRow) {
   EXPECT_FALSE(TableHtml(values).contains(QStringLiteral("<TR>")));
 }
 
+TEST(TableHtml, HasItsLooksInStylesInPagesOfThatDialect) {
+  TableValues values = Defaults();
+  values.dialect = Dialect::Styles;
+  values.align.clear();
+  values.rows = QStringLiteral("2");
+  values.columns = QStringLiteral("1");
+  values.firstRow = FirstRow::Headings;
+  EXPECT_EQ(
+      TableHtml(values),
+      QStringLiteral("<Table style=\"border: 1px solid; border-spacing: 1px; width: 75%\">\r\n"
+                     "   <TR>\r\n"
+                     "      <TH scope=\"col\" style=\"border: 1px solid\"></TH>\r\n"
+                     "   </TR>\r\n"
+                     "   <TR>\r\n"
+                     "      <TD style=\"border: 1px solid\"></TD>\r\n"
+                     "   </TR>\r\n"
+                     "</Table>\r\n"));
+}
+
+TEST(TableHtml, WritesStylesOfWhatWasAskedForAlone) {
+  TableValues values = Defaults();
+  values.dialect = Dialect::Styles;
+  const auto looks = [&](const char *align, const char *spacing, const char *padding,
+                         const char *border) {
+    values.align = QString::fromLatin1(align);
+    values.cellSpacing = QString::fromLatin1(spacing);
+    values.cellPadding = QString::fromLatin1(padding);
+    values.border = QString::fromLatin1(border);
+    const QString html = TableHtml(values);
+    return (FirstLine(html) + html.section(QStringLiteral("\r\n"), 2, 2).trimmed()).toStdString();
+  };
+  EXPECT_EQ(looks("Center", "0", "4", "0"),
+            "<Table style=\"border-collapse: collapse; margin-left: auto; margin-right: auto; "
+            "width: 75%\"><TD style=\"padding: 4px\"></TD>");
+  EXPECT_EQ(looks("left", "", "0", "5"),
+            "<Table style=\"border: 5px solid; float: left; width: 75%\">"
+            "<TD style=\"border: 1px solid; padding: 0px\"></TD>");
+  EXPECT_EQ(looks("a\"b", "<", "-1", "thin"), "<Table style=\"width: 75%\"><TD></TD>");
+  EXPECT_EQ(looks("Right", "", "", ""), "<Table style=\"float: right; width: 75%\"><TD></TD>");
+}
+
 TEST(TableHtml, LeavesOutTheAttributeOfEachEmptyField) {
   TableValues values = Defaults();
   values.cellSpacing.clear();

@@ -98,6 +98,16 @@ TEST_F(TableDialogTest, PutsEachFieldInItsPlaceAndCloses) {
                              .columns = U("2")}));
 }
 
+TEST_F(TableDialogTest, ThePagesDialectIsThatOfAnExtendedDialogAlone) {
+  for (const DialogScope scope : {DialogScope::Extended, DialogScope::Published}) {
+    QString text;
+    frmDialog_Table in(text, nullptr, scope, Dialect::Styles);
+    Control<QPushButton>(in, U("Command1"))->click();
+    EXPECT_EQ(text.contains(U("style=")), scope == DialogScope::Extended);
+    EXPECT_EQ(text.contains(U("cellspacing=")), scope == DialogScope::Published);
+  }
+}
+
 TEST_F(TableDialogTest, RefusesATableThatNoPageTakesAndSaysHowManyRowsItDoes) {
   dialog.show();
   auto *refusal = Control<QLabel>(dialog, U("lblRefusal"));

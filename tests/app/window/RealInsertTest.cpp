@@ -467,6 +467,24 @@ TEST_F(RealInsert, ATableIsSavedReopenedPreviewedAndUndoneInOneStep) {
   EXPECT_TRUE(PreviewDraws(QStringLiteral("table"), drawn)) << drawn;
 }
 
+TEST_F(RealInsert, ATableInAnHtml5PageHasStylesAndNoOldAttributes) {
+  frmMain &page = Open(PageFile, "<!DOCTYPE html>\r\n<title>x</title>\r\n<p>One</p>\r\n");
+  PutCaret(page, QStringLiteral("p"));
+  dialogs.ExpectModal([](QWidget &dialog) {
+    for (const char *count : {"Text1", "Text2"})
+      dialog.findChild<QLineEdit *>(QString::fromLatin1(count))->setText(QStringLiteral("1"));
+    dialog.findChild<QPushButton *>(QStringLiteral("Command1"))->click();
+  });
+  Choose("mnuTBLnew");
+  ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("<table")); }));
+  Choose("mnuSave");
+  const std::string saved = Bytes(PageFile).toStdString();
+  EXPECT_NE(saved.find("<table style=\"border: 1px solid; border-spacing: 1px; width: 75%\">"),
+            std::string::npos)
+      << saved;
+  EXPECT_NE(saved.find("<td style=\"border: 1px solid\">"), std::string::npos) << saved;
+}
+
 TEST_F(RealInsert, ATableDialogCancelledAtFirstUseRemovesTheSelection) {
   frmMain &page = Open(PageFile, Plain);
   Evaluate(EngineOf(page), QStringLiteral("getSelection().setBaseAndExtent(document.querySelector("
