@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/settings/modSettingManager.h"
 #include "editor/FindMemory.h"
 #include "editor/MainWindow.h"
+#include "platform/Platform.h"
 
 #include <QPointer>
 #include <QStringList>
@@ -10,7 +12,6 @@
 namespace velor {
 
 class PageSlots;
-struct Platform;
 class frmBrowser;
 
 /// Everything that page windows and the page-file operations of modWorkFlow share. Who opens or
@@ -25,6 +26,8 @@ struct EditorContext {
   /// Names of preferences whose unusable value was reported already.
   QStringList toldSettings = {};
   FindMemory find = {};
+  /// Whether the program goes beyond the published behaviour, as the settings said at the start.
+  bool hasAdditions = modSettingManager::HasAdditions(platform.registry);
 };
 
 }  // namespace velor

@@ -98,10 +98,6 @@ QWidget &PagePictures::Bar() {
   return *bar_;
 }
 
-bool PagePictures::IsOn() const {
-  return modSettingManager::HasAdditions(context_.platform.registry);
-}
-
 bool PagePictures::HasPath() const {
   return !context_.pages.Record(page_.Number()).Path.isEmpty();
 }
@@ -152,21 +148,21 @@ PagePictures::InPage PagePictures::Link(const QString &path, Asks asks) {
 }
 
 PagePictures::InPage PagePictures::TakeFile(const QString &path) {
-  return IsOn() ? HaveFile(path, Asks::ForText) : InPage();
+  return context_.hasAdditions ? HaveFile(path, Asks::ForText) : InPage();
 }
 
 PagePictures::InPage PagePictures::TakeChosenFile(const QString &path) {
-  if (!IsOn() || !HasPath() || LiesInSite(Site(), path)) return {};
+  if (!context_.hasAdditions || !HasPath() || LiesInSite(Site(), path)) return {};
   return HaveFile(path, Asks::Nothing);
 }
 
 PagePictures::InPage PagePictures::TakeBytes(const QByteArray &content) {
-  if (!IsOn()) return {};
+  if (!context_.hasAdditions) return {};
   return Have({}, Asks::ForText, [&](PictureCopier copier) { return copier.TakeBytes(content); });
 }
 
 bool PagePictures::PutIn(const QImage &image) {
-  if (!IsOn()) return false;
+  if (!context_.hasAdditions) return false;
   const InPage picture =
       Have({}, Asks::ForText, [&](PictureCopier copier) { return copier.TakeImage(image); });
   if (!picture.address.isEmpty())
@@ -183,7 +179,7 @@ void PagePictures::NoteHomeless(const QString &address, const QString &path, Pla
 }
 
 void PagePictures::TakePasted(const QStringList &addresses) {
-  if (!IsOn()) return;
+  if (!context_.hasAdditions) return;
   for (const QString &address : addresses) {
     InPage picture;
     if (const auto content = ContentOfAddress(address)) {
@@ -297,7 +293,7 @@ void PagePictures::RemoveUnsaved() {
 }
 
 void PagePictures::MoveInto(const QString &to, const QString &html) {
-  if (!IsOn()) return;
+  if (!context_.hasAdditions) return;
   PictureCopier copier(context_.platform.files, {to}, {}, ChoicesOf(context_.platform.registry));
   const bool isCopied = modSettingManager::IsOn(context_.platform.registry, CopyPictures);
   for (const Homeless &picture : homeless_) {

@@ -86,7 +86,6 @@ class PagePictures final {
     Place place = Place::WhereItLies;
   };
 
-  bool IsOn() const;
   bool HasPath() const;
   PageSite Site() const;
   PictureCopier Copier() const;

@@ -67,7 +67,7 @@ QString TextOfNewPage(const EditorContext &context) {
   namespace Settings = modSettingManager;
   const Registry &registry = context.platform.registry;
   const QString file = Settings::GetOption(registry, PreferenceOf("NewPageTemplate"));
-  if (file.isEmpty() || !Settings::HasAdditions(registry)) return modWorkFlow::NewPageTemplate();
+  if (file.isEmpty() || !context.hasAdditions) return modWorkFlow::NewPageTemplate();
   try {
     return modGeneral::ReadWholeFile(context.platform.files, FromPeople(file));
   } catch (const RuntimeError &error) {

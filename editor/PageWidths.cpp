@@ -129,7 +129,7 @@ void PageWidths::ShowBar() {
 }
 
 void PageWidths::Follow() {
-  if (!modSettingManager::HasAdditions(context_.platform.registry)) return;
+  if (!context_.hasAdditions) return;
   const QString before = std::exchange(site_, Site());
   // A new page's own choice becomes that of the site that it is saved into.
   if (before.isEmpty() && !site_.isEmpty() && frame_->ChosenWidth())

@@ -50,8 +50,7 @@ QPoint CaretOnScreen(QWidget &page) {
 
 PageSpelling *SpellingOf(frmMain &page) {
   const Platform &platform = page.Context().platform;
-  const bool isThere =
-      platform.spelling != nullptr && modSettingManager::HasAdditions(platform.registry);
+  const bool isThere = platform.spelling != nullptr && page.Context().hasAdditions;
   return isThere ? page.DHTML1().SpellCheck() : nullptr;
 }
 

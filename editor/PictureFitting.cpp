@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/PictureFitting.h"
 
-#include "app/settings/modSettingManager.h"
 #include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
@@ -83,7 +82,7 @@ void PictureFitting::SelectionChanged() {
   picture_ = picture;
   before_.reset();
   hide();
-  if (!modSettingManager::HasAdditions(context_.platform.registry) || !IsMuchLarger()) return;
+  if (!context_.hasAdditions || !IsMuchLarger()) return;
   try {
     file_ = FileOfSelection();
   } catch (const RuntimeError &) {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // frmCodeEditor: its controls and their layout.
-#include "app/settings/modSettingManager.h"
 #include "chrome/HouseStyle.h"
 #include "chrome/Icons.h"
 #include "chrome/Palette.h"
@@ -112,7 +111,6 @@ void frmCodeEditor::BuildLayout() {
 }
 
 QWidget *frmCodeEditor::BuildTop() {
-  const bool hasAdditions = modSettingManager::HasAdditions(context_.platform.registry);
   auto *toolBar = new QToolBar;
   toolBar->setObjectName(QStringLiteral("tbrGeneral"));
   toolBar->setAccessibleName(Words::tr("Source Tools"));
@@ -122,7 +120,7 @@ QWidget *frmCodeEditor::BuildTop() {
     ToolBarAction *button = AddToolBarButton(*toolBar, row.key.toString(), Words::tr(row.caption),
                                              Tooltip(row), ButtonKind::Click);
     button->setObjectName(row.key.toString());
-    if (hasAdditions) {
+    if (context_.hasAdditions) {
       connect(button, &ToolBarAction::Chosen, this, [this, tool = row.tool] { Use(tool); });
     } else {
       // Tab skips buttons that do nothing.
@@ -133,7 +131,7 @@ QWidget *frmCodeEditor::BuildTop() {
   auto *applyButton = new QPushButton(Words::tr("Apply to Document"));
   applyButton->setObjectName(QStringLiteral("cmdApply"));
   applyButton->setAccessibleName(applyButton->text());
-  if (hasAdditions)
+  if (context_.hasAdditions)
     applyButton->setToolTip(Words::tr("Write the source back into the page (Ctrl+Return)"));
   connect(applyButton, &QPushButton::clicked, this, &frmCodeEditor::Apply);
 
@@ -146,7 +144,7 @@ QWidget *frmCodeEditor::BuildTop() {
   elementGroups->setFocusPolicy(Qt::NoFocus);
   for (const char *tab : Tabs) elementGroups->addTab(Words::tr(tab));
   // They are empty.
-  elementGroups->setEnabled(!hasAdditions);
+  elementGroups->setEnabled(!context_.hasAdditions);
 
   auto *bandBar = new QFrame;
   bandBar->setObjectName(QStringLiteral("CoolBar"));
@@ -182,7 +180,7 @@ QWidget *frmCodeEditor::BuildMain() {
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, this, act);
   };
-  if (!modSettingManager::HasAdditions(context_.platform.registry)) {
+  if (!context_.hasAdditions) {
     code_->Widget()->setContextMenuPolicy(Qt::PreventContextMenu);
     return sourceArea;
   }

@@ -232,7 +232,7 @@ void frmMain::OnActivated() {
 }
 
 void frmMain::ShowTab() {
-  if (!modSettingManager::HasAdditions(context_.platform.registry)) return;
+  if (!context_.hasAdditions) return;
   const frmCodeEditor *editor = context_.pages.CodeEditor(number_);
   const bool hasSource = editor != nullptr && editor->UnappliedText().has_value();
   const bool isReadOnly = context_.pages.Record(number_).ReadOnly != False16;

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/settings/modSettingManager.h"
 #include "tests/editor/EditorWorld.h"
 
 #include <QAction>
@@ -318,7 +317,7 @@ TEST_F(CodeEditorTest, ItsButtonsDoWhatTheySayAndItsEmptyTabsAreOff) {
 }
 
 TEST_F(CodeEditorTest, ByThePublishedBehaviourItsButtonsAndTabsDoNothing) {
-  modSettingManager::SetOption(registry, QStringLiteral("PublishedOnly"), QStringLiteral("True"));
+  context.hasAdditions = false;
   frmCodeEditor &editor = Edit();
   Code(1).text = QStringLiteral("one two");
   Code(1).selectionEnd = 3;
@@ -333,7 +332,7 @@ TEST_F(CodeEditorTest, ByThePublishedBehaviourItsButtonsAndTabsDoNothing) {
 }
 
 TEST_F(CodeEditorTest, ByThePublishedBehaviourItHasNeitherKeysNorAMenuOfOurs) {
-  modSettingManager::SetOption(registry, QStringLiteral("PublishedOnly"), QStringLiteral("True"));
+  context.hasAdditions = false;
   frmCodeEditor &editor = Edit();
   Code(1).text = QStringLiteral("<p>typed</p>");
   EXPECT_TRUE(editor.findChildren<QShortcut *>().empty());

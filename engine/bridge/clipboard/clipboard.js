@@ -14,6 +14,7 @@ import { closed, openEndsOf } from './openEnds.js';
 import { linesOf, put } from './paste.js';
 import { picturesFrom, tellOfPictures } from './pictures.js';
 import { asItStands, asTable, withListsAndLinks } from './plainText.js';
+import { hasAdditions } from '../page/additions.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
@@ -138,7 +139,8 @@ const forms = {
 function textFragment(text, range, form) {
   const pre = dom.ancestor(
     range.startContainer, (node) => /^(PRE|LISTING|XMP)$/.test(node.tagName));
-  if (!pre) return forms[form](text, Boolean(itemAt(range)));
+  const wished = form || (hasAdditions() ? '' : 'text');
+  if (!pre) return forms[wished](text, Boolean(itemAt(range)));
   const fragment = document.createDocumentFragment();
   fragment.append(text.replace(/\r\n?/g, '\n'));
   return fragment;

@@ -29,6 +29,22 @@ const QByteArray Source =
 const QString PageFile = QStringLiteral("site/page.htm");
 const QPoint Place(500, 8);
 
+/// The preference PublishedOnly, on while this lives.
+class PublishedOnly {
+ public:
+  PublishedOnly() { Set("True"); }
+  ~PublishedOnly() { Set("False"); }
+  PublishedOnly(const PublishedOnly &) = delete;
+  PublishedOnly &operator=(const PublishedOnly &) = delete;
+
+ private:
+  static void Set(const char *value) {
+    QtRegistry registry;
+    modSettingManager::SetOption(registry, QStringLiteral("PublishedOnly"),
+                                 QString::fromLatin1(value));
+  }
+};
+
 class RealPictures : public RealWindow {
  protected:
   RealPictures() {
@@ -133,6 +149,37 @@ TEST_F(RealPictures, PicturesInPastedMarkupComeIntoTheSiteInTheStepOfThePaste) {
   EXPECT_EQ(Bytes(PageFile).toStdString(), Source.toStdString());
 }
 
+/// A window that was started with the preference.
+class PublishedPictures : private PublishedOnly, public RealPictures {};
+
+TEST_F(PublishedPictures, AreNotCopiedFromElsewhereAndNoBarAppears) {
+  frmMain &page = OpenSource();
+  DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
+  EXPECT_TRUE(Becomes(page, "My Rose.PNG\"")) << Seen(page);
+  dialogs.ExpectModal([&](QWidget &dialog) {
+    dialog.show();
+    const QString link = QStringLiteral("file://") + Outside("My Rose.PNG");
+    dialog.findChild<QLineEdit *>(QStringLiteral("txtImgSource"))->setText(link);
+    dialog.findChild<QLineEdit *>(QStringLiteral("txtAlt"))->setText(QStringLiteral("chosen"));
+    dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+  });
+  Choose("mnuISTimage");
+  EXPECT_TRUE(Becomes(page, "alt=\"chosen\"")) << Seen(page);
+  EXPECT_EQ(Site(), Names({"page.htm"}));
+  // What has no file has to become one; it is the component that names it.
+  Paste(page, RedAndBlue(30, 20));
+  EXPECT_TRUE(Becomes(page, "src=\"picture1.png\"")) << Seen(page);
+  EXPECT_FALSE(page.findChild<PictureBar *>()->isVisible());
+}
+
+TEST_F(RealPictures, TheSettingIsReadAtTheStartAlone) {
+  const PublishedOnly setting;
+  frmMain &page = OpenSource();
+  DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
+  EXPECT_TRUE(Becomes(page, "my-rose.png")) << Seen(page);
+  EXPECT_TRUE(SiteBecomes({"my-rose.png", "page.htm"}));
+}
+
 TEST_F(RealPictures, ClosingWithoutSavingLeavesNoFileInTheSite) {
   frmMain &page = OpenSource();
   DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
@@ -225,7 +272,7 @@ TEST_F(RealPictures, APictureChosenInTheDialogIsCopiedInTheSameStep) {
   EXPECT_TRUE(SiteBecomes({"page.htm"}));
 }
 
-TEST_F(RealPictures, WhatIsNoPictureIsLinkedAndAFullFolderIsTold) {
+TEST_F(RealPictures, WhatIsNoPictureIsLinkedWhereItLies) {
   WriteOutside("no.png", "text");
   frmMain &page = OpenSource();
   DropFiles(ViewOf(page), {Outside("no.png")}, Place);

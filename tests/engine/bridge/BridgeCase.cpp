@@ -198,6 +198,8 @@ void Perform(BridgePage &page, const QString &step) {
     const QString type = verb == QStringLiteral("pasteText") ? QStringLiteral("text/plain")
                                                              : QStringLiteral("text/html");
     page.Evaluate(QStringLiteral("markup.paste(%1, %2)").arg(ScriptText(type), ScriptText(value)));
+  } else if (verb == QStringLiteral("publishedOnly")) {
+    page.Evaluate(QStringLiteral("velor.start({ additions: false })"));
   } else if (verb == QStringLiteral("pasteAs")) {
     page.Evaluate(QStringLiteral("inside.insert({html: '', text: %2, addresses: ''}, 'paste', %1)")
                       .arg(ScriptText(value.section(u' ', 0, 0)),
