@@ -104,6 +104,8 @@ function excludeNextParagraph(range) {
     .at(-1);
   if (dom.isText(leaf)) range.setEnd(leaf, leaf.length);
   else if (leaf) range.setEndAfter(leaf);
+  // Cells as such have more in them than the text that was selected.
+  if (selection.cellsIn(range)) range.setEnd(endContainer, endOffset);
 }
 
 /**
