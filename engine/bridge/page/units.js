@@ -215,6 +215,8 @@ export function unitsIn(range, most = Infinity) {
   const units = [];
   const run = runFollower();
   const cells = selection.cellsIn(range);
+  // Where nothing that is selected shows, its start counts; an island is in no line.
+  let others = caretUnits;
   let rest = most;
   for (const leaf of selection.leavesIn(range)) {
     if (rest-- <= 0) break;
@@ -223,11 +225,14 @@ export function unitsIn(range, most = Infinity) {
     const untouched = units.length && !cells && endsAtStart(range, leaf);
     if (untouched || run.takes(leaf)) continue;
     const found = unitOf(leaf);
-    if (!found) continue;
+    if (!found) {
+      others = () => [];
+      continue;
+    }
     units.push(found);
     run.begin(found, leaf);
   }
-  return units.length ? units : caretUnits(range);
+  return units.length ? units : others(range);
 }
 
 /**

@@ -167,7 +167,8 @@ const character = (name) => ({
  * @returns {CommandRow}
  */
 const justify = (side) => ({
-  status: (view) => statusOfAll(view.units(), (unit) => align.read(unit) === side),
+  status: (view) => (view.units().length
+    ? statusOfAll(view.units(), (unit) => align.read(unit) === side) : Status.Disabled),
   run: onUnits((units) => align.applyAll(units, side)),
 });
 
