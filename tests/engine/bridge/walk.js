@@ -78,6 +78,9 @@
       return wordsOf(other.toString());
     };
     return {
+      all: wordsOf(document.body.textContent),
+      // Of cells the words that are not in them, before and behind the first.
+      cells: cellsSelected(range),
       before: part((other) => other.setEnd(range.startContainer, range.startOffset)),
       inside: wordsOf(range.toString()),
       behind: part((other) => other.setStart(range.endContainer, range.endOffset)),
@@ -86,6 +89,17 @@
         other.setStart(range.endContainer, range.endOffset);
       }),
     };
+  }
+  function cellsSelected(range) {
+    const cells = inside.selection.cellsIn(range);
+    if (!cells) return null;
+    const within = (text) => cells.some((cell) => cell.contains(text));
+    const words = (fits) => wordsOf(inside.dom.textsUnder(document.body).filter(fits)
+      .map(({ data }) => data).join(''));
+    const follows = (text) => Boolean(
+      cells[0].compareDocumentPosition(text) & Node.DOCUMENT_POSITION_FOLLOWING);
+    return { before: words((text) => !within(text) && !follows(text)), inside: words(within),
+      behind: words((text) => !within(text) && follows(text)) };
   }
   const control = () => inside.selection.control(inside.selection.range());
   const objects = () => document.querySelectorAll('img, hr, table, [contenteditable]').length;
@@ -191,12 +205,12 @@
 
   // What a step did with the words.
   function wordsJudged() {
-    const { parts: old, lines, count, action, before } = step;
+    const { parts: { all, cells, ...text }, lines, count, action, before } = step;
+    const old = cells ?? text;
     const [verb, value] = action;
     const now = parts();
     if (!now) return ['the selection is lost'];
     const words = wordsOf(document.body.textContent);
-    const all = old.before + old.inside + old.behind;
     if (verb === 'exec') {
       if (value === Command.Delete) {
         const atCaret = !old.inside && (all.length - words.length <= 1 || objects() < count);
@@ -208,7 +222,7 @@
       if (objects() !== count) faults.push('an object is lost');
       const sameLines = JSON.stringify(shownLines()) === JSON.stringify(lines);
       if (!sameLines) faults.push('lines are other ones');
-      if (old.inside !== now.inside) faults.push('another text is selected');
+      if (text.inside !== now.inside) faults.push('another text is selected');
       return faults;
     }
     if (verb === 'pasteHTML' || verb === 'paste') {
