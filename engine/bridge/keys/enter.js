@@ -173,11 +173,12 @@ function characterOn(side, node, offset) {
   while (isBlank(at)) at = beside(at.node, at.index + step, side);
   return at;
 }
-// Before an island the engine would make a line of its own with the looks before it, as FONT.
+// Beside an island the engine would write looks as FONT and styles, or do nothing.
 /** @param {PlainRange} caret */
-const isBeforeIsland = ({ startContainer, startOffset }) =>
-  dom.isIsland(beside(startContainer, startOffset, 'nextSibling')?.object) &&
-  beside(startContainer, startOffset, 'previousSibling') !== null;
+function isBesideIsland({ startContainer, startOffset }) {
+  const [last, next] = dom.sides.map((side) => beside(startContainer, startOffset, side));
+  return last !== null && [last, next].some((near) => dom.isIsland(near?.object));
+}
 // Before a break within a formatted line it would do the same, and take what follows to pieces.
 // Answers the last character before such a break.
 /** @param {PlainRange} caret */
@@ -218,7 +219,7 @@ function enterInLine(range) {
   }
   const own = enterInItem(unit);
   if (own) return own;
-  if (isBesideComment(range) || isBeforeIsland(range)) return splitHere;
+  if (isBesideComment(range) || isBesideIsland(range)) return splitHere;
   const last = endOfFormattedLine(range);
   return last && (() => typing.splitKeepingLooks(range, () => splitBehind(last)));
 }
