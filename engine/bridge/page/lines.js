@@ -4,13 +4,25 @@
 import * as dom from './dom.js';
 import * as selection from './selection.js';
 
+// True where the page's rules hide all that a shown block holds.
+/** @param {AnyNode} block */
+function hidesAll(block) {
+  if (!block.getClientRects().length) return false;
+  const range = document.createRange();
+  range.selectNodeContents(block);
+  for (const leaf of selection.leavesIn(range)) {
+    range.selectNode(leaf);
+    if (dom.isShown(leaf) && range.getClientRects().length) return false;
+  }
+  return true;
+}
 /**
- * A paragraph without content needs a break to be a line.
+ * A paragraph without content that is seen needs a break to be a line.
  * @param {AnyNode} block
  */
 export function holdOpen(block) {
   if (dom.isElement(block) && block.isConnected && dom.isBlock(block) && !dom.isAtom(block) &&
-      !dom.hasContent(block) && block.tagName !== 'BODY') {
+      block.tagName !== 'BODY' && (!dom.hasContent(block) || hidesAll(block))) {
     block.append(dom.create('BR'));
   }
 }
