@@ -20,7 +20,7 @@ void SavingAfterAnEditFigures();
 void BridgeFigures();
 void CommandFigures();
 
-/// What a key in the find bar costs (FindFigures.cpp).
+/// What a key in the find bar costs, and counting the words (FindFigures.cpp).
 void FindFigures();
 /// What the waves under unknown words cost a key (SpellingFigures.cpp).
 void SpellingFigures();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a key in the find bar costs in the page: all matches found, one selected, those in sight
-// marked.
+// marked. What the status bar's menu costs, which counts the page's words.
 #include "bench/Figures.h"
 #include "bench/Measure.h"
 #include "bench/PageBench.h"
@@ -37,6 +37,16 @@ void FindFigures() {
   };
   for (const Size &size : {Sizes[1], Sizes[2]}) {
     bench.Load(bench.File(size));
+    Print(Compare(
+        QStringLiteral("words and characters counted"), QLatin1String(size.name),
+        QStringLiteral("the engine's own text split at blanks"), 5,
+        [&] {
+          return TimeOf(bench.ours.editor.Widget(), QString(), QStringLiteral("velor.counts()"));
+        },
+        [&] {
+          return TimeOf(&bench.theirs, QString(),
+                        QStringLiteral("document.body.innerText.split(/\\s+/).length"));
+        }));
     compare(QStringLiteral("first key in the find bar"), size, QStringLiteral("velor.endFind()"));
     compare(QStringLiteral("next key in the find bar"), size,
             QStringLiteral("velor.find({ words: 'a' }, 'here')"));
