@@ -1,13 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/CommandList.h"
 
+#include "app/settings/modSettingManager.h"
 #include "app/window/FormattingBar.h"
 #include "app/window/MenuBuilder.h"
 #include "chrome/Captions.h"
 #include "chrome/ToolBarButtons.h"
 #include "platform/Words.h"
 
+#include <algorithm>
+
 namespace velor {
+
+namespace {
+
+/// The value has names of commands with blanks between them.
+const QString Section = QStringLiteral("commands");
+const QString Used = QStringLiteral("used");
+constexpr int MostUsed = 12;
+
+QStringList UsedIds(const Registry &registry) {
+  return modSettingManager::StoredText(registry, Section, Used).split(u' ', Qt::SkipEmptyParts);
+}
+
+}  // namespace
 
 QList<NamedCommand> CommandsOf(const Menus &menus, const FormattingBar &formatting) {
   QList<NamedCommand> commands;
@@ -33,6 +49,25 @@ QList<NamedCommand> CommandsOf(const Menus &menus, const FormattingBar &formatti
                      {CommandId::Editing, row.command}});
   }
   return commands;
+}
+
+QList<NamedCommand> LastUsedFirst(const Registry &registry, QList<NamedCommand> commands) {
+  const QStringList used = UsedIds(registry);
+  const auto rank = [&used](const NamedCommand &command) {
+    const qsizetype place = used.indexOf(command.id);
+    return place < 0 ? used.size() : place;
+  };
+  std::stable_sort(
+      commands.begin(), commands.end(),
+      [&](const NamedCommand &one, const NamedCommand &other) { return rank(one) < rank(other); });
+  return commands;
+}
+
+void NoteUse(Registry &registry, const QString &id) {
+  QStringList used = UsedIds(registry);
+  used.removeAll(id);
+  used.prepend(id);
+  modSettingManager::SaveText(registry, Section, Used, used.mid(0, MostUsed).join(u' '));
 }
 
 }  // namespace velor

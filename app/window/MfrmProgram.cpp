@@ -411,7 +411,8 @@ void MfrmProgram::ShowCommandPalette() {
   QList<NamedCommand> commands = CommandsOf(menus_, bandBar_->Formatting());
   commands.removeIf(
       [](const NamedCommand &each) { return each.command.id == CommandId::FindCommand; });
-  RunPalette({tr("Find Command"), tr("Words of the command"), tr("Commands")}, commands);
+  RunPalette({tr("Find Command"), tr("Words of the command"), tr("Commands")},
+             LastUsedFirst(platform_.registry, commands));
 }
 
 void MfrmProgram::ShowRecentFiles() {
@@ -427,7 +428,10 @@ void MfrmProgram::RunPalette(const PaletteWords &words, const QList<NamedCommand
   const QPointer<MfrmProgram> alive = this;
   CommandPalette palette(words, commands, this);
   platform_.dialogs.RunModal(palette);
-  if (!alive.isNull() && palette.Chosen() != nullptr) palette.Chosen()->trigger();
+  if (alive.isNull() || palette.Chosen() == nullptr) return;
+  for (const NamedCommand &each : commands)
+    if (each.item == palette.Chosen() && !each.id.isEmpty()) NoteUse(platform_.registry, each.id);
+  palette.Chosen()->trigger();
 }
 
 void MfrmProgram::ShowDrives() {

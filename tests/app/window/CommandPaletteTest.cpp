@@ -34,6 +34,35 @@ TEST_F(CommandPaletteTest, FindsACommandByWordsAndRunsItOnWhatIsInFront) {
   EXPECT_TRUE(Commands().isEmpty());
 }
 
+TEST_F(CommandPaletteTest, WhatWasChosenLastIsFirstAtTheNextStartToo) {
+  NewPage();
+  QStringList first;
+  const auto use = [&](MfrmProgram &program, const char *words) {
+    dialogs.ExpectModal([&](QWidget &palette) {
+      auto *line = palette.findChild<QLineEdit *>(QStringLiteral("txtWords"));
+      const auto *list = palette.findChild<QListWidget *>(QStringLiteral("lstCommands"));
+      first.clear();
+      for (int row = 0; row < 3; ++row) first << list->item(row)->text();
+      line->setText(QString::fromLatin1(words));
+      QTest::keyClick(line, Qt::Key_Return);
+    });
+    program.findChild<QAction *>(QStringLiteral("mnuFindCommand"))->trigger();
+  };
+  use(window, "all sel");
+  use(window, "undo");
+  use(window, "all sel");
+  use(window, "no such thing");
+  const QStringList wanted = {QStringLiteral("Select All"), QStringLiteral("Undo"),
+                              QStringLiteral("New Document (Ctrl+N)")};
+  EXPECT_EQ(first, wanted) << first.join(u'|').toStdString();
+  MfrmProgram next{platform, values};
+  next.Load();
+  next.findChild<QAction *>(QStringLiteral("mnuNew"))->trigger();
+  first.clear();
+  use(next, "no such thing");
+  EXPECT_EQ(first, wanted) << first.join(u'|').toStdString();
+}
+
 TEST_F(CommandPaletteTest, FindsACommandByOtherWordsForItBehindThoseNamedSo) {
   NewPage();
   const auto found = [this](const char *words) {
