@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Finding and replacing in the page, by keys.
+#include "editor/PageSlots.h"
+#include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
@@ -96,6 +98,30 @@ TEST_F(RealFind, TheSourceIsSearchedForTheSameWords) {
   EXPECT_TRUE(Tells(page, "3 of 3"));
   page.ChangeMode(1);
   EXPECT_TRUE(Tells(page, "3 of 3")) << "the part of phone is selected in the page too";
+}
+
+TEST_F(RealFind, ReplaceIsThereFromTheFirstMoment) {
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  Select(page, QStringLiteral("p:last-of-type"));
+  Key(page, Qt::Key_H, Qt::ControlModifier);
+  EXPECT_TRUE(WaitFor([&] { return Box(page, "txtFind").text() == QStringLiteral("phone"); }));
+  QTest::keyClicks(&Box(page, "txtReplace"), QStringLiteral("call"));
+  Press(page, "cmdReplace");
+  EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("<p>call")); })) << Seen(page);
+}
+
+TEST_F(RealFind, TheMatchIsSelectedInTheSourceEditorToo) {
+  frmMain &page = OpenBar(Qt::Key_F);
+  QTest::keyClicks(&Box(page, "txtFind"), QStringLiteral("hon"));
+  ASSERT_TRUE(Tells(page, "1 of 1"));
+  page.ChangeMode(3);
+  frmCodeEditor &editor = *window.Context().pages.CodeEditor(page.Number());
+  EXPECT_EQ(editor.Code().SelectedText(), QStringLiteral("hon"));
+  Choose("mnuFind");
+  const auto &box = *editor.findChild<QLineEdit *>(QStringLiteral("txtFind"));
+  EXPECT_EQ(box.text(), QStringLiteral("hon"));
+  EXPECT_EQ(editor.findChild<QLabel *>(QStringLiteral("lblResult"))->text(),
+            QStringLiteral("1 of 1"));
 }
 
 }  // namespace

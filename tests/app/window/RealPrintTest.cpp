@@ -54,6 +54,16 @@ class RealPrint : public RealWindow {
     BeginExport();
     ASSERT_TRUE(WaitFor([this] { return Exists(QStringLiteral("page.pdf")); }));
   }
+  /// Somebody who waits for the pages and prints them.
+  void ExpectPrinting() {
+    dialogs.ExpectModal([](QWidget &dialog) {
+      dialog.show();
+      auto *print = dialog.findChild<QPushButton *>(QStringLiteral("cmdPrint"));
+      ASSERT_TRUE(WaitFor([&] { return print->isEnabled(); }));
+      print->click();
+      EXPECT_TRUE(WaitFor([&] { return dialog.isHidden(); }));
+    });
+  }
   QString Read(const char *program, const QStringList &arguments) const {
     QProcess reader;
     reader.start(QString::fromLatin1(program), arguments);
@@ -139,13 +149,7 @@ TEST_F(RealPrint, CtrlPShowsThePagesAndPrintsThem) {
   FakePrinters printers;
   window.SetPrinters(printers);
   frmMain &page = OpenPage();
-  dialogs.ExpectModal([](QWidget &dialog) {
-    dialog.show();
-    auto *print = dialog.findChild<QPushButton *>(QStringLiteral("cmdPrint"));
-    ASSERT_TRUE(WaitFor([&] { return print->isEnabled(); }));
-    print->click();
-    EXPECT_TRUE(WaitFor([&] { return dialog.isHidden(); }));
-  });
+  ExpectPrinting();
   Key(page, Qt::Key_P, Qt::ControlModifier);
   ASSERT_TRUE(WaitFor([&] { return printers.ended == 1; }));
   ASSERT_EQ(printers.sheets.size(), 2U);
@@ -155,6 +159,26 @@ TEST_F(RealPrint, CtrlPShowsThePagesAndPrintsThem) {
     for (int x = 0; x < 283; ++x)
       hasPicture = hasPicture || printers.sheets[0].pixel(x, y) == qRgb(255, 0, 0);
   EXPECT_TRUE(hasPicture);
+}
+
+TEST_F(RealPrint, ThePreviewIsPrintedWithTheSheetsThatItsScriptsMade) {
+  FakePrinters printers;
+  window.SetPrinters(printers);
+  frmMain &page = Open(QStringLiteral("page.htm"),
+                       "<!DOCTYPE html>\n<html><body><p>One</p><script>document.body.innerHTML +="
+                       "'<p style=\"break-before: page\">Two'</script></body></html>\n");
+  page.ChangeMode(4);
+  QWebEnginePage &preview = EngineOf(*window.Context().preview);
+  ASSERT_TRUE(WaitFor([&] {
+    return Evaluate(preview, QStringLiteral("document.readyState === 'complete' &&"
+                                            "document.querySelectorAll('p').length === 2"))
+        .toBool();
+  }));
+  ExpectPrinting();
+  QTest::keyClick(window.Context().preview->focusProxy()->focusProxy(), Qt::Key_P,
+                  Qt::ControlModifier);
+  ASSERT_TRUE(WaitFor([&] { return printers.ended == 1; }));
+  EXPECT_EQ(printers.sheets.size(), 2U);
 }
 
 TEST_F(RealPrint, ZoomIsEachWindowsOwnStaysOverLoadsAndIsNotInThePage) {

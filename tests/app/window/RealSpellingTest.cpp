@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The spelling of a page, by keys: waves, the word at the caret, the walk through the page.
 #include "app/settings/modSettingManager.h"
+#include "editor/PageSlots.h"
+#include "editor/PageWords.h"
 #include "editor/SpellingBar.h"
 #include "editor/frmMain.h"
 #include "platform/Paths.h"
@@ -14,6 +16,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QTreeWidget>
 #include <QWebEnginePage>
@@ -64,6 +67,17 @@ class RealSpelling : public RealWindow {
     QStringList captions;
     for (const QAction *action : actions) captions << action->text();
     return captions;
+  }
+  /// The menu at the page's first unknown word.
+  static QMenu &WordMenu(frmMain &page) {
+    Evaluate(EngineOf(page), QStringLiteral("getSelection().collapse(a.firstChild, 6)"));
+    Key(page, Qt::Key_Period, Qt::ControlModifier);
+    QMenu *menu = nullptr;
+    EXPECT_TRUE(WaitFor([&] {
+      menu = page.findChild<QMenu *>(QStringLiteral("mnuWord"));
+      return menu != nullptr && menu->isVisible();
+    }));
+    return *menu;
   }
   std::string Saved() {
     Choose("mnuSave");
@@ -129,18 +143,12 @@ TEST_F(RealSpelling, EscapeLeavesTheKeyboardOnTheWord) {
 
 TEST_F(RealSpelling, TheMenuAtTheWordCorrectsIt) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
-  Evaluate(EngineOf(page), QStringLiteral("getSelection().collapse(a.firstChild, 6)"));
-  Key(page, Qt::Key_Period, Qt::ControlModifier);
-  QMenu *menu = nullptr;
-  ASSERT_TRUE(WaitFor([&] {
-    return (menu = page.findChild<QMenu *>(QStringLiteral("mnuWord"))) != nullptr &&
-           menu->isVisible();
-  }));
-  const QStringList captions = Captions(menu->actions());
+  QMenu &menu = WordMenu(page);
+  const QStringList captions = Captions(menu.actions());
   ASSERT_TRUE(captions.contains(QStringLiteral("house"))) << captions.join(u'|').toStdString();
   EXPECT_TRUE(captions.contains(QStringLiteral("Ignore \"hose\"")));
-  menu->actions()[captions.indexOf(QStringLiteral("house"))]->trigger();
-  menu->close();
+  menu.actions()[captions.indexOf(QStringLiteral("house"))]->trigger();
+  menu.close();
   ASSERT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("the house in")); }));
   EXPECT_EQ(Saved(), QByteArray(Words).replace("the hose", "the house").toStdString());
 }
@@ -191,6 +199,32 @@ TEST_F(RealSpelling, AnAddedWordIsInThePersonsFileAndItsWavesGo) {
   EXPECT_EQ(Bytes(QStringLiteral("words.txt")).toStdString(), "hose\n");
 }
 
+TEST_F(RealSpelling, AWordOfTheSiteIsAddedToAFileBesideTheProject) {
+  frmMain &page = Open(QStringLiteral("words.htm"), Words);
+  window.Context().pages.Site(page.Number()) = Logic(QStringLiteral("site"));
+  UseSpelling(page);
+  QMenu &menu = WordMenu(page);
+  const qsizetype place =
+      Captions(menu.actions()).indexOf(QStringLiteral("Add \"hose\" to the Words of the Site"));
+  ASSERT_GE(place, 0);
+  menu.actions()[place]->trigger();
+  menu.close();
+  EXPECT_TRUE(WavesCome(page, 1)) << "gardn is left";
+  EXPECT_EQ(Bytes(QStringLiteral("site-words.txt")).toStdString(), "hose\n");
+  EXPECT_FALSE(Exists(QStringLiteral("words.txt")));
+}
+
+TEST_F(RealSpelling, AMissingDictionaryIsToldOnceByItsPackage) {
+  const QByteArray french = "<p lang=en>hose<p lang=fr>bonjour\n";
+  const auto &status = *Find<QStatusBar>("Sta");
+  const auto isTold = [&] { return status.currentMessage().contains(u"hunspell-fr "); };
+  Open(QStringLiteral("one.htm"), french);
+  EXPECT_TRUE(WaitFor(isTold));
+  frmMain &other = Open(QStringLiteral("other.htm"), french);
+  EXPECT_TRUE(WavesCome(other, 1)) << "all its words were judged";
+  EXPECT_FALSE(isTold()) << status.currentMessage().toStdString();
+}
+
 TEST_F(RealSpelling, AllOpenPagesAreCheckedAndCorrectedTogether) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   frmMain &other = Open(QStringLiteral("other.htm"), "<p>gardn and gardn\n");
@@ -200,9 +234,10 @@ TEST_F(RealSpelling, AllOpenPagesAreCheckedAndCorrectedTogether) {
     QStringList rows;
     for (int row = 0; row < words.topLevelItemCount(); ++row) {
       const QTreeWidgetItem &item = *words.topLevelItem(row);
-      rows << item.text(0) + u' ' + item.text(1);
+      rows << item.text(0) + u' ' + item.text(1) + u' ' + item.text(2);
     }
-    EXPECT_EQ(rows, (QStringList{"gardn 3", "hose 3"})) << rows.join(u'|').toStdString();
+    EXPECT_EQ(rows, (QStringList{"gardn 3 words.htm, other.htm", "hose 3 words.htm"}))
+        << rows.join(u'|').toStdString();
     auto &box = *list.findChild<QComboBox *>(QStringLiteral("cobChangeTo"));
     // As the arrow keys leave it: the suggestion is selected.
     box.setCurrentIndex(box.findText(QStringLiteral("garden")));
