@@ -14,7 +14,7 @@ import * as selection from '../page/selection.js';
 import { putWidth, widthBearers } from '../tables/columns.js';
 import { gridOf, placeOf } from '../tables/grid.js';
 
-const reach = 4;   // pixels beside an edge where a press is on it
+const reach = 4;   // pixels beside an edge where a press is on it, a quarter of the cell at most
 const slack = 3;   // pixels before a press becomes a drag
 const least = 10;  // pixels of a column's width
 
@@ -56,6 +56,18 @@ function columnOf(grid, column) {
   return { cell: place.cell, bearers, width, fresh: width };
 }
 
+/**
+ * The edge of a cell that a position is on; null for none.
+ * @param {HTMLElement} cell
+ * @param {number} x
+ */
+function sideAt(cell, x) {
+  const { left, right } = boxes.boxOf(cell);
+  const within = Math.min(reach, (right - left) / 4);
+  if (right - x <= within && x - right <= reach) return 'right';
+  return x - left <= within && left - x <= reach ? 'left' : null;
+}
+
 // The table and the number of the column behind the edge that the pointer is on; null for none. At
 // the table's right edge, which is dragged as an object's is (gestures.js), that is no column.
 /** @param {MouseEvent} event */
@@ -66,9 +78,9 @@ function edgeAt(event) {
   if (!cell || !document.body.contains(cell) || cell.closest('[contenteditable=false i]')) {
     return null;
   }
-  const { left, right } = boxes.boxOf(cell);
-  const isRight = Math.abs(x - right) <= reach;
-  if (!isRight && Math.abs(x - left) > reach) return null;
+  const side = sideAt(cell, x);
+  if (!side) return null;
+  const isRight = side === 'right';
   const table = cell.closest('TABLE');
   const grid = gridOf(/** @type {HTMLTableElement} */ (table));
   const { column, width } = placeOf(grid, cell);

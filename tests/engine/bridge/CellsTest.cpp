@@ -380,6 +380,22 @@ TEST_F(Edges, AClickAtAnEdgePutsTheCaretThere) {
   EXPECT_EQ(Body(), loaded_);
 }
 
+TEST_F(Edges, HalfOfANarrowCellIsTheCellsOwn) {
+  const QString cell = QStringLiteral("<td style=\"width: 12px\">i</td>");
+  LoadColumns(QStringLiteral("<table style=\"width: 36px\"><tbody><tr>") + cell + cell + cell +
+              QStringLiteral("</tr>"));
+  const auto isEdge = [this](int x) {
+    page_.Move({x, 20});
+    return Evaluate(QStringLiteral("getComputedStyle(document.querySelector('td')).cursor"
+                                   " === 'col-resize'"))
+        .toBool();
+  };
+  for (const auto &[x, expected] : {std::pair{13, true}, {16, false}, {20, false}, {23, true}})
+    EXPECT_TRUE(WaitFor([&] { return isEdge(x) == expected; }, 2000)) << x;
+  page_.Click({16, 20});
+  EXPECT_TRUE(Comes(QStringLiteral("getSelection().anchorNode.parentNode.cellIndex === 1")));
+}
+
 TEST_F(Edges, TheTablesRightEdgeIsDraggedAtOnce) {
   LoadColumns(
       QStringLiteral("<table width=\"300\"><tbody><tr><td>a</td><td>b</td><td>c</td></tr>"));
