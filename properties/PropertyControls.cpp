@@ -105,12 +105,8 @@ void frmProperties::AddTextBox(Row &row, const QString &value, QWidget *beside) 
   const QString label = Words::tr(row.field->label);
   const bool isColor = row.field->kind == FieldKind::Color;
   row.text = FormParts::AddTextBox(Form(), name, label, isColor ? MakePicker(name, label) : beside);
-  row.text->setText(value);
+  BeginText(row, value);
   if (isColor) Connect(*row.text, name);
-  ShowHint(*row.text, *row.field);
-  ShowHelp(*row.text, *row.field);
-  connect(row.text, &QLineEdit::textEdited, this, [this] { refusal_->hide(); });
-  connect(row.text, &QLineEdit::textChanged, this, &frmProperties::ShowSample);
 }
 
 QComboBox *frmProperties::AddListBox(Row &row, const QString &value, QWidget *beside) {
@@ -125,12 +121,16 @@ QComboBox *frmProperties::AddListBox(Row &row, const QString &value, QWidget *be
   if (row.field->kind != FieldKind::Font) list->setCompleter(nullptr);
   FormParts::AddControl(Form(), name + QStringLiteral("_list"), label, list, beside);
   FormParts::Name(*row.text, name, label);
-  list->setEditText(value);
+  BeginText(row, value);
+  return list;
+}
+
+void frmProperties::BeginText(Row &row, const QString &value) {
+  row.text->setText(value);
   ShowHint(*row.text, *row.field);
   ShowHelp(*row.text, *row.field);
   connect(row.text, &QLineEdit::textEdited, this, [this] { refusal_->hide(); });
-  connect(list, &QComboBox::editTextChanged, this, &frmProperties::ShowSample);
-  return list;
+  connect(row.text, &QLineEdit::textChanged, this, &frmProperties::ShowSample);
 }
 
 void frmProperties::Offer(QComboBox &list, const QStringList &offers) {

@@ -55,6 +55,8 @@ class frmProperties final : public QDialog {
   void AddTextBox(Row &row, const QString &value, QWidget *beside);
   /// A box to type into, with a list to choose from.
   QComboBox *AddListBox(Row &row, const QString &value, QWidget *beside);
+  /// Gives the box of a row its value and help, and listens to it.
+  void BeginText(Row &row, const QString &value);
   /// Fills the list; what is in the box stays.
   static void Offer(QComboBox &list, const QStringList &offers);
   void AddAddressBox(Row &row, const QString &value);
