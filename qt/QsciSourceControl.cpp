@@ -41,6 +41,9 @@ constexpr int FewestDigits = 4;
 constexpr int MarginBackground = 1;
 constexpr int LineNumberBackground = 26;
 constexpr int LineNumberText = 27;
+/// What they have until the owner says otherwise: grey numbers on white.
+const std::map<int, std::int32_t> SlotColors = {
+    {MarginBackground, 0x808080}, {LineNumberBackground, 0xFFFFFF}, {LineNumberText, 0x808080}};
 
 /// "Lucida Console" where it is installed; the control itself would fall back to a proportional
 /// font for a family it does not find.
@@ -89,7 +92,7 @@ QColor Mix(const QColor &one, const QColor &other, double share) {
 }  // namespace
 
 QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
-    : editor_(new QsciScintilla(parent)) {
+    : editor_(new QsciScintilla(parent)), colors_(SlotColors) {
   lexer_ = new SourceLexer(editor_);
   marks_ = new SourceMarks(editor_);
   editor_->setUtf8(true);

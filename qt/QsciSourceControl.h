@@ -59,7 +59,7 @@ class QsciSourceControl final : public QObject, public SourceControl {
   long LineEnd(int line) const;
   /// Sets the colours of text, margins and marks from the palette.
   void ApplyPalette();
-  /// Sets the colours that the owner chose, by `colors_`, over the palette's.
+  /// Sets the colours of `colors_`, in the palette's lightness.
   void ApplyColorSlots();
   /// Makes the margin as wide as the largest line number.
   void FitLineNumbers();

@@ -101,9 +101,6 @@ TEST(QsciSourceControlTest, TheColourSlotsColourTheMargins) {
 TEST(QsciSourceControlTest, LineNumbersStandGreyOnPaperInLightAndDark) {
   QWidget host;
   QsciSourceControl source(&host, SourceAccess::Edit);
-  source.SetColor(1, 0x808080);
-  source.SetColor(26, 0xFFFFFF);
-  source.SetColor(27, 0x808080);
   const auto color = [&](unsigned int message) {
     const auto value =
         static_cast<int>(EditorOf(source)->SendScintilla(message, QsciScintilla::STYLE_LINENUMBER));
