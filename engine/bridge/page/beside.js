@@ -18,7 +18,8 @@ export function beside(node, offset, side) {
     if (index >= 0 && index < node.length) return { node, index };
   } else {
     const child = node.childNodes[back ? offset - 1 : offset];
-    if (child) return edge(child, back) ?? beside(child, 0, side);
+    const inner = child && edge(child, back);
+    if (child) return inner === undefined ? beside(child, 0, side) : inner;
   }
   while (!at[side]) {
     if (dom.isBlock(at)) return null;
