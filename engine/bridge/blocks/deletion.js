@@ -217,7 +217,7 @@ export function deleteRange(range) {
   if (thing) deleteThing(thing, rest);
   else if (spansUnits(range)) deleteAcross(rest.cloneRange(), rest);
   else deleteInParagraph(rest);
-  if (!thing) holdLastLine(rest);
+  holdLastLine(rest);
   return rest;
 }
 
@@ -228,8 +228,9 @@ function holdLastLine(rest) {
   const before = dom.isText(node) ? offset === 0 && node.previousSibling
     : node.childNodes[offset - 1];
   const last = before && dom.lastLeaf(before);
-  if (!dom.isBreak(last) || lineElement(last) !== lineElement(node)) return;
   const block = dom.blockOf(node);
+  const isBehind = dom.isBreak(last) && dom.blockOf(last) === block;
+  if (!isBehind || lineElement(last) !== lineElement(node)) return;
   const behind = document.createRange();
   behind.setStart(node, offset);
   behind.setEndAfter(block);
