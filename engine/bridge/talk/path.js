@@ -101,6 +101,8 @@ function select(element) {
 
 /** @param {AnyNode} element */
 function deleteAll(element) {
+  // A row in which no cell begins belongs to the cells that reach into it.
+  if (element.tagName === 'TR' && !element.cells.length) return;
   // Of what has to stay, the content goes.
   if (element === document.body || dom.isCell(element)) select(element);
   else selection.selectNode(element);
