@@ -60,7 +60,7 @@
     // The faults of a step that found the look `was`, with so many characters before and behind its
     // selection, and in the rest of the block that it ends in. What is within `near` characters of
     // the selection may be its own; that block's end goes where it joins another.
-    faults(was, { before, behind, rest, near, deletes, joinsRaw }) {
+    faults(was, { before, behind, rest, near, deletes, joinsRaw, joinsLines }) {
       const now = source.look();
       const faults = [];
       const [count, after] = [was.chars.length, now.chars.length];
@@ -76,7 +76,8 @@
         }
       };
       kept(1, before - near, 0);
-      kept(count - behind + 1 + near, count, after - count);
+      // What joins preformatted text has the lines that were seen of it.
+      kept(count - behind + (joinsLines ? rest : 0) + 1 + near, count, after - count);
       const wordsUnder = (sign) =>
         now.marks.filter((mark) => mark.sign === sign).map(({ words }) => words).join('');
       // What joins text without markup is such text too.

@@ -52,7 +52,8 @@
     return isTravel(step.action) ? [] : source.faults(was, {
       before: before.length, behind: behind.length, rest: rest.length,
       near: /^Ctrl\+(Backspace|Del)$/.test(value) ? 12 : 1,
-      deletes: verb !== 'exec' || value === Command.Delete, joinsRaw: step.raw });
+      deletes: verb !== 'exec' || value === Command.Delete, joinsRaw: step.raw,
+      joinsLines: step.lined });
   }
 
   // The block that the selection ends in; where no words follow in it, the one of the next words,
@@ -332,6 +333,8 @@
         before, action, source: source.look(), parts: parts(), lines: shownLines(),
         count: objects(), control: control(),
         raw: inside.dom.rawAt(inside.selection.range().startContainer) !== null,
+        lined: inside.dom.isPreformatted(
+          inside.dom.blockOf(inside.selection.range().startContainer)),
         table: control()?.tagName === 'TABLE',
         status: verb === 'exec' ? inside.statusOf(first) : 0,
       };
