@@ -119,13 +119,30 @@ function deleteObject(object) {
   deleteToLine(range);
 }
 
-// What the engine would delete of one paragraph, where a comment is in it or beside it: the engine
-// would take that too. Null for anything else.
+// True where a range has all that is seen of a block, and something is there beside it that nobody
+// sees: a hidden field or text, a named place.
+/** @param {Range} range */
+function leavesUnseen({ startContainer: text, startOffset, endContainer, endOffset }) {
+  if (text !== endContainer || !dom.isText(text)) return false;
+  if ((text.data.slice(0, startOffset) + text.data.slice(endOffset)).trim()) return false;
+  const around = document.createRange();
+  around.selectNodeContents(dom.blockOf(text));
+  const leaves = [...selection.leavesIn(around)]
+    .filter((leaf) => leaf !== text && dom.isShown(leaf));
+  return leaves.length > 0 && leaves.every((leaf) => {
+    if (dom.isInline(leaf) && !dom.isAtom(leaf)) return !dom.isBreak(leaf);
+    around.selectNode(leaf);
+    return !around.getClientRects().length;
+  });
+}
+
+// What the engine would delete of one paragraph, where a comment is in it or beside it, or nothing
+// that is seen would be left beside it: the engine would take that too. Null for anything else.
 /**
  * @param {Range} caret
  * @param {PlainRange | null} target
  */
-function aroundComments(caret, target) {
+function besideUnseen(caret, target) {
   if (!target) return null;
   if (dom.blockOf(target.startContainer) !== dom.blockOf(target.endContainer)) return null;
   const range = document.createRange();
@@ -137,7 +154,7 @@ function aroundComments(caret, target) {
   if (side > 0) range.setEnd(startContainer, startOffset);
   const isBeside = isCommentBeside(range.startContainer, range.startOffset, 'previousSibling') ||
     isCommentBeside(range.endContainer, range.endOffset, 'nextSibling');
-  return isBeside || dom.holdsComment(range) ? range : null;
+  return isBeside || dom.holdsComment(range) || leavesUnseen(range) ? range : null;
 }
 
 /**
@@ -150,8 +167,8 @@ function aroundComments(caret, target) {
 export function deletionAtCaret(range, side, target) {
   const signs = wholeSigns(target);
   if (signs) return () => deleteToLine(signs);
-  const commented = aroundComments(range, target);
-  if (commented) return () => deleteAroundComments(commented);
+  const visible = besideUnseen(range, target);
+  if (visible) return () => deleteAroundComments(visible);
   if (isWithinText(range, side)) return null;
   const unit = unitsIn(range)[0];
   if (!unit || !range.collapsed) return null;
