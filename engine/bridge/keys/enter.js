@@ -135,7 +135,7 @@ function enterInItem(unit) {
   if (isEmpty) return () => lists.outdentItemOf(unit);
   const others = [...item.children].filter((child) => child !== unit.block && dom.isBlock(child));
   const goesOn = unit.block
-    ? /^(P|DIV)$/.test(unit.block.tagName) && unit.block.parentNode === item &&
+    ? /^(P|DIV|H[1-6])$/.test(unit.block.tagName) && unit.block.parentNode === item &&
       dom.neighbour(unit.block, 'nextSibling')
     : unit.container === item && others.length > 0;
   return goesOn || goesOnInside(unit, item) ? () => splitBlock(item) : null;
