@@ -85,7 +85,7 @@ const isWithinText = ({ startContainer: node, startOffset: offset, collapsed }, 
   (side === 'start' ? node.data.slice(0, offset) : node.data.slice(offset)).trim() !== '';
 
 // What is beside a caret; `isPast` where something that nobody sees (a hidden field) lies between.
-// White space at a line's edge is not seen either.
+// White space at a line's edge or behind a blank is not seen either.
 /**
  * @param {PlainRange} caret
  * @param {Edge} side
@@ -94,13 +94,14 @@ function seenBeside({ startContainer, startOffset }, side) {
   const [way, step] = side === 'start'
     ? /** @type {const} */ (['previousSibling', 0]) : /** @type {const} */ (['nextSibling', 1]);
   let found = beside(startContainer, startOffset, way);
-  const isAtLineEdge = beside(startContainer, startOffset,
-    side === 'start' ? 'nextSibling' : 'previousSibling') === null;
+  const other = beside(startContainer, startOffset,
+    side === 'start' ? 'nextSibling' : 'previousSibling');
+  const hidesBlank = other === null || isBlank(other);
   for (let isPast = false; ; isPast = true) {
     let at = found;
     while (isBlank(at)) at = beside(at.node, at.index + step, way);
     if (!at?.object) return { found, isPast };
-    if (at.object.getClientRects().length) return { found: isAtLineEdge ? at : found, isPast };
+    if (at.object.getClientRects().length) return { found: hidesBlank ? at : found, isPast };
     found = beside(at.object.parentNode, selection.indexOf(at.object) + step, way);
   }
 }
