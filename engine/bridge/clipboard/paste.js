@@ -222,10 +222,14 @@ const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
  * @param {AnyNode} node
  */
 function dropDoubleEmphasis(fragment, node) {
-  const around = new Set();
-  for (let at = node; !dom.isBlock(at); at = at.parentNode) around.add(kindOf(at));
+  /** @type {AnyNode[]} */
+  const around = [];
+  for (let at = node; !dom.isBlock(at); at = at.parentNode) around.push(at);
+  /** @param {Element} element */
+  const adds = (element) => !around.some((outer) => kindOf(outer) === kindOf(element) &&
+    (!element.attributes.length || outer.cloneNode(false).isEqualNode(element.cloneNode(false))));
   for (const element of fragment.querySelectorAll(emphasis)) {
-    if (!element.attributes.length && around.has(kindOf(element))) dom.unwrap(element);
+    if (!adds(element)) dom.unwrap(element);
   }
 }
 /** @param {AnyNode} node */
