@@ -95,7 +95,7 @@
       const subject = oneOf(Object.keys(values));
       const [element, [key, value]] = [number(), oneOf(values[subject])];
       // Two elements with one id are a person's own doing.
-      const pair = [key, key === 'id' ? `n${ids++}` : value];
+      const pair = [key, key === 'id' ? `own${ids++}` : value];
       return { name: `${subject} ${pair.join('=')}`, keeps: true, run() {
         velor.properties(subject, element);
         velor.setProperties(subject, Object.fromEntries([pair]), element);
