@@ -4,7 +4,7 @@
 palette and scale, on the whole screen.
 
 Usage: screenshots.py RUN_FOLDER OUT_FOLDER light|dark|contrast SCALE_PERCENT [SESSION...]
-Sessions are recovery, start, main, manual, objects, names, projects and readme; without any, all of them.
+Sessions are recovery, start, main, manual, words, objects, properties, names, projects and readme; without any, all of them.
 """
 import os
 import shutil
@@ -198,6 +198,52 @@ CELLS = """<!DOCTYPE html>
 <tr><td>Plums</td><td>21</td><td>2.90</td></tr></table>
 </body></html>
 """
+
+
+PROPERTIES = """<!DOCTYPE html>
+<html lang="en"><head><title>Prices</title></head><body style="margin: 20px">
+<p><a href="prices.htm">Prices</a></p>
+<p><img alt="A tea pot" width="120" height="60" src="data:image/svg+xml,%3Csvg xmlns='http://www.w3.org/2000/svg'
+ viewBox='0 0 4 2'%3E%3Crect width='4' height='2' fill='%235b8c5a'/%3E%3C/svg%3E"></p>
+<table border="1" cellpadding="8"><tr><td>Apples</td><td>12</td></tr><tr><td>Pears</td><td>7</td></tr></table>
+</body></html>
+"""
+
+
+def properties(photos):
+    """Every window of properties on every tab, and the page's menu with each of its menus."""
+    program = photos.program
+    path = os.path.join(program.folder, "prices.htm")
+    with open(path, "w", encoding="utf-8") as page:
+        page.write(PROPERTIES)
+    open_file(program, path, "prices.htm")
+    view = program.wait(role="document web")
+    place = Atspi.Component.get_extents(view, Atspi.CoordType.SCREEN)
+
+    def select(x, y, name):
+        program.click(int((place.x + x) * photos.factor), int((place.y + y) * photos.factor))
+        program.wait(name)
+
+    def window(name, *tabs):
+        what = name.lower().replace(" ", "-")
+        photos.dialog(photos.command(name), what, ("Cancel",))
+        for tab in tabs:
+            photos.dialog(lambda tab=tab: photos.command(name)() or photos.click(tab, "page tab"),
+                          f"{what}-{tab.lower()}", ("Cancel",))
+
+    select(40, 25, "A")
+    window("Page Properties", "Appearance")
+    window("Hyperlink Properties")
+    window("Fonts Properties")
+    window("Get Element TagName")
+    select(60, 80, "IMG")
+    window("Image Properties", "Appearance")
+    select(60, 150, "TD")
+    window("Table Properties")
+    window("Table Cell Properties")
+    photos.dialog(photos.command("Insert Custom HTML"), "insert-custom-html", ("Cancel",))
+    for what, keys in (("properties", ["Down"] * 4), ("table", ["Up"] * 3), ("absolute", ["Up"] * 2)):
+        photos.popup(lambda: program.key("Menu"), f"menu-{what}", *keys, "Right")
 
 
 def open_file(program, path, caption):
@@ -560,6 +606,7 @@ def main(run_folder, out, palette, scale, *wanted):
         "manual": lambda: session("manual", (), manual),
         "words": lambda: session("words", (), words),
         "objects": lambda: session("objects", (), objects),
+        "properties": lambda: session("properties", (), properties),
         "names": lambda: session("names", (), names),
         "projects": lambda: session("projects", (), projects),
         "readme": lambda: session("readme", (), readme),
