@@ -97,7 +97,11 @@ const headings = (part) => {
 /** @type {Field} */
 const isHeading = {
   read: (cell) => (cell.tagName === 'TH' ? 'true' : ''),
-  write: (cell, value) => dom.rename(cell, value ? 'TH' : 'TD'),
+  write(cell, value) {
+    const made = dom.rename(cell, value ? 'TH' : 'TD');
+    if (!value) takeAttribute(made, 'scope');
+    return made;
+  },
 };
 /** @type {Field} */
 const noWrap = {

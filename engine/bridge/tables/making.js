@@ -34,8 +34,10 @@ export function takeWidth(element) {
   if (element.style.width) takeDeclaration(element, 'width');
 }
 
-// What is a cell's own and not of those like it.
-const own = ['rowspan', 'colspan', 'headers', 'abbr', 'scope'];
+// What is a cell's own and not of those like it. A heading of one row or column heads that.
+const own = ['rowspan', 'colspan', 'headers', 'abbr'];
+/** @param {HTMLTableCellElement} cell */
+const hasOwnScope = (cell) => cell.tagName !== 'TH' || !/^(row|col)$/i.test(cell.scope);
 /**
  * An empty cell like the given one, with one slot.
  * @param {HTMLTableCellElement} cell
@@ -45,8 +47,25 @@ const own = ['rowspan', 'colspan', 'headers', 'abbr', 'scope'];
 export function cellLike(cell, tag = cell.tagName) {
   const made = dom.rename(dom.twin(cell), tag);
   for (const name of own) made.removeAttribute(name);
+  if (hasOwnScope(made)) made.removeAttribute('scope');
   made.append(dom.create('BR'));
   return made;
+}
+
+/**
+ * A cell is no heading any more: the table's cells that name it as theirs name another one.
+ * @param {Element} table
+ * @param {string} id
+ * @param {string} instead its id; empty for none
+ */
+export function exchangeHeading(table, id, instead) {
+  for (const cell of table.querySelectorAll('[headers]')) {
+    const names = cell.getAttribute('headers').split(/\s+/).filter(Boolean);
+    if (!names.includes(id)) continue;
+    const left = new Set(names.map((name) => (name === id ? instead : name)).filter(Boolean));
+    if (left.size) cell.setAttribute('headers', [...left].join(' '));
+    else takeAttribute(cell, 'headers');
+  }
 }
 
 /**
@@ -54,8 +73,11 @@ export function cellLike(cell, tag = cell.tagName) {
  * @param {Element} element
  */
 export function takeOut(element) {
+  const table = element.closest('TABLE');
   dropLine(element);
   element.remove();
+  const ids = [element, ...element.querySelectorAll('[id]')].map(({ id }) => id).filter(Boolean);
+  for (const id of ids) exchangeHeading(table, id, '');
 }
 
 /**

@@ -3,7 +3,7 @@
 // Cells that become one, and one that becomes several.
 import { nodeBehind, gridOf, isInSection, placeOf, placesIn } from './grid.js';
 import { insertColumn } from './columns.js';
-import { cellLike, isEmpty, setSpan, takeOut } from './making.js';
+import { cellLike, exchangeHeading, isEmpty, setSpan, takeOut } from './making.js';
 import { deleteRows } from './rows.js';
 import * as dom from '../page/dom.js';
 
@@ -55,6 +55,7 @@ export function mergeCells(grid, rectangle) {
   const [{ cell }, ...others] = placesIn(grid, rectangle);
   for (const { cell: other } of others) {
     moveContent(cell, other);
+    if (other.id) exchangeHeading(grid.table, other.id, cell.id);
     takeOut(other);
   }
   setSpan(cell, 'colspan', right - left + 1);

@@ -11,8 +11,12 @@ TEST(Tables, NoChangeOfTenThousandLeavesAHoleAnOverlapOrAnotherWord) {
   BridgePage page;
   page.Load(QStringLiteral("<!DOCTYPE html><p>one|</p>"));
   page.Evaluate(TestScript("pages.js") + TestScript("tables.js"));
-  const QVariantMap tried = page.Evaluate(QStringLiteral("tryTables(10000)")).toMap();
-  EXPECT_EQ(tried[QStringLiteral("fault")].toString().toStdString(), "");
+  QVariantMap tried;
+  // In parts, since an answer is waited for so long only.
+  for (int part = 0; part < 10; ++part) {
+    tried = page.Evaluate(QStringLiteral("tryTables(1000)")).toMap();
+    ASSERT_EQ(tried[QStringLiteral("fault")].toString().toStdString(), "");
+  }
   const QVariantMap done = tried[QStringLiteral("done")].toMap();
   const QStringList kinds = tried[QStringLiteral("kinds")].toStringList();
   EXPECT_EQ(kinds.size(), 15);
