@@ -48,9 +48,9 @@
       else inside.selection.setCaret(from, 0);
       return;
     }
-    // No person's selection is among a table's columns.
+    // No person's selection is among a table's columns, or a row in which no cell begins.
     const all = [...document.body.querySelectorAll('*')]
-      .filter((each) => !each.closest('head, colgroup'));
+      .filter((each) => !each.closest('head, colgroup, tr:empty'));
     const element = all.length ? oneOf(all) : document.body;
     if (kind === 3) inside.selection.selectNode(element);
     else if (kind === 4) document.getSelection().selectAllChildren(element);
