@@ -352,6 +352,38 @@ TEST_F(Saving, AnIncludeFileNeverGetsTheTagsOfAWholePage) {
   EXPECT_EQ(Bytes(QStringLiteral("page.asp")), "<% a %>\r\n\r\n<% c %>\r\n");
 }
 
+struct IncludeFile {
+  const char *name;
+  const char *file;
+  const char *saved;
+};
+class IncludeFiles : public Saving, public ::testing::WithParamInterface<IncludeFile> {};
+
+TEST_P(IncludeFiles, HaveNoMoreThanTheNewWordWhenAWordIsTypedOver) {
+  const QString path = Write(QStringLiteral("page.php"), GetParam().file);
+  editor_->LoadDocument(path);
+  Evaluate(
+      QStringLiteral("const walker = document.createTreeWalker(document.body, 4);"
+                     "while (walker.nextNode()) {"
+                     "  const text = walker.currentNode;"
+                     "  text.data = text.data.replace('two', 'new');"
+                     "}"));
+  editor_->SaveDocument(path);
+  EXPECT_EQ(Bytes(QStringLiteral("page.php")), GetParam().saved);
+}
+
+const IncludeFile Includes[] = {
+    {"TextAlone", "One two", "One new"},
+    {"TextBehindAByteOrderMark", "\xEF\xBB\xBFOne two\n", "\xEF\xBB\xBFOne new\n"},
+    {"LinesOfCrLf", "<li>One\r\n<li>two\r\n", "<li>One\r\n<li>new\r\n"},
+    {"DoctypeAlone", "<!DOCTYPE html>\n<p>two</p>\n", "<!DOCTYPE html>\n<p>new</p>\n"},
+    {"ServerCodeFirst", "<?php a(); ?>\n<b>two</b>\n<? b ?>", "<?php a(); ?>\n<b>new</b>\n<? b ?>"},
+    {"StyleFirst", "<style>p{}</style>\n<p>two", "<style>p{}</style>\n<p>new"},
+    {"CommentsAround", "<!-- a -->\ntwo<!-- b -->\n", "<!-- a -->\nnew<!-- b -->\n"},
+};
+INSTANTIATE_TEST_SUITE_P(Forms, IncludeFiles, ::testing::ValuesIn(Includes),
+                         [](const auto &form) { return std::string(form.param.name); });
+
 TEST_F(Saving, AValueIsChangedInTheQuotesThatItHad) {
   const QString path =
       Write(QStringLiteral("page.htm"), "<P ALIGN=left>one<P ALIGN='left'>two<P ALIGN=left>three");
