@@ -130,6 +130,8 @@ class PageRequests {
   virtual void OpenDroppedFiles(const QStringList &paths, frmMain *page) = 0;
   /// The selected picture of `page` was double clicked.
   virtual void ShowPictureProperties(frmMain & /*page*/) {}
+  /// A part of the selected picture of `page` is to be chosen.
+  virtual void CropPicture(frmMain & /*page*/) {}
   /// Clears the element tool box's record of the element under the caret.
   virtual void ResetElementInspection() = 0;
 };

@@ -77,7 +77,8 @@ PagePictures::PagePictures(EditorContext &context, frmMain &page)
       copied_(context.platform.files, context.platform.replaced,
               [&context, number = page.Number()](const QString &path) {
                 return IsNamedElsewhere(context, number, path);
-              }) {
+              }),
+      rewritten_(context.platform.files) {
   QObject::connect(bar_, &PictureBar::CopyChosen, [this] { CopyAll(); });
   QObject::connect(bar_, &PictureBar::LinkChosen, [this] { LinkAll(); });
   QObject::connect(bar_, &PictureBar::UndoChosen, [this] { UndoAll(); });
@@ -281,14 +282,20 @@ void PagePictures::UndoAll() {
 }
 
 void PagePictures::Follow() {
-  if (!copied_.IsEmpty()) copied_.Follow(page_.DHTML1().Memory().document);
+  if (copied_.IsEmpty() && rewritten_.IsEmpty()) return;
+  const QString text = page_.DHTML1().Memory().document;
+  rewritten_.Follow(text);
+  copied_.Follow(text);
 }
 
 void PagePictures::MarkSaved() {
+  rewritten_.MarkSaved();
   copied_.MarkSaved(context_.pages.Record(page_.Number()).SavedHTML);
 }
 
 void PagePictures::RemoveUnsaved() {
+  // First: a copy that holds what it was made with can go.
+  rewritten_.RemoveUnsaved();
   copied_.RemoveUnsaved();
 }
 

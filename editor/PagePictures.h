@@ -3,6 +3,7 @@
 
 #include "editor/EditorContext.h"
 #include "pictures/CopiedPictures.h"
+#include "pictures/RewrittenPictures.h"
 #include "platform/Journal.h"
 
 #include <QSize>
@@ -51,6 +52,8 @@ class PagePictures final {
 
   /// Has a file that was made for the page follow its text.
   void Own(const SitePicture &picture) { copied_.Add(picture); }
+  /// The picture files that were written anew for the page.
+  RewrittenPictures &Rewritten() { return rewritten_; }
   /// The page's text has changed: files follow Undo and Redo.
   void Follow();
   /// The page is in its file.
@@ -110,6 +113,7 @@ class PagePictures final {
   frmMain &page_;
   PictureBar *bar_;
   CopiedPictures copied_;
+  RewrittenPictures rewritten_;
   std::vector<Arrival> arrivals_;
   bool isGathering_ = false;  ///< what arrives together is told together
   std::vector<Homeless> homeless_;

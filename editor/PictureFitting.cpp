@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/PictureFitting.h"
 
+#include "editor/MainWindow.h"
 #include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
-#include "pictures/CodedPicture.h"
+#include "pictures/CropRules.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
 
+#include <QPointer>
 #include <QPushButton>
 
 namespace velor {
@@ -19,22 +21,6 @@ namespace {
 
 /// A file that is more than so many times as wide and high as its picture is told of.
 constexpr int MuchLarger = 2;
-
-/// A path beside `path` whose name has `tail` before its ending.
-QString Beside(const QString &path, const QString &tail) {
-  const qsizetype dot = path.lastIndexOf(u'.');
-  return path.left(dot) + tail + path.sliced(dot);
-}
-
-/// Creates a file beside `path` with that tail in its name, numbered where that is taken.
-QString CreateBeside(Files &files, const QString &path, const QString &tail,
-                     const QByteArray &content) {
-  for (int number = 1;; ++number) {
-    const QString numbered = number == 1 ? tail : tail + u'-' + QString::number(number);
-    const QString name = Beside(path, numbered);
-    if (files.CreateNew(name, content)) return name;
-  }
-}
 
 }  // namespace
 
@@ -53,9 +39,11 @@ PictureFitting::PictureFitting(EditorContext &context, frmMain &page)
   add("cmdFitTwice", Words::tr("Fit for Dense Screens"),
       Words::tr("Make the file twice as large as the picture is shown"), &PictureFitting::FitTwice);
   add("cmdTurnLeft", Words::tr("Turn Left"), Words::tr("Turn the file's picture left"),
-      [this] { Rewrite([](const QByteArray &file) { return Turned(file, Turn::Left); }); });
+      [this] { TurnPicture(Turn::Left); });
   add("cmdTurnRight", Words::tr("Turn Right"), Words::tr("Turn the file's picture right"),
-      [this] { Rewrite([](const QByteArray &file) { return Turned(file, Turn::Right); }); });
+      [this] { TurnPicture(Turn::Right); });
+  add("cmdCrop", Words::tr("Crop..."), Words::tr("Cut a part out of the file's picture"),
+      [this] { context_.mainWindow.requests.CropPicture(page_); });
   undo_ = add("cmdUndoFitting", Words::tr("Undo"), Words::tr("Put the file back as it was"),
               &PictureFitting::UndoChange);
 }
@@ -78,8 +66,11 @@ QString PictureFitting::FileOfSelection() const {
 
 void PictureFitting::SelectionChanged() {
   const ShownPicture picture = page_.DHTML1().Document().SelectedPicture();
-  if (picture.address == picture_.address && picture.shown == picture_.shown) return;
+  if (picture == picture_) return;
+  const bool isSame = picture.address == picture_.address;
   picture_ = picture;
+  // The bar tells what was done to it.
+  if (isSame && before_ && !page_.Pictures().Rewritten().OriginalOf(file_).isEmpty()) return;
   before_.reset();
   hide();
   if (!context_.hasAdditions || !IsMuchLarger()) return;
@@ -102,62 +93,129 @@ bool PictureFitting::IsHtml5() const {
   return html.startsWith(QStringLiteral("<!doctype html>"));
 }
 
-void PictureFitting::Rewrite(const std::function<QByteArray(const QByteArray &)> &change) {
-  Files &files = context_.platform.files;
+QImage PictureFitting::PictureToCut() {
+  picture_ = page_.DHTML1().Document().SelectedPicture();
+  const auto refuse = [this](const QString &why) {
+    context_.mainWindow.status.ReportOn(page_.Number(), why);
+    return QImage();
+  };
   try {
-    const QByteArray content = files.ReadAll(file_);
-    const QByteArray changed = change(content);
-    if (!before_) {
-      before_ = {.path = file_,
-                 .content = content,
-                 .original = CreateBeside(files, file_, QStringLiteral("-original"), content),
-                 .address = {}};
-    }
-    files.ReplaceAll(file_, changed);
-    ReportChange();
+    file_ = picture_.address.isEmpty() ? QString() : FileOfSelection();
+    if (!file_.isEmpty()) return UprightPicture(context_.platform.files.ReadAll(file_));
   } catch (const RuntimeError &error) {
-    ShowText(Words::tr("The file stays as it is: %1").arg(error.Description()));
+    return refuse(Words::tr("The file stays as it is: %1").arg(error.Description()));
   }
+  return refuse(
+      Words::tr("Select a picture of the site first: a JPEG, PNG or WebP file that does not move"));
+}
+
+QString PictureFitting::FileName() const {
+  return modGeneral::FileNameOfPath(file_);
+}
+
+void PictureFitting::CutPicture(const PictureCut &cut) {
+  if (cut.quarterTurns == 0 && cut.part == QRect({}, picture_.pixels)) return;
+  Rewrite([&cut](const QByteArray &file) { return Cropped(file, cut); },
+          ShownAfter(cut, picture_.pixels, picture_.shown));
+}
+
+void PictureFitting::TurnPicture(Turn turn) {
+  Rewrite([turn](const QByteArray &file) { return Turned(file, turn); },
+          picture_.shown.transposed());
 }
 
 void PictureFitting::Fit() {
-  Rewrite([size = picture_.shown](const QByteArray &file) { return Resized(file, size); });
+  Rewrite([size = picture_.shown](const QByteArray &file) { return Resized(file, size); },
+          picture_.shown);
 }
 
 void PictureFitting::FitTwice() {
   const QSize twice = picture_.shown * MuchLarger;
   if (!IsHtml5()) {
-    Rewrite([twice](const QByteArray &file) { return Resized(file, twice); });
+    Rewrite([twice](const QByteArray &file) { return Resized(file, twice); }, picture_.shown);
     return;
   }
-  Rewrite([&](const QByteArray &file) {
+  try {
+    Files &files = context_.platform.files;
     const QString dense =
-        CreateBeside(context_.platform.files, file_, QStringLiteral("-2x"), Resized(file, twice));
+        CreateBeside(files, file_, QStringLiteral("-2x"), Resized(files.ReadAll(file_), twice));
     const QString address = PictureAddress(context_.pages.Record(page_.Number()).Path, dense);
     page_.Pictures().Own({.path = dense, .address = address, .isNew = true});
-    page_.DHTML1().Document().ChangePicture(
-        picture_.address, {{QStringLiteral("srcset"), address + QStringLiteral(" 2x")}});
-    return Resized(file, picture_.shown);
-  });
-  if (before_ && IsHtml5()) before_->address = picture_.address;
+    Rewrite([size = picture_.shown](const QByteArray &file) { return Resized(file, size); },
+            picture_.shown, address + QStringLiteral(" 2x"));
+  } catch (const RuntimeError &error) {
+    ShowText(Words::tr("The file stays as it is: %1").arg(error.Description()));
+  }
 }
 
-void PictureFitting::ReportChange() {
-  ShowText(
-      Words::tr("%1 is changed. It is kept as it was as %2.")
-          .arg(modGeneral::FileNameOfPath(file_), modGeneral::FileNameOfPath(before_->original)));
+void PictureFitting::Rewrite(const Change &change, QSize shown, const QString &dense) {
+  HtmlDocument &document = page_.DHTML1().Document();
+  RewrittenPictures &rewritten = page_.Pictures().Rewritten();
+  const QPointer<PictureFitting> alive = this;
+  const PropertyValues said = document.Properties({PropertySubject::Image});
+  if (alive == nullptr) return;
+  PropertyValues before;
+  PropertyValues after;
+  for (const auto &[name, length] : {std::pair(QStringLiteral("width"), shown.width()),
+                                     std::pair(QStringLiteral("height"), shown.height())}) {
+    // A share of the page, or nothing, goes with any file.
+    if (said.value(name).toDouble() <= 0 || said.value(name) == QString::number(length)) continue;
+    before.insert(name, said.value(name));
+    after.insert(name, QString::number(length));
+  }
+  try {
+    const QByteArray content = context_.platform.files.ReadAll(file_);
+    rewritten.Rewrite(file_, change(content));
+    ChangePage(content, [&] {
+      if (!after.isEmpty()) document.SetProperties({PropertySubject::Image}, after);
+      if (!dense.isEmpty())
+        document.ChangePicture(picture_.address, {{QStringLiteral("srcset"), dense}});
+    });
+    if (alive == nullptr) return;
+    if (!before_) before_.emplace();
+    // What an earlier change has found is how it was at first.
+    for (auto size = before.cbegin(); size != before.cend(); ++size)
+      if (!before_->sizes.contains(size.key())) before_->sizes.insert(size.key(), size.value());
+    if (!dense.isEmpty()) before_->dense = dense;
+    ShowText(Words::tr("%1 is changed. It is kept as it was as %2.")
+                 .arg(FileName(), modGeneral::FileNameOfPath(rewritten.OriginalOf(file_))));
+  } catch (const RuntimeError &error) {
+    ShowText(Words::tr("The file stays as it is: %1").arg(error.Description()));
+  }
+}
+
+void PictureFitting::ChangePage(const QByteArray &before, const std::function<void()> &change) {
+  const QPointer<frmMain> alive = &page_;
+  const QString file = file_;
+  // Reading the document brings the component's memory of it up to date.
+  const auto text = [&] {
+    if (alive != nullptr) alive->DHTML1().DocumentHTML();
+    return alive == nullptr ? QString() : alive->DHTML1().Memory().document;
+  };
+  const QString textBefore = text();
+  if (alive != nullptr) change();
+  const QString textAfter = text();
+  if (alive == nullptr || textAfter == textBefore) return;
+  RewrittenPictures &rewritten = alive->Pictures().Rewritten();
+  rewritten.Note(file, textBefore, before);
+  rewritten.Note(file, textAfter, context_.platform.files.ReadAll(file));
 }
 
 void PictureFitting::UndoChange() {
-  Files &files = context_.platform.files;
+  const QPointer<PictureFitting> alive = this;
   try {
-    files.ReplaceAll(before_->path, before_->content);
-    files.Delete(before_->original);
-    if (!before_->address.isEmpty())
-      page_.DHTML1().Document().ChangePicture(before_->address,
-                                              {{QStringLiteral("srcset"), QString()}});
+    const QByteArray content = context_.platform.files.ReadAll(file_);
+    page_.Pictures().Rewritten().PutBack(file_);
+    ChangePage(content, [&] {
+      HtmlDocument &document = page_.DHTML1().Document();
+      if (!before_->sizes.isEmpty())
+        document.SetProperties({PropertySubject::Image}, before_->sizes);
+      if (!before_->dense.isEmpty())
+        document.ChangePicture(picture_.address, {{QStringLiteral("srcset"), QString()}});
+    });
+    if (alive == nullptr) return;
     before_.reset();
-    ShowText(Words::tr("%1 is as it was.").arg(modGeneral::FileNameOfPath(file_)));
+    ShowText(Words::tr("%1 is as it was.").arg(FileName()));
   } catch (const RuntimeError &error) {
     ShowText(Words::tr("The file stays as it is: %1").arg(error.Description()));
   }

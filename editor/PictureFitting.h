@@ -3,6 +3,7 @@
 
 #include "chrome/NoticeBar.h"
 #include "editor/EditorContext.h"
+#include "pictures/CodedPicture.h"
 #include "platform/HtmlDocument.h"
 
 #include <QByteArray>
@@ -19,9 +20,9 @@ class frmMain;
 
 /// The bar under a page for a selected picture whose file is much larger than it is shown, which
 /// makes a page slow. It makes the file as large as it is shown, or twice that for dense screens
-/// (in pages with the HTML5 doctype both), and turns the picture. The file's content is kept beside
-/// it as "name-original"; Undo in the bar puts it back. Files outside the page's site are left
-/// alone.
+/// (in pages with the HTML5 doctype both), and turns and cuts the picture, whose size in the page
+/// follows. The file's content is kept beside it as "name-original"; Undo in the bar puts it back,
+/// and so does Undo of the size in the page. Files outside the page's site are left alone.
 class PictureFitting final : public NoticeBar {
   Q_OBJECT
 
@@ -32,21 +33,32 @@ class PictureFitting final : public NoticeBar {
   /// The selection, or what is selected, may have changed.
   void SelectionChanged();
 
+  /// The selected picture, to choose a part of it; null where it is none that can be changed, which
+  /// the status bar says.
+  QImage PictureToCut();
+  /// The name of that picture's file.
+  QString FileName() const;
+  /// Cuts that picture.
+  void CutPicture(const PictureCut &cut);
+
  private:
-  /// A file as it was before it was changed here.
+  /// What of the picture's attributes was changed here, as it was at first.
   struct Before {
-    QString path;
-    QByteArray content;
-    QString original;  ///< the copy that was made of it; empty where there was one
-    QString address;   ///< of the picture whose srcset was set; empty for none
+    PropertyValues sizes;
+    QString dense;  ///< the srcset that was set; empty for none
   };
+  using Change = std::function<QByteArray(const QByteArray &)>;
 
   bool IsMuchLarger() const;
   QString FileOfSelection() const;
   void Fit();
   void FitTwice();
-  void Rewrite(const std::function<QByteArray(const QByteArray &)> &change);
-  void ReportChange();
+  void TurnPicture(Turn turn);
+  /// Writes the file anew; what of the picture's size the page says becomes `shown`, and srcset
+  /// `dense` where that is not empty.
+  void Rewrite(const Change &change, QSize shown, const QString &dense = {});
+  /// Changes the page. Its text before and after belongs to the file's content before and now.
+  void ChangePage(const QByteArray &before, const std::function<void()> &change);
   void UndoChange();
   void ShowText(const QString &text);
   bool IsHtml5() const;
@@ -55,7 +67,7 @@ class PictureFitting final : public NoticeBar {
   frmMain &page_;
   ShownPicture picture_;
   QString file_;
-  std::optional<Before> before_;
+  std::optional<Before> before_;  ///< none while the file is as it was
   QPushButton *undo_ = nullptr;
 };
 

@@ -58,6 +58,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   PageJournal &Journal() { return journal_; }
   OutsideChanges &Outside() { return *outside_; }
   SpellingBar &Spelling() { return *spellingBar_; }
+  PictureFitting &Fitting() { return *fitting_; }
   /// Whoever puts a picture into the page asks this for its address.
   PagePictures &Pictures() { return *pictures_; }
 

@@ -8,7 +8,6 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QImageWriter>
-#include <QRect>
 #include <QTransform>
 
 #include <algorithm>
@@ -72,6 +71,11 @@ QImage UprightPicture(const QByteArray &file) {
   return image;
 }
 
+QImage TurnedClockwise(const QImage &image, int quarterTurns) {
+  constexpr qreal Quarter = 90;
+  return quarterTurns == 0 ? image : image.transformed(QTransform().rotate(Quarter * quarterTurns));
+}
+
 QByteArray Coded(const QImage &image, const char *format, int quality) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
@@ -94,16 +98,16 @@ QByteArray Resized(const QByteArray &file, QSize size) {
 }
 
 QByteArray Turned(const QByteArray &file, Turn turn) {
-  const qreal degrees = turn == Turn::Left ? -90 : 90;
-  return Changed(file, [degrees](const QImage &image) {
-    return image.transformed(QTransform().rotate(degrees));
+  return Changed(file, [turn](const QImage &image) {
+    return TurnedClockwise(image, turn == Turn::Left ? 3 : 1);
   });
 }
 
-QByteArray Cropped(const QByteArray &file, const QRect &part) {
-  return Changed(file, [part](const QImage &image) {
-    const QRect inside = part.intersected(image.rect());
-    return inside.isEmpty() ? QImage() : image.copy(inside);
+QByteArray Cropped(const QByteArray &file, const PictureCut &cut) {
+  return Changed(file, [&cut](const QImage &image) {
+    const QImage turned = TurnedClockwise(image, cut.quarterTurns);
+    const QRect inside = cut.part.intersected(turned.rect());
+    return inside.isEmpty() ? QImage() : turned.copy(inside);
   });
 }
 

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QRect>
 #include <QSize>
 
 namespace velor {
@@ -13,6 +14,8 @@ inline constexpr int PhotoQuality = 90;
 /// The picture of a file, upright, of up to 100 megapixels and some. Raises RuntimeError (5) for
 /// what is no picture.
 QImage UprightPicture(const QByteArray &file);
+
+QImage TurnedClockwise(const QImage &image, int quarterTurns);
 
 /// A picture as a file of that format. A negative quality is the format's own. Raises RuntimeError
 /// (5) where it cannot be coded.
@@ -30,8 +33,13 @@ QByteArray Resized(const QByteArray &file, QSize size);
 enum class Turn { Left, Right };
 QByteArray Turned(const QByteArray &file, Turn turn);
 
+/// What is cut out of a picture, after it was turned clockwise so many times by 90 degrees.
+struct PictureCut {
+  QRect part;
+  int quarterTurns = 0;
+};
 /// The part of a picture file inside a rectangle of its upright pixels, in its own format. Raises
 /// RuntimeError (5) unless CanBeChanged, and where nothing is in the rectangle.
-QByteArray Cropped(const QByteArray &file, const QRect &part);
+QByteArray Cropped(const QByteArray &file, const PictureCut &cut);
 
 }  // namespace velor

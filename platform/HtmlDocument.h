@@ -58,6 +58,8 @@ struct ShownPicture {
   QString address;  ///< as written in the page
   QSize pixels;     ///< of the file; empty where it is not shown
   QSize shown;      ///< in CSS pixels
+
+  bool operator==(const ShownPicture &) const = default;
 };
 
 /// What a properties dialog is about: the page, what is selected or around the caret, or an element

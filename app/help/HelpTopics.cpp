@@ -37,6 +37,7 @@ constexpr HelpTopic Topics[] = {
     {"frmInsertElement", "SSTab3", "links.html#video"},
     {"frmInsertElement", nullptr, "links.html#target"},
     {"frmDialog_Table", nullptr, "tables.html#insert"},
+    {"FrmCrop", nullptr, "pictures.html#crop"},
     {"FrmNewPage", nullptr, "pages.html#templates"},
     {"CharacterDialog", nullptr, "design.html#characters"},
     {"MarkupDialog", nullptr, "clipboard.html#markup"},

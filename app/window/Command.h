@@ -34,6 +34,7 @@ enum class CommandId {
   InsertTable,
   FollowLink,
   TakePicturesOut,
+  CropPicture,
   PasteText,
   PasteTable,
   PasteMarkdown,

@@ -147,6 +147,9 @@ void CommandRouter::Run(const Command &command) {
     case CommandId::TakePicturesOut:
       if (frmMain *page = ActiveDocument()) TakePicturesOut(*page);
       break;
+    case CommandId::CropPicture:
+      if (frmMain *page = ActiveDocument()) context_.mainWindow.requests.CropPicture(*page);
+      break;
     case CommandId::FollowLink:
       if (frmMain *page = ActiveDocument())
         page->FollowLink(page->DHTML1().Document().Link().Attribute(QStringLiteral("href")));

@@ -129,6 +129,7 @@ constexpr MenuRow Rows[] = {
     Found(Words::Mark("site web pages catalogue"), Beyond(Item("mnuSiteProjects", Words::Mark("Project Manager"), "mnuSite", {CommandId::ProjectManager}, "startman"))),
     Found(Words::Mark("site dictionary words check"), Beyond(Item("mnuSpellingOfPages", Words::Mark("Spelling of All Pages... (&H)"), "mnuSite", {CommandId::SpellingOfPages}))),
     Found(Words::Mark("data base64 images"), Beyond(Item("mnuTakePicturesOut", Words::Mark("Take Embedded Pictures Out into Files (&E)"), "mnuSite", {CommandId::TakePicturesOut}))),
+    Found(Words::Mark("cut trim rotate image photo"), Beyond(Item("mnuCropPicture", Words::Mark("Crop and Turn Picture... (&C)"), "mnuSite", {CommandId::CropPicture}))),
     Found(Words::Mark("letter folder map windows"), Beyond(Item("mnuDrives", Words::Mark("Drives... (&D)"), "mnuSite", {CommandId::Drives}))),
     Separator("mnu9", "mnuTools"),
     Found(Words::Mark("hyperlink address url"), Beyond(Item("mnuLink", Words::Mark("Link... (&L)"), "mnuTools", {CommandId::InsertHyperlink}, nullptr, "Ctrl+K"))),

@@ -93,6 +93,7 @@ class MfrmProgram final : public QMainWindow,
   void PopUpContextMenu(QPoint screenPosition) override;
   void OpenDroppedFiles(const QStringList &paths, frmMain *page) override;
   void ShowPictureProperties(frmMain &page) override;
+  void CropPicture(frmMain &page) override;
   void ResetElementInspection() override;
 
   // CommandHost

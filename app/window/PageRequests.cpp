@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the page windows, and files dropped on the window, ask of the main window.
+#include "app/window/FrmCrop.h"
 #include "app/window/MfrmProgram.h"
 #include "editor/PageWords.h"
+#include "editor/PictureFitting.h"
 #include "editor/frmMain.h"
 #include "platform/Dialogs.h"
 #include "platform/EditingComponent.h"
 #include "platform/Paths.h"
+#include "platform/Platform.h"
 
 #include <QDropEvent>
 #include <QMenu>
@@ -41,6 +44,15 @@ void MfrmProgram::OpenDroppedFiles(const QStringList &paths, frmMain *page) {
 
 void MfrmProgram::ShowPictureProperties(frmMain &) {
   if (additions_ == Additions::On) router_.Run({CommandId::InsertImage});
+}
+
+void MfrmProgram::CropPicture(frmMain &page) {
+  const QPointer<PictureFitting> fitting = &page.Fitting();
+  const QImage picture = fitting->PictureToCut();
+  if (picture.isNull()) return;
+  FrmCrop dialog(picture, fitting->FileName(), this);
+  context_.platform.dialogs.RunModal(dialog);
+  if (fitting != nullptr && dialog.result() == QDialog::Accepted) fitting->CutPicture(dialog.Cut());
 }
 
 void MfrmProgram::ResetElementInspection() {

@@ -4161,6 +4161,46 @@ Do you want to replace it?</source>
         <translation>%1 ist bereits vorhanden.
 Soll die Datei ersetzt werden?</translation>
     </message>
+    <message>
+        <source>Crop and Turn %1</source>
+        <translation>%1 zuschneiden und drehen</translation>
+    </message>
+    <message>
+        <source>Part of the picture that stays</source>
+        <translation>Teil des Bildes, der bleibt</translation>
+    </message>
+    <message>
+        <source>&amp;Left:</source>
+        <translation>&amp;Links:</translation>
+    </message>
+    <message>
+        <source>&amp;Top:</source>
+        <translation>&amp;Oben:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the ratio</source>
+        <translation>&amp;Verhältnis beibehalten</translation>
+    </message>
+    <message>
+        <source>cut trim rotate image photo</source>
+        <translation>schneiden zuschneiden drehen bild foto cut trim rotate</translation>
+    </message>
+    <message>
+        <source>Crop and Turn Picture... (&amp;C)</source>
+        <translation>Bild &amp;zuschneiden und drehen …</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>Zuschneiden …</translation>
+    </message>
+    <message>
+        <source>Cut a part out of the file&apos;s picture</source>
+        <translation>Einen Teil aus dem Bild der Datei ausschneiden</translation>
+    </message>
+    <message>
+        <source>Select a picture of the site first: a JPEG, PNG or WebP file that does not move</source>
+        <translation>Wählen Sie zuerst ein Bild der Website: eine JPEG-, PNG- oder WebP-Datei ohne Bewegung</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

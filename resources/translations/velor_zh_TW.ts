@@ -4145,6 +4145,46 @@ Do you want to replace it?</source>
         <translation>%1 已經存在。
 要取代它嗎？</translation>
     </message>
+    <message>
+        <source>Crop and Turn %1</source>
+        <translation>裁剪與旋轉 %1</translation>
+    </message>
+    <message>
+        <source>Part of the picture that stays</source>
+        <translation>圖片保留的部分</translation>
+    </message>
+    <message>
+        <source>&amp;Left:</source>
+        <translation>左(&amp;L):</translation>
+    </message>
+    <message>
+        <source>&amp;Top:</source>
+        <translation>上(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the ratio</source>
+        <translation>保持比例(&amp;K)</translation>
+    </message>
+    <message>
+        <source>cut trim rotate image photo</source>
+        <translation>剪裁 旋轉 圖片 相片 cut trim rotate</translation>
+    </message>
+    <message>
+        <source>Crop and Turn Picture... (&amp;C)</source>
+        <translation>裁剪與旋轉圖片... (&amp;C)</translation>
+    </message>
+    <message>
+        <source>Crop...</source>
+        <translation>裁剪...</translation>
+    </message>
+    <message>
+        <source>Cut a part out of the file&apos;s picture</source>
+        <translation>從檔案的圖片中剪出一部分</translation>
+    </message>
+    <message>
+        <source>Select a picture of the site first: a JPEG, PNG or WebP file that does not move</source>
+        <translation>請先選取網站的圖片：不含動畫的 JPEG、PNG 或 WebP 檔案</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

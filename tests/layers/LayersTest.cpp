@@ -45,7 +45,7 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
       {"recovery/offers", {"editor", "chrome", "page/saving", "page/text", "platform"}},
       {"app",
        {"editor", "insert", "properties", "projects", "chrome", "recovery/offers", "qt", "engine",
-        "platform", "app/settings"}},
+        "pictures", "platform", "app/settings"}},
       {"tools", {"qt", "engine", "page/saving", "page/text", "catalogue", "files", "platform"}},
       {"tests/support", {}},
       {"bench",

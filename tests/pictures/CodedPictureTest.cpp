@@ -26,16 +26,19 @@ TEST(CodedPicture, AFileIsResizedTurnedAndCroppedInItsOwnFormat) {
     ASSERT_EQ(turned.size(), QSize(32, 64));
     EXPECT_GT(qRed(turned.pixel(16, 8)), 200) << format;
     EXPECT_GT(qBlue(QImage::fromData(Turned(file, Turn::Left)).pixel(16, 8)), 200) << format;
-    const QImage part = QImage::fromData(Cropped(file, {40, 4, 100, 10}));
+    const QImage part = QImage::fromData(Cropped(file, {{40, 4, 100, 10}}));
     ASSERT_EQ(part.size(), QSize(24, 10));
     EXPECT_GT(qBlue(part.pixel(12, 5)), 200) << format;
+    const QImage turnedPart = QImage::fromData(Cropped(file, {{0, 0, 10, 20}, 1}));
+    ASSERT_EQ(turnedPart.size(), QSize(10, 20));
+    EXPECT_GT(qRed(turnedPart.pixel(5, 10)), 200) << format;
   }
 }
 
 TEST(CodedPicture, ATurnedPhotoIsChangedAsItIsSeen) {
   const QByteArray file = JpegWith(CodedAs("JPG", RedAndBlue(64, 32)), ExifSegment(6));
   EXPECT_EQ(QImage::fromData(Resized(file, {16, 32})).size(), QSize(16, 32));
-  EXPECT_EQ(QImage::fromData(Cropped(file, {0, 0, 32, 10})).size(), QSize(32, 10));
+  EXPECT_EQ(QImage::fromData(Cropped(file, {{0, 0, 32, 10}})).size(), QSize(32, 10));
 }
 
 TEST(CodedPicture, OtherKindsAndEmptyPartsAreRefused) {
@@ -45,7 +48,7 @@ TEST(CodedPicture, OtherKindsAndEmptyPartsAreRefused) {
   EXPECT_FALSE(CanBeChanged("text"));
   EXPECT_EQ(ErrorOf([&] { Resized(gif, {3, 3}); }), ErrorNumber::InvalidProcedureCall);
   EXPECT_EQ(ErrorOf([&] {
-              Cropped(CodedAs("PNG", RedAndBlue(8, 8)), {20, 20, 5, 5});
+              Cropped(CodedAs("PNG", RedAndBlue(8, 8)), {{20, 20, 5, 5}});
             }),
             ErrorNumber::InvalidProcedureCall);
 }

@@ -160,6 +160,7 @@ mnuSite "Site (&H)"
   mnuSiteProjects "Project Manager"
   mnuSpellingOfPages "Spelling of All Pages... (&H)"
   mnuTakePicturesOut "Take Embedded Pictures Out into Files (&E)"
+  mnuCropPicture "Crop and Turn Picture... (&C)"
   mnuDrives "Drives... (&D)"
 mnu9 "-"
 mnuLink "Link... (&L)" Ctrl+K

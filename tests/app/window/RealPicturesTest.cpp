@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
@@ -84,6 +85,16 @@ class RealPictures : public RealWindow {
     frmMain &page = Open(PageFile, Source);
     PutCaret(page, QStringLiteral("p"));
     return page;
+  }
+  /// Selects the picture behind the first character of the first paragraph, once it shows.
+  static void SelectPicture(frmMain &page, int width) {
+    ASSERT_TRUE(WaitFor([&] {
+      return Evaluate(EngineOf(page), QStringLiteral("document.images[0].naturalWidth")) == width;
+    }));
+    Evaluate(EngineOf(page), QStringLiteral("{ const p = document.querySelector('p');"
+                                            "getSelection().setBaseAndExtent(p, 1, p, 2) }"));
+    ASSERT_TRUE(WaitFor(
+        [&] { return page.DHTML1().Document().Selection().Type() == SelectionType::Control; }));
   }
   void Paste(frmMain &page, const QImage &image) {
     QGuiApplication::clipboard()->setImage(image);
@@ -308,14 +319,7 @@ TEST_F(RealPictures, AFileMuchLargerThanShownIsFittedAndTheOriginalKept) {
   const QByteArray large = CodedAs("PNG", RedAndBlue(400, 200));
   Write(QStringLiteral("site/a.png"), large);
   frmMain &page = Open(PageFile, "<!DOCTYPE html><p>x<img src=a.png width=60 height=30></p>");
-  const auto select = [&] {
-    Evaluate(EngineOf(page), QStringLiteral("{ const p = document.querySelector('p');"
-                                            "getSelection().setBaseAndExtent(p, 1, p, 2) }"));
-  };
-  ASSERT_TRUE(WaitFor([&] {
-    return Evaluate(EngineOf(page), QStringLiteral("document.images[0].naturalWidth")) == 400;
-  }));
-  select();
+  SelectPicture(page, 400);
   auto &bar = *page.findChild<QWidget *>(QStringLiteral("picFitting"));
   ASSERT_TRUE(WaitFor([&] { return bar.isVisible(); }));
   EXPECT_EQ(bar.findChild<QLabel *>(QStringLiteral("lblFitting"))->text(),
@@ -330,6 +334,52 @@ TEST_F(RealPictures, AFileMuchLargerThanShownIsFittedAndTheOriginalKept) {
   EXPECT_TRUE(Becomes(page, "height=\"30\" srcset=\"a-2x.png 2x\">")) << Seen(page);
   EXPECT_EQ(QImage(folder.FilePath(QStringLiteral("site/a.png"))).size(), QSize(60, 30));
   EXPECT_EQ(QImage(folder.FilePath(QStringLiteral("site/a-2x.png"))).size(), QSize(120, 60));
+}
+
+TEST_F(RealPictures, ACroppedPicturesFileAndSizeGoAndComeBackTogether) {
+  const QByteArray whole = CodedAs("PNG", RedAndBlue(60, 40));
+  Write(QStringLiteral("site/a.png"), whole);
+  const QByteArray source = "<!DOCTYPE html><p>x<img src=a.png width=120 height=80></p>";
+  frmMain &page = Open(PageFile, source);
+  SelectPicture(page, 60);
+  const auto size = [this] { return QImage(folder.FilePath(QStringLiteral("site/a.png"))).size(); };
+  dialogs.ExpectModal([](QWidget &dialog) {
+    dialog.show();
+    dialog.findChild<QSpinBox *>(QStringLiteral("txtCropWidth"))->setValue(30);
+    dialog.findChild<QPushButton *>(QStringLiteral("cmdCropTurnRight"))->click();
+    dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+  });
+  Choose("mnuCropPicture");
+  EXPECT_TRUE(Becomes(page, "width=\"80\" height=\"60\"")) << Seen(page);
+  EXPECT_EQ(size(), QSize(40, 30));
+  EXPECT_EQ(Bytes(QStringLiteral("site/a-original.png")), whole);
+  Choose("mnuUndo");
+  EXPECT_TRUE(WaitFor([&] { return size() == QSize(60, 40); }));
+  EXPECT_TRUE(Becomes(page, "width=\"120\" height=\"80\"")) << Seen(page);
+  EXPECT_EQ(Site(), Names({"a.png", "page.htm"}));
+  Choose("mnuRedo");
+  EXPECT_TRUE(WaitFor([&] { return size() == QSize(40, 30); }));
+  dialogs.ExpectMessage(
+      QStringLiteral("You have made changes to this document. Do you want to save it?"),
+      MessageAnswer::No);
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Bytes(QStringLiteral("site/a.png")), whole);
+  EXPECT_EQ(Site(), Names({"a.png", "page.htm"}));
+}
+
+TEST_F(RealPictures, ATurnedPictureIsNotDistorted) {
+  Write(QStringLiteral("site/a.png"), CodedAs("PNG", RedAndBlue(400, 200)));
+  frmMain &page =
+      Open(PageFile, "<!DOCTYPE html><p>x<img src=a.png style='width: 60px; height: 30px'>");
+  SelectPicture(page, 400);
+  auto &bar = *page.findChild<QWidget *>(QStringLiteral("picFitting"));
+  ASSERT_TRUE(WaitFor([&] { return bar.isVisible(); }));
+  bar.findChild<QPushButton *>(QStringLiteral("cmdTurnLeft"))->click();
+  EXPECT_TRUE(Becomes(page, "width: 30px; height: 60px")) << Seen(page);
+  EXPECT_EQ(QImage(folder.FilePath(QStringLiteral("site/a.png"))).size(), QSize(200, 400));
+  bar.findChild<QPushButton *>(QStringLiteral("cmdUndoFitting"))->click();
+  EXPECT_TRUE(Becomes(page, "width: 60px; height: 30px")) << Seen(page);
+  EXPECT_EQ(Site(), Names({"a.png", "page.htm"}));
 }
 
 TEST_F(RealPictures, ADoubleClickedPictureShowsItsProperties) {
