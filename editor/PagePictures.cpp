@@ -5,6 +5,7 @@
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
 #include "editor/PictureBar.h"
+#include "editor/PictureTextBox.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
 #include "page/text/PageEncoding.h"
@@ -74,6 +75,7 @@ PagePictures::PagePictures(EditorContext &context, frmMain &page)
     : context_(context),
       page_(page),
       bar_(new PictureBar(&page)),
+      textBox_(new PictureTextBox(*page.DHTML1().Widget())),
       copied_(context.platform.files, context.platform.replaced,
               [&context, number = page.Number()](const QString &path) {
                 return IsNamedElsewhere(context, number, path);
@@ -82,8 +84,11 @@ PagePictures::PagePictures(EditorContext &context, frmMain &page)
   QObject::connect(bar_, &PictureBar::CopyChosen, [this] { CopyAll(); });
   QObject::connect(bar_, &PictureBar::LinkChosen, [this] { LinkAll(); });
   QObject::connect(bar_, &PictureBar::UndoChosen, [this] { UndoAll(); });
-  QObject::connect(bar_, &PictureBar::Left, [this] { page_.DHTML1().SetFocus(); });
-  QObject::connect(bar_, &PictureBar::TextGiven, [this](const QString &text) {
+  QObject::connect(textBox_, &PictureTextBox::Left, [this] {
+    AskForText({});
+    page_.DHTML1().SetFocus();
+  });
+  QObject::connect(textBox_, &PictureTextBox::TextGiven, [this](const QString &text) {
     if (!arrivals_.empty())
       page_.DHTML1().Document().ChangePicture(arrivals_.front().address,
                                               {{QStringLiteral("alt"), text}});
@@ -91,8 +96,9 @@ PagePictures::PagePictures(EditorContext &context, frmMain &page)
 }
 
 PagePictures::~PagePictures() {
-  // The bar is the page's child and outlives this.
+  // These are children of the page's widgets and may outlive this.
   bar_->disconnect();
+  if (textBox_ != nullptr) textBox_->disconnect();
 }
 
 QWidget &PagePictures::Bar() {
@@ -252,7 +258,20 @@ void PagePictures::ShowBar() {
   }
   if (arrivals_.size() == 1 && !first.notice.isEmpty()) text += u' ' + first.notice;
   const bool asks = arrivals_.size() == 1 && first.asks == Asks::ForText;
-  bar_->ShowArrival(text, offer, asks ? PictureBar::Asks::ForText : PictureBar::Asks::Nothing);
+  bar_->ShowArrival(text, offer);
+  AskForText(asks ? first.address : QString());
+}
+
+void PagePictures::AskForText(const QString &address) {
+  address.isEmpty() ? textBox_->End() : textBox_->Begin();
+  page_.DHTML1().Document().AskAboutPicture(address);
+}
+
+void PagePictures::PlaceTextBox() {
+  const QRect picture = page_.DHTML1().Document().AskedPicture();
+  const double zoom = page_.DHTML1().Zoom();
+  textBox_->PlaceAt(
+      QRectF(picture.topLeft() * zoom, QSizeF(picture.size()) * zoom).toAlignedRect());
 }
 
 void PagePictures::LinkAll() {
@@ -278,6 +297,7 @@ void PagePictures::CopyAll() {
 void PagePictures::UndoAll() {
   for (const Arrival &arrival : std::exchange(arrivals_, {}))
     page_.DHTML1().Document().RemovePicture(arrival.address);
+  AskForText({});
   bar_->hide();
 }
 

@@ -6,6 +6,7 @@
 #include "pictures/RewrittenPictures.h"
 #include "platform/Journal.h"
 
+#include <QPointer>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -18,6 +19,7 @@ class QImage;
 namespace velor {
 
 class PictureBar;
+class PictureTextBox;
 class frmMain;
 
 /// Makes the pictures that are put into a page part of its site. A picture from outside is copied
@@ -32,6 +34,8 @@ class PagePictures final {
   ~PagePictures();
 
   QWidget &Bar();
+  /// The page may look different: the box beside the picture follows it.
+  void PlaceTextBox();
 
   struct InPage {
     QString address;  ///< empty where the picture could not be had; the status bar says why
@@ -104,6 +108,8 @@ class PagePictures final {
   /// most.
   void FollowArrivals(int looks);
   void ShowBar();
+  /// Asks for the alternative text of the picture with that address; the empty one ends it.
+  void AskForText(const QString &address);
   void LinkAll();
   void CopyAll();
   void UndoAll();
@@ -112,6 +118,7 @@ class PagePictures final {
   EditorContext &context_;
   frmMain &page_;
   PictureBar *bar_;
+  QPointer<PictureTextBox> textBox_;
   CopiedPictures copied_;
   RewrittenPictures rewritten_;
   std::vector<Arrival> arrivals_;

@@ -281,6 +281,7 @@ void frmMain::DocumentComplete() {
 
 void frmMain::DisplayChanged() {
   fitting_->SelectionChanged();
+  pictures_->PlaceTextBox();
   widths_->Frame().ShowCaret();
   if (Ready == QStringLiteral("True") && IsInFront()) ShowState();
 }

@@ -57,6 +57,12 @@ constexpr ValueField ValueFields[] = {
     {EditingCommand::GetBlockFormat, &StateSnapshot::blockFormat},
 };
 
+/// [left, top, width, height]; null for anything else.
+QRect BoxOf(const QJsonArray &box) {
+  if (box.size() != 4) return {};
+  return {QPoint(box[0].toInt(), box[1].toInt()), QSize(box[2].toInt(), box[3].toInt())};
+}
+
 }  // namespace
 
 std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
@@ -86,10 +92,8 @@ std::optional<StateSnapshot> StateSnapshot::FromJson(const QString &json) {
   for (const QJsonValue &element : path) state.path << element.toString();
   const QJsonArray elements = object[u"pathNumbers"].toArray();
   for (const QJsonValue &element : elements) state.pathElements << element.toInt();
-  const QJsonArray place = object[u"place"].toArray();
-  if (place.size() == 4)
-    state.place = {QPoint(place[0].toInt(), place[1].toInt()),
-                   QSize(place[2].toInt(), place[3].toInt())};
+  state.place = BoxOf(object[u"place"].toArray());
+  state.asked = BoxOf(object[u"asked"].toArray());
   const QJsonArray cells = object[u"cells"].toArray();
   if (cells.size() == 4)
     state.cells = {QPoint(cells[0].toInt(), cells[1].toInt()),

@@ -37,6 +37,7 @@ struct StateSnapshot {
   QList<int> pathElements;  ///< HtmlDocument::PathElement, by the index in `path`
   QRect place;              ///< HtmlDocument::ObjectPlace
   QRect cells;              ///< HtmlDocument::SelectedCells
+  QRect asked;              ///< HtmlDocument::AskedPicture
 
   /// Nothing for a text that is no JSON of a state.
   static std::optional<StateSnapshot> FromJson(const QString &json);

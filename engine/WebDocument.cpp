@@ -134,6 +134,14 @@ void WebDocument::RemovePicture(const QString &address) {
   document_.Run(QStringLiteral("velor.removePicture(%1)").arg(ScriptValue(address)));
 }
 
+void WebDocument::AskAboutPicture(const QString &address) {
+  document_.Run(QStringLiteral("velor.askAboutPicture(%1)").arg(ScriptValue(address)));
+}
+
+QRect WebDocument::AskedPicture() const {
+  return document_.Snapshot().asked;
+}
+
 ShownPicture WebDocument::SelectedPicture() const {
   const StateSnapshot &state = document_.Snapshot();
   if (state.pictureShown.isEmpty()) return {};

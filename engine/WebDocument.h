@@ -27,6 +27,8 @@ class WebDocument : public HtmlDocument, private DocumentSelection {
   void ChangeObject(const HtmlAttributes &attributes, ParagraphSide side) override;
   void ChangePicture(const QString &address, const HtmlAttributes &attributes) override;
   void RemovePicture(const QString &address) override;
+  void AskAboutPicture(const QString &address) override;
+  QRect AskedPicture() const override;
   ShownPicture SelectedPicture() const override;
   void SetProperties(PropertyOwner owner, const PropertyValues &changed) override;
   PropertyValues Properties(PropertyOwner owner) override;

@@ -105,6 +105,11 @@ class HtmlDocument {
   /// Takes that picture out.
   virtual void RemovePicture(const QString & /*address*/) {}
 
+  /// Has AskedPicture tell of that picture; the empty address ends it.
+  virtual void AskAboutPicture(const QString & /*address*/) {}
+  /// Where that picture is, in CSS pixels of the viewport, as the page last told; null for none.
+  virtual QRect AskedPicture() const { return {}; }
+
   /// The picture of a Control selection; without an address where it is none.
   virtual ShownPicture SelectedPicture() const { return {}; }
 

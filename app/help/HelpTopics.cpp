@@ -15,6 +15,7 @@ constexpr HelpTopic Topics[] = {
     {"picWidths", nullptr, "widths.html#bar"},
     {"frmMain", nullptr, "design.html"},
     {"picPicture", nullptr, "pictures.html#site"},
+    {"picPictureText", nullptr, "pictures.html#quicker"},
     {"picFitting", nullptr, "pictures.html#fit"},
     {"picSpelling", nullptr, "spelling.html#walk"},
     {"picFind", nullptr, "design.html#find"},

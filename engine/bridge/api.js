@@ -8,7 +8,7 @@ import { isPasting } from './clipboard/longPaste.js';
 import { pasteHTML } from './clipboard/paste.js';
 import { counts } from './find/counts.js';
 import { endFind, find, replaceAll, replaceFound, selectedLine } from './find/find.js';
-import { changePicture, removePicture } from './clipboard/pictures.js';
+import { askAboutPicture, changePicture, removePicture } from './clipboard/pictures.js';
 import { setDetails } from './objects/details.js';
 import { setSnap } from './objects/grid.js';
 import { showAnew } from './objects/parts.js';
@@ -48,6 +48,7 @@ globalThis.velor = {
   changeObject: unlessPasting(changeObject),
   changePicture: unlessPasting(changePicture),
   removePicture: unlessPasting(removePicture),
+  askAboutPicture,
   properties,
   setProperties: unlessPasting(setProperties),
   takeBackProperties,

@@ -266,6 +266,7 @@ interface State {
   picture: { pixels: [number, number], shown: [number, number] } | null;
   cells: number[];
   place: number[];
+  asked: number[];
   path: string[];
   pathNumbers: number[];
 }

@@ -1947,26 +1947,6 @@ Programm trotzdem beenden?</translation>
         <translation>Bild eingefügt</translation>
     </message>
     <message>
-        <source>Alternative Text</source>
-        <translation>Alternativtext</translation>
-    </message>
-    <message>
-        <source>What does it show?</source>
-        <translation>Was ist darauf zu sehen?</translation>
-    </message>
-    <message>
-        <source>Alternative text: what is read where the picture is not seen</source>
-        <translation>Alternativtext: wird gelesen, wo das Bild nicht zu sehen ist</translation>
-    </message>
-    <message>
-        <source>Decorative</source>
-        <translation>Dekorativ</translation>
-    </message>
-    <message>
-        <source>It says nothing: its alternative text is empty</source>
-        <translation>Es sagt nichts aus: Sein Alternativtext ist leer</translation>
-    </message>
-    <message>
         <source>Copy it into the site, now and from now on</source>
         <translation>In die Website kopieren, jetzt und künftig</translation>
     </message>

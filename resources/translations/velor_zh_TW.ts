@@ -1938,26 +1938,6 @@ End the program all the same?</source>
         <translation>已放入圖片</translation>
     </message>
     <message>
-        <source>Alternative Text</source>
-        <translation>替代文字</translation>
-    </message>
-    <message>
-        <source>What does it show?</source>
-        <translation>它顯示的是什麼？</translation>
-    </message>
-    <message>
-        <source>Alternative text: what is read where the picture is not seen</source>
-        <translation>替代文字：看不到圖片時所讀出的文字</translation>
-    </message>
-    <message>
-        <source>Decorative</source>
-        <translation>裝飾用</translation>
-    </message>
-    <message>
-        <source>It says nothing: its alternative text is empty</source>
-        <translation>不表達任何內容：替代文字留空</translation>
-    </message>
-    <message>
         <source>Copy it into the site, now and from now on</source>
         <translation>將它複製到網站中，此次與今後皆是如此</translation>
     </message>

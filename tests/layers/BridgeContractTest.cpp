@@ -122,7 +122,7 @@ TEST(BridgeContract, StatusesHaveTheSameNumbersOnBothSides) {
 
 TEST(BridgeContract, TheStateHasTheSameFieldsInScriptsProgramAndDocument) {
   const Names fields = MembersOf("State");
-  EXPECT_THAT(fields, SizeIs(17));
+  EXPECT_THAT(fields, SizeIs(18));
   static const std::regex read(R"r(object\[u"(\w+)"\]\.to\w+\(\)[;.)])r");
   const std::string parser =
       Between(TextOf("engine/StateSnapshot.cpp"), "StateSnapshot::FromJson", "\n}");

@@ -3,6 +3,7 @@
 // The pictures that were put in: the program asks for their alternative text, or gives them another
 // address, while the person goes on typing elsewhere.
 import { deleteToLine } from '../blocks/deletion.js';
+import { askAbout } from '../page/asked.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
@@ -109,3 +110,16 @@ export const removePicture = (address) => history.step('removePicture', () => {
   selection.selectNode(picture);
   deleteToLine(selection.range());
 });
+
+/**
+ * Has the place of the picture with that address told with every state, for the box beside it; the
+ * empty address ends it.
+ * @param {string} address
+ */
+export function askAboutPicture(address) {
+  askAbout(() => (address ? pictureOf(address) : null));
+  // Scrolling changes nothing else of the state.
+  if (address) document.addEventListener('scroll', schedulePush, true);
+  else document.removeEventListener('scroll', schedulePush, true);
+  schedulePush();
+}

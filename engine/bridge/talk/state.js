@@ -6,6 +6,7 @@ import { linkOf } from '../formats/links.js';
 import { subjectOf } from '../objects/layers.js';
 import * as objects from '../objects/objects.js';
 import { hasAdditions } from '../page/additions.js';
+import { placeOfAsked } from '../page/asked.js';
 import * as selection from '../page/selection.js';
 import { cellsSelected } from '../tables/chosen.js';
 import { commands as table, queryValue, readView, statusOf } from './commands.js';
@@ -71,5 +72,5 @@ export const state = () => {
   return { commands, ...Object.fromEntries(read), selection: kind(view),
     element: told(selection.element()), link: told(linkOf(view)),
     picture: pictureTold(view.object), cells: cellsTold(view),
-    place: placeTold(view), path: pathTold(), pathNumbers: pathNumbers() };
+    place: placeTold(view), asked: placeOfAsked(), path: pathTold(), pathNumbers: pathNumbers() };
 };

@@ -256,11 +256,11 @@ TEST_F(KeyboardTest, EveryUsableControlOfEveryBarUnderAPageIsMetByTabAndHasAName
     const std::string name = bar->objectName().toStdString();
     SCOPED_TRACE(name);
     bar->show();
-    const QList<QPushButton *> buttons = bar->findChildren<QPushButton *>();
-    const auto first = std::find_if(buttons.begin(), buttons.end(), [](const QPushButton *each) {
-      return each->isVisible() && each->isEnabled();
+    const QList<QWidget *> controls = bar->findChildren<QWidget *>();
+    const auto first = std::find_if(controls.begin(), controls.end(), [](const QWidget *each) {
+      return each->isVisible() && each->isEnabled() && (each->focusPolicy() & Qt::TabFocus) != 0;
     });
-    ASSERT_NE(first, buttons.end()) << name;
+    ASSERT_NE(first, controls.end()) << name;
     // Back to the first control of the bar.
     (*first)->setFocus();
     while (bar->isAncestorOf(QApplication::focusWidget()))

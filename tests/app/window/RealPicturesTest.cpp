@@ -2,12 +2,14 @@
 // A person at the whole window: pictures from elsewhere become part of the site.
 #include "app/settings/modSettingManager.h"
 #include "editor/PictureBar.h"
+#include "editor/PictureTextBox.h"
 #include "editor/frmMain.h"
 #include "platform/Paths.h"
 #include "tests/app/window/RealWindowFixture.h"
 #include "tests/engine/ComponentFixture.h"
 #include "tests/pictures/PictureFiles.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
@@ -76,6 +78,10 @@ class RealPictures : public RealWindow {
   }
   bool SiteBecomes(std::initializer_list<const char *> names) {
     return WaitFor([&] { return Site() == Names(names); });
+  }
+  template <typename Control>
+  Control &InBox(frmMain &page, const char *name) {
+    return *page.findChild<PictureTextBox *>()->findChild<Control *>(QString::fromLatin1(name));
   }
   template <typename Control>
   Control &InBar(frmMain &page, const char *name) {
@@ -227,14 +233,59 @@ TEST_F(RealPictures, TheBoxGivesThePictureItsTextAndADecorativeOneAnEmptyOne) {
   ASSERT_TRUE(Becomes(page, "height=\"40\">")) << Seen(page);
   ASSERT_TRUE(WaitFor([&] { return page.findChild<PictureBar *>()->isVisible(); }));
   Type(page, QStringLiteral("typed "));
-  auto &text = InBar<QLineEdit>(page, "txtPictureAlt");
+  auto &text = InBox<QLineEdit>(page, "txtPictureAlt");
   text.setText(QStringLiteral("A \"red\" rose"));
   QTest::keyClick(&text, Qt::Key_Return);
   EXPECT_TRUE(Becomes(page, "height=\"40\" alt=\"A &quot;red&quot; rose\">typed ")) << Seen(page);
-  InBar<QCheckBox>(page, "chkPictureDecorative").click();
+  InBox<QCheckBox>(page, "chkPictureDecorative").click();
   EXPECT_TRUE(Becomes(page, "height=\"40\" alt=\"\">typed ")) << Seen(page);
   Choose("mnuUndo");
   EXPECT_TRUE(Becomes(page, "alt=\"A &quot;red&quot; rose\">")) << Seen(page);
+}
+
+TEST_F(RealPictures, TheBoxStandsBesideThePictureFollowsItAndGoesByEscape) {
+  frmMain &page = Open(PageFile, "<!DOCTYPE html><body style=\"margin: 0\"><p id=p style=\"margin: 0\">"
+                                 "One</p><div style=\"height: 3000px\"></div>");
+  PutCaret(page, QStringLiteral("p"));
+  DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
+  auto &box = *page.findChild<PictureTextBox *>();
+  ASSERT_TRUE(WaitFor([&] { return box.isVisible(); })) << Seen(page);
+  const auto picture = [&] {
+    const QVariantList told = Evaluate(EngineOf(page), QStringLiteral(
+        "(({ left, top, width, height }) => [left, top, width, height])"
+        "(document.images[0].getBoundingClientRect())")).toList();
+    return QRect(told[0].toInt(), told[1].toInt(), told[2].toInt(), told[3].toInt());
+  };
+  EXPECT_TRUE(WaitFor([&] { return box.geometry().top() == picture().bottom() + 5; }))
+      << box.geometry().top();
+  EXPECT_TRUE(InputOf(page)->hasFocus());
+  Evaluate(EngineOf(page), QStringLiteral("scrollTo(0, 20)"));
+  EXPECT_TRUE(WaitFor([&] { return box.geometry().top() == picture().bottom() + 5; }))
+      << box.geometry().top();
+  Evaluate(EngineOf(page), QStringLiteral("scrollTo(0, 2000)"));
+  EXPECT_TRUE(WaitFor([&] { return !box.isVisible(); }));
+  Evaluate(EngineOf(page), QStringLiteral("scrollTo(0, 0)"));
+  EXPECT_TRUE(WaitFor([&] { return box.isVisible(); }));
+  Key(page, Qt::Key_F6);
+  for (int step = 0; step < 20 && !box.isAncestorOf(QApplication::focusWidget()); ++step)
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+  ASSERT_EQ(QApplication::focusWidget(), &InBox<QLineEdit>(page, "txtPictureAlt"));
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Rose"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  EXPECT_FALSE(box.isVisible());
+  EXPECT_TRUE(WaitFor([&] { return InputOf(page)->hasFocus(); }));
+  EXPECT_TRUE(Becomes(page, "alt=\"Rose\"")) << Seen(page);
+}
+
+TEST(PictureTextBoxes, StandBesideTheirPictureWithinTheView) {
+  const QRect view(0, 0, 400, 300);
+  const QSize box(200, 40);
+  EXPECT_EQ(PlaceBeside({10, 10, 60, 40}, box, view), QRect(10, 54, 200, 40));
+  EXPECT_EQ(PlaceBeside({350, 10, 60, 40}, box, view), QRect(200, 54, 200, 40));
+  EXPECT_EQ(PlaceBeside({10, 250, 60, 40}, box, view), QRect(10, 206, 200, 40));
+  EXPECT_EQ(PlaceBeside({10, -20, 60, 310}, box, view), QRect(74, 0, 200, 40));
+  EXPECT_TRUE(view.contains(PlaceBeside({-10, -10, 500, 400}, box, view)));
+  EXPECT_TRUE(PlaceBeside({10, 400, 60, 40}, box, view).isEmpty());
 }
 
 TEST_F(RealPictures, AScreenshotIsPastedAsPngUnderThePagesName) {
