@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "insert/PictureLoading.h"
 
-#include "insert/OldPictures.h"
+#include "pictures/OldPictures.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"

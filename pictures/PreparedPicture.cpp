@@ -2,6 +2,7 @@
 #include "pictures/PreparedPicture.h"
 
 #include "pictures/CodedPicture.h"
+#include "pictures/OldPictures.h"
 #include "pictures/PictureData.h"
 #include "platform/Words.h"
 
@@ -89,10 +90,13 @@ PreparedPicture PreparePicture(const QByteArray &file, const QString &suffix,
   // Browsers read some kinds that no plugin here reads.
   if (format.isEmpty() && suffix.toLower() == u"avif") ending = QStringLiteral("avif");
   if (ending.isEmpty()) {
-    const QImage image = UprightPicture(file);
+    QImage image = ReadOldPicture(file, suffix.toLower());
+    if (image.isNull()) image = UprightPicture(file);
     PreparedPicture picture = PreparePicture(image, choices);
-    picture.notice = Words::tr("It was a %1 file, which browsers do not show, and is %2 now.")
-                         .arg(QString::fromLatin1(format).toUpper(), picture.ending.toUpper());
+    picture.notice =
+        Words::tr("It was a %1 file, which browsers do not show, and is %2 now.")
+            .arg(format.isEmpty() ? suffix.toUpper() : QString::fromLatin1(format).toUpper(),
+                 picture.ending.toUpper());
     return picture;
   }
   const bool isTurned = reader.transformation() != QImageIOHandler::TransformationNone;

@@ -48,6 +48,11 @@ const QStringList PictureEndings = {QStringLiteral(".gif"),  QStringLiteral(".jp
                                     QStringLiteral(".jpeg"), QStringLiteral(".png"),
                                     QStringLiteral(".bmp"),  QStringLiteral(".webp"),
                                     QStringLiteral(".svg"),  QStringLiteral(".ico")};
+/// Of pictures that become others when they are copied into a site.
+const QStringList ConvertedEndings = {QStringLiteral(".tif"),  QStringLiteral(".tiff"),
+                                      QStringLiteral(".heic"), QStringLiteral(".heif"),
+                                      QStringLiteral(".avif"), QStringLiteral(".tga"),
+                                      QStringLiteral(".pcx"),  QStringLiteral(".ras")};
 
 bool HasEnding(const QString &path, const QStringList &endings) {
   return std::any_of(endings.begin(), endings.end(), [&path](const QString &ending) {
@@ -510,7 +515,8 @@ void CommandRouter::OpenDroppedFiles(const QStringList &paths, frmMain *page) {
   for (const QString &path : paths) {
     if (HasEnding(path, PageEndings)) {
       pages += path;
-    } else if (!alive.isNull() && HasEnding(path, PictureEndings)) {
+    } else if (!alive.isNull() && (HasEnding(path, PictureEndings) ||
+                                   (context_.hasAdditions && HasEnding(path, ConvertedEndings)))) {
       insert_.PictureFile(*alive, path);
     }
   }

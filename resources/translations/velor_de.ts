@@ -4181,6 +4181,26 @@ Soll die Datei ersetzt werden?</translation>
         <source>Select a picture of the site first: a JPEG, PNG or WebP file that does not move</source>
         <translation>Wählen Sie zuerst ein Bild der Website: eine JPEG-, PNG- oder WebP-Datei ohne Bewegung</translation>
     </message>
+    <message>
+        <source>Alternative Text</source>
+        <translation>Alternativtext</translation>
+    </message>
+    <message>
+        <source>What does it show?</source>
+        <translation>Was ist darauf zu sehen?</translation>
+    </message>
+    <message>
+        <source>Alternative text: what is read where the picture is not seen</source>
+        <translation>Alternativtext: wird gelesen, wo das Bild nicht zu sehen ist</translation>
+    </message>
+    <message>
+        <source>Decorative</source>
+        <translation>Dekorativ</translation>
+    </message>
+    <message>
+        <source>It says nothing: its alternative text is empty</source>
+        <translation>Es sagt nichts aus: Sein Alternativtext ist leer</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -4165,6 +4165,26 @@ Do you want to replace it?</source>
         <source>Select a picture of the site first: a JPEG, PNG or WebP file that does not move</source>
         <translation>請先選取網站的圖片：不含動畫的 JPEG、PNG 或 WebP 檔案</translation>
     </message>
+    <message>
+        <source>Alternative Text</source>
+        <translation>替代文字</translation>
+    </message>
+    <message>
+        <source>What does it show?</source>
+        <translation>它顯示的是什麼？</translation>
+    </message>
+    <message>
+        <source>Alternative text: what is read where the picture is not seen</source>
+        <translation>替代文字：看不到圖片時所讀出的文字</translation>
+    </message>
+    <message>
+        <source>Decorative</source>
+        <translation>裝飾用</translation>
+    </message>
+    <message>
+        <source>It says nothing: its alternative text is empty</source>
+        <translation>不表達任何內容：替代文字留空</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

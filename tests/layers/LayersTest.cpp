@@ -38,7 +38,7 @@ const std::map<std::string, std::set<std::string>> &AllowedIncludes() {
         "platform"}},
       {"app/settings", {"platform"}},
       {"chrome", {"platform"}},
-      {"insert", {"chrome", "platform"}},
+      {"insert", {"chrome", "pictures", "platform"}},
       {"properties", {"insert", "chrome", "platform"}},
       {"projects", {"chrome", "platform", "app/settings"}},
       {"editor", {"chrome", "pictures", "page/source", "page/text", "platform", "app/settings"}},

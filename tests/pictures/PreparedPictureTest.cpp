@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/PreparedPicture.h"
 #include "platform/RuntimeError.h"
+#include "tests/pictures/FakeHeic.h"
 #include "tests/pictures/PictureFiles.h"
 #include "tests/support/Checks.h"
 
 #include <QImageReader>
 
 #include <gtest/gtest.h>
+
+Q_IMPORT_PLUGIN(FakeHeicPlugin)
 
 namespace velor {
 namespace {
@@ -45,6 +48,27 @@ TEST(PreparedPicture, WhereDetailsAreKeptTheFileStaysAsItIs) {
   const PreparedPicture picture = PreparePicture(file, {}, {.details = PictureDetails::Keep});
   EXPECT_EQ(picture.bytes, file);
   EXPECT_EQ(picture.size, QSize(32, 64));
+}
+
+TEST(PreparedPicture, APictureOfAnInstalledReaderIsCodedAnew) {
+  ASSERT_TRUE(QImageReader::supportedImageFormats().contains("heic"));
+  const PreparedPicture picture = PreparePicture("heic and more", QStringLiteral("heic"), {});
+  EXPECT_EQ(picture.ending, QStringLiteral("png"));
+  EXPECT_EQ(QImage::fromData(picture.bytes).size(), QSize(20, 10));
+  EXPECT_EQ(picture.notice,
+            QStringLiteral("It was a HEIC file, which browsers do not show, and is PNG now."));
+}
+
+TEST(PreparedPicture, OldKindsThatNoPluginReadsAreCodedAnew) {
+  // Run lengths, 2 by 1 pixels, 24 bits: both red.
+  const QByteArray tga = QByteArray::fromHex(
+      "00000a000000000000000000020001001820"
+      "810000ff");
+  const PreparedPicture picture = PreparePicture(tga, QStringLiteral("TGA"), {});
+  EXPECT_EQ(picture.ending, QStringLiteral("png"));
+  EXPECT_EQ(QImage::fromData(picture.bytes).convertToFormat(QImage::Format_RGB32),
+            PlainPicture(2, 1, Qt::red));
+  EXPECT_TRUE(picture.notice.contains(QStringLiteral("TGA")));
 }
 
 TEST(PreparedPicture, WhatBrowsersDoNotShowIsCodedAnew) {

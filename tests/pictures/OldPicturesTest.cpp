@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "insert/OldPictures.h"
+#include "pictures/OldPictures.h"
 
 #include <algorithm>
 #include <array>
