@@ -4,13 +4,16 @@
 palette and scale, on the whole screen.
 
 Usage: screenshots.py RUN_FOLDER OUT_FOLDER light|dark|contrast SCALE_PERCENT [SESSION...]
-Sessions are recovery, start, main, manual, words, objects, properties, names, projects and readme; without any, all of them.
+Sessions are recovery, start, main, pictures, manual, words, objects, properties, names, projects and readme; without any, all of them.
 """
+import math
 import os
 import shutil
+import struct
 import subprocess
 import sys
 import tempfile
+import zlib
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tour"))
 from desktop import Atspi, Program, TourError, run, wait_for  # noqa: E402
@@ -336,6 +339,50 @@ def objects(photos):
     program.key("ctrl+z")
 
 
+def write_picture(path, width, height):
+    """A PNG file: hills under a sky."""
+    def chunk(kind, data):
+        body = kind + data
+        return struct.pack(">I", len(data)) + body + struct.pack(">I", zlib.crc32(body))
+
+    rows = bytearray()
+    for y in range(height):
+        rows.append(0)
+        for x in range(width):
+            is_hill = y > height * (0.6 + 0.15 * math.sin(9 * x / width))
+            rows += bytes((91, 140 - 60 * y // height, 90) if is_hill else (150 + 80 * y // height, 200, 235))
+    with open(path, "wb") as picture:
+        picture.write(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)) +
+                      chunk(b"IDAT", zlib.compress(bytes(rows))) + chunk(b"IEND", b""))
+
+
+def pictures(photos):
+    """The bar of a picture that is larger than shown, and the window that crops it."""
+    program = photos.program
+    write_picture(os.path.join(program.folder, "hills.png"), 900, 600)
+    path = os.path.join(program.folder, "hills.htm")
+    with open(path, "w", encoding="utf-8") as page:
+        page.write("<!DOCTYPE html><title>Hills</title><body style='margin: 0'>"
+                   "<img src=hills.png width=240 height=160>")
+    open_file(program, path, "hills.htm")
+    place = Atspi.Component.get_extents(program.wait(role="document web"), Atspi.CoordType.SCREEN)
+    program.click(int((place.x + 100) * photos.factor), int((place.y + 80) * photos.factor))
+    program.wait("Fit File to Size")
+    photos.away()
+    photos.shot("fitting-bar")
+    photos.command("Crop and Turn Picture")()
+    program.wait("Part of the picture that stays")
+    program.key("ctrl+shift+Left", "ctrl+shift+Left", "ctrl+shift+Up", "ctrl+Right")
+    photos.shot("crop")
+    # The bar behind it has such a button too.
+    photos.hover("Turn Right", "push button", program.wait("Crop and Turn hills.png", "dialog"))
+    program.button(1)
+    photos.shot("crop-turned")
+    photos.click("OK", "push button")
+    program.wait("Undo")
+    photos.shot("cropped")
+
+
 def dialogs(photos):
     program = photos.program
 
@@ -603,6 +650,7 @@ def main(run_folder, out, palette, scale, *wanted):
         "recovery": recovery,
         "start": lambda: session("start", ("eImages",), start_up),
         "main": lambda: session("main", (), main_window, dialogs, modes, narrow),
+        "pictures": lambda: session("pictures", (), pictures),
         "manual": lambda: session("manual", (), manual),
         "words": lambda: session("words", (), words),
         "objects": lambda: session("objects", (), objects),
