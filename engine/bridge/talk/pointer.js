@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // Tells the program where the pointer is, and which link is to be followed.
+import * as selection from '../page/selection.js';
 import { host } from './host.js';
+import { flushPush, schedulePush } from './pace.js';
 
 /** @type {Position | null} */
 let position = null;
@@ -39,7 +41,12 @@ function clicked({ ctrlKey, button, target }) {
 
 /** @param {MouseEvent} event */
 function clickedTwice({ button, target }) {
-  if (button === 0 && target instanceof HTMLImageElement) host()?.pictureOpened();
+  if (button !== 0 || !(target instanceof HTMLImageElement)) return;
+  selection.selectNode(target);
+  // The program looks at the state: two quick clicks come within one frame.
+  schedulePush();
+  flushPush();
+  host()?.pictureOpened();
 }
 
 /** Begins to listen on a document that was loaded. */
