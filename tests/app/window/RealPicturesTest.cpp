@@ -20,6 +20,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
@@ -33,20 +34,26 @@ const QByteArray Source =
 const QString PageFile = QStringLiteral("site/page.htm");
 const QPoint Place(500, 8);
 
-/// The preference PublishedOnly, on while this lives.
-class PublishedOnly {
+/// A preference that is on while this lives: the settings are shared by all tests.
+class SettingOn {
  public:
-  PublishedOnly() { Set("True"); }
-  ~PublishedOnly() { Set("False"); }
-  PublishedOnly(const PublishedOnly &) = delete;
-  PublishedOnly &operator=(const PublishedOnly &) = delete;
+  explicit SettingOn(const char *name) : name_(QString::fromLatin1(name)) { Set("True"); }
+  ~SettingOn() { Set("False"); }
+  SettingOn(const SettingOn &) = delete;
+  SettingOn &operator=(const SettingOn &) = delete;
 
  private:
-  static void Set(const char *value) {
+  void Set(const char *value) const {
     QtRegistry registry;
-    modSettingManager::SetOption(registry, QStringLiteral("PublishedOnly"),
-                                 QString::fromLatin1(value));
+    modSettingManager::SetOption(registry, name_, QString::fromLatin1(value));
   }
+
+  const QString name_;
+};
+
+class PublishedOnly : SettingOn {
+ public:
+  PublishedOnly() : SettingOn("PublishedOnly") {}
 };
 
 class RealPictures : public RealWindow {
@@ -158,6 +165,8 @@ TEST_F(RealPictures, PicturesInPastedMarkupComeIntoTheSiteInTheStepOfThePaste) {
                       "<p>two <img src=\"my-rose.png\" width=\"60\" height=\"40\"> <img src=\""
                       "page-1.png\"> <img src=\"http://example.com/c.png\"></p>"))
       << Seen(page);
+  EXPECT_EQ(Find<QStatusBar>("Sta")->currentMessage(),
+            QStringLiteral("One picture stays on the web."));
   EXPECT_TRUE(SiteBecomes({"my-rose.png", "page-1.png", "page.htm"}));
   EXPECT_EQ(Bytes(QStringLiteral("site/my-rose.png")), BytesOutside("My Rose.PNG"));
   Choose("mnuUndo");
@@ -245,16 +254,19 @@ TEST_F(RealPictures, TheBoxGivesThePictureItsTextAndADecorativeOneAnEmptyOne) {
 }
 
 TEST_F(RealPictures, TheBoxStandsBesideThePictureFollowsItAndGoesByEscape) {
-  frmMain &page = Open(PageFile, "<!DOCTYPE html><body style=\"margin: 0\"><p id=p style=\"margin: 0\">"
-                                 "One</p><div style=\"height: 3000px\"></div>");
+  frmMain &page = Open(PageFile,
+                       "<!DOCTYPE html><body style=\"margin: 0\"><p id=p style=\"margin: 0\">"
+                       "One</p><div style=\"height: 3000px\"></div>");
   PutCaret(page, QStringLiteral("p"));
   DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
   auto &box = *page.findChild<PictureTextBox *>();
   ASSERT_TRUE(WaitFor([&] { return box.isVisible(); })) << Seen(page);
   const auto picture = [&] {
-    const QVariantList told = Evaluate(EngineOf(page), QStringLiteral(
-        "(({ left, top, width, height }) => [left, top, width, height])"
-        "(document.images[0].getBoundingClientRect())")).toList();
+    const QVariantList told =
+        Evaluate(EngineOf(page),
+                 QStringLiteral("(({ left, top, width, height }) => [left, top, width, height])"
+                                "(document.images[0].getBoundingClientRect())"))
+            .toList();
     return QRect(told[0].toInt(), told[1].toInt(), told[2].toInt(), told[3].toInt());
   };
   EXPECT_TRUE(WaitFor([&] { return box.geometry().top() == picture().bottom() + 5; }))
@@ -341,6 +353,41 @@ TEST_F(RealPictures, WhatIsNoPictureIsLinkedWhereItLies) {
   DropFiles(ViewOf(page), {Outside("no.png")}, Place);
   EXPECT_TRUE(Becomes(page, "/no.png\">")) << Seen(page);
   EXPECT_EQ(Site(), Names({"page.htm"}));
+}
+
+TEST_F(RealPictures, WhatBrowsersDoNotShowOrRunIsConvertedAndTold) {
+  WriteOutside("scan.tif", CodedAs("TIFF", PlainPicture(30, 20)));
+  WriteOutside("drawing.svg",
+               "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"><script>x()"
+               "</script></svg>");
+  frmMain &page = OpenSource();
+  const auto tells = [&](const char *words) {
+    return WaitFor([&] {
+      return InBar<QLabel>(page, "lblPicture").text().contains(QString::fromLatin1(words));
+    });
+  };
+  DropFiles(ViewOf(page), {Outside("scan.tif")}, Place);
+  EXPECT_TRUE(Becomes(page, "<img src=\"scan.png\" width=\"30\" height=\"20\">")) << Seen(page);
+  EXPECT_TRUE(tells("It was a TIFF file, which browsers do not show, and is PNG now."));
+  DropFiles(ViewOf(page), {Outside("drawing.svg")}, Place);
+  EXPECT_TRUE(Becomes(page, "<img src=\"drawing.svg\"")) << Seen(page);
+  EXPECT_TRUE(tells("It holds scripts, which browsers do not run in a picture."));
+  EXPECT_EQ(Bytes(QStringLiteral("site/drawing.svg")), BytesOutside("drawing.svg"));
+}
+
+TEST_F(RealPictures, TheSettingsSayWhatPhotosBecomeAndWhetherTheyKeepTheirDetails) {
+  WriteOutside("photo.jpg", JpegWith(CodedAs("JPG", Photo(64, 32)), ExifSegment(1)));
+  frmMain &page = OpenSource();
+  DropFiles(ViewOf(page), {Outside("photo.jpg")}, Place);
+  EXPECT_TRUE(Becomes(page, "photo.jpg")) << Seen(page);
+  EXPECT_FALSE(Bytes(QStringLiteral("site/photo.jpg")).contains("Exif"));
+  const SettingOn keeps("KeepPictureData");
+  DropFiles(ViewOf(page), {Outside("photo.jpg")}, Place);
+  EXPECT_TRUE(Becomes(page, "photo-1.jpg")) << Seen(page);
+  EXPECT_EQ(Bytes(QStringLiteral("site/photo-1.jpg")), BytesOutside("photo.jpg"));
+  const SettingOn webp("PhotosAsWebP");
+  Paste(page, Photo(60, 40));
+  EXPECT_TRUE(Becomes(page, "page-1.webp")) << Seen(page);
 }
 
 TEST_F(RealPictures, EmbeddedPicturesBecomeFilesInOneStep) {
