@@ -25,6 +25,7 @@ constexpr Entry Table[] = {
     {"save", SavingFigures},
     {"save-after-edit", SavingAfterAnEditFigures},
     {"journal", JournalFigures},
+    {"paste", PasteFigures},
     {"pictures", PictureFigures},
     {"preview", PreviewFigures},
     {"print", PrintFigures},

@@ -29,6 +29,8 @@ void ToolbarFigure();
 /// What keeping a page for a recovery costs (JournalFigures.cpp).
 void JournalFigures();
 
+/// A long document pasted (PasteFigures.cpp).
+void PasteFigures();
 /// A large picture made smaller (PictureFigures.cpp).
 void PictureFigures();
 /// The preview's first and later showings of a page (PreviewFigures.cpp).
