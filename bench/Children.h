@@ -14,6 +14,9 @@ double TimeToReady(const QString &figure);
 /// Proportional set size of a child that is ready and of all its descendants, in MB.
 double MemoryOf(const QString &figure);
 
+/// The most memory that a child, without its descendants, had resident until it was ready, in MB.
+double MostMemoryOf(const QString &figure);
+
 /// Milliseconds of processor time that a child and all its descendants use in 20 s once they are
 /// idle.
 double IdleTimeOf(const QString &figure);

@@ -45,6 +45,8 @@ constexpr Entry Table[] = {
     {"child-bare-one-closed", ChildBareOneClosed},
     {"child-bare-fifty-closed", ChildBareFiftyClosed},
     {"child-bare-five", ChildBareFiveViews},
+    {"child-our-resize", ChildOurResize},
+    {"child-bare-resize", ChildBareResize},
 };
 
 }  // namespace

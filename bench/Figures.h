@@ -31,8 +31,10 @@ void JournalFigures();
 
 /// A long document pasted (PasteFigures.cpp).
 void PasteFigures();
-/// A large picture made smaller (PictureFigures.cpp).
+// Figures about a large picture made smaller (PictureFigures.cpp).
 void PictureFigures();
+void ChildOurResize();
+void ChildBareResize();
 /// The preview's first and later showings of a page (PreviewFigures.cpp).
 void PreviewFigures();
 /// A PDF of many sheets (PrintFigures.cpp).
