@@ -2,6 +2,10 @@
 #include "editor/frmMain.h"
 #include "tests/app/window/WindowFixture.h"
 
+#include <QTest>
+
+#include <tuple>
+
 namespace velor {
 namespace {
 
@@ -36,6 +40,24 @@ TEST_F(ContextMenu, ActsOnThePageInFrontAsTheEditMenuDoes) {
             "ExecCommand(5035) ExecCommand(6001) ExecCommand(6003) ExecCommand(6008) "
             "ExecCommand(6009) ExecCommand(6020) ExecCommand(6021) ExecCommand(6026)");
   Find<QMenu>("mnuExt")->close();
+}
+
+TEST_F(ContextMenu, InsertsAboveAndAtTheLeftWhileShiftIsHeld) {
+  NewPage();
+  for (const auto &[item, plain, shifted] :
+       {std::tuple{"extInRow", EditingCommand::InsertRowBelow, EditingCommand::InsertRowAbove},
+        {"extInCol", EditingCommand::InsertColumnRight, EditingCommand::InsertColumnLeft}}) {
+    for (const bool isShifted : {false, true}) {
+      auto *menu = qobject_cast<QMenu *>(Item(item)->associatedObjects().value(0));
+      ASSERT_NE(menu, nullptr) << item;
+      menu->popup({});
+      menu->setActiveAction(Item(item));
+      log.clear();
+      QTest::keyClick(menu, Qt::Key_Return, isShifted ? Qt::ShiftModifier : Qt::NoModifier);
+      EXPECT_EQ(Commands(), QStringList(QStringLiteral("ExecCommand(%1)")
+                                            .arg(static_cast<int>(isShifted ? shifted : plain))));
+    }
+  }
 }
 
 TEST_F(ContextMenu, HasItemsEnabledByWhatIsSelected) {
