@@ -15,6 +15,7 @@
 #include <QTabBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace velor {
 namespace {
@@ -171,6 +172,15 @@ QList<QWidget *> PageArea::OpenWindows() const {
   for (const QMdiSubWindow *frame : subWindowList(QMdiArea::CreationOrder)) {
     if (!frame->isHidden() && frame->widget()) windows.append(frame->widget());
   }
+  if (additions_ == Additions::Off) return windows;
+  const auto place = [](const QWidget *window) {
+    const auto *shown = dynamic_cast<const FrontWindow *>(window);
+    return shown == nullptr ? std::pair(0, FrontView::Nothing)
+                            : std::pair(shown->PageNumber(), shown->View());
+  };
+  std::stable_sort(windows.begin(), windows.end(), [&](const QWidget *one, const QWidget *other) {
+    return place(one) < place(other);
+  });
   return windows;
 }
 

@@ -36,7 +36,7 @@ class PageArea final : public QMdiArea, public ChildWindows {
   QWidget *Current() const override;
   /// The window in front; null when none is open.
   FrontWindow *Front() const;
-  /// The open windows in the order in which they were adopted.
+  /// The open windows by page and kind, as additions have it; else in the order of their adoption.
   QList<QWidget *> OpenWindows() const;
 
   /// The name of an open window in titles and in the Window menu: FrontWindow::ShownName, with the

@@ -26,6 +26,16 @@ TEST_F(WindowMenu, ListsTheOpenDocuments) {
                                               QStringLiteral("&2 Untitled 2*")}));
 }
 
+TEST_F(WindowMenu, ListsThemByPageAndKind) {
+  frmMain &first = NewPage();
+  NewPage();
+  first.ChangeMode(4);
+  first.ChangeMode(3);
+  const QStringList listed = ListedWindows(*Find<QMenu>("mnuWindow"));
+  EXPECT_EQ(listed.join(u'|').toStdString(),
+            "-|&1 Untitled 1|&2 Untitled 1, HTML source*|&3 Untitled 1, Preview|&4 Untitled 2");
+}
+
 TEST_F(WindowMenu, BringsAListedDocumentToTheFront) {
   frmMain &first = NewPage();
   NewPage();
