@@ -125,13 +125,24 @@ function splitBlock(block) {
 const isAllOf = (item, { block }) =>
   Boolean(block) && [...item.childNodes].filter(dom.isShown).every((node) => node === block);
 
+// True where an item shows nothing but a break; white space in a format beside it shows nothing.
+/** @param {Element} item */
+function showsBreakAlone(item) {
+  const range = document.createRange();
+  range.selectNodeContents(item);
+  const leaves = [...selection.leavesIn(range)].filter((leaf) => !dom.isBlank(leaf));
+  return leaves.length === 1 && dom.isBreak(leaves[0]);
+}
+
 // In an item: an empty one is left. With other blocks in the item the engine would put the new one
 // among those, or drop the source's lines before a list.
 /** @param {Unit} unit */
 function enterInItem(unit) {
   const item = itemOf(unit);
   if (!item) return null;
-  const isEmpty = dom.isHollow(item) || (isAllOf(item, unit) && dom.isHollow(unit.block));
+  const isAlone = isAllOf(item, unit);
+  const isEmpty = dom.isHollow(item) || (isAlone && dom.isHollow(unit.block)) ||
+    ((isAlone || !unit.block) && showsBreakAlone(item));
   if (isEmpty) return () => lists.outdentItemOf(unit);
   const others = [...item.children].filter((child) => child !== unit.block && dom.isBlock(child));
   const goesOn = unit.block
