@@ -77,8 +77,9 @@ TEST_F(CommandPaletteTest, FindsACommandByOtherWordsForItBehindThoseNamedSo) {
     Choose("mnuFindCommand");
     return entries;
   };
-  EXPECT_EQ(found("pict"), QStringList({QStringLiteral("Take Embedded Pictures Out into Files"),
-                                        QStringLiteral("Image")}));
+  EXPECT_EQ(found("pict"),
+            QStringList({QStringLiteral("Take Embedded Pictures Out into Files"),
+                         QStringLiteral("Crop and Turn Picture"), QStringLiteral("Image")}));
   const QStringList pages = found("page");
   EXPECT_TRUE(pages.contains(QStringLiteral("New Document (Ctrl+N)")))
       << pages.join(u'|').toStdString();
