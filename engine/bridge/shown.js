@@ -3,4 +3,4 @@
 // What the program asks of a page in the preview. The rest of the bridge is not there.
 import { breakpoints } from './page/sheets.js';
 
-globalThis.velor = { breakpoints };
+globalThis.velorShown = { breakpoints };

@@ -337,6 +337,7 @@ interface Window {
   qt?: typeof qt;
 }
 declare var velor: object;
+declare var velorShown: object;
 // What Chromium has and the checker's library does not know.
 interface CSSStyleDeclaration { zoom: string }
 interface CSSStyleSheet { replaceSync(text: string): void }

@@ -290,7 +290,7 @@ void WebBrowser::TellShown() {
     for (const QVariant &width : widths.toList()) shown.breakpoints << width.toInt();
     alive->listener_->PageShown(shown);
   };
-  page_->runJavaScript(ShownPageScript() + QStringLiteral("velor.breakpoints()"), BridgeWorld,
+  page_->runJavaScript(ShownPageScript() + QStringLiteral("velorShown.breakpoints()"), BridgeWorld,
                        tell);
 }
 
