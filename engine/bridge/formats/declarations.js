@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
 // Inline styles, changed as texts: CSSOM would write all of their declarations anew.
+import * as history from '../page/history.js';
 
 /**
  * The declarations of an element's style as the page writes them, with the white space around them.
@@ -26,8 +27,12 @@ export const isOf = (property) => (declaration) =>
 function write(element, all) {
   const end = /;\s*$/.test(element.getAttribute('style') ?? '') ? ';' : '';
   const left = all.filter((each) => each.trim());
-  if (left.length) element.setAttribute('style', left.join(';').trim() + end);
-  else element.removeAttribute('style');
+  if (left.length) {
+    element.setAttribute('style', left.join(';').trim() + end);
+    return;
+  }
+  history.attributesOf(element);
+  element.removeAttribute('style');
 }
 
 // The words of these properties in the shorthand `font`, which stands for less without them.
