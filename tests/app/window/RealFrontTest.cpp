@@ -262,7 +262,7 @@ TEST_F(RealFront, SourceEditorAndPreviewAreNamedByTheirPageAndKind) {
   frmMain &page = Open(QStringLiteral("a.htm"), Plain);
   page.ChangeMode(3);
   EXPECT_EQ(WindowEntries(),
-            QStringList({QStringLiteral("&1 a.htm, HTML source"), QStringLiteral("&2 a.htm")}));
+            QStringList({QStringLiteral("&1 a.htm"), QStringLiteral("&2 a.htm, HTML source")}));
   EXPECT_EQ(window.windowTitle(), QStringLiteral("Velor Web Creator - [a.htm, HTML source]"));
   EditorOf(page).close();
   page.ChangeMode(4);
