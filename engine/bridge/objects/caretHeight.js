@@ -13,6 +13,8 @@ const viewNow = () => `${innerWidth} ${innerHeight} ${devicePixelRatio}`;
 let view = '';
 /** @type {number | null} pixels of the screen; null for a caret that was not in sight */
 let height = null;
+/** @type {number | null} where the caret was put in a view that is too low, or at the page's end */
+let placed = null;
 
 /** The box of the caret, or of the selection's moving end. */
 function caretBox() {
@@ -32,6 +34,8 @@ function note() {
   // The caret has moved already where the page was laid out anew.
   if (view !== viewNow()) return;
   const box = caretBox();
+  if (box && placed !== null && Math.abs(box.top - placed) < 1) return;
+  placed = null;
   const isSeen = box && box.top >= 0 && box.top + box.height <= innerHeight;
   height = isSeen ? box.top * devicePixelRatio : null;
 }
@@ -46,6 +50,7 @@ function restore() {
   // The type of a DOM library that does not know this value.
   const behavior = /** @type {ScrollBehavior} */ (/** @type {string} */ ('instant'));
   scrollBy({ top: box.top - top, behavior });
+  placed = caretBox()?.top ?? null;
 }
 
 /** Begins to keep the caret's height on a document that was loaded. */

@@ -51,6 +51,16 @@ class RealWidths : public RealWindow {
                                                    " ? box.top * devicePixelRatio : -1 }"))
         .toDouble();
   }
+  /// Puts the caret into the element "here", in the middle of the view.
+  static void CaretInTheMiddle(frmMain &page) {
+    PutCaret(page, QStringLiteral("#here"));
+    Evaluate(EngineOf(page),
+             QStringLiteral("here.scrollIntoView({ block: 'center' }); var drawn = 0;"
+                            "requestAnimationFrame(() => requestAnimationFrame(() => drawn = 2))"));
+    // The page learns of the scrolling with the next frame.
+    EXPECT_TRUE(
+        WaitFor([&] { return Evaluate(EngineOf(page), QStringLiteral("drawn === 2")).toBool(); }));
+  }
   /// Whether the page has another width than before and the caret is where it was in the view.
   void ExpectCaretStays(frmMain &page, const std::function<void()> &change) {
     const QString layout = QStringLiteral("innerWidth + ' ' + devicePixelRatio");
@@ -123,9 +133,7 @@ TEST_F(RealWidths, TheCaretStaysAtItsHeightWhenLinesBreakAnew) {
                                            "<b id=here>one</b> " +
                                            QByteArray(lines + "</p>\n<p>").repeated(20) + "</p>");
   Choose("mnuWidths");
-  PutCaret(page, QStringLiteral("#here"));
-  Evaluate(EngineOf(page),
-           QStringLiteral("document.querySelector('#here').scrollIntoView({ block: 'center' })"));
+  CaretInTheMiddle(page);
   ExpectCaretStays(page, [&] { In<QToolButton>(page, "cmdWidth360").click(); });
   ExpectCaretStays(page, [&] { In<QToolButton>(page, "cmdWidth768").click(); });
   auto &grip = In<QWidget>(page, "picWidthGrip");
@@ -142,6 +150,26 @@ TEST_F(RealWidths, TheCaretStaysAtItsHeightWhenLinesBreakAnew) {
   ExpectCaretStays(page, [&] { In<QToolButton>(page, "cmdWidth0").click(); });
   ExpectCaretStays(page, [&] { page.SetZoom(1.25); });
   ExpectCaretStays(page, [&] { Choose("mnuWidths"); });
+}
+
+TEST_F(RealWidths, TheCaretComesBackToItsHeightBehindAViewThatWasTooLow) {
+  frmMain &page = Open(QStringLiteral("long.htm"), QByteArray("<p>long</p>\n").repeated(40) +
+                                                       "<p id=here>one</p>\n" +
+                                                       QByteArray("<p>long</p>\n").repeated(40));
+  CaretInTheMiddle(page);
+  const double height = CaretHeight(page);
+  ASSERT_GT(height, 0);
+  const auto isHigh = [&](const char *compared) {
+    return Evaluate(EngineOf(page), QStringLiteral("innerHeight ") + QLatin1String(compared))
+        .toBool();
+  };
+  window.resize(1180, 330);
+  ASSERT_TRUE(WaitFor([&] { return isHigh("< 200"); }));
+  EXPECT_TRUE(WaitFor([&] { return CaretHeight(page) > 0 && CaretHeight(page) < height - 50; }));
+  window.resize(1180, 800);
+  ASSERT_TRUE(WaitFor([&] { return isHigh("> 400"); }));
+  EXPECT_TRUE(WaitFor([&] { return std::abs(CaretHeight(page) - height) < 3; }))
+      << CaretHeight(page) << " instead of " << height;
 }
 
 TEST_F(RealWidths, APageThatIsWiderThanTheWindowScrollsSidewaysToTheCaret) {
