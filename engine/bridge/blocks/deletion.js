@@ -29,7 +29,10 @@ function deleteLeaves(range) {
   for (const leaf of [...selection.leavesIn(range)]) {
     if (!dom.isShown(leaf) || dom.isCell(leaf) || isTablePart(leaf)) continue;
     const { parentNode } = leaf;
-    blocks.add(dom.blockOf(parentNode));
+    const block = dom.blockOf(parentNode);
+    // Its line is empty already.
+    if (dom.isBreak(leaf) && dom.isHollow(block)) continue;
+    blocks.add(block);
     const from = leaf === startContainer ? startOffset : 0;
     if (dom.isText(leaf)) {
       leaf.deleteData(from, (leaf === endContainer ? endOffset : leaf.length) - from);
