@@ -23,12 +23,12 @@ export const attribute = (name) => ({
   write: (element, value) => setAttributes(element, [[name, value]]),
 });
 
-// What an inline style says of a property, as the page writes it.
 /**
+ * What an inline style says of a property, as the page writes it.
  * @param {Element} element
  * @param {string} property
  */
-const said = (element, property) => {
+export const said = (element, property) => {
   const found = declarations(element).findLast(isOf(property));
   return found ? found.slice(found.indexOf(':') + 1).replace(/!important/i, '').trim() : '';
 };
@@ -60,9 +60,10 @@ export const look = (name, property, spelling = {}) => ({
   },
 });
 
-const inPixels = (/** @type {string} */ value) =>
+export const inPixels = (/** @type {string} */ value) =>
   (/^\d+(\.\d+)?$/.test(value) ? `${value}px` : value);
-const withoutPixels = (/** @type {string} */ value) => value.replace(/^(\d+(\.\d+)?)px$/i, '$1');
+export const withoutPixels = (/** @type {string} */ value) =>
+  value.replace(/^(\d+(\.\d+)?)px$/i, '$1');
 
 /**
  * A width or height: a number of pixels, or a length with its unit.
@@ -71,10 +72,12 @@ const withoutPixels = (/** @type {string} */ value) => value.replace(/^(\d+(\.\d
 export const length = (name) =>
   look(name, name, { inStyle: inPixels, fromStyle: withoutPixels });
 
+/** @param {string} value the style of a line around */
+export const widthOfLine = (value) => withoutPixels(value.replace(/ solid$/i, ''));
 /** A picture's border: the width of a line around it. */
 export const border = look('border', 'border', {
   inStyle: (value) => (value === '0' ? value : `${inPixels(value)} solid`),
-  fromStyle: (value) => withoutPixels(value.replace(/ solid$/i, '')),
+  fromStyle: widthOfLine,
 });
 
 /**

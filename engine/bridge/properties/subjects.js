@@ -3,6 +3,7 @@
 // What each properties dialog is about, and its fields.
 import { attribute, border, length, look, places, spacing, style, told } from './fields.js';
 import { icon, meta, ruled, sheets, title } from './head.js';
+import * as tableLooks from './tableLooks.js';
 import { formats } from '../formats/formats.js';
 import { apply as applyFormat } from '../formats/inline.js';
 import { linkObject, linkOf, setAttributes, takeOff } from '../formats/links.js';
@@ -225,8 +226,8 @@ const subjects = {
     fields: {
       rows: told((table) => gridOf(table).height), columns: told((table) => gridOf(table).width),
       caption, headRow: headings('row'), headColumn: headings('column'), width: length('width'),
-      align: tableAlign, border: attribute('border'), cellpadding: attribute('cellpadding'),
-      cellspacing: attribute('cellspacing'), background,
+      align: tableAlign, border: tableLooks.border, cellpadding: tableLooks.padding,
+      cellspacing: tableLooks.gaps, background,
       bordercolor: look('bordercolor', 'border-color'), ...common,
     },
   },

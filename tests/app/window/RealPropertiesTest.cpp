@@ -76,6 +76,7 @@ constexpr Change InHead(const char *field, const char *value, const char *after)
 }
 
 constexpr auto Heads = "<td>a</td><td>b</td>";
+constexpr auto Cells = "\"1\">\n<tr><td>a</td><td>b</td></tr>\n<tr><td>c</td><td>d</td></tr>";
 constexpr auto FirstColumn = "<td>a</td><td>b</td></tr>\n<tr><td>c</td>";
 
 constexpr Change Changes[] = {
@@ -138,10 +139,14 @@ constexpr Change Changes[] = {
     {Table, "width", "50%", "\"1\">", "\"1\" style=\"width: 50%\">", "\"1\" width=\"50%\">"},
     {Table, "align", "center", "\"1\">", "\"1\" style=\"margin-left: auto; margin-right: auto\">",
      "\"1\" align=\"center\">"},
-    // These three reach into the cells, where no style of the table does.
+    // An attribute that the page has stays one.
     Same(Table, "border", "2", "\"1\">", "\"2\">"),
-    Same(Table, "cellpadding", "4", "\"1\">", "\"1\" cellpadding=\"4\">"),
-    Same(Table, "cellspacing", "0", "\"1\">", "\"1\" cellspacing=\"0\">"),
+    {Table, "cellpadding", "4", Cells,
+     "\"1\">\n<tr><td style=\"padding: 4px\">a</td><td style=\"padding: 4px\">b</td></tr>\n"
+     "<tr><td style=\"padding: 4px\">c</td><td style=\"padding: 4px\">d</td></tr>",
+     "\"1\" cellpadding=\"4\">\n<tr><td>a</td><td>b</td></tr>\n<tr><td>c</td><td>d</td></tr>"},
+    {Table, "cellspacing", "0", "\"1\">", "\"1\" style=\"border-collapse: collapse\">",
+     "\"1\" cellspacing=\"0\">"},
     {Table, "background", "#EEEEEE", "\"1\">", "\"1\" style=\"background-color: #EEEEEE\">",
      "\"1\" bgcolor=\"#EEEEEE\">"},
     {Table, "bordercolor", "navy", "\"1\">", "\"1\" style=\"border-color: navy\">",

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// @ts-check
+// What reaches from a table into its cells: border, padding and the gaps between them. Old pages
+// say each by one attribute of the TABLE; styles say it of the table and of every cell.
+import { putDeclaration, takeDeclaration } from '../formats/declarations.js';
+import { setAttributes } from '../formats/links.js';
+import * as dom from '../page/dom.js';
+import { inPixels, said, widthOfLine, withoutPixels } from './fields.js';
+
+/** @typedef {import('./fields.js').Field} Field */
+
+/**
+ * @param {AnyNode} table
+ * @returns {AnyNode[]}
+ */
+const cellsOf = (table) => [...table.rows].flatMap((row) => [...row.cells]);
+
+// What all cells say alike; empty where they do not.
+/**
+ * @param {AnyNode} table
+ * @param {string} property
+ */
+function saidByCells(table, property) {
+  const values = new Set(cellsOf(table).map((cell) => said(cell, property)));
+  return values.size === 1 ? [...values][0] : '';
+}
+
+/**
+ * @param {Element} element
+ * @param {string} property
+ * @param {string} value empty to take it off
+ */
+function put(element, property, value) {
+  if (value) putDeclaration(element, property, value);
+  else if (said(element, property)) takeDeclaration(element, property);
+}
+
+/**
+ * An attribute where the page has it, else the dialect's way.
+ * @param {string} name
+ * @param {(table: AnyNode) => string} readStyle
+ * @param {(table: AnyNode, value: string) => void} writeStyle
+ * @returns {Field}
+ */
+const reaching = (name, readStyle, writeStyle) => ({
+  read: (table) => readStyle(table) || (table.getAttribute(name) ?? ''),
+  write(table, value) {
+    const isStyled = readStyle(table) !== '';
+    const isSaid = table.hasAttribute(name);
+    if (isStyled || (!isSaid && dom.writesStyles())) writeStyle(table, value);
+    if (isSaid || (!isStyled && !dom.writesStyles())) setAttributes(table, [[name, value]]);
+  },
+});
+
+const widthOf = (/** @type {AnyNode} */ table) => widthOfLine(said(table, 'border'));
+export const border = reaching('border', widthOf, (table, value) => {
+  const width = value === '0' ? '' : value;
+  put(table, 'border', width && `${inPixels(width)} solid`);
+  for (const cell of cellsOf(table)) {
+    if (!width || !said(cell, 'border')) put(cell, 'border', width && '1px solid');
+  }
+});
+
+export const padding = reaching('cellpadding',
+  (table) => withoutPixels(saidByCells(table, 'padding')),
+  (table, value) => cellsOf(table).forEach((cell) => put(cell, 'padding', inPixels(value))));
+
+const collapses = (/** @type {AnyNode} */ table) =>
+  said(table, 'border-collapse').toLowerCase() === 'collapse';
+export const gaps = reaching('cellspacing',
+  (table) => (collapses(table) ? '0' : withoutPixels(said(table, 'border-spacing'))),
+  (table, value) => {
+    if (value === '0' || collapses(table)) {
+      put(table, 'border-collapse', value === '0' ? 'collapse' : '');
+    }
+    put(table, 'border-spacing', value === '0' ? '' : inPixels(value));
+  });
