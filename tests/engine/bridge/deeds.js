@@ -19,14 +19,18 @@
     'SendToBack', 'SendBackward', 'SendBelowText', 'Bold', 'Italic', 'JustifyCenter',
     'JustifyLeft']);
   const values = {
+    page: [['title', 'One'], ['title', ''], ['language', 'de'], ['direction', 'rtl'],
+      ['description', 'all'], ['viewport', ''], ['text', '#112233'], ['background', '#EEEEEE'],
+      ['picture', 'b.png'], ['link', '#0000FF'], ['link', ''], ['sheets', 'a.css\nb.css'],
+      ['icon', 'i.ico']],
     table: [['width', '50%'], ['width', ''], ['align', 'center'], ['border', '1'], ['border', ''],
       ['background', '#FF0000'], ['class', 'c1'], ['headRow', 'true'], ['headRow', ''],
-      ['headColumn', 'true'], ['cellpadding', '3']],
+      ['headColumn', 'true'], ['cellpadding', '3'], ['cellpadding', ''], ['cellspacing', '0']],
     cell: [['width', '80'], ['align', 'right'], ['valign', 'top'], ['heading', 'true'],
       ['heading', ''], ['noWrap', 'true'], ['background', ''], ['color', '#0000FF']],
     link: [['href', 'other.htm'], ['title', 'a title'], ['target', '_blank'], ['rel', '']],
     image: [['alt', ''], ['width', '20'], ['border', '0'], ['decorative', 'true']],
-    element: [['id', 'n1'], ['class', 'c1 c2'], ['lang', 'de'], ['direction', 'rtl'],
+    element: [['id', 'n1'], ['class', 'c1 c2'], ['language', 'de'], ['direction', 'rtl'],
       ['style', '']],
     fonts: [['bold', 'true'], ['italic', ''], ['fontName', 'Arial']],
   };
