@@ -22,6 +22,7 @@
 #include <chrono>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace velor {
 
@@ -41,15 +42,22 @@ PictureChoices ChoicesOf(const Registry &registry) {
                                                           : PictureDetails::Remove};
 }
 
+std::vector<frmMain *> OtherPages(EditorContext &context, int number) {
+  std::vector<frmMain *> pages;
+  for (int other = 1; other <= context.pages.PageCount(); ++other) {
+    frmMain *page = context.pages.Page(other);
+    if (other != number && page != nullptr) pages.push_back(page);
+  }
+  return pages;
+}
+
 /// Whether another page's text names that file.
 bool IsNamedElsewhere(EditorContext &context, int number, const QString &path) {
   const QString name = modGeneral::FileNameOfPath(path);
-  for (int other = 1; other <= context.pages.PageCount(); ++other) {
-    frmMain *page = context.pages.Page(other);
-    if (other != number && page != nullptr && page->DHTML1().Memory().document.contains(name))
-      return true;
-  }
-  return false;
+  const std::vector<frmMain *> pages = OtherPages(context, number);
+  return std::any_of(pages.begin(), pages.end(), [&](frmMain *page) {
+    return page->DHTML1().Memory().document.contains(name);
+  });
 }
 
 /// The file that a data: address holds; nothing for another address.
@@ -310,7 +318,12 @@ void PagePictures::Follow() {
 
 void PagePictures::MarkSaved() {
   rewritten_.MarkSaved();
-  copied_.MarkSaved(context_.pages.Record(page_.Number()).SavedHTML);
+  const QString &html = context_.pages.Record(page_.Number()).SavedHTML;
+  copied_.MarkSaved(html);
+  for (frmMain *page : OtherPages(context_, page_.Number())) {
+    page->Pictures().copied_.LeaveToSite(
+        [&](const QString &path) { return html.contains(modGeneral::FileNameOfPath(path)); });
+  }
 }
 
 void PagePictures::RemoveUnsaved() {

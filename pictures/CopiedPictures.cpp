@@ -90,6 +90,10 @@ void CopiedPictures::MarkSaved(const QString &html) {
                 [&](const Picture &picture) { return HasAddress(html, picture.address); });
 }
 
+void CopiedPictures::LeaveToSite(const std::function<bool(const QString &path)> &isSaved) {
+  std::erase_if(pictures_, [&](const Picture &picture) { return isSaved(picture.path); });
+}
+
 void CopiedPictures::RemoveUnsaved() {
   for (Picture &picture : pictures_) Remove(picture);
   pictures_.clear();

@@ -42,6 +42,8 @@ class CopiedPictures {
   void Follow(const QString &html);
   /// The page was saved with this text: the pictures in it belong to the site from now on.
   void MarkSaved(const QString &html);
+  /// Another page was saved that has files for which this is true: they are the site's from now on.
+  void LeaveToSite(const std::function<bool(const QString &path)> &isSaved);
   /// The page closes without being saved.
   void RemoveUnsaved();
   /// Removes the files that never came into the page's text.

@@ -219,6 +219,23 @@ TEST_F(RealPictures, ClosingWithoutSavingLeavesNoFileInTheSite) {
   EXPECT_EQ(Bytes(PageFile), Source);
 }
 
+TEST_F(RealPictures, AFileThatAnotherSavedPageHasStaysWhenItsPageClosesWithoutSaving) {
+  frmMain &page = OpenSource();
+  DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
+  ASSERT_TRUE(SiteBecomes({"my-rose.png", "page.htm"}));
+  ASSERT_TRUE(Becomes(page, "my-rose.png"));
+  frmMain &other = Open(QStringLiteral("site/other.htm"), Source);
+  DropFiles(ViewOf(other), {Outside("My Rose.PNG")}, Place);
+  ASSERT_TRUE(Becomes(other, "my-rose.png")) << Seen(other);
+  Choose("mnuSave");
+  EXPECT_TRUE(other.close());
+  dialogs.ExpectMessage(
+      QStringLiteral("You have made changes to this document. Do you want to save it?"),
+      MessageAnswer::No);
+  EXPECT_TRUE(page.close());
+  EXPECT_EQ(Site(), Names({"my-rose.png", "other.htm", "page.htm"}));
+}
+
 TEST_F(RealPictures, LinkedWhereItLiesItIsNoFileOfTheSiteAndThatIsRemembered) {
   frmMain &page = OpenSource();
   DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
