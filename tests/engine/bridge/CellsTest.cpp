@@ -391,7 +391,8 @@ TEST_F(Edges, HalfOfANarrowCellIsTheCellsOwn) {
         .toBool();
   };
   for (const auto &[x, expected] : {std::pair{13, true}, {16, false}, {20, false}, {23, true}})
-    EXPECT_TRUE(WaitFor([&] { return isEdge(x) == expected; }, 2000)) << x;
+    EXPECT_TRUE(WaitFor([&, at = x, wanted = expected] { return isEdge(at) == wanted; }, 2000))
+        << x;
   page_.Click({16, 20});
   EXPECT_TRUE(Comes(QStringLiteral("getSelection().anchorNode.parentNode.cellIndex === 1")));
 }
