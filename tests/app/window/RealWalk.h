@@ -256,8 +256,11 @@ class RealWalk : private WithPerson, public RealWindow {
   }
   /// The page as narrow as a phone's, or as it was.
   void ChangeWidth() {
-    if (View() == FrontView::Design) Choose("mnuWidths");
-    if (View() == FrontView::Design) WaitForKeyboardInPage();
+    if (View() != FrontView::Design) return;
+    Choose("mnuWidths");
+    // A bar that opens has the keyboard until Escape.
+    if (!InputOf(*FrontPage())->hasFocus()) Press(Qt::Key_Escape);
+    WaitForKeyboardInPage();
   }
   /// Out of what is in front and back.
   void LeaveByF6() {
