@@ -51,13 +51,15 @@ std::vector<frmMain *> OtherPages(EditorContext &context, int number) {
   return pages;
 }
 
-/// Whether another page's text names that file.
+/// Whether a page's text names that file.
+bool Names(const QString &html, const QString &path) {
+  return html.contains(modGeneral::FileNameOfPath(path));
+}
+
 bool IsNamedElsewhere(EditorContext &context, int number, const QString &path) {
-  const QString name = modGeneral::FileNameOfPath(path);
   const std::vector<frmMain *> pages = OtherPages(context, number);
-  return std::any_of(pages.begin(), pages.end(), [&](frmMain *page) {
-    return page->DHTML1().Memory().document.contains(name);
-  });
+  return std::any_of(pages.begin(), pages.end(),
+                     [&](frmMain *page) { return Names(page->DHTML1().Memory().document, path); });
 }
 
 /// The file that a data: address holds; nothing for another address.
@@ -321,8 +323,7 @@ void PagePictures::MarkSaved() {
   const QString &html = context_.pages.Record(page_.Number()).SavedHTML;
   copied_.MarkSaved(html);
   for (frmMain *page : OtherPages(context_, page_.Number())) {
-    page->Pictures().copied_.LeaveToSite(
-        [&](const QString &path) { return html.contains(modGeneral::FileNameOfPath(path)); });
+    page->Pictures().copied_.LeaveToSite([&](const QString &path) { return Names(html, path); });
   }
 }
 
@@ -386,8 +387,7 @@ void RemoveUnsavedPictures(EditorContext &context, const JournalledPage &kept) {
     saved = DecodePage(files.ReadAll(kept.path)).text;
   const auto isUsed = [&](const QString &path) {
     constexpr int NoPage = 0;
-    return saved.contains(modGeneral::FileNameOfPath(path)) ||
-           IsNamedElsewhere(context, NoPage, path);
+    return Names(saved, path) || IsNamedElsewhere(context, NoPage, path);
   };
   CopiedPictures copied(context.platform.files, context.platform.replaced, isUsed);
   copied.Adopt(kept.pictures);

@@ -34,31 +34,45 @@ export const said = (element, property) => {
 };
 
 /**
- * What an attribute says in old pages and an inline style in others.
- * @param {string} name
+ * Gives an element a declaration, or takes that off.
+ * @param {Element} element
  * @param {string} property
- * @param {{ inStyle?(value: string): string, fromStyle?(value: string): string }} [spelling]
+ * @param {string} value empty to take it off
+ */
+export function put(element, property, value) {
+  if (value) putDeclaration(element, property, value);
+  else if (said(element, property)) takeDeclaration(element, property);
+}
+
+/**
+ * What an attribute says in old pages and styles in others. It is changed where the page has it.
+ * @param {string} name
+ * @param {(element: AnyNode) => string} readStyle
+ * @param {(element: AnyNode, value: string) => void} writeStyle
  * @returns {Field}
  */
-export const look = (name, property, spelling = {}) => ({
-  read(element) {
-    const styled = said(element, property);
-    return styled ? spelling.fromStyle?.(styled) ?? styled : element.getAttribute(name) ?? '';
-  },
+export const eitherWay = (name, readStyle, writeStyle) => ({
+  read: (element) => readStyle(element) || (element.getAttribute(name) ?? ''),
   write(element, value) {
-    const isStyled = said(element, property) !== '';
-    if (!value) {
-      setAttributes(element, [[name, '']]);
-      if (isStyled) takeDeclaration(element, property);
-      return;
-    }
+    const isStyled = readStyle(element) !== '';
     const isSaid = element.hasAttribute(name);
-    if (isStyled || (!isSaid && dom.writesStyles())) {
-      putDeclaration(element, property, spelling.inStyle?.(value) ?? value);
-    }
+    if (isStyled || (!isSaid && dom.writesStyles())) writeStyle(element, value);
     if (isSaid || (!isStyled && !dom.writesStyles())) setAttributes(element, [[name, value]]);
   },
 });
+
+/**
+ * The same where the styles are one inline declaration.
+ * @param {string} name
+ * @param {string} property
+ * @param {{ inStyle?(value: string): string, fromStyle?(value: string): string }} [spelling]
+ */
+export const look = (name, property, spelling = {}) => eitherWay(name,
+  (element) => {
+    const styled = said(element, property);
+    return styled && (spelling.fromStyle?.(styled) ?? styled);
+  },
+  (element, value) => put(element, property, value && (spelling.inStyle?.(value) ?? value)));
 
 export const inPixels = (/** @type {string} */ value) =>
   (/^\d+(\.\d+)?$/.test(value) ? `${value}px` : value);
@@ -141,10 +155,7 @@ export const places = {
  */
 export const style = (property) => ({
   read: (element) => said(element, property),
-  write(element, value) {
-    if (value) putDeclaration(element, property, value);
-    else takeDeclaration(element, property);
-  },
+  write: (element, value) => put(element, property, value),
 });
 
 /**

@@ -2,12 +2,7 @@
 // @ts-check
 // What reaches from a table into its cells: border, padding and the gaps between them. Old pages
 // say each by one attribute of the TABLE; styles say it of the table and of every cell.
-import { putDeclaration, takeDeclaration } from '../formats/declarations.js';
-import { setAttributes } from '../formats/links.js';
-import * as dom from '../page/dom.js';
-import { inPixels, said, widthOfLine, withoutPixels } from './fields.js';
-
-/** @typedef {import('./fields.js').Field} Field */
+import { eitherWay, inPixels, put, said, widthOfLine, withoutPixels } from './fields.js';
 
 /**
  * @param {AnyNode} table
@@ -25,35 +20,8 @@ function saidByCells(table, property) {
   return values.size === 1 ? [...values][0] : '';
 }
 
-/**
- * @param {Element} element
- * @param {string} property
- * @param {string} value empty to take it off
- */
-function put(element, property, value) {
-  if (value) putDeclaration(element, property, value);
-  else if (said(element, property)) takeDeclaration(element, property);
-}
-
-/**
- * An attribute where the page has it, else the dialect's way.
- * @param {string} name
- * @param {(table: AnyNode) => string} readStyle
- * @param {(table: AnyNode, value: string) => void} writeStyle
- * @returns {Field}
- */
-const reaching = (name, readStyle, writeStyle) => ({
-  read: (table) => readStyle(table) || (table.getAttribute(name) ?? ''),
-  write(table, value) {
-    const isStyled = readStyle(table) !== '';
-    const isSaid = table.hasAttribute(name);
-    if (isStyled || (!isSaid && dom.writesStyles())) writeStyle(table, value);
-    if (isSaid || (!isStyled && !dom.writesStyles())) setAttributes(table, [[name, value]]);
-  },
-});
-
 const widthOf = (/** @type {AnyNode} */ table) => widthOfLine(said(table, 'border'));
-export const border = reaching('border', widthOf, (table, value) => {
+export const border = eitherWay('border', widthOf, (table, value) => {
   const width = value === '0' ? '' : value;
   put(table, 'border', width && `${inPixels(width)} solid`);
   for (const cell of cellsOf(table)) {
@@ -61,13 +29,13 @@ export const border = reaching('border', widthOf, (table, value) => {
   }
 });
 
-export const padding = reaching('cellpadding',
+export const padding = eitherWay('cellpadding',
   (table) => withoutPixels(saidByCells(table, 'padding')),
   (table, value) => cellsOf(table).forEach((cell) => put(cell, 'padding', inPixels(value))));
 
 const collapses = (/** @type {AnyNode} */ table) =>
   said(table, 'border-collapse').toLowerCase() === 'collapse';
-export const gaps = reaching('cellspacing',
+export const gaps = eitherWay('cellspacing',
   (table) => (collapses(table) ? '0' : withoutPixels(said(table, 'border-spacing'))),
   (table, value) => {
     if (value === '0' || collapses(table)) {

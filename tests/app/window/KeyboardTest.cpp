@@ -12,6 +12,7 @@
 #include "editor/frmMain.h"
 #include "properties/frmProperties.h"
 #include "tests/app/window/DialogItems.h"
+#include "tests/app/window/EveryField.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/FakeDialogs.h"
 #include "tests/support/KeyboardWalk.h"
@@ -233,9 +234,7 @@ TEST_F(KeyboardTest, EveryUsableControlOfEveryWindowIsMetByTabAndHasAName) {
   using enum PropertySubject;
   for (const PropertySubject subject : {Page, Image, Table, Cell, Link, Fonts, Element}) {
     const PropertySheet &sheet = SheetOf(subject);
-    PropertyValues empty;
-    for (const PropertyField &field : sheet.fields) empty[QLatin1String(field.name)] = QString();
-    frmProperties dialog(sheet, empty, nullptr);
+    frmProperties dialog(sheet, EveryField(sheet), nullptr);
     ExpectAllWithinReach(dialog, sheet.title);
   }
   VersionCompare compare(QStringLiteral("a.htm"), QStringLiteral("mine"), QStringLiteral("theirs"),

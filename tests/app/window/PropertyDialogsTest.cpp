@@ -3,6 +3,7 @@
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
 #include "properties/frmProperties.h"
+#include "tests/app/window/EveryField.h"
 #include "tests/app/window/WindowFixture.h"
 #include "tests/support/KeyboardWalk.h"
 
@@ -102,9 +103,7 @@ TEST_F(PropertyDialogs, NoTwoFieldsOfOneShareAnAltKey) {
   using enum PropertySubject;
   for (const PropertySubject subject : {Page, Image, Table, Cell, Link, Fonts, Element}) {
     const PropertySheet &sheet = SheetOf(subject);
-    PropertyValues empty;
-    for (const PropertyField &field : sheet.fields) empty[QLatin1String(field.name)] = QString();
-    frmProperties dialog(sheet, empty, nullptr);
+    frmProperties dialog(sheet, EveryField(sheet), nullptr);
     auto *parts = dialog.findChild<QTabWidget *>();
     for (int part = 0; part < (parts == nullptr ? 1 : parts->count()); ++part) {
       if (parts != nullptr) parts->setCurrentIndex(part);
@@ -234,10 +233,8 @@ TEST_F(PropertyDialogs, TheSampleShowsWhatTheFontsDialogSays) {
 }
 
 TEST_F(PropertyDialogs, HintsAreReadableInFull) {
-  PropertyValues empty;
   const PropertySheet &sheet = SheetOf(PropertySubject::Page);
-  for (const PropertyField &field : sheet.fields) empty[QLatin1String(field.name)] = QString();
-  frmProperties dialog(sheet, empty, nullptr);
+  frmProperties dialog(sheet, EveryField(sheet), nullptr);
   dialog.show();
   auto &parts = *dialog.findChild<QTabWidget *>();
   for (int part = 0; part < parts.count(); ++part) {
