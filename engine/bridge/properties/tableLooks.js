@@ -20,12 +20,14 @@ function saidByCells(table, property) {
   return values.size === 1 ? [...values][0] : '';
 }
 
+// What a cell gets along with the table's border.
+const OfCells = '1px solid';
 const widthOf = (/** @type {AnyNode} */ table) => widthOfLine(said(table, 'border'));
 export const border = eitherWay('border', widthOf, (table, value) => {
   const width = value === '0' ? '' : value;
   put(table, 'border', width && `${inPixels(width)} solid`);
   for (const cell of cellsOf(table)) {
-    if (!width || !said(cell, 'border')) put(cell, 'border', width && '1px solid');
+    if (said(cell, 'border') === (width ? '' : OfCells)) put(cell, 'border', width && OfCells);
   }
 });
 
