@@ -14,11 +14,15 @@
 #include "platform/Platform.h"
 #include "platform/Runtime.h"
 #include "platform/RuntimeError.h"
+#include "platform/TextDifference.h"
 #include "platform/Words.h"
 
 #include <QCloseEvent>
 #include <QLabel>
 #include <QPointer>
+#include <QTimer>
+
+#include <chrono>
 
 namespace velor {
 
@@ -27,6 +31,9 @@ namespace {
 /// Colour slots of the source control: margin background and line numbers grey on white.
 constexpr std::int32_t Grey = 8421504;
 constexpr std::int32_t White = 16777215;
+
+/// How soon the page is asked again for its text while a call into the engine waits.
+constexpr std::chrono::milliseconds FollowAgain{100};
 
 /// Letter case and outer blanks do not count as changes.
 bool Differ(const QString &left, const QString &right) {
@@ -143,6 +150,35 @@ void frmCodeEditor::Edit(EditingCommand command) {
 
 void frmCodeEditor::OnActivated() {
   ShowPageWithoutFormats(context_, number_);
+  if (context_.hasAdditions)
+    QMetaObject::invokeMethod(this, &frmCodeEditor::FollowPage, Qt::QueuedConnection);
+}
+
+void frmCodeEditor::FollowPage() {
+  const QPointer<frmCodeEditor> alive(this);
+  frmMain *page = context_.pages.Page(number_);
+  if (page == nullptr || context_.pages.Record(number_).EditorOpen == False16) return;
+  if (page->DHTML1().IsWaiting()) {
+    QTimer::singleShot(FollowAgain, this, &frmCodeEditor::FollowPage);
+    return;
+  }
+  QString shown;
+  try {
+    shown = page->DHTML1().TextToSave();
+  } catch (const RuntimeError &) {
+    return;  // the page itself tells
+  }
+  if (alive == nullptr || shown == AppliedText) return;
+  const std::optional<TextReplacement> change = CarriedChange(AppliedText, shown, code_->Text());
+  if (!change) {
+    context_.mainWindow.status.Report(
+        Words::tr("Design view changed the page where its source was changed too. Applying the "
+                  "source takes these changes back, until Undo"));
+    return;
+  }
+  AppliedText = shown;
+  code_->ReplaceParts({*change});
+  filledCaret_ = CaretOf(*code_);
 }
 
 std::int16_t frmCodeEditor::ApplyCode() {

@@ -119,6 +119,10 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   void UpdateJournal();
   /// Moves the page's caret to the place of the source's caret, where that was moved.
   void ReturnCaret();
+  /// Makes the changes in the source that the page has seen in design view since this editor was
+  /// filled or its source applied, as one step of the source's history. Where both changed the same
+  /// place the source stays, and the status bar says so.
+  void FollowPage();
 
   EditorContext &context_;
   const int number_;

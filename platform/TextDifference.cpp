@@ -42,4 +42,19 @@ TextDifference TextDifference::Between(QStringView before, QStringView after) {
   return {start, before.size() - start - end, after.size() - start - end};
 }
 
+std::optional<TextReplacement> CarriedChange(const QString &before, const QString &after,
+                                             const QString &other) {
+  const TextDifference change = TextDifference::Between(before, after);
+  const TextDifference beside = TextDifference::Between(before, other);
+  TextStretch place{change.start, change.start + change.removed};
+  const bool isSame = beside.removed == 0 && beside.inserted == 0;
+  if (!isSame && place.start > beside.start + beside.removed) {
+    const qsizetype moved = beside.inserted - beside.removed;
+    place = {place.start + moved, place.end + moved};
+  } else if (!isSame && place.end >= beside.start) {
+    return std::nullopt;
+  }
+  return TextReplacement{place, change.InsertedIn(after).toString()};
+}
+
 }  // namespace velor

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/TextStretch.h"
+
 #include <QString>
+
+#include <optional>
 
 namespace velor {
 
@@ -17,5 +21,10 @@ struct TextDifference {
 
   QStringView InsertedIn(QStringView after) const { return after.sliced(start, inserted); }
 };
+
+/// What made `after` of `before`, as a replacement in `other`, which was made of `before` too.
+/// nullopt where the two changes overlap or touch.
+std::optional<TextReplacement> CarriedChange(const QString &before, const QString &after,
+                                             const QString &other);
 
 }  // namespace velor

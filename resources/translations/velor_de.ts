@@ -4201,6 +4201,10 @@ Soll die Datei ersetzt werden?</translation>
         <source>It says nothing: its alternative text is empty</source>
         <translation>Es sagt nichts aus: Sein Alternativtext ist leer</translation>
     </message>
+    <message>
+        <source>Design view changed the page where its source was changed too. Applying the source takes these changes back, until Undo</source>
+        <translation>In der Entwurfsansicht wurde die Seite dort geändert, wo auch ihr Quelltext geändert wurde. Übernehmen des Quelltexts nimmt diese Änderungen zurück, bis Rückgängig</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

@@ -4185,6 +4185,10 @@ Do you want to replace it?</source>
         <source>It says nothing: its alternative text is empty</source>
         <translation>不表達任何內容：替代文字留空</translation>
     </message>
+    <message>
+        <source>Design view changed the page where its source was changed too. Applying the source takes these changes back, until Undo</source>
+        <translation>設計檢視在原始碼也改過的地方更改了網頁。套用原始碼會取代這些更改，「復原」可取回</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

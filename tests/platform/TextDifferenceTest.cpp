@@ -51,6 +51,33 @@ TEST(TextDifference, OfATextWithItselfIsEmpty) {
   EXPECT_EQ(difference.inserted, 0);
 }
 
+QString Carried(const QString &before, const QString &after, const QString &other) {
+  const auto change = CarriedChange(before, after, other);
+  if (!change) return QStringLiteral("none");
+  return QString(other).replace(change->place.start, change->place.end - change->place.start,
+                                change->text);
+}
+
+TEST(CarriedChange, IsMadeBeforeAndBehindTheOtherTextsOwnChangeAndInTheSameText) {
+  const QString before = QStringLiteral("one two three");
+  const QString first = QStringLiteral("ONE! two three");
+  const QString last = QStringLiteral("one two 3");
+  const QString both = QStringLiteral("ONE! two 3");
+  EXPECT_EQ(Carried(before, first, last), both);
+  EXPECT_EQ(Carried(before, last, first), both);
+  EXPECT_EQ(Carried(before, last, before), last);
+  EXPECT_EQ(Carried(before, QStringLiteral("two three"), last), QStringLiteral("two 3"));
+}
+
+TEST(CarriedChange, IsNoneWhereBothChangedOnePlaceOrPlacesThatTouch) {
+  const QString before = QStringLiteral("one two three");
+  const QString none = QStringLiteral("none");
+  EXPECT_EQ(Carried(before, QStringLiteral("one 2 three"), QStringLiteral("one zwei three")), none);
+  EXPECT_EQ(Carried(before, QStringLiteral("one. two three"), QStringLiteral("one, two three")),
+            none);
+  EXPECT_EQ(Carried(before, QString(), QStringLiteral("one two 3")), none);
+}
+
 }  // namespace
 
 }  // namespace velor
