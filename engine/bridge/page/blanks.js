@@ -219,7 +219,14 @@ function addNeedless(inputType, data) {
     if (/^[ \t\r\n\u00a0]/.test(gone)) addIf(beside(node, head, 'previousSibling'));
     if (/[ \t\r\n\u00a0]$/.test(gone)) addIf(beside(node, head, 'nextSibling'));
   }
+  // The same of texts that the deletion took whole.
+  if (tookBlank(noted.right)) addIf(atCaret('previousSibling'));
+  if (tookBlank(noted.left)) addIf(atCaret('nextSibling'));
 }
+// True where a character beside the caret was a blank in a text that is gone.
+/** @param {Neighbour | null} character */
+const tookBlank = (character) => Boolean(character?.node) && !character.node.isConnected &&
+  /[ \t\r\n\u00a0]/.test(noted.texts.get(character.node)[character.index]);
 
 // A line was cut at the caret: the blank that would begin the second one ends the first.
 function moveBlankBeforeCut() {
