@@ -15,6 +15,12 @@ import { exec } from '../talk/commands.js';
 import { schedulePush } from '../talk/pace.js';
 import { Command } from '../talk/vocabulary.js';
 
+/** @param {Range} range */
+function firstShown(range) {
+  for (const leaf of selection.leavesIn(range)) if (dom.isShown(leaf)) return leaf;
+  return null;
+}
+
 /**
  * True where a key has to be handled here: the selection begins or ends with an island, or the
  * caret is at a point beside one where no line is.
@@ -23,8 +29,10 @@ import { Command } from '../talk/vocabulary.js';
 export function isBesideIsland(range) {
   if (!range) return false;
   if (!range.collapsed) {
-    const last = range.endContainer.childNodes[range.endOffset - 1];
-    const [first] = selection.leavesIn(range);
+    const first = firstShown(range);
+    // The source's line end behind an island is selected with it.
+    const last = dom.shownFrom(range.endContainer.childNodes[range.endOffset - 1],
+      'previousSibling');
     return dom.isIsland(first) || (Boolean(last) && dom.isIsland(dom.lastLeaf(last)));
   }
   const [node, offset] = gapAt(range) ?? [];
