@@ -3,11 +3,12 @@
 // Copying, cutting, pasting and dragging. What is copied has full addresses, so that it is of use
 // elsewhere; what comes in is built anew (clean.js) unless it was copied in this program.
 import { deleteToPoint } from '../blocks/deletion.js';
-import { showsAnything, spansUnits, withinCell } from '../blocks/extent.js';
+import { withinCell } from '../blocks/extent.js';
 import { deleteSelected } from '../blocks/typing.js';
 import * as addresses from './addresses.js';
 import { copiedCells, fillingOf, takesTable } from './cells.js';
 import { cleaned, cleaning } from './clean.js';
+import { copiedMarkup, partOf } from './copied.js';
 import { doSlowly, isLong } from './longPaste.js';
 import { asMarkdown } from './markdown.js';
 import { closed, openEndsOf } from './openEnds.js';
@@ -30,60 +31,6 @@ const origin =
 /** @param {import('./openEnds.js').OpenEnds} ends */
 const originOf = ({ start, end }) => `${generator} data-ends="${start} ${end}">`;
 const originOfCells = `${generator} data-ends="closed closed" data-cells>`;
-
-// True for an element that has to be around a part of the page for it to mean the same elsewhere.
-/** @param {AnyNode} node */
-const isContext = (node) => dom.isInline(node) || dom.isList(node) ||
-  /^(DL|TABLE|TBODY|THEAD|TFOOT|TR|PRE)$/.test(node.tagName);
-// True for an item whose paragraphs are all in the range: it is copied as an item.
-/**
- * @param {Node} item
- * @param {Range} range
- */
-function isAllOfItem(item, range) {
-  if (item.nodeName !== 'LI' || !spansUnits(range)) return false;
-  const { startContainer, startOffset, endContainer, endOffset } = range;
-  const [before, behind] = [document.createRange(), document.createRange()];
-  before.setStart(item, 0);
-  before.setEnd(startContainer, startOffset);
-  behind.setStart(endContainer, endOffset);
-  behind.setEnd(item, item.childNodes.length);
-  return !showsAnything(before) && !showsAnything(behind);
-}
-/** @param {Range} range */
-function contextOf(range) {
-  const elements = [];
-  let at = range.commonAncestorContainer;
-  if (dom.isText(at)) at = at.parentNode;
-  if (isAllOfItem(at, range)) elements.push(at);
-  if (elements.length) at = at.parentNode;
-  for (; isContext(at); at = at.parentNode) elements.push(at);
-  return elements;
-}
-
-// A copy of a range's content, with such elements around it.
-/** @param {Range} range */
-function partOf(range) {
-  const content = range.cloneContents();
-  for (const element of contextOf(range)) {
-    const shell = /** @type {Element} */ (element.cloneNode(false));
-    shell.append(content);
-    content.append(shell);
-  }
-  return content;
-}
-// The markup of a part of the page for the clipboard.
-/** @param {Node} part */
-function copiedMarkup(part) {
-  const holder = dom.create('DIV');
-  holder.append(part);
-  addresses.makeFull(holder);
-  // A parser drops the first line end of these.
-  for (const { firstChild } of holder.querySelectorAll('pre, listing')) {
-    if (dom.isText(firstChild) && firstChild.data.startsWith('\n')) firstChild.insertData(0, '\n');
-  }
-  return holder.innerHTML;
-}
 
 // True in a field of a form, where the engine copies and pastes its text.
 /** @param {AnyNode} node */
