@@ -14,7 +14,7 @@ import { beside, isBlank, isCommentBeside } from '../page/beside.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
-import { dropEmptyInline, holdOpen, openParagraph } from '../page/lines.js';
+import { dropEmptyInline, holdOpen, openParagraph, shownBefore } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { gapAt, unitsIn } from '../page/units.js';
 import { moveGapAbove } from '../page/whitespace.js';
@@ -337,14 +337,6 @@ function dropFonts(first) {
   }
 }
 
-// What stands before the second half of a split: with a division in an item the item was cut too.
-/** @param {AnyNode} block */
-function halfBefore(block) {
-  let at = block;
-  while (!dom.isCell(at) && !dom.neighbour(at, 'previousSibling')) at = at.parentNode;
-  return dom.isCell(at) ? null : dom.neighbour(at, 'previousSibling');
-}
-
 /**
  * Puts in order what the engine left where it split a paragraph. The break that held a line open is
  * not needed where text stands before it.
@@ -357,7 +349,7 @@ export function tidySplit() {
     alternate(split);
   }
   const block = dom.successor(split);
-  const first = halfBefore(block);
+  const first = shownBefore(block);
   if (!dom.isElement(first) || !dom.isBlock(first) || dom.isHollow(first)) return;
   const last = dom.lastLeaf(first);
   const before = last.previousSibling;

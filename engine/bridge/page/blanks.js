@@ -18,7 +18,7 @@ import {
   beginsLine, beside, charAt, edge, endsLine, isBlank, isCommentBeside, keepsBlanks,
 } from './beside.js';
 import * as dom from './dom.js';
-import { dropEmptyInline } from './lines.js';
+import { dropEmptyInline, shownBefore } from './lines.js';
 import * as selection from './selection.js';
 import {
   addLeft, addTyped, isStandIn, noBreak, replaceCharacter, resolveAwayFromCaret, shiftStandIns,
@@ -228,30 +228,49 @@ function addNeedless(inputType, data) {
 const tookBlank = (character) => Boolean(character?.node) && !character.node.isConnected &&
   /[ \t\r\n\u00a0]/.test(noted.texts.get(character.node)[character.index]);
 
-// A line was cut at the caret: the blank that would begin the second one ends the first.
+// A line was cut at the caret: the blank that would begin the second one ends the first. Before an
+// element the engine writes a no-break space to the blank that is there.
 function moveBlankBeforeCut() {
   const right = atCaret('nextSibling');
   const cutsBlank = charAt(right) === noBreak && !noted.ownRight;
-  if (cutsBlank && right.node.length > 1) right.node.deleteData(right.index, 1);
+  let gap = ' ';
+  if (cutsBlank && !endsLine(beside(right.node, right.index + 1, 'nextSibling'))) {
+    const { node, index } = right;
+    const [rest] = /^[ \t\n]*/.exec(node.data.slice(index + 1));
+    node.deleteData(index, 1 + rest.length);
+    dropEmptyInline(node);
+    gap = rest || gap;
+  }
   const last = lastAbove();
   if (!last?.node) return;
   noteTyped(last.node);
   if (charAt(last) === noBreak && !noted.ownLeft) {
     last.node.replaceData(last.index, 1, ' ');
-  } else if (cutsBlank && !isBlank(last)) last.node.appendData(' ');
+  } else if (cutsBlank && !isBlank(last)) {
+    last.node.appendData(gap);
+    whitespace.noteCut(last.node);
+  }
 }
 // The last character of the line above the caret.
 function lastAbove() {
-  const { anchorNode } = selection.points();
+  const { anchorNode, anchorOffset } = selection.points();
+  if (beside(anchorNode, anchorOffset, 'previousSibling')) return null;
   const block = dom.blockOf(anchorNode);
-  const broken = beside(anchorNode, 0, 'previousSibling');
-  if (broken) return null;
-  let leaf = anchorNode;
-  while (leaf && leaf !== block && !leaf.previousSibling) leaf = leaf.parentNode;
-  const above = leaf === block ? dom.neighbour(block, 'previousSibling') : leaf?.previousSibling;
+  let leaf = anchorNode.childNodes[anchorOffset] ?? anchorNode;
+  while (leaf !== block && !dom.neighbour(leaf, 'previousSibling')) leaf = leaf.parentNode;
+  const above = leaf === block ? shownBefore(block) : dom.neighbour(leaf, 'previousSibling');
   if (!above) return null;
   if (dom.isBreak(above)) return beside(above, 0, 'previousSibling') ?? lastBefore(above);
-  return dom.isBlock(above) && above.lastChild ? edge(above.lastChild, true) : null;
+  return dom.isBlock(above) ? lastIn(above) : null;
+}
+/**
+ * @param {AnyNode} block
+ * @returns {Neighbour | null | undefined}
+ */
+function lastIn({ lastChild }) {
+  const shown = dom.shownFrom(lastChild, 'previousSibling');
+  if (dom.isBlock(shown)) return lastIn(shown);
+  return lastChild && edge(lastChild, true);
 }
 /** @param {AnyNode} node */
 const lastBefore = (node) => (node.previousSibling ? edge(node.previousSibling, true) : null);

@@ -85,3 +85,14 @@ export function plainText(node) {
  * @param {AnyNode} node
  */
 export const lineElement = (node) => dom.ancestor(node, isLineElement, dom.isBlock);
+
+/**
+ * What is shown before a block in its cell. It may be what stands before the item or division that
+ * the block is first in: a split of the block has cut these too. null for nothing.
+ * @param {AnyNode} block
+ */
+export function shownBefore(block) {
+  let at = block;
+  while (!dom.isCell(at) && !dom.neighbour(at, 'previousSibling')) at = at.parentNode;
+  return dom.isCell(at) ? null : dom.neighbour(at, 'previousSibling');
+}

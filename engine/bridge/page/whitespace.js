@@ -81,6 +81,8 @@ const standing = ({ parentNode, previousSibling, nextSibling }) =>
 
 // Texts that stand before a cut of Enter's, with the white space that is their end since.
 const cutBehind = new WeakMap();
+/** @param {Text} text */
+export const noteCut = (text) => cutBehind.set(text, tail(text.data));
 /**
  * True where the white space at a text's end parted words before Enter parted them.
  * @param {AnyNode} text
@@ -104,10 +106,10 @@ export function moveGapAbove(above, below) {
   dropEmptyInline(first.node);
   if (isInCutInline) {
     last.node.insertData(last.index + 1, gap);
-    cutBehind.set(last.node, gap);
+    noteCut(last.node);
   } else {
     above.append(gap);
-    cutBehind.set(above.lastChild, gap);
+    noteCut(above.lastChild);
   }
 }
 
