@@ -254,7 +254,7 @@ function moveBlankBeforeCut() {
 // The last character of the line above the caret.
 function lastAbove() {
   const { anchorNode, anchorOffset } = selection.points();
-  if (beside(anchorNode, anchorOffset, 'previousSibling')) return null;
+  if (!anchorNode || beside(anchorNode, anchorOffset, 'previousSibling')) return null;
   const block = dom.blockOf(anchorNode);
   let leaf = anchorNode.childNodes[anchorOffset] ?? anchorNode;
   while (leaf !== block && !dom.neighbour(leaf, 'previousSibling')) leaf = leaf.parentNode;

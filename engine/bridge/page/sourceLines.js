@@ -262,16 +262,19 @@ function made(changes) {
   const around = new Set(changes
     .filter(({ target, added }) => blocks.has(target) && isAround(target, added))
     .map(({ target }) => target));
-  return { blocks, inPlace, around };
+  // A node whose block was joined with the one that it is in now.
+  /** @param {AnyNode} node */
+  const isJoined = (node) => takenFrom.has(node) && !takenFrom.get(node).contains(node);
+  return { blocks, inPlace, around, isJoined };
 }
 
 // Bare text became a block. The line that it began on is the block's own, and the end of its last
 // line stays behind the block, or behind the last of those that it was cut into.
 /**
  * @param {AnyNode} block
- * @param {Set<AnyNode>} blocks those that were made
+ * @param {ReturnType<typeof made>} changes
  */
-function leaveLines(block, blocks) {
+function leaveLines(block, { blocks, isJoined }) {
   const first = dom.firstLeaf(block);
   if (!dom.isText(first) || keepsBlanks(first)) return;
   let top = block;
@@ -288,6 +291,7 @@ function leaveLines(block, blocks) {
   const isEmpty = last !== top && dom.isHollow(last);
   const end = dom.lastLeaf(isEmpty ? last.previousSibling : last);
   if (!dom.isText(end) || !/[^ \t\n][ \t]*\n[ \t\n]*$/.test(end.data)) return;
+  if (dom.ancestor(end, isJoined, (node) => node === last)) return;
   const points = selection.points();
   const length = end.data.replace(/[ \t\n]+$/, '').length;
   last.after(splitText(end, length));
@@ -296,7 +300,8 @@ function leaveLines(block, blocks) {
 }
 
 history.completeStepsBy((changes) => {
-  const { blocks, inPlace, around } = made(changes);
-  for (const block of around) leaveLines(block, blocks);
+  const found = made(changes);
+  const { blocks, inPlace, around } = found;
+  for (const block of around) leaveLines(block, found);
   for (const block of blocks) set(block, inPlace.has(block));
 });
