@@ -48,12 +48,25 @@ export const cellOf = (node) => dom.ancestor(node, isApart) || document.body;
  */
 export const isEmptyParagraph = (unit) => Boolean(unit.block) && dom.isHollow(unit.block);
 
+// The same range with all of what is closed that it begins or ends in.
+/** @param {Range} range */
+function withClosed(range) {
+  const [first, last] = [range.startContainer, range.endContainer]
+    .map((node) => dom.ancestor(node, dom.isAtom));
+  if (!first && !last) return range;
+  const result = range.cloneRange();
+  if (first) result.setStartBefore(first);
+  if (last) result.setEndAfter(last);
+  return result;
+}
+
 /**
- * A range that shows something in one table cell only, and begins or ends outside of that, less
- * what is outside.
- * @param {Range} range
+ * What of a selected range is meant: what is closed as a whole; of a range that shows something in
+ * one table cell only, and begins or ends outside of that, what is in the cell.
+ * @param {Range} selected
  */
-export function withinCell(range) {
+export function meant(selected) {
+  const range = withClosed(selected);
   const { startContainer, endContainer } = range;
   if (selection.control(range) || cellOf(startContainer) === cellOf(endContainer)) return range;
   const leaves = [...selection.leavesIn(range)].filter(dom.isShown);
@@ -78,7 +91,7 @@ export function narrowed(range) {
   const all = startContainer === body && endContainer === body && startOffset === 0 &&
     endOffset === body.childNodes.length;
   if (all || selection.control(range)) return range;
-  const result = withinCell(range).cloneRange();
+  const result = meant(range).cloneRange();
   /** @param {AnyNode} node */
   const enters = (node) => dom.isElement(node) && dom.isBlock(node) && !dom.isAtom(node) &&
     node.tagName !== 'TABLE' && node.hasChildNodes();

@@ -3,7 +3,7 @@
 // Copying, cutting, pasting and dragging. What is copied has full addresses, so that it is of use
 // elsewhere; what comes in is built anew (clean.js) unless it was copied in this program.
 import { deleteToPoint } from '../blocks/deletion.js';
-import { withinCell } from '../blocks/extent.js';
+import { meant } from '../blocks/extent.js';
 import { deleteSelected } from '../blocks/typing.js';
 import * as addresses from './addresses.js';
 import { copiedCells, fillingOf, takesTable } from './cells.js';
@@ -48,7 +48,7 @@ function putInto(data, range) {
     data.setData('text/plain', cells.text);
     return;
   }
-  const part = withinCell(range);
+  const part = meant(range);
   data.setData('text/html', originOf(openEndsOf(part)) + copiedMarkup(partOf(part)));
   data.setData('text/plain', document.getSelection().toString());
 }
