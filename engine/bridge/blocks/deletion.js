@@ -328,6 +328,11 @@ export function deleteToLine(range) {
   /** @param {AnyNode} block */
   const enters = (block) =>
     dom.isElement(block) && !dom.isAtom(block) && block.tagName !== 'TABLE';
-  if (enters(next)) selection.setCaret(...selection.pointOf(selection.startOf(next)));
-  else if (enters(previous)) selection.setCaret(...selection.pointOf(selection.endOf(previous)));
+  /** @type {Point[]} */
+  const lines = [];
+  if (enters(next)) lines.push(selection.pointOf(selection.startOf(next)));
+  if (enters(previous)) lines.push(selection.pointOf(selection.endOf(previous)));
+  // What is pasted into text without markup could not come back as it was.
+  const line = lines.find(([text]) => !dom.rawAt(text));
+  if (line) selection.setCaret(...line);
 }
