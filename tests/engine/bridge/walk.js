@@ -60,13 +60,16 @@
   // which a deletion may join to it.
   function lastBlock({ endContainer, endOffset }) {
     const block = inside.dom.blockOf(endContainer);
-    if (wordsOf(endContainer.data?.slice(endOffset) ?? '')) return block;
+    const rest = document.createRange();
+    rest.selectNodeContents(block);
+    rest.setStart(endContainer, endOffset);
+    if (wordsOf(rest.toString())) return block;
     const behind = document.createRange();
     behind.selectNodeContents(document.body);
     behind.setStart(endContainer, endOffset);
     const [next] = inside.selection.textsIn(behind)
-      .filter((text) => text !== endContainer && wordsOf(text.data));
-    return !next || block.contains(next) ? block : inside.dom.blockOf(next);
+      .filter((text) => wordsOf(text.data));
+    return next ? inside.dom.blockOf(next) : block;
   }
   // The words before, in and behind the selection, and `rest`, those up to the end of that block.
   function parts() {
@@ -103,6 +106,9 @@
       behind: words((text) => !within(text) && follows(text)) };
   }
   const control = () => inside.selection.control(inside.selection.range());
+  // What typing over the selection means.
+  const typedOver = () =>
+    inside.selection.control(inside.extent.narrowed(inside.selection.range()));
   const objects = () => document.querySelectorAll('img, hr, table, [contenteditable]').length;
 
   // Places where a person can put the caret.
@@ -335,7 +341,7 @@
         raw: inside.dom.rawAt(inside.selection.range().startContainer) !== null,
         lined: inside.dom.isPreformatted(
           inside.dom.blockOf(inside.selection.range().startContainer)),
-        table: control()?.tagName === 'TABLE',
+        table: typedOver()?.tagName === 'TABLE',
         status: verb === 'exec' ? inside.statusOf(first) : 0,
       };
       done.push(`${before.selected}\n  ${action.join(' ')}`);
