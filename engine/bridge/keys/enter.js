@@ -337,6 +337,16 @@ function dropFonts(first) {
   }
 }
 
+// The block that a block ends with; white space of the source may stand behind it.
+/**
+ * @param {AnyNode} block
+ * @returns {AnyNode}
+ */
+function lastBlockOf(block) {
+  const last = dom.shownFrom(block.lastChild, 'previousSibling');
+  return dom.isBlock(last) && !dom.isAtom(last) ? lastBlockOf(last) : block;
+}
+
 /**
  * Puts in order what the engine left where it split a paragraph. The break that held a line open is
  * not needed where text stands before it.
@@ -349,12 +359,13 @@ export function tidySplit() {
     alternate(split);
   }
   const block = dom.successor(split);
-  const first = shownBefore(block);
-  if (!dom.isElement(first) || !dom.isBlock(first) || dom.isHollow(first)) return;
+  const half = shownBefore(block);
+  if (!dom.isElement(half) || !dom.isBlock(half) || dom.isHollow(half)) return;
+  const first = lastBlockOf(half);
   const last = dom.lastLeaf(first);
   const before = last.previousSibling;
   if (dom.isBreak(last) && before && !dom.isBreak(before)) last.remove();
-  moveGapAbove(dom.blockOf(dom.lastLeaf(first)), block);
+  moveGapAbove(first, block);
   dropEmptyHalf(first, block);
   dropFonts(first);
 }

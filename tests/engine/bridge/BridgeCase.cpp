@@ -34,11 +34,40 @@ const std::map<QString, int> &CommandNumbers() {
   return numbers;
 }
 
+const std::map<QString, QString> &Escapes() {
+  static const std::map<QString, QString> escapes = {{"\\n", "\n"}, {"\\r", "\r"}, {"\\t", "\t"}};
+  return escapes;
+}
 QString Unescaped(QString text) {
-  return text.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
+  for (const auto &[escape, sign] : Escapes()) text.replace(escape, sign);
+  return text;
 }
 QString Escaped(QString text) {
-  return text.replace(QStringLiteral("\n"), QStringLiteral("\\n"));
+  for (const auto &[escape, sign] : Escapes()) text.replace(sign, escape);
+  return text;
+}
+
+/// What stands around the input of a case that is no whole document.
+QString HeadOf(const BridgeCase &subject) {
+  const QString doctype =
+      subject.page == QStringLiteral("html5")
+          ? QStringLiteral("<!DOCTYPE html>")
+          : QStringLiteral(
+                "<!DOCTYPE html PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\" "
+                "\"http://www.w3.org/TR/html4/loose.dtd\">");
+  return doctype + QStringLiteral("<html><head></head><body>");
+}
+constexpr const char *Foot = "</body></html>";
+
+/// Gives a case's lines from `start` on one with that key, in the place of the one that is there.
+void PutLine(QStringList &lines, qsizetype start, const QString &key, const QString &value) {
+  qsizetype at = start;
+  while (at < lines.size() && !lines[at].isEmpty() && !lines[at].startsWith(key)) ++at;
+  const QString line = key + Escaped(value);
+  if (at < lines.size() && !lines[at].isEmpty())
+    lines[at] = line;
+  else
+    lines.insert(at, line);
 }
 
 QStringList LinesOf(const QString &path) {
@@ -87,15 +116,18 @@ bool BridgeCase::IsDocument() const {
 }
 
 QString BridgeCase::Document() const {
-  if (IsDocument()) return input;
-  const QString doctype =
-      page == QStringLiteral("html5")
-          ? QStringLiteral("<!DOCTYPE html>")
-          : QStringLiteral(
-                "<!DOCTYPE html PUBLIC \"-//W3C//DTD HTML 4.01 Transitional//EN\" "
-                "\"http://www.w3.org/TR/html4/loose.dtd\">");
-  return doctype + QStringLiteral("<html><head></head><body>") + input +
-         QStringLiteral("</body></html>");
+  return IsDocument() ? input : HeadOf(*this) + input + QLatin1String(Foot);
+}
+
+QString BridgeCase::File() const {
+  return Document().remove(u'^').remove(u'|');
+}
+
+QString BridgeCase::PartOf(const QString &document) const {
+  const QString head = HeadOf(*this);
+  const QLatin1String foot(Foot);
+  if (IsDocument() || !document.startsWith(head) || !document.endsWith(foot)) return document;
+  return document.mid(head.size(), document.size() - head.size() - foot.size());
 }
 
 std::vector<BridgeCase> ReadBridgeCases(const QString &folder) {
@@ -108,7 +140,7 @@ std::vector<BridgeCase> ReadBridgeCases(const QString &folder) {
       const QString key = line.section(QStringLiteral(": "), 0, 0);
       const QString value = Unescaped(line.section(QStringLiteral(": "), 1));
       if (key == QStringLiteral("name")) {
-        cases.push_back({path, value, {}, {}, {}, {}, {}, {}});
+        cases.push_back({path, value, {}, {}, {}, {}, {}, {}, {}});
       } else if (key == QStringLiteral("page")) {
         cases.back().page = value;
       } else if (key == QStringLiteral("input")) {
@@ -121,26 +153,20 @@ std::vector<BridgeCase> ReadBridgeCases(const QString &folder) {
         cases.back().state = value;
       } else if (key == QStringLiteral("expect")) {
         cases.back().expected = value;
+      } else if (key == QStringLiteral("saved")) {
+        cases.back().saved = value;
       }
     }
   }
   return cases;
 }
 
-void Rebaseline(const BridgeCase &subject, const QString &actual) {
+void Rebaseline(const BridgeCase &subject, const QString &actual, const QString &saved) {
   QStringList lines = LinesOf(subject.file);
   const qsizetype start = lines.indexOf(QStringLiteral("name: ") + subject.name);
-  qsizetype at = start;
-  while (at < lines.size() && !lines[at].isEmpty() &&
-         !lines[at].startsWith(QStringLiteral("expect: "))) {
-    ++at;
-  }
-  const QString line = QStringLiteral("expect: ") + Escaped(actual);
-  if (at < lines.size() && !lines[at].isEmpty()) {
-    lines[at] = line;
-  } else {
-    lines.insert(at, line);
-  }
+  if (subject.saved.isEmpty() || !subject.expected.isEmpty())
+    PutLine(lines, start, QStringLiteral("expect: "), actual);
+  if (!subject.saved.isEmpty()) PutLine(lines, start, QStringLiteral("saved: "), saved);
   QFile file(subject.file);
   if (file.open(QIODevice::WriteOnly)) file.write(lines.join(QLatin1Char('\n')).toUtf8());
 }

@@ -21,8 +21,10 @@ class BridgePage;
 ///     do: bold                       any number of them; see Perform
 ///     state: bold=7 blockFormat=Normal  the state at the end
 ///     expect: <p>one <b>^two|</b></p>
-/// "\n" stands for a line break. Input that begins with "<!" or "<html" is a whole document, and
-/// what is expected then is the whole document too, without the selection.
+///     saved: <P>one <B>two</B>       what a save then makes of a file of the input's bytes
+/// "\n" stands for a line break, "\r" and "\t" for what they are. Input that begins with "<!" or
+/// "<html" is a whole document, and what is expected then is the whole document too, without the
+/// selection.
 struct BridgeCase {
   QString file;
   QString name;
@@ -32,17 +34,22 @@ struct BridgeCase {
   QStringList steps;
   QString state;
   QString expected;
+  QString saved;
 
   bool IsDocument() const;
   /// The document to load.
   QString Document() const;
+  /// The same without the marks of the selection.
+  QString File() const;
+  /// As much of a document like it as the case writes of its own.
+  QString PartOf(const QString &document) const;
 };
 
 /// All cases of the folder's *.txt files.
 std::vector<BridgeCase> ReadBridgeCases(const QString &folder);
 
-/// Writes the expectation of a case anew into its file.
-void Rebaseline(const BridgeCase &subject, const QString &actual);
+/// Writes the expectation of a case anew into its file, and what is saved where it says that.
+void Rebaseline(const BridgeCase &subject, const QString &actual, const QString &saved);
 
 /// The text as a literal of the script language.
 QString ScriptText(const QString &text);
