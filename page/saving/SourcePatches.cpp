@@ -2,6 +2,7 @@
 #include "page/saving/SourcePatches.h"
 
 #include "page/saving/EnclosingElements.h"
+#include "page/saving/EndTagStyle.h"
 #include "page/saving/MovedTokens.h"
 #include "page/saving/PageMask.h"
 #include "page/saving/TagPatches.h"
@@ -240,6 +241,22 @@ QString SourcePatches::TextOf(const TokenText &serialisation, Number from, Numbe
   return text;
 }
 
+QString SourcePatches::FreshText(const PageEdit &edit, Number near) const {
+  const auto isWritten = [this](Number at) -> std::optional<bool> {
+    const Number before = beforeToNow_.fromOther[Index(at)];
+    if (before < 0) return std::nullopt;
+    return CounterpartAnywhere(before) >= 0;
+  };
+  QString text;
+  Number done = edit.now;
+  for (Number at = edit.now; at < edit.nowEnd; ++at) {
+    if (!IsLeftOut(now_, at, isWritten)) continue;
+    text += TextOf(now_, done, at, near);
+    done = at + 1;
+  }
+  return text + TextOf(now_, done, edit.nowEnd, near);
+}
+
 QString SourcePatches::ImpliedLeftOf(const PageEdit &edit, Number near) const {
   Number left = edit.before;
   while (left > 0 && CounterpartAnywhere(left - 1) < 0) --left;
@@ -374,7 +391,8 @@ void SourcePatches::PatchTokens(const PageEdit &edit, PatchRung rung, Patches &o
       rung == PatchRung::ImpliedTagsAround ? ImpliedRightOf(edit, near) : QString();
   if (left.isEmpty() && right.isEmpty() && IsTextForText(range, edit))
     return PatchCharacters(range, edit, out);
-  const QString fresh = TextOf(now_, edit.now, edit.nowEnd, near);
+  const QString fresh = rung == PatchRung::EditAlone ? FreshText(edit, near)
+                                                     : TextOf(now_, edit.now, edit.nowEnd, near);
   QString text = WithPageLineEnds(left + fresh + right);
   if (range.IsEmpty()) {
     const qsizetype place = InsertionPlace(edit);

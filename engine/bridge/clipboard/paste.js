@@ -135,6 +135,9 @@ function putBlocks(fragment, node, offset) {
   before.after(fragment);
   dropEmptyInline(dom.lastLeaf(before));
   dropEmptyInline(dom.firstLeaf(after));
+  // The source's line end behind the caret.
+  const gap = dom.isHollow(after) && /^[ \t]*\n[ \t\n]*$/.exec(after.textContent);
+  if (gap && !dom.isHollow(before) && !after.querySelector('br')) before.append(gap[0]);
   dropIfHollow(before, first);
   setCaretBehindBlocks(last, dropIfHollow(after) ? null : after);
 }

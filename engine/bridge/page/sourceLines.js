@@ -5,6 +5,9 @@
 // ends between its blocks there are none beside new ones either.
 import { keepsBlanks } from './beside.js';
 import * as dom from './dom.js';
+import {
+  beginsLine, endLineOf, innerEnd, lineAt, lineBefore, lineOf, setBetweenEndless,
+} from './lineEnds.js';
 import * as history from './history.js';
 import * as selection from './selection.js';
 import { shiftStandIns, splitText } from './standIns.js';
@@ -13,44 +16,23 @@ import { shiftStandIns, splitText } from './standIns.js';
 const holdsItems = (node) => dom.isElement(node) &&
   /^(DIR|DL|MENU|OL|TABLE|TBODY|TFOOT|THEAD|UL)$/.test(node.tagName);
 
+// The line that a new block is to have, told by its neighbours, else by its items; null where they
+// stand in a row.
 /** @param {AnyNode} node */
-const beginsLine = (node) => dom.isBlank(node) && node.data.includes('\n');
-// The line end and the indentation before a node; null where it does not begin a line. A parser
-// takes the ones before a table's first row out of the rows' group.
-/**
- * @param {AnyNode} node
- * @returns {string | null}
- */
-function lineOf(node) {
-  const { previousSibling: before, parentNode } = node;
-  if (!before && /^(TBODY|TFOOT|THEAD)$/.test(parentNode.tagName)) return lineOf(parentNode);
-  return dom.isText(before) ? /\n[ \t]*$/.exec(before.data)?.[0] ?? null : null;
-}
-/**
- * @param {AnyNode} node
- * @param {string} line
- */
-const lineBefore = (node, line) => node.before(document.createTextNode(line));
-
-// The line end and indentation of a list's end tag; null where it stands behind the last item.
-/** @param {AnyNode} list */
-const endLineOf = (list) =>
-  (beginsLine(list.lastChild) ? /\n[ \t]*$/.exec(list.lastChild.data)[0] : null);
-
-// The line that a new block's neighbours tell it to have; null where they stand in a row.
+const lineFor = (node) => lineByNeighbours(node) ?? (holdsItems(node) ? lineOfItems(node) : null);
 /** @param {AnyNode} node */
-function lineFor(node) {
+function lineByNeighbours(node) {
   if (dom.isList(node) && node.parentNode.tagName === 'LI') return lineOfSublist(node.parentNode);
   for (const side of dom.sides) {
     const other = dom.neighbour(node, side);
     if (other && !dom.isBlock(other)) return null;
-    const line = other && lineOf(other);
+    const line = other && lineAt(other);
     if (line) return line;
   }
   return null;
 }
 /** @param {AnyNode} list */
-const lineOfItems = (list) => [...list.children].map(lineOf).find(Boolean) ?? null;
+const lineOfItems = (list) => [...list.children].map(lineAt).find(Boolean) ?? endLineOf(list);
 // A list in an item stands one step further in than that.
 /** @param {AnyNode} item */
 function lineOfSublist(item) {
@@ -77,10 +59,10 @@ function stepOf(block, line) {
 function setItems(list, line) {
   const step = stepOf(list, line);
   for (const item of [...list.children]) {
-    if (!lineOf(item)) lineBefore(item, line + step);
+    if (!lineAt(item)) lineBefore(item, line + step);
     if (holdsItems(item)) setItems(item, line + step);
   }
-  if (list.lastElementChild === list.lastChild) list.append(line);
+  if (!endLineOf(list)) list.append(line);
 }
 
 // The cells of a row, as those of the row beside it.
@@ -89,7 +71,11 @@ function setCells(row) {
   const like = dom.neighbour(row, 'previousSibling') ?? dom.neighbour(row, 'nextSibling');
   const line = like?.tagName === 'TR' && like.cells[0] && lineOf(like.cells[0]);
   if (!line || row.firstElementChild !== row.firstChild) return;
-  for (const cell of row.cells) lineBefore(cell, line);
+  const isEndless = innerEnd(like.cells[1]?.previousSibling);
+  for (const cell of row.cells) {
+    if (isEndless && cell.previousSibling) cell.previousSibling.append(line);
+    else lineBefore(cell, line);
+  }
   if (dom.isBlank(like.lastChild)) row.append(like.lastChild.data);
 }
 
@@ -104,17 +90,28 @@ function setEndOfItem({ parentNode, nextSibling }) {
  * @param {boolean} isInPlace it stands where something of the page stood
  */
 function set(block, isInPlace) {
-  const own = lineOf(block);
-  const line = own ?? lineFor(block) ?? (holdsItems(block) ? lineOfItems(block) : null);
+  if (!setBetweenEndless(block)) setOnLine(block, isInPlace);
+  if (block.tagName === 'TR') setCells(block);
+}
+/**
+ * @param {AnyNode} block
+ * @param {boolean} isInPlace
+ */
+function setOnLine(block, isInPlace) {
+  const own = lineAt(block);
+  const hasItems = holdsItems(block);
+  const line = own ?? lineFor(block);
   if (!line || block.parentNode.closest('PRE, LISTING, XMP')) return;
   // What was the first thing in its container on no line of its own gets none.
   const isFirst = isInPlace && !block.previousSibling && !holdsItems(block.parentNode);
   if (!own && !isFirst) lineBefore(block, line);
-  // What it came in before had that line.
-  if (own && dom.isBlock(block.nextSibling)) lineBefore(block.nextSibling, line);
-  if (holdsItems(block)) setItems(block, line);
-  if (block.tagName === 'TR') setCells(block);
-  if (!own && dom.isList(block)) setEndOfItem(block);
+  // What it came in before had that line, or it has taken the line's end in.
+  const hasTaken = own || (hasItems && innerEnd(block.lastChild));
+  if (hasTaken && dom.isBlock(block.nextSibling)) lineBefore(block.nextSibling, line);
+  if (!hasItems) return;
+  const isOnOld = own && !innerEnd(block.lastChild);
+  setItems(block, line);
+  if (!isOnOld && dom.isList(block)) setEndOfItem(block);
 }
 
 /**
@@ -163,6 +160,7 @@ function dropItemLines(item) {
  */
 export function setCutList(first, second) {
   const line = endLineOf(second);
+  if (line && innerEnd(first.lastChild)) second.prepend(lineOfItems(first));
   if (!line || !beginsLine(first.lastChild)) return;
   second.prepend(first.lastChild);
   first.append(line);
@@ -303,5 +301,7 @@ history.completeStepsBy((changes) => {
   const found = made(changes);
   const { blocks, inPlace, around } = found;
   for (const block of around) leaveLines(block, found);
-  for (const block of blocks) set(block, inPlace.has(block));
+  for (const block of blocks) {
+    if (!dom.isCell(block) || !blocks.has(block.parentNode)) set(block, inPlace.has(block));
+  }
 });

@@ -12,9 +12,12 @@ import * as selection from './selection.js';
 const noBreak = '\u00a0';
 /** @param {string} text */
 const lead = (text) => /^[ \t\r\n]*/.exec(text)[0];
-// An expression that ends in $ is tried at every place of a text; this looks at its end alone.
-/** @param {string} text */
-function tail(text) {
+/**
+ * The white space at a text's end. An expression that ends in $ is tried at every place of a text;
+ * this looks at its end alone.
+ * @param {string} text
+ */
+export function tail(text) {
   let from = text.length;
   while (from > 0 && /[ \t\r\n]/.test(text[from - 1])) from--;
   return text.slice(from);

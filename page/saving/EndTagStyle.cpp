@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "page/saving/EndTagStyle.h"
+
+#include "page/text/HtmlElements.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
+namespace velor {
+
+namespace {
+
+using Number = std::int32_t;
+using elements::NameKeyOf;
+
+/// Maximum number of tokens that are looked at on each side of a place.
+constexpr Number Sight = 4000;
+
+/// Elements whose end tags authors leave out alike: each ends where one of them begins.
+struct Kind {
+  std::uint32_t names[2];
+};
+constexpr Kind Kinds[] = {{{NameKeyOf(u"li"), 0}},
+                          {{NameKeyOf(u"dd"), NameKeyOf(u"dt")}},
+                          {{NameKeyOf(u"td"), NameKeyOf(u"th")}},
+                          {{NameKeyOf(u"tr"), 0}},
+                          {{NameKeyOf(u"p"), 0}}};
+/// Where else a paragraph ends.
+constexpr std::uint32_t ParagraphEnders[] = {
+    NameKeyOf(u"address"), NameKeyOf(u"blockquote"), NameKeyOf(u"div"), NameKeyOf(u"dl"),
+    NameKeyOf(u"form"),    NameKeyOf(u"h1"),         NameKeyOf(u"h2"),  NameKeyOf(u"h3"),
+    NameKeyOf(u"h4"),      NameKeyOf(u"h5"),         NameKeyOf(u"h6"),  NameKeyOf(u"hr"),
+    NameKeyOf(u"ol"),      NameKeyOf(u"pre"),        NameKeyOf(u"ul")};
+
+const Kind *KindOf(const HtmlToken &token) {
+  if (token.kind != HtmlTokenKind::EndTag || !token.isFree) return nullptr;
+  const auto *found = std::find_if(std::begin(Kinds), std::end(Kinds), [&](const Kind &kind) {
+    return elements::IsOneOf(token.name, kind.names);
+  });
+  return found == std::end(Kinds) ? nullptr : found;
+}
+
+bool EndsBefore(const Kind &kind, const HtmlToken &next) {
+  if (next.kind == HtmlTokenKind::EndTag) return true;
+  if (next.kind != HtmlTokenKind::StartTag) return false;
+  return elements::IsOneOf(next.name, kind.names) ||
+         (kind.names[0] == NameKeyOf(u"p") && elements::IsOneOf(next.name, ParagraphEnders));
+}
+
+/// What is read of the nearest token that something is read of.
+std::optional<bool> Nearest(const TokenText &serialisation, Number number,
+                            const EndTagReader &read) {
+  for (Number at = number - 1; at >= std::max<Number>(0, number - Sight); --at) {
+    if (const auto found = read(at)) return found;
+  }
+  for (Number at = number + 1; at < std::min(serialisation.Count(), number + Sight); ++at) {
+    if (const auto found = read(at)) return found;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+bool IsLeftOut(const TokenText &serialisation, Number number, const EndTagReader &isWritten) {
+  const Kind *kind = KindOf(serialisation.At(number));
+  if (kind == nullptr || number + 1 == serialisation.Count() ||
+      !EndsBefore(*kind, serialisation.At(number + 1)))
+    return false;
+  // One of its kind, else any.
+  return !Nearest(serialisation, number, [&](Number at) {
+            return KindOf(serialisation.At(at)) == kind ? isWritten(at) : std::nullopt;
+          }).value_or(Nearest(serialisation, number, [&](Number at) {
+                        return KindOf(serialisation.At(at)) != nullptr ? isWritten(at)
+                                                                       : std::nullopt;
+                      }).value_or(true));
+}
+
+}  // namespace velor
