@@ -215,12 +215,6 @@ void EngineView::EndProcess() {
   Wait(EndLimit, [this] { return CurrentPhase() == Phase::Dead; });
 }
 
-void EngineView::AwaitInput() {
-  if (!IsOpen() || engine_.Guard().InCallback() || !turns_.IsInputOnItsWay()) return;
-  turns_.SendProbe();
-  Wait(TurnQueue::LongestInputDelay, [this] { return !turns_.IsInputOnItsWay() || !IsOpen(); });
-}
-
 WaitEnd EngineView::Wait(std::chrono::milliseconds limit, const std::function<bool()> &done,
                          const Patience *patience) {
   return GuardedWait(engine_.Guard()).Until(*this, limit, done, patience);

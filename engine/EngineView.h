@@ -65,9 +65,6 @@ class EngineView : public QObject, private PageWays {
   bool MoveTo(const QString &nativePath);
   /// Whether the last wait of Ask was stopped.
   bool WasStopped() const { return wasStopped_; }
-  /// Waits until the input sent so far has arrived in the page, at most half a second: expressions
-  /// take another way and could overtake it. `this` may be gone afterwards.
-  void AwaitInput();
   /// GuardedWait::Until with this view as the subject.
   WaitEnd Wait(std::chrono::milliseconds limit, const std::function<bool()> &done,
                const Patience *patience = nullptr);

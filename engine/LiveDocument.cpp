@@ -81,8 +81,6 @@ LiveDocument::Reading LiveDocument::Read() {
 std::optional<QString> LiveDocument::AskForText() {
   if (view_ == nullptr) return std::nullopt;
   const Lifetime::Watch page = WatchPage();
-  view_->AwaitInput();
-  if (page.IsOver()) return std::nullopt;
   const Patience patience = StoppableWith(Words::tr(LongRead));
   for (int attempt = 1; attempt <= ReadAttempts; ++attempt) {
     const auto answer = view_->Ask(MirrorCall(mirror_), ReadLimit, &patience);

@@ -81,15 +81,13 @@ PageReplacer::Outcome PageReplacer::ReplaceInPlace(const DocumentHistory::Origin
   if (loader_.IsLoading()) return Outcome::NotPossible;
   const Lifetime::Watch page = document_.WatchPage();
   EngineView *view = document_.View();
-  view->AwaitInput();
-  // A page closed or loaded anew meanwhile is no failure of this call.
-  if (page.IsOver()) return Outcome::Done;
   const int generation = document_.History().NewGeneration();
   const Patience patience = document_.StoppableWith(Words::tr(LongReplacement));
   const auto answer = view->Ask(QStringLiteral("velor.replaceDocument(%1,%2)")
                                     .arg(ScriptValue(original->TextToLoad()))
                                     .arg(generation),
                                 ReplaceLimit, &patience);
+  // A page closed or loaded anew meanwhile is no failure of this call.
   if (page.IsOver()) return Outcome::Done;
   if (view->WasStopped()) return Outcome::Stopped;
   if (!answer || answer->toString().isEmpty()) return Outcome::NotPossible;

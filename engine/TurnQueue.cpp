@@ -33,12 +33,8 @@ bool TurnQueue::Defer(const QEvent &input) {
 }
 
 void TurnQueue::NoteInput() {
-  sinceInput_.start();
+  isInputOut_ = true;
   isProbeBehind_ = false;
-}
-
-bool TurnQueue::IsInputOnItsWay() const {
-  return sinceInput_.isValid() && !sinceInput_.hasExpired(LongestInputDelay.count());
 }
 
 void TurnQueue::SendDue() {
@@ -46,7 +42,7 @@ void TurnQueue::SendDue() {
   const Lifetime::Watch life = lifetime_.NewWatch();
   isSendingDue_ = true;
   while (ways_.IsOpen() && !turns_.empty()) {
-    if (turns_.front().input != nullptr ? commands_ > 0 : IsInputOnItsWay()) break;
+    if (turns_.front().input != nullptr ? commands_ > 0 : isInputOut_) break;
     const Turn turn = std::move(turns_.front());
     turns_.pop_front();
     if (turn.input == nullptr) {
@@ -57,7 +53,7 @@ void TurnQueue::SendDue() {
     }
   }
   isSendingDue_ = false;
-  if (!turns_.empty() && turns_.front().input == nullptr && !probeTimer_.isActive()) SendProbe();
+  if (!turns_.empty() && turns_.front().input == nullptr && !isProbeOut_) SendProbe();
 }
 
 void TurnQueue::SendExpression(const Turn &turn) {
@@ -78,14 +74,19 @@ void TurnQueue::SendInput(QEvent &input) {
 
 void TurnQueue::SendProbe() {
   isProbeBehind_ = true;
+  isProbeOut_ = true;
+  const Lifetime::Watch probeLife = probeLife_.NewWatch();
   QKeyEvent probe(QEvent::KeyRelease, Qt::Key_F24, Qt::NoModifier);
   SendInput(probe);
-  probeTimer_.start();
+  if (probeLife.IsOver()) return;
+  ways_.Evaluate(Echo, [this, probeLife](auto &&) {
+    if (!probeLife.IsOver()) probeTimer_.start();
+  });
 }
 
 void TurnQueue::ProbeArrived() {
-  if (isProbeBehind_) sinceInput_.invalidate();
-  probeTimer_.stop();
+  if (isProbeBehind_) isInputOut_ = false;
+  ForgetProbe();
   if (turns_.empty() || turns_.front().input == nullptr) SendDue();
   if (!turns_.empty()) leaveTimer_.start();
   guard_.Wake();
@@ -95,7 +96,13 @@ void TurnQueue::Clear() {
   pageLife_.End();
   turns_.clear();
   commands_ = 0;
-  sinceInput_.invalidate();
+  isInputOut_ = false;
+  ForgetProbe();
+}
+
+void TurnQueue::ForgetProbe() {
+  probeLife_.End();
+  isProbeOut_ = false;
   probeTimer_.stop();
 }
 

@@ -4,7 +4,6 @@
 #include "engine/GuardedWait.h"
 #include "engine/Lifetime.h"
 
-#include <QElapsedTimer>
 #include <QEvent>
 #include <QObject>
 #include <QTimer>
@@ -56,9 +55,11 @@ class TurnQueue : public QObject {
  public:
   TurnQueue(PageWays &ways, EngineGuard &guard);
 
-  /// After this input counts as arrived, for a page that does not answer the probe. A page that
-  /// does takes milliseconds.
+  /// Input counts as arrived so long after the echo of a page that does not tell of the probe. A
+  /// page that does takes milliseconds.
   static constexpr std::chrono::milliseconds LongestInputDelay{500};
+  /// The expression that is sent with the probe.
+  static constexpr QLatin1String Echo{"true"};
 
   /// Sends an expression when its turn comes; without `answer` it is a command. Does nothing where
   /// there is no page.
@@ -68,10 +69,6 @@ class TurnQueue : public QObject {
   bool Defer(const QEvent &input);
   /// To be called when input goes to the page.
   void NoteInput();
-  /// Whether input was sent that may not have arrived yet.
-  bool IsInputOnItsWay() const;
-  /// Sends the probe, so that ProbeArrived follows when the input sent so far is there.
-  void SendProbe();
   /// To be called when the page tells of the probe.
   void ProbeArrived();
   /// Forgets everything: another page comes, or the page has ended.
@@ -90,18 +87,22 @@ class TurnQueue : public QObject {
   void SendDue();
   void SendExpression(const Turn &turn);
   void SendInput(QEvent &input);
+  void SendProbe();
+  void ForgetProbe();
 
   PageWays &ways_;
   EngineGuard &guard_;
   std::deque<Turn> turns_;
   int commands_ = 0;             ///< on their way
-  QElapsedTimer sinceInput_;     ///< invalid when all input is known to have arrived
+  bool isInputOut_ = false;      ///< input was sent that may not have arrived yet
+  bool isProbeOut_ = false;      ///< the page has not told of the last probe yet
   bool isProbeBehind_ = false;   ///< the probe was sent after the last input
   bool isSendingInput_ = false;  ///< input that has waited is not to be held back again
   bool isSendingDue_ = false;
-  QTimer leaveTimer_;  ///< calls SendDue outside of the engine's callback
-  QTimer probeTimer_;  ///< for a page that does not tell of the probe
-  Lifetime pageLife_;  ///< until Clear
+  QTimer leaveTimer_;   ///< calls SendDue outside of the engine's callback
+  QTimer probeTimer_;   ///< from the echo on, for a page that does not tell of the probe
+  Lifetime pageLife_;   ///< until Clear
+  Lifetime probeLife_;  ///< until the probe has arrived
   Lifetime lifetime_;
 };
 

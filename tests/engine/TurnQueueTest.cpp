@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QStringList>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -12,11 +13,17 @@ namespace velor {
 
 namespace {
 
+using namespace std::chrono_literals;
+
 /// Records what is sent to the page; the test decides when the page answers.
 class NotedPage final : public PageWays {
  public:
   bool IsOpen() const override { return isOpen; }
   void Evaluate(const QString &expression, const Answer &answered) override {
+    if (expression == TurnQueue::Echo) {
+      echo = answered;
+      return;
+    }
     arrived << expression;
     answers.push_back(answered);
   }
@@ -35,6 +42,7 @@ class NotedPage final : public PageWays {
   bool isOpen = true;
   QStringList arrived;
   std::vector<Answer> answers;
+  Answer echo;
   std::function<void()> onInput;
 };
 
@@ -89,16 +97,39 @@ TEST_F(Turns, AnExpressionWaitsUntilTheProbeBehindTheInputHasArrived) {
 
 TEST_F(Turns, AProbeDoesNotSpeakForInputThatCameBehindIt) {
   Press("a");
-  queue_->SendProbe();
+  Command("bold");
   queue_->NoteInput();
   queue_->ProbeArrived();
-  EXPECT_TRUE(queue_->IsInputOnItsWay());
+  EXPECT_EQ(page_.Arrived(), "a probe probe");
 }
 
 TEST_F(Turns, APageThatDoesNotTellOfTheProbeHoldsAnExpressionUpForAMomentOnly) {
   Press("a");
   Command("bold");
+  page_.echo({});
   EXPECT_TRUE(ArrivedBecomes("a probe bold"));
+}
+
+TEST_F(Turns, NoExpressionOvertakesTheKeysThatABusyPageHasNotTakenYet) {
+  Press("a");
+  Command("bold");
+  bool isLate = false;
+  QTimer::singleShot(TurnQueue::LongestInputDelay + TurnQueue::LongestInputDelay,
+                     [&] { isLate = true; });
+  ASSERT_TRUE(WaitFor([&] { return isLate; }));
+  Command("italic");
+  EXPECT_EQ(page_.Arrived(), "a probe");
+  queue_->ProbeArrived();
+  EXPECT_EQ(page_.Arrived(), "a probe bold italic");
+}
+
+TEST_F(Turns, InputThatNobodyAskedAboutIsAskedAboutHoweverOldItIs) {
+  Press("a");
+  bool isLate = false;
+  QTimer::singleShot(TurnQueue::LongestInputDelay + 1ms, [&] { isLate = true; });
+  ASSERT_TRUE(WaitFor([&] { return isLate; }));
+  Command("bold");
+  EXPECT_EQ(page_.Arrived(), "a probe");
 }
 
 TEST_F(Turns, KeysAndCommandsKeepTheirOrderWhateverTheirNumber) {
