@@ -294,7 +294,7 @@ bool RestorePage(EditorContext &context, const JournalledPage &kept) {
     context.pages.Record(number) = record;
     context.pages.Trace(number) = FileTrace::Of(kept.path, kept.page.original);
     if (!kept.path.isEmpty()) window.Outside().WatchFile(kept.path);
-    window.Pictures().Restore(kept.pictures);
+    window.Pictures().Restore(kept);
     window.setWindowTitle(record.Caption);
     window.CheckAcc();
     const bool isReadOnly = record.ReadOnly != False16;

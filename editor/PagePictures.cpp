@@ -8,7 +8,6 @@
 #include "editor/PictureTextBox.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
-#include "page/text/PageEncoding.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
@@ -51,17 +50,6 @@ std::vector<frmMain *> OtherPages(EditorContext &context, int number) {
   return pages;
 }
 
-/// Whether a page's text names that file.
-bool Names(const QString &html, const QString &path) {
-  return html.contains(modGeneral::FileNameOfPath(path));
-}
-
-bool IsNamedElsewhere(EditorContext &context, int number, const QString &path) {
-  const std::vector<frmMain *> pages = OtherPages(context, number);
-  return std::any_of(pages.begin(), pages.end(),
-                     [&](frmMain *page) { return Names(page->DHTML1().Memory().document, path); });
-}
-
 /// The file that a data: address holds; nothing for another address.
 std::optional<QByteArray> ContentOfAddress(const QString &address) {
   if (!address.startsWith(u"data:", Qt::CaseInsensitive)) return {};
@@ -81,6 +69,17 @@ QString PictureTag(const PagePictures::InPage &picture) {
 
 }  // namespace
 
+bool NamesFile(const QString &html, const QString &path) {
+  return html.contains(modGeneral::FileNameOfPath(path));
+}
+
+bool IsNamedByOpenPage(EditorContext &context, int but, const QString &path) {
+  const std::vector<frmMain *> pages = OtherPages(context, but);
+  return std::any_of(pages.begin(), pages.end(), [&](frmMain *page) {
+    return NamesFile(page->DHTML1().Memory().document, path);
+  });
+}
+
 PagePictures::PagePictures(EditorContext &context, frmMain &page)
     : context_(context),
       page_(page),
@@ -88,9 +87,9 @@ PagePictures::PagePictures(EditorContext &context, frmMain &page)
       textBox_(new PictureTextBox(*page.DHTML1().Widget())),
       copied_(context.platform.files, context.platform.replaced,
               [&context, number = page.Number()](const QString &path) {
-                return IsNamedElsewhere(context, number, path);
+                return IsNamedByOpenPage(context, number, path);
               }),
-      rewritten_(context.platform.files) {
+      rewritten_(context.platform.files, context.platform.replaced) {
   QObject::connect(bar_, &PictureBar::CopyChosen, [this] { CopyAll(); });
   QObject::connect(bar_, &PictureBar::LinkChosen, [this] { LinkAll(); });
   QObject::connect(bar_, &PictureBar::UndoChosen, [this] { UndoAll(); });
@@ -323,7 +322,8 @@ void PagePictures::MarkSaved() {
   const QString &html = context_.pages.Record(page_.Number()).SavedHTML;
   copied_.MarkSaved(html);
   for (frmMain *page : OtherPages(context_, page_.Number())) {
-    page->Pictures().copied_.LeaveToSite([&](const QString &path) { return Names(html, path); });
+    page->Pictures().copied_.LeaveToSite(
+        [&](const QString &path) { return NamesFile(html, path); });
   }
 }
 
@@ -357,41 +357,8 @@ void PagePictures::MoveBack() {
   copied_.RemoveUnseen();
 }
 
-QList<JournalledPicture> PagePictures::Unsaved() const {
-  QList<JournalledPicture> unsaved = copied_.There();
-  if (HasPath()) return unsaved;
-  for (const Homeless &picture : homeless_) {
-    const bool isKnown = std::any_of(unsaved.begin(), unsaved.end(),
-                                     [&](const auto &known) { return known.path == picture.path; });
-    if (!isKnown) unsaved.push_back({picture.path, picture.address});
-  }
-  return unsaved;
-}
-
-void PagePictures::Restore(const QList<JournalledPicture> &unsaved) {
-  copied_.Adopt(unsaved);
-  if (HasPath()) return;
-  for (const JournalledPicture &picture : unsaved)
-    NoteHomeless(picture.address, picture.path,
-                 picture.digest.isEmpty() ? Place::WhereItLies : Place::BesideTheCopy);
-}
-
 void PagePictures::Report(const QString &message) const {
   context_.mainWindow.status.ReportOn(page_.Number(), message);
-}
-
-void RemoveUnsavedPictures(EditorContext &context, const JournalledPage &kept) {
-  const Files &files = context.platform.files;
-  QString saved;
-  if (!kept.pictures.isEmpty() && files.FileExists(kept.path))
-    saved = DecodePage(files.ReadAll(kept.path)).text;
-  const auto isUsed = [&](const QString &path) {
-    constexpr int NoPage = 0;
-    return Names(saved, path) || IsNamedElsewhere(context, NoPage, path);
-  };
-  CopiedPictures copied(context.platform.files, context.platform.replaced, isUsed);
-  copied.Adopt(kept.pictures);
-  copied.RemoveUnsaved();
 }
 
 }  // namespace velor

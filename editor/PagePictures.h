@@ -71,7 +71,7 @@ class PagePictures final {
   void MoveBack();
   /// What a journal has to hold of the pictures, and what the page that is restored from it has.
   QList<JournalledPicture> Unsaved() const;
-  void Restore(const QList<JournalledPicture> &unsaved);
+  void Restore(const JournalledPage &kept);
 
  private:
   enum class Asks { ForText, Nothing };
@@ -126,8 +126,15 @@ class PagePictures final {
   std::vector<Homeless> homeless_;
 };
 
+/// Whether a page's text names that file.
+bool NamesFile(const QString &html, const QString &path);
+/// Whether an open page other than number `but` names that file; 0 is no page.
+bool IsNamedByOpenPage(EditorContext &context, int but, const QString &path);
+
 /// Removes the files that were made for a page whose changes are given up unseen: those that the
-/// page's file does not name, and no open page.
+/// page's file does not name, and no open page. Files that were written
+/// anew for it are as the saved page has them again; the status bar says where that is not
+/// possible.
 void RemoveUnsavedPictures(EditorContext &context, const JournalledPage &kept);
 
 }  // namespace velor

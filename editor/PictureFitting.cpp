@@ -199,6 +199,8 @@ void PictureFitting::ChangePage(const QByteArray &before, const std::function<vo
   RewrittenPictures &rewritten = alive->Pictures().Rewritten();
   rewritten.Note(file, textBefore, before);
   rewritten.Note(file, textAfter, context_.platform.files.ReadAll(file));
+  // A crash may come before the next moment at which the journal is written.
+  alive->Journal().Flush();
 }
 
 void PictureFitting::UndoChange() {

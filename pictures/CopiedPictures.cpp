@@ -5,18 +5,12 @@
 #include "platform/ReplacedVersions.h"
 #include "platform/RuntimeError.h"
 
-#include <QCryptographicHash>
-
 #include <algorithm>
 #include <utility>
 
 namespace velor {
 
 namespace {
-
-QByteArray DigestOf(const QByteArray &content) {
-  return QCryptographicHash::hash(content, QCryptographicHash::Sha256);
-}
 
 bool IsPartOfAddress(QChar c) {
   return c.isLetterOrNumber() || QStringView(u"-_.~/%!$*+;=@:").contains(c);
@@ -47,7 +41,7 @@ void CopiedPictures::Add(const SitePicture &picture) {
 
 void CopiedPictures::Adopt(const QList<JournalledPicture> &pictures) {
   for (const JournalledPicture &picture : pictures) {
-    if (picture.digest.isEmpty()) continue;
+    if (picture.digest.isEmpty() || !picture.saved.isEmpty()) continue;
     pictures_.push_back({.path = picture.path,
                          .address = picture.address,
                          .digest = picture.digest,

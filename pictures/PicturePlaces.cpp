@@ -21,10 +21,6 @@ namespace {
 /// Maximum length of a stem, so that a number and an ending fit behind it on every system.
 constexpr qsizetype LongestStem = 60;
 
-QString FolderOf(const QString &path) {
-  return path.left(path.lastIndexOf(u'\\'));
-}
-
 /// The native path with links of the file system followed as far as it exists.
 QString Followed(const QString &path) {
   const QFileInfo info(ToNative(path));
@@ -91,6 +87,10 @@ QStringList PicturesOf(const QString &html) {
 }
 
 }  // namespace
+
+QString FolderOf(const QString &path) {
+  return path.left(path.lastIndexOf(u'\\'));
+}
 
 bool LiesInSite(const PageSite &site, const QString &path) {
   return LiesBelow(FolderOf(site.page), path) || LiesBelow(site.project, path);

@@ -15,6 +15,9 @@ struct PageSite {
   QString project = {};
 };
 
+/// The folder of a file, without a separator at its end.
+QString FolderOf(const QString &path);
+
 /// Whether a file or folder lies in the page's site. Links of the file system are followed, so that
 /// a link out of the site does not count as part of it.
 bool LiesInSite(const PageSite &site, const QString &path);

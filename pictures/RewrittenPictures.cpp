@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/RewrittenPictures.h"
 
+#include "pictures/PicturePlaces.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/ReplacedVersions.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
@@ -38,11 +41,18 @@ void RewrittenPictures::Rewrite(const QString &path, const QByteArray &content) 
 void RewrittenPictures::Write(Picture &picture, const QByteArray &content) {
   if (content == picture.latest) return;
   const bool isFirst = content == picture.first;
+  const bool isFirstSaved = picture.saved == picture.first;
   if (!isFirst && picture.original.isEmpty())
     picture.original =
         CreateBeside(files_, picture.path, QStringLiteral("-original"), picture.first);
+  if (!isFirstSaved && picture.savedCopy.isEmpty() && replaced_ != nullptr)
+    picture.savedCopy = ToLogic(replaced_->Store(picture.path, picture.saved));
   files_.ReplaceAll(picture.path, content);
   picture.latest = content;
+  const QString saved = isFirstSaved ? picture.original : picture.savedCopy;
+  picture.unsaved.reset();
+  if (content != picture.saved && !saved.isEmpty())
+    picture.unsaved = {picture.path, {}, DigestOf(content), saved, DigestOf(picture.saved)};
   if (!isFirst || picture.original.isEmpty()) return;
   if (files_.ReadAll(picture.original) == picture.first) files_.Delete(picture.original);
   picture.original.clear();
@@ -55,10 +65,9 @@ void RewrittenPictures::Note(const QString &path, const QString &text, const QBy
   picture->contents.emplace_back(text, content);
 }
 
-QString RewrittenPictures::OriginalOf(const QString &path) const {
-  const auto found = std::find_if(pictures_.begin(), pictures_.end(),
-                                  [&](const Picture &picture) { return picture.path == path; });
-  return found == pictures_.end() ? QString() : found->original;
+QString RewrittenPictures::OriginalOf(const QString &path) {
+  const Picture *picture = Find(path);
+  return picture == nullptr ? QString() : picture->original;
 }
 
 void RewrittenPictures::PutBack(const QString &path) {
@@ -85,7 +94,11 @@ void RewrittenPictures::Follow(const QString &text) {
 }
 
 void RewrittenPictures::MarkSaved() {
-  for (Picture &picture : pictures_) picture.saved = picture.latest;
+  for (Picture &picture : pictures_) {
+    picture.saved = picture.latest;
+    picture.savedCopy.clear();
+    picture.unsaved.reset();
+  }
 }
 
 void RewrittenPictures::RemoveUnsaved() {
@@ -93,6 +106,34 @@ void RewrittenPictures::RemoveUnsaved() {
   for (Picture &picture : pictures_)
     if (!picture.contents.empty()) WriteBack(picture, picture.saved);
   pictures_.clear();
+}
+
+QList<JournalledPicture> RewrittenPictures::Unsaved() const {
+  QList<JournalledPicture> unsaved;
+  for (const Picture &picture : pictures_)
+    if (picture.unsaved && !picture.contents.empty()) unsaved << *picture.unsaved;
+  return unsaved;
+}
+
+void RewrittenPictures::Adopt(const QList<JournalledPicture> &pictures, const QString &text) {
+  for (const JournalledPicture &picture : pictures) {
+    if (picture.saved.isEmpty()) continue;
+    try {
+      const QByteArray latest = files_.ReadAll(picture.path);
+      const QByteArray saved = files_.ReadAll(picture.saved);
+      if (DigestOf(latest) != picture.digest || DigestOf(saved) != picture.savedDigest) continue;
+      const bool isBeside = FolderOf(picture.saved) == FolderOf(picture.path);
+      pictures_.push_back({.path = picture.path,
+                           .original = isBeside ? picture.saved : QString(),
+                           .first = saved,
+                           .saved = saved,
+                           .latest = latest,
+                           .contents = {{text, latest}},
+                           .unsaved = picture});
+    } catch (const RuntimeError &) {
+      // One of the two is gone: there is nothing to bring back.
+    }
+  }
 }
 
 }  // namespace velor

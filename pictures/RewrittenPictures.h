@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/Journal.h"
+
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
 #include <utility>
 #include <vector>
 
 namespace velor {
 
 class Files;
+class ReplacedVersions;
 
 /// Creates a file beside `path` with that tail in its name, numbered where that is taken; returns
 /// its path.
@@ -23,8 +27,10 @@ QString CreateBeside(Files &files, const QString &path, const QString &tail,
 /// Invariant: a file that holds what was not written here is left alone.
 class RewrittenPictures {
  public:
-  /// `files` outlives it.
-  explicit RewrittenPictures(Files &files) : files_(files) {}
+  /// Both outlive it. `replaced` keeps what the last save of the page had, where that is not what
+  /// the file held at first; without it such a file is not in Unsaved().
+  explicit RewrittenPictures(Files &files, ReplacedVersions *replaced = nullptr)
+      : files_(files), replaced_(replaced) {}
 
   /// Writes the file anew, and makes the copy of what it held where there is none. Raises
   /// RuntimeError, with the file as it was.
@@ -32,7 +38,7 @@ class RewrittenPictures {
   /// With this text of the page the file is to hold that.
   void Note(const QString &path, const QString &text, const QByteArray &content);
   /// The name of the copy; empty for a file that is as it was at first.
-  QString OriginalOf(const QString &path) const;
+  QString OriginalOf(const QString &path);
   /// Puts the file back as it was at first; the copy goes. Raises RuntimeError.
   void PutBack(const QString &path);
 
@@ -42,6 +48,10 @@ class RewrittenPictures {
   void MarkSaved();
   /// The page closes without being saved.
   void RemoveUnsaved();
+  /// The files that hold what does not go with the saved page.
+  QList<JournalledPicture> Unsaved() const;
+  /// Takes over what Unsaved told in another run, whose page is restored with that text.
+  void Adopt(const QList<JournalledPicture> &pictures, const QString &text);
   bool IsEmpty() const { return pictures_.empty(); }
 
  private:
@@ -52,12 +62,15 @@ class RewrittenPictures {
     QByteArray saved = {};   ///< what belongs to the saved page
     QByteArray latest = {};  ///< what was written last
     std::vector<std::pair<QString, QByteArray>> contents = {};  ///< by the page's text
+    QString savedCopy = {};  ///< where `saved` lies, if it is not `first`
+    std::optional<JournalledPicture> unsaved = {};
   };
   Picture *Find(const QString &path);
   void Write(Picture &picture, const QByteArray &content);
   void WriteBack(Picture &picture, const QByteArray &content);
 
   Files &files_;
+  ReplacedVersions *replaced_;
   std::vector<Picture> pictures_;
 };
 

@@ -4,6 +4,7 @@
 #include "platform/PageMemory.h"
 
 #include <QByteArray>
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QList>
 #include <QString>
@@ -22,12 +23,24 @@ enum class RunEnd {
   Exit,
 };
 
-/// A picture that was put into a page and is not in its saved text.
+/// As a JournalledPicture has it.
+inline QByteArray DigestOf(const QByteArray &content) {
+  return QCryptographicHash::hash(content, QCryptographicHash::Sha256);
+}
+
+/// A picture file that goes with a page's unsaved text: it was put into the page, or a file of the
+/// site was written anew for it. Paths in logic form.
 struct JournalledPicture {
-  QString path;     ///< logic form
-  QString address;  ///< in the page
-  /// SHA-256 of the file as the program made it; empty for a file that it did not make.
+  QString path;
+  QString address;  ///< in the page; empty for a file that was written anew
+  /// SHA-256 of the file as the program wrote it; empty for a file that it did not write.
   QByteArray digest = {};
+  /// Of a file that was written anew: the file that holds what goes with the saved page, and its
+  /// SHA-256.
+  QString saved = {};
+  QByteArray savedDigest = {};
+  /// Hash of the saved page's file (FileTrace), where there is `saved`.
+  quint64 page = 0;
 
   bool operator==(const JournalledPicture &) const = default;
 };

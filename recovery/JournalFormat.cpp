@@ -13,10 +13,12 @@ namespace velor {
 
 // Found by QDataStream through the type's namespace.
 static QDataStream &operator<<(QDataStream &stream, const JournalledPicture &picture) {
-  return stream << picture.path << picture.address << picture.digest;
+  return stream << picture.path << picture.address << picture.digest << picture.saved
+                << picture.savedDigest << picture.page;
 }
 static QDataStream &operator>>(QDataStream &stream, JournalledPicture &picture) {
-  return stream >> picture.path >> picture.address >> picture.digest;
+  return stream >> picture.path >> picture.address >> picture.digest >> picture.saved >>
+         picture.savedDigest >> picture.page;
 }
 
 namespace {

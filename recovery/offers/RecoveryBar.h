@@ -72,7 +72,7 @@ class RecoveryBar final : public QFrame {
   void ShowOpenPage(const Offered &offered, frmMain &page);
   /// Shows the page in the preview.
   void Show(const AbandonedPage &abandoned);
-  /// The person turns the page down: deletes the files made for its pictures, journal and row.
+  /// The person turns the page down: its pictures are as before, journal and row go.
   void GiveUp(const Offered &offered);
   /// Deletes the journal and the row.
   void Discard(const Offered &offered);

@@ -4205,6 +4205,10 @@ Soll die Datei ersetzt werden?</translation>
         <source>Design view changed the page where its source was changed too. Applying the source takes these changes back, until Undo</source>
         <translation>In der Entwurfsansicht wurde die Seite dort geändert, wo auch ihr Quelltext geändert wurde. Übernehmen des Quelltexts nimmt diese Änderungen zurück, bis Rückgängig</translation>
     </message>
+    <message>
+        <source>%1 stays as it is. What the saved page shows is kept as %2.</source>
+        <translation>%1 bleibt, wie es ist. Was die gespeicherte Seite zeigt, ist als %2 aufgehoben.</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

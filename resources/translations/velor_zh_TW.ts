@@ -4189,6 +4189,10 @@ Do you want to replace it?</source>
         <source>Design view changed the page where its source was changed too. Applying the source takes these changes back, until Undo</source>
         <translation>設計檢視在原始碼也改過的地方更改了網頁。套用原始碼會取代這些更改，「復原」可取回</translation>
     </message>
+    <message>
+        <source>%1 stays as it is. What the saved page shows is kept as %2.</source>
+        <translation>%1 維持原狀。已儲存網頁所顯示的圖片保存為 %2。</translation>
+    </message>
 </context>
 <context>
     <name>velor::frmAbout</name>

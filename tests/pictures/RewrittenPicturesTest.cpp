@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/RewrittenPictures.h"
+#include "platform/ReplacedVersions.h"
 #include "tests/support/FakeFiles.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +13,18 @@ const QString Copy = QStringLiteral("\\site\\rose-original.png");
 const QString Wide = QStringLiteral("<img src=rose.png width=60>");
 const QString Narrow = QStringLiteral("<img src=rose.png width=30>");
 
+class VersionsInFiles final : public ReplacedVersions {
+ public:
+  explicit VersionsInFiles(FakeFiles &files) : files_(files) {}
+  QString Store(const QString &, const QByteArray &content) override {
+    files_.AddFile(QStringLiteral("\\replaced\\1"), content);
+    return QStringLiteral("/replaced/1");
+  }
+
+ private:
+  FakeFiles &files_;
+};
+
 class RewrittenPicturesTest : public ::testing::Test {
  protected:
   RewrittenPicturesTest() { files.AddFile(Path, "wide"); }
@@ -23,7 +36,8 @@ class RewrittenPicturesTest : public ::testing::Test {
   std::string There() const { return files.Content(Path)->toStdString(); }
 
   FakeFiles files;
-  RewrittenPictures pictures{files};
+  VersionsInFiles replaced{files};
+  RewrittenPictures pictures{files, &replaced};
 };
 
 TEST_F(RewrittenPicturesTest, WhatAFileHeldAtFirstIsKeptOnceUnderAFreeName) {
@@ -75,6 +89,44 @@ TEST_F(RewrittenPicturesTest, AFileThatIsOnlySmallerStaysSo) {
   pictures.RemoveUnsaved();
   EXPECT_EQ(There(), "small");
   EXPECT_EQ(files.Content(Copy), QByteArray("wide"));
+}
+
+TEST_F(RewrittenPicturesTest, AnotherRunBringsBackWhatTheSavedPageHad) {
+  MakeNarrow();
+  const QList<JournalledPicture> unsaved = pictures.Unsaved();
+  ASSERT_EQ(unsaved.size(), 1);
+  EXPECT_EQ(unsaved.front().saved, Copy);
+  RewrittenPictures next(files);
+  next.Adopt(unsaved, Narrow);
+  EXPECT_EQ(next.Unsaved(), unsaved);
+  next.RemoveUnsaved();
+  EXPECT_EQ(There(), "wide");
+  EXPECT_FALSE(files.Content(Copy));
+}
+
+TEST_F(RewrittenPicturesTest, WhatTheLastSaveHadIsKeptBeforeItIsWrittenOver) {
+  MakeNarrow();
+  pictures.MarkSaved();
+  EXPECT_TRUE(pictures.Unsaved().isEmpty());
+  pictures.Rewrite(Path, "small");
+  ASSERT_EQ(pictures.Unsaved().size(), 1);
+  EXPECT_EQ(files.Content(pictures.Unsaved().front().saved), QByteArray("narrow"));
+  RewrittenPictures next(files);
+  next.Adopt(pictures.Unsaved(), QStringLiteral("small"));
+  next.RemoveUnsaved();
+  EXPECT_EQ(There(), "narrow");
+  EXPECT_EQ(files.Content(Copy), QByteArray("wide"));
+}
+
+TEST_F(RewrittenPicturesTest, AnotherRunLeavesFilesThatOthersHaveWritten) {
+  MakeNarrow();
+  files.ReplaceAll(Copy, "theirs");
+  RewrittenPictures next(files);
+  next.Adopt(pictures.Unsaved(), Narrow);
+  EXPECT_TRUE(next.IsEmpty());
+  files.Delete(Copy);
+  next.Adopt(pictures.Unsaved(), Narrow);
+  EXPECT_TRUE(next.IsEmpty());
 }
 
 }  // namespace

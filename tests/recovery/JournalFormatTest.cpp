@@ -110,7 +110,13 @@ AbandonedPage SummaryOf(QByteArray journal) {
 TEST(JournalFormat, PicturesThatAreNotInTheSavedPageComeBackAndGo) {
   JournalledPage page = Page(QStringLiteral("<p>a</p>"));
   page.pictures = {{QStringLiteral("\\site\\rose.png"), QStringLiteral("rose.png"), "digest"},
-                   {QStringLiteral("\\far.png"), QStringLiteral("file:///far.png")}};
+                   {QStringLiteral("\\far.png"), QStringLiteral("file:///far.png")},
+                   {QStringLiteral("\\site\\cut.png"),
+                    {},
+                    "cut",
+                    QStringLiteral("\\site\\cut-original.png"),
+                    "whole",
+                    7}};
   page.source = QStringLiteral("source");
   QByteArray journal = JournalHead() + JournalRecord(page);
   EXPECT_EQ(ReadJournal(journal)->page.pictures, page.pictures);

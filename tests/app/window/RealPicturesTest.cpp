@@ -100,16 +100,6 @@ class RealPictures : public RealWindow {
     PutCaret(page, QStringLiteral("p"));
     return page;
   }
-  /// Selects the picture behind the first character of the first paragraph, once it shows.
-  static void SelectPicture(frmMain &page, int width) {
-    ASSERT_TRUE(WaitFor([&] {
-      return Evaluate(EngineOf(page), QStringLiteral("document.images[0].naturalWidth")) == width;
-    }));
-    Evaluate(EngineOf(page), QStringLiteral("{ const p = document.querySelector('p');"
-                                            "getSelection().setBaseAndExtent(p, 1, p, 2) }"));
-    ASSERT_TRUE(WaitFor(
-        [&] { return page.DHTML1().Document().Selection().Type() == SelectionType::Control; }));
-  }
   void Paste(frmMain &page, const QImage &image) {
     QGuiApplication::clipboard()->setImage(image);
     page.DHTML1().SetFocus();

@@ -5,6 +5,7 @@
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
 #include "editor/modWorkFlow.h"
+#include "files/ReplacedFiles.h"
 #include "files/StateFolder.h"
 #include "recovery/JournalFiles.h"
 #include "recovery/offers/RecoveryBar.h"
@@ -18,7 +19,9 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QImage>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -108,6 +111,38 @@ class RealRecovery : public RealWindow {
   const QByteArray stateHome_ = qgetenv("XDG_STATE_HOME");
   QTemporaryDir state_;
   std::optional<JournalFiles> journals_;
+};
+
+/// A page whose picture was turned, and has a file turned with it.
+class CutPictures : public RealRecovery {
+ protected:
+  CutPictures() {
+    platform.replaced = &replaced_;
+    Write(PictureFile, whole);
+    Open(PageFile, PageSource);
+  }
+  frmMain &CutPicture() {
+    frmMain &page = LastOpened();
+    const QByteArray before = Bytes(PictureFile);
+    SelectPicture(page, 60);
+    dialogs.ExpectModal([](QWidget &dialog) {
+      dialog.show();
+      dialog.findChild<QPushButton *>(QStringLiteral("cmdCropTurnRight"))->click();
+      dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+    });
+    Choose("mnuCropPicture");
+    EXPECT_NE(Bytes(PictureFile), before);
+    return page;
+  }
+  bool IsCut() const { return QImage::fromData(Bytes(PictureFile)).size() == QSize(40, 60); }
+
+  const QString PageFile = QStringLiteral("site/page.htm");
+  const QByteArray PageSource = "<!DOCTYPE html><p>x<img src=a.png width=120 height=80></p>";
+  const QString PictureFile = QStringLiteral("site/a.png");
+  const QByteArray whole = CodedAs("PNG", RedAndBlue(60, 40));
+
+ private:
+  ReplacedFiles replaced_;
 };
 
 TEST_F(RealRecovery, TheJournalGoesToTheDiskBetweenTheKeysOfWhoeverTypesOn) {
@@ -311,6 +346,59 @@ TEST_F(RealRecovery, AnOfferThatIsTurnedDownLeavesPicturesThatTheSavedPageNames)
   Write(QStringLiteral("site/page.htm"), "<!DOCTYPE html><img src=page-1.png>");
   Answer("cmdDiscard");
   EXPECT_EQ(PicturesIn("site").size(), 1);
+}
+
+TEST_F(CutPictures, ComeBackWhenTheOfferOfTheirPageIsTurnedDown) {
+  Crash(CutPicture());
+  ASSERT_TRUE(IsCut());
+  Answer("cmdDiscard");
+  EXPECT_EQ(Bytes(PictureFile), whole);
+  EXPECT_EQ(PicturesIn("site"), QStringList(QStringLiteral("a.png")));
+  EXPECT_EQ(Bytes(PageFile), PageSource);
+}
+
+TEST_F(CutPictures, ComeBackWhenTheRestoredPageIsNotSaved) {
+  Crash(CutPicture());
+  Answer("cmdRestore");
+  ASSERT_TRUE(Holds(LastOpened(), QStringLiteral("width=\"80\" height=\"120\"")))
+      << Seen(LastOpened());
+  ASSERT_TRUE(IsCut());
+  dialogs.ExpectMessage(
+      QStringLiteral("You have made changes to this document. Do you want to save it?"),
+      MessageAnswer::No);
+  EXPECT_TRUE(LastOpened().close());
+  EXPECT_EQ(Bytes(PictureFile), whole);
+  EXPECT_EQ(PicturesIn("site"), QStringList(QStringLiteral("a.png")));
+}
+
+TEST_F(CutPictures, StayAsTheLastSaveHasThemWhenTheOfferIsTurnedDown) {
+  CutPicture();
+  Choose("mnuSave");
+  const QByteArray saved = Bytes(PictureFile);
+  Crash(CutPicture());
+  ASSERT_NE(Bytes(PictureFile), saved);
+  Answer("cmdDiscard");
+  EXPECT_EQ(Bytes(PictureFile), saved);
+  EXPECT_EQ(Bytes(QStringLiteral("site/a-original.png")), whole);
+}
+
+TEST_F(CutPictures, StayWithAPageThatWasSavedWithThemBeforeTheCrash) {
+  Crash(CutPicture());
+  Write(PageFile, QByteArray(PageSource).replace("width=120 height=80", "width=80 height=120"));
+  Answer("cmdDiscard");
+  EXPECT_TRUE(IsCut());
+  EXPECT_EQ(Bytes(QStringLiteral("site/a-original.png")), whole);
+}
+
+TEST_F(CutPictures, ThatAnotherProgramWroteStayAndTheCopyIsTold) {
+  Crash(CutPicture());
+  Write(PictureFile, "theirs");
+  Answer("cmdDiscard");
+  EXPECT_EQ(Bytes(PictureFile), "theirs");
+  EXPECT_EQ(Bytes(QStringLiteral("site/a-original.png")), whole);
+  EXPECT_EQ(Find<QStatusBar>("Sta")->currentMessage(),
+            QStringLiteral("a.png stays as it is. What the saved page shows is kept as %1.")
+                .arg(folder.FilePath(QStringLiteral("site/a-original.png"))));
 }
 
 TEST_F(RealRecovery, ThePageInTheKeyboardsFocusIsLeftForTheOfferByAltG) {

@@ -104,6 +104,16 @@ void RealWindow::Select(frmMain &page, const QString &selector) {
                .arg(ScriptValue(selector)));
 }
 
+void RealWindow::SelectPicture(frmMain &page, int width) {
+  ASSERT_TRUE(WaitFor([&] {
+    return Evaluate(EngineOf(page), QStringLiteral("document.images[0].naturalWidth")) == width;
+  }));
+  Evaluate(EngineOf(page), QStringLiteral("{ const p = document.querySelector('p');"
+                                          "getSelection().setBaseAndExtent(p, 1, p, 2) }"));
+  ASSERT_TRUE(WaitFor(
+      [&] { return page.DHTML1().Document().Selection().Type() == SelectionType::Control; }));
+}
+
 QWidget &RealWindow::ViewOf(frmMain &page) {
   return *page.DHTML1().Widget()->findChild<QWebEngineView *>();
 }

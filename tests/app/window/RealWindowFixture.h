@@ -114,6 +114,9 @@ class RealWindow : public ::testing::Test {
   /// Puts the caret after the first character of the first element that the selector finds.
   static void PutCaret(frmMain &page, const QString &selector);
   static void Select(frmMain &page, const QString &selector);
+  /// Selects the picture behind the first character of the first paragraph, once it shows in that
+  /// width of its file.
+  static void SelectPicture(frmMain &page, int width);
   /// The widget that files are dropped on.
   static QWidget &ViewOf(frmMain &page);
   /// Drops files on a widget, as a file manager does.
