@@ -4,12 +4,14 @@
 #include "editor/MainWindow.h"
 #include "editor/PagePictures.h"
 #include "editor/PageSlots.h"
+#include "editor/SitePages.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
 #include "page/text/PageEncoding.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
+#include "platform/RuntimeError.h"
 #include "platform/Words.h"
 
 #include <algorithm>
@@ -18,12 +20,33 @@ namespace velor {
 
 namespace {
 
-/// The kept pictures without the files that were written anew for another state of the page's file
-/// than it is in: it was saved after them.
-QList<JournalledPicture> OfSavedPage(const Files &files, const JournalledPage &kept) {
+/// Whether that page file names the file; one that cannot be read may.
+bool MayName(const Files &files, const QString &page, const QString &path) {
+  try {
+    return NamesFile(DecodePage(files.ReadAll(page)).text, path);
+  } catch (const RuntimeError &) {
+    return true;
+  }
+}
+
+/// Whether another page in the folder of `page` or below names the file. Where there are too many
+/// to look at, one of them may.
+bool IsNamedAround(const Files &files, const QString &page, const QString &path) {
+  if (page.isEmpty()) return false;
+  const QString copy = modGeneral::TemporaryPath(page);
+  const QStringList around = PagesAround(page, modGeneral::FolderOfPath(page));
+  return around.size() == MostPagesAround ||
+         std::any_of(around.begin(), around.end(), [&](const QString &other) {
+           return other != copy && MayName(files, other, path);
+         });
+}
+
+/// The kept pictures that are that page's alone: copies that no other page names, and files written
+/// anew for the page whose file is as it was then, not saved after them.
+QList<JournalledPicture> OnlyOf(const Files &files, const JournalledPage &kept) {
   QList<JournalledPicture> own = kept.pictures;
   own.removeIf([&](const JournalledPicture &picture) {
-    if (picture.saved.isEmpty()) return false;
+    if (picture.saved.isEmpty()) return IsNamedAround(files, kept.path, picture.path);
     return !files.FileExists(kept.path) ||
            FileTrace::Of(kept.path, files.ReadAll(kept.path)).hash != picture.page;
   });
@@ -48,7 +71,7 @@ QList<JournalledPicture> PagePictures::Unsaved() const {
 }
 
 void PagePictures::Restore(const JournalledPage &kept) {
-  const QList<JournalledPicture> own = OfSavedPage(context_.platform.files, kept);
+  const QList<JournalledPicture> own = OnlyOf(context_.platform.files, kept);
   copied_.Adopt(own);
   rewritten_.Adopt(own, page_.DHTML1().Memory().document);
   if (HasPath()) return;
@@ -67,7 +90,7 @@ void RemoveUnsavedPictures(EditorContext &context, const JournalledPage &kept) {
     constexpr int NoPage = 0;
     return NamesFile(saved, path) || IsNamedByOpenPage(context, NoPage, path);
   };
-  const QList<JournalledPicture> own = OfSavedPage(files, kept);
+  const QList<JournalledPicture> own = OnlyOf(files, kept);
   RewrittenPictures rewritten(files);
   rewritten.Adopt(own, {});
   rewritten.RemoveUnsaved();

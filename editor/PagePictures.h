@@ -132,7 +132,7 @@ bool NamesFile(const QString &html, const QString &path);
 bool IsNamedByOpenPage(EditorContext &context, int but, const QString &path);
 
 /// Removes the files that were made for a page whose changes are given up unseen: those that the
-/// page's file does not name, and no open page. Files that were written
+/// page's file does not name, and no open page or other page of the folder. Files that were written
 /// anew for it are as the saved page has them again; the status bar says where that is not
 /// possible.
 void RemoveUnsavedPictures(EditorContext &context, const JournalledPage &kept);

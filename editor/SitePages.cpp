@@ -9,8 +9,6 @@
 namespace velor {
 namespace {
 
-/// A longer list helps nobody to choose.
-constexpr int MostPages = 500;
 /// The folders and files that are looked at: a project may lie on a slow disk.
 constexpr int MostEntries = 20'000;
 
@@ -27,7 +25,8 @@ QStringList PagesAround(const QString &pagePath, const QString &site) {
   QStringList pages;
   QDirIterator files(folder, QDir::Files | QDir::AllDirs | QDir::NoDotAndDotDot,
                      site.isEmpty() ? QDirIterator::NoIteratorFlags : QDirIterator::Subdirectories);
-  for (int entry = 0; files.hasNext() && entry < MostEntries && pages.size() < MostPages; ++entry) {
+  for (int entry = 0; files.hasNext() && entry < MostEntries && pages.size() < MostPagesAround;
+       ++entry) {
     const QString file = files.next();
     if (file != own && QDir::match(PageNames, files.fileName()) && files.fileInfo().isFile())
       pages << ToLogic(file);

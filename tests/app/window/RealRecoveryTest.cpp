@@ -334,6 +334,7 @@ TEST_F(RealRecovery, AnOfferThatIsTurnedDownTakesThePicturesOfItsPageAway) {
   frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
   ASSERT_TRUE(PastePicture(page, "page-1.png"));
   Crash(page);
+  Write(QStringLiteral("site/pageTMP.htm"), "The page's temporary copy. <img src=page-1.png>");
   Answer("cmdDiscard");
   EXPECT_EQ(PicturesIn("site"), QStringList());
   EXPECT_EQ(Bytes(QStringLiteral("site/page.htm")), "<!DOCTYPE html><p>one</p>");
@@ -345,6 +346,29 @@ TEST_F(RealRecovery, AnOfferThatIsTurnedDownLeavesPicturesThatTheSavedPageNames)
   Crash(page);
   Write(QStringLiteral("site/page.htm"), "<!DOCTYPE html><img src=page-1.png>");
   Answer("cmdDiscard");
+  EXPECT_EQ(PicturesIn("site").size(), 1);
+}
+
+TEST_F(RealRecovery, AnOfferThatIsTurnedDownLeavesPicturesThatAnotherPageOfTheFolderNames) {
+  frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
+  ASSERT_TRUE(PastePicture(page, "page-1.png"));
+  Crash(page);
+  Write(QStringLiteral("site/other.htm"), "<!DOCTYPE html><img src=page-1.png>");
+  Answer("cmdDiscard");
+  EXPECT_EQ(PicturesIn("site").size(), 1);
+}
+
+TEST_F(RealRecovery, ARestoredPageThatIsNotSavedLeavesPicturesThatAnotherPageOfTheSiteNames) {
+  frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
+  ASSERT_TRUE(PastePicture(page, "page-1.png"));
+  Crash(page);
+  QDir(folder.FilePath(QStringLiteral("site"))).mkdir(QStringLiteral("more"));
+  Write(QStringLiteral("site/more/other.htm"), "<!DOCTYPE html><img src=../page-1.png>");
+  Answer("cmdRestore");
+  dialogs.ExpectMessage(
+      QStringLiteral("You have made changes to this document. Do you want to save it?"),
+      MessageAnswer::No);
+  EXPECT_TRUE(LastOpened().close());
   EXPECT_EQ(PicturesIn("site").size(), 1);
 }
 
