@@ -56,6 +56,12 @@ export function control(selected) {
   const [end, to] = outwards(endContainer, endOffset, (node, offset) => offset === 0, 0);
   if (start !== end || isText(start)) return null;
   const stop = start.childNodes[to] ?? null;
+  if (start.nodeName === 'TABLE') {
+    // All that a table holds is the table.
+    const isAll = !dom.shownFrom(start.childNodes[from - 1], 'previousSibling') &&
+      !dom.shownFrom(stop, 'nextSibling');
+    return isAll ? start : null;
+  }
   let only = null;
   for (let node = start.childNodes[from]; node && node !== stop; node = node.nextSibling) {
     if (!dom.isShown(node)) continue;

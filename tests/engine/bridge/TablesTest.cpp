@@ -23,5 +23,15 @@ TEST(Tables, NoChangeOfTenThousandLeavesAHoleAnOverlapOrAnotherWord) {
   for (const QString &kind : kinds) EXPECT_GT(done[kind].toInt(), 300) << kind.toStdString();
 }
 
+TEST(Tables, AllThatATableHoldsSelectedIsTheTable) {
+  BridgePage page;
+  page.Load(QStringLiteral("<p>|one</p><table>\n<tr><td>two</td></tr>\n</table><p>three</p>"));
+  page.Evaluate(
+      QStringLiteral("getSelection().selectAllChildren(document.querySelector('table'));"
+                     "velor.exec(inside.Command.Delete)"));
+  EXPECT_EQ(page.Evaluate(QStringLiteral("markup.read()")).toString().toStdString(),
+            "<p>one</p><p>|three</p>");
+}
+
 }  // namespace
 }  // namespace velor
