@@ -2,6 +2,7 @@
 // @ts-check
 // Fields of a page's head: its title, META and LINK elements, and the rules of its own style
 // sheets.
+import { setAttributes } from '../formats/links.js';
 import * as dom from '../page/dom.js';
 import { dropLine } from '../page/sourceLines.js';
 
@@ -182,8 +183,7 @@ export const ruled = (name, selector) => ({
   write(body, value) {
     const found = styledBy(selector);
     const isSaid = body.hasAttribute(name);
-    if (isSaid && !value) body.removeAttribute(name);
-    else if (isSaid || (!found && !dom.writesStyles())) body.setAttribute(name, value);
+    if (isSaid || (!found && !dom.writesStyles())) setAttributes(body, [[name, value]]);
     if (found) {
       const { element, sheet, rule } = found;
       const declared = sheet.slice(rule.open, rule.close);
