@@ -63,10 +63,12 @@ export const columnInserted = (side) => onCells((grid, { top, left, right }) => 
 });
 
 /**
- * Deletes the rows of the chosen cells; all of them with the table.
+ * Deletes rows; all of them with the table.
+ * @param {Grid} grid
+ * @param {Rectangle} rectangle
  * @param {(table: Element) => void} deleteTable
  */
-export const rowsDeleted = (deleteTable) => onCells((grid, rectangle) => {
+function deleteRowsOrTable(grid, rectangle, deleteTable) {
   const { table, height } = grid;
   if (rectangle.bottom - rectangle.top + 1 === height) {
     deleteTable(table);
@@ -74,7 +76,25 @@ export const rowsDeleted = (deleteTable) => onCells((grid, rectangle) => {
   }
   deleteRows(grid, rectangle);
   enterSlot(table, rectangle.top, rectangle.left);
-});
+}
+/**
+ * Deletes the rows of the chosen cells.
+ * @param {(table: Element) => void} deleteTable
+ */
+export const rowsDeleted = (deleteTable) =>
+  onCells((grid, rectangle) => deleteRowsOrTable(grid, rectangle, deleteTable));
+/**
+ * Deletes a row, or the rows of a section.
+ * @param {Element} part
+ * @param {(table: Element) => void} deleteTable
+ */
+export function deleteRowsOf(part, deleteTable) {
+  const grid = gridOf(part.closest('TABLE'));
+  const own = grid.rows.filter((row) => part.contains(row));
+  const top = grid.rows.indexOf(own[0]);
+  const rectangle = { top, bottom: top + own.length - 1, left: 0, right: 0 };
+  if (own.length) deleteRowsOrTable(grid, rectangle, deleteTable);
+}
 /**
  * @param {(table: Element) => void} deleteTable
  */

@@ -8,6 +8,7 @@ import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
 import { work } from '../page/working.js';
+import { deleteRowsOf } from '../tables/deeds.js';
 import { classesFor } from './classes.js';
 import { schedulePush } from './pace.js';
 
@@ -100,13 +101,21 @@ function select(element) {
 }
 
 /** @param {AnyNode} element */
-function deleteAll(element) {
-  // A row in which no cell begins belongs to the cells that reach into it.
-  if (element.tagName === 'TR' && !element.cells.length) return;
-  // Of what has to stay, the content goes.
-  if (element === document.body || dom.isCell(element)) select(element);
-  else selection.selectNode(element);
+function deleteNode(element) {
+  selection.selectNode(element);
   deleteKeepingLooks(selection.range());
+}
+/** @param {AnyNode} element */
+function deleteAll(element) {
+  if (/^(TBODY|TFOOT|THEAD|TR)$/.test(element.tagName)) {
+    deleteRowsOf(element, deleteNode);
+  } else if (element === document.body || dom.isCell(element)) {
+    // Of what has to stay, the content goes.
+    select(element);
+    deleteKeepingLooks(selection.range());
+  } else {
+    deleteNode(element);
+  }
 }
 
 /**

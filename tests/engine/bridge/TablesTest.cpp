@@ -33,5 +33,18 @@ TEST(Tables, AllThatATableHoldsSelectedIsTheTable) {
             "<p>one</p><p>|three</p>");
 }
 
+TEST(Tables, ARowInWhichNoCellBeginsIsDeletedFromThePathWithItsPartOfTheCells) {
+  BridgePage page;
+  page.Load(
+      QStringLiteral("<table><tbody><tr><td rowspan='2'>one</td><td rowspan='2'>two</td></tr>"
+                     "<tr></tr><tr><td>three</td><td>four</td></tr></tbody></table><p>|</p>"));
+  page.Evaluate(
+      QStringLiteral("getSelection().collapse(document.querySelector('tr:empty'), 0);"
+                     "velor.actOnPath(velor.state().pathNumbers.at(-1), 'delete')"));
+  EXPECT_EQ(page.Evaluate(QStringLiteral("markup.read()")).toString().toStdString(),
+            "<table><tbody><tr><td>one</td><td>two</td></tr>"
+            "<tr><td>|three</td><td>four</td></tr></tbody></table><p></p>");
+}
+
 }  // namespace
 }  // namespace velor
