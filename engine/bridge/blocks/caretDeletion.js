@@ -9,6 +9,7 @@ import {
 import { isItem, isListOf, itemOf } from './items.js';
 import { dropBlock, dropEmptyBlocks, join } from './joining.js';
 import * as lists from './lists.js';
+import { keepingLooks } from '../formats/keptLooks.js';
 import { joinAlike } from '../formats/merging.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
@@ -106,12 +107,12 @@ function seenBeside({ startContainer, startOffset }, side) {
   }
 }
 /** @param {Neighbour} character */
-function deleteCharacter({ node, index }) {
+function rangeOfCharacter({ node, index }) {
   const range = document.createRange();
   const isPair = /[\udc00-\udfff]/.test(node.data[index]);
   range.setStart(node, isPair ? index - 1 : index);
   range.setEnd(node, /[\ud800-\udbff]/.test(node.data[index]) ? index + 2 : index + 1);
-  deleteToLine(range);
+  return range;
 }
 /** @param {Element} object */
 function deleteObject(object) {
@@ -167,15 +168,18 @@ function besideUnseen(caret, target) {
  */
 export function deletionAtCaret(range, side, target) {
   const signs = wholeSigns(target);
-  if (signs) return () => deleteToLine(signs);
+  if (signs) return keepingLooks(signs, () => deleteToLine(signs));
   const visible = besideUnseen(range, target);
-  if (visible) return () => deleteAroundComments(visible);
+  if (visible) return keepingLooks(visible, () => deleteAroundComments(visible));
   if (isWithinText(range, side)) return null;
   const unit = unitsIn(range)[0];
   if (!unit || !range.collapsed) return null;
   const { found, isPast } = seenBeside(range, side);
   if (found?.object) return () => deleteObject(found.object);
-  if (isPast && found) return () => deleteCharacter(found);
+  if (isPast && found) {
+    const character = rangeOfCharacter(found);
+    return keepingLooks(character, () => deleteToLine(character));
+  }
   return isPast || isAtEdge(range, unit, side) ? deletionAtEdge(unit, side) : null;
 }
 

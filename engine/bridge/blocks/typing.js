@@ -6,7 +6,7 @@
 import { deletionOfEdge } from './caretDeletion.js';
 import { deleteRange, deleteToLine, deleteToPoint } from './deletion.js';
 import { narrowSelection } from './extent.js';
-import { formats } from '../formats/formats.js';
+import { looksOf, waitAtCaret } from '../formats/keptLooks.js';
 import * as pending from '../formats/pending.js';
 import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
@@ -93,23 +93,6 @@ const isAll = ({ startContainer, startOffset, endContainer, endOffset }) =>
   startContainer === document.body && endContainer === document.body && startOffset === 0 &&
   endOffset === document.body.childNodes.length;
 
-// The character formats that inline elements around a text give it, the innermost first: pairs of
-// name and value.
-/**
- * @param {Text} text
- * @returns {[name: string, value: FormatValue][]}
- */
-function looksOf(text) {
-  /** @type {AnyNode[]} */
-  const around = [];
-  for (let at = text.parentNode; !dom.isBlock(at); at = at.parentNode) around.push(at);
-  /** @param {Format} format */
-  const depth = (format) => around.findIndex((at) => format.carries(at));
-  return Object.entries(formats).filter(([, format]) => depth(format) >= 0)
-    .sort(([, one], [, other]) => depth(one) - depth(other))
-    .map(([name, format]) => [name, format.read(around[depth(format)])]);
-}
-
 /**
  * The first text that is selected, less where that is an object or all of the page.
  * @param {Range} range
@@ -117,15 +100,6 @@ function looksOf(text) {
  */
 const firstText = (range) =>
   (isAll(range) || selection.control(range) ? undefined : selection.textsIn(range)[0]);
-/** @param {[name: string, value: FormatValue][]} looks */
-function waitAtCaret(looks) {
-  const element = selection.caretElement(selection.range());
-  for (const [name, value] of looks) {
-    const { read, same } = formats[name];
-    if (!same(read(element), value)) pending.set(name, value);
-  }
-}
-
 /**
  * Deletes what is selected and puts the caret into a line. The formats of the first deleted text
  * wait at the caret for what is typed next (formats/pending.js), where that is in the same
@@ -154,37 +128,6 @@ export function deleteSelected(range) {
   const cells = selection.saveCells(range);
   deleteKeepingLooks(range);
   selection.restore(cells);
-}
-
-// A text that the engine is about to delete, and its looks: where these go with it the engine would
-// write them again as FONT, in any page.
-/** @type {{ text: Text, looks: [name: string, value: FormatValue][] } | null} */
-let deleted = null;
-
-/**
- * Notes what the engine is about to delete.
- * @param {StaticRange | PlainRange | null | undefined} target
- */
-export function noteDeletion(target) {
-  deleted = null;
-  if (!target) return;
-  const { startContainer, startOffset, endContainer, endOffset } = target;
-  const text = dom.isText(startContainer) && startOffset < startContainer.length
-    ? startContainer : endContainer;
-  const isWhole = dom.isText(text) && !dom.isBlock(text.parentNode) &&
-    (text !== startContainer || startOffset === 0) &&
-    (text !== endContainer || endOffset === text.length);
-  if (isWhole) deleted = { text, looks: looksOf(text) };
-}
-
-/** The engine has deleted: the formats of a text that is gone wait at the caret. */
-export function keepLooksOfDeleted() {
-  const gone = deleted;
-  deleted = null;
-  if (!gone || gone.text.isConnected || !selection.range()?.collapsed) return;
-  // The engine forgets the looks that it keeps.
-  selection.select(selection.points());
-  waitAtCaret(gone.looks);
 }
 
 /**

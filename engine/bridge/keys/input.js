@@ -5,6 +5,7 @@
 // history, is done by the bridge in its place.
 import { deletionAtCaret } from '../blocks/caretDeletion.js';
 import * as typing from '../blocks/typing.js';
+import * as keptLooks from '../formats/keptLooks.js';
 import * as pending from '../formats/pending.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
@@ -116,7 +117,7 @@ export function beforeInput(event) {
     finish(inputType, event.data);
     return;
   }
-  if (inputType.startsWith('delete')) typing.noteDeletion(event.getTargetRanges()[0]);
+  if (inputType.startsWith('delete')) keptLooks.noteDeletion(event.getTargetRanges()[0]);
   if (inputType.startsWith('insert') && kind !== 'drag') work(() => typing.prepareCaret(event));
   work(() => blanks.watch(inputType, event.getTargetRanges()[0]));
 }
@@ -141,7 +142,7 @@ export function input(event) {
  */
 function finish(inputType, data) {
   if (inputType === 'insertParagraph') work(tidySplit);
-  if (inputType.startsWith('delete')) work(typing.keepLooksOfDeleted);
+  if (inputType.startsWith('delete')) work(keptLooks.keepLooksOfDeleted);
   if (inputType === 'insertText') work(() => pending.applyToTyped(data));
   work(() => typing.noteTyped(data));
   signs.noteTyped();

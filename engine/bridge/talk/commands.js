@@ -7,12 +7,11 @@ import { deletionAtCaret } from '../blocks/caretDeletion.js';
 import * as indent from '../blocks/indent.js';
 import { listTagOf } from '../blocks/items.js';
 import * as lists from '../blocks/lists.js';
-import {
-  deleteKeepingLooks, deleteSelected, keepLooksOfDeleted, noteDeletion,
-} from '../blocks/typing.js';
+import { deleteKeepingLooks, deleteSelected } from '../blocks/typing.js';
 import * as align from '../formats/align.js';
 import { formats } from '../formats/formats.js';
 import * as inline from '../formats/inline.js';
+import * as keptLooks from '../formats/keptLooks.js';
 import * as pending from '../formats/pending.js';
 import * as layers from '../objects/layers.js';
 import * as objects from '../objects/objects.js';
@@ -259,11 +258,11 @@ export const commands = new Map([
         return;
       }
       const input = { inputType: 'deleteContentForward' };
-      noteDeletion(target);
+      keptLooks.noteDeletion(target);
       blanks.watch(input.inputType, target);
       document.execCommand('forwardDelete');
       blanks.engineDone(input);
-      keepLooksOfDeleted();
+      keptLooks.keepLooksOfDeleted();
       blanks.watched(input);
       pending.moveToCaret();
     },
