@@ -117,13 +117,18 @@ function splitBlock(block) {
   selection.setCaret(...selection.pointOf(selection.startOf(below)));
 }
 
-// True for a paragraph that is all of an item.
+// True for a paragraph that is all of an item, or of a division that is.
 /**
  * @param {Element} item
  * @param {Unit} unit
  */
-const isAllOf = (item, { block }) =>
-  Boolean(block) && [...item.childNodes].filter(dom.isShown).every((node) => node === block);
+function isAllOf(item, { block }) {
+  if (!block || block === item) return false;
+  for (let at = block; at !== item; at = at.parentElement) {
+    if (dom.sides.some((side) => dom.neighbour(at, side))) return false;
+  }
+  return true;
+}
 
 // True where an item shows nothing but a break; white space in a format beside it shows nothing.
 /** @param {Element} item */
