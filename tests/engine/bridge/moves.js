@@ -10,7 +10,9 @@
   const { look, same, select, shownLines } = walk;
 
   const shown = () => document.body.innerText.replace(/[\s\u00a0]+/g, ' ').trim();
+  // What is pasted takes an empty paragraph's place: a class that marks no words goes with it.
   const names = () => [...document.body.querySelectorAll('[id], [class], a[href]')]
+    .filter((element) => element.id || element.textContent.trim() || element.matches('a, img'))
     .map((element) => `${element.id}.${element.className} ${element.getAttribute('href') ?? ''}`)
     .filter((name, index, all) => all.indexOf(name) === index).sort().join(', ');
 
