@@ -8,6 +8,7 @@
 namespace velor {
 
 class PagePrinting;
+class PageSpelling;
 struct EditorContext;
 
 /// What a child window shows.
@@ -37,6 +38,8 @@ class FrontWindow {
   virtual void OnActivated() = 0;
   /// Puts what it shows on paper; null where it shows nothing any more.
   virtual PagePrinting *Printing() = 0;
+  /// The spelling of what it shows; null where that has none.
+  virtual PageSpelling *SpellCheck() { return nullptr; }
   /// How large the page is shown, 1 for its own size. Sources have none of it.
   virtual double Zoom() const { return 1; }
   virtual void SetZoom(double /*factor*/) {}

@@ -8,6 +8,7 @@
 #include "editor/PageWidths.h"
 #include "editor/SourceCaret.h"
 #include "editor/SourceWrap.h"
+#include "editor/SpellingBar.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
@@ -89,6 +90,7 @@ void frmMain::ShowMode() {
     findBar_->SetTarget(component_->Search());
   else
     findBar_->SetTarget(sourceSearch_);
+  spellingBar_->hide();
   widths_->ShowBar();
   if (!IsInFront()) return;
   context_.mainWindow.commands.Refresh();
@@ -97,6 +99,11 @@ void frmMain::ShowMode() {
 
 FrontView frmMain::View() const {
   return views_->currentWidget() == source_->Widget() ? FrontView::SourceView : FrontView::Design;
+}
+
+PageSpelling *frmMain::SpellCheck() {
+  if (View() == FrontView::SourceView) return &sourceSpelling_;
+  return component_->SpellCheck();
 }
 
 QString frmMain::ShownName() const {

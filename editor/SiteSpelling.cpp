@@ -96,9 +96,9 @@ void FrmSiteSpelling::Build() {
   add("cmdChangeEverywhere", Words::tr("Change &Everywhere"), &FrmSiteSpelling::ChangeEverywhere)
       ->setDefault(true);
   add("cmdIgnore", Words::tr("&Ignore"),
-      [this] { TakeForKnown([](frmMain &page, const QString &word) { IgnoreWord(page, word); }); });
+      [this] { TakeForKnown([this](const QString &word) { IgnoreWord(context_, word); }); });
   add("cmdAddWord", Words::tr("&Add"), [this] {
-    TakeForKnown([](frmMain &page, const QString &word) { AddWord(page, word, WordHome::Person); });
+    TakeForKnown([this](const QString &word) { AddWord(context_, word, WordHome::Person); });
   });
   add("cmdClose", Words::tr("&Close"), &QDialog::accept);
   rows->addLayout(buttons);
@@ -141,10 +141,7 @@ template <typename Deed>
 void FrmSiteSpelling::TakeForKnown(Deed deed) {
   const SiteWord *chosen = Chosen();
   if (chosen == nullptr) return;
-  // Every page has the person's words.
-  frmMain *any = nullptr;
-  ForEachSpelling(context_, [&any](frmMain &page, PageSpelling &) { any = &page; });
-  if (any != nullptr) deed(*any, chosen->word.word);
+  deed(chosen->word.word);
   result_->clear();
   Drop();
 }

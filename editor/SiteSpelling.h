@@ -47,7 +47,7 @@ class FrmSiteSpelling final : public QDialog {
   const SiteWord *Chosen() const;
   void ShowSuggestions();
   void ChangeEverywhere();
-  /// Takes the chosen word for known by `deed`, which is given an open page.
+  /// Takes the chosen word for known by `deed`.
   template <typename Deed>
   void TakeForKnown(Deed deed);
   /// Removes the chosen row.

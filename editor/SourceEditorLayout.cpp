@@ -5,7 +5,9 @@
 #include "chrome/Palette.h"
 #include "chrome/ToolBarButtons.h"
 #include "editor/FindBar.h"
+#include "editor/PageWords.h"
 #include "editor/SourceWrap.h"
+#include "editor/SpellingBar.h"
 #include "editor/frmCodeEditor.h"
 #include "platform/Dialogs.h"
 #include "platform/Platform.h"
@@ -174,6 +176,7 @@ QWidget *frmCodeEditor::BuildMain() {
   QVBoxLayout *layout = Stack(sourceArea);
   layout->addWidget(code_->Widget(), 1);
   layout->addWidget(findBar_);
+  layout->addWidget(new SpellingBar(context_, *this, this));
 
   const auto onKey = [this](const QKeySequence &key, const std::function<void()> &act) {
     auto *shortcut = new QShortcut(key, this);
@@ -234,8 +237,15 @@ void frmCodeEditor::GoToLine() {
 }
 
 void frmCodeEditor::PopUpMenu(QPoint place) {
+  // What the menu is about: the word that was pressed, unless something around it is selected.
+  const TextStretch selected = code_->Selection();
+  const qsizetype pressed = code_->OffsetAt(place);
+  if (pressed < selected.start || pressed > selected.end) code_->Select({pressed, pressed});
   auto *menu = new QMenu(this);
+  menu->setObjectName(QStringLiteral("mnuSource"));
   menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addActions(WordActions(context_, *this, *menu));
+  if (!menu->isEmpty()) menu->addSeparator();
   for (const MenuEntry &entry : MenuEntries) {
     if (entry.caption == nullptr) {
       menu->addSeparator();

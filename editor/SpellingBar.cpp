@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/SpellingBar.h"
 
+#include "editor/EditorContext.h"
+#include "editor/FrontWindow.h"
 #include "editor/PageWords.h"
 #include "editor/SuggestionBox.h"
-#include "editor/frmMain.h"
 #include "platform/Platform.h"
 #include "platform/Words.h"
 
@@ -20,8 +21,10 @@ constexpr int BoxWidth = 220;
 
 }  // namespace
 
-SpellingBar::SpellingBar(frmMain &page)
-    : NoticeBar("picSpelling", "lblUnknownWord", Words::tr("Spelling"), &page), page_(page) {
+SpellingBar::SpellingBar(EditorContext &context, FrontWindow &window, QWidget *parent)
+    : NoticeBar("picSpelling", "lblUnknownWord", Words::tr("Spelling"), parent),
+      context_(context),
+      window_(window) {
   other_ = new SuggestionBox("cobSuggestions");
   other_->setMinimumWidth(BoxWidth);
   Add(*other_);
@@ -31,11 +34,13 @@ SpellingBar::SpellingBar(frmMain &page)
     connect(&button, &QPushButton::clicked, this, act);
     return &button;
   };
-  add("cmdChange", Words::tr("Change"), Words::tr("Change this word and go on (Enter)"),
-      &SpellingBar::Change);
-  add("cmdChangeAll", Words::tr("Change All"),
-      Words::tr("Change this word everywhere in the page, as one step of Undo"),
-      &SpellingBar::ChangeAll);
+  QWidget *change = add("cmdChange", Words::tr("Change"),
+                        Words::tr("Change this word and go on (Enter)"), &SpellingBar::Change);
+  QWidget *changeAll =
+      add("cmdChangeAll", Words::tr("Change All"),
+          Words::tr("Change this word everywhere in the page, as one step of Undo"),
+          &SpellingBar::ChangeAll);
+  correcting_ = {other_, change, changeAll};
   add("cmdIgnore", Words::tr("Ignore"),
       Words::tr("Take this word for known until the program ends"), &SpellingBar::Ignore);
   add("cmdAddWord", Words::tr("Add"), Words::tr("Add this word to my words"),
@@ -43,65 +48,65 @@ SpellingBar::SpellingBar(frmMain &page)
   addToSite_ =
       add("cmdAddToSite", Words::tr("Add to Site"),
           Words::tr("Add this word to the words of the site"), [this] { AddTo(WordHome::Site); });
-  add("cmdNextWord", Words::tr("Next"), Words::tr("Leave this word and go on (F7)"),
-      &SpellingBar::GoOn);
+  next_ = add("cmdNextWord", Words::tr("Next"), Words::tr("Leave this word and go on (F7)"),
+              &SpellingBar::GoOn);
   add("cmdCloseSpelling", Words::tr("Close"), Words::tr("Close (Escape)"), &SpellingBar::CloseBar);
 }
 
 void SpellingBar::GoOn() {
-  PageSpelling *spelling = SpellingOf(page_);
-  if (spelling == nullptr || page_.View() != FrontView::Design) {
-    page_.Context().mainWindow.status.Report(Words::tr("Spelling is checked in design view"));
-    return;
-  }
+  PageSpelling *spelling = SpellingOf(context_, window_);
+  if (spelling == nullptr) return;
   const QPointer<SpellingBar> alive(this);
   const auto found = spelling->SelectNext();
   if (alive.isNull()) return;
   if (found) return Show(*found);
-  page_.Context().mainWindow.status.Report(Words::tr("There is no unknown word in this page"));
+  context_.mainWindow.status.Report(Words::tr("There is no unknown word in this page"));
   if (!isHidden()) CloseBar();
 }
 
 void SpellingBar::Show(const UnknownWord &found) {
   shown_ = found;
   Tell(Words::tr("Unknown word: %1").arg(found.word));
-  other_->Offer(found, *page_.Context().platform.spelling);
-  addToSite_->setVisible(!SiteWordList(page_).isEmpty());
+  other_->Offer(found, *context_.platform.spelling);
+  addToSite_->setVisible(!SiteWordList(context_, window_.PageNumber()).isEmpty());
+  const bool canCorrect = SpellingOf(context_, window_)->CanCorrect();
+  for (QWidget *part : correcting_) part->setVisible(canCorrect);
+  if (!canCorrect) return next_->setFocus();
   other_->setFocus();
   other_->lineEdit()->selectAll();
 }
 
 void SpellingBar::Change() {
   const QPointer<SpellingBar> alive(this);
-  SpellingOf(page_)->Correct(other_->currentText());
+  SpellingOf(context_, window_)->Correct(other_->currentText());
   if (!alive.isNull()) GoOn();
 }
 
 void SpellingBar::ChangeAll() {
   if (!shown_) return;
   const QPointer<SpellingBar> alive(this);
-  const int count = SpellingOf(page_)->CorrectAll(shown_->word, other_->currentText());
+  const int count = SpellingOf(context_, window_)->CorrectAll(shown_->word, other_->currentText());
   if (alive.isNull()) return;
-  page_.Context().mainWindow.status.Report(WordsChanged(count));
+  context_.mainWindow.status.Report(WordsChanged(count));
   GoOn();
 }
 
 void SpellingBar::Ignore() {
   if (!shown_) return;
-  IgnoreWord(page_, shown_->word);
+  IgnoreWord(context_, shown_->word);
   GoOn();
 }
 
 void SpellingBar::AddTo(WordHome home) {
   if (!shown_) return;
-  AddWord(page_, shown_->word, home);
+  AddWord(context_, shown_->word, home, SiteWordList(context_, window_.PageNumber()));
   GoOn();
 }
 
 void SpellingBar::CloseBar() {
   shown_.reset();
   // First: see FindBar::CloseBar.
-  page_.DHTML1().SetFocus();
+  if (PageSpelling *spelling = SpellingOf(context_, window_)) spelling->SetFocus();
   hide();
 }
 
@@ -111,7 +116,7 @@ void SpellingBar::keyPressEvent(QKeyEvent *event) {
       return CloseBar();
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      return Change();
+      return other_->isVisible() ? Change() : GoOn();
     default:
       NoticeBar::keyPressEvent(event);
   }

@@ -5,25 +5,28 @@
 #include "platform/PageSpelling.h"
 #include "platform/Spelling.h"
 
+#include <QList>
+
 #include <optional>
 
 namespace velor {
 
+class FrontWindow;
 class SuggestionBox;
-class frmMain;
+struct EditorContext;
 
-/// The bar under a page that walks through its unknown words, from the selection on. The word is
-/// selected in the page; the box has what is to stand in its place. Enter changes it, Escape closes
-/// the bar and returns the keyboard to the page.
+/// The bar under a page or its source that walks through the unknown words there, from the
+/// selection on. The word is selected; the box has what is to stand in its place. Enter changes it,
+/// or goes on where words can be shown only; Escape closes the bar and returns the keyboard.
 class SpellingBar final : public NoticeBar {
   Q_OBJECT
 
  public:
-  /// Outlived by `page`, its parent. Hidden at first.
-  explicit SpellingBar(frmMain &page);
+  /// `window` has the words, and outlives the bar as `context` does. Hidden at first.
+  SpellingBar(EditorContext &context, FrontWindow &window, QWidget *parent);
 
-  /// Goes to the next unknown word, and shows the bar; where the page has none the bar closes, and
-  /// the status bar says so.
+  /// Goes to the next unknown word, and shows the bar; where there is none the bar closes, and the
+  /// status bar says so.
   void GoOn();
 
  protected:
@@ -37,10 +40,13 @@ class SpellingBar final : public NoticeBar {
   void AddTo(WordHome home);
   void CloseBar();
 
-  frmMain &page_;
+  EditorContext &context_;
+  FrontWindow &window_;
   std::optional<UnknownWord> shown_;
   SuggestionBox *other_ = nullptr;
+  QList<QWidget *> correcting_;  ///< what changes words
   QWidget *addToSite_ = nullptr;
+  QWidget *next_ = nullptr;
 };
 
 }  // namespace velor

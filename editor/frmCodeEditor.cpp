@@ -4,6 +4,7 @@
 #include "chrome/Icons.h"
 #include "editor/MainWindow.h"
 #include "editor/PageSlots.h"
+#include "editor/PageWords.h"
 #include "editor/SourceWrap.h"
 #include "editor/frmMain.h"
 #include "editor/modGeneral.h"
@@ -58,7 +59,10 @@ frmCodeEditor::frmCodeEditor(EditorContext &context, int number)
     : context_(context),
       number_(number),
       code_(context.platform.components.CreateSourceControl(this, SourceAccess::Edit)),
-      search_(*code_, SourceAccess::Edit) {
+      search_(*code_, SourceAccess::Edit),
+      spelling_(*code_, SourceAccess::Edit, [this](const QString &message) {
+        context_.mainWindow.status.ReportOn(number_, message);
+      }) {
   setObjectName(QStringLiteral("frmCodeEditor"));
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowIcon(IconFor(QStringLiteral("editcode")));
@@ -69,7 +73,10 @@ frmCodeEditor::frmCodeEditor(EditorContext &context, int number)
   code_->SetMarkedLine(0);
   code_->SetLineWrap(ChosenLineWrap(context_.platform.registry));
   code_->SetSelectionListener([this] { SelectionChanged(); });
-  code_->SetTextListener([this] { UpdateJournal(); });
+  code_->SetTextListener([this] {
+    UpdateJournal();
+    spelling_.TextChanged();
+  });
 }
 
 std::optional<QString> frmCodeEditor::UnappliedText() const {
@@ -105,12 +112,14 @@ void frmCodeEditor::SourceReplaced(const ElementStretch &caret) {
   ShowStretchIn(*code_, caret);
   filledCaret_ = CaretOf(*code_);
   SelectionChanged();
+  UseSpelling(context_, number_);
 }
 
 void frmCodeEditor::SelectionChanged() {
   const SourceCaret caret = CaretOf(*code_);
   code_->SetMarkedLine(caret.line);
   place_->setText(Words::tr("Line %1, Column %2").arg(caret.line + 1).arg(caret.column + 1));
+  spelling_.CaretMoved();
   const int length = code_->LineLength(caret.line);
   if (caret.column > length && code_->SelectedText().isEmpty()) code_->SetCaret(caret.line, length);
 }

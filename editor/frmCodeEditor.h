@@ -6,6 +6,7 @@
 #include "editor/FrontWindow.h"
 #include "editor/SourceCaret.h"
 #include "editor/SourceSearch.h"
+#include "editor/SourceSpelling.h"
 #include "platform/SourceControl.h"
 
 #include <QString>
@@ -89,6 +90,7 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   void OnActivated() override;
   /// The page, without source that is not applied to it.
   PagePrinting *Printing() override;
+  PageSpelling *SpellCheck() override { return &spelling_; }
 
   void MarkKill() override;
 
@@ -128,6 +130,7 @@ class frmCodeEditor : public QWidget, public ProgramWindow, public FrontWindow {
   const int number_;
   std::unique_ptr<SourceControl> code_;
   SourceSearch search_;
+  SourceSpelling spelling_;
   FindBar *findBar_ = nullptr;
   SourceCaret filledCaret_;  ///< the caret as Fill or Refill left it
   QLabel *place_ = nullptr;

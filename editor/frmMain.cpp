@@ -89,6 +89,8 @@ frmMain::frmMain(EditorContext &context, int number)
       component_(context.platform.components.CreateEditingComponent(this)),
       source_(context.platform.components.CreateSourceControl(this, SourceAccess::View)),
       sourceSearch_(*source_, SourceAccess::View),
+      sourceSpelling_(*source_, SourceAccess::View,
+                      [this](const QString &message) { ComponentReported(message); }),
       journal_(context.platform.journals, context.pages, context.mainWindow.status, *component_,
                number) {
   setObjectName(QStringLiteral("frmMain"));
@@ -121,7 +123,7 @@ frmMain::frmMain(EditorContext &context, int number)
   layout->addWidget(&pictures_->Bar());
   fitting_ = new PictureFitting(context_, *this);
   layout->addWidget(fitting_);
-  spellingBar_ = new SpellingBar(*this);
+  spellingBar_ = new SpellingBar(context_, *this, this);
   layout->addWidget(spellingBar_);
   setFocusProxy(component_->Widget());
 
@@ -133,6 +135,7 @@ frmMain::frmMain(EditorContext &context, int number)
   source_->SetColor(1, Grey);
   source_->SetColor(27, Grey);
   source_->SetColor(26, White);
+  source_->SetTextListener([this] { sourceSpelling_.TextChanged(); });
 
   component_->SetListener(this);
 }
@@ -265,7 +268,7 @@ void frmMain::closeEvent(QCloseEvent *event) {
 }
 
 void frmMain::DocumentComplete() {
-  UseSpelling(*this);
+  UseSpelling(context_, number_);
   // Waits for the page, which may be closed meanwhile.
   QTimer::singleShot(0, widths_, &PageWidths::Follow);
   if (IsInFront()) ShowState();

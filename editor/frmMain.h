@@ -8,6 +8,7 @@
 #include "editor/PageRecord.h"
 #include "editor/SourceCaret.h"
 #include "editor/SourceSearch.h"
+#include "editor/SourceSpelling.h"
 #include "editor/modWorkFlow.h"
 #include "platform/EditingCommands.h"
 #include "platform/EditingComponent.h"
@@ -58,6 +59,8 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   PageJournal &Journal() { return journal_; }
   OutsideChanges &Outside() { return *outside_; }
   SpellingBar &Spelling() { return *spellingBar_; }
+  /// The spelling of Code1.
+  PageSpelling &SourceWords() { return sourceSpelling_; }
   PictureFitting &Fitting() { return *fitting_; }
   /// Whoever puts a picture into the page asks this for its address.
   PagePictures &Pictures() { return *pictures_; }
@@ -96,6 +99,8 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   void Edit(EditingCommand command) override;
   void OnActivated() override;
   PagePrinting *Printing() override { return &component_->Printing(); }
+  /// Of the view that is shown.
+  PageSpelling *SpellCheck() override;
   double Zoom() const override;
   void SetZoom(double factor) override;
   bool ToggleWidths() override;
@@ -163,6 +168,7 @@ class frmMain : public QWidget, public ProgramWindow, public FrontWindow, privat
   std::unique_ptr<EditingComponent> component_;
   std::unique_ptr<SourceControl> source_;
   SourceSearch sourceSearch_;
+  SourceSpelling sourceSpelling_;
   PageJournal journal_;
   bool isReadOnlyTold_ = false;
   SourceCaret shownCaret_;  ///< the source view's caret as ViewHtml left it

@@ -5,7 +5,6 @@
 #include "engine/LiveDocument.h"
 #include "engine/NoticeQueue.h"
 #include "engine/PageLoader.h"
-#include "platform/Words.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -49,6 +48,10 @@ void WebSpelling::ShowWaves(bool on) {
   TurnWaves();
 }
 
+void WebSpelling::SetFocus() {
+  if (document_.View() != nullptr) document_.View()->SetFocus();
+}
+
 void WebSpelling::TurnWaves() {
   const bool on = areWavesOn_ && spelling_ != nullptr;
   if (options_.spelling == on) return;
@@ -80,11 +83,7 @@ void WebSpelling::AnswerPage(const QString &json) {
                             .arg(question[QStringLiteral("question")].toInt())
                             .arg(ScriptValue(answers)),
                         [](const QVariant &) {});
-  for (const QString &package : spelling_->PackagesToTell())
-    notices_.Report(
-        Words::tr("The spelling of a language of this page is not checked: the package %1 is not "
-                  "installed.")
-            .arg(package));
+  for (const QString &notice : MissingDictionaries(*spelling_)) notices_.Report(notice);
 }
 
 std::optional<WebSpelling::PageText> WebSpelling::ReadPage(Extent extent) {

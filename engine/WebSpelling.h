@@ -23,6 +23,8 @@ class WebSpelling final : public PageSpelling {
   void Use(Spelling *spelling, const QString &siteList) override;
   void ShowWaves(bool on) override;
   void CheckAgain() override;
+  void SetFocus() override;
+  bool CanCorrect() const override { return true; }
   std::optional<UnknownWord> AtCaret() override;
   std::optional<UnknownWord> SelectNext() override;
   std::vector<UnknownWord> All() override;

@@ -18,8 +18,8 @@ struct UnknownWord {
   bool operator==(const UnknownWord &) const = default;
 };
 
-/// The spelling of a page that is edited. Waves under unknown words are drawn over the page and are
-/// never in it; each correction is one step of the page's history.
+/// The spelling of a page in design view, or of a page's text in its source. Waves under unknown
+/// words are drawn over the page and are never in it; each correction is one undo step.
 class PageSpelling {
  public:
   virtual ~PageSpelling() = default;
@@ -30,6 +30,10 @@ class PageSpelling {
   virtual void ShowWaves(bool on) = 0;
   /// To be called when words were added or ignored.
   virtual void CheckAgain() = 0;
+
+  virtual void SetFocus() = 0;
+  /// False where words can be shown only: Correct and CorrectAll change nothing there.
+  virtual bool CanCorrect() const = 0;
 
   // These wait for the page, and answer nothing where it does not answer.
   /// The unknown word that is selected, or that the caret is in or at.

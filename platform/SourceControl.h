@@ -4,10 +4,12 @@
 #include "platform/EditingCommands.h"
 #include "platform/TextStretch.h"
 
+#include <QPoint>
 #include <QString>
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QWidget;
@@ -73,6 +75,18 @@ class SourceControl {
   virtual void ReplaceParts(const std::vector<TextReplacement> &parts) = 0;
   /// Marks stretches, in the order of the text, in place of those marked before.
   virtual void MarkStretches(const std::vector<TextStretch> &stretches) = 0;
+
+  /// Puts waves under stretches, in the order of the text, in place of those that are within
+  /// `range`. Waves go along with their words when text before them changes; what is deleted loses
+  /// them, also where Undo brings it back.
+  virtual void DrawWaves(const TextStretch &range, const std::vector<TextStretch> &stretches) = 0;
+  /// The stretch of Text outside of which nothing has changed since the last call; nothing where
+  /// nothing has changed at all.
+  virtual std::optional<TextStretch> TakeChange() = 0;
+  /// The stretch of Text whose lines are in sight.
+  virtual TextStretch InSight() const = 0;
+  /// The offset in Text of the place between two characters that is nearest to a point of Widget.
+  virtual qsizetype OffsetAt(QPoint point) const = 0;
 };
 
 }  // namespace velor

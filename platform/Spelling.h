@@ -64,4 +64,7 @@ class Spelling {
   virtual QStringList PackagesToTell() = 0;
 };
 
+/// What a person is to be told of languages that were met and have no dictionary, each once.
+QStringList MissingDictionaries(Spelling &spelling);
+
 }  // namespace velor

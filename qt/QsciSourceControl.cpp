@@ -114,6 +114,7 @@ QsciSourceControl::QsciSourceControl(QWidget *parent, SourceAccess access)
   Send(QsciScintilla::SCI_SETIDLESTYLING, QsciScintilla::SC_IDLESTYLING_ALL);
   IgnoreFileDrags(*editor_);
   IgnoreFileDrags(*editor_->viewport());
+  PrepareWaves();
   ApplyPalette();
   editor_->installEventFilter(this);
   connect(editor_, &QsciScintilla::linesChanged, this, &QsciSourceControl::FitLineNumbers);

@@ -49,6 +49,10 @@ class QsciSourceControl final : public QObject, public SourceControl {
   void Select(const TextStretch &stretch) override;
   void ReplaceParts(const std::vector<TextReplacement> &parts) override;
   void MarkStretches(const std::vector<TextStretch> &stretches) override;
+  void DrawWaves(const TextStretch &range, const std::vector<TextStretch> &stretches) override;
+  std::optional<TextStretch> TakeChange() override;
+  TextStretch InSight() const override;
+  qsizetype OffsetAt(QPoint point) const override;
 
   bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -57,6 +61,12 @@ class QsciSourceControl final : public QObject, public SourceControl {
   /// Positions in bytes: of a line's first character, and behind its last one, before the line end.
   long LineStart(int line) const;
   long LineEnd(int line) const;
+  /// Between positions in bytes and offsets in UTF-16 code units, by the control's index of lines.
+  long PositionOf(qsizetype offset) const;
+  qsizetype OffsetOf(long position) const;
+  void PrepareWaves();
+  /// Notes how many bytes at the text's start and at its end are as they were.
+  void NoteChange(int position, int kind, int length);
   /// Sets the colours of text, margins and marks from the palette.
   void ApplyPalette();
   /// Sets the colours of `colors_`, in the palette's lightness.
@@ -70,6 +80,10 @@ class QsciSourceControl final : public QObject, public SourceControl {
   std::function<void()> selectionListener_;
   std::function<void()> textListener_;
   int markedLine_ = -1;
+  // Since TakeChange.
+  bool hasChanged_ = false;
+  long bytesBeforeChange_ = 0;
+  long bytesBehindChange_ = 0;
   /// By slot; kept because a change of the palette restyles the whole control.
   std::map<int, std::int32_t> colors_;
 };

@@ -36,10 +36,8 @@ class BytePositions {
 }  // namespace
 
 TextStretch QsciSourceControl::Selection() const {
-  const auto offset = [this](unsigned int edge) {
-    return qsizetype(Send(QsciScintilla::SCI_COUNTCODEUNITS, 0, Send(edge)));
-  };
-  return {offset(QsciScintilla::SCI_GETSELECTIONSTART), offset(QsciScintilla::SCI_GETSELECTIONEND)};
+  return {OffsetOf(Send(QsciScintilla::SCI_GETSELECTIONSTART)),
+          OffsetOf(Send(QsciScintilla::SCI_GETSELECTIONEND))};
 }
 
 void QsciSourceControl::Select(const TextStretch &stretch) {

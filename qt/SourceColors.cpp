@@ -37,4 +37,8 @@ QColor SourceColor(SourceRole role, const QPalette &palette) {
   return palette.color(QPalette::Text);
 }
 
+QColor UnknownWordColor() {
+  return QColor::fromRgb(0xffe01b24);
+}
+
 }  // namespace velor

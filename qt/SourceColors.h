@@ -13,4 +13,8 @@ namespace velor {
 /// better.
 QColor SourceColor(SourceRole role, const QPalette &palette);
 
+/// The colour of waves under unknown words, the one that they have in design view
+/// (engine/bridge/spelling/waves.js). It is seen on light and dark backgrounds.
+QColor UnknownWordColor();
+
 }  // namespace velor

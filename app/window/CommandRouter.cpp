@@ -212,13 +212,13 @@ void CommandRouter::Run(const Command &command) {
       FindInFront(command.id);
       break;
     case CommandId::Spelling:
-      if (frmMain *page = ActiveDocument()) page->Spelling().GoOn();
+      if (auto *bar = BarInFront<SpellingBar>()) bar->GoOn();
       break;
     case CommandId::SpellingOfPages:
       ShowSiteSpelling(context_);
       break;
     case CommandId::WordAtCaret:
-      if (frmMain *page = ActiveDocument()) ShowWordMenu(*page);
+      if (FrontWindow *front = host_.Front()) ShowWordMenu(context_, *front);
       break;
     case CommandId::WrapSource:
       TurnLineWrap(context_);
@@ -397,9 +397,14 @@ void CommandRouter::PasteAs(const QString &form) {
     context_.mainWindow.status.Report(Words::tr("There is no page to put something into"));
 }
 
-void CommandRouter::FindInFront(CommandId step) {
+template <typename Bar>
+Bar *CommandRouter::BarInFront() {
   const auto *front = dynamic_cast<QWidget *>(host_.Front());
-  auto *bar = front == nullptr ? nullptr : front->findChild<FindBar *>();
+  return front == nullptr ? nullptr : front->findChild<Bar *>();
+}
+
+void CommandRouter::FindInFront(CommandId step) {
+  auto *bar = BarInFront<FindBar>();
   if (bar == nullptr) {
     context_.mainWindow.status.Report(Words::tr("There is no text to search"));
     return;

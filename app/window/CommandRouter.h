@@ -116,6 +116,9 @@ class CommandRouter {
   /// docs/bridge.md, pasteAs. In a source editor all of them paste the text.
   void PasteAs(const QString &form);
   /// Opens the find bar of the window in front, or goes on with its search.
+  /// The bar of that kind in the window in front; null where it has none.
+  template <typename Bar>
+  Bar *BarInFront();
   void FindInFront(CommandId step);
   void Insert(void (InsertCommands::*insertion)(frmMain &));
   void SetValue(EditingCommand query, EditingCommand set, const QString &value);

@@ -25,7 +25,7 @@ void MfrmProgram::PopUpContextMenu(QPoint screenPosition) {
   wordActions_.clear();
   auto *page = dynamic_cast<frmMain *>(Front());
   if (page != nullptr && additions_ == Additions::On) {
-    wordActions_ = WordActions(*page, *this);
+    wordActions_ = WordActions(context_, *page, *this);
     if (alive.isNull()) return;
   }
   if (!wordActions_.isEmpty()) {

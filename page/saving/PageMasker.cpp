@@ -3,6 +3,7 @@
 
 #include "page/text/HtmlElements.h"
 #include "page/text/HtmlTokens.h"
+#include "page/text/MarkupScan.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -26,17 +27,6 @@ constexpr std::uint32_t HeadElements[] = {
 /// UTF-16 code units; what goes on for longer inside a tag is no server tag.
 constexpr qsizetype LongestInnerTag = 2048;
 
-bool IsSpace(QChar codeUnit) {
-  return codeUnit == u' ' || codeUnit == u'\n' || codeUnit == u'\t' || codeUnit == u'\r' ||
-         codeUnit == u'\f';
-}
-
-/// The offset behind the next `close`; the text's end where there is none.
-qsizetype After(QStringView text, QStringView close, qsizetype from) {
-  const qsizetype found = text.indexOf(close, from);
-  return found < 0 ? text.size() : found + close.size();
-}
-
 }  // namespace
 
 void PageMasker::Run() {
@@ -53,22 +43,13 @@ void PageMasker::Run() {
 }
 
 bool PageMasker::IsSpaceAt(qsizetype at) const {
-  return at < source_.size() && IsSpace(source_[at]);
+  return at < source_.size() && IsMarkupSpace(source_[at]);
 }
 
 bool PageMasker::IsLetterAt(qsizetype at) const {
   if (at >= source_.size()) return false;
   const int code = source_[at].unicode() | 0x20;
   return code >= u'a' && code <= u'z';
-}
-
-qsizetype PageMasker::EndOfServerCode(qsizetype at) const {
-  const QStringView rest = source_.sliced(at);
-  if (rest.startsWith(u"<%")) return After(source_, u"%>", at + 2);
-  if (!rest.startsWith(u"<?")) return at;
-  const bool isCode = rest.startsWith(u"<?php", Qt::CaseInsensitive) || rest.size() < 3 ||
-                      rest[2] == u'=' || IsSpace(rest[2]);
-  return isCode ? After(source_, u"?>", at + 2) : at;
 }
 
 qsizetype PageMasker::EndOfServerTag() const {
@@ -80,7 +61,7 @@ qsizetype PageMasker::EndOfServerTag() const {
   if (!isServerTag) return at_;
   QChar quote;
   for (; at < source_.size(); ++at) {
-    if (const qsizetype end = EndOfServerCode(at); end > at) {
+    if (const qsizetype end = EndOfServerCode(source_, at); end > at) {
       at = end - 1;
       continue;
     }
@@ -111,23 +92,11 @@ bool PageMasker::IsQuoteAhead(qsizetype at, QChar quote) const {
   const qsizetype most = std::min(at + LongestInnerTag, source_.size());
   for (; at < most && source_[at] != quote; ++at) {
     if (source_[at] != u'<') continue;
-    const qsizetype end = std::max(EndOfServerCode(at), EndOfInnerServerTag(at));
+    const qsizetype end = std::max(EndOfServerCode(source_, at), EndOfInnerServerTag(at));
     if (end == at) return false;
     at = end - 1;
   }
   return at < most;
-}
-
-qsizetype PageMasker::EndOfComment() const {
-  if (source_.sliced(at_ + 4).startsWith(u">")) return at_ + 5;
-  if (source_.sliced(at_ + 4).startsWith(u"->")) return at_ + 6;
-  for (qsizetype at = source_.indexOf(u"--", at_ + 4); at >= 0;
-       at = source_.indexOf(u"--", at + 1)) {
-    const QStringView rest = source_.sliced(at + 2);
-    if (rest.startsWith(u">")) return at + 3;
-    if (rest.startsWith(u"!>")) return at + 4;
-  }
-  return source_.size();
 }
 
 void PageMasker::Hide(qsizetype end, PageMask::Kind kind) {
@@ -174,7 +143,7 @@ qsizetype PageMasker::LastFrameTag() const {
 }
 
 void PageMasker::AccountForText(qsizetype end) {
-  if (end == at_ || std::all_of(source_.begin() + at_, source_.begin() + end, IsSpace)) {
+  if (end == at_ || std::all_of(source_.begin() + at_, source_.begin() + end, IsMarkupSpace)) {
     if (isBehindEnd_ && end > at_)
       tail_.push_back({at_, end - at_, 0, 0, PageMask::Kind::LeftOut, {}});
     return;
@@ -196,17 +165,17 @@ void PageMasker::LeaveOutTail() {
 }
 
 void PageMasker::ReadMarkup() {
-  if (const qsizetype end = EndOfServerCode(at_); end > at_)
+  if (const qsizetype end = EndOfServerCode(source_, at_); end > at_)
     return Hide(end, PageMask::Kind::Content);
   const QChar next = at_ + 1 < source_.size() ? source_[at_ + 1] : QChar();
   if (source_.sliced(at_).startsWith(u"<!--")) {
-    at_ = EndOfComment();
+    at_ = EndOfComment(source_, at_);
   } else if (const qsizetype tagEnd = EndOfServerTag(); tagEnd > at_ && IsNoPlaceForText()) {
     Hide(tagEnd, PageMask::Kind::Content);
   } else if (IsLetterAt(at_ + 1) || (next == u'/' && IsLetterAt(at_ + 2))) {
     ReadTag();
   } else if (next == u'!' || next == u'/' || next == u'?') {
-    at_ = After(source_, u">", at_);
+    at_ = BehindNext(source_, u">", at_);
   } else if (const qsizetype end = signs_.EndOf(at_, SignPlace::BetweenTags);
              end > at_ && IsNoPlaceForText()) {
     Hide(end, PageMask::Kind::Content);
@@ -232,7 +201,7 @@ void PageMasker::ReadTag() {
   const bool isEndTag = source_[start + 1] == u'/';
   const qsizetype nameStart = isEndTag ? start + 2 : start + 1;
   qsizetype nameEnd = nameStart;
-  while (nameEnd < source_.size() && !IsSpace(source_[nameEnd]) && source_[nameEnd] != u'>' &&
+  while (nameEnd < source_.size() && !IsMarkupSpace(source_[nameEnd]) && source_[nameEnd] != u'>' &&
          source_[nameEnd] != u'/' && source_[nameEnd] != u'<' && !IsControlSignAt(nameEnd))
     ++nameEnd;
   const QStringView name = source_.sliced(nameStart, nameEnd - nameStart);
@@ -258,7 +227,8 @@ void PageMasker::AccountForTag(QStringView name, bool isEndTag) {
     places_.StartTag(key);
   const bool isPagesEnd = isEndTag && (key == elements::Body || key == elements::Html);
   if (isPagesEnd || (!isEndTag && !IsOneOf(key, HeadElements))) isBeforeBody_ = false;
-  const bool isWhole = at_ < source_.size() && (IsSpace(source_[at_]) || source_[at_] == u'>');
+  const bool isWhole =
+      at_ < source_.size() && (IsMarkupSpace(source_[at_]) || source_[at_] == u'>');
   if (isPagesEnd && isWhole)
     isBehindEnd_ = true;
   else
@@ -281,7 +251,7 @@ void PageMasker::ReadAttributes(QStringView name) {
       while (IsSpaceAt(at_)) ++at_;
       if (at_ < source_.size() && (source_[at_] == u'"' || source_[at_] == u'\''))
         tag.quote = source_[at_++];
-    } else if (IsSpace(codeUnit)) {
+    } else if (IsMarkupSpace(codeUnit)) {
       tag.isValue = false;
       if (isTemplate) HideShadowRoot();
     }
@@ -290,14 +260,14 @@ void PageMasker::ReadAttributes(QStringView name) {
 
 bool PageMasker::HideInTag(const TagState &tag) {
   const bool isInValue = tag.isValue || !tag.quote.isNull();
-  qsizetype end = source_[at_] == u'<' ? EndOfServerCode(at_) : at_;
-  if (source_.sliced(at_).startsWith(u"<!--#")) end = After(source_, u"-->", at_);
+  qsizetype end = source_[at_] == u'<' ? EndOfServerCode(source_, at_) : at_;
+  if (source_.sliced(at_).startsWith(u"<!--#")) end = BehindNext(source_, u"-->", at_);
   const bool isCode = end > at_;
   if (!isCode) end = EndOfSignInTag(tag);
   if (end == at_) return false;
   // A sign within an attribute's name stays one name with what stands before it.
   const QChar before = source_[at_ - 1];
-  const bool isJoined = !isCode && at_ > tag.nameEnd && !IsSpace(before) && before != u'"' &&
+  const bool isJoined = !isCode && at_ > tag.nameEnd && !IsMarkupSpace(before) && before != u'"' &&
                         before != u'\'' && before != u'/';
   Hide(end, isInValue  ? PageMask::Kind::InTag
             : isJoined ? PageMask::Kind::NamePart
@@ -315,7 +285,7 @@ qsizetype PageMasker::EndOfSignInTag(const TagState &tag) {
   }
   if (!tag.isValue) return end;
   const bool endsValue = std::any_of(sign.begin(), sign.end(), [](QChar codeUnit) {
-    return IsSpace(codeUnit) || codeUnit == u'>';
+    return IsMarkupSpace(codeUnit) || codeUnit == u'>';
   });
   return endsValue ? end : at_;
 }
@@ -325,7 +295,7 @@ bool PageMasker::HideShadowRoot() {
     const QStringView rest = source_.sliced(at_);
     if (!rest.startsWith(name, Qt::CaseInsensitive)) continue;
     const QChar next = rest.size() > name.size() ? rest[name.size()] : QChar(u' ');
-    if (!IsSpace(next) && next != u'=' && next != u'>' && next != u'/') continue;
+    if (!IsMarkupSpace(next) && next != u'=' && next != u'>' && next != u'/') continue;
     Hide(at_ + name.size(), PageMask::Kind::InTag);
     return true;
   }
@@ -338,7 +308,7 @@ bool PageMasker::HideNoscript(qsizetype start, std::size_t firstPiece) {
   if (noscriptClose_ >= source_.size()) return false;
   mask_.pieces_.resize(firstPiece);
   at_ = start;
-  Hide(After(source_, u">", noscriptClose_), PageMask::Kind::Content);
+  Hide(BehindNext(source_, u">", noscriptClose_), PageMask::Kind::Content);
   return true;
 }
 
@@ -347,7 +317,7 @@ qsizetype PageMasker::EndTagFrom(QStringView name, qsizetype from) const {
     if (!source_.sliced(at + 2).startsWith(name, Qt::CaseInsensitive)) continue;
     const qsizetype end = at + 2 + name.size();
     if (end >= source_.size()) break;
-    if (IsSpace(source_[end]) || source_[end] == u'>' || source_[end] == u'/') return at;
+    if (IsMarkupSpace(source_[end]) || source_[end] == u'>' || source_[end] == u'/') return at;
   }
   return source_.size();
 }
@@ -358,7 +328,7 @@ void PageMasker::ReadRawText(QStringView name) {
     qsizetype code = source_.indexOf(u'<', at_);
     qsizetype codeEnd = code;
     while (code >= 0 && code < close) {
-      codeEnd = EndOfServerCode(code);
+      codeEnd = EndOfServerCode(source_, code);
       if (codeEnd > close) break;
       code = source_.indexOf(u'<', std::max(codeEnd, code + 1));
     }

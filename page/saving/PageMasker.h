@@ -28,8 +28,6 @@ class PageMasker {
     bool isValue = false;  ///< behind an "="
   };
 
-  /// The offset behind the server code that begins at `at`; `at` itself where none does.
-  qsizetype EndOfServerCode(qsizetype at) const;
   /// The offset behind the tag of a server's library (`<c:forEach ...>`, `</s:if>`) that begins at
   /// `at_`; `at_` itself where none does.
   qsizetype EndOfServerTag() const;
@@ -37,8 +35,6 @@ class PageMasker {
   qsizetype EndOfInnerServerTag(qsizetype at) const;
   /// Whether a value in that quote ends as values do: the quote comes before any other tag.
   bool IsQuoteAhead(qsizetype at, QChar quote) const;
-  /// The offset behind the comment that begins at `at_`.
-  qsizetype EndOfComment() const;
   bool IsSpaceAt(qsizetype at) const;
   bool IsLetterAt(qsizetype at) const;
 

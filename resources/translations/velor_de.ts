@@ -3493,10 +3493,6 @@ Ja: den Ordner hier nennen, der für Laufwerk %3: steht. Nein: trotzdem %2 schre
         <translation>Dieses Wort lassen und weitergehen (F7)</translation>
     </message>
     <message>
-        <source>Spelling is checked in design view</source>
-        <translation>Die Rechtschreibung wird in der Entwurfsansicht geprüft</translation>
-    </message>
-    <message>
         <source>There is no unknown word in this page</source>
         <translation>In dieser Seite ist kein unbekanntes Wort</translation>
     </message>

@@ -3482,10 +3482,6 @@ Yes: name the folder here that stands for drive %3:. No: write %2 all the same.<
         <translation>保留此字詞並繼續 (F7)</translation>
     </message>
     <message>
-        <source>Spelling is checked in design view</source>
-        <translation>拼字檢查用於設計檢視</translation>
-    </message>
-    <message>
         <source>There is no unknown word in this page</source>
         <translation>此網頁沒有未知字詞</translation>
     </message>

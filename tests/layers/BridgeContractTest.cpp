@@ -146,6 +146,46 @@ TEST(BridgeContract, TheSlotsAreTheSameInProgramScriptsAndDocument) {
   EXPECT_THAT(CallsUnder("Page to program", documented), ContainerEq(slots));
 }
 
+/// The names of elements in a piece of a script or a source, in small letters.
+Names ElementsIn(const std::string &piece) {
+  static const std::regex word(R"(\b([A-Za-z][A-Za-z0-9]*)\b)");
+  Names names;
+  for (const std::string &each : Matches(piece, word)) {
+    std::string name;
+    for (const char letter : each) name += static_cast<char>(std::tolower(letter));
+    names.insert(name);
+  }
+  return names;
+}
+
+TEST(BridgeContract, SourceAndDesignViewTakeTheSameElementsForBlocksObjectsAndCode) {
+  const std::string dom = TextOf("engine/bridge/page/dom.js");
+  const std::string source = TextOf("page/source/SourceText.cpp");
+  const auto inScript = [&dom](const std::string &name) {
+    return ElementsIn(Between(dom, "const " + name + " = set(", ");"));
+  };
+  const auto inSource = [&source](const std::string &name) {
+    static const std::regex literal(R"r(u"([^"]*)")r");
+    Names names;
+    for (const std::string &part :
+         Matches(Between(source, "const NameSet " + name + "(", ");"), literal))
+      names.merge(ElementsIn(part));
+    return names;
+  };
+  EXPECT_GT(inScript("blocks").size(), 40U);
+  EXPECT_THAT(inSource("Blocks"), ContainerEq(inScript("blocks")));
+  Names atoms = inScript("atoms");
+  atoms.insert("svg");
+  EXPECT_GT(atoms.size(), 15U);
+  EXPECT_THAT(inSource("Atoms"), ContainerEq(atoms));
+  EXPECT_GT(inScript("unseen").size(), 10U);
+  EXPECT_THAT(inSource("Unseen"), ContainerEq(inScript("unseen")));
+  Names code = ElementsIn(Between(TextOf("engine/bridge/spelling/spelledLines.js"),
+                                  "const noLanguage = '", ", [spellcheck"));
+  EXPECT_GT(code.size(), 5U);
+  EXPECT_THAT(inSource("NoLanguage"), ContainerEq(code));
+}
+
 TEST(BridgeContract, TheGlobalNamesAreThoseThatTheDocumentAndTheProgramName) {
   static const std::regex name(R"(\n  (?:get |set )?(\w+)[,:(])");
   const Names names =

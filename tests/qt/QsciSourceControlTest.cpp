@@ -355,4 +355,65 @@ TEST(QsciSourceControlTest, ANewLineGetsTheLineEndOfTheText) {
   }
 }
 
+/// What has waves, in the control's bytes.
+std::vector<QByteArray> Waved(QsciSourceControl &source) {
+  constexpr unsigned long Indicator = QsciScintilla::INDIC_CONTAINER + 3;
+  const QByteArray bytes = source.Text().toUtf8();
+  std::vector<QByteArray> waved;
+  for (long at = 0; at < bytes.size();) {
+    const long end =
+        EditorOf(source)->SendScintilla(QsciScintilla::SCI_INDICATOREND, Indicator, at);
+    if (EditorOf(source)->SendScintilla(QsciScintilla::SCI_INDICATORVALUEAT, Indicator, at) != 0)
+      waved.push_back(bytes.mid(at, end - at));
+    if (end <= at) break;
+    at = end;
+  }
+  return waved;
+}
+
+TEST(QsciSourceControlTest, WavesLieUnderTheirWordsAndGoAlongWithThem) {
+  QWidget host;
+  QsciSourceControl source(&host, SourceAccess::Edit);
+  source.SetText(QStringLiteral("\u00e4 \U0001F600 one\r\ntw\u00f6 three"));
+  source.DrawWaves({0, 19}, {{5, 8}, {10, 13}});
+  EXPECT_EQ(Waved(source), (std::vector<QByteArray>{"one", "tw\xC3\xB6"}));
+  source.ReplaceParts({{{0, 1}, QStringLiteral("longer")}});
+  EXPECT_EQ(Waved(source), (std::vector<QByteArray>{"one", "tw\xC3\xB6"}));
+  source.DrawWaves({15, 24}, {{19, 24}});
+  EXPECT_EQ(Waved(source), (std::vector<QByteArray>{"one", "three"}));
+  source.MarkStretches({{0, 24}});
+  source.MarkStretches({});
+  EXPECT_EQ(Waved(source).size(), 2U) << "found places have marks of their own";
+}
+
+TEST(QsciSourceControlTest, WhatIsInSightAndAtAPointIsToldInOffsets) {
+  QWidget host;
+  host.resize(400, 300);
+  QsciSourceControl source(&host, SourceAccess::View);
+  source.Widget()->resize(400, 300);
+  host.show();
+  const QString line = QStringLiteral("\u00e4 \U0001F600 one\r\n");
+  source.SetText(line.repeated(1'000));
+  source.SetCaret(500, 0);
+  source.CenterCaret();
+  const TextStretch sight = source.InSight();
+  EXPECT_LT(sight.start, 500 * line.size());
+  EXPECT_GT(sight.start, 400 * line.size());
+  EXPECT_GT(sight.end, 500 * line.size());
+  EXPECT_LT(sight.end, 600 * line.size());
+  source.SetCaret(500, 6);
+  const QPoint caret = source.Widget()->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+  EXPECT_EQ(source.OffsetAt(caret), 500 * line.size() + 6);
+}
+
+TEST(QsciSourceControlTest, WhatUndoBringsBackIsAChange) {
+  QWidget host;
+  QsciSourceControl source(&host, SourceAccess::Edit);
+  source.SetText(QStringLiteral("one two three"));
+  source.ReplaceParts({{{4, 7}, {}}});
+  source.TakeChange();
+  source.Edit(EditingCommand::Undo);
+  EXPECT_EQ(source.TakeChange(), (TextStretch{4, 7}));
+}
+
 }  // namespace velor

@@ -66,6 +66,24 @@ TEST_P(SourceControlContract, EveryChangeOfTheTextIsToldAndNothingElse) {
   EXPECT_TRUE(tells([&] { source->ReplaceParts({{{0, 1}, QStringLiteral("three")}}); }));
   EXPECT_FALSE(tells([&] { source->ReplaceParts({}); }));
   EXPECT_FALSE(tells([&] { source->MarkStretches({{0, 1}}); }));
+  EXPECT_FALSE(tells([&] { source->DrawWaves({0, 3}, {{0, 1}}); }));
+}
+
+TEST_P(SourceControlContract, TheStretchOfAllChangesIsTakenOnce) {
+  const auto source = Make();
+  source->SetText(QStringLiteral("\u00e4 \U0001F600 one\r\ntwo three"));
+  EXPECT_EQ(source->TakeChange(), (TextStretch{0, 19}));
+  EXPECT_EQ(source->TakeChange(), std::nullopt);
+  source->ReplaceParts({{{5, 8}, QStringLiteral("\u00e4")}});
+  EXPECT_EQ(source->TakeChange(), (TextStretch{5, 6}));
+  source->ReplaceParts({{{2, 4}, QStringLiteral("x")}, {{8, 11}, QString()}});
+  const auto both = source->TakeChange();
+  EXPECT_EQ(both, (TextStretch{2, 7}));
+  source->SetCaret(0, 0);
+  source->DrawWaves({0, 3}, {{0, 1}});
+  EXPECT_EQ(source->TakeChange(), std::nullopt);
+  source->ReplaceText(QStringLiteral("other"));
+  EXPECT_EQ(source->TakeChange(), (TextStretch{0, 5}));
 }
 
 TEST_P(SourceControlContract, TheCaretStartsAtTheBeginningAndGoesWhereItIsPut) {

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <utility>
 
 namespace velor {
 
@@ -23,10 +24,11 @@ void FakeSourceControl::SetFocus() {
 
 void FakeSourceControl::SetText(const QString &newText) {
   Note(log_, QStringLiteral("Source.SetText()"));
+  const qsizetype before = text.size();
   text = newText;
   undoable.clear();
   selectionStart = selectionEnd = 0;
-  TextChanged();
+  TextChanged({0, text.size()}, before);
 }
 
 void FakeSourceControl::ReplaceText(const QString &newText) {
@@ -34,7 +36,7 @@ void FakeSourceControl::ReplaceText(const QString &newText) {
   undoable << text;
   text = newText;
   selectionStart = selectionEnd = 0;
-  TextChanged();
+  TextChanged({0, text.size()}, undoable.last().size());
 }
 
 QString FakeSourceControl::SelectedText() const {
@@ -43,9 +45,11 @@ QString FakeSourceControl::SelectedText() const {
 
 void FakeSourceControl::ReplaceSelection(const QString &replacement) {
   if (access == SourceAccess::View) return;
-  text.replace(selectionStart, selectionEnd - selectionStart, replacement);
-  selectionStart = selectionEnd = selectionStart + replacement.size();
-  TextChanged();
+  const qsizetype removed = selectionEnd - selectionStart;
+  text.replace(selectionStart, removed, replacement);
+  const qsizetype start = selectionStart;
+  selectionStart = selectionEnd = start + replacement.size();
+  TextChanged({start, selectionEnd}, removed);
 }
 
 void FakeSourceControl::Edit(EditingCommand command) {
@@ -90,9 +94,43 @@ void FakeSourceControl::Select(const TextStretch &stretch) {
 
 void FakeSourceControl::ReplaceParts(const std::vector<TextReplacement> &parts) {
   if (access == SourceAccess::View || parts.empty()) return;
-  for (auto part = parts.rbegin(); part != parts.rend(); ++part)
-    text.replace(part->place.start, part->place.end - part->place.start, part->text);
-  TextChanged();
+  undoable << text;
+  for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
+    const qsizetype removed = part->place.end - part->place.start;
+    text.replace(part->place.start, removed, part->text);
+    TextChanged({part->place.start, part->place.start + part->text.size()}, removed);
+  }
+}
+
+void FakeSourceControl::DrawWaves(const TextStretch &range,
+                                  const std::vector<TextStretch> &stretches) {
+  std::erase_if(waves, [&range](const TextStretch &wave) {
+    return wave.start < range.end && wave.end > range.start;
+  });
+  waves.insert(waves.end(), stretches.begin(), stretches.end());
+  std::ranges::sort(waves, {}, &TextStretch::start);
+}
+
+std::optional<TextStretch> FakeSourceControl::TakeChange() {
+  return std::exchange(change_, std::nullopt);
+}
+
+void FakeSourceControl::TextChanged(const TextStretch &changed, qsizetype removed) {
+  const qsizetype removedEnd = changed.start + removed;
+  const qsizetype moved = changed.end - removedEnd;
+  std::erase_if(waves, [&](const TextStretch &wave) {
+    return wave.start < removedEnd && wave.end > changed.start;
+  });
+  for (TextStretch &wave : waves) {
+    if (wave.start >= removedEnd) wave = {wave.start + moved, wave.end + moved};
+  }
+  if (!change_) {
+    change_ = changed;
+  } else {
+    const qsizetype end = change_->end >= removedEnd ? change_->end + moved : changed.end;
+    change_ = {std::min(change_->start, changed.start), std::max(end, changed.end)};
+  }
+  if (textListener) textListener();
 }
 
 }  // namespace velor

@@ -33,6 +33,9 @@ class FakeSourceControl final : public SourceControl {
   std::function<void()> textListener;
   int markedLine = -1;
   std::vector<TextStretch> marked;
+  std::vector<TextStretch> waves;      ///< in the order of the text
+  std::optional<TextStretch> inSight;  ///< all of the text where it is not set
+  qsizetype offsetAtPoint = 0;
   LineWrap wrap = LineWrap::Off;
   /// Reported as the caret's column in place of the real one.
   std::optional<int> strayColumn;
@@ -64,13 +67,17 @@ class FakeSourceControl final : public SourceControl {
   void Select(const TextStretch &stretch) override;
   void ReplaceParts(const std::vector<TextReplacement> &parts) override;
   void MarkStretches(const std::vector<TextStretch> &stretches) override { marked = stretches; }
+  void DrawWaves(const TextStretch &range, const std::vector<TextStretch> &stretches) override;
+  std::optional<TextStretch> TakeChange() override;
+  TextStretch InSight() const override { return inSight.value_or(TextStretch{0, text.size()}); }
+  qsizetype OffsetAt(QPoint) const override { return offsetAtPoint; }
 
  private:
-  void TextChanged() const {
-    if (textListener) textListener();
-  }
+  /// `changed` is what was put in, and `removed` how many code units it replaced.
+  void TextChanged(const TextStretch &changed, qsizetype removed);
 
   CallLog *log_;
+  std::optional<TextStretch> change_;
   QPointer<QWidget> widget_;
 };
 

@@ -3,19 +3,12 @@
 #include "app/settings/modSettingManager.h"
 #include "editor/PageSlots.h"
 #include "editor/PageWords.h"
-#include "editor/SpellingBar.h"
 #include "editor/frmMain.h"
-#include "platform/Paths.h"
-#include "spelling/HunspellSpelling.h"
-#include "tests/app/window/RealWindowFixture.h"
+#include "tests/app/window/RealSpellingFixture.h"
 #include "tests/engine/ComponentFixture.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
 #include <QTreeWidget>
@@ -28,18 +21,8 @@ const QByteArray Words =
     "<HTML lang=en><BODY>\r\n<p id=a>the hose in\r\n  the gardn\r\n<P align=left>ho<B>s</B>e"
     "<!-- hose --> <CODE>xyzzy</CODE>\r\n<p lang=de>Haus hose\r\n</BODY></HTML>\r\n";
 
-class RealSpelling : public RealWindow {
+class DesignSpelling : public RealSpelling {
  protected:
-  RealSpelling() {
-    Write(QStringLiteral("en_US.aff"), "SET UTF-8\nTRY esianrtolcdugmphbyfvkwz'\n");
-    Write(QStringLiteral("en_US.dic"), "5\nhouse\ngarden\nthe\nin\nand\n");
-    Write(QStringLiteral("de_DE.aff"), "SET UTF-8\n");
-    Write(QStringLiteral("de_DE.dic"), "2\nHaus\nHose\n");
-    spelling = std::make_unique<HunspellSpelling>(
-        files, SpellingPlaces{{folder.FilePath(QString())}, Logic(QStringLiteral("words.txt"))},
-        [] { return QStringLiteral("en"); });
-    platform.spelling = spelling.get();
-  }
   static int Waves(frmMain &page) {
     return Evaluate(EngineOf(page), QStringLiteral("getComputedStyle(document.head, '::before')"
                                                    ".backgroundImage.split('data:image').length"))
@@ -49,52 +32,22 @@ class RealSpelling : public RealWindow {
   static bool WavesCome(frmMain &page, int count) {
     return WaitFor([&] { return Waves(page) == count; });
   }
-  /// Walks through the page by F7 until the bar tells of the word.
-  bool GoesTo(frmMain &page, const char *word) {
-    auto *text = page.Spelling().findChild<QLabel *>(QStringLiteral("lblUnknownWord"));
-    return WaitFor([&] {
-      return page.Spelling().isVisible() &&
-             text->text() == QStringLiteral("Unknown word: ") + QString::fromLatin1(word);
-    });
-  }
-  static void Press(frmMain &page, const char *button) {
-    page.Spelling().findChild<QPushButton *>(QString::fromLatin1(button))->click();
-  }
-  static QComboBox &Other(frmMain &page) {
-    return *page.Spelling().findChild<QComboBox *>(QStringLiteral("cobSuggestions"));
-  }
-  static QStringList Captions(const QList<QAction *> &actions) {
-    QStringList captions;
-    for (const QAction *action : actions) captions << action->text();
-    return captions;
-  }
   /// The menu at the page's first unknown word.
   static QMenu &WordMenu(frmMain &page) {
     Evaluate(EngineOf(page), QStringLiteral("getSelection().collapse(a.firstChild, 6)"));
     Key(page, Qt::Key_Period, Qt::ControlModifier);
-    QMenu *menu = nullptr;
-    EXPECT_TRUE(WaitFor([&] {
-      menu = page.findChild<QMenu *>(QStringLiteral("mnuWord"));
-      return menu != nullptr && menu->isVisible();
-    }));
-    return *menu;
+    return *ShownMenu(page, "mnuWord");
   }
-  std::string Saved() {
-    Choose("mnuSave");
-    return Bytes(QStringLiteral("words.htm")).toStdString();
-  }
-
-  std::unique_ptr<HunspellSpelling> spelling;
 };
 
-TEST_F(RealSpelling, UnknownWordsHaveWavesAndTheFileStaysAsItIs) {
+TEST_F(DesignSpelling, UnknownWordsHaveWavesAndTheFileStaysAsItIs) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   EXPECT_TRUE(WaitFor([&] { return Waves(page) >= 6; }))
       << "hose, gardn, ho-s-e, and hose, which is no German noun";
   EXPECT_EQ(Saved(), Words.toStdString());
 }
 
-TEST_F(RealSpelling, WithoutThePreferenceThereAreNoWaves) {
+TEST_F(DesignSpelling, WithoutThePreferenceThereAreNoWaves) {
   modSettingManager::SetOption(registry, QStringLiteral("CheckSpelling"), QStringLiteral("False"));
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   Key(page, Qt::Key_F7);
@@ -103,7 +56,7 @@ TEST_F(RealSpelling, WithoutThePreferenceThereAreNoWaves) {
   modSettingManager::SetOption(registry, QStringLiteral("CheckSpelling"), QStringLiteral("True"));
 }
 
-TEST_F(RealSpelling, F7WalksThroughThePageAndChangesItsBytesOnly) {
+TEST_F(DesignSpelling, F7WalksThroughThePageAndChangesItsBytesOnly) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   Key(page, Qt::Key_F7);
   ASSERT_TRUE(GoesTo(page, "hose"));
@@ -130,7 +83,7 @@ TEST_F(RealSpelling, F7WalksThroughThePageAndChangesItsBytesOnly) {
   EXPECT_EQ(Saved(), Words.toStdString());
 }
 
-TEST_F(RealSpelling, EscapeLeavesTheKeyboardOnTheWord) {
+TEST_F(DesignSpelling, EscapeLeavesTheKeyboardOnTheWord) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   Key(page, Qt::Key_F7);
   ASSERT_TRUE(GoesTo(page, "hose"));
@@ -141,7 +94,7 @@ TEST_F(RealSpelling, EscapeLeavesTheKeyboardOnTheWord) {
   EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("the and in")); })) << Seen(page);
 }
 
-TEST_F(RealSpelling, TheMenuAtTheWordCorrectsIt) {
+TEST_F(DesignSpelling, TheMenuAtTheWordCorrectsIt) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   QMenu &menu = WordMenu(page);
   const QStringList captions = Captions(menu.actions());
@@ -153,7 +106,7 @@ TEST_F(RealSpelling, TheMenuAtTheWordCorrectsIt) {
   EXPECT_EQ(Saved(), QByteArray(Words).replace("the hose", "the house").toStdString());
 }
 
-TEST_F(RealSpelling, TheContextMenuBeginsWithTheWordOnlyWhereThatIsUnknown) {
+TEST_F(DesignSpelling, TheContextMenuBeginsWithTheWordOnlyWhereThatIsUnknown) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   auto *menu = Find<QMenu>("mnuExt");
   const QStringList published = Captions(menu->actions());
@@ -169,7 +122,7 @@ TEST_F(RealSpelling, TheContextMenuBeginsWithTheWordOnlyWhereThatIsUnknown) {
   menu->close();
 }
 
-TEST_F(RealSpelling, ARightClickOnAWordIsAboutThatWord) {
+TEST_F(DesignSpelling, ARightClickOnAWordIsAboutThatWord) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   const QRect word = [&] {
     const QVariantList box =
@@ -188,7 +141,7 @@ TEST_F(RealSpelling, ARightClickOnAWordIsAboutThatWord) {
   menu->close();
 }
 
-TEST_F(RealSpelling, AnAddedWordIsInThePersonsFileAndItsWavesGo) {
+TEST_F(DesignSpelling, AnAddedWordIsInThePersonsFileAndItsWavesGo) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   ASSERT_TRUE(WaitFor([&] { return Waves(page) >= 6; }));
   Key(page, Qt::Key_F7);
@@ -199,10 +152,10 @@ TEST_F(RealSpelling, AnAddedWordIsInThePersonsFileAndItsWavesGo) {
   EXPECT_EQ(Bytes(QStringLiteral("words.txt")).toStdString(), "hose\n");
 }
 
-TEST_F(RealSpelling, AWordOfTheSiteIsAddedToAFileBesideTheProject) {
+TEST_F(DesignSpelling, AWordOfTheSiteIsAddedToAFileBesideTheProject) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   window.Context().pages.Site(page.Number()) = Logic(QStringLiteral("site"));
-  UseSpelling(page);
+  UseSpelling(window.Context(), page.Number());
   QMenu &menu = WordMenu(page);
   const qsizetype place =
       Captions(menu.actions()).indexOf(QStringLiteral("Add \"hose\" to the Words of the Site"));
@@ -214,7 +167,7 @@ TEST_F(RealSpelling, AWordOfTheSiteIsAddedToAFileBesideTheProject) {
   EXPECT_FALSE(Exists(QStringLiteral("words.txt")));
 }
 
-TEST_F(RealSpelling, AMissingDictionaryIsToldOnceByItsPackage) {
+TEST_F(DesignSpelling, AMissingDictionaryIsToldOnceByItsPackage) {
   const QByteArray french = "<p lang=en>hose<p lang=fr>bonjour\n";
   const auto &status = *Find<QStatusBar>("Sta");
   const auto isTold = [&] { return status.currentMessage().contains(u"hunspell-fr "); };
@@ -225,7 +178,7 @@ TEST_F(RealSpelling, AMissingDictionaryIsToldOnceByItsPackage) {
   EXPECT_FALSE(isTold()) << status.currentMessage().toStdString();
 }
 
-TEST_F(RealSpelling, AllOpenPagesAreCheckedAndCorrectedTogether) {
+TEST_F(DesignSpelling, AllOpenPagesAreCheckedAndCorrectedTogether) {
   frmMain &page = Open(QStringLiteral("words.htm"), Words);
   frmMain &other = Open(QStringLiteral("other.htm"), "<p>gardn and gardn\n");
   dialogs.ExpectModal([](QWidget &list) {
