@@ -4,12 +4,15 @@
 import * as history from '../page/history.js';
 
 /**
- * The declarations of an element's style as the page writes them, with the white space around them.
- * @param {Element} element
+ * @param {string} style
  * @returns {string[]}
  */
-export const declarations = (element) =>
-  (element.getAttribute('style') ?? '').match(/(?:[^;"'(]|"[^"]*"|'[^']*'|\([^)]*\))+/g) ?? [];
+const declarationsIn = (style) => style.match(/(?:[^;"'(]|"[^"]*"|'[^']*'|\([^)]*\))+/g) ?? [];
+/**
+ * The declarations of an element's style as the page writes them, with the white space around them.
+ * @param {Element} element
+ */
+export const declarations = (element) => declarationsIn(element.getAttribute('style') ?? '');
 /**
  * A test of a declaration: whether it is one of this property.
  * @param {string} property
@@ -18,22 +21,67 @@ export const declarations = (element) =>
 export const isOf = (property) => (declaration) =>
   declaration.slice(0, declaration.indexOf(':')).trim().toLowerCase() === property;
 
-
-// Writes the declarations that are left, and the last semicolon where the style has it.
+// A style's text for declarations of it: what stood before the first one and behind the last one
+// stays, its last semicolon too.
+/**
+ * @param {string} style
+ * @param {string[]} all
+ */
+function joined(style, all) {
+  const left = all.filter((each) => each.trim());
+  const [lead] = /^\s*/.exec(style);
+  const [end = ''] = /(?:;|(?<!\s)\s)\s*$/.exec(style) ?? [];
+  return left.length ? lead + left.join(';').trim() + end : '';
+}
 /**
  * @param {Element} element
  * @param {string[]} all
+ * @param {string} [style] whose declarations they are
  */
-function write(element, all) {
-  const end = /;\s*$/.test(element.getAttribute('style') ?? '') ? ';' : '';
-  const left = all.filter((each) => each.trim());
-  if (left.length) {
-    element.setAttribute('style', left.join(';').trim() + end);
+function write(element, all, style = element.getAttribute('style') ?? '') {
+  const text = joined(style, all);
+  if (text) {
+    element.setAttribute('style', text);
     return;
   }
   history.attributesOf(element);
   element.removeAttribute('style');
 }
+
+// A declaration with another value, written as it is.
+/**
+ * @param {string} declaration
+ * @param {string} value
+ */
+function withValue(declaration, value) {
+  const [, head, important = '', end] =
+    /^([^:]*:\s*)[^]*?(\s*!\s*important)?(\s*)$/i.exec(declaration);
+  return head + value + important + end;
+}
+// A new declaration, written as the last one of the style.
+/**
+ * @param {string[]} all
+ * @param {string} property
+ * @param {string} value
+ */
+function writtenLike(all, property, value) {
+  if (!all.length) return `${property}: ${value}`;
+  const last = all.at(-1);
+  const [, name, colon] = /^\s*([^:]*)(:?\s*)/.exec(last);
+  const lead = all.length > 1 ? /^\s*/.exec(last)[0] : colon.slice(1);
+  const isUpper = /[A-Z]/.test(name) && !/[a-z]/.test(name);
+  return lead + (isUpper ? property.toUpperCase() : property) + (colon || ': ') + value;
+}
+
+// What was taken out of an element's style, so that it gets a new value in its place: the style
+// before that, the properties that have gone since, and the style that is left.
+/** @type {WeakMap<Element, { before: string, gone: Set<string>, left: string | null }>} */
+const taken = new WeakMap();
+/** @param {Element} element */
+const takenFrom = (element) => {
+  const found = taken.get(element);
+  return found?.left === element.getAttribute('style') ? found : null;
+};
 
 // The words of these properties in the shorthand `font`, which stands for less without them.
 /** @type {Record<string, RegExp>} */
@@ -83,21 +131,38 @@ function takeFromShorthand(element, property) {
 export function takeDeclaration(element, property) {
   const all = declarations(element);
   const left = all.filter((declaration) => !isOf(property)(declaration));
-  if (left.length === all.length) takeFromShorthand(element, property);
-  else write(element, left);
+  if (left.length === all.length) {
+    takeFromShorthand(element, property);
+    return;
+  }
+  const { before, gone } =
+    takenFrom(element) ?? { before: element.getAttribute('style'), gone: new Set() };
+  write(element, left);
+  gone.add(property);
+  taken.set(element, { before, gone, left: element.getAttribute('style') });
 }
 
 /**
- * Sets one property in an element's style, where it stands or else at the end.
+ * Sets one property in an element's style: where it stands or stood before it was taken off, else
+ * at the end, in the style's own way of writing.
  * @param {Element} element
  * @param {string} property
  * @param {string} value
  */
 export function putDeclaration(element, property, value) {
-  const all = declarations(element);
+  const found = takenFrom(element);
+  const style = (found?.gone.has(property) ? found.before : element.getAttribute('style')) ?? '';
+  const all = declarationsIn(style);
   const last = all.findLastIndex(isOf(property));
-  const written = `${property}: ${value}`;
-  if (last >= 0) all[last] = /^\s*/.exec(all[last])[0] + written;
-  else all.push((all.length ? ' ' : '') + written);
-  write(element, all);
+  if (last >= 0) all[last] = withValue(all[last], value);
+  else all.push(writtenLike(all.filter((each) => each.trim()), property, value));
+  if (style !== found?.before) {
+    write(element, all);
+    return;
+  }
+  found.gone.delete(property);
+  const isLeft = (/** @type {string} */ each) => ![...found.gone].some((name) => isOf(name)(each));
+  write(element, all.filter(isLeft), style);
+  taken.set(element, { before: joined(style, all), gone: found.gone,
+    left: element.getAttribute('style') });
 }

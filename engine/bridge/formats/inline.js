@@ -6,6 +6,7 @@
 // tells whether an element gives the wanted look.
 import { formats } from './formats.js';
 import { joinTexts, mergeWith } from './merging.js';
+import { changeSpan, putOnRun } from './wrapping.js';
 import * as dom from '../page/dom.js';
 import * as selection from '../page/selection.js';
 import { takeInSigns } from '../page/signs.js';
@@ -183,80 +184,6 @@ function runsOf(tops) {
   return runs;
 }
 
-// The first element that fits, of those that hold all of a run each, from outside inwards; null for
-// none.
-/**
- * @param {AnyNode[]} run
- * @param {Test} fits
- */
-function within(run, fits) {
-  let only = run.length === 1 ? run[0] : null;
-  while (dom.isInline(only) && !dom.isAtom(only) && !(only.tagName === 'A') && !fits(only)) {
-    only = only.childNodes.length === 1 ? only.firstChild : null;
-  }
-  return dom.isElement(only) && fits(only) ? only : null;
-}
-
-// Joins a FONT with the FONT that is all it holds; answers the one that is left.
-/**
- * @param {AnyNode} font
- * @returns {AnyNode}
- */
-function joinFonts(font) {
-  const [inner] = font.childNodes;
-  const isBare = font.childNodes.length === 1 && inner.tagName === 'FONT' &&
-    [...inner.attributes].every(({ name }) => /^(color|face|size)$/.test(name));
-  if (!isBare) return font;
-  for (const { name, value } of inner.attributes) font.setAttribute(name, value);
-  dom.unwrap(inner);
-  return joinFonts(font);
-}
-
-// The element to put around a run. Where the run is in one of that tag already, which the page's
-// rules have taken the look off, another one would not help.
-/**
- * @param {Format} format
- * @param {FormatValue} value
- * @param {AnyNode[]} run
- */
-function wrapperFor(format, value, run) {
-  const element = format.write(value);
-  const inLike = format.inLike && element.tagName !== 'SPAN' &&
-    run[0].parentNode.closest(element.tagName);
-  return inLike ? format.inLike() : element;
-}
-
-// Gives a run the format, by an element that is there or a new one; answers that, null for none.
-/**
- * @param {Format} format
- * @param {AnyNode[]} run
- * @param {FormatValue} value
- */
-function putOnRun(format, run, value) {
-  const wrapper = wrapperFor(format, value, run);
-  if (!wrapper) return null;
-  // A FONT that is there is used in any dialect.
-  const font = format.attribute && within(run, ({ tagName }) => tagName === 'FONT');
-  if (font) {
-    font.setAttribute(format.attribute, String(format.inAttribute(value)));
-    return joinFonts(font);
-  }
-  const span = wrapper.tagName === 'SPAN' && within(run, ({ tagName }) => tagName === 'SPAN');
-  if (span) {
-    const before = (span.getAttribute('style') ?? '').replace(/;?\s*$/, '');
-    const added = wrapper.getAttribute('style');
-    span.setAttribute('style', before ? `${before}; ${added}` : added);
-    return span;
-  }
-  dom.wrap(run, wrapper);
-  // What went along without text may have been in its like.
-  if (format.tags.includes(wrapper.tagName)) {
-    const likes = [...wrapper.querySelectorAll(format.tags.join())];
-    likes.filter((like) => !like.attributes.length).forEach(dom.unwrap);
-  }
-  return wrapper;
-}
-
 // The parents of the texts that give a look which the text has without them too.
 /**
  * @param {Format} entry
@@ -330,8 +257,13 @@ function putOn(entry, value, texts) {
   const all = new Set(texts);
   /** @param {AnyNode} element */
   const reads = (element) => entry.same(entry.read(element), value);
+  /** @type {HTMLElement[]} */
+  const changed = [];
   for (const carrier of carriersOf(entry, texts, all, remembered(reads), value)) {
-    pushDown(entry, carrier, all);
+    const isInChanged = changed.some((each) => each.contains(carrier));
+    const isWhole = !isInChanged && coverage(carrier, all) === 'all';
+    if (isWhole && changeSpan(entry, carrier, value)) changed.push(carrier);
+    else pushDown(entry, carrier, all);
   }
   needless(entry, texts, all, remembered(reads)).forEach((element) => entry.strip(element));
   const lacks = remembered((element) => !reads(element));
@@ -343,7 +275,8 @@ function putOn(entry, value, texts) {
   const covers = new Map();
   const tops = new Set(left.map((text) => highest(text, chosen, entry, covers)));
   const made = runsOf(tops).map((run) => putOnRun(entry, run, value)).filter(Boolean);
-  for (const element of formatAgainstRules(entry, made, value)) {
+  const still = changed.filter((element) => element.isConnected);
+  for (const element of formatAgainstRules(entry, [...still, ...made], value)) {
     const joined = mergeWith(entry, element, 'previousSibling', true);
     mergeWith(entry, joined, 'nextSibling', joined === element);
   }
