@@ -15,6 +15,9 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include <array>
+#include <utility>
+
 namespace velor {
 
 namespace {
@@ -115,24 +118,25 @@ QString PictureFitting::FileName() const {
 
 void PictureFitting::CutPicture(const PictureCut &cut) {
   if (cut.quarterTurns == 0 && cut.part == QRect({}, picture_.pixels)) return;
-  Rewrite([&cut](const QByteArray &file) { return Cropped(file, cut); },
+  Rewrite([&cut](const QByteArray &file) { return Cropped(file, cut); }, Look::Other,
           ShownAfter(cut, picture_.pixels, picture_.shown));
 }
 
 void PictureFitting::TurnPicture(Turn turn) {
-  Rewrite([turn](const QByteArray &file) { return Turned(file, turn); },
+  Rewrite([turn](const QByteArray &file) { return Turned(file, turn); }, Look::Other,
           picture_.shown.transposed());
 }
 
 void PictureFitting::Fit() {
   Rewrite([size = picture_.shown](const QByteArray &file) { return Resized(file, size); },
-          picture_.shown);
+          Look::Same, picture_.shown);
 }
 
 void PictureFitting::FitTwice() {
   const QSize twice = picture_.shown * MuchLarger;
   if (!IsHtml5()) {
-    Rewrite([twice](const QByteArray &file) { return Resized(file, twice); }, picture_.shown);
+    Rewrite([twice](const QByteArray &file) { return Resized(file, twice); }, Look::Same,
+            picture_.shown);
     return;
   }
   try {
@@ -142,13 +146,15 @@ void PictureFitting::FitTwice() {
     const QString address = PictureAddress(context_.pages.Record(page_.Number()).Path, dense);
     page_.Pictures().Own({.path = dense, .address = address, .isNew = true});
     Rewrite([size = picture_.shown](const QByteArray &file) { return Resized(file, size); },
-            picture_.shown, address + QStringLiteral(" 2x"));
+            Look::Same, picture_.shown,
+            {{QStringLiteral("srcset"), address + QStringLiteral(" 2x")}});
   } catch (const RuntimeError &error) {
     ShowText(Words::tr("The file stays as it is: %1").arg(error.Description()));
   }
 }
 
-void PictureFitting::Rewrite(const Change &change, QSize shown, const QString &dense) {
+void PictureFitting::Rewrite(const Change &change, Look look, QSize shown,
+                             HtmlAttributes attributes) {
   HtmlDocument &document = page_.DHTML1().Document();
   RewrittenPictures &rewritten = page_.Pictures().Rewritten();
   const QPointer<PictureFitting> alive = this;
@@ -156,27 +162,32 @@ void PictureFitting::Rewrite(const Change &change, QSize shown, const QString &d
   if (alive == nullptr) return;
   PropertyValues before;
   PropertyValues after;
-  for (const auto &[name, length] : {std::pair(QStringLiteral("width"), shown.width()),
-                                     std::pair(QStringLiteral("height"), shown.height())}) {
+  const std::array lengths = {std::pair(QStringLiteral("width"), shown.width()),
+                              std::pair(QStringLiteral("height"), shown.height())};
+  for (const auto &[name, length] : lengths) {
     // A share of the page, or nothing, goes with any file.
     if (said.value(name).toDouble() <= 0 || said.value(name) == QString::number(length)) continue;
     before.insert(name, said.value(name));
     after.insert(name, QString::number(length));
+  }
+  for (const auto &[name, length] : lengths) {
+    const bool isNeeded = look == Look::Other && after.isEmpty() && attributes.empty();
+    if (isNeeded && said.value(name).isEmpty()) attributes = {{name, QString::number(length)}};
   }
   try {
     const QByteArray content = context_.platform.files.ReadAll(file_);
     rewritten.Rewrite(file_, change(content));
     ChangePage(content, [&] {
       if (!after.isEmpty()) document.SetProperties({PropertySubject::Image}, after);
-      if (!dense.isEmpty())
-        document.ChangePicture(picture_.address, {{QStringLiteral("srcset"), dense}});
+      if (!attributes.empty())
+        document.ChangeObject(attributes, HtmlDocument::ParagraphSide::AsItIs);
     });
     if (alive == nullptr) return;
     if (!before_) before_.emplace();
     // What an earlier change has found is how it was at first.
     for (auto size = before.cbegin(); size != before.cend(); ++size)
       if (!before_->sizes.contains(size.key())) before_->sizes.insert(size.key(), size.value());
-    if (!dense.isEmpty()) before_->dense = dense;
+    for (const auto &[name, value] : attributes) before_->attributes.emplace_back(name, QString());
     ShowText(Words::tr("%1 is changed. It is kept as it was as %2.")
                  .arg(FileName(), modGeneral::FileNameOfPath(rewritten.OriginalOf(file_))));
   } catch (const RuntimeError &error) {
@@ -212,8 +223,8 @@ void PictureFitting::UndoChange() {
       HtmlDocument &document = page_.DHTML1().Document();
       if (!before_->sizes.isEmpty())
         document.SetProperties({PropertySubject::Image}, before_->sizes);
-      if (!before_->dense.isEmpty())
-        document.ChangePicture(picture_.address, {{QStringLiteral("srcset"), QString()}});
+      if (!before_->attributes.empty())
+        document.ChangeObject(before_->attributes, HtmlDocument::ParagraphSide::AsItIs);
     });
     if (alive == nullptr) return;
     before_.reset();

@@ -45,18 +45,21 @@ class PictureFitting final : public NoticeBar {
   /// What of the picture's attributes was changed here, as it was at first.
   struct Before {
     PropertyValues sizes;
-    QString dense;  ///< the srcset that was set; empty for none
+    HtmlAttributes attributes;  ///< that it did not have: no values
   };
   using Change = std::function<QByteArray(const QByteArray &)>;
+  /// Whether a change is seen in the page.
+  enum class Look { Same, Other };
 
   bool IsMuchLarger() const;
   QString FileOfSelection() const;
   void Fit();
   void FitTwice();
   void TurnPicture(Turn turn);
-  /// Writes the file anew; what of the picture's size the page says becomes `shown`, and srcset
-  /// `dense` where that is not empty.
-  void Rewrite(const Change &change, QSize shown, const QString &dense = {});
+  /// Writes the file anew; what of the picture's size the page says becomes `shown`, and the
+  /// picture gets the attributes. With another look the page says one side at least, so that its
+  /// Undo takes the change back: the file follows the page's text.
+  void Rewrite(const Change &change, Look look, QSize shown, HtmlAttributes attributes = {});
   /// Changes the page. Its text before and after belongs to the file's content before and now.
   void ChangePage(const QByteArray &before, const std::function<void()> &change);
   void UndoChange();

@@ -473,6 +473,30 @@ TEST_F(RealPictures, ACroppedPicturesFileAndSizeGoAndComeBackTogether) {
   EXPECT_EQ(Site(), Names({"a.png", "page.htm"}));
 }
 
+TEST_F(RealPictures, ACropIsAStepOfThePagesUndoWhereThePageDoesNotSayThePicturesSize) {
+  const QByteArray whole = CodedAs("PNG", RedAndBlue(60, 40));
+  Write(QStringLiteral("site/a.png"), whole);
+  frmMain &page = Open(PageFile, "<!DOCTYPE html><p>x<img src=a.png></p>");
+  SelectPicture(page, 60);
+  dialogs.ExpectModal([](QWidget &dialog) {
+    dialog.show();
+    dialog.findChild<QSpinBox *>(QStringLiteral("txtCropHeight"))->setValue(30);
+    dialog.findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+  });
+  Choose("mnuCropPicture");
+  EXPECT_TRUE(Becomes(page, "<img src=\"a.png\" width=\"60\">")) << Seen(page);
+  EXPECT_NE(Bytes(QStringLiteral("site/a.png")), whole);
+  Choose("mnuUndo");
+  EXPECT_TRUE(Becomes(page, "<img src=\"a.png\">")) << Seen(page);
+  EXPECT_TRUE(WaitFor([&] { return Bytes(QStringLiteral("site/a.png")) == whole; }));
+  Choose("mnuRedo");
+  EXPECT_TRUE(WaitFor([&] { return Bytes(QStringLiteral("site/a.png")) != whole; }));
+  page.findChild<QPushButton *>(QStringLiteral("cmdUndoFitting"))->click();
+  EXPECT_TRUE(Becomes(page, "<img src=\"a.png\">")) << Seen(page);
+  EXPECT_EQ(Bytes(QStringLiteral("site/a.png")), whole);
+  EXPECT_EQ(Site(), Names({"a.png", "page.htm"}));
+}
+
 TEST_F(RealPictures, ATurnedPictureIsNotDistorted) {
   Write(QStringLiteral("site/a.png"), CodedAs("PNG", RedAndBlue(400, 200)));
   frmMain &page =
