@@ -162,4 +162,11 @@ std::unique_ptr<DatabaseConnection> FakeDatabase::CreateConnection() {
   return std::make_unique<FakeConnection>(*this);
 }
 
+std::unique_ptr<DatabaseConnection> FakeDatabase::ConnectEmptyCatalogue() {
+  results[QStringLiteral("Select * from Project where Created = true")] = {};
+  auto connection = CreateConnection();
+  connection->Open({}, {}, {}, -1);
+  return connection;
+}
+
 }  // namespace velor

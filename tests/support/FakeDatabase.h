@@ -52,6 +52,8 @@ class FakeDatabase {
   int recordsetsAlive = 0;
 
   std::unique_ptr<DatabaseConnection> CreateConnection();
+  /// An open connection to a catalogue without a project.
+  std::unique_ptr<DatabaseConnection> ConnectEmptyCatalogue();
 
  private:
   friend class FakeConnection;

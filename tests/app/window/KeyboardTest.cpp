@@ -220,9 +220,7 @@ void ExpectAllWithinReach(QWidget &shown, const std::string &what) {
 }
 
 TEST_F(KeyboardTest, EveryUsableControlOfEveryWindowIsMetByTabAndHasAName) {
-  values.DbConnection = database.CreateConnection();
-  values.DbConnection->Open({}, {}, {}, -1);
-  database.results[QStringLiteral("Select * from Project where Created = true")] = {};
+  values.DbConnection = database.ConnectEmptyCatalogue();
   NewPage();
   for (const char *item : DialogItems) {
     dialogs.ExpectModal([item](QWidget &dialog) {
@@ -273,9 +271,7 @@ TEST_F(KeyboardTest, EveryUsableControlOfEveryBarUnderAPageIsMetByTabAndHasAName
 }
 
 TEST_F(KeyboardTest, NoTwoControlsInSightOfAWindowShareAnAltKey) {
-  values.DbConnection = database.CreateConnection();
-  values.DbConnection->Open({}, {}, {}, -1);
-  database.results[QStringLiteral("Select * from Project where Created = true")] = {};
+  values.DbConnection = database.ConnectEmptyCatalogue();
   frmMain &page = NewPage();
   EXPECT_EQ(SharedAltKeys(window).toStdString(), "");
   for (const char *item : DialogItems) {

@@ -79,9 +79,7 @@ class WindowIn : private Spoken<Translator>, public WindowFixture {
       ++looks;
       lookAt(shown, name);
     };
-    values.DbConnection = database.CreateConnection();
-    values.DbConnection->Open({}, {}, {}, -1);
-    database.results[QStringLiteral("Select * from Project where Created = true")] = {};
+    values.DbConnection = database.ConnectEmptyCatalogue();
     window.resize(1200, 680);
     window.show();
     frmMain &page = NewPage();

@@ -2,6 +2,7 @@
 #include "editor/PageFrame.h"
 #include "editor/frmBrowser.h"
 #include "editor/frmMain.h"
+#include "tests/app/window/WidthGrip.h"
 #include "tests/app/window/WindowFixture.h"
 
 #include <QApplication>
@@ -53,17 +54,6 @@ class PageWidthsTest : public WindowFixture {
   static void Say(frmMain &page, const PropertyValues &values) {
     Component(page).properties[PropertySubject::Page] = values;
   }
-  static QWidget &PressGrip(frmMain &page) {
-    auto &grip = In<QWidget>(page, "picWidthGrip");
-    QTest::mousePress(&grip, Qt::LeftButton, {}, QPoint(2, 2));
-    return grip;
-  }
-  /// Drags on to a place that counts from the grip's edge.
-  static void DragTo(QWidget &grip, int place) {
-    QMouseEvent move(QEvent::MouseMove, QPointF(2, 2), grip.mapToGlobal(QPointF(place, 2)),
-                     Qt::NoButton, Qt::LeftButton, {});
-    QApplication::sendEvent(&grip, &move);
-  }
   void PressKey() { QTest::keyClick(&window, Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier); }
   static bool HasKeyboard(const QWidget &part) {
     return part.isAncestorOf(QApplication::focusWidget()) || QApplication::focusWidget() == &part;
@@ -105,7 +95,7 @@ TEST_F(PageWidthsTest, ABoxAndAGripChooseAnyWidth) {
   QTest::keyClick(&box, Qt::Key_Return);
   EXPECT_EQ(WidthOf(page), 500);
   EXPECT_TRUE(HasKeyboard(*page.DHTML1().Widget()));
-  DragTo(PressGrip(page), 22);
+  WidthGrip(page).DragBy(20);
   EXPECT_EQ(WidthOf(page), 540) << "the edge stays under the pointer";
   EXPECT_EQ(box.value(), 540);
   box.setFocus();
@@ -119,15 +109,14 @@ TEST_F(PageWidthsTest, ADragIsKeptOnceAtItsEnd) {
   Choose("mnuWidths");
   In<QSpinBox>(page, "numWidth").setValue(500);
   const qsizetype before = registry.Writes().size();
-  QWidget &grip = PressGrip(page);
-  for (int step = 0; step < 3; ++step) DragTo(grip, 12);
+  WidthGrip grip(page);
+  for (int step = 0; step < 3; ++step) grip.DragBy(10);
   EXPECT_EQ(WidthOf(page), 560);
   EXPECT_EQ(registry.Writes().size(), before);
-  QTest::mouseRelease(&grip, Qt::LeftButton);
+  grip.Release();
   EXPECT_EQ(registry.Writes().mid(before),
             QStringList(QStringLiteral("Software\\Company\\VelorCDMaker\\widths\\%5Csite=560")));
-  PressGrip(page);
-  QTest::mouseRelease(&grip, Qt::LeftButton);
+  WidthGrip(page).Release();
   EXPECT_EQ(registry.Writes().size(), before + 1) << "nothing was dragged";
 }
 

@@ -271,9 +271,7 @@ TEST_F(RealFocus, KeysGoToWhatIsInFrontAfterEveryRowOfTheTable) {
 class RealDialogs : public RealFocus {
  protected:
   RealDialogs() {
-    catalogue_.results[QStringLiteral("Select * from Project where Created = true")] = {};
-    values.DbConnection = catalogue_.CreateConnection();
-    values.DbConnection->Open({}, {}, {}, -1);
+    values.DbConnection = catalogue_.ConnectEmptyCatalogue();
     OpenBoth();
   }
 

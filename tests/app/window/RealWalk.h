@@ -54,9 +54,7 @@ class RealWalk : private WithPerson, public RealWindow {
           "<!DOCTYPE html>\n<html><body>\n<p>Prices</p>\n<table border=1><tr><td>Rye</td>"
           "<td>3</td></tr></table>\n<p style=\"font-size: 15pt\">End</p></body></html>\n");
     Write(QStringLiteral("plain.htm"), "<html><body>one two three</body></html>");
-    catalogue_.results[QStringLiteral("Select * from Project where Created = true")] = {};
-    values.DbConnection = catalogue_.CreateConnection();
-    values.DbConnection->Open({}, {}, {}, -1);
+    values.DbConnection = catalogue_.ConnectEmptyCatalogue();
   }
   ~RealWalk() override {
     for (int number = 1; number <= Pages().PageCount(); ++number) {

@@ -4,6 +4,7 @@
 #include "editor/frmBrowser.h"
 #include "editor/frmMain.h"
 #include "tests/app/window/RealWindowFixture.h"
+#include "tests/app/window/WidthGrip.h"
 #include "tests/engine/ComponentFixture.h"
 
 #include <QApplication>
@@ -136,15 +137,9 @@ TEST_F(RealWidths, TheCaretStaysAtItsHeightWhenLinesBreakAnew) {
   CaretInTheMiddle(page);
   ExpectCaretStays(page, [&] { In<QToolButton>(page, "cmdWidth360").click(); });
   ExpectCaretStays(page, [&] { In<QToolButton>(page, "cmdWidth768").click(); });
-  auto &grip = In<QWidget>(page, "picWidthGrip");
-  QTest::mousePress(&grip, Qt::LeftButton, {}, QPoint(2, 2));
-  for (const int step : {-50, -100, -150})
-    ExpectCaretStays(page, [&] {
-      QMouseEvent move(QEvent::MouseMove, QPointF(2, 2), grip.mapToGlobal(QPointF(2 + step, 2)),
-                       Qt::NoButton, Qt::LeftButton, {});
-      QApplication::sendEvent(&grip, &move);
-    });
-  QTest::mouseRelease(&grip, Qt::LeftButton);
+  WidthGrip grip(page);
+  for (const int step : {-50, -100, -150}) ExpectCaretStays(page, [&] { grip.DragBy(step); });
+  grip.Release();
   ExpectCaretStays(page, [&] { page.SetZoom(1.5); });
   ExpectCaretStays(page, [&] { page.SetZoom(0.67); });
   ExpectCaretStays(page, [&] { In<QToolButton>(page, "cmdWidth0").click(); });

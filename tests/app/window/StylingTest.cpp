@@ -41,9 +41,7 @@ TEST_F(StylingTest, TheMainWindowsComboBoxesAreFlatOnceItIsLoaded) {
 }
 
 TEST_F(StylingTest, TheProjectManagersButtonIsPaintedEachTimeOfAHundredAfterTheElementDialog) {
-  values.DbConnection = database.CreateConnection();
-  values.DbConnection->Open({}, {}, {}, -1);
-  database.results[QStringLiteral("Select * from Project where Created = true")] = {};
+  values.DbConnection = database.ConnectEmptyCatalogue();
   styled.findChild<QAction *>(QStringLiteral("mnuNew"))->trigger();
   for (int time = 0; time < 100; ++time) {
     // The dialog with the most controls, as far as these are painted.
