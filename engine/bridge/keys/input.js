@@ -143,7 +143,12 @@ export function input(event) {
 function finish(inputType, data) {
   if (inputType === 'insertParagraph') work(tidySplit);
   if (inputType.startsWith('delete')) work(keptLooks.keepLooksOfDeleted);
-  if (inputType === 'insertText') work(() => pending.applyToTyped(data));
+  if (inputType === 'insertText') {
+    work(() => {
+      blanks.typed({ inputType, data });
+      pending.applyToTyped(data);
+    });
+  }
   work(() => typing.noteTyped(data));
   signs.noteTyped();
   work(() => blanks.watched({ inputType, data }));

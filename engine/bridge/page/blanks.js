@@ -28,7 +28,7 @@ import * as whitespace from './whitespace.js';
 // What watch() has found; null at rest.
 /**
  * @type {(Noted & { ownLeft: boolean, ownRight: boolean, parts: boolean, begins: boolean,
- *   isRange: boolean, isFollowed: boolean }) | null}
+ *   isRange: boolean, isFollowed: boolean, isDone: boolean }) | null}
  */
 let noted = null;
 
@@ -114,8 +114,9 @@ export function watch(inputType = '', target = null) {
     parts: isOwn(left) && isGap(behindLeft),
     begins: isOwn(right) && (!beforeRight || isGap(beforeRight)),
     isRange: !range.collapsed,
-    // The stand-ins have moved along with the change.
+    // The stand-ins have moved along with the change, and it has got its own.
     isFollowed: false,
+    isDone: false,
   };
 }
 
@@ -275,6 +276,24 @@ function lastIn({ lastChild }) {
 /** @param {AnyNode} node */
 const lastBefore = (node) => (node.previousSibling ? edge(node.previousSibling, true) : null);
 
+/** @param {{ inputType: string, data?: string | null }} input */
+function addStandIns({ inputType, data }) {
+  if (noted.isDone || !/^(insertText|delete.*)$/.test(inputType)) return;
+  noted.isDone = true;
+  addWritten(inputType, data);
+  addNeedless(inputType, data);
+}
+
+/**
+ * Text was typed, and may be cut out of its node for another look: its stand-ins go along then.
+ * @param {{ inputType: string, data?: string | null }} input
+ */
+export function typed(input) {
+  if (!noted || input.data?.includes(noBreak)) return;
+  followTexts(input);
+  addStandIns(input);
+}
+
 /**
  * After the change, and after engineDone() where that is called.
  * @param {{ inputType: string, data?: string | null }} input
@@ -287,11 +306,8 @@ export function watched({ inputType, data }) {
     return;
   }
   followTexts({ inputType, data });
-  if (inputType === 'insertText' || inputType.startsWith('delete')) {
-    if (inputType !== 'insertText') replaceUnseenBlank();
-    addWritten(inputType, data);
-    addNeedless(inputType, data);
-  }
+  if (inputType.startsWith('delete')) replaceUnseenBlank();
+  addStandIns({ inputType, data });
   noted = null;
   resolveAwayFromCaret();
 }
