@@ -140,6 +140,18 @@ export function gapAt({ startContainer, startOffset, collapsed }) {
   return around.length && around.every(dom.isBlock) ? [node, offset] : null;
 }
 
+// The line before a rule or the like, else the one behind it.
+/**
+ * @param {AnyNode} object
+ * @returns {Unit | null}
+ */
+function unitBeside(object) {
+  const [before, behind] = dom.sides.map((side) => dom.neighbour(object, side));
+  const near = before ?? behind;
+  if (!near || dom.isAtom(near)) return null;
+  return unitOf(before ? lastShown(before) : firstShownLeaf(behind));
+}
+
 /**
  * @param {AnyNode} node
  * @param {number} offset
@@ -159,9 +171,7 @@ function caretUnit(node, offset) {
   if (line && !dom.isBlock(line) && dom.isBlock(next)) return unitOf(lastShown(line));
   const leaf = next ? firstShownLeaf(next) : lastShown(last);
   if (!dom.isBlock(leaf) || !dom.isAtom(leaf)) return unitOf(leaf);
-  if (dom.isIsland(leaf)) return null;
-  const near = dom.neighbour(leaf, 'previousSibling') || dom.neighbour(leaf, 'nextSibling');
-  return near && !dom.isAtom(near) ? unitOf(lastShown(near)) : null;
+  return dom.isIsland(leaf) ? null : unitBeside(leaf);
 }
 
 /** @param {PlainRange} range */
