@@ -184,14 +184,15 @@ export function joinsFor(fragment, open, node, offset) {
   if (open !== closed && fragment.firstChild && !holdsBlock(fragment)) {
     dom.wrap([...fragment.childNodes], dom.create('P'));
   }
-  const joinsStart = open.start === 'open' && isWithin(node, offset, 'start');
+  const follows = open.start !== 'closed' && isWithin(node, offset, 'start');
+  const joinsStart = open.start === 'open' && follows;
   const isFollowed = isWithin(node, offset, 'end');
   const joinsEnd = open.end === 'open' && isFollowed;
   const first = joinsStart ? leafAt(fragment, 'firstChild', 'nextSibling') : null;
   const last = joinsEnd ? leafAt(fragment, 'lastChild', 'previousSibling') : null;
   const end = fragment.lastChild;
   return () => {
-    if (gone && joinsStart && isFollowed) becomeAgain(gone, end);
+    if (gone && follows && isFollowed) becomeAgain(gone, end);
     if (first) joinWith(first.node, 'previousSibling');
     if (last) joinWith(last.node, 'nextSibling');
     for (const leaf of [first, last]) if (leaf?.blank) leaf.node.data = leaf.blank;
