@@ -140,7 +140,7 @@ export function gapAt({ startContainer, startOffset, collapsed }) {
   return around.length && around.every(dom.isBlock) ? [node, offset] : null;
 }
 
-// The line before a rule or the like, else the one behind it.
+// The line before a rule or the like, else the one behind it; none in a table's cells.
 /**
  * @param {AnyNode} object
  * @returns {Unit | null}
@@ -148,7 +148,7 @@ export function gapAt({ startContainer, startOffset, collapsed }) {
 function unitBeside(object) {
   const [before, behind] = dom.sides.map((side) => dom.neighbour(object, side));
   const near = before ?? behind;
-  if (!near || dom.isAtom(near)) return null;
+  if (!near || dom.isAtom(near) || near.tagName === 'TABLE') return null;
   return unitOf(before ? lastShown(before) : firstShownLeaf(behind));
 }
 
