@@ -85,8 +85,8 @@
 
   function movedAndBack() {
     const before = { ...look(), shown: shown(), lines: shownLines(), names: names() };
-    // Text as it stands takes no markup.
-    const isRaw = inside.dom.rawAt(getSelection().anchorNode) !== null;
+    // Text as it stands takes no markup, of what joins it neither.
+    const isRaw = inside.dom.rawAt(inside.selection.range().startContainer) !== null;
     const way = oneOf(Object.keys(ways));
     const between = ways[way]();
     const now = rest();
