@@ -84,7 +84,10 @@ const standing = ({ parentNode, previousSibling, nextSibling }) =>
 
 // Texts that stand before a cut of Enter's, with the white space that is their end since.
 const cutBehind = new WeakMap();
-/** @param {Text} text */
+/**
+ * Notes that a text ends in white space that parted words before Enter did.
+ * @param {Text} text
+ */
 export const noteCut = (text) => cutBehind.set(text, tail(text.data));
 /**
  * True where the white space at a text's end parted words before Enter parted them.
