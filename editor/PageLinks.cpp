@@ -4,6 +4,7 @@
 #include "editor/PageSlots.h"
 #include "editor/modGeneral.h"
 #include "page/text/HtmlTokens.h"
+#include "pictures/PictureEndings.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 
@@ -24,9 +25,6 @@ const std::array LinkAttributes = {u"href", u"src", u"background", u"data", u"po
 const std::array PictureAttributes = {u"src", u"background", u"poster"};
 /// These hold several addresses, each with a size.
 const std::array ListAttributes = {u"srcset", u"imagesrcset"};
-/// Of the files that styles name.
-const std::array PictureEndings = {u"gif",  u"jpg", u"jpeg", u"png", u"bmp",
-                                   u"webp", u"svg", u"ico",  u"avif"};
 /// Elements whose src is not a picture.
 const std::array NoPictures = {u"script", u"iframe", u"frame",  u"embed",
                                u"audio",  u"video",  u"source", u"track"};
@@ -125,7 +123,8 @@ std::vector<QStringView> AddressesInStyle(QStringView style) {
 }
 
 bool HasPictureEnding(const QString &path) {
-  return IsOneOf(PictureEndings, QStringView(path).sliced(path.lastIndexOf(u'.') + 1));
+  const PictureKind kind = KindOfPicture(path);
+  return kind == PictureKind::Old || kind == PictureKind::New;
 }
 
 /// Gathers the links that break on the way from one folder to another.

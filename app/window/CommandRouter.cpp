@@ -23,6 +23,7 @@
 #include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "insert/modColor.h"
+#include "pictures/PictureEndings.h"
 #include "platform/Database.h"
 #include "platform/Dialogs.h"
 #include "platform/Paths.h"
@@ -35,29 +36,15 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 
-#include <algorithm>
-
 namespace velor {
 namespace {
 
 constexpr int SourceEditorMode = 3;
 constexpr int PreviewMode = 4;
 
-const QStringList PageEndings = {QStringLiteral(".htm"), QStringLiteral(".html")};
-const QStringList PictureEndings = {QStringLiteral(".gif"),  QStringLiteral(".jpg"),
-                                    QStringLiteral(".jpeg"), QStringLiteral(".png"),
-                                    QStringLiteral(".bmp"),  QStringLiteral(".webp"),
-                                    QStringLiteral(".svg"),  QStringLiteral(".ico")};
-/// Of pictures that become others when they are copied into a site.
-const QStringList ConvertedEndings = {QStringLiteral(".tif"),  QStringLiteral(".tiff"),
-                                      QStringLiteral(".heic"), QStringLiteral(".heif"),
-                                      QStringLiteral(".avif"), QStringLiteral(".tga"),
-                                      QStringLiteral(".pcx"),  QStringLiteral(".ras")};
-
-bool HasEnding(const QString &path, const QStringList &endings) {
-  return std::any_of(endings.begin(), endings.end(), [&path](const QString &ending) {
-    return path.endsWith(ending, Qt::CaseInsensitive);
-  });
+bool IsDroppedAsPage(const QString &path) {
+  return path.endsWith(QStringLiteral(".htm"), Qt::CaseInsensitive) ||
+         path.endsWith(QStringLiteral(".html"), Qt::CaseInsensitive);
 }
 
 /// Insert Row and Insert Column put theirs on the other side while Shift is held.
@@ -518,10 +505,11 @@ void CommandRouter::OpenDroppedFiles(const QStringList &paths, frmMain *page) {
   const QPointer<frmMain> alive = page;
   QStringList pages;
   for (const QString &path : paths) {
-    if (HasEnding(path, PageEndings)) {
+    const PictureKind picture = KindOfPicture(path);
+    if (IsDroppedAsPage(path)) {
       pages += path;
-    } else if (!alive.isNull() && (HasEnding(path, PictureEndings) ||
-                                   (context_.hasAdditions && HasEnding(path, ConvertedEndings)))) {
+    } else if (!alive.isNull() && picture != PictureKind::None &&
+               (picture == PictureKind::Old || context_.hasAdditions)) {
       insert_.PictureFile(*alive, path);
     }
   }
