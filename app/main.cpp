@@ -32,11 +32,11 @@ QStringList OpenInWindow(MfrmProgram &window, const OpeningRequest &request) {
   window.ComeToFront();
   QStringList paths;
   for (const QString &file : request.files) paths += ToLogic(file);
-  return window.Router().OpenFiles(paths, request.line);
+  return window.Opener().OpenFiles(paths, request.line);
 }
 
 void Act(MfrmProgram &window, const QString &action) {
-  if (window.Router().IsBusy()) return;
+  if (window.Opener().IsBusy()) return;
   if (action == QStringLiteral("new-page")) window.Router().Run({CommandId::NewPage});
   if (action == QStringLiteral("recent-files")) window.ShowRecentFiles();
   if (action == QStringLiteral("project-manager")) window.Router().Run({CommandId::ProjectManager});
@@ -94,7 +94,7 @@ int main(int argc, char **argv) {
   });
   boundary.StartUpDone();
 
-  const auto isBusy = [&] { return mainWindow->Router().IsBusy(); };
+  const auto isBusy = [&] { return mainWindow->Opener().IsBusy(); };
   running.Serve([&](const OpeningRequest &request) { return OpenInWindow(*mainWindow, request); },
                 isBusy);
   DesktopService desktop([&](const OpeningRequest &request) { running.Take(request); },

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/CommandRouter.h"
 
-#include "app/window/FrmNewPage.h"
 #include "app/window/GeneralToolbar.h"
 #include "app/window/InsertCommands.h"
+#include "app/window/PageOpener.h"
 #include "app/window/PageZoom.h"
 #include "app/window/PropertyDialogs.h"
 #include "editor/EditorContext.h"
@@ -20,13 +20,9 @@
 #include "editor/frmBrowser.h"
 #include "editor/frmCodeEditor.h"
 #include "editor/frmMain.h"
-#include "editor/modGeneral.h"
 #include "editor/modWorkFlow.h"
 #include "insert/modColor.h"
-#include "pictures/PictureEndings.h"
-#include "platform/Database.h"
 #include "platform/Dialogs.h"
-#include "platform/Paths.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
@@ -34,18 +30,14 @@
 #include <QAction>
 #include <QApplication>
 #include <QPointer>
-#include <QScopedValueRollback>
+
+#include <utility>
+#include <vector>
 
 namespace velor {
 namespace {
 
-constexpr int SourceEditorMode = 3;
 constexpr int PreviewMode = 4;
-
-bool IsDroppedAsPage(const QString &path) {
-  return path.endsWith(QStringLiteral(".htm"), Qt::CaseInsensitive) ||
-         path.endsWith(QStringLiteral(".html"), Qt::CaseInsensitive);
-}
 
 /// Insert Row and Insert Column put theirs on the other side while Shift is held.
 EditingCommand WithShift(EditingCommand command) {
@@ -68,14 +60,9 @@ void ShowSiteSpelling(EditorContext &context) {
 
 }  // namespace
 
-CommandRouter::CommandRouter(EditorContext &context,
-                             const std::unique_ptr<DatabaseConnection> &catalogue,
-                             CommandHost &host, InsertCommands &insert, Additions additions)
-    : context_(context),
-      catalogue_(catalogue),
-      host_(host),
-      insert_(insert),
-      additions_(additions) {}
+CommandRouter::CommandRouter(EditorContext &context, CommandHost &host, InsertCommands &insert,
+                             PageOpener &opener, Additions additions)
+    : context_(context), host_(host), insert_(insert), opener_(opener), additions_(additions) {}
 
 frmMain *CommandRouter::ActiveDocument() {
   return dynamic_cast<frmMain *>(host_.Front());
@@ -89,7 +76,7 @@ void CommandRouter::Run(const Command &command) {
       NewPage();
       break;
     case CommandId::NewFromTemplate:
-      NewFromTemplate();
+      opener_.NewFromTemplate();
       break;
     case CommandId::SaveAsTemplate:
       if (frmMain *page = ActiveDocument()) SaveAsTemplate(*page);
@@ -252,22 +239,6 @@ void CommandRouter::NewPage() {
   item.setEnabled(true);
 }
 
-void CommandRouter::NewFromTemplate() {
-  if (!HasRoom(context_)) return;
-  FrmNewPage dialog(OwnTemplates(context_), QApplication::activeWindow());
-  context_.platform.dialogs.RunModal(dialog);
-  if (dialog.result() != QDialog::Accepted) return;
-  const QString path = dialog.TemplatePath();
-  try {
-    modWorkFlow::NewPage(context_, path.isEmpty()
-                                       ? ModernPage(dialog.Beginning())
-                                       : modGeneral::ReadWholeFile(context_.platform.files, path));
-  } catch (const RuntimeError &error) {
-    context_.mainWindow.status.Report(
-        Words::tr("%1 could not be opened: %2").arg(ForPeople(path), error.Description()));
-  }
-}
-
 void CommandRouter::OpenPage() {
   QAction &item = host_.MenuItem({CommandId::OpenPage});
   item.setEnabled(false);
@@ -278,28 +249,11 @@ void CommandRouter::OpenPage() {
     dialog.Flags = FileDialog::FileMustExist;
     dialog.Filter = Words::tr("HTML Files *.htm,*.html|*.htm;*.html");
     // A cancelled dialog returns no file and needs no message.
-    if (const QString path = dialog.ShowOpen(); !path.isEmpty()) OpenFile(path);
+    if (const QString path = dialog.ShowOpen(); !path.isEmpty()) opener_.OpenFile(path);
   } catch (const RuntimeError &) {
   }
-  UpdateDialogFileName();
+  opener_.UpdateDialogFileName();
   item.setEnabled(true);
-}
-
-QString CommandRouter::OpenFile(const QString &path) {
-  const QScopedValueRollback<bool> opening(isOpening_, true);
-  try {
-    if (!ShowPageOfFile(context_, path)) modWorkFlow::OpenPage(context_, path);
-  } catch (const RuntimeError &error) {
-    const QString refusal =
-        Words::tr("%1 could not be opened: %2").arg(ForPeople(path), error.Description());
-    context_.mainWindow.status.Report(refusal);
-    return refusal;
-  }
-  return {};
-}
-
-void CommandRouter::UpdateDialogFileName() {
-  if (frmMain *page = ActiveDocument()) SetDialogFileName(context_, *page);
 }
 
 void CommandRouter::SavePage(modWorkFlow::SaveKind kind) {
@@ -449,75 +403,6 @@ void CommandRouter::SetForeColor(std::int32_t color) {
 
 void CommandRouter::SetBackColor(std::int32_t color) {
   SetColor(EditingCommand::SetBackColor, color);
-}
-
-void CommandRouter::OpenProjectPage(int pageId) {
-  if (!HasRoom(context_)) return;
-  if (!catalogue_) {
-    throw RuntimeError::Of(ErrorNumber::ObjectNotSet, QStringLiteral("CmbPages"));
-  }
-  const auto page = projectPages_.Find(pageId, *catalogue_);
-  if (!page || ShowPageOfFile(context_, ToLogic(FindIgnoringCase(page->path)))) return;
-  modWorkFlow::OpenProjectPage(context_, page->path);
-  context_.pages.Site(context_.pages.PageCount()) = page->folder;
-}
-
-void CommandRouter::OpenRecentFile(const QString &path) {
-  if (isOpening_ || ShowPageOfFile(context_, path) || !HasRoom(context_)) return;
-  OpenFile(path);
-  UpdateDialogFileName();
-}
-
-QStringList CommandRouter::OpenFiles(const QStringList &paths, int line) {
-  QStringList notOpened;
-  bool isRefused = false;
-  for (const QString &path : paths) {
-    if (ShowPageOfFile(context_, path)) continue;
-    // One report for all files that were refused.
-    isRefused = isRefused || !HasRoom(context_);
-    const QString refusal =
-        isRefused
-            ? Words::tr("%1 could not be opened: too many pages are open").arg(ForPeople(path))
-            : OpenFile(path);
-    if (!refusal.isEmpty()) notOpened += refusal;
-  }
-  frmMain *first = paths.isEmpty() ? nullptr : PageOfFile(context_, paths.first());
-  if (line > 0 && first != nullptr) ShowSourceLine(*first, line);
-  UpdateDialogFileName();
-  return notOpened;
-}
-
-bool CommandRouter::IsBusy() const {
-  return isOpening_ || QApplication::activeModalWidget() != nullptr ||
-         QApplication::activePopupWidget() != nullptr;
-}
-
-void CommandRouter::ShowSourceLine(frmMain &page, int line) {
-  context_.mainWindow.windows.Activate(&page);
-  page.ChangeMode(SourceEditorMode);
-  frmCodeEditor *editor = context_.pages.CodeEditor(page.Number());
-  if (editor == nullptr) return;
-  editor->Code().SetCaret(line - 1, 0);
-  editor->Code().CenterCaret();
-}
-
-void CommandRouter::OpenDroppedFiles(const QStringList &paths, frmMain *page) {
-  const QPointer<frmMain> alive = page;
-  QStringList pages;
-  for (const QString &path : paths) {
-    const PictureKind picture = KindOfPicture(path);
-    if (IsDroppedAsPage(path)) {
-      pages += path;
-    } else if (!alive.isNull() && picture != PictureKind::None &&
-               (picture == PictureKind::Old || context_.hasAdditions)) {
-      insert_.PictureFile(*alive, path);
-    }
-  }
-  if (!isOpening_) OpenFiles(pages, 0);
-}
-
-void CommandRouter::ActivatePage(int number) {
-  context_.mainWindow.windows.Activate(&modWorkFlow::PageWindow(context_, number));
 }
 
 }  // namespace velor

@@ -3,15 +3,12 @@
 
 #include "app/window/Additions.h"
 #include "app/window/Command.h"
-#include "app/window/ProjectPageQuery.h"
 #include "editor/modWorkFlow.h"
 #include "platform/EditingCommands.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <cstdint>
-#include <memory>
 
 class QAction;
 
@@ -19,6 +16,7 @@ namespace velor {
 
 class FrontWindow;
 class InsertCommands;
+class PageOpener;
 class frmMain;
 struct EditorContext;
 struct GeneralButton;
@@ -55,8 +53,8 @@ class CommandHost {
 /// it shows, and saving and previewing on its page.
 class CommandRouter {
  public:
-  CommandRouter(EditorContext &context, const std::unique_ptr<DatabaseConnection> &catalogue,
-                CommandHost &host, InsertCommands &insert, Additions additions);
+  CommandRouter(EditorContext &context, CommandHost &host, InsertCommands &insert,
+                PageOpener &opener, Additions additions);
 
   void Run(const Command &command);
   /// Runs the button's command unless it has a guard (Guard::MenuItem) that is disabled.
@@ -70,34 +68,9 @@ class CommandRouter {
   void SetForeColor(std::int32_t color);
   void SetBackColor(std::int32_t color);
 
-  /// Opens the page with that identifier in the catalogue.
-  void OpenProjectPage(int pageId);
-  /// Opens a file of the list of recent files, or activates the page that has it. `path` in logic
-  /// form. Does nothing while another page is being opened.
-  void OpenRecentFile(const QString &path);
-  /// Opens pages that another program names, as far as there is room, and shows line `line` of the
-  /// first in its source editor unless that is 0. Paths in logic form. Gives a sentence for each
-  /// that was not opened.
-  QStringList OpenFiles(const QStringList &paths, int line);
-  /// Whether a page is being opened, or a dialog waits for a person: nothing else can be opened.
-  bool IsBusy() const;
-  /// Opens dropped pages as far as there is room, whether Open is enabled or not, and inserts
-  /// dropped pictures at the caret of `page`. Paths in logic form.
-  void OpenDroppedFiles(const QStringList &paths, frmMain *page);
-  /// Activates the page window of a slot; it is created first where the slot is empty.
-  void ActivatePage(int number);
-
  private:
   void NewPage();
-  void NewFromTemplate();
   void OpenPage();
-  /// Opens the file, or activates the page that has it. A failure is reported in the status bar;
-  /// returns that sentence, or the empty text.
-  QString OpenFile(const QString &path);
-  /// Shows a line, counted from 1, of the page's source in its editor.
-  void ShowSourceLine(frmMain &page, int line);
-  /// SetDialogFileName for the page that is active now.
-  void UpdateDialogFileName();
   void SavePage(modWorkFlow::SaveKind kind);
   /// Puts what the window in front shows on paper in that way.
   void PutOnPaper(void (CommandHost::*way)(FrontWindow &));
@@ -125,13 +98,10 @@ class CommandRouter {
   void SetColor(EditingCommand set, std::int32_t color);
 
   EditorContext &context_;
-  const std::unique_ptr<DatabaseConnection> &catalogue_;
   CommandHost &host_;
   InsertCommands &insert_;
+  PageOpener &opener_;
   const Additions additions_;
-  ProjectPageQuery projectPages_;
-  /// While a load is waited for: files may be dropped meanwhile.
-  bool isOpening_ = false;
 };
 
 }  // namespace velor

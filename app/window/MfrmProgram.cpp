@@ -4,14 +4,10 @@
 
 #include "app/help/Help.h"
 #include "app/window/CommandList.h"
-#include "app/window/CommandPalette.h"
 #include "app/window/CoolBar.h"
 #include "app/window/CountMenu.h"
 #include "app/window/DialogInsertCommands.h"
 #include "app/window/FormattingBar.h"
-#include "app/window/FrmPrint.h"
-#include "app/window/FrmSettings.h"
-#include "app/window/FrmShortcuts.h"
 #include "app/window/PageArea.h"
 #include "app/window/PageChooser.h"
 #include "app/window/PageTabs.h"
@@ -31,8 +27,6 @@
 #include "chrome/ReportingSweeps.h"
 #include "chrome/ScreenRoom.h"
 #include "chrome/ToolBarButtons.h"
-#include "chrome/frmAbout.h"
-#include "editor/PageWords.h"
 #include "editor/PagesAtExit.h"
 #include "editor/PdfExport.h"
 #include "editor/SourceWrap.h"
@@ -141,7 +135,8 @@ MfrmProgram::MfrmProgram(Platform &platform, ProgramValues &values)
       insert_(std::make_unique<DialogInsertCommands>(platform.runtime, platform.dialogs,
                                                      platform.components, *statusLine_,
                                                      values.HTMLString, sweeps_.get(), additions_)),
-      router_(context_, values.DbConnection, *this, *insert_, additions_),
+      opener_(context_, values.DbConnection, *insert_),
+      router_(context_, *this, *insert_, opener_, additions_),
       menuPictures_(ProgramMenuPictures()),
       menuPainter_(new StyleMenuPainter(this)),
       pageChooser_(new PageChooser(this)),
@@ -194,7 +189,7 @@ void MfrmProgram::PrepareTools() {
   if (tools == nullptr) return;
   recent_ = new RecentFiles(
       *menus_.menus.value(QStringLiteral("mnuRecent")), platform_.registry,
-      [this](const QString &path) { router_.OpenRecentFile(path); }, this);
+      [this](const QString &path) { opener_.OpenRecentFile(path); }, this);
   new PageZoom(
       *area_, [this](const Command &command) { router_.Run(command); }, this);
   // The key of "+" without Shift, where that is the one of "=".
@@ -316,10 +311,10 @@ void MfrmProgram::ConnectBars() {
   connect(boxes, &FormattingBar::BackColorChanged, this,
           [this](std::int32_t color) { router_.SetBackColor(color); });
   connect(pageTabs_, &PageTabs::PageChosen, this,
-          [this](int number) { router_.ActivatePage(number); });
+          [this](int number) { opener_.ActivatePage(number); });
   connect(pageTabs_, &PageTabs::Pointed, statusLine_, &StatusLine::ShowPlace);
   connect(pageChooser_, &PageChooser::PageChosen, this,
-          [this](std::int32_t pageId) { router_.OpenProjectPage(pageId); });
+          [this](std::int32_t pageId) { opener_.OpenProjectPage(pageId); });
   connect(boxes, &FormattingBar::Done, area_, &PageArea::FocusFrontWindow);
   connect(area_, &PageArea::FrontChanged, this, &MfrmProgram::ShowFront);
 }
@@ -363,114 +358,6 @@ void MfrmProgram::closeEvent(QCloseEvent *event) {
   UnloadProgramWindows();
   event->accept();
   Q_EMIT Unloaded();
-}
-
-FrontWindow *MfrmProgram::Front() {
-  return area_->Front();
-}
-
-QAction &MfrmProgram::MenuItem(const Command &command) {
-  return *menus_.items.at(command);
-}
-
-void MfrmProgram::ChooseMenuStyle(int index) {
-  velor::ChooseMenuStyle(index, platform_.registry, menuPictures_, *menuPainter_);
-  MarkMenuStyle(index);
-}
-
-void MfrmProgram::MarkMenuStyle(int index) {
-  for (const MenuRow &row : MenuTable()) {
-    if (row.command.id != CommandId::MenuStyle) continue;
-    QAction &item = MenuItem(row.command);
-    item.setCheckable(true);
-    item.setChecked(row.index == index);
-  }
-}
-
-void MfrmProgram::ArrangeWindows(int arrangement) {
-  area_->Arrange(static_cast<Arrangement>(arrangement));
-}
-
-void MfrmProgram::ShowProjectManager() {
-  projects_->ShowProjectManager(*this);
-}
-
-void MfrmProgram::ShowAbout() {
-  frmAbout about(platform_.runtime, engine_, this);
-  platform_.dialogs.RunModal(about);
-}
-
-void MfrmProgram::ShowHelp() {
-  const QWidget *from = QApplication::focusWidget();
-  if (from == nullptr || from->window() != this) from = area_->Current();
-  help_->ShowFor(from == nullptr ? this : from);
-}
-
-void MfrmProgram::ShowCommandPalette() {
-  selectionItems_.Refresh();
-  QList<NamedCommand> commands = CommandsOf(menus_, bandBar_->Formatting());
-  commands.removeIf(
-      [](const NamedCommand &each) { return each.command.id == CommandId::FindCommand; });
-  RunPalette({tr("Find Command"), tr("Words of the command"), tr("Commands")},
-             LastUsedFirst(platform_.registry, commands));
-}
-
-void MfrmProgram::ShowRecentFiles() {
-  const QMenu *menu = menus_.menus.value(QStringLiteral("mnuRecent"));
-  if (menu == nullptr) return;
-  recent_->Refill();
-  QList<NamedCommand> files;
-  for (QAction *file : menu->actions()) files.append({file->toolTip(), file, {}});
-  RunPalette({tr("Recent Files"), tr("Words of the file's path"), tr("Files")}, files);
-}
-
-void MfrmProgram::RunPalette(const PaletteWords &words, const QList<NamedCommand> &commands) {
-  const QPointer<MfrmProgram> alive = this;
-  CommandPalette palette(words, commands, this);
-  platform_.dialogs.RunModal(palette);
-  if (alive.isNull() || palette.Chosen() == nullptr) return;
-  for (const NamedCommand &each : commands)
-    if (each.item == palette.Chosen() && !each.id.isEmpty()) NoteUse(platform_.registry, each.id);
-  palette.Chosen()->trigger();
-}
-
-void MfrmProgram::ShowDrives() {
-  projects_->ShowDrives(*this);
-}
-
-void MfrmProgram::ShowShortcuts() {
-  const QPointer<MfrmProgram> alive = this;
-  FrmShortcuts window(*shortcuts_, this);
-  platform_.dialogs.RunModal(window);
-  if (!alive.isNull() && window.result() == QDialog::Accepted) shortcuts_->Use(window.Keys());
-}
-
-void MfrmProgram::ShowSettings() {
-  const QPointer<MfrmProgram> alive = this;
-  FrmSettings settings(platform_.registry, menuPictures_, this);
-  platform_.dialogs.RunModal(settings);
-  if (alive.isNull() || settings.result() != QDialog::Accepted) return;
-  ShowLineWrap(context_);
-  UseSpelling(context_);
-  DressMenus();
-}
-
-void MfrmProgram::ExportPdf(FrontWindow &front) {
-  pdfExport_->Begin(front);
-}
-
-void MfrmProgram::Print(FrontWindow &front) {
-  PagePrinting *printing = front.Printing();
-  if (printing == nullptr) return;
-  Registry &registry = platform_.registry;
-  PrintChoices choices = ReadPrintChoices(registry);
-  FrmPrint dialog(*printing, printers_, {front.ShownName(), front.FilePath()}, choices, this);
-  platform_.dialogs.RunModal(dialog);
-  StorePrintChoices(registry, choices);
-}
-
-void MfrmProgram::CloseProgram() {
-  close();
 }
 
 }  // namespace velor

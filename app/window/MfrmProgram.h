@@ -6,6 +6,7 @@
 #include "app/window/LoadOrder.h"
 #include "app/window/MenuBuilder.h"
 #include "app/window/MenuSettings.h"
+#include "app/window/PageOpener.h"
 #include "app/window/SelectionItems.h"
 #include "editor/EditorContext.h"
 #include "editor/MainWindow.h"
@@ -75,6 +76,7 @@ class MfrmProgram final : public QMainWindow,
   void ShowRecentFiles();
 
   CommandRouter &Router() { return router_; }
+  PageOpener &Opener() { return opener_; }
   EditorContext &Context() { return context_; }
 
  Q_SIGNALS:
@@ -153,6 +155,7 @@ class MfrmProgram final : public QMainWindow,
   /// Null where controls are not styled.
   std::unique_ptr<StylingSweeps> sweeps_;
   std::unique_ptr<InsertCommands> insert_;
+  PageOpener opener_;
   CommandRouter router_;
   MenuPictures menuPictures_;
   StyleMenuPainter *menuPainter_;

@@ -39,7 +39,7 @@ void MfrmProgram::PopUpContextMenu(QPoint screenPosition) {
 }
 
 void MfrmProgram::OpenDroppedFiles(const QStringList &paths, frmMain *page) {
-  router_.OpenDroppedFiles(paths, page);
+  opener_.OpenDroppedFiles(paths, page);
 }
 
 void MfrmProgram::ShowPictureProperties(frmMain &) {

@@ -118,11 +118,11 @@ TEST_F(OpeningTest, DroppedPagesOpenAsFarAsThereIsRoomAndTheRestIsRefusedOnce) {
     WriteFile(paths.back());
   }
   ExpectRefusal();
-  window.Router().OpenDroppedFiles(paths, nullptr);
+  window.Opener().OpenDroppedFiles(paths, nullptr);
   EXPECT_EQ(Tabs().count(), 5);
   EXPECT_TRUE(Item("mnuOpen")->isEnabled());
   window.Context().pages.Page(1)->close();
-  window.Router().OpenDroppedFiles({paths[4]}, nullptr);
+  window.Opener().OpenDroppedFiles({paths[4]}, nullptr);
   EXPECT_EQ(Tabs().count(), 5);
   SharedDialog().ExpectCancelledOpen();
   window.Context().pages.Page(2)->close();
@@ -134,7 +134,7 @@ TEST_F(OpeningTest, FilesDroppedAfterARefusedOpenStillOpenOnceThereIsRoom) {
   ExpectRefusal();
   Choose("mnuOpen");
   window.Context().pages.Page(1)->close();
-  window.Router().OpenDroppedFiles({QStringLiteral("\\site\\a.htm")}, nullptr);
+  window.Opener().OpenDroppedFiles({QStringLiteral("\\site\\a.htm")}, nullptr);
   EXPECT_EQ(Tabs().count(), 5);
   EXPECT_FALSE(Item("mnuOpen")->isEnabled());
 }
@@ -146,12 +146,12 @@ TEST_F(OpeningTest, AFileThatIsOpenAlreadyComesToTheFrontHoweverItIsOpened) {
   for (int i = 0; i < 4; ++i) NewPage();
   EXPECT_EQ(Tabs().currentIndex(), 4);
   // There is room for it, though for no other.
-  window.Router().OpenDroppedFiles({path}, nullptr);
+  window.Opener().OpenDroppedFiles({path}, nullptr);
   EXPECT_EQ(Tabs().currentIndex(), 0);
   EXPECT_EQ(Find<QStatusBar>("Sta")->currentMessage(),
             QStringLiteral("/site/a.htm is open already"));
   window.Context().pages.Page(5)->close();
-  window.Router().ActivatePage(2);
+  window.Opener().ActivatePage(2);
   SharedDialog().ExpectOpen(path);
   Choose("mnuOpen");
   EXPECT_EQ(Tabs().currentIndex(), 0);
@@ -166,9 +166,9 @@ TEST_F(OpeningTest, TheDialogHoldsTheActivePagesNameWhateverHappened) {
   SharedDialog().ExpectOpen(a);
   Choose("mnuOpen");
   EXPECT_EQ(held(), a);
-  window.Router().OpenDroppedFiles({b}, nullptr);
+  window.Opener().OpenDroppedFiles({b}, nullptr);
   EXPECT_EQ(held(), b);
-  window.Router().ActivatePage(1);
+  window.Opener().ActivatePage(1);
   EXPECT_EQ(held(), a);
   SharedDialog().ExpectOpen(QStringLiteral("\\site\\gone.htm"));
   Choose("mnuOpen");

@@ -178,7 +178,7 @@ class PublishedAlone : public WindowFixture {
 
 TEST_F(PublishedAlone, TabsHaveNeitherMarksNorPaths) {
   WriteFile(QStringLiteral("\\site\\a.htm"));
-  window.Router().OpenFiles({QStringLiteral("\\site\\a.htm")}, 0);
+  window.Opener().OpenFiles({QStringLiteral("\\site\\a.htm")}, 0);
   ASSERT_EQ(Tabs().Count(), 1);
   EXPECT_EQ(Tabs().tabToolTip(0), QStringLiteral("a.htm"));
   components.editingComponents.back()->Edit(QStringLiteral("<p>changed</p>"));

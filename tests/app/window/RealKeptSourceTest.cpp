@@ -123,9 +123,9 @@ TEST_F(RealOtherForms, AreNotOpenedFromDialogDropHistoryOrClipboardAndSaidToBeWh
     SharedDialog().ExpectOpen(Logic(PageFile));
     Choose("mnuOpen");
     ExpectTold(form);
-    window.Router().OpenDroppedFiles({Logic(PageFile)}, nullptr);
+    window.Opener().OpenDroppedFiles({Logic(PageFile)}, nullptr);
     ExpectTold(form);
-    window.Router().OpenRecentFile(Logic(PageFile));
+    window.Opener().OpenRecentFile(Logic(PageFile));
     ExpectTold(form);
     auto *copied = new QMimeData;
     copied->setUrls({QUrl::fromLocalFile(folder.FilePath(PageFile))});

@@ -207,7 +207,7 @@ TEST_F(RealPageFiles, AFileThatIsOpenComesToTheFrontByWhateverNameItIsOpenedAgai
                  QFile::encodeName(folder.FilePath(QStringLiteral("second.htm"))).constData()),
             0);
   for (const char *other : {"page.htm", "link.htm", "second.htm", "./page.htm"}) {
-    window.Router().ActivatePage(2);
+    window.Opener().ActivatePage(2);
     ASSERT_EQ(Tabs().currentIndex(), 1);
     SharedDialog().ExpectOpen(Logic(QString::fromLatin1(other)));
     Choose("mnuOpen");
@@ -224,7 +224,7 @@ TEST_F(RealPageFiles, EverySaveOfADroppedPageGoesToItsOwnFile) {
   const QString other = QStringLiteral("other.htm");
   Open(other, Plain);
   Write(PageFile, Plain);
-  window.Router().OpenDroppedFiles({Logic(PageFile)}, nullptr);
+  window.Opener().OpenDroppedFiles({Logic(PageFile)}, nullptr);
   frmMain &page = *window.Context().pages.Page(2);
   ASSERT_TRUE(WaitFor([&] { return page.PendingAction.isEmpty(); }));
   PutCaret(page, QStringLiteral("p"));
@@ -243,7 +243,7 @@ TEST_F(RealPageFiles, EverySaveGoesToThePagesOwnFileThoughAnotherOneWasOpenedOrR
   Write(QStringLiteral("big.htm"), QByteArray(33'000'000, ' '));
   SharedDialog().ExpectOpen(Logic(QStringLiteral("big.htm")));
   Choose("mnuOpen");
-  window.Router().ActivatePage(1);
+  window.Opener().ActivatePage(1);
   PutCaret(page, QStringLiteral("p"));
   for (const char *text : {"x", "y"}) {
     Type(page, QString::fromLatin1(text));

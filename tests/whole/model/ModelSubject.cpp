@@ -252,7 +252,7 @@ class Subject {
     return editor != nullptr && page.GetPageRecord().EditorOpen != False16 ? editor : nullptr;
   }
   void Switch(int index) {
-    if (Tabs().count() > 0) window_.Router().ActivatePage(NumberOfTab(index % Tabs().count()));
+    if (Tabs().count() > 0) window_.Opener().ActivatePage(NumberOfTab(index % Tabs().count()));
   }
   int NumberOfTab(int tab) {
     Tabs().setCurrentIndex(tab);
@@ -261,7 +261,7 @@ class Subject {
   void Drop(const QJsonArray &paths) {
     QStringList logic;
     for (const QJsonValue &path : paths) logic.append(ToLogic(path.toString()));
-    window_.Router().OpenDroppedFiles(logic, ActivePage());
+    window_.Opener().OpenDroppedFiles(logic, ActivePage());
   }
   /// At the start of the page's first paragraph.
   void Type(frmMain &page, const QString &word) {
