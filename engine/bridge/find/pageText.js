@@ -16,8 +16,9 @@ const displayOf = (element) => getComputedStyle(element).display;
  * Appends a text to a line. White space that shows as one blank is one.
  * @param {TextLine} line
  * @param {Text} node
+ * @param {(text: Text) => boolean} keeps whether it shows white space as it stands
  */
-function append(line, node) {
+function append(line, node, keeps) {
   const { data } = node;
   const { pieces } = line;
   /**
@@ -28,21 +29,27 @@ function append(line, node) {
     pieces.push({ node, at: line.text.length, offset });
     line.text += text;
   };
-  const isDoubled = /^[ \t\r\n\f]/.test(data) && /(^| )$/.test(line.text);
-  if ((!isDoubled && !/[\t\r\n\f]| {2}/.test(data)) || keepsBlanks(node)) {
+  const isAtBlank = () => line.text === '' || line.text.endsWith(' ');
+  const isDoubled = /^[ \t\r\n\f]/.test(data) && isAtBlank();
+  if ((!isDoubled && !/[\t\r\n\f]| {2}/.test(data)) || keeps(node)) {
     add(data, 0);
     return;
   }
+  if (isDoubled && !/[^ \t\r\n\f]/.test(data)) return;
   for (const { 0: part, index } of data.matchAll(/[ \t\r\n\f]+|[^ \t\r\n\f]+/g)) {
     if (!/[ \t\r\n\f]/.test(part[0])) add(part, index);
-    else if (!/(^| )$/.test(line.text)) add(' ', index);
+    else if (!isAtBlank()) add(' ', index);
   }
 }
 
 // True for what ends the line before it and begins another one behind it.
-/** @param {AnyNode} node */
-const isOwnLine = (node) => dom.isElement(node) && (dom.isBlock(node) || dom.isBreak(node) ||
-  dom.isAtom(node) || !/^(inline|contents)$/.test(displayOf(node)));
+/**
+ * @param {AnyNode} node
+ * @param {string} [display] its own
+ */
+const isOwnLine = (node, display) => dom.isElement(node) &&
+  (!/^(inline|contents)$/.test(display ?? displayOf(node)) || dom.isBlock(node) ||
+    dom.isBreak(node) || dom.isAtom(node));
 
 // Where the line begins that a node is in; sooner where that would be far to look for.
 /** @param {AnyNode} node */
@@ -73,32 +80,51 @@ export function readLines(sight) {
     if (line.text.trim() && !isTooLong()) lines.push(line);
     line = { text: '', pieces: [] };
   };
+  // Of the elements that were entered. To ask for a style is most of what reading a page takes.
+  /** @type {Map<Element, boolean>} */
+  const ownLines = new Map();
+  /** @type {{ parent: Node | null, keeps: boolean }} */
+  let blanks = { parent: null, keeps: false };
+  /** @param {Text} text */
+  const keeps = (text) => {
+    const parent = text.parentNode;
+    if (blanks.parent !== parent) blanks = { parent, keeps: keepsBlanks(text) };
+    return blanks.keeps;
+  };
   // Answers whether what is in the node is to be read.
   /** @param {AnyNode} node */
   const enter = (node) => {
-    if (dom.isText(node) && !(sight && node.length > longestLine)) append(line, node);
-    if (!dom.isElement(node) || dom.isNeutral(node) || displayOf(node) === 'none') return false;
-    if (isOwnLine(node)) endLine();
-    return !dom.isAtom(node);
+    if (dom.isText(node)) {
+      if (!(sight && node.length > longestLine)) append(line, node, keeps);
+      return false;
+    }
+    if (dom.isNeutral(node)) return false;
+    const display = displayOf(node);
+    if (display === 'none') return false;
+    const isOwn = isOwnLine(node, display);
+    ownLines.set(node, isOwn);
+    if (isOwn) endLine();
+    return !isOwn || !dom.isAtom(node);
   };
   /** @param {AnyNode} node */
   const leave = (node) => {
-    if (dom.isElement(node) && !dom.isNeutral(node) && isOwnLine(node)) endLine();
+    const isOwn = ownLines.get(node);
+    if (isOwn ?? (!dom.isNeutral(node) && isOwnLine(node))) endLine();
   };
   /** @param {AnyNode} node */
   const isBehind = (node) => sight?.last?.compareDocumentPosition(node) ===
     Node.DOCUMENT_POSITION_FOLLOWING;
 
   if (!dom.isEditable()) return lines;
-  let node = sight && sight.first !== document.body ? lineStart(sight.first)
-    : document.body.firstChild;
+  const { body } = document;
+  let node = sight && sight.first !== body ? lineStart(sight.first) : body.firstChild;
   while (node && !(isBehind(node) && (!line.text || isTooLong()))) {
     if (enter(node) && node.firstChild) {
       node = node.firstChild;
       continue;
     }
     leave(node);
-    while (!node.nextSibling && node.parentNode !== document.body) {
+    while (!node.nextSibling && node.parentNode !== body) {
       node = node.parentNode;
       leave(node);
     }
