@@ -119,6 +119,25 @@ TEST_F(PageCheckProgram, PressesKeysAndPastes) {
   EXPECT_GT(lines_[0][QStringLiteral("bytes_added")].toInt(), 0);
 }
 
+TEST_F(PageCheckProgram, ReplacesWordsInAllPlacesOfTheTextAndNowhereElse) {
+  const QByteArray source =
+      "<HTML><BODY>\r\n<P title=one>one two<!-- one --><? one ?>\r\n<P align=left>on<B>e</B>\r\n";
+  const QString page = Write(QStringLiteral("page.htm"), source);
+  const QString kept = folder_.filePath(QStringLiteral("kept"));
+  EXPECT_EQ(
+      Run({QStringLiteral("--edit=replace-all=one,three"), QStringLiteral("--keep"), kept, page}),
+      0);
+  ASSERT_EQ(lines_.size(), 1U);
+  EXPECT_TRUE(Has(0, "edited")) << output_.constData();
+  EXPECT_TRUE(Has(0, "document_equal")) << output_.constData();
+  QFile copy(kept + QStringLiteral("/1.htm"));
+  ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+  EXPECT_EQ(copy.readAll().toStdString(), QByteArray(source)
+                                              .replace(">one two", ">three two")
+                                              .replace("on<B>e</B>", "three")
+                                              .toStdString());
+}
+
 TEST_F(PageCheckProgram, LeavesThePagesOfTheManualAsTheyAreExceptForWhatIsTyped) {
   const QDir manual(QStringLiteral(VELOR_MANUAL));
   QStringList pages;

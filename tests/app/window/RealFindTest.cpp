@@ -52,6 +52,17 @@ TEST_F(RealFind, TypedWordsAreCountedAndF3WalksThroughThem) {
   EXPECT_TRUE(Tells(page, "Not found"));
 }
 
+TEST_F(RealFind, ServerCodeIsNeverMatchedInThePageAndIsFoundInItsSource) {
+  frmMain &page = Open(QStringLiteral("words.htm"),
+                       "<p>two<?php one(); ?> <% one %><a href=\"<%= one %>\">one</a><?= one ?>\n");
+  Key(page, Qt::Key_F, Qt::ControlModifier);
+  ASSERT_TRUE(WaitFor([&] { return Box(page, "txtFind").hasFocus(); }));
+  QTest::keyClicks(&Box(page, "txtFind"), QStringLiteral("one"));
+  EXPECT_TRUE(Tells(page, "1 of 1"));
+  page.ChangeMode(2);
+  EXPECT_TRUE(Tells(page, "4 of 5")) << "the match of the page is selected there";
+}
+
 TEST_F(RealFind, EscapeLeavesTheKeyboardOnTheMatch) {
   frmMain &page = OpenBar(Qt::Key_F);
   QTest::keyClicks(&Box(page, "txtFind"), QStringLiteral("two"));
