@@ -3,11 +3,15 @@
 
 #include "app/window/PathBar.h"
 #include "chrome/Palette.h"
+#include "platform/PlainTip.h"
 #include "platform/Words.h"
 
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 #include <QToolButton>
 
 #include <algorithm>
@@ -149,10 +153,42 @@ void StatusLine::Drop(Condition isDue) {
 void StatusLine::Show() {
   if (notices_.empty()) {
     timer_.stop();
-    return clearMessage();
+    clearMessage();
+  } else {
+    timer_.start(notices_.back().left);
+    showMessage(notices_.back().text);
   }
-  timer_.start(notices_.back().left);
-  showMessage(notices_.back().text);
+  ShowTip();
+}
+
+QRect StatusLine::NoticePlace() const {
+  int end = width() - BarMargin;
+  for (const QWidget *field : findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
+    if (field != left_ && field->isVisible()) end = std::min(end, field->x() - BarMargin);
+  return {BarMargin, 0, std::max(0, end - BarMargin), height()};
+}
+
+QString StatusLine::ShownNotice() const {
+  return fontMetrics().elidedText(currentMessage(), Qt::ElideRight, NoticePlace().width());
+}
+
+void StatusLine::ShowTip() {
+  setToolTip(ShownNotice() == currentMessage() ? QString() : PlainTip(currentMessage()));
+}
+
+void StatusLine::resizeEvent(QResizeEvent *event) {
+  QStatusBar::resizeEvent(event);
+  ShowTip();
+}
+
+void StatusLine::paintEvent(QPaintEvent *event) {
+  if (currentMessage().isEmpty()) return QStatusBar::paintEvent(event);
+  QPainter painter(this);
+  QStyleOption option;
+  option.initFrom(this);
+  style()->drawPrimitive(QStyle::PE_PanelStatusBar, &option, &painter, this);
+  style()->drawItemText(&painter, NoticePlace(), Qt::AlignLeading | Qt::AlignVCenter, palette(),
+                        isEnabled(), ShownNotice(), foregroundRole());
 }
 
 }  // namespace velor

@@ -50,6 +50,9 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   /// To be called with the slot of the page that has come to the front, 0 for none: removes the
   /// notices about other pages.
   void PageActivated(int page);
+  /// What is to be read of the notice: where it is longer than its place it is cut off at its end,
+  /// and the tip of the bar has it whole.
+  QString ShownNotice() const;
 
  Q_SIGNALS:
   /// The menu is asked for, to stand over a place of the screen.
@@ -57,6 +60,8 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
 
  protected:
   void contextMenuEvent(QContextMenuEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
 
  private:
   struct Notice {
@@ -68,6 +73,9 @@ class StatusLine final : public QStatusBar, public StatusDisplay {
   template <typename Condition>
   void Drop(Condition isDue);
   void Show();
+  void ShowTip();
+  /// Where a notice stands: up to the first of the fields at the right.
+  QRect NoticePlace() const;
   void ShowTagOrPlace();
 
   QWidget *left_;  ///< tag and path, which a notice covers

@@ -51,6 +51,35 @@ TEST(StatusLineTest, ANoticeIsTheNameOfTheBarForAssistiveTechnology) {
   EXPECT_EQ(name(), QString());
 }
 
+TEST(StatusLineTest, ALongNoticeIsCutOffBeforeTheFieldsAndItsTipHasItWhole) {
+  StatusLine bar(nullptr);
+  bar.AddMenuButton(QStringLiteral("..."), QStringLiteral("Menu"));
+  bar.ShowTextForm(QStringLiteral("windows-1252, CR LF, 150 %"));
+  bar.resize(480, bar.sizeHint().height());
+  bar.show();
+  const auto *field = bar.findChild<QWidget *>(QStringLiteral("Sta_2"));
+  const auto fields = [&] {
+    return bar.grab(QRect(field->x() - 3, 0, bar.width(), bar.height())).toImage();
+  };
+  // Without the tag and the path, which a notice covers.
+  bar.Report(QStringLiteral(" "));
+  const QImage before = fields();
+  const QString notice = QStringLiteral(
+      "Die Rechtschreibung einer Sprache dieser Seite wird nicht gepr\u00fcft: das "
+      "Paket hunspell-fr ist nicht installiert.");
+  bar.Report(notice);
+  EXPECT_TRUE(fields() == before) << "the notice runs into a field";
+  EXPECT_EQ(bar.currentMessage(), notice);
+  EXPECT_TRUE(bar.ShownNotice().endsWith(u'\u2026')) << bar.ShownNotice().toStdString();
+  EXPECT_TRUE(bar.toolTip().contains(notice)) << bar.toolTip().toStdString();
+  bar.resize(2'000, bar.height());
+  EXPECT_EQ(bar.ShownNotice(), notice);
+  EXPECT_EQ(bar.toolTip(), QString());
+  bar.resize(480, bar.height());
+  bar.Report(QStringLiteral("Saved"));
+  EXPECT_EQ(bar.ShownNotice(), QStringLiteral("Saved"));
+}
+
 TEST(StatusLineTest, ANoticeRepeatedIsShownOnce) {
   StatusLine bar(nullptr);
   bar.ReportOn(1, QStringLiteral("same"));
