@@ -444,6 +444,20 @@ def words(photos):
     program.wait("Change to", "combo box")
     photos.shot("spelling-bar")
     program.key("Escape")
+    page = program.wait("Untitled 1", "frame")
+    program.press("View HTML", within=page)
+    program.key("F7")
+    program.wait("Next", "push button", program.wait("Spelling", "panel|frame"))
+    photos.shot("view-html-spelling")
+    program.key("Escape", "ctrl+Home")
+    photos.shot("view-html-waves")
+    program.press("Edit HTML", within=page)
+    program.key("F7")
+    program.wait("Change to", "combo box")
+    program.key("Escape")
+    photos.popup(lambda: program.key("ctrl+period"), "source-word", "Down")
+    program.key("ctrl+F4")
+    program.press("Design", within=page)
     photos.popup(lambda: photos.click("Words and characters"), "word-counts", "Down")
     photos.dialog(command("Shortcuts"), "shortcuts", ("Reset All", "push button"))
     photos.dialog(command("Insert Character"), "character", ("Cancel",))
@@ -480,12 +494,16 @@ def modes(photos):
 def narrow(photos):
     """The narrowest window: what does not fit stands in the bars' overflow menus."""
     program = photos.program
-    program.press("Design", within=program.wait("Untitled 5", "frame"))
+    page = program.wait("Untitled 5", "frame")
+    program.press("Design", within=page)
     program.size_window(int(480 * photos.factor), screen()[1])
     photos.away()
     photos.shot("narrow")
     edge = int(470 * photos.factor), int(85 * photos.factor)
     photos.popup(lambda: program.click(*edge), "narrow-formats")
+    program.press("Preview", within=page)
+    page_widths(photos)
+    program.key("ctrl+F4")
 
 
 NAMES = """<!DOCTYPE html>
