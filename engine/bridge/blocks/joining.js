@@ -110,18 +110,22 @@ function endWithComments(node) {
 }
 
 // The lists that are all that is left of an item go along into the other one, before the list of
-// its own that the item stood in; so do the source's lines before and behind them.
+// its own that the item stood in; so do the source's lines before and behind them. Where the text
+// that has gone there ends in a line end the lists have one: what is left is the item's own.
 /**
  * @param {AnyNode} home
  * @param {AnyNode} item
+ * @param {AnyNode} last of what has gone there
  */
-function moveSublists(home, item) {
+function moveSublists(home, item, last) {
   const rest = [...home.childNodes].filter(dom.isShown);
   const onlyLists = rest.length > 0 && rest.every(dom.isList);
   if (home.tagName !== 'LI' || !item || home.contains(item) || !onlyLists) return;
   const own = [...item.children].find((child) => child.contains(home));
   const end = [...item.childNodes].reverse().find(dom.isShown);
-  const line = dom.isBlank(rest[0].previousSibling) ? rest[0].previousSibling : rest[0];
+  const hasLine = dom.isText(last) && /\n[ \t]*$/.test(last.data);
+  const before = rest[0].previousSibling;
+  const line = dom.isBlank(before) && !hasLine ? before : rest[0];
   const moved = [...home.childNodes].slice(selection.indexOf(line));
   if (own) own.before(...moved);
   else if (end) end.after(...moved);
@@ -157,7 +161,7 @@ export function join(first, second, mark = null, line = null) {
   else if (mark) mark.after(...moved);
   else if (first.container.firstChild) first.container.prepend(...moved);
   else first.container.append(...moved);
-  moveSublists(home, itemOf(first));
+  moveSublists(home, itemOf(first), moved.at(-1));
   // Before what is around it is looked at: a list of which all is deleted has one empty item.
   holdOpen(first.container);
   dropEmptyBlocks(home);
