@@ -300,8 +300,13 @@ function leaveLines(block, { blocks, isJoined }) {
 history.completeStepsBy((changes) => {
   const found = made(changes);
   const { blocks, inPlace, around } = found;
+  if (!blocks.size) return;
+  const range = selection.range();
+  const cells = range && selection.saveCells(range);
   for (const block of around) leaveLines(block, found);
   for (const block of blocks) {
     if (!dom.isCell(block) || !blocks.has(block.parentNode)) set(block, inPlace.has(block));
   }
+  // Cells are selected up to their last node, a line end that has come too.
+  selection.restore(cells);
 });
