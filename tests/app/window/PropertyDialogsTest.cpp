@@ -2,6 +2,7 @@
 #include "chrome/ColorPicker.h"
 #include "editor/PageSlots.h"
 #include "editor/frmMain.h"
+#include "platform/Paths.h"
 #include "properties/frmProperties.h"
 #include "tests/app/window/EveryField.h"
 #include "tests/app/window/WindowFixture.h"
@@ -9,11 +10,14 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTemporaryDir>
 
 namespace velor {
 namespace {
@@ -27,6 +31,14 @@ class PropertyDialogs : public WindowFixture {
   }
   static void Press(QWidget &dialog, const char *button) {
     dialog.findChild<QPushButton *>(QLatin1String(button))->click();
+  }
+  /// The addresses that the window offers for a link.
+  static std::string OffersOf(QWidget &dialog) {
+    const auto *list = dialog.findChild<QComboBox *>(QStringLiteral("prp_href_list"));
+    QStringList offers;
+    for (int index = 0; list != nullptr && index < list->count(); ++index)
+      offers << list->itemText(index);
+    return offers.join(u' ').toStdString();
   }
   QStringList Written() const {
     QStringList calls;
@@ -153,6 +165,28 @@ TEST_F(PropertyDialogs, BrowseFillsInTheLinkFromThePageToTheFile) {
       QStringList(QStringLiteral("SetProperties(0, picture=img/a%231.png sheets=a.css\nb.css)")));
 }
 
+TEST_F(PropertyDialogs, ALinkInAPageOfAProjectIsOfferedTheProjectsPages) {
+  const QTemporaryDir project;
+  QDir(project.path()).mkdir(QStringLiteral("more"));
+  for (const char *name : {"index.htm", "more/a.htm", "more/b.html", "more/photo.png"})
+    EXPECT_TRUE(QFile(project.filePath(QLatin1String(name))).open(QIODevice::WriteOnly));
+  WriteFile(ToLogic(project.filePath(QStringLiteral("more/a.htm"))));
+  values.DbConnection = database.ConnectEmptyCatalogue();
+  database.results[QStringLiteral("Select * from Page where PageId = 7")] = {
+      .columns = {{.name = QStringLiteral("TPath")}, {.name = QStringLiteral("Path")}},
+      .rows = {{ToLogic(project.path()) + u'\\', QStringLiteral("more\\a.htm")}}};
+  window.Opener().OpenProjectPage(7);
+  FakeEditingComponent &component = Component(*window.Context().pages.Page(1));
+  component.properties[PropertySubject::Link] = {{"href", ""}};
+  dialogs.ExpectModal([](QWidget &dialog) {
+    EXPECT_EQ(OffersOf(dialog), "../index.htm b.html");
+    dialog.findChild<QComboBox *>(QStringLiteral("prp_href_list"))->setCurrentIndex(0);
+    Press(dialog, "cmdOK");
+  });
+  Choose("extAPro");
+  EXPECT_EQ(Written(), QStringList(QStringLiteral("SetProperties(4, href=../index.htm)")));
+}
+
 TEST_F(PropertyDialogs, ALinkIsOfferedThePlacesOfThePageAndOfThePageLinkedTo) {
   WriteFile(QStringLiteral("\\site\\page.htm"));
   SharedDialog().ExpectOpen(QStringLiteral("\\site\\page.htm"));
@@ -164,9 +198,7 @@ TEST_F(PropertyDialogs, ALinkIsOfferedThePlacesOfThePageAndOfThePageLinkedTo) {
   dialogs.ExpectModal([](QWidget &dialog) {
     auto *list = dialog.findChild<QComboBox *>(QStringLiteral("prp_href_list"));
     ASSERT_NE(list, nullptr);
-    QStringList offers;
-    for (int index = 0; index < list->count(); ++index) offers << list->itemText(index);
-    EXPECT_EQ(offers.join(u' ').toStdString(), "x.htm#there #here");
+    EXPECT_EQ(OffersOf(dialog), "x.htm#there #here");
     EXPECT_EQ(list->currentText(), QStringLiteral("x.htm"));
     list->setCurrentIndex(0);
     Press(dialog, "cmdApply");
