@@ -7,6 +7,7 @@
 
 #include <QAbstractItemView>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -37,6 +38,13 @@ const QStyleOptionToolButton *TextedToolButton(const QStyleOption *option) {
 
 HouseStyle::HouseStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+void HouseStyle::polish(QWidget *widget) {
+  QProxyStyle::polish(widget);
+  // The frame has filled the box; the text's own field would lie over its corners.
+  if (auto *lines = qobject_cast<QPlainTextEdit *>(widget))
+    lines->viewport()->setAutoFillBackground(false);
+}
+
 void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                QPainter *painter, const QWidget *widget) const {
   switch (element) {
@@ -62,8 +70,13 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
       DrawHairlineFrame(&belowTitle, painter);
       return;
     }
-    case PE_FrameTabWidget:
     case PE_Frame:
+      if (qobject_cast<const QPlainTextEdit *>(widget)) {
+        DrawEntryBox(option, painter, widget);
+        return;
+      }
+      [[fallthrough]];
+    case PE_FrameTabWidget:
       DrawHairlineFrame(option, painter);
       return;
     case PE_FrameStatusBarItem:

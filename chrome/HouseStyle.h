@@ -19,6 +19,8 @@ class HouseStyle : public QProxyStyle {
 
   HouseStyle();
 
+  using QProxyStyle::polish;
+  void polish(QWidget *widget) override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
   void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

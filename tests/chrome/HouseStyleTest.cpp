@@ -4,6 +4,8 @@
 
 #include <QCheckBox>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QStyleOptionSlider>
 #include <QTreeWidget>
@@ -52,6 +54,16 @@ TEST_P(HouseStyleTest, ACheckBoxHasAnEdgeThatShows) {
   option.initFrom(&box);
   const QRect place = style.subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
   EXPECT_EQ(image.pixelColor(place.left(), place.center().y()), BoxEdge(box.palette()));
+}
+
+TEST_P(HouseStyleTest, ABoxOfSeveralLinesLooksAsOneOfALineDoes) {
+  QPlainTextEdit lines;
+  QLineEdit line;
+  const auto corner = [this](QWidget &box) {
+    Dressed(box).resize(120, 60);
+    return box.grab().toImage().copy(0, 0, 12, 12);
+  };
+  EXPECT_EQ(corner(lines), corner(line));
 }
 
 INSTANTIATE_TEST_SUITE_P(Shades, HouseStyleTest, ::testing::Values(Shade::Light, Shade::Dark));
