@@ -2,6 +2,7 @@
 #include "editor/FindBar.h"
 
 #include "chrome/Palette.h"
+#include "platform/LastFirst.h"
 #include "platform/Words.h"
 
 #include <QAction>
@@ -72,10 +73,7 @@ QHBoxLayout *MakeRow() {
 }
 
 void Remember(QStringList &used, const QString &words) {
-  if (words.isEmpty()) return;
-  used.removeAll(words);
-  used.prepend(words);
-  while (used.size() > LongestMemory) used.removeLast();
+  if (!words.isEmpty()) PutFirst(used, words, LongestMemory);
 }
 
 QString InWords(const SearchResult &result, const QString &words) {

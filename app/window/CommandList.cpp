@@ -6,6 +6,7 @@
 #include "app/window/MenuBuilder.h"
 #include "chrome/Captions.h"
 #include "chrome/ToolBarButtons.h"
+#include "platform/LastFirst.h"
 #include "platform/Words.h"
 
 #include <algorithm>
@@ -65,9 +66,8 @@ QList<NamedCommand> LastUsedFirst(const Registry &registry, QList<NamedCommand> 
 
 void NoteUse(Registry &registry, const QString &id) {
   QStringList used = UsedIds(registry);
-  used.removeAll(id);
-  used.prepend(id);
-  modSettingManager::SaveText(registry, Section, Used, used.mid(0, MostUsed).join(u' '));
+  PutFirst(used, id, MostUsed);
+  modSettingManager::SaveText(registry, Section, Used, used.join(u' '));
 }
 
 }  // namespace velor
