@@ -9,7 +9,7 @@ import * as typing from '../blocks/typing.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
-import { gapAt } from '../page/units.js';
+import { firstShownLeaf, gapAt, lastShown } from '../page/units.js';
 import { work } from '../page/working.js';
 import { exec } from '../talk/commands.js';
 import { schedulePush } from '../talk/pace.js';
@@ -36,8 +36,10 @@ export function isBesideIsland(range) {
     return dom.isIsland(first) || (Boolean(last) && dom.isIsland(dom.lastLeaf(last)));
   }
   const [node, offset] = gapAt(range) ?? [];
-  return Boolean(node) &&
-    [node.childNodes[offset - 1], node.childNodes[offset]].some(dom.isIsland);
+  if (!node) return false;
+  const before = dom.shownFrom(node.childNodes[offset - 1], 'previousSibling');
+  const behind = dom.shownFrom(node.childNodes[offset], 'nextSibling');
+  return [before && lastShown(before), behind && firstShownLeaf(behind)].some(dom.isIsland);
 }
 
 /**

@@ -104,14 +104,19 @@ function unitOf(leaf) {
   return runAround(leaf);
 }
 
-/** @type {(node: AnyNode) => AnyNode} */
-function firstShownLeaf(node) {
+/**
+ * The first leaf of a node that shows something.
+ * @type {(node: AnyNode) => AnyNode}
+ */
+export function firstShownLeaf(node) {
   const child = dom.isAtom(node) ? null : firstShown(node);
   return child ? firstShownLeaf(child) : node;
 }
-// The last leaf of a node that shows something.
-/** @type {(node: AnyNode) => AnyNode} */
-function lastShown(node) {
+/**
+ * The last such leaf.
+ * @type {(node: AnyNode) => AnyNode}
+ */
+export function lastShown(node) {
   if (dom.isAtom(node)) return node;
   const child = lastShownChild(node);
   return child ? lastShown(child) : node;
