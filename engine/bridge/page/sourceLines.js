@@ -266,6 +266,24 @@ function made(changes) {
   return { blocks, inPlace, around, isJoined };
 }
 
+// The line end of a text goes behind a block. Who had selected from that line end on has selected
+// from the end of the line on.
+/**
+ * @param {Text} end
+ * @param {AnyNode} last
+ */
+function moveEndBehind(end, last) {
+  const was = selection.points();
+  const length = end.data.replace(/[ \t\n]+$/, '').length;
+  last.after(splitText(end, length));
+  const { anchorNode, anchorOffset, focusNode, focusOffset } = was;
+  if (anchorNode !== end && focusNode !== end) return;
+  const points = selection.points();
+  if (anchorNode === end) Object.assign(points, { anchorNode, anchorOffset });
+  if (focusNode === end) Object.assign(points, { focusNode, focusOffset });
+  selection.select(points);
+}
+
 // Bare text became a block. The line that it began on is the block's own, and the end of its last
 // line stays behind the block, or behind the last of those that it was cut into.
 /**
@@ -290,11 +308,7 @@ function leaveLines(block, { blocks, isJoined }) {
   const end = dom.lastLeaf(isEmpty ? last.previousSibling : last);
   if (!dom.isText(end) || !/[^ \t\n][ \t]*\n[ \t\n]*$/.test(end.data)) return;
   if (dom.ancestor(end, isJoined, (node) => node === last)) return;
-  const points = selection.points();
-  const length = end.data.replace(/[ \t\n]+$/, '').length;
-  last.after(splitText(end, length));
-  // Who had selected from that line end on has selected from the end of the line on.
-  if (points.anchorNode === end || points.focusNode === end) selection.select(points);
+  moveEndBehind(end, last);
 }
 
 history.completeStepsBy((changes) => {
