@@ -23,14 +23,8 @@ namespace {
 
 constexpr Size Large[] = {Sizes[2], Sizes[3]};
 
-/// Notes for each key how long it took from the press to the task behind the frame that shows it.
-const char KeyClock[] = R"(
-  globalThis.paints = [];
-  addEventListener('keydown', ({ timeStamp }) => requestAnimationFrame(() => {
-    const { port1, port2 } = new MessageChannel();
-    port1.onmessage = () => paints.push(performance.now() - timeStamp);
-    port2.postMessage(0);
-  }), true);
+/// Turns the telling of changes on and off.
+const char JournalSwitch[] = R"(
   globalThis.told = { push: velor.host.pushMirror, mirror: velor.mirror };
   globalThis.journalling = (on) => {
     velor.host.pushMirror = on ? told.push : () => {};
@@ -52,6 +46,7 @@ class Typist {
     view_ = Page().findChild<QWebEngineView *>();
     WaitUntil([this] { return Evaluate(QStringLiteral("velor.host !== null")).toBool(); });
     Evaluate(QString::fromLatin1(KeyClock));
+    Evaluate(QString::fromLatin1(JournalSwitch));
   }
 
   /// The mean time of a key, in milliseconds.

@@ -15,6 +15,15 @@
 
 namespace velor::bench {
 
+const char KeyClock[] = R"(
+  globalThis.paints = [];
+  addEventListener('keydown', ({ timeStamp }) => requestAnimationFrame(() => {
+    const { port1, port2 } = new MessageChannel();
+    port1.onmessage = () => paints.push(performance.now() - timeStamp);
+    port2.postMessage(0);
+  }), true);
+  1)";
+
 double Milliseconds(const std::function<void()> &work) {
   QElapsedTimer timer;
   timer.start();

@@ -15,6 +15,10 @@ double Milliseconds(const std::function<void()> &work);
 /// pumped by the same timer: the engine's answers may otherwise lie in the queue.
 void WaitUntil(const std::function<bool()> &condition);
 
+/// A script for a page that notes for each key, in `paints`, how many milliseconds it took from the
+/// press to the task behind the frame that shows it.
+extern const char KeyClock[];
+
 /// One figure: the same work done by this program and by a bare peer, in turn, in the same run.
 /// Only the ratio means anything on a shared machine; the times are there to judge it by.
 struct Figure {

@@ -14,16 +14,6 @@ namespace velor::bench {
 
 namespace {
 
-/// Notes for each key how long it took from the press to the task behind the frame that shows it.
-const char KeyClock[] = R"(
-  globalThis.paints = [];
-  addEventListener('keydown', ({ timeStamp }) => requestAnimationFrame(() => {
-    const { port1, port2 } = new MessageChannel();
-    port1.onmessage = () => paints.push(performance.now() - timeStamp);
-    port2.postMessage(0);
-  }), true);
-  1)";
-
 /// The mean time of a key, in milliseconds.
 double Type(PageBench &bench, bool hasWaves) {
   constexpr int Keys = 30;
