@@ -201,10 +201,7 @@ TEST_F(RealPictures, ClosingWithoutSavingLeavesNoFileInTheSite) {
   frmMain &page = OpenSource();
   DropFiles(ViewOf(page), {Outside("My Rose.PNG")}, Place);
   ASSERT_TRUE(Becomes(page, "my-rose.png"));
-  dialogs.ExpectMessage(
-      QStringLiteral("You have made changes to this document. Do you want to save it?"),
-      MessageAnswer::No);
-  EXPECT_TRUE(page.close());
+  CloseUnsaved(page);
   EXPECT_EQ(Site(), Names({"page.htm"}));
   EXPECT_EQ(Bytes(PageFile), Source);
 }
@@ -219,10 +216,7 @@ TEST_F(RealPictures, AFileThatAnotherSavedPageHasStaysWhenItsPageClosesWithoutSa
   ASSERT_TRUE(Becomes(other, "my-rose.png")) << Seen(other);
   Choose("mnuSave");
   EXPECT_TRUE(other.close());
-  dialogs.ExpectMessage(
-      QStringLiteral("You have made changes to this document. Do you want to save it?"),
-      MessageAnswer::No);
-  EXPECT_TRUE(page.close());
+  CloseUnsaved(page);
   EXPECT_EQ(Site(), Names({"my-rose.png", "other.htm", "page.htm"}));
 }
 
@@ -465,10 +459,7 @@ TEST_F(RealPictures, ACroppedPicturesFileAndSizeGoAndComeBackTogether) {
   EXPECT_EQ(Site(), Names({"a.png", "page.htm"}));
   Choose("mnuRedo");
   EXPECT_TRUE(WaitFor([&] { return size() == QSize(40, 30); }));
-  dialogs.ExpectMessage(
-      QStringLiteral("You have made changes to this document. Do you want to save it?"),
-      MessageAnswer::No);
-  EXPECT_TRUE(page.close());
+  CloseUnsaved(page);
   EXPECT_EQ(Bytes(QStringLiteral("site/a.png")), whole);
   EXPECT_EQ(Site(), Names({"a.png", "page.htm"}));
 }

@@ -98,6 +98,12 @@ class RealRecovery : public RealWindow {
     Choose("mnuPaste");
     return WaitFor([&] { return Holds(page, QString::fromLatin1(address)); });
   }
+  /// A run ends unforeseen whose page site/page.htm has got the picture site/page-1.png.
+  void CrashWithPicture() {
+    frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
+    ASSERT_TRUE(PastePicture(page, "page-1.png"));
+    Crash(page);
+  }
   QStringList PicturesIn(const char *place) const {
     return QDir(folder.FilePath(QString::fromLatin1(place))).entryList({QStringLiteral("*.png")});
   }
@@ -317,23 +323,16 @@ TEST_F(RealRecovery, ANewPagesPicturesMoveIntoTheSiteAtTheFirstSaveAfterACrash) 
 }
 
 TEST_F(RealRecovery, ARestoredPageThatIsNotSavedLeavesNoPictureInTheSite) {
-  frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
-  ASSERT_TRUE(PastePicture(page, "page-1.png"));
-  Crash(page);
+  CrashWithPicture();
   Answer("cmdRestore");
   ASSERT_TRUE(Holds(LastOpened(), QStringLiteral("page-1.png")));
   EXPECT_EQ(PicturesIn("site").size(), 1);
-  dialogs.ExpectMessage(
-      QStringLiteral("You have made changes to this document. Do you want to save it?"),
-      MessageAnswer::No);
-  EXPECT_TRUE(LastOpened().close());
+  CloseUnsaved(LastOpened());
   EXPECT_EQ(PicturesIn("site"), QStringList());
 }
 
 TEST_F(RealRecovery, AnOfferThatIsTurnedDownTakesThePicturesOfItsPageAway) {
-  frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
-  ASSERT_TRUE(PastePicture(page, "page-1.png"));
-  Crash(page);
+  CrashWithPicture();
   Write(QStringLiteral("site/pageTMP.htm"), "The page's temporary copy. <img src=page-1.png>");
   Answer("cmdDiscard");
   EXPECT_EQ(PicturesIn("site"), QStringList());
@@ -341,34 +340,25 @@ TEST_F(RealRecovery, AnOfferThatIsTurnedDownTakesThePicturesOfItsPageAway) {
 }
 
 TEST_F(RealRecovery, AnOfferThatIsTurnedDownLeavesPicturesThatTheSavedPageNames) {
-  frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
-  ASSERT_TRUE(PastePicture(page, "page-1.png"));
-  Crash(page);
+  CrashWithPicture();
   Write(QStringLiteral("site/page.htm"), "<!DOCTYPE html><img src=page-1.png>");
   Answer("cmdDiscard");
   EXPECT_EQ(PicturesIn("site").size(), 1);
 }
 
 TEST_F(RealRecovery, AnOfferThatIsTurnedDownLeavesPicturesThatAnotherPageOfTheFolderNames) {
-  frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
-  ASSERT_TRUE(PastePicture(page, "page-1.png"));
-  Crash(page);
+  CrashWithPicture();
   Write(QStringLiteral("site/other.htm"), "<!DOCTYPE html><img src=page-1.png>");
   Answer("cmdDiscard");
   EXPECT_EQ(PicturesIn("site").size(), 1);
 }
 
 TEST_F(RealRecovery, ARestoredPageThatIsNotSavedLeavesPicturesThatAnotherPageOfTheSiteNames) {
-  frmMain &page = Open(QStringLiteral("site/page.htm"), "<!DOCTYPE html><p>one</p>");
-  ASSERT_TRUE(PastePicture(page, "page-1.png"));
-  Crash(page);
+  CrashWithPicture();
   QDir(folder.FilePath(QStringLiteral("site"))).mkdir(QStringLiteral("more"));
   Write(QStringLiteral("site/more/other.htm"), "<!DOCTYPE html><img src=../page-1.png>");
   Answer("cmdRestore");
-  dialogs.ExpectMessage(
-      QStringLiteral("You have made changes to this document. Do you want to save it?"),
-      MessageAnswer::No);
-  EXPECT_TRUE(LastOpened().close());
+  CloseUnsaved(LastOpened());
   EXPECT_EQ(PicturesIn("site").size(), 1);
 }
 
@@ -387,10 +377,7 @@ TEST_F(CutPictures, ComeBackWhenTheRestoredPageIsNotSaved) {
   ASSERT_TRUE(Holds(LastOpened(), QStringLiteral("width=\"80\" height=\"120\"")))
       << Seen(LastOpened());
   ASSERT_TRUE(IsCut());
-  dialogs.ExpectMessage(
-      QStringLiteral("You have made changes to this document. Do you want to save it?"),
-      MessageAnswer::No);
-  EXPECT_TRUE(LastOpened().close());
+  CloseUnsaved(LastOpened());
   EXPECT_EQ(Bytes(PictureFile), whole);
   EXPECT_EQ(PicturesIn("site"), QStringList(QStringLiteral("a.png")));
 }

@@ -76,6 +76,13 @@ frmMain &RealWindow::LastPage() {
   return page;
 }
 
+void RealWindow::CloseUnsaved(frmMain &page) {
+  dialogs.ExpectMessage(
+      QStringLiteral("You have made changes to this document. Do you want to save it?"),
+      MessageAnswer::No);
+  EXPECT_TRUE(page.close());
+}
+
 QWebEnginePage &RealWindow::EngineOf(QWidget &shown) {
   return *shown.findChild<QWebEngineView *>()->page();
 }

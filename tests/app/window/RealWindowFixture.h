@@ -105,6 +105,8 @@ class RealWindow : public ::testing::Test {
   frmMain &NewPage();
   /// The page that was made last.
   frmMain &LastPage();
+  /// Closes a page with changes, and answers No when asked whether to save it.
+  void CloseUnsaved(frmMain &page);
 
   static QWebEnginePage &EngineOf(QWidget &shown);
   /// The widget that takes a page's input.
