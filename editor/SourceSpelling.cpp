@@ -46,19 +46,25 @@ void SourceSpelling::ShowWaves(bool on) {
   areWavesOn_ = on;
   if (HasWaves()) return Restart();
   timer_.stop();
+  Forget();
   source_.DrawWaves({0, source_.Text().size()}, {});
 }
 
 void SourceSpelling::Restart() {
+  Forget();
   source_.TakeChange();
   text_ = source_.Text();
+  timer_.start(0);
+}
+
+void SourceSpelling::Forget() {
+  text_.clear();
   lines_.clear();
   former_.clear();
   heldBack_.reset();
   judgedTo_ = 0;
   readTo_ = 0;
   state_ = {};
-  timer_.start(0);
 }
 
 void SourceSpelling::CheckAgain() {
@@ -190,11 +196,19 @@ std::vector<SourceSpelling::Place> SourceSpelling::PlacesIn(const SourceTextLine
   return places;
 }
 
+SourceTextReader SourceSpelling::ReaderFor(const QString &source, qsizetype offset) {
+  if (HasWaves()) TakeChange();
+  const auto line = std::ranges::partition_point(
+      lines_, [offset](const Line &each) { return each.end < offset; });
+  return line == lines_.end() ? SourceTextReader(source, readTo_, state_)
+                              : SourceTextReader(source, line->begin, line->state);
+}
+
 void SourceSpelling::VisitPlaces(const QString &source, const TextStretch &stretch,
                                  const std::function<bool(const Place &)> &visit) {
   current_.reset();
   if (spelling_ == nullptr) return;
-  for (SourceTextReader reader(source); !reader.IsAtEnd();) {
+  for (SourceTextReader reader = ReaderFor(source, stretch.start); !reader.IsAtEnd();) {
     const SourceTextLine line = reader.Next();
     if (line.end < stretch.start) continue;
     if (line.begin > stretch.end) return;

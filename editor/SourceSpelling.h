@@ -56,6 +56,8 @@ class SourceSpelling final : public PageSpelling {
   bool HasWaves() const { return areWavesOn_ && spelling_ != nullptr; }
   /// Reads and judges all of the source anew.
   void Restart();
+  /// Forgets what was read.
+  void Forget();
   /// Does some of what is left to do; the rest follows from the event loop.
   void Work();
   /// One step of it; false where nothing is left.
@@ -75,6 +77,8 @@ class SourceSpelling final : public PageSpelling {
   void ReleaseWord();
 
   std::vector<Place> PlacesIn(const SourceTextLine &line);
+  /// A reader of the source that stands before the offset, behind lines that are read already.
+  SourceTextReader ReaderFor(const QString &source, qsizetype offset);
   /// Calls `visit` with the unknown words of the lines that are at a stretch of the source, in
   /// order, until it answers false.
   void VisitPlaces(const QString &source, const TextStretch &stretch,

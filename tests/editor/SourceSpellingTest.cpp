@@ -148,6 +148,22 @@ TEST_F(SourceWords, AtTheCaretAreCorrectedAsOneStepThatKeepsTheMarkupInThem) {
   EXPECT_FALSE(words.Correct(QStringLiteral("x")));
 }
 
+TEST_F(SourceWords, AreFoundWhereTheTextHasChangedAMomentAgo) {
+  Show("<p>the hose<p lang=de>in<p>end");
+  ASSERT_TRUE(Waves("hose end"));
+  TypeAt(22, "xyz ");
+  EXPECT_EQ(words.AtCaret(), std::nullopt) << "the caret is behind the blank";
+  control.Select({23, 23});
+  EXPECT_EQ(words.AtCaret(), (UnknownWord{QStringLiteral("xyz"), QStringLiteral("de")}));
+  EXPECT_EQ(words.SelectNext(), (UnknownWord{QStringLiteral("xyz"), QStringLiteral("de")}));
+  EXPECT_EQ(words.SelectNext(), (UnknownWord{QStringLiteral("end"), {}}));
+  EXPECT_TRUE(words.Correct(QStringLiteral("the")));
+  EXPECT_EQ(Text(), "<p>the hose<p lang=de>xyz in<p>the");
+  EXPECT_TRUE(Waves("hose xyz")) << Waved();
+  words.ShowWaves(false);
+  EXPECT_EQ(words.All().size(), 2U);
+}
+
 TEST_F(SourceWords, AreReplacedAcrossTheMarkupInThem) {
   control.SetText(QStringLiteral("<p>a<b>b</b>c&eacute;"));
   ASSERT_TRUE(words.SelectNext());
