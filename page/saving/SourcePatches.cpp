@@ -2,8 +2,8 @@
 #include "page/saving/SourcePatches.h"
 
 #include "page/saving/EnclosingElements.h"
-#include "page/saving/EndTagStyle.h"
 #include "page/saving/MovedTokens.h"
+#include "page/saving/OptionalTags.h"
 #include "page/saving/PageMask.h"
 #include "page/saving/TagPatches.h"
 #include "page/saving/TagSpelling.h"
@@ -250,7 +250,7 @@ QString SourcePatches::FreshText(const PageEdit &edit, Number near) const {
   QString text;
   Number done = edit.now;
   for (Number at = edit.now; at < edit.nowEnd; ++at) {
-    if (!IsLeftOut(now_, at, isWritten)) continue;
+    if (!IsTagLeftOut(now_, at, isWritten)) continue;
     text += TextOf(now_, done, at, near);
     done = at + 1;
   }
@@ -385,7 +385,8 @@ void SourcePatches::PatchTagAt(Number source, const PageEdit &edit, Patches &out
 
 void SourcePatches::PatchTokens(const PageEdit &edit, PatchRung rung, Patches &out) const {
   const SourceRange range = CounterpartOf(edit);
-  const Number near = SourcePlace(edit);
+  // What goes is the nearest.
+  const Number near = range.IsEmpty() ? SourcePlace(edit) : range.last + 1;
   const QString left = rung == PatchRung::EditAlone ? QString() : ImpliedLeftOf(edit, near);
   const QString right =
       rung == PatchRung::ImpliedTagsAround ? ImpliedRightOf(edit, near) : QString();

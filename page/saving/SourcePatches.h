@@ -12,7 +12,7 @@ namespace velor {
 
 /// How much of the source is written for one edit. Each rung writes more than the one before.
 enum class PatchRung {
-  /// Without the end tags that the page leaves out.
+  /// Without the tags that the page leaves out.
   EditAlone,
   /// All of the edit, and the tags that the parser implied left of the edit.
   ImpliedTagsLeft,
@@ -81,7 +81,7 @@ class SourcePatches {
   /// The text of tokens of a serialisation, without the implied tags of HTML, HEAD and BODY where
   /// the source has none of those. Tags are spelled as those near the source's token `near`.
   QString TextOf(const TokenText &serialisation, Number from, Number to, Number near) const;
-  /// The text of what an edit puts in, without the end tags that are left out in the page.
+  /// The text of what an edit puts in, without the tags that are left out in the page.
   QString FreshText(const PageEdit &edit, Number near) const;
   /// The tokens without counterpart right before an edit, and right behind it.
   QString ImpliedLeftOf(const PageEdit &edit, Number near) const;

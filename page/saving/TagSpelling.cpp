@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "page/saving/TagSpelling.h"
 
+#include "page/saving/MovedTokens.h"
 #include "page/text/HtmlElements.h"
 
 #include <algorithm>
@@ -80,9 +81,11 @@ class SpellingReader {
     const bool isVoid = elements::IsOneOf(token.name, elements::VoidElements);
     const QStringView html = QStringView(source_.text).first(token.End());
     const HtmlTagParts tag = ReadHtmlTag(html, token.offset);
-    if (isBlock && !hasCase_) {
-      hasCase_ = true;
-      found_.tagNames = CaseOf(html.sliced(tag.name, tag.nameLength));
+    // Of all of the page, which says less than a block beside the place.
+    const bool isFrame = IsFrameTag(token) || token.name == elements::Title;
+    if (isBlock && !(isFrame ? hasFrameCase_ : hasCase_)) {
+      (isFrame ? hasFrameCase_ : hasCase_) = true;
+      (isFrame ? frameCase_ : found_.tagNames) = CaseOf(html.sliced(tag.name, tag.nameLength));
     }
     if (isVoid && !hasVoidEnd_) {
       hasVoidEnd_ = true;
@@ -94,7 +97,11 @@ class SpellingReader {
       ReadAttribute(html, *at);
     return hasCase_ && hasVoidEnd_ && hasAttributeCase_ && hasQuote_ && hasBareQuote_;
   }
-  const TagSpelling &Found() const { return found_; }
+  TagSpelling Found() const {
+    TagSpelling found = found_;
+    if (!hasCase_) found.tagNames = frameCase_;
+    return found;
+  }
 
  private:
   void ReadAttribute(QStringView html, const HtmlAttributeSlice &attribute) {
@@ -115,7 +122,9 @@ class SpellingReader {
 
   const TokenText &source_;
   TagSpelling found_;
+  TagSpelling::Case frameCase_ = TagSpelling::Case::Lower;
   bool hasCase_ = false;
+  bool hasFrameCase_ = false;
   bool hasVoidEnd_ = false;
   bool hasAttributeCase_ = false;
   bool hasQuote_ = false;

@@ -21,8 +21,9 @@ struct TagSpelling {
   VoidEnd voidEnd = VoidEnd::Plain;
 };
 
-/// The spelling near the source's token `number`: for names of tags that of the nearest block, for
-/// everything else that of the nearest tag with such a detail; tags before the place come first.
+/// The spelling near the source's token `number`: for names of tags that of the nearest block (of
+/// HTML, HEAD, TITLE or BODY where there is none), for everything else that of the nearest tag with
+/// such a detail; tags before the place come first.
 TagSpelling SpellingNear(const TokenText &source, std::int32_t number);
 
 /// A tag of a serialisation, spelled like that. `maskStem`: begins the words that stand for what

@@ -80,6 +80,7 @@ inline constexpr std::uint32_t Blocks[] = {
 inline constexpr std::uint32_t Html = NameKeyOf(u"html");
 inline constexpr std::uint32_t Head = NameKeyOf(u"head");
 inline constexpr std::uint32_t Body = NameKeyOf(u"body");
+inline constexpr std::uint32_t Title = NameKeyOf(u"title");
 /// Elements without content and end tag.
 inline constexpr std::uint32_t VoidElements[] = {
     NameKeyOf(u"area"),  NameKeyOf(u"base"), NameKeyOf(u"basefont"), NameKeyOf(u"bgsound"),

@@ -7,6 +7,7 @@ import * as lists from './lists.js';
 import * as dom from '../page/dom.js';
 import { enclose, partsOf } from '../page/units.js';
 import { holdOpen } from '../page/lines.js';
+import { dropEdgeLines, setCutList } from '../page/sourceLines.js';
 
 /** @param {AnyNode} node */
 const isQuote = (node) => dom.isElement(node) && node.tagName === 'BLOCKQUOTE';
@@ -116,9 +117,13 @@ function unquote(quote, parts) {
   const first = childOf(quote, parts[0]);
   const behind = dom.neighbour(childOf(quote, parts.at(-1)), 'nextSibling');
   let middle = quote;
-  if (behind) dom.splitBefore(behind, middle);
-  if (dom.neighbour(first, 'previousSibling')) middle = dom.splitBefore(first, middle);
+  if (behind) setCutList(middle, dom.splitBefore(behind, middle));
+  if (dom.neighbour(first, 'previousSibling')) {
+    middle = dom.splitBefore(first, quote);
+    setCutList(quote, middle);
+  }
   wrapEdgeLines(middle);
+  dropEdgeLines(middle);
   dom.unwrap(middle);
 }
 // Makes paragraphs of a quote's first and last line without a block, where another such line stands

@@ -98,7 +98,7 @@ export function setBetweenEndless(block) {
   const own = innerEnd(block);
   if (end) return Boolean(own) || takeEnd(block, end);
   if (own && endless.test(before?.tagName)) endWith(before, own.text, lineLike(before, own.gap));
-  else if (own && before) lineBefore(block, lineLike(before, own.gap));
+  else if (own && before && !lineOf(block)) lineBefore(block, lineLike(before, own.gap));
   return Boolean(own) || endBefore(block);
 }
 // The end of the block before it becomes its own: what follows keeps its line.

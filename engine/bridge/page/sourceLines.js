@@ -13,26 +13,45 @@ import * as selection from './selection.js';
 import { shiftStandIns, splitText } from './standIns.js';
 
 /** @param {AnyNode} node */
+const isPartOfTable = (node) => dom.isElement(node) && /^(TBODY|TFOOT|THEAD)$/.test(node.tagName);
+/** @param {AnyNode} node */
 const holdsItems = (node) => dom.isElement(node) &&
   /^(DIR|DL|MENU|OL|TABLE|TBODY|TFOOT|THEAD|UL)$/.test(node.tagName);
 
-// The line that a new block is to have, told by its neighbours, else by its items; null where they
-// stand in a row.
-/** @param {AnyNode} node */
-const lineFor = (node) => lineByNeighbours(node) ?? (holdsItems(node) ? lineOfItems(node) : null);
+// The blocks that a step has made.
+/** @type {Set<AnyNode>} */
+let fresh = new Set();
+/** @param {Set<AnyNode>} blocks */
+const inOrder = (blocks) => [...blocks].sort((one, other) =>
+  (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1));
+
+// The line that a new block's neighbours tell it to have; null where they stand in a row.
 /** @param {AnyNode} node */
 function lineByNeighbours(node) {
   if (dom.isList(node) && node.parentNode.tagName === 'LI') return lineOfSublist(node.parentNode);
   for (const side of dom.sides) {
-    const other = dom.neighbour(node, side);
+    let other = dom.neighbour(node, side);
+    // Of blocks that were made with it those behind it have no lines yet.
+    while (side === 'nextSibling' && fresh.has(other) && !lineAt(other)) {
+      other = dom.neighbour(other, side);
+    }
     if (other && !dom.isBlock(other)) return null;
     const line = other && lineAt(other);
     if (line) return line;
   }
-  return null;
+  if (!dom.isBlock(dom.neighbour(node, 'previousSibling'))) return null;
+  return beginsLine(node.nextSibling) ? endLineOf({ lastChild: node.nextSibling })
+    : lineWithin(node.parentNode);
+}
+// Where a cell or division has blocks that were made alone: one step further in than that.
+/** @param {AnyNode} holder */
+function lineWithin(holder) {
+  const line = [...holder.children].every((each) => fresh.has(each)) ? lineOf(holder) : null;
+  return line && line + stepOf(holder, line);
 }
 /** @param {AnyNode} list */
-const lineOfItems = (list) => [...list.children].map(lineAt).find(Boolean) ?? endLineOf(list);
+const lineOfItems = (list) => (holdsItems(list)
+  ? [...list.children].map(lineAt).find(Boolean) ?? endLineOf(list) : null);
 // A list in an item stands one step further in than that.
 /** @param {AnyNode} item */
 function lineOfSublist(item) {
@@ -47,22 +66,30 @@ function lineOfSublist(item) {
  */
 function stepOf(block, line) {
   const { parentNode } = block;
-  const outer = lineOf(parentNode) ?? (holdsItems(parentNode) ? endLineOf(parentNode) : null);
+  const outer = lineOf(parentNode) ?? endLineOf(parentNode);
   return outer && line.startsWith(outer) ? line.slice(outer.length) : '';
 }
 
-// Items and rows on lines of their own, one step further in, and the end of what holds them.
+// Items and rows on lines of their own, one step further in, and the end of what holds them. The
+// tags of a part of a table stand on the lines of its rows and of the table's end.
 /**
  * @param {AnyNode} list
  * @param {string} line
+ * @param {string} step
  */
-function setItems(list, line) {
-  const step = stepOf(list, line);
-  for (const item of [...list.children]) {
-    if (!lineAt(item)) lineBefore(item, line + step);
-    if (holdsItems(item)) setItems(item, line + step);
+function setItems(list, line, step) {
+  const items = [...list.children];
+  const areNew = items.every((item) => fresh.has(item));
+  for (const item of items) {
+    const own = lineAt(item);
+    if (!own) lineBefore(item, line + step);
+    else if (own === line && areNew && beginsLine(item.previousSibling)) {
+      item.previousSibling.appendData(step);
+    }
+    if (isPartOfTable(item)) setItems(item, item.nextElementSibling ? line + step : line, step);
+    else if (holdsItems(item)) setItems(item, line + step, stepOf(item, line + step));
   }
-  if (!endLineOf(list)) list.append(line);
+  if (!endLineOf(list) && !isPartOfTable(list.lastElementChild)) list.append(line);
 }
 
 // The cells of a row, as those of the row beside it.
@@ -81,9 +108,14 @@ function setCells(row) {
 
 // A list that was made in an item on a line of its own: the item's end is on one too.
 /** @param {AnyNode} list */
-function setEndOfItem({ parentNode, nextSibling }) {
-  if (parentNode.tagName === 'LI' && !nextSibling) parentNode.append(lineOf(parentNode) ?? '');
+function setEndOfItem(list) {
+  const { parentNode, nextSibling } = list;
+  if (!dom.isList(list) || parentNode.tagName !== 'LI' || nextSibling) return;
+  parentNode.append(lineOf(parentNode) ?? '');
 }
+// True where the line end behind a list is the end of its last item.
+/** @param {AnyNode} list */
+const endsInItem = (list) => holdsItems(list) && innerEnd(list.lastChild) !== null;
 
 /**
  * @param {AnyNode} block
@@ -99,19 +131,18 @@ function set(block, isInPlace) {
  */
 function setOnLine(block, isInPlace) {
   const own = lineAt(block);
-  const hasItems = holdsItems(block);
-  const line = own ?? lineFor(block);
+  const around = own ?? lineByNeighbours(block);
+  const line = around ?? lineOfItems(block);
   if (!line || block.parentNode.closest('PRE, LISTING, XMP')) return;
   // What was the first thing in its container on no line of its own gets none.
   const isFirst = isInPlace && !block.previousSibling && !holdsItems(block.parentNode);
   if (!own && !isFirst) lineBefore(block, line);
-  // What it came in before had that line, or it has taken the line's end in.
-  const hasTaken = own || (hasItems && innerEnd(block.lastChild));
-  if (hasTaken && dom.isBlock(block.nextSibling)) lineBefore(block.nextSibling, line);
-  if (!hasItems) return;
-  const isOnOld = own && !innerEnd(block.lastChild);
-  setItems(block, line);
-  if (!isOnOld && dom.isList(block)) setEndOfItem(block);
+  // What it came in before had that line, or its last item has taken the line's end in.
+  const hasTaken = endsInItem(block);
+  if ((own || hasTaken) && dom.isBlock(block.nextSibling)) lineBefore(block.nextSibling, line);
+  // The items' own line is no step further out than these.
+  if (holdsItems(block)) setItems(block, line, around ? stepOf(block, line) : '');
+  if (!own || hasTaken) setEndOfItem(block);
 }
 
 /**
@@ -133,9 +164,17 @@ export function dropLine(block) {
 export function dropInnerLines(list) {
   const line = endLineOf(list);
   for (const item of list.children) dropItemLines(item);
-  const { firstChild, lastChild } = list;
+  dropEdgeLines(list, line);
+}
+/**
+ * The lines at the edges of what goes from around its content go, and those between are as `line`.
+ * @param {AnyNode} holder
+ * @param {string | null} [line] the one of its end tag
+ */
+export function dropEdgeLines(holder, line = endLineOf(holder)) {
+  const { firstChild, lastChild } = holder;
   for (const edge of new Set([firstChild, lastChild])) if (beginsLine(edge)) edge.remove();
-  if (line) for (const node of [...list.childNodes].filter(beginsLine)) node.data = line;
+  if (line) for (const node of [...holder.childNodes].filter(beginsLine)) node.data = line;
 }
 // Blocks in an item stay on the lines that they have there, where the item has one too.
 /** @param {AnyNode} item */
@@ -154,7 +193,7 @@ function dropItemLines(item) {
 }
 
 /**
- * A list was cut in two: where it is set out over lines both parts are.
+ * A list or quote was cut in two: where it is set out over lines both parts are.
  * @param {AnyNode} first
  * @param {AnyNode} second
  */
@@ -318,9 +357,11 @@ history.completeStepsBy((changes) => {
   const range = selection.range();
   const cells = range && selection.saveCells(range);
   for (const block of around) leaveLines(block, found);
-  for (const block of blocks) {
+  fresh = blocks;
+  for (const block of inOrder(blocks)) {
     if (!dom.isCell(block) || !blocks.has(block.parentNode)) set(block, inPlace.has(block));
   }
+  fresh = new Set();
   // Cells are selected up to their last node, a line end that has come too.
   selection.restore(cells);
 });

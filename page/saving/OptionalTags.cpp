@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "page/saving/EndTagStyle.h"
+#include "page/saving/OptionalTags.h"
 
 #include "page/text/HtmlElements.h"
 
@@ -49,8 +49,7 @@ bool EndsBefore(const Kind &kind, const HtmlToken &next) {
 }
 
 /// What is read of the nearest token that something is read of.
-std::optional<bool> Nearest(const TokenText &serialisation, Number number,
-                            const EndTagReader &read) {
+std::optional<bool> Nearest(const TokenText &serialisation, Number number, const TagReader &read) {
   for (Number at = number - 1; at >= std::max<Number>(0, number - Sight); --at) {
     if (const auto found = read(at)) return found;
   }
@@ -60,20 +59,52 @@ std::optional<bool> Nearest(const TokenText &serialisation, Number number,
   return std::nullopt;
 }
 
+bool IsTbody(const HtmlToken &token) {
+  constexpr Number LengthOfBareTag = 7;  // <tbody>
+  const bool isBare = token.kind == HtmlTokenKind::EndTag || token.length == LengthOfBareTag;
+  return token.name == NameKeyOf(u"tbody") && token.isFree && isBare;
+}
+
+/// Whether a parser implies a tag of TBODY: at a table's start, and before its end.
+bool IsTbodyImplied(const TokenText &serialisation, Number number) {
+  const auto is = [&](Number at, HtmlTokenKind kind, std::u16string_view name) {
+    return at >= 0 && at < serialisation.Count() && serialisation.At(at).kind == kind &&
+           serialisation.At(at).name == NameKeyOf(name);
+  };
+  if (serialisation.At(number).kind == HtmlTokenKind::EndTag)
+    return is(number + 1, HtmlTokenKind::EndTag, u"table");
+  Number before = number - 1;
+  while (before >= 0 && (serialisation.At(before).kind == HtmlTokenKind::Blank ||
+                         serialisation.At(before).kind == HtmlTokenKind::LineBreak))
+    --before;
+  return is(before, HtmlTokenKind::StartTag, u"table") &&
+         is(number + 1, HtmlTokenKind::StartTag, u"tr");
+}
+
 }  // namespace
 
-bool IsLeftOut(const TokenText &serialisation, Number number, const EndTagReader &isWritten) {
-  const Kind *kind = KindOf(serialisation.At(number));
+bool IsTagLeftOut(const TokenText &serialisation, Number number, const TagReader &isWritten) {
+  const HtmlToken &token = serialisation.At(number);
+  if (IsTbody(token)) {
+    const auto read = [&](Number at) {
+      const HtmlToken &other = serialisation.At(at);
+      return IsTbody(other) && other.kind == token.kind ? isWritten(at) : std::nullopt;
+    };
+    return IsTbodyImplied(serialisation, number) &&
+           !Nearest(serialisation, number, read).value_or(false);
+  }
+  const Kind *kind = KindOf(token);
   if (kind == nullptr || number + 1 == serialisation.Count() ||
       !EndsBefore(*kind, serialisation.At(number + 1)))
     return false;
-  // One of its kind, else any.
-  return !Nearest(serialisation, number, [&](Number at) {
-            return KindOf(serialisation.At(at)) == kind ? isWritten(at) : std::nullopt;
-          }).value_or(Nearest(serialisation, number, [&](Number at) {
-                        return KindOf(serialisation.At(at)) != nullptr ? isWritten(at)
-                                                                       : std::nullopt;
-                      }).value_or(true));
+  const auto readLike = [&](Number at) {
+    return KindOf(serialisation.At(at)) == kind ? isWritten(at) : std::nullopt;
+  };
+  const auto readAny = [&](Number at) {
+    return KindOf(serialisation.At(at)) != nullptr ? isWritten(at) : std::nullopt;
+  };
+  const auto like = Nearest(serialisation, number, readLike);
+  return !(like ? like : Nearest(serialisation, number, readAny)).value_or(true);
 }
 
 }  // namespace velor
