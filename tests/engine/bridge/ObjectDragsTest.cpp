@@ -226,7 +226,7 @@ TEST_F(ObjectDrags, SizesAreWrittenAsThePageHasThem) {
   };
   size({400, 50}, {100, 0});
   EXPECT_TRUE(Body().startsWith(
-      QStringLiteral("<table style=\"COLOR:red;width: 500px;border-collapse: collapse\" "
+      QStringLiteral("<table style=\"COLOR:red;width:500px;border-collapse: collapse\" "
                      "width=\"500\" height=\"100\">")))
       << qPrintable(Body());
   Load(
