@@ -21,20 +21,32 @@ const holdsItems = (node) => dom.isElement(node) &&
 // The blocks that a step has made.
 /** @type {Set<AnyNode>} */
 let fresh = new Set();
+// What stands behind those of a parent that have no lines yet; found once, however many they are.
+/** @type {Map<Node, AnyNode>} */
+const behind = new Map();
+/** @param {AnyNode} block */
+function behindFresh(block) {
+  if (!behind.has(block.parentNode)) {
+    let at = block;
+    while (fresh.has(at) && !lineAt(at)) at = dom.neighbour(at, 'nextSibling');
+    behind.set(block.parentNode, at);
+  }
+  return behind.get(block.parentNode);
+}
+// Many come in order, by one paste; the engine would compare them along all of their siblings.
+const mostToSort = 50;
 /** @param {Set<AnyNode>} blocks */
-const inOrder = (blocks) => [...blocks].sort((one, other) =>
-  (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1));
+const inOrder = (blocks) => (blocks.size > mostToSort ? [...blocks]
+  : [...blocks].sort((one, other) =>
+    (one.compareDocumentPosition(other) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1)));
 
 // The line that a new block's neighbours tell it to have; null where they stand in a row.
 /** @param {AnyNode} node */
 function lineByNeighbours(node) {
   if (dom.isList(node) && node.parentNode.tagName === 'LI') return lineOfSublist(node.parentNode);
   for (const side of dom.sides) {
-    let other = dom.neighbour(node, side);
-    // Of blocks that were made with it those behind it have no lines yet.
-    while (side === 'nextSibling' && fresh.has(other) && !lineAt(other)) {
-      other = dom.neighbour(other, side);
-    }
+    const next = dom.neighbour(node, side);
+    const other = side === 'nextSibling' && fresh.has(next) ? behindFresh(next) : next;
     if (other && !dom.isBlock(other)) return null;
     const line = other && lineAt(other);
     if (line) return line;
@@ -46,8 +58,9 @@ function lineByNeighbours(node) {
 // Where a cell or division has blocks that were made alone: one step further in than that.
 /** @param {AnyNode} holder */
 function lineWithin(holder) {
-  const line = [...holder.children].every((each) => fresh.has(each)) ? lineOf(holder) : null;
-  return line && line + stepOf(holder, line);
+  const line = lineOf(holder);
+  const isAllNew = line && [...holder.children].every((each) => fresh.has(each));
+  return isAllNew ? line + stepOf(holder, line) : null;
 }
 /** @param {AnyNode} list */
 const lineOfItems = (list) => (holdsItems(list)
@@ -362,6 +375,7 @@ history.completeStepsBy((changes) => {
     if (!dom.isCell(block) || !blocks.has(block.parentNode)) set(block, inPlace.has(block));
   }
   fresh = new Set();
+  behind.clear();
   // Cells are selected up to their last node, a line end that has come too.
   selection.restore(cells);
 });
