@@ -7,6 +7,7 @@ import * as lists from './lists.js';
 import * as dom from '../page/dom.js';
 import { enclose, partsOf } from '../page/units.js';
 import { holdOpen } from '../page/lines.js';
+import { endLineOf } from '../page/lineEnds.js';
 import { dropEdgeLines, setCutList } from '../page/sourceLines.js';
 
 /** @param {AnyNode} node */
@@ -121,6 +122,8 @@ function unquote(quote, parts) {
   if (dom.neighbour(first, 'previousSibling')) {
     middle = dom.splitBefore(first, quote);
     setCutList(quote, middle);
+    const line = endLineOf(quote);
+    if (line && dom.isElement(quote.nextSibling)) quote.after(line);
   }
   wrapEdgeLines(middle);
   dropEdgeLines(middle);

@@ -56,11 +56,13 @@ export function innerEnd(block) {
 /** @param {string} gap */
 const lastLine = (gap) => /\n[ \t]*$/.exec(gap)[0];
 /**
- * The line that a block begins, be it the end of the one before it.
+ * The line that a block begins, be it the end of the one before it. Not so where it could be
+ * without end tag too, and has the line end behind it.
  * @param {AnyNode} block
  */
 export function lineAt(block) {
-  const end = beginsLine(block.nextSibling) ? null : innerEnd(block.previousSibling);
+  const isEnded = endless.test(block.tagName) && beginsLine(block.nextSibling);
+  const end = isEnded ? null : innerEnd(block.previousSibling);
   return lineOf(block) ?? (end ? lastLine(end.gap) : null);
 }
 /**

@@ -62,9 +62,10 @@ function lineWithin(holder) {
   const isAllNew = line && [...holder.children].every((each) => fresh.has(each));
   return isAllNew ? line + stepOf(holder, line) : null;
 }
-/** @param {AnyNode} list */
-const lineOfItems = (list) => (holdsItems(list)
-  ? [...list.children].map(lineAt).find(Boolean) ?? endLineOf(list) : null);
+/** @param {AnyNode} holder */
+const lineOfParts = (holder) => [...holder.children].map(lineAt).find(Boolean) ?? endLineOf(holder);
+/** @param {AnyNode} node */
+const lineOfItems = (node) => (holdsItems(node) ? lineOfParts(node) : null);
 // A list in an item stands one step further in than that.
 /** @param {AnyNode} item */
 function lineOfSublist(item) {
@@ -187,7 +188,10 @@ export function dropInnerLines(list) {
 export function dropEdgeLines(holder, line = endLineOf(holder)) {
   const { firstChild, lastChild } = holder;
   for (const edge of new Set([firstChild, lastChild])) if (beginsLine(edge)) edge.remove();
-  if (line) for (const node of [...holder.childNodes].filter(beginsLine)) node.data = line;
+  if (!line) return;
+  for (const node of [...holder.childNodes].filter(beginsLine)) {
+    if (dom.isBlock(node.previousSibling) || dom.isBlock(node.nextSibling)) node.data = line;
+  }
 }
 // Blocks in an item stay on the lines that they have there, where the item has one too.
 /** @param {AnyNode} item */
@@ -212,7 +216,11 @@ function dropItemLines(item) {
  */
 export function setCutList(first, second) {
   const line = endLineOf(second);
-  if (line && innerEnd(first.lastChild)) second.prepend(lineOfItems(first));
+  const end = line ? innerEnd(first.lastChild) : null;
+  if (end) {
+    second.prepend(lineOfParts(first) ?? '');
+    end.text.replaceData(end.text.length - end.gap.length, end.gap.length, line);
+  }
   if (!line || !beginsLine(first.lastChild)) return;
   second.prepend(first.lastChild);
   first.append(line);
