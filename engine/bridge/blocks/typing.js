@@ -147,6 +147,16 @@ export function splitKeepingLooks(range, split) {
   if (selection.range()) waitAtCaret(looks);
 }
 
+// A caret between a table and a text goes into the text: the engine would type before the table,
+// where that ends in white space.
+/** @param {PlainRange} caret */
+function enterTextBehindTable({ startContainer, startOffset, collapsed }) {
+  const table = dom.shownFrom(startContainer.childNodes[startOffset - 1], 'previousSibling');
+  const text = dom.shownFrom(startContainer.childNodes[startOffset], 'nextSibling');
+  if (!collapsed || table?.nodeName !== 'TABLE' || !dom.isText(text)) return;
+  selection.setCaret(text, /^[ \t\n]*/.exec(text.data)[0].length);
+}
+
 /**
  * Makes the caret ready for input that the engine is about to carry out: deletes what is selected,
  * makes a line or paragraph where there is none, and selects a holder so that the text replaces it.
@@ -170,6 +180,7 @@ export function prepareCaret(event) {
     makeLine(gap);
     return;
   }
+  enterTextBehindTable(caret);
   const [unit] = unitsIn(caret);
   if (needsParagraph(unit, event)) makeParagraph(unit);
   const holder = fills.has(event.inputType) ? holderOf(unit, caret) : null;
