@@ -131,8 +131,9 @@ class TagAttributes {
   /// The value of the first attribute of that name; nothing where there is none.
   std::optional<QString> Value(QStringView name) {
     if (!tag_.contains(name, Qt::CaseInsensitive)) return std::nullopt;
-    if (!parts_) parts_ = ReadHtmlTag(tag_, 0);
-    for (const HtmlAttributeSlice &each : parts_->attributes)
+    if (!isRead_) parts_ = ReadHtmlTag(tag_, 0);
+    isRead_ = true;
+    for (const HtmlAttributeSlice &each : parts_.attributes)
       if (each.NameIn(tag_).compare(name, Qt::CaseInsensitive) == 0)
         return HtmlAttributeValue(each.ValueIn(tag_));
     return std::nullopt;
@@ -144,7 +145,8 @@ class TagAttributes {
 
  private:
   QStringView tag_;
-  std::optional<HtmlTagParts> parts_;
+  HtmlTagParts parts_;
+  bool isRead_ = false;
 };
 
 /// The offset behind the template sign at `at`, of those forms that design view keeps whole
