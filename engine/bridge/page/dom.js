@@ -196,11 +196,12 @@ export const create = (tag, attributes = {}) => {
   return element;
 };
 
-// Where an element went that was made into another one, so that a saved selection finds it.
+// Where an element went that was made into another one, so that a saved selection finds it. One
+// that Undo brought back is itself again.
 const successors = new WeakMap();
 /** @param {AnyNode} node */
 export const successor = (node) => {
-  while (successors.has(node)) node = successors.get(node);
+  while (!node.isConnected && successors.has(node)) node = successors.get(node);
   return node;
 };
 
