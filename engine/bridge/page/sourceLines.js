@@ -55,9 +55,11 @@ function lineByNeighbours(node) {
   return beginsLine(node.nextSibling) ? endLineOf({ lastChild: node.nextSibling })
     : lineWithin(node.parentNode);
 }
-// Where a cell or division has blocks that were made alone: one step further in than that.
+// Where a cell or division has blocks that were made alone: one step further in than that. Cells
+// are in a row.
 /** @param {AnyNode} holder */
 function lineWithin(holder) {
+  if (holder.tagName === 'TR') return null;
   const line = lineOf(holder);
   const isAllNew = line && [...holder.children].every((each) => fresh.has(each));
   return isAllNew ? line + stepOf(holder, line) : null;
