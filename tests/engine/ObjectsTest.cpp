@@ -75,10 +75,10 @@ TEST_F(ObjectsOfThePage, ADragIsOneUndoStepAndChangesOnlyTheElementsStyleInTheFi
     return Selection()
         .ControlElement()
         .Attribute(QStringLiteral("style"))
-        .contains(QStringLiteral("left: 250px"));
+        .contains(QStringLiteral("left:250px"));
   }));
   QByteArray moved = PageSource;
-  moved.replace("left:210px; top:120px", "left: 250px; top: 150px");
+  moved.replace("left:210px; top:120px", "left:250px; top:150px");
   EXPECT_EQ(Saved(), moved);
   Exec(EditingCommand::Undo);
   EXPECT_EQ(Saved(), PageSource);
