@@ -35,7 +35,7 @@ ARTICLE = b"""<html>
 <p>They grow in every garden.</p>
 <p><img src="roses.png" height="160" width="240"></p>
 <table cellspacing="1" cellpadding="1" border="1" width="75%">
-   <tbody><tr>
+   <tr>
       <td>Name</td>
       <td>Colour</td>
       <td>Height</td>
@@ -50,7 +50,6 @@ ARTICLE = b"""<html>
       <td>Pink</td>
       <td>Three metres</td>
    </tr>
-</tbody>
 </table>
 <p>Cut them in <b>March</b>.</p>
 
