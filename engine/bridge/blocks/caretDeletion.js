@@ -2,7 +2,7 @@
 // @ts-check
 // Backspace and Delete at a caret where the engine would do it badly: at the edge of a paragraph,
 // which is joined to its neighbour, and beside a picture, an island and the like.
-import { deleteAroundComments, deleteToLine } from './deletion.js';
+import { deleteAroundComments, deleteToLine, isUntouched } from './deletion.js';
 import {
   caretAt, cellOf, isAtEdge, isEmptyParagraph, sameUnit, showsAnything, spansUnits, unitAt,
 } from './extent.js';
@@ -184,16 +184,25 @@ export function deletionAtCaret(range, side, target) {
 }
 
 /**
- * What a deletion does where a paragraph's start is all that is selected, with no paragraph before
- * it in the selection; null elsewhere.
+ * What a deletion does where the line end between two paragraphs is all that is selected: an empty
+ * line up to the start of the next one, or a paragraph's start with no paragraph before it in the
+ * selection. Null elsewhere.
  * @param {Range} range the selected one
  */
-export function deletionOfEdge(range) {
-  if (spansUnits(range) || selection.control(range) || showsAnything(range)) return null;
-  const { endContainer, endOffset } = range;
-  const unit = unitAt(endContainer, endOffset);
-  const caret = caretAt(endContainer, endOffset);
-  return unit && isAtEdge(caret, unit, 'start') ? deletionAtEdge(unit, 'start') : null;
+export function deletionOfLineEnd(range) {
+  if (selection.control(range)) return null;
+  const { startContainer, startOffset, endContainer, endOffset } = range;
+  const last = unitAt(endContainer, endOffset);
+  if (!last || !isAtEdge(caretAt(endContainer, endOffset), last, 'start')) return null;
+  if (showsAnything(range)) {
+    const first = unitAt(startContainer, startOffset);
+    const isLine = first && !sameUnit(first, last) && dom.isHollow(first.home) &&
+      cellOf(startContainer) === cellOf(endContainer);
+    const leaves = isLine ? [...selection.leavesIn(range)].filter(dom.isShown) : [];
+    const isAlone = leaves.filter((leaf) => !isUntouched(leaf, range)).length === 1;
+    return isAlone ? deletionAtEdge(first, 'end') : null;
+  }
+  return spansUnits(range) ? null : deletionAtEdge(last, 'start');
 }
 
 // A rule or a closed block goes, and a list that held nothing else.
@@ -277,6 +286,14 @@ function withBlank(unit) {
   return isSeen ? { block, container, home, object, nodes: [...nodes, blank] } : unit;
 }
 
+// True where bare text has the emptied paragraph before it for its own.
+/**
+ * @param {Unit} text
+ * @param {AnyNode} emptied
+ */
+const isTakenBy = ({ block, container }, emptied) =>
+  !block && emptied?.tagName === 'P' && emptied.parentNode === container;
+
 // Joins two paragraphs and puts the caret between them. Where one of the two is an empty line it
 // goes, and the other stays as it is.
 /**
@@ -289,10 +306,9 @@ function joinAtCaret(first, second) {
   /** @type {AnyNode} */
   const above = emptyLine(first, 'end') ?? (isEmptyParagraph(first) ? first.block : null);
   const below = emptyLine(second, 'start') ?? (isEmptyParagraph(second) ? second.block : null);
-  // Bare text has the emptied paragraph for its own.
-  const takesIn = !second.block && above?.tagName === 'P';
-  const emptied = takesIn ? null : above ?? below;
-  if (takesIn) above.replaceChildren();
+  const isTaken = isTakenBy(second, above);
+  const emptied = isTaken ? null : above ?? below;
+  if (isTaken) above.replaceChildren();
   if (!emptied) {
     trimEdges(first, second);
     const [left, right] = [first.nodes.at(-1), second.nodes[0]];

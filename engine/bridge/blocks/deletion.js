@@ -106,12 +106,12 @@ function thingIn(range) {
   }
   return dom.isIsland(leaves[0]) ? leaves[0] : null;
 }
-// A text at an end of the range of which nothing is selected.
 /**
+ * True for a text at an end of the range of which nothing is selected.
  * @param {AnyNode} leaf
  * @param {Range} range
  */
-const isUntouched = (leaf, range) =>
+export const isUntouched = (leaf, range) =>
   (leaf === range.startContainer && dom.isText(leaf) && range.startOffset === leaf.length) ||
   (leaf === range.endContainer && range.endOffset === 0);
 
@@ -192,6 +192,7 @@ function deleteAcross(range, rest) {
   const mark = document.createTextNode('');
   if (first.nodes.length) first.nodes[0].before(mark);
   else first.container.prepend(mark);
+  if (begins && range.comparePoint(mark, 0) === 0) range.setStartAfter(mark);
   leaveEdgeComments(range);
   range.deleteContents();
   dropEmptyInline(startContainer);

@@ -109,7 +109,7 @@ function excludeNextParagraph(range) {
   const { startContainer, startOffset, endContainer, endOffset } = range;
   const first = unitAt(startContainer, startOffset);
   const behind = unitAt(endContainer, endOffset);
-  if (!first || !behind || sameUnit(first, behind) || isEmptyParagraph(first)) return;
+  if (!first || !behind || sameUnit(first, behind)) return;
   if (!isAtEdge(caretAt(startContainer, startOffset), first, 'start')) return;
   if (!isAtEdge(caretAt(endContainer, endOffset), behind, 'start')) return;
   const leaf = [...selection.leavesIn(range)]

@@ -3,7 +3,7 @@
 // Typing. The engine puts typed text in; what is done here is what it needs before it can (a line,
 // a paragraph, an empty selection), and all of it where text is typed over selected text or in a
 // link.
-import { deletionOfEdge } from './caretDeletion.js';
+import { deletionOfLineEnd } from './caretDeletion.js';
 import { deleteRange, deleteToLine, deleteToPoint } from './deletion.js';
 import { narrowSelection } from './extent.js';
 import { looksOf, waitAtCaret } from '../formats/keptLooks.js';
@@ -107,7 +107,7 @@ const firstText = (range) =>
  * @param {Range} range the selected one
  */
 export function deleteKeepingLooks(range) {
-  const joins = selection.cellsIn(range) ? null : deletionOfEdge(range);
+  const joins = selection.cellsIn(range) ? null : deletionOfLineEnd(range);
   if (joins) {
     joins();
     return;
