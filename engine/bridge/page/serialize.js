@@ -25,6 +25,14 @@ export function firstBreaks(top) {
   return found.filter(startsWithBreak);
 }
 
+/**
+ * The breaks in text that is written as it stands, where a tag would be letters: they hold an
+ * emptied element open.
+ * @param {AnyNode} top
+ * @returns {Element[]}
+ */
+export const rawBreaks = (top) => [...top.querySelectorAll?.('xmp br, plaintext br') ?? []];
+
 // The same node in a copy of its tree.
 /**
  * @param {AnyNode} node
@@ -49,12 +57,14 @@ function written(node) {
 /** @param {AnyNode} root */
 function markup(root) {
   const blanks = blanksAsWritten().filter(({ node }) => root.contains(node));
-  if (!firstBreaks(root).length && !blanks.length) return written(root);
+  const isPlain = !firstBreaks(root).length && !rawBreaks(root).length && !blanks.length;
+  if (isPlain) return written(root);
   const copy = root.cloneNode(true);
   for (const { node, index, text } of blanks) {
     counterpart(node, root, copy).replaceData(index, 1, text);
   }
   firstBreaks(copy).forEach((element) => element.prepend('\n'));
+  rawBreaks(copy).forEach((line) => line.remove());
   return written(copy);
 }
 

@@ -7,7 +7,7 @@
 // of a *branch*: the root element, and each element in it that is longer than `largestPiece`. A
 // mutation observer says which pieces have to be serialized anew.
 import { selectionPaths } from '../page/paths.js';
-import { firstBreaks, serialize, serializeNode } from '../page/serialize.js';
+import { firstBreaks, rawBreaks, serialize, serializeNode } from '../page/serialize.js';
 import { blanksAsWritten } from '../page/standIns.js';
 import { shownGeneration } from './replace.js';
 
@@ -44,7 +44,8 @@ const sum = (lengths) => lengths.reduce((all, length) => all + length, 0);
 // The nodes whose text is another one than the engine's `outerHTML`, with all elements around them.
 function nodesWithOwnText() {
   const found = new Set();
-  const nodes = [...firstBreaks(document), ...blanks.map(({ node }) => node)];
+  const nodes =
+    [...firstBreaks(document), ...rawBreaks(document), ...blanks.map(({ node }) => node)];
   for (const node of nodes) for (let at = node; at; at = at.parentNode) found.add(at);
   return found;
 }
