@@ -49,7 +49,9 @@ function breakLine() {
     return;
   }
   const end = document.createTextNode(below === '' ? '\n\n' : '\n');
+  const held = dom.isHollow(pre) ? pre.querySelector('br') : null;
   range.insertNode(end);
+  held?.remove();
   const caret = { node: end, offset: 1 };
   joinTexts([end], [caret]);
   selection.setCaret(caret.node, caret.offset);
