@@ -221,3 +221,11 @@ history.keepAlong({
   isSame: (one, other) => one.length === other.length && one.every(({ node, index, typed }, at) =>
     node === other[at].node && index === other[at].index && typed === other[at].typed),
 });
+
+/**
+ * True where a text begins with stand-ins that stand for nothing, and they go up to the offset.
+ * @param {Node} node
+ * @param {number} offset
+ */
+export const standsForNothing = (node, offset) => offset > 0 && offset === blanksAsWritten()
+  .filter((each) => each.node === node && each.index < offset && each.text === '').length;

@@ -5,6 +5,7 @@
 // like hold, that block is the unit's own.
 import * as dom from './dom.js';
 import * as selection from './selection.js';
+import { standsForNothing } from './standIns.js';
 
 /** @param {AnyNode} block */
 const own = (block) => dom.isParagraph(block) || block.tagName === 'DIV';
@@ -212,7 +213,8 @@ function runFollower() {
  * @param {PlainRange} range
  * @param {AnyNode} leaf
  */
-const endsAtStart = ({ endContainer, endOffset }, leaf) => leaf === endContainer && endOffset === 0;
+const endsAtStart = ({ endContainer, endOffset }, leaf) => leaf === endContainer &&
+  (endOffset === 0 || standsForNothing(leaf, endOffset));
 
 // `most` is the number of leaves that are looked at.
 /**
