@@ -189,10 +189,7 @@ void SourceSpelling::ReleaseWord() {
 std::vector<SourceSpelling::Place> SourceSpelling::PlacesIn(const SourceTextLine &line) {
   std::vector<Place> places;
   for (const TextStretch &stretch : spelling_->UnknownWords(line.spelled, siteList_))
-    places.push_back({{line.spelled.text.sliced(stretch.start, stretch.end - stretch.start),
-                       line.spelled.LanguageAt(stretch.start)},
-                      line,
-                      stretch});
+    places.push_back({UnknownWordAt(line.spelled, stretch), line, stretch});
   return places;
 }
 

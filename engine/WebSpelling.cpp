@@ -108,10 +108,7 @@ std::optional<WebSpelling::PageText> WebSpelling::ReadPage(Extent extent) {
 std::vector<WebSpelling::Place> WebSpelling::PlacesIn(const SpelledLine &line, int number) {
   std::vector<Place> places;
   for (const TextStretch &stretch : Judge(line))
-    places.push_back({{line.text.sliced(stretch.start, stretch.end - stretch.start),
-                       line.LanguageAt(stretch.start)},
-                      number,
-                      stretch});
+    places.push_back({UnknownWordAt(line, stretch), number, stretch});
   return places;
 }
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/Spelling.h"
+
 #include <QString>
 
 #include <optional>
 #include <vector>
 
 namespace velor {
-
-class Spelling;
 
 /// A word of a page that is in no dictionary and no list.
 struct UnknownWord {
@@ -17,6 +17,11 @@ struct UnknownWord {
 
   bool operator==(const UnknownWord &) const = default;
 };
+
+/// The word at a place that Spelling::UnknownWords answered for the line.
+inline UnknownWord UnknownWordAt(const SpelledLine &line, const TextStretch &place) {
+  return {line.text.sliced(place.start, place.end - place.start), line.LanguageAt(place.start)};
+}
 
 /// The spelling of a page in design view, or of a page's text in its source. Waves under unknown
 /// words are drawn over the page and are never in it; each correction is one undo step.
