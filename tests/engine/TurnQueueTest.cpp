@@ -59,6 +59,12 @@ class Turns : public ::testing::Test {
   bool ArrivedBecomes(const std::string &text) {
     return WaitFor([&] { return page_.Arrived() == text; });
   }
+  /// Lets that time pass, which input grows old in.
+  static bool Passes(std::chrono::milliseconds time) {
+    bool isOver = false;
+    QTimer::singleShot(time, [&] { isOver = true; });
+    return WaitFor([&] { return isOver; });
+  }
 
   NotedPage page_;
   EngineGuard guard_;
@@ -113,10 +119,7 @@ TEST_F(Turns, APageThatDoesNotTellOfTheProbeHoldsAnExpressionUpForAMomentOnly) {
 TEST_F(Turns, NoExpressionOvertakesTheKeysThatABusyPageHasNotTakenYet) {
   Press("a");
   Command("bold");
-  bool isLate = false;
-  QTimer::singleShot(TurnQueue::LongestInputDelay + TurnQueue::LongestInputDelay,
-                     [&] { isLate = true; });
-  ASSERT_TRUE(WaitFor([&] { return isLate; }));
+  ASSERT_TRUE(Passes(2 * TurnQueue::LongestInputDelay));
   Command("italic");
   EXPECT_EQ(page_.Arrived(), "a probe");
   queue_->ProbeArrived();
@@ -125,9 +128,7 @@ TEST_F(Turns, NoExpressionOvertakesTheKeysThatABusyPageHasNotTakenYet) {
 
 TEST_F(Turns, InputThatNobodyAskedAboutIsAskedAboutHoweverOldItIs) {
   Press("a");
-  bool isLate = false;
-  QTimer::singleShot(TurnQueue::LongestInputDelay + 1ms, [&] { isLate = true; });
-  ASSERT_TRUE(WaitFor([&] { return isLate; }));
+  ASSERT_TRUE(Passes(TurnQueue::LongestInputDelay + 1ms));
   Command("bold");
   EXPECT_EQ(page_.Arrived(), "a probe");
 }
