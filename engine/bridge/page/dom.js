@@ -18,6 +18,7 @@ const bare = set(
 const lists = set('DIR MENU OL UL');
 // Nothing flows from one of these to the next.
 const cells = set('BODY CAPTION TD TH');
+const rowGroups = set('TBODY TFOOT THEAD');
 // Shown as one thing; their inside is no text of the page.
 const atoms = set(
   'APPLET AUDIO BUTTON CANVAS EMBED HR IFRAME IMG INPUT ISINDEX MARQUEE METER OBJECT PROGRESS ' +
@@ -58,6 +59,7 @@ export const isBlock = named(blocks);
 export const isParagraph = named(paragraphs);
 export const isList = named(lists);
 export const isCell = named(cells);
+export const isRowGroup = named(rowGroups);
 export const isPreformatted = named(preformatted);
 export const isBare = named(bare);
 /** @param {AnyNode} node */

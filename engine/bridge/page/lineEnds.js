@@ -19,7 +19,7 @@ export const beginsLine = (node) => dom.isBlank(node) && node.data.includes('\n'
  */
 export function lineOf(node) {
   const { previousSibling: before, parentNode } = node;
-  if (!before && /^(TBODY|TFOOT|THEAD)$/.test(parentNode.tagName)) return lineOf(parentNode);
+  if (!before && dom.isRowGroup(parentNode)) return lineOf(parentNode);
   return dom.isText(before) ? /\n[ \t]*$/.exec(before.data)?.[0] ?? null : null;
 }
 /**

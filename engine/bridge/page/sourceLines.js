@@ -13,8 +13,6 @@ import * as selection from './selection.js';
 import { shiftStandIns, splitText } from './standIns.js';
 
 /** @param {AnyNode} node */
-const isPartOfTable = (node) => dom.isElement(node) && /^(TBODY|TFOOT|THEAD)$/.test(node.tagName);
-/** @param {AnyNode} node */
 const holdsItems = (node) => dom.isElement(node) &&
   /^(DIR|DL|MENU|OL|TABLE|TBODY|TFOOT|THEAD|UL)$/.test(node.tagName);
 
@@ -102,10 +100,10 @@ function setItems(list, line, step) {
     else if (own === line && areNew && beginsLine(item.previousSibling)) {
       item.previousSibling.appendData(step);
     }
-    if (isPartOfTable(item)) setItems(item, item.nextElementSibling ? line + step : line, step);
+    if (dom.isRowGroup(item)) setItems(item, item.nextElementSibling ? line + step : line, step);
     else if (holdsItems(item)) setItems(item, line + step, stepOf(item, line + step));
   }
-  if (!endLineOf(list) && !isPartOfTable(list.lastElementChild)) list.append(line);
+  if (!endLineOf(list) && !dom.isRowGroup(list.lastElementChild)) list.append(line);
 }
 
 // The cells of a row, as those of the row beside it.

@@ -66,9 +66,7 @@ export function deleteRows(grid, { top, bottom }) {
   for (const row of rows.slice(top, bottom + 1)) {
     const section = /** @type {Element} */ (row.parentNode);
     takeOut(row);
-    if (/^(TBODY|TFOOT|THEAD)$/.test(section.tagName) && !section.firstElementChild) {
-      takeOut(section);
-    }
+    if (dom.isRowGroup(section) && !section.firstElementChild) takeOut(section);
   }
 }
 

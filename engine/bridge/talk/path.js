@@ -107,7 +107,7 @@ function deleteNode(element) {
 }
 /** @param {AnyNode} element */
 function deleteAll(element) {
-  if (/^(TBODY|TFOOT|THEAD|TR)$/.test(element.tagName)) {
+  if (element.tagName === 'TR' || dom.isRowGroup(element)) {
     deleteRowsOf(element, deleteNode);
   } else if (element === document.body || dom.isCell(element)) {
     // Of what has to stay, the content goes.
