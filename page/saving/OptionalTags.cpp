@@ -26,12 +26,6 @@ constexpr Kind Kinds[] = {{{NameKeyOf(u"li"), 0}},
                           {{NameKeyOf(u"td"), NameKeyOf(u"th")}},
                           {{NameKeyOf(u"tr"), 0}},
                           {{NameKeyOf(u"p"), 0}}};
-/// Where else a paragraph ends.
-constexpr std::uint32_t ParagraphEnders[] = {
-    NameKeyOf(u"address"), NameKeyOf(u"blockquote"), NameKeyOf(u"div"), NameKeyOf(u"dl"),
-    NameKeyOf(u"form"),    NameKeyOf(u"h1"),         NameKeyOf(u"h2"),  NameKeyOf(u"h3"),
-    NameKeyOf(u"h4"),      NameKeyOf(u"h5"),         NameKeyOf(u"h6"),  NameKeyOf(u"hr"),
-    NameKeyOf(u"ol"),      NameKeyOf(u"pre"),        NameKeyOf(u"ul")};
 
 const Kind *KindOf(const HtmlToken &token) {
   if (token.kind != HtmlTokenKind::EndTag || !token.isFree) return nullptr;
@@ -45,7 +39,8 @@ bool EndsBefore(const Kind &kind, const HtmlToken &next) {
   if (next.kind == HtmlTokenKind::EndTag) return true;
   if (next.kind != HtmlTokenKind::StartTag) return false;
   return elements::IsOneOf(next.name, kind.names) ||
-         (kind.names[0] == NameKeyOf(u"p") && elements::IsOneOf(next.name, ParagraphEnders));
+         (kind.names[0] == NameKeyOf(u"p") &&
+          elements::IsOneOf(next.name, elements::ParagraphEnders));
 }
 
 /// What is read of the nearest token that something is read of.

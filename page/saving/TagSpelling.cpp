@@ -77,13 +77,13 @@ class SpellingReader {
 
   /// Whether every detail is found.
   bool Read(const HtmlToken &token) {
-    const bool isBlock = elements::IsOneOf(token.name, elements::Blocks);
     const bool isVoid = elements::IsOneOf(token.name, elements::VoidElements);
     const QStringView html = QStringView(source_.text).first(token.End());
     const HtmlTagParts tag = ReadHtmlTag(html, token.offset);
     // Of all of the page, which says less than a block beside the place.
     const bool isFrame = IsFrameTag(token) || token.name == elements::Title;
-    if (isBlock && !(isFrame ? hasFrameCase_ : hasCase_)) {
+    const bool showsCase = isFrame || elements::IsCommonBlock(token.name);
+    if (showsCase && !(isFrame ? hasFrameCase_ : hasCase_)) {
       (isFrame ? hasFrameCase_ : hasCase_) = true;
       (isFrame ? frameCase_ : found_.tagNames) = CaseOf(html.sliced(tag.name, tag.nameLength));
     }

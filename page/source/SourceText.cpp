@@ -52,11 +52,6 @@ class NameSet {
 };
 
 // As engine/bridge/page/dom.js has them.
-const NameSet Blocks(
-    u"address article aside blockquote body caption center col colgroup dd details dialog dir div "
-    u"dl dt fieldset figcaption figure footer form frameset h1 h2 h3 h4 h5 h6 header hr html "
-    u"legend li listing main menu nav ol p plaintext pre section summary table tbody td tfoot th "
-    u"thead tr ul xmp");
 const NameSet Atoms(
     u"applet audio button canvas embed hr iframe img input isindex marquee meter object progress "
     u"select textarea video svg");
@@ -84,7 +79,7 @@ bool IsTablePart(std::uint32_t name) {
 }
 
 bool EndsLine(std::uint32_t name) {
-  return Blocks.Has(name) || Atoms.Has(name) || name == Break;
+  return elements::IsBlock(name) || Atoms.Has(name) || name == Break;
 }
 
 bool IsRaw(std::uint32_t name) {
@@ -382,7 +377,8 @@ void SourceTextReader::EndImplied(std::uint32_t name) {
   }
   if (name == Item) end([](std::uint32_t each) { return each == Item; }, isListOrTable);
   if (IsOneOf(name, Terms)) end(isOf(Terms), isListOrTable);
-  if (Blocks.Has(name)) end([](std::uint32_t each) { return each == Paragraph; }, IsTablePart);
+  if (elements::IsBlock(name))
+    end([](std::uint32_t each) { return each == Paragraph; }, IsTablePart);
 }
 
 }  // namespace velor

@@ -66,17 +66,33 @@ inline constexpr std::uint32_t Breakouts[] = {
     NameKeyOf(u"s"),      NameKeyOf(u"small"),   NameKeyOf(u"span"),       NameKeyOf(u"strong"),
     NameKeyOf(u"strike"), NameKeyOf(u"sub"),     NameKeyOf(u"sup"),        NameKeyOf(u"table"),
     NameKeyOf(u"tt"),     NameKeyOf(u"u"),       NameKeyOf(u"ul"),         NameKeyOf(u"var")};
-/// Blocks and the parts of a page: their tags show in which letter case an author writes.
-inline constexpr std::uint32_t Blocks[] = {
-    NameKeyOf(u"address"), NameKeyOf(u"blockquote"), NameKeyOf(u"body"),  NameKeyOf(u"caption"),
-    NameKeyOf(u"center"),  NameKeyOf(u"dd"),         NameKeyOf(u"div"),   NameKeyOf(u"dl"),
-    NameKeyOf(u"dt"),      NameKeyOf(u"form"),       NameKeyOf(u"h1"),    NameKeyOf(u"h2"),
-    NameKeyOf(u"h3"),      NameKeyOf(u"h4"),         NameKeyOf(u"h5"),    NameKeyOf(u"h6"),
-    NameKeyOf(u"head"),    NameKeyOf(u"hr"),         NameKeyOf(u"html"),  NameKeyOf(u"li"),
-    NameKeyOf(u"ol"),      NameKeyOf(u"p"),          NameKeyOf(u"pre"),   NameKeyOf(u"section"),
-    NameKeyOf(u"table"),   NameKeyOf(u"tbody"),      NameKeyOf(u"td"),    NameKeyOf(u"tfoot"),
-    NameKeyOf(u"th"),      NameKeyOf(u"thead"),      NameKeyOf(u"title"), NameKeyOf(u"tr"),
-    NameKeyOf(u"ul")};
+// The blocks, each in one of three lists; together they are those of engine/bridge/page/dom.js.
+/// Common blocks before which the end tag of a paragraph may be left out. A table is none of them:
+/// in quirks mode it does not end a paragraph.
+inline constexpr std::uint32_t ParagraphEnders[] = {
+    NameKeyOf(u"address"), NameKeyOf(u"blockquote"), NameKeyOf(u"div"), NameKeyOf(u"dl"),
+    NameKeyOf(u"form"),    NameKeyOf(u"h1"),         NameKeyOf(u"h2"),  NameKeyOf(u"h3"),
+    NameKeyOf(u"h4"),      NameKeyOf(u"h5"),         NameKeyOf(u"h6"),  NameKeyOf(u"hr"),
+    NameKeyOf(u"ol"),      NameKeyOf(u"pre"),        NameKeyOf(u"ul")};
+inline constexpr std::uint32_t OtherCommonBlocks[] = {
+    NameKeyOf(u"body"),    NameKeyOf(u"caption"), NameKeyOf(u"center"), NameKeyOf(u"dd"),
+    NameKeyOf(u"dt"),      NameKeyOf(u"html"),    NameKeyOf(u"li"),     NameKeyOf(u"p"),
+    NameKeyOf(u"section"), NameKeyOf(u"table"),   NameKeyOf(u"tbody"),  NameKeyOf(u"td"),
+    NameKeyOf(u"tfoot"),   NameKeyOf(u"th"),      NameKeyOf(u"thead"),  NameKeyOf(u"tr")};
+inline constexpr std::uint32_t OtherBlocks[] = {
+    NameKeyOf(u"article"),    NameKeyOf(u"aside"),  NameKeyOf(u"col"),       NameKeyOf(u"colgroup"),
+    NameKeyOf(u"details"),    NameKeyOf(u"dialog"), NameKeyOf(u"dir"),       NameKeyOf(u"fieldset"),
+    NameKeyOf(u"figcaption"), NameKeyOf(u"figure"), NameKeyOf(u"footer"),    NameKeyOf(u"frameset"),
+    NameKeyOf(u"header"),     NameKeyOf(u"legend"), NameKeyOf(u"listing"),   NameKeyOf(u"main"),
+    NameKeyOf(u"menu"),       NameKeyOf(u"nav"),    NameKeyOf(u"plaintext"), NameKeyOf(u"summary"),
+    NameKeyOf(u"xmp")};
+/// Whether the element's tags show in which letter case an author writes.
+inline bool IsCommonBlock(std::uint32_t name) {
+  return IsOneOf(name, ParagraphEnders) || IsOneOf(name, OtherCommonBlocks);
+}
+inline bool IsBlock(std::uint32_t name) {
+  return IsCommonBlock(name) || IsOneOf(name, OtherBlocks);
+}
 inline constexpr std::uint32_t Html = NameKeyOf(u"html");
 inline constexpr std::uint32_t Head = NameKeyOf(u"head");
 inline constexpr std::uint32_t Body = NameKeyOf(u"body");
