@@ -180,7 +180,10 @@ void frmCodeEditor::FollowPage() {
   if (alive == nullptr || shown == AppliedText) return;
   const std::optional<TextReplacement> change = CarriedChange(AppliedText, shown, code_->Text());
   if (!change) {
-    context_.mainWindow.status.Report(
+    // Another page may have come to the front; OnActivated leads here again.
+    if (context_.mainWindow.windows.Current() != this) return;
+    context_.mainWindow.status.ReportOn(
+        number_,
         Words::tr("Design view changed the page where its source was changed too. Applying the "
                   "source takes these changes back, until Undo"));
     return;

@@ -32,7 +32,15 @@ class RealSourceBeside : public RealWindow {
     Type(page, QStringLiteral("x"));
     ASSERT_TRUE(WaitFor([&] { return Holds(page, seen); })) << Seen(page);
   }
+  void ChangeOnePlaceInBoth() {
+    TypeInSource(QStringLiteral("One"), QStringLiteral("Uno"));
+    TypeInDesign(QStringLiteral("#a"), QStringLiteral("Oxne"));
+  }
   void ComeBack() { Parts().windows.Show(&editor); }
+  bool IsConflictTold() {
+    const QString message = Find<QStatusBar>("Sta")->currentMessage();
+    return message.startsWith(QStringLiteral("Design view changed the page"));
+  }
 
   frmMain &page = Open(PageFile, Lines);
   frmCodeEditor &editor = *[this] {
@@ -76,18 +84,28 @@ TEST_F(RealSourceBeside, AnAppliedSourceThatDesignViewTookBackIsGoneInTheSourceT
 }
 
 TEST_F(RealSourceBeside, WhereBothChangedOnePlaceTheSourceStaysAndThatIsTold) {
-  TypeInSource(QStringLiteral("One"), QStringLiteral("Uno"));
-  TypeInDesign(QStringLiteral("#a"), QStringLiteral("Oxne"));
+  ChangeOnePlaceInBoth();
   ComeBack();
-  auto *status = Find<QStatusBar>("Sta");
-  EXPECT_TRUE(WaitFor([&] {
-    return status->currentMessage().startsWith(QStringLiteral("Design view changed the page"));
-  })) << status->currentMessage().toStdString();
+  EXPECT_TRUE(WaitFor([&] { return IsConflictTold(); }));
   Choose("mnuSave");
   EXPECT_EQ(Bytes(PageFile), With("One", "Uno"));
   Parts().windows.Show(&page);
   Choose("mnuUndo");
   EXPECT_TRUE(WaitFor([&] { return Holds(page, QStringLiteral("Oxne")); })) << Seen(page);
+}
+
+TEST_F(RealSourceBeside, WhatBothChangedIsToldOnceTheSourceIsInFrontAndNotOverAnotherPage) {
+  frmMain &other = Open(QStringLiteral("b.htm"), Lines);
+  ChangeOnePlaceInBoth();
+  ComeBack();
+  Parts().windows.Show(&other);
+  bool hasFollowed = false;
+  QMetaObject::invokeMethod(
+      &editor, [&] { hasFollowed = true; }, Qt::QueuedConnection);
+  ASSERT_TRUE(WaitFor([&] { return hasFollowed; }));
+  EXPECT_FALSE(IsConflictTold());
+  ComeBack();
+  EXPECT_TRUE(WaitFor([&] { return IsConflictTold(); }));
 }
 
 }  // namespace
