@@ -2,6 +2,7 @@
 // @ts-check
 // Backspace and Delete at a caret where the engine would do it badly: at the edge of a paragraph,
 // which is joined to its neighbour, and beside a picture, an island and the like.
+import { breakIn, deleteBreak, emptiesBareLine } from './breaks.js';
 import { deleteAroundComments, deleteToLine, isUntouched } from './deletion.js';
 import {
   caretAt, cellOf, isAtEdge, isEmptyParagraph, sameUnit, showsAnything, spansUnits, unitAt,
@@ -171,6 +172,12 @@ export function deletionAtCaret(range, side, target) {
   if (signs) return keepingLooks(signs, () => deleteToLine(signs));
   const visible = besideUnseen(range, target);
   if (visible) return keepingLooks(visible, () => deleteAroundComments(visible));
+  if (emptiesBareLine(target)) {
+    const line = document.createRange();
+    line.setStart(target.startContainer, target.startOffset);
+    line.setEnd(target.endContainer, target.endOffset);
+    return keepingLooks(line, () => deleteToLine(line));
+  }
   if (isWithinText(range, side)) return null;
   const unit = unitsIn(range)[0];
   if (!unit || !range.collapsed) return null;
@@ -180,7 +187,9 @@ export function deletionAtCaret(range, side, target) {
     const character = rangeOfCharacter(found);
     return keepingLooks(character, () => deleteToLine(character));
   }
-  return isPast || isAtEdge(range, unit, side) ? deletionAtEdge(unit, side) : null;
+  if (isPast || isAtEdge(range, unit, side)) return deletionAtEdge(unit, side);
+  const line = breakIn(target);
+  return line && (() => deleteBreak(line));
 }
 
 /**
@@ -225,11 +234,31 @@ function deletionAtEdge(unit, side) {
   }
   const edge = unit.block || (back ? unit.nodes[0] : unit.nodes.at(-1)) || unit.container;
   const leaf = leafBeside(edge, back ? 'previousSibling' : 'nextSibling');
-  if (!leaf || leaf.tagName === 'TABLE') return () => {};
+  if (!leaf) return () => {};
+  if (leaf.tagName === 'TABLE') return () => { if (!back) dropLineBefore(leaf, unit); };
   if (dom.isBlock(leaf) && dom.isAtom(leaf)) return () => deleteAtom(leaf);
   const other = unitOfLeaf(leaf);
   if (!other || sameUnit(unit, other)) return null;
   return back ? () => joinAtCaret(other, unit) : () => joinAtCaret(unit, other);
+}
+
+/**
+ * Drops an empty line before a table. The caret goes to the line above that or, where none is, to
+ * the table's first cell. Backspace leaves a line behind a table: held down, it would go on in a
+ * cell.
+ * @param {Element} table
+ * @param {Unit} unit
+ */
+function dropLineBefore(table, unit) {
+  const line = isEmptyParagraph(unit) ? unit.block : emptyLine(unit, 'end');
+  if (!line || isItem(line)) return;
+  const above = leafBeside(line, 'previousSibling');
+  const { parentNode } = line;
+  dropBlock(line);
+  dropEmptyBlocks(parentNode);
+  const cell = table.querySelector('td, th') ?? table;
+  const anchor = above && !dom.isBlock(above) ? selection.endOf(above) : selection.startOf(cell);
+  selection.setCaret(...selection.pointOf(anchor));
 }
 
 /**

@@ -294,6 +294,7 @@ export function deleteAroundComments(range) {
   const block = dom.blockOf(range.startContainer);
   deleteLeaves(range);
   holdItemOpen(block, range);
+  holdLastLine(range);
   selection.setCaret(range.startContainer, range.startOffset);
   blanks.watched({ inputType: 'delete' });
 }

@@ -177,8 +177,9 @@ export function isAtEdge(range, unit, side) {
   if (side === 'start') {
     Object.assign(rest, { startContainer: first.parentNode, startOffset: indexOf(first) });
   } else {
-    const end = dom.isBreak(last) && last !== first ? last.previousSibling : last;
-    Object.assign(rest, { endContainer: end.parentNode, endOffset: indexOf(end) + 1 });
+    // The break at a line's end is no part of it.
+    const behind = dom.isBreak(last) ? 0 : 1;
+    Object.assign(rest, { endContainer: last.parentNode, endOffset: indexOf(last) + behind });
   }
   return !showsAnything(rest) || dom.isHollow(unit.home);
 }

@@ -249,21 +249,26 @@ function afterDeletion({ texts: old, target }) {
 
 // A text was cut by a break: white space that would begin the second line ends the first.
 /** @param {Noted} noted */
-function afterBreak(noted) {
-  const { texts: old, start } = noted;
-  if (!old.has(start.node)) return null;
+function afterBreak({ texts: old, start, right }) {
+  const data = old.get(/** @type {Text} */ (start.node));
+  if (data === undefined) return null;
   const { anchorNode, anchorOffset } = selection.points();
-  const second = beside(anchorNode, anchorOffset, 'nextSibling')?.node;
-  const broken = dom.isText(anchorNode) && anchorOffset === 0 ? anchorNode.previousSibling : null;
-  const first = dom.isBreak(broken) && dom.isText(broken.previousSibling)
-    ? broken.previousSibling : null;
-  const data = old.get(start.node);
-  const below = data.slice(start.offset);
+  // Cut at its end, with the rest of the line in another text.
+  const isWhole = start.offset === data.length && right?.node && right.node !== start.node;
+  const second = isWhole ? right.node : beside(anchorNode, anchorOffset, 'nextSibling')?.node;
+  const below = isWhole ? old.get(right.node) : data.slice(start.offset);
+  const isAtStart = dom.isText(anchorNode) && anchorOffset === 0;
+  const first = textBeforeBreak(isWhole ? start.node.nextSibling
+    : isAtStart && anchorNode.previousSibling);
   if (!first || !second || first === second || !/[^ \t\r\n\u00a0]/.test(below)) return null;
-  const texts = new Map([[first, data.slice(0, start.offset) + lead(below)],
-    [second, below.slice(lead(below).length)]]);
+  const above = data.slice(0, start.offset) + lead(below);
+  cutBehind.set(first, tail(above));
+  const texts = new Map([[first, above], [second, below.slice(lead(below).length)]]);
   return { texts, caret: { node: second, offset: 0 } };
 }
+/** @param {AnyNode} node */
+const textBeforeBreak = (node) =>
+  (dom.isBreak(node) && dom.isText(node.previousSibling) ? node.previousSibling : null);
 
 // A paragraph was cut where a line of the source ends: that line end stays behind the first part.
 /** @param {Noted} noted */
