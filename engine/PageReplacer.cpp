@@ -5,6 +5,7 @@
 #include "engine/EngineVerifier.h"
 #include "engine/NoticeQueue.h"
 #include "engine/PageLoader.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
 
@@ -23,10 +24,6 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds ReplaceLimit = 1min;
 /// Bytes. Preparing a larger page would block the window for seconds.
 constexpr qsizetype LargestPage = 32'000'000;
-
-QString FolderOf(const QString &nativePath) {
-  return nativePath.left(nativePath.lastIndexOf(u'/') + 1);
-}
 
 }  // namespace
 
@@ -64,7 +61,7 @@ void PageReplacer::ReplaceFrom(Source source, const QByteArray &bytes, const QSt
 
 bool PageReplacer::SharesFolder(Source source, const FaithfulPage &page,
                                 const QString &nativePath) {
-  if (FolderOf(nativePath) == FolderOf(document_.NativePath())) return true;
+  if (FolderOfNative(nativePath) == FolderOfNative(document_.NativePath())) return true;
   if (loader_.IsLoading()) return false;
   if (source == Source::Text) return document_.View()->MoveTo(nativePath);
   const Lifetime::Watch shown = document_.WatchPage();

@@ -67,6 +67,10 @@ QString ToNative(const QString &logicPath) {
   return native.replace(u'\\', u'/').replace(QChar(BackslashInName), u'\\');
 }
 
+QString FolderOfNative(const QString &nativePath) {
+  return nativePath.left(nativePath.lastIndexOf(u'/') + 1);
+}
+
 QString ForPeople(const QString &path) {
   const bool fromRoot = path.startsWith(u'\\') && !path.startsWith(u"\\\\");
   return fromRoot ? ToNative(path) : path;

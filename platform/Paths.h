@@ -28,6 +28,9 @@ QString ToLogic(const QString &nativePath);
 /// A path on an unmapped drive ("C:\site") has no native form: only its separators are exchanged.
 QString ToNative(const QString &logicPath);
 
+/// The folder of a native path, with the "/" at its end; empty where the path names none.
+QString FolderOfNative(const QString &nativePath);
+
 /// The form in which paths are shown to people and written to files that they read: native when the
 /// path begins with a single "\", otherwise unchanged.
 QString ForPeople(const QString &path);

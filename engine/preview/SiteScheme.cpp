@@ -19,11 +19,6 @@ namespace {
 
 const QString TextMark = QStringLiteral("velor-text");
 
-/// Ends in "/".
-QString FolderOf(const QString &path) {
-  return path.left(path.lastIndexOf(u'/') + 1);
-}
-
 /// Links of the file system followed as far as the path exists.
 QString Canonical(const QString &path) {
   const QFileInfo info(QDir::cleanPath(path));
@@ -64,7 +59,7 @@ QByteArray SiteScheme::Name() {
 
 QUrl SiteScheme::AddressOf(const QString &file, const QString &site) {
   QString folder = Canonical(site);
-  if (site.isEmpty() || !IsBelow(Canonical(file), folder)) folder = Canonical(FolderOf(file));
+  if (site.isEmpty() || !IsBelow(Canonical(file), folder)) folder = Canonical(FolderOfNative(file));
   const QString host = QStringLiteral("site-") + QUuid::createUuid().toString(QUuid::Id128);
   QUrl address;
   address.setScheme(QString::fromLatin1(Name()));

@@ -79,6 +79,15 @@ TEST(Paths, BecomeUrlsWithEverySpecialCharacterEncoded) {
   EXPECT_EQ(url.toLocalFile(), "/home/a b#1%20?.htm");
 }
 
+TEST(Paths, OfAFolderEndInASlashAndAreEmptyWhereNoneIsNamed) {
+  EXPECT_EQ(FolderOfNative("/home/u/a.htm"), "/home/u/");
+  EXPECT_EQ(FolderOfNative(R"(/home/u/a\b.htm)"), "/home/u/") << "a backslash is part of the name";
+  EXPECT_EQ(FolderOfNative("/home/u/"), "/home/u/");
+  EXPECT_EQ(FolderOfNative("/a.htm"), "/");
+  EXPECT_EQ(FolderOfNative("a.htm"), "");
+  EXPECT_EQ(FolderOfNative(""), "");
+}
+
 TEST(FindIgnoringCase, PrefersTheExactName) {
   QTemporaryDir folder;
   Touch(folder.filePath("index.htm"));
