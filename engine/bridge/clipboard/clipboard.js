@@ -27,7 +27,7 @@ import { schedulePush } from '../talk/pace.js';
 // ends lie within a paragraph, or that it is of cells that were selected as such.
 const generator = '<meta name="generator" content="Velor Web Creator"';
 const origin =
-  new RegExp(`${generator} data-ends="(closed|open|line) (closed|open|line)"( data-cells)?>`);
+  new RegExp(`${generator} data-ends="(closed|open|line) (closed|open|line|whole)"( data-cells)?>`);
 /** @param {import('./openEnds.js').OpenEnds} ends */
 const originOf = ({ start, end }) => `${generator} data-ends="${start} ${end}">`;
 const originOfCells = `${generator} data-ends="closed closed" data-cells>`;
@@ -211,9 +211,10 @@ function openEndsIn(html) {
 /**
  * @param {DocumentFragment} fragment
  * @param {Range} range
+ * @param {import('./openEnds.js').OpenEnds} [open]
  */
-function fit(fragment, range) {
-  unwrapSingle(fragment, range);
+function fit(fragment, range, open = closed) {
+  if (open.end !== 'whole') unwrapSingle(fragment, range);
   fitIntoList(fragment, range);
 }
 // Puts a fragment in at the selection, as one step of the history.
@@ -226,7 +227,7 @@ function putIn(fragment, kind, open = closed) {
   const range = selection.range();
   if (!range) return;
   const fill = fillingOf(fragment, range, open.isCells);
-  if (!fill) fit(fragment, range);
+  if (!fill) fit(fragment, range, open);
   addresses.makeRelative(fragment);
   if (!fragment.hasChildNodes()) return;
   history.step(kind, fill ?? (() => put(fragment, open)));

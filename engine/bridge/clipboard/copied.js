@@ -2,7 +2,7 @@
 // @ts-check
 // What is copied of a page: the content of a range with the elements around it that it cannot do
 // without elsewhere.
-import { showsAnything, spansUnits } from '../blocks/extent.js';
+import { narrowed, sameUnit, showsAnything, spansUnits, unitAt } from '../blocks/extent.js';
 import * as addresses from './addresses.js';
 import * as dom from '../page/dom.js';
 import { gridOf } from '../tables/grid.js';
@@ -12,6 +12,17 @@ import { setSpan } from '../tables/making.js';
 /** @param {AnyNode} node */
 const isContext = (node) => dom.isInline(node) || dom.isList(node) ||
   /^(DL|TABLE|TBODY|THEAD|TFOOT|TR|PRE)$/.test(node.tagName);
+// True where nothing shows in a node before the range.
+/**
+ * @param {Node} node
+ * @param {Range} range
+ */
+function beginsWith(node, { startContainer, startOffset }) {
+  const before = document.createRange();
+  before.setStart(node, 0);
+  before.setEnd(startContainer, startOffset);
+  return !showsAnything(before);
+}
 // True for an item whose paragraphs are all in the range: it is copied as an item.
 /**
  * @param {Node} item
@@ -19,14 +30,37 @@ const isContext = (node) => dom.isInline(node) || dom.isList(node) ||
  */
 function isAllOfItem(item, range) {
   if (item.nodeName !== 'LI' || !spansUnits(range)) return false;
-  const { startContainer, startOffset, endContainer, endOffset } = range;
-  const [before, behind] = [document.createRange(), document.createRange()];
-  before.setStart(item, 0);
-  before.setEnd(startContainer, startOffset);
+  const { endContainer, endOffset } = range;
+  const behind = document.createRange();
   behind.setStart(endContainer, endOffset);
   behind.setEnd(item, item.childNodes.length);
-  return !showsAnything(before) && !showsAnything(behind);
+  return beginsWith(item, range) && !showsAnything(behind);
 }
+
+/**
+ * True for a range over whole paragraphs that ends at the start of the one behind them.
+ * @param {Range} range
+ */
+export function reachesNext(range) {
+  const { endContainer, endOffset } = narrowed(range);
+  return !sameUnit(unitAt(range.endContainer, range.endOffset), unitAt(endContainer, endOffset));
+}
+// Such a range less that paragraph, which would be copied as an empty one.
+/** @param {Range} range */
+function withoutNext(range) {
+  if (!reachesNext(range)) return range;
+  const { endContainer, endOffset } = narrowed(range);
+  let last = endContainer.childNodes[endOffset - 1] ?? endContainer;
+  for (let outer = last.parentNode; !outer.contains(range.endContainer); outer = outer.parentNode) {
+    const isPart = dom.isList(outer) || !beginsWith(outer, range);
+    if (isPart && outer.contains(range.startContainer)) break;
+    last = outer;
+  }
+  const result = range.cloneRange();
+  result.setEndAfter(last);
+  return result;
+}
+
 /** @param {Range} range */
 function contextOf(range) {
   const elements = [];
@@ -52,9 +86,10 @@ function endSpans(part) {
 
 /**
  * A copy of a range's content, with such elements around it.
- * @param {Range} range
+ * @param {Range} selected
  */
-export function partOf(range) {
+export function partOf(selected) {
+  const range = withoutNext(selected);
   const content = range.cloneContents();
   for (const element of contextOf(range)) {
     const shell = /** @type {Element} */ (element.cloneNode(false));

@@ -7,6 +7,7 @@ import { breakLines } from '../blocks/blocks.js';
 import { leafBeside, unitOfLeaf } from '../blocks/caretDeletion.js';
 import { caretAt, isAtEdge, narrowed, sameUnit, unitAt } from '../blocks/extent.js';
 import { join } from '../blocks/joining.js';
+import { reachesNext } from './copied.js';
 import { joinAlike } from '../formats/merging.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
@@ -15,8 +16,9 @@ import { noBreak } from '../page/standIns.js';
 
 /**
  * An end is 'open' within a paragraph's text, a 'line' where it takes in the line end beside a
- * paragraph and none of its text, else 'closed'.
- * @typedef {'closed' | 'open' | 'line'} End
+ * paragraph and none of its text, 'whole' where it takes in the line end behind paragraphs that are
+ * all in it, else 'closed'.
+ * @typedef {'closed' | 'open' | 'line' | 'whole'} End
  * @typedef {{ start: End, end: End }} OpenEnds
  */
 
@@ -60,9 +62,10 @@ function endAt(node, offset, side, other) {
 export function openEndsOf(range) {
   if (range.collapsed || selection.control(range)) return closed;
   const { startContainer, startOffset, endContainer, endOffset } = narrowed(range);
+  const end = endAt(endContainer, endOffset, 'end', 'start');
   return {
     start: endAt(startContainer, startOffset, 'start', 'end'),
-    end: endAt(endContainer, endOffset, 'end', 'start'),
+    end: end === 'closed' && reachesNext(range) ? 'whole' : end,
   };
 }
 

@@ -240,6 +240,10 @@ void Perform(BridgePage &page, const QString &step) {
     page.Evaluate(QStringLiteral("markup.paste('text/html', markup.cut())"));
   } else if (verb == QStringLiteral("copyAndPaste")) {
     page.Evaluate(QStringLiteral("markup.paste('text/html', markup.copy())"));
+  } else if (verb == QStringLiteral("copyTo")) {
+    const QString copied = page.Evaluate(QStringLiteral("markup.copy()")).toString();
+    page.Press(QKeySequence::fromString(value, QKeySequence::PortableText));
+    page.Evaluate(QStringLiteral("markup.paste('text/html', %1)").arg(ScriptText(copied)));
   } else if (CommandNumbers().count(verb) == 1) {
     page.Evaluate(
         QStringLiteral("velor.exec(%1, %2)").arg(CommandNumbers().at(verb)).arg(ScriptText(value)));
