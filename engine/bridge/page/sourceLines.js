@@ -127,9 +127,11 @@ function setEndOfItem(list) {
   if (!dom.isList(list) || parentNode.tagName !== 'LI' || nextSibling) return;
   parentNode.append(lineOf(parentNode) ?? '');
 }
-// True where the line end behind a list is the end of its last item.
-/** @param {AnyNode} list */
-const endsInItem = (list) => holdsItems(list) && innerEnd(list.lastChild) !== null;
+// True where the line end behind a list is the end of its last item, or that behind a quote the end
+// of its last paragraph.
+/** @param {AnyNode} block */
+const endsInItem = (block) => (holdsItems(block) || block.tagName === 'BLOCKQUOTE') &&
+  innerEnd(block.lastChild) !== null;
 
 /**
  * @param {AnyNode} block
