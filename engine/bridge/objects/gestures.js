@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // @ts-check
-// What a person does to objects: a press selects, a drag sizes or moves, arrow keys move. While a
-// drag goes on it is shown by an animation that stands still, which changes no node. Its end writes
-// to the document, as one step of the history.
+// What a person does to objects: a press selects, a drag sizes or moves. While a drag goes on it is
+// shown by an animation that stands still, which changes no node. Its end writes to the document,
+// as one step of the history.
+import { arrow } from './arrows.js';
 import * as boxes from './boxes.js';
-import { extendCells, leaveCells } from './cellGestures.js';
+import { leaveCells } from './cellGestures.js';
 import { gripAt, pointAt, setDragging } from './frame.js';
 import { gridStep, snaps } from './grid.js';
 import { drawnBy, guidesInSight, linesBeside } from './guides.js';
@@ -296,77 +297,6 @@ function enterCell(target) {
   }
 }
 
-/** @type {Map<string, [x: number, y: number]>} */
-const steps = new Map([
-  ['ArrowLeft', [-1, 0]], ['ArrowRight', [1, 0]], ['ArrowUp', [0, -1]], ['ArrowDown', [0, 1]],
-]);
-
-// The position of the next line of the grid in a direction: -1, 1, or 0 for where it is.
-/**
- * @param {number} pixels
- * @param {number} direction
- */
-function nextLine(pixels, direction) {
-  if (!direction) return pixels;
-  const lines = pixels / gridStep;
-  return (direction > 0 ? Math.floor(lines) + 1 : Math.ceil(lines) - 1) * gridStep;
-}
-
-// Moves an object by a key: to the next line of the grid, or by a pixel where `fine`. Moves in a
-// row are one step of the history.
-/**
- * @param {HTMLElement} object
- * @param {[x: number, y: number]} step
- * @param {boolean} fine
- */
-function nudge(object, [x, y], fine) {
-  const before = objects.measure(object);
-  const { left, top } = before;
-  const change = !fine
-    ? { dx: nextLine(left, x) - left, dy: nextLine(top, y) - top } : { dx: x, dy: y };
-  history.expect('nudge', true);
-  objects.writeChange(object, before, change);
-  history.arrive();
-}
-
-// The object that comes next on one side of the caret, within its cell; null where text comes next.
-/**
- * @param {PlainRange} caret
- * @param {boolean} forward
- */
-function objectBeside({ startContainer: node, startOffset: offset }, forward) {
-  const side = forward ? 'nextSibling' : 'previousSibling';
-  if (dom.isText(node) && (forward ? offset < node.length : offset > 0)) return null;
-  let beside = dom.shownFrom(node.childNodes[forward ? offset : offset - 1] ?? null, side);
-  for (let at = node; !beside && !dom.isCell(at); at = at.parentNode) {
-    beside = dom.neighbour(at, side);
-  }
-  while (beside && !dom.isObject(beside)) {
-    if (!dom.isInline(beside)) return null;
-    const within = [...beside.childNodes].filter(dom.isShown);
-    beside = within.at(forward ? 0 : -1) ?? null;
-  }
-  return beside;
-}
-
-// Selects the object that comes next in an arrow key's direction; false where none does.
-/**
- * @param {Range} range
- * @param {string} key
- */
-function extendOver(range, key) {
-  const { direction } = getComputedStyle(selection.element());
-  const forwards = ['ArrowDown', direction === 'ltr' ? 'ArrowRight' : 'ArrowLeft'];
-  const forward = forwards.includes(key);
-  const object = objectBeside(range, forward);
-  if (!object) return false;
-  const index = selection.indexOf(object);
-  const [from, to] = forward ? [index, index + 1] : [index + 1, index];
-  const { parentNode } = object;
-  document.getSelection().setBaseAndExtent(parentNode, from, parentNode, to);
-  return true;
-}
-
 /** @param {KeyboardEvent} event */
 function keyDown(event) {
   const { key, altKey, metaKey } = event;
@@ -377,22 +307,7 @@ function keyDown(event) {
   }
   if (!dom.isEditable() || event.isComposing || altKey || metaKey) return;
   if (key === 'Escape' && !leaveCells()) objects.stepOut(objects.selected());
-  if (steps.has(key)) arrow(event);
-}
-
-/** @param {KeyboardEvent} event */
-function arrow(event) {
-  const { key, ctrlKey, shiftKey } = event;
-  const range = selection.range();
-  const object = selection.control(range);
-  if (shiftKey) {
-    const isTaken = () => (range?.collapsed && extendOver(range, key)) || extendCells(key);
-    if (!ctrlKey && isTaken()) event.preventDefault();
-  } else if (object && objects.isMovable(object)) {
-    event.preventDefault();
-    // Ctrl does what the arrow alone does not.
-    nudge(object, steps.get(key), snaps() ? ctrlKey : !ctrlKey || !hasAdditions());
-  }
+  arrow(event);
 }
 
 /**
