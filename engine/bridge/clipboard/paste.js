@@ -4,8 +4,10 @@
 // stay in it (nothing of it runs while a page is edited). The paragraph at the caret is cut in two
 // where blocks come in.
 import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
+import { isListOf } from '../blocks/items.js';
 import { dropHolder } from '../blocks/typing.js';
 import { joinToNeighbours } from '../formats/merging.js';
+import { dropDoubleEmphasis, makeItems, wrapParts } from './fitting.js';
 import { closed, giveName, joinsFor } from './openEnds.js';
 import { noteArrival } from './pictures.js';
 import * as objects from '../objects/objects.js';
@@ -79,34 +81,6 @@ function dropIfHollow(half, next = null) {
   }
   return false;
 }
-
-// Makes the fragment one that may stand in a list: items, those of lists in it too; anything else
-// goes into an item, a line of text with the list behind it into one.
-/**
- * @param {DocumentFragment} fragment
- * @param {Element} list
- */
-function makeItems(fragment, list) {
-  const definitions = list.tagName === 'DL';
-  const tag = definitions ? 'DD' : 'LI';
-  /** @param {AnyNode} node */
-  const fits = (node) => (definitions ? /^(DT|DD)$/.test(node.tagName) : node.tagName === 'LI');
-  /** @param {AnyNode} node */
-  const isSame = (node) => (definitions ? node.tagName === 'DL' : dom.isList(node));
-  /** @type {AnyNode} */
-  let line = null;
-  for (const node of [...fragment.childNodes]) {
-    const isInLine = dom.isShown(node) && !dom.isBlock(node);
-    if (line && (isInLine || isSame(node))) line.append(node);
-    else if (isSame(node)) dom.unwrap(node);
-    else if (/^(P|LI)$/.test(node.nodeName) && !fits(node)) dom.rename(node, tag);
-    else if (isInLine) line = dom.wrap([node], dom.create(tag));
-    else if (dom.isShown(node) && !fits(node)) dom.wrap([node], dom.create(tag));
-    if (dom.isBlock(node)) line = null;
-  }
-}
-/** @param {AnyNode} node */
-const isListOf = (node) => dom.isList(node) || node.tagName === 'DL';
 
 // The items that stand beside one another.
 const itemTags = [['LI'], ['DT', 'DD']];
@@ -214,27 +188,6 @@ function dropHolderBreak(holder) {
   if (!dom.isBlock(parentNode)) dropEmptyInline(parentNode);
 }
 
-// Takes emphasis out of the fragment that the text around it has already: no B comes into a B.
-/** @type {Record<string, string>} */
-const likes = { STRONG: 'B', EM: 'I', STRIKE: 'S' };
-const emphasis = 'b, strong, i, em, u, s, strike, code, sub, sup';
-/** @param {Element} element */
-const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
-/**
- * @param {DocumentFragment} fragment
- * @param {AnyNode} node
- */
-function dropDoubleEmphasis(fragment, node) {
-  /** @type {AnyNode[]} */
-  const around = [];
-  for (let at = node; !dom.isBlock(at); at = at.parentNode) around.push(at);
-  /** @param {Element} element */
-  const adds = (element) => !around.some((outer) => kindOf(outer) === kindOf(element) &&
-    (!element.attributes.length || outer.cloneNode(false).isEqualNode(element.cloneNode(false))));
-  for (const element of fragment.querySelectorAll(emphasis)) {
-    if (!adds(element)) dom.unwrap(element);
-  }
-}
 /** @param {AnyNode} node */
 const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.href, dom.isBlock);
 
@@ -346,47 +299,6 @@ function putAt(fragment, { startContainer, startOffset }) {
   if (isListOf(home)) makeItems(fragment, home);
   if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
   else putInline(fragment, startContainer, startOffset);
-}
-
-// The lists and tables that parts of such stand in.
-/** @type {Record<string, string>} */
-const homes = {
-  LI: 'UL', DT: 'DL', DD: 'DL', TR: 'TABLE', TBODY: 'TABLE', TFOOT: 'TABLE', THEAD: 'TABLE',
-};
-/** @param {AnyNode} node */
-const takesItems = (node) => node.tagName === 'LI' || dom.isList(node);
-/**
- * @param {AnyNode} node
- * @param {string} home
- */
-const isIn = (node, home) => (home === 'UL'
-  ? dom.ancestor(node, takesItems, dom.isCell) !== null
-  : dom.ancestor(node, isListOf, dom.isCell)?.tagName === home);
-// Puts items and rows that come without their list or table into a new one, unless the place that
-// they go to (`node`) is in one; cells and options become what they hold.
-/**
- * @param {DocumentFragment} fragment
- * @param {Node} node
- */
-function wrapParts(fragment, node) {
-  for (const part of [...fragment.children]) {
-    if (/^(CAPTION|COL|COLGROUP|OPTGROUP|OPTION|TD|TH)$/.test(part.tagName)) {
-      dom.unwrap(part);
-      continue;
-    }
-    const home = homes[part.tagName];
-    if (!home || part.parentNode !== fragment) continue;
-    if (home !== 'TABLE' && isIn(node, home)) continue;
-    const parts = [];
-    /** @param {AnyNode} at */
-    const belongs = (at) => homes[at.tagName] === home || !dom.isShown(at);
-    /** @type {any} */
-    let at = part;
-    for (; at && belongs(at); at = at.nextSibling) parts.push(at);
-    const holder = dom.wrap(parts, dom.create(home));
-    const rows = [...holder.children].filter(({ tagName }) => tagName === 'TR');
-    if (rows.length) dom.wrap(rows, dom.create('TBODY'));
-  }
 }
 
 /**
