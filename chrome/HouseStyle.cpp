@@ -290,6 +290,8 @@ QIcon HouseStyle::standardIcon(StandardPixmap picture, const QStyleOption *optio
       return IconFor(QStringLiteral("about"));
     case SP_MessageBoxCritical:
       return IconFor(QStringLiteral("critical"));
+    case SP_ToolBarHorizontalExtensionButton:
+      return IconFor(QStringLiteral("more"));
     default:
       return QProxyStyle::standardIcon(picture, option, widget);
   }

@@ -2,14 +2,17 @@
 #include "chrome/HouseStyle.h"
 #include "chrome/Palette.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QStyleOptionSlider>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace velor {
@@ -64,6 +67,24 @@ TEST_P(HouseStyleTest, ABoxOfSeveralLinesLooksAsOneOfALineDoes) {
     return box.grab().toImage().copy(0, 0, 12, 12);
   };
   EXPECT_EQ(corner(lines), corner(line));
+}
+
+TEST_P(HouseStyleTest, TheMarkOfABarThatIsTooNarrowShows) {
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(PaletteFor(GetParam()));
+  const QColor ground = QApplication::palette().color(QPalette::Window);
+  QImage drawn(16, 16, QImage::Format_RGB32);
+  drawn.fill(ground);
+  QPainter painter(&drawn);
+  style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, nullptr, nullptr)
+      .paint(&painter, drawn.rect());
+  double most = 1;
+  for (int y = 0; y < drawn.height(); ++y) {
+    for (int x = 0; x < drawn.width(); ++x)
+      most = std::max(most, Contrast(drawn.pixelColor(x, y), ground));
+  }
+  EXPECT_GE(most, LegibleContrast);
+  QApplication::setPalette(before);
 }
 
 INSTANTIATE_TEST_SUITE_P(Shades, HouseStyleTest, ::testing::Values(Shade::Light, Shade::Dark));

@@ -54,7 +54,8 @@ constexpr const char *Keys[] = {"new",
                                 "find next",
                                 "goto line number",
                                 "mark all found",
-                                "replace"};
+                                "replace",
+                                "more"};
 
 QImage Drawn(const QString &key, int size, QIcon::Mode mode = QIcon::Normal) {
   return IconFor(key).pixmap(QSize(size, size), 1.0, mode).toImage();
