@@ -160,7 +160,7 @@ export function outdent(units) {
   for (const parts of quotedRuns(units.filter((each) => !itemOf(each)))) {
     // Asked for now: the run before may have cut the quote in two.
     const quote = quoteAround(parts[0]);
-    if (quote === parts[0]) holdOpen(dom.rename(quote, 'P'));
+    if (quote === parts[0] || (quote && dom.isHollow(quote))) holdOpen(dom.rename(quote, 'P'));
     else if (quote?.isConnected) unquote(quote, parts);
   }
 }

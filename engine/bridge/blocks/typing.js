@@ -12,7 +12,7 @@ import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import { beginsLine, beside, endsLine, keepsBlanks } from '../page/beside.js';
-import { holdOpen, openParagraph } from '../page/lines.js';
+import { holdOpen, openCaretLine, openParagraph } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { takeInSigns } from '../page/signs.js';
 import { addTyped, noBreak, resolveAll } from '../page/standIns.js';
@@ -174,6 +174,7 @@ export function prepareCaret(event) {
     if (event.inputType === 'insertCompositionText' && !object) deleteKeepingLooks(range);
     else if (!isGone) deleteToPoint(range);
   }
+  openCaretLine();
   const caret = selection.range();
   const gap = gapAt(caret);
   if (gap) {

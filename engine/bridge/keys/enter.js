@@ -14,7 +14,9 @@ import { beside, isBlank, isCommentBeside } from '../page/beside.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
-import { dropEmptyInline, holdOpen, openParagraph, shownBefore } from '../page/lines.js';
+import {
+  dropEmptyInline, emptyBlockAt, holdOpen, openCaretLine, openParagraph, shownBefore,
+} from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { gapAt, unitsIn } from '../page/units.js';
 import { moveGapAbove } from '../page/whitespace.js';
@@ -263,11 +265,19 @@ function breakBesideComment(caret) {
   selection.setCaret(line.parentNode, selection.indexOf(line) + 1);
 }
 
+function openAndEnter() {
+  openCaretLine();
+  const own = ownEnter();
+  if (own) own();
+  else byEngine('insertParagraph');
+}
+
 /** What Enter does here where the engine would do it badly, else null. */
 export function ownEnter() {
   const range = selection.range();
   if (!range) return null;
   if (preAt(range) && !spansUnits(range)) return breakLine;
+  if (dom.isParagraph(emptyBlockAt(range))) return openAndEnter;
   const object = selection.control(range);
   const action = object && objects.enterActionOf(object);
   if (action) return action;

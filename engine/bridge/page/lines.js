@@ -27,6 +27,28 @@ export function holdOpen(block) {
   }
 }
 
+/**
+ * The block without content that a caret is in, or the first one of a cell or page that is all
+ * without: no line is there, and the engine would type beside it, even outside its table. null
+ * where a line is, as in a cell.
+ * @param {PlainRange | null} range
+ * @returns {AnyNode}
+ */
+export function emptyBlockAt(range) {
+  if (!range?.collapsed) return null;
+  const block = dom.blockOf(range.startContainer);
+  if (dom.isAtom(block) || dom.hasContent(block)) return null;
+  return dom.isCell(block) ? [...block.querySelectorAll('*')].find(dom.isParagraph) : block;
+}
+/** Makes a line of such a block. False where the caret is in none. */
+export function openCaretLine() {
+  const block = emptyBlockAt(selection.range());
+  if (!block) return false;
+  holdOpen(block);
+  selection.setCaret(...selection.pointOf(selection.endOf(block)));
+  return true;
+}
+
 // True for an inline element that the page's rules make a line: one in a flex or grid box too.
 /** @param {AnyNode} node */
 const isLineElement = (node) => dom.isInline(node) &&

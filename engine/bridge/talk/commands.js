@@ -18,6 +18,7 @@ import * as objects from '../objects/objects.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import * as history from '../page/history.js';
+import { openCaretLine } from '../page/lines.js';
 import * as selection from '../page/selection.js';
 import { dropLine } from '../page/sourceLines.js';
 import { resolveAll } from '../page/standIns.js';
@@ -399,7 +400,7 @@ export const exec = (number, value = '') => {
     } else if (command.run) {
       history.step(number, () => {
         if (!view.range.collapsed) resolveAll();
-        command.run(String(value), view);
+        command.run(String(value), openCaretLine() ? readView() : view);
       });
     }
   });
