@@ -9,7 +9,7 @@ import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
 import { resolveAll } from '../page/standIns.js';
 import { unitsIn } from '../page/units.js';
-import { readView } from '../talk/commands.js';
+import { readView } from '../talk/view.js';
 import { put } from './paste.js';
 
 /** @typedef {import('../formats/links.js').Attributes} Attributes */

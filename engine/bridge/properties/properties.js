@@ -8,7 +8,7 @@ import * as history from '../page/history.js';
 import * as selection from '../page/selection.js';
 import { resolveAll } from '../page/standIns.js';
 import { work } from '../page/working.js';
-import { readView } from '../talk/commands.js';
+import { readView } from '../talk/view.js';
 import { schedulePush } from '../talk/pace.js';
 
 // What a dialog has changed since it asked for its properties: the step, and the values.

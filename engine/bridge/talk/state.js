@@ -9,8 +9,9 @@ import { hasAdditions } from '../page/additions.js';
 import { placeOfAsked } from '../page/asked.js';
 import * as selection from '../page/selection.js';
 import { cellsSelected } from '../tables/chosen.js';
-import { commands as table, queryValue, readView, statusOf } from './commands.js';
+import { commands as table, queryValue, statusOf } from './commands.js';
 import { pathNumbers, pathTold } from './path.js';
+import { readView } from './view.js';
 import { Command } from './vocabulary.js';
 
 const values = {
