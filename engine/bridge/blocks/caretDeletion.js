@@ -107,6 +107,22 @@ function seenBeside({ startContainer, startOffset }, side) {
     found = beside(at.object.parentNode, selection.indexOf(at.object) + step, way);
   }
 }
+// True where nothing but elements without content, as named places are, is between a caret and the
+// edge of its paragraph: the engine would take them along.
+/**
+ * @param {Range} caret
+ * @param {Unit} unit
+ * @param {Edge} side
+ */
+function isBesideNothing(caret, { nodes }, side) {
+  if (!nodes.length) return false;
+  const rest = caret.cloneRange();
+  if (side === 'start') rest.setStartBefore(nodes[0]);
+  else rest.setEndAfter(nodes.at(-1));
+  const leaves = [...selection.leavesIn(rest)]
+    .filter((leaf) => dom.isShown(leaf) && !isUntouched(leaf, rest));
+  return leaves.every((leaf) => dom.isInline(leaf) && !dom.isBreak(leaf) && isNothing(leaf));
+}
 /** @param {Neighbour} character */
 function rangeOfCharacter({ node, index }) {
   const range = document.createRange();
@@ -187,7 +203,8 @@ export function deletionAtCaret(range, side, target) {
     const character = rangeOfCharacter(found);
     return keepingLooks(character, () => deleteToLine(character));
   }
-  if (isPast || isAtEdge(range, unit, side)) return deletionAtEdge(unit, side);
+  const isEdge = isPast || isAtEdge(range, unit, side) || isBesideNothing(range, unit, side);
+  if (isEdge) return deletionAtEdge(unit, side);
   const line = breakIn(target);
   return line && (() => deleteBreak(line));
 }
