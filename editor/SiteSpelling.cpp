@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/SiteSpelling.h"
 
+#include "editor/EditorContext.h"
+#include "editor/MainWindow.h"
 #include "editor/PageWords.h"
 #include "editor/SuggestionBox.h"
 #include "editor/frmMain.h"
+#include "platform/Dialogs.h"
 #include "platform/Platform.h"
 #include "platform/Words.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -151,6 +155,16 @@ void FrmSiteSpelling::Drop() {
   // The list first: it chooses another row, whose word is found by the number that it had.
   delete list_->takeTopLevelItem(row);
   words_.erase(words_.begin() + row);
+}
+
+void ShowSiteSpelling(EditorContext &context) {
+  std::vector<SiteWord> words = UnknownWordsOfPages(context);
+  if (words.empty()) {
+    context.mainWindow.status.Report(Words::tr("There is no unknown word in the open pages"));
+    return;
+  }
+  FrmSiteSpelling window(context, std::move(words), QApplication::activeWindow());
+  context.platform.dialogs.RunModal(window);
 }
 
 }  // namespace velor

@@ -60,4 +60,7 @@ class FrmSiteSpelling final : public QDialog {
   QLabel *result_ = nullptr;
 };
 
+/// Opens that list, or says that there is no unknown word.
+void ShowSiteSpelling(EditorContext &context);
+
 }  // namespace velor

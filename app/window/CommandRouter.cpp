@@ -23,16 +23,12 @@
 #include "editor/modWorkFlow.h"
 #include "insert/modColor.h"
 #include "platform/Dialogs.h"
-#include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 #include "platform/Words.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QPointer>
-
-#include <utility>
-#include <vector>
 
 namespace velor {
 namespace {
@@ -45,17 +41,6 @@ EditingCommand WithShift(EditingCommand command) {
   if (command == EditingCommand::InsertRowBelow) return EditingCommand::InsertRowAbove;
   if (command == EditingCommand::InsertColumnRight) return EditingCommand::InsertColumnLeft;
   return command;
-}
-
-/// Lists the unknown words of all open pages.
-void ShowSiteSpelling(EditorContext &context) {
-  std::vector<SiteWord> words = UnknownWordsOfPages(context);
-  if (words.empty()) {
-    context.mainWindow.status.Report(Words::tr("There is no unknown word in the open pages"));
-    return;
-  }
-  FrmSiteSpelling window(context, std::move(words), QApplication::activeWindow());
-  context.platform.dialogs.RunModal(window);
 }
 
 }  // namespace
