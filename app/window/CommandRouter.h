@@ -88,10 +88,10 @@ class CommandRouter {
   /// Pastes the clipboard's text into the page in front: "text", "table" or "markdown"; see
   /// docs/bridge.md, pasteAs. In a source editor all of them paste the text.
   void PasteAs(const QString &form);
-  /// Opens the find bar of the window in front, or goes on with its search.
   /// The bar of that kind in the window in front; null where it has none.
   template <typename Bar>
   Bar *BarInFront();
+  /// Opens the find bar of the window in front, or goes on with its search.
   void FindInFront(CommandId step);
   void Insert(void (InsertCommands::*insertion)(frmMain &));
   void SetValue(EditingCommand query, EditingCommand set, const QString &value);
