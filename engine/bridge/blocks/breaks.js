@@ -34,8 +34,8 @@ export function breakIn(target) {
 }
 
 /**
- * True where a deletion takes all that is seen of a line of bare text with a block behind it: the
- * engine would leave no line there, and go on in that block.
+ * True where a deletion takes all that is seen of a line of bare text with a block behind it, or
+ * with one before it alone: the engine would leave no line there, and go on in that block.
  * @param {PlainRange | null} target
  */
 export function emptiesBareLine(target) {
@@ -46,9 +46,9 @@ export function emptiesBareLine(target) {
   const isLine = beginsLine(beside(text, 0, 'previousSibling')) &&
     endsLine(beside(text, text.length, 'nextSibling'));
   const unit = isLine ? unitAt(text, 0) : null;
-  const last = unit?.nodes.at(-1);
-  return Boolean(last) && !unit.block && last.contains(text) &&
-    dom.isBlock(dom.neighbour(last, 'nextSibling'));
+  if (!unit?.nodes.at(-1)?.contains(text) || unit.block) return false;
+  return dom.isBlock(dom.neighbour(unit.nodes.at(-1), 'nextSibling') ??
+    dom.neighbour(unit.nodes[0], 'previousSibling'));
 }
 
 // The break that is all of a paragraph behind a point: it holds an empty line open.
