@@ -64,8 +64,34 @@ function heldBehind({ nodes }, line) {
   return !others.length && dom.isBreak(leaf) ? leaf : null;
 }
 
-/** @param {Element | null} line */
-function drop(line) {
+/**
+ * The break that ends the line of a point, less where it is all that holds that line open at the
+ * end of a paragraph; null for none.
+ * @param {Node} node
+ * @param {number} offset
+ * @returns {AnyNode}
+ */
+export function breakBehind(node, offset) {
+  const block = dom.blockOf(node);
+  const rest = document.createRange();
+  rest.setStart(node, offset);
+  rest.setEnd(block, block.childNodes.length);
+  let line = null;
+  for (const leaf of selection.leavesIn(rest)) {
+    if (!shows(leaf, rest)) continue;
+    if (line && dom.blockOf(leaf) === block) return line;
+    if (line) break;
+    if (!dom.isBreak(leaf)) return null;
+    line = leaf;
+  }
+  return beside(node, offset, 'previousSibling') ? line : null;
+}
+
+/**
+ * Drops a break with the inline elements that held nothing else.
+ * @param {Element | null} line
+ */
+export function dropBreak(line) {
   const parentNode = line?.parentNode;
   line?.remove();
   if (parentNode) dropEmptyInline(parentNode);
@@ -85,8 +111,8 @@ export function deleteBreak(line) {
   const held = unit && before && !after ? heldBehind(unit, line) : null;
   blanks.watch();
   if (before && after) blanks.trimEdges(before.node ?? before.object, after.node ?? after.object);
-  drop(held);
-  drop(line);
+  dropBreak(held);
+  dropBreak(line);
   if (before?.node) {
     const { data } = before.node;
     // The source's white space at the end of a line stays behind the caret.

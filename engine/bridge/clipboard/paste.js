@@ -3,6 +3,7 @@
 // Puts markup in at the selection, exactly as it stands: scripts, handlers, comments and objects
 // stay in it (nothing of it runs while a page is edited). The paragraph at the caret is cut in two
 // where blocks come in.
+import { breakBehind, dropBreak } from '../blocks/breaks.js';
 import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
 import { isListOf } from '../blocks/items.js';
 import { dropHolder } from '../blocks/typing.js';
@@ -97,16 +98,20 @@ function putBlocks(fragment, node, offset) {
   const top = cutAt(node, tops.length ? items : undefined);
   if (top?.tagName === 'DT') makeItems(fragment, top.parentNode);
   const last = fragment.lastChild;
+  // The blocks end the line that the caret is in.
+  const line = breakBehind(node, offset);
   if (!top) {
     const holder = holderAt(node, offset);
     insertAt(fragment, node, offset);
     dropHolderBreak(holder);
+    dropBreak(line);
     setCaretBehindBlocks(last, null);
     return;
   }
   const [before, after] = cutInTwo(node, offset, top);
   const first = [...fragment.childNodes].find((child) => !dom.isBlank(child));
   before.after(fragment);
+  dropBreak(line);
   dropEmptyInline(dom.lastLeaf(before));
   dropEmptyInline(dom.firstLeaf(after));
   // The source's line end behind the caret.
