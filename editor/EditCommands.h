@@ -15,6 +15,8 @@ struct EditCommand {
   QStringView key;
   const char *tooltip;
   EditingCommand command;
+  /// Further words by which the command is found in the list of commands; empty for none.
+  const char *words = "";
 };
 
 /// The ten formatting commands in toolbar order. The main window builds `tbrEdit` from this table
@@ -26,8 +28,8 @@ inline constexpr std::array<EditCommand, 10> EditCommands{{
     {u"left", Words::Mark("Align Left"), EditingCommand::JustifyLeft},
     {u"center", Words::Mark("Align Center"), EditingCommand::JustifyCenter},
     {u"right", Words::Mark("Align Right"), EditingCommand::JustifyRight},
-    {u"number", Words::Mark("Number"), EditingCommand::OrderList},
-    {u"bullet", Words::Mark("Bullet"), EditingCommand::UnorderList},
+    {u"number", Words::Mark("Number"), EditingCommand::OrderList, Words::Mark("numbered list")},
+    {u"bullet", Words::Mark("Bullet"), EditingCommand::UnorderList, Words::Mark("bullets list")},
     {u"outdent", Words::Mark("Outdent"), EditingCommand::Outdent},
     {u"indent", Words::Mark("Indent"), EditingCommand::Indent},
 }};

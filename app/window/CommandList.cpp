@@ -45,7 +45,7 @@ QList<NamedCommand> CommandsOf(const Menus &menus, const FormattingBar &formatti
     ToolBarAction *button = formatting.Buttons()[index];
     commands.append({Words::tr(row.tooltip),
                      button,
-                     {},
+                     Words::tr(row.words),
                      button->objectName(),
                      {CommandId::Editing, row.command}});
   }

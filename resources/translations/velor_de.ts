@@ -906,10 +906,6 @@ Das Programm muss beendet werden.</translation>
         <translation>Eigenschaften ...</translation>
     </message>
     <message>
-        <source>title language description</source>
-        <translation>titel sprache beschreibung</translation>
-    </message>
-    <message>
         <source>Page Properties</source>
         <translation>Seiteneigenschaften</translation>
     </message>
@@ -944,10 +940,6 @@ Das Programm muss beendet werden.</translation>
     <message>
         <source>Hyperlink Properties</source>
         <translation>Hyperlink-Eigenschaften</translation>
-    </message>
-    <message>
-        <source>size colour</source>
-        <translation>größe farbe</translation>
     </message>
     <message>
         <source>Fonts Properties</source>
@@ -4204,6 +4196,22 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>%1 stays as it is. What the saved page shows is kept as %2.</source>
         <translation>%1 bleibt, wie es ist. Was die gespeicherte Seite zeigt, ist als %2 aufgehoben.</translation>
+    </message>
+    <message>
+        <source>title language description charset encoding background style sheet css</source>
+        <translation>titel sprache beschreibung zeichensatz kodierung hintergrund stylesheet css</translation>
+    </message>
+    <message>
+        <source>size colour color</source>
+        <translation>größe farbe</translation>
+    </message>
+    <message>
+        <source>numbered list</source>
+        <translation>nummerierte liste</translation>
+    </message>
+    <message>
+        <source>bullets list</source>
+        <translation>aufzählung punkte liste</translation>
     </message>
 </context>
 <context>

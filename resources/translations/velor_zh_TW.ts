@@ -906,10 +906,6 @@ The program has to end.</source>
         <translation>屬性...</translation>
     </message>
     <message>
-        <source>title language description</source>
-        <translation>標題 語言 描述</translation>
-    </message>
-    <message>
         <source>Page Properties</source>
         <translation>網頁屬性</translation>
     </message>
@@ -944,10 +940,6 @@ The program has to end.</source>
     <message>
         <source>Hyperlink Properties</source>
         <translation>超連結屬性</translation>
-    </message>
-    <message>
-        <source>size colour</source>
-        <translation>大小 顏色</translation>
     </message>
     <message>
         <source>Fonts Properties</source>
@@ -4188,6 +4180,22 @@ Do you want to replace it?</source>
     <message>
         <source>%1 stays as it is. What the saved page shows is kept as %2.</source>
         <translation>%1 維持原狀。已儲存網頁所顯示的圖片保存為 %2。</translation>
+    </message>
+    <message>
+        <source>title language description charset encoding background style sheet css</source>
+        <translation>標題 語言 描述 字元集 編碼 背景 樣式表 css</translation>
+    </message>
+    <message>
+        <source>size colour color</source>
+        <translation>大小 顏色</translation>
+    </message>
+    <message>
+        <source>numbered list</source>
+        <translation>編號 清單</translation>
+    </message>
+    <message>
+        <source>bullets list</source>
+        <translation>項目符號 清單</translation>
     </message>
 </context>
 <context>

@@ -84,6 +84,8 @@ TEST_F(CommandPaletteTest, FindsACommandByOtherWordsForItBehindThoseNamedSo) {
   EXPECT_TRUE(pages.contains(QStringLiteral("New Document (Ctrl+N)")))
       << pages.join(u'|').toStdString();
   EXPECT_EQ(found("tab").constFirst(), QStringLiteral("Insert Table"));
+  EXPECT_EQ(found("list"), QStringList({QStringLiteral("Number"), QStringLiteral("Bullet")}));
+  EXPECT_EQ(found("style sheet"), QStringList(QStringLiteral("Page Properties")));
 }
 
 }  // namespace
