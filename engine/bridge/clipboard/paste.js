@@ -91,15 +91,15 @@ const itemTags = [['LI'], ['DT', 'DD']];
  * @param {DocumentFragment} fragment
  * @param {AnyNode} node
  * @param {number} offset
+ * @param {boolean} endsLine the blocks end the line of the point, so that its break goes
  */
-function putBlocks(fragment, node, offset) {
+function putBlocks(fragment, node, offset, endsLine) {
   const tops = [...fragment.children];
   const items = itemTags.find((tags) => tops.every(({ tagName }) => tags.includes(tagName)));
   const top = cutAt(node, tops.length ? items : undefined);
   if (top?.tagName === 'DT') makeItems(fragment, top.parentNode);
   const last = fragment.lastChild;
-  // The blocks end the line that the caret is in.
-  const line = breakBehind(node, offset);
+  const line = endsLine ? breakBehind(node, offset) : null;
   if (!top) {
     const holder = holderAt(node, offset);
     insertAt(fragment, node, offset);
@@ -239,6 +239,13 @@ function makeRoom(range, fragment) {
   dom.dropTakenIds(fragment);
 }
 
+// Nothing comes into what is closed, such as a rule: what is put in at a caret there goes behind.
+function leaveClosed() {
+  const { startContainer, collapsed } = selection.range();
+  const atom = collapsed ? dom.ancestor(startContainer, dom.isAtom) : null;
+  if (atom) setCaretBehind(atom);
+}
+
 /**
  * Puts a fragment in the place of the selection.
  * @param {DocumentFragment} fragment
@@ -246,6 +253,7 @@ function makeRoom(range, fragment) {
  */
 export const put = (fragment, open = closed) => {
   leaveSign();
+  leaveClosed();
   const replaces = !selection.range().collapsed;
   if (replaces) resolveAll();
   wrapParts(fragment, selection.range().startContainer);
@@ -268,7 +276,8 @@ function putJoined(fragment, open, range) {
   const isJoined = holdsBlock(fragment) && !dom.rawAt(range.startContainer);
   const ends = isJoined ? open : closed;
   const join = joinsFor(fragment, ends, range.startContainer, range.startOffset);
-  putAt(fragment, range);
+  // What comes behind an open end goes on in the last paragraph.
+  putAt(fragment, range, /^(closed|whole)$/.test(ends.end));
   join();
 }
 
@@ -294,15 +303,16 @@ export const linesOf = (node) => (node.firstChild && holdsBlock(node)
 /**
  * @param {DocumentFragment} fragment
  * @param {PlainRange} caret
+ * @param {boolean} endsLine
  */
-function putAt(fragment, { startContainer, startOffset }) {
+function putAt(fragment, { startContainer, startOffset }, endsLine) {
   if (dom.rawAt(startContainer)) {
     fragment.replaceChildren(linesOf(fragment).join('\n'));
   }
   /** @type {AnyNode} */
   const home = dom.isText(startContainer) ? startContainer.parentNode : startContainer;
   if (isListOf(home)) makeItems(fragment, home);
-  if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset);
+  if (holdsBlock(fragment)) putBlocks(fragment, startContainer, startOffset, endsLine);
   else putInline(fragment, startContainer, startOffset);
 }
 

@@ -393,6 +393,15 @@ TEST_F(Bridge, AppliesNothingInsideAnIslandThatIsClosedToEditing) {
   EXPECT_EQ(Text(QStringLiteral("velor.serialize()")), loaded);
 }
 
+TEST_F(Bridge, PutsNothingIntoARuleThatTheCaretIsIn) {
+  Load(QStringLiteral("<p>one</p><hr><p>two</p>"));
+  Evaluate(
+      QStringLiteral("document.getSelection().collapse(document.querySelector('hr'), 0);"
+                     "velor.pasteHTML('<h2>x</h2>')"));
+  EXPECT_EQ(Text(QStringLiteral("markup.read()")).toStdString(),
+            "<p>one</p><hr><h2>x|</h2><p>two</p>");
+}
+
 TEST_F(Bridge, NeverRunsAScriptThatIsPutIn) {
   Load(QStringLiteral("<p>one|</p>"));
   Evaluate(
