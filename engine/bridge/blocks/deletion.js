@@ -5,7 +5,7 @@
 // element, a line of the source) is *dropped*.
 import { cellOf, narrowed, showsAnything, spansUnits, unitAt } from './extent.js';
 import { dropEmptyBlocks, join } from './joining.js';
-import { keepsBlanks } from '../page/beside.js';
+import { beside, isBlank, keepsBlanks } from '../page/beside.js';
 import * as blanks from '../page/blanks.js';
 import * as dom from '../page/dom.js';
 import { dropEmptyInline, holdOpen, lineElement } from '../page/lines.js';
@@ -201,9 +201,23 @@ function deleteAcross(range, rest) {
   else dropEmptyBlocks(dom.blockOf(endContainer));
   mark.remove();
   holdOpen(first.container);
+  holdOpen(second.block);
   if (!begins) setToStart(rest, second);
   else if (!first.container.contains(rest.startContainer)) rest.setStart(first.container, 0);
   if (begins && first.container.isConnected) holdItemOpen(first.container, rest);
+}
+
+// White space behind a break begins a line and shows nothing: where the break goes it goes along.
+/** @param {Range} range */
+function takeInLineStart(range) {
+  const { endContainer, endOffset } = range;
+  const next = beside(endContainer, endOffset, 'nextSibling');
+  if (!isBlank(next) || keepsBlanks(next.node)) return;
+  const last = [...selection.leavesIn(range)]
+    .filter((leaf) => dom.isShown(leaf) && !isUntouched(leaf, range)).at(-1);
+  if (dom.isBreak(last)) {
+    range.setEnd(next.node, next.index + gapFrom(next, 'nextSibling').length);
+  }
 }
 
 /**
@@ -218,6 +232,7 @@ export function deleteRange(range) {
   // Moves along with what changes around it.
   const rest = inner.cloneRange();
   if (!thing) takeInSigns(rest);
+  if (!thing) takeInLineStart(rest);
   if (thing) deleteThing(thing, rest);
   else if (spansUnits(range)) deleteAcross(rest.cloneRange(), rest);
   else deleteInParagraph(rest);

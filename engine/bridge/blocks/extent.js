@@ -98,6 +98,9 @@ export function narrowed(range) {
   const first = () => result.startContainer.childNodes[result.startOffset];
   const last = () => result.endContainer.childNodes[result.endOffset - 1];
   while (enters(first())) result.setStart(first(), 0);
+  // The source's line end behind a paragraph is not of it.
+  const line = dom.isText(result.endContainer) ? result.endContainer : last();
+  if (dom.isIgnorable(line) && enters(line.previousSibling)) result.setEndBefore(line);
   while (enters(last())) result.setEnd(last(), last().childNodes.length);
   excludeNextParagraph(result);
   return result.collapsed ? range : result;
