@@ -75,6 +75,7 @@ const whereText = (status) => (view) => (takesFormats(view) ? status(view) : Sta
  * @returns {(value: string) => void}
  */
 const onUnits = (change) => (value) => {
+  openCaretLine();
   const saved = selection.save();
   changeUnits(saved, (units) => change(lists.wrapStrayText(readUnits(units), saved), value));
 };
@@ -239,7 +240,10 @@ export const commands = new Map([
   [Command.SetBackColor, character('backColor')],
   [Command.SetBlockFormat, {
     status: (view) => (view.units().some(blocks.takesFormat) ? Status.Enabled : Status.Disabled),
-    run: (value) => blocks.apply(value),
+    run(value) {
+      openCaretLine();
+      blocks.apply(value);
+    },
   }],
   [Command.SetFontName, character('fontName')],
   [Command.SetFontSize, character('fontSize')],
@@ -341,7 +345,7 @@ export const exec = (number, value = '') => {
     } else if (command.run) {
       history.step(number, () => {
         if (!view.range.collapsed) resolveAll();
-        command.run(String(value), openCaretLine() ? readView() : view);
+        command.run(String(value), view);
       });
     }
   });
