@@ -71,6 +71,15 @@ export function wrapParts(fragment, node) {
   }
 }
 
+// The inline elements around a node, the innermost first.
+/** @param {AnyNode} node */
+function inlinesAround(node) {
+  /** @type {AnyNode[]} */
+  const around = [];
+  for (let at = node; !dom.isBlock(at); at = at.parentNode) if (dom.isElement(at)) around.push(at);
+  return around;
+}
+
 /** @type {Record<string, string>} */
 const likes = { STRONG: 'B', EM: 'I', STRIKE: 'S' };
 const emphasis = 'b, strong, i, em, u, s, strike, code, sub, sup';
@@ -82,13 +91,31 @@ const kindOf = ({ tagName }) => likes[tagName] ?? tagName;
  * @param {AnyNode} node
  */
 export function dropDoubleEmphasis(fragment, node) {
-  /** @type {AnyNode[]} */
-  const around = [];
-  for (let at = node; !dom.isBlock(at); at = at.parentNode) around.push(at);
+  const around = inlinesAround(node);
   /** @param {Element} element */
   const adds = (element) => !around.some((outer) => kindOf(outer) === kindOf(element) &&
     (!element.attributes.length || outer.cloneNode(false).isEqualNode(element.cloneNode(false))));
   for (const element of fragment.querySelectorAll(emphasis)) {
     if (!adds(element)) dom.unwrap(element);
+  }
+}
+
+/**
+ * Takes inline elements off the fragment that are around the place that it goes to as well, the
+ * outermost first: a word that was cut from a FONT comes back into that, and its size is not
+ * enlarged twice.
+ * @param {DocumentFragment} fragment
+ * @param {AnyNode} node
+ */
+export function dropSharedContext(fragment, node) {
+  for (const outer of inlinesAround(node).reverse()) {
+    /** @type {AnyNode} */
+    const only = fragment.firstChild;
+    if (only !== fragment.lastChild || !dom.isInline(only) || dom.isAtom(only)) return;
+    const like = outer.cloneNode(false);
+    // The copy of an element has no id of the page's own.
+    if (!only.id) like.removeAttribute('id');
+    if (!like.isEqualNode(only.cloneNode(false))) return;
+    dom.unwrap(only);
   }
 }

@@ -8,7 +8,7 @@ import { deleteToLine, deleteToPoint } from '../blocks/deletion.js';
 import { isListOf } from '../blocks/items.js';
 import { dropHolder } from '../blocks/typing.js';
 import { joinToNeighbours } from '../formats/merging.js';
-import { dropDoubleEmphasis, makeItems, wrapParts } from './fitting.js';
+import { dropDoubleEmphasis, dropSharedContext, makeItems, wrapParts } from './fitting.js';
 import { closed, giveName, joinsFor } from './openEnds.js';
 import { noteArrival } from './pictures.js';
 import * as objects from '../objects/objects.js';
@@ -204,6 +204,7 @@ const linkAt = (node) => dom.ancestor(node, (at) => at.tagName === 'A' && at.hre
  */
 function putInline(fragment, node, offset) {
   const holder = holderAt(node, offset);
+  dropSharedContext(fragment, node);
   dropDoubleEmphasis(fragment, node);
   const { firstChild: first, lastChild: last } = fragment;
   const link = fragment.querySelector('a[href]') && linkAt(node);
@@ -277,7 +278,7 @@ function putJoined(fragment, open, range) {
   const ends = isJoined ? open : closed;
   const join = joinsFor(fragment, ends, range.startContainer, range.startOffset);
   // What comes behind an open end goes on in the last paragraph.
-  putAt(fragment, range, /^(closed|whole)$/.test(ends.end));
+  if (fragment.firstChild) putAt(fragment, range, /^(closed|whole)$/.test(ends.end));
   join();
 }
 
