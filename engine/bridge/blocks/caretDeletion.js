@@ -209,6 +209,22 @@ export function deletionAtCaret(range, side, target) {
   return line && (() => deleteBreak(line));
 }
 
+// True where an empty line up to the start of the next one is all that is selected.
+/**
+ * @param {Range} range
+ * @param {Unit | null} first the paragraph that it begins in
+ */
+function isEmptyLineAlone(range, first) {
+  if (!first || !dom.isHollow(first.home)) return false;
+  const { startContainer, endContainer, endOffset } = range;
+  const last = unitAt(endContainer, endOffset);
+  if (!last || sameUnit(first, last)) return false;
+  if (cellOf(startContainer) !== cellOf(endContainer)) return false;
+  const leaves = [...selection.leavesIn(range)]
+    .filter((leaf) => dom.isShown(leaf) && !isUntouched(leaf, range));
+  return leaves.length === 1 && isAtEdge(caretAt(endContainer, endOffset), last, 'start');
+}
+
 /**
  * What a deletion does where the line end between two paragraphs is all that is selected: an empty
  * line up to the start of the next one, or a paragraph's start with no paragraph before it in the
@@ -218,17 +234,12 @@ export function deletionAtCaret(range, side, target) {
 export function deletionOfLineEnd(range) {
   if (selection.control(range)) return null;
   const { startContainer, startOffset, endContainer, endOffset } = range;
-  const last = unitAt(endContainer, endOffset);
-  if (!last || !isAtEdge(caretAt(endContainer, endOffset), last, 'start')) return null;
-  if (showsAnything(range)) {
-    const first = unitAt(startContainer, startOffset);
-    const isLine = first && !sameUnit(first, last) && dom.isHollow(first.home) &&
-      cellOf(startContainer) === cellOf(endContainer);
-    const leaves = isLine ? [...selection.leavesIn(range)].filter(dom.isShown) : [];
-    const isAlone = leaves.filter((leaf) => !isUntouched(leaf, range)).length === 1;
-    return isAlone ? deletionAtEdge(first, 'end') : null;
-  }
-  return spansUnits(range) ? null : deletionAtEdge(last, 'start');
+  const first = unitAt(startContainer, startOffset);
+  if (isEmptyLineAlone(range, first)) return deletionAtEdge(first, 'end');
+  if (spansUnits(range) || showsAnything(range)) return null;
+  const unit = unitAt(endContainer, endOffset);
+  const caret = caretAt(endContainer, endOffset);
+  return unit && isAtEdge(caret, unit, 'start') ? deletionAtEdge(unit, 'start') : null;
 }
 
 // A rule or a closed block goes, and a list that held nothing else.
