@@ -78,6 +78,7 @@ const onUnits = (change) => (value) => {
   openCaretLine();
   const saved = selection.save();
   changeUnits(saved, (units) => change(lists.wrapStrayText(readUnits(units), saved), value));
+  openCaretLine();
 };
 
 // The kinds of rows.
@@ -243,6 +244,7 @@ export const commands = new Map([
     run(value) {
       openCaretLine();
       blocks.apply(value);
+      openCaretLine();
     },
   }],
   [Command.SetFontName, character('fontName')],
