@@ -108,15 +108,18 @@ export function deleteBreak(line) {
   const before = beside(parentNode, index, 'previousSibling');
   const after = beside(parentNode, index + 1, 'nextSibling');
   const unit = unitAt(parentNode, index);
-  const held = unit && before && !after ? heldBehind(unit, line) : null;
+  const isEmpty = endsLine(after);
+  const held = unit && before && isEmpty ? heldBehind(unit, line) : null;
   blanks.watch();
-  if (before && after) blanks.trimEdges(before.node ?? before.object, after.node ?? after.object);
+  if (before && !isEmpty) {
+    blanks.trimEdges(before.node ?? before.object, after.node ?? after.object);
+  }
   dropBreak(held);
   dropBreak(line);
   if (before?.node) {
     const { data } = before.node;
     // The source's white space at the end of a line stays behind the caret.
-    selection.setCaret(before.node, after ? data.length : data.length - tail(data).length);
+    selection.setCaret(before.node, data.length - (isEmpty ? tail(data).length : 0));
   } else if (before) {
     selection.setCaret(...selection.pointOf(selection.endOf(before.object)));
   } else {

@@ -3,7 +3,7 @@
 // Backspace and Delete at a caret where the engine would do it badly: at the edge of a paragraph,
 // which is joined to its neighbour, and beside a picture, an island and the like.
 import { breakIn, deleteBreak, emptiesBareLine } from './breaks.js';
-import { deleteAroundComments, deleteToLine, isUntouched } from './deletion.js';
+import { deleteAroundComments, deleteBareLine, deleteToLine, isUntouched } from './deletion.js';
 import {
   caretAt, cellOf, isAtEdge, isEmptyParagraph, sameUnit, showsAnything, spansUnits, unitAt,
 } from './extent.js';
@@ -192,7 +192,7 @@ export function deletionAtCaret(range, side, target) {
     const line = document.createRange();
     line.setStart(target.startContainer, target.startOffset);
     line.setEnd(target.endContainer, target.endOffset);
-    return keepingLooks(line, () => deleteToLine(line));
+    return keepingLooks(line, () => deleteBareLine(line));
   }
   if (isWithinText(range, side)) return null;
   const unit = unitsIn(range)[0];

@@ -314,6 +314,22 @@ export function deleteAroundComments(range) {
   blanks.watched({ inputType: 'delete' });
 }
 
+/**
+ * Deletes all that is seen of a line of bare text. The line stays as an empty one, behind the
+ * source's white space that it begins with.
+ * @param {Range} range
+ */
+export function deleteBareLine(range) {
+  blanks.watch();
+  const { startContainer } = range;
+  range.deleteContents();
+  dropEmptyInline(startContainer);
+  const line = dom.create('BR');
+  range.insertNode(line);
+  selection.setCaret(line.parentNode, selection.indexOf(line));
+  blanks.watched({ inputType: 'delete' });
+}
+
 // True where nothing but text of one block is in the range. A line of that stays as an empty one.
 /** @param {Range} range */
 function isBareLine(range) {
