@@ -165,7 +165,7 @@ function redraw() {
   noteRecords();
   // What has changed is read again when there is time; until then the waves stay where they are.
   if (!isStale) overlay.drawInView('waves', layers());
-  if (!wasRead) scheduleLook();
+  if (!wasRead || isStale) scheduleLook();
   wasRead = false;
 }
 overlay.addRedraw(redraw);

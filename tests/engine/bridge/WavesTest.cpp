@@ -85,6 +85,21 @@ TEST_F(Waves, TheWordThatIsBeingWrittenHasNoneUntilTheCaretLeavesIt) {
   EXPECT_TRUE(WavesCome(1));
 }
 
+TEST_F(Waves, AChangeBetweenALookAndItsDrawingIsLookedAtToo) {
+  Load(QStringLiteral("<p id=x>one</p>"));
+  ASSERT_TRUE(Comes(QStringLiteral("asked.length === 1")));
+  // The frame that the next look asks for; the line was judged, so that no answer is waited for.
+  Evaluate(
+      QStringLiteral("const frame = requestAnimationFrame;"
+                     "globalThis.requestAnimationFrame = (draw) => {"
+                     "  const isLook = /at look/.test(new Error().stack);"
+                     "  if (isLook && x.textContent === 'one') x.firstChild.appendData(' tqqo');"
+                     "  frame(draw);"
+                     "};"
+                     "getSelection().collapse(x.firstChild, 1)"));
+  EXPECT_TRUE(WavesCome(1));
+}
+
 TEST_F(Waves, OnlyWhatIsInSightIsAskedFor) {
   Load(QStringLiteral("<p>first qq</p>") + QStringLiteral("<p>line of many</p>").repeated(2000) +
        QStringLiteral("<p>last qq</p>"));
