@@ -207,6 +207,7 @@ function putInline(fragment, node, offset) {
   dropSharedContext(fragment, node);
   dropDoubleEmphasis(fragment, node);
   const { firstChild: first, lastChild: last } = fragment;
+  if (!last) return;
   const link = fragment.querySelector('a[href]') && linkAt(node);
   if (link) {
     // No link stands in another one.
