@@ -106,6 +106,10 @@ function replaceSelection() {
 // Cuts a block in two at the caret, which is at the start of the second one then.
 /** @param {AnyNode} block */
 function splitBlock(block) {
+  // A caret behind a closed part may be told as one behind the block.
+  if (!block.contains(selection.range().startContainer)) {
+    selection.setCaret(...selection.pointOf(selection.endOf(block)));
+  }
   const mark = document.createTextNode('');
   selection.range().insertNode(mark);
   dom.splitBefore(mark, block);
