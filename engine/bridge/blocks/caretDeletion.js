@@ -123,6 +123,13 @@ function isBesideNothing(caret, { nodes }, side) {
     .filter((leaf) => dom.isShown(leaf) && !isUntouched(leaf, rest));
   return leaves.every((leaf) => dom.isInline(leaf) && !dom.isBreak(leaf) && isNothing(leaf));
 }
+/** @param {PlainRange} target */
+function rangeOf({ startContainer, startOffset, endContainer, endOffset }) {
+  const range = document.createRange();
+  range.setStart(startContainer, startOffset);
+  range.setEnd(endContainer, endOffset);
+  return range;
+}
 /** @param {Neighbour} character */
 function rangeOfCharacter({ node, index }) {
   const range = document.createRange();
@@ -164,9 +171,7 @@ function leavesUnseen({ startContainer: text, startOffset, endContainer, endOffs
 function besideUnseen(caret, target) {
   if (!target) return null;
   if (dom.blockOf(target.startContainer) !== dom.blockOf(target.endContainer)) return null;
-  const range = document.createRange();
-  range.setStart(target.startContainer, target.startOffset);
-  range.setEnd(target.endContainer, target.endOffset);
+  const range = rangeOf(target);
   const { startContainer, startOffset } = caret;
   const side = range.comparePoint(startContainer, startOffset);
   if (side < 0) range.setStart(startContainer, startOffset);
@@ -189,9 +194,7 @@ export function deletionAtCaret(range, side, target) {
   const visible = besideUnseen(range, target);
   if (visible) return keepingLooks(visible, () => deleteAroundComments(visible));
   if (emptiesBareLine(target)) {
-    const line = document.createRange();
-    line.setStart(target.startContainer, target.startOffset);
-    line.setEnd(target.endContainer, target.endOffset);
+    const line = rangeOf(target);
     return keepingLooks(line, () => deleteBareLine(line));
   }
   if (isWithinText(range, side)) return null;
